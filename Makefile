@@ -1,0 +1,50 @@
+# Commands for everyday work. JOBS=n limits the number of compilers run at once.
+
+PRESET := release
+BUILD  := build/$(PRESET)
+DEMO   := build/demo
+SOURCES = $(shell find src tests bench fuzz -name '*.h' -o -name '*.cpp')
+
+.DEFAULT_GOAL := help
+.PHONY: help setup build demo test bench format format-check tidy clean
+
+help:
+	@echo "make demo          convert every recording in examples/ to C# and say where the macros are"
+	@echo "make test          build and run every test"
+	@echo "make bench         build and run the benchmarks"
+	@echo "make format        format all C++ sources"
+	@echo "make format-check  fail if a C++ source is not formatted"
+	@echo "make tidy          check the sources with clang-tidy"
+	@echo "make clean         remove everything that was built"
+
+setup:
+	@scripts/setup
+
+build: setup
+	cmake --preset $(PRESET)
+	cmake --build --preset $(PRESET) $(if $(JOBS),--parallel $(JOBS))
+
+demo: build
+	@mkdir -p $(DEMO)
+	$(BUILD)/bin/inkmacro convert examples/*.jsonl --target csharp --output $(DEMO)/
+	@echo
+	@echo "The macros made from examples/*.jsonl are in $(CURDIR)/$(DEMO)/csharp:"
+	@ls $(DEMO)/csharp
+
+test: build
+	ctest --preset $(PRESET)
+
+bench: build
+	scripts/bench
+
+format:
+	@clang-format -i $(SOURCES)
+
+format-check:
+	@clang-format --dry-run -Werror $(SOURCES)
+
+tidy: build
+	run-clang-tidy -quiet -p $(BUILD) -extra-arg=-Wno-unknown-warning-option $(if $(JOBS),-j $(JOBS)) '$(CURDIR)/src/.*'
+
+clean:
+	rm -rf build

@@ -1,0 +1,34 @@
+# Helpers which find sources and make test-like executables. A part without sources yields no
+# target, and the others do without it, so that the tree always configures.
+
+# Sets <variable> to the C++ sources below the given folders of the current directory.
+function(inkmacro_sources variable)
+    set(patterns ${ARGN})
+    list(TRANSFORM patterns APPEND "/*.cpp")
+    file(GLOB_RECURSE found CONFIGURE_DEPENDS ${patterns})
+    list(SORT found)
+    set(${variable} ${found} PARENT_SCOPE)
+endfunction()
+
+# Makes an executable which sees the internals of the module and knows where the program is:
+# inkmacro_developer_executable(<name> SOURCES <file>... [LIBRARIES <library>...])
+function(inkmacro_developer_executable name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+    if(NOT arg_SOURCES)
+        return()
+    endif()
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+    foreach(library inkmacro_module inkrecordfile inkhost)
+        if(TARGET ${library})
+            target_link_libraries(${name} PRIVATE ${library})
+        endif()
+    endforeach()
+    target_compile_definitions(${name} PRIVATE
+        INKMACRO_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+        INKMACRO_PROGRAM="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/inkmacro")
+    if(TARGET inkmacro-cli)
+        # The program and the module it loads are run, not linked, so no link edge orders the builds.
+        add_dependencies(${name} inkmacro-cli)
+    endif()
+endfunction()
