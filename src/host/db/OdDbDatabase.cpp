@@ -1,0 +1,50 @@
+#include "host/db/OdDbDatabase.h"
+
+/// Where an id points to. The object is null while only the handle has been heard of.
+struct OdDbStub
+{
+    OdDbHandle handle;
+    OdDbObjectPtr object;
+};
+
+OdDbHandle OdDbObjectId::getHandle() const
+{
+    return stub_ ? stub_->handle : OdDbHandle();
+}
+
+OdDbObjectPtr OdDbObjectId::openObject(bool openErased) const
+{
+    if (!stub_ || !stub_->object || (stub_->object->isErased() && !openErased))
+        return {};
+    return stub_->object;
+}
+
+OdDbDatabase::OdDbDatabase() = default;
+OdDbDatabase::~OdDbDatabase() = default;
+
+OdDbObjectId OdDbDatabase::getOdDbObjectId(const OdDbHandle& handle)
+{
+    if (handle.isNull())
+        return {};
+    std::unique_ptr<OdDbStub>& stub = stubs_[handle];
+    if (!stub)
+        stub = std::make_unique<OdDbStub>(OdDbStub{handle, {}});
+    return OdDbObjectId(stub.get());
+}
+
+OdDbObjectId OdDbDatabase::addObject(const OdDbHandle& handle, OdDbObjectPtr object)
+{
+    const OdDbObjectId id = getOdDbObjectId(handle);
+    object->objectId_ = id;
+    stubs_[handle]->object = std::move(object);
+    return id;
+}
+
+OdArray<OdDbObjectId> OdDbDatabase::objectIds() const
+{
+    OdArray<OdDbObjectId> ids;
+    for (const auto& [handle, stub] : stubs_)
+        if (stub->object)
+            ids.append(OdDbObjectId(stub.get()));
+    return ids;
+}

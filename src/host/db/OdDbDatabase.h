@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/db/OdDbObject.h"
+
+#include <map>
+#include <memory>
+
+/// A drawing: its objects by handle. Owns them and the entries behind their ids, so ids live as long as the drawing.
+class INKHOST_EXPORT OdDbDatabase
+{
+public:
+    OdDbDatabase();
+    ~OdDbDatabase();
+    OdDbDatabase(const OdDbDatabase&) = delete;
+    OdDbDatabase& operator=(const OdDbDatabase&) = delete;
+
+    /// The id of that handle, whether an object stands behind it or not; the null id for the null handle.
+    OdDbObjectId getOdDbObjectId(const OdDbHandle& handle);
+    /// Puts the object into the drawing under the handle and tells it its id. A former object there is let go.
+    OdDbObjectId addObject(const OdDbHandle& handle, OdSmartPtr<OdDbObject> object);
+
+    OdDbObjectId currentLayoutId() const { return currentLayoutId_; }
+    void setCurrentLayoutId(OdDbObjectId id) { currentLayoutId_ = id; }
+
+    /// All objects, by ascending handle.
+    OdArray<OdDbObjectId> objectIds() const;
+
+private:
+    std::map<OdDbHandle, std::unique_ptr<OdDbStub>> stubs_;
+    OdDbObjectId currentLayoutId_;
+};

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "host/db/OdDbObjectId.h"
+#include "host/rx/OdArray.h"
+
+#include <span>
+#include <variant>
+
+class OdDbObject;
+
+/// One piece of an object's data that a recording file can carry. The tables of these are the only list of fields:
+/// reading, writing and the schema of recording files follow them.
+struct OdDbField
+{
+    using Member = std::variant<bool OdDbObject::*, OdString OdDbObject::*, OdArray<OdDbObjectId> OdDbObject::*>;
+
+    template<class Value, class Object>
+    constexpr OdDbField(const char* key, const char* meaning, Value Object::*member)
+        : key(key), meaning(meaning), member(static_cast<Value OdDbObject::*>(member))
+    {
+    }
+
+    const char* key;     ///< the read operation's name
+    const char* meaning; ///< a phrase for the reference page
+    Member member;       ///< only for objects of the class in whose table the field stands
+};
+
+/// An object of a drawing. Plain data with the operations that the module reads; a class without data of its own is
+/// told by its descriptor alone.
+class INKHOST_EXPORT OdDbObject : public OdRxObject
+{
+public:
+    explicit OdDbObject(OdRxClass* cls) : class_(cls) {}
+
+    static OdRxClass* desc();
+    static std::span<const OdDbField> fields();
+    OdRxClass* isA() const override { return class_; }
+
+    OdDbObjectId objectId() const { return objectId_; }
+    OdDbHandle getDbHandle() const { return objectId_.getHandle(); }
+    bool isErased() const { return erased_; }
+    /// The objects that this one notifies of its changes, in the order in which they were attached.
+    const OdArray<OdDbObjectId>& getPersistentReactors() const { return reactors_; }
+
+private:
+    friend class OdDbDatabase;
+    OdRxClass* class_;
+    OdDbObjectId objectId_;
+    bool erased_ = false;
+    OdArray<OdDbObjectId> reactors_;
+};
+
+using OdDbObjectPtr = OdSmartPtr<OdDbObject>;

@@ -1,0 +1,28 @@
+#pragma once
+
+/// Points and vectors. Coordinates are drawing units; no operation changes them on the way into a statement.
+struct OdGePoint2d
+{
+    double x = 0.0;
+    double y = 0.0;
+    bool operator==(const OdGePoint2d&) const = default;
+};
+
+struct OdGeVector3d
+{
+    double x = 0.0;
+    double y = 0.0;
+    double z = 0.0;
+    bool operator==(const OdGeVector3d&) const = default;
+};
+
+struct OdGePoint3d
+{
+    double x = 0.0;
+    double y = 0.0;
+    double z = 0.0;
+    bool operator==(const OdGePoint3d&) const = default;
+
+    OdGePoint3d operator+(const OdGeVector3d& v) const { return {x + v.x, y + v.y, z + v.z}; }
+    OdGePoint3d operator-(const OdGeVector3d& v) const { return {x - v.x, y - v.y, z - v.z}; }
+};

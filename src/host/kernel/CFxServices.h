@@ -1,0 +1,39 @@
+#pragma once
+
+#include "host/db/OdDbDatabase.h"
+#include "host/kernel/CFxVariant.h"
+
+#include <QHash>
+
+/// The document that the user works in. Does not own the drawing.
+class CFxDocument
+{
+public:
+    explicit CFxDocument(OdDbDatabase* database) : database_(database) {}
+    OdDbDatabase* GetDatabase() const { return database_; }
+
+private:
+    OdDbDatabase* database_;
+};
+
+/// Settings of the running host, by name.
+class INKHOST_EXPORT CFxSystemServices
+{
+public:
+    /// 0 when the setting is not known.
+    std::int16_t GetInt16(const CFxString& name) const;
+    void SetInt16(const CFxString& name, std::int16_t value);
+
+    CFxDocument* GetActiveDocument() const { return activeDocument_; }
+    /// Not owned; null when no document is open.
+    void SetActiveDocument(CFxDocument* document) { activeDocument_ = document; }
+
+private:
+    QHash<QString, std::int16_t> settings_;
+    CFxDocument* activeDocument_ = nullptr;
+};
+
+/// The one set of services of the process.
+INKHOST_EXPORT CFxSystemServices* GetFxSystemServices();
+
+#define ACTIVE_DOCUMENT (GetFxSystemServices()->GetActiveDocument())
