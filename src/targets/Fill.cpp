@@ -1,0 +1,423 @@
+#include "targets/Fill.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+
+namespace inkmacro {
+
+namespace {
+
+__extension__ using Wide = unsigned __int128;
+
+struct Marker
+{
+    int begin;
+    int end; ///< -1: there is none
+    int number;
+    bool local; ///< has an L
+};
+
+/// The first marker at or behind `from`. Digits are what Qt takes for digits, so also the superscripts of Latin-1.
+Marker nextMarker(QStringView text, int from)
+{
+    const int size = static_cast<int>(text.size());
+    const auto digitAt = [&](int at) { return at < size ? text[at].digitValue() : -1; };
+    for (int begin = from; begin + 1 < size; ++begin) {
+        if (text[begin] != u'%') {
+            continue;
+        }
+        const bool local = text[begin + 1] == u'L';
+        const int digits = begin + (local ? 2 : 1);
+        const int first = digitAt(digits);
+        if (first == -1) {
+            continue;
+        }
+        const int second = digitAt(digits + 1);
+        if (second == -1) {
+            return {begin, digits + 1, first, local};
+        }
+        return {begin, digits + 2, 10 * first + second, local};
+    }
+    return {size, -1, 0, false};
+}
+
+bool hasMarker(QStringView text)
+{
+    return nextMarker(text, 0).end != -1;
+}
+
+QString filledByQt(const QString& text, Fill::Blanks value)
+{
+    return text.arg(QChar(u' '), value.count, QChar(u' '));
+}
+
+QString filledByQt(const QString& text, Fill::Long value)
+{
+    return text.arg(value.value, 0, 'f', 14, QChar(u' '));
+}
+
+QString filledByQt(const QString& text, Fill::Short value)
+{
+    return text.arg(value.value, 0, 'g', -1, QChar(u' '));
+}
+
+template<class T>
+QString filledByQt(const QString& text, T value)
+{
+    return text.arg(value);
+}
+
+template<class T>
+QString madeByQt(T value)
+{
+    return filledByQt(QStringLiteral("%1"), value);
+}
+
+constexpr auto powersOfTen = [] {
+    std::array<std::uint64_t, 20> powers{1};
+    for (std::size_t i = 1; i < powers.size(); ++i) {
+        powers[i] = 10 * powers[i - 1];
+    }
+    return powers;
+}();
+
+/// "00" to "99".
+constexpr auto digitPairs = [] {
+    std::array<char16_t, 200> pairs{};
+    for (std::size_t i = 0; i < 100; ++i) {
+        pairs[2 * i] = static_cast<char16_t>(u'0' + i / 10);
+        pairs[2 * i + 1] = static_cast<char16_t>(u'0' + i % 10);
+    }
+    return pairs;
+}();
+
+/// `value` times `factor`, computed exactly and then rounded, halves up. `value` is at least 0 and below 2^20, `factor`
+/// is at most 10^14: so the mantissa's product stays below 2^100.
+std::uint64_t scaled(double value, std::uint64_t factor)
+{
+    constexpr int storedBits = 52;
+    constexpr auto leadingBit = std::uint64_t{1} << storedBits;
+    const auto bits = std::bit_cast<std::uint64_t>(value);
+    const int shift = 1075 - static_cast<int>(bits >> storedBits); // value == mantissa / 2^shift
+    if (shift > 101) {
+        return 0; // as are all numbers without the leading bit
+    }
+    const std::uint64_t mantissa = (bits & (leadingBit - 1)) | leadingBit;
+    const Wide half = Wide{1} << (shift - 1);
+    return static_cast<std::uint64_t>((Wide{mantissa} * factor + half) >> shift);
+}
+
+constexpr int longDecimals = 14;
+
+bool isOrdinary(Fill::Long value)
+{
+    return std::fabs(value.value) < 1e15;
+}
+
+// The ranges with 0, 1, 2... decimals in the short form begin here.
+constexpr std::array<double, 10> shortRanges{1e5, 1e4, 1e3, 1e2, 1e1, 1e0, 1e-1, 1e-2, 1e-3, 1e-4};
+
+bool isOrdinary(Fill::Short value)
+{
+    const double size = std::fabs(value.value);
+    return size >= shortRanges.back() && size < 999999.5; // which is the first to be rounded up to 1e+06
+}
+
+// Most characters that the written value can have.
+
+qsizetype room(Fill::Blanks value)
+{
+    return value.count;
+}
+
+qsizetype room(QStringView value)
+{
+    return value.size();
+}
+
+qsizetype room(QLatin1String value)
+{
+    return value.size();
+}
+
+qsizetype room(qlonglong)
+{
+    return 20;
+}
+
+qsizetype room(qulonglong)
+{
+    return 20;
+}
+
+qsizetype room(Fill::Long value)
+{
+    return 1 + (isOrdinary(value) ? 16 : 309) + 1 + longDecimals;
+}
+
+qsizetype room(Fill::Short)
+{
+    return sizeof "-1.23457e-308";
+}
+
+// Writers put a value at `out` and return its end.
+
+QChar* write(QChar* out, Fill::Blanks value)
+{
+    return std::fill_n(out, value.count, QChar(u' '));
+}
+
+QChar* write(QChar* out, QStringView value)
+{
+    return std::copy(value.begin(), value.end(), out);
+}
+
+QChar* write(QChar* out, QLatin1String value)
+{
+    return std::transform(value.begin(), value.end(), out, [](char c) { return QLatin1Char(c); });
+}
+
+/// Writes the last `width` digits, with leading zeros.
+QChar* writeDigits(QChar* out, std::uint64_t value, int width)
+{
+    QChar* const end = out + width;
+    QChar* at = end;
+    for (; width >= 2; width -= 2) {
+        const std::uint64_t pair = value % 100;
+        value /= 100;
+        *--at = digitPairs[2 * pair + 1];
+        *--at = digitPairs[2 * pair];
+    }
+    if (width == 1) {
+        *--at = static_cast<char16_t>(u'0' + value % 10);
+    }
+    return end;
+}
+
+QChar* write(QChar* out, qulonglong value)
+{
+    std::size_t width = 1;
+    while (width < powersOfTen.size() && value >= powersOfTen[width]) {
+        ++width;
+    }
+    return writeDigits(out, value, static_cast<int>(width));
+}
+
+QChar* write(QChar* out, qlonglong value)
+{
+    auto size = static_cast<qulonglong>(value);
+    if (value < 0) {
+        *out++ = u'-';
+        size = 0 - size; // right for the lowest number too, which has no positive twin
+    }
+    return write(out, size);
+}
+
+QChar* write(QChar* out, Fill::Long value)
+{
+    if (!isOrdinary(value)) {
+        return write(out, QStringView(madeByQt(value)));
+    }
+    // A number that is rounded to zero keeps its sign. The negative zero has none, and is not below zero.
+    if (value.value < 0) {
+        *out++ = u'-';
+    }
+    constexpr std::uint64_t one = powersOfTen[longDecimals];
+    const double size = std::fabs(value.value);
+    auto whole = static_cast<qulonglong>(size);
+    std::uint64_t fraction = scaled(size - static_cast<double>(whole), one);
+    if (fraction == one) {
+        fraction = 0;
+        ++whole;
+    }
+    out = write(out, whole);
+    *out++ = u'.';
+    return writeDigits(out, fraction, longDecimals);
+}
+
+QChar* write(QChar* out, Fill::Short value)
+{
+    if (value.value == 0) {
+        *out++ = u'0'; // the negative zero has no sign here either
+        return out;
+    }
+    if (!isOrdinary(value)) {
+        return write(out, QStringView(madeByQt(value)));
+    }
+    if (value.value < 0) {
+        *out++ = u'-';
+    }
+    const double size = std::fabs(value.value);
+    std::size_t decimals = 0;
+    while (size < shortRanges[decimals]) {
+        ++decimals;
+    }
+    std::uint64_t digits = scaled(size, powersOfTen[decimals]);
+    for (; decimals > 0 && digits % 10 == 0; --decimals) {
+        digits /= 10;
+    }
+    out = write(out, qulonglong{digits / powersOfTen[decimals]});
+    if (decimals > 0) {
+        *out++ = u'.';
+        out = writeDigits(out, digits, static_cast<int>(decimals));
+    }
+    return out;
+}
+
+/// A text of at most `most` characters, made by a writer.
+template<class Writer>
+QString written(qsizetype most, Writer writer)
+{
+    QString text(static_cast<int>(most), Qt::Uninitialized);
+    QChar* const begin = text.data();
+    text.truncate(static_cast<int>(writer(begin) - begin));
+    return text;
+}
+
+// Whether a value, put behind an open end, leaves no marker there that was none before.
+
+bool isClosing(Fill::Blanks)
+{
+    return true;
+}
+
+bool isClosing(QStringView value)
+{
+    return !value.isEmpty() && value.front() != u'L' && value.front().digitValue() == -1;
+}
+
+bool isClosing(QLatin1String value)
+{
+    return !value.isEmpty() && value.front() != u'L' && QChar(value.front()).digitValue() == -1;
+}
+
+template<class T>
+bool isClosing(T)
+{
+    return false;
+}
+
+} // namespace
+
+Template::Template(const char* latin1) : text_(QString::fromLatin1(latin1))
+{
+    std::vector<Marker> markers;
+    std::vector<int> numbers;
+    for (Marker next = nextMarker(text_, 0); next.end != -1; next = nextMarker(text_, next.end)) {
+        markers.push_back(next);
+        numbers.push_back(next.number);
+    }
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    ranks_.resize(numbers.size());
+
+    int from = 0;
+    bool openMarker = false;
+    int before = 0;
+    const auto addText = [&](int end) {
+        if (end > from) {
+            pieces_.push_back({from, end - from, noMarker});
+        }
+    };
+    for (const Marker& marker : markers) {
+        const auto rank = std::lower_bound(numbers.begin(), numbers.end(), marker.number) - numbers.begin();
+        const QStringView text = QStringView(text_).mid(from, marker.begin - from);
+        const bool openText = text.endsWith(u'%') || text.endsWith(u"%L");
+        const bool open = text.isEmpty() ? openMarker && before > marker.number : openText;
+        ++ranks_[rank].places;
+        ranks_[rank].exposed |= open;
+        local_ |= marker.local;
+        addText(marker.begin);
+        pieces_.push_back({marker.begin, marker.end - marker.begin, static_cast<int>(rank)});
+        from = marker.end;
+        openMarker = marker.end - marker.begin == 2;
+        before = marker.number;
+    }
+    addText(text_.size());
+}
+
+Fill& Fill::text(QStringView value)
+{
+    percent_ = percent_ || value.contains(u'%');
+    return add(value);
+}
+
+Fill& Fill::text(QLatin1String value)
+{
+    percent_ = percent_ || value.contains(QLatin1Char('%'));
+    return add(value);
+}
+
+QString Fill::str() const
+{
+    if (!template_) {
+        return {};
+    }
+    const int used = std::min(values_.size(), static_cast<int>(template_->ranks_.size()));
+    if (used == 0) {
+        return template_->text_;
+    }
+    return fitsOnePass(used) ? inOnePass(used) : valueByValue();
+}
+
+/// Whether no value makes or changes a marker for the values behind it.
+bool Fill::fitsOnePass(int used) const
+{
+    if (template_->local_ || percent_) {
+        return false;
+    }
+    for (int i = 0; i < used; ++i) {
+        const auto isClosed = [](const auto& value) { return isClosing(value); };
+        if (template_->ranks_[i].exposed && !std::visit(isClosed, values_[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+QString Fill::inOnePass(int used) const
+{
+    qsizetype most = template_->text_.size();
+    for (int i = 0; i < used; ++i) {
+        most += template_->ranks_[i].places * std::visit([](const auto& value) { return room(value); }, values_[i]);
+    }
+    return written(most, [&](QChar* out) {
+        const QStringView text = template_->text_;
+        for (const Template::Piece& piece : template_->pieces_) {
+            if (piece.rank != Template::noMarker && piece.rank < used) {
+                out = std::visit([out](const auto& value) { return write(out, value); }, values_[piece.rank]);
+            } else {
+                out = write(out, text.mid(piece.from, piece.length));
+            }
+        }
+        return out;
+    });
+}
+
+/// The slow way: reads the whole text again for every value.
+QString Fill::valueByValue() const
+{
+    QString text = template_->text_;
+    for (const Value& value : values_) {
+        if (!hasMarker(text)) {
+            break;
+        }
+        text = std::visit([&text](const auto& held) { return filledByQt(text, held); }, value);
+    }
+    return text;
+}
+
+QString FormatLong(double value)
+{
+    return written(room(Fill::Long{value}), [value](QChar* out) { return write(out, Fill::Long{value}); });
+}
+
+QString FormatShort(double value)
+{
+    return written(room(Fill::Short{value}), [value](QChar* out) { return write(out, Fill::Short{value}); });
+}
+
+} // namespace inkmacro

@@ -1,0 +1,128 @@
+#pragma once
+
+#include "host/db/OdGe.h"
+
+#include <QString>
+#include <QStringView>
+#include <QVarLengthArray>
+
+#include <variant>
+#include <vector>
+
+namespace inkmacro {
+
+/// A Latin-1 literal, cut into plain text and markers. Markers are those of QString::arg: `%`, an optional `L` for the
+/// locale's form of a number, one or two digits.
+class Template
+{
+public:
+    explicit Template(const char* latin1);
+
+private:
+    friend class Fill;
+
+    /// A run of text_: plain text or a marker.
+    struct Piece
+    {
+        int from;
+        int length;
+        int rank; ///< of the marker, noMarker for plain text
+    };
+
+    /// One marker number. The numbers are ranked upwards from 0; values go to the ranks in turn.
+    struct Rank
+    {
+        int places = 0;
+        /// Some place follows an open end: text or a later marker to which digits could be added. A value which starts
+        /// with a digit would make another marker there.
+        bool exposed = false;
+    };
+
+    static constexpr int noMarker = -1;
+
+    QString text_;
+    std::vector<Piece> pieces_;
+    std::vector<Rank> ranks_;
+    bool local_ = false; ///< some marker has an L
+};
+
+/// Fills one template. Values are taken in the order given: each goes to all places of the lowest-numbered marker that
+/// is left. Values without a marker are dropped; markers without a value stay as they are. The outcome is exactly what
+/// a chain of QString::arg calls makes of the literal, also where a value itself holds markers for the values behind
+/// it; but Qt's warnings about missing markers are not printed.
+///
+/// Texts are kept as views until str() is called, so a builder must not outlive the full expression it stands in.
+class Fill
+{
+public:
+    /// A null template yields empty text.
+    explicit Fill(const Template* words) : template_(words) {}
+    /// A statement's first two values are its indentation and the line end.
+    Fill(const Template* words, unsigned level, QStringView lineEnd) : template_(words) { indent(level).text(lineEnd); }
+    Fill(const Fill&) = delete;
+    Fill& operator=(const Fill&) = delete;
+
+    /// Four blanks a level, but one blank at level 0.
+    Fill& indent(unsigned level) { return add(Blanks{level == 0 ? 1 : static_cast<int>(4 * level)}); }
+
+    Fill& text(QStringView value);
+    Fill& text(QLatin1String value);
+    Fill& text(const QString& value) { return text(QStringView(value)); }
+
+    Fill& number(int value) { return add(qlonglong{value}); }
+    Fill& number(long value) { return add(qlonglong{value}); }
+    Fill& number(qlonglong value) { return add(value); }
+    Fill& number(unsigned value) { return add(qulonglong{value}); }
+    Fill& number(unsigned long value) { return add(qulonglong{value}); }
+    Fill& number(qulonglong value) { return add(value); }
+
+    /// In the form of FormatLong.
+    Fill& real(double value) { return add(Long{value}); }
+    /// The three coordinates in the form of FormatLong.
+    Fill& point(const OdGePoint3d& value) { return real(value.x).real(value.y).real(value.z); }
+    /// In the form of FormatShort.
+    Fill& shortReal(double value) { return add(Short{value}); }
+
+    QString str() const;
+    operator QString() const { return str(); }
+
+    // The forms in which values are kept, besides Qt's own types.
+    struct Blanks
+    {
+        int count;
+    };
+    struct Long
+    {
+        double value;
+    };
+    struct Short
+    {
+        double value;
+    };
+
+private:
+    using Value = std::variant<Blanks, QStringView, QLatin1String, qlonglong, qulonglong, Long, Short>;
+
+    template<class T>
+    Fill& add(T value)
+    {
+        values_.append(Value(value));
+        return *this;
+    }
+
+    // `used` is how many values have a marker.
+    bool fitsOnePass(int used) const;
+    QString inOnePass(int used) const;
+    QString valueByValue() const;
+
+    const Template* template_;
+    QVarLengthArray<Value, 16> values_;
+    bool percent_ = false; ///< some text holds '%'
+};
+
+/// Fixed notation with 14 decimals, halves away from zero: "1.50000000000000".
+QString FormatLong(double value);
+/// Six significant digits, scientific notation from 1e+06 up and below 1e-04: "0.5", "1.23457e+06".
+QString FormatShort(double value);
+
+} // namespace inkmacro
