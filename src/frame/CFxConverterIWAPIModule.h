@@ -1,0 +1,34 @@
+#pragma once
+
+#include "host/kernel/CFxActions.h"
+#include "host/rx/OdRxModule.h"
+
+class OdDbObject;
+
+/// Status codes of a conversion.
+enum CFxStatus : std::int32_t
+{
+    kFxSuccess = 5100,
+    kFxFailure = -5001,
+};
+
+/// One pair of tag and value that a snapshot adds.
+using CFxSnapshotRecord = CFxVariantCollectionElement;
+
+/// The macro writer as the host sees it: the object that `odrxCreateModuleObject` gives. Both operations run on the
+/// caller's thread and must not overlap.
+class CFxConverterIWAPIModule : public OdRxModule
+{
+public:
+    /// Writes the recording as a macro to `path` and the project around it beside that file.
+    /// `language`: 0 C++ add-in, 1 C#, 2 JavaScript page, 3 VB.NET, 4 C++ COM add-in, 5 VBA. `mode`: 1 replays prompts
+    /// and selections. `context` is handed to the getters of property records as it is.
+    /// Gives kFxSuccess or kFxFailure; after a failure in the recording no macro file is left.
+    virtual std::int32_t ConvertRecording(const CFxString& path, std::uint32_t language, std::uint32_t mode,
+                                          CFxValueContext context, const CFxActionArray& actions) = 0;
+
+    /// Appends to `target` what the host's property sheet does not show of the object. The first snapshot after a
+    /// conversion also notes the drawing's current layout for the head of the next macro.
+    /// Raises OdError_NotThatKindOfClass.
+    virtual void TakeSnapshot(const OdDbObject* object, std::vector<CFxSnapshotRecord>& target) = 0;
+};

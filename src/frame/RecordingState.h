@@ -1,0 +1,14 @@
+#pragma once
+
+#include "host/kernel/CFxString.h"
+
+#include <cstdint>
+
+/// The layout that was active when recording began: noted by the first snapshot, read by the head of the next macro,
+/// put back right after it. Process-wide and unguarded, which is one reason why conversions must not overlap.
+extern CFxString RecordingSheetName;
+extern bool RecordingInModel;
+
+/// The host setting that decides the byte order mark and the form of type names: a language code of a conversion. It
+/// need not be the code of the conversion that runs.
+std::int16_t RecordingLanguage();

@@ -1,0 +1,143 @@
+// The children of a command as one block.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "host/db/OdDbClasses.h"
+#include "host/kernel/CFxServices.h"
+#include "objects/CFxConverterIWAPIObject.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+/// Kinds of custom action whose place in a command matters to the block around it.
+enum CustomActionKind : std::int32_t
+{
+    kPolyline = 16,
+    kViewBackground = 41,
+    kViewport = 46,
+};
+
+/// Classes whose objects are finished by a custom action of the same command; it is told their variable.
+bool isFinishedByCustomAction(const OdString& className)
+{
+    static constexpr std::array names{"AcDbOle2Frame",       "AcDbPolyline", "AcDbHatch",
+                                      "AcDbViewTableRecord", "AcDbRegion",   "AcDbRasterImage"};
+    return std::any_of(names.begin(), names.end(), [&](const char* name) { return className == QLatin1String(name); });
+}
+
+/// A style that loads a file of shapes. The host's own file of line type shapes does not count.
+bool isShapeFileStyle(const CFxObjectAdded& added)
+{
+    if (added.GetObjectClass() != OdDbTextStyleTableRecord::desc() || !ACTIVE_DOCUMENT)
+        return false;
+    const OdDbObjectId id = ACTIVE_DOCUMENT->GetDatabase()->getOdDbObjectId(added.GetHandle());
+    const auto style = odrxCast<OdDbTextStyleTableRecord>(id.openObject().get());
+    return style && style->isShapeFile() && !CFxString(style->fileName()).equalNoCase("LTypeShp.shx");
+}
+
+} // namespace
+
+struct CFxConverterIWAPIImpl::CommandState
+{
+    std::vector<ActionEntry> added;
+    QString prefix;
+    /// Variables of the objects that a custom action of this command finishes.
+    std::vector<QString> names;
+    std::size_t nextName = 0;
+    QStringList statements;
+    bool noBlock = false;
+    bool unnamedTarget = false;
+    bool shapeStyle = false;
+    bool allEmpty = true;
+};
+
+std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CFxString&,
+                                                   const CFxActionArray& children)
+{
+    CommandState state;
+    RegisterChildren(children, state);
+    DeclareChildren(state);
+    state.prefix += EmitBlockBegin();
+
+    const std::uint32_t outerCounter = std::exchange(UniqueCounter, 0);
+    ConvertChildren(children, state);
+
+    if (!state.noBlock && !state.unnamedTarget && !state.allEmpty && !state.shapeStyle)
+        stream << state.prefix;
+    for (const QString& statement : state.statements)
+        stream << statement;
+    // An unnamed target leaves the level where the block's begin put it: what follows stands one level deeper.
+    if (!state.noBlock && !state.unnamedTarget) {
+        const QString end = EmitBlockEnd() + EmitCommandTrailer();
+        if (!state.allEmpty && !state.shapeStyle)
+            stream << end;
+    }
+    UniqueCounter = outerCounter;
+    return kFxSuccess;
+}
+
+/// All added children are registered before the first statement is made, so a child may refer to a later one.
+void CFxConverterIWAPIImpl::RegisterChildren(const CFxActionArray& children, CommandState& state)
+{
+    for (const OdRxObjectPtr& child : children) {
+        const auto added = odrxQuery<CFxObjectAdded>(child.get());
+        if (!added)
+            continue;
+        OdRxClass* const cls = added->GetObjectClass();
+        Objects();
+        if (!IsSupportedClass(cls->name()))
+            continue;
+        if (cls == OdDbMText::desc()) {
+            OdDbObjectId leader;
+            GetNoteLeader(leader, added->GetHandle());
+            if (!leader.isNull())
+                continue;
+        }
+        state.added.push_back(RegisterObject(added->GetHandle(), cls));
+    }
+}
+
+void CFxConverterIWAPIImpl::DeclareChildren(CommandState& state)
+{
+    for (const ActionEntry& entry : state.added) {
+        state.prefix += EmitVariableDeclaration(entry);
+        if (!isFinishedByCustomAction(entry.cls->name()))
+            continue;
+        const CFxString name = VariableName(entry);
+        if (!name.isEmpty())
+            state.names.push_back(name);
+    }
+}
+
+void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, CommandState& state)
+{
+    for (const OdRxObjectPtr& child : children) {
+        QString current;
+        if (const auto custom = odrxQuery<CFxCustomAction>(child.get())) {
+            const std::int32_t kind = custom->GetKind();
+            if (!state.names.empty())
+                current = state.names.back();
+            if (kind == kViewBackground) {
+                // Backgrounds and objects pair up in order; a surplus background stays with the last object.
+                if (state.names.size() > 1 && state.nextName < state.names.size())
+                    current = state.names[state.nextName++];
+                state.unnamedTarget = current.isEmpty();
+            }
+            if (kind == kPolyline || kind == kViewport) {
+                state.noBlock = true;
+                --IndentLevel;
+            }
+        }
+        if (ConvertAction(child, current) != kFxSuccess)
+            return;
+        if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
+            state.shapeStyle = true;
+        if (!current.isEmpty()) {
+            state.allEmpty = false;
+            state.statements.append(current);
+        }
+    }
+}

@@ -1,0 +1,154 @@
+// One conversion, from the output path to the project files.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/RecordingState.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "targets/texts.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+/// The byte order mark follows the host's setting and not the target: the codes of the two C++ targets, 0 and 4, ask
+/// for it.
+bool wantsByteOrderMark()
+{
+    return (RecordingLanguage() & ~4) == 0;
+}
+
+bool isSysVar(const OdRxObjectPtr& action)
+{
+    return !odrxQuery<CFxSysVarChanged>(action.get()).isNull();
+}
+
+} // namespace
+
+CFxConverterIWAPIImpl::CFxConverterIWAPIImpl(inkmacro::Target target, std::uint32_t mode)
+    : mode(mode), objectConverter(CreateObjectConverter(target, this))
+{
+}
+
+CFxConverterIWAPIImpl::~CFxConverterIWAPIImpl() = default;
+
+std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActionArray& actions)
+{
+    const QDir directory(QFileInfo(path).path());
+    if (!directory.exists() && !directory.mkpath("."))
+        return kFxFailure;
+
+    QFile file(path);
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    stream.setGenerateByteOrderMark(wantsByteOrderMark());
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return kFxFailure;
+
+    IndentLevel = 0;
+    const bool hasSysVar = std::any_of(actions.begin(), actions.end(), isSysVar);
+    stream << EmitFileHeader(inkmacro::projectName(path), hasSysVar);
+    RecordingSheetName = CFxString();
+    RecordingInModel = true;
+
+    std::int32_t status = kFxSuccess;
+    for (unsigned i = 0; i < actions.length() && status == kFxSuccess; ++i)
+        if (actions[i])
+            status = ConvertTopLevel(stream, actions[i]);
+
+    // Written after a failure too, when the level may be out of balance: nobody reads that text.
+    stream << EmitFileFooter();
+    stream.flush();
+    if (stream.status() != QTextStream::Ok || file.error() != QFileDevice::NoError)
+        status = kFxFailure;
+    file.close();
+
+    if (status != kFxSuccess) {
+        file.remove();
+        return status;
+    }
+    return EmitProjectFiles(path);
+}
+
+std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action)
+{
+    if (const auto command = odrxQuery<CFxUserCommand>(action.get())) {
+        try {
+            const OdResBufPtr line = command->GetCommand();
+            return ConvertCommand(stream, line ? line->getString() : OdString(), command->GetActions());
+        } catch (const OdError&) {
+            return kFxFailure;
+        }
+    }
+    if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
+        stream << EmitVariableDeclaration(RegisterObject(added->GetHandle(), added->GetObjectClass()));
+
+    QString text;
+    const std::int32_t status = ConvertAction(action, text);
+    if (status == kFxSuccess)
+        stream << text;
+    return status;
+}
+
+std::int32_t CFxConverterIWAPIImpl::ConvertAction(OdRxObjectPtr action, QString& text)
+{
+    const OdRxObject* const object = action.get();
+    try {
+        if (auto interaction = odrxQuery<CFxUserInteraction>(object))
+            return mode == 1 ? ConvertInteraction(std::move(interaction), text) : kFxSuccess;
+        if (auto added = odrxQuery<CFxObjectAdded>(object))
+            return Objects().ConvertObjectAdded(std::move(added), text);
+        if (const auto modified = odrxQuery<CFxObjectModified>(object))
+            return ConvertModified(modified, text);
+        if (auto variable = odrxQuery<CFxSysVarChanged>(object)) {
+            const bool wanted = mode == 1 || variable->GetName().equalNoCase("CVPORT");
+            return wanted ? ConvertSysVar(std::move(variable), text) : kFxSuccess;
+        }
+        if (auto property = odrxQuery<CFxPropertyChanged>(object))
+            return Objects().ConvertPropertyChanged(std::move(property), text);
+        if (auto selection = odrxQuery<CFxUserSelection>(object))
+            return mode == 1 ? ConvertSelection(std::move(selection), text) : kFxSuccess;
+        if (auto custom = odrxQuery<CFxCustomAction>(object))
+            return ConvertCustomAction(std::move(custom), text);
+    } catch (const OdError&) {
+        return kFxFailure;
+    }
+    return kFxFailure;
+}
+
+/// A layer that the recording did not make has no variable yet, although a statement is about to change it.
+std::int32_t CFxConverterIWAPIImpl::ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text)
+{
+    OdRxClass* const cls = action->GetObjectClass();
+    const CFxString className = cls->name();
+    const OdDbHandle handle = action->GetHandle();
+    if (IsSupportedClass(className) && className.equalNoCase("AcDbLayerTableRecord") && !FindEntry(handle)) {
+        RegisterObject(handle, cls);
+        CFxString name;
+        ResolveVariable(handle, cls, name);
+        if (!name.isEmpty())
+            text += EmitGetLayer(name);
+    }
+    return Objects().ConvertObjectModified(action, text);
+}
+
+CFxConverterIWAPIObject& CFxConverterIWAPIImpl::Objects() const
+{
+    if (!objectConverter)
+        throw OdError(eNullObjectPointer);
+    return *objectConverter;
+}
+
+bool CFxConverterIWAPIImpl::WriteTextFile(const QString& path, const QString& text, bool byteOrderMark)
+{
+    QFile file(path);
+    const bool opened = file.open(QIODevice::WriteOnly | QIODevice::Truncate);
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    stream.setGenerateByteOrderMark(byteOrderMark);
+    if (opened)
+        stream << text;
+    return opened;
+}

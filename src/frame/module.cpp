@@ -1,0 +1,48 @@
+// The module object and the library's exports.
+
+#include "frame/CFxConverterIWAPI.h"
+#include "objects/snapshot.h"
+
+namespace {
+
+class MacroWriterModule final : public CFxConverterIWAPIModule
+{
+public:
+    static OdRxClass* desc()
+    {
+        static OdRxClass* const descriptor = OdRxClass::define("CFxConverterIWAPIModule", OdRxModule::desc());
+        return descriptor;
+    }
+    OdRxClass* isA() const override { return desc(); }
+
+    void initApp() override {}
+    void uninitApp() override {}
+
+    std::int32_t ConvertRecording(const CFxString& path, std::uint32_t language, std::uint32_t mode,
+                                  CFxValueContext context, const CFxActionArray& actions) override
+    {
+        const auto converter = CreateConverter(language, mode, context);
+        return converter ? converter->Convert(path, actions) : kFxFailure;
+    }
+
+    void TakeSnapshot(const OdDbObject* object, std::vector<CFxSnapshotRecord>& target) override
+    {
+        ::TakeSnapshot(object, target);
+    }
+};
+
+} // namespace
+
+extern "C" {
+
+/// A new module object; the caller owns its one reference.
+Q_DECL_EXPORT OdRxModule* odrxCreateModuleObject(const char*)
+{
+    return new MacroWriterModule;
+}
+
+Q_DECL_EXPORT unsigned odrxGetAPIVersion()
+{
+    return odrxApiVersion;
+}
+}

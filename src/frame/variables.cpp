@@ -1,0 +1,123 @@
+// The variables that the generated code names its objects by.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/RecordingState.h"
+#include "host/db/OdDbClasses.h"
+#include "host/kernel/CFxServices.h"
+#include "targets/apiTypes.h"
+
+namespace {
+
+/// C++ keeps objects of these types as raw pointers, all others as smart pointers.
+CFxString cppTypeName(const QString& type)
+{
+    const QString smart = QStringLiteral("iw%1_ptr").arg(type);
+    if (smart == QLatin1String("iwRegion_ptr") || smart == QLatin1String("iwViewTile_ptr"))
+        return CFxString(QStringLiteral("iw%1_c*").arg(type));
+    return CFxString(smart);
+}
+
+CFxString numbered(CFxString type, std::uint32_t ordinal)
+{
+    type.makeLower();
+    return CFxString(type.toQString() + QString::number(ordinal));
+}
+
+} // namespace
+
+void StripPointerSuffixes(CFxString& typeName)
+{
+    typeName.replace("_ptr", "");
+    typeName.replace("_c*", "");
+}
+
+std::int32_t CFxConverterIWAPIImpl::GetApiTypeName(const OdRxClass* cls, CFxString& typeName,
+                                                   CFxString& secondName) const
+{
+    const inkmacro::ApiType* const type = inkmacro::FindApiType(cls->name());
+    if (!type)
+        return kFxFailure;
+    typeName = RecordingLanguage() == 0 ? cppTypeName(type->interfaceName) : CFxString(type->interfaceName);
+    secondName = type->enumerator;
+    return kFxSuccess;
+}
+
+void CFxConverterIWAPIImpl::GetNoteLeader(OdDbObjectId& leader, const OdDbHandle& handle) const
+{
+    leader = OdDbObjectId();
+    if (!ACTIVE_DOCUMENT)
+        return;
+    const OdDbObjectPtr object = ACTIVE_DOCUMENT->GetDatabase()->getOdDbObjectId(handle).openObject();
+    if (!object)
+        return;
+    for (const OdDbObjectId& id : odrxCast<OdDbMText>(object.get())->getPersistentReactors())
+        if (odrxQuery<OdDbLeader>(id.openObject().get())) {
+            leader = id;
+            return;
+        }
+}
+
+const ActionEntry* CFxConverterIWAPIImpl::FindEntry(const OdDbHandle& handle) const
+{
+    const auto found = ObjectVariableMap.find(handle);
+    return found == ObjectVariableMap.end() ? nullptr : &found->second;
+}
+
+ActionEntry CFxConverterIWAPIImpl::RegisterObject(const OdDbHandle& handle, OdRxClass* cls)
+{
+    return ObjectVariableMap[handle] = ActionEntry{cls, ++objectCounter};
+}
+
+CFxString CFxConverterIWAPIImpl::VariableName(const ActionEntry& entry) const
+{
+    CFxString type;
+    CFxString second;
+    if (GetApiTypeName(entry.cls, type, second) != kFxSuccess)
+        return {};
+    if (RecordingLanguage() == 0)
+        StripPointerSuffixes(type);
+    return numbered(type, entry.ordinal);
+}
+
+void CFxConverterIWAPIImpl::ResolveNames(std::vector<CFxString>& names, std::vector<CFxString>& types,
+                                         std::vector<CFxString>& handles, const CFxCustomActionData& handleArray,
+                                         const CFxCustomActionData& classArray) const
+{
+    ResolveVariables(names, handleArray, classArray);
+    const std::vector<OdDbHandle>& objects = handleArray.GetHandleArray();
+    const std::vector<const OdRxClass*>& classes = classArray.GetClassArray();
+    types.assign(objects.size(), {});
+    handles.assign(objects.size(), {});
+    for (std::size_t i = 0; i < objects.size(); ++i) {
+        CFxString type;
+        if (!names[i].isEmpty())
+            GetApiTypeName(classes[i], type, types[i]);
+        handles[i] = objects[i].ascii();
+    }
+}
+
+void CFxConverterIWAPIImpl::ResolveVariables(std::vector<CFxString>& names, const CFxCustomActionData& handleArray,
+                                             const CFxCustomActionData& classArray) const
+{
+    const std::vector<OdDbHandle>& objects = handleArray.GetHandleArray();
+    const std::vector<const OdRxClass*>& classes = classArray.GetClassArray();
+    if (classes.size() < objects.size())
+        throw OdError_InvalidIndex();
+    names.assign(objects.size(), {});
+    for (std::size_t i = 0; i < objects.size(); ++i)
+        if (const ActionEntry* const entry = FindEntry(objects[i]))
+            names[i] = VariableName({const_cast<OdRxClass*>(classes[i]), entry->ordinal});
+}
+
+/// Takes the suffixes off after the number was put on, and only the one of smart pointers: in C++ a region or a view
+/// tile gets a name like "iwregion_c*3" here, which no compiler takes. It has to stay so.
+void CFxConverterIWAPIImpl::ResolveVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) const
+{
+    const ActionEntry* const entry = FindEntry(handle);
+    CFxString type;
+    CFxString second;
+    if (!entry || GetApiTypeName(cls, type, second) != kFxSuccess)
+        return;
+    name = numbered(type, entry->ordinal);
+    name.replace("_ptr", "");
+}

@@ -1,0 +1,80 @@
+// Added objects: the frame around the readers.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/RecordingState.h"
+#include "host/db/OdDbClassMap.h"
+#include "host/kernel/CFxServices.h"
+#include "objects/AddedProperties.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Removes of each record its first twin in the list. A record without a twin is passed over.
+void strike(const PropertyList& consumed, PropertyList& list)
+{
+    for (const CFxPropertyChangedPtr& record : consumed) {
+        const auto twin = std::find_if(list.begin(), list.end(), [&](const CFxPropertyChangedPtr& other) {
+            return other->GetName() == record->GetName() && other->GetGroup() == record->GetGroup();
+        });
+        if (twin != list.end())
+            list.erase(twin);
+    }
+}
+
+} // namespace
+
+CFxConverterIWAPIObject::Reader CFxConverterIWAPIObject::ReaderOf(const OdRxClass* cls)
+{
+    using Self = CFxConverterIWAPIObject;
+    static const QHash<const OdRxClass*, Reader> readers{
+        {oddbDwgClassMapDesc(19), &Self::ReadLine},    {oddbDwgClassMapDesc(18), &Self::ReadCircle},
+        {oddbDwgClassMapDesc(27), &Self::ReadPoint},   {oddbDwgClassMapDesc(40), &Self::ReadRay},
+        {oddbDwgClassMapDesc(17), &Self::ReadArc},     {oddbDwgClassMapDesc(41), &Self::ReadInfiniteLine},
+        {oddbDwgClassMapDesc(35), &Self::ReadEllipse},
+    };
+    return readers.value(cls, nullptr);
+}
+
+CFxString CFxConverterIWAPIObject::AddedVariableName(OdRxClass* cls, const OdDbObjectId& id,
+                                                     std::uint32_t ordinal) const
+{
+    CFxString type;
+    CFxString second;
+    Driver().GetApiTypeName(cls, type, second);
+    const auto view = odrxQuery<OdDbViewTableRecord>(id.openObject().get());
+    if (view && view->isPaperspaceView())
+        type = "SheetNamedView";
+    if (RecordingLanguage() == 0)
+        StripPointerSuffixes(type);
+    type.makeLower();
+    return CFxString(type.toQString() + QString::number(ordinal));
+}
+
+std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(OdRxClass* cls, OdDbHandle handle, PropertyList& read,
+                                                         PropertyList& rest, QString& text)
+{
+    if (!cls)
+        return kFxFailure;
+    const ActionEntry* const entry = Driver().FindEntry(handle);
+    if (!entry)
+        return kFxSuccess;
+
+    const OdDbObjectId id = ACTIVE_DOCUMENT ? ACTIVE_DOCUMENT->GetDatabase()->getOdDbObjectId(handle) : OdDbObjectId();
+    const CFxString name = AddedVariableName(cls, id, entry->ordinal);
+    addedVariableById[id] = name;
+    addedIdByVariable[name] = id;
+
+    AddedProperties properties(*this, read, Driver().GetContext());
+    if (const Reader reader = ReaderOf(cls))
+        text = (this->*reader)(properties, name);
+    strike(properties.consumed(), rest);
+    if (text.isEmpty())
+        return kFxSuccess;
+
+    QString general;
+    if (ConvertObjectChanges(cls, handle, rest, true, general) != kFxSuccess)
+        return kFxFailure;
+    text += general;
+    return kFxSuccess;
+}

@@ -1,0 +1,66 @@
+// The three kinds of object action that the driver hands over.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "objects/CFxConverterIWAPIObject.h"
+
+CFxConverterIWAPIImpl& CFxConverterIWAPIObject::Driver() const
+{
+    if (!driver)
+        throw OdError(eNullObjectPointer);
+    return *driver;
+}
+
+std::int32_t CFxConverterIWAPIObject::ConvertObjectAdded(OdSmartPtr<CFxObjectAdded> action, QString& text)
+{
+    if (!action)
+        return kFxFailure;
+    OdRxClass* const cls = action->GetObjectClass();
+    if (!IsSupportedClass(cls->name()))
+        return kFxSuccess;
+
+    PropertyList read = action->GetProperties();
+    PropertyList rest = action->GetExtraProperties();
+    QString statements;
+    if (ConvertAddedObject(cls, action->GetHandle(), read, rest, statements) != kFxSuccess)
+        return kFxFailure;
+    text += statements;
+    text += EmitObjectAddedEnd();
+    return kFxSuccess;
+}
+
+std::int32_t CFxConverterIWAPIObject::ConvertObjectModified(OdSmartPtr<CFxObjectModified> action, QString& text)
+{
+    if (!action)
+        return kFxFailure;
+    OdRxClass* const cls = action->GetObjectClass();
+    if (!IsSupportedClass(cls->name()))
+        return kFxSuccess;
+    PropertyList list = action->GetProperties();
+    if (list.empty())
+        return kFxSuccess;
+
+    const QString comment = EmitObjectModifiedComment(cls->name());
+    QString statements;
+    if (ConvertModifiedObject(cls, action->GetHandle(), list, statements) != kFxSuccess)
+        return kFxFailure;
+    if (!statements.isEmpty())
+        text += comment + statements + EmitObjectModifiedEnd();
+    return kFxSuccess;
+}
+
+/// A property that stands alone is a list of one record, which brings its class and handle along.
+std::int32_t CFxConverterIWAPIObject::ConvertPropertyChanged(CFxPropertyChangedPtr action, QString& text)
+{
+    OdRxClass* const cls = action->GetObjectClass();
+    const OdDbHandle handle = action->GetHandle();
+    PropertyList list{std::move(action)};
+    return ConvertObjectChanges(cls, handle, list, false, text) == kFxSuccess ? kFxSuccess : kFxFailure;
+}
+
+std::int32_t CFxConverterIWAPIObject::ConvertModifiedObject(OdRxClass* cls, OdDbHandle handle, PropertyList& list,
+                                                            QString& text)
+{
+    if (!cls)
+        return kFxFailure;
+    return ConvertObjectChanges(cls, handle, list, false, text) == kFxSuccess ? kFxSuccess : kFxFailure;
+}

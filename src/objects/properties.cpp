@@ -1,0 +1,77 @@
+// Property records: the lookup through which every value is read.
+
+#include "objects/CFxConverterIWAPIObject.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace {
+
+QString translated(const char* context, const QString& key)
+{
+    return QCoreApplication::translate(context, key.toUtf8().constData(), nullptr, -1);
+}
+
+bool shows(const CFxVariant& value, const char* word)
+{
+    return value.GetCollectionElement().GetValue()->GetString() == CFxString(translated("property_values", word));
+}
+
+} // namespace
+
+bool IsYes(const CFxVariant& value)
+{
+    return shows(value, "Yes");
+}
+
+bool IsOn(const CFxVariant& value)
+{
+    return shows(value, "On");
+}
+
+/// The catalogues are asked once for each tag of a conversion, not for each record.
+const CFxConverterIWAPIObject::TagWords& CFxConverterIWAPIObject::WordsOf(const CFxString& tag)
+{
+    const auto known = tagWords.constFind(tag);
+    if (known != tagWords.constEnd())
+        return *known;
+    if (blockAttributes.isNull())
+        blockAttributes = translated("property_groups", "BlockAttributes");
+    const CFxString groupWord = translated("property_groups", tag);
+    const bool searchesGroup = groupWord.equalNoCase(blockAttributes) && groupWord.equalNoCase(tag);
+    return *tagWords.insert(tag, {translated("property_types", tag), searchesGroup});
+}
+
+CFxVariant CFxConverterIWAPIObject::FindProperty(const CFxString& tag, PropertyList& list, CFxValueContext valueContext,
+                                                 PropertyList* consumed, CFxVariant* index)
+{
+    const TagWords& words = WordsOf(tag);
+    const auto byGroup = [&](const CFxPropertyChanged& record) {
+        return words.searchesGroup && record.GetGroup().equalNoCase(blockAttributes);
+    };
+    const auto found = std::find_if(list.begin(), list.end(), [&](const CFxPropertyChangedPtr& record) {
+        const QString& name = record->GetName();
+        return name == tag.toQString() || name == words.translated || byGroup(*record);
+    });
+    if (found == list.end())
+        return CFxVariant::kNull;
+
+    const CFxPropertyChangedPtr record = std::move(*found);
+    list.erase(found);
+    if (consumed)
+        consumed->push_back(record);
+    if (index)
+        *index = byGroup(*record) ? CFxVariant(record->GetName()) : record->GetIndex(valueContext);
+    return record->GetValue(valueContext);
+}
+
+OdGePoint3d CFxConverterIWAPIObject::FindPoint(const CFxString& xTag, const CFxString& yTag, const CFxString& zTag,
+                                               PropertyList& list, CFxValueContext valueContext, PropertyList* consumed)
+{
+    // A null variant's double is 0.0. The reads are statements of their own because their order counts.
+    const double x = FindProperty(xTag, list, valueContext, consumed).GetDouble();
+    const double y = FindProperty(yTag, list, valueContext, consumed).GetDouble();
+    const double z = FindProperty(zTag, list, valueContext, consumed).GetDouble();
+    return {x, y, z};
+}

@@ -1,0 +1,147 @@
+// The insertion of lines, circles, points, rays, arcs, infinite lines and ellipses.
+
+#include "objects/targets/PhrasedObjectConverter.h"
+
+using namespace inkmacro;
+
+static const Phrase insertLine{"EmitInsertLine",
+                               {
+                                   .cpp = "%1iwSketchManager->InsertLine( %3, %4, %5, %6, %7, %8, &%9 );%2",
+                                   .cppCom = "%1%9 = iwSketchManager->InsertLine( %3, %4, %5, %6, %7, %8 );%2",
+                                   .csharp = "%1%9 = iwSketchManager.InsertLine( %3, %4, %5, %6, %7, %8 );%2",
+                                   .javascript = "%1var %9 = mSkMgr.InsertLine(%3, %4, %5, %6, %7, %8);%2",
+                                   .vbNet = "%1%9 = iwSketchManager.InsertLine( %3, %4, %5, %6, %7, %8 )%2",
+                                   .vba = "%1Set %9 = iwSketchManager.InsertLine( %3, %4, %5, %6, %7, %8 )%2",
+                               }};
+
+QString PhrasedObjectConverter::EmitInsertLine(const OdGePoint3d& start, const OdGePoint3d& end, const CFxString& name)
+{
+    return fill(insertLine).point(start).point(end).text(name);
+}
+
+static const Phrase insertCircle{"EmitInsertCircle",
+                                 {
+                                     .cpp = "%1iwSketchManager->InsertCircle( %3, %4, %5, %6, &%7 );%2",
+                                     .cppCom = "%1%7 = iwSketchManager->InsertCircle( %3, %4, %5, %6 );%2",
+                                     .csharp = "%1%7 = iwSketchManager.InsertCircle( %3, %4, %5, %6 );%2",
+                                     .javascript = "%1var %7 = mSkMgr.InsertCircle(%3, %4, %5, %6);%2",
+                                     .vbNet = "%1%7 = iwSketchManager.InsertCircle( %3, %4, %5, %6 )%2",
+                                     .vba = "%1Set %7 = iwSketchManager.InsertCircle( %3, %4, %5, %6 )%2",
+                                 }};
+
+QString PhrasedObjectConverter::EmitInsertCircle(const OdGePoint3d& center, double radius, const CFxString& name)
+{
+    return fill(insertCircle).point(center).real(radius).text(name);
+}
+
+static const Phrase insertPoint{"EmitInsertPoint",
+                                {
+                                    .cpp = "%1iwSketchManager->InsertPoint( %3, %4, %5, &%6 );%2",
+                                    .cppCom = "%1%6 = iwSketchManager->InsertPoint( %3, %4, %5 );%2",
+                                    .csharp = "%1%6 = iwSketchManager.InsertPoint( %3, %4, %5 );%2",
+                                    .javascript = "%1var %6 = mSkMgr.InsertPoint(%3, %4, %5);%2",
+                                    .vbNet = "%1%6 = iwSketchManager.InsertPoint( %3, %4, %5 )%2",
+                                    .vba = "%1Set %6 = iwSketchManager.InsertPoint( %3, %4, %5 )%2",
+                                }};
+
+QString PhrasedObjectConverter::EmitInsertPoint(const OdGePoint3d& position, const CFxString& name)
+{
+    return fill(insertPoint).point(position).text(name);
+}
+
+static const Phrase insertRay{"EmitInsertRay",
+                              {
+                                  .cpp = "%1iwSketchManager->InsertRay( %3, %4, %5, %6, %7, %8, &%9 );%2",
+                                  .cppCom = "%1%9 = iwSketchManager->InsertRay( %3, %4, %5, %6, %7, %8 );%2",
+                                  .csharp = "%1%9 = iwSketchManager.InsertRay( %3, %4, %5, %6, %7, %8 );%2",
+                                  .javascript = "%1var %9 = mSkMgr.InsertRay(%3, %4, %5, %6, %7, %8);%2",
+                                  .vbNet = "%1%9 = iwSketchManager.InsertRay( %3, %4, %5, %6, %7, %8 )%2",
+                                  .vba = "%1Set %9 = iwSketchManager.InsertRay( %3, %4, %5, %6, %7, %8 )%2",
+                              }};
+
+QString PhrasedObjectConverter::EmitInsertRay(const OdGePoint3d& base, const OdGePoint3d& second, const CFxString& name)
+{
+    return fill(insertRay).point(base).point(second).text(name);
+}
+
+static const Phrase insertArc{"EmitInsertArc",
+                              {
+                                  .cpp = "%1iwSketchManager->InsertArc( %3, %4, %5, %6, %7, %8, &%9 );%2",
+                                  .cppCom = "%1%9 = iwSketchManager->InsertArc( %3, %4, %5, %6, %7, %8 );%2",
+                                  .csharp = "%1%9 = iwSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 );%2",
+                                  .javascript = "%1var %9 = mSkMgr.InsertArc(%3, %4, %5, %6, %7, %8);%2",
+                                  .vbNet = "%1%9 = iwSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 )%2",
+                                  .vba = "%1Set %9 = iwSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 )%2",
+                              }};
+
+QString PhrasedObjectConverter::EmitInsertArc(const OdGePoint3d& center, double radius, double startAngle,
+                                              double endAngle, const CFxString& name)
+{
+    return fill(insertArc).point(center).real(radius).real(startAngle).real(endAngle).text(name);
+}
+
+static const Phrase insertInfiniteLine{
+    "EmitInsertInfiniteLine",
+    {
+        .cpp = "%1iwSketchManager->InsertInfiniteLine( %3, %4, %5, %6, %7, %8, &%9 );%2",
+        .cppCom = "%1%9 = iwSketchManager->InsertInfiniteLine( %3, %4, %5, %6, %7, %8 );%2",
+        .csharp = "%1%9 = iwSketchManager.InsertInfiniteLine( %3, %4, %5, %6, %7, %8 );%2",
+        .javascript = "%1var %9 = mSkMgr.InsertInfiniteLine(%3, %4, %5, %6, %7, %8);%2",
+        .vbNet = "%1%9 = iwSketchManager.InsertInfiniteLine( %3, %4, %5, %6, %7, %8 )%2",
+        .vba = "%1Set %9 = iwSketchManager.InsertInfiniteLine( %3, %4, %5, %6, %7, %8 )%2",
+    }};
+
+QString PhrasedObjectConverter::EmitInsertInfiniteLine(const OdGePoint3d& base, const OdGePoint3d& second,
+                                                       const CFxString& name)
+{
+    return fill(insertInfiniteLine).point(base).point(second).text(name);
+}
+
+static const Phrase insertEllipseArc{
+    "EmitInsertEllipseArc",
+    {
+        .cpp = "%1iwSketchManager->InsertEllipseArcDistanceToOtherAxis( %3, %4, %5, %6, %7, %8, %9, &%10 );%2",
+        .cppCom = "%1%10 = iwSketchManager->InsertEllipseArcDistanceToOtherAxis( %3, %4, %5, %6, %7, %8, %9 );%2",
+        .csharp = "%1%10 = iwSketchManager.InsertEllipseArcDistanceToOtherAxis( %3, %4, %5, %6, %7, %8, %9 );%2",
+        .javascript = "%1var %10 = mSkMgr.InsertEllipseArcDistanceToOtherAxis(%3, %4, %5, %6, %7, %8, %9);%2",
+        .vbNet = "%1%10 = iwSketchManager.InsertEllipseArcDistanceToOtherAxis( %3, %4, %5, %6, %7, %8, %9 )%2",
+        .vba = "%1Set %10 = iwSketchManager.InsertEllipseArcDistanceToOtherAxis( %3, %4, %5, %6, %7, %8, %9 )%2",
+    }};
+
+QString PhrasedObjectConverter::EmitInsertEllipseArc(const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
+                                                     double otherAxisDistance, double startAngle, double endAngle,
+                                                     const CFxString& name)
+{
+    return fill(insertEllipseArc)
+        .real(axisStart.x)
+        .real(axisStart.y)
+        .real(axisEnd.x)
+        .real(axisEnd.y)
+        .real(otherAxisDistance)
+        .real(startAngle)
+        .real(endAngle)
+        .text(name);
+}
+
+static const Phrase insertEllipse{
+    "EmitInsertEllipse",
+    {
+        .cpp = "%1iwSketchManager->InsertEllipseDistanceToOtherAxis( %3, %4, %5, %6, %7, &%8 );%2",
+        .cppCom = "%1%8 = iwSketchManager->InsertEllipseDistanceToOtherAxis( %3, %4, %5, %6, %7 );%2",
+        .csharp = "%1%8 = iwSketchManager.InsertEllipseDistanceToOtherAxis( %3, %4, %5, %6, %7 );%2",
+        .javascript = "%1var %8 = mSkMgr.InsertEllipseDistanceToOtherAxis(%3, %4, %5, %6, %7);%2",
+        .vbNet = "%1%8 = iwSketchManager.InsertEllipseDistanceToOtherAxis( %3, %4, %5, %6, %7 )%2",
+        .vba = "%1Set %8 = iwSketchManager.InsertEllipseDistanceToOtherAxis( %3, %4, %5, %6, %7 )%2",
+    }};
+
+QString PhrasedObjectConverter::EmitInsertEllipse(const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
+                                                  double otherAxisDistance, const CFxString& name)
+{
+    return fill(insertEllipse)
+        .real(axisStart.x)
+        .real(axisStart.y)
+        .real(axisEnd.x)
+        .real(axisEnd.y)
+        .real(otherAxisDistance)
+        .text(name);
+}

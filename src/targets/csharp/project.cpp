@@ -1,0 +1,109 @@
+// The start-up program and the project file around a C# macro.
+
+#include "targets/LineEnd.h"
+#include "targets/csharp/CFxConverterIWAPICSharp.h"
+#include "targets/texts.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace inkmacro;
+
+// %1 is the project, %2 the line end.
+
+/// The macro's class lives in a namespace of its own, which is why the call is qualified.
+static const char* const program =
+    "using System;%2%2namespace %1%2{%2    static class Program%2    {%2        /// <summary>%2"
+    "       /// The main entry point for the application.%2        /// </summary>%2       [STAThread]%2"
+    "       static void Main()%2       {%2           Inkwright.Application iwApp = null;%2"
+    "           object application = null;%2%2           try%2           {%2"
+    "                application = System.Runtime.InteropServices.Marshal.GetActiveObject(\"Inkwright.Application\");%2"
+    "           }%2           catch (Exception)%2           {%2               //application not running%2"
+    "               return;%2           }%2%2           if (null != application)%2           {%2"
+    "               iwApp = application as Inkwright.Application;%2           }%2%2           if (null != iwApp)%2"
+    "           {%2               IWAPIMacros.%1 %1Obj = new IWAPIMacros.%1();%2               %1Obj.Run(iwApp);%2"
+    "           }%2       }%2   }%2}%2";
+
+static const char* const project = R"(<?xml version="1.0" encoding="utf-8"?>
+<Project ToolsVersion="3.5" DefaultTargets="Build" xmlns="http://schemas.microsoft.com/developer/msbuild/2003">
+  <PropertyGroup>
+    <Configuration Condition=" '$(Configuration)' == '' ">Debug</Configuration>
+    <Platform Condition=" '$(Platform)' == '' ">AnyCPU</Platform>
+    <ProductVersion>9.0.30729</ProductVersion>
+    <SchemaVersion>2.0</SchemaVersion>
+    <ProjectGuid>{6599E748-BC93-4CF5-901D-90C14D09EB86}</ProjectGuid>
+    <OutputType>WinExe</OutputType>
+    <AppDesignerFolder>Properties</AppDesignerFolder>
+    <RootNamespace>%1</RootNamespace>
+    <AssemblyName>%1</AssemblyName>
+    <TargetFrameworkVersion>v3.5</TargetFrameworkVersion>
+    <FileAlignment>512</FileAlignment>
+  </PropertyGroup>
+  <PropertyGroup Condition=" '$(Configuration)|$(Platform)' == 'Debug|AnyCPU' ">
+    <DebugSymbols>true</DebugSymbols>
+    <DebugType>full</DebugType>
+    <Optimize>false</Optimize>
+    <OutputPath>bin\Debug\</OutputPath>
+    <DefineConstants>DEBUG;TRACE</DefineConstants>
+    <ErrorReport>prompt</ErrorReport>
+    <WarningLevel>4</WarningLevel>
+  </PropertyGroup>
+  <PropertyGroup Condition=" '$(Configuration)|$(Platform)' == 'Release|AnyCPU' ">
+    <DebugType>pdbonly</DebugType>
+    <Optimize>true</Optimize>
+    <OutputPath>bin\Release\</OutputPath>
+    <DefineConstants>TRACE</DefineConstants>
+    <ErrorReport>prompt</ErrorReport>
+    <WarningLevel>4</WarningLevel>
+  </PropertyGroup>
+  <ItemGroup>
+    <Reference Include="System" />
+  </ItemGroup>
+  <ItemGroup>
+    <Compile Include="%1.cs" />
+    <Compile Include="Program.cs" />
+  </ItemGroup>
+  <ItemGroup>
+    <COMReference Include="Inkwright">
+      <Guid>{92993D0B-2709-42F5-BA1B-9C224D757856}</Guid>
+      <VersionMajor>1</VersionMajor>
+      <VersionMinor>0</VersionMinor>
+      <Lcid>0</Lcid>
+      <WrapperTool>tlbimp</WrapperTool>
+      <Isolated>False</Isolated>
+    </COMReference>
+  </ItemGroup>
+  <Import Project="$(MSBuildBinPath)\Microsoft.CSharp.targets" />
+  <!-- To modify your build process, add your task inside one of the targets below and uncomment it.
+       Other similar extension points exist, see Microsoft.Common.targets.
+  <Target Name="BeforeBuild">
+  </Target>
+  <Target Name="AfterBuild">
+  </Target>
+  -->
+</Project>
+)";
+
+QString CFxConverterIWAPICSharp::EmitProgramText(const QString& projectName)
+{
+    static const Template words(program);
+    return Fill(&words).text(projectName).text(LineEnd);
+}
+
+QString CFxConverterIWAPICSharp::EmitProjectText(const QString& projectName)
+{
+    static const Template words(project);
+    return Fill(&words).text(projectName).text(LineEnd);
+}
+
+std::int32_t CFxConverterIWAPICSharp::EmitProjectFiles(const QString& path)
+{
+    const QString directory = QFileInfo(path).path();
+    if (!QDir().exists(directory) && !QDir().mkpath(directory))
+        return kFxFailure;
+    const QString name = projectName(path);
+    if (!WriteTextFile(directory + "//Program.cs", EmitProgramText(name), false))
+        return kFxFailure;
+    const bool written = WriteTextFile(directory + "//" + name + ".csproj", EmitProjectText(name), false);
+    return written ? kFxSuccess : kFxFailure;
+}

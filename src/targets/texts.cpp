@@ -1,0 +1,59 @@
+#include "targets/texts.h"
+
+#include <QFileInfo>
+#include <QRegExp>
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace inkmacro {
+
+namespace {
+
+bool isBasic(Target target)
+{
+    return target == Target::VbNet || target == Target::Vba;
+}
+
+} // namespace
+
+QString projectName(const QString& macroPath)
+{
+    // The class is never closed, so the pattern is invalid and matches nothing. The name is meant to stay as it is,
+    // blanks and hyphens included.
+    return QFileInfo(macroPath).baseName().remove(QRegExp("[^a-zA-Z0-9"));
+}
+
+QString CleanPromptText(const QString& prompt)
+{
+    QString text = prompt;
+    text.replace(QLatin1String("<br>"), QLatin1String("\n"));
+    const QStringList lines = text.split('\n', Qt::SkipEmptyParts);
+    if (!lines.isEmpty())
+        text = lines.last();
+    static const QRegularExpression tag("<[^>]*>");
+    return text.remove(tag).remove(QLatin1String("&raquo; "));
+}
+
+QString escapeText(Target target, const QString& text)
+{
+    QString escaped = text;
+    if (isBasic(target))
+        return escaped.replace('\n', QLatin1String("\" & vbLf & \""));
+    return escaped.replace('\\', QLatin1String("\\\\")).replace('\n', QLatin1String("\\n"));
+}
+
+QString truthWord(Target target, bool value)
+{
+    if (isBasic(target))
+        return value ? QStringLiteral("True") : QStringLiteral("False");
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+QString enumeratorText(Target target, const QString& type, const QString& enumerator)
+{
+    if (isBasic(target))
+        return "Inkwright." + type + '.' + enumerator;
+    return target == Target::CSharp ? type + '.' + enumerator : enumerator;
+}
+
+} // namespace inkmacro

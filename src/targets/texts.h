@@ -1,0 +1,25 @@
+#pragma once
+
+#include "targets/Target.h"
+
+#include <QString>
+
+namespace inkmacro {
+
+/// The name of the class and of the project that a macro file stands for: its name up to the first dot.
+QString projectName(const QString& macroPath);
+
+/// The plain text that a statement quotes, of a prompt as the host showed it, markup included.
+QString CleanPromptText(const QString& prompt);
+
+/// Text as it stands within the quotes of a statement. Only line feeds and, outside the Basic targets, backslashes
+/// are taken care of; a quote stays as it is.
+QString escapeText(Target target, const QString& text);
+
+/// The word for a truth value in statements of objects and of options.
+QString truthWord(Target target, bool value);
+
+/// The form in which the target writes an enumerator, as `iwLineWeight_e` and `iwLnWt_ByLayer`.
+QString enumeratorText(Target target, const QString& type, const QString& enumerator);
+
+} // namespace inkmacro

@@ -1,0 +1,70 @@
+// Declarations, and the layer that has no variable yet.
+
+#include "targets/PhrasedConverter.h"
+
+using namespace inkmacro;
+
+/// JavaScript declares with `var` where an object is first assigned.
+static const Phrase declareVariable{"EmitVariableDeclaration",
+                                    {
+                                        .cpp = "%1%3 %4%5;%2",
+                                        .cppCom = "%1I%5Ptr %3%4;%2",
+                                        .csharp = "%1%3 %4%5;%2",
+                                        .vbNet = "%1Dim %3%4 As Inkwright.%5%2",
+                                        .vba = "%1Dim %3%4 As Inkwright.%5%2",
+                                    }};
+
+/// Untyped variables stand outside the interface's library.
+static QString untyped(Target target, const QString& type, QString declaration)
+{
+    if (target == Target::CppCom && type == QLatin1String("VARIANT"))
+        declaration.replace(QLatin1String("IVARIANTPtr"), QLatin1String("VARIANT"));
+    if ((target == Target::VbNet && type == QLatin1String("Object")) ||
+        (target == Target::Vba && type == QLatin1String("Variant")))
+        declaration.remove(QLatin1String("Inkwright."));
+    return declaration;
+}
+
+QString PhrasedConverter::EmitVariableDeclaration(const ActionEntry& entry)
+{
+    CFxString type;
+    CFxString second;
+    GetApiTypeName(entry.cls, type, second);
+    if (type.isEmpty())
+        return {};
+    CFxString stem = type;
+    if (target_ == Target::Cpp)
+        StripPointerSuffixes(stem);
+    stem.makeLower();
+    // The curly targets but COM put the type in front of the name.
+    if (target_ == Target::Cpp || target_ == Target::CSharp)
+        return fill(declareVariable).text(type).text(stem).number(entry.ordinal);
+    return untyped(target_, type, fill(declareVariable).text(stem).number(entry.ordinal).text(type));
+}
+
+/// The layer's name is always "0": the default layer is fetched into the variable, and the statements that follow set
+/// the recorded properties on it.
+static const Phrase getLayer{
+    "EmitGetLayer",
+    {
+        .cpp = "%1iwLayerManager_ptr iwLayerManager_%3;%2%1iwDoc->GetLayerManager( &iwLayerManager_%3 );%2"
+               "%1iwLayer_ptr %4;%2%1iwLayerManager_%3->GetLayer( L\"0\", &%4 );%2",
+        .cppCom = "%1ILayerManagerPtr iwLayerManager_%3 = iwDoc->GetLayerManager();%2"
+                  "%1ILayerPtr %4 = iwLayerManager_%3->GetLayer( \"0\" );%2",
+        .csharp = "%1LayerManager iwLayerManager_%3 = iwDoc.GetLayerManager();%2"
+                  "%1Layer %4 = iwLayerManager_%3.GetLayer( \"0\" );%2",
+        .javascript = "%1var iwLayerManager_%3 = iwDoc.GetLayerManager();%2"
+                      "%1var %4 = iwLayerManager_%3.LayerManager.GetLayer( \"0\" );%2",
+        .vbNet = "%1Dim iwLayerManager_%3 As Inkwright.LayerManager = iwDoc.GetLayerManager()%2"
+                 "%1Dim %4 As Inkwright.Layer = iwLayerManager_%3.GetLayer( \"0\" )%2",
+        .vba = "%1Dim iwLayerManager_%3 As Inkwright.LayerManager%2"
+               "%1Set iwLayerManager_%3  = iwDoc.GetLayerManager()%2%1Dim %4 As Inkwright.Layer%2"
+               "%1Set %4  = iwLayerManager_%3.GetLayer( \"0\" )%2",
+    }};
+
+QString PhrasedConverter::EmitGetLayer(const CFxString& variable)
+{
+    // Process-wide, and never put back: a second conversion goes on counting.
+    static std::uint32_t layerManagers = 0;
+    return fill(getLayer).number(++layerManagers).text(variable);
+}

@@ -1,0 +1,155 @@
+// Words that stand in statements: enumerators, type names, prompts, names of projects.
+
+#include "frame/CFxConverterIWAPIModule.h"
+#include "host/db/OdDbClassMap.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "targets/Phrase.h"
+#include "targets/apiTypes.h"
+#include "targets/enumerations.h"
+#include "targets/texts.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+using namespace inkmacro;
+
+namespace {
+
+TEST(Enumerators, FollowTheDrawingsNumbers)
+{
+    const auto text = [](const char* enumeration, int value) {
+        return EnumeratorByValue(Target::Cpp, enumeration, value).toStdString();
+    };
+    EXPECT_EQ(text("iwDimensionTextVerticalPosition", 0), "iwDimensionTextVerticalPosition_Centered");
+    EXPECT_EQ(text("iwDimensionTextVerticalPosition", 3), "iwDimensionTextVerticalPosition_JIS");
+    EXPECT_EQ(text("iwArcTextAlignment", 4), "iwArcTextAlignment_Center");
+    EXPECT_EQ(text("iwArcTextAlignment", 1), "iwArcTextAlignment_Fit");
+    EXPECT_EQ(text("iwLeaderType", 3), "iwLeaderType_SplineWithArrow");
+    EXPECT_EQ(text("iwDualDimensionFormat", 2), "iwDualDimensionFormat_Decimal");
+    EXPECT_EQ(text("iwDimensionArrowType", 20), "iwDimensionArrowType_Custom");
+    EXPECT_EQ(text("iwUnitPrecision", 8), "iwUnitPrecision_8");
+    EXPECT_EQ(text("iwTableBordersLineType", 32), "iwTableBordersLineType_VerticalRight");
+    // What no number stands for gives the default.
+    for (const int value : {-2147483647 - 1, -1, 0, 9, 21, 2147483647}) {
+        EXPECT_EQ(text("iwTableCellType", value), "iwTableCellType_Title");
+        EXPECT_EQ(text("iwLinearDimensionFormat", value), "iwLinearDimensionFormat_Scientific");
+        EXPECT_EQ(text("iwArcTextDirection", value), "iwArcTextDirection_OutwardFromCenter");
+        EXPECT_EQ(text("iwUnitPrecision", value), "iwUnitPrecision_0");
+    }
+    for (const int value : {-1, 0, 3, 33, 64, 1 << 30})
+        EXPECT_EQ(text("iwTableBordersLineType", value), "iwTableBordersLineType_HorizontalTop");
+}
+
+TEST(Enumerators, FollowTheDisplayedText)
+{
+    const auto text = [](const char* enumeration, const char* shown) {
+        return EnumeratorByText(Target::VbNet, enumeration, shown).toStdString();
+    };
+    EXPECT_EQ(text("iwNoteJustification", "bottom RIGHT"),
+              "Inkwright.iwNoteJustification_e.iwNoteJustification_BottomRight");
+    EXPECT_EQ(text("iwTextJustification", "Fit"), "Inkwright.iwTextJustification_e.iwTextJustification_Fit");
+    EXPECT_EQ(text("iwTextJustification", "?"), "Inkwright.iwTextJustification_e.iwTextJustification_Left");
+    EXPECT_EQ(text("iwPolyLine3DFitSmooth", "Quadratic"),
+              "Inkwright.iwPolyLine3DFitSmooth_e.iwPolyLine3DFitSmooth_Qudratic");
+    EXPECT_EQ(text("iwBlockInsertUnits", "light years"),
+              "Inkwright.iwBlockInsertUnits_e.iwBlockInsertUnits_LightYears");
+    EXPECT_EQ(text("iwViewportStandardScale", "1/128\" = 1'-0\""),
+              "Inkwright.iwViewportStandardScale_e.iwViewportStandardScale_1_128in_1ft");
+    EXPECT_EQ(text("iwViewportStandardScale", "1:3"),
+              "Inkwright.iwViewportStandardScale_e.iwViewportStandardScale_ScaleToFit");
+}
+
+TEST(Enumerators, TakeTheFormOfTheirTarget)
+{
+    EXPECT_EQ(LineWeightEnumerator(Target::CSharp, 5), "iwLineWeight_e.iwLnWt_005");
+    EXPECT_EQ(LineWeightEnumerator(Target::Vba, -2), "Inkwright.iwLineWeight_e.iwLnWt_ByBlock");
+    for (const Target target : {Target::Cpp, Target::CppCom, Target::JavaScript}) {
+        EXPECT_EQ(LineWeightEnumerator(target, 211), "iwLnWt_211");
+        EXPECT_EQ(LineWeightEnumerator(target, 7), "iwLnWt_ByLwDefault");
+    }
+    EXPECT_EQ(DecimalSeparatorEnumerator(Target::Cpp, ","), "iwLinearDimensionDecimalSeparator_Comma");
+    EXPECT_EQ(DecimalSeparatorEnumerator(Target::Cpp, " "), "iwLinearDimensionDecimalSeparator_Space");
+    EXPECT_EQ(DecimalSeparatorEnumerator(Target::Cpp, ",."), "iwLinearDimensionDecimalSeparator_Period");
+}
+
+TEST(TextAlignments, AreToldByTwoModes)
+{
+    int flag = 0;
+    EXPECT_EQ(TextAlignment(5, 0, flag), "Fit");
+    EXPECT_EQ(flag, -1);
+    EXPECT_EQ(TextAlignment(0, 3, flag), "Top Left");
+    EXPECT_EQ(flag, 1);
+    EXPECT_EQ(TextAlignment(2, 1, flag), "Bottom Right");
+    EXPECT_EQ(flag, 6);
+    EXPECT_EQ(TextAlignment(3, 1, flag), "");
+    EXPECT_EQ(flag, -1);
+}
+
+TEST(Prompts, LoseTheirMarkup)
+{
+    EXPECT_EQ(CleanPromptText("Specify center point<br>or &raquo; [Radius]:"), "or [Radius]:");
+    EXPECT_EQ(CleanPromptText("<b>Next</b> point<br><br>\n"), "Next point");
+    EXPECT_EQ(CleanPromptText("&raquo; a &raquo;b <unclosed"), "a &raquo;b <unclosed");
+    EXPECT_EQ(CleanPromptText("<br>"), "\n");
+}
+
+TEST(Names, OfProjectsStayAsTheyAre)
+{
+    EXPECT_EQ(projectName("C:/macros/my macro-1.v2.cs"), "my macro-1");
+    EXPECT_EQ(projectName("/a.b/W\u00e4nde [EG]"), QString::fromUtf8("W\u00e4nde [EG]"));
+    EXPECT_EQ(projectName("/tmp/.cs"), "");
+}
+
+TEST(Texts, AreEscapedForTheirQuotes)
+{
+    EXPECT_EQ(escapeText(Target::JavaScript, "a\\P\n\"b\""), "a\\\\P\\n\"b\"");
+    EXPECT_EQ(escapeText(Target::Vba, "a\\P\nb"), "a\\P\" & vbLf & \"b");
+}
+
+TEST(Classes, AreKnownInAllTheirTables)
+{
+    std::set<QString> keys;
+    for (const ApiType& type : ApiTypes()) {
+        keys.insert(type.className);
+        EXPECT_NE(oddbFindClassRow(type.className), nullptr) << type.className;
+        // The one type that is only met within other objects' data.
+        EXPECT_EQ(IsSupportedClass(type.className), QString(type.className) != "AcDb2dPolyline") << type.className;
+    }
+    EXPECT_EQ(keys.size(), 51U);
+    int supported = 0;
+    for (const OdDbClassRow& row : oddbClassRows())
+        supported += IsSupportedClass(row.name);
+    EXPECT_EQ(supported, 52);
+    EXPECT_FALSE(IsSupportedClass("acdbline"));
+
+    EXPECT_TRUE(oddbDwgClassMapDesc(22)->isDerivedFrom(OdDbEntity::desc()));
+    EXPECT_FALSE(oddbDwgClassMapDesc(51)->isDerivedFrom(OdDbEntity::desc()));
+    EXPECT_EQ(oddbDwgClassMapDesc(2), nullptr);
+}
+
+/// Statements that a target does not have. Any other empty place among the literals was forgotten.
+TEST(Phrases, HaveNoHolesButTheIntendedOnes)
+{
+    const std::set<std::pair<std::string, Target>> intended{
+        // No groups, no declarations and no comments in a page.
+        {"EmitBlockBegin", Target::JavaScript},
+        {"EmitBlockEnd", Target::JavaScript},
+        {"EmitVariableDeclaration", Target::JavaScript},
+        {"EmitObjectAddedComment", Target::JavaScript},
+        {"EmitObjectModifiedComment", Target::JavaScript},
+        {"EmitComment", Target::JavaScript},
+        // Nothing calls for a comment of its own.
+        {"EmitComment", Target::Cpp},
+        {"EmitComment", Target::CppCom},
+    };
+    std::set<std::pair<std::string, Target>> holes;
+    for (const Phrase* phrase : Phrase::all())
+        for (std::size_t i = 0; i < targetCount; ++i)
+            if (!phrase->has(static_cast<Target>(i)))
+                holes.emplace(phrase->name(), static_cast<Target>(i));
+    EXPECT_TRUE(holes == intended) << holes.size() << " holes";
+    EXPECT_GE(Phrase::all().size(), 16U);
+}
+
+} // namespace
