@@ -33,6 +33,7 @@ if(INKMACRO_WERROR)
     add_compile_options(-Werror)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    # GCC 12 reports overlapping copies inside std::string's own operator+ when it optimises.
-    add_compile_options(-Wno-restrict)
+    # GCC 12 reports overlapping copies inside std::string's own operator+ when it optimises, and
+    # uninitialised alternatives inside std::variant's own moves.
+    add_compile_options(-Wno-restrict -Wno-maybe-uninitialized)
 endif()
