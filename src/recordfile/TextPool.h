@@ -1,0 +1,41 @@
+#pragma once
+
+#include "recordfile/recordedActions.h"
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace inkmacro::recordfile {
+
+/// What the records of a recording have in common, each once. Looked up by the bytes of the file, so that a text is
+/// made for its first occurrence only.
+class TextPool
+{
+public:
+    /// Lasts as long as the pool; a copy shares the characters.
+    const CFxString* text(std::string_view utf8);
+    OdRxClass* classOf(std::string_view utf8);
+    /// Both texts are of this pool.
+    const PropertyLabelPtr& label(const CFxString* tag, const CFxString* group);
+
+private:
+    struct BytesHash
+    {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view bytes) const { return std::hash<std::string_view>()(bytes); }
+    };
+    template<class T>
+    using ByBytes = std::unordered_map<std::string, T, BytesHash, std::equal_to<>>;
+    using TextPair = std::pair<const CFxString*, const CFxString*>;
+    struct PairHash
+    {
+        std::size_t operator()(const TextPair& pair) const;
+    };
+
+    ByBytes<CFxString> texts_;
+    ByBytes<OdRxClass*> classes_;
+    std::unordered_map<TextPair, PropertyLabelPtr, PairHash> labels_;
+};
+
+} // namespace inkmacro::recordfile

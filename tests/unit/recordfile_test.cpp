@@ -1,0 +1,245 @@
+// Recording files: reading, writing, and what is said about damaged ones.
+
+#include "host/db/OdDbClasses.h"
+#include "recordfile/RecordingReader.h"
+#include "recordfile/RecordingWriter.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+
+#include <cmath>
+#include <limits>
+
+using namespace inkmacro;
+
+namespace {
+
+std::optional<RecordingError> read(QByteArray bytes, Recording& recording, qint64 longestLine = kLongestLine)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return ReadRecording(buffer, "walls.jsonl", recording, {}, longestLine);
+}
+
+std::string complaint(const QByteArray& bytes, qint64 longestLine = kLongestLine)
+{
+    Recording recording;
+    const auto error = read(bytes, recording, longestLine);
+    EXPECT_TRUE(!error || recording.actions.isEmpty()) << "a recording is left behind an error";
+    return error ? error->text().toStdString() : "";
+}
+
+QByteArray written(const Recording& recording)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(WriteRecording(recording, buffer));
+    return buffer.data();
+}
+
+// Every kind of line and every form of a value once, in the form in which it is written.
+const QByteArray everything =
+    R"({"recording":{"version":1,"language":3,"mode":1,"context":-7,"sheet":{"name":"Plan \"A\"","model":false}}}
+{"drawing":{"currentLayout":"22","activeBlock":"1F","textStyle":"11","settings":{"FILLETRAD":2.5,"TILEMODE":true,"CLAYER":"0"}}}
+{"object":{"class":"AcDbLayerTableRecord","handle":"10"}}
+{"object":{"class":"AcDbLayout","handle":"22","modelType":true,"layoutName":"Model"}}
+{"object":{"class":"AcDbMText","handle":"60","isErased":true,"reactors":["61","FFFFFFFFFFFFFFFF"]}}
+{"command":{"name":"LINE","actions":[{"null":null},{"command":{"name":"","actions":[]}}]}}
+{"added":{"class":"AcDbLine","handle":"2F","properties":[{"tag":"Start X","value":-0.0},{"tag":"Start Y","value":1e+300,"group":"Geometry","index":{"int":2},"old":"x"}],"extra":[]}}
+{"modified":{"class":"HostWeldSymbol","handle":"30","properties":[{"tag":"a","value":{"int":-2147483648}},{"tag":"b","value":{"point":[1.0,2.0,3.0]}},{"tag":"c","value":{"color":"bylayer"}},{"tag":"d","value":{"color":"byblock"}},{"tag":"e","value":{"color":{"index":255}}},{"tag":"f","value":{"color":{"rgb":[0,128,255]}}},{"tag":"g","value":{"id":"2F"}},{"tag":"h","value":{"transparency":{"method":2,"alpha":127}}},{"tag":"i","value":{"collection":{"chosen":1,"elements":[{"tag":{"int":0},"value":"Yes"},{"tag":"t","value":null}]}}},{"tag":"j","value":{"element":{"tag":{"int":3},"value":{"collection":{"elements":[]}}}}},{"tag":"k","value":null}]}}
+{"property":{"class":"AcDbLine","handle":"2F","tag":"End X","value":4.5}}
+{"sysvar":{"name":"CVPORT","value":{"int16":2}}}
+{"sysvar":{"name":"CHAIN","value":[{"string":"a"},{"double":0.1},{"int8":-1},{"int32":70000},{"bool":true},{"point2d":[1.0,2.0]},{"point3d":[1.0,2.0,3.0]},{"type":5004,"double":1.5}]}}
+{"interaction":{"kind":"keyword","prompt":"<b>Specify</b>","result":{"string":"_Radius"},"keywords":{"local":["Radius"],"global":["_Radius"]}}}
+{"interaction":{"kind":77,"prompt":"","result":null}}
+{"selection":{"objects":[{"handle":"2F","class":"AcDbLine"}]}}
+{"custom":{"kind":56,"data":[{"bool":true},{"int16":-1},{"int":1},{"double":1.5},{"string":"abc"},{"strings":["a","b"]},{"point":[1.0,2.0,3.0]},{"vector":[1.0,2.0,3.0]},{"color":"bylayer"},{"handle":"2F"},{"class":"AcDbLine"},{"handles":["2F","30"]},{"classes":["AcDbLine"]},{"points":[[1.0,2.0,3.0]]},{"points2d":[[1.0,2.0]]},{"doubles":[0.5]},{"ints":[1,2]},{"ids":["2F"]}]}}
+{"null":null}
+)";
+
+TEST(RecordingFile, HoldsEveryFormAndGivesItBack)
+{
+    Recording recording;
+    const auto error = read(everything, recording);
+    ASSERT_FALSE(error) << error->text().toStdString();
+    // Numbers may be spelled in several ways; written twice they have one.
+    const QByteArray once = written(recording);
+    Recording again;
+    ASSERT_FALSE(read(once, again));
+    EXPECT_EQ(written(again), once);
+    QByteArray plain = everything;
+    EXPECT_EQ(once.count('\n'), plain.count('\n'));
+
+    EXPECT_EQ(recording.header.language, 3);
+    EXPECT_EQ(recording.header.context, -7);
+    EXPECT_EQ(recording.header.sheet->name, "Plan \"A\"");
+    EXPECT_EQ(recording.drawing.settings.size(), 3U);
+    EXPECT_EQ(recording.actions.length(), 11U);
+
+    const OdDbObjectId note = recording.database->getOdDbObjectId(OdDbHandle(0x60));
+    EXPECT_FALSE(note.openObject());
+    const OdDbObjectPtr erased = note.openObject(true);
+    ASSERT_TRUE(erased);
+    EXPECT_EQ(erased->isA(), OdDbMText::desc());
+    EXPECT_EQ(erased->getPersistentReactors()[1].getHandle().value(), ~std::uint64_t{0});
+}
+
+TEST(RecordingFile, KeepsValuesExact)
+{
+    Recording recording;
+    ASSERT_FALSE(read(everything, recording));
+    const auto added = odrxQuery<CFxObjectAdded>(recording.actions[1].get());
+    ASSERT_TRUE(added);
+    EXPECT_TRUE(std::signbit(added->GetProperties()[0]->GetValue(0).GetDouble()));
+    EXPECT_EQ(added->GetProperties()[1]->GetIndex(0).GetInt32(), 2);
+    EXPECT_EQ(added->GetProperties()[1]->GetOldValue(0).GetString(), CFxString("x"));
+    EXPECT_TRUE(added->GetExtraProperties().empty());
+
+    const auto modified = odrxQuery<CFxObjectModified>(recording.actions[2].get());
+    const PropertyList list = modified->GetProperties();
+    EXPECT_EQ(list[0]->GetValue(0).GetInt32(), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(list[5]->GetValue(0).GetColor(), OdCmColor::byRgb(0, 128, 255));
+    EXPECT_EQ(list[7]->GetValue(0).GetTransparency().alpha, 127);
+    EXPECT_EQ(list[8]->GetValue(0).GetCollection().GetChosen(), 1);
+
+    const auto chain = odrxQuery<CFxSysVarChanged>(recording.actions[5].get())->GetValue();
+    EXPECT_EQ(chain->restype(), 5005);
+    EXPECT_EQ(chain->next()->restype(), 5001);
+    const auto keyword = odrxQuery<CFxUserInteraction>(recording.actions[6].get());
+    EXPECT_EQ(keyword->GetInteractionKind(), 7);
+    const auto custom = odrxQuery<CFxCustomAction>(recording.actions[9].get());
+    EXPECT_EQ(custom->GetDataCount(), 18);
+    EXPECT_EQ(custom->GetData(11).GetHandleArray()[1].ascii(), "30");
+    EXPECT_THROW(custom->GetData(18), OdError_InvalidIndex);
+    EXPECT_FALSE(recording.actions[10]);
+}
+
+TEST(RecordingFile, TakesLinesAsTheyCome)
+{
+    const QByteArray action = R"({"null":null})";
+    const struct
+    {
+        QByteArray bytes;
+        unsigned actions;
+    } cases[] = {
+        {"", 0},
+        {"\n \t\r\n", 0},
+        {action, 1},
+        {"\xEF\xBB\xBF" + action + "\r\n\n" + action + "\r\n", 2},
+    };
+    for (const auto& [bytes, actions] : cases) {
+        Recording recording;
+        EXPECT_FALSE(read(bytes, recording));
+        EXPECT_EQ(recording.actions.length(), actions) << bytes.toStdString();
+    }
+    // Across the chunks in which the file is read, and with a line longer than any of them.
+    QByteArray many = R"({"sysvar":{"name":"A","value":{"string":")" + QByteArray(3 << 20, 'x') + "\"}}}\n";
+    for (int i = 0; i < 200'000; ++i)
+        many += action + '\n';
+    Recording recording;
+    EXPECT_FALSE(read(many, recording));
+    EXPECT_EQ(recording.actions.length(), 200'001U);
+}
+
+TEST(RecordingFile, SaysWhatIsWrongAndWhere)
+{
+    const QByteArray ok = "{\"null\":null}\n";
+    const struct
+    {
+        QByteArray bytes;
+        const char* error;
+    } cases[] = {
+        {ok + ok + R"({"undo":1})", "walls.jsonl:3: \"undo\" is not a kind of line"},
+        {R"({})", "walls.jsonl:1: a kind of line is missing"},
+        {R"({"null":null,"sysvar":1})",
+         "walls.jsonl:1: only one kind of line is allowed, found \"null\" and \"sysvar\""},
+        {"[1]", "walls.jsonl:1: expected an object, found a list with 1 entry"},
+        {R"({"command":{"name":"L","actions":[{"null":null},{"null":null},{"added":{"class":"AcDbLine","handle":"2F","properties":[{"tag":"a","value":{"doubel":1}}]}}]}})",
+         "walls.jsonl:1: command.actions[2].added.properties[0].value: \"doubel\" is not a value type"},
+        {R"({"command":{"name":"L","actions":[{"object":{}}]}})",
+         "walls.jsonl:1: command.actions[0]: \"object\" is not a kind of action"},
+        {R"({"added":{"class":"AcDbLine","handle":"2G","properties":[]}})",
+         "walls.jsonl:1: added.handle: \"2G\" is not a handle: only hexadecimal digits are allowed"},
+        {R"({"added":{"class":"AcDbLine","handle":"12345678901234567","properties":[]}})",
+         "walls.jsonl:1: added.handle: \"12345678901234567\" is not a handle: more than 16 digits"},
+        {R"({"added":{"class":"AcDbLine","properties":[]}})", "walls.jsonl:1: added: the key \"handle\" is missing"},
+        {R"({"added":{"class":"AcDbLine","handle":"1","colour":2,"properties":[]}})",
+         "walls.jsonl:1: added: unknown key \"colour\""},
+        {R"({"sysvar":{"name":"A","value":{"int16":40000}}})",
+         "walls.jsonl:1: sysvar.value.int16: expected a whole number from -32768 to 32767, found the number 40000"},
+        {R"({"sysvar":{"name":"A","value":{"string":"a","double":1}}})",
+         "walls.jsonl:1: sysvar.value: only one value is allowed, found \"string\" and \"double\""},
+        {R"({"custom":{"kind":1.5,"data":[]}})",
+         "walls.jsonl:1: custom.kind: expected a whole number from -2147483648 to 2147483647, found the number 1.5"},
+        {R"({"custom":{"kind":0,"data":[{"point":[1,2]}]}})",
+         "walls.jsonl:1: custom.data[0].point: expected a point [x, y, z], found a list with 2 entries"},
+        {R"({"interaction":{"kind":"pont","prompt":"","result":null}})",
+         "walls.jsonl:1: interaction.kind: \"pont\" is not an interaction kind"},
+        {R"({"null":1})", "walls.jsonl:1: null: expected null, found the number 1"},
+        {R"({"object":{"class":"HostWeldSymbol","handle":"1"}})",
+         "walls.jsonl:1: object.class: \"HostWeldSymbol\" is not a class whose objects are known"},
+        {R"({"object":{"class":"AcDbEntity","handle":"1"}})",
+         "walls.jsonl:1: object.class: \"AcDbEntity\" is not a class whose objects are known"},
+        {R"({"object":{"handle":"1"}})", "walls.jsonl:1: object: the key \"class\" is missing"},
+        {"{\"object\":{\"class\":\"AcDbLine\",\"handle\":\"1\"}}\n{\"object\":{\"class\":\"AcDbArc\",\"handle\":\"01\"}}",
+         "walls.jsonl:2: object: the drawing has an object with the handle 1 already"},
+        {ok + R"({"recording":{"version":1}})", "walls.jsonl:2: recording: the header must be the first line"},
+        {R"({"recording":{"version":2}})",
+         "walls.jsonl:1: recording.version: expected the version 1, found the number 2"},
+        {R"({"recording":{"version":1,"language":6}})",
+         "walls.jsonl:1: recording.language: expected a whole number from 0 to 5, found the number 6"},
+        {ok + R"({"drawing":{}})", "walls.jsonl:2: drawing: this line must stand before the first action"},
+        {ok + R"({"object":{"class":"AcDbLine","handle":"1"}})",
+         "walls.jsonl:2: object: this line must stand before the first action"},
+        {"{\"drawing\":{}}\n{\"drawing\":{}}", "walls.jsonl:2: drawing: the drawing has been described before"},
+    };
+    for (const auto& [bytes, error] : cases)
+        EXPECT_EQ(complaint(bytes), error);
+}
+
+TEST(RecordingFile, SaysWhereBrokenTextIs)
+{
+    // The words come from what the parser saw; the line has to be right, and the text on one line.
+    const QByteArray cases[] = {
+        "{\"null\":nul}",
+        "{\"null\":null",
+        "{\"null\":null}}",
+        "{'null':null}",
+        "{\"sysvar\":{\"name\":\"A\",\"value\":{\"int32\":99999999999999999999}}}",
+        "{\"sysvar\":{\"name\":\"A\",\"value\":{\"double\":1e999}}}",
+        "{\"sysvar\":{\"name\":\"\xC3\x28\"}}",
+    };
+    for (const QByteArray& bytes : cases) {
+        const std::string error = complaint("\n" + bytes + "\n");
+        EXPECT_TRUE(error.starts_with("walls.jsonl:2: ")) << bytes.toStdString() << ": " << error;
+        EXPECT_EQ(error.find('\n'), std::string::npos) << error;
+    }
+    EXPECT_EQ(complaint("{}\n" + QByteArray(100, ' '), 50).substr(0, 14), "walls.jsonl:1:");
+    EXPECT_EQ(complaint("\n" + QByteArray(51, ' '), 50), "walls.jsonl:2: the line is longer than 50 bytes");
+
+    QByteArray deep = R"({"null":null})";
+    for (int i = 0; i < 201; ++i)
+        deep = R"({"command":{"name":"","actions":[)" + deep + "]}}";
+    EXPECT_NE(complaint(deep).find("commands are nested more than 200 deep"), std::string::npos);
+    EXPECT_NE(complaint(QByteArray(100'000, '[')), "");
+}
+
+TEST(RecordingFile, RefusesToWriteWhatHasNoForm)
+{
+    const auto refused = [](const QByteArray& line, auto spoil) {
+        Recording recording;
+        EXPECT_FALSE(read(line, recording));
+        spoil(recording);
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        return !WriteRecording(recording, buffer);
+    };
+    EXPECT_TRUE(refused("", [](Recording& recording) {
+        recording.drawing.settings.emplace_back("A", std::numeric_limits<double>::infinity());
+    }));
+    EXPECT_TRUE(refused("", [](Recording& recording) { recording.header.mode = -1; }));
+    EXPECT_FALSE(refused("", [](Recording&) {}));
+}
+
+} // namespace
