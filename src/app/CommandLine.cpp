@@ -1,0 +1,215 @@
+#include "app/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace inkmacro {
+
+namespace {
+
+QString codeOf(const TargetRow& row)
+{
+    return QString::number(static_cast<int>(row.target));
+}
+
+QString knownTargets()
+{
+    QStringList known;
+    for (const TargetRow& row : targetTable)
+        known.append(QString("%1 (%2)").arg(targetName(row), codeOf(row)));
+    return known.join(", ") + ", all";
+}
+
+std::vector<const TargetRow*> rowsOf(const QString& word)
+{
+    std::vector<const TargetRow*> rows;
+    for (const TargetRow& row : targetTable)
+        if (word == "all" || word == targetName(row) || word == codeOf(row))
+            rows.push_back(&row);
+    if (rows.empty())
+        throw WrongUse(QString("unknown target \"%1\"; known are %2").arg(word, knownTargets()));
+    return rows;
+}
+
+std::vector<const TargetRow*> parseTargets(const QString& list)
+{
+    std::vector<const TargetRow*> targets;
+    for (const QString& word : list.split(','))
+        for (const TargetRow* row : rowsOf(word.trimmed()))
+            if (std::find(targets.begin(), targets.end(), row) == targets.end())
+                targets.push_back(row);
+    return targets;
+}
+
+/// The arguments behind the program's name, last first, as the parser wants them. It would read a name in brackets as a
+/// list and `++` as the end of a command, so these names are made paths.
+std::vector<std::string> reversedArguments(int argc, const char* const* argv)
+{
+    std::vector<std::string> arguments;
+    for (int i = argc - 1; i > 0; --i) {
+        const std::string argument = argv[i];
+        const bool bracketed = argument.size() > 1 && argument.front() == '[' && argument.back() == ']';
+        arguments.push_back(bracketed || argument == "++" ? "./" + argument : argument);
+    }
+    return arguments;
+}
+
+QStringList decodeNames(const std::vector<std::string>& names)
+{
+    QStringList decoded;
+    for (const std::string& name : names)
+        decoded.append(QFile::decodeName(name.c_str()));
+    return decoded;
+}
+
+QString decodeName(const std::string& name)
+{
+    return QFile::decodeName(name.c_str());
+}
+
+/// What the parser fills in.
+struct RawArguments
+{
+    std::vector<std::string> files;
+    std::string targets;
+    std::string output;
+    int recordingLanguage = 0;
+    bool json = false;
+    bool version = false;
+};
+
+CommandLine::Command commandOf(const CLI::App& app, const RawArguments& raw)
+{
+    if (raw.version)
+        return CommandLine::Command::Version;
+    const std::string name = app.get_subcommands().empty() ? "help" : app.get_subcommands().front()->get_name();
+    if (name == "convert")
+        return CommandLine::Command::Convert;
+    if (name == "inspect")
+        return CommandLine::Command::Inspect;
+    if (name == "check")
+        return CommandLine::Command::Check;
+    return name == "schema" ? CommandLine::Command::Schema : CommandLine::Command::Help;
+}
+
+void checkFiles(const QStringList& files)
+{
+    if (files.contains(QString()))
+        throw WrongUse("a file name is empty");
+    if (files.count("-") > 1)
+        throw WrongUse("standard input (-) is given more than once");
+}
+
+} // namespace
+
+QString targetName(const TargetRow& row)
+{
+    return QString::fromLatin1(row.name.data(), static_cast<int>(row.name.size()));
+}
+
+CommandLine parseCommandLine(int argc, const char* const* argv)
+{
+    RawArguments raw;
+    CLI::App app;
+    app.require_subcommand(0, 1);
+    app.add_flag("--version", raw.version);
+
+    CLI::App* const convert = app.add_subcommand("convert");
+    convert->add_option("FILE", raw.files)->required();
+    convert->add_option("--target", raw.targets)->required();
+    const CLI::Option* const output = convert->add_option("--output", raw.output);
+    const CLI::Option* const language =
+        convert->add_option("--recording-language", raw.recordingLanguage)->check(CLI::Range(0, 5));
+    CLI::App* const inspect = app.add_subcommand("inspect");
+    inspect->add_option("FILE", raw.files)->required()->expected(1);
+    inspect->add_flag("--json", raw.json);
+    app.add_subcommand("check")->add_option("FILE", raw.files)->required();
+    app.add_subcommand("schema");
+
+    CommandLine line;
+    try {
+        app.parse(reversedArguments(argc, argv));
+    } catch (const CLI::CallForHelp&) {
+        return line;
+    } catch (const CLI::ParseError& error) {
+        throw WrongUse(decodeName(error.what()));
+    }
+    if (app.get_subcommands().empty() && !raw.version)
+        throw WrongUse("a command is missing");
+
+    line.command = commandOf(app, raw);
+    line.files = decodeNames(raw.files);
+    checkFiles(line.files);
+    line.json = raw.json;
+    if (line.command == CommandLine::Command::Convert)
+        line.targets = parseTargets(decodeName(raw.targets));
+    if (*output) {
+        if (raw.output.empty())
+            throw WrongUse("--output is empty");
+        line.output = decodeName(raw.output);
+    }
+    if (*language)
+        line.recordingLanguage = raw.recordingLanguage;
+    return line;
+}
+
+QString helpText()
+{
+    QString targets;
+    for (const TargetRow& row : targetTable)
+        targets += QString("  %1 (code %2)\n").arg(targetName(row), codeOf(row));
+    return QString(R"(inkmacro turns recordings of Inkwright into macro projects.
+
+Usage:
+  inkmacro convert FILE... --target TARGET[,TARGET...]|all [--output PATH]
+                   [--recording-language N]
+  inkmacro inspect FILE [--json]
+  inkmacro check FILE...
+  inkmacro schema
+  inkmacro --version | --help
+
+Commands:
+  convert  write each recording as a macro, and the project around it, in each
+           of the targets
+  inspect  show the actions of a recording as a tree, with counts; with --json
+           as one JSON document
+  check    read recordings and say what is wrong with them; writes nothing
+  schema   print the JSON Schema of one line of a recording
+
+FILE is a recording; - is standard input. Behind -- all arguments are files,
+whatever they begin with.
+
+Targets:
+%1  all: each of them
+
+Options of convert:
+  --output PATH
+      The macro file, or a directory (it ends in / or exists): then a folder
+      with the name of the target is made in it for each target, and the macro
+      is named after the recording: walls.jsonl becomes PATH/csharp/walls.cs,
+      standard input PATH/csharp/recording.cs. Without this option the current
+      directory is taken. Existing files are overwritten, a recording that is
+      being read never. Macros in one folder share the start-up program: that
+      of the last one stays.
+  --recording-language N
+      The host setting that decides on the byte order mark and on the form of
+      type names, 0 to 5. Without it the recording's header says, or else the
+      code of the target is taken.
+
+Several files or targets are converted side by side; one that fails does not
+stop the others. Standard output holds the paths written, one a line, the macro
+before its project; messages go to standard error.
+
+Exit status:
+  0  all was done
+  1  a conversion failed
+  2  wrong use: nothing was read or written
+  3  a recording could not be read: nothing was written for it
+)")
+        .arg(targets);
+}
+
+} // namespace inkmacro

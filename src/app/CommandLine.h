@@ -1,0 +1,48 @@
+#pragma once
+
+#include "targets/TargetTable.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <stdexcept>
+#include <vector>
+
+namespace inkmacro {
+
+/// The caller asked for something that cannot be begun. Nothing has been written when this is thrown.
+class WrongUse : public std::runtime_error
+{
+public:
+    explicit WrongUse(const QString& message) : std::runtime_error(message.toStdString()) {}
+    QString message() const { return QString::fromUtf8(what()); }
+};
+
+struct CommandLine
+{
+    enum class Command
+    {
+        Convert,
+        Inspect,
+        Check,
+        Schema,
+        Version,
+        Help
+    };
+
+    Command command = Command::Help;
+    QStringList files;                     ///< "-" is standard input, at most once
+    std::vector<const TargetRow*> targets; ///< each once, in the order asked for
+    std::optional<QString> output;
+    std::optional<int> recordingLanguage;
+    bool json = false;
+};
+
+/// Raises WrongUse.
+CommandLine parseCommandLine(int argc, const char* const* argv);
+
+QString targetName(const TargetRow& row);
+
+QString helpText();
+
+} // namespace inkmacro

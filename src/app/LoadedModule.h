@@ -1,0 +1,26 @@
+#pragma once
+
+#include "frame/CFxConverterIWAPIModule.h"
+
+#include <stdexcept>
+
+namespace inkmacro {
+
+/// The macro writer out of its library, ready for use. It is told of its end when this goes; the library itself stays
+/// loaded, because class descriptors and texts that come from it may be known to the host by then.
+class LoadedModule
+{
+public:
+    /// Raises std::runtime_error with the reason.
+    LoadedModule();
+    ~LoadedModule();
+    LoadedModule(const LoadedModule&) = delete;
+    LoadedModule& operator=(const LoadedModule&) = delete;
+
+    CFxConverterIWAPIModule* operator->() const { return module_.get(); }
+
+private:
+    OdSmartPtr<CFxConverterIWAPIModule> module_;
+};
+
+} // namespace inkmacro

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace inkmacro {
+
+/// Gives the process all three standard streams and makes a reader who has gone, a full disk and a file size limit
+/// errors to be handled instead of the end of the process. Comes before anything opens a file.
+void prepareStreams();
+
+/// Standard output. What cannot be written is dropped; finishOutput tells.
+void printOut(const QByteArray& bytes);
+void printOut(const QString& text);
+
+/// Standard error: bytes as they are, or one message of this program.
+void printError(const QByteArray& bytes);
+void complain(const QString& message);
+
+/// Sends the rest of standard output on its way. Gives `status`, raised to kFailed with a message when output was lost;
+/// a reader who closed the pipe has seen enough and is no failure.
+int finishOutput(int status);
+
+} // namespace inkmacro

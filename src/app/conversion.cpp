@@ -1,0 +1,116 @@
+// One recording, one target: what the host does around a conversion.
+
+#include "app/conversion.h"
+
+#include "app/ExitStatus.h"
+#include "app/LoadedModule.h"
+#include "app/ProgressLine.h"
+#include "app/console.h"
+#include "app/reading.h"
+#include "app/turns.h"
+#include "host/db/OdDbClasses.h"
+#include "host/kernel/CFxServices.h"
+
+#include <QFileInfo>
+
+namespace inkmacro {
+
+namespace {
+
+/// Makes a drawing the one that the user works in, for as long as this lives.
+class OpenDrawing
+{
+public:
+    explicit OpenDrawing(OdDbDatabase& database) : document_(&database)
+    {
+        GetFxSystemServices()->SetActiveDocument(&document_);
+    }
+    ~OpenDrawing() { GetFxSystemServices()->SetActiveDocument(nullptr); }
+    OpenDrawing(const OpenDrawing&) = delete;
+    OpenDrawing& operator=(const OpenDrawing&) = delete;
+
+private:
+    CFxDocument document_;
+};
+
+/// The recorder takes its first snapshot when recording begins, and the module notes the layout of that moment. Here
+/// the moment is past, and the layout may have another name now, so a drawing is made up that shows it.
+void repeatFirstSnapshot(LoadedModule& module, const Recording::Sheet& sheet)
+{
+    OdDbDatabase database;
+    const auto layout = odrxNew<OdDbLayout>(sheet.name, sheet.model);
+    database.setCurrentLayoutId(database.addObject(OdDbHandle(1), layout));
+    const OpenDrawing drawing(database);
+    std::vector<CFxSnapshotRecord> records;
+    module->TakeSnapshot(layout.get(), records);
+}
+
+std::int32_t runModule(const Job& job, const Recording& recording, std::optional<int> recordingLanguage)
+{
+    LoadedModule module;
+    const auto code = static_cast<std::uint32_t>(job.target->target);
+    const int language = recordingLanguage.value_or(recording.header.language.value_or(static_cast<int>(code)));
+    GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
+    if (recording.header.sheet)
+        repeatFirstSnapshot(module, *recording.header.sheet);
+
+    OdDbDatabase& database = *recording.database;
+    if (!recording.drawing.currentLayout.isNull())
+        database.setCurrentLayoutId(database.getOdDbObjectId(recording.drawing.currentLayout));
+    const OpenDrawing drawing(database);
+    const ProgressLine line([&] { return "writing " + megabytes(QFileInfo(job.macro).size()); });
+    return module->ConvertRecording(job.macro, code, static_cast<std::uint32_t>(recording.header.mode),
+                                    static_cast<CFxValueContext>(recording.header.context), recording.actions);
+}
+
+void printWritten(const Job& job)
+{
+    for (const QString& file : QStringList(job.macro) + job.projectFiles())
+        if (QFileInfo::exists(file))
+            printOut(file + '\n');
+}
+
+/// The file that a failure is about: the macro, or when that stands, the first file of the project which cannot be
+/// opened.
+QString failedFile(const Job& job)
+{
+    if (!QFileInfo(job.macro).isFile())
+        return job.macro;
+    for (const QString& name : job.projectFiles()) {
+        QFile file(name);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly))
+            return name;
+    }
+    return job.macro;
+}
+
+} // namespace
+
+int convertOne(const Job& job, std::optional<int> recordingLanguage)
+{
+    Recording recording;
+    if (!readOrComplain(job.input, recording))
+        return kUnreadable;
+    waitForTurn();
+    if (const QString refusal = refusalOf(job.macro); !refusal.isEmpty()) {
+        complain(refusal);
+        return kFailed;
+    }
+    try {
+        const std::int32_t status = runModule(job, recording, recordingLanguage);
+        if (status == kFxSuccess) {
+            printWritten(job);
+            return kDone;
+        }
+        complain(QString("conversion to %1 failed with status %2: %3")
+                     .arg(targetName(*job.target))
+                     .arg(status)
+                     .arg(failedFile(job)));
+    } catch (const std::exception& error) {
+        complain(QString("conversion to %1 failed: %2: %3")
+                     .arg(targetName(*job.target), QString::fromUtf8(error.what()), job.macro));
+    }
+    return kFailed;
+}
+
+} // namespace inkmacro

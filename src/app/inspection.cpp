@@ -1,0 +1,235 @@
+// A recording as a tree of lines, or as one JSON document.
+
+#include "app/inspection.h"
+
+#include "app/ExitStatus.h"
+#include "app/actionJson.h"
+#include "app/console.h"
+#include "app/reading.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLocale>
+#include <QSet>
+#include <QStringList>
+
+namespace inkmacro {
+
+namespace {
+
+/// Keeps a text on its line, whatever is in it.
+QString printable(const QString& text)
+{
+    QString shown;
+    for (const QChar letter : text) {
+        if (letter == '\n')
+            shown += "\\n";
+        else if (letter.category() == QChar::Other_Control)
+            shown += QString("\\x%1").arg(letter.unicode(), 2, 16, QChar('0'));
+        else
+            shown += letter;
+    }
+    return shown;
+}
+
+QString quoted(QString text)
+{
+    text.replace('\\', "\\\\").replace('"', "\\\"");
+    return '"' + printable(text) + '"';
+}
+
+QString valueText(const QJsonValue& value);
+
+QString listText(const QJsonArray& array)
+{
+    QStringList items;
+    for (const QJsonValue& item : array)
+        items.append(valueText(item));
+    return '(' + items.join(", ") + ')';
+}
+
+/// The keys that only name the type of a value that shows its type by itself are left out.
+QString objectText(const QJsonObject& object)
+{
+    static const QSet<QString> plain{"int",  "int8",  "int16",   "int32",   "double",
+                                     "bool", "point", "point2d", "point3d", "string"};
+    static const QSet<QString> words{"id", "color"};
+    QStringList items;
+    for (auto entry = object.begin(); entry != object.end(); ++entry) {
+        const QJsonValue value = entry.value();
+        if (plain.contains(entry.key()))
+            items.append(valueText(value));
+        else if (words.contains(entry.key()) && value.isString())
+            items.append(entry.key() + ' ' + value.toString());
+        else if (entry.key() != "type")
+            items.append(entry.key() + ' ' + valueText(value));
+    }
+    return items.isEmpty() ? QStringLiteral("no value") : items.join(", ");
+}
+
+QString valueText(const QJsonValue& value)
+{
+    switch (value.type()) {
+    case QJsonValue::Bool:
+        return value.toBool() ? "true" : "false";
+    case QJsonValue::Double:
+        return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
+    case QJsonValue::String:
+        return quoted(value.toString());
+    case QJsonValue::Array:
+        return listText(value.toArray());
+    case QJsonValue::Object:
+        return objectText(value.toObject());
+    default:
+        return "null";
+    }
+}
+
+QString textOf(const QJsonObject& body, const char* key)
+{
+    return printable(body[key].toString());
+}
+
+/// Class and handle, as far as they are known.
+QString objectName(const QJsonObject& body)
+{
+    return QString(textOf(body, "class") + ' ' + textOf(body, "handle")).trimmed();
+}
+
+QString addedText(const QJsonObject& body)
+{
+    const int extra = body["extra"].toInt();
+    QString counts = counted(body["properties"].toInt(), "property", "properties");
+    if (extra != body["properties"].toInt())
+        counts += QString(", %1 extra").arg(extra);
+    return QString("%1 (%2)").arg(objectName(body), counts);
+}
+
+QString propertyText(const QJsonObject& body)
+{
+    QString text = textOf(body, "tag");
+    if (body.contains("index"))
+        text += '[' + valueText(body["index"]) + ']';
+    text += " = " + valueText(body["value"]);
+    QStringList more;
+    if (const QString group = textOf(body, "group"); !group.isEmpty())
+        more.append("group " + group);
+    if (body.contains("old"))
+        more.append("was " + valueText(body["old"]));
+    if (!more.isEmpty())
+        text += " (" + more.join(", ") + ')';
+    const QString object = objectName(body);
+    return object.isEmpty() ? text : object + ": " + text;
+}
+
+QString interactionText(const QJsonObject& body)
+{
+    const QString kind = body["kind"].isString() ? body["kind"].toString() : valueText(body["kind"]);
+    const QString answer = body["result"].isNull() ? QStringLiteral("no answer") : valueText(body["result"]);
+    QString text = QString("%1 %2 = %3").arg(kind, valueText(body["prompt"]), answer);
+    const QJsonObject keywords = body["keywords"].toObject();
+    if (!keywords.isEmpty())
+        text += QString(" (keywords %1, global %2)").arg(valueText(keywords["local"]), valueText(keywords["global"]));
+    return text;
+}
+
+QString selectionText(const QJsonObject& body)
+{
+    const QJsonArray picked = body["objects"].toArray();
+    QStringList objects;
+    for (const QJsonValue& object : picked)
+        objects.append(objectName(object.toObject()));
+    return QString("of %1: %2").arg(counted(objects.size(), "object", "objects"), objects.join(", "));
+}
+
+QString customText(const QJsonObject& body)
+{
+    const QJsonArray data = body["data"].toArray();
+    QStringList types;
+    for (const QJsonValue& type : data)
+        types.append(type.toString());
+    const QString kind = valueText(body["kind"]);
+    return types.isEmpty() ? kind + " (no data)" : QString("%1 (%2)").arg(kind, types.join(", "));
+}
+
+/// What stands behind the kind in an action's line.
+QString summary(const QString& kind, const QJsonObject& body)
+{
+    if (kind == "command")
+        return QString("%1 (%2)").arg(textOf(body, "name"),
+                                      counted(body["actions"].toArray().size(), "action", "actions"));
+    if (kind == "added")
+        return addedText(body);
+    if (kind == "modified")
+        return QString("%1 (%2)").arg(objectName(body), counted(body["properties"].toInt(), "property", "properties"));
+    if (kind == "property")
+        return propertyText(body);
+    if (kind == "sysvar")
+        return QString("%1 = %2").arg(textOf(body, "name"), valueText(body["value"]));
+    if (kind == "interaction")
+        return interactionText(body);
+    if (kind == "selection")
+        return selectionText(body);
+    if (kind == "custom")
+        return customText(body);
+    return textOf(body, "class");
+}
+
+void printTree(const QJsonObject& action, int depth)
+{
+    const QString kind = action.begin().key();
+    const QJsonObject body = action.begin().value().toObject();
+    const QString text = summary(kind, body);
+    printOut(QString(depth * 2, ' ') + (text.isEmpty() ? kind : kind + ' ' + text) + '\n');
+    const QJsonArray children = body["actions"].toArray();
+    for (const QJsonValue& child : children)
+        printTree(child.toObject(), depth + 1);
+}
+
+QString countsText(const ActionCounts& counts)
+{
+    QStringList items;
+    for (const auto& [kind, count] : counts)
+        items.append(QString("%1 %2").arg(count).arg(kind));
+    return items.isEmpty() ? QStringLiteral("none") : items.join(", ");
+}
+
+/// One top-level action at a time: a recording may be large.
+void printAsTree(const QString& path, const Recording& recording)
+{
+    const auto context = static_cast<CFxValueContext>(recording.header.context);
+    ActionCounts counts;
+    printOut(QString("%1: %2\n").arg(path, counted(recording.actions.length(), "action", "actions")));
+    for (const OdRxObjectPtr& action : recording.actions)
+        printTree(actionToJson(action.get(), context, counts), 0);
+    printOut("counts: " + countsText(counts) + '\n');
+}
+
+void printAsJson(const QString& path, const Recording& recording)
+{
+    const auto context = static_cast<CFxValueContext>(recording.header.context);
+    ActionCounts counts;
+    QJsonArray actions;
+    for (const OdRxObjectPtr& action : recording.actions)
+        actions.append(actionToJson(action.get(), context, counts));
+    QJsonObject numbers;
+    for (const auto& [kind, count] : counts)
+        numbers[kind] = count;
+    printOut(QJsonDocument({{"file", path}, {"actions", actions}, {"counts", numbers}}).toJson());
+}
+
+} // namespace
+
+int inspectRecording(const QString& path, bool json)
+{
+    Recording recording;
+    if (!readOrComplain(path, recording))
+        return kUnreadable;
+    if (json)
+        printAsJson(path, recording);
+    else
+        printAsTree(path, recording);
+    return kDone;
+}
+
+} // namespace inkmacro

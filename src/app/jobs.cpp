@@ -1,0 +1,139 @@
+// Which files a call reads and writes, and whether they get in one another's way.
+
+#include "app/jobs.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <map>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace inkmacro {
+
+namespace {
+
+/// `walls` for any `walls.xyz.jsonl`: the project takes its name from the macro by the same rule, and the two have to
+/// agree.
+QString baseNameOf(const QString& input)
+{
+    QString name = input == "-" ? QString() : QFileInfo(input).fileName();
+    while (name.startsWith('.'))
+        name.remove(0, 1);
+    const QString base = QFileInfo(name).baseName();
+    return base.isEmpty() ? QStringLiteral("recording") : base;
+}
+
+QString latin(std::string_view text)
+{
+    return QString::fromLatin1(text.data(), static_cast<int>(text.size()));
+}
+
+bool isDirectory(const QString& path)
+{
+    return path.endsWith('/') || QFileInfo(path).isDir();
+}
+
+QString macroPath(const QString& directory, const QString& input, const TargetRow& row)
+{
+    const QString prefix = directory.isEmpty() || directory.endsWith('/') ? directory : directory + '/';
+    return prefix + targetName(row) + '/' + baseNameOf(input) + '.' + latin(row.extension);
+}
+
+QString identity(const struct stat& found)
+{
+    return QString("%1:%2").arg(found.st_dev).arg(found.st_ino);
+}
+
+/// The same text for two paths that name the same file, through links of either kind too. A file that is missing goes
+/// by its name in its directory.
+QString placeOf(const QString& path)
+{
+    struct stat found = {};
+    if (stat(QFile::encodeName(path).constData(), &found) == 0)
+        return identity(found);
+    const QFileInfo missing(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    return placeOf(missing.absolutePath()) + '/' + missing.fileName();
+}
+
+/// Empty for a standard input that is no file.
+QString placeOfInput(const QString& input)
+{
+    if (input != "-")
+        return placeOf(input);
+    struct stat found = {};
+    return fstat(STDIN_FILENO, &found) == 0 && S_ISREG(found.st_mode) ? identity(found) : QString();
+}
+
+std::vector<Job> listJobs(const CommandLine& line)
+{
+    std::vector<Job> jobs;
+    const QString output = line.output.value_or(QString());
+    const bool intoDirectory = output.isEmpty() || isDirectory(output);
+    for (const QString& input : line.files)
+        for (const TargetRow* row : line.targets)
+            jobs.push_back({input, row, intoDirectory ? macroPath(output, input, *row) : output});
+    if (!intoDirectory && jobs.size() > 1)
+        throw WrongUse(QString("%1 results cannot all be %2; a directory is needed, with / at its end")
+                           .arg(jobs.size())
+                           .arg(output));
+    return jobs;
+}
+
+void checkMacros(const std::vector<Job>& jobs)
+{
+    std::map<QString, const Job*> macros;
+    for (const Job& job : jobs)
+        if (const auto [other, fresh] = macros.emplace(placeOf(job.macro), &job); !fresh)
+            throw WrongUse(QString("%1 and %2 would both become %3").arg(other->second->input, job.input, job.macro));
+    // Projects may share a file, but a macro that one of them replaces is lost.
+    for (const Job& job : jobs)
+        for (const QString& file : job.projectFiles())
+            if (const auto macro = macros.find(placeOf(file)); macro != macros.end())
+                throw WrongUse(QString("the macro of %1 and a project file of %2 would both become %3")
+                                   .arg(macro->second->input, job.input, file));
+}
+
+void checkInputs(const std::vector<Job>& jobs, const QStringList& inputs)
+{
+    std::map<QString, QString> places;
+    for (const QString& input : inputs)
+        if (const QString place = placeOfInput(input); !place.isEmpty())
+            places.emplace(place, input);
+    for (const Job& job : jobs)
+        for (const QString& output : QStringList(job.macro) + job.projectFiles())
+            if (const auto input = places.find(placeOf(output)); input != places.end())
+                throw WrongUse(QString("%1 would overwrite the recording %2").arg(output, input->second));
+}
+
+} // namespace
+
+QStringList Job::projectFiles() const
+{
+    const QString directory = macro.left(macro.lastIndexOf('/') + 1);
+    const QString project = QFileInfo(macro).baseName();
+    QStringList files;
+    for (QString name : latin(target->projectFiles).split(' ', Qt::SkipEmptyParts))
+        files.append(directory + name.replace("%1", project));
+    return files;
+}
+
+std::vector<Job> planJobs(const CommandLine& line)
+{
+    std::vector<Job> jobs = listJobs(line);
+    checkInputs(jobs, line.files);
+    checkMacros(jobs);
+    return jobs;
+}
+
+QString refusalOf(const QString& macro)
+{
+    struct stat found = {};
+    if (stat(QFile::encodeName(macro).constData(), &found) != 0 || S_ISREG(found.st_mode))
+        return {};
+    return macro + " exists and is not a regular file";
+}
+
+} // namespace inkmacro

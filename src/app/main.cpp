@@ -1,0 +1,83 @@
+// inkmacro: plays the host around the macro writer.
+
+#include "app/CommandLine.h"
+#include "app/ExitStatus.h"
+#include "app/console.h"
+#include "app/conversion.h"
+#include "app/inspection.h"
+#include "app/processes.h"
+#include "app/reading.h"
+#include "recordfile/RecordingSchema.h"
+
+#include <QCoreApplication>
+#include <QTextCodec>
+
+#include <clocale>
+#include <cstring>
+
+#include <langinfo.h>
+
+using namespace inkmacro;
+
+namespace {
+
+/// In the C locale, which is that of many a build machine, Qt would lose every letter of a file name that is not ASCII.
+void useUnicodeNames()
+{
+    std::setlocale(LC_CTYPE, "");
+    if (std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+int convert(const CommandLine& line)
+{
+    const std::vector<Job> jobs = planJobs(line);
+    return jobs.size() == 1 ? convertOne(jobs.front(), line.recordingLanguage)
+                            : convertInProcesses(jobs, line.recordingLanguage);
+}
+
+int run(const CommandLine& line)
+{
+    switch (line.command) {
+    case CommandLine::Command::Convert:
+        return convert(line);
+    case CommandLine::Command::Inspect:
+        return inspectRecording(line.files.front(), line.json);
+    case CommandLine::Command::Check:
+        return checkRecordings(line.files);
+    case CommandLine::Command::Schema:
+        printOut(RecordingSchema());
+        break;
+    case CommandLine::Command::Version:
+        printOut(QByteArray("inkmacro " INKMACRO_VERSION "\n"));
+        break;
+    case CommandLine::Command::Help:
+        printOut(helpText());
+        break;
+    }
+    return kDone;
+}
+
+int runOrComplain(int argc, const char* const* argv)
+{
+    try {
+        return run(parseCommandLine(argc, argv));
+    } catch (const WrongUse& wrong) {
+        complain(wrong.message() + "\nTry 'inkmacro --help'.");
+        return kWrongUse;
+    } catch (const std::exception& error) {
+        complain(QString::fromUtf8(error.what()));
+        return kFailed;
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    prepareStreams();
+    useUnicodeNames();
+    const std::vector<const char*> arguments(argv, argv + argc);
+    const QCoreApplication application(argc, argv);
+    return finishOutput(runOrComplain(static_cast<int>(arguments.size()), arguments.data()));
+}

@@ -1,0 +1,49 @@
+// Reading recordings, and the command that does no more than that.
+
+#include "app/reading.h"
+
+#include "app/ExitStatus.h"
+#include "app/ProgressLine.h"
+#include "app/console.h"
+#include "recordfile/RecordingReader.h"
+
+#include <atomic>
+
+namespace inkmacro {
+
+bool readOrComplain(const QString& path, Recording& recording)
+{
+    std::optional<RecordingError> error;
+    {
+        std::atomic<qint64> done = 0;
+        std::atomic<qint64> total = 0; // not above 0 when it is not known
+        const ProgressLine line([&] { return "reading " + (total > 0 ? progressBar(done, total) : megabytes(done)); });
+        error = ReadRecording(path, recording, [&](qint64 doneNow, qint64 totalNow) {
+            done = doneNow;
+            total = totalNow;
+        });
+    }
+    if (error)
+        printError((error->text() + '\n').toLocal8Bit());
+    return !error;
+}
+
+QString counted(qint64 count, const char* one, const char* many)
+{
+    return QString::number(count) + ' ' + (count == 1 ? one : many);
+}
+
+int checkRecordings(const QStringList& files)
+{
+    int status = kDone;
+    for (const QString& file : files) {
+        Recording recording;
+        if (readOrComplain(file, recording))
+            printOut(QString("%1: ok, %2\n").arg(file, counted(recording.actions.length(), "action", "actions")));
+        else
+            status = kUnreadable;
+    }
+    return status;
+}
+
+} // namespace inkmacro

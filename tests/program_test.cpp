@@ -1,0 +1,237 @@
+// The program as a person meets it: what it prints, what it leaves on disk, how it ends.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <unistd.h>
+
+namespace {
+
+struct Outcome
+{
+    int status;
+    QString out;
+    QString err;
+};
+
+class Program : public testing::Test
+{
+protected:
+    QString path(const QString& name) const { return folder_.filePath(name); }
+
+    QString write(const QString& name, const QByteArray& bytes) const
+    {
+        QDir().mkpath(QFileInfo(path(name)).path());
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return path(name);
+    }
+    QByteArray contents(const QString& name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    bool exists(const QString& name) const { return QFileInfo::exists(path(name)); }
+
+    Outcome run(const QStringList& arguments, const QByteArray& input = {}, const QString& limits = {}) const
+    {
+        QProcess process;
+        process.setWorkingDirectory(folder_.path());
+        // Through a shell, which sets limits for the program alone.
+        process.start("/bin/sh", QStringList{"-c", limits + "exec \"$0\" \"$@\"", INKMACRO_PROGRAM} + arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        EXPECT_TRUE(process.waitForFinished(120'000));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+private:
+    QTemporaryDir folder_;
+};
+
+const QByteArray line =
+    R"({"command":{"name":"LINE","actions":[{"added":{"class":"AcDbLine","handle":"2F","properties":[{"tag":"End X","value":4.5}]}}]}})"
+    "\n";
+/// No handler has a kind like this.
+const QByteArray refused = "{\"custom\":{\"kind\":56,\"data\":[]}}\n";
+
+TEST_F(Program, ConvertsIntoAFolderATarget)
+{
+    write("walls.v2.jsonl", line);
+    const Outcome outcome = run({"convert", "walls.v2.jsonl", "--target", "csharp", "--output", "out/"});
+    EXPECT_EQ(outcome.status, 0) << outcome.err.toStdString();
+    EXPECT_EQ(outcome.out, "out/csharp/walls.cs\nout/csharp/Program.cs\nout/csharp/walls.csproj\n");
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_TRUE(contents("out/csharp/walls.cs").contains("    class walls\n"));
+    EXPECT_TRUE(contents("out/csharp/walls.cs").contains(", 4.50000000000000, 0.00000000000000, "));
+    EXPECT_TRUE(exists("out/csharp/Program.cs") && exists("out/csharp/walls.csproj"));
+}
+
+TEST_F(Program, ConvertsToTheNamedFileAndFromStandardInput)
+{
+    EXPECT_EQ(run({"convert", "-", "--target", "1", "--output", "deep/er/m.cs"}, line).out.split('\n').first(),
+              "deep/er/m.cs");
+    EXPECT_TRUE(exists("deep/er/m.csproj"));
+    EXPECT_EQ(run({"convert", "-", "--target", "csharp"}, line).out.split('\n').first(), "csharp/recording.cs");
+    // An empty recording is one: head and tail.
+    EXPECT_EQ(run({"convert", "-", "--target", "csharp", "--output", "empty.cs"}, "").status, 0);
+    EXPECT_TRUE(contents("empty.cs").endsWith("        }\n    }\n}\n"));
+}
+
+TEST_F(Program, OneFailureDoesNotStopTheOthers)
+{
+    write("a.jsonl", line);
+    write("b.jsonl", refused);
+    write("c.jsonl", "{\"undo\":1}\n");
+    write("d.jsonl", line);
+    const Outcome outcome =
+        run({"convert", "a.jsonl", "b.jsonl", "c.jsonl", "d.jsonl", "--target", "csharp", "--output", "out/"});
+    EXPECT_EQ(outcome.status, 3);
+    EXPECT_TRUE(exists("out/csharp/a.cs") && exists("out/csharp/d.cs"));
+    EXPECT_FALSE(exists("out/csharp/b.cs") || exists("out/csharp/c.cs"));
+    EXPECT_TRUE(outcome.err.contains("conversion to csharp failed with status -5001: out/csharp/b.cs"));
+    EXPECT_TRUE(outcome.err.contains("c.jsonl:1: \"undo\" is not a kind of line"));
+    EXPECT_EQ(outcome.out.count("a.cs\n") + outcome.out.count("d.cs\n"), 2);
+}
+
+TEST_F(Program, LeavesAnOlderMacroAloneWhenTheRecordingCannotBeRead)
+{
+    const struct
+    {
+        const char* what;
+        QByteArray bytes;
+    } cases[] = {
+        {"broken JSON", line + "{\"command\":\n"},
+        {"unknown kind", line + "{\"undo\":1}\n"},
+        {"unknown class", "{\"object\":{\"class\":\"AcDbChair\",\"handle\":\"1\"}}\n" + line},
+        {"no handle", line + "{\"added\":{\"class\":\"AcDbLine\",\"handle\":\"xyz\",\"properties\":[]}}\n"},
+        {"number", line + "{\"sysvar\":{\"name\":\"A\",\"value\":{\"int32\":123456789012345678901234567890}}}\n"},
+        {"wrong form", line + "{\"added\":[]}\n"},
+        {"no UTF-8", line + "{\"sysvar\":{\"name\":\"\xFF\xFE\"}}\n"},
+        {"an endless line", line + QByteArray(300'000'000, ' ')},
+    };
+    write("out/walls.cs", "older");
+    for (const auto& [what, bytes] : cases) {
+        write("walls.jsonl", bytes);
+        const Outcome outcome = run({"convert", "walls.jsonl", "--target", "csharp", "--output", "out/walls.cs"});
+        EXPECT_EQ(outcome.status, 3) << what;
+        EXPECT_TRUE(outcome.err.startsWith("walls.jsonl:")) << what << ": " << outcome.err.toStdString();
+        EXPECT_EQ(outcome.err.count('\n'), 1) << what << ": " << outcome.err.toStdString();
+        EXPECT_EQ(outcome.out, "") << what;
+        EXPECT_EQ(contents("out/walls.cs"), "older") << what;
+        EXPECT_FALSE(exists("out/walls.csproj")) << what;
+    }
+    for (const char* const missing : {"nowhere.jsonl", "out"}) {
+        const Outcome outcome = run({"convert", missing, "--target", "csharp", "--output", "out/walls.cs"});
+        EXPECT_EQ(outcome.status, 3) << missing;
+        EXPECT_TRUE(outcome.err.startsWith(QString(missing) + ": cannot be opened: ")) << outcome.err.toStdString();
+        EXPECT_EQ(contents("out/walls.cs"), "older");
+    }
+}
+
+TEST_F(Program, LeavesNoPartOfAMacroThatCouldNotBeWritten)
+{
+    write("walls.jsonl", line);
+    // A file where a directory is wanted stops everybody, root too.
+    write("file", "");
+    Outcome outcome = run({"convert", "walls.jsonl", "--target", "csharp", "--output", "file/walls.cs"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(outcome.err.contains("-5001") && outcome.err.contains("file/walls.cs")) << outcome.err.toStdString();
+
+    QByteArray many;
+    for (int i = 0; i < 200; ++i)
+        many += line;
+    write("many.jsonl", many);
+    outcome = run({"convert", "many.jsonl", "--target", "csharp", "--output", "full.cs"}, {}, "ulimit -f 8; ");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(outcome.err.contains("-5001") && outcome.err.contains("full.cs")) << outcome.err.toStdString();
+    EXPECT_FALSE(exists("full.cs"));
+
+    outcome = run({"convert", "walls.jsonl", "--target", "csharp", "--output", "/dev/full"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(outcome.err.contains("/dev/full exists and is not a regular file")) << outcome.err.toStdString();
+    EXPECT_TRUE(QFileInfo::exists("/dev/full"));
+
+    if (geteuid() != 0) {
+        QDir().mkdir(path("locked"));
+        QFile::setPermissions(path("locked"), QFile::ReadOwner | QFile::ExeOwner);
+        EXPECT_EQ(run({"convert", "walls.jsonl", "--target", "csharp", "--output", "locked/walls.cs"}).status, 1);
+    }
+}
+
+TEST_F(Program, NamesTheProjectFileThatCouldNotBeWritten)
+{
+    write("walls.jsonl", line);
+    QDir().mkpath(path("out/csharp/walls.csproj"));
+    const Outcome outcome = run({"convert", "walls.jsonl", "--target", "csharp", "--output", "out/"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(outcome.err.contains("-5001") && outcome.err.contains("out/csharp/walls.csproj"))
+        << outcome.err.toStdString();
+    EXPECT_TRUE(exists("out/csharp/walls.cs")) << "the macro stays";
+}
+
+TEST_F(Program, NeverOverwritesItsInput)
+{
+    write("walls.cs", line);
+    QFile::link(path("walls.cs"), path("link.cs"));
+    for (const char* const output : {"walls.cs", "./walls.cs", "link.cs"}) {
+        const Outcome outcome = run({"convert", "walls.cs", "--target", "csharp", "--output", output});
+        EXPECT_EQ(outcome.status, 2) << output;
+        EXPECT_TRUE(outcome.err.contains("would overwrite the recording")) << outcome.err.toStdString();
+    }
+    EXPECT_EQ(contents("walls.cs"), line);
+}
+
+TEST_F(Program, RefusesWrongUseBeforeItReadsAnything)
+{
+    write("walls.jsonl", line);
+    write("other/walls.jsonl", line);
+    const QStringList cases[] = {
+        {},
+        {"transmogrify"},
+        {"convert", "walls.jsonl"},
+        {"convert", "--target", "csharp"},
+        {"convert", "walls.jsonl", "--target", "cobol"},
+        {"convert", "walls.jsonl", "--target", "7"},
+        {"convert", "walls.jsonl", "--target", "csharp", "--recording-language", "6"},
+        {"convert", "-", "-", "--target", "csharp"},
+        {"convert", "walls.jsonl", "other/walls.jsonl", "--target", "csharp", "--output", "out/"},
+        {"convert", "walls.jsonl", "other/walls.jsonl", "--target", "csharp", "--output", "one.cs"},
+        {"inspect"},
+    };
+    for (const QStringList& arguments : cases) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, 2) << arguments.join(' ').toStdString();
+        EXPECT_TRUE(outcome.err.contains("inkmacro --help")) << arguments.join(' ').toStdString();
+    }
+    EXPECT_FALSE(exists("out") || exists("csharp") || exists("one.cs"));
+}
+
+TEST_F(Program, ShowsRecordingsAndItself)
+{
+    write("walls.jsonl", line + refused + "{\"sysvar\":{\"name\":\"LTSCALE\",\"value\":{\"double\":0.5}}}\n");
+    EXPECT_EQ(run({"inspect", "walls.jsonl"}).out, "walls.jsonl: 3 actions\n"
+                                                   "command LINE (1 action)\n"
+                                                   "  added AcDbLine 2F (1 property)\n"
+                                                   "custom 56 (no data)\n"
+                                                   "sysvar LTSCALE = 0.5\n"
+                                                   "counts: 1 added, 1 command, 1 custom, 1 sysvar\n");
+    const QString json = run({"inspect", "walls.jsonl", "--json"}).out;
+    EXPECT_TRUE(json.contains("\"LTSCALE\"") && json.contains("\"counts\""));
+    EXPECT_EQ(run({"check", "walls.jsonl", "walls.jsonl"}).out, "walls.jsonl: ok, 3 actions\n"
+                                                                "walls.jsonl: ok, 3 actions\n");
+    EXPECT_EQ(run({"check", "walls.jsonl", "nowhere.jsonl"}).status, 3);
+    EXPECT_TRUE(run({"--version"}).out.startsWith("inkmacro "));
+    EXPECT_TRUE(run({"--help"}).out.contains("Exit status:"));
+    EXPECT_TRUE(run({"schema"}).out.contains("\"$defs\""));
+}
+
+} // namespace

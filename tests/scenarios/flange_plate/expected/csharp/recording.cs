@@ -1,0 +1,93 @@
+using System;
+using Inkwright;
+using System.Runtime.InteropServices;
+
+// This code was automatically generated.
+namespace IWAPIMacros
+{
+    class recording
+    {
+        public void Run( Inkwright.Application iwApp )
+        {
+            Document iwDoc = iwApp.GetActiveDocument();
+            if (null == iwDoc)
+            {
+                return;
+            }
+
+            Model iwModel = iwDoc.GetModel();
+            if (null == iwModel)
+            {
+                return;
+            }
+
+            SketchManager iwSketchManager;
+            iwSketchManager = iwModel.GetSketchManager();
+            if (null == iwSketchManager)
+            {
+                return;
+            }
+
+            object[] sheetsList = (object[])iwDoc.GetSheets();
+            Sheet iwSheet = (Sheet)sheetsList[1];
+            if (null == iwSheet)
+            {
+                 return;
+            }
+
+            ViewManager iwViewManager = iwDoc.GetViewManager();
+            if (null == iwViewManager)
+            {
+                return;
+            }
+
+            iwSetCommandOptionResult_e result;
+            Line line1;
+            Line line2;
+            Line line3;
+            Line line4;
+            {
+                line1 = iwSketchManager.InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 120.00000000000000, 0.00000000000000, 0.00000000000000 );
+                line2 = iwSketchManager.InsertLine( 120.00000000000000, 0.00000000000000, 0.00000000000000, 120.00000000000000, 80.50000000000000, 0.00000000000000 );
+                line3 = iwSketchManager.InsertLine( 120.00000000000000, 80.50000000000000, 0.00000000000000, 0.00000000000000, 80.50000000000000, 0.00000000000000 );
+                line4 = iwSketchManager.InsertLine( 0.00000000000000, 80.50000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 );
+            }
+            Circle circle5;
+            Circle circle6;
+            {
+                circle5 = iwSketchManager.InsertCircle( 20.00000000000000, 20.00000000000000, 0.00000000000000, 6.25000000000000 );
+                circle6 = iwSketchManager.InsertCircle( 100.00000000000000, 20.00000000000000, 0.00000000000000, 1.00000000000000 );
+            }
+            CircleArc circlearc7;
+            CircleArc circlearc8;
+            {
+                circlearc7 = iwSketchManager.InsertArc( 60.00000000000000, 40.00000000000000, 0.00000000000000, 15.00000000000000, 0.78539816339745, 2.35619449019234 );
+                circlearc8 = iwSketchManager.InsertArc( 60.00000000000000, 40.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 );
+            }
+            EllipseArc ellipsearc10;
+            EllipseArc ellipsearc11;
+            {
+                ellipsearc10 = iwSketchManager.InsertEllipseDistanceToOtherAxis( 90.00000000000000, 40.00000000000000, 30.00000000000000, 40.00000000000000, 12.50000000000000 );
+                ellipsearc11 = iwSketchManager.InsertEllipseArcDistanceToOtherAxis( 60.10000000000000, 40.20000000000000, 59.90000000000000, 39.80000000000000, 1.00000000000000, 0.00000000000000, 6.28318530717958 );
+            }
+            Point point12;
+            Point point13;
+            {
+                point12 = iwSketchManager.InsertPoint( -0.00000000000000, 0.00000000000000, 0.00000000000001 );
+                point13 = iwSketchManager.InsertPoint( 0.00000000000000, 7.00000000000000, 0.00000000000000 );
+            }
+            Ray ray14;
+            {
+                ray14 = iwSketchManager.InsertRay( 1.00000000000000, 2.00000000000000, 3.00000000000000, 4.00000000000000, 5.00000000000000, 6.00000000000000 );
+            }
+            InfiniteLine infiniteline15;
+            {
+                infiniteline15 = iwSketchManager.InsertInfiniteLine( -1.00000000000000, -2.00000000000000, -3.00000000000000, 123456789.12345679104328, 0.00000000000000, 0.33333333333333 );
+            }
+            Circle circle16;
+            circle16 = iwSketchManager.InsertCircle( 10.06250000000000, 11.00003051757813, 0.00000000000000, 2.00000000000000 );
+            Line line18;
+            line18 = iwSketchManager.InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.10000000000000, 0.20000000000000, 0.00000000000000 );
+        }
+    }
+}

@@ -1,0 +1,87 @@
+using System;
+using Inkwright;
+using System.Runtime.InteropServices;
+
+// This code was automatically generated.
+namespace IWAPIMacros
+{
+    class recording
+    {
+        public void Run( Inkwright.Application iwApp )
+        {
+            Document iwDoc = iwApp.GetActiveDocument();
+            if (null == iwDoc)
+            {
+                return;
+            }
+
+            Model iwModel = iwDoc.GetModel();
+            if (null == iwModel)
+            {
+                return;
+            }
+
+            SketchManager iwSketchManager;
+            object[] sheetsList = (object[])iwDoc.GetSheets();
+            Sheet iwSheet = (Sheet)sheetsList[1];
+            if (null == iwSheet)
+            {
+                 return;
+            }
+
+            iwSheet = iwDoc.GetSheet("Grundriss EG");
+            if (null == iwSheet)
+            {
+                 return;
+            }
+
+            iwSheet.Activate();
+
+            iwSketchManager = iwSheet.GetSketchManager();
+            if (null == iwSketchManager)
+            {
+                return;
+            }
+
+            ViewManager iwViewManager = iwDoc.GetViewManager();
+            if (null == iwViewManager)
+            {
+                return;
+            }
+
+            iwSetCommandOptionResult_e result;
+            Line line1;
+            Line line2;
+            {
+                line1 = iwSketchManager.InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 2.80000000000000, 0.00000000000000, 0.00000000000000 );
+                line2 = iwSketchManager.InsertLine( 0.00000000000000, 0.28000000000000, 0.00000000000000, 2.80000000000000, 0.28000000000000, 0.00000000000000 );
+            }
+                line4 = iwSketchManager.InsertLine( 1.40000000000000, 0.00000000000000, 0.00000000000000, 1.40000000000000, 0.28000000000000, 0.00000000000000 );
+            TextStyle textstyle5;
+            Line line6;
+            {
+                line6 = iwSketchManager.InsertLine( 1.40000000000000, 0.28000000000000, 0.00000000000000, 1.40000000000000, 0.56000000000000, 0.00000000000000 );
+            }
+            Note note7;
+            Line line8;
+            {
+                line8 = iwSketchManager.InsertLine( 3.00000000000000, 0.00000000000000, 0.00000000000000, 4.00000000000000, 1.00000000000000, 0.00000000000000 );
+            }
+            Line line9;
+            Line line10;
+            {
+                line9 = iwSketchManager.InsertLine( 5.00000000000000, 0.00000000000000, 0.00000000000000, 6.00000000000000, 0.00000000000000, 0.00000000000000 );
+            }
+            Line line11;
+            {
+                line11 = iwSketchManager.InsertLine( 7.00000000000000, 0.00000000000000, 0.00000000000000, 8.00000000000000, 0.00000000000000, 0.00000000000000 );
+            }
+            LayerManager iwLayerManager_1 = iwDoc.GetLayerManager();
+            Layer layer13 = iwLayerManager_1.GetLayer( "0" );
+            {
+                LayerManager iwLayerManager_2 = iwDoc.GetLayerManager();
+                Layer layer14 = iwLayerManager_2.GetLayer( "0" );
+            }
+        }
+    }
+}

@@ -1,0 +1,91 @@
+// Whole recordings, each converted for each target and compared byte for byte with the files beside it.
+
+#include "targets/TargetTable.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QMap>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace {
+
+struct Scenario
+{
+    QString folder;
+    std::string_view target;
+};
+
+void PrintTo(const Scenario& scenario, std::ostream* out)
+{
+    *out << QDir(scenario.folder).dirName().toStdString() << " in " << scenario.target;
+}
+
+std::vector<Scenario> scenarios()
+{
+    std::vector<Scenario> all;
+    const QDir root(INKMACRO_SOURCE_DIR "/tests/scenarios");
+    for (const QString& name : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
+        for (const inkmacro::TargetRow& row : inkmacro::targetTable)
+            all.push_back({root.filePath(name), row.name});
+    return all;
+}
+
+QMap<QString, QByteArray> filesBelow(const QString& folder)
+{
+    QMap<QString, QByteArray> files;
+    QDirIterator walk(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        QFile file(walk.next());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        files.insert(QDir(folder).relativeFilePath(file.fileName()), file.readAll());
+    }
+    return files;
+}
+
+/// The first line in which two texts differ, with the one in front of it.
+std::string difference(const QByteArray& expected, const QByteArray& written)
+{
+    const QList<QByteArray> left = expected.split('\n');
+    const QList<QByteArray> right = written.split('\n');
+    int line = 0;
+    while (line < left.size() && line < right.size() && left[line] == right[line])
+        ++line;
+    const auto at = [&](const QList<QByteArray>& lines, int i) {
+        return i >= 0 && i < lines.size() ? '"' + lines[i].toStdString() + '"' : std::string("(nothing)");
+    };
+    return "line " + std::to_string(line + 1) + "\n  behind   " + at(left, line - 1) + "\n  expected " +
+           at(left, line) + "\n  written  " + at(right, line);
+}
+
+class Scenarios : public testing::TestWithParam<Scenario>
+{
+};
+
+TEST_P(Scenarios, GiveTheExpectedFiles)
+{
+    const QString target = QString::fromLatin1(GetParam().target.data(), static_cast<int>(GetParam().target.size()));
+    const QTemporaryDir folder;
+    QProcess program;
+    program.start(INKMACRO_PROGRAM, {"convert", GetParam().folder + "/recording.jsonl", "--target", target, "--output",
+                                     folder.path() + '/'});
+    ASSERT_TRUE(program.waitForFinished(60'000));
+    ASSERT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
+
+    const auto expected = filesBelow(GetParam().folder + "/expected/" + target);
+    const auto written = filesBelow(folder.filePath(target));
+    ASSERT_FALSE(expected.isEmpty()) << "scripts/update-scenarios writes what is expected";
+    EXPECT_TRUE(expected.keys() == written.keys())
+        << "written: " << QStringList(written.keys()).join(' ').toStdString();
+    for (auto file = expected.begin(); file != expected.end(); ++file)
+        EXPECT_TRUE(file.value() == written.value(file.key()))
+            << file.key().toStdString() << ": " << difference(file.value(), written.value(file.key()));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Scenarios, testing::ValuesIn(scenarios()), [](const auto& info) {
+    return QDir(info.param.folder).dirName().toStdString() + '_' + std::string(info.param.target);
+});
+
+} // namespace
