@@ -1,11 +1,9 @@
 // The start-up program and the project file around a C# macro.
 
 #include "targets/LineEnd.h"
+#include "targets/comReference.h"
 #include "targets/csharp/CFxConverterIWAPICSharp.h"
 #include "targets/texts.h"
-
-#include <QDir>
-#include <QFileInfo>
 
 using namespace inkmacro;
 
@@ -24,7 +22,7 @@ static const char* const program =
     "           {%2               IWAPIMacros.%1 %1Obj = new IWAPIMacros.%1();%2               %1Obj.Run(iwApp);%2"
     "           }%2       }%2   }%2}%2";
 
-static const char* const project = R"(<?xml version="1.0" encoding="utf-8"?>
+static const char* const projectOpening = R"(<?xml version="1.0" encoding="utf-8"?>
 <Project ToolsVersion="3.5" DefaultTargets="Build" xmlns="http://schemas.microsoft.com/developer/msbuild/2003">
   <PropertyGroup>
     <Configuration Condition=" '$(Configuration)' == '' ">Debug</Configuration>
@@ -63,17 +61,9 @@ static const char* const project = R"(<?xml version="1.0" encoding="utf-8"?>
     <Compile Include="%1.cs" />
     <Compile Include="Program.cs" />
   </ItemGroup>
-  <ItemGroup>
-    <COMReference Include="Inkwright">
-      <Guid>{92993D0B-2709-42F5-BA1B-9C224D757856}</Guid>
-      <VersionMajor>1</VersionMajor>
-      <VersionMinor>0</VersionMinor>
-      <Lcid>0</Lcid>
-      <WrapperTool>tlbimp</WrapperTool>
-      <Isolated>False</Isolated>
-    </COMReference>
-  </ItemGroup>
-  <Import Project="$(MSBuildBinPath)\Microsoft.CSharp.targets" />
+)";
+
+static const char* const projectClosing = R"(  <Import Project="$(MSBuildBinPath)\Microsoft.CSharp.targets" />
   <!-- To modify your build process, add your task inside one of the targets below and uncomment it.
        Other similar extension points exist, see Microsoft.Common.targets.
   <Target Name="BeforeBuild">
@@ -92,18 +82,13 @@ QString CFxConverterIWAPICSharp::EmitProgramText(const QString& projectName)
 
 QString CFxConverterIWAPICSharp::EmitProjectText(const QString& projectName)
 {
-    static const Template words(project);
+    static const Template words((QByteArray(projectOpening) + comReference + projectClosing).constData());
     return Fill(&words).text(projectName).text(LineEnd);
 }
 
 std::int32_t CFxConverterIWAPICSharp::EmitProjectFiles(const QString& path)
 {
-    const QString directory = QFileInfo(path).path();
-    if (!QDir().exists(directory) && !QDir().mkpath(directory))
-        return kFxFailure;
     const QString name = projectName(path);
-    if (!WriteTextFile(directory + "//Program.cs", EmitProgramText(name), false))
-        return kFxFailure;
-    const bool written = WriteTextFile(directory + "//" + name + ".csproj", EmitProjectText(name), false);
-    return written ? kFxSuccess : kFxFailure;
+    return WriteProject(
+        path, {{"Program.cs", EmitProgramText(name), false}, {name + ".csproj", EmitProjectText(name), false}});
 }
