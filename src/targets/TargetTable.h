@@ -5,11 +5,16 @@
 #include <array>
 #include <string_view>
 
-/// The targets that can be written: enumerator, name on the command line, extension of the macro file, and the files of
-/// the project around it as texts separated by blanks, `%1` standing for the project's name. The converter classes of a
-/// target are CFxConverterIWAPI<enumerator> and CFxConverterIWAPIObject<enumerator>. The factories, the program and the
-/// tests all follow these rows.
-#define INKMACRO_TARGETS(ROW) ROW(CSharp, "csharp", "cs", "Program.cs %1.csproj")
+/// The targets that can be written: enumerator, suffix of the converter classes (CFxConverterIWAPI<suffix> and
+/// CFxConverterIWAPIObject<suffix>), name on the command line, extension of the macro file, and the files of the
+/// project around it as texts separated by blanks, `%1` standing for the project's name. The factories, the program and
+/// the tests all follow these rows.
+#define INKMACRO_TARGETS(ROW)                                                                                          \
+    ROW(Cpp, CPP, "cpp", "cpp", "IwAddin_global.h %1.vcproj iwAddinConnection.h iwAddinConnection.cpp %1.h %1.def")    \
+    ROW(CSharp, CSharp, "csharp", "cs", "Program.cs %1.csproj")                                                        \
+    ROW(JavaScript, JavaScript, "javascript", "html", "")                                                              \
+    ROW(VbNet, VbNet, "vbnet", "vb", "Module1.vb %1.vbproj")                                                           \
+    ROW(Vba, Vba, "vba", "bas", "")
 
 namespace inkmacro {
 
@@ -21,7 +26,8 @@ struct TargetRow
     std::string_view projectFiles;
 };
 
-#define INKMACRO_TARGET_ROW(id, name, extension, projectFiles) TargetRow{Target::id, name, extension, projectFiles},
+#define INKMACRO_TARGET_ROW(id, suffix, name, extension, projectFiles)                                                 \
+    TargetRow{Target::id, name, extension, projectFiles},
 inline constexpr std::array targetTable{INKMACRO_TARGETS(INKMACRO_TARGET_ROW)};
 #undef INKMACRO_TARGET_ROW
 

@@ -1,6 +1,7 @@
 // The C# macro file around the statements.
 
 #include "frame/RecordingState.h"
+#include "targets/FileHead.h"
 #include "targets/LineEnd.h"
 #include "targets/csharp/CFxConverterIWAPICSharp.h"
 
@@ -8,49 +9,35 @@ using namespace inkmacro;
 
 // %1 is the line end, %2 the class, %3 the sheet on which the recording began. A frame brings its own indentation.
 
-static const char* const opening =
-    "using System;%1using Inkwright;%1using System.Runtime.InteropServices;%1%1"
-    "// This code was automatically generated.%1namespace IWAPIMacros%1{%1    class %2%1    {%1"
-    "        public void Run( Inkwright.Application iwApp )%1        {%1";
-
-static const char* const documentAndModel =
-    "            Document iwDoc = iwApp.GetActiveDocument();%1            if (null == iwDoc)%1            {%1"
-    "                return;%1            }%1%1            Model iwModel = iwDoc.GetModel();%1"
-    "            if (null == iwModel)%1            {%1                return;%1            }%1%1"
-    "            SketchManager iwSketchManager;%1";
-
-static const char* const modelSketchManager =
-    "            iwSketchManager = iwModel.GetSketchManager();%1            if (null == iwSketchManager)%1"
-    "            {%1                return;%1            }%1%1";
-
-/// The sheet at index 1 on purpose: a document with one sheet ends the macro here.
-static const char* const firstSheet =
-    "            object[] sheetsList = (object[])iwDoc.GetSheets();%1"
-    "            Sheet iwSheet = (Sheet)sheetsList[1];%1            if (null == iwSheet)%1            {%1"
-    "                 return;%1            }%1%1";
-
-static const char* const recordedSheet =
-    "            iwSheet = iwDoc.GetSheet(\"%3\");%1            if (null == iwSheet)%1            {%1"
-    "                 return;%1            }%1%1            iwSheet.Activate();%1%1"
-    "            iwSketchManager = iwSheet.GetSketchManager();%1            if (null == iwSketchManager)%1"
-    "            {%1                return;%1            }%1%1";
-
-static const char* const viewManager =
-    "            ViewManager iwViewManager = iwDoc.GetViewManager();%1            if (null == iwViewManager)%1"
-    "            {%1                return;%1            }%1%1";
+static const FileHead head{
+    .opening = "using System;%1using Inkwright;%1using System.Runtime.InteropServices;%1%1"
+               "// This code was automatically generated.%1namespace IWAPIMacros%1{%1    class %2%1    {%1"
+               "        public void Run( Inkwright.Application iwApp )%1        {%1"
+               "            Document iwDoc = iwApp.GetActiveDocument();%1            if (null == iwDoc)%1"
+               "            {%1                return;%1            }%1%1"
+               "            Model iwModel = iwDoc.GetModel();%1            if (null == iwModel)%1"
+               "            {%1                return;%1            }%1%1            SketchManager iwSketchManager;%1",
+    .modelSketchManager = "            iwSketchManager = iwModel.GetSketchManager();%1"
+                          "            if (null == iwSketchManager)%1            {%1                return;%1"
+                          "            }%1%1",
+    .firstSheet = "            object[] sheetsList = (object[])iwDoc.GetSheets();%1"
+                  "            Sheet iwSheet = (Sheet)sheetsList[1];%1            if (null == iwSheet)%1"
+                  "            {%1                 return;%1            }%1%1",
+    .recordedSheet = "            iwSheet = iwDoc.GetSheet(\"%3\");%1            if (null == iwSheet)%1"
+                     "            {%1                 return;%1            }%1%1            iwSheet.Activate();%1%1"
+                     "            iwSketchManager = iwSheet.GetSketchManager();%1"
+                     "            if (null == iwSketchManager)%1            {%1                return;%1"
+                     "            }%1%1",
+    .viewManager = "            ViewManager iwViewManager = iwDoc.GetViewManager();%1"
+                   "            if (null == iwViewManager)%1            {%1                return;%1"
+                   "            }%1%1",
+};
 
 static const char* const optionResult = "            iwSetCommandOptionResult_e result;%1";
 
 QString CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool hasSysVar)
 {
-    QByteArray frame;
-    frame.append(opening).append(documentAndModel);
-    if (RecordingInModel)
-        frame.append(modelSketchManager);
-    frame.append(firstSheet);
-    if (!RecordingSheetName.isEmpty() && !RecordingInModel)
-        frame.append(recordedSheet);
-    frame.append(viewManager);
+    QByteArray frame = head.words();
     if (hasSysVar)
         frame.append(optionResult);
 

@@ -1,0 +1,260 @@
+// The file around the statements and the project around the file, in each target.
+
+#include "TestActions.h"
+
+#include "frame/RecordingState.h"
+#include "host/kernel/CFxRegistry.h"
+#include "host/kernel/CFxServices.h"
+#include "targets/TargetTable.h"
+#include "targets/cpp/CFxConverterIWAPICPP.h"
+#include "targets/installation.h"
+#include "targets/javascript/CFxConverterIWAPIJavaScript.h"
+#include "targets/vba/CFxConverterIWAPIVba.h"
+#include "targets/vbnet/CFxConverterIWAPIVbNet.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QXmlStreamReader>
+
+using namespace inkmacro;
+
+namespace {
+
+QByteArray contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+}
+
+/// Leaves the process-wide values as a first conversion finds them.
+class Frames : public testing::Test
+{
+protected:
+    Frames() { begin(true, ""); }
+    ~Frames() override
+    {
+        begin(true, "");
+        installIn("");
+        GetFxSystemServices()->SetInt16("RecordingLanguage", 0);
+    }
+
+    static void begin(bool inModel, const char* sheet)
+    {
+        RecordingInModel = inModel;
+        RecordingSheetName = sheet;
+    }
+    static void installIn(const char* directory)
+    {
+        GetFxRegistry()->SetText("SOFTWARE\\Velmorand\\Inkwright", "InstallDir", directory);
+    }
+    QString path(const QString& name) const { return folder.filePath("made/" + name); }
+    QString convert(const TargetRow& row, const CFxActionArray& actions)
+    {
+        const auto language = static_cast<std::uint32_t>(row.target);
+        GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
+        const QString macro = path(QLatin1String("plate.") + QLatin1String(row.extension.data()));
+        EXPECT_EQ(CreateConverter(language, 0, 0)->Convert(macro, actions), kFxSuccess) << row.name;
+        return QString::fromUtf8(contents(macro));
+    }
+
+    QTemporaryDir folder;
+    CFxConverterIWAPICPP cpp{0};
+    CFxConverterIWAPIJavaScript javascript{0};
+    CFxConverterIWAPIVbNet vbnet{0};
+    CFxConverterIWAPIVba vba{0};
+};
+
+/// The lines of a head that choose a sheet or its sketch manager.
+std::string choice(CFxConverterIWAPIImpl& converter)
+{
+    QStringList lines;
+    for (const QString& line : converter.EmitFileHeader("plate", false).split('\n'))
+        if (line.contains("GetSketchManager") || line.contains("Activate()") || line.endsWith("Activate") ||
+            line.contains("GetSheet("))
+            lines.append(line.trimmed());
+    return lines.join(" | ").toStdString();
+}
+
+TEST_F(Frames, FollowThePlaceWhereTheRecordingBegan)
+{
+    begin(true, "A3");
+    EXPECT_EQ(choice(cpp), "iwModel->GetSketchManager( &iwSketchManager );");
+    EXPECT_EQ(choice(vbnet), "iwSketchManager = iwModel.GetSketchManager()");
+    EXPECT_EQ(choice(vba), "Set iwSketchManager = iwModel.GetSketchManager()");
+    EXPECT_EQ(choice(javascript), "mSheet = mDoc.GetSheet(\"A3\"), | mSkMgr = mModel.GetSketchManager(),");
+
+    begin(false, "A3");
+    EXPECT_EQ(choice(cpp), "iwDoc->GetSheet( L\"A3\", &iwSheet ); | iwSheet->Activate(); | "
+                           "iwSheet->GetSketchManager( &iwSketchManager );");
+    EXPECT_EQ(choice(vbnet), "iwSheet = iwDoc.GetSheet(\"A3\") | iwSheet.Activate() | "
+                             "iwSketchManager = iwSheet.GetSketchManager()");
+    EXPECT_EQ(choice(vba), "Set iwSheet = iwDoc.GetSheet(\"A3\") | iwSheet.Activate | "
+                           "Set iwSketchManager = iwSheet.GetSketchManager()");
+    EXPECT_EQ(choice(javascript), "mSheet = mDoc.GetSheet(\"A3\"), | mSkMgr = mModel.GetSketchManager(), | "
+                                  "mSheet.Activate(); | mSkMgr = mSheet.GetSketchManager();");
+
+    // Only the page activates a sheet without a name; the others leave the sketch manager without a value.
+    begin(false, "");
+    EXPECT_EQ(choice(cpp), "");
+    EXPECT_EQ(choice(vbnet), "");
+    EXPECT_EQ(choice(vba), "");
+    EXPECT_EQ(choice(javascript), "mSheet = mDoc.GetSheet(\"\"), | mSkMgr = mModel.GetSketchManager(), | "
+                                  "mSheet.Activate(); | mSkMgr = mSheet.GetSketchManager();");
+}
+
+TEST_F(Frames, OpenAndCloseAsTheirLanguageAsks)
+{
+    const auto level = [](CFxConverterIWAPIImpl& converter) { return converter.IndentLevel; };
+
+    const QString source = cpp.EmitFileHeader("plate", true);
+    EXPECT_TRUE(source.startsWith("#include \"plate.h\"\n#include \"iwAddinConnection.h\"\n")) << qPrintable(source);
+    EXPECT_TRUE(source.endsWith("    if ( !iwViewManager )\n    {\n        return false;\n    }\n\n"));
+    EXPECT_TRUE(source.contains("\nbool CMacroCommand::ExecuteNotify(void)\n{\n"));
+    EXPECT_EQ(level(cpp), 1U);
+    EXPECT_TRUE(cpp.EmitFileFooter().startsWith("    return true;\n}\n\nconst iwString &"));
+    EXPECT_EQ(level(cpp), 0U);
+
+    EXPECT_TRUE(vbnet.EmitFileHeader("plate", true)
+                    .startsWith("\nImports System.Runtime.InteropServices\n\n\nPublic Class plate\n\n    Sub Run("));
+    EXPECT_EQ(vbnet.EmitFileFooter(), "\n    End Sub\n\nEnd Class");
+    EXPECT_EQ(level(vbnet), 2U);
+
+    const QString macro = vba.EmitFileHeader("plate", true);
+    EXPECT_EQ(CFxConverterIWAPIVba(0).EmitFileHeader("another", false), macro);
+    EXPECT_TRUE(macro.startsWith("'" + QString(62, '-') + "\n' Preconditions:\n"));
+    EXPECT_TRUE(
+        macro.contains("drawing document.\n'" + QString(64, '-') + "\nOption Explicit\nSub main()\n\tDim iwApp"));
+    EXPECT_TRUE(macro.contains("'    install_dir\\bin\\iwAutomation.dll.\n"));
+    EXPECT_TRUE(
+        macro.contains("\n   Dim iwViewManager As Inkwright.ViewManager\n\t'Connect to Inkwright\n\tSet iwApp"));
+    EXPECT_TRUE(vba.EmitFileFooter().startsWith("\tElse\n\n\t\tMsgBox \"There are"));
+    EXPECT_EQ(level(vba), 2U);
+
+    const QString page = javascript.EmitFileHeader("plate", true);
+    EXPECT_TRUE(page.contains("   <meta http-equiv =\"X-UA-Compatible\" content =\"IE=8\" /\n>   <!-- Add your"));
+    EXPECT_TRUE(page.contains("   <script type=\"text/javascript\" "
+                              "src=\"http://localhost:7776/APISDK/ijLibrary/iwCurvedSettings.js\"></script>\n"
+                              "   <script type=\"text/javascript\">\n"));
+    EXPECT_EQ(page.count(".js\"></script>\n"), 102);
+    EXPECT_EQ(page.count("/iwMathUtility.js"), 2);
+    EXPECT_EQ(level(javascript), 3U);
+    EXPECT_TRUE(javascript.EmitFileFooter().startsWith("       }\n   </script>\n"));
+    EXPECT_EQ(level(javascript), 0U);
+}
+
+TEST_F(Frames, HoldTheStatementsOfACommand)
+{
+    const QString zeros = QStringList(QVector<QString>(6, "0.00000000000000").toList()).join(", ");
+    const std::map<Target, QString> bodies{
+        {Target::Cpp, "    iwLine_ptr iwline1;\n    {\n        iwSketchManager->InsertLine( %1, &iwline1 );\n    }\n"},
+        {Target::CSharp,
+         "            Line line1;\n            {\n                line1 = iwSketchManager.InsertLine( %1 "
+         ");\n            }\n"},
+        {Target::JavaScript, "            var line1 = mSkMgr.InsertLine(%1);\n"},
+        {Target::VbNet, "        Dim line1 As Inkwright.Line\n        If 1 Then\n            line1 = "
+                        "iwSketchManager.InsertLine( %1 )\n        End If\n\n"},
+        {Target::Vba, "        Dim line1 As Inkwright.Line\n        If 1 Then\n            Set line1 = "
+                      "iwSketchManager.InsertLine( %1 )\n        End If\n\n"},
+    };
+    for (const TargetRow& row : targetTable) {
+        const auto body = bodies.find(row.target);
+        if (body == bodies.end())
+            continue;
+        const QString empty = convert(row, {});
+        const QString full = convert(row, {command({addedLine(1)})});
+        // The statement stands between the head and the tail, both of which are those of an empty recording.
+        const QString expected = body->second.arg(zeros);
+        const int at = full.indexOf(expected);
+        ASSERT_GE(at, 0) << full.toStdString();
+        EXPECT_EQ(QString(full).remove(at, expected.length()), empty) << row.name;
+        EXPECT_EQ(full.endsWith("End Class"), row.target == Target::VbNet);
+    }
+}
+
+TEST_F(Frames, BringTheFilesOfTheirRow)
+{
+    for (const TargetRow& row : targetTable) {
+        QDir(folder.filePath("made")).removeRecursively();
+        convert(row, {});
+        QStringList expected =
+            QString::fromLatin1(row.projectFiles.data()).replace("%1", "plate").split(' ', Qt::SkipEmptyParts);
+        expected.append(QLatin1String("plate.") + QLatin1String(row.extension.data()));
+        expected.sort();
+        QStringList found = QDir(folder.filePath("made")).entryList(QDir::Files);
+        found.sort();
+        EXPECT_EQ(found, expected) << row.name;
+    }
+}
+
+TEST_F(Frames, WriteProjectsThatCanBeRead)
+{
+    EXPECT_EQ(cpp.EmitProjectFiles(path("my plate.v2.cpp")), kFxSuccess);
+    EXPECT_EQ(vbnet.EmitProjectFiles(path("my plate.vb")), kFxSuccess);
+    EXPECT_EQ(contents(path("my plate.def")),
+              "LIBRARY\t\"my plate\"\n\nEXPORTS\nconnectToInkwright\ndisconnectFromInkwright\n");
+    EXPECT_TRUE(contents(path("IwAddin_global.h")).startsWith("\xEF\xBB\xBF\n// IwAddin_global.h, C++ API"));
+    EXPECT_TRUE(contents(path("iwAddinConnection.cpp")).contains("m_macroCmd( iwApp, L\"my plate\" )"));
+    EXPECT_TRUE(contents(path("Module1.vb")).startsWith("\n\nModule Module1\n"));
+    EXPECT_TRUE(contents(path("Module1.vb")).contains("            Dim my plateObj As my plate\n"));
+    for (const char* const marked : {"iwAddinConnection.h", "iwAddinConnection.cpp", "my plate.h"})
+        EXPECT_TRUE(contents(path(marked)).startsWith("\xEF\xBB\xBF")) << marked;
+    for (const char* const name : {"my plate.vcproj", "my plate.vbproj"}) {
+        QXmlStreamReader reader(QString::fromUtf8(contents(path(name))));
+        int names = 0;
+        while (!reader.atEnd()) {
+            reader.readNext();
+            names += reader.isStartElement();
+        }
+        EXPECT_FALSE(reader.hasError()) << name << ": " << reader.errorString().toStdString();
+        EXPECT_GT(names, 30) << name;
+        EXPECT_TRUE(contents(path(name)).startsWith("<?xml"));
+    }
+}
+
+TEST_F(Frames, StopAtTheFirstProjectFileThatCannotBeOpened)
+{
+    ASSERT_TRUE(QDir().mkpath(path("iwAddinConnection.h")));
+    EXPECT_EQ(cpp.EmitProjectFiles(path("plate.cpp")), kFxFailure);
+    EXPECT_TRUE(QFileInfo::exists(path("IwAddin_global.h")));
+    EXPECT_TRUE(QFileInfo::exists(path("plate.vcproj")));
+    EXPECT_FALSE(QFileInfo::exists(path("iwAddinConnection.cpp")));
+    EXPECT_FALSE(QFileInfo::exists(path("plate.def")));
+    // A file where the directory should be.
+    EXPECT_EQ(vbnet.EmitProjectFiles(path("plate.vcproj/plate.vb")), kFxFailure);
+    EXPECT_EQ(vba.EmitProjectFiles(path("plate.vcproj/plate.bas")), kFxSuccess);
+    EXPECT_EQ(javascript.EmitProjectFiles(path("plate.vcproj/plate.html")), kFxSuccess);
+}
+
+TEST_F(Frames, FindTheInstalledLibraries)
+{
+    EXPECT_EQ(installedPath("bin\\x.dll"), "C:\\Program Files\\Velmorand\\Inkwright\\bin\\x.dll");
+    installIn("D:\\CAD\\Inkwright\\");
+    // What was found is doubled, the tail is not.
+    EXPECT_EQ(installedPath("bin\\x.dll"), "D:\\\\CAD\\\\Inkwright\\\\bin\\x.dll");
+    const QString project = cpp.EmitProjectText("plate");
+    EXPECT_EQ(project.count("AdditionalIncludeDirectories=\"&quot;D:\\\\CAD\\\\Inkwright\\\\APISDK\\headers\\cpp"
+                            "&quot;\""),
+              4);
+    EXPECT_EQ(project.count("AdditionalLibraryDirectories=\"&quot;D:\\\\CAD\\\\Inkwright\\\\APISDK\\lib\\cpp&quot;\""),
+              4);
+    EXPECT_EQ(project.count("WarnAsError"), 1);
+    EXPECT_EQ(project.count("TargetMachine=\"17\""), 2);
+}
+
+TEST_F(Frames, NumberObjectTypes)
+{
+    EXPECT_EQ(javascript.ObjectTypeValue("iwLineType"), 21);
+    EXPECT_EQ(javascript.ObjectTypeValue("iwRichLineType"), 39);
+    EXPECT_EQ(javascript.ObjectTypeValue("iwIWWindowType"), 87);
+    EXPECT_EQ(javascript.ObjectTypeValue("iwObjectTypeCount"), 111);
+    // Filed with a blank behind it.
+    EXPECT_EQ(javascript.ObjectTypeValue("iwApplicationType"), 0);
+    EXPECT_EQ(javascript.ObjectTypeValue("iwApplicationType "), 1);
+    for (int again = 0; again < 2; ++again)
+        EXPECT_EQ(javascript.ObjectTypeValue("iwlinetype"), 0);
+    EXPECT_EQ(javascript.ObjectTypeValue("iwLayoutType"), 0);
+}
+
+} // namespace
