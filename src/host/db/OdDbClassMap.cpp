@@ -24,14 +24,27 @@ constexpr const char* kDimension = "AcDbDimension";
 constexpr const char* kRecord = "AcDbSymbolTableRecord";
 constexpr const char* kTable = "AcDbSymbolTable";
 
-constexpr OdDbClassRow plain(const char* name, const char* parent, int code = 0)
+constexpr OdDbClassRow abstractClass(const char* name, const char* parent,
+                                     std::span<const OdDbField> (*fields)() = noFields)
 {
-    return {name, parent, code, noFields, make<OdDbObject>};
+    return {name, parent, 0, fields, nullptr};
 }
 
-constexpr OdDbClassRow abstractClass(const char* name, const char* parent)
+/// A class without data of its own. `T` is the type of its objects, which holds the data of its parents.
+template<class T>
+constexpr OdDbClassRow plain(const char* name, const char* parent, int code = 0)
 {
-    return {name, parent, 0, noFields, nullptr};
+    return {name, parent, code, noFields, make<T>};
+}
+
+constexpr OdDbClassRow entity(const char* name, int code = 0)
+{
+    return plain<OdDbEntity>(name, kEntity, code);
+}
+
+constexpr OdDbClassRow record(const char* name, int code)
+{
+    return plain<OdDbSymbolTableRecord>(name, kRecord, code);
 }
 
 template<class T>
@@ -41,66 +54,67 @@ constexpr OdDbClassRow withData(const char* name, const char* parent, int code =
 }
 
 const std::array kRows{
-    OdDbClassRow{kObject, nullptr, 0, OdDbObject::fields, nullptr},
+    abstractClass(kObject, nullptr, OdDbObject::fields),
     abstractClass(kEntity, kObject),
     abstractClass(kDimension, kEntity),
     abstractClass(kTable, kObject),
-    abstractClass(kRecord, kObject),
-    OdDbClassRow{"AcDbPlotSettings", kObject, 0, OdDbPlotSettings::fields, nullptr},
+    abstractClass(kRecord, kObject, OdDbSymbolTableRecord::fields),
+    abstractClass("AcDbPlotSettings", kObject, OdDbPlotSettings::fields),
 
-    plain("AcDbLine", kEntity, 19),
-    plain("AcDbCircle", kEntity, 18),
-    plain("AcDbPoint", kEntity, 27),
-    plain("AcDbRay", kEntity, 40),
-    plain("AcDbArc", kEntity, 17),
-    plain("AcDbEllipse", kEntity, 35),
-    plain("AcDbXline", kEntity, 41),
-    plain("AcDbText", kEntity, 1),
-    plain("AcDbAttributeDefinition", "AcDbText", 3),
-    OdDbClassRow{"AcDbMText", kEntity, 44, noFields, make<OdDbMText>},
-    plain("AcDbBlockReference", kEntity, 7),
-    plain("AcDbTable", "AcDbBlockReference"),
-    plain("AcDbRasterImage", kEntity),
-    plain("AcDbAlignedDimension", kDimension, 22),
-    plain("AcDb2LineAngularDimension", kDimension, 24),
-    plain("AcDb3PointAngularDimension", kDimension, 23),
-    plain("AcDbArcDimension", kDimension),
-    plain("AcDbDiametricDimension", kDimension, 26),
-    plain("AcDbOrdinateDimension", kDimension, 20),
-    plain("AcDbRadialDimension", kDimension, 25),
-    plain("AcDbRadialDimensionLarge", kDimension),
-    plain("AcDbRotatedDimension", kDimension, 21),
-    plain("AcDbMline", kEntity, 47),
-    plain("AcDbFace", kEntity, 28),
-    OdDbClassRow{"AcDbLeader", kEntity, 45, noFields, make<OdDbLeader>},
-    plain("AcDb2dPolyline", kEntity),
-    plain("AcDb3dPolyline", kEntity, 16),
-    plain("AcDbPolygonMesh", kEntity, 30),
-    plain("AcDbSolid", kEntity, 31),
-    plain("AcDbFcf", kEntity, 46),
-    plain("AcDbSpline", kEntity, 36),
-    plain("AcDbShape", kEntity, 33),
-    plain("AcDbRegion", kEntity),
-    plain("AcDbHatch", kEntity, 78),
-    plain("AcDbPolyline", kEntity, 77),
-    plain("AcDbOle2Frame", kEntity, 74),
-    plain("AcDbPolyFaceMesh", kEntity, 29),
-    plain("AcDbViewport", kEntity, 34),
-    plain("AcDbTrace", kEntity, 32),
-    plain("AcDbArcAlignedText", kEntity),
+    entity("AcDbLine", 19),
+    entity("AcDbCircle", 18),
+    entity("AcDbPoint", 27),
+    entity("AcDbRay", 40),
+    entity("AcDbArc", 17),
+    entity("AcDbEllipse", 35),
+    entity("AcDbXline", 41),
+    entity("AcDbText", 1),
+    plain<OdDbEntity>("AcDbAttributeDefinition", "AcDbText", 3),
+    withData<OdDbMText>("AcDbMText", kEntity, 44),
+    withData<OdDbBlockReference>("AcDbBlockReference", kEntity, 7),
+    withData<OdDbTable>("AcDbTable", "AcDbBlockReference"),
+    plain<OdDbRasterImage>("AcDbRasterImage", kEntity),
+    withData<OdDbAlignedDimension>("AcDbAlignedDimension", kDimension, 22),
+    withData<OdDb2LineAngularDimension>("AcDb2LineAngularDimension", kDimension, 24),
+    withData<OdDb3PointAngularDimension>("AcDb3PointAngularDimension", kDimension, 23),
+    withData<OdDbArcDimension>("AcDbArcDimension", kDimension),
+    withData<OdDbDiametricDimension>("AcDbDiametricDimension", kDimension, 26),
+    withData<OdDbOrdinateDimension>("AcDbOrdinateDimension", kDimension, 20),
+    withData<OdDbRadialDimension>("AcDbRadialDimension", kDimension, 25),
+    plain<OdDbRadialDimensionLarge>("AcDbRadialDimensionLarge", kDimension),
+    withData<OdDbRotatedDimension>("AcDbRotatedDimension", kDimension, 21),
+    withData<OdDbMline>("AcDbMline", kEntity, 47),
+    entity("AcDbFace", 28),
+    withData<OdDbLeader>("AcDbLeader", kEntity, 45),
+    entity("AcDb2dPolyline"),
+    entity("AcDb3dPolyline", 16),
+    entity("AcDbPolygonMesh", 30),
+    entity("AcDbSolid", 31),
+    withData<OdDbFcf>("AcDbFcf", kEntity, 46),
+    entity("AcDbSpline", 36),
+    entity("AcDbShape", 33),
+    entity("AcDbRegion"),
+    entity("AcDbHatch", 78),
+    entity("AcDbPolyline", 77),
+    entity("AcDbOle2Frame", 74),
+    entity("AcDbPolyFaceMesh", 29),
+    entity("AcDbViewport", 34),
+    entity("AcDbTrace", 32),
+    withData<OdDbArcAlignedText>("AcDbArcAlignedText", kEntity),
 
     withData<OdDbTextStyleTableRecord>("AcDbTextStyleTableRecord", kRecord, 53),
-    plain("AcDbBlockTableRecord", kRecord, 49),
-    plain("AcDbDimStyleTableRecord", kRecord, 69),
-    plain("AcDbLinetypeTableRecord", kRecord, 57),
+    withData<OdDbBlockTableRecord>("AcDbBlockTableRecord", kRecord, 49),
+    record("AcDbDimStyleTableRecord", 69),
+    plain<OdDbLinetypeTableRecord>("AcDbLinetypeTableRecord", kRecord, 57),
     withData<OdDbViewTableRecord>("AcDbViewTableRecord", kRecord, 61),
-    plain("AcDbLayerTableRecord", kRecord, 51),
-    plain("AcDbViewportTableRecord", kRecord, 65),
-    plain("AcDbViewTable", kTable),
-    plain("AcDbLayerTable", kTable),
-    plain("AcDbTableStyle", kObject),
-    plain("AcDbMlineStyle", kObject, 73),
-    plain("AcDbGroup", kObject, 72),
+    plain<OdDbLayerTableRecord>("AcDbLayerTableRecord", kRecord, 51),
+    record("AcDbViewportTableRecord", 65),
+    plain<OdDbObject>("AcDbViewTable", kTable),
+    plain<OdDbObject>("AcDbLayerTable", kTable),
+    plain<OdDbTableStyle>("AcDbTableStyle", kObject),
+    plain<OdDbObject>("AcDbMlineStyle", kObject, 73),
+    plain<OdDbObject>("AcDbGroup", kObject, 72),
+    withData<OdDbDictionary>("AcDbDictionary", kObject),
     withData<OdDbLayout>("AcDbLayout", "AcDbPlotSettings", 82),
 };
 
@@ -164,24 +178,40 @@ OdRxClass* oddbDwgClassMapDesc(int code)
     return byCode.value(code, nullptr);
 }
 
-#define INKHOST_DESC(Class, name)                                                                                      \
-    OdRxClass* Class::desc()                                                                                           \
+#define INKHOST_DESC(Name)                                                                                             \
+    OdRxClass* OdDb##Name::desc()                                                                                      \
     {                                                                                                                  \
-        static OdRxClass* const descriptor = known(name);                                                              \
+        static OdRxClass* const descriptor = known("AcDb" #Name);                                                      \
         return descriptor;                                                                                             \
     }
 
-INKHOST_DESC(OdDbObject, kObject)
-INKHOST_DESC(OdDbEntity, kEntity)
-INKHOST_DESC(OdDbRasterImage, "AcDbRasterImage")
-INKHOST_DESC(OdDbArcDimension, "AcDbArcDimension")
-INKHOST_DESC(OdDbRadialDimensionLarge, "AcDbRadialDimensionLarge")
-INKHOST_DESC(OdDbTable, "AcDbTable")
-INKHOST_DESC(OdDbTableStyle, "AcDbTableStyle")
-INKHOST_DESC(OdDbArcAlignedText, "AcDbArcAlignedText")
-INKHOST_DESC(OdDbMText, "AcDbMText")
-INKHOST_DESC(OdDbLeader, "AcDbLeader")
-INKHOST_DESC(OdDbTextStyleTableRecord, "AcDbTextStyleTableRecord")
-INKHOST_DESC(OdDbViewTableRecord, "AcDbViewTableRecord")
-INKHOST_DESC(OdDbPlotSettings, "AcDbPlotSettings")
-INKHOST_DESC(OdDbLayout, "AcDbLayout")
+INKHOST_DESC(Object)
+INKHOST_DESC(Entity)
+INKHOST_DESC(Dimension)
+INKHOST_DESC(AlignedDimension)
+INKHOST_DESC(RotatedDimension)
+INKHOST_DESC(2LineAngularDimension)
+INKHOST_DESC(3PointAngularDimension)
+INKHOST_DESC(ArcDimension)
+INKHOST_DESC(OrdinateDimension)
+INKHOST_DESC(DiametricDimension)
+INKHOST_DESC(RadialDimension)
+INKHOST_DESC(RadialDimensionLarge)
+INKHOST_DESC(RasterImage)
+INKHOST_DESC(Mline)
+INKHOST_DESC(BlockReference)
+INKHOST_DESC(Table)
+INKHOST_DESC(MText)
+INKHOST_DESC(Leader)
+INKHOST_DESC(Fcf)
+INKHOST_DESC(ArcAlignedText)
+INKHOST_DESC(SymbolTableRecord)
+INKHOST_DESC(LayerTableRecord)
+INKHOST_DESC(LinetypeTableRecord)
+INKHOST_DESC(TextStyleTableRecord)
+INKHOST_DESC(ViewTableRecord)
+INKHOST_DESC(BlockTableRecord)
+INKHOST_DESC(TableStyle)
+INKHOST_DESC(Dictionary)
+INKHOST_DESC(PlotSettings)
+INKHOST_DESC(Layout)

@@ -21,6 +21,9 @@ public:
 
     OdDbObjectId currentLayoutId() const { return currentLayoutId_; }
     void setCurrentLayoutId(OdDbObjectId id) { currentLayoutId_ = id; }
+    /// The dictionary of the groups by name.
+    OdDbObjectId getGroupDictionaryId() const { return groupDictionaryId_; }
+    void setGroupDictionaryId(OdDbObjectId id) { groupDictionaryId_ = id; }
 
     /// All objects, by ascending handle.
     OdArray<OdDbObjectId> objectIds() const;
@@ -28,4 +31,5 @@ public:
 private:
     std::map<OdDbHandle, std::unique_ptr<OdDbStub>> stubs_;
     OdDbObjectId currentLayoutId_;
+    OdDbObjectId groupDictionaryId_;
 };

@@ -1,18 +1,38 @@
 #pragma once
 
+#include "host/db/OdCmColor.h"
 #include "host/db/OdDbObjectId.h"
+#include "host/db/OdGe.h"
 #include "host/rx/OdArray.h"
 
+#include <map>
+#include <optional>
 #include <span>
 #include <variant>
 
 class OdDbObject;
 
+/// Names in a drawing differ in more than upper and lower case.
+struct OdDbNameOrder
+{
+    bool operator()(const OdString& left, const OdString& right) const
+    {
+        return left.compare(right, Qt::CaseInsensitive) < 0;
+    }
+};
+
+/// Objects by name.
+using OdDbNamedIds = std::map<OdString, OdDbObjectId, OdDbNameOrder>;
+
 /// One piece of an object's data that a recording file can carry. The tables of these are the only list of fields:
 /// reading, writing and the schema of recording files follow them.
 struct OdDbField
 {
-    using Member = std::variant<bool OdDbObject::*, OdString OdDbObject::*, OdArray<OdDbObjectId> OdDbObject::*>;
+    template<class... Value>
+    using MemberOf = std::variant<Value OdDbObject::*...>;
+    using Member = MemberOf<bool, int, double, OdString, OdGePoint3d, std::optional<OdCmColor>, OdDbObjectId,
+                            OdArray<OdDbObjectId>, OdArray<OdGePoint3d>, OdArray<double>, OdArray<OdArray<OdString>>,
+                            OdDbNamedIds>;
 
     template<class Value, class Object>
     constexpr OdDbField(const char* key, const char* meaning, Value Object::*member)
@@ -20,7 +40,7 @@ struct OdDbField
     {
     }
 
-    const char* key;     ///< the read operation's name
+    const char* key;     ///< the read operation's name without `get`; its plural when the operation takes an index
     const char* meaning; ///< a phrase for the reference page
     Member member;       ///< only for objects of the class in whose table the field stands
 };
