@@ -55,8 +55,8 @@ std::int32_t runModule(const Job& job, const Recording& recording, std::optional
         repeatFirstSnapshot(module, *recording.header.sheet);
 
     OdDbDatabase& database = *recording.database;
-    if (!recording.drawing.currentLayout.isNull())
-        database.setCurrentLayoutId(database.getOdDbObjectId(recording.drawing.currentLayout));
+    database.setCurrentLayoutId(database.getOdDbObjectId(recording.drawing.currentLayout));
+    database.setGroupDictionaryId(database.getOdDbObjectId(recording.drawing.groupDictionary));
     const OpenDrawing drawing(database);
     const ProgressLine line([&] { return "writing " + megabytes(QFileInfo(job.macro).size()); });
     return module->ConvertRecording(job.macro, code, static_cast<std::uint32_t>(recording.header.mode),

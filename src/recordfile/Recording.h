@@ -35,6 +35,7 @@ struct Recording
         OdDbHandle currentLayout;
         OdDbHandle activeBlock;
         OdDbHandle textStyle;
+        OdDbHandle groupDictionary;
         std::vector<std::pair<QString, Setting>> settings; ///< in the order of the file
         bool operator==(const Drawing&) const = default;
     };

@@ -133,6 +133,7 @@ std::span<const Key<Recording::Drawing>> Form<Recording::Drawing>::keys()
         optional<&Drawing::currentLayout>("currentLayout", "handle of the layout that is current"),
         optional<&Drawing::activeBlock>("activeBlock", "handle of the block that is drawn into"),
         optional<&Drawing::textStyle>("textStyle", "handle of the current text style"),
+        optional<&Drawing::groupDictionary>("groupDictionary", "handle of the dictionary of groups"),
         optional<&Drawing::settings, SettingsForm>("settings", "variables of drawing and host, by name"),
     };
     return table;

@@ -113,6 +113,32 @@ OdDbObjectId Form<OdDbObjectId>::read(const Json& json)
     return json.reading.database.getOdDbObjectId(Form<OdDbHandle>::read(json));
 }
 
+OdDbNamedIds Form<OdDbNamedIds>::read(const Json& json)
+{
+    OdDbNamedIds ids;
+    for (const simdjson::dom::key_value_pair entry : json.object()) {
+        const Json value = json.entry(entry.key, entry.value);
+        if (!ids.emplace(toText(entry.key), Form<OdDbObjectId>::read(value)).second)
+            value.fail("the name is given twice");
+    }
+    return ids;
+}
+
+void Form<OdDbNamedIds>::write(JsonOut& out, const OdDbNamedIds& value)
+{
+    out.beginObject();
+    for (const auto& [name, id] : value) {
+        out.key(name);
+        Form<OdDbObjectId>::write(out, id);
+    }
+    out.endObject();
+}
+
+QJsonObject Form<OdDbNamedIds>::schema(SchemaDefinitions& definitions)
+{
+    return {{"type", "object"}, {"additionalProperties", Form<OdDbObjectId>::schema(definitions)}};
+}
+
 OdRxClass* Form<const OdRxClass*>::read(const Json& json)
 {
     const std::string_view name = json.text("the name of a class");

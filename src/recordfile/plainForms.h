@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/db/OdCmColor.h"
+#include "host/db/OdDbObject.h"
 #include "host/db/OdGe.h"
 #include "recordfile/Form.h"
 
@@ -85,6 +86,15 @@ struct Form<OdDbObjectId>
     static OdDbObjectId read(const Json& json);
     static void write(JsonOut& out, const OdDbObjectId& value) { Form<OdDbHandle>::write(out, value.getHandle()); }
     static QJsonObject schema(SchemaDefinitions& definitions) { return Form<OdDbHandle>::schema(definitions); }
+};
+
+/// An object whose keys are the names.
+template<>
+struct Form<OdDbNamedIds>
+{
+    static OdDbNamedIds read(const Json& json);
+    static void write(JsonOut& out, const OdDbNamedIds& value);
+    static QJsonObject schema(SchemaDefinitions& definitions);
 };
 
 template<>

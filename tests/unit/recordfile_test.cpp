@@ -41,10 +41,13 @@ QByteArray written(const Recording& recording)
 // Every kind of line and every form of a value once, in the form in which it is written.
 const QByteArray everything =
     R"({"recording":{"version":1,"language":3,"mode":1,"context":-7,"sheet":{"name":"Plan \"A\"","model":false}}}
-{"drawing":{"currentLayout":"22","activeBlock":"1F","textStyle":"11","settings":{"FILLETRAD":2.5,"TILEMODE":true,"CLAYER":"0"}}}
+{"drawing":{"currentLayout":"22","activeBlock":"1F","textStyle":"11","groupDictionary":"70","settings":{"FILLETRAD":2.5,"TILEMODE":true,"CLAYER":"0"}}}
 {"object":{"class":"AcDbLayerTableRecord","handle":"10"}}
 {"object":{"class":"AcDbLayout","handle":"22","modelType":true,"layoutName":"Model"}}
 {"object":{"class":"AcDbMText","handle":"60","isErased":true,"reactors":["61","FFFFFFFFFFFFFFFF"]}}
+{"object":{"class":"AcDbDictionary","handle":"70","items":{"Bolts":"71","nuts":"72"}}}
+{"object":{"class":"AcDbTable","handle":"73","rowHeights":[0.5,1.5],"columnWidths":[2.5],"textStrings":[["A"],["B"]]}}
+{"object":{"class":"AcDbMText","handle":"74","backgroundFillColor":{"index":3},"attachment":5}}
 {"command":{"name":"LINE","actions":[{"null":null},{"command":{"name":"","actions":[]}}]}}
 {"added":{"class":"AcDbLine","handle":"2F","properties":[{"tag":"Start X","value":-0.0},{"tag":"Start Y","value":1e+300,"group":"Geometry","index":{"int":2},"old":"x"}],"extra":[]}}
 {"modified":{"class":"HostWeldSymbol","handle":"30","properties":[{"tag":"a","value":{"int":-2147483648}},{"tag":"b","value":{"point":[1.0,2.0,3.0]}},{"tag":"c","value":{"color":"bylayer"}},{"tag":"d","value":{"color":"byblock"}},{"tag":"e","value":{"color":{"index":255}}},{"tag":"f","value":{"color":{"rgb":[0,128,255]}}},{"tag":"g","value":{"id":"2F"}},{"tag":"h","value":{"transparency":{"method":2,"alpha":127}}},{"tag":"i","value":{"collection":{"chosen":1,"elements":[{"tag":{"int":0},"value":"Yes"},{"tag":"t","value":null}]}}},{"tag":"j","value":{"element":{"tag":{"int":3},"value":{"collection":{"elements":[]}}}}},{"tag":"k","value":null}]}}
