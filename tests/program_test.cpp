@@ -176,6 +176,13 @@ TEST_F(Program, NamesTheProjectFileThatCouldNotBeWritten)
     EXPECT_TRUE(outcome.err.contains("-5001") && outcome.err.contains("out/csharp/walls.csproj"))
         << outcome.err.toStdString();
     EXPECT_TRUE(exists("out/csharp/walls.cs")) << "the macro stays";
+
+    // The macro of an empty recording is shorter than the project file.
+    const Outcome full = run({"convert", "-", "--target", "cpp", "--output", "full/m.cpp"}, "", "ulimit -f 8; ");
+    EXPECT_EQ(full.status, 1);
+    EXPECT_TRUE(full.err.contains("full/m.vcproj could not be written whole")) << full.err.toStdString();
+    EXPECT_TRUE(exists("full/m.cpp"));
+    EXPECT_FALSE(exists("full/m.vcproj"));
 }
 
 TEST_F(Program, NeverOverwritesItsInput)

@@ -76,6 +76,7 @@ struct RawArguments
     std::vector<std::string> files;
     std::string targets;
     std::string output;
+    std::string installDir;
     int recordingLanguage = 0;
     bool json = false;
     bool version = false;
@@ -123,6 +124,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
     const CLI::Option* const output = convert->add_option("--output", raw.output);
     const CLI::Option* const language =
         convert->add_option("--recording-language", raw.recordingLanguage)->check(CLI::Range(0, 5));
+    const CLI::Option* const installDir = convert->add_option("--install-dir", raw.installDir);
     CLI::App* const inspect = app.add_subcommand("inspect");
     inspect->add_option("FILE", raw.files)->required()->expected(1);
     inspect->add_flag("--json", raw.json);
@@ -152,8 +154,20 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
         line.output = decodeName(raw.output);
     }
     if (*language)
-        line.recordingLanguage = raw.recordingLanguage;
+        line.host.recordingLanguage = raw.recordingLanguage;
+    if (*installDir)
+        line.host.installDir = decodeName(raw.installDir);
     return line;
+}
+
+QStringList HostSettings::arguments() const
+{
+    QStringList arguments;
+    if (recordingLanguage)
+        arguments.append(QString("--recording-language=%1").arg(*recordingLanguage));
+    if (installDir)
+        arguments.append("--install-dir=" + *installDir);
+    return arguments;
 }
 
 QString helpText()
@@ -165,7 +179,7 @@ QString helpText()
 
 Usage:
   inkmacro convert FILE... --target TARGET[,TARGET...]|all [--output PATH]
-                   [--recording-language N]
+                   [--recording-language N] [--install-dir DIR]
   inkmacro inspect FILE [--json]
   inkmacro check FILE...
   inkmacro schema
@@ -198,6 +212,9 @@ Options of convert:
       The host setting that decides on the byte order mark and on the form of
       type names, 0 to 5. Without it the recording's header says, or else the
       code of the target is taken.
+  --install-dir DIR
+      Where the application is installed, as C:\Inkwright\ with a backslash at
+      its end: the C++ projects look for its libraries below it.
 
 Several files or targets are converted side by side; one that fails does not
 stop the others. Standard output holds the paths written, one a line, the macro

@@ -18,6 +18,16 @@ public:
     QString message() const { return QString::fromUtf8(what()); }
 };
 
+/// What the caller says of the host that `convert` plays.
+struct HostSettings
+{
+    std::optional<int> recordingLanguage; ///< goes before what the recording says
+    std::optional<QString> installDir;    ///< where the application is installed
+
+    /// The same once more, for another process of this program.
+    QStringList arguments() const;
+};
+
 struct CommandLine
 {
     enum class Command
@@ -34,7 +44,7 @@ struct CommandLine
     QStringList files;                     ///< "-" is standard input, at most once
     std::vector<const TargetRow*> targets; ///< each once, in the order asked for
     std::optional<QString> output;
-    std::optional<int> recordingLanguage;
+    HostSettings host;
     bool json = false;
 };
 

@@ -9,8 +9,10 @@
 #include "app/reading.h"
 #include "app/turns.h"
 #include "host/db/OdDbClasses.h"
+#include "host/kernel/CFxRegistry.h"
 #include "host/kernel/CFxServices.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace inkmacro {
@@ -45,12 +47,14 @@ void repeatFirstSnapshot(LoadedModule& module, const Recording::Sheet& sheet)
     module->TakeSnapshot(layout.get(), records);
 }
 
-std::int32_t runModule(const Job& job, const Recording& recording, std::optional<int> recordingLanguage)
+std::int32_t runModule(const Job& job, const Recording& recording, const HostSettings& host)
 {
     LoadedModule module;
     const auto code = static_cast<std::uint32_t>(job.target->target);
-    const int language = recordingLanguage.value_or(recording.header.language.value_or(static_cast<int>(code)));
+    const int language = host.recordingLanguage.value_or(recording.header.language.value_or(static_cast<int>(code)));
     GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
+    if (host.installDir)
+        GetFxRegistry()->SetText("SOFTWARE\\Velmorand\\Inkwright", "InstallDir", *host.installDir);
     if (recording.header.sheet)
         repeatFirstSnapshot(module, *recording.header.sheet);
 
@@ -70,6 +74,17 @@ void printWritten(const Job& job)
             printOut(file + '\n');
 }
 
+/// A part of a project file is worse than none. False when there was one.
+bool removeIncompleteFiles()
+{
+    const std::vector<CFxString>& files = GetFxSystemServices()->GetIncompleteFiles();
+    for (const CFxString& file : files) {
+        QFile::remove(file);
+        complain(QString("%1 could not be written whole and was removed").arg(QDir::cleanPath(file)));
+    }
+    return files.empty();
+}
+
 /// The file that a failure is about: the macro, or when that stands, the first file of the project which cannot be
 /// opened.
 QString failedFile(const Job& job)
@@ -86,7 +101,7 @@ QString failedFile(const Job& job)
 
 } // namespace
 
-int convertOne(const Job& job, std::optional<int> recordingLanguage)
+int convertOne(const Job& job, const HostSettings& host)
 {
     Recording recording;
     if (!readOrComplain(job.input, recording))
@@ -97,11 +112,13 @@ int convertOne(const Job& job, std::optional<int> recordingLanguage)
         return kFailed;
     }
     try {
-        const std::int32_t status = runModule(job, recording, recordingLanguage);
-        if (status == kFxSuccess) {
+        const std::int32_t status = runModule(job, recording, host);
+        if (status == kFxSuccess && removeIncompleteFiles()) {
             printWritten(job);
             return kDone;
         }
+        if (status == kFxSuccess)
+            return kFailed;
         complain(QString("conversion to %1 failed with status %2: %3")
                      .arg(targetName(*job.target))
                      .arg(status)

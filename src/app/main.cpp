@@ -32,8 +32,7 @@ void useUnicodeNames()
 int convert(const CommandLine& line)
 {
     const std::vector<Job> jobs = planJobs(line);
-    return jobs.size() == 1 ? convertOne(jobs.front(), line.recordingLanguage)
-                            : convertInProcesses(jobs, line.recordingLanguage);
+    return jobs.size() == 1 ? convertOne(jobs.front(), line.host) : convertInProcesses(jobs, line.host);
 }
 
 int run(const CommandLine& line)

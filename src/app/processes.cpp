@@ -43,7 +43,7 @@ protected:
 class JobRunner
 {
 public:
-    JobRunner(const std::vector<Job>& jobs, std::optional<int> recordingLanguage);
+    JobRunner(const std::vector<Job>& jobs, const HostSettings& host);
 
     int run();
 
@@ -71,7 +71,7 @@ private:
     void passOn();
 
     const std::vector<Job>& jobs_;
-    std::optional<int> recordingLanguage_;
+    const HostSettings& host_;
     std::vector<State> states_;
     QTemporaryFile standardInput_;
     QEventLoop loop_;
@@ -83,8 +83,8 @@ private:
     ProgressLine progress_;
 };
 
-JobRunner::JobRunner(const std::vector<Job>& jobs, std::optional<int> recordingLanguage)
-    : jobs_(jobs), recordingLanguage_(recordingLanguage), states_(jobs.size()), progress_([this] {
+JobRunner::JobRunner(const std::vector<Job>& jobs, const HostSettings& host)
+    : jobs_(jobs), host_(host), states_(jobs.size()), progress_([this] {
           const auto total = static_cast<int>(jobs_.size());
           return progressBar(doneCount_, total) + QString("  %1 of %2 done").arg(doneCount_).arg(total);
       })
@@ -195,8 +195,7 @@ void JobRunner::start(std::size_t number)
 QStringList JobRunner::argumentsOf(const Job& job) const
 {
     QStringList arguments{"convert", "--target=" + targetName(*job.target), "--output=" + job.macro};
-    if (recordingLanguage_)
-        arguments.append(QString("--recording-language=%1").arg(*recordingLanguage_));
+    arguments += host_.arguments();
     return arguments << "--" << job.input;
 }
 
@@ -249,9 +248,9 @@ void JobRunner::passOn()
 
 } // namespace
 
-int convertInProcesses(const std::vector<Job>& jobs, std::optional<int> recordingLanguage)
+int convertInProcesses(const std::vector<Job>& jobs, const HostSettings& host)
 {
-    return JobRunner(jobs, recordingLanguage).run();
+    return JobRunner(jobs, host).run();
 }
 
 } // namespace inkmacro

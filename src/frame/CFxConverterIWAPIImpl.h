@@ -87,7 +87,7 @@ protected:
     CFxConverterIWAPIImpl(inkmacro::Target target, std::uint32_t mode);
     ~CFxConverterIWAPIImpl() override;
 
-    /// False when the file could not be opened; a write that fails after that is not seen.
+    /// False when the file could not be opened. A write that fails after that is reported to the host alone.
     static bool WriteTextFile(const QString& path, const QString& text, bool byteOrderMark);
 
 private:

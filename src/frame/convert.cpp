@@ -2,6 +2,7 @@
 
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
+#include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "targets/texts.h"
 
@@ -150,5 +151,9 @@ bool CFxConverterIWAPIImpl::WriteTextFile(const QString& path, const QString& te
     stream.setGenerateByteOrderMark(byteOrderMark);
     if (opened)
         stream << text;
+    stream.flush();
+    // No failure of the conversion, but the host has to know that the disk is full.
+    if (opened && (!file.flush() || stream.status() != QTextStream::Ok))
+        GetFxSystemServices()->ReportIncompleteFile(path);
     return opened;
 }

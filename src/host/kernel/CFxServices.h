@@ -28,7 +28,12 @@ public:
     /// Not owned; null when no document is open.
     void SetActiveDocument(CFxDocument* document) { activeDocument_ = document; }
 
+    /// A file whose text did not reach the disk whole, though it could be opened.
+    void ReportIncompleteFile(const CFxString& path) { incompleteFiles_.push_back(path); }
+    const std::vector<CFxString>& GetIncompleteFiles() const { return incompleteFiles_; }
+
 private:
+    std::vector<CFxString> incompleteFiles_;
     QHash<QString, std::int16_t> settings_;
     CFxDocument* activeDocument_ = nullptr;
 };
