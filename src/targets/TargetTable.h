@@ -14,6 +14,9 @@
     ROW(CSharp, CSharp, "csharp", "cs", "Program.cs %1.csproj")                                                        \
     ROW(JavaScript, JavaScript, "javascript", "html", "")                                                              \
     ROW(VbNet, VbNet, "vbnet", "vb", "Module1.vb %1.vbproj")                                                           \
+    ROW(CppCom, CPPCOM, "cppcom", "cpp",                                                                               \
+        "IwAddinConnection.h IwAddinConnection.cpp %1.h resource.h stdafx.h stdafx.cpp smartvars.h %1.def %1ps.def "   \
+        "%1.idl IwAddinConnection.rgs %1.rgs %1.rc %1.vcproj typeconverter.h")                                         \
     ROW(Vba, Vba, "vba", "bas", "")
 
 namespace inkmacro {

@@ -1,0 +1,168 @@
+// The macro file of the COM add-in around the statements.
+
+#include "frame/RecordingState.h"
+#include "targets/FileHead.h"
+#include "targets/LineEnd.h"
+#include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
+
+#include <QUuid>
+
+using namespace inkmacro;
+
+// %1 is the line end, %2 the class, %3 the id of the server, %4 the sheet on which the recording began. A frame brings
+// its own indentation.
+
+static const char* const server =
+    "#include \"stdafx.h\"%1#include \"resource.h\"%1#include \"%2_i.h\"%1#include \"%2.h\"%1#include \"smartvars.h\"%1"
+    "#include \"typeconverter.h\"%1#include \"IwAddinConnection.h\"%1#include \"math.h\"%1%1"
+    R"(class C%2Module : public CAtlDllModuleT< C%2Module >
+{
+public:
+    DECLARE_LIBID(LIBID_%2Lib)
+    DECLARE_REGISTRY_APPID_RESOURCEID(IDR_%2, "%3")
+};
+
+C%2Module _AtlModule;
+
+#ifdef _MANAGED
+#pragma managed(push, off)
+#endif
+
+// Entry point of the library
+extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved)
+{
+    hInstance;
+    return _AtlModule.DllMain(dwReason, lpReserved);
+}
+
+#ifdef _MANAGED
+#pragma managed(pop)
+#endif
+
+// Tells whether the library is still in use
+STDAPI DllCanUnloadNow(void)
+{
+    return _AtlModule.DllCanUnloadNow();
+}
+
+// Gives the class factory of an object of this server
+STDAPI DllGetClassObject(REFCLSID rclsid, REFIID riid, LPVOID* ppv)
+{
+    return _AtlModule.DllGetClassObject(rclsid, riid, ppv);
+}
+
+// Adds the server, its type library and the interfaces of the type library to the registry
+STDAPI DllRegisterServer(void)
+{
+    return _AtlModule.DllRegisterServer();
+}
+
+// Removes from the registry what DllRegisterServer added
+STDAPI DllUnregisterServer(void)
+{
+    return _AtlModule.DllUnregisterServer();
+}
+
+)";
+
+static const FileHead head{
+    .opening = R"(IwMacroCommand::IwMacroCommand( ICommand* pCommand )
+    : m_IwCommand( pCommand )
+{
+    DispEventAdvise( m_IwCommand );
+}
+
+IwMacroCommand::~IwMacroCommand()
+{
+    DispEventUnadvise( m_IwCommand );
+}
+
+void __stdcall IwMacroCommand::OnExecuteNotify()
+{
+    CIwAddinConnection* pConnection = getMacroApp();
+
+    IDocumentPtr iwDoc( pConnection->m_IwApp->GetActiveDocument() );
+    if( NULL == iwDoc )
+    {
+        MessageBox (NULL, L"Failed to get current document.", L"title", MB_OK);
+        return;
+    }
+
+    IModelPtr iwModel( iwDoc->GetModel() );
+    if( NULL == iwModel )
+    {
+        MessageBox (NULL, L"Failed to get a model space of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    ISketchManagerPtr iwSketchManager;
+)",
+    .modelSketchManager = R"(    iwSketchManager = iwModel->GetSketchManager();
+    if( NULL == iwSketchManager )
+    {
+        MessageBox (NULL, L"Failed to get a sketch manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+)",
+    .firstSheet =
+        "    _variant_t pVariantArray = iwDoc->GetSheets();%1    ISheetPtr *iwSheetArrays = NULL;%1    int count = 0;%1"
+        "    TypeConverter::convertVariantArrayToPtrArray<ISheetPtr, ISheet>( pVariantArray, iwSheetArrays, count );%1"
+        "    ISheetPtr iwSheet = iwSheetArrays[1];%1"
+        R"(    if( NULL == iwSheet )
+    {
+        MessageBox (NULL, L"Failed to get a paper space of the current document.", L"title", MB_OK);
+        return;
+    }
+
+)",
+    .recordedSheet = R"(    iwSheet = NULL;
+    iwSheet = iwDoc->GetSheet(L"%4");
+    if( NULL == iwSheet )
+    {
+        MessageBox (NULL, L"Failed to get a paper space of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    iwSheet->Activate();
+
+    iwSketchManager = iwSheet->GetSketchManager();
+    if( NULL == iwSketchManager )
+    {
+        MessageBox (NULL, L"Failed to get a sketch manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+)",
+    // The selection manager too: no other target has it in its frame.
+    .viewManager = R"(    ISelectionManagerPtr iwSelManager( iwDoc->GetSelectionManager() );
+    if( NULL == iwSelManager )
+    {
+        MessageBox (NULL, L"Failed to get selection manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    IViewManagerPtr iwViewManager( iwDoc->GetViewManager() );
+    if( NULL == iwViewManager )
+    {
+        MessageBox (NULL, L"Failed to get a view manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+)",
+};
+
+QString CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool)
+{
+    IndentLevel += 1;
+    const Template words((server + head.words()).constData());
+    const QString serverId = QUuid::createUuid().toString();
+    return Fill(&words).text(LineEnd).text(className).text(serverId).text(RecordingSheetName);
+}
+
+QString CFxConverterIWAPICPPCOM::EmitFileFooter()
+{
+    IndentLevel -= 1;
+    static const Template words("}%1%1");
+    return Fill(&words).text(LineEnd);
+}

@@ -1,0 +1,143 @@
+// What the server of the COM add-in offers, and how it is registered.
+
+#include "targets/Fill.h"
+#include "targets/LineEnd.h"
+#include "targets/cppcom/projectTexts.h"
+
+#include <QUuid>
+
+// %1 is the project, %2 the line end; ids follow. Where ids follow, the last line's end is written as a marker, so that
+// they stay behind it.
+
+static const char* const interfaceText = R"(// %1.idl : Source of the type library and of the proxy code.
+
+import "oaidl.idl";
+import "ocidl.idl";
+
+[
+    object,
+    uuid(%3),
+    dual,
+    nonextensible,
+    helpstring("IIwAddinConnection Interface"),
+    pointer_default(unique)
+]
+interface IIwAddinConnection : IDispatch
+{
+};
+
+[
+    uuid(%4),
+    version(1.0),
+    helpstring("%1 Type Library")
+]
+library %1Lib
+{
+    importlib("stdole2.tlb");
+
+    [
+        uuid(%5),
+        helpstring("IwAddinConnection Class")
+    ]
+    coclass IwAddinConnection
+    {
+        [default] interface IIwAddinConnection;
+    };
+};%2)";
+
+static const char* const connectionScript = R"(HKCR
+{
+    %1.IwAddinConnection.1 = s 'IwAddinConnection Class'
+    {
+        CLSID = s '%3'
+    }
+    %1.IwAddinConnection = s 'IwAddinConnection Class'
+    {
+        CLSID = s '%3'
+        CurVer = s '%1.IwAddinConnection.1'
+    }
+    NoRemove CLSID
+    {
+        ForceRemove %3 = s 'IwAddinConnection Class'
+        {
+            ProgID = s '%1.IwAddinConnection.1'
+            VersionIndependentProgID = s '%1.IwAddinConnection'
+            ForceRemove 'Programmable'
+            InprocServer32 = s '%MODULE%'
+            {
+                val ThreadingModel = s 'Apartment'
+            }
+            val AppID = s '%APPID%'
+            'TypeLib' = s '%4'
+        }
+    }
+}%2)";
+
+static const char* const serverScript = R"(HKCR
+{
+    NoRemove AppID
+    {
+        '%APPID%' = s '%1'
+        '%1.DLL'
+        {
+            val AppID = s '%APPID%'
+        }
+    }
+}
+)";
+
+static const char* const serverExportsText = R"(; %1.def : Declares the module parameters.
+
+LIBRARY      "%1.DLL"
+
+EXPORTS
+    DllCanUnloadNow     PRIVATE
+    DllGetClassObject   PRIVATE
+    DllRegisterServer   PRIVATE
+    DllUnregisterServer PRIVATE
+)";
+
+static const char* const proxyExportsText = R"(LIBRARY      "%1PS"
+
+EXPORTS
+    DllGetClassObject   PRIVATE
+    DllCanUnloadNow     PRIVATE
+    GetProxyDllInfo     PRIVATE
+    DllRegisterServer   PRIVATE
+    DllUnregisterServer PRIVATE
+)";
+
+namespace inkmacro::cppcom {
+
+QString interfaceDefinition(const QString& name, const QString& typeLibraryId, const QString& classId)
+{
+    static const Template words(interfaceText);
+    const QString interfaceId = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    return Fill(&words).text(name).text(LineEnd).text(interfaceId).text(typeLibraryId).text(classId);
+}
+
+QString connectionRegistration(const QString& name, const QString& classId, const QString& typeLibraryId)
+{
+    static const Template words(connectionScript);
+    return Fill(&words).text(name).text(LineEnd).text(classId).text(typeLibraryId);
+}
+
+QString serverRegistration(const QString& name)
+{
+    static const Template words(serverScript);
+    return Fill(&words).text(name).text(LineEnd);
+}
+
+QString serverExports(const QString& name)
+{
+    static const Template words(serverExportsText);
+    return Fill(&words).text(name).text(LineEnd);
+}
+
+QString proxyExports(const QString& name)
+{
+    static const Template words(proxyExportsText);
+    return Fill(&words).text(name).text(LineEnd);
+}
+
+} // namespace inkmacro::cppcom
