@@ -9,7 +9,7 @@ SOURCES = $(shell find src tests bench fuzz -name '*.h' -o -name '*.cpp')
 .PHONY: help setup build demo test bench format format-check tidy clean
 
 help:
-	@echo "make demo          convert every recording in examples/ to C# and say where the macros are"
+	@echo "make demo          convert every recording in examples/ to all targets and say where the macros are"
 	@echo "make test          build and run every test"
 	@echo "make bench         build and run the benchmarks"
 	@echo "make format        format all C++ sources"
@@ -26,10 +26,10 @@ build: setup
 
 demo: build
 	@mkdir -p $(DEMO)
-	$(BUILD)/bin/inkmacro convert examples/*.jsonl --target csharp --output $(DEMO)/
+	$(BUILD)/bin/inkmacro convert examples/*.jsonl --target all --output $(DEMO)/
 	@echo
-	@echo "The macros made from examples/*.jsonl are in $(CURDIR)/$(DEMO)/csharp:"
-	@ls $(DEMO)/csharp
+	@echo "The macros made from examples/*.jsonl, a folder a target, are in $(CURDIR)/$(DEMO):"
+	@ls -d $(DEMO)/*/
 
 test: build
 	ctest --preset $(PRESET)
