@@ -8,8 +8,10 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 
 class AddedProperties;
+class ChangeRows;
 class CFxConverterIWAPIImpl;
 
 /// Whether objects of that class are converted at all.
@@ -18,6 +20,12 @@ bool IsSupportedClass(const CFxString& name);
 /// Whether a value of choice type shows the word "Yes" or "On" in the host's display language.
 bool IsYes(const CFxVariant& value);
 bool IsOn(const CFxVariant& value);
+/// A word as the host's property sheet shows it.
+CFxString ShownWord(const char* word);
+/// The text of a value of choice type that came as the chosen item alone; empty for any other value.
+CFxString ElementText(const CFxVariant& value);
+/// The text of the chosen item, whether it came alone or among all items; nothing for any other value.
+std::optional<CFxString> ChosenText(const CFxVariant& value);
 
 /// Turns recorded objects into statements, from their property records alone. Knows no target: the words come from the
 /// Emit operations. Lives as long as one conversion; its driver owns it.
@@ -43,6 +51,36 @@ public:
     /// Statements for the properties that changed, or for what an added object's reader left. Empties `text` first.
     virtual std::int32_t ConvertObjectChanges(OdRxClass* cls, OdDbHandle handle, PropertyList& list, bool fromAdded,
                                               QString& text);
+    /// The properties that entities of all classes have. Sets `noGroup`, and takes back the level of the group that was
+    /// begun, when the statements declare what must be seen behind the group.
+    std::int32_t ConvertGeneralProperties(PropertyList& list, bool fromAdded, bool isCurvedText,
+                                          const CFxString& target, bool& noGroup, QString& text);
+
+    // Changes of curves and geometry, one handler a class. Each takes the tags that it knows out of the list and
+    // appends their statements to `text`, but of an added object it only takes the tags. `name` is the object's
+    // variable.
+    std::int32_t ConvertModifiedLine(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedCircle(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedPoint(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedRay(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedArc(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedInfiniteLine(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedEllipse(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedPolyline3D(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedLeader(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedRichLine(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedSolid(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedPolyline(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedSpline(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedShape(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedTolerance(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedPolygonMesh(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedPolyFaceMesh(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedFace(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedEmbeddedObject(PropertyList& list, bool fromAdded, const CFxString& name,
+                                               QString& text);
+    std::int32_t ConvertModifiedViewport(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
+    std::int32_t ConvertModifiedTrace(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
 
     /// Takes the first record with that tag out of the list and gives its value, or the null value. The record's tag
     /// may be in the host's display language. `consumed` and `index` may be null; they receive the record, and its
@@ -74,6 +112,63 @@ public:
     virtual QString EmitInsertEllipse(const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
                                       double otherAxisDistance, const CFxString& name) = 0;
 
+    // Setters: `target` is the variable, `property` the property's name. No statement comes of a record that the
+    // drawing does not have.
+    virtual QString EmitSetProperty(const CFxString& target, const CFxString& property, const CFxString& value,
+                                    bool quoted) = 0;
+    virtual QString EmitSetDoubleProperty(const CFxString& target, const CFxString& property, double value) = 0;
+    virtual QString EmitSetBoolProperty(const CFxString& target, const CFxString& property, bool value) = 0;
+    virtual QString EmitSetColor(const CFxString& target, const CFxString& property, const OdCmColor& color) = 0;
+    virtual QString EmitSetLayer(const CFxString& target, const CFxString& property, const OdDbObjectId& id) = 0;
+    virtual QString EmitSetLineStyle(const CFxString& target, const CFxString& property, const OdDbObjectId& id) = 0;
+    /// `weight` is in hundredths of a millimetre, -1 by layer, -2 by block.
+    virtual QString EmitSetLineWeight(const CFxString& target, const CFxString& property, int weight) = 0;
+    virtual QString EmitSetTransparency(const CFxString& target, const OdCmTransparency& transparency) = 0;
+
+    // Objects that statements reach others by. A name that is passed in as CFxString& receives the new variable's.
+    /// Gives the object's variable. Where the recording has not made it, the statement fetches the object into a new
+    /// variable, which is not remembered; else it is empty. A class without an interface leaves the name as it was.
+    virtual QString EmitObjectVariable(const OdDbHandle& handle, OdRxClass* cls, CFxString& name) = 0;
+    virtual QString EmitGetNoteAnnotation(const CFxString& note, const CFxString& leader) = 0;
+    virtual QString EmitDeclareBlockDefinition(const CFxString& name) = 0;
+    virtual QString EmitGetGeneralDimension(const CFxString& name, CFxString& target) = 0;
+    virtual QString EmitGetCurvedTextSettings(const CFxString& name, CFxString& settings) = 0;
+    virtual QString EmitSetCurvedTextSettings(const CFxString& name, const CFxString& settings) = 0;
+    virtual QString EmitRemoveNamedView(const CFxString& name, const CFxString& viewName, bool paperspace) = 0;
+    virtual QString EmitRemoveLayer(const CFxString& name) = 0;
+
+    // Changes of curves and geometry. Each change of a coordinate is a read, an assignment and a write.
+
+    /// `getter` and `setter` are the host's operations. `axis` is "X", "Y" or "Z"; `index` is -1 for a property that
+    /// is not repeated.
+    virtual QString EmitChangePoint(const CFxString& target, const CFxString& axis, const CFxString& getter,
+                                    const CFxString& setter, double value, std::int32_t index) = 0;
+    /// `local` is "getX", "getY" or "getZ".
+    virtual QString EmitChangePosition(const CFxString& target, const CFxString& local, double value) = 0;
+    virtual QString EmitChangeFirstPoint(const CFxString& target, const CFxString& local, double value) = 0;
+    virtual QString EmitChangeSecondPoint(const CFxString& target, const CFxString& local, double value) = 0;
+    virtual QString EmitChangeVertex(const CFxString& target, std::int32_t index, const CFxString& axis,
+                                     double value) = 0;
+    virtual QString EmitChangeVertex2D(const CFxString& target, std::int32_t index, const CFxString& axis,
+                                       double value) = 0;
+    virtual QString EmitSetIndexedDouble(const CFxString& target, const CFxString& operation, std::int32_t index,
+                                         double value) = 0;
+    /// The enumerator is told by the text that the property sheet shows.
+    virtual QString EmitSetEnumProperty(const CFxString& target, const char* enumeration, const CFxString& property,
+                                        const CFxString& shownText) = 0;
+    virtual QString EmitSetLeaderType(const CFxString& target, const CFxString& property, std::int32_t type) = 0;
+    // Each fetches an object into a new variable and gives its name.
+    virtual QString EmitGetDimensionStyleUserData(const CFxString& owner, CFxString& userData) = 0;
+    virtual QString EmitGetArrowsOptions(const CFxString& owner, CFxString& options) = 0;
+    virtual QString EmitGetLineOptions(const CFxString& owner, CFxString& options) = 0;
+    virtual QString EmitGetTextOptions(const CFxString& owner, CFxString& options) = 0;
+    virtual QString EmitGetFitOptions(const CFxString& owner, CFxString& options) = 0;
+    /// `arrow` is the drawing's number of a kind of arrow.
+    virtual QString EmitSetLeaderArrow(const CFxString& target, const CFxString& operation, std::int32_t arrow) = 0;
+    /// `scale` is the drawing's number: 1 for the factor given, 2 for the scale of the sheet.
+    virtual QString EmitSetDimensionScale(const CFxString& target, const CFxString& operation, std::int32_t scale,
+                                          double factor) = 0;
+
     /// Text as it stands within the quotes of a statement.
     virtual CFxString EscapeText(const CFxString& text) const = 0;
 
@@ -82,6 +177,9 @@ protected:
 
     /// Raises OdError when there is no driver.
     CFxConverterIWAPIImpl& Driver() const;
+    /// The id of the object in the active drawing; null without one.
+    static OdDbObjectId IdOf(const OdDbHandle& handle);
+    CFxString ObjectVariableName(OdRxClass* cls, const OdDbObjectId& id, std::uint32_t ordinal) const;
 
 private:
     /// What records are compared with when a tag is looked for.
@@ -92,9 +190,24 @@ private:
     };
     using Reader = QString (CFxConverterIWAPIObject::*)(AddedProperties& properties, const CFxString& name);
 
+    using ChangeHandler = std::int32_t (CFxConverterIWAPIObject::*)(PropertyList& list, bool fromAdded,
+                                                                    const CFxString& name, QString& text);
+    struct ClassChanges
+    {
+        ChangeHandler handler; ///< null for a class of which only the general changes are converted
+        bool notAdded = false; ///< the handler does not run on what the reader of an added object left
+    };
+
     const TagWords& WordsOf(const CFxString& tag);
-    CFxString AddedVariableName(OdRxClass* cls, const OdDbObjectId& id, std::uint32_t ordinal) const;
     static Reader ReaderOf(const OdRxClass* cls);
+    static ClassChanges ClassChangesOf(const OdRxClass* cls);
+
+    // Steps of ConvertObjectChanges.
+    bool AddressChangedObject(OdRxClass* cls, const OdDbHandle& handle, const OdDbObjectId& noteLeader,
+                              const PropertyList& list, CFxString& name, QString& text);
+    QString ConvertErased(OdRxClass* cls, const CFxString& name, const CFxVariant& erased);
+    std::int32_t ConvertRows(const ChangeRows& rows, PropertyList& list, bool fromAdded, const CFxString& name,
+                             QString& text);
 
     // One reader a class: takes its tags from the list and gives the creation statement, which may be empty.
     QString ReadLine(AddedProperties& properties, const CFxString& name);
@@ -107,6 +220,8 @@ private:
 
     std::map<OdDbObjectId, QString> addedVariableById;
     std::map<QString, OdDbObjectId> addedIdByVariable;
+    std::map<OdDbObjectId, QString> changedVariableById;
+    std::map<QString, OdDbObjectId> changedIdByVariable;
     CFxConverterIWAPIImpl* driver;
 
     QString blockAttributes; ///< the group of block attributes, in the host's display language

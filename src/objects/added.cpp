@@ -36,8 +36,13 @@ CFxConverterIWAPIObject::Reader CFxConverterIWAPIObject::ReaderOf(const OdRxClas
     return readers.value(cls, nullptr);
 }
 
-CFxString CFxConverterIWAPIObject::AddedVariableName(OdRxClass* cls, const OdDbObjectId& id,
-                                                     std::uint32_t ordinal) const
+OdDbObjectId CFxConverterIWAPIObject::IdOf(const OdDbHandle& handle)
+{
+    return ACTIVE_DOCUMENT ? ACTIVE_DOCUMENT->GetDatabase()->getOdDbObjectId(handle) : OdDbObjectId();
+}
+
+CFxString CFxConverterIWAPIObject::ObjectVariableName(OdRxClass* cls, const OdDbObjectId& id,
+                                                      std::uint32_t ordinal) const
 {
     CFxString type;
     CFxString second;
@@ -60,8 +65,8 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(OdRxClass* cls, OdDbHan
     if (!entry)
         return kFxSuccess;
 
-    const OdDbObjectId id = ACTIVE_DOCUMENT ? ACTIVE_DOCUMENT->GetDatabase()->getOdDbObjectId(handle) : OdDbObjectId();
-    const CFxString name = AddedVariableName(cls, id, entry->ordinal);
+    const OdDbObjectId id = IdOf(handle);
+    const CFxString name = ObjectVariableName(cls, id, entry->ordinal);
     addedVariableById[id] = name;
     addedIdByVariable[name] = id;
 

@@ -13,21 +13,37 @@ QString translated(const char* context, const QString& key)
     return QCoreApplication::translate(context, key.toUtf8().constData(), nullptr, -1);
 }
 
-bool shows(const CFxVariant& value, const char* word)
+} // namespace
+
+CFxString ShownWord(const char* word)
 {
-    return value.GetCollectionElement().GetValue()->GetString() == CFxString(translated("property_values", word));
+    return translated("property_values", word);
 }
 
-} // namespace
+CFxString ElementText(const CFxVariant& value)
+{
+    return value.GetCollectionElement().GetValue()->GetString();
+}
+
+std::optional<CFxString> ChosenText(const CFxVariant& value)
+{
+    if (value.GetType() == CFxVariant::kCollectionElement)
+        return ElementText(value);
+    const auto& items = value.GetCollection().GetCollectionDataForRead();
+    const auto chosen = static_cast<std::size_t>(value.GetCollection().GetChosen());
+    if (chosen < items.size())
+        return items[chosen].GetValue()->GetString();
+    return std::nullopt;
+}
 
 bool IsYes(const CFxVariant& value)
 {
-    return shows(value, "Yes");
+    return ElementText(value) == ShownWord("Yes");
 }
 
 bool IsOn(const CFxVariant& value)
 {
-    return shows(value, "On");
+    return ElementText(value) == ShownWord("On");
 }
 
 /// The catalogues are asked once for each tag of a conversion, not for each record.

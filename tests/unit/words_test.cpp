@@ -139,6 +139,8 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitObjectAddedComment", Target::JavaScript},
         {"EmitObjectModifiedComment", Target::JavaScript},
         {"EmitComment", Target::JavaScript},
+        // The point that a call gives needs no declaration either.
+        {"EmitChangePosition", Target::JavaScript},
         // Nothing calls for a comment of its own.
         {"EmitComment", Target::Cpp},
         {"EmitComment", Target::CppCom},

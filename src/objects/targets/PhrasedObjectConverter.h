@@ -24,6 +24,50 @@ public:
     QString EmitInsertEllipse(const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd, double otherAxisDistance,
                               const CFxString& name) override;
 
+    // Setters: setters.cpp.
+    QString EmitSetProperty(const CFxString& target, const CFxString& property, const CFxString& value,
+                            bool quoted) override;
+    QString EmitSetDoubleProperty(const CFxString& target, const CFxString& property, double value) override;
+    QString EmitSetBoolProperty(const CFxString& target, const CFxString& property, bool value) override;
+    QString EmitSetColor(const CFxString& target, const CFxString& property, const OdCmColor& color) override;
+    QString EmitSetLayer(const CFxString& target, const CFxString& property, const OdDbObjectId& id) override;
+    QString EmitSetLineStyle(const CFxString& target, const CFxString& property, const OdDbObjectId& id) override;
+    QString EmitSetLineWeight(const CFxString& target, const CFxString& property, int weight) override;
+    QString EmitSetTransparency(const CFxString& target, const OdCmTransparency& transparency) override;
+
+    // Objects that statements reach others by: references.cpp.
+    QString EmitObjectVariable(const OdDbHandle& handle, OdRxClass* cls, CFxString& name) override;
+    QString EmitGetNoteAnnotation(const CFxString& note, const CFxString& leader) override;
+    QString EmitDeclareBlockDefinition(const CFxString& name) override;
+    QString EmitGetGeneralDimension(const CFxString& name, CFxString& target) override;
+    QString EmitGetCurvedTextSettings(const CFxString& name, CFxString& settings) override;
+    QString EmitSetCurvedTextSettings(const CFxString& name, const CFxString& settings) override;
+    QString EmitRemoveNamedView(const CFxString& name, const CFxString& viewName, bool paperspace) override;
+    QString EmitRemoveLayer(const CFxString& name) override;
+
+    // Changes of curves and geometry.
+    QString EmitChangePoint(const CFxString& target, const CFxString& axis, const CFxString& getter,
+                            const CFxString& setter, double value, std::int32_t index) override;
+    QString EmitChangePosition(const CFxString& target, const CFxString& local, double value) override;
+    QString EmitChangeFirstPoint(const CFxString& target, const CFxString& local, double value) override;
+    QString EmitChangeSecondPoint(const CFxString& target, const CFxString& local, double value) override;
+    QString EmitChangeVertex(const CFxString& target, std::int32_t index, const CFxString& axis, double value) override;
+    QString EmitChangeVertex2D(const CFxString& target, std::int32_t index, const CFxString& axis,
+                               double value) override;
+    QString EmitSetIndexedDouble(const CFxString& target, const CFxString& operation, std::int32_t index,
+                                 double value) override;
+    QString EmitSetEnumProperty(const CFxString& target, const char* enumeration, const CFxString& property,
+                                const CFxString& shownText) override;
+    QString EmitSetLeaderType(const CFxString& target, const CFxString& property, std::int32_t type) override;
+    QString EmitGetDimensionStyleUserData(const CFxString& owner, CFxString& userData) override;
+    QString EmitGetArrowsOptions(const CFxString& owner, CFxString& options) override;
+    QString EmitGetLineOptions(const CFxString& owner, CFxString& options) override;
+    QString EmitGetTextOptions(const CFxString& owner, CFxString& options) override;
+    QString EmitGetFitOptions(const CFxString& owner, CFxString& options) override;
+    QString EmitSetLeaderArrow(const CFxString& target, const CFxString& operation, std::int32_t arrow) override;
+    QString EmitSetDimensionScale(const CFxString& target, const CFxString& operation, std::int32_t scale,
+                                  double factor) override;
+
     CFxString EscapeText(const CFxString& text) const override;
 
 protected:
@@ -36,7 +80,20 @@ protected:
     inkmacro::Target target() const { return target_; }
     /// The target's words for the phrase with indentation and line end filled in; the values follow.
     inkmacro::Fill fill(const inkmacro::Phrase& phrase) const;
+    /// The same for literals in which `%2` is a value already: only the indentation is filled in.
+    inkmacro::Fill fillIndented(const inkmacro::Phrase& phrase) const;
 
 private:
+    struct PointWords;
+
+    QString changePoint(const PointWords& words, const CFxString& target, const CFxString& getter,
+                        const CFxString& setter, std::int32_t index, const CFxString& coordinate, double value);
+    QString changePair(const CFxString& target, const CFxString& getter, const CFxString& setter,
+                       const CFxString& local, double value);
+    QString changeVertex(const PointWords& words, const CFxString& target, std::int32_t index, const CFxString& axis,
+                         double value);
+    QString setEnumerator(const CFxString& target, const CFxString& property, const QString& enumerator);
+    QString getOptions(const char* kind, const char* stem, const CFxString& owner, CFxString& options);
+
     inkmacro::Target target_;
 };

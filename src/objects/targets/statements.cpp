@@ -12,6 +12,11 @@ Fill PhrasedObjectConverter::fill(const Phrase& phrase) const
     return Fill(phrase.in(target_), Driver().IndentLevel, LineEnd);
 }
 
+Fill PhrasedObjectConverter::fillIndented(const Phrase& phrase) const
+{
+    return Fill(phrase.in(target_), Driver().IndentLevel);
+}
+
 CFxString PhrasedObjectConverter::EscapeText(const CFxString& text) const
 {
     return escapeText(target_, text);

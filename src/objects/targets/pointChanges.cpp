@@ -1,0 +1,284 @@
+// Changes of one coordinate: the generated program reads the point, changes the coordinate and writes the point back.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "objects/targets/PhrasedObjectConverter.h"
+#include "targets/LineEnd.h"
+
+using namespace inkmacro;
+
+/// The four steps of a change, in their order.
+struct PhrasedObjectConverter::PointWords
+{
+    const Phrase& declare;
+    const Phrase& get;
+    const Phrase& change;
+    const Phrase& set;
+};
+
+/// Without an index (-1) the calls have one value less.
+QString PhrasedObjectConverter::changePoint(const PointWords& words, const CFxString& target, const CFxString& getter,
+                                            const CFxString& setter, std::int32_t index, const CFxString& coordinate,
+                                            double value)
+{
+    const std::uint32_t suffix = ++Driver().UniqueCounter;
+    const auto call = [&](const Phrase& phrase, const CFxString& operation) -> QString {
+        if (index == -1)
+            return fillIndented(phrase).text(target).text(operation).text(LineEnd).number(suffix);
+        return fillIndented(phrase).text(target).text(operation).number(index).text(LineEnd).number(suffix);
+    };
+    return fill(words.declare).number(suffix).str() + call(words.get, getter) +
+           fillIndented(words.change).text(coordinate).real(value).text(LineEnd).number(suffix).str() +
+           call(words.set, setter);
+}
+
+static constexpr char typedXYZ[] = "%1double X%3;%2%1double Y%3;%2%1double Z%3;%2";
+static constexpr char basicXYZ[] = "%1Dim X%3 As Double%2%1Dim Y%3 As Double%2%1Dim Z%3 As Double%2";
+
+static const Phrase declarePoint{"EmitChangePoint",
+                                 {
+                                     .cpp = typedXYZ,
+                                     .cppCom = typedXYZ,
+                                     .csharp = typedXYZ,
+                                     .javascript = "%1var points;%2",
+                                     .vbNet = basicXYZ,
+                                     .vba = basicXYZ,
+                                 }};
+
+static const Phrase declareIndexedPoint{
+    "EmitChangePoint",
+    {
+        .cpp = "%1double X%3;%2%1double Y%3;%2%1double Z%3;%2%1bool bRetVal%3 = false;%2",
+        .cppCom = typedXYZ,
+        .csharp = typedXYZ,
+        .javascript = "%1var points;%2",
+        .vbNet = basicXYZ,
+        .vba = basicXYZ,
+    }};
+
+static const Phrase getPoint{"EmitChangePoint",
+                             {
+                                 .cpp = "%1%2->%3( &X%5, &Y%5, &Z%5 );%4",
+                                 .cppCom = "%1%2->%3( &X%5, &Y%5, &Z%5 );%4",
+                                 .csharp = "%1%2.%3(out X%5, out Y%5, out Z%5);%4",
+                                 .javascript = "%1points = %2.%3();%4",
+                                 .vbNet = "%1%2.%3( X%5, Y%5, Z%5 )%4",
+                                 .vba = "%1%2.%3 X%5, Y%5, Z%5 %4",
+                             }};
+
+static const Phrase getIndexedPoint{"EmitChangePoint",
+                                    {
+                                        .cpp = "%1%2->%3( %4, &X%6, &Y%6, &Z%6, &bRetVal%6 );%5",
+                                        .cppCom = "%1%2->%3( %4, &X%6, &Y%6, &Z%6 );%5",
+                                        .csharp = "%1%2.%3(%4, out X%6, out Y%6, out Z%6);%5",
+                                        .javascript = "%1points = %2.%3( %4 );%5",
+                                        .vbNet = "%1%2.%3( %4, X%6, Y%6, Z%6 )%5",
+                                        .vba = "%1%2.%3 %4, X%6, Y%6, Z%6 %5",
+                                    }};
+
+static const Phrase changePointCoordinate{"EmitChangePoint",
+                                          {
+                                              .cpp = "%1%2%5 = %3;%4",
+                                              .cppCom = "%1%2%5 = %3;%4",
+                                              .csharp = "%1%2%5 = %3;%4",
+                                              .javascript = "%1points.%2 = %3;%4",
+                                              .vbNet = "%1%2%5 = %3%4",
+                                              .vba = "%1%2%5 = %3%4",
+                                          }};
+
+/// The line of blanks behind the COM target's call stays.
+static const Phrase setPoint{"EmitChangePoint",
+                             {
+                                 .cpp = "%1%2->%3( X%5, Y%5, Z%5 );%4",
+                                 .cppCom = "%1%2->%3( X%5, Y%5, Z%5 );%4%1%4",
+                                 .csharp = "%1%2.%3(X%5, Y%5, Z%5);%4",
+                                 .javascript = "%1%2.%3(points.X, points.Y, points.Z);%4",
+                                 .vbNet = "%1%2.%3( X%5, Y%5, Z%5 )%4",
+                                 .vba = "%1%2.%3 X%5, Y%5, Z%5 %4",
+                             }};
+
+static const Phrase setIndexedPoint{"EmitChangePoint",
+                                    {
+                                        .cpp = "%1%2->%3( %4, X%6, Y%6, Z%6, &bRetVal%6 );%5",
+                                        .cppCom = "%1%2->%3( %4, X%6, Y%6, Z%6 );%5%1%5",
+                                        .csharp = "%1%2.%3(%4, X%6, Y%6, Z%6);%5",
+                                        .javascript = "%1%2.%3(%4, points.X, points.Y, points.Z);%5",
+                                        .vbNet = "%1%2.%3( %4, X%6, Y%6, Z%6 )%5",
+                                        .vba = "%1%2.%3 %4, X%6, Y%6, Z%6 %5",
+                                    }};
+
+QString PhrasedObjectConverter::EmitChangePoint(const CFxString& target, const CFxString& axis, const CFxString& getter,
+                                                const CFxString& setter, double value, std::int32_t index)
+{
+    static const PointWords plain{declarePoint, getPoint, changePointCoordinate, setPoint};
+    static const PointWords indexed{declareIndexedPoint, getIndexedPoint, changePointCoordinate, setIndexedPoint};
+    return changePoint(index == -1 ? plain : indexed, target, getter, setter, index, axis, value);
+}
+
+/// JavaScript gets its local from the call.
+static const Phrase declarePair{"EmitChangePosition",
+                                {
+                                    .cpp = "%1double getX%3;%2%1double getY%3;%2%1double getZ%3;%2",
+                                    .cppCom = "%1double getX%3;%2%1double getY%3;%2%1double getZ%3;%2",
+                                    .csharp = "%1double getX%3;%2%1double getY%3;%2%1double getZ%3;%2",
+                                    .vbNet = "%1Dim getX%3 As Double%2%1Dim getY%3 As Double%2"
+                                             "%1Dim getZ%3 As Double%2",
+                                    .vba = "%1Dim getX%3 As Double%2%1Dim getY%3 As Double%2%1Dim getZ%3 As Double%2",
+                                }};
+
+static const Phrase getPair{"EmitChangePosition",
+                            {
+                                .cpp = "%1%2->%3( &getX%5, &getY%5, &getZ%5 );%4",
+                                .cppCom = "%1%2->%3( &getX%5, &getY%5, &getZ%5 );%4",
+                                .csharp = "%1%2.%3(out getX%5, out getY%5, out getZ%5);%4",
+                                .javascript = "%1var get = %2.%3();%4",
+                                .vbNet = "%1%2.%3( getX%5, getY%5, getZ%5 )%4",
+                                .vba = "%1%2.%3 getX%5, getY%5, getZ%5%4",
+                            }};
+
+static const Phrase changeLocal{"EmitChangePosition",
+                                {
+                                    .cpp = "%1%2%5 = %3;%4",
+                                    .cppCom = "%1%2%5 = %3;%4",
+                                    .csharp = "%1%2%5 = %3;%4",
+                                    .javascript = "%1%2 = %3;%4",
+                                    .vbNet = "%1%2%5 = %3%4",
+                                    .vba = "%1%2%5 = %3%4",
+                                }};
+
+static const Phrase setPair{"EmitChangePosition",
+                            {
+                                .cpp = "%1%2->%3( getX%5, getY%5, getZ%5 );%4",
+                                .cppCom = "%1%2->%3( getX%5, getY%5, getZ%5 );%4",
+                                .csharp = "%1%2.%3(getX%5, getY%5, getZ%5);%4",
+                                .javascript = "%1%2.%3(get.X, get.Y, get.Z);%4",
+                                .vbNet = "%1%2.%3( getX%5, getY%5, getZ%5 )%4",
+                                .vba = "%1%2.%3 getX%5, getY%5, getZ%5%4",
+                            }};
+
+QString PhrasedObjectConverter::changePair(const CFxString& target, const CFxString& getter, const CFxString& setter,
+                                           const CFxString& local, double value)
+{
+    static const PointWords words{declarePair, getPair, changeLocal, setPair};
+    QString coordinate = local;
+    if (this->target() == Target::JavaScript)
+        coordinate.replace(QLatin1String("get"), QLatin1String("get."));
+    return changePoint(words, target, getter, setter, -1, coordinate, value);
+}
+
+QString PhrasedObjectConverter::EmitChangePosition(const CFxString& target, const CFxString& local, double value)
+{
+    return changePair(target, "GetPosition", "SetPosition", local, value);
+}
+
+QString PhrasedObjectConverter::EmitChangeFirstPoint(const CFxString& target, const CFxString& local, double value)
+{
+    return changePair(target, "GetFirstPoint", "SetFirstPoint", local, value);
+}
+
+QString PhrasedObjectConverter::EmitChangeSecondPoint(const CFxString& target, const CFxString& local, double value)
+{
+    return changePair(target, "GetSecondPoint", "SetSecondPoint", local, value);
+}
+
+// The locals of C++ and JavaScript have no suffix, so that a second change in one block declares them again; and what
+// JavaScript gets is no valid script. Both must stay so.
+
+static const Phrase declareVertex{"EmitChangeVertex",
+                                  {
+                                      .cpp = "%1double X;%2%1double Y;%2%1double Z;%2%1bool retVal = false;%2",
+                                      .cppCom = typedXYZ,
+                                      .csharp = typedXYZ,
+                                      .javascript = "%1double X;%2%1double Y;%2%1double Z;%2",
+                                      .vbNet = basicXYZ,
+                                      .vba = basicXYZ,
+                                  }};
+
+static const Phrase getVertex{"EmitChangeVertex",
+                              {
+                                  .cpp = "%1%3->GetVertexCoordinate( %4, &X, &Y, &Z );%2",
+                                  .cppCom = "%1%2->GetVertexCoordinate( %3, &X%5, &Y%5, &Z%5 );%4",
+                                  .csharp = "%1%2.GetVertexCoordinate(%3, out X%5, out Y%5, out Z%5);%4",
+                                  .javascript = "%1%2.GetVertexCoordinate(%3, out X, out Y, out Z);%4",
+                                  .vbNet = "%1%2.GetVertexCoordinate( %3, X%5, Y%5, Z%5 )%4",
+                                  .vba = "%1%2.GetVertexCoordinate %3, X%5, Y%5, Z%5%4",
+                              }};
+
+static const Phrase changeVertexCoordinate{"EmitChangeVertex",
+                                           {
+                                               .cpp = "%1%3 = %4;%2",
+                                               .cppCom = "%1%2%5 = %3;%4",
+                                               .csharp = "%1%2%5 = %3;%4",
+                                               .javascript = "%1%2 = %3;%4",
+                                               .vbNet = "%1%2%5 = %3%4",
+                                               .vba = "%1%2%5 = %3%4",
+                                           }};
+
+static const Phrase setVertex{"EmitChangeVertex",
+                              {
+                                  .cpp = "%1%3->SetVertexCoordinate( %4, X, Y, Z, &retVal );%2",
+                                  .cppCom = "%1%2->SetVertexCoordinate( %3, X%5, Y%5, Z%5 );%4",
+                                  .csharp = "%1%2.SetVertexCoordinate(%3, X%5, Y%5, Z%5);%4",
+                                  .javascript = "%1%2.SetVertexCoordinate(%3, X, Y, Z);%4",
+                                  .vbNet = "%1%2.SetVertexCoordinate( %3, X%5, Y%5, Z%5 )%4",
+                                  .vba = "%1%2.SetVertexCoordinate %3, X%5, Y%5, Z%5%4",
+                              }};
+
+QString PhrasedObjectConverter::changeVertex(const PointWords& words, const CFxString& target, std::int32_t index,
+                                             const CFxString& axis, double value)
+{
+    // Only here the C++ calls end with the usual second value, and only they do without the suffix.
+    if (this->target() == Target::Cpp)
+        return fill(words.declare).str() + fill(words.get).text(target).number(index).str() +
+               fill(words.change).text(axis).real(value).str() + fill(words.set).text(target).number(index).str();
+
+    const std::uint32_t suffix = this->target() == Target::JavaScript ? 0 : ++Driver().UniqueCounter;
+    const auto call = [&](const Phrase& phrase) {
+        return fillIndented(phrase).text(target).number(index).text(LineEnd).number(suffix).str();
+    };
+    return fill(words.declare).number(suffix).str() + call(words.get) +
+           fillIndented(words.change).text(axis).real(value).text(LineEnd).number(suffix).str() + call(words.set);
+}
+
+QString PhrasedObjectConverter::EmitChangeVertex(const CFxString& target, std::int32_t index, const CFxString& axis,
+                                                 double value)
+{
+    static const PointWords words{declareVertex, getVertex, changeVertexCoordinate, setVertex};
+    return changeVertex(words, target, index, axis, value);
+}
+
+static const Phrase declareVertex2D{"EmitChangeVertex2D",
+                                    {
+                                        .cpp = "%1double X;%2%1double Y;%2%1bool retVal = false;%2",
+                                        .cppCom = "%1double X%3;%2%1double Y%3;%2",
+                                        .csharp = "%1double X%3;%2%1double Y%3;%2",
+                                        .javascript = "%1double X;%2%1double Y;%2",
+                                        .vbNet = "%1Dim X%3 As Double%2%1Dim Y%3 As Double%2",
+                                        .vba = "%1Dim X%3 As Double%2%1Dim Y%3 As Double%2",
+                                    }};
+
+static const Phrase getVertex2D{"EmitChangeVertex2D",
+                                {
+                                    .cpp = "%1%3->GetVertexCoordinate( %4, &X, &Y );%2",
+                                    .cppCom = "%1%2->GetVertexCoordinate( %3, &X%5, &Y%5 );%4",
+                                    .csharp = "%1%2.GetVertexCoordinate(%3, out X%5, out Y%5);%4",
+                                    .javascript = "%1%2.GetVertexCoordinate(%3, out X, out Y);%4",
+                                    .vbNet = "%1%2.GetVertexCoordinate( %3, X%5, Y%5 )%4",
+                                    .vba = "%1%2.GetVertexCoordinate %3, X%5, Y%5%4",
+                                }};
+
+static const Phrase setVertex2D{"EmitChangeVertex2D",
+                                {
+                                    .cpp = "%1%3->SetVertexCoordinate( %4, X, Y, &retVal );%2",
+                                    .cppCom = "%1%2->SetVertexCoordinate( %3, X%5, Y%5 );%4",
+                                    .csharp = "%1%2.SetVertexCoordinate(%3, X%5, Y%5);%4",
+                                    .javascript = "%1%2.SetVertexCoordinate(%3, X, Y);%4",
+                                    .vbNet = "%1%2.SetVertexCoordinate( %3, X%5, Y%5 )%4",
+                                    .vba = "%1%2.SetVertexCoordinate %3, X%5, Y%5%4",
+                                }};
+
+QString PhrasedObjectConverter::EmitChangeVertex2D(const CFxString& target, std::int32_t index, const CFxString& axis,
+                                                   double value)
+{
+    static const PointWords words{declareVertex2D, getVertex2D, changeVertexCoordinate, setVertex2D};
+    return changeVertex(words, target, index, axis, value);
+}

@@ -1,0 +1,168 @@
+// How statements come by the objects that they change, and the removal of what is no entity.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "objects/targets/PhrasedObjectConverter.h"
+
+using namespace inkmacro;
+
+static const Phrase objectByHandle{
+    "EmitObjectVariable",
+    {
+        .cpp = "%1iwObjectType_e type%6;\n%1%3 %4;%2%1iwDoc->GetObjectByHandle(L\"%5\", &type%6, &%4);%2",
+        .cppCom = "%1iwObjectType_e type%6;\n"
+                  "%1I%3Ptr %4 = pConnection->m_IwApp->GetActiveDocument()->GetObjectByHandle(L\"%5\", &type%6);%2",
+        .csharp = "%1iwObjectType_e type%6;\n"
+                  "%1%3 %4 = iwApp.GetActiveDocument().GetObjectByHandle(\"%5\", out type%6) as %3;%2",
+        .javascript = "%1var %4 = mDoc.GetObjectByHandle(\"%5\").DispObj;%2",
+        .vbNet = "%1Dim type%6 As Inkwright.iwObjectType_e\n"
+                 "%1Dim %4 As Inkwright.%3 = iwApp.GetActiveDocument().GetObjectByHandle(\"%5\", type%6)%2",
+        .vba = "%1Dim %4 As Inkwright.%3%2%1Dim type%6 As Inkwright.iwObjectType_e%2"
+               "%1Set %4 = iwApp.GetActiveDocument().GetObjectByHandle (\"%5\", type%6 )%2",
+    }};
+
+QString PhrasedObjectConverter::EmitObjectVariable(const OdDbHandle& handle, OdRxClass* cls, CFxString& name)
+{
+    CFxString type;
+    CFxString second;
+    if (Driver().GetApiTypeName(cls, type, second) != kFxSuccess)
+        return {};
+    const ActionEntry* const entry = Driver().FindEntry(handle);
+    name = ObjectVariableName(cls, IdOf(handle), entry ? entry->ordinal : ++Driver().objectCounter);
+    if (entry)
+        return {};
+    const QString digits = handle.ascii();
+    // A page needs neither the variable's type nor a place for the object's.
+    if (target_ == Target::JavaScript)
+        return fill(objectByHandle).text(name).text(digits);
+    return fill(objectByHandle).text(type).text(name).text(digits).number(++Driver().UniqueCounter);
+}
+
+static const Phrase getNoteAnnotation{"EmitGetNoteAnnotation",
+                                      {
+                                          .cpp = "%1iwNote_ptr %4;%2%1%3->GetNoteAnnotation( &%4 );%2",
+                                          .cppCom = "%1INotePtr %4 = %3->GetNoteAnnotation();%2",
+                                          .csharp = "%1Note %4 = %3.GetNoteAnnotation();%2",
+                                          .javascript = "%1var %4 = %3.GetNoteAnnotation();%2",
+                                          .vbNet = "%1Dim %4 As Inkwright.Note = %3.GetNoteAnnotation()%2",
+                                          .vba = "%1Dim %4 As Inkwright.Note%2%1Set %4 = %3.GetNoteAnnotation()%2",
+                                      }};
+
+QString PhrasedObjectConverter::EmitGetNoteAnnotation(const CFxString& note, const CFxString& leader)
+{
+    return fill(getNoteAnnotation).text(leader).text(note);
+}
+
+static const Phrase declareBlockDefinition{"EmitDeclareBlockDefinition",
+                                           {
+                                               .cpp = "%1iwBlockDefinition_ptr %3;%2",
+                                               .cppCom = "%1IBlockDefinitionPtr %3;%2",
+                                               .csharp = "%1BlockDefinition %3;%2",
+                                               .javascript = "%1var %3;%2",
+                                               .vbNet = "%1Dim %3 As Inkwright.BlockDefinition%2",
+                                               .vba = "%1Dim %3 As Inkwright.BlockDefinition%2",
+                                           }};
+
+QString PhrasedObjectConverter::EmitDeclareBlockDefinition(const CFxString& name)
+{
+    return fill(declareBlockDefinition).text(name);
+}
+
+static const Phrase getGeneralDimension{
+    "EmitGetGeneralDimension",
+    {
+        .cpp = "%1iwGeneralDimension_ptr %3;%2%1%4->GetGeneralDimension( &%3 );%2",
+        .cppCom = "%1IGeneralDimensionPtr %3 = %4->GetGeneralDimension();%2",
+        .csharp = "%1GeneralDimension %3 = %4.GetGeneralDimension();%2",
+        .javascript = "%1var %3 = %4.GetGeneralDimension();%2",
+        .vbNet = "%1Dim %3 As Inkwright.GeneralDimension = %4.GetGeneralDimension()%2",
+        .vba = "%1Dim %3 As Inkwright.GeneralDimension%2%1Set %3 = %4.GetGeneralDimension()%2",
+    }};
+
+QString PhrasedObjectConverter::EmitGetGeneralDimension(const CFxString& name, CFxString& target)
+{
+    target = QStringLiteral("generalDimension%1").arg(++Driver().UniqueCounter);
+    return fill(getGeneralDimension).text(target).text(name);
+}
+
+static const Phrase getCurvedTextSettings{
+    "EmitGetCurvedTextSettings",
+    {
+        .cpp = "%1iwCurvedSettings_ptr %3;%2%1%4->GetCurvedSettings( &%3 );%2",
+        .cppCom = "%1ICurvedSettingsPtr %3 = %4->GetCurvedSettings();%2",
+        .csharp = "%1CurvedSettings %3 = %4.GetCurvedSettings();%2",
+        .javascript = "%1var %3 = %4.GetCurvedSettings();%2",
+        .vbNet = "%1Dim %3 As Inkwright.CurvedSettings = %4.GetCurvedSettings()%2",
+        .vba = "%1Dim %3 As Inkwright.CurvedSettings%2%1Set %3 = %4.GetCurvedSettings()%2",
+    }};
+
+QString PhrasedObjectConverter::EmitGetCurvedTextSettings(const CFxString& name, CFxString& settings)
+{
+    settings = QStringLiteral("curvedSettings%1").arg(++Driver().UniqueCounter);
+    return fill(getCurvedTextSettings).text(settings).text(name);
+}
+
+static const Phrase setCurvedTextSettings{"EmitSetCurvedTextSettings",
+                                          {
+                                              .cpp = "%1%3->SetCurvedSettings( %4 );%2",
+                                              .cppCom = "%1%3->SetCurvedSettings( %4 );%2",
+                                              .csharp = "%1%3.SetCurvedSettings( %4 );%2",
+                                              .javascript = "%1%3.SetCurvedSettings( %4 );%2",
+                                              .vbNet = "%1%3.SetCurvedSettings( %4 )%2",
+                                              .vba = "%1%3.SetCurvedSettings %4%2",
+                                          }};
+
+QString PhrasedObjectConverter::EmitSetCurvedTextSettings(const CFxString& name, const CFxString& settings)
+{
+    return fill(setCurvedTextSettings).text(name).text(settings);
+}
+
+static const Phrase removeModelView{"EmitRemoveNamedView",
+                                    {
+                                        .cpp = "%1iwViewManager->RemoveModelNamedView( L\"%3\" );%2",
+                                        .cppCom = "%1iwViewManager->RemoveModelNamedView( L\"%3\" );%2",
+                                        .csharp = "%1iwViewManager.RemoveModelNamedView( \"%3\" );%2",
+                                        .javascript = "%1mViewManager.RemoveModelNamedView( \"%3\" );%2",
+                                        .vbNet = "%1iwViewManager.RemoveModelNamedView( \"%3\" )%2",
+                                        .vba = "%1iwViewManager.RemoveModelNamedView \"%3\"%2",
+                                    }};
+
+static const Phrase removeSheetView{"EmitRemoveNamedView",
+                                    {
+                                        .cpp = "%1iwViewManager->RemoveSheetNamedView( L\"%3\" );%2",
+                                        .cppCom = "%1iwViewManager->RemoveSheetNamedView( L\"%3\" );%2",
+                                        .csharp = "%1iwViewManager.RemoveSheetNamedView( \"%3\" );%2",
+                                        .javascript = "%1mViewManager.RemoveSheetNamedView( \"%3\" );%2",
+                                        .vbNet = "%1iwViewManager.RemoveSheetNamedView( \"%3\" )%2",
+                                        .vba = "%1iwViewManager.RemoveSheetNamedView \"%3\"%2",
+                                    }};
+
+/// The manager is asked by the view's name, so that a view goes too that the macro has no variable for.
+QString PhrasedObjectConverter::EmitRemoveNamedView(const CFxString&, const CFxString& viewName, bool paperspace)
+{
+    return fill(paperspace ? removeSheetView : removeModelView).text(viewName);
+}
+
+static const Phrase removeLayer{
+    "EmitRemoveLayer",
+    {
+        .cpp = "%1iwLayerManager_ptr iwLayerManager%3;%2%1iwDoc->GetLayerManager( &iwLayerManager%3 );%2"
+               "%1iwString layerName%3;%2%1%4->get_Name( &layerName%3 );%2%1bool bResult%3 = false;%2"
+               "%1iwLayerManager%3->RemoveLayer( layerName%3, &bResult%3 );%2",
+        .cppCom = "%1ILayerManagerPtr iwLayerManager%3 = iwDoc->GetLayerManager();%2"
+                  "%1BSTR layerName%3;%2%1%4->get_Name( &layerName%3 );%2"
+                  "%1iwLayerManager%3->RemoveLayer( layerName%3 );%2",
+        .csharp = "%1LayerManager iwLayerManager%3 = iwDoc.GetLayerManager();%2%1string layerName%3 = %4.Name;%2"
+                  "%1iwLayerManager%3.RemoveLayer( layerName%3 );%2",
+        .javascript = "%1var iwLayerManager%3 = mDoc.GetLayerManager();%2%1var layerName%3 = %4.get_Name();%2"
+                      "%1iwLayerManager%3.RemoveLayer( layerName%3 );%2",
+        .vbNet = "%1Dim iwLayerManager%3 As Inkwright.LayerManager = iwDoc.GetLayerManager()%2"
+                 "%1Dim layerName%3 As String = %4.Name%2%1iwLayerManager%3.RemoveLayer( layerName%3 )%2",
+        .vba = "%1Dim iwLayerManager%3 As Inkwright.LayerManager%2%1Set iwLayerManager%3 = iwDoc.GetLayerManager()%2"
+               "%1Dim layerName%3 As String%2%1layerName%3 = %4.Name%2"
+               "%1iwLayerManager%3.RemoveLayer layerName%3%2",
+    }};
+
+QString PhrasedObjectConverter::EmitRemoveLayer(const CFxString& name)
+{
+    return fill(removeLayer).number(++Driver().UniqueCounter).text(name);
+}

@@ -1,0 +1,187 @@
+// Setters of single properties, and the general properties of entities.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "host/db/OdDbClasses.h"
+#include "objects/targets/PhrasedObjectConverter.h"
+#include "targets/enumerations.h"
+#include "targets/texts.h"
+
+using namespace inkmacro;
+
+static const Phrase setText{"EmitSetProperty",
+                            {
+                                .cpp = "%1%3->put_%4( L\"%5\" );%2",
+                                .cppCom = "%1%3->put_%4( L\"%5\" );%2",
+                                .csharp = "%1%3.%4 = \"%5\";%2",
+                                .javascript = "%1%3.put_%4 (\"%5\");%2",
+                                .vbNet = "%1%3.%4 = \"%5\"%2",
+                                .vba = "%1%3.%4 = \"%5\"%2",
+                            }};
+
+static const Phrase setValue{"EmitSetProperty",
+                             {
+                                 .cpp = "%1%3->put_%4( %5 );%2",
+                                 .cppCom = "%1%3->put_%4( %5 );%2",
+                                 .csharp = "%1%3.%4 = %5;%2",
+                                 .javascript = "%1%3.put_%4( %5 );%2",
+                                 .vbNet = "%1%3.%4 = %5%2",
+                                 .vba = "%1%3.%4 = %5%2",
+                             }};
+
+QString PhrasedObjectConverter::EmitSetProperty(const CFxString& target, const CFxString& property,
+                                                const CFxString& value, bool quoted)
+{
+    return fill(quoted ? setText : setValue).text(target).text(property).text(value);
+}
+
+QString PhrasedObjectConverter::EmitSetDoubleProperty(const CFxString& target, const CFxString& property, double value)
+{
+    return fill(setValue).text(target).text(property).real(value);
+}
+
+QString PhrasedObjectConverter::EmitSetBoolProperty(const CFxString& target, const CFxString& property, bool value)
+{
+    return fill(setValue).text(target).text(property).text(truthWord(target_, value));
+}
+
+static const Phrase setIndexedColor{
+    "EmitSetColor",
+    {
+        .cpp = "%1iwColor_ptr iwColor%3;%2%1m_pIwApp->GetColorByIndex( %4, &iwColor%3 );%2%1%5->put_%6( iwColor%3 );%2",
+        .cppCom = "%1%3->put_%4( pConnection->m_IwApp->GetColorByIndex( %5 ) );%2",
+        .csharp = "%1%3.%4 = iwApp.GetColorByIndex( %5 );%2",
+        .javascript = "%1%3.put_%4( mApp.GetColorByIndex( %5 ) );%2",
+        .vbNet = "%1%3.%4 = iwApp.GetColorByIndex( %5 )%2",
+        .vba = "%1%3.%4 = iwApp.GetColorByIndex( %5 )%2",
+    }};
+
+static const Phrase setRgbColor{"EmitSetColor",
+                                {
+                                    .cpp =
+                                        "%1iwColor_ptr iwColor%3;%2%1m_pIwApp->GetRGBColor( %4, %5, %6, &iwColor%3 );%2"
+                                        "%1%7->put_%8( iwColor%3 );%2",
+                                    .cppCom = "%1%3->put_%4( pConnection->m_IwApp->GetRGBColor( %5, %6, %7 ) );%2",
+                                    .csharp = "%1%3.%4 = iwApp.GetRGBColor( %5, %6, %7 );%2",
+                                    .javascript = "%1%3.put_%4( mApp.GetRGBColor( %5, %6, %7 ) );%2",
+                                    .vbNet = "%1%3.%4 = iwApp.GetRGBColor( %5, %6, %7 )%2",
+                                    .vba = "%1%3.%4 = iwApp.GetRGBColor( %5, %6, %7 )%2",
+                                }};
+
+/// The C++ add-in takes the color into a local variable before it comes to the property.
+QString PhrasedObjectConverter::EmitSetColor(const CFxString& target, const CFxString& property, const OdCmColor& color)
+{
+    const bool indexed = color.isByBlock() || color.isByLayer() || color.isByACI();
+    const bool byLocal = target_ == Target::Cpp;
+    Fill statement = fill(indexed ? setIndexedColor : setRgbColor);
+    if (byLocal)
+        statement.number(++Driver().UniqueCounter);
+    else
+        statement.text(target).text(property);
+    if (indexed)
+        statement.number(color.colorIndex());
+    else
+        statement.number(color.red()).number(color.green()).number(color.blue());
+    if (byLocal)
+        statement.text(target).text(property);
+    return statement;
+}
+
+/// Null when there is no such record. One that was erased later in the recording still has its name.
+template<class Record>
+static OdSmartPtr<Record> recordOf(const OdDbObjectId& id)
+{
+    return odrxCast<Record>(id.openObject(true).get());
+}
+
+QString PhrasedObjectConverter::EmitSetLayer(const CFxString& target, const CFxString& property, const OdDbObjectId& id)
+{
+    const auto layer = recordOf<OdDbLayerTableRecord>(id);
+    return layer ? EmitSetProperty(target, property, layer->getName(), true) : QString();
+}
+
+QString PhrasedObjectConverter::EmitSetLineStyle(const CFxString& target, const CFxString& property,
+                                                 const OdDbObjectId& id)
+{
+    const auto style = recordOf<OdDbLinetypeTableRecord>(id);
+    return style ? EmitSetProperty(target, property, style->getName(), true) : QString();
+}
+
+/// A page hands enumerators over as texts.
+static const Phrase setLineWeight{"EmitSetLineWeight",
+                                  {
+                                      .cpp = "%1%3->put_%4( %5 );%2",
+                                      .cppCom = "%1%3->put_%4( %5 );%2",
+                                      .csharp = "%1%3.%4 = %5;%2",
+                                      .javascript = "%1%3.put_%4( \"%5\" );%2",
+                                      .vbNet = "%1%3.%4 = %5%2",
+                                      .vba = "%1%3.%4 = %5%2",
+                                  }};
+
+QString PhrasedObjectConverter::EmitSetLineWeight(const CFxString& target, const CFxString& property, int weight)
+{
+    return fill(setLineWeight).text(target).text(property).text(LineWeightEnumerator(target_, weight));
+}
+
+static const Phrase setByLayer{"EmitSetTransparency",
+                               {
+                                   .cpp = "iwTransparency%1->SetByLayer();",
+                                   .cppCom = "iwTransparency%1->SetByLayer();",
+                                   .csharp = "iwTransparency%1.SetByLayer();",
+                                   .javascript = "iwTransparency%1.SetByLayer();",
+                                   .vbNet = "iwTransparency%1.SetByLayer()",
+                                   .vba = "iwTransparency%1.SetByLayer",
+                               }};
+
+static const Phrase setByBlock{"EmitSetTransparency",
+                               {
+                                   .cpp = "iwTransparency%1->SetByBlock();",
+                                   .cppCom = "iwTransparency%1->SetByBlock();",
+                                   .csharp = "iwTransparency%1.SetByBlock();",
+                                   .javascript = "iwTransparency%1.SetByBlock();",
+                                   .vbNet = "iwTransparency%1.SetByBlock()",
+                                   .vba = "iwTransparency%1.SetByBlock",
+                               }};
+
+static const Phrase setByAlpha{"EmitSetTransparency",
+                               {
+                                   .cpp = "iwTransparency%1->SetByAlpha( %2 );",
+                                   .cppCom = "iwTransparency%1->SetByAlpha( %2 );",
+                                   .csharp = "iwTransparency%1.SetByAlpha( %2 );",
+                                   .javascript = "iwTransparency%1.SetByAlpha( %2 );",
+                                   .vbNet = "iwTransparency%1.SetByAlpha( %2 )",
+                                   .vba = "iwTransparency%1.SetByAlpha( %2 )",
+                               }};
+
+static const Phrase setTransparency{
+    "EmitSetTransparency",
+    {
+        .cpp = "%1iwTransparency_ptr iwTransparency%3;%2%1%4->get_Transparency( &iwTransparency%3 );%2%1%5%2"
+               "%1%4->put_Transparency( iwTransparency%3 );%2",
+        .cppCom = "%1ITransparencyPtr iwTransparency%3;%2%1%4->get_Transparency( &iwTransparency%3 );%2%1%5%2"
+                  "%1%4->put_Transparency( iwTransparency%3 );%2",
+        .csharp = "%1Transparency iwTransparency%3 = %4.Transparency;%2%1%5%2%1%4.Transparency = iwTransparency%3;%2",
+        .javascript = "%1var iwTransparency%3 = %4.get_Transparency();%2%1%5%2"
+                      "%1%4.put_Transparency( iwTransparency%3 );%2",
+        .vbNet = "%1Dim iwTransparency%3 As Inkwright.Transparency%2%1iwTransparency%3 = %4.Transparency%2%1%5%2"
+                 "%1%4.Transparency = iwTransparency%3%2",
+        .vba = "%1Dim iwTransparency%3 As Inkwright.Transparency%2%1Set iwTransparency%3 = %4.Transparency%2%1%5%2"
+               "%1%4.Transparency = iwTransparency%3%2",
+    }};
+
+/// A method without a name leaves the middle line blank.
+QString PhrasedObjectConverter::EmitSetTransparency(const CFxString& target, const OdCmTransparency& transparency)
+{
+    // Process-wide, one a target, and never put back: a second conversion goes on counting.
+    static std::array<std::uint32_t, targetCount> counters{};
+    std::uint32_t& counter = counters[static_cast<std::size_t>(target_)];
+    const Phrase* const phrase = transparency.method == OdCmTransparency::ByLayer   ? &setByLayer
+                                 : transparency.method == OdCmTransparency::ByBlock ? &setByBlock
+                                 : transparency.method == OdCmTransparency::ByAlpha ? &setByAlpha
+                                                                                    : nullptr;
+    // The interface counts in percent from solid to clear.
+    const int percent = static_cast<int>(100 - transparency.alpha / 255.0 * 100);
+    const QString line = Fill(phrase ? phrase->in(target_) : nullptr).number(counter).number(percent);
+    const QString statement = fill(setTransparency).number(counter).text(target).text(line);
+    ++counter;
+    return statement;
+}
