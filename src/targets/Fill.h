@@ -6,6 +6,7 @@
 #include <QStringView>
 #include <QVarLengthArray>
 
+#include <cstdlib>
 #include <variant>
 #include <vector>
 
@@ -57,13 +58,20 @@ class Fill
 public:
     /// A null template yields empty text.
     explicit Fill(const Template* words) : template_(words) {}
-    /// A statement's first two values are its indentation and the line end.
+    /// A statement's first value is its indentation.
+    Fill(const Template* words, unsigned level) : template_(words) { indent(level); }
+    /// Of most statements the first two values are indentation and line end.
     Fill(const Template* words, unsigned level, QStringView lineEnd) : template_(words) { indent(level).text(lineEnd); }
     Fill(const Fill&) = delete;
     Fill& operator=(const Fill&) = delete;
 
-    /// Four blanks a level, but one blank at level 0.
-    Fill& indent(unsigned level) { return add(Blanks{level == 0 ? 1 : static_cast<int>(4 * level)}); }
+    /// Four blanks a level, but one blank at level 0. A level that was lowered below 0 has as many blanks as its
+    /// counterpart above: so QString::arg takes a negative width.
+    Fill& indent(unsigned level)
+    {
+        const int width = static_cast<int>(4 * level);
+        return add(Blanks{width == 0 ? 1 : std::abs(width)});
+    }
 
     Fill& text(QStringView value);
     Fill& text(QLatin1String value);
