@@ -35,7 +35,7 @@ bool isShapeFileStyle(const CFxObjectAdded& added)
         return false;
     const OdDbObjectId id = ACTIVE_DOCUMENT->GetDatabase()->getOdDbObjectId(added.GetHandle());
     const auto style = odrxCast<OdDbTextStyleTableRecord>(id.openObject().get());
-    return style && style->isShapeFile() && !CFxString(style->fileName()).equalNoCase("LTypeShp.shx");
+    return style && style->isShapeFile() && !IsHostShapeFile(style->fileName());
 }
 
 } // namespace

@@ -16,6 +16,16 @@ public:
     {
         return converter_.FindPoint(xTag, yTag, zTag, list_, context_, &consumed_);
     }
+    CFxString takeText(const CFxString& tag) { return take(tag).GetString(); }
+    /// The points of a collection; none of a value that is no collection.
+    OdArray<OdGePoint3d> takePoints(const CFxString& tag)
+    {
+        OdArray<OdGePoint3d> points;
+        const CFxVariant value = take(tag);
+        for (const CFxVariantCollectionElement& element : value.GetCollection().GetCollectionDataForRead())
+            points.append(element.GetValue()->GetPoint3d());
+        return points;
+    }
     double takeReal(const CFxString& tag, double whenMissing)
     {
         const CFxVariant value = take(tag);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frame/CFxConverterIWAPIModule.h"
+#include "host/db/OdDbObject.h"
 #include "targets/Target.h"
 
 #include <QHash>
@@ -13,6 +14,35 @@
 class AddedProperties;
 class ChangeRows;
 class CFxConverterIWAPIImpl;
+class OdDbMText;
+
+/// What the insertion of an attribute definition takes.
+struct AttributeDefinition
+{
+    CFxString value;
+    CFxString tag;
+    CFxString prompt;
+    OdGePoint3d position;
+    CFxString styleName;
+    CFxString justification; ///< as the property sheet shows it
+    double height;
+    double rotation; ///< radians
+    bool constant;
+    bool invisible;
+    bool preset;
+    bool verify;
+    bool lockPosition;
+};
+
+/// What else than a note may stand at a leader's end.
+enum class LeaderAnnotation
+{
+    Tolerance,
+    Block
+};
+
+/// Whether that file of line type shapes comes with the host, which then needs no statement to load it.
+bool IsHostShapeFile(const CFxString& fileName);
 
 /// Whether objects of that class are converted at all.
 bool IsSupportedClass(const CFxString& name);
@@ -111,6 +141,26 @@ public:
                                          const CFxString& name) = 0;
     virtual QString EmitInsertEllipse(const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
                                       double otherAxisDistance, const CFxString& name) = 0;
+
+    // Text styles, attribute definitions, notes, tolerances, leaders and curved texts.
+    virtual QString EmitCreateTextStyle(const CFxString& name, const CFxString& styleName) = 0;
+    virtual QString EmitLoadShapeFile(const CFxString& path) = 0;
+    virtual QString EmitInsertAttributeDefinition(const AttributeDefinition& definition, const CFxString& name) = 0;
+    virtual QString EmitInsertSimpleNote(const OdGePoint3d& position, double height, double rotation,
+                                         const CFxString& text, const CFxString& name) = 0;
+    virtual QString EmitInsertNote(const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
+                                   const CFxString& text, const CFxString& name) = 0;
+    /// `shownText` is the justification as the property sheet shows it, `direction` the number of the chosen item.
+    virtual QString EmitSetNoteJustify(const CFxString& target, const CFxString& property,
+                                       const CFxString& shownText) = 0;
+    virtual QString EmitSetNoteDirection(const CFxString& target, const CFxString& property, int direction) = 0;
+    virtual QString EmitInsertTolerance(const OdGePoint3d& position, const CFxString& text, const CFxString& name) = 0;
+    virtual QString EmitInsertLeader(const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
+                                     const CFxString& name) = 0;
+    /// `text` is the tolerance's text or the block's name.
+    virtual QString EmitSetAnnotation(const CFxString& leader, LeaderAnnotation kind, const CFxString& text) = 0;
+    virtual QString EmitInsertCurvedText(const CFxString& text, const CFxString& arc, const CFxString& name) = 0;
+    virtual QString EmitCallWithPoint(const CFxString& target, const CFxString& method, const OdGePoint3d& point) = 0;
 
     // Setters: `target` is the variable, `property` the property's name. No statement comes of a record that the
     // drawing does not have.
@@ -217,6 +267,19 @@ private:
     QString ReadArc(AddedProperties& properties, const CFxString& name);
     QString ReadInfiniteLine(AddedProperties& properties, const CFxString& name);
     QString ReadEllipse(AddedProperties& properties, const CFxString& name);
+    QString ReadTextStyle(AddedProperties& properties, const CFxString& name);
+    QString ReadAttributeDefinition(AddedProperties& properties, const CFxString& name);
+    QString ReadSimpleNote(AddedProperties& properties, const CFxString& name);
+    QString ReadNote(AddedProperties& properties, const CFxString& name);
+    QString ReadTolerance(AddedProperties& properties, const CFxString& name);
+    QString ReadLeader(AddedProperties& properties, const CFxString& name);
+    QString ReadCurvedText(AddedProperties& properties, const CFxString& name);
+
+    /// The object of an added variable, for reading; null when it is not in the drawing.
+    OdDbObjectPtr AddedObject(const CFxString& name) const;
+    QString LoadShapes(const CFxString& fileName);
+    QString AnnotateLeader(const CFxString& name);
+    QString SetLeaderNote(const OdDbMText& note, const CFxString& leader);
 
     std::map<OdDbObjectId, QString> addedVariableById;
     std::map<QString, OdDbObjectId> addedIdByVariable;

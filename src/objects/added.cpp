@@ -28,10 +28,20 @@ CFxConverterIWAPIObject::Reader CFxConverterIWAPIObject::ReaderOf(const OdRxClas
 {
     using Self = CFxConverterIWAPIObject;
     static const QHash<const OdRxClass*, Reader> readers{
-        {oddbDwgClassMapDesc(19), &Self::ReadLine},    {oddbDwgClassMapDesc(18), &Self::ReadCircle},
-        {oddbDwgClassMapDesc(27), &Self::ReadPoint},   {oddbDwgClassMapDesc(40), &Self::ReadRay},
-        {oddbDwgClassMapDesc(17), &Self::ReadArc},     {oddbDwgClassMapDesc(41), &Self::ReadInfiniteLine},
+        {oddbDwgClassMapDesc(19), &Self::ReadLine},
+        {oddbDwgClassMapDesc(18), &Self::ReadCircle},
+        {oddbDwgClassMapDesc(27), &Self::ReadPoint},
+        {oddbDwgClassMapDesc(40), &Self::ReadRay},
+        {oddbDwgClassMapDesc(17), &Self::ReadArc},
+        {oddbDwgClassMapDesc(41), &Self::ReadInfiniteLine},
         {oddbDwgClassMapDesc(35), &Self::ReadEllipse},
+        {oddbDwgClassMapDesc(53), &Self::ReadTextStyle},
+        {oddbDwgClassMapDesc(3), &Self::ReadAttributeDefinition},
+        {oddbDwgClassMapDesc(1), &Self::ReadSimpleNote},
+        {oddbDwgClassMapDesc(44), &Self::ReadNote},
+        {oddbDwgClassMapDesc(45), &Self::ReadLeader},
+        {oddbDwgClassMapDesc(46), &Self::ReadTolerance},
+        {OdDbArcAlignedText::desc(), &Self::ReadCurvedText},
     };
     return readers.value(cls, nullptr);
 }
@@ -54,6 +64,12 @@ CFxString CFxConverterIWAPIObject::ObjectVariableName(OdRxClass* cls, const OdDb
         StripPointerSuffixes(type);
     type.makeLower();
     return CFxString(type.toQString() + QString::number(ordinal));
+}
+
+OdDbObjectPtr CFxConverterIWAPIObject::AddedObject(const CFxString& name) const
+{
+    const auto found = addedIdByVariable.find(name);
+    return found == addedIdByVariable.end() ? OdDbObjectPtr() : found->second.openObject();
 }
 
 std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(OdRxClass* cls, OdDbHandle handle, PropertyList& read,

@@ -34,12 +34,21 @@ QString CleanPromptText(const QString& prompt)
     return text.remove(tag).remove(QLatin1String("&raquo; "));
 }
 
+QString doubleBackslashes(QString text)
+{
+    return text.replace('\\', QLatin1String("\\\\"));
+}
+
+QString escapeWithBackslashes(const QString& text)
+{
+    return doubleBackslashes(text).replace('\n', QLatin1String("\\n"));
+}
+
 QString escapeText(Target target, const QString& text)
 {
-    QString escaped = text;
     if (isBasic(target))
-        return escaped.replace('\n', QLatin1String("\" & vbLf & \""));
-    return escaped.replace('\\', QLatin1String("\\\\")).replace('\n', QLatin1String("\\n"));
+        return QString(text).replace('\n', QLatin1String("\" & vbLf & \""));
+    return escapeWithBackslashes(text);
 }
 
 QString truthWord(Target target, bool value)

@@ -16,6 +16,12 @@ QString CleanPromptText(const QString& prompt);
 /// are taken care of; a quote stays as it is.
 QString escapeText(Target target, const QString& text);
 
+/// The text with each backslash doubled, as file paths and font names are written in every target.
+QString doubleBackslashes(QString text);
+
+/// Backslashes doubled, and line feeds as backslash and n.
+QString escapeWithBackslashes(const QString& text);
+
 /// The word for a truth value in statements of objects and of options.
 QString truthWord(Target target, bool value);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "objects/CFxConverterIWAPIObject.h"
+#include "objects/targets/CoordinateArray.h"
 #include "targets/Phrase.h"
 
 /// The object statements of all targets: which value goes into which place of which literal.
@@ -23,6 +24,23 @@ public:
                                  double startAngle, double endAngle, const CFxString& name) override;
     QString EmitInsertEllipse(const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd, double otherAxisDistance,
                               const CFxString& name) override;
+
+    // Text styles, attribute definitions, notes, tolerances, leaders and curved texts.
+    QString EmitCreateTextStyle(const CFxString& name, const CFxString& styleName) override;
+    QString EmitLoadShapeFile(const CFxString& path) override;
+    QString EmitInsertAttributeDefinition(const AttributeDefinition& definition, const CFxString& name) override;
+    QString EmitInsertSimpleNote(const OdGePoint3d& position, double height, double rotation, const CFxString& text,
+                                 const CFxString& name) override;
+    QString EmitInsertNote(const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner, const CFxString& text,
+                           const CFxString& name) override;
+    QString EmitSetNoteJustify(const CFxString& target, const CFxString& property, const CFxString& shownText) override;
+    QString EmitSetNoteDirection(const CFxString& target, const CFxString& property, int direction) override;
+    QString EmitInsertTolerance(const OdGePoint3d& position, const CFxString& text, const CFxString& name) override;
+    QString EmitInsertLeader(const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
+                             const CFxString& name) override;
+    QString EmitSetAnnotation(const CFxString& leader, LeaderAnnotation kind, const CFxString& text) override;
+    QString EmitInsertCurvedText(const CFxString& text, const CFxString& arc, const CFxString& name) override;
+    QString EmitCallWithPoint(const CFxString& target, const CFxString& method, const OdGePoint3d& point) override;
 
     // Setters: setters.cpp.
     QString EmitSetProperty(const CFxString& target, const CFxString& property, const CFxString& value,
@@ -82,6 +100,13 @@ protected:
     inkmacro::Fill fill(const inkmacro::Phrase& phrase) const;
     /// The same for literals in which `%2` is a value already: only the indentation is filled in.
     inkmacro::Fill fillIndented(const inkmacro::Phrase& phrase) const;
+
+    // Coordinates of points as insertion calls take them: coordinates.cpp.
+
+    /// `scriptName` is what a script calls the array.
+    inkmacro::CoordinateArray coordinates(const OdArray<OdGePoint3d>& points, const char* scriptName);
+    /// The statements that fill the array of one COM point. The statement declares `x`, `y` and `z`.
+    QString comPoint(std::uint32_t number, const OdGePoint3d& point) const;
 
 private:
     struct PointWords;

@@ -1,0 +1,93 @@
+// Tolerances, leaders and what stands at a leader's end.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "objects/targets/PhrasedObjectConverter.h"
+
+using namespace inkmacro;
+
+/// Where the values of the point stand, and whether an array of its own takes them, differs by target.
+static const Phrase insertTolerance{
+    "EmitInsertTolerance",
+    {
+        .cpp = "%1iwDoubleArray Coordinates%3;%2%1Coordinates%3.clear();%2%2%4%2"
+               "%1iwSketchManager->InsertTolerance( Coordinates%3, L\"%5\", &%6 );%2",
+        .cppCom = "%1double x, y, z;%2%1VARIANT variant%3;%2%1variant%3.vt = ( VT_ARRAY | VT_R8 );%2"
+                  "%1variant%3.parray = SafeArrayCreateVector( VT_R8, 0, 3 );%2%4%2"
+                  "%1%6 = iwSketchManager->InsertTolerance( variant%3, L\"%5\" );%2",
+        .csharp = "%1%7 = iwSketchManager.InsertTolerance(%2%1 new double[]{%3,%4,%5}, %2%1 \"%6\" );%2",
+        .javascript = "%1var %7 = mSkMgr.InsertTolerance(new Array(%3,%4,%5), \"%6\");%2",
+        .vbNet = "%1%7 = iwSketchManager.InsertTolerance( New Double(){%3,%4,%5}, \"%6\" )%2",
+        .vba = "%1Dim Coordinates%7(2) As Double%2%1Coordinates%7(0) = %3%2%1Coordinates%7(1) = %4%2"
+               "%1Coordinates%7(2) = %5%2%1Set %8 = iwSketchManager.InsertTolerance( Coordinates%7, \"%6\" )%2",
+    }};
+
+QString PhrasedObjectConverter::EmitInsertTolerance(const OdGePoint3d& position, const CFxString& text,
+                                                    const CFxString& name)
+{
+    std::uint32_t& counter = Driver().UniqueCounter;
+    if (target_ == Target::Cpp) {
+        const CoordinateArray array = coordinates({position}, nullptr);
+        Fill statement = fill(insertTolerance);
+        return array.open(statement).text(text).text(name);
+    }
+    if (target_ == Target::CppCom) {
+        const QString point = comPoint(++counter, position);
+        return fill(insertTolerance).number(counter).text(point).text(text).text(name);
+    }
+    Fill statement = fill(insertTolerance);
+    statement.point(position).text(text);
+    if (target_ == Target::Vba)
+        statement.number(++counter);
+    return statement.text(name);
+}
+
+static const Phrase insertLeader{
+    "EmitInsertLeader",
+    {
+        .cpp = "%1iwDoubleArray Coordinates%3;%2%1Coordinates%3.clear();%2%2%4%2"
+               "%1iwSketchManager->InsertLeader( Coordinates%3, %5, L\"%6\", &%7 );%2",
+        .cppCom = "%1VARIANT variant%3;%2%1variant%3.vt = ( VT_ARRAY | VT_R8 );%2"
+                  "%1variant%3.parray = SafeArrayCreateVector( VT_R8, 0, %7 );%2%4%2"
+                  "%1%8 = iwSketchManager->InsertLeader( variant%3, %5, L\"%6\" );%2",
+        .csharp = "%1%6 = iwSketchManager.InsertLeader(%2%1 new double[]{%3},%2%1 %4,%2%1 \"%5\" );%2",
+        .javascript = "%1var %6 = mSkMgr.InsertLeader(%3, %4, \"%5\");%2",
+        .vbNet = "%1Dim Coordinates%3(%4) As Double%2%5%2"
+                 "%1%8 = iwSketchManager.InsertLeader( Coordinates%3, %6, \"%7\" )%2",
+        .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2"
+               "%1Set %8 = iwSketchManager.InsertLeader( Coordinates%3, %6, \"%7\" )%2",
+    }};
+
+QString PhrasedObjectConverter::EmitInsertLeader(const OdArray<OdGePoint3d>& vertices, double width,
+                                                 const CFxString& text, const CFxString& name)
+{
+    const CoordinateArray array = coordinates(vertices, "leaderPoints");
+    Fill statement = fill(insertLeader);
+    array.open(statement).real(width).text(text);
+    return array.before + array.close(statement).text(name).str();
+}
+
+static const Phrase setToleranceAnnotation{"EmitSetAnnotation",
+                                           {
+                                               .cpp = "%1%3->SetToleranceAnnotation( L\"%4\" );%2",
+                                               .cppCom = "%1%3->SetToleranceAnnotation( L\"%4\" );%2",
+                                               .csharp = "%1%3.SetToleranceAnnotation( \"%4\" );%2",
+                                               .javascript = "%1%3.SetToleranceAnnotation(\"%4\");%2",
+                                               .vbNet = "%1%3.SetToleranceAnnotation( \"%4\" )%2",
+                                               .vba = "%1%3.SetToleranceAnnotation \"%4\"%2",
+                                           }};
+
+static const Phrase setBlockAnnotation{"EmitSetAnnotation",
+                                       {
+                                           .cpp = "%1%3->SetBlockAnnotation( L\"%4\" );%2",
+                                           .cppCom = "%1%3->SetBlockAnnotation( L\"%4\" );%2",
+                                           .csharp = "%1%3.SetBlockAnnotation( \"%4\" );%2",
+                                           .javascript = "%1%3.SetBlockAnnotation(\"%4\");%2",
+                                           .vbNet = "%1%3.SetBlockAnnotation( \"%4\" )%2",
+                                           .vba = "%1%3.SetBlockAnnotation \"%4\"%2",
+                                       }};
+
+QString PhrasedObjectConverter::EmitSetAnnotation(const CFxString& leader, LeaderAnnotation kind, const CFxString& text)
+{
+    const Phrase& words = kind == LeaderAnnotation::Tolerance ? setToleranceAnnotation : setBlockAnnotation;
+    return fill(words).text(leader).text(text);
+}

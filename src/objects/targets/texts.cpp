@@ -1,0 +1,205 @@
+// Text styles, attribute definitions, notes and curved texts.
+
+#include "targets/texts.h"
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "objects/targets/PhrasedObjectConverter.h"
+#include "targets/enumerations.h"
+
+using namespace inkmacro;
+
+/// A style that is there already is taken as it is.
+static const Phrase createTextStyle{
+    "EmitCreateTextStyle",
+    {
+        .cpp = "%1iwCreateObjectResult_e result%3;%2%1iwString textStyleName%4 = L\"%5\";%2"
+               "%1iwTextStyleManager_ptr TextStyleManager%3;%2%1iwDoc->GetTextStyleManager(&TextStyleManager%3);%2"
+               "%1TextStyleManager%3->GetTextStyle( textStyleName%4, &%6 );%2%1if ( !%6 )%2%1{%2"
+               "%1    TextStyleManager%3->CreateTextStyle( textStyleName%4, &%6, &result%3 );%2%1}%2",
+        .cppCom = "%1iwCreateObjectResult_e result%3;%2%1BSTR textStyleName%4 = L\"%5\";%2"
+                  "%1%6 = pConnection->m_IwApp->GetActiveDocument()->GetTextStyleManager()->GetTextStyle( "
+                  "textStyleName%4 );%2%1if (NULL == %6)%2%1{%2"
+                  "%1    pConnection->m_IwApp->GetActiveDocument()->GetTextStyleManager()->CreateTextStyle( "
+                  "textStyleName%4, &%6, &result%3 );%2%1}%2",
+        .csharp = "%1iwCreateObjectResult_e result%3;%2%1string textStyleName%4 = \"%5\";%2"
+                  "%1%6 = iwApp.GetActiveDocument().GetTextStyleManager().GetTextStyle( textStyleName%4 );%2"
+                  "%1if (null == %6)%2%1{%2"
+                  "%1    iwApp.GetActiveDocument().GetTextStyleManager().CreateTextStyle( textStyleName%4, out %6, "
+                  "out result%3 );%2%1}%2",
+        .javascript = "%1var TextStyleManager%3 = mDoc.GetTextStyleManager();%2%1var textStyleName%4 = \"%5\";%2"
+                      "%1var %6 = TextStyleManager%3.GetTextStyle(textStyleName%4);%2%1if (null == %6)%2%1{%2"
+                      "%1    %6 = TextStyleManager%3.CreateTextStyle(textStyleName%4).TextStyle;%2%1}%2",
+        .vbNet = "%1Dim result%3 As Inkwright.iwCreateObjectResult_e%2%1Dim textStyleName%4 As String = \"%5\"%2"
+                 "%1%6 = iwApp.GetActiveDocument().GetTextStyleManager().GetTextStyle( textStyleName%4 )%2"
+                 "%1If %6 Is Nothing Then%2"
+                 "%1    iwApp.GetActiveDocument().GetTextStyleManager().CreateTextStyle( textStyleName%4, %6, "
+                 "result%3 )%2%1End If%2",
+        .vba = "%1Dim result%3 As Inkwright.iwCreateObjectResult_e%2%1Dim textStyleName%4 As String%2"
+               "%1textStyleName%4 = \"%5\"%2"
+               "%1Set %6 = iwApp.GetActiveDocument().GetTextStyleManager().GetTextStyle( textStyleName%4 )%2"
+               "%1If %6 Is Nothing Then%2"
+               "%1    iwApp.GetActiveDocument().GetTextStyleManager().CreateTextStyle textStyleName%4, %6, "
+               "result%3%2%1End If%2",
+    }};
+
+QString PhrasedObjectConverter::EmitCreateTextStyle(const CFxString& name, const CFxString& styleName)
+{
+    const std::uint32_t number = ++Driver().UniqueCounter;
+    return fill(createTextStyle).number(number).number(number).text(styleName).text(name);
+}
+
+/// The manager's variable has no number, so two of these in one scope declare it twice. It has to stay so.
+static const Phrase loadShapeFile{
+    "EmitLoadShapeFile",
+    {
+        .cpp = "%1iwShapeManager_ptr iwShapeManager;%2%1iwDoc->GetShapeManager( &iwShapeManager );%2"
+               "%1iwShapeManager->Load( L\"%3\" );%2",
+        .cppCom = "%1IShapeManagerPtr iwShapeManager = iwDoc->GetShapeManager();%2"
+                  "%1iwShapeManager->Load( L\"%3\" );%2",
+        .csharp = "%1ShapeManager iwShapeManager = iwDoc.GetShapeManager();%2%1iwShapeManager.Load( \"%3\" );%2",
+        .javascript = "%1var iwShapeManager = mDoc.GetShapeManager();%2%1iwShapeManager.Load(\"%3\");%2",
+        .vbNet = "%1Dim iwShapeManager As Inkwright.ShapeManager = iwDoc.GetShapeManager()%2"
+                 "%1iwShapeManager.Load( \"%3\" )%2",
+        .vba = "%1Dim iwShapeManager As Inkwright.ShapeManager%2%1Set iwShapeManager = iwDoc.GetShapeManager()%2"
+               "%1iwShapeManager.Load \"%3\"%2",
+    }};
+
+QString PhrasedObjectConverter::EmitLoadShapeFile(const CFxString& path)
+{
+    return fill(loadShapeFile).text(path);
+}
+
+static const Phrase insertAttributeDefinition{
+    "EmitInsertAttributeDefinition",
+    {
+        .cpp = "%1iwSketchManager->InsertAttributeDefinition(  L\"%3\", L\"%4\", L\"%5\", %6, %7, %8, L\"%9\", %10, "
+               "%11, %12, %13, %14, %15, %16, %17, %18, &%19 );%2",
+        .cppCom = "%1%19 = iwSketchManager->InsertAttributeDefinition(  L\"%3\", L\"%4\", L\"%5\", %6, %7, %8, "
+                  "L\"%9\", %10, %11, %12, %13, %14, %15, %16, %17, %18 );%2",
+        .csharp = "%1%19 = iwSketchManager.InsertAttributeDefinition(  \"%3\", \"%4\", \"%5\", %6, %7, %8, \"%9\", "
+                  "%10, %11, %12, %13, %14, %15, %16, %17, %18 );%2",
+        .javascript = "%1var %19 = mSkMgr.InsertAttributeDefinition(\"%3\", \"%4\", \"%5\", %6, %7, %8, \"%9\", %10, "
+                      "%11, %12, %13, %14, %15, %16, %17, %18);%2",
+        .vbNet = "%1%19 = iwSketchManager.InsertAttributeDefinition(  \"%3\", \"%4\", \"%5\", %6, %7, %8, \"%9\", "
+                 "%10, %11, %12, %13, %14, %15, %16, %17, %18 )%2",
+        .vba = "%1Set %19 = iwSketchManager.InsertAttributeDefinition(  \"%3\", \"%4\", \"%5\", %6, %7, %8, \"%9\", "
+               "%10, %11, %12, %13, %14, %15, %16, %17, %18 )%2",
+    }};
+
+QString PhrasedObjectConverter::EmitInsertAttributeDefinition(const AttributeDefinition& definition,
+                                                              const CFxString& name)
+{
+    const QString justification = EnumeratorByText(target_, "iwTextJustification", definition.justification);
+    const auto word = [this](bool value) { return truthWord(target_, value); };
+    // The last flag is not recorded.
+    const QString flags[] = {word(definition.constant), word(definition.invisible),    word(definition.preset),
+                             word(definition.verify),   word(definition.lockPosition), word(false)};
+
+    Fill statement = fill(insertAttributeDefinition);
+    statement.text(definition.value).text(definition.tag).text(definition.prompt).point(definition.position);
+    statement.text(definition.styleName).text(justification).real(definition.height).real(definition.rotation);
+    for (const QString& flag : flags)
+        statement.text(flag);
+    return statement.text(name);
+}
+
+static const Phrase insertSimpleNote{
+    "EmitInsertSimpleNote",
+    {
+        .cpp = "%1iwSketchManager->InsertSimpleNote( %3, %4, %5, %6, %7, L\"%8\", &%9 );%2",
+        .cppCom = "%1 %9=iwSketchManager->InsertSimpleNote( %3, %4, %5, %6, %7, L\"%8\");%2",
+        .csharp = "%1%9 = iwSketchManager.InsertSimpleNote( %3, %4, %5, %6, %7, \"%8\" );%2",
+        .javascript = "%1var %9 = mSkMgr.InsertSimpleNote(%3, %4, %5, %6, %7, \"%8\");%2",
+        .vbNet = "%1%9 = iwSketchManager.InsertSimpleNote( %3, %4, %5, %6, %7, \"%8\" )%2",
+        .vba = "%1Set %9 = iwSketchManager.InsertSimpleNote( %3, %4, %5, %6, %7, \"%8\" )%2",
+    }};
+
+QString PhrasedObjectConverter::EmitInsertSimpleNote(const OdGePoint3d& position, double height, double rotation,
+                                                     const CFxString& text, const CFxString& name)
+{
+    return fill(insertSimpleNote).point(position).real(height).real(rotation).text(text).text(name);
+}
+
+/// A note takes its text as an array of one string.
+static const Phrase noteTexts{"EmitInsertNote",
+                              {
+                                  .cpp = "%1iwStringArray strArray%2;\n",
+                                  .cppCom = "%1VARIANT strArray%2;\n%1strArray%2.vt = ( VT_ARRAY | VT_BSTR );\n"
+                                            "%1strArray%2.parray = SafeArrayCreateVector( VT_BSTR, 0, 1 );\n"
+                                            "%1long rgIndices%2;\n%1rgIndices%2 = 0;\n%1BSTR str%2;\n",
+                                  .csharp = "%1string[] strArray%2 = new string[1];\n",
+                                  .javascript = "%1var strArray%2 = new Array();\n",
+                                  .vbNet = "%1Dim strArray%2(0) As String\n",
+                                  .vba = "%1Dim strArray%2(0) As String\n",
+                              }};
+
+static const Phrase noteText{"EmitInsertNote",
+                             {
+                                 .cpp = "%1strArray%3.add(L\"%2\");\n",
+                                 .cppCom = "%1str%3 = SysAllocString(L\"%2\");\n"
+                                           "%1SafeArrayPutElement( strArray%3.parray, &rgIndices%3, str%3 );\n",
+                                 .csharp = "%1strArray%3[0] = \"%2\";\n",
+                                 .javascript = "%1strArray%3[0] = \"%2\";\n",
+                                 .vbNet = "%1strArray%3(0) = \"%2\"\n",
+                                 .vba = "%1strArray%3(0) = \"%2\"\n",
+                             }};
+
+static const Phrase insertNote{
+    "EmitInsertNote",
+    {
+        .cpp = "%1iwSketchManager->InsertNote( %3, %4, %5, %6, %7, %8, strArray%9, &%10 );%2",
+        .cppCom = "%1%10 = iwSketchManager->InsertNote( %3, %4, %5, %6, %7, %8, strArray%9 );%2",
+        .csharp = "%1%10 = iwSketchManager.InsertNote( %3, %4, %5, %6, %7, %8, strArray%9 );%2",
+        .javascript = "%1var %10 = mSkMgr.InsertNote(%3, %4, %5, %6, %7, %8, strArray%9);%2",
+        .vbNet = "%1%10 = iwSketchManager.InsertNote( %3, %4, %5, %6, %7, %8, strArray%9 )%2",
+        .vba = "%1Set %10 = iwSketchManager.InsertNote( %3, %4, %5, %6, %7, %8, strArray%9 )%2",
+    }};
+
+QString PhrasedObjectConverter::EmitInsertNote(const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
+                                               const CFxString& text, const CFxString& name)
+{
+    const std::uint32_t number = ++Driver().UniqueCounter;
+    return fillIndented(noteTexts).number(number).str() + fillIndented(noteText).text(text).number(number).str() +
+           fill(insertNote).point(firstCorner).point(secondCorner).number(number).text(name).str();
+}
+
+QString PhrasedObjectConverter::EmitSetNoteJustify(const CFxString& target, const CFxString& property,
+                                                   const CFxString& shownText)
+{
+    return EmitSetEnumProperty(target, "iwNoteJustification", property, shownText);
+}
+
+QString PhrasedObjectConverter::EmitSetNoteDirection(const CFxString& target, const CFxString& property, int direction)
+{
+    return EmitSetProperty(target, property, EnumeratorByValue(target_, "iwNoteDirection", direction), false);
+}
+
+static const Phrase insertCurvedText{"EmitInsertCurvedText",
+                                     {
+                                         .cpp = "%1iwSketchManager->InsertCurvedText( L\"%3\", %4, &%5 );%2",
+                                         .cppCom = "%1%5 = iwSketchManager->InsertCurvedText( L\"%3\", %4 );%2",
+                                         .csharp = "%1%5 = iwSketchManager.InsertCurvedText( \"%3\", %4 );%2",
+                                         .javascript = "%1var %5 = mSkMgr.InsertCurvedText(\"%3\", %4);%2",
+                                         .vbNet = "%1%5 = iwSketchManager.InsertCurvedText( \"%3\", %4 )%2",
+                                         .vba = "%1Set %5 = iwSketchManager.InsertCurvedText( \"%3\", %4 )%2",
+                                     }};
+
+QString PhrasedObjectConverter::EmitInsertCurvedText(const CFxString& text, const CFxString& arc, const CFxString& name)
+{
+    return fill(insertCurvedText).text(text).text(arc).text(name);
+}
+
+static const Phrase callWithPoint{"EmitCallWithPoint",
+                                  {
+                                      .cpp = "%1%3->%4( %5, %6, %7 );%2",
+                                      .cppCom = "%1%3->%4( %5, %6, %7 );%2",
+                                      .csharp = "%1%3.%4( %5, %6, %7 );%2",
+                                      .javascript = "%1%3.%4(%5, %6, %7);%2",
+                                      .vbNet = "%1%3.%4( %5, %6, %7 )%2",
+                                      .vba = "%1%3.%4 %5, %6, %7%2",
+                                  }};
+
+QString PhrasedObjectConverter::EmitCallWithPoint(const CFxString& target, const CFxString& method,
+                                                  const OdGePoint3d& point)
+{
+    return fill(callWithPoint).text(target).text(method).point(point);
+}
