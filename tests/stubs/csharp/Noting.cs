@@ -1,0 +1,83 @@
+// What the objects of the automation interface have in common here: each knows the way that led to it, and notes what
+// it is asked for.
+
+using System;
+using System.Collections.Generic;
+using System.Globalization;
+using System.Text;
+
+namespace Inkwright
+{
+    internal class Noting
+    {
+        public static readonly StringBuilder Log = new StringBuilder();
+        private static readonly Dictionary<string, int> counts = new Dictionary<string, int>();
+
+        public readonly string Way;
+
+        protected Noting(string way)
+        {
+            Way = way;
+        }
+
+        /// Objects that take several values to get are named by a number, so that their way stays short.
+        protected string Note(string call, string result, params object[] arguments)
+        {
+            string[] shown = Array.ConvertAll(arguments, Json.Of);
+            Log.Append("{\"on\":" + Json.Of(Way) + ",\"call\":\"" + call + "\",\"args\":[" + string.Join(",", shown)
+                       + "]}\n");
+            if (arguments.Length < 2)
+                return Way + "." + call + "(" + string.Join("", shown) + ")";
+            int count;
+            counts.TryGetValue(result, out count);
+            counts[result] = ++count;
+            return result + "#" + count;
+        }
+    }
+
+    internal static class Values
+    {
+        public static T Of<T>(string way)
+        {
+            return typeof(T) == typeof(string) ? (T)(object)"" : default(T);
+        }
+    }
+
+    internal static class Arrays
+    {
+        /// Two elements: a macro takes the second of a document's sheets.
+        public static object Of<T>(string way, Func<string, T> element)
+        {
+            return new[] { element(way + "[0]"), element(way + "[1]") };
+        }
+    }
+
+    internal static class Json
+    {
+        public static string Of(object value)
+        {
+            if (value == null)
+                return "null";
+            if (value is Noting)
+                return Of("@" + ((Noting)value).Way);
+            if (value is double)
+                return ((double)value).ToString("R", CultureInfo.InvariantCulture);
+            if (value is int)
+                return ((int)value).ToString(CultureInfo.InvariantCulture);
+            if (value is bool)
+                return (bool)value ? "true" : "false";
+            if (value is Enum)
+                return Of(value.ToString());
+            if (value is Array) {
+                List<string> elements = new List<string>();
+                foreach (object element in (Array)value)
+                    elements.Add(Of(element));
+                return "[" + string.Join(",", elements.ToArray()) + "]";
+            }
+            StringBuilder text = new StringBuilder("\"");
+            foreach (char c in value.ToString())
+                text.Append(c == '"' || c == '\\' ? "\\" + c : c < ' ' ? "\\u" + ((int)c).ToString("x4") : "" + c);
+            return text.Append('"').ToString();
+        }
+    }
+}

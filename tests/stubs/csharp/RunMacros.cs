@@ -1,0 +1,40 @@
+// Runs the macros whose names are given, one after the other, and prints what each asked for: a line with its name, its
+// calls, and, when it was stopped, where and why.
+
+using System;
+using System.Diagnostics;
+using System.Reflection;
+using System.Text;
+using Inkwright;
+
+internal static class RunMacros
+{
+    private static void Main(string[] names)
+    {
+        Console.OutputEncoding = new UTF8Encoding(false);
+        foreach (string name in names) {
+            Noting.Log.Clear();
+            string stop = Run(name);
+            Console.Write("{\"macro\":" + Json.Of(name) + "}\n" + Noting.Log + stop);
+        }
+    }
+
+    private static string Run(string name)
+    {
+        Type type = Assembly.GetExecutingAssembly().GetType("IWAPIMacros." + name);
+        try {
+            type.GetMethod("Run").Invoke(Activator.CreateInstance(type), new object[] { new ApplicationObject("app") });
+        } catch (TargetInvocationException wrapped) {
+            return Stop(wrapped.InnerException);
+        }
+        return "";
+    }
+
+    private static string Stop(Exception error)
+    {
+        foreach (StackFrame frame in new StackTrace(error, true).GetFrames())
+            if (frame.GetMethod().DeclaringType.Namespace == "IWAPIMacros")
+                return "{\"stopped\":" + Json.Of(error.Message) + ",\"line\":" + frame.GetFileLineNumber() + "}\n";
+        return "{\"stopped\":" + Json.Of(error.ToString()) + ",\"line\":0}\n";
+    }
+}

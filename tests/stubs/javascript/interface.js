@@ -1,0 +1,99 @@
+// The automation interface in the browser: a class for each that INTERFACE describes. Every object knows the way that
+// led to it and notes what it is asked for in CALLS. It can be asked for nothing else, and holds no other properties.
+
+'use strict';
+
+var CALLS = [];
+var COUNTS = {};
+
+function note(object, call, given, result) {
+    CALLS.push({on: object.way, call: call, args: given.map(value => value instanceof Noting ? '@' + value.way : value)});
+    if (given.length < 2) {
+        return object.way + '.' + call + '(' + given.map(value => JSON.stringify(value)).join('') + ')';
+    }
+    COUNTS[result] = (COUNTS[result] || 0) + 1;
+    return result + '#' + COUNTS[result];
+}
+
+function Noting(way) {
+    this.way = way;
+    Object.freeze(this);
+}
+
+function isOf(type, value) {
+    switch (type) {
+    case 'double': return typeof value === 'number' && isFinite(value);
+    case 'int': return Number.isInteger(value);
+    case 'bool': return typeof value === 'boolean';
+    case 'string': return typeof value === 'string';
+    case 'object': return true;
+    }
+    if (type.endsWith('[]')) {
+        return Array.isArray(value) && value.every(element => isOf(type.slice(0, -2), element));
+    }
+    if (type in INTERFACE.enumerations) {
+        return INTERFACE.enumerations[type].includes(value);
+    }
+    return value instanceof CLASSES[type];
+}
+
+function answer(type, way) {
+    if (type.endsWith('[]')) {
+        return [answer(type.slice(0, -2), way + '[0]'), answer(type.slice(0, -2), way + '[1]')];
+    }
+    if (type in CLASSES) {
+        return new CLASSES[type](way);
+    }
+    if (type in INTERFACE.enumerations) {
+        return INTERFACE.enumerations[type][0];
+    }
+    return {double: 0, int: 0, bool: false, string: ''}[type];
+}
+
+// Several results come as an array, which has them by their names too.
+function answers(types, names, way) {
+    var results = types.map(type => answer(type, way));
+    if (results.length < 2) {
+        return results[0];
+    }
+    names.forEach((name, i) => { if (name) { results[name] = results[i]; } });
+    return results;
+}
+
+function addOperation(prototype, name, parameters, outs, result) {
+    prototype[name] = function () {
+        var given = Array.from(arguments);
+        if (given.length !== parameters.length || !parameters.every((type, i) => isOf(type, given[i]))) {
+            throw new TypeError(name + '(' + given.map(String).join(', ') + ') does not take these arguments');
+        }
+        var all = (result ? [[result, '']] : []).concat(outs);
+        return answers(all.map(([type]) => type), all.map(([, title]) => title), note(this, name, given, result));
+    };
+}
+
+function addProperty(prototype, name, type) {
+    addOperation(prototype, 'put_' + name, [type], [], '');
+    addOperation(prototype, 'get_' + name, [], [], type);
+    Object.defineProperty(prototype, name, {get: prototype['get_' + name]});
+}
+
+var CLASSES = {};
+
+Object.keys(INTERFACE.classes).forEach(function (name) {
+    CLASSES[name] = function (way) { Noting.call(this, way); };
+});
+
+Object.entries(INTERFACE.classes).forEach(function ([name, members]) {
+    var prototype = CLASSES[name].prototype = Object.create((CLASSES[members.base] || Noting).prototype);
+    members.operations.forEach(operation => addOperation(prototype, ...operation));
+    members.properties.forEach(property => addProperty(prototype, ...property));
+});
+
+// Some statements quote the names of enumerators and some do not.
+Object.values(INTERFACE.enumerations).flat().forEach(function (name) {
+    globalThis[name] = name;
+});
+
+function ijScriptManager() {}
+
+ijScriptManager.prototype.getApplication = () => new CLASSES.Application('app');

@@ -1,0 +1,189 @@
+"""A structural check of VB.NET and VBA source: blocks, strings, parentheses, declarations, and the statements that one
+of the two languages does not have."""
+
+import re
+
+VBNET = "vbnet"
+VBA = "vba"
+
+_NAME = r"[A-Za-z_]\w*"
+_DECLARATION = re.compile(rf"Dim ({_NAME})(?: ?\(.*\))? As (?:New )?[\w.]+ ?(?:\(\))?(?P<value> = .+)?$", re.I)
+_CLASS = re.compile(rf"(?:Public |Private )?(?:Class|Module) (.*)$", re.I)
+_PROCEDURE = re.compile(rf"(?:Public |Private |Shared )*(?:Sub|Function) {_NAME} ?\((?P<parameters>.*)\)$", re.I)
+_PARAMETER = re.compile(rf"(?:ByVal |ByRef )?({_NAME}) As [\w.]+$", re.I)
+
+# What opens and what closes a block; only VB.NET has those marked so.
+_OPENERS = [
+    ("Class", re.compile(r"(?:Public |Private )?Class\b", re.I), VBNET),
+    ("Module", re.compile(r"(?:Public |Private )?Module\b", re.I), VBNET),
+    ("Sub", re.compile(r"(?:Public |Private |Shared )*Sub\b", re.I), None),
+    ("Function", re.compile(r"(?:Public |Private |Shared )*Function\b", re.I), None),
+    ("If", re.compile(r"If\b.*\bThen$", re.I), None),
+    ("Try", re.compile(r"Try$", re.I), VBNET),
+    ("For", re.compile(r"For\b", re.I), None),
+    ("With", re.compile(r"With\b", re.I), None),
+    ("Do", re.compile(r"Do\b", re.I), None),
+    ("Select", re.compile(r"Select Case\b", re.I), None),
+]
+_CLOSER = re.compile(r"(?:End (\w+)|(Next)\b.*|(Loop)\b.*)$", re.I)
+_CLOSES = {"Next": "For", "Loop": "Do"}
+# Parts of a block, which begin a scope of their own.
+_PARTS = [("If", re.compile(r"(?:Else$|ElseIf\b.*\bThen$)", re.I)), ("Try", re.compile(r"(?:Catch\b|Finally$)", re.I)),
+          ("Select", re.compile(r"Case\b", re.I))]
+
+_KEYWORDS = set("""and andalso byref byval call case catch class dim do each else elseif end exit explicit false finally
+    for function get if imports in is isnot let like loop mod module new next not nothing on option or orelse private
+    public redim return select set shared step sub then to true try until wend while with xor""".split())
+_GLOBALS = {
+    VBNET: {"inkwright", "system", "dispatchwrapper", "cint", "vblf", "ctype"},
+    VBA: {"inkwright", "getobject", "msgbox", "vblf", "cint"},
+}
+
+
+class _Scope:
+    def __init__(self, block, line):
+        self.block, self.line, self.names = block, line, set()
+
+
+class _Checker:
+    def __init__(self, dialect, known):
+        self.dialect = dialect
+        self.known = _GLOBALS[dialect] | _KEYWORDS | {name.lower() for name in known}
+        self.scopes = [_Scope("", 0)]
+        self.faults = []
+        self.number = 0
+
+    def fault(self, text, number=None):
+        self.faults.append((number or self.number, text))
+
+    def declare(self, name):
+        """VBA has one scope a procedure; VB.NET has one a block, in which no name of the procedure may be hidden."""
+        scopes = self.scopes
+        if self.dialect == VBA:
+            scopes = [scope for scope in scopes if scope.block in ("Sub", "Function")][-1:] or scopes[:1]
+        if any(name.lower() in scope.names for scope in scopes):
+            self.fault(f"{name} is declared twice")
+        scopes[-1].names.add(name.lower())
+
+    def is_known(self, name):
+        return name.lower() in self.known or any(name.lower() in scope.names for scope in self.scopes)
+
+    def line(self, raw):
+        code = self.without_text(raw).strip()
+        if not code or re.match(r"(Imports|Option) ", code, re.I):
+            return
+        if re.search(r"%\d", code):
+            self.fault("a marker is left over")
+        for pair in ("()", "{}"):
+            if code.count(pair[0]) != code.count(pair[1]):
+                self.fault(f"{pair} do not match")
+        if not self.block(code):
+            self.statement(code)
+        self.names(code)
+
+    def without_text(self, raw):
+        """The code of a line: no comment, and nothing in its strings."""
+        code, inside = "", False
+        for character in raw:
+            if character == '"':
+                inside = not inside
+                code += character
+            elif character == "'" and not inside:
+                break
+            elif not inside:
+                code += character
+        if inside:
+            self.fault("a string is not closed")
+        return code
+
+    def block(self, code):
+        if match := _CLOSER.match(code):
+            self.close(next(filter(None, match.groups())))
+            return True
+        for kind, part in _PARTS:
+            if part.match(code):
+                if self.scopes[-1].block != kind:
+                    self.fault(f"{code.split()[0]} stands outside {kind}")
+                else:
+                    self.scopes[-1].names.clear()
+                if caught := re.match(rf"Catch ({_NAME}) As ", code, re.I):
+                    self.declare(caught[1])
+                return True
+        for kind, opener, dialect in _OPENERS:
+            if opener.match(code):
+                if dialect not in (None, self.dialect):
+                    self.fault(f"there is no {kind} in this language")
+                self.open(kind, code)
+                return True
+        return False
+
+    def open(self, kind, code):
+        self.scopes.append(_Scope(kind, self.number))
+        if (match := _CLASS.match(code)) and kind in ("Class", "Module"):
+            if re.fullmatch(_NAME, match[1]):
+                self.known.add(match[1].lower())
+            else:
+                self.fault(f"{match[1]} is no name")
+        if kind in ("Sub", "Function"):
+            match = _PROCEDURE.match(code)
+            if not match:
+                self.fault(f"{code} is no declaration of a procedure")
+                return
+            self.known.add(re.search(rf"({_NAME}) ?\(", code)[1].lower())
+            for parameter in filter(None, (part.strip() for part in match["parameters"].split(","))):
+                if found := _PARAMETER.match(parameter):
+                    self.declare(found[1])
+                else:
+                    self.fault(f"{parameter} is no parameter")
+
+    def close(self, word):
+        kind = _CLOSES.get(word.capitalize(), word)
+        if kind.lower() not in [scope.block.lower() for scope in self.scopes]:
+            self.fault(f"{word} closes nothing")
+            return
+        while (scope := self.scopes.pop()).block.lower() != kind.lower():
+            self.fault(f"{word} comes before the end of {scope.block} in line {scope.line}")
+
+    def statement(self, code):
+        if re.match(r"Dim\b", code, re.I):
+            match = _DECLARATION.match(code)
+            if not match:
+                self.fault("this is no declaration")
+            else:
+                self.declare(match[1])
+                if self.dialect == VBA and match["value"]:
+                    self.fault("a declaration has no value in this language")
+        elif re.match(r"Set\b", code, re.I):
+            if self.dialect == VBNET:
+                self.fault("there is no Set in this language")
+            elif not re.match(rf"Set {_NAME}[\w.]* ?(?:\(.*?\))? +=", code, re.I):
+                self.fault("Set assigns nothing")
+        elif self.dialect == VBA:
+            self.vba_statement(code)
+
+    def vba_statement(self, code):
+        if re.match(r"Return\b", code, re.I):
+            self.fault("Return goes back from a GoSub, and there is none")
+        call = re.match(r"[\w.]+ ?\((.*)\)$", code)
+        if call and "," in re.sub(r"\([^()]*\)", "", call[1]):
+            self.fault("a call without a result has no parentheses around several arguments")
+
+    def names(self, code):
+        """Every name is known that is neither a member nor a type."""
+        if self.dialect == VBA and re.search(r"\bIsNot\b", code, re.I):
+            self.fault("there is no IsNot in this language")
+        bare = re.sub(r"\b(?:As (?:New )?|New )[\w.]+", "", code, flags=re.I)
+        bare = _PROCEDURE.sub("", _CLASS.sub("", bare))
+        for match in re.finditer(rf"(?<![\w.]){_NAME}", bare):
+            if not self.is_known(match[0]):
+                self.fault(f"{match[0]} is not declared")
+
+
+def check(text, dialect, known=()):
+    """(line, fault) of everything that is wrong; `known` are names from the other files of the project."""
+    checker = _Checker(dialect, known)
+    for checker.number, raw in enumerate(text.lstrip("\ufeff").splitlines(), 1):
+        checker.line(raw)
+    for scope in checker.scopes[1:]:
+        checker.fault(f"{scope.block} is never closed", scope.line)
+    return checker.faults

@@ -1,0 +1,30 @@
+#!/usr/bin/python3
+"""Checks the structure of the VB.NET and VBA macros.
+
+    check_basic.py PROGRAM SOURCE_DIR vbnet|vba
+"""
+
+import sys
+
+import basic_structure
+import harness
+
+
+def judge(macro, files, dialect):
+    """A project's class is known to its start-up module."""
+    return [harness.Rejection(file, number, fault) for file in files
+            for number, fault in basic_structure.check(file.read_text(encoding="utf-8"), dialect, {macro.name})]
+
+
+def main():
+    checked = harness.Checked()
+    dialect = sys.argv[3]
+    macros = checked.macros(dialect)
+    faults = harness.KnownFaults(dialect)
+    for macro in macros:
+        files = sorted(file for file in macro.folder.iterdir() if file.suffix in (".bas", ".vb"))
+        faults.settle(files, lambda macro=macro, files=files: judge(macro, files, dialect))
+    faults.report(f"{len(macros)} macros checked")
+
+
+main()

@@ -1,0 +1,74 @@
+#!/usr/bin/python3
+"""Compiles the C# macros and their start-up programs against stubs, runs the macros, and compares the calls they make
+with the objects of their recordings.
+
+    check_csharp.py PROGRAM SOURCE_DIR
+"""
+
+import json
+import pathlib
+import re
+
+import expected
+import harness
+import stubs_csharp
+
+ERROR = re.compile(r"^(.*?)\((\d+),\d+\): error (.*)$", re.MULTILINE)
+
+
+class Judge:
+    def __init__(self, checked, macros):
+        self.mcs, self.mono = harness.need("mcs", "mono")
+        self.macros = macros
+        self.files = [file for macro in macros for file in (macro.file, macro.folder / "Program.cs")]
+        stub = checked.folder / "Interface.cs"
+        stub.write_text(stubs_csharp.source(harness.STUBS / "interface.txt"), encoding="utf-8")
+        self.stubs = [stub, *sorted((harness.STUBS / "csharp").glob("*.cs"))]
+        self.assembly = checked.folder / "macros.exe"
+        self.calls = {}
+
+    def __call__(self):
+        return self._compile() or self._run()
+
+    def _compile(self):
+        result = harness.run(self.mcs, "-nologo", "-debug", "-warn:0", "-codepage:utf8", "-main:RunMacros",
+                             f"-out:{self.assembly}", *self.stubs, *self.files)
+        rejections = [harness.Rejection(pathlib.Path(file), int(line), message)
+                      for file, line, message in ERROR.findall(result.stdout + result.stderr)]
+        if result.returncode != 0 and not rejections:
+            rejections = [harness.Rejection(self.assembly, 0, result.stdout + result.stderr)]
+        return rejections
+
+    def _run(self):
+        """A name with blanks is no class; its macro was repaired to have none."""
+        by_class = {macro.name.replace(" ", "_"): macro for macro in self.macros}
+        result = harness.run(self.mono, "--debug", self.assembly, *by_class)
+        if result.returncode != 0:
+            return [harness.Rejection(self.assembly, 0, result.stdout + result.stderr)]
+        self.calls, rejections, macro = {}, [], None
+        for line in map(json.loads, result.stdout.splitlines()):
+            if "macro" in line:
+                macro = by_class[line["macro"]]
+                self.calls[macro] = []
+            elif "stopped" in line:
+                rejections.append(harness.Rejection(macro.file, line["line"], line["stopped"]))
+            else:
+                self.calls[macro].append(line)
+        return rejections
+
+
+def main():
+    checked = harness.Checked()
+    macros = checked.macros("csharp")
+    judge = Judge(checked, macros)
+    faults = harness.KnownFaults("csharp")
+    faults.settle(judge.files, judge)
+    comparison = expected.Comparison("csharp")
+    for macro, calls in judge.calls.items():
+        comparison.add(macro, calls)
+    summary = comparison.summary()
+    faults.complaints += comparison.complaints
+    faults.report(f"{len(macros)} macros compiled and run, {summary}")
+
+
+main()

@@ -1,0 +1,83 @@
+#!/usr/bin/python3
+"""Parses the scripts of the JavaScript pages with node, or runs the pages in a browser against a stub library and
+compares the calls they make with the objects of their recordings.
+
+    check_javascript.py PROGRAM SOURCE_DIR parse|run
+"""
+
+import html.parser
+import re
+import sys
+
+import browser
+import expected
+import harness
+
+ERROR = re.compile(r"^.*?:(\d+)$.*?^(\w*Error: .*?)$", re.MULTILINE | re.DOTALL)
+
+
+class Script(html.parser.HTMLParser):
+    """The text of the page's own script, in the lines where it stands."""
+
+    def __init__(self, page):
+        super().__init__()
+        self.text = ""
+        self._inside = False
+        self.feed(page)
+
+    def handle_starttag(self, tag, attributes):
+        self._inside = tag == "script" and "src" not in dict(attributes)
+
+    def handle_endtag(self, tag):
+        self._inside = False
+
+    def handle_data(self, data):
+        if self._inside:
+            self.text += "\n" * (self.getpos()[0] - 1 - self.text.count("\n")) + data
+
+
+def parse(node, macro, script):
+    script.write_text(Script(macro.file.read_text(encoding="utf-8")).text, encoding="utf-8")
+    result = harness.run(node, "--check", script)
+    if result.returncode == 0:
+        return []
+    match = ERROR.search(result.stderr)
+    return [harness.Rejection(macro.file, int(match[1]) if match else 0, match[2] if match else result.stderr)]
+
+
+def check_syntax(checked):
+    node, = harness.need("node")
+    macros = checked.macros("javascript")
+    faults = harness.KnownFaults("javascript", ("parse",))
+    for macro in macros:
+        faults.settle([macro.file], lambda macro=macro: parse(node, macro, checked.folder / "script.js"))
+    faults.report(f"{len(macros)} scripts parsed")
+
+
+def check_run(checked):
+    executable, = harness.need("chromium")
+    macros = checked.macros("javascript")
+    faults = harness.KnownFaults("javascript")
+    comparison = expected.Comparison("javascript")
+    with browser.Browser(executable, checked.folder) as window:
+        for macro in macros:
+            seen = {}
+
+            def press():
+                seen.update(window.run(macro.file.read_text(encoding="utf-8")))
+                error = seen["error"]
+                return [harness.Rejection(macro.file, error["line"], error["message"])] if error else []
+
+            faults.settle([macro.file], press)
+            comparison.add(macro, seen["calls"])
+    summary = comparison.summary()
+    faults.complaints += comparison.complaints
+    faults.report(f"{len(macros)} pages run, {summary}")
+
+
+def main():
+    checked = harness.Checked()
+    {"parse": check_syntax, "run": check_run}[sys.argv[3]](checked)
+
+
+main()
