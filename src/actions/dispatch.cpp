@@ -2,14 +2,9 @@
 
 #include "frame/CFxConverterIWAPIImpl.h"
 
-// Answers at prompts, selections and system variables have no statements: they are passed over.
+// Answers at prompts and selections have no statements: they are passed over.
 
 std::int32_t CFxConverterIWAPIImpl::ConvertInteraction(OdSmartPtr<CFxUserInteraction>, QString&)
-{
-    return kFxSuccess;
-}
-
-std::int32_t CFxConverterIWAPIImpl::ConvertSysVar(OdSmartPtr<CFxSysVarChanged>, QString&)
 {
     return kFxSuccess;
 }

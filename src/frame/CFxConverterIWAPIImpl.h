@@ -8,6 +8,7 @@
 #include <map>
 
 class CFxConverterIWAPIObject;
+struct FileObject;
 
 /// Class and ordinal of an object that the generated code has a variable for.
 struct ActionEntry
@@ -36,6 +37,19 @@ public:
     std::int32_t ConvertSysVar(OdSmartPtr<CFxSysVarChanged> variable, QString& text);
     std::int32_t ConvertSelection(OdSmartPtr<CFxUserSelection> selection, QString& text);
     std::int32_t ConvertCustomAction(OdSmartPtr<CFxCustomAction> action, QString& text);
+
+    // File locations: src/actions/fileLocations.cpp.
+    std::int32_t ConvertActionInterfaceFile(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionSystemFile(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionDrawingSupportFile(OdSmartPtr<CFxCustomAction> action, QString& text);
+
+    // Options of system variables: src/actions/sysvars.cpp.
+
+    /// Enumerator and kind (an OptionKind's number) of the document's option for a system variable. kFxFailure for a
+    /// variable that has none; then the name is empty and the kind -1.
+    std::int32_t FindCommandOption(const CFxString& variable, CFxString& enumerator, std::int32_t& kind) const;
+    /// The same of the application's option.
+    std::int32_t FindApplicationOption(const CFxString& variable, CFxString& enumerator, std::int32_t& kind) const;
 
     // Variables of the generated code: variables.cpp.
 
@@ -71,6 +85,27 @@ public:
     virtual QString EmitCommandTrailer() = 0;
     virtual QString EmitVariableDeclaration(const ActionEntry& entry) = 0;
     virtual QString EmitGetLayer(const CFxString& variable) = 0;
+    // Options and file locations. Options are given by their enumerator.
+    virtual QString EmitCommandOptionBool(const CFxString& option, bool value) = 0;
+    virtual QString EmitCommandOptionDouble(const CFxString& option, double value) = 0;
+    virtual QString EmitCommandOptionInt8(const CFxString& option, std::int32_t value) = 0;
+    virtual QString EmitCommandOptionInt16(const CFxString& option, std::int32_t value) = 0;
+    virtual QString EmitCommandOptionInt32(const CFxString& option, std::int32_t value) = 0;
+    virtual QString EmitCommandOptionPoint2D(const CFxString& option, const OdGePoint2d& value) = 0;
+    virtual QString EmitCommandOptionPoint3D(const CFxString& option, const OdGePoint3d& value) = 0;
+    virtual QString EmitCommandOptionString(const CFxString& option, const CFxString& value) = 0;
+    virtual QString EmitApplicationOptionBool(const CFxString& option, bool value) = 0;
+    virtual QString EmitApplicationOptionInt16(const CFxString& option, std::int32_t value) = 0;
+    virtual QString EmitApplicationOptionInt32(const CFxString& option, std::int32_t value) = 0;
+    virtual QString EmitApplicationOptionDouble(const CFxString& option, double value) = 0;
+    virtual QString EmitApplicationOptionString(const CFxString& option, const CFxString& value) = 0;
+    /// Fetches the host object into a fresh variable, whose name comes back.
+    virtual QString EmitInterfaceFilesObject(CFxString& variable) = 0;
+    virtual QString EmitSystemFilesObject(CFxString& variable) = 0;
+    virtual QString EmitDrawingSupportFilesObject(CFxString& variable) = 0;
+    virtual QString EmitFileLocationArray(const CFxString& variable, const CFxString& property,
+                                          const std::vector<CFxString>& values) = 0;
+
     virtual QString EmitProgramText(const QString& projectName) = 0;
     virtual QString EmitProjectText(const QString& projectName) = 0;
     /// Writes the project around the macro file.
@@ -97,6 +132,7 @@ private:
     void RegisterChildren(const CFxActionArray& children, CommandState& state);
     void DeclareChildren(CommandState& state);
     void ConvertChildren(const CFxActionArray& children, CommandState& state);
+    std::int32_t ConvertFileLocation(const FileObject& files, const CFxCustomAction& action, QString& text);
     std::int32_t ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text);
     CFxConverterIWAPIObject& Objects() const;
 

@@ -23,6 +23,26 @@ public:
     QString EmitProjectText(const QString&) override { return {}; }
     std::int32_t EmitProjectFiles(const QString&) override { return kFxSuccess; }
 
+    // Options and file locations.
+    QString EmitCommandOptionBool(const CFxString& option, bool value) override;
+    QString EmitCommandOptionDouble(const CFxString& option, double value) override;
+    QString EmitCommandOptionInt8(const CFxString& option, std::int32_t value) override;
+    QString EmitCommandOptionInt16(const CFxString& option, std::int32_t value) override;
+    QString EmitCommandOptionInt32(const CFxString& option, std::int32_t value) override;
+    QString EmitCommandOptionPoint2D(const CFxString& option, const OdGePoint2d& value) override;
+    QString EmitCommandOptionPoint3D(const CFxString& option, const OdGePoint3d& value) override;
+    QString EmitCommandOptionString(const CFxString& option, const CFxString& value) override;
+    QString EmitApplicationOptionBool(const CFxString& option, bool value) override;
+    QString EmitApplicationOptionInt16(const CFxString& option, std::int32_t value) override;
+    QString EmitApplicationOptionInt32(const CFxString& option, std::int32_t value) override;
+    QString EmitApplicationOptionDouble(const CFxString& option, double value) override;
+    QString EmitApplicationOptionString(const CFxString& option, const CFxString& value) override;
+    QString EmitInterfaceFilesObject(CFxString& variable) override;
+    QString EmitSystemFilesObject(CFxString& variable) override;
+    QString EmitDrawingSupportFilesObject(CFxString& variable) override;
+    QString EmitFileLocationArray(const CFxString& variable, const CFxString& property,
+                                  const std::vector<CFxString>& values) override;
+
 protected:
     PhrasedConverter(inkmacro::Target target, std::uint32_t mode) : CFxConverterIWAPIImpl(target, mode), target_(target)
     {
@@ -36,5 +56,12 @@ protected:
     static std::int32_t WriteProject(const QString& macroPath, const std::vector<inkmacro::ProjectFile>& files);
 
 private:
+    // What option statements end in.
+    QString withResult(inkmacro::Fill& statement);
+    QString withOptions(inkmacro::Fill& statement);
+
+    QString fileLocationElement(const CFxString& property, std::uint32_t array, int index,
+                                const CFxString& value) const;
+
     inkmacro::Target target_;
 };

@@ -141,6 +141,9 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitComment", Target::JavaScript},
         // The point that a call gives needs no declaration either.
         {"EmitChangePosition", Target::JavaScript},
+        // The array is declared together with its elements.
+        {"EmitFileLocationArray", Target::CSharp},
+        {"EmitFileLocationArray", Target::VbNet},
         // Nothing calls for a comment of its own.
         {"EmitComment", Target::Cpp},
         {"EmitComment", Target::CppCom},

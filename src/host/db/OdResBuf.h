@@ -40,6 +40,7 @@ public:
     OdString getString() const;
     double getDouble() const;
     bool getBool() const;
+    std::int8_t getInt8() const { return static_cast<std::int8_t>(integer()); }
     std::int16_t getInt16() const { return static_cast<std::int16_t>(integer()); }
     std::int32_t getInt32() const { return integer(); }
     OdGePoint2d getPoint2d() const;

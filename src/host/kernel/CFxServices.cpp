@@ -10,6 +10,11 @@ void CFxSystemServices::SetInt16(const CFxString& name, std::int16_t value)
     settings_.insert(name, value);
 }
 
+void CFxSystemServices::SetOptionName(const CFxString& variable, const CFxString& enumerator)
+{
+    optionNames_.insert(variable, enumerator);
+}
+
 CFxSystemServices* GetFxSystemServices()
 {
     static CFxSystemServices services;

@@ -24,6 +24,10 @@ public:
     std::int16_t GetInt16(const CFxString& name) const;
     void SetInt16(const CFxString& name, std::int16_t value);
 
+    /// The enumerator that stands for a system variable in the interface's option lists; empty when it was not set.
+    CFxString GetOptionName(const CFxString& variable) const { return optionNames_.value(variable); }
+    void SetOptionName(const CFxString& variable, const CFxString& enumerator);
+
     CFxDocument* GetActiveDocument() const { return activeDocument_; }
     /// Not owned; null when no document is open.
     void SetActiveDocument(CFxDocument* document) { activeDocument_ = document; }
@@ -35,6 +39,7 @@ public:
 private:
     std::vector<CFxString> incompleteFiles_;
     QHash<QString, std::int16_t> settings_;
+    QHash<QString, CFxString> optionNames_;
     CFxDocument* activeDocument_ = nullptr;
 };
 

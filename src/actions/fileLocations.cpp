@@ -1,0 +1,124 @@
+// Changes of the paths and files that are set in the host's options.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/RecordingState.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "targets/LineEnd.h"
+#include "targets/Target.h"
+
+#include <algorithm>
+#include <span>
+
+using namespace inkmacro;
+
+namespace {
+
+struct Location
+{
+    const char* key;
+    const char* property;
+};
+
+} // namespace
+
+/// A host object that holds file locations, and the kind of action that sets them.
+struct FileObject
+{
+    std::int32_t kind;
+    QString (CFxConverterIWAPIImpl::*emitObject)(CFxString& variable);
+    std::span<const Location> locations;
+};
+
+namespace {
+
+constexpr Location interfaceLocations[]{
+    {"eFileLocInterfaceAliasFileLoc", "AliasFilePath"},
+    {"eFileLocInterfaceMenuFiles", "MenuFilesPath"},
+    {"eFileLocInterfaceMainCUIFile", "CustomizationFilePath"},
+    {"eFileLocInterfaceCustomIconLoc", "CustomIconPath"},
+};
+
+constexpr Location systemLocations[]{
+    {"eFileLocSystemCustomDictionaryFile", "CustomDictionaryFile"},
+    {"eFileLocSystemMainDictionaryFile", "MainDictionaryFile"},
+    {"eFileLocSystemHelpFileValue", "HelpFile"},
+    {"eFileLocSystemLogFileLoc", "LogFilePath"},
+    {"eFileLocSystemTemporaryFileLoc", "TempPath"},
+    {"eFileLocSystemFontFileSearchPath", "FontsPaths"},
+    {"eFileLocSystemSupportFilesPath", "SupportPaths"},
+    {"eFileLocSystemDrawingBorderFilesPath", "DrawingBorderPaths"},
+    {"eFileLocSystemTitleBlockFilesPath", "TitleBlockPaths"},
+};
+
+/// "Supprt" is the host's spelling.
+constexpr Location drawingSupportLocations[]{
+    {"eFileLocDrawingSupprtAltFontFileSHX", "AlternateShxFontFile"},
+    {"eFileLocDrawingSupprtAltFontFileBIG", "AlternateBigFontFile"},
+    {"eFileLocDrawingSupprtAltFontFileSHP", "AlternateShapeFile"},
+    {"eFileLocDrawingSupprtDrawFilesLoc", "DrawingFilesPath"},
+    {"eFileLocDrawingSupprtDWT", "DrawingTemplateFilesPath"},
+    {"eFileLocDrawingSupprtXrefFilesLoc", "ExternalReferencesFilesPath"},
+    {"eFileLocDrawingSupprtFontMapFile", "FontMappingFile"},
+    {"eFileLocDrawingSupprtLibFilesLoc", "LibraryFilesPath"},
+    {"eFileLocDrawingSupprtLineStyle", "LineStyleFilePath"},
+    {"eFileLocDrawingSupprtPrintSettingsLoc", "PrintSettingsPath"},
+    {"eFileLocDrawingSupprtRLineStyle", "RichLineStyleFilePath"},
+};
+
+constexpr FileObject interfaceFiles{34, &CFxConverterIWAPIImpl::EmitInterfaceFilesObject, interfaceLocations};
+constexpr FileObject systemFiles{35, &CFxConverterIWAPIImpl::EmitSystemFilesObject, systemLocations};
+constexpr FileObject drawingSupportFiles{36, &CFxConverterIWAPIImpl::EmitDrawingSupportFilesObject,
+                                         drawingSupportLocations};
+
+/// Empty for a location that the object does not have; its statement is written all the same.
+CFxString propertyOf(const FileObject& files, const CFxString& key)
+{
+    const auto found = std::find_if(files.locations.begin(), files.locations.end(),
+                                    [&](const Location& location) { return key.equalNoCase(location.key); });
+    return found == files.locations.end() ? CFxString() : CFxString(found->property);
+}
+
+/// In strings of the curly languages a backslash escapes. The host's setting decides, not the target.
+CFxString quotable(CFxString path)
+{
+    const std::int16_t language = RecordingLanguage();
+    if (language != static_cast<int>(Target::VbNet) && language != static_cast<int>(Target::Vba))
+        path.replace("\\", "\\\\");
+    return path;
+}
+
+} // namespace
+
+std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files, const CFxCustomAction& action,
+                                                        QString& text)
+{
+    if (action.GetKind() != files.kind)
+        return kFxFailure;
+    const CFxString property = propertyOf(files, action.GetData(0).GetString());
+    const CFxCustomActionData& value = action.GetData(1);
+
+    text = EmitBlockBegin();
+    CFxString variable;
+    text += (this->*files.emitObject)(variable);
+    if (value.GetType() == CFxCustomActionData::kString)
+        text += Objects().EmitSetProperty(variable, property, quotable(value.GetString()), true);
+    else if (value.GetType() == CFxCustomActionData::kStringArray)
+        text += EmitFileLocationArray(variable, property, value.GetStringArray());
+    text += EmitBlockEnd() + LineEnd;
+    return kFxSuccess;
+}
+
+std::int32_t CFxConverterIWAPIImpl::ConvertActionInterfaceFile(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    return ConvertFileLocation(interfaceFiles, *action, text);
+}
+
+std::int32_t CFxConverterIWAPIImpl::ConvertActionSystemFile(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    return ConvertFileLocation(systemFiles, *action, text);
+}
+
+std::int32_t CFxConverterIWAPIImpl::ConvertActionDrawingSupportFile(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    return ConvertFileLocation(drawingSupportFiles, *action, text);
+}

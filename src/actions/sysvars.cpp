@@ -1,0 +1,105 @@
+// Changes of system variables.
+
+#include "actions/optionTable.h"
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "host/kernel/CFxServices.h"
+#include "targets/texts.h"
+
+using namespace inkmacro;
+
+namespace {
+
+/// The host's own name for the option comes before that of the table. A variable may have two options; the name is for
+/// the one whose enumeration it belongs to.
+QString enumeratorOf(OptionOwner owner, const OptionRow& row)
+{
+    const QString name = GetFxSystemServices()->GetOptionName(row.variable);
+    return name.startsWith(EnumeratorStem(owner, row.kind)) ? name : OptionEnumerator(owner, row);
+}
+
+std::int32_t find(OptionOwner owner, const CFxString& variable, CFxString& enumerator, std::int32_t& kind)
+{
+    enumerator = CFxString();
+    kind = -1;
+    const OptionRow* const row = FindOption(owner, variable);
+    if (!row)
+        return kFxFailure;
+    enumerator = enumeratorOf(owner, *row);
+    kind = static_cast<std::int32_t>(row->kind);
+    return kFxSuccess;
+}
+
+/// The current color is recorded as a text; a color by name counts as 0.
+std::int32_t int16Value(const CFxString& variable, const OdResBuf& value)
+{
+    return variable.equalNoCase("CECOLOR") ? value.getString().toInt() : value.getInt16();
+}
+
+QString commandOption(CFxConverterIWAPIImpl& target, const CFxSysVarChanged& change, const CFxString& option,
+                      OptionKind kind, const OdResBuf& value)
+{
+    switch (kind) {
+    case OptionKind::Bool:
+        return target.EmitCommandOptionBool(option, value.getBool());
+    case OptionKind::Double:
+        return target.EmitCommandOptionDouble(option, value.getDouble());
+    case OptionKind::Int8:
+        return target.EmitCommandOptionInt8(option, value.getInt8());
+    case OptionKind::Int16:
+        return target.EmitCommandOptionInt16(option, int16Value(change.GetName(), value));
+    case OptionKind::Int32:
+        return target.EmitCommandOptionInt32(option, value.getInt32());
+    case OptionKind::Point2d:
+        return target.EmitCommandOptionPoint2D(option, value.getPoint2d());
+    case OptionKind::Point3d:
+        return target.EmitCommandOptionPoint3D(option, value.getPoint3d());
+    case OptionKind::String:
+        return target.EmitCommandOptionString(option, CleanPromptText(value.getString()));
+    }
+    return {};
+}
+
+QString applicationOption(CFxConverterIWAPIImpl& target, const CFxString& option, OptionKind kind,
+                          const OdResBuf& value)
+{
+    switch (kind) {
+    case OptionKind::Bool:
+        return target.EmitApplicationOptionBool(option, value.getBool());
+    case OptionKind::Double:
+        return target.EmitApplicationOptionDouble(option, value.getDouble());
+    case OptionKind::Int16:
+        return target.EmitApplicationOptionInt16(option, value.getInt16());
+    case OptionKind::Int32:
+        return target.EmitApplicationOptionInt32(option, value.getInt32());
+    default:
+        return target.EmitApplicationOptionString(option, value.getString());
+    }
+}
+
+} // namespace
+
+std::int32_t CFxConverterIWAPIImpl::FindCommandOption(const CFxString& variable, CFxString& enumerator,
+                                                      std::int32_t& kind) const
+{
+    return find(OptionOwner::Document, variable, enumerator, kind);
+}
+
+std::int32_t CFxConverterIWAPIImpl::FindApplicationOption(const CFxString& variable, CFxString& enumerator,
+                                                          std::int32_t& kind) const
+{
+    return find(OptionOwner::Application, variable, enumerator, kind);
+}
+
+std::int32_t CFxConverterIWAPIImpl::ConvertSysVar(OdSmartPtr<CFxSysVarChanged> variable, QString& text)
+{
+    const OdResBufPtr value = variable->GetValue();
+    if (!value)
+        return kFxSuccess;
+    CFxString option;
+    std::int32_t kind = -1;
+    if (FindCommandOption(variable->GetName(), option, kind) == kFxSuccess)
+        text = commandOption(*this, *variable, option, static_cast<OptionKind>(kind), *value);
+    else if (FindApplicationOption(variable->GetName(), option, kind) == kFxSuccess)
+        text += applicationOption(*this, option, static_cast<OptionKind>(kind), *value);
+    return kFxSuccess;
+}

@@ -1,0 +1,154 @@
+// The host's file locations.
+
+#include "targets/PhrasedConverter.h"
+
+#include <QStringList>
+
+using namespace inkmacro;
+
+namespace {
+
+/// Numbers the variables of one operation, a count a target. Goes on from conversion to conversion.
+class FileLocationCounter
+{
+public:
+    std::uint32_t next(Target target) { return counts_[static_cast<std::size_t>(target)]++; }
+
+private:
+    std::array<std::uint32_t, targetCount> counts_{};
+};
+
+CFxString numbered(const char* pattern, std::uint32_t number)
+{
+    return CFxString(QString::fromLatin1(pattern).arg(number));
+}
+
+} // namespace
+
+static const Phrase interfaceFilesObject{
+    "EmitInterfaceFilesObject",
+    {
+        .cpp = "%1iwInterfaceFiles_ptr %3;%2%1m_pIwApp->GetInterfaceFiles( &%3 );%2",
+        .cppCom = "%1IInterfaceFilesPtr %3 = pConnection->m_IwApp->GetInterfaceFiles();%2",
+        .csharp = "%1InterfaceFiles %3 = iwApp.GetInterfaceFiles();%2",
+        .javascript = "%1var %3 = mApp.GetInterfaceFiles();%2",
+        .vbNet = "%1Dim %3 As Inkwright.InterfaceFiles = iwApp.GetInterfaceFiles()%2",
+        .vba = "%1Dim %3 As Inkwright.InterfaceFiles%2%1Set %3 = iwApp.GetInterfaceFiles()%2",
+    }};
+
+QString PhrasedConverter::EmitInterfaceFilesObject(CFxString& variable)
+{
+    static FileLocationCounter counter;
+    variable = numbered("iwInterfaceFiles_%1", counter.next(target_));
+    return fill(interfaceFilesObject).text(variable);
+}
+
+static const Phrase systemFilesObject{
+    "EmitSystemFilesObject",
+    {
+        .cpp = "%1iwSystemFiles_ptr %3;%2%1m_pIwApp->GetSystemFiles( &%3 );%2",
+        .cppCom = "%1ISystemFilesPtr %3 = pConnection->m_IwApp->GetSystemFiles();%2",
+        .csharp = "%1SystemFiles %3 = iwApp.GetSystemFiles();%2",
+        .javascript = "%1var %3 = mApp.GetSystemFiles();%2",
+        .vbNet = "%1Dim %3 As Inkwright.SystemFiles = iwApp.GetSystemFiles()%2",
+        .vba = "%1Dim %3 As Inkwright.SystemFiles%2%1Set %3 = iwApp.GetSystemFiles()%2",
+    }};
+
+QString PhrasedConverter::EmitSystemFilesObject(CFxString& variable)
+{
+    static FileLocationCounter counter;
+    variable = numbered("iwSystemFiles_%1", counter.next(target_));
+    return fill(systemFilesObject).text(variable);
+}
+
+/// The `%11` in VBA stands for nothing and stays in the macro.
+static const Phrase drawingSupportFilesObject{
+    "EmitDrawingSupportFilesObject",
+    {
+        .cpp = "%1iwDrawingSupportFiles_ptr %3;%2%1m_pIwApp->GetDrawingSupportFiles( &%3 );%2",
+        .cppCom = "%1IDrawingSupportFilesPtr %3 = pConnection->m_IwApp->GetDrawingSupportFiles();%2",
+        .csharp = "%1DrawingSupportFiles %3 = iwApp.GetDrawingSupportFiles();%2",
+        .javascript = "%1var %3 = mApp.GetDrawingSupportFiles();%2",
+        .vbNet = "%1Dim %3 As Inkwright.DrawingSupportFiles = iwApp.GetDrawingSupportFiles()%2",
+        .vba = "%1Dim %3 As Inkwright.DrawingSupportFiles%2%11Set %3 = iwApp.GetDrawingSupportFiles()%2",
+    }};
+
+QString PhrasedConverter::EmitDrawingSupportFilesObject(CFxString& variable)
+{
+    static FileLocationCounter counter;
+    variable = numbered("iwDrawingSupportFiles_%1", counter.next(target_));
+    return fill(drawingSupportFilesObject).text(variable);
+}
+
+/// C# and VB.NET declare the array together with its elements.
+static const Phrase arrayDeclaration{"EmitFileLocationArray",
+                                     {
+                                         .cpp = "%1iwStringArray sArray%3_%4;%2",
+                                         .cppCom =
+                                             "%1VARIANT sArray%3_%4;%2%1sArray%3_%4.vt = ( VT_ARRAY | VT_BSTR );%2"
+                                             "%1sArray%3_%4.parray = SafeArrayCreateVector( VT_BSTR, 0, %5 );%2"
+                                             "%1long rg%3_%4 = -1;%2",
+                                         .javascript = "%1var sArray%3_%4 = new Array( %5 );%2",
+                                         .vba = "%1Dim sArray%3_%4(%5) As String%2",
+                                     }};
+
+/// The page's literal has one number for the element and for the array that it goes into, so an element with another
+/// number than its array misses it. It has to stay so.
+static const Phrase arrayElement{"EmitFileLocationArray",
+                                 {
+                                     .cpp = "%1sArray%3_%4.add( L\"%5\" );%2",
+                                     .cppCom = "%1rg%3_%4 = %5;%2%1BSTR s%3_%5 = SysAllocString( L\"%6\");%2"
+                                               "%1SafeArrayPutElement( sArray%3_%4.parray, &rg%3_%4, s%3_%5 );%2",
+                                     .csharp = "%1string s%3_%4 = \"%5\";%2",
+                                     .javascript = "%1var s%3_%4 = \"%5\";%2%1sArray%3_%4[%4] = s%3_%4;%2",
+                                     .vbNet = "%1Dim s%3_%4 As String = \"%5\"%2",
+                                     .vba = "%1sArray%3_%4(%5) = \"%6\"%2",
+                                 }};
+
+static const Phrase arrayAssignment{
+    "EmitFileLocationArray",
+    {
+        .cpp = "%5%1%6->put_%3( sArray%3_%4 );%2",
+        .cppCom = "%5%1%6->put_%3( sArray%3_%4 );%2",
+        .csharp = "%6%1string[] sArray%3_%4 = new string[] { %5 };%2%1%7.%3 = sArray%3_%4;%2",
+        .javascript = "%5%1%6.put_%3( sArray%3_%4 );%2",
+        .vbNet = "%6%1Dim sArray%3_%4 As String() = New String() { %5 }%2%1%7.%3 = sArray%3_%4%2",
+        .vba = "%5%1%6.%3 = sArray%3_%4%2",
+    }};
+
+/// Where an element has one number only, that is its index; but C++ appends to the array and has no index.
+QString PhrasedConverter::fileLocationElement(const CFxString& property, std::uint32_t array, int index,
+                                              const CFxString& value) const
+{
+    Fill element = fill(arrayElement);
+    element.text(property);
+    if (target_ == Target::Cpp || target_ == Target::CppCom || target_ == Target::Vba)
+        element.number(array);
+    if (target_ != Target::Cpp)
+        element.number(index);
+    return element.text(value);
+}
+
+QString PhrasedConverter::EmitFileLocationArray(const CFxString& variable, const CFxString& property,
+                                                const std::vector<CFxString>& values)
+{
+    static FileLocationCounter counter;
+    const std::uint32_t array = counter.next(target_);
+    const auto size = static_cast<int>(values.size());
+
+    // VBA declares the last index and not the size.
+    QString elements =
+        fill(arrayDeclaration).text(property).number(array).number(target_ == Target::Vba ? size - 1 : size);
+    QStringList names;
+    for (int i = 0; i < size; ++i) {
+        elements += fileLocationElement(property, array, i, values[static_cast<std::size_t>(i)]);
+        names.append(QStringLiteral("s%1_%2").arg(property).arg(i));
+    }
+
+    const QString list = names.join(QLatin1String(", "));
+    Fill assignment = fill(arrayAssignment);
+    assignment.text(property).number(array);
+    if (target_ == Target::CSharp || target_ == Target::VbNet)
+        assignment.text(list);
+    return assignment.text(elements).text(variable);
+}
