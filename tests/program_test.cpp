@@ -241,4 +241,73 @@ TEST_F(Program, ShowsRecordingsAndItself)
     EXPECT_TRUE(run({"schema"}).out.contains("\"$defs\""));
 }
 
+TEST_F(Program, NamesOptionsAsItIsTold)
+{
+    write("scale.jsonl", "{\"recording\":{\"version\":1,\"mode\":1}}\n"
+                         "{\"sysvar\":{\"name\":\"LTSCALE\",\"value\":{\"double\":0.5}}}\n");
+    write("names.json", R"({"LTSCALE": "iwCommandOptionDouble_SetLnScl", "PICKBOX": "iwApplicationOptionInt16_Pck"})");
+    const auto statement = [&](const QString& macro, const QByteArray& name) {
+        return contents(macro).contains("SetCommandOptionDouble(iwCommandOptionDouble_e." + name +
+                                        ", 0.5, out result1);\n");
+    };
+    ASSERT_EQ(run({"convert", "scale.jsonl", "--target", "csharp"}).status, 0);
+    EXPECT_TRUE(statement("csharp/scale.cs", "iwCommandOptionDouble_SetLTSCALE"));
+    // In one process and in several.
+    write("again.jsonl", contents("scale.jsonl"));
+    ASSERT_EQ(run({"convert", "scale.jsonl", "--target", "csharp", "--output", "one/", "--option-names", "names.json"})
+                  .status,
+              0);
+    EXPECT_TRUE(statement("one/csharp/scale.cs", "iwCommandOptionDouble_SetLnScl"));
+    ASSERT_EQ(run({"convert", "scale.jsonl", "again.jsonl", "--target", "csharp", "--output", "two/", "--option-names",
+                   "names.json"})
+                  .status,
+              0);
+    EXPECT_TRUE(statement("two/csharp/again.cs", "iwCommandOptionDouble_SetLnScl"));
+    EXPECT_EQ(
+        run({"convert", "scale.jsonl", "--target", "csharp", "--output", "names.json", "--option-names", "names.json"})
+            .status,
+        2);
+}
+
+TEST_F(Program, ConvertsNothingWithFaultyNamesOfOptions)
+{
+    const struct
+    {
+        QByteArray names;
+        const char* message;
+    } cases[] = {
+        {"{\n\"LTSCALE\":\n", "names.json:3: not valid JSON: "},
+        {"[]", "names.json: expected an object"},
+        {R"({"LTSCALE": "iwCommandOptionDouble_A", "ltscale": "iwCommandOptionDouble_A"})",
+         "names.json: ltscale: there is no system variable"},
+        {R"({"no such": "iwCommandOptionDouble_A"})", "names.json: [\"no such\"]: there is no system variable"},
+        {R"({"LTSCALE": 3})", "names.json: LTSCALE: expected an enumerator that begins with iwCommandOptionDouble_"},
+        {R"({"LTSCALE": "iwCommandOptionInt16_A"})", "names.json: LTSCALE: expected"},
+        {R"({"LTSCALE": "iwCommandOptionDouble_"})", "names.json: LTSCALE: expected"},
+        {R"({"LTSCALE": "iwCommandOptionDouble_A, 1"})", "names.json: LTSCALE: expected"},
+        {R"({"CHAMMODE": "iwCommandOptionBool_A"})",
+         "names.json: CHAMMODE: expected an enumerator that begins with iwCommandOptionInt16_ or "
+         "iwApplicationOptionInt16_"},
+    };
+    write("walls.jsonl", line);
+    for (const auto& [names, message] : cases) {
+        write("names.json", names);
+        const Outcome outcome = run(
+            {"convert", "walls.jsonl", "--target", "csharp,vba", "--output", "out/", "--option-names", "names.json"});
+        EXPECT_EQ(outcome.status, 3) << message;
+        EXPECT_TRUE(outcome.err.startsWith(message)) << outcome.err.toStdString();
+        EXPECT_EQ(outcome.err.count('\n'), 1);
+    }
+    EXPECT_EQ(run({"convert", "walls.jsonl", "--target", "csharp", "--option-names", "nowhere"}).status, 3);
+    EXPECT_EQ(run({"convert", "walls.jsonl", "--target", "csharp", "--option-names", "."}).status, 3);
+    EXPECT_FALSE(exists("out") || exists("csharp"));
+}
+
+TEST_F(Program, KeepsThePageOfSystemVariablesUpToDate)
+{
+    QFile page(INKMACRO_SOURCE_DIR "/docs/system-variables.md");
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(run({"system-variables"}).out == QString::fromUtf8(page.readAll())) << "scripts/update-docs writes it";
+}
+
 } // namespace

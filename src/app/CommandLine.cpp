@@ -77,6 +77,7 @@ struct RawArguments
     std::string targets;
     std::string output;
     std::string installDir;
+    std::string optionNames;
     int recordingLanguage = 0;
     bool json = false;
     bool version = false;
@@ -93,7 +94,9 @@ CommandLine::Command commandOf(const CLI::App& app, const RawArguments& raw)
         return CommandLine::Command::Inspect;
     if (name == "check")
         return CommandLine::Command::Check;
-    return name == "schema" ? CommandLine::Command::Schema : CommandLine::Command::Help;
+    if (name == "schema")
+        return CommandLine::Command::Schema;
+    return name == "system-variables" ? CommandLine::Command::SystemVariables : CommandLine::Command::Help;
 }
 
 void checkFiles(const QStringList& files)
@@ -125,11 +128,13 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
     const CLI::Option* const language =
         convert->add_option("--recording-language", raw.recordingLanguage)->check(CLI::Range(0, 5));
     const CLI::Option* const installDir = convert->add_option("--install-dir", raw.installDir);
+    const CLI::Option* const optionNames = convert->add_option("--option-names", raw.optionNames);
     CLI::App* const inspect = app.add_subcommand("inspect");
     inspect->add_option("FILE", raw.files)->required()->expected(1);
     inspect->add_flag("--json", raw.json);
     app.add_subcommand("check")->add_option("FILE", raw.files)->required();
     app.add_subcommand("schema");
+    app.add_subcommand("system-variables");
 
     CommandLine line;
     try {
@@ -157,6 +162,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
         line.host.recordingLanguage = raw.recordingLanguage;
     if (*installDir)
         line.host.installDir = decodeName(raw.installDir);
+    if (*optionNames)
+        line.host.optionNames = decodeName(raw.optionNames);
     return line;
 }
 
@@ -167,6 +174,8 @@ QStringList HostSettings::arguments() const
         arguments.append(QString("--recording-language=%1").arg(*recordingLanguage));
     if (installDir)
         arguments.append("--install-dir=" + *installDir);
+    if (optionNames)
+        arguments.append("--option-names=" + *optionNames);
     return arguments;
 }
 
@@ -180,9 +189,11 @@ QString helpText()
 Usage:
   inkmacro convert FILE... --target TARGET[,TARGET...]|all [--output PATH]
                    [--recording-language N] [--install-dir DIR]
+                   [--option-names FILE]
   inkmacro inspect FILE [--json]
   inkmacro check FILE...
   inkmacro schema
+  inkmacro system-variables
   inkmacro --version | --help
 
 Commands:
@@ -192,6 +203,8 @@ Commands:
            as one JSON document
   check    read recordings and say what is wrong with them; writes nothing
   schema   print the JSON Schema of one line of a recording
+  system-variables
+           print, as a page in Markdown, the system variables that convert
 
 FILE is a recording; - is standard input. Behind -- all arguments are files,
 whatever they begin with.
@@ -215,6 +228,11 @@ Options of convert:
   --install-dir DIR
       Where the application is installed, as C:\Inkwright\ with a backslash at
       its end: the C++ projects look for its libraries below it.
+  --option-names FILE
+      The names by which the interface knows the options of system variables: a
+      JSON object of variables and enumerators, like
+      {"LTSCALE": "iwCommandOptionDouble_SetLTSCALE"}. They replace those that
+      system-variables shows. Nothing is converted when the file is faulty.
 
 Several files or targets are converted side by side; one that fails does not
 stop the others. Standard output holds the paths written, one a line, the macro
@@ -224,7 +242,8 @@ Exit status:
   0  all was done
   1  a conversion failed
   2  wrong use: nothing was read or written
-  3  a recording could not be read: nothing was written for it
+  3  a recording could not be read: nothing was written for it; or the file of
+     --option-names could not: nothing was written at all
 )")
         .arg(targets);
 }

@@ -23,6 +23,7 @@ struct HostSettings
 {
     std::optional<int> recordingLanguage; ///< goes before what the recording says
     std::optional<QString> installDir;    ///< where the application is installed
+    std::optional<QString> optionNames;   ///< file with the enumerators of system variables' options
 
     /// The same once more, for another process of this program.
     QStringList arguments() const;
@@ -36,6 +37,7 @@ struct CommandLine
         Inspect,
         Check,
         Schema,
+        SystemVariables,
         Version,
         Help
     };

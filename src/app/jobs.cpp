@@ -96,16 +96,18 @@ void checkMacros(const std::vector<Job>& jobs)
                                    .arg(macro->second->input, job.input, file));
 }
 
-void checkInputs(const std::vector<Job>& jobs, const QStringList& inputs)
+void checkInputs(const std::vector<Job>& jobs, const CommandLine& line)
 {
     std::map<QString, QString> places;
-    for (const QString& input : inputs)
+    for (const QString& input : line.files)
         if (const QString place = placeOfInput(input); !place.isEmpty())
-            places.emplace(place, input);
+            places.emplace(place, "the recording " + input);
+    if (line.host.optionNames)
+        places.emplace(placeOf(*line.host.optionNames), "the names of options in " + *line.host.optionNames);
     for (const Job& job : jobs)
         for (const QString& output : QStringList(job.macro) + job.projectFiles())
             if (const auto input = places.find(placeOf(output)); input != places.end())
-                throw WrongUse(QString("%1 would overwrite the recording %2").arg(output, input->second));
+                throw WrongUse(QString("%1 would overwrite %2").arg(output, input->second));
 }
 
 } // namespace
@@ -123,7 +125,7 @@ QStringList Job::projectFiles() const
 std::vector<Job> planJobs(const CommandLine& line)
 {
     std::vector<Job> jobs = listJobs(line);
-    checkInputs(jobs, line.files);
+    checkInputs(jobs, line);
     checkMacros(jobs);
     return jobs;
 }

@@ -5,8 +5,10 @@
 #include "app/console.h"
 #include "app/conversion.h"
 #include "app/inspection.h"
+#include "app/optionNames.h"
 #include "app/processes.h"
 #include "app/reading.h"
+#include "app/systemVariables.h"
 #include "recordfile/RecordingSchema.h"
 
 #include <QCoreApplication>
@@ -32,6 +34,8 @@ void useUnicodeNames()
 int convert(const CommandLine& line)
 {
     const std::vector<Job> jobs = planJobs(line);
+    if (line.host.optionNames && !readOptionNamesOrComplain(*line.host.optionNames))
+        return kUnreadable;
     return jobs.size() == 1 ? convertOne(jobs.front(), line.host) : convertInProcesses(jobs, line.host);
 }
 
@@ -46,6 +50,9 @@ int run(const CommandLine& line)
         return checkRecordings(line.files);
     case CommandLine::Command::Schema:
         printOut(RecordingSchema());
+        break;
+    case CommandLine::Command::SystemVariables:
+        printOut(systemVariablesPage());
         break;
     case CommandLine::Command::Version:
         printOut(QByteArray("inkmacro " INKMACRO_VERSION "\n"));

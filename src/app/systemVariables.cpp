@@ -1,0 +1,63 @@
+#include "app/systemVariables.h"
+
+#include "actions/optionTable.h"
+
+#include <QStringList>
+
+namespace inkmacro {
+
+namespace {
+
+const char* const introduction = R"(# System variables
+
+A change of a system variable becomes a statement that sets an option through Inkwright's automation interface: by
+`SetCommandOption...` on the document or, when the document has no option for the variable, by
+`SetApplicationOption...` on the application's options. Only a replay converts these changes, but a change of `CVPORT`
+is always converted. A variable that is not listed here leaves no statement; the names are in capitals.
+
+The interface knows an option by an enumerator, whose name cannot be computed. Where the remark says *made*, the name
+that the interface uses is not known to the program, and the enumerator is made of a verb and the variable's own name.
+Whoever has the interface's lists can give the right names without a new build, by
+`inkmacro convert --option-names FILE`. `FILE` holds one JSON object:
+
+```json
+{
+  "LTSCALE": "iwCommandOptionDouble_SetLTSCALE",
+  "PICKBOX": "iwApplicationOptionInt16_SetPICKBOX"
+}
+```
+
+A name must begin as the enumerator in the table does, up to the underscore. *Read only* are the variables that the
+user cannot set: they change by themselves.
+)";
+
+QString rowOf(OptionOwner owner, const OptionRow& row)
+{
+    QStringList remarks;
+    if (!row.name)
+        remarks.append("made");
+    if (row.readOnly)
+        remarks.append("read only");
+    return QString("| `%1` | %2 | `%3` | %4 |\n")
+        .arg(row.variable, OptionTypeName(row.kind), OptionEnumerator(owner, row), remarks.join(", "));
+}
+
+QString sectionOf(OptionOwner owner, const char* title)
+{
+    const std::span<const OptionRow> rows = OptionRows(owner);
+    QString section = QString("\n## %1\n\n%2 variables.\n\n").arg(title).arg(rows.size());
+    section += "| Variable | Type | Enumerator | Remark |\n|---|---|---|---|\n";
+    for (const OptionRow& row : rows)
+        section += rowOf(owner, row);
+    return section;
+}
+
+} // namespace
+
+QString systemVariablesPage()
+{
+    return introduction + sectionOf(OptionOwner::Document, "Options of the document") +
+           sectionOf(OptionOwner::Application, "Options of the application");
+}
+
+} // namespace inkmacro
