@@ -2,12 +2,7 @@
 
 #include "frame/CFxConverterIWAPIImpl.h"
 
-// Answers at prompts and selections have no statements: they are passed over.
-
-std::int32_t CFxConverterIWAPIImpl::ConvertInteraction(OdSmartPtr<CFxUserInteraction>, QString&)
-{
-    return kFxSuccess;
-}
+// Selections have no statements: they are passed over.
 
 std::int32_t CFxConverterIWAPIImpl::ConvertSelection(OdSmartPtr<CFxUserSelection>, QString&)
 {

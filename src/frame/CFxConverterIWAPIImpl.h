@@ -111,6 +111,21 @@ public:
     /// Writes the project around the macro file.
     virtual std::int32_t EmitProjectFiles(const QString& path) = 0;
 
+    // Prompts that are shown again; all but the keyword's raise UniqueCounter before anything else.
+    virtual QString EmitPromptPoint(const CFxString& prompt, const OdGePoint3d& value) = 0;
+    virtual QString EmitPromptAngle(const CFxString& prompt, double value) = 0;
+    virtual QString EmitPromptDistance(const CFxString& prompt, double value) = 0;
+    virtual QString EmitPromptOrient(const CFxString& prompt, double value) = 0;
+    virtual QString EmitPromptCorner(const CFxString& prompt, const OdGePoint3d& value) = 0;
+    virtual QString EmitPromptScale(const CFxString& prompt, double value) = 0;
+    virtual QString EmitPromptString(const CFxString& prompt, const CFxString& value) = 0;
+    /// `global` has at least as many elements as `local`.
+    virtual QString EmitPromptKeyword(const CFxString& prompt, const std::vector<CFxString>& local,
+                                      const std::vector<CFxString>& global) = 0;
+    virtual QString EmitPromptColor(const CFxString& prompt, std::int32_t value) = 0;
+    virtual QString EmitPromptInteger(const CFxString& prompt, std::int32_t value) = 0;
+    virtual QString EmitPromptDouble(const CFxString& prompt, double value) = 0;
+
     /// Depth of the statement being written, four blanks a level.
     std::uint32_t IndentLevel = 0;
     /// Suffix that keeps the local names of one statement apart.

@@ -62,6 +62,8 @@ public:
     Fill(const Template* words, unsigned level) : template_(words) { indent(level); }
     /// Of most statements the first two values are indentation and line end.
     Fill(const Template* words, unsigned level, QStringView lineEnd) : template_(words) { indent(level).text(lineEnd); }
+    /// The first value of a template whose lines end in itself is the indentation.
+    Fill(const Template* words, unsigned level) : template_(words) { indent(level); }
     Fill(const Fill&) = delete;
     Fill& operator=(const Fill&) = delete;
 
@@ -90,6 +92,8 @@ public:
     Fill& point(const OdGePoint3d& value) { return real(value.x).real(value.y).real(value.z); }
     /// In the form of FormatShort.
     Fill& shortReal(double value) { return add(Short{value}); }
+    /// The three coordinates in the form of FormatShort.
+    Fill& shortPoint(const OdGePoint3d& value) { return shortReal(value.x).shortReal(value.y).shortReal(value.z); }
 
     QString str() const;
     operator QString() const { return str(); }

@@ -18,6 +18,20 @@ public:
     QString EmitVariableDeclaration(const ActionEntry& entry) override;
     QString EmitGetLayer(const CFxString& variable) override;
 
+    // Prompts: prompts.cpp.
+    QString EmitPromptPoint(const CFxString& prompt, const OdGePoint3d& value) override;
+    QString EmitPromptAngle(const CFxString& prompt, double value) override;
+    QString EmitPromptDistance(const CFxString& prompt, double value) override;
+    QString EmitPromptOrient(const CFxString& prompt, double value) override;
+    QString EmitPromptCorner(const CFxString& prompt, const OdGePoint3d& value) override;
+    QString EmitPromptScale(const CFxString& prompt, double value) override;
+    QString EmitPromptString(const CFxString& prompt, const CFxString& value) override;
+    QString EmitPromptKeyword(const CFxString& prompt, const std::vector<CFxString>& local,
+                              const std::vector<CFxString>& global) override;
+    QString EmitPromptColor(const CFxString& prompt, std::int32_t value) override;
+    QString EmitPromptInteger(const CFxString& prompt, std::int32_t value) override;
+    QString EmitPromptDouble(const CFxString& prompt, double value) override;
+
     // Unless the target says otherwise, the macro file is the whole result.
     QString EmitProgramText(const QString&) override { return {}; }
     QString EmitProjectText(const QString&) override { return {}; }

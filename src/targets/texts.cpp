@@ -28,8 +28,7 @@ QString CleanPromptText(const QString& prompt)
     QString text = prompt;
     text.replace(QLatin1String("<br>"), QLatin1String("\n"));
     const QStringList lines = text.split('\n', Qt::SkipEmptyParts);
-    if (!lines.isEmpty())
-        text = lines.last();
+    text = lines.isEmpty() ? QString() : lines.last();
     static const QRegularExpression tag("<[^>]*>");
     return text.remove(tag).remove(QLatin1String("&raquo; "));
 }

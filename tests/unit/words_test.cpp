@@ -91,7 +91,7 @@ TEST(Prompts, LoseTheirMarkup)
     EXPECT_EQ(CleanPromptText("Specify center point<br>or &raquo; [Radius]:"), "or [Radius]:");
     EXPECT_EQ(CleanPromptText("<b>Next</b> point<br><br>\n"), "Next point");
     EXPECT_EQ(CleanPromptText("&raquo; a &raquo;b <unclosed"), "a &raquo;b <unclosed");
-    EXPECT_EQ(CleanPromptText("<br>"), "\n");
+    EXPECT_EQ(CleanPromptText("<br>"), "");
 }
 
 TEST(Names, OfProjectsStayAsTheyAre)
@@ -144,6 +144,13 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         // The array is declared together with its elements.
         {"EmitFileLocationArray", Target::CSharp},
         {"EmitFileLocationArray", Target::VbNet},
+        // COM puts an element into both lists at once.
+        {"EmitPromptKeyword: element of a list", Target::CppCom},
+        {"EmitPromptKeyword: element of both lists", Target::Cpp},
+        {"EmitPromptKeyword: element of both lists", Target::CSharp},
+        {"EmitPromptKeyword: element of both lists", Target::JavaScript},
+        {"EmitPromptKeyword: element of both lists", Target::VbNet},
+        {"EmitPromptKeyword: element of both lists", Target::Vba},
         // Nothing calls for a comment of its own.
         {"EmitComment", Target::Cpp},
         {"EmitComment", Target::CppCom},
