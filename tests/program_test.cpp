@@ -86,6 +86,27 @@ TEST_F(Program, ConvertsToTheNamedFileAndFromStandardInput)
     EXPECT_TRUE(contents("empty.cs").endsWith("        }\n    }\n}\n"));
 }
 
+TEST_F(Program, ReplaysPromptsWhenToldTo)
+{
+    const QByteArray angle =
+        R"({"command":{"name":"ROTATE","actions":[{"interaction":{"kind":"angle","prompt":"Angle:","result":{"type":5004,"double":0.5}}}]}})"
+        "\n";
+    write("turn.jsonl", angle);
+    write("asked.jsonl", R"({"recording":{"version":1,"mode":1}})"
+                         "\n" +
+                             angle);
+    const auto asks = [this](const QStringList& arguments) {
+        EXPECT_EQ(run(QStringList{"convert", "--target", "csharp", "--output", "out/"} + arguments).status, 0);
+        return contents("out/csharp/turn.cs").contains("PromptForAngle(\"Angle:\", 0.5, out angle1);\n");
+    };
+    EXPECT_FALSE(asks({"turn.jsonl"}));
+    EXPECT_TRUE(contents("out/csharp/turn.cs").endsWith("        }\n    }\n}\n"));
+    EXPECT_TRUE(asks({"turn.jsonl", "--replay"}));
+    EXPECT_FALSE(asks({"turn.jsonl", "asked.jsonl"}));
+    EXPECT_TRUE(contents("out/csharp/asked.cs").contains("PromptForAngle"));
+    EXPECT_TRUE(asks({"turn.jsonl", "asked.jsonl", "--replay"})) << "in processes of their own";
+}
+
 TEST_F(Program, OneFailureDoesNotStopTheOthers)
 {
     write("a.jsonl", line);

@@ -79,6 +79,7 @@ struct RawArguments
     std::string installDir;
     std::string optionNames;
     int recordingLanguage = 0;
+    bool replay = false;
     bool json = false;
     bool version = false;
 };
@@ -125,6 +126,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
     convert->add_option("FILE", raw.files)->required();
     convert->add_option("--target", raw.targets)->required();
     const CLI::Option* const output = convert->add_option("--output", raw.output);
+    convert->add_flag("--replay", raw.replay);
     const CLI::Option* const language =
         convert->add_option("--recording-language", raw.recordingLanguage)->check(CLI::Range(0, 5));
     const CLI::Option* const installDir = convert->add_option("--install-dir", raw.installDir);
@@ -164,6 +166,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
         line.host.installDir = decodeName(raw.installDir);
     if (*optionNames)
         line.host.optionNames = decodeName(raw.optionNames);
+    line.host.replay = raw.replay;
     return line;
 }
 
@@ -176,6 +179,8 @@ QStringList HostSettings::arguments() const
         arguments.append("--install-dir=" + *installDir);
     if (optionNames)
         arguments.append("--option-names=" + *optionNames);
+    if (replay)
+        arguments.append("--replay");
     return arguments;
 }
 
@@ -188,7 +193,7 @@ QString helpText()
 
 Usage:
   inkmacro convert FILE... --target TARGET[,TARGET...]|all [--output PATH]
-                   [--recording-language N] [--install-dir DIR]
+                   [--replay] [--recording-language N] [--install-dir DIR]
                    [--option-names FILE]
   inkmacro inspect FILE [--json]
   inkmacro check FILE...
@@ -221,6 +226,9 @@ Options of convert:
       directory is taken. Existing files are overwritten, a recording that is
       being read never. Macros in one folder share the start-up program: that
       of the last one stays.
+  --replay
+      The macro stops where the recorded command asked its user something, and
+      offers the recorded answer. Without it the recording's header says.
   --recording-language N
       The host setting that decides on the byte order mark and on the form of
       type names, 0 to 5. Without it the recording's header says, or else the

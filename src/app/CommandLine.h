@@ -24,6 +24,7 @@ struct HostSettings
     std::optional<int> recordingLanguage; ///< goes before what the recording says
     std::optional<QString> installDir;    ///< where the application is installed
     std::optional<QString> optionNames;   ///< file with the enumerators of system variables' options
+    bool replay = false;                  ///< whatever mode the recording says
 
     /// The same once more, for another process of this program.
     QStringList arguments() const;

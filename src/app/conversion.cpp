@@ -19,6 +19,9 @@ namespace inkmacro {
 
 namespace {
 
+/// The ConversionMode in which prompts are shown again.
+constexpr int kReplay = 1;
+
 /// Makes a drawing the one that the user works in, for as long as this lives.
 class OpenDrawing
 {
@@ -63,7 +66,8 @@ std::int32_t runModule(const Job& job, const Recording& recording, const HostSet
     database.setGroupDictionaryId(database.getOdDbObjectId(recording.drawing.groupDictionary));
     const OpenDrawing drawing(database);
     const ProgressLine line([&] { return "writing " + megabytes(QFileInfo(job.macro).size()); });
-    return module->ConvertRecording(job.macro, code, static_cast<std::uint32_t>(recording.header.mode),
+    const int mode = host.replay ? kReplay : recording.header.mode;
+    return module->ConvertRecording(job.macro, code, static_cast<std::uint32_t>(mode),
                                     static_cast<CFxValueContext>(recording.header.context), recording.actions);
 }
 
