@@ -146,7 +146,7 @@ constexpr std::array commandOptions{
     plain("HPDOUBLE", OptionKind::Int16),
     plain("UNITMODE", OptionKind::Int16),
     plain("CVPORT", OptionKind::Int16),
-    plain("ERRNO", OptionKind::Int16),
+    readOnly("ERRNO", OptionKind::Int16),
     readOnly("CMDACTIVE", OptionKind::Int16),
     readOnly("WORLDUCS", OptionKind::Int16),
     readOnly("UNDOCTL", OptionKind::Int16),

@@ -66,7 +66,7 @@ public:
     CFxConverterIWAPIObject(const CFxConverterIWAPIObject&) = delete;
     CFxConverterIWAPIObject& operator=(const CFxConverterIWAPIObject&) = delete;
 
-    // The entries of the driver. Each appends to `text` and gives kFxSuccess or kFxFailure.
+    // The entries of the driver. The first two append to `text`, a property that stands alone replaces it.
     virtual std::int32_t ConvertObjectAdded(OdSmartPtr<CFxObjectAdded> action, QString& text);
     virtual std::int32_t ConvertObjectModified(OdSmartPtr<CFxObjectModified> action, QString& text);
     virtual std::int32_t ConvertPropertyChanged(CFxPropertyChangedPtr action, QString& text);

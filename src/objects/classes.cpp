@@ -9,7 +9,6 @@
 
 bool IsSupportedClass(const CFxString& name)
 {
-    // "AcDbViewTable" stands twice, as it does in the host's own list.
     static const std::set<CFxString> supportedClassNames{
         "AcDbLine",
         "AcDbCircle",
@@ -56,7 +55,6 @@ bool IsSupportedClass(const CFxString& name)
         "AcDbViewTableRecord",
         "AcDbViewTable",
         "AcDbViewport",
-        "AcDbViewTable",
         "AcDbGroup",
         "AcDbTrace",
         "AcDbLayerTableRecord",

@@ -15,6 +15,8 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectAdded(OdSmartPtr<CFxObjectAdd
     if (!action)
         return kFxFailure;
     OdRxClass* const cls = action->GetObjectClass();
+    if (!cls)
+        return kFxFailure;
     if (!IsSupportedClass(cls->name()))
         return kFxSuccess;
 
@@ -33,6 +35,8 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectModified(OdSmartPtr<CFxObject
     if (!action)
         return kFxFailure;
     OdRxClass* const cls = action->GetObjectClass();
+    if (!cls)
+        return kFxFailure;
     if (!IsSupportedClass(cls->name()))
         return kFxSuccess;
     PropertyList list = action->GetProperties();
@@ -51,6 +55,8 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectModified(OdSmartPtr<CFxObject
 /// A property that stands alone is a list of one record, which brings its class and handle along.
 std::int32_t CFxConverterIWAPIObject::ConvertPropertyChanged(CFxPropertyChangedPtr action, QString& text)
 {
+    if (!action)
+        return kFxFailure;
     OdRxClass* const cls = action->GetObjectClass();
     const OdDbHandle handle = action->GetHandle();
     PropertyList list{std::move(action)};

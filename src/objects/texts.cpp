@@ -154,7 +154,8 @@ QString CFxConverterIWAPIObject::ReadNote(AddedProperties& properties, const CFx
     setReal("TextHeight", textHeight);
     setReal("Width", width);
     setReal("LineSpaceDistance", lineSpaceDistance);
-    const CFxString styleName = style.GetType() == CFxVariant::kId ? nameOfTextStyle(style.GetId()) : wordOf(style);
+    const CFxString styleName =
+        style.GetType() == CFxVariant::kId ? nameOfTextStyle(style.GetId()) : ChosenText(style).value_or(CFxString());
     if (!styleName.isEmpty())
         text += EmitSetProperty(name, "TextStyle", styleName, true);
     if (const std::optional<CFxString> justification = ChosenText(justify))

@@ -52,7 +52,7 @@ private:
 /// a chain of QString::arg calls makes of the literal, also where a value itself holds markers for the values behind
 /// it; but Qt's warnings about missing markers are not printed.
 ///
-/// Texts are kept as views until str() is called, so a builder must not outlive the full expression it stands in.
+/// Texts are kept as views until str() is called: each must live as long as that.
 class Fill
 {
 public:

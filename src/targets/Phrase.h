@@ -26,7 +26,8 @@ struct Words
 class Phrase
 {
 public:
-    /// `name` is the operation that fills the phrase, such as "EmitInsertLine"; it and the literals are not copied.
+    /// `name` is the operation that fills the phrase, such as "EmitInsertLine", or what several have in common; it and
+    /// the literals are not copied.
     Phrase(const char* name, const Words& words);
     ~Phrase();
     Phrase(const Phrase&) = delete;

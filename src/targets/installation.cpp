@@ -1,6 +1,7 @@
 #include "targets/installation.h"
 
 #include "host/kernel/CFxRegistry.h"
+#include "targets/texts.h"
 
 namespace inkmacro {
 
@@ -10,7 +11,7 @@ QString installedPath(const char* tail)
     if (directory.isEmpty())
         directory = QStringLiteral("C:\\Program Files\\Velmorand\\Inkwright\\");
     else
-        directory.replace('\\', QLatin1String("\\\\"));
+        directory = doubleBackslashes(directory);
     // Only a directory that was found has its backslashes doubled; the tail never has.
     return directory + QLatin1String(tail);
 }

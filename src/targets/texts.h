@@ -16,7 +16,7 @@ QString CleanPromptText(const QString& prompt);
 /// are taken care of; a quote stays as it is.
 QString escapeText(Target target, const QString& text);
 
-/// The text with each backslash doubled, as file paths and font names are written in every target.
+/// The text with each backslash doubled, for the statements that want paths so.
 QString doubleBackslashes(QString text);
 
 /// Backslashes doubled, and line feeds as backslash and n.

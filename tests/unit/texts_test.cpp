@@ -342,7 +342,7 @@ const Row rows[] = {
       "4, 5, true, false, true, false, true, false, &v );\n",
       " v = iwSketchManager.InsertAttributeDefinition(  \"a\", \"b\", \"c\", 1, 2, 3, \"d\", "
       "iwTextJustification_e.iwTextJustification_Fit, 4, 5, true, false, true, false, true, false );\n",
-      " var v = mSkMgr.InsertAttributeDefinition(\"a\", \"b\", \"c\", 1, 2, 3, \"d\", iwTextJustification_Fit, 4, 5, "
+      " var v = mSkMgr.InsertAttributeDefinition(\"a\", \"b\", \"c\", 1, 2, 3, \"d\", \"iwTextJustification_Fit\", 4, 5, "
       "true, false, true, false, true, false);\n",
       " v = iwSketchManager.InsertAttributeDefinition(  \"a\", \"b\", \"c\", 1, 2, 3, \"d\", "
       "Inkwright.iwTextJustification_e.iwTextJustification_Fit, 4, 5, True, False, True, False, True, False )\n",

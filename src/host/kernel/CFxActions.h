@@ -59,7 +59,7 @@ public:
     virtual OdRxClass* GetObjectClass() const = 0;
     /// The object's properties when it was added.
     virtual PropertyList GetProperties() const = 0;
-    /// The same records once more, for the reader that takes what the first left.
+    /// The same records once more: what the reader of the first takes is struck from these, and the rest are changes.
     virtual PropertyList GetExtraProperties() const = 0;
     virtual OdDbHandle GetHandle() const = 0;
 };

@@ -15,8 +15,8 @@ public:
     static OdRxClass* desc();
 
     virtual OdRxClass* isA() const = 0;
-    /// This object with one more reference if it is of that class, else null.
-    OdRxObject* queryX(const OdRxClass* wanted) const;
+    /// This object, or another that stands for it in that class, with one more reference; else null.
+    virtual OdRxObject* queryX(const OdRxClass* wanted) const;
 
     void addRef() const { ++references_; }
     void release() const

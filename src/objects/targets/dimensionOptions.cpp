@@ -76,7 +76,7 @@ static const Phrase setArrow{"EmitSetArrow",
 QString PhrasedObjectConverter::EmitSetLeaderArrow(const CFxString& target, const CFxString& operation,
                                                    std::int32_t arrow)
 {
-    const QString kind = EnumeratorByValue(this->target(), "iwDimensionArrowType", arrow);
+    const QString kind = EnumeratorByValue(target_, "iwDimensionArrowType", arrow);
     return fill(setArrow).text(target).text(operation).text(kind).text(QString());
 }
 
@@ -93,6 +93,6 @@ static const Phrase setDimensionScale{"EmitSetDimensionScale",
 QString PhrasedObjectConverter::EmitSetDimensionScale(const CFxString& target, const CFxString& operation,
                                                       std::int32_t scale, double factor)
 {
-    const QString kind = EnumeratorByValue(this->target(), "iwDimensionScale", scale);
+    const QString kind = EnumeratorByValue(target_, "iwDimensionScale", scale);
     return fill(setDimensionScale).text(target).text(operation).text(kind).real(factor);
 }

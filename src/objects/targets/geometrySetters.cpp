@@ -20,7 +20,7 @@ QString PhrasedObjectConverter::EmitSetIndexedDouble(const CFxString& target, co
                                                      std::int32_t index, double value)
 {
     // Only C++ has a local, and only a local uses up a number.
-    const std::uint32_t suffix = this->target() == Target::Cpp ? ++Driver().UniqueCounter : 0;
+    const std::uint32_t suffix = target_ == Target::Cpp ? ++Driver().UniqueCounter : 0;
     return fill(setIndexedDouble).text(target).text(operation).number(index).real(value).number(suffix);
 }
 
@@ -44,10 +44,10 @@ QString PhrasedObjectConverter::setEnumerator(const CFxString& target, const CFx
 QString PhrasedObjectConverter::EmitSetEnumProperty(const CFxString& target, const char* enumeration,
                                                     const CFxString& property, const CFxString& shownText)
 {
-    return setEnumerator(target, property, EnumeratorByText(this->target(), enumeration, shownText));
+    return setEnumerator(target, property, EnumeratorByText(target_, enumeration, shownText));
 }
 
 QString PhrasedObjectConverter::EmitSetLeaderType(const CFxString& target, const CFxString& property, std::int32_t type)
 {
-    return setEnumerator(target, property, EnumeratorByValue(this->target(), "iwLeaderType", type));
+    return setEnumerator(target, property, EnumeratorByValue(target_, "iwLeaderType", type));
 }

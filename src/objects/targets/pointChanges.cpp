@@ -160,7 +160,7 @@ QString PhrasedObjectConverter::changePair(const CFxString& target, const CFxStr
 {
     static const PointWords words{declarePair, getPair, changeLocal, setPair};
     QString coordinate = local;
-    if (this->target() == Target::JavaScript)
+    if (target_ == Target::JavaScript)
         coordinate.replace(QLatin1String("get"), QLatin1String("get."));
     return changePoint(words, target, getter, setter, -1, coordinate, value);
 }
@@ -227,11 +227,11 @@ QString PhrasedObjectConverter::changeVertex(const PointWords& words, const CFxS
                                              const CFxString& axis, double value)
 {
     // Only here the C++ calls end with the usual second value, and only they do without the suffix.
-    if (this->target() == Target::Cpp)
+    if (target_ == Target::Cpp)
         return fill(words.declare).str() + fill(words.get).text(target).number(index).str() +
                fill(words.change).text(axis).real(value).str() + fill(words.set).text(target).number(index).str();
 
-    const std::uint32_t suffix = this->target() == Target::JavaScript ? 0 : ++Driver().UniqueCounter;
+    const std::uint32_t suffix = target_ == Target::JavaScript ? 0 : ++Driver().UniqueCounter;
     const auto call = [&](const Phrase& phrase) {
         return fillIndented(phrase).text(target).number(index).text(LineEnd).number(suffix).str();
     };

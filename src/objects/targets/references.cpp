@@ -136,7 +136,7 @@ static const Phrase removeSheetView{"EmitRemoveNamedView",
                                         .vba = "%1iwViewManager.RemoveSheetNamedView \"%3\"%2",
                                     }};
 
-/// The manager is asked by the view's name, so that a view goes too that the macro has no variable for.
+/// The manager removes a view by its name; the variable is of no use.
 QString PhrasedObjectConverter::EmitRemoveNamedView(const CFxString&, const CFxString& viewName, bool paperspace)
 {
     return fill(paperspace ? removeSheetView : removeModelView).text(viewName);

@@ -77,8 +77,9 @@ static const Phrase insertAttributeDefinition{
                   "L\"%9\", %10, %11, %12, %13, %14, %15, %16, %17, %18 );%2",
         .csharp = "%1%19 = iwSketchManager.InsertAttributeDefinition(  \"%3\", \"%4\", \"%5\", %6, %7, %8, \"%9\", "
                   "%10, %11, %12, %13, %14, %15, %16, %17, %18 );%2",
-        .javascript = "%1var %19 = mSkMgr.InsertAttributeDefinition(\"%3\", \"%4\", \"%5\", %6, %7, %8, \"%9\", %10, "
-                      "%11, %12, %13, %14, %15, %16, %17, %18);%2",
+        .javascript =
+            "%1var %19 = mSkMgr.InsertAttributeDefinition(\"%3\", \"%4\", \"%5\", %6, %7, %8, \"%9\", \"%10\", "
+            "%11, %12, %13, %14, %15, %16, %17, %18);%2",
         .vbNet = "%1%19 = iwSketchManager.InsertAttributeDefinition(  \"%3\", \"%4\", \"%5\", %6, %7, %8, \"%9\", "
                  "%10, %11, %12, %13, %14, %15, %16, %17, %18 )%2",
         .vba = "%1Set %19 = iwSketchManager.InsertAttributeDefinition(  \"%3\", \"%4\", \"%5\", %6, %7, %8, \"%9\", "
@@ -170,7 +171,7 @@ QString PhrasedObjectConverter::EmitSetNoteJustify(const CFxString& target, cons
 
 QString PhrasedObjectConverter::EmitSetNoteDirection(const CFxString& target, const CFxString& property, int direction)
 {
-    return EmitSetProperty(target, property, EnumeratorByValue(target_, "iwNoteDirection", direction), false);
+    return setEnumerator(target, property, EnumeratorByValue(target_, "iwNoteDirection", direction));
 }
 
 static const Phrase insertCurvedText{"EmitInsertCurvedText",

@@ -6,10 +6,10 @@
 
 using namespace inkmacro;
 
-// %1 is the project or, in the first of them, the header itself.
+// %1 is the project or, in the first of them, the header itself, %2 the line end. One marker for it is enough: without
+// any, a marker in the name would take its value.
 
-static const char* const exportHeader = R"(
-// %1.h, C++ API export/import declaration
+static const char* const exportHeader = R"(%2// %1.h, C++ API export/import declaration
 
 #ifndef IwAddin_GLOBAL_H
 #define IwAddin_GLOBAL_H
@@ -33,8 +33,7 @@ static const char* const exportHeader = R"(
 #endif // IwAddin_GLOBAL_H
 )";
 
-static const char* const connectionHeader = R"(#ifndef IW_ADDIN_CONNECTION_H
-#define IW_ADDIN_CONNECTION_H
+static const char* const connectionHeader = R"(#ifndef IW_ADDIN_CONNECTION_H%2#define IW_ADDIN_CONNECTION_H
 
 #include "IwAddin_global.h"
 #include "iwApplication_c.h"
@@ -61,8 +60,7 @@ private:
 )";
 
 /// The command that runs the macro bears the project's name.
-static const char* const connectionSource = R"(#include "iwAddinConnection.h"
-
+static const char* const connectionSource = R"(#include "iwAddinConnection.h"%2
 MacroApplication *g_macroApp = NULL;
 
 const iwString MacroApplication::appID = L"1C85DA6C-0445-4844-A66F-A048A5787A68";

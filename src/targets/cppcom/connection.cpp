@@ -6,8 +6,7 @@
 
 // %1 is the project, %2 the line end.
 
-static const char* const headerText = R"(#ifndef _IWADDIN_CONNECTION_H_
-#define _IWADDIN_CONNECTION_H_
+static const char* const headerText = R"(#ifndef _IWADDIN_CONNECTION_H_%2#define _IWADDIN_CONNECTION_H_
 
 #include "resource.h"
 #include "stdafx.h"
@@ -103,8 +102,7 @@ OBJECT_ENTRY_AUTO(__uuidof(IwAddinConnection), CIwAddinConnection)
 #endif // _IWADDIN_CONNECTION_H_
 )";
 
-static const char* const sourceText = R"(#include "stdafx.h"
-#include "%1.h"
+static const char* const sourceText = R"(#include "stdafx.h"%2#include "%1.h"
 #include "IwAddinConnection.h"
 
 static CIwAddinConnection* s_pMacroApp = NULL;

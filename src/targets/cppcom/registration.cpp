@@ -6,8 +6,8 @@
 
 #include <QUuid>
 
-// %1 is the project, %2 the line end; ids follow. Where ids follow, the last line's end is written as a marker, so that
-// they stay behind it.
+// %1 is the project, %2 the line end; ids follow. One marker for the line end is enough: without any, its value would
+// go to the marker behind it.
 
 static const char* const interfaceText = R"(// %1.idl : Source of the type library and of the proxy code.
 
@@ -73,8 +73,7 @@ static const char* const connectionScript = R"(HKCR
     }
 }%2)";
 
-static const char* const serverScript = R"(HKCR
-{
+static const char* const serverScript = R"(HKCR%2{
     NoRemove AppID
     {
         '%APPID%' = s '%1'
@@ -86,8 +85,7 @@ static const char* const serverScript = R"(HKCR
 }
 )";
 
-static const char* const serverExportsText = R"(; %1.def : Declares the module parameters.
-
+static const char* const serverExportsText = R"(; %1.def : Declares the module parameters.%2
 LIBRARY      "%1.DLL"
 
 EXPORTS
@@ -97,8 +95,7 @@ EXPORTS
     DllUnregisterServer PRIVATE
 )";
 
-static const char* const proxyExportsText = R"(LIBRARY      "%1PS"
-
+static const char* const proxyExportsText = R"(LIBRARY      "%1PS"%2
 EXPORTS
     DllGetClassObject   PRIVATE
     DllCanUnloadNow     PRIVATE

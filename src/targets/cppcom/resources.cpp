@@ -6,8 +6,7 @@
 
 // %1 is the project, %2 the line end.
 
-static const char* const headerText = R"(//{{NO_DEPENDENCIES}}
-// Resource identifiers, used by %1.rc
+static const char* const headerText = R"(//{{NO_DEPENDENCIES}}%2// Resource identifiers, used by %1.rc
 //
 #define IDS_PROJNAME                    100
 #define IDR_%1                          101
@@ -27,8 +26,7 @@ static const char* const headerText = R"(//{{NO_DEPENDENCIES}}
 #endif
 )";
 
-static const char* const scriptText = R"(// Resource script of %1
-//
+static const char* const scriptText = R"(// Resource script of %1%2//
 #include "resource.h"
 
 #define APSTUDIO_READONLY_SYMBOLS
@@ -156,7 +154,7 @@ QString resourceHeader(const QString& name)
 QString resourceScript(const QString& name)
 {
     static const Template words(scriptText);
-    return Fill(&words).text(name);
+    return Fill(&words).text(name).text(LineEnd);
 }
 
 } // namespace inkmacro::cppcom

@@ -7,7 +7,8 @@
 
 using namespace inkmacro;
 
-// %1 is the project, %2 the line end.
+// %1 is the project, %2 the line end. One marker for the line end is enough: without any, a marker in the name would
+// take its value.
 
 /// The macro's class lives in a namespace of its own, which is why the call is qualified.
 static const char* const program =
@@ -22,8 +23,8 @@ static const char* const program =
     "           {%2               IWAPIMacros.%1 %1Obj = new IWAPIMacros.%1();%2               %1Obj.Run(iwApp);%2"
     "           }%2       }%2   }%2}%2";
 
-static const char* const projectOpening = R"(<?xml version="1.0" encoding="utf-8"?>
-<Project ToolsVersion="3.5" DefaultTargets="Build" xmlns="http://schemas.microsoft.com/developer/msbuild/2003">
+static const char* const projectOpening =
+    R"(<?xml version="1.0" encoding="utf-8"?>%2<Project ToolsVersion="3.5" DefaultTargets="Build" xmlns="http://schemas.microsoft.com/developer/msbuild/2003">
   <PropertyGroup>
     <Configuration Condition=" '$(Configuration)' == '' ">Debug</Configuration>
     <Platform Condition=" '$(Platform)' == '' ">AnyCPU</Platform>

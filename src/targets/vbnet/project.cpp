@@ -7,10 +7,10 @@
 
 using namespace inkmacro;
 
-// %1 is the project.
+// %1 is the project, %2 the line end. One marker for the line end is enough: without any, a marker in the name would
+// take its value.
 
-static const char* const program = R"(
-
+static const char* const program = R"(%2
 Module Module1
 
     Sub Main()
@@ -45,8 +45,8 @@ Module Module1
 End Module
 )";
 
-static const char* const projectOpening = R"(<?xml version="1.0" encoding="utf-8"?>
-<Project ToolsVersion="3.5" DefaultTargets="Build" xmlns="http://schemas.microsoft.com/developer/msbuild/2003">
+static const char* const projectOpening =
+    R"(<?xml version="1.0" encoding="utf-8"?>%2<Project ToolsVersion="3.5" DefaultTargets="Build" xmlns="http://schemas.microsoft.com/developer/msbuild/2003">
   <PropertyGroup>
     <Configuration Condition=" '$(Configuration)' == '' ">Debug</Configuration>
     <Platform Condition=" '$(Platform)' == '' ">AnyCPU</Platform>
