@@ -127,6 +127,15 @@ public:
     virtual QString EmitObjectModifiedComment(const CFxString& className) = 0;
     virtual QString EmitObjectModifiedEnd() = 0;
 
+    // What custom actions need of the objects' statements.
+    /// Sets a property of the block reference's attribute of that tag.
+    virtual QString EmitBlockAttributeValue(const CFxString& variable, const CFxString& property, const CFxString& tag,
+                                            const CFxString& value) = 0;
+    virtual QString EmitInsertRegion(const CFxString& variable, const QStringList& names, std::uint32_t number) = 0;
+    /// Of the model, or else of the sheet of that name, which is activated.
+    virtual QString EmitSetModelProperty(const CFxString& property, const CFxString& value, bool ofModel,
+                                         const CFxString& sheetName) = 0;
+
     virtual QString EmitInsertLine(const OdGePoint3d& start, const OdGePoint3d& end, const CFxString& name) = 0;
     virtual QString EmitInsertCircle(const OdGePoint3d& center, double radius, const CFxString& name) = 0;
     virtual QString EmitInsertPoint(const OdGePoint3d& position, const CFxString& name) = 0;

@@ -94,6 +94,7 @@ public:
     Fill& shortReal(double value) { return add(Short{value}); }
     /// The three coordinates in the form of FormatShort.
     Fill& shortPoint(const OdGePoint3d& value) { return shortReal(value.x).shortReal(value.y).shortReal(value.z); }
+    Fill& shortVector(const OdGeVector3d& value) { return shortReal(value.x).shortReal(value.y).shortReal(value.z); }
 
     QString str() const;
     operator QString() const { return str(); }

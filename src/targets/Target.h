@@ -17,4 +17,9 @@ enum class Target : unsigned char
 
 inline constexpr std::size_t targetCount = 6;
 
+constexpr bool isBasic(Target target)
+{
+    return target == Target::VbNet || target == Target::Vba;
+}
+
 } // namespace inkmacro

@@ -7,15 +7,6 @@
 
 namespace inkmacro {
 
-namespace {
-
-bool isBasic(Target target)
-{
-    return target == Target::VbNet || target == Target::Vba;
-}
-
-} // namespace
-
 QString projectName(const QString& macroPath)
 {
     // The class is never closed, so the pattern is invalid and matches nothing. The name is meant to stay as it is,

@@ -13,6 +13,12 @@ public:
     QString EmitObjectModifiedComment(const CFxString& className) override;
     QString EmitObjectModifiedEnd() override { return {}; }
 
+    QString EmitBlockAttributeValue(const CFxString& variable, const CFxString& property, const CFxString& tag,
+                                    const CFxString& value) override;
+    QString EmitInsertRegion(const CFxString& variable, const QStringList& names, std::uint32_t number) override;
+    QString EmitSetModelProperty(const CFxString& property, const CFxString& value, bool ofModel,
+                                 const CFxString& sheetName) override;
+
     QString EmitInsertLine(const OdGePoint3d& start, const OdGePoint3d& end, const CFxString& name) override;
     QString EmitInsertCircle(const OdGePoint3d& center, double radius, const CFxString& name) override;
     QString EmitInsertPoint(const OdGePoint3d& position, const CFxString& name) override;
@@ -119,6 +125,7 @@ private:
                          double value);
     QString setEnumerator(const CFxString& target, const CFxString& property, const QString& enumerator);
     QString getOptions(const char* kind, const char* stem, const CFxString& owner, CFxString& options);
+    QString regionEntities(const QStringList& names, std::uint32_t number) const;
 
     inkmacro::Target target_;
 };

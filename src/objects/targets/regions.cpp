@@ -1,0 +1,100 @@
+// Regions made of curves.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "objects/targets/PhrasedObjectConverter.h"
+#include "targets/comArrays.h"
+
+#include <QStringList>
+
+using namespace inkmacro;
+
+/// In C# and JavaScript the head and the lines of elements end otherwise than all else, and the elements' not at all.
+/// JavaScript has a percent sign too many. All of it has to stay.
+static const Phrase regionHead{
+    "EmitInsertRegion",
+    {
+        .cpp = "%2%1iwObjectPtrArray entitiesArray%3;%2",
+        .cppCom = "%2%1VARIANT entitiesArray%3;%2%1entitiesArray%3.vt = ( VT_ARRAY | VT_DISPATCH );%2"
+                  "%1entitiesArray%3.parray = SafeArrayCreateVector( VT_DISPATCH, 0, %4 );%2",
+        .csharp = "\n%3DispatchWrapper[] iwEntities_%1 = new DispatchWrapper[%2];\n",
+        .javascript = "\n\n%%3var iwEntities_%1 = new Array();\n",
+        .vbNet = "%2%1Dim iwEntities_%3 As DispatchWrapper() = New DispatchWrapper(%4) {}%2",
+        .vba = "%2%1Dim iwRegionEntities_%3(%4) As Object%2",
+    }};
+
+static const Phrase regionElement{"EmitInsertRegion",
+                                  {
+                                      .cpp = "%1entitiesArray%4.add(%3);%2",
+                                      .csharp = "%4iwEntities_%1[%2] = new DispatchWrapper(%3);",
+                                      .javascript = "%4iwEntities_%1[%2] = %3;",
+                                      .vbNet = "%1iwEntities_%5(%3) = New DispatchWrapper(%4)%2",
+                                      .vba = "%1Set iwRegionEntities_%5(%3) = %4%2",
+                                  }};
+
+static const Phrase regionArray{"EmitInsertRegion",
+                                {
+                                    .cpp = "%1iwObjectPtrArray regionArray%3;%2",
+                                    .cppCom = "%1VARIANT regionArray%3;%2",
+                                    .csharp = "%1object regionArray%3;%2",
+                                    .javascript = "%1var regionArray_%3 = new Array();%2",
+                                    .vbNet = "%1Dim regionArray%3 As Object%2",
+                                    .vba = "%1Dim regionArray%3 As Variant%2",
+                                }};
+
+static const Phrase insertRegion{"EmitInsertRegion",
+                                 {
+                                     .cpp = "%1iwSketchManager->InsertRegion(entitiesArray%3, &regionArray%4);%2",
+                                     .cppCom = "%1iwSketchManager->InsertRegion(entitiesArray%3, &regionArray%4);%2",
+                                     .csharp = "%1iwSketchManager.InsertRegion(iwEntities_%3, out regionArray%3);%2",
+                                     .javascript = "%1var regionArray_%3 = mSkMgr.InsertRegion(iwEntities_%3);%2",
+                                     .vbNet = "%1iwSketchManager.InsertRegion( iwEntities_%3, regionArray%3 )%2%2",
+                                     .vba = "%1iwSketchManager.InsertRegion iwRegionEntities_%3, regionArray%3 %2",
+                                 }};
+
+static const Phrase takeRegion{
+    "EmitInsertRegion",
+    {
+        .cpp = "%1%4 = (iwRegion_c*)regionArray%3[0];%2%2",
+        .cppCom = "%1IRegionPtr *iwRegions%3 = NULL;%2%1int count%3 = 0;%2"
+                  "%1TypeConverter::convertVariantArrayToPtrArray<IRegionPtr, IRegion>( regionArray%3, iwRegions%3, "
+                  "count%3 );%2%1%4 = iwRegions%3[0];%2%2",
+        .csharp = "%1object[] iwRegions%3 = (object[])regionArray%3;%2%1%4 = iwRegions%3[0] as Region;%2",
+        .javascript = "%1var %4 = regionArray_%3.RegionArray[0];%2",
+        .vbNet = "%1Dim iwRegionObjs As Object() = DirectCast(regionArray%3, Object())%2"
+                 "%1%4 = TryCast(iwRegionObjs(0), Inkwright.Region)%2",
+        .vba = "%1Set %4 = regionArray%3(0)%2%2",
+    }};
+
+QString PhrasedObjectConverter::regionEntities(const QStringList& names, std::uint32_t number) const
+{
+    const unsigned level = Driver().IndentLevel;
+    const int count = names.size();
+    const bool unended = target_ == Target::CSharp || target_ == Target::JavaScript;
+    Fill head(regionHead.in(target_));
+    if (target_ == Target::CSharp)
+        head.number(number).number(count).indent(level);
+    else if (target_ == Target::JavaScript)
+        head.number(number).indent(level);
+    QString text =
+        unended ? head.str() : fill(regionHead).number(number).number(isBasic(target_) ? count - 1 : count).str();
+    if (target_ == Target::CppCom)
+        return text += comObjects(level, "entitiesArray", number, std::vector<QString>(names.begin(), names.end()));
+    for (int i = 0; i < count; ++i) {
+        if (unended)
+            text += Fill(regionElement.in(target_)).number(number).number(i).text(names[i]).indent(level);
+        else if (target_ == Target::Cpp)
+            text += fill(regionElement).text(names[i]).number(number);
+        else
+            text += fill(regionElement).number(i).text(names[i]).number(number);
+    }
+    return text;
+}
+
+QString PhrasedObjectConverter::EmitInsertRegion(const CFxString& variable, const QStringList& names,
+                                                 std::uint32_t number)
+{
+    // The number goes into two places of the same literal in C++.
+    return regionEntities(names, number) + fill(regionArray).number(number).str() +
+           fill(insertRegion).number(number).number(number).str() +
+           fill(takeRegion).number(number).text(variable).str();
+}

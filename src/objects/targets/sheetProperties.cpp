@@ -1,0 +1,37 @@
+// Properties of the model and of sheets.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "objects/targets/PhrasedObjectConverter.h"
+
+using namespace inkmacro;
+
+/// JavaScript lacks the first marker, so that the values move up by one and the last is lost. It has to stay so.
+static const Phrase setModelProperty{"EmitSetModelProperty",
+                                     {
+                                         .cpp = "%1iwModel->put_%3( L\"%4\" );%2",
+                                         .cppCom = "%1iwModel->put_%3( L\"%4\" );%2",
+                                         .csharp = "%1iwModel.%3 = \"%4\";%2",
+                                         .javascript = "%mModel.put_%3( \"%4\" );%2",
+                                         .vbNet = "%1iwModel.%3 = \"%4\"%2",
+                                         .vba = "%1iwModel.%3 = \"%4\"%2",
+                                     }};
+
+static const Phrase setSheetProperty{"EmitSetModelProperty",
+                                     {
+                                         .cpp = "%3%1%4->put_%5( \"%6\" );%2",
+                                         .cppCom = "%3%1%4->put_%5( L\"%6\" );%2",
+                                         .csharp = "%3%1%4.%5 = \"%6\";%2",
+                                         .javascript = "%3%1%4.put_%5( \"%6\" );%2",
+                                         .vbNet = "%3%1%4.%5 = \"%6\"%2",
+                                         .vba = "%3%1%4.%5 = \"%6\"%2",
+                                     }};
+
+QString PhrasedObjectConverter::EmitSetModelProperty(const CFxString& property, const CFxString& value, bool ofModel,
+                                                     const CFxString& sheetName)
+{
+    if (ofModel)
+        return fill(setModelProperty).text(property).text(value);
+    CFxString sheet;
+    const QString activation = Driver().EmitActivateSheet(sheetName, sheet);
+    return fill(setSheetProperty).text(activation).text(sheet).text(property).text(value);
+}
