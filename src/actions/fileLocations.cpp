@@ -1,5 +1,6 @@
 // Changes of the paths and files that are set in the host's options.
 
+#include "actions/CustomActionKind.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
 #include "objects/CFxConverterIWAPIObject.h"
@@ -65,9 +66,10 @@ constexpr Location drawingSupportLocations[]{
     {"eFileLocDrawingSupprtRLineStyle", "RichLineStyleFilePath"},
 };
 
-constexpr FileObject interfaceFiles{34, &CFxConverterIWAPIImpl::EmitInterfaceFilesObject, interfaceLocations};
-constexpr FileObject systemFiles{35, &CFxConverterIWAPIImpl::EmitSystemFilesObject, systemLocations};
-constexpr FileObject drawingSupportFiles{36, &CFxConverterIWAPIImpl::EmitDrawingSupportFilesObject,
+constexpr FileObject interfaceFiles{kInterfaceFile, &CFxConverterIWAPIImpl::EmitInterfaceFilesObject,
+                                    interfaceLocations};
+constexpr FileObject systemFiles{kSystemFile, &CFxConverterIWAPIImpl::EmitSystemFilesObject, systemLocations};
+constexpr FileObject drawingSupportFiles{kDrawingSupportFile, &CFxConverterIWAPIImpl::EmitDrawingSupportFilesObject,
                                          drawingSupportLocations};
 
 /// Empty for a location that the object does not have; its statement is written all the same.

@@ -17,6 +17,14 @@ struct ActionEntry
     std::uint32_t ordinal = 0;
 };
 
+/// The objects that a statement works on, element by element.
+struct EntityList
+{
+    std::vector<CFxString> names;   ///< variable; empty for an object that the generated code does not know
+    std::vector<CFxString> types;   ///< enumerator of iwObjectType_e; empty where the name is
+    std::vector<CFxString> handles; ///< hexadecimal
+};
+
 /// The walk over a recording and everything else that is the same for all targets. Knows no target: the words come
 /// from the Emit operations.
 class CFxConverterIWAPIImpl : public CFxConverterIWAPI
@@ -50,6 +58,31 @@ public:
     std::int32_t FindCommandOption(const CFxString& variable, CFxString& enumerator, std::int32_t& kind) const;
     /// The same of the application's option.
     std::int32_t FindApplicationOption(const CFxString& variable, CFxString& enumerator, std::int32_t& kind) const;
+
+    // One handler a kind of custom action, or a few kinds: src/actions. A handler that is given another kind gives
+    // kFxFailure.
+    std::int32_t ConvertActionMirror(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionStretch(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionCopy(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionMove(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionRotate(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionScale(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionSelect(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionSelectionFilter(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionEmbeddedObject(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionErase(OdSmartPtr<CFxCustomAction> action, QString& text);
+    /// The one handler that does not look at the kind: its kinds differ in their first element alone.
+    std::int32_t ConvertActionElementColor(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionOptionValue(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionGroupAdd(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionGroupRemove(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionAttributeValue(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionRegion(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionActivate(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionViewport(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionPrintStyle(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionJoin(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionExplode(OdSmartPtr<CFxCustomAction> action, QString& text);
 
     // Variables of the generated code: variables.cpp.
 
@@ -85,6 +118,7 @@ public:
     virtual QString EmitCommandTrailer() = 0;
     virtual QString EmitVariableDeclaration(const ActionEntry& entry) = 0;
     virtual QString EmitGetLayer(const CFxString& variable) = 0;
+
     // Options and file locations. Options are given by their enumerator.
     virtual QString EmitCommandOptionBool(const CFxString& option, bool value) = 0;
     virtual QString EmitCommandOptionDouble(const CFxString& option, double value) = 0;
@@ -105,6 +139,36 @@ public:
     virtual QString EmitDrawingSupportFilesObject(CFxString& variable) = 0;
     virtual QString EmitFileLocationArray(const CFxString& variable, const CFxString& property,
                                           const std::vector<CFxString>& values) = 0;
+
+    // Selections and lists of entities.
+    virtual QString EmitPromptSelection(const EntityList& entities) = 0;
+    virtual QString EmitMirrorEntities(const EntityList& entities, const OdGePoint3d& first, const OdGePoint3d& second,
+                                       bool erase) = 0;
+    virtual QString EmitStretchEntities(const EntityList& entities, const OdGePoint3d& start, const OdGePoint3d& end,
+                                        const OdGeVector3d& offset) = 0;
+    /// `first`: the arrays are written too; further calls of the same action use them again.
+    virtual QString EmitCopyEntities(const EntityList& entities, const OdGeVector3d& offset, bool first) = 0;
+    virtual QString EmitMoveEntities(const EntityList& entities, const OdGeVector3d& offset, bool first) = 0;
+    virtual QString EmitRotateEntities(const EntityList& entities, const OdGePoint3d& center, double angle) = 0;
+    virtual QString EmitScaleEntities(const EntityList& entities, const OdGePoint3d& center, double factor) = 0;
+    /// `hasManager`: the selection manager's variable stands already. Raises OdError_InvalidIndex when a selection by
+    /// point has none.
+    virtual QString EmitSelectEntities(std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager) = 0;
+    virtual QString EmitSelectionFilter(const OdArray<OdGePoint3d>& points, std::int32_t mode,
+                                        const std::vector<CFxString>& typeNames) = 0;
+
+    // Statements of single custom actions.
+    virtual QString EmitInsertEmbeddedObject(const CFxString& variable, const CFxString& path, bool first,
+                                             bool second) = 0;
+    virtual QString EmitEraseEntities(const std::vector<CFxString>& names) = 0;
+    virtual QString EmitSetElementColor(std::int32_t element, const OdCmColor& color) = 0;
+    virtual QString EmitGroupAddEntities(const std::vector<CFxString>& names, const CFxString& group) = 0;
+    virtual QString EmitGroupRemoveEntities(const std::vector<CFxString>& names, const CFxString& group) = 0;
+    virtual QString EmitActivate(const CFxString& variable) = 0;
+    virtual QString EmitInsertViewport(const CFxString& variable, const CFxString& sheetName,
+                                       const OdArray<OdGePoint3d>& points) = 0;
+    virtual QString EmitJoin(const CFxString& variable, const CFxString& other) = 0;
+    virtual QString EmitExplode(const CFxString& variable) = 0;
 
     virtual QString EmitProgramText(const QString& projectName) = 0;
     virtual QString EmitProjectText(const QString& projectName) = 0;
@@ -150,6 +214,12 @@ private:
     std::int32_t ConvertFileLocation(const FileObject& files, const CFxCustomAction& action, QString& text);
     std::int32_t ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text);
     CFxConverterIWAPIObject& Objects() const;
+    EntityList EntitiesOf(const CFxCustomAction& action) const;
+    QString NoteOfLeader(const OdDbHandle& note, OdRxClass* noteClass, const OdDbObjectId& leader, CFxString& name);
+    /// The entry of the group of that name, or null for a group that the generated code does not know.
+    const ActionEntry* FindGroup(const CFxString& groupName, OdDbHandle& handle) const;
+    using EmitGroupChange = QString (CFxConverterIWAPIImpl::*)(const std::vector<CFxString>&, const CFxString&);
+    void ConvertGroupChange(const CFxCustomAction& action, EmitGroupChange change, QString& text);
 
     std::uint32_t mode;
     std::shared_ptr<CFxConverterIWAPIObject> objectConverter;

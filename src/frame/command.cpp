@@ -1,5 +1,6 @@
 // The children of a command as one block.
 
+#include "actions/CustomActionKind.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
@@ -11,14 +12,6 @@
 #include <array>
 
 namespace {
-
-/// Kinds of custom action whose place in a command matters to the block around it.
-enum CustomActionKind : std::int32_t
-{
-    kPolyline = 16,
-    kViewBackground = 41,
-    kViewport = 46,
-};
 
 /// Classes whose objects are finished by a custom action of the same command; it is told their variable.
 bool isFinishedByCustomAction(const OdString& className)

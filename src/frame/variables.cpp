@@ -34,7 +34,8 @@ void StripPointerSuffixes(CFxString& typeName)
 std::int32_t CFxConverterIWAPIImpl::GetApiTypeName(const OdRxClass* cls, CFxString& typeName,
                                                    CFxString& secondName) const
 {
-    const inkmacro::ApiType* const type = inkmacro::FindApiType(cls->name());
+    // A custom action whose datum is of another type than expected gives no class.
+    const inkmacro::ApiType* const type = cls ? inkmacro::FindApiType(cls->name()) : nullptr;
     if (!type)
         return kFxFailure;
     typeName = RecordingLanguage() == 0 ? cppTypeName(type->interfaceName) : CFxString(type->interfaceName);

@@ -4,6 +4,7 @@
 #include "targets/Phrase.h"
 #include "targets/projectFiles.h"
 
+#include <functional>
 #include <vector>
 
 /// The other statements of all targets: which value goes into which place of which literal.
@@ -31,6 +32,33 @@ public:
     QString EmitPromptColor(const CFxString& prompt, std::int32_t value) override;
     QString EmitPromptInteger(const CFxString& prompt, std::int32_t value) override;
     QString EmitPromptDouble(const CFxString& prompt, double value) override;
+
+    // Selections and lists of entities.
+    QString EmitPromptSelection(const EntityList& entities) override;
+    QString EmitMirrorEntities(const EntityList& entities, const OdGePoint3d& first, const OdGePoint3d& second,
+                               bool erase) override;
+    QString EmitStretchEntities(const EntityList& entities, const OdGePoint3d& start, const OdGePoint3d& end,
+                                const OdGeVector3d& offset) override;
+    QString EmitCopyEntities(const EntityList& entities, const OdGeVector3d& offset, bool first) override;
+    QString EmitMoveEntities(const EntityList& entities, const OdGeVector3d& offset, bool first) override;
+    QString EmitRotateEntities(const EntityList& entities, const OdGePoint3d& center, double angle) override;
+    QString EmitScaleEntities(const EntityList& entities, const OdGePoint3d& center, double factor) override;
+    QString EmitSelectEntities(std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager) override;
+    QString EmitSelectionFilter(const OdArray<OdGePoint3d>& points, std::int32_t mode,
+                                const std::vector<CFxString>& typeNames) override;
+
+    // Statements of single custom actions.
+    QString EmitInsertEmbeddedObject(const CFxString& variable, const CFxString& path, bool first,
+                                     bool second) override;
+    QString EmitEraseEntities(const std::vector<CFxString>& names) override;
+    QString EmitSetElementColor(std::int32_t element, const OdCmColor& color) override;
+    QString EmitGroupAddEntities(const std::vector<CFxString>& names, const CFxString& group) override;
+    QString EmitGroupRemoveEntities(const std::vector<CFxString>& names, const CFxString& group) override;
+    QString EmitActivate(const CFxString& variable) override;
+    QString EmitInsertViewport(const CFxString& variable, const CFxString& sheetName,
+                               const OdArray<OdGePoint3d>& points) override;
+    QString EmitJoin(const CFxString& variable, const CFxString& other) override;
+    QString EmitExplode(const CFxString& variable) override;
 
     // Unless the target says otherwise, the macro file is the whole result.
     QString EmitProgramText(const QString&) override { return {}; }
@@ -63,8 +91,12 @@ protected:
     }
 
     inkmacro::Target target() const { return target_; }
+    /// An object type as an array of object types holds it.
+    virtual QString ObjectTypeWord(const QString& enumerator) { return enumerator; }
     /// The target's words for the phrase with indentation and line end filled in; the values follow.
     inkmacro::Fill fill(const inkmacro::Phrase& phrase) const;
+    /// The same for literals in which `%2` is a value already: only the indentation is filled in.
+    inkmacro::Fill fillIndented(const inkmacro::Phrase& phrase) const;
     /// Writes the files in turn into the macro file's directory, which is made when it is missing. Ends with kFxFailure
     /// at the first that cannot be opened; those before it stay.
     static std::int32_t WriteProject(const QString& macroPath, const std::vector<inkmacro::ProjectFile>& files);
@@ -76,6 +108,31 @@ private:
 
     QString fileLocationElement(const CFxString& property, std::uint32_t array, int index,
                                 const CFxString& value) const;
+
+    // Arrays of objects and of object types: entityLists.cpp.
+
+    /// Literals of entity lists end their lines themselves in C++, C# and JavaScript, not in the other targets.
+    inkmacro::Fill fillList(const inkmacro::Phrase& phrase) const;
+    /// What the declaration of an array of so many elements names: the count, in Basic the highest index.
+    int arrayBound(std::size_t count) const;
+    QString arrayHead(const inkmacro::Phrase& phrase, std::size_t count) const;
+    /// The line that puts one element into an array.
+    QString arrayElement(const inkmacro::Phrase& phrase, std::size_t index, const QString& word) const;
+    QString objectElements(const inkmacro::Phrase& phrase, const char* array, const std::vector<CFxString>& names);
+    QString objectArray(const EntityList& entities);
+    QString typedArrays(const EntityList& entities, bool lookUpUnknown);
+    QString typedElements(const EntityList& entities, bool lookUpUnknown);
+    /// In COM the filling of each array declares variables of the same names, so all but one need a block.
+    QString ownBlock(const std::function<QString()>& filling);
+    QString crossingBox(const OdGePoint3d& start, const OdGePoint3d& end);
+
+    /// The corners of a viewport as its statement takes them: lines of their own or a list within the call.
+    QString polygonFilling(const OdArray<OdGePoint3d>& points) const;
+
+    // Selections by points: selections.cpp.
+    QString selectionCorners(const OdArray<OdGePoint3d>& points) const;
+    QString selectionCoordinates(const OdArray<OdGePoint3d>& points) const;
+    QString selectionOf(std::int32_t mode, const OdArray<OdGePoint3d>& points) const;
 
     inkmacro::Target target_;
 };

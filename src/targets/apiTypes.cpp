@@ -2,6 +2,8 @@
 
 #include <QHash>
 
+#include <algorithm>
+
 namespace inkmacro {
 
 namespace {
@@ -73,6 +75,14 @@ const ApiType* FindApiType(const QString& className)
         return types;
     }();
     return byName.value(className, nullptr);
+}
+
+const ApiType* FindApiTypeOfInterface(const QString& interfaceName)
+{
+    const auto found = std::find_if(std::begin(kTypes), std::end(kTypes), [&](const ApiType& type) {
+        return interfaceName.compare(QLatin1String(type.interfaceName), Qt::CaseInsensitive) == 0;
+    });
+    return found == std::end(kTypes) ? nullptr : found;
 }
 
 std::span<const ApiType> ApiTypes()

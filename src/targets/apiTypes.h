@@ -16,6 +16,8 @@ struct ApiType
 
 /// By class name, with case; null for a class that the interface does not know.
 const ApiType* FindApiType(const QString& className);
+/// By interface name, without case; null for a name that no class has.
+const ApiType* FindApiTypeOfInterface(const QString& interfaceName);
 std::span<const ApiType> ApiTypes();
 
 } // namespace inkmacro

@@ -10,6 +10,11 @@ Fill PhrasedConverter::fill(const Phrase& phrase) const
     return Fill(phrase.in(target_), IndentLevel, LineEnd);
 }
 
+Fill PhrasedConverter::fillIndented(const Phrase& phrase) const
+{
+    return Fill(phrase.in(target_), IndentLevel);
+}
+
 static const Phrase blockBegin{"EmitBlockBegin",
                                {
                                    .cpp = "%1{%2",

@@ -74,15 +74,39 @@ public:
     CFxActionArray actions;
 };
 
+using TestData = std::vector<CFxCustomActionData::Value>;
+
 class TestCustom final : public CFxCustomAction
 {
 public:
-    explicit TestCustom(std::int32_t kind) : kind(kind) {}
+    explicit TestCustom(std::int32_t kind, const TestData& values = {}) : kind(kind), data(values.begin(), values.end())
+    {
+    }
     std::int32_t GetKind() const override { return kind; }
-    std::int32_t GetDataCount() const override { return 0; }
-    const CFxCustomActionData& GetData(std::int32_t) const override { throw OdError_InvalidIndex(); }
+    std::int32_t GetDataCount() const override { return static_cast<std::int32_t>(data.size()); }
+    const CFxCustomActionData& GetData(std::int32_t index) const override
+    {
+        if (index < 0 || index >= GetDataCount())
+            throw OdError_InvalidIndex();
+        return data[static_cast<std::size_t>(index)];
+    }
 
     std::int32_t kind;
+    std::vector<CFxCustomActionData> data;
+};
+
+class TestSelection final : public CFxUserSelection
+{
+public:
+    TestSelection(std::vector<OdDbHandle> handles, std::vector<const OdRxClass*> classes)
+        : handles(std::move(handles)), classes(std::move(classes))
+    {
+    }
+    const std::vector<OdDbHandle>& GetHandles() const override { return handles; }
+    const std::vector<const OdRxClass*>& GetClasses() const override { return classes; }
+
+    std::vector<OdDbHandle> handles;
+    std::vector<const OdRxClass*> classes;
 };
 
 class TestSysVar final : public CFxSysVarChanged

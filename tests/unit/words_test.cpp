@@ -154,6 +154,40 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         // Nothing calls for a comment of its own.
         {"EmitComment", Target::Cpp},
         {"EmitComment", Target::CppCom},
+        // A selection made at a prompt: the later command runs on what is selected then.
+        {"EmitSelectEntities", Target::CppCom},
+        {"EmitSelectEntities", Target::JavaScript},
+        {"EmitSelectEntities", Target::VbNet},
+        {"EmitSelectionFilter", Target::CppCom},
+        {"EmitSelectionFilter", Target::JavaScript},
+        {"EmitSelectionFilter", Target::VbNet},
+        // The array's size stands in its declaration.
+        {"EmitMoveEntities", Target::Cpp},
+        {"EmitMoveEntities", Target::VbNet},
+        {"EmitMoveEntities", Target::Vba},
+        {"EmitStretchEntities", Target::Cpp},
+        {"EmitStretchEntities", Target::Vba},
+        {"EmitGroupRemoveEntities", Target::Cpp},
+        {"EmitGroupRemoveEntities", Target::Vba},
+        // COM fills its safe arrays in a way of its own.
+        {"EmitMoveEntities", Target::CppCom},
+        {"EmitMirrorEntities", Target::CppCom},
+        {"EmitCopyEntities", Target::CppCom},
+        {"EmitStretchEntities", Target::CppCom},
+        {"EmitPromptSelection", Target::CppCom},
+        {"EmitGroupRemoveEntities", Target::CppCom},
+        {"EmitInsertRegion", Target::CppCom},
+        // Declarations ahead of the tests in C++ and VBA, a call behind them in C++.
+        {"EmitGroupAddEntities", Target::CppCom},
+        {"EmitGroupAddEntities", Target::CSharp},
+        {"EmitGroupAddEntities", Target::JavaScript},
+        {"EmitGroupAddEntities", Target::VbNet},
+        {"EmitGroupAddEntities", Target::Vba},
+        // The corners stand in the call.
+        {"EmitInsertViewport", Target::CppCom},
+        {"EmitInsertViewport", Target::CSharp},
+        {"EmitInsertViewport", Target::JavaScript},
+        {"EmitInsertViewport", Target::VbNet},
     };
     std::set<std::pair<std::string, Target>> holes;
     for (const Phrase* phrase : Phrase::all())

@@ -16,6 +16,9 @@ public:
     /// The number of an enumerator of iwObjectType_e, which a script has no name for; 0 for an unknown one.
     std::int32_t ObjectTypeValue(const QString& enumerator);
 
+protected:
+    QString ObjectTypeWord(const QString& enumerator) override { return QString::number(ObjectTypeValue(enumerator)); }
+
 private:
     QMap<QString, int> ObjectTypeMap;
 };

@@ -1,0 +1,239 @@
+// Statements of single custom actions.
+
+#include "targets/PhrasedConverter.h"
+#include "targets/comArrays.h"
+
+#include <QStringList>
+
+using namespace inkmacro;
+
+/// Basic has no way to go on with a statement in the next line.
+static const Phrase insertEmbeddedObject{
+    "EmitInsertEmbeddedObject",
+    {
+        .cpp = "%1iwSketchManager->InsertEmbeddedObjectFromFile(%2%1 L\"%3\", %2%1 %4, %2%1 %5, %2%1 &%6);%2",
+        .cppCom = "%1%6 = iwSketchManager->InsertEmbeddedObjectFromFile(%2%1 L\"%3\", %2%1 %4, %2%1 %5);%2",
+        .csharp = "%1%6 = iwSketchManager.InsertEmbeddedObjectFromFile(%2%1 \"%3\", %2%1 %4, %2%1 %5);%2",
+        .javascript = "%1var %6 = mSkMgr.InsertEmbeddedObjectFromFile(%2%1 \"%3\", %2%1 %4, %2%1 %5);%2",
+        .vbNet = "%1%6 = iwSketchManager.InsertEmbeddedObjectFromFile( \"%3\", %4, %5 )%2",
+        .vba = "%1Set %6 = iwSketchManager.InsertEmbeddedObjectFromFile( \"%3\", %4, %5 )%2",
+    }};
+
+/// VBA alone writes the truth values with a capital here.
+QString PhrasedConverter::EmitInsertEmbeddedObject(const CFxString& variable, const CFxString& path, bool first,
+                                                   bool second)
+{
+    const auto word = [&](bool value) {
+        return target_ == Target::Vba ? QLatin1String(value ? "True" : "False")
+                                      : QLatin1String(value ? "true" : "false");
+    };
+    return fill(insertEmbeddedObject).text(path).text(word(first)).text(word(second)).text(variable);
+}
+
+static const Phrase eraseEntity{"EmitEraseEntities",
+                                {
+                                    .cpp = "%1%2->put_Erased( true );\n",
+                                    .cppCom = "%1%2->put_Erased( true );\n",
+                                    .csharp = "%1%2.Erased = true;\n",
+                                    .javascript = "%1%2.put_Erased(true);\n",
+                                    .vbNet = "%1%2.Erased = true\n",
+                                    .vba = "%1%2.Erased = True\n",
+                                }};
+
+QString PhrasedConverter::EmitEraseEntities(const std::vector<CFxString>& names)
+{
+    QString text;
+    for (const CFxString& name : names)
+        if (!name.isEmpty())
+            text += fillIndented(eraseEntity).text(name);
+    return text;
+}
+
+/// `Set` stands on a declaration in VBA and on plain calls below, which no VBA takes; it has to stay.
+static const Phrase declareElementColor{
+    "EmitSetElementColor",
+    {
+        .cpp = "%1iwApplicationOptions_c* appOption;%2%1m_pIwApp->GetApplicationOptions(&appOption);%2"
+               "%1iwColor_ptr iwColor1;%2%1iwElementColor_e ElementOption;%2%1%2",
+        .cppCom = "%1IApplicationOptionsPtr appOption;%2"
+                  "%1appOption = pConnection->m_IwApp->GetApplicationOptions();%2%1IColorPtr iwColor1;%2"
+                  "%1iwElementColor_e ElementOption;%2%1%2",
+        .csharp = "%1ApplicationOptions appOption;%2%1appOption = iwApp.GetApplicationOptions();%2"
+                  "%1Color iwColor1;%2%1iwElementColor_e ElementOption;%2%1%2",
+        .javascript = "%1var appOption = mApp.GetApplicationOptions();%2%1var iwColor1;%2%1var ElementOption;%2%1%2",
+        .vbNet = "%1Dim appOption As Inkwright.ApplicationOptions%2%1appOption = iwApp.GetApplicationOptions()%2"
+                 "%1Dim iwColor1 As Inkwright.Color%2%1Dim ElementOption As Inkwright.iwElementColor_e%2%1%2",
+        .vba = "%1Dim appOption As Inkwright.ApplicationOptions%2%1Set appOption = iwApp.GetApplicationOptions()%2"
+               "%1Dim iwColor1 As Inkwright.Color%2%1Set ElementOption As Inkwright.iwElementColor_e%2%1%2",
+    }};
+
+static const Phrase chooseElement{"EmitSetElementColor",
+                                  {
+                                      .cpp = "%3ElementOption = (iwElementColor_e)%5;%4",
+                                      .cppCom = "%3ElementOption = (iwElementColor_e)%5;%4",
+                                      .csharp = "%3ElementOption = (iwElementColor_e)%5;%4",
+                                      .javascript = "%3ElementOption = (iwElementColor_e)%5;%4",
+                                      .vbNet = "%3ElementOption = %5%4",
+                                      .vba = "%3Set ElementOption = %5%4",
+                                  }};
+
+static const Phrase colorByIndex{"EmitSetElementColor",
+                                 {
+                                     .cpp = "%4m_pIwApp->GetColorByIndex( %6, &iwColor1 );%5",
+                                     .cppCom = "%4iwColor1 = pConnection->m_IwApp->GetColorByIndex( %6 );%5",
+                                     .csharp = "%4iwColor1 = iwApp.GetColorByIndex( %6 );%5",
+                                     .javascript = "%4iwColor1 = iwApp.GetColorByIndex( %6 );%5",
+                                     .vbNet = "%4iwColor1 = iwApp.GetColorByIndex( %6 )%5",
+                                     .vba = "%4Set iwColor1 = iwApp.GetColorByIndex( %6 )%5",
+                                 }};
+
+static const Phrase colorByRgb{"EmitSetElementColor",
+                               {
+                                   .cpp = "%4m_pIwApp->GetRGBColor( %6, %7, %8, &iwColor1 );%5",
+                                   .cppCom = "%4iwColor1 = pConnection->m_IwApp->GetRGBColor( %6, %7, %8 );%5",
+                                   .csharp = "%4iwColor1 = iwApp.GetRGBColor( %6, %7, %8 );%5",
+                                   .javascript = "%4iwColor1 = iwApp.GetRGBColor( %6, %7, %8 );%5",
+                                   .vbNet = "%4iwColor1 = iwApp.GetRGBColor( %6, %7, %8 )%5",
+                                   .vba = "%4Set iwColor1 = iwApp.GetRGBColor( %6, %7, %8 )%5",
+                               }};
+
+static const Phrase setElementColor{"EmitSetElementColor",
+                                    {
+                                        .cpp = "%9appOption->SetElementColor(ElementOption, iwColor1);%10",
+                                        .cppCom = "%9appOption.SetElementColor(ElementOption, iwColor1);%10",
+                                        .csharp = "%9appOption.SetElementColor(ElementOption, iwColor1);%10",
+                                        .javascript = "%9appOption.SetElementColor(ElementOption, iwColor1);%10",
+                                        .vbNet = "%9appOption.SetElementColor(ElementOption, iwColor1)%10",
+                                        .vba = "%9Set appOption.SetElementColor(ElementOption, iwColor1)%10",
+                                    }};
+
+QString PhrasedConverter::EmitSetElementColor(std::int32_t element, const OdCmColor& color)
+{
+    // Process-wide, so a later conversion uses variables that its macro does not declare. It has to stay so.
+    static std::uint32_t calls = 0;
+    QString text;
+    if (calls++ == 0)
+        text += fill(declareElementColor);
+    text += fill(chooseElement).number(element);
+    if (color.isByACI())
+        text += fill(colorByIndex).number(unsigned{color.colorIndex()});
+    else
+        text += fill(colorByRgb)
+                    .number(unsigned{color.red()})
+                    .number(unsigned{color.green()})
+                    .number(unsigned{color.blue()});
+    return text += fill(setElementColor);
+}
+
+static const Phrase activate{"EmitActivate",
+                             {
+                                 .cpp = "%1%3->Activate();%2",
+                                 .cppCom = "%1%3->Activate();%2",
+                                 .csharp = "%1%3.Activate();%2",
+                                 .javascript = "%1%3.Activate();%2",
+                                 .vbNet = "%1%3.Activate()%2",
+                                 .vba = "%1%3.Activate%2",
+                             }};
+
+QString PhrasedConverter::EmitActivate(const CFxString& variable)
+{
+    return fill(activate).text(variable);
+}
+
+static const Phrase join{"EmitJoin",
+                         {
+                             .cpp = "%1%3->Join( %4 );%2",
+                             .cppCom = "%1%3->Join( %4 );%2",
+                             .csharp = "%1%3.Join( %4 );%2",
+                             .javascript = "%1%3.Join( %4 );%2",
+                             .vbNet = "%1%3.Join( %4 )%2",
+                             .vba = "%1%3.Join %4%2",
+                         }};
+
+QString PhrasedConverter::EmitJoin(const CFxString& variable, const CFxString& other)
+{
+    return fill(join).text(variable).text(other);
+}
+
+static const Phrase explode{"EmitExplode",
+                            {
+                                .cpp = "%1%3->Explode();%2",
+                                .cppCom = "%1%3->Explode();%2",
+                                .csharp = "%1%3.Explode();%2",
+                                .javascript = "%1%3.Explode();%2",
+                                .vbNet = "%1%3.Explode()%2",
+                                .vba = "%1%3.Explode%2",
+                            }};
+
+QString PhrasedConverter::EmitExplode(const CFxString& variable)
+{
+    return fill(explode).text(variable);
+}
+
+/// Declares its variable itself: the command around it has no block and no declarations.
+static const Phrase insertViewport{
+    "EmitInsertViewport",
+    {
+        .cpp = "%1iwViewport_ptr %4;%2%1iwSheet_ptr sheetItem%3;%2%1iwDoc->GetSheet(L\"%5\" , &sheetItem%3);%2"
+               "%1if (NULL != sheetItem%3)%2%1{%2%1    iwDoubleArray Coordinates%3;%2%6"
+               "%1    sheetItem%3->InsertViewport( Coordinates%3, &%4 );%2%1}%2",
+        .cppCom = "%1IViewportPtr %4;%2%1ISheetPtr sheetsArray%3 = iwDoc->GetSheet(L\"%5\");%2"
+                  "%1if (NULL != sheetsArray%3)%2%1{%2%1    VARIANT variant%3;%2"
+                  "%1    variant%3.vt = ( VT_ARRAY | VT_R8 );%2"
+                  "%1    variant%3.parray = SafeArrayCreateVector( VT_R8, 0, %7 );%2%6"
+                  "%1    %4 = sheetsArray%3->InsertViewport( variant%3 );%2%1}%2",
+        .csharp = "%1Viewport %4 = null;%2%1Sheet sheetsArray%3 = iwDoc.GetSheet(\"%5\");%2"
+                  "%1if ( null != sheetsArray%3 )%2%1{%2"
+                  "%1     %4 = sheetsArray%3.InsertViewport( new double[]{%6} );%2%1}%2",
+        .javascript = "%1var %4 = null;%2%1var sheetsArray%3 = mDoc.GetSheet(\"%5\");%2"
+                      "%1if ( null != sheetsArray%3 )%2%1{%2"
+                      "%1     %4 = sheetsArray%3.InsertViewport( new Array(%6) );%2%1}%2",
+        .vbNet = "%1Dim %4 As Inkwright.Viewport = Nothing%2"
+                 "%1Dim sheetsArray%3 As Inkwright.Sheet = iwDoc.GetSheet(\"%5\")%2"
+                 "%1If sheetsArray%3 IsNot Nothing Then%2"
+                 "%1     %4 = sheetsArray%3.InsertViewport( New Double(){%6} )%2%1End If%2",
+        .vba = "%1Dim %4 As Inkwright.Viewport%2%1Dim sheetsArray%3 As Inkwright.Sheet%2"
+               "%1Set sheetsArray%3 = iwDoc.GetSheet(\"%5\")%2%1If Not sheetsArray%3 Is Nothing Then%2"
+               "%1    Dim Coordinates%3(%7) As Double%2%6"
+               "%1    Set %4 = sheetsArray%3.InsertViewport( Coordinates%3 )%2%1End If%2",
+    }};
+
+/// One corner, where the coordinates do not stand in the call.
+static const Phrase viewportCorner{
+    "EmitInsertViewport",
+    {
+        .cpp = "%1    Coordinates%3.add(%7);Coordinates%3.add(%8);Coordinates%3.add(%9);%2",
+        .vba = "%1    Coordinates%3( %4 )=%7%2%1    Coordinates%3( %5 )=%8%2%1    Coordinates%3( %6 )=%9%2",
+    }};
+
+QString PhrasedConverter::polygonFilling(const OdArray<OdGePoint3d>& points) const
+{
+    if (target_ == Target::CppCom)
+        return comPoints(IndentLevel + 1, UniqueCounter, points);
+    QString lines;
+    QStringList coordinates;
+    unsigned index = 0;
+    for (const OdGePoint3d& point : points) {
+        Fill line = fill(viewportCorner);
+        line.number(UniqueCounter);
+        if (target_ == Target::Vba)
+            line.number(index).number(index + 1).number(index + 2);
+        lines += line.shortPoint(point);
+        coordinates << FormatShort(point.x) << FormatShort(point.y) << FormatShort(point.z);
+        index += 3;
+    }
+    return viewportCorner.has(target_) ? lines : coordinates.join(',');
+}
+
+QString PhrasedConverter::EmitInsertViewport(const CFxString& variable, const CFxString& sheetName,
+                                             const OdArray<OdGePoint3d>& points)
+{
+    ++UniqueCounter;
+    const QString filling = polygonFilling(points);
+    return fill(insertViewport)
+        .number(UniqueCounter)
+        .text(variable)
+        .text(sheetName)
+        .text(filling)
+        .number(arrayBound(3U * points.length()));
+}

@@ -1,0 +1,378 @@
+// Mirror, stretch, copy, move, rotate and scale: arrays of the objects, then one call. The suffix of the arrays is
+// UniqueCounter as it stands: these statements do not raise it.
+
+#include "targets/LineEnd.h"
+#include "targets/PhrasedConverter.h"
+#include "targets/comArrays.h"
+
+using namespace inkmacro;
+
+Fill PhrasedConverter::fillList(const Phrase& phrase) const
+{
+    return isBasic(target_) || target_ == Target::CppCom ? fill(phrase) : fillIndented(phrase);
+}
+
+int PhrasedConverter::arrayBound(std::size_t count) const
+{
+    return static_cast<int>(count) - (isBasic(target_) ? 1 : 0);
+}
+
+QString PhrasedConverter::arrayHead(const Phrase& phrase, std::size_t count) const
+{
+    return fillList(phrase).number(UniqueCounter).number(arrayBound(count));
+}
+
+QString PhrasedConverter::arrayElement(const Phrase& phrase, std::size_t index, const QString& word) const
+{
+    Fill line = fillList(phrase);
+    line.number(UniqueCounter);
+    // An array of the C++ add-in grows by adding.
+    if (target_ != Target::Cpp)
+        line.number(qulonglong{index});
+    return line.text(word);
+}
+
+QString PhrasedConverter::objectElements(const Phrase& phrase, const char* array, const std::vector<CFxString>& names)
+{
+    if (target_ == Target::CppCom)
+        return comObjects(IndentLevel, array, UniqueCounter, std::vector<QString>(names.begin(), names.end()));
+    QString text;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        text += arrayElement(phrase, i, names[i]);
+    return text;
+}
+
+QString PhrasedConverter::ownBlock(const std::function<QString()>& filling)
+{
+    const QString begin = EmitBlockBegin();
+    const QString text = filling();
+    return begin + text + EmitBlockEnd();
+}
+
+static const Phrase objectsHead{
+    "EmitMoveEntities",
+    {
+        .cpp = "%1iwObjectPtrArray iwEntities%2;\n",
+        .cppCom = "%1VARIANT objects%3;%2%1objects%3.vt = ( VT_ARRAY | VT_DISPATCH  );%2"
+                  "%1objects%3.parray = SafeArrayCreateVector( VT_DISPATCH , 0, %5 );%2",
+        .csharp = "%1DispatchWrapper[] iwEntities%2;\n",
+        .javascript = "%1var iwEntities%2;\n",
+        .vbNet = "%1Dim iwEntities%3 As DispatchWrapper()%2%1iwEntities%3 = New DispatchWrapper( %4 ) {}%2%2",
+        .vba = "%1Dim iwEntities%3( %4 ) As Object%2%2",
+    }};
+
+/// Only where the size does not stand in the declaration.
+static const Phrase objectsSize{"EmitMoveEntities",
+                                {
+                                    .csharp = "%1iwEntities%2 = new DispatchWrapper[%3];\n\n",
+                                    .javascript = "%1iwEntities%2 = new Array(%3);\n\n",
+                                }};
+
+static const Phrase objectElement{"EmitMoveEntities",
+                                  {
+                                      .cpp = "%1iwEntities%2.add(%3);\n",
+                                      .csharp = "%1iwEntities%2[%3] = new DispatchWrapper(%4);\n",
+                                      .javascript = "%1iwEntities%2[%3] = %4;\n",
+                                      .vbNet = "%1iwEntities%3( %4 ) = New DispatchWrapper( %5 )%2",
+                                      .vba = "%1Set iwEntities%3( %4 ) = %5%2",
+                                  }};
+
+QString PhrasedConverter::objectArray(const EntityList& entities)
+{
+    const std::size_t count = entities.names.size();
+    return arrayHead(objectsHead, count) + arrayHead(objectsSize, count) +
+           objectElements(objectElement, "objects", entities.names) + LineEnd;
+}
+
+static const Phrase typedHead{
+    "EmitMirrorEntities",
+    {
+        .cpp = "%1iwObjectPtrArray iwEntities%2;\n%1iwLongArray types%2;\n",
+        .cppCom = "%1VARIANT objects%3;%2%1objects%3.vt = ( VT_ARRAY | VT_DISPATCH  );%2"
+                  "%1objects%3.parray = SafeArrayCreateVector( VT_DISPATCH , 0, %5 );%2"
+                  "%1VARIANT types%3;%2%1types%3.vt = ( VT_ARRAY | VT_I4  );%2"
+                  "%1types%3.parray = SafeArrayCreateVector( VT_I4 , 0, %5 );%2",
+        .csharp = "%1DispatchWrapper[] iwEntities%2;\n%1int[] types%2 = new int[%3];\n",
+        .javascript = "%1var iwEntities%2;\n%1var types%2 = new Array(%3);\n",
+        .vbNet = "%1Dim iwEntities%3 As DispatchWrapper()%2%1Dim types%3 As Integer() = New Integer( %4 ) {}%2"
+                 "%1iwEntities%3 = New DispatchWrapper( %4 ) {}%2%2",
+        .vba = "%1Dim iwEntities%3( %4 ) As Object%2%1Dim types%3( %4 ) As iwObjectType_e%2%2",
+    }};
+
+static const Phrase typeElement{"EmitMirrorEntities",
+                                {
+                                    .cpp = "%1types%2.add(%3);\n",
+                                    .csharp = "%1types%2[%3] = (int)iwObjectType_e.%4;\n",
+                                    .javascript = "%1types%2[%3] = %4;\n",
+                                    .vbNet = "%1types%3( %4 ) = CInt( Inkwright.iwObjectType_e.%5 )%2",
+                                    .vba = "%1types%3( %4 ) = Inkwright.iwObjectType_e.%5%2",
+                                }};
+
+/// The two statements carry the suffix of the arrays and not one of their own, so two unknown objects declare the same
+/// variables twice.
+static const Phrase lookUpType{"EmitCopyEntities",
+                               {
+                                   .cpp = "%1iwObjectType_e iwTypeForCopy%2;\n",
+                                   .cppCom = "%1iwObjectType_e iwTypeForCopy%3;%2",
+                                   .csharp = "%1iwObjectType_e iwTypeForCopy%2;\n",
+                                   .javascript = "%1var iwTypeForCopy%2;\n",
+                                   .vbNet = "%1Dim iwTypeForCopy%3 As Inkwright.iwObjectType_e%2",
+                                   .vba = "%1Dim iwTypeForCopy%3 As Inkwright.iwObjectType_e%2",
+                               }};
+
+static const Phrase lookUpObject{
+    "EmitCopyEntities",
+    {
+        .cpp = "%1iwObject* iwObjForCopy%2;\n%1iwDoc->GetObjectByHandle(L\"%3\", &iwTypeForCopy%2, &iwObjForCopy%2);\n",
+        .cppCom = "%1IDispatchPtr iwObjForCopy%3 = pConnection->m_IwApp->GetActiveDocument()->"
+                  "GetObjectByHandle(L\"%4\", &iwTypeForCopy%3);%2",
+        .csharp = "%1Object iwObjForCopy%2 = iwApp.GetActiveDocument().GetObjectByHandle(\"%3\", "
+                  "out iwTypeForCopy%2);\n",
+        .javascript = "%1var iwObjForCopy%2 = mDoc.GetObjectByHandle(\"%3\").DispObj;\n"
+                      "%1iwTypeForCopy%2 = mApp.GetObjectType(iwObjForCopy%2);\n",
+        .vbNet = "%1Dim iwObjForCopy%3 As Object = iwApp.GetActiveDocument().GetObjectByHandle(\"%4\", "
+                 "iwTypeForCopy%3)%2",
+        .vba = "%1Dim iwObjForCopy%3 As Object%2"
+               "%1Set iwObjForCopy%3 = iwApp.GetActiveDocument().GetObjectByHandle(\"%4\", iwTypeForCopy%3)%2",
+    }};
+
+static const Phrase foundType{"EmitCopyEntities",
+                              {
+                                  .cpp = "%1types%2.add(iwTypeForCopy%3);\n",
+                                  .csharp = "%1types%2[%3] = (int)iwTypeForCopy%4;\n",
+                                  .javascript = "%1types%2[%3] = iwTypeForCopy%4;\n",
+                                  .vbNet = "%1types%3( %4 ) = CInt( iwTypeForCopy%5 )%2",
+                                  .vba = "%1types%3( %4 ) = iwTypeForCopy%5%2",
+                              }};
+
+static const Phrase foundObject{"EmitCopyEntities",
+                                {
+                                    .cpp = "%1iwEntities%2.add(iwObjForCopy%3);\n",
+                                    .csharp = "%1iwEntities%2[%3] = new DispatchWrapper(iwObjForCopy%4);\n",
+                                    .javascript = "%1iwEntities%2[%3] = iwObjForCopy%4;\n",
+                                    .vbNet = "%1iwEntities%3( %4 ) = New DispatchWrapper( iwObjForCopy%5 )%2",
+                                    .vba = "%1Set iwEntities%3( %4 ) = iwObjForCopy%5%2",
+                                }};
+
+QString PhrasedConverter::typedElements(const EntityList& entities, bool lookUpUnknown)
+{
+    const QString suffix = QString::number(UniqueCounter);
+    QString text;
+    std::vector<CFxString> comObjectWords;
+    std::vector<QString> comTypeWords;
+    for (std::size_t i = 0; i < entities.names.size(); ++i) {
+        const QString& name = entities.names[i];
+        const QString type = ObjectTypeWord(entities.types[i]);
+        const bool lookedUp = lookUpUnknown && name.isEmpty();
+        if (lookedUp)
+            text += fillList(lookUpType).number(UniqueCounter).str() +
+                    fillList(lookUpObject).number(UniqueCounter).text(entities.handles[i]).str();
+        if (target_ == Target::CppCom) {
+            comObjectWords.emplace_back(lookedUp ? "iwObjForCopy" + suffix : name);
+            comTypeWords.push_back(lookedUp ? "iwTypeForCopy" + suffix : type);
+        } else {
+            text += arrayElement(lookedUp ? foundType : typeElement, i, lookedUp ? suffix : type);
+            text += arrayElement(lookedUp ? foundObject : objectElement, i, lookedUp ? suffix : name);
+        }
+    }
+    if (target_ == Target::CppCom)
+        text += objectElements(objectElement, "objects", comObjectWords) +
+                ownBlock([&] { return comIntegers(IndentLevel, "types", UniqueCounter, comTypeWords); });
+    return text;
+}
+
+QString PhrasedConverter::typedArrays(const EntityList& entities, bool lookUpUnknown)
+{
+    const std::size_t count = entities.names.size();
+    return arrayHead(typedHead, count) + arrayHead(objectsSize, count) + typedElements(entities, lookUpUnknown) +
+           LineEnd;
+}
+
+static const Phrase mirrorEntities{
+    "EmitMirrorEntities",
+    {
+        .cpp = "%1iwSketchManager->MirrorEntities(%2, %3, %4, %5, %6, %7, %8, types%9, iwEntities%9);\n",
+        .cppCom = "%1iwSketchManager->MirrorEntities(%3, %4, %5, %6, %7, %8, %9, types%10, objects%10);%2",
+        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().MirrorEntities(%2, %3, %4, %5, %6, %7, "
+                  "%8, types%9, iwEntities%9);\n",
+        .javascript = "%1mSkMgr.MirrorEntities(%2, %3, %4, %5, %6, %7, %8, types%9, iwEntities%9);\n",
+        .vbNet = "%1iwSketchManager.MirrorEntities( %3, %4, %5, %6, %7, %8, %9, types%10, iwEntities%10 )%2",
+        .vba = "%1iwSketchManager.MirrorEntities %3, %4, %5, %6, %7, %8, %9, types%10, iwEntities%10%2",
+    }};
+
+/// VBA alone writes the truth value with a capital here.
+QString PhrasedConverter::EmitMirrorEntities(const EntityList& entities, const OdGePoint3d& first,
+                                             const OdGePoint3d& second, bool erase)
+{
+    const QString arrays = typedArrays(entities, false);
+    return arrays + fillList(mirrorEntities)
+                        .shortPoint(first)
+                        .shortPoint(second)
+                        .text(target_ == Target::Vba ? QLatin1String(erase ? "True" : "False")
+                                                     : QLatin1String(erase ? "true" : "false"))
+                        .number(UniqueCounter)
+                        .str();
+}
+
+static const Phrase copyEntities{
+    "EmitCopyEntities",
+    {
+        .cpp = "%1iwSketchManager->CopyEntities(%2, %3, %4, types%5, iwEntities%5);\n",
+        .cppCom = "%1iwSketchManager->CopyEntities(%3, %4, %5, types%6, objects%6);%2",
+        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().CopyEntities(%2, %3, %4, types%5, "
+                  "iwEntities%5);\n",
+        .javascript = "%1mSkMgr.CopyEntities(%2, %3, %4, types%5, iwEntities%5);\n",
+        .vbNet = "%1iwSketchManager.CopyEntities( %3, %4, %5, types%6, iwEntities%6 )%2",
+        .vba = "%1iwSketchManager.CopyEntities %3, %4, %5, types%6, iwEntities%6%2",
+    }};
+
+QString PhrasedConverter::EmitCopyEntities(const EntityList& entities, const OdGeVector3d& offset, bool first)
+{
+    const QString arrays = first ? typedArrays(entities, true) : QString();
+    return arrays + fillList(copyEntities).shortVector(offset).number(UniqueCounter).str();
+}
+
+static const Phrase moveEntities{
+    "EmitMoveEntities",
+    {
+        .cpp = "%1iwSketchManager->MoveEntities(%2, %3, %4, iwEntities%5);\n",
+        .cppCom = "%1iwSketchManager->MoveEntities(%3, %4, %5, objects%6);%2",
+        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().MoveEntities(%2, %3, %4, "
+                  "iwEntities%5);\n",
+        .javascript = "%1mSkMgr.MoveEntities(%2, %3, %4, iwEntities%5);\n",
+        .vbNet = "%1iwSketchManager.MoveEntities( %3, %4, %5, iwEntities%6 )%2",
+        .vba = "%1iwSketchManager.MoveEntities %3, %4, %5, iwEntities%6%2",
+    }};
+
+QString PhrasedConverter::EmitMoveEntities(const EntityList& entities, const OdGeVector3d& offset, bool first)
+{
+    const QString array = first ? objectArray(entities) : QString();
+    return array + fillList(moveEntities).shortVector(offset).number(UniqueCounter).str();
+}
+
+static const Phrase rotateEntities{
+    "EmitRotateEntities",
+    {
+        .cpp = "%1iwSketchManager->RotateEntities(%2, %3, %4, types%5, iwEntities%5);\n",
+        .cppCom = "%1iwSketchManager->RotateEntities(%3, %4, %5, types%6, objects%6);%2",
+        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().RotateEntities(%2, %3, %4, types%5, "
+                  "iwEntities%5);\n",
+        .javascript = "%1mSkMgr.RotateEntities(%2, %3, %4, types%5, iwEntities%5);\n",
+        .vbNet = "%1iwSketchManager.RotateEntities( %3, %4, %5, types%6, iwEntities%6 )%2",
+        .vba = "%1iwSketchManager.RotateEntities %3, %4, %5, types%6, iwEntities%6%2",
+    }};
+
+QString PhrasedConverter::EmitRotateEntities(const EntityList& entities, const OdGePoint3d& center, double angle)
+{
+    const QString arrays = typedArrays(entities, false);
+    return arrays + fillList(rotateEntities)
+                        .shortReal(center.x)
+                        .shortReal(center.y)
+                        .shortReal(angle)
+                        .number(UniqueCounter)
+                        .str();
+}
+
+/// The factor has the highest marker and stands ahead of the last coordinate: the host takes x, y, factor, z.
+static const Phrase scaleEntities{
+    "EmitScaleEntities",
+    {
+        .cpp = "%1iwSketchManager->ScaleEntities(%2, %3, %6, %4, types%5, iwEntities%5);\n",
+        .cppCom = "%1iwSketchManager->ScaleEntities(%3, %4, %7, %5, types%6, objects%6);%2",
+        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().ScaleEntities(%2, %3, %6, %4, types%5, "
+                  "iwEntities%5);\n",
+        .javascript = "%1mSkMgr.ScaleEntities(%2, %3, %6, %4, types%5, iwEntities%5);\n",
+        .vbNet = "%1iwSketchManager.ScaleEntities( %3, %4, %7, %5, types%6, iwEntities%6 )%2",
+        .vba = "%1iwSketchManager.ScaleEntities %3, %4, %7, %5, types%6, iwEntities%6%2",
+    }};
+
+QString PhrasedConverter::EmitScaleEntities(const EntityList& entities, const OdGePoint3d& center, double factor)
+{
+    const QString arrays = typedArrays(entities, false);
+    return arrays + fillList(scaleEntities).shortPoint(center).number(UniqueCounter).shortReal(factor).str();
+}
+
+static const Phrase stretchHead{
+    "EmitStretchEntities",
+    {
+        .cpp = "%1iwObjectPtrArray iwEntities%2;\n%1iwDoubleArray crossingBoxStartCorner%2;\n"
+               "%1iwDoubleArray crossingBoxEndCorner%2;\n\n",
+        .cppCom = "%1VARIANT objects%3;%2%1objects%3.vt = ( VT_ARRAY | VT_DISPATCH  );%2"
+                  "%1objects%3.parray = SafeArrayCreateVector( VT_DISPATCH , 0, %5 );%2"
+                  "%1VARIANT crossingBoxStartCorner%3;%2%1crossingBoxStartCorner%3.vt = ( VT_ARRAY | VT_R8 );%2"
+                  "%1crossingBoxStartCorner%3.parray = SafeArrayCreateVector( VT_R8, 0, 3 );%2"
+                  "%1VARIANT crossingBoxEndCorner%3;%2%1crossingBoxEndCorner%3.vt = ( VT_ARRAY | VT_R8 );%2"
+                  "%1crossingBoxEndCorner%3.parray = SafeArrayCreateVector( VT_R8, 0, 3 );%2",
+        .csharp = "%1DispatchWrapper[] iwEntities%2;\n%1double[] crossingBoxStartCorner%2;\n"
+                  "%1double[] crossingBoxEndCorner%2;\n\n",
+        .javascript = "%1var iwEntities%2;\n%1var crossingBoxStartCorner%2;\n%1var crossingBoxEndCorner%2;\n\n",
+        .vbNet = "%1Dim iwEntities%3 As DispatchWrapper()%2%1Dim crossingBoxStartCorner%3 As Double()%2"
+                 "%1Dim crossingBoxEndCorner%3 As Double()%2%2",
+        .vba = "%1Dim iwEntities%3( %4 ) As Object%2%1Dim crossingBoxStartCorner%3( 2 ) As Double%2"
+               "%1Dim crossingBoxEndCorner%3( 2 ) As Double%2%2",
+    }};
+
+static const Phrase stretchSize{"EmitStretchEntities",
+                                {
+                                    .csharp = "%1iwEntities%2 = new DispatchWrapper[%3];\n",
+                                    .javascript = "%1iwEntities%2 = new Array(%3);\n",
+                                    .vbNet = "%1iwEntities%3 = New DispatchWrapper( %4 ) {}%2",
+                                }};
+
+static const Phrase stretchStart{
+    "EmitStretchEntities",
+    {
+        .cpp =
+            "%1crossingBoxStartCorner%2.add(%3);crossingBoxStartCorner%2.add(%4);crossingBoxStartCorner%2.add(%5);\n",
+        .csharp = "%1crossingBoxStartCorner%2 = new double[] { %3, %4, %5};\n",
+        .javascript = "%1crossingBoxStartCorner%2 = new Array( %3, %4, %5);\n",
+        .vbNet = "%1crossingBoxStartCorner%3 = New Double() { %4, %5, %6}%2",
+        .vba = "%1crossingBoxStartCorner%3( 0 ) = %4%2%1crossingBoxStartCorner%3( 1 ) = %5%2"
+               "%1crossingBoxStartCorner%3( 2 ) = %6%2",
+    }};
+
+static const Phrase stretchEnd{
+    "EmitStretchEntities",
+    {
+        .cpp = "%1crossingBoxEndCorner%2.add(%3);crossingBoxEndCorner%2.add(%4);crossingBoxEndCorner%2.add(%5);\n\n",
+        .csharp = "%1crossingBoxEndCorner%2 = new double[] { %3, %4, %5};\n\n",
+        .javascript = "%1crossingBoxEndCorner%2 = new Array( %3, %4, %5);\n\n",
+        .vbNet = "%1crossingBoxEndCorner%3 = New Double() { %4, %5, %6}%2%2",
+        .vba = "%1crossingBoxEndCorner%3( 0 ) = %4%2%1crossingBoxEndCorner%3( 1 ) = %5%2"
+               "%1crossingBoxEndCorner%3( 2 ) = %6%2%2",
+    }};
+
+QString PhrasedConverter::crossingBox(const OdGePoint3d& start, const OdGePoint3d& end)
+{
+    if (target_ == Target::CppCom)
+        return ownBlock([&] { return comPoint(IndentLevel, "crossingBoxStartCorner", UniqueCounter, start); }) +
+               ownBlock([&] { return comPoint(IndentLevel, "crossingBoxEndCorner", UniqueCounter, end); }) + LineEnd;
+    return fillList(stretchStart).number(UniqueCounter).shortPoint(start).str() +
+           fillList(stretchEnd).number(UniqueCounter).shortPoint(end).str();
+}
+
+static const Phrase stretchEntities{
+    "EmitStretchEntities",
+    {
+        .cpp = "%1iwSketchManager->StretchEntities(%2, %3, %4, iwEntities%5, crossingBoxStartCorner%5, "
+               "crossingBoxEndCorner%5);\n",
+        .cppCom = "%1iwSketchManager->StretchEntities(%3, %4, %5, objects%6, crossingBoxStartCorner%6, "
+                  "crossingBoxEndCorner%6);%2",
+        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().StretchEntities(%2, %3, %4, iwEntities%5, "
+                  "crossingBoxStartCorner%5, crossingBoxEndCorner%5);\n",
+        .javascript = "%1mSkMgr.StretchEntities(%2, %3, %4, iwEntities%5, crossingBoxStartCorner%5, "
+                      "crossingBoxEndCorner%5);\n",
+        .vbNet = "%1iwSketchManager.StretchEntities( %3, %4, %5, iwEntities%6, crossingBoxStartCorner%6, "
+                 "crossingBoxEndCorner%6 )%2",
+        .vba = "%1iwSketchManager.StretchEntities %3, %4, %5, iwEntities%6, crossingBoxStartCorner%6, "
+               "crossingBoxEndCorner%6%2",
+    }};
+
+QString PhrasedConverter::EmitStretchEntities(const EntityList& entities, const OdGePoint3d& start,
+                                              const OdGePoint3d& end, const OdGeVector3d& offset)
+{
+    const std::size_t count = entities.names.size();
+    const QString arrays = arrayHead(stretchHead, count) + arrayHead(stretchSize, count) +
+                           objectElements(objectElement, "objects", entities.names) + LineEnd + crossingBox(start, end);
+    return arrays + fillList(stretchEntities).shortVector(offset).number(UniqueCounter).str();
+}

@@ -1,0 +1,95 @@
+// Objects that come into a group or leave it.
+
+#include "targets/LineEnd.h"
+#include "targets/PhrasedConverter.h"
+
+using namespace inkmacro;
+
+/// C++ gathers the objects and adds them at the end; in VBA a declaration counts for the whole procedure.
+static const Phrase addHead{"EmitGroupAddEntities",
+                            {
+                                .cpp = "%1iwObjectPtrArray entities%2;\n%1bool hasEntity%2 = false;\n",
+                                .vba = "%1Dim entities%2( 0 ) As Object\n",
+                            }};
+
+static const Phrase addEntity{
+    "EmitGroupAddEntities",
+    {
+        .cpp = "%1%3->HasEntity(%4, &hasEntity%2);\n%1if ( !hasEntity%2 )\n%1{\n%1    entities%2.add(%4);\n%1}\n",
+        .cppCom = "%1if ( !%3->HasEntity(%4) )\n%1{\n%1    VARIANT entities%2;\n"
+                  "%1    entities%2.vt = ( VT_ARRAY | VT_DISPATCH );\n"
+                  "%1    entities%2.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 1 );\n"
+                  "%1    long rgIndices%2;\n%1    rgIndices%2 = 0;\n%1    IDispatch* val%2;\n%1    val%2 = %4;\n"
+                  "%1    SafeArrayPutElement( entities%2.parray, &rgIndices%2, (IDispatch*)(val%2) );\n"
+                  "%1    %3->AddEntities(entities%2);\n%1}\n",
+        .csharp = "%1if ( !%3.HasEntity(%4) )\n%1{\n%1    DispatchWrapper[] entities%2 = new DispatchWrapper[1];\n"
+                  "%1    entities%2[0] = new DispatchWrapper(%4);\n%1    %3.AddEntities(entities%2);\n%1}\n",
+        .javascript = "%1if ( !%3.HasEntity(%4) )\n%1{\n%1    var entities%2 = new Array(1);\n"
+                      "%1    entities%2[0] = %4;\n%1    %3.AddEntities(entities%2);\n%1}\n",
+        .vbNet = "%1If Not %3.HasEntity(%4) Then\n%1    Dim entities%2 As DispatchWrapper()\n"
+                 "%1    entities%2 = New DispatchWrapper( 0 ) {}\n%1    entities%2( 0 ) = New DispatchWrapper( %4 )\n"
+                 "%1    %3.AddEntities(entities%2)\n%1End If\n",
+        .vba = "%1If Not %3.HasEntity(%4) Then\n%1    Set entities%2( 0 ) = %4\n%1    %3.AddEntities entities%2\n"
+               "%1End If\n",
+    }};
+
+static const Phrase addGathered{"EmitGroupAddEntities",
+                                {
+                                    .cpp = "%1%3->AddEntities(entities%2);\n",
+                                }};
+
+QString PhrasedConverter::EmitGroupAddEntities(const std::vector<CFxString>& names, const CFxString& group)
+{
+    ++UniqueCounter;
+    QString text = LineEnd + fillIndented(addHead).number(UniqueCounter).str();
+    for (const CFxString& name : names)
+        text += fillIndented(addEntity).number(UniqueCounter).text(group).text(name);
+    text += LineEnd;
+    return text += fillIndented(addGathered).number(UniqueCounter).text(group);
+}
+
+static const Phrase removeHead{"EmitGroupRemoveEntities",
+                               {
+                                   .cpp = "%1iwObjectPtrArray removeObject%2;\n",
+                                   .cppCom =
+                                       "%1VARIANT removeObject%3;%2%1removeObject%3.vt = ( VT_ARRAY | VT_DISPATCH );%2"
+                                       "%1removeObject%3.parray = SafeArrayCreateVector( VT_DISPATCH, 0, %4 );%2",
+                                   .csharp = "%1DispatchWrapper[] removeObject%2;\n",
+                                   .javascript = "%1var removeObject%2;\n",
+                                   .vbNet = "%1Dim removeObject%3 As DispatchWrapper()%2",
+                                   .vba = "%1Dim removeObject%3( %4 ) As Object%2",
+                               }};
+
+static const Phrase removeSize{"EmitGroupRemoveEntities",
+                               {
+                                   .csharp = "%1removeObject%2 = new DispatchWrapper[%3];\n",
+                                   .javascript = "%1removeObject%2 = new Array(%3);\n",
+                                   .vbNet = "%1removeObject%3 = New DispatchWrapper( %4 ) {}%2",
+                               }};
+
+static const Phrase removeElement{"EmitGroupRemoveEntities",
+                                  {
+                                      .cpp = "%1removeObject%2.add(%3);\n",
+                                      .csharp = "%1removeObject%2[%3] = new DispatchWrapper(%4);\n",
+                                      .javascript = "%1removeObject%2[%3] = %4;\n",
+                                      .vbNet = "%1removeObject%3( %4 ) = New DispatchWrapper( %5 )%2",
+                                      .vba = "%1Set removeObject%3( %4 ) = %5%2",
+                                  }};
+
+static const Phrase removeCall{"EmitGroupRemoveEntities",
+                               {
+                                   .cpp = "%1%3->RemoveEntities(removeObject%2);\n",
+                                   .cppCom = "%1%3->RemoveEntities(removeObject%2);\n",
+                                   .csharp = "%1%3.RemoveEntities(removeObject%2);\n",
+                                   .javascript = "%1%3.RemoveEntities(removeObject%2);\n",
+                                   .vbNet = "%1%3.RemoveEntities(removeObject%2)\n",
+                                   .vba = "%1%3.RemoveEntities removeObject%2\n",
+                               }};
+
+QString PhrasedConverter::EmitGroupRemoveEntities(const std::vector<CFxString>& names, const CFxString& group)
+{
+    ++UniqueCounter;
+    return LineEnd + arrayHead(removeHead, names.size()) + arrayHead(removeSize, names.size()) +
+           objectElements(removeElement, "removeObject", names) + LineEnd +
+           fillIndented(removeCall).number(UniqueCounter).text(group).str();
+}

@@ -1,0 +1,171 @@
+// The prompt for a selection.
+
+#include "targets/PhrasedConverter.h"
+#include "targets/comArrays.h"
+
+using namespace inkmacro;
+
+/// The lines of the two lists may name the array and the index, the literals of C# and JavaScript do without.
+static const Phrase promptType{"EmitPromptSelection",
+                               {
+                                   .cpp = "%1types%4.add(%3);%2",
+                                   .csharp = "%1iwObjectType_e.%3,%2",
+                                   .javascript = "%1%3,%2",
+                                   .vbNet = "%1types%4( %5 ) = Inkwright.iwObjectType_e.%3%2",
+                                   .vba = "%1types%4( %5 ) = Inkwright.iwObjectType_e.%3%2",
+                               }};
+
+static const Phrase promptName{"EmitPromptSelection",
+                               {
+                                   .cpp = "%1entities%4.add(%3);%2",
+                                   .csharp = "%1%3,%2",
+                                   .javascript = "%1%3,%2",
+                                   .vbNet = "%1entities%4( %5 ) = %3%2",
+                                   .vba = "%1Set entities%4( %5 ) = %3%2",
+                               }};
+
+static const Phrase promptFoundType{
+    "EmitPromptSelection",
+    {
+        .cpp = "%1iwDoc->GetObjectByHandle(L\"%3\", &type%4, &object%4);%2%1types%4.add(type%4);%2",
+        .csharp = "%1%3,%2",
+        .javascript = "%1%3,%2",
+        .vbNet = "%1types%4( %5 ) = %3%2",
+        .vba = "%1types%4( %5 ) = %3%2",
+    }};
+
+static const Phrase promptFoundName{
+    "EmitPromptSelection",
+    {
+        .cpp = "%1iwDoc->GetObjectByHandle(L\"%3\", &type%4, &object%4);%2%1entities%4.add(object%4);%2",
+        .csharp = "%1%3,%2",
+        .javascript = "%1%3,%2",
+        .vbNet = "%1entities%4( %5 ) = %3%2",
+        .vba = "%1Set entities%4( %5 ) = %3%2",
+    }};
+
+/// C++ cannot look an object up within an expression: its lines take the handle itself.
+static const Phrase findType{
+    "EmitPromptSelection",
+    {
+        .cpp = "%1",
+        .cppCom = "pConnection->m_IwApp->GetObjectType(pConnection->m_IwApp->GetActiveDocument()->"
+                  "GetObjectByHandle(L\"%1\", &type%2))",
+        .csharp = "iwApp.GetObjectType(iwApp.GetActiveDocument().GetObjectByHandle(\"%1\", out type%2))",
+        .javascript = "mApp.GetObjectType(mDoc.GetObjectByHandle(\"%1\").DispObj)",
+        .vbNet = "iwApp.GetObjectType(iwApp.GetActiveDocument().GetObjectByHandle(\"%1\", type%2))",
+        .vba = "iwApp.GetObjectType(iwApp.GetActiveDocument().GetObjectByHandle(\"%1\", type%2))",
+    }};
+
+static const Phrase findObject{
+    "EmitPromptSelection",
+    {
+        .cpp = "%1",
+        .cppCom = "pConnection->m_IwApp->GetActiveDocument()->GetObjectByHandle(L\"%1\", &type%2)",
+        .csharp = "iwApp.GetActiveDocument().GetObjectByHandle(\"%1\", out type%2)",
+        .javascript = "mDoc.GetObjectByHandle(\"%1\").DispObj",
+        .vbNet = "iwApp.GetActiveDocument().GetObjectByHandle(\"%1\", type%2)",
+        .vba = "iwApp.GetActiveDocument().GetObjectByHandle(\"%1\", type%2)",
+    }};
+
+/// The JavaScript is not valid: it counts and makes its arrays as C# does, and passes an address.
+static const Phrase promptSelection{
+    "EmitPromptSelection",
+    {
+        .cpp =
+            "%1iwObjectType_e type%3;%2%1iwObject* object%3 = NULL;%2%1iwLongArray types%3;%2%4"
+            "%1iwObjectPtrArray entities%3;%2%5%1iwCommandMessage_c* cmdMesage%3;%2"
+            "%1m_pIwApp->GetCommandMessage(&cmdMesage%3);%2"
+            "%1cmdMesage%3->PromptForSelection(false, L\"%6\", L\"\");%2%1{%2"
+            "%1    iwSelectionManager_ptr iwSelectionMgr%3;%2%1    iwDoc->GetSelectionManager( &iwSelectionMgr%3 );%2"
+            "%1    long count = 0;%2"
+            "%1    iwSelectionMgr%3->GetSelectedObjectCount(iwSelectionSetType_Previous, &count);%2"
+            "%1    types%3.clear();%2%1    entities%3.clear();%2%1    for (long i = 0; i < count; ++i)%2%1    {%2"
+            "%1        iwSelectionMgr%3->GetSelectedObject(iwSelectionSetType_Previous, i, &type%3, &object%3);%2"
+            "%1        types%3.add(type%3);%2%1        entities%3.add(object%3);%2%1    }%2%1}%2",
+        .cppCom = "%1iwObjectType_e type%3;%2%1VARIANT types%3;%2%1types%3.vt = ( VT_ARRAY | VT_I4  );%2"
+                  "%1types%3.parray = SafeArrayCreateVector( VT_I4 , 0, %7 );%2%4%1VARIANT entities%3;%2"
+                  "%1entities%3.vt = ( VT_ARRAY | VT_DISPATCH  );%2"
+                  "%1entities%3.parray = SafeArrayCreateVector( VT_DISPATCH , 0, %7 );%2%5"
+                  "%1pConnection->m_IwApp->GetCommandMessage()->PromptForSelection(false, L\"%6\", L\"\");%2%1{%2"
+                  "%1    long count = pConnection->m_IwApp->GetActiveDocument()->GetSelectionManager()->"
+                  "GetSelectedObjectCount(iwSelectionSetType_Previous);%2"
+                  "%1    types%3.parray = SafeArrayCreateVector( VT_I4 , 0, count );%2"
+                  "%1    entities%3.parray = SafeArrayCreateVector( VT_DISPATCH , 0, count );%2"
+                  "%1    for (long i = 0; i < count; ++i)%2%1    {%2"
+                  "%1        IDispatch* object = pConnection->m_IwApp->GetActiveDocument()->GetSelectionManager()->"
+                  "GetSelectedObject(iwSelectionSetType_Previous, i, &type%3);%2"
+                  "%1        SafeArrayPutElement( types%3.parray, &i, (int*)&(type%3) );%2"
+                  "%1        SafeArrayPutElement( entities%3.parray, &i, (IDispatch*)(object) );%2%1    }%2%1}%2",
+        .csharp =
+            "%1iwObjectType_e type%3;%2%1iwObjectType_e[] types%3 =%2%1{%2%4%1};%2%1object[] entities%3 =%2%1{%2%5%1};%2"
+            "%1iwApp.GetCommandMessage().PromptForSelection(false, \"%6\", \"\");%2%1{%2"
+            "%1   int count = iwApp.GetActiveDocument().GetSelectionManager()."
+            "GetSelectedObjectCount(iwSelectionSetType_e.iwSelectionSetType_Previous);%2"
+            "%1    types%3 = new iwObjectType_e[count];%2%1    entities%3 = new object[count];%2"
+            "%1    for (int i = 0; i < count; ++i)%2%1    {%2"
+            "%1        entities%3[i] = iwApp.GetActiveDocument().GetSelectionManager()."
+            "GetSelectedObject(iwSelectionSetType_e.iwSelectionSetType_Previous, i, out types%3[i]);%2%1    }%2%1}%2",
+        .javascript = "%1var types%3 =%2%1[%2%4%1];%2%1var entities%3 =%2%1[%2%5%1];%2"
+                      "%1mCmdMess.PromptForSelection(false, \"%6\", \"\");%2%1{%2"
+                      "%1   int count = mApp.GetActiveDocument().GetSelectionManager()."
+                      "GetSelectedObjectCount(iwSelectionSetType_Previous);%2"
+                      "%1    types%3 = new Array[count];%2%1    entities%3 = new Array[count];%2"
+                      "%1    for (int i = 0; i < count; ++i)%2%1    {%2"
+                      "%1        entities%3[i] = mApp.GetActiveDocument().GetSelectionManager()."
+                      "GetSelectedObject(iwSelectionSetType_Previous, i, &types%3[i]);%2%1    }%2%1}%2",
+        .vbNet = "%1Dim type%3 As Inkwright.iwObjectType_e%2"
+                 "%1Dim types%3 As Inkwright.iwObjectType_e() = New Inkwright.iwObjectType_e( %7 ) {}%2%4"
+                 "%1Dim entities%3 As Object() = New Object( %7 ) {}%2%5"
+                 "%1iwApp.GetCommandMessage().PromptForSelection(False, \"%6\", \"\")%2%1If 1 Then%2"
+                 "%1   Dim count As Integer = iwApp.GetActiveDocument().GetSelectionManager()."
+                 "GetSelectedObjectCount(Inkwright.iwSelectionSetType_e.iwSelectionSetType_Previous)%2"
+                 "%1    types%3 = New Inkwright.iwObjectType_e( count - 1 ) {}%2"
+                 "%1    entities%3 = New Object( count - 1 ) {}%2%1    For i As Integer = 0 To count - 1%2"
+                 "%1        entities%3( i ) = iwApp.GetActiveDocument().GetSelectionManager()."
+                 "GetSelectedObject(Inkwright.iwSelectionSetType_e.iwSelectionSetType_Previous, i, types%3( i ))%2"
+                 "%1    Next%2%1End If%2",
+        .vba = "%1Dim type%3 As Inkwright.iwObjectType_e%2%1Dim types%3() As Inkwright.iwObjectType_e%2"
+               "%1ReDim types%3( %7 )%2%4%1Dim entities%3() As Object%2%1ReDim entities%3( %7 )%2%5"
+               "%1iwApp.GetCommandMessage().PromptForSelection False, \"%6\", \"\"%2%1If 1 Then%2"
+               "%1   Dim count%3 As Integer%2%1   count%3 = iwApp.GetActiveDocument().GetSelectionManager()."
+               "GetSelectedObjectCount(Inkwright.iwSelectionSetType_e.iwSelectionSetType_Previous)%2"
+               "%1    ReDim types%3( count%3 - 1 )%2%1    ReDim entities%3( count%3 - 1 )%2%1    Dim i%3 As Integer%2"
+               "%1    For i%3 = 0 To count%3 - 1%2"
+               "%1        Set entities%3( i%3 ) = iwApp.GetActiveDocument().GetSelectionManager()."
+               "GetSelectedObject(Inkwright.iwSelectionSetType_e.iwSelectionSetType_Previous, i%3, types%3( i%3 ))%2"
+               "%1    Next%2%1End If%2",
+    }};
+
+QString PhrasedConverter::EmitPromptSelection(const EntityList& entities)
+{
+    ++UniqueCounter;
+    std::vector<QString> types;
+    std::vector<QString> names;
+    QString typeLines;
+    QString nameLines;
+    for (std::size_t i = 0; i < entities.names.size(); ++i) {
+        const bool known = !entities.names[i].isEmpty() && !entities.types[i].isEmpty();
+        const auto find = [&](const Phrase& phrase) {
+            return Fill(phrase.in(target_)).text(entities.handles[i]).number(UniqueCounter).str();
+        };
+        const auto line = [&](const Phrase& phrase, const QString& word) {
+            return fill(phrase).text(word).number(UniqueCounter).number(qulonglong{i}).str();
+        };
+        types.push_back(known ? entities.types[i].toQString() : find(findType));
+        names.push_back(known ? entities.names[i].toQString() : find(findObject));
+        typeLines += line(known ? promptType : promptFoundType, types.back());
+        nameLines += line(known ? promptName : promptFoundName, names.back());
+    }
+    if (target_ == Target::CppCom) {
+        typeLines = ownBlock([&] { return comIntegers(IndentLevel, "types", UniqueCounter, types); });
+        nameLines = comObjects(IndentLevel, "entities", UniqueCounter, names);
+    }
+    // The prompt is always the same, whatever the recording said.
+    return fill(promptSelection)
+        .number(UniqueCounter)
+        .text(typeLines)
+        .text(nameLines)
+        .text(QLatin1String("Select Objects: "))
+        .number(arrayBound(entities.names.size()));
+}
