@@ -243,19 +243,41 @@ TEST_F(Program, RefusesWrongUseBeforeItReadsAnything)
     EXPECT_FALSE(exists("out") || exists("csharp") || exists("one.cs"));
 }
 
+TEST_F(Program, ShowsTheSnapshotOfAnObject)
+{
+    write("d.jsonl", R"({"object":{"class":"AcDbMline","handle":"2F","isErased":true,"vertices":[[1,2,0.5],[3,4,0]]}}
+{"object":{"class":"AcDbFcf","handle":"30","text":"a\nb"}}
+)");
+    EXPECT_EQ(run({"snapshot", "d.jsonl", "--handle", "2f"}).out,
+              "Erased       \"YES\"\n"
+              "vertices     chosen 0, elements (tag 0, value (1, 2, 0.5), tag 1, value (3, 4, 0))\n"
+              "closedMline  0\n");
+    const QString json = run({"snapshot", "d.jsonl", "--handle", "30", "--json"}).out;
+    EXPECT_TRUE(json.contains("\"tag\": \"Content\"") && json.contains("\"value\": \"a\\nb\"")) << json.toStdString();
+    const Outcome missing = run({"snapshot", "d.jsonl", "--handle", "31"});
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_EQ(missing.err, "inkmacro: d.jsonl: the drawing has no object with the handle 31\n");
+    for (const char* const handle : {"0", "2G", "-1", "0x2F", "", "12345678901234567"})
+        EXPECT_EQ(run({"snapshot", "d.jsonl", "--handle", handle}).status, 2) << handle;
+    EXPECT_EQ(run({"snapshot", "nowhere.jsonl", "--handle", "1"}).status, 3);
+}
+
 TEST_F(Program, ShowsRecordingsAndItself)
 {
-    write("walls.jsonl", line + refused + "{\"sysvar\":{\"name\":\"LTSCALE\",\"value\":{\"double\":0.5}}}\n");
-    EXPECT_EQ(run({"inspect", "walls.jsonl"}).out, "walls.jsonl: 3 actions\n"
+    write("walls.jsonl", line + refused +
+                             R"({"custom":{"kind":3,"data":[{"handles":[]},{"classes":[]},{"vector":[1,2,3]}]}})" +
+                             "\n{\"sysvar\":{\"name\":\"LTSCALE\",\"value\":{\"double\":0.5}}}\n");
+    EXPECT_EQ(run({"inspect", "walls.jsonl"}).out, "walls.jsonl: 4 actions\n"
                                                    "command LINE (1 action)\n"
                                                    "  added AcDbLine 2F (1 property)\n"
                                                    "custom 56 (no data)\n"
+                                                   "custom move (handles, classes, vector)\n"
                                                    "sysvar LTSCALE = 0.5\n"
-                                                   "counts: 1 added, 1 command, 1 custom, 1 sysvar\n");
+                                                   "counts: 1 added, 1 command, 2 custom, 1 sysvar\n");
     const QString json = run({"inspect", "walls.jsonl", "--json"}).out;
     EXPECT_TRUE(json.contains("\"LTSCALE\"") && json.contains("\"counts\""));
-    EXPECT_EQ(run({"check", "walls.jsonl", "walls.jsonl"}).out, "walls.jsonl: ok, 3 actions\n"
-                                                                "walls.jsonl: ok, 3 actions\n");
+    EXPECT_EQ(run({"check", "walls.jsonl", "walls.jsonl"}).out, "walls.jsonl: ok, 4 actions\n"
+                                                                "walls.jsonl: ok, 4 actions\n");
     EXPECT_EQ(run({"check", "walls.jsonl", "nowhere.jsonl"}).status, 3);
     EXPECT_TRUE(run({"--version"}).out.startsWith("inkmacro "));
     EXPECT_TRUE(run({"--help"}).out.contains("Exit status:"));

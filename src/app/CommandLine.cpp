@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include <QFile>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -78,6 +79,7 @@ struct RawArguments
     std::string output;
     std::string installDir;
     std::string optionNames;
+    std::string handle;
     int recordingLanguage = 0;
     bool replay = false;
     bool json = false;
@@ -95,9 +97,20 @@ CommandLine::Command commandOf(const CLI::App& app, const RawArguments& raw)
         return CommandLine::Command::Inspect;
     if (name == "check")
         return CommandLine::Command::Check;
+    if (name == "snapshot")
+        return CommandLine::Command::Snapshot;
     if (name == "schema")
         return CommandLine::Command::Schema;
     return name == "system-variables" ? CommandLine::Command::SystemVariables : CommandLine::Command::Help;
+}
+
+OdDbHandle parseHandle(const QString& text)
+{
+    static const QRegularExpression digits("\\A[0-9A-Fa-f]{1,16}\\z");
+    const OdDbHandle handle(text.toULongLong(nullptr, 16));
+    if (!digits.match(text).hasMatch() || handle.isNull())
+        throw WrongUse(QString("--handle: \"%1\" is not a handle, which is a hexadecimal number").arg(text));
+    return handle;
 }
 
 void checkFiles(const QStringList& files)
@@ -135,6 +148,10 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
     inspect->add_option("FILE", raw.files)->required()->expected(1);
     inspect->add_flag("--json", raw.json);
     app.add_subcommand("check")->add_option("FILE", raw.files)->required();
+    CLI::App* const snapshot = app.add_subcommand("snapshot");
+    snapshot->add_option("FILE", raw.files)->required()->expected(1);
+    snapshot->add_option("--handle", raw.handle)->required();
+    snapshot->add_flag("--json", raw.json);
     app.add_subcommand("schema");
     app.add_subcommand("system-variables");
 
@@ -155,6 +172,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
     line.json = raw.json;
     if (line.command == CommandLine::Command::Convert)
         line.targets = parseTargets(decodeName(raw.targets));
+    if (line.command == CommandLine::Command::Snapshot)
+        line.handle = parseHandle(decodeName(raw.handle));
     if (*output) {
         if (raw.output.empty())
             throw WrongUse("--output is empty");
@@ -197,6 +216,7 @@ Usage:
                    [--option-names FILE]
   inkmacro inspect FILE [--json]
   inkmacro check FILE...
+  inkmacro snapshot FILE --handle H [--json]
   inkmacro schema
   inkmacro system-variables
   inkmacro --version | --help
@@ -207,6 +227,9 @@ Commands:
   inspect  show the actions of a recording as a tree, with counts; with --json
            as one JSON document
   check    read recordings and say what is wrong with them; writes nothing
+  snapshot show what the recorder's snapshot adds for the object of the drawing
+           that has the handle H, beside what the host's property sheet shows;
+           with --json as one JSON array
   schema   print the JSON Schema of one line of a recording
   system-variables
            print, as a page in Markdown, the system variables that convert

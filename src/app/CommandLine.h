@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/db/OdDbHandle.h"
 #include "targets/TargetTable.h"
 
 #include <QStringList>
@@ -37,6 +38,7 @@ struct CommandLine
         Convert,
         Inspect,
         Check,
+        Snapshot,
         Schema,
         SystemVariables,
         Version,
@@ -48,6 +50,7 @@ struct CommandLine
     std::vector<const TargetRow*> targets; ///< each once, in the order asked for
     std::optional<QString> output;
     HostSettings host;
+    OdDbHandle handle; ///< of the object whose snapshot is shown
     bool json = false;
 };
 

@@ -16,6 +16,65 @@ const std::array interactionKinds{"point",  "angle",   "distance", "orient",  "c
 const std::array dataTypes{"int16",   "double",  "string", "bool",   "strings", "int",     "color", "handle",   "class",
                            "handles", "classes", "point",  "points", "vector",  "doubles", "ints",  "points2d", "ids"};
 
+/// What a command's own report is about, by its kind; null where the host has none.
+const std::array customKinds{"mirror",
+                             "stretch",
+                             "copy",
+                             "move",
+                             "rotate",
+                             "scale",
+                             "trim",
+                             "extend",
+                             "fillet",
+                             "chamfer",
+                             "select",
+                             "selection filter",
+                             "coordinate system",
+                             "sheet",
+                             "named view",
+                             "embedded object",
+                             "polyline",
+                             "erase",
+                             "insert hatch",
+                             "element color",
+                             "element color",
+                             "element color",
+                             "element color",
+                             "element color",
+                             static_cast<const char*>(nullptr),
+                             static_cast<const char*>(nullptr),
+                             "element color",
+                             "element color",
+                             "element color",
+                             "element color",
+                             "element color",
+                             "element color",
+                             "element color",
+                             "option value",
+                             "interface file",
+                             "system file",
+                             "drawing support file",
+                             "group add",
+                             "group remove",
+                             "attribute value",
+                             "polyline edit",
+                             "view background",
+                             "polyline vertex",
+                             "zoom",
+                             "region",
+                             "activate",
+                             "viewport",
+                             "print style",
+                             "clip boundary",
+                             "view tiles",
+                             "join",
+                             static_cast<const char*>(nullptr),
+                             static_cast<const char*>(nullptr),
+                             static_cast<const char*>(nullptr),
+                             static_cast<const char*>(nullptr),
+                             "explode"};
+static_assert(customKinds.size() == 56);
+
 template<class Object>
 QString className(const Object& object)
 {
@@ -196,7 +255,11 @@ QJsonObject customBody(const CFxCustomAction& custom)
     QJsonArray types;
     for (std::int32_t i = 0; i < custom.GetDataCount(); ++i)
         types.append(dataTypes.at(custom.GetData(i).GetType()));
-    return {{"kind", custom.GetKind()}, {"data", types}};
+    QJsonObject body{{"kind", custom.GetKind()}, {"data", types}};
+    const auto kind = static_cast<std::size_t>(custom.GetKind());
+    if (kind < customKinds.size() && customKinds[kind])
+        body["name"] = customKinds[kind];
+    return body;
 }
 
 /// Kind and body.
@@ -225,6 +288,11 @@ std::pair<const char*, QJsonValue> describe(const OdRxObject* action, CFxValueCo
 }
 
 } // namespace
+
+QJsonValue valueToJson(const CFxVariant& value)
+{
+    return toJson(value);
+}
 
 QJsonObject actionToJson(const OdRxObject* action, CFxValueContext context, ActionCounts& counts)
 {

@@ -12,7 +12,10 @@ namespace inkmacro {
 using ActionCounts = std::map<QString, int>;
 
 /// An action with all that is in it, in the form that recording files have, except that properties are counted and of
-/// custom data only the types are told. Null stands for an empty place.
+/// custom data only the types are told, and the name of the kind. Null stands for an empty place.
 QJsonObject actionToJson(const OdRxObject* action, CFxValueContext context, ActionCounts& counts);
+
+/// A value of a property in the form that recording files have.
+QJsonValue valueToJson(const CFxVariant& value);
 
 } // namespace inkmacro

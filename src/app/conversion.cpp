@@ -4,6 +4,7 @@
 
 #include "app/ExitStatus.h"
 #include "app/LoadedModule.h"
+#include "app/OpenDrawing.h"
 #include "app/ProgressLine.h"
 #include "app/console.h"
 #include "app/reading.h"
@@ -21,22 +22,6 @@ namespace {
 
 /// The ConversionMode in which prompts are shown again.
 constexpr int kReplay = 1;
-
-/// Makes a drawing the one that the user works in, for as long as this lives.
-class OpenDrawing
-{
-public:
-    explicit OpenDrawing(OdDbDatabase& database) : document_(&database)
-    {
-        GetFxSystemServices()->SetActiveDocument(&document_);
-    }
-    ~OpenDrawing() { GetFxSystemServices()->SetActiveDocument(nullptr); }
-    OpenDrawing(const OpenDrawing&) = delete;
-    OpenDrawing& operator=(const OpenDrawing&) = delete;
-
-private:
-    CFxDocument document_;
-};
 
 /// The recorder takes its first snapshot when recording begins, and the module notes the layout of that moment. Here
 /// the moment is past, and the layout may have another name now, so a drawing is made up that shows it.
@@ -61,10 +46,7 @@ std::int32_t runModule(const Job& job, const Recording& recording, const HostSet
     if (recording.header.sheet)
         repeatFirstSnapshot(module, *recording.header.sheet);
 
-    OdDbDatabase& database = *recording.database;
-    database.setCurrentLayoutId(database.getOdDbObjectId(recording.drawing.currentLayout));
-    database.setGroupDictionaryId(database.getOdDbObjectId(recording.drawing.groupDictionary));
-    const OpenDrawing drawing(database);
+    const OpenDrawing drawing(recording);
     const ProgressLine line([&] { return "writing " + megabytes(QFileInfo(job.macro).size()); });
     const int mode = host.replay ? kReplay : recording.header.mode;
     return module->ConvertRecording(job.macro, code, static_cast<std::uint32_t>(mode),

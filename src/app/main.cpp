@@ -8,6 +8,7 @@
 #include "app/optionNames.h"
 #include "app/processes.h"
 #include "app/reading.h"
+#include "app/snapshot.h"
 #include "app/systemVariables.h"
 #include "recordfile/RecordingSchema.h"
 
@@ -48,6 +49,8 @@ int run(const CommandLine& line)
         return inspectRecording(line.files.front(), line.json);
     case CommandLine::Command::Check:
         return checkRecordings(line.files);
+    case CommandLine::Command::Snapshot:
+        return showSnapshot(line.files.front(), line.handle, line.json);
     case CommandLine::Command::Schema:
         printOut(RecordingSchema());
         break;

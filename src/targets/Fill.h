@@ -62,8 +62,6 @@ public:
     Fill(const Template* words, unsigned level) : template_(words) { indent(level); }
     /// Of most statements the first two values are indentation and line end.
     Fill(const Template* words, unsigned level, QStringView lineEnd) : template_(words) { indent(level).text(lineEnd); }
-    /// The first value of a template whose lines end in itself is the indentation.
-    Fill(const Template* words, unsigned level) : template_(words) { indent(level); }
     Fill(const Fill&) = delete;
     Fill& operator=(const Fill&) = delete;
 

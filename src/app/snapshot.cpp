@@ -1,0 +1,63 @@
+#include "app/snapshot.h"
+
+#include "app/ExitStatus.h"
+#include "app/LoadedModule.h"
+#include "app/OpenDrawing.h"
+#include "app/actionJson.h"
+#include "app/console.h"
+#include "app/reading.h"
+#include "app/valueText.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace inkmacro {
+
+namespace {
+
+void printTable(const std::vector<CFxSnapshotRecord>& records)
+{
+    int width = 0;
+    for (const CFxSnapshotRecord& record : records)
+        width = std::max(width, printable(record.GetTag()->GetString()).length());
+    for (const CFxSnapshotRecord& record : records)
+        printOut(printable(record.GetTag()->GetString()).leftJustified(width) + "  " +
+                 valueText(valueToJson(*record.GetValue())) + '\n');
+}
+
+void printJson(const std::vector<CFxSnapshotRecord>& records)
+{
+    QJsonArray array;
+    for (const CFxSnapshotRecord& record : records)
+        array.append(
+            QJsonObject{{"tag", record.GetTag()->GetString().toQString()}, {"value", valueToJson(*record.GetValue())}});
+    printOut(QJsonDocument(array).toJson());
+}
+
+} // namespace
+
+int showSnapshot(const QString& path, const OdDbHandle& handle, bool json)
+{
+    Recording recording;
+    if (!readOrComplain(path, recording))
+        return kUnreadable;
+    LoadedModule module;
+    const OpenDrawing drawing(recording);
+    // An erased object has a snapshot too: it says so.
+    const OdDbObjectPtr object = recording.database->getOdDbObjectId(handle).openObject(true);
+    if (!object) {
+        complain(QString("%1: the drawing has no object with the handle %2").arg(path, handle.ascii()));
+        return kFailed;
+    }
+    std::vector<CFxSnapshotRecord> records;
+    module->TakeSnapshot(object.get(), records);
+    if (json)
+        printJson(records);
+    else
+        printTable(records);
+    return kDone;
+}
+
+} // namespace inkmacro

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QJsonValue>
+#include <QString>
+
+namespace inkmacro {
+
+/// Keeps a text on its line, whatever is in it.
+QString printable(const QString& text);
+
+/// A value of a recording, as actionJson gives it, for a person: on one line, without the words that say nothing.
+QString valueText(const QJsonValue& value);
+
+} // namespace inkmacro
