@@ -48,15 +48,45 @@ namespace IWAPIMacros
             Line line4;
             {
                 line1 = iwSketchManager.InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 120.00000000000000, 0.00000000000000, 0.00000000000000 );
+                line1.Color = iwApp.GetColorByIndex( 256 );
+                line1.Layer = "";
+                line1.LineScale = 1.00000000000000;
+                line1.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
+                line1.Thickness = 0.00000000000000;
                 line2 = iwSketchManager.InsertLine( 120.00000000000000, 0.00000000000000, 0.00000000000000, 120.00000000000000, 80.50000000000000, 0.00000000000000 );
+                line2.Color = iwApp.GetColorByIndex( 256 );
+                line2.Layer = "";
+                line2.LineScale = 1.00000000000000;
+                line2.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
+                line2.Thickness = 0.00000000000000;
                 line3 = iwSketchManager.InsertLine( 120.00000000000000, 80.50000000000000, 0.00000000000000, 0.00000000000000, 80.50000000000000, 0.00000000000000 );
+                line3.Color = iwApp.GetColorByIndex( 1 );
+                line3.Layer = "";
+                line3.LineScale = 1.00000000000000;
+                line3.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
+                line3.Thickness = 0.00000000000000;
                 line4 = iwSketchManager.InsertLine( 0.00000000000000, 80.50000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 );
+                line4.Color = iwApp.GetRGBColor( 255, 128, 0 );
+                line4.Layer = "";
+                line4.LineScale = 1.00000000000000;
+                line4.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
+                line4.Thickness = 0.00000000000000;
             }
             Circle circle5;
             Circle circle6;
             {
                 circle5 = iwSketchManager.InsertCircle( 20.00000000000000, 20.00000000000000, 0.00000000000000, 6.25000000000000 );
+                circle5.Color = iwApp.GetColorByIndex( 256 );
+                circle5.Layer = "";
+                circle5.LineScale = 1.00000000000000;
+                circle5.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
+                circle5.Thickness = 0.00000000000000;
                 circle6 = iwSketchManager.InsertCircle( 100.00000000000000, 20.00000000000000, 0.00000000000000, 1.00000000000000 );
+                circle6.Color = iwApp.GetColorByIndex( 256 );
+                circle6.Layer = "";
+                circle6.LineScale = 1.00000000000000;
+                circle6.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
+                circle6.Thickness = 0.00000000000000;
             }
             CircleArc circlearc7;
             CircleArc circlearc8;
@@ -86,8 +116,27 @@ namespace IWAPIMacros
             }
             Circle circle16;
             circle16 = iwSketchManager.InsertCircle( 10.06250000000000, 11.00003051757813, 0.00000000000000, 2.00000000000000 );
+            circle16.Color = iwApp.GetColorByIndex( 256 );
+            circle16.Layer = "";
+            circle16.LineScale = 1.00000000000000;
+            circle16.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
+            circle16.Thickness = 0.00000000000000;
+            // AcDbLine object modified
+            {
+                double getX1;
+                double getY1;
+                double getZ1;
+                line1.GetSecondPoint(out getX1, out getY1, out getZ1);
+                getX1 = 130.00000000000000;
+                line1.SetSecondPoint(getX1, getY1, getZ1);
+            }
             Line line18;
             line18 = iwSketchManager.InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.10000000000000, 0.20000000000000, 0.00000000000000 );
+            line18.Color = iwApp.GetColorByIndex( 256 );
+            line18.Layer = "";
+            line18.LineScale = 1.00000000000000;
+            line18.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
+            line18.Thickness = 0.00000000000000;
         }
     }
 }

@@ -1,0 +1,532 @@
+﻿#include "stdafx.h"
+#include "resource.h"
+#include "recording_i.h"
+#include "recording.h"
+#include "smartvars.h"
+#include "typeconverter.h"
+#include "IwAddinConnection.h"
+#include "math.h"
+
+class CrecordingModule : public CAtlDllModuleT< CrecordingModule >
+{
+public:
+    DECLARE_LIBID(LIBID_recordingLib)
+    DECLARE_REGISTRY_APPID_RESOURCEID(IDR_recording, "{00000000-0000-4000-8000-000000000003}")
+};
+
+CrecordingModule _AtlModule;
+
+#ifdef _MANAGED
+#pragma managed(push, off)
+#endif
+
+// Entry point of the library
+extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved)
+{
+    hInstance;
+    return _AtlModule.DllMain(dwReason, lpReserved);
+}
+
+#ifdef _MANAGED
+#pragma managed(pop)
+#endif
+
+// Tells whether the library is still in use
+STDAPI DllCanUnloadNow(void)
+{
+    return _AtlModule.DllCanUnloadNow();
+}
+
+// Gives the class factory of an object of this server
+STDAPI DllGetClassObject(REFCLSID rclsid, REFIID riid, LPVOID* ppv)
+{
+    return _AtlModule.DllGetClassObject(rclsid, riid, ppv);
+}
+
+// Adds the server, its type library and the interfaces of the type library to the registry
+STDAPI DllRegisterServer(void)
+{
+    return _AtlModule.DllRegisterServer();
+}
+
+// Removes from the registry what DllRegisterServer added
+STDAPI DllUnregisterServer(void)
+{
+    return _AtlModule.DllUnregisterServer();
+}
+
+IwMacroCommand::IwMacroCommand( ICommand* pCommand )
+    : m_IwCommand( pCommand )
+{
+    DispEventAdvise( m_IwCommand );
+}
+
+IwMacroCommand::~IwMacroCommand()
+{
+    DispEventUnadvise( m_IwCommand );
+}
+
+void __stdcall IwMacroCommand::OnExecuteNotify()
+{
+    CIwAddinConnection* pConnection = getMacroApp();
+
+    IDocumentPtr iwDoc( pConnection->m_IwApp->GetActiveDocument() );
+    if( NULL == iwDoc )
+    {
+        MessageBox (NULL, L"Failed to get current document.", L"title", MB_OK);
+        return;
+    }
+
+    IModelPtr iwModel( iwDoc->GetModel() );
+    if( NULL == iwModel )
+    {
+        MessageBox (NULL, L"Failed to get a model space of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    ISketchManagerPtr iwSketchManager;
+    iwSketchManager = iwModel->GetSketchManager();
+    if( NULL == iwSketchManager )
+    {
+        MessageBox (NULL, L"Failed to get a sketch manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    _variant_t pVariantArray = iwDoc->GetSheets();
+    ISheetPtr *iwSheetArrays = NULL;
+    int count = 0;
+    TypeConverter::convertVariantArrayToPtrArray<ISheetPtr, ISheet>( pVariantArray, iwSheetArrays, count );
+    ISheetPtr iwSheet = iwSheetArrays[1];
+    if( NULL == iwSheet )
+    {
+        MessageBox (NULL, L"Failed to get a paper space of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    ISelectionManagerPtr iwSelManager( iwDoc->GetSelectionManager() );
+    if( NULL == iwSelManager )
+    {
+        MessageBox (NULL, L"Failed to get selection manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    IViewManagerPtr iwViewManager( iwDoc->GetViewManager() );
+    if( NULL == iwViewManager )
+    {
+        MessageBox (NULL, L"Failed to get a view manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    ILinePtr line1;
+    ILinePtr line2;
+    ICirclePtr circle3;
+    {
+        line1 = iwSketchManager->InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 10.00000000000000, 0.00000000000000, 0.00000000000000 );
+        line1->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+        line1->put_Layer( L"0" );
+        line1->put_LineStyle( L"Continuous" );
+        line1->put_LineScale( 1.00000000000000 );
+        line1->put_LineWeight( iwLnWt_ByLayer );
+        line1->put_Thickness( 0.00000000000000 );
+        line2 = iwSketchManager->InsertLine( 10.00000000000000, 0.00000000000000, 0.00000000000000, 10.00000000000000, 5.00000000000000, 0.00000000000000 );
+        line2->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+        line2->put_Layer( L"0" );
+        line2->put_LineStyle( L"Continuous" );
+        line2->put_LineScale( 1.00000000000000 );
+        line2->put_LineWeight( iwLnWt_ByLayer );
+        line2->put_Thickness( 0.00000000000000 );
+        circle3 = iwSketchManager->InsertCircle( 5.00000000000000, 2.50000000000000, 0.00000000000000, 1.00000000000000 );
+        circle3->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+        circle3->put_Layer( L"0" );
+        circle3->put_LineStyle( L"Continuous" );
+        circle3->put_LineScale( 1.00000000000000 );
+        circle3->put_LineWeight( iwLnWt_ByLayer );
+        circle3->put_Thickness( 0.00000000000000 );
+    }
+    ILinePtr line4;
+    ILinePtr line5;
+    {
+        VARIANT objects0;
+        objects0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        objects0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 2 );
+        VARIANT types0;
+        types0.vt = ( VT_ARRAY | VT_I4  );
+        types0.parray = SafeArrayCreateVector( VT_I4 , 0, 2 );
+        long rgIndices0;
+        rgIndices0 = 0;
+        IDispatch* val0;
+        val0 = line1;
+        SafeArrayPutElement( objects0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+        val0 = line2;
+        SafeArrayPutElement( objects0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            int val0;
+            val0 = iwLineType;
+            SafeArrayPutElement( types0.parray, &rgIndices0, (int*)&(val0) );
+            rgIndices0++;
+            val0 = iwLineType;
+            SafeArrayPutElement( types0.parray, &rgIndices0, (int*)&(val0) );
+            rgIndices0++;
+        }
+
+        iwSketchManager->MirrorEntities(0, 5, 0, 10, 5, 0, false, types0, objects0);
+        line4 = iwSketchManager->InsertLine( 0.00000000000000, 10.00000000000000, 0.00000000000000, 10.00000000000000, 10.00000000000000, 0.00000000000000 );
+        line4->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+        line4->put_Layer( L"0" );
+        line4->put_LineStyle( L"Continuous" );
+        line4->put_LineScale( 1.00000000000000 );
+        line4->put_LineWeight( iwLnWt_ByLayer );
+        line4->put_Thickness( 0.00000000000000 );
+        line5 = iwSketchManager->InsertLine( 10.00000000000000, 10.00000000000000, 0.00000000000000, 10.00000000000000, 5.00000000000000, 0.00000000000000 );
+        line5->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+        line5->put_Layer( L"0" );
+        line5->put_LineStyle( L"Continuous" );
+        line5->put_LineScale( 1.00000000000000 );
+        line5->put_LineWeight( iwLnWt_ByLayer );
+        line5->put_Thickness( 0.00000000000000 );
+    }
+    {
+        VARIANT objects0;
+        objects0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        objects0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 1 );
+        VARIANT crossingBoxStartCorner0;
+        crossingBoxStartCorner0.vt = ( VT_ARRAY | VT_R8 );
+        crossingBoxStartCorner0.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        VARIANT crossingBoxEndCorner0;
+        crossingBoxEndCorner0.vt = ( VT_ARRAY | VT_R8 );
+        crossingBoxEndCorner0.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        long rgIndices0;
+        rgIndices0 = 0;
+        IDispatch* val0;
+        val0 = line1;
+        SafeArrayPutElement( objects0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            double x, y, z;
+            x=9; y=-1; z=0;
+            SafeArrayPutElement( crossingBoxStartCorner.parray, &rgIndices0, (double*)&(x) );
+            rgIndices0=1;
+            SafeArrayPutElement( crossingBoxStartCorner.parray, &rgIndices0, (double*)&(y) );
+            rgIndices0=2;
+            SafeArrayPutElement( crossingBoxStartCorner.parray, &rgIndices0, (double*)&(z) );
+        }
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            double x, y, z;
+            x=11; y=1; z=0;
+            SafeArrayPutElement( crossingBoxEndCorner.parray, &rgIndices0, (double*)&(x) );
+            rgIndices0=1;
+            SafeArrayPutElement( crossingBoxEndCorner.parray, &rgIndices0, (double*)&(y) );
+            rgIndices0=2;
+            SafeArrayPutElement( crossingBoxEndCorner.parray, &rgIndices0, (double*)&(z) );
+        }
+
+        iwSketchManager->StretchEntities(2.5, 0, 0, objects0, crossingBoxStartCorner0, crossingBoxEndCorner0);
+    }
+    ICirclePtr circle6;
+    {
+        VARIANT objects0;
+        objects0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        objects0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 2 );
+        VARIANT types0;
+        types0.vt = ( VT_ARRAY | VT_I4  );
+        types0.parray = SafeArrayCreateVector( VT_I4 , 0, 2 );
+        iwObjectType_e iwTypeForCopy0;
+        IDispatchPtr iwObjForCopy0 = pConnection->m_IwApp->GetActiveDocument()->GetObjectByHandle(L"A0", &iwTypeForCopy0);
+        long rgIndices0;
+        rgIndices0 = 0;
+        IDispatch* val0;
+        val0 = circle3;
+        SafeArrayPutElement( objects0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+        val0 = iwObjForCopy0;
+        SafeArrayPutElement( objects0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            int val0;
+            val0 = iwCircleType;
+            SafeArrayPutElement( types0.parray, &rgIndices0, (int*)&(val0) );
+            rgIndices0++;
+            val0 = iwTypeForCopy0;
+            SafeArrayPutElement( types0.parray, &rgIndices0, (int*)&(val0) );
+            rgIndices0++;
+        }
+
+        iwSketchManager->CopyEntities(1, 0, 0, types0, objects0);
+        iwSketchManager->CopyEntities(2, 0, 0, types0, objects0);
+        iwSketchManager->CopyEntities(3, 0, 0, types0, objects0);
+        circle6 = iwSketchManager->InsertCircle( 6.00000000000000, 2.50000000000000, 0.00000000000000, 1.00000000000000 );
+        circle6->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+        circle6->put_Layer( L"0" );
+        circle6->put_LineStyle( L"Continuous" );
+        circle6->put_LineScale( 1.00000000000000 );
+        circle6->put_LineWeight( iwLnWt_ByLayer );
+        circle6->put_Thickness( 0.00000000000000 );
+    }
+    {
+        VARIANT objects0;
+        objects0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        objects0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 2 );
+        long rgIndices0;
+        rgIndices0 = 0;
+        IDispatch* val0;
+        val0 = line2;
+        SafeArrayPutElement( objects0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+        val0 = line4;
+        SafeArrayPutElement( objects0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+
+        iwSketchManager->MoveEntities(0, 0.125, 0, objects0);
+    }
+    {
+        VARIANT objects0;
+        objects0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        objects0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 1 );
+        VARIANT types0;
+        types0.vt = ( VT_ARRAY | VT_I4  );
+        types0.parray = SafeArrayCreateVector( VT_I4 , 0, 1 );
+        long rgIndices0;
+        rgIndices0 = 0;
+        IDispatch* val0;
+        val0 = circle3;
+        SafeArrayPutElement( objects0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            int val0;
+            val0 = iwCircleType;
+            SafeArrayPutElement( types0.parray, &rgIndices0, (int*)&(val0) );
+            rgIndices0++;
+        }
+
+        iwSketchManager->RotateEntities(1, 2, 1.5708, types0, objects0);
+    }
+    {
+        VARIANT objects0;
+        objects0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        objects0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 2 );
+        VARIANT types0;
+        types0.vt = ( VT_ARRAY | VT_I4  );
+        types0.parray = SafeArrayCreateVector( VT_I4 , 0, 2 );
+        long rgIndices0;
+        rgIndices0 = 0;
+        IDispatch* val0;
+        val0 = line1;
+        SafeArrayPutElement( objects0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+        val0 = circle3;
+        SafeArrayPutElement( objects0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            int val0;
+            val0 = iwLineType;
+            SafeArrayPutElement( types0.parray, &rgIndices0, (int*)&(val0) );
+            rgIndices0++;
+            val0 = iwCircleType;
+            SafeArrayPutElement( types0.parray, &rgIndices0, (int*)&(val0) );
+            rgIndices0++;
+        }
+
+        iwSketchManager->ScaleEntities(1, 2, 2, 3, types0, objects0);
+    }
+    {
+        iwObjectType_e type1;
+        ILinePtr line7 = pConnection->m_IwApp->GetActiveDocument()->GetObjectByHandle(L"A0", &type1);
+        line1->Join( line7 );
+    }
+    {
+        iwObjectType_e type1;
+        ILinePtr line8 = pConnection->m_IwApp->GetActiveDocument()->GetObjectByHandle(L"A0", &type1);
+        line4->put_Erased( true );
+        line8->put_Erased( true );
+    }
+    {
+        iwObjectType_e type2;
+        ILeaderPtr leader10 = pConnection->m_IwApp->GetActiveDocument()->GetObjectByHandle(L"62", &type2);
+        INotePtr note9 = leader10->GetNoteAnnotation();
+        note9->put_Erased( true );
+    }
+    IGroupPtr group11;
+    {
+
+        if ( !group11->HasEntity(line1) )
+        {
+            VARIANT entities1;
+            entities1.vt = ( VT_ARRAY | VT_DISPATCH );
+            entities1.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 1 );
+            long rgIndices1;
+            rgIndices1 = 0;
+            IDispatch* val1;
+            val1 = line1;
+            SafeArrayPutElement( entities1.parray, &rgIndices1, (IDispatch*)(val1) );
+            group11->AddEntities(entities1);
+        }
+        if ( !group11->HasEntity(line2) )
+        {
+            VARIANT entities1;
+            entities1.vt = ( VT_ARRAY | VT_DISPATCH );
+            entities1.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 1 );
+            long rgIndices1;
+            rgIndices1 = 0;
+            IDispatch* val1;
+            val1 = line2;
+            SafeArrayPutElement( entities1.parray, &rgIndices1, (IDispatch*)(val1) );
+            group11->AddEntities(entities1);
+        }
+
+    }
+    {
+
+        VARIANT removeObject1;
+        removeObject1.vt = ( VT_ARRAY | VT_DISPATCH );
+        removeObject1.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 1 );
+        long rgIndices1;
+        rgIndices1 = 0;
+        IDispatch* val1;
+        val1 = line2;
+        SafeArrayPutElement( removeObject1.parray, &rgIndices1, (IDispatch*)(val1) );
+        rgIndices1++;
+
+        group11->RemoveEntities(removeObject1);
+    }
+    {
+        circle3->Explode();
+        iwObjectType_e type1;
+        ILinePtr line12 = pConnection->m_IwApp->GetActiveDocument()->GetObjectByHandle(L"A0", &type1);
+        line12->Explode();
+    }
+    IRegionPtr region13;
+    {
+
+        VARIANT entitiesArray1;
+        entitiesArray1.vt = ( VT_ARRAY | VT_DISPATCH );
+        entitiesArray1.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 3 );
+        long rgIndices1;
+        rgIndices1 = 0;
+        IDispatch* val1;
+        val1 = line1;
+        SafeArrayPutElement( entitiesArray1.parray, &rgIndices1, (IDispatch*)(val1) );
+        rgIndices1++;
+        val1 = line2;
+        SafeArrayPutElement( entitiesArray1.parray, &rgIndices1, (IDispatch*)(val1) );
+        rgIndices1++;
+        val1 = ;
+        SafeArrayPutElement( entitiesArray1.parray, &rgIndices1, (IDispatch*)(val1) );
+        rgIndices1++;
+        VARIANT regionArray1;
+        iwSketchManager->InsertRegion(entitiesArray1, &regionArray1);
+        IRegionPtr *iwRegions1 = NULL;
+        int count1 = 0;
+        TypeConverter::convertVariantArrayToPtrArray<IRegionPtr, IRegion>( regionArray1, iwRegions1, count1 );
+        region13 = iwRegions1[0];
+
+    }
+    IEmbeddedObjectPtr embeddedobject14;
+    {
+        embeddedobject14 = iwSketchManager->InsertEmbeddedObjectFromFile(
+         L"C:\\data\\parts list.xls", 
+         true, 
+         false);
+    }
+    IBlockInstancePtr blockinstance15;
+    {
+        IAttributeInstancePtr *iwAttributes1 = NULL;
+        int count1 = 0;
+        TypeConverter::convertVariantArrayToPtrArray<IAttributeInstancePtr, IAttributeInstance>( blockinstance15->GetAttributeInstances(), iwAttributes1, count1 );
+        for (int i = 0; i < count1; ++i)
+        {
+            if (iwAttributes1[i]->get_Name() == _bstr_t(L"SIZE"))
+                iwAttributes1[i]->put_Value( L"M8" );
+        }
+    }
+    IViewportPtr viewport17;
+    ISheetPtr sheetsArray1 = iwDoc->GetSheet(L"Layout1");
+    if (NULL != sheetsArray1)
+    {
+        VARIANT variant1;
+        variant1.vt = ( VT_ARRAY | VT_R8 );
+        variant1.parray = SafeArrayCreateVector( VT_R8, 0, 9 );
+        long rgIndices1;
+        rgIndices1 = -1;
+        double x_1, y_1, z_1;
+        x_1=0; y_1=0; z_1=0;
+        rgIndices1=0;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=1;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=2;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+        x_1=4; y_1=0; z_1=0;
+        rgIndices1=3;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=4;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=5;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+        x_1=4; y_1=3; z_1=0;
+        rgIndices1=6;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=7;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=8;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+        viewport17 = sheetsArray1->InsertViewport( variant1 );
+    }
+    {
+        line2->Activate();
+    }
+    {
+        IApplicationOptionsPtr appOption;
+        appOption = pConnection->m_IwApp->GetApplicationOptions();
+        IColorPtr iwColor1;
+        iwElementColor_e ElementOption;
+        
+        ElementOption = (iwElementColor_e)3;
+        iwColor1 = pConnection->m_IwApp->GetColorByIndex( 5 );
+        appOption.SetElementColor(ElementOption, iwColor1);
+        ElementOption = (iwElementColor_e)4;
+        iwColor1 = pConnection->m_IwApp->GetRGBColor( 1, 2, 3 );
+        appOption.SetElementColor(ElementOption, iwColor1);
+    }
+    {
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionInt16(iwCommandOptionInt16_EnblChmfAng, 1,&result);
+        }
+
+        pConnection->m_IwApp->GetApplicationOptions()->SetApplicationOptionInt16(iwApplicationOptionInt16_EnblChmfAng, 1);
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionString(iwCommandOptionString_SetCLAYER, L"Walls",&result);
+        }
+    }
+    {
+        iwModel->put_PrintStyle( L"monochrome.ctb" );
+    }
+    ILinePtr line18;
+    ILinePtr line19;
+    {
+        line18 = iwSketchManager->InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 );
+        line18->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+        line18->put_Layer( L"0" );
+        line18->put_LineStyle( L"Continuous" );
+        line18->put_LineScale( 1.00000000000000 );
+        line18->put_LineWeight( iwLnWt_ByLayer );
+        line18->put_Thickness( 0.00000000000000 );
+    }
+}
+

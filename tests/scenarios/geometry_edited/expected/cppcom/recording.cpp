@@ -1,0 +1,334 @@
+﻿#include "stdafx.h"
+#include "resource.h"
+#include "recording_i.h"
+#include "recording.h"
+#include "smartvars.h"
+#include "typeconverter.h"
+#include "IwAddinConnection.h"
+#include "math.h"
+
+class CrecordingModule : public CAtlDllModuleT< CrecordingModule >
+{
+public:
+    DECLARE_LIBID(LIBID_recordingLib)
+    DECLARE_REGISTRY_APPID_RESOURCEID(IDR_recording, "{00000000-0000-4000-8000-000000000003}")
+};
+
+CrecordingModule _AtlModule;
+
+#ifdef _MANAGED
+#pragma managed(push, off)
+#endif
+
+// Entry point of the library
+extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved)
+{
+    hInstance;
+    return _AtlModule.DllMain(dwReason, lpReserved);
+}
+
+#ifdef _MANAGED
+#pragma managed(pop)
+#endif
+
+// Tells whether the library is still in use
+STDAPI DllCanUnloadNow(void)
+{
+    return _AtlModule.DllCanUnloadNow();
+}
+
+// Gives the class factory of an object of this server
+STDAPI DllGetClassObject(REFCLSID rclsid, REFIID riid, LPVOID* ppv)
+{
+    return _AtlModule.DllGetClassObject(rclsid, riid, ppv);
+}
+
+// Adds the server, its type library and the interfaces of the type library to the registry
+STDAPI DllRegisterServer(void)
+{
+    return _AtlModule.DllRegisterServer();
+}
+
+// Removes from the registry what DllRegisterServer added
+STDAPI DllUnregisterServer(void)
+{
+    return _AtlModule.DllUnregisterServer();
+}
+
+IwMacroCommand::IwMacroCommand( ICommand* pCommand )
+    : m_IwCommand( pCommand )
+{
+    DispEventAdvise( m_IwCommand );
+}
+
+IwMacroCommand::~IwMacroCommand()
+{
+    DispEventUnadvise( m_IwCommand );
+}
+
+void __stdcall IwMacroCommand::OnExecuteNotify()
+{
+    CIwAddinConnection* pConnection = getMacroApp();
+
+    IDocumentPtr iwDoc( pConnection->m_IwApp->GetActiveDocument() );
+    if( NULL == iwDoc )
+    {
+        MessageBox (NULL, L"Failed to get current document.", L"title", MB_OK);
+        return;
+    }
+
+    IModelPtr iwModel( iwDoc->GetModel() );
+    if( NULL == iwModel )
+    {
+        MessageBox (NULL, L"Failed to get a model space of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    ISketchManagerPtr iwSketchManager;
+    iwSketchManager = iwModel->GetSketchManager();
+    if( NULL == iwSketchManager )
+    {
+        MessageBox (NULL, L"Failed to get a sketch manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    _variant_t pVariantArray = iwDoc->GetSheets();
+    ISheetPtr *iwSheetArrays = NULL;
+    int count = 0;
+    TypeConverter::convertVariantArrayToPtrArray<ISheetPtr, ISheet>( pVariantArray, iwSheetArrays, count );
+    ISheetPtr iwSheet = iwSheetArrays[1];
+    if( NULL == iwSheet )
+    {
+        MessageBox (NULL, L"Failed to get a paper space of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    ISelectionManagerPtr iwSelManager( iwDoc->GetSelectionManager() );
+    if( NULL == iwSelManager )
+    {
+        MessageBox (NULL, L"Failed to get selection manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    IViewManagerPtr iwViewManager( iwDoc->GetViewManager() );
+    if( NULL == iwViewManager )
+    {
+        MessageBox (NULL, L"Failed to get a view manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    IPolyLinePtr polyline1;
+    IPolyLine3DPtr polyline3d2;
+    ISplinePtr spline3;
+    IPolygonMeshPtr polygonmesh4;
+    IPolyFaceMeshPtr polyfacemesh5;
+    ISolidPtr solid6;
+    ITracePtr trace7;
+    IFacePtr face8;
+    IRichLinePtr richline9;
+    IShapePtr shape10;
+    IEmbeddedObjectPtr embeddedobject11;
+    IViewportPtr viewport12;
+    IRotatedDimensionPtr rotateddimension13;
+    IModelNamedViewPtr modelnamedview14;
+    {
+        double X1;
+        double Y1;
+        polyline1->GetVertexCoordinate( 2, &X1, &Y1 );
+        X1 = 1.50000000000000;
+        polyline1->SetVertexCoordinate( 2, X1, Y1 );
+    }
+    {
+        polyline1->SetSegmentStartWidth( 0, 0.25000000000000 );
+    }
+    {
+        polyline1->SetSegmentEndWidth( 0, 0.50000000000000 );
+    }
+    // AcDbPolyline object modified
+    {
+        polyline1->put_Elevation( 1.00000000000000 );
+        polyline1->put_GlobalWidth( 0.10000000000000 );
+        polyline1->put_Closed( true );
+        polyline1->put_LineStyleGeneration( true );
+    }
+    // AcDbPolyline object modified
+    {
+        polyline1->put_Closed( false );
+        polyline1->put_LineStyleGeneration( false );
+    }
+    {
+        double X2;
+        double Y2;
+        double Z2;
+        polyline3d2->GetVertexCoordinate( 1, &X2, &Y2, &Z2 );
+        Z2 = 7.00000000000000;
+        polyline3d2->SetVertexCoordinate( 1, X2, Y2, Z2 );
+        
+    }
+    // AcDb3dPolyline object modified
+    {
+        polyline3d2->put_FitSmooth( iwPolyLine3DFitSmooth_Qudratic );
+        polyline3d2->put_Closed( true );
+    }
+    {
+        double X3;
+        double Y3;
+        double Z3;
+        spline3->GetControlPointCoordinate( 0, &X3, &Y3, &Z3 );
+        X3 = 3.00000000000000;
+        spline3->SetControlPointCoordinate( 0, X3, Y3, Z3 );
+        
+    }
+    {
+        double X4;
+        double Y4;
+        double Z4;
+        spline3->GetFitPointCoordinate( 3, &X4, &Y4, &Z4 );
+        Y4 = 4.00000000000000;
+        spline3->SetFitPointCoordinate( 3, X4, Y4, Z4 );
+        
+    }
+    // AcDbSpline object modified
+    {
+        spline3->put_FitTolerance( 0.00100000000000 );
+    }
+    {
+        double X5;
+        double Y5;
+        double Z5;
+        polygonmesh4->GetVertexCoordinate( 0, &X5, &Y5, &Z5 );
+        X5 = 5.00000000000000;
+        polygonmesh4->SetVertexCoordinate( 0, X5, Y5, Z5 );
+        
+    }
+    // AcDbPolygonMesh object modified
+    {
+        polygonmesh4->put_MClosed( true );
+        polygonmesh4->put_MDensity( 6.00000000000000 );
+        polygonmesh4->put_NDensity( 4.00000000000000 );
+        polygonmesh4->put_NClosed( false );
+        polygonmesh4->put_FitSmooth( iwPolygonMeshFitSmooth_Bezier );
+    }
+    {
+        double X6;
+        double Y6;
+        double Z6;
+        polyfacemesh5->GetVertexCoordinate( 5, &X6, &Y6, &Z6 );
+        Y6 = 6.00000000000000;
+        polyfacemesh5->SetVertexCoordinate( 5, X6, Y6, Z6 );
+        
+    }
+    {
+        double X7;
+        double Y7;
+        double Z7;
+        solid6->GetVertex1Coordinate( &X7, &Y7, &Z7 );
+        X7 = 1.00000000000000;
+        solid6->SetVertex1Coordinate( X7, Y7, Z7 );
+        
+    }
+    {
+        double X8;
+        double Y8;
+        double Z8;
+        trace7->GetVertex4Coordinate( &X8, &Y8, &Z8 );
+        Z8 = 2.00000000000000;
+        trace7->SetVertex4Coordinate( X8, Y8, Z8 );
+        
+    }
+    // AcDbFace object modified
+    {
+        face8->put_Edge1Visible( true );
+        face8->put_Edge4Visible( false );
+    }
+    {
+        double X9;
+        double Y9;
+        double Z9;
+        face8->GetVertex4Coordinate( &X9, &Y9, &Z9 );
+        X9 = 1.00000000000000;
+        face8->SetVertex4Coordinate( X9, Y9, Z9 );
+        
+    }
+    // AcDbMline object modified
+    {
+        richline9->put_Justification( iwRichLineJustification_Zero );
+        richline9->put_Scale( 20.00000000000000 );
+    }
+    // AcDbShape object modified
+    {
+        double X10;
+        double Y10;
+        double Z10;
+        shape10->GetPosition( &X10, &Y10, &Z10 );
+        X10 = 1.00000000000000;
+        shape10->SetPosition( X10, Y10, Z10 );
+        
+        shape10->put_Obliquing( 0.10000000000000 );
+        shape10->put_Rotation( 0.20000000000000 );
+        shape10->put_Size( 3.00000000000000 );
+        shape10->put_WidthFactor( 0.80000000000000 );
+    }
+    // AcDbOle2Frame object modified
+    {
+        embeddedobject11->put_Height( 2.00000000000000 );
+        double X11;
+        double Y11;
+        double Z11;
+        embeddedobject11->GetPosition( &X11, &Y11, &Z11 );
+        Y11 = 1.00000000000000;
+        embeddedobject11->SetPosition( X11, Y11, Z11 );
+        
+        embeddedobject11->put_Width( 3.00000000000000 );
+        embeddedobject11->put_PrintQuality( iwEmbeddedObjectPrintQuality_HighGraphics );
+    }
+    // AcDbViewport object modified
+    {
+        double X12;
+        double Y12;
+        double Z12;
+        viewport12->GetCenter( &X12, &Y12, &Z12 );
+        X12 = 5.00000000000000;
+        viewport12->SetCenter( X12, Y12, Z12 );
+        
+        viewport12->put_Height( 4.00000000000000 );
+        viewport12->put_CCSPerViewport( true );
+        viewport12->put_CustomScale( 0.50000000000000 );
+        viewport12->put_DisplayLocked( false );
+        viewport12->put_IsOn( true );
+        viewport12->put_ShadePrintStyle( iwViewportShadePrintStyle_Hidden );
+        viewport12->put_StandardScale( iwViewportStandardScale_1_2 );
+    }
+    // AcDbRotatedDimension object modified
+        IGeneralDimensionPtr generalDimension13 = rotateddimension13->GetGeneralDimension();
+    generalDimension13->put_Color( pConnection->m_IwApp->GetColorByIndex( 2 ) );
+    // AcDbRotatedDimension object modified
+    {
+        IGeneralDimensionPtr generalDimension14 = rotateddimension13->GetGeneralDimension();
+        generalDimension14->put_Layer( L"Walls" );
+    }
+    // AcDbRotatedDimension object modified
+    {
+        IGeneralDimensionPtr generalDimension16 = rotateddimension13->GetGeneralDimension();
+        generalDimension16->put_Erased( true );
+    }
+    // AcDbBlockTableRecord object modified
+    IBlockDefinitionPtr blockdefinition15;
+    {
+        blockdefinition15->put_Erased( true );
+    }
+    ILayerManagerPtr iwLayerManager_1 = iwDoc->GetLayerManager();
+    ILayerPtr layer16 = iwLayerManager_1->GetLayer( "0" );
+    // AcDbLayerTableRecord object modified
+    {
+        ILayerManagerPtr iwLayerManager18 = iwDoc->GetLayerManager();
+        BSTR layerName18;
+        layer16->get_Name( &layerName18 );
+        iwLayerManager18->RemoveLayer( layerName18 );
+    }
+    // AcDbViewTableRecord object modified
+    {
+        iwViewManager->RemoveModelNamedView( L"Front" );
+    }
+}
+

@@ -1,0 +1,287 @@
+'--------------------------------------------------------------
+' Preconditions:
+' 1. Create a VBA macro in a software product in which VBA is
+'    embedded.
+' 2. Copy and paste this example into the Visual Basic IDE.
+' 3. Add a reference to the Inkwright type library,
+'    install_dir\bin\iwAutomation.dll.
+' 4. Start Inkwright and open a document.
+' 5. Run the macro.
+'
+' Postconditions: A message box pops up when an Arc is
+' constructed in the drawing document.
+'----------------------------------------------------------------
+Option Explicit
+Sub main()
+	Dim iwApp As Inkwright.Application
+	Dim iwDoc As Inkwright.Document
+	Dim iwModel As Inkwright.Model
+	Dim iwSketchManager As Inkwright.SketchManager
+   Dim iwViewManager As Inkwright.ViewManager
+	'Connect to Inkwright
+	Set iwApp = GetObject(, "Inkwright.Application")
+	'Abort any command currently running in Inkwright
+	'to avoid nested commands
+	iwApp.AbortRunningCommand
+
+	'Get active document
+	Set iwDoc = iwApp.GetActiveDocument()
+	If Not iwDoc Is Nothing Then
+
+		'Get model space
+		Set iwModel = iwDoc.GetModel()
+
+		'Get Sketch Manager
+		Set iwSketchManager = iwModel.GetSketchManager()
+
+        Dim iwSheet As Inkwright.Sheet
+        Dim iwVarSheets As Variant
+        iwVarSheets = iwDoc.GetSheets
+        Set iwSheet = iwVarSheets(1)
+        If iwSheet Is Nothing Then
+            Return
+        End If
+
+		'Get View Manager
+		Set iwViewManager = iwDoc.GetViewManager()
+
+        Dim polyline1 As Inkwright.PolyLine
+        Dim polyline3d2 As Inkwright.PolyLine3D
+        Dim spline3 As Inkwright.Spline
+        Dim polygonmesh4 As Inkwright.PolygonMesh
+        Dim polyfacemesh5 As Inkwright.PolyFaceMesh
+        Dim solid6 As Inkwright.Solid
+        Dim trace7 As Inkwright.Trace
+        Dim face8 As Inkwright.Face
+        Dim richline9 As Inkwright.RichLine
+        Dim shape10 As Inkwright.Shape
+        Dim embeddedobject11 As Inkwright.EmbeddedObject
+        Dim viewport12 As Inkwright.Viewport
+        Dim rotateddimension13 As Inkwright.RotatedDimension
+        Dim modelnamedview14 As Inkwright.ModelNamedView
+        If 1 Then
+            Dim X1 As Double
+            Dim Y1 As Double
+            polyline1.GetVertexCoordinate 2, X1, Y1
+            X1 = 1.50000000000000
+            polyline1.SetVertexCoordinate 2, X1, Y1
+        End If
+
+        If 1 Then
+            polyline1.SetSegmentStartWidth 0, 0.25000000000000
+        End If
+
+        If 1 Then
+            polyline1.SetSegmentEndWidth 0, 0.50000000000000
+        End If
+
+        ' AcDbPolyline object modified
+        If 1 Then
+            polyline1.Elevation = 1.00000000000000
+            polyline1.GlobalWidth = 0.10000000000000
+            polyline1.Closed = True
+            polyline1.LineStyleGeneration = True
+        End If
+
+        ' AcDbPolyline object modified
+        If 1 Then
+            polyline1.Closed = False
+            polyline1.LineStyleGeneration = False
+        End If
+
+        If 1 Then
+            Dim X2 As Double
+            Dim Y2 As Double
+            Dim Z2 As Double
+            polyline3d2.GetVertexCoordinate 1, X2, Y2, Z2 
+            Z2 = 7.00000000000000
+            polyline3d2.SetVertexCoordinate 1, X2, Y2, Z2 
+        End If
+
+        ' AcDb3dPolyline object modified
+        If 1 Then
+            polyline3d2.FitSmooth = Inkwright.iwPolyLine3DFitSmooth_e.iwPolyLine3DFitSmooth_Qudratic
+            polyline3d2.Closed = True
+        End If
+
+        If 1 Then
+            Dim X3 As Double
+            Dim Y3 As Double
+            Dim Z3 As Double
+            spline3.GetControlPointCoordinate 0, X3, Y3, Z3 
+            X3 = 3.00000000000000
+            spline3.SetControlPointCoordinate 0, X3, Y3, Z3 
+        End If
+
+        If 1 Then
+            Dim X4 As Double
+            Dim Y4 As Double
+            Dim Z4 As Double
+            spline3.GetFitPointCoordinate 3, X4, Y4, Z4 
+            Y4 = 4.00000000000000
+            spline3.SetFitPointCoordinate 3, X4, Y4, Z4 
+        End If
+
+        ' AcDbSpline object modified
+        If 1 Then
+            spline3.FitTolerance = 0.00100000000000
+        End If
+
+        If 1 Then
+            Dim X5 As Double
+            Dim Y5 As Double
+            Dim Z5 As Double
+            polygonmesh4.GetVertexCoordinate 0, X5, Y5, Z5 
+            X5 = 5.00000000000000
+            polygonmesh4.SetVertexCoordinate 0, X5, Y5, Z5 
+        End If
+
+        ' AcDbPolygonMesh object modified
+        If 1 Then
+            polygonmesh4.MClosed = True
+            polygonmesh4.MDensity = 6.00000000000000
+            polygonmesh4.NDensity = 4.00000000000000
+            polygonmesh4.NClosed = False
+            polygonmesh4.FitSmooth = Inkwright.iwPolygonMeshFitSmooth_e.iwPolygonMeshFitSmooth_Bezier
+        End If
+
+        If 1 Then
+            Dim X6 As Double
+            Dim Y6 As Double
+            Dim Z6 As Double
+            polyfacemesh5.GetVertexCoordinate 5, X6, Y6, Z6 
+            Y6 = 6.00000000000000
+            polyfacemesh5.SetVertexCoordinate 5, X6, Y6, Z6 
+        End If
+
+        If 1 Then
+            Dim X7 As Double
+            Dim Y7 As Double
+            Dim Z7 As Double
+            solid6.GetVertex1Coordinate X7, Y7, Z7 
+            X7 = 1.00000000000000
+            solid6.SetVertex1Coordinate X7, Y7, Z7 
+        End If
+
+        If 1 Then
+            Dim X8 As Double
+            Dim Y8 As Double
+            Dim Z8 As Double
+            trace7.GetVertex4Coordinate X8, Y8, Z8 
+            Z8 = 2.00000000000000
+            trace7.SetVertex4Coordinate X8, Y8, Z8 
+        End If
+
+        ' AcDbFace object modified
+        If 1 Then
+            face8.Edge1Visible = True
+            face8.Edge4Visible = False
+        End If
+
+        If 1 Then
+            Dim X9 As Double
+            Dim Y9 As Double
+            Dim Z9 As Double
+            face8.GetVertex4Coordinate X9, Y9, Z9 
+            X9 = 1.00000000000000
+            face8.SetVertex4Coordinate X9, Y9, Z9 
+        End If
+
+        ' AcDbMline object modified
+        If 1 Then
+            richline9.Justification = Inkwright.iwRichLineJustification_e.iwRichLineJustification_Zero
+            richline9.Scale = 20.00000000000000
+        End If
+
+        ' AcDbShape object modified
+        If 1 Then
+            Dim X10 As Double
+            Dim Y10 As Double
+            Dim Z10 As Double
+            shape10.GetPosition X10, Y10, Z10 
+            X10 = 1.00000000000000
+            shape10.SetPosition X10, Y10, Z10 
+            shape10.Obliquing = 0.10000000000000
+            shape10.Rotation = 0.20000000000000
+            shape10.Size = 3.00000000000000
+            shape10.WidthFactor = 0.80000000000000
+        End If
+
+        ' AcDbOle2Frame object modified
+        If 1 Then
+            embeddedobject11.Height = 2.00000000000000
+            Dim X11 As Double
+            Dim Y11 As Double
+            Dim Z11 As Double
+            embeddedobject11.GetPosition X11, Y11, Z11 
+            Y11 = 1.00000000000000
+            embeddedobject11.SetPosition X11, Y11, Z11 
+            embeddedobject11.Width = 3.00000000000000
+            embeddedobject11.PrintQuality = Inkwright.iwEmbeddedObjectPrintQuality_e.iwEmbeddedObjectPrintQuality_HighGraphics
+        End If
+
+        ' AcDbViewport object modified
+        If 1 Then
+            Dim X12 As Double
+            Dim Y12 As Double
+            Dim Z12 As Double
+            viewport12.GetCenter X12, Y12, Z12 
+            X12 = 5.00000000000000
+            viewport12.SetCenter X12, Y12, Z12 
+            viewport12.Height = 4.00000000000000
+            viewport12.CCSPerViewport = True
+            viewport12.CustomScale = 0.50000000000000
+            viewport12.DisplayLocked = False
+            viewport12.IsOn = True
+            viewport12.ShadePrintStyle = Inkwright.iwViewportShadePrintStyle_e.iwViewportShadePrintStyle_Hidden
+            viewport12.StandardScale = Inkwright.iwViewportStandardScale_e.iwViewportStandardScale_1_2
+        End If
+
+        ' AcDbRotatedDimension object modified
+            Dim generalDimension13 As Inkwright.GeneralDimension
+            Set generalDimension13 = rotateddimension13.GetGeneralDimension()
+        generalDimension13.Color = iwApp.GetColorByIndex( 2 )
+        ' AcDbRotatedDimension object modified
+        If 1 Then
+            Dim generalDimension14 As Inkwright.GeneralDimension
+            Set generalDimension14 = rotateddimension13.GetGeneralDimension()
+            generalDimension14.Layer = "Walls"
+        End If
+
+        ' AcDbRotatedDimension object modified
+        If 1 Then
+            Dim generalDimension16 As Inkwright.GeneralDimension
+            Set generalDimension16 = rotateddimension13.GetGeneralDimension()
+            generalDimension16.Erased = True
+        End If
+
+        ' AcDbBlockTableRecord object modified
+        Dim blockdefinition15 As Inkwright.BlockDefinition
+        If 1 Then
+            blockdefinition15.Erased = True
+        End If
+
+        Dim iwLayerManager_1 As Inkwright.LayerManager
+        Set iwLayerManager_1  = iwDoc.GetLayerManager()
+        Dim layer16 As Inkwright.Layer
+        Set layer16  = iwLayerManager_1.GetLayer( "0" )
+        ' AcDbLayerTableRecord object modified
+        If 1 Then
+            Dim iwLayerManager18 As Inkwright.LayerManager
+            Set iwLayerManager18 = iwDoc.GetLayerManager()
+            Dim layerName18 As String
+            layerName18 = layer16.Name
+            iwLayerManager18.RemoveLayer layerName18
+        End If
+
+        ' AcDbViewTableRecord object modified
+        If 1 Then
+            iwViewManager.RemoveModelNamedView "Front"
+        End If
+
+	Else
+
+		MsgBox "There are no open documents in Inkwright"
+
+	End If
+End Sub
