@@ -365,7 +365,7 @@ TEST_F(SysVars, CountOnlyWhereTheStatementHasANumber)
     EXPECT_TRUE(QString::fromStdString(converted(page, "USERS1", OdString("%5"))).contains("\"%5\""));
 }
 
-/// The next numbers of the process-wide counters, as one conversion of each sort uses them up.
+/// Use up a number of the process-wide counters.
 int takeNumber(CFxConverterIWAPIImpl& target, QString (CFxConverterIWAPIImpl::*emitObject)(CFxString&))
 {
     CFxString name;
@@ -411,7 +411,7 @@ TEST_F(SysVars, FetchTheirFileObjects)
 
 TEST_F(SysVars, SetFileLocationsInArrays)
 {
-    // # is the object's number, @ the array's.
+    // @ is the array's number.
     const Expected expected{
         "    iwStringArray sArraySupportPaths_@;\n    sArraySupportPaths_@.add( L\"C:\\a\" );\n"
         "    sArraySupportPaths_@.add( L\"b\" );\n    x->put_SupportPaths( sArraySupportPaths_@ );\n",
@@ -441,6 +441,31 @@ TEST_F(SysVars, SetFileLocationsInArrays)
         const QString text = target.EmitFileLocationArray("x", "SupportPaths", {CFxString("C:\\a"), CFxString("b")});
         EXPECT_EQ(text.toStdString(),
                   QString(in(expected, language)).replace('@', QString::number(number)).toStdString());
+    }
+}
+
+TEST_F(SysVars, SetOneFileLocationInEachTarget)
+{
+    const Expected expected{
+        "    {\n        iwSystemFiles_ptr iwSystemFiles_#;\n        m_pIwApp->GetSystemFiles( &iwSystemFiles_# );\n"
+        "        iwSystemFiles_#->put_TempPath( L\"C:\\\\t\" );\n    }\n\n",
+        "    {\n        SystemFiles iwSystemFiles_# = iwApp.GetSystemFiles();\n"
+        "        iwSystemFiles_#.TempPath = \"C:\\\\t\";\n    }\n\n",
+        "    var iwSystemFiles_# = mApp.GetSystemFiles();\n    iwSystemFiles_#.put_TempPath (\"C:\\\\t\");\n\n",
+        "    If 1 Then\n        Dim iwSystemFiles_# As Inkwright.SystemFiles = iwApp.GetSystemFiles()\n"
+        "        iwSystemFiles_#.TempPath = \"C:\\t\"\n    End If\n\n\n",
+        "    {\n        ISystemFilesPtr iwSystemFiles_# = pConnection->m_IwApp->GetSystemFiles();\n"
+        "        iwSystemFiles_#->put_TempPath( L\"C:\\\\t\" );\n    }\n\n",
+        "    If 1 Then\n        Dim iwSystemFiles_# As Inkwright.SystemFiles\n"
+        "        Set iwSystemFiles_# = iwApp.GetSystemFiles()\n"
+        "        iwSystemFiles_#.TempPath = \"C:\\t\"\n    End If\n\n\n",
+    };
+    for (int language = 0; language < languages; ++language) {
+        speak(language);
+        Statements target(static_cast<Target>(language));
+        const int number = takeNumber(target, &CFxConverterIWAPIImpl::EmitSystemFilesObject) + 1;
+        EXPECT_EQ(converted(target, 35, "eFileLocSystemTemporaryFileLoc", CFxString("C:\\t")),
+                  QString(in(expected, language)).replace('#', QString::number(number)).toStdString());
     }
 }
 
