@@ -4,6 +4,7 @@
 #include "actions/optionTable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "targets/texts.h"
 
 #include <QStringList>
 
@@ -18,12 +19,11 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionEmbeddedObject(OdSmartPtr<CFxCu
     if (action->GetKind() != kEmbeddedObject || action->GetDataCount() != 2 ||
         action->GetData(0).GetType() != Datum::kInt || action->GetData(1).GetType() != Datum::kString)
         return kFxFailure;
-    CFxString path = action->GetData(1).GetString();
+    const CFxString& path = action->GetData(1).GetString();
     if (path.isEmpty())
         return kFxFailure;
-    path.replace("\\", "\\\\");
     const int flags = action->GetData(0).GetInt();
-    text = EmitInsertEmbeddedObject(text, path, (flags & 1) != 0, (flags & 2) != 0);
+    text = EmitInsertEmbeddedObject(text, inkmacro::doubleBackslashes(path), (flags & 1) != 0, (flags & 2) != 0);
     return kFxSuccess;
 }
 

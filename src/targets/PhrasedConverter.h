@@ -115,9 +115,9 @@ private:
     inkmacro::Fill fillList(const inkmacro::Phrase& phrase) const;
     /// What the declaration of an array of so many elements names: the count, in Basic the highest index.
     int arrayBound(std::size_t count) const;
-    QString arrayHead(const inkmacro::Phrase& phrase, std::size_t count) const;
+    QString listHead(const inkmacro::Phrase& phrase, std::size_t count) const;
     /// The line that puts one element into an array.
-    QString arrayElement(const inkmacro::Phrase& phrase, std::size_t index, const QString& word) const;
+    QString listElement(const inkmacro::Phrase& phrase, std::size_t index, const QString& word) const;
     QString objectElements(const inkmacro::Phrase& phrase, const char* array, const std::vector<CFxString>& names);
     QString objectArray(const EntityList& entities);
     QString typedArrays(const EntityList& entities, bool lookUpUnknown);

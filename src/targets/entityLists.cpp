@@ -17,12 +17,12 @@ int PhrasedConverter::arrayBound(std::size_t count) const
     return static_cast<int>(count) - (isBasic(target_) ? 1 : 0);
 }
 
-QString PhrasedConverter::arrayHead(const Phrase& phrase, std::size_t count) const
+QString PhrasedConverter::listHead(const Phrase& phrase, std::size_t count) const
 {
     return fillList(phrase).number(UniqueCounter).number(arrayBound(count));
 }
 
-QString PhrasedConverter::arrayElement(const Phrase& phrase, std::size_t index, const QString& word) const
+QString PhrasedConverter::listElement(const Phrase& phrase, std::size_t index, const QString& word) const
 {
     Fill line = fillList(phrase);
     line.number(UniqueCounter);
@@ -38,7 +38,7 @@ QString PhrasedConverter::objectElements(const Phrase& phrase, const char* array
         return comObjects(IndentLevel, array, UniqueCounter, std::vector<QString>(names.begin(), names.end()));
     QString text;
     for (std::size_t i = 0; i < names.size(); ++i)
-        text += arrayElement(phrase, i, names[i]);
+        text += listElement(phrase, i, names[i]);
     return text;
 }
 
@@ -80,7 +80,7 @@ static const Phrase objectElement{"EmitMoveEntities",
 QString PhrasedConverter::objectArray(const EntityList& entities)
 {
     const std::size_t count = entities.names.size();
-    return arrayHead(objectsHead, count) + arrayHead(objectsSize, count) +
+    return listHead(objectsHead, count) + listHead(objectsSize, count) +
            objectElements(objectElement, "objects", entities.names) + LineEnd;
 }
 
@@ -171,8 +171,8 @@ QString PhrasedConverter::typedElements(const EntityList& entities, bool lookUpU
             comObjectWords.emplace_back(lookedUp ? "iwObjForCopy" + suffix : name);
             comTypeWords.push_back(lookedUp ? "iwTypeForCopy" + suffix : type);
         } else {
-            text += arrayElement(lookedUp ? foundType : typeElement, i, lookedUp ? suffix : type);
-            text += arrayElement(lookedUp ? foundObject : objectElement, i, lookedUp ? suffix : name);
+            text += listElement(lookedUp ? foundType : typeElement, i, lookedUp ? suffix : type);
+            text += listElement(lookedUp ? foundObject : objectElement, i, lookedUp ? suffix : name);
         }
     }
     if (target_ == Target::CppCom)
@@ -184,8 +184,7 @@ QString PhrasedConverter::typedElements(const EntityList& entities, bool lookUpU
 QString PhrasedConverter::typedArrays(const EntityList& entities, bool lookUpUnknown)
 {
     const std::size_t count = entities.names.size();
-    return arrayHead(typedHead, count) + arrayHead(objectsSize, count) + typedElements(entities, lookUpUnknown) +
-           LineEnd;
+    return listHead(typedHead, count) + listHead(objectsSize, count) + typedElements(entities, lookUpUnknown) + LineEnd;
 }
 
 static const Phrase mirrorEntities{
@@ -372,7 +371,7 @@ QString PhrasedConverter::EmitStretchEntities(const EntityList& entities, const 
                                               const OdGePoint3d& end, const OdGeVector3d& offset)
 {
     const std::size_t count = entities.names.size();
-    const QString arrays = arrayHead(stretchHead, count) + arrayHead(stretchSize, count) +
+    const QString arrays = listHead(stretchHead, count) + listHead(stretchSize, count) +
                            objectElements(objectElement, "objects", entities.names) + LineEnd + crossingBox(start, end);
     return arrays + fillList(stretchEntities).shortVector(offset).number(UniqueCounter).str();
 }

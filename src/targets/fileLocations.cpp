@@ -81,31 +81,31 @@ QString PhrasedConverter::EmitDrawingSupportFilesObject(CFxString& variable)
 }
 
 /// C# and VB.NET declare the array together with its elements.
-static const Phrase locationDeclaration{"EmitFileLocationArray",
-                                        {
-                                            .cpp = "%1iwStringArray sArray%3_%4;%2",
-                                            .cppCom =
-                                                "%1VARIANT sArray%3_%4;%2%1sArray%3_%4.vt = ( VT_ARRAY | VT_BSTR );%2"
-                                                "%1sArray%3_%4.parray = SafeArrayCreateVector( VT_BSTR, 0, %5 );%2"
-                                                "%1long rg%3_%4 = -1;%2",
-                                            .javascript = "%1var sArray%3_%4 = new Array( %5 );%2",
-                                            .vba = "%1Dim sArray%3_%4(%5) As String%2",
-                                        }};
+static const Phrase arrayDeclaration{"EmitFileLocationArray",
+                                     {
+                                         .cpp = "%1iwStringArray sArray%3_%4;%2",
+                                         .cppCom =
+                                             "%1VARIANT sArray%3_%4;%2%1sArray%3_%4.vt = ( VT_ARRAY | VT_BSTR );%2"
+                                             "%1sArray%3_%4.parray = SafeArrayCreateVector( VT_BSTR, 0, %5 );%2"
+                                             "%1long rg%3_%4 = -1;%2",
+                                         .javascript = "%1var sArray%3_%4 = new Array( %5 );%2",
+                                         .vba = "%1Dim sArray%3_%4(%5) As String%2",
+                                     }};
 
 /// The page's literal has one number for the element and for the array that it goes into, so an element with another
 /// number than its array misses it. It has to stay so.
-static const Phrase locationElement{"EmitFileLocationArray",
-                                    {
-                                        .cpp = "%1sArray%3_%4.add( L\"%5\" );%2",
-                                        .cppCom = "%1rg%3_%4 = %5;%2%1BSTR s%3_%5 = SysAllocString( L\"%6\");%2"
-                                                  "%1SafeArrayPutElement( sArray%3_%4.parray, &rg%3_%4, s%3_%5 );%2",
-                                        .csharp = "%1string s%3_%4 = \"%5\";%2",
-                                        .javascript = "%1var s%3_%4 = \"%5\";%2%1sArray%3_%4[%4] = s%3_%4;%2",
-                                        .vbNet = "%1Dim s%3_%4 As String = \"%5\"%2",
-                                        .vba = "%1sArray%3_%4(%5) = \"%6\"%2",
-                                    }};
+static const Phrase arrayElement{"EmitFileLocationArray",
+                                 {
+                                     .cpp = "%1sArray%3_%4.add( L\"%5\" );%2",
+                                     .cppCom = "%1rg%3_%4 = %5;%2%1BSTR s%3_%5 = SysAllocString( L\"%6\");%2"
+                                               "%1SafeArrayPutElement( sArray%3_%4.parray, &rg%3_%4, s%3_%5 );%2",
+                                     .csharp = "%1string s%3_%4 = \"%5\";%2",
+                                     .javascript = "%1var s%3_%4 = \"%5\";%2%1sArray%3_%4[%4] = s%3_%4;%2",
+                                     .vbNet = "%1Dim s%3_%4 As String = \"%5\"%2",
+                                     .vba = "%1sArray%3_%4(%5) = \"%6\"%2",
+                                 }};
 
-static const Phrase locationAssignment{
+static const Phrase arrayAssignment{
     "EmitFileLocationArray",
     {
         .cpp = "%5%1%6->put_%3( sArray%3_%4 );%2",
@@ -120,7 +120,7 @@ static const Phrase locationAssignment{
 QString PhrasedConverter::fileLocationElement(const CFxString& property, std::uint32_t array, int index,
                                               const CFxString& value) const
 {
-    Fill element = fill(locationElement);
+    Fill element = fill(arrayElement);
     element.text(property);
     if (target_ == Target::Cpp || target_ == Target::CppCom || target_ == Target::Vba)
         element.number(array);
@@ -138,7 +138,7 @@ QString PhrasedConverter::EmitFileLocationArray(const CFxString& variable, const
 
     // VBA declares the last index and not the size.
     QString elements =
-        fill(locationDeclaration).text(property).number(array).number(target_ == Target::Vba ? size - 1 : size);
+        fill(arrayDeclaration).text(property).number(array).number(target_ == Target::Vba ? size - 1 : size);
     QStringList names;
     for (int i = 0; i < size; ++i) {
         elements += fileLocationElement(property, array, i, values[static_cast<std::size_t>(i)]);
@@ -146,7 +146,7 @@ QString PhrasedConverter::EmitFileLocationArray(const CFxString& variable, const
     }
 
     const QString list = names.join(QLatin1String(", "));
-    Fill assignment = fill(locationAssignment);
+    Fill assignment = fill(arrayAssignment);
     assignment.text(property).number(array);
     if (target_ == Target::CSharp || target_ == Target::VbNet)
         assignment.text(list);

@@ -89,7 +89,7 @@ static const Phrase removeCall{"EmitGroupRemoveEntities",
 QString PhrasedConverter::EmitGroupRemoveEntities(const std::vector<CFxString>& names, const CFxString& group)
 {
     ++UniqueCounter;
-    return LineEnd + arrayHead(removeHead, names.size()) + arrayHead(removeSize, names.size()) +
+    return LineEnd + listHead(removeHead, names.size()) + listHead(removeSize, names.size()) +
            objectElements(removeElement, "removeObject", names) + LineEnd +
            fillIndented(removeCall).number(UniqueCounter).text(group).str();
 }
