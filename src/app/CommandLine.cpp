@@ -250,8 +250,9 @@ Options of convert:
       being read never. Macros in one folder share the start-up program: that
       of the last one stays.
   --replay
-      The macro stops where the recorded command asked its user something, and
-      offers the recorded answer. Without it the recording's header says.
+      The macro stops where the recorded command asked its user something,
+      offers the recorded answer, and sets the system variables that changed.
+      Without it the recording's header says.
   --recording-language N
       The host setting that decides on the byte order mark and on the form of
       type names, 0 to 5. Without it the recording's header says, or else the
