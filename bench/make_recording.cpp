@@ -172,8 +172,11 @@ public:
         head();
         while (count > 0) {
             const std::uint64_t children = std::min<std::uint64_t>(count, 1 + dice_.below(40));
-            command(anyKind(), children);
+            const Kind& kind = anyKind();
+            command(kind, children);
             count -= children;
+            if (dice_.chance(15))
+                changes(kind, children);
             if (dice_.chance(10)) {
                 sysVar();
                 out_.end();
@@ -190,9 +193,11 @@ private:
         out_.end();
         for (std::uint64_t layer = 0; layer < layers; ++layer) {
             out_ << R"({"object":{"class":"AcDbLayerTableRecord","handle":")";
-            out_.handle(firstLayer + layer) << R"("}})";
+            out_.handle(firstLayer + layer) << R"(","name":"Layer )" << layer << R"("}})";
             out_.end();
         }
+        out_ << R"({"object":{"class":"AcDbLinetypeTableRecord","handle":"1A","name":"Continuous"}})";
+        out_.end();
         out_ << R"({"object":{"class":"AcDbLayout","handle":"22","layoutName":"Model","modelType":true}})";
         out_.end();
     }
@@ -226,6 +231,38 @@ private:
         out_.end();
     }
 
+    /// Some of the last command's objects are restyled or moved.
+    void changes(const Kind& kind, std::uint64_t last)
+    {
+        out_ << R"({"command":{"name":"PROPERTIES","actions":[)";
+        for (std::uint64_t i = 1; i <= std::min<std::uint64_t>(last, 5); ++i) {
+            if (i > 1)
+                out_ << ",";
+            out_ << R"({"modified":{"class":")" << kind.cls << R"(","handle":")";
+            out_.handle(nextHandle_ - i) << R"(","properties":[{"tag":")";
+            if (&kind != kinds || dice_.chance(50)) {
+                out_ << R"(Layer","value":{"id":")";
+                out_.handle(firstLayer + dice_.below(layers)) << R"("}}]}})";
+            } else {
+                out_ << R"(End X","value":)";
+                number(Form::Length);
+                out_ << "}]}}";
+            }
+        }
+        out_ << "]}}";
+        out_.end();
+    }
+
+    void color()
+    {
+        if (dice_.chance(70))
+            out_ << R"("bylayer")";
+        else if (dice_.chance(70))
+            out_ << R"({"index":)" << 1 + dice_.below(255) << "}";
+        else
+            out_ << R"({"rgb":[)" << dice_.below(256) << "," << dice_.below(256) << "," << dice_.below(256) << "]}";
+    }
+
     void interaction(std::string_view prompt)
     {
         out_ << R"({"interaction":{"kind":"point","prompt":")" << prompt << R"(","result":{"point3d":[)";
@@ -253,7 +290,9 @@ private:
             number(tag.form);
             out_ << geometry << ",";
         }
-        out_ << R"({"tag":"LineColor","value":{"color":"bylayer"})" << general;
+        out_ << R"({"tag":"LineColor","value":{"color":)";
+        color();
+        out_ << "}" << general;
         out_ << R"(,{"tag":"Layer","value":{"id":")";
         out_.handle(firstLayer + dice_.below(layers)) << R"("})" << general;
         out_ << R"(,{"tag":"LineStyle","value":{"id":"1A"})" << general;

@@ -250,7 +250,7 @@ TEST_F(Program, ShowsTheSnapshotOfAnObject)
 )");
     EXPECT_EQ(run({"snapshot", "d.jsonl", "--handle", "2f"}).out,
               "Erased       \"YES\"\n"
-              "vertices     chosen 0, elements (tag 0, value (1, 2, 0.5), tag 1, value (3, 4, 0))\n"
+              "vertices     collection chosen 0, elements (tag 0, value (1, 2, 0.5), tag 1, value (3, 4, 0))\n"
               "closedMline  0\n");
     const QString json = run({"snapshot", "d.jsonl", "--handle", "30", "--json"}).out;
     EXPECT_TRUE(json.contains("\"tag\": \"Content\"") && json.contains("\"value\": \"a\\nb\"")) << json.toStdString();
@@ -344,13 +344,6 @@ TEST_F(Program, ConvertsNothingWithFaultyNamesOfOptions)
     EXPECT_EQ(run({"convert", "walls.jsonl", "--target", "csharp", "--option-names", "nowhere"}).status, 3);
     EXPECT_EQ(run({"convert", "walls.jsonl", "--target", "csharp", "--option-names", "."}).status, 3);
     EXPECT_FALSE(exists("out") || exists("csharp"));
-}
-
-TEST_F(Program, KeepsThePageOfSystemVariablesUpToDate)
-{
-    QFile page(INKMACRO_SOURCE_DIR "/docs/system-variables.md");
-    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(run({"system-variables"}).out == QString::fromUtf8(page.readAll())) << "scripts/update-docs writes it";
 }
 
 } // namespace

@@ -38,19 +38,19 @@ QString comIntegers(unsigned level, const QString& array, unsigned suffix, const
 
 QString comPoint(unsigned level, const QString& array, unsigned suffix, const OdGePoint3d& point)
 {
-    static const Template words("%1long rgIndices%3;%2%1rgIndices%3 = 0;%2%1double x, y, z;%2"
-                                "%1x=%4; y=%5; z=%6;%2"
-                                "%1SafeArrayPutElement( %7%3.parray, &rgIndices%3, (double*)&(x) );%2"
-                                "%1rgIndices%3=1;%2"
-                                "%1SafeArrayPutElement( %7%3.parray, &rgIndices%3, (double*)&(y) );%2"
-                                "%1rgIndices%3=2;%2"
-                                "%1SafeArrayPutElement( %7%3.parray, &rgIndices%3, (double*)&(z) );%2");
+    static const Template words("%1long rgIndices%4;%2%1rgIndices%4 = 0;%2%1double x, y, z;%2"
+                                "%1x=%5; y=%6; z=%7;%2"
+                                "%1SafeArrayPutElement( %3%4.parray, &rgIndices%4, (double*)&(x) );%2"
+                                "%1rgIndices%4=1;%2"
+                                "%1SafeArrayPutElement( %3%4.parray, &rgIndices%4, (double*)&(y) );%2"
+                                "%1rgIndices%4=2;%2"
+                                "%1SafeArrayPutElement( %3%4.parray, &rgIndices%4, (double*)&(z) );%2");
     return Fill(&words, level, LineEnd)
+        .text(array)
         .number(suffix)
         .shortReal(point.x)
         .shortReal(point.y)
-        .shortReal(point.z)
-        .text(array);
+        .shortReal(point.z);
 }
 
 QString comPoints(unsigned level, unsigned suffix, const OdArray<OdGePoint3d>& points)

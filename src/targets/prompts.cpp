@@ -59,8 +59,8 @@ static const Phrase promptPoint{
                  "%1basePoint%3 = m_pMathUtil%3.CreatePoint( 0, 0, 0 )%2"
                  "%1Dim cmdMesage%3 As Inkwright.CommandMessage%2%1cmdMesage%3 = iwApp.GetCommandMessage()%2"
                  "%1Dim resultKeyword%3 As String%2%1Dim iwStringArray%3 As Object = New Object()%2"
-                 "%1cmdMesage%3.PromptForPointOrKeyword( \"%4\", \"Error message\", iwStringArray%3, _%2"
-                 "%1iwStringArray%3, 0, False, defaultPoint%3, basePoint%3, resultKeyword%3, resultPoint%3, "
+                 "%1cmdMesage%3.PromptForPointOrKeyword( \"%4\", \"Error message\", iwStringArray%3, "
+                 "iwStringArray%3, 0, False, defaultPoint%3, basePoint%3, resultKeyword%3, resultPoint%3, "
                  "plane%3 )%2%2",
         .vba = "%1Dim m_pMathUtil%3 As Inkwright.MathUtility%2%1Dim plane%3 As Inkwright.MathPlane%2"
                "%1Set m_pMathUtil%3 = iwApp.GetMathUtility()%2%1Set plane%3 = m_pMathUtil%3.CreateYZPlane()%2"
@@ -72,8 +72,8 @@ static const Phrase promptPoint{
                "%1Set basePoint%3 = m_pMathUtil%3.CreatePoint( 0, 0, 0 )%2"
                "%1Dim cmdMesage%3 As Inkwright.CommandMessage%2%1Set cmdMesage%3 = iwApp.GetCommandMessage()%2"
                "%1Dim resultKeyword%3 As String%2%1Dim iwStringArray%3 As Variant%2"
-               "%1cmdMesage%3.PromptForPointOrKeyword \"%4\", \"Error message\", iwStringArray%3, _%2"
-               "%1iwStringArray%3, 0, False, defaultPoint%3, basePoint%3, resultKeyword%3, resultPoint%3, plane%3%2%2",
+               "%1cmdMesage%3.PromptForPointOrKeyword \"%4\", \"Error message\", iwStringArray%3, "
+               "iwStringArray%3, 0, False, defaultPoint%3, basePoint%3, resultKeyword%3, resultPoint%3, plane%3%2%2",
     }};
 
 QString PhrasedConverter::EmitPromptPoint(const CFxString& prompt, const OdGePoint3d& value)

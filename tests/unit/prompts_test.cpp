@@ -349,7 +349,7 @@ TEST(PromptStatements, BuildAStageForAPoint)
          "basePoint7 = m_pMathUtil7.CreatePoint( 0, 0, 0 )\nDim cmdMesage7 As Inkwright.CommandMessage\n"
          "cmdMesage7 = iwApp.GetCommandMessage()\nDim resultKeyword7 As String\n"
          "Dim iwStringArray7 As Object = New Object()\n"
-         "cmdMesage7.PromptForPointOrKeyword( \"P:\", \"Error message\", iwStringArray7, _\n"
+         "cmdMesage7.PromptForPointOrKeyword( \"P:\", \"Error message\", iwStringArray7, "
          "iwStringArray7, 0, False, defaultPoint7, basePoint7, resultKeyword7, resultPoint7, plane7 )\n\n",
          "Dim m_pMathUtil7 As Inkwright.MathUtility\nDim plane7 As Inkwright.MathPlane\n"
          "Set m_pMathUtil7 = iwApp.GetMathUtility()\nSet plane7 = m_pMathUtil7.CreateYZPlane()\n"
@@ -361,7 +361,7 @@ TEST(PromptStatements, BuildAStageForAPoint)
          "Set basePoint7 = m_pMathUtil7.CreatePoint( 0, 0, 0 )\nDim cmdMesage7 As Inkwright.CommandMessage\n"
          "Set cmdMesage7 = iwApp.GetCommandMessage()\nDim resultKeyword7 As String\n"
          "Dim iwStringArray7 As Variant\n"
-         "cmdMesage7.PromptForPointOrKeyword \"P:\", \"Error message\", iwStringArray7, _\n"
+         "cmdMesage7.PromptForPointOrKeyword \"P:\", \"Error message\", iwStringArray7, "
          "iwStringArray7, 0, False, defaultPoint7, basePoint7, resultKeyword7, resultPoint7, plane7\n\n"});
 }
 

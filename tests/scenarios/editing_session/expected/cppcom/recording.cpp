@@ -211,22 +211,22 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
             rgIndices0 = 0;
             double x, y, z;
             x=9; y=-1; z=0;
-            SafeArrayPutElement( crossingBoxStartCorner.parray, &rgIndices0, (double*)&(x) );
+            SafeArrayPutElement( crossingBoxStartCorner0.parray, &rgIndices0, (double*)&(x) );
             rgIndices0=1;
-            SafeArrayPutElement( crossingBoxStartCorner.parray, &rgIndices0, (double*)&(y) );
+            SafeArrayPutElement( crossingBoxStartCorner0.parray, &rgIndices0, (double*)&(y) );
             rgIndices0=2;
-            SafeArrayPutElement( crossingBoxStartCorner.parray, &rgIndices0, (double*)&(z) );
+            SafeArrayPutElement( crossingBoxStartCorner0.parray, &rgIndices0, (double*)&(z) );
         }
         {
             long rgIndices0;
             rgIndices0 = 0;
             double x, y, z;
             x=11; y=1; z=0;
-            SafeArrayPutElement( crossingBoxEndCorner.parray, &rgIndices0, (double*)&(x) );
+            SafeArrayPutElement( crossingBoxEndCorner0.parray, &rgIndices0, (double*)&(x) );
             rgIndices0=1;
-            SafeArrayPutElement( crossingBoxEndCorner.parray, &rgIndices0, (double*)&(y) );
+            SafeArrayPutElement( crossingBoxEndCorner0.parray, &rgIndices0, (double*)&(y) );
             rgIndices0=2;
-            SafeArrayPutElement( crossingBoxEndCorner.parray, &rgIndices0, (double*)&(z) );
+            SafeArrayPutElement( crossingBoxEndCorner0.parray, &rgIndices0, (double*)&(z) );
         }
 
         iwSketchManager->StretchEntities(2.5, 0, 0, objects0, crossingBoxStartCorner0, crossingBoxEndCorner0);

@@ -77,7 +77,8 @@ bool CMacroCommand::ExecuteNotify(void)
         iwColor_ptr iwColor1;
         m_pIwApp->GetColorByIndex( 256, &iwColor1 );
         iwline1->put_Color( iwColor1 );
-        iwline1->put_Layer( L"" );
+        iwline1->put_Layer( L"0" );
+        iwline1->put_LineStyle( L"Continuous" );
         iwline1->put_LineScale( 1.00000000000000 );
         iwline1->put_LineWeight( iwLnWt_ByLayer );
         iwline1->put_Thickness( 0.00000000000000 );
@@ -85,7 +86,8 @@ bool CMacroCommand::ExecuteNotify(void)
         iwColor_ptr iwColor2;
         m_pIwApp->GetColorByIndex( 256, &iwColor2 );
         iwline2->put_Color( iwColor2 );
-        iwline2->put_Layer( L"" );
+        iwline2->put_Layer( L"0" );
+        iwline2->put_LineStyle( L"Continuous" );
         iwline2->put_LineScale( 1.00000000000000 );
         iwline2->put_LineWeight( iwLnWt_ByLayer );
         iwline2->put_Thickness( 0.00000000000000 );
@@ -93,7 +95,8 @@ bool CMacroCommand::ExecuteNotify(void)
         iwColor_ptr iwColor3;
         m_pIwApp->GetColorByIndex( 1, &iwColor3 );
         iwline3->put_Color( iwColor3 );
-        iwline3->put_Layer( L"" );
+        iwline3->put_Layer( L"0" );
+        iwline3->put_LineStyle( L"Continuous" );
         iwline3->put_LineScale( 1.00000000000000 );
         iwline3->put_LineWeight( iwLnWt_ByLayer );
         iwline3->put_Thickness( 0.00000000000000 );
@@ -101,7 +104,8 @@ bool CMacroCommand::ExecuteNotify(void)
         iwColor_ptr iwColor4;
         m_pIwApp->GetRGBColor( 255, 128, 0, &iwColor4 );
         iwline4->put_Color( iwColor4 );
-        iwline4->put_Layer( L"" );
+        iwline4->put_Layer( L"0" );
+        iwline4->put_LineStyle( L"Continuous" );
         iwline4->put_LineScale( 1.00000000000000 );
         iwline4->put_LineWeight( iwLnWt_ByLayer );
         iwline4->put_Thickness( 0.00000000000000 );
@@ -113,7 +117,8 @@ bool CMacroCommand::ExecuteNotify(void)
         iwColor_ptr iwColor1;
         m_pIwApp->GetColorByIndex( 256, &iwColor1 );
         iwcircle5->put_Color( iwColor1 );
-        iwcircle5->put_Layer( L"" );
+        iwcircle5->put_Layer( L"0" );
+        iwcircle5->put_LineStyle( L"Continuous" );
         iwcircle5->put_LineScale( 1.00000000000000 );
         iwcircle5->put_LineWeight( iwLnWt_ByLayer );
         iwcircle5->put_Thickness( 0.00000000000000 );
@@ -121,7 +126,8 @@ bool CMacroCommand::ExecuteNotify(void)
         iwColor_ptr iwColor2;
         m_pIwApp->GetColorByIndex( 256, &iwColor2 );
         iwcircle6->put_Color( iwColor2 );
-        iwcircle6->put_Layer( L"" );
+        iwcircle6->put_Layer( L"0" );
+        iwcircle6->put_LineStyle( L"Continuous" );
         iwcircle6->put_LineScale( 1.00000000000000 );
         iwcircle6->put_LineWeight( iwLnWt_ByLayer );
         iwcircle6->put_Thickness( 0.00000000000000 );
@@ -157,7 +163,8 @@ bool CMacroCommand::ExecuteNotify(void)
     iwColor_ptr iwColor1;
     m_pIwApp->GetColorByIndex( 256, &iwColor1 );
     iwcircle16->put_Color( iwColor1 );
-    iwcircle16->put_Layer( L"" );
+    iwcircle16->put_Layer( L"0" );
+    iwcircle16->put_LineStyle( L"Continuous" );
     iwcircle16->put_LineScale( 1.00000000000000 );
     iwcircle16->put_LineWeight( iwLnWt_ByLayer );
     iwcircle16->put_Thickness( 0.00000000000000 );
@@ -175,7 +182,8 @@ bool CMacroCommand::ExecuteNotify(void)
     iwColor_ptr iwColor3;
     m_pIwApp->GetColorByIndex( 256, &iwColor3 );
     iwline18->put_Color( iwColor3 );
-    iwline18->put_Layer( L"" );
+    iwline18->put_Layer( L"0" );
+    iwline18->put_LineStyle( L"Continuous" );
     iwline18->put_LineScale( 1.00000000000000 );
     iwline18->put_LineWeight( iwLnWt_ByLayer );
     iwline18->put_Thickness( 0.00000000000000 );

@@ -52,25 +52,29 @@ Sub main()
         If 1 Then
             Set line1 = iwSketchManager.InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 120.00000000000000, 0.00000000000000, 0.00000000000000 )
             line1.Color = iwApp.GetColorByIndex( 256 )
-            line1.Layer = ""
+            line1.Layer = "0"
+            line1.LineStyle = "Continuous"
             line1.LineScale = 1.00000000000000
             line1.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
             line1.Thickness = 0.00000000000000
             Set line2 = iwSketchManager.InsertLine( 120.00000000000000, 0.00000000000000, 0.00000000000000, 120.00000000000000, 80.50000000000000, 0.00000000000000 )
             line2.Color = iwApp.GetColorByIndex( 256 )
-            line2.Layer = ""
+            line2.Layer = "0"
+            line2.LineStyle = "Continuous"
             line2.LineScale = 1.00000000000000
             line2.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
             line2.Thickness = 0.00000000000000
             Set line3 = iwSketchManager.InsertLine( 120.00000000000000, 80.50000000000000, 0.00000000000000, 0.00000000000000, 80.50000000000000, 0.00000000000000 )
             line3.Color = iwApp.GetColorByIndex( 1 )
-            line3.Layer = ""
+            line3.Layer = "0"
+            line3.LineStyle = "Continuous"
             line3.LineScale = 1.00000000000000
             line3.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
             line3.Thickness = 0.00000000000000
             Set line4 = iwSketchManager.InsertLine( 0.00000000000000, 80.50000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 )
             line4.Color = iwApp.GetRGBColor( 255, 128, 0 )
-            line4.Layer = ""
+            line4.Layer = "0"
+            line4.LineStyle = "Continuous"
             line4.LineScale = 1.00000000000000
             line4.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
             line4.Thickness = 0.00000000000000
@@ -81,13 +85,15 @@ Sub main()
         If 1 Then
             Set circle5 = iwSketchManager.InsertCircle( 20.00000000000000, 20.00000000000000, 0.00000000000000, 6.25000000000000 )
             circle5.Color = iwApp.GetColorByIndex( 256 )
-            circle5.Layer = ""
+            circle5.Layer = "0"
+            circle5.LineStyle = "Continuous"
             circle5.LineScale = 1.00000000000000
             circle5.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
             circle5.Thickness = 0.00000000000000
             Set circle6 = iwSketchManager.InsertCircle( 100.00000000000000, 20.00000000000000, 0.00000000000000, 1.00000000000000 )
             circle6.Color = iwApp.GetColorByIndex( 256 )
-            circle6.Layer = ""
+            circle6.Layer = "0"
+            circle6.LineStyle = "Continuous"
             circle6.LineScale = 1.00000000000000
             circle6.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
             circle6.Thickness = 0.00000000000000
@@ -127,7 +133,8 @@ Sub main()
         Dim circle16 As Inkwright.Circle
         Set circle16 = iwSketchManager.InsertCircle( 10.06250000000000, 11.00003051757813, 0.00000000000000, 2.00000000000000 )
         circle16.Color = iwApp.GetColorByIndex( 256 )
-        circle16.Layer = ""
+        circle16.Layer = "0"
+        circle16.LineStyle = "Continuous"
         circle16.LineScale = 1.00000000000000
         circle16.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
         circle16.Thickness = 0.00000000000000
@@ -144,7 +151,8 @@ Sub main()
         Dim line18 As Inkwright.Line
         Set line18 = iwSketchManager.InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.10000000000000, 0.20000000000000, 0.00000000000000 )
         line18.Color = iwApp.GetColorByIndex( 256 )
-        line18.Layer = ""
+        line18.Layer = "0"
+        line18.LineStyle = "Continuous"
         line18.LineScale = 1.00000000000000
         line18.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
         line18.Thickness = 0.00000000000000

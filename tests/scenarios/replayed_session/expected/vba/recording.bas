@@ -62,8 +62,7 @@ Sub main()
             Set cmdMesage1 = iwApp.GetCommandMessage()
             Dim resultKeyword1 As String
             Dim iwStringArray1 As Variant
-            cmdMesage1.PromptForPointOrKeyword "Specify start point", "Error message", iwStringArray1, _
-            iwStringArray1, 0, False, defaultPoint1, basePoint1, resultKeyword1, resultPoint1, plane1
+            cmdMesage1.PromptForPointOrKeyword "Specify start point", "Error message", iwStringArray1, iwStringArray1, 0, False, defaultPoint1, basePoint1, resultKeyword1, resultPoint1, plane1
 
             Dim IOCorner_x2 As Double, IOCorner_y2 As Double, IOCorner_z2 As Double
             IOCorner_x2 = 4

@@ -52,8 +52,7 @@ Public Class recording
             cmdMesage1 = iwApp.GetCommandMessage()
             Dim resultKeyword1 As String
             Dim iwStringArray1 As Object = New Object()
-            cmdMesage1.PromptForPointOrKeyword( "Specify start point", "Error message", iwStringArray1, _
-            iwStringArray1, 0, False, defaultPoint1, basePoint1, resultKeyword1, resultPoint1, plane1 )
+            cmdMesage1.PromptForPointOrKeyword( "Specify start point", "Error message", iwStringArray1, iwStringArray1, 0, False, defaultPoint1, basePoint1, resultKeyword1, resultPoint1, plane1 )
 
             Dim x2 As Double = 4, y2 As Double = 3, z2 As Double = 0
             iwApp.GetCommandMessage().PromptForPoint("Specify corner: ", x2, y2, z2)
