@@ -7,7 +7,9 @@ VBNET = "vbnet"
 VBA = "vba"
 
 _NAME = r"[A-Za-z_]\w*"
-_DECLARATION = re.compile(rf"Dim ({_NAME})(?: ?\(.*\))? As (?:New )?[\w.]+ ?(?:\(\))?(?P<value> = .+)?$", re.I)
+_DECLARATION = re.compile(rf"({_NAME})(?: ?\([^()]*\))? As (?:New )?[\w.]+ ?(?:\(\))?(?P<value> = ?.+)?$", re.I)
+_NEXT_DECLARATION = re.compile(rf", (?={_NAME}(?: ?\([^()]*\))? As )", re.I)
+_LOOP = re.compile(rf"For (?:Each )?({_NAME}) As [\w.]+ (?:=|In) ", re.I)
 _CLASS = re.compile(rf"(?:Public |Private )?(?:Class|Module) (.*)$", re.I)
 _PROCEDURE = re.compile(rf"(?:Public |Private |Shared )*(?:Sub|Function) {_NAME} ?\((?P<parameters>.*)\)$", re.I)
 _PARAMETER = re.compile(rf"(?:ByVal |ByRef )?({_NAME}) As [\w.]+$", re.I)
@@ -35,7 +37,7 @@ _KEYWORDS = set("""and andalso byref byval call case catch class dim do each els
     for function get if imports in is isnot let like loop mod module new next not nothing on option or orelse private
     public redim return select set shared step sub then to true try until wend while with xor""".split())
 _GLOBALS = {
-    VBNET: {"inkwright", "system", "dispatchwrapper", "cint", "vblf", "ctype"},
+    VBNET: {"inkwright", "system", "dispatchwrapper", "cint", "vblf", "ctype", "directcast", "trycast", "object"},
     VBA: {"inkwright", "getobject", "msgbox", "vblf", "cint"},
 }
 
@@ -114,6 +116,8 @@ class _Checker:
                 if dialect not in (None, self.dialect):
                     self.fault(f"there is no {kind} in this language")
                 self.open(kind, code)
+                if loop := _LOOP.match(code):
+                    self.declare(loop[1])
                 return True
         return False
 
@@ -146,20 +150,26 @@ class _Checker:
 
     def statement(self, code):
         if re.match(r"Dim\b", code, re.I):
-            match = _DECLARATION.match(code)
+            self.declarations(code[4:])
+        elif re.match(r"Set\b", code, re.I):
+            if self.dialect == VBNET:
+                self.fault("there is no Set in this language")
+            elif not re.match(rf"Set {_NAME}[\w.]* ?(?:\(.*?\))? += *[^ ]", code, re.I):
+                self.fault("Set assigns nothing")
+            elif re.search(r'= *(?:"|-?\d|(?:True|False)$)', code, re.I):
+                self.fault("Set assigns a value that is no object")
+        elif self.dialect == VBA:
+            self.vba_statement(code)
+
+    def declarations(self, code):
+        for part in _NEXT_DECLARATION.split(code):
+            match = _DECLARATION.match(part)
             if not match:
                 self.fault("this is no declaration")
             else:
                 self.declare(match[1])
                 if self.dialect == VBA and match["value"]:
                     self.fault("a declaration has no value in this language")
-        elif re.match(r"Set\b", code, re.I):
-            if self.dialect == VBNET:
-                self.fault("there is no Set in this language")
-            elif not re.match(rf"Set {_NAME}[\w.]* ?(?:\(.*?\))? +=", code, re.I):
-                self.fault("Set assigns nothing")
-        elif self.dialect == VBA:
-            self.vba_statement(code)
 
     def vba_statement(self, code):
         if re.match(r"Return\b", code, re.I):
@@ -170,6 +180,8 @@ class _Checker:
 
     def names(self, code):
         """Every name is known that is neither a member nor a type."""
+        if self.dialect == VBNET and re.search(r"\bNew DispatchWrapper\( *\)$", code, re.I):
+            self.fault("a wrapper wraps nothing")
         if self.dialect == VBA and re.search(r"\bIsNot\b", code, re.I):
             self.fault("there is no IsNot in this language")
         bare = re.sub(r"\b(?:As (?:New )?|New )[\w.]+", "", code, flags=re.I)
@@ -182,8 +194,14 @@ class _Checker:
 def check(text, dialect, known=()):
     """(line, fault) of everything that is wrong; `known` are names from the other files of the project."""
     checker = _Checker(dialect, known)
-    for checker.number, raw in enumerate(text.lstrip("\ufeff").splitlines(), 1):
-        checker.line(raw)
+    begun = ""
+    for number, raw in enumerate(text.lstrip("\ufeff").splitlines(), 1):
+        checker.number = checker.number if begun else number
+        if raw.endswith(" _"):
+            begun += raw[:-1]
+        else:
+            checker.line(begun + raw)
+            begun = ""
     for scope in checker.scopes[1:]:
         checker.fault(f"{scope.block} is never closed", scope.line)
     return checker.faults

@@ -30,6 +30,12 @@ class Structure(unittest.TestCase):
                             "Else", "MsgBox \"none\"", "End If", "Dim a( 2 ) As Object", "Set a( 0 ) = x",
                             "For i = 0 To 1", "Next") .replace("For i", "For x"), VBA)
 
+    def test_declarations_of_several_names_loops_and_continued_lines_pass(self):
+        self.accepts(in_class("Dim a As Double = 1.5, b As Double =2", "Dim c As Object() = DirectCast(a, Object())",
+                              "For i As Integer = 0 To b", "For Each d As Inkwright.Line In c", "iwApp.Run( i, _", "d )",
+                              "Next", "Next"), VBNET)
+        self.accepts(in_sub("Dim a As Double, b(1) As Double", "x.Join a, _", "b"), VBA)
+
     def test_blocks_close_in_order(self):
         self.refuses("If 1 Then", VBNET, 1, "never closed")
         self.refuses(in_class("If 1 Then", "With iwApp", "End If", "End With"), VBNET, 5, "the end of With in line 4")
@@ -59,6 +65,9 @@ class Structure(unittest.TestCase):
         self.refuses(in_sub("If x IsNot Nothing Then", "End If"), VBA, 4, "no IsNot")
         self.refuses(in_sub("x.Join( 1, 2 )"), VBA, 4, "no parentheses")
         self.refuses(in_sub("Set x As Inkwright.Line"), VBA, 4, "assigns nothing")
+        self.refuses(in_sub("Set x = "), VBA, 4, "assigns nothing")
+        self.refuses(in_sub("Set x = 3"), VBA, 4, "no object")
+        self.refuses(in_class("Dim y As Object = New DispatchWrapper()"), VBNET, 3, "wraps nothing")
 
 
 unittest.main()

@@ -46,6 +46,36 @@ def _ellipse(properties):
     return values if angles == [0.0, 6.283185307179586] else values + angles
 
 
+def _value(properties, tag, default=None):
+    return next((record["value"] for record in properties if record["tag"] == tag), default)
+
+
+def _simple_note(properties):
+    return _point(properties, "Position") + [_number(properties, "Height", 2.5), _number(properties, "Rotation", 0.0),
+                                             _value(properties, "Contents", "")]
+
+
+def _note(properties):
+    """The corners of its box, which lies around the position as the attachment says."""
+    x, y, z = _point(properties, "Position")
+    column = row = width = height = 0.0
+    if attachment := _value(properties, "Justify"):
+        row, column = (part / 2.0 for part in divmod(attachment["collection"]["chosen"], 3))
+        width, height = _number(properties, "Width", 0.0), _number(properties, "TextBoxHeight", 0.0)
+    left, top = x - column * width, y + row * height
+    return [left, top, z, left + width, top - height, z, [_value(properties, "Contents", "")]]
+
+
+def _tolerance(properties):
+    return [_point(properties, "Position"), _value(properties, "Content", "")]
+
+
+def _leader(properties):
+    points = [vertex["value"]["point"] for vertex in _value(properties, "Vertex")["collection"]["elements"]]
+    return [[float(value) for point in points for value in point], _number(properties, "width", 0.0),
+            _value(properties, "content", "")]
+
+
 # The class, the operations that insert it by the number of their arguments, and the arguments.
 CURVES = {
     "AcDbLine": ({6: "InsertLine"}, _two_points("Start", "End")),
@@ -56,7 +86,20 @@ CURVES = {
     "AcDbXline": ({6: "InsertInfiniteLine"}, _two_points("Base point", "Second point")),
     "AcDbEllipse": ({5: "InsertEllipseDistanceToOtherAxis", 7: "InsertEllipseArcDistanceToOtherAxis"}, _ellipse),
 }
-INSERTIONS = {name for names, _ in CURVES.values() for name in names.values()}
+TEXTS = {
+    "AcDbText": ({6: "InsertSimpleNote"}, _simple_note),
+    "AcDbMText": ({7: "InsertNote"}, _note),
+    "AcDbFcf": ({2: "InsertTolerance"}, _tolerance),
+    "AcDbLeader": ({3: "InsertLeader"}, _leader),
+}
+INSERTED = {**CURVES, **TEXTS}
+INSERTIONS = {name for names, _ in INSERTED.values() for name in names.values()}
+# What an insertion gives, where the operation's name does not tell.
+RESULTS = {"InsertArc": "CircleArc", "InsertEllipseDistanceToOtherAxis": "EllipseArc",
+           "InsertEllipseArcDistanceToOtherAxis": "EllipseArc"}
+CHANGES = {"put_Erased", "put_Layer"}
+# The custom action that erases its objects.
+ERASING = 17
 
 
 def _actions(recording):
@@ -70,20 +113,57 @@ def _actions(recording):
 
 def _written(value):
     """As a macro writes it: with 14 decimals, the half rounded up."""
+    if isinstance(value, list):
+        return [_written(element) for element in value]
+    if isinstance(value, str):
+        return value
     digits = decimal.Decimal("1e-14")
     with decimal.localcontext() as context:
         context.prec = 400
         return float(decimal.Decimal(value).quantize(digits, rounding=decimal.ROUND_HALF_UP))
 
 
-def _insertions(recording, manager):
-    """None without a sketch manager: such statements are known to be rejected."""
-    for action in _actions(recording):
-        added = action.get("added", {})
-        if manager and added.get("class") in CURVES:
-            names, arguments_of = CURVES[added["class"]]
-            arguments = arguments_of(added["properties"])
-            yield manager, names[len(arguments)], [_written(value) for value in arguments]
+class _Objects:
+    """The insertions of a recording, and the changes of what it inserts. Nothing without a sketch manager: such
+    statements are known to be rejected."""
+
+    def __init__(self, recording, manager):
+        records = [line["object"] for line in recording if "object" in line]
+        self._layers = {record["handle"]: record.get("name", "") for record in records
+                        if record["class"] == "AcDbLayerTableRecord"}
+        # A leader brings its note with it.
+        self._annotations = {record["handle"] for record in records if record["class"] == "AcDbMText"
+                             and record.get("reactors")}
+        self._manager, self._counts = manager, {}
+        self.ways, self.calls = {}, []
+        for action in _actions(recording) if manager else ():
+            for kind in {"added", "modified", "custom"} & action.keys():
+                getattr(self, kind)(action[kind])
+
+    def added(self, record):
+        if record["class"] not in INSERTED or record["handle"] in self._annotations:
+            return
+        names, arguments_of = INSERTED[record["class"]]
+        arguments = arguments_of(record["properties"])
+        name = names[len(arguments)]
+        self.calls.append((self._manager, name, _written(arguments)))
+        result = RESULTS.get(name, name.removeprefix("Insert"))
+        self._counts[result] = self._counts.get(result, 0) + 1
+        self.ways[record["handle"]] = f"{result}#{self._counts[result]}"
+        self.modified(record)
+
+    def modified(self, record):
+        way = self.ways.get(record["handle"])
+        layer = _value(record["properties"], "Layer")
+        if way and layer and layer["id"] in self._layers:
+            self.calls.append((way, "put_Layer", [self._layers[layer["id"]]]))
+        if way and _value(record["properties"], "Erased") == "YES":
+            self.calls.append((way, "put_Erased", [True]))
+
+    def custom(self, record):
+        if record["kind"] == ERASING:
+            self.calls += [(self.ways[handle], "put_Erased", [True])
+                           for handle in record["data"][0]["handles"] if handle in self.ways]
 
 
 def _page_frame(in_model, sheet):
@@ -110,6 +190,14 @@ def _csharp_frame(in_model, sheet):
 
 
 FRAMES = {"javascript": _page_frame, "csharp": _csharp_frame}
+
+
+def _comparable(call):
+    """A macro leaves the backslashes of a note's text as they are, and JavaScript drops them."""
+    on, name, arguments = call
+    if name == "InsertNote":
+        arguments = arguments[:-1] + [[text.replace("\\", "") for text in arguments[-1]]]
+    return on, name, arguments
 
 
 def _show(call):
@@ -143,10 +231,13 @@ class Comparison:
         in_model = sheet.get("model", True)
         frame, manager = self._frame(in_model, sheet.get("name", ""))
         faults = _first_difference(frame, calls[:len(frame)], "call of the frame")
-        wanted = list(_insertions(recording, manager))
-        seen = [call for call in calls[len(frame):] if call[1] in INSERTIONS]
-        faults += _first_difference(wanted, seen, "insertion")
-        self.objects += len(wanted)
+        objects = _Objects(recording, manager)
+        ways = set(objects.ways.values())
+        seen = [call for call in calls[len(frame):]
+                if call[1] in INSERTIONS or call[1] in CHANGES and call[0] in ways]
+        faults += _first_difference(list(map(_comparable, objects.calls)), list(map(_comparable, seen)),
+                                    "insertion or change")
+        self.objects += len(objects.ways)
         self.complaints += [f"{macro.name}: {fault}" for fault in faults]
 
     def summary(self):

@@ -107,6 +107,11 @@ class _Fault:
     def matches(self, text, message):
         return self.line.search(text) and self.message.search(message)
 
+    def repaired(self, text, message):
+        named = self.message.search(message)
+        instead = self.instead.replace("{name}", named[1]) if self.message.groups else self.instead
+        return self.line.sub(instead, text)
+
 
 class KnownFaults:
     """The rejections of a target that its statements are known to give. known_faults.json is exact: a rejection that is
@@ -139,13 +144,11 @@ class KnownFaults:
         return lines[rejection.line - 1] if 0 < rejection.line <= len(lines) else ""
 
     def _repair(self, texts, rejection, done):
-        place = (rejection.file, rejection.line)
-        if place in done:
-            return False
         text = self._text(texts, rejection)
         for entry in self._entries:
-            if text and entry.matches(text, rejection.message):
-                texts[rejection.file][rejection.line - 1] = entry.line.sub(entry.instead, text)
+            place = (rejection.file, rejection.line, entry)
+            if text and place not in done and entry.matches(text, rejection.message):
+                texts[rejection.file][rejection.line - 1] = entry.repaired(text, rejection.message)
                 entry.met += 1
                 self.repaired += 1
                 done.add(place)

@@ -48,6 +48,10 @@ class List(unittest.TestCase):
     def test_a_listed_line_in_no_macro_is_a_complaint(self):
         self.assertIn("met in no macro", self.settle("fine", ENTRY, "^bad")[0][0])
 
+    def test_the_message_names_what_is_put_in(self):
+        entry = ENTRY | {"message": r"not (\w+)", "instead": r"{name} \1"}
+        self.assertEqual(self.settle("bad a", entry, "^bad"), ([], "declared a"))
+
     def test_the_message_tells_faults_of_one_line_apart(self):
         complaints, _ = self.settle("bad a", ENTRY | {"message": "unassigned", "sometimes": True}, "^bad")
         self.assertEqual(complaints[0], "macro:1: not declared\n    bad a")

@@ -6,7 +6,7 @@ import interface
 TYPES = {"double": "double", "int": "long", "bool": "bool", "string": "const iwString &",
          "object": "iwObject_c *"}
 OUT_TYPES = {"double": "double *", "int": "long *", "bool": "bool *", "string": "iwString *",
-             "object": "iwObject_c **"}
+             "object": "iwObjectOut"}
 ARRAYS = {"double": "iwDoubleArray", "int": "iwLongArray", "string": "iwStringArray"}
 
 GUARD = "#pragma once\n\n"

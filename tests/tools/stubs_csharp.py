@@ -1,6 +1,9 @@
 """The automation interface as C# source: an interface a class, and an object behind it that notes every call."""
 
+import re
+
 import interface
+
 
 class _Source:
     def __init__(self, known):
@@ -17,8 +20,8 @@ class _Source:
             if element in self._known.classes:
                 return f'Arrays.Of({call}, way => new {element}Object(way))'
             return f"Arrays.Of({call}, way => default({element}))"
-        if type_ in self._known.classes:
-            return f"new {type_}Object({call})"
+        if type_ in self._known.classes or type_ == "object":
+            return f"new {type_ if type_ != 'object' else 'Found'}Object({call})"
         return f'Values.Of<{self.type(type_)}>({call})'
 
     def operation(self, operation):
@@ -44,6 +47,18 @@ class _Source:
                    f'public {type_} {prop.name} {{ get {{ {getter} }} set {{ Note("put_{prop.name}", "", value); }} }}')
 
 
+def found(known, writer):
+    """An object that is found by its handle, and is of whatever class a macro takes it for."""
+    yield f"internal class FoundObject : Noting, {', '.join(known.classes)} {{"
+    yield "    public FoundObject(string way) : base(way) { }"
+    for cls in known.classes.values():
+        for declaration, definition in writer.members(cls):
+            kind, name = re.match(r"(\w+) (.*)", declaration).groups()
+            name = re.split(r"[ (]", name)[0]
+            yield "    " + definition.replace(f"public {kind} {name}", f"{kind} {cls.name}.{name}", 1)
+    yield "}"
+
+
 def source(path):
     known = interface.read(path, "csharp")
     writer = _Source(known)
@@ -59,4 +74,4 @@ def source(path):
         lines.append(f"    public {cls.name}Object(string way) : base(way) {{ }}")
         lines += [f"    {definition}" for _, definition in own + inherited]
         lines.append("}")
-    return "\n".join(lines + ["}"])
+    return "\n".join([*lines, *found(known, writer), "}"])

@@ -9,10 +9,21 @@ class iwString
 public:
     iwString();
     iwString(const wchar_t* text);
+    bool operator==(const iwString& other) const;
 };
 
 class iwObject_c
 {
+};
+
+typedef iwObject_c iwObject;
+
+// Takes the address of any object's pointer: what is found decides what comes back.
+class iwObjectOut
+{
+public:
+    template<class T>
+    iwObjectOut(T** object);
 };
 
 template<class T>
@@ -30,6 +41,8 @@ class iwArray
 {
 public:
     void add(T element);
+    void clear();
+    std::size_t length() const;
     T operator[](int index) const;
 };
 

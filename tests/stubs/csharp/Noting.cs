@@ -6,6 +6,20 @@ using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
 
+namespace IWAPIMacros
+{
+    /// Stands in front of the system's own, which takes nothing but objects of COM.
+    internal class DispatchWrapper
+    {
+        public readonly object Wrapped;
+
+        public DispatchWrapper(object wrapped)
+        {
+            Wrapped = wrapped;
+        }
+    }
+}
+
 namespace Inkwright
 {
     internal class Noting
@@ -14,6 +28,12 @@ namespace Inkwright
         private static readonly Dictionary<string, int> counts = new Dictionary<string, int>();
 
         public readonly string Way;
+
+        public static void Begin()
+        {
+            Log.Clear();
+            counts.Clear();
+        }
 
         protected Noting(string way)
         {
@@ -43,6 +63,16 @@ namespace Inkwright
         }
     }
 
+    /// For an object that a macro asks although nothing gave it.
+    public static class Given
+    {
+        public static void Object<T>(out T value)
+        {
+            string name = typeof(T).Name;
+            value = (T)Activator.CreateInstance(Type.GetType("Inkwright." + name + "Object"), "given " + name);
+        }
+    }
+
     internal static class Arrays
     {
         /// Two elements: a macro takes the second of a document's sheets.
@@ -60,6 +90,8 @@ namespace Inkwright
                 return "null";
             if (value is Noting)
                 return Of("@" + ((Noting)value).Way);
+            if (value is IWAPIMacros.DispatchWrapper)
+                return Of(((IWAPIMacros.DispatchWrapper)value).Wrapped);
             if (value is double)
                 return ((double)value).ToString("R", CultureInfo.InvariantCulture);
             if (value is int)

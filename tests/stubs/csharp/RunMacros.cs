@@ -13,7 +13,7 @@ internal static class RunMacros
     {
         Console.OutputEncoding = new UTF8Encoding(false);
         foreach (string name in names) {
-            Noting.Log.Clear();
+            Noting.Begin();
             string stop = Run(name);
             Console.Write("{\"macro\":" + Json.Of(name) + "}\n" + Noting.Log + stop);
         }
@@ -33,7 +33,7 @@ internal static class RunMacros
     private static string Stop(Exception error)
     {
         foreach (StackFrame frame in new StackTrace(error, true).GetFrames())
-            if (frame.GetMethod().DeclaringType.Namespace == "IWAPIMacros")
+            if (frame.GetMethod() != null && frame.GetMethod().DeclaringType.Namespace == "IWAPIMacros")
                 return "{\"stopped\":" + Json.Of(error.Message) + ",\"line\":" + frame.GetFileLineNumber() + "}\n";
         return "{\"stopped\":" + Json.Of(error.ToString()) + ",\"line\":0}\n";
     }

@@ -34,7 +34,7 @@ function isOf(type, value) {
     if (type in INTERFACE.enumerations) {
         return INTERFACE.enumerations[type].includes(value);
     }
-    return value instanceof CLASSES[type];
+    return value instanceof CLASSES[type] || value instanceof Found;
 }
 
 function answer(type, way) {
@@ -43,6 +43,9 @@ function answer(type, way) {
     }
     if (type in CLASSES) {
         return new CLASSES[type](way);
+    }
+    if (type === 'object') {
+        return new Found(way);
     }
     if (type in INTERFACE.enumerations) {
         return INTERFACE.enumerations[type][0];
@@ -74,7 +77,7 @@ function addOperation(prototype, name, parameters, outs, result) {
 function addProperty(prototype, name, type) {
     addOperation(prototype, 'put_' + name, [type], [], '');
     addOperation(prototype, 'get_' + name, [], [], type);
-    Object.defineProperty(prototype, name, {get: prototype['get_' + name]});
+    Object.defineProperty(prototype, name, {get: prototype['get_' + name], configurable: true});
 }
 
 var CLASSES = {};
@@ -88,6 +91,22 @@ Object.entries(INTERFACE.classes).forEach(function ([name, members]) {
     members.operations.forEach(operation => addOperation(prototype, ...operation));
     members.properties.forEach(property => addProperty(prototype, ...property));
 });
+
+// An object that is found by its handle, and is of whatever class a macro takes it for.
+function Found(way) {
+    Noting.call(this, way);
+}
+
+Found.prototype = Object.create(Noting.prototype);
+Object.keys(CLASSES).forEach(function (name) {
+    Object.defineProperties(Found.prototype, Object.getOwnPropertyDescriptors(CLASSES[name].prototype));
+});
+
+// For an object that a macro asks although nothing gave it: line1 is a Line.
+function given(variable) {
+    var name = Object.keys(CLASSES).find(name => name.toLowerCase() === variable.replace(/\d+$/, ''));
+    return new CLASSES[name]('given ' + name);
+}
 
 // Some statements quote the names of enumerators and some do not.
 Object.values(INTERFACE.enumerations).flat().forEach(function (name) {

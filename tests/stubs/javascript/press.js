@@ -5,8 +5,11 @@
 
 var firstError = null;
 
+// The page's line, also for what a stub refuses.
 window.addEventListener('error', function (event) {
-    firstError = firstError || {message: event.message || 'cannot load ' + event.target.src, line: event.lineno || 0};
+    var place = /\/next:(\d+)/.exec(event.error ? event.error.stack : '');
+    firstError = firstError || {message: event.message || 'cannot load ' + event.target.src,
+                                line: place ? Number(place[1]) : event.lineno || 0};
 }, true);
 
 window.addEventListener('load', function () {
