@@ -370,7 +370,7 @@ bool CMacroCommand::ExecuteNotify(void)
         sheetItem1->InsertViewport( Coordinates1, &iwviewport17 );
     }
     {
-        iwline2->Activate();
+        iwviewport17->Activate();
     }
     {
         iwApplicationOptions_c* appOption;

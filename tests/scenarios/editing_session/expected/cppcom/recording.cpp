@@ -487,7 +487,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         viewport17 = sheetsArray1->InsertViewport( variant1 );
     }
     {
-        line2->Activate();
+        viewport17->Activate();
     }
     {
         IApplicationOptionsPtr appOption;

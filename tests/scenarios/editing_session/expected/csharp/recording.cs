@@ -308,7 +308,7 @@ namespace IWAPIMacros
                  viewport17 = sheetsArray1.InsertViewport( new double[]{0,0,0,4,0,0,4,3,0} );
             }
             {
-                line2.Activate();
+                viewport17.Activate();
             }
             {
                 ApplicationOptions appOption;

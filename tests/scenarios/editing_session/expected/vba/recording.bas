@@ -357,7 +357,7 @@ Sub main()
             Set viewport17 = sheetsArray1.InsertViewport( Coordinates1 )
         End If
         If 1 Then
-            line2.Activate
+            viewport17.Activate
         End If
 
         If 1 Then

@@ -256,7 +256,7 @@ Public Class recording
              viewport17 = sheetsArray1.InsertViewport( New Double(){0,0,0,4,0,0,4,3,0} )
         End If
         If 1 Then
-            line2.Activate()
+            viewport17.Activate()
         End If
 
         If 1 Then
