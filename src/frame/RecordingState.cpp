@@ -7,5 +7,6 @@ bool RecordingInModel = true;
 
 std::int16_t RecordingLanguage()
 {
-    return GetFxSystemServices()->GetInt16("RecordingLanguage");
+    static const CFxString setting("RecordingLanguage"); // read several times for each object
+    return GetFxSystemServices()->GetInt16(setting);
 }

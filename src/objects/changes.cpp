@@ -180,7 +180,8 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
 {
     noGroup = false;
     CFxVariant value;
-    const auto take = [&](const char* tag) {
+    // Asked for each object: the tags are made once.
+    const auto take = [&](const QString& tag) {
         value = FindProperty(tag, list, Driver().GetContext());
         return !value.IsNull();
     };
@@ -191,7 +192,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         noGroup = true;
     };
 
-    if (take("LineColor")) {
+    if (take(QStringLiteral("LineColor"))) {
         leaveGroup();
         CFxString holder = target;
         if (isCurvedText)
@@ -200,23 +201,23 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         if (isCurvedText)
             text += EmitSetCurvedTextSettings(target, holder);
     }
-    if (take("Layer"))
+    if (take(QStringLiteral("Layer")))
         text += EmitSetLayer(target, "Layer", value.GetId());
-    if (take("LineStyle")) {
+    if (take(QStringLiteral("LineStyle"))) {
         leaveGroup();
         text += EmitSetLineStyle(target, "LineStyle", value.GetId());
     }
-    if (take("LineScale"))
+    if (take(QStringLiteral("LineScale")))
         text += EmitSetDoubleProperty(target, "LineScale", value.GetDouble());
-    if (take("LineWeight")) {
+    if (take(QStringLiteral("LineWeight"))) {
         leaveGroup();
         text += EmitSetLineWeight(target, "LineWeight", value.GetInt32());
     }
-    if (take("Thickness"))
+    if (take(QStringLiteral("Thickness")))
         text += EmitSetDoubleProperty(target, "Thickness", value.GetDouble());
-    if (take("PrintStyle"))
+    if (take(QStringLiteral("PrintStyle")))
         text += EmitSetProperty(target, "PrintStyle", value.GetString(), true);
-    if (take("Transparency") && !fromAdded && value.GetType() == CFxVariant::kTransparency)
+    if (take(QStringLiteral("Transparency")) && !fromAdded && value.GetType() == CFxVariant::kTransparency)
         text += EmitSetTransparency(target, value.GetTransparency());
     return kFxSuccess;
 }

@@ -1,5 +1,7 @@
 #include "host/db/OdDbDatabase.h"
 
+#include <algorithm>
+
 /// Where an id points to. The object is null while only the handle has been heard of.
 struct OdDbStub
 {
@@ -26,7 +28,7 @@ OdDbObjectId OdDbDatabase::getOdDbObjectId(const OdDbHandle& handle)
 {
     if (handle.isNull())
         return {};
-    std::unique_ptr<OdDbStub>& stub = stubs_[handle];
+    std::unique_ptr<OdDbStub>& stub = stubs_[handle.value()];
     if (!stub)
         stub = std::make_unique<OdDbStub>(OdDbStub{handle, {}});
     return OdDbObjectId(stub.get());
@@ -36,15 +38,19 @@ OdDbObjectId OdDbDatabase::addObject(const OdDbHandle& handle, OdDbObjectPtr obj
 {
     const OdDbObjectId id = getOdDbObjectId(handle);
     object->objectId_ = id;
-    stubs_[handle]->object = std::move(object);
+    stubs_[handle.value()]->object = std::move(object);
     return id;
 }
 
 OdArray<OdDbObjectId> OdDbDatabase::objectIds() const
 {
-    OdArray<OdDbObjectId> ids;
+    std::vector<OdDbStub*> stubs;
     for (const auto& [handle, stub] : stubs_)
         if (stub->object)
-            ids.append(OdDbObjectId(stub.get()));
+            stubs.push_back(stub.get());
+    std::sort(stubs.begin(), stubs.end(), [](const OdDbStub* a, const OdDbStub* b) { return a->handle < b->handle; });
+    OdArray<OdDbObjectId> ids;
+    for (OdDbStub* const stub : stubs)
+        ids.append(OdDbObjectId(stub));
     return ids;
 }

@@ -2,8 +2,9 @@
 
 #include "host/db/OdDbObject.h"
 
-#include <map>
+#include <cstdint>
 #include <memory>
+#include <unordered_map>
 
 /// A drawing: its objects by handle. Owns them and the entries behind their ids, so ids live as long as the drawing.
 class INKHOST_EXPORT OdDbDatabase
@@ -29,7 +30,7 @@ public:
     OdArray<OdDbObjectId> objectIds() const;
 
 private:
-    std::map<OdDbHandle, std::unique_ptr<OdDbStub>> stubs_;
+    std::unordered_map<std::uint64_t, std::unique_ptr<OdDbStub>> stubs_; ///< by the handle's value
     OdDbObjectId currentLayoutId_;
     OdDbObjectId groupDictionaryId_;
 };
