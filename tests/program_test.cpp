@@ -123,6 +123,17 @@ TEST_F(Program, OneFailureDoesNotStopTheOthers)
     EXPECT_EQ(outcome.out.count("a.cs\n") + outcome.out.count("d.cs\n"), 2);
 }
 
+TEST_F(Program, ComplainsOfARecordingOnceForAllTargets)
+{
+    write("c.jsonl", "{\"undo\":1}\n");
+    write("d.jsonl", "{\"undo\":1}\n");
+    const Outcome outcome = run({"convert", "c.jsonl", "d.jsonl", "--target", "all", "--output", "out/"});
+    EXPECT_EQ(outcome.status, 3);
+    EXPECT_EQ(outcome.err.count('\n'), 2) << outcome.err.toStdString();
+    EXPECT_EQ(outcome.err.count("c.jsonl:1: "), 1);
+    EXPECT_EQ(outcome.err.count("d.jsonl:1: "), 1);
+}
+
 TEST_F(Program, LeavesAnOlderMacroAloneWhenTheRecordingCannotBeRead)
 {
     const struct

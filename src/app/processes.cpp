@@ -55,6 +55,7 @@ private:
         QByteArray output;
         QByteArray messages;
         bool done = false;
+        bool unreadable = false;
     };
 
     /// Standard input can be read once, so it is kept for all who want it.
@@ -77,6 +78,7 @@ private:
     QEventLoop loop_;
     std::size_t next_ = 0;
     std::size_t passedOn_ = 0;
+    std::pair<QString, QByteArray> lastComplaint_; ///< the recording that could not be read, and why
     unsigned running_ = 0;
     int status_ = kDone;
     std::atomic<int> doneCount_ = 0;
@@ -225,6 +227,7 @@ void JobRunner::ended(std::size_t number, bool crashed)
 void JobRunner::finish(std::size_t number, int status)
 {
     states_[number].done = true;
+    states_[number].unreadable = status == kUnreadable;
     status_ = std::max(status_, status);
     ++doneCount_;
     for (State& state : states_)
@@ -238,7 +241,16 @@ void JobRunner::passOn()
     progress_.aside([this] {
         for (; passedOn_ < states_.size() && states_[passedOn_].done; ++passedOn_) {
             State& state = states_[passedOn_];
-            printError(std::exchange(state.messages, {}));
+            QByteArray messages = std::exchange(state.messages, {});
+            if (state.unreadable) {
+                // What is wrong with a recording is said once, not once for each target.
+                const std::pair complaint(jobs_[passedOn_].input, messages);
+                if (complaint == lastComplaint_)
+                    messages.clear();
+                else
+                    lastComplaint_ = complaint;
+            }
+            printError(messages);
             printOut(std::exchange(state.output, {}));
         }
     });
