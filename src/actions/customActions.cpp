@@ -1,10 +1,16 @@
 // Custom actions of a single statement each.
 
+#include "targets/customActions.h"
 #include "actions/CustomActionKind.h"
 #include "actions/optionTable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
-#include "targets/texts.h"
+#include "objects/targets/blockAttributes.h"
+#include "objects/targets/regions.h"
+#include "objects/targets/sheetProperties.h"
+#include "targets/options.h"
+#include "targets/variables.h"
+#include "targets/wording.h"
 
 #include <QStringList>
 
@@ -23,13 +29,14 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionEmbeddedObject(OdSmartPtr<CFxCu
     if (path.isEmpty())
         return kFxFailure;
     const int flags = action->GetData(0).GetInt();
-    text = EmitInsertEmbeddedObject(text, inkmacro::doubleBackslashes(path), (flags & 1) != 0, (flags & 2) != 0);
+    text =
+        EmitInsertEmbeddedObject(writer, text, inkmacro::doubleBackslashes(path), (flags & 1) != 0, (flags & 2) != 0);
     return kFxSuccess;
 }
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionElementColor(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    text = EmitSetElementColor(action->GetData(0).GetInt(), action->GetData(1).GetColor());
+    text = EmitSetElementColor(writer, action->GetData(0).GetInt(), action->GetData(1).GetColor());
     return kFxSuccess;
 }
 
@@ -46,19 +53,19 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionOptionValue(OdSmartPtr<CFxCusto
     const bool ofDocument = FindCommandOption(variable, option, kind) == kFxSuccess;
     if (ofDocument) {
         if (kind == static_cast<std::int32_t>(OptionKind::Int16))
-            text = EmitCommandOptionInt16(option, value.GetInt16());
+            text = EmitCommandOptionInt16(writer, option, value.GetInt16());
         else if (kind == static_cast<std::int32_t>(OptionKind::Point3d))
-            text = EmitCommandOptionPoint3D(option, value.GetPoint());
+            text = EmitCommandOptionPoint3D(writer, option, value.GetPoint());
         else if (kind == static_cast<std::int32_t>(OptionKind::String))
-            text = EmitCommandOptionString(option, value.GetString());
+            text = EmitCommandOptionString(writer, option, value.GetString());
         else
             return kFxFailure;
     }
     if (FindApplicationOption(variable, option, kind) == kFxSuccess) {
         if (kind == static_cast<std::int32_t>(OptionKind::Int16))
-            text += EmitApplicationOptionInt16(option, value.GetInt16());
+            text += EmitApplicationOptionInt16(writer, option, value.GetInt16());
         else if (kind == static_cast<std::int32_t>(OptionKind::String))
-            text += EmitApplicationOptionString(option, value.GetString());
+            text += EmitApplicationOptionString(writer, option, value.GetString());
         else
             return kFxFailure;
     } else if (!ofDocument) {
@@ -76,9 +83,9 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionAttributeValue(OdSmartPtr<CFxCu
     ResolveVariable(action->GetData(0).GetHandle(), action->GetData(1).GetClass(), name);
     if (name.isEmpty())
         return kFxSuccess;
-    text += EmitGetLayer(name);
-    text = Objects().EmitBlockAttributeValue(name, "Value", action->GetData(2).GetString(),
-                                             action->GetData(3).GetString());
+    text += EmitGetLayer(writer, name);
+    text =
+        EmitBlockAttributeValue(writer, name, "Value", action->GetData(2).GetString(), action->GetData(3).GetString());
     return kFxSuccess;
 }
 
@@ -93,7 +100,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionRegion(OdSmartPtr<CFxCustomActi
     QStringList curves;
     for (const CFxString& name : names)
         curves.append(name);
-    text = Objects().EmitInsertRegion(text, curves, ++regions);
+    text = EmitInsertRegion(writer, text, curves, ++regions);
     return kFxSuccess;
 }
 
@@ -106,8 +113,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionActivate(OdSmartPtr<CFxCustomAc
     if (objects.empty() || classes.empty())
         throw OdError_InvalidIndex();
     CFxString name;
-    text += Objects().EmitObjectVariable(objects.front(), const_cast<OdRxClass*>(classes.front()), name);
-    text += EmitActivate(name);
+    text += Objects().ObjectVariable(objects.front(), const_cast<OdRxClass*>(classes.front()), name);
+    text += EmitActivate(writer, name);
     return kFxSuccess;
 }
 
@@ -126,7 +133,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionViewport(OdSmartPtr<CFxCustomAc
         RegisterObject(handle, cls);
         ResolveVariable(handle, cls, name);
     }
-    text = EmitInsertViewport(name, sheetName, polygon);
+    text = EmitInsertViewport(writer, name, sheetName, polygon);
     return kFxSuccess;
 }
 
@@ -135,8 +142,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionPrintStyle(OdSmartPtr<CFxCustom
     if (action->GetKind() != kPrintStyle || action->GetData(0).GetType() != Datum::kString ||
         action->GetData(1).GetType() != Datum::kBool || action->GetData(2).GetType() != Datum::kString)
         return kFxFailure;
-    text = Objects().EmitSetModelProperty("PrintStyle", action->GetData(0).GetString(), action->GetData(1).GetBool(),
-                                          action->GetData(2).GetString());
+    text = EmitSetModelProperty(writer, "PrintStyle", action->GetData(0).GetString(), action->GetData(1).GetBool(),
+                                action->GetData(2).GetString());
     return kFxSuccess;
 }
 
@@ -146,14 +153,14 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionJoin(OdSmartPtr<CFxCustomAction
         return kFxFailure;
     const auto variable = [&](std::int32_t index, CFxString& name) {
         OdRxClass* const cls = const_cast<OdRxClass*>(action->GetData(index + 1).GetClass());
-        return Objects().EmitObjectVariable(action->GetData(index).GetHandle(), cls, name);
+        return Objects().ObjectVariable(action->GetData(index).GetHandle(), cls, name);
     };
     text.clear();
     CFxString name;
     CFxString other;
     text += variable(0, name);
     text += variable(2, other);
-    text += EmitJoin(name, other);
+    text += EmitJoin(writer, name, other);
     return kFxSuccess;
 }
 
@@ -172,8 +179,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionExplode(OdSmartPtr<CFxCustomAct
         if (GetApiTypeName(classes[i], type, second) != kFxSuccess)
             continue;
         CFxString name;
-        text += Objects().EmitObjectVariable(objects[i], const_cast<OdRxClass*>(classes[i]), name);
-        text += EmitExplode(name);
+        text += Objects().ObjectVariable(objects[i], const_cast<OdRxClass*>(classes[i]), name);
+        text += EmitExplode(writer, name);
     }
     return kFxSuccess;
 }

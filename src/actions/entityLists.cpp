@@ -1,6 +1,7 @@
 // Custom actions that change a list of objects in one call: mirror, stretch, copy, move, rotate, scale. Lengths are
 // drawing units and angles radians, as recorded.
 
+#include "targets/entityLists.h"
 #include "actions/CustomActionKind.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 
@@ -15,7 +16,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionMirror(OdSmartPtr<CFxCustomActi
 {
     if (action->GetKind() != kMirror)
         return kFxFailure;
-    text = EmitMirrorEntities(EntitiesOf(*action), action->GetData(2).GetPoint(), action->GetData(3).GetPoint(),
+    text = EmitMirrorEntities(writer, EntitiesOf(*action), action->GetData(2).GetPoint(), action->GetData(3).GetPoint(),
                               action->GetData(4).GetBool());
     return kFxSuccess;
 }
@@ -24,8 +25,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionStretch(OdSmartPtr<CFxCustomAct
 {
     if (action->GetKind() != kStretch)
         return kFxFailure;
-    text = EmitStretchEntities(EntitiesOf(*action), action->GetData(2).GetPoint(), action->GetData(3).GetPoint(),
-                               action->GetData(4).GetVector());
+    text = EmitStretchEntities(writer, EntitiesOf(*action), action->GetData(2).GetPoint(),
+                               action->GetData(3).GetPoint(), action->GetData(4).GetVector());
     return kFxSuccess;
 }
 
@@ -36,7 +37,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionCopy(OdSmartPtr<CFxCustomAction
     const EntityList entities = EntitiesOf(*action);
     QString copies;
     for (std::int32_t i = 2; i < action->GetDataCount(); ++i)
-        copies += EmitCopyEntities(entities, action->GetData(i).GetVector(), i == 2);
+        copies += EmitCopyEntities(writer, entities, action->GetData(i).GetVector(), i == 2);
     text = copies;
     return kFxSuccess;
 }
@@ -45,7 +46,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionMove(OdSmartPtr<CFxCustomAction
 {
     if (action->GetKind() != kMove)
         return kFxFailure;
-    text = EmitMoveEntities(EntitiesOf(*action), action->GetData(2).GetVector(), true);
+    text = EmitMoveEntities(writer, EntitiesOf(*action), action->GetData(2).GetVector(), true);
     return kFxSuccess;
 }
 
@@ -53,7 +54,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionRotate(OdSmartPtr<CFxCustomActi
 {
     if (action->GetKind() != kRotate)
         return kFxFailure;
-    text = EmitRotateEntities(EntitiesOf(*action), action->GetData(2).GetPoint(), action->GetData(3).GetDouble());
+    text =
+        EmitRotateEntities(writer, EntitiesOf(*action), action->GetData(2).GetPoint(), action->GetData(3).GetDouble());
     return kFxSuccess;
 }
 
@@ -61,6 +63,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionScale(OdSmartPtr<CFxCustomActio
 {
     if (action->GetKind() != kScale)
         return kFxFailure;
-    text = EmitScaleEntities(EntitiesOf(*action), action->GetData(2).GetPoint(), action->GetData(3).GetDouble());
+    text =
+        EmitScaleEntities(writer, EntitiesOf(*action), action->GetData(2).GetPoint(), action->GetData(3).GetDouble());
     return kFxSuccess;
 }

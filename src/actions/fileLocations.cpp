@@ -1,11 +1,14 @@
 // Changes of the paths and files that are set in the host's options.
 
+#include "targets/fileLocations.h"
 #include "actions/CustomActionKind.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "objects/targets/setters.h"
 #include "targets/LineEnd.h"
 #include "targets/Target.h"
+#include "targets/blocks.h"
 
 #include <algorithm>
 #include <span>
@@ -26,7 +29,7 @@ struct Location
 struct FileObject
 {
     std::int32_t kind;
-    QString (CFxConverterIWAPIImpl::*emitObject)(CFxString& variable);
+    QString (*emitObject)(Writer& writer, CFxString& variable);
     std::span<const Location> locations;
 };
 
@@ -66,11 +69,9 @@ constexpr Location drawingSupportLocations[]{
     {"eFileLocDrawingSupprtRLineStyle", "RichLineStyleFilePath"},
 };
 
-constexpr FileObject interfaceFiles{kInterfaceFile, &CFxConverterIWAPIImpl::EmitInterfaceFilesObject,
-                                    interfaceLocations};
-constexpr FileObject systemFiles{kSystemFile, &CFxConverterIWAPIImpl::EmitSystemFilesObject, systemLocations};
-constexpr FileObject drawingSupportFiles{kDrawingSupportFile, &CFxConverterIWAPIImpl::EmitDrawingSupportFilesObject,
-                                         drawingSupportLocations};
+constexpr FileObject interfaceFiles{kInterfaceFile, &EmitInterfaceFilesObject, interfaceLocations};
+constexpr FileObject systemFiles{kSystemFile, &EmitSystemFilesObject, systemLocations};
+constexpr FileObject drawingSupportFiles{kDrawingSupportFile, &EmitDrawingSupportFilesObject, drawingSupportLocations};
 
 /// Empty for a location that the object does not have; its statement is written all the same.
 CFxString propertyOf(const FileObject& files, const CFxString& key)
@@ -99,14 +100,14 @@ std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files,
     const CFxString property = propertyOf(files, action.GetData(0).GetString());
     const CFxCustomActionData& value = action.GetData(1);
 
-    text = EmitBlockBegin();
+    text = EmitBlockBegin(writer);
     CFxString variable;
-    text += (this->*files.emitObject)(variable);
+    text += files.emitObject(writer, variable);
     if (value.GetType() == CFxCustomActionData::kString)
-        text += Objects().EmitSetProperty(variable, property, quotable(value.GetString()), true);
+        text += EmitSetProperty(writer, variable, property, quotable(value.GetString()), true);
     else if (value.GetType() == CFxCustomActionData::kStringArray)
-        text += EmitFileLocationArray(variable, property, value.GetStringArray());
-    text += EmitBlockEnd() + LineEnd;
+        text += EmitFileLocationArray(writer, variable, property, value.GetStringArray());
+    text += EmitBlockEnd(writer) + LineEnd;
     return kFxSuccess;
 }
 

@@ -5,6 +5,9 @@
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "objects/targets/references.h"
+#include "targets/customActions.h"
+#include "targets/groups.h"
 
 /// A note that a leader owns is reached through its leader, which also declares the note's variable. So the statement
 /// that fetches the note itself is dropped, and the leader's is not.
@@ -13,9 +16,9 @@ QString CFxConverterIWAPIImpl::NoteOfLeader(const OdDbHandle& note, OdRxClass* n
 {
     const OdDbObjectPtr object = leader.openObject();
     CFxString leaderName;
-    Objects().EmitObjectVariable(note, noteClass, name);
-    QString text = Objects().EmitObjectVariable(leader.getHandle(), object->isA(), leaderName);
-    return text += Objects().EmitGetNoteAnnotation(name, leaderName);
+    Objects().ObjectVariable(note, noteClass, name);
+    QString text = Objects().ObjectVariable(leader.getHandle(), object->isA(), leaderName);
+    return text += EmitGetNoteAnnotation(writer, name, leaderName);
 }
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionErase(OdSmartPtr<CFxCustomAction> action, QString& text)
@@ -37,12 +40,12 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionErase(OdSmartPtr<CFxCustomActio
         if (cls == OdDbMText::desc())
             GetNoteLeader(leader, objects[i]);
         CFxString name;
-        text += leader.isNull() ? Objects().EmitObjectVariable(objects[i], cls, name)
+        text += leader.isNull() ? Objects().ObjectVariable(objects[i], cls, name)
                                 : NoteOfLeader(objects[i], cls, leader, name);
         if (!name.isEmpty())
             names[i] = name;
     }
-    text += EmitEraseEntities(names);
+    text += EmitEraseEntities(writer, names);
     return kFxSuccess;
 }
 
@@ -68,15 +71,15 @@ void CFxConverterIWAPIImpl::ConvertGroupChange(const CFxCustomAction& action, Em
     if (!group)
         return;
     CFxString name;
-    text += Objects().EmitObjectVariable(handle, group->cls, name);
-    text += (this->*change)(names, name);
+    text += Objects().ObjectVariable(handle, group->cls, name);
+    text += change(writer, names, name);
 }
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionGroupAdd(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
     if (action->GetKind() != kGroupAdd)
         return kFxFailure;
-    ConvertGroupChange(*action, &CFxConverterIWAPIImpl::EmitGroupAddEntities, text);
+    ConvertGroupChange(*action, &EmitGroupAddEntities, text);
     return kFxSuccess;
 }
 
@@ -84,6 +87,6 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionGroupRemove(OdSmartPtr<CFxCusto
 {
     if (action->GetKind() != kGroupRemove)
         return kFxFailure;
-    ConvertGroupChange(*action, &CFxConverterIWAPIImpl::EmitGroupRemoveEntities, text);
+    ConvertGroupChange(*action, &EmitGroupRemoveEntities, text);
     return kFxSuccess;
 }

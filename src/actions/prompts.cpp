@@ -1,21 +1,21 @@
 // Answers at prompts, which a replay asks for anew.
 
+#include "targets/prompts.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "host/rx/OdError.h"
-#include "targets/texts.h"
+#include "targets/wording.h"
 
 #include <array>
 #include <variant>
 
 namespace {
 
-using Driver = CFxConverterIWAPIImpl;
 using Words = std::vector<CFxString>;
-using EmitPoint = QString (Driver::*)(const CFxString&, const OdGePoint3d&);
-using EmitReal = QString (Driver::*)(const CFxString&, double);
-using EmitInteger = QString (Driver::*)(const CFxString&, std::int32_t);
-using EmitText = QString (Driver::*)(const CFxString&, const CFxString&);
-using EmitKeyword = QString (Driver::*)(const CFxString&, const Words&, const Words&);
+using EmitPoint = QString (*)(Writer&, const CFxString&, const OdGePoint3d&);
+using EmitReal = QString (*)(Writer&, const CFxString&, double);
+using EmitInteger = QString (*)(Writer&, const CFxString&, std::int32_t);
+using EmitText = QString (*)(Writer&, const CFxString&, const CFxString&);
+using EmitKeyword = QString (*)(Writer&, const CFxString&, const Words&, const Words&);
 
 struct PromptKind
 {
@@ -58,23 +58,23 @@ bool isAnything(int)
 
 /// In the order of CFxUserInteraction::Kind.
 const std::array promptKinds{
-    PromptKind{"Specify point: ", isPoint, 0, &Driver::EmitPromptPoint},
-    PromptKind{"Specify angle: ", isAngle, 0, &Driver::EmitPromptAngle},
-    PromptKind{"Specify distance: ", isReal, 1, &Driver::EmitPromptDistance},
-    PromptKind{"Specify orient: ", isDirection, 0, &Driver::EmitPromptOrient},
-    PromptKind{"Specify corner: ", isPoint, 0, &Driver::EmitPromptCorner},
-    PromptKind{"Specify scale: ", isNoString, 1, &Driver::EmitPromptScale},
-    PromptKind{"Specify string: ", isAnything, 0, &Driver::EmitPromptString},
-    PromptKind{"Specify keyword: ", isAnything, 0, &Driver::EmitPromptKeyword},
-    PromptKind{"Specify color: ", isNoString, 1, &Driver::EmitPromptColor},
-    PromptKind{"Specify integer: ", isNoString, 1, &Driver::EmitPromptInteger},
-    PromptKind{"Specify double: ", isNoString, 1, &Driver::EmitPromptDouble},
+    PromptKind{"Specify point: ", isPoint, 0, &EmitPromptPoint},
+    PromptKind{"Specify angle: ", isAngle, 0, &EmitPromptAngle},
+    PromptKind{"Specify distance: ", isReal, 1, &EmitPromptDistance},
+    PromptKind{"Specify orient: ", isDirection, 0, &EmitPromptOrient},
+    PromptKind{"Specify corner: ", isPoint, 0, &EmitPromptCorner},
+    PromptKind{"Specify scale: ", isNoString, 1, &EmitPromptScale},
+    PromptKind{"Specify string: ", isAnything, 0, &EmitPromptString},
+    PromptKind{"Specify keyword: ", isAnything, 0, &EmitPromptKeyword},
+    PromptKind{"Specify color: ", isNoString, 1, &EmitPromptColor},
+    PromptKind{"Specify integer: ", isNoString, 1, &EmitPromptInteger},
+    PromptKind{"Specify double: ", isNoString, 1, &EmitPromptDouble},
 };
 
 /// Reads the answer in the form that the kind's operation takes.
 struct Replay
 {
-    Driver& driver;
+    Writer& writer;
     const CFxUserInteraction& interaction;
     const OdResBuf& result;
     const PromptKind& kind;
@@ -84,17 +84,17 @@ struct Replay
 
     QString operator()(EmitPoint ask) const
     {
-        return (driver.*ask)(prompt, accepted() ? result.getPoint3d() : OdGePoint3d());
+        return ask(writer, prompt, accepted() ? result.getPoint3d() : OdGePoint3d());
     }
     QString operator()(EmitReal ask) const
     {
-        return (driver.*ask)(prompt, accepted() ? result.getDouble() : kind.neutral);
+        return ask(writer, prompt, accepted() ? result.getDouble() : kind.neutral);
     }
     QString operator()(EmitInteger ask) const
     {
-        return (driver.*ask)(prompt, accepted() ? result.getInt32() : kind.neutral);
+        return ask(writer, prompt, accepted() ? result.getInt32() : kind.neutral);
     }
-    QString operator()(EmitText ask) const { return (driver.*ask)(prompt, result.getString()); }
+    QString operator()(EmitText ask) const { return ask(writer, prompt, result.getString()); }
     /// The keyword that was taken is not repeated: the first of the list is what the generated prompt offers.
     QString operator()(EmitKeyword ask) const
     {
@@ -103,7 +103,7 @@ struct Replay
         interaction.GetKeywords(local, global);
         if (global.size() < local.size())
             throw OdError_InvalidIndex();
-        return (driver.*ask)(prompt, local, global);
+        return ask(writer, prompt, local, global);
     }
 };
 
@@ -122,6 +122,6 @@ std::int32_t CFxConverterIWAPIImpl::ConvertInteraction(OdSmartPtr<CFxUserInterac
     CFxString prompt = inkmacro::CleanPromptText(interaction->GetPrompt());
     if (prompt.isEmpty())
         prompt = kind.prompt;
-    text = std::visit(Replay{*this, *interaction, *result, kind, prompt}, kind.ask);
+    text = std::visit(Replay{writer, *interaction, *result, kind, prompt}, kind.ask);
     return kFxSuccess;
 }

@@ -1,8 +1,10 @@
 // Selections: at a prompt, by points, and through a filter.
 
+#include "targets/selections.h"
 #include "actions/CustomActionKind.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "targets/apiTypes.h"
+#include "targets/selectionPrompts.h"
 
 std::int32_t CFxConverterIWAPIImpl::ConvertSelection(OdSmartPtr<CFxUserSelection> selection, QString& text)
 {
@@ -25,7 +27,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertSelection(OdSmartPtr<CFxUserSelection
         entities.handles.emplace_back(objects[i].ascii());
     }
     if (!entities.names.empty())
-        text = EmitPromptSelection(entities);
+        text = EmitPromptSelection(writer, entities);
     return kFxSuccess;
 }
 
@@ -34,7 +36,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionSelect(OdSmartPtr<CFxCustomActi
     if (action->GetKind() != kSelect)
         return kFxFailure;
     for (std::int32_t i = 0; i + 1 < action->GetDataCount(); i += 2)
-        text += EmitSelectEntities(action->GetData(i).GetInt(), action->GetData(i + 1).GetPointArray(), false);
+        text += EmitSelectEntities(writer, action->GetData(i).GetInt(), action->GetData(i + 1).GetPointArray(), false);
     return kFxSuccess;
 }
 
@@ -56,6 +58,6 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionSelectionFilter(OdSmartPtr<CFxC
             points = datum.GetPointArray();
         }
     }
-    text += EmitSelectionFilter(points, mode, typeNames);
+    text += EmitSelectionFilter(writer, points, mode, typeNames);
     return kFxSuccess;
 }

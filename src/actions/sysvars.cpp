@@ -3,7 +3,8 @@
 #include "actions/optionTable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "host/kernel/CFxServices.h"
-#include "targets/texts.h"
+#include "targets/options.h"
+#include "targets/wording.h"
 
 using namespace inkmacro;
 
@@ -35,44 +36,43 @@ std::int32_t int16Value(const CFxString& variable, const OdResBuf& value)
     return variable.equalNoCase("CECOLOR") ? value.getString().toInt() : value.getInt16();
 }
 
-QString commandOption(CFxConverterIWAPIImpl& target, const CFxSysVarChanged& change, const CFxString& option,
-                      OptionKind kind, const OdResBuf& value)
+QString commandOption(Writer& writer, const CFxSysVarChanged& change, const CFxString& option, OptionKind kind,
+                      const OdResBuf& value)
 {
     switch (kind) {
     case OptionKind::Bool:
-        return target.EmitCommandOptionBool(option, value.getBool());
+        return EmitCommandOptionBool(writer, option, value.getBool());
     case OptionKind::Double:
-        return target.EmitCommandOptionDouble(option, value.getDouble());
+        return EmitCommandOptionDouble(writer, option, value.getDouble());
     case OptionKind::Int8:
-        return target.EmitCommandOptionInt8(option, value.getInt8());
+        return EmitCommandOptionInt8(writer, option, value.getInt8());
     case OptionKind::Int16:
-        return target.EmitCommandOptionInt16(option, int16Value(change.GetName(), value));
+        return EmitCommandOptionInt16(writer, option, int16Value(change.GetName(), value));
     case OptionKind::Int32:
-        return target.EmitCommandOptionInt32(option, value.getInt32());
+        return EmitCommandOptionInt32(writer, option, value.getInt32());
     case OptionKind::Point2d:
-        return target.EmitCommandOptionPoint2D(option, value.getPoint2d());
+        return EmitCommandOptionPoint2D(writer, option, value.getPoint2d());
     case OptionKind::Point3d:
-        return target.EmitCommandOptionPoint3D(option, value.getPoint3d());
+        return EmitCommandOptionPoint3D(writer, option, value.getPoint3d());
     case OptionKind::String:
-        return target.EmitCommandOptionString(option, CleanPromptText(value.getString()));
+        return EmitCommandOptionString(writer, option, CleanPromptText(value.getString()));
     }
     return {};
 }
 
-QString applicationOption(CFxConverterIWAPIImpl& target, const CFxString& option, OptionKind kind,
-                          const OdResBuf& value)
+QString applicationOption(Writer& writer, const CFxString& option, OptionKind kind, const OdResBuf& value)
 {
     switch (kind) {
     case OptionKind::Bool:
-        return target.EmitApplicationOptionBool(option, value.getBool());
+        return EmitApplicationOptionBool(writer, option, value.getBool());
     case OptionKind::Double:
-        return target.EmitApplicationOptionDouble(option, value.getDouble());
+        return EmitApplicationOptionDouble(writer, option, value.getDouble());
     case OptionKind::Int16:
-        return target.EmitApplicationOptionInt16(option, value.getInt16());
+        return EmitApplicationOptionInt16(writer, option, value.getInt16());
     case OptionKind::Int32:
-        return target.EmitApplicationOptionInt32(option, value.getInt32());
+        return EmitApplicationOptionInt32(writer, option, value.getInt32());
     default:
-        return target.EmitApplicationOptionString(option, value.getString());
+        return EmitApplicationOptionString(writer, option, value.getString());
     }
 }
 
@@ -98,8 +98,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertSysVar(OdSmartPtr<CFxSysVarChanged> v
     CFxString option;
     std::int32_t kind = -1;
     if (FindCommandOption(variable->GetName(), option, kind) == kFxSuccess)
-        text = commandOption(*this, *variable, option, static_cast<OptionKind>(kind), *value);
+        text = commandOption(writer, *variable, option, static_cast<OptionKind>(kind), *value);
     else if (FindApplicationOption(variable->GetName(), option, kind) == kFxSuccess)
-        text += applicationOption(*this, option, static_cast<OptionKind>(kind), *value);
+        text += applicationOption(writer, option, static_cast<OptionKind>(kind), *value);
     return kFxSuccess;
 }

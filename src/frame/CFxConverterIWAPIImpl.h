@@ -1,7 +1,9 @@
 #pragma once
 
 #include "frame/CFxConverterIWAPI.h"
-#include "targets/Target.h"
+#include "frame/variables.h"
+#include "targets/EntityList.h"
+#include "targets/Writer.h"
 
 #include <QTextStream>
 
@@ -10,23 +12,8 @@
 class CFxConverterIWAPIObject;
 struct FileObject;
 
-/// Class and ordinal of an object that the generated code has a variable for.
-struct ActionEntry
-{
-    OdRxClass* cls = nullptr;
-    std::uint32_t ordinal = 0;
-};
-
-/// The objects that a statement works on, element by element.
-struct EntityList
-{
-    std::vector<CFxString> names;   ///< variable; empty for an object that the generated code does not know
-    std::vector<CFxString> types;   ///< enumerator of iwObjectType_e; empty where the name is
-    std::vector<CFxString> handles; ///< hexadecimal
-};
-
 /// The walk over a recording and everything else that is the same for all targets. Knows no target: the words come
-/// from the Emit operations.
+/// from the Emit operations, and a language class adds what varies in more than words.
 class CFxConverterIWAPIImpl : public CFxConverterIWAPI
 {
 public:
@@ -86,9 +73,6 @@ public:
 
     // Variables of the generated code: variables.cpp.
 
-    /// Type name and object type enumerator of a class, rewritten for C++ when the recording language is 0.
-    /// kFxFailure for a class outside the table; the outputs then stay untouched.
-    std::int32_t GetApiTypeName(const OdRxClass* cls, CFxString& typeName, CFxString& secondName) const;
     /// The leader that owns the note of that handle, else the null id. Raises OdError_NotThatKindOfClass when the
     /// handle is another object's.
     void GetNoteLeader(OdDbObjectId& leader, const OdDbHandle& handle) const;
@@ -107,102 +91,22 @@ public:
     /// The next ordinal, noted under the handle. An object that is met again under its handle gets a new variable.
     ActionEntry RegisterObject(const OdDbHandle& handle, OdRxClass* cls);
 
-    virtual QString EmitBlockBegin() = 0;
-    virtual QString EmitBlockEnd() = 0;
-    virtual QString EmitActivateSheet(const CFxString& sheetName, CFxString& sheetVariable) = 0;
     /// `hasSysVar`: a system variable changed at the recording's top level.
     virtual QString EmitFileHeader(const QString& className, bool hasSysVar) = 0;
     virtual QString EmitFileFooter() = 0;
-    virtual QString EmitComment(const CFxString& comment) = 0;
-    /// Stands behind a command's block; no target has anything to say there.
-    virtual QString EmitCommandTrailer() = 0;
-    virtual QString EmitVariableDeclaration(const ActionEntry& entry) = 0;
-    virtual QString EmitGetLayer(const CFxString& variable) = 0;
-
-    // Options and file locations. Options are given by their enumerator.
-    virtual QString EmitCommandOptionBool(const CFxString& option, bool value) = 0;
-    virtual QString EmitCommandOptionDouble(const CFxString& option, double value) = 0;
-    virtual QString EmitCommandOptionInt8(const CFxString& option, std::int32_t value) = 0;
-    virtual QString EmitCommandOptionInt16(const CFxString& option, std::int32_t value) = 0;
-    virtual QString EmitCommandOptionInt32(const CFxString& option, std::int32_t value) = 0;
-    virtual QString EmitCommandOptionPoint2D(const CFxString& option, const OdGePoint2d& value) = 0;
-    virtual QString EmitCommandOptionPoint3D(const CFxString& option, const OdGePoint3d& value) = 0;
-    virtual QString EmitCommandOptionString(const CFxString& option, const CFxString& value) = 0;
-    virtual QString EmitApplicationOptionBool(const CFxString& option, bool value) = 0;
-    virtual QString EmitApplicationOptionInt16(const CFxString& option, std::int32_t value) = 0;
-    virtual QString EmitApplicationOptionInt32(const CFxString& option, std::int32_t value) = 0;
-    virtual QString EmitApplicationOptionDouble(const CFxString& option, double value) = 0;
-    virtual QString EmitApplicationOptionString(const CFxString& option, const CFxString& value) = 0;
-    /// Fetches the host object into a fresh variable, whose name comes back.
-    virtual QString EmitInterfaceFilesObject(CFxString& variable) = 0;
-    virtual QString EmitSystemFilesObject(CFxString& variable) = 0;
-    virtual QString EmitDrawingSupportFilesObject(CFxString& variable) = 0;
-    virtual QString EmitFileLocationArray(const CFxString& variable, const CFxString& property,
-                                          const std::vector<CFxString>& values) = 0;
-
-    // Selections and lists of entities.
-    virtual QString EmitPromptSelection(const EntityList& entities) = 0;
-    virtual QString EmitMirrorEntities(const EntityList& entities, const OdGePoint3d& first, const OdGePoint3d& second,
-                                       bool erase) = 0;
-    virtual QString EmitStretchEntities(const EntityList& entities, const OdGePoint3d& start, const OdGePoint3d& end,
-                                        const OdGeVector3d& offset) = 0;
-    /// `first`: the arrays are written too; further calls of the same action use them again.
-    virtual QString EmitCopyEntities(const EntityList& entities, const OdGeVector3d& offset, bool first) = 0;
-    virtual QString EmitMoveEntities(const EntityList& entities, const OdGeVector3d& offset, bool first) = 0;
-    virtual QString EmitRotateEntities(const EntityList& entities, const OdGePoint3d& center, double angle) = 0;
-    virtual QString EmitScaleEntities(const EntityList& entities, const OdGePoint3d& center, double factor) = 0;
-    /// `hasManager`: the selection manager's variable stands already. Raises OdError_InvalidIndex when a selection by
-    /// point has none.
-    virtual QString EmitSelectEntities(std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager) = 0;
-    virtual QString EmitSelectionFilter(const OdArray<OdGePoint3d>& points, std::int32_t mode,
-                                        const std::vector<CFxString>& typeNames) = 0;
-
-    // Statements of single custom actions.
-    virtual QString EmitInsertEmbeddedObject(const CFxString& variable, const CFxString& path, bool first,
-                                             bool second) = 0;
-    virtual QString EmitEraseEntities(const std::vector<CFxString>& names) = 0;
-    virtual QString EmitSetElementColor(std::int32_t element, const OdCmColor& color) = 0;
-    virtual QString EmitGroupAddEntities(const std::vector<CFxString>& names, const CFxString& group) = 0;
-    virtual QString EmitGroupRemoveEntities(const std::vector<CFxString>& names, const CFxString& group) = 0;
-    virtual QString EmitActivate(const CFxString& variable) = 0;
-    virtual QString EmitInsertViewport(const CFxString& variable, const CFxString& sheetName,
-                                       const OdArray<OdGePoint3d>& points) = 0;
-    virtual QString EmitJoin(const CFxString& variable, const CFxString& other) = 0;
-    virtual QString EmitExplode(const CFxString& variable) = 0;
-
-    virtual QString EmitProgramText(const QString& projectName) = 0;
-    virtual QString EmitProjectText(const QString& projectName) = 0;
+    // Unless the target says otherwise, the macro file is the whole result.
+    virtual QString EmitProgramText(const QString&) { return {}; }
+    virtual QString EmitProjectText(const QString&) { return {}; }
     /// Writes the project around the macro file.
-    virtual std::int32_t EmitProjectFiles(const QString& path) = 0;
+    virtual std::int32_t EmitProjectFiles(const QString&) { return kFxSuccess; }
 
-    // Prompts that are shown again; all but the keyword's raise UniqueCounter before anything else.
-    virtual QString EmitPromptPoint(const CFxString& prompt, const OdGePoint3d& value) = 0;
-    virtual QString EmitPromptAngle(const CFxString& prompt, double value) = 0;
-    virtual QString EmitPromptDistance(const CFxString& prompt, double value) = 0;
-    virtual QString EmitPromptOrient(const CFxString& prompt, double value) = 0;
-    virtual QString EmitPromptCorner(const CFxString& prompt, const OdGePoint3d& value) = 0;
-    virtual QString EmitPromptScale(const CFxString& prompt, double value) = 0;
-    virtual QString EmitPromptString(const CFxString& prompt, const CFxString& value) = 0;
-    /// `global` has at least as many elements as `local`.
-    virtual QString EmitPromptKeyword(const CFxString& prompt, const std::vector<CFxString>& local,
-                                      const std::vector<CFxString>& global) = 0;
-    virtual QString EmitPromptColor(const CFxString& prompt, std::int32_t value) = 0;
-    virtual QString EmitPromptInteger(const CFxString& prompt, std::int32_t value) = 0;
-    virtual QString EmitPromptDouble(const CFxString& prompt, double value) = 0;
-
-    /// Depth of the statement being written, four blanks a level.
-    std::uint32_t IndentLevel = 0;
-    /// Suffix that keeps the local names of one statement apart.
-    std::uint32_t UniqueCounter = 0;
+    Writer writer;
     /// Ordinal of the last object that got a variable.
     std::uint32_t objectCounter = 0;
 
 protected:
     CFxConverterIWAPIImpl(inkmacro::Target target, std::uint32_t mode);
     ~CFxConverterIWAPIImpl() override;
-
-    /// False when the file could not be opened. A write that fails after that is reported to the host alone.
-    static bool WriteTextFile(const QString& path, const QString& text, bool byteOrderMark);
 
 private:
     struct CommandState;
@@ -218,7 +122,7 @@ private:
     QString NoteOfLeader(const OdDbHandle& note, OdRxClass* noteClass, const OdDbObjectId& leader, CFxString& name);
     /// The entry of the group of that name, or null for a group that the generated code does not know.
     const ActionEntry* FindGroup(const CFxString& groupName, OdDbHandle& handle) const;
-    using EmitGroupChange = QString (CFxConverterIWAPIImpl::*)(const std::vector<CFxString>&, const CFxString&);
+    using EmitGroupChange = QString (*)(Writer&, const std::vector<CFxString>&, const CFxString&);
     void ConvertGroupChange(const CFxCustomAction& action, EmitGroupChange change, QString& text);
 
     std::uint32_t mode;
@@ -226,6 +130,3 @@ private:
     std::map<OdDbHandle, ActionEntry> ObjectVariableMap;
     CFxValueContext context = 0;
 };
-
-/// Removes what C++ type names end in, wherever it stands.
-void StripPointerSuffixes(CFxString& typeName);

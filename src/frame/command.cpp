@@ -5,6 +5,8 @@
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "targets/blocks.h"
+#include "targets/variables.h"
 
 #include <QStringList>
 
@@ -53,9 +55,9 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
     CommandState state;
     RegisterChildren(children, state);
     DeclareChildren(state);
-    state.prefix += EmitBlockBegin();
+    state.prefix += EmitBlockBegin(writer);
 
-    const std::uint32_t outerCounter = std::exchange(UniqueCounter, 0);
+    const std::uint32_t outerCounter = std::exchange(writer.UniqueCounter, 0);
     ConvertChildren(children, state);
 
     if (!state.noBlock && !state.unnamedTarget && !state.allEmpty && !state.shapeStyle)
@@ -64,11 +66,11 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
         stream << statement;
     // An unnamed target leaves the level where the block's begin put it: what follows stands one level deeper.
     if (!state.noBlock && !state.unnamedTarget) {
-        const QString end = EmitBlockEnd() + EmitCommandTrailer();
+        const QString end = EmitBlockEnd(writer);
         if (!state.allEmpty && !state.shapeStyle)
             stream << end;
     }
-    UniqueCounter = outerCounter;
+    writer.UniqueCounter = outerCounter;
     return kFxSuccess;
 }
 
@@ -96,7 +98,7 @@ void CFxConverterIWAPIImpl::RegisterChildren(const CFxActionArray& children, Com
 void CFxConverterIWAPIImpl::DeclareChildren(CommandState& state)
 {
     for (const ActionEntry& entry : state.added) {
-        state.prefix += EmitVariableDeclaration(entry);
+        state.prefix += EmitVariableDeclaration(writer, entry);
         if (!isFinishedByCustomAction(entry.cls->name()))
             continue;
         const CFxString name = VariableName(entry);
@@ -121,7 +123,7 @@ void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, Comm
             }
             if (kind == kPolyline || kind == kViewport) {
                 state.noBlock = true;
-                --IndentLevel;
+                --writer.IndentLevel;
             }
         }
         if (ConvertAction(child, current) != kFxSuccess)

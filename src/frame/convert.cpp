@@ -4,7 +4,8 @@
 #include "frame/RecordingState.h"
 #include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
-#include "targets/texts.h"
+#include "targets/variables.h"
+#include "targets/wording.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,7 +30,7 @@ bool isSysVar(const OdRxObjectPtr& action)
 } // namespace
 
 CFxConverterIWAPIImpl::CFxConverterIWAPIImpl(inkmacro::Target target, std::uint32_t mode)
-    : mode(mode), objectConverter(CreateObjectConverter(target, this))
+    : writer(target), mode(mode), objectConverter(std::make_shared<CFxConverterIWAPIObject>(*this))
 {
 }
 
@@ -48,7 +49,7 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
         return kFxFailure;
 
-    IndentLevel = 0;
+    writer.IndentLevel = 0;
     const bool hasSysVar = std::any_of(actions.begin(), actions.end(), isSysVar);
     stream << EmitFileHeader(inkmacro::projectName(path), hasSysVar);
     RecordingSheetName = CFxString();
@@ -84,7 +85,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const O
         }
     }
     if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
-        stream << EmitVariableDeclaration(RegisterObject(added->GetHandle(), added->GetObjectClass()));
+        stream << EmitVariableDeclaration(writer, RegisterObject(added->GetHandle(), added->GetObjectClass()));
 
     QString text;
     const std::int32_t status = ConvertAction(action, text);
@@ -130,7 +131,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertModified(const OdSmartPtr<CFxObjectMo
         CFxString name;
         ResolveVariable(handle, cls, name);
         if (!name.isEmpty())
-            text += EmitGetLayer(name);
+            text += EmitGetLayer(writer, name);
     }
     return Objects().ConvertObjectModified(action, text);
 }
@@ -140,20 +141,4 @@ CFxConverterIWAPIObject& CFxConverterIWAPIImpl::Objects() const
     if (!objectConverter)
         throw OdError(eNullObjectPointer);
     return *objectConverter;
-}
-
-bool CFxConverterIWAPIImpl::WriteTextFile(const QString& path, const QString& text, bool byteOrderMark)
-{
-    QFile file(path);
-    const bool opened = file.open(QIODevice::WriteOnly | QIODevice::Truncate);
-    QTextStream stream(&file);
-    stream.setCodec("UTF-8");
-    stream.setGenerateByteOrderMark(byteOrderMark);
-    if (opened)
-        stream << text;
-    stream.flush();
-    // No failure of the conversion, but the host has to know that the disk is full.
-    if (opened && (!file.flush() || stream.status() != QTextStream::Ok))
-        GetFxSystemServices()->ReportIncompleteFile(path);
-    return opened;
 }

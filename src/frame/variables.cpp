@@ -31,8 +31,7 @@ void StripPointerSuffixes(CFxString& typeName)
     typeName.replace("_c*", "");
 }
 
-std::int32_t CFxConverterIWAPIImpl::GetApiTypeName(const OdRxClass* cls, CFxString& typeName,
-                                                   CFxString& secondName) const
+std::int32_t GetApiTypeName(const OdRxClass* cls, CFxString& typeName, CFxString& secondName)
 {
     // A custom action whose datum is of another type than expected gives no class.
     const inkmacro::ApiType* const type = cls ? inkmacro::FindApiType(cls->name()) : nullptr;

@@ -2,7 +2,6 @@
 
 #include "frame/CFxConverterIWAPIModule.h"
 #include "host/db/OdDbObject.h"
-#include "targets/Target.h"
 
 #include <QHash>
 #include <QString>
@@ -14,32 +13,8 @@
 class AddedProperties;
 class ChangeRows;
 class CFxConverterIWAPIImpl;
+class Writer;
 class OdDbMText;
-
-/// What the insertion of an attribute definition takes.
-struct AttributeDefinition
-{
-    CFxString value;
-    CFxString tag;
-    CFxString prompt;
-    OdGePoint3d position;
-    CFxString styleName;
-    CFxString justification; ///< as the property sheet shows it
-    double height;
-    double rotation; ///< radians
-    bool constant;
-    bool invisible;
-    bool preset;
-    bool verify;
-    bool lockPosition;
-};
-
-/// What else than a note may stand at a leader's end.
-enum class LeaderAnnotation
-{
-    Tolerance,
-    Block
-};
 
 /// Whether that file of line type shapes comes with the host, which then needs no statement to load it.
 bool IsHostShapeFile(const CFxString& fileName);
@@ -62,25 +37,25 @@ std::optional<CFxString> ChosenText(const CFxVariant& value);
 class CFxConverterIWAPIObject
 {
 public:
-    explicit CFxConverterIWAPIObject(CFxConverterIWAPIImpl* driver) : driver(driver) {}
+    explicit CFxConverterIWAPIObject(CFxConverterIWAPIImpl& driver);
     CFxConverterIWAPIObject(const CFxConverterIWAPIObject&) = delete;
     CFxConverterIWAPIObject& operator=(const CFxConverterIWAPIObject&) = delete;
 
     // The entries of the driver. The first two append to `text`, a property that stands alone replaces it.
-    virtual std::int32_t ConvertObjectAdded(OdSmartPtr<CFxObjectAdded> action, QString& text);
-    virtual std::int32_t ConvertObjectModified(OdSmartPtr<CFxObjectModified> action, QString& text);
-    virtual std::int32_t ConvertPropertyChanged(CFxPropertyChangedPtr action, QString& text);
+    std::int32_t ConvertObjectAdded(OdSmartPtr<CFxObjectAdded> action, QString& text);
+    std::int32_t ConvertObjectModified(OdSmartPtr<CFxObjectModified> action, QString& text);
+    std::int32_t ConvertPropertyChanged(CFxPropertyChangedPtr action, QString& text);
 
     /// `read` is what the class's reader takes its values from, `rest` what the general handler gets of it: the same
     /// records less those that the reader took.
-    virtual std::int32_t ConvertAddedObject(OdRxClass* cls, OdDbHandle handle, PropertyList& read, PropertyList& rest,
-                                            QString& text);
-    virtual bool IsDimensionClass(const OdRxClass* cls) const;
-    virtual std::int32_t ConvertModifiedObject(OdRxClass* cls, OdDbHandle handle, PropertyList& list, QString& text);
+    std::int32_t ConvertAddedObject(OdRxClass* cls, OdDbHandle handle, PropertyList& read, PropertyList& rest,
+                                    QString& text);
+    bool IsDimensionClass(const OdRxClass* cls) const;
+    std::int32_t ConvertModifiedObject(OdRxClass* cls, OdDbHandle handle, PropertyList& list, QString& text);
 
     /// Statements for the properties that changed, or for what an added object's reader left. Empties `text` first.
-    virtual std::int32_t ConvertObjectChanges(OdRxClass* cls, OdDbHandle handle, PropertyList& list, bool fromAdded,
-                                              QString& text);
+    std::int32_t ConvertObjectChanges(OdRxClass* cls, OdDbHandle handle, PropertyList& list, bool fromAdded,
+                                      QString& text);
     /// The properties that entities of all classes have. Sets `noGroup`, and takes back the level of the group that was
     /// begun, when the statements declare what must be seen behind the group.
     std::int32_t ConvertGeneralProperties(PropertyList& list, bool fromAdded, bool isCurvedText,
@@ -122,125 +97,17 @@ public:
     OdGePoint3d FindPoint(const CFxString& xTag, const CFxString& yTag, const CFxString& zTag, PropertyList& list,
                           CFxValueContext valueContext, PropertyList* consumed = nullptr);
 
-    virtual QString EmitObjectAddedComment(const CFxString& className) = 0;
-    virtual QString EmitObjectAddedEnd() = 0;
-    virtual QString EmitObjectModifiedComment(const CFxString& className) = 0;
-    virtual QString EmitObjectModifiedEnd() = 0;
+    // What statements reach an object by: variables.cpp.
 
-    // What custom actions need of the objects' statements.
-    /// Sets a property of the block reference's attribute of that tag.
-    virtual QString EmitBlockAttributeValue(const CFxString& variable, const CFxString& property, const CFxString& tag,
-                                            const CFxString& value) = 0;
-    virtual QString EmitInsertRegion(const CFxString& variable, const QStringList& names, std::uint32_t number) = 0;
-    /// Of the model, or else of the sheet of that name, which is activated.
-    virtual QString EmitSetModelProperty(const CFxString& property, const CFxString& value, bool ofModel,
-                                         const CFxString& sheetName) = 0;
-
-    virtual QString EmitInsertLine(const OdGePoint3d& start, const OdGePoint3d& end, const CFxString& name) = 0;
-    virtual QString EmitInsertCircle(const OdGePoint3d& center, double radius, const CFxString& name) = 0;
-    virtual QString EmitInsertPoint(const OdGePoint3d& position, const CFxString& name) = 0;
-    virtual QString EmitInsertRay(const OdGePoint3d& base, const OdGePoint3d& second, const CFxString& name) = 0;
-    virtual QString EmitInsertArc(const OdGePoint3d& center, double radius, double startAngle, double endAngle,
-                                  const CFxString& name) = 0;
-    virtual QString EmitInsertInfiniteLine(const OdGePoint3d& base, const OdGePoint3d& second,
-                                           const CFxString& name) = 0;
-    /// The Z of both axis ends is dropped: the host's calls take none.
-    virtual QString EmitInsertEllipseArc(const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
-                                         double otherAxisDistance, double startAngle, double endAngle,
-                                         const CFxString& name) = 0;
-    virtual QString EmitInsertEllipse(const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
-                                      double otherAxisDistance, const CFxString& name) = 0;
-
-    // Text styles, attribute definitions, notes, tolerances, leaders and curved texts.
-    virtual QString EmitCreateTextStyle(const CFxString& name, const CFxString& styleName) = 0;
-    virtual QString EmitLoadShapeFile(const CFxString& path) = 0;
-    virtual QString EmitInsertAttributeDefinition(const AttributeDefinition& definition, const CFxString& name) = 0;
-    virtual QString EmitInsertSimpleNote(const OdGePoint3d& position, double height, double rotation,
-                                         const CFxString& text, const CFxString& name) = 0;
-    virtual QString EmitInsertNote(const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
-                                   const CFxString& text, const CFxString& name) = 0;
-    /// `shownText` is the justification as the property sheet shows it, `direction` the number of the chosen item.
-    virtual QString EmitSetNoteJustify(const CFxString& target, const CFxString& property,
-                                       const CFxString& shownText) = 0;
-    virtual QString EmitSetNoteDirection(const CFxString& target, const CFxString& property, int direction) = 0;
-    virtual QString EmitInsertTolerance(const OdGePoint3d& position, const CFxString& text, const CFxString& name) = 0;
-    virtual QString EmitInsertLeader(const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
-                                     const CFxString& name) = 0;
-    /// `text` is the tolerance's text or the block's name.
-    virtual QString EmitSetAnnotation(const CFxString& leader, LeaderAnnotation kind, const CFxString& text) = 0;
-    virtual QString EmitInsertCurvedText(const CFxString& text, const CFxString& arc, const CFxString& name) = 0;
-    virtual QString EmitCallWithPoint(const CFxString& target, const CFxString& method, const OdGePoint3d& point) = 0;
-
-    // Setters: `target` is the variable, `property` the property's name. No statement comes of a record that the
-    // drawing does not have.
-    virtual QString EmitSetProperty(const CFxString& target, const CFxString& property, const CFxString& value,
-                                    bool quoted) = 0;
-    virtual QString EmitSetDoubleProperty(const CFxString& target, const CFxString& property, double value) = 0;
-    virtual QString EmitSetBoolProperty(const CFxString& target, const CFxString& property, bool value) = 0;
-    virtual QString EmitSetColor(const CFxString& target, const CFxString& property, const OdCmColor& color) = 0;
-    virtual QString EmitSetLayer(const CFxString& target, const CFxString& property, const OdDbObjectId& id) = 0;
-    virtual QString EmitSetLineStyle(const CFxString& target, const CFxString& property, const OdDbObjectId& id) = 0;
-    /// `weight` is in hundredths of a millimetre, -1 by layer, -2 by block.
-    virtual QString EmitSetLineWeight(const CFxString& target, const CFxString& property, int weight) = 0;
-    virtual QString EmitSetTransparency(const CFxString& target, const OdCmTransparency& transparency) = 0;
-
-    // Objects that statements reach others by. A name that is passed in as CFxString& receives the new variable's.
     /// Gives the object's variable. Where the recording has not made it, the statement fetches the object into a new
     /// variable, which is not remembered; else it is empty. A class without an interface leaves the name as it was.
-    virtual QString EmitObjectVariable(const OdDbHandle& handle, OdRxClass* cls, CFxString& name) = 0;
-    virtual QString EmitGetNoteAnnotation(const CFxString& note, const CFxString& leader) = 0;
-    virtual QString EmitDeclareBlockDefinition(const CFxString& name) = 0;
-    virtual QString EmitGetGeneralDimension(const CFxString& name, CFxString& target) = 0;
-    virtual QString EmitGetCurvedTextSettings(const CFxString& name, CFxString& settings) = 0;
-    virtual QString EmitSetCurvedTextSettings(const CFxString& name, const CFxString& settings) = 0;
-    virtual QString EmitRemoveNamedView(const CFxString& name, const CFxString& viewName, bool paperspace) = 0;
-    virtual QString EmitRemoveLayer(const CFxString& name) = 0;
+    QString ObjectVariable(const OdDbHandle& handle, OdRxClass* cls, CFxString& name);
 
-    // Changes of curves and geometry. Each change of a coordinate is a read, an assignment and a write.
-
-    /// `getter` and `setter` are the host's operations. `axis` is "X", "Y" or "Z"; `index` is -1 for a property that
-    /// is not repeated.
-    virtual QString EmitChangePoint(const CFxString& target, const CFxString& axis, const CFxString& getter,
-                                    const CFxString& setter, double value, std::int32_t index) = 0;
-    /// `local` is "getX", "getY" or "getZ".
-    virtual QString EmitChangePosition(const CFxString& target, const CFxString& local, double value) = 0;
-    virtual QString EmitChangeFirstPoint(const CFxString& target, const CFxString& local, double value) = 0;
-    virtual QString EmitChangeSecondPoint(const CFxString& target, const CFxString& local, double value) = 0;
-    virtual QString EmitChangeVertex(const CFxString& target, std::int32_t index, const CFxString& axis,
-                                     double value) = 0;
-    virtual QString EmitChangeVertex2D(const CFxString& target, std::int32_t index, const CFxString& axis,
-                                       double value) = 0;
-    virtual QString EmitSetIndexedDouble(const CFxString& target, const CFxString& operation, std::int32_t index,
-                                         double value) = 0;
-    /// The enumerator is told by the text that the property sheet shows.
-    virtual QString EmitSetEnumProperty(const CFxString& target, const char* enumeration, const CFxString& property,
-                                        const CFxString& shownText) = 0;
-    virtual QString EmitSetLeaderType(const CFxString& target, const CFxString& property, std::int32_t type) = 0;
-    // Each fetches an object into a new variable and gives its name.
-    virtual QString EmitGetDimensionStyleUserData(const CFxString& owner, CFxString& userData) = 0;
-    virtual QString EmitGetArrowsOptions(const CFxString& owner, CFxString& options) = 0;
-    virtual QString EmitGetLineOptions(const CFxString& owner, CFxString& options) = 0;
-    virtual QString EmitGetTextOptions(const CFxString& owner, CFxString& options) = 0;
-    virtual QString EmitGetFitOptions(const CFxString& owner, CFxString& options) = 0;
-    /// `arrow` is the drawing's number of a kind of arrow.
-    virtual QString EmitSetLeaderArrow(const CFxString& target, const CFxString& operation, std::int32_t arrow) = 0;
-    /// `scale` is the drawing's number: 1 for the factor given, 2 for the scale of the sheet.
-    virtual QString EmitSetDimensionScale(const CFxString& target, const CFxString& operation, std::int32_t scale,
-                                          double factor) = 0;
-
-    /// Text as it stands within the quotes of a statement.
-    virtual CFxString EscapeText(const CFxString& text) const = 0;
-
-protected:
-    ~CFxConverterIWAPIObject() = default;
-
-    /// Raises OdError when there is no driver.
-    CFxConverterIWAPIImpl& Driver() const;
+private:
     /// The id of the object in the active drawing; null without one.
     static OdDbObjectId IdOf(const OdDbHandle& handle);
     CFxString ObjectVariableName(OdRxClass* cls, const OdDbObjectId& id, std::uint32_t ordinal) const;
 
-private:
     /// What records are compared with when a tag is looked for.
     struct TagWords
     {
@@ -294,11 +161,9 @@ private:
     std::map<QString, OdDbObjectId> addedIdByVariable;
     std::map<OdDbObjectId, QString> changedVariableById;
     std::map<QString, OdDbObjectId> changedIdByVariable;
-    CFxConverterIWAPIImpl* driver;
+    CFxConverterIWAPIImpl& driver;
+    Writer& writer; ///< the driver's
 
     QString blockAttributes; ///< the group of block attributes, in the host's display language
     QHash<QString, TagWords> tagWords;
 };
-
-/// The object back end of a target, or null.
-std::shared_ptr<CFxConverterIWAPIObject> CreateObjectConverter(inkmacro::Target target, CFxConverterIWAPIImpl* driver);

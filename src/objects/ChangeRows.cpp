@@ -3,6 +3,8 @@
 #include "objects/ChangeRows.h"
 
 #include "frame/CFxConverterIWAPIImpl.h"
+#include "objects/targets/pointChanges.h"
+#include "objects/targets/setters.h"
 
 ChangeRows::ChangeRows(std::initializer_list<ChangeRow> rows)
 {
@@ -24,7 +26,7 @@ ChangeRows::ChangeRows(std::initializer_list<ChangeRow> rows)
 std::int32_t CFxConverterIWAPIObject::ConvertRows(const ChangeRows& rows, PropertyList& list, bool fromAdded,
                                                   const CFxString& name, QString& text)
 {
-    const CFxValueContext context = Driver().GetContext();
+    const CFxValueContext context = driver.GetContext();
     for (const ChangeRow& row : rows) {
         CFxVariant number;
         const CFxVariant value = FindProperty(row.tag, list, context, nullptr, &number);
@@ -33,19 +35,19 @@ std::int32_t CFxConverterIWAPIObject::ConvertRows(const ChangeRows& rows, Proper
         const std::int32_t index = !row.kind.indexed || number.IsNull() ? -1 : number.GetInt32();
         if (row.kind.indexed && index == -1)
             continue;
-        text += row.kind.statement({*this, row, name, value, index});
+        text += row.kind.statement({writer, row, name, value, index});
     }
     return kFxSuccess;
 }
 
 QString setReal(const Change& change)
 {
-    return change.objects.EmitSetDoubleProperty(change.name, change.row.property, change.value.GetDouble());
+    return EmitSetDoubleProperty(change.writer, change.name, change.row.property, change.value.GetDouble());
 }
 
 QString changePoint(const Change& change)
 {
     const QString& pair = change.row.property;
-    return change.objects.EmitChangePoint(change.name, change.row.axis, "Get" + pair, "Set" + pair,
-                                          change.value.GetDouble(), change.index);
+    return EmitChangePoint(change.writer, change.name, change.row.axis, "Get" + pair, "Set" + pair,
+                           change.value.GetDouble(), change.index);
 }

@@ -7,7 +7,7 @@ struct ChangeRow;
 /// A changed property in the hands of the statement that its row names.
 struct Change
 {
-    CFxConverterIWAPIObject& objects;
+    Writer& writer;
     const ChangeRow& row;
     const CFxString& name; ///< the object's variable
     const CFxVariant& value;

@@ -46,26 +46,6 @@ CFxConverterIWAPIObject::Reader CFxConverterIWAPIObject::ReaderOf(const OdRxClas
     return readers.value(cls, nullptr);
 }
 
-OdDbObjectId CFxConverterIWAPIObject::IdOf(const OdDbHandle& handle)
-{
-    return ACTIVE_DOCUMENT ? ACTIVE_DOCUMENT->GetDatabase()->getOdDbObjectId(handle) : OdDbObjectId();
-}
-
-CFxString CFxConverterIWAPIObject::ObjectVariableName(OdRxClass* cls, const OdDbObjectId& id,
-                                                      std::uint32_t ordinal) const
-{
-    CFxString type;
-    CFxString second;
-    Driver().GetApiTypeName(cls, type, second);
-    const auto view = odrxQuery<OdDbViewTableRecord>(id.openObject().get());
-    if (view && view->isPaperspaceView())
-        type = "SheetNamedView";
-    if (RecordingLanguage() == 0)
-        StripPointerSuffixes(type);
-    type.makeLower();
-    return CFxString(type.toQString() + QString::number(ordinal));
-}
-
 OdDbObjectPtr CFxConverterIWAPIObject::AddedObject(const CFxString& name) const
 {
     const auto found = addedIdByVariable.find(name);
@@ -77,7 +57,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(OdRxClass* cls, OdDbHan
 {
     if (!cls)
         return kFxFailure;
-    const ActionEntry* const entry = Driver().FindEntry(handle);
+    const ActionEntry* const entry = driver.FindEntry(handle);
     if (!entry)
         return kFxSuccess;
 
@@ -86,7 +66,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(OdRxClass* cls, OdDbHan
     addedVariableById[id] = name;
     addedIdByVariable[name] = id;
 
-    AddedProperties properties(*this, read, Driver().GetContext());
+    AddedProperties properties(*this, read, driver.GetContext());
     if (const Reader reader = ReaderOf(cls))
         text = (this->*reader)(properties, name);
     strike(properties.consumed(), rest);

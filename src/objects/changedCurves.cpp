@@ -2,23 +2,25 @@
 // as recorded.
 
 #include "objects/ChangeRows.h"
+#include "objects/targets/pointChanges.h"
+#include "objects/targets/setters.h"
 
 #include <cmath>
 #include <numbers>
 
 namespace {
 
-using PairChange = QString (CFxConverterIWAPIObject::*)(const CFxString& target, const CFxString& local, double value);
+using PairChange = QString (*)(Writer& writer, const CFxString& target, const CFxString& local, double value);
 
 template<PairChange emit>
 QString changePair(const Change& change)
 {
-    return (change.objects.*emit)(change.name, "get" + change.row.axis.toQString(), change.value.GetDouble());
+    return emit(change.writer, change.name, "get" + change.row.axis.toQString(), change.value.GetDouble());
 }
 
-constexpr ChangeKind kPosition{changePair<&CFxConverterIWAPIObject::EmitChangePosition>, "XYZ"};
-constexpr ChangeKind kFirstPoint{changePair<&CFxConverterIWAPIObject::EmitChangeFirstPoint>, "XYZ"};
-constexpr ChangeKind kSecondPoint{changePair<&CFxConverterIWAPIObject::EmitChangeSecondPoint>, "XYZ"};
+constexpr ChangeKind kPosition{changePair<&EmitChangePosition>, "XYZ"};
+constexpr ChangeKind kFirstPoint{changePair<&EmitChangeFirstPoint>, "XYZ"};
+constexpr ChangeKind kSecondPoint{changePair<&EmitChangeSecondPoint>, "XYZ"};
 
 double fromArea(double area)
 {
@@ -38,7 +40,7 @@ double fromDiameter(double diameter)
 template<double (*radius)(double)>
 QString setRadius(const Change& change)
 {
-    return change.objects.EmitSetDoubleProperty(change.name, "Radius", radius(change.value.GetDouble()));
+    return EmitSetDoubleProperty(change.writer, change.name, "Radius", radius(change.value.GetDouble()));
 }
 
 } // namespace

@@ -1,21 +1,24 @@
 // Changed polylines, splines, meshes, solids, traces, faces, rich lines, shapes, embedded objects and viewports.
 
 #include "objects/ChangeRows.h"
+#include "objects/targets/geometrySetters.h"
+#include "objects/targets/pointChanges.h"
+#include "objects/targets/setters.h"
 
 namespace {
 
 QString setEnum(const Change& change, const CFxString& word)
 {
-    return change.objects.EmitSetEnumProperty(change.name, change.row.enumeration, change.row.property, word);
+    return EmitSetEnumProperty(change.writer, change.name, change.row.enumeration, change.row.property, word);
 }
 
 QString setBool(const Change& change, bool value)
 {
-    return change.objects.EmitSetBoolProperty(change.name, change.row.property, value);
+    return EmitSetBoolProperty(change.writer, change.name, change.row.property, value);
 }
 
 constexpr ChangeKind kInteger{[](const Change& change) {
-    return change.objects.EmitSetDoubleProperty(change.name, change.row.property, change.value.GetInt32());
+    return EmitSetDoubleProperty(change.writer, change.name, change.row.property, change.value.GetInt32());
 }};
 
 constexpr ChangeKind kEnum{[](const Change& change) { return setEnum(change, ElementText(change.value)); }};
@@ -44,16 +47,16 @@ constexpr ChangeKind kClosed{[](const Change& change) {
 }};
 
 constexpr ChangeKind kIndexedReal{[](const Change& change) {
-                                      return change.objects.EmitSetIndexedDouble(
-                                          change.name, change.row.property, change.index, change.value.GetDouble());
+                                      return EmitSetIndexedDouble(change.writer, change.name, change.row.property,
+                                                                  change.index, change.value.GetDouble());
                                   },
                                   nullptr, true};
 
 constexpr ChangeKind kIndexedPoint{changePoint, "XYZ", true};
 
 constexpr ChangeKind kVertex2D{[](const Change& change) {
-                                   return change.objects.EmitChangeVertex2D(change.name, change.index, change.row.axis,
-                                                                            change.value.GetDouble());
+                                   return EmitChangeVertex2D(change.writer, change.name, change.index, change.row.axis,
+                                                             change.value.GetDouble());
                                },
                                "XY", true};
 
@@ -61,9 +64,9 @@ constexpr ChangeKind kVertex2D{[](const Change& change) {
 QString changeNumberedVertex(const Change& change)
 {
     const qint64 number = qint64{change.index} + 1;
-    return change.objects.EmitChangePoint(
-        change.name, change.row.axis, QStringLiteral("GetVertex%1Coordinate").arg(number),
-        QStringLiteral("SetVertex%1Coordinate").arg(number), change.value.GetDouble(), -1);
+    return EmitChangePoint(change.writer, change.name, change.row.axis,
+                           QStringLiteral("GetVertex%1Coordinate").arg(number),
+                           QStringLiteral("SetVertex%1Coordinate").arg(number), change.value.GetDouble(), -1);
 }
 
 constexpr ChangeKind kNumberedVertex{changeNumberedVertex, "XYZ", true};

@@ -2,6 +2,11 @@
 // objects.
 
 #include "objects/ChangeRows.h"
+#include "objects/targets/dimensionOptions.h"
+#include "objects/targets/geometrySetters.h"
+#include "objects/targets/pointChanges.h"
+#include "objects/targets/setters.h"
+#include "targets/wording.h"
 
 namespace {
 
@@ -15,10 +20,10 @@ std::int32_t elementNumber(const CFxVariant& value)
 
 QString setQuoted(const Change& change, const CFxString& value)
 {
-    return change.objects.EmitSetProperty(change.name, change.row.property, value, true);
+    return EmitSetProperty(change.writer, change.name, change.row.property, value, true);
 }
 
-using OptionsGetter = QString (CFxConverterIWAPIObject::*)(const CFxString& owner, CFxString& options);
+using OptionsGetter = QString (*)(Writer& writer, const CFxString& owner, CFxString& options);
 
 /// Each tag fetches the option object anew, into variables of its own.
 template<class Setter>
@@ -26,8 +31,8 @@ QString onOptions(const Change& change, OptionsGetter getter, const Setter& sett
 {
     CFxString userData;
     CFxString options;
-    QString text = change.objects.EmitGetDimensionStyleUserData(change.name, userData);
-    text += (change.objects.*getter)(userData, options);
+    QString text = EmitGetDimensionStyleUserData(change.writer, change.name, userData);
+    text += getter(change.writer, userData, options);
     text += setter(options);
     return text;
 }
@@ -37,13 +42,13 @@ template<OptionsGetter getter>
 QString setOptionText(const Change& change)
 {
     return onOptions(change, getter, [&](const CFxString& options) {
-        return change.objects.EmitSetProperty(options, change.row.property, change.value.GetString(), false);
+        return EmitSetProperty(change.writer, options, change.row.property, change.value.GetString(), false);
     });
 }
 
 constexpr ChangeKind kVertex{[](const Change& change) {
-                                 return change.objects.EmitChangeVertex(change.name, change.index, change.row.axis,
-                                                                        change.value.GetDouble());
+                                 return EmitChangeVertex(change.writer, change.name, change.index, change.row.axis,
+                                                         change.value.GetDouble());
                              },
                              "xyz", true};
 
@@ -54,39 +59,40 @@ constexpr ChangeKind kChosenQuoted{[](const Change& change) {
     return word ? setQuoted(change, *word) : QString();
 }};
 
-constexpr ChangeKind kEscaped{
-    [](const Change& change) { return setQuoted(change, change.objects.EscapeText(change.value.GetString())); }};
+constexpr ChangeKind kEscaped{[](const Change& change) {
+    return setQuoted(change, inkmacro::escapeText(change.writer.target, change.value.GetString()));
+}};
 
 constexpr ChangeKind kColor{[](const Change& change) {
-    return change.objects.EmitSetColor(change.name, change.row.property, change.value.GetColor());
+    return EmitSetColor(change.writer, change.name, change.row.property, change.value.GetColor());
 }};
 
 constexpr ChangeKind kLeaderType{[](const Change& change) {
-    return change.objects.EmitSetLeaderType(change.name, change.row.property, elementNumber(change.value));
+    return EmitSetLeaderType(change.writer, change.name, change.row.property, elementNumber(change.value));
 }};
 
 constexpr ChangeKind kArrow{[](const Change& change) {
-    return onOptions(change, &CFxConverterIWAPIObject::EmitGetArrowsOptions, [&](const CFxString& options) {
-        return change.objects.EmitSetLeaderArrow(options, change.row.property, elementNumber(change.value));
+    return onOptions(change, &EmitGetArrowsOptions, [&](const CFxString& options) {
+        return EmitSetLeaderArrow(change.writer, options, change.row.property, elementNumber(change.value));
     });
 }};
 
 constexpr ChangeKind kLineColor{[](const Change& change) {
-    return onOptions(change, &CFxConverterIWAPIObject::EmitGetLineOptions, [&](const CFxString& options) {
-        return change.objects.EmitSetColor(options, change.row.property, change.value.GetColor());
+    return onOptions(change, &EmitGetLineOptions, [&](const CFxString& options) {
+        return EmitSetColor(change.writer, options, change.row.property, change.value.GetColor());
     });
 }};
 
 constexpr ChangeKind kLineWeight{[](const Change& change) {
-    return onOptions(change, &CFxConverterIWAPIObject::EmitGetLineOptions, [&](const CFxString& options) {
-        return change.objects.EmitSetLineWeight(options, change.row.property, change.value.GetInt32());
+    return onOptions(change, &EmitGetLineOptions, [&](const CFxString& options) {
+        return EmitSetLineWeight(change.writer, options, change.row.property, change.value.GetInt32());
     });
 }};
 
 constexpr ChangeKind kScale{[](const Change& change) {
-    return onOptions(change, &CFxConverterIWAPIObject::EmitGetFitOptions, [&](const CFxString& options) {
-        return change.objects.EmitSetDimensionScale(options, change.row.property, kUseScaleFactor,
-                                                    change.value.GetDouble());
+    return onOptions(change, &EmitGetFitOptions, [&](const CFxString& options) {
+        return EmitSetDimensionScale(change.writer, options, change.row.property, kUseScaleFactor,
+                                     change.value.GetDouble());
     });
 }};
 
@@ -100,10 +106,10 @@ std::int32_t CFxConverterIWAPIObject::ConvertModifiedLeader(PropertyList& list, 
         {kQuoted, "DimStyle", "DimensionStyle"},
         {kLeaderType, "Type", "Type"},
         {kArrow, "Arrow", "SetLeaderArrow"},
-        {{setOptionText<&CFxConverterIWAPIObject::EmitGetArrowsOptions>}, "Arrow size", "Size"},
+        {{setOptionText<&EmitGetArrowsOptions>}, "Arrow size", "Size"},
         {kLineColor, "DimLine LColor", "DimensionLineColor"},
         {kLineWeight, "DimLine LWeight", "DimensionLineLineWeight"},
-        {{setOptionText<&CFxConverterIWAPIObject::EmitGetTextOptions>}, "Text offset", "OffsetFromDimensionLines"},
+        {{setOptionText<&EmitGetTextOptions>}, "Text offset", "OffsetFromDimensionLines"},
         {kScale, "DimScale overall", "SetDimensionScale"},
     };
     return ConvertRows(rows, list, fromAdded, name, text);

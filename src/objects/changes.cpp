@@ -4,6 +4,9 @@
 #include "frame/RecordingState.h"
 #include "host/db/OdDbClassMap.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "objects/targets/references.h"
+#include "objects/targets/setters.h"
+#include "targets/blocks.h"
 
 #include <algorithm>
 
@@ -83,7 +86,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(OdRxClass* cls, OdDbH
     text.clear();
     OdDbObjectId leader;
     if (cls == OdDbMText::desc())
-        Driver().GetNoteLeader(leader, handle);
+        driver.GetNoteLeader(leader, handle);
     const OdDbObjectId noteLeader = fromAdded ? OdDbObjectId() : leader;
     CFxString name;
     if (!AddressChangedObject(cls, handle, noteLeader, list, name, text))
@@ -94,34 +97,34 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(OdRxClass* cls, OdDbH
         changedIdByVariable[name] = id;
     }
 
-    const QString opening = Driver().EmitBlockBegin();
+    const QString opening = EmitBlockBegin(writer);
     QString general;
     QString classText;
     bool noGroup = false;
     if (cls->isDerivedFrom(OdDbEntity::desc())) {
         CFxString target = name;
-        const QString dimension = IsDimensionClass(cls) ? EmitGetGeneralDimension(name, target) : QString();
+        const QString dimension = IsDimensionClass(cls) ? EmitGetGeneralDimension(writer, name, target) : QString();
         ConvertGeneralProperties(list, fromAdded, cls == OdDbArcAlignedText::desc(), target, noGroup, general);
         if (!general.isEmpty())
             general.prepend(dimension);
     }
     if (const ClassChanges row = ClassChangesOf(cls); row.handler && !(fromAdded && row.notAdded))
         (this->*row.handler)(list, fromAdded, name, classText);
-    const CFxVariant erased = FindProperty("Erased", list, Driver().GetContext());
+    const CFxVariant erased = FindProperty("Erased", list, driver.GetContext());
     if (!fromAdded && !erased.IsNull())
         classText += ConvertErased(cls, name, erased);
 
     if (general.isEmpty() && classText.isEmpty()) {
         // Who left the group has given its level back already.
         if (RecordingLanguage() != kJavaScript && !noGroup)
-            --Driver().IndentLevel;
+            --writer.IndentLevel;
         // The fetch of a note stands there for what follows it.
         if (!noteLeader.isNull())
             text.clear();
     } else if (noGroup) {
         text += general + classText;
     } else {
-        text += opening + general + classText + Driver().EmitBlockEnd();
+        text += opening + general + classText + EmitBlockEnd(writer);
     }
     return kFxSuccess;
 }
@@ -136,18 +139,18 @@ bool CFxConverterIWAPIObject::AddressChangedObject(OdRxClass* cls, const OdDbHan
         return false;
     if (!noteLeader.isNull()) {
         CFxString leader;
-        EmitObjectVariable(handle, cls, name);
-        EmitObjectVariable(noteLeader.getHandle(), OdDbLeader::desc(), leader);
-        text += EmitGetNoteAnnotation(name, leader);
+        ObjectVariable(handle, cls, name);
+        ObjectVariable(noteLeader.getHandle(), OdDbLeader::desc(), leader);
+        text += EmitGetNoteAnnotation(writer, name, leader);
         return true;
     }
-    if (Driver().FindEntry(handle)) {
-        EmitObjectVariable(handle, cls, name);
+    if (driver.FindEntry(handle)) {
+        ObjectVariable(handle, cls, name);
         return true;
     }
     if (cls == oddbDwgClassMapDesc(49) && hasRecord(list, "Objects")) {
-        EmitObjectVariable(handle, cls, name);
-        text += EmitDeclareBlockDefinition(name);
+        ObjectVariable(handle, cls, name);
+        text += EmitDeclareBlockDefinition(writer, name);
         return true;
     }
     // A sheet is found by its name in the records, it needs no variable.
@@ -159,18 +162,18 @@ QString CFxConverterIWAPIObject::ConvertErased(OdRxClass* cls, const CFxString& 
     QString text;
     CFxString target = name;
     if (IsDimensionClass(cls))
-        text = EmitGetGeneralDimension(name, target);
+        text = EmitGetGeneralDimension(writer, name, target);
     // What comes back has no statement.
     if (!erased.GetString().equalNoCase(ShownWord("YES")))
         return text;
     if (cls == OdDbViewTableRecord::desc()) {
         const OdDbObjectPtr object = changedIdByVariable[name].openObject(true);
         if (const auto view = odrxCast<OdDbViewTableRecord>(object.get()))
-            text += EmitRemoveNamedView(name, view->getName(), view->isPaperspaceView());
+            text += EmitRemoveNamedView(writer, name, view->getName(), view->isPaperspaceView());
     } else if (cls == oddbDwgClassMapDesc(51)) {
-        text += EmitRemoveLayer(name);
+        text += EmitRemoveLayer(writer, name);
     } else {
-        text += EmitSetBoolProperty(target, "Erased", true);
+        text += EmitSetBoolProperty(writer, target, "Erased", true);
     }
     return text;
 }
@@ -182,13 +185,13 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
     CFxVariant value;
     // Asked for each object: the tags are made once.
     const auto take = [&](const QString& tag) {
-        value = FindProperty(tag, list, Driver().GetContext());
+        value = FindProperty(tag, list, driver.GetContext());
         return !value.IsNull();
     };
     const auto leaveGroup = [&] {
         if (noGroup || RecordingLanguage() == kJavaScript)
             return;
-        --Driver().IndentLevel;
+        --writer.IndentLevel;
         noGroup = true;
     };
 
@@ -196,28 +199,28 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         leaveGroup();
         CFxString holder = target;
         if (isCurvedText)
-            text += EmitGetCurvedTextSettings(target, holder);
-        text += EmitSetColor(holder, "Color", value.GetColor());
+            text += EmitGetCurvedTextSettings(writer, target, holder);
+        text += EmitSetColor(writer, holder, "Color", value.GetColor());
         if (isCurvedText)
-            text += EmitSetCurvedTextSettings(target, holder);
+            text += EmitSetCurvedTextSettings(writer, target, holder);
     }
     if (take(QStringLiteral("Layer")))
-        text += EmitSetLayer(target, "Layer", value.GetId());
+        text += EmitSetLayer(writer, target, "Layer", value.GetId());
     if (take(QStringLiteral("LineStyle"))) {
         leaveGroup();
-        text += EmitSetLineStyle(target, "LineStyle", value.GetId());
+        text += EmitSetLineStyle(writer, target, "LineStyle", value.GetId());
     }
     if (take(QStringLiteral("LineScale")))
-        text += EmitSetDoubleProperty(target, "LineScale", value.GetDouble());
+        text += EmitSetDoubleProperty(writer, target, "LineScale", value.GetDouble());
     if (take(QStringLiteral("LineWeight"))) {
         leaveGroup();
-        text += EmitSetLineWeight(target, "LineWeight", value.GetInt32());
+        text += EmitSetLineWeight(writer, target, "LineWeight", value.GetInt32());
     }
     if (take(QStringLiteral("Thickness")))
-        text += EmitSetDoubleProperty(target, "Thickness", value.GetDouble());
+        text += EmitSetDoubleProperty(writer, target, "Thickness", value.GetDouble());
     if (take(QStringLiteral("PrintStyle")))
-        text += EmitSetProperty(target, "PrintStyle", value.GetString(), true);
+        text += EmitSetProperty(writer, target, "PrintStyle", value.GetString(), true);
     if (take(QStringLiteral("Transparency")) && !fromAdded && value.GetType() == CFxVariant::kTransparency)
-        text += EmitSetTransparency(target, value.GetTransparency());
+        text += EmitSetTransparency(writer, target, value.GetTransparency());
     return kFxSuccess;
 }

@@ -2,12 +2,10 @@
 
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "objects/targets/statements.h"
 
-CFxConverterIWAPIImpl& CFxConverterIWAPIObject::Driver() const
+CFxConverterIWAPIObject::CFxConverterIWAPIObject(CFxConverterIWAPIImpl& driver) : driver(driver), writer(driver.writer)
 {
-    if (!driver)
-        throw OdError(eNullObjectPointer);
-    return *driver;
 }
 
 std::int32_t CFxConverterIWAPIObject::ConvertObjectAdded(OdSmartPtr<CFxObjectAdded> action, QString& text)
@@ -26,7 +24,6 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectAdded(OdSmartPtr<CFxObjectAdd
     if (ConvertAddedObject(cls, action->GetHandle(), read, rest, statements) != kFxSuccess)
         return kFxFailure;
     text += statements;
-    text += EmitObjectAddedEnd();
     return kFxSuccess;
 }
 
@@ -43,12 +40,12 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectModified(OdSmartPtr<CFxObject
     if (list.empty())
         return kFxSuccess;
 
-    const QString comment = EmitObjectModifiedComment(cls->name());
+    const QString comment = EmitObjectModifiedComment(writer, cls->name());
     QString statements;
     if (ConvertModifiedObject(cls, action->GetHandle(), list, statements) != kFxSuccess)
         return kFxFailure;
     if (!statements.isEmpty())
-        text += comment + statements + EmitObjectModifiedEnd();
+        text += comment + statements;
     return kFxSuccess;
 }
 

@@ -1,9 +1,12 @@
 // Added text styles, attribute definitions, notes and curved texts.
 
-#include "targets/texts.h"
+#include "objects/targets/texts.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedProperties.h"
+#include "objects/targets/geometrySetters.h"
+#include "objects/targets/setters.h"
+#include "targets/wording.h"
 
 #include <array>
 
@@ -71,10 +74,10 @@ QString CFxConverterIWAPIObject::ReadTextStyle(AddedProperties& properties, cons
     if (style && style->isShapeFile())
         return LoadShapes(style->fileName());
 
-    QString text = EmitCreateTextStyle(name, properties.takeText("Name"));
+    QString text = EmitCreateTextStyle(writer, name, properties.takeText("Name"));
     const CFxVariant font = properties.take("Font");
     if (!font.IsNull())
-        text += EmitSetProperty(name, "Font", doubleBackslashes(font.GetString()), true);
+        text += EmitSetProperty(writer, name, "Font", doubleBackslashes(font.GetString()), true);
     return text;
 }
 
@@ -83,9 +86,9 @@ QString CFxConverterIWAPIObject::LoadShapes(const CFxString& fileName)
 {
     if (IsHostShapeFile(fileName))
         return {};
-    --Driver().IndentLevel;
-    const QString text = EmitLoadShapeFile(doubleBackslashes(fileName));
-    ++Driver().IndentLevel;
+    --writer.IndentLevel;
+    const QString text = EmitLoadShapeFile(writer, doubleBackslashes(fileName));
+    ++writer.IndentLevel;
     return text;
 }
 
@@ -109,7 +112,7 @@ QString CFxConverterIWAPIObject::ReadAttributeDefinition(AddedProperties& proper
     definition.preset = takeYes("Preset");
     definition.verify = takeYes("Verify");
     definition.lockPosition = takeYes("Lock position");
-    return EmitInsertAttributeDefinition(definition, name);
+    return EmitInsertAttributeDefinition(writer, definition, name);
 }
 
 QString CFxConverterIWAPIObject::ReadSimpleNote(AddedProperties& properties, const CFxString& name)
@@ -121,12 +124,12 @@ QString CFxConverterIWAPIObject::ReadSimpleNote(AddedProperties& properties, con
     const CFxString contents = properties.takeText("Contents");
     const std::optional<CFxString> justification = ChosenText(properties.take("Justify"));
 
-    QString text = EmitInsertSimpleNote(position, height, rotation, contents, name);
+    QString text = EmitInsertSimpleNote(writer, position, height, rotation, contents, name);
     if (justification)
-        text += EmitSetEnumProperty(name, "iwTextJustification", "Justify", *justification);
+        text += EmitSetEnumProperty(writer, name, "iwTextJustification", "Justify", *justification);
     // The justification moves the note: both points are set again behind it.
-    text += EmitCallWithPoint(name, "SetAlignmentPoint", alignment);
-    text += EmitCallWithPoint(name, "SetPosition", position);
+    text += EmitCallWithPoint(writer, name, "SetAlignmentPoint", alignment);
+    text += EmitCallWithPoint(writer, name, "SetPosition", position);
     return text;
 }
 
@@ -145,10 +148,10 @@ QString CFxConverterIWAPIObject::ReadNote(AddedProperties& properties, const CFx
     const double boxHeight = properties.takeReal("TextBoxHeight", 0.0);
 
     const Box box = boxOfNote(justify.GetCollection().GetChosen(), position, width.GetDouble(), boxHeight);
-    QString text = EmitInsertNote(box.first, box.second, contents, name);
+    QString text = EmitInsertNote(writer, box.first, box.second, contents, name);
     const auto setReal = [&](const char* property, const CFxVariant& value) {
         if (!value.IsNull())
-            text += EmitSetDoubleProperty(name, property, value.GetDouble());
+            text += EmitSetDoubleProperty(writer, name, property, value.GetDouble());
     };
     setReal("Rotation", rotation);
     setReal("TextHeight", textHeight);
@@ -157,11 +160,11 @@ QString CFxConverterIWAPIObject::ReadNote(AddedProperties& properties, const CFx
     const CFxString styleName =
         style.GetType() == CFxVariant::kId ? nameOfTextStyle(style.GetId()) : ChosenText(style).value_or(CFxString());
     if (!styleName.isEmpty())
-        text += EmitSetProperty(name, "TextStyle", styleName, true);
+        text += EmitSetProperty(writer, name, "TextStyle", styleName, true);
     if (const std::optional<CFxString> justification = ChosenText(justify))
-        text += EmitSetNoteJustify(name, "Justify", *justification);
+        text += EmitSetNoteJustify(writer, name, "Justify", *justification);
     if (!direction.IsNull())
-        text += EmitSetNoteDirection(name, "Direction", direction.GetCollection().GetChosen());
+        text += EmitSetNoteDirection(writer, name, "Direction", direction.GetCollection().GetChosen());
     return text;
 }
 
@@ -172,5 +175,5 @@ QString CFxConverterIWAPIObject::ReadCurvedText(AddedProperties&, const CFxStrin
         return {};
     const auto arc = addedVariableById.find(curved->arcId());
     const bool known = !curved->arcId().isNull() && arc != addedVariableById.end();
-    return EmitInsertCurvedText(curved->textString(), known ? arc->second : QString(), name);
+    return EmitInsertCurvedText(writer, curved->textString(), known ? arc->second : QString(), name);
 }

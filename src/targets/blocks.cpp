@@ -1,19 +1,10 @@
 // Statement groups and comments.
 
+#include "targets/blocks.h"
+
 #include "targets/LineEnd.h"
-#include "targets/PhrasedConverter.h"
 
 using namespace inkmacro;
-
-Fill PhrasedConverter::fill(const Phrase& phrase) const
-{
-    return Fill(phrase.in(target_), IndentLevel, LineEnd);
-}
-
-Fill PhrasedConverter::fillIndented(const Phrase& phrase) const
-{
-    return Fill(phrase.in(target_), IndentLevel);
-}
 
 static const Phrase blockBegin{"EmitBlockBegin",
                                {
@@ -25,11 +16,11 @@ static const Phrase blockBegin{"EmitBlockBegin",
                                }};
 
 /// A target without groups keeps its level too.
-QString PhrasedConverter::EmitBlockBegin()
+QString EmitBlockBegin(Writer& writer)
 {
-    const QString text = fill(blockBegin);
-    if (blockBegin.has(target_))
-        ++IndentLevel;
+    const QString text = writer.fill(blockBegin);
+    if (blockBegin.has(writer.target))
+        ++writer.IndentLevel;
     return text;
 }
 
@@ -42,21 +33,9 @@ static const Phrase blockEnd{"EmitBlockEnd",
                                  .vba = "%1End If%2%2",
                              }};
 
-QString PhrasedConverter::EmitBlockEnd()
+QString EmitBlockEnd(Writer& writer)
 {
-    if (blockEnd.has(target_))
-        --IndentLevel;
-    return fill(blockEnd);
-}
-
-static const Phrase comment{"EmitComment",
-                            {
-                                .csharp = "%1//%3%2",
-                                .vbNet = "%1'%3%2",
-                                .vba = "%1'%3%2",
-                            }};
-
-QString PhrasedConverter::EmitComment(const CFxString& text)
-{
-    return fill(comment).text(text);
+    if (blockEnd.has(writer.target))
+        --writer.IndentLevel;
+    return writer.fill(blockEnd);
 }

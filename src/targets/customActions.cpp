@@ -1,6 +1,8 @@
 // Statements of single custom actions.
 
-#include "targets/PhrasedConverter.h"
+#include "targets/customActions.h"
+
+#include "targets/arrays.h"
 #include "targets/comArrays.h"
 
 #include <QStringList>
@@ -20,14 +22,14 @@ static const Phrase insertEmbeddedObject{
     }};
 
 /// VBA alone writes the truth values with a capital here.
-QString PhrasedConverter::EmitInsertEmbeddedObject(const CFxString& variable, const CFxString& path, bool first,
-                                                   bool second)
+QString EmitInsertEmbeddedObject(Writer& writer, const CFxString& variable, const CFxString& path, bool first,
+                                 bool second)
 {
     const auto word = [&](bool value) {
-        return target_ == Target::Vba ? QLatin1String(value ? "True" : "False")
-                                      : QLatin1String(value ? "true" : "false");
+        return writer.target == Target::Vba ? QLatin1String(value ? "True" : "False")
+                                            : QLatin1String(value ? "true" : "false");
     };
-    return fill(insertEmbeddedObject).text(path).text(word(first)).text(word(second)).text(variable);
+    return writer.fill(insertEmbeddedObject).text(path).text(word(first)).text(word(second)).text(variable);
 }
 
 static const Phrase eraseEntity{"EmitEraseEntities",
@@ -40,12 +42,12 @@ static const Phrase eraseEntity{"EmitEraseEntities",
                                     .vba = "%1%2.Erased = True\n",
                                 }};
 
-QString PhrasedConverter::EmitEraseEntities(const std::vector<CFxString>& names)
+QString EmitEraseEntities(Writer& writer, const std::vector<CFxString>& names)
 {
     QString text;
     for (const CFxString& name : names)
         if (!name.isEmpty())
-            text += fillIndented(eraseEntity).text(name);
+            text += writer.fillIndented(eraseEntity).text(name);
     return text;
 }
 
@@ -107,22 +109,22 @@ static const Phrase setElementColor{"EmitSetElementColor",
                                         .vba = "%9Set appOption.SetElementColor(ElementOption, iwColor1)%10",
                                     }};
 
-QString PhrasedConverter::EmitSetElementColor(std::int32_t element, const OdCmColor& color)
+QString EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmColor& color)
 {
     // Process-wide, so a later conversion uses variables that its macro does not declare. It has to stay so.
     static std::uint32_t calls = 0;
     QString text;
     if (calls++ == 0)
-        text += fill(declareElementColor);
-    text += fill(chooseElement).number(element);
+        text += writer.fill(declareElementColor);
+    text += writer.fill(chooseElement).number(element);
     if (color.isByACI())
-        text += fill(colorByIndex).number(unsigned{color.colorIndex()});
+        text += writer.fill(colorByIndex).number(unsigned{color.colorIndex()});
     else
-        text += fill(colorByRgb)
+        text += writer.fill(colorByRgb)
                     .number(unsigned{color.red()})
                     .number(unsigned{color.green()})
                     .number(unsigned{color.blue()});
-    return text += fill(setElementColor);
+    return text += writer.fill(setElementColor);
 }
 
 static const Phrase activate{"EmitActivate",
@@ -135,9 +137,9 @@ static const Phrase activate{"EmitActivate",
                                  .vba = "%1%3.Activate%2",
                              }};
 
-QString PhrasedConverter::EmitActivate(const CFxString& variable)
+QString EmitActivate(Writer& writer, const CFxString& variable)
 {
-    return fill(activate).text(variable);
+    return writer.fill(activate).text(variable);
 }
 
 static const Phrase join{"EmitJoin",
@@ -150,9 +152,9 @@ static const Phrase join{"EmitJoin",
                              .vba = "%1%3.Join %4%2",
                          }};
 
-QString PhrasedConverter::EmitJoin(const CFxString& variable, const CFxString& other)
+QString EmitJoin(Writer& writer, const CFxString& variable, const CFxString& other)
 {
-    return fill(join).text(variable).text(other);
+    return writer.fill(join).text(variable).text(other);
 }
 
 static const Phrase explode{"EmitExplode",
@@ -165,9 +167,9 @@ static const Phrase explode{"EmitExplode",
                                 .vba = "%1%3.Explode%2",
                             }};
 
-QString PhrasedConverter::EmitExplode(const CFxString& variable)
+QString EmitExplode(Writer& writer, const CFxString& variable)
 {
-    return fill(explode).text(variable);
+    return writer.fill(explode).text(variable);
 }
 
 /// Declares its variable itself: the command around it has no block and no declarations.
@@ -206,34 +208,34 @@ static const Phrase viewportCorner{
         .vba = "%1    Coordinates%3( %4 )=%7%2%1    Coordinates%3( %5 )=%8%2%1    Coordinates%3( %6 )=%9%2",
     }};
 
-QString PhrasedConverter::polygonFilling(const OdArray<OdGePoint3d>& points) const
+static QString polygonFilling(Writer& writer, const OdArray<OdGePoint3d>& points)
 {
-    if (target_ == Target::CppCom)
-        return comPoints(IndentLevel + 1, UniqueCounter, points);
+    if (writer.target == Target::CppCom)
+        return comPoints(writer.IndentLevel + 1, writer.UniqueCounter, points);
     QString lines;
     QStringList coordinates;
     unsigned index = 0;
     for (const OdGePoint3d& point : points) {
-        Fill line = fill(viewportCorner);
-        line.number(UniqueCounter);
-        if (target_ == Target::Vba)
+        Fill line = writer.fill(viewportCorner);
+        line.number(writer.UniqueCounter);
+        if (writer.target == Target::Vba)
             line.number(index).number(index + 1).number(index + 2);
         lines += line.shortPoint(point);
         coordinates << FormatShort(point.x) << FormatShort(point.y) << FormatShort(point.z);
         index += 3;
     }
-    return viewportCorner.has(target_) ? lines : coordinates.join(',');
+    return viewportCorner.has(writer.target) ? lines : coordinates.join(',');
 }
 
-QString PhrasedConverter::EmitInsertViewport(const CFxString& variable, const CFxString& sheetName,
-                                             const OdArray<OdGePoint3d>& points)
+QString EmitInsertViewport(Writer& writer, const CFxString& variable, const CFxString& sheetName,
+                           const OdArray<OdGePoint3d>& points)
 {
-    ++UniqueCounter;
-    const QString filling = polygonFilling(points);
-    return fill(insertViewport)
-        .number(UniqueCounter)
+    ++writer.UniqueCounter;
+    const QString filling = polygonFilling(writer, points);
+    return writer.fill(insertViewport)
+        .number(writer.UniqueCounter)
         .text(variable)
         .text(sheetName)
         .text(filling)
-        .number(arrayBound(3U * points.length()));
+        .number(arrayBound(writer, 3U * points.length()));
 }

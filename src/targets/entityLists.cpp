@@ -1,53 +1,15 @@
 // Mirror, stretch, copy, move, rotate and scale: arrays of the objects, then one call. The suffix of the arrays is
-// UniqueCounter as it stands: these statements do not raise it.
+// writer.UniqueCounter as it stands: these statements do not raise it.
+
+#include "targets/entityLists.h"
 
 #include "targets/LineEnd.h"
-#include "targets/PhrasedConverter.h"
+#include "targets/arrays.h"
+#include "targets/blocks.h"
 #include "targets/comArrays.h"
+#include "targets/objectTypes.h"
 
 using namespace inkmacro;
-
-Fill PhrasedConverter::fillList(const Phrase& phrase) const
-{
-    return isBasic(target_) || target_ == Target::CppCom ? fill(phrase) : fillIndented(phrase);
-}
-
-int PhrasedConverter::arrayBound(std::size_t count) const
-{
-    return static_cast<int>(count) - (isBasic(target_) ? 1 : 0);
-}
-
-QString PhrasedConverter::listHead(const Phrase& phrase, std::size_t count) const
-{
-    return fillList(phrase).number(UniqueCounter).number(arrayBound(count));
-}
-
-QString PhrasedConverter::listElement(const Phrase& phrase, std::size_t index, const QString& word) const
-{
-    Fill line = fillList(phrase);
-    line.number(UniqueCounter);
-    // An array of the C++ add-in grows by adding.
-    if (target_ != Target::Cpp)
-        line.number(qulonglong{index});
-    return line.text(word);
-}
-
-QString PhrasedConverter::objectElements(const Phrase& phrase, const char* array, const std::vector<CFxString>& names)
-{
-    if (target_ == Target::CppCom)
-        return comObjects(IndentLevel, array, UniqueCounter, std::vector<QString>(names.begin(), names.end()));
-    QString text;
-    for (std::size_t i = 0; i < names.size(); ++i)
-        text += listElement(phrase, i, names[i]);
-    return text;
-}
-
-QString PhrasedConverter::ownBlock(const std::function<QString()>& filling)
-{
-    const QString begin = EmitBlockBegin();
-    const QString text = filling();
-    return begin + text + EmitBlockEnd();
-}
 
 static const Phrase objectsHead{
     "EmitMoveEntities",
@@ -77,11 +39,11 @@ static const Phrase objectElement{"EmitMoveEntities",
                                       .vba = "%1Set iwEntities%3( %4 ) = %5%2",
                                   }};
 
-QString PhrasedConverter::objectArray(const EntityList& entities)
+static QString objectArray(Writer& writer, const EntityList& entities)
 {
     const std::size_t count = entities.names.size();
-    return listHead(objectsHead, count) + listHead(objectsSize, count) +
-           objectElements(objectElement, "objects", entities.names) + LineEnd;
+    return listHead(writer, objectsHead, count) + listHead(writer, objectsSize, count) +
+           objectElements(writer, objectElement, "objects", entities.names) + LineEnd;
 }
 
 static const Phrase typedHead{
@@ -154,37 +116,39 @@ static const Phrase foundObject{"EmitCopyEntities",
                                     .vba = "%1Set iwEntities%3( %4 ) = iwObjForCopy%5%2",
                                 }};
 
-QString PhrasedConverter::typedElements(const EntityList& entities, bool lookUpUnknown)
+static QString typedElements(Writer& writer, const EntityList& entities, bool lookUpUnknown)
 {
-    const QString suffix = QString::number(UniqueCounter);
+    const QString suffix = QString::number(writer.UniqueCounter);
     QString text;
     std::vector<CFxString> comObjectWords;
     std::vector<QString> comTypeWords;
     for (std::size_t i = 0; i < entities.names.size(); ++i) {
         const QString& name = entities.names[i];
-        const QString type = ObjectTypeWord(entities.types[i]);
+        const QString type = objectTypeWord(writer.target, entities.types[i]);
         const bool lookedUp = lookUpUnknown && name.isEmpty();
         if (lookedUp)
-            text += fillList(lookUpType).number(UniqueCounter).str() +
-                    fillList(lookUpObject).number(UniqueCounter).text(entities.handles[i]).str();
-        if (target_ == Target::CppCom) {
+            text += fillList(writer, lookUpType).number(writer.UniqueCounter).str() +
+                    fillList(writer, lookUpObject).number(writer.UniqueCounter).text(entities.handles[i]).str();
+        if (writer.target == Target::CppCom) {
             comObjectWords.emplace_back(lookedUp ? "iwObjForCopy" + suffix : name);
             comTypeWords.push_back(lookedUp ? "iwTypeForCopy" + suffix : type);
         } else {
-            text += listElement(lookedUp ? foundType : typeElement, i, lookedUp ? suffix : type);
-            text += listElement(lookedUp ? foundObject : objectElement, i, lookedUp ? suffix : name);
+            text += listElement(writer, lookedUp ? foundType : typeElement, i, lookedUp ? suffix : type);
+            text += listElement(writer, lookedUp ? foundObject : objectElement, i, lookedUp ? suffix : name);
         }
     }
-    if (target_ == Target::CppCom)
-        text += objectElements(objectElement, "objects", comObjectWords) +
-                ownBlock([&] { return comIntegers(IndentLevel, "types", UniqueCounter, comTypeWords); });
+    if (writer.target == Target::CppCom)
+        text += objectElements(writer, objectElement, "objects", comObjectWords) + ownBlock(writer, [&] {
+                    return comIntegers(writer.IndentLevel, "types", writer.UniqueCounter, comTypeWords);
+                });
     return text;
 }
 
-QString PhrasedConverter::typedArrays(const EntityList& entities, bool lookUpUnknown)
+static QString typedArrays(Writer& writer, const EntityList& entities, bool lookUpUnknown)
 {
     const std::size_t count = entities.names.size();
-    return listHead(typedHead, count) + listHead(objectsSize, count) + typedElements(entities, lookUpUnknown) + LineEnd;
+    return listHead(writer, typedHead, count) + listHead(writer, objectsSize, count) +
+           typedElements(writer, entities, lookUpUnknown) + LineEnd;
 }
 
 static const Phrase mirrorEntities{
@@ -200,16 +164,16 @@ static const Phrase mirrorEntities{
     }};
 
 /// VBA alone writes the truth value with a capital here.
-QString PhrasedConverter::EmitMirrorEntities(const EntityList& entities, const OdGePoint3d& first,
-                                             const OdGePoint3d& second, bool erase)
+QString EmitMirrorEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& first,
+                           const OdGePoint3d& second, bool erase)
 {
-    const QString arrays = typedArrays(entities, false);
-    return arrays + fillList(mirrorEntities)
+    const QString arrays = typedArrays(writer, entities, false);
+    return arrays + fillList(writer, mirrorEntities)
                         .shortPoint(first)
                         .shortPoint(second)
-                        .text(target_ == Target::Vba ? QLatin1String(erase ? "True" : "False")
-                                                     : QLatin1String(erase ? "true" : "false"))
-                        .number(UniqueCounter)
+                        .text(writer.target == Target::Vba ? QLatin1String(erase ? "True" : "False")
+                                                           : QLatin1String(erase ? "true" : "false"))
+                        .number(writer.UniqueCounter)
                         .str();
 }
 
@@ -225,10 +189,10 @@ static const Phrase copyEntities{
         .vba = "%1iwSketchManager.CopyEntities %3, %4, %5, types%6, iwEntities%6%2",
     }};
 
-QString PhrasedConverter::EmitCopyEntities(const EntityList& entities, const OdGeVector3d& offset, bool first)
+QString EmitCopyEntities(Writer& writer, const EntityList& entities, const OdGeVector3d& offset, bool first)
 {
-    const QString arrays = first ? typedArrays(entities, true) : QString();
-    return arrays + fillList(copyEntities).shortVector(offset).number(UniqueCounter).str();
+    const QString arrays = first ? typedArrays(writer, entities, true) : QString();
+    return arrays + fillList(writer, copyEntities).shortVector(offset).number(writer.UniqueCounter).str();
 }
 
 static const Phrase moveEntities{
@@ -243,10 +207,10 @@ static const Phrase moveEntities{
         .vba = "%1iwSketchManager.MoveEntities %3, %4, %5, iwEntities%6%2",
     }};
 
-QString PhrasedConverter::EmitMoveEntities(const EntityList& entities, const OdGeVector3d& offset, bool first)
+QString EmitMoveEntities(Writer& writer, const EntityList& entities, const OdGeVector3d& offset, bool first)
 {
-    const QString array = first ? objectArray(entities) : QString();
-    return array + fillList(moveEntities).shortVector(offset).number(UniqueCounter).str();
+    const QString array = first ? objectArray(writer, entities) : QString();
+    return array + fillList(writer, moveEntities).shortVector(offset).number(writer.UniqueCounter).str();
 }
 
 static const Phrase rotateEntities{
@@ -261,14 +225,14 @@ static const Phrase rotateEntities{
         .vba = "%1iwSketchManager.RotateEntities %3, %4, %5, types%6, iwEntities%6%2",
     }};
 
-QString PhrasedConverter::EmitRotateEntities(const EntityList& entities, const OdGePoint3d& center, double angle)
+QString EmitRotateEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& center, double angle)
 {
-    const QString arrays = typedArrays(entities, false);
-    return arrays + fillList(rotateEntities)
+    const QString arrays = typedArrays(writer, entities, false);
+    return arrays + fillList(writer, rotateEntities)
                         .shortReal(center.x)
                         .shortReal(center.y)
                         .shortReal(angle)
-                        .number(UniqueCounter)
+                        .number(writer.UniqueCounter)
                         .str();
 }
 
@@ -285,10 +249,11 @@ static const Phrase scaleEntities{
         .vba = "%1iwSketchManager.ScaleEntities %3, %4, %7, %5, types%6, iwEntities%6%2",
     }};
 
-QString PhrasedConverter::EmitScaleEntities(const EntityList& entities, const OdGePoint3d& center, double factor)
+QString EmitScaleEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& center, double factor)
 {
-    const QString arrays = typedArrays(entities, false);
-    return arrays + fillList(scaleEntities).shortPoint(center).number(UniqueCounter).shortReal(factor).str();
+    const QString arrays = typedArrays(writer, entities, false);
+    return arrays +
+           fillList(writer, scaleEntities).shortPoint(center).number(writer.UniqueCounter).shortReal(factor).str();
 }
 
 static const Phrase stretchHead{
@@ -341,13 +306,19 @@ static const Phrase stretchEnd{
                "%1crossingBoxEndCorner%3( 2 ) = %6%2%2",
     }};
 
-QString PhrasedConverter::crossingBox(const OdGePoint3d& start, const OdGePoint3d& end)
+static QString crossingBox(Writer& writer, const OdGePoint3d& start, const OdGePoint3d& end)
 {
-    if (target_ == Target::CppCom)
-        return ownBlock([&] { return comPoint(IndentLevel, "crossingBoxStartCorner", UniqueCounter, start); }) +
-               ownBlock([&] { return comPoint(IndentLevel, "crossingBoxEndCorner", UniqueCounter, end); }) + LineEnd;
-    return fillList(stretchStart).number(UniqueCounter).shortPoint(start).str() +
-           fillList(stretchEnd).number(UniqueCounter).shortPoint(end).str();
+    if (writer.target == Target::CppCom)
+        return ownBlock(writer,
+                        [&] {
+                            return comPoint(writer.IndentLevel, "crossingBoxStartCorner", writer.UniqueCounter, start);
+                        }) +
+               ownBlock(
+                   writer,
+                   [&] { return comPoint(writer.IndentLevel, "crossingBoxEndCorner", writer.UniqueCounter, end); }) +
+               LineEnd;
+    return fillList(writer, stretchStart).number(writer.UniqueCounter).shortPoint(start).str() +
+           fillList(writer, stretchEnd).number(writer.UniqueCounter).shortPoint(end).str();
 }
 
 static const Phrase stretchEntities{
@@ -367,11 +338,12 @@ static const Phrase stretchEntities{
                "crossingBoxEndCorner%6%2",
     }};
 
-QString PhrasedConverter::EmitStretchEntities(const EntityList& entities, const OdGePoint3d& start,
-                                              const OdGePoint3d& end, const OdGeVector3d& offset)
+QString EmitStretchEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& start,
+                            const OdGePoint3d& end, const OdGeVector3d& offset)
 {
     const std::size_t count = entities.names.size();
-    const QString arrays = listHead(stretchHead, count) + listHead(stretchSize, count) +
-                           objectElements(objectElement, "objects", entities.names) + LineEnd + crossingBox(start, end);
-    return arrays + fillList(stretchEntities).shortVector(offset).number(UniqueCounter).str();
+    const QString arrays = listHead(writer, stretchHead, count) + listHead(writer, stretchSize, count) +
+                           objectElements(writer, objectElement, "objects", entities.names) + LineEnd +
+                           crossingBox(writer, start, end);
+    return arrays + fillList(writer, stretchEntities).shortVector(offset).number(writer.UniqueCounter).str();
 }

@@ -1,6 +1,6 @@
 #include "targets/enumerations.h"
 
-#include "targets/texts.h"
+#include "targets/wording.h"
 
 #include <QCoreApplication>
 

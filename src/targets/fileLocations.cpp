@@ -1,6 +1,6 @@
 // The host's file locations.
 
-#include "targets/PhrasedConverter.h"
+#include "targets/fileLocations.h"
 
 #include <QStringList>
 
@@ -36,11 +36,11 @@ static const Phrase interfaceFilesObject{
         .vba = "%1Dim %3 As Inkwright.InterfaceFiles%2%1Set %3 = iwApp.GetInterfaceFiles()%2",
     }};
 
-QString PhrasedConverter::EmitInterfaceFilesObject(CFxString& variable)
+QString EmitInterfaceFilesObject(Writer& writer, CFxString& variable)
 {
     static FileLocationCounter counter;
-    variable = numbered("iwInterfaceFiles_%1", counter.next(target_));
-    return fill(interfaceFilesObject).text(variable);
+    variable = numbered("iwInterfaceFiles_%1", counter.next(writer.target));
+    return writer.fill(interfaceFilesObject).text(variable);
 }
 
 static const Phrase systemFilesObject{
@@ -54,11 +54,11 @@ static const Phrase systemFilesObject{
         .vba = "%1Dim %3 As Inkwright.SystemFiles%2%1Set %3 = iwApp.GetSystemFiles()%2",
     }};
 
-QString PhrasedConverter::EmitSystemFilesObject(CFxString& variable)
+QString EmitSystemFilesObject(Writer& writer, CFxString& variable)
 {
     static FileLocationCounter counter;
-    variable = numbered("iwSystemFiles_%1", counter.next(target_));
-    return fill(systemFilesObject).text(variable);
+    variable = numbered("iwSystemFiles_%1", counter.next(writer.target));
+    return writer.fill(systemFilesObject).text(variable);
 }
 
 /// The `%11` in VBA stands for nothing and stays in the macro.
@@ -73,11 +73,11 @@ static const Phrase drawingSupportFilesObject{
         .vba = "%1Dim %3 As Inkwright.DrawingSupportFiles%2%11Set %3 = iwApp.GetDrawingSupportFiles()%2",
     }};
 
-QString PhrasedConverter::EmitDrawingSupportFilesObject(CFxString& variable)
+QString EmitDrawingSupportFilesObject(Writer& writer, CFxString& variable)
 {
     static FileLocationCounter counter;
-    variable = numbered("iwDrawingSupportFiles_%1", counter.next(target_));
-    return fill(drawingSupportFilesObject).text(variable);
+    variable = numbered("iwDrawingSupportFiles_%1", counter.next(writer.target));
+    return writer.fill(drawingSupportFilesObject).text(variable);
 }
 
 /// C# and VB.NET declare the array together with its elements.
@@ -117,38 +117,40 @@ static const Phrase arrayAssignment{
     }};
 
 /// Where an element has one number only, that is its index; but C++ appends to the array and has no index.
-QString PhrasedConverter::fileLocationElement(const CFxString& property, std::uint32_t array, int index,
-                                              const CFxString& value) const
+static QString fileLocationElement(Writer& writer, const CFxString& property, std::uint32_t array, int index,
+                                   const CFxString& value)
 {
-    Fill element = fill(arrayElement);
+    Fill element = writer.fill(arrayElement);
     element.text(property);
-    if (target_ == Target::Cpp || target_ == Target::CppCom || target_ == Target::Vba)
+    if (writer.target == Target::Cpp || writer.target == Target::CppCom || writer.target == Target::Vba)
         element.number(array);
-    if (target_ != Target::Cpp)
+    if (writer.target != Target::Cpp)
         element.number(index);
     return element.text(value);
 }
 
-QString PhrasedConverter::EmitFileLocationArray(const CFxString& variable, const CFxString& property,
-                                                const std::vector<CFxString>& values)
+QString EmitFileLocationArray(Writer& writer, const CFxString& variable, const CFxString& property,
+                              const std::vector<CFxString>& values)
 {
     static FileLocationCounter counter;
-    const std::uint32_t array = counter.next(target_);
+    const std::uint32_t array = counter.next(writer.target);
     const auto size = static_cast<int>(values.size());
 
     // VBA declares the last index and not the size.
-    QString elements =
-        fill(arrayDeclaration).text(property).number(array).number(target_ == Target::Vba ? size - 1 : size);
+    QString elements = writer.fill(arrayDeclaration)
+                           .text(property)
+                           .number(array)
+                           .number(writer.target == Target::Vba ? size - 1 : size);
     QStringList names;
     for (int i = 0; i < size; ++i) {
-        elements += fileLocationElement(property, array, i, values[static_cast<std::size_t>(i)]);
+        elements += fileLocationElement(writer, property, array, i, values[static_cast<std::size_t>(i)]);
         names.append(QStringLiteral("s%1_%2").arg(property).arg(i));
     }
 
     const QString list = names.join(QLatin1String(", "));
-    Fill assignment = fill(arrayAssignment);
+    Fill assignment = writer.fill(arrayAssignment);
     assignment.text(property).number(array);
-    if (target_ == Target::CSharp || target_ == Target::VbNet)
+    if (writer.target == Target::CSharp || writer.target == Target::VbNet)
         assignment.text(list);
     return assignment.text(elements).text(variable);
 }

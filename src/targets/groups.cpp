@@ -1,7 +1,9 @@
 // Objects that come into a group or leave it.
 
+#include "targets/groups.h"
+
 #include "targets/LineEnd.h"
-#include "targets/PhrasedConverter.h"
+#include "targets/arrays.h"
 
 using namespace inkmacro;
 
@@ -38,14 +40,14 @@ static const Phrase addGathered{"EmitGroupAddEntities",
                                     .cpp = "%1%3->AddEntities(entities%2);\n",
                                 }};
 
-QString PhrasedConverter::EmitGroupAddEntities(const std::vector<CFxString>& names, const CFxString& group)
+QString EmitGroupAddEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group)
 {
-    ++UniqueCounter;
-    QString text = LineEnd + fillIndented(addHead).number(UniqueCounter).str();
+    ++writer.UniqueCounter;
+    QString text = LineEnd + writer.fillIndented(addHead).number(writer.UniqueCounter).str();
     for (const CFxString& name : names)
-        text += fillIndented(addEntity).number(UniqueCounter).text(group).text(name);
+        text += writer.fillIndented(addEntity).number(writer.UniqueCounter).text(group).text(name);
     text += LineEnd;
-    return text += fillIndented(addGathered).number(UniqueCounter).text(group);
+    return text += writer.fillIndented(addGathered).number(writer.UniqueCounter).text(group);
 }
 
 static const Phrase removeHead{"EmitGroupRemoveEntities",
@@ -86,10 +88,10 @@ static const Phrase removeCall{"EmitGroupRemoveEntities",
                                    .vba = "%1%3.RemoveEntities removeObject%2\n",
                                }};
 
-QString PhrasedConverter::EmitGroupRemoveEntities(const std::vector<CFxString>& names, const CFxString& group)
+QString EmitGroupRemoveEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group)
 {
-    ++UniqueCounter;
-    return LineEnd + listHead(removeHead, names.size()) + listHead(removeSize, names.size()) +
-           objectElements(removeElement, "removeObject", names) + LineEnd +
-           fillIndented(removeCall).number(UniqueCounter).text(group).str();
+    ++writer.UniqueCounter;
+    return LineEnd + listHead(writer, removeHead, names.size()) + listHead(writer, removeSize, names.size()) +
+           objectElements(writer, removeElement, "removeObject", names) + LineEnd +
+           writer.fillIndented(removeCall).number(writer.UniqueCounter).text(group).str();
 }

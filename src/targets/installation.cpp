@@ -1,7 +1,7 @@
 #include "targets/installation.h"
 
 #include "host/kernel/CFxRegistry.h"
-#include "targets/texts.h"
+#include "targets/wording.h"
 
 namespace inkmacro {
 

@@ -1,7 +1,8 @@
 // Options of the document and of the application.
 
-#include "targets/PhrasedConverter.h"
-#include "targets/texts.h"
+#include "targets/options.h"
+
+#include "targets/wording.h"
 
 #include <QByteArray>
 
@@ -104,51 +105,52 @@ static const OptionPhrase commandPoint3D{"EmitCommandOptionPoint3D", commandOpti
 static const OptionPhrase commandString{"EmitCommandOptionString", commandOption, textWords};
 
 /// C#, VB.NET and VBA give the result's variable a number of its own. Elsewhere the counter stays as it is.
-QString PhrasedConverter::withResult(Fill& statement)
+static QString withResult(Writer& writer, Fill& statement)
 {
-    if (target_ == Target::CSharp || target_ == Target::VbNet || target_ == Target::Vba)
-        statement.number(++UniqueCounter);
+    if (writer.target == Target::CSharp || writer.target == Target::VbNet || writer.target == Target::Vba)
+        statement.number(++writer.UniqueCounter);
     return statement;
 }
 
-QString PhrasedConverter::EmitCommandOptionBool(const CFxString& option, bool value)
+QString EmitCommandOptionBool(Writer& writer, const CFxString& option, bool value)
 {
-    return withResult(fill(commandBool).text(option).text(truthWord(target_, value)));
+    return withResult(writer, writer.fill(commandBool).text(option).text(truthWord(writer.target, value)));
 }
 
-QString PhrasedConverter::EmitCommandOptionDouble(const CFxString& option, double value)
+QString EmitCommandOptionDouble(Writer& writer, const CFxString& option, double value)
 {
-    return withResult(fill(commandDouble).text(option).shortReal(value));
+    return withResult(writer, writer.fill(commandDouble).text(option).shortReal(value));
 }
 
-QString PhrasedConverter::EmitCommandOptionInt8(const CFxString& option, std::int32_t value)
+QString EmitCommandOptionInt8(Writer& writer, const CFxString& option, std::int32_t value)
 {
-    return withResult(fill(commandInt8).text(option).number(value));
+    return withResult(writer, writer.fill(commandInt8).text(option).number(value));
 }
 
-QString PhrasedConverter::EmitCommandOptionInt16(const CFxString& option, std::int32_t value)
+QString EmitCommandOptionInt16(Writer& writer, const CFxString& option, std::int32_t value)
 {
-    return withResult(fill(commandInt16).text(option).number(value));
+    return withResult(writer, writer.fill(commandInt16).text(option).number(value));
 }
 
-QString PhrasedConverter::EmitCommandOptionInt32(const CFxString& option, std::int32_t value)
+QString EmitCommandOptionInt32(Writer& writer, const CFxString& option, std::int32_t value)
 {
-    return withResult(fill(commandInt32).text(option).number(value));
+    return withResult(writer, writer.fill(commandInt32).text(option).number(value));
 }
 
-QString PhrasedConverter::EmitCommandOptionPoint2D(const CFxString& option, const OdGePoint2d& value)
+QString EmitCommandOptionPoint2D(Writer& writer, const CFxString& option, const OdGePoint2d& value)
 {
-    return withResult(fill(commandPoint2D).text(option).shortReal(value.x).shortReal(value.y));
+    return withResult(writer, writer.fill(commandPoint2D).text(option).shortReal(value.x).shortReal(value.y));
 }
 
-QString PhrasedConverter::EmitCommandOptionPoint3D(const CFxString& option, const OdGePoint3d& value)
+QString EmitCommandOptionPoint3D(Writer& writer, const CFxString& option, const OdGePoint3d& value)
 {
-    return withResult(fill(commandPoint3D).text(option).shortReal(value.x).shortReal(value.y).shortReal(value.z));
+    return withResult(
+        writer, writer.fill(commandPoint3D).text(option).shortReal(value.x).shortReal(value.y).shortReal(value.z));
 }
 
-QString PhrasedConverter::EmitCommandOptionString(const CFxString& option, const CFxString& value)
+QString EmitCommandOptionString(Writer& writer, const CFxString& option, const CFxString& value)
 {
-    return withResult(fill(commandString).text(option).text(value));
+    return withResult(writer, writer.fill(commandString).text(option).text(value));
 }
 
 static const OptionModel applicationOption{
@@ -172,34 +174,34 @@ static const OptionPhrase applicationDouble{"EmitApplicationOptionDouble", appli
 static const OptionPhrase applicationString{"EmitApplicationOptionString", applicationOption, textWords};
 
 /// The options are fetched into a variable only in C++, which is numbered there.
-QString PhrasedConverter::withOptions(Fill& statement)
+static QString withOptions(Writer& writer, Fill& statement)
 {
-    if (target_ == Target::Cpp)
-        statement.number(++UniqueCounter);
+    if (writer.target == Target::Cpp)
+        statement.number(++writer.UniqueCounter);
     return statement;
 }
 
-QString PhrasedConverter::EmitApplicationOptionBool(const CFxString& option, bool value)
+QString EmitApplicationOptionBool(Writer& writer, const CFxString& option, bool value)
 {
-    return withOptions(fill(applicationBool).text(option).text(truthWord(target_, value)));
+    return withOptions(writer, writer.fill(applicationBool).text(option).text(truthWord(writer.target, value)));
 }
 
-QString PhrasedConverter::EmitApplicationOptionInt16(const CFxString& option, std::int32_t value)
+QString EmitApplicationOptionInt16(Writer& writer, const CFxString& option, std::int32_t value)
 {
-    return withOptions(fill(applicationInt16).text(option).number(value));
+    return withOptions(writer, writer.fill(applicationInt16).text(option).number(value));
 }
 
-QString PhrasedConverter::EmitApplicationOptionInt32(const CFxString& option, std::int32_t value)
+QString EmitApplicationOptionInt32(Writer& writer, const CFxString& option, std::int32_t value)
 {
-    return withOptions(fill(applicationInt32).text(option).number(value));
+    return withOptions(writer, writer.fill(applicationInt32).text(option).number(value));
 }
 
-QString PhrasedConverter::EmitApplicationOptionDouble(const CFxString& option, double value)
+QString EmitApplicationOptionDouble(Writer& writer, const CFxString& option, double value)
 {
-    return withOptions(fill(applicationDouble).text(option).shortReal(value));
+    return withOptions(writer, writer.fill(applicationDouble).text(option).shortReal(value));
 }
 
-QString PhrasedConverter::EmitApplicationOptionString(const CFxString& option, const CFxString& value)
+QString EmitApplicationOptionString(Writer& writer, const CFxString& option, const CFxString& value)
 {
-    return withOptions(fill(applicationString).text(option).text(value));
+    return withOptions(writer, writer.fill(applicationString).text(option).text(value));
 }

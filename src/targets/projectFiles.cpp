@@ -2,20 +2,45 @@
 
 #include "targets/projectFiles.h"
 
-#include "targets/PhrasedConverter.h"
+#include "frame/CFxConverterIWAPIModule.h"
+#include "host/kernel/CFxServices.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QTextStream>
 
-using namespace inkmacro;
+namespace inkmacro {
 
-std::int32_t PhrasedConverter::WriteProject(const QString& macroPath, const std::vector<ProjectFile>& files)
+namespace {
+
+bool writeTextFile(const QString& path, const QString& text, bool byteOrderMark)
+{
+    QFile file(path);
+    const bool opened = file.open(QIODevice::WriteOnly | QIODevice::Truncate);
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    stream.setGenerateByteOrderMark(byteOrderMark);
+    if (opened)
+        stream << text;
+    stream.flush();
+    // No failure of the conversion, but the host has to know that the disk is full.
+    if (opened && (!file.flush() || stream.status() != QTextStream::Ok))
+        GetFxSystemServices()->ReportIncompleteFile(path);
+    return opened;
+}
+
+} // namespace
+
+std::int32_t WriteProject(const QString& macroPath, const std::vector<ProjectFile>& files)
 {
     const QString directory = QFileInfo(macroPath).path();
     if (!QDir().exists(directory) && !QDir().mkpath(directory))
         return kFxFailure;
     for (const ProjectFile& file : files)
-        if (!WriteTextFile(directory + "//" + file.name, file.text, file.byteOrderMark))
+        if (!writeTextFile(directory + "//" + file.name, file.text, file.byteOrderMark))
             return kFxFailure;
     return kFxSuccess;
 }
+
+} // namespace inkmacro

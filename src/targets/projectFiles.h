@@ -2,6 +2,9 @@
 
 #include <QString>
 
+#include <cstdint>
+#include <vector>
+
 namespace inkmacro {
 
 /// One file of the project around a macro.
@@ -11,5 +14,9 @@ struct ProjectFile
     QString text;
     bool byteOrderMark;
 };
+
+/// Writes the files in turn into the macro file's directory, which is made when it is missing. Ends with kFxFailure at
+/// the first that cannot be opened; those before it stay. A write that fails after that is reported to the host alone.
+std::int32_t WriteProject(const QString& macroPath, const std::vector<ProjectFile>& files);
 
 } // namespace inkmacro

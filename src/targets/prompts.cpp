@@ -1,6 +1,6 @@
 // Prompts that are shown again: each offers the recorded answer and takes a fresh one.
 
-#include "targets/PhrasedConverter.h"
+#include "targets/prompts.h"
 
 using namespace inkmacro;
 
@@ -76,9 +76,9 @@ static const Phrase promptPoint{
                "iwStringArray%3, 0, False, defaultPoint%3, basePoint%3, resultKeyword%3, resultPoint%3, plane%3%2%2",
     }};
 
-QString PhrasedConverter::EmitPromptPoint(const CFxString& prompt, const OdGePoint3d& value)
+QString EmitPromptPoint(Writer& writer, const CFxString& prompt, const OdGePoint3d& value)
 {
-    return fill(promptPoint).number(++UniqueCounter).text(prompt).shortPoint(value);
+    return writer.fill(promptPoint).number(++writer.UniqueCounter).text(prompt).shortPoint(value);
 }
 
 static const Phrase promptCorner{
@@ -100,9 +100,9 @@ static const Phrase promptCorner{
                "%1iwApp.GetCommandMessage().PromptForPoint \"%4\", IOCorner_x%3, IOCorner_y%3, IOCorner_z%3%2",
     }};
 
-QString PhrasedConverter::EmitPromptCorner(const CFxString& prompt, const OdGePoint3d& value)
+QString EmitPromptCorner(Writer& writer, const CFxString& prompt, const OdGePoint3d& value)
 {
-    return fill(promptCorner).number(++UniqueCounter).text(prompt).shortPoint(value);
+    return writer.fill(promptCorner).number(++writer.UniqueCounter).text(prompt).shortPoint(value);
 }
 
 /// In VBA a marker's `%` is missing behind `Double`: the 2 and the next statement stand on the declaration's line. That
@@ -123,9 +123,9 @@ static const Phrase promptAngle{
                "%1iwApp.GetCommandMessage().PromptForAngle \"%4\", %5, IO_angle%3%2",
     }};
 
-QString PhrasedConverter::EmitPromptAngle(const CFxString& prompt, double value)
+QString EmitPromptAngle(Writer& writer, const CFxString& prompt, double value)
 {
-    return fill(promptAngle).number(++UniqueCounter).text(prompt).shortReal(value);
+    return writer.fill(promptAngle).number(++writer.UniqueCounter).text(prompt).shortReal(value);
 }
 
 /// The other prompts for one number: the variable, its types in C++, C# and Basic, the call. `out` has C#'s word with
@@ -159,35 +159,35 @@ static const Phrase promptInteger{"EmitPromptInteger", INTEGER_PROMPT("integer")
 #undef REAL_PROMPT
 #undef NUMBER_PROMPT
 
-QString PhrasedConverter::EmitPromptDistance(const CFxString& prompt, double value)
+QString EmitPromptDistance(Writer& writer, const CFxString& prompt, double value)
 {
-    return fill(promptDistance).number(++UniqueCounter).text(prompt).shortReal(value);
+    return writer.fill(promptDistance).number(++writer.UniqueCounter).text(prompt).shortReal(value);
 }
 
-QString PhrasedConverter::EmitPromptOrient(const CFxString& prompt, double value)
+QString EmitPromptOrient(Writer& writer, const CFxString& prompt, double value)
 {
-    return fill(promptOrient).number(++UniqueCounter).text(prompt).shortReal(value);
+    return writer.fill(promptOrient).number(++writer.UniqueCounter).text(prompt).shortReal(value);
 }
 
-QString PhrasedConverter::EmitPromptScale(const CFxString& prompt, double value)
+QString EmitPromptScale(Writer& writer, const CFxString& prompt, double value)
 {
-    return fill(promptScale).number(++UniqueCounter).text(prompt).shortReal(value);
+    return writer.fill(promptScale).number(++writer.UniqueCounter).text(prompt).shortReal(value);
 }
 
-QString PhrasedConverter::EmitPromptDouble(const CFxString& prompt, double value)
+QString EmitPromptDouble(Writer& writer, const CFxString& prompt, double value)
 {
-    return fill(promptDouble).number(++UniqueCounter).text(prompt).shortReal(value);
+    return writer.fill(promptDouble).number(++writer.UniqueCounter).text(prompt).shortReal(value);
 }
 
 /// The number of a color, not a color object.
-QString PhrasedConverter::EmitPromptColor(const CFxString& prompt, std::int32_t value)
+QString EmitPromptColor(Writer& writer, const CFxString& prompt, std::int32_t value)
 {
-    return fill(promptColor).number(++UniqueCounter).text(prompt).number(value);
+    return writer.fill(promptColor).number(++writer.UniqueCounter).text(prompt).number(value);
 }
 
-QString PhrasedConverter::EmitPromptInteger(const CFxString& prompt, std::int32_t value)
+QString EmitPromptInteger(Writer& writer, const CFxString& prompt, std::int32_t value)
 {
-    return fill(promptInteger).number(++UniqueCounter).text(prompt).number(value);
+    return writer.fill(promptInteger).number(++writer.UniqueCounter).text(prompt).number(value);
 }
 
 static const Phrase promptString{
@@ -207,9 +207,9 @@ static const Phrase promptString{
                "%1iwApp.GetCommandMessage().PromptForString True, \"%4\", \"%5\", IO_text%3%2",
     }};
 
-QString PhrasedConverter::EmitPromptString(const CFxString& prompt, const CFxString& value)
+QString EmitPromptString(Writer& writer, const CFxString& prompt, const CFxString& value)
 {
-    return fill(promptString).number(++UniqueCounter).text(prompt).text(value);
+    return writer.fill(promptString).number(++writer.UniqueCounter).text(prompt).text(value);
 }
 
 /// Only some targets give their lists a size, the last value. COM puts the elements in through an index and a string,
@@ -283,11 +283,11 @@ static const Phrase promptKeyword{
     }};
 
 /// The lists bear the number in front of the call's own.
-QString PhrasedConverter::EmitPromptKeyword(const CFxString& prompt, const std::vector<CFxString>& local,
-                                            const std::vector<CFxString>& global)
+QString EmitPromptKeyword(Writer& writer, const CFxString& prompt, const std::vector<CFxString>& local,
+                          const std::vector<CFxString>& global)
 {
-    const std::uint32_t lists = UniqueCounter;
-    const auto line = [this](const Phrase& phrase) { return Fill(phrase.in(target_), IndentLevel); };
+    const std::uint32_t lists = writer.UniqueCounter;
+    const auto line = [&](const Phrase& phrase) { return Fill(phrase.in(writer.target), writer.IndentLevel); };
     const CFxString first = local.empty() ? CFxString() : local.front();
     QString text = line(keywordLists).number(lists).text(first).number(local.size());
     for (std::size_t i = 0; i < local.size(); ++i) {
@@ -296,5 +296,5 @@ QString PhrasedConverter::EmitPromptKeyword(const CFxString& prompt, const std::
         text += line(bothKeywords).text(local[i]).number(lists).text(global[i]).number(lists).str();
     }
     text += '\n';
-    return text + fill(promptKeyword).number(++UniqueCounter).text(prompt).number(lists).str();
+    return text + writer.fill(promptKeyword).number(++writer.UniqueCounter).text(prompt).number(lists).str();
 }

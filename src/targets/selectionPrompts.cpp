@@ -1,6 +1,8 @@
 // The prompt for a selection.
 
-#include "targets/PhrasedConverter.h"
+#include "targets/selectionPrompts.h"
+
+#include "targets/arrays.h"
 #include "targets/comArrays.h"
 
 using namespace inkmacro;
@@ -137,9 +139,9 @@ static const Phrase promptSelection{
                "%1    Next%2%1End If%2",
     }};
 
-QString PhrasedConverter::EmitPromptSelection(const EntityList& entities)
+QString EmitPromptSelection(Writer& writer, const EntityList& entities)
 {
-    ++UniqueCounter;
+    ++writer.UniqueCounter;
     std::vector<QString> types;
     std::vector<QString> names;
     QString typeLines;
@@ -147,25 +149,26 @@ QString PhrasedConverter::EmitPromptSelection(const EntityList& entities)
     for (std::size_t i = 0; i < entities.names.size(); ++i) {
         const bool known = !entities.names[i].isEmpty() && !entities.types[i].isEmpty();
         const auto find = [&](const Phrase& phrase) {
-            return Fill(phrase.in(target_)).text(entities.handles[i]).number(UniqueCounter).str();
+            return Fill(phrase.in(writer.target)).text(entities.handles[i]).number(writer.UniqueCounter).str();
         };
         const auto line = [&](const Phrase& phrase, const QString& word) {
-            return fill(phrase).text(word).number(UniqueCounter).number(qulonglong{i}).str();
+            return writer.fill(phrase).text(word).number(writer.UniqueCounter).number(qulonglong{i}).str();
         };
         types.push_back(known ? entities.types[i].toQString() : find(findType));
         names.push_back(known ? entities.names[i].toQString() : find(findObject));
         typeLines += line(known ? promptType : promptFoundType, types.back());
         nameLines += line(known ? promptName : promptFoundName, names.back());
     }
-    if (target_ == Target::CppCom) {
-        typeLines = ownBlock([&] { return comIntegers(IndentLevel, "types", UniqueCounter, types); });
-        nameLines = comObjects(IndentLevel, "entities", UniqueCounter, names);
+    if (writer.target == Target::CppCom) {
+        typeLines =
+            ownBlock(writer, [&] { return comIntegers(writer.IndentLevel, "types", writer.UniqueCounter, types); });
+        nameLines = comObjects(writer.IndentLevel, "entities", writer.UniqueCounter, names);
     }
     // The prompt is always the same, whatever the recording said.
-    return fill(promptSelection)
-        .number(UniqueCounter)
+    return writer.fill(promptSelection)
+        .number(writer.UniqueCounter)
         .text(typeLines)
         .text(nameLines)
         .text(QLatin1String("Select Objects: "))
-        .number(arrayBound(entities.names.size()));
+        .number(arrayBound(writer, entities.names.size()));
 }

@@ -1,7 +1,9 @@
 // Selections by points and through a filter.
 
+#include "targets/selections.h"
+
 #include "targets/LineEnd.h"
-#include "targets/PhrasedConverter.h"
+#include "targets/arrays.h"
 
 #include <algorithm>
 
@@ -132,7 +134,7 @@ static const Phrase selectedCount{
 /// Number of the next selection. Process-wide, and never put back.
 static std::uint32_t selections = 0;
 
-QString PhrasedConverter::selectionCorners(const OdArray<OdGePoint3d>& points) const
+static QString selectionCorners(Writer& writer, const OdArray<OdGePoint3d>& points)
 {
     OdGePoint3d low{1e20, 1e20, 1e20};
     OdGePoint3d high{-1e20, -1e20, -1e20};
@@ -140,23 +142,24 @@ QString PhrasedConverter::selectionCorners(const OdArray<OdGePoint3d>& points) c
         low = {std::min(low.x, point.x), std::min(low.y, point.y), std::min(low.z, point.z)};
         high = {std::max(high.x, point.x), std::max(high.y, point.y), std::max(high.z, point.z)};
     }
-    return fillIndented(declareFirst).number(selections).str() +
-           fillIndented(createFirst).number(selections).shortPoint(low).str() +
-           fillIndented(declareSecond).number(selections).str() +
-           fillIndented(createSecond).number(selections).shortPoint(high).str();
+    return writer.fillIndented(declareFirst).number(selections).str() +
+           writer.fillIndented(createFirst).number(selections).shortPoint(low).str() +
+           writer.fillIndented(declareSecond).number(selections).str() +
+           writer.fillIndented(createSecond).number(selections).shortPoint(high).str();
 }
 
-QString PhrasedConverter::selectionCoordinates(const OdArray<OdGePoint3d>& points) const
+static QString selectionCoordinates(Writer& writer, const OdArray<OdGePoint3d>& points)
 {
-    QString text = fillIndented(coordinatesHead).number(selections).number(arrayBound(3U * points.length()));
+    QString text =
+        writer.fillIndented(coordinatesHead).number(selections).number(arrayBound(writer, 3U * points.length()));
     for (const OdGePoint3d& point : points)
-        text += fillIndented(coordinateX).number(selections).shortReal(point.x).str() +
-                fillIndented(coordinateY).number(selections).shortReal(point.y).str() +
-                fillIndented(coordinateZ).number(selections).shortReal(point.z).str();
+        text += writer.fillIndented(coordinateX).number(selections).shortReal(point.x).str() +
+                writer.fillIndented(coordinateY).number(selections).shortReal(point.y).str() +
+                writer.fillIndented(coordinateZ).number(selections).shortReal(point.z).str();
     return text;
 }
 
-QString PhrasedConverter::selectionOf(std::int32_t mode, const OdArray<OdGePoint3d>& points) const
+static QString selectionOf(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points)
 {
     /// As the host's recorder numbers them.
     enum Mode : std::int32_t
@@ -167,34 +170,34 @@ QString PhrasedConverter::selectionOf(std::int32_t mode, const OdArray<OdGePoint
         kPolygon = 3,
         kCrossline = 4,
     };
-    const auto call = [&](const Phrase& phrase) { return fillIndented(phrase).number(selections).str(); };
+    const auto call = [&](const Phrase& phrase) { return writer.fillIndented(phrase).number(selections).str(); };
     switch (mode) {
     case kPoint:
-        return call(declareFirst) + fillIndented(createFirst).number(selections).shortPoint(points[0]).str() +
+        return call(declareFirst) + writer.fillIndented(createFirst).number(selections).shortPoint(points[0]).str() +
                call(selectByPoint);
     case kWindow:
-        return selectionCorners(points) + call(selectInWindow);
+        return selectionCorners(writer, points) + call(selectInWindow);
     case kCrossing:
     case kPolygon:
         // The corners of a box and its first point once more make five points; fewer are two corners.
-        return points.length() < 5 ? selectionCorners(points) + call(selectCrossingWindow)
-                                   : selectionCoordinates(points) + call(selectByPolygon);
+        return points.length() < 5 ? selectionCorners(writer, points) + call(selectCrossingWindow)
+                                   : selectionCoordinates(writer, points) + call(selectByPolygon);
     case kCrossline:
-        return selectionCoordinates(points) + call(selectByCrossline);
+        return selectionCoordinates(writer, points) + call(selectByCrossline);
     default:
         return {};
     }
 }
 
-QString PhrasedConverter::EmitSelectEntities(std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager)
+QString EmitSelectEntities(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager)
 {
-    if (!selectionManager.has(target_))
+    if (!selectionManager.has(writer.target))
         return {};
     QString text;
     if (!hasManager)
-        text += fillIndented(selectionManager).number(selections);
-    text += fillIndented(selectionMath).number(selections).str() + selectionOf(mode, points) +
-            fillIndented(selectedCount).number(selections).str();
+        text += writer.fillIndented(selectionManager).number(selections);
+    text += writer.fillIndented(selectionMath).number(selections).str() + selectionOf(writer, mode, points) +
+            writer.fillIndented(selectedCount).number(selections).str();
     ++selections;
     return text;
 }
@@ -238,21 +241,21 @@ static const Phrase deactivateFilter{"EmitSelectionFilter",
                                      }};
 
 /// The filter is on only around the one selection.
-QString PhrasedConverter::EmitSelectionFilter(const OdArray<OdGePoint3d>& points, std::int32_t mode,
-                                              const std::vector<CFxString>& typeNames)
+QString EmitSelectionFilter(Writer& writer, const OdArray<OdGePoint3d>& points, std::int32_t mode,
+                            const std::vector<CFxString>& typeNames)
 {
-    if (!selectionManager.has(target_))
+    if (!selectionManager.has(writer.target))
         return {};
     // The selection within raises the number.
     const std::uint32_t number = selections;
-    QString text = fillIndented(selectionManager).number(number).str() +
-                   fillIndented(getSelectionFilter).number(number).str() +
-                   fillIndented(clearFilter).number(number).str();
+    QString text = writer.fillIndented(selectionManager).number(number).str() +
+                   writer.fillIndented(getSelectionFilter).number(number).str() +
+                   writer.fillIndented(clearFilter).number(number).str();
     for (const CFxString& type : typeNames)
-        text += fillIndented(addEntityType).number(number).text(type).str();
+        text += writer.fillIndented(addEntityType).number(number).text(type).str();
     text += LineEnd;
-    text += fillIndented(activateFilter).number(number);
-    text += EmitSelectEntities(mode, points, true);
-    text += fillIndented(deactivateFilter).number(number);
+    text += writer.fillIndented(activateFilter).number(number);
+    text += EmitSelectEntities(writer, mode, points, true);
+    text += writer.fillIndented(deactivateFilter).number(number);
     return text;
 }

@@ -1,6 +1,6 @@
 // Sheets.
 
-#include "targets/PhrasedConverter.h"
+#include "targets/sheets.h"
 
 using namespace inkmacro;
 
@@ -22,8 +22,8 @@ static const Phrase activateSheet{
                "%1     Set iwSketchManager = iwSheet.GetSketchManager()%2%1End If%2",
     }};
 
-QString PhrasedConverter::EmitActivateSheet(const CFxString& sheetName, CFxString& sheetVariable)
+QString EmitActivateSheet(Writer& writer, const CFxString& sheetName, CFxString& sheetVariable)
 {
-    sheetVariable = target_ == Target::JavaScript ? "mSheet" : "iwSheet";
-    return fill(activateSheet).text(sheetName);
+    sheetVariable = writer.target == Target::JavaScript ? "mSheet" : "iwSheet";
+    return writer.fill(activateSheet).text(sheetName);
 }

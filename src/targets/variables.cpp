@@ -1,6 +1,6 @@
 // Declarations, and the layer that has no variable yet.
 
-#include "targets/PhrasedConverter.h"
+#include "targets/variables.h"
 
 using namespace inkmacro;
 
@@ -25,7 +25,7 @@ static QString untyped(Target target, const QString& type, QString declaration)
     return declaration;
 }
 
-QString PhrasedConverter::EmitVariableDeclaration(const ActionEntry& entry)
+QString EmitVariableDeclaration(Writer& writer, const ActionEntry& entry)
 {
     CFxString type;
     CFxString second;
@@ -33,13 +33,13 @@ QString PhrasedConverter::EmitVariableDeclaration(const ActionEntry& entry)
     if (type.isEmpty())
         return {};
     CFxString stem = type;
-    if (target_ == Target::Cpp)
+    if (writer.target == Target::Cpp)
         StripPointerSuffixes(stem);
     stem.makeLower();
     // The curly targets but COM put the type in front of the name.
-    if (target_ == Target::Cpp || target_ == Target::CSharp)
-        return fill(declareVariable).text(type).text(stem).number(entry.ordinal);
-    return untyped(target_, type, fill(declareVariable).text(stem).number(entry.ordinal).text(type));
+    if (writer.target == Target::Cpp || writer.target == Target::CSharp)
+        return writer.fill(declareVariable).text(type).text(stem).number(entry.ordinal);
+    return untyped(writer.target, type, writer.fill(declareVariable).text(stem).number(entry.ordinal).text(type));
 }
 
 /// The layer's name is always "0": the default layer is fetched into the variable, and the statements that follow set
@@ -62,9 +62,9 @@ static const Phrase getLayer{
                "%1Set %4  = iwLayerManager_%3.GetLayer( \"0\" )%2",
     }};
 
-QString PhrasedConverter::EmitGetLayer(const CFxString& variable)
+QString EmitGetLayer(Writer& writer, const CFxString& variable)
 {
     // Process-wide, and never put back: a second conversion goes on counting.
     static std::uint32_t layerManagers = 0;
-    return fill(getLayer).number(++layerManagers).text(variable);
+    return writer.fill(getLayer).number(++layerManagers).text(variable);
 }

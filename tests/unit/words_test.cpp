@@ -6,7 +6,7 @@
 #include "targets/Phrase.h"
 #include "targets/apiTypes.h"
 #include "targets/enumerations.h"
-#include "targets/texts.h"
+#include "targets/wording.h"
 
 #include <gtest/gtest.h>
 

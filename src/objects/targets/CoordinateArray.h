@@ -1,7 +1,8 @@
 #pragma once
 
-#include "targets/Fill.h"
-#include "targets/Target.h"
+#include "host/db/OdGe.h"
+#include "host/rx/OdArray.h"
+#include "targets/Writer.h"
 
 #include <cstdint>
 
@@ -32,3 +33,8 @@ struct CoordinateArray
 };
 
 } // namespace inkmacro
+
+/// `scriptName` is what a script calls the array.
+inkmacro::CoordinateArray coordinates(Writer& writer, const OdArray<OdGePoint3d>& points, const char* scriptName);
+/// The statements that fill the array of one COM point. The statement declares `x`, `y` and `z`.
+QString comPoint(Writer& writer, std::uint32_t number, const OdGePoint3d& point);

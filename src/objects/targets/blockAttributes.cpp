@@ -1,7 +1,6 @@
 // Attributes of block references.
 
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "objects/targets/PhrasedObjectConverter.h"
+#include "objects/targets/blockAttributes.h"
 
 using namespace inkmacro;
 
@@ -37,11 +36,11 @@ static const Phrase blockAttributeValue{
                "%1Next%2",
     }};
 
-QString PhrasedObjectConverter::EmitBlockAttributeValue(const CFxString& variable, const CFxString& property,
-                                                        const CFxString& tag, const CFxString& value)
+QString EmitBlockAttributeValue(Writer& writer, const CFxString& variable, const CFxString& property,
+                                const CFxString& tag, const CFxString& value)
 {
-    return fill(blockAttributeValue)
-        .number(++Driver().UniqueCounter)
+    return writer.fill(blockAttributeValue)
+        .number(++writer.UniqueCounter)
         .text(variable)
         .text(tag)
         .text(property)

@@ -1,7 +1,7 @@
 // Lists of points.
 
 #include "frame/CFxConverterIWAPIImpl.h"
-#include "objects/targets/PhrasedObjectConverter.h"
+#include "objects/targets/CoordinateArray.h"
 #include "targets/LineEnd.h"
 
 using namespace inkmacro;
@@ -30,31 +30,31 @@ static QString inlineList(Target target, const OdArray<OdGePoint3d>& points)
     return list;
 }
 
-CoordinateArray PhrasedObjectConverter::coordinates(const OdArray<OdGePoint3d>& points, const char* scriptName)
+CoordinateArray coordinates(Writer& writer, const OdArray<OdGePoint3d>& points, const char* scriptName)
 {
-    CoordinateArray array{target_};
+    CoordinateArray array{writer.target};
     array.doubles = 3 * static_cast<int>(points.length());
-    if (target_ == Target::CSharp) {
-        array.words = inlineList(target_, points);
+    if (writer.target == Target::CSharp) {
+        array.words = inlineList(writer.target, points);
         return array;
     }
-    array.number = ++Driver().UniqueCounter;
-    const unsigned level = Driver().IndentLevel;
-    if (target_ == Target::JavaScript) {
+    array.number = ++writer.UniqueCounter;
+    const unsigned level = writer.IndentLevel;
+    if (writer.target == Target::JavaScript) {
         static const Template opening("%1var %2 = new Array(");
         array.words = scriptName + QString::number(array.number);
-        array.before = Fill(&opening, level).text(array.words).str() + inlineList(target_, points) + ");\n";
+        array.before = Fill(&opening, level).text(array.words).str() + inlineList(writer.target, points) + ");\n";
         return array;
     }
-    if (target_ == Target::CppCom) {
+    if (writer.target == Target::CppCom) {
         static const Template head("%1long rgIndices%3;%2%1rgIndices%3 = -1;%2%1double x_%4, y_%4, z_%4;%2");
         array.words = Fill(&head, level, LineEnd).number(array.number).number(array.number);
     }
     int index = 0;
     for (const OdGePoint3d& point : points) {
-        Fill entry = fill(point3d);
+        Fill entry = writer.fill(point3d);
         entry.number(array.number);
-        if (target_ != Target::Cpp)
+        if (writer.target != Target::Cpp)
             entry.number(index).number(index + 1).number(index + 2);
         array.words += entry.point(point).number(array.number).str();
         index += 3;
@@ -62,12 +62,12 @@ CoordinateArray PhrasedObjectConverter::coordinates(const OdArray<OdGePoint3d>& 
     return array;
 }
 
-QString PhrasedObjectConverter::comPoint(std::uint32_t number, const OdGePoint3d& point) const
+QString comPoint(Writer& writer, std::uint32_t number, const OdGePoint3d& point)
 {
     static const Template statements(
         "%1long rgIndices%3;%2%1rgIndices%3 = 0;%2"
         "%1x=%4; y=%5; z=%6;%2%1SafeArrayPutElement( variant%3.parray, &rgIndices%3, (double*)&(x) );%2"
         "%1rgIndices%3=1;%2%1SafeArrayPutElement( variant%3.parray, &rgIndices%3, (double*)&(y) );%2"
         "%1rgIndices%3=2;%2%1SafeArrayPutElement( variant%3.parray, &rgIndices%3, (double*)&(z) );%2");
-    return Fill(&statements, Driver().IndentLevel, LineEnd).number(number).point(point);
+    return Fill(&statements, writer.IndentLevel, LineEnd).number(number).point(point);
 }

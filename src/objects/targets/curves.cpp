@@ -1,6 +1,6 @@
 // The insertion of lines, circles, points, rays, arcs, infinite lines and ellipses.
 
-#include "objects/targets/PhrasedObjectConverter.h"
+#include "objects/targets/curves.h"
 
 using namespace inkmacro;
 
@@ -14,9 +14,9 @@ static const Phrase insertLine{"EmitInsertLine",
                                    .vba = "%1Set %9 = iwSketchManager.InsertLine( %3, %4, %5, %6, %7, %8 )%2",
                                }};
 
-QString PhrasedObjectConverter::EmitInsertLine(const OdGePoint3d& start, const OdGePoint3d& end, const CFxString& name)
+QString EmitInsertLine(Writer& writer, const OdGePoint3d& start, const OdGePoint3d& end, const CFxString& name)
 {
-    return fill(insertLine).point(start).point(end).text(name);
+    return writer.fill(insertLine).point(start).point(end).text(name);
 }
 
 static const Phrase insertCircle{"EmitInsertCircle",
@@ -29,9 +29,9 @@ static const Phrase insertCircle{"EmitInsertCircle",
                                      .vba = "%1Set %7 = iwSketchManager.InsertCircle( %3, %4, %5, %6 )%2",
                                  }};
 
-QString PhrasedObjectConverter::EmitInsertCircle(const OdGePoint3d& center, double radius, const CFxString& name)
+QString EmitInsertCircle(Writer& writer, const OdGePoint3d& center, double radius, const CFxString& name)
 {
-    return fill(insertCircle).point(center).real(radius).text(name);
+    return writer.fill(insertCircle).point(center).real(radius).text(name);
 }
 
 static const Phrase insertPoint{"EmitInsertPoint",
@@ -44,9 +44,9 @@ static const Phrase insertPoint{"EmitInsertPoint",
                                     .vba = "%1Set %6 = iwSketchManager.InsertPoint( %3, %4, %5 )%2",
                                 }};
 
-QString PhrasedObjectConverter::EmitInsertPoint(const OdGePoint3d& position, const CFxString& name)
+QString EmitInsertPoint(Writer& writer, const OdGePoint3d& position, const CFxString& name)
 {
-    return fill(insertPoint).point(position).text(name);
+    return writer.fill(insertPoint).point(position).text(name);
 }
 
 static const Phrase insertRay{"EmitInsertRay",
@@ -59,9 +59,9 @@ static const Phrase insertRay{"EmitInsertRay",
                                   .vba = "%1Set %9 = iwSketchManager.InsertRay( %3, %4, %5, %6, %7, %8 )%2",
                               }};
 
-QString PhrasedObjectConverter::EmitInsertRay(const OdGePoint3d& base, const OdGePoint3d& second, const CFxString& name)
+QString EmitInsertRay(Writer& writer, const OdGePoint3d& base, const OdGePoint3d& second, const CFxString& name)
 {
-    return fill(insertRay).point(base).point(second).text(name);
+    return writer.fill(insertRay).point(base).point(second).text(name);
 }
 
 static const Phrase insertArc{"EmitInsertArc",
@@ -74,10 +74,10 @@ static const Phrase insertArc{"EmitInsertArc",
                                   .vba = "%1Set %9 = iwSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 )%2",
                               }};
 
-QString PhrasedObjectConverter::EmitInsertArc(const OdGePoint3d& center, double radius, double startAngle,
-                                              double endAngle, const CFxString& name)
+QString EmitInsertArc(Writer& writer, const OdGePoint3d& center, double radius, double startAngle, double endAngle,
+                      const CFxString& name)
 {
-    return fill(insertArc).point(center).real(radius).real(startAngle).real(endAngle).text(name);
+    return writer.fill(insertArc).point(center).real(radius).real(startAngle).real(endAngle).text(name);
 }
 
 static const Phrase insertInfiniteLine{
@@ -91,10 +91,10 @@ static const Phrase insertInfiniteLine{
         .vba = "%1Set %9 = iwSketchManager.InsertInfiniteLine( %3, %4, %5, %6, %7, %8 )%2",
     }};
 
-QString PhrasedObjectConverter::EmitInsertInfiniteLine(const OdGePoint3d& base, const OdGePoint3d& second,
-                                                       const CFxString& name)
+QString EmitInsertInfiniteLine(Writer& writer, const OdGePoint3d& base, const OdGePoint3d& second,
+                               const CFxString& name)
 {
-    return fill(insertInfiniteLine).point(base).point(second).text(name);
+    return writer.fill(insertInfiniteLine).point(base).point(second).text(name);
 }
 
 static const Phrase insertEllipseArc{
@@ -108,11 +108,10 @@ static const Phrase insertEllipseArc{
         .vba = "%1Set %10 = iwSketchManager.InsertEllipseArcDistanceToOtherAxis( %3, %4, %5, %6, %7, %8, %9 )%2",
     }};
 
-QString PhrasedObjectConverter::EmitInsertEllipseArc(const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
-                                                     double otherAxisDistance, double startAngle, double endAngle,
-                                                     const CFxString& name)
+QString EmitInsertEllipseArc(Writer& writer, const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
+                             double otherAxisDistance, double startAngle, double endAngle, const CFxString& name)
 {
-    return fill(insertEllipseArc)
+    return writer.fill(insertEllipseArc)
         .real(axisStart.x)
         .real(axisStart.y)
         .real(axisEnd.x)
@@ -134,10 +133,10 @@ static const Phrase insertEllipse{
         .vba = "%1Set %8 = iwSketchManager.InsertEllipseDistanceToOtherAxis( %3, %4, %5, %6, %7 )%2",
     }};
 
-QString PhrasedObjectConverter::EmitInsertEllipse(const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
-                                                  double otherAxisDistance, const CFxString& name)
+QString EmitInsertEllipse(Writer& writer, const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
+                          double otherAxisDistance, const CFxString& name)
 {
-    return fill(insertEllipse)
+    return writer.fill(insertEllipse)
         .real(axisStart.x)
         .real(axisStart.y)
         .real(axisEnd.x)

@@ -1,7 +1,7 @@
 // The option objects of a dimension style and what is set on them.
 
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "objects/targets/PhrasedObjectConverter.h"
+#include "objects/targets/dimensionOptions.h"
+
 #include "targets/enumerations.h"
 
 using namespace inkmacro;
@@ -17,10 +17,10 @@ static const Phrase getUserData{
         .vba = "%1Dim %3 As Inkwright.DimensionStyleUserData%2%1Set %3 = %4.GetDimensionStyleUserData()%2",
     }};
 
-QString PhrasedObjectConverter::EmitGetDimensionStyleUserData(const CFxString& owner, CFxString& userData)
+QString EmitGetDimensionStyleUserData(Writer& writer, const CFxString& owner, CFxString& userData)
 {
-    userData = QStringLiteral("dimensionStyle%1").arg(++Driver().UniqueCounter);
-    return fill(getUserData).text(userData).text(owner);
+    userData = QStringLiteral("dimensionStyle%1").arg(++writer.UniqueCounter);
+    return writer.fill(getUserData).text(userData).text(owner);
 }
 
 static const Phrase getDimensionOptions{
@@ -34,31 +34,31 @@ static const Phrase getDimensionOptions{
         .vba = "%1Dim %3 As Inkwright.DimensionStyle%5Options%2%1Set %3 = %4.GetDimensionStyle%5Options()%2",
     }};
 
-QString PhrasedObjectConverter::getOptions(const char* kind, const char* stem, const CFxString& owner,
-                                           CFxString& options)
+static QString getOptions(Writer& writer, const char* kind, const char* stem, const CFxString& owner,
+                          CFxString& options)
 {
-    options = stem + QString::number(++Driver().UniqueCounter);
-    return fill(getDimensionOptions).text(options).text(owner).text(QLatin1String(kind));
+    options = stem + QString::number(++writer.UniqueCounter);
+    return writer.fill(getDimensionOptions).text(options).text(owner).text(QLatin1String(kind));
 }
 
-QString PhrasedObjectConverter::EmitGetArrowsOptions(const CFxString& owner, CFxString& options)
+QString EmitGetArrowsOptions(Writer& writer, const CFxString& owner, CFxString& options)
 {
-    return getOptions("Arrows", "arrowOptions", owner, options);
+    return getOptions(writer, "Arrows", "arrowOptions", owner, options);
 }
 
-QString PhrasedObjectConverter::EmitGetLineOptions(const CFxString& owner, CFxString& options)
+QString EmitGetLineOptions(Writer& writer, const CFxString& owner, CFxString& options)
 {
-    return getOptions("Line", "linesOptions", owner, options);
+    return getOptions(writer, "Line", "linesOptions", owner, options);
 }
 
-QString PhrasedObjectConverter::EmitGetTextOptions(const CFxString& owner, CFxString& options)
+QString EmitGetTextOptions(Writer& writer, const CFxString& owner, CFxString& options)
 {
-    return getOptions("Text", "textOptions", owner, options);
+    return getOptions(writer, "Text", "textOptions", owner, options);
 }
 
-QString PhrasedObjectConverter::EmitGetFitOptions(const CFxString& owner, CFxString& options)
+QString EmitGetFitOptions(Writer& writer, const CFxString& owner, CFxString& options)
 {
-    return getOptions("Fit", "fitOptions", owner, options);
+    return getOptions(writer, "Fit", "fitOptions", owner, options);
 }
 
 /// The name of a block stands behind the kind of arrow.
@@ -73,11 +73,10 @@ static const Phrase setArrow{"EmitSetArrow",
                              }};
 
 /// A leader's record does not tell the block of an arrow of one's own.
-QString PhrasedObjectConverter::EmitSetLeaderArrow(const CFxString& target, const CFxString& operation,
-                                                   std::int32_t arrow)
+QString EmitSetLeaderArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow)
 {
-    const QString kind = EnumeratorByValue(target_, "iwDimensionArrowType", arrow);
-    return fill(setArrow).text(target).text(operation).text(kind).text(QString());
+    const QString kind = EnumeratorByValue(writer.target, "iwDimensionArrowType", arrow);
+    return writer.fill(setArrow).text(target).text(operation).text(kind).text(QString());
 }
 
 static const Phrase setDimensionScale{"EmitSetDimensionScale",
@@ -90,9 +89,9 @@ static const Phrase setDimensionScale{"EmitSetDimensionScale",
                                           .vba = "%1%3.%4 %5, %6%2",
                                       }};
 
-QString PhrasedObjectConverter::EmitSetDimensionScale(const CFxString& target, const CFxString& operation,
-                                                      std::int32_t scale, double factor)
+QString EmitSetDimensionScale(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t scale,
+                              double factor)
 {
-    const QString kind = EnumeratorByValue(target_, "iwDimensionScale", scale);
-    return fill(setDimensionScale).text(target).text(operation).text(kind).real(factor);
+    const QString kind = EnumeratorByValue(writer.target, "iwDimensionScale", scale);
+    return writer.fill(setDimensionScale).text(target).text(operation).text(kind).real(factor);
 }

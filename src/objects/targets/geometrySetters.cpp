@@ -1,7 +1,7 @@
 // Setters that changed geometry needs beyond the general ones.
 
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "objects/targets/PhrasedObjectConverter.h"
+#include "objects/targets/geometrySetters.h"
+
 #include "targets/enumerations.h"
 
 using namespace inkmacro;
@@ -16,12 +16,12 @@ static const Phrase setIndexedDouble{"EmitSetIndexedDouble",
                                          .vba = "%1%3.%4 %5, %6%2",
                                      }};
 
-QString PhrasedObjectConverter::EmitSetIndexedDouble(const CFxString& target, const CFxString& operation,
-                                                     std::int32_t index, double value)
+QString EmitSetIndexedDouble(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t index,
+                             double value)
 {
     // Only C++ has a local, and only a local uses up a number.
-    const std::uint32_t suffix = target_ == Target::Cpp ? ++Driver().UniqueCounter : 0;
-    return fill(setIndexedDouble).text(target).text(operation).number(index).real(value).number(suffix);
+    const std::uint32_t suffix = writer.target == Target::Cpp ? ++writer.UniqueCounter : 0;
+    return writer.fill(setIndexedDouble).text(target).text(operation).number(index).real(value).number(suffix);
 }
 
 /// Enumerators are texts to JavaScript.
@@ -35,19 +35,18 @@ static const Phrase setEnumeratorProperty{"EmitSetEnumProperty",
                                               .vba = "%1%3.%4 = %5%2",
                                           }};
 
-QString PhrasedObjectConverter::setEnumerator(const CFxString& target, const CFxString& property,
-                                              const QString& enumerator)
+QString setEnumerator(Writer& writer, const CFxString& target, const CFxString& property, const QString& enumerator)
 {
-    return fill(setEnumeratorProperty).text(target).text(property).text(enumerator);
+    return writer.fill(setEnumeratorProperty).text(target).text(property).text(enumerator);
 }
 
-QString PhrasedObjectConverter::EmitSetEnumProperty(const CFxString& target, const char* enumeration,
-                                                    const CFxString& property, const CFxString& shownText)
+QString EmitSetEnumProperty(Writer& writer, const CFxString& target, const char* enumeration, const CFxString& property,
+                            const CFxString& shownText)
 {
-    return setEnumerator(target, property, EnumeratorByText(target_, enumeration, shownText));
+    return setEnumerator(writer, target, property, EnumeratorByText(writer.target, enumeration, shownText));
 }
 
-QString PhrasedObjectConverter::EmitSetLeaderType(const CFxString& target, const CFxString& property, std::int32_t type)
+QString EmitSetLeaderType(Writer& writer, const CFxString& target, const CFxString& property, std::int32_t type)
 {
-    return setEnumerator(target, property, EnumeratorByValue(target_, "iwLeaderType", type));
+    return setEnumerator(writer, target, property, EnumeratorByValue(writer.target, "iwLeaderType", type));
 }

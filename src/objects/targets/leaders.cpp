@@ -1,7 +1,7 @@
 // Tolerances, leaders and what stands at a leader's end.
 
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "objects/targets/PhrasedObjectConverter.h"
+#include "objects/targets/leaders.h"
+#include "objects/targets/CoordinateArray.h"
 
 using namespace inkmacro;
 
@@ -21,22 +21,21 @@ static const Phrase insertTolerance{
                "%1Coordinates%7(2) = %5%2%1Set %8 = iwSketchManager.InsertTolerance( Coordinates%7, \"%6\" )%2",
     }};
 
-QString PhrasedObjectConverter::EmitInsertTolerance(const OdGePoint3d& position, const CFxString& text,
-                                                    const CFxString& name)
+QString EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const CFxString& text, const CFxString& name)
 {
-    std::uint32_t& counter = Driver().UniqueCounter;
-    if (target_ == Target::Cpp) {
-        const CoordinateArray array = coordinates({position}, nullptr);
-        Fill statement = fill(insertTolerance);
+    std::uint32_t& counter = writer.UniqueCounter;
+    if (writer.target == Target::Cpp) {
+        const CoordinateArray array = coordinates(writer, {position}, nullptr);
+        Fill statement = writer.fill(insertTolerance);
         return array.open(statement).text(text).text(name);
     }
-    if (target_ == Target::CppCom) {
-        const QString point = comPoint(++counter, position);
-        return fill(insertTolerance).number(counter).text(point).text(text).text(name);
+    if (writer.target == Target::CppCom) {
+        const QString point = comPoint(writer, ++counter, position);
+        return writer.fill(insertTolerance).number(counter).text(point).text(text).text(name);
     }
-    Fill statement = fill(insertTolerance);
+    Fill statement = writer.fill(insertTolerance);
     statement.point(position).text(text);
-    if (target_ == Target::Vba)
+    if (writer.target == Target::Vba)
         statement.number(++counter);
     return statement.text(name);
 }
@@ -57,11 +56,11 @@ static const Phrase insertLeader{
                "%1Set %8 = iwSketchManager.InsertLeader( Coordinates%3, %6, \"%7\" )%2",
     }};
 
-QString PhrasedObjectConverter::EmitInsertLeader(const OdArray<OdGePoint3d>& vertices, double width,
-                                                 const CFxString& text, const CFxString& name)
+QString EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
+                         const CFxString& name)
 {
-    const CoordinateArray array = coordinates(vertices, "leaderPoints");
-    Fill statement = fill(insertLeader);
+    const CoordinateArray array = coordinates(writer, vertices, "leaderPoints");
+    Fill statement = writer.fill(insertLeader);
     array.open(statement).real(width).text(text);
     return array.before + array.close(statement).text(name).str();
 }
@@ -86,8 +85,8 @@ static const Phrase setBlockAnnotation{"EmitSetAnnotation",
                                            .vba = "%1%3.SetBlockAnnotation \"%4\"%2",
                                        }};
 
-QString PhrasedObjectConverter::EmitSetAnnotation(const CFxString& leader, LeaderAnnotation kind, const CFxString& text)
+QString EmitSetAnnotation(Writer& writer, const CFxString& leader, LeaderAnnotation kind, const CFxString& text)
 {
     const Phrase& words = kind == LeaderAnnotation::Tolerance ? setToleranceAnnotation : setBlockAnnotation;
-    return fill(words).text(leader).text(text);
+    return writer.fill(words).text(leader).text(text);
 }

@@ -1,13 +1,13 @@
 // Changes of one coordinate: the generated program reads the point, changes the coordinate and writes the point back.
 
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "objects/targets/PhrasedObjectConverter.h"
+#include "objects/targets/pointChanges.h"
+
 #include "targets/LineEnd.h"
 
 using namespace inkmacro;
 
 /// The four steps of a change, in their order.
-struct PhrasedObjectConverter::PointWords
+struct PointWords
 {
     const Phrase& declare;
     const Phrase& get;
@@ -16,18 +16,17 @@ struct PhrasedObjectConverter::PointWords
 };
 
 /// Without an index (-1) the calls have one value less.
-QString PhrasedObjectConverter::changePoint(const PointWords& words, const CFxString& target, const CFxString& getter,
-                                            const CFxString& setter, std::int32_t index, const CFxString& coordinate,
-                                            double value)
+static QString changePoint(Writer& writer, const PointWords& words, const CFxString& target, const CFxString& getter,
+                           const CFxString& setter, std::int32_t index, const CFxString& coordinate, double value)
 {
-    const std::uint32_t suffix = ++Driver().UniqueCounter;
+    const std::uint32_t suffix = ++writer.UniqueCounter;
     const auto call = [&](const Phrase& phrase, const CFxString& operation) -> QString {
         if (index == -1)
-            return fillIndented(phrase).text(target).text(operation).text(LineEnd).number(suffix);
-        return fillIndented(phrase).text(target).text(operation).number(index).text(LineEnd).number(suffix);
+            return writer.fillIndented(phrase).text(target).text(operation).text(LineEnd).number(suffix);
+        return writer.fillIndented(phrase).text(target).text(operation).number(index).text(LineEnd).number(suffix);
     };
-    return fill(words.declare).number(suffix).str() + call(words.get, getter) +
-           fillIndented(words.change).text(coordinate).real(value).text(LineEnd).number(suffix).str() +
+    return writer.fill(words.declare).number(suffix).str() + call(words.get, getter) +
+           writer.fillIndented(words.change).text(coordinate).real(value).text(LineEnd).number(suffix).str() +
            call(words.set, setter);
 }
 
@@ -106,12 +105,12 @@ static const Phrase setIndexedPoint{"EmitChangePoint",
                                         .vba = "%1%2.%3 %4, X%6, Y%6, Z%6 %5",
                                     }};
 
-QString PhrasedObjectConverter::EmitChangePoint(const CFxString& target, const CFxString& axis, const CFxString& getter,
-                                                const CFxString& setter, double value, std::int32_t index)
+QString EmitChangePoint(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
+                        const CFxString& setter, double value, std::int32_t index)
 {
     static const PointWords plain{declarePoint, getPoint, changePointCoordinate, setPoint};
     static const PointWords indexed{declareIndexedPoint, getIndexedPoint, changePointCoordinate, setIndexedPoint};
-    return changePoint(index == -1 ? plain : indexed, target, getter, setter, index, axis, value);
+    return changePoint(writer, index == -1 ? plain : indexed, target, getter, setter, index, axis, value);
 }
 
 /// JavaScript gets its local from the call.
@@ -155,29 +154,29 @@ static const Phrase setPair{"EmitChangePosition",
                                 .vba = "%1%2.%3 getX%5, getY%5, getZ%5%4",
                             }};
 
-QString PhrasedObjectConverter::changePair(const CFxString& target, const CFxString& getter, const CFxString& setter,
-                                           const CFxString& local, double value)
+static QString changePair(Writer& writer, const CFxString& target, const CFxString& getter, const CFxString& setter,
+                          const CFxString& local, double value)
 {
     static const PointWords words{declarePair, getPair, changeLocal, setPair};
     QString coordinate = local;
-    if (target_ == Target::JavaScript)
+    if (writer.target == Target::JavaScript)
         coordinate.replace(QLatin1String("get"), QLatin1String("get."));
-    return changePoint(words, target, getter, setter, -1, coordinate, value);
+    return changePoint(writer, words, target, getter, setter, -1, coordinate, value);
 }
 
-QString PhrasedObjectConverter::EmitChangePosition(const CFxString& target, const CFxString& local, double value)
+QString EmitChangePosition(Writer& writer, const CFxString& target, const CFxString& local, double value)
 {
-    return changePair(target, "GetPosition", "SetPosition", local, value);
+    return changePair(writer, target, "GetPosition", "SetPosition", local, value);
 }
 
-QString PhrasedObjectConverter::EmitChangeFirstPoint(const CFxString& target, const CFxString& local, double value)
+QString EmitChangeFirstPoint(Writer& writer, const CFxString& target, const CFxString& local, double value)
 {
-    return changePair(target, "GetFirstPoint", "SetFirstPoint", local, value);
+    return changePair(writer, target, "GetFirstPoint", "SetFirstPoint", local, value);
 }
 
-QString PhrasedObjectConverter::EmitChangeSecondPoint(const CFxString& target, const CFxString& local, double value)
+QString EmitChangeSecondPoint(Writer& writer, const CFxString& target, const CFxString& local, double value)
 {
-    return changePair(target, "GetSecondPoint", "SetSecondPoint", local, value);
+    return changePair(writer, target, "GetSecondPoint", "SetSecondPoint", local, value);
 }
 
 // The locals of C++ and JavaScript have no suffix, so that a second change in one block declares them again; and what
@@ -223,27 +222,29 @@ static const Phrase setVertex{"EmitChangeVertex",
                                   .vba = "%1%2.SetVertexCoordinate %3, X%5, Y%5, Z%5%4",
                               }};
 
-QString PhrasedObjectConverter::changeVertex(const PointWords& words, const CFxString& target, std::int32_t index,
-                                             const CFxString& axis, double value)
+static QString changeVertex(Writer& writer, const PointWords& words, const CFxString& target, std::int32_t index,
+                            const CFxString& axis, double value)
 {
     // Only here the C++ calls end with the usual second value, and only they do without the suffix.
-    if (target_ == Target::Cpp)
-        return fill(words.declare).str() + fill(words.get).text(target).number(index).str() +
-               fill(words.change).text(axis).real(value).str() + fill(words.set).text(target).number(index).str();
+    if (writer.target == Target::Cpp)
+        return writer.fill(words.declare).str() + writer.fill(words.get).text(target).number(index).str() +
+               writer.fill(words.change).text(axis).real(value).str() +
+               writer.fill(words.set).text(target).number(index).str();
 
-    const std::uint32_t suffix = target_ == Target::JavaScript ? 0 : ++Driver().UniqueCounter;
+    const std::uint32_t suffix = writer.target == Target::JavaScript ? 0 : ++writer.UniqueCounter;
     const auto call = [&](const Phrase& phrase) {
-        return fillIndented(phrase).text(target).number(index).text(LineEnd).number(suffix).str();
+        return writer.fillIndented(phrase).text(target).number(index).text(LineEnd).number(suffix).str();
     };
-    return fill(words.declare).number(suffix).str() + call(words.get) +
-           fillIndented(words.change).text(axis).real(value).text(LineEnd).number(suffix).str() + call(words.set);
+    return writer.fill(words.declare).number(suffix).str() + call(words.get) +
+           writer.fillIndented(words.change).text(axis).real(value).text(LineEnd).number(suffix).str() +
+           call(words.set);
 }
 
-QString PhrasedObjectConverter::EmitChangeVertex(const CFxString& target, std::int32_t index, const CFxString& axis,
-                                                 double value)
+QString EmitChangeVertex(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
+                         double value)
 {
     static const PointWords words{declareVertex, getVertex, changeVertexCoordinate, setVertex};
-    return changeVertex(words, target, index, axis, value);
+    return changeVertex(writer, words, target, index, axis, value);
 }
 
 static const Phrase declareVertex2D{"EmitChangeVertex2D",
@@ -276,9 +277,9 @@ static const Phrase setVertex2D{"EmitChangeVertex2D",
                                     .vba = "%1%2.SetVertexCoordinate %3, X%5, Y%5%4",
                                 }};
 
-QString PhrasedObjectConverter::EmitChangeVertex2D(const CFxString& target, std::int32_t index, const CFxString& axis,
-                                                   double value)
+QString EmitChangeVertex2D(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
+                           double value)
 {
     static const PointWords words{declareVertex2D, getVertex2D, changeVertexCoordinate, setVertex2D};
-    return changeVertex(words, target, index, axis, value);
+    return changeVertex(writer, words, target, index, axis, value);
 }

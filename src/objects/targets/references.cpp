@@ -1,12 +1,11 @@
 // How statements come by the objects that they change, and the removal of what is no entity.
 
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "objects/targets/PhrasedObjectConverter.h"
+#include "objects/targets/references.h"
 
 using namespace inkmacro;
 
 static const Phrase objectByHandle{
-    "EmitObjectVariable",
+    "EmitGetObjectByHandle",
     {
         .cpp = "%1iwObjectType_e type%6;\n%1%3 %4;%2%1iwDoc->GetObjectByHandle(L\"%5\", &type%6, &%4);%2",
         .cppCom = "%1iwObjectType_e type%6;\n"
@@ -20,21 +19,13 @@ static const Phrase objectByHandle{
                "%1Set %4 = iwApp.GetActiveDocument().GetObjectByHandle (\"%5\", type%6 )%2",
     }};
 
-QString PhrasedObjectConverter::EmitObjectVariable(const OdDbHandle& handle, OdRxClass* cls, CFxString& name)
+QString EmitGetObjectByHandle(Writer& writer, const CFxString& type, const CFxString& name, const OdDbHandle& handle)
 {
-    CFxString type;
-    CFxString second;
-    if (Driver().GetApiTypeName(cls, type, second) != kFxSuccess)
-        return {};
-    const ActionEntry* const entry = Driver().FindEntry(handle);
-    name = ObjectVariableName(cls, IdOf(handle), entry ? entry->ordinal : ++Driver().objectCounter);
-    if (entry)
-        return {};
     const QString digits = handle.ascii();
     // A page needs neither the variable's type nor a place for the object's.
-    if (target_ == Target::JavaScript)
-        return fill(objectByHandle).text(name).text(digits);
-    return fill(objectByHandle).text(type).text(name).text(digits).number(++Driver().UniqueCounter);
+    if (writer.target == Target::JavaScript)
+        return writer.fill(objectByHandle).text(name).text(digits);
+    return writer.fill(objectByHandle).text(type).text(name).text(digits).number(++writer.UniqueCounter);
 }
 
 static const Phrase getNoteAnnotation{"EmitGetNoteAnnotation",
@@ -47,9 +38,9 @@ static const Phrase getNoteAnnotation{"EmitGetNoteAnnotation",
                                           .vba = "%1Dim %4 As Inkwright.Note%2%1Set %4 = %3.GetNoteAnnotation()%2",
                                       }};
 
-QString PhrasedObjectConverter::EmitGetNoteAnnotation(const CFxString& note, const CFxString& leader)
+QString EmitGetNoteAnnotation(Writer& writer, const CFxString& note, const CFxString& leader)
 {
-    return fill(getNoteAnnotation).text(leader).text(note);
+    return writer.fill(getNoteAnnotation).text(leader).text(note);
 }
 
 static const Phrase declareBlockDefinition{"EmitDeclareBlockDefinition",
@@ -62,9 +53,9 @@ static const Phrase declareBlockDefinition{"EmitDeclareBlockDefinition",
                                                .vba = "%1Dim %3 As Inkwright.BlockDefinition%2",
                                            }};
 
-QString PhrasedObjectConverter::EmitDeclareBlockDefinition(const CFxString& name)
+QString EmitDeclareBlockDefinition(Writer& writer, const CFxString& name)
 {
-    return fill(declareBlockDefinition).text(name);
+    return writer.fill(declareBlockDefinition).text(name);
 }
 
 static const Phrase getGeneralDimension{
@@ -78,10 +69,10 @@ static const Phrase getGeneralDimension{
         .vba = "%1Dim %3 As Inkwright.GeneralDimension%2%1Set %3 = %4.GetGeneralDimension()%2",
     }};
 
-QString PhrasedObjectConverter::EmitGetGeneralDimension(const CFxString& name, CFxString& target)
+QString EmitGetGeneralDimension(Writer& writer, const CFxString& name, CFxString& target)
 {
-    target = QStringLiteral("generalDimension%1").arg(++Driver().UniqueCounter);
-    return fill(getGeneralDimension).text(target).text(name);
+    target = QStringLiteral("generalDimension%1").arg(++writer.UniqueCounter);
+    return writer.fill(getGeneralDimension).text(target).text(name);
 }
 
 static const Phrase getCurvedTextSettings{
@@ -95,10 +86,10 @@ static const Phrase getCurvedTextSettings{
         .vba = "%1Dim %3 As Inkwright.CurvedSettings%2%1Set %3 = %4.GetCurvedSettings()%2",
     }};
 
-QString PhrasedObjectConverter::EmitGetCurvedTextSettings(const CFxString& name, CFxString& settings)
+QString EmitGetCurvedTextSettings(Writer& writer, const CFxString& name, CFxString& settings)
 {
-    settings = QStringLiteral("curvedSettings%1").arg(++Driver().UniqueCounter);
-    return fill(getCurvedTextSettings).text(settings).text(name);
+    settings = QStringLiteral("curvedSettings%1").arg(++writer.UniqueCounter);
+    return writer.fill(getCurvedTextSettings).text(settings).text(name);
 }
 
 static const Phrase setCurvedTextSettings{"EmitSetCurvedTextSettings",
@@ -111,9 +102,9 @@ static const Phrase setCurvedTextSettings{"EmitSetCurvedTextSettings",
                                               .vba = "%1%3.SetCurvedSettings %4%2",
                                           }};
 
-QString PhrasedObjectConverter::EmitSetCurvedTextSettings(const CFxString& name, const CFxString& settings)
+QString EmitSetCurvedTextSettings(Writer& writer, const CFxString& name, const CFxString& settings)
 {
-    return fill(setCurvedTextSettings).text(name).text(settings);
+    return writer.fill(setCurvedTextSettings).text(name).text(settings);
 }
 
 static const Phrase removeModelView{"EmitRemoveNamedView",
@@ -137,9 +128,9 @@ static const Phrase removeSheetView{"EmitRemoveNamedView",
                                     }};
 
 /// The manager removes a view by its name; the variable is of no use.
-QString PhrasedObjectConverter::EmitRemoveNamedView(const CFxString&, const CFxString& viewName, bool paperspace)
+QString EmitRemoveNamedView(Writer& writer, const CFxString&, const CFxString& viewName, bool paperspace)
 {
-    return fill(paperspace ? removeSheetView : removeModelView).text(viewName);
+    return writer.fill(paperspace ? removeSheetView : removeModelView).text(viewName);
 }
 
 static const Phrase removeLayer{
@@ -162,7 +153,7 @@ static const Phrase removeLayer{
                "%1iwLayerManager%3.RemoveLayer layerName%3%2",
     }};
 
-QString PhrasedObjectConverter::EmitRemoveLayer(const CFxString& name)
+QString EmitRemoveLayer(Writer& writer, const CFxString& name)
 {
-    return fill(removeLayer).number(++Driver().UniqueCounter).text(name);
+    return writer.fill(removeLayer).number(++writer.UniqueCounter).text(name);
 }

@@ -1,7 +1,7 @@
 // Regions made of curves.
 
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "objects/targets/PhrasedObjectConverter.h"
+#include "objects/targets/regions.h"
+
 #include "targets/comArrays.h"
 
 #include <QStringList>
@@ -65,36 +65,36 @@ static const Phrase takeRegion{
         .vba = "%1Set %4 = regionArray%3(0)%2%2",
     }};
 
-QString PhrasedObjectConverter::regionEntities(const QStringList& names, std::uint32_t number) const
+static QString regionEntities(Writer& writer, const QStringList& names, std::uint32_t number)
 {
-    const unsigned level = Driver().IndentLevel;
+    const unsigned level = writer.IndentLevel;
     const int count = names.size();
-    const bool unended = target_ == Target::CSharp || target_ == Target::JavaScript;
-    Fill head(regionHead.in(target_));
-    if (target_ == Target::CSharp)
+    const bool unended = writer.target == Target::CSharp || writer.target == Target::JavaScript;
+    Fill head(regionHead.in(writer.target));
+    if (writer.target == Target::CSharp)
         head.number(number).number(count).indent(level);
-    else if (target_ == Target::JavaScript)
+    else if (writer.target == Target::JavaScript)
         head.number(number).indent(level);
     QString text =
-        unended ? head.str() : fill(regionHead).number(number).number(isBasic(target_) ? count - 1 : count).str();
-    if (target_ == Target::CppCom)
+        unended ? head.str()
+                : writer.fill(regionHead).number(number).number(isBasic(writer.target) ? count - 1 : count).str();
+    if (writer.target == Target::CppCom)
         return text += comObjects(level, "entitiesArray", number, std::vector<QString>(names.begin(), names.end()));
     for (int i = 0; i < count; ++i) {
         if (unended)
-            text += Fill(regionElement.in(target_)).number(number).number(i).text(names[i]).indent(level);
-        else if (target_ == Target::Cpp)
-            text += fill(regionElement).text(names[i]).number(number);
+            text += Fill(regionElement.in(writer.target)).number(number).number(i).text(names[i]).indent(level);
+        else if (writer.target == Target::Cpp)
+            text += writer.fill(regionElement).text(names[i]).number(number);
         else
-            text += fill(regionElement).number(i).text(names[i]).number(number);
+            text += writer.fill(regionElement).number(i).text(names[i]).number(number);
     }
     return text;
 }
 
-QString PhrasedObjectConverter::EmitInsertRegion(const CFxString& variable, const QStringList& names,
-                                                 std::uint32_t number)
+QString EmitInsertRegion(Writer& writer, const CFxString& variable, const QStringList& names, std::uint32_t number)
 {
     // The number goes into two places of the same literal in C++.
-    return regionEntities(names, number) + fill(regionArray).number(number).str() +
-           fill(insertRegion).number(number).number(number).str() +
-           fill(takeRegion).number(number).text(variable).str();
+    return regionEntities(writer, names, number) + writer.fill(regionArray).number(number).str() +
+           writer.fill(insertRegion).number(number).number(number).str() +
+           writer.fill(takeRegion).number(number).text(variable).str();
 }

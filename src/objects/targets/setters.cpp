@@ -1,10 +1,10 @@
 // Setters of single properties, and the general properties of entities.
 
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "objects/targets/setters.h"
+
 #include "host/db/OdDbClasses.h"
-#include "objects/targets/PhrasedObjectConverter.h"
 #include "targets/enumerations.h"
-#include "targets/texts.h"
+#include "targets/wording.h"
 
 using namespace inkmacro;
 
@@ -28,20 +28,20 @@ static const Phrase setValue{"EmitSetProperty",
                                  .vba = "%1%3.%4 = %5%2",
                              }};
 
-QString PhrasedObjectConverter::EmitSetProperty(const CFxString& target, const CFxString& property,
-                                                const CFxString& value, bool quoted)
+QString EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const CFxString& value,
+                        bool quoted)
 {
-    return fill(quoted ? setText : setValue).text(target).text(property).text(value);
+    return writer.fill(quoted ? setText : setValue).text(target).text(property).text(value);
 }
 
-QString PhrasedObjectConverter::EmitSetDoubleProperty(const CFxString& target, const CFxString& property, double value)
+QString EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value)
 {
-    return fill(setValue).text(target).text(property).real(value);
+    return writer.fill(setValue).text(target).text(property).real(value);
 }
 
-QString PhrasedObjectConverter::EmitSetBoolProperty(const CFxString& target, const CFxString& property, bool value)
+QString EmitSetBoolProperty(Writer& writer, const CFxString& target, const CFxString& property, bool value)
 {
-    return fill(setValue).text(target).text(property).text(truthWord(target_, value));
+    return writer.fill(setValue).text(target).text(property).text(truthWord(writer.target, value));
 }
 
 static const Phrase setIndexedColor{
@@ -68,13 +68,13 @@ static const Phrase setRgbColor{"EmitSetColor",
                                 }};
 
 /// The C++ add-in takes the color into a local variable before it comes to the property.
-QString PhrasedObjectConverter::EmitSetColor(const CFxString& target, const CFxString& property, const OdCmColor& color)
+QString EmitSetColor(Writer& writer, const CFxString& target, const CFxString& property, const OdCmColor& color)
 {
     const bool indexed = color.isByBlock() || color.isByLayer() || color.isByACI();
-    const bool byLocal = target_ == Target::Cpp;
-    Fill statement = fill(indexed ? setIndexedColor : setRgbColor);
+    const bool byLocal = writer.target == Target::Cpp;
+    Fill statement = writer.fill(indexed ? setIndexedColor : setRgbColor);
     if (byLocal)
-        statement.number(++Driver().UniqueCounter);
+        statement.number(++writer.UniqueCounter);
     else
         statement.text(target).text(property);
     if (indexed)
@@ -93,17 +93,16 @@ static OdSmartPtr<Record> recordOf(const OdDbObjectId& id)
     return odrxCast<Record>(id.openObject(true).get());
 }
 
-QString PhrasedObjectConverter::EmitSetLayer(const CFxString& target, const CFxString& property, const OdDbObjectId& id)
+QString EmitSetLayer(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id)
 {
     const auto layer = recordOf<OdDbLayerTableRecord>(id);
-    return layer ? EmitSetProperty(target, property, layer->getName(), true) : QString();
+    return layer ? EmitSetProperty(writer, target, property, layer->getName(), true) : QString();
 }
 
-QString PhrasedObjectConverter::EmitSetLineStyle(const CFxString& target, const CFxString& property,
-                                                 const OdDbObjectId& id)
+QString EmitSetLineStyle(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id)
 {
     const auto style = recordOf<OdDbLinetypeTableRecord>(id);
-    return style ? EmitSetProperty(target, property, style->getName(), true) : QString();
+    return style ? EmitSetProperty(writer, target, property, style->getName(), true) : QString();
 }
 
 /// A page hands enumerators over as texts.
@@ -117,9 +116,9 @@ static const Phrase setLineWeight{"EmitSetLineWeight",
                                       .vba = "%1%3.%4 = %5%2",
                                   }};
 
-QString PhrasedObjectConverter::EmitSetLineWeight(const CFxString& target, const CFxString& property, int weight)
+QString EmitSetLineWeight(Writer& writer, const CFxString& target, const CFxString& property, int weight)
 {
-    return fill(setLineWeight).text(target).text(property).text(LineWeightEnumerator(target_, weight));
+    return writer.fill(setLineWeight).text(target).text(property).text(LineWeightEnumerator(writer.target, weight));
 }
 
 static const Phrase setByLayer{"EmitSetTransparency",
@@ -169,19 +168,19 @@ static const Phrase setTransparency{
     }};
 
 /// A method without a name leaves the middle line blank.
-QString PhrasedObjectConverter::EmitSetTransparency(const CFxString& target, const OdCmTransparency& transparency)
+QString EmitSetTransparency(Writer& writer, const CFxString& target, const OdCmTransparency& transparency)
 {
     // Process-wide, one a target, and never put back: a second conversion goes on counting.
     static std::array<std::uint32_t, targetCount> counters{};
-    std::uint32_t& counter = counters[static_cast<std::size_t>(target_)];
+    std::uint32_t& counter = counters[static_cast<std::size_t>(writer.target)];
     const Phrase* const phrase = transparency.method == OdCmTransparency::ByLayer   ? &setByLayer
                                  : transparency.method == OdCmTransparency::ByBlock ? &setByBlock
                                  : transparency.method == OdCmTransparency::ByAlpha ? &setByAlpha
                                                                                     : nullptr;
     // The interface counts in percent from solid to clear.
     const int percent = static_cast<int>(100 - transparency.alpha / 255.0 * 100);
-    const QString line = Fill(phrase ? phrase->in(target_) : nullptr).number(counter).number(percent);
-    const QString statement = fill(setTransparency).number(counter).text(target).text(line);
+    const QString line = Fill(phrase ? phrase->in(writer.target) : nullptr).number(counter).number(percent);
+    const QString statement = writer.fill(setTransparency).number(counter).text(target).text(line);
     ++counter;
     return statement;
 }

@@ -1,7 +1,7 @@
 // Properties of the model and of sheets.
 
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "objects/targets/PhrasedObjectConverter.h"
+#include "objects/targets/sheetProperties.h"
+#include "targets/sheets.h"
 
 using namespace inkmacro;
 
@@ -26,12 +26,12 @@ static const Phrase setSheetProperty{"EmitSetModelProperty",
                                          .vba = "%3%1%4.%5 = \"%6\"%2",
                                      }};
 
-QString PhrasedObjectConverter::EmitSetModelProperty(const CFxString& property, const CFxString& value, bool ofModel,
-                                                     const CFxString& sheetName)
+QString EmitSetModelProperty(Writer& writer, const CFxString& property, const CFxString& value, bool ofModel,
+                             const CFxString& sheetName)
 {
     if (ofModel)
-        return fill(setModelProperty).text(property).text(value);
+        return writer.fill(setModelProperty).text(property).text(value);
     CFxString sheet;
-    const QString activation = Driver().EmitActivateSheet(sheetName, sheet);
-    return fill(setSheetProperty).text(activation).text(sheet).text(property).text(value);
+    const QString activation = EmitActivateSheet(writer, sheetName, sheet);
+    return writer.fill(setSheetProperty).text(activation).text(sheet).text(property).text(value);
 }

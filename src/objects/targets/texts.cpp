@@ -1,9 +1,10 @@
 // Text styles, attribute definitions, notes and curved texts.
 
-#include "targets/texts.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "objects/targets/PhrasedObjectConverter.h"
+#include "objects/targets/texts.h"
+
+#include "objects/targets/geometrySetters.h"
 #include "targets/enumerations.h"
+#include "targets/wording.h"
 
 using namespace inkmacro;
 
@@ -41,10 +42,10 @@ static const Phrase createTextStyle{
                "result%3%2%1End If%2",
     }};
 
-QString PhrasedObjectConverter::EmitCreateTextStyle(const CFxString& name, const CFxString& styleName)
+QString EmitCreateTextStyle(Writer& writer, const CFxString& name, const CFxString& styleName)
 {
-    const std::uint32_t number = ++Driver().UniqueCounter;
-    return fill(createTextStyle).number(number).number(number).text(styleName).text(name);
+    const std::uint32_t number = ++writer.UniqueCounter;
+    return writer.fill(createTextStyle).number(number).number(number).text(styleName).text(name);
 }
 
 /// The manager's variable has no number, so two of these in one scope declare it twice. It has to stay so.
@@ -63,9 +64,9 @@ static const Phrase loadShapeFile{
                "%1iwShapeManager.Load \"%3\"%2",
     }};
 
-QString PhrasedObjectConverter::EmitLoadShapeFile(const CFxString& path)
+QString EmitLoadShapeFile(Writer& writer, const CFxString& path)
 {
-    return fill(loadShapeFile).text(path);
+    return writer.fill(loadShapeFile).text(path);
 }
 
 static const Phrase insertAttributeDefinition{
@@ -86,16 +87,15 @@ static const Phrase insertAttributeDefinition{
                "%10, %11, %12, %13, %14, %15, %16, %17, %18 )%2",
     }};
 
-QString PhrasedObjectConverter::EmitInsertAttributeDefinition(const AttributeDefinition& definition,
-                                                              const CFxString& name)
+QString EmitInsertAttributeDefinition(Writer& writer, const AttributeDefinition& definition, const CFxString& name)
 {
-    const QString justification = EnumeratorByText(target_, "iwTextJustification", definition.justification);
-    const auto word = [this](bool value) { return truthWord(target_, value); };
+    const QString justification = EnumeratorByText(writer.target, "iwTextJustification", definition.justification);
+    const auto word = [&](bool value) { return truthWord(writer.target, value); };
     // The last flag is not recorded.
     const QString flags[] = {word(definition.constant), word(definition.invisible),    word(definition.preset),
                              word(definition.verify),   word(definition.lockPosition), word(false)};
 
-    Fill statement = fill(insertAttributeDefinition);
+    Fill statement = writer.fill(insertAttributeDefinition);
     statement.text(definition.value).text(definition.tag).text(definition.prompt).point(definition.position);
     statement.text(definition.styleName).text(justification).real(definition.height).real(definition.rotation);
     for (const QString& flag : flags)
@@ -114,10 +114,10 @@ static const Phrase insertSimpleNote{
         .vba = "%1Set %9 = iwSketchManager.InsertSimpleNote( %3, %4, %5, %6, %7, \"%8\" )%2",
     }};
 
-QString PhrasedObjectConverter::EmitInsertSimpleNote(const OdGePoint3d& position, double height, double rotation,
-                                                     const CFxString& text, const CFxString& name)
+QString EmitInsertSimpleNote(Writer& writer, const OdGePoint3d& position, double height, double rotation,
+                             const CFxString& text, const CFxString& name)
 {
-    return fill(insertSimpleNote).point(position).real(height).real(rotation).text(text).text(name);
+    return writer.fill(insertSimpleNote).point(position).real(height).real(rotation).text(text).text(name);
 }
 
 /// A note takes its text as an array of one string.
@@ -155,23 +155,24 @@ static const Phrase insertNote{
         .vba = "%1Set %10 = iwSketchManager.InsertNote( %3, %4, %5, %6, %7, %8, strArray%9 )%2",
     }};
 
-QString PhrasedObjectConverter::EmitInsertNote(const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
-                                               const CFxString& text, const CFxString& name)
+QString EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
+                       const CFxString& text, const CFxString& name)
 {
-    const std::uint32_t number = ++Driver().UniqueCounter;
-    return fillIndented(noteTexts).number(number).str() + fillIndented(noteText).text(text).number(number).str() +
-           fill(insertNote).point(firstCorner).point(secondCorner).number(number).text(name).str();
+    const std::uint32_t number = ++writer.UniqueCounter;
+    return writer.fillIndented(noteTexts).number(number).str() +
+           writer.fillIndented(noteText).text(text).number(number).str() +
+           writer.fill(insertNote).point(firstCorner).point(secondCorner).number(number).text(name).str();
 }
 
-QString PhrasedObjectConverter::EmitSetNoteJustify(const CFxString& target, const CFxString& property,
-                                                   const CFxString& shownText)
+QString EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxString& property,
+                           const CFxString& shownText)
 {
-    return EmitSetEnumProperty(target, "iwNoteJustification", property, shownText);
+    return EmitSetEnumProperty(writer, target, "iwNoteJustification", property, shownText);
 }
 
-QString PhrasedObjectConverter::EmitSetNoteDirection(const CFxString& target, const CFxString& property, int direction)
+QString EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction)
 {
-    return setEnumerator(target, property, EnumeratorByValue(target_, "iwNoteDirection", direction));
+    return setEnumerator(writer, target, property, EnumeratorByValue(writer.target, "iwNoteDirection", direction));
 }
 
 static const Phrase insertCurvedText{"EmitInsertCurvedText",
@@ -184,9 +185,9 @@ static const Phrase insertCurvedText{"EmitInsertCurvedText",
                                          .vba = "%1Set %5 = iwSketchManager.InsertCurvedText( \"%3\", %4 )%2",
                                      }};
 
-QString PhrasedObjectConverter::EmitInsertCurvedText(const CFxString& text, const CFxString& arc, const CFxString& name)
+QString EmitInsertCurvedText(Writer& writer, const CFxString& text, const CFxString& arc, const CFxString& name)
 {
-    return fill(insertCurvedText).text(text).text(arc).text(name);
+    return writer.fill(insertCurvedText).text(text).text(arc).text(name);
 }
 
 static const Phrase callWithPoint{"EmitCallWithPoint",
@@ -199,8 +200,7 @@ static const Phrase callWithPoint{"EmitCallWithPoint",
                                       .vba = "%1%3.%4 %5, %6, %7%2",
                                   }};
 
-QString PhrasedObjectConverter::EmitCallWithPoint(const CFxString& target, const CFxString& method,
-                                                  const OdGePoint3d& point)
+QString EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxString& method, const OdGePoint3d& point)
 {
-    return fill(callWithPoint).text(target).text(method).point(point);
+    return writer.fill(callWithPoint).text(target).text(method).point(point);
 }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "targets/PhrasedConverter.h"
+#include "frame/CFxConverterIWAPIImpl.h"
 
 /// C++: a command class whose `ExecuteNotify` repeats the recording, and the add-in project that registers it.
-class CFxConverterIWAPICPP final : public PhrasedConverter
+class CFxConverterIWAPICPP final : public CFxConverterIWAPIImpl
 {
 public:
-    explicit CFxConverterIWAPICPP(std::uint32_t mode) : PhrasedConverter(inkmacro::Target::Cpp, mode) {}
+    explicit CFxConverterIWAPICPP(std::uint32_t mode) : CFxConverterIWAPIImpl(inkmacro::Target::Cpp, mode) {}
 
     QString EmitFileHeader(const QString& className, bool hasSysVar) override;
     QString EmitFileFooter() override;

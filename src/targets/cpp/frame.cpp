@@ -38,14 +38,14 @@ static const FileHead head{
 
 QString CFxConverterIWAPICPP::EmitFileHeader(const QString& className, bool)
 {
-    IndentLevel += 1;
+    writer.IndentLevel += 1;
     const Template words(head.words().constData());
     return Fill(&words).text(LineEnd).text(className).text(RecordingSheetName);
 }
 
 QString CFxConverterIWAPICPP::EmitFileFooter()
 {
-    IndentLevel -= 1;
+    writer.IndentLevel -= 1;
     static const Template words("    return true;%1}%1%1const iwString &CMacroCommand::GetName() const%1{%1"
                                 "    return m_name;%1}%1");
     return Fill(&words).text(LineEnd);

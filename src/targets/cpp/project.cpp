@@ -2,7 +2,8 @@
 
 #include "targets/LineEnd.h"
 #include "targets/cpp/CFxConverterIWAPICPP.h"
-#include "targets/texts.h"
+#include "targets/projectFiles.h"
+#include "targets/wording.h"
 
 using namespace inkmacro;
 

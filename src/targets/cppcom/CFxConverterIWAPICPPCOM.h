@@ -1,9 +1,9 @@
 #pragma once
 
-#include "targets/PhrasedConverter.h"
+#include "frame/CFxConverterIWAPIImpl.h"
 
 /// C++ through COM: the source of an in-process ATL server whose command repeats the recording, and its project.
-class CFxConverterIWAPICPPCOM final : public PhrasedConverter
+class CFxConverterIWAPICPPCOM final : public CFxConverterIWAPIImpl
 {
 public:
     explicit CFxConverterIWAPICPPCOM(std::uint32_t mode);

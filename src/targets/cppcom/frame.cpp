@@ -154,7 +154,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 
 QString CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool)
 {
-    IndentLevel += 1;
+    writer.IndentLevel += 1;
     const Template words((server + head.words()).constData());
     const QString serverId = QUuid::createUuid().toString();
     return Fill(&words).text(LineEnd).text(className).text(serverId).text(RecordingSheetName);
@@ -162,7 +162,7 @@ QString CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool)
 
 QString CFxConverterIWAPICPPCOM::EmitFileFooter()
 {
-    IndentLevel -= 1;
+    writer.IndentLevel -= 1;
     static const Template words("}%1%1");
     return Fill(&words).text(LineEnd);
 }

@@ -2,7 +2,8 @@
 
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
 #include "targets/cppcom/projectTexts.h"
-#include "targets/texts.h"
+#include "targets/projectFiles.h"
+#include "targets/wording.h"
 
 #include <QUuid>
 
@@ -16,7 +17,7 @@ static QString withoutBraces(const QString& uuid)
     return uuid.mid(1, uuid.size() - 2);
 }
 
-CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(std::uint32_t mode) : PhrasedConverter(Target::CppCom, mode)
+CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(std::uint32_t mode) : CFxConverterIWAPIImpl(Target::CppCom, mode)
 {
     ConnectionClassUuid = QUuid::createUuid().toString();
     TypeLibraryUuid = QUuid::createUuid().toString();

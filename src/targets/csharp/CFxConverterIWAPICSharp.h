@@ -1,12 +1,12 @@
 #pragma once
 
-#include "targets/PhrasedConverter.h"
+#include "frame/CFxConverterIWAPIImpl.h"
 
 /// C#: a class with a `Run`, a start-up program that finds the running application, and a project file.
-class CFxConverterIWAPICSharp final : public PhrasedConverter
+class CFxConverterIWAPICSharp final : public CFxConverterIWAPIImpl
 {
 public:
-    explicit CFxConverterIWAPICSharp(std::uint32_t mode) : PhrasedConverter(inkmacro::Target::CSharp, mode) {}
+    explicit CFxConverterIWAPICSharp(std::uint32_t mode) : CFxConverterIWAPIImpl(inkmacro::Target::CSharp, mode) {}
 
     QString EmitFileHeader(const QString& className, bool hasSysVar) override;
     QString EmitFileFooter() override;

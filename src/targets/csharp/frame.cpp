@@ -41,14 +41,14 @@ QString CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool h
     if (hasSysVar)
         frame.append(optionResult);
 
-    IndentLevel += 3;
+    writer.IndentLevel += 3;
     const Template words(frame.constData());
     return Fill(&words).text(LineEnd).text(className).text(RecordingSheetName);
 }
 
 QString CFxConverterIWAPICSharp::EmitFileFooter()
 {
-    IndentLevel -= 3;
+    writer.IndentLevel -= 3;
     static const Template words("        }%1    }%1}%1");
     return Fill(&words).text(LineEnd);
 }

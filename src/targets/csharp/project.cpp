@@ -3,7 +3,8 @@
 #include "targets/LineEnd.h"
 #include "targets/comReference.h"
 #include "targets/csharp/CFxConverterIWAPICSharp.h"
-#include "targets/texts.h"
+#include "targets/projectFiles.h"
+#include "targets/wording.h"
 
 using namespace inkmacro;
 

@@ -150,14 +150,14 @@ QString CFxConverterIWAPIJavaScript::EmitFileHeader(const QString&, bool)
     if (!RecordingInModel)
         head.append(sheetActivation);
 
-    IndentLevel += 3;
+    writer.IndentLevel += 3;
     const Template words(head.constData());
     return Fill(&words).text(LineEnd).text(RecordingSheetName);
 }
 
 QString CFxConverterIWAPIJavaScript::EmitFileFooter()
 {
-    IndentLevel -= 3;
+    writer.IndentLevel -= 3;
     static const Template words(
         "       }%1   </script>%1   </head>%1   <body>%1   <h2>Recorded Macro</h2>%1   <form name=\"macroform\">%1"
         "       <button type=\"button\" onclick=\"runMacro()\">Run macro</button><br />%1   </form>%1   </body>%1"

@@ -48,7 +48,7 @@ static const FileHead head{
 
 QString CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
 {
-    IndentLevel += 2;
+    writer.IndentLevel += 2;
     const Template words(head.words().constData());
     return Fill(&words).text(LineEnd).text(RecordingSheetName);
 }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "targets/PhrasedConverter.h"
+#include "frame/CFxConverterIWAPIImpl.h"
 
 /// VB.NET: a class with a `Run`, a start-up module that finds the running application, and a project file.
-class CFxConverterIWAPIVbNet final : public PhrasedConverter
+class CFxConverterIWAPIVbNet final : public CFxConverterIWAPIImpl
 {
 public:
-    explicit CFxConverterIWAPIVbNet(std::uint32_t mode) : PhrasedConverter(inkmacro::Target::VbNet, mode) {}
+    explicit CFxConverterIWAPIVbNet(std::uint32_t mode) : CFxConverterIWAPIImpl(inkmacro::Target::VbNet, mode) {}
 
     QString EmitFileHeader(const QString& className, bool hasSysVar) override;
     QString EmitFileFooter() override;

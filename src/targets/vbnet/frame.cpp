@@ -32,7 +32,7 @@ static const FileHead head{
 
 QString CFxConverterIWAPIVbNet::EmitFileHeader(const QString& className, bool)
 {
-    IndentLevel += 2;
+    writer.IndentLevel += 2;
     const Template words(head.words().constData());
     return Fill(&words).text(className).text(LineEnd).text(RecordingSheetName);
 }

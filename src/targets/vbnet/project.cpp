@@ -2,8 +2,9 @@
 
 #include "targets/LineEnd.h"
 #include "targets/comReference.h"
-#include "targets/texts.h"
+#include "targets/projectFiles.h"
 #include "targets/vbnet/CFxConverterIWAPIVbNet.h"
+#include "targets/wording.h"
 
 using namespace inkmacro;
 

@@ -1,4 +1,4 @@
-#include "targets/texts.h"
+#include "targets/wording.h"
 
 #include <QFileInfo>
 #include <QRegExp>

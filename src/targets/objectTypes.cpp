@@ -1,6 +1,10 @@
 // The numbers of object types.
 
-#include "targets/javascript/CFxConverterIWAPIJavaScript.h"
+#include "targets/objectTypes.h"
+
+#include <QHash>
+
+namespace inkmacro {
 
 /// In the order of their numbers. The blank behind the second name belongs to it, so that type is never found.
 static const char* const objectTypes[] = {
@@ -118,13 +122,20 @@ static const char* const objectTypes[] = {
     "iwObjectTypeCount",
 };
 
-std::int32_t CFxConverterIWAPIJavaScript::ObjectTypeValue(const QString& enumerator)
+std::int32_t ObjectTypeValue(const QString& enumerator)
 {
-    if (ObjectTypeMap.isEmpty()) {
-        int number = 0;
+    static const QHash<QString, std::int32_t> numbers = [] {
+        QHash<QString, std::int32_t> made;
         for (const char* const type : objectTypes)
-            ObjectTypeMap.insert(QString::fromLatin1(type), number++);
-    }
-    // A name that is missing is entered with 0.
-    return ObjectTypeMap[enumerator];
+            made.insert(QString::fromLatin1(type), made.size());
+        return made;
+    }();
+    return numbers.value(enumerator, 0);
 }
+
+QString objectTypeWord(Target target, const QString& enumerator)
+{
+    return target == Target::JavaScript ? QString::number(ObjectTypeValue(enumerator)) : enumerator;
+}
+
+} // namespace inkmacro

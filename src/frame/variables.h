@@ -1,0 +1,20 @@
+#pragma once
+
+#include "host/kernel/CFxString.h"
+#include "host/rx/OdRxClass.h"
+
+#include <cstdint>
+
+/// Class and ordinal of an object that the generated code has a variable for.
+struct ActionEntry
+{
+    OdRxClass* cls = nullptr;
+    std::uint32_t ordinal = 0;
+};
+
+/// Type name and object type enumerator of a class, rewritten for C++ when the recording language is 0. kFxFailure for
+/// a class outside the table; the outputs then stay untouched.
+std::int32_t GetApiTypeName(const OdRxClass* cls, CFxString& typeName, CFxString& secondName);
+
+/// Removes what C++ type names end in, wherever it stands.
+void StripPointerSuffixes(CFxString& typeName);

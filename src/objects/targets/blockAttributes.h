@@ -1,0 +1,7 @@
+#pragma once
+
+#include "targets/Writer.h"
+
+/// Sets a property of the block reference's attribute of that tag.
+QString EmitBlockAttributeValue(Writer& writer, const CFxString& variable, const CFxString& property,
+                                const CFxString& tag, const CFxString& value);

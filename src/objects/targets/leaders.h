@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/db/OdGe.h"
+#include "host/rx/OdArray.h"
+#include "targets/Writer.h"
+
+/// What else than a note may stand at a leader's end.
+enum class LeaderAnnotation
+{
+    Tolerance,
+    Block
+};
+
+QString EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const CFxString& text, const CFxString& name);
+QString EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
+                         const CFxString& name);
+/// `text` is the tolerance's text or the block's name.
+QString EmitSetAnnotation(Writer& writer, const CFxString& leader, LeaderAnnotation kind, const CFxString& text);

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "targets/Writer.h"
+
+/// `getter` and `setter` are the host's operations. `axis` is "X", "Y" or "Z"; `index` is -1 for a property that
+/// is not repeated.
+QString EmitChangePoint(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
+                        const CFxString& setter, double value, std::int32_t index);
+/// `local` is "getX", "getY" or "getZ".
+QString EmitChangePosition(Writer& writer, const CFxString& target, const CFxString& local, double value);
+QString EmitChangeFirstPoint(Writer& writer, const CFxString& target, const CFxString& local, double value);
+QString EmitChangeSecondPoint(Writer& writer, const CFxString& target, const CFxString& local, double value);
+QString EmitChangeVertex(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
+                         double value);
+QString EmitChangeVertex2D(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
+                           double value);

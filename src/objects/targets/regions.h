@@ -1,0 +1,7 @@
+#pragma once
+
+#include "targets/Writer.h"
+
+#include <QStringList>
+
+QString EmitInsertRegion(Writer& writer, const CFxString& variable, const QStringList& names, std::uint32_t number);

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "host/db/OdCmColor.h"
+#include "host/db/OdDbObjectId.h"
+#include "targets/Writer.h"
+
+QString EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const CFxString& value,
+                        bool quoted);
+QString EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value);
+QString EmitSetBoolProperty(Writer& writer, const CFxString& target, const CFxString& property, bool value);
+QString EmitSetColor(Writer& writer, const CFxString& target, const CFxString& property, const OdCmColor& color);
+QString EmitSetLayer(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id);
+QString EmitSetLineStyle(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id);
+/// `weight` is in hundredths of a millimetre, -1 by layer, -2 by block.
+QString EmitSetLineWeight(Writer& writer, const CFxString& target, const CFxString& property, int weight);
+QString EmitSetTransparency(Writer& writer, const CFxString& target, const OdCmTransparency& transparency);

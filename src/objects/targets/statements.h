@@ -1,0 +1,5 @@
+#pragma once
+
+#include "targets/Writer.h"
+
+QString EmitObjectModifiedComment(Writer& writer, const CFxString& className);

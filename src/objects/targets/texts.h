@@ -1,0 +1,36 @@
+#pragma once
+
+#include "host/db/OdGe.h"
+#include "targets/Writer.h"
+
+/// What the insertion of an attribute definition takes.
+struct AttributeDefinition
+{
+    CFxString value;
+    CFxString tag;
+    CFxString prompt;
+    OdGePoint3d position;
+    CFxString styleName;
+    CFxString justification; ///< as the property sheet shows it
+    double height;
+    double rotation; ///< radians
+    bool constant;
+    bool invisible;
+    bool preset;
+    bool verify;
+    bool lockPosition;
+};
+
+QString EmitCreateTextStyle(Writer& writer, const CFxString& name, const CFxString& styleName);
+QString EmitLoadShapeFile(Writer& writer, const CFxString& path);
+QString EmitInsertAttributeDefinition(Writer& writer, const AttributeDefinition& definition, const CFxString& name);
+QString EmitInsertSimpleNote(Writer& writer, const OdGePoint3d& position, double height, double rotation,
+                             const CFxString& text, const CFxString& name);
+QString EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
+                       const CFxString& text, const CFxString& name);
+/// `shownText` is the justification as the property sheet shows it, `direction` the number of the chosen item.
+QString EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxString& property,
+                           const CFxString& shownText);
+QString EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction);
+QString EmitInsertCurvedText(Writer& writer, const CFxString& text, const CFxString& arc, const CFxString& name);
+QString EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxString& method, const OdGePoint3d& point);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "host/db/OdGe.h"
+#include "host/rx/OdArray.h"
+#include "targets/Writer.h"
+
+#include <vector>
+
+/// `hasManager`: the selection manager's variable stands already. Raises OdError_InvalidIndex when a selection by
+/// point has none.
+QString EmitSelectEntities(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager);
+QString EmitSelectionFilter(Writer& writer, const OdArray<OdGePoint3d>& points, std::int32_t mode,
+                            const std::vector<CFxString>& typeNames);
