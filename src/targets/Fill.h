@@ -67,11 +67,12 @@ public:
 
     /// Four blanks a level, but one blank at level 0. A level that was lowered below 0 has as many blanks as its
     /// counterpart above: so QString::arg takes a negative width.
-    Fill& indent(unsigned level)
+    static int indentationWidth(unsigned level)
     {
         const int width = static_cast<int>(4 * level);
-        return add(Blanks{width == 0 ? 1 : std::abs(width)});
+        return width == 0 ? 1 : std::abs(width);
     }
+    Fill& indent(unsigned level) { return add(Blanks{indentationWidth(level)}); }
 
     Fill& text(QStringView value);
     Fill& text(QLatin1String value);

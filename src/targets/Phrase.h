@@ -19,6 +19,8 @@ struct Words
     const char* javascript = nullptr;
     const char* vbNet = nullptr;
     const char* vba = nullptr;
+
+    const char* in(Target target) const;
 };
 
 /// One statement in all targets, safe to use from several threads. Phrases have static storage duration; each lists
