@@ -65,7 +65,7 @@ static const Phrase objectElement{"array of objects",
                                       .vba = "%1Set %3(%4) = %5%2",
                                   }};
 
-static const Phrase bareObjectElement{"array of objects",
+static const Phrase bareObjectElement{"array of bare objects",
                                       {
                                           .cpp = "%1%3.add(%4);%2",
                                           .vbNet = "%1%3(%4) = %5%2",
@@ -81,7 +81,7 @@ static const Phrase objectTypeElement{"array of object types",
                                           .vba = "%1%3(%4) = %5%2",
                                       }};
 
-static const Phrase bareObjectTypeElement{"array of object types",
+static const Phrase bareObjectTypeElement{"array of bare object types",
                                           {
                                               .cpp = "%1%3.add(%4);%2",
                                               .vbNet = "%1%3(%4) = %5%2",
@@ -117,15 +117,15 @@ static void putPlace(Fill& line, const ArrayPlace& place, const QString& index)
         line.text(index);
 }
 
-static QString indexWord(const ArrayPlace& place, std::size_t index)
+/// What stands within the brackets of Basic, with the blanks of the place.
+static QString bracketed(const ArrayPlace& place, const QString& text)
 {
-    const QString number = QString::number(index);
-    return isBasic(place.writer.target) && place.brackets == Brackets::Spaced ? ' ' + number + ' ' : number;
+    return isBasic(place.writer.target) && place.brackets == Brackets::Spaced ? ' ' + text + ' ' : text;
 }
 
 static QString elementLine(const Phrase& phrase, const ArrayPlace& place, std::size_t index, const QString& word)
 {
-    const QString indexText = indexWord(place, index);
+    const QString indexText = bracketed(place, QString::number(index));
     Fill line(phrase.in(place.writer.target));
     putPlace(line, place, indexText);
     return line.text(word);
@@ -145,8 +145,16 @@ static QString elementLines(const Phrase& phrase, const char* comType, const Arr
     return lines;
 }
 
-QString objectLines(const ArrayPlace& place, const std::vector<QString>& words)
+/// An object as an element has it: .NET's wrapper has brackets too.
+static QString objectWord(const ArrayPlace& place, const QString& word)
 {
+    return place.writer.target == Target::VbNet ? bracketed(place, word) : word;
+}
+
+QString objectLines(const ArrayPlace& place, std::vector<QString> words)
+{
+    for (QString& word : words)
+        word = objectWord(place, word);
     return elementLines(objectElement, "IDispatch*", place, words);
 }
 
@@ -172,7 +180,7 @@ static QString singleLine(const Phrase& phrase, const ArrayPlace& place, std::si
 
 QString objectLine(const ArrayPlace& place, std::size_t index, const QString& word)
 {
-    return singleLine(objectElement, place, index, word);
+    return singleLine(objectElement, place, index, objectWord(place, word));
 }
 
 QString bareObjectLine(const ArrayPlace& place, std::size_t index, const QString& word)

@@ -44,7 +44,7 @@ struct ArrayPlace
     Writer& writer;
     QString name;         ///< in this target, its number included
     std::uint32_t number; ///< of the locals that COM needs: two fillings with one number cannot stand in a block
-    Brackets brackets;    ///< around an index in Basic
+    Brackets brackets;    ///< of Basic
     QString indentation;  ///< of the writer's level
     QString lineEnd;
 };
@@ -55,7 +55,7 @@ QString numberedName(const inkmacro::Words& names, inkmacro::Target target, std:
 // All elements of an array, in C++ COM with the locals that it takes to put them in.
 
 /// `words` are variables or expressions.
-QString objectLines(const ArrayPlace& place, const std::vector<QString>& words);
+QString objectLines(const ArrayPlace& place, std::vector<QString> words);
 /// `words` as objectTypeWord makes them, or variables.
 QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words);
 QString integerLines(const ArrayPlace& place, const std::vector<int>& values);

@@ -8,22 +8,21 @@
 using namespace inkmacro;
 
 /// C# and JavaScript list the elements where they declare the arrays.
-static const Phrase listedElement{"EmitPromptSelection",
+static const Phrase listedElement{"EmitPromptSelection: listed element",
                                   {
                                       .csharp = "%1%3,%2",
                                       .javascript = "%1%3,%2",
                                   }};
 
-/// C++ looks an object up in front of each line that puts in what was found.
-static const Phrase lookUp{"EmitPromptSelection",
+/// C++ cannot look an object up within an expression: it does so in front of each line, into locals.
+static const Phrase lookUp{"EmitPromptSelection: look-up",
                            {
                                .cpp = "%1iwDoc->GetObjectByHandle(L\"%3\", &type%4, &object%4);%2",
                            }};
 
 static const Phrase findType{
-    "EmitPromptSelection",
+    "EmitPromptSelection: looked-up word",
     {
-        .cpp = "type%2",
         .cppCom = "pConnection->m_IwApp->GetObjectType(pConnection->m_IwApp->GetActiveDocument()->"
                   "GetObjectByHandle(L\"%1\", &type%2))",
         .csharp = "iwApp.GetObjectType(iwApp.GetActiveDocument().GetObjectByHandle(\"%1\", out type%2))",
@@ -33,9 +32,8 @@ static const Phrase findType{
     }};
 
 static const Phrase findObject{
-    "EmitPromptSelection",
+    "EmitPromptSelection: looked-up word",
     {
-        .cpp = "object%2",
         .cppCom = "pConnection->m_IwApp->GetActiveDocument()->GetObjectByHandle(L\"%1\", &type%2)",
         .csharp = "iwApp.GetActiveDocument().GetObjectByHandle(\"%1\", out type%2)",
         .javascript = "mDoc.GetObjectByHandle(\"%1\").DispObj",
@@ -124,11 +122,12 @@ QString EmitPromptSelection(Writer& writer, const EntityList& entities)
     for (std::size_t i = 0; i < entities.size(); ++i) {
         const auto& [name, type, handle] = entities[i];
         const bool known = !name.isEmpty() && !type.isEmpty();
-        const auto found = [&](const Phrase& phrase) {
-            return Fill(phrase.in(writer.target)).text(handle).number(number).str();
+        const auto found = [&, &handle = handle](const Phrase& phrase, const char* local) {
+            return phrase.has(writer.target) ? Fill(phrase.in(writer.target)).text(handle).number(number).str()
+                                             : local + QString::number(number);
         };
-        types.push_back(known ? enumeratorText(writer.target, "iwObjectType_e", type) : found(findType));
-        names.push_back(known ? name.toQString() : found(findObject));
+        types.push_back(known ? enumeratorText(writer.target, "iwObjectType_e", type) : found(findType, "type"));
+        names.push_back(known ? name.toQString() : found(findObject, "object"));
         const QString search = known ? QString() : writer.fill(lookUp).text(handle).number(number).str();
         typeLines += search + bareObjectTypeLine(typePlace, i, types.back()) +
                      writer.fill(listedElement).text(types.back()).str();
