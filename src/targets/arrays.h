@@ -59,14 +59,15 @@ QString objectLines(const ArrayPlace& place, std::vector<QString> words);
 /// `words` as objectTypeWord makes them, or variables.
 QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words);
 QString integerLines(const ArrayPlace& place, const std::vector<int>& values);
+QString realLines(const ArrayPlace& place, const std::vector<double>& values, NumberForm numbers);
 /// All coordinates of a point are written together. Empty in C# and JavaScript, which take lists.
 QString pointLines(const ArrayPlace& place, const Coordinates& coordinates, NumberForm numbers);
 
 /// The coordinates with commas between them.
 QString coordinateList(const Coordinates& coordinates, NumberForm numbers);
 
-// Single elements, for arrays that are filled between other lines. Empty in C++ COM, which has a line of all elements
-// only.
+// Single elements, for arrays that are filled between other lines. Empty in C++ COM, where locals come in front of them
+// all.
 
 QString objectLine(const ArrayPlace& place, std::size_t index, const QString& word);
 /// Of an array of objects without wrappers, which is none of .NET's.
@@ -86,7 +87,8 @@ QString inOwnGroup(ArrayPlace place, const Filling& filling)
 {
     StatementGroup group(place.writer);
     place.indentation = place.writer.indentation();
-    return group.begin() + filling(place) + group.close();
+    const QString lines = filling(place);
+    return group.begin() + lines + group.close();
 }
 
 /// A list as an argument of a call, in the form of the target: JavaScript has an array made in front of the call, C# a
