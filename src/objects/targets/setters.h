@@ -8,6 +8,14 @@ QString EmitSetProperty(Writer& writer, const CFxString& target, const CFxString
                         bool quoted);
 QString EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value);
 QString EmitSetBoolProperty(Writer& writer, const CFxString& target, const CFxString& property, bool value);
+QString EmitSetIndexedDouble(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t index,
+                             double value);
+/// The enumerator is told by the text that the property sheet shows.
+QString EmitSetEnumProperty(Writer& writer, const CFxString& target, const char* enumeration, const CFxString& property,
+                            const CFxString& shownText);
+/// The enumerator is told by the number that the drawing or the recording has for it.
+QString EmitSetEnumValue(Writer& writer, const CFxString& target, const char* enumeration, const CFxString& property,
+                         std::int32_t value);
 QString EmitSetColor(Writer& writer, const CFxString& target, const CFxString& property, const OdCmColor& color);
 QString EmitSetLayer(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id);
 QString EmitSetLineStyle(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id);
