@@ -55,6 +55,8 @@ std::int32_t CFxConverterIWAPIObject::ConvertPropertyChanged(CFxPropertyChangedP
     if (!action)
         return kFxFailure;
     const OdRxClass* const cls = action->GetObjectClass();
+    if (!cls)
+        return kFxFailure;
     const OdDbHandle handle = action->GetHandle();
     PropertyList list{std::move(action)};
     return ConvertObjectChanges(cls, handle, list, false, text) == kFxSuccess ? kFxSuccess : kFxFailure;
