@@ -2,7 +2,7 @@
 
 #include "objects/targets/texts.h"
 
-#include "objects/targets/geometrySetters.h"
+#include "objects/targets/setters.h"
 #include "targets/enumerations.h"
 #include "targets/wording.h"
 
@@ -172,7 +172,7 @@ QString EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxStr
 
 QString EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction)
 {
-    return setEnumerator(writer, target, property, EnumeratorByValue(writer.target, enums::noteDirection, direction));
+    return EmitSetEnumValue(writer, target, enums::noteDirection, property, direction);
 }
 
 static const Phrase insertCurvedText{"EmitInsertCurvedText",
