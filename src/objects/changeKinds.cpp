@@ -4,7 +4,7 @@
 
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/dimensionOptions.h"
-#include "objects/targets/pointChanges.h"
+#include "objects/targets/points.h"
 #include "objects/targets/setters.h"
 #include "targets/wording.h"
 

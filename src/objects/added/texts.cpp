@@ -4,6 +4,7 @@
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
+#include "objects/targets/points.h"
 #include "objects/targets/setters.h"
 #include "targets/wording.h"
 

@@ -6,13 +6,12 @@
 /// from its owner into a variable of its own.
 struct OptionObject
 {
-    const OptionObject* owner;
-    const char* hostWord;   ///< its type; the host gets it by "Get" in front of that
-    const char* stem;       ///< of its variables
-    bool qualified = false; ///< C# writes the type with its library in front
+    const OptionObject* owner; ///< null for one of the changed object itself
+    const char* hostWord;      ///< its type; the host gets it by "Get" in front of that
+    const char* stem;          ///< its variables' names without the number
+    bool qualified = false;    ///< C# writes the type with its library in front
 };
 
-/// Of the dimension itself, which is no option object and has the null owner.
 inline constexpr OptionObject generalDimension{nullptr, "GeneralDimension", "generalDimension"};
 
 /// Of leaders and tolerances.
@@ -26,7 +25,7 @@ inline constexpr OptionObject text{&userData, "DimensionStyleTextOptions", "text
 
 } // namespace leaderOptions
 
-/// Fetches the object from the variable `owner` and names its variable.
+/// Fetches the object from the variable `owner` and gives its variable.
 QString EmitGetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, CFxString& options);
 /// `arrow` is the drawing's number of a kind of arrow.
 QString EmitSetLeaderArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow);

@@ -189,18 +189,3 @@ QString EmitInsertCurvedText(Writer& writer, const CFxString& text, const CFxStr
 {
     return writer.fill(insertCurvedText).text(text).text(arc).text(name);
 }
-
-static const Phrase callWithPoint{"EmitCallWithPoint",
-                                  {
-                                      .cpp = "%1%3->%4( %5, %6, %7 );%2",
-                                      .cppCom = "%1%3->%4( %5, %6, %7 );%2",
-                                      .csharp = "%1%3.%4( %5, %6, %7 );%2",
-                                      .javascript = "%1%3.%4(%5, %6, %7);%2",
-                                      .vbNet = "%1%3.%4( %5, %6, %7 )%2",
-                                      .vba = "%1%3.%4 %5, %6, %7%2",
-                                  }};
-
-QString EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxString& method, const OdGePoint3d& point)
-{
-    return writer.fill(callWithPoint).text(target).text(method).point(point);
-}
