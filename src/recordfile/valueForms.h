@@ -50,4 +50,12 @@ struct Form<OdResBufPtr>
     static QJsonObject schema(SchemaDefinitions& definitions);
 };
 
+/// A chain of any length; null for one without elements. Written as a list.
+struct ResBufListForm
+{
+    static OdResBufPtr read(const Json& json);
+    static void write(JsonOut& out, const OdResBufPtr& first);
+    static QJsonObject schema(SchemaDefinitions& definitions);
+};
+
 } // namespace inkmacro::recordfile
