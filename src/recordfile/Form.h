@@ -62,7 +62,7 @@ constexpr auto required(std::string_view name, const char* meaning)
                      F::schema};
 }
 
-/// A key that may be absent, and is not written when the member is what it would be without the key.
+/// A key that may be absent, and is left out when the member is what it would be without the key.
 template<auto Member, class F = Form<typename MemberOf<decltype(Member)>::Type>>
 constexpr auto optional(std::string_view name, const char* meaning)
 {
@@ -73,7 +73,7 @@ constexpr auto optional(std::string_view name, const char* meaning)
         if constexpr (isOptional<typename MemberOf<decltype(Member)>::Type>) {
             if (!(body.*Member).has_value())
                 return;
-        } else if (body.*Member == Body().*Member) {
+        } else if (out.neutralKeys == NeutralKeys::LeaveOut && body.*Member == Body().*Member) {
             return;
         }
         out.key(key);

@@ -208,6 +208,14 @@ static_assert(dataChoices.size() == std::variant_size_v<Data::Value>);
 
 } // namespace
 
+std::string_view dataType(const CFxCustomActionData& data)
+{
+    for (const Choice<Data>& choice : dataChoices)
+        if (choice.holds(data))
+            return choice.key;
+    return {};
+}
+
 CFxCustomActionData Form<CFxCustomActionData>::read(const Json& json)
 {
     static const auto keys = keysOf(std::span<const Choice<Data>>(dataChoices));
@@ -304,7 +312,7 @@ void writeElement(JsonOut& out, const OdResBuf& element)
     for (std::size_t i = 0; i < bufferChoices.size(); ++i) {
         if (!bufferChoices[i].holds(element.value()))
             continue;
-        if (element.restype() != defaultTypes[i]) {
+        if (out.neutralKeys == NeutralKeys::Write || element.restype() != defaultTypes[i]) {
             out.key(kTypeKey);
             TypeForm::write(out, element.restype());
         }

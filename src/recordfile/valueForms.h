@@ -41,6 +41,9 @@ struct Form<CFxCustomActionData>
     static QJsonObject schema(SchemaDefinitions& definitions);
 };
 
+/// The key that stands for the type.
+std::string_view dataType(const CFxCustomActionData& data);
+
 /// A chain of one or more elements.
 template<>
 struct Form<OdResBufPtr>
