@@ -113,7 +113,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionActivate(OdSmartPtr<CFxCustomAc
     if (objects.empty() || classes.empty())
         throw OdError_InvalidIndex();
     CFxString name;
-    text += Objects().ObjectVariable(objects.front(), const_cast<OdRxClass*>(classes.front()), name);
+    text += Objects().ObjectVariable(objects.front(), classes.front(), name);
     text += EmitActivate(writer, name);
     return kFxSuccess;
 }
@@ -127,7 +127,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionViewport(OdSmartPtr<CFxCustomAc
     CFxString name = text;
     if (name.isEmpty()) {
         const OdDbHandle handle = action->GetData(3).GetHandle();
-        OdRxClass* const cls = const_cast<OdRxClass*>(action->GetData(4).GetClass());
+        const OdRxClass* const cls = action->GetData(4).GetClass();
         if (!cls || !IsSupportedClass(cls->name()))
             return kFxSuccess;
         RegisterObject(handle, cls);
@@ -152,7 +152,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionJoin(OdSmartPtr<CFxCustomAction
     if (action->GetKind() != kJoin)
         return kFxFailure;
     const auto variable = [&](std::int32_t index, CFxString& name) {
-        OdRxClass* const cls = const_cast<OdRxClass*>(action->GetData(index + 1).GetClass());
+        const OdRxClass* const cls = action->GetData(index + 1).GetClass();
         return Objects().ObjectVariable(action->GetData(index).GetHandle(), cls, name);
     };
     text.clear();
@@ -179,7 +179,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionExplode(OdSmartPtr<CFxCustomAct
         if (GetApiTypeName(classes[i], type, second) != kFxSuccess)
             continue;
         CFxString name;
-        text += Objects().ObjectVariable(objects[i], const_cast<OdRxClass*>(classes[i]), name);
+        text += Objects().ObjectVariable(objects[i], classes[i], name);
         text += EmitExplode(writer, name);
     }
     return kFxSuccess;

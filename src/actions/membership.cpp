@@ -11,8 +11,8 @@
 
 /// A note that a leader owns is reached through its leader, which also declares the note's variable. So the statement
 /// that fetches the note itself is dropped, and the leader's is not.
-QString CFxConverterIWAPIImpl::NoteOfLeader(const OdDbHandle& note, OdRxClass* noteClass, const OdDbObjectId& leader,
-                                            CFxString& name)
+QString CFxConverterIWAPIImpl::NoteOfLeader(const OdDbHandle& note, const OdRxClass* noteClass,
+                                            const OdDbObjectId& leader, CFxString& name)
 {
     const OdDbObjectPtr object = leader.openObject();
     CFxString leaderName;
@@ -35,7 +35,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionErase(OdSmartPtr<CFxCustomActio
         CFxString second;
         if (GetApiTypeName(classes[i], names[i], second) != kFxSuccess)
             continue;
-        OdRxClass* const cls = const_cast<OdRxClass*>(classes[i]);
+        const OdRxClass* const cls = classes[i];
         OdDbObjectId leader;
         if (cls == OdDbMText::desc())
             GetNoteLeader(leader, objects[i]);

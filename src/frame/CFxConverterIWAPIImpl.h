@@ -89,7 +89,7 @@ public:
     /// The variable's name, or empty text for a class outside the type table.
     CFxString VariableName(const ActionEntry& entry) const;
     /// The next ordinal, noted under the handle. An object that is met again under its handle gets a new variable.
-    ActionEntry RegisterObject(const OdDbHandle& handle, OdRxClass* cls);
+    ActionEntry RegisterObject(const OdDbHandle& handle, const OdRxClass* cls);
 
     /// `hasSysVar`: a system variable changed at the recording's top level.
     virtual QString EmitFileHeader(const QString& className, bool hasSysVar) = 0;
@@ -119,7 +119,8 @@ private:
     std::int32_t ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text);
     CFxConverterIWAPIObject& Objects() const;
     EntityList EntitiesOf(const CFxCustomAction& action) const;
-    QString NoteOfLeader(const OdDbHandle& note, OdRxClass* noteClass, const OdDbObjectId& leader, CFxString& name);
+    QString NoteOfLeader(const OdDbHandle& note, const OdRxClass* noteClass, const OdDbObjectId& leader,
+                         CFxString& name);
     /// The entry of the group of that name, or null for a group that the generated code does not know.
     const ActionEntry* FindGroup(const CFxString& groupName, OdDbHandle& handle) const;
     using EmitGroupChange = QString (*)(Writer&, const std::vector<CFxString>&, const CFxString&);

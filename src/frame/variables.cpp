@@ -63,7 +63,7 @@ const ActionEntry* CFxConverterIWAPIImpl::FindEntry(const OdDbHandle& handle) co
     return found == ObjectVariableMap.end() ? nullptr : &found->second;
 }
 
-ActionEntry CFxConverterIWAPIImpl::RegisterObject(const OdDbHandle& handle, OdRxClass* cls)
+ActionEntry CFxConverterIWAPIImpl::RegisterObject(const OdDbHandle& handle, const OdRxClass* cls)
 {
     return ObjectVariableMap[handle] = ActionEntry{cls, ++objectCounter};
 }
@@ -106,7 +106,7 @@ void CFxConverterIWAPIImpl::ResolveVariables(std::vector<CFxString>& names, cons
     names.assign(objects.size(), {});
     for (std::size_t i = 0; i < objects.size(); ++i)
         if (const ActionEntry* const entry = FindEntry(objects[i]))
-            names[i] = VariableName({const_cast<OdRxClass*>(classes[i]), entry->ordinal});
+            names[i] = VariableName({classes[i], entry->ordinal});
 }
 
 /// Takes the suffixes off after the number was put on, and only the one of smart pointers: in C++ a region or a view

@@ -101,12 +101,12 @@ public:
 
     /// Gives the object's variable. Where the recording has not made it, the statement fetches the object into a new
     /// variable, which is not remembered; else it is empty. A class without an interface leaves the name as it was.
-    QString ObjectVariable(const OdDbHandle& handle, OdRxClass* cls, CFxString& name);
+    QString ObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
 
 private:
     /// The id of the object in the active drawing; null without one.
     static OdDbObjectId IdOf(const OdDbHandle& handle);
-    CFxString ObjectVariableName(OdRxClass* cls, const OdDbObjectId& id, std::uint32_t ordinal) const;
+    CFxString ObjectVariableName(const OdRxClass* cls, const OdDbObjectId& id, std::uint32_t ordinal) const;
 
     /// What records are compared with when a tag is looked for.
     struct TagWords

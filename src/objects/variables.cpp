@@ -12,7 +12,7 @@ OdDbObjectId CFxConverterIWAPIObject::IdOf(const OdDbHandle& handle)
     return ACTIVE_DOCUMENT ? ACTIVE_DOCUMENT->GetDatabase()->getOdDbObjectId(handle) : OdDbObjectId();
 }
 
-CFxString CFxConverterIWAPIObject::ObjectVariableName(OdRxClass* cls, const OdDbObjectId& id,
+CFxString CFxConverterIWAPIObject::ObjectVariableName(const OdRxClass* cls, const OdDbObjectId& id,
                                                       std::uint32_t ordinal) const
 {
     CFxString type;
@@ -27,7 +27,7 @@ CFxString CFxConverterIWAPIObject::ObjectVariableName(OdRxClass* cls, const OdDb
     return CFxString(type.toQString() + QString::number(ordinal));
 }
 
-QString CFxConverterIWAPIObject::ObjectVariable(const OdDbHandle& handle, OdRxClass* cls, CFxString& name)
+QString CFxConverterIWAPIObject::ObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
 {
     CFxString type;
     CFxString second;
