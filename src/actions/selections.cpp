@@ -1,10 +1,13 @@
 // Selections: at a prompt, by points, and through a filter.
 
 #include "targets/selections.h"
-#include "actions/CustomActionKind.h"
+#include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "targets/apiTypes.h"
 #include "targets/selectionPrompts.h"
+
+using inkmacro::HandedVariable;
+using inkmacro::takeVariable;
 
 std::int32_t CFxConverterIWAPIImpl::ConvertSelection(OdSmartPtr<CFxUserSelection> selection, QString& text)
 {
@@ -33,8 +36,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertSelection(OdSmartPtr<CFxUserSelection
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionSelect(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    if (action->GetKind() != kSelect)
-        return kFxFailure;
+    takeVariable(text, HandedVariable::AppendedTo);
     for (std::int32_t i = 0; i + 1 < action->GetDataCount(); i += 2)
         text += EmitSelectEntities(writer, action->GetData(i).GetInt(), action->GetData(i + 1).GetPointArray(), false);
     return kFxSuccess;
@@ -42,8 +44,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionSelect(OdSmartPtr<CFxCustomActi
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionSelectionFilter(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    if (action->GetKind() != kSelectionFilter)
-        return kFxFailure;
+    takeVariable(text, HandedVariable::AppendedTo);
     std::vector<CFxString> typeNames;
     OdArray<OdGePoint3d> points;
     std::int32_t mode = 0;

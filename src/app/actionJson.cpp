@@ -2,6 +2,8 @@
 
 #include "app/actionJson.h"
 
+#include "actions/kinds.h"
+
 #include <QJsonArray>
 
 #include <array>
@@ -15,65 +17,6 @@ const std::array interactionKinds{"point",  "angle",   "distance", "orient",  "c
 
 const std::array dataTypes{"int16",   "double",  "string", "bool",   "strings", "int",     "color", "handle",   "class",
                            "handles", "classes", "point",  "points", "vector",  "doubles", "ints",  "points2d", "ids"};
-
-/// What a command's own report is about, by its kind; null where the host has none.
-const std::array customKinds{"mirror",
-                             "stretch",
-                             "copy",
-                             "move",
-                             "rotate",
-                             "scale",
-                             "trim",
-                             "extend",
-                             "fillet",
-                             "chamfer",
-                             "select",
-                             "selection filter",
-                             "coordinate system",
-                             "sheet",
-                             "named view",
-                             "embedded object",
-                             "polyline",
-                             "erase",
-                             "insert hatch",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             static_cast<const char*>(nullptr),
-                             static_cast<const char*>(nullptr),
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "option value",
-                             "interface file",
-                             "system file",
-                             "drawing support file",
-                             "group add",
-                             "group remove",
-                             "attribute value",
-                             "polyline edit",
-                             "view background",
-                             "polyline vertex",
-                             "zoom",
-                             "region",
-                             "activate",
-                             "viewport",
-                             "print style",
-                             "clip boundary",
-                             "view tiles",
-                             "join",
-                             static_cast<const char*>(nullptr),
-                             static_cast<const char*>(nullptr),
-                             static_cast<const char*>(nullptr),
-                             static_cast<const char*>(nullptr),
-                             "explode"};
-static_assert(customKinds.size() == 56);
 
 template<class Object>
 QString className(const Object& object)
@@ -257,8 +200,8 @@ QJsonObject customBody(const CFxCustomAction& custom)
         types.append(dataTypes.at(custom.GetData(i).GetType()));
     QJsonObject body{{"kind", custom.GetKind()}, {"data", types}};
     const auto kind = static_cast<std::size_t>(custom.GetKind());
-    if (kind < customKinds.size() && customKinds[kind])
-        body["name"] = customKinds[kind];
+    if (kind < actionKindNames.size() && actionKindNames[kind])
+        body["name"] = actionKindNames[kind];
     return body;
 }
 

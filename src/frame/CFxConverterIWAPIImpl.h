@@ -33,11 +33,6 @@ public:
     std::int32_t ConvertSelection(OdSmartPtr<CFxUserSelection> selection, QString& text);
     std::int32_t ConvertCustomAction(OdSmartPtr<CFxCustomAction> action, QString& text);
 
-    // File locations: src/actions/fileLocations.cpp.
-    std::int32_t ConvertActionInterfaceFile(OdSmartPtr<CFxCustomAction> action, QString& text);
-    std::int32_t ConvertActionSystemFile(OdSmartPtr<CFxCustomAction> action, QString& text);
-    std::int32_t ConvertActionDrawingSupportFile(OdSmartPtr<CFxCustomAction> action, QString& text);
-
     // Options of system variables: src/actions/sysvars.cpp.
 
     /// Enumerator and kind (an OptionKind's number) of the document's option for a system variable. kFxFailure for a
@@ -46,8 +41,8 @@ public:
     /// The same of the application's option.
     std::int32_t FindApplicationOption(const CFxString& variable, CFxString& enumerator, std::int32_t& kind) const;
 
-    // One handler a kind of custom action, or a few kinds: src/actions. A handler that is given another kind gives
-    // kFxFailure.
+    // The handlers of custom actions: src/actions. They are given what their row of the kinds' table lets through, and
+    // look at neither the kind nor the form of the data once more.
     std::int32_t ConvertActionMirror(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionStretch(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionCopy(OdSmartPtr<CFxCustomAction> action, QString& text);
@@ -58,9 +53,11 @@ public:
     std::int32_t ConvertActionSelectionFilter(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionEmbeddedObject(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionErase(OdSmartPtr<CFxCustomAction> action, QString& text);
-    /// The one handler that does not look at the kind: its kinds differ in their first element alone.
     std::int32_t ConvertActionElementColor(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionOptionValue(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionInterfaceFile(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionSystemFile(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionDrawingSupportFile(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionGroupAdd(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionGroupRemove(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionAttributeValue(OdSmartPtr<CFxCustomAction> action, QString& text);

@@ -1,6 +1,6 @@
 // The children of a command as one block.
 
-#include "actions/CustomActionKind.h"
+#include "actions/kinds.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
@@ -115,13 +115,13 @@ void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, Comm
             const std::int32_t kind = custom->GetKind();
             if (!state.names.empty())
                 current = state.names.back();
-            if (kind == kViewBackground) {
+            if (kind == inkmacro::kViewBackground) {
                 // Backgrounds and objects pair up in order; a surplus background stays with the last object.
                 if (state.names.size() > 1 && state.nextName < state.names.size())
                     current = state.names[state.nextName++];
                 state.unnamedTarget = current.isEmpty();
             }
-            if (kind == kPolyline || kind == kViewport) {
+            if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport) {
                 state.noBlock = true;
                 --writer.IndentLevel;
             }
