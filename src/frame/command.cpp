@@ -83,7 +83,7 @@ void CFxConverterIWAPIImpl::RegisterChildren(const CFxActionArray& children, Com
             continue;
         OdRxClass* const cls = added->GetObjectClass();
         Objects();
-        if (!IsSupportedClass(cls->name()))
+        if (!cls || !IsSupportedClass(cls->name()))
             continue;
         if (cls == OdDbMText::desc()) {
             OdDbObjectId leader;
