@@ -68,23 +68,26 @@ public:
     std::int32_t ConvertActionJoin(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionExplode(OdSmartPtr<CFxCustomAction> action, QString& text);
 
-    // Variables of the generated code: variables.cpp.
+    // Variables of the generated code: variables.cpp. Naming one neither registers an object nor writes a statement
+    // that fetches it; that is CFxConverterIWAPIObject::ObjectVariable.
 
     /// The leader that owns the note of that handle, else the null id. Raises OdError_NotThatKindOfClass when the
     /// handle is another object's.
     void GetNoteLeader(OdDbObjectId& leader, const OdDbHandle& handle) const;
-    /// One element a handle: the variable (empty for an object that the generated code does not know), the object type
-    /// enumerator, the handle's text.
+    /// One element a handle: its name as ResolveVariables gives it, the object type enumerator (empty where the name
+    /// is), the handle's text.
     void ResolveNames(std::vector<CFxString>& names, std::vector<CFxString>& types, std::vector<CFxString>& handles,
                       const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray) const;
+    /// One element a handle: the name that the object is declared by, with the class that is told here; empty for an
+    /// object that the generated code does not know.
     void ResolveVariables(std::vector<CFxString>& names, const CFxCustomActionData& handleArray,
                           const CFxCustomActionData& classArray) const;
-    /// The variable of one object, or the name as it was.
+    /// One object's name, or the name as it was. Spelled another way than the declared name: see there.
     void ResolveVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) const;
     /// The entry of that handle or null.
     const ActionEntry* FindEntry(const OdDbHandle& handle) const;
-    /// The variable's name, or empty text for a class outside the type table.
-    CFxString VariableName(const ActionEntry& entry) const;
+    /// The name that a declaration gives the entry; empty for a class outside the type table. Looks nothing up.
+    CFxString DeclaredName(const ActionEntry& entry) const;
     /// The next ordinal, noted under the handle. An object that is met again under its handle gets a new variable.
     ActionEntry RegisterObject(const OdDbHandle& handle, const OdRxClass* cls);
 

@@ -101,7 +101,7 @@ void CFxConverterIWAPIImpl::DeclareChildren(CommandState& state)
         state.prefix += EmitVariableDeclaration(writer, entry);
         if (!isFinishedByCustomAction(entry.cls->name()))
             continue;
-        const CFxString name = VariableName(entry);
+        const CFxString name = DeclaredName(entry);
         if (!name.isEmpty())
             state.names.push_back(name);
     }

@@ -68,7 +68,7 @@ ActionEntry CFxConverterIWAPIImpl::RegisterObject(const OdDbHandle& handle, cons
     return ObjectVariableMap[handle] = ActionEntry{cls, ++objectCounter};
 }
 
-CFxString CFxConverterIWAPIImpl::VariableName(const ActionEntry& entry) const
+CFxString CFxConverterIWAPIImpl::DeclaredName(const ActionEntry& entry) const
 {
     CFxString type;
     CFxString second;
@@ -106,7 +106,7 @@ void CFxConverterIWAPIImpl::ResolveVariables(std::vector<CFxString>& names, cons
     names.assign(objects.size(), {});
     for (std::size_t i = 0; i < objects.size(); ++i)
         if (const ActionEntry* const entry = FindEntry(objects[i]))
-            names[i] = VariableName({classes[i], entry->ordinal});
+            names[i] = DeclaredName({classes[i], entry->ordinal});
 }
 
 /// Takes the suffixes off after the number was put on, and only the one of smart pointers: in C++ a region or a view
