@@ -10,6 +10,7 @@
 #include <map>
 
 class CFxConverterIWAPIObject;
+class StatementGroup;
 struct FileObject;
 
 /// The walk over a recording and everything else that is the same for all targets. Knows no target: the words come
@@ -114,7 +115,7 @@ private:
     std::int32_t ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action);
     void RegisterChildren(const CFxActionArray& children, CommandState& state);
     void DeclareChildren(CommandState& state);
-    void ConvertChildren(const CFxActionArray& children, CommandState& state);
+    void ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group);
     std::int32_t ConvertFileLocation(const FileObject& files, const CFxCustomAction& action, QString& text);
     std::int32_t ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text);
     CFxConverterIWAPIObject& Objects() const;
