@@ -29,15 +29,12 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionErase(OdSmartPtr<CFxCustomActio
     takeVariable(text, HandedVariable::AppendedTo);
     const std::vector<OdDbHandle>& objects = action->GetData(0).GetHandleArray();
     const std::vector<const OdRxClass*>& classes = action->GetData(1).GetClassArray();
-    if (classes.size() < objects.size())
-        throw OdError_InvalidIndex();
-
     std::vector<CFxString> names(objects.size());
     for (std::size_t i = 0; i < objects.size(); ++i) {
+        const OdRxClass* const cls = ClassAt(classes, i);
         CFxString second;
-        if (GetApiTypeName(classes[i], names[i], second) != kFxSuccess)
+        if (GetApiTypeName(cls, names[i], second) != kFxSuccess)
             continue;
-        const OdRxClass* const cls = classes[i];
         OdDbObjectId leader;
         if (cls == OdDbMText::desc())
             GetNoteLeader(leader, objects[i]);
@@ -69,11 +66,11 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionActivate(OdSmartPtr<CFxCustomAc
 {
     takeVariable(text, HandedVariable::AppendedTo);
     const std::vector<OdDbHandle>& objects = action->GetData(0).GetHandleArray();
-    const std::vector<const OdRxClass*>& classes = action->GetData(1).GetClassArray();
-    if (objects.empty() || classes.empty())
+    const OdRxClass* const cls = ClassAt(action->GetData(1).GetClassArray(), 0);
+    if (objects.empty())
         throw OdError_InvalidIndex();
     CFxString name;
-    text += Objects().ObjectVariable(objects.front(), classes.front(), name);
+    text += Objects().ObjectVariable(objects.front(), cls, name);
     text += EmitActivate(writer, name);
     return kFxSuccess;
 }
@@ -98,15 +95,14 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionExplode(OdSmartPtr<CFxCustomAct
     takeVariable(text, HandedVariable::Replaced);
     const std::vector<OdDbHandle>& objects = action->GetData(0).GetHandleArray();
     const std::vector<const OdRxClass*>& classes = action->GetData(1).GetClassArray();
-    if (classes.size() < objects.size())
-        throw OdError_InvalidIndex();
     for (std::size_t i = 0; i < objects.size(); ++i) {
+        const OdRxClass* const cls = ClassAt(classes, i);
         CFxString type;
         CFxString second;
-        if (GetApiTypeName(classes[i], type, second) != kFxSuccess)
+        if (GetApiTypeName(cls, type, second) != kFxSuccess)
             continue;
         CFxString name;
-        text += Objects().ObjectVariable(objects[i], classes[i], name);
+        text += Objects().ObjectVariable(objects[i], cls, name);
         text += EmitExplode(writer, name);
     }
     return kFxSuccess;

@@ -13,18 +13,17 @@ std::int32_t CFxConverterIWAPIImpl::ConvertSelection(OdSmartPtr<CFxUserSelection
 {
     const std::vector<OdDbHandle>& objects = selection->GetHandles();
     const std::vector<const OdRxClass*>& classes = selection->GetClasses();
-    if (classes.size() < objects.size())
-        throw OdError_InvalidIndex();
-
     EntityList entities;
     for (std::size_t i = 0; i < objects.size(); ++i) {
         CFxString name;
         CFxString type;
         CFxString enumerator;
+        // The class of an object that the generated code does not know is not asked for.
+        const OdRxClass* const cls = FindEntry(objects[i]) ? ClassAt(classes, i) : nullptr;
         // The name comes by the way that leaves the suffix of raw pointers in.
-        ResolveVariable(objects[i], classes[i], name);
+        ResolveVariable(objects[i], cls, name);
         if (!name.isEmpty())
-            GetApiTypeName(classes[i], type, enumerator);
+            GetApiTypeName(cls, type, enumerator);
         entities.names.push_back(name);
         entities.types.push_back(enumerator);
         entities.handles.emplace_back(objects[i].ascii());

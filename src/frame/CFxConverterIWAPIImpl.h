@@ -80,7 +80,7 @@ public:
     void ResolveNames(std::vector<CFxString>& names, std::vector<CFxString>& types, std::vector<CFxString>& handles,
                       const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray) const;
     /// One element a handle: the name that the object is declared by, with the class that is told here; empty for an
-    /// object that the generated code does not know.
+    /// object that the generated code does not know, whose class is not asked for.
     void ResolveVariables(std::vector<CFxString>& names, const CFxCustomActionData& handleArray,
                           const CFxCustomActionData& classArray) const;
     /// One object's name, or the name as it was. Spelled another way than the declared name: see there.

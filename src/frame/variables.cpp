@@ -42,6 +42,13 @@ std::int32_t GetApiTypeName(const OdRxClass* cls, CFxString& typeName, CFxString
     return kFxSuccess;
 }
 
+const OdRxClass* ClassAt(const std::vector<const OdRxClass*>& classes, std::size_t index)
+{
+    if (index >= classes.size())
+        throw OdError_InvalidIndex();
+    return classes[index];
+}
+
 void CFxConverterIWAPIImpl::GetNoteLeader(OdDbObjectId& leader, const OdDbHandle& handle) const
 {
     leader = OdDbObjectId();
@@ -101,12 +108,10 @@ void CFxConverterIWAPIImpl::ResolveVariables(std::vector<CFxString>& names, cons
 {
     const std::vector<OdDbHandle>& objects = handleArray.GetHandleArray();
     const std::vector<const OdRxClass*>& classes = classArray.GetClassArray();
-    if (classes.size() < objects.size())
-        throw OdError_InvalidIndex();
     names.assign(objects.size(), {});
     for (std::size_t i = 0; i < objects.size(); ++i)
         if (const ActionEntry* const entry = FindEntry(objects[i]))
-            names[i] = DeclaredName({classes[i], entry->ordinal});
+            names[i] = DeclaredName({ClassAt(classes, i), entry->ordinal});
 }
 
 /// Takes the suffixes off after the number was put on, and only the one of smart pointers: in C++ a region or a view
