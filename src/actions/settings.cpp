@@ -31,6 +31,9 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionOptionValue(OdSmartPtr<CFxCusto
     const bool inApplication = FindApplicationOption(variable, ofApplication, applicationKind) == kFxSuccess;
     takeVariable(text, inApplication && !inDocument ? HandedVariable::AppendedTo : HandedVariable::Replaced);
 
+    // Without an option there is nothing to say, and the value need not be there.
+    if (!inDocument && !inApplication)
+        return kFxSuccess;
     const CFxCustomActionData& value = action->GetData(1);
     if (inDocument) {
         if (documentKind == static_cast<std::int32_t>(OptionKind::Int16))
