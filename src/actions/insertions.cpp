@@ -43,7 +43,6 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionViewport(OdSmartPtr<CFxCustomAc
 {
     CFxString name = takeVariable(text, HandedVariable::Replaced);
     const OdArray<OdGePoint3d>& polygon = action->GetData(0).GetPointArray();
-    const CFxString& sheetName = action->GetData(5).GetString();
     if (name.isEmpty()) {
         const OdDbHandle handle = action->GetData(3).GetHandle();
         const OdRxClass* const cls = action->GetData(4).GetClass();
@@ -52,6 +51,6 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionViewport(OdSmartPtr<CFxCustomAc
         RegisterObject(handle, cls);
         ResolveVariable(handle, cls, name);
     }
-    text = EmitInsertViewport(writer, name, sheetName, polygon);
+    text = EmitInsertViewport(writer, name, action->GetData(5).GetString(), polygon);
     return kFxSuccess;
 }
