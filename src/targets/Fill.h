@@ -52,7 +52,8 @@ private:
 /// a chain of QString::arg calls makes of the literal, also where a value itself holds markers for the values behind
 /// it; but Qt's warnings about missing markers are not printed.
 ///
-/// Texts are kept as views until str() is called: each must live as long as that.
+/// Texts are kept as views until str() is called: each must live as long as that. An outcome of more than 256 Mi
+/// characters, or one on the way to it, raises an OdError.
 class Fill
 {
 public:
