@@ -9,6 +9,11 @@
 
 using namespace inkmacro;
 
+QString inkmacro::xmlText(const QString& text)
+{
+    return text.toHtmlEscaped();
+}
+
 std::int32_t PhrasedConverter::WriteProject(const QString& macroPath, const std::vector<ProjectFile>& files)
 {
     const QString directory = QFileInfo(macroPath).path();

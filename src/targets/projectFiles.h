@@ -12,4 +12,7 @@ struct ProjectFile
     bool byteOrderMark;
 };
 
+/// A name or a directory as it stands in the XML of a project, between tags or quotes.
+QString xmlText(const QString& text);
+
 } // namespace inkmacro

@@ -3,6 +3,7 @@
 #include "targets/Fill.h"
 #include "targets/LineEnd.h"
 #include "targets/cppcom/projectTexts.h"
+#include "targets/projectFiles.h"
 
 #include <QByteArray>
 
@@ -245,7 +246,7 @@ namespace inkmacro::cppcom {
 QString environmentProject(const QString& name, const QString& projectId)
 {
     static const Template words(project().constData());
-    return Fill(&words).text(name).text(LineEnd).text(projectId);
+    return Fill(&words).text(xmlText(name)).text(LineEnd).text(projectId);
 }
 
 } // namespace inkmacro::cppcom
