@@ -144,6 +144,7 @@ CASES = (
     ("`doubles`", custom("doubles", lambda i: f"{i}.5")),
     ("`ints`", custom("ints", str)),
     ("`ids`", custom("ids", lambda i: f'"{i + 1:X}"')),
+    ("`ids`, multiples of sizes of hash tables", custom("ids", lambda i: f'"{172_933 * 85_229 * (i + 1):X}"')),
     ("letters of a text", lambda n: value('"' + "a" * 10 * n + '"')),
     ("line feeds of a text", lambda n: value('"' + "\\n" * 10 * n + '"')),
     ("broken JSON behind a list", fault_at_end),
