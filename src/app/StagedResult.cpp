@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include <cerrno>
+#include <ranges>
 #include <system_error>
 
 #include <fcntl.h>
@@ -177,16 +178,16 @@ QStringList StagedResult::place()
     }
     const SignalPause pause;
     // The macro comes last: where it is, its project is.
-    for (auto move = moves.rbegin(); move != moves.rend(); ++move)
-        if (rename(move->from.c_str(), move->to.c_str()) != 0)
-            failFor(move->file, errno);
+    for (const Move& move : std::views::reverse(moves))
+        if (rename(move.from.c_str(), move.to.c_str()) != 0)
+            failFor(move.file, errno);
     return written;
 }
 
 QString refusalOf(const Job& job)
 {
     for (const QString& file : job.files())
-        if (const QString refusal = refusalAt(file); !refusal.isEmpty())
+        if (QString refusal = refusalAt(file); !refusal.isEmpty())
             return refusal;
     return {};
 }

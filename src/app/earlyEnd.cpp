@@ -21,7 +21,13 @@ struct EarlyEnds
         end.next_ = first;
         first = &end;
     }
-    static void leave(const EarlyEnd& end) { first = end.next_; }
+    static void leave(const EarlyEnd& end)
+    {
+        EarlyEnd** link = &first;
+        while (*link != &end)
+            link = &(*link)->next_;
+        *link = end.next_;
+    }
     static void endAll(int signal) noexcept
     {
         for (EarlyEnd* end = first; end; end = end->next_)

@@ -41,8 +41,7 @@ protected:
     EarlyEnd() = default;
     ~EarlyEnd() = default;
 
-    /// Called by the class itself, around the time in which endEarly may run. The last one to begin is the first to
-    /// end.
+    /// Called by the class itself, around the time in which endEarly may run.
     void beginWatch();
     void endWatch();
 
