@@ -2,8 +2,8 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cerrno>
-#include <ranges>
 #include <system_error>
 
 #include <fcntl.h>
@@ -162,8 +162,6 @@ StagedResult::Move StagedResult::prepare(const QString& file)
 
 QStringList StagedResult::place()
 {
-    if (!staging_->stands() || !has(files_.front()))
-        throw PlacingError(files_.front(), "its folder vanished during the work");
     QStringList written;
     std::vector<Move> moves;
     for (const QString& file : files_)
@@ -176,9 +174,12 @@ QStringList StagedResult::place()
     const Descriptor directory(directory_, O_RDONLY | O_DIRECTORY);
     while (flock(directory.number(), LOCK_EX) != 0 && errno == EINTR) {
     }
+    if (!staging_->stands() || !has(files_.front()))
+        throw PlacingError(files_.front(), "its folder vanished during the work");
     const SignalPause pause;
     // The macro comes last: where it is, its project is.
-    for (const Move& move : std::views::reverse(moves))
+    std::reverse(moves.begin(), moves.end());
+    for (const Move& move : moves)
         if (rename(move.from.c_str(), move.to.c_str()) != 0)
             failFor(move.file, errno);
     return written;
