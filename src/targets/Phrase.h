@@ -38,6 +38,13 @@ public:
     /// Null for a hole. A template is cut on its first use, since a run needs few of them, and then kept.
     const Template* in(Target target) const;
 
+    /// Whether anything in this process has asked for the target's template: so the literals that no recording reaches
+    /// can be enumerated.
+    bool used(Target target) const
+    {
+        return templates_[static_cast<std::size_t>(target)].load(std::memory_order_relaxed) != nullptr;
+    }
+
     static const std::vector<const Phrase*>& all();
 
 private:
