@@ -1,5 +1,10 @@
 // Whole recordings, each converted for each target and compared byte for byte with the files beside it.
 
+#include "app/OpenDrawing.h"
+#include "frame/CFxConverterIWAPI.h"
+#include "frame/RecordingState.h"
+#include "recordfile/RecordingReader.h"
+#include "targets/Phrase.h"
 #include "targets/TargetTable.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +15,10 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+
+#include <map>
+
+using namespace inkmacro;
 
 namespace {
 
@@ -29,7 +38,7 @@ std::vector<Scenario> scenarios()
     std::vector<Scenario> all;
     const QDir root(INKMACRO_SOURCE_DIR "/tests/scenarios");
     for (const QString& name : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
-        for (const inkmacro::TargetRow& row : inkmacro::targetTable)
+        for (const TargetRow& row : targetTable)
             all.push_back({root.filePath(name), row.name});
     return all;
 }
@@ -109,5 +118,34 @@ TEST_P(Scenarios, GiveTheExpectedFiles)
 INSTANTIATE_TEST_SUITE_P(All, Scenarios, testing::ValuesIn(scenarios()), [](const auto& info) {
     return QDir(info.param.folder).dirName().toStdString() + '_' + std::string(info.param.target);
 });
+
+/// Converts in this process, where the phrases tell which words were asked for.
+void convertHere(const Scenario& scenario, const TargetRow& row)
+{
+    Recording recording;
+    const auto error = ReadRecording(scenario.folder + "/recording.jsonl", recording);
+    ASSERT_FALSE(error) << error->text().toStdString();
+    GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(row.target));
+    const Recording::Sheet sheet = recording.header.sheet.value_or(Recording::Sheet{});
+    RecordingSheetName = sheet.name;
+    RecordingInModel = sheet.model;
+    const OpenDrawing drawing(recording);
+    const QTemporaryDir folder;
+    const QString macro = folder.filePath(QLatin1String("recording.") + QLatin1String(row.extension.data()));
+    const auto converter =
+        CreateConverter(static_cast<std::uint32_t>(row.target), static_cast<std::uint32_t>(recording.header.mode), 0);
+    ASSERT_EQ(converter->Convert(macro, recording.actions), kFxSuccess) << scenario.folder.toStdString();
+}
+
+TEST(ScenarioPhrases, AreAllWritten)
+{
+    for (const Scenario& scenario : scenarios())
+        for (const TargetRow& row : targetTable)
+            if (row.name == scenario.target)
+                convertHere(scenario, row);
+    for (const Phrase* phrase : Phrase::all())
+        for (const TargetRow& row : targetTable)
+            EXPECT_TRUE(!phrase->has(row.target) || phrase->used(row.target)) << phrase->name() << " in " << row.name;
+}
 
 } // namespace

@@ -1,43 +1,45 @@
 #pragma once
 
+#include "frame/CFxConverterIWAPIImpl.h"
 #include "host/kernel/CFxServices.h"
-#include "objects/targets/PhrasedObjectConverter.h"
-#include "targets/PhrasedConverter.h"
+#include "objects/CFxConverterIWAPIObject.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
+inline constexpr inkmacro::Target allTargets[] = {
+    inkmacro::Target::Cpp,        inkmacro::Target::CppCom, inkmacro::Target::CSharp,
+    inkmacro::Target::JavaScript, inkmacro::Target::VbNet,  inkmacro::Target::Vba,
+};
 
-/// The statements of one target without its file around them. The host is set to record that target's language.
+/// The statements of one target without their file around them, prompts included. The host is set to record that
+/// target's language.
 struct TestTarget
 {
-    class Driver final : public PhrasedConverter
+    class Driver final : public CFxConverterIWAPIImpl
     {
     public:
-        explicit Driver(inkmacro::Target target) : PhrasedConverter(target, 0) {}
+        explicit Driver(inkmacro::Target target) : CFxConverterIWAPIImpl(target, 1) {}
         QString EmitFileHeader(const QString&, bool) override { return {}; }
         QString EmitFileFooter() override { return {}; }
-        QString EmitProgramText(const QString&) override { return {}; }
-        QString EmitProjectText(const QString&) override { return {}; }
-        std::int32_t EmitProjectFiles(const QString&) override { return kFxSuccess; }
-    };
-    class Objects final : public PhrasedObjectConverter
-    {
-    public:
-        Objects(inkmacro::Target target, CFxConverterIWAPIImpl* driver) : PhrasedObjectConverter(target, driver) {}
     };
 
-    explicit TestTarget(inkmacro::Target target) : driver(target), objects(target, &driver)
+    explicit TestTarget(inkmacro::Target target, unsigned level = 0)
+        : before_(GetFxSystemServices()->GetInt16("RecordingLanguage")), driver(target)
     {
         GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(target));
-        driver.IndentLevel = 1;
+        writer.IndentLevel = level;
     }
+    ~TestTarget() { GetFxSystemServices()->SetInt16("RecordingLanguage", before_); }
     TestTarget(const TestTarget&) = delete;
     TestTarget& operator=(const TestTarget&) = delete;
-    ~TestTarget() { GetFxSystemServices()->SetInt16("RecordingLanguage", 0); }
 
+private:
+    std::int16_t before_;
+
+public:
     Driver driver;
-    Objects objects;
+    Writer& writer = driver.writer;
+    CFxConverterIWAPIObject objects{driver};
 };
 
 /// One text a target.
@@ -49,20 +51,35 @@ struct TestTexts
     const char* javascript;
     const char* vbNet;
     const char* vba;
+
+    const char* in(inkmacro::Target target) const
+    {
+        using inkmacro::Target;
+        switch (target) {
+        case Target::Cpp:
+            return cpp;
+        case Target::CppCom:
+            return cppCom;
+        case Target::CSharp:
+            return csharp;
+        case Target::JavaScript:
+            return javascript;
+        case Target::VbNet:
+            return vbNet;
+        case Target::Vba:
+            return vba;
+        }
+        return nullptr;
+    }
 };
 
-/// Compares what the function makes in each target.
+/// Compares what the function makes at level 1 in each target.
 template<class Make>
 void expectInAllTargets(const TestTexts& expected, Make make)
 {
-    using inkmacro::Target;
-    const std::pair<Target, const char*> texts[]{
-        {Target::Cpp, expected.cpp},       {Target::CppCom, expected.cppCom},
-        {Target::CSharp, expected.csharp}, {Target::JavaScript, expected.javascript},
-        {Target::VbNet, expected.vbNet},   {Target::Vba, expected.vba}};
-    for (const auto& [target, text] : texts) {
-        TestTarget made(target);
-        EXPECT_EQ(make(made), QString(text)) << "target " << static_cast<int>(target);
-        EXPECT_EQ(made.driver.IndentLevel, 1U) << "target " << static_cast<int>(target);
+    for (const inkmacro::Target target : allTargets) {
+        TestTarget made(target, 1);
+        EXPECT_EQ(make(made), QString(expected.in(target))) << "target " << static_cast<int>(target);
+        EXPECT_EQ(made.writer.IndentLevel, 1U) << "target " << static_cast<int>(target);
     }
 }
