@@ -2,6 +2,7 @@
 
 #include "targets/customActions.h"
 
+#include "frame/counters.h"
 #include "targets/arrays.h"
 #include "targets/comArrays.h"
 
@@ -111,10 +112,9 @@ static const Phrase setElementColor{"EmitSetElementColor",
 
 QString EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmColor& color)
 {
-    // Process-wide, so a later conversion uses variables that its macro does not declare. It has to stay so.
-    static std::uint32_t calls = 0;
+    // The count goes on, so a later conversion uses variables that its macro does not declare. It has to stay so.
     QString text;
-    if (calls++ == 0)
+    if (processCounters.elementColors++ == 0)
         text += writer.fill(declareElementColor);
     text += writer.fill(chooseElement).number(element);
     if (color.isByACI())

@@ -2,6 +2,7 @@
 
 #include "targets/selections.h"
 
+#include "frame/counters.h"
 #include "targets/LineEnd.h"
 #include "targets/arrays.h"
 
@@ -131,8 +132,8 @@ static const Phrase selectedCount{
                "Inkwright.iwSelectionSetType_e.iwSelectionSetType_Previous)\n",
     }};
 
-/// Number of the next selection. Process-wide, and never put back.
-static std::uint32_t selections = 0;
+/// Number of the next selection.
+static std::uint32_t& selections = processCounters.selections;
 
 static QString selectionCorners(Writer& writer, const OdArray<OdGePoint3d>& points)
 {
