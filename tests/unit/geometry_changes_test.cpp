@@ -1,9 +1,7 @@
 // Changes of curves and geometry: which statements a changed tag becomes, and what a target makes of them.
 
 #include "TestActions.h"
-
-#include "objects/targets/PhrasedObjectConverter.h"
-#include "targets/csharp/CFxConverterIWAPICSharp.h"
+#include "TestTarget.h"
 
 #include <gtest/gtest.h>
 
@@ -15,11 +13,6 @@ namespace {
 
 using Objects = CFxConverterIWAPIObject;
 using Handler = std::int32_t (Objects::*)(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
-
-struct InTarget final : PhrasedObjectConverter
-{
-    InTarget(Target target, CFxConverterIWAPIImpl* driver) : PhrasedObjectConverter(target, driver) {}
-};
 
 CFxPropertyChangedPtr record(const char* tag, const CFxVariant& value, const CFxVariant& index = {})
 {
@@ -39,10 +32,9 @@ CFxVariant choice(std::int32_t chosen)
 /// What the handler makes of the records of the object "it1", which it must have taken all.
 std::string changed(Handler handler, PropertyList list, Target target = Target::CSharp)
 {
-    CFxConverterIWAPICSharp driver{0};
-    InTarget objects(target, &driver);
+    TestTarget made(target);
     QString text;
-    EXPECT_EQ((objects.*handler)(list, false, "it1", text), kFxSuccess);
+    EXPECT_EQ((made.objects.*handler)(list, false, "it1", text), kFxSuccess);
     EXPECT_TRUE(list.empty());
     return text.toStdString();
 }
@@ -245,19 +237,18 @@ TEST(GeometryChanges, AreNotWrittenForAddedObjects)
           "Standard scale"}},
         {&Objects::ConvertModifiedLine, {"Start X", "Start Y", "Start Z", "End X", "End Y", "End Z"}},
     };
-    CFxConverterIWAPICSharp driver{0};
-    InTarget objects(Target::CSharp, &driver);
+    TestTarget made(Target::CSharp);
     QString text = "before\n";
     for (const auto& [handler, tags] : handlers) {
         EXPECT_EQ(text, "before\n");
         PropertyList list;
         for (const char* tag : tags)
             list.push_back(record(tag, 1.0, 0));
-        EXPECT_EQ((objects.*handler)(list, true, "it1", text), kFxSuccess);
+        EXPECT_EQ((made.objects.*handler)(list, true, "it1", text), kFxSuccess);
         EXPECT_TRUE(list.empty()) << tags.front() << ", left: " << list.size();
     }
     EXPECT_EQ(text, "") << "the line's handler empties the text";
-    EXPECT_EQ(driver.UniqueCounter, 0U);
+    EXPECT_EQ(made.writer.UniqueCounter, 0U);
 }
 
 } // namespace
