@@ -6,6 +6,7 @@
 #include "TestTarget.h"
 
 #include "objects/targets/leaders.h"
+#include "objects/targets/points.h"
 #include "objects/targets/texts.h"
 
 #include <gtest/gtest.h>

@@ -3,8 +3,8 @@
 #include "frame/CFxConverterIWAPIModule.h"
 #include "host/db/OdDbClassMap.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "objects/classTable.h"
 #include "targets/Phrase.h"
-#include "targets/apiTypes.h"
 #include "targets/enumerations.h"
 #include "targets/wording.h"
 
@@ -110,18 +110,15 @@ TEST(Texts, AreEscapedForTheirQuotes)
 
 TEST(Classes, AreKnownInAllTheirTables)
 {
-    std::set<QString> keys;
-    for (const ApiType& type : ApiTypes()) {
-        keys.insert(type.className);
-        EXPECT_NE(oddbFindClassRow(type.className), nullptr) << type.className;
-        // The one type that is only met within other objects' data.
-        EXPECT_EQ(IsSupportedClass(type.className), QString(type.className) != "AcDb2dPolyline") << type.className;
+    std::set<QString> names;
+    for (const ClassRow& row : ClassTable()) {
+        EXPECT_TRUE(names.insert(row.name).second) << row.name;
+        EXPECT_NE(oddbFindClassRow(row.name), nullptr) << row.name;
+        EXPECT_EQ(FindClass(oddbClassByName(row.name)), &row) << row.name;
+        EXPECT_EQ(IsSupportedClass(row.name), !row.has(kOnlyNamed)) << row.name;
+        EXPECT_EQ(row.interfaceName == nullptr, row.enumerator == nullptr) << row.name;
     }
-    EXPECT_EQ(keys.size(), 51U);
-    int supported = 0;
-    for (const OdDbClassRow& row : oddbClassRows())
-        supported += IsSupportedClass(row.name);
-    EXPECT_EQ(supported, 52);
+    EXPECT_EQ(names.size(), 53U);
     EXPECT_FALSE(IsSupportedClass("acdbline"));
 
     EXPECT_TRUE(oddbDwgClassMapDesc(22)->isDerivedFrom(OdDbEntity::desc()));
