@@ -17,7 +17,9 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
-#include <map>
+#include <algorithm>
+#include <set>
+#include <string_view>
 
 using namespace inkmacro;
 
@@ -142,10 +144,28 @@ void convertHere(const Scenario& scenario)
     ASSERT_EQ(converter->Convert(folder.filePath("macro"), recording.actions), kFxSuccess);
 }
 
-/// Phrases that no recording can bring about, and why.
-const std::map<std::string, const char*> unreachable{
-    {"EmitCommandOptionInt32", "no option of a document is of that type"},
+/// Words that no recording can bring about, and why.
+struct Unreachable
+{
+    std::string_view phrase;
+    std::set<Target> targets;
+    const char* reason;
 };
+using enum Target;
+const std::set<Target> everyTarget{Cpp, CSharp, JavaScript, VbNet, CppCom, Vba};
+const Unreachable unreachable[]{
+    {"EmitCommandOptionInt32", everyTarget, "no option of a document is of that type"},
+    {"array of plane points", everyTarget, "no statement takes plane points"},
+    {"array of integers", {Cpp, VbNet, Vba}, "no statement takes plain integers"},
+    {"array of numbers", {JavaScript, VbNet, CppCom}, "selections alone fill one, and these targets have none"},
+};
+
+bool isReachable(const Phrase& phrase, Target target)
+{
+    return std::none_of(std::begin(unreachable), std::end(unreachable), [&](const Unreachable& row) {
+        return row.phrase == phrase.name() && row.targets.contains(target);
+    });
+}
 
 TEST(ScenarioPhrases, AreAllWritten)
 {
@@ -153,7 +173,7 @@ TEST(ScenarioPhrases, AreAllWritten)
         convertHere(scenario);
     for (const Phrase* phrase : Phrase::all())
         for (const TargetRow& row : targetTable)
-            EXPECT_EQ(phrase->used(row.target), phrase->has(row.target) && !unreachable.contains(phrase->name()))
+            EXPECT_EQ(phrase->used(row.target), phrase->has(row.target) && isReachable(*phrase, row.target))
                 << phrase->name() << " in " << row.name;
 }
 

@@ -342,7 +342,8 @@ TEST_F(CustomActions, MakeRegionsOfCurves)
 
 TEST_F(CustomActions, LeaveNoMarkerUnfilled)
 {
-    const EntityList lists{{"a", ""}, {"iwLineType", ""}, {"1A", "2B"}};
+    const EntityList lists{{"a", "iwLineType", "1A"}, {"", "", "2B"}};
+    const std::vector<CFxString> names{"a", ""};
     const Points polygon{{}, {}};
     for (const Target target : allTargets) {
         TestTarget made(target);
@@ -350,10 +351,11 @@ TEST_F(CustomActions, LeaveNoMarkerUnfilled)
         const QString written =
             EmitMirrorEntities(writer, lists, {}, {}, true) + EmitStretchEntities(writer, lists, {}, {}, {}) +
             EmitRotateEntities(writer, lists, {}, 1.0) + EmitScaleEntities(writer, lists, {}, 1.0) +
-            EmitInsertEmbeddedObject(writer, "a", "b", true, true) + EmitEraseEntities(writer, lists.names) +
-            EmitGroupAddEntities(writer, lists.names, "g") + EmitGroupRemoveEntities(writer, lists.names, "g") +
+            EmitInsertEmbeddedObject(writer, "a", "b", true, true) + EmitEraseEntities(writer, names) +
+            EmitGroupAddEntities(writer, names, "g") + EmitGroupRemoveEntities(writer, names, "g") +
             EmitInsertViewport(writer, "v", "A3", polygon) + EmitSelectEntities(writer, 0, polygon, false) +
-            EmitSelectEntities(writer, 4, polygon, false) + EmitSelectionFilter(writer, polygon, 2, lists.types) +
+            EmitSelectEntities(writer, 4, polygon, false) +
+            EmitSelectionFilter(writer, polygon, 2, {"iwLineType", ""}) +
             EmitSetElementColor(writer, 1, OdCmColor::byRgb(1, 2, 3)) +
             EmitBlockAttributeValue(writer, "a", "Value", "ROOM", "12") +
             EmitSetModelProperty(writer, "PrintStyle", "a", false, "A3") +

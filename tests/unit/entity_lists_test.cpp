@@ -262,7 +262,7 @@ TEST(EntityLists, MirrorRotateAndScaleWithTheirTypes)
 TEST(EntityLists, NameTypesByNumberInAScript)
 {
     TestTarget script(Target::JavaScript);
-    const QString text = EmitScaleEntities(script.writer, {{"line1", ""}, {"iwLineType", ""}, {"1A", "2B"}}, {}, 2.0);
+    const QString text = EmitScaleEntities(script.writer, {{"line1", "iwLineType", "1A"}, {"", "", "2B"}}, {}, 2.0);
     EXPECT_TRUE(text.contains(" types0[0] = 21;\n iwEntities0[0] = line1;\n types0[1] = 0;\n")) << text.toStdString();
     EXPECT_TRUE(text.endsWith(" mSkMgr.ScaleEntities(0, 0, 2, 0, types0, iwEntities0);\n")) << text.toStdString();
 }

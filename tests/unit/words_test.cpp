@@ -19,45 +19,45 @@ namespace {
 
 TEST(Enumerators, FollowTheDrawingsNumbers)
 {
-    const auto text = [](const char* enumeration, int value) {
+    const auto text = [](const ValueEnumeration& enumeration, int value) {
         return EnumeratorByValue(Target::Cpp, enumeration, value).toStdString();
     };
-    EXPECT_EQ(text("iwDimensionTextVerticalPosition", 0), "iwDimensionTextVerticalPosition_Centered");
-    EXPECT_EQ(text("iwDimensionTextVerticalPosition", 3), "iwDimensionTextVerticalPosition_JIS");
-    EXPECT_EQ(text("iwArcTextAlignment", 4), "iwArcTextAlignment_Center");
-    EXPECT_EQ(text("iwArcTextAlignment", 1), "iwArcTextAlignment_Fit");
-    EXPECT_EQ(text("iwLeaderType", 3), "iwLeaderType_SplineWithArrow");
-    EXPECT_EQ(text("iwDualDimensionFormat", 2), "iwDualDimensionFormat_Decimal");
-    EXPECT_EQ(text("iwDimensionArrowType", 20), "iwDimensionArrowType_Custom");
-    EXPECT_EQ(text("iwUnitPrecision", 8), "iwUnitPrecision_8");
-    EXPECT_EQ(text("iwTableBordersLineType", 32), "iwTableBordersLineType_VerticalRight");
+    EXPECT_EQ(text(enums::dimensionTextVerticalPosition, 0), "iwDimensionTextVerticalPosition_Centered");
+    EXPECT_EQ(text(enums::dimensionTextVerticalPosition, 3), "iwDimensionTextVerticalPosition_JIS");
+    EXPECT_EQ(text(enums::arcTextAlignment, 4), "iwArcTextAlignment_Center");
+    EXPECT_EQ(text(enums::arcTextAlignment, 1), "iwArcTextAlignment_Fit");
+    EXPECT_EQ(text(enums::leaderType, 3), "iwLeaderType_SplineWithArrow");
+    EXPECT_EQ(text(enums::dualDimensionFormat, 2), "iwDualDimensionFormat_Decimal");
+    EXPECT_EQ(text(enums::dimensionArrowType, 20), "iwDimensionArrowType_Custom");
+    EXPECT_EQ(text(enums::unitPrecision, 8), "iwUnitPrecision_8");
+    EXPECT_EQ(text(enums::tableBordersLineType, 32), "iwTableBordersLineType_VerticalRight");
     // What no number stands for gives the default.
     for (const int value : {-2147483647 - 1, -1, 0, 9, 21, 2147483647}) {
-        EXPECT_EQ(text("iwTableCellType", value), "iwTableCellType_Title");
-        EXPECT_EQ(text("iwLinearDimensionFormat", value), "iwLinearDimensionFormat_Scientific");
-        EXPECT_EQ(text("iwArcTextDirection", value), "iwArcTextDirection_OutwardFromCenter");
-        EXPECT_EQ(text("iwUnitPrecision", value), "iwUnitPrecision_0");
+        EXPECT_EQ(text(enums::tableCellType, value), "iwTableCellType_Title");
+        EXPECT_EQ(text(enums::linearDimensionFormat, value), "iwLinearDimensionFormat_Scientific");
+        EXPECT_EQ(text(enums::arcTextDirection, value), "iwArcTextDirection_OutwardFromCenter");
+        EXPECT_EQ(text(enums::unitPrecision, value), "iwUnitPrecision_0");
     }
     for (const int value : {-1, 0, 3, 33, 64, 1 << 30})
-        EXPECT_EQ(text("iwTableBordersLineType", value), "iwTableBordersLineType_HorizontalTop");
+        EXPECT_EQ(text(enums::tableBordersLineType, value), "iwTableBordersLineType_HorizontalTop");
 }
 
 TEST(Enumerators, FollowTheDisplayedText)
 {
-    const auto text = [](const char* enumeration, const char* shown) {
+    const auto text = [](const TextEnumeration& enumeration, const char* shown) {
         return EnumeratorByText(Target::VbNet, enumeration, shown).toStdString();
     };
-    EXPECT_EQ(text("iwNoteJustification", "bottom RIGHT"),
+    EXPECT_EQ(text(enums::noteJustification, "bottom RIGHT"),
               "Inkwright.iwNoteJustification_e.iwNoteJustification_BottomRight");
-    EXPECT_EQ(text("iwTextJustification", "Fit"), "Inkwright.iwTextJustification_e.iwTextJustification_Fit");
-    EXPECT_EQ(text("iwTextJustification", "?"), "Inkwright.iwTextJustification_e.iwTextJustification_Left");
-    EXPECT_EQ(text("iwPolyLine3DFitSmooth", "Quadratic"),
+    EXPECT_EQ(text(enums::textJustification, "Fit"), "Inkwright.iwTextJustification_e.iwTextJustification_Fit");
+    EXPECT_EQ(text(enums::textJustification, "?"), "Inkwright.iwTextJustification_e.iwTextJustification_Left");
+    EXPECT_EQ(text(enums::polyLine3DFitSmooth, "Quadratic"),
               "Inkwright.iwPolyLine3DFitSmooth_e.iwPolyLine3DFitSmooth_Qudratic");
-    EXPECT_EQ(text("iwBlockInsertUnits", "light years"),
+    EXPECT_EQ(text(enums::blockInsertUnits, "light years"),
               "Inkwright.iwBlockInsertUnits_e.iwBlockInsertUnits_LightYears");
-    EXPECT_EQ(text("iwViewportStandardScale", "1/128\" = 1'-0\""),
+    EXPECT_EQ(text(enums::viewportStandardScale, "1/128\" = 1'-0\""),
               "Inkwright.iwViewportStandardScale_e.iwViewportStandardScale_1_128in_1ft");
-    EXPECT_EQ(text("iwViewportStandardScale", "1:3"),
+    EXPECT_EQ(text(enums::viewportStandardScale, "1:3"),
               "Inkwright.iwViewportStandardScale_e.iwViewportStandardScale_ScaleToFit");
 }
 
@@ -139,6 +139,7 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
 {
     using enum Target;
     const std::set<Target> allButCom{Cpp, CSharp, JavaScript, VbNet, Vba};
+    const std::set<Target> allButCpp{CSharp, JavaScript, VbNet, CppCom, Vba};
     const std::set<Target> withoutSelections{CppCom, JavaScript, VbNet};
     const std::vector<Holes> intended{
         // No groups, no declarations and no comments in a page.
@@ -154,24 +155,27 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitPromptKeyword: element of a list", {CppCom}, 2},
         {"EmitPromptKeyword: element of both lists", allButCom},
         // A selection made at a prompt: the later command runs on what is selected then.
-        {"EmitSelectEntities", withoutSelections, 16},
+        {"EmitSelectEntities", withoutSelections, 13},
         {"EmitSelectionFilter", withoutSelections, 5},
-        // The array's size stands in its declaration, and COM fills its safe arrays in a way of its own.
+        // The array's size stands in its declaration.
         {"EmitMoveEntities", {Cpp, CppCom, VbNet, Vba}},
-        {"EmitMoveEntities", {CppCom}},
-        {"EmitMirrorEntities", {CppCom}},
-        {"EmitCopyEntities", {CppCom}, 2},
         {"EmitStretchEntities", {Cpp, CppCom, Vba}},
-        {"EmitStretchEntities", {CppCom}, 2},
-        {"EmitPromptSelection", {CppCom}, 4},
         {"EmitGroupRemoveEntities", {Cpp, CppCom, Vba}},
-        {"EmitGroupRemoveEntities", {CppCom}},
-        {"EmitInsertRegion", {CppCom}},
+        {"EmitStretchEntities", {CppCom}, 2},
+        // COM fills its safe arrays with all elements at once.
+        {"array of object types", {CppCom}},
+        {"array of bare objects", {CSharp, JavaScript, CppCom}},
+        {"array of bare object types", {CSharp, JavaScript, CppCom}},
+        {"EmitPromptSelection: listed element", {Cpp, VbNet, CppCom, Vba}},
+        {"EmitPromptSelection: look-up", allButCpp},
+        {"EmitPromptSelection: looked-up word", {Cpp}, 2},
+        // Lists stand within a call or in front of it.
+        {"array of integers", {CSharp, JavaScript}},
+        {"array of points", {CSharp, JavaScript}},
+        {"array of plane points", {CSharp, JavaScript}},
         // Declarations ahead of the tests in C++ and VBA, a call behind them in C++.
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom}},
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom, Vba}},
-        // The corners stand in the call.
-        {"EmitInsertViewport", {CSharp, JavaScript, VbNet, CppCom}},
     };
     using Lack = std::pair<std::string, std::set<Target>>;
     std::map<Lack, int> missing;
