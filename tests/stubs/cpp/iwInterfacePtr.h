@@ -16,8 +16,6 @@ class iwObject_c
 {
 };
 
-typedef iwObject_c iwObject;
-
 // Takes the address of any object's pointer: what is found decides what comes back.
 class iwObjectOut
 {
@@ -35,6 +33,8 @@ public:
     T** operator&();
     operator T*() const;
 };
+
+typedef iwInterfacePtr<iwObject_c> iwObject_ptr;
 
 template<class T>
 class iwArray
