@@ -15,6 +15,7 @@ class ChangeRows;
 class CFxConverterIWAPIImpl;
 class Writer;
 class OdDbMText;
+struct MeasuredCurve;
 
 /// Whether that file of line type shapes comes with the host, which then needs no statement to load it.
 bool IsHostShapeFile(const CFxString& fileName);
@@ -150,9 +151,24 @@ private:
     QString ReadTolerance(AddedProperties& properties, const CFxString& name);
     QString ReadLeader(AddedProperties& properties, const CFxString& name);
     QString ReadCurvedText(AddedProperties& properties, const CFxString& name);
+    QString ReadAlignedDimension(AddedProperties& properties, const CFxString& name);
+    QString Read2LineAngularDimension(AddedProperties& properties, const CFxString& name);
+    QString Read3PointAngularDimension(AddedProperties& properties, const CFxString& name);
+    QString ReadArcLengthDimension(AddedProperties& properties, const CFxString& name);
+    QString ReadOrdinateDimension(AddedProperties& properties, const CFxString& name);
+    QString ReadDiameterDimension(AddedProperties& properties, const CFxString& name);
+    QString ReadRadialDimension(AddedProperties& properties, const CFxString& name);
+    QString ReadJoggedDimension(AddedProperties& properties, const CFxString& name);
+    QString ReadRotatedDimension(AddedProperties& properties, const CFxString& name);
 
     /// The object of an added variable, for reading; null when it is not in the drawing.
     OdDbObjectPtr AddedObject(const CFxString& name) const;
+    /// The variable of an object that the recording has added so far; empty for any other.
+    QString AddedVariable(const OdDbObjectId& id) const;
+    /// The curve that the added dimension measures; nothing without a dimension in the drawing, or without a curve.
+    template<class Dimension>
+    std::optional<MeasuredCurve> CurveOf(const CFxString& name) const;
+    QString WithTextRotation(QString insertion, AddedProperties& properties, const CFxString& name);
     QString LoadShapes(const CFxString& fileName);
     QString AnnotateLeader(const CFxString& name);
     QString SetLeaderNote(const OdDbMText& note, const CFxString& leader);

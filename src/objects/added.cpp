@@ -42,6 +42,15 @@ CFxConverterIWAPIObject::Reader CFxConverterIWAPIObject::ReaderOf(const OdRxClas
         {oddbDwgClassMapDesc(45), &Self::ReadLeader},
         {oddbDwgClassMapDesc(46), &Self::ReadTolerance},
         {OdDbArcAlignedText::desc(), &Self::ReadCurvedText},
+        {oddbDwgClassMapDesc(22), &Self::ReadAlignedDimension},
+        {oddbDwgClassMapDesc(24), &Self::Read2LineAngularDimension},
+        {oddbDwgClassMapDesc(23), &Self::Read3PointAngularDimension},
+        {OdDbArcDimension::desc(), &Self::ReadArcLengthDimension},
+        {oddbDwgClassMapDesc(20), &Self::ReadOrdinateDimension},
+        {oddbDwgClassMapDesc(26), &Self::ReadDiameterDimension},
+        {oddbDwgClassMapDesc(25), &Self::ReadRadialDimension},
+        {OdDbRadialDimensionLarge::desc(), &Self::ReadJoggedDimension},
+        {oddbDwgClassMapDesc(21), &Self::ReadRotatedDimension},
     };
     return readers.value(cls, nullptr);
 }
@@ -50,6 +59,12 @@ OdDbObjectPtr CFxConverterIWAPIObject::AddedObject(const CFxString& name) const
 {
     const auto found = addedIdByVariable.find(name);
     return found == addedIdByVariable.end() ? OdDbObjectPtr() : found->second.openObject();
+}
+
+QString CFxConverterIWAPIObject::AddedVariable(const OdDbObjectId& id) const
+{
+    const auto found = id.isNull() ? addedVariableById.end() : addedVariableById.find(id);
+    return found == addedVariableById.end() ? QString() : found->second;
 }
 
 std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(OdRxClass* cls, OdDbHandle handle, PropertyList& read,

@@ -173,7 +173,5 @@ QString CFxConverterIWAPIObject::ReadCurvedText(AddedProperties&, const CFxStrin
     const auto curved = odrxCast<OdDbArcAlignedText>(AddedObject(name).get());
     if (!curved)
         return {};
-    const auto arc = addedVariableById.find(curved->arcId());
-    const bool known = !curved->arcId().isNull() && arc != addedVariableById.end();
-    return EmitInsertCurvedText(writer, curved->textString(), known ? arc->second : QString(), name);
+    return EmitInsertCurvedText(writer, curved->textString(), AddedVariable(curved->arcId()), name);
 }
