@@ -4,6 +4,7 @@
 #include "actions/CustomActionKind.h"
 #include "actions/optionTable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/counters.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/blockAttributes.h"
 #include "objects/targets/regions.h"
@@ -93,14 +94,12 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionRegion(OdSmartPtr<CFxCustomActi
 {
     if (action->GetKind() != kRegion)
         return kFxFailure;
-    // Process-wide, and never put back.
-    static std::uint32_t regions = 0;
     std::vector<CFxString> names;
     ResolveVariables(names, action->GetData(0), action->GetData(1));
     QStringList curves;
     for (const CFxString& name : names)
         curves.append(name);
-    text = EmitInsertRegion(writer, text, curves, ++regions);
+    text = EmitInsertRegion(writer, text, curves, ++processCounters.regions);
     return kFxSuccess;
 }
 

@@ -7,9 +7,7 @@
 
 EntityList CFxConverterIWAPIImpl::EntitiesOf(const CFxCustomAction& action) const
 {
-    EntityList entities;
-    ResolveNames(entities.names, entities.types, entities.handles, action.GetData(0), action.GetData(1));
-    return entities;
+    return ResolveNames(action.GetData(0), action.GetData(1));
 }
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionMirror(OdSmartPtr<CFxCustomAction> action, QString& text)

@@ -15,18 +15,16 @@ std::int32_t CFxConverterIWAPIImpl::ConvertSelection(OdSmartPtr<CFxUserSelection
 
     EntityList entities;
     for (std::size_t i = 0; i < objects.size(); ++i) {
-        CFxString name;
+        ListedEntity entity;
         CFxString type;
-        CFxString enumerator;
         // The name comes by the way that leaves the suffix of raw pointers in.
-        ResolveVariable(objects[i], classes[i], name);
-        if (!name.isEmpty())
-            GetApiTypeName(classes[i], type, enumerator);
-        entities.names.push_back(name);
-        entities.types.push_back(enumerator);
-        entities.handles.emplace_back(objects[i].ascii());
+        ResolveVariable(objects[i], classes[i], entity.name);
+        if (!entity.name.isEmpty())
+            GetApiTypeName(classes[i], type, entity.type);
+        entity.handle = objects[i].ascii();
+        entities.push_back(std::move(entity));
     }
-    if (!entities.names.empty())
+    if (!entities.empty())
         text = EmitPromptSelection(writer, entities);
     return kFxSuccess;
 }

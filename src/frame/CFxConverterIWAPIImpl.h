@@ -76,10 +76,8 @@ public:
     /// The leader that owns the note of that handle, else the null id. Raises OdError_NotThatKindOfClass when the
     /// handle is another object's.
     void GetNoteLeader(OdDbObjectId& leader, const OdDbHandle& handle) const;
-    /// One element a handle: the variable (empty for an object that the generated code does not know), the object type
-    /// enumerator, the handle's text.
-    void ResolveNames(std::vector<CFxString>& names, std::vector<CFxString>& types, std::vector<CFxString>& handles,
-                      const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray) const;
+    /// One element a handle.
+    EntityList ResolveNames(const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray) const;
     void ResolveVariables(std::vector<CFxString>& names, const CFxCustomActionData& handleArray,
                           const CFxCustomActionData& classArray) const;
     /// The variable of one object, or the name as it was.

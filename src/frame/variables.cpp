@@ -79,21 +79,22 @@ CFxString CFxConverterIWAPIImpl::VariableName(const ActionEntry& entry) const
     return numbered(type, entry.ordinal);
 }
 
-void CFxConverterIWAPIImpl::ResolveNames(std::vector<CFxString>& names, std::vector<CFxString>& types,
-                                         std::vector<CFxString>& handles, const CFxCustomActionData& handleArray,
-                                         const CFxCustomActionData& classArray) const
+EntityList CFxConverterIWAPIImpl::ResolveNames(const CFxCustomActionData& handleArray,
+                                               const CFxCustomActionData& classArray) const
 {
+    std::vector<CFxString> names;
     ResolveVariables(names, handleArray, classArray);
     const std::vector<OdDbHandle>& objects = handleArray.GetHandleArray();
     const std::vector<const OdRxClass*>& classes = classArray.GetClassArray();
-    types.assign(objects.size(), {});
-    handles.assign(objects.size(), {});
+    EntityList entities(objects.size());
     for (std::size_t i = 0; i < objects.size(); ++i) {
         CFxString type;
+        entities[i].name = names[i];
         if (!names[i].isEmpty())
-            GetApiTypeName(classes[i], type, types[i]);
-        handles[i] = objects[i].ascii();
+            GetApiTypeName(classes[i], type, entities[i].type);
+        entities[i].handle = objects[i].ascii();
     }
+    return entities;
 }
 
 void CFxConverterIWAPIImpl::ResolveVariables(std::vector<CFxString>& names, const CFxCustomActionData& handleArray,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "objects/CFxConverterIWAPIObject.h"
+#include "targets/enumerations.h"
 
 struct ChangeRow;
 
@@ -33,7 +34,8 @@ struct ChangeRow
     CFxString tag;
     /// The host's word for it: a property, an operation, or what stands behind "Get" and "Set" of a pair of them.
     CFxString property = {};
-    const char* enumeration = nullptr;
+    /// Whose enumerator the shown text tells.
+    const inkmacro::TextEnumeration* enumeration = nullptr;
     CFxString axis = {}; ///< "X", "Y" or "Z", set when rows with axes are spread out
 };
 

@@ -9,7 +9,7 @@ namespace {
 
 QString setEnum(const Change& change, const CFxString& word)
 {
-    return EmitSetEnumProperty(change.writer, change.name, change.row.enumeration, change.row.property, word);
+    return EmitSetEnumProperty(change.writer, change.name, *change.row.enumeration, change.row.property, word);
 }
 
 QString setBool(const Change& change, bool value)
@@ -84,7 +84,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertModifiedPolyline3D(PropertyList& li
 {
     static const ChangeRows rows{
         {kIndexedPoint, "Vertex", "VertexCoordinate"},
-        {kChosenEnum, "Fit/Smooth", "FitSmooth", "iwPolyLine3DFitSmooth"},
+        {kChosenEnum, "Fit/Smooth", "FitSmooth", &inkmacro::enums::polyLine3DFitSmooth},
         {kYes, "Closed", "Closed"},
     };
     return ConvertRows(rows, list, fromAdded, name, text);
@@ -125,7 +125,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertModifiedPolygonMesh(PropertyList& l
         {kInteger, "M density", "MDensity"},
         {kInteger, "N density", "NDensity"},
         {kClosed, "N closed", "NClosed"},
-        {kEnum, "Fit/Smooth", "FitSmooth", "iwPolygonMeshFitSmooth"},
+        {kEnum, "Fit/Smooth", "FitSmooth", &inkmacro::enums::polygonMeshFitSmooth},
     };
     return ConvertRows(rows, list, fromAdded, name, text);
 }
@@ -168,7 +168,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertModifiedRichLine(PropertyList& list
                                                               QString& text)
 {
     static const ChangeRows rows{
-        {kEnum, "RLine justification", "Justification", "iwRichLineJustification"},
+        {kEnum, "RLine justification", "Justification", &inkmacro::enums::richLineJustification},
         {kReal, "RLine scale", "Scale"},
     };
     return ConvertRows(rows, list, fromAdded, name, text);
@@ -191,7 +191,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertModifiedEmbeddedObject(PropertyList
         {kReal, "Height", "Height"},
         {kPoint, "Position", "Position"},
         {kReal, "Width", "Width"},
-        {kEnum, "Print quality", "PrintQuality", "iwEmbeddedObjectPrintQuality"},
+        {kEnum, "Print quality", "PrintQuality", &inkmacro::enums::embeddedObjectPrintQuality},
     };
     return ConvertRows(rows, list, fromAdded, name, text);
 }
@@ -207,8 +207,8 @@ std::int32_t CFxConverterIWAPIObject::ConvertModifiedViewport(PropertyList& list
         {kReal, "Custom scale", "CustomScale"},
         {kExactYes, "Display locked", "DisplayLocked"},
         {kExactYes, "On", "IsOn"},
-        {kEnum, "Shade print", "ShadePrintStyle", "iwViewportShadePrintStyle"},
-        {kChosenEnum, "Standard scale", "StandardScale", "iwViewportStandardScale"},
+        {kEnum, "Shade print", "ShadePrintStyle", &inkmacro::enums::viewportShadePrintStyle},
+        {kChosenEnum, "Standard scale", "StandardScale", &inkmacro::enums::viewportStandardScale},
     };
     return ConvertRows(rows, list, fromAdded, name, text);
 }

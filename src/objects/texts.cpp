@@ -126,7 +126,7 @@ QString CFxConverterIWAPIObject::ReadSimpleNote(AddedProperties& properties, con
 
     QString text = EmitInsertSimpleNote(writer, position, height, rotation, contents, name);
     if (justification)
-        text += EmitSetEnumProperty(writer, name, "iwTextJustification", "Justify", *justification);
+        text += EmitSetEnumProperty(writer, name, inkmacro::enums::textJustification, "Justify", *justification);
     // The justification moves the note: both points are set again behind it.
     text += EmitCallWithPoint(writer, name, "SetAlignmentPoint", alignment);
     text += EmitCallWithPoint(writer, name, "SetPosition", position);

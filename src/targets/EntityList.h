@@ -4,10 +4,12 @@
 
 #include <vector>
 
-/// The objects that a statement works on, element by element.
-struct EntityList
+/// An object that a statement works on.
+struct ListedEntity
 {
-    std::vector<CFxString> names;   ///< variable; empty for an object that the generated code does not know
-    std::vector<CFxString> types;   ///< enumerator of iwObjectType_e; empty where the name is
-    std::vector<CFxString> handles; ///< hexadecimal
+    CFxString name;   ///< variable; empty for an object that the generated code does not know
+    CFxString type;   ///< enumerator of iwObjectType_e; empty where the name is
+    CFxString handle; ///< hexadecimal
 };
+
+using EntityList = std::vector<ListedEntity>;

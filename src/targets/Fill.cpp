@@ -345,6 +345,12 @@ Fill& Fill::text(QStringView value)
     return add(value);
 }
 
+Fill& Fill::text(QString&& value)
+{
+    kept_.push_back(std::move(value));
+    return text(QStringView(kept_.back()));
+}
+
 Fill& Fill::text(QLatin1String value)
 {
     percent_ = percent_ || value.contains(QLatin1Char('%'));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/db/OdGe.h"
+#include "host/kernel/CFxString.h"
 
 #include <QString>
 #include <QStringView>
@@ -52,7 +53,7 @@ private:
 /// a chain of QString::arg calls makes of the literal, also where a value itself holds markers for the values behind
 /// it; but Qt's warnings about missing markers are not printed.
 ///
-/// Texts are kept as views until str() is called: each must live as long as that.
+/// Texts that stand in a variable are kept as views: each must live until str() is called.
 class Fill
 {
 public:
@@ -67,15 +68,20 @@ public:
 
     /// Four blanks a level, but one blank at level 0. A level that was lowered below 0 has as many blanks as its
     /// counterpart above: so QString::arg takes a negative width.
-    Fill& indent(unsigned level)
+    static int indentationWidth(unsigned level)
     {
         const int width = static_cast<int>(4 * level);
-        return add(Blanks{width == 0 ? 1 : std::abs(width)});
+        return width == 0 ? 1 : std::abs(width);
     }
+    Fill& indent(unsigned level) { return add(Blanks{indentationWidth(level)}); }
 
     Fill& text(QStringView value);
     Fill& text(QLatin1String value);
     Fill& text(const QString& value) { return text(QStringView(value)); }
+    Fill& text(const CFxString& value) { return text(value.toQString()); }
+    /// Keeps a text that nobody else does.
+    Fill& text(QString&& value);
+    Fill& text(CFxString&& value) { return text(QString(value.toQString())); }
 
     Fill& number(int value) { return add(qlonglong{value}); }
     Fill& number(long value) { return add(qlonglong{value}); }
@@ -128,7 +134,8 @@ private:
 
     const Template* template_;
     QVarLengthArray<Value, 16> values_;
-    bool percent_ = false; ///< some text holds '%'
+    std::vector<QString> kept_; ///< what views among the values look at; their characters never move
+    bool percent_ = false;      ///< some text holds '%'
 };
 
 /// Fixed notation with 14 decimals, halves away from zero: "1.50000000000000".

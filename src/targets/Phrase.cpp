@@ -15,6 +15,11 @@ std::vector<const Phrase*>& registry()
 
 } // namespace
 
+const char* Words::in(Target target) const
+{
+    return std::array{cpp, csharp, javascript, vbNet, cppCom, vba}[static_cast<std::size_t>(target)];
+}
+
 Phrase::Phrase(const char* name, const Words& words)
     : name_(name), literals_{words.cpp, words.csharp, words.javascript, words.vbNet, words.cppCom, words.vba}
 {

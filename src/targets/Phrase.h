@@ -19,6 +19,8 @@ struct Words
     const char* javascript = nullptr;
     const char* vbNet = nullptr;
     const char* vba = nullptr;
+
+    const char* in(Target target) const;
 };
 
 /// One statement in all targets, safe to use from several threads. Phrases have static storage duration; each lists
@@ -37,6 +39,13 @@ public:
     bool has(Target target) const { return literals_[static_cast<std::size_t>(target)] != nullptr; }
     /// Null for a hole. A template is cut on its first use, since a run needs few of them, and then kept.
     const Template* in(Target target) const;
+
+    /// Whether anything in this process has asked for the target's template: so the literals that no recording reaches
+    /// can be enumerated.
+    bool used(Target target) const
+    {
+        return templates_[static_cast<std::size_t>(target)].load(std::memory_order_relaxed) != nullptr;
+    }
 
     static const std::vector<const Phrase*>& all();
 

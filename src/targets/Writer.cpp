@@ -13,3 +13,8 @@ Fill Writer::fillIndented(const Phrase& phrase) const
 {
     return Fill(phrase.in(target), IndentLevel);
 }
+
+QString Writer::indentation() const
+{
+    return QString(Fill::indentationWidth(IndentLevel), ' ');
+}

@@ -18,6 +18,8 @@ public:
     inkmacro::Fill fill(const inkmacro::Phrase& phrase) const;
     /// The same for literals in which `%2` is a value already: only the indentation is filled in.
     inkmacro::Fill fillIndented(const inkmacro::Phrase& phrase) const;
+    /// The blanks in front of a statement.
+    QString indentation() const;
 
     const inkmacro::Target target;
     /// Depth of the statement being written, four blanks a level.

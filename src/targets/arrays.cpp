@@ -1,11 +1,370 @@
-// Arrays of objects and of object types.
+// Arrays in the six targets.
 
 #include "targets/arrays.h"
 
-#include "targets/blocks.h"
-#include "targets/comArrays.h"
+#include "targets/LineEnd.h"
+
+#include <QStringList>
 
 using namespace inkmacro;
+
+Coordinates spatial(const OdArray<OdGePoint3d>& points)
+{
+    Coordinates coordinates{3, {}};
+    for (const OdGePoint3d& point : points)
+        coordinates.values.insert(coordinates.values.end(), {point.x, point.y, point.z});
+    return coordinates;
+}
+
+template<class Point>
+static Coordinates withoutHeights(const OdArray<Point>& points)
+{
+    Coordinates coordinates{2, {}};
+    for (const Point& point : points)
+        coordinates.values.insert(coordinates.values.end(), {point.x, point.y});
+    return coordinates;
+}
+
+Coordinates planar(const OdArray<OdGePoint2d>& points)
+{
+    return withoutHeights(points);
+}
+
+Coordinates planar(const OdArray<OdGePoint3d>& points)
+{
+    return withoutHeights(points);
+}
+
+ArrayPlace::ArrayPlace(Writer& writer, const QString& name, std::uint32_t number, Brackets brackets)
+    : writer(writer),
+      name(name),
+      number(number),
+      brackets(brackets),
+      indentation(writer.indentation()),
+      lineEnd(LineEnd)
+{
+}
+
+QString numberedName(const Words& names, Target target, std::uint32_t number)
+{
+    return names.in(target) + QString::number(number);
+}
+
+// Of all lines of elements the values are indentation, line end, name, index in its brackets (but none in C++, whose
+// arrays grow by adding), and the element; in COM indentation, line end, name, number of the locals, and the element.
+
+static const Phrase objectElement{"array of objects",
+                                  {
+                                      .cpp = "%1%3.add(%4);%2",
+                                      .cppCom = "%1val%4 = %5;%2"
+                                                "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (IDispatch*)(val%4) );"
+                                                "%2%1rgIndices%4++;%2",
+                                      .csharp = "%1%3[%4] = new DispatchWrapper(%5);%2",
+                                      .javascript = "%1%3[%4] = %5;%2",
+                                      .vbNet = "%1%3(%4) = New DispatchWrapper(%5)%2",
+                                      .vba = "%1Set %3(%4) = %5%2",
+                                  }};
+
+static const Phrase bareObjectElement{"array of bare objects",
+                                      {
+                                          .cpp = "%1%3.add(%4);%2",
+                                          .vbNet = "%1%3(%4) = %5%2",
+                                          .vba = "%1Set %3(%4) = %5%2",
+                                      }};
+
+static const Phrase objectTypeElement{"array of object types",
+                                      {
+                                          .cpp = "%1%3.add(%4);%2",
+                                          .csharp = "%1%3[%4] = (int)%5;%2",
+                                          .javascript = "%1%3[%4] = %5;%2",
+                                          .vbNet = "%1%3(%4) = CInt( %5 )%2",
+                                          .vba = "%1%3(%4) = %5%2",
+                                      }};
+
+static const Phrase bareObjectTypeElement{"array of bare object types",
+                                          {
+                                              .cpp = "%1%3.add(%4);%2",
+                                              .vbNet = "%1%3(%4) = %5%2",
+                                              .vba = "%1%3(%4) = %5%2",
+                                          }};
+
+static const Phrase integerElement{"array of integers",
+                                   {
+                                       .cpp = "%1%3.add(%4);%2",
+                                       .cppCom = "%1val%4 = %5;%2"
+                                                 "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (int*)&(val%4) );%2"
+                                                 "%1rgIndices%4++;%2",
+                                       .vbNet = "%1%3(%4) = %5%2",
+                                       .vba = "%1%3(%4) = %5%2",
+                                   }};
+
+static const Phrase realElement{"array of numbers",
+                                {
+                                    .cpp = "%1%3.add(%4);%2",
+                                    .cppCom = "%1val%4 = %5;%2"
+                                              "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (double*)&(val%4) );%2"
+                                              "%1rgIndices%4++;%2",
+                                    .csharp = "%1%3[%4] = %5;%2",
+                                    .javascript = "%1%3[%4] = %5;%2",
+                                    .vbNet = "%1%3(%4) = %5%2",
+                                    .vba = "%1%3(%4) = %5%2",
+                                }};
+
+/// The values of a place, and the index.
+static void putPlace(Fill& line, const ArrayPlace& place, const QString& index)
+{
+    line.text(place.indentation).text(place.lineEnd).text(place.name);
+    if (place.writer.target == Target::CppCom)
+        line.number(place.number);
+    else if (place.writer.target != Target::Cpp)
+        line.text(index);
+}
+
+/// What stands within the brackets of Basic, with the blanks of the place.
+static QString bracketed(const ArrayPlace& place, const QString& text)
+{
+    return isBasic(place.writer.target) && place.brackets == Brackets::Spaced ? ' ' + text + ' ' : text;
+}
+
+static QString elementLine(const Phrase& phrase, const ArrayPlace& place, std::size_t index, const QString& word)
+{
+    const QString indexText = bracketed(place, QString::number(index));
+    Fill line(phrase.in(place.writer.target));
+    putPlace(line, place, indexText);
+    return line.text(word);
+}
+
+static QString elementLines(const Phrase& phrase, const char* comType, const ArrayPlace& place,
+                            const std::vector<QString>& words)
+{
+    QString lines;
+    if (place.writer.target == Target::CppCom) {
+        static const Template head("%1long rgIndices%3;%2%1rgIndices%3 = 0;%2%1%4 val%3;%2");
+        lines =
+            Fill(&head).text(place.indentation).text(place.lineEnd).number(place.number).text(QLatin1String(comType));
+    }
+    for (std::size_t i = 0; i < words.size(); ++i)
+        lines += elementLine(phrase, place, i, words[i]);
+    return lines;
+}
+
+/// An object as an element has it: .NET's wrapper has brackets too.
+static QString objectWord(const ArrayPlace& place, const QString& word)
+{
+    return place.writer.target == Target::VbNet ? bracketed(place, word) : word;
+}
+
+QString objectLines(const ArrayPlace& place, std::vector<QString> words)
+{
+    for (QString& word : words)
+        word = objectWord(place, word);
+    return elementLines(objectElement, "IDispatch*", place, words);
+}
+
+QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words)
+{
+    const bool com = place.writer.target == Target::CppCom;
+    return elementLines(com ? integerElement : objectTypeElement, "int", place, words);
+}
+
+QString integerLines(const ArrayPlace& place, const std::vector<int>& values)
+{
+    std::vector<QString> words;
+    for (const int value : values)
+        words.push_back(QString::number(value));
+    return elementLines(integerElement, "int", place, words);
+}
+
+static QString formatted(double value, NumberForm numbers)
+{
+    return numbers == NumberForm::Long ? FormatLong(value) : FormatShort(value);
+}
+
+QString realLines(const ArrayPlace& place, const std::vector<double>& values, NumberForm numbers)
+{
+    std::vector<QString> words;
+    for (const double value : values)
+        words.push_back(formatted(value, numbers));
+    return elementLines(realElement, "double", place, words);
+}
+
+/// Nothing in COM: there the locals come first.
+static QString singleLine(const Phrase& phrase, const ArrayPlace& place, std::size_t index, const QString& word)
+{
+    return place.writer.target == Target::CppCom ? QString() : elementLine(phrase, place, index, word);
+}
+
+QString objectLine(const ArrayPlace& place, std::size_t index, const QString& word)
+{
+    return singleLine(objectElement, place, index, objectWord(place, word));
+}
+
+QString bareObjectLine(const ArrayPlace& place, std::size_t index, const QString& word)
+{
+    return singleLine(bareObjectElement, place, index, word);
+}
+
+QString objectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word)
+{
+    return singleLine(objectTypeElement, place, index, word);
+}
+
+QString bareObjectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word)
+{
+    return singleLine(bareObjectTypeElement, place, index, word);
+}
+
+QString realLine(const ArrayPlace& place, std::size_t index, double value, NumberForm numbers)
+{
+    return singleLine(realElement, place, index, formatted(value, numbers));
+}
+
+// Of all lines of points the values are indentation, line end, name, the indices of the coordinates (but none in C++),
+// and the coordinates; in COM the number of the locals stands last.
+
+static const Phrase point2d{
+    "array of points",
+    {
+        .cpp = "%1%3.add(%4);%3.add(%5);%2",
+        .cppCom = "%1x=%6; y=%7;%2"
+                  "%1rgIndices%8=%4;%2%1SafeArrayPutElement( %3.parray, &rgIndices%8, (double*)&(x) );%2"
+                  "%1rgIndices%8=%5;%2%1SafeArrayPutElement( %3.parray, &rgIndices%8, (double*)&(y) );%2",
+        .vbNet = "%1%3( %4 )=%6%2%1%3( %5 )=%7%2",
+        .vba = "%1%3( %4 )=%6%2%1%3( %5 )=%7%2",
+    }};
+
+static const Phrase point3d{
+    "array of points",
+    {
+        .cpp = "%1%3.add(%4);%3.add(%5);%3.add(%6);%2",
+        .cppCom = "%1x_%10=%7; y_%10=%8; z_%10=%9;%2"
+                  "%1rgIndices%10=%4;%2%1SafeArrayPutElement( %3.parray, &rgIndices%10, (double*)&(x_%10) );%2"
+                  "%1rgIndices%10=%5;%2%1SafeArrayPutElement( %3.parray, &rgIndices%10, (double*)&(y_%10) );%2"
+                  "%1rgIndices%10=%6;%2%1SafeArrayPutElement( %3.parray, &rgIndices%10, (double*)&(z_%10) );%2",
+        .vbNet = "%1%3( %4 )=%7%2%1%3( %5 )=%8%2%1%3( %6 )=%9%2",
+        .vba = "%1%3( %4 )=%7%2%1%3( %5 )=%8%2%1%3( %6 )=%9%2",
+    }};
+
+QString coordinateList(const Coordinates& coordinates, NumberForm numbers)
+{
+    QStringList list;
+    for (const double value : coordinates.values)
+        list.append(formatted(value, numbers));
+    return list.join(',');
+}
+
+static QString comPointsHead(const ArrayPlace& place, int axes)
+{
+    static const Template planarHead("%1long rgIndices%3;%2%1rgIndices%3 = -1;%2%1double x, y;%2");
+    static const Template spatialHead("%1long rgIndices%3;%2%1rgIndices%3 = -1;%2%1double x_%3, y_%3, z_%3;%2");
+    return Fill(axes == 2 ? &planarHead : &spatialHead)
+        .text(place.indentation)
+        .text(place.lineEnd)
+        .number(place.number);
+}
+
+QString pointLines(const ArrayPlace& place, const Coordinates& coordinates, NumberForm numbers)
+{
+    const Target target = place.writer.target;
+    QString lines = target == Target::CppCom ? comPointsHead(place, coordinates.axes) : QString();
+    const auto axes = static_cast<std::size_t>(coordinates.axes);
+    const Template* const words = (axes == 2 ? point2d : point3d).in(target);
+    for (std::size_t first = 0; first + axes <= coordinates.values.size(); first += axes) {
+        Fill line(words);
+        line.text(place.indentation).text(place.lineEnd).text(place.name);
+        for (std::size_t i = first; target != Target::Cpp && i < first + axes; ++i)
+            line.number(qulonglong{i});
+        for (std::size_t i = first; i < first + axes; ++i) {
+            if (numbers == NumberForm::Long)
+                line.real(coordinates.values[i]);
+            else
+                line.shortReal(coordinates.values[i]);
+        }
+        lines += line.number(place.number).str();
+    }
+    return lines;
+}
+
+QString comPointLines(const ArrayPlace& place, const OdGePoint3d& point, NumberForm numbers, bool declareLocals)
+{
+    static const Template head("%1long rgIndices%3;%2%1rgIndices%3 = 0;%2");
+    static const Template locals("%1double x, y, z;%2");
+    static const Template values("%1x=%5; y=%6; z=%7;%2"
+                                 "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (double*)&(x) );%2%1rgIndices%4=1;%2"
+                                 "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (double*)&(y) );%2%1rgIndices%4=2;%2"
+                                 "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (double*)&(z) );%2");
+    QString lines = Fill(&head).text(place.indentation).text(place.lineEnd).number(place.number);
+    if (declareLocals)
+        lines += Fill(&locals).text(place.indentation).text(place.lineEnd).str();
+    Fill put(&values);
+    put.text(place.indentation).text(place.lineEnd).text(place.name).number(place.number);
+    return lines + (numbers == NumberForm::Long ? put.point(point) : put.shortPoint(point)).str();
+}
+
+Fill& ArrayArgument::open(Fill& call) const
+{
+    if (target == Target::CSharp || target == Target::JavaScript)
+        return call.text(words);
+    call.number(number);
+    if (isBasic(target))
+        call.number(highestIndex());
+    return call.text(words);
+}
+
+Fill& ArrayArgument::close(Fill& call) const
+{
+    return target == Target::CppCom ? call.number(count) : call;
+}
+
+/// A script's own array in front of the call.
+static QString scriptArray(Writer& writer, const QString& name, const QString& list, Brackets brackets)
+{
+    const QString blank = brackets == Brackets::Spaced ? QStringLiteral(" ") : QString();
+    return writer.indentation() + "var " + name + " = new Array(" + blank + list + blank + ");" + LineEnd;
+}
+
+ArrayArgument coordinateArray(Writer& writer, const Coordinates& coordinates, const char* script, NumberForm numbers,
+                              Brackets scriptBrackets)
+{
+    const Target target = writer.target;
+    ArrayArgument array{target};
+    array.count = static_cast<int>(coordinates.values.size());
+    if (target == Target::CSharp) {
+        array.words = coordinateList(coordinates, numbers);
+        return array;
+    }
+    array.number = ++writer.UniqueCounter;
+    if (target == Target::JavaScript) {
+        array.words = script + QString::number(array.number);
+        array.before = scriptArray(writer, array.words, coordinateList(coordinates, numbers), scriptBrackets);
+        return array;
+    }
+    const QString name = (target == Target::CppCom ? "variant" : "Coordinates") + QString::number(array.number);
+    array.words = pointLines({writer, name, array.number}, coordinates, numbers);
+    return array;
+}
+
+ArrayArgument integerArray(Writer& writer, const std::vector<int>& values, std::uint32_t number, const char* name,
+                           const char* script, Brackets scriptBrackets)
+{
+    const Target target = writer.target;
+    ArrayArgument array{target, number, static_cast<int>(values.size())};
+    if (target != Target::CSharp && target != Target::JavaScript) {
+        const ArrayPlace place(writer, name + QString::number(number), number, Brackets::Tight);
+        array.words = integerLines(place, values);
+        return array;
+    }
+    QStringList list;
+    for (const int value : values)
+        list.append(QString::number(value));
+    array.words = list.join(',');
+    if (target == Target::JavaScript) {
+        const QString variable = script + QString::number(number);
+        array.before = scriptArray(writer, variable, array.words, scriptBrackets);
+        array.words = variable;
+    }
+    return array;
+}
 
 Fill fillList(Writer& writer, const Phrase& phrase)
 {
@@ -21,32 +380,4 @@ int arrayBound(Writer& writer, std::size_t count)
 QString listHead(Writer& writer, const Phrase& phrase, std::size_t count)
 {
     return fillList(writer, phrase).number(writer.UniqueCounter).number(arrayBound(writer, count));
-}
-
-QString listElement(Writer& writer, const Phrase& phrase, std::size_t index, const QString& word)
-{
-    Fill line = fillList(writer, phrase);
-    line.number(writer.UniqueCounter);
-    // An array of the C++ add-in grows by adding.
-    if (writer.target != Target::Cpp)
-        line.number(qulonglong{index});
-    return line.text(word);
-}
-
-QString objectElements(Writer& writer, const Phrase& phrase, const char* array, const std::vector<CFxString>& names)
-{
-    if (writer.target == Target::CppCom)
-        return comObjects(writer.IndentLevel, array, writer.UniqueCounter,
-                          std::vector<QString>(names.begin(), names.end()));
-    QString text;
-    for (std::size_t i = 0; i < names.size(); ++i)
-        text += listElement(writer, phrase, i, names[i]);
-    return text;
-}
-
-QString ownBlock(Writer& writer, const std::function<QString()>& filling)
-{
-    const QString begin = EmitBlockBegin(writer);
-    const QString text = filling();
-    return begin + text + EmitBlockEnd(writer);
 }

@@ -2,10 +2,8 @@
 
 #include "targets/customActions.h"
 
+#include "frame/counters.h"
 #include "targets/arrays.h"
-#include "targets/comArrays.h"
-
-#include <QStringList>
 
 using namespace inkmacro;
 
@@ -111,10 +109,9 @@ static const Phrase setElementColor{"EmitSetElementColor",
 
 QString EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmColor& color)
 {
-    // Process-wide, so a later conversion uses variables that its macro does not declare. It has to stay so.
-    static std::uint32_t calls = 0;
+    // The count goes on, so a later conversion uses variables that its macro does not declare. It has to stay so.
     QString text;
-    if (calls++ == 0)
+    if (processCounters.elementColors++ == 0)
         text += writer.fill(declareElementColor);
     text += writer.fill(chooseElement).number(element);
     if (color.isByACI())
@@ -200,40 +197,19 @@ static const Phrase insertViewport{
                "%1    Set %4 = sheetsArray%3.InsertViewport( Coordinates%3 )%2%1End If%2",
     }};
 
-/// One corner, where the coordinates do not stand in the call.
-static const Phrase viewportCorner{
-    "EmitInsertViewport",
-    {
-        .cpp = "%1    Coordinates%3.add(%7);Coordinates%3.add(%8);Coordinates%3.add(%9);%2",
-        .vba = "%1    Coordinates%3( %4 )=%7%2%1    Coordinates%3( %5 )=%8%2%1    Coordinates%3( %6 )=%9%2",
-    }};
-
-static QString polygonFilling(Writer& writer, const OdArray<OdGePoint3d>& points)
-{
-    if (writer.target == Target::CppCom)
-        return comPoints(writer.IndentLevel + 1, writer.UniqueCounter, points);
-    QString lines;
-    QStringList coordinates;
-    unsigned index = 0;
-    for (const OdGePoint3d& point : points) {
-        Fill line = writer.fill(viewportCorner);
-        line.number(writer.UniqueCounter);
-        if (writer.target == Target::Vba)
-            line.number(index).number(index + 1).number(index + 2);
-        lines += line.shortPoint(point);
-        coordinates << FormatShort(point.x) << FormatShort(point.y) << FormatShort(point.z);
-        index += 3;
-    }
-    return viewportCorner.has(writer.target) ? lines : coordinates.join(',');
-}
-
 QString EmitInsertViewport(Writer& writer, const CFxString& variable, const CFxString& sheetName,
                            const OdArray<OdGePoint3d>& points)
 {
-    ++writer.UniqueCounter;
-    const QString filling = polygonFilling(writer, points);
+    const std::uint32_t number = ++writer.UniqueCounter;
+    const bool listed =
+        writer.target == Target::CSharp || writer.target == Target::JavaScript || writer.target == Target::VbNet;
+    const char* const name = writer.target == Target::CppCom ? "variant" : "Coordinates";
+    ArrayPlace place(writer, name + QString::number(number), number);
+    place.indentation += QLatin1String("    ");
+    const QString filling = listed ? coordinateList(spatial(points), NumberForm::Short)
+                                   : pointLines(place, spatial(points), NumberForm::Short);
     return writer.fill(insertViewport)
-        .number(writer.UniqueCounter)
+        .number(number)
         .text(variable)
         .text(sheetName)
         .text(filling)

@@ -5,8 +5,6 @@
 
 #include "targets/LineEnd.h"
 #include "targets/arrays.h"
-#include "targets/blocks.h"
-#include "targets/comArrays.h"
 #include "targets/objectTypes.h"
 
 using namespace inkmacro;
@@ -30,20 +28,32 @@ static const Phrase objectsSize{"EmitMoveEntities",
                                     .javascript = "%1iwEntities%2 = new Array(%3);\n\n",
                                 }};
 
-static const Phrase objectElement{"EmitMoveEntities",
-                                  {
-                                      .cpp = "%1iwEntities%2.add(%3);\n",
-                                      .csharp = "%1iwEntities%2[%3] = new DispatchWrapper(%4);\n",
-                                      .javascript = "%1iwEntities%2[%3] = %4;\n",
-                                      .vbNet = "%1iwEntities%3( %4 ) = New DispatchWrapper( %5 )%2",
-                                      .vba = "%1Set iwEntities%3( %4 ) = %5%2",
-                                  }};
+/// Where the objects go.
+static ArrayPlace objectsPlace(Writer& writer)
+{
+    static constexpr Words names{.cpp = "iwEntities",
+                                 .cppCom = "objects",
+                                 .csharp = "iwEntities",
+                                 .javascript = "iwEntities",
+                                 .vbNet = "iwEntities",
+                                 .vba = "iwEntities"};
+    const std::uint32_t number = writer.UniqueCounter;
+    return {writer, numberedName(names, writer.target, number), number};
+}
+
+static QString objectElements(Writer& writer, const EntityList& entities)
+{
+    std::vector<QString> names;
+    for (const ListedEntity& entity : entities)
+        names.push_back(entity.name);
+    return objectLines(objectsPlace(writer), names);
+}
 
 static QString objectArray(Writer& writer, const EntityList& entities)
 {
-    const std::size_t count = entities.names.size();
+    const std::size_t count = entities.size();
     return listHead(writer, objectsHead, count) + listHead(writer, objectsSize, count) +
-           objectElements(writer, objectElement, "objects", entities.names) + LineEnd;
+           objectElements(writer, entities) + LineEnd;
 }
 
 static const Phrase typedHead{
@@ -60,15 +70,6 @@ static const Phrase typedHead{
                  "%1iwEntities%3 = New DispatchWrapper( %4 ) {}%2%2",
         .vba = "%1Dim iwEntities%3( %4 ) As Object%2%1Dim types%3( %4 ) As iwObjectType_e%2%2",
     }};
-
-static const Phrase typeElement{"EmitMirrorEntities",
-                                {
-                                    .cpp = "%1types%2.add(%3);\n",
-                                    .csharp = "%1types%2[%3] = (int)iwObjectType_e.%4;\n",
-                                    .javascript = "%1types%2[%3] = %4;\n",
-                                    .vbNet = "%1types%3( %4 ) = CInt( Inkwright.iwObjectType_e.%5 )%2",
-                                    .vba = "%1types%3( %4 ) = Inkwright.iwObjectType_e.%5%2",
-                                }};
 
 /// The two statements carry the suffix of the arrays and not one of their own, so two unknown objects declare the same
 /// variables twice.
@@ -98,55 +99,33 @@ static const Phrase lookUpObject{
                "%1Set iwObjForCopy%3 = iwApp.GetActiveDocument().GetObjectByHandle(\"%4\", iwTypeForCopy%3)%2",
     }};
 
-static const Phrase foundType{"EmitCopyEntities",
-                              {
-                                  .cpp = "%1types%2.add(iwTypeForCopy%3);\n",
-                                  .csharp = "%1types%2[%3] = (int)iwTypeForCopy%4;\n",
-                                  .javascript = "%1types%2[%3] = iwTypeForCopy%4;\n",
-                                  .vbNet = "%1types%3( %4 ) = CInt( iwTypeForCopy%5 )%2",
-                                  .vba = "%1types%3( %4 ) = iwTypeForCopy%5%2",
-                              }};
-
-static const Phrase foundObject{"EmitCopyEntities",
-                                {
-                                    .cpp = "%1iwEntities%2.add(iwObjForCopy%3);\n",
-                                    .csharp = "%1iwEntities%2[%3] = new DispatchWrapper(iwObjForCopy%4);\n",
-                                    .javascript = "%1iwEntities%2[%3] = iwObjForCopy%4;\n",
-                                    .vbNet = "%1iwEntities%3( %4 ) = New DispatchWrapper( iwObjForCopy%5 )%2",
-                                    .vba = "%1Set iwEntities%3( %4 ) = iwObjForCopy%5%2",
-                                }};
-
 static QString typedElements(Writer& writer, const EntityList& entities, bool lookUpUnknown)
 {
     const QString suffix = QString::number(writer.UniqueCounter);
+    const ArrayPlace objects = objectsPlace(writer);
+    const ArrayPlace types(writer, "types" + suffix, writer.UniqueCounter);
     QString text;
-    std::vector<CFxString> comObjectWords;
-    std::vector<QString> comTypeWords;
-    for (std::size_t i = 0; i < entities.names.size(); ++i) {
-        const QString& name = entities.names[i];
-        const QString type = objectTypeWord(writer.target, entities.types[i]);
+    std::vector<QString> objectWords;
+    std::vector<QString> typeWords;
+    for (std::size_t i = 0; i < entities.size(); ++i) {
+        const auto& [name, type, handle] = entities[i];
         const bool lookedUp = lookUpUnknown && name.isEmpty();
         if (lookedUp)
             text += fillList(writer, lookUpType).number(writer.UniqueCounter).str() +
-                    fillList(writer, lookUpObject).number(writer.UniqueCounter).text(entities.handles[i]).str();
-        if (writer.target == Target::CppCom) {
-            comObjectWords.emplace_back(lookedUp ? "iwObjForCopy" + suffix : name);
-            comTypeWords.push_back(lookedUp ? "iwTypeForCopy" + suffix : type);
-        } else {
-            text += listElement(writer, lookedUp ? foundType : typeElement, i, lookedUp ? suffix : type);
-            text += listElement(writer, lookedUp ? foundObject : objectElement, i, lookedUp ? suffix : name);
-        }
+                    fillList(writer, lookUpObject).number(writer.UniqueCounter).text(handle).str();
+        objectWords.push_back(lookedUp ? "iwObjForCopy" + suffix : name.toQString());
+        typeWords.push_back(lookedUp ? "iwTypeForCopy" + suffix : objectTypeWord(writer.target, type));
+        text += objectTypeLine(types, i, typeWords.back()) + objectLine(objects, i, objectWords.back());
     }
     if (writer.target == Target::CppCom)
-        text += objectElements(writer, objectElement, "objects", comObjectWords) + ownBlock(writer, [&] {
-                    return comIntegers(writer.IndentLevel, "types", writer.UniqueCounter, comTypeWords);
-                });
+        text += objectLines(objects, objectWords) +
+                inOwnGroup(types, [&](const ArrayPlace& place) { return objectTypeLines(place, typeWords); });
     return text;
 }
 
 static QString typedArrays(Writer& writer, const EntityList& entities, bool lookUpUnknown)
 {
-    const std::size_t count = entities.names.size();
+    const std::size_t count = entities.size();
     return listHead(writer, typedHead, count) + listHead(writer, objectsSize, count) +
            typedElements(writer, entities, lookUpUnknown) + LineEnd;
 }
@@ -308,15 +287,14 @@ static const Phrase stretchEnd{
 
 static QString crossingBox(Writer& writer, const OdGePoint3d& start, const OdGePoint3d& end)
 {
-    if (writer.target == Target::CppCom)
-        return ownBlock(writer,
-                        [&] {
-                            return comPoint(writer.IndentLevel, "crossingBoxStartCorner", writer.UniqueCounter, start);
-                        }) +
-               ownBlock(
-                   writer,
-                   [&] { return comPoint(writer.IndentLevel, "crossingBoxEndCorner", writer.UniqueCounter, end); }) +
-               LineEnd;
+    if (writer.target == Target::CppCom) {
+        const auto corner = [&](const char* name, const OdGePoint3d& point) {
+            return inOwnGroup(
+                {writer, name + QString::number(writer.UniqueCounter), writer.UniqueCounter},
+                [&](const ArrayPlace& place) { return comPointLines(place, point, NumberForm::Short, true); });
+        };
+        return corner("crossingBoxStartCorner", start) + corner("crossingBoxEndCorner", end) + LineEnd;
+    }
     return fillList(writer, stretchStart).number(writer.UniqueCounter).shortPoint(start).str() +
            fillList(writer, stretchEnd).number(writer.UniqueCounter).shortPoint(end).str();
 }
@@ -341,9 +319,8 @@ static const Phrase stretchEntities{
 QString EmitStretchEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& start,
                             const OdGePoint3d& end, const OdGeVector3d& offset)
 {
-    const std::size_t count = entities.names.size();
+    const std::size_t count = entities.size();
     const QString arrays = listHead(writer, stretchHead, count) + listHead(writer, stretchSize, count) +
-                           objectElements(writer, objectElement, "objects", entities.names) + LineEnd +
-                           crossingBox(writer, start, end);
+                           objectElements(writer, entities) + LineEnd + crossingBox(writer, start, end);
     return arrays + fillList(writer, stretchEntities).shortVector(offset).number(writer.UniqueCounter).str();
 }

@@ -7,97 +7,107 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cstring>
-#include <initializer_list>
-#include <utility>
 
 namespace inkmacro {
 
-namespace {
+namespace enums {
 
-struct ByValue
-{
-    const char* name;
-    int firstValue;
-    /// In ascending order of values; the first is the default.
-    std::array<const char*, 21> suffixes;
-};
+const ValueEnumeration arcLengthSymbols{"iwArcLengthSymbols", 0, {"BeforeDimText", "AboveDimText", "None"}};
 
-constexpr ByValue kByValue[] = {
-    {"iwArcLengthSymbols", 0, {"BeforeDimText", "AboveDimText", "None"}},
-    {"iwArcSymbolType", 0, {"PrecedingDimensionText", "AboveDimensionText", "None"}},
-    {"iwArcTextAlignment", 1, {"Fit", "Left", "Right", "Center"}},
-    {"iwArcTextDirection", 1, {"OutwardFromCenter", "InwardToTheCenter"}},
-    {"iwArcTextPosition", 1, {"OnConvexSide", "OnConcaveSide"}},
-    {"iwDimensionArrowType",
-     0,
-     {"ClosedFilled",
-      "ClosedBlank",
-      "Closed",
-      "Dot",
-      "ArchitecturalTick",
-      "Oblique",
-      "Open",
-      "OriginIndicator",
-      "OriginIndicator2",
-      "RightAngle",
-      "Open30",
-      "DotSmall",
-      "DotBlank",
-      "DotSmallBlank",
-      "Box",
-      "BoxFilled",
-      "DatumTriangle",
-      "DatumTriangleFilled",
-      "Integral",
-      "None",
-      "Custom"}},
-    {"iwDimensionCenterMarkDisplay", 0, {"None", "AsCenterLine", "AsMark"}},
-    {"iwDimensionFitDimensionText",
-     0,
-     {"NextToDimensionLine", "AboveDimensionLineWithLeader", "AboveDimensionLineWithoutLeader"}},
-    {"iwDimensionFitGeometry", 0, {"TextAndArrows", "Arrows", "Text", "Automatic", "KeepTextBetweenExtensionLines"}},
-    {"iwDimensionScale", 1, {"UseScaleFactor", "ScaleDimensionsAccordingToSheet"}},
-    {"iwDimensionStyleAngleFormat", 0, {"DecimalDegrees", "Deg_Min_Sec", "Grads", "Radians"}},
-    {"iwDimensionTextAlignment", 0, {"UseISOStandard", "AlignHorizontally", "AlignWithDimensionLines"}},
-    {"iwDimensionTextHorizontalPosition", 0, {"Centered", "AtExtLine1", "AtExtLine2", "OverExtLine1", "OverExtLine2"}},
-    {"iwDimensionTextVerticalPosition", 0, {"Centered", "Above", "Outside", "JIS"}},
-    {"iwDualDimensionFormat",
-     1,
-     {"Scientific", "Decimal", "Engineering", "ArchitecturalStacked", "FractionalStacked", "Architectural",
-      "Fractional", "WindowsDesktop"}},
-    {"iwDualDimensionInsertPlacement", 0, {"BelowPrimaryUnits", "AfterPrimaryUnits"}},
-    {"iwLeaderType", 0, {"LineWithNoArrow", "SplineWithNoArrow", "LineWithArrow", "SplineWithArrow"}},
-    {"iwLinearDimensionFormat",
-     1,
-     {"Scientific", "Decimal", "Engineering", "Architectural", "Fractional", "WindowsDesktop"}},
-    {"iwLinearDimensionFractionalDisplay", 0, {"Horizontal", "Diagonal", "NotStacked"}},
-    {"iwNoteDirection", 0, {"ByStyle", "Vertical", "Horizontal"}},
-    {"iwTableCellType", 1, {"Title", "Header", "Data"}},
-    {"iwToleranceCalculation", 0, {"None", "Symmetrical", "Deviation", "Limits", "Basic"}},
-    {"iwToleranceVerticalTextJustification", 0, {"Bottom", "Middle", "Top"}},
-    {"iwUnitPrecision", 0, {"0", "1", "2", "3", "4", "5", "6", "7", "8"}},
-};
+const ValueEnumeration arcSymbolType{"iwArcSymbolType", 0, {"PrecedingDimensionText", "AboveDimensionText", "None"}};
+
+const ValueEnumeration arcTextAlignment{"iwArcTextAlignment", 1, {"Fit", "Left", "Right", "Center"}};
+
+const ValueEnumeration arcTextDirection{"iwArcTextDirection", 1, {"OutwardFromCenter", "InwardToTheCenter"}};
+
+const ValueEnumeration arcTextPosition{"iwArcTextPosition", 1, {"OnConvexSide", "OnConcaveSide"}};
+
+const ValueEnumeration dimensionArrowType{"iwDimensionArrowType",
+                                          0,
+                                          {"ClosedFilled",
+                                           "ClosedBlank",
+                                           "Closed",
+                                           "Dot",
+                                           "ArchitecturalTick",
+                                           "Oblique",
+                                           "Open",
+                                           "OriginIndicator",
+                                           "OriginIndicator2",
+                                           "RightAngle",
+                                           "Open30",
+                                           "DotSmall",
+                                           "DotBlank",
+                                           "DotSmallBlank",
+                                           "Box",
+                                           "BoxFilled",
+                                           "DatumTriangle",
+                                           "DatumTriangleFilled",
+                                           "Integral",
+                                           "None",
+                                           "Custom"}};
+
+const ValueEnumeration dimensionCenterMarkDisplay{
+    "iwDimensionCenterMarkDisplay", 0, {"None", "AsCenterLine", "AsMark"}};
+
+const ValueEnumeration dimensionFitDimensionText{
+    "iwDimensionFitDimensionText",
+    0,
+    {"NextToDimensionLine", "AboveDimensionLineWithLeader", "AboveDimensionLineWithoutLeader"}};
+
+const ValueEnumeration dimensionFitGeometry{
+    "iwDimensionFitGeometry", 0, {"TextAndArrows", "Arrows", "Text", "Automatic", "KeepTextBetweenExtensionLines"}};
+
+const ValueEnumeration dimensionScale{"iwDimensionScale", 1, {"UseScaleFactor", "ScaleDimensionsAccordingToSheet"}};
+
+const ValueEnumeration dimensionStyleAngleFormat{
+    "iwDimensionStyleAngleFormat", 0, {"DecimalDegrees", "Deg_Min_Sec", "Grads", "Radians"}};
+
+const ValueEnumeration dimensionTextAlignment{
+    "iwDimensionTextAlignment", 0, {"UseISOStandard", "AlignHorizontally", "AlignWithDimensionLines"}};
+
+const ValueEnumeration dimensionTextHorizontalPosition{
+    "iwDimensionTextHorizontalPosition", 0, {"Centered", "AtExtLine1", "AtExtLine2", "OverExtLine1", "OverExtLine2"}};
+
+const ValueEnumeration dimensionTextVerticalPosition{
+    "iwDimensionTextVerticalPosition", 0, {"Centered", "Above", "Outside", "JIS"}};
+
+const ValueEnumeration dualDimensionFormat{"iwDualDimensionFormat",
+                                           1,
+                                           {"Scientific", "Decimal", "Engineering", "ArchitecturalStacked",
+                                            "FractionalStacked", "Architectural", "Fractional", "WindowsDesktop"}};
+
+const ValueEnumeration dualDimensionInsertPlacement{
+    "iwDualDimensionInsertPlacement", 0, {"BelowPrimaryUnits", "AfterPrimaryUnits"}};
+
+const ValueEnumeration leaderType{
+    "iwLeaderType", 0, {"LineWithNoArrow", "SplineWithNoArrow", "LineWithArrow", "SplineWithArrow"}};
+
+const ValueEnumeration linearDimensionFormat{
+    "iwLinearDimensionFormat",
+    1,
+    {"Scientific", "Decimal", "Engineering", "Architectural", "Fractional", "WindowsDesktop"}};
+
+const ValueEnumeration linearDimensionFractionalDisplay{
+    "iwLinearDimensionFractionalDisplay", 0, {"Horizontal", "Diagonal", "NotStacked"}};
+
+const ValueEnumeration noteDirection{"iwNoteDirection", 0, {"ByStyle", "Vertical", "Horizontal"}};
+
+const ValueEnumeration tableCellType{"iwTableCellType", 1, {"Title", "Header", "Data"}};
+
+const ValueEnumeration toleranceCalculation{
+    "iwToleranceCalculation", 0, {"None", "Symmetrical", "Deviation", "Limits", "Basic"}};
+
+const ValueEnumeration toleranceVerticalTextJustification{
+    "iwToleranceVerticalTextJustification", 0, {"Bottom", "Middle", "Top"}};
+
+const ValueEnumeration unitPrecision{"iwUnitPrecision", 0, {"0", "1", "2", "3", "4", "5", "6", "7", "8"}};
 
 /// The borders of a table are bits: the position in the row is the bit's number.
-constexpr ByValue kTableBorders{
+const ValueEnumeration tableBordersLineType{
     "iwTableBordersLineType",
     0,
-    {"HorizontalTop", "HorizontalInside", "HorizontalBottom", "VerticalLeft", "VerticalInside", "VerticalRight"}};
-
-struct TextRow
-{
-    const char* text;
-    const char* suffix;
-};
-
-struct ByText
-{
-    const char* name;
-    const char* defaultSuffix;
-    const char* translationContext;
-    std::initializer_list<TextRow> rows;
-};
+    {"HorizontalTop", "HorizontalInside", "HorizontalBottom", "VerticalLeft", "VerticalInside", "VerticalRight"},
+    true};
 
 #define INKMACRO_TWO_WAY_ALIGNMENTS                                                                                    \
     {"Top Left", "TopLeft"}, {"Top Center", "TopCenter"}, {"Top Right", "TopRight"}, {"Middle Left", "MiddleLeft"},    \
@@ -109,134 +119,135 @@ struct ByText
 
 constexpr const char* kValues = "property_values";
 
-const ByText kByText[] = {
-    {"iwBlockInsertUnits",
-     "Unitless",
-     "CFxUtils",
-     {{"Inches", "Inches"},
-      {"Feet", "Feet"},
-      {"Miles", "Miles"},
-      {"Millimeters", "Millimeters"},
-      {"Centimeters", "Centimeters"},
-      {"Meters", "Meters"},
-      {"Kilometers", "Kilometers"},
-      {"Microinches", "Microinches"},
-      {"Mils", "Mils"},
-      {"Yards", "Yards"},
-      {"Angstroms", "Angstroms"},
-      {"Nanometers", "Nanometers"},
-      {"Microns", "Microns"},
-      {"Decimeters", "Decimeters"},
-      {"Dekameters", "Dekameters"},
-      {"Hectometers", "Hectometers"},
-      {"Gigameters", "Gigameters"},
-      {"Astronomical", "Astronomical"},
-      {"Light Years", "LightYears"},
-      {"Parsecs", "Parsecs"}}},
-    {"iwEmbeddedObjectPrintQuality",
-     "LowGraphics",
-     kValues,
-     {{"Monochrome", "Monochrome"}, {"High graphics", "HighGraphics"}}},
-    {"iwNoteJustification", "TopLeft", kValues, {INKMACRO_TWO_WAY_ALIGNMENTS}},
-    // The enumerators' own spelling.
-    {"iwPolyLine3DFitSmooth", "None", kValues, {{"Quadratic", "Qudratic"}, {"Cubic", "Cubic"}}},
-    {"iwPolygonMeshFitSmooth", "None", kValues, {{"Quadratic", "Qudratic"}, {"Cubic", "Cubic"}, {"Bezier", "Bezier"}}},
-    {"iwRichLineJustification", "Top", kValues, {{"Zero", "Zero"}, {"Bottom", "Bottom"}}},
-    {"iwTableCellAlignment", "TopLeft", kValues, {INKMACRO_TWO_WAY_ALIGNMENTS}},
-    {"iwTextJustification",
-     "Left",
-     kValues,
-     {{"Center", "Center"},
-      {"Right", "Right"},
-      {"Aligned", "Aligned"},
-      {"Middle", "Middle"},
-      {"Fit", "Fit"},
-      INKMACRO_TWO_WAY_ALIGNMENTS}},
-    {"iwViewportShadePrintStyle",
-     "AsDisplayed",
-     kValues,
-     {{"Wireframe", "Wireframe"}, {"Hidden", "Hidden"}, {"Rendered", "Rendered"}}},
-    {"iwViewportStandardScale",
-     "ScaleToFit",
-     kValues,
-     {{"Custom scale", "CustomScale"},
-      {"1:1", "1_1"},
-      {"1:2", "1_2"},
-      {"1:4", "1_4"},
-      {"1:8", "1_8"},
-      {"1:10", "1_10"},
-      {"1:16", "1_16"},
-      {"1:20", "1_20"},
-      {"1:30", "1_30"},
-      {"1:40", "1_40"},
-      {"1:50", "1_50"},
-      {"1:100", "1_100"},
-      {"2:1", "2_1"},
-      {"4:1", "4_1"},
-      {"8:1", "8_1"},
-      {"10:1", "10_1"},
-      {"100:1", "100_1"},
-      {"1/128\" = 1'-0\"", "1_128in_1ft"},
-      {"1/64\" = 1'-0\"", "1_64in_1ft"},
-      {"1/32\" = 1'-0\"", "1_32in_1ft"},
-      {"1/16\" = 1'-0\"", "1_16in_1ft"},
-      {"3/32\" = 1'-0\"", "3_32in_1ft"},
-      {"1/8\" = 1'-0\"", "1_8in_1ft"},
-      {"3/16\" = 1'-0\"", "3_16in_1ft"},
-      {"1/4\" = 1'-0\"", "1_4in_1ft"},
-      {"3/8\" = 1'-0\"", "3_8in_1ft"},
-      {"1/2\" = 1'-0\"", "1_2in_1ft"},
-      {"3/4\" = 1'-0\"", "3_4in_1ft"},
-      {"1\" = 1'-0\"", "1in_1ft"},
-      {"3\" = 1'-0\"", "3in_1ft"},
-      {"6\" = 1'-0\"", "6in_1ft"},
-      {"1'-0\" = 1'-0\"", "1ft_1ft"}}},
-};
+const TextEnumeration blockInsertUnits{"iwBlockInsertUnits",
+                                       "Unitless",
+                                       "CFxUtils",
+                                       {{"Inches", "Inches"},
+                                        {"Feet", "Feet"},
+                                        {"Miles", "Miles"},
+                                        {"Millimeters", "Millimeters"},
+                                        {"Centimeters", "Centimeters"},
+                                        {"Meters", "Meters"},
+                                        {"Kilometers", "Kilometers"},
+                                        {"Microinches", "Microinches"},
+                                        {"Mils", "Mils"},
+                                        {"Yards", "Yards"},
+                                        {"Angstroms", "Angstroms"},
+                                        {"Nanometers", "Nanometers"},
+                                        {"Microns", "Microns"},
+                                        {"Decimeters", "Decimeters"},
+                                        {"Dekameters", "Dekameters"},
+                                        {"Hectometers", "Hectometers"},
+                                        {"Gigameters", "Gigameters"},
+                                        {"Astronomical", "Astronomical"},
+                                        {"Light Years", "LightYears"},
+                                        {"Parsecs", "Parsecs"}}};
+
+const TextEnumeration embeddedObjectPrintQuality{"iwEmbeddedObjectPrintQuality",
+                                                 "LowGraphics",
+                                                 kValues,
+                                                 {{"Monochrome", "Monochrome"}, {"High graphics", "HighGraphics"}}};
+
+const TextEnumeration noteJustification{"iwNoteJustification", "TopLeft", kValues, {INKMACRO_TWO_WAY_ALIGNMENTS}};
+
+// The enumerators' own spelling.
+const TextEnumeration polyLine3DFitSmooth{
+    "iwPolyLine3DFitSmooth", "None", kValues, {{"Quadratic", "Qudratic"}, {"Cubic", "Cubic"}}};
+
+const TextEnumeration polygonMeshFitSmooth{
+    "iwPolygonMeshFitSmooth", "None", kValues, {{"Quadratic", "Qudratic"}, {"Cubic", "Cubic"}, {"Bezier", "Bezier"}}};
+
+const TextEnumeration richLineJustification{
+    "iwRichLineJustification", "Top", kValues, {{"Zero", "Zero"}, {"Bottom", "Bottom"}}};
+
+const TextEnumeration tableCellAlignment{"iwTableCellAlignment", "TopLeft", kValues, {INKMACRO_TWO_WAY_ALIGNMENTS}};
+
+const TextEnumeration textJustification{"iwTextJustification",
+                                        "Left",
+                                        kValues,
+                                        {{"Center", "Center"},
+                                         {"Right", "Right"},
+                                         {"Aligned", "Aligned"},
+                                         {"Middle", "Middle"},
+                                         {"Fit", "Fit"},
+                                         INKMACRO_TWO_WAY_ALIGNMENTS}};
+
+const TextEnumeration viewportShadePrintStyle{
+    "iwViewportShadePrintStyle",
+    "AsDisplayed",
+    kValues,
+    {{"Wireframe", "Wireframe"}, {"Hidden", "Hidden"}, {"Rendered", "Rendered"}}};
+
+const TextEnumeration viewportStandardScale{"iwViewportStandardScale",
+                                            "ScaleToFit",
+                                            kValues,
+                                            {{"Custom scale", "CustomScale"},
+                                             {"1:1", "1_1"},
+                                             {"1:2", "1_2"},
+                                             {"1:4", "1_4"},
+                                             {"1:8", "1_8"},
+                                             {"1:10", "1_10"},
+                                             {"1:16", "1_16"},
+                                             {"1:20", "1_20"},
+                                             {"1:30", "1_30"},
+                                             {"1:40", "1_40"},
+                                             {"1:50", "1_50"},
+                                             {"1:100", "1_100"},
+                                             {"2:1", "2_1"},
+                                             {"4:1", "4_1"},
+                                             {"8:1", "8_1"},
+                                             {"10:1", "10_1"},
+                                             {"100:1", "100_1"},
+                                             {"1/128\" = 1'-0\"", "1_128in_1ft"},
+                                             {"1/64\" = 1'-0\"", "1_64in_1ft"},
+                                             {"1/32\" = 1'-0\"", "1_32in_1ft"},
+                                             {"1/16\" = 1'-0\"", "1_16in_1ft"},
+                                             {"3/32\" = 1'-0\"", "3_32in_1ft"},
+                                             {"1/8\" = 1'-0\"", "1_8in_1ft"},
+                                             {"3/16\" = 1'-0\"", "3_16in_1ft"},
+                                             {"1/4\" = 1'-0\"", "1_4in_1ft"},
+                                             {"3/8\" = 1'-0\"", "3_8in_1ft"},
+                                             {"1/2\" = 1'-0\"", "1_2in_1ft"},
+                                             {"3/4\" = 1'-0\"", "3_4in_1ft"},
+                                             {"1\" = 1'-0\"", "1in_1ft"},
+                                             {"3\" = 1'-0\"", "3in_1ft"},
+                                             {"6\" = 1'-0\"", "6in_1ft"},
+                                             {"1'-0\" = 1'-0\"", "1ft_1ft"}}};
 
 #undef INKMACRO_TWO_WAY_ALIGNMENTS
 
-template<class Table>
-const auto& rowOf(const Table& table, const char* name)
+} // namespace enums
+
+static QString withSuffix(Target target, const char* enumeration, const char* suffix)
 {
-    const auto found =
-        std::find_if(std::begin(table), std::end(table), [&](const auto& row) { return !std::strcmp(row.name, name); });
-    Q_ASSERT_X(found != std::end(table), "enumerations", name);
-    return *found;
+    return enumeratorText(target, QString(enumeration) + "_e", QString(enumeration) + '_' + suffix);
 }
 
-QString valueText(Target target, const ByValue& row, int position)
+/// The place of the value in the row, negative for one that cannot be there.
+static std::int64_t positionOf(const ValueEnumeration& enumeration, std::int32_t value)
 {
-    const bool inside = position >= 0 && position < static_cast<int>(row.suffixes.size()) &&
-                        row.suffixes[static_cast<std::size_t>(position)];
-    const char* const suffix = row.suffixes[inside ? static_cast<std::size_t>(position) : 0];
-    return enumeratorText(target, QString(row.name) + "_e", QString(row.name) + '_' + suffix);
+    if (!enumeration.bits)
+        return std::int64_t{value} - enumeration.firstValue;
+    const auto bits = static_cast<std::uint32_t>(value);
+    return std::has_single_bit(bits) ? std::countr_zero(bits) : -1;
 }
 
-} // namespace
-
-QString EnumeratorByValue(Target target, const char* enumeration, int value)
+QString EnumeratorByValue(Target target, const ValueEnumeration& enumeration, std::int32_t value)
 {
-    if (!std::strcmp(enumeration, kTableBorders.name)) {
-        const auto bits = static_cast<unsigned>(value);
-        return valueText(target, kTableBorders, std::has_single_bit(bits) ? std::countr_zero(bits) : 0);
-    }
-    const ByValue& row = rowOf(kByValue, enumeration);
-    // A value far below the first must not wrap round into the row.
-    return valueText(target, row, value < row.firstValue ? 0 : value - row.firstValue);
+    const std::int64_t position = positionOf(enumeration, value);
+    const bool inside = position >= 0 && position < static_cast<std::int64_t>(enumeration.suffixes.size());
+    return withSuffix(target, enumeration.name, enumeration.suffixes.begin()[inside ? position : 0]);
 }
 
-QString EnumeratorByText(Target target, const char* enumeration, const QString& text)
+QString EnumeratorByText(Target target, const TextEnumeration& enumeration, const QString& text)
 {
-    const ByText& row = rowOf(kByText, enumeration);
-    const char* suffix = row.defaultSuffix;
-    for (const TextRow& candidate : row.rows) {
-        const QString shown = QCoreApplication::translate(row.translationContext, candidate.text, nullptr, -1);
-        if (text.compare(shown, Qt::CaseInsensitive) == 0) {
-            suffix = candidate.suffix;
-            break;
-        }
-    }
-    return enumeratorText(target, QString(row.name) + "_e", QString(row.name) + '_' + suffix);
+    const auto shown = [&](const TextEnumeration::Row& row) {
+        return QCoreApplication::translate(enumeration.translationContext, row.text, nullptr, -1);
+    };
+    for (const TextEnumeration::Row& row : enumeration.rows)
+        if (text.compare(shown(row), Qt::CaseInsensitive) == 0)
+            return withSuffix(target, enumeration.name, row.suffix);
+    return withSuffix(target, enumeration.name, enumeration.defaultSuffix);
 }
 
 QString LineWeightEnumerator(Target target, int weight)

@@ -2,21 +2,13 @@
 
 #include "targets/fileLocations.h"
 
+#include "frame/counters.h"
+
 #include <QStringList>
 
 using namespace inkmacro;
 
 namespace {
-
-/// Numbers the variables of one operation, a count a target. Goes on from conversion to conversion.
-class FileLocationCounter
-{
-public:
-    std::uint32_t next(Target target) { return counts_[static_cast<std::size_t>(target)]++; }
-
-private:
-    std::array<std::uint32_t, targetCount> counts_{};
-};
 
 CFxString numbered(const char* pattern, std::uint32_t number)
 {
@@ -38,8 +30,7 @@ static const Phrase interfaceFilesObject{
 
 QString EmitInterfaceFilesObject(Writer& writer, CFxString& variable)
 {
-    static FileLocationCounter counter;
-    variable = numbered("iwInterfaceFiles_%1", counter.next(writer.target));
+    variable = numbered("iwInterfaceFiles_%1", processCounters.of(writer.target).interfaceFiles++);
     return writer.fill(interfaceFilesObject).text(variable);
 }
 
@@ -56,8 +47,7 @@ static const Phrase systemFilesObject{
 
 QString EmitSystemFilesObject(Writer& writer, CFxString& variable)
 {
-    static FileLocationCounter counter;
-    variable = numbered("iwSystemFiles_%1", counter.next(writer.target));
+    variable = numbered("iwSystemFiles_%1", processCounters.of(writer.target).systemFiles++);
     return writer.fill(systemFilesObject).text(variable);
 }
 
@@ -75,8 +65,7 @@ static const Phrase drawingSupportFilesObject{
 
 QString EmitDrawingSupportFilesObject(Writer& writer, CFxString& variable)
 {
-    static FileLocationCounter counter;
-    variable = numbered("iwDrawingSupportFiles_%1", counter.next(writer.target));
+    variable = numbered("iwDrawingSupportFiles_%1", processCounters.of(writer.target).drawingSupportFiles++);
     return writer.fill(drawingSupportFilesObject).text(variable);
 }
 
@@ -132,8 +121,7 @@ static QString fileLocationElement(Writer& writer, const CFxString& property, st
 QString EmitFileLocationArray(Writer& writer, const CFxString& variable, const CFxString& property,
                               const std::vector<CFxString>& values)
 {
-    static FileLocationCounter counter;
-    const std::uint32_t array = counter.next(writer.target);
+    const std::uint32_t array = processCounters.of(writer.target).fileLocationArrays++;
     const auto size = static_cast<int>(values.size());
 
     // VBA declares the last index and not the size.

@@ -69,15 +69,6 @@ static const Phrase removeSize{"EmitGroupRemoveEntities",
                                    .vbNet = "%1removeObject%3 = New DispatchWrapper( %4 ) {}%2",
                                }};
 
-static const Phrase removeElement{"EmitGroupRemoveEntities",
-                                  {
-                                      .cpp = "%1removeObject%2.add(%3);\n",
-                                      .csharp = "%1removeObject%2[%3] = new DispatchWrapper(%4);\n",
-                                      .javascript = "%1removeObject%2[%3] = %4;\n",
-                                      .vbNet = "%1removeObject%3( %4 ) = New DispatchWrapper( %5 )%2",
-                                      .vba = "%1Set removeObject%3( %4 ) = %5%2",
-                                  }};
-
 static const Phrase removeCall{"EmitGroupRemoveEntities",
                                {
                                    .cpp = "%1%3->RemoveEntities(removeObject%2);\n",
@@ -90,8 +81,9 @@ static const Phrase removeCall{"EmitGroupRemoveEntities",
 
 QString EmitGroupRemoveEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group)
 {
-    ++writer.UniqueCounter;
+    const std::uint32_t number = ++writer.UniqueCounter;
+    const ArrayPlace place(writer, "removeObject" + QString::number(number), number);
     return LineEnd + listHead(writer, removeHead, names.size()) + listHead(writer, removeSize, names.size()) +
-           objectElements(writer, removeElement, "removeObject", names) + LineEnd +
-           writer.fillIndented(removeCall).number(writer.UniqueCounter).text(group).str();
+           objectLines(place, {names.begin(), names.end()}) + LineEnd +
+           writer.fillIndented(removeCall).number(number).text(group).str();
 }

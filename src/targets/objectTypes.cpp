@@ -2,6 +2,8 @@
 
 #include "targets/objectTypes.h"
 
+#include "targets/wording.h"
+
 #include <QHash>
 
 namespace inkmacro {
@@ -135,7 +137,8 @@ std::int32_t ObjectTypeValue(const QString& enumerator)
 
 QString objectTypeWord(Target target, const QString& enumerator)
 {
-    return target == Target::JavaScript ? QString::number(ObjectTypeValue(enumerator)) : enumerator;
+    return target == Target::JavaScript ? QString::number(ObjectTypeValue(enumerator))
+                                        : enumeratorText(target, "iwObjectType_e", enumerator);
 }
 
 } // namespace inkmacro

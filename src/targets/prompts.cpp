@@ -4,6 +4,21 @@
 
 using namespace inkmacro;
 
+static QString prompted(Writer& writer, const Phrase& phrase, const CFxString& prompt, const OdGePoint3d& value)
+{
+    return writer.fill(phrase).number(++writer.UniqueCounter).text(prompt).shortPoint(value);
+}
+
+static QString prompted(Writer& writer, const Phrase& phrase, const CFxString& prompt, double value)
+{
+    return writer.fill(phrase).number(++writer.UniqueCounter).text(prompt).shortReal(value);
+}
+
+static QString prompted(Writer& writer, const Phrase& phrase, const CFxString& prompt, std::int32_t value)
+{
+    return writer.fill(phrase).number(++writer.UniqueCounter).text(prompt).number(value);
+}
+
 /// The point's prompt can be answered with a keyword as well, so it has lists of them, both empty.
 static const Phrase promptPoint{
     "EmitPromptPoint",
@@ -78,7 +93,7 @@ static const Phrase promptPoint{
 
 QString EmitPromptPoint(Writer& writer, const CFxString& prompt, const OdGePoint3d& value)
 {
-    return writer.fill(promptPoint).number(++writer.UniqueCounter).text(prompt).shortPoint(value);
+    return prompted(writer, promptPoint, prompt, value);
 }
 
 static const Phrase promptCorner{
@@ -102,7 +117,7 @@ static const Phrase promptCorner{
 
 QString EmitPromptCorner(Writer& writer, const CFxString& prompt, const OdGePoint3d& value)
 {
-    return writer.fill(promptCorner).number(++writer.UniqueCounter).text(prompt).shortPoint(value);
+    return prompted(writer, promptCorner, prompt, value);
 }
 
 /// In VBA a marker's `%` is missing behind `Double`: the 2 and the next statement stand on the declaration's line. That
@@ -125,7 +140,7 @@ static const Phrase promptAngle{
 
 QString EmitPromptAngle(Writer& writer, const CFxString& prompt, double value)
 {
-    return writer.fill(promptAngle).number(++writer.UniqueCounter).text(prompt).shortReal(value);
+    return prompted(writer, promptAngle, prompt, value);
 }
 
 /// The other prompts for one number: the variable, its types in C++, C# and Basic, the call. `out` has C#'s word with
@@ -161,33 +176,33 @@ static const Phrase promptInteger{"EmitPromptInteger", INTEGER_PROMPT("integer")
 
 QString EmitPromptDistance(Writer& writer, const CFxString& prompt, double value)
 {
-    return writer.fill(promptDistance).number(++writer.UniqueCounter).text(prompt).shortReal(value);
+    return prompted(writer, promptDistance, prompt, value);
 }
 
 QString EmitPromptOrient(Writer& writer, const CFxString& prompt, double value)
 {
-    return writer.fill(promptOrient).number(++writer.UniqueCounter).text(prompt).shortReal(value);
+    return prompted(writer, promptOrient, prompt, value);
 }
 
 QString EmitPromptScale(Writer& writer, const CFxString& prompt, double value)
 {
-    return writer.fill(promptScale).number(++writer.UniqueCounter).text(prompt).shortReal(value);
+    return prompted(writer, promptScale, prompt, value);
 }
 
 QString EmitPromptDouble(Writer& writer, const CFxString& prompt, double value)
 {
-    return writer.fill(promptDouble).number(++writer.UniqueCounter).text(prompt).shortReal(value);
+    return prompted(writer, promptDouble, prompt, value);
 }
 
 /// The number of a color, not a color object.
 QString EmitPromptColor(Writer& writer, const CFxString& prompt, std::int32_t value)
 {
-    return writer.fill(promptColor).number(++writer.UniqueCounter).text(prompt).number(value);
+    return prompted(writer, promptColor, prompt, value);
 }
 
 QString EmitPromptInteger(Writer& writer, const CFxString& prompt, std::int32_t value)
 {
-    return writer.fill(promptInteger).number(++writer.UniqueCounter).text(prompt).number(value);
+    return prompted(writer, promptInteger, prompt, value);
 }
 
 static const Phrase promptString{

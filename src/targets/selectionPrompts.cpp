@@ -3,54 +3,26 @@
 #include "targets/selectionPrompts.h"
 
 #include "targets/arrays.h"
-#include "targets/comArrays.h"
+#include "targets/wording.h"
 
 using namespace inkmacro;
 
-/// The lines of the two lists may name the array and the index, the literals of C# and JavaScript do without.
-static const Phrase promptType{"EmitPromptSelection",
-                               {
-                                   .cpp = "%1types%4.add(%3);%2",
-                                   .csharp = "%1iwObjectType_e.%3,%2",
-                                   .javascript = "%1%3,%2",
-                                   .vbNet = "%1types%4( %5 ) = Inkwright.iwObjectType_e.%3%2",
-                                   .vba = "%1types%4( %5 ) = Inkwright.iwObjectType_e.%3%2",
-                               }};
+/// C# and JavaScript list the elements where they declare the arrays.
+static const Phrase listedElement{"EmitPromptSelection: listed element",
+                                  {
+                                      .csharp = "%1%3,%2",
+                                      .javascript = "%1%3,%2",
+                                  }};
 
-static const Phrase promptName{"EmitPromptSelection",
-                               {
-                                   .cpp = "%1entities%4.add(%3);%2",
-                                   .csharp = "%1%3,%2",
-                                   .javascript = "%1%3,%2",
-                                   .vbNet = "%1entities%4( %5 ) = %3%2",
-                                   .vba = "%1Set entities%4( %5 ) = %3%2",
-                               }};
+/// C++ cannot look an object up within an expression: it does so in front of each line, into locals.
+static const Phrase lookUp{"EmitPromptSelection: look-up",
+                           {
+                               .cpp = "%1iwDoc->GetObjectByHandle(L\"%3\", &type%4, &object%4);%2",
+                           }};
 
-static const Phrase promptFoundType{
-    "EmitPromptSelection",
-    {
-        .cpp = "%1iwDoc->GetObjectByHandle(L\"%3\", &type%4, &object%4);%2%1types%4.add(type%4);%2",
-        .csharp = "%1%3,%2",
-        .javascript = "%1%3,%2",
-        .vbNet = "%1types%4( %5 ) = %3%2",
-        .vba = "%1types%4( %5 ) = %3%2",
-    }};
-
-static const Phrase promptFoundName{
-    "EmitPromptSelection",
-    {
-        .cpp = "%1iwDoc->GetObjectByHandle(L\"%3\", &type%4, &object%4);%2%1entities%4.add(object%4);%2",
-        .csharp = "%1%3,%2",
-        .javascript = "%1%3,%2",
-        .vbNet = "%1entities%4( %5 ) = %3%2",
-        .vba = "%1Set entities%4( %5 ) = %3%2",
-    }};
-
-/// C++ cannot look an object up within an expression: its lines take the handle itself.
 static const Phrase findType{
-    "EmitPromptSelection",
+    "EmitPromptSelection: looked-up word",
     {
-        .cpp = "%1",
         .cppCom = "pConnection->m_IwApp->GetObjectType(pConnection->m_IwApp->GetActiveDocument()->"
                   "GetObjectByHandle(L\"%1\", &type%2))",
         .csharp = "iwApp.GetObjectType(iwApp.GetActiveDocument().GetObjectByHandle(\"%1\", out type%2))",
@@ -60,9 +32,8 @@ static const Phrase findType{
     }};
 
 static const Phrase findObject{
-    "EmitPromptSelection",
+    "EmitPromptSelection: looked-up word",
     {
-        .cpp = "%1",
         .cppCom = "pConnection->m_IwApp->GetActiveDocument()->GetObjectByHandle(L\"%1\", &type%2)",
         .csharp = "iwApp.GetActiveDocument().GetObjectByHandle(\"%1\", out type%2)",
         .javascript = "mDoc.GetObjectByHandle(\"%1\").DispObj",
@@ -141,34 +112,37 @@ static const Phrase promptSelection{
 
 QString EmitPromptSelection(Writer& writer, const EntityList& entities)
 {
-    ++writer.UniqueCounter;
+    const std::uint32_t number = ++writer.UniqueCounter;
+    const ArrayPlace typePlace(writer, "types" + QString::number(number), number);
+    const ArrayPlace namePlace(writer, "entities" + QString::number(number), number);
     std::vector<QString> types;
     std::vector<QString> names;
     QString typeLines;
     QString nameLines;
-    for (std::size_t i = 0; i < entities.names.size(); ++i) {
-        const bool known = !entities.names[i].isEmpty() && !entities.types[i].isEmpty();
-        const auto find = [&](const Phrase& phrase) {
-            return Fill(phrase.in(writer.target)).text(entities.handles[i]).number(writer.UniqueCounter).str();
+    for (std::size_t i = 0; i < entities.size(); ++i) {
+        const auto& [name, type, handle] = entities[i];
+        const bool known = !name.isEmpty() && !type.isEmpty();
+        const auto found = [&, &handle = handle](const Phrase& phrase, const char* local) {
+            return phrase.has(writer.target) ? Fill(phrase.in(writer.target)).text(handle).number(number).str()
+                                             : local + QString::number(number);
         };
-        const auto line = [&](const Phrase& phrase, const QString& word) {
-            return writer.fill(phrase).text(word).number(writer.UniqueCounter).number(qulonglong{i}).str();
-        };
-        types.push_back(known ? entities.types[i].toQString() : find(findType));
-        names.push_back(known ? entities.names[i].toQString() : find(findObject));
-        typeLines += line(known ? promptType : promptFoundType, types.back());
-        nameLines += line(known ? promptName : promptFoundName, names.back());
+        types.push_back(known ? enumeratorText(writer.target, "iwObjectType_e", type) : found(findType, "type"));
+        names.push_back(known ? name.toQString() : found(findObject, "object"));
+        const QString search = known ? QString() : writer.fill(lookUp).text(handle).number(number).str();
+        typeLines += search + bareObjectTypeLine(typePlace, i, types.back()) +
+                     writer.fill(listedElement).text(types.back()).str();
+        nameLines +=
+            search + bareObjectLine(namePlace, i, names.back()) + writer.fill(listedElement).text(names.back()).str();
     }
     if (writer.target == Target::CppCom) {
-        typeLines =
-            ownBlock(writer, [&] { return comIntegers(writer.IndentLevel, "types", writer.UniqueCounter, types); });
-        nameLines = comObjects(writer.IndentLevel, "entities", writer.UniqueCounter, names);
+        typeLines = inOwnGroup(typePlace, [&](const ArrayPlace& place) { return objectTypeLines(place, types); });
+        nameLines = objectLines(namePlace, names);
     }
     // The prompt is always the same, whatever the recording said.
     return writer.fill(promptSelection)
-        .number(writer.UniqueCounter)
+        .number(number)
         .text(typeLines)
         .text(nameLines)
         .text(QLatin1String("Select Objects: "))
-        .number(arrayBound(writer, entities.names.size()));
+        .number(arrayBound(writer, entities.size()));
 }

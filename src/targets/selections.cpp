@@ -2,6 +2,7 @@
 
 #include "targets/selections.h"
 
+#include "frame/counters.h"
 #include "targets/LineEnd.h"
 #include "targets/arrays.h"
 
@@ -84,28 +85,6 @@ static const Phrase coordinatesHead{"EmitSelectEntities",
                                         .vba = "%1Dim doubleArray%2(%3) As Double\n",
                                     }};
 
-/// All points are written to the same three places.
-static const Phrase coordinateX{"EmitSelectEntities",
-                                {
-                                    .cpp = "%1doubleArray%2.add(%3);\n",
-                                    .csharp = "%1doubleArray%2[0] = %3;\n",
-                                    .vba = "%1doubleArray%2(0) = %3\n",
-                                }};
-
-static const Phrase coordinateY{"EmitSelectEntities",
-                                {
-                                    .cpp = "%1doubleArray%2.add(%3);\n",
-                                    .csharp = "%1doubleArray%2[1] = %3;\n",
-                                    .vba = "%1doubleArray%2(1) = %3\n",
-                                }};
-
-static const Phrase coordinateZ{"EmitSelectEntities",
-                                {
-                                    .cpp = "%1doubleArray%2.add(%3);\n",
-                                    .csharp = "%1doubleArray%2[2] = %3;\n",
-                                    .vba = "%1doubleArray%2(2) = %3\n",
-                                }};
-
 static const Phrase selectByCrossline{"EmitSelectEntities",
                                       {
                                           .cpp = "%1iwSelectionMgr%2->SelectByCrossline(doubleArray%2);\n",
@@ -131,8 +110,8 @@ static const Phrase selectedCount{
                "Inkwright.iwSelectionSetType_e.iwSelectionSetType_Previous)\n",
     }};
 
-/// Number of the next selection. Process-wide, and never put back.
-static std::uint32_t selections = 0;
+/// Number of the next selection.
+static std::uint32_t& selections = processCounters.selections;
 
 static QString selectionCorners(Writer& writer, const OdArray<OdGePoint3d>& points)
 {
@@ -148,14 +127,15 @@ static QString selectionCorners(Writer& writer, const OdArray<OdGePoint3d>& poin
            writer.fillIndented(createSecond).number(selections).shortPoint(high).str();
 }
 
+/// All points are written to the same three places.
 static QString selectionCoordinates(Writer& writer, const OdArray<OdGePoint3d>& points)
 {
     QString text =
         writer.fillIndented(coordinatesHead).number(selections).number(arrayBound(writer, 3U * points.length()));
+    const ArrayPlace place(writer, "doubleArray" + QString::number(selections), selections, Brackets::Tight);
     for (const OdGePoint3d& point : points)
-        text += writer.fillIndented(coordinateX).number(selections).shortReal(point.x).str() +
-                writer.fillIndented(coordinateY).number(selections).shortReal(point.y).str() +
-                writer.fillIndented(coordinateZ).number(selections).shortReal(point.z).str();
+        text += realLine(place, 0, point.x, NumberForm::Short) + realLine(place, 1, point.y, NumberForm::Short) +
+                realLine(place, 2, point.z, NumberForm::Short);
     return text;
 }
 

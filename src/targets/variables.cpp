@@ -2,6 +2,8 @@
 
 #include "targets/variables.h"
 
+#include "frame/counters.h"
+
 using namespace inkmacro;
 
 /// JavaScript declares with `var` where an object is first assigned.
@@ -64,7 +66,5 @@ static const Phrase getLayer{
 
 QString EmitGetLayer(Writer& writer, const CFxString& variable)
 {
-    // Process-wide, and never put back: a second conversion goes on counting.
-    static std::uint32_t layerManagers = 0;
-    return writer.fill(getLayer).number(++layerManagers).text(variable);
+    return writer.fill(getLayer).number(++processCounters.layerManagers).text(variable);
 }

@@ -75,7 +75,7 @@ static const Phrase setArrow{"EmitSetArrow",
 /// A leader's record does not tell the block of an arrow of one's own.
 QString EmitSetLeaderArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow)
 {
-    const QString kind = EnumeratorByValue(writer.target, "iwDimensionArrowType", arrow);
+    const QString kind = EnumeratorByValue(writer.target, enums::dimensionArrowType, arrow);
     return writer.fill(setArrow).text(target).text(operation).text(kind).text(QString());
 }
 
@@ -92,6 +92,6 @@ static const Phrase setDimensionScale{"EmitSetDimensionScale",
 QString EmitSetDimensionScale(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t scale,
                               double factor)
 {
-    const QString kind = EnumeratorByValue(writer.target, "iwDimensionScale", scale);
+    const QString kind = EnumeratorByValue(writer.target, enums::dimensionScale, scale);
     return writer.fill(setDimensionScale).text(target).text(operation).text(kind).real(factor);
 }

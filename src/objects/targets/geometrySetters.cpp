@@ -2,8 +2,6 @@
 
 #include "objects/targets/geometrySetters.h"
 
-#include "targets/enumerations.h"
-
 using namespace inkmacro;
 
 static const Phrase setIndexedDouble{"EmitSetIndexedDouble",
@@ -40,13 +38,13 @@ QString setEnumerator(Writer& writer, const CFxString& target, const CFxString& 
     return writer.fill(setEnumeratorProperty).text(target).text(property).text(enumerator);
 }
 
-QString EmitSetEnumProperty(Writer& writer, const CFxString& target, const char* enumeration, const CFxString& property,
-                            const CFxString& shownText)
+QString EmitSetEnumProperty(Writer& writer, const CFxString& target, const TextEnumeration& enumeration,
+                            const CFxString& property, const CFxString& shownText)
 {
     return setEnumerator(writer, target, property, EnumeratorByText(writer.target, enumeration, shownText));
 }
 
 QString EmitSetLeaderType(Writer& writer, const CFxString& target, const CFxString& property, std::int32_t type)
 {
-    return setEnumerator(writer, target, property, EnumeratorByValue(writer.target, "iwLeaderType", type));
+    return setEnumerator(writer, target, property, EnumeratorByValue(writer.target, enums::leaderType, type));
 }

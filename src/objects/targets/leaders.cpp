@@ -1,7 +1,8 @@
 // Tolerances, leaders and what stands at a leader's end.
 
 #include "objects/targets/leaders.h"
-#include "objects/targets/CoordinateArray.h"
+
+#include "targets/arrays.h"
 
 using namespace inkmacro;
 
@@ -24,13 +25,14 @@ static const Phrase insertTolerance{
 QString EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const CFxString& text, const CFxString& name)
 {
     std::uint32_t& counter = writer.UniqueCounter;
-    if (writer.target == Target::Cpp) {
-        const CoordinateArray array = coordinates(writer, {position}, nullptr);
-        Fill statement = writer.fill(insertTolerance);
-        return array.open(statement).text(text).text(name);
-    }
+    if (writer.target == Target::Cpp)
+        return callWithArray(
+            writer, insertTolerance, coordinateArray(writer, spatial({position}), nullptr),
+            [&](Fill& call) { call.text(text); }, name);
     if (writer.target == Target::CppCom) {
-        const QString point = comPoint(writer, ++counter, position);
+        ++counter;
+        const QString point =
+            comPointLines({writer, "variant" + QString::number(counter), counter}, position, NumberForm::Long, false);
         return writer.fill(insertTolerance).number(counter).text(point).text(text).text(name);
     }
     Fill statement = writer.fill(insertTolerance);
@@ -59,10 +61,9 @@ static const Phrase insertLeader{
 QString EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
                          const CFxString& name)
 {
-    const CoordinateArray array = coordinates(writer, vertices, "leaderPoints");
-    Fill statement = writer.fill(insertLeader);
-    array.open(statement).real(width).text(text);
-    return array.before + array.close(statement).text(name).str();
+    return callWithArray(
+        writer, insertLeader, coordinateArray(writer, spatial(vertices), "leaderPoints"),
+        [&](Fill& call) { call.real(width).text(text); }, name);
 }
 
 static const Phrase setToleranceAnnotation{"EmitSetAnnotation",

@@ -2,9 +2,7 @@
 
 #include "objects/targets/regions.h"
 
-#include "targets/comArrays.h"
-
-#include <QStringList>
+#include "targets/arrays.h"
 
 using namespace inkmacro;
 
@@ -21,15 +19,6 @@ static const Phrase regionHead{
         .vbNet = "%2%1Dim iwEntities_%3 As DispatchWrapper() = New DispatchWrapper(%4) {}%2",
         .vba = "%2%1Dim iwRegionEntities_%3(%4) As Object%2",
     }};
-
-static const Phrase regionElement{"EmitInsertRegion",
-                                  {
-                                      .cpp = "%1entitiesArray%4.add(%3);%2",
-                                      .csharp = "%4iwEntities_%1[%2] = new DispatchWrapper(%3);",
-                                      .javascript = "%4iwEntities_%1[%2] = %3;",
-                                      .vbNet = "%1iwEntities_%5(%3) = New DispatchWrapper(%4)%2",
-                                      .vba = "%1Set iwRegionEntities_%5(%3) = %4%2",
-                                  }};
 
 static const Phrase regionArray{"EmitInsertRegion",
                                 {
@@ -67,28 +56,23 @@ static const Phrase takeRegion{
 
 static QString regionEntities(Writer& writer, const QStringList& names, std::uint32_t number)
 {
-    const unsigned level = writer.IndentLevel;
-    const int count = names.size();
-    const bool unended = writer.target == Target::CSharp || writer.target == Target::JavaScript;
+    static constexpr Words arrayNames{.cpp = "entitiesArray",
+                                      .cppCom = "entitiesArray",
+                                      .csharp = "iwEntities_",
+                                      .javascript = "iwEntities_",
+                                      .vbNet = "iwEntities_",
+                                      .vba = "iwRegionEntities_"};
+    ArrayPlace place(writer, numberedName(arrayNames, writer.target, number), number, Brackets::Tight);
+    const std::vector<QString> words(names.begin(), names.end());
+    const int bound = arrayBound(writer, words.size());
+    if (writer.target != Target::CSharp && writer.target != Target::JavaScript)
+        return writer.fill(regionHead).number(number).number(bound).str() + objectLines(place, words);
+    place.lineEnd.clear();
     Fill head(regionHead.in(writer.target));
+    head.number(number);
     if (writer.target == Target::CSharp)
-        head.number(number).number(count).indent(level);
-    else if (writer.target == Target::JavaScript)
-        head.number(number).indent(level);
-    QString text =
-        unended ? head.str()
-                : writer.fill(regionHead).number(number).number(isBasic(writer.target) ? count - 1 : count).str();
-    if (writer.target == Target::CppCom)
-        return text += comObjects(level, "entitiesArray", number, std::vector<QString>(names.begin(), names.end()));
-    for (int i = 0; i < count; ++i) {
-        if (unended)
-            text += Fill(regionElement.in(writer.target)).number(number).number(i).text(names[i]).indent(level);
-        else if (writer.target == Target::Cpp)
-            text += writer.fill(regionElement).text(names[i]).number(number);
-        else
-            text += writer.fill(regionElement).number(i).text(names[i]).number(number);
-    }
-    return text;
+        head.number(bound);
+    return head.indent(writer.IndentLevel).str() + objectLines(place, words);
 }
 
 QString EmitInsertRegion(Writer& writer, const CFxString& variable, const QStringList& names, std::uint32_t number)

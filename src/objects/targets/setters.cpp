@@ -2,6 +2,7 @@
 
 #include "objects/targets/setters.h"
 
+#include "frame/counters.h"
 #include "host/db/OdDbClasses.h"
 #include "targets/enumerations.h"
 #include "targets/wording.h"
@@ -170,9 +171,7 @@ static const Phrase setTransparency{
 /// A method without a name leaves the middle line blank.
 QString EmitSetTransparency(Writer& writer, const CFxString& target, const OdCmTransparency& transparency)
 {
-    // Process-wide, one a target, and never put back: a second conversion goes on counting.
-    static std::array<std::uint32_t, targetCount> counters{};
-    std::uint32_t& counter = counters[static_cast<std::size_t>(writer.target)];
+    std::uint32_t& counter = processCounters.of(writer.target).transparencies;
     const Phrase* const phrase = transparency.method == OdCmTransparency::ByLayer   ? &setByLayer
                                  : transparency.method == OdCmTransparency::ByBlock ? &setByBlock
                                  : transparency.method == OdCmTransparency::ByAlpha ? &setByAlpha

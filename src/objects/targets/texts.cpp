@@ -89,7 +89,7 @@ static const Phrase insertAttributeDefinition{
 
 QString EmitInsertAttributeDefinition(Writer& writer, const AttributeDefinition& definition, const CFxString& name)
 {
-    const QString justification = EnumeratorByText(writer.target, "iwTextJustification", definition.justification);
+    const QString justification = EnumeratorByText(writer.target, enums::textJustification, definition.justification);
     const auto word = [&](bool value) { return truthWord(writer.target, value); };
     // The last flag is not recorded.
     const QString flags[] = {word(definition.constant), word(definition.invisible),    word(definition.preset),
@@ -167,12 +167,12 @@ QString EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const OdG
 QString EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxString& property,
                            const CFxString& shownText)
 {
-    return EmitSetEnumProperty(writer, target, "iwNoteJustification", property, shownText);
+    return EmitSetEnumProperty(writer, target, enums::noteJustification, property, shownText);
 }
 
 QString EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction)
 {
-    return setEnumerator(writer, target, property, EnumeratorByValue(writer.target, "iwNoteDirection", direction));
+    return setEnumerator(writer, target, property, EnumeratorByValue(writer.target, enums::noteDirection, direction));
 }
 
 static const Phrase insertCurvedText{"EmitInsertCurvedText",

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "targets/blocks.h"
+
+/// A group of statements, in braces or their like. Its statements stand one level deeper as long as it is open. What
+/// belongs in front of it may be known only when its statements are written, so its texts are handed out and it is the
+/// owner who puts them in place. A group that is neither closed nor abandoned leaves the level raised.
+///
+/// JavaScript has no groups: both texts are empty there and the level stays.
+class StatementGroup
+{
+public:
+    explicit StatementGroup(Writer& writer) : writer_(writer), begin_(EmitBlockBegin(writer)) {}
+    StatementGroup(const StatementGroup&) = delete;
+    StatementGroup& operator=(const StatementGroup&) = delete;
+
+    const QString& begin() const { return begin_; }
+    /// Gives the level back.
+    QString close() { return EmitBlockEnd(writer_); }
+    /// Gives a level back because statements are written without a group, in every target: who may not do so in
+    /// JavaScript has to ask. Each such statement may do it, so the level can fall below that in front of the group.
+    void abandon()
+    {
+        --writer_.IndentLevel;
+        abandoned_ = true;
+    }
+    bool abandoned() const { return abandoned_; }
+
+private:
+    Writer& writer_;
+    QString begin_;
+    bool abandoned_ = false;
+};
+
+/// Statements within a group that is going to be dropped stand where they would without it.
+class OneLevelOut
+{
+public:
+    explicit OneLevelOut(Writer& writer) : writer_(writer) { --writer_.IndentLevel; }
+    ~OneLevelOut() { ++writer_.IndentLevel; }
+    OneLevelOut(const OneLevelOut&) = delete;
+    OneLevelOut& operator=(const OneLevelOut&) = delete;
+
+private:
+    Writer& writer_;
+};

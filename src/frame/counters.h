@@ -1,0 +1,31 @@
+#pragma once
+
+#include "targets/Target.h"
+
+#include <array>
+#include <cstdint>
+
+/// Numbers of names that go on from conversion to conversion, each raised by the one statement that has such a name.
+/// Nothing ever puts them back, so the names of a macro depend on what the process has written before.
+struct ProcessCounters
+{
+    /// Those that every target counts for itself.
+    struct OfTarget
+    {
+        std::uint32_t transparencies = 0;
+        std::uint32_t interfaceFiles = 0;
+        std::uint32_t systemFiles = 0;
+        std::uint32_t drawingSupportFiles = 0;
+        std::uint32_t fileLocationArrays = 0;
+    };
+
+    std::uint32_t layerManagers = 0; ///< the first is 1
+    std::uint32_t regions = 0;       ///< the first is 1
+    std::uint32_t selections = 0;
+    std::uint32_t elementColors = 0;
+
+    OfTarget& of(inkmacro::Target target) { return ofTargets[static_cast<std::size_t>(target)]; }
+    std::array<OfTarget, inkmacro::targetCount> ofTargets{};
+};
+
+inline ProcessCounters processCounters;
