@@ -1,30 +1,20 @@
 #pragma once
 
-#include "objects/targets/CoordinateArray.h"
+#include "targets/arrays.h"
 
-#include <deque>
 #include <span>
 
-/// The points of one insertion as values of its literal: their coordinates, but in COM the number of an array and the
-/// statements that fill it. The statement keeps views of these, so this must live as long as the statement.
-class DimensionPoints
+/// Puts the points of one insertion into its literal: as coordinates, but in C++ COM as the number of an array and the
+/// lines that fill it.
+inline void fillDimensionPoints(Writer& writer, inkmacro::Fill& insertion, std::span<const OdGePoint3d> points)
 {
-public:
-    explicit DimensionPoints(Writer& writer) : writer_(writer) {}
-
-    void fill(inkmacro::Fill& statement, std::span<const OdGePoint3d> points)
-    {
-        for (const OdGePoint3d& point : points) {
-            if (writer_.target != inkmacro::Target::CppCom) {
-                statement.point(point);
-                continue;
-            }
-            const std::uint32_t number = ++writer_.UniqueCounter;
-            statement.number(number).text(arrays_.emplace_back(comPoint(writer_, number, point)));
+    for (const OdGePoint3d& point : points) {
+        if (writer.target != inkmacro::Target::CppCom) {
+            insertion.point(point);
+            continue;
         }
+        const std::uint32_t number = ++writer.UniqueCounter;
+        const ArrayPlace place(writer, "variant" + QString::number(number), number);
+        insertion.number(number).text(comPointLines(place, point, NumberForm::Long, false));
     }
-
-private:
-    Writer& writer_;
-    std::deque<QString> arrays_;
-};
+}

@@ -52,14 +52,13 @@ static QString insertOnPoints(Writer& writer, const PointDimension& kind, const 
     if (writer.target == Target::JavaScript)
         return insertInPage(writer, kind, points, text, last, name);
 
-    DimensionPoints arrays(writer);
     Fill call = writer.fill(kind.insertion);
     std::span<const OdGePoint3d> longPoints(points);
     if (writer.target == Target::Cpp && kind.briefInCpp) {
         call.shortPoint(longPoints.front());
         longPoints = longPoints.subspan(1);
     }
-    arrays.fill(call, longPoints);
+    fillDimensionPoints(writer, call, longPoints);
     call.text(text);
     if (last)
         call.text(*last);
@@ -281,9 +280,8 @@ bool MeasuresFromVariables(const Writer& writer)
 static QString insertWithOwnLines(Writer& writer, const DimensionLine& first, const DimensionLine& second,
                                   const OdGePoint3d& arcPoint, const CFxString& text, const CFxString& name)
 {
-    DimensionPoints array(writer);
     Fill insertion = writer.fill(insertAngularDimension2Line);
-    array.fill(insertion, {&arcPoint, 1});
+    fillDimensionPoints(writer, insertion, {&arcPoint, 1});
     return insertion.point(first.start).point(first.end).point(second.start).point(second.end).text(text).text(name);
 }
 

@@ -20,10 +20,9 @@ struct CurveDimension
     const Phrase& onVariable;
     const Phrase& onTemporary;
     bool briefArc = false;  ///< C++ and Basic have the temporary arc in the short form
-    bool nameFirst = false; ///< the variable is a value ahead of the points, but not in C#'s literal on a variable
+    bool nameFirst = false; ///< the variable is a value ahead of the points, but not where C# uses a variable
 };
 
-/// `ahead` is whether the values of the literal have the dimension's variable in front of the points.
 bool namesFirst(const CurveDimension& kind, Target target, bool temporary)
 {
     return kind.nameFirst && (temporary || target == Target::Cpp);
@@ -57,8 +56,6 @@ static QString insertOnCurve(Writer& writer, const CurveDimension& kind, const M
         curveName =
             name.toQString() + (odrxQuery<OdDbCircle>(curve.object.get()) ? "_associated_circle" : "_associated_arc");
 
-    DimensionPoints arrays(writer);
-    QString basicArray;
     Fill insertion((temporary ? kind.onTemporary : kind.onVariable).in(target));
     insertion.text(QLatin1String(kind.call)).indent(writer.IndentLevel).text(LineEnd).text(curveName);
     if (temporary)
@@ -66,12 +63,10 @@ static QString insertOnCurve(Writer& writer, const CurveDimension& kind, const M
     const bool nameFirst = namesFirst(kind, target, temporary);
     if (nameFirst)
         insertion.text(name);
-    arrays.fill(insertion, points);
+    fillDimensionPoints(writer, insertion, points);
     insertion.text(text);
-    if (target == Target::Vba) {
-        basicArray = kind.basicSuffix + QString::number(++writer.UniqueCounter);
-        insertion.text(basicArray);
-    }
+    if (target == Target::Vba)
+        insertion.text(kind.basicSuffix + QString::number(++writer.UniqueCounter));
     if (!nameFirst)
         insertion.text(name);
     return insertion;
