@@ -3,7 +3,7 @@
 #include "targets/selections.h"
 #include "actions/CustomActionKind.h"
 #include "frame/CFxConverterIWAPIImpl.h"
-#include "targets/apiTypes.h"
+#include "objects/classTable.h"
 #include "targets/selectionPrompts.h"
 
 std::int32_t CFxConverterIWAPIImpl::ConvertSelection(OdSmartPtr<CFxUserSelection> selection, QString& text)
@@ -48,8 +48,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionSelectionFilter(OdSmartPtr<CFxC
     for (std::int32_t i = 0; i < action->GetDataCount(); ++i) {
         const CFxCustomActionData& datum = action->GetData(i);
         if (datum.GetType() == CFxCustomActionData::kString) {
-            if (const inkmacro::ApiType* const type = inkmacro::FindApiTypeOfInterface(datum.GetString()))
-                typeNames.emplace_back(type->enumerator);
+            if (const ClassRow* const row = FindClassOfInterface(datum.GetString()))
+                typeNames.emplace_back(row->enumerator);
         } else if (datum.GetType() == CFxCustomActionData::kInt) {
             mode = datum.GetInt();
         } else if (datum.GetType() == CFxCustomActionData::kPointArray) {

@@ -13,13 +13,8 @@ public:
     {
         GetFxSystemServices()->SetActiveDocument(&document_);
     }
-    /// The drawing of a recording, with the objects that it says are current.
-    explicit OpenDrawing(const Recording& recording) : OpenDrawing(*recording.database)
-    {
-        OdDbDatabase& database = *recording.database;
-        database.setCurrentLayoutId(database.getOdDbObjectId(recording.drawing.currentLayout));
-        database.setGroupDictionaryId(database.getOdDbObjectId(recording.drawing.groupDictionary));
-    }
+    /// The drawing of a recording, with what the recording says of it as a whole.
+    explicit OpenDrawing(const Recording& recording);
     ~OpenDrawing() { GetFxSystemServices()->SetActiveDocument(nullptr); }
     OpenDrawing(const OpenDrawing&) = delete;
     OpenDrawing& operator=(const OpenDrawing&) = delete;

@@ -13,9 +13,6 @@ using ActionCounts = std::map<QString, int>;
 
 /// An action with all that is in it, in the form that recording files have, except that properties are counted and of
 /// custom data only the types are told, and the name of the kind. Null stands for an empty place.
-QJsonObject actionToJson(const OdRxObject* action, CFxValueContext context, ActionCounts& counts);
-
-/// A value of a property in the form that recording files have.
-QJsonValue valueToJson(const CFxVariant& value);
+QJsonObject actionToJson(const OdRxObjectPtr& action, CFxValueContext context, ActionCounts& counts);
 
 } // namespace inkmacro

@@ -132,7 +132,7 @@ void printAsTree(const QString& path, const Recording& recording)
     ActionCounts counts;
     printOut(QString("%1: %2\n").arg(path, counted(recording.actions.length(), "action", "actions")));
     for (const OdRxObjectPtr& action : recording.actions)
-        printTree(actionToJson(action.get(), context, counts), 0);
+        printTree(actionToJson(action, context, counts), 0);
     printOut("counts: " + countsText(counts) + '\n');
 }
 
@@ -142,7 +142,7 @@ void printAsJson(const QString& path, const Recording& recording)
     ActionCounts counts;
     QJsonArray actions;
     for (const OdRxObjectPtr& action : recording.actions)
-        actions.append(actionToJson(action.get(), context, counts));
+        actions.append(actionToJson(action, context, counts));
     QJsonObject numbers;
     for (const auto& [kind, count] : counts)
         numbers[kind] = count;

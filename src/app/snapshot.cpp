@@ -3,10 +3,10 @@
 #include "app/ExitStatus.h"
 #include "app/LoadedModule.h"
 #include "app/OpenDrawing.h"
-#include "app/actionJson.h"
 #include "app/console.h"
 #include "app/reading.h"
 #include "app/valueText.h"
+#include "recordfile/Pieces.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,7 +24,7 @@ void printTable(const std::vector<CFxSnapshotRecord>& records)
         width = std::max(width, printable(record.GetTag()->GetString()).length());
     for (const CFxSnapshotRecord& record : records)
         printOut(printable(record.GetTag()->GetString()).leftJustified(width) + "  " +
-                 valueText(valueToJson(*record.GetValue())) + '\n');
+                 valueText(ValueToJson(*record.GetValue())) + '\n');
 }
 
 void printJson(const std::vector<CFxSnapshotRecord>& records)
@@ -32,7 +32,7 @@ void printJson(const std::vector<CFxSnapshotRecord>& records)
     QJsonArray array;
     for (const CFxSnapshotRecord& record : records)
         array.append(
-            QJsonObject{{"tag", record.GetTag()->GetString().toQString()}, {"value", valueToJson(*record.GetValue())}});
+            QJsonObject{{"tag", record.GetTag()->GetString().toQString()}, {"value", ValueToJson(*record.GetValue())}});
     printOut(QJsonDocument(array).toJson());
 }
 

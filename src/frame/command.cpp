@@ -5,22 +5,19 @@
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "objects/classTable.h"
 #include "targets/blocks.h"
 #include "targets/variables.h"
 
 #include <QStringList>
 
-#include <algorithm>
-#include <array>
-
 namespace {
 
-/// Classes whose objects are finished by a custom action of the same command; it is told their variable.
-bool isFinishedByCustomAction(const OdString& className)
+/// Whether a custom action of the same command finishes objects of that class; it is told their variable.
+bool isFinishedByCustomAction(const OdRxClass* cls)
 {
-    static constexpr std::array names{"AcDbOle2Frame",       "AcDbPolyline", "AcDbHatch",
-                                      "AcDbViewTableRecord", "AcDbRegion",   "AcDbRasterImage"};
-    return std::any_of(names.begin(), names.end(), [&](const char* name) { return className == QLatin1String(name); });
+    const ClassRow* const row = FindClass(cls);
+    return row && row->has(kFinishedByCustomAction);
 }
 
 /// A style that loads a file of shapes. The host's own file of line type shapes does not count.
@@ -83,7 +80,7 @@ void CFxConverterIWAPIImpl::RegisterChildren(const CFxActionArray& children, Com
             continue;
         OdRxClass* const cls = added->GetObjectClass();
         Objects();
-        if (!IsSupportedClass(cls->name()))
+        if (!cls || !IsSupportedClass(cls->name()))
             continue;
         if (cls == OdDbMText::desc()) {
             OdDbObjectId leader;
@@ -99,7 +96,7 @@ void CFxConverterIWAPIImpl::DeclareChildren(CommandState& state)
 {
     for (const ActionEntry& entry : state.added) {
         state.prefix += EmitVariableDeclaration(writer, entry);
-        if (!isFinishedByCustomAction(entry.cls->name()))
+        if (!isFinishedByCustomAction(entry.cls))
             continue;
         const CFxString name = VariableName(entry);
         if (!name.isEmpty())

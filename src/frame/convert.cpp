@@ -124,6 +124,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertAction(OdRxObjectPtr action, QString&
 std::int32_t CFxConverterIWAPIImpl::ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text)
 {
     OdRxClass* const cls = action->GetObjectClass();
+    if (!cls)
+        return kFxFailure;
     const CFxString className = cls->name();
     const OdDbHandle handle = action->GetHandle();
     if (IsSupportedClass(className) && className.equalNoCase("AcDbLayerTableRecord") && !FindEntry(handle)) {

@@ -4,17 +4,14 @@
 #include "frame/RecordingState.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
-#include "targets/apiTypes.h"
+#include "objects/classTable.h"
 
 namespace {
 
-/// C++ keeps objects of these types as raw pointers, all others as smart pointers.
-CFxString cppTypeName(const QString& type)
+CFxString cppTypeName(const ClassRow& row)
 {
-    const QString smart = QStringLiteral("iw%1_ptr").arg(type);
-    if (smart == QLatin1String("iwRegion_ptr") || smart == QLatin1String("iwViewTile_ptr"))
-        return CFxString(QStringLiteral("iw%1_c*").arg(type));
-    return CFxString(smart);
+    const QLatin1String suffix(row.has(kRawPointer) ? "_c*" : "_ptr");
+    return CFxString("iw" + QLatin1String(row.interfaceName) + suffix);
 }
 
 CFxString numbered(CFxString type, std::uint32_t ordinal)
@@ -34,11 +31,11 @@ void StripPointerSuffixes(CFxString& typeName)
 std::int32_t GetApiTypeName(const OdRxClass* cls, CFxString& typeName, CFxString& secondName)
 {
     // A custom action whose datum is of another type than expected gives no class.
-    const inkmacro::ApiType* const type = cls ? inkmacro::FindApiType(cls->name()) : nullptr;
-    if (!type)
+    const ClassRow* const row = FindClass(cls);
+    if (!row || !row->interfaceName)
         return kFxFailure;
-    typeName = RecordingLanguage() == 0 ? cppTypeName(type->interfaceName) : CFxString(type->interfaceName);
-    secondName = type->enumerator;
+    typeName = RecordingLanguage() == 0 ? cppTypeName(*row) : CFxString(row->interfaceName);
+    secondName = row->enumerator;
     return kFxSuccess;
 }
 
@@ -107,7 +104,7 @@ void CFxConverterIWAPIImpl::ResolveVariables(std::vector<CFxString>& names, cons
     names.assign(objects.size(), {});
     for (std::size_t i = 0; i < objects.size(); ++i)
         if (const ActionEntry* const entry = FindEntry(objects[i]))
-            names[i] = VariableName({const_cast<OdRxClass*>(classes[i]), entry->ordinal});
+            names[i] = VariableName({classes[i], entry->ordinal});
 }
 
 /// Takes the suffixes off after the number was put on, and only the one of smart pointers: in C++ a region or a view

@@ -8,7 +8,7 @@
 /// Class and ordinal of an object that the generated code has a variable for.
 struct ActionEntry
 {
-    OdRxClass* cls = nullptr;
+    const OdRxClass* cls = nullptr;
     std::uint32_t ordinal = 0;
 };
 

@@ -1,53 +1,78 @@
-// Change handlers that are a list of tags with a statement each.
+// Changes that are a list of tags with a statement each.
 
 #include "objects/ChangeRows.h"
 
 #include "frame/CFxConverterIWAPIImpl.h"
-#include "objects/targets/pointChanges.h"
-#include "objects/targets/setters.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/targets/dimensionOptions.h"
 
-ChangeRows::ChangeRows(std::initializer_list<ChangeRow> rows)
+#include <algorithm>
+
+ChangeRows::ChangeRows(const OptionObject* on, std::initializer_list<ChangeRow> list) : on(on)
 {
-    for (const ChangeRow& row : rows) {
+    for (const ChangeRow& row : list) {
         if (!row.kind.axes) {
-            rows_.push_back(row);
+            rows.push_back(row);
             continue;
         }
         for (const QChar letter : QLatin1String(row.kind.axes)) {
             ChangeRow spread = row;
             spread.tag = row.tag.toQString() + ' ' + letter;
             spread.axis = QString(letter.toUpper());
-            rows_.push_back(std::move(spread));
+            rows.push_back(std::move(spread));
         }
     }
 }
 
-/// An added object's tags are read too, so that nobody finds them behind, but its insertion has said it all.
-std::int32_t CFxConverterIWAPIObject::ConvertRows(const ChangeRows& rows, PropertyList& list, bool fromAdded,
-                                                  const CFxString& name, QString& text)
+namespace {
+
+/// The objects that the statements of one group have fetched.
+class FetchedObjects
+{
+public:
+    FetchedObjects(Writer& writer, const CFxString& changed) : writer_(writer), changed_(changed) {}
+
+    /// The variable of that object, null being the changed one. Fetches what is not there yet, from the owner on.
+    CFxString variable(const OptionObject* object, QString& text)
+    {
+        if (!object)
+            return changed_;
+        const auto known = std::find_if(variables_.begin(), variables_.end(),
+                                        [&](const auto& fetched) { return fetched.first == object; });
+        if (known != variables_.end())
+            return known->second;
+        const CFxString owner = variable(object->owner, text);
+        CFxString name;
+        text += EmitGetOptions(writer_, *object, owner, name);
+        variables_.emplace_back(object, name);
+        return name;
+    }
+
+private:
+    Writer& writer_;
+    const CFxString& changed_;
+    std::vector<std::pair<const OptionObject*, CFxString>> variables_;
+};
+
+} // namespace
+
+void CFxConverterIWAPIObject::ConvertRows(const ChangeGroups& groups, PropertyList& list, bool takeOnly,
+                                          const CFxString& name, QString& text)
 {
     const CFxValueContext context = driver.GetContext();
-    for (const ChangeRow& row : rows) {
-        CFxVariant number;
-        const CFxVariant value = FindProperty(row.tag, list, context, nullptr, &number);
-        if (fromAdded || value.IsNull())
-            continue;
-        const std::int32_t index = !row.kind.indexed || number.IsNull() ? -1 : number.GetInt32();
-        if (row.kind.indexed && index == -1)
-            continue;
-        text += row.kind.statement({writer, row, name, value, index});
+    for (const ChangeGroup& group : groups) {
+        FetchedObjects objects(writer, name);
+        for (const ChangeRows& part : group)
+            for (const ChangeRow& row : part.rows) {
+                CFxVariant number;
+                const CFxVariant value = FindProperty(row.tag, list, context, nullptr, &number);
+                if (takeOnly || value.IsNull())
+                    continue;
+                const std::int32_t index = !row.kind.indexed || number.IsNull() ? -1 : number.GetInt32();
+                if (row.kind.indexed && index == -1)
+                    continue;
+                const CFxString target = objects.variable(part.on, text);
+                text += row.kind.statement({writer, row, target, value, index});
+            }
     }
-    return kFxSuccess;
-}
-
-QString setReal(const Change& change)
-{
-    return EmitSetDoubleProperty(change.writer, change.name, change.row.property, change.value.GetDouble());
-}
-
-QString changePoint(const Change& change)
-{
-    const QString& pair = change.row.property;
-    return EmitChangePoint(change.writer, change.name, change.row.axis, "Get" + pair, "Set" + pair,
-                           change.value.GetDouble(), change.index);
 }

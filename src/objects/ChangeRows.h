@@ -1,21 +1,22 @@
 #pragma once
 
-#include "objects/CFxConverterIWAPIObject.h"
+#include "host/kernel/CFxVariant.h"
+#include "targets/Writer.h"
 #include "targets/enumerations.h"
 
-struct ChangeRow;
+#include <vector>
 
-/// A changed property in the hands of the statement that its row names.
+struct ChangeRow;
+struct OptionObject;
+
+/// A changed property in the hands of the statement that its row's kind names.
 struct Change
 {
     Writer& writer;
     const ChangeRow& row;
-    const CFxString& name; ///< the object's variable
+    const CFxString& target; ///< the variable that the statement sets it on
     const CFxVariant& value;
     std::int32_t index; ///< within a repeated property, else -1
-
-    /// The word of a value of choice type, without regard to case.
-    bool shows(const char* word) const { return ElementText(value).equalNoCase(ShownWord(word)); }
 };
 
 /// What a change becomes. A kind with axes stands for one tag an axis: its row holds what stands before the letter.
@@ -25,35 +26,47 @@ struct ChangeKind
     const char* axes = nullptr;
     /// Of a repeated property: a record without a number, or with the number -1, writes nothing.
     bool indexed = false;
+    // Whose enumerator a kind that sets one writes.
+    const inkmacro::TextEnumeration* byText = nullptr;
+    const inkmacro::ValueEnumeration* byValue = nullptr;
 };
 
-/// One tag of a handler.
+/// One tag and what it becomes.
 struct ChangeRow
 {
     ChangeKind kind;
     CFxString tag;
     /// The host's word for it: a property, an operation, or what stands behind "Get" and "Set" of a pair of them.
     CFxString property = {};
-    /// Whose enumerator the shown text tells.
-    const inkmacro::TextEnumeration* enumeration = nullptr;
     CFxString axis = {}; ///< "X", "Y" or "Z", set when rows with axes are spread out
 };
 
-/// The tags of a handler in the order in which they are read.
-class ChangeRows
+/// Tags that are set on one object: the changed one, or one that is fetched from it when the first of them is there.
+struct ChangeRows
 {
-public:
-    ChangeRows(std::initializer_list<ChangeRow> rows);
-    auto begin() const { return rows_.begin(); }
-    auto end() const { return rows_.end(); }
+    ChangeRows(std::initializer_list<ChangeRow> rows) : ChangeRows(nullptr, rows) {}
+    ChangeRows(const OptionObject& on, std::initializer_list<ChangeRow> rows) : ChangeRows(&on, rows) {}
+
+    const OptionObject* on; ///< null for the changed object
+    std::vector<ChangeRow> rows;
 
 private:
-    std::vector<ChangeRow> rows_;
+    ChangeRows(const OptionObject* on, std::initializer_list<ChangeRow> rows);
 };
 
-// The kinds that several files need.
-QString setReal(const Change& change);
-QString changePoint(const Change& change);
-inline constexpr ChangeKind kReal{setReal};
-/// A coordinate of a point that the host reads and writes as a whole.
-inline constexpr ChangeKind kPoint{changePoint, "XYZ"};
+/// What is fetched for one of its tags serves the tags behind it. The next group fetches anew.
+using ChangeGroup = std::vector<ChangeRows>;
+
+/// All tags of a class in the order in which they are read.
+class ChangeGroups
+{
+public:
+    /// Tags of the changed object itself.
+    ChangeGroups(std::initializer_list<ChangeRow> rows) : groups_(1, ChangeGroup(1, ChangeRows(rows))) {}
+    ChangeGroups(std::initializer_list<ChangeGroup> groups) : groups_(groups) {}
+    auto begin() const { return groups_.begin(); }
+    auto end() const { return groups_.end(); }
+
+private:
+    std::vector<ChangeGroup> groups_;
+};

@@ -2,8 +2,10 @@
 
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
-#include "host/db/OdDbClassMap.h"
+#include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "objects/classTable.h"
+#include "objects/targets/dimensionOptions.h"
 #include "objects/targets/references.h"
 #include "objects/targets/setters.h"
 #include "targets/blocks.h"
@@ -22,65 +24,7 @@ bool hasRecord(const PropertyList& list, const char* tag)
 
 } // namespace
 
-CFxConverterIWAPIObject::ClassChanges CFxConverterIWAPIObject::ClassChangesOf(const OdRxClass* cls)
-{
-    using Self = CFxConverterIWAPIObject;
-    constexpr bool notAdded = true;
-    static const QHash<const OdRxClass*, ClassChanges> rows{
-        {oddbDwgClassMapDesc(19), {&Self::ConvertModifiedLine}},
-        {oddbDwgClassMapDesc(18), {&Self::ConvertModifiedCircle}},
-        {oddbDwgClassMapDesc(53), {nullptr}}, // text style
-        {oddbDwgClassMapDesc(27), {&Self::ConvertModifiedPoint}},
-        {oddbDwgClassMapDesc(40), {&Self::ConvertModifiedRay}},
-        {oddbDwgClassMapDesc(17), {&Self::ConvertModifiedArc}},
-        {oddbDwgClassMapDesc(41), {&Self::ConvertModifiedInfiniteLine}},
-        {oddbDwgClassMapDesc(35), {&Self::ConvertModifiedEllipse}},
-        {oddbDwgClassMapDesc(3), {nullptr}},            // attribute definition
-        {oddbDwgClassMapDesc(1), {nullptr}},            // simple note
-        {oddbDwgClassMapDesc(44), {nullptr}},           // note
-        {oddbDwgClassMapDesc(7), {nullptr}},            // block instance
-        {OdDbRasterImage::desc(), {nullptr}},           // picture
-        {oddbDwgClassMapDesc(61), {nullptr}},           // named view: passed over on purpose
-        {oddbDwgClassMapDesc(22), {nullptr, notAdded}}, // dimensions
-        {oddbDwgClassMapDesc(24), {nullptr, notAdded}},
-        {oddbDwgClassMapDesc(23), {nullptr, notAdded}},
-        {OdDbArcDimension::desc(), {nullptr, notAdded}},
-        {oddbDwgClassMapDesc(26), {nullptr, notAdded}},
-        {oddbDwgClassMapDesc(20), {nullptr, notAdded}},
-        {oddbDwgClassMapDesc(25), {nullptr, notAdded}},
-        {OdDbRadialDimensionLarge::desc(), {nullptr, notAdded}},
-        {oddbDwgClassMapDesc(21), {nullptr, notAdded}},
-        {oddbDwgClassMapDesc(78), {nullptr}}, // hatch
-        {oddbDwgClassMapDesc(16), {&Self::ConvertModifiedPolyline3D}},
-        {oddbDwgClassMapDesc(45), {&Self::ConvertModifiedLeader}},
-        {oddbDwgClassMapDesc(47), {&Self::ConvertModifiedRichLine}},
-        {oddbDwgClassMapDesc(31), {&Self::ConvertModifiedSolid}},
-        {oddbDwgClassMapDesc(77), {&Self::ConvertModifiedPolyline}},
-        {oddbDwgClassMapDesc(36), {&Self::ConvertModifiedSpline}},
-        {oddbDwgClassMapDesc(33), {&Self::ConvertModifiedShape}},
-        {OdDbTable::desc(), {nullptr}}, // table
-        {oddbDwgClassMapDesc(30), {&Self::ConvertModifiedPolygonMesh}},
-        {oddbDwgClassMapDesc(29), {&Self::ConvertModifiedPolyFaceMesh}},
-        {oddbDwgClassMapDesc(46), {&Self::ConvertModifiedTolerance}},
-        {OdDbTableStyle::desc(), {nullptr}}, // table style
-        {oddbDwgClassMapDesc(28), {&Self::ConvertModifiedFace}},
-        {oddbDwgClassMapDesc(74), {&Self::ConvertModifiedEmbeddedObject}},
-        {oddbDwgClassMapDesc(69), {nullptr}}, // dimension style
-        {oddbDwgClassMapDesc(73), {nullptr}}, // rich line style
-        {oddbDwgClassMapDesc(57), {nullptr}}, // line style
-        {oddbDwgClassMapDesc(34), {&Self::ConvertModifiedViewport, notAdded}},
-        {oddbDwgClassMapDesc(32), {&Self::ConvertModifiedTrace}},
-        {oddbDwgClassMapDesc(51), {nullptr}},           // layer
-        {oddbDwgClassMapDesc(49), {nullptr, notAdded}}, // block definition
-        {oddbDwgClassMapDesc(72), {nullptr, notAdded}}, // group
-        {oddbDwgClassMapDesc(82), {nullptr, notAdded}}, // sheet
-        {oddbDwgClassMapDesc(65), {nullptr, notAdded}}, // view tile
-        {OdDbArcAlignedText::desc(), {nullptr}},        // curved text
-    };
-    return rows.value(cls, {nullptr});
-}
-
-std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(OdRxClass* cls, OdDbHandle handle, PropertyList& list,
+std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls, OdDbHandle handle, PropertyList& list,
                                                            bool fromAdded, QString& text)
 {
     text.clear();
@@ -91,11 +35,6 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(OdRxClass* cls, OdDbH
     CFxString name;
     if (!AddressChangedObject(cls, handle, noteLeader, list, name, text))
         return kFxSuccess;
-    if (!name.isEmpty()) {
-        const OdDbObjectId id = IdOf(handle);
-        changedVariableById[id] = name;
-        changedIdByVariable[name] = id;
-    }
 
     const QString opening = EmitBlockBegin(writer);
     QString general;
@@ -103,16 +42,17 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(OdRxClass* cls, OdDbH
     bool noGroup = false;
     if (cls->isDerivedFrom(OdDbEntity::desc())) {
         CFxString target = name;
-        const QString dimension = IsDimensionClass(cls) ? EmitGetGeneralDimension(writer, name, target) : QString();
+        const QString dimension =
+            IsDimensionClass(cls) ? EmitGetOptions(writer, generalDimension, name, target) : QString();
         ConvertGeneralProperties(list, fromAdded, cls == OdDbArcAlignedText::desc(), target, noGroup, general);
         if (!general.isEmpty())
             general.prepend(dimension);
     }
-    if (const ClassChanges row = ClassChangesOf(cls); row.handler && !(fromAdded && row.notAdded))
-        (this->*row.handler)(list, fromAdded, name, classText);
+    if (const ClassRow* const row = FindClass(cls))
+        ConvertClassChanges(*row, list, fromAdded, name, classText);
     const CFxVariant erased = FindProperty("Erased", list, driver.GetContext());
     if (!fromAdded && !erased.IsNull())
-        classText += ConvertErased(cls, name, erased);
+        classText += ConvertErased(cls, handle, name, erased);
 
     if (general.isEmpty() && classText.isEmpty()) {
         // Who left the group has given its level back already.
@@ -131,25 +71,24 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(OdRxClass* cls, OdDbH
 
 /// Gives the variable of the object, and the statement that the changes need in front of them. False for an object
 /// that the macro does not know: its changes are dropped.
-bool CFxConverterIWAPIObject::AddressChangedObject(OdRxClass* cls, const OdDbHandle& handle,
+bool CFxConverterIWAPIObject::AddressChangedObject(const OdRxClass* cls, const OdDbHandle& handle,
                                                    const OdDbObjectId& noteLeader, const PropertyList& list,
                                                    CFxString& name, QString& text)
 {
     if (!cls)
         return false;
     if (!noteLeader.isNull()) {
-        CFxString leader;
-        ObjectVariable(handle, cls, name);
-        ObjectVariable(noteLeader.getHandle(), OdDbLeader::desc(), leader);
+        name = NameObject(handle, cls);
+        const CFxString leader = NameObject(noteLeader.getHandle(), OdDbLeader::desc());
         text += EmitGetNoteAnnotation(writer, name, leader);
         return true;
     }
     if (driver.FindEntry(handle)) {
-        ObjectVariable(handle, cls, name);
+        name = NameObject(handle, cls);
         return true;
     }
-    if (cls == oddbDwgClassMapDesc(49) && hasRecord(list, "Objects")) {
-        ObjectVariable(handle, cls, name);
+    if (cls == OdDbBlockTableRecord::desc() && hasRecord(list, "Objects")) {
+        name = NameObject(handle, cls);
         text += EmitDeclareBlockDefinition(writer, name);
         return true;
     }
@@ -157,20 +96,33 @@ bool CFxConverterIWAPIObject::AddressChangedObject(OdRxClass* cls, const OdDbHan
     return cls == OdDbLayout::desc();
 }
 
-QString CFxConverterIWAPIObject::ConvertErased(OdRxClass* cls, const CFxString& name, const CFxVariant& erased)
+void CFxConverterIWAPIObject::ConvertClassChanges(const ClassRow& row, PropertyList& list, bool fromAdded,
+                                                  const CFxString& name, QString& text)
+{
+    if (fromAdded && row.whenAdded == WhenAdded::Skip)
+        return;
+    const bool takeOnly = fromAdded && row.whenAdded == WhenAdded::TakeOnly;
+    if (row.changes.groups)
+        ConvertRows(*row.changes.groups, list, takeOnly, name, text);
+    else if (row.changes.handler)
+        (this->*row.changes.handler)(list, takeOnly, name, text);
+}
+
+QString CFxConverterIWAPIObject::ConvertErased(const OdRxClass* cls, const OdDbHandle& handle, const CFxString& name,
+                                               const CFxVariant& erased)
 {
     QString text;
     CFxString target = name;
     if (IsDimensionClass(cls))
-        text = EmitGetGeneralDimension(writer, name, target);
+        text = EmitGetOptions(writer, generalDimension, name, target);
     // What comes back has no statement.
     if (!erased.GetString().equalNoCase(ShownWord("YES")))
         return text;
     if (cls == OdDbViewTableRecord::desc()) {
-        const OdDbObjectPtr object = changedIdByVariable[name].openObject(true);
+        const OdDbObjectPtr object = IdOf(handle).openObject(true);
         if (const auto view = odrxCast<OdDbViewTableRecord>(object.get()))
             text += EmitRemoveNamedView(writer, name, view->getName(), view->isPaperspaceView());
-    } else if (cls == oddbDwgClassMapDesc(51)) {
+    } else if (cls == OdDbLayerTableRecord::desc()) {
         text += EmitRemoveLayer(writer, name);
     } else {
         text += EmitSetBoolProperty(writer, target, "Erased", true);

@@ -12,7 +12,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectAdded(OdSmartPtr<CFxObjectAdd
 {
     if (!action)
         return kFxFailure;
-    OdRxClass* const cls = action->GetObjectClass();
+    const OdRxClass* const cls = action->GetObjectClass();
     if (!cls)
         return kFxFailure;
     if (!IsSupportedClass(cls->name()))
@@ -31,7 +31,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectModified(OdSmartPtr<CFxObject
 {
     if (!action)
         return kFxFailure;
-    OdRxClass* const cls = action->GetObjectClass();
+    const OdRxClass* const cls = action->GetObjectClass();
     if (!cls)
         return kFxFailure;
     if (!IsSupportedClass(cls->name()))
@@ -54,13 +54,15 @@ std::int32_t CFxConverterIWAPIObject::ConvertPropertyChanged(CFxPropertyChangedP
 {
     if (!action)
         return kFxFailure;
-    OdRxClass* const cls = action->GetObjectClass();
+    const OdRxClass* const cls = action->GetObjectClass();
+    if (!cls)
+        return kFxFailure;
     const OdDbHandle handle = action->GetHandle();
     PropertyList list{std::move(action)};
     return ConvertObjectChanges(cls, handle, list, false, text) == kFxSuccess ? kFxSuccess : kFxFailure;
 }
 
-std::int32_t CFxConverterIWAPIObject::ConvertModifiedObject(OdRxClass* cls, OdDbHandle handle, PropertyList& list,
+std::int32_t CFxConverterIWAPIObject::ConvertModifiedObject(const OdRxClass* cls, OdDbHandle handle, PropertyList& list,
                                                             QString& text)
 {
     if (!cls)

@@ -12,7 +12,7 @@ OdDbObjectId CFxConverterIWAPIObject::IdOf(const OdDbHandle& handle)
     return ACTIVE_DOCUMENT ? ACTIVE_DOCUMENT->GetDatabase()->getOdDbObjectId(handle) : OdDbObjectId();
 }
 
-CFxString CFxConverterIWAPIObject::ObjectVariableName(OdRxClass* cls, const OdDbObjectId& id,
+CFxString CFxConverterIWAPIObject::ObjectVariableName(const OdRxClass* cls, const OdDbObjectId& id,
                                                       std::uint32_t ordinal) const
 {
     CFxString type;
@@ -27,13 +27,36 @@ CFxString CFxConverterIWAPIObject::ObjectVariableName(OdRxClass* cls, const OdDb
     return CFxString(type.toQString() + QString::number(ordinal));
 }
 
-QString CFxConverterIWAPIObject::ObjectVariable(const OdDbHandle& handle, OdRxClass* cls, CFxString& name)
+bool CFxConverterIWAPIObject::NameVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& type,
+                                           CFxString& name)
 {
-    CFxString type;
     CFxString second;
     if (GetApiTypeName(cls, type, second) != kFxSuccess)
-        return {};
+        return false;
     const ActionEntry* const entry = driver.FindEntry(handle);
     name = ObjectVariableName(cls, IdOf(handle), entry ? entry->ordinal : ++driver.objectCounter);
-    return entry ? QString() : EmitGetObjectByHandle(writer, type, name, handle);
+    return !entry;
+}
+
+CFxString CFxConverterIWAPIObject::NameObject(const OdDbHandle& handle, const OdRxClass* cls)
+{
+    CFxString type;
+    CFxString name;
+    // The fetch that is not written takes its number all the same, where it would have one.
+    if (NameVariable(handle, cls, type, name) && writer.target != inkmacro::Target::JavaScript)
+        ++writer.UniqueCounter;
+    return name;
+}
+
+QString CFxConverterIWAPIObject::ObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
+{
+    CFxString type;
+    const bool isNew = NameVariable(handle, cls, type, name);
+    return isNew ? EmitGetObjectByHandle(writer, type, name, handle) : QString();
+}
+
+QString CFxConverterIWAPIObject::AddedVariable(const OdDbObjectId& id) const
+{
+    const auto found = addedVariableById.find(id);
+    return id.isNull() || found == addedVariableById.end() ? QString() : found->second;
 }

@@ -4,6 +4,7 @@
 #include "recordfile/JsonOut.h"
 #include "recordfile/SchemaDefinitions.h"
 
+#include <array>
 #include <bitset>
 #include <limits>
 #include <optional>
@@ -61,7 +62,7 @@ constexpr auto required(std::string_view name, const char* meaning)
                      F::schema};
 }
 
-/// A key that may be absent, and is not written when the member is what it would be without the key.
+/// A key that may be absent, and is left out when the member is what it would be without the key.
 template<auto Member, class F = Form<typename MemberOf<decltype(Member)>::Type>>
 constexpr auto optional(std::string_view name, const char* meaning)
 {
@@ -72,7 +73,7 @@ constexpr auto optional(std::string_view name, const char* meaning)
         if constexpr (isOptional<typename MemberOf<decltype(Member)>::Type>) {
             if (!(body.*Member).has_value())
                 return;
-        } else if (body.*Member == Body().*Member) {
+        } else if (out.neutralKeys == NeutralKeys::LeaveOut && body.*Member == Body().*Member) {
             return;
         }
         out.key(key);
@@ -239,6 +240,41 @@ struct Form<std::vector<T>> : ListForm<std::vector<T>, T>
 };
 template<class T>
 struct Form<OdArray<T>> : ListForm<OdArray<T>, T>
+{
+};
+
+/// Form of a list of a certain length.
+template<class T, std::size_t count, class ItemForm = Form<T>>
+struct FixedListForm
+{
+    static std::array<T, count> read(const Json& json)
+    {
+        const simdjson::dom::array array = json.array();
+        if (array.size() != count)
+            json.failExpected(QString("a list with %1 entries").arg(count));
+        std::array<T, count> list{};
+        std::size_t index = 0;
+        for (const simdjson::dom::element element : array) {
+            list[index] = ItemForm::read(json.entry(index, element));
+            ++index;
+        }
+        return list;
+    }
+    static void write(JsonOut& out, const std::array<T, count>& list)
+    {
+        out.beginArray();
+        for (const T& item : list)
+            ItemForm::write(out, item);
+        out.endArray();
+    }
+    static QJsonObject schema(SchemaDefinitions& definitions)
+    {
+        return listSchema(ItemForm::schema(definitions), count, count);
+    }
+};
+
+template<class T, std::size_t count>
+struct Form<std::array<T, count>> : FixedListForm<T, count>
 {
 };
 

@@ -8,12 +8,22 @@
 
 namespace inkmacro::recordfile {
 
+/// What is done with a key that may be absent and has the value that it has then.
+enum class NeutralKeys
+{
+    LeaveOut,
+    Write,
+};
+
 /// Makes the lines of a recording file. Commas come by themselves.
 class JsonOut
 {
 public:
     /// `context` is for the getters of property records.
-    explicit JsonOut(CFxValueContext context) : context(context) {}
+    explicit JsonOut(CFxValueContext context, NeutralKeys neutralKeys = NeutralKeys::LeaveOut)
+        : context(context), neutralKeys(neutralKeys)
+    {
+    }
 
     void beginObject() { begin('{'); }
     void endObject() { end('}'); }
@@ -38,6 +48,7 @@ public:
     void clear() { bytes_.resize(0); }
 
     const CFxValueContext context;
+    const NeutralKeys neutralKeys;
     int commandDepth = 0;
 
 private:

@@ -35,11 +35,17 @@ struct Recording
         OdDbHandle currentLayout;
         OdDbHandle activeBlock;
         OdDbHandle textStyle;
+        OdDbHandle tableStyle;
+        OdDbHandle dimensionStyle;
+        OdDbHandle richLineStyle;
+        OdDbHandle lineStyle;
+        std::vector<QString> lineStyleFolders; ///< as they stand in the file
         OdDbHandle groupDictionary;
         std::vector<std::pair<QString, Setting>> settings; ///< in the order of the file
         bool operator==(const Drawing&) const = default;
     };
 
+    QString folder; ///< of the file, where relative paths in it begin; empty for the current one
     Header header;
     Drawing drawing;
     /// Never null. Stands before the actions because their values hold ids of it.

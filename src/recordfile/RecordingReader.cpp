@@ -8,6 +8,7 @@
 #include "recordfile/lineKinds.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -131,7 +132,10 @@ std::optional<RecordingError> ReadRecording(const QString& path, Recording& reco
     constexpr auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     if (!(standardInput ? file.open(stdin, mode) : file.open(mode)))
         return RecordingError{name, 0, {}, "cannot be opened: " + file.errorString()};
-    return ReadRecording(file, name, recording, progress);
+    auto error = ReadRecording(file, name, recording, progress);
+    if (!standardInput)
+        recording.folder = QFileInfo(path).path();
+    return error;
 }
 
 } // namespace inkmacro

@@ -51,6 +51,14 @@ QJsonObject listSchema(const QJsonObject& items)
     return {{"type", "array"}, {"items", items}};
 }
 
+QJsonObject listSchema(const QJsonObject& items, int least, int most)
+{
+    QJsonObject schema = listSchema(items);
+    schema.insert("minItems", least);
+    schema.insert("maxItems", most);
+    return schema;
+}
+
 QJsonObject anyOfSchema(const QJsonArray& schemas)
 {
     return {{"anyOf", schemas}};

@@ -36,6 +36,7 @@ private:
 QJsonObject typeSchema(const char* type);
 QJsonObject enumSchema(const QJsonArray& values);
 QJsonObject listSchema(const QJsonObject& items);
+QJsonObject listSchema(const QJsonObject& items, int least, int most);
 QJsonObject anyOfSchema(const QJsonArray& schemas);
 
 } // namespace inkmacro::recordfile

@@ -13,13 +13,15 @@ namespace inkmacro::recordfile {
 
 namespace {
 
+const CFxString noText;
+
 struct PropertyBody
 {
     OdRxClass* cls = nullptr;
     OdDbHandle handle;
     const CFxString* tag = nullptr;
     CFxVariant value;
-    std::optional<const CFxString*> group;
+    const CFxString* group = &noText;
     std::optional<CFxVariant> index;
     std::optional<CFxVariant> old;
 
@@ -27,12 +29,10 @@ struct PropertyBody
     CFxPropertyChangedPtr make(Reading& reading);
 };
 
-const CFxString noText;
-
 PropertyBody PropertyBody::take(const CFxPropertyChanged& record, CFxValueContext context)
 {
     PropertyBody body{
-        record.GetObjectClass(), record.GetHandle(), &record.GetName(), record.GetValue(context), {}, {}, {}};
+        record.GetObjectClass(), record.GetHandle(), &record.GetName(), record.GetValue(context), &noText, {}, {}};
     if (!record.GetGroup().isEmpty())
         body.group = &record.GetGroup();
     if (CFxVariant index = record.GetIndex(context); !index.IsNull())
@@ -44,7 +44,7 @@ PropertyBody PropertyBody::take(const CFxPropertyChanged& record, CFxValueContex
 
 CFxPropertyChangedPtr PropertyBody::make(Reading& reading)
 {
-    const PropertyLabelPtr& label = reading.texts.label(tag, group.value_or(&noText));
+    const PropertyLabelPtr& label = reading.texts.label(tag, group);
     if (!cls && !index && !old)
         return odrxNew<RecordedProperty>(label, std::move(value));
     PropertyDetails details{index.value_or(CFxVariant::kNull), old.value_or(CFxVariant::kNull), cls, handle};

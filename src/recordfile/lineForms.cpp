@@ -1,7 +1,7 @@
 #include "recordfile/lineForms.h"
 
 #include "host/db/OdDbClassMap.h"
-#include "recordfile/valueForms.h"
+#include "recordfile/drawingForms.h"
 
 #include <array>
 
@@ -133,6 +133,12 @@ std::span<const Key<Recording::Drawing>> Form<Recording::Drawing>::keys()
         optional<&Drawing::currentLayout>("currentLayout", "handle of the layout that is current"),
         optional<&Drawing::activeBlock>("activeBlock", "handle of the block that is drawn into"),
         optional<&Drawing::textStyle>("textStyle", "handle of the current text style"),
+        optional<&Drawing::tableStyle>("tableStyle", "handle of the current table style"),
+        optional<&Drawing::dimensionStyle>("dimensionStyle", "handle of the current dimension style"),
+        optional<&Drawing::richLineStyle>("richLineStyle", "handle of the current rich line style"),
+        optional<&Drawing::lineStyle>("lineStyle", "handle of the current line style"),
+        optional<&Drawing::lineStyleFolders>("lineStyleFolders",
+                                             "where the files of line styles lie, seen from the recording's folder"),
         optional<&Drawing::groupDictionary>("groupDictionary", "handle of the dictionary of groups"),
         optional<&Drawing::settings, SettingsForm>("settings", "variables of drawing and host, by name"),
     };

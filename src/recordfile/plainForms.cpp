@@ -113,32 +113,6 @@ OdDbObjectId Form<OdDbObjectId>::read(const Json& json)
     return json.reading.database.getOdDbObjectId(Form<OdDbHandle>::read(json));
 }
 
-OdDbNamedIds Form<OdDbNamedIds>::read(const Json& json)
-{
-    OdDbNamedIds ids;
-    for (const simdjson::dom::key_value_pair entry : json.object()) {
-        const Json value = json.entry(entry.key, entry.value);
-        if (!ids.emplace(toText(entry.key), Form<OdDbObjectId>::read(value)).second)
-            value.fail("the name is given twice");
-    }
-    return ids;
-}
-
-void Form<OdDbNamedIds>::write(JsonOut& out, const OdDbNamedIds& value)
-{
-    out.beginObject();
-    for (const auto& [name, id] : value) {
-        out.key(name);
-        Form<OdDbObjectId>::write(out, id);
-    }
-    out.endObject();
-}
-
-QJsonObject Form<OdDbNamedIds>::schema(SchemaDefinitions& definitions)
-{
-    return {{"type", "object"}, {"additionalProperties", Form<OdDbObjectId>::schema(definitions)}};
-}
-
 OdRxClass* Form<const OdRxClass*>::read(const Json& json)
 {
     const std::string_view name = json.text("the name of a class");
@@ -171,11 +145,6 @@ void readCoordinates(const Json& json, std::span<double> coordinates, const char
         coordinates[index] = Form<double>::read(json.entry(index, element));
         ++index;
     }
-}
-
-QJsonObject coordinatesSchema(int count)
-{
-    return {{"type", "array"}, {"items", typeSchema("number")}, {"minItems", count}, {"maxItems", count}};
 }
 
 // Colors and transparency
@@ -219,12 +188,7 @@ constexpr std::array colorChoices{
         [](JsonOut& out, const OdCmColor& color) {
             Form<std::vector<std::uint8_t>>::write(out, {color.red(), color.green(), color.blue()});
         },
-        [](SchemaDefinitions& definitions) {
-            QJsonObject schema = listSchema(Component::schema(definitions));
-            schema.insert("minItems", 3);
-            schema.insert("maxItems", 3);
-            return schema;
-        },
+        [](SchemaDefinitions& definitions) { return listSchema(Component::schema(definitions), 3, 3); },
     },
 };
 

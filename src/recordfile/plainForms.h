@@ -88,15 +88,6 @@ struct Form<OdDbObjectId>
     static QJsonObject schema(SchemaDefinitions& definitions) { return Form<OdDbHandle>::schema(definitions); }
 };
 
-/// An object whose keys are the names.
-template<>
-struct Form<OdDbNamedIds>
-{
-    static OdDbNamedIds read(const Json& json);
-    static void write(JsonOut& out, const OdDbNamedIds& value);
-    static QJsonObject schema(SchemaDefinitions& definitions);
-};
-
 template<>
 struct Form<const OdRxClass*>
 {
@@ -111,7 +102,6 @@ struct Form<OdRxClass*> : Form<const OdRxClass*>
 };
 
 void readCoordinates(const Json& json, std::span<double> coordinates, const char* expected);
-QJsonObject coordinatesSchema(int count);
 
 /// Form of a value that is a list of its coordinates.
 template<class T, const char* const& expected, double T::*... coordinates>
@@ -132,7 +122,11 @@ struct CoordinatesForm
         (out.number(value.*coordinates), ...);
         out.endArray();
     }
-    static QJsonObject schema(SchemaDefinitions&) { return coordinatesSchema(sizeof...(coordinates)); }
+    static QJsonObject schema(SchemaDefinitions&)
+    {
+        constexpr int count = sizeof...(coordinates);
+        return listSchema(typeSchema("number"), count, count);
+    }
 };
 
 inline constexpr const char* kPoint2d = "a point [x, y]";
@@ -150,6 +144,12 @@ struct Form<OdGePoint3d> : CoordinatesForm<OdGePoint3d, kPoint3d, &OdGePoint3d::
 template<>
 struct Form<OdGeVector3d>
     : CoordinatesForm<OdGeVector3d, kVector3d, &OdGeVector3d::x, &OdGeVector3d::y, &OdGeVector3d::z>
+{
+};
+
+inline constexpr const char* kScale3d = "scale factors [x, y, z]";
+template<>
+struct Form<OdGeScale3d> : CoordinatesForm<OdGeScale3d, kScale3d, &OdGeScale3d::sx, &OdGeScale3d::sy, &OdGeScale3d::sz>
 {
 };
 

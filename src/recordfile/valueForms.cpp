@@ -208,6 +208,14 @@ static_assert(dataChoices.size() == std::variant_size_v<Data::Value>);
 
 } // namespace
 
+std::string_view dataType(const CFxCustomActionData& data)
+{
+    for (const Choice<Data>& choice : dataChoices)
+        if (choice.holds(data))
+            return choice.key;
+    return {};
+}
+
 CFxCustomActionData Form<CFxCustomActionData>::read(const Json& json)
 {
     static const auto keys = keysOf(std::span<const Choice<Data>>(dataChoices));
@@ -304,7 +312,7 @@ void writeElement(JsonOut& out, const OdResBuf& element)
     for (std::size_t i = 0; i < bufferChoices.size(); ++i) {
         if (!bufferChoices[i].holds(element.value()))
             continue;
-        if (element.restype() != defaultTypes[i]) {
+        if (out.neutralKeys == NeutralKeys::Write || element.restype() != defaultTypes[i]) {
             out.key(kTypeKey);
             TypeForm::write(out, element.restype());
         }
@@ -332,14 +340,15 @@ QJsonObject elementSchema(SchemaDefinitions& definitions)
     });
 }
 
+constexpr const char* kResBufs = "a result buffer or a list of them";
+
 } // namespace
 
-OdResBufPtr Form<OdResBufPtr>::read(const Json& json)
+OdResBufPtr ResBufListForm::read(const Json& json)
 {
-    constexpr const char* expected = "a result buffer or a list of them";
     if (json.element.is_object())
         return readElement(json);
-    const simdjson::dom::array array = json.array(expected);
+    const simdjson::dom::array array = json.array(kResBufs);
     OdResBufPtr first;
     OdResBufPtr last;
     std::size_t index = 0;
@@ -352,8 +361,27 @@ OdResBufPtr Form<OdResBufPtr>::read(const Json& json)
             first = read;
         last = std::move(read);
     }
+    return first;
+}
+
+void ResBufListForm::write(JsonOut& out, const OdResBufPtr& first)
+{
+    out.beginArray();
+    for (OdResBufPtr element = first; element; element = element->next())
+        writeElement(out, *element);
+    out.endArray();
+}
+
+QJsonObject ResBufListForm::schema(SchemaDefinitions& definitions)
+{
+    return anyOfSchema({elementSchema(definitions), listSchema(elementSchema(definitions))});
+}
+
+OdResBufPtr Form<OdResBufPtr>::read(const Json& json)
+{
+    OdResBufPtr first = ResBufListForm::read(json);
     if (!first)
-        json.failExpected(expected);
+        json.failExpected(kResBufs);
     return first;
 }
 
@@ -361,12 +389,10 @@ void Form<OdResBufPtr>::write(JsonOut& out, const OdResBufPtr& first)
 {
     if (!first)
         return out.refuse();
-    if (!first->next())
-        return writeElement(out, *first);
-    out.beginArray();
-    for (OdResBufPtr element = first; element; element = element->next())
-        writeElement(out, *element);
-    out.endArray();
+    if (first->next())
+        ResBufListForm::write(out, first);
+    else
+        writeElement(out, *first);
 }
 
 QJsonObject Form<OdResBufPtr>::schema(SchemaDefinitions& definitions)

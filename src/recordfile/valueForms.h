@@ -41,9 +41,20 @@ struct Form<CFxCustomActionData>
     static QJsonObject schema(SchemaDefinitions& definitions);
 };
 
+/// The key that stands for the type.
+std::string_view dataType(const CFxCustomActionData& data);
+
 /// A chain of one or more elements.
 template<>
 struct Form<OdResBufPtr>
+{
+    static OdResBufPtr read(const Json& json);
+    static void write(JsonOut& out, const OdResBufPtr& first);
+    static QJsonObject schema(SchemaDefinitions& definitions);
+};
+
+/// A chain of any length; null for one without elements. Written as a list.
+struct ResBufListForm
 {
     static OdResBufPtr read(const Json& json);
     static void write(JsonOut& out, const OdResBufPtr& first);

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QTemporaryDir>
 
 #include <cmath>
 #include <limits>
@@ -41,7 +42,7 @@ QByteArray written(const Recording& recording)
 // Every kind of line and every form of a value once, in the form in which it is written.
 const QByteArray everything =
     R"({"recording":{"version":1,"language":3,"mode":1,"context":-7,"sheet":{"name":"Plan \"A\"","model":false}}}
-{"drawing":{"currentLayout":"22","activeBlock":"1F","textStyle":"11","groupDictionary":"70","settings":{"FILLETRAD":2.5,"TILEMODE":true,"CLAYER":"0"}}}
+{"drawing":{"currentLayout":"22","activeBlock":"1F","textStyle":"11","tableStyle":"12","dimensionStyle":"13","richLineStyle":"14","lineStyle":"15","lineStyleFolders":["styles","/usr/share/styles"],"groupDictionary":"70","settings":{"FILLETRAD":2.5,"TILEMODE":true,"CLAYER":"0"}}}
 {"object":{"class":"AcDbLayerTableRecord","handle":"10"}}
 {"object":{"class":"AcDbLayout","handle":"22","modelType":true,"layoutName":"Model"}}
 {"object":{"class":"AcDbMText","handle":"60","isErased":true,"reactors":["61","FFFFFFFFFFFFFFFF"]}}
@@ -73,11 +74,15 @@ TEST(RecordingFile, HoldsEveryFormAndGivesItBack)
     EXPECT_EQ(written(again), once);
     QByteArray plain = everything;
     EXPECT_EQ(once.count('\n'), plain.count('\n'));
+    // The drawing has no number that could be spelled in another way.
+    EXPECT_EQ(once.split('\n')[1], plain.split('\n')[1]);
 
     EXPECT_EQ(recording.header.language, 3);
     EXPECT_EQ(recording.header.context, -7);
     EXPECT_EQ(recording.header.sheet->name, "Plan \"A\"");
     EXPECT_EQ(recording.drawing.settings.size(), 3U);
+    EXPECT_EQ(recording.drawing.richLineStyle.ascii(), "14");
+    EXPECT_EQ(recording.drawing.lineStyleFolders, (std::vector<QString>{"styles", "/usr/share/styles"}));
     EXPECT_EQ(recording.actions.length(), 11U);
 
     const OdDbObjectId note = recording.database->getOdDbObjectId(OdDbHandle(0x60));
@@ -116,6 +121,124 @@ TEST(RecordingFile, KeepsValuesExact)
     EXPECT_EQ(custom->GetData(11).GetHandleArray()[1].ascii(), "30");
     EXPECT_THROW(custom->GetData(18), OdError_InvalidIndex);
     EXPECT_FALSE(recording.actions[10]);
+}
+
+/// The object of the line, and that the line is what is written for it.
+template<class T>
+OdSmartPtr<T> objectOf(Recording& recording, const QByteArray& data)
+{
+    const QByteArray line =
+        R"({"object":{"class":")" + T::desc()->name().toLatin1() + R"(","handle":"1",)" + data + "}}\n";
+    const auto error = read(line, recording);
+    EXPECT_FALSE(error) << error->text().toStdString();
+    EXPECT_TRUE(written(recording).endsWith('\n' + line)) << written(recording).toStdString();
+    return odrxCast<T>(recording.database->getOdDbObjectId(OdDbHandle(1)).openObject().get());
+}
+
+TEST(RecordingFile, HoldsWhatDrawingObjectsAreMadeOf)
+{
+    Recording recording;
+    const auto line = objectOf<OdDbLine>(
+        recording,
+        R"("extensionDictionary":{"ACAD_DIMASSOC":"41"},"xData":{"EMPTY":[],"PE_URL":[{"type":1000,"string":"a"},{"type":1041,"double":1.5}]},"endPoint":[4,0,0])");
+    EXPECT_EQ(line->getExtension("acad_dimassoc").getHandle().ascii(), "41");
+    EXPECT_TRUE(line->getExtension("OTHER").isNull());
+    EXPECT_FALSE(line->xData("EMPTY"));
+    EXPECT_EQ(line->xData("pe_url")->restype(), 1000);
+    EXPECT_EQ(line->xData("PE_URL")->next()->getDouble(), 1.5);
+    EXPECT_EQ(line->endPoint(), (OdGePoint3d{4, 0, 0}));
+
+    const auto polyline = objectOf<OdDbPolyline>(recording, R"("points":[[0,0],[4,0]],"bulges":[0.5],"isClosed":true)");
+    EXPECT_EQ(polyline->segType(0), OdDbPolyline::kArc);
+    EXPECT_EQ(polyline->segType(1), OdDbPolyline::kLine);
+    EXPECT_THROW(polyline->getBulgeAt(2), OdError_InvalidIndex);
+
+    const auto mesh =
+        objectOf<OdDbPolyFaceMesh>(recording, R"("vertices":[[0,0,0],[1,0,0],[0,1,0]],"faces":[[1,-2,3],[1,2,3,-1]])");
+    EXPECT_EQ(mesh->faces()[0].getVertexAt(1), -2);
+    EXPECT_EQ(mesh->faces()[0].getVertexAt(3), 0);
+    EXPECT_EQ(mesh->faces()[1].getVertexAt(3), -1);
+    EXPECT_THROW(mesh->faces()[1].getVertexAt(4), OdError_InvalidIndex);
+
+    const auto face = objectOf<OdDbFace>(
+        recording, R"("vertices":[[0,0,0],[1,0,0],[1,1,0],[0,1,5]],"edgesVisible":[true,false,true,true])");
+    EXPECT_EQ(face->getVertexAt(3).z, 5);
+    EXPECT_FALSE(face->isEdgeVisibleAt(1));
+    EXPECT_THROW(face->isEdgeVisibleAt(4), OdError_InvalidIndex);
+
+    const auto hatch = objectOf<OdDbHatch>(
+        recording,
+        R"("patternScale":2,"seedPoints":[[1,1]],"loops":[{"type":2,"vertices":[[0,0],[4,0]],"assocObjIds":["2F"]},{},{"type":4,"assocObjIds":["30","2F"]}])");
+    EXPECT_EQ(hatch->numLoops(), 3);
+    EXPECT_EQ(hatch->loopTypeAt(2), OdDbHatch::kDerived);
+    EXPECT_EQ(hatch->getLoopAt(0)[1].x, 4);
+    EXPECT_TRUE(hatch->getAssocObjIdsAt(1).isEmpty());
+    EXPECT_EQ(hatch->getAssocObjIds().length(), 3U);
+    EXPECT_THROW(hatch->getLoopAt(3), OdError_InvalidIndex);
+
+    const auto style = objectOf<OdDbMlineStyle>(
+        recording, R"("name":"WALL","elements":[{"offset":0.5,"color":{"index":1},"lineStyle":"14"},{}])");
+    EXPECT_EQ(style->getElementAt(0).linetypeId.getHandle().ascii(), "14");
+    EXPECT_TRUE(style->getElementAt(1).color.isByLayer());
+
+    const auto association = objectOf<OdDbDimAssoc>(recording, R"("pointRefs":[null,["50","2F"],null,null])");
+    EXPECT_TRUE(association->pointRef(0).isEmpty());
+    EXPECT_EQ(association->pointRef(1)[1].getHandle().ascii(), "2F");
+    EXPECT_THROW(association->pointRef(4), OdError_InvalidIndex);
+
+    const auto reference =
+        objectOf<OdDbBlockReference>(recording, R"("scaleFactors":[1,2,1],"attributes":["51","52"])");
+    EXPECT_EQ(reference->scaleFactors().sy, 2);
+    unsigned attributes = 0;
+    for (const auto walk = reference->attributeIterator(); !walk->done(); walk->step())
+        ++attributes;
+    EXPECT_EQ(attributes, 2U);
+
+    const auto table = objectOf<OdDbTable>(recording, R"("position":[1,2,0],"cellStyles":["_TITLE"],"rowHeights":[1])");
+    EXPECT_EQ(table->cellStyle(0, -1), "_TITLE");
+    EXPECT_EQ(table->cellStyle(1, -1), "");
+    EXPECT_EQ(table->position().y, 2);
+    EXPECT_EQ(table->scaleFactors().sx, 1);
+}
+
+TEST(RecordingFile, RemembersItsFolder)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("walls.jsonl"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(everything);
+    file.close();
+    Recording recording;
+    ASSERT_FALSE(ReadRecording(file.fileName(), recording));
+    EXPECT_EQ(recording.folder, folder.path());
+}
+
+TEST(RecordingFile, KnowsThePiecesOfARegionThatAreThere)
+{
+    Recording recording;
+    ASSERT_FALSE(read(R"({"object":{"class":"AcDbRegion","handle":"1","pieces":["3","2","4","5"]}}
+{"object":{"class":"AcDbLine","handle":"2"}}
+{"object":{"class":"AcDbArc","handle":"3","radius":2}}
+{"object":{"class":"AcDbArc","handle":"4","isErased":true}})",
+                      recording));
+    const auto region = odrxCast<OdDbRegion>(recording.database->getOdDbObjectId(OdDbHandle(1)).openObject().get());
+    const OdArray<OdDbObjectPtr> pieces = region->explode();
+    ASSERT_EQ(pieces.length(), 2U);
+    EXPECT_EQ(odrxCast<OdDbArc>(pieces[0].get())->radius(), 2);
+    EXPECT_EQ(pieces[1]->isA(), OdDbLine::desc());
+}
+
+TEST(RecordingFile, TellsVariablesAsNumbers)
+{
+    OdDbDatabase database;
+    database.setSysVar("FILLETRAD", 2.5);
+    database.setSysVar("TRIMMODE", 1);
+    database.setSysVar("CHAMMODE", 40000);
+    EXPECT_EQ(database.getSysVarDouble("filletrad"), 2.5);
+    EXPECT_EQ(database.getSysVarInt16("FILLETRAD"), 2);
+    EXPECT_EQ(database.getSysVarInt16("TRIMMODE"), 1);
+    EXPECT_EQ(database.getSysVarInt16("CHAMMODE"), 0);
+    EXPECT_EQ(database.getSysVarDouble("CHAMFERA"), 0);
 }
 
 TEST(RecordingFile, TakesLinesAsTheyCome)
@@ -187,6 +310,29 @@ TEST(RecordingFile, SaysWhatIsWrongAndWhere)
         {R"({"object":{"handle":"1"}})", "walls.jsonl:1: object: the key \"class\" is missing"},
         {"{\"object\":{\"class\":\"AcDbLine\",\"handle\":\"1\"}}\n{\"object\":{\"class\":\"AcDbArc\",\"handle\":\"01\"}}",
          "walls.jsonl:2: object: the drawing has an object with the handle 1 already"},
+        {R"({"object":{"class":"AcDbFace","handle":"1","edgesVisible":[true,true,true]}})",
+         "walls.jsonl:1: object.edgesVisible: expected a list with 4 entries, found a list with 3 entries"},
+        {R"({"object":{"class":"AcDbTrace","handle":"1","points":[[0,0,0],[0,0,0],[0,0],[0,0,0]]}})",
+         "walls.jsonl:1: object.points[2]: expected a point [x, y, z], found a list with 2 entries"},
+        {R"({"object":{"class":"AcDbPolyFaceMesh","handle":"1","faces":[[1,2,3],[1,2]]}})",
+         "walls.jsonl:1: object.faces[1]: expected three or four numbers of vertices, found a list with 2 entries"},
+        {R"({"object":{"class":"AcDbDimAssoc","handle":"1","pointRefs":[null,["2F"],null]}})",
+         "walls.jsonl:1: object.pointRefs: expected a list with 4 entries, found a list with 3 entries"},
+        {R"({"object":{"class":"AcDbDimAssoc","handle":"1","pointRefs":[null,["2F","G"],null,null]}})",
+         "walls.jsonl:1: object.pointRefs[1][1]: \"G\" is not a handle: only hexadecimal digits are allowed"},
+        {R"({"object":{"class":"AcDbHatch","handle":"1","loops":[{"type":2},{"kind":2}]}})",
+         "walls.jsonl:1: object.loops[1]: unknown key \"kind\""},
+        {R"({"object":{"class":"AcDbMlineStyle","handle":"1","elements":[{"color":"red"}]}})",
+         "walls.jsonl:1: object.elements[0].color: \"red\" is not a color"},
+        {R"({"object":{"class":"AcDbBlockReference","handle":"1","scaleFactors":2}})",
+         "walls.jsonl:1: object.scaleFactors: expected scale factors [x, y, z], found the number 2"},
+        {R"({"object":{"class":"AcDbLine","handle":"1","xData":{"PE_URL":[{"type":1000}]}}})",
+         "walls.jsonl:1: object.xData.PE_URL[0]: the value is missing, one of string, double, int8, int16, int32, bool, "
+         "point2d, point3d"},
+        {R"({"object":{"class":"AcDbLine","handle":"1","extensionDictionary":{"A":"2","a":"3"}}})",
+         "walls.jsonl:1: object.extensionDictionary.a: the name is given twice"},
+        {R"({"drawing":{"lineStyleFolders":["a",1]}})",
+         "walls.jsonl:1: drawing.lineStyleFolders[1]: expected a text, found the number 1"},
         {ok + R"({"recording":{"version":1}})", "walls.jsonl:2: recording: the header must be the first line"},
         {R"({"recording":{"version":2}})",
          "walls.jsonl:1: recording.version: expected the version 1, found the number 2"},

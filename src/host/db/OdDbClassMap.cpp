@@ -56,20 +56,21 @@ constexpr OdDbClassRow withData(const char* name, const char* parent, int code =
 const std::array kRows{
     abstractClass(kObject, nullptr, OdDbObject::fields),
     abstractClass(kEntity, kObject),
-    abstractClass(kDimension, kEntity),
+    abstractClass(kDimension, kEntity, OdDbDimension::fields),
     abstractClass(kTable, kObject),
     abstractClass(kRecord, kObject, OdDbSymbolTableRecord::fields),
     abstractClass("AcDbPlotSettings", kObject, OdDbPlotSettings::fields),
 
-    entity("AcDbLine", 19),
-    entity("AcDbCircle", 18),
+    withData<OdDbLine>("AcDbLine", kEntity, 19),
+    withData<OdDbCircle>("AcDbCircle", kEntity, 18),
     entity("AcDbPoint", 27),
     entity("AcDbRay", 40),
-    entity("AcDbArc", 17),
-    entity("AcDbEllipse", 35),
+    withData<OdDbArc>("AcDbArc", kEntity, 17),
+    withData<OdDbEllipse>("AcDbEllipse", kEntity, 35),
     entity("AcDbXline", 41),
     entity("AcDbText", 1),
     plain<OdDbEntity>("AcDbAttributeDefinition", "AcDbText", 3),
+    withData<OdDbAttribute>("AcDbAttribute", "AcDbText"),
     withData<OdDbMText>("AcDbMText", kEntity, 44),
     withData<OdDbBlockReference>("AcDbBlockReference", kEntity, 7),
     withData<OdDbTable>("AcDbTable", "AcDbBlockReference"),
@@ -81,39 +82,40 @@ const std::array kRows{
     withData<OdDbDiametricDimension>("AcDbDiametricDimension", kDimension, 26),
     withData<OdDbOrdinateDimension>("AcDbOrdinateDimension", kDimension, 20),
     withData<OdDbRadialDimension>("AcDbRadialDimension", kDimension, 25),
-    plain<OdDbRadialDimensionLarge>("AcDbRadialDimensionLarge", kDimension),
+    withData<OdDbRadialDimensionLarge>("AcDbRadialDimensionLarge", kDimension),
     withData<OdDbRotatedDimension>("AcDbRotatedDimension", kDimension, 21),
     withData<OdDbMline>("AcDbMline", kEntity, 47),
-    entity("AcDbFace", 28),
+    withData<OdDbFace>("AcDbFace", kEntity, 28),
     withData<OdDbLeader>("AcDbLeader", kEntity, 45),
     entity("AcDb2dPolyline"),
-    entity("AcDb3dPolyline", 16),
-    entity("AcDbPolygonMesh", 30),
-    entity("AcDbSolid", 31),
+    withData<OdDb3dPolyline>("AcDb3dPolyline", kEntity, 16),
+    withData<OdDbPolygonMesh>("AcDbPolygonMesh", kEntity, 30),
+    withData<OdDbSolid>("AcDbSolid", kEntity, 31),
     withData<OdDbFcf>("AcDbFcf", kEntity, 46),
     entity("AcDbSpline", 36),
     entity("AcDbShape", 33),
-    entity("AcDbRegion"),
-    entity("AcDbHatch", 78),
-    entity("AcDbPolyline", 77),
+    withData<OdDbRegion>("AcDbRegion", kEntity),
+    withData<OdDbHatch>("AcDbHatch", kEntity, 78),
+    withData<OdDbPolyline>("AcDbPolyline", kEntity, 77),
     entity("AcDbOle2Frame", 74),
-    entity("AcDbPolyFaceMesh", 29),
-    entity("AcDbViewport", 34),
-    entity("AcDbTrace", 32),
+    withData<OdDbPolyFaceMesh>("AcDbPolyFaceMesh", kEntity, 29),
+    withData<OdDbViewport>("AcDbViewport", kEntity, 34),
+    withData<OdDbTrace>("AcDbTrace", kEntity, 32),
     withData<OdDbArcAlignedText>("AcDbArcAlignedText", kEntity),
 
     withData<OdDbTextStyleTableRecord>("AcDbTextStyleTableRecord", kRecord, 53),
     withData<OdDbBlockTableRecord>("AcDbBlockTableRecord", kRecord, 49),
     record("AcDbDimStyleTableRecord", 69),
-    plain<OdDbLinetypeTableRecord>("AcDbLinetypeTableRecord", kRecord, 57),
+    withData<OdDbLinetypeTableRecord>("AcDbLinetypeTableRecord", kRecord, 57),
     withData<OdDbViewTableRecord>("AcDbViewTableRecord", kRecord, 61),
     plain<OdDbLayerTableRecord>("AcDbLayerTableRecord", kRecord, 51),
     record("AcDbViewportTableRecord", 65),
     plain<OdDbObject>("AcDbViewTable", kTable),
     plain<OdDbObject>("AcDbLayerTable", kTable),
     plain<OdDbTableStyle>("AcDbTableStyle", kObject),
-    plain<OdDbObject>("AcDbMlineStyle", kObject, 73),
-    plain<OdDbObject>("AcDbGroup", kObject, 72),
+    withData<OdDbMlineStyle>("AcDbMlineStyle", kObject, 73),
+    withData<OdDbGroup>("AcDbGroup", kObject, 72),
+    withData<OdDbDimAssoc>("AcDbDimAssoc", kObject),
     withData<OdDbDictionary>("AcDbDictionary", kObject),
     withData<OdDbLayout>("AcDbLayout", "AcDbPlotSettings", 82),
 };
@@ -187,6 +189,21 @@ OdRxClass* oddbDwgClassMapDesc(int code)
 
 INKHOST_DESC(Object)
 INKHOST_DESC(Entity)
+INKHOST_DESC(Line)
+INKHOST_DESC(Circle)
+INKHOST_DESC(Arc)
+INKHOST_DESC(Ellipse)
+INKHOST_DESC(Polyline)
+INKHOST_DESC(3dPolyline)
+INKHOST_DESC(PolygonMesh)
+INKHOST_DESC(PolyFaceMesh)
+INKHOST_DESC(Solid)
+INKHOST_DESC(Trace)
+INKHOST_DESC(Face)
+INKHOST_DESC(Region)
+INKHOST_DESC(Hatch)
+INKHOST_DESC(Viewport)
+INKHOST_DESC(Attribute)
 INKHOST_DESC(Dimension)
 INKHOST_DESC(AlignedDimension)
 INKHOST_DESC(RotatedDimension)
@@ -212,6 +229,9 @@ INKHOST_DESC(TextStyleTableRecord)
 INKHOST_DESC(ViewTableRecord)
 INKHOST_DESC(BlockTableRecord)
 INKHOST_DESC(TableStyle)
+INKHOST_DESC(MlineStyle)
+INKHOST_DESC(Group)
+INKHOST_DESC(DimAssoc)
 INKHOST_DESC(Dictionary)
 INKHOST_DESC(PlotSettings)
 INKHOST_DESC(Layout)

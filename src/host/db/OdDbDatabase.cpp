@@ -1,6 +1,7 @@
 #include "host/db/OdDbDatabase.h"
 
 #include <algorithm>
+#include <limits>
 
 /// Where an id points to. The object is null while only the handle has been heard of.
 struct OdDbStub
@@ -40,6 +41,19 @@ OdDbObjectId OdDbDatabase::addObject(const OdDbHandle& handle, OdDbObjectPtr obj
     object->objectId_ = id;
     stubs_[handle.value()]->object = std::move(object);
     return id;
+}
+
+double OdDbDatabase::getSysVarDouble(const OdString& name) const
+{
+    const auto found = sysVars_.find(name);
+    return found == sysVars_.end() ? 0.0 : found->second;
+}
+
+std::int16_t OdDbDatabase::getSysVarInt16(const OdString& name) const
+{
+    using Limits = std::numeric_limits<std::int16_t>;
+    const double value = getSysVarDouble(name);
+    return value >= Limits::min() && value <= Limits::max() ? static_cast<std::int16_t>(value) : std::int16_t{0};
 }
 
 OdArray<OdDbObjectId> OdDbDatabase::objectIds() const

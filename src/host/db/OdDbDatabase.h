@@ -26,6 +26,26 @@ public:
     OdDbObjectId getGroupDictionaryId() const { return groupDictionaryId_; }
     void setGroupDictionaryId(OdDbObjectId id) { groupDictionaryId_ = id; }
 
+    OdDbObjectId tablestyle() const { return tablestyle_; }
+    void setTablestyle(OdDbObjectId id) { tablestyle_ = id; }
+    OdDbObjectId currentDimensionStyleId() const { return currentDimensionStyleId_; }
+    void setCurrentDimensionStyleId(OdDbObjectId id) { currentDimensionStyleId_ = id; }
+    OdDbObjectId currentRichLineStyleId() const { return currentRichLineStyleId_; }
+    void setCurrentRichLineStyleId(OdDbObjectId id) { currentRichLineStyleId_ = id; }
+    OdDbObjectId currentLineStyleId() const { return currentLineStyleId_; }
+    void setCurrentLineStyleId(OdDbObjectId id) { currentLineStyleId_ = id; }
+
+    /// Where the files of line styles (*.lin) lie, in the order of the search: absolute paths.
+    const std::vector<OdString>& lineStyleFolders() const { return lineStyleFolders_; }
+    void setLineStyleFolders(std::vector<OdString> folders) { lineStyleFolders_ = std::move(folders); }
+
+    /// A variable of the drawing or the host, a truth value as 0 or 1; 0 when it is not known. Names do not differ in
+    /// upper and lower case.
+    double getSysVarDouble(const OdString& name) const;
+    /// The same without its fraction, and 0 when it has more than 16 bits.
+    std::int16_t getSysVarInt16(const OdString& name) const;
+    void setSysVar(const OdString& name, double value) { sysVars_[name] = value; }
+
     /// All objects, by ascending handle.
     OdArray<OdDbObjectId> objectIds() const;
 
@@ -33,4 +53,10 @@ private:
     std::unordered_map<std::uint64_t, std::unique_ptr<OdDbStub>> stubs_; ///< by the handle's value
     OdDbObjectId currentLayoutId_;
     OdDbObjectId groupDictionaryId_;
+    OdDbObjectId tablestyle_;
+    OdDbObjectId currentDimensionStyleId_;
+    OdDbObjectId currentRichLineStyleId_;
+    OdDbObjectId currentLineStyleId_;
+    std::vector<OdString> lineStyleFolders_;
+    std::map<OdString, double, OdDbNameOrder> sysVars_;
 };

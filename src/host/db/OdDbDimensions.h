@@ -7,6 +7,13 @@ class INKHOST_EXPORT OdDbDimension : public OdDbEntity
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
+    static std::span<const OdDbField> fields();
+
+    /// The text that stands in place of the measured value; empty for the value itself.
+    const OdString& dimensionText() const { return dimensionText_; }
+
+private:
+    OdString dimensionText_;
 };
 
 class INKHOST_EXPORT OdDbAlignedDimension : public OdDbDimension
@@ -97,6 +104,10 @@ public:
     const OdGePoint3d& xLine2Point() const { return xLine2Point_; }
     const OdGePoint3d& centerPoint() const { return centerPoint_; }
     const OdGePoint3d& arcPoint() const { return arcPoint_; }
+    /// Where the arc starts and ends, in radians.
+    double arcStartParam() const { return arcStartParam_; }
+    double arcEndParam() const { return arcEndParam_; }
+    /// Whether only a part of the arc is measured.
     bool isPartial() const { return partial_; }
 
 private:
@@ -104,6 +115,8 @@ private:
     OdGePoint3d xLine2Point_;
     OdGePoint3d centerPoint_;
     OdGePoint3d arcPoint_;
+    double arcStartParam_ = 0.0;
+    double arcEndParam_ = 0.0;
     bool partial_ = false;
 };
 
@@ -135,10 +148,13 @@ public:
     static OdRxClass* desc();
     static std::span<const OdDbField> fields();
 
+    /// Where the diameter meets the curve, as the next one is.
     const OdGePoint3d& chordPoint() const { return chordPoint_; }
+    const OdGePoint3d& farChordPoint() const { return farChordPoint_; }
 
 private:
     OdGePoint3d chordPoint_;
+    OdGePoint3d farChordPoint_;
 };
 
 class INKHOST_EXPORT OdDbRadialDimension : public OdDbDimension
@@ -148,9 +164,11 @@ public:
     static OdRxClass* desc();
     static std::span<const OdDbField> fields();
 
+    const OdGePoint3d& center() const { return center_; }
     const OdGePoint3d& chordPoint() const { return chordPoint_; }
 
 private:
+    OdGePoint3d center_;
     OdGePoint3d chordPoint_;
 };
 
@@ -160,4 +178,12 @@ class INKHOST_EXPORT OdDbRadialDimensionLarge : public OdDbDimension
 public:
     using OdDbDimension::OdDbDimension;
     static OdRxClass* desc();
+    static std::span<const OdDbField> fields();
+
+    const OdGePoint3d& center() const { return center_; }
+    const OdGePoint3d& chordPoint() const { return chordPoint_; }
+
+private:
+    OdGePoint3d center_;
+    OdGePoint3d chordPoint_;
 };

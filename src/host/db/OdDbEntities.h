@@ -1,30 +1,13 @@
 #pragma once
 
 #include "host/db/OdDbEntity.h"
+#include "host/db/OdDbObjectIterator.h"
 
 class INKHOST_EXPORT OdDbRasterImage : public OdDbEntity
 {
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-};
-
-/// A rich line.
-class INKHOST_EXPORT OdDbMline : public OdDbEntity
-{
-public:
-    using OdDbEntity::OdDbEntity;
-    static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    int numVertices() const { return static_cast<int>(vertices_.length()); }
-    /// Raises OdError_InvalidIndex.
-    const OdGePoint3d& vertexAt(int index) const { return vertices_[static_cast<std::size_t>(index)]; }
-    bool closedMline() const { return closed_; }
-
-private:
-    OdArray<OdGePoint3d> vertices_;
-    bool closed_ = false;
 };
 
 class INKHOST_EXPORT OdDbBlockReference : public OdDbEntity
@@ -34,11 +17,37 @@ public:
     static OdRxClass* desc();
     static std::span<const OdDbField> fields();
 
+    const OdGePoint3d& position() const { return position_; }
+    const OdGeScale3d& scaleFactors() const { return scaleFactors_; }
+    /// In radians.
+    double rotation() const { return rotation_; }
     /// The definition that is shown here.
     const OdDbObjectId& blockTableRecord() const { return blockTableRecord_; }
+    /// Walks the attributes, without the erased ones. Must not outlive the reference.
+    OdDbObjectIteratorPtr attributeIterator() const { return odrxNew<OdDbObjectIterator>(attributes_); }
 
 private:
+    OdGePoint3d position_;
+    OdGeScale3d scaleFactors_;
+    double rotation_ = 0.0;
     OdDbObjectId blockTableRecord_;
+    OdArray<OdDbObjectId> attributes_;
+};
+
+/// A text of a block reference that differs from one reference to the next.
+class INKHOST_EXPORT OdDbAttribute : public OdDbEntity
+{
+public:
+    using OdDbEntity::OdDbEntity;
+    static OdRxClass* desc();
+    static std::span<const OdDbField> fields();
+
+    const OdString& tag() const { return tag_; }
+    const OdString& textString() const { return textString_; }
+
+private:
+    OdString tag_;
+    OdString textString_;
 };
 
 /// A table has as many rows and columns as it has heights and widths.
@@ -51,13 +60,22 @@ public:
 
     unsigned numRows() const { return rowHeights_.length(); }
     unsigned numColumns() const { return columnWidths_.length(); }
+    /// Of the whole table, as the next one is.
+    double height() const { return height_; }
+    double width() const { return width_; }
     /// Raises OdError_InvalidIndex, as the next one does.
     double rowHeight(unsigned row) const { return rowHeights_[row]; }
     double columnWidth(unsigned column) const { return columnWidths_[column]; }
     /// Empty for a cell that was never filled.
     OdString textString(unsigned row, unsigned column) const;
+    /// Name of the cell style of a whole row, for which the column is -1. Empty when there is none; cells have none of
+    /// their own.
+    OdString cellStyle(unsigned row, int column) const;
 
 private:
+    double height_ = 0.0;
+    double width_ = 0.0;
+    OdArray<OdString> cellStyles_; ///< by row, as far as they are given
     OdArray<double> rowHeights_;
     OdArray<double> columnWidths_;
     OdArray<OdArray<OdString>> textStrings_; ///< by row, up to the last filled cell
@@ -104,31 +122,6 @@ private:
     bool useBackgroundColor_ = false;
     std::optional<OdCmColor> backgroundFillColor_;
     double backgroundScaleFactor_ = 1.5;
-};
-
-class INKHOST_EXPORT OdDbLeader : public OdDbEntity
-{
-public:
-    enum AnnoType : int
-    {
-        kMText = 0,
-        kFcf = 1,
-        kBlockRef = 2,
-        kNoAnno = 3,
-    };
-
-    using OdDbEntity::OdDbEntity;
-    static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    AnnoType annoType() const { return static_cast<AnnoType>(annoType_); }
-    const OdDbObjectId& annotationObjectId() const { return annotationObjectId_; }
-    double annoWidth() const { return annoWidth_; }
-
-private:
-    int annoType_ = kNoAnno;
-    OdDbObjectId annotationObjectId_;
-    double annoWidth_ = 0.0;
 };
 
 /// A tolerance frame.
@@ -181,4 +174,21 @@ private:
     int alignment_ = 1;
     int textPosition_ = 1;
     int textDirection_ = 1;
+};
+
+/// A window of a sheet onto the model.
+class INKHOST_EXPORT OdDbViewport : public OdDbEntity
+{
+public:
+    using OdDbEntity::OdDbEntity;
+    static OdRxClass* desc();
+    static std::span<const OdDbField> fields();
+
+    /// Whether an entity, not a rectangle, bounds the window.
+    bool isNonRectClipOn() const { return nonRectClip_; }
+    const OdDbObjectId& nonRectClipEntityId() const { return nonRectClipEntityId_; }
+
+private:
+    bool nonRectClip_ = false;
+    OdDbObjectId nonRectClipEntityId_;
 };

@@ -9,3 +9,18 @@ public:
     using OdDbObject::OdDbObject;
     static OdRxClass* desc();
 };
+
+/// An entity along or over a list of points. No class of drawing objects of its own.
+class INKHOST_EXPORT OdDbVertexEntity : public OdDbEntity
+{
+public:
+    using OdDbEntity::OdDbEntity;
+
+    const OdArray<OdGePoint3d>& vertices() const { return vertices_; }
+    int numVertices() const { return static_cast<int>(vertices_.length()); }
+    /// Raises OdError_InvalidIndex.
+    const OdGePoint3d& vertexAt(int index) const { return vertices_[static_cast<std::size_t>(index)]; }
+
+protected:
+    OdArray<OdGePoint3d> vertices_;
+};

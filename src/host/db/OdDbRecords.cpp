@@ -1,29 +1,13 @@
 #include "host/db/OdDbRecords.h"
 
-OdDbObjectIteratorPtr OdDbBlockTableRecord::newIterator() const
+const OdArray<OdDbObjectId>& OdDbDimAssoc::pointRef(std::size_t index) const
 {
-    return odrxNew<OdDbObjectIterator>(entities_);
-}
-
-OdRxClass* OdDbObjectIterator::desc()
-{
-    static OdRxClass* const descriptor = OdRxClass::define("OdDbObjectIterator", OdRxObject::desc());
-    return descriptor;
-}
-
-void OdDbObjectIterator::skipErased()
-{
-    // An entity of which only the handle is known counts as one that is there.
-    const auto erased = [](const OdDbObjectId& id) {
-        const OdDbObjectPtr entity = id.openObject(true);
-        return entity && entity->isErased();
-    };
-    while (!done() && erased(objectId()))
-        ++at_;
+    if (index >= pointRefs_.size())
+        throw OdError_InvalidIndex();
+    return pointRefs_[index];
 }
 
 OdDbObjectId OdDbDictionary::getAt(const OdString& name) const
 {
-    const auto found = items_.find(name);
-    return found == items_.end() ? OdDbObjectId() : found->second;
+    return oddbIdOf(items_, name);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/db/OdDbObject.h"
+#include "host/db/OdDbObjectIterator.h"
 
 /// A named entry of one of the drawing's tables: a layer, a style, a block definition.
 class INKHOST_EXPORT OdDbSymbolTableRecord : public OdDbObject
@@ -23,11 +23,19 @@ public:
     static OdRxClass* desc();
 };
 
+/// A line style.
 class INKHOST_EXPORT OdDbLinetypeTableRecord : public OdDbSymbolTableRecord
 {
 public:
     using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
     static OdRxClass* desc();
+    static std::span<const OdDbField> fields();
+
+    /// The description.
+    const OdString& comments() const { return comments_; }
+
+private:
+    OdString comments_;
 };
 
 class INKHOST_EXPORT OdDbTextStyleTableRecord : public OdDbSymbolTableRecord
@@ -59,9 +67,6 @@ private:
     bool paperspaceView_ = false;
 };
 
-class OdDbObjectIterator;
-using OdDbObjectIteratorPtr = OdSmartPtr<OdDbObjectIterator>;
-
 class INKHOST_EXPORT OdDbBlockTableRecord : public OdDbSymbolTableRecord
 {
 public:
@@ -78,45 +83,28 @@ public:
     /// Whether the block holds what is drawn on a sheet or in model space.
     bool isLayout() const { return layout_; }
     bool isFromExternalReference() const { return externalReference_; }
+    /// File of the drawing that an external reference shows.
+    const OdString& pathName() const { return pathName_; }
+    /// The point of the block that lands on a reference's position.
+    const OdGePoint3d& origin() const { return origin_; }
     const OdString& comments() const { return comments_; }
     BlockScaling blockScaling() const { return static_cast<BlockScaling>(blockScaling_); }
     bool explodable() const { return explodable_; }
     /// 0 unitless, 1 inches and so on, see CFxUtils.
     int blockInsertUnits() const { return blockInsertUnits_; }
     /// Walks the entities from the first to the last, without the erased ones. Must not outlive the definition.
-    OdDbObjectIteratorPtr newIterator() const;
+    OdDbObjectIteratorPtr newIterator() const { return odrxNew<OdDbObjectIterator>(entities_); }
 
 private:
     bool layout_ = false;
     bool externalReference_ = false;
+    OdString pathName_;
+    OdGePoint3d origin_;
     OdString comments_;
     int blockScaling_ = kAny;
     bool explodable_ = true;
     int blockInsertUnits_ = 0;
     OdArray<OdDbObjectId> entities_;
-};
-
-/// Stands on an entity of a block definition, or behind the last.
-class INKHOST_EXPORT OdDbObjectIterator : public OdRxObject
-{
-public:
-    explicit OdDbObjectIterator(const OdArray<OdDbObjectId>& ids) : ids_(ids) { skipErased(); }
-    static OdRxClass* desc();
-    OdRxClass* isA() const override { return desc(); }
-
-    bool done() const { return at_ == ids_.length(); }
-    void step()
-    {
-        ++at_;
-        skipErased();
-    }
-    const OdDbObjectId& objectId() const { return ids_[at_]; }
-
-private:
-    void skipErased();
-
-    const OdArray<OdDbObjectId>& ids_;
-    unsigned at_ = 0;
 };
 
 /// A table style.
@@ -125,6 +113,65 @@ class INKHOST_EXPORT OdDbTableStyle : public OdDbObject
 public:
     using OdDbObject::OdDbObject;
     static OdRxClass* desc();
+};
+
+/// One of the parallel lines of a rich line style.
+struct OdDbMlineElement
+{
+    double offset = 0.0; ///< from the vertices
+    OdCmColor color;
+    OdDbObjectId linetypeId;
+    bool operator==(const OdDbMlineElement&) const = default;
+};
+
+/// A rich line style.
+class INKHOST_EXPORT OdDbMlineStyle : public OdDbObject
+{
+public:
+    using OdDbObject::OdDbObject;
+    static OdRxClass* desc();
+    static std::span<const OdDbField> fields();
+
+    const OdString& name() const { return name_; }
+    int numElements() const { return static_cast<int>(elements_.length()); }
+    /// Raises OdError_InvalidIndex.
+    const OdDbMlineElement& getElementAt(int index) const { return elements_[static_cast<std::size_t>(index)]; }
+
+private:
+    OdString name_;
+    OdArray<OdDbMlineElement> elements_;
+};
+
+class INKHOST_EXPORT OdDbGroup : public OdDbObject
+{
+public:
+    using OdDbObject::OdDbObject;
+    static OdRxClass* desc();
+    static std::span<const OdDbField> fields();
+
+    /// Whether the group has no name of its own.
+    bool isAnonymous() const { return anonymous_; }
+
+private:
+    bool anonymous_ = false;
+};
+
+/// What a dimension hangs on. Stands in the dimension's extension dictionary as "ACAD_DIMASSOC".
+class INKHOST_EXPORT OdDbDimAssoc : public OdDbObject
+{
+public:
+    static constexpr std::size_t kMaxPointRefs = 4;
+
+    using OdDbObject::OdDbObject;
+    static OdRxClass* desc();
+    static std::span<const OdDbField> fields();
+
+    /// The objects that lead to the geometry of one of the dimension's points, the geometry itself the last; empty
+    /// when the point hangs on nothing. Raises OdError_InvalidIndex.
+    const OdArray<OdDbObjectId>& pointRef(std::size_t index) const;
+
+private:
+    std::array<OdArray<OdDbObjectId>, kMaxPointRefs> pointRefs_;
 };
 
 class INKHOST_EXPORT OdDbDictionary : public OdDbObject

@@ -18,6 +18,15 @@ struct OdGeVector3d
     bool operator==(const OdGeVector3d&) const = default;
 };
 
+/// Factors by which something is stretched along the axes.
+struct OdGeScale3d
+{
+    double sx = 1.0;
+    double sy = 1.0;
+    double sz = 1.0;
+    bool operator==(const OdGeScale3d&) const = default;
+};
+
 struct OdGePoint3d
 {
     double x = 0.0;

@@ -3,167 +3,179 @@
 #include "objects/targets/dimensions.h"
 
 #include "host/db/OdDbClasses.h"
-#include "objects/AddedProperties.h"
+#include "objects/AddedObject.h"
 #include "objects/added/dimensionGeometry.h"
+#include "objects/added/readers.h"
 #include "objects/targets/dimensionsOnCurves.h"
+#include "objects/targets/points.h"
 #include "objects/targets/references.h"
 #include "objects/targets/setters.h"
-#include "objects/targets/texts.h"
 #include "targets/wording.h"
+
+#include <optional>
 
 namespace {
 
 /// Distances up to this are none.
 constexpr double kPointTolerance = 1e-10;
 
-CFxString takeTextOverride(AddedProperties& properties)
+CFxString takeTextOverride(AddedObject& added)
 {
-    return inkmacro::doubleBackslashes(properties.takeText("Text override"));
+    return inkmacro::doubleBackslashes(added.takeText("Text override"));
 }
 
 /// A point of the drawing's plane, recorded as two numbers.
-OdGePoint3d takePlanePoint(AddedProperties& properties, const char* yTag, const char* xTag)
+OdGePoint3d takePlanePoint(AddedObject& added, const char* yTag, const char* xTag)
 {
-    const double y = properties.takeReal(yTag, 0.0);
-    const double x = properties.takeReal(xTag, 0.0);
+    const double y = added.takeReal(yTag, 0.0);
+    const double x = added.takeReal(xTag, 0.0);
     return {x, y, 0.0};
+}
+
+/// The curve that the dimension measures; nothing for a dimension that is not in the drawing, or has no curve.
+template<class Dimension>
+std::optional<MeasuredCurve> curveOf(const AddedObject& added)
+{
+    const auto dimension = added.open<Dimension>();
+    const OdDbObjectPtr curve = dimension ? GetDimensionGeometry(*dimension) : OdDbObjectPtr();
+    if (!curve)
+        return std::nullopt;
+    return MeasuredCurve{curve, added.converter.AddedVariable(curve->objectId())};
+}
+
+/// The rotation belongs to the part of a dimension that all kinds have, so a statement fetches that first.
+QString withTextRotation(QString insertion, AddedObject& added)
+{
+    const CFxVariant rotation = added.take("Rotation");
+    if (rotation.IsNull())
+        return insertion;
+    CFxString general;
+    insertion += EmitGetGeneralDimension(added.writer, added.name, general);
+    return insertion + EmitSetDoubleProperty(added.writer, general, "TextRotation", rotation.GetDouble());
+}
+
+/// A line without a variable is drawn anew.
+QString variableOf(const AddedObject& added, const OdDbObjectPtr& line)
+{
+    return line ? added.converter.AddedVariable(line->objectId()) : QString();
 }
 
 } // namespace
 
-template<class Dimension>
-std::optional<MeasuredCurve> CFxConverterIWAPIObject::CurveOf(const CFxString& name) const
+QString ReadAlignedDimension(AddedObject& added)
 {
-    const auto dimension = odrxCast<Dimension>(AddedObject(name).get());
-    const OdDbObjectPtr curve = dimension ? GetDimensionGeometry(*dimension) : OdDbObjectPtr();
-    if (!curve)
-        return std::nullopt;
-    return MeasuredCurve{curve, AddedVariable(curve->objectId())};
+    const OdGePoint3d first = added.takePoint("xLine1Point");
+    const OdGePoint3d second = added.takePoint("xLine2Point");
+    const OdGePoint3d line = added.takePoint("dimLinePoint");
+    const CFxString text = takeTextOverride(added);
+    return withTextRotation(EmitInsertAlignedDimension(added.writer, first, second, line, text, added.name), added);
 }
 
-/// The rotation belongs to the part of a dimension that all kinds have, so a statement fetches that first.
-QString CFxConverterIWAPIObject::WithTextRotation(QString insertion, AddedProperties& properties, const CFxString& name)
-{
-    const CFxVariant rotation = properties.take("Rotation");
-    if (rotation.IsNull())
-        return insertion;
-    CFxString general;
-    insertion += EmitGetGeneralDimension(writer, name, general);
-    return insertion + EmitSetDoubleProperty(writer, general, "TextRotation", rotation.GetDouble());
-}
-
-QString CFxConverterIWAPIObject::ReadAlignedDimension(AddedProperties& properties, const CFxString& name)
-{
-    const OdGePoint3d first = properties.takePoint("xLine1Point");
-    const OdGePoint3d second = properties.takePoint("xLine2Point");
-    const OdGePoint3d line = properties.takePoint("dimLinePoint");
-    const CFxString text = takeTextOverride(properties);
-    return WithTextRotation(EmitInsertAlignedDimension(writer, first, second, line, text, name), properties, name);
-}
-
-QString CFxConverterIWAPIObject::Read2LineAngularDimension(AddedProperties& properties, const CFxString& name)
+QString Read2LineAngularDimension(AddedObject& added)
 {
     DimensionLine first;
     DimensionLine second;
-    first.start = properties.takePoint("xLine1Start");
-    first.end = properties.takePoint("xLine1End");
-    second.start = properties.takePoint("xLine2Start");
-    second.end = properties.takePoint("xLine2End");
-    const OdGePoint3d arcPoint = properties.takePoint("arcPoint");
-    const CFxString text = takeTextOverride(properties);
-    if (MeasuresFromVariables(writer)) {
-        if (const auto dimension = odrxCast<OdDb2LineAngularDimension>(AddedObject(name).get())) {
+    first.start = added.takePoint("xLine1Start");
+    first.end = added.takePoint("xLine1End");
+    second.start = added.takePoint("xLine2Start");
+    second.end = added.takePoint("xLine2End");
+    const OdGePoint3d arcPoint = added.takePoint("arcPoint");
+    const CFxString text = takeTextOverride(added);
+    if (MeasuresFromVariables(added.writer)) {
+        if (const auto dimension = added.open<OdDb2LineAngularDimension>()) {
             OdDbObjectPtr firstObject;
             OdDbObjectPtr secondObject;
             GetDimensionAssociatedLines(*dimension, firstObject, secondObject);
-            first.variable = firstObject ? AddedVariable(firstObject->objectId()) : QString();
-            second.variable = secondObject ? AddedVariable(secondObject->objectId()) : QString();
+            first.variable = variableOf(added, firstObject);
+            second.variable = variableOf(added, secondObject);
         }
     }
-    return WithTextRotation(EmitInsertAngularDimension2Line(writer, first, second, arcPoint, text, name), properties,
-                            name);
+    return withTextRotation(EmitInsertAngularDimension2Line(added.writer, first, second, arcPoint, text, added.name),
+                            added);
 }
 
-QString CFxConverterIWAPIObject::Read3PointAngularDimension(AddedProperties& properties, const CFxString& name)
+QString Read3PointAngularDimension(AddedObject& added)
 {
-    const OdGePoint3d center = properties.takePoint("centerPoint");
-    const OdGePoint3d first = properties.takePoint("xLine1Point");
-    const OdGePoint3d second = properties.takePoint("xLine2Point");
-    const OdGePoint3d arcPoint = properties.takePoint("arcPoint");
-    const CFxString text = takeTextOverride(properties);
-    const std::optional<MeasuredCurve> curve = CurveOf<OdDb3PointAngularDimension>(name);
+    const OdGePoint3d center = added.takePoint("centerPoint");
+    const OdGePoint3d first = added.takePoint("xLine1Point");
+    const OdGePoint3d second = added.takePoint("xLine2Point");
+    const OdGePoint3d arcPoint = added.takePoint("arcPoint");
+    const CFxString text = takeTextOverride(added);
+    const std::optional<MeasuredCurve> curve = curveOf<OdDb3PointAngularDimension>(added);
     const bool onArc = curve && odrxQuery<OdDbArc>(curve->object.get());
-    QString insertion = onArc ? EmitInsertAngularDimensionArc(writer, *curve, arcPoint, text, name)
-                              : EmitInsertAngularDimension3Point(writer, center, first, second, arcPoint, text, name);
-    return WithTextRotation(std::move(insertion), properties, name);
+    QString insertion =
+        onArc ? EmitInsertAngularDimensionArc(added.writer, *curve, arcPoint, text, added.name)
+              : EmitInsertAngularDimension3Point(added.writer, center, first, second, arcPoint, text, added.name);
+    return withTextRotation(std::move(insertion), added);
 }
 
-QString CFxConverterIWAPIObject::ReadArcLengthDimension(AddedProperties& properties, const CFxString& name)
+QString ReadArcLengthDimension(AddedObject& added)
 {
-    const OdGePoint3d first = properties.takePoint("xLine1Point");
-    const OdGePoint3d second = properties.takePoint("xLine2Point");
-    const bool partial = properties.take("isPartial").GetInt32() != 0;
-    const OdGePoint3d arcPoint = properties.takePoint("arcPoint");
-    const CFxString text = takeTextOverride(properties);
+    const OdGePoint3d first = added.takePoint("xLine1Point");
+    const OdGePoint3d second = added.takePoint("xLine2Point");
+    const bool partial = added.take("isPartial").GetInt32() != 0;
+    const OdGePoint3d arcPoint = added.takePoint("arcPoint");
+    const CFxString text = takeTextOverride(added);
     QString insertion;
-    if (const std::optional<MeasuredCurve> arc = CurveOf<OdDbArcDimension>(name))
-        insertion = EmitInsertArcLengthDimension(writer, *arc, first, second, partial, arcPoint, text, name);
-    return WithTextRotation(std::move(insertion), properties, name);
+    if (const std::optional<MeasuredCurve> arc = curveOf<OdDbArcDimension>(added))
+        insertion =
+            EmitInsertArcLengthDimension(added.writer, *arc, first, second, partial, arcPoint, text, added.name);
+    return withTextRotation(std::move(insertion), added);
 }
 
-QString CFxConverterIWAPIObject::ReadOrdinateDimension(AddedProperties& properties, const CFxString& name)
+QString ReadOrdinateDimension(AddedObject& added)
 {
-    const OdGePoint3d point = properties.takePoint("definingPoint");
-    const OdGePoint3d leaderEnd = properties.takePoint("leaderEndPoint");
-    const bool usesXAxis = properties.take("isUsingXAxis").GetInt32() != 0;
-    const CFxString text = takeTextOverride(properties);
-    QString statements = WithTextRotation(EmitInsertOrdinateDimension(writer, point, leaderEnd, usesXAxis, text, name),
-                                          properties, name);
-    const CFxVariant zero = properties.take("setZero");
+    const OdGePoint3d point = added.takePoint("definingPoint");
+    const OdGePoint3d leaderEnd = added.takePoint("leaderEndPoint");
+    const bool usesXAxis = added.take("isUsingXAxis").GetInt32() != 0;
+    const CFxString text = takeTextOverride(added);
+    QString statements = withTextRotation(
+        EmitInsertOrdinateDimension(added.writer, point, leaderEnd, usesXAxis, text, added.name), added);
+    const CFxVariant zero = added.take("setZero");
     if (!zero.IsNull() && zero.GetPoint3d().distanceTo({}) > kPointTolerance)
-        statements += EmitCallWithPoint(writer, name, "SetOriginPoint", zero.GetPoint3d());
+        statements += EmitCallWithPoint(added.writer, added.name, "SetOriginPoint", zero.GetPoint3d());
     return statements;
 }
 
-QString CFxConverterIWAPIObject::ReadDiameterDimension(AddedProperties& properties, const CFxString& name)
+QString ReadDiameterDimension(AddedObject& added)
 {
-    const OdGePoint3d chordPoint = properties.takePoint("chordPoint");
-    const CFxString text = takeTextOverride(properties);
+    const OdGePoint3d chordPoint = added.takePoint("chordPoint");
+    const CFxString text = takeTextOverride(added);
     QString insertion;
-    if (const std::optional<MeasuredCurve> curve = CurveOf<OdDbDiametricDimension>(name))
-        insertion = EmitInsertDiameterDimension(writer, *curve, chordPoint, text, name);
-    return WithTextRotation(std::move(insertion), properties, name);
+    if (const std::optional<MeasuredCurve> curve = curveOf<OdDbDiametricDimension>(added))
+        insertion = EmitInsertDiameterDimension(added.writer, *curve, chordPoint, text, added.name);
+    return withTextRotation(std::move(insertion), added);
 }
 
-QString CFxConverterIWAPIObject::ReadRadialDimension(AddedProperties& properties, const CFxString& name)
+QString ReadRadialDimension(AddedObject& added)
 {
-    const OdGePoint3d chordPoint = properties.takePoint("chordPoint");
-    const CFxString text = takeTextOverride(properties);
+    const OdGePoint3d chordPoint = added.takePoint("chordPoint");
+    const CFxString text = takeTextOverride(added);
     QString insertion;
-    if (const std::optional<MeasuredCurve> curve = CurveOf<OdDbRadialDimension>(name))
-        insertion = EmitInsertRadialDimension(writer, *curve, chordPoint, text, name);
-    return WithTextRotation(std::move(insertion), properties, name);
+    if (const std::optional<MeasuredCurve> curve = curveOf<OdDbRadialDimension>(added))
+        insertion = EmitInsertRadialDimension(added.writer, *curve, chordPoint, text, added.name);
+    return withTextRotation(std::move(insertion), added);
 }
 
-QString CFxConverterIWAPIObject::ReadJoggedDimension(AddedProperties& properties, const CFxString& name)
+QString ReadJoggedDimension(AddedObject& added)
 {
-    const OdGePoint3d center = takePlanePoint(properties, "Center location override Y", "Center location override X");
-    const OdGePoint3d jog = takePlanePoint(properties, "Jog location Y", "Jog location X");
-    const OdGePoint3d position = takePlanePoint(properties, "Position y", "Position x");
-    const CFxString text = takeTextOverride(properties);
+    const OdGePoint3d center = takePlanePoint(added, "Center location override Y", "Center location override X");
+    const OdGePoint3d jog = takePlanePoint(added, "Jog location Y", "Jog location X");
+    const OdGePoint3d position = takePlanePoint(added, "Position y", "Position x");
+    const CFxString text = takeTextOverride(added);
     QString insertion;
-    if (const std::optional<MeasuredCurve> curve = CurveOf<OdDbRadialDimensionLarge>(name))
-        insertion = EmitInsertJoggedDimension(writer, *curve, center, jog, position, text, name);
-    return WithTextRotation(std::move(insertion), properties, name);
+    if (const std::optional<MeasuredCurve> curve = curveOf<OdDbRadialDimensionLarge>(added))
+        insertion = EmitInsertJoggedDimension(added.writer, *curve, center, jog, position, text, added.name);
+    return withTextRotation(std::move(insertion), added);
 }
 
-QString CFxConverterIWAPIObject::ReadRotatedDimension(AddedProperties& properties, const CFxString& name)
+QString ReadRotatedDimension(AddedObject& added)
 {
-    const OdGePoint3d first = properties.takePoint("xLine1Point");
-    const OdGePoint3d second = properties.takePoint("xLine2Point");
-    const OdGePoint3d line = properties.takePoint("dimLinePoint");
-    const double rotation = properties.takeReal("rotation", 0.0);
-    const CFxString text = takeTextOverride(properties);
-    return WithTextRotation(EmitInsertRotatedDimension(writer, first, second, line, rotation, text, name), properties,
-                            name);
+    const OdGePoint3d first = added.takePoint("xLine1Point");
+    const OdGePoint3d second = added.takePoint("xLine2Point");
+    const OdGePoint3d line = added.takePoint("dimLinePoint");
+    const double rotation = added.takeReal("rotation", 0.0);
+    const CFxString text = takeTextOverride(added);
+    return withTextRotation(EmitInsertRotatedDimension(added.writer, first, second, line, rotation, text, added.name),
+                            added);
 }

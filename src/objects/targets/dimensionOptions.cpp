@@ -6,59 +6,21 @@
 
 using namespace inkmacro;
 
-static const Phrase getUserData{
-    "EmitGetDimensionStyleUserData",
-    {
-        .cpp = "%1iwDimensionStyleUserData_ptr %3;%2%1%4->GetDimensionStyleUserData( &%3 );%2",
-        .cppCom = "%1IDimensionStyleUserDataPtr %3 = %4->GetDimensionStyleUserData();%2",
-        .csharp = "%1Inkwright.DimensionStyleUserData %3 = %4.GetDimensionStyleUserData();%2",
-        .javascript = "%1var %3 = %4.GetDimensionStyleUserData();%2",
-        .vbNet = "%1Dim %3 As Inkwright.DimensionStyleUserData = %4.GetDimensionStyleUserData()%2",
-        .vba = "%1Dim %3 As Inkwright.DimensionStyleUserData%2%1Set %3 = %4.GetDimensionStyleUserData()%2",
-    }};
+static const Phrase getOptions{"EmitGetOptions",
+                               {
+                                   .cpp = "%1iw%5_ptr %3;%2%1%4->Get%5( &%3 );%2",
+                                   .cppCom = "%1I%5Ptr %3 = %4->Get%5();%2",
+                                   .csharp = "%1%6%5 %3 = %4.Get%5();%2",
+                                   .javascript = "%1var %3 = %4.Get%5();%2",
+                                   .vbNet = "%1Dim %3 As Inkwright.%5 = %4.Get%5()%2",
+                                   .vba = "%1Dim %3 As Inkwright.%5%2%1Set %3 = %4.Get%5()%2",
+                               }};
 
-QString EmitGetDimensionStyleUserData(Writer& writer, const CFxString& owner, CFxString& userData)
+QString EmitGetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, CFxString& options)
 {
-    userData = QStringLiteral("dimensionStyle%1").arg(++writer.UniqueCounter);
-    return writer.fill(getUserData).text(userData).text(owner);
-}
-
-static const Phrase getDimensionOptions{
-    "EmitGetOptions",
-    {
-        .cpp = "%1iwDimensionStyle%5Options_ptr %3;%2%1%4->GetDimensionStyle%5Options( &%3 );%2",
-        .cppCom = "%1IDimensionStyle%5OptionsPtr %3 = %4->GetDimensionStyle%5Options();%2",
-        .csharp = "%1DimensionStyle%5Options %3 = %4.GetDimensionStyle%5Options();%2",
-        .javascript = "%1var %3 = %4.GetDimensionStyle%5Options();%2",
-        .vbNet = "%1Dim %3 As Inkwright.DimensionStyle%5Options = %4.GetDimensionStyle%5Options()%2",
-        .vba = "%1Dim %3 As Inkwright.DimensionStyle%5Options%2%1Set %3 = %4.GetDimensionStyle%5Options()%2",
-    }};
-
-static QString getOptions(Writer& writer, const char* kind, const char* stem, const CFxString& owner,
-                          CFxString& options)
-{
-    options = stem + QString::number(++writer.UniqueCounter);
-    return writer.fill(getDimensionOptions).text(options).text(owner).text(QLatin1String(kind));
-}
-
-QString EmitGetArrowsOptions(Writer& writer, const CFxString& owner, CFxString& options)
-{
-    return getOptions(writer, "Arrows", "arrowOptions", owner, options);
-}
-
-QString EmitGetLineOptions(Writer& writer, const CFxString& owner, CFxString& options)
-{
-    return getOptions(writer, "Line", "linesOptions", owner, options);
-}
-
-QString EmitGetTextOptions(Writer& writer, const CFxString& owner, CFxString& options)
-{
-    return getOptions(writer, "Text", "textOptions", owner, options);
-}
-
-QString EmitGetFitOptions(Writer& writer, const CFxString& owner, CFxString& options)
-{
-    return getOptions(writer, "Fit", "fitOptions", owner, options);
+    options = object.stem + QString::number(++writer.UniqueCounter);
+    const QLatin1String library(object.qualified ? "Inkwright." : "");
+    return writer.fill(getOptions).text(options).text(owner).text(QLatin1String(object.hostWord)).text(library);
 }
 
 /// The name of a block stands behind the kind of arrow.

@@ -2,11 +2,31 @@
 
 #include "targets/Writer.h"
 
-QString EmitGetDimensionStyleUserData(Writer& writer, const CFxString& owner, CFxString& userData);
-QString EmitGetArrowsOptions(Writer& writer, const CFxString& owner, CFxString& options);
-QString EmitGetLineOptions(Writer& writer, const CFxString& owner, CFxString& options);
-QString EmitGetTextOptions(Writer& writer, const CFxString& owner, CFxString& options);
-QString EmitGetFitOptions(Writer& writer, const CFxString& owner, CFxString& options);
+/// An object that holds a part of what is set on a dimension, a leader or a dimension style. A statement fetches it
+/// from its owner into a variable of its own.
+struct OptionObject
+{
+    const OptionObject* owner; ///< null for one of the changed object itself
+    const char* hostWord;      ///< its type; the host gets it by "Get" in front of that
+    const char* stem;          ///< its variables' names without the number
+    bool qualified = false;    ///< C# writes the type with its library in front
+};
+
+inline constexpr OptionObject generalDimension{nullptr, "GeneralDimension", "generalDimension"};
+
+/// Of leaders and tolerances.
+namespace leaderOptions {
+
+inline constexpr OptionObject userData{nullptr, "DimensionStyleUserData", "dimensionStyle", true};
+inline constexpr OptionObject arrows{&userData, "DimensionStyleArrowsOptions", "arrowOptions"};
+inline constexpr OptionObject fit{&userData, "DimensionStyleFitOptions", "fitOptions"};
+inline constexpr OptionObject lines{&userData, "DimensionStyleLineOptions", "linesOptions"};
+inline constexpr OptionObject text{&userData, "DimensionStyleTextOptions", "textOptions"};
+
+} // namespace leaderOptions
+
+/// Fetches the object from the variable `owner` and gives its variable.
+QString EmitGetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, CFxString& options);
 /// `arrow` is the drawing's number of a kind of arrow.
 QString EmitSetLeaderArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow);
 /// `scale` is the drawing's number: 1 for the factor given, 2 for the scale of the sheet.

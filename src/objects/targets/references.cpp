@@ -58,23 +58,6 @@ QString EmitDeclareBlockDefinition(Writer& writer, const CFxString& name)
     return writer.fill(declareBlockDefinition).text(name);
 }
 
-static const Phrase getGeneralDimension{
-    "EmitGetGeneralDimension",
-    {
-        .cpp = "%1iwGeneralDimension_ptr %3;%2%1%4->GetGeneralDimension( &%3 );%2",
-        .cppCom = "%1IGeneralDimensionPtr %3 = %4->GetGeneralDimension();%2",
-        .csharp = "%1GeneralDimension %3 = %4.GetGeneralDimension();%2",
-        .javascript = "%1var %3 = %4.GetGeneralDimension();%2",
-        .vbNet = "%1Dim %3 As Inkwright.GeneralDimension = %4.GetGeneralDimension()%2",
-        .vba = "%1Dim %3 As Inkwright.GeneralDimension%2%1Set %3 = %4.GetGeneralDimension()%2",
-    }};
-
-QString EmitGetGeneralDimension(Writer& writer, const CFxString& name, CFxString& target)
-{
-    target = QStringLiteral("generalDimension%1").arg(++writer.UniqueCounter);
-    return writer.fill(getGeneralDimension).text(target).text(name);
-}
-
 static const Phrase getCurvedTextSettings{
     "EmitGetCurvedTextSettings",
     {

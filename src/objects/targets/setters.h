@@ -3,11 +3,20 @@
 #include "host/db/OdCmColor.h"
 #include "host/db/OdDbObjectId.h"
 #include "targets/Writer.h"
+#include "targets/enumerations.h"
 
 QString EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const CFxString& value,
                         bool quoted);
 QString EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value);
 QString EmitSetBoolProperty(Writer& writer, const CFxString& target, const CFxString& property, bool value);
+QString EmitSetIndexedDouble(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t index,
+                             double value);
+/// The enumerator is told by the text that the property sheet shows.
+QString EmitSetEnumProperty(Writer& writer, const CFxString& target, const inkmacro::TextEnumeration& enumeration,
+                            const CFxString& property, const CFxString& shownText);
+/// The enumerator is told by the number that the drawing or the recording has for it.
+QString EmitSetEnumValue(Writer& writer, const CFxString& target, const inkmacro::ValueEnumeration& enumeration,
+                         const CFxString& property, std::int32_t value);
 QString EmitSetColor(Writer& writer, const CFxString& target, const CFxString& property, const OdCmColor& color);
 QString EmitSetLayer(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id);
 QString EmitSetLineStyle(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id);

@@ -2,7 +2,7 @@
 
 #include "objects/targets/texts.h"
 
-#include "objects/targets/geometrySetters.h"
+#include "objects/targets/setters.h"
 #include "targets/enumerations.h"
 #include "targets/wording.h"
 
@@ -172,7 +172,7 @@ QString EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxStr
 
 QString EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction)
 {
-    return setEnumerator(writer, target, property, EnumeratorByValue(writer.target, enums::noteDirection, direction));
+    return EmitSetEnumValue(writer, target, enums::noteDirection, property, direction);
 }
 
 static const Phrase insertCurvedText{"EmitInsertCurvedText",
@@ -188,19 +188,4 @@ static const Phrase insertCurvedText{"EmitInsertCurvedText",
 QString EmitInsertCurvedText(Writer& writer, const CFxString& text, const CFxString& arc, const CFxString& name)
 {
     return writer.fill(insertCurvedText).text(text).text(arc).text(name);
-}
-
-static const Phrase callWithPoint{"EmitCallWithPoint",
-                                  {
-                                      .cpp = "%1%3->%4( %5, %6, %7 );%2",
-                                      .cppCom = "%1%3->%4( %5, %6, %7 );%2",
-                                      .csharp = "%1%3.%4( %5, %6, %7 );%2",
-                                      .javascript = "%1%3.%4(%5, %6, %7);%2",
-                                      .vbNet = "%1%3.%4( %5, %6, %7 )%2",
-                                      .vba = "%1%3.%4 %5, %6, %7%2",
-                                  }};
-
-QString EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxString& method, const OdGePoint3d& point)
-{
-    return writer.fill(callWithPoint).text(target).text(method).point(point);
 }

@@ -33,4 +33,3 @@ QString EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxStr
                            const CFxString& shownText);
 QString EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction);
 QString EmitInsertCurvedText(Writer& writer, const CFxString& text, const CFxString& arc, const CFxString& name);
-QString EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxString& method, const OdGePoint3d& point);

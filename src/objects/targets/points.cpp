@@ -1,10 +1,26 @@
-// Changes of one coordinate: the generated program reads the point, changes the coordinate and writes the point back.
+// Calls with a point, and changes of one coordinate: there the generated program reads the point, changes the
+// coordinate and writes the point back.
 
-#include "objects/targets/pointChanges.h"
+#include "objects/targets/points.h"
 
 #include "targets/LineEnd.h"
 
 using namespace inkmacro;
+
+static const Phrase callWithPoint{"EmitCallWithPoint",
+                                  {
+                                      .cpp = "%1%3->%4( %5, %6, %7 );%2",
+                                      .cppCom = "%1%3->%4( %5, %6, %7 );%2",
+                                      .csharp = "%1%3.%4( %5, %6, %7 );%2",
+                                      .javascript = "%1%3.%4(%5, %6, %7);%2",
+                                      .vbNet = "%1%3.%4( %5, %6, %7 )%2",
+                                      .vba = "%1%3.%4 %5, %6, %7%2",
+                                  }};
+
+QString EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxString& method, const OdGePoint3d& point)
+{
+    return writer.fill(callWithPoint).text(target).text(method).point(point);
+}
 
 /// The four steps of a change, in their order.
 struct PointWords

@@ -2,7 +2,8 @@
 
 #include "objects/targets/leaders.h"
 #include "host/db/OdDbClasses.h"
-#include "objects/AddedProperties.h"
+#include "objects/AddedObject.h"
+#include "objects/added/readers.h"
 #include "objects/targets/references.h"
 #include "objects/targets/setters.h"
 #include "objects/targets/texts.h"
@@ -11,46 +12,15 @@
 
 using inkmacro::escapeWithBackslashes;
 
-QString CFxConverterIWAPIObject::ReadTolerance(AddedProperties& properties, const CFxString& name)
-{
-    const OdGePoint3d position = properties.takePoint("Position X", "Position Y", "Position Z");
-    return EmitInsertTolerance(writer, position, inkmacro::escapeText(writer.target, properties.takeText("Content")),
-                               name);
-}
-
-/// A leader's texts are escaped alike in all targets, those without backslash escapes included. It has to stay so.
-QString CFxConverterIWAPIObject::ReadLeader(AddedProperties& properties, const CFxString& name)
-{
-    const OdArray<OdGePoint3d> vertices = properties.takePoints("Vertex");
-    const CFxString content = escapeWithBackslashes(properties.takeText("content"));
-    const double width = properties.takeReal("width", 0.0);
-    const QString insertion = EmitInsertLeader(writer, vertices, width, content, name);
-    return insertion + AnnotateLeader(name);
-}
-
-QString CFxConverterIWAPIObject::AnnotateLeader(const CFxString& name)
-{
-    const auto leader = odrxCast<OdDbLeader>(AddedObject(name).get());
-    if (!leader)
-        return {};
-    const OdDbObjectPtr annotation = leader->annotationObjectId().openObject();
-    if (const auto tolerance = odrxQuery<OdDbFcf>(annotation.get()))
-        return EmitSetAnnotation(writer, name, LeaderAnnotation::Tolerance, escapeWithBackslashes(tolerance->text()));
-    if (const auto instance = odrxQuery<OdDbBlockReference>(annotation.get())) {
-        const auto block = odrxCast<OdDbBlockTableRecord>(instance->blockTableRecord().openObject().get());
-        return block ? EmitSetAnnotation(writer, name, LeaderAnnotation::Block, block->getName()) : QString();
-    }
-    const auto note = odrxQuery<OdDbMText>(annotation.get());
-    return note ? SetLeaderNote(*note, name) : QString();
-}
+namespace {
 
 /// The insertion of a leader makes its note too; the note's settings come from the drawing, since no record holds them.
-QString CFxConverterIWAPIObject::SetLeaderNote(const OdDbMText& note, const CFxString& leader)
+QString setNote(const AddedObject& leader, const OdDbMText& note)
 {
-    // Only the name is of use: the note is reached through its leader.
-    CFxString name;
-    ObjectVariable(note.getDbHandle(), note.isA(), name);
-    QString text = EmitGetNoteAnnotation(writer, name, leader);
+    // The note is reached through its leader.
+    const CFxString name = leader.converter.NameObject(note.getDbHandle(), note.isA());
+    Writer& writer = leader.writer;
+    QString text = EmitGetNoteAnnotation(writer, name, leader.name);
 
     text += EmitSetBoolProperty(writer, name, "BackgroundMask", note.backgroundFillOn());
     text += EmitSetBoolProperty(writer, name, "UseDrawingBackgroundColor", note.useBackgroundColorOn());
@@ -76,4 +46,41 @@ QString CFxConverterIWAPIObject::SetLeaderNote(const OdDbMText& note, const CFxS
     if (style)
         text += EmitSetProperty(writer, name, "TextStyle", style->getName(), true);
     return text;
+}
+
+QString annotate(const AddedObject& added)
+{
+    const auto leader = added.open<OdDbLeader>();
+    if (!leader)
+        return {};
+    const OdDbObjectPtr annotation = leader->annotationObjectId().openObject();
+    if (const auto tolerance = odrxQuery<OdDbFcf>(annotation.get()))
+        return EmitSetAnnotation(added.writer, added.name, LeaderAnnotation::Tolerance,
+                                 escapeWithBackslashes(tolerance->text()));
+    if (const auto instance = odrxQuery<OdDbBlockReference>(annotation.get())) {
+        const auto block = odrxCast<OdDbBlockTableRecord>(instance->blockTableRecord().openObject().get());
+        return block ? EmitSetAnnotation(added.writer, added.name, LeaderAnnotation::Block, block->getName())
+                     : QString();
+    }
+    const auto note = odrxQuery<OdDbMText>(annotation.get());
+    return note ? setNote(added, *note) : QString();
+}
+
+} // namespace
+
+QString ReadTolerance(AddedObject& added)
+{
+    const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
+    return EmitInsertTolerance(added.writer, position,
+                               inkmacro::escapeText(added.writer.target, added.takeText("Content")), added.name);
+}
+
+/// A leader's texts are escaped alike in all targets, those without backslash escapes included. It has to stay so.
+QString ReadLeader(AddedObject& added)
+{
+    const OdArray<OdGePoint3d> vertices = added.takePoints("Vertex");
+    const CFxString content = escapeWithBackslashes(added.takeText("content"));
+    const double width = added.takeReal("width", 0.0);
+    const QString insertion = EmitInsertLeader(added.writer, vertices, width, content, added.name);
+    return insertion + annotate(added);
 }

@@ -2,19 +2,32 @@
 
 #include "objects/CFxConverterIWAPIObject.h"
 
-/// The records of one added object in the hands of its reader: what is read leaves the list and is remembered.
-class AddedProperties
+/// One added object in the hands of its reader, with its records: what is read leaves the list and is remembered.
+class AddedObject
 {
 public:
-    AddedProperties(CFxConverterIWAPIObject& converter, PropertyList& list, CFxValueContext context)
-        : converter_(converter), list_(list), context_(context)
+    AddedObject(CFxConverterIWAPIObject& converter, Writer& writer, CFxValueContext context, const OdDbObjectId& id,
+                const CFxString& name, PropertyList& list)
+        : converter(converter), writer(writer), name(name), id_(id), list_(list), context_(context)
     {
     }
 
-    CFxVariant take(const CFxString& tag) { return converter_.FindProperty(tag, list_, context_, &consumed_); }
+    CFxConverterIWAPIObject& converter;
+    Writer& writer;
+    const CFxString name; ///< its variable
+
+    /// The object in the drawing, for what no record holds; null when it is not there. Raises
+    /// OdError_NotThatKindOfClass when it is of another class.
+    template<class T>
+    OdSmartPtr<T> open() const
+    {
+        return odrxCast<T>(id_.openObject().get());
+    }
+
+    CFxVariant take(const CFxString& tag) { return converter.FindProperty(tag, list_, context_, &consumed_); }
     OdGePoint3d takePoint(const CFxString& xTag, const CFxString& yTag, const CFxString& zTag)
     {
-        return converter_.FindPoint(xTag, yTag, zTag, list_, context_, &consumed_);
+        return converter.FindPoint(xTag, yTag, zTag, list_, context_, &consumed_);
     }
     OdGePoint3d takePoint(const CFxString& tag) { return take(tag).GetPoint3d(); }
     CFxString takeText(const CFxString& tag) { return take(tag).GetString(); }
@@ -36,7 +49,7 @@ public:
     const PropertyList& consumed() const { return consumed_; }
 
 private:
-    CFxConverterIWAPIObject& converter_;
+    const OdDbObjectId id_;
     PropertyList& list_;
     CFxValueContext context_;
     PropertyList consumed_;

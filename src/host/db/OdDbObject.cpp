@@ -1,0 +1,32 @@
+#include "host/db/OdDbObject.h"
+
+#include "host/db/OdDbObjectIterator.h"
+
+OdDbObjectId oddbIdOf(const OdDbNamedIds& ids, const OdString& name)
+{
+    const auto found = ids.find(name);
+    return found == ids.end() ? OdDbObjectId() : found->second;
+}
+
+OdResBufPtr OdDbObject::xData(const OdString& application) const
+{
+    const auto found = xData_.find(application);
+    return found == xData_.end() ? OdResBufPtr() : found->second;
+}
+
+OdRxClass* OdDbObjectIterator::desc()
+{
+    static OdRxClass* const descriptor = OdRxClass::define("OdDbObjectIterator", OdRxObject::desc());
+    return descriptor;
+}
+
+void OdDbObjectIterator::skipErased()
+{
+    // An object of which only the handle is known counts as one that is there.
+    const auto erased = [](const OdDbObjectId& id) {
+        const OdDbObjectPtr object = id.openObject(true);
+        return object && object->isErased();
+    };
+    while (!done() && erased(objectId()))
+        ++at_;
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+
+class AddedObject;
+
+// One reader a class: takes its tags from the object's records and gives the statement that makes the object, which may
+// be empty.
+
+QString ReadLine(AddedObject& added);
+QString ReadCircle(AddedObject& added);
+QString ReadPoint(AddedObject& added);
+QString ReadRay(AddedObject& added);
+QString ReadArc(AddedObject& added);
+QString ReadInfiniteLine(AddedObject& added);
+QString ReadEllipse(AddedObject& added);
+QString ReadTextStyle(AddedObject& added);
+QString ReadAttributeDefinition(AddedObject& added);
+QString ReadSimpleNote(AddedObject& added);
+QString ReadNote(AddedObject& added);
+QString ReadTolerance(AddedObject& added);
+QString ReadLeader(AddedObject& added);
+QString ReadCurvedText(AddedObject& added);
+QString ReadAlignedDimension(AddedObject& added);
+QString Read2LineAngularDimension(AddedObject& added);
+QString Read3PointAngularDimension(AddedObject& added);
+QString ReadArcLengthDimension(AddedObject& added);
+QString ReadDiameterDimension(AddedObject& added);
+QString ReadOrdinateDimension(AddedObject& added);
+QString ReadRadialDimension(AddedObject& added);
+QString ReadJoggedDimension(AddedObject& added);
+QString ReadRotatedDimension(AddedObject& added);

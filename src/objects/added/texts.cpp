@@ -1,0 +1,179 @@
+// Added text styles, attribute definitions, notes and curved texts.
+
+#include "objects/targets/texts.h"
+#include "host/db/OdDbClasses.h"
+#include "objects/AddedObject.h"
+#include "objects/added/readers.h"
+#include "objects/targets/points.h"
+#include "objects/targets/setters.h"
+#include "targets/wording.h"
+
+#include <array>
+
+using inkmacro::doubleBackslashes;
+
+namespace {
+
+/// The word of a value, whether it is plain text or the chosen one of several items.
+CFxString wordOf(const CFxVariant& value)
+{
+    return ChosenText(value).value_or(value.GetString());
+}
+
+CFxString nameOfTextStyle(const OdDbObjectId& id)
+{
+    const auto style = odrxCast<OdDbTextStyleTableRecord>(id.openObject().get());
+    return style ? CFxString(style->getName()) : CFxString();
+}
+
+struct Box
+{
+    OdGePoint3d first;
+    OdGePoint3d second;
+};
+
+/// The box of a note, whose recorded position is the point that it is attached by. `attachment` counts the nine by
+/// rows, from 0 at the top left; for any other both corners are at the position.
+Box boxOfNote(int attachment, const OdGePoint3d& position, double width, double height)
+{
+    // Shares of width and height from the position to the corners.
+    struct Shares
+    {
+        double firstX, firstY, secondX, secondY;
+    };
+    static constexpr std::array<Shares, 9> attachments{{
+        {0, 0, 1, -1},
+        {-0.5, 0, 0.5, -1},
+        {-1, 0, 0, -1},
+        {0, 0.5, 1, -0.5},
+        {-0.5, 0.5, 0.5, -0.5},
+        {-1, 0.5, 0, -0.5},
+        {0, 1, 1, 0},
+        {-0.5, 1, 0.5, 0},
+        {-1, 1, 0, 0},
+    }};
+    if (attachment < 0 || attachment > 8)
+        return {position, position};
+    // A coordinate without a share stays to the last bit, the sign of zero included.
+    const auto moved = [](double from, double share, double size) { return share == 0 ? from : from + share * size; };
+    const Shares& shares = attachments[static_cast<std::size_t>(attachment)];
+    return {{moved(position.x, shares.firstX, width), moved(position.y, shares.firstY, height), position.z},
+            {moved(position.x, shares.secondX, width), moved(position.y, shares.secondY, height), position.z}};
+}
+
+/// A command that loads shapes is written without its block, so the statement stands one level further out.
+QString loadShapes(Writer& writer, const CFxString& fileName)
+{
+    if (IsHostShapeFile(fileName))
+        return {};
+    --writer.IndentLevel;
+    const QString text = EmitLoadShapeFile(writer, doubleBackslashes(fileName));
+    ++writer.IndentLevel;
+    return text;
+}
+
+} // namespace
+
+bool IsHostShapeFile(const CFxString& fileName)
+{
+    return fileName.equalNoCase("LTypeShp.shx");
+}
+
+QString ReadTextStyle(AddedObject& added)
+{
+    const auto style = added.open<OdDbTextStyleTableRecord>();
+    if (style && style->isShapeFile())
+        return loadShapes(added.writer, style->fileName());
+
+    QString text = EmitCreateTextStyle(added.writer, added.name, added.takeText("Name"));
+    const CFxVariant font = added.take("Font");
+    if (!font.IsNull())
+        text += EmitSetProperty(added.writer, added.name, "Font", doubleBackslashes(font.GetString()), true);
+    return text;
+}
+
+QString ReadAttributeDefinition(AddedObject& added)
+{
+    const auto takeYes = [&](const char* tag) { return wordOf(added.take(tag)).equalNoCase(ShownWord("Yes")); };
+
+    AttributeDefinition definition;
+    definition.value = added.takeText("Value");
+    definition.tag = added.takeText("Tag");
+    definition.prompt = added.takeText("Prompt");
+    definition.styleName = nameOfTextStyle(added.take("TextStyle").GetId());
+    definition.justification = wordOf(added.take("Justify"));
+    definition.position = definition.justification.equalNoCase(ShownWord("Left"))
+                              ? added.takePoint("Position X", "Position Y", "Position Z")
+                              : added.takePoint("Text alignment X", "Text alignment Y", "Text alignment Z");
+    definition.height = added.takeReal("Height", 0.2);
+    definition.rotation = added.takeReal("Rotation", 0.0);
+    definition.constant = takeYes("Constant");
+    definition.invisible = takeYes("Invisible");
+    definition.preset = takeYes("Preset");
+    definition.verify = takeYes("Verify");
+    definition.lockPosition = takeYes("Lock position");
+    return EmitInsertAttributeDefinition(added.writer, definition, added.name);
+}
+
+QString ReadSimpleNote(AddedObject& added)
+{
+    const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
+    const OdGePoint3d alignment = added.takePoint("Text alignment X", "Text alignment Y", "Text alignment Z");
+    const double height = added.takeReal("Height", 2.5);
+    const double rotation = added.takeReal("Rotation", 0.0);
+    const CFxString contents = added.takeText("Contents");
+    const std::optional<CFxString> justification = ChosenText(added.take("Justify"));
+
+    QString text = EmitInsertSimpleNote(added.writer, position, height, rotation, contents, added.name);
+    if (justification)
+        text += EmitSetEnumProperty(added.writer, added.name, inkmacro::enums::textJustification, "Justify",
+                                    *justification);
+    // The justification moves the note: both points are set again behind it.
+    text += EmitCallWithPoint(added.writer, added.name, "SetAlignmentPoint", alignment);
+    text += EmitCallWithPoint(added.writer, added.name, "SetPosition", position);
+    return text;
+}
+
+QString ReadNote(AddedObject& added)
+{
+    const CFxVariant width = added.take("Width");
+    const CFxVariant textHeight = added.take("Text Height");
+    const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
+    const CFxVariant justify = added.take("Justify");
+    const CFxString contents = added.takeText("Contents");
+    const CFxVariant direction = added.take("Direction");
+    const CFxVariant style = added.take("Style");
+    const CFxVariant rotation = added.take("Rotation");
+    added.take("Rotation"); // recorded twice; the first one counts
+    const CFxVariant lineSpaceDistance = added.take("Line space distance");
+    const double boxHeight = added.takeReal("TextBoxHeight", 0.0);
+
+    const Box box = boxOfNote(justify.GetCollection().GetChosen(), position, width.GetDouble(), boxHeight);
+    QString text = EmitInsertNote(added.writer, box.first, box.second, contents, added.name);
+    const auto setReal = [&](const char* property, const CFxVariant& value) {
+        if (!value.IsNull())
+            text += EmitSetDoubleProperty(added.writer, added.name, property, value.GetDouble());
+    };
+    setReal("Rotation", rotation);
+    setReal("TextHeight", textHeight);
+    setReal("Width", width);
+    setReal("LineSpaceDistance", lineSpaceDistance);
+    const CFxString styleName =
+        style.GetType() == CFxVariant::kId ? nameOfTextStyle(style.GetId()) : ChosenText(style).value_or(CFxString());
+    if (!styleName.isEmpty())
+        text += EmitSetProperty(added.writer, added.name, "TextStyle", styleName, true);
+    if (const std::optional<CFxString> justification = ChosenText(justify))
+        text += EmitSetNoteJustify(added.writer, added.name, "Justify", *justification);
+    if (!direction.IsNull())
+        text += EmitSetNoteDirection(added.writer, added.name, "Direction", direction.GetCollection().GetChosen());
+    return text;
+}
+
+QString ReadCurvedText(AddedObject& added)
+{
+    const auto curved = added.open<OdDbArcAlignedText>();
+    if (!curved)
+        return {};
+    const QString arc = added.converter.AddedVariable(curved->arcId());
+    return EmitInsertCurvedText(added.writer, curved->textString(), arc, added.name);
+}

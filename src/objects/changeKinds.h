@@ -1,0 +1,58 @@
+#pragma once
+
+#include "objects/ChangeRows.h"
+
+// All kinds of change. Where nothing else is said, a kind sets the row's property to the value. A word is the value's
+// text as the property sheet shows it; an element is a value of choice type that came as the chosen item alone, and
+// kinds that begin with "chosen" take the item also from among all items, but write nothing where none is chosen.
+namespace kinds {
+
+// Numbers.
+extern const ChangeKind real;
+extern const ChangeKind integer;
+/// With the row's operation, by number of a repeated property.
+extern const ChangeKind indexedReal;
+/// `Radius` of a circle, which the host also records as what depends on it.
+extern const ChangeKind radiusFromArea;
+extern const ChangeKind radiusFromCircumference;
+extern const ChangeKind radiusFromDiameter;
+
+// Truth values.
+extern const ChangeKind yes;      ///< the element's word without regard to case
+extern const ChangeKind exactYes; ///< with case
+extern const ChangeKind visible;
+extern const ChangeKind exactEnabled;
+/// Among all items the first one is "Yes", whatever it is called; a value of no choice type writes nothing.
+extern const ChangeKind yesOrFirst;
+
+// Members of an enumeration.
+ChangeKind enumText(const inkmacro::TextEnumeration& enumeration);   ///< by the element's word
+ChangeKind enumValue(const inkmacro::ValueEnumeration& enumeration); ///< by the element's number
+ChangeKind chosenEnumText(const inkmacro::TextEnumeration& enumeration);
+
+// Texts.
+extern const ChangeKind quoted; ///< the element's word
+extern const ChangeKind chosenQuoted;
+extern const ChangeKind escaped;  ///< a plain text with what the target's quotes need
+extern const ChangeKind unquoted; ///< a plain text as it stands
+
+// Looks.
+extern const ChangeKind color;
+extern const ChangeKind lineWeight;
+extern const ChangeKind arrow;          ///< by the element's number, with the row's operation
+extern const ChangeKind dimensionScale; ///< a given factor, with the row's operation
+
+// A coordinate of a point that the host reads and writes as a whole: by "Get" and "Set" in front of the property, or
+// by a pair of operations that belongs to the kind.
+extern const ChangeKind point;
+extern const ChangeKind indexedPoint;
+extern const ChangeKind position;
+extern const ChangeKind firstPoint;
+extern const ChangeKind secondPoint;
+extern const ChangeKind vertex; ///< the tags' axes are in lower case
+extern const ChangeKind vertex2D;
+/// The host counts these from 1 and has a pair of operations for each.
+extern const ChangeKind numberedVertex;
+extern const ChangeKind faceVertex; ///< there are four
+
+} // namespace kinds

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "objects/ChangeRows.h"
+
+// The tags of each class whose changes are a list of tags with a statement each. Lengths are drawing units, angles
+// radians, as recorded.
+
+extern const ChangeGroups modifiedLine;
+extern const ChangeGroups modifiedCircle;
+extern const ChangeGroups modifiedPoint;
+extern const ChangeGroups modifiedRay;
+extern const ChangeGroups modifiedArc;
+extern const ChangeGroups modifiedInfiniteLine;
+extern const ChangeGroups modifiedEllipse;
+extern const ChangeGroups modifiedPolyline3D;
+extern const ChangeGroups modifiedPolyline;
+extern const ChangeGroups modifiedSpline;
+extern const ChangeGroups modifiedPolygonMesh;
+extern const ChangeGroups modifiedPolyFaceMesh;
+extern const ChangeGroups modifiedSolid;
+extern const ChangeGroups modifiedTrace;
+extern const ChangeGroups modifiedFace;
+extern const ChangeGroups modifiedRichLine;
+extern const ChangeGroups modifiedShape;
+extern const ChangeGroups modifiedEmbeddedObject;
+extern const ChangeGroups modifiedViewport;
+extern const ChangeGroups modifiedLeader;
+extern const ChangeGroups modifiedTolerance;

@@ -1,0 +1,139 @@
+// The classes of drawing objects.
+
+#include "objects/classTable.h"
+
+#include "host/db/OdDbClassMap.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/added/readers.h"
+#include "objects/changed/changeLists.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace {
+
+using enum WhenAdded;
+using Objects = CFxConverterIWAPIObject;
+
+/// Simple notes and notes are one type to an enumeration of object types, and so are the two kinds of polyline and of
+/// angular dimension; the interfaces of the notes differ.
+constexpr ClassRow kRows[] = {
+    {"AcDbLine", "Line", "iwLineType", &ReadLine, &Objects::ConvertModifiedLine},
+    {"AcDbCircle", "Circle", "iwCircleType", &ReadCircle, &modifiedCircle},
+    {"AcDbPoint", "Point", "iwPointType", &ReadPoint, &modifiedPoint},
+    {"AcDbRay", "Ray", "iwRayType", &ReadRay, &modifiedRay},
+    {"AcDbArc", "CircleArc", "iwCircleArcType", &ReadArc, &modifiedArc},
+    {"AcDbEllipse", "EllipseArc", "iwEllipseArcType", &ReadEllipse, &modifiedEllipse},
+    {"AcDbXline", "InfiniteLine", "iwInfiniteLineType", &ReadInfiniteLine, &modifiedInfiniteLine},
+    {"AcDbTextStyleTableRecord", "TextStyle", "iwTextStyleType", &ReadTextStyle},
+    {"AcDbAttributeDefinition", "AttributeDefinition", "iwAttributeDefinitionType", &ReadAttributeDefinition},
+    {"AcDbText", "SimpleNote", "iwSimpleNoteType", &ReadSimpleNote},
+    {"AcDbMText", "Note", "iwSimpleNoteType", &ReadNote},
+    {"AcDbBlockReference", "BlockInstance", "iwBlockInstanceType"},
+    {"AcDbRasterImage", "ReferenceImage", "iwReferenceImageType", nullptr, nullptr, TakeOnly, kFinishedByCustomAction},
+    {"AcDbMline", "RichLine", "iwRichLineType", nullptr, &modifiedRichLine},
+    {"AcDbFcf", "Tolerance", "iwToleranceType", &ReadTolerance, &modifiedTolerance},
+    {"AcDbTable", "Table", "iwTableType"},
+    {"AcDbRegion", "Region", "iwRegionType", nullptr, nullptr, TakeOnly, kFinishedByCustomAction | kRawPointer},
+    {"AcDbShape", "Shape", "iwShapeType", nullptr, &modifiedShape},
+    {"AcDbFace", "Face", "iwFaceType", nullptr, &modifiedFace},
+    {"AcDbLeader", "Leader", "iwLeaderType", &ReadLeader, &modifiedLeader},
+    {"AcDb3dPolyline", "PolyLine3D", "iwPolyLine3DType", nullptr, &modifiedPolyline3D},
+    {"AcDbPolygonMesh", "PolygonMesh", "iwPolygonMeshType", nullptr, &modifiedPolygonMesh},
+    {"AcDbSolid", "Solid", "iwSolidType", nullptr, &modifiedSolid},
+    {"AcDbSpline", "Spline", "iwSplineType", nullptr, &modifiedSpline},
+    {"AcDbOle2Frame", "EmbeddedObject", "iwEmbeddedObjectType", nullptr, &modifiedEmbeddedObject, TakeOnly,
+     kFinishedByCustomAction},
+    {"AcDbPolyline", "PolyLine", "iwPolyLineType", nullptr, &modifiedPolyline, TakeOnly, kFinishedByCustomAction},
+    {"AcDb2dPolyline", "PolyLine", "iwPolyLineType", nullptr, nullptr, TakeOnly, kOnlyNamed},
+    {"AcDbHatch", "Hatch", "iwHatchType", nullptr, nullptr, TakeOnly, kFinishedByCustomAction},
+    {"AcDbPolyFaceMesh", "PolyFaceMesh", "iwPolyFaceMeshType", nullptr, &modifiedPolyFaceMesh},
+    {"AcDbBlockTableRecord", "BlockDefinition", "iwBlockDefinitionType", nullptr, nullptr, Skip},
+    {"AcDbGroup", "Group", "iwGroupType", nullptr, nullptr, Skip},
+    // Of a changed view only its removal is converted.
+    {"AcDbViewTableRecord", "ModelNamedView", "iwModelNamedViewType", nullptr, nullptr, TakeOnly,
+     kFinishedByCustomAction},
+    {"AcDbAlignedDimension", "AlignedDimension", "iwAlignedDimensionType", &ReadAlignedDimension, nullptr, Skip,
+     kDimension},
+    {"AcDb2LineAngularDimension", "AngularDimension", "iwAngularDimensionType", &Read2LineAngularDimension, nullptr,
+     Skip, kDimension},
+    {"AcDb3PointAngularDimension", "AngularDimension", "iwAngularDimensionType", &Read3PointAngularDimension, nullptr,
+     Skip, kDimension},
+    {"AcDbArcDimension", "ArcLengthDimension", "iwArcLengthDimensionType", &ReadArcLengthDimension, nullptr, Skip,
+     kDimension},
+    {"AcDbDiametricDimension", "DiameterDimension", "iwDiameterDimensionType", &ReadDiameterDimension, nullptr, Skip,
+     kDimension},
+    {"AcDbOrdinateDimension", "OrdinateDimension", "iwOrdinateDimensionType", &ReadOrdinateDimension, nullptr, Skip,
+     kDimension},
+    {"AcDbRadialDimension", "RadialDimension", "iwRadialDimensionType", &ReadRadialDimension, nullptr, Skip,
+     kDimension},
+    {"AcDbRadialDimensionLarge", "JoggedDimension", "iwJoggedDimensionType", &ReadJoggedDimension, nullptr, Skip,
+     kDimension},
+    {"AcDbRotatedDimension", "RotatedDimension", "iwRotatedDimensionType", &ReadRotatedDimension, nullptr, Skip,
+     kDimension},
+    {"AcDbTableStyle", "TableStyle", "iwTableStyleType"},
+    // No statement makes a style with its settings: they are all set behind.
+    {"AcDbDimStyleTableRecord", "DimensionStyle", "iwDimensionStyleType", nullptr, nullptr, Write},
+    {"AcDbLinetypeTableRecord", "LineStyle", "iwLineStyleType"},
+    {"AcDbMlineStyle", "RichLineStyle", "iwRichLineStyleType"},
+    {"AcDbViewport", "Viewport", "iwViewportType", nullptr, &modifiedViewport, Skip},
+    {"AcDbTrace", "Trace", "iwTraceType", nullptr, &modifiedTrace},
+    {"AcDbLayerTableRecord", "Layer", "iwLayerType"},
+    {"AcDbLayout", "Layout", "iwLayoutType", nullptr, nullptr, Skip},
+    {"AcDbViewportTableRecord", "ViewTile", "iwViewTileType", nullptr, nullptr, Skip, kRawPointer},
+    {"AcDbArcAlignedText", "ArcAlignedText", "iwArcAlignedTextType", &ReadCurvedText},
+    // Tables of records: their objects are taken, but have no variable.
+    {"AcDbViewTable", nullptr, nullptr},
+    {"AcDbLayerTable", nullptr, nullptr},
+};
+
+} // namespace
+
+std::span<const ClassRow> ClassTable()
+{
+    return kRows;
+}
+
+const ClassRow* FindClass(const OdRxClass* cls)
+{
+    // Asked for each object several times: by address.
+    static const QHash<const OdRxClass*, const ClassRow*> byClass = [] {
+        QHash<const OdRxClass*, const ClassRow*> rows;
+        for (const ClassRow& row : kRows)
+            rows.insert(oddbClassByName(row.name), &row);
+        return rows;
+    }();
+    return byClass.value(cls, nullptr);
+}
+
+const ClassRow* FindClass(const QString& name)
+{
+    static const QHash<QString, const ClassRow*> byName = [] {
+        QHash<QString, const ClassRow*> rows;
+        for (const ClassRow& row : kRows)
+            rows.insert(row.name, &row);
+        return rows;
+    }();
+    return byName.value(name, nullptr);
+}
+
+const ClassRow* FindClassOfInterface(const QString& interfaceName)
+{
+    const auto found = std::find_if(std::begin(kRows), std::end(kRows), [&](const ClassRow& row) {
+        return row.interfaceName && interfaceName.compare(QLatin1String(row.interfaceName), Qt::CaseInsensitive) == 0;
+    });
+    return found == std::end(kRows) ? nullptr : found;
+}
+
+bool IsSupportedClass(const CFxString& name)
+{
+    const ClassRow* const row = FindClass(name);
+    return row && !row->has(kOnlyNamed);
+}
+
+bool CFxConverterIWAPIObject::IsDimensionClass(const OdRxClass* cls) const
+{
+    const ClassRow* const row = FindClass(cls);
+    return row && row->has(kDimension);
+}
