@@ -6,9 +6,9 @@
 #include "objects/AddedObject.h"
 #include "objects/added/dimensionGeometry.h"
 #include "objects/added/readers.h"
+#include "objects/targets/dimensionOptions.h"
 #include "objects/targets/dimensionsOnCurves.h"
 #include "objects/targets/points.h"
-#include "objects/targets/references.h"
 #include "objects/targets/setters.h"
 #include "targets/wording.h"
 
