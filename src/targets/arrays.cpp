@@ -170,6 +170,7 @@ QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& wor
 QString integerLines(const ArrayPlace& place, const std::vector<int>& values)
 {
     std::vector<QString> words;
+    words.reserve(values.size());
     for (const int value : values)
         words.push_back(QString::number(value));
     return elementLines(integerElement, "int", place, words);
@@ -183,6 +184,7 @@ static QString formatted(double value, NumberForm numbers)
 QString realLines(const ArrayPlace& place, const std::vector<double>& values, NumberForm numbers)
 {
     std::vector<QString> words;
+    words.reserve(values.size());
     for (const double value : values)
         words.push_back(formatted(value, numbers));
     return elementLines(realElement, "double", place, words);

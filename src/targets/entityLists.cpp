@@ -44,6 +44,7 @@ static ArrayPlace objectsPlace(Writer& writer)
 static QString objectElements(Writer& writer, const EntityList& entities)
 {
     std::vector<QString> names;
+    names.reserve(entities.size());
     for (const ListedEntity& entity : entities)
         names.push_back(entity.name);
     return objectLines(objectsPlace(writer), names);
