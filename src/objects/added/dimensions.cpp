@@ -50,7 +50,7 @@ QString withTextRotation(QString insertion, AddedObject& added)
     if (rotation.IsNull())
         return insertion;
     CFxString general;
-    insertion += EmitGetGeneralDimension(added.writer, added.name, general);
+    insertion += EmitGetOptions(added.writer, generalDimension, added.name, general);
     return insertion + EmitSetDoubleProperty(added.writer, general, "TextRotation", rotation.GetDouble());
 }
 
