@@ -4,7 +4,9 @@ A call is (object, operation, arguments). An object is named by the way to it, s
 """
 
 import decimal
+import itertools
 import json
+import re
 
 DOCUMENT = "app.GetActiveDocument()"
 MODEL = f"{DOCUMENT}.GetModel()"
@@ -200,6 +202,30 @@ def _comparable(call):
     return on, name, arguments
 
 
+def _without_temporaries(calls):
+    """Without the curves that are inserted for a dimension alone and erased behind it; the others keep the numbers that
+    they would have without those."""
+    temporary = set()
+    for number, (_, name, arguments) in enumerate(calls):
+        if re.fullmatch("Insert.+Dimension.*", name):
+            behind = itertools.takewhile(lambda call: call[1] == "put_Erased" and "@" + call[0] in arguments,
+                                         calls[number + 1:])
+            temporary |= {on for on, _, _ in behind}
+    counts, given, names, kept = {}, {}, {}, []
+    for on, name, arguments in calls:
+        if name in INSERTIONS:
+            result = RESULTS.get(name, name.removeprefix("Insert"))
+            given[result] = given.get(result, 0) + 1
+            old = f"{result}#{given[result]}"
+            if old in temporary:
+                continue
+            counts[result] = counts.get(result, 0) + 1
+            names[old] = f"{result}#{counts[result]}"
+        if on not in temporary:
+            kept.append((names.get(on, on), name, arguments))
+    return kept
+
+
 def _show(call):
     on, name, arguments = call
     return f"{on}.{name}({', '.join(map(str, arguments))})"
@@ -233,7 +259,7 @@ class Comparison:
         faults = _first_difference(frame, calls[:len(frame)], "call of the frame")
         objects = _Objects(recording, manager)
         ways = set(objects.ways.values())
-        seen = [call for call in calls[len(frame):]
+        seen = [call for call in _without_temporaries(calls[len(frame):])
                 if call[1] in INSERTIONS or call[1] in CHANGES and call[0] in ways]
         faults += _first_difference(list(map(_comparable, objects.calls)), list(map(_comparable, seen)),
                                     "insertion or change")
