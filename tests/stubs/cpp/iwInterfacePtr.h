@@ -16,6 +16,8 @@ class iwObject_c
 {
 };
 
+typedef iwObject_c iwObject;
+
 // Takes the address of any object's pointer: what is found decides what comes back.
 class iwObjectOut
 {
