@@ -23,6 +23,14 @@ public:
     static constexpr DataSignature exactly(std::initializer_list<int> types) { return {types, false}; }
     /// These types, and behind them whatever comes.
     static constexpr DataSignature beginning(std::initializer_list<int> types) { return {types, true}; }
+    /// So many data of whatever types.
+    static constexpr DataSignature anyOf(std::int32_t count)
+    {
+        DataSignature signature({}, false);
+        signature.count_ = count;
+        signature.types_.fill(anyType);
+        return signature;
+    }
     /// The same with a word that the first datum must be.
     constexpr DataSignature withWord(const char* word, Qt::CaseSensitivity wordCase = Qt::CaseSensitive) const
     {
@@ -102,6 +110,17 @@ inline constexpr std::int32_t kPolyline = 16;
 inline constexpr std::int32_t kViewBackground = 41;
 inline constexpr std::int32_t kViewport = 46;
 
+inline constexpr ActionForm filletForms[] = {
+    {DataSignature::anyOf(3).withWord("FILLET", Qt::CaseInsensitive),
+     &CFxConverterIWAPIImpl::ConvertActionCornersOfPolyline},
+    {DataSignature::anyOf(6), &CFxConverterIWAPIImpl::ConvertActionFillet},
+};
+inline constexpr ActionForm chamferForms[] = {
+    {DataSignature::anyOf(3).withWord("CHAMFER", Qt::CaseInsensitive),
+     &CFxConverterIWAPIImpl::ConvertActionCornersOfPolyline},
+    {DataSignature::anyOf(6), &CFxConverterIWAPIImpl::ConvertActionChamfer},
+};
+
 /// In the order of their numbers; the host has no others.
 inline constexpr auto actionKinds = [] {
     using enum CFxCustomActionData::_Type;
@@ -113,10 +132,10 @@ inline constexpr auto actionKinds = [] {
         {3, "move", &Impl::ConvertActionMove},
         {4, "rotate", &Impl::ConvertActionRotate},
         {5, "scale", &Impl::ConvertActionScale},
-        {6, "trim"},
-        {7, "extend"},
-        {8, "fillet"},
-        {9, "chamfer"},
+        {6, "trim", ActionForm{DataSignature::anyOf(9), &Impl::ConvertActionTrim}},
+        {7, "extend", ActionForm{DataSignature::anyOf(5), &Impl::ConvertActionExtend}},
+        {8, "fillet", filletForms},
+        {9, "chamfer", chamferForms},
         {10, "select", &Impl::ConvertActionSelect},
         {11, "selection filter", &Impl::ConvertActionSelectionFilter},
         {12, "coordinate system"},

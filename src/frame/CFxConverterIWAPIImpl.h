@@ -11,7 +11,9 @@
 
 class CFxConverterIWAPIObject;
 class StatementGroup;
+struct CornerSide;
 struct FileObject;
+struct TrimPiece;
 
 /// The walk over a recording and everything else that is the same for all targets. Knows no target: the words come
 /// from the Emit operations, and a language class adds what varies in more than words.
@@ -50,6 +52,11 @@ public:
     std::int32_t ConvertActionMove(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionRotate(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionScale(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionTrim(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionExtend(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionFillet(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionChamfer(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionCornersOfPolyline(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionSelect(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionSelectionFilter(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionEmbeddedObject(OdSmartPtr<CFxCustomAction> action, QString& text);
@@ -119,6 +126,9 @@ private:
     std::int32_t ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text);
     CFxConverterIWAPIObject& Objects() const;
     EntityList EntitiesOf(const CFxCustomAction& action) const;
+    std::vector<TrimPiece> RegisterPieces(const CFxCustomAction& trim);
+    /// One side of a corner, in three data from the first on.
+    CornerSide SideOf(const CFxCustomAction& action, std::int32_t first) const;
     QString NoteOfLeader(const OdDbHandle& note, const OdRxClass* noteClass, const OdDbObjectId& leader,
                          CFxString& name);
     /// The entry of the group of that name, or null for a group that the generated code does not know.

@@ -44,3 +44,13 @@ public:
 private:
     Writer& writer_;
 };
+
+/// Statements that must be outside of the group around them: they stand between its end and the beginning of another,
+/// in which all goes on.
+template<class Statements>
+QString betweenGroups(Writer& writer, const Statements& statements)
+{
+    QString text = EmitBlockEnd(writer);
+    text += statements();
+    return text += EmitBlockBegin(writer);
+}

@@ -23,6 +23,8 @@ struct ProcessCounters
     std::uint32_t regions = 0;       ///< the first is 1
     std::uint32_t selections = 0;
     std::uint32_t elementColors = 0;
+    std::uint32_t fillets = 0;
+    std::uint32_t chamfers = 0;
 
     OfTarget& of(inkmacro::Target target) { return ofTargets[static_cast<std::size_t>(target)]; }
     std::array<OfTarget, inkmacro::targetCount> ofTargets{};

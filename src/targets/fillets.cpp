@@ -1,0 +1,42 @@
+// Fillet and chamfer: arrays of the objects on both sides of a corner and of the points where the user picked them, the
+// settings that were in force, and the call.
+
+#include "targets/fillets.h"
+
+#include "frame/counters.h"
+#include "targets/options.h"
+#include "targets/pickedArrays.h"
+
+static QString cutCorner(Writer& writer, const char* operation, std::uint32_t& counter, const CornerSide& first,
+                         const CornerSide& second, const QString& settings)
+{
+    const std::uint32_t number = counter++;
+    const std::array<PickedArray, 4> arrays{{{"firstEntityArray", first.names},
+                                             {"secondEntityArray", second.names},
+                                             {"firstPointOnEntityDblArray", first.points},
+                                             {"secondPointOnEntityDblArray", second.points}}};
+    const std::array<const char*, 4> inCall{arrays[2].name, arrays[0].name, arrays[3].name, arrays[1].name};
+    return pickedArrays(writer, number, arrays) + settings + callWithPicked(writer, operation, number, inCall);
+}
+
+QString EmitFilletEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
+                           std::optional<double> radius)
+{
+    const QString settings =
+        radius ? EmitCommandOptionDouble(writer, "iwCommandOptionDouble_SetFltRad", *radius) : QString();
+    return cutCorner(writer, "FilletEntities", processCounters.fillets, first, second, settings);
+}
+
+QString EmitChamferEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
+                            const ChamferSettings& settings)
+{
+    static constexpr std::array<const char*, 4> sizeOptions{
+        "iwCommandOptionDouble_SetChmfDst1", "iwCommandOptionDouble_SetChmfDst2", "iwCommandOptionDouble_SetChmfLen",
+        "iwCommandOptionDouble_SetChmfAng"};
+    QString options;
+    for (std::size_t i = 0; settings.sizes && i < sizeOptions.size(); ++i)
+        options += EmitCommandOptionDouble(writer, sizeOptions[i], (*settings.sizes)[i]);
+    options += EmitCommandOptionInt16(writer, "iwCommandOptionInt16_EnblChmfAng", settings.byAngle);
+    options += EmitCommandOptionInt16(writer, "iwCommandOptionInt16_EnblFltTrm", settings.trims);
+    return cutCorner(writer, "ChamferEntities", processCounters.chamfers, first, second, options);
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/db/OdGe.h"
+#include "host/rx/OdArray.h"
+#include "targets/Writer.h"
+
+#include <array>
+#include <optional>
+#include <vector>
+
+/// The objects on one side of a corner, and where the user picked them.
+struct CornerSide
+{
+    std::vector<CFxString> names;
+    OdArray<OdGePoint3d> points;
+};
+
+/// What the host was set to when the corners were cut.
+struct ChamferSettings
+{
+    /// First and second distance, length (drawing units) and angle; none without a drawing.
+    std::optional<std::array<double, 4>> sizes;
+    std::int16_t byAngle = 0; ///< 1: by length and angle, 0: by the two distances
+    std::int16_t trims = 0;   ///< 1: the objects are cut off at the corner
+};
+
+/// Without a radius, that of the program that runs the macro is left as it is.
+QString EmitFilletEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
+                           std::optional<double> radius);
+QString EmitChamferEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
+                            const ChamferSettings& settings);

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "host/db/OdGe.h"
+#include "host/rx/OdArray.h"
+#include "targets/Writer.h"
+
+#include <span>
+#include <variant>
+#include <vector>
+
+/// An array that an operation on picked objects takes: their variables, or the points where the user picked them.
+struct PickedArray
+{
+    const char* name; ///< without its number
+    std::variant<std::vector<CFxString>, OdArray<OdGePoint3d>> elements;
+};
+
+/// Declares the arrays and fills them in their order. All their names end in the number.
+QString pickedArrays(Writer& writer, std::uint32_t number, std::span<const PickedArray> arrays);
+/// The operation of the sketch manager, with the arrays of these names.
+QString callWithPicked(Writer& writer, const char* operation, std::uint32_t number, std::span<const char* const> names);
