@@ -1,0 +1,910 @@
+﻿#include "stdafx.h"
+#include "resource.h"
+#include "recording_i.h"
+#include "recording.h"
+#include "smartvars.h"
+#include "typeconverter.h"
+#include "IwAddinConnection.h"
+#include "math.h"
+
+class CrecordingModule : public CAtlDllModuleT< CrecordingModule >
+{
+public:
+    DECLARE_LIBID(LIBID_recordingLib)
+    DECLARE_REGISTRY_APPID_RESOURCEID(IDR_recording, "{00000000-0000-4000-8000-000000000003}")
+};
+
+CrecordingModule _AtlModule;
+
+#ifdef _MANAGED
+#pragma managed(push, off)
+#endif
+
+// Entry point of the library
+extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved)
+{
+    hInstance;
+    return _AtlModule.DllMain(dwReason, lpReserved);
+}
+
+#ifdef _MANAGED
+#pragma managed(pop)
+#endif
+
+// Tells whether the library is still in use
+STDAPI DllCanUnloadNow(void)
+{
+    return _AtlModule.DllCanUnloadNow();
+}
+
+// Gives the class factory of an object of this server
+STDAPI DllGetClassObject(REFCLSID rclsid, REFIID riid, LPVOID* ppv)
+{
+    return _AtlModule.DllGetClassObject(rclsid, riid, ppv);
+}
+
+// Adds the server, its type library and the interfaces of the type library to the registry
+STDAPI DllRegisterServer(void)
+{
+    return _AtlModule.DllRegisterServer();
+}
+
+// Removes from the registry what DllRegisterServer added
+STDAPI DllUnregisterServer(void)
+{
+    return _AtlModule.DllUnregisterServer();
+}
+
+IwMacroCommand::IwMacroCommand( ICommand* pCommand )
+    : m_IwCommand( pCommand )
+{
+    DispEventAdvise( m_IwCommand );
+}
+
+IwMacroCommand::~IwMacroCommand()
+{
+    DispEventUnadvise( m_IwCommand );
+}
+
+void __stdcall IwMacroCommand::OnExecuteNotify()
+{
+    CIwAddinConnection* pConnection = getMacroApp();
+
+    IDocumentPtr iwDoc( pConnection->m_IwApp->GetActiveDocument() );
+    if( NULL == iwDoc )
+    {
+        MessageBox (NULL, L"Failed to get current document.", L"title", MB_OK);
+        return;
+    }
+
+    IModelPtr iwModel( iwDoc->GetModel() );
+    if( NULL == iwModel )
+    {
+        MessageBox (NULL, L"Failed to get a model space of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    ISketchManagerPtr iwSketchManager;
+    iwSketchManager = iwModel->GetSketchManager();
+    if( NULL == iwSketchManager )
+    {
+        MessageBox (NULL, L"Failed to get a sketch manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    _variant_t pVariantArray = iwDoc->GetSheets();
+    ISheetPtr *iwSheetArrays = NULL;
+    int count = 0;
+    TypeConverter::convertVariantArrayToPtrArray<ISheetPtr, ISheet>( pVariantArray, iwSheetArrays, count );
+    ISheetPtr iwSheet = iwSheetArrays[1];
+    if( NULL == iwSheet )
+    {
+        MessageBox (NULL, L"Failed to get a paper space of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    ISelectionManagerPtr iwSelManager( iwDoc->GetSelectionManager() );
+    if( NULL == iwSelManager )
+    {
+        MessageBox (NULL, L"Failed to get selection manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    IViewManagerPtr iwViewManager( iwDoc->GetViewManager() );
+    if( NULL == iwViewManager )
+    {
+        MessageBox (NULL, L"Failed to get a view manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
+    ILinePtr line1;
+    ILinePtr line2;
+    ILinePtr line3;
+    ILinePtr line4;
+    {
+        line1 = iwSketchManager->InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 20.00000000000000, 0.00000000000000, 0.00000000000000 );
+        line2 = iwSketchManager->InsertLine( 20.00000000000000, 0.00000000000000, 0.00000000000000, 20.00000000000000, 12.00000000000000, 0.00000000000000 );
+        line3 = iwSketchManager->InsertLine( 20.00000000000000, 12.00000000000000, 0.00000000000000, 0.00000000000000, 12.00000000000000, 0.00000000000000 );
+        line4 = iwSketchManager->InsertLine( 0.00000000000000, 12.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 );
+    }
+    ILinePtr line5;
+    ILinePtr line6;
+    {
+        line5 = iwSketchManager->InsertLine( 8.00000000000000, -3.00000000000000, 0.00000000000000, 8.00000000000000, 15.00000000000000, 0.00000000000000 );
+        line6 = iwSketchManager->InsertLine( 14.00000000000000, -3.00000000000000, 0.00000000000000, 14.00000000000000, 15.00000000000000, 0.00000000000000 );
+    }
+    ICirclePtr circle7;
+    {
+        circle7 = iwSketchManager->InsertCircle( 8.00000000000000, 6.00000000000000, 0.00000000000000, 3.00000000000000 );
+    }
+    {
+    }
+    ILinePtr line8;
+    ILinePtr line9;
+    ICircleArcPtr circlearc10;
+    IPolyLinePtr polyline11;
+    IPolyLinePtr polyline12;
+    IEllipseArcPtr ellipsearc13;
+    IEllipseArcPtr ellipsearc14;
+    IPolyLine3DPtr polyline3d15;
+    IPolyLine3DPtr polyline3d16;
+    ISplinePtr spline17;
+    IRayPtr ray18;
+    {
+        VARIANT CuttingEntitiesArray0;
+        CuttingEntitiesArray0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        CuttingEntitiesArray0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 2 );
+        VARIANT EntitiesToRemoveArray0;
+        EntitiesToRemoveArray0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        EntitiesToRemoveArray0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 8 );
+        VARIANT PointOnEntityDblArray0;
+        PointOnEntityDblArray0.vt = ( VT_ARRAY | VT_R8 );
+        PointOnEntityDblArray0.parray = SafeArrayCreateVector( VT_R8, 0, 24 );
+        long rgIndices0;
+        rgIndices0 = 0;
+        IDispatch* val0;
+        val0 = line5;
+        SafeArrayPutElement( CuttingEntitiesArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+        val0 = line6;
+        SafeArrayPutElement( CuttingEntitiesArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            IDispatch* val0;
+            val0 = line1;
+            SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+            val0 = line3;
+            SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+            val0 = circle7;
+            SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+            val0 = ;
+            SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+            val0 = ;
+            SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+            val0 = ;
+            SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+            val0 = ;
+            SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+            val0 = ;
+            SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+        }
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            double val0;
+            val0 = 11;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 11.25;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 12;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 11;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 6;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 11;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 20;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 11;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 32;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 11;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 40;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 1;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 11;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 51;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 8;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 51;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+        }
+
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionInt16(iwCommandOptionInt16_EnblEdgeExtd, 0,&result);
+        }
+        iwSketchManager->TrimEntities(CuttingEntitiesArray0, EntitiesToRemoveArray0, PointOnEntityDblArray0);
+
+        ISelectionManagerPtr iwSelectionManager = iwDoc->GetSelectionManager();
+
+        iwSelectionManager->GetSelectionFilter()->put_Active( false );
+
+        iwSelectionManager->ClearSelections(iwSelectionSetType_Current);
+        iwSelectionManager->ClearSelections(iwSelectionSetType_Previous);
+
+        double epsi = 0.1;
+        IMathUtilityPtr iwMathUtility = pConnection->m_IwApp->GetMathUtility();
+        double selPts[33];                //selection points
+        double prop[66];                  //properties
+        selPts[0] = 14;
+        selPts[1] = 0;
+        selPts[2] = 0;
+        selPts[3] = 8;
+        selPts[4] = 12;
+        selPts[5] = 0;
+        selPts[6] = 8;
+        selPts[7] = 9;
+        selPts[8] = 0;
+        selPts[9] = 0;
+        selPts[10] = 20;
+        selPts[11] = 0;
+        selPts[12] = 14;
+        selPts[13] = 20;
+        selPts[14] = 0;
+        selPts[15] = 5;
+        selPts[16] = 30;
+        selPts[17] = 0;
+        selPts[18] = 17;
+        selPts[19] = 30;
+        selPts[20] = 0;
+        selPts[21] = 14;
+        selPts[22] = 40;
+        selPts[23] = 1;
+        selPts[24] = 8;
+        selPts[25] = 40;
+        selPts[26] = 1;
+        selPts[27] = 14;
+        selPts[28] = 50;
+        selPts[29] = 0;
+        selPts[30] = 14;
+        selPts[31] = 60;
+        selPts[32] = 0;
+        prop[0] = 14;
+        prop[1] = 0;
+        prop[2] = 0;
+        prop[3] = 20;
+        prop[4] = 0;
+        prop[5] = 0;
+        prop[6] = 8;
+        prop[7] = 12;
+        prop[8] = 0;
+        prop[9] = 0;
+        prop[10] = 12;
+        prop[11] = 0;
+        prop[12] = 8;
+        prop[13] = 6;
+        prop[14] = 0;
+        prop[15] = 3;
+        prop[16] = 1.5708;
+        prop[17] = 4.71239;
+        prop[18] = 0;
+        prop[19] = 20;
+        prop[20] = 0;
+        prop[21] = 8;
+        prop[22] = 20;
+        prop[23] = 0;
+        prop[24] = 14;
+        prop[25] = 20;
+        prop[26] = 0;
+        prop[27] = 20;
+        prop[28] = 20;
+        prop[29] = 0;
+        prop[30] = 11;
+        prop[31] = 30;
+        prop[32] = 0;
+        prop[33] = 6;
+        prop[34] = 2;
+        prop[35] = 0;
+        prop[36] = 11;
+        prop[37] = 30;
+        prop[38] = 0;
+        prop[39] = 6;
+        prop[40] = 2;
+        prop[41] = 0;
+        prop[42] = 14;
+        prop[43] = 40;
+        prop[44] = 1;
+        prop[45] = 20;
+        prop[46] = 40;
+        prop[47] = 1;
+        prop[48] = 0;
+        prop[49] = 40;
+        prop[50] = 1;
+        prop[51] = 8;
+        prop[52] = 40;
+        prop[53] = 1;
+        prop[54] = 14;
+        prop[55] = 50;
+        prop[56] = 0;
+        prop[57] = 16;
+        prop[58] = 52;
+        prop[59] = 0;
+        prop[60] = 14;
+        prop[61] = 60;
+        prop[62] = 0;
+        prop[63] = 15;
+        prop[64] = 61.5;
+        prop[65] = 0;
+        polyline3d15 = NULL;
+        polyline3d16 = NULL;
+        circlearc10 = NULL;
+        ellipsearc13 = NULL;
+        ellipsearc14 = NULL;
+        line8 = NULL;
+        line9 = NULL;
+        polyline11 = NULL;
+        polyline12 = NULL;
+        ray18 = NULL;
+        spline17 = NULL;
+        for (int iNewEnt = 0; iNewEnt < 11; iNewEnt++)
+        {
+            IMathPointPtr firstPoint = iwMathUtility->CreatePoint(selPts[iNewEnt*3] + epsi, selPts[iNewEnt*3 + 1] + epsi, selPts[iNewEnt*3 + 2]);
+            IMathPointPtr secondPoint = iwMathUtility->CreatePoint(selPts[iNewEnt*3] - epsi, selPts[iNewEnt*3 + 1] - epsi, selPts[iNewEnt*3 + 2]);
+
+            iwSelectionManager->SelectByWindow(firstPoint, secondPoint, true);
+
+            long count = iwSelectionManager->GetSelectedObjectCount(iwSelectionSetType_Previous);
+
+            for (int i = 0; i < count; i++)
+            {
+                iwObjectType_e retObjType;
+                IDispatchPtr obj = iwSelectionManager->GetSelectedObject(iwSelectionSetType_Previous, i, &retObjType);
+                if (retObjType == iwPolyLine3DType)
+        {
+            IPolyLine3DPtr polyline3d = obj;
+            double firstX, firstY, firstZ, secondX, secondY, secondZ;
+            polyline3d->GetVertexCoordinate(0, &firstX, &firstY, &firstZ);
+            polyline3d->GetVertexCoordinate(1, &secondX, &secondY, &secondZ);
+            if (fabs(firstX - prop[iNewEnt*6]) < epsi &&
+                fabs(firstY - prop[iNewEnt*6 + 1]) < epsi &&
+                fabs(firstZ - prop[iNewEnt*6 + 2]) < epsi &&
+                fabs(secondX - prop[iNewEnt*6 + 3]) < epsi &&
+                fabs(secondY - prop[iNewEnt*6 + 4]) < epsi &&
+                fabs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
+            {
+        if (iNewEnt == 7)
+            polyline3d15 = polyline3d;
+        if (iNewEnt == 8)
+            polyline3d16 = polyline3d;
+                break;
+            }
+        }
+        else if (retObjType == iwCircleArcType)
+        {
+            ICircleArcPtr circlearc = obj;
+            double centerX, centerY, centerZ, radius, startAngle, endAngle;
+            circlearc->GetCenter(&centerX, &centerY, &centerZ);
+            circlearc->get_Radius( &radius );
+            circlearc->get_StartAngle( &startAngle );
+            circlearc->get_EndAngle( &endAngle );
+            if (fabs(centerX - prop[iNewEnt*6]) < epsi &&
+                fabs(centerY - prop[iNewEnt*6 + 1]) < epsi &&
+                fabs(centerZ - prop[iNewEnt*6 + 2]) < epsi &&
+                fabs(radius - prop[iNewEnt*6 + 3]) < epsi &&
+                fabs(startAngle - prop[iNewEnt*6 + 4]) < epsi &&
+                fabs(endAngle - prop[iNewEnt*6 + 5]) < epsi )
+            {
+        if (iNewEnt == 2)
+            circlearc10 = circlearc;
+                break;
+            }
+        }
+        else if (retObjType == iwEllipseArcType)
+        {
+            IEllipseArcPtr ellipsearc = obj;
+            double centerX, centerY, centerZ, majorRadius, minorRadius;
+            ellipsearc->GetCenter(&centerX, &centerY, &centerZ);
+            ellipsearc->get_MajorRadius( &majorRadius );
+            ellipsearc->get_MinorRadius( &minorRadius );
+            if (fabs(centerX - prop[iNewEnt*6]) < epsi &&
+                fabs(centerY - prop[iNewEnt*6 + 1]) < epsi &&
+                fabs(centerZ - prop[iNewEnt*6 + 2]) < epsi &&
+                fabs(majorRadius - prop[iNewEnt*6 + 3]) < epsi &&
+                fabs(minorRadius - prop[iNewEnt*6 + 4]) < epsi )
+            {
+        if (iNewEnt == 5)
+            ellipsearc13 = ellipsearc;
+        if (iNewEnt == 6)
+            ellipsearc14 = ellipsearc;
+                break;
+            }
+        }
+        else if (retObjType == iwLineType)
+        {
+            ILinePtr line = obj;
+            double firstX, firstY, firstZ, secondX, secondY, secondZ;
+            line->GetFirstPoint(&firstX, &firstY, &firstZ);
+            line->GetSecondPoint(&secondX, &secondY, &secondZ);
+            if (fabs(firstX - prop[iNewEnt*6]) < epsi &&
+                fabs(firstY - prop[iNewEnt*6 + 1]) < epsi &&
+                fabs(firstZ - prop[iNewEnt*6 + 2]) < epsi &&
+                fabs(secondX - prop[iNewEnt*6 + 3]) < epsi &&
+                fabs(secondY - prop[iNewEnt*6 + 4]) < epsi &&
+                fabs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
+            {
+        if (iNewEnt == 0)
+            line8 = line;
+        if (iNewEnt == 1)
+            line9 = line;
+                break;
+            }
+        }
+        else if (retObjType == iwPolyLineType)
+        {
+            IPolyLinePtr polyline = obj;
+            double firstX, firstY, secondX, secondY;
+            polyline->GetVertexCoordinate(0, &firstX, &firstY);
+            polyline->GetVertexCoordinate(1, &secondX, &secondY);
+            if (fabs(firstX - prop[iNewEnt*6]) < epsi &&
+                fabs(firstY - prop[iNewEnt*6 + 1]) < epsi &&
+                fabs(secondX - prop[iNewEnt*6 + 3]) < epsi &&
+                fabs(secondY - prop[iNewEnt*6 + 4]) < epsi )
+            {
+        if (iNewEnt == 3)
+            polyline11 = polyline;
+        if (iNewEnt == 4)
+            polyline12 = polyline;
+                break;
+            }
+        }
+        else if (retObjType == iwRayType)
+        {
+            IRayPtr ray = obj;
+            double baseX, baseY, baseZ, throughX, throughY, throughZ;
+            ray->GetBasePoint(&baseX, &baseY, &baseZ);
+            ray->GetThroughPoint(&throughX, &throughY, &throughZ);
+            if (fabs(baseX - prop[iNewEnt*6]) < epsi &&
+                fabs(baseY - prop[iNewEnt*6 + 1]) < epsi &&
+                fabs(baseZ - prop[iNewEnt*6 + 2]) < epsi &&
+                fabs(throughX - prop[iNewEnt*6 + 3]) < epsi &&
+                fabs(throughY - prop[iNewEnt*6 + 4]) < epsi &&
+                fabs(throughZ - prop[iNewEnt*6 + 5]) < epsi )
+            {
+        if (iNewEnt == 10)
+            ray18 = ray;
+                break;
+            }
+        }
+        else if (retObjType == iwSplineType)
+        {
+            ISplinePtr spline = obj;
+            double firstX, firstY, firstZ, secondX, secondY, secondZ;
+            spline->GetControlPointCoordinate(0, &firstX, &firstY, &firstZ);
+            spline->GetControlPointCoordinate(1, &secondX, &secondY, &secondZ);
+            if (fabs(firstX - prop[iNewEnt*6]) < epsi &&
+                fabs(firstY - prop[iNewEnt*6 + 1]) < epsi &&
+                fabs(firstZ - prop[iNewEnt*6 + 2]) < epsi &&
+                fabs(secondX - prop[iNewEnt*6 + 3]) < epsi &&
+                fabs(secondY - prop[iNewEnt*6 + 4]) < epsi &&
+                fabs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
+            {
+        if (iNewEnt == 9)
+            spline17 = spline;
+                break;
+            }
+        }
+
+            }
+            iwSelectionManager->ClearSelections(iwSelectionSetType_Previous);
+        }
+
+    }
+    {
+        // AcDbLine object modified
+        {
+            line8->put_Layer( L"Walls" );
+        }
+        // AcDbArc object modified
+        {
+            circlearc10->put_Layer( L"Walls" );
+        }
+        // AcDbPolyline object modified
+        {
+            polyline12->put_Layer( L"Walls" );
+        }
+    }
+    {
+        // AcDbEllipse object modified
+        {
+            ellipsearc14->put_Layer( L"Axes" );
+        }
+        // AcDb3dPolyline object modified
+        {
+            polyline3d15->put_Layer( L"Axes" );
+        }
+    }
+    {
+        line9->put_Erased( true );
+    }
+    {
+        VARIANT BoundaryEntitiesArray0;
+        BoundaryEntitiesArray0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        BoundaryEntitiesArray0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 1 );
+        VARIANT EntitiesToExtendArray0;
+        EntitiesToExtendArray0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        EntitiesToExtendArray0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 2 );
+        VARIANT PointOnEntityDblArray0;
+        PointOnEntityDblArray0.vt = ( VT_ARRAY | VT_R8 );
+        PointOnEntityDblArray0.parray = SafeArrayCreateVector( VT_R8, 0, 6 );
+        long rgIndices0;
+        rgIndices0 = 0;
+        IDispatch* val0;
+        val0 = line6;
+        SafeArrayPutElement( BoundaryEntitiesArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            IDispatch* val0;
+            val0 = line1;
+            SafeArrayPutElement( EntitiesToExtendArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+            val0 = circlearc10;
+            SafeArrayPutElement( EntitiesToExtendArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+        }
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            double val0;
+            val0 = 7.5;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 8;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 3;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+        }
+
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionInt16(iwCommandOptionInt16_EnblEdgeExtd, 0,&result);
+        }
+        iwSketchManager->ExtendEntities(BoundaryEntitiesArray0, EntitiesToExtendArray0, PointOnEntityDblArray0);
+    }
+    {
+        VARIANT CuttingEntitiesArray0;
+        CuttingEntitiesArray0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        CuttingEntitiesArray0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 1 );
+        VARIANT EntitiesToRemoveArray0;
+        EntitiesToRemoveArray0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        EntitiesToRemoveArray0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 1 );
+        VARIANT PointOnEntityDblArray0;
+        PointOnEntityDblArray0.vt = ( VT_ARRAY | VT_R8 );
+        PointOnEntityDblArray0.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        long rgIndices0;
+        rgIndices0 = 0;
+        IDispatch* val0;
+        val0 = line2;
+        SafeArrayPutElement( CuttingEntitiesArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            IDispatch* val0;
+            val0 = line5;
+            SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+        }
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            double val0;
+            val0 = 8;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 14.5;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+        }
+
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionInt16(iwCommandOptionInt16_EnblEdgeExtd, 0,&result);
+        }
+        iwSketchManager->TrimEntities(CuttingEntitiesArray0, EntitiesToRemoveArray0, PointOnEntityDblArray0);
+    }
+    {
+        VARIANT firstEntityArray0;
+        firstEntityArray0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        firstEntityArray0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 1 );
+        VARIANT secondEntityArray0;
+        secondEntityArray0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        secondEntityArray0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 1 );
+        VARIANT firstPointOnEntityDblArray0;
+        firstPointOnEntityDblArray0.vt = ( VT_ARRAY | VT_R8 );
+        firstPointOnEntityDblArray0.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        VARIANT secondPointOnEntityDblArray0;
+        secondPointOnEntityDblArray0.vt = ( VT_ARRAY | VT_R8 );
+        secondPointOnEntityDblArray0.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        long rgIndices0;
+        rgIndices0 = 0;
+        IDispatch* val0;
+        val0 = line2;
+        SafeArrayPutElement( firstEntityArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            IDispatch* val0;
+            val0 = line3;
+            SafeArrayPutElement( secondEntityArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+        }
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            double val0;
+            val0 = 20;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 10;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+        }
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            double val0;
+            val0 = 18;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 12;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+        }
+
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionDouble(iwCommandOptionDouble_SetFltRad, 2.5,&result);
+        }
+        iwSketchManager->FilletEntities(firstPointOnEntityDblArray0, firstEntityArray0, secondPointOnEntityDblArray0, secondEntityArray0);
+    }
+    {
+        VARIANT firstEntityArray1;
+        firstEntityArray1.vt = ( VT_ARRAY | VT_DISPATCH  );
+        firstEntityArray1.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 1 );
+        VARIANT secondEntityArray1;
+        secondEntityArray1.vt = ( VT_ARRAY | VT_DISPATCH  );
+        secondEntityArray1.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 1 );
+        VARIANT firstPointOnEntityDblArray1;
+        firstPointOnEntityDblArray1.vt = ( VT_ARRAY | VT_R8 );
+        firstPointOnEntityDblArray1.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        VARIANT secondPointOnEntityDblArray1;
+        secondPointOnEntityDblArray1.vt = ( VT_ARRAY | VT_R8 );
+        secondPointOnEntityDblArray1.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        long rgIndices1;
+        rgIndices1 = 0;
+        IDispatch* val1;
+        val1 = circlearc10;
+        SafeArrayPutElement( firstEntityArray1.parray, &rgIndices1, (IDispatch*)(val1) );
+        rgIndices1++;
+
+        {
+            long rgIndices1;
+            rgIndices1 = 0;
+            IDispatch* val1;
+            val1 = polyline12;
+            SafeArrayPutElement( secondEntityArray1.parray, &rgIndices1, (IDispatch*)(val1) );
+            rgIndices1++;
+        }
+
+        {
+            long rgIndices1;
+            rgIndices1 = 0;
+            double val1;
+            val1 = 5;
+            SafeArrayPutElement( firstPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
+            rgIndices1++;
+            val1 = 6;
+            SafeArrayPutElement( firstPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
+            rgIndices1++;
+            val1 = 0;
+            SafeArrayPutElement( firstPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
+            rgIndices1++;
+        }
+
+        {
+            long rgIndices1;
+            rgIndices1 = 0;
+            double val1;
+            val1 = 15.5;
+            SafeArrayPutElement( secondPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
+            rgIndices1++;
+            val1 = 20;
+            SafeArrayPutElement( secondPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
+            rgIndices1++;
+            val1 = 0;
+            SafeArrayPutElement( secondPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
+            rgIndices1++;
+        }
+
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionDouble(iwCommandOptionDouble_SetFltRad, 2.5,&result);
+        }
+        iwSketchManager->FilletEntities(firstPointOnEntityDblArray1, firstEntityArray1, secondPointOnEntityDblArray1, secondEntityArray1);
+    }
+    {
+        VARIANT firstEntityArray0;
+        firstEntityArray0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        firstEntityArray0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 1 );
+        VARIANT secondEntityArray0;
+        secondEntityArray0.vt = ( VT_ARRAY | VT_DISPATCH  );
+        secondEntityArray0.parray = SafeArrayCreateVector( VT_DISPATCH , 0, 1 );
+        VARIANT firstPointOnEntityDblArray0;
+        firstPointOnEntityDblArray0.vt = ( VT_ARRAY | VT_R8 );
+        firstPointOnEntityDblArray0.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        VARIANT secondPointOnEntityDblArray0;
+        secondPointOnEntityDblArray0.vt = ( VT_ARRAY | VT_R8 );
+        secondPointOnEntityDblArray0.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        long rgIndices0;
+        rgIndices0 = 0;
+        IDispatch* val0;
+        val0 = line4;
+        SafeArrayPutElement( firstEntityArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+        rgIndices0++;
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            IDispatch* val0;
+            val0 = line1;
+            SafeArrayPutElement( secondEntityArray0.parray, &rgIndices0, (IDispatch*)(val0) );
+            rgIndices0++;
+        }
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            double val0;
+            val0 = 0;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 1.25;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+        }
+
+        {
+            long rgIndices0;
+            rgIndices0 = 0;
+            double val0;
+            val0 = 1.5;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+            val0 = 0;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
+            rgIndices0++;
+        }
+
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionDouble(iwCommandOptionDouble_SetChmfDst1, 1.5,&result);
+        }
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionDouble(iwCommandOptionDouble_SetChmfDst2, 2,&result);
+        }
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionDouble(iwCommandOptionDouble_SetChmfLen, 3,&result);
+        }
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionDouble(iwCommandOptionDouble_SetChmfAng, 0.785398,&result);
+        }
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionInt16(iwCommandOptionInt16_EnblChmfAng, 1,&result);
+        }
+        {
+            iwSetCommandOptionResult_e result;
+            pConnection->m_IwApp->GetActiveDocument()->SetCommandOptionInt16(iwCommandOptionInt16_EnblFltTrm, 0,&result);
+        }
+        iwSketchManager->ChamferEntities(firstPointOnEntityDblArray0, firstEntityArray0, secondPointOnEntityDblArray0, secondEntityArray0);
+    }
+}
+
