@@ -3,16 +3,19 @@
 PRESET := release
 BUILD  := build/$(PRESET)
 DEMO   := build/demo
+# How long `make fuzz` looks for faults.
+SECONDS := 60
 # What a scenario expects is made, not written.
 SOURCES = $(shell find src tests bench fuzz -path tests/scenarios -prune -o \( -name '*.h' -o -name '*.cpp' \) -print)
 
 .DEFAULT_GOAL := help
-.PHONY: help setup build demo test bench format format-check tidy clean
+.PHONY: help setup build demo test bench fuzz format format-check tidy clean
 
 help:
 	@echo "make demo          convert every recording in examples/ to all targets and say where the macros are"
 	@echo "make test          build and run every test"
 	@echo "make bench         build and run the benchmarks"
+	@echo "make fuzz          build the fuzzers and run them for SECONDS=$(SECONDS)"
 	@echo "make format        format all C++ sources"
 	@echo "make format-check  fail if a C++ source is not formatted"
 	@echo "make tidy          check the sources with clang-tidy"
@@ -37,6 +40,11 @@ test: build
 
 bench: build
 	scripts/bench
+
+fuzz: setup
+	cmake --preset fuzz
+	cmake --build --preset fuzz $(if $(JOBS),--parallel $(JOBS)) --target recording_fuzz convert_fuzz
+	scripts/fuzz $(SECONDS)
 
 format:
 	@clang-format -i $(SOURCES)

@@ -265,6 +265,14 @@ TEST_F(Program, ShowsTheSnapshotOfAnObject)
               "closedMline  0\n");
     const QString json = run({"snapshot", "d.jsonl", "--handle", "30", "--json"}).out;
     EXPECT_TRUE(json.contains("\"tag\": \"Content\"") && json.contains("\"value\": \"a\\nb\"")) << json.toStdString();
+    write("table.jsonl", R"({"object":{"class":"AcDbTable","handle":"2F","rowHeights":[1)" +
+                             QByteArray(",1").repeated(1000) + R"(],"columnWidths":[1)" +
+                             QByteArray(",1").repeated(999) + "]}}\n");
+    const Outcome large = run({"snapshot", "table.jsonl", "--handle", "2F"});
+    EXPECT_EQ(large.status, 1);
+    EXPECT_EQ(large.err,
+              "inkmacro: table.jsonl: the table 2F has 1001 rows and 1000 columns, but a snapshot has at most "
+              "1000000 cells\n");
     const Outcome missing = run({"snapshot", "d.jsonl", "--handle", "31"});
     EXPECT_EQ(missing.status, 1);
     EXPECT_EQ(missing.err, "inkmacro: d.jsonl: the drawing has no object with the handle 31\n");

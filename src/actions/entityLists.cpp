@@ -2,8 +2,11 @@
 // drawing units and angles radians, as recorded.
 
 #include "targets/entityLists.h"
-#include "actions/CustomActionKind.h"
+#include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
+
+using inkmacro::HandedVariable;
+using inkmacro::takeVariable;
 
 EntityList CFxConverterIWAPIImpl::EntitiesOf(const CFxCustomAction& action) const
 {
@@ -12,8 +15,7 @@ EntityList CFxConverterIWAPIImpl::EntitiesOf(const CFxCustomAction& action) cons
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionMirror(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    if (action->GetKind() != kMirror)
-        return kFxFailure;
+    takeVariable(text, HandedVariable::Replaced);
     text = EmitMirrorEntities(writer, EntitiesOf(*action), action->GetData(2).GetPoint(), action->GetData(3).GetPoint(),
                               action->GetData(4).GetBool());
     return kFxSuccess;
@@ -21,8 +23,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionMirror(OdSmartPtr<CFxCustomActi
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionStretch(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    if (action->GetKind() != kStretch)
-        return kFxFailure;
+    takeVariable(text, HandedVariable::Replaced);
     text = EmitStretchEntities(writer, EntitiesOf(*action), action->GetData(2).GetPoint(),
                                action->GetData(3).GetPoint(), action->GetData(4).GetVector());
     return kFxSuccess;
@@ -30,28 +31,23 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionStretch(OdSmartPtr<CFxCustomAct
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionCopy(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    if (action->GetKind() != kCopy)
-        return kFxFailure;
+    takeVariable(text, HandedVariable::Replaced);
     const EntityList entities = EntitiesOf(*action);
-    QString copies;
     for (std::int32_t i = 2; i < action->GetDataCount(); ++i)
-        copies += EmitCopyEntities(writer, entities, action->GetData(i).GetVector(), i == 2);
-    text = copies;
+        text += EmitCopyEntities(writer, entities, action->GetData(i).GetVector(), i == 2);
     return kFxSuccess;
 }
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionMove(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    if (action->GetKind() != kMove)
-        return kFxFailure;
+    takeVariable(text, HandedVariable::Replaced);
     text = EmitMoveEntities(writer, EntitiesOf(*action), action->GetData(2).GetVector(), true);
     return kFxSuccess;
 }
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionRotate(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    if (action->GetKind() != kRotate)
-        return kFxFailure;
+    takeVariable(text, HandedVariable::Replaced);
     text =
         EmitRotateEntities(writer, EntitiesOf(*action), action->GetData(2).GetPoint(), action->GetData(3).GetDouble());
     return kFxSuccess;
@@ -59,8 +55,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionRotate(OdSmartPtr<CFxCustomActi
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionScale(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    if (action->GetKind() != kScale)
-        return kFxFailure;
+    takeVariable(text, HandedVariable::Replaced);
     text =
         EmitScaleEntities(writer, EntitiesOf(*action), action->GetData(2).GetPoint(), action->GetData(3).GetDouble());
     return kFxSuccess;

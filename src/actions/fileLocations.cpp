@@ -1,7 +1,7 @@
 // Changes of the paths and files that are set in the host's options.
 
 #include "targets/fileLocations.h"
-#include "actions/CustomActionKind.h"
+#include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
 #include "objects/CFxConverterIWAPIObject.h"
@@ -25,10 +25,9 @@ struct Location
 
 } // namespace
 
-/// A host object that holds file locations, and the kind of action that sets them.
+/// A host object that holds file locations.
 struct FileObject
 {
-    std::int32_t kind;
     QString (*emitObject)(Writer& writer, CFxString& variable);
     std::span<const Location> locations;
 };
@@ -69,9 +68,9 @@ constexpr Location drawingSupportLocations[]{
     {"eFileLocDrawingSupprtRLineStyle", "RichLineStyleFilePath"},
 };
 
-constexpr FileObject interfaceFiles{kInterfaceFile, &EmitInterfaceFilesObject, interfaceLocations};
-constexpr FileObject systemFiles{kSystemFile, &EmitSystemFilesObject, systemLocations};
-constexpr FileObject drawingSupportFiles{kDrawingSupportFile, &EmitDrawingSupportFilesObject, drawingSupportLocations};
+constexpr FileObject interfaceFiles{&EmitInterfaceFilesObject, interfaceLocations};
+constexpr FileObject systemFiles{&EmitSystemFilesObject, systemLocations};
+constexpr FileObject drawingSupportFiles{&EmitDrawingSupportFilesObject, drawingSupportLocations};
 
 /// Empty for a location that the object does not have; its statement is written all the same.
 CFxString propertyOf(const FileObject& files, const CFxString& key)
@@ -95,8 +94,7 @@ CFxString quotable(CFxString path)
 std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files, const CFxCustomAction& action,
                                                         QString& text)
 {
-    if (action.GetKind() != files.kind)
-        return kFxFailure;
+    takeVariable(text, HandedVariable::Replaced);
     const CFxString property = propertyOf(files, action.GetData(0).GetString());
     const CFxCustomActionData& value = action.GetData(1);
 

@@ -1,26 +1,28 @@
 // Selections: at a prompt, by points, and through a filter.
 
 #include "targets/selections.h"
-#include "actions/CustomActionKind.h"
+#include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "objects/classTable.h"
 #include "targets/selectionPrompts.h"
+
+using inkmacro::HandedVariable;
+using inkmacro::takeVariable;
 
 std::int32_t CFxConverterIWAPIImpl::ConvertSelection(OdSmartPtr<CFxUserSelection> selection, QString& text)
 {
     const std::vector<OdDbHandle>& objects = selection->GetHandles();
     const std::vector<const OdRxClass*>& classes = selection->GetClasses();
-    if (classes.size() < objects.size())
-        throw OdError_InvalidIndex();
-
     EntityList entities;
     for (std::size_t i = 0; i < objects.size(); ++i) {
         ListedEntity entity;
         CFxString type;
+        // The class of an object that the generated code does not know is not asked for.
+        const OdRxClass* const cls = FindEntry(objects[i]) ? ClassAt(classes, i) : nullptr;
         // The name comes by the way that leaves the suffix of raw pointers in.
-        ResolveVariable(objects[i], classes[i], entity.name);
+        ResolveVariable(objects[i], cls, entity.name);
         if (!entity.name.isEmpty())
-            GetApiTypeName(classes[i], type, entity.type);
+            GetApiTypeName(cls, type, entity.type);
         entity.handle = objects[i].ascii();
         entities.push_back(std::move(entity));
     }
@@ -31,8 +33,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertSelection(OdSmartPtr<CFxUserSelection
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionSelect(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    if (action->GetKind() != kSelect)
-        return kFxFailure;
+    takeVariable(text, HandedVariable::AppendedTo);
     for (std::int32_t i = 0; i + 1 < action->GetDataCount(); i += 2)
         text += EmitSelectEntities(writer, action->GetData(i).GetInt(), action->GetData(i + 1).GetPointArray(), false);
     return kFxSuccess;
@@ -40,8 +41,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionSelect(OdSmartPtr<CFxCustomActi
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionSelectionFilter(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    if (action->GetKind() != kSelectionFilter)
-        return kFxFailure;
+    takeVariable(text, HandedVariable::AppendedTo);
     std::vector<CFxString> typeNames;
     OdArray<OdGePoint3d> points;
     std::int32_t mode = 0;

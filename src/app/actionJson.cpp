@@ -2,6 +2,7 @@
 
 #include "app/actionJson.h"
 
+#include "actions/kinds.h"
 #include "recordfile/Pieces.h"
 
 #include <QJsonArray>
@@ -11,65 +12,6 @@
 namespace inkmacro {
 
 namespace {
-
-/// What a command's own report is about, by its kind; null where the host has none.
-const std::array customKinds{"mirror",
-                             "stretch",
-                             "copy",
-                             "move",
-                             "rotate",
-                             "scale",
-                             "trim",
-                             "extend",
-                             "fillet",
-                             "chamfer",
-                             "select",
-                             "selection filter",
-                             "coordinate system",
-                             "sheet",
-                             "named view",
-                             "embedded object",
-                             "polyline",
-                             "erase",
-                             "insert hatch",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             static_cast<const char*>(nullptr),
-                             static_cast<const char*>(nullptr),
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "element color",
-                             "option value",
-                             "interface file",
-                             "system file",
-                             "drawing support file",
-                             "group add",
-                             "group remove",
-                             "attribute value",
-                             "polyline edit",
-                             "view background",
-                             "polyline vertex",
-                             "zoom",
-                             "region",
-                             "activate",
-                             "viewport",
-                             "print style",
-                             "clip boundary",
-                             "view tiles",
-                             "join",
-                             static_cast<const char*>(nullptr),
-                             static_cast<const char*>(nullptr),
-                             static_cast<const char*>(nullptr),
-                             static_cast<const char*>(nullptr),
-                             "explode"};
-static_assert(customKinds.size() == 56);
 
 template<class Object>
 QJsonObject objectBody(const Object& object)
@@ -103,8 +45,8 @@ QJsonObject customBody(const CFxCustomAction& custom)
         types.append(DataType(custom.GetData(i)));
     QJsonObject body{{"kind", custom.GetKind()}, {"data", types}};
     const auto kind = static_cast<std::size_t>(custom.GetKind());
-    if (kind < customKinds.size() && customKinds[kind])
-        body["name"] = customKinds[kind];
+    if (kind < actionKindNames.size() && actionKindNames[kind])
+        body["name"] = actionKindNames[kind];
     return body;
 }
 

@@ -6,6 +6,7 @@
 #include "app/console.h"
 #include "app/reading.h"
 #include "app/valueText.h"
+#include "host/db/OdDbClasses.h"
 #include "recordfile/Pieces.h"
 
 #include <QJsonArray>
@@ -16,6 +17,24 @@
 namespace inkmacro {
 
 namespace {
+
+constexpr qint64 kMostCells = 1'000'000;
+
+/// Rows and columns take a few bytes each in a recording, and their product makes the records.
+bool isTooLarge(const OdDbObject& object, const QString& path)
+{
+    if (object.isA() != OdDbTable::desc())
+        return false;
+    const auto& table = static_cast<const OdDbTable&>(object);
+    if (qint64{table.numRows()} * table.numColumns() <= kMostCells)
+        return false;
+    complain(QString("%1: the table %2 has %3 rows and %4 columns, but a snapshot has at most %5 cells")
+                 .arg(path, object.getDbHandle().ascii())
+                 .arg(table.numRows())
+                 .arg(table.numColumns())
+                 .arg(kMostCells));
+    return true;
+}
 
 void printTable(const std::vector<CFxSnapshotRecord>& records)
 {
@@ -51,6 +70,8 @@ int showSnapshot(const QString& path, const OdDbHandle& handle, bool json)
         complain(QString("%1: the drawing has no object with the handle %2").arg(path, handle.ascii()));
         return kFailed;
     }
+    if (isTooLarge(*object, path))
+        return kFailed;
     std::vector<CFxSnapshotRecord> records;
     module->TakeSnapshot(object.get(), records);
     if (json)

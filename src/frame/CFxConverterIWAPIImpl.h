@@ -10,6 +10,7 @@
 #include <map>
 
 class CFxConverterIWAPIObject;
+class StatementGroup;
 struct FileObject;
 
 /// The walk over a recording and everything else that is the same for all targets. Knows no target: the words come
@@ -33,11 +34,6 @@ public:
     std::int32_t ConvertSelection(OdSmartPtr<CFxUserSelection> selection, QString& text);
     std::int32_t ConvertCustomAction(OdSmartPtr<CFxCustomAction> action, QString& text);
 
-    // File locations: src/actions/fileLocations.cpp.
-    std::int32_t ConvertActionInterfaceFile(OdSmartPtr<CFxCustomAction> action, QString& text);
-    std::int32_t ConvertActionSystemFile(OdSmartPtr<CFxCustomAction> action, QString& text);
-    std::int32_t ConvertActionDrawingSupportFile(OdSmartPtr<CFxCustomAction> action, QString& text);
-
     // Options of system variables: src/actions/sysvars.cpp.
 
     /// Enumerator and kind (an OptionKind's number) of the document's option for a system variable. kFxFailure for a
@@ -46,8 +42,8 @@ public:
     /// The same of the application's option.
     std::int32_t FindApplicationOption(const CFxString& variable, CFxString& enumerator, std::int32_t& kind) const;
 
-    // One handler a kind of custom action, or a few kinds: src/actions. A handler that is given another kind gives
-    // kFxFailure.
+    // The handlers of custom actions: src/actions. They are given what their row of the kinds' table lets through, and
+    // look at neither the kind nor the form of the data once more.
     std::int32_t ConvertActionMirror(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionStretch(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionCopy(OdSmartPtr<CFxCustomAction> action, QString& text);
@@ -58,9 +54,11 @@ public:
     std::int32_t ConvertActionSelectionFilter(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionEmbeddedObject(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionErase(OdSmartPtr<CFxCustomAction> action, QString& text);
-    /// The one handler that does not look at the kind: its kinds differ in their first element alone.
     std::int32_t ConvertActionElementColor(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionOptionValue(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionInterfaceFile(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionSystemFile(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionDrawingSupportFile(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionGroupAdd(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionGroupRemove(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionAttributeValue(OdSmartPtr<CFxCustomAction> action, QString& text);
@@ -71,23 +69,27 @@ public:
     std::int32_t ConvertActionJoin(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionExplode(OdSmartPtr<CFxCustomAction> action, QString& text);
 
-    // Variables of the generated code: variables.cpp.
+    // Variables of the generated code: variables.cpp. Naming one neither registers an object nor writes a statement
+    // that fetches it; that is CFxConverterIWAPIObject::ObjectVariable.
 
     /// The leader that owns the note of that handle, else the null id. Raises OdError_NotThatKindOfClass when the
     /// handle is another object's.
     void GetNoteLeader(OdDbObjectId& leader, const OdDbHandle& handle) const;
-    /// One element a handle.
+    /// One element a handle: its name as ResolveVariables gives it, the object type enumerator (empty where the name
+    /// is), the handle's text.
     EntityList ResolveNames(const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray) const;
+    /// One element a handle: the name that the object is declared by, with the class that is told here; empty for an
+    /// object that the generated code does not know, whose class is not asked for.
     void ResolveVariables(std::vector<CFxString>& names, const CFxCustomActionData& handleArray,
                           const CFxCustomActionData& classArray) const;
-    /// The variable of one object, or the name as it was.
+    /// One object's name, or the name as it was. Spelled another way than the declared name: see there.
     void ResolveVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) const;
     /// The entry of that handle or null.
     const ActionEntry* FindEntry(const OdDbHandle& handle) const;
-    /// The variable's name, or empty text for a class outside the type table.
-    CFxString VariableName(const ActionEntry& entry) const;
+    /// The name that a declaration gives the entry; empty for a class outside the type table. Looks nothing up.
+    CFxString DeclaredName(const ActionEntry& entry) const;
     /// The next ordinal, noted under the handle. An object that is met again under its handle gets a new variable.
-    ActionEntry RegisterObject(const OdDbHandle& handle, OdRxClass* cls);
+    ActionEntry RegisterObject(const OdDbHandle& handle, const OdRxClass* cls);
 
     /// `hasSysVar`: a system variable changed at the recording's top level.
     virtual QString EmitFileHeader(const QString& className, bool hasSysVar) = 0;
@@ -112,12 +114,13 @@ private:
     std::int32_t ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action);
     void RegisterChildren(const CFxActionArray& children, CommandState& state);
     void DeclareChildren(CommandState& state);
-    void ConvertChildren(const CFxActionArray& children, CommandState& state);
+    void ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group);
     std::int32_t ConvertFileLocation(const FileObject& files, const CFxCustomAction& action, QString& text);
     std::int32_t ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text);
     CFxConverterIWAPIObject& Objects() const;
     EntityList EntitiesOf(const CFxCustomAction& action) const;
-    QString NoteOfLeader(const OdDbHandle& note, OdRxClass* noteClass, const OdDbObjectId& leader, CFxString& name);
+    QString NoteOfLeader(const OdDbHandle& note, const OdRxClass* noteClass, const OdDbObjectId& leader,
+                         CFxString& name);
     /// The entry of the group of that name, or null for a group that the generated code does not know.
     const ActionEntry* FindGroup(const CFxString& groupName, OdDbHandle& handle) const;
     using EmitGroupChange = QString (*)(Writer&, const std::vector<CFxString>&, const CFxString&);

@@ -1,12 +1,12 @@
 // The children of a command as one block.
 
-#include "actions/CustomActionKind.h"
+#include "actions/kinds.h"
 #include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/StatementGroup.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
-#include "targets/blocks.h"
 #include "targets/variables.h"
 
 #include <QStringList>
@@ -35,12 +35,11 @@ bool isShapeFileStyle(const CFxObjectAdded& added)
 struct CFxConverterIWAPIImpl::CommandState
 {
     std::vector<ActionEntry> added;
-    QString prefix;
+    QString declarations;
     /// Variables of the objects that a custom action of this command finishes.
     std::vector<QString> names;
     std::size_t nextName = 0;
     QStringList statements;
-    bool noBlock = false;
     bool unnamedTarget = false;
     bool shapeStyle = false;
     bool allEmpty = true;
@@ -52,21 +51,21 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
     CommandState state;
     RegisterChildren(children, state);
     DeclareChildren(state);
-    state.prefix += EmitBlockBegin(writer);
+    StatementGroup group(writer);
 
     const std::uint32_t outerCounter = std::exchange(writer.UniqueCounter, 0);
-    ConvertChildren(children, state);
+    ConvertChildren(children, state, group);
 
-    if (!state.noBlock && !state.unnamedTarget && !state.allEmpty && !state.shapeStyle)
-        stream << state.prefix;
+    const bool grouped = !group.abandoned() && !state.unnamedTarget;
+    const bool written = grouped && !state.allEmpty && !state.shapeStyle;
+    if (written)
+        stream << state.declarations << group.begin();
     for (const QString& statement : state.statements)
         stream << statement;
-    // An unnamed target leaves the level where the block's begin put it: what follows stands one level deeper.
-    if (!state.noBlock && !state.unnamedTarget) {
-        const QString end = EmitBlockEnd(writer);
-        if (!state.allEmpty && !state.shapeStyle)
-            stream << end;
-    }
+    // An unnamed target leaves the level where the group's begin put it: what follows stands one level deeper.
+    const QString end = grouped ? group.close() : QString();
+    if (written)
+        stream << end;
     writer.UniqueCounter = outerCounter;
     return kFxSuccess;
 }
@@ -95,16 +94,16 @@ void CFxConverterIWAPIImpl::RegisterChildren(const CFxActionArray& children, Com
 void CFxConverterIWAPIImpl::DeclareChildren(CommandState& state)
 {
     for (const ActionEntry& entry : state.added) {
-        state.prefix += EmitVariableDeclaration(writer, entry);
+        state.declarations += EmitVariableDeclaration(writer, entry);
         if (!isFinishedByCustomAction(entry.cls))
             continue;
-        const CFxString name = VariableName(entry);
+        const CFxString name = DeclaredName(entry);
         if (!name.isEmpty())
             state.names.push_back(name);
     }
 }
 
-void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, CommandState& state)
+void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group)
 {
     for (const OdRxObjectPtr& child : children) {
         QString current;
@@ -112,16 +111,14 @@ void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, Comm
             const std::int32_t kind = custom->GetKind();
             if (!state.names.empty())
                 current = state.names.back();
-            if (kind == kViewBackground) {
+            if (kind == inkmacro::kViewBackground) {
                 // Backgrounds and objects pair up in order; a surplus background stays with the last object.
                 if (state.names.size() > 1 && state.nextName < state.names.size())
                     current = state.names[state.nextName++];
                 state.unnamedTarget = current.isEmpty();
             }
-            if (kind == kPolyline || kind == kViewport) {
-                state.noBlock = true;
-                --writer.IndentLevel;
-            }
+            if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport)
+                group.abandon();
         }
         if (ConvertAction(child, current) != kFxSuccess)
             return;

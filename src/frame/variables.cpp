@@ -39,6 +39,13 @@ std::int32_t GetApiTypeName(const OdRxClass* cls, CFxString& typeName, CFxString
     return kFxSuccess;
 }
 
+const OdRxClass* ClassAt(const std::vector<const OdRxClass*>& classes, std::size_t index)
+{
+    if (index >= classes.size())
+        throw OdError_InvalidIndex();
+    return classes[index];
+}
+
 void CFxConverterIWAPIImpl::GetNoteLeader(OdDbObjectId& leader, const OdDbHandle& handle) const
 {
     leader = OdDbObjectId();
@@ -60,12 +67,12 @@ const ActionEntry* CFxConverterIWAPIImpl::FindEntry(const OdDbHandle& handle) co
     return found == ObjectVariableMap.end() ? nullptr : &found->second;
 }
 
-ActionEntry CFxConverterIWAPIImpl::RegisterObject(const OdDbHandle& handle, OdRxClass* cls)
+ActionEntry CFxConverterIWAPIImpl::RegisterObject(const OdDbHandle& handle, const OdRxClass* cls)
 {
     return ObjectVariableMap[handle] = ActionEntry{cls, ++objectCounter};
 }
 
-CFxString CFxConverterIWAPIImpl::VariableName(const ActionEntry& entry) const
+CFxString CFxConverterIWAPIImpl::DeclaredName(const ActionEntry& entry) const
 {
     CFxString type;
     CFxString second;
@@ -99,12 +106,10 @@ void CFxConverterIWAPIImpl::ResolveVariables(std::vector<CFxString>& names, cons
 {
     const std::vector<OdDbHandle>& objects = handleArray.GetHandleArray();
     const std::vector<const OdRxClass*>& classes = classArray.GetClassArray();
-    if (classes.size() < objects.size())
-        throw OdError_InvalidIndex();
     names.assign(objects.size(), {});
     for (std::size_t i = 0; i < objects.size(); ++i)
         if (const ActionEntry* const entry = FindEntry(objects[i]))
-            names[i] = VariableName({classes[i], entry->ordinal});
+            names[i] = DeclaredName({ClassAt(classes, i), entry->ordinal});
 }
 
 /// Takes the suffixes off after the number was put on, and only the one of smart pointers: in C++ a region or a view

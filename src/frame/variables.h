@@ -4,6 +4,7 @@
 #include "host/rx/OdRxClass.h"
 
 #include <cstdint>
+#include <vector>
 
 /// Class and ordinal of an object that the generated code has a variable for.
 struct ActionEntry
@@ -18,3 +19,6 @@ std::int32_t GetApiTypeName(const OdRxClass* cls, CFxString& typeName, CFxString
 
 /// Removes what C++ type names end in, wherever it stands.
 void StripPointerSuffixes(CFxString& typeName);
+
+/// The class of an object in a list, from the list of classes beside it. Raises OdError_InvalidIndex.
+const OdRxClass* ClassAt(const std::vector<const OdRxClass*>& classes, std::size_t index);

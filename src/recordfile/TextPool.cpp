@@ -7,6 +7,8 @@ namespace inkmacro::recordfile {
 
 const CFxString* TextPool::text(std::string_view utf8)
 {
+    if (utf8.size() > longestShared)
+        return &longTexts_.emplace_back(toText(utf8));
     auto found = texts_.find(utf8);
     if (found == texts_.end())
         found = texts_.emplace(utf8, toText(utf8)).first;
@@ -15,6 +17,8 @@ const CFxString* TextPool::text(std::string_view utf8)
 
 OdRxClass* TextPool::classOf(std::string_view utf8)
 {
+    if (utf8.size() > longestShared)
+        return oddbClassByName(toText(utf8));
     auto found = classes_.find(utf8);
     if (found == classes_.end())
         found = classes_.emplace(utf8, oddbClassByName(toText(utf8))).first;

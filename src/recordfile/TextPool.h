@@ -2,6 +2,7 @@
 
 #include "recordfile/recordedActions.h"
 
+#include <deque>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -33,7 +34,11 @@ private:
         std::size_t operator()(const TextPair& pair) const;
     };
 
+    /// Longer ones are made anew each time: as keys they would take half as much again, and hardly any occurs twice.
+    static constexpr std::size_t longestShared = 64 * 1024;
+
     ByBytes<CFxString> texts_;
+    std::deque<CFxString> longTexts_;
     ByBytes<OdRxClass*> classes_;
     std::unordered_map<TextPair, PropertyLabelPtr, PairHash> labels_;
 };

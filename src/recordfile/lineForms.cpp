@@ -4,6 +4,7 @@
 #include "recordfile/drawingForms.h"
 
 #include <array>
+#include <unordered_set>
 
 namespace inkmacro::recordfile {
 
@@ -100,11 +101,11 @@ struct SettingsForm
     static Settings read(const Json& json)
     {
         Settings settings;
+        std::unordered_set<std::string_view> met;
         for (const simdjson::dom::key_value_pair entry : json.object()) {
             const QString name = toText(entry.key);
-            for (const auto& [known, value] : settings)
-                if (known == name)
-                    json.fail(QString("the key %1 is given twice").arg(quoted(name)));
+            if (!met.insert(entry.key).second)
+                json.fail(QString("the key %1 is given twice").arg(quoted(name)));
             settings.emplace_back(name, Form<Recording::Setting>::read(json.entry(entry.key, entry.value)));
         }
         return settings;

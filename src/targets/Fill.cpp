@@ -1,10 +1,13 @@
 #include "targets/Fill.h"
 
+#include "host/rx/OdError.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <type_traits>
 
 namespace inkmacro {
 
@@ -75,6 +78,9 @@ QString madeByQt(T value)
 {
     return filledByQt(QStringLiteral("%1"), value);
 }
+
+/// 256 MiB of plain text. QString::arg reckons in int, and a bit further up it writes behind the end of its text.
+constexpr qsizetype longestText = 256 * 1024 * 1024;
 
 constexpr auto powersOfTen = [] {
     std::array<std::uint64_t, 20> powers{1};
@@ -267,6 +273,50 @@ QChar* write(QChar* out, Fill::Short value)
     return out;
 }
 
+/// How many characters the value has at a marker of that form.
+template<class T>
+qsizetype lengthAt(const QString& marker, T value)
+{
+    if constexpr (std::is_same_v<T, QStringView> || std::is_same_v<T, QLatin1String>) {
+        return room(value);
+    }
+    return filledByQt(marker, value).size();
+}
+
+/// How long the text becomes when values of these lengths go to the places of its lowest marker, those without and
+/// those with an L.
+qsizetype filledLength(QStringView text, qsizetype plain, qsizetype local)
+{
+    constexpr int aboveAll = 100;
+    int lowest = aboveAll;
+    qsizetype length = text.size();
+    for (Marker next = nextMarker(text, 0); next.end != -1; next = nextMarker(text, next.end)) {
+        if (next.number < lowest) {
+            lowest = next.number;
+            length = text.size();
+        }
+        if (next.number == lowest) {
+            length += (next.local ? local : plain) - (next.end - next.begin);
+        }
+    }
+    return length;
+}
+
+/// Throws when the value would make a text that is too long of this one.
+template<class T>
+void requireLength(const QString& text, T value)
+{
+    // Every other character a marker's first is the most that there can be, and the locale's form of a number is less
+    // than twice as long as the other.
+    if (text.size() * (1 + room(value)) <= longestText) {
+        return;
+    }
+    const qsizetype plain = lengthAt(QStringLiteral("%1"), value);
+    if (filledLength(text, plain, lengthAt(QStringLiteral("%L1"), value)) > longestText) {
+        throw OdError(eTextTooLong, "a statement would be longer than 256 MiB");
+    }
+}
+
 /// A text of at most `most` characters, made by a writer.
 template<class Writer>
 QString written(qsizetype most, Writer writer)
@@ -390,6 +440,9 @@ QString Fill::inOnePass(int used) const
     for (int i = 0; i < used; ++i) {
         most += template_->ranks_[i].places * std::visit([](const auto& value) { return room(value); }, values_[i]);
     }
+    if (most > longestText) {
+        return valueByValue();
+    }
     return written(most, [&](QChar* out) {
         const QStringView text = template_->text_;
         for (const Template::Piece& piece : template_->pieces_) {
@@ -411,7 +464,12 @@ QString Fill::valueByValue() const
         if (!hasMarker(text)) {
             break;
         }
-        text = std::visit([&text](const auto& held) { return filledByQt(text, held); }, value);
+        text = std::visit(
+            [&text](const auto& held) {
+                requireLength(text, held);
+                return filledByQt(text, held);
+            },
+            value);
     }
     return text;
 }

@@ -53,7 +53,8 @@ private:
 /// a chain of QString::arg calls makes of the literal, also where a value itself holds markers for the values behind
 /// it; but Qt's warnings about missing markers are not printed.
 ///
-/// Texts that stand in a variable are kept as views: each must live until str() is called.
+/// Texts that stand in a variable are kept as views: each must live until str() is called. An outcome of more than
+/// 256 Mi characters, or one on the way to it, raises an OdError.
 class Fill
 {
 public:

@@ -32,6 +32,11 @@ bool writeTextFile(const QString& path, const QString& text, bool byteOrderMark)
 
 } // namespace
 
+QString xmlText(const QString& text)
+{
+    return text.toHtmlEscaped();
+}
+
 std::int32_t WriteProject(const QString& macroPath, const std::vector<ProjectFile>& files)
 {
     const QString directory = QFileInfo(macroPath).path();

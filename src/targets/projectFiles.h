@@ -15,6 +15,9 @@ struct ProjectFile
     bool byteOrderMark;
 };
 
+/// A name or a directory as it stands in the XML of a project, between tags or quotes.
+QString xmlText(const QString& text);
+
 /// Writes the files in turn into the macro file's directory, which is made when it is missing. Ends with kFxFailure at
 /// the first that cannot be opened; those before it stay. A write that fails after that is reported to the host alone.
 std::int32_t WriteProject(const QString& macroPath, const std::vector<ProjectFile>& files);

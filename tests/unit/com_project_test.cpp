@@ -185,6 +185,18 @@ TEST_F(ComProject, StopsAtTheFirstFileThatCannotBeWritten)
     }
 }
 
+TEST_F(ComProject, KeepsTheMarkersOfANameInTheResourceScript)
+{
+    for (const QString name : {"n%1m", "a%2b", "x%5"}) {
+        ASSERT_EQ(run({}, name), kFxSuccess);
+        const QString script = text(name + ".rc");
+        EXPECT_TRUE(script.startsWith("// Resource script of " + name + "\n//\n"));
+        EXPECT_EQ(script.count(name), 8) << name.toStdString();
+        for (const char* const number : {"1", "2", "3"})
+            EXPECT_TRUE(script.contains(QString("\n%1 TEXTINCLUDE\nBEGIN\n").arg(number)));
+    }
+}
+
 TEST_F(ComProject, NamesEverythingAfterTheMacro)
 {
     ASSERT_EQ(run({}, "my wall.v2"), kFxSuccess);

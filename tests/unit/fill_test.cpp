@@ -1,4 +1,6 @@
 #include "targets/Fill.h"
+
+#include "host/rx/OdError.h"
 #include "targets/Phrase.h"
 
 #include <QLocale>
@@ -413,6 +415,40 @@ TEST(Fill, PrintsNothing)
     EXPECT_EQ(messages.count(), 0);
     EXPECT_EQ(QString("no marker").arg(1), "no marker");
     EXPECT_EQ(messages.count(), 1) << "the handler does not see Qt's warnings";
+}
+
+const QString manyFives = QString("%5").repeated(1024);
+const QString manySixes = QString("%6").repeated(1024);
+
+TEST(Fill, RefusesTextOfMoreThan256Mi)
+{
+    const auto codeOf = [](const std::string& literal, const Values& values) {
+        try {
+            return std::make_pair(eOk, byFill(literal, values).size());
+        } catch (const OdError& error) {
+            EXPECT_TRUE(QString(error.what()).contains("256 MiB"));
+            return std::make_pair(error.code(), 0);
+        }
+    };
+    const auto refused = std::make_pair(eTextTooLong, 0);
+    const QString letters(4096, 'a');
+    EXPECT_EQ(codeOf("%1", {manyFives, manySixes, letters}), refused);
+    EXPECT_EQ(codeOf("%1", {manyFives, manySixes, Indent{1024}}), refused);
+    EXPECT_EQ(codeOf("%1", {manyFives, manySixes + "%L6", letters}), refused);
+    // Without a marker in any value, too.
+    const QString long4(80'000'000, 'a');
+    EXPECT_EQ(codeOf("%1%2%1%1%1", {long4, 1}), refused);
+    EXPECT_EQ(codeOf("%1%2%1", {long4, 1}), std::make_pair(eOk, 160'000'001));
+}
+
+TEST(Fill, EqualsArgChainWithAMillionMarkers)
+{
+    for (const Values& values :
+         {Values{manyFives, manySixes, Long{1.5}}, Values{manyFives, manySixes, QString("ab"), 7}}) {
+        const QString filled = byFill("%1", values);
+        EXPECT_GT(filled.size(), 1 << 20);
+        EXPECT_TRUE(filled == byArgChain("%1", values));
+    }
 }
 
 TEST(Fill, TakesTheTextOfAnExpression)

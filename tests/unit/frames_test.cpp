@@ -213,6 +213,30 @@ TEST_F(Frames, WriteProjectsThatCanBeRead)
     }
 }
 
+/// Names and directories are whatever the file system allows.
+TEST_F(Frames, WriteProjectsThatCanBeReadWhateverTheName)
+{
+    const QString name = "R&D <\"a\">";
+    installIn("D:\\Q&A\\");
+    for (const auto& [language, extension, project] :
+         {std::tuple{0U, ".cpp", ".vcproj"}, {1U, ".cs", ".csproj"}, {3U, ".vb", ".vbproj"}, {4U, ".cpp", ".vcproj"}}) {
+        ASSERT_EQ(CreateConverter(language, 0, 0)->Convert(path(name + extension), {}), kFxSuccess);
+        QXmlStreamReader reader(QString::fromUtf8(contents(path(name + project))));
+        QString read;
+        while (!reader.atEnd()) {
+            reader.readNext();
+            for (const QXmlStreamAttribute& attribute : reader.attributes())
+                read += attribute.value() + '\n';
+            read += reader.text();
+        }
+        EXPECT_FALSE(reader.hasError()) << language << ": " << reader.errorString().toStdString();
+        EXPECT_TRUE(read.contains(name)) << language;
+        EXPECT_EQ(read.contains("\"D:\\\\Q&A\\\\APISDK\\headers\\cpp\""), language == 0) << language;
+    }
+    // What is no XML is not escaped.
+    EXPECT_TRUE(contents(path("Module1.vb")).contains("            Dim R&D <\"a\">Obj As R&D <\"a\">\n"));
+}
+
 TEST_F(Frames, StopAtTheFirstProjectFileThatCannotBeOpened)
 {
     ASSERT_TRUE(QDir().mkpath(path("iwAddinConnection.h")));

@@ -93,6 +93,34 @@ TEST(RecordingFile, HoldsEveryFormAndGivesItBack)
     EXPECT_EQ(erased->getPersistentReactors()[1].getHandle().value(), ~std::uint64_t{0});
 }
 
+/// Longer than the stack is deep.
+TEST(RecordingFile, HoldsLongChainsAndTexts)
+{
+    constexpr int length = 500'000;
+    const QByteArray text(200'000, 'x');
+    OdResBufPtr third;
+    {
+        Recording recording;
+        const auto error =
+            read("{\"sysvar\":{\"name\":\"" + text + "\",\"value\":[{\"int32\":0}" +
+                     QByteArray(",{\"int32\":7}").repeated(length) + "]}}\n{\"modified\":{\"class\":\"" + text +
+                     "\",\"handle\":\"2F\",\"properties\":[{\"tag\":\"" + text + "\",\"value\":1}]}}\n",
+                 recording);
+        ASSERT_FALSE(error) << error->text().toStdString();
+        const auto variable = odrxQuery<CFxSysVarChanged>(recording.actions[0].get());
+        const auto modified = odrxQuery<CFxObjectModified>(recording.actions[1].get());
+        EXPECT_EQ(variable->GetName().toQString(), text);
+        EXPECT_EQ(modified->GetObjectClass()->name(), text);
+        EXPECT_EQ(modified->GetProperties()[0]->GetName().toQString(), text);
+        third = variable->GetValue()->next()->next();
+    }
+    // What is still held keeps all behind it.
+    int count = 1;
+    for (OdResBufPtr element = third; element->next(); element = element->next())
+        ++count;
+    EXPECT_EQ(count, length - 1);
+}
+
 TEST(RecordingFile, KeepsValuesExact)
 {
     Recording recording;
@@ -290,6 +318,8 @@ TEST(RecordingFile, SaysWhatIsWrongAndWhere)
         {R"({"added":{"class":"AcDbLine","handle":"12345678901234567","properties":[]}})",
          "walls.jsonl:1: added.handle: \"12345678901234567\" is not a handle: more than 16 digits"},
         {R"({"added":{"class":"AcDbLine","properties":[]}})", "walls.jsonl:1: added: the key \"handle\" is missing"},
+        {R"({"drawing":{"settings":{"A":1,"B":2,"A":3}}})",
+         "walls.jsonl:1: drawing.settings: the key \"A\" is given twice"},
         {R"({"added":{"class":"AcDbLine","handle":"1","colour":2,"properties":[]}})",
          "walls.jsonl:1: added: unknown key \"colour\""},
         {R"({"sysvar":{"name":"A","value":{"int16":40000}}})",

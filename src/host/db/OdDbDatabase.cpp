@@ -1,5 +1,7 @@
 #include "host/db/OdDbDatabase.h"
 
+#include <QRandomGenerator>
+
 #include <algorithm>
 #include <limits>
 
@@ -20,6 +22,17 @@ OdDbObjectPtr OdDbObjectId::openObject(bool openErased) const
     if (!stub_ || !stub_->object || (stub_->object->isErased() && !openErased))
         return {};
     return stub_->object;
+}
+
+/// Spreads the upper bits over all, with a seed of this process. Neighbors stay neighbors, as they are used.
+std::size_t OdDbDatabase::HandleHash::operator()(std::uint64_t handle) const
+{
+    static const std::uint64_t seed = QRandomGenerator::system()->generate64();
+    constexpr int neighborBits = 8;
+    std::uint64_t bits = (handle >> neighborBits) ^ seed;
+    bits = (bits ^ bits >> 33) * 0xFF51AFD7ED558CCDU;
+    bits = (bits ^ bits >> 33) * 0xC4CEB9FE1A85EC53U;
+    return (bits ^ bits >> 33) + (handle & ((1U << neighborBits) - 1));
 }
 
 OdDbDatabase::OdDbDatabase() = default;

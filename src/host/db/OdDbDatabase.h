@@ -50,7 +50,13 @@ public:
     OdArray<OdDbObjectId> objectIds() const;
 
 private:
-    std::unordered_map<std::uint64_t, std::unique_ptr<OdDbStub>> stubs_; ///< by the handle's value
+    /// Handles come from files: were they their own hashes, those of one file could all fall into one place.
+    struct HandleHash
+    {
+        std::size_t operator()(std::uint64_t handle) const;
+    };
+
+    std::unordered_map<std::uint64_t, std::unique_ptr<OdDbStub>, HandleHash> stubs_; ///< by the handle's value
     OdDbObjectId currentLayoutId_;
     OdDbObjectId groupDictionaryId_;
     OdDbObjectId tablestyle_;

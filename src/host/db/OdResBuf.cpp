@@ -13,6 +13,14 @@ T valueOr(const OdResBuf::Value& value, T neutral)
 
 } // namespace
 
+/// Lets go of the chain element by element: each in its predecessor's destructor, a long one would overflow the stack.
+OdResBuf::~OdResBuf()
+{
+    OdResBufPtr rest = std::move(next_);
+    while (rest && !rest->isShared())
+        rest = OdResBufPtr(std::move(rest->next_));
+}
+
 OdRxClass* OdResBuf::desc()
 {
     static OdRxClass* const descriptor = OdRxClass::define("OdResBuf", OdRxObject::desc());

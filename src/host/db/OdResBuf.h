@@ -31,6 +31,7 @@ public:
                                OdGePoint2d, OdGePoint3d>;
 
     OdResBuf(int type, Value value) : type_(type), value_(std::move(value)) {}
+    ~OdResBuf() override;
 
     static OdRxClass* desc();
     OdRxClass* isA() const override { return desc(); }

@@ -13,6 +13,7 @@ enum OdResult : int
     eNullObjectPointer = 20,
     eInvalidIndex = 21,
     eNotThatKindOfClass = 22,
+    eTextTooLong = 23,
 };
 
 /// What the drawing SDK throws. Never crosses the border of a conversion: the driver turns it into a status.

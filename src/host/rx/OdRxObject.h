@@ -24,6 +24,7 @@ public:
         if (--references_ == 0)
             delete this;
     }
+    bool isShared() const { return references_ > 1; }
 
     OdRxObject(const OdRxObject&) = delete;
     OdRxObject& operator=(const OdRxObject&) = delete;

@@ -233,8 +233,8 @@ QString CFxConverterIWAPICPP::EmitProjectText(const QString& projectName)
 {
     static const Template words(projectWords().constData());
     return Fill(&words)
-        .text(projectName)
+        .text(xmlText(projectName))
         .text(LineEnd)
-        .text(installedPath("APISDK\\lib\\cpp"))
-        .text(installedPath("APISDK\\headers\\cpp"));
+        .text(xmlText(installedPath("APISDK\\lib\\cpp")))
+        .text(xmlText(installedPath("APISDK\\headers\\cpp")));
 }

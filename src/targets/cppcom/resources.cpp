@@ -26,7 +26,9 @@ static const char* const headerText = R"(//{{NO_DEPENDENCIES}}%2// Resource iden
 #endif
 )";
 
-static const char* const scriptText = R"(// Resource script of %1%2//
+// %1 is the line end, %2 to %4 are the numbers of the included texts, %5 is the project.
+
+static const char* const scriptText = R"(// Resource script of %5%1//
 #include "resource.h"
 
 #define APSTUDIO_READONLY_SYMBOLS
@@ -54,20 +56,20 @@ LANGUAGE LANG_ENGLISH, SUBLANG_ENGLISH_US
 // TEXTINCLUDE
 //
 
-1 TEXTINCLUDE
+%2 TEXTINCLUDE
 BEGIN
     "resource.h\0"
 END
 
-2 TEXTINCLUDE
+%3 TEXTINCLUDE
 BEGIN
     "#include ""winres.h""\r\n"
     "\0"
 END
 
-3 TEXTINCLUDE
+%4 TEXTINCLUDE
 BEGIN
-    "1 TYPELIB ""%1.tlb""\r\n"
+    "1 TYPELIB ""%5.tlb""\r\n"
     "\0"
 END
 
@@ -98,9 +100,9 @@ BEGIN
             VALUE "CompanyName", "TODO: <Company name>"
             VALUE "FileDescription", "TODO: <File description>"
             VALUE "FileVersion", "1.0.0.1"
-            VALUE "InternalName", "%1.dll"
+            VALUE "InternalName", "%5.dll"
             VALUE "LegalCopyright", "TODO: (c) <Company name>. All rights reserved."
-            VALUE "OriginalFilename", "%1.dll"
+            VALUE "OriginalFilename", "%5.dll"
             VALUE "ProductName", "TODO: <Product name>"
             VALUE "ProductVersion", "1.0.0.1"
         END
@@ -116,7 +118,7 @@ END
 // REGISTRY
 //
 
-IDR_%1 REGISTRY "%1.rgs"
+IDR_%5 REGISTRY "%5.rgs"
 IDR_IWADDINCONNECTION REGISTRY "IwAddinConnection.rgs"
 
 /////////////////////////////////////////////////////////////////////////////
@@ -126,7 +128,7 @@ IDR_IWADDINCONNECTION REGISTRY "IwAddinConnection.rgs"
 
 STRINGTABLE
 BEGIN
-    IDS_PROJNAME "%1"
+    IDS_PROJNAME "%5"
 END
 
 #endif    // English (U.S.) resources
@@ -137,7 +139,7 @@ END
 //
 // From the TEXTINCLUDE 3 resource
 //
-1 TYPELIB "%1.tlb"
+1 TYPELIB "%5.tlb"
 
 /////////////////////////////////////////////////////////////////////////////
 #endif    // not APSTUDIO_INVOKED
@@ -154,7 +156,7 @@ QString resourceHeader(const QString& name)
 QString resourceScript(const QString& name)
 {
     static const Template words(scriptText);
-    return Fill(&words).text(name).text(LineEnd);
+    return Fill(&words).text(LineEnd).number(1).number(2).number(3).text(name);
 }
 
 } // namespace inkmacro::cppcom

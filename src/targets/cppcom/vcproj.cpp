@@ -3,6 +3,7 @@
 #include "targets/Fill.h"
 #include "targets/LineEnd.h"
 #include "targets/cppcom/projectTexts.h"
+#include "targets/projectFiles.h"
 
 #include <QByteArray>
 
@@ -141,8 +142,9 @@ struct Word
 };
 
 static const Word platformWords[] = {
-    {"{platform}", "Win32", "x64"}, {"{folder}", "", "$(PlatformName)\\"},
-    {"{environment}", "1", "3"},    {"{debugFormat}", "4", "3"},
+    {"{platform}", "Win32", "x64"},
+    {"{folder}", "", "$(PlatformName)\\"},
+    {"{environment}", "1", "3"},
     {"{machine}", "1", "17"},
 };
 
@@ -158,6 +160,13 @@ static const Word configurationWords[] = {
     {"{incremental}", "2", "1"},
     {"{references}", "0", "2"},
 };
+
+/// Of the debug information: to edit and continue (/ZI) or only to debug (/Zi). The former is for x86 alone, and no
+/// compiler takes it together with the whole-program optimization of Release.
+static const char* debugFormat(bool x64, bool release)
+{
+    return x64 || release ? "3" : "4";
+}
 
 /// How the file takes part in the precompiled header; 0 is not at all.
 static const char* const fileConfiguration = R"(				<FileConfiguration
@@ -181,7 +190,7 @@ static QByteArray forEachConfiguration(const char* words)
                 one.replace(word.word, x64 ? word.second : word.first);
             for (const Word& word : configurationWords)
                 one.replace(word.word, release ? word.second : word.first);
-            all += one;
+            all += one.replace("{debugFormat}", debugFormat(x64, release));
         }
     }
     return all;
@@ -237,7 +246,7 @@ namespace inkmacro::cppcom {
 QString environmentProject(const QString& name, const QString& projectId)
 {
     static const Template words(project().constData());
-    return Fill(&words).text(name).text(LineEnd).text(projectId);
+    return Fill(&words).text(xmlText(name)).text(LineEnd).text(projectId);
 }
 
 } // namespace inkmacro::cppcom

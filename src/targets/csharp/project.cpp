@@ -85,7 +85,7 @@ QString CFxConverterIWAPICSharp::EmitProgramText(const QString& projectName)
 QString CFxConverterIWAPICSharp::EmitProjectText(const QString& projectName)
 {
     static const Template words((QByteArray(projectOpening) + comReference + projectClosing).constData());
-    return Fill(&words).text(projectName).text(LineEnd);
+    return Fill(&words).text(xmlText(projectName)).text(LineEnd);
 }
 
 std::int32_t CFxConverterIWAPICSharp::EmitProjectFiles(const QString& path)

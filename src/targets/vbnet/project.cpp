@@ -107,7 +107,7 @@ QString CFxConverterIWAPIVbNet::EmitProgramText(const QString& projectName)
 QString CFxConverterIWAPIVbNet::EmitProjectText(const QString& projectName)
 {
     static const Template words((QByteArray(projectOpening) + comReference + projectClosing).constData());
-    return Fill(&words).text(projectName).text(LineEnd);
+    return Fill(&words).text(xmlText(projectName)).text(LineEnd);
 }
 
 std::int32_t CFxConverterIWAPIVbNet::EmitProjectFiles(const QString& path)

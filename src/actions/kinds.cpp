@@ -1,0 +1,41 @@
+// Which handler a custom action goes to.
+
+#include "actions/kinds.h"
+
+namespace inkmacro {
+
+bool DataSignature::fits(const CFxCustomAction& action) const
+{
+    const std::int32_t count = action.GetDataCount();
+    if (count < count_ || (count > count_ && !open_))
+        return false;
+    for (std::int32_t i = 0; i < count_; ++i) {
+        const int type = types_[static_cast<std::size_t>(i)];
+        if (type != anyType && type != action.GetData(i).GetType())
+            return false;
+    }
+    return !word_ || (count > 0 && action.GetData(0).GetString().toQString().compare(word_, wordCase_) == 0);
+}
+
+ActionHandler HandlerOf(const CFxCustomAction& action)
+{
+    const std::int32_t number = action.GetKind();
+    const auto kind = std::ranges::find_if(actionKinds, [&](const ActionKind& candidate) {
+        return candidate.numbers.first <= number && number <= candidate.numbers.last;
+    });
+    if (kind == actionKinds.end())
+        return nullptr;
+    const std::span<const ActionForm> forms = kind->forms();
+    const auto form =
+        std::ranges::find_if(forms, [&](const ActionForm& candidate) { return candidate.data.fits(action); });
+    return form == forms.end() ? nullptr : form->handler;
+}
+
+} // namespace inkmacro
+
+/// The one place where an action is refused for its number or the form of its data.
+std::int32_t CFxConverterIWAPIImpl::ConvertCustomAction(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    const inkmacro::ActionHandler handler = inkmacro::HandlerOf(*action);
+    return handler ? (this->*handler)(std::move(action), text) : kFxFailure;
+}
