@@ -21,3 +21,4 @@ QString ReadNote(AddedObject& added);
 QString ReadTolerance(AddedObject& added);
 QString ReadLeader(AddedObject& added);
 QString ReadCurvedText(AddedObject& added);
+QString ReadHatch(AddedObject& added);
