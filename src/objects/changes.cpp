@@ -2,13 +2,13 @@
 
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
+#include "frame/StatementGroup.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
 #include "objects/targets/dimensionOptions.h"
 #include "objects/targets/references.h"
 #include "objects/targets/setters.h"
-#include "targets/blocks.h"
 
 #include <algorithm>
 
