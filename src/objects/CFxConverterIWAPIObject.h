@@ -114,6 +114,7 @@ private:
                           const CFxVariant& erased);
 
     std::map<OdDbObjectId, QString> addedVariableById;
+    OdDbHandle changedHandle; ///< of the object whose changes are being converted
     CFxConverterIWAPIImpl& driver;
     Writer& writer; ///< the driver's
 
