@@ -29,11 +29,13 @@ build: setup
 	cmake --build --preset $(PRESET) $(if $(JOBS),--parallel $(JOBS))
 
 demo: build
+	@rm -rf $(DEMO)
 	@mkdir -p $(DEMO)
-	$(BUILD)/bin/inkmacro convert examples/*.jsonl --target all --output $(DEMO)/
+	$(BUILD)/bin/inkmacro convert examples/*.jsonl --target all --output $(DEMO)/ > $(DEMO)/written.txt
 	@echo
-	@echo "The macros made from examples/*.jsonl, a folder a target, are in $(CURDIR)/$(DEMO):"
-	@ls -d $(DEMO)/*/
+	@echo "The macros and projects made from examples/*.jsonl are in $(CURDIR)/$(DEMO):"
+	@echo
+	@awk -F/ -f scripts/demo-table.awk $(DEMO)/written.txt
 
 test: build
 	ctest --preset $(PRESET)

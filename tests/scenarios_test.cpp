@@ -1,5 +1,11 @@
 // Whole recordings, each converted for each target and compared byte for byte with the files beside it.
 
+#include "app/OpenDrawing.h"
+#include "frame/CFxConverterIWAPI.h"
+#include "frame/RecordingState.h"
+#include "frame/counters.h"
+#include "recordfile/RecordingReader.h"
+#include "targets/Phrase.h"
 #include "targets/TargetTable.h"
 
 #include <gtest/gtest.h>
@@ -11,17 +17,27 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <set>
+#include <string_view>
+
+using namespace inkmacro;
+
 namespace {
 
 struct Scenario
 {
     QString folder;
-    std::string_view target;
+    const TargetRow* row;
+
+    QString name() const { return QDir(folder).dirName(); }
+    QString target() const { return QString::fromLatin1(row->name.data(), static_cast<int>(row->name.size())); }
+    QString recording() const { return folder + "/recording.jsonl"; }
 };
 
 void PrintTo(const Scenario& scenario, std::ostream* out)
 {
-    *out << QDir(scenario.folder).dirName().toStdString() << " in " << scenario.target;
+    *out << scenario.name().toStdString() << " in " << scenario.row->name;
 }
 
 std::vector<Scenario> scenarios()
@@ -29,8 +45,8 @@ std::vector<Scenario> scenarios()
     std::vector<Scenario> all;
     const QDir root(INKMACRO_SOURCE_DIR "/tests/scenarios");
     for (const QString& name : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
-        for (const inkmacro::TargetRow& row : inkmacro::targetTable)
-            all.push_back({root.filePath(name), row.name});
+        for (const TargetRow& row : targetTable)
+            all.push_back({root.filePath(name), &row});
     return all;
 }
 
@@ -86,11 +102,11 @@ class Scenarios : public testing::TestWithParam<Scenario>
 
 TEST_P(Scenarios, GiveTheExpectedFiles)
 {
-    const QString target = QString::fromLatin1(GetParam().target.data(), static_cast<int>(GetParam().target.size()));
+    const QString target = GetParam().target();
     const QTemporaryDir folder;
     QProcess program;
-    program.start(INKMACRO_PROGRAM, {"convert", GetParam().folder + "/recording.jsonl", "--target", target, "--output",
-                                     folder.path() + '/'});
+    program.start(INKMACRO_PROGRAM,
+                  {"convert", GetParam().recording(), "--target", target, "--output", folder.path() + '/'});
     ASSERT_TRUE(program.waitForFinished(60'000));
     ASSERT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
 
@@ -107,7 +123,58 @@ TEST_P(Scenarios, GiveTheExpectedFiles)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Scenarios, testing::ValuesIn(scenarios()), [](const auto& info) {
-    return QDir(info.param.folder).dirName().toStdString() + '_' + std::string(info.param.target);
+    return (info.param.name() + '_' + info.param.target()).toStdString();
 });
+
+/// Converts in this process, where the phrases tell which words were asked for, as if nothing had been converted in it.
+void convertHere(const Scenario& scenario)
+{
+    Recording recording;
+    const auto error = ReadRecording(scenario.recording(), recording);
+    ASSERT_FALSE(error) << error->text().toStdString();
+    const auto language = static_cast<std::uint32_t>(scenario.row->target);
+    GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
+    const auto sheet = recording.header.sheet.value_or(Recording::Sheet{});
+    RecordingSheetName = sheet.name;
+    RecordingInModel = sheet.model;
+    processCounters = {};
+    const OpenDrawing drawing(recording);
+    const QTemporaryDir folder;
+    const auto converter = CreateConverter(language, static_cast<std::uint32_t>(recording.header.mode), 0);
+    ASSERT_EQ(converter->Convert(folder.filePath("macro"), recording.actions), kFxSuccess);
+}
+
+/// Words that no recording can bring about, and why.
+struct Unreachable
+{
+    std::string_view phrase;
+    std::set<Target> targets;
+    const char* reason;
+};
+using enum Target;
+const std::set<Target> everyTarget{Cpp, CSharp, JavaScript, VbNet, CppCom, Vba};
+const Unreachable unreachable[]{
+    {"EmitCommandOptionInt32", everyTarget, "no option of a document is of that type"},
+    {"array of plane points", everyTarget, "no statement takes plane points"},
+    {"array of integers", {Cpp, VbNet, Vba}, "no statement takes plain integers"},
+    {"array of numbers", {JavaScript, VbNet, CppCom}, "selections alone fill one, and these targets have none"},
+};
+
+bool isReachable(const Phrase& phrase, Target target)
+{
+    return std::none_of(std::begin(unreachable), std::end(unreachable), [&](const Unreachable& row) {
+        return row.phrase == phrase.name() && row.targets.contains(target);
+    });
+}
+
+TEST(ScenarioPhrases, AreAllWritten)
+{
+    for (const Scenario& scenario : scenarios())
+        convertHere(scenario);
+    for (const Phrase* phrase : Phrase::all())
+        for (const TargetRow& row : targetTable)
+            EXPECT_EQ(phrase->used(row.target), phrase->has(row.target) && isReachable(*phrase, row.target))
+                << phrase->name() << " in " << row.name;
+}
 
 } // namespace

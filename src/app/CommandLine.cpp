@@ -245,10 +245,11 @@ Options of convert:
       The macro file, or a directory (it ends in / or exists): then a folder
       with the name of the target is made in it for each target, and the macro
       is named after the recording: walls.jsonl becomes PATH/csharp/walls.cs,
-      standard input PATH/csharp/recording.cs. Without this option the current
-      directory is taken. Existing files are overwritten, a recording that is
-      being read never. Macros in one folder share the start-up program: that
-      of the last one stays.
+      standard input PATH/csharp/recording.cs. Of several recordings each has
+      a folder of its own in front: PATH/walls/csharp/walls.cs. Without this
+      option the current directory is taken. Existing files are replaced when
+      the new ones are whole, and stay when a conversion fails or is broken
+      off; a recording that is being read is never replaced.
   --replay
       The macro stops where the recorded command asked its user something,
       offers the recorded answer, and sets the system variables that changed.
@@ -276,6 +277,7 @@ Exit status:
   2  wrong use: nothing was read or written
   3  a recording could not be read: nothing was written for it; or the file of
      --option-names could not: nothing was written at all
+  128 and its number when SIGINT, SIGTERM or SIGHUP ended the program
 )")
         .arg(targets);
 }

@@ -15,8 +15,8 @@ namespace inkmacro {
 class WrongUse : public std::runtime_error
 {
 public:
-    explicit WrongUse(const QString& message) : std::runtime_error(message.toStdString()) {}
-    QString message() const { return QString::fromUtf8(what()); }
+    explicit WrongUse(const QString& message) : std::runtime_error(message.toLocal8Bit().toStdString()) {}
+    QString message() const { return QString::fromLocal8Bit(what()); }
 };
 
 /// What the caller says of the host that `convert` plays.

@@ -1,6 +1,7 @@
 #include "app/ProgressLine.h"
 
 #include "app/console.h"
+#include "app/earlyEnd.h"
 
 #include <algorithm>
 #include <chrono>
@@ -29,8 +30,10 @@ int usableColumns()
 
 ProgressLine::ProgressLine(std::function<QString()> describe) : describe_(std::move(describe))
 {
-    if (isatty(STDERR_FILENO))
-        thread_ = std::thread([this] { run(); });
+    if (!isatty(STDERR_FILENO))
+        return;
+    const SignalPause pause; // the thread has nothing to end
+    thread_ = std::thread([this] { run(); });
 }
 
 ProgressLine::~ProgressLine()

@@ -59,6 +59,8 @@ void complain(const QString& message)
 int finishOutput(int status)
 {
     noteOutputError(std::fflush(stdout) != 0);
+    // Some file systems find out only here that the disk is full.
+    noteOutputError(close(STDOUT_FILENO) != 0);
     if (outputError == 0 || outputError == EPIPE)
         return status;
     complain("standard output: " + qt_error_string(outputError));

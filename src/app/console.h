@@ -17,8 +17,8 @@ void printOut(const QString& text);
 void printError(const QByteArray& bytes);
 void complain(const QString& message);
 
-/// Sends the rest of standard output on its way. Gives `status`, raised to kFailed with a message when output was lost;
-/// a reader who closed the pipe has seen enough and is no failure.
+/// Sends the rest of standard output on its way and closes it. Gives `status`, raised to kFailed with a message when
+/// output was lost; a reader who closed the pipe has seen enough and is no failure.
 int finishOutput(int status);
 
 } // namespace inkmacro

@@ -6,14 +6,14 @@
 #include "app/LoadedModule.h"
 #include "app/OpenDrawing.h"
 #include "app/ProgressLine.h"
+#include "app/StagedResult.h"
 #include "app/console.h"
+#include "app/earlyEnd.h"
 #include "app/reading.h"
-#include "app/turns.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxRegistry.h"
 #include "host/kernel/CFxServices.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 namespace inkmacro {
@@ -35,7 +35,7 @@ void repeatFirstSnapshot(LoadedModule& module, const Recording::Sheet& sheet)
     module->TakeSnapshot(layout.get(), records);
 }
 
-std::int32_t runModule(const Job& job, const Recording& recording, const HostSettings& host)
+std::int32_t runModule(const Job& job, const QString& macro, const Recording& recording, const HostSettings& host)
 {
     LoadedModule module;
     const auto code = static_cast<std::uint32_t>(job.target->target);
@@ -47,68 +47,68 @@ std::int32_t runModule(const Job& job, const Recording& recording, const HostSet
         repeatFirstSnapshot(module, *recording.header.sheet);
 
     const OpenDrawing drawing(recording);
-    const ProgressLine line([&] { return "writing " + megabytes(QFileInfo(job.macro).size()); });
+    const ProgressLine line([&] { return "writing " + megabytes(QFileInfo(macro).size()); });
     const int mode = host.replay ? kReplay : recording.header.mode;
-    return module->ConvertRecording(job.macro, code, static_cast<std::uint32_t>(mode),
+    return module->ConvertRecording(macro, code, static_cast<std::uint32_t>(mode),
                                     static_cast<CFxValueContext>(recording.header.context), recording.actions);
 }
 
-void printWritten(const Job& job)
+/// The file that a failure is about: the macro, or when that has been written, the first one of the project that has
+/// not.
+QString failedFile(const Job& job, const StagedResult& result)
 {
-    for (const QString& file : QStringList(job.macro) + job.projectFiles())
-        if (QFileInfo::exists(file))
-            printOut(file + '\n');
-}
-
-/// A part of a project file is worse than none. False when there was one.
-bool removeIncompleteFiles()
-{
-    const std::vector<CFxString>& files = GetFxSystemServices()->GetIncompleteFiles();
-    for (const CFxString& file : files) {
-        QFile::remove(file);
-        complain(QString("%1 could not be written whole and was removed").arg(QDir::cleanPath(file)));
-    }
-    return files.empty();
-}
-
-/// The file that a failure is about: the macro, or when that stands, the first file of the project which cannot be
-/// opened.
-QString failedFile(const Job& job)
-{
-    if (!QFileInfo(job.macro).isFile())
-        return job.macro;
-    for (const QString& name : job.projectFiles()) {
-        QFile file(name);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly))
-            return name;
-    }
+    for (const QString& file : job.files())
+        if (!result.has(file))
+            return file;
     return job.macro;
+}
+
+/// Whether the module had files which could be opened but not filled; they are named.
+bool complainOfIncompleteFiles(const Job& job)
+{
+    const std::vector<CFxString>& incomplete = GetFxSystemServices()->GetIncompleteFiles();
+    const QString directory = job.macro.left(job.macro.lastIndexOf('/') + 1);
+    for (const CFxString& file : incomplete)
+        complain(directory + QFileInfo(file).fileName() + " could not be written whole");
+    return !incomplete.empty();
+}
+
+int convertRead(const Job& job, const Recording& recording, const HostSettings& host)
+{
+    StagedResult result(job);
+    const std::int32_t status = runModule(job, result.macro(), recording, host);
+    if (status != kFxSuccess) {
+        complain(QString("conversion to %1 failed with status %2: %3")
+                     .arg(targetName(*job.target))
+                     .arg(status)
+                     .arg(failedFile(job, result)));
+        return kFailed;
+    }
+    if (complainOfIncompleteFiles(job))
+        return kFailed;
+    for (const QString& file : result.place())
+        printOut(file + '\n');
+    return kDone;
 }
 
 } // namespace
 
 int convertOne(const Job& job, const HostSettings& host)
 {
+    nameWork(QString("converting %1 to %2").arg(job.input, targetName(*job.target)));
     Recording recording;
     if (!readOrComplain(job.input, recording))
         return kUnreadable;
-    waitForTurn();
-    if (const QString refusal = refusalOf(job.macro); !refusal.isEmpty()) {
+    if (const QString refusal = refusalOf(job); !refusal.isEmpty()) {
         complain(refusal);
         return kFailed;
     }
     try {
-        const std::int32_t status = runModule(job, recording, host);
-        if (status == kFxSuccess && removeIncompleteFiles()) {
-            printWritten(job);
-            return kDone;
-        }
-        if (status == kFxSuccess)
-            return kFailed;
-        complain(QString("conversion to %1 failed with status %2: %3")
-                     .arg(targetName(*job.target))
-                     .arg(status)
-                     .arg(failedFile(job)));
+        return convertRead(job, recording, host);
+    } catch (const PlacingError& error) {
+        complain(error.message());
+    } catch (const std::bad_alloc&) {
+        endWithoutMemory();
     } catch (const std::exception& error) {
         complain(QString("conversion to %1 failed: %2: %3")
                      .arg(targetName(*job.target), QString::fromUtf8(error.what()), job.macro));

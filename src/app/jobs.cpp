@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <map>
+#include <utility>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -38,8 +39,7 @@ bool isDirectory(const QString& path)
 
 QString macroPath(const QString& directory, const QString& input, const TargetRow& row)
 {
-    const QString prefix = directory.isEmpty() || directory.endsWith('/') ? directory : directory + '/';
-    return prefix + targetName(row) + '/' + baseNameOf(input) + '.' + latin(row.extension);
+    return directory + targetName(row) + '/' + baseNameOf(input) + '.' + latin(row.extension);
 }
 
 QString identity(const struct stat& found)
@@ -72,9 +72,12 @@ std::vector<Job> listJobs(const CommandLine& line)
     std::vector<Job> jobs;
     const QString output = line.output.value_or(QString());
     const bool intoDirectory = output.isEmpty() || isDirectory(output);
-    for (const QString& input : line.files)
+    const QString directory = output.isEmpty() || output.endsWith('/') ? output : output + '/';
+    for (const QString& input : line.files) {
+        const QString own = line.files.size() > 1 ? directory + baseNameOf(input) + '/' : directory;
         for (const TargetRow* row : line.targets)
-            jobs.push_back({input, row, intoDirectory ? macroPath(output, input, *row) : output});
+            jobs.push_back({input, row, intoDirectory ? macroPath(own, input, *row) : output, {}});
+    }
     if (!intoDirectory && jobs.size() > 1)
         throw WrongUse(QString("%1 results cannot all be %2; a directory is needed, with / at its end")
                            .arg(jobs.size())
@@ -105,9 +108,21 @@ void checkInputs(const std::vector<Job>& jobs, const CommandLine& line)
     if (line.host.optionNames)
         places.emplace(placeOf(*line.host.optionNames), "the names of options in " + *line.host.optionNames);
     for (const Job& job : jobs)
-        for (const QString& output : QStringList(job.macro) + job.projectFiles())
+        for (const QString& output : job.files())
             if (const auto input = places.find(placeOf(output)); input != places.end())
                 throw WrongUse(QString("%1 would overwrite %2").arg(output, input->second));
+}
+
+/// Two jobs meet in a file only when the user made one folder of theirs a link to another.
+void orderJobs(std::vector<Job>& jobs)
+{
+    std::map<QString, std::size_t> lastWriter;
+    for (std::size_t i = 0; i < jobs.size(); ++i)
+        for (const QString& file : jobs[i].files()) {
+            const auto [writer, fresh] = lastWriter.emplace(placeOf(file), i);
+            if (!fresh)
+                jobs[i].behind.push_back(std::exchange(writer->second, i));
+        }
 }
 
 } // namespace
@@ -127,15 +142,8 @@ std::vector<Job> planJobs(const CommandLine& line)
     std::vector<Job> jobs = listJobs(line);
     checkInputs(jobs, line);
     checkMacros(jobs);
+    orderJobs(jobs);
     return jobs;
-}
-
-QString refusalOf(const QString& macro)
-{
-    struct stat found = {};
-    if (stat(QFile::encodeName(macro).constData(), &found) != 0 || S_ISREG(found.st_mode))
-        return {};
-    return macro + " exists and is not a regular file";
 }
 
 } // namespace inkmacro

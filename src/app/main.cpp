@@ -4,6 +4,8 @@
 #include "app/ExitStatus.h"
 #include "app/console.h"
 #include "app/conversion.h"
+#include "app/earlyEnd.h"
+#include "app/fileNames.h"
 #include "app/inspection.h"
 #include "app/optionNames.h"
 #include "app/processes.h"
@@ -13,24 +15,10 @@
 #include "recordfile/RecordingSchema.h"
 
 #include <QCoreApplication>
-#include <QTextCodec>
-
-#include <clocale>
-#include <cstring>
-
-#include <langinfo.h>
 
 using namespace inkmacro;
 
 namespace {
-
-/// In the C locale, which is that of many a build machine, Qt would lose every letter of a file name that is not ASCII.
-void useUnicodeNames()
-{
-    std::setlocale(LC_CTYPE, "");
-    if (std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-}
 
 int convert(const CommandLine& line)
 {
@@ -74,6 +62,8 @@ int runOrComplain(int argc, const char* const* argv)
     } catch (const WrongUse& wrong) {
         complain(wrong.message() + "\nTry 'inkmacro --help'.");
         return kWrongUse;
+    } catch (const std::bad_alloc&) {
+        endWithoutMemory();
     } catch (const std::exception& error) {
         complain(QString::fromUtf8(error.what()));
         return kFailed;
@@ -85,7 +75,8 @@ int runOrComplain(int argc, const char* const* argv)
 int main(int argc, char** argv)
 {
     prepareStreams();
-    useUnicodeNames();
+    prepareEarlyEnd();
+    useByteExactNames();
     const std::vector<const char*> arguments(argv, argv + argc);
     const QCoreApplication application(argc, argv);
     return finishOutput(runOrComplain(static_cast<int>(arguments.size()), arguments.data()));

@@ -4,46 +4,68 @@
 
 #include "app/ExitStatus.h"
 #include "app/ProgressLine.h"
+#include "app/StagedResult.h"
 #include "app/console.h"
-#include "app/turns.h"
+#include "app/earlyEnd.h"
 #include "recordfile/RecordingReader.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryFile>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cerrno>
-#include <map>
+#include <csignal>
 #include <memory>
 #include <thread>
 #include <utility>
 
+#include <fcntl.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace inkmacro {
 
 namespace {
 
+/// Ends when this process does, however it does.
 class JobProcess final : public QProcess
 {
-public:
-    std::unique_ptr<Turn> turn; ///< null for a process that need not wait
-
 protected:
     void setupChildProcess() override
     {
-        if (turn)
-            turn->inherit();
+        prctl(PR_SET_PDEATHSIG, SIGTERM);
+        if (getppid() != parent_)
+            _exit(kFailed);
     }
+
+private:
+    const pid_t parent_ = getpid();
 };
 
-class JobRunner
+/// Whether there are descriptors for one more process: else the errno. QProcess would give a wrong reason.
+int lackOfDescriptors()
+{
+    std::array<int, 12> probes = {};
+    for (int& probe : probes)
+        probe = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0);
+    const int error = probes.back() < 0 ? errno : 0;
+    for (const int probe : probes)
+        if (probe >= 0)
+            close(probe);
+    return error;
+}
+
+class JobRunner final : private EarlyEnd
 {
 public:
     JobRunner(const std::vector<Job>& jobs, const HostSettings& host);
+    ~JobRunner() { endWatch(); }
 
     int run();
 
@@ -51,9 +73,10 @@ private:
     struct State
     {
         std::unique_ptr<JobProcess> process;
-        std::size_t before = 0; ///< one more than the number of the job that must have written; 0 when there is none
+        std::atomic<pid_t> processId = 0; ///< while the process runs
         QByteArray output;
         QByteArray messages;
+        bool begun = false;
         bool done = false;
         bool unreadable = false;
     };
@@ -63,20 +86,22 @@ private:
     QString keptInput();
     void refuse(std::size_t number, const QByteArray& message, int status);
     void startSome();
-    /// Whether an earlier job has yet to write a file that this one writes too.
-    bool mustWait(State& state) const;
+    bool mayStart(std::size_t number) const;
     void start(std::size_t number);
     QStringList argumentsOf(const Job& job) const;
+    void couldNotStart(std::size_t number, const QString& reason);
     void ended(std::size_t number, bool crashed);
+    std::unique_ptr<JobProcess, void (*)(JobProcess*)> release(State& state);
     void finish(std::size_t number, int status);
     void passOn();
+    void endEarly(int signal) noexcept override;
 
     const std::vector<Job>& jobs_;
     const HostSettings& host_;
     std::vector<State> states_;
     QTemporaryFile standardInput_;
     QEventLoop loop_;
-    std::size_t next_ = 0;
+    std::size_t next_ = 0; ///< all jobs in front of it have begun
     std::size_t passedOn_ = 0;
     std::pair<QString, QByteArray> lastComplaint_; ///< the recording that could not be read, and why
     unsigned running_ = 0;
@@ -91,13 +116,7 @@ JobRunner::JobRunner(const std::vector<Job>& jobs, const HostSettings& host)
           return progressBar(doneCount_, total) + QString("  %1 of %2 done").arg(doneCount_).arg(total);
       })
 {
-    std::map<QString, std::size_t> lastWriter;
-    for (std::size_t i = 0; i < jobs_.size(); ++i)
-        for (const QString& file : jobs_[i].projectFiles()) {
-            std::size_t& writer = lastWriter[file];
-            states_[i].before = std::max(states_[i].before, writer);
-            writer = i + 1;
-        }
+    beginWatch();
 }
 
 int JobRunner::run()
@@ -112,6 +131,7 @@ int JobRunner::run()
     startSome();
     if (passedOn_ < jobs_.size())
         loop_.exec();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return status_;
 }
 
@@ -148,19 +168,17 @@ void JobRunner::refuse(std::size_t number, const QByteArray& message, int status
 void JobRunner::startSome()
 {
     const unsigned most = std::max(1U, std::thread::hardware_concurrency());
-    while (next_ < jobs_.size() && running_ < most) {
-        const std::size_t number = next_++;
-        if (!states_[number].done)
+    for (std::size_t number = next_; number < jobs_.size() && running_ < most; ++number)
+        if (!states_[number].begun && mayStart(number))
             start(number);
-    }
+    while (next_ < jobs_.size() && states_[next_].begun)
+        ++next_;
 }
 
-/// A job may end before its own turn came, when its recording cannot be read; then the one in front of it counts.
-bool JobRunner::mustWait(State& state) const
+bool JobRunner::mayStart(std::size_t number) const
 {
-    while (state.before > 0 && states_[state.before - 1].done)
-        state.before = states_[state.before - 1].before;
-    return state.before > 0;
+    const auto done = [this](std::size_t earlier) { return states_[earlier].done; };
+    return std::all_of(jobs_[number].behind.begin(), jobs_[number].behind.end(), done);
 }
 
 void JobRunner::start(std::size_t number)
@@ -168,30 +186,30 @@ void JobRunner::start(std::size_t number)
     State& state = states_[number];
     const Job& job = jobs_[number];
     // The process would take a directory at that path for a place to put results in.
-    if (const QString refusal = refusalOf(job.macro); !refusal.isEmpty()) {
+    if (const QString refusal = refusalOf(job); !refusal.isEmpty()) {
         refuse(number, ("inkmacro: " + refusal + '\n').toLocal8Bit(), kFailed);
         return;
     }
 
+    if (const int error = lackOfDescriptors()) {
+        couldNotStart(number, qt_error_string(error));
+        return;
+    }
+
+    state.begun = true;
     state.process = std::make_unique<JobProcess>();
     JobProcess& process = *state.process;
-    if (mustWait(state)) {
-        process.turn = std::make_unique<Turn>();
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(Turn::variable(), QString::number(process.turn->descriptor()));
-        process.setProcessEnvironment(environment);
-    }
     process.setStandardInputFile(job.input == "-" ? keptInput() : QProcess::nullDevice());
     QObject::connect(&process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished),
                      [this, number](int, QProcess::ExitStatus how) { ended(number, how == QProcess::CrashExit); });
     QObject::connect(&process, &QProcess::errorOccurred, [this, number](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart)
-            ended(number, true);
+        if (error == QProcess::FailedToStart && states_[number].process)
+            couldNotStart(number, states_[number].process->errorString());
     });
     ++running_;
+    const SignalPause pause;
     process.start(QCoreApplication::applicationFilePath(), argumentsOf(job));
-    if (process.turn)
-        process.turn->started();
+    state.processId = static_cast<pid_t>(process.processId());
 }
 
 QStringList JobRunner::argumentsOf(const Job& job) const
@@ -201,24 +219,48 @@ QStringList JobRunner::argumentsOf(const Job& job) const
     return arguments << "--" << job.input;
 }
 
+/// Null when it was released before.
+std::unique_ptr<JobProcess, void (*)(JobProcess*)> JobRunner::release(State& state)
+{
+    state.processId = 0;
+    if (state.process)
+        --running_;
+    // Its signal is still under way.
+    return {state.process.release(), [](JobProcess* process) { process->deleteLater(); }};
+}
+
+/// The next one could not be started either, so this is the end for all that wait.
+void JobRunner::couldNotStart(std::size_t number, const QString& reason)
+{
+    states_[number].begun = true;
+    release(states_[number]);
+    const auto waiting = std::count_if(states_.begin(), states_.end(), [](const State& s) { return !s.begun; });
+    QString message = QString("inkmacro: no process can be started for %1: %2").arg(jobs_[number].macro, reason);
+    if (waiting > 0)
+        message += QString(", nor for the %1 behind it").arg(waiting);
+    refuse(number, (message + '\n').toLocal8Bit(), kFailed);
+    for (std::size_t i = 0; i < states_.size(); ++i)
+        if (!states_[i].begun)
+            refuse(i, {}, kFailed);
+}
+
 void JobRunner::ended(std::size_t number, bool crashed)
 {
     State& state = states_[number];
-    JobProcess* const process = state.process.release();
+    const auto process = release(state);
     if (!process)
         return;
-    // Its signal is still under way.
-    process->deleteLater();
-    --running_;
 
     state.output = process->readAllStandardOutput();
     state.messages += process->readAllStandardError();
     int status = process->exitCode();
-    if (crashed) {
+    if (crashed || status > kUnreadable) {
+        const QString reason = crashed ? process->errorString() : QString("ended with status %1").arg(status);
         state.messages += QString("inkmacro: conversion to %1 came to no end: %2: %3\n")
-                              .arg(targetName(*jobs_[number].target), process->errorString(), jobs_[number].macro)
+                              .arg(targetName(*jobs_[number].target), reason, jobs_[number].macro)
                               .toLocal8Bit();
         status = kFailed;
+        removeDeadStaging(QFile::encodeName(QFileInfo(jobs_[number].macro).path()).toStdString());
     }
     finish(number, status == kDone || status == kUnreadable ? status : kFailed);
     startSome();
@@ -226,13 +268,11 @@ void JobRunner::ended(std::size_t number, bool crashed)
 
 void JobRunner::finish(std::size_t number, int status)
 {
+    states_[number].begun = true;
     states_[number].done = true;
     states_[number].unreadable = status == kUnreadable;
     status_ = std::max(status_, status);
     ++doneCount_;
-    for (State& state : states_)
-        if (state.process && state.process->turn && !mustWait(state))
-            state.process->turn->come();
     passOn();
 }
 
@@ -256,6 +296,16 @@ void JobRunner::passOn()
     });
     if (passedOn_ == states_.size())
         loop_.quit();
+}
+
+void JobRunner::endEarly(int signal) noexcept
+{
+    for (State& state : states_)
+        if (state.processId > 0)
+            kill(state.processId, signal);
+    for (State& state : states_)
+        while (state.processId > 0 && waitpid(state.processId, nullptr, 0) == -1 && errno == EINTR) {
+        }
 }
 
 } // namespace

@@ -225,7 +225,7 @@ QString realLine(const ArrayPlace& place, std::size_t index, double value, Numbe
 // and the coordinates; in COM the number of the locals stands last.
 
 static const Phrase point2d{
-    "array of points",
+    "array of plane points",
     {
         .cpp = "%1%3.add(%4);%3.add(%5);%2",
         .cppCom = "%1x=%6; y=%7;%2"

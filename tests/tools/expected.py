@@ -3,8 +3,12 @@
 A call is (object, operation, arguments). An object is named by the way to it, such as app.GetActiveDocument().
 """
 
-import decimal
+import itertools
 import json
+import math
+
+import harness
+import interface
 
 DOCUMENT = "app.GetActiveDocument()"
 MODEL = f"{DOCUMENT}.GetModel()"
@@ -13,90 +17,10 @@ MODEL = f"{DOCUMENT}.GetModel()"
 REFUSED_KINDS = {24, 25, 51, 52, 53, 54}
 
 
-def _number(properties, tag, default):
-    for record in properties:
-        if record["tag"] == tag:
-            value = record["value"]
-            return float(value["double"] if isinstance(value, dict) else value)
-    return default
+def _value(properties, tag):
+    return next((record["value"] for record in properties if record["tag"] == tag), None)
 
 
-def _point(properties, name):
-    return [_number(properties, f"{name} {axis}", 0.0) for axis in "XYZ"]
-
-
-def _two_points(first, second):
-    return lambda properties: _point(properties, first) + _point(properties, second)
-
-
-def _circle(properties):
-    return _point(properties, "Center") + [_number(properties, "Radius", 1.0)]
-
-
-def _arc(properties):
-    return _circle(properties) + [_number(properties, f"{which} Angle", 0.0) for which in ("Start", "End")]
-
-
-def _ellipse(properties):
-    """Both ends of the major axis without their Z, and no angles when it is whole."""
-    center, vector = _point(properties, "Center"), _point(properties, "Major axis vector")
-    values = [c + v for c, v in zip(center[:2], vector)] + [c - v for c, v in zip(center[:2], vector)]
-    values.append(_number(properties, "Minor radius", 1.0))
-    angles = [_number(properties, f"{which} angle", 0.0) for which in ("Start", "End")]
-    return values if angles == [0.0, 6.283185307179586] else values + angles
-
-
-def _value(properties, tag, default=None):
-    return next((record["value"] for record in properties if record["tag"] == tag), default)
-
-
-def _simple_note(properties):
-    return _point(properties, "Position") + [_number(properties, "Height", 2.5), _number(properties, "Rotation", 0.0),
-                                             _value(properties, "Contents", "")]
-
-
-def _note(properties):
-    """The corners of its box, which lies around the position as the attachment says."""
-    x, y, z = _point(properties, "Position")
-    column = row = width = height = 0.0
-    if attachment := _value(properties, "Justify"):
-        row, column = (part / 2.0 for part in divmod(attachment["collection"]["chosen"], 3))
-        width, height = _number(properties, "Width", 0.0), _number(properties, "TextBoxHeight", 0.0)
-    left, top = x - column * width, y + row * height
-    return [left, top, z, left + width, top - height, z, [_value(properties, "Contents", "")]]
-
-
-def _tolerance(properties):
-    return [_point(properties, "Position"), _value(properties, "Content", "")]
-
-
-def _leader(properties):
-    points = [vertex["value"]["point"] for vertex in _value(properties, "Vertex")["collection"]["elements"]]
-    return [[float(value) for point in points for value in point], _number(properties, "width", 0.0),
-            _value(properties, "content", "")]
-
-
-# The class, the operations that insert it by the number of their arguments, and the arguments.
-CURVES = {
-    "AcDbLine": ({6: "InsertLine"}, _two_points("Start", "End")),
-    "AcDbCircle": ({4: "InsertCircle"}, _circle),
-    "AcDbPoint": ({3: "InsertPoint"}, lambda properties: _point(properties, "Position")),
-    "AcDbRay": ({6: "InsertRay"}, _two_points("Base point", "Second point")),
-    "AcDbArc": ({6: "InsertArc"}, _arc),
-    "AcDbXline": ({6: "InsertInfiniteLine"}, _two_points("Base point", "Second point")),
-    "AcDbEllipse": ({5: "InsertEllipseDistanceToOtherAxis", 7: "InsertEllipseArcDistanceToOtherAxis"}, _ellipse),
-}
-TEXTS = {
-    "AcDbText": ({6: "InsertSimpleNote"}, _simple_note),
-    "AcDbMText": ({7: "InsertNote"}, _note),
-    "AcDbFcf": ({2: "InsertTolerance"}, _tolerance),
-    "AcDbLeader": ({3: "InsertLeader"}, _leader),
-}
-INSERTED = {**CURVES, **TEXTS}
-INSERTIONS = {name for names, _ in INSERTED.values() for name in names.values()}
-# What an insertion gives, where the operation's name does not tell.
-RESULTS = {"InsertArc": "CircleArc", "InsertEllipseDistanceToOtherAxis": "EllipseArc",
-           "InsertEllipseArcDistanceToOtherAxis": "EllipseArc"}
 CHANGES = {"put_Erased", "put_Layer"}
 # The custom action that erases its objects.
 ERASING = 17
@@ -111,43 +35,99 @@ def _actions(recording):
             yield action
 
 
-def _written(value):
-    """As a macro writes it: with 14 decimals, the half rounded up."""
-    if isinstance(value, list):
-        return [_written(element) for element in value]
-    if isinstance(value, str):
-        return value
-    digits = decimal.Decimal("1e-14")
-    with decimal.localcontext() as context:
-        context.prec = 400
-        return float(decimal.Decimal(value).quantize(digits, rounding=decimal.ROUND_HALF_UP))
+def _leaves(value, place):
+    """The texts and numbers within a value, each under its place."""
+    if isinstance(value, (dict, list)):
+        for key, part in value.items() if isinstance(value, dict) else enumerate(value):
+            yield from _leaves(part, f"{place} {key}")
+    elif isinstance(value, (int, float, str)) and not isinstance(value, bool):
+        yield place, value
+
+
+def _recorded(properties):
+    """What was recorded of an object: texts and numbers by the place of their first record."""
+    leaves = {}
+    for record in properties:
+        for place, leaf in _leaves(record["value"], record["tag"]):
+            leaves.setdefault(place.removesuffix(" double"), leaf)
+    return leaves
+
+
+def _same(argument, value):
+    """Texts without their backslashes, which a macro leaves as they are and JavaScript drops; numbers as a macro writes
+    them, with 14 decimals."""
+    if isinstance(argument, str) or isinstance(value, str):
+        return isinstance(argument, type(value)) and argument.replace("\\", "") == value.replace("\\", "")
+    return math.isclose(argument, value, rel_tol=1e-15, abs_tol=1e-14)
+
+
+class Sources:
+    """Which recorded properties the arguments of insertions come from. That is nowhere said: an argument must have one
+    source that accounts for its value in all objects, a property or else a property and a share of another one. The
+    share is the same in all objects of which the same choice was recorded, such as a justification. For objects that
+    lack the property the host has one value."""
+
+    SHARES = (0.0, 0.5, -0.5, 1.0, -1.0)
+
+    def __init__(self):
+        self._seen = {}
+
+    def add(self, cls, operation, arguments, properties):
+        recorded = _recorded(properties)
+        for place, argument in _leaves(arguments, ""):
+            self._seen.setdefault((cls, operation, place), []).append((argument, recorded))
+
+    @staticmethod
+    def _told(seen, name):
+        """The objects that have the property; none when the others have more than one value."""
+        others = {argument for argument, recorded in seen if name not in recorded}
+        return [one for one in seen if name in one[1]] if len(others) < 2 else []
+
+    def _is_source(self, seen, name):
+        told = self._told(seen, name)
+        return bool(told) and all(_same(argument, recorded[name]) for argument, recorded in told)
+
+    def _are_source(self, seen, name, shared):
+        shares = {}
+        for argument, recorded in self._told(seen, name):
+            whole, part = recorded[name], recorded.get(shared, 0)
+            if any(isinstance(value, str) for value in (argument, whole, part)):
+                return False
+            choice = tuple((place, leaf) for place, leaf in recorded.items() if place.endswith(" chosen"))
+            fitting = {share for share in self.SHARES if _same(argument, whole + share * part)}
+            shares[choice] = shares.get(choice, fitting) & fitting
+        return bool(shares) and all(shares.values())
+
+    def complaints(self):
+        for (cls, operation, place), seen in self._seen.items():
+            names = {name for _, recorded in seen for name in recorded}
+            if not any(self._is_source(seen, name) for name in names) and not any(
+                    self._are_source(seen, *pair) for pair in itertools.permutations(names, 2)):
+                yield f"{operation}: argument{place} has no one source in the records of {cls}"
 
 
 class _Objects:
     """The insertions of a recording, and the changes of what it inserts. Nothing without a sketch manager: such
-    statements are known to be rejected."""
+    statements are known to be rejected. An insertion's arguments are the record's properties."""
 
-    def __init__(self, recording, manager):
+    def __init__(self, recording, manager, inserted):
         records = [line["object"] for line in recording if "object" in line]
         self._layers = {record["handle"]: record.get("name", "") for record in records
                         if record["class"] == "AcDbLayerTableRecord"}
         # A leader brings its note with it.
         self._annotations = {record["handle"] for record in records if record["class"] == "AcDbMText"
                              and record.get("reactors")}
-        self._manager, self._counts = manager, {}
+        self._inserted, self._manager, self._counts = inserted, manager, {}
         self.ways, self.calls = {}, []
         for action in _actions(recording) if manager else ():
             for kind in {"added", "modified", "custom"} & action.keys():
                 getattr(self, kind)(action[kind])
 
     def added(self, record):
-        if record["class"] not in INSERTED or record["handle"] in self._annotations:
+        result = self._inserted.get(record["class"])
+        if not result or record["handle"] in self._annotations:
             return
-        names, arguments_of = INSERTED[record["class"]]
-        arguments = arguments_of(record["properties"])
-        name = names[len(arguments)]
-        self.calls.append((self._manager, name, _written(arguments)))
-        result = RESULTS.get(name, name.removeprefix("Insert"))
+        self.calls.append((self._manager, record["class"], record["properties"]))
         self._counts[result] = self._counts.get(result, 0) + 1
         self.ways[record["handle"]] = f"{result}#{self._counts[result]}"
         self.modified(record)
@@ -192,14 +172,6 @@ def _csharp_frame(in_model, sheet):
 FRAMES = {"javascript": _page_frame, "csharp": _csharp_frame}
 
 
-def _comparable(call):
-    """A macro leaves the backslashes of a note's text as they are, and JavaScript drops them."""
-    on, name, arguments = call
-    if name == "InsertNote":
-        arguments = arguments[:-1] + [[text.replace("\\", "") for text in arguments[-1]]]
-    return on, name, arguments
-
-
 def _show(call):
     on, name, arguments = call
     return f"{on}.{name}({', '.join(map(str, arguments))})"
@@ -219,6 +191,12 @@ class Comparison:
 
     def __init__(self, target):
         self._frame = FRAMES[target]
+        known = interface.read(harness.STUBS / "interface.txt", target)
+        self._inserted = {cls.drawn: cls.name for cls in known.classes.values() if cls.drawn}
+        results = {name: drawn for drawn, name in self._inserted.items()}
+        self._insertions = {operation.name: results[operation.result]
+                            for operation in known.classes["SketchManager"].operations if operation.result in results}
+        self._sources = Sources()
         self.complaints = []
         self.objects = 0
 
@@ -231,16 +209,25 @@ class Comparison:
         in_model = sheet.get("model", True)
         frame, manager = self._frame(in_model, sheet.get("name", ""))
         faults = _first_difference(frame, calls[:len(frame)], "call of the frame")
-        objects = _Objects(recording, manager)
+        objects = _Objects(recording, manager, self._inserted)
         ways = set(objects.ways.values())
         seen = [call for call in calls[len(frame):]
-                if call[1] in INSERTIONS or call[1] in CHANGES and call[0] in ways]
-        faults += _first_difference(list(map(_comparable, objects.calls)), list(map(_comparable, seen)),
-                                    "insertion or change")
+                if call[1] in self._insertions or call[1] in CHANGES and call[0] in ways]
+        self._compare(objects.calls, seen, faults)
         self.objects += len(objects.ways)
         self.complaints += [f"{macro.name}: {fault}" for fault in faults]
 
+    def _compare(self, wanted, seen, faults):
+        """An insertion counts as the class that it inserts; its arguments are left to the sources."""
+        classes = [(on, self._insertions.get(name, name), arguments) for on, name, arguments in seen]
+        for number, ((_, operation, arguments), (on, cls, properties)) in enumerate(zip(seen, wanted)):
+            if (on, cls) == classes[number][:2] and cls in self._inserted:
+                self._sources.add(cls, operation, arguments, properties)
+                classes[number] = wanted[number]
+        faults += _first_difference(wanted, classes, "insertion or change")
+
     def summary(self):
+        self.complaints += self._sources.complaints()
         if not self.objects:
             self.complaints.append("no recording holds an object")
         return f"{self.objects} objects compared"

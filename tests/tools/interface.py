@@ -30,6 +30,7 @@ class Property:
 class Class:
     name: str
     base: str  # empty: none
+    drawn: str  # the drawing's class whose added objects are inserted as it; empty: none
     operations: list
     properties: list
 
@@ -50,7 +51,7 @@ class BadLine(Exception):
     pass
 
 
-_CLASS = re.compile(r"(\w+)(?: : (\w+))?$")
+_CLASS = re.compile(r"(\w+)(?: : (\w+))?(?: = (\w+))?$")
 _ENUM = re.compile(r"enum (\w+)$")
 _OPERATION = re.compile(r"(\w+)\((.*)\)(?: ([\w\[\]]+))?$")
 _PROPERTY = re.compile(r"(\w+): ([\w\[\]]+)$")
@@ -109,7 +110,7 @@ def read(path, target):
             elif match := _CLASS.match(text):
                 if match[2] and match[2] not in interface.classes:
                     raise BadLine(f"the base {match[2]} has to stand in front of {match[1]}")
-                cls = interface.classes.setdefault(match[1], Class(match[1], match[2] or "", [], []))
+                cls = interface.classes.setdefault(match[1], Class(match[1], match[2] or "", match[3] or "", [], []))
                 members = lambda member, cls=cls: _member(cls, member)
             else:
                 raise BadLine(f"{text!r} begins neither a class nor an enumeration")

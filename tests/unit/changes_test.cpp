@@ -2,7 +2,10 @@
 
 #include "TestActions.h"
 #include "TestDrawing.h"
-#include "TestTargets.h"
+#include "TestTarget.h"
+
+#include "objects/targets/references.h"
+#include "objects/targets/setters.h"
 
 #include <QRegularExpression>
 
@@ -89,7 +92,7 @@ TEST_F(Changes, StandBareWhenTheyDeclareSomething)
 
 TEST_F(Changes, OfGeneralPropertiesComeInAFixedOrder)
 {
-    TestTarget made(Target::CSharp);
+    TestTarget made(Target::CSharp, 1);
     // The level of the layer's statement was taken when the color had left the group.
     EXPECT_EQ(change(made, "AcDbCircle",
                      {record("PrintStyle", CFxString("Fine")), record("Thickness", 2.5), record("LineScale", 0.5),
@@ -99,7 +102,7 @@ TEST_F(Changes, OfGeneralPropertiesComeInAFixedOrder)
               "    circle1.PrintStyle = \"Fine\";\n");
     // A style is no entity.
     EXPECT_EQ(change(made, "AcDbTextStyleTableRecord", {layer(), color(OdCmColor::byLayer())}), "");
-    EXPECT_EQ(made.driver.IndentLevel, 1U);
+    EXPECT_EQ(made.writer.IndentLevel, 1U);
 }
 
 TEST_F(Changes, ThatSayNothingLeaveNothingBehind)
@@ -119,7 +122,7 @@ TEST_F(Changes, ThatSayNothingLeaveNothingBehind)
 
 TEST_F(Changes, OfUnknownObjectsAreDropped)
 {
-    TestTarget made(Target::CSharp);
+    TestTarget made(Target::CSharp, 1);
     const auto unknown = [&](const char* cls, PropertyList list) {
         return changeAsItIs(made, cls, 5, std::move(list));
     };
@@ -135,7 +138,7 @@ TEST_F(Changes, OfUnknownObjectsAreDropped)
     PropertyList list{layer()};
     EXPECT_EQ(made.objects.ConvertObjectChanges(nullptr, OdDbHandle(5), list, false, text), kFxSuccess);
     EXPECT_EQ(text, "");
-    EXPECT_EQ(made.driver.IndentLevel, 1U);
+    EXPECT_EQ(made.writer.IndentLevel, 1U);
 }
 
 TEST_F(Changes, OfALeadersNoteFetchTheNoteFirst)
@@ -143,7 +146,7 @@ TEST_F(Changes, OfALeadersNoteFetchTheNoteFirst)
     drawing.add(0x21, "AcDbLeader");
     drawing.add(0x20, "AcDbMText", {{"reactors", OdArray<OdDbObjectId>{drawing.id(0x21)}}});
 
-    TestTarget made(Target::CSharp);
+    TestTarget made(Target::CSharp, 1);
     made.driver.RegisterObject(OdDbHandle(0x21), OdDbLeader::desc());
     EXPECT_EQ(changeAsItIs(made, "AcDbMText", 0x20, {layer()}),
               "    Note note2 = leader1.GetNoteAnnotation();\n    {\n        note2.Layer = \"Walls\";\n    }\n");
@@ -151,7 +154,7 @@ TEST_F(Changes, OfALeadersNoteFetchTheNoteFirst)
     // The variable is not remembered.
     EXPECT_EQ(changeAsItIs(made, "AcDbMText", 0x20, {color(OdCmColor::byBlock())}),
               "    Note note4 = leader1.GetNoteAnnotation();\n    note4.Color = iwApp.GetColorByIndex( 0 );\n");
-    EXPECT_EQ(made.driver.IndentLevel, 1U);
+    EXPECT_EQ(made.writer.IndentLevel, 1U);
 }
 
 TEST_F(Changes, OfDimensionsGoToTheGeneralDimension)
@@ -178,7 +181,7 @@ TEST_F(Changes, OfDimensionsGoToTheGeneralDimension)
         },
         [&](TestTarget& made) { return change(made, dimension, {layer()}); });
 
-    TestTarget made(Target::CSharp);
+    TestTarget made(Target::CSharp, 1);
     // The dimension was fetched while the group was still to come.
     EXPECT_EQ(change(made, dimension, {color(OdCmColor::byIndex(3))}),
               "        GeneralDimension generalDimension1 = aligneddimension1.GetGeneralDimension();\n"
@@ -189,7 +192,7 @@ TEST_F(Changes, OfDimensionsGoToTheGeneralDimension)
               "        generalDimension4.Erased = true;\n    }\n");
     EXPECT_EQ(change(made, dimension, {record("Erased", CFxString("NO"))}),
               "    {\n        GeneralDimension generalDimension6 = aligneddimension4.GetGeneralDimension();\n    }\n");
-    EXPECT_EQ(made.driver.IndentLevel, 1U);
+    EXPECT_EQ(made.writer.IndentLevel, 1U);
 }
 
 TEST_F(Changes, OfACurvedTextsColorGoThroughItsSettings)
@@ -281,13 +284,13 @@ TEST_F(Changes, ThatEraseANamedViewAskByItsName)
         erase);
     drawing.add(1, "AcDbViewTableRecord",
                 {{"name", OdString("North")}, {"isErased", true}, {"isPaperspaceView", true}});
-    TestTarget made(Target::Vba);
+    TestTarget made(Target::Vba, 1);
     EXPECT_EQ(erase(made), "    If 1 Then\n        iwViewManager.RemoveSheetNamedView \"North\"\n    End If\n\n");
 }
 
 TEST_F(Changes, OfAddedObjectsAreTheGeneralOnesAlone)
 {
-    TestTarget made(Target::CSharp);
+    TestTarget made(Target::CSharp, 1);
     made.driver.RegisterObject(OdDbHandle(1), oddbDwgClassMapDesc(27));
     const PropertyList list{record("Erased", CFxString("YES")), record("Transparency", OdCmTransparency{}), layer()};
     QString text;
@@ -300,8 +303,8 @@ TEST_F(Changes, OfAddedObjectsAreTheGeneralOnesAlone)
 TEST_F(Changes, OfTransparencyCountOnOverConversions)
 {
     const auto set = [](Target target, OdCmTransparency transparency, QString& number) {
-        TestTarget made(target);
-        const QString text = made.objects.EmitSetTransparency("line1", transparency);
+        TestTarget made(target, 1);
+        const QString text = EmitSetTransparency(made.writer, "line1", transparency);
         number = QRegularExpression("iwTransparency(\\d+)").match(text).captured(1);
         return QString(text).replace("iwTransparency" + number, "t");
     };
@@ -338,24 +341,24 @@ TEST(Setters, WriteAPropertyInTheFormOfTheirTarget)
 {
     expectInAllTargets({"    a->put_P( L\"x\" );\n", "    a->put_P( L\"x\" );\n", "    a.P = \"x\";\n",
                         "    a.put_P (\"x\");\n", "    a.P = \"x\"\n", "    a.P = \"x\"\n"},
-                       [](TestTarget& made) { return made.objects.EmitSetProperty("a", "P", "x", true); });
+                       [](TestTarget& made) { return EmitSetProperty(made.writer, "a", "P", "x", true); });
     expectInAllTargets({"    a->put_P( x );\n", "    a->put_P( x );\n", "    a.P = x;\n", "    a.put_P( x );\n",
                         "    a.P = x\n", "    a.P = x\n"},
-                       [](TestTarget& made) { return made.objects.EmitSetProperty("a", "P", "x", false); });
+                       [](TestTarget& made) { return EmitSetProperty(made.writer, "a", "P", "x", false); });
     expectInAllTargets({"    a->put_P( 1.50000000000000 );\n", "    a->put_P( 1.50000000000000 );\n",
                         "    a.P = 1.50000000000000;\n", "    a.put_P( 1.50000000000000 );\n",
                         "    a.P = 1.50000000000000\n", "    a.P = 1.50000000000000\n"},
-                       [](TestTarget& made) { return made.objects.EmitSetDoubleProperty("a", "P", 1.5); });
+                       [](TestTarget& made) { return EmitSetDoubleProperty(made.writer, "a", "P", 1.5); });
     expectInAllTargets({"    a->put_P( false );\n", "    a->put_P( false );\n", "    a.P = false;\n",
                         "    a.put_P( false );\n", "    a.P = False\n", "    a.P = False\n"},
-                       [](TestTarget& made) { return made.objects.EmitSetBoolProperty("a", "P", false); });
+                       [](TestTarget& made) { return EmitSetBoolProperty(made.writer, "a", "P", false); });
     expectInAllTargets(
         {"    iwColor_ptr iwColor1;\n    m_pIwApp->GetRGBColor( 1, 2, 255, &iwColor1 );\n"
          "    a->put_P( iwColor1 );\n",
          "    a->put_P( pConnection->m_IwApp->GetRGBColor( 1, 2, 255 ) );\n",
          "    a.P = iwApp.GetRGBColor( 1, 2, 255 );\n", "    a.put_P( mApp.GetRGBColor( 1, 2, 255 ) );\n",
          "    a.P = iwApp.GetRGBColor( 1, 2, 255 )\n", "    a.P = iwApp.GetRGBColor( 1, 2, 255 )\n"},
-        [](TestTarget& made) { return made.objects.EmitSetColor("a", "P", OdCmColor::byRgb(1, 2, 255)); });
+        [](TestTarget& made) { return EmitSetColor(made.writer, "a", "P", OdCmColor::byRgb(1, 2, 255)); });
 }
 
 TEST(References, DeclareAVariableInTheFormOfTheirTarget)
@@ -364,11 +367,11 @@ TEST(References, DeclareAVariableInTheFormOfTheirTarget)
                         "    INotePtr n = l->GetNoteAnnotation();\n", "    Note n = l.GetNoteAnnotation();\n",
                         "    var n = l.GetNoteAnnotation();\n", "    Dim n As Inkwright.Note = l.GetNoteAnnotation()\n",
                         "    Dim n As Inkwright.Note\n    Set n = l.GetNoteAnnotation()\n"},
-                       [](TestTarget& made) { return made.objects.EmitGetNoteAnnotation("n", "l"); });
+                       [](TestTarget& made) { return EmitGetNoteAnnotation(made.writer, "n", "l"); });
     expectInAllTargets({"    iwBlockDefinition_ptr b;\n", "    IBlockDefinitionPtr b;\n", "    BlockDefinition b;\n",
                         "    var b;\n", "    Dim b As Inkwright.BlockDefinition\n",
                         "    Dim b As Inkwright.BlockDefinition\n"},
-                       [](TestTarget& made) { return made.objects.EmitDeclareBlockDefinition("b"); });
+                       [](TestTarget& made) { return EmitDeclareBlockDefinition(made.writer, "b"); });
 }
 
 TEST(References, FetchAnObjectThatTheMacroDidNotMake)
@@ -376,7 +379,7 @@ TEST(References, FetchAnObjectThatTheMacroDidNotMake)
     CFxString name;
     const auto fetch = [&](TestTarget& made) {
         made.driver.objectCounter = 4;
-        return made.objects.EmitObjectVariable(OdDbHandle(0x1AF), oddbDwgClassMapDesc(17), name);
+        return made.objects.ObjectVariable(OdDbHandle(0x1AF), oddbDwgClassMapDesc(17), name);
     };
     expectInAllTargets(
         {
@@ -395,12 +398,12 @@ TEST(References, FetchAnObjectThatTheMacroDidNotMake)
         fetch);
     EXPECT_EQ(name, CFxString("circlearc5"));
 
-    TestTarget made(Target::CSharp);
+    TestTarget made(Target::CSharp, 1);
     made.driver.RegisterObject(OdDbHandle(0x1AF), oddbDwgClassMapDesc(17));
     EXPECT_EQ(fetch(made), "");
     EXPECT_EQ(name, CFxString("circlearc1"));
     EXPECT_EQ(made.driver.objectCounter, 4U);
-    EXPECT_EQ(made.objects.EmitObjectVariable(OdDbHandle(2), oddbClassByName("HostWeldSymbol"), name), "");
+    EXPECT_EQ(made.objects.ObjectVariable(OdDbHandle(2), oddbClassByName("HostWeldSymbol"), name), "");
     EXPECT_EQ(name, CFxString("circlearc1"));
 }
 

@@ -2,9 +2,15 @@
 
 #include "TestActions.h"
 #include "TestDrawing.h"
-#include "TestStatements.h"
+#include "TestTarget.h"
 
-#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/targets/blockAttributes.h"
+#include "objects/targets/regions.h"
+#include "objects/targets/sheetProperties.h"
+#include "targets/customActions.h"
+#include "targets/entityLists.h"
+#include "targets/groups.h"
+#include "targets/selections.h"
 
 #include <QFileInfo>
 #include <QRegExp>
@@ -42,7 +48,8 @@ protected:
     }
 
     TestDrawing drawing;
-    TestStatements driver{Target::CSharp};
+    TestTarget csharp{Target::CSharp};
+    TestTarget::Driver& driver = csharp.driver;
     TestConversion conversion;
     QString text;
 };
@@ -148,9 +155,9 @@ TEST_F(CustomActions, InsertEmbeddedObjectsIntoTheirCommandsVariable)
                                  "                 false, \n"
                                  "                 true);\n"
                                  "            }\n");
-    EXPECT_EQ(TestStatements(Target::Vba).EmitInsertEmbeddedObject("o", "p", true, false),
+    EXPECT_EQ(EmitInsertEmbeddedObject(TestTarget(Target::Vba).writer, "o", "p", true, false),
               " Set o = iwSketchManager.InsertEmbeddedObjectFromFile( \"p\", True, False )\n");
-    EXPECT_EQ(TestStatements(Target::VbNet).EmitInsertEmbeddedObject("o", "p", true, false),
+    EXPECT_EQ(EmitInsertEmbeddedObject(TestTarget(Target::VbNet).writer, "o", "p", true, false),
               " o = iwSketchManager.InsertEmbeddedObjectFromFile( \"p\", true, false )\n");
 }
 
@@ -174,8 +181,8 @@ TEST_F(CustomActions, EraseALeadersNoteThroughItsLeader)
 
 TEST_F(CustomActions, SetElementColorsInVariablesThatAreDeclaredOnce)
 {
-    const QString first = driver.EmitSetElementColor(7, OdCmColor::byIndex(30));
-    const QString second = driver.EmitSetElementColor(7, OdCmColor::byIndex(30));
+    const QString first = EmitSetElementColor(driver.writer, 7, OdCmColor::byIndex(30));
+    const QString second = EmitSetElementColor(driver.writer, 7, OdCmColor::byIndex(30));
     EXPECT_EQ(second, " ElementOption = (iwElementColor_e)7;\n"
                       " iwColor1 = iwApp.GetColorByIndex( 30 );\n"
                       " appOption.SetElementColor(ElementOption, iwColor1);\n");
@@ -192,10 +199,10 @@ TEST_F(CustomActions, SetElementColorsInVariablesThatAreDeclaredOnce)
     for (const std::int32_t kind : {23, 26, 32})
         EXPECT_EQ(converted(kind, data), byKind);
     EXPECT_TRUE(text.contains("\n iwColor1 = iwApp.GetRGBColor( 1, 2, 255 );\n"));
-    EXPECT_EQ(TestStatements(Target::Cpp).EmitSetElementColor(7, OdCmColor::byLayer()),
+    EXPECT_EQ(EmitSetElementColor(TestTarget(Target::Cpp).writer, 7, OdCmColor::byLayer()),
               " ElementOption = (iwElementColor_e)7;\n m_pIwApp->GetRGBColor( 0, 0, 0, &iwColor1 );\n"
               " appOption->SetElementColor(ElementOption, iwColor1);\n");
-    EXPECT_EQ(TestStatements(Target::Vba).EmitSetElementColor(7, OdCmColor::byIndex(1)),
+    EXPECT_EQ(EmitSetElementColor(TestTarget(Target::Vba).writer, 7, OdCmColor::byIndex(1)),
               " Set ElementOption = 7\n Set iwColor1 = iwApp.GetColorByIndex( 1 )\n"
               " Set appOption.SetElementColor(ElementOption, iwColor1)\n");
 }
@@ -240,12 +247,12 @@ TEST_F(CustomActions, ChangeOnlyGroupsThatTheMacroKnows)
                                    " removeObject2[0] = new DispatchWrapper(line1);\n"
                                    "\n"
                                    " group2.RemoveEntities(removeObject2);\n");
-    EXPECT_EQ(TestStatements(Target::Cpp).EmitGroupAddEntities({"a", "b"}, "g"),
+    EXPECT_EQ(EmitGroupAddEntities(TestTarget(Target::Cpp).writer, {"a", "b"}, "g"),
               "\n iwObjectPtrArray entities1;\n bool hasEntity1 = false;\n"
               " g->HasEntity(a, &hasEntity1);\n if ( !hasEntity1 )\n {\n     entities1.add(a);\n }\n"
               " g->HasEntity(b, &hasEntity1);\n if ( !hasEntity1 )\n {\n     entities1.add(b);\n }\n"
               "\n g->AddEntities(entities1);\n");
-    EXPECT_EQ(TestStatements(Target::VbNet).EmitGroupRemoveEntities({"a"}, "g"),
+    EXPECT_EQ(EmitGroupRemoveEntities(TestTarget(Target::VbNet).writer, {"a"}, "g"),
               "\n Dim removeObject1 As DispatchWrapper()\n removeObject1 = New DispatchWrapper( 0 ) {}\n"
               " removeObject1( 0 ) = New DispatchWrapper( a )\n\n g.RemoveEntities(removeObject1)\n");
 }
@@ -264,8 +271,8 @@ TEST_F(CustomActions, ActivateJoinAndExplodeByVariable)
     EXPECT_EQ(convert(50, {known, cls("AcDbLine"), OdDbHandle(0x3c), cls("AcDbArc")}), kFxSuccess);
     EXPECT_TRUE(text.contains("GetObjectByHandle(\"3C\", "));
     EXPECT_TRUE(text.endsWith(";\n line1.Join( circlearc3 );\n"));
-    TestStatements vba(Target::Vba);
-    EXPECT_EQ(vba.EmitActivate("a") + vba.EmitJoin("a", "b") + vba.EmitExplode("a"),
+    TestTarget vba(Target::Vba);
+    EXPECT_EQ(EmitActivate(vba.writer, "a") + EmitJoin(vba.writer, "a", "b") + EmitExplode(vba.writer, "a"),
               " a.Activate\n a.Join b\n a.Explode\n");
 }
 
@@ -281,7 +288,7 @@ TEST_F(CustomActions, InsertViewportsWithoutABlock)
               "            {\n"
               "                 viewport1 = sheetsArray1.InsertViewport( new double[]{0,0,0,5.5,0,1e+06} );\n"
               "            }\n");
-    EXPECT_EQ(TestStatements(Target::Vba).EmitInsertViewport("v", "A3", {{1.0, 2.0, 3.0}}),
+    EXPECT_EQ(EmitInsertViewport(TestTarget(Target::Vba).writer, "v", "A3", {{1.0, 2.0, 3.0}}),
               " Dim v As Inkwright.Viewport\n Dim sheetsArray1 As Inkwright.Sheet\n"
               " Set sheetsArray1 = iwDoc.GetSheet(\"A3\")\n If Not sheetsArray1 Is Nothing Then\n"
               "     Dim Coordinates1(2) As Double\n     Coordinates1( 0 )=1\n     Coordinates1( 1 )=2\n"
@@ -297,18 +304,16 @@ TEST_F(CustomActions, SetPrintStylesOfModelAndSheets)
     EXPECT_EQ(converted(47, {CFxString("a.ctb"), false, CFxString("A3")}),
               " iwSheet = iwDoc.GetSheet(\"A3\");\n if (null != iwSheet)\n {\n      iwSheet.Activate();\n"
               "      iwSketchManager = iwSheet.GetSketchManager();\n }\n iwSheet.PrintStyle = \"a.ctb\";\n");
-    TestStatements page(Target::JavaScript);
-    const auto objects = CreateObjectConverter(Target::JavaScript, &page);
-    EXPECT_EQ(objects->EmitSetModelProperty("PrintStyle", "a.ctb", true, {}), "%mModel.put_\n( \"PrintStyle\" ); ");
-    EXPECT_TRUE(objects->EmitSetModelProperty("PrintStyle", "a.ctb", false, "A3")
+    TestTarget page(Target::JavaScript);
+    EXPECT_EQ(EmitSetModelProperty(page.writer, "PrintStyle", "a.ctb", true, {}), "%mModel.put_\n( \"PrintStyle\" ); ");
+    EXPECT_TRUE(EmitSetModelProperty(page.writer, "PrintStyle", "a.ctb", false, "A3")
                     .endsWith("\n mSheet.put_PrintStyle( \"a.ctb\" );\n"));
 }
 
 TEST_F(CustomActions, MakeRegionsOfCurves)
 {
     const auto region = [](Target target) {
-        TestStatements statements(target);
-        return CreateObjectConverter(target, &statements)->EmitInsertRegion("region2", {"line1"}, 5).toStdString();
+        return EmitInsertRegion(TestTarget(target).writer, "region2", {"line1"}, 5).toStdString();
     };
     EXPECT_EQ(region(Target::Cpp), "\n iwObjectPtrArray entitiesArray5;\n entitiesArray5.add(line1);\n"
                                    " iwObjectPtrArray regionArray5;\n"
@@ -337,24 +342,26 @@ TEST_F(CustomActions, MakeRegionsOfCurves)
 
 TEST_F(CustomActions, LeaveNoMarkerUnfilled)
 {
-    const EntityList lists{{"a", ""}, {"iwLineType", ""}, {"1A", "2B"}};
+    const EntityList lists{{"a", "iwLineType", "1A"}, {"", "", "2B"}};
+    const std::vector<CFxString> names{"a", ""};
     const Points polygon{{}, {}};
     for (const Target target : allTargets) {
-        TestStatements all(target);
-        const auto objects = CreateObjectConverter(target, &all);
+        TestTarget made(target);
+        Writer& writer = made.writer;
         const QString written =
-            all.EmitMirrorEntities(lists, {}, {}, true) + all.EmitStretchEntities(lists, {}, {}, {}) +
-            all.EmitRotateEntities(lists, {}, 1.0) + all.EmitScaleEntities(lists, {}, 1.0) +
-            all.EmitInsertEmbeddedObject("a", "b", true, true) + all.EmitEraseEntities(lists.names) +
-            all.EmitGroupAddEntities(lists.names, "g") + all.EmitGroupRemoveEntities(lists.names, "g") +
-            all.EmitInsertViewport("v", "A3", polygon) + all.EmitSelectEntities(0, polygon, false) +
-            all.EmitSelectEntities(4, polygon, false) + all.EmitSelectionFilter(polygon, 2, lists.types) +
-            all.EmitSetElementColor(1, OdCmColor::byRgb(1, 2, 3)) +
-            objects->EmitBlockAttributeValue("a", "Value", "ROOM", "12") +
-            objects->EmitSetModelProperty("PrintStyle", "a", false, "A3") +
-            (target == Target::JavaScript ? QString() : objects->EmitInsertRegion("r", {"a", "b"}, 1));
+            EmitMirrorEntities(writer, lists, {}, {}, true) + EmitStretchEntities(writer, lists, {}, {}, {}) +
+            EmitRotateEntities(writer, lists, {}, 1.0) + EmitScaleEntities(writer, lists, {}, 1.0) +
+            EmitInsertEmbeddedObject(writer, "a", "b", true, true) + EmitEraseEntities(writer, names) +
+            EmitGroupAddEntities(writer, names, "g") + EmitGroupRemoveEntities(writer, names, "g") +
+            EmitInsertViewport(writer, "v", "A3", polygon) + EmitSelectEntities(writer, 0, polygon, false) +
+            EmitSelectEntities(writer, 4, polygon, false) +
+            EmitSelectionFilter(writer, polygon, 2, {"iwLineType", ""}) +
+            EmitSetElementColor(writer, 1, OdCmColor::byRgb(1, 2, 3)) +
+            EmitBlockAttributeValue(writer, "a", "Value", "ROOM", "12") +
+            EmitSetModelProperty(writer, "PrintStyle", "a", false, "A3") +
+            (target == Target::JavaScript ? QString() : EmitInsertRegion(writer, "r", {"a", "b"}, 1));
         EXPECT_FALSE(written.contains('%')) << written.toStdString();
-        EXPECT_EQ(all.IndentLevel, 0U);
+        EXPECT_EQ(writer.IndentLevel, 0U);
     }
 }
 

@@ -50,6 +50,16 @@ private:
     CFxString name;
 };
 
+/// Actions of objects that have no class.
+std::vector<OdRxObjectPtr> classless()
+{
+    const auto added = addedLine(0x30);
+    const auto modified = odrxNew<TestModified>("AcDbLine", 0x30);
+    added->cls = nullptr;
+    modified->cls = nullptr;
+    return {added, modified, odrxNew<TestProperty>("LineScale", 2.0)};
+}
+
 const QString line1 = "                line1 = iwSketchManager.InsertLine( 0.00000000000000, 0.00000000000000, "
                       "0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 );\n";
 
@@ -84,13 +94,15 @@ TEST_F(Driver, FailsWhenTheFileCannotBeMade)
 
 TEST_F(Driver, RemovesTheFileWhenATopLevelActionFails)
 {
-    const std::vector<OdRxObjectPtr> failing{
+    std::vector<OdRxObjectPtr> failing{
         odrxNew<Stranger>(),
         odrxNew<TestCustom>(99),
         odrxNew<Throwing>(),
         // A note by its class, but not in the drawing: found out while the command's children are registered.
         command({odrxNew<TestAdded>("AcDbMText", 0x2f)}),
     };
+    for (const OdRxObjectPtr& action : classless())
+        failing.push_back(action);
     OdDbDatabase database;
     database.addObject(OdDbHandle(0x2f), odrxNew<OdDbLeader>(OdDbLeader::desc()));
     CFxDocument document(&database);
@@ -107,8 +119,10 @@ TEST_F(Driver, RemovesTheFileWhenATopLevelActionFails)
 
 TEST_F(Driver, EndsACommandEarlyWhenAChildFails)
 {
-    const std::vector<OdRxObjectPtr> failing{odrxNew<Stranger>(), odrxNew<TestCustom>(99), odrxNew<Throwing>(),
-                                             command({}), nullptr};
+    std::vector<OdRxObjectPtr> failing{odrxNew<Stranger>(), odrxNew<TestCustom>(99), odrxNew<Throwing>(), command({}),
+                                       nullptr};
+    for (const OdRxObjectPtr& action : classless())
+        failing.push_back(action);
     for (const OdRxObjectPtr& action : failing) {
         ASSERT_EQ(conversion.run({command({addedLine(1), action, addedLine(2)}), addedLine(3)}), kFxSuccess);
         EXPECT_EQ(conversion.body(), "            Line line1;\n            Line line2;\n            {\n" + line1 +

@@ -1,9 +1,10 @@
 // Mirror, stretch, copy, move, rotate, scale and selections: the whole text of each in the targets.
 
 #include "TestActions.h"
-#include "TestStatements.h"
+#include "TestTarget.h"
 
-#include "targets/javascript/CFxConverterIWAPIJavaScript.h"
+#include "targets/entityLists.h"
+#include "targets/selections.h"
 
 #include <gtest/gtest.h>
 
@@ -16,12 +17,12 @@ using Classes = std::vector<const OdRxClass*>;
 using Points = OdArray<OdGePoint3d>;
 
 /// A line that the macro knows under handle 1A, a circle under 2B that it does not know.
-struct Lists : TestStatements
+struct Lists : TestTarget
 {
-    explicit Lists(Target target) : TestStatements(target)
+    explicit Lists(Target target) : TestTarget(target)
     {
-        RegisterObject(OdDbHandle(0x1a), oddbClassByName("AcDbLine"));
-        UniqueCounter = 4;
+        driver.RegisterObject(OdDbHandle(0x1a), oddbClassByName("AcDbLine"));
+        writer.UniqueCounter = 4;
     }
     std::string convert(std::int32_t kind, TestData values)
     {
@@ -33,9 +34,9 @@ struct Lists : TestStatements
     std::string run(std::int32_t kind, const TestData& data)
     {
         QString text;
-        EXPECT_EQ(ConvertCustomAction(odrxNew<TestCustom>(kind, data), text), kFxSuccess);
-        EXPECT_EQ(UniqueCounter, 4U);
-        EXPECT_EQ(IndentLevel, 0U);
+        EXPECT_EQ(driver.ConvertCustomAction(odrxNew<TestCustom>(kind, data), text), kFxSuccess);
+        EXPECT_EQ(writer.UniqueCounter, 4U);
+        EXPECT_EQ(writer.IndentLevel, 0U);
         return text.toStdString();
     }
 };
@@ -49,7 +50,7 @@ TEST(EntityLists, MoveInAllTargets)
 {
     const auto move = [](Target target) { return convert(target, 3, {OdGeVector3d{1.5, -2.0, 1234567.0}}); };
     EXPECT_EQ(move(Target::Cpp), " iwObjectPtrArray iwEntities4;\n"
-                                 " iwEntities4.add(line1);\n"
+                                 " iwEntities4.add(iwline1);\n"
                                  " iwEntities4.add();\n"
                                  "\n"
                                  " iwSketchManager->MoveEntities(1.5, -2, 1.23457e+06, iwEntities4);\n");
@@ -109,7 +110,7 @@ TEST(EntityLists, CopyUnknownObjectsByTheirHandleInTheCurlyTargets)
     EXPECT_EQ(copy(Target::Cpp), " iwObjectPtrArray iwEntities4;\n"
                                  " iwLongArray types4;\n"
                                  " types4.add(iwLineType);\n"
-                                 " iwEntities4.add(line1);\n"
+                                 " iwEntities4.add(iwline1);\n"
                                  " iwObjectType_e iwTypeForCopy4;\n"
                                  " iwObject* iwObjForCopy4;\n"
                                  " iwDoc->GetObjectByHandle(L\"2B\", &iwTypeForCopy4, &iwObjForCopy4);\n"
@@ -175,7 +176,7 @@ TEST(EntityLists, CopyUnknownObjectsByTheirHandleInTheScriptTargets)
                                         " var types4 = new Array(2);\n"
                                         " iwEntities4 = new Array(2);\n"
                                         "\n"
-                                        " types4[0] = iwLineType;\n"
+                                        " types4[0] = 21;\n"
                                         " iwEntities4[0] = line1;\n"
                                         " var iwTypeForCopy4;\n"
                                         " var iwObjForCopy4 = mDoc.GetObjectByHandle(\"2B\").DispObj;\n"
@@ -260,8 +261,8 @@ TEST(EntityLists, MirrorRotateAndScaleWithTheirTypes)
 
 TEST(EntityLists, NameTypesByNumberInAScript)
 {
-    CFxConverterIWAPIJavaScript script(0);
-    const QString text = script.EmitScaleEntities({{"line1", ""}, {"iwLineType", ""}, {"1A", "2B"}}, {}, 2.0);
+    TestTarget script(Target::JavaScript);
+    const QString text = EmitScaleEntities(script.writer, {{"line1", "iwLineType", "1A"}, {"", "", "2B"}}, {}, 2.0);
     EXPECT_TRUE(text.contains(" types0[0] = 21;\n iwEntities0[0] = line1;\n types0[1] = 0;\n")) << text.toStdString();
     EXPECT_TRUE(text.endsWith(" mSkMgr.ScaleEntities(0, 0, 2, 0, types0, iwEntities0);\n")) << text.toStdString();
 }
@@ -362,8 +363,8 @@ TEST(Selections, TakeTheFormOfTheirMode)
     for (const std::int32_t mode : {5, -1})
         EXPECT_EQ(lists.select(mode, four), head + tail);
     QString text;
-    EXPECT_THROW(lists.EmitSelectEntities(1, {}, false), OdError);
-    EXPECT_EQ(lists.ConvertAction(odrxNew<TestCustom>(10, TestData{1, Points()}), text), kFxFailure);
+    EXPECT_THROW(EmitSelectEntities(lists.writer, 1, {}, false), OdError);
+    EXPECT_EQ(lists.driver.ConvertAction(odrxNew<TestCustom>(10, TestData{1, Points()}), text), kFxFailure);
 }
 
 TEST(Selections, PassThroughAFilter)
@@ -400,7 +401,7 @@ TEST(Selections, AtAPromptLookUpWhatTheMacroDoesNotKnow)
     Lists lists(Target::CSharp);
     QString text = "before";
     const auto select = [&](Handles handles, Classes classes) {
-        return lists.ConvertSelection(odrxNew<TestSelection>(std::move(handles), std::move(classes)), text);
+        return lists.driver.ConvertSelection(odrxNew<TestSelection>(std::move(handles), std::move(classes)), text);
     };
     EXPECT_EQ(select({}, {}), kFxSuccess);
     EXPECT_EQ(text, "before");
@@ -435,13 +436,13 @@ TEST(Selections, AtAPromptReachByHandleInAllTargets)
     for (const Target target : allTargets) {
         Lists lists(target);
         QString text;
-        ASSERT_EQ(lists.ConvertSelection(
+        ASSERT_EQ(lists.driver.ConvertSelection(
                       odrxNew<TestSelection>(Handles{OdDbHandle(0x2b)}, Classes{oddbClassByName("AcDbCircle")}), text),
                   kFxSuccess);
         EXPECT_EQ(text.count("GetObjectByHandle("), 2) << text.toStdString();
         EXPECT_EQ(text.count("\"2B\""), 2) << text.toStdString();
         EXPECT_FALSE(text.contains('%')) << text.toStdString();
-        EXPECT_EQ(lists.IndentLevel, 0U);
+        EXPECT_EQ(lists.writer.IndentLevel, 0U);
     }
 }
 

@@ -9,6 +9,7 @@
 #include "targets/cpp/CFxConverterIWAPICPP.h"
 #include "targets/installation.h"
 #include "targets/javascript/CFxConverterIWAPIJavaScript.h"
+#include "targets/objectTypes.h"
 #include "targets/vba/CFxConverterIWAPIVba.h"
 #include "targets/vbnet/CFxConverterIWAPIVbNet.h"
 
@@ -106,7 +107,7 @@ TEST_F(Frames, FollowThePlaceWhereTheRecordingBegan)
 
 TEST_F(Frames, OpenAndCloseAsTheirLanguageAsks)
 {
-    const auto level = [](CFxConverterIWAPIImpl& converter) { return converter.IndentLevel; };
+    const auto level = [](CFxConverterIWAPIImpl& converter) { return converter.writer.IndentLevel; };
 
     const QString source = cpp.EmitFileHeader("plate", true);
     EXPECT_TRUE(source.startsWith("#include \"plate.h\"\n#include \"iwAddinConnection.h\"\n")) << qPrintable(source);
@@ -269,16 +270,16 @@ TEST_F(Frames, FindTheInstalledLibraries)
 
 TEST_F(Frames, NumberObjectTypes)
 {
-    EXPECT_EQ(javascript.ObjectTypeValue("iwLineType"), 21);
-    EXPECT_EQ(javascript.ObjectTypeValue("iwRichLineType"), 39);
-    EXPECT_EQ(javascript.ObjectTypeValue("iwIWWindowType"), 87);
-    EXPECT_EQ(javascript.ObjectTypeValue("iwObjectTypeCount"), 111);
+    EXPECT_EQ(ObjectTypeValue("iwLineType"), 21);
+    EXPECT_EQ(ObjectTypeValue("iwRichLineType"), 39);
+    EXPECT_EQ(ObjectTypeValue("iwIWWindowType"), 87);
+    EXPECT_EQ(ObjectTypeValue("iwObjectTypeCount"), 111);
     // Filed with a blank behind it.
-    EXPECT_EQ(javascript.ObjectTypeValue("iwApplicationType"), 0);
-    EXPECT_EQ(javascript.ObjectTypeValue("iwApplicationType "), 1);
+    EXPECT_EQ(ObjectTypeValue("iwApplicationType"), 0);
+    EXPECT_EQ(ObjectTypeValue("iwApplicationType "), 1);
     for (int again = 0; again < 2; ++again)
-        EXPECT_EQ(javascript.ObjectTypeValue("iwlinetype"), 0);
-    EXPECT_EQ(javascript.ObjectTypeValue("iwLayoutType"), 0);
+        EXPECT_EQ(ObjectTypeValue("iwlinetype"), 0);
+    EXPECT_EQ(ObjectTypeValue("iwLayoutType"), 0);
 }
 
 } // namespace

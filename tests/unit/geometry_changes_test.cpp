@@ -1,9 +1,10 @@
 // Changes of curves and geometry: which statements a changed tag becomes, and what a target makes of them.
 
 #include "TestActions.h"
+#include "TestTarget.h"
 
-#include "objects/targets/PhrasedObjectConverter.h"
-#include "targets/csharp/CFxConverterIWAPICSharp.h"
+#include "objects/ChangeRows.h"
+#include "objects/classTable.h"
 
 #include <gtest/gtest.h>
 
@@ -13,15 +14,7 @@ using inkmacro::Target;
 
 namespace {
 
-using Objects = CFxConverterIWAPIObject;
-using Handler = std::int32_t (Objects::*)(PropertyList& list, bool fromAdded, const CFxString& name, QString& text);
-
-struct InTarget final : PhrasedObjectConverter
-{
-    InTarget(Target target, CFxConverterIWAPIImpl* driver) : PhrasedObjectConverter(target, driver) {}
-};
-
-CFxPropertyChangedPtr record(const char* tag, const CFxVariant& value, const CFxVariant& index = {})
+CFxPropertyChangedPtr record(const CFxString& tag, const CFxVariant& value, const CFxVariant& index = {})
 {
     return odrxNew<TestProperty>(tag, value, CFxString(), index);
 }
@@ -36,22 +29,23 @@ CFxVariant choice(std::int32_t chosen)
     return CFxVariantCollection({item(0, "Yes"), item(1, "Quadratic")}, chosen);
 }
 
-/// What the handler makes of the records of the object "it1", which it must have taken all.
-std::string changed(Handler handler, PropertyList list, Target target = Target::CSharp)
+/// What becomes of the records of the object "it1", all of which must be known to the class.
+std::string changed(const char* cls, PropertyList list, Target target = Target::CSharp)
 {
-    CFxConverterIWAPICSharp driver{0};
-    InTarget objects(target, &driver);
+    TestTarget made(target);
     QString text;
-    EXPECT_EQ((objects.*handler)(list, false, "it1", text), kFxSuccess);
+    const ClassChanges& changes = FindClass(QString(cls))->changes;
+    if (changes.groups)
+        made.objects.ConvertRows(*changes.groups, list, false, "it1", text);
+    else
+        (made.objects.*changes.handler)(list, false, "it1", text);
     EXPECT_TRUE(list.empty());
     return text.toStdString();
 }
 
 TEST(GeometryChanges, ReadChangeAndWriteAPoint)
 {
-    const auto text = [](Target target) {
-        return changed(&Objects::ConvertModifiedCircle, {record("Center Y", 2.5)}, target);
-    };
+    const auto text = [](Target target) { return changed("AcDbCircle", {record("Center Y", 2.5)}, target); };
     EXPECT_EQ(text(Target::Cpp), " double X1;\n double Y1;\n double Z1;\n it1->GetCenter( &X1, &Y1, &Z1 );\n"
                                  " Y1 = 2.50000000000000;\n it1->SetCenter( X1, Y1, Z1 );\n");
     EXPECT_EQ(text(Target::CppCom), " double X1;\n double Y1;\n double Z1;\n it1->GetCenter( &X1, &Y1, &Z1 );\n"
@@ -70,7 +64,7 @@ TEST(GeometryChanges, ReadChangeAndWriteAPoint)
 
 TEST(GeometryChanges, NumberTheirLocals)
 {
-    EXPECT_EQ(changed(&Objects::ConvertModifiedRay, {record("Second point X", 1.0), record("Base point Z", -2.0)}),
+    EXPECT_EQ(changed("AcDbRay", {record("Second point X", 1.0), record("Base point Z", -2.0)}),
               " double X1;\n double Y1;\n double Z1;\n it1.GetBasePoint(out X1, out Y1, out Z1);\n"
               " Z1 = -2.00000000000000;\n it1.SetBasePoint(X1, Y1, Z1);\n"
               " double X2;\n double Y2;\n double Z2;\n it1.GetThroughPoint(out X2, out Y2, out Z2);\n"
@@ -83,30 +77,29 @@ TEST(GeometryChanges, SetTheRadiusForEverySizeOfACircle)
     std::string four;
     for (int i = 0; i < 4; ++i)
         four += " it1.Radius = 2.00000000000000;\n";
-    EXPECT_EQ(changed(&Objects::ConvertModifiedCircle, {record("Radius", 2.0), record("Diameter", 4.0),
-                                                        record("Circumference", 4 * pi), record("Area", 4 * pi)}),
+    EXPECT_EQ(changed("AcDbCircle", {record("Radius", 2.0), record("Diameter", 4.0), record("Circumference", 4 * pi),
+                                     record("Area", 4 * pi)}),
               four);
-    EXPECT_EQ(changed(&Objects::ConvertModifiedCircle, {record("Area", 0.0)}), " it1.Radius = 0.00000000000000;\n");
+    EXPECT_EQ(changed("AcDbCircle", {record("Area", 0.0)}), " it1.Radius = 0.00000000000000;\n");
 }
 
 TEST(GeometryChanges, NeedANumberWhereAPropertyIsRepeated)
 {
     for (const CFxVariant& none : {CFxVariant(), CFxVariant(-1)}) {
-        EXPECT_EQ(changed(&Objects::ConvertModifiedPolyline3D, {record("Vertex X", 1.0, none)}), "");
-        EXPECT_EQ(changed(&Objects::ConvertModifiedPolyline, {record("Start segment width", 1.0, none)}), "");
-        EXPECT_EQ(changed(&Objects::ConvertModifiedSolid, {record("Vertex Z", 1.0, none)}), "");
+        EXPECT_EQ(changed("AcDb3dPolyline", {record("Vertex X", 1.0, none)}), "");
+        EXPECT_EQ(changed("AcDbPolyline", {record("Start segment width", 1.0, none)}), "");
+        EXPECT_EQ(changed("AcDbSolid", {record("Vertex Z", 1.0, none)}), "");
     }
     const PropertyList list{record("Fit point Y", 1.0, 3)};
-    EXPECT_EQ(changed(&Objects::ConvertModifiedSpline, list, Target::Cpp),
+    EXPECT_EQ(changed("AcDbSpline", list, Target::Cpp),
               " double X1;\n double Y1;\n double Z1;\n bool bRetVal1 = false;\n"
               " it1->GetFitPointCoordinate( 3, &X1, &Y1, &Z1, &bRetVal1 );\n Y1 = 1.00000000000000;\n"
               " it1->SetFitPointCoordinate( 3, X1, Y1, Z1, &bRetVal1 );\n");
-    EXPECT_EQ(changed(&Objects::ConvertModifiedSpline, list, Target::JavaScript),
+    EXPECT_EQ(changed("AcDbSpline", list, Target::JavaScript),
               " var points;\n points = it1.GetFitPointCoordinate( 3 );\n points.Y = 1.00000000000000;\n"
               " it1.SetFitPointCoordinate(3, points.X, points.Y, points.Z);\n");
     // A number that belongs to no repeated property does not count.
-    EXPECT_EQ(changed(&Objects::ConvertModifiedCircle, {record("Center Y", 2.5, 7)}),
-              changed(&Objects::ConvertModifiedCircle, {record("Center Y", 2.5)}));
+    EXPECT_EQ(changed("AcDbCircle", {record("Center Y", 2.5, 7)}), changed("AcDbCircle", {record("Center Y", 2.5)}));
 }
 
 TEST(GeometryChanges, CountTheVerticesOfSolidsAndFacesFromOne)
@@ -114,20 +107,16 @@ TEST(GeometryChanges, CountTheVerticesOfSolidsAndFacesFromOne)
     const std::string first = " double X1;\n double Y1;\n double Z1;\n"
                               " it1.GetVertex1Coordinate(out X1, out Y1, out Z1);\n X1 = 5.00000000000000;\n"
                               " it1.SetVertex1Coordinate(X1, Y1, Z1);\n";
-    for (const Handler handler :
-         {&Objects::ConvertModifiedSolid, &Objects::ConvertModifiedTrace, &Objects::ConvertModifiedFace})
-        EXPECT_EQ(changed(handler, {record("Vertex X", 5.0, 0)}), first);
-    EXPECT_NE(changed(&Objects::ConvertModifiedFace, {record("Vertex X", 5.0, 3)}), "");
-    EXPECT_EQ(changed(&Objects::ConvertModifiedFace, {record("Vertex X", 5.0, 4)}), "");
-    EXPECT_EQ(changed(&Objects::ConvertModifiedFace, {record("Edge 2", item(0, "VISIBLE"))}),
-              " it1.Edge2Visible = true;\n");
+    for (const char* cls : {"AcDbSolid", "AcDbTrace", "AcDbFace"})
+        EXPECT_EQ(changed(cls, {record("Vertex X", 5.0, 0)}), first);
+    EXPECT_NE(changed("AcDbFace", {record("Vertex X", 5.0, 3)}), "");
+    EXPECT_EQ(changed("AcDbFace", {record("Vertex X", 5.0, 4)}), "");
+    EXPECT_EQ(changed("AcDbFace", {record("Edge 2", item(0, "VISIBLE"))}), " it1.Edge2Visible = true;\n");
 }
 
 TEST(GeometryChanges, ReadTheChosenWord)
 {
-    const auto closed = [](const CFxVariant& value) {
-        return changed(&Objects::ConvertModifiedPolyline, {record("Closed", value)});
-    };
+    const auto closed = [](const CFxVariant& value) { return changed("AcDbPolyline", {record("Closed", value)}); };
     EXPECT_EQ(closed(choice(0)), " it1.Closed = true;\n");
     EXPECT_EQ(closed(choice(1)), " it1.Closed = false;\n");
     EXPECT_EQ(closed(item(1, "YES")), " it1.Closed = true;\n");
@@ -135,14 +124,14 @@ TEST(GeometryChanges, ReadTheChosenWord)
     EXPECT_EQ(closed(CFxString("Yes")), "");
 
     const auto smooth = [](const CFxVariant& value) {
-        return changed(&Objects::ConvertModifiedPolyline3D, {record("Fit/Smooth", value)}, Target::JavaScript);
+        return changed("AcDb3dPolyline", {record("Fit/Smooth", value)}, Target::JavaScript);
     };
     EXPECT_EQ(smooth(choice(1)), " it1.put_FitSmooth( \"iwPolyLine3DFitSmooth_Qudratic\" );\n");
     EXPECT_EQ(smooth(item(0, "cubic")), " it1.put_FitSmooth( \"iwPolyLine3DFitSmooth_Cubic\" );\n");
     for (const CFxVariant& none : {choice(2), choice(-1), CFxVariant(CFxString("Cubic"))})
         EXPECT_EQ(smooth(none), "");
 
-    EXPECT_EQ(changed(&Objects::ConvertModifiedViewport,
+    EXPECT_EQ(changed("AcDbViewport",
                       {record("On", item(0, "Yes")), record("Standard scale", item(0, "1:2")),
                        record("Shade print", item(0, "Hidden")), record("Custom scale", 0.5)},
                       Target::VbNet),
@@ -156,12 +145,12 @@ TEST(GeometryChanges, KnowTheTwoPointsOfALine)
     const std::string second = " double getX1;\n double getY1;\n double getZ1;\n"
                                " it1.GetSecondPoint(out getX1, out getY1, out getZ1);\n getZ1 = 4.00000000000000;\n"
                                " it1.SetSecondPoint(getX1, getY1, getZ1);\n";
-    EXPECT_EQ(changed(&Objects::ConvertModifiedLine, {record("End Z", 4.0)}), second);
-    EXPECT_EQ(changed(&Objects::ConvertModifiedInfiniteLine, {record("Second point Z", 4.0)}), second);
-    EXPECT_EQ(changed(&Objects::ConvertModifiedInfiniteLine, {record("Base point X", 4.0)}, Target::JavaScript),
+    EXPECT_EQ(changed("AcDbLine", {record("End Z", 4.0)}), second);
+    EXPECT_EQ(changed("AcDbXline", {record("Second point Z", 4.0)}), second);
+    EXPECT_EQ(changed("AcDbXline", {record("Base point X", 4.0)}, Target::JavaScript),
               " var get = it1.GetFirstPoint();\n get.X = 4.00000000000000;\n"
               " it1.SetFirstPoint(get.X, get.Y, get.Z);\n");
-    EXPECT_EQ(changed(&Objects::ConvertModifiedPoint, {record("Position X", 4.0)}, Target::Vba),
+    EXPECT_EQ(changed("AcDbPoint", {record("Position X", 4.0)}, Target::Vba),
               " Dim getX1 As Double\n Dim getY1 As Double\n Dim getZ1 As Double\n"
               " it1.GetPosition getX1, getY1, getZ1\n getX1 = 4.00000000000000\n"
               " it1.SetPosition getX1, getY1, getZ1\n");
@@ -169,25 +158,24 @@ TEST(GeometryChanges, KnowTheTwoPointsOfALine)
 
 TEST(GeometryChanges, KeepTheFaultsOfVertices)
 {
-    EXPECT_EQ(changed(&Objects::ConvertModifiedLeader, {record("Vertex y", 4.0, 2)}, Target::JavaScript),
+    EXPECT_EQ(changed("AcDbLeader", {record("Vertex y", 4.0, 2)}, Target::JavaScript),
               " double X;\n double Y;\n double Z;\n it1.GetVertexCoordinate(2, out X, out Y, out Z);\n"
               " Y = 4.00000000000000;\n it1.SetVertexCoordinate(2, X, Y, Z);\n");
     const PropertyList list{record("Vertex Y", 4.0, 2), record("End segment width", 0.5, 1)};
-    EXPECT_EQ(changed(&Objects::ConvertModifiedPolyline, list, Target::Cpp),
+    EXPECT_EQ(changed("AcDbPolyline", list, Target::Cpp),
               " bool bRetVal1 = false;\n it1->SetSegmentEndWidth( 1, 0.50000000000000, &bRetVal1 );\n"
               " double X;\n double Y;\n bool retVal = false;\n it1->GetVertexCoordinate( 2, &X, &Y );\n"
               " Y = 4.00000000000000;\n it1->SetVertexCoordinate( 2, X, Y, &retVal );\n");
-    EXPECT_EQ(changed(&Objects::ConvertModifiedPolyline, list),
-              " it1.SetSegmentEndWidth( 1, 0.50000000000000 );\n"
-              " double X1;\n double Y1;\n it1.GetVertexCoordinate(2, out X1, out Y1);\n"
-              " Y1 = 4.00000000000000;\n it1.SetVertexCoordinate(2, X1, Y1);\n");
+    EXPECT_EQ(changed("AcDbPolyline", list), " it1.SetSegmentEndWidth( 1, 0.50000000000000 );\n"
+                                             " double X1;\n double Y1;\n it1.GetVertexCoordinate(2, out X1, out Y1);\n"
+                                             " Y1 = 4.00000000000000;\n it1.SetVertexCoordinate(2, X1, Y1);\n");
 }
 
 TEST(GeometryChanges, FetchOptionsForEachTag)
 {
     const PropertyList list{record("DimLine LWeight", 25), record("Arrow", item(3, "Dot")),
                             record("Type", item(2, "?")), record("DimScale overall", 2.0)};
-    EXPECT_EQ(changed(&Objects::ConvertModifiedLeader, list),
+    EXPECT_EQ(changed("AcDbLeader", list),
               " it1.Type = iwLeaderType_e.iwLeaderType_LineWithArrow;\n"
               " Inkwright.DimensionStyleUserData dimensionStyle1 = it1.GetDimensionStyleUserData();\n"
               " DimensionStyleArrowsOptions arrowOptions2 = dimensionStyle1.GetDimensionStyleArrowsOptions();\n"
@@ -199,65 +187,40 @@ TEST(GeometryChanges, FetchOptionsForEachTag)
               " DimensionStyleFitOptions fitOptions6 = dimensionStyle5.GetDimensionStyleFitOptions();\n"
               " fitOptions6.SetDimensionScale( iwDimensionScale_e.iwDimensionScale_UseScaleFactor, "
               "2.00000000000000 );\n");
-    EXPECT_EQ(changed(&Objects::ConvertModifiedLeader, {record("Text offset", CFxString("0,5"))}, Target::Cpp),
+    EXPECT_EQ(changed("AcDbLeader", {record("Text offset", CFxString("0,5"))}, Target::Cpp),
               " iwDimensionStyleUserData_ptr dimensionStyle1;\n it1->GetDimensionStyleUserData( &dimensionStyle1 );\n"
               " iwDimensionStyleTextOptions_ptr textOptions2;\n"
               " dimensionStyle1->GetDimensionStyleTextOptions( &textOptions2 );\n"
               " textOptions2->put_OffsetFromDimensionLines( 0,5 );\n");
-    EXPECT_EQ(changed(&Objects::ConvertModifiedTolerance,
-                      {record("Content", CFxString("{\\Fgdt}\nA")), record("Dim style", item(0, "ISO-25"))}),
+    EXPECT_EQ(changed("AcDbFcf", {record("Content", CFxString("{\\Fgdt}\nA")), record("Dim style", item(0, "ISO-25"))}),
               " it1.DimensionStyle = \"ISO-25\";\n it1.Text = \"{\\\\Fgdt}\\nA\";\n");
 }
 
-/// With the tags of an added object the handlers only clear the list.
-TEST(GeometryChanges, AreNotWrittenForAddedObjects)
+/// What the reader of an added object leaves of its changes is taken, left or written, as the class's row says.
+TEST(GeometryChanges, OfAddedObjectsFollowTheirClass)
 {
-    const std::vector<std::pair<Handler, std::vector<const char*>>> handlers{
-        {&Objects::ConvertModifiedCircle, {"Radius", "Area", "Center X", "Center Y", "Center Z", "Circumference"}},
-        {&Objects::ConvertModifiedPoint, {"Position X", "Position Y", "Position Z"}},
-        {&Objects::ConvertModifiedRay, {"Base point X", "Second point Z"}},
-        {&Objects::ConvertModifiedArc, {"Center X", "End Angle", "Radius", "Start Angle"}},
-        {&Objects::ConvertModifiedInfiniteLine, {"Base point Y", "Second point X"}},
-        {&Objects::ConvertModifiedEllipse,
-         {"Center Z", "End angle", "Major radius", "Minor radius", "Radius ratio", "Start angle"}},
-        {&Objects::ConvertModifiedPolyline3D, {"Vertex X", "Vertex Y", "Vertex Z", "Fit/Smooth", "Closed"}},
-        {&Objects::ConvertModifiedPolyline,
-         {"Elevation", "Global width", "Start segment width", "End segment width", "Vertex X", "Vertex Y", "Closed",
-          "LineStyleGen"}},
-        {&Objects::ConvertModifiedSpline, {"Control point X", "Fit point Y", "Fit tolerance"}},
-        {&Objects::ConvertModifiedPolygonMesh,
-         {"Vertex Z", "M closed", "M density", "N density", "N closed", "Fit/Smooth"}},
-        {&Objects::ConvertModifiedPolyFaceMesh, {"Vertex X", "Vertex Y", "Vertex Z"}},
-        {&Objects::ConvertModifiedSolid, {"Vertex X", "Vertex Y", "Vertex Z"}},
-        {&Objects::ConvertModifiedTrace, {"Vertex X", "Vertex Y", "Vertex Z"}},
-        {&Objects::ConvertModifiedFace, {"Edge 1", "Edge 2", "Edge 3", "Edge 4", "Vertex X"}},
-        {&Objects::ConvertModifiedRichLine, {"RLine justification", "RLine scale"}},
-        {&Objects::ConvertModifiedShape, {"Position X", "Obliquing", "Rotation", "Size", "Width factor"}},
-        {&Objects::ConvertModifiedEmbeddedObject, {"Height", "Position Z", "Width", "Print quality"}},
-        {&Objects::ConvertModifiedLeader,
-         {"Vertex x", "Vertex y", "Vertex z", "DimStyle", "Type", "Arrow", "Arrow size", "DimLine LColor",
-          "DimLine LWeight", "Text offset", "DimScale overall"}},
-        {&Objects::ConvertModifiedTolerance,
-         {"Position Y", "Dim scale overall", "Dim style", "DimLine LColor", "TextStyle", "Text height", "TextColor",
-          "Content"}},
-        {&Objects::ConvertModifiedViewport,
-         {"Center X", "Height", "Width", "CCS per viewport", "Custom scale", "Display locked", "On", "Shade print",
-          "Standard scale"}},
-        {&Objects::ConvertModifiedLine, {"Start X", "Start Y", "Start Z", "End X", "End Y", "End Z"}},
-    };
-    CFxConverterIWAPICSharp driver{0};
-    InTarget objects(Target::CSharp, &driver);
-    QString text = "before\n";
-    for (const auto& [handler, tags] : handlers) {
-        EXPECT_EQ(text, "before\n");
+    for (const ClassRow& row : ClassTable()) {
         PropertyList list;
-        for (const char* tag : tags)
-            list.push_back(record(tag, 1.0, 0));
-        EXPECT_EQ((objects.*handler)(list, true, "it1", text), kFxSuccess);
-        EXPECT_TRUE(list.empty()) << tags.front() << ", left: " << list.size();
+        if (row.changes.groups)
+            for (const ChangeGroup& group : *row.changes.groups)
+                for (const ChangeRows& rows : group)
+                    for (const ChangeRow& change : rows.rows)
+                        list.push_back(record(change.tag, 1.0, 0));
+        else if (row.changes.handler == &CFxConverterIWAPIObject::ConvertModifiedLine)
+            for (const char* tag : {"Start X", "Start Y", "Start Z", "End X", "End Y", "End Z"})
+                list.push_back(record(tag, 1.0, 0));
+        if (list.empty())
+            continue;
+        const std::size_t all = list.size();
+        TestTarget made(Target::CSharp);
+        OdRxClass* const cls = oddbClassByName(row.name);
+        made.driver.RegisterObject(OdDbHandle(1), cls);
+        QString text;
+        EXPECT_EQ(made.objects.ConvertObjectChanges(cls, OdDbHandle(1), list, true, text), kFxSuccess);
+        EXPECT_EQ(text.isEmpty(), row.whenAdded != WhenAdded::Write) << row.name;
+        EXPECT_EQ(list.size(), row.whenAdded == WhenAdded::Skip ? all : 0) << row.name;
+        EXPECT_EQ(made.writer.UniqueCounter, 0U) << row.name;
     }
-    EXPECT_EQ(text, "") << "the line's handler empties the text";
-    EXPECT_EQ(driver.UniqueCounter, 0U);
 }
 
 } // namespace

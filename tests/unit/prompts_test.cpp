@@ -1,7 +1,9 @@
 // Prompts in a replay: what is read of an answer, and the statements that ask for it again.
 
 #include "TestActions.h"
-#include "targets/PhrasedConverter.h"
+#include "TestTarget.h"
+
+#include "targets/prompts.h"
 
 #include <gtest/gtest.h>
 
@@ -37,15 +39,6 @@ public:
     Words global;
 };
 
-/// A converter without a file around its statements.
-class Prompter final : public PhrasedConverter
-{
-public:
-    explicit Prompter(Target target = Target::CSharp) : PhrasedConverter(target, 1) { IndentLevel = 1; }
-    QString EmitFileHeader(const QString&, bool) override { return {}; }
-    QString EmitFileFooter() override { return {}; }
-};
-
 struct Outcome
 {
     std::int32_t status;
@@ -55,10 +48,10 @@ struct Outcome
 
 Outcome replay(const OdSmartPtr<TestInteraction>& interaction, Target target = Target::CSharp)
 {
-    Prompter prompter(target);
+    TestTarget prompter(target, 1);
     QString text = "before";
-    const std::int32_t status = prompter.ConvertAction(OdRxObjectPtr(interaction.get()), text);
-    return {status, text, prompter.UniqueCounter};
+    const std::int32_t status = prompter.driver.ConvertAction(OdRxObjectPtr(interaction.get()), text);
+    return {status, text, prompter.writer.UniqueCounter};
 }
 
 OdResBufPtr angle(double value)
@@ -148,11 +141,11 @@ TEST(Prompts, ShowTheLastLineOfTheirTextOrADefault)
 
 TEST(Prompts, CountOnWithinACommand)
 {
-    Prompter prompter;
+    TestTarget prompter(Target::CSharp, 1);
     QString text;
     QTextStream stream(&text);
-    prompter.UniqueCounter = 40;
-    prompter.ConvertCommand(
+    prompter.writer.UniqueCounter = 40;
+    prompter.driver.ConvertCommand(
         stream, "ROTATE",
         {odrxNew<TestInteraction>(Kind::kAngle, "A", angle(1234567)),
          odrxNew<TestInteraction>(Kind::kAngle, "cancelled", nullptr),
@@ -175,13 +168,13 @@ TEST(Prompts, CountOnWithinACommand)
                     "        int integer3 = -3;\n"
                     "        iwApp.GetCommandMessage().PromptForInteger(\"I\", -3, out integer3);\n"
                     "    }\n");
-    EXPECT_EQ(prompter.UniqueCounter, 40U);
+    EXPECT_EQ(prompter.writer.UniqueCounter, 40U);
 }
 
 constexpr std::array targets{Target::Cpp,        Target::CppCom, Target::CSharp,
                              Target::JavaScript, Target::VbNet,  Target::Vba};
 
-using Emit = QString (*)(Prompter&);
+using Emit = QString (*)(Writer&);
 /// In the order of `targets`, without the indentation of four blanks and without `cmdMesage`, whose fetch is the same
 /// in all C++ statements.
 using Expected = std::array<const char*, 6>;
@@ -189,16 +182,16 @@ using Expected = std::array<const char*, 6>;
 void expectStatements(Emit ask, const Expected& expected)
 {
     for (std::size_t i = 0; i < targets.size(); ++i) {
-        Prompter prompter(targets[i]);
-        prompter.UniqueCounter = 6;
-        QString text = ask(prompter);
+        TestTarget prompter(targets[i], 1);
+        prompter.writer.UniqueCounter = 6;
+        QString text = ask(prompter.writer);
         const QString fetch = "    iwCommandMessage_c* cmdMesage7;\n    m_pIwApp->GetCommandMessage(&cmdMesage7);\n";
         EXPECT_EQ(text.count(fetch), targets[i] == Target::Cpp ? 1 : 0);
         text.remove(fetch);
         EXPECT_TRUE(text.startsWith("    ")) << text.toStdString();
         text.replace("\n    ", "\n");
         EXPECT_EQ(text.mid(4).toStdString(), expected[i]);
-        EXPECT_EQ(prompter.UniqueCounter, 7U);
+        EXPECT_EQ(prompter.writer.UniqueCounter, 7U);
     }
 }
 
@@ -209,7 +202,7 @@ TEST(PromptStatements, AskForOneValue)
         Emit ask;
         Expected expected;
     } rows[] = {
-        {[](Prompter& p) { return p.EmitPromptAngle("P:", 0.5); },
+        {[](Writer& writer) { return EmitPromptAngle(writer, "P:", 0.5); },
          {"double angle7 = 0.5;\nbool  result7;\ncmdMesage7->PromptForAngle( L\"P:\", 0.5, &angle7, &result7 );\n",
           "double angle7 = 0.5;\npConnection->m_IwApp->GetCommandMessage()->PromptForAngle( L\"P:\", 0.5, &angle7);\n",
           "double angle7 = 0.5;\niwApp.GetCommandMessage().PromptForAngle(\"P:\", 0.5, out angle7);\n",
@@ -217,7 +210,7 @@ TEST(PromptStatements, AskForOneValue)
           "Dim angle7 As Double = 0.5\niwApp.GetCommandMessage().PromptForAngle(\"P:\", 0.5, angle7)\n",
           "Dim IO_angle7 As Double2    IO_angle7 = 0.5\n"
           "iwApp.GetCommandMessage().PromptForAngle \"P:\", 0.5, IO_angle7\n"}},
-        {[](Prompter& p) { return p.EmitPromptDistance("P:", 1e-5); },
+        {[](Writer& writer) { return EmitPromptDistance(writer, "P:", 1e-5); },
          {"double distance7 = 1e-05;\nbool  result7;\n"
           "cmdMesage7->PromptForDistance( L\"P:\", 1e-05, &distance7, &result7 );\n",
           "double distance7 = 1e-05;\n"
@@ -227,7 +220,7 @@ TEST(PromptStatements, AskForOneValue)
           "Dim distance7 As Double = 1e-05\niwApp.GetCommandMessage().PromptForDistance(\"P:\", 1e-05, distance7)\n",
           "Dim IO_distance7 As Double\nIO_distance7 = 1e-05\n"
           "iwApp.GetCommandMessage().PromptForDistance \"P:\", 1e-05, IO_distance7\n"}},
-        {[](Prompter& p) { return p.EmitPromptOrient("P:", 0); },
+        {[](Writer& writer) { return EmitPromptOrient(writer, "P:", 0); },
          {"double orient7 = 0;\nbool  result7;\n"
           "cmdMesage7->PromptForOrientation( L\"P:\", 0, &orient7, &result7 );\n",
           "double orient7 = 0;\n"
@@ -237,21 +230,21 @@ TEST(PromptStatements, AskForOneValue)
           "Dim orient7 As Double = 0\niwApp.GetCommandMessage().PromptForOrientation(\"P:\", 0, orient7)\n",
           "Dim IO_orient7 As Double\nIO_orient7 = 0\n"
           "iwApp.GetCommandMessage().PromptForOrientation \"P:\", 0, IO_orient7\n"}},
-        {[](Prompter& p) { return p.EmitPromptScale("P:", 2); },
+        {[](Writer& writer) { return EmitPromptScale(writer, "P:", 2); },
          {"double scale7 = 2;\nbool  result7;\ncmdMesage7->PromptForDouble( L\"P:\", 2, &scale7, &result7 );\n",
           "double scale7 = 2;\npConnection->m_IwApp->GetCommandMessage()->PromptForDouble( L\"P:\", 2, &scale7);\n",
           "double scale7 = 2;\niwApp.GetCommandMessage().PromptForDouble(\"P:\", 2,out scale7);\n",
           "var scale7 = mCmdMess.PromptForDouble(\"P:\", 2);\n",
           "Dim scale7 As Double = 2\niwApp.GetCommandMessage().PromptForDouble(\"P:\", 2, scale7)\n",
           "Dim IO_scale7 As Double\nIO_scale7 = 2\niwApp.GetCommandMessage().PromptForDouble \"P:\", 2, IO_scale7\n"}},
-        {[](Prompter& p) { return p.EmitPromptDouble("P:", 2); },
+        {[](Writer& writer) { return EmitPromptDouble(writer, "P:", 2); },
          {"double real7 = 2;\nbool  result7;\ncmdMesage7->PromptForDouble( L\"P:\", 2, &real7, &result7 );\n",
           "double real7 = 2;\npConnection->m_IwApp->GetCommandMessage()->PromptForDouble( L\"P:\", 2, &real7);\n",
           "double real7 = 2;\niwApp.GetCommandMessage().PromptForDouble(\"P:\", 2, out real7);\n",
           "var real7 = mCmdMess.PromptForDouble(\"P:\", 2);\n",
           "Dim real7 As Double = 2\niwApp.GetCommandMessage().PromptForDouble(\"P:\", 2, real7)\n",
           "Dim IO_real7 As Double\nIO_real7 = 2\niwApp.GetCommandMessage().PromptForDouble \"P:\", 2, IO_real7\n"}},
-        {[](Prompter& p) { return p.EmitPromptColor("P:", 5); },
+        {[](Writer& writer) { return EmitPromptColor(writer, "P:", 5); },
          {"long color7 = 5;\nbool  result7;\ncmdMesage7->PromptForInteger( L\"P:\", 5, &color7, &result7 );\n",
           "long color7 = 5;\npConnection->m_IwApp->GetCommandMessage()->PromptForInteger( L\"P:\", 5, &color7);\n",
           "int color7 = 5;\niwApp.GetCommandMessage().PromptForInteger(\"P:\", 5, out color7);\n",
@@ -259,7 +252,7 @@ TEST(PromptStatements, AskForOneValue)
           "Dim color7 As Integer = 5\niwApp.GetCommandMessage().PromptForInteger(\"P:\", 5, color7)\n",
           "Dim IO_color7 As Integer\nIO_color7 = 5\n"
           "iwApp.GetCommandMessage().PromptForInteger \"P:\", 5, IO_color7\n"}},
-        {[](Prompter& p) { return p.EmitPromptInteger("P:", -5); },
+        {[](Writer& writer) { return EmitPromptInteger(writer, "P:", -5); },
          {"long integer7 = -5;\nbool  result7;\ncmdMesage7->PromptForInteger( L\"P:\", -5, &integer7, &result7 );\n",
           "long integer7 = -5;\n"
           "pConnection->m_IwApp->GetCommandMessage()->PromptForInteger( L\"P:\", -5, &integer7);\n",
@@ -268,7 +261,7 @@ TEST(PromptStatements, AskForOneValue)
           "Dim integer7 As Integer = -5\niwApp.GetCommandMessage().PromptForInteger(\"P:\", -5, integer7)\n",
           "Dim IO_integer7 As Integer\nIO_integer7 = -5\n"
           "iwApp.GetCommandMessage().PromptForInteger \"P:\", -5, IO_integer7\n"}},
-        {[](Prompter& p) { return p.EmitPromptString("P:", "a\\b"); },
+        {[](Writer& writer) { return EmitPromptString(writer, "P:", "a\\b"); },
          {"iwString text7 = L\"a\\b\";\nbool  result7;\n"
           "cmdMesage7->PromptForString( true, L\"P:\", L\"a\\b\", &text7, &result7 );\n",
           "BSTR text7 = L\"a\\b\";\n"
@@ -280,8 +273,8 @@ TEST(PromptStatements, AskForOneValue)
           "iwApp.GetCommandMessage().PromptForString( True, \"P:\", \"a\\b\", text7)\n",
           "Dim IO_text7 As String\nIO_text7 = \"a\\b\"\n"
           "iwApp.GetCommandMessage().PromptForString True, \"P:\", \"a\\b\", IO_text7\n"}},
-        {[](Prompter& p) {
-             return p.EmitPromptCorner("P:", {1, 2.5, -3});
+        {[](Writer& writer) {
+             return EmitPromptCorner(writer, "P:", {1, 2.5, -3});
          },
          {"double x7 = 1, y7 = 2.5, z7 = -3;\nbool  result7;\n"
           "cmdMesage7->PromptForPoint( L\"P:\", &x7, &y7, &z7, &result7 );\n",
@@ -304,8 +297,8 @@ TEST(PromptStatements, AskForOneValue)
 TEST(PromptStatements, BuildAStageForAPoint)
 {
     expectStatements(
-        [](Prompter& p) {
-            return p.EmitPromptPoint("P:", {1, 2.5, -3});
+        [](Writer& writer) {
+            return EmitPromptPoint(writer, "P:", {1, 2.5, -3});
         },
         {"iwMathUtility_ptr m_pMathUtil7;\niwMathPlane_ptr plane7;\n"
          "m_pIwApp->GetMathUtility( &m_pMathUtil7 );\nm_pMathUtil7->CreateYZPlane( &plane7 );\n"
@@ -368,8 +361,8 @@ TEST(PromptStatements, BuildAStageForAPoint)
 TEST(PromptStatements, ListKeywords)
 {
     expectStatements(
-        [](Prompter& p) {
-            return p.EmitPromptKeyword("P:", {"Ja", "Nein"}, {"_Yes", "_No"});
+        [](Writer& writer) {
+            return EmitPromptKeyword(writer, "P:", {"Ja", "Nein"}, {"_Yes", "_No"});
         },
         {"iwStringArray iwlocal6;\niwStringArray iwglobal6;\niwString keyword6 = L\"Ja\";\niwlocal6.add(L\"Ja\");\n"
          "iwglobal6.add(L\"_Yes\");\niwlocal6.add(L\"Nein\");\niwglobal6.add(L\"_No\");\n\n"
@@ -404,13 +397,13 @@ TEST(PromptStatements, ListKeywords)
          "Dim value7 As String \nDim ErrorMsg7 As String\nErrorMsg7 = \"\"\niwApp.GetCommandMessage()."
          "PromptForKeyword2 \"P:\", ErrorMsg7, iwglobal6, iwlocal6, 1, keyword6, value7\n"});
 
-    Prompter basic(Target::Vba);
-    EXPECT_TRUE(basic.EmitPromptKeyword("P:", {}, {"_Yes"})
+    TestTarget basic(Target::Vba, 1);
+    EXPECT_TRUE(EmitPromptKeyword(basic.writer, "P:", {}, {"_Yes"})
                     .startsWith("    Dim iwlocal0(0) As String\n    Dim iwglobal0(0) As String\n"
                                 "    Dim keyword0 As String\n    keyword0 = \"\"\n\n    Dim value1 As String \n"));
-    Prompter com(Target::CppCom);
+    TestTarget com(Target::CppCom, 1);
     EXPECT_TRUE(
-        com.EmitPromptKeyword("P:", {}, {})
+        EmitPromptKeyword(com.writer, "P:", {}, {})
             .contains("    BSTR keyword0 = L\"\";\n    long index0 = 0;\n    BSTR str0;\n\n    BSTR value1;\n"));
 }
 

@@ -1,14 +1,7 @@
 // Property lists: how a tag is found, what a read leaves behind, and what an added object makes of its two lists.
 
 #include "TestActions.h"
-
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/RecordingState.h"
-#include "host/kernel/CFxServices.h"
-#include "objects/targets/csharp/CFxConverterIWAPIObjectCSharp.h"
-#include "targets/csharp/CFxConverterIWAPICSharp.h"
-
-#include <gtest/gtest.h>
+#include "TestTarget.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -33,25 +26,27 @@ public:
     bool isEmpty() const override { return false; }
 };
 
+std::vector<QString> tagsOf(const PropertyList& list)
+{
+    std::vector<QString> tags;
+    for (const CFxPropertyChangedPtr& record : list)
+        tags.push_back(record->GetName());
+    return tags;
+}
+
 class Properties : public testing::Test
 {
 protected:
     Properties() : application(argc, argv) {}
 
-    CFxVariant find(const CFxString& tag) { return converter.FindProperty(tag, list, 0, &consumed, &index); }
-    std::vector<QString> tagsLeft() const
-    {
-        std::vector<QString> tags;
-        for (const CFxPropertyChangedPtr& record : list)
-            tags.push_back(record->GetName());
-        return tags;
-    }
+    CFxVariant find(const CFxString& tag) { return csharp.objects.FindProperty(tag, list, 0, &consumed, &index); }
+    std::vector<QString> tagsLeft() const { return tagsOf(list); }
 
     int argc = 1;
     char name[5] = "test";
     char* argv[2] = {name, nullptr};
     QCoreApplication application;
-    CFxConverterIWAPIObjectCSharp converter{nullptr};
+    TestTarget csharp{inkmacro::Target::CSharp};
     PropertyList list;
     PropertyList consumed;
     CFxVariant index;
@@ -105,7 +100,7 @@ TEST_F(Properties, AreFoundByTheGroupOfBlockAttributes)
 TEST_F(Properties, MakePointsOfWhatWasRecorded)
 {
     list = {record("Center Z", 3.0), record("Center X", 1.0), record("Radius", 9.0)};
-    EXPECT_EQ(converter.FindPoint("Center X", "Center Y", "Center Z", list, 0), (OdGePoint3d{1.0, 0.0, 3.0}));
+    EXPECT_EQ(csharp.objects.FindPoint("Center X", "Center Y", "Center Z", list, 0), (OdGePoint3d{1.0, 0.0, 3.0}));
     EXPECT_EQ(tagsLeft(), std::vector<QString>{"Radius"});
 }
 
@@ -122,105 +117,76 @@ TEST_F(Properties, ShowYesAndOnInTheHostsLanguage)
     EXPECT_FALSE(IsYes(shown("Yes")));
 }
 
-/// Gives the records that the general handler was left with.
-class Watched final : public PhrasedObjectConverter
-{
-public:
-    explicit Watched(CFxConverterIWAPIImpl* driver) : PhrasedObjectConverter(inkmacro::Target::CSharp, driver) {}
-    std::int32_t ConvertObjectChanges(OdRxClass*, OdDbHandle, PropertyList& list, bool fromAdded,
-                                      QString& text) override
-    {
-        for (const CFxPropertyChangedPtr& left : list)
-            rest.push_back(left->GetName().toQString() + ' ' + left->GetGroup().toQString());
-        EXPECT_TRUE(fromAdded);
-        text = "general\n";
-        return status;
-    }
-
-    std::vector<QString> rest;
-    std::int32_t status = kFxSuccess;
-};
-
 class AddedObjects : public testing::Test
 {
 protected:
-    AddedObjects() { GetFxSystemServices()->SetInt16("RecordingLanguage", 1); }
-    ~AddedObjects() override { GetFxSystemServices()->SetInt16("RecordingLanguage", 0); }
-
-    std::int32_t add(const char* cls, PropertyList records)
+    QString add(const char* cls, PropertyList read)
     {
-        driver.RegisterObject(OdDbHandle(1), oddbClassByName(cls));
-        return converter.ConvertObjectAdded(odrxNew<TestAdded>(cls, 1, records, records), text);
+        csharp.driver.RegisterObject(OdDbHandle(1), oddbClassByName(cls));
+        rest = read;
+        QString text;
+        EXPECT_EQ(csharp.objects.ConvertAddedObject(oddbClassByName(cls), OdDbHandle(1), read, rest, text), kFxSuccess);
+        return text;
     }
 
-    CFxConverterIWAPICSharp driver{0};
-    Watched converter{&driver};
-    QString text = "before\n";
+    TestTarget csharp{inkmacro::Target::CSharp};
+    PropertyList rest;
 };
 
 TEST_F(AddedObjects, LeaveWhatTheReaderDidNotTake)
 {
-    ASSERT_EQ(add("AcDbCircle", {record("Radius", 2.0, "Geometry"), record("Radius", 3.0, "Geometry"),
-                                 record("Layer", CFxString("0"), "General")}),
-              kFxSuccess);
-    EXPECT_EQ(converter.rest, (std::vector<QString>{"Radius Geometry", "Layer General"}));
-    EXPECT_EQ(text, "before\n circle1 = iwSketchManager.InsertCircle( 0.00000000000000, 0.00000000000000, "
-                    "0.00000000000000, 2.00000000000000 );\ngeneral\n");
+    add("AcDbText", {record("Height", 2.0, "Text"), record("Height", 3.0, "Text"), record("Height", 4.0, "Box")});
+    EXPECT_EQ(tagsOf(rest), (std::vector<QString>{"Height", "Height"}));
+    EXPECT_EQ(rest[0]->GetValue(0).GetDouble(), 3.0);
+    EXPECT_EQ(rest[1]->GetValue(0).GetDouble(), 4.0);
+
+    EXPECT_EQ(add("AcDbCircle", {record("Radius", 2.0, "Geometry"), record("LineScale", 0.5, "General"),
+                                 record("Note", CFxString("0"), "General")})
+                  .toStdString(),
+              " circle2 = iwSketchManager.InsertCircle( 0.00000000000000, 0.00000000000000, "
+              "0.00000000000000, 2.00000000000000 );\n {\n    circle2.LineScale = 0.50000000000000;\n }\n");
+    EXPECT_EQ(tagsOf(rest), std::vector<QString>{"Note"});
 }
 
 TEST_F(AddedObjects, AreNotAskedForMoreWhenNothingWasCreated)
 {
-    for (const char* cls : {"AcDbRegion", "HostWeldSymbol"})
-        EXPECT_EQ(add(cls, {record("Layer", CFxString("0"))}), kFxSuccess);
+    const PropertyList list{record("LineScale", 0.5)};
+    EXPECT_EQ(add("AcDbRegion", list), "");
+    EXPECT_EQ(rest.size(), 1U);
+    QString text = "before\n";
+    const auto convert = [&](const char* cls, std::uint64_t handle) {
+        return csharp.objects.ConvertObjectAdded(odrxNew<TestAdded>(cls, handle, list, list), text);
+    };
+    EXPECT_EQ(convert("HostWeldSymbol", 1), kFxSuccess);
     // Known to the driver under no handle.
-    EXPECT_EQ(converter.ConvertObjectAdded(odrxNew<TestAdded>("AcDbLine", 2), text), kFxSuccess);
-    EXPECT_TRUE(converter.rest.empty());
+    EXPECT_EQ(convert("AcDbLine", 2), kFxSuccess);
     EXPECT_EQ(text, "before\n");
 }
 
-TEST_F(AddedObjects, AreLostWholeWhenTheirRestFails)
+TEST_F(AddedObjects, FailWithoutAnAction)
 {
-    converter.status = kFxFailure;
-    EXPECT_EQ(add("AcDbPoint", {}), kFxFailure);
+    QString text = "before\n";
+    EXPECT_EQ(csharp.objects.ConvertObjectAdded(nullptr, text), kFxFailure);
+    EXPECT_EQ(csharp.objects.ConvertObjectModified(nullptr, text), kFxFailure);
+    EXPECT_EQ(csharp.objects.ConvertPropertyChanged(nullptr, text), kFxFailure);
     EXPECT_EQ(text, "before\n");
-    EXPECT_EQ(converter.ConvertObjectAdded(nullptr, text), kFxFailure);
-    EXPECT_EQ(converter.ConvertObjectModified(nullptr, text), kFxFailure);
-}
-
-TEST_F(AddedObjects, NeedADriver)
-{
-    Watched orphan(nullptr);
-    try {
-        orphan.ConvertObjectAdded(odrxNew<TestAdded>("AcDbLine", 1), text);
-        FAIL() << "no error";
-    } catch (const OdError& error) {
-        EXPECT_EQ(error.code(), 20);
-    }
 }
 
 TEST(ModifiedObjects, GetACommentOnlyWhereAStatementStands)
 {
-    CFxConverterIWAPICSharp driver{0};
-    struct Speaking final : PhrasedObjectConverter
-    {
-        using PhrasedObjectConverter::PhrasedObjectConverter;
-        explicit Speaking(CFxConverterIWAPIImpl* driver) : PhrasedObjectConverter(inkmacro::Target::CSharp, driver) {}
-        std::int32_t ConvertObjectChanges(OdRxClass*, OdDbHandle, PropertyList& list, bool, QString& text) override
-        {
-            text = list.front()->GetValue(0).GetString();
-            return kFxSuccess;
-        }
-    } converter(&driver);
+    TestTarget csharp(inkmacro::Target::CSharp);
+    csharp.driver.RegisterObject(OdDbHandle(1), oddbClassByName("AcDbLine"));
     QString text;
     const auto modify = [&](const char* cls, PropertyList list) {
-        EXPECT_EQ(converter.ConvertObjectModified(odrxNew<TestModified>(cls, 1, std::move(list)), text), kFxSuccess);
+        EXPECT_EQ(csharp.objects.ConvertObjectModified(odrxNew<TestModified>(cls, 1, std::move(list)), text),
+                  kFxSuccess);
     };
     modify("AcDbLine", {});
-    modify("AcDbLine", {record("Layer", CFxString())});
-    modify("HostWeldSymbol", {record("Layer", CFxString("lost\n"))});
+    modify("AcDbLine", {record("Layer", CFxString("unknown"))});
+    modify("HostWeldSymbol", {record("LineScale", 0.5)});
     EXPECT_EQ(text, "");
-    modify("AcDbLine", {record("Layer", CFxString("kept\n"))});
-    EXPECT_EQ(text, " // AcDbLine object modified\nkept\n");
+    modify("AcDbLine", {record("LineScale", 0.5)});
+    EXPECT_EQ(text.toStdString(), " // AcDbLine object modified\n {\n    line1.LineScale = 0.50000000000000;\n }\n");
 }
 
 } // namespace

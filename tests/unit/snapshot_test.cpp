@@ -286,7 +286,7 @@ TEST(InsertUnits, HaveAnEnumeratorEach)
 {
     const auto enumerator = [](int units) {
         const CFxString text = CFxUtils::GetStringForUnitScalingFactor(units);
-        return inkmacro::EnumeratorByText(inkmacro::Target::Vba, "iwBlockInsertUnits", text);
+        return inkmacro::EnumeratorByText(inkmacro::Target::Vba, inkmacro::enums::blockInsertUnits, text);
     };
     std::set<QString> met;
     for (int units = 0; units <= 20; ++units)

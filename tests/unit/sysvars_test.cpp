@@ -1,10 +1,11 @@
 // System variables and file locations: what a change of one becomes in each target.
 
 #include "TestActions.h"
+#include "TestTarget.h"
 
 #include "actions/optionTable.h"
-#include "host/kernel/CFxServices.h"
-#include "targets/PhrasedConverter.h"
+#include "targets/fileLocations.h"
+#include "targets/options.h"
 
 #include <gtest/gtest.h>
 
@@ -13,16 +14,6 @@
 using namespace inkmacro;
 
 namespace {
-
-/// The statements of a target without its file.
-class Statements final : public PhrasedConverter
-{
-public:
-    explicit Statements(Target target) : PhrasedConverter(target, 1) { IndentLevel = 1; }
-
-    QString EmitFileHeader(const QString&, bool) override { return {}; }
-    QString EmitFileFooter() override { return {}; }
-};
 
 class ChangedVariable final : public CFxSysVarChanged
 {
@@ -87,19 +78,19 @@ protected:
         GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
     }
 
-    static std::string converted(CFxConverterIWAPIImpl& target, const char* variable, OdResBuf::Value value,
-                                 QString text = {})
+    static std::string converted(TestTarget& target, const char* variable, OdResBuf::Value value, QString text = {})
     {
-        EXPECT_EQ(target.ConvertSysVar(odrxNew<ChangedVariable>(variable, std::move(value)), text), kFxSuccess);
+        EXPECT_EQ(target.driver.ConvertSysVar(odrxNew<ChangedVariable>(variable, std::move(value)), text), kFxSuccess);
         return text.toStdString();
     }
 
-    static std::string converted(CFxConverterIWAPIImpl& target, std::int32_t kind, const char* key,
+    static std::string converted(TestTarget& target, std::int32_t kind, const char* key,
                                  CFxCustomActionData::Value value)
     {
         QString text = "what the command left";
-        EXPECT_EQ(target.ConvertCustomAction(odrxNew<ChangedLocation>(kind, key, std::move(value)), text), kFxSuccess);
-        EXPECT_EQ(target.IndentLevel, 1U);
+        EXPECT_EQ(target.driver.ConvertCustomAction(odrxNew<ChangedLocation>(kind, key, std::move(value)), text),
+                  kFxSuccess);
+        EXPECT_EQ(target.writer.IndentLevel, 1U);
         return text.toStdString();
     }
 
@@ -107,7 +98,7 @@ protected:
     static void expectStatements(const char* variable, const OdResBuf::Value& value, const Expected& expected)
     {
         for (int language = 0; language < languages; ++language) {
-            Statements target(static_cast<Target>(language));
+            TestTarget target(static_cast<Target>(language), 1);
             EXPECT_EQ(converted(target, variable, value), in(expected, language)) << variable << ' ' << language;
         }
     }
@@ -116,10 +107,10 @@ protected:
 std::string found(std::int32_t (CFxConverterIWAPIImpl::*find)(const CFxString&, CFxString&, std::int32_t&) const,
                   const char* variable)
 {
-    const Statements target(Target::CSharp);
+    const TestTarget target(Target::CSharp, 1);
     CFxString name = "before";
     std::int32_t kind = 99;
-    const std::int32_t status = (target.*find)(variable, name, kind);
+    const std::int32_t status = (target.driver.*find)(variable, name, kind);
     EXPECT_EQ(status == kFxSuccess, kind != -1) << variable;
     return name.toQString().toStdString() + ' ' + std::to_string(kind);
 }
@@ -263,7 +254,7 @@ TEST_F(SysVars, BecomeDocumentOptionsByTheirKind)
         });
 
     // What the kinds in between put in: the call, the value, VBA's variable.
-    Statements page(Target::JavaScript);
+    TestTarget page(Target::JavaScript, 1);
     EXPECT_EQ(converted(page, "LTSCALE", 100000.0),
               "    mDoc.SetCommandOptionDouble(\"iwCommandOptionDouble_SetLTSCALE\", 100000);\n");
     EXPECT_EQ(converted(page, "DIMTZIN", std::int32_t{-2}),
@@ -272,9 +263,9 @@ TEST_F(SysVars, BecomeDocumentOptionsByTheirKind)
               "    mDoc.SetCommandOptionInt16(\"iwCommandOptionInt16_SetUSERI1\", -32768);\n");
     EXPECT_EQ(converted(page, "INSBASE", OdGePoint3d{1, 2.5, 1e-5}),
               "    mDoc.SetCommandOptionPoint3D(\"iwCommandOptionPoint3d_SetINSBASE\", 1, 2.5, 1e-05);\n");
-    EXPECT_EQ(page.EmitCommandOptionInt32("iwCommandOptionInt32_X", 70000),
+    EXPECT_EQ(EmitCommandOptionInt32(page.writer, "iwCommandOptionInt32_X", 70000),
               "    mDoc.SetCommandOptionInt32(\"iwCommandOptionInt32_X\", 70000);\n");
-    Statements vba(Target::Vba);
+    TestTarget vba(Target::Vba, 1);
     EXPECT_EQ(converted(vba, "INSBASE", OdGePoint3d{1, 2, 3}),
               "    If 1 Then\n    Dim resultPoint3D1 As Inkwright.iwSetCommandOptionResult_e \n"
               "    iwApp.GetActiveDocument().SetCommandOptionPoint3D "
@@ -318,7 +309,7 @@ TEST_F(SysVars, BecomeApplicationOptionsByTheirKind)
             "Inkwright.iwApplicationOptionString_e.iwApplicationOptionString_SetFONTALT, \"<a>.shx\"\n",
         });
     // Unlike a document option, it joins the text that is there.
-    Statements page(Target::JavaScript);
+    TestTarget page(Target::JavaScript, 1);
     EXPECT_EQ(converted(page, "SAVETIME", std::int32_t{100000}, "before"),
               "before\n    mApp.GetApplicationOptions().SetApplicationOptionInt32("
               "\"iwApplicationOptionInt32_SetSvTm\", 100000);\n");
@@ -331,7 +322,7 @@ TEST_F(SysVars, BecomeApplicationOptionsByTheirKind)
 
 TEST_F(SysVars, GiveTheCurrentColorByItsText)
 {
-    Statements page(Target::JavaScript);
+    TestTarget page(Target::JavaScript, 1);
     const std::string begin = "    mDoc.SetCommandOptionInt16(\"iwCommandOptionInt16_SetActLClr\", ";
     EXPECT_EQ(converted(page, "CECOLOR", OdString("5")), begin + "5);\n");
     EXPECT_EQ(converted(page, "CECOLOR", OdString("BYLAYER")), begin + "0);\n");
@@ -340,10 +331,10 @@ TEST_F(SysVars, GiveTheCurrentColorByItsText)
 
 TEST_F(SysVars, AreSkippedWhenUnknown)
 {
-    Statements target(Target::CSharp);
+    TestTarget target(Target::CSharp, 1);
     EXPECT_EQ(converted(target, "NOSUCHVAR", std::int16_t{1}, "before"), "before");
     EXPECT_EQ(converted(target, "ltscale", 2.0, "before"), "before");
-    EXPECT_EQ(target.UniqueCounter, 0U);
+    EXPECT_EQ(target.writer.UniqueCounter, 0U);
 }
 
 TEST_F(SysVars, CountOnlyWhereTheStatementHasANumber)
@@ -351,31 +342,33 @@ TEST_F(SysVars, CountOnlyWhereTheStatementHasANumber)
     // A document option twice, an application option twice.
     const std::array<unsigned, languages> counts{2, 2, 0, 2, 0, 2};
     for (int language = 0; language < languages; ++language) {
-        Statements target(static_cast<Target>(language));
+        TestTarget target(static_cast<Target>(language), 1);
         for (int i = 0; i < 2; ++i) {
             converted(target, "USERI1", std::int16_t{1});
             converted(target, "PICKBOX", std::int16_t{1});
         }
-        EXPECT_EQ(target.UniqueCounter, counts[static_cast<std::size_t>(language)]) << language;
+        EXPECT_EQ(target.writer.UniqueCounter, counts[static_cast<std::size_t>(language)]) << language;
     }
     // A text with a marker takes the number, where there is one; elsewhere it stays.
-    Statements csharp(Target::CSharp);
+    TestTarget csharp(Target::CSharp, 1);
     EXPECT_TRUE(QString::fromStdString(converted(csharp, "USERS1", OdString("%5"))).contains("\"1\", out result1"));
-    Statements page(Target::JavaScript);
+    TestTarget page(Target::JavaScript, 1);
     EXPECT_TRUE(QString::fromStdString(converted(page, "USERS1", OdString("%5"))).contains("\"%5\""));
 }
 
+using EmitFiles = QString (*)(Writer&, CFxString&);
+
 /// Use up a number of the process-wide counters.
-int takeNumber(CFxConverterIWAPIImpl& target, QString (CFxConverterIWAPIImpl::*emitObject)(CFxString&))
+int takeNumber(TestTarget& target, EmitFiles emitObject)
 {
     CFxString name;
-    (target.*emitObject)(name);
+    emitObject(target.writer, name);
     return name.toQString().section('_', 1).toInt();
 }
 
-int takeArrayNumber(CFxConverterIWAPIImpl& target)
+int takeArrayNumber(TestTarget& target)
 {
-    return target.EmitFileLocationArray("x", "P", {})
+    return EmitFileLocationArray(target.writer, "x", "P", {})
         .section("sArrayP_", 1, 1)
         .section(QRegExp("[^0-9]"), 0, 0)
         .toInt();
@@ -392,20 +385,20 @@ TEST_F(SysVars, FetchTheirFileObjects)
         "    Dim iwSystemFiles_# As Inkwright.SystemFiles\n    Set iwSystemFiles_# = iwApp.GetSystemFiles()\n",
     };
     for (int language = 0; language < languages; ++language) {
-        Statements target(static_cast<Target>(language));
+        TestTarget target(static_cast<Target>(language), 1);
         const QString expected = in(objects, language);
-        const auto matches = [&](QString (CFxConverterIWAPIImpl::*emitObject)(CFxString&), const char* name) {
+        const auto matches = [&](EmitFiles emitObject, const char* name) {
             const int number = takeNumber(target, emitObject) + 1;
             CFxString variable;
-            const QString text = (target.*emitObject)(variable);
+            const QString text = emitObject(target.writer, variable);
             QString wanted = QString(expected).replace("SystemFiles", name).replace('#', QString::number(number));
             if (language == 5 && QString(name) == "DrawingSupportFiles")
                 wanted.replace("    Set", "%11Set");
             EXPECT_EQ(text.toStdString(), wanted.toStdString());
         };
-        matches(&CFxConverterIWAPIImpl::EmitInterfaceFilesObject, "InterfaceFiles");
-        matches(&CFxConverterIWAPIImpl::EmitSystemFilesObject, "SystemFiles");
-        matches(&CFxConverterIWAPIImpl::EmitDrawingSupportFilesObject, "DrawingSupportFiles");
+        matches(EmitInterfaceFilesObject, "InterfaceFiles");
+        matches(EmitSystemFilesObject, "SystemFiles");
+        matches(EmitDrawingSupportFilesObject, "DrawingSupportFiles");
     }
 }
 
@@ -436,9 +429,10 @@ TEST_F(SysVars, SetFileLocationsInArrays)
         "    sArraySupportPaths_@(1) = \"b\"\n    x.SupportPaths = sArraySupportPaths_@\n",
     };
     for (int language = 0; language < languages; ++language) {
-        Statements target(static_cast<Target>(language));
+        TestTarget target(static_cast<Target>(language), 1);
         const int number = takeArrayNumber(target) + 1;
-        const QString text = target.EmitFileLocationArray("x", "SupportPaths", {CFxString("C:\\a"), CFxString("b")});
+        const QString text =
+            EmitFileLocationArray(target.writer, "x", "SupportPaths", {CFxString("C:\\a"), CFxString("b")});
         EXPECT_EQ(text.toStdString(),
                   QString(in(expected, language)).replace('@', QString::number(number)).toStdString());
     }
@@ -462,8 +456,8 @@ TEST_F(SysVars, SetOneFileLocationInEachTarget)
     };
     for (int language = 0; language < languages; ++language) {
         speak(language);
-        Statements target(static_cast<Target>(language));
-        const int number = takeNumber(target, &CFxConverterIWAPIImpl::EmitSystemFilesObject) + 1;
+        TestTarget target(static_cast<Target>(language), 1);
+        const int number = takeNumber(target, EmitSystemFilesObject) + 1;
         EXPECT_EQ(converted(target, 35, "eFileLocSystemTemporaryFileLoc", CFxString("C:\\t")),
                   QString(in(expected, language)).replace('#', QString::number(number)).toStdString());
     }
@@ -472,12 +466,11 @@ TEST_F(SysVars, SetOneFileLocationInEachTarget)
 TEST_F(SysVars, SetFileLocationsByTheirKey)
 {
     speak(1);
-    Statements target(Target::CSharp);
+    TestTarget target(Target::CSharp, 1);
     const auto expectText = [&](std::int32_t kind, const char* key, const CFxCustomActionData::Value& value,
                                 QString expected) {
-        static const std::array<QString (CFxConverterIWAPIImpl::*)(CFxString&), 3> emitObject{
-            &CFxConverterIWAPIImpl::EmitInterfaceFilesObject, &CFxConverterIWAPIImpl::EmitSystemFilesObject,
-            &CFxConverterIWAPIImpl::EmitDrawingSupportFilesObject};
+        static const std::array<EmitFiles, 3> emitObject{EmitInterfaceFilesObject, EmitSystemFilesObject,
+                                                         EmitDrawingSupportFilesObject};
         const int number = takeNumber(target, emitObject[static_cast<std::size_t>(kind - 34)]) + 1;
         EXPECT_EQ(converted(target, kind, key, value), expected.replace('#', QString::number(number)).toStdString());
     };
@@ -505,23 +498,23 @@ TEST_F(SysVars, SetFileLocationsByTheirKey)
                    QString::number(array) + ";\n" + end);
 
     QString text = "kept";
-    EXPECT_EQ(target.ConvertActionSystemFile(odrxNew<ChangedLocation>(34, "", CFxString()), text), kFxFailure);
+    EXPECT_EQ(target.driver.ConvertActionSystemFile(odrxNew<ChangedLocation>(34, "", CFxString()), text), kFxFailure);
     EXPECT_EQ(text, "kept");
 }
 
 TEST_F(SysVars, NumberFileObjectsOverConversionsAndForEachTarget)
 {
-    const auto emitObject = &CFxConverterIWAPIImpl::EmitSystemFilesObject;
+    const auto emitObject = EmitSystemFilesObject;
     int first = 0;
     {
-        Statements target(Target::CSharp);
+        TestTarget target(Target::CSharp, 1);
         first = takeNumber(target, emitObject);
     }
-    Statements other(Target::Vba);
+    TestTarget other(Target::Vba, 1);
     const int ofOther = takeNumber(other, emitObject);
-    Statements target(Target::CSharp);
+    TestTarget target(Target::CSharp, 1);
     EXPECT_EQ(takeNumber(target, emitObject), first + 1);
-    takeNumber(target, &CFxConverterIWAPIImpl::EmitInterfaceFilesObject);
+    takeNumber(target, EmitInterfaceFilesObject);
     EXPECT_EQ(takeNumber(target, emitObject), first + 2);
     EXPECT_EQ(takeNumber(other, emitObject), ofOther + 1);
 }

@@ -3,9 +3,11 @@
 
 #include "TestActions.h"
 #include "TestDrawing.h"
+#include "TestTarget.h"
 
-#include "objects/targets/PhrasedObjectConverter.h"
-#include "targets/PhrasedConverter.h"
+#include "objects/targets/leaders.h"
+#include "objects/targets/points.h"
+#include "objects/targets/texts.h"
 
 #include <gtest/gtest.h>
 
@@ -14,32 +16,6 @@
 using namespace inkmacro;
 
 namespace {
-
-/// The statements of any target, without a file around them.
-class Frameless final : public PhrasedConverter
-{
-public:
-    explicit Frameless(Target target) : PhrasedConverter(target, 0) {}
-    QString EmitFileHeader(const QString&, bool) override { return {}; }
-    QString EmitFileFooter() override { return {}; }
-    QString EmitProgramText(const QString&) override { return {}; }
-    QString EmitProjectText(const QString&) override { return {}; }
-    std::int32_t EmitProjectFiles(const QString&) override { return kFxSuccess; }
-};
-
-/// Drops what the general handler would make of the records that a reader left.
-class Objects final : public PhrasedObjectConverter
-{
-public:
-    Objects(Target target, CFxConverterIWAPIImpl* driver) : PhrasedObjectConverter(target, driver) {}
-    std::int32_t ConvertObjectChanges(OdRxClass*, OdDbHandle, PropertyList& list, bool, QString&) override
-    {
-        left = list.size();
-        return kFxSuccess;
-    }
-
-    std::size_t left = 0;
-};
 
 CFxPropertyChangedPtr record(const char* tag, const CFxVariant& value)
 {
@@ -81,20 +57,20 @@ QString brief(QString text)
 class AddedTexts : public testing::Test
 {
 protected:
-    AddedTexts() { GetFxSystemServices()->SetInt16("RecordingLanguage", 1); }
-    ~AddedTexts() override { GetFxSystemServices()->SetInt16("RecordingLanguage", 0); }
-
     QString add(const char* cls, std::uint64_t handle, const PropertyList& records)
     {
-        driver.RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
+        csharp.driver.RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
+        PropertyList read = records;
+        left = records;
         QString text;
-        EXPECT_EQ(objects.ConvertObjectAdded(odrxNew<TestAdded>(cls, handle, records, records), text), kFxSuccess);
+        EXPECT_EQ(csharp.objects.ConvertAddedObject(oddbClassByName(cls), OdDbHandle(handle), read, left, text),
+                  kFxSuccess);
         return text;
     }
 
     TestDrawing drawing;
-    Frameless driver{Target::CSharp};
-    Objects objects{Target::CSharp, &driver};
+    TestTarget csharp{Target::CSharp};
+    PropertyList left;
 };
 
 TEST_F(AddedTexts, AttributeDefinitionsStandWhereTheirJustificationSays)
@@ -116,7 +92,7 @@ TEST_F(AddedTexts, AttributeDefinitionsStandWhereTheirJustificationSays)
               "1.00000000000000, 2.00000000000000, 3.00000000000000, \"Titles\", "
               "iwTextJustification_e.iwTextJustification_Left, 0.20000000000000, 0.00000000000000, true, true, false, "
               "false, true, false );\n");
-    EXPECT_EQ(objects.left, 3U) << "the other point";
+    EXPECT_EQ(left.size(), 3U) << "the other point";
     EXPECT_EQ(
         brief(add("AcDbAttributeDefinition", 2,
                   records + PropertyList{record("Justify", choice({"Left", "Center"}, 1)), record("Height", 3.0),
@@ -144,7 +120,7 @@ TEST_F(AddedTexts, SimpleNotesAreMovedBackBehindTheirJustification)
               " simplenote2 = iwSketchManager.InsertSimpleNote( 1, 2, 3, 7, -0.50000000000000, \"a\\P\"b\"\" );\n"
               " simplenote2.Justify = iwTextJustification_e.iwTextJustification_TopRight;\n" +
                   back.arg(2));
-    EXPECT_EQ(objects.left, 0U);
+    EXPECT_EQ(left.size(), 0U);
 }
 
 TEST_F(AddedTexts, NotesAreInsertedByTheBoxAroundTheirAttachment)
@@ -184,14 +160,14 @@ TEST_F(AddedTexts, NotesSetOnlyWhatWasRecorded)
               " note2.TextStyle = \"Titles\";\n"
               " note2.Justify = iwNoteJustification_e.iwNoteJustification_MiddleLeft;\n"
               " note2.Direction = iwNoteDirection_e.iwNoteDirection_Vertical;\n");
-    EXPECT_EQ(objects.left, 0U);
+    EXPECT_EQ(left.size(), 0U);
 
     drawing.add(0x11, "AcDbTextStyleTableRecord", {{"name", OdString("Titles")}});
     for (const CFxVariant& style :
          {CFxVariant(drawing.id(0x11)), CFxVariant(CFxVariantCollectionElement(0, CFxString("Titles")))})
         EXPECT_TRUE(add("AcDbMText", 3, {record("Style", style), record("Width", 8.0)})
-                        .endsWith("\n note" + QString::number(driver.objectCounter) +
-                                  ".Width = 8.00000000000000;\n note" + QString::number(driver.objectCounter) +
+                        .endsWith("\n note" + QString::number(csharp.driver.objectCounter) +
+                                  ".Width = 8.00000000000000;\n note" + QString::number(csharp.driver.objectCounter) +
                                   ".TextStyle = \"Titles\";\n"));
     EXPECT_FALSE(add("AcDbMText", 4, {record("Style", drawing.id(0x404))}).contains("TextStyle"))
         << "a style that is gone";
@@ -199,11 +175,11 @@ TEST_F(AddedTexts, NotesSetOnlyWhatWasRecorded)
 
 TEST_F(AddedTexts, TolerancesKeepLinesAndBackslashes)
 {
-    Frameless basic{Target::VbNet};
-    basic.RegisterObject(OdDbHandle(1), oddbClassByName("AcDbFcf"));
+    TestTarget basic(Target::VbNet);
+    basic.driver.RegisterObject(OdDbHandle(1), oddbClassByName("AcDbFcf"));
     QString text;
-    Objects(Target::VbNet, &basic)
-        .ConvertObjectAdded(odrxNew<TestAdded>("AcDbFcf", 1, PropertyList{record("Content", "a\\b\nc")}), text);
+    basic.objects.ConvertObjectAdded(odrxNew<TestAdded>("AcDbFcf", 1, PropertyList{record("Content", "a\\b\nc")}),
+                                     text);
     EXPECT_EQ(brief(text),
               " tolerance1 = iwSketchManager.InsertTolerance( New Double(){0,0,0}, \"a\\b\" & vbLf & \"c\" )\n");
 
@@ -279,10 +255,10 @@ TEST_F(AddedTexts, StylesAreFontsOrFilesOfShapes)
                             "out textstyle%1, out result1 );\n }\n";
     EXPECT_EQ(add("AcDbTextStyleTableRecord", 1, records),
               created.arg(1) + " textstyle1.Font = \"C:\\\\fonts\\\\a.ttf\";\n");
-    driver.UniqueCounter = 0;
+    csharp.writer.UniqueCounter = 0;
     EXPECT_EQ(add("AcDbTextStyleTableRecord", 1, {records[0]}), created.arg(2));
 
-    driver.IndentLevel = 2;
+    csharp.writer.IndentLevel = 2;
     const auto drawShapes = [&](const char* file) {
         drawing.add(1, "AcDbTextStyleTableRecord", {{"isShapeFile", true}, {"fileName", OdString(file)}});
     };
@@ -292,21 +268,21 @@ TEST_F(AddedTexts, StylesAreFontsOrFilesOfShapes)
     EXPECT_EQ(add("AcDbTextStyleTableRecord", 1, records),
               "    ShapeManager iwShapeManager = iwDoc.GetShapeManager();\n"
               "    iwShapeManager.Load( \"C:\\\\shapes\\\\bolts.shx\" );\n");
-    EXPECT_EQ(driver.IndentLevel, 2U);
+    EXPECT_EQ(csharp.writer.IndentLevel, 2U);
 }
 
 /// One operation with its statements in the order of the language codes.
 struct Row
 {
     const char* name;
-    QString (*write)(CFxConverterIWAPIObject& objects);
+    QString (*write)(Writer& writer);
     std::array<const char*, targetCount> expected;
 };
 
 const Row rows[] = {
     {"simple note",
-     [](auto& objects) {
-         return objects.EmitInsertSimpleNote({1, 2, 3}, 4, 5, "a", "v");
+     [](Writer& writer) {
+         return EmitInsertSimpleNote(writer, {1, 2, 3}, 4, 5, "a", "v");
      },
      {" iwSketchManager->InsertSimpleNote( 1, 2, 3, 4, 5, L\"a\", &v );\n",
       " v = iwSketchManager.InsertSimpleNote( 1, 2, 3, 4, 5, \"a\" );\n",
@@ -315,8 +291,8 @@ const Row rows[] = {
       "  v=iwSketchManager->InsertSimpleNote( 1, 2, 3, 4, 5, L\"a\");\n",
       " Set v = iwSketchManager.InsertSimpleNote( 1, 2, 3, 4, 5, \"a\" )\n"}},
     {"note",
-     [](auto& objects) {
-         return objects.EmitInsertNote({1, 2, 3}, {4, 5, 6}, "a", "v");
+     [](Writer& writer) {
+         return EmitInsertNote(writer, {1, 2, 3}, {4, 5, 6}, "a", "v");
      },
      {" iwStringArray strArray8;\n strArray8.add(L\"a\");\n"
       " iwSketchManager->InsertNote( 1, 2, 3, 4, 5, 6, strArray8, &v );\n",
@@ -334,9 +310,9 @@ const Row rows[] = {
       " Dim strArray8(0) As String\n strArray8(0) = \"a\"\n"
       " Set v = iwSketchManager.InsertNote( 1, 2, 3, 4, 5, 6, strArray8 )\n"}},
     {"attribute definition",
-     [](auto& objects) {
-         return objects.EmitInsertAttributeDefinition(
-             {"a", "b", "c", {1, 2, 3}, "d", "Fit", 4, 5, true, false, true, false, true}, "v");
+     [](Writer& writer) {
+         return EmitInsertAttributeDefinition(
+             writer, {"a", "b", "c", {1, 2, 3}, "d", "Fit", 4, 5, true, false, true, false, true}, "v");
      },
      {" iwSketchManager->InsertAttributeDefinition(  L\"a\", L\"b\", L\"c\", 1, 2, 3, L\"d\", iwTextJustification_Fit, "
       "4, 5, true, false, true, false, true, false, &v );\n",
@@ -351,8 +327,8 @@ const Row rows[] = {
       " Set v = iwSketchManager.InsertAttributeDefinition(  \"a\", \"b\", \"c\", 1, 2, 3, \"d\", "
       "Inkwright.iwTextJustification_e.iwTextJustification_Fit, 4, 5, True, False, True, False, True, False )\n"}},
     {"tolerance",
-     [](auto& objects) {
-         return objects.EmitInsertTolerance({1, 2, 3}, "a", "v");
+     [](Writer& writer) {
+         return EmitInsertTolerance(writer, {1, 2, 3}, "a", "v");
      },
      {" iwDoubleArray Coordinates8;\n Coordinates8.clear();\n\n"
       " Coordinates8.add(1);Coordinates8.add(2);Coordinates8.add(3);\n\n"
@@ -369,8 +345,8 @@ const Row rows[] = {
       " Dim Coordinates8(2) As Double\n Coordinates8(0) = 1\n Coordinates8(1) = 2\n Coordinates8(2) = 3\n"
       " Set v = iwSketchManager.InsertTolerance( Coordinates8, \"a\" )\n"}},
     {"leader",
-     [](auto& objects) {
-         return objects.EmitInsertLeader({{1, 2, 3}, {4, 5, 6}}, 9, "a", "v");
+     [](Writer& writer) {
+         return EmitInsertLeader(writer, {{1, 2, 3}, {4, 5, 6}}, 9, "a", "v");
      },
      {" iwDoubleArray Coordinates8;\n Coordinates8.clear();\n\n"
       " Coordinates8.add(1);Coordinates8.add(2);Coordinates8.add(3);\n"
@@ -395,22 +371,22 @@ const Row rows[] = {
       " Coordinates8( 3 )=4\n Coordinates8( 4 )=5\n Coordinates8( 5 )=6\n\n"
       " Set v = iwSketchManager.InsertLeader( Coordinates8, 9, \"a\" )\n"}},
     {"leader without vertices",
-     [](auto& objects) { return objects.EmitInsertLeader({}, 9, "a", "v").section("\n", 0, 1); },
+     [](Writer& writer) { return EmitInsertLeader(writer, {}, 9, "a", "v").section("\n", 0, 1); },
      {" iwDoubleArray Coordinates8;\n Coordinates8.clear();", " v = iwSketchManager.InsertLeader(\n  new double[]{},",
       " var leaderPoints8 = new Array();\n var v = mSkMgr.InsertLeader(leaderPoints8, 9, \"a\");",
       " Dim Coordinates8(-1) As Double\n", " VARIANT variant8;\n variant8.vt = ( VT_ARRAY | VT_R8 );",
       " Dim Coordinates8(-1) As Double\n"}},
     {"curved text",
-     [](auto& objects) { return objects.EmitInsertCurvedText("a", "b", "v"); },
+     [](Writer& writer) { return EmitInsertCurvedText(writer, "a", "b", "v"); },
      {" iwSketchManager->InsertCurvedText( L\"a\", b, &v );\n", " v = iwSketchManager.InsertCurvedText( \"a\", b );\n",
       " var v = mSkMgr.InsertCurvedText(\"a\", b);\n", " v = iwSketchManager.InsertCurvedText( \"a\", b )\n",
       " v = iwSketchManager->InsertCurvedText( L\"a\", b );\n",
       " Set v = iwSketchManager.InsertCurvedText( \"a\", b )\n"}},
     {"annotations and calls",
-     [](auto& objects) {
-         return objects.EmitSetAnnotation("v", LeaderAnnotation::Tolerance, "a") +
-                objects.EmitSetAnnotation("v", LeaderAnnotation::Block, "b") +
-                objects.EmitCallWithPoint("v", "SetPosition", {1, 2, 3});
+     [](Writer& writer) {
+         return EmitSetAnnotation(writer, "v", LeaderAnnotation::Tolerance, "a") +
+                EmitSetAnnotation(writer, "v", LeaderAnnotation::Block, "b") +
+                EmitCallWithPoint(writer, "v", "SetPosition", {1, 2, 3});
      },
      {" v->SetToleranceAnnotation( L\"a\" );\n v->SetBlockAnnotation( L\"b\" );\n v->SetPosition( 1, 2, 3 );\n",
       " v.SetToleranceAnnotation( \"a\" );\n v.SetBlockAnnotation( \"b\" );\n v.SetPosition( 1, 2, 3 );\n",
@@ -419,7 +395,7 @@ const Row rows[] = {
       " v->SetToleranceAnnotation( L\"a\" );\n v->SetBlockAnnotation( L\"b\" );\n v->SetPosition( 1, 2, 3 );\n",
       " v.SetToleranceAnnotation \"a\"\n v.SetBlockAnnotation \"b\"\n v.SetPosition 1, 2, 3\n"}},
     {"text style",
-     [](auto& objects) { return objects.EmitCreateTextStyle("v", "a"); },
+     [](Writer& writer) { return EmitCreateTextStyle(writer, "v", "a"); },
      {" iwCreateObjectResult_e result8;\n iwString textStyleName8 = L\"a\";\n"
       " iwTextStyleManager_ptr TextStyleManager8;\n iwDoc->GetTextStyleManager(&TextStyleManager8);\n"
       " TextStyleManager8->GetTextStyle( textStyleName8, &v );\n if ( !v )\n {\n"
@@ -442,7 +418,7 @@ const Row rows[] = {
       " Set v = iwApp.GetActiveDocument().GetTextStyleManager().GetTextStyle( textStyleName8 )\n If v Is Nothing Then\n"
       "     iwApp.GetActiveDocument().GetTextStyleManager().CreateTextStyle textStyleName8, v, result8\n End If\n"}},
     {"shape file",
-     [](auto& objects) { return objects.EmitLoadShapeFile("a"); },
+     [](Writer& writer) { return EmitLoadShapeFile(writer, "a"); },
      {" iwShapeManager_ptr iwShapeManager;\n iwDoc->GetShapeManager( &iwShapeManager );\n"
       " iwShapeManager->Load( L\"a\" );\n",
       " ShapeManager iwShapeManager = iwDoc.GetShapeManager();\n iwShapeManager.Load( \"a\" );\n",
@@ -457,10 +433,9 @@ TEST(TextStatements, TakeTheFormOfTheirTarget)
 {
     for (const Row& row : rows)
         for (std::size_t code = 0; code < targetCount; ++code) {
-            Frameless driver(static_cast<Target>(code));
-            driver.UniqueCounter = 7;
-            Objects objects(static_cast<Target>(code), &driver);
-            EXPECT_EQ(brief(row.write(objects)).toStdString(), row.expected[code]) << row.name << ", code " << code;
+            TestTarget made(static_cast<Target>(code));
+            made.writer.UniqueCounter = 7;
+            EXPECT_EQ(brief(row.write(made.writer)).toStdString(), row.expected[code]) << row.name << ", code " << code;
         }
 }
 
@@ -470,11 +445,10 @@ TEST(TextStatements, CountOnlyTheArraysThatTheyName)
     for (const auto& [target, used] :
          {std::pair{Target::CSharp, 0U}, std::pair{Target::JavaScript, 1U}, std::pair{Target::VbNet, 1U},
           std::pair{Target::Vba, 2U}, std::pair{Target::Cpp, 2U}, std::pair{Target::CppCom, 2U}}) {
-        Frameless driver(target);
-        Objects objects(target, &driver);
-        objects.EmitInsertLeader({{1, 2, 3}}, 1, "", "v");
-        objects.EmitInsertTolerance({1, 2, 3}, "", "w");
-        EXPECT_EQ(driver.UniqueCounter, used) << static_cast<int>(target);
+        TestTarget made(target);
+        EmitInsertLeader(made.writer, {{1, 2, 3}}, 1, "", "v");
+        EmitInsertTolerance(made.writer, {1, 2, 3}, "", "w");
+        EXPECT_EQ(made.writer.UniqueCounter, used) << static_cast<int>(target);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "targets/LineEnd.h"
 #include "targets/cpp/CFxConverterIWAPICPP.h"
 #include "targets/installation.h"
+#include "targets/projectFiles.h"
 
 using namespace inkmacro;
 

@@ -250,27 +250,38 @@ bool CMacroCommand::ExecuteNotify(void)
         iwSelectionMgr3->SelectByCrossline(doubleArray3);
         long iCount3;
         iwSelectionMgr3->GetSelectedObjectCount(iwSelectionSetType_Previous, &iCount3);
-    }
-    {
         iwSelectionManager_ptr iwSelectionMgr4;
         iwDoc->GetSelectionManager( &iwSelectionMgr4 );
-        iwSelectionFilter_ptr selectionFilter4;
-        iwSelectionMgr4->GetSelectionFilter( &selectionFilter4 );
-        selectionFilter4->Clear();
-        selectionFilter4->AddEntityType(iwLineType);
-        selectionFilter4->AddEntityType(iwCircleType);
-
-        selectionFilter4->put_Active( true );
         iwMathUtility_ptr iwMathUtility4;
         m_pIwApp->GetMathUtility( &iwMathUtility4 );
         iwMathPoint_ptr Point_4_1;
-        iwMathUtility4->CreatePoint(0, 0, 0, &Point_4_1);
+        iwMathUtility4->CreatePoint(1, 2.5, 0, &Point_4_1);
         iwMathPoint_ptr Point_4_2;
-        iwMathUtility4->CreatePoint(1e+06, 1, 0, &Point_4_2);
-        iwSelectionMgr4->SelectByWindow(Point_4_1, Point_4_2, false);
+        iwMathUtility4->CreatePoint(5, 4, 0, &Point_4_2);
+        iwSelectionMgr4->SelectByWindow(Point_4_1, Point_4_2, true);
         long iCount4;
         iwSelectionMgr4->GetSelectedObjectCount(iwSelectionSetType_Previous, &iCount4);
-        selectionFilter4->put_Active( false );
+    }
+    {
+        iwSelectionManager_ptr iwSelectionMgr5;
+        iwDoc->GetSelectionManager( &iwSelectionMgr5 );
+        iwSelectionFilter_ptr selectionFilter5;
+        iwSelectionMgr5->GetSelectionFilter( &selectionFilter5 );
+        selectionFilter5->Clear();
+        selectionFilter5->AddEntityType(iwLineType);
+        selectionFilter5->AddEntityType(iwCircleType);
+
+        selectionFilter5->put_Active( true );
+        iwMathUtility_ptr iwMathUtility5;
+        m_pIwApp->GetMathUtility( &iwMathUtility5 );
+        iwMathPoint_ptr Point_5_1;
+        iwMathUtility5->CreatePoint(0, 0, 0, &Point_5_1);
+        iwMathPoint_ptr Point_5_2;
+        iwMathUtility5->CreatePoint(1e+06, 1, 0, &Point_5_2);
+        iwSelectionMgr5->SelectByWindow(Point_5_1, Point_5_2, false);
+        long iCount5;
+        iwSelectionMgr5->GetSelectedObjectCount(iwSelectionSetType_Previous, &iCount5);
+        selectionFilter5->put_Active( false );
     }
     {
         iwObjectType_e type1;
@@ -418,6 +429,15 @@ bool CMacroCommand::ExecuteNotify(void)
         iwline18->put_LineScale( 1.00000000000000 );
         iwline18->put_LineWeight( iwLnWt_ByLayer );
         iwline18->put_Thickness( 0.00000000000000 );
+    }
+    {
+        iwDoc->GetSheet(L"Layout1", &iwSheet);
+        if (NULL != iwSheet)
+        {
+             iwSheet->Activate();
+             iwSheet->GetSketchManager( &iwSketchManager );
+        }
+        iwSheet->put_PrintStyle( "monochrome.ctb" );
     }
     return true;
 }

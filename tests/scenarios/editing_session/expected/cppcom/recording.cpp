@@ -528,5 +528,14 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         line18->put_LineWeight( iwLnWt_ByLayer );
         line18->put_Thickness( 0.00000000000000 );
     }
+    {
+        iwSheet = iwDoc->GetSheet(L"Layout1");
+        if (NULL != iwSheet)
+        {
+             iwSheet->Activate();
+             iwSketchManager = iwSheet->GetSketchManager();
+        }
+        iwSheet->put_PrintStyle( L"monochrome.ctb" );
+    }
 }
 

@@ -209,23 +209,31 @@ namespace IWAPIMacros
                 doubleArray3[2] = 0;
                 iwSelectionMgr3.SelectByCrossline(doubleArray3);
                 int iCount3 = iwSelectionMgr3.GetSelectedObjectCount(iwSelectionSetType_e.iwSelectionSetType_Previous);
-            }
-            {
                 SelectionManager iwSelectionMgr4 = iwDoc.GetSelectionManager();
-                SelectionFilter selectionFilter4 = iwSelectionMgr4.GetSelectionFilter();
-                selectionFilter4.Clear();
-                selectionFilter4.AddEntityType(iwObjectType_e.iwLineType);
-                selectionFilter4.AddEntityType(iwObjectType_e.iwCircleType);
-
-                selectionFilter4.Active = true;
                 MathUtility iwMathUtility4 = iwApp.GetMathUtility();
                 MathPoint Point_4_1;
-                Point_4_1 = iwMathUtility4.CreatePoint(0, 0, 0);
+                Point_4_1 = iwMathUtility4.CreatePoint(1, 2.5, 0);
                 MathPoint Point_4_2;
-                Point_4_2 = iwMathUtility4.CreatePoint(1e+06, 1, 0);
-                iwSelectionMgr4.SelectByWindow(Point_4_1, Point_4_2, false);
+                Point_4_2 = iwMathUtility4.CreatePoint(5, 4, 0);
+                iwSelectionMgr4.SelectByWindow(Point_4_1, Point_4_2, true);
                 int iCount4 = iwSelectionMgr4.GetSelectedObjectCount(iwSelectionSetType_e.iwSelectionSetType_Previous);
-                selectionFilter4.Active = false;
+            }
+            {
+                SelectionManager iwSelectionMgr5 = iwDoc.GetSelectionManager();
+                SelectionFilter selectionFilter5 = iwSelectionMgr5.GetSelectionFilter();
+                selectionFilter5.Clear();
+                selectionFilter5.AddEntityType(iwObjectType_e.iwLineType);
+                selectionFilter5.AddEntityType(iwObjectType_e.iwCircleType);
+
+                selectionFilter5.Active = true;
+                MathUtility iwMathUtility5 = iwApp.GetMathUtility();
+                MathPoint Point_5_1;
+                Point_5_1 = iwMathUtility5.CreatePoint(0, 0, 0);
+                MathPoint Point_5_2;
+                Point_5_2 = iwMathUtility5.CreatePoint(1e+06, 1, 0);
+                iwSelectionMgr5.SelectByWindow(Point_5_1, Point_5_2, false);
+                int iCount5 = iwSelectionMgr5.GetSelectedObjectCount(iwSelectionSetType_e.iwSelectionSetType_Previous);
+                selectionFilter5.Active = false;
             }
             {
                 iwObjectType_e type1;
@@ -348,6 +356,15 @@ namespace IWAPIMacros
                 line18.LineScale = 1.00000000000000;
                 line18.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
                 line18.Thickness = 0.00000000000000;
+            }
+            {
+                iwSheet = iwDoc.GetSheet("Layout1");
+                if (null != iwSheet)
+                {
+                     iwSheet.Activate();
+                     iwSketchManager = iwSheet.GetSketchManager();
+                }
+                iwSheet.PrintStyle = "monochrome.ctb";
             }
         }
     }

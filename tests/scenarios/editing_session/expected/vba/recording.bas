@@ -231,28 +231,39 @@ Sub main()
             iwSelectionMgr3.SelectByCrossline doubleArray3
             Dim iCount3 As Integer
             iCount3 = iwSelectionMgr3.GetSelectedObjectCount(Inkwright.iwSelectionSetType_e.iwSelectionSetType_Previous)
-        End If
-
-        If 1 Then
             Dim iwSelectionMgr4 As Inkwright.SelectionManager
             Set iwSelectionMgr4 = iwDoc.GetSelectionManager()
-            Dim selectionFilter4 As Inkwright.SelectionFilter
-            Set selectionFilter4 = iwSelectionMgr4.GetSelectionFilter()
-            selectionFilter4.Clear
-            selectionFilter4.AddEntityType Inkwright.iwObjectType_e.iwLineType
-            selectionFilter4.AddEntityType Inkwright.iwObjectType_e.iwCircleType
-
-            selectionFilter4.Active = True
             Dim iwMathUtility4 As Inkwright.MathUtility
             Set iwMathUtility4 = iwApp.GetMathUtility()
             Dim Point_4_1 As Inkwright.MathPoint
-            Set Point_4_1 = iwMathUtility4.CreatePoint(0, 0, 0)
+            Set Point_4_1 = iwMathUtility4.CreatePoint(1, 2.5, 0)
             Dim Point_4_2 As Inkwright.MathPoint
-            Set Point_4_2 = iwMathUtility4.CreatePoint(1e+06, 1, 0)
-            iwSelectionMgr4.SelectByWindow Point_4_1, Point_4_2, False
+            Set Point_4_2 = iwMathUtility4.CreatePoint(5, 4, 0)
+            iwSelectionMgr4.SelectByWindow Point_4_1, Point_4_2, True
             Dim iCount4 As Integer
             iCount4 = iwSelectionMgr4.GetSelectedObjectCount(Inkwright.iwSelectionSetType_e.iwSelectionSetType_Previous)
-            selectionFilter4.Active = False
+        End If
+
+        If 1 Then
+            Dim iwSelectionMgr5 As Inkwright.SelectionManager
+            Set iwSelectionMgr5 = iwDoc.GetSelectionManager()
+            Dim selectionFilter5 As Inkwright.SelectionFilter
+            Set selectionFilter5 = iwSelectionMgr5.GetSelectionFilter()
+            selectionFilter5.Clear
+            selectionFilter5.AddEntityType Inkwright.iwObjectType_e.iwLineType
+            selectionFilter5.AddEntityType Inkwright.iwObjectType_e.iwCircleType
+
+            selectionFilter5.Active = True
+            Dim iwMathUtility5 As Inkwright.MathUtility
+            Set iwMathUtility5 = iwApp.GetMathUtility()
+            Dim Point_5_1 As Inkwright.MathPoint
+            Set Point_5_1 = iwMathUtility5.CreatePoint(0, 0, 0)
+            Dim Point_5_2 As Inkwright.MathPoint
+            Set Point_5_2 = iwMathUtility5.CreatePoint(1e+06, 1, 0)
+            iwSelectionMgr5.SelectByWindow Point_5_1, Point_5_2, False
+            Dim iCount5 As Integer
+            iCount5 = iwSelectionMgr5.GetSelectedObjectCount(Inkwright.iwSelectionSetType_e.iwSelectionSetType_Previous)
+            selectionFilter5.Active = False
         End If
 
         If 1 Then
@@ -401,6 +412,15 @@ Sub main()
             line18.LineScale = 1.00000000000000
             line18.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
             line18.Thickness = 0.00000000000000
+        End If
+
+        If 1 Then
+            Set iwSheet = iwDoc.GetSheet("Layout1")
+            If Not iwSheet Is Nothing Then
+                 iwSheet.Activate
+                 Set iwSketchManager = iwSheet.GetSketchManager()
+            End If
+            iwSheet.PrintStyle = "monochrome.ctb"
         End If
 
 	Else

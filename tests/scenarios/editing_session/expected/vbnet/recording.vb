@@ -302,6 +302,15 @@ Public Class recording
             line18.Thickness = 0.00000000000000
         End If
 
+        If 1 Then
+            iwSheet = iwDoc.GetSheet("Layout1")
+            If iwSheet IsNot Nothing Then
+                 iwSheet.Activate()
+                 iwSketchManager = iwSheet.GetSketchManager()
+            End If
+            iwSheet.PrintStyle = "monochrome.ctb"
+        End If
+
 
     End Sub
 

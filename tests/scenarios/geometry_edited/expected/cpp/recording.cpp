@@ -287,6 +287,11 @@ bool CMacroCommand::ExecuteNotify(void)
     {
         iwViewManager->RemoveModelNamedView( L"Front" );
     }
+    iwModelNamedView_ptr iwmodelnamedview17;
+    // AcDbViewTableRecord object modified
+    {
+        iwViewManager->RemoveSheetNamedView( L"Title block" );
+    }
     return true;
 }
 

@@ -330,5 +330,10 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     {
         iwViewManager->RemoveModelNamedView( L"Front" );
     }
+    IModelNamedViewPtr modelnamedview17;
+    // AcDbViewTableRecord object modified
+    {
+        iwViewManager->RemoveSheetNamedView( L"Title block" );
+    }
 }
 

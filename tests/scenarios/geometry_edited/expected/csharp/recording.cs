@@ -242,6 +242,11 @@ namespace IWAPIMacros
             {
                 iwViewManager.RemoveModelNamedView( "Front" );
             }
+            ModelNamedView modelnamedview17;
+            // AcDbViewTableRecord object modified
+            {
+                iwViewManager.RemoveSheetNamedView( "Title block" );
+            }
         }
     }
 }

@@ -279,6 +279,12 @@ Sub main()
             iwViewManager.RemoveModelNamedView "Front"
         End If
 
+        Dim modelnamedview17 As Inkwright.ModelNamedView
+        ' AcDbViewTableRecord object modified
+        If 1 Then
+            iwViewManager.RemoveSheetNamedView "Title block"
+        End If
+
 	Else
 
 		MsgBox "There are no open documents in Inkwright"

@@ -265,6 +265,12 @@ Public Class recording
             iwViewManager.RemoveModelNamedView( "Front" )
         End If
 
+        Dim modelnamedview17 As Inkwright.ModelNamedView
+        ' AcDbViewTableRecord object modified
+        If 1 Then
+            iwViewManager.RemoveSheetNamedView( "Title block" )
+        End If
+
 
     End Sub
 

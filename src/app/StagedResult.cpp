@@ -1,0 +1,196 @@
+#include "app/StagedResult.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace inkmacro {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The system follows no more.
+constexpr int mostLinks = 40;
+
+fs::path toPath(const QString& name)
+{
+    return QFile::encodeName(name).toStdString();
+}
+
+fs::path directoryOf(const fs::path& file)
+{
+    const fs::path directory = file.parent_path();
+    return directory.empty() ? fs::path(".") : directory;
+}
+
+[[noreturn]] void failFor(const QString& file, int error)
+{
+    throw PlacingError(file, qt_error_string(error));
+}
+
+/// An open file or folder.
+class Descriptor
+{
+public:
+    Descriptor(const fs::path& path, int flags) : number_(open(path.c_str(), flags | O_CLOEXEC)) {}
+    ~Descriptor()
+    {
+        if (number_ >= 0)
+            ::close(number_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int number() const { return number_; }
+    /// Some file systems find out only here that the disk is full.
+    bool close() { return ::close(std::exchange(number_, -1)) == 0; }
+
+private:
+    int number_;
+};
+
+/// Where a write to that name would go.
+fs::path behindLinks(const QString& file)
+{
+    fs::path path = toPath(file);
+    for (int followed = 0; followed <= mostLinks; ++followed) {
+        std::error_code noLink;
+        const fs::path target = fs::read_symlink(path, noLink);
+        if (noLink)
+            return path;
+        path = path.parent_path() / target;
+    }
+    failFor(file, ELOOP);
+}
+
+/// On the disk before it has its name: after a loss of power the name must not lead to a part of it. Gives an errno.
+int flushToDisk(const fs::path& path)
+{
+    Descriptor file(path, O_RDONLY);
+    const bool flushed = file.number() >= 0 && (fdatasync(file.number()) == 0 || errno == EINVAL) && file.close();
+    return flushed ? 0 : errno;
+}
+
+/// To the user the file is the same as before.
+void takeOverRights(const fs::path& path, const fs::path& replaced)
+{
+    struct stat found = {};
+    if (stat(replaced.c_str(), &found) == 0 && (chown(path.c_str(), found.st_uid, found.st_gid) == 0 || errno == EPERM))
+        chmod(path.c_str(), found.st_mode & 0777);
+}
+
+QString refusalAt(const QString& file)
+{
+    struct stat found = {};
+    if (stat(QFile::encodeName(file).constData(), &found) != 0)
+        return {};
+    if (!S_ISREG(found.st_mode))
+        return file + " exists and is not a regular file";
+    if (access(QFile::encodeName(file).constData(), W_OK) != 0)
+        return file + " cannot be written: " + qt_error_string(errno);
+    return {};
+}
+
+} // namespace
+
+PlacingError::PlacingError(const QString& file, const QString& reason)
+    : std::runtime_error((file + ": " + reason).toLocal8Bit().toStdString())
+{
+}
+
+QString PlacingError::message() const
+{
+    return QString::fromLocal8Bit(what());
+}
+
+StagedResult::StagedResult(const Job& job) : files_(job.files()), directory_(directoryOf(toPath(job.macro)))
+{
+    std::vector<std::string> names;
+    for (const QString& file : files_)
+        names.push_back(toPath(file).filename());
+    try {
+        fs::create_directories(directory_);
+        staging_.emplace(directory_, names);
+    } catch (const std::system_error& error) {
+        failFor(job.macro, error.code().value());
+    }
+}
+
+std::string StagedResult::staged(const QString& file) const
+{
+    return staging_->file(toPath(file).filename());
+}
+
+QString StagedResult::macro() const
+{
+    return QFile::decodeName(staged(files_.front()).c_str());
+}
+
+bool StagedResult::has(const QString& file) const
+{
+    return access(staged(file).c_str(), F_OK) == 0;
+}
+
+/// All that can fail for want of space or rights.
+StagedResult::Move StagedResult::prepare(const QString& file)
+{
+    Move move{file, staged(file), behindLinks(file)};
+    const fs::path directory = directoryOf(move.to);
+    try {
+        if (!fs::equivalent(directory, directory_)) {
+            // Renaming does not reach another file system.
+            const std::string name = toPath(file).filename();
+            const std::string copy = elsewhere_.emplace_back(directory, std::vector{name}).file(name);
+            fs::copy_file(std::exchange(move.from, copy), copy);
+        }
+    } catch (const std::system_error& error) {
+        failFor(file, error.code().value());
+    }
+    takeOverRights(move.from, move.to);
+    if (const int error = flushToDisk(move.from))
+        failFor(file, error);
+    return move;
+}
+
+QStringList StagedResult::place()
+{
+    QStringList written;
+    std::vector<Move> moves;
+    for (const QString& file : files_)
+        if (has(file)) {
+            moves.push_back(prepare(file));
+            written.append(file);
+        }
+
+    // Of two processes that put files here at once, one has to wait, so that macro and project are of the same one.
+    const Descriptor directory(directory_, O_RDONLY | O_DIRECTORY);
+    while (flock(directory.number(), LOCK_EX) != 0 && errno == EINTR) {
+    }
+    if (!staging_->stands() || !has(files_.front()))
+        throw PlacingError(files_.front(), "its folder vanished during the work");
+    const SignalPause pause;
+    // The macro comes last: where it is, its project is.
+    std::reverse(moves.begin(), moves.end());
+    for (const Move& move : moves)
+        if (rename(move.from.c_str(), move.to.c_str()) != 0)
+            failFor(move.file, errno);
+    return written;
+}
+
+QString refusalOf(const Job& job)
+{
+    for (const QString& file : job.files())
+        if (QString refusal = refusalAt(file); !refusal.isEmpty())
+            return refusal;
+    return {};
+}
+
+} // namespace inkmacro

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "app/StagingFolder.h"
+#include "app/jobs.h"
+
+#include <list>
+#include <optional>
+#include <stdexcept>
+
+namespace inkmacro {
+
+/// A file that cannot come to its place.
+class PlacingError : public std::runtime_error
+{
+public:
+    PlacingError(const QString& file, const QString& reason);
+    QString message() const;
+};
+
+/// The files of one job: the module writes them in a staging folder beside their place, and when all of them are whole
+/// they are put there by renaming. Until then, and for ever when that moment does not come, what stood there stays.
+class StagedResult
+{
+public:
+    /// Makes the folders that are missing. Raises PlacingError.
+    explicit StagedResult(const Job& job);
+
+    /// Where the module shall write the macro. Its name is that of the place, since the text of the macro holds it.
+    QString macro() const;
+    /// Whether the file that is to come to that place has been written.
+    bool has(const QString& file) const;
+
+    /// Puts the files to their places and gives their paths. A symbolic link that stands there stays and its target is
+    /// replaced. Raises PlacingError; then no file has been replaced, unless it was the replacing that failed.
+    QStringList place();
+
+private:
+    struct Move
+    {
+        QString file; ///< as people know it
+        std::string from;
+        std::string to;
+    };
+
+    std::string staged(const QString& file) const;
+    Move prepare(const QString& file);
+
+    QStringList files_; ///< the macro first
+    std::filesystem::path directory_;
+    std::optional<StagingFolder> staging_;
+    std::list<StagingFolder> elsewhere_; ///< beside the targets of links
+};
+
+/// Why a file of the job may not be written, or empty text: in its place stands something that is no file, or that the
+/// user may not write.
+QString refusalOf(const Job& job);
+
+} // namespace inkmacro

@@ -1,0 +1,310 @@
+// How results get to their place: whole or not at all, whatever stands there and however the program ends.
+
+#include "Program.h"
+
+#include <QDirIterator>
+#include <QRegularExpression>
+
+#include <csignal>
+#include <memory>
+#include <thread>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Results are put into a folder under its lock. Whoever holds it keeps the program at the point where all is written
+/// and nothing is in its place.
+class Hold
+{
+public:
+    explicit Hold(const QString& folder)
+    {
+        QDir().mkpath(folder);
+        descriptor_ = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        EXPECT_EQ(flock(descriptor_, LOCK_EX), 0);
+    }
+    ~Hold() { close(descriptor_); }
+    Hold(const Hold&) = delete;
+    Hold& operator=(const Hold&) = delete;
+
+private:
+    int descriptor_;
+};
+
+class Results : public Program
+{
+protected:
+    /// The files of that name which are written and not yet in their place.
+    QStringList staged(const QString& name) const
+    {
+        QStringList found;
+        QDirIterator walk(path("."), {name}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (walk.hasNext())
+            if (walk.next(); walk.filePath().contains("/.inkmacro-"))
+                found.append(walk.filePath());
+        return found;
+    }
+    QStringList temporaryFolders() const
+    {
+        QStringList found;
+        QDirIterator walk(path("."), {".inkmacro-*"}, QDir::Dirs | QDir::Hidden, QDirIterator::Subdirectories);
+        while (walk.hasNext())
+            found.append(walk.next());
+        return found;
+    }
+    /// Until the last file of the project is written whole, that many times.
+    void awaitStaged(const QString& name, int count = 1) const
+    {
+        await([&] {
+            const QStringList files = staged(name);
+            return std::count_if(files.begin(), files.end(), [](const auto& f) { return QFileInfo(f).size() > 0; }) ==
+                   count;
+        });
+    }
+    static void await(const std::function<bool()>& holds)
+    {
+        for (int i = 0; i < 6000; ++i, std::this_thread::sleep_for(10ms))
+            if (holds())
+                return;
+        FAIL() << "it never came";
+    }
+    static void send(const QProcess& process, int signal) { kill(static_cast<pid_t>(process.processId()), signal); }
+};
+
+const QStringList wallsToCSharp{"convert", "walls.jsonl", "--target", "csharp", "--output", "out/"};
+
+TEST_F(Results, StayAsTheyWereWhenASignalEndsTheProgram)
+{
+    write("walls.jsonl", line);
+    write("doors.jsonl", line);
+    const struct
+    {
+        QStringList arguments;
+        QString folder;
+        const char* last;
+    } cases[] = {
+        {wallsToCSharp, "out/csharp", "walls.csproj"},
+        {QStringList(wallsToCSharp) << "doors.jsonl", "out/walls/csharp", "walls.csproj"},
+    };
+    for (const auto& [arguments, folder, last] : cases)
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+            write(folder + "/walls.cs", "older");
+            const Hold hold(path(folder));
+            QProcess process;
+            start(process, arguments);
+            awaitStaged(last);
+            send(process, signal);
+            EXPECT_EQ(finish(process).status, 128 + signal);
+            EXPECT_EQ(temporaryFolders(), QStringList()) << signal;
+            EXPECT_EQ(contents(folder + "/walls.cs"), "older");
+            EXPECT_FALSE(exists(folder + "/Program.cs"));
+        }
+
+    // A program that began deaf to a signal stays so.
+    auto hold = std::make_unique<Hold>(path("out/csharp"));
+    QProcess process;
+    start(process, wallsToCSharp, "trap '' HUP; ");
+    awaitStaged("walls.csproj");
+    send(process, SIGHUP);
+    hold.reset();
+    EXPECT_EQ(finish(process).status, 0);
+    EXPECT_TRUE(contents("out/csharp/walls.cs").contains("class walls"));
+}
+
+TEST_F(Results, StayAsTheyWereWhenTheProgramIsKilled)
+{
+    write("walls.jsonl", line);
+    write("doors.jsonl", line);
+    write("out/csharp/walls.cs", "older");
+    {
+        const Hold hold(path("out/csharp"));
+        QProcess process;
+        start(process, wallsToCSharp);
+        awaitStaged("walls.csproj");
+        process.kill();
+        process.waitForFinished();
+    }
+    EXPECT_EQ(contents("out/csharp/walls.cs"), "older");
+    EXPECT_EQ(temporaryFolders().size(), 1);
+    EXPECT_EQ(run(wallsToCSharp).status, 0);
+    EXPECT_EQ(temporaryFolders(), QStringList()) << "the next one cleans up";
+    EXPECT_TRUE(contents("out/csharp/walls.cs").contains("class walls"));
+
+    const Hold hold(path("out/walls/csharp"));
+    QProcess parent;
+    start(parent, QStringList(wallsToCSharp) << "doors.jsonl");
+    awaitStaged("walls.csproj");
+    parent.kill();
+    parent.waitForFinished();
+    await([this] { return temporaryFolders().isEmpty(); });
+}
+
+TEST_F(Results, OfTwoProcessesAreNeverMixed)
+{
+    // The ids of a COM project are new each time, and its files agree in them.
+    write("one/walls.jsonl", line);
+    write("two/walls.jsonl", QByteArray(line).replace("4.5", "7.5"));
+    QProcess one;
+    QProcess two;
+    {
+        const Hold hold(path("out"));
+        start(one, {"convert", "one/walls.jsonl", "--target", "cppcom", "--output", "out/walls.cpp"});
+        start(two, {"convert", "two/walls.jsonl", "--target", "cppcom", "--output", "out/walls.cpp"});
+        awaitStaged("typeconverter.h", 2);
+        EXPECT_EQ(temporaryFolders().size(), 2) << "that of a living process is left alone";
+    }
+    EXPECT_EQ(finish(one).status, 0);
+    EXPECT_EQ(finish(two).status, 0);
+    EXPECT_EQ(temporaryFolders(), QStringList());
+
+    const QByteArray macro = contents("out/walls.cpp");
+    EXPECT_NE(macro.contains("4.50000000000000"), macro.contains("7.50000000000000"));
+    const QString registration = contents("out/IwAddinConnection.rgs");
+    static const QRegularExpression id("[0-9a-fA-F]{8}(-[0-9a-fA-F]{4}){3}-[0-9a-fA-F]{12}");
+    const QString first = id.match(registration).captured();
+    ASSERT_FALSE(first.isEmpty());
+    EXPECT_TRUE(QString(contents("out/walls.idl")).contains(first, Qt::CaseInsensitive));
+}
+
+TEST_F(Results, OfOneFolderComeOneBehindTheOther)
+{
+    write("walls.jsonl", line);
+    write("doors.jsonl", line);
+    QDir().mkpath(path("out/walls"));
+    ASSERT_EQ(symlink("walls", qPrintable(path("out/doors"))), 0);
+    QProcess process;
+    {
+        const Hold hold(path("out/walls/csharp"));
+        start(process, QStringList(wallsToCSharp) << "doors.jsonl");
+        awaitStaged("walls.csproj");
+        EXPECT_EQ(staged("doors.cs"), QStringList());
+    }
+    EXPECT_EQ(finish(process).status, 0);
+    EXPECT_TRUE(exists("out/walls/csharp/walls.cs") && exists("out/walls/csharp/doors.cs"));
+    EXPECT_TRUE(contents("out/walls/csharp/Program.cs").contains("doors")) << "the last one's";
+}
+
+TEST_F(Results, AreMissedWhenTheirFolderVanishes)
+{
+    write("walls.jsonl", line);
+    QProcess process;
+    {
+        const Hold hold(path("out/csharp"));
+        start(process, wallsToCSharp);
+        awaitStaged("walls.csproj");
+        ASSERT_TRUE(QDir().rename(path("out"), path("gone")));
+    }
+    const Outcome outcome = finish(process);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(outcome.err.startsWith("inkmacro: out/csharp/")) << outcome.err.toStdString();
+    EXPECT_EQ(outcome.err.count('\n'), 1);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_FALSE(exists("out") || exists("gone/csharp/walls.cs"));
+}
+
+TEST_F(Results, FollowSymbolicLinksAndLeaveHardLinksAlone)
+{
+    write("walls.jsonl", line);
+    write("real/walls.cs", "older");
+    write("out/csharp/name", "older");
+    chmod(qPrintable(path("real/walls.cs")), 0640);
+    ASSERT_EQ(symlink("../../real/walls.cs", qPrintable(path("out/csharp/walls.cs"))), 0);
+    ASSERT_EQ(symlink("../../real/new.csproj", qPrintable(path("out/csharp/walls.csproj"))), 0);
+    ASSERT_EQ(link(qPrintable(path("out/csharp/name")), qPrintable(path("out/csharp/Program.cs"))), 0);
+
+    ASSERT_EQ(run(wallsToCSharp).status, 0);
+    EXPECT_TRUE(QFileInfo(path("out/csharp/walls.cs")).isSymLink());
+    EXPECT_TRUE(QFileInfo(path("out/csharp/walls.csproj")).isSymLink());
+    EXPECT_TRUE(contents("real/walls.cs").contains("class walls"));
+    EXPECT_TRUE(contents("real/new.csproj").contains("</Project>"));
+    EXPECT_EQ(contents("out/csharp/name"), "older");
+    EXPECT_TRUE(contents("out/csharp/Program.cs").contains("Main("));
+    EXPECT_EQ(temporaryFolders(), QStringList());
+    struct stat rights = {};
+    ASSERT_EQ(stat(qPrintable(path("real/walls.cs")), &rights), 0);
+    EXPECT_EQ(rights.st_mode & 0777, 0640U);
+
+    QFile::remove(path("out/csharp/walls.cs"));
+    ASSERT_EQ(symlink("walls.cs", qPrintable(path("out/csharp/walls.cs"))), 0);
+    const Outcome outcome = run(wallsToCSharp);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(outcome.err.contains("out/csharp/walls.cs: Too many levels")) << outcome.err.toStdString();
+}
+
+TEST_F(Results, GoToFilesOnly)
+{
+    write("walls.jsonl", line);
+    write("doors.jsonl", line);
+    for (const char* const place : {"walls.cs", "Program.cs", "walls.csproj"})
+        for (const bool several : {false, true}) {
+            const QString folder = several ? "out/walls/csharp/" : "out/csharp/";
+            QDir().mkpath(path(folder));
+            const QByteArray name = path(folder + place).toLocal8Bit();
+            const auto refuses = [&] {
+                const Outcome outcome = run(several ? QStringList(wallsToCSharp) << "doors.jsonl" : wallsToCSharp);
+                EXPECT_EQ(outcome.status, 1);
+                EXPECT_EQ(outcome.err, QString("inkmacro: %1%2 exists and is not a regular file\n").arg(folder, place));
+                EXPECT_EQ(
+                    QDir(path(folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
+                    QStringList(place));
+                EXPECT_EQ(exists("out/doors/csharp/doors.cs"), several);
+            };
+            ASSERT_EQ(mkfifo(name.constData(), 0600), 0);
+            refuses();
+            ASSERT_EQ(remove(name.constData()), 0);
+            ASSERT_EQ(mkdir(name.constData(), 0700), 0);
+            refuses();
+            ASSERT_EQ(remove(name.constData()), 0);
+            QDir(path("out")).removeRecursively();
+        }
+}
+
+TEST_F(Results, AreNotBegunWithoutDescriptorsOrMemory)
+{
+    QStringList many{"convert", "--target", "csharp", "--output", "out/"};
+    for (int i = 0; i < 4000; ++i)
+        many.append(QString("r%1.jsonl").arg(i));
+    Outcome outcome = run(many, {}, "ulimit -n 12; ");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.err, "inkmacro: no process can be started for out/r0/csharp/r0.cs: Too many open files, nor for "
+                           "the 3999 behind it\n");
+
+#if !defined(__SANITIZE_ADDRESS__)
+    write("walls.jsonl", line + "{\"sysvar\":{\"name\":\"" + QByteArray(100'000'000, 'x') + "\"}}\n");
+    write("out/csharp/walls.cs", "older");
+    for (const QString targets : {"csharp", "csharp,vba"}) {
+        outcome = run({"convert", "walls.jsonl", "--target", targets, "--output", "out/"}, {}, "ulimit -v 200000; ");
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_TRUE(outcome.err.startsWith("inkmacro: out of memory while converting walls.jsonl to csharp\n"))
+            << outcome.err.toStdString();
+        EXPECT_EQ(outcome.err.count('\n'), targets.count(',') + 1) << outcome.err.toStdString();
+        EXPECT_EQ(contents("out/csharp/walls.cs"), "older");
+        EXPECT_EQ(temporaryFolders(), QStringList());
+    }
+#endif
+}
+
+TEST_F(Results, KeepTheBytesOfANameThatIsNotUtf8)
+{
+    const QByteArray recording = path("w").toLocal8Bit() + "\xE4lls.jsonl";
+    ASSERT_EQ(rename(qPrintable(write("walls.jsonl", line)), recording.constData()), 0);
+    const QString addName = "set -- \"$@\" \"$(printf 'w\\344lls.jsonl')\"; ";
+    for (const char* const targets : {"csharp", "csharp,vba"}) {
+        const Outcome outcome = run({"convert", "--output", "out/", "--target", targets}, {}, addName);
+        EXPECT_EQ(outcome.status, 0) << outcome.err.toStdString();
+        const QByteArray macro = path("out/csharp/w").toLocal8Bit() + "\xE4lls.cs";
+        EXPECT_EQ(unlink(macro.constData()), 0) << targets;
+    }
+    EXPECT_EQ(run({"check"}, {}, addName).status, 0);
+    EXPECT_EQ(run({"inspect", "--json"}, {}, addName).status, 0);
+    // Qt does not find what it has to remove.
+    QProcess::execute("/bin/rm", {"-r", path("out")});
+    EXPECT_EQ(unlink(recording.constData()), 0);
+}
+
+} // namespace
