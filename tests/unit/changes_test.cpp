@@ -342,7 +342,7 @@ TEST(Setters, WriteAPropertyInTheFormOfTheirTarget)
     expectInAllTargets({"    a->put_P( L\"x\" );\n", "    a->put_P( L\"x\" );\n", "    a.P = \"x\";\n",
                         "    a.put_P (\"x\");\n", "    a.P = \"x\"\n", "    a.P = \"x\"\n"},
                        [](TestTarget& made) { return EmitSetProperty(made.writer, "a", "P", "x", true); });
-    expectInAllTargets({"    a->put_P( x );\n", "    a->put_P( x );\n", "    a.P = x;\n", "    a.put_P( x );\n",
+    expectInAllTargets({"    a->put_P( x );\n", "    a->put_P( x );\n", "    a.P = x;\n", "    a.put_P(x);\n",
                         "    a.P = x\n", "    a.P = x\n"},
                        [](TestTarget& made) { return EmitSetProperty(made.writer, "a", "P", "x", false); });
     expectInAllTargets({"    a->put_P( 1.50000000000000 );\n", "    a->put_P( 1.50000000000000 );\n",
