@@ -4,7 +4,6 @@
 
 #include "app/ExitStatus.h"
 #include "app/LoadedModule.h"
-#include "app/OpenDrawing.h"
 #include "app/ProgressLine.h"
 #include "app/StagedResult.h"
 #include "app/console.h"
@@ -13,6 +12,7 @@
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxRegistry.h"
 #include "host/kernel/CFxServices.h"
+#include "recordfile/OpenDrawing.h"
 
 #include <QFileInfo>
 

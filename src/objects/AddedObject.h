@@ -29,6 +29,7 @@ public:
     {
         return converter.FindPoint(xTag, yTag, zTag, list_, context_, &consumed_);
     }
+    OdGePoint3d takePoint(const CFxString& tag) { return take(tag).GetPoint3d(); }
     CFxString takeText(const CFxString& tag) { return take(tag).GetString(); }
     /// The points of a collection; none of a value that is no collection.
     OdArray<OdGePoint3d> takePoints(const CFxString& tag)

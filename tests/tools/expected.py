@@ -6,6 +6,7 @@ A call is (object, operation, arguments). An object is named by the way to it, s
 import itertools
 import json
 import math
+import re
 
 import harness
 import interface
@@ -186,6 +187,15 @@ def _first_difference(wanted, seen, what):
     return []
 
 
+def _temporaries(calls):
+    """The curves that are inserted for a dimension alone: they are erased right behind it."""
+    for number, (_, name, arguments) in enumerate(calls):
+        if re.fullmatch("Insert.+Dimension.*", name):
+            behind = itertools.takewhile(lambda call: call[1] == "put_Erased" and "@" + call[0] in arguments,
+                                         calls[number + 1:])
+            yield from (on for on, _, _ in behind)
+
+
 class Comparison:
     """Holds the calls that stubs saw against recordings, macro by macro."""
 
@@ -211,11 +221,28 @@ class Comparison:
         faults = _first_difference(frame, calls[:len(frame)], "call of the frame")
         objects = _Objects(recording, manager, self._inserted)
         ways = set(objects.ways.values())
-        seen = [call for call in calls[len(frame):]
+        seen = [call for call in self._lasting(calls[len(frame):])
                 if call[1] in self._insertions or call[1] in CHANGES and call[0] in ways]
         self._compare(objects.calls, seen, faults)
         self.objects += len(objects.ways)
         self.complaints += [f"{macro.name}: {fault}" for fault in faults]
+
+    def _lasting(self, calls):
+        """Without temporary curves; the others get the numbers that they would have without those."""
+        temporary = set(_temporaries(calls))
+        given, counts, ways, lasting = {}, {}, {}, []
+        for on, name, arguments in calls:
+            if name in self._insertions:
+                result = self._inserted[self._insertions[name]]
+                given[result] = given.get(result, 0) + 1
+                way = f"{result}#{given[result]}"
+                if way in temporary:
+                    continue
+                counts[result] = counts.get(result, 0) + 1
+                ways[way] = f"{result}#{counts[result]}"
+            if on not in temporary:
+                lasting.append((ways.get(on, on), name, arguments))
+        return lasting
 
     def _compare(self, wanted, seen, faults):
         """An insertion counts as the class that it inserts; its arguments are left to the sources."""

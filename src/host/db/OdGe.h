@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 /// Points and vectors. Coordinates are drawing units; no operation changes them on the way into a statement.
 struct OdGePoint2d
 {
@@ -32,6 +34,13 @@ struct OdGePoint3d
     double z = 0.0;
     bool operator==(const OdGePoint3d&) const = default;
 
+    double distanceTo(const OdGePoint3d& other) const
+    {
+        const double dx = x - other.x;
+        const double dy = y - other.y;
+        const double dz = z - other.z;
+        return std::sqrt(dx * dx + dy * dy + dz * dz);
+    }
     OdGePoint3d operator+(const OdGeVector3d& v) const { return {x + v.x, y + v.y, z + v.z}; }
     OdGePoint3d operator-(const OdGeVector3d& v) const { return {x - v.x, y - v.y, z - v.z}; }
 };

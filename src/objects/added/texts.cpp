@@ -158,10 +158,10 @@ QString ReadNote(AddedObject& added)
     setReal("TextHeight", textHeight);
     setReal("Width", width);
     setReal("LineSpaceDistance", lineSpaceDistance);
-    const CFxString styleName =
-        style.GetType() == CFxVariant::kId ? nameOfTextStyle(style.GetId()) : ChosenText(style).value_or(CFxString());
-    if (!styleName.isEmpty())
+    if (!style.IsNull()) {
+        const CFxString styleName = style.GetType() == CFxVariant::kId ? nameOfTextStyle(style.GetId()) : wordOf(style);
         text += EmitSetProperty(added.writer, added.name, "TextStyle", styleName, true);
+    }
     if (const std::optional<CFxString> justification = ChosenText(justify))
         text += EmitSetNoteJustify(added.writer, added.name, "Justify", *justification);
     if (!direction.IsNull())

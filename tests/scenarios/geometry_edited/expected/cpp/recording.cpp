@@ -81,6 +81,22 @@ bool CMacroCommand::ExecuteNotify(void)
     iwEmbeddedObject_ptr iwembeddedobject11;
     iwViewport_ptr iwviewport12;
     iwRotatedDimension_ptr iwrotateddimension13;
+    iwDoubleArray Coordinates1,Coordinates2,Coordinates3;
+    Coordinates1.clear();Coordinates2.clear();Coordinates3.clear(); 
+    Coordinates1.add(0.00000000000000);Coordinates1.add(0.00000000000000);Coordinates1.add(0.00000000000000);
+    Coordinates2.add(0.00000000000000);Coordinates2.add(0.00000000000000);Coordinates2.add(0.00000000000000);
+    Coordinates3.add(0.00000000000000);Coordinates3.add(0.00000000000000);Coordinates3.add(0.00000000000000);
+    iwSketchManager->InsertRotatedDimension( Coordinates1, Coordinates2, Coordinates3, L"", 0, &iwrotateddimension13 );
+        iwGeneralDimension_ptr generalDimension1;
+        iwrotateddimension13->GetGeneralDimension( &generalDimension1 );
+    iwColor_ptr iwColor2;
+    m_pIwApp->GetColorByIndex( 256, &iwColor2 );
+    generalDimension1->put_Color( iwColor2 );
+    generalDimension1->put_Layer( L"Walls" );
+    generalDimension1->put_LineStyle( L"Continuous" );
+    generalDimension1->put_LineScale( 1.00000000000000 );
+    generalDimension1->put_LineWeight( iwLnWt_ByLayer );
+    generalDimension1->put_Thickness( 0.00000000000000 );
     iwModelNamedView_ptr iwmodelnamedview14;
     {
         double X;
@@ -91,12 +107,12 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolyline1->SetVertexCoordinate( 2, X, Y, &retVal );
     }
     {
-        bool bRetVal1 = false;
-        iwpolyline1->SetSegmentStartWidth( 0, 0.25000000000000, &bRetVal1 );
+        bool bRetVal3 = false;
+        iwpolyline1->SetSegmentStartWidth( 0, 0.25000000000000, &bRetVal3 );
     }
     {
-        bool bRetVal2 = false;
-        iwpolyline1->SetSegmentEndWidth( 0, 0.50000000000000, &bRetVal2 );
+        bool bRetVal4 = false;
+        iwpolyline1->SetSegmentEndWidth( 0, 0.50000000000000, &bRetVal4 );
     }
     // AcDbPolyline object modified
     {
@@ -111,13 +127,13 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolyline1->put_LineStyleGeneration( false );
     }
     {
-        double X3;
-        double Y3;
-        double Z3;
-        bool bRetVal3 = false;
-        iwpolyline3d2->GetVertexCoordinate( 1, &X3, &Y3, &Z3, &bRetVal3 );
-        Z3 = 7.00000000000000;
-        iwpolyline3d2->SetVertexCoordinate( 1, X3, Y3, Z3, &bRetVal3 );
+        double X5;
+        double Y5;
+        double Z5;
+        bool bRetVal5 = false;
+        iwpolyline3d2->GetVertexCoordinate( 1, &X5, &Y5, &Z5, &bRetVal5 );
+        Z5 = 7.00000000000000;
+        iwpolyline3d2->SetVertexCoordinate( 1, X5, Y5, Z5, &bRetVal5 );
     }
     // AcDb3dPolyline object modified
     {
@@ -125,35 +141,35 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolyline3d2->put_Closed( true );
     }
     {
-        double X4;
-        double Y4;
-        double Z4;
-        bool bRetVal4 = false;
-        iwspline3->GetControlPointCoordinate( 0, &X4, &Y4, &Z4, &bRetVal4 );
-        X4 = 3.00000000000000;
-        iwspline3->SetControlPointCoordinate( 0, X4, Y4, Z4, &bRetVal4 );
+        double X6;
+        double Y6;
+        double Z6;
+        bool bRetVal6 = false;
+        iwspline3->GetControlPointCoordinate( 0, &X6, &Y6, &Z6, &bRetVal6 );
+        X6 = 3.00000000000000;
+        iwspline3->SetControlPointCoordinate( 0, X6, Y6, Z6, &bRetVal6 );
     }
     {
-        double X5;
-        double Y5;
-        double Z5;
-        bool bRetVal5 = false;
-        iwspline3->GetFitPointCoordinate( 3, &X5, &Y5, &Z5, &bRetVal5 );
-        Y5 = 4.00000000000000;
-        iwspline3->SetFitPointCoordinate( 3, X5, Y5, Z5, &bRetVal5 );
+        double X7;
+        double Y7;
+        double Z7;
+        bool bRetVal7 = false;
+        iwspline3->GetFitPointCoordinate( 3, &X7, &Y7, &Z7, &bRetVal7 );
+        Y7 = 4.00000000000000;
+        iwspline3->SetFitPointCoordinate( 3, X7, Y7, Z7, &bRetVal7 );
     }
     // AcDbSpline object modified
     {
         iwspline3->put_FitTolerance( 0.00100000000000 );
     }
     {
-        double X6;
-        double Y6;
-        double Z6;
-        bool bRetVal6 = false;
-        iwpolygonmesh4->GetVertexCoordinate( 0, &X6, &Y6, &Z6, &bRetVal6 );
-        X6 = 5.00000000000000;
-        iwpolygonmesh4->SetVertexCoordinate( 0, X6, Y6, Z6, &bRetVal6 );
+        double X8;
+        double Y8;
+        double Z8;
+        bool bRetVal8 = false;
+        iwpolygonmesh4->GetVertexCoordinate( 0, &X8, &Y8, &Z8, &bRetVal8 );
+        X8 = 5.00000000000000;
+        iwpolygonmesh4->SetVertexCoordinate( 0, X8, Y8, Z8, &bRetVal8 );
     }
     // AcDbPolygonMesh object modified
     {
@@ -164,29 +180,29 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolygonmesh4->put_FitSmooth( iwPolygonMeshFitSmooth_Bezier );
     }
     {
-        double X7;
-        double Y7;
-        double Z7;
-        bool bRetVal7 = false;
-        iwpolyfacemesh5->GetVertexCoordinate( 5, &X7, &Y7, &Z7, &bRetVal7 );
-        Y7 = 6.00000000000000;
-        iwpolyfacemesh5->SetVertexCoordinate( 5, X7, Y7, Z7, &bRetVal7 );
-    }
-    {
-        double X8;
-        double Y8;
-        double Z8;
-        iwsolid6->GetVertex1Coordinate( &X8, &Y8, &Z8 );
-        X8 = 1.00000000000000;
-        iwsolid6->SetVertex1Coordinate( X8, Y8, Z8 );
-    }
-    {
         double X9;
         double Y9;
         double Z9;
-        iwtrace7->GetVertex4Coordinate( &X9, &Y9, &Z9 );
-        Z9 = 2.00000000000000;
-        iwtrace7->SetVertex4Coordinate( X9, Y9, Z9 );
+        bool bRetVal9 = false;
+        iwpolyfacemesh5->GetVertexCoordinate( 5, &X9, &Y9, &Z9, &bRetVal9 );
+        Y9 = 6.00000000000000;
+        iwpolyfacemesh5->SetVertexCoordinate( 5, X9, Y9, Z9, &bRetVal9 );
+    }
+    {
+        double X10;
+        double Y10;
+        double Z10;
+        iwsolid6->GetVertex1Coordinate( &X10, &Y10, &Z10 );
+        X10 = 1.00000000000000;
+        iwsolid6->SetVertex1Coordinate( X10, Y10, Z10 );
+    }
+    {
+        double X11;
+        double Y11;
+        double Z11;
+        iwtrace7->GetVertex4Coordinate( &X11, &Y11, &Z11 );
+        Z11 = 2.00000000000000;
+        iwtrace7->SetVertex4Coordinate( X11, Y11, Z11 );
     }
     // AcDbFace object modified
     {
@@ -194,12 +210,12 @@ bool CMacroCommand::ExecuteNotify(void)
         iwface8->put_Edge4Visible( false );
     }
     {
-        double X10;
-        double Y10;
-        double Z10;
-        iwface8->GetVertex4Coordinate( &X10, &Y10, &Z10 );
-        X10 = 1.00000000000000;
-        iwface8->SetVertex4Coordinate( X10, Y10, Z10 );
+        double X12;
+        double Y12;
+        double Z12;
+        iwface8->GetVertex4Coordinate( &X12, &Y12, &Z12 );
+        X12 = 1.00000000000000;
+        iwface8->SetVertex4Coordinate( X12, Y12, Z12 );
     }
     // AcDbMline object modified
     {
@@ -208,12 +224,12 @@ bool CMacroCommand::ExecuteNotify(void)
     }
     // AcDbShape object modified
     {
-        double X11;
-        double Y11;
-        double Z11;
-        iwshape10->GetPosition( &X11, &Y11, &Z11 );
-        X11 = 1.00000000000000;
-        iwshape10->SetPosition( X11, Y11, Z11 );
+        double X13;
+        double Y13;
+        double Z13;
+        iwshape10->GetPosition( &X13, &Y13, &Z13 );
+        X13 = 1.00000000000000;
+        iwshape10->SetPosition( X13, Y13, Z13 );
         iwshape10->put_Obliquing( 0.10000000000000 );
         iwshape10->put_Rotation( 0.20000000000000 );
         iwshape10->put_Size( 3.00000000000000 );
@@ -222,23 +238,23 @@ bool CMacroCommand::ExecuteNotify(void)
     // AcDbOle2Frame object modified
     {
         iwembeddedobject11->put_Height( 2.00000000000000 );
-        double X12;
-        double Y12;
-        double Z12;
-        iwembeddedobject11->GetPosition( &X12, &Y12, &Z12 );
-        Y12 = 1.00000000000000;
-        iwembeddedobject11->SetPosition( X12, Y12, Z12 );
+        double X14;
+        double Y14;
+        double Z14;
+        iwembeddedobject11->GetPosition( &X14, &Y14, &Z14 );
+        Y14 = 1.00000000000000;
+        iwembeddedobject11->SetPosition( X14, Y14, Z14 );
         iwembeddedobject11->put_Width( 3.00000000000000 );
         iwembeddedobject11->put_PrintQuality( iwEmbeddedObjectPrintQuality_HighGraphics );
     }
     // AcDbViewport object modified
     {
-        double X13;
-        double Y13;
-        double Z13;
-        iwviewport12->GetCenter( &X13, &Y13, &Z13 );
-        X13 = 5.00000000000000;
-        iwviewport12->SetCenter( X13, Y13, Z13 );
+        double X15;
+        double Y15;
+        double Z15;
+        iwviewport12->GetCenter( &X15, &Y15, &Z15 );
+        X15 = 5.00000000000000;
+        iwviewport12->SetCenter( X15, Y15, Z15 );
         iwviewport12->put_Height( 4.00000000000000 );
         iwviewport12->put_CCSPerViewport( true );
         iwviewport12->put_CustomScale( 0.50000000000000 );
@@ -248,22 +264,22 @@ bool CMacroCommand::ExecuteNotify(void)
         iwviewport12->put_StandardScale( iwViewportStandardScale_1_2 );
     }
     // AcDbRotatedDimension object modified
-        iwGeneralDimension_ptr generalDimension14;
-        iwrotateddimension13->GetGeneralDimension( &generalDimension14 );
-    iwColor_ptr iwColor15;
-    m_pIwApp->GetColorByIndex( 2, &iwColor15 );
-    generalDimension14->put_Color( iwColor15 );
-    // AcDbRotatedDimension object modified
-    {
         iwGeneralDimension_ptr generalDimension16;
         iwrotateddimension13->GetGeneralDimension( &generalDimension16 );
-        generalDimension16->put_Layer( L"Walls" );
-    }
+    iwColor_ptr iwColor17;
+    m_pIwApp->GetColorByIndex( 2, &iwColor17 );
+    generalDimension16->put_Color( iwColor17 );
     // AcDbRotatedDimension object modified
     {
         iwGeneralDimension_ptr generalDimension18;
         iwrotateddimension13->GetGeneralDimension( &generalDimension18 );
-        generalDimension18->put_Erased( true );
+        generalDimension18->put_Layer( L"Walls" );
+    }
+    // AcDbRotatedDimension object modified
+    {
+        iwGeneralDimension_ptr generalDimension20;
+        iwrotateddimension13->GetGeneralDimension( &generalDimension20 );
+        generalDimension20->put_Erased( true );
     }
     // AcDbBlockTableRecord object modified
     iwBlockDefinition_ptr iwblockdefinition15;
@@ -276,12 +292,12 @@ bool CMacroCommand::ExecuteNotify(void)
     iwLayerManager_1->GetLayer( L"0", &iwlayer16 );
     // AcDbLayerTableRecord object modified
     {
-        iwLayerManager_ptr iwLayerManager20;
-        iwDoc->GetLayerManager( &iwLayerManager20 );
-        iwString layerName20;
-        iwlayer16->get_Name( &layerName20 );
-        bool bResult20 = false;
-        iwLayerManager20->RemoveLayer( layerName20, &bResult20 );
+        iwLayerManager_ptr iwLayerManager22;
+        iwDoc->GetLayerManager( &iwLayerManager22 );
+        iwString layerName22;
+        iwlayer16->get_Name( &layerName22 );
+        bool bResult22 = false;
+        iwLayerManager22->RemoveLayer( layerName22, &bResult22 );
     }
     // AcDbViewTableRecord object modified
     {

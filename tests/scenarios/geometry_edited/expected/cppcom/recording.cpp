@@ -130,13 +130,56 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     IEmbeddedObjectPtr embeddedobject11;
     IViewportPtr viewport12;
     IRotatedDimensionPtr rotateddimension13;
+    double x, y, z;
+    VARIANT variant1,variant2,variant3;
+    variant1.vt = ( VT_ARRAY | VT_R8 );
+    variant2.vt = ( VT_ARRAY | VT_R8 );
+    variant3.vt = ( VT_ARRAY | VT_R8 );
+    variant1.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+    variant2.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+    variant3.parray = SafeArrayCreateVector( VT_R8, 0, 3);
+    long rgIndices1;
+    rgIndices1 = 0;
+    x=0.00000000000000; y=0.00000000000000; z=0.00000000000000;
+    SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x) );
+    rgIndices1=1;
+    SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y) );
+    rgIndices1=2;
+    SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z) );
+
+    long rgIndices2;
+    rgIndices2 = 0;
+    x=0.00000000000000; y=0.00000000000000; z=0.00000000000000;
+    SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(x) );
+    rgIndices2=1;
+    SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(y) );
+    rgIndices2=2;
+    SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(z) );
+
+    long rgIndices3;
+    rgIndices3 = 0;
+    x=0.00000000000000; y=0.00000000000000; z=0.00000000000000;
+    SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(x) );
+    rgIndices3=1;
+    SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(y) );
+    rgIndices3=2;
+    SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(z) );
+
+    rotateddimension13 = iwSketchManager->InsertRotatedDimension( variant1, variant2, variant3, L"", 0.00000000000000 );
+        IGeneralDimensionPtr generalDimension4 = rotateddimension13->GetGeneralDimension();
+    generalDimension4->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    generalDimension4->put_Layer( L"Walls" );
+    generalDimension4->put_LineStyle( L"Continuous" );
+    generalDimension4->put_LineScale( 1.00000000000000 );
+    generalDimension4->put_LineWeight( iwLnWt_ByLayer );
+    generalDimension4->put_Thickness( 0.00000000000000 );
     IModelNamedViewPtr modelnamedview14;
     {
-        double X1;
-        double Y1;
-        polyline1->GetVertexCoordinate( 2, &X1, &Y1 );
-        X1 = 1.50000000000000;
-        polyline1->SetVertexCoordinate( 2, X1, Y1 );
+        double X5;
+        double Y5;
+        polyline1->GetVertexCoordinate( 2, &X5, &Y5 );
+        X5 = 1.50000000000000;
+        polyline1->SetVertexCoordinate( 2, X5, Y5 );
     }
     {
         polyline1->SetSegmentStartWidth( 0, 0.25000000000000 );
@@ -157,12 +200,12 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         polyline1->put_LineStyleGeneration( false );
     }
     {
-        double X2;
-        double Y2;
-        double Z2;
-        polyline3d2->GetVertexCoordinate( 1, &X2, &Y2, &Z2 );
-        Z2 = 7.00000000000000;
-        polyline3d2->SetVertexCoordinate( 1, X2, Y2, Z2 );
+        double X6;
+        double Y6;
+        double Z6;
+        polyline3d2->GetVertexCoordinate( 1, &X6, &Y6, &Z6 );
+        Z6 = 7.00000000000000;
+        polyline3d2->SetVertexCoordinate( 1, X6, Y6, Z6 );
         
     }
     // AcDb3dPolyline object modified
@@ -171,21 +214,21 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         polyline3d2->put_Closed( true );
     }
     {
-        double X3;
-        double Y3;
-        double Z3;
-        spline3->GetControlPointCoordinate( 0, &X3, &Y3, &Z3 );
-        X3 = 3.00000000000000;
-        spline3->SetControlPointCoordinate( 0, X3, Y3, Z3 );
+        double X7;
+        double Y7;
+        double Z7;
+        spline3->GetControlPointCoordinate( 0, &X7, &Y7, &Z7 );
+        X7 = 3.00000000000000;
+        spline3->SetControlPointCoordinate( 0, X7, Y7, Z7 );
         
     }
     {
-        double X4;
-        double Y4;
-        double Z4;
-        spline3->GetFitPointCoordinate( 3, &X4, &Y4, &Z4 );
-        Y4 = 4.00000000000000;
-        spline3->SetFitPointCoordinate( 3, X4, Y4, Z4 );
+        double X8;
+        double Y8;
+        double Z8;
+        spline3->GetFitPointCoordinate( 3, &X8, &Y8, &Z8 );
+        Y8 = 4.00000000000000;
+        spline3->SetFitPointCoordinate( 3, X8, Y8, Z8 );
         
     }
     // AcDbSpline object modified
@@ -193,12 +236,12 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         spline3->put_FitTolerance( 0.00100000000000 );
     }
     {
-        double X5;
-        double Y5;
-        double Z5;
-        polygonmesh4->GetVertexCoordinate( 0, &X5, &Y5, &Z5 );
-        X5 = 5.00000000000000;
-        polygonmesh4->SetVertexCoordinate( 0, X5, Y5, Z5 );
+        double X9;
+        double Y9;
+        double Z9;
+        polygonmesh4->GetVertexCoordinate( 0, &X9, &Y9, &Z9 );
+        X9 = 5.00000000000000;
+        polygonmesh4->SetVertexCoordinate( 0, X9, Y9, Z9 );
         
     }
     // AcDbPolygonMesh object modified
@@ -210,30 +253,30 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         polygonmesh4->put_FitSmooth( iwPolygonMeshFitSmooth_Bezier );
     }
     {
-        double X6;
-        double Y6;
-        double Z6;
-        polyfacemesh5->GetVertexCoordinate( 5, &X6, &Y6, &Z6 );
-        Y6 = 6.00000000000000;
-        polyfacemesh5->SetVertexCoordinate( 5, X6, Y6, Z6 );
+        double X10;
+        double Y10;
+        double Z10;
+        polyfacemesh5->GetVertexCoordinate( 5, &X10, &Y10, &Z10 );
+        Y10 = 6.00000000000000;
+        polyfacemesh5->SetVertexCoordinate( 5, X10, Y10, Z10 );
         
     }
     {
-        double X7;
-        double Y7;
-        double Z7;
-        solid6->GetVertex1Coordinate( &X7, &Y7, &Z7 );
-        X7 = 1.00000000000000;
-        solid6->SetVertex1Coordinate( X7, Y7, Z7 );
+        double X11;
+        double Y11;
+        double Z11;
+        solid6->GetVertex1Coordinate( &X11, &Y11, &Z11 );
+        X11 = 1.00000000000000;
+        solid6->SetVertex1Coordinate( X11, Y11, Z11 );
         
     }
     {
-        double X8;
-        double Y8;
-        double Z8;
-        trace7->GetVertex4Coordinate( &X8, &Y8, &Z8 );
-        Z8 = 2.00000000000000;
-        trace7->SetVertex4Coordinate( X8, Y8, Z8 );
+        double X12;
+        double Y12;
+        double Z12;
+        trace7->GetVertex4Coordinate( &X12, &Y12, &Z12 );
+        Z12 = 2.00000000000000;
+        trace7->SetVertex4Coordinate( X12, Y12, Z12 );
         
     }
     // AcDbFace object modified
@@ -242,12 +285,12 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         face8->put_Edge4Visible( false );
     }
     {
-        double X9;
-        double Y9;
-        double Z9;
-        face8->GetVertex4Coordinate( &X9, &Y9, &Z9 );
-        X9 = 1.00000000000000;
-        face8->SetVertex4Coordinate( X9, Y9, Z9 );
+        double X13;
+        double Y13;
+        double Z13;
+        face8->GetVertex4Coordinate( &X13, &Y13, &Z13 );
+        X13 = 1.00000000000000;
+        face8->SetVertex4Coordinate( X13, Y13, Z13 );
         
     }
     // AcDbMline object modified
@@ -257,12 +300,12 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     }
     // AcDbShape object modified
     {
-        double X10;
-        double Y10;
-        double Z10;
-        shape10->GetPosition( &X10, &Y10, &Z10 );
-        X10 = 1.00000000000000;
-        shape10->SetPosition( X10, Y10, Z10 );
+        double X14;
+        double Y14;
+        double Z14;
+        shape10->GetPosition( &X14, &Y14, &Z14 );
+        X14 = 1.00000000000000;
+        shape10->SetPosition( X14, Y14, Z14 );
         
         shape10->put_Obliquing( 0.10000000000000 );
         shape10->put_Rotation( 0.20000000000000 );
@@ -272,24 +315,24 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     // AcDbOle2Frame object modified
     {
         embeddedobject11->put_Height( 2.00000000000000 );
-        double X11;
-        double Y11;
-        double Z11;
-        embeddedobject11->GetPosition( &X11, &Y11, &Z11 );
-        Y11 = 1.00000000000000;
-        embeddedobject11->SetPosition( X11, Y11, Z11 );
+        double X15;
+        double Y15;
+        double Z15;
+        embeddedobject11->GetPosition( &X15, &Y15, &Z15 );
+        Y15 = 1.00000000000000;
+        embeddedobject11->SetPosition( X15, Y15, Z15 );
         
         embeddedobject11->put_Width( 3.00000000000000 );
         embeddedobject11->put_PrintQuality( iwEmbeddedObjectPrintQuality_HighGraphics );
     }
     // AcDbViewport object modified
     {
-        double X12;
-        double Y12;
-        double Z12;
-        viewport12->GetCenter( &X12, &Y12, &Z12 );
-        X12 = 5.00000000000000;
-        viewport12->SetCenter( X12, Y12, Z12 );
+        double X16;
+        double Y16;
+        double Z16;
+        viewport12->GetCenter( &X16, &Y16, &Z16 );
+        X16 = 5.00000000000000;
+        viewport12->SetCenter( X16, Y16, Z16 );
         
         viewport12->put_Height( 4.00000000000000 );
         viewport12->put_CCSPerViewport( true );
@@ -300,17 +343,17 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         viewport12->put_StandardScale( iwViewportStandardScale_1_2 );
     }
     // AcDbRotatedDimension object modified
-        IGeneralDimensionPtr generalDimension13 = rotateddimension13->GetGeneralDimension();
-    generalDimension13->put_Color( pConnection->m_IwApp->GetColorByIndex( 2 ) );
+        IGeneralDimensionPtr generalDimension17 = rotateddimension13->GetGeneralDimension();
+    generalDimension17->put_Color( pConnection->m_IwApp->GetColorByIndex( 2 ) );
     // AcDbRotatedDimension object modified
     {
-        IGeneralDimensionPtr generalDimension14 = rotateddimension13->GetGeneralDimension();
-        generalDimension14->put_Layer( L"Walls" );
+        IGeneralDimensionPtr generalDimension18 = rotateddimension13->GetGeneralDimension();
+        generalDimension18->put_Layer( L"Walls" );
     }
     // AcDbRotatedDimension object modified
     {
-        IGeneralDimensionPtr generalDimension16 = rotateddimension13->GetGeneralDimension();
-        generalDimension16->put_Erased( true );
+        IGeneralDimensionPtr generalDimension20 = rotateddimension13->GetGeneralDimension();
+        generalDimension20->put_Erased( true );
     }
     // AcDbBlockTableRecord object modified
     IBlockDefinitionPtr blockdefinition15;
@@ -321,10 +364,10 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     ILayerPtr layer16 = iwLayerManager_1->GetLayer( "0" );
     // AcDbLayerTableRecord object modified
     {
-        ILayerManagerPtr iwLayerManager18 = iwDoc->GetLayerManager();
-        BSTR layerName18;
-        layer16->get_Name( &layerName18 );
-        iwLayerManager18->RemoveLayer( layerName18 );
+        ILayerManagerPtr iwLayerManager22 = iwDoc->GetLayerManager();
+        BSTR layerName22;
+        layer16->get_Name( &layerName22 );
+        iwLayerManager22->RemoveLayer( layerName22 );
     }
     // AcDbViewTableRecord object modified
     {

@@ -58,13 +58,34 @@ Sub main()
         Dim embeddedobject11 As Inkwright.EmbeddedObject
         Dim viewport12 As Inkwright.Viewport
         Dim rotateddimension13 As Inkwright.RotatedDimension
+        Dim extLine1Point_Rot1(2) As Double
+        extLine1Point_Rot1(0) = 0.00000000000000
+        extLine1Point_Rot1(1) = 0.00000000000000
+        extLine1Point_Rot1(2) = 0.00000000000000
+        Dim extLine2Point_Rot1(2) As Double
+        extLine2Point_Rot1(0) = 0.00000000000000
+        extLine2Point_Rot1(1) = 0.00000000000000
+        extLine2Point_Rot1(2) = 0.00000000000000
+        Dim dimLinePoint_Rot1(2) As Double
+        dimLinePoint_Rot1(0) = 0.00000000000000
+        dimLinePoint_Rot1(1) = 0.00000000000000
+        dimLinePoint_Rot1(2) = 0.00000000000000
+        Set rotateddimension13 = iwSketchManager.InsertRotatedDimension( extLine1Point_Rot1, extLine2Point_Rot1, dimLinePoint_Rot1, "", 0.00000000000000 )
+            Dim generalDimension2 As Inkwright.GeneralDimension
+            Set generalDimension2 = rotateddimension13.GetGeneralDimension()
+        generalDimension2.Color = iwApp.GetColorByIndex( 256 )
+        generalDimension2.Layer = "Walls"
+        generalDimension2.LineStyle = "Continuous"
+        generalDimension2.LineScale = 1.00000000000000
+        generalDimension2.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
+        generalDimension2.Thickness = 0.00000000000000
         Dim modelnamedview14 As Inkwright.ModelNamedView
         If 1 Then
-            Dim X1 As Double
-            Dim Y1 As Double
-            polyline1.GetVertexCoordinate 2, X1, Y1
-            X1 = 1.50000000000000
-            polyline1.SetVertexCoordinate 2, X1, Y1
+            Dim X3 As Double
+            Dim Y3 As Double
+            polyline1.GetVertexCoordinate 2, X3, Y3
+            X3 = 1.50000000000000
+            polyline1.SetVertexCoordinate 2, X3, Y3
         End If
 
         If 1 Then
@@ -90,12 +111,12 @@ Sub main()
         End If
 
         If 1 Then
-            Dim X2 As Double
-            Dim Y2 As Double
-            Dim Z2 As Double
-            polyline3d2.GetVertexCoordinate 1, X2, Y2, Z2 
-            Z2 = 7.00000000000000
-            polyline3d2.SetVertexCoordinate 1, X2, Y2, Z2 
+            Dim X4 As Double
+            Dim Y4 As Double
+            Dim Z4 As Double
+            polyline3d2.GetVertexCoordinate 1, X4, Y4, Z4 
+            Z4 = 7.00000000000000
+            polyline3d2.SetVertexCoordinate 1, X4, Y4, Z4 
         End If
 
         ' AcDb3dPolyline object modified
@@ -105,21 +126,21 @@ Sub main()
         End If
 
         If 1 Then
-            Dim X3 As Double
-            Dim Y3 As Double
-            Dim Z3 As Double
-            spline3.GetControlPointCoordinate 0, X3, Y3, Z3 
-            X3 = 3.00000000000000
-            spline3.SetControlPointCoordinate 0, X3, Y3, Z3 
+            Dim X5 As Double
+            Dim Y5 As Double
+            Dim Z5 As Double
+            spline3.GetControlPointCoordinate 0, X5, Y5, Z5 
+            X5 = 3.00000000000000
+            spline3.SetControlPointCoordinate 0, X5, Y5, Z5 
         End If
 
         If 1 Then
-            Dim X4 As Double
-            Dim Y4 As Double
-            Dim Z4 As Double
-            spline3.GetFitPointCoordinate 3, X4, Y4, Z4 
-            Y4 = 4.00000000000000
-            spline3.SetFitPointCoordinate 3, X4, Y4, Z4 
+            Dim X6 As Double
+            Dim Y6 As Double
+            Dim Z6 As Double
+            spline3.GetFitPointCoordinate 3, X6, Y6, Z6 
+            Y6 = 4.00000000000000
+            spline3.SetFitPointCoordinate 3, X6, Y6, Z6 
         End If
 
         ' AcDbSpline object modified
@@ -128,12 +149,12 @@ Sub main()
         End If
 
         If 1 Then
-            Dim X5 As Double
-            Dim Y5 As Double
-            Dim Z5 As Double
-            polygonmesh4.GetVertexCoordinate 0, X5, Y5, Z5 
-            X5 = 5.00000000000000
-            polygonmesh4.SetVertexCoordinate 0, X5, Y5, Z5 
+            Dim X7 As Double
+            Dim Y7 As Double
+            Dim Z7 As Double
+            polygonmesh4.GetVertexCoordinate 0, X7, Y7, Z7 
+            X7 = 5.00000000000000
+            polygonmesh4.SetVertexCoordinate 0, X7, Y7, Z7 
         End If
 
         ' AcDbPolygonMesh object modified
@@ -146,30 +167,30 @@ Sub main()
         End If
 
         If 1 Then
-            Dim X6 As Double
-            Dim Y6 As Double
-            Dim Z6 As Double
-            polyfacemesh5.GetVertexCoordinate 5, X6, Y6, Z6 
-            Y6 = 6.00000000000000
-            polyfacemesh5.SetVertexCoordinate 5, X6, Y6, Z6 
-        End If
-
-        If 1 Then
-            Dim X7 As Double
-            Dim Y7 As Double
-            Dim Z7 As Double
-            solid6.GetVertex1Coordinate X7, Y7, Z7 
-            X7 = 1.00000000000000
-            solid6.SetVertex1Coordinate X7, Y7, Z7 
-        End If
-
-        If 1 Then
             Dim X8 As Double
             Dim Y8 As Double
             Dim Z8 As Double
-            trace7.GetVertex4Coordinate X8, Y8, Z8 
-            Z8 = 2.00000000000000
-            trace7.SetVertex4Coordinate X8, Y8, Z8 
+            polyfacemesh5.GetVertexCoordinate 5, X8, Y8, Z8 
+            Y8 = 6.00000000000000
+            polyfacemesh5.SetVertexCoordinate 5, X8, Y8, Z8 
+        End If
+
+        If 1 Then
+            Dim X9 As Double
+            Dim Y9 As Double
+            Dim Z9 As Double
+            solid6.GetVertex1Coordinate X9, Y9, Z9 
+            X9 = 1.00000000000000
+            solid6.SetVertex1Coordinate X9, Y9, Z9 
+        End If
+
+        If 1 Then
+            Dim X10 As Double
+            Dim Y10 As Double
+            Dim Z10 As Double
+            trace7.GetVertex4Coordinate X10, Y10, Z10 
+            Z10 = 2.00000000000000
+            trace7.SetVertex4Coordinate X10, Y10, Z10 
         End If
 
         ' AcDbFace object modified
@@ -179,12 +200,12 @@ Sub main()
         End If
 
         If 1 Then
-            Dim X9 As Double
-            Dim Y9 As Double
-            Dim Z9 As Double
-            face8.GetVertex4Coordinate X9, Y9, Z9 
-            X9 = 1.00000000000000
-            face8.SetVertex4Coordinate X9, Y9, Z9 
+            Dim X11 As Double
+            Dim Y11 As Double
+            Dim Z11 As Double
+            face8.GetVertex4Coordinate X11, Y11, Z11 
+            X11 = 1.00000000000000
+            face8.SetVertex4Coordinate X11, Y11, Z11 
         End If
 
         ' AcDbMline object modified
@@ -195,12 +216,12 @@ Sub main()
 
         ' AcDbShape object modified
         If 1 Then
-            Dim X10 As Double
-            Dim Y10 As Double
-            Dim Z10 As Double
-            shape10.GetPosition X10, Y10, Z10 
-            X10 = 1.00000000000000
-            shape10.SetPosition X10, Y10, Z10 
+            Dim X12 As Double
+            Dim Y12 As Double
+            Dim Z12 As Double
+            shape10.GetPosition X12, Y12, Z12 
+            X12 = 1.00000000000000
+            shape10.SetPosition X12, Y12, Z12 
             shape10.Obliquing = 0.10000000000000
             shape10.Rotation = 0.20000000000000
             shape10.Size = 3.00000000000000
@@ -210,24 +231,24 @@ Sub main()
         ' AcDbOle2Frame object modified
         If 1 Then
             embeddedobject11.Height = 2.00000000000000
-            Dim X11 As Double
-            Dim Y11 As Double
-            Dim Z11 As Double
-            embeddedobject11.GetPosition X11, Y11, Z11 
-            Y11 = 1.00000000000000
-            embeddedobject11.SetPosition X11, Y11, Z11 
+            Dim X13 As Double
+            Dim Y13 As Double
+            Dim Z13 As Double
+            embeddedobject11.GetPosition X13, Y13, Z13 
+            Y13 = 1.00000000000000
+            embeddedobject11.SetPosition X13, Y13, Z13 
             embeddedobject11.Width = 3.00000000000000
             embeddedobject11.PrintQuality = Inkwright.iwEmbeddedObjectPrintQuality_e.iwEmbeddedObjectPrintQuality_HighGraphics
         End If
 
         ' AcDbViewport object modified
         If 1 Then
-            Dim X12 As Double
-            Dim Y12 As Double
-            Dim Z12 As Double
-            viewport12.GetCenter X12, Y12, Z12 
-            X12 = 5.00000000000000
-            viewport12.SetCenter X12, Y12, Z12 
+            Dim X14 As Double
+            Dim Y14 As Double
+            Dim Z14 As Double
+            viewport12.GetCenter X14, Y14, Z14 
+            X14 = 5.00000000000000
+            viewport12.SetCenter X14, Y14, Z14 
             viewport12.Height = 4.00000000000000
             viewport12.CCSPerViewport = True
             viewport12.CustomScale = 0.50000000000000
@@ -238,21 +259,21 @@ Sub main()
         End If
 
         ' AcDbRotatedDimension object modified
-            Dim generalDimension13 As Inkwright.GeneralDimension
-            Set generalDimension13 = rotateddimension13.GetGeneralDimension()
-        generalDimension13.Color = iwApp.GetColorByIndex( 2 )
-        ' AcDbRotatedDimension object modified
-        If 1 Then
-            Dim generalDimension14 As Inkwright.GeneralDimension
-            Set generalDimension14 = rotateddimension13.GetGeneralDimension()
-            generalDimension14.Layer = "Walls"
-        End If
-
+            Dim generalDimension15 As Inkwright.GeneralDimension
+            Set generalDimension15 = rotateddimension13.GetGeneralDimension()
+        generalDimension15.Color = iwApp.GetColorByIndex( 2 )
         ' AcDbRotatedDimension object modified
         If 1 Then
             Dim generalDimension16 As Inkwright.GeneralDimension
             Set generalDimension16 = rotateddimension13.GetGeneralDimension()
-            generalDimension16.Erased = True
+            generalDimension16.Layer = "Walls"
+        End If
+
+        ' AcDbRotatedDimension object modified
+        If 1 Then
+            Dim generalDimension18 As Inkwright.GeneralDimension
+            Set generalDimension18 = rotateddimension13.GetGeneralDimension()
+            generalDimension18.Erased = True
         End If
 
         ' AcDbBlockTableRecord object modified
@@ -267,11 +288,11 @@ Sub main()
         Set layer16  = iwLayerManager_1.GetLayer( "0" )
         ' AcDbLayerTableRecord object modified
         If 1 Then
-            Dim iwLayerManager18 As Inkwright.LayerManager
-            Set iwLayerManager18 = iwDoc.GetLayerManager()
-            Dim layerName18 As String
-            layerName18 = layer16.Name
-            iwLayerManager18.RemoveLayer layerName18
+            Dim iwLayerManager20 As Inkwright.LayerManager
+            Set iwLayerManager20 = iwDoc.GetLayerManager()
+            Dim layerName20 As String
+            layerName20 = layer16.Name
+            iwLayerManager20.RemoveLayer layerName20
         End If
 
         ' AcDbViewTableRecord object modified

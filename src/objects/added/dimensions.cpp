@@ -1,0 +1,181 @@
+// Added dimensions.
+
+#include "objects/targets/dimensions.h"
+
+#include "host/db/OdDbClasses.h"
+#include "objects/AddedObject.h"
+#include "objects/added/dimensionGeometry.h"
+#include "objects/added/readers.h"
+#include "objects/targets/dimensionOptions.h"
+#include "objects/targets/dimensionsOnCurves.h"
+#include "objects/targets/points.h"
+#include "objects/targets/setters.h"
+#include "targets/wording.h"
+
+#include <optional>
+
+namespace {
+
+/// Distances up to this are none.
+constexpr double kPointTolerance = 1e-10;
+
+CFxString takeTextOverride(AddedObject& added)
+{
+    return inkmacro::doubleBackslashes(added.takeText("Text override"));
+}
+
+/// A point of the drawing's plane, recorded as two numbers.
+OdGePoint3d takePlanePoint(AddedObject& added, const char* yTag, const char* xTag)
+{
+    const double y = added.takeReal(yTag, 0.0);
+    const double x = added.takeReal(xTag, 0.0);
+    return {x, y, 0.0};
+}
+
+/// The curve that the dimension measures; nothing for a dimension that is not in the drawing, or has no curve.
+template<class Dimension>
+std::optional<MeasuredCurve> curveOf(const AddedObject& added)
+{
+    const auto dimension = added.open<Dimension>();
+    const OdDbObjectPtr curve = dimension ? GetDimensionGeometry(*dimension) : OdDbObjectPtr();
+    if (!curve)
+        return std::nullopt;
+    return MeasuredCurve{curve, added.converter.AddedVariable(curve->objectId())};
+}
+
+/// The rotation belongs to the part of a dimension that all kinds have, so a statement fetches that first.
+QString withTextRotation(QString insertion, AddedObject& added)
+{
+    const CFxVariant rotation = added.take("Rotation");
+    if (rotation.IsNull())
+        return insertion;
+    CFxString general;
+    insertion += EmitGetOptions(added.writer, generalDimension, added.name, general);
+    return insertion + EmitSetDoubleProperty(added.writer, general, "TextRotation", rotation.GetDouble());
+}
+
+/// A line without a variable is drawn anew.
+QString variableOf(const AddedObject& added, const OdDbObjectPtr& line)
+{
+    return line ? added.converter.AddedVariable(line->objectId()) : QString();
+}
+
+} // namespace
+
+QString ReadAlignedDimension(AddedObject& added)
+{
+    const OdGePoint3d first = added.takePoint("xLine1Point");
+    const OdGePoint3d second = added.takePoint("xLine2Point");
+    const OdGePoint3d line = added.takePoint("dimLinePoint");
+    const CFxString text = takeTextOverride(added);
+    return withTextRotation(EmitInsertAlignedDimension(added.writer, first, second, line, text, added.name), added);
+}
+
+QString Read2LineAngularDimension(AddedObject& added)
+{
+    DimensionLine first;
+    DimensionLine second;
+    first.start = added.takePoint("xLine1Start");
+    first.end = added.takePoint("xLine1End");
+    second.start = added.takePoint("xLine2Start");
+    second.end = added.takePoint("xLine2End");
+    const OdGePoint3d arcPoint = added.takePoint("arcPoint");
+    const CFxString text = takeTextOverride(added);
+    if (MeasuresFromVariables(added.writer)) {
+        if (const auto dimension = added.open<OdDb2LineAngularDimension>()) {
+            OdDbObjectPtr firstObject;
+            OdDbObjectPtr secondObject;
+            GetDimensionAssociatedLines(*dimension, firstObject, secondObject);
+            first.variable = variableOf(added, firstObject);
+            second.variable = variableOf(added, secondObject);
+        }
+    }
+    return withTextRotation(EmitInsertAngularDimension2Line(added.writer, first, second, arcPoint, text, added.name),
+                            added);
+}
+
+QString Read3PointAngularDimension(AddedObject& added)
+{
+    const OdGePoint3d center = added.takePoint("centerPoint");
+    const OdGePoint3d first = added.takePoint("xLine1Point");
+    const OdGePoint3d second = added.takePoint("xLine2Point");
+    const OdGePoint3d arcPoint = added.takePoint("arcPoint");
+    const CFxString text = takeTextOverride(added);
+    const std::optional<MeasuredCurve> curve = curveOf<OdDb3PointAngularDimension>(added);
+    const bool onArc = curve && odrxQuery<OdDbArc>(curve->object.get());
+    QString insertion =
+        onArc ? EmitInsertAngularDimensionArc(added.writer, *curve, arcPoint, text, added.name)
+              : EmitInsertAngularDimension3Point(added.writer, center, first, second, arcPoint, text, added.name);
+    return withTextRotation(std::move(insertion), added);
+}
+
+QString ReadArcLengthDimension(AddedObject& added)
+{
+    const OdGePoint3d first = added.takePoint("xLine1Point");
+    const OdGePoint3d second = added.takePoint("xLine2Point");
+    const bool partial = added.take("isPartial").GetInt32() != 0;
+    const OdGePoint3d arcPoint = added.takePoint("arcPoint");
+    const CFxString text = takeTextOverride(added);
+    QString insertion;
+    if (const std::optional<MeasuredCurve> arc = curveOf<OdDbArcDimension>(added))
+        insertion =
+            EmitInsertArcLengthDimension(added.writer, *arc, first, second, partial, arcPoint, text, added.name);
+    return withTextRotation(std::move(insertion), added);
+}
+
+QString ReadOrdinateDimension(AddedObject& added)
+{
+    const OdGePoint3d point = added.takePoint("definingPoint");
+    const OdGePoint3d leaderEnd = added.takePoint("leaderEndPoint");
+    const bool usesXAxis = added.take("isUsingXAxis").GetInt32() != 0;
+    const CFxString text = takeTextOverride(added);
+    QString statements = withTextRotation(
+        EmitInsertOrdinateDimension(added.writer, point, leaderEnd, usesXAxis, text, added.name), added);
+    const CFxVariant zero = added.take("setZero");
+    if (!zero.IsNull() && zero.GetPoint3d().distanceTo({}) > kPointTolerance)
+        statements += EmitCallWithPoint(added.writer, added.name, "SetOriginPoint", zero.GetPoint3d());
+    return statements;
+}
+
+QString ReadDiameterDimension(AddedObject& added)
+{
+    const OdGePoint3d chordPoint = added.takePoint("chordPoint");
+    const CFxString text = takeTextOverride(added);
+    QString insertion;
+    if (const std::optional<MeasuredCurve> curve = curveOf<OdDbDiametricDimension>(added))
+        insertion = EmitInsertDiameterDimension(added.writer, *curve, chordPoint, text, added.name);
+    return withTextRotation(std::move(insertion), added);
+}
+
+QString ReadRadialDimension(AddedObject& added)
+{
+    const OdGePoint3d chordPoint = added.takePoint("chordPoint");
+    const CFxString text = takeTextOverride(added);
+    QString insertion;
+    if (const std::optional<MeasuredCurve> curve = curveOf<OdDbRadialDimension>(added))
+        insertion = EmitInsertRadialDimension(added.writer, *curve, chordPoint, text, added.name);
+    return withTextRotation(std::move(insertion), added);
+}
+
+QString ReadJoggedDimension(AddedObject& added)
+{
+    const OdGePoint3d center = takePlanePoint(added, "Center location override Y", "Center location override X");
+    const OdGePoint3d jog = takePlanePoint(added, "Jog location Y", "Jog location X");
+    const OdGePoint3d position = takePlanePoint(added, "Position y", "Position x");
+    const CFxString text = takeTextOverride(added);
+    QString insertion;
+    if (const std::optional<MeasuredCurve> curve = curveOf<OdDbRadialDimensionLarge>(added))
+        insertion = EmitInsertJoggedDimension(added.writer, *curve, center, jog, position, text, added.name);
+    return withTextRotation(std::move(insertion), added);
+}
+
+QString ReadRotatedDimension(AddedObject& added)
+{
+    const OdGePoint3d first = added.takePoint("xLine1Point");
+    const OdGePoint3d second = added.takePoint("xLine2Point");
+    const OdGePoint3d line = added.takePoint("dimLinePoint");
+    const double rotation = added.takeReal("rotation", 0.0);
+    const CFxString text = takeTextOverride(added);
+    return withTextRotation(EmitInsertRotatedDimension(added.writer, first, second, line, rotation, text, added.name),
+                            added);
+}
