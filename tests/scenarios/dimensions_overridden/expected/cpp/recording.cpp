@@ -68,41 +68,49 @@ bool CMacroCommand::ExecuteNotify(void)
         return false;
     }
 
-    iwAlignedDimension_ptr iwaligneddimension4;
-    iwRotatedDimension_ptr iwrotateddimension5;
-    iwRadialDimension_ptr iwradialdimension6;
-    iwArcLengthDimension_ptr iwarclengthdimension7;
-    iwJoggedDimension_ptr iwjoggeddimension8;
+    iwAlignedDimension_ptr iwaligneddimension1;
     {
         iwDoubleArray Coordinates1,Coordinates2,Coordinates3;
         Coordinates1.clear();Coordinates2.clear();Coordinates3.clear(); 
         Coordinates1.add(0.00000000000000);Coordinates1.add(0.00000000000000);Coordinates1.add(0.00000000000000);
         Coordinates2.add(120.00000000000000);Coordinates2.add(50.00000000000000);Coordinates2.add(0.00000000000000);
         Coordinates3.add(60.00000000000000);Coordinates3.add(-15.00000000000000);Coordinates3.add(0.00000000000000);
-        iwSketchManager->InsertAlignedDimension( Coordinates1, Coordinates2, Coordinates3, L"", &iwaligneddimension4 );
+        iwSketchManager->InsertAlignedDimension( Coordinates1, Coordinates2, Coordinates3, L"", &iwaligneddimension1 );
+    }
+    iwRotatedDimension_ptr iwrotateddimension2;
+    {
         iwDoubleArray Coordinates1,Coordinates2,Coordinates3;
         Coordinates1.clear();Coordinates2.clear();Coordinates3.clear(); 
         Coordinates1.add(0.00000000000000);Coordinates1.add(0.00000000000000);Coordinates1.add(0.00000000000000);
         Coordinates2.add(120.00000000000000);Coordinates2.add(0.00000000000000);Coordinates2.add(0.00000000000000);
         Coordinates3.add(60.00000000000000);Coordinates3.add(-15.00000000000000);Coordinates3.add(0.00000000000000);
-        iwSketchManager->InsertRotatedDimension( Coordinates1, Coordinates2, Coordinates3, L"", 0, &iwrotateddimension5 );
+        iwSketchManager->InsertRotatedDimension( Coordinates1, Coordinates2, Coordinates3, L"", 0, &iwrotateddimension2 );
+    }
+    iwRadialDimension_ptr iwradialdimension3;
+    {
         {
             iwDoubleArray Coordinates1;
             Coordinates1.clear();
 
             Coordinates1.add(42.50000000000000);Coordinates1.add(30.00000000000000);Coordinates1.add(0.00000000000000);
-            iwCircle_ptr iwradialdimension6_associated_circle; iwSketchManager->InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000 ,&iwradialdimension6_associated_circle );
-            iwSketchManager->InsertRadialDimensionCircle( iwradialdimension6_associated_circle, Coordinates1, L"" ,&iwradialdimension6 );
-            iwradialdimension6_associated_circle->put_Erased(true);
+            iwCircle_ptr iwradialdimension3_associated_circle; iwSketchManager->InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000 ,&iwradialdimension3_associated_circle );
+            iwSketchManager->InsertRadialDimensionCircle( iwradialdimension3_associated_circle, Coordinates1, L"" ,&iwradialdimension3 );
+            iwradialdimension3_associated_circle->put_Erased(true);
         }
-        iwCircleArc_ptr iwarclengthdimension7_associated_arc;
-        iwSketchManager->InsertArc(90.00000000000000, 30.00000000000000, 0.00000000000000, 32.01562118716424, 0.00000000000000, 1.57079632679490, &iwarclengthdimension7_associated_arc);
+    }
+    iwArcLengthDimension_ptr iwarclengthdimension4;
+    {
+        iwCircleArc_ptr iwarclengthdimension4_associated_arc;
+        iwSketchManager->InsertArc(90.00000000000000, 30.00000000000000, 0.00000000000000, 32.01562118716424, 0.00000000000000, 1.57079632679490, &iwarclengthdimension4_associated_arc);
         {
             iwDoubleArray dimensionPosition;
             dimensionPosition.add(110.00000000000000); dimensionPosition.add(55.00000000000000); dimensionPosition.add(0.00000000000000);
-            iwSketchManager->InsertArcLengthDimension(iwarclengthdimension7_associated_arc, dimensionPosition, L"", &iwarclengthdimension7);
-            iwarclengthdimension7_associated_arc->put_Erased(true);
+            iwSketchManager->InsertArcLengthDimension(iwarclengthdimension4_associated_arc, dimensionPosition, L"", &iwarclengthdimension4);
+            iwarclengthdimension4_associated_arc->put_Erased(true);
         }
+    }
+    iwJoggedDimension_ptr iwjoggeddimension5;
+    {
         {
             iwDoubleArray Coordinates1,Coordinates2,Coordinates3;
             Coordinates1.clear();Coordinates2.clear();Coordinates3.clear();
@@ -110,100 +118,19 @@ bool CMacroCommand::ExecuteNotify(void)
             Coordinates1.add(10.00000000000000);Coordinates1.add(20.00000000000000);Coordinates1.add(0.00000000000000);
             Coordinates2.add(16.00000000000000);Coordinates2.add(26.00000000000000);Coordinates2.add(0.00000000000000);
             Coordinates3.add(17.50000000000000);Coordinates3.add(30.00000000000000);Coordinates3.add(0.00000000000000);
-            iwCircle_ptr iwjoggeddimension8_associated_circle; iwSketchManager->InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000 ,&iwjoggeddimension8_associated_circle );
-            iwSketchManager->InsertJoggedDimensionCircle( iwjoggeddimension8_associated_circle, Coordinates1, Coordinates2, Coordinates3, L"R<>" ,&iwjoggeddimension8 );
-            iwjoggeddimension8_associated_circle->put_Erased(true);
-        }
-    }
-    {
-        // AcDbDimStyleTableRecord object modified
-        {
-            iwDimensionStyleArrowsOptions_ptr arrowOptions1;
-            iwdimensionstyle1->GetDimensionStyleArrowsOptions( &arrowOptions1 );
-            arrowOptions1->put_Size( 2.25000000000000 );
-            iwDimensionArrowType_e arrowType2=iwDimensionArrowType_DotSmall;
-            iwString arrowName2 = L"";
-            arrowOptions1->SetLeaderArrow( arrowType2, arrowName2 );
-            iwDimensionStyleAngularDimensionOptions_ptr angularOptions3;
-            iwdimensionstyle1->GetDimensionStyleAngularDimensionOptions( &angularOptions3 );
-            angularOptions3->put_Format( iwDimensionStyleAngleFormat_Deg_Min_Sec );
-            angularOptions3->put_Precision( iwUnitPrecision_3 );
-            angularOptions3->put_HideTrailingZeroes( true );
-            angularOptions3->put_ArcLengthSymbols( iwArcLengthSymbols_None );
-            iwDimensionStyleDualDimensionOptions_ptr dualOptions4;
-            iwdimensionstyle1->GetDimensionStyleDualDimensionOptions( &dualOptions4 );
-            dualOptions4->put_Show( true );
-            dualOptions4->put_Format( iwDualDimensionFormat_Engineering );
-            dualOptions4->put_MultiplierForConvertingUnits( 0.03937007870000 );
-            dualOptions4->put_Suffix( L" in" );
-            dualOptions4->put_Insertion( iwDualDimensionInsertPlacement_BelowPrimaryUnits );
-            iwDimensionStyleFitOptions_ptr fitOptions5;
-            iwdimensionstyle1->GetDimensionStyleFitOptions( &fitOptions5 );
-            fitOptions5->put_FitGeometry( iwDimensionFitGeometry_Arrows );
-            fitOptions5->put_FitGeometry( iwDimensionFitGeometry_Text );
-            fitOptions5->put_FitDimensionText( iwDimensionFitDimensionText_AboveDimensionLineWithLeader );
-            fitOptions5->put_DimensionLinesBetweenExtensionLine( true );
-            fitOptions5->SetDimensionScale( iwDimensionScale_UseScaleFactor, 1.50000000000000 );
-            fitOptions5->SetDimensionScale( iwDimensionScale_ScaleDimensionsAccordingToSheet, 1.00000000000000 );
-            iwDimensionStyleLinearDimensionOptions_ptr linearOptions6;
-            iwdimensionstyle1->GetDimensionStyleLinearDimensionOptions( &linearOptions6 );
-            linearOptions6->put_Format( iwLinearDimensionFormat_Decimal );
-            linearOptions6->put_Precision( iwUnitPrecision_0 );
-            linearOptions6->put_DecimalSeparator( iwLinearDimensionDecimalSeparator_Period );
-            linearOptions6->put_Prefix( L"R " );
-            linearOptions6->put_ZeroesDisplayFollowSheetDimensions( false );
-            iwDimensionStyleLineOptions_ptr linesOptions7;
-            iwdimensionstyle1->GetDimensionStyleLineOptions( &linesOptions7 );
-            linesOptions7->put_DimensionLineStyle( L"DASHED" );
-            linesOptions7->put_DimensionLineLineWeight( iwLnWt_035 );
-            iwColor_ptr iwColor8;
-            m_pIwApp->GetRGBColor( 255, 128, 0, &iwColor8 );
-            linesOptions7->put_DimensionLineColor( iwColor8 );
-            linesOptions7->put_ExtensionLine1Style( L"ByBlock" );
-            iwColor_ptr iwColor9;
-            m_pIwApp->GetColorByIndex( 256, &iwColor9 );
-            linesOptions7->put_ExtensionLineColor( iwColor9 );
-            linesOptions7->SetExtensionLineFixedLength(true, 2.25000000000000);
-            iwDimensionStyleRadialDiameterDimensionOptions_ptr radialDiameterOptions10;
-            iwdimensionstyle1->GetDimensionStyleRadialDiameterDimensionOptions( &radialDiameterOptions10 );
-            radialDiameterOptions10->put_SetCenterMarkDisplay(iwDimensionCenterMarkDisplay_AsCenterLine, 0.09000000000000);
-            radialDiameterOptions10->put_RadiusDimensionJogAngle( 0.78539816339745 );
-            iwDimensionStyleTextOptions_ptr textOptions11;
-            iwdimensionstyle1->GetDimensionStyleTextOptions( &textOptions11 );
-            textOptions11->put_Style( L"Standard" );
-            iwColor_ptr iwColor12;
-            m_pIwApp->GetColorByIndex( 3, &iwColor12 );
-            textOptions11->put_Color( iwColor12 );
-            textOptions11->put_VerticalPosition( iwDimensionTextVerticalPosition_Above );
-            textOptions11->put_Alignment( iwDimensionTextAlignment_AlignWithDimensionLines );
-            iwDimensionStyleToleranceOptions_ptr toleranceOptions13;
-            iwdimensionstyle1->GetDimensionStyleToleranceOptions( &toleranceOptions13 );
-            toleranceOptions13->put_Calculation( iwToleranceCalculation_Deviation );
-            toleranceOptions13->put_MaximumValue( 0.05000000000000 );
-            toleranceOptions13->put_MinimumValue( 0.02000000000000 );
-            toleranceOptions13->put_VerticalTextJustification( iwToleranceVerticalTextJustification_Middle );
-        }
-        // AcDbDimStyleTableRecord object modified
-        {
-            iwDimensionStyleLinearDimensionOptions_ptr linearOptions14;
-            iwdimensionstyle2->GetDimensionStyleLinearDimensionOptions( &linearOptions14 );
-            linearOptions14->put_Precision( iwUnitPrecision_1 );
-        }
-    }
-    {
-        // AcDbMlineStyle object modified
-        {
-            iwrichlinestyle3->put_ShowJunctions( false );
+            iwCircle_ptr iwjoggeddimension5_associated_circle; iwSketchManager->InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000 ,&iwjoggeddimension5_associated_circle );
+            iwSketchManager->InsertJoggedDimensionCircle( iwjoggeddimension5_associated_circle, Coordinates1, Coordinates2, Coordinates3, L"R<>" ,&iwjoggeddimension5 );
+            iwjoggeddimension5_associated_circle->put_Erased(true);
         }
     }
     {
         // AcDbAlignedDimension object modified
         {
             iwGeneralDimension_ptr generalDimension2;
-            iwaligneddimension4->GetGeneralDimension( &generalDimension2 );
+            iwaligneddimension1->GetGeneralDimension( &generalDimension2 );
             generalDimension2->put_DimensionStyle( L"Workshop" );
             iwGeneralDimension_ptr generalDimension3;
-            iwaligneddimension4->GetGeneralDimension( &generalDimension3 );
+            iwaligneddimension1->GetGeneralDimension( &generalDimension3 );
             iwDimensionStyleUserData_ptr dimensionStyle4;
             generalDimension3->GetDimensionStyleUserData( &dimensionStyle4 );
             iwDimensionStyleArrowsOptions_ptr arrowsOptions5;
@@ -217,19 +144,19 @@ bool CMacroCommand::ExecuteNotify(void)
         // AcDbRotatedDimension object modified
         {
             iwGeneralDimension_ptr generalDimension2;
-            iwrotateddimension5->GetGeneralDimension( &generalDimension2 );
+            iwrotateddimension2->GetGeneralDimension( &generalDimension2 );
             generalDimension2->put_TextRotation( 0.50000000000000 );
         }
     }
     {
         // AcDbRotatedDimension object modified
             iwGeneralDimension_ptr generalDimension1;
-            iwrotateddimension5->GetGeneralDimension( &generalDimension1 );
+            iwrotateddimension2->GetGeneralDimension( &generalDimension1 );
         iwColor_ptr iwColor2;
         m_pIwApp->GetColorByIndex( 1, &iwColor2 );
         generalDimension1->put_Color( iwColor2 );
         iwGeneralDimension_ptr generalDimension3;
-        iwrotateddimension5->GetGeneralDimension( &generalDimension3 );
+        iwrotateddimension2->GetGeneralDimension( &generalDimension3 );
         iwDimensionStyleUserData_ptr dimensionStyle4;
         generalDimension3->GetDimensionStyleUserData( &dimensionStyle4 );
         iwDimensionStyleFitOptions_ptr fitOptions5;
@@ -238,7 +165,7 @@ bool CMacroCommand::ExecuteNotify(void)
         fitOptions5->put_FitGeometry( iwDimensionFitGeometry_KeepTextBetweenExtensionLines );
         fitOptions5->SetDimensionScale( iwDimensionScale_UseScaleFactor, 2.00000000000000 );
         iwGeneralDimension_ptr generalDimension6;
-        iwrotateddimension5->GetGeneralDimension( &generalDimension6 );
+        iwrotateddimension2->GetGeneralDimension( &generalDimension6 );
         double x7, y7;
         generalDimension6->GetTextPosition( &x7, &y7 );
         generalDimension6->SetTextPosition( 55.00000000000000, y7 );
@@ -258,14 +185,14 @@ bool CMacroCommand::ExecuteNotify(void)
         // AcDbRotatedDimension object modified
         {
             iwGeneralDimension_ptr generalDimension2;
-            iwrotateddimension5->GetGeneralDimension( &generalDimension2 );
+            iwrotateddimension2->GetGeneralDimension( &generalDimension2 );
             iwDimensionStyleUserData_ptr dimensionStyle3;
             generalDimension2->GetDimensionStyleUserData( &dimensionStyle3 );
             iwDimensionStyleAngularDimensionOptions_ptr angularDimensionOptions4;
             dimensionStyle3->GetDimensionStyleAngularDimensionOptions( &angularDimensionOptions4 );
             angularDimensionOptions4->put_HideTrailingZeroes( true );
             iwGeneralDimension_ptr generalDimension5;
-            iwrotateddimension5->GetGeneralDimension( &generalDimension5 );
+            iwrotateddimension2->GetGeneralDimension( &generalDimension5 );
             iwDimensionStyleUserData_ptr dimensionStyle6;
             generalDimension5->GetDimensionStyleUserData( &dimensionStyle6 );
             iwDimensionStyleDualDimensionOptions_ptr dualDimensionOptions7;
@@ -273,7 +200,7 @@ bool CMacroCommand::ExecuteNotify(void)
             dualDimensionOptions7->put_Show( true );
             dualDimensionOptions7->put_Suffix( L" in" );
             iwGeneralDimension_ptr generalDimension8;
-            iwrotateddimension5->GetGeneralDimension( &generalDimension8 );
+            iwrotateddimension2->GetGeneralDimension( &generalDimension8 );
             iwDimensionStyleUserData_ptr dimensionStyle9;
             generalDimension8->GetDimensionStyleUserData( &dimensionStyle9 );
             iwDimensionStyleLineOptions_ptr lineOptions10;
@@ -287,7 +214,7 @@ bool CMacroCommand::ExecuteNotify(void)
             lineOptions10->put_HideDimensionLine2( false );
             lineOptions10->SetExtensionLineFixedLength(false, 1.25000000000000);
             iwGeneralDimension_ptr generalDimension12;
-            iwrotateddimension5->GetGeneralDimension( &generalDimension12 );
+            iwrotateddimension2->GetGeneralDimension( &generalDimension12 );
             iwDimensionStyleUserData_ptr dimensionStyle13;
             generalDimension12->GetDimensionStyleUserData( &dimensionStyle13 );
             iwDimensionStyleLinearDimensionOptions_ptr linearDimensionOptions14;
@@ -296,7 +223,7 @@ bool CMacroCommand::ExecuteNotify(void)
             linearDimensionOptions14->put_DecimalSeparator( iwLinearDimensionDecimalSeparator_Space );
             linearDimensionOptions14->put_Prefix( L"~" );
             iwGeneralDimension_ptr generalDimension15;
-            iwrotateddimension5->GetGeneralDimension( &generalDimension15 );
+            iwrotateddimension2->GetGeneralDimension( &generalDimension15 );
             iwDimensionStyleUserData_ptr dimensionStyle16;
             generalDimension15->GetDimensionStyleUserData( &dimensionStyle16 );
             iwDimensionStyleToleranceOptions_ptr toleranceOptions17;
@@ -309,7 +236,7 @@ bool CMacroCommand::ExecuteNotify(void)
         // AcDbRadialDimension object modified
         {
             iwGeneralDimension_ptr generalDimension2;
-            iwradialdimension6->GetGeneralDimension( &generalDimension2 );
+            iwradialdimension3->GetGeneralDimension( &generalDimension2 );
             iwDimensionStyleUserData_ptr dimensionStyle3;
             generalDimension2->GetDimensionStyleUserData( &dimensionStyle3 );
             iwDimensionStyleRadialDiameterDimensionOptions_ptr radialDiameterDimensionOptions4;
@@ -330,38 +257,38 @@ bool CMacroCommand::ExecuteNotify(void)
         // AcDbArcDimension object modified
         {
             iwGeneralDimension_ptr generalDimension2;
-            iwarclengthdimension7->GetGeneralDimension( &generalDimension2 );
+            iwarclengthdimension4->GetGeneralDimension( &generalDimension2 );
             iwDimensionStyleUserData_ptr dimensionStyle3;
             generalDimension2->GetDimensionStyleUserData( &dimensionStyle3 );
             iwDimensionStyleAngularDimensionOptions_ptr angularDimensionOptions4;
             dimensionStyle3->GetDimensionStyleAngularDimensionOptions( &angularDimensionOptions4 );
             angularDimensionOptions4->put_Format( iwDimensionStyleAngleFormat_Radians );
             angularDimensionOptions4->put_HideLeadingZeroes( true );
-            iwarclengthdimension7->put_ArcSymbolType( iwArcSymbolType_None );
+            iwarclengthdimension4->put_ArcSymbolType( iwArcSymbolType_None );
         }
     }
     {
         // AcDbRadialDimensionLarge object modified
         {
             iwGeneralDimension_ptr generalDimension2;
-            iwjoggeddimension8->GetGeneralDimension( &generalDimension2 );
+            iwjoggeddimension5->GetGeneralDimension( &generalDimension2 );
             iwDimensionStyleUserData_ptr dimensionStyle3;
             generalDimension2->GetDimensionStyleUserData( &dimensionStyle3 );
             iwDimensionStyleRadialDiameterDimensionOptions_ptr radialDiameterDimensionOptions4;
             dimensionStyle3->GetDimensionStyleRadialDiameterDimensionOptions( &radialDiameterDimensionOptions4 );
             radialDiameterDimensionOptions4->put_RadiusDimensionJogAngle( 0.75000000000000 );
             double x5, y5, z5;
-            iwjoggeddimension8->GetOverrideCenterPoint( &x5, &y5, &z5 );
-            iwjoggeddimension8->SetOverrideCenterPoint( x5, 21.50000000000000, z5 );
+            iwjoggeddimension5->GetOverrideCenterPoint( &x5, &y5, &z5 );
+            iwjoggeddimension5->SetOverrideCenterPoint( x5, 21.50000000000000, z5 );
             double x6, y6, z6;
-            iwjoggeddimension8->GetJogPoint( &x6, &y6, &z6 );
-            iwjoggeddimension8->SetJogPoint( 17.00000000000000, y6, z6 );
+            iwjoggeddimension5->GetJogPoint( &x6, &y6, &z6 );
+            iwjoggeddimension5->SetJogPoint( 17.00000000000000, y6, z6 );
         }
     }
     {
         {
             iwGeneralDimension_ptr generalDimension2;
-            iwradialdimension6->GetGeneralDimension( &generalDimension2 );
+            iwradialdimension3->GetGeneralDimension( &generalDimension2 );
             iwDimensionStyleUserData_ptr dimensionStyle3;
             generalDimension2->GetDimensionStyleUserData( &dimensionStyle3 );
             iwDimensionStyleTextOptions_ptr textOptions4;

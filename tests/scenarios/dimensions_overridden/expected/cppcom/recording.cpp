@@ -117,11 +117,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         return;
     }
 
-    IAlignedDimensionPtr aligneddimension4;
-    IRotatedDimensionPtr rotateddimension5;
-    IRadialDimensionPtr radialdimension6;
-    IArcLengthDimensionPtr arclengthdimension7;
-    IJoggedDimensionPtr joggeddimension8;
+    IAlignedDimensionPtr aligneddimension1;
     {
         double x, y, z;
         VARIANT variant1,variant2,variant3;
@@ -158,191 +154,138 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         rgIndices3=2;
         SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(z) );
 
-        aligneddimension4 = iwSketchManager->InsertAlignedDimension( variant1, variant2, variant3, L"" );
+        aligneddimension1 = iwSketchManager->InsertAlignedDimension( variant1, variant2, variant3, L"" );
+    }
+    IRotatedDimensionPtr rotateddimension2;
+    {
         double x, y, z;
-        VARIANT variant5,variant6,variant7;
-        variant5.vt = ( VT_ARRAY | VT_R8 );
-        variant6.vt = ( VT_ARRAY | VT_R8 );
-        variant7.vt = ( VT_ARRAY | VT_R8 );
-        variant5.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
-        variant6.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
-        variant7.parray = SafeArrayCreateVector( VT_R8, 0, 3);
-        long rgIndices5;
-        rgIndices5 = 0;
+        VARIANT variant1,variant2,variant3;
+        variant1.vt = ( VT_ARRAY | VT_R8 );
+        variant2.vt = ( VT_ARRAY | VT_R8 );
+        variant3.vt = ( VT_ARRAY | VT_R8 );
+        variant1.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        variant2.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        variant3.parray = SafeArrayCreateVector( VT_R8, 0, 3);
+        long rgIndices1;
+        rgIndices1 = 0;
         x=0.00000000000000; y=0.00000000000000; z=0.00000000000000;
-        SafeArrayPutElement( variant5.parray, &rgIndices5, (double*)&(x) );
-        rgIndices5=1;
-        SafeArrayPutElement( variant5.parray, &rgIndices5, (double*)&(y) );
-        rgIndices5=2;
-        SafeArrayPutElement( variant5.parray, &rgIndices5, (double*)&(z) );
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x) );
+        rgIndices1=1;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y) );
+        rgIndices1=2;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z) );
 
-        long rgIndices6;
-        rgIndices6 = 0;
+        long rgIndices2;
+        rgIndices2 = 0;
         x=120.00000000000000; y=0.00000000000000; z=0.00000000000000;
-        SafeArrayPutElement( variant6.parray, &rgIndices6, (double*)&(x) );
-        rgIndices6=1;
-        SafeArrayPutElement( variant6.parray, &rgIndices6, (double*)&(y) );
-        rgIndices6=2;
-        SafeArrayPutElement( variant6.parray, &rgIndices6, (double*)&(z) );
+        SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(x) );
+        rgIndices2=1;
+        SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(y) );
+        rgIndices2=2;
+        SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(z) );
 
-        long rgIndices7;
-        rgIndices7 = 0;
+        long rgIndices3;
+        rgIndices3 = 0;
         x=60.00000000000000; y=-15.00000000000000; z=0.00000000000000;
-        SafeArrayPutElement( variant7.parray, &rgIndices7, (double*)&(x) );
-        rgIndices7=1;
-        SafeArrayPutElement( variant7.parray, &rgIndices7, (double*)&(y) );
-        rgIndices7=2;
-        SafeArrayPutElement( variant7.parray, &rgIndices7, (double*)&(z) );
+        SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(x) );
+        rgIndices3=1;
+        SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(y) );
+        rgIndices3=2;
+        SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(z) );
 
-        rotateddimension5 = iwSketchManager->InsertRotatedDimension( variant5, variant6, variant7, L"", 0.00000000000000 );
-        ICirclePtr radialdimension6_associated_circle; radialdimension6_associated_circle =iwSketchManager->InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000);
+        rotateddimension2 = iwSketchManager->InsertRotatedDimension( variant1, variant2, variant3, L"", 0.00000000000000 );
+    }
+    IRadialDimensionPtr radialdimension3;
+    {
+        ICirclePtr radialdimension3_associated_circle; radialdimension3_associated_circle =iwSketchManager->InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000);
         {
             double x, y, z;
-            VARIANT variant9;
-            variant9.vt = ( VT_ARRAY | VT_R8 );
-            variant9.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
-        long rgIndices9;
-        rgIndices9 = 0;
+            VARIANT variant1;
+            variant1.vt = ( VT_ARRAY | VT_R8 );
+            variant1.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        long rgIndices1;
+        rgIndices1 = 0;
         x=42.50000000000000; y=30.00000000000000; z=0.00000000000000;
-        SafeArrayPutElement( variant9.parray, &rgIndices9, (double*)&(x) );
-        rgIndices9=1;
-        SafeArrayPutElement( variant9.parray, &rgIndices9, (double*)&(y) );
-        rgIndices9=2;
-        SafeArrayPutElement( variant9.parray, &rgIndices9, (double*)&(z) );
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x) );
+        rgIndices1=1;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y) );
+        rgIndices1=2;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z) );
 
-            radialdimension6=iwSketchManager->InsertRadialDimensionCircle( radialdimension6_associated_circle, variant9, L"" );
-            radialdimension6_associated_circle->put_Erased(true);
+            radialdimension3=iwSketchManager->InsertRadialDimensionCircle( radialdimension3_associated_circle, variant1, L"" );
+            radialdimension3_associated_circle->put_Erased(true);
         }
-        ICircleArcPtr arclengthdimension7_associated_arc; arclengthdimension7_associated_arc = iwSketchManager->InsertArc( 90.00000000000000, 30.00000000000000, 0.00000000000000, 32.01562118716424, 0.00000000000000, 1.57079632679490 );
+    }
+    IArcLengthDimensionPtr arclengthdimension4;
+    {
+        ICircleArcPtr arclengthdimension4_associated_arc; arclengthdimension4_associated_arc = iwSketchManager->InsertArc( 90.00000000000000, 30.00000000000000, 0.00000000000000, 32.01562118716424, 0.00000000000000, 1.57079632679490 );
         {
             double x, y, z;
-            VARIANT variant11;
-            variant11.vt = ( VT_ARRAY | VT_R8 );
-            variant11.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
-        long rgIndices11;
-        rgIndices11 = 0;
+            VARIANT variant1;
+            variant1.vt = ( VT_ARRAY | VT_R8 );
+            variant1.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        long rgIndices1;
+        rgIndices1 = 0;
         x=110.00000000000000; y=55.00000000000000; z=0.00000000000000;
-        SafeArrayPutElement( variant11.parray, &rgIndices11, (double*)&(x) );
-        rgIndices11=1;
-        SafeArrayPutElement( variant11.parray, &rgIndices11, (double*)&(y) );
-        rgIndices11=2;
-        SafeArrayPutElement( variant11.parray, &rgIndices11, (double*)&(z) );
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x) );
+        rgIndices1=1;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y) );
+        rgIndices1=2;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z) );
 
-            arclengthdimension7=iwSketchManager->InsertArcLengthDimension( arclengthdimension7_associated_arc,variant11, L"");
-            arclengthdimension7_associated_arc->put_Erased(true);
+            arclengthdimension4=iwSketchManager->InsertArcLengthDimension( arclengthdimension4_associated_arc,variant1, L"");
+            arclengthdimension4_associated_arc->put_Erased(true);
         }
-        ICirclePtr joggeddimension8_associated_circle; joggeddimension8_associated_circle =iwSketchManager->InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000);
+    }
+    IJoggedDimensionPtr joggeddimension5;
+    {
+        ICirclePtr joggeddimension5_associated_circle; joggeddimension5_associated_circle =iwSketchManager->InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000);
         {
             double x, y, z;
-            VARIANT variant13,variant14,variant15;
-            variant13.vt = ( VT_ARRAY | VT_R8 );
-            variant14.vt = ( VT_ARRAY | VT_R8 );
-            variant15.vt = ( VT_ARRAY | VT_R8 );
-            variant13.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
-            variant14.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
-            variant15.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
-        long rgIndices13;
-        rgIndices13 = 0;
+            VARIANT variant1,variant2,variant3;
+            variant1.vt = ( VT_ARRAY | VT_R8 );
+            variant2.vt = ( VT_ARRAY | VT_R8 );
+            variant3.vt = ( VT_ARRAY | VT_R8 );
+            variant1.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+            variant2.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+            variant3.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        long rgIndices1;
+        rgIndices1 = 0;
         x=10.00000000000000; y=20.00000000000000; z=0.00000000000000;
-        SafeArrayPutElement( variant13.parray, &rgIndices13, (double*)&(x) );
-        rgIndices13=1;
-        SafeArrayPutElement( variant13.parray, &rgIndices13, (double*)&(y) );
-        rgIndices13=2;
-        SafeArrayPutElement( variant13.parray, &rgIndices13, (double*)&(z) );
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x) );
+        rgIndices1=1;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y) );
+        rgIndices1=2;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z) );
 
-        long rgIndices14;
-        rgIndices14 = 0;
+        long rgIndices2;
+        rgIndices2 = 0;
         x=16.00000000000000; y=26.00000000000000; z=0.00000000000000;
-        SafeArrayPutElement( variant14.parray, &rgIndices14, (double*)&(x) );
-        rgIndices14=1;
-        SafeArrayPutElement( variant14.parray, &rgIndices14, (double*)&(y) );
-        rgIndices14=2;
-        SafeArrayPutElement( variant14.parray, &rgIndices14, (double*)&(z) );
+        SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(x) );
+        rgIndices2=1;
+        SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(y) );
+        rgIndices2=2;
+        SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(z) );
 
-        long rgIndices15;
-        rgIndices15 = 0;
+        long rgIndices3;
+        rgIndices3 = 0;
         x=17.50000000000000; y=30.00000000000000; z=0.00000000000000;
-        SafeArrayPutElement( variant15.parray, &rgIndices15, (double*)&(x) );
-        rgIndices15=1;
-        SafeArrayPutElement( variant15.parray, &rgIndices15, (double*)&(y) );
-        rgIndices15=2;
-        SafeArrayPutElement( variant15.parray, &rgIndices15, (double*)&(z) );
+        SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(x) );
+        rgIndices3=1;
+        SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(y) );
+        rgIndices3=2;
+        SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(z) );
 
-            joggeddimension8=iwSketchManager->InsertJoggedDimensionCircle( joggeddimension8_associated_circle, variant13, variant14, variant15, L"R<>" );
-            joggeddimension8_associated_circle->put_Erased(true);
-        }
-    }
-    {
-        // AcDbDimStyleTableRecord object modified
-        {
-            IDimensionStyleArrowsOptionsPtr arrowOptions1 = dimensionstyle1->GetDimensionStyleArrowsOptions();
-            arrowOptions1->put_Size( 2.25000000000000 );
-            iwDimensionArrowType_e arrowType2=iwDimensionArrowType_DotSmall;
-            BSTR arrowName2 = L"";
-            arrowOptions1->SetLeaderArrow( arrowType2, arrowName2 );
-            IDimensionStyleAngularDimensionOptionsPtr angularOptions3 = dimensionstyle1->GetDimensionStyleAngularDimensionOptions();
-            angularOptions3->put_Format( iwDimensionStyleAngleFormat_Deg_Min_Sec );
-            angularOptions3->put_Precision( iwUnitPrecision_3 );
-            angularOptions3->put_HideTrailingZeroes( true );
-            angularOptions3->put_ArcLengthSymbols( iwArcLengthSymbols_None );
-            IDimensionStyleDualDimensionOptionsPtr dualOptions4 = dimensionstyle1->GetDimensionStyleDualDimensionOptions();
-            dualOptions4->put_Show( true );
-            dualOptions4->put_Format( iwDualDimensionFormat_Engineering );
-            dualOptions4->put_MultiplierForConvertingUnits( 0.03937007870000 );
-            dualOptions4->put_Suffix( L" in" );
-            dualOptions4->put_Insertion( iwDualDimensionInsertPlacement_BelowPrimaryUnits );
-            IDimensionStyleFitOptionsPtr fitOptions5 = dimensionstyle1->GetDimensionStyleFitOptions();
-            fitOptions5->put_FitGeometry( iwDimensionFitGeometry_Arrows );
-            fitOptions5->put_FitGeometry( iwDimensionFitGeometry_Text );
-            fitOptions5->put_FitDimensionText( iwDimensionFitDimensionText_AboveDimensionLineWithLeader );
-            fitOptions5->put_DimensionLinesBetweenExtensionLine( true );
-            fitOptions5->SetDimensionScale( iwDimensionScale_UseScaleFactor, 1.50000000000000 );
-            fitOptions5->SetDimensionScale( iwDimensionScale_ScaleDimensionsAccordingToSheet, 1.00000000000000 );
-            IDimensionStyleLinearDimensionOptionsPtr linearOptions6 = dimensionstyle1->GetDimensionStyleLinearDimensionOptions();
-            linearOptions6->put_Format( iwLinearDimensionFormat_Decimal );
-            linearOptions6->put_Precision( iwUnitPrecision_0 );
-            linearOptions6->put_DecimalSeparator( iwLinearDimensionDecimalSeparator_Period );
-            linearOptions6->put_Prefix( L"R " );
-            linearOptions6->put_ZeroesDisplayFollowSheetDimensions( false );
-            IDimensionStyleLineOptionsPtr linesOptions7 = dimensionstyle1->GetDimensionStyleLineOptions();
-            linesOptions7->put_DimensionLineStyle( L"DASHED" );
-            linesOptions7->put_DimensionLineLineWeight( iwLnWt_035 );
-            linesOptions7->put_DimensionLineColor( pConnection->m_IwApp->GetRGBColor( 255, 128, 0 ) );
-            linesOptions7->put_ExtensionLine1Style( L"ByBlock" );
-            linesOptions7->put_ExtensionLineColor( pConnection->m_IwApp->GetColorByIndex( 256 ) );
-            linesOptions7->SetExtensionLineFixedLength(true, 2.25000000000000);
-            IDimensionStyleRadialDiameterDimensionOptionsPtr radialDiameterOptions8 = dimensionstyle1->GetDimensionStyleRadialDiameterDimensionOptions();
-            radialDiameterOptions8->SetCenterMarkDisplay(iwDimensionCenterMarkDisplay_AsCenterLine, 0.09000000000000);
-            radialDiameterOptions8->put_RadiusDimensionJogAngle( 0.78539816339745 );
-            IDimensionStyleTextOptionsPtr textOptions9 = dimensionstyle1->GetDimensionStyleTextOptions();
-            textOptions9->put_Style( L"Standard" );
-            textOptions9->put_Color( pConnection->m_IwApp->GetColorByIndex( 3 ) );
-            textOptions9->put_VerticalPosition( iwDimensionTextVerticalPosition_Above );
-            textOptions9->put_Alignment( iwDimensionTextAlignment_AlignWithDimensionLines );
-            IDimensionStyleToleranceOptionsPtr toleranceOptions10 = dimensionstyle1->GetDimensionStyleToleranceOptions();
-            toleranceOptions10->put_Calculation( iwToleranceCalculation_Deviation );
-            toleranceOptions10->put_MaximumValue( 0.05000000000000 );
-            toleranceOptions10->put_MinimumValue( 0.02000000000000 );
-            toleranceOptions10->put_VerticalTextJustification( iwToleranceVerticalTextJustification_Middle );
-        }
-        // AcDbDimStyleTableRecord object modified
-        {
-            IDimensionStyleLinearDimensionOptionsPtr linearOptions11 = dimensionstyle2->GetDimensionStyleLinearDimensionOptions();
-            linearOptions11->put_Precision( iwUnitPrecision_1 );
-        }
-    }
-    {
-        // AcDbMlineStyle object modified
-        {
-            richlinestyle3->put_ShowJunctions( false );
+            joggeddimension5=iwSketchManager->InsertJoggedDimensionCircle( joggeddimension5_associated_circle, variant1, variant2, variant3, L"R<>" );
+            joggeddimension5_associated_circle->put_Erased(true);
         }
     }
     {
         // AcDbAlignedDimension object modified
         {
-            IGeneralDimensionPtr generalDimension2 = aligneddimension4->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension2 = aligneddimension1->GetGeneralDimension();
             generalDimension2->put_DimensionStyle( L"Workshop" );
-            IGeneralDimensionPtr generalDimension3 = aligneddimension4->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension3 = aligneddimension1->GetGeneralDimension();
             IDimensionStyleUserDataPtr dimensionStyle4 = generalDimension3->GetDimensionStyleUserData();
             IDimensionStyleArrowsOptionsPtr arrowsOptions5 = dimensionStyle4->GetDimensionStyleArrowsOptions();
             arrowsOptions5->SetStartArrow( iwDimensionArrowType_Custom, L"My arrow" );
@@ -353,21 +296,21 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     {
         // AcDbRotatedDimension object modified
         {
-            IGeneralDimensionPtr generalDimension2 = rotateddimension5->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension2 = rotateddimension2->GetGeneralDimension();
             generalDimension2->put_TextRotation( 0.50000000000000 );
         }
     }
     {
         // AcDbRotatedDimension object modified
-            IGeneralDimensionPtr generalDimension1 = rotateddimension5->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension1 = rotateddimension2->GetGeneralDimension();
         generalDimension1->put_Color( pConnection->m_IwApp->GetColorByIndex( 1 ) );
-        IGeneralDimensionPtr generalDimension2 = rotateddimension5->GetGeneralDimension();
+        IGeneralDimensionPtr generalDimension2 = rotateddimension2->GetGeneralDimension();
         IDimensionStyleUserDataPtr dimensionStyle3 = generalDimension2->GetDimensionStyleUserData();
         IDimensionStyleFitOptionsPtr fitOptions4 = dimensionStyle3->GetDimensionStyleFitOptions();
         fitOptions4->put_FitGeometry( iwDimensionFitGeometry_TextAndArrows );
         fitOptions4->put_FitGeometry( iwDimensionFitGeometry_KeepTextBetweenExtensionLines );
         fitOptions4->SetDimensionScale( iwDimensionScale_UseScaleFactor, 2.00000000000000 );
-        IGeneralDimensionPtr generalDimension5 = rotateddimension5->GetGeneralDimension();
+        IGeneralDimensionPtr generalDimension5 = rotateddimension2->GetGeneralDimension();
         double x6, y6;
         generalDimension5->GetTextPosition( &x6, &y6 );
         generalDimension5->SetTextPosition( 55.00000000000000, y6 );
@@ -384,16 +327,16 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     {
         // AcDbRotatedDimension object modified
         {
-            IGeneralDimensionPtr generalDimension2 = rotateddimension5->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension2 = rotateddimension2->GetGeneralDimension();
             IDimensionStyleUserDataPtr dimensionStyle3 = generalDimension2->GetDimensionStyleUserData();
             IDimensionStyleAngularDimensionOptionsPtr angularDimensionOptions4 = dimensionStyle3->GetDimensionStyleAngularDimensionOptions();
             angularDimensionOptions4->put_HideTrailingZeroes( true );
-            IGeneralDimensionPtr generalDimension5 = rotateddimension5->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension5 = rotateddimension2->GetGeneralDimension();
             IDimensionStyleUserDataPtr dimensionStyle6 = generalDimension5->GetDimensionStyleUserData();
             IDimensionStyleDualDimensionOptionsPtr dualDimensionOptions7 = dimensionStyle6->GetDimensionStyleDualDimensionOptions();
             dualDimensionOptions7->put_Show( true );
             dualDimensionOptions7->put_Suffix( L" in" );
-            IGeneralDimensionPtr generalDimension8 = rotateddimension5->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension8 = rotateddimension2->GetGeneralDimension();
             IDimensionStyleUserDataPtr dimensionStyle9 = generalDimension8->GetDimensionStyleUserData();
             IDimensionStyleLineOptionsPtr lineOptions10 = dimensionStyle9->GetDimensionStyleLineOptions();
             lineOptions10->put_DimensionLineStyle( L"DASHED" );
@@ -402,13 +345,13 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
             lineOptions10->put_HideDimensionLine2( true );
             lineOptions10->put_HideDimensionLine2( false );
             lineOptions10->SetExtensionLineFixedLength(false, 1.25000000000000);
-            IGeneralDimensionPtr generalDimension11 = rotateddimension5->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension11 = rotateddimension2->GetGeneralDimension();
             IDimensionStyleUserDataPtr dimensionStyle12 = generalDimension11->GetDimensionStyleUserData();
             IDimensionStyleLinearDimensionOptionsPtr linearDimensionOptions13 = dimensionStyle12->GetDimensionStyleLinearDimensionOptions();
             linearDimensionOptions13->put_Precision( iwUnitPrecision_3 );
             linearDimensionOptions13->put_DecimalSeparator( iwLinearDimensionDecimalSeparator_Space );
             linearDimensionOptions13->put_Prefix( L"~" );
-            IGeneralDimensionPtr generalDimension14 = rotateddimension5->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension14 = rotateddimension2->GetGeneralDimension();
             IDimensionStyleUserDataPtr dimensionStyle15 = generalDimension14->GetDimensionStyleUserData();
             IDimensionStyleToleranceOptionsPtr toleranceOptions16 = dimensionStyle15->GetDimensionStyleToleranceOptions();
             toleranceOptions16->put_Calculation( iwToleranceCalculation_Basic );
@@ -418,7 +361,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     {
         // AcDbRadialDimension object modified
         {
-            IGeneralDimensionPtr generalDimension2 = radialdimension6->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension2 = radialdimension3->GetGeneralDimension();
             IDimensionStyleUserDataPtr dimensionStyle3 = generalDimension2->GetDimensionStyleUserData();
             IDimensionStyleRadialDiameterDimensionOptionsPtr radialDiameterDimensionOptions4 = dimensionStyle3->GetDimensionStyleRadialDiameterDimensionOptions();
             iwDimensionCenterMarkDisplay_e CenterMarkDisplay5;
@@ -436,32 +379,32 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     {
         // AcDbArcDimension object modified
         {
-            IGeneralDimensionPtr generalDimension2 = arclengthdimension7->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension2 = arclengthdimension4->GetGeneralDimension();
             IDimensionStyleUserDataPtr dimensionStyle3 = generalDimension2->GetDimensionStyleUserData();
             IDimensionStyleAngularDimensionOptionsPtr angularDimensionOptions4 = dimensionStyle3->GetDimensionStyleAngularDimensionOptions();
             angularDimensionOptions4->put_Format( iwDimensionStyleAngleFormat_Radians );
             angularDimensionOptions4->put_HideLeadingZeroes( true );
-            arclengthdimension7->put_ArcSymbolType( iwArcSymbolType_None );
+            arclengthdimension4->put_ArcSymbolType( iwArcSymbolType_None );
         }
     }
     {
         // AcDbRadialDimensionLarge object modified
         {
-            IGeneralDimensionPtr generalDimension2 = joggeddimension8->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension2 = joggeddimension5->GetGeneralDimension();
             IDimensionStyleUserDataPtr dimensionStyle3 = generalDimension2->GetDimensionStyleUserData();
             IDimensionStyleRadialDiameterDimensionOptionsPtr radialDiameterDimensionOptions4 = dimensionStyle3->GetDimensionStyleRadialDiameterDimensionOptions();
             radialDiameterDimensionOptions4->put_RadiusDimensionJogAngle( 0.75000000000000 );
             double x5, y5, z5;
-            joggeddimension8->GetOverrideCenterPoint( &x5, &y5, &z5 );
-            joggeddimension8->SetOverrideCenterPoint( x5, 21.50000000000000, z5 );
+            joggeddimension5->GetOverrideCenterPoint( &x5, &y5, &z5 );
+            joggeddimension5->SetOverrideCenterPoint( x5, 21.50000000000000, z5 );
             double x6, y6, z6;
-            joggeddimension8->GetJogPoint( &x6, &y6, &z6 );
-            joggeddimension8->SetJogPoint( 17.00000000000000, y6, z6 );
+            joggeddimension5->GetJogPoint( &x6, &y6, &z6 );
+            joggeddimension5->SetJogPoint( 17.00000000000000, y6, z6 );
         }
     }
     {
         {
-            IGeneralDimensionPtr generalDimension2 = radialdimension6->GetGeneralDimension();
+            IGeneralDimensionPtr generalDimension2 = radialdimension3->GetGeneralDimension();
             IDimensionStyleUserDataPtr dimensionStyle3 = generalDimension2->GetDimensionStyleUserData();
             IDimensionStyleTextOptionsPtr textOptions4 = dimensionStyle3->GetDimensionStyleTextOptions();
             textOptions4->put_FillColor( pConnection->m_IwApp->GetColorByIndex( 8 ) );

@@ -45,11 +45,7 @@ Sub main()
 		'Get View Manager
 		Set iwViewManager = iwDoc.GetViewManager()
 
-        Dim aligneddimension4 As Inkwright.AlignedDimension
-        Dim rotateddimension5 As Inkwright.RotatedDimension
-        Dim radialdimension6 As Inkwright.RadialDimension
-        Dim arclengthdimension7 As Inkwright.ArcLengthDimension
-        Dim joggeddimension8 As Inkwright.JoggedDimension
+        Dim aligneddimension1 As Inkwright.AlignedDimension
         If 1 Then
             Dim extLine1Point1(2) As Double
             extLine1Point1(0) = 0.00000000000000
@@ -63,144 +59,78 @@ Sub main()
             dimLinePoint1(0) = 60.00000000000000
             dimLinePoint1(1) = -15.00000000000000
             dimLinePoint1(2) = 0.00000000000000
-            Set aligneddimension4 = iwSketchManager.InsertAlignedDimension( extLine1Point1, extLine2Point1, dimLinePoint1, "" )
-            Dim extLine1Point_Rot3(2) As Double
-            extLine1Point_Rot3(0) = 0.00000000000000
-            extLine1Point_Rot3(1) = 0.00000000000000
-            extLine1Point_Rot3(2) = 0.00000000000000
-            Dim extLine2Point_Rot3(2) As Double
-            extLine2Point_Rot3(0) = 120.00000000000000
-            extLine2Point_Rot3(1) = 0.00000000000000
-            extLine2Point_Rot3(2) = 0.00000000000000
-            Dim dimLinePoint_Rot3(2) As Double
-            dimLinePoint_Rot3(0) = 60.00000000000000
-            dimLinePoint_Rot3(1) = -15.00000000000000
-            dimLinePoint_Rot3(2) = 0.00000000000000
-            Set rotateddimension5 = iwSketchManager.InsertRotatedDimension( extLine1Point_Rot3, extLine2Point_Rot3, dimLinePoint_Rot3, "", 0.00000000000000 )
-            Dim radialdimension6_associated_circle As Inkwright.Circle
-            Set radialdimension6_associated_circle = iwSketchManager.InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000 )
-            Dim dimPositionPoint_Rad5(2) As Double
-            dimPositionPoint_Rad5(0) = 42.50000000000000
-            dimPositionPoint_Rad5(1) = 30.00000000000000
-            dimPositionPoint_Rad5(2) = 0.00000000000000
-            Set radialdimension6 = iwSketchManager.InsertRadialDimensionCircle( radialdimension6_associated_circle, dimPositionPoint_Rad5, "" )
-            radialdimension6_associated_circle.Erased = True
-            Dim arclengthdimension7_associated_arc As Inkwright.CircleArc
-            Set arclengthdimension7_associated_arc = iwSketchManager.InsertArc( 90.00000000000000, 30.00000000000000, 0.00000000000000, 32.01562118716424, 0.00000000000000, 1.57079632679490 )
-            Dim dimPositionPoint_ArcLen7(2) As Double
-            dimPositionPoint_ArcLen7(0) = 110.00000000000000
-            dimPositionPoint_ArcLen7(1) = 55.00000000000000
-            dimPositionPoint_ArcLen7(2) = 0.00000000000000
-            Set arclengthdimension7 = iwSketchManager.InsertArcLengthDimension( arclengthdimension7_associated_arc, dimPositionPoint_ArcLen7, "" )
-            arclengthdimension7_associated_arc.Erased = True
-            Dim joggeddimension8_associated_circle As Inkwright.Circle
-            Set joggeddimension8_associated_circle = iwSketchManager.InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000 )
-            Dim centerPoint_Jog9(2) As Double
-            centerPoint_Jog9(0) = 10.00000000000000
-            centerPoint_Jog9(1) = 20.00000000000000
-            centerPoint_Jog9(2) = 0.00000000000000
-            Dim jogPoint_Jog9(2) As Double
-            jogPoint_Jog9(0) = 16.00000000000000
-            jogPoint_Jog9(1) = 26.00000000000000
-            jogPoint_Jog9(2) = 0.00000000000000
-            Dim dimPositionPoint_Jog9(2) As Double
-            dimPositionPoint_Jog9(0) = 17.50000000000000
-            dimPositionPoint_Jog9(1) = 30.00000000000000
-            dimPositionPoint_Jog9(2) = 0.00000000000000
-            Set joggeddimension8 = iwSketchManager.InsertJoggedDimensionCircle( joggeddimension8_associated_circle, centerPoint_Jog9, jogPoint_Jog9, dimPositionPoint_Jog9, "R<>" )
-            joggeddimension8_associated_circle.Erased = True
+            Set aligneddimension1 = iwSketchManager.InsertAlignedDimension( extLine1Point1, extLine2Point1, dimLinePoint1, "" )
         End If
 
+        Dim rotateddimension2 As Inkwright.RotatedDimension
         If 1 Then
-            ' AcDbDimStyleTableRecord object modified
-            If 1 Then
-                Dim arrowOptions1 As Inkwright.DimensionStyleArrowsOptions
-                Set arrowOptions1 = dimensionstyle1.GetDimensionStyleArrowsOptions()
-                arrowOptions1.Size = 2.25000000000000
-                Dim arrowType2 As Inkwright.iwDimensionArrowType_e
-                arrowType2 = Inkwright.iwDimensionArrowType_e.iwDimensionArrowType_DotSmall
-                Dim arrowName2 As String
-                arrowName2 = ""
-                arrowOptions1.SetLeaderArrow arrowType2, arrowName2
-                Dim angularOptions3 As Inkwright.DimensionStyleAngularDimensionOptions
-                Set angularOptions3 = dimensionstyle1.GetDimensionStyleAngularDimensionOptions()
-                angularOptions3.Format = Inkwright.iwDimensionStyleAngleFormat_e.iwDimensionStyleAngleFormat_Deg_Min_Sec
-                angularOptions3.Precision = Inkwright.iwUnitPrecision_e.iwUnitPrecision_3
-                angularOptions3.HideTrailingZeroes = True
-                angularOptions3.ArcLengthSymbols = Inkwright.iwArcLengthSymbols_e.iwArcLengthSymbols_None
-                Dim dualOptions4 As Inkwright.DimensionStyleDualDimensionOptions
-                Set dualOptions4 = dimensionstyle1.GetDimensionStyleDualDimensionOptions()
-                dualOptions4.Show = True
-                dualOptions4.Format = Inkwright.iwDualDimensionFormat_e.iwDualDimensionFormat_Engineering
-                dualOptions4.MultiplierForConvertingUnits = 0.03937007870000
-                dualOptions4.Suffix = " in"
-                dualOptions4.Insertion = Inkwright.iwDualDimensionInsertPlacement_e.iwDualDimensionInsertPlacement_BelowPrimaryUnits
-                Dim fitOptions5 As Inkwright.DimensionStyleFitOptions
-                Set fitOptions5 = dimensionstyle1.GetDimensionStyleFitOptions()
-                fitOptions5.FitGeometry = Inkwright.iwDimensionFitGeometry_e.iwDimensionFitGeometry_Arrows
-                fitOptions5.FitGeometry = Inkwright.iwDimensionFitGeometry_e.iwDimensionFitGeometry_Text
-                fitOptions5.FitDimensionText = Inkwright.iwDimensionFitDimensionText_e.iwDimensionFitDimensionText_AboveDimensionLineWithLeader
-                fitOptions5.DimensionLinesBetweenExtensionLine = True
-                fitOptions5.SetDimensionScale Inkwright.iwDimensionScale_e.iwDimensionScale_UseScaleFactor, 1.50000000000000
-                fitOptions5.SetDimensionScale Inkwright.iwDimensionScale_e.iwDimensionScale_ScaleDimensionsAccordingToSheet, 1.00000000000000
-                Dim linearOptions6 As Inkwright.DimensionStyleLinearDimensionOptions
-                Set linearOptions6 = dimensionstyle1.GetDimensionStyleLinearDimensionOptions()
-                linearOptions6.Format = Inkwright.iwLinearDimensionFormat_e.iwLinearDimensionFormat_Decimal
-                linearOptions6.Precision = Inkwright.iwUnitPrecision_e.iwUnitPrecision_0
-                linearOptions6.DecimalSeparator = Inkwright.iwLinearDimensionDecimalSeparator_e.iwLinearDimensionDecimalSeparator_Period
-                linearOptions6.Prefix = "R "
-                linearOptions6.ZeroesDisplayFollowSheetDimensions = False
-                Dim linesOptions7 As Inkwright.DimensionStyleLineOptions
-                Set linesOptions7 = dimensionstyle1.GetDimensionStyleLineOptions()
-                linesOptions7.DimensionLineStyle = "DASHED"
-                linesOptions7.DimensionLineLineWeight = Inkwright.iwLineWeight_e.iwLnWt_035
-                linesOptions7.DimensionLineColor = iwApp.GetRGBColor( 255, 128, 0 )
-                linesOptions7.ExtensionLine1Style = "ByBlock"
-                linesOptions7.ExtensionLineColor = iwApp.GetColorByIndex( 256 )
-                linesOptions7.SetExtensionLineFixedLength True, 2.25000000000000
-                Dim radialDiameterOptions8 As Inkwright.DimensionStyleRadialDiameterDimensionOptions
-                Set radialDiameterOptions8 = dimensionstyle1.GetDimensionStyleRadialDiameterDimensionOptions()
-                radialDiameterOptions8.SetCenterMarkDisplay Inkwright.iwDimensionCenterMarkDisplay_e.iwDimensionCenterMarkDisplay_AsCenterLine, 0.09000000000000
-                radialDiameterOptions8.RadiusDimensionJogAngle = 0.78539816339745
-                Dim textOptions9 As Inkwright.DimensionStyleTextOptions
-                Set textOptions9 = dimensionstyle1.GetDimensionStyleTextOptions()
-                textOptions9.Style = "Standard"
-                textOptions9.Color = iwApp.GetColorByIndex( 3 )
-                textOptions9.VerticalPosition = Inkwright.iwDimensionTextVerticalPosition_e.iwDimensionTextVerticalPosition_Above
-                textOptions9.Alignment = Inkwright.iwDimensionTextAlignment_e.iwDimensionTextAlignment_AlignWithDimensionLines
-                Dim toleranceOptions10 As Inkwright.DimensionStyleToleranceOptions
-                Set toleranceOptions10 = dimensionstyle1.GetDimensionStyleToleranceOptions()
-                toleranceOptions10.Calculation = Inkwright.iwToleranceCalculation_e.iwToleranceCalculation_Deviation
-                toleranceOptions10.MaximumValue = 0.05000000000000
-                toleranceOptions10.MinimumValue = 0.02000000000000
-                toleranceOptions10.VerticalTextJustification = Inkwright.iwToleranceVerticalTextJustification_e.iwToleranceVerticalTextJustification_Middle
-            End If
-
-            ' AcDbDimStyleTableRecord object modified
-            If 1 Then
-                Dim linearOptions11 As Inkwright.DimensionStyleLinearDimensionOptions
-                Set linearOptions11 = dimensionstyle2.GetDimensionStyleLinearDimensionOptions()
-                linearOptions11.Precision = Inkwright.iwUnitPrecision_e.iwUnitPrecision_1
-            End If
-
+            Dim extLine1Point_Rot1(2) As Double
+            extLine1Point_Rot1(0) = 0.00000000000000
+            extLine1Point_Rot1(1) = 0.00000000000000
+            extLine1Point_Rot1(2) = 0.00000000000000
+            Dim extLine2Point_Rot1(2) As Double
+            extLine2Point_Rot1(0) = 120.00000000000000
+            extLine2Point_Rot1(1) = 0.00000000000000
+            extLine2Point_Rot1(2) = 0.00000000000000
+            Dim dimLinePoint_Rot1(2) As Double
+            dimLinePoint_Rot1(0) = 60.00000000000000
+            dimLinePoint_Rot1(1) = -15.00000000000000
+            dimLinePoint_Rot1(2) = 0.00000000000000
+            Set rotateddimension2 = iwSketchManager.InsertRotatedDimension( extLine1Point_Rot1, extLine2Point_Rot1, dimLinePoint_Rot1, "", 0.00000000000000 )
         End If
 
+        Dim radialdimension3 As Inkwright.RadialDimension
         If 1 Then
-            ' AcDbMlineStyle object modified
-            If 1 Then
-                richlinestyle3.ShowJunctions = False
-            End If
+            Dim radialdimension3_associated_circle As Inkwright.Circle
+            Set radialdimension3_associated_circle = iwSketchManager.InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000 )
+            Dim dimPositionPoint_Rad1(2) As Double
+            dimPositionPoint_Rad1(0) = 42.50000000000000
+            dimPositionPoint_Rad1(1) = 30.00000000000000
+            dimPositionPoint_Rad1(2) = 0.00000000000000
+            Set radialdimension3 = iwSketchManager.InsertRadialDimensionCircle( radialdimension3_associated_circle, dimPositionPoint_Rad1, "" )
+            radialdimension3_associated_circle.Erased = True
+        End If
 
+        Dim arclengthdimension4 As Inkwright.ArcLengthDimension
+        If 1 Then
+            Dim arclengthdimension4_associated_arc As Inkwright.CircleArc
+            Set arclengthdimension4_associated_arc = iwSketchManager.InsertArc( 90.00000000000000, 30.00000000000000, 0.00000000000000, 32.01562118716424, 0.00000000000000, 1.57079632679490 )
+            Dim dimPositionPoint_ArcLen1(2) As Double
+            dimPositionPoint_ArcLen1(0) = 110.00000000000000
+            dimPositionPoint_ArcLen1(1) = 55.00000000000000
+            dimPositionPoint_ArcLen1(2) = 0.00000000000000
+            Set arclengthdimension4 = iwSketchManager.InsertArcLengthDimension( arclengthdimension4_associated_arc, dimPositionPoint_ArcLen1, "" )
+            arclengthdimension4_associated_arc.Erased = True
+        End If
+
+        Dim joggeddimension5 As Inkwright.JoggedDimension
+        If 1 Then
+            Dim joggeddimension5_associated_circle As Inkwright.Circle
+            Set joggeddimension5_associated_circle = iwSketchManager.InsertCircle( 30.00000000000000, 30.00000000000000, 0.00000000000000, 12.50000000000000 )
+            Dim centerPoint_Jog1(2) As Double
+            centerPoint_Jog1(0) = 10.00000000000000
+            centerPoint_Jog1(1) = 20.00000000000000
+            centerPoint_Jog1(2) = 0.00000000000000
+            Dim jogPoint_Jog1(2) As Double
+            jogPoint_Jog1(0) = 16.00000000000000
+            jogPoint_Jog1(1) = 26.00000000000000
+            jogPoint_Jog1(2) = 0.00000000000000
+            Dim dimPositionPoint_Jog1(2) As Double
+            dimPositionPoint_Jog1(0) = 17.50000000000000
+            dimPositionPoint_Jog1(1) = 30.00000000000000
+            dimPositionPoint_Jog1(2) = 0.00000000000000
+            Set joggeddimension5 = iwSketchManager.InsertJoggedDimensionCircle( joggeddimension5_associated_circle, centerPoint_Jog1, jogPoint_Jog1, dimPositionPoint_Jog1, "R<>" )
+            joggeddimension5_associated_circle.Erased = True
         End If
 
         If 1 Then
             ' AcDbAlignedDimension object modified
             If 1 Then
                 Dim generalDimension2 As Inkwright.GeneralDimension
-                Set generalDimension2 = aligneddimension4.GetGeneralDimension()
+                Set generalDimension2 = aligneddimension1.GetGeneralDimension()
                 generalDimension2.DimensionStyle = "Workshop"
                 Dim generalDimension3 As Inkwright.GeneralDimension
-                Set generalDimension3 = aligneddimension4.GetGeneralDimension()
+                Set generalDimension3 = aligneddimension1.GetGeneralDimension()
                 Dim dimensionStyle4 As Inkwright.DimensionStyleUserData
                 Set dimensionStyle4 = generalDimension3.GetDimensionStyleUserData()
                 Dim arrowsOptions5 As Inkwright.DimensionStyleArrowsOptions
@@ -216,7 +146,7 @@ Sub main()
             ' AcDbRotatedDimension object modified
             If 1 Then
                 Dim generalDimension2 As Inkwright.GeneralDimension
-                Set generalDimension2 = rotateddimension5.GetGeneralDimension()
+                Set generalDimension2 = rotateddimension2.GetGeneralDimension()
                 generalDimension2.TextRotation = 0.50000000000000
             End If
 
@@ -225,10 +155,10 @@ Sub main()
         If 1 Then
             ' AcDbRotatedDimension object modified
                 Dim generalDimension1 As Inkwright.GeneralDimension
-                Set generalDimension1 = rotateddimension5.GetGeneralDimension()
+                Set generalDimension1 = rotateddimension2.GetGeneralDimension()
             generalDimension1.Color = iwApp.GetColorByIndex( 1 )
             Dim generalDimension2 As Inkwright.GeneralDimension
-            Set generalDimension2 = rotateddimension5.GetGeneralDimension()
+            Set generalDimension2 = rotateddimension2.GetGeneralDimension()
             Dim dimensionStyle3 As Inkwright.DimensionStyleUserData
             Set dimensionStyle3 = generalDimension2.GetDimensionStyleUserData()
             Dim fitOptions4 As Inkwright.DimensionStyleFitOptions
@@ -237,7 +167,7 @@ Sub main()
             fitOptions4.FitGeometry = Inkwright.iwDimensionFitGeometry_e.iwDimensionFitGeometry_KeepTextBetweenExtensionLines
             fitOptions4.SetDimensionScale Inkwright.iwDimensionScale_e.iwDimensionScale_UseScaleFactor, 2.00000000000000
             Dim generalDimension5 As Inkwright.GeneralDimension
-            Set generalDimension5 = rotateddimension5.GetGeneralDimension()
+            Set generalDimension5 = rotateddimension2.GetGeneralDimension()
             Dim x6 As Double
             Dim y6 As Double
             generalDimension5.GetTextPosition x6, y6
@@ -260,14 +190,14 @@ Sub main()
             ' AcDbRotatedDimension object modified
             If 1 Then
                 Dim generalDimension2 As Inkwright.GeneralDimension
-                Set generalDimension2 = rotateddimension5.GetGeneralDimension()
+                Set generalDimension2 = rotateddimension2.GetGeneralDimension()
                 Dim dimensionStyle3 As Inkwright.DimensionStyleUserData
                 Set dimensionStyle3 = generalDimension2.GetDimensionStyleUserData()
                 Dim angularDimensionOptions4 As Inkwright.DimensionStyleAngularDimensionOptions
                 Set angularDimensionOptions4 = dimensionStyle3.GetDimensionStyleAngularDimensionOptions()
                 angularDimensionOptions4.HideTrailingZeroes = True
                 Dim generalDimension5 As Inkwright.GeneralDimension
-                Set generalDimension5 = rotateddimension5.GetGeneralDimension()
+                Set generalDimension5 = rotateddimension2.GetGeneralDimension()
                 Dim dimensionStyle6 As Inkwright.DimensionStyleUserData
                 Set dimensionStyle6 = generalDimension5.GetDimensionStyleUserData()
                 Dim dualDimensionOptions7 As Inkwright.DimensionStyleDualDimensionOptions
@@ -275,7 +205,7 @@ Sub main()
                 dualDimensionOptions7.Show = True
                 dualDimensionOptions7.Suffix = " in"
                 Dim generalDimension8 As Inkwright.GeneralDimension
-                Set generalDimension8 = rotateddimension5.GetGeneralDimension()
+                Set generalDimension8 = rotateddimension2.GetGeneralDimension()
                 Dim dimensionStyle9 As Inkwright.DimensionStyleUserData
                 Set dimensionStyle9 = generalDimension8.GetDimensionStyleUserData()
                 Dim lineOptions10 As Inkwright.DimensionStyleLineOptions
@@ -287,7 +217,7 @@ Sub main()
                 lineOptions10.HideDimensionLine2 = False
                 lineOptions10.SetExtensionLineFixedLength False, 1.25000000000000
                 Dim generalDimension11 As Inkwright.GeneralDimension
-                Set generalDimension11 = rotateddimension5.GetGeneralDimension()
+                Set generalDimension11 = rotateddimension2.GetGeneralDimension()
                 Dim dimensionStyle12 As Inkwright.DimensionStyleUserData
                 Set dimensionStyle12 = generalDimension11.GetDimensionStyleUserData()
                 Dim linearDimensionOptions13 As Inkwright.DimensionStyleLinearDimensionOptions
@@ -296,7 +226,7 @@ Sub main()
                 linearDimensionOptions13.DecimalSeparator = Inkwright.iwLinearDimensionDecimalSeparator_e.iwLinearDimensionDecimalSeparator_Space
                 linearDimensionOptions13.Prefix = "~"
                 Dim generalDimension14 As Inkwright.GeneralDimension
-                Set generalDimension14 = rotateddimension5.GetGeneralDimension()
+                Set generalDimension14 = rotateddimension2.GetGeneralDimension()
                 Dim dimensionStyle15 As Inkwright.DimensionStyleUserData
                 Set dimensionStyle15 = generalDimension14.GetDimensionStyleUserData()
                 Dim toleranceOptions16 As Inkwright.DimensionStyleToleranceOptions
@@ -311,7 +241,7 @@ Sub main()
             ' AcDbRadialDimension object modified
             If 1 Then
                 Dim generalDimension2 As Inkwright.GeneralDimension
-                Set generalDimension2 = radialdimension6.GetGeneralDimension()
+                Set generalDimension2 = radialdimension3.GetGeneralDimension()
                 Dim dimensionStyle3 As Inkwright.DimensionStyleUserData
                 Set dimensionStyle3 = generalDimension2.GetDimensionStyleUserData()
                 Dim radialDiameterDimensionOptions4 As Inkwright.DimensionStyleRadialDiameterDimensionOptions
@@ -334,14 +264,14 @@ Sub main()
             ' AcDbArcDimension object modified
             If 1 Then
                 Dim generalDimension2 As Inkwright.GeneralDimension
-                Set generalDimension2 = arclengthdimension7.GetGeneralDimension()
+                Set generalDimension2 = arclengthdimension4.GetGeneralDimension()
                 Dim dimensionStyle3 As Inkwright.DimensionStyleUserData
                 Set dimensionStyle3 = generalDimension2.GetDimensionStyleUserData()
                 Dim angularDimensionOptions4 As Inkwright.DimensionStyleAngularDimensionOptions
                 Set angularDimensionOptions4 = dimensionStyle3.GetDimensionStyleAngularDimensionOptions()
                 angularDimensionOptions4.Format = Inkwright.iwDimensionStyleAngleFormat_e.iwDimensionStyleAngleFormat_Radians
                 angularDimensionOptions4.HideLeadingZeroes = True
-                arclengthdimension7.ArcSymbolType = Inkwright.iwArcSymbolType_e.iwArcSymbolType_None
+                arclengthdimension4.ArcSymbolType = Inkwright.iwArcSymbolType_e.iwArcSymbolType_None
             End If
 
         End If
@@ -350,7 +280,7 @@ Sub main()
             ' AcDbRadialDimensionLarge object modified
             If 1 Then
                 Dim generalDimension2 As Inkwright.GeneralDimension
-                Set generalDimension2 = joggeddimension8.GetGeneralDimension()
+                Set generalDimension2 = joggeddimension5.GetGeneralDimension()
                 Dim dimensionStyle3 As Inkwright.DimensionStyleUserData
                 Set dimensionStyle3 = generalDimension2.GetDimensionStyleUserData()
                 Dim radialDiameterDimensionOptions4 As Inkwright.DimensionStyleRadialDiameterDimensionOptions
@@ -359,13 +289,13 @@ Sub main()
                 Dim x5 As Double
                 Dim y5 As Double
                 Dim z5 As Double
-                joggeddimension8.GetOverrideCenterPoint x5, y5, z5
-                joggeddimension8.SetOverrideCenterPoint x5, 21.50000000000000, z5
+                joggeddimension5.GetOverrideCenterPoint x5, y5, z5
+                joggeddimension5.SetOverrideCenterPoint x5, 21.50000000000000, z5
                 Dim x6 As Double
                 Dim y6 As Double
                 Dim z6 As Double
-                joggeddimension8.GetJogPoint x6, y6, z6
-                joggeddimension8.SetJogPoint 17.00000000000000, y6, z6
+                joggeddimension5.GetJogPoint x6, y6, z6
+                joggeddimension5.SetJogPoint 17.00000000000000, y6, z6
             End If
 
         End If
@@ -373,7 +303,7 @@ Sub main()
         If 1 Then
             If 1 Then
                 Dim generalDimension2 As Inkwright.GeneralDimension
-                Set generalDimension2 = radialdimension6.GetGeneralDimension()
+                Set generalDimension2 = radialdimension3.GetGeneralDimension()
                 Dim dimensionStyle3 As Inkwright.DimensionStyleUserData
                 Set dimensionStyle3 = generalDimension2.GetDimensionStyleUserData()
                 Dim textOptions4 As Inkwright.DimensionStyleTextOptions
