@@ -69,12 +69,7 @@ QString EmitSetStyleArrow(Writer& writer, const CFxString& target, const CFxStri
                           const CFxString& name)
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionArrowType, arrow);
-    return writer.fill(setStyleArrow)
-        .number(++writer.UniqueCounter)
-        .text(kind)
-        .text(name)
-        .text(target)
-        .text(operation);
+    return writer.fill(setStyleArrow).number(++writer.UniqueCounter).text(kind).text(name).text(target).text(operation);
 }
 
 static const Phrase setDimensionScale{"EmitSetDimensionScale",
@@ -186,8 +181,8 @@ static const Phrase setStyleCenterMark{"EmitSetStyleEnumPair",
                                            .vba = "%1%3.%4 %5, %6%2",
                                        }};
 
-QString EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation,
-                               std::int32_t kind, double size)
+QString EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind,
+                               double size)
 {
     const QString word = EnumeratorByValue(writer.target, enums::dimensionCenterMarkDisplay, kind);
     return writer.fill(setStyleCenterMark).text(target).text(operation).text(word).real(size);

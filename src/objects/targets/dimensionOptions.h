@@ -73,5 +73,5 @@ QString EmitSetExtensionLineFixedLength(Writer& writer, const CFxString& target,
 // generated program reads both, changes the one and writes them back.
 QString EmitSetCenterMarkKind(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind);
 QString EmitSetCenterMarkSize(Writer& writer, const CFxString& target, const CFxString& operation, double size);
-QString EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation,
-                               std::int32_t kind, double size);
+QString EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind,
+                               double size);
