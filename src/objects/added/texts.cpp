@@ -1,6 +1,7 @@
 // Added text styles, attribute definitions, notes and curved texts.
 
 #include "objects/targets/texts.h"
+#include "frame/StatementGroup.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
@@ -66,10 +67,8 @@ QString loadShapes(Writer& writer, const CFxString& fileName)
 {
     if (IsHostShapeFile(fileName))
         return {};
-    --writer.IndentLevel;
-    const QString text = EmitLoadShapeFile(writer, doubleBackslashes(fileName));
-    ++writer.IndentLevel;
-    return text;
+    const OneLevelOut out(writer);
+    return EmitLoadShapeFile(writer, doubleBackslashes(fileName));
 }
 
 } // namespace
