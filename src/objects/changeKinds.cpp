@@ -3,10 +3,12 @@
 #include "objects/changeKinds.h"
 
 #include "host/db/OdDbClasses.h"
+#include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/dimensionOptions.h"
 #include "objects/targets/points.h"
 #include "objects/targets/setters.h"
+#include "objects/targets/styles.h"
 #include "targets/wording.h"
 
 #include <cmath>
@@ -193,6 +195,19 @@ QString setStyleCenterMark(const Change& change)
     return set(size > 0 ? kCenterMark : size < 0 ? kCenterLines : kNoCenterMark, std::abs(size));
 }
 
+/// The current style has to be made current again under its new name.
+QString renameDimensionStyle(const Change& change, const CFxString& name)
+{
+    const OdDbObjectId& style = change.object;
+    const bool isCurrent = !style.isNull() && style == ACTIVE_DOCUMENT->GetDatabase()->currentDimensionStyleId();
+    return EmitRenameStyle(change.writer, change.target, name, isCurrent);
+}
+
+QString renameRichLineStyle(const Change& change, const CFxString& name)
+{
+    return EmitRenameRichLineStyle(change.writer, change.target, name);
+}
+
 QString changePoint(const Change& change)
 {
     const QString& pair = change.row.property;
@@ -375,5 +390,8 @@ constinit const ChangeKind coordinate{changeCoordinate<&EmitChangeCoordinateX, &
 constinit const ChangeKind planeCoordinate{changeCoordinate<&EmitChangeCoordinate2DX, &EmitChangeCoordinate2DY>, "xy"};
 constinit const ChangeKind numberedVertex{changeNumberedVertex, "XYZ", true};
 constinit const ChangeKind faceVertex{changeFaceVertex, "XYZ", true};
+
+constinit const ChangeKind dimensionStyleName{setChosen<renameDimensionStyle, anyText>};
+constinit const ChangeKind richLineStyleName{setChosen<renameRichLineStyle, anyText>};
 
 } // namespace kinds

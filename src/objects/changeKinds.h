@@ -83,4 +83,8 @@ extern const ChangeKind planeCoordinate; ///< of a point in a plane; the tags' a
 extern const ChangeKind numberedVertex;
 extern const ChangeKind faceVertex; ///< there are four
 
+// Names of styles.
+extern const ChangeKind dimensionStyleName;
+extern const ChangeKind richLineStyleName;
+
 } // namespace kinds

@@ -466,4 +466,17 @@ TEST_F(DimensionChanges, OfAddedObjectsAreWrittenForStylesOnly)
     EXPECT_EQ(change(made, "AcDbMlineStyle", {record("Show junctions", yes)}, true), "");
 }
 
+TEST_F(DimensionChanges, RenameStyles)
+{
+    const PropertyList renamed{record("DimensionStyleName", text("Plans"))};
+    const std::string rename = "iwCreateObjectResult_e result1;\nstring styleName1 = \"Plans\";\n"
+                               "result1 = dimensionstyle1.Rename( styleName1 );\n";
+    EXPECT_EQ(inCSharp("AcDbDimStyleTableRecord", renamed), rename);
+    drawing.database.setCurrentDimensionStyleId(drawing.id(2));
+    EXPECT_EQ(inCSharp("AcDbDimStyleTableRecord", renamed), rename + "dimensionstyle1.Activate();\n");
+
+    EXPECT_EQ(inCSharp("AcDbMlineStyle", {record("Show junctions", no), record("RichLineStyleName", text("Walls"))}),
+              "richlinestyle1.Rename(\"Walls\");\nrichlinestyle1.ShowJunctions = false;\n");
+}
+
 } // namespace

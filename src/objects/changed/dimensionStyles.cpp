@@ -8,6 +8,8 @@ using namespace kinds;
 using namespace inkmacro::enums;
 
 const ChangeGroups modifiedDimensionStyle{
+    ChangeGroup{{{dimensionStyleName, "DimensionStyleName"}}},
+
     ChangeGroup{{styleOptions::arrows,
                  {
                      {real, "Arrow Size", "Size"},
@@ -152,4 +154,7 @@ const ChangeGroups modifiedDimensionStyle{
                  }}},
 };
 
-const ChangeGroups modifiedRichLineStyle{{exactYes, "Show junctions", "ShowJunctions"}};
+const ChangeGroups modifiedRichLineStyle{
+    {richLineStyleName, "RichLineStyleName"},
+    {exactYes, "Show junctions", "ShowJunctions"},
+};
