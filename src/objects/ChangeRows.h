@@ -72,7 +72,7 @@ public:
     /// Tags that several classes have, and behind them those of the one class, which are of the object itself.
     ChangeGroups(const ChangeGroups& common, std::initializer_list<ChangeRow> own) : groups_(common.groups_)
     {
-        groups_.push_back(ChangeGroup(1, ChangeRows(own)));
+        groups_.emplace_back(1, ChangeRows(own));
     }
     auto begin() const { return groups_.begin(); }
     auto end() const { return groups_.end(); }

@@ -147,7 +147,7 @@ QString setDecimalSeparator(const Change& change, const CFxString& separator)
 }
 
 /// Stands for the measure in the text of a dimension.
-constexpr QLatin1String kMeasure("<>");
+constexpr QLatin1String kMeasure("<>", 2);
 
 QString setAffix(const Change& change, const CFxString& part)
 {

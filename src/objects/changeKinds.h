@@ -41,7 +41,7 @@ extern const ChangeKind decimalSeparator; ///< by the separator itself
 extern const ChangeKind quoted; ///< the element's word
 extern const ChangeKind chosenQuoted;
 extern const ChangeKind anyQuoted;
-extern const ChangeKind doubledBackslashes;
+extern const ChangeKind doubledBackslashes; ///< a plain text, in all targets
 /// The part of a dimension's text that stands on one side of the measure; one that holds but the measure's sign is not
 /// written.
 extern const ChangeKind affix;
@@ -50,7 +50,7 @@ extern const ChangeKind prefixAndSuffix;
 extern const ChangeKind escaped;  ///< a plain text with what the target's quotes need
 extern const ChangeKind unquoted; ///< a plain text as it stands
 
-// Looks.
+// Looks. Numbers and names come in any form where nothing else is said.
 extern const ChangeKind color;
 extern const ChangeKind lineWeight;
 extern const ChangeKind lineStyle; ///< by the style's record or its name
