@@ -28,7 +28,8 @@ def library():
         classes[cls.name] = {"base": cls.base, "operations": operations,
                              "properties": [[p.name, p.type] for p in cls.properties]}
     described = json.dumps({"classes": classes, "enumerations": known.enumerations})
-    return f"var INTERFACE = {described};\n" + (harness.STUBS / "javascript/interface.js").read_text(encoding="utf-8")
+    scripts = [(harness.STUBS / f"javascript/{name}.js").read_text(encoding="utf-8") for name in ("model", "interface")]
+    return "\n".join([f"var INTERFACE = {described};", *scripts])
 
 
 class _Handler(http.server.BaseHTTPRequestHandler):
@@ -104,11 +105,12 @@ class Browser:
             stdin=subprocess.DEVNULL, stdout=self._messages, stderr=subprocess.STDOUT)
         return self
 
-    def run(self, page):
-        """The calls and the first error of a page."""
+    def run(self, page, model):
+        """The calls and the first error of a page, which finds the objects of the model."""
         # In the page's first line, so that the numbers of the lines stay.
         first, rest = page.split("\n", 1)
-        self.pages.put(f'{first}<script src="/press.js"></script>\n{rest}')
+        offered = json.dumps([{**vars(one), "way": one.way} for one in model]).replace("<", "\\u003c")
+        self.pages.put(f'{first}<script>var MODEL = {offered};</script><script src="/press.js"></script>\n{rest}')
         try:
             return self.results.get(timeout=START if self._answers else 0.1)
         except queue.Empty:

@@ -5,12 +5,14 @@ with the objects of their recordings.
     check_csharp.py PROGRAM SOURCE_DIR
 """
 
+import itertools
 import json
 import pathlib
 import re
 
 import expected
 import harness
+import model
 import stubs_csharp
 
 ERROR = re.compile(r"^(.*?)\((\d+),\d+\): error (.*)$", re.MULTILINE)
@@ -39,10 +41,22 @@ class Judge:
             rejections = [harness.Rejection(self.assembly, 0, result.stdout + result.stderr)]
         return rejections
 
+    def _model(self, macro):
+        """The file that tells the stubs what the macro finds in the model."""
+        lines = []
+        for one in model.offered(macro.lines()):
+            fields = [("", point) for point in one.points] + list(one.answers.items())
+            told = [f"{name}={','.join(map(repr, map(float, numbers)))}" for name, numbers in fields]
+            lines.append("\t".join([one.interface, one.type, one.way, *told]) + "\n")
+        file = macro.folder / "model.txt"
+        file.write_text("".join(lines), encoding="utf-8")
+        return file
+
     def _run(self):
         """A name with blanks is no class; its macro was repaired to have none."""
         by_class = {macro.name.replace(" ", "_"): macro for macro in self.macros}
-        result = harness.run(self.mono, "--debug", self.assembly, *by_class)
+        models = [(name, self._model(macro)) for name, macro in by_class.items()]
+        result = harness.run(self.mono, "--debug", self.assembly, *itertools.chain(*models))
         if result.returncode != 0:
             return [harness.Rejection(self.assembly, 0, result.stdout + result.stderr)]
         self.calls, rejections, macro = {}, [], None

@@ -12,6 +12,7 @@ import sys
 import browser
 import expected
 import harness
+import model
 
 ERROR = re.compile(r"^.*?:(\d+)$.*?^(\w*Error: .*?)$", re.MULTILINE | re.DOTALL)
 
@@ -64,7 +65,7 @@ def check_run(checked):
             seen = {}
 
             def press():
-                seen.update(window.run(macro.file.read_text(encoding="utf-8")))
+                seen.update(window.run(macro.file.read_text(encoding="utf-8"), model.offered(macro.lines())))
                 error = seen["error"]
                 return [harness.Rejection(macro.file, error["line"], error["message"])] if error else []
 

@@ -10,6 +10,7 @@ import re
 
 import harness
 import interface
+import model
 
 DOCUMENT = "app.GetActiveDocument()"
 MODEL = f"{DOCUMENT}.GetModel()"
@@ -23,8 +24,9 @@ def _value(properties, tag):
 
 
 CHANGES = {"put_Erased", "put_Layer"}
-# The custom action that erases its objects.
+# The custom actions that erase their objects and that trim them.
 ERASING = 17
+TRIMMING = 6
 
 
 def _actions(recording):
@@ -118,13 +120,15 @@ class _Objects:
         # A leader brings its note with it.
         self._annotations = {record["handle"] for record in records if record["class"] == "AcDbMText"
                              and record.get("reactors")}
-        self._inserted, self._manager, self._counts = inserted, manager, {}
+        self._offered = {one.handle for one in model.offered(recording)}
+        self._inserted, self._manager, self._counts, self._classes = inserted, manager, {}, {}
         self.ways, self.calls = {}, []
         for action in _actions(recording) if manager else ():
             for kind in {"added", "modified", "custom"} & action.keys():
                 getattr(self, kind)(action[kind])
 
     def added(self, record):
+        self._classes[record["handle"]] = record["class"]
         result = self._inserted.get(record["class"])
         if not result or record["handle"] in self._annotations:
             return
@@ -145,6 +149,18 @@ class _Objects:
         if record["kind"] == ERASING:
             self.calls += [(self.ways[handle], "put_Erased", [True])
                            for handle in record["data"][0]["handles"] if handle in self.ways]
+        if record["kind"] == TRIMMING:
+            for handle, cls in zip(record["data"][5]["handles"], record["data"][6]["classes"]):
+                self._stands(handle, cls)
+
+    def _stands(self, handle, cls):
+        """Behind a trim. What the macro did not know so, it has to find in the model."""
+        if self._classes.get(handle) == cls:
+            return
+        self._classes[handle] = cls
+        self.ways.pop(handle, None)
+        if handle in self._offered:
+            self.ways[handle] = model.way(handle)
 
 
 def _page_frame(in_model, sheet):
@@ -226,8 +242,7 @@ class Comparison:
         self.objects = 0
 
     def add(self, macro, calls):
-        lines = macro.recording.read_text(encoding="utf-8-sig").splitlines()
-        recording = [json.loads(line) for line in lines if line.strip()]
+        recording = macro.lines()
         header = recording[0].get("recording", {}) if recording else {}
         sheet = header.get("sheet", {"name": "", "model": True})
         calls = [(call["on"], call["call"], call["args"]) for call in calls]

@@ -41,6 +41,11 @@ class Macro:
     folder: pathlib.Path
     file: pathlib.Path
 
+    def lines(self):
+        """What its recording holds, line by line."""
+        lines = self.recording.read_text(encoding="utf-8-sig").splitlines()
+        return [json.loads(line) for line in lines if line.strip()]
+
     def project(self, extension):
         return self.folder / f"{self.name}{extension}"
 

@@ -20,8 +20,10 @@ class _Source:
             if element in self._known.classes:
                 return f'Arrays.Of({call}, way => new {element}Object(way))'
             return f"Arrays.Of({call}, way => default({element}))"
-        if type_ in self._known.classes or type_ == "object":
-            return f"new {type_ if type_ != 'object' else 'Found'}Object({call})"
+        if type_ in self._known.classes:
+            return f"new {type_}Object({call})"
+        if type_ == "object":
+            return f"Model.Found({call})"
         return f'Values.Of<{self.type(type_)}>({call})'
 
     def operation(self, operation):
@@ -31,8 +33,9 @@ class _Source:
                               for p, name in zip(operation.parameters, names))
         given = [name for p, name in zip(operation.parameters, names) if not p.out]
         note = f'Note("{operation.name}", "{operation.result}"{"".join(", " + name for name in given)})'
-        body = [f"{name} = {self.value(p.type, 'Way')};" for p, name in zip(operation.parameters, names) if p.out]
-        body.append(f"return {self.value(operation.result, note)};" if operation.result else f"{note};")
+        body = [f"string way = {note};"]
+        body += [f"{name} = {self.value(p.type, 'Way')};" for p, name in zip(operation.parameters, names) if p.out]
+        body += [f"return {self.value(operation.result, 'way')};"] if operation.result else []
         return f"{self.type(operation.result) or 'void'} {operation.name}({signature})", " ".join(body)
 
     def members(self, cls):

@@ -189,6 +189,17 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitHatchGradient: true color", allButCpp, 2},
         // C++ sets the color where it is fetched.
         {"EmitHatchGradientData: assigned color", {Cpp}, 2},
+        // The array's size stands in its declaration.
+        {"size of picked objects", {Cpp, CppCom, Vba}},
+        {"size of picked points", {Cpp, CppCom, VbNet, Vba}},
+        // Basic ends all tests of a search at once; C++ and COM have properties in locals; a page needs no locals, and
+        // VBA has them all in front.
+        {"EmitTrimEntities: end of tests", {Cpp, CppCom, CSharp, JavaScript}},
+        {"EmitTrimEntities: locals", {JavaScript}},
+        {"EmitTrimEntities: local of the object", {Cpp, CppCom, CSharp, JavaScript, VbNet}},
+        {"EmitTrimEntities: success", allButCpp},
+        {"EmitTrimEntities: property into a local", {CSharp, JavaScript, VbNet, Vba}},
+        {"EmitTrimEntities: property", {Cpp, CppCom}},
         // Declarations ahead of the tests in C++ and VBA, a call behind them in C++.
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom}},
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom, Vba}},

@@ -46,7 +46,14 @@ namespace Inkwright
             string[] shown = Array.ConvertAll(arguments, Json.Of);
             Log.Append("{\"on\":" + Json.Of(Way) + ",\"call\":\"" + call + "\",\"args\":[" + string.Join(",", shown)
                        + "]}\n");
-            if (arguments.Length < 2)
+            string way = WayTo(call, result, shown);
+            Model.Tell(Way, call, arguments, shown, way);
+            return way;
+        }
+
+        private string WayTo(string call, string result, string[] shown)
+        {
+            if (shown.Length < 2)
                 return Way + "." + call + "(" + string.Join("", shown) + ")";
             int count;
             counts.TryGetValue(result, out count);
@@ -59,6 +66,10 @@ namespace Inkwright
     {
         public static T Of<T>(string way)
         {
+            if (Model.Answers.Count > 0) {
+                object known = Model.Answers.Dequeue();
+                return (T)(typeof(T).IsEnum ? Enum.Parse(typeof(T), (string)known) : known);
+            }
             return typeof(T) == typeof(string) ? (T)(object)"" : default(T);
         }
     }

@@ -1,5 +1,5 @@
-// Runs the macros whose names are given, one after the other, and prints what each asked for: a line with its name, its
-// calls, and, when it was stopped, where and why.
+// Runs the macros whose names are given, each with the file of its model, one after the other, and prints what each asked
+// for: a line with its name, its calls, and, when it was stopped, where and why.
 
 using System;
 using System.Diagnostics;
@@ -9,11 +9,13 @@ using Inkwright;
 
 internal static class RunMacros
 {
-    private static void Main(string[] names)
+    private static void Main(string[] arguments)
     {
         Console.OutputEncoding = new UTF8Encoding(false);
-        foreach (string name in names) {
+        for (int i = 0; i + 1 < arguments.Length; i += 2) {
+            string name = arguments[i];
             Noting.Begin();
+            Model.Begin(arguments[i + 1]);
             string stop = Run(name);
             Console.Write("{\"macro\":" + Json.Of(name) + "}\n" + Noting.Log + stop);
         }

@@ -59,8 +59,8 @@ function answer(type, way) {
 }
 
 // Several results come as an array, which has them by their names too.
-function answers(types, names, way) {
-    var results = types.map(type => answer(type, way));
+function answers(types, names, way, known) {
+    var results = known || types.map(type => answer(type, way));
     if (results.length < 2) {
         return results[0];
     }
@@ -75,7 +75,9 @@ function addOperation(prototype, name, parameters, outs, result) {
             throw new TypeError(name + '(' + given.map(String).join(', ') + ') does not take these arguments');
         }
         var all = (result ? [[result, '']] : []).concat(outs);
-        return answers(all.map(([type]) => type), all.map(([, title]) => title), note(this, name, given, result));
+        var way = note(this, name, given, result);
+        return answers(all.map(([type]) => type), all.map(([, title]) => title), way,
+                       modelAnswers(this, name, given, way));
     };
 }
 

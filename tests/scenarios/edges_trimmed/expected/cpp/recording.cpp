@@ -88,19 +88,57 @@ bool CMacroCommand::ExecuteNotify(void)
     {
         iwSketchManager->InsertCircle( 8.00000000000000, 6.00000000000000, 0.00000000000000, 3.00000000000000, &iwcircle7 );
     }
+    iwPolyLine_ptr iwpolyline8;
+    {
+        iwDoubleArray Coordinates1;
+        Coordinates1.clear();
+
+        Coordinates1.add(0.00000000000000);Coordinates1.add(20.00000000000000);
+        Coordinates1.add(20.00000000000000);Coordinates1.add(20.00000000000000);
+        Coordinates1.add(20.00000000000000);Coordinates1.add(24.00000000000000);
+
+        iwSketchManager->InsertPolyline2D( Coordinates1, false, &iwpolyline8 );
+    }
+    iwEllipseArc_ptr iwellipsearc9;
+    {
+        iwSketchManager->InsertEllipseDistanceToOtherAxis( 17.00000000000000, 30.00000000000000, 5.00000000000000, 30.00000000000000, 2.00000000000000, &iwellipsearc9 );
+    }
+    iwPolyLine3D_ptr iwpolyline3d10;
+    {
+        iwDoubleArray Coordinates1;
+        Coordinates1.clear();
+
+        Coordinates1.add(0.00000000000000);Coordinates1.add(40.00000000000000);Coordinates1.add(1.00000000000000);
+        Coordinates1.add(20.00000000000000);Coordinates1.add(40.00000000000000);Coordinates1.add(1.00000000000000);
+        Coordinates1.add(20.00000000000000);Coordinates1.add(44.00000000000000);Coordinates1.add(3.00000000000000);
+
+        iwSketchManager->InsertPolyline3D( Coordinates1, false, &iwpolyline3d10 );
+    }
+    iwSpline_ptr iwspline11;
+    {
+        iwDoubleArray Coordinates1;
+        Coordinates1.clear();
+
+        Coordinates1.add(0.00000000000000);Coordinates1.add(50.00000000000000);Coordinates1.add(0.00000000000000);
+        Coordinates1.add(10.00000000000000);Coordinates1.add(54.00000000000000);Coordinates1.add(0.00000000000000);
+        Coordinates1.add(20.00000000000000);Coordinates1.add(50.00000000000000);Coordinates1.add(0.00000000000000);
+
+        iwSketchManager->InsertSpline( Coordinates1, false, 1.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 0.00000000000000, 0.00000000000000, &iwspline11 );
+    }
+    iwInfiniteLine_ptr iwinfiniteline12;
+    {
+        iwSketchManager->InsertInfiniteLine( 14.00000000000000, 60.00000000000000, 0.00000000000000, 16.00000000000000, 63.00000000000000, 0.00000000000000, &iwinfiniteline12 );
+    }
     {
     }
-    iwLine_ptr iwline8;
-    iwLine_ptr iwline9;
-    iwCircleArc_ptr iwcirclearc10;
-    iwPolyLine_ptr iwpolyline11;
-    iwPolyLine_ptr iwpolyline12;
-    iwEllipseArc_ptr iwellipsearc13;
-    iwEllipseArc_ptr iwellipsearc14;
-    iwPolyLine3D_ptr iwpolyline3d15;
-    iwPolyLine3D_ptr iwpolyline3d16;
-    iwSpline_ptr iwspline17;
-    iwRay_ptr iwray18;
+    iwLine_ptr iwline13;
+    iwLine_ptr iwline14;
+    iwCircleArc_ptr iwcirclearc15;
+    iwPolyLine_ptr iwpolyline16;
+    iwEllipseArc_ptr iwellipsearc17;
+    iwPolyLine3D_ptr iwpolyline3d18;
+    iwSpline_ptr iwspline19;
+    iwRay_ptr iwray20;
     {
         iwObjectPtrArray CuttingEntitiesArray0;
         iwObjectPtrArray EntitiesToRemoveArray0;
@@ -111,11 +149,11 @@ bool CMacroCommand::ExecuteNotify(void)
         EntitiesToRemoveArray0.add(iwline1);
         EntitiesToRemoveArray0.add(iwline3);
         EntitiesToRemoveArray0.add(iwcircle7);
-        EntitiesToRemoveArray0.add();
-        EntitiesToRemoveArray0.add();
-        EntitiesToRemoveArray0.add();
-        EntitiesToRemoveArray0.add();
-        EntitiesToRemoveArray0.add();
+        EntitiesToRemoveArray0.add(iwpolyline8);
+        EntitiesToRemoveArray0.add(iwellipsearc9);
+        EntitiesToRemoveArray0.add(iwpolyline3d10);
+        EntitiesToRemoveArray0.add(iwspline11);
+        EntitiesToRemoveArray0.add(iwinfiniteline12);
 
         PointOnEntityDblArray0.add(11);
         PointOnEntityDblArray0.add(0);
@@ -163,8 +201,8 @@ bool CMacroCommand::ExecuteNotify(void)
         double epsi = 0.1;
         iwMathUtility_ptr iwMathUtility;
         m_pIwApp->GetMathUtility( &iwMathUtility );
-        double selPts[33];                //selection points
-        double prop[66];                  //properties
+        double selPts[24];                //selection points
+        double prop[48];                  //properties
         selPts[0] = 14;
         selPts[1] = 0;
         selPts[2] = 0;
@@ -174,30 +212,21 @@ bool CMacroCommand::ExecuteNotify(void)
         selPts[6] = 8;
         selPts[7] = 9;
         selPts[8] = 0;
-        selPts[9] = 0;
+        selPts[9] = 14;
         selPts[10] = 20;
         selPts[11] = 0;
-        selPts[12] = 14;
-        selPts[13] = 20;
+        selPts[12] = 17;
+        selPts[13] = 30;
         selPts[14] = 0;
-        selPts[15] = 5;
-        selPts[16] = 30;
-        selPts[17] = 0;
-        selPts[18] = 17;
-        selPts[19] = 30;
+        selPts[15] = 14;
+        selPts[16] = 40;
+        selPts[17] = 1;
+        selPts[18] = 14;
+        selPts[19] = 50;
         selPts[20] = 0;
         selPts[21] = 14;
-        selPts[22] = 40;
-        selPts[23] = 1;
-        selPts[24] = 8;
-        selPts[25] = 40;
-        selPts[26] = 1;
-        selPts[27] = 14;
-        selPts[28] = 50;
-        selPts[29] = 0;
-        selPts[30] = 14;
-        selPts[31] = 60;
-        selPts[32] = 0;
+        selPts[22] = 60;
+        selPts[23] = 0;
         prop[0] = 14;
         prop[1] = 0;
         prop[2] = 0;
@@ -216,66 +245,45 @@ bool CMacroCommand::ExecuteNotify(void)
         prop[15] = 3;
         prop[16] = 1.5708;
         prop[17] = 4.71239;
-        prop[18] = 0;
+        prop[18] = 14;
         prop[19] = 20;
         prop[20] = 0;
-        prop[21] = 8;
+        prop[21] = 20;
         prop[22] = 20;
         prop[23] = 0;
-        prop[24] = 14;
-        prop[25] = 20;
+        prop[24] = 11;
+        prop[25] = 30;
         prop[26] = 0;
-        prop[27] = 20;
-        prop[28] = 20;
+        prop[27] = 6;
+        prop[28] = 2;
         prop[29] = 0;
-        prop[30] = 11;
-        prop[31] = 30;
-        prop[32] = 0;
-        prop[33] = 6;
-        prop[34] = 2;
-        prop[35] = 0;
-        prop[36] = 11;
-        prop[37] = 30;
+        prop[30] = 14;
+        prop[31] = 40;
+        prop[32] = 1;
+        prop[33] = 20;
+        prop[34] = 40;
+        prop[35] = 1;
+        prop[36] = 14;
+        prop[37] = 50;
         prop[38] = 0;
-        prop[39] = 6;
-        prop[40] = 2;
+        prop[39] = 16;
+        prop[40] = 52;
         prop[41] = 0;
         prop[42] = 14;
-        prop[43] = 40;
-        prop[44] = 1;
-        prop[45] = 20;
-        prop[46] = 40;
-        prop[47] = 1;
-        prop[48] = 0;
-        prop[49] = 40;
-        prop[50] = 1;
-        prop[51] = 8;
-        prop[52] = 40;
-        prop[53] = 1;
-        prop[54] = 14;
-        prop[55] = 50;
-        prop[56] = 0;
-        prop[57] = 16;
-        prop[58] = 52;
-        prop[59] = 0;
-        prop[60] = 14;
-        prop[61] = 60;
-        prop[62] = 0;
-        prop[63] = 15;
-        prop[64] = 61.5;
-        prop[65] = 0;
-        iwpolyline3d15 = NULL;
-        iwpolyline3d16 = NULL;
-        iwcirclearc10 = NULL;
-        iwellipsearc13 = NULL;
-        iwellipsearc14 = NULL;
-        iwline8 = NULL;
-        iwline9 = NULL;
-        iwpolyline11 = NULL;
-        iwpolyline12 = NULL;
-        iwray18 = NULL;
-        iwspline17 = NULL;
-        for (int iNewEnt = 0; iNewEnt < 11; iNewEnt++)
+        prop[43] = 60;
+        prop[44] = 0;
+        prop[45] = 15;
+        prop[46] = 61.5;
+        prop[47] = 0;
+        iwpolyline3d18 = NULL;
+        iwcirclearc15 = NULL;
+        iwellipsearc17 = NULL;
+        iwline13 = NULL;
+        iwline14 = NULL;
+        iwpolyline16 = NULL;
+        iwray20 = NULL;
+        iwspline19 = NULL;
+        for (int iNewEnt = 0; iNewEnt < 8; iNewEnt++)
         {
             iwMathPoint_ptr firstPoint;
             iwMathUtility->CreatePoint(selPts[iNewEnt*3] + epsi, selPts[iNewEnt*3 + 1] + epsi, selPts[iNewEnt*3 + 2], &firstPoint);
@@ -306,10 +314,8 @@ bool CMacroCommand::ExecuteNotify(void)
                 fabs(secondY - prop[iNewEnt*6 + 4]) < epsi &&
                 fabs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
             {
-        if (iNewEnt == 7)
-            iwpolyline3d15 = polyline3d;
-        if (iNewEnt == 8)
-            iwpolyline3d16 = polyline3d;
+        if (iNewEnt == 5)
+            iwpolyline3d18 = polyline3d;
                 break;
             }
         }
@@ -329,7 +335,7 @@ bool CMacroCommand::ExecuteNotify(void)
                 fabs(endAngle - prop[iNewEnt*6 + 5]) < epsi )
             {
         if (iNewEnt == 2)
-            iwcirclearc10 = circlearc;
+            iwcirclearc15 = circlearc;
                 break;
             }
         }
@@ -346,10 +352,8 @@ bool CMacroCommand::ExecuteNotify(void)
                 fabs(majorRadius - prop[iNewEnt*6 + 3]) < epsi &&
                 fabs(minorRadius - prop[iNewEnt*6 + 4]) < epsi )
             {
-        if (iNewEnt == 5)
-            iwellipsearc13 = ellipsearc;
-        if (iNewEnt == 6)
-            iwellipsearc14 = ellipsearc;
+        if (iNewEnt == 4)
+            iwellipsearc17 = ellipsearc;
                 break;
             }
         }
@@ -367,9 +371,9 @@ bool CMacroCommand::ExecuteNotify(void)
                 fabs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
             {
         if (iNewEnt == 0)
-            iwline8 = line;
+            iwline13 = line;
         if (iNewEnt == 1)
-            iwline9 = line;
+            iwline14 = line;
                 break;
             }
         }
@@ -385,9 +389,7 @@ bool CMacroCommand::ExecuteNotify(void)
                 fabs(secondY - prop[iNewEnt*6 + 4]) < epsi )
             {
         if (iNewEnt == 3)
-            iwpolyline11 = polyline;
-        if (iNewEnt == 4)
-            iwpolyline12 = polyline;
+            iwpolyline16 = polyline;
                 break;
             }
         }
@@ -404,8 +406,8 @@ bool CMacroCommand::ExecuteNotify(void)
                 fabs(throughY - prop[iNewEnt*6 + 4]) < epsi &&
                 fabs(throughZ - prop[iNewEnt*6 + 5]) < epsi )
             {
-        if (iNewEnt == 10)
-            iwray18 = ray;
+        if (iNewEnt == 7)
+            iwray20 = ray;
                 break;
             }
         }
@@ -423,8 +425,8 @@ bool CMacroCommand::ExecuteNotify(void)
                 fabs(secondY - prop[iNewEnt*6 + 4]) < epsi &&
                 fabs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
             {
-        if (iNewEnt == 9)
-            iwspline17 = spline;
+        if (iNewEnt == 6)
+            iwspline19 = spline;
                 break;
             }
         }
@@ -437,29 +439,29 @@ bool CMacroCommand::ExecuteNotify(void)
     {
         // AcDbLine object modified
         {
-            iwline8->put_Layer( L"Walls" );
+            iwline13->put_Layer( L"Walls" );
         }
         // AcDbArc object modified
         {
-            iwcirclearc10->put_Layer( L"Walls" );
+            iwcirclearc15->put_Layer( L"Walls" );
         }
         // AcDbPolyline object modified
         {
-            iwpolyline12->put_Layer( L"Walls" );
+            iwpolyline16->put_Layer( L"Walls" );
         }
     }
     {
         // AcDbEllipse object modified
         {
-            iwellipsearc14->put_Layer( L"Axes" );
+            iwellipsearc17->put_Layer( L"Axes" );
         }
         // AcDb3dPolyline object modified
         {
-            iwpolyline3d15->put_Layer( L"Axes" );
+            iwpolyline3d18->put_Layer( L"Axes" );
         }
     }
     {
-        iwline9->put_Erased( true );
+        iwline14->put_Erased( true );
     }
     {
         iwObjectPtrArray BoundaryEntitiesArray0;
@@ -468,7 +470,7 @@ bool CMacroCommand::ExecuteNotify(void)
         BoundaryEntitiesArray0.add(iwline6);
 
         EntitiesToExtendArray0.add(iwline1);
-        EntitiesToExtendArray0.add(iwcirclearc10);
+        EntitiesToExtendArray0.add(iwcirclearc15);
 
         PointOnEntityDblArray0.add(7.5);
         PointOnEntityDblArray0.add(0);
@@ -535,9 +537,9 @@ bool CMacroCommand::ExecuteNotify(void)
         iwObjectPtrArray secondEntityArray1;
         iwDoubleArray firstPointOnEntityDblArray1;
         iwDoubleArray secondPointOnEntityDblArray1;
-        firstEntityArray1.add(iwcirclearc10);
+        firstEntityArray1.add(iwcirclearc15);
 
-        secondEntityArray1.add(iwpolyline12);
+        secondEntityArray1.add(iwpolyline16);
 
         firstPointOnEntityDblArray1.add(5);
         firstPointOnEntityDblArray1.add(6);

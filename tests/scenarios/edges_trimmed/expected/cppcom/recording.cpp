@@ -137,19 +137,114 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     {
         circle7 = iwSketchManager->InsertCircle( 8.00000000000000, 6.00000000000000, 0.00000000000000, 3.00000000000000 );
     }
+    IPolyLinePtr polyline8;
+    {
+        VARIANT variant1;
+        variant1.vt = ( VT_ARRAY | VT_R8 );
+        variant1.parray = SafeArrayCreateVector( VT_R8, 0, 6 );
+        long rgIndices1;
+        rgIndices1 = -1;
+        double x, y;
+        x=0.00000000000000; y=20.00000000000000;
+        rgIndices1=0;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x) );
+        rgIndices1=1;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y) );
+        x=20.00000000000000; y=20.00000000000000;
+        rgIndices1=2;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x) );
+        rgIndices1=3;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y) );
+        x=20.00000000000000; y=24.00000000000000;
+        rgIndices1=4;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x) );
+        rgIndices1=5;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y) );
+
+        polyline8=iwSketchManager->InsertPolyline2D( variant1, false);
+    }
+    IEllipseArcPtr ellipsearc9;
+    {
+        ellipsearc9 = iwSketchManager->InsertEllipseDistanceToOtherAxis( 17.00000000000000, 30.00000000000000, 5.00000000000000, 30.00000000000000, 2.00000000000000 );
+    }
+    IPolyLine3DPtr polyline3d10;
+    {
+        VARIANT variant1;
+        variant1.vt = ( VT_ARRAY | VT_R8 );
+        variant1.parray = SafeArrayCreateVector( VT_R8, 0, 9 );
+        long rgIndices1;
+        rgIndices1 = -1;
+        double x_1, y_1, z_1;
+        x_1=0.00000000000000; y_1=40.00000000000000; z_1=1.00000000000000;
+        rgIndices1=0;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=1;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=2;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+        x_1=20.00000000000000; y_1=40.00000000000000; z_1=1.00000000000000;
+        rgIndices1=3;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=4;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=5;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+        x_1=20.00000000000000; y_1=44.00000000000000; z_1=3.00000000000000;
+        rgIndices1=6;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=7;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=8;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+
+        polyline3d10 = iwSketchManager->InsertPolyline3D( variant1, false );
+    }
+    ISplinePtr spline11;
+    {
+        VARIANT variant1;
+        variant1.vt = ( VT_ARRAY | VT_R8 );
+        variant1.parray = SafeArrayCreateVector( VT_R8, 0, 9 );
+        long rgIndices1;
+        rgIndices1 = -1;
+        double x_1, y_1, z_1;
+        x_1=0.00000000000000; y_1=50.00000000000000; z_1=0.00000000000000;
+        rgIndices1=0;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=1;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=2;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+        x_1=10.00000000000000; y_1=54.00000000000000; z_1=0.00000000000000;
+        rgIndices1=3;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=4;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=5;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+        x_1=20.00000000000000; y_1=50.00000000000000; z_1=0.00000000000000;
+        rgIndices1=6;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=7;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=8;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+
+        spline11 = iwSketchManager->InsertSpline( variant1, false, 1.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 0.00000000000000, 0.00000000000000 );
+    }
+    IInfiniteLinePtr infiniteline12;
+    {
+        infiniteline12 = iwSketchManager->InsertInfiniteLine( 14.00000000000000, 60.00000000000000, 0.00000000000000, 16.00000000000000, 63.00000000000000, 0.00000000000000 );
+    }
     {
     }
-    ILinePtr line8;
-    ILinePtr line9;
-    ICircleArcPtr circlearc10;
-    IPolyLinePtr polyline11;
-    IPolyLinePtr polyline12;
-    IEllipseArcPtr ellipsearc13;
-    IEllipseArcPtr ellipsearc14;
-    IPolyLine3DPtr polyline3d15;
-    IPolyLine3DPtr polyline3d16;
-    ISplinePtr spline17;
-    IRayPtr ray18;
+    ILinePtr line13;
+    ILinePtr line14;
+    ICircleArcPtr circlearc15;
+    IPolyLinePtr polyline16;
+    IEllipseArcPtr ellipsearc17;
+    IPolyLine3DPtr polyline3d18;
+    ISplinePtr spline19;
+    IRayPtr ray20;
     {
         VARIANT CuttingEntitiesArray0;
         CuttingEntitiesArray0.vt = ( VT_ARRAY | VT_DISPATCH  );
@@ -183,19 +278,19 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
             val0 = circle7;
             SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
             rgIndices0++;
-            val0 = ;
+            val0 = polyline8;
             SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
             rgIndices0++;
-            val0 = ;
+            val0 = ellipsearc9;
             SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
             rgIndices0++;
-            val0 = ;
+            val0 = polyline3d10;
             SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
             rgIndices0++;
-            val0 = ;
+            val0 = spline11;
             SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
             rgIndices0++;
-            val0 = ;
+            val0 = infiniteline12;
             SafeArrayPutElement( EntitiesToRemoveArray0.parray, &rgIndices0, (IDispatch*)(val0) );
             rgIndices0++;
         }
@@ -293,8 +388,8 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 
         double epsi = 0.1;
         IMathUtilityPtr iwMathUtility = pConnection->m_IwApp->GetMathUtility();
-        double selPts[33];                //selection points
-        double prop[66];                  //properties
+        double selPts[24];                //selection points
+        double prop[48];                  //properties
         selPts[0] = 14;
         selPts[1] = 0;
         selPts[2] = 0;
@@ -304,30 +399,21 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         selPts[6] = 8;
         selPts[7] = 9;
         selPts[8] = 0;
-        selPts[9] = 0;
+        selPts[9] = 14;
         selPts[10] = 20;
         selPts[11] = 0;
-        selPts[12] = 14;
-        selPts[13] = 20;
+        selPts[12] = 17;
+        selPts[13] = 30;
         selPts[14] = 0;
-        selPts[15] = 5;
-        selPts[16] = 30;
-        selPts[17] = 0;
-        selPts[18] = 17;
-        selPts[19] = 30;
+        selPts[15] = 14;
+        selPts[16] = 40;
+        selPts[17] = 1;
+        selPts[18] = 14;
+        selPts[19] = 50;
         selPts[20] = 0;
         selPts[21] = 14;
-        selPts[22] = 40;
-        selPts[23] = 1;
-        selPts[24] = 8;
-        selPts[25] = 40;
-        selPts[26] = 1;
-        selPts[27] = 14;
-        selPts[28] = 50;
-        selPts[29] = 0;
-        selPts[30] = 14;
-        selPts[31] = 60;
-        selPts[32] = 0;
+        selPts[22] = 60;
+        selPts[23] = 0;
         prop[0] = 14;
         prop[1] = 0;
         prop[2] = 0;
@@ -346,66 +432,45 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         prop[15] = 3;
         prop[16] = 1.5708;
         prop[17] = 4.71239;
-        prop[18] = 0;
+        prop[18] = 14;
         prop[19] = 20;
         prop[20] = 0;
-        prop[21] = 8;
+        prop[21] = 20;
         prop[22] = 20;
         prop[23] = 0;
-        prop[24] = 14;
-        prop[25] = 20;
+        prop[24] = 11;
+        prop[25] = 30;
         prop[26] = 0;
-        prop[27] = 20;
-        prop[28] = 20;
+        prop[27] = 6;
+        prop[28] = 2;
         prop[29] = 0;
-        prop[30] = 11;
-        prop[31] = 30;
-        prop[32] = 0;
-        prop[33] = 6;
-        prop[34] = 2;
-        prop[35] = 0;
-        prop[36] = 11;
-        prop[37] = 30;
+        prop[30] = 14;
+        prop[31] = 40;
+        prop[32] = 1;
+        prop[33] = 20;
+        prop[34] = 40;
+        prop[35] = 1;
+        prop[36] = 14;
+        prop[37] = 50;
         prop[38] = 0;
-        prop[39] = 6;
-        prop[40] = 2;
+        prop[39] = 16;
+        prop[40] = 52;
         prop[41] = 0;
         prop[42] = 14;
-        prop[43] = 40;
-        prop[44] = 1;
-        prop[45] = 20;
-        prop[46] = 40;
-        prop[47] = 1;
-        prop[48] = 0;
-        prop[49] = 40;
-        prop[50] = 1;
-        prop[51] = 8;
-        prop[52] = 40;
-        prop[53] = 1;
-        prop[54] = 14;
-        prop[55] = 50;
-        prop[56] = 0;
-        prop[57] = 16;
-        prop[58] = 52;
-        prop[59] = 0;
-        prop[60] = 14;
-        prop[61] = 60;
-        prop[62] = 0;
-        prop[63] = 15;
-        prop[64] = 61.5;
-        prop[65] = 0;
-        polyline3d15 = NULL;
-        polyline3d16 = NULL;
-        circlearc10 = NULL;
-        ellipsearc13 = NULL;
-        ellipsearc14 = NULL;
-        line8 = NULL;
-        line9 = NULL;
-        polyline11 = NULL;
-        polyline12 = NULL;
-        ray18 = NULL;
-        spline17 = NULL;
-        for (int iNewEnt = 0; iNewEnt < 11; iNewEnt++)
+        prop[43] = 60;
+        prop[44] = 0;
+        prop[45] = 15;
+        prop[46] = 61.5;
+        prop[47] = 0;
+        polyline3d18 = NULL;
+        circlearc15 = NULL;
+        ellipsearc17 = NULL;
+        line13 = NULL;
+        line14 = NULL;
+        polyline16 = NULL;
+        ray20 = NULL;
+        spline19 = NULL;
+        for (int iNewEnt = 0; iNewEnt < 8; iNewEnt++)
         {
             IMathPointPtr firstPoint = iwMathUtility->CreatePoint(selPts[iNewEnt*3] + epsi, selPts[iNewEnt*3 + 1] + epsi, selPts[iNewEnt*3 + 2]);
             IMathPointPtr secondPoint = iwMathUtility->CreatePoint(selPts[iNewEnt*3] - epsi, selPts[iNewEnt*3 + 1] - epsi, selPts[iNewEnt*3 + 2]);
@@ -431,10 +496,8 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
                 fabs(secondY - prop[iNewEnt*6 + 4]) < epsi &&
                 fabs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
             {
-        if (iNewEnt == 7)
-            polyline3d15 = polyline3d;
-        if (iNewEnt == 8)
-            polyline3d16 = polyline3d;
+        if (iNewEnt == 5)
+            polyline3d18 = polyline3d;
                 break;
             }
         }
@@ -454,7 +517,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
                 fabs(endAngle - prop[iNewEnt*6 + 5]) < epsi )
             {
         if (iNewEnt == 2)
-            circlearc10 = circlearc;
+            circlearc15 = circlearc;
                 break;
             }
         }
@@ -471,10 +534,8 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
                 fabs(majorRadius - prop[iNewEnt*6 + 3]) < epsi &&
                 fabs(minorRadius - prop[iNewEnt*6 + 4]) < epsi )
             {
-        if (iNewEnt == 5)
-            ellipsearc13 = ellipsearc;
-        if (iNewEnt == 6)
-            ellipsearc14 = ellipsearc;
+        if (iNewEnt == 4)
+            ellipsearc17 = ellipsearc;
                 break;
             }
         }
@@ -492,9 +553,9 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
                 fabs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
             {
         if (iNewEnt == 0)
-            line8 = line;
+            line13 = line;
         if (iNewEnt == 1)
-            line9 = line;
+            line14 = line;
                 break;
             }
         }
@@ -510,9 +571,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
                 fabs(secondY - prop[iNewEnt*6 + 4]) < epsi )
             {
         if (iNewEnt == 3)
-            polyline11 = polyline;
-        if (iNewEnt == 4)
-            polyline12 = polyline;
+            polyline16 = polyline;
                 break;
             }
         }
@@ -529,8 +588,8 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
                 fabs(throughY - prop[iNewEnt*6 + 4]) < epsi &&
                 fabs(throughZ - prop[iNewEnt*6 + 5]) < epsi )
             {
-        if (iNewEnt == 10)
-            ray18 = ray;
+        if (iNewEnt == 7)
+            ray20 = ray;
                 break;
             }
         }
@@ -547,8 +606,8 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
                 fabs(secondY - prop[iNewEnt*6 + 4]) < epsi &&
                 fabs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
             {
-        if (iNewEnt == 9)
-            spline17 = spline;
+        if (iNewEnt == 6)
+            spline19 = spline;
                 break;
             }
         }
@@ -561,29 +620,29 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     {
         // AcDbLine object modified
         {
-            line8->put_Layer( L"Walls" );
+            line13->put_Layer( L"Walls" );
         }
         // AcDbArc object modified
         {
-            circlearc10->put_Layer( L"Walls" );
+            circlearc15->put_Layer( L"Walls" );
         }
         // AcDbPolyline object modified
         {
-            polyline12->put_Layer( L"Walls" );
+            polyline16->put_Layer( L"Walls" );
         }
     }
     {
         // AcDbEllipse object modified
         {
-            ellipsearc14->put_Layer( L"Axes" );
+            ellipsearc17->put_Layer( L"Axes" );
         }
         // AcDb3dPolyline object modified
         {
-            polyline3d15->put_Layer( L"Axes" );
+            polyline3d18->put_Layer( L"Axes" );
         }
     }
     {
-        line9->put_Erased( true );
+        line14->put_Erased( true );
     }
     {
         VARIANT BoundaryEntitiesArray0;
@@ -609,7 +668,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
             val0 = line1;
             SafeArrayPutElement( EntitiesToExtendArray0.parray, &rgIndices0, (IDispatch*)(val0) );
             rgIndices0++;
-            val0 = circlearc10;
+            val0 = circlearc15;
             SafeArrayPutElement( EntitiesToExtendArray0.parray, &rgIndices0, (IDispatch*)(val0) );
             rgIndices0++;
         }
@@ -772,7 +831,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         long rgIndices1;
         rgIndices1 = 0;
         IDispatch* val1;
-        val1 = circlearc10;
+        val1 = circlearc15;
         SafeArrayPutElement( firstEntityArray1.parray, &rgIndices1, (IDispatch*)(val1) );
         rgIndices1++;
 
@@ -780,7 +839,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
             long rgIndices1;
             rgIndices1 = 0;
             IDispatch* val1;
-            val1 = polyline12;
+            val1 = polyline16;
             SafeArrayPutElement( secondEntityArray1.parray, &rgIndices1, (IDispatch*)(val1) );
             rgIndices1++;
         }

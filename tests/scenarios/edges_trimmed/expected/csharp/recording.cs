@@ -61,19 +61,48 @@ namespace IWAPIMacros
             {
                 circle7 = iwSketchManager.InsertCircle( 8.00000000000000, 6.00000000000000, 0.00000000000000, 3.00000000000000 );
             }
+            PolyLine polyline8;
+            {
+                polyline8 = iwSketchManager.InsertPolyline2D(
+                 new double[]{0.00000000000000,20.00000000000000,20.00000000000000,20.00000000000000,20.00000000000000,24.00000000000000},
+                 false );
+            }
+            EllipseArc ellipsearc9;
+            {
+                ellipsearc9 = iwSketchManager.InsertEllipseDistanceToOtherAxis( 17.00000000000000, 30.00000000000000, 5.00000000000000, 30.00000000000000, 2.00000000000000 );
+            }
+            PolyLine3D polyline3d10;
+            {
+                polyline3d10 = iwSketchManager.InsertPolyline3D(
+                 new double[]{0.00000000000000,40.00000000000000,1.00000000000000,20.00000000000000,40.00000000000000,1.00000000000000,20.00000000000000,44.00000000000000,3.00000000000000},
+                 false );
+            }
+            Spline spline11;
+            {
+                spline11 = iwSketchManager.InsertSpline(
+                 new double[]{0.00000000000000,50.00000000000000,0.00000000000000,10.00000000000000,54.00000000000000,0.00000000000000,20.00000000000000,50.00000000000000,0.00000000000000}, 
+                 false, 
+                 1.00000000000000, 
+                 0.00000000000000, 
+                 0.00000000000000, 
+                 1.00000000000000, 
+                 0.00000000000000, 
+                 0.00000000000000 );
+            }
+            InfiniteLine infiniteline12;
+            {
+                infiniteline12 = iwSketchManager.InsertInfiniteLine( 14.00000000000000, 60.00000000000000, 0.00000000000000, 16.00000000000000, 63.00000000000000, 0.00000000000000 );
+            }
             {
             }
-            Line line8;
-            Line line9;
-            CircleArc circlearc10;
-            PolyLine polyline11;
-            PolyLine polyline12;
-            EllipseArc ellipsearc13;
-            EllipseArc ellipsearc14;
-            PolyLine3D polyline3d15;
-            PolyLine3D polyline3d16;
-            Spline spline17;
-            Ray ray18;
+            Line line13;
+            Line line14;
+            CircleArc circlearc15;
+            PolyLine polyline16;
+            EllipseArc ellipsearc17;
+            PolyLine3D polyline3d18;
+            Spline spline19;
+            Ray ray20;
             {
                 DispatchWrapper[] CuttingEntitiesArray0;
                 DispatchWrapper[] EntitiesToRemoveArray0;
@@ -88,11 +117,11 @@ namespace IWAPIMacros
                 EntitiesToRemoveArray0[0] = new DispatchWrapper(line1);
                 EntitiesToRemoveArray0[1] = new DispatchWrapper(line3);
                 EntitiesToRemoveArray0[2] = new DispatchWrapper(circle7);
-                EntitiesToRemoveArray0[3] = new DispatchWrapper();
-                EntitiesToRemoveArray0[4] = new DispatchWrapper();
-                EntitiesToRemoveArray0[5] = new DispatchWrapper();
-                EntitiesToRemoveArray0[6] = new DispatchWrapper();
-                EntitiesToRemoveArray0[7] = new DispatchWrapper();
+                EntitiesToRemoveArray0[3] = new DispatchWrapper(polyline8);
+                EntitiesToRemoveArray0[4] = new DispatchWrapper(ellipsearc9);
+                EntitiesToRemoveArray0[5] = new DispatchWrapper(polyline3d10);
+                EntitiesToRemoveArray0[6] = new DispatchWrapper(spline11);
+                EntitiesToRemoveArray0[7] = new DispatchWrapper(infiniteline12);
 
                 PointOnEntityDblArray0[0] = 11;
                 PointOnEntityDblArray0[1] = 0;
@@ -134,8 +163,8 @@ namespace IWAPIMacros
 
                 double epsi = 0.1;
                 MathUtility iwMathUtility = iwApp.GetMathUtility();
-                double[] selPts = new double[33];                //selection points
-                double[] prop = new double[66];                  //properties
+                double[] selPts = new double[24];                //selection points
+                double[] prop = new double[48];                  //properties
                 selPts[0] = 14;
                 selPts[1] = 0;
                 selPts[2] = 0;
@@ -145,30 +174,21 @@ namespace IWAPIMacros
                 selPts[6] = 8;
                 selPts[7] = 9;
                 selPts[8] = 0;
-                selPts[9] = 0;
+                selPts[9] = 14;
                 selPts[10] = 20;
                 selPts[11] = 0;
-                selPts[12] = 14;
-                selPts[13] = 20;
+                selPts[12] = 17;
+                selPts[13] = 30;
                 selPts[14] = 0;
-                selPts[15] = 5;
-                selPts[16] = 30;
-                selPts[17] = 0;
-                selPts[18] = 17;
-                selPts[19] = 30;
+                selPts[15] = 14;
+                selPts[16] = 40;
+                selPts[17] = 1;
+                selPts[18] = 14;
+                selPts[19] = 50;
                 selPts[20] = 0;
                 selPts[21] = 14;
-                selPts[22] = 40;
-                selPts[23] = 1;
-                selPts[24] = 8;
-                selPts[25] = 40;
-                selPts[26] = 1;
-                selPts[27] = 14;
-                selPts[28] = 50;
-                selPts[29] = 0;
-                selPts[30] = 14;
-                selPts[31] = 60;
-                selPts[32] = 0;
+                selPts[22] = 60;
+                selPts[23] = 0;
                 prop[0] = 14;
                 prop[1] = 0;
                 prop[2] = 0;
@@ -187,66 +207,45 @@ namespace IWAPIMacros
                 prop[15] = 3;
                 prop[16] = 1.5708;
                 prop[17] = 4.71239;
-                prop[18] = 0;
+                prop[18] = 14;
                 prop[19] = 20;
                 prop[20] = 0;
-                prop[21] = 8;
+                prop[21] = 20;
                 prop[22] = 20;
                 prop[23] = 0;
-                prop[24] = 14;
-                prop[25] = 20;
+                prop[24] = 11;
+                prop[25] = 30;
                 prop[26] = 0;
-                prop[27] = 20;
-                prop[28] = 20;
+                prop[27] = 6;
+                prop[28] = 2;
                 prop[29] = 0;
-                prop[30] = 11;
-                prop[31] = 30;
-                prop[32] = 0;
-                prop[33] = 6;
-                prop[34] = 2;
-                prop[35] = 0;
-                prop[36] = 11;
-                prop[37] = 30;
+                prop[30] = 14;
+                prop[31] = 40;
+                prop[32] = 1;
+                prop[33] = 20;
+                prop[34] = 40;
+                prop[35] = 1;
+                prop[36] = 14;
+                prop[37] = 50;
                 prop[38] = 0;
-                prop[39] = 6;
-                prop[40] = 2;
+                prop[39] = 16;
+                prop[40] = 52;
                 prop[41] = 0;
                 prop[42] = 14;
-                prop[43] = 40;
-                prop[44] = 1;
-                prop[45] = 20;
-                prop[46] = 40;
-                prop[47] = 1;
-                prop[48] = 0;
-                prop[49] = 40;
-                prop[50] = 1;
-                prop[51] = 8;
-                prop[52] = 40;
-                prop[53] = 1;
-                prop[54] = 14;
-                prop[55] = 50;
-                prop[56] = 0;
-                prop[57] = 16;
-                prop[58] = 52;
-                prop[59] = 0;
-                prop[60] = 14;
-                prop[61] = 60;
-                prop[62] = 0;
-                prop[63] = 15;
-                prop[64] = 61.5;
-                prop[65] = 0;
-                polyline3d15 = null;
-                polyline3d16 = null;
-                circlearc10 = null;
-                ellipsearc13 = null;
-                ellipsearc14 = null;
-                line8 = null;
-                line9 = null;
-                polyline11 = null;
-                polyline12 = null;
-                ray18 = null;
-                spline17 = null;
-                for (int iNewEnt = 0; iNewEnt < 11; iNewEnt++)
+                prop[43] = 60;
+                prop[44] = 0;
+                prop[45] = 15;
+                prop[46] = 61.5;
+                prop[47] = 0;
+                polyline3d18 = null;
+                circlearc15 = null;
+                ellipsearc17 = null;
+                line13 = null;
+                line14 = null;
+                polyline16 = null;
+                ray20 = null;
+                spline19 = null;
+                for (int iNewEnt = 0; iNewEnt < 8; iNewEnt++)
                 {
                     MathPoint firstPoint = iwMathUtility.CreatePoint(selPts[iNewEnt*3] + epsi, selPts[iNewEnt*3 + 1] + epsi, selPts[iNewEnt*3 + 2]);
                     MathPoint secondPoint = iwMathUtility.CreatePoint(selPts[iNewEnt*3] - epsi, selPts[iNewEnt*3 + 1] - epsi, selPts[iNewEnt*3 + 2]);
@@ -272,10 +271,8 @@ namespace IWAPIMacros
                         Math.Abs(secondY - prop[iNewEnt*6 + 4]) < epsi &&
                         Math.Abs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
                     {
-                if (iNewEnt == 7)
-                    polyline3d15 = polyline3d;
-                if (iNewEnt == 8)
-                    polyline3d16 = polyline3d;
+                if (iNewEnt == 5)
+                    polyline3d18 = polyline3d;
                         break;
                     }
                 }
@@ -292,7 +289,7 @@ namespace IWAPIMacros
                         Math.Abs(circlearc.EndAngle - prop[iNewEnt*6 + 5]) < epsi )
                     {
                 if (iNewEnt == 2)
-                    circlearc10 = circlearc;
+                    circlearc15 = circlearc;
                         break;
                     }
                 }
@@ -307,10 +304,8 @@ namespace IWAPIMacros
                         Math.Abs(ellipsearc.MajorRadius - prop[iNewEnt*6 + 3]) < epsi &&
                         Math.Abs(ellipsearc.MinorRadius - prop[iNewEnt*6 + 4]) < epsi )
                     {
-                if (iNewEnt == 5)
-                    ellipsearc13 = ellipsearc;
-                if (iNewEnt == 6)
-                    ellipsearc14 = ellipsearc;
+                if (iNewEnt == 4)
+                    ellipsearc17 = ellipsearc;
                         break;
                     }
                 }
@@ -328,9 +323,9 @@ namespace IWAPIMacros
                         Math.Abs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
                     {
                 if (iNewEnt == 0)
-                    line8 = line;
+                    line13 = line;
                 if (iNewEnt == 1)
-                    line9 = line;
+                    line14 = line;
                         break;
                     }
                 }
@@ -346,9 +341,7 @@ namespace IWAPIMacros
                         Math.Abs(secondY - prop[iNewEnt*6 + 4]) < epsi )
                     {
                 if (iNewEnt == 3)
-                    polyline11 = polyline;
-                if (iNewEnt == 4)
-                    polyline12 = polyline;
+                    polyline16 = polyline;
                         break;
                     }
                 }
@@ -365,8 +358,8 @@ namespace IWAPIMacros
                         Math.Abs(throughY - prop[iNewEnt*6 + 4]) < epsi &&
                         Math.Abs(throughZ - prop[iNewEnt*6 + 5]) < epsi )
                     {
-                if (iNewEnt == 10)
-                    ray18 = ray;
+                if (iNewEnt == 7)
+                    ray20 = ray;
                         break;
                     }
                 }
@@ -383,8 +376,8 @@ namespace IWAPIMacros
                         Math.Abs(secondY - prop[iNewEnt*6 + 4]) < epsi &&
                         Math.Abs(secondZ - prop[iNewEnt*6 + 5]) < epsi )
                     {
-                if (iNewEnt == 9)
-                    spline17 = spline;
+                if (iNewEnt == 6)
+                    spline19 = spline;
                         break;
                     }
                 }
@@ -397,29 +390,29 @@ namespace IWAPIMacros
             {
                 // AcDbLine object modified
                 {
-                    line8.Layer = "Walls";
+                    line13.Layer = "Walls";
                 }
                 // AcDbArc object modified
                 {
-                    circlearc10.Layer = "Walls";
+                    circlearc15.Layer = "Walls";
                 }
                 // AcDbPolyline object modified
                 {
-                    polyline12.Layer = "Walls";
+                    polyline16.Layer = "Walls";
                 }
             }
             {
                 // AcDbEllipse object modified
                 {
-                    ellipsearc14.Layer = "Axes";
+                    ellipsearc17.Layer = "Axes";
                 }
                 // AcDb3dPolyline object modified
                 {
-                    polyline3d15.Layer = "Axes";
+                    polyline3d18.Layer = "Axes";
                 }
             }
             {
-                line9.Erased = true;
+                line14.Erased = true;
             }
             {
                 DispatchWrapper[] BoundaryEntitiesArray0;
@@ -432,7 +425,7 @@ namespace IWAPIMacros
                 BoundaryEntitiesArray0[0] = new DispatchWrapper(line6);
 
                 EntitiesToExtendArray0[0] = new DispatchWrapper(line1);
-                EntitiesToExtendArray0[1] = new DispatchWrapper(circlearc10);
+                EntitiesToExtendArray0[1] = new DispatchWrapper(circlearc15);
 
                 PointOnEntityDblArray0[0] = 7.5;
                 PointOnEntityDblArray0[1] = 0;
@@ -507,9 +500,9 @@ namespace IWAPIMacros
                 firstPointOnEntityDblArray1 = new double[3];
                 secondPointOnEntityDblArray1 = new double[3];
 
-                firstEntityArray1[0] = new DispatchWrapper(circlearc10);
+                firstEntityArray1[0] = new DispatchWrapper(circlearc15);
 
-                secondEntityArray1[0] = new DispatchWrapper(polyline12);
+                secondEntityArray1[0] = new DispatchWrapper(polyline16);
 
                 firstPointOnEntityDblArray1[0] = 5;
                 firstPointOnEntityDblArray1[1] = 6;

@@ -68,20 +68,72 @@ Sub main()
             Set circle7 = iwSketchManager.InsertCircle( 8.00000000000000, 6.00000000000000, 0.00000000000000, 3.00000000000000 )
         End If
 
+        Dim polyline8 As Inkwright.PolyLine
+        If 1 Then
+            Dim Coordinates1(5) As Double
+            Coordinates1( 0 )=0.00000000000000
+            Coordinates1( 1 )=20.00000000000000
+            Coordinates1( 2 )=20.00000000000000
+            Coordinates1( 3 )=20.00000000000000
+            Coordinates1( 4 )=20.00000000000000
+            Coordinates1( 5 )=24.00000000000000
+
+            Set polyline8 = iwSketchManager.InsertPolyline2D( Coordinates1, False )
+        End If
+
+        Dim ellipsearc9 As Inkwright.EllipseArc
+        If 1 Then
+            Set ellipsearc9 = iwSketchManager.InsertEllipseDistanceToOtherAxis( 17.00000000000000, 30.00000000000000, 5.00000000000000, 30.00000000000000, 2.00000000000000 )
+        End If
+
+        Dim polyline3d10 As Inkwright.PolyLine3D
+        If 1 Then
+            Dim Coordinates1(8) As Double
+            Coordinates1( 0 )=0.00000000000000
+            Coordinates1( 1 )=40.00000000000000
+            Coordinates1( 2 )=1.00000000000000
+            Coordinates1( 3 )=20.00000000000000
+            Coordinates1( 4 )=40.00000000000000
+            Coordinates1( 5 )=1.00000000000000
+            Coordinates1( 6 )=20.00000000000000
+            Coordinates1( 7 )=44.00000000000000
+            Coordinates1( 8 )=3.00000000000000
+
+            Set polyline3d10 = iwSketchManager.InsertPolyline3D( Coordinates1, False )
+        End If
+
+        Dim spline11 As Inkwright.Spline
+        If 1 Then
+            Dim Coordinates1(8) As Double
+            Coordinates1( 0 )=0.00000000000000
+            Coordinates1( 1 )=50.00000000000000
+            Coordinates1( 2 )=0.00000000000000
+            Coordinates1( 3 )=10.00000000000000
+            Coordinates1( 4 )=54.00000000000000
+            Coordinates1( 5 )=0.00000000000000
+            Coordinates1( 6 )=20.00000000000000
+            Coordinates1( 7 )=50.00000000000000
+            Coordinates1( 8 )=0.00000000000000
+
+            Set spline11 = iwSketchManager.InsertSpline( Coordinates1, False, 1.00000000000000, 0.00000000000000 ,0.00000000000000, 1.00000000000000, 0.00000000000000, 0.00000000000000 )
+        End If
+
+        Dim infiniteline12 As Inkwright.InfiniteLine
+        If 1 Then
+            Set infiniteline12 = iwSketchManager.InsertInfiniteLine( 14.00000000000000, 60.00000000000000, 0.00000000000000, 16.00000000000000, 63.00000000000000, 0.00000000000000 )
+        End If
+
         If 1 Then
         End If
 
-        Dim line8 As Inkwright.Line
-        Dim line9 As Inkwright.Line
-        Dim circlearc10 As Inkwright.CircleArc
-        Dim polyline11 As Inkwright.PolyLine
-        Dim polyline12 As Inkwright.PolyLine
-        Dim ellipsearc13 As Inkwright.EllipseArc
-        Dim ellipsearc14 As Inkwright.EllipseArc
-        Dim polyline3d15 As Inkwright.PolyLine3D
-        Dim polyline3d16 As Inkwright.PolyLine3D
-        Dim spline17 As Inkwright.Spline
-        Dim ray18 As Inkwright.Ray
+        Dim line13 As Inkwright.Line
+        Dim line14 As Inkwright.Line
+        Dim circlearc15 As Inkwright.CircleArc
+        Dim polyline16 As Inkwright.PolyLine
+        Dim ellipsearc17 As Inkwright.EllipseArc
+        Dim polyline3d18 As Inkwright.PolyLine3D
+        Dim spline19 As Inkwright.Spline
+        Dim ray20 As Inkwright.Ray
         If 1 Then
             Dim CuttingEntitiesArray0( 1 ) As Object
             Dim EntitiesToRemoveArray0( 7 ) As Object
@@ -93,11 +145,11 @@ Sub main()
             Set EntitiesToRemoveArray0( 0 ) = line1
             Set EntitiesToRemoveArray0( 1 ) = line3
             Set EntitiesToRemoveArray0( 2 ) = circle7
-            Set EntitiesToRemoveArray0( 3 ) = 
-            Set EntitiesToRemoveArray0( 4 ) = 
-            Set EntitiesToRemoveArray0( 5 ) = 
-            Set EntitiesToRemoveArray0( 6 ) = 
-            Set EntitiesToRemoveArray0( 7 ) = 
+            Set EntitiesToRemoveArray0( 3 ) = polyline8
+            Set EntitiesToRemoveArray0( 4 ) = ellipsearc9
+            Set EntitiesToRemoveArray0( 5 ) = polyline3d10
+            Set EntitiesToRemoveArray0( 6 ) = spline11
+            Set EntitiesToRemoveArray0( 7 ) = infiniteline12
 
             PointOnEntityDblArray0(0) = 11
             PointOnEntityDblArray0(1) = 0
@@ -142,8 +194,8 @@ Sub main()
             epsi = 0.1
             Dim iwMathUtility As Inkwright.MathUtility
             Set iwMathUtility = iwApp.GetMathUtility()
-            Dim selPts(32) As Double                'selection points
-            Dim prop(65) As Double                  'properties
+            Dim selPts(23) As Double                'selection points
+            Dim prop(47) As Double                  'properties
             selPts(0) = 14
             selPts(1) = 0
             selPts(2) = 0
@@ -153,30 +205,21 @@ Sub main()
             selPts(6) = 8
             selPts(7) = 9
             selPts(8) = 0
-            selPts(9) = 0
+            selPts(9) = 14
             selPts(10) = 20
             selPts(11) = 0
-            selPts(12) = 14
-            selPts(13) = 20
+            selPts(12) = 17
+            selPts(13) = 30
             selPts(14) = 0
-            selPts(15) = 5
-            selPts(16) = 30
-            selPts(17) = 0
-            selPts(18) = 17
-            selPts(19) = 30
+            selPts(15) = 14
+            selPts(16) = 40
+            selPts(17) = 1
+            selPts(18) = 14
+            selPts(19) = 50
             selPts(20) = 0
             selPts(21) = 14
-            selPts(22) = 40
-            selPts(23) = 1
-            selPts(24) = 8
-            selPts(25) = 40
-            selPts(26) = 1
-            selPts(27) = 14
-            selPts(28) = 50
-            selPts(29) = 0
-            selPts(30) = 14
-            selPts(31) = 60
-            selPts(32) = 0
+            selPts(22) = 60
+            selPts(23) = 0
             prop(0) = 14
             prop(1) = 0
             prop(2) = 0
@@ -195,67 +238,46 @@ Sub main()
             prop(15) = 3
             prop(16) = 1.5708
             prop(17) = 4.71239
-            prop(18) = 0
+            prop(18) = 14
             prop(19) = 20
             prop(20) = 0
-            prop(21) = 8
+            prop(21) = 20
             prop(22) = 20
             prop(23) = 0
-            prop(24) = 14
-            prop(25) = 20
+            prop(24) = 11
+            prop(25) = 30
             prop(26) = 0
-            prop(27) = 20
-            prop(28) = 20
+            prop(27) = 6
+            prop(28) = 2
             prop(29) = 0
-            prop(30) = 11
-            prop(31) = 30
-            prop(32) = 0
-            prop(33) = 6
-            prop(34) = 2
-            prop(35) = 0
-            prop(36) = 11
-            prop(37) = 30
+            prop(30) = 14
+            prop(31) = 40
+            prop(32) = 1
+            prop(33) = 20
+            prop(34) = 40
+            prop(35) = 1
+            prop(36) = 14
+            prop(37) = 50
             prop(38) = 0
-            prop(39) = 6
-            prop(40) = 2
+            prop(39) = 16
+            prop(40) = 52
             prop(41) = 0
             prop(42) = 14
-            prop(43) = 40
-            prop(44) = 1
-            prop(45) = 20
-            prop(46) = 40
-            prop(47) = 1
-            prop(48) = 0
-            prop(49) = 40
-            prop(50) = 1
-            prop(51) = 8
-            prop(52) = 40
-            prop(53) = 1
-            prop(54) = 14
-            prop(55) = 50
-            prop(56) = 0
-            prop(57) = 16
-            prop(58) = 52
-            prop(59) = 0
-            prop(60) = 14
-            prop(61) = 60
-            prop(62) = 0
-            prop(63) = 15
-            prop(64) = 61.5
-            prop(65) = 0
-            Set polyline3d15 = Nothing
-            Set polyline3d16 = Nothing
-            Set circlearc10 = Nothing
-            Set ellipsearc13 = Nothing
-            Set ellipsearc14 = Nothing
-            Set line8 = Nothing
-            Set line9 = Nothing
-            Set polyline11 = Nothing
-            Set polyline12 = Nothing
-            Set ray18 = Nothing
-            Set spline17 = Nothing
+            prop(43) = 60
+            prop(44) = 0
+            prop(45) = 15
+            prop(46) = 61.5
+            prop(47) = 0
+            Set polyline3d18 = Nothing
+            Set circlearc15 = Nothing
+            Set ellipsearc17 = Nothing
+            Set line13 = Nothing
+            Set line14 = Nothing
+            Set polyline16 = Nothing
+            Set ray20 = Nothing
+            Set spline19 = Nothing
             Dim iNewEnt As Integer
-            For iNewEnt = 0 To 11 - 1
+            For iNewEnt = 0 To 8 - 1
                 Dim firstPoint As Inkwright.MathPoint
                 Set firstPoint = iwMathUtility.CreatePoint(selPts(iNewEnt*3) + epsi, selPts(iNewEnt*3 + 1) + epsi, selPts(iNewEnt*3 + 2))
                 Dim secondPoint As Inkwright.MathPoint
@@ -288,11 +310,8 @@ Sub main()
                     Abs(secondX - prop(iNewEnt*6 + 3)) < epsi And _
                     Abs(secondY - prop(iNewEnt*6 + 4)) < epsi And _
                     Abs(secondZ - prop(iNewEnt*6 + 5)) < epsi Then
-            If iNewEnt = 7 Then
-                Set polyline3d15 = polyline3d
-            End If
-            If iNewEnt = 8 Then
-                Set polyline3d16 = polyline3d
+            If iNewEnt = 5 Then
+                Set polyline3d18 = polyline3d
             End If
                     Exit For
                 End If
@@ -310,7 +329,7 @@ Sub main()
                     Abs(circlearc.StartAngle - prop(iNewEnt*6 + 4)) < epsi And _
                     Abs(circlearc.EndAngle - prop(iNewEnt*6 + 5)) < epsi Then
             If iNewEnt = 2 Then
-                Set circlearc10 = circlearc
+                Set circlearc15 = circlearc
             End If
                     Exit For
                 End If
@@ -323,11 +342,8 @@ Sub main()
                     Abs(centerZ - prop(iNewEnt*6 + 2)) < epsi And _
                     Abs(ellipsearc.MajorRadius - prop(iNewEnt*6 + 3)) < epsi And _
                     Abs(ellipsearc.MinorRadius - prop(iNewEnt*6 + 4)) < epsi Then
-            If iNewEnt = 5 Then
-                Set ellipsearc13 = ellipsearc
-            End If
-            If iNewEnt = 6 Then
-                Set ellipsearc14 = ellipsearc
+            If iNewEnt = 4 Then
+                Set ellipsearc17 = ellipsearc
             End If
                     Exit For
                 End If
@@ -343,10 +359,10 @@ Sub main()
                     Abs(secondY - prop(iNewEnt*6 + 4)) < epsi And _
                     Abs(secondZ - prop(iNewEnt*6 + 5)) < epsi Then
             If iNewEnt = 0 Then
-                Set line8 = line
+                Set line13 = line
             End If
             If iNewEnt = 1 Then
-                Set line9 = line
+                Set line14 = line
             End If
                     Exit For
                 End If
@@ -360,10 +376,7 @@ Sub main()
                     Abs(secondX - prop(iNewEnt*6 + 3)) < epsi And _
                     Abs(secondY - prop(iNewEnt*6 + 4)) < epsi Then
             If iNewEnt = 3 Then
-                Set polyline11 = polyline
-            End If
-            If iNewEnt = 4 Then
-                Set polyline12 = polyline
+                Set polyline16 = polyline
             End If
                     Exit For
                 End If
@@ -384,8 +397,8 @@ Sub main()
                     Abs(throughX - prop(iNewEnt*6 + 3)) < epsi And _
                     Abs(throughY - prop(iNewEnt*6 + 4)) < epsi And _
                     Abs(throughZ - prop(iNewEnt*6 + 5)) < epsi Then
-            If iNewEnt = 10 Then
-                Set ray18 = ray
+            If iNewEnt = 7 Then
+                Set ray20 = ray
             End If
                     Exit For
                 End If
@@ -400,8 +413,8 @@ Sub main()
                     Abs(secondX - prop(iNewEnt*6 + 3)) < epsi And _
                     Abs(secondY - prop(iNewEnt*6 + 4)) < epsi And _
                     Abs(secondZ - prop(iNewEnt*6 + 5)) < epsi Then
-            If iNewEnt = 9 Then
-                Set spline17 = spline
+            If iNewEnt = 6 Then
+                Set spline19 = spline
             End If
                     Exit For
                 End If
@@ -416,17 +429,17 @@ Sub main()
         If 1 Then
             ' AcDbLine object modified
             If 1 Then
-                line8.Layer = "Walls"
+                line13.Layer = "Walls"
             End If
 
             ' AcDbArc object modified
             If 1 Then
-                circlearc10.Layer = "Walls"
+                circlearc15.Layer = "Walls"
             End If
 
             ' AcDbPolyline object modified
             If 1 Then
-                polyline12.Layer = "Walls"
+                polyline16.Layer = "Walls"
             End If
 
         End If
@@ -434,18 +447,18 @@ Sub main()
         If 1 Then
             ' AcDbEllipse object modified
             If 1 Then
-                ellipsearc14.Layer = "Axes"
+                ellipsearc17.Layer = "Axes"
             End If
 
             ' AcDb3dPolyline object modified
             If 1 Then
-                polyline3d15.Layer = "Axes"
+                polyline3d18.Layer = "Axes"
             End If
 
         End If
 
         If 1 Then
-            line9.Erased = True
+            line14.Erased = True
         End If
 
         If 1 Then
@@ -456,7 +469,7 @@ Sub main()
             Set BoundaryEntitiesArray0( 0 ) = line6
 
             Set EntitiesToExtendArray0( 0 ) = line1
-            Set EntitiesToExtendArray0( 1 ) = circlearc10
+            Set EntitiesToExtendArray0( 1 ) = circlearc15
 
             PointOnEntityDblArray0(0) = 7.5
             PointOnEntityDblArray0(1) = 0
@@ -523,9 +536,9 @@ Sub main()
             Dim firstPointOnEntityDblArray1(2) As Double
             Dim secondPointOnEntityDblArray1(2) As Double
 
-            Set firstEntityArray1( 0 ) = circlearc10
+            Set firstEntityArray1( 0 ) = circlearc15
 
-            Set secondEntityArray1( 0 ) = polyline12
+            Set secondEntityArray1( 0 ) = polyline16
 
             firstPointOnEntityDblArray1(0) = 5
             firstPointOnEntityDblArray1(1) = 6

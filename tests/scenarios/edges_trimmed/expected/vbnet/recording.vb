@@ -61,20 +61,72 @@ Public Class recording
             circle7 = iwSketchManager.InsertCircle( 8.00000000000000, 6.00000000000000, 0.00000000000000, 3.00000000000000 )
         End If
 
+        Dim polyline8 As Inkwright.PolyLine
+        If 1 Then
+            Dim Coordinates1(5) As Double
+            Coordinates1( 0 )=0.00000000000000
+            Coordinates1( 1 )=20.00000000000000
+            Coordinates1( 2 )=20.00000000000000
+            Coordinates1( 3 )=20.00000000000000
+            Coordinates1( 4 )=20.00000000000000
+            Coordinates1( 5 )=24.00000000000000
+
+            polyline8 = iwSketchManager.InsertPolyline2D( Coordinates1, False )
+        End If
+
+        Dim ellipsearc9 As Inkwright.EllipseArc
+        If 1 Then
+            ellipsearc9 = iwSketchManager.InsertEllipseDistanceToOtherAxis( 17.00000000000000, 30.00000000000000, 5.00000000000000, 30.00000000000000, 2.00000000000000 )
+        End If
+
+        Dim polyline3d10 As Inkwright.PolyLine3D
+        If 1 Then
+            Dim Coordinates1(8) As Double
+            Coordinates1( 0 )=0.00000000000000
+            Coordinates1( 1 )=40.00000000000000
+            Coordinates1( 2 )=1.00000000000000
+            Coordinates1( 3 )=20.00000000000000
+            Coordinates1( 4 )=40.00000000000000
+            Coordinates1( 5 )=1.00000000000000
+            Coordinates1( 6 )=20.00000000000000
+            Coordinates1( 7 )=44.00000000000000
+            Coordinates1( 8 )=3.00000000000000
+
+            polyline3d10 = iwSketchManager.InsertPolyline3D( Coordinates1, False )
+        End If
+
+        Dim spline11 As Inkwright.Spline
+        If 1 Then
+            Dim Coordinates1(8) As Double
+            Coordinates1( 0 )=0.00000000000000
+            Coordinates1( 1 )=50.00000000000000
+            Coordinates1( 2 )=0.00000000000000
+            Coordinates1( 3 )=10.00000000000000
+            Coordinates1( 4 )=54.00000000000000
+            Coordinates1( 5 )=0.00000000000000
+            Coordinates1( 6 )=20.00000000000000
+            Coordinates1( 7 )=50.00000000000000
+            Coordinates1( 8 )=0.00000000000000
+
+            spline11 = iwSketchManager.InsertSpline( Coordinates1, False, 1.00000000000000, 0.00000000000000 ,0.00000000000000, 1.00000000000000, 0.00000000000000, 0.00000000000000 )
+        End If
+
+        Dim infiniteline12 As Inkwright.InfiniteLine
+        If 1 Then
+            infiniteline12 = iwSketchManager.InsertInfiniteLine( 14.00000000000000, 60.00000000000000, 0.00000000000000, 16.00000000000000, 63.00000000000000, 0.00000000000000 )
+        End If
+
         If 1 Then
         End If
 
-        Dim line8 As Inkwright.Line
-        Dim line9 As Inkwright.Line
-        Dim circlearc10 As Inkwright.CircleArc
-        Dim polyline11 As Inkwright.PolyLine
-        Dim polyline12 As Inkwright.PolyLine
-        Dim ellipsearc13 As Inkwright.EllipseArc
-        Dim ellipsearc14 As Inkwright.EllipseArc
-        Dim polyline3d15 As Inkwright.PolyLine3D
-        Dim polyline3d16 As Inkwright.PolyLine3D
-        Dim spline17 As Inkwright.Spline
-        Dim ray18 As Inkwright.Ray
+        Dim line13 As Inkwright.Line
+        Dim line14 As Inkwright.Line
+        Dim circlearc15 As Inkwright.CircleArc
+        Dim polyline16 As Inkwright.PolyLine
+        Dim ellipsearc17 As Inkwright.EllipseArc
+        Dim polyline3d18 As Inkwright.PolyLine3D
+        Dim spline19 As Inkwright.Spline
+        Dim ray20 As Inkwright.Ray
         If 1 Then
             Dim CuttingEntitiesArray0 As DispatchWrapper()
             Dim EntitiesToRemoveArray0 As DispatchWrapper()
@@ -88,11 +140,11 @@ Public Class recording
             EntitiesToRemoveArray0( 0 ) = New DispatchWrapper( line1 )
             EntitiesToRemoveArray0( 1 ) = New DispatchWrapper( line3 )
             EntitiesToRemoveArray0( 2 ) = New DispatchWrapper( circle7 )
-            EntitiesToRemoveArray0( 3 ) = New DispatchWrapper(  )
-            EntitiesToRemoveArray0( 4 ) = New DispatchWrapper(  )
-            EntitiesToRemoveArray0( 5 ) = New DispatchWrapper(  )
-            EntitiesToRemoveArray0( 6 ) = New DispatchWrapper(  )
-            EntitiesToRemoveArray0( 7 ) = New DispatchWrapper(  )
+            EntitiesToRemoveArray0( 3 ) = New DispatchWrapper( polyline8 )
+            EntitiesToRemoveArray0( 4 ) = New DispatchWrapper( ellipsearc9 )
+            EntitiesToRemoveArray0( 5 ) = New DispatchWrapper( polyline3d10 )
+            EntitiesToRemoveArray0( 6 ) = New DispatchWrapper( spline11 )
+            EntitiesToRemoveArray0( 7 ) = New DispatchWrapper( infiniteline12 )
 
             PointOnEntityDblArray0( 0 ) = 11
             PointOnEntityDblArray0( 1 ) = 0
@@ -134,8 +186,8 @@ Public Class recording
 
             Dim epsi As Double = 0.1
             Dim iwMathUtility As Inkwright.MathUtility = iwApp.GetMathUtility()
-            Dim selPts(32) As Double                'selection points
-            Dim prop(65) As Double                  'properties
+            Dim selPts(23) As Double                'selection points
+            Dim prop(47) As Double                  'properties
             selPts(0) = 14
             selPts(1) = 0
             selPts(2) = 0
@@ -145,30 +197,21 @@ Public Class recording
             selPts(6) = 8
             selPts(7) = 9
             selPts(8) = 0
-            selPts(9) = 0
+            selPts(9) = 14
             selPts(10) = 20
             selPts(11) = 0
-            selPts(12) = 14
-            selPts(13) = 20
+            selPts(12) = 17
+            selPts(13) = 30
             selPts(14) = 0
-            selPts(15) = 5
-            selPts(16) = 30
-            selPts(17) = 0
-            selPts(18) = 17
-            selPts(19) = 30
+            selPts(15) = 14
+            selPts(16) = 40
+            selPts(17) = 1
+            selPts(18) = 14
+            selPts(19) = 50
             selPts(20) = 0
             selPts(21) = 14
-            selPts(22) = 40
-            selPts(23) = 1
-            selPts(24) = 8
-            selPts(25) = 40
-            selPts(26) = 1
-            selPts(27) = 14
-            selPts(28) = 50
-            selPts(29) = 0
-            selPts(30) = 14
-            selPts(31) = 60
-            selPts(32) = 0
+            selPts(22) = 60
+            selPts(23) = 0
             prop(0) = 14
             prop(1) = 0
             prop(2) = 0
@@ -187,66 +230,45 @@ Public Class recording
             prop(15) = 3
             prop(16) = 1.5708
             prop(17) = 4.71239
-            prop(18) = 0
+            prop(18) = 14
             prop(19) = 20
             prop(20) = 0
-            prop(21) = 8
+            prop(21) = 20
             prop(22) = 20
             prop(23) = 0
-            prop(24) = 14
-            prop(25) = 20
+            prop(24) = 11
+            prop(25) = 30
             prop(26) = 0
-            prop(27) = 20
-            prop(28) = 20
+            prop(27) = 6
+            prop(28) = 2
             prop(29) = 0
-            prop(30) = 11
-            prop(31) = 30
-            prop(32) = 0
-            prop(33) = 6
-            prop(34) = 2
-            prop(35) = 0
-            prop(36) = 11
-            prop(37) = 30
+            prop(30) = 14
+            prop(31) = 40
+            prop(32) = 1
+            prop(33) = 20
+            prop(34) = 40
+            prop(35) = 1
+            prop(36) = 14
+            prop(37) = 50
             prop(38) = 0
-            prop(39) = 6
-            prop(40) = 2
+            prop(39) = 16
+            prop(40) = 52
             prop(41) = 0
             prop(42) = 14
-            prop(43) = 40
-            prop(44) = 1
-            prop(45) = 20
-            prop(46) = 40
-            prop(47) = 1
-            prop(48) = 0
-            prop(49) = 40
-            prop(50) = 1
-            prop(51) = 8
-            prop(52) = 40
-            prop(53) = 1
-            prop(54) = 14
-            prop(55) = 50
-            prop(56) = 0
-            prop(57) = 16
-            prop(58) = 52
-            prop(59) = 0
-            prop(60) = 14
-            prop(61) = 60
-            prop(62) = 0
-            prop(63) = 15
-            prop(64) = 61.5
-            prop(65) = 0
-            polyline3d15 = Nothing
-            polyline3d16 = Nothing
-            circlearc10 = Nothing
-            ellipsearc13 = Nothing
-            ellipsearc14 = Nothing
-            line8 = Nothing
-            line9 = Nothing
-            polyline11 = Nothing
-            polyline12 = Nothing
-            ray18 = Nothing
-            spline17 = Nothing
-            For iNewEnt As Integer = 0 To 11 - 1
+            prop(43) = 60
+            prop(44) = 0
+            prop(45) = 15
+            prop(46) = 61.5
+            prop(47) = 0
+            polyline3d18 = Nothing
+            circlearc15 = Nothing
+            ellipsearc17 = Nothing
+            line13 = Nothing
+            line14 = Nothing
+            polyline16 = Nothing
+            ray20 = Nothing
+            spline19 = Nothing
+            For iNewEnt As Integer = 0 To 8 - 1
                 Dim firstPoint As Inkwright.MathPoint = iwMathUtility.CreatePoint(selPts(iNewEnt*3) + epsi, selPts(iNewEnt*3 + 1) + epsi, selPts(iNewEnt*3 + 2))
                 Dim secondPoint As Inkwright.MathPoint = iwMathUtility.CreatePoint(selPts(iNewEnt*3) - epsi, selPts(iNewEnt*3 + 1) - epsi, selPts(iNewEnt*3 + 2))
 
@@ -273,11 +295,8 @@ Public Class recording
                     Math.Abs(secondX - prop(iNewEnt*6 + 3)) < epsi AndAlso _
                     Math.Abs(secondY - prop(iNewEnt*6 + 4)) < epsi AndAlso _
                     Math.Abs(secondZ - prop(iNewEnt*6 + 5)) < epsi Then
-            If iNewEnt = 7 Then
-                polyline3d15 = polyline3d
-            End If
-            If iNewEnt = 8 Then
-                polyline3d16 = polyline3d
+            If iNewEnt = 5 Then
+                polyline3d18 = polyline3d
             End If
                     Exit For
                 End If
@@ -294,7 +313,7 @@ Public Class recording
                     Math.Abs(circlearc.StartAngle - prop(iNewEnt*6 + 4)) < epsi AndAlso _
                     Math.Abs(circlearc.EndAngle - prop(iNewEnt*6 + 5)) < epsi Then
             If iNewEnt = 2 Then
-                circlearc10 = circlearc
+                circlearc15 = circlearc
             End If
                     Exit For
                 End If
@@ -309,11 +328,8 @@ Public Class recording
                     Math.Abs(centerZ - prop(iNewEnt*6 + 2)) < epsi AndAlso _
                     Math.Abs(ellipsearc.MajorRadius - prop(iNewEnt*6 + 3)) < epsi AndAlso _
                     Math.Abs(ellipsearc.MinorRadius - prop(iNewEnt*6 + 4)) < epsi Then
-            If iNewEnt = 5 Then
-                ellipsearc13 = ellipsearc
-            End If
-            If iNewEnt = 6 Then
-                ellipsearc14 = ellipsearc
+            If iNewEnt = 4 Then
+                ellipsearc17 = ellipsearc
             End If
                     Exit For
                 End If
@@ -334,10 +350,10 @@ Public Class recording
                     Math.Abs(secondY - prop(iNewEnt*6 + 4)) < epsi AndAlso _
                     Math.Abs(secondZ - prop(iNewEnt*6 + 5)) < epsi Then
             If iNewEnt = 0 Then
-                line8 = line
+                line13 = line
             End If
             If iNewEnt = 1 Then
-                line9 = line
+                line14 = line
             End If
                     Exit For
                 End If
@@ -354,10 +370,7 @@ Public Class recording
                     Math.Abs(secondX - prop(iNewEnt*6 + 3)) < epsi AndAlso _
                     Math.Abs(secondY - prop(iNewEnt*6 + 4)) < epsi Then
             If iNewEnt = 3 Then
-                polyline11 = polyline
-            End If
-            If iNewEnt = 4 Then
-                polyline12 = polyline
+                polyline16 = polyline
             End If
                     Exit For
                 End If
@@ -377,8 +390,8 @@ Public Class recording
                     Math.Abs(throughX - prop(iNewEnt*6 + 3)) < epsi AndAlso _
                     Math.Abs(throughY - prop(iNewEnt*6 + 4)) < epsi AndAlso _
                     Math.Abs(throughZ - prop(iNewEnt*6 + 5)) < epsi Then
-            If iNewEnt = 10 Then
-                ray18 = ray
+            If iNewEnt = 7 Then
+                ray20 = ray
             End If
                     Exit For
                 End If
@@ -398,8 +411,8 @@ Public Class recording
                     Math.Abs(secondX - prop(iNewEnt*6 + 3)) < epsi AndAlso _
                     Math.Abs(secondY - prop(iNewEnt*6 + 4)) < epsi AndAlso _
                     Math.Abs(secondZ - prop(iNewEnt*6 + 5)) < epsi Then
-            If iNewEnt = 9 Then
-                spline17 = spline
+            If iNewEnt = 6 Then
+                spline19 = spline
             End If
                     Exit For
                 End If
@@ -414,17 +427,17 @@ Public Class recording
         If 1 Then
             ' AcDbLine object modified
             If 1 Then
-                line8.Layer = "Walls"
+                line13.Layer = "Walls"
             End If
 
             ' AcDbArc object modified
             If 1 Then
-                circlearc10.Layer = "Walls"
+                circlearc15.Layer = "Walls"
             End If
 
             ' AcDbPolyline object modified
             If 1 Then
-                polyline12.Layer = "Walls"
+                polyline16.Layer = "Walls"
             End If
 
         End If
@@ -432,18 +445,18 @@ Public Class recording
         If 1 Then
             ' AcDbEllipse object modified
             If 1 Then
-                ellipsearc14.Layer = "Axes"
+                ellipsearc17.Layer = "Axes"
             End If
 
             ' AcDb3dPolyline object modified
             If 1 Then
-                polyline3d15.Layer = "Axes"
+                polyline3d18.Layer = "Axes"
             End If
 
         End If
 
         If 1 Then
-            line9.Erased = True
+            line14.Erased = True
         End If
 
         If 1 Then
@@ -456,7 +469,7 @@ Public Class recording
             BoundaryEntitiesArray0( 0 ) = New DispatchWrapper( line6 )
 
             EntitiesToExtendArray0( 0 ) = New DispatchWrapper( line1 )
-            EntitiesToExtendArray0( 1 ) = New DispatchWrapper( circlearc10 )
+            EntitiesToExtendArray0( 1 ) = New DispatchWrapper( circlearc15 )
 
             PointOnEntityDblArray0( 0 ) = 7.5
             PointOnEntityDblArray0( 1 ) = 0
@@ -529,9 +542,9 @@ Public Class recording
             firstEntityArray1 = New DispatchWrapper( 0 ) {}
             secondEntityArray1 = New DispatchWrapper( 0 ) {}
 
-            firstEntityArray1( 0 ) = New DispatchWrapper( circlearc10 )
+            firstEntityArray1( 0 ) = New DispatchWrapper( circlearc15 )
 
-            secondEntityArray1( 0 ) = New DispatchWrapper( polyline12 )
+            secondEntityArray1( 0 ) = New DispatchWrapper( polyline16 )
 
             firstPointOnEntityDblArray1( 0 ) = 5
             firstPointOnEntityDblArray1( 1 ) = 6
