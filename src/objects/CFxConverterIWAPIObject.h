@@ -124,6 +124,7 @@ private:
                           const CFxVariant& erased);
 
     std::map<OdDbObjectId, QString> addedVariableById;
+    OdDbHandle changedHandle; ///< of the object whose changes are being converted
     // What tables were made and changed to so far, by their variables.
     std::map<CFxString, std::int32_t> tableRowCounts;
     std::map<CFxString, std::int32_t> tableColumnCounts;
