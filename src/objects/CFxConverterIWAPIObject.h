@@ -14,6 +14,7 @@ class ChangeGroups;
 class CFxConverterIWAPIImpl;
 class StatementGroup;
 struct ClassRow;
+struct TableLines;
 class Writer;
 
 /// Whether that file of line type shapes comes with the host, which then needs no statement to load it.
@@ -72,6 +73,8 @@ public:
 
     // Changes that are more than a list of tags: ChangeHandler in objects/classTable.h.
     void ConvertModifiedLine(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedBlockInstance(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedTable(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
 
     /// Takes the first record with that tag out of the list and gives its value, or the null value. The record's tag
     /// may be in the host's display language. `consumed` and `index` may be null; they receive the record, and its
@@ -109,6 +112,8 @@ private:
         bool searchesGroup;
     };
     const TagWords& WordsOf(const CFxString& tag);
+    /// The group of block attributes, in the host's display language.
+    const QString& BlockAttributes();
 
     // Steps of ConvertObjectChanges.
     bool AddressChangedObject(const OdRxClass* cls, const OdDbHandle& handle, const OdDbObjectId& noteLeader,
@@ -117,6 +122,15 @@ private:
                              QString& text);
     QString ConvertErased(const OdRxClass* cls, const OdDbHandle& handle, const CFxString& name,
                           const CFxVariant& erased);
+
+    // Steps of ConvertModifiedTable.
+    bool ConvertTableCount(const TableLines& lines, PropertyList& list, bool takeOnly, const CFxString& name,
+                           QString& text);
+    bool ConvertTableSizes(const TableLines& lines, PropertyList& list, bool takeOnly, const CFxString& name,
+                           QString& text);
+    bool ConvertCellTexts(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertTableSize(const TableLines& lines, PropertyList& list, bool takeOnly, bool told, const CFxString& name,
+                          QString& text);
 
     std::map<OdDbObjectId, QString> addedVariableById;
     // What tables were made and changed to so far, by their variables.
@@ -127,6 +141,6 @@ private:
     CFxConverterIWAPIImpl& driver;
     Writer& writer; ///< the driver's
 
-    QString blockAttributes; ///< the group of block attributes, in the host's display language
+    QString blockAttributes; ///< null until it is asked for
     QHash<QString, TagWords> tagWords;
 };
