@@ -13,9 +13,10 @@
 class ChangeGroups;
 class CFxConverterIWAPIImpl;
 class StatementGroup;
-struct ClassRow;
 struct TableLines;
 class Writer;
+struct BoundaryObject;
+struct ClassRow;
 
 /// Whether that file of line type shapes comes with the host, which then needs no statement to load it.
 bool IsHostShapeFile(const CFxString& fileName);
@@ -32,6 +33,11 @@ CFxString ShownWord(const char* word);
 CFxString ElementText(const CFxVariant& value);
 /// The text of the chosen item, whether it came alone or among all items; nothing for any other value.
 std::optional<CFxString> ChosenText(const CFxVariant& value);
+/// The word of a value, whether it is plain text or the chosen one of several items.
+inline CFxString wordOf(const CFxVariant& value)
+{
+    return ChosenText(value).value_or(value.GetString());
+}
 
 /// Turns recorded objects into statements, from their property records alone. Knows no target: the words come from the
 /// Emit operations. Lives as long as one conversion; its driver owns it.
@@ -75,6 +81,7 @@ public:
     void ConvertModifiedLine(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
     void ConvertModifiedBlockInstance(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
     void ConvertModifiedTable(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedHatch(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
 
     /// Takes the first record with that tag out of the list and gives its value, or the null value. The record's tag
     /// may be in the host's display language. `consumed` and `index` may be null; they receive the record, and its
@@ -96,6 +103,9 @@ public:
     QString ObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
     /// The variable of an object that was added before; empty for any other. Takes no number.
     QString AddedVariable(const OdDbObjectId& id) const;
+    /// The objects that a hatch's boundary follows, erased ones included and each of them once, with the variables of
+    /// those that were added before. Raises an OdError for an object that the drawing does not have.
+    std::vector<BoundaryObject> BoundaryObjects(const OdArray<OdDbObjectId>& ids) const;
 
 private:
     /// The id of the object in the active drawing; null without one.
@@ -133,6 +143,7 @@ private:
                           QString& text);
 
     std::map<OdDbObjectId, QString> addedVariableById;
+    OdDbHandle changedHandle; ///< of the object whose changes are being converted
     // What tables were made and changed to so far, by their variables.
     std::map<CFxString, std::int32_t> tableRowCounts;
     std::map<CFxString, std::int32_t> tableColumnCounts;
