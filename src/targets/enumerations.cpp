@@ -79,6 +79,9 @@ const ValueEnumeration dualDimensionFormat{"iwDualDimensionFormat",
 const ValueEnumeration dualDimensionInsertPlacement{
     "iwDualDimensionInsertPlacement", 0, {"BelowPrimaryUnits", "AfterPrimaryUnits"}};
 
+const ValueEnumeration hatchPatternInternalRegionDetection{
+    "iwHatchPatternInternalRegionDetection", 1, {"Normal", "Outer", "Ignore"}};
+
 const ValueEnumeration leaderType{
     "iwLeaderType", 0, {"LineWithNoArrow", "SplineWithNoArrow", "LineWithArrow", "SplineWithArrow"}};
 

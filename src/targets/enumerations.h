@@ -53,6 +53,7 @@ extern const ValueEnumeration dimensionTextHorizontalPosition;
 extern const ValueEnumeration dimensionTextVerticalPosition;
 extern const ValueEnumeration dualDimensionFormat;
 extern const ValueEnumeration dualDimensionInsertPlacement;
+extern const ValueEnumeration hatchPatternInternalRegionDetection;
 extern const ValueEnumeration leaderType;
 extern const ValueEnumeration linearDimensionFormat;
 extern const ValueEnumeration linearDimensionFractionalDisplay;

@@ -30,3 +30,4 @@ QString ReadOrdinateDimension(AddedObject& added);
 QString ReadRadialDimension(AddedObject& added);
 QString ReadJoggedDimension(AddedObject& added);
 QString ReadRotatedDimension(AddedObject& added);
+QString ReadHatch(AddedObject& added);
