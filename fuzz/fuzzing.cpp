@@ -1,8 +1,8 @@
 #include "fuzzing.h"
 
-#include "app/OpenDrawing.h"
 #include "frame/CFxConverterIWAPI.h"
 #include "frame/RecordingState.h"
+#include "recordfile/OpenDrawing.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>

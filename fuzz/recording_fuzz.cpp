@@ -2,9 +2,9 @@
 
 #include "fuzzing.h"
 
-#include "app/OpenDrawing.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/snapshot.h"
+#include "recordfile/OpenDrawing.h"
 #include "recordfile/RecordingWriter.h"
 
 #include <QBuffer>

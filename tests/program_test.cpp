@@ -71,6 +71,15 @@ TEST_F(Program, OneFailureDoesNotStopTheOthers)
                            "out/d/csharp/d.cs\nout/d/csharp/Program.cs\nout/d/csharp/d.csproj\n");
 }
 
+TEST_F(Program, TellsOfAStatementThatOutgrowsEveryBound)
+{
+    const QString recording = QStringLiteral(INKMACRO_SOURCE_DIR "/fuzz/found/many_markers.jsonl");
+    const Outcome outcome = run({"convert", recording, "--target", "vba", "--output", "out/"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(outcome.err.contains("many_markers.jsonl to vba: a statement would be longer than 256 MiB\n"));
+    EXPECT_FALSE(exists("out/vba/many_markers.bas"));
+}
+
 TEST_F(Program, ComplainsOfARecordingOnceForAllTargets)
 {
     write("c.jsonl", "{\"undo\":1}\n");

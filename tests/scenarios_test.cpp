@@ -1,9 +1,9 @@
 // Whole recordings, each converted for each target and compared byte for byte with the files beside it.
 
-#include "app/OpenDrawing.h"
 #include "frame/CFxConverterIWAPI.h"
 #include "frame/RecordingState.h"
 #include "frame/counters.h"
+#include "recordfile/OpenDrawing.h"
 #include "recordfile/RecordingReader.h"
 #include "targets/Phrase.h"
 #include "targets/TargetTable.h"

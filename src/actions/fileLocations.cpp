@@ -4,11 +4,11 @@
 #include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
+#include "frame/StatementGroup.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/setters.h"
 #include "targets/LineEnd.h"
 #include "targets/Target.h"
-#include "targets/blocks.h"
 
 #include <algorithm>
 #include <span>
@@ -98,14 +98,15 @@ std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files,
     const CFxString property = propertyOf(files, action.GetData(0).GetString());
     const CFxCustomActionData& value = action.GetData(1);
 
-    text = EmitBlockBegin(writer);
+    StatementGroup group(writer);
+    text = group.begin();
     CFxString variable;
     text += files.emitObject(writer, variable);
     if (value.GetType() == CFxCustomActionData::kString)
         text += EmitSetProperty(writer, variable, property, quotable(value.GetString()), true);
     else if (value.GetType() == CFxCustomActionData::kStringArray)
         text += EmitFileLocationArray(writer, variable, property, value.GetStringArray());
-    text += EmitBlockEnd(writer) + LineEnd;
+    text += group.close() + LineEnd;
     return kFxSuccess;
 }
 

@@ -4,7 +4,6 @@
 
 #include "app/ExitStatus.h"
 #include "app/LoadedModule.h"
-#include "app/OpenDrawing.h"
 #include "app/ProgressLine.h"
 #include "app/StagedResult.h"
 #include "app/console.h"
@@ -13,6 +12,7 @@
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxRegistry.h"
 #include "host/kernel/CFxServices.h"
+#include "recordfile/OpenDrawing.h"
 
 #include <QFileInfo>
 
@@ -77,6 +77,8 @@ int convertRead(const Job& job, const Recording& recording, const HostSettings& 
 {
     StagedResult result(job);
     const std::int32_t status = runModule(job, result.macro(), recording, host);
+    for (const CFxString& problem : GetFxSystemServices()->GetProblems())
+        complain(QString("%1 to %2: %3").arg(job.input, targetName(*job.target), problem));
     if (status != kFxSuccess) {
         complain(QString("conversion to %1 failed with status %2: %3")
                      .arg(targetName(*job.target))

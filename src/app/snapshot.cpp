@@ -2,11 +2,11 @@
 
 #include "app/ExitStatus.h"
 #include "app/LoadedModule.h"
-#include "app/OpenDrawing.h"
 #include "app/console.h"
 #include "app/reading.h"
 #include "app/valueText.h"
 #include "host/db/OdDbClasses.h"
+#include "recordfile/OpenDrawing.h"
 #include "recordfile/Pieces.h"
 
 #include <QJsonArray>

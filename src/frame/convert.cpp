@@ -22,6 +22,14 @@ bool wantsByteOrderMark()
     return (RecordingLanguage() & ~4) == 0;
 }
 
+/// Of what is thrown below the user hears only that a text outgrew every bound; else the status is all.
+std::int32_t failed(const OdError& error)
+{
+    if (error.code() == eTextTooLong)
+        GetFxSystemServices()->ReportProblem(QString(error.what()));
+    return kFxFailure;
+}
+
 bool isSysVar(const OdRxObjectPtr& action)
 {
     return !odrxQuery<CFxSysVarChanged>(action.get()).isNull();
@@ -63,9 +71,12 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     // Written after a failure too, when the level may be out of balance: nobody reads that text.
     stream << EmitFileFooter();
     stream.flush();
-    if (stream.status() != QTextStream::Ok || file.error() != QFileDevice::NoError)
-        status = kFxFailure;
+    bool written = stream.status() == QTextStream::Ok && file.error() == QFileDevice::NoError;
+    // Some file systems tell only who closes a file that it was not written. A close that goes well forgets the rest.
     file.close();
+    written = written && file.error() == QFileDevice::NoError;
+    if (!written)
+        status = kFxFailure;
 
     if (status != kFxSuccess) {
         file.remove();
@@ -80,8 +91,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const O
         try {
             const OdResBufPtr line = command->GetCommand();
             return ConvertCommand(stream, line ? line->getString() : OdString(), command->GetActions());
-        } catch (const OdError&) {
-            return kFxFailure;
+        } catch (const OdError& error) {
+            return failed(error);
         }
     }
     if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
@@ -114,8 +125,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertAction(OdRxObjectPtr action, QString&
             return mode == 1 ? ConvertSelection(std::move(selection), text) : kFxSuccess;
         if (auto custom = odrxQuery<CFxCustomAction>(object))
             return ConvertCustomAction(std::move(custom), text);
-    } catch (const OdError&) {
-        return kFxFailure;
+    } catch (const OdError& error) {
+        return failed(error);
     }
     return kFxFailure;
 }

@@ -13,9 +13,10 @@
 struct BlockContents;
 class ChangeGroups;
 class CFxConverterIWAPIImpl;
+class StatementGroup;
+class Writer;
 struct BoundaryObject;
 struct ClassRow;
-class Writer;
 
 /// Which part of a collection's elements holds the handles.
 enum class HandlesIn
@@ -64,10 +65,10 @@ public:
     /// Statements for the properties that changed, or for what an added object's reader left. Empties `text` first.
     std::int32_t ConvertObjectChanges(const OdRxClass* cls, OdDbHandle handle, PropertyList& list, bool fromAdded,
                                       QString& text);
-    /// The properties that entities of all classes have. Sets `noGroup`, and takes back the level of the group that was
-    /// begun, when the statements declare what must be seen behind the group.
+    /// The properties that entities of all classes have. Abandons the group that was begun, when the statements declare
+    /// what must be seen behind it.
     std::int32_t ConvertGeneralProperties(PropertyList& list, bool fromAdded, bool isCurvedText,
-                                          const CFxString& target, bool& noGroup, QString& text);
+                                          const CFxString& target, StatementGroup& group, QString& text);
 
     /// Statements for the tags of a list, in its order: takes them out of `list` and appends to `text`. With `takeOnly`
     /// it writes nothing. `name` is the object's variable.

@@ -2,13 +2,13 @@
 
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
+#include "frame/StatementGroup.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
 #include "objects/targets/dimensionOptions.h"
 #include "objects/targets/references.h"
 #include "objects/targets/setters.h"
-#include "targets/blocks.h"
 
 #include <algorithm>
 
@@ -36,15 +36,14 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls,
     if (!AddressChangedObject(cls, handle, noteLeader, list, name, text))
         return kFxSuccess;
 
-    const QString opening = EmitBlockBegin(writer);
+    StatementGroup group(writer);
     QString general;
     QString classText;
-    bool noGroup = false;
     if (cls->isDerivedFrom(OdDbEntity::desc())) {
         CFxString target = name;
         const QString dimension =
             IsDimensionClass(cls) ? EmitGetOptions(writer, generalDimension, name, target) : QString();
-        ConvertGeneralProperties(list, fromAdded, cls == OdDbArcAlignedText::desc(), target, noGroup, general);
+        ConvertGeneralProperties(list, fromAdded, cls == OdDbArcAlignedText::desc(), target, group, general);
         if (!general.isEmpty())
             general.prepend(dimension);
     }
@@ -56,15 +55,15 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls,
 
     if (general.isEmpty() && classText.isEmpty()) {
         // Who left the group has given its level back already.
-        if (RecordingLanguage() != kJavaScript && !noGroup)
-            --writer.IndentLevel;
+        if (RecordingLanguage() != kJavaScript && !group.abandoned())
+            group.abandon();
         // The fetch of a note stands there for what follows it.
         if (!noteLeader.isNull())
             text.clear();
-    } else if (noGroup) {
+    } else if (group.abandoned()) {
         text += general + classText;
     } else {
-        text += opening + general + classText + EmitBlockEnd(writer);
+        text += group.begin() + general + classText + group.close();
     }
     return kFxSuccess;
 }
@@ -131,9 +130,9 @@ QString CFxConverterIWAPIObject::ConvertErased(const OdRxClass* cls, const OdDbH
 }
 
 std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& list, bool fromAdded, bool isCurvedText,
-                                                               const CFxString& target, bool& noGroup, QString& text)
+                                                               const CFxString& target, StatementGroup& group,
+                                                               QString& text)
 {
-    noGroup = false;
     CFxVariant value;
     // Asked for each object: the tags are made once.
     const auto take = [&](const QString& tag) {
@@ -141,10 +140,8 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         return !value.IsNull();
     };
     const auto leaveGroup = [&] {
-        if (noGroup || RecordingLanguage() == kJavaScript)
-            return;
-        --writer.IndentLevel;
-        noGroup = true;
+        if (!group.abandoned() && RecordingLanguage() != kJavaScript)
+            group.abandon();
     };
 
     if (take(QStringLiteral("LineColor"))) {

@@ -36,7 +36,7 @@ static const Phrase eraseEntity{"EmitEraseEntities",
                                     .cppCom = "%1%2->put_Erased( true );\n",
                                     .csharp = "%1%2.Erased = true;\n",
                                     .javascript = "%1%2.put_Erased(true);\n",
-                                    .vbNet = "%1%2.Erased = true\n",
+                                    .vbNet = "%1%2.Erased = True\n",
                                     .vba = "%1%2.Erased = True\n",
                                 }};
 
@@ -190,7 +190,8 @@ static const Phrase insertViewport{
         .vbNet = "%1Dim %4 As Inkwright.Viewport = Nothing%2"
                  "%1Dim sheetsArray%3 As Inkwright.Sheet = iwDoc.GetSheet(\"%5\")%2"
                  "%1If sheetsArray%3 IsNot Nothing Then%2"
-                 "%1     %4 = sheetsArray%3.InsertViewport( New Double(){%6} )%2%1End If%2",
+                 "%1    Dim Coordinates%3(%7) As Double%2%6"
+                 "%1     %4 = sheetsArray%3.InsertViewport( Coordinates%3 )%2%1End If%2",
         .vba = "%1Dim %4 As Inkwright.Viewport%2%1Dim sheetsArray%3 As Inkwright.Sheet%2"
                "%1Set sheetsArray%3 = iwDoc.GetSheet(\"%5\")%2%1If Not sheetsArray%3 Is Nothing Then%2"
                "%1    Dim Coordinates%3(%7) As Double%2%6"
@@ -201,8 +202,7 @@ QString EmitInsertViewport(Writer& writer, const CFxString& variable, const CFxS
                            const OdArray<OdGePoint3d>& points)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
-    const bool listed =
-        writer.target == Target::CSharp || writer.target == Target::JavaScript || writer.target == Target::VbNet;
+    const bool listed = writer.target == Target::CSharp || writer.target == Target::JavaScript;
     const char* const name = writer.target == Target::CppCom ? "variant" : "Coordinates";
     ArrayPlace place(writer, name + QString::number(number), number);
     place.indentation += QLatin1String("    ");

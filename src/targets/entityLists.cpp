@@ -87,7 +87,8 @@ static const Phrase lookUpType{"EmitCopyEntities",
 static const Phrase lookUpObject{
     "EmitCopyEntities",
     {
-        .cpp = "%1iwObject* iwObjForCopy%2;\n%1iwDoc->GetObjectByHandle(L\"%3\", &iwTypeForCopy%2, &iwObjForCopy%2);\n",
+        .cpp =
+            "%1iwObject_ptr iwObjForCopy%2;\n%1iwDoc->GetObjectByHandle(L\"%3\", &iwTypeForCopy%2, &iwObjForCopy%2);\n",
         .cppCom = "%1IDispatchPtr iwObjForCopy%3 = pConnection->m_IwApp->GetActiveDocument()->"
                   "GetObjectByHandle(L\"%4\", &iwTypeForCopy%3);%2",
         .csharp = "%1Object iwObjForCopy%2 = iwApp.GetActiveDocument().GetObjectByHandle(\"%3\", "
@@ -252,8 +253,8 @@ static const Phrase stretchHead{
         .javascript = "%1var iwEntities%2;\n%1var crossingBoxStartCorner%2;\n%1var crossingBoxEndCorner%2;\n\n",
         .vbNet = "%1Dim iwEntities%3 As DispatchWrapper()%2%1Dim crossingBoxStartCorner%3 As Double()%2"
                  "%1Dim crossingBoxEndCorner%3 As Double()%2%2",
-        .vba = "%1Dim iwEntities%3( %4 ) As Object%2%1Dim crossingBoxStartCorner%3( 2 ) As Double%2"
-               "%1Dim crossingBoxEndCorner%3( 2 ) As Double%2%2",
+        .vba = "%1Dim iwEntities%3( %4 ) As Object%2%1Dim crossingBoxStartCorner%3(2) As Double%2"
+               "%1Dim crossingBoxEndCorner%3(2) As Double%2%2",
     }};
 
 static const Phrase stretchSize{"EmitStretchEntities",
@@ -271,8 +272,8 @@ static const Phrase stretchStart{
         .csharp = "%1crossingBoxStartCorner%2 = new double[] { %3, %4, %5};\n",
         .javascript = "%1crossingBoxStartCorner%2 = new Array( %3, %4, %5);\n",
         .vbNet = "%1crossingBoxStartCorner%3 = New Double() { %4, %5, %6}%2",
-        .vba = "%1crossingBoxStartCorner%3( 0 ) = %4%2%1crossingBoxStartCorner%3( 1 ) = %5%2"
-               "%1crossingBoxStartCorner%3( 2 ) = %6%2",
+        .vba = "%1crossingBoxStartCorner%3(0) = %4%2%1crossingBoxStartCorner%3(1) = %5%2"
+               "%1crossingBoxStartCorner%3(2) = %6%2",
     }};
 
 static const Phrase stretchEnd{
@@ -282,8 +283,8 @@ static const Phrase stretchEnd{
         .csharp = "%1crossingBoxEndCorner%2 = new double[] { %3, %4, %5};\n\n",
         .javascript = "%1crossingBoxEndCorner%2 = new Array( %3, %4, %5);\n\n",
         .vbNet = "%1crossingBoxEndCorner%3 = New Double() { %4, %5, %6}%2%2",
-        .vba = "%1crossingBoxEndCorner%3( 0 ) = %4%2%1crossingBoxEndCorner%3( 1 ) = %5%2"
-               "%1crossingBoxEndCorner%3( 2 ) = %6%2%2",
+        .vba = "%1crossingBoxEndCorner%3(0) = %4%2%1crossingBoxEndCorner%3(1) = %5%2"
+               "%1crossingBoxEndCorner%3(2) = %6%2%2",
     }};
 
 static QString crossingBox(Writer& writer, const OdGePoint3d& start, const OdGePoint3d& end)

@@ -77,7 +77,7 @@ static const Phrase hatchByPolyline{
                "%1Set %7 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
     }};
 
-static const Phrase eraseBoundaryPolyline{"EmitHatchByPolyline",
+static const Phrase eraseBoundaryPolyline{"EmitHatchByPolyline: erasure",
                                           {
                                               .cpp = "%2%1%3->put_Erased( %4 );%2",
                                               .cppCom = "%2%1%3->put_Erased( %4 );%2",
@@ -128,16 +128,16 @@ static constexpr Words withCpp(Words words, const char* cpp)
 }
 
 static const Phrase firstIndexedColor{
-    "EmitHatchGradient",
+    "EmitHatchGradient: indexed color",
     withCpp(indexedColor, "%2%1iwColor_ptr iwColor1%3;%2%1m_pIwApp->GetColorByIndex( %4, &iwColor1%3 );%2%2")};
 static const Phrase secondIndexedColor{
-    "EmitHatchGradient",
+    "EmitHatchGradient: indexed color",
     withCpp(indexedColor, "%2%1iwColor_ptr iwColor2%3;%2%1m_pIwApp->GetColorByIndex( %4, &iwColor2%3 );%2%2")};
 static const Phrase firstRgbColor{
-    "EmitHatchGradient",
+    "EmitHatchGradient: true color",
     withCpp(rgbColor, "%2%1iwColor_ptr iwColor1%3;%2%1m_pIwApp->GetRGBColor( %4, %5, %6, &iwColor1%3 );%2%2")};
 static const Phrase secondRgbColor{
-    "EmitHatchGradient",
+    "EmitHatchGradient: true color",
     withCpp(rgbColor, "%2%1iwColor_ptr iwColor2%3;%2%1m_pIwApp->GetRGBColor( %4, %5, %6, &iwColor2%3 );%2%2")};
 
 /// A color by layer or by block counts as black.

@@ -46,7 +46,7 @@ static const Phrase promptSelection{
     "EmitPromptSelection",
     {
         .cpp =
-            "%1iwObjectType_e type%3;%2%1iwObject* object%3 = NULL;%2%1iwLongArray types%3;%2%4"
+            "%1iwObjectType_e type%3;%2%1iwObject_ptr object%3;%2%1iwLongArray types%3;%2%4"
             "%1iwObjectPtrArray entities%3;%2%5%1iwCommandMessage_c* cmdMesage%3;%2"
             "%1m_pIwApp->GetCommandMessage(&cmdMesage%3);%2"
             "%1cmdMesage%3->PromptForSelection(false, L\"%6\", L\"\");%2%1{%2"

@@ -76,8 +76,6 @@ class Sources:
     def add(self, cls, operation, arguments, properties):
         recorded = _recorded(properties)
         for place, argument in _leaves(arguments, ""):
-            if str(argument).startswith("@"):
-                continue  # an object
             self._seen.setdefault((cls, operation, place), []).append((argument, recorded))
 
     @staticmethod

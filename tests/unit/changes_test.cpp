@@ -235,7 +235,7 @@ TEST_F(Changes, ThatEraseFollowTheClass)
             .cpp = "    {\n        iwline1->put_Erased( true );\n    }\n",
             .cppCom = "    {\n        line1->put_Erased( true );\n    }\n",
             .csharp = "    {\n        line1.Erased = true;\n    }\n",
-            .javascript = "    line1.put_Erased( true );\n",
+            .javascript = "    line1.put_Erased(true);\n",
             .vbNet = "    If 1 Then\n        line1.Erased = True\n    End If\n\n",
             .vba = "    If 1 Then\n        line1.Erased = True\n    End If\n\n",
         },
@@ -342,15 +342,15 @@ TEST(Setters, WriteAPropertyInTheFormOfTheirTarget)
     expectInAllTargets({"    a->put_P( L\"x\" );\n", "    a->put_P( L\"x\" );\n", "    a.P = \"x\";\n",
                         "    a.put_P (\"x\");\n", "    a.P = \"x\"\n", "    a.P = \"x\"\n"},
                        [](TestTarget& made) { return EmitSetProperty(made.writer, "a", "P", "x", true); });
-    expectInAllTargets({"    a->put_P( x );\n", "    a->put_P( x );\n", "    a.P = x;\n", "    a.put_P( x );\n",
+    expectInAllTargets({"    a->put_P( x );\n", "    a->put_P( x );\n", "    a.P = x;\n", "    a.put_P(x);\n",
                         "    a.P = x\n", "    a.P = x\n"},
                        [](TestTarget& made) { return EmitSetProperty(made.writer, "a", "P", "x", false); });
     expectInAllTargets({"    a->put_P( 1.50000000000000 );\n", "    a->put_P( 1.50000000000000 );\n",
-                        "    a.P = 1.50000000000000;\n", "    a.put_P( 1.50000000000000 );\n",
+                        "    a.P = 1.50000000000000;\n", "    a.put_P(1.50000000000000);\n",
                         "    a.P = 1.50000000000000\n", "    a.P = 1.50000000000000\n"},
                        [](TestTarget& made) { return EmitSetDoubleProperty(made.writer, "a", "P", 1.5); });
     expectInAllTargets({"    a->put_P( false );\n", "    a->put_P( false );\n", "    a.P = false;\n",
-                        "    a.put_P( false );\n", "    a.P = False\n", "    a.P = False\n"},
+                        "    a.put_P(false);\n", "    a.P = False\n", "    a.P = False\n"},
                        [](TestTarget& made) { return EmitSetBoolProperty(made.writer, "a", "P", false); });
     expectInAllTargets(
         {"    iwColor_ptr iwColor1;\n    m_pIwApp->GetRGBColor( 1, 2, 255, &iwColor1 );\n"

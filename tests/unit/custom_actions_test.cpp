@@ -68,24 +68,10 @@ TEST_F(CustomActions, WithoutAHandlerAreRefused)
     EXPECT_FALSE(conversion.body().contains("line2 = "));
 }
 
-TEST_F(CustomActions, OfAnotherKindAreRefusedByTheHandlersThemselves)
-{
-    using Impl = CFxConverterIWAPIImpl;
-    for (const auto handler :
-         {&Impl::ConvertActionMirror,      &Impl::ConvertActionStretch,         &Impl::ConvertActionCopy,
-          &Impl::ConvertActionMove,        &Impl::ConvertActionRotate,          &Impl::ConvertActionScale,
-          &Impl::ConvertActionSelect,      &Impl::ConvertActionSelectionFilter, &Impl::ConvertActionEmbeddedObject,
-          &Impl::ConvertActionErase,       &Impl::ConvertActionOptionValue,     &Impl::ConvertActionGroupAdd,
-          &Impl::ConvertActionGroupRemove, &Impl::ConvertActionAttributeValue,  &Impl::ConvertActionRegion,
-          &Impl::ConvertActionActivate,    &Impl::ConvertActionViewport,        &Impl::ConvertActionPrintStyle,
-          &Impl::ConvertActionJoin,        &Impl::ConvertActionExplode})
-        EXPECT_EQ((driver.*handler)(odrxNew<TestCustom>(20), text), kFxFailure);
-    EXPECT_EQ(driver.ConvertActionElementColor(odrxNew<TestCustom>(99, TestData{1, OdCmColor()}), text), kFxSuccess);
-}
-
 TEST_F(CustomActions, FailWhenTheirElementsDoNotFit)
 {
-    const Handles two{OdDbHandle(0x1a), OdDbHandle(0x2b)};
+    // The second object is known, and its class is missing.
+    const Handles two{OdDbHandle(0x2b), OdDbHandle(0x1a)};
     const Classes one{cls("AcDbLine")};
     const CFxString word("a");
     const std::vector<std::pair<std::int32_t, TestData>> failing{
@@ -121,6 +107,13 @@ TEST_F(CustomActions, FailWhenTheirElementsDoNotFit)
     };
     for (const auto& [kind, data] : failing)
         EXPECT_EQ(convert(kind, data), kFxFailure) << kind << " with " << data.size();
+
+    // The class of an object that the macro does not know is never asked for, a value of no option is not read.
+    const Handles unknownLast{OdDbHandle(0x1a), OdDbHandle(0x2b)};
+    EXPECT_EQ(convert(2, {unknownLast, one, OdGeVector3d()}), kFxSuccess);
+    EXPECT_EQ(convert(44, {unknownLast, one}), kFxSuccess);
+    EXPECT_EQ(convert(33, {CFxString("NOSUCHVARIABLE")}), kFxSuccess);
+    EXPECT_EQ(convert(46, {Points(), Points(), true, OdDbHandle(0x3c), cls("AcDbProxyEntity")}, ""), kFxSuccess);
 }
 
 TEST_F(CustomActions, MayHaveNothingToSay)

@@ -146,8 +146,9 @@ TEST_F(AddedDimensions, ThatAreNotInTheDrawingAreTurnedAllTheSame)
          {"AcDbArcDimension", "AcDbDiametricDimension", "AcDbRadialDimension", "AcDbRadialDimensionLarge"}) {
         TestTarget target(Target::CSharp);
         const QString text = add(cls, 0x70, rotation, target);
-        EXPECT_TRUE(text.startsWith(" GeneralDimension generalDimension1 = ")) << cls << text;
-        EXPECT_TRUE(text.endsWith("\n generalDimension1.TextRotation = 0.50000000000000;\n")) << cls << text;
+        EXPECT_TRUE(text.startsWith(" GeneralDimension generalDimension1 = ")) << cls << text.toStdString();
+        EXPECT_TRUE(text.endsWith("\n generalDimension1.TextRotation = 0.50000000000000;\n"))
+            << cls << text.toStdString();
     }
     TestTarget target(Target::CSharp);
     EXPECT_TRUE(add("AcDb3PointAngularDimension", 0x71, {}, target).contains("InsertAngularDimension3Point("));

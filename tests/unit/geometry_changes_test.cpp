@@ -126,8 +126,8 @@ TEST(GeometryChanges, ReadTheChosenWord)
     const auto smooth = [](const CFxVariant& value) {
         return changed("AcDb3dPolyline", {record("Fit/Smooth", value)}, Target::JavaScript);
     };
-    EXPECT_EQ(smooth(choice(1)), " it1.put_FitSmooth( \"iwPolyLine3DFitSmooth_Qudratic\" );\n");
-    EXPECT_EQ(smooth(item(0, "cubic")), " it1.put_FitSmooth( \"iwPolyLine3DFitSmooth_Cubic\" );\n");
+    EXPECT_EQ(smooth(choice(1)), " it1.put_FitSmooth(\"iwPolyLine3DFitSmooth_Qudratic\");\n");
+    EXPECT_EQ(smooth(item(0, "cubic")), " it1.put_FitSmooth(\"iwPolyLine3DFitSmooth_Cubic\");\n");
     for (const CFxVariant& none : {choice(2), choice(-1), CFxVariant(CFxString("Cubic"))})
         EXPECT_EQ(smooth(none), "");
 

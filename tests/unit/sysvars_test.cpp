@@ -496,10 +496,6 @@ TEST_F(SysVars, SetFileLocationsByTheirKey)
                    QString::number(array) +
                    " = new string[] { sFontsPaths_0 };\n        iwSystemFiles_#.FontsPaths = " + "sArrayFontsPaths_" +
                    QString::number(array) + ";\n" + end);
-
-    QString text = "kept";
-    EXPECT_EQ(target.driver.ConvertActionSystemFile(odrxNew<ChangedLocation>(34, "", CFxString()), text), kFxFailure);
-    EXPECT_EQ(text, "kept");
 }
 
 TEST_F(SysVars, NumberFileObjectsOverConversionsAndForEachTarget)

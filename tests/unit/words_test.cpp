@@ -173,6 +173,19 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"array of integers", {CSharp, JavaScript}},
         {"array of points", {CSharp, JavaScript}},
         {"array of plane points", {CSharp, JavaScript}},
+        // COM draws the lines of an angle within its insertion.
+        {"EmitInsertAngularDimension2Line: temporary line", {CppCom}},
+        {"EmitInsertAngularDimension2Line: erasure of a line", {CppCom}},
+        // Only C++ and C# measure a circle or an arc of the macro, the others make one each time.
+        {"EmitInsertDiameterDimension: on a variable", {CppCom, JavaScript, VbNet, Vba}},
+        {"EmitInsertJoggedDimension: on a variable", {CppCom, JavaScript, VbNet, Vba}},
+        // A temporary entity is declared where it is assigned.
+        {"EmitInsertHatchByEntities: declaration of an entity", {CSharp, JavaScript}, 2},
+        // COM declares the array with the call, a page has all of a pattern's data in one object.
+        {"EmitInsertHatchByEntities: array", {CppCom}},
+        {"EmitSetHatchData: locals", {JavaScript}},
+        // C++ sets the color where it is fetched.
+        {"EmitHatchGradientData: assigned color", {Cpp}, 2},
         // Declarations ahead of the tests in C++ and VBA, a call behind them in C++.
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom}},
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom, Vba}},

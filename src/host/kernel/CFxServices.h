@@ -36,7 +36,12 @@ public:
     void ReportIncompleteFile(const CFxString& path) { incompleteFiles_.push_back(path); }
     const std::vector<CFxString>& GetIncompleteFiles() const { return incompleteFiles_; }
 
+    /// What the user should know of a conversion though its status does not tell it: one sentence without a full stop.
+    void ReportProblem(const CFxString& problem) { problems_.push_back(problem); }
+    const std::vector<CFxString>& GetProblems() const { return problems_; }
+
 private:
+    std::vector<CFxString> problems_;
     std::vector<CFxString> incompleteFiles_;
     QHash<QString, std::int16_t> settings_;
     QHash<QString, CFxString> optionNames_;

@@ -1,6 +1,7 @@
 // Added text styles, attribute definitions, notes and curved texts.
 
 #include "objects/targets/texts.h"
+#include "frame/StatementGroup.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
@@ -66,10 +67,8 @@ QString loadShapes(Writer& writer, const CFxString& fileName)
 {
     if (IsHostShapeFile(fileName))
         return {};
-    --writer.IndentLevel;
-    const QString text = EmitLoadShapeFile(writer, doubleBackslashes(fileName));
-    ++writer.IndentLevel;
-    return text;
+    const OneLevelOut out(writer);
+    return EmitLoadShapeFile(writer, doubleBackslashes(fileName));
 }
 
 } // namespace
@@ -158,10 +157,10 @@ QString ReadNote(AddedObject& added)
     setReal("TextHeight", textHeight);
     setReal("Width", width);
     setReal("LineSpaceDistance", lineSpaceDistance);
-    const CFxString styleName =
-        style.GetType() == CFxVariant::kId ? nameOfTextStyle(style.GetId()) : ChosenText(style).value_or(CFxString());
-    if (!styleName.isEmpty())
+    if (!style.IsNull()) {
+        const CFxString styleName = style.GetType() == CFxVariant::kId ? nameOfTextStyle(style.GetId()) : wordOf(style);
         text += EmitSetProperty(added.writer, added.name, "TextStyle", styleName, true);
+    }
     if (const std::optional<CFxString> justification = ChosenText(justify))
         text += EmitSetNoteJustify(added.writer, added.name, "Justify", *justification);
     if (!direction.IsNull())

@@ -16,7 +16,7 @@ static const Phrase blockAttributeValue{
                   "%1TypeConverter::convertVariantArrayToPtrArray<IAttributeInstancePtr, IAttributeInstance>( "
                   "%4->GetAttributeInstances(), iwAttributes%3, count%3 );%2"
                   "%1for (int i = 0; i < count%3; ++i)%2%1{%2"
-                  "%1    if (iwAttributes%3[i]->get_Name() == _bstr_t(L\"%5\"))%2"
+                  "%1    if (iwAttributes%3[i]->GetName() == _bstr_t(L\"%5\"))%2"
                   "%1        iwAttributes%3[i]->put_%6( L\"%7\" );%2%1}%2",
         .csharp = "%1object[] iwAttributes%3 = (object[])%4.GetAttributeInstances();%2"
                   "%1foreach (object attribute%3 in iwAttributes%3)%2%1{%2"

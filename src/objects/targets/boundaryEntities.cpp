@@ -45,20 +45,23 @@ static constexpr Words withVba(Words words, const char* vba)
     return words;
 }
 
-static const Phrase declareEntity{"temporary entity", declareWords};
+static const Phrase declareEntity{"EmitInsertHatchByEntities: declaration of an entity", declareWords};
 /// An insertion gives an array of regions there.
-static const Phrase declareRegion{"temporary region", withVba(declareWords, "%1Dim %3 As Variant%2")};
+static const Phrase declareRegion{"EmitInsertHatchByEntities: declaration of an entity",
+                                  withVba(declareWords, "%1Dim %3 As Variant%2")};
 
-static const Phrase eraseEntity{"temporary entity", eraseWords};
+static const Phrase eraseEntity{"EmitInsertHatchByEntities: erasure of an entity", eraseWords};
 /// The object is set to another variable than the one that is declared for it. It has to stay so.
 static const Phrase eraseRegion{
-    "temporary region",
+    "EmitInsertHatchByEntities: erasure of a region",
     withVba(eraseWords, "%1Dim regionObj%3 As Variant%2%1Dim iwRegion%3 As Inkwright.Region%2"
                         "%1Set regionObj%3 = %4(0)%2%1Set iwRegion = regionObj%2%1iwRegion.Erased = True%2")};
-static const Phrase eraseBlock{"temporary block instance", withScript(eraseWords, "%1%3.put_Erased( true );%2")};
+static const Phrase eraseBlock{"EmitInsertHatchByEntities: erasure of a block instance",
+                               withScript(eraseWords, "%1%3.put_Erased( true );%2")};
 /// Of the marker for the indentation a 1 is missing, so that indentation and line end go to the places behind it, and
 /// the number of the table is lost. It has to stay so.
-static const Phrase eraseTable{"temporary table", withScript(eraseWords, "%hatchTable_%3.put_Erased(true);%2")};
+static const Phrase eraseTable{"EmitInsertHatchByEntities: erasure of a table",
+                               withScript(eraseWords, "%hatchTable_%3.put_Erased(true);%2")};
 
 namespace {
 
@@ -238,6 +241,10 @@ const TemporaryKind pieceKinds[] = {
     {&OdDbLine::desc, "line_", "Line", &insertAs<OdDbLine, insertLine>},
 };
 
+using Counters = ProcessCounters::OfTarget;
+static_assert(std::size(boundaryKinds) == std::tuple_size_v<decltype(Counters::boundaryEntities)>);
+static_assert(std::size(pieceKinds) == std::tuple_size_v<decltype(Counters::regionPieces)>);
+
 /// Null for an object of another kind.
 const TemporaryKind* kindOf(const OdDbObject& object, std::span<const TemporaryKind> kinds)
 {
@@ -278,7 +285,6 @@ QString eraseTemporary(Writer& writer, const TemporaryKind& kind, std::uint32_t 
 BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<BoundaryObject>& boundary)
 {
     auto& counters = processCounters.of(writer.target).boundaryEntities;
-    static_assert(std::size(boundaryKinds) == counters.size());
     BoundaryEntities entities;
     for (const BoundaryObject& entity : boundary) {
         const TemporaryKind* const kind = kindOf(*entity.object, boundaryKinds);
@@ -300,7 +306,7 @@ BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<Boundary
 
 QString EmitRegionBoundaryCurves(Writer& writer, const CFxString& variable, const OdArray<OdDbObjectPtr>& pieces)
 {
-    auto& counters = processCounters.of(writer.target);
+    Counters& counters = processCounters.of(writer.target);
     QString text;
     QStringList names;
     for (const OdDbObjectPtr& piece : pieces) {

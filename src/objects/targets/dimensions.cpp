@@ -296,7 +296,7 @@ QString EmitInsertAngularDimension2Line(Writer& writer, const DimensionLine& fir
     const auto nameOf = [&](const DimensionLine& line, const char* suffix) {
         if (!line.variable.isEmpty())
             return line.variable;
-        const QString temporary = name.toQString() + suffix;
+        QString temporary = name.toQString() + suffix;
         creation += writer.fill(insertTemporaryLine).text(temporary).point(line.start).point(line.end).str();
         erasure += writer.fill(eraseTemporaryLine).text(temporary).str();
         return temporary;

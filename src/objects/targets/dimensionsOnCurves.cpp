@@ -12,10 +12,17 @@ using namespace inkmacro;
 
 namespace {
 
+enum class Shape
+{
+    Circle,
+    Arc
+};
+
 /// One insertion call. In its literals `%0` is the call, and a VBA array ends in a value of suffix and number.
 struct CurveDimension
 {
     const char* call;
+    Shape shape; ///< of the curve that the call takes
     const char* basicSuffix;
     const Phrase& onVariable;
     const Phrase& onTemporary;
@@ -23,25 +30,29 @@ struct CurveDimension
     bool nameFirst = false; ///< the variable is a value ahead of the points, but not where C# uses a variable
 };
 
-bool namesFirst(const CurveDimension& kind, Target target, bool temporary)
+void fillArc(Fill& insertion, const OdDbArc& arc, bool brief)
 {
-    return kind.nameFirst && (temporary || target == Target::Cpp);
+    const double angles[] = {arc.startAngle(), arc.endAngle()};
+    if (brief)
+        insertion.shortPoint(arc.center()).shortReal(arc.radius()).shortReal(angles[0]).shortReal(angles[1]);
+    else
+        insertion.point(arc.center()).real(arc.radius()).real(angles[0]).real(angles[1]);
 }
 
-void fillShape(Fill& insertion, const OdDbObject& object, bool brief)
+/// Raises OdError_NotThatKindOfClass for an object of another shape.
+void fillShape(Fill& insertion, const CurveDimension& kind, Target target, const OdDbObject& object)
 {
-    if (const auto circle = odrxQuery<OdDbCircle>(&object)) {
-        insertion.point(circle->center()).real(circle->radius());
+    if (kind.shape == Shape::Arc) {
+        fillArc(insertion, *odrxCast<OdDbArc>(&object), kind.briefArc && (target == Target::Cpp || isBasic(target)));
         return;
     }
-    const auto arc = odrxCast<OdDbArc>(&object);
-    if (brief)
-        insertion.shortPoint(arc->center())
-            .shortReal(arc->radius())
-            .shortReal(arc->startAngle())
-            .shortReal(arc->endAngle());
-    else
-        insertion.point(arc->center()).real(arc->radius()).real(arc->startAngle()).real(arc->endAngle());
+    const auto circle = odrxCast<OdDbCircle>(&object);
+    insertion.point(circle->center()).real(circle->radius());
+}
+
+QString temporaryName(const CurveDimension& kind, const CFxString& name)
+{
+    return name.toQString() + (kind.shape == Shape::Circle ? "_associated_circle" : "_associated_arc");
 }
 
 } // namespace
@@ -51,16 +62,13 @@ static QString insertOnCurve(Writer& writer, const CurveDimension& kind, const M
 {
     const Target target = writer.target;
     const bool temporary = curve.variable.isEmpty() || !kind.onVariable.has(target);
-    QString curveName = curve.variable;
-    if (temporary)
-        curveName =
-            name.toQString() + (odrxQuery<OdDbCircle>(curve.object.get()) ? "_associated_circle" : "_associated_arc");
+    const bool nameFirst = kind.nameFirst && (temporary || target == Target::Cpp);
+    const QString curveName = temporary ? temporaryName(kind, name) : curve.variable;
 
     Fill insertion((temporary ? kind.onTemporary : kind.onVariable).in(target));
     insertion.text(QLatin1String(kind.call)).indent(writer.IndentLevel).text(LineEnd).text(curveName);
     if (temporary)
-        fillShape(insertion, *curve.object, kind.briefArc && (target == Target::Cpp || isBasic(target)));
-    const bool nameFirst = namesFirst(kind, target, temporary);
+        fillShape(insertion, kind, target, *curve.object);
     if (nameFirst)
         insertion.text(name);
     fillDimensionPoints(writer, insertion, points);
@@ -132,7 +140,8 @@ static const Phrase angularOnTemporaryArc{
 QString EmitInsertAngularDimensionArc(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& arcPoint,
                                       const CFxString& text, const CFxString& name)
 {
-    static const CurveDimension kind{"InsertAngularDimensionArc", "_Arc", angularOnArc, angularOnTemporaryArc};
+    static const CurveDimension kind{"InsertAngularDimensionArc", Shape::Arc, "_Arc", angularOnArc,
+                                     angularOnTemporaryArc};
     return insertOnCurve(writer, kind, arc, {arcPoint}, text, name);
 }
 
@@ -238,9 +247,10 @@ QString EmitInsertArcLengthDimension(Writer& writer, const MeasuredCurve& arc, c
                                      const OdGePoint3d& second, bool partial, const OdGePoint3d& arcPoint,
                                      const CFxString& text, const CFxString& name)
 {
-    static const CurveDimension whole{"InsertArcLengthDimension", "_ArcLen", lengthOfArc, lengthOfTemporaryArc};
-    static const CurveDimension part{"InsertArcLengthDimensionPartial", "_ArcLen", partialLengthOfArc,
-                                     partialLengthOfTemporaryArc, true};
+    static const CurveDimension whole{"InsertArcLengthDimension", Shape::Arc, "_ArcLen", lengthOfArc,
+                                      lengthOfTemporaryArc};
+    static const CurveDimension part{"InsertArcLengthDimensionPartial", Shape::Arc, "_ArcLen", partialLengthOfArc,
+                                     partialLengthOfTemporaryArc,       true};
     return partial ? insertOnCurve(writer, part, arc, {first, second, arcPoint}, text, name)
                    : insertOnCurve(writer, whole, arc, {arcPoint}, text, name);
 }
@@ -319,20 +329,20 @@ static QString insertRadial(Writer& writer, const CurveDimension& onCircle, cons
 QString EmitInsertDiameterDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
                                     const CFxString& text, const CFxString& name)
 {
-    static const CurveDimension onCircle{"InsertDiameterDimensionCircle", "_Dia", radialOnCurve,
-                                         radialOnTemporaryCircle,         false,  true};
-    static const CurveDimension onArc{"InsertDiameterDimensionArc", "_Dia", radialOnCurve,
-                                      radialOnTemporaryArc,         false,  true};
+    static const CurveDimension onCircle{"InsertDiameterDimensionCircle", Shape::Circle, "_Dia", radialOnCurve,
+                                         radialOnTemporaryCircle,         false,         true};
+    static const CurveDimension onArc{"InsertDiameterDimensionArc", Shape::Arc, "_Dia", radialOnCurve,
+                                      radialOnTemporaryArc,         false,      true};
     return insertRadial(writer, onCircle, onArc, curve, {chordPoint}, text, name);
 }
 
 QString EmitInsertRadialDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
                                   const CFxString& text, const CFxString& name)
 {
-    static const CurveDimension onCircle{"InsertRadialDimensionCircle", "_Rad", radialOnCurve,
-                                         radialOnTemporaryCircle,       false,  true};
-    static const CurveDimension onArc{"InsertRadialDimensionArc", "_Rad", radialOnCurve,
-                                      radialOnTemporaryArc,       false,  true};
+    static const CurveDimension onCircle{"InsertRadialDimensionCircle", Shape::Circle, "_Rad", radialOnCurve,
+                                         radialOnTemporaryCircle,       false,         true};
+    static const CurveDimension onArc{"InsertRadialDimensionArc", Shape::Arc, "_Rad", radialOnCurve,
+                                      radialOnTemporaryArc,       false,      true};
     return insertRadial(writer, onCircle, onArc, curve, {chordPoint}, text, name);
 }
 
@@ -433,9 +443,9 @@ QString EmitInsertJoggedDimension(Writer& writer, const MeasuredCurve& curve, co
                                   const OdGePoint3d& jog, const OdGePoint3d& position, const CFxString& text,
                                   const CFxString& name)
 {
-    static const CurveDimension onCircle{"InsertJoggedDimensionCircle", "_Jog", joggedOnCurve,
-                                         joggedOnTemporaryCircle,       false,  true};
-    static const CurveDimension onArc{"InsertJoggedDimensionArc", "_Jog", joggedOnCurve,
-                                      joggedOnTemporaryArc,       false,  true};
+    static const CurveDimension onCircle{"InsertJoggedDimensionCircle", Shape::Circle, "_Jog", joggedOnCurve,
+                                         joggedOnTemporaryCircle,       false,         true};
+    static const CurveDimension onArc{"InsertJoggedDimensionArc", Shape::Arc, "_Jog", joggedOnCurve,
+                                      joggedOnTemporaryArc,       false,      true};
     return insertRadial(writer, onCircle, onArc, curve, {centerOverride, jog, position}, text, name);
 }

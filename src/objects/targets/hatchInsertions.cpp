@@ -9,7 +9,7 @@ using namespace inkmacro;
 
 /// The array has no number, so a second one in the same group of statements is declared again. It has to stay so. COM
 /// declares its array with the call.
-static const Phrase entitiesHead{"EmitInsertHatchByEntities",
+static const Phrase entitiesHead{"EmitInsertHatchByEntities: array",
                                  {
                                      .cpp = "%1iwObjectPtrArray iwEntities;%2",
                                      .csharp = "%2DispatchWrapper[] iwEntities = new DispatchWrapper[%1];",

@@ -61,7 +61,7 @@ static constexpr char basicDataLocals[] = "%1Dim %3 As String%2%1Dim %4 As Doubl
                                           "%1Dim %6 As Inkwright.iwHatchPatternType_e%2%1Dim %7 As Double%2%2";
 
 /// JavaScript has all of them in one object.
-static const Phrase declareHatchData{"EmitSetHatchData",
+static const Phrase declareHatchData{"EmitSetHatchData: locals",
                                      {
                                          .cpp = "%1iwString %3;%2%1double %4;%2%1double %5;%2"
                                                 "%1iwHatchPatternType_e %6;%2%1double %7;%2%2",
@@ -74,7 +74,7 @@ static const Phrase declareHatchData{"EmitSetHatchData",
                                      }};
 
 static const Phrase getHatchData{
-    "EmitSetHatchData",
+    "EmitSetHatchData: reading",
     {
         .cpp = "%1%3->GetHatchOrSolidData( &%4, &%5, &%6, &%7, &%8 );%2",
         .cppCom = "%1%3->GetHatchOrSolidData( &%4, &%5, &%6, &%7, &%8 );%2",
@@ -84,7 +84,7 @@ static const Phrase getHatchData{
         .vba = "%1%3.GetHatchOrSolidData %4, %5, %6, %7, %8%2",
     }};
 
-static const Phrase putHatchData{"EmitSetHatchData",
+static const Phrase putHatchData{"EmitSetHatchData: writing",
                                  {
                                      .cpp = "%1%3->SetHatchOrSolidData( %4, %5, %6, %7, %8 );%2",
                                      .cppCom = "%1%3->SetHatchOrSolidData( %4, %5, %6, %7, %8 );%2%2",
@@ -99,7 +99,7 @@ static const Phrase putHatchData{"EmitSetHatchData",
 static constexpr char assignLocal[] = "%1%3 = %4;%2";
 static constexpr char basicAssignLocal[] = "%1%3 = %4%2";
 
-static const Phrase assignAngle{"EmitSetHatchData",
+static const Phrase assignAngle{"EmitSetHatchData: angle",
                                 {
                                     .cpp = assignLocal,
                                     .cppCom = assignLocal,
@@ -109,7 +109,7 @@ static const Phrase assignAngle{"EmitSetHatchData",
                                     .vba = basicAssignLocal,
                                 }};
 
-static const Phrase assignScale{"EmitSetHatchData",
+static const Phrase assignScale{"EmitSetHatchData: scale",
                                 {
                                     .cpp = assignLocal,
                                     .cppCom = assignLocal,
@@ -119,7 +119,7 @@ static const Phrase assignScale{"EmitSetHatchData",
                                     .vba = basicAssignLocal,
                                 }};
 
-static const Phrase assignSpacing{"EmitSetHatchData",
+static const Phrase assignSpacing{"EmitSetHatchData: spacing",
                                   {
                                       .cpp = assignLocal,
                                       .cppCom = assignLocal,
@@ -129,7 +129,7 @@ static const Phrase assignSpacing{"EmitSetHatchData",
                                       .vba = basicAssignLocal,
                                   }};
 
-static const Phrase assignPatternName{"EmitSetHatchData",
+static const Phrase assignPatternName{"EmitSetHatchData: name",
                                       {
                                           .cpp = "%1%3 = L\"%4\";%2",
                                           .cppCom = "%1%3 = L\"%4\";%2",
@@ -139,7 +139,7 @@ static const Phrase assignPatternName{"EmitSetHatchData",
                                           .vba = "%1%3 = \"%4\"%2",
                                       }};
 
-static const Phrase assignPatternType{"EmitSetHatchData",
+static const Phrase assignPatternType{"EmitSetHatchData: type",
                                       {
                                           .cpp = assignLocal,
                                           .cppCom = assignLocal,
@@ -242,7 +242,7 @@ QString EmitSetHatchData(Writer& writer, const CFxString& pattern, const HatchPa
 // The gradient's data.
 
 static const Phrase getGradientData{
-    "EmitHatchGradientData",
+    "EmitHatchGradientData: reading",
     {
         .cpp = "%2%1iwColor_ptr color1;%2%1iwColor_ptr color2;%2%1bool bCentered;%2%1double gradientAngle;%2%2"
                "%1%3->GetGradientData( &color1, &color2, &bCentered, &gradientAngle);%2",
@@ -261,7 +261,7 @@ static const Phrase getGradientData{
 
 /// Statements in C++, without a line end. In COM the semicolon ends the statement that the color comes to a second
 /// time. Both have to stay so.
-static const Phrase indexedColor{"EmitHatchGradientData",
+static const Phrase indexedColor{"EmitHatchGradientData: indexed color",
                                  {
                                      .cpp = "%2m_pIwApp->GetColorByIndex( %1, &%3 );",
                                      .cppCom = "pConnection->m_IwApp->GetColorByIndex( %1 );",
@@ -271,7 +271,7 @@ static const Phrase indexedColor{"EmitHatchGradientData",
                                      .vba = "iwApp.GetColorByIndex( %1 )",
                                  }};
 
-static const Phrase rgbColor{"EmitHatchGradientData",
+static const Phrase rgbColor{"EmitHatchGradientData: true color",
                              {
                                  .cpp = "%4m_pIwApp->GetRGBColor( %1 ,%2 ,%3, &%5 );",
                                  .cppCom = "pConnection->m_IwApp->GetRGBColor( %1 ,%2 ,%3 );",
@@ -282,7 +282,7 @@ static const Phrase rgbColor{"EmitHatchGradientData",
                              }};
 
 /// In C++ the color's own call sets the local.
-static const Phrase assignFirstColor{"EmitHatchGradientData",
+static const Phrase assignFirstColor{"EmitHatchGradientData: assigned color",
                                      {
                                          .cppCom = "%1color1 = %3;%2",
                                          .csharp = "%1color1 = %3;%2",
@@ -291,7 +291,7 @@ static const Phrase assignFirstColor{"EmitHatchGradientData",
                                          .vba = "%1Set color1 = %3%2",
                                      }};
 
-static const Phrase assignSecondColor{"EmitHatchGradientData",
+static const Phrase assignSecondColor{"EmitHatchGradientData: assigned color",
                                       {
                                           .cppCom = "%1color2 = %3;%2",
                                           .csharp = "%1color2 = %3;%2",
@@ -302,7 +302,7 @@ static const Phrase assignSecondColor{"EmitHatchGradientData",
 
 /// Without a marker for the line end in C++, the line end takes the value's place there, and the value is lost. The
 /// same holds for the mark that follows. Both have to stay so.
-static const Phrase assignGradientAngle{"EmitHatchGradientData",
+static const Phrase assignGradientAngle{"EmitHatchGradientData: angle",
                                         {
                                             .cpp = "%1gradientAngle = %3;",
                                             .cppCom = "%1gradientAngle = %3;%2",
@@ -312,7 +312,7 @@ static const Phrase assignGradientAngle{"EmitHatchGradientData",
                                             .vba = "%1gradientAngle = %3%2",
                                         }};
 
-static const Phrase assignCentered{"EmitHatchGradientData",
+static const Phrase assignCentered{"EmitHatchGradientData: centered",
                                    {
                                        .cpp = "%1bCentered = %3;",
                                        .cppCom = "%1bCentered = %3;%2",
@@ -323,7 +323,7 @@ static const Phrase assignCentered{"EmitHatchGradientData",
                                    }};
 
 static const Phrase putGradientData{
-    "EmitHatchGradientData",
+    "EmitHatchGradientData: writing",
     {
         .cpp = "%2%1%3->SetGradientData(color1, color2, bCentered, gradientAngle);%2",
         .cppCom = "%1%3->SetGradientData(color1, color2, bCentered, gradientAngle);%2",

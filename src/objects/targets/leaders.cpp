@@ -6,15 +6,16 @@
 
 using namespace inkmacro;
 
-/// Where the values of the point stand, and whether an array of its own takes them, differs by target.
+/// Where the values of the point stand, and whether an array of its own takes them, differs by target. In COM the
+/// locals have no number, so they need a block.
 static const Phrase insertTolerance{
     "EmitInsertTolerance",
     {
         .cpp = "%1iwDoubleArray Coordinates%3;%2%1Coordinates%3.clear();%2%2%4%2"
                "%1iwSketchManager->InsertTolerance( Coordinates%3, L\"%5\", &%6 );%2",
-        .cppCom = "%1double x, y, z;%2%1VARIANT variant%3;%2%1variant%3.vt = ( VT_ARRAY | VT_R8 );%2"
-                  "%1variant%3.parray = SafeArrayCreateVector( VT_R8, 0, 3 );%2%4%2"
-                  "%1%6 = iwSketchManager->InsertTolerance( variant%3, L\"%5\" );%2",
+        .cppCom = "%1{%2%1    double x, y, z;%2%1    VARIANT variant%3;%2%1    variant%3.vt = ( VT_ARRAY | VT_R8 );%2"
+                  "%1    variant%3.parray = SafeArrayCreateVector( VT_R8, 0, 3 );%2%4%2"
+                  "%1    %6 = iwSketchManager->InsertTolerance( variant%3, L\"%5\" );%2%1}%2",
         .csharp = "%1%7 = iwSketchManager.InsertTolerance(%2%1 new double[]{%3,%4,%5}, %2%1 \"%6\" );%2",
         .javascript = "%1var %7 = mSkMgr.InsertTolerance(new Array(%3,%4,%5), \"%6\");%2",
         .vbNet = "%1%7 = iwSketchManager.InsertTolerance( New Double(){%3,%4,%5}, \"%6\" )%2",

@@ -36,6 +36,8 @@ public:
     operator T*() const;
 };
 
+typedef iwInterfacePtr<iwObject_c> iwObject_ptr;
+
 template<class T>
 class iwArray
 {

@@ -149,7 +149,7 @@ bool CMacroCommand::ExecuteNotify(void)
         types0.add(iwCircleType);
         iwEntities0.add(iwcircle3);
         iwObjectType_e iwTypeForCopy0;
-        iwObject* iwObjForCopy0;
+        iwObject_ptr iwObjForCopy0;
         iwDoc->GetObjectByHandle(L"A0", &iwTypeForCopy0, &iwObjForCopy0);
         types0.add(iwTypeForCopy0);
         iwEntities0.add(iwObjForCopy0);

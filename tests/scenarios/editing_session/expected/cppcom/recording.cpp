@@ -449,7 +449,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         TypeConverter::convertVariantArrayToPtrArray<IAttributeInstancePtr, IAttributeInstance>( blockinstance15->GetAttributeInstances(), iwAttributes1, count1 );
         for (int i = 0; i < count1; ++i)
         {
-            if (iwAttributes1[i]->get_Name() == _bstr_t(L"SIZE"))
+            if (iwAttributes1[i]->GetName() == _bstr_t(L"SIZE"))
                 iwAttributes1[i]->put_Value( L"M8" );
         }
     }

@@ -102,17 +102,17 @@ Sub main()
 
         If 1 Then
             Dim iwEntities0( 0 ) As Object
-            Dim crossingBoxStartCorner0( 2 ) As Double
-            Dim crossingBoxEndCorner0( 2 ) As Double
+            Dim crossingBoxStartCorner0(2) As Double
+            Dim crossingBoxEndCorner0(2) As Double
 
             Set iwEntities0( 0 ) = line1
 
-            crossingBoxStartCorner0( 0 ) = 9
-            crossingBoxStartCorner0( 1 ) = -1
-            crossingBoxStartCorner0( 2 ) = 0
-            crossingBoxEndCorner0( 0 ) = 11
-            crossingBoxEndCorner0( 1 ) = 1
-            crossingBoxEndCorner0( 2 ) = 0
+            crossingBoxStartCorner0(0) = 9
+            crossingBoxStartCorner0(1) = -1
+            crossingBoxStartCorner0(2) = 0
+            crossingBoxEndCorner0(0) = 11
+            crossingBoxEndCorner0(1) = 1
+            crossingBoxEndCorner0(2) = 0
 
             iwSketchManager.StretchEntities 2.5, 0, 0, iwEntities0, crossingBoxStartCorner0, crossingBoxEndCorner0
         End If

@@ -176,15 +176,15 @@ Public Class recording
         If 1 Then
             Dim type1 As Inkwright.iwObjectType_e
             Dim line8 As Inkwright.Line = iwApp.GetActiveDocument().GetObjectByHandle("A0", type1)
-            line4.Erased = true
-            line8.Erased = true
+            line4.Erased = True
+            line8.Erased = True
         End If
 
         If 1 Then
             Dim type2 As Inkwright.iwObjectType_e
             Dim leader10 As Inkwright.Leader = iwApp.GetActiveDocument().GetObjectByHandle("62", type2)
             Dim note9 As Inkwright.Note = leader10.GetNoteAnnotation()
-            note9.Erased = true
+            note9.Erased = True
         End If
 
         Dim group11 As Inkwright.Group
@@ -253,7 +253,17 @@ Public Class recording
         Dim viewport17 As Inkwright.Viewport = Nothing
         Dim sheetsArray1 As Inkwright.Sheet = iwDoc.GetSheet("Layout1")
         If sheetsArray1 IsNot Nothing Then
-             viewport17 = sheetsArray1.InsertViewport( New Double(){0,0,0,4,0,0,4,3,0} )
+            Dim Coordinates1(8) As Double
+            Coordinates1( 0 )=0
+            Coordinates1( 1 )=0
+            Coordinates1( 2 )=0
+            Coordinates1( 3 )=4
+            Coordinates1( 4 )=0
+            Coordinates1( 5 )=0
+            Coordinates1( 6 )=4
+            Coordinates1( 7 )=3
+            Coordinates1( 8 )=0
+             viewport17 = sheetsArray1.InsertViewport( Coordinates1 )
         End If
         If 1 Then
             viewport17.Activate()

@@ -208,10 +208,11 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     }
     ITolerancePtr tolerance9;
     {
-        double x, y, z;
-        VARIANT variant1;
-        variant1.vt = ( VT_ARRAY | VT_R8 );
-        variant1.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        {
+            double x, y, z;
+            VARIANT variant1;
+            variant1.vt = ( VT_ARRAY | VT_R8 );
+            variant1.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
         long rgIndices1;
         rgIndices1 = 0;
         x=3.00000000000000; y=4.00000000000000; z=0.00000000000000;
@@ -221,7 +222,8 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         rgIndices1=2;
         SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z) );
 
-        tolerance9 = iwSketchManager->InsertTolerance( variant1, L"{\\Fgdt;r}%%v0.05%%v\n%%vB" );
+            tolerance9 = iwSketchManager->InsertTolerance( variant1, L"{\\Fgdt;r}%%v0.05%%v\n%%vB" );
+        }
         tolerance9->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
         tolerance9->put_Layer( L"0" );
         tolerance9->put_LineStyle( L"Continuous" );

@@ -108,7 +108,7 @@ bool CMacroCommand::ExecuteNotify(void)
     }
     {
         iwObjectType_e type1;
-        iwObject* object1 = NULL;
+        iwObject_ptr object1;
         iwLongArray types1;
         types1.add(iwLineType);
         iwDoc->GetObjectByHandle(L"A0", &type1, &object1);

@@ -1,4 +1,4 @@
-#include "app/OpenDrawing.h"
+#include "recordfile/OpenDrawing.h"
 
 #include <QDir>
 
