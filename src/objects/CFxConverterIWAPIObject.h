@@ -102,6 +102,8 @@ public:
     /// The variable of an object that the macro has one for, the later objects of the same command included; empty for
     /// any other. Takes no number.
     QString KnownVariable(const OdDbHandle& handle) const;
+    /// The class by which such an object was recorded; null for any other.
+    const OdRxClass* KnownClass(const OdDbHandle& handle) const;
     /// The leader that owns the note of that handle, else the null id. Raises OdError_NotThatKindOfClass when the
     /// handle is another object's.
     OdDbObjectId LeaderOfNote(const OdDbHandle& handle) const;

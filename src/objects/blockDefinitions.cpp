@@ -25,16 +25,16 @@ struct BlockEntity
 {
     CFxConverterIWAPIObject& objects;
     Writer& writer;
-    const OdDbObject& object;
-    CFxString name;  ///< its variable; empty when the macro has none
-    QString fetch{}; ///< fetches what the entity is reached by
+    const OdDbObject* object; ///< never null where it is prepared
+    CFxString name;           ///< its variable; empty when the macro has none
+    QString fetch{};          ///< fetches what the entity is reached by
 };
 
 QString drawArc(BlockEntity& entity)
 {
     if (!entity.name.isEmpty())
         return {};
-    const auto& arc = static_cast<const OdDbArc&>(entity.object);
+    const auto& arc = static_cast<const OdDbArc&>(*entity.object);
     entity.name = QStringLiteral("arc_%1").arg(processCounters.blockArcs++);
     return EmitDeclareObject(entity.writer, "CircleArc", entity.name) +
            EmitInsertArc(entity.writer, arc.center(), arc.radius(), arc.startAngle(), arc.endAngle(), entity.name);
@@ -43,13 +43,13 @@ QString drawArc(BlockEntity& entity)
 /// A note that a leader owns is reached through the leader.
 QString fetchNote(BlockEntity& entity)
 {
-    const OdDbHandle note = entity.object.getDbHandle();
+    const OdDbHandle note = entity.object->getDbHandle();
     const OdDbObjectId leader = entity.objects.LeaderOfNote(note);
     if (leader.isNull())
         return {};
     CFxString leaderName;
     entity.fetch = entity.objects.ObjectVariable(leader.getHandle(), OdDbLeader::desc(), leaderName);
-    entity.name = entity.objects.NameObject(note, entity.object.isA());
+    entity.name = entity.objects.NameObject(note, entity.object->isA());
     return EmitGetNoteAnnotation(entity.writer, entity.name, leaderName);
 }
 
@@ -57,7 +57,7 @@ QString fillCells(BlockEntity& entity)
 {
     if (entity.name.isEmpty())
         return {};
-    const auto& table = static_cast<const OdDbTable&>(entity.object);
+    const auto& table = static_cast<const OdDbTable&>(*entity.object);
     QString statements;
     for (unsigned row = 0; row < table.numRows(); ++row)
         for (unsigned column = 0; column < table.numColumns(); ++column)
@@ -71,7 +71,7 @@ QString dimensionArc(BlockEntity& entity)
 {
     if (!entity.name.isEmpty())
         return {};
-    const auto& dimension = static_cast<const OdDbArcDimension&>(entity.object);
+    const auto& dimension = static_cast<const OdDbArcDimension&>(*entity.object);
     entity.name = QStringLiteral("arcLengthDimension_%1").arg(processCounters.blockArcLengthDimensions++);
     const OdDbObjectPtr curve = GetDimensionGeometry(dimension);
     const MeasuredCurve arc{curve, entity.objects.AddedVariable(curve->objectId())};
@@ -110,7 +110,7 @@ QString insertHatch(BlockEntity& entity)
 {
     if (entity.name.isEmpty() || entity.objects.IsHatchInserted(entity.name))
         return {};
-    const auto& hatch = static_cast<const OdDbHatch&>(entity.object);
+    const auto& hatch = static_cast<const OdDbHatch&>(*entity.object);
     const HatchPattern pattern{hatch.patternName(), hatch.patternScale(), hatch.patternAngle()};
     HatchLoops loops(hatch);
     if (loops.allDerived) {
@@ -208,12 +208,14 @@ QString CFxConverterIWAPIObject::CreateBlockDefinition(const BlockContents& cont
         contents.variable, contents.name, contents.renewed, contents.description, contents.origin, {}, {}};
     QString text = EmitOpenBlockDefinition(writer, definition);
     for (const OdDbObjectId& id : contents.ids) {
+        // What an entity is needs no more than the recording; what it looks like does.
         const OdDbObjectPtr object = id.openObject(true);
-        const EntityKind* const kind = object ? kindOf(object->isA()) : nullptr;
+        const OdRxClass* const cls = object ? object->isA() : KnownClass(id.getHandle());
+        const EntityKind* const kind = cls ? kindOf(cls) : nullptr;
         if (!kind)
             continue;
-        BlockEntity entity{*this, writer, *object, KnownVariable(id.getHandle())};
-        const QString statements = kind->prepare ? kind->prepare(entity) : QString();
+        BlockEntity entity{*this, writer, object.get(), KnownVariable(id.getHandle())};
+        const QString statements = object && kind->prepare ? kind->prepare(entity) : QString();
         if (!entity.fetch.isEmpty())
             text += writer.fillIndented(aheadOfFetch).str() + entity.fetch;
         if (!statements.isEmpty())

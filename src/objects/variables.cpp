@@ -67,6 +67,12 @@ QString CFxConverterIWAPIObject::KnownVariable(const OdDbHandle& handle) const
     return entry ? ObjectVariableName(entry->cls, IdOf(handle), entry->ordinal).toQString() : QString();
 }
 
+const OdRxClass* CFxConverterIWAPIObject::KnownClass(const OdDbHandle& handle) const
+{
+    const ActionEntry* const entry = driver.FindEntry(handle);
+    return entry ? entry->cls : nullptr;
+}
+
 OdDbObjectId CFxConverterIWAPIObject::LeaderOfNote(const OdDbHandle& handle) const
 {
     OdDbObjectId leader;

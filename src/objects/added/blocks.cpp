@@ -30,7 +30,7 @@ CFxString descriptionOf(const OdDbBlockTableRecord& record)
 QString defineCloud(const AddedObject& added, const OdDbBlockTableRecord& record)
 {
     return added.converter.CreateBlockDefinition(
-        {added.name, anonymousBlockName, false, descriptionOf(record), record.origin(), entitiesOf(record)});
+        {added.name, CFxString(anonymousBlockName), false, descriptionOf(record), record.origin(), entitiesOf(record)});
 }
 
 QString setAttributes(const AddedObject& added, const OdDbBlockReference& reference)
@@ -63,7 +63,7 @@ QString ReadBlockReference(AddedObject& added)
     const OdResBufPtr cloud = record ? record->xData(cloudApplication) : OdResBufPtr();
     QString text;
     if (cloud) {
-        block = anonymousBlockName;
+        block = CFxString(anonymousBlockName);
         text = defineCloud(added, *record);
     }
     if (record && record->isFromExternalReference())

@@ -116,7 +116,7 @@ static const Phrase getBlockName{"EmitCreateBlockDefinition",
 
 static bool isAnonymous(const BlockDefinition& definition)
 {
-    return definition.name == anonymousBlockName;
+    return definition.name.toQString() == anonymousBlockName;
 }
 
 static QString definitionVariable(const BlockDefinition& definition)

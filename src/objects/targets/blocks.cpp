@@ -33,7 +33,7 @@ static const Phrase insertAnonymousBlock{
 
 QString EmitInsertBlock(Writer& writer, const CFxString& block, const Placement& placement, const CFxString& name)
 {
-    const bool anonymous = block == anonymousBlockName;
+    const bool anonymous = block.toQString() == anonymousBlockName;
     const CFxString word = anonymous ? CFxString(name.toQString() + "Name") : block;
     return writer.fill(anonymous ? insertAnonymousBlock : insertBlock)
         .text(word)
