@@ -2,7 +2,7 @@
 
 #include "targets/hatches.h"
 
-#include "targets/LineEnd.h"
+#include "objects/targets/colors.h"
 #include "targets/arrays.h"
 #include "targets/wording.h"
 
@@ -109,46 +109,33 @@ QString EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxStr
 
 // The C++ add-in takes each color into a variable of its own; the others have the color among the call's arguments.
 
-static constexpr Words indexedColor{.cppCom = "pConnection->m_IwApp->GetColorByIndex( %1 )",
-                                    .csharp = "iwApp.GetColorByIndex( %1 )",
-                                    .javascript = "mApp.GetColorByIndex(%1)",
-                                    .vbNet = "iwApp.GetColorByIndex( %1 )",
-                                    .vba = "iwApp.GetColorByIndex( %1 )"};
-
-static constexpr Words rgbColor{.cppCom = "pConnection->m_IwApp->GetRGBColor( %1 ,%2 ,%3 )",
-                                .csharp = "iwApp.GetRGBColor( %1 ,%2 ,%3 )",
-                                .javascript = "mApp.GetRGBColor(%1 ,%2 ,%3)",
-                                .vbNet = "iwApp.GetRGBColor( %1 ,%2 ,%3 )",
-                                .vba = "iwApp.GetRGBColor( %1 ,%2 ,%3 )"};
-
-static constexpr Words withCpp(Words words, const char* cpp)
-{
-    words.cpp = cpp;
-    return words;
-}
-
 static const Phrase firstIndexedColor{
     "EmitHatchGradient: indexed color",
-    withCpp(indexedColor, "%2%1iwColor_ptr iwColor1%3;%2%1m_pIwApp->GetColorByIndex( %4, &iwColor1%3 );%2%2")};
+    {.cpp = "%2%1iwColor_ptr iwColor1%3;%2%1m_pIwApp->GetColorByIndex( %4, &iwColor1%3 );%2%2"}};
 static const Phrase secondIndexedColor{
     "EmitHatchGradient: indexed color",
-    withCpp(indexedColor, "%2%1iwColor_ptr iwColor2%3;%2%1m_pIwApp->GetColorByIndex( %4, &iwColor2%3 );%2%2")};
+    {.cpp = "%2%1iwColor_ptr iwColor2%3;%2%1m_pIwApp->GetColorByIndex( %4, &iwColor2%3 );%2%2"}};
 static const Phrase firstRgbColor{
     "EmitHatchGradient: true color",
-    withCpp(rgbColor, "%2%1iwColor_ptr iwColor1%3;%2%1m_pIwApp->GetRGBColor( %4, %5, %6, &iwColor1%3 );%2%2")};
+    {.cpp = "%2%1iwColor_ptr iwColor1%3;%2%1m_pIwApp->GetRGBColor( %4, %5, %6, &iwColor1%3 );%2%2"}};
 static const Phrase secondRgbColor{
     "EmitHatchGradient: true color",
-    withCpp(rgbColor, "%2%1iwColor_ptr iwColor2%3;%2%1m_pIwApp->GetRGBColor( %4, %5, %6, &iwColor2%3 );%2%2")};
+    {.cpp = "%2%1iwColor_ptr iwColor2%3;%2%1m_pIwApp->GetRGBColor( %4, %5, %6, &iwColor2%3 );%2%2"}};
 
-/// A color by layer or by block counts as black.
-static QString gradientColor(Writer& writer, const Phrase& indexed, const Phrase& rgb, const OdCmColor& color)
+/// Takes the color into its variable. Empty in all targets but C++.
+static QString takeColor(Writer& writer, const Phrase& indexed, const Phrase& rgb, const OdCmColor& color)
 {
-    Fill text((color.isByACI() ? indexed : rgb).in(writer.target));
-    if (writer.target == Target::Cpp)
-        text.indent(writer.IndentLevel).text(LineEnd).number(writer.UniqueCounter);
+    Fill statement = writer.fill(color.isByACI() ? indexed : rgb);
+    statement.number(writer.UniqueCounter);
     if (color.isByACI())
-        return text.number(color.colorIndex());
-    return text.number(color.red()).number(color.green()).number(color.blue());
+        return statement.number(color.colorIndex());
+    return statement.number(color.red()).number(color.green()).number(color.blue());
+}
+
+/// A color by layer or by block counts as black in a gradient.
+static OdCmColor plainColor(const OdCmColor& color)
+{
+    return color.isByACI() ? color : OdCmColor::byRgb(color.red(), color.green(), color.blue());
 }
 
 static const Phrase setGradient{
@@ -170,13 +157,13 @@ static const Phrase setGradient{
 
 QString EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient)
 {
-    const std::uint32_t number = ++writer.UniqueCounter;
-    const QString first = gradientColor(writer, firstIndexedColor, firstRgbColor, gradient.first);
-    const QString second = gradientColor(writer, secondIndexedColor, secondRgbColor, gradient.second);
+    const OdCmColor first = plainColor(gradient.first);
+    const OdCmColor second = plainColor(gradient.second);
     Fill call = writer.fill(setGradient);
-    call.number(number);
+    call.number(++writer.UniqueCounter);
     if (writer.target != Target::Cpp)
-        call.text(first).text(second);
+        call.text(colorExpression(writer.target, first)).text(colorExpression(writer.target, second));
     call.text(truthWord(writer.target, gradient.centered)).real(gradient.angle).text(hatch);
-    return writer.target == Target::Cpp ? first + second + call.str() : call.str();
+    return takeColor(writer, firstIndexedColor, firstRgbColor, first) +
+           takeColor(writer, secondIndexedColor, secondRgbColor, second) + call.str();
 }

@@ -184,6 +184,9 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         // COM declares the array with the call, a page has all of a pattern's data in one object.
         {"EmitInsertHatchByEntities: array", {CppCom}},
         {"EmitSetHatchData: locals", {JavaScript}},
+        // C++ takes each color into a variable in front of the call, the others have them within it.
+        {"EmitHatchGradient: indexed color", allButCpp, 2},
+        {"EmitHatchGradient: true color", allButCpp, 2},
         // C++ sets the color where it is fetched.
         {"EmitHatchGradientData: assigned color", {Cpp}, 2},
         // Declarations ahead of the tests in C++ and VBA, a call behind them in C++.

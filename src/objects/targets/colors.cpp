@@ -1,0 +1,32 @@
+// Colors within calls.
+
+#include "objects/targets/colors.h"
+
+#include "targets/Phrase.h"
+
+using namespace inkmacro;
+
+static const Phrase colorByIndex{"color",
+                                 {
+                                     .cppCom = "pConnection->m_IwApp->GetColorByIndex( %1 )",
+                                     .csharp = "iwApp.GetColorByIndex( %1 )",
+                                     .javascript = "mApp.GetColorByIndex(%1)",
+                                     .vbNet = "iwApp.GetColorByIndex( %1 )",
+                                     .vba = "iwApp.GetColorByIndex( %1 )",
+                                 }};
+
+static const Phrase colorByRgb{"color",
+                               {
+                                   .cppCom = "pConnection->m_IwApp->GetRGBColor( %1 ,%2 ,%3 )",
+                                   .csharp = "iwApp.GetRGBColor( %1 ,%2 ,%3 )",
+                                   .javascript = "mApp.GetRGBColor(%1 ,%2 ,%3)",
+                                   .vbNet = "iwApp.GetRGBColor( %1 ,%2 ,%3 )",
+                                   .vba = "iwApp.GetRGBColor( %1 ,%2 ,%3 )",
+                               }};
+
+QString colorExpression(Target target, const OdCmColor& color)
+{
+    if (color.isByBlock() || color.isByLayer() || color.isByACI())
+        return Fill(colorByIndex.in(target)).number(color.colorIndex());
+    return Fill(colorByRgb.in(target)).number(color.red()).number(color.green()).number(color.blue());
+}

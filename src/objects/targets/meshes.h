@@ -1,0 +1,20 @@
+#pragma once
+
+#include "host/db/OdGe.h"
+#include "host/rx/OdArray.h"
+#include "targets/Writer.h"
+
+#include <array>
+
+struct OdDbFaceRecord;
+
+/// The edge that begins at each corner is visible or not.
+QString EmitInsertFace(Writer& writer, const OdArray<OdGePoint3d>& corners, const std::array<bool, 4>& edgesVisible,
+                       const CFxString& name);
+QString EmitInsertSolid(Writer& writer, const OdArray<OdGePoint3d>& corners, const CFxString& name);
+QString EmitInsertTrace(Writer& writer, const OdArray<OdGePoint3d>& corners, const CFxString& name);
+/// `rows` of vertices, each of `columns`.
+QString EmitInsertPolygonMesh(Writer& writer, int rows, int columns, const OdArray<OdGePoint3d>& vertices,
+                              const CFxString& name);
+QString EmitInsertPolyFaceMesh(Writer& writer, int vertexCount, const OdArray<OdGePoint3d>& vertices,
+                               const OdArray<OdDbFaceRecord>& faces, const CFxString& name);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "host/db/OdGe.h"
+#include "host/rx/OdArray.h"
+#include "targets/Writer.h"
+
+/// `justification` is the drawing's number: 0 top, 1 zero, 2 bottom; any other gives top.
+QString EmitInsertRichLine(Writer& writer, const OdArray<OdGePoint3d>& vertices, int justification, double scale,
+                           const CFxString& style, bool closed, const CFxString& name);
+QString EmitInsertPolyline3D(Writer& writer, const OdArray<OdGePoint3d>& vertices, bool closed, const CFxString& name);
+QString EmitInsertPolyline2D(Writer& writer, const OdArray<OdGePoint2d>& vertices, bool closed, const CFxString& name);
+QString EmitInsertSpline(Writer& writer, const OdArray<OdGePoint3d>& fitPoints, bool closed,
+                         const OdGePoint3d& startTangent, const OdGePoint3d& endTangent, const CFxString& name);

@@ -1,0 +1,152 @@
+// Styles of tables, dimensions, rich lines and lines.
+
+#include "objects/targets/styles.h"
+
+#include "targets/customActions.h"
+
+using namespace inkmacro;
+
+// The statements that make a style are alike but for its kind and the local's name. Pages have no use for the answer;
+// of table styles it is not even declared there.
+#define INKMACRO_CREATE_STYLE(KIND, LOCAL, SCRIPT_RESULT)                                                              \
+    {                                                                                                                  \
+        .cpp = "%1iwCreateObjectResult_e result%3;%2%1iwString " LOCAL "%4 = L\"%5\";%2"                               \
+               "%1iw" KIND "Manager_ptr " KIND "Manager%3;%2%1iwDoc->Get" KIND "Manager(&" KIND "Manager%3);%2"        \
+               "%1" KIND "Manager%3->Create" KIND "( " LOCAL "%4, &%6, &result%3 );%2",                                \
+        .cppCom = "%1iwCreateObjectResult_e result%3;%2%1BSTR " LOCAL "%4 = L\"%5\";%2"                                \
+                  "%1pConnection->m_IwApp->GetActiveDocument()->Get" KIND "Manager()->Create" KIND "( " LOCAL          \
+                  "%4, &%6, &result%3 );%2",                                                                           \
+        .csharp =                                                                                                      \
+            "%1iwCreateObjectResult_e result%3;%2%1string " LOCAL "%4 = \"%5\";%2"                                     \
+            "%1iwApp.GetActiveDocument().Get" KIND "Manager().Create" KIND "( " LOCAL "%4, out %6, out result%3 );%2", \
+        .javascript = SCRIPT_RESULT "%1var " LOCAL "%4 = \"%5\";%2"                                                    \
+                                    "%1var %6 = mDoc.Get" KIND "Manager().Create" KIND "(" LOCAL "%4)." KIND ";%2",    \
+        .vbNet = "%1Dim result%3 As Inkwright.iwCreateObjectResult_e%2%1Dim " LOCAL "%4 As String = \"%5\"%2"          \
+                 "%1iwApp.GetActiveDocument().Get" KIND "Manager().Create" KIND "( " LOCAL "%4, %6, result%3 )%2",     \
+        .vba = "%1Dim result%3 As Inkwright.iwCreateObjectResult_e%2%1Dim " LOCAL "%4 As String%2"                     \
+               "%1" LOCAL "%4 = \"%5\"%2"                                                                              \
+               "%1iwApp.GetActiveDocument().Get" KIND "Manager().Create" KIND " " LOCAL "%4, %6, result%3%2",          \
+    }
+
+static const Phrase createTableStyle{"EmitCreateTableStyle", INKMACRO_CREATE_STYLE("TableStyle", "tableStyleName", "")};
+static const Phrase createDimensionStyle{"EmitCreateDimensionStyle",
+                                         INKMACRO_CREATE_STYLE("DimensionStyle", "dimStyleName", "%1var result%3;%2")};
+static const Phrase createRichLineStyle{
+    "EmitCreateRichLineStyle", INKMACRO_CREATE_STYLE("RichLineStyle", "richLineStyleName", "%1var result%3;%2")};
+
+#undef INKMACRO_CREATE_STYLE
+
+static QString create(Writer& writer, const Phrase& phrase, const CFxString& styleName, const CFxString& name,
+                      bool hasResult = true)
+{
+    const std::uint32_t number = ++writer.UniqueCounter;
+    Fill statement = writer.fill(phrase);
+    if (hasResult)
+        statement.number(number);
+    return statement.number(number).text(styleName).text(name);
+}
+
+QString EmitCreateTableStyle(Writer& writer, const CFxString& styleName, const CFxString& name)
+{
+    return create(writer, createTableStyle, styleName, name, writer.target != Target::JavaScript);
+}
+
+QString EmitCreateDimensionStyle(Writer& writer, const CFxString& styleName, const CFxString& name)
+{
+    return create(writer, createDimensionStyle, styleName, name);
+}
+
+QString EmitCreateRichLineStyle(Writer& writer, const CFxString& styleName, const CFxString& name)
+{
+    return create(writer, createRichLineStyle, styleName, name);
+}
+
+static const Phrase loadLineStyle{
+    "EmitLoadLineStyle",
+    {
+        .cpp = "%1iwCreateObjectResult_e result%3;%2%1iwLineStyleManager_ptr LineStyleManager%3;%2"
+               "%1iwDoc->GetLineStyleManager(&LineStyleManager%3);%2"
+               "%1LineStyleManager%3->LoadLineStyle( L\"%4\",L\"%5\", &%6 , &result%3);%2",
+        .cppCom =
+            "%1pConnection->m_IwApp->GetActiveDocument()->GetLineStyleManager()->LoadLineStyle( L\"%3\", L\"%4\", "
+            "&%5 );%2",
+        .csharp = "%1iwApp.GetActiveDocument().GetLineStyleManager().LoadLineStyle( \"%3\",\"%4\", out %5 );%2",
+        .javascript = "%1var %5 = mDoc.GetLineStyleManager().LoadLineStyle(\"%3\",\"%4\").LineStyle;%2",
+        .vbNet = "%1iwApp.GetActiveDocument().GetLineStyleManager().LoadLineStyle( \"%3\",\"%4\", %5 )%2",
+        .vba = "%1iwApp.GetActiveDocument().GetLineStyleManager().LoadLineStyle \"%3\",\"%4\", %5%2",
+    }};
+
+QString EmitLoadLineStyle(Writer& writer, const CFxString& styleName, const CFxString& path, const CFxString& name)
+{
+    Fill statement = writer.fill(loadLineStyle);
+    if (writer.target == Target::Cpp)
+        statement.number(++writer.UniqueCounter);
+    return statement.text(styleName).text(path).text(name);
+}
+
+static const Phrase renameStyle{
+    "EmitRenameStyle",
+    {
+        .cpp = "%1iwCreateObjectResult_e result%3;%2%1iwString styleName%4 = L\"%5\";%2"
+               "%1%6->Rename( styleName%4, &result%3 );%2",
+        .cppCom = "%1iwCreateObjectResult_e result%3;%2%1BSTR styleName%4 = L\"%5\";%2"
+                  "%1result%3 = %6->Rename( styleName%4 );%2",
+        .csharp = "%1iwCreateObjectResult_e result%3;%2%1string styleName%4 = \"%5\";%2"
+                  "%1result%3 = %6.Rename( styleName%4 );%2",
+        .javascript = "%1var result%3;%2%1var styleName%4 = \"%5\";%2%1result%3 = %6.Rename( styleName%4 );%2",
+        .vbNet = "%1Dim result%3 As Inkwright.iwCreateObjectResult_e%2%1Dim styleName%4 As String = \"%5\"%2"
+                 "%1result%3 = %6.Rename( styleName%4 )%2",
+        .vba = "%1Dim result%3 As Inkwright.iwCreateObjectResult_e%2%1Dim styleName%4 As String%2"
+               "%1styleName%4 = \"%5\"%2%1result%3 = %6.Rename( styleName%4 )%2",
+    }};
+
+QString EmitRenameStyle(Writer& writer, const CFxString& style, const CFxString& newName, bool activate)
+{
+    const std::uint32_t number = ++writer.UniqueCounter;
+    const QString rename = writer.fill(renameStyle).number(number).number(number).text(newName).text(style);
+    return activate ? rename + EmitActivate(writer, style) : rename;
+}
+
+static const Phrase renameRichLineStyle{"EmitRenameRichLineStyle",
+                                        {
+                                            .cppCom = "%1%3->Rename(\"%4\");%2",
+                                            .csharp = "%1%3.Rename(\"%4\");%2",
+                                            .javascript = "%1%3.Rename(\"%4\");%2",
+                                            .vbNet = "%1%3.Rename(\"%4\")%2",
+                                            .vba = "%1%3.Rename( \"%4\" ) %2",
+                                        }};
+
+QString EmitRenameRichLineStyle(Writer& writer, const CFxString& style, const CFxString& newName)
+{
+    return writer.fill(renameRichLineStyle).text(style).text(newName);
+}
+
+/// In C++ the call has an answer, other than that of a custom action.
+static const Phrase activateLayer{"EmitActivateLayer",
+                                  {
+                                      .cpp = "%1bool bRes%4;%2%1%3->Activate( &bRes%4 );%2",
+                                  }};
+
+QString EmitActivateLayer(Writer& writer, const CFxString& variable)
+{
+    if (!activateLayer.has(writer.target))
+        return EmitActivate(writer, variable);
+    return writer.fill(activateLayer).text(variable).number(++writer.UniqueCounter);
+}
+
+static const Phrase replaceElement{
+    "EmitReplaceRichLineElement",
+    {
+        .cppCom = "%1%3->DeleteLine(%4);%2"
+                  "%1%3->AddLine(%5, pConnection->m_IwApp->GetColorByIndex( %6 ), L\"%7\");%2",
+        .csharp = "%1%3.DeleteLine(%4);%2%1%3.AddLine(%5, iwApp.GetColorByIndex( %6 ), \"%7\");%2",
+        .javascript = "%1%3.DeleteLine(%4);%2%1%3.AddLine(%5, mApp.GetColorByIndex(%6), \"%7\");%2",
+        .vbNet = "%1%3.DeleteLine(%4)%2%1%3.AddLine(%5, iwApp.GetColorByIndex( %6 ), \"%7\")%2",
+        .vba = "%1%3.DeleteLine %4%2%1%3.AddLine %5, iwApp.GetColorByIndex( %6 ), \"%7\"%2",
+    }};
+
+QString EmitReplaceRichLineElement(Writer& writer, const CFxString& style, int index, double offset, int color,
+                                   const CFxString& lineStyle)
+{
+    return writer.fill(replaceElement).text(style).number(index).real(offset).number(color).text(lineStyle);
+}
