@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -79,6 +80,7 @@ struct RawArguments
     std::string output;
     std::string installDir;
     std::string optionNames;
+    std::string lineStyles;
     std::string handle;
     int recordingLanguage = 0;
     bool replay = false;
@@ -113,6 +115,13 @@ OdDbHandle parseHandle(const QString& text)
     return handle;
 }
 
+QString parseDirectory(const char* option, const QString& path)
+{
+    if (!QFileInfo(path).isDir())
+        throw WrongUse(QString("%1: \"%2\" is not a directory").arg(option, path));
+    return path;
+}
+
 void checkFiles(const QStringList& files)
 {
     if (files.contains(QString()))
@@ -144,6 +153,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
         convert->add_option("--recording-language", raw.recordingLanguage)->check(CLI::Range(0, 5));
     const CLI::Option* const installDir = convert->add_option("--install-dir", raw.installDir);
     const CLI::Option* const optionNames = convert->add_option("--option-names", raw.optionNames);
+    const CLI::Option* const lineStyles = convert->add_option("--line-styles", raw.lineStyles);
     CLI::App* const inspect = app.add_subcommand("inspect");
     inspect->add_option("FILE", raw.files)->required()->expected(1);
     inspect->add_flag("--json", raw.json);
@@ -185,6 +195,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
         line.host.installDir = decodeName(raw.installDir);
     if (*optionNames)
         line.host.optionNames = decodeName(raw.optionNames);
+    if (*lineStyles)
+        line.host.lineStyles = parseDirectory("--line-styles", decodeName(raw.lineStyles));
     line.host.replay = raw.replay;
     return line;
 }
@@ -198,6 +210,8 @@ QStringList HostSettings::arguments() const
         arguments.append("--install-dir=" + *installDir);
     if (optionNames)
         arguments.append("--option-names=" + *optionNames);
+    if (lineStyles)
+        arguments.append("--line-styles=" + *lineStyles);
     if (replay)
         arguments.append("--replay");
     return arguments;
@@ -213,7 +227,7 @@ QString helpText()
 Usage:
   inkmacro convert FILE... --target TARGET[,TARGET...]|all [--output PATH]
                    [--replay] [--recording-language N] [--install-dir DIR]
-                   [--option-names FILE]
+                   [--option-names FILE] [--line-styles DIR]
   inkmacro inspect FILE [--json]
   inkmacro check FILE...
   inkmacro snapshot FILE --handle H [--json]
@@ -266,6 +280,11 @@ Options of convert:
       JSON object of variables and enumerators, like
       {"LTSCALE": "iwCommandOptionDouble_SetLTSCALE"}. They replace those that
       system-variables shows. Nothing is converted when the file is faulty.
+  --line-styles DIR
+      Where files of line styles (*.lin) are: a macro loads a recorded line
+      style from the first of them that holds it, those of the folders that
+      the recording names coming behind. A style without a file is loaded
+      under an empty file name, which is reported.
 
 Several files or targets are converted side by side; one that fails does not
 stop the others. Standard output holds the paths written, one a line, the macro

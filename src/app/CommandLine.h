@@ -25,6 +25,7 @@ struct HostSettings
     std::optional<int> recordingLanguage; ///< goes before what the recording says
     std::optional<QString> installDir;    ///< where the application is installed
     std::optional<QString> optionNames;   ///< file with the enumerators of system variables' options
+    std::optional<QString> lineStyles;    ///< directory of line style files, searched before those of the drawing
     bool replay = false;                  ///< whatever mode the recording says
 
     /// The same once more, for another process of this program.

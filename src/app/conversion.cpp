@@ -14,6 +14,7 @@
 #include "host/kernel/CFxServices.h"
 #include "recordfile/OpenDrawing.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace inkmacro {
@@ -47,6 +48,11 @@ std::int32_t runModule(const Job& job, const QString& macro, const Recording& re
         repeatFirstSnapshot(module, *recording.header.sheet);
 
     const OpenDrawing drawing(recording);
+    if (host.lineStyles) {
+        std::vector<OdString> folders = recording.database->lineStyleFolders();
+        folders.insert(folders.begin(), QDir(*host.lineStyles).absolutePath());
+        recording.database->setLineStyleFolders(std::move(folders));
+    }
     const ProgressLine line([&] { return "writing " + megabytes(QFileInfo(macro).size()); });
     const int mode = host.replay ? kReplay : recording.header.mode;
     return module->ConvertRecording(macro, code, static_cast<std::uint32_t>(mode),

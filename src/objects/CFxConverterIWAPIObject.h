@@ -75,6 +75,10 @@ public:
     void ConvertRows(const ChangeGroups& groups, PropertyList& list, bool takeOnly, const CFxString& name,
                      QString& text);
 
+    /// Heights and widths that are null are not known.
+    void RememberTable(const CFxString& table, std::int32_t rows, std::int32_t columns, const CFxVariant& height,
+                       const CFxVariant& width);
+
     // Changes that are more than a list of tags: ChangeHandler in objects/classTable.h.
     void ConvertModifiedLine(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
     void ConvertModifiedHatch(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
@@ -143,6 +147,11 @@ private:
                           const CFxVariant& erased);
 
     std::map<OdDbObjectId, QString> addedVariableById;
+    // What tables were made and changed to so far, by their variables.
+    std::map<CFxString, std::int32_t> tableRowCounts;
+    std::map<CFxString, std::int32_t> tableColumnCounts;
+    std::map<CFxString, double> tableHeights;
+    std::map<CFxString, double> tableWidths;
     CFxConverterIWAPIImpl& driver;
     Writer& writer; ///< the driver's
 

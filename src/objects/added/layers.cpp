@@ -5,6 +5,7 @@
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
+#include "objects/targets/styles.h"
 
 QString ReadLayer(AddedObject& added)
 {

@@ -15,12 +15,6 @@ using inkmacro::doubleBackslashes;
 
 namespace {
 
-/// The word of a value, whether it is plain text or the chosen one of several items.
-CFxString wordOf(const CFxVariant& value)
-{
-    return ChosenText(value).value_or(value.GetString());
-}
-
 CFxString nameOfTextStyle(const OdDbObjectId& id)
 {
     const auto style = odrxCast<OdDbTextStyleTableRecord>(id.openObject().get());

@@ -64,7 +64,7 @@ static const Phrase createDefinition{
                   "%1 objecttypes_%9,  %2%1 objects_%9, %2"
                   "%1 iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing );%2",
         .javascript = "%1 var %8 = mDoc.CreateBlockDefinition(%2%1 \"%3\", %2%1 \"%4\", %2%1 %5, %2%1 %6, %2%1 %7, %2"
-                      "%1 objecttypes_%9,  %2%1 objects_%9, %2%1 \"iwBlockDefinitionEntities_RemoveFromDrawing\" );%2",
+                      "%1 objecttypes_%9,  %2%1 objects_%9, %2%1 \"iwBlockDefinitionEntities_RemoveFromDrawing\");%2",
         .vbNet = "%1 %8 = iwDoc.CreateBlockDefinition( \"%3\", \"%4\", %5, %6, %7, objecttypes_%9, objects_%9, "
                  "Inkwright.iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing )%2",
         .vba = "%1 Set %8 = iwDoc.CreateBlockDefinition( \"%3\", \"%4\", %5, %6, %7, objecttypes_%9, objects_%9, "
@@ -85,7 +85,7 @@ static const Phrase renewDefinition{
                   "%1 iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing );%2",
         .javascript = "%1var blkName_%9 = %8.GetName();%2%2%1 var %8 = mDoc.CreateBlockDefinition(%2%1 %3, %2"
                       "%1 \"%4\", %2%1 %5, %2%1 %6, %2%1 %7, %2%1 objecttypes_%9,  %2%1 objects_%9, %2"
-                      "%1 \"iwBlockDefinitionEntities_RemoveFromDrawing\" );%2",
+                      "%1 \"iwBlockDefinitionEntities_RemoveFromDrawing\");%2",
         .vbNet = "%1Dim blkName_%9 As String = %8.GetName()%2%2%1 %8 = iwDoc.CreateBlockDefinition( %3, \"%4\", %5, "
                  "%6, %7, objecttypes_%9, objects_%9, "
                  "Inkwright.iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing )%2",

@@ -13,7 +13,7 @@ static const Phrase insertBlock{
         .cppCom = "%1 %11 = iwSketchManager->InsertBlock2(L\"%3\", %4, %5, %6, %7, %8, %9, %10 );%2",
         .csharp = "%1%11 = iwApp.GetActiveDocument().GetModel().GetSketchManager().InsertBlock2( \"%3\", %4, %5, %6, "
                   "%7, %8, %9, %10 );%2",
-        .javascript = "%1var %11 = mSkMgr.InsertBlock2( \"%3\", %4, %5, %6, %7, %8, %9, %10 );%2",
+        .javascript = "%1var %11 = mSkMgr.InsertBlock2(\"%3\", %4, %5, %6, %7, %8, %9, %10);%2",
         .vbNet = "%1%11 = iwSketchManager.InsertBlock2( \"%3\", %4, %5, %6, %7, %8, %9, %10 )%2",
         .vba = "%1Set %11 = iwSketchManager.InsertBlock2( \"%3\", %4, %5, %6, %7, %8, %9, %10 )%2",
     }};
@@ -26,7 +26,7 @@ static const Phrase insertAnonymousBlock{
         .cppCom = "%1 %11 = iwSketchManager->InsertBlock2(%3, %4, %5, %6, %7, %8, %9, %10 );%2",
         .csharp = "%1%11 = iwApp.GetActiveDocument().GetModel().GetSketchManager().InsertBlock2( %3, %4, %5, %6, %7, "
                   "%8, %9, %10 );%2",
-        .javascript = "%1var %11 = mSkMgr.InsertBlock2( %3, %4, %5, %6, %7, %8, %9, %10 );%2",
+        .javascript = "%1var %11 = mSkMgr.InsertBlock2(%3, %4, %5, %6, %7, %8, %9, %10);%2",
         .vbNet = "%1%11 = iwSketchManager.InsertBlock2( %3, %4, %5, %6, %7, %8, %9, %10 )%2",
         .vba = "%1Set %11 = iwSketchManager.InsertBlock2( %3, %4, %5, %6, %7, %8, %9, %10 )%2",
     }};
@@ -51,7 +51,7 @@ static const Phrase insertExternalReference{
         .cpp = "%1 iwSketchManager->InsertExternalReference(  L\"%3\", %4, %5, %6, %7, %8 ,&%9);%2",
         .cppCom = "%1 %9 = iwSketchManager->InsertExternalReference(  L\"%3\", %4, %5, %6, %7, %8 );%2",
         .csharp = "%1%9 = iwSketchManager.InsertExternalReference(  \"%3\", %4, %5, %6, %7, %8);%2",
-        .javascript = "%1var %9 = mSkMgr.InsertExternalReference(  \"%3\", %4, %5, %6, %7, %8);%2",
+        .javascript = "%1var %9 = mSkMgr.InsertExternalReference(\"%3\", %4, %5, %6, %7, %8);%2",
         .vbNet = "%1%9 = iwSketchManager.InsertExternalReference(  \"%3\", %4, %5, %6, %7, %8)%2",
         .vba = "%1Set %9 = iwSketchManager.InsertExternalReference(  \"%3\", %4, %5, %6, %7, %8)%2",
     }};
@@ -69,7 +69,7 @@ static const Phrase insertPicture{
         .cppCom = "%1%9 = iwSketchManager->InsertPicture( L\"%3\", %4, %5, %6, %7, %8 );%2",
         .csharp = "%1%9 = iwApp.GetActiveDocument().GetModel().GetSketchManager().InsertPicture(  \"%3\", %4, %5, %6, "
                   "%7, %8 );%2",
-        .javascript = "%1var %9 = mSkMgr.InsertPicture(  \"%3\", %4, %5, %6, %7, %8 );%2",
+        .javascript = "%1var %9 = mSkMgr.InsertPicture(\"%3\", %4, %5, %6, %7, %8);%2",
         .vbNet = "%1%9 = iwSketchManager.InsertPicture(  \"%3\", %4, %5, %6, %7, %8 )%2",
         .vba = "%1Set %9 = iwSketchManager.InsertPicture(  \"%3\", %4, %5, %6, %7, %8 )%2",
     }};
@@ -87,7 +87,7 @@ static const Phrase insertShape{"EmitInsertShape",
                                     .cpp = "%1iwSketchManager->InsertShape( L\"%3\", %4, %5, %6, %7, %8, &%9 );%2",
                                     .cppCom = "%1%9 = iwSketchManager->InsertShape( L\"%3\", %4, %5, %6, %7, %8 );%2",
                                     .csharp = "%1%9 = iwSketchManager.InsertShape( \"%3\", %4, %5, %6, %7, %8 );%2",
-                                    .javascript = "%1var %9 = mSkMgr.InsertShape( \"%3\", %4, %5, %6, %7, %8 );%2",
+                                    .javascript = "%1var %9 = mSkMgr.InsertShape(\"%3\", %4, %5, %6, %7, %8);%2",
                                     .vbNet = "%1%9 = iwSketchManager.InsertShape( \"%3\", %4, %5, %6, %7, %8 )%2",
                                     .vba = "%1Set %9 = iwSketchManager.InsertShape( \"%3\", %4, %5, %6, %7, %8 )%2",
                                 }};

@@ -20,7 +20,7 @@ static const Phrase createLayer{
                   "%1iwCreateObjectResult_e iwCreateObjectResult%5;%2"
                   "%1iwLayerManager%5.CreateLayer( \"%3\", out %4, out iwCreateObjectResult%5 );%2",
         .javascript = "%1var iwLayerManager%5 = mDoc.GetLayerManager();%2"
-                      "%1var %4 = iwLayerManager%5.CreateLayer( \"%3\" );%2",
+                      "%1var %4 = iwLayerManager%5.CreateLayer(\"%3\");%2",
         .vbNet = "%1Dim iwLayerManager%5 As Inkwright.LayerManager = iwDoc.GetLayerManager()%2"
                  "%1Dim iwCreateObjectResult%5 As Inkwright.iwCreateObjectResult_e%2"
                  "%1iwLayerManager%5.CreateLayer( \"%3\", %4, iwCreateObjectResult%5 )%2",
@@ -38,23 +38,4 @@ CFxString LayerOf(const CFxString& variable)
 {
     constexpr std::int16_t javaScript = 2;
     return RecordingLanguage() == javaScript ? CFxString(variable.toQString() + ".Layer") : variable;
-}
-
-static const Phrase activateLayer{"EmitActivateLayer",
-                                  {
-                                      .cpp = "%1bool bRes%4;%2%1%3->Activate( &bRes%4 );%2",
-                                      .cppCom = "%1%3->Activate();%2",
-                                      .csharp = "%1%3.Activate();%2",
-                                      .javascript = "%1%3.Activate();%2",
-                                      .vbNet = "%1%3.Activate()%2",
-                                      .vba = "%1%3.Activate%2",
-                                  }};
-
-QString EmitActivateLayer(Writer& writer, const CFxString& target)
-{
-    Fill activation = writer.fill(activateLayer);
-    activation.text(target);
-    if (writer.target == Target::Cpp)
-        activation.number(++writer.UniqueCounter);
-    return activation;
 }

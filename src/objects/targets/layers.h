@@ -5,5 +5,3 @@
 QString EmitCreateLayer(Writer& writer, const CFxString& layer, const CFxString& name);
 /// What the statements of a layer work on: a page's variable of a new layer is a result that has the layer.
 CFxString LayerOf(const CFxString& variable);
-/// Makes it the current one. `target` is the layer, or what else of the host can be activated in this way.
-QString EmitActivateLayer(Writer& writer, const CFxString& target);

@@ -66,21 +66,6 @@ QString EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows, i
     return call.text(name);
 }
 
-static const Phrase setCellText{"EmitSetCellText",
-                                {
-                                    .cpp = "%1%6->SetText( %3, %4, L\"%5\" );%2",
-                                    .cppCom = "%1%6->SetText( %3, %4, L\"%5\" );%2",
-                                    .csharp = "%1%6.SetText( %3, %4, \"%5\" );%2",
-                                    .javascript = "%1%6.SetText( %3, %4, \"%5\" );%2",
-                                    .vbNet = "%1%6.SetText( %3, %4, \"%5\" )%2",
-                                    .vba = "%1%6.SetText %3, %4, \"%5\"%2",
-                                }};
-
-QString EmitSetCellText(Writer& writer, const CFxString& table, int row, int column, const CFxString& text)
-{
-    return writer.fill(setCellText).number(row).number(column).text(text).text(table);
-}
-
 static const Phrase setRowHeightAt{"EmitSetRowHeightAt",
                                    {
                                        .cpp = "%1%5->SetRowHeightAt( %3, %4 );%2",
@@ -94,21 +79,6 @@ static const Phrase setRowHeightAt{"EmitSetRowHeightAt",
 QString EmitSetRowHeightAt(Writer& writer, const CFxString& table, int row, double height)
 {
     return writer.fill(setRowHeightAt).number(row).real(height).text(table);
-}
-
-static const Phrase setColumnWidthAt{"EmitSetColumnWidthAt",
-                                     {
-                                         .cpp = "%1%5->SetColumnWidthAt( %3, %4 );%2",
-                                         .cppCom = "%1%5->SetColumnWidthAt( %3, %4 );%2",
-                                         .csharp = "%1%5.SetColumnWidthAt( %3, %4 );%2",
-                                         .javascript = "%1%5.SetColumnWidthAt( %3, %4 );%2",
-                                         .vbNet = "%1%5.SetColumnWidthAt( %3, %4 )%2",
-                                         .vba = "%1%5.SetColumnWidthAt %3, %4%2",
-                                     }};
-
-QString EmitSetColumnWidthAt(Writer& writer, const CFxString& table, int column, double width)
-{
-    return writer.fill(setColumnWidthAt).number(column).real(width).text(table);
 }
 
 // Of the pieces of a scaling the last values are "Row" or "Column", "Height" or "Width", "height" or "width", behind
@@ -166,9 +136,9 @@ static const Phrase setScaledSize{"EmitScaleTableRows: set",
                                       .vba = "%1%2.Set%6%7At i%5, %8%5%3%4Next%3",
                                   }};
 
-QString EmitScaleTableRows(Writer& writer, const CFxString& table, TableLines lines, double coefficient)
+QString EmitScaleTableRows(Writer& writer, const CFxString& table, const CFxString& operation, double coefficient)
 {
-    const bool rows = lines == TableLines::Rows;
+    const bool rows = operation == CFxString("SetRowHeight");
     const QLatin1String line(rows ? "Row" : "Column");
     const QLatin1String measure(rows ? "Height" : "Width");
     const QLatin1String local(rows ? "height" : "width");
@@ -259,9 +229,9 @@ static const Phrase setDirection{"EmitTableStyleOrientation",
                                      .vba = "%1 %2.Direction= %3%4",
                                  }};
 
-QString EmitTableStyleOrientation(Writer& writer, const CFxString& target, TableOrientation orientation, bool down)
+QString EmitTableStyleOrientation(Writer& writer, const CFxString& target, const CFxString& object, bool down)
 {
-    const bool header = orientation == TableOrientation::Header;
+    const bool header = object == CFxString("TableStyle");
     const Phrase& phrase = header ? setHeaderOrientation : setDirection;
     const char* const type = header ? "iwTableHeaderOrientation" : "iwTableDirection";
     const char* const suffix = header ? (down ? "_Down" : "_Up") : (down ? "_TopToBottom" : "_BottomToTop");

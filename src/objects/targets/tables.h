@@ -15,31 +15,16 @@ std::array<int, 3> tableCellTypes(const OdDbTable& table);
 QString EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows, int columns, double rowHeight,
                         double columnWidth, const std::array<int, 3>& cellTypes, const CFxString& name);
 
-QString EmitSetCellText(Writer& writer, const CFxString& table, int row, int column, const CFxString& text);
 QString EmitSetRowHeightAt(Writer& writer, const CFxString& table, int row, double height);
-QString EmitSetColumnWidthAt(Writer& writer, const CFxString& table, int column, double width);
-
-/// Rows by their heights or columns by their widths.
-enum class TableLines
-{
-    Rows,
-    Columns
-};
-
-/// Multiplies the size of each line of the table.
-QString EmitScaleTableRows(Writer& writer, const CFxString& table, TableLines lines, double coefficient);
+/// Multiplies the size of each row or column of the table. `operation` is "SetRowHeight" or "SetColumnWidth".
+QString EmitScaleTableRows(Writer& writer, const CFxString& table, const CFxString& operation, double coefficient);
 
 QString EmitSetTableStyle(Writer& writer, const CFxString& table, const CFxString& styleName,
                           const CFxString& property);
 
-enum class TableOrientation
-{
-    Header,   ///< where the header of a table style stands
-    Direction ///< which way a table runs
-};
-
-/// `down`: from the top, with the header there.
-QString EmitTableStyleOrientation(Writer& writer, const CFxString& target, TableOrientation orientation, bool down);
+/// `object` is "TableStyle" for where the header of a style stands, "Table" for which way a table runs. `down`: from
+/// the top, with the header there.
+QString EmitTableStyleOrientation(Writer& writer, const CFxString& target, const CFxString& object, bool down);
 /// The numbers are the drawing's for cell types and borders. `weight` is in hundredths of a millimetre, -1 by layer, -2
 /// by block.
 QString EmitTableBordersLineWeight(Writer& writer, const CFxString& style, int cellType, int border, int weight);

@@ -1,0 +1,54 @@
+// Added faces, solids, traces and meshes. Of those that are not in the drawing only the records are written.
+
+#include "objects/targets/meshes.h"
+#include "host/db/OdDbClasses.h"
+#include "objects/AddedObject.h"
+#include "objects/added/readers.h"
+#include "objects/targets/setters.h"
+
+QString ReadFace(AddedObject& added)
+{
+    const OdArray<OdGePoint3d> corners = added.takePoints("Vertex");
+    std::array<bool, 4> edgesVisible{};
+    const char* const tags[] = {"Edge 1", "Edge 2", "Edge 3", "Edge 4"};
+    for (std::size_t i = 0; i < edgesVisible.size(); ++i)
+        edgesVisible[i] = wordOf(added.take(tags[i])) == ShownWord("Visible");
+    return EmitInsertFace(added.writer, corners, edgesVisible, added.name);
+}
+
+QString ReadSolid(AddedObject& added)
+{
+    return EmitInsertSolid(added.writer, added.takePoints("Vertex"), added.name);
+}
+
+QString ReadTrace(AddedObject& added)
+{
+    const QString text = EmitInsertTrace(added.writer, added.takePoints("Vertex"), added.name);
+    const auto trace = added.open<OdDbTrace>();
+    if (!trace)
+        return text;
+    return text + EmitSetDoubleProperty(added.writer, added.name, "Thickness", trace->thickness());
+}
+
+QString ReadPolygonMesh(AddedObject& added)
+{
+    const OdArray<OdGePoint3d> vertices = added.takePoints("Vertex");
+    const int rows = added.take("M vertex count").GetInt32();
+    const int columns = added.take("N vertex count").GetInt32();
+
+    QString text = EmitInsertPolygonMesh(added.writer, rows, columns, vertices, added.name);
+    const auto mesh = added.open<OdDbPolygonMesh>();
+    if (mesh && mesh->isMClosed())
+        text += EmitSetBoolProperty(added.writer, added.name, "MClosed", true);
+    if (mesh && mesh->isNClosed())
+        text += EmitSetBoolProperty(added.writer, added.name, "NClosed", true);
+    return text;
+}
+
+QString ReadPolyFaceMesh(AddedObject& added)
+{
+    const OdArray<OdGePoint3d> vertices = added.takePoints("Vertex");
+    const auto mesh = added.open<OdDbPolyFaceMesh>();
+    return EmitInsertPolyFaceMesh(added.writer, mesh ? mesh->numVertices() : 0, vertices,
+                                  mesh ? mesh->faces() : OdArray<OdDbFaceRecord>(), added.name);
+}

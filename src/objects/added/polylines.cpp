@@ -1,0 +1,73 @@
+// Added rich lines, polylines and splines. The records of a polyline hold its vertices only: arcs come as lines.
+
+#include "objects/targets/polylines.h"
+#include "objects/AddedObject.h"
+#include "objects/added/readers.h"
+#include "objects/targets/setters.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Of the choice between yes and no the first item is yes.
+bool takeClosed(AddedObject& added)
+{
+    const CFxVariant closed = added.take("Closed");
+    if (closed.GetType() == CFxVariant::kCollection)
+        return closed.GetCollection().GetChosen() == 0;
+    return wordOf(closed).equalNoCase(ShownWord("Yes"));
+}
+
+/// The drawing's number, 0 for a word that the property sheet does not show.
+int takeJustification(AddedObject& added)
+{
+    const CFxVariant justification = added.take("RLine justification");
+    if (justification.GetType() == CFxVariant::kCollection)
+        return justification.GetCollection().GetChosen();
+    const CFxString word = wordOf(justification);
+    const auto& rows = inkmacro::enums::richLineJustification.rows;
+    const auto row = std::find_if(rows.begin(), rows.end(),
+                                  [&](const auto& candidate) { return word.equalNoCase(ShownWord(candidate.text)); });
+    return row == rows.end() ? 0 : static_cast<int>(row - rows.begin()) + 1;
+}
+
+} // namespace
+
+QString ReadRichLine(AddedObject& added)
+{
+    const OdArray<OdGePoint3d> vertices = added.takePoints("vertices");
+    const int justification = takeJustification(added);
+    const double scale = added.takeReal("RLine scale", 0.0);
+    const CFxString style = wordOf(added.take("RLineStyle"));
+    const bool closed = added.take("closedMline").GetInt32() != 0;
+    return EmitInsertRichLine(added.writer, vertices, justification, scale, style, closed, added.name);
+}
+
+QString ReadPolyline3D(AddedObject& added)
+{
+    const OdArray<OdGePoint3d> vertices = added.takePoints("Vertex");
+    return EmitInsertPolyline3D(added.writer, vertices, takeClosed(added), added.name);
+}
+
+QString ReadPolyline(AddedObject& added)
+{
+    OdArray<OdGePoint2d> vertices;
+    for (const OdGePoint3d& vertex : added.takePoints("Vertex"))
+        vertices.append({vertex.x, vertex.y});
+    return EmitInsertPolyline2D(added.writer, vertices, takeClosed(added), added.name);
+}
+
+QString ReadSpline(AddedObject& added)
+{
+    const OdArray<OdGePoint3d> fitPoints = added.takePoints("Fit point");
+    const bool closed = takeClosed(added);
+    const OdGePoint3d start =
+        added.takePoint("Start tangent vector X", "Start tangent vector Y", "Start tangent vector Z");
+    const OdGePoint3d end = added.takePoint("End tangent vector X", "End tangent vector Y", "End tangent vector Z");
+    const CFxVariant tolerance = added.take("Fit tolerance");
+
+    const QString text = EmitInsertSpline(added.writer, fitPoints, closed, start, end, added.name);
+    if (tolerance.IsNull())
+        return text;
+    return text + EmitSetDoubleProperty(added.writer, added.name, "FitTolerance", tolerance.GetDouble());
+}

@@ -1,0 +1,79 @@
+// Added styles of tables, dimensions, rich lines and lines.
+
+#include "objects/targets/styles.h"
+#include "host/db/OdDbClasses.h"
+#include "host/kernel/CFxServices.h"
+#include "objects/AddedObject.h"
+#include "objects/added/readers.h"
+#include "objects/lineStyleFiles.h"
+#include "targets/wording.h"
+
+#include <functional>
+
+namespace {
+
+/// Whether the added style is that current one of the drawing.
+bool isCurrent(const OdDbObjectPtr& style, OdDbObjectId (OdDbDatabase::*current)() const)
+{
+    return style && style->objectId() == (ACTIVE_DOCUMENT->GetDatabase()->*current)();
+}
+
+/// A new style comes with lines of its own, each of which gives way to one of the recorded style: these are counted
+/// from the outermost. Of two lines in one place the later one counts.
+QString replaceElements(const AddedObject& added, const OdDbMlineStyle& style)
+{
+    std::map<double, OdDbMlineElement, std::greater<>> elements;
+    for (int i = 0; i < style.numElements(); ++i)
+        elements[style.getElementAt(i).offset] = style.getElementAt(i);
+
+    QString text;
+    int index = 0;
+    for (const auto& [offset, element] : elements) {
+        const auto lineStyle = odrxCast<OdDbLinetypeTableRecord>(element.linetypeId.openObject(true).get());
+        text += EmitReplaceRichLineElement(added.writer, added.name, index, offset, element.color.colorIndex(),
+                                           lineStyle ? lineStyle->getName() : OdString());
+        ++index;
+    }
+    return text;
+}
+
+} // namespace
+
+QString ReadTableStyle(AddedObject& added)
+{
+    const CFxString styleName = added.takeText("TableStyleName");
+    QString text = EmitCreateTableStyle(added.writer, styleName, added.name);
+    if (isCurrent(added.open<OdDbTableStyle>(), &OdDbDatabase::tablestyle))
+        text += EmitActivateLayer(added.writer, added.name);
+    return text + EmitRenameStyle(added.writer, added.name, styleName, false);
+}
+
+QString ReadDimensionStyle(AddedObject& added)
+{
+    return EmitCreateDimensionStyle(added.writer, added.takeText("DimensionStyleName"), added.name);
+}
+
+QString ReadRichLineStyle(AddedObject& added)
+{
+    QString text = EmitCreateRichLineStyle(added.writer, added.takeText("RichLineStyleName"), added.name);
+    const auto style = added.open<OdDbMlineStyle>();
+    if (!style)
+        return text;
+    if (isCurrent(style, &OdDbDatabase::currentRichLineStyleId))
+        text += EmitActivateLayer(added.writer, added.name);
+    return text + replaceElements(added, *style);
+}
+
+/// A style that no file holds is loaded all the same: the macro's user can fill in the file.
+QString ReadLineStyle(AddedObject& added)
+{
+    const CFxVariant value = added.take("Name");
+    if (value.IsNull())
+        return {};
+    const CFxString styleName = value.GetString();
+    const QString path = lineStyleFile(styleName);
+    if (path.isEmpty())
+        GetFxSystemServices()->ReportProblem(
+            QString("no file of line styles holds \"%1\", so the macro loads it without a file").arg(styleName));
+    return EmitLoadLineStyle(added.writer, styleName, inkmacro::doubleBackslashes(path), added.name);
+}

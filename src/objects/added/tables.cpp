@@ -1,0 +1,43 @@
+// Added tables. An insertion makes all rows of one height and all columns of one width.
+
+#include "objects/targets/tables.h"
+#include "host/db/OdDbClasses.h"
+#include "objects/AddedObject.h"
+#include "objects/added/readers.h"
+
+void CFxConverterIWAPIObject::RememberTable(const CFxString& table, std::int32_t rows, std::int32_t columns,
+                                            const CFxVariant& height, const CFxVariant& width)
+{
+    tableRowCounts[table] = rows;
+    tableColumnCounts[table] = columns;
+    if (!height.IsNull())
+        tableHeights[table] = height.GetDouble();
+    if (!width.IsNull())
+        tableWidths[table] = width.GetDouble();
+}
+
+/// The height of the insertion is that of the first row of data. Other heights behind it and other widths have no
+/// statement.
+QString ReadTable(AddedObject& added)
+{
+    const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
+    const std::int32_t rows = added.take("Rows").GetInt32();
+    const std::int32_t columns = added.take("Columns").GetInt32();
+    const auto table = added.open<OdDbTable>();
+    const double dataHeight = added.takeReal("RowHeight_2", 0.0);
+    const double width = added.takeReal("ColumnWidth_0", 0.0);
+    const std::array<int, 3> cellTypes = table ? tableCellTypes(*table) : std::array<int, 3>{};
+    QString text = EmitInsertTable(added.writer, position, rows, columns, dataHeight, width, cellTypes, added.name);
+
+    const CFxVariant tableHeight = added.take("Table height");
+    const CFxVariant tableWidth = added.take("Table width");
+    added.converter.RememberTable(added.name, rows, columns, tableHeight, tableWidth);
+
+    const char* const headTags[] = {"RowHeight_0", "RowHeight_1"};
+    for (int row = 0; row < 2; ++row) {
+        const double height = added.takeReal(headTags[row], dataHeight);
+        if (height != dataHeight)
+            text += EmitSetRowHeightAt(added.writer, added.name, row, height);
+    }
+    return text;
+}
