@@ -17,6 +17,7 @@ class StatementGroup;
 class Writer;
 struct BoundaryObject;
 struct ClassRow;
+struct TableLines;
 
 /// Which part of a collection's elements holds the handles.
 enum class HandlesIn
@@ -82,6 +83,8 @@ public:
     // Changes that are more than a list of tags: ChangeHandler in objects/classTable.h.
     void ConvertModifiedLine(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
     void ConvertModifiedHatch(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedBlockInstance(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedTable(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
 
     /// Takes the first record with that tag out of the list and gives its value, or the null value. The record's tag
     /// may be in the host's display language. `consumed` and `index` may be null; they receive the record, and its
@@ -137,6 +140,8 @@ private:
         bool searchesGroup;
     };
     const TagWords& WordsOf(const CFxString& tag);
+    /// The group of block attributes, in the host's display language.
+    const QString& BlockAttributes();
 
     // Steps of ConvertObjectChanges.
     bool AddressChangedObject(const OdRxClass* cls, const OdDbHandle& handle, const OdDbObjectId& noteLeader,
@@ -145,6 +150,15 @@ private:
                              QString& text);
     QString ConvertErased(const OdRxClass* cls, const OdDbHandle& handle, const CFxString& name,
                           const CFxVariant& erased);
+
+    // Steps of ConvertModifiedTable.
+    bool ConvertTableCount(const TableLines& lines, PropertyList& list, bool takeOnly, const CFxString& name,
+                           QString& text);
+    bool ConvertTableSizes(const TableLines& lines, PropertyList& list, bool takeOnly, const CFxString& name,
+                           QString& text);
+    bool ConvertCellTexts(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertTableSize(const TableLines& lines, PropertyList& list, bool takeOnly, bool told, const CFxString& name,
+                          QString& text);
 
     std::map<OdDbObjectId, QString> addedVariableById;
     // What tables were made and changed to so far, by their variables.
@@ -155,6 +169,6 @@ private:
     CFxConverterIWAPIImpl& driver;
     Writer& writer; ///< the driver's
 
-    QString blockAttributes; ///< the group of block attributes, in the host's display language
+    QString blockAttributes; ///< null until it is asked for
     QHash<QString, TagWords> tagWords;
 };

@@ -72,7 +72,9 @@ void CFxConverterIWAPIObject::ConvertRows(const ChangeGroups& groups, PropertyLi
                 if (row.kind.indexed && index == -1)
                     continue;
                 const CFxString target = objects.variable(part.on, text);
-                text += row.kind.statement({writer, row, target, value, index});
+                text += row.kind.statement({writer, row, target, value, index, number});
+                if (part.on && part.on->writtenBack)
+                    text += EmitSetOptions(writer, *part.on, objects.variable(part.on->owner, text), target);
             }
     }
 }

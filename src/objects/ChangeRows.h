@@ -16,7 +16,8 @@ struct Change
     const ChangeRow& row;
     const CFxString& target; ///< the variable that the statement sets it on
     const CFxVariant& value;
-    std::int32_t index; ///< within a repeated property, else -1
+    std::int32_t index;       ///< within a repeated property, else -1
+    const CFxVariant& number; ///< the record's number in whatever form it has
 };
 
 /// What a change becomes. A kind with axes stands for one tag an axis: its row holds what stands before the letter.

@@ -4,7 +4,8 @@
 
 // All kinds of change. Where nothing else is said, a kind sets the row's property to the value. A word is the value's
 // text as the property sheet shows it; an element is a value of choice type that came as the chosen item alone, and
-// kinds that begin with "chosen" take the item also from among all items, but write nothing where none is chosen.
+// kinds that begin with "chosen" take the item also from among all items, but write nothing where none is chosen; those
+// that begin with "any" take a plain value as well.
 namespace kinds {
 
 // Numbers.
@@ -24,17 +25,23 @@ extern const ChangeKind visible;
 extern const ChangeKind exactEnabled;
 /// Among all items the first one is "Yes", whatever it is called; a value of no choice type writes nothing.
 extern const ChangeKind yesOrFirst;
+extern const ChangeKind anyYes; ///< without regard to case; whatever is no "Yes" is false
+extern const ChangeKind chosenYes;
 
 // Members of an enumeration.
 ChangeKind enumText(const inkmacro::TextEnumeration& enumeration);   ///< by the element's word
 ChangeKind enumValue(const inkmacro::ValueEnumeration& enumeration); ///< by the element's number
 ChangeKind chosenEnumText(const inkmacro::TextEnumeration& enumeration);
+ChangeKind anyEnumText(const inkmacro::TextEnumeration& enumeration);
+ChangeKind anyEnumValue(const inkmacro::ValueEnumeration& enumeration); ///< by number
 
 // Texts.
 extern const ChangeKind quoted; ///< the element's word
 extern const ChangeKind chosenQuoted;
-extern const ChangeKind escaped;  ///< a plain text with what the target's quotes need
-extern const ChangeKind unquoted; ///< a plain text as it stands
+extern const ChangeKind anyQuoted;
+extern const ChangeKind doubledBackslashes; ///< of any value
+extern const ChangeKind escaped;            ///< a plain text with what the target's quotes need
+extern const ChangeKind unquoted;           ///< a plain text as it stands
 
 // Looks.
 extern const ChangeKind color;
@@ -42,10 +49,27 @@ extern const ChangeKind lineWeight;
 extern const ChangeKind arrow;          ///< by the element's number, with the row's operation
 extern const ChangeKind dimensionScale; ///< a given factor, with the row's operation
 
+// The looks of notes and curved texts.
+extern const ChangeKind noteDirection;
+extern const ChangeKind noteLineSpacing; ///< by number
+extern const ChangeKind fontParameter;   ///< on or off
+
+// The looks of tables and table styles. Those of cells have the cell type as the record's number, with the row's
+// operation where there is one.
+extern const ChangeKind tableStyle;
+extern const ChangeKind orientation; ///< the row has the object's word: "Table" or "TableStyle"
+extern const ChangeKind cellAlignment;
+extern const ChangeKind cellTextStyle;
+extern const ChangeKind cellColor;
+extern const ChangeKind cellLength;
+extern const ChangeKind gridColor; ///< the record's number is an element: the cell type and, as value, the line
+extern const ChangeKind gridLineWeight;
+
 // A coordinate of a point that the host reads and writes as a whole: by "Get" and "Set" in front of the property, or
 // by a pair of operations that belongs to the kind.
 extern const ChangeKind point;
 extern const ChangeKind indexedPoint;
+extern const ChangeKind scale; ///< of a block
 extern const ChangeKind position;
 extern const ChangeKind firstPoint;
 extern const ChangeKind secondPoint;
@@ -54,5 +78,9 @@ extern const ChangeKind vertex2D;
 /// The host counts these from 1 and has a pair of operations for each.
 extern const ChangeKind numberedVertex;
 extern const ChangeKind faceVertex; ///< there are four
+
+// Names of styles.
+extern const ChangeKind textStyleName;
+extern const ChangeKind styleName; ///< of another one
 
 } // namespace kinds

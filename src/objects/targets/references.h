@@ -8,7 +8,5 @@ QString EmitGetObjectByHandle(Writer& writer, const CFxString& type, const CFxSt
 QString EmitGetNoteAnnotation(Writer& writer, const CFxString& note, const CFxString& leader);
 /// Declares a variable that the recording itself has not.
 QString EmitDeclareObject(Writer& writer, const char* interfaceName, const CFxString& name);
-QString EmitGetCurvedTextSettings(Writer& writer, const CFxString& name, CFxString& settings);
-QString EmitSetCurvedTextSettings(Writer& writer, const CFxString& name, const CFxString& settings);
 QString EmitRemoveNamedView(Writer& writer, const CFxString& name, const CFxString& viewName, bool paperspace);
 QString EmitRemoveLayer(Writer& writer, const CFxString& name);
