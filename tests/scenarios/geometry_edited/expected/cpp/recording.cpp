@@ -69,34 +69,164 @@ bool CMacroCommand::ExecuteNotify(void)
     }
 
     iwPolyLine_ptr iwpolyline1;
+    iwDoubleArray Coordinates1;
+    Coordinates1.clear();
+
+
+    iwSketchManager->InsertPolyline2D( Coordinates1, false, &iwpolyline1 );
+    iwColor_ptr iwColor2;
+    m_pIwApp->GetColorByIndex( 256, &iwColor2 );
+    iwpolyline1->put_Color( iwColor2 );
+    iwpolyline1->put_Layer( L"Walls" );
+    iwpolyline1->put_LineStyle( L"Continuous" );
+    iwpolyline1->put_LineScale( 1.00000000000000 );
+    iwpolyline1->put_LineWeight( iwLnWt_ByLayer );
+    iwpolyline1->put_Thickness( 0.00000000000000 );
     iwPolyLine3D_ptr iwpolyline3d2;
+    iwDoubleArray Coordinates3;
+    Coordinates3.clear();
+
+
+    iwSketchManager->InsertPolyline3D( Coordinates3, false, &iwpolyline3d2 );
+    iwColor_ptr iwColor4;
+    m_pIwApp->GetColorByIndex( 256, &iwColor4 );
+    iwpolyline3d2->put_Color( iwColor4 );
+    iwpolyline3d2->put_Layer( L"Walls" );
+    iwpolyline3d2->put_LineStyle( L"Continuous" );
+    iwpolyline3d2->put_LineScale( 1.00000000000000 );
+    iwpolyline3d2->put_LineWeight( iwLnWt_ByLayer );
+    iwpolyline3d2->put_Thickness( 0.00000000000000 );
     iwSpline_ptr iwspline3;
+    iwDoubleArray Coordinates5;
+    Coordinates5.clear();
+
+
+    iwSketchManager->InsertSpline( Coordinates5, false, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, &iwspline3 );
+    iwColor_ptr iwColor6;
+    m_pIwApp->GetColorByIndex( 256, &iwColor6 );
+    iwspline3->put_Color( iwColor6 );
+    iwspline3->put_Layer( L"Walls" );
+    iwspline3->put_LineStyle( L"Continuous" );
+    iwspline3->put_LineScale( 1.00000000000000 );
+    iwspline3->put_LineWeight( iwLnWt_ByLayer );
+    iwspline3->put_Thickness( 0.00000000000000 );
     iwPolygonMesh_ptr iwpolygonmesh4;
+    iwDoubleArray Coordinates7;
+    Coordinates7.clear();
+
+
+    iwSketchManager->InsertPolygonMesh( 0, 0, Coordinates7, &iwpolygonmesh4 );
+    iwColor_ptr iwColor8;
+    m_pIwApp->GetColorByIndex( 256, &iwColor8 );
+    iwpolygonmesh4->put_Color( iwColor8 );
+    iwpolygonmesh4->put_Layer( L"Walls" );
+    iwpolygonmesh4->put_LineStyle( L"Continuous" );
+    iwpolygonmesh4->put_LineScale( 1.00000000000000 );
+    iwpolygonmesh4->put_LineWeight( iwLnWt_ByLayer );
+    iwpolygonmesh4->put_Thickness( 0.00000000000000 );
     iwPolyFaceMesh_ptr iwpolyfacemesh5;
+    iwDoubleArray Coordinates9;
+    iwLongArray FaceVerticesCountLongArray9;
+    iwLongArray FaceVerticesLongArray9;
+
+    Coordinates9.clear();
+    FaceVerticesCountLongArray9.clear();
+    FaceVerticesLongArray9.clear();
+
+
+
+
+    iwSketchManager->InsertPolyFaceMesh( 0, Coordinates9, FaceVerticesCountLongArray9, FaceVerticesLongArray9, &iwpolyfacemesh5 );
+    iwColor_ptr iwColor10;
+    m_pIwApp->GetColorByIndex( 256, &iwColor10 );
+    iwpolyfacemesh5->put_Color( iwColor10 );
+    iwpolyfacemesh5->put_Layer( L"Walls" );
+    iwpolyfacemesh5->put_LineStyle( L"Continuous" );
+    iwpolyfacemesh5->put_LineScale( 1.00000000000000 );
+    iwpolyfacemesh5->put_LineWeight( iwLnWt_ByLayer );
+    iwpolyfacemesh5->put_Thickness( 0.00000000000000 );
     iwSolid_ptr iwsolid6;
+    iwDoubleArray Coordinates11;
+    Coordinates11.clear();
+
+
+    iwSketchManager->InsertSolid( Coordinates11, &iwsolid6 );
+    iwColor_ptr iwColor12;
+    m_pIwApp->GetColorByIndex( 256, &iwColor12 );
+    iwsolid6->put_Color( iwColor12 );
+    iwsolid6->put_Layer( L"Walls" );
+    iwsolid6->put_LineStyle( L"Continuous" );
+    iwsolid6->put_LineScale( 1.00000000000000 );
+    iwsolid6->put_LineWeight( iwLnWt_ByLayer );
+    iwsolid6->put_Thickness( 0.00000000000000 );
     iwTrace_ptr iwtrace7;
+    iwDoubleArray Coordinates13;
+    Coordinates13.clear();
+
+
+    iwSketchManager->InsertTrace( Coordinates13, &iwtrace7 );
+    iwColor_ptr iwColor14;
+    m_pIwApp->GetColorByIndex( 256, &iwColor14 );
+    iwtrace7->put_Color( iwColor14 );
+    iwtrace7->put_Layer( L"Walls" );
+    iwtrace7->put_LineStyle( L"Continuous" );
+    iwtrace7->put_LineScale( 1.00000000000000 );
+    iwtrace7->put_LineWeight( iwLnWt_ByLayer );
+    iwtrace7->put_Thickness( 0.00000000000000 );
     iwFace_ptr iwface8;
+    iwDoubleArray Coordinates15;
+    Coordinates15.clear();
+
+
+     iwSketchManager->InsertFace(
+     Coordinates15,
+     false,
+     false,
+     false ,false ,&iwface8);
+    iwColor_ptr iwColor16;
+    m_pIwApp->GetColorByIndex( 256, &iwColor16 );
+    iwface8->put_Color( iwColor16 );
+    iwface8->put_Layer( L"Walls" );
+    iwface8->put_LineStyle( L"Continuous" );
+    iwface8->put_LineScale( 1.00000000000000 );
+    iwface8->put_LineWeight( iwLnWt_ByLayer );
+    iwface8->put_Thickness( 0.00000000000000 );
     iwRichLine_ptr iwrichline9;
+    iwDoubleArray Coordinates17;
+    Coordinates17.clear();
+
+
+    iwSketchManager->InsertRichLine( Coordinates17, iwRichLineJustification_Top, 0.00000000000000, L"", false, &iwrichline9 );
+    iwColor_ptr iwColor18;
+    m_pIwApp->GetColorByIndex( 256, &iwColor18 );
+    iwrichline9->put_Color( iwColor18 );
+    iwrichline9->put_Layer( L"Walls" );
+    iwrichline9->put_LineStyle( L"Continuous" );
+    iwrichline9->put_LineScale( 1.00000000000000 );
+    iwrichline9->put_LineWeight( iwLnWt_ByLayer );
+    iwrichline9->put_Thickness( 0.00000000000000 );
     iwShape_ptr iwshape10;
     iwEmbeddedObject_ptr iwembeddedobject11;
     iwViewport_ptr iwviewport12;
     iwRotatedDimension_ptr iwrotateddimension13;
-    iwDoubleArray Coordinates1,Coordinates2,Coordinates3;
-    Coordinates1.clear();Coordinates2.clear();Coordinates3.clear(); 
-    Coordinates1.add(0.00000000000000);Coordinates1.add(0.00000000000000);Coordinates1.add(0.00000000000000);
-    Coordinates2.add(0.00000000000000);Coordinates2.add(0.00000000000000);Coordinates2.add(0.00000000000000);
-    Coordinates3.add(0.00000000000000);Coordinates3.add(0.00000000000000);Coordinates3.add(0.00000000000000);
-    iwSketchManager->InsertRotatedDimension( Coordinates1, Coordinates2, Coordinates3, L"", 0, &iwrotateddimension13 );
-        iwGeneralDimension_ptr generalDimension1;
-        iwrotateddimension13->GetGeneralDimension( &generalDimension1 );
-    iwColor_ptr iwColor2;
-    m_pIwApp->GetColorByIndex( 256, &iwColor2 );
-    generalDimension1->put_Color( iwColor2 );
-    generalDimension1->put_Layer( L"Walls" );
-    generalDimension1->put_LineStyle( L"Continuous" );
-    generalDimension1->put_LineScale( 1.00000000000000 );
-    generalDimension1->put_LineWeight( iwLnWt_ByLayer );
-    generalDimension1->put_Thickness( 0.00000000000000 );
+    {
+        iwDoubleArray Coordinates1,Coordinates2,Coordinates3;
+        Coordinates1.clear();Coordinates2.clear();Coordinates3.clear(); 
+        Coordinates1.add(0.00000000000000);Coordinates1.add(0.00000000000000);Coordinates1.add(0.00000000000000);
+        Coordinates2.add(0.00000000000000);Coordinates2.add(0.00000000000000);Coordinates2.add(0.00000000000000);
+        Coordinates3.add(0.00000000000000);Coordinates3.add(0.00000000000000);Coordinates3.add(0.00000000000000);
+        iwSketchManager->InsertRotatedDimension( Coordinates1, Coordinates2, Coordinates3, L"", 0, &iwrotateddimension13 );
+            iwGeneralDimension_ptr generalDimension1;
+            iwrotateddimension13->GetGeneralDimension( &generalDimension1 );
+        iwColor_ptr iwColor2;
+        m_pIwApp->GetColorByIndex( 256, &iwColor2 );
+        generalDimension1->put_Color( iwColor2 );
+        generalDimension1->put_Layer( L"Walls" );
+        generalDimension1->put_LineStyle( L"Continuous" );
+        generalDimension1->put_LineScale( 1.00000000000000 );
+        generalDimension1->put_LineWeight( iwLnWt_ByLayer );
+        generalDimension1->put_Thickness( 0.00000000000000 );
+    }
     iwModelNamedView_ptr iwmodelnamedview14;
     {
         double X;
@@ -107,12 +237,12 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolyline1->SetVertexCoordinate( 2, X, Y, &retVal );
     }
     {
-        bool bRetVal3 = false;
-        iwpolyline1->SetSegmentStartWidth( 0, 0.25000000000000, &bRetVal3 );
+        bool bRetVal19 = false;
+        iwpolyline1->SetSegmentStartWidth( 0, 0.25000000000000, &bRetVal19 );
     }
     {
-        bool bRetVal4 = false;
-        iwpolyline1->SetSegmentEndWidth( 0, 0.50000000000000, &bRetVal4 );
+        bool bRetVal20 = false;
+        iwpolyline1->SetSegmentEndWidth( 0, 0.50000000000000, &bRetVal20 );
     }
     // AcDbPolyline object modified
     {
@@ -127,13 +257,13 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolyline1->put_LineStyleGeneration( false );
     }
     {
-        double X5;
-        double Y5;
-        double Z5;
-        bool bRetVal5 = false;
-        iwpolyline3d2->GetVertexCoordinate( 1, &X5, &Y5, &Z5, &bRetVal5 );
-        Z5 = 7.00000000000000;
-        iwpolyline3d2->SetVertexCoordinate( 1, X5, Y5, Z5, &bRetVal5 );
+        double X21;
+        double Y21;
+        double Z21;
+        bool bRetVal21 = false;
+        iwpolyline3d2->GetVertexCoordinate( 1, &X21, &Y21, &Z21, &bRetVal21 );
+        Z21 = 7.00000000000000;
+        iwpolyline3d2->SetVertexCoordinate( 1, X21, Y21, Z21, &bRetVal21 );
     }
     // AcDb3dPolyline object modified
     {
@@ -141,35 +271,35 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolyline3d2->put_Closed( true );
     }
     {
-        double X6;
-        double Y6;
-        double Z6;
-        bool bRetVal6 = false;
-        iwspline3->GetControlPointCoordinate( 0, &X6, &Y6, &Z6, &bRetVal6 );
-        X6 = 3.00000000000000;
-        iwspline3->SetControlPointCoordinate( 0, X6, Y6, Z6, &bRetVal6 );
+        double X22;
+        double Y22;
+        double Z22;
+        bool bRetVal22 = false;
+        iwspline3->GetControlPointCoordinate( 0, &X22, &Y22, &Z22, &bRetVal22 );
+        X22 = 3.00000000000000;
+        iwspline3->SetControlPointCoordinate( 0, X22, Y22, Z22, &bRetVal22 );
     }
     {
-        double X7;
-        double Y7;
-        double Z7;
-        bool bRetVal7 = false;
-        iwspline3->GetFitPointCoordinate( 3, &X7, &Y7, &Z7, &bRetVal7 );
-        Y7 = 4.00000000000000;
-        iwspline3->SetFitPointCoordinate( 3, X7, Y7, Z7, &bRetVal7 );
+        double X23;
+        double Y23;
+        double Z23;
+        bool bRetVal23 = false;
+        iwspline3->GetFitPointCoordinate( 3, &X23, &Y23, &Z23, &bRetVal23 );
+        Y23 = 4.00000000000000;
+        iwspline3->SetFitPointCoordinate( 3, X23, Y23, Z23, &bRetVal23 );
     }
     // AcDbSpline object modified
     {
         iwspline3->put_FitTolerance( 0.00100000000000 );
     }
     {
-        double X8;
-        double Y8;
-        double Z8;
-        bool bRetVal8 = false;
-        iwpolygonmesh4->GetVertexCoordinate( 0, &X8, &Y8, &Z8, &bRetVal8 );
-        X8 = 5.00000000000000;
-        iwpolygonmesh4->SetVertexCoordinate( 0, X8, Y8, Z8, &bRetVal8 );
+        double X24;
+        double Y24;
+        double Z24;
+        bool bRetVal24 = false;
+        iwpolygonmesh4->GetVertexCoordinate( 0, &X24, &Y24, &Z24, &bRetVal24 );
+        X24 = 5.00000000000000;
+        iwpolygonmesh4->SetVertexCoordinate( 0, X24, Y24, Z24, &bRetVal24 );
     }
     // AcDbPolygonMesh object modified
     {
@@ -180,29 +310,29 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolygonmesh4->put_FitSmooth( iwPolygonMeshFitSmooth_Bezier );
     }
     {
-        double X9;
-        double Y9;
-        double Z9;
-        bool bRetVal9 = false;
-        iwpolyfacemesh5->GetVertexCoordinate( 5, &X9, &Y9, &Z9, &bRetVal9 );
-        Y9 = 6.00000000000000;
-        iwpolyfacemesh5->SetVertexCoordinate( 5, X9, Y9, Z9, &bRetVal9 );
+        double X25;
+        double Y25;
+        double Z25;
+        bool bRetVal25 = false;
+        iwpolyfacemesh5->GetVertexCoordinate( 5, &X25, &Y25, &Z25, &bRetVal25 );
+        Y25 = 6.00000000000000;
+        iwpolyfacemesh5->SetVertexCoordinate( 5, X25, Y25, Z25, &bRetVal25 );
     }
     {
-        double X10;
-        double Y10;
-        double Z10;
-        iwsolid6->GetVertex1Coordinate( &X10, &Y10, &Z10 );
-        X10 = 1.00000000000000;
-        iwsolid6->SetVertex1Coordinate( X10, Y10, Z10 );
+        double X26;
+        double Y26;
+        double Z26;
+        iwsolid6->GetVertex1Coordinate( &X26, &Y26, &Z26 );
+        X26 = 1.00000000000000;
+        iwsolid6->SetVertex1Coordinate( X26, Y26, Z26 );
     }
     {
-        double X11;
-        double Y11;
-        double Z11;
-        iwtrace7->GetVertex4Coordinate( &X11, &Y11, &Z11 );
-        Z11 = 2.00000000000000;
-        iwtrace7->SetVertex4Coordinate( X11, Y11, Z11 );
+        double X27;
+        double Y27;
+        double Z27;
+        iwtrace7->GetVertex4Coordinate( &X27, &Y27, &Z27 );
+        Z27 = 2.00000000000000;
+        iwtrace7->SetVertex4Coordinate( X27, Y27, Z27 );
     }
     // AcDbFace object modified
     {
@@ -210,12 +340,12 @@ bool CMacroCommand::ExecuteNotify(void)
         iwface8->put_Edge4Visible( false );
     }
     {
-        double X12;
-        double Y12;
-        double Z12;
-        iwface8->GetVertex4Coordinate( &X12, &Y12, &Z12 );
-        X12 = 1.00000000000000;
-        iwface8->SetVertex4Coordinate( X12, Y12, Z12 );
+        double X28;
+        double Y28;
+        double Z28;
+        iwface8->GetVertex4Coordinate( &X28, &Y28, &Z28 );
+        X28 = 1.00000000000000;
+        iwface8->SetVertex4Coordinate( X28, Y28, Z28 );
     }
     // AcDbMline object modified
     {
@@ -224,12 +354,12 @@ bool CMacroCommand::ExecuteNotify(void)
     }
     // AcDbShape object modified
     {
-        double X13;
-        double Y13;
-        double Z13;
-        iwshape10->GetPosition( &X13, &Y13, &Z13 );
-        X13 = 1.00000000000000;
-        iwshape10->SetPosition( X13, Y13, Z13 );
+        double X29;
+        double Y29;
+        double Z29;
+        iwshape10->GetPosition( &X29, &Y29, &Z29 );
+        X29 = 1.00000000000000;
+        iwshape10->SetPosition( X29, Y29, Z29 );
         iwshape10->put_Obliquing( 0.10000000000000 );
         iwshape10->put_Rotation( 0.20000000000000 );
         iwshape10->put_Size( 3.00000000000000 );
@@ -238,23 +368,23 @@ bool CMacroCommand::ExecuteNotify(void)
     // AcDbOle2Frame object modified
     {
         iwembeddedobject11->put_Height( 2.00000000000000 );
-        double X14;
-        double Y14;
-        double Z14;
-        iwembeddedobject11->GetPosition( &X14, &Y14, &Z14 );
-        Y14 = 1.00000000000000;
-        iwembeddedobject11->SetPosition( X14, Y14, Z14 );
+        double X30;
+        double Y30;
+        double Z30;
+        iwembeddedobject11->GetPosition( &X30, &Y30, &Z30 );
+        Y30 = 1.00000000000000;
+        iwembeddedobject11->SetPosition( X30, Y30, Z30 );
         iwembeddedobject11->put_Width( 3.00000000000000 );
         iwembeddedobject11->put_PrintQuality( iwEmbeddedObjectPrintQuality_HighGraphics );
     }
     // AcDbViewport object modified
     {
-        double X15;
-        double Y15;
-        double Z15;
-        iwviewport12->GetCenter( &X15, &Y15, &Z15 );
-        X15 = 5.00000000000000;
-        iwviewport12->SetCenter( X15, Y15, Z15 );
+        double X31;
+        double Y31;
+        double Z31;
+        iwviewport12->GetCenter( &X31, &Y31, &Z31 );
+        X31 = 5.00000000000000;
+        iwviewport12->SetCenter( X31, Y31, Z31 );
         iwviewport12->put_Height( 4.00000000000000 );
         iwviewport12->put_CCSPerViewport( true );
         iwviewport12->put_CustomScale( 0.50000000000000 );
@@ -264,22 +394,22 @@ bool CMacroCommand::ExecuteNotify(void)
         iwviewport12->put_StandardScale( iwViewportStandardScale_1_2 );
     }
     // AcDbRotatedDimension object modified
-        iwGeneralDimension_ptr generalDimension16;
-        iwrotateddimension13->GetGeneralDimension( &generalDimension16 );
-    iwColor_ptr iwColor17;
-    m_pIwApp->GetColorByIndex( 2, &iwColor17 );
-    generalDimension16->put_Color( iwColor17 );
+        iwGeneralDimension_ptr generalDimension32;
+        iwrotateddimension13->GetGeneralDimension( &generalDimension32 );
+    iwColor_ptr iwColor33;
+    m_pIwApp->GetColorByIndex( 2, &iwColor33 );
+    generalDimension32->put_Color( iwColor33 );
     // AcDbRotatedDimension object modified
     {
-        iwGeneralDimension_ptr generalDimension18;
-        iwrotateddimension13->GetGeneralDimension( &generalDimension18 );
-        generalDimension18->put_Layer( L"Walls" );
+        iwGeneralDimension_ptr generalDimension34;
+        iwrotateddimension13->GetGeneralDimension( &generalDimension34 );
+        generalDimension34->put_Layer( L"Walls" );
     }
     // AcDbRotatedDimension object modified
     {
-        iwGeneralDimension_ptr generalDimension20;
-        iwrotateddimension13->GetGeneralDimension( &generalDimension20 );
-        generalDimension20->put_Erased( true );
+        iwGeneralDimension_ptr generalDimension36;
+        iwrotateddimension13->GetGeneralDimension( &generalDimension36 );
+        generalDimension36->put_Erased( true );
     }
     // AcDbBlockTableRecord object modified
     iwBlockDefinition_ptr iwblockdefinition15;
@@ -292,12 +422,12 @@ bool CMacroCommand::ExecuteNotify(void)
     iwLayerManager_1->GetLayer( L"0", &iwlayer16 );
     // AcDbLayerTableRecord object modified
     {
-        iwLayerManager_ptr iwLayerManager22;
-        iwDoc->GetLayerManager( &iwLayerManager22 );
-        iwString layerName22;
-        iwlayer16->get_Name( &layerName22 );
-        bool bResult22 = false;
-        iwLayerManager22->RemoveLayer( layerName22, &bResult22 );
+        iwLayerManager_ptr iwLayerManager38;
+        iwDoc->GetLayerManager( &iwLayerManager38 );
+        iwString layerName38;
+        iwlayer16->get_Name( &layerName38 );
+        bool bResult38 = false;
+        iwLayerManager38->RemoveLayer( layerName38, &bResult38 );
     }
     // AcDbViewTableRecord object modified
     {

@@ -118,68 +118,214 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     }
 
     IPolyLinePtr polyline1;
+    VARIANT variant1;
+    variant1.vt = ( VT_ARRAY | VT_R8 );
+    variant1.parray = SafeArrayCreateVector( VT_R8, 0, 0 );
+    long rgIndices1;
+    rgIndices1 = -1;
+    double x, y;
+
+    polyline1=iwSketchManager->InsertPolyline2D( variant1, false);
+    polyline1->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    polyline1->put_Layer( L"Walls" );
+    polyline1->put_LineStyle( L"Continuous" );
+    polyline1->put_LineScale( 1.00000000000000 );
+    polyline1->put_LineWeight( iwLnWt_ByLayer );
+    polyline1->put_Thickness( 0.00000000000000 );
     IPolyLine3DPtr polyline3d2;
+    VARIANT variant2;
+    variant2.vt = ( VT_ARRAY | VT_R8 );
+    variant2.parray = SafeArrayCreateVector( VT_R8, 0, 0 );
+    long rgIndices2;
+    rgIndices2 = -1;
+    double x_2, y_2, z_2;
+
+    polyline3d2 = iwSketchManager->InsertPolyline3D( variant2, false );
+    polyline3d2->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    polyline3d2->put_Layer( L"Walls" );
+    polyline3d2->put_LineStyle( L"Continuous" );
+    polyline3d2->put_LineScale( 1.00000000000000 );
+    polyline3d2->put_LineWeight( iwLnWt_ByLayer );
+    polyline3d2->put_Thickness( 0.00000000000000 );
     ISplinePtr spline3;
+    VARIANT variant3;
+    variant3.vt = ( VT_ARRAY | VT_R8 );
+    variant3.parray = SafeArrayCreateVector( VT_R8, 0, 0 );
+    long rgIndices3;
+    rgIndices3 = -1;
+    double x_3, y_3, z_3;
+
+    spline3 = iwSketchManager->InsertSpline( variant3, false, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 );
+    spline3->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    spline3->put_Layer( L"Walls" );
+    spline3->put_LineStyle( L"Continuous" );
+    spline3->put_LineScale( 1.00000000000000 );
+    spline3->put_LineWeight( iwLnWt_ByLayer );
+    spline3->put_Thickness( 0.00000000000000 );
     IPolygonMeshPtr polygonmesh4;
+    VARIANT variant4;
+    variant4.vt = ( VT_ARRAY | VT_R8 );
+    variant4.parray = SafeArrayCreateVector( VT_R8, 0, 0 );
+    long rgIndices4;
+    rgIndices4 = -1;
+    double x_4, y_4, z_4;
+
+    polygonmesh4 = iwSketchManager->InsertPolygonMesh( 0, 0, variant4 );
+    polygonmesh4->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    polygonmesh4->put_Layer( L"Walls" );
+    polygonmesh4->put_LineStyle( L"Continuous" );
+    polygonmesh4->put_LineScale( 1.00000000000000 );
+    polygonmesh4->put_LineWeight( iwLnWt_ByLayer );
+    polygonmesh4->put_Thickness( 0.00000000000000 );
     IPolyFaceMeshPtr polyfacemesh5;
+    VARIANT variant5;
+    variant5.vt = ( VT_ARRAY | VT_R8 );
+    variant5.parray = SafeArrayCreateVector( VT_R8, 0, 0 );
+    VARIANT FaceVerticesCountLongArray6;
+    FaceVerticesCountLongArray6.vt = ( VT_ARRAY | VT_I4 );
+    FaceVerticesCountLongArray6.parray = SafeArrayCreateVector( VT_I4, 0, 0 );
+    VARIANT FaceVerticesLongArray7;
+    FaceVerticesLongArray7.vt = ( VT_ARRAY | VT_I4 );
+    FaceVerticesLongArray7.parray = SafeArrayCreateVector( VT_I4, 0, 0 );
+    long rgIndices5;
+    rgIndices5 = -1;
+    double x_5, y_5, z_5;
+
+    long rgIndices6;
+    rgIndices6 = 0;
+    int val6;
+
+    long rgIndices7;
+    rgIndices7 = 0;
+    int val7;
+
+    polyfacemesh5 = iwSketchManager->InsertPolyFaceMesh( 0, variant5, FaceVerticesCountLongArray6, FaceVerticesLongArray7 );
+    polyfacemesh5->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    polyfacemesh5->put_Layer( L"Walls" );
+    polyfacemesh5->put_LineStyle( L"Continuous" );
+    polyfacemesh5->put_LineScale( 1.00000000000000 );
+    polyfacemesh5->put_LineWeight( iwLnWt_ByLayer );
+    polyfacemesh5->put_Thickness( 0.00000000000000 );
     ISolidPtr solid6;
+    VARIANT variant8;
+    variant8.vt = ( VT_ARRAY | VT_R8 );
+    variant8.parray = SafeArrayCreateVector( VT_R8, 0, 0 );
+    long rgIndices8;
+    rgIndices8 = -1;
+    double x_8, y_8, z_8;
+
+    solid6 = iwSketchManager->InsertSolid( variant8 );
+    solid6->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    solid6->put_Layer( L"Walls" );
+    solid6->put_LineStyle( L"Continuous" );
+    solid6->put_LineScale( 1.00000000000000 );
+    solid6->put_LineWeight( iwLnWt_ByLayer );
+    solid6->put_Thickness( 0.00000000000000 );
     ITracePtr trace7;
+    VARIANT variant9;
+    variant9.vt = ( VT_ARRAY | VT_R8 );
+    variant9.parray = SafeArrayCreateVector( VT_R8, 0, 0 );
+        long rgIndices9;
+    rgIndices9 = -1;
+    double x_9, y_9, z_9;
+
+    trace7=iwSketchManager->InsertTrace( variant9 );
+    trace7->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    trace7->put_Layer( L"Walls" );
+    trace7->put_LineStyle( L"Continuous" );
+    trace7->put_LineScale( 1.00000000000000 );
+    trace7->put_LineWeight( iwLnWt_ByLayer );
+    trace7->put_Thickness( 0.00000000000000 );
     IFacePtr face8;
+    VARIANT variant10;
+    variant10.vt = ( VT_ARRAY | VT_R8 );
+    variant10.parray = SafeArrayCreateVector( VT_R8, 0, 0 );
+    long rgIndices10;
+    rgIndices10 = -1;
+    double x_10, y_10, z_10;
+
+     face8 = iwSketchManager->InsertFace(
+     variant10,
+     false,
+     false,
+     false ,false );
+    face8->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    face8->put_Layer( L"Walls" );
+    face8->put_LineStyle( L"Continuous" );
+    face8->put_LineScale( 1.00000000000000 );
+    face8->put_LineWeight( iwLnWt_ByLayer );
+    face8->put_Thickness( 0.00000000000000 );
     IRichLinePtr richline9;
+    VARIANT variant11;
+    variant11.vt = ( VT_ARRAY | VT_R8 );
+    variant11.parray = SafeArrayCreateVector( VT_R8, 0, 0 );
+    long rgIndices11;
+    rgIndices11 = -1;
+    double x_11, y_11, z_11;
+
+    richline9 = iwSketchManager->InsertRichLine( variant11, iwRichLineJustification_Top, 0.00000000000000, L"", false );
+    richline9->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    richline9->put_Layer( L"Walls" );
+    richline9->put_LineStyle( L"Continuous" );
+    richline9->put_LineScale( 1.00000000000000 );
+    richline9->put_LineWeight( iwLnWt_ByLayer );
+    richline9->put_Thickness( 0.00000000000000 );
     IShapePtr shape10;
     IEmbeddedObjectPtr embeddedobject11;
     IViewportPtr viewport12;
     IRotatedDimensionPtr rotateddimension13;
-    double x, y, z;
-    VARIANT variant1,variant2,variant3;
-    variant1.vt = ( VT_ARRAY | VT_R8 );
-    variant2.vt = ( VT_ARRAY | VT_R8 );
-    variant3.vt = ( VT_ARRAY | VT_R8 );
-    variant1.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
-    variant2.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
-    variant3.parray = SafeArrayCreateVector( VT_R8, 0, 3);
-    long rgIndices1;
-    rgIndices1 = 0;
-    x=0.00000000000000; y=0.00000000000000; z=0.00000000000000;
-    SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x) );
-    rgIndices1=1;
-    SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y) );
-    rgIndices1=2;
-    SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z) );
+    {
+        double x, y, z;
+        VARIANT variant1,variant2,variant3;
+        variant1.vt = ( VT_ARRAY | VT_R8 );
+        variant2.vt = ( VT_ARRAY | VT_R8 );
+        variant3.vt = ( VT_ARRAY | VT_R8 );
+        variant1.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        variant2.parray = SafeArrayCreateVector( VT_R8, 0, 3 );
+        variant3.parray = SafeArrayCreateVector( VT_R8, 0, 3);
+        long rgIndices1;
+        rgIndices1 = 0;
+        x=0.00000000000000; y=0.00000000000000; z=0.00000000000000;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x) );
+        rgIndices1=1;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y) );
+        rgIndices1=2;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z) );
 
-    long rgIndices2;
-    rgIndices2 = 0;
-    x=0.00000000000000; y=0.00000000000000; z=0.00000000000000;
-    SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(x) );
-    rgIndices2=1;
-    SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(y) );
-    rgIndices2=2;
-    SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(z) );
+        long rgIndices2;
+        rgIndices2 = 0;
+        x=0.00000000000000; y=0.00000000000000; z=0.00000000000000;
+        SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(x) );
+        rgIndices2=1;
+        SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(y) );
+        rgIndices2=2;
+        SafeArrayPutElement( variant2.parray, &rgIndices2, (double*)&(z) );
 
-    long rgIndices3;
-    rgIndices3 = 0;
-    x=0.00000000000000; y=0.00000000000000; z=0.00000000000000;
-    SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(x) );
-    rgIndices3=1;
-    SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(y) );
-    rgIndices3=2;
-    SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(z) );
+        long rgIndices3;
+        rgIndices3 = 0;
+        x=0.00000000000000; y=0.00000000000000; z=0.00000000000000;
+        SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(x) );
+        rgIndices3=1;
+        SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(y) );
+        rgIndices3=2;
+        SafeArrayPutElement( variant3.parray, &rgIndices3, (double*)&(z) );
 
-    rotateddimension13 = iwSketchManager->InsertRotatedDimension( variant1, variant2, variant3, L"", 0.00000000000000 );
-        IGeneralDimensionPtr generalDimension4 = rotateddimension13->GetGeneralDimension();
-    generalDimension4->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
-    generalDimension4->put_Layer( L"Walls" );
-    generalDimension4->put_LineStyle( L"Continuous" );
-    generalDimension4->put_LineScale( 1.00000000000000 );
-    generalDimension4->put_LineWeight( iwLnWt_ByLayer );
-    generalDimension4->put_Thickness( 0.00000000000000 );
+        rotateddimension13 = iwSketchManager->InsertRotatedDimension( variant1, variant2, variant3, L"", 0.00000000000000 );
+            IGeneralDimensionPtr generalDimension4 = rotateddimension13->GetGeneralDimension();
+        generalDimension4->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+        generalDimension4->put_Layer( L"Walls" );
+        generalDimension4->put_LineStyle( L"Continuous" );
+        generalDimension4->put_LineScale( 1.00000000000000 );
+        generalDimension4->put_LineWeight( iwLnWt_ByLayer );
+        generalDimension4->put_Thickness( 0.00000000000000 );
+    }
     IModelNamedViewPtr modelnamedview14;
     {
-        double X5;
-        double Y5;
-        polyline1->GetVertexCoordinate( 2, &X5, &Y5 );
-        X5 = 1.50000000000000;
-        polyline1->SetVertexCoordinate( 2, X5, Y5 );
+        double X12;
+        double Y12;
+        polyline1->GetVertexCoordinate( 2, &X12, &Y12 );
+        X12 = 1.50000000000000;
+        polyline1->SetVertexCoordinate( 2, X12, Y12 );
     }
     {
         polyline1->SetSegmentStartWidth( 0, 0.25000000000000 );
@@ -200,12 +346,12 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         polyline1->put_LineStyleGeneration( false );
     }
     {
-        double X6;
-        double Y6;
-        double Z6;
-        polyline3d2->GetVertexCoordinate( 1, &X6, &Y6, &Z6 );
-        Z6 = 7.00000000000000;
-        polyline3d2->SetVertexCoordinate( 1, X6, Y6, Z6 );
+        double X13;
+        double Y13;
+        double Z13;
+        polyline3d2->GetVertexCoordinate( 1, &X13, &Y13, &Z13 );
+        Z13 = 7.00000000000000;
+        polyline3d2->SetVertexCoordinate( 1, X13, Y13, Z13 );
         
     }
     // AcDb3dPolyline object modified
@@ -214,21 +360,21 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         polyline3d2->put_Closed( true );
     }
     {
-        double X7;
-        double Y7;
-        double Z7;
-        spline3->GetControlPointCoordinate( 0, &X7, &Y7, &Z7 );
-        X7 = 3.00000000000000;
-        spline3->SetControlPointCoordinate( 0, X7, Y7, Z7 );
+        double X14;
+        double Y14;
+        double Z14;
+        spline3->GetControlPointCoordinate( 0, &X14, &Y14, &Z14 );
+        X14 = 3.00000000000000;
+        spline3->SetControlPointCoordinate( 0, X14, Y14, Z14 );
         
     }
     {
-        double X8;
-        double Y8;
-        double Z8;
-        spline3->GetFitPointCoordinate( 3, &X8, &Y8, &Z8 );
-        Y8 = 4.00000000000000;
-        spline3->SetFitPointCoordinate( 3, X8, Y8, Z8 );
+        double X15;
+        double Y15;
+        double Z15;
+        spline3->GetFitPointCoordinate( 3, &X15, &Y15, &Z15 );
+        Y15 = 4.00000000000000;
+        spline3->SetFitPointCoordinate( 3, X15, Y15, Z15 );
         
     }
     // AcDbSpline object modified
@@ -236,12 +382,12 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         spline3->put_FitTolerance( 0.00100000000000 );
     }
     {
-        double X9;
-        double Y9;
-        double Z9;
-        polygonmesh4->GetVertexCoordinate( 0, &X9, &Y9, &Z9 );
-        X9 = 5.00000000000000;
-        polygonmesh4->SetVertexCoordinate( 0, X9, Y9, Z9 );
+        double X16;
+        double Y16;
+        double Z16;
+        polygonmesh4->GetVertexCoordinate( 0, &X16, &Y16, &Z16 );
+        X16 = 5.00000000000000;
+        polygonmesh4->SetVertexCoordinate( 0, X16, Y16, Z16 );
         
     }
     // AcDbPolygonMesh object modified
@@ -253,30 +399,30 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         polygonmesh4->put_FitSmooth( iwPolygonMeshFitSmooth_Bezier );
     }
     {
-        double X10;
-        double Y10;
-        double Z10;
-        polyfacemesh5->GetVertexCoordinate( 5, &X10, &Y10, &Z10 );
-        Y10 = 6.00000000000000;
-        polyfacemesh5->SetVertexCoordinate( 5, X10, Y10, Z10 );
+        double X17;
+        double Y17;
+        double Z17;
+        polyfacemesh5->GetVertexCoordinate( 5, &X17, &Y17, &Z17 );
+        Y17 = 6.00000000000000;
+        polyfacemesh5->SetVertexCoordinate( 5, X17, Y17, Z17 );
         
     }
     {
-        double X11;
-        double Y11;
-        double Z11;
-        solid6->GetVertex1Coordinate( &X11, &Y11, &Z11 );
-        X11 = 1.00000000000000;
-        solid6->SetVertex1Coordinate( X11, Y11, Z11 );
+        double X18;
+        double Y18;
+        double Z18;
+        solid6->GetVertex1Coordinate( &X18, &Y18, &Z18 );
+        X18 = 1.00000000000000;
+        solid6->SetVertex1Coordinate( X18, Y18, Z18 );
         
     }
     {
-        double X12;
-        double Y12;
-        double Z12;
-        trace7->GetVertex4Coordinate( &X12, &Y12, &Z12 );
-        Z12 = 2.00000000000000;
-        trace7->SetVertex4Coordinate( X12, Y12, Z12 );
+        double X19;
+        double Y19;
+        double Z19;
+        trace7->GetVertex4Coordinate( &X19, &Y19, &Z19 );
+        Z19 = 2.00000000000000;
+        trace7->SetVertex4Coordinate( X19, Y19, Z19 );
         
     }
     // AcDbFace object modified
@@ -285,12 +431,12 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         face8->put_Edge4Visible( false );
     }
     {
-        double X13;
-        double Y13;
-        double Z13;
-        face8->GetVertex4Coordinate( &X13, &Y13, &Z13 );
-        X13 = 1.00000000000000;
-        face8->SetVertex4Coordinate( X13, Y13, Z13 );
+        double X20;
+        double Y20;
+        double Z20;
+        face8->GetVertex4Coordinate( &X20, &Y20, &Z20 );
+        X20 = 1.00000000000000;
+        face8->SetVertex4Coordinate( X20, Y20, Z20 );
         
     }
     // AcDbMline object modified
@@ -300,12 +446,12 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     }
     // AcDbShape object modified
     {
-        double X14;
-        double Y14;
-        double Z14;
-        shape10->GetPosition( &X14, &Y14, &Z14 );
-        X14 = 1.00000000000000;
-        shape10->SetPosition( X14, Y14, Z14 );
+        double X21;
+        double Y21;
+        double Z21;
+        shape10->GetPosition( &X21, &Y21, &Z21 );
+        X21 = 1.00000000000000;
+        shape10->SetPosition( X21, Y21, Z21 );
         
         shape10->put_Obliquing( 0.10000000000000 );
         shape10->put_Rotation( 0.20000000000000 );
@@ -315,24 +461,24 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     // AcDbOle2Frame object modified
     {
         embeddedobject11->put_Height( 2.00000000000000 );
-        double X15;
-        double Y15;
-        double Z15;
-        embeddedobject11->GetPosition( &X15, &Y15, &Z15 );
-        Y15 = 1.00000000000000;
-        embeddedobject11->SetPosition( X15, Y15, Z15 );
+        double X22;
+        double Y22;
+        double Z22;
+        embeddedobject11->GetPosition( &X22, &Y22, &Z22 );
+        Y22 = 1.00000000000000;
+        embeddedobject11->SetPosition( X22, Y22, Z22 );
         
         embeddedobject11->put_Width( 3.00000000000000 );
         embeddedobject11->put_PrintQuality( iwEmbeddedObjectPrintQuality_HighGraphics );
     }
     // AcDbViewport object modified
     {
-        double X16;
-        double Y16;
-        double Z16;
-        viewport12->GetCenter( &X16, &Y16, &Z16 );
-        X16 = 5.00000000000000;
-        viewport12->SetCenter( X16, Y16, Z16 );
+        double X23;
+        double Y23;
+        double Z23;
+        viewport12->GetCenter( &X23, &Y23, &Z23 );
+        X23 = 5.00000000000000;
+        viewport12->SetCenter( X23, Y23, Z23 );
         
         viewport12->put_Height( 4.00000000000000 );
         viewport12->put_CCSPerViewport( true );
@@ -343,17 +489,17 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         viewport12->put_StandardScale( iwViewportStandardScale_1_2 );
     }
     // AcDbRotatedDimension object modified
-        IGeneralDimensionPtr generalDimension17 = rotateddimension13->GetGeneralDimension();
-    generalDimension17->put_Color( pConnection->m_IwApp->GetColorByIndex( 2 ) );
+        IGeneralDimensionPtr generalDimension24 = rotateddimension13->GetGeneralDimension();
+    generalDimension24->put_Color( pConnection->m_IwApp->GetColorByIndex( 2 ) );
     // AcDbRotatedDimension object modified
     {
-        IGeneralDimensionPtr generalDimension18 = rotateddimension13->GetGeneralDimension();
-        generalDimension18->put_Layer( L"Walls" );
+        IGeneralDimensionPtr generalDimension25 = rotateddimension13->GetGeneralDimension();
+        generalDimension25->put_Layer( L"Walls" );
     }
     // AcDbRotatedDimension object modified
     {
-        IGeneralDimensionPtr generalDimension20 = rotateddimension13->GetGeneralDimension();
-        generalDimension20->put_Erased( true );
+        IGeneralDimensionPtr generalDimension27 = rotateddimension13->GetGeneralDimension();
+        generalDimension27->put_Erased( true );
     }
     // AcDbBlockTableRecord object modified
     IBlockDefinitionPtr blockdefinition15;
@@ -364,10 +510,10 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     ILayerPtr layer16 = iwLayerManager_1->GetLayer( "0" );
     // AcDbLayerTableRecord object modified
     {
-        ILayerManagerPtr iwLayerManager22 = iwDoc->GetLayerManager();
-        BSTR layerName22;
-        layer16->get_Name( &layerName22 );
-        iwLayerManager22->RemoveLayer( layerName22 );
+        ILayerManagerPtr iwLayerManager29 = iwDoc->GetLayerManager();
+        BSTR layerName29;
+        layer16->get_Name( &layerName29 );
+        iwLayerManager29->RemoveLayer( layerName29 );
     }
     // AcDbViewTableRecord object modified
     {
