@@ -272,7 +272,7 @@ bool CMacroCommand::ExecuteNotify(void)
     }
     iwBlockInstance_ptr iwblockinstance16;
     {
-         iwSketchManager->InsertExternalReference(  L"..\refs\site.dwg", 20.00000000000000, 30.00000000000000, 0.00000000000000, 0.50000000000000, 0.25000000000000 ,&iwblockinstance16);
+         iwSketchManager->InsertExternalReference(  L"../refs/site.dwg", 20.00000000000000, 30.00000000000000, 0.00000000000000, 0.50000000000000, 0.25000000000000 ,&iwblockinstance16);
     }
     iwReferenceImage_ptr iwreferenceimage17;
     {

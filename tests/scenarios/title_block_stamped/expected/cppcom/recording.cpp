@@ -452,7 +452,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     }
     IBlockInstancePtr blockinstance16;
     {
-         blockinstance16 = iwSketchManager->InsertExternalReference(  L"..\refs\site.dwg", 20.00000000000000, 30.00000000000000, 0.00000000000000, 0.50000000000000, 0.25000000000000 );
+         blockinstance16 = iwSketchManager->InsertExternalReference(  L"../refs/site.dwg", 20.00000000000000, 30.00000000000000, 0.00000000000000, 0.50000000000000, 0.25000000000000 );
     }
     IReferenceImagePtr referenceimage17;
     {

@@ -213,7 +213,7 @@ namespace IWAPIMacros
             }
             BlockInstance blockinstance16;
             {
-                blockinstance16 = iwSketchManager.InsertExternalReference(  "..\refs\site.dwg", 20.00000000000000, 30.00000000000000, 0.00000000000000, 0.50000000000000, 0.25000000000000);
+                blockinstance16 = iwSketchManager.InsertExternalReference(  "../refs/site.dwg", 20.00000000000000, 30.00000000000000, 0.00000000000000, 0.50000000000000, 0.25000000000000);
             }
             ReferenceImage referenceimage17;
             {

@@ -242,7 +242,7 @@ Sub main()
 
         Dim blockinstance16 As Inkwright.BlockInstance
         If 1 Then
-            Set blockinstance16 = iwSketchManager.InsertExternalReference(  "..\refs\site.dwg", 20.00000000000000, 30.00000000000000, 0.00000000000000, 0.50000000000000, 0.25000000000000)
+            Set blockinstance16 = iwSketchManager.InsertExternalReference(  "../refs/site.dwg", 20.00000000000000, 30.00000000000000, 0.00000000000000, 0.50000000000000, 0.25000000000000)
         End If
 
         Dim referenceimage17 As Inkwright.ReferenceImage

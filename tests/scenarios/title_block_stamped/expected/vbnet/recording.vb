@@ -223,7 +223,7 @@ Public Class recording
 
         Dim blockinstance16 As Inkwright.BlockInstance
         If 1 Then
-            blockinstance16 = iwSketchManager.InsertExternalReference(  "..\refs\site.dwg", 20.00000000000000, 30.00000000000000, 0.00000000000000, 0.50000000000000, 0.25000000000000)
+            blockinstance16 = iwSketchManager.InsertExternalReference(  "../refs/site.dwg", 20.00000000000000, 30.00000000000000, 0.00000000000000, 0.50000000000000, 0.25000000000000)
         End If
 
         Dim referenceimage17 As Inkwright.ReferenceImage
