@@ -155,8 +155,6 @@ using enum Target;
 const std::set<Target> everyTarget{Cpp, CSharp, JavaScript, VbNet, CppCom, Vba};
 const Unreachable unreachable[]{
     {"EmitCommandOptionInt32", everyTarget, "no option of a document is of that type"},
-    {"array of plane points", everyTarget, "no statement takes plane points"},
-    {"array of integers", {Cpp, VbNet, Vba}, "no statement takes plain integers"},
     {"array of numbers", {JavaScript, VbNet, CppCom}, "selections alone fill one, and these targets have none"},
 };
 

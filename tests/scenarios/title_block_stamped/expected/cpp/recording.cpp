@@ -123,9 +123,6 @@ bool CMacroCommand::ExecuteNotify(void)
     iwHatch_ptr iwhatch8;
     iwBlockDefinition_ptr iwblockdefinition9;
     {
-        iwCircleArc_ptr arc_0;
-        iwSketchManager->InsertArc( 170.00000000000000, 10.00000000000000, 0.00000000000000, 7.50000000000000, 0.00000000000000, 1.50000000000000, &arc_0 );
-
         iwNote_ptr iwnote10;
         iwleader6->GetNoteAnnotation( &iwnote10 );
 
@@ -165,28 +162,31 @@ bool CMacroCommand::ExecuteNotify(void)
 
         iwSketchManager->InsertHatchByBoundary( BoundaryPointCountLongArray4, Coordinates4, L"ANSI31", 2.50000000000000, 0.75000000000000, &iwhatch8 );
 
+        iwCircleArc_ptr arc_0;
+        iwSketchManager->InsertArc( 170.00000000000000, 10.00000000000000, 0.00000000000000, 7.50000000000000, 0.00000000000000, 1.50000000000000, &arc_0 );
+
 
         iwObjectPtrArray objects_5;
         objects_5.add(iwline2);
         objects_5.add(iwline3);
-        objects_5.add(arc_0);
         objects_5.add(iwcircle4);
         objects_5.add(iwattributedefinition5);
         objects_5.add(iwnote10);
         objects_5.add(iwnote12);
         objects_5.add(arcLengthDimension_0);
         objects_5.add(iwhatch8);
+        objects_5.add(arc_0);
 
         iwLongArray objecttypes_5;
         objecttypes_5.add(iwLineType);
         objecttypes_5.add(iwLineType);
-        objecttypes_5.add(iwCircleArcType);
         objecttypes_5.add(iwCircleType);
         objecttypes_5.add(iwSimpleNoteType);
         objecttypes_5.add(iwNoteType);
         objecttypes_5.add(iwNoteType);
         objecttypes_5.add(iwArcLengthDimensionType);
         objecttypes_5.add(iwHatchType);
+        objecttypes_5.add(iwCircleArcType);
 
          iwDoc->CreateBlockDefinition(
          L"TITLE", 
@@ -198,11 +198,15 @@ bool CMacroCommand::ExecuteNotify(void)
          objects_5, 
          iwBlockDefinitionEntities_RemoveFromDrawing ,&iwblockdefinition9 );
     }
-    iwBlockInstance_ptr iwblockinstance13;
+    iwLine_ptr iwline13;
     {
-         iwSketchManager->InsertBlock2(L"TITLE", 400.00000000000000, 10.00000000000000, 0.00000000000000, 1.25000000000000, 0.75000000000000, 1.00000000000000, 0.25000000000000, &iwblockinstance13 );
+        iwSketchManager->InsertLine( 10.00000000000000, 95.00000000000000, 0.00000000000000, 20.00000000000000, 95.00000000000000, 0.00000000000000, &iwline13 );
+    }
+    iwBlockInstance_ptr iwblockinstance14;
+    {
+         iwSketchManager->InsertBlock2(L"TITLE", 400.00000000000000, 10.00000000000000, 0.00000000000000, 1.25000000000000, 0.75000000000000, 1.00000000000000, 0.25000000000000, &iwblockinstance14 );
         iwObjectPtrArray iwAttributes1;
-        iwblockinstance13->GetAttributeInstances( &iwAttributes1 );
+        iwblockinstance14->GetAttributeInstances( &iwAttributes1 );
         for (int i = 0; i < (int)iwAttributes1.length(); ++i)
         {
             iwAttributeInstance_c* iwAttribute1 = (iwAttributeInstance_c*)iwAttributes1[i];
@@ -212,7 +216,7 @@ bool CMacroCommand::ExecuteNotify(void)
                 iwAttribute1->put_Value( L"M. Weber" );
         }
         iwObjectPtrArray iwAttributes2;
-        iwblockinstance13->GetAttributeInstances( &iwAttributes2 );
+        iwblockinstance14->GetAttributeInstances( &iwAttributes2 );
         for (int i = 0; i < (int)iwAttributes2.length(); ++i)
         {
             iwAttributeInstance_c* iwAttribute2 = (iwAttributeInstance_c*)iwAttributes2[i];
@@ -222,10 +226,8 @@ bool CMacroCommand::ExecuteNotify(void)
                 iwAttribute2->put_Value( L"2024-05-17" );
         }
     }
-    iwLine_ptr iwline14;
     iwBlockInstance_ptr iwblockinstance15;
     {
-        iwSketchManager->InsertLine( 10.00000000000000, 95.00000000000000, 0.00000000000000, 20.00000000000000, 95.00000000000000, 0.00000000000000, &iwline14 );
         iwBlockDefinition_ptr iwblockinstance15Def;
         iwCircleArc_ptr arc_1;
         iwSketchManager->InsertArc( 10.00000000000000, 100.00000000000000, 0.00000000000000, 5.00000000000000, 0.00000000000000, 2.00000000000000, &arc_1 );
@@ -235,7 +237,7 @@ bool CMacroCommand::ExecuteNotify(void)
 
 
         iwObjectPtrArray objects_1;
-        objects_1.add(iwline14);
+        objects_1.add(iwline13);
         objects_1.add(arc_1);
         objects_1.add(arc_2);
 

@@ -186,9 +186,6 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     IHatchPtr hatch8;
     IBlockDefinitionPtr blockdefinition9;
     {
-        ICircleArcPtr arc_0;
-        arc_0 = iwSketchManager->InsertArc( 170.00000000000000, 10.00000000000000, 0.00000000000000, 7.50000000000000, 0.00000000000000, 1.50000000000000 );
-
         INotePtr note10 = leader6->GetNoteAnnotation();
 
 
@@ -277,6 +274,9 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 
          hatch8=iwSketchManager->InsertHatchByBoundary( BoundaryPointCountLongArray5, variant5, L"ANSI31", 2.50000000000000, 0.75000000000000);
 
+        ICircleArcPtr arc_0;
+        arc_0 = iwSketchManager->InsertArc( 170.00000000000000, 10.00000000000000, 0.00000000000000, 7.50000000000000, 0.00000000000000, 1.50000000000000 );
+
 
         VARIANT objects_6;
         objects_6.vt = ( VT_ARRAY | VT_DISPATCH );
@@ -288,9 +288,6 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         SafeArrayPutElement( objects_6.parray, &rgIndices6, (IDispatch*)(val6) );
         rgIndices6++;
         val6 = line3;
-        SafeArrayPutElement( objects_6.parray, &rgIndices6, (IDispatch*)(val6) );
-        rgIndices6++;
-        val6 = arc_0;
         SafeArrayPutElement( objects_6.parray, &rgIndices6, (IDispatch*)(val6) );
         rgIndices6++;
         val6 = circle4;
@@ -311,6 +308,9 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         val6 = hatch8;
         SafeArrayPutElement( objects_6.parray, &rgIndices6, (IDispatch*)(val6) );
         rgIndices6++;
+        val6 = arc_0;
+        SafeArrayPutElement( objects_6.parray, &rgIndices6, (IDispatch*)(val6) );
+        rgIndices6++;
 
         VARIANT objecttypes_6;
         objecttypes_6.vt = ( VT_ARRAY | VT_I4 );
@@ -323,9 +323,6 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
             SafeArrayPutElement( objecttypes_6.parray, &rgIndices6, (int*)&(val6) );
             rgIndices6++;
             val6 = iwLineType;
-            SafeArrayPutElement( objecttypes_6.parray, &rgIndices6, (int*)&(val6) );
-            rgIndices6++;
-            val6 = iwCircleArcType;
             SafeArrayPutElement( objecttypes_6.parray, &rgIndices6, (int*)&(val6) );
             rgIndices6++;
             val6 = iwCircleType;
@@ -346,6 +343,9 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
             val6 = iwHatchType;
             SafeArrayPutElement( objecttypes_6.parray, &rgIndices6, (int*)&(val6) );
             rgIndices6++;
+            val6 = iwCircleArcType;
+            SafeArrayPutElement( objecttypes_6.parray, &rgIndices6, (int*)&(val6) );
+            rgIndices6++;
         }
 
          blockdefinition9 = iwDoc->CreateBlockDefinition(
@@ -358,12 +358,16 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
          objects_6, 
          iwBlockDefinitionEntities_RemoveFromDrawing );
     }
-    IBlockInstancePtr blockinstance13;
+    ILinePtr line13;
     {
-         blockinstance13 = iwSketchManager->InsertBlock2(L"TITLE", 400.00000000000000, 10.00000000000000, 0.00000000000000, 1.25000000000000, 0.75000000000000, 1.00000000000000, 0.25000000000000 );
+        line13 = iwSketchManager->InsertLine( 10.00000000000000, 95.00000000000000, 0.00000000000000, 20.00000000000000, 95.00000000000000, 0.00000000000000 );
+    }
+    IBlockInstancePtr blockinstance14;
+    {
+         blockinstance14 = iwSketchManager->InsertBlock2(L"TITLE", 400.00000000000000, 10.00000000000000, 0.00000000000000, 1.25000000000000, 0.75000000000000, 1.00000000000000, 0.25000000000000 );
         IAttributeInstancePtr *iwAttributes1 = NULL;
         int count1 = 0;
-        TypeConverter::convertVariantArrayToPtrArray<IAttributeInstancePtr, IAttributeInstance>( blockinstance13->GetAttributeInstances(), iwAttributes1, count1 );
+        TypeConverter::convertVariantArrayToPtrArray<IAttributeInstancePtr, IAttributeInstance>( blockinstance14->GetAttributeInstances(), iwAttributes1, count1 );
         for (int i = 0; i < count1; ++i)
         {
             if (iwAttributes1[i]->GetName() == _bstr_t(L"DRAWN"))
@@ -371,17 +375,15 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         }
         IAttributeInstancePtr *iwAttributes2 = NULL;
         int count2 = 0;
-        TypeConverter::convertVariantArrayToPtrArray<IAttributeInstancePtr, IAttributeInstance>( blockinstance13->GetAttributeInstances(), iwAttributes2, count2 );
+        TypeConverter::convertVariantArrayToPtrArray<IAttributeInstancePtr, IAttributeInstance>( blockinstance14->GetAttributeInstances(), iwAttributes2, count2 );
         for (int i = 0; i < count2; ++i)
         {
             if (iwAttributes2[i]->GetName() == _bstr_t(L"DATE"))
                 iwAttributes2[i]->put_Value( L"2024-05-17" );
         }
     }
-    ILinePtr line14;
     IBlockInstancePtr blockinstance15;
     {
-        line14 = iwSketchManager->InsertLine( 10.00000000000000, 95.00000000000000, 0.00000000000000, 20.00000000000000, 95.00000000000000, 0.00000000000000 );
         IBlockDefinitionPtr blockinstance15Def;
         ICircleArcPtr arc_1;
         arc_1 = iwSketchManager->InsertArc( 10.00000000000000, 100.00000000000000, 0.00000000000000, 5.00000000000000, 0.00000000000000, 2.00000000000000 );
@@ -396,7 +398,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         long rgIndices1;
         rgIndices1 = 0;
         IDispatch* val1;
-        val1 = line14;
+        val1 = line13;
         SafeArrayPutElement( objects_1.parray, &rgIndices1, (IDispatch*)(val1) );
         rgIndices1++;
         val1 = arc_1;

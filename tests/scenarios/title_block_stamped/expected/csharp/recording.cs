@@ -90,9 +90,6 @@ namespace IWAPIMacros
             Hatch hatch8;
             BlockDefinition blockdefinition9;
             {
-                CircleArc arc_0;
-                arc_0 = iwSketchManager.InsertArc( 170.00000000000000, 10.00000000000000, 0.00000000000000, 7.50000000000000, 0.00000000000000, 1.50000000000000 );
-
                 Note note10 = leader6.GetNoteAnnotation();
 
 
@@ -112,28 +109,31 @@ namespace IWAPIMacros
                  2.50000000000000, 
                  0.75000000000000 );
 
+                CircleArc arc_0;
+                arc_0 = iwSketchManager.InsertArc( 170.00000000000000, 10.00000000000000, 0.00000000000000, 7.50000000000000, 0.00000000000000, 1.50000000000000 );
+
 
                 DispatchWrapper[] objects_4 = new DispatchWrapper[9];
                 objects_4[0] = new DispatchWrapper(line2);
                 objects_4[1] = new DispatchWrapper(line3);
-                objects_4[2] = new DispatchWrapper(arc_0);
-                objects_4[3] = new DispatchWrapper(circle4);
-                objects_4[4] = new DispatchWrapper(attributedefinition5);
-                objects_4[5] = new DispatchWrapper(note10);
-                objects_4[6] = new DispatchWrapper(note12);
-                objects_4[7] = new DispatchWrapper(arcLengthDimension_0);
-                objects_4[8] = new DispatchWrapper(hatch8);
+                objects_4[2] = new DispatchWrapper(circle4);
+                objects_4[3] = new DispatchWrapper(attributedefinition5);
+                objects_4[4] = new DispatchWrapper(note10);
+                objects_4[5] = new DispatchWrapper(note12);
+                objects_4[6] = new DispatchWrapper(arcLengthDimension_0);
+                objects_4[7] = new DispatchWrapper(hatch8);
+                objects_4[8] = new DispatchWrapper(arc_0);
 
                 int[] objecttypes_4 = new int[9];
                 objecttypes_4[0] = (int)iwObjectType_e.iwLineType;
                 objecttypes_4[1] = (int)iwObjectType_e.iwLineType;
-                objecttypes_4[2] = (int)iwObjectType_e.iwCircleArcType;
-                objecttypes_4[3] = (int)iwObjectType_e.iwCircleType;
-                objecttypes_4[4] = (int)iwObjectType_e.iwSimpleNoteType;
+                objecttypes_4[2] = (int)iwObjectType_e.iwCircleType;
+                objecttypes_4[3] = (int)iwObjectType_e.iwSimpleNoteType;
+                objecttypes_4[4] = (int)iwObjectType_e.iwNoteType;
                 objecttypes_4[5] = (int)iwObjectType_e.iwNoteType;
-                objecttypes_4[6] = (int)iwObjectType_e.iwNoteType;
-                objecttypes_4[7] = (int)iwObjectType_e.iwArcLengthDimensionType;
-                objecttypes_4[8] = (int)iwObjectType_e.iwHatchType;
+                objecttypes_4[6] = (int)iwObjectType_e.iwArcLengthDimensionType;
+                objecttypes_4[7] = (int)iwObjectType_e.iwHatchType;
+                objecttypes_4[8] = (int)iwObjectType_e.iwCircleArcType;
 
                  blockdefinition9 = iwDoc.CreateBlockDefinition(
                  "TITLE", 
@@ -145,17 +145,21 @@ namespace IWAPIMacros
                  objects_4, 
                  iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing );
             }
-            BlockInstance blockinstance13;
+            Line line13;
             {
-                blockinstance13 = iwApp.GetActiveDocument().GetModel().GetSketchManager().InsertBlock2( "TITLE", 400.00000000000000, 10.00000000000000, 0.00000000000000, 1.25000000000000, 0.75000000000000, 1.00000000000000, 0.25000000000000 );
-                object[] iwAttributes1 = (object[])blockinstance13.GetAttributeInstances();
+                line13 = iwSketchManager.InsertLine( 10.00000000000000, 95.00000000000000, 0.00000000000000, 20.00000000000000, 95.00000000000000, 0.00000000000000 );
+            }
+            BlockInstance blockinstance14;
+            {
+                blockinstance14 = iwApp.GetActiveDocument().GetModel().GetSketchManager().InsertBlock2( "TITLE", 400.00000000000000, 10.00000000000000, 0.00000000000000, 1.25000000000000, 0.75000000000000, 1.00000000000000, 0.25000000000000 );
+                object[] iwAttributes1 = (object[])blockinstance14.GetAttributeInstances();
                 foreach (object attribute1 in iwAttributes1)
                 {
                     AttributeInstance iwAttribute1 = attribute1 as AttributeInstance;
                     if (iwAttribute1.Name == "DRAWN")
                         iwAttribute1.Value = "M. Weber";
                 }
-                object[] iwAttributes2 = (object[])blockinstance13.GetAttributeInstances();
+                object[] iwAttributes2 = (object[])blockinstance14.GetAttributeInstances();
                 foreach (object attribute2 in iwAttributes2)
                 {
                     AttributeInstance iwAttribute2 = attribute2 as AttributeInstance;
@@ -163,10 +167,8 @@ namespace IWAPIMacros
                         iwAttribute2.Value = "2024-05-17";
                 }
             }
-            Line line14;
             BlockInstance blockinstance15;
             {
-                line14 = iwSketchManager.InsertLine( 10.00000000000000, 95.00000000000000, 0.00000000000000, 20.00000000000000, 95.00000000000000, 0.00000000000000 );
                 BlockDefinition blockinstance15Def;
                 CircleArc arc_1;
                 arc_1 = iwSketchManager.InsertArc( 10.00000000000000, 100.00000000000000, 0.00000000000000, 5.00000000000000, 0.00000000000000, 2.00000000000000 );
@@ -176,7 +178,7 @@ namespace IWAPIMacros
 
 
                 DispatchWrapper[] objects_1 = new DispatchWrapper[3];
-                objects_1[0] = new DispatchWrapper(line14);
+                objects_1[0] = new DispatchWrapper(line13);
                 objects_1[1] = new DispatchWrapper(arc_1);
                 objects_1[2] = new DispatchWrapper(arc_2);
 

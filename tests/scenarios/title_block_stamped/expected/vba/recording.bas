@@ -105,9 +105,6 @@ Sub main()
         Dim hatch8 As Inkwright.Hatch
         Dim blockdefinition9 As Inkwright.BlockDefinition
         If 1 Then
-            Dim arc_0 As Inkwright.CircleArc
-            Set arc_0 = iwSketchManager.InsertArc( 170.00000000000000, 10.00000000000000, 0.00000000000000, 7.50000000000000, 0.00000000000000, 1.50000000000000 )
-
             Dim note10 As Inkwright.Note
             Set note10 = leader6.GetNoteAnnotation()
 
@@ -152,37 +149,45 @@ Sub main()
 
             Set hatch8 = iwSketchManager.InsertHatchByBoundary( BoundaryPointCountLongArray6, Coordinates6, "ANSI31", 2.50000000000000, 0.75000000000000 )
 
+            Dim arc_0 As Inkwright.CircleArc
+            Set arc_0 = iwSketchManager.InsertArc( 170.00000000000000, 10.00000000000000, 0.00000000000000, 7.50000000000000, 0.00000000000000, 1.50000000000000 )
+
 
             Dim objects_7( 8 ) As Object
             Set objects_7( 0 ) = line2
             Set objects_7( 1 ) = line3
-            Set objects_7( 2 ) = arc_0
-            Set objects_7( 3 ) = circle4
-            Set objects_7( 4 ) = attributedefinition5
-            Set objects_7( 5 ) = note10
-            Set objects_7( 6 ) = note12
-            Set objects_7( 7 ) = arcLengthDimension_0
-            Set objects_7( 8 ) = hatch8
+            Set objects_7( 2 ) = circle4
+            Set objects_7( 3 ) = attributedefinition5
+            Set objects_7( 4 ) = note10
+            Set objects_7( 5 ) = note12
+            Set objects_7( 6 ) = arcLengthDimension_0
+            Set objects_7( 7 ) = hatch8
+            Set objects_7( 8 ) = arc_0
 
             Dim objecttypes_7( 8 ) As iwObjectType_e
             objecttypes_7( 0 ) = Inkwright.iwObjectType_e.iwLineType
             objecttypes_7( 1 ) = Inkwright.iwObjectType_e.iwLineType
-            objecttypes_7( 2 ) = Inkwright.iwObjectType_e.iwCircleArcType
-            objecttypes_7( 3 ) = Inkwright.iwObjectType_e.iwCircleType
-            objecttypes_7( 4 ) = Inkwright.iwObjectType_e.iwSimpleNoteType
+            objecttypes_7( 2 ) = Inkwright.iwObjectType_e.iwCircleType
+            objecttypes_7( 3 ) = Inkwright.iwObjectType_e.iwSimpleNoteType
+            objecttypes_7( 4 ) = Inkwright.iwObjectType_e.iwNoteType
             objecttypes_7( 5 ) = Inkwright.iwObjectType_e.iwNoteType
-            objecttypes_7( 6 ) = Inkwright.iwObjectType_e.iwNoteType
-            objecttypes_7( 7 ) = Inkwright.iwObjectType_e.iwArcLengthDimensionType
-            objecttypes_7( 8 ) = Inkwright.iwObjectType_e.iwHatchType
+            objecttypes_7( 6 ) = Inkwright.iwObjectType_e.iwArcLengthDimensionType
+            objecttypes_7( 7 ) = Inkwright.iwObjectType_e.iwHatchType
+            objecttypes_7( 8 ) = Inkwright.iwObjectType_e.iwCircleArcType
 
              Set blockdefinition9 = iwDoc.CreateBlockDefinition( "TITLE", "A3 frame\nmetric", 180.00000000000000, 0.00000000000000, 0.00000000000000, objecttypes_7, objects_7, Inkwright.iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing )
         End If
 
-        Dim blockinstance13 As Inkwright.BlockInstance
+        Dim line13 As Inkwright.Line
         If 1 Then
-            Set blockinstance13 = iwSketchManager.InsertBlock2( "TITLE", 400.00000000000000, 10.00000000000000, 0.00000000000000, 1.25000000000000, 0.75000000000000, 1.00000000000000, 0.25000000000000 )
+            Set line13 = iwSketchManager.InsertLine( 10.00000000000000, 95.00000000000000, 0.00000000000000, 20.00000000000000, 95.00000000000000, 0.00000000000000 )
+        End If
+
+        Dim blockinstance14 As Inkwright.BlockInstance
+        If 1 Then
+            Set blockinstance14 = iwSketchManager.InsertBlock2( "TITLE", 400.00000000000000, 10.00000000000000, 0.00000000000000, 1.25000000000000, 0.75000000000000, 1.00000000000000, 0.25000000000000 )
             Dim iwAttributes1 As Variant
-            iwAttributes1 = blockinstance13.GetAttributeInstances()
+            iwAttributes1 = blockinstance14.GetAttributeInstances()
             Dim iwAttribute1 As Variant
             For Each iwAttribute1 In iwAttributes1
                 If iwAttribute1.Name = "DRAWN" Then
@@ -190,7 +195,7 @@ Sub main()
                 End If
             Next
             Dim iwAttributes2 As Variant
-            iwAttributes2 = blockinstance13.GetAttributeInstances()
+            iwAttributes2 = blockinstance14.GetAttributeInstances()
             Dim iwAttribute2 As Variant
             For Each iwAttribute2 In iwAttributes2
                 If iwAttribute2.Name = "DATE" Then
@@ -199,10 +204,8 @@ Sub main()
             Next
         End If
 
-        Dim line14 As Inkwright.Line
         Dim blockinstance15 As Inkwright.BlockInstance
         If 1 Then
-            Set line14 = iwSketchManager.InsertLine( 10.00000000000000, 95.00000000000000, 0.00000000000000, 20.00000000000000, 95.00000000000000, 0.00000000000000 )
             Dim blockinstance15Def As Inkwright.BlockDefinition
             Dim arc_1 As Inkwright.CircleArc
             Set arc_1 = iwSketchManager.InsertArc( 10.00000000000000, 100.00000000000000, 0.00000000000000, 5.00000000000000, 0.00000000000000, 2.00000000000000 )
@@ -212,7 +215,7 @@ Sub main()
 
 
             Dim objects_1( 2 ) As Object
-            Set objects_1( 0 ) = line14
+            Set objects_1( 0 ) = line13
             Set objects_1( 1 ) = arc_1
             Set objects_1( 2 ) = arc_2
 

@@ -95,9 +95,6 @@ Public Class recording
         Dim hatch8 As Inkwright.Hatch
         Dim blockdefinition9 As Inkwright.BlockDefinition
         If 1 Then
-            Dim arc_0 As Inkwright.CircleArc
-            arc_0 = iwSketchManager.InsertArc( 170.00000000000000, 10.00000000000000, 0.00000000000000, 7.50000000000000, 0.00000000000000, 1.50000000000000 )
-
             Dim note10 As Inkwright.Note = leader6.GetNoteAnnotation()
 
 
@@ -135,43 +132,51 @@ Public Class recording
 
             hatch8 = iwSketchManager.InsertHatchByBoundary( BoundaryPointCountLongArray4, Coordinates4, "ANSI31", 2.50000000000000, 0.75000000000000 )
 
+            Dim arc_0 As Inkwright.CircleArc
+            arc_0 = iwSketchManager.InsertArc( 170.00000000000000, 10.00000000000000, 0.00000000000000, 7.50000000000000, 0.00000000000000, 1.50000000000000 )
+
 
             Dim objects_5 As DispatchWrapper()
             objects_5 = New DispatchWrapper( 8 ) {}
             objects_5( 0 ) = New DispatchWrapper( line2 )
             objects_5( 1 ) = New DispatchWrapper( line3 )
-            objects_5( 2 ) = New DispatchWrapper( arc_0 )
-            objects_5( 3 ) = New DispatchWrapper( circle4 )
-            objects_5( 4 ) = New DispatchWrapper( attributedefinition5 )
-            objects_5( 5 ) = New DispatchWrapper( note10 )
-            objects_5( 6 ) = New DispatchWrapper( note12 )
-            objects_5( 7 ) = New DispatchWrapper( arcLengthDimension_0 )
-            objects_5( 8 ) = New DispatchWrapper( hatch8 )
+            objects_5( 2 ) = New DispatchWrapper( circle4 )
+            objects_5( 3 ) = New DispatchWrapper( attributedefinition5 )
+            objects_5( 4 ) = New DispatchWrapper( note10 )
+            objects_5( 5 ) = New DispatchWrapper( note12 )
+            objects_5( 6 ) = New DispatchWrapper( arcLengthDimension_0 )
+            objects_5( 7 ) = New DispatchWrapper( hatch8 )
+            objects_5( 8 ) = New DispatchWrapper( arc_0 )
 
             Dim objecttypes_5 As Integer() = New Integer( 8 ) {}
             objecttypes_5( 0 ) = CInt( Inkwright.iwObjectType_e.iwLineType )
             objecttypes_5( 1 ) = CInt( Inkwright.iwObjectType_e.iwLineType )
-            objecttypes_5( 2 ) = CInt( Inkwright.iwObjectType_e.iwCircleArcType )
-            objecttypes_5( 3 ) = CInt( Inkwright.iwObjectType_e.iwCircleType )
-            objecttypes_5( 4 ) = CInt( Inkwright.iwObjectType_e.iwSimpleNoteType )
+            objecttypes_5( 2 ) = CInt( Inkwright.iwObjectType_e.iwCircleType )
+            objecttypes_5( 3 ) = CInt( Inkwright.iwObjectType_e.iwSimpleNoteType )
+            objecttypes_5( 4 ) = CInt( Inkwright.iwObjectType_e.iwNoteType )
             objecttypes_5( 5 ) = CInt( Inkwright.iwObjectType_e.iwNoteType )
-            objecttypes_5( 6 ) = CInt( Inkwright.iwObjectType_e.iwNoteType )
-            objecttypes_5( 7 ) = CInt( Inkwright.iwObjectType_e.iwArcLengthDimensionType )
-            objecttypes_5( 8 ) = CInt( Inkwright.iwObjectType_e.iwHatchType )
+            objecttypes_5( 6 ) = CInt( Inkwright.iwObjectType_e.iwArcLengthDimensionType )
+            objecttypes_5( 7 ) = CInt( Inkwright.iwObjectType_e.iwHatchType )
+            objecttypes_5( 8 ) = CInt( Inkwright.iwObjectType_e.iwCircleArcType )
 
              blockdefinition9 = iwDoc.CreateBlockDefinition( "TITLE", "A3 frame\nmetric", 180.00000000000000, 0.00000000000000, 0.00000000000000, objecttypes_5, objects_5, Inkwright.iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing )
         End If
 
-        Dim blockinstance13 As Inkwright.BlockInstance
+        Dim line13 As Inkwright.Line
         If 1 Then
-            blockinstance13 = iwSketchManager.InsertBlock2( "TITLE", 400.00000000000000, 10.00000000000000, 0.00000000000000, 1.25000000000000, 0.75000000000000, 1.00000000000000, 0.25000000000000 )
-            Dim iwAttributes1 As Object() = blockinstance13.GetAttributeInstances()
+            line13 = iwSketchManager.InsertLine( 10.00000000000000, 95.00000000000000, 0.00000000000000, 20.00000000000000, 95.00000000000000, 0.00000000000000 )
+        End If
+
+        Dim blockinstance14 As Inkwright.BlockInstance
+        If 1 Then
+            blockinstance14 = iwSketchManager.InsertBlock2( "TITLE", 400.00000000000000, 10.00000000000000, 0.00000000000000, 1.25000000000000, 0.75000000000000, 1.00000000000000, 0.25000000000000 )
+            Dim iwAttributes1 As Object() = blockinstance14.GetAttributeInstances()
             For Each iwAttribute1 As Inkwright.AttributeInstance In iwAttributes1
                 If iwAttribute1.Name = "DRAWN" Then
                     iwAttribute1.Value = "M. Weber"
                 End If
             Next
-            Dim iwAttributes2 As Object() = blockinstance13.GetAttributeInstances()
+            Dim iwAttributes2 As Object() = blockinstance14.GetAttributeInstances()
             For Each iwAttribute2 As Inkwright.AttributeInstance In iwAttributes2
                 If iwAttribute2.Name = "DATE" Then
                     iwAttribute2.Value = "2024-05-17"
@@ -179,10 +184,8 @@ Public Class recording
             Next
         End If
 
-        Dim line14 As Inkwright.Line
         Dim blockinstance15 As Inkwright.BlockInstance
         If 1 Then
-            line14 = iwSketchManager.InsertLine( 10.00000000000000, 95.00000000000000, 0.00000000000000, 20.00000000000000, 95.00000000000000, 0.00000000000000 )
             Dim blockinstance15Def As Inkwright.BlockDefinition
             Dim arc_1 As Inkwright.CircleArc
             arc_1 = iwSketchManager.InsertArc( 10.00000000000000, 100.00000000000000, 0.00000000000000, 5.00000000000000, 0.00000000000000, 2.00000000000000 )
@@ -193,7 +196,7 @@ Public Class recording
 
             Dim objects_1 As DispatchWrapper()
             objects_1 = New DispatchWrapper( 2 ) {}
-            objects_1( 0 ) = New DispatchWrapper( line14 )
+            objects_1( 0 ) = New DispatchWrapper( line13 )
             objects_1( 1 ) = New DispatchWrapper( arc_1 )
             objects_1( 2 ) = New DispatchWrapper( arc_2 )
 
