@@ -155,8 +155,19 @@ using enum Target;
 const std::set<Target> everyTarget{Cpp, CSharp, JavaScript, VbNet, CppCom, Vba};
 const Unreachable unreachable[]{
     {"EmitCommandOptionInt32", everyTarget, "no option of a document is of that type"},
-    {"array of plane points", everyTarget, "no statement takes plane points"},
-    {"array of integers", {Cpp, VbNet, Vba}, "no statement takes plain integers"},
+    {"color", everyTarget, "changes of table styles are not converted"},
+    {"EmitRenameRichLineStyle", everyTarget, "new names of styles are not converted"},
+    {"EmitScaleTableRows: coefficient", everyTarget, "changes of tables are not converted"},
+    {"EmitScaleTableRows: count", everyTarget, "changes of tables are not converted"},
+    {"EmitScaleTableRows: loop", everyTarget, "changes of tables are not converted"},
+    {"EmitScaleTableRows: size", everyTarget, "changes of tables are not converted"},
+    {"EmitScaleTableRows: set", everyTarget, "changes of tables are not converted"},
+    {"EmitSetTableStyle: manager", everyTarget, "changes of tables are not converted"},
+    {"EmitSetTableStyle: style", everyTarget, "changes of tables are not converted"},
+    {"EmitSetTableStyle: set", everyTarget, "changes of tables are not converted"},
+    {"EmitTableStyleOrientation", everyTarget, "changes of tables are not converted"},
+    {"EmitTableBordersLineWeight", everyTarget, "changes of table styles are not converted"},
+    {"EmitTableBordersColor", everyTarget, "changes of table styles are not converted"},
     {"array of numbers", {JavaScript, VbNet, CppCom}, "selections alone fill one, and these targets have none"},
 };
 
