@@ -442,6 +442,10 @@ bool CMacroCommand::ExecuteNotify(void)
             iwarcalignedtext8->SetCurvedSettings( curvedSettings1 );
         }
     }
+    iwBlockInstance_ptr iwblockinstance9;
+    {
+         iwSketchManager->InsertBlock2(L"Balloon", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000, &iwblockinstance9 );
+    }
     {
         // AcDbBlockReference object modified
         {

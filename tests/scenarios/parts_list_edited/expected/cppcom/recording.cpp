@@ -501,6 +501,10 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
             arcalignedtext8->SetCurvedSettings( curvedSettings1 );
         }
     }
+    IBlockInstancePtr blockinstance9;
+    {
+         blockinstance9 = iwSketchManager->InsertBlock2(L"Balloon", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 );
+    }
     {
         // AcDbBlockReference object modified
         {

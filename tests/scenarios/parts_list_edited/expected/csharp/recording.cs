@@ -402,6 +402,10 @@ namespace IWAPIMacros
                     arcalignedtext8.SetCurvedSettings( curvedSettings1 );
                 }
             }
+            BlockInstance blockinstance9;
+            {
+                blockinstance9 = iwApp.GetActiveDocument().GetModel().GetSketchManager().InsertBlock2( "Balloon", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 );
+            }
             {
                 // AcDbBlockReference object modified
                 {

@@ -480,6 +480,11 @@ Sub main()
 
         End If
 
+        Dim blockinstance9 As Inkwright.BlockInstance
+        If 1 Then
+            Set blockinstance9 = iwSketchManager.InsertBlock2( "Balloon", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 )
+        End If
+
         If 1 Then
             ' AcDbBlockReference object modified
             If 1 Then
