@@ -253,7 +253,7 @@ QString renameStyle(const Change& change, const CFxString& name)
     return EmitRenameStyle(change.writer, change.target, name, false);
 }
 
-/// A style that belongs to a label of the host's own has a name that no macro can give.
+/// A name that begins with the mark is none to be given; such a change is passed over.
 QString renameTextStyle(const Change& change, const CFxString& name)
 {
     static const QLatin1String mark("<tag>");

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "TestActions.h"
+#include "TestRecords.h"
 #include "TestTarget.h"
 
 #include "objects/classTable.h"
 
+/// A record of a repeated property.
 inline CFxPropertyChangedPtr record(const CFxString& tag, const CFxVariant& value, const CFxVariant& index = {})
 {
     return odrxNew<TestProperty>(tag, value, CFxString(), index);

@@ -487,7 +487,7 @@ TEST_F(TableChanges, WriteRowsAndColumnsInAllTargets)
                  " it1.InsertColumn( 2, 5 );\n it1.SetColumnWidthAt( 2, 5 );\n",
                  " it1.InsertColumn( 2, 5 )\n it1.SetColumnWidthAt( 2, 5 )\n",
                  " it1.InsertColumn 2, 5\n it1.SetColumnWidthAt 2, 5\n"});
-    expectLines({record("Rows", 1), record("Columns", 0), record("Contents_0_1", CFxString("a\\b"))},
+    expectLines({record("Rows", 1), record("Columns", CFxVariant(0)), record("Contents_0_1", CFxString("a\\b"))},
                 {" bool bRetVal;\n it1->DeleteRow( 1, &bRetVal );\n bool bRetVal;\n"
                  " it1->DeleteColumn( 1, &bRetVal );\n it1->SetText( 0, 1, L\"a\\\\b\" );\n",
                  " it1->DeleteRow( 1 );\n it1->DeleteColumn( 1 );\n it1->SetText( 0, 1, L\"a\\\\b\" );\n",
@@ -514,12 +514,12 @@ TEST_F(TableChanges, FollowTheOrderOfTheirSteps)
 
 TEST_F(TableChanges, TakeTheLastOldLineAwayOnce)
 {
-    EXPECT_EQ(change({record("Rows", 0)}), QString(" it1.DeleteRow( 1 );\n"));
-    EXPECT_EQ(change({record("Rows", 0)}), QString());
+    EXPECT_EQ(change({record("Rows", CFxVariant(0))}), QString(" it1.DeleteRow( 1 );\n"));
+    EXPECT_EQ(change({record("Rows", CFxVariant(0))}), QString());
     EXPECT_EQ(change({record("Columns", 1)}), QString(" it1.DeleteColumn( 2 );\n"));
     // What is no count leaves the old one.
     EXPECT_EQ(change({record("Columns", 4.0)}), QString());
-    EXPECT_EQ(change({record("Columns", 0)}), QString(" it1.DeleteColumn( 0 );\n"));
+    EXPECT_EQ(change({record("Columns", CFxVariant(0))}), QString(" it1.DeleteColumn( 0 );\n"));
 }
 
 TEST_F(TableChanges, FindNewLinesInUnbrokenOrder)

@@ -194,6 +194,16 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitHatchGradient: true color", allButCpp, 2},
         // C++ sets the color where it is fetched.
         {"EmitHatchGradientData: assigned color", {Cpp}, 2},
+        // A color has a variable of its own in C++.
+        {"color", {Cpp}, 2},
+        // C++ cannot change these of a style, nor a style's name.
+        {"EmitTableBordersColor", {Cpp}},
+        {"EmitReplaceRichLineElement", {Cpp}},
+        {"EmitRenameRichLineStyle", {Cpp}},
+        // Only in C++ does the activation of a layer or a style differ from that of anything else.
+        {"EmitActivateLayer", allButCpp},
+        // The others look the style up where they set it.
+        {"EmitSetTableStyle: style", {CSharp, JavaScript, VbNet, Vba}},
         // Declarations ahead of the tests in C++ and VBA, a call behind them in C++.
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom}},
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom, Vba}},

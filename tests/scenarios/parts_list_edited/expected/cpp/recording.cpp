@@ -442,6 +442,48 @@ bool CMacroCommand::ExecuteNotify(void)
             iwarcalignedtext8->SetCurvedSettings( curvedSettings1 );
         }
     }
+    iwBlockInstance_ptr iwblockinstance9;
+    {
+         iwSketchManager->InsertBlock2(L"Balloon", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000, &iwblockinstance9 );
+    }
+    {
+        // AcDbBlockReference object modified
+        {
+            double X1;
+            double Y1;
+            double Z1;
+            iwblockinstance9->GetPosition( &X1, &Y1, &Z1 );
+            Y1 = 30.00000000000000;
+            iwblockinstance9->SetPosition( X1, Y1, Z1 );
+            double X2;
+            double Y2;
+            double Z2;
+            iwblockinstance9->GetScales( &X2, &Y2, &Z2 );
+            X2 = 2.00000000000000;
+            iwblockinstance9->SetScales( X2, Y2, Z2 );
+            iwblockinstance9->put_Rotation( 0.50000000000000 );
+            iwObjectPtrArray iwAttributes3;
+            iwblockinstance9->GetAttributeInstances( &iwAttributes3 );
+            for (int i = 0; i < (int)iwAttributes3.length(); ++i)
+            {
+                iwAttributeInstance_c* iwAttribute3 = (iwAttributeInstance_c*)iwAttributes3[i];
+                iwString name3;
+                iwAttribute3->get_Name( &name3 );
+                if (name3 == L"NO")
+                    iwAttribute3->put_Value( L"3" );
+            }
+            iwObjectPtrArray iwAttributes4;
+            iwblockinstance9->GetAttributeInstances( &iwAttributes4 );
+            for (int i = 0; i < (int)iwAttributes4.length(); ++i)
+            {
+                iwAttributeInstance_c* iwAttribute4 = (iwAttributeInstance_c*)iwAttributes4[i];
+                iwString name4;
+                iwAttribute4->get_Name( &name4 );
+                if (name4 == L"NAME")
+                    iwAttribute4->put_Value( L"Nut" );
+            }
+        }
+    }
     return true;
 }
 

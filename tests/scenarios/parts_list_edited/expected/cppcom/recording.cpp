@@ -501,5 +501,45 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
             arcalignedtext8->SetCurvedSettings( curvedSettings1 );
         }
     }
+    IBlockInstancePtr blockinstance9;
+    {
+         blockinstance9 = iwSketchManager->InsertBlock2(L"Balloon", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 );
+    }
+    {
+        // AcDbBlockReference object modified
+        {
+            double X1;
+            double Y1;
+            double Z1;
+            blockinstance9->GetPosition( &X1, &Y1, &Z1 );
+            Y1 = 30.00000000000000;
+            blockinstance9->SetPosition( X1, Y1, Z1 );
+            
+            double X2;
+            double Y2;
+            double Z2;
+            blockinstance9->GetScales( &X2, &Y2, &Z2 );
+            X2 = 2.00000000000000;
+            blockinstance9->SetScales( X2, Y2, Z2 );
+            
+            blockinstance9->put_Rotation( 0.50000000000000 );
+            IAttributeInstancePtr *iwAttributes3 = NULL;
+            int count3 = 0;
+            TypeConverter::convertVariantArrayToPtrArray<IAttributeInstancePtr, IAttributeInstance>( blockinstance9->GetAttributeInstances(), iwAttributes3, count3 );
+            for (int i = 0; i < count3; ++i)
+            {
+                if (iwAttributes3[i]->GetName() == _bstr_t(L"NO"))
+                    iwAttributes3[i]->put_Value( L"3" );
+            }
+            IAttributeInstancePtr *iwAttributes4 = NULL;
+            int count4 = 0;
+            TypeConverter::convertVariantArrayToPtrArray<IAttributeInstancePtr, IAttributeInstance>( blockinstance9->GetAttributeInstances(), iwAttributes4, count4 );
+            for (int i = 0; i < count4; ++i)
+            {
+                if (iwAttributes4[i]->GetName() == _bstr_t(L"NAME"))
+                    iwAttributes4[i]->put_Value( L"Nut" );
+            }
+        }
+    }
 }
 

@@ -402,6 +402,42 @@ namespace IWAPIMacros
                     arcalignedtext8.SetCurvedSettings( curvedSettings1 );
                 }
             }
+            BlockInstance blockinstance9;
+            {
+                blockinstance9 = iwApp.GetActiveDocument().GetModel().GetSketchManager().InsertBlock2( "Balloon", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 );
+            }
+            {
+                // AcDbBlockReference object modified
+                {
+                    double X1;
+                    double Y1;
+                    double Z1;
+                    blockinstance9.GetPosition(out X1, out Y1, out Z1);
+                    Y1 = 30.00000000000000;
+                    blockinstance9.SetPosition(X1, Y1, Z1);
+                    double X2;
+                    double Y2;
+                    double Z2;
+                    blockinstance9.GetScales(out X2, out Y2, out Z2);
+                    X2 = 2.00000000000000;
+                    blockinstance9.SetScales(X2, Y2, Z2);
+                    blockinstance9.Rotation = 0.50000000000000;
+                    object[] iwAttributes3 = (object[])blockinstance9.GetAttributeInstances();
+                    foreach (object attribute3 in iwAttributes3)
+                    {
+                        AttributeInstance iwAttribute3 = attribute3 as AttributeInstance;
+                        if (iwAttribute3.Name == "NO")
+                            iwAttribute3.Value = "3";
+                    }
+                    object[] iwAttributes4 = (object[])blockinstance9.GetAttributeInstances();
+                    foreach (object attribute4 in iwAttributes4)
+                    {
+                        AttributeInstance iwAttribute4 = attribute4 as AttributeInstance;
+                        if (iwAttribute4.Name == "NAME")
+                            iwAttribute4.Value = "Nut";
+                    }
+                }
+            }
         }
     }
 }

@@ -151,9 +151,9 @@ Sub main()
                 iRowCount1 = table3.TotalRowCount()
                 Dim i1 As Integer
                 For i1 = 0 To iRowCount1 - 1
-                    Dim height As Double
-                    height = table3.GetRowHeight(i1)*coef1
-                    table3.SetRowHeightAt i1, height
+                    Dim height1 As Double
+                    height1 = table3.GetRowHeight(i1)*coef1
+                    table3.SetRowHeightAt i1, height1
                 Next
             End If
 
@@ -168,9 +168,9 @@ Sub main()
                 iColumnCount1 = table3.TotalColumnCount()
                 Dim i1 As Integer
                 For i1 = 0 To iColumnCount1 - 1
-                    Dim width As Double
-                    width = table3.GetColumnWidth(i1)*coef1
-                    table3.SetColumnWidthAt i1, width
+                    Dim width1 As Double
+                    width1 = table3.GetColumnWidth(i1)*coef1
+                    table3.SetColumnWidthAt i1, width1
                 Next
             End If
 
@@ -476,6 +476,47 @@ Sub main()
                 Italic = False
                 curvedSettings1.SetFontParameters Typeface, Bold, Italic, Charset, PitchAndFamily
                 arcalignedtext8.SetCurvedSettings curvedSettings1
+            End If
+
+        End If
+
+        Dim blockinstance9 As Inkwright.BlockInstance
+        If 1 Then
+            Set blockinstance9 = iwSketchManager.InsertBlock2( "Balloon", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 )
+        End If
+
+        If 1 Then
+            ' AcDbBlockReference object modified
+            If 1 Then
+                Dim X1 As Double
+                Dim Y1 As Double
+                Dim Z1 As Double
+                blockinstance9.GetPosition X1, Y1, Z1 
+                Y1 = 30.00000000000000
+                blockinstance9.SetPosition X1, Y1, Z1 
+                Dim X2 As Double
+                Dim Y2 As Double
+                Dim Z2 As Double
+                blockinstance9.GetScales X2, Y2, Z2 
+                X2 = 2.00000000000000
+                blockinstance9.SetScales X2, Y2, Z2 
+                blockinstance9.Rotation = 0.50000000000000
+                Dim iwAttributes3 As Variant
+                iwAttributes3 = blockinstance9.GetAttributeInstances()
+                Dim iwAttribute3 As Variant
+                For Each iwAttribute3 In iwAttributes3
+                    If iwAttribute3.Name = "NO" Then
+                        iwAttribute3.Value = "3"
+                    End If
+                Next
+                Dim iwAttributes4 As Variant
+                iwAttributes4 = blockinstance9.GetAttributeInstances()
+                Dim iwAttribute4 As Variant
+                For Each iwAttribute4 In iwAttributes4
+                    If iwAttribute4.Name = "NAME" Then
+                        iwAttribute4.Value = "Nut"
+                    End If
+                Next
             End If
 
         End If

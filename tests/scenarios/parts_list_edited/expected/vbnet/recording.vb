@@ -442,6 +442,43 @@ Public Class recording
 
         End If
 
+        Dim blockinstance9 As Inkwright.BlockInstance
+        If 1 Then
+            blockinstance9 = iwSketchManager.InsertBlock2( "Balloon", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 )
+        End If
+
+        If 1 Then
+            ' AcDbBlockReference object modified
+            If 1 Then
+                Dim X1 As Double
+                Dim Y1 As Double
+                Dim Z1 As Double
+                blockinstance9.GetPosition( X1, Y1, Z1 )
+                Y1 = 30.00000000000000
+                blockinstance9.SetPosition( X1, Y1, Z1 )
+                Dim X2 As Double
+                Dim Y2 As Double
+                Dim Z2 As Double
+                blockinstance9.GetScales( X2, Y2, Z2 )
+                X2 = 2.00000000000000
+                blockinstance9.SetScales( X2, Y2, Z2 )
+                blockinstance9.Rotation = 0.50000000000000
+                Dim iwAttributes3 As Object() = blockinstance9.GetAttributeInstances()
+                For Each iwAttribute3 As Inkwright.AttributeInstance In iwAttributes3
+                    If iwAttribute3.Name = "NO" Then
+                        iwAttribute3.Value = "3"
+                    End If
+                Next
+                Dim iwAttributes4 As Object() = blockinstance9.GetAttributeInstances()
+                For Each iwAttribute4 As Inkwright.AttributeInstance In iwAttributes4
+                    If iwAttribute4.Name = "NAME" Then
+                        iwAttribute4.Value = "Nut"
+                    End If
+                Next
+            End If
+
+        End If
+
 
     End Sub
 
