@@ -126,7 +126,7 @@ inline constexpr auto actionKinds = [] {
          ActionForm{DataSignature::exactly({kInt, kString}), &Impl::ConvertActionEmbeddedObject}},
         {kPolyline, "polyline"},
         {17, "erase", &Impl::ConvertActionErase},
-        {18, "insert hatch"},
+        {18, "insert hatch", &Impl::ConvertActionInsertHatch},
         // Colors of the host's screen elements; the element is the action's first datum.
         {{19, 23}, "element color", &Impl::ConvertActionElementColor},
         {{26, 32}, "element color", &Impl::ConvertActionElementColor},

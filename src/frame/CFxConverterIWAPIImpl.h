@@ -54,6 +54,7 @@ public:
     std::int32_t ConvertActionSelectionFilter(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionEmbeddedObject(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionErase(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionInsertHatch(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionElementColor(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionOptionValue(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionInterfaceFile(OdSmartPtr<CFxCustomAction> action, QString& text);

@@ -17,12 +17,19 @@ struct ProcessCounters
         std::uint32_t systemFiles = 0;
         std::uint32_t drawingSupportFiles = 0;
         std::uint32_t fileLocationArrays = 0;
+        std::array<std::uint32_t, 15> boundaryEntities{}; ///< one a kind of temporary entity
+        std::array<std::uint32_t, 4> regionPieces{};      ///< one a kind of curve
+        std::uint32_t hatchRegions = 1;
+        std::uint32_t imageBackgrounds = 0;
+        std::uint32_t gradientBackgrounds = 0;
+        std::uint32_t solidBackgrounds = 0;
     };
 
     std::uint32_t layerManagers = 0; ///< the first is 1
     std::uint32_t regions = 0;       ///< the first is 1
     std::uint32_t selections = 0;
     std::uint32_t elementColors = 0;
+    std::uint32_t hatchPolylines = 0;
 
     OfTarget& of(inkmacro::Target target) { return ofTargets[static_cast<std::size_t>(target)]; }
     std::array<OfTarget, inkmacro::targetCount> ofTargets{};

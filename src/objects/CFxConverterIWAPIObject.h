@@ -13,8 +13,9 @@
 class ChangeGroups;
 class CFxConverterIWAPIImpl;
 class StatementGroup;
-struct ClassRow;
 class Writer;
+struct BoundaryObject;
+struct ClassRow;
 
 /// Whether that file of line type shapes comes with the host, which then needs no statement to load it.
 bool IsHostShapeFile(const CFxString& fileName);
@@ -72,6 +73,7 @@ public:
 
     // Changes that are more than a list of tags: ChangeHandler in objects/classTable.h.
     void ConvertModifiedLine(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedHatch(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
 
     /// Takes the first record with that tag out of the list and gives its value, or the null value. The record's tag
     /// may be in the host's display language. `consumed` and `index` may be null; they receive the record, and its
@@ -93,6 +95,9 @@ public:
     QString ObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
     /// The variable of an object that was added before; empty for any other. Takes no number.
     QString AddedVariable(const OdDbObjectId& id) const;
+    /// The objects that a hatch's boundary follows, erased ones included and each of them once, with the variables of
+    /// those that were added before. Raises an OdError for an object that the drawing does not have.
+    std::vector<BoundaryObject> BoundaryObjects(const OdArray<OdDbObjectId>& ids) const;
 
 private:
     /// The id of the object in the active drawing; null without one.
@@ -119,6 +124,7 @@ private:
                           const CFxVariant& erased);
 
     std::map<OdDbObjectId, QString> addedVariableById;
+    OdDbHandle changedHandle; ///< of the object whose changes are being converted
     // What tables were made and changed to so far, by their variables.
     std::map<CFxString, std::int32_t> tableRowCounts;
     std::map<CFxString, std::int32_t> tableColumnCounts;

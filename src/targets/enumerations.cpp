@@ -79,6 +79,9 @@ const ValueEnumeration dualDimensionFormat{"iwDualDimensionFormat",
 const ValueEnumeration dualDimensionInsertPlacement{
     "iwDualDimensionInsertPlacement", 0, {"BelowPrimaryUnits", "AfterPrimaryUnits"}};
 
+const ValueEnumeration hatchPatternInternalRegionDetection{
+    "iwHatchPatternInternalRegionDetection", 1, {"Normal", "Outer", "Ignore"}};
+
 const ValueEnumeration leaderType{
     "iwLeaderType", 0, {"LineWithNoArrow", "SplineWithNoArrow", "LineWithArrow", "SplineWithArrow"}};
 
@@ -237,6 +240,11 @@ QString EnumeratorByValue(Target target, const ValueEnumeration& enumeration, st
     const std::int64_t position = positionOf(enumeration, value);
     const bool inside = position >= 0 && position < static_cast<std::int64_t>(enumeration.suffixes.size());
     return withSuffix(target, enumeration.name, enumeration.suffixes.begin()[inside ? position : 0]);
+}
+
+QString EnumeratorBySuffix(Target target, const ValueEnumeration& enumeration, const char* suffix)
+{
+    return withSuffix(target, enumeration.name, suffix);
 }
 
 QString EnumeratorByText(Target target, const TextEnumeration& enumeration, const QString& text)

@@ -187,13 +187,28 @@ def _first_difference(wanted, seen, what):
     return []
 
 
-def _temporaries(calls):
-    """The curves that are inserted for a dimension alone: they are erased right behind it."""
+def _named(arguments):
+    """The objects among the arguments of a call, those in its lists included."""
+    return {text for _, text in _leaves(arguments, "") if isinstance(text, str) and text.startswith("@")}
+
+
+def _temporaries(calls, made):
+    """The ways to what is inserted for one call alone. Curves of a dimension are erased right behind it. What a hatch
+    or a region within its boundary is made of stands right in front of it. `made` has the way to what each call
+    inserts, if any."""
     for number, (_, name, arguments) in enumerate(calls):
         if re.fullmatch("Insert.+Dimension.*", name):
             behind = itertools.takewhile(lambda call: call[1] == "put_Erased" and "@" + call[0] in arguments,
                                          calls[number + 1:])
             yield from (on for on, _, _ in behind)
+        if name == "InsertHatchByEntities":
+            boundary = _named(arguments)
+            for (_, operation, handed), way in zip(reversed(calls[:number]), reversed(made[:number])):
+                if not re.fullmatch("Insert(?!Hatch).+|SetSegmentAngle|get_RegionArray", operation):
+                    break
+                boundary |= _named(handed)
+                if way and "@" + way in boundary:
+                    yield way
 
 
 class Comparison:
@@ -227,21 +242,27 @@ class Comparison:
         self.objects += len(objects.ways)
         self.complaints += [f"{macro.name}: {fault}" for fault in faults]
 
+    def _made(self, calls):
+        """The way to what each call inserts, or None."""
+        counts = {}
+        for _, name, _ in calls:
+            result = self._inserted.get(self._insertions.get(name))
+            counts[result] = counts.get(result, 0) + 1
+            yield f"{result}#{counts[result]}" if result else None
+
     def _lasting(self, calls):
-        """Without temporary curves; the others get the numbers that they would have without those."""
-        temporary = set(_temporaries(calls))
-        given, counts, ways, lasting = {}, {}, {}, []
-        for on, name, arguments in calls:
-            if name in self._insertions:
-                result = self._inserted[self._insertions[name]]
-                given[result] = given.get(result, 0) + 1
-                way = f"{result}#{given[result]}"
-                if way in temporary:
-                    continue
+        """Without temporary objects; the others get the numbers that they would have without those."""
+        made = list(self._made(calls))
+        temporary = set(_temporaries(calls, made))
+        counts, ways, lasting = {}, {}, []
+        for (on, name, arguments), way in zip(calls, made):
+            if way in temporary or on in temporary:
+                continue
+            if way:
+                result = way.split("#")[0]
                 counts[result] = counts.get(result, 0) + 1
                 ways[way] = f"{result}#{counts[result]}"
-            if on not in temporary:
-                lasting.append((ways.get(on, on), name, arguments))
+            lasting.append((ways.get(on, on), name, arguments))
         return lasting
 
     def _compare(self, wanted, seen, faults):

@@ -189,6 +189,16 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitActivateLayer", allButCpp},
         // The others look the style up where they set it.
         {"EmitSetTableStyle: style", {CSharp, JavaScript, VbNet, Vba}},
+        // A temporary entity is declared where it is assigned.
+        {"EmitInsertHatchByEntities: declaration of an entity", {CSharp, JavaScript}, 2},
+        // COM declares the array with the call, a page has all of a pattern's data in one object.
+        {"EmitInsertHatchByEntities: array", {CppCom}},
+        {"EmitSetHatchData: locals", {JavaScript}},
+        // C++ takes each color into a variable in front of the call, the others have them within it.
+        {"EmitHatchGradient: indexed color", allButCpp, 2},
+        {"EmitHatchGradient: true color", allButCpp, 2},
+        // C++ sets the color where it is fetched.
+        {"EmitHatchGradientData: assigned color", {Cpp}, 2},
         // Declarations ahead of the tests in C++ and VBA, a call behind them in C++.
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom}},
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom, Vba}},

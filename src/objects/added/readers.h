@@ -21,6 +21,7 @@ QString ReadNote(AddedObject& added);
 QString ReadTolerance(AddedObject& added);
 QString ReadLeader(AddedObject& added);
 QString ReadCurvedText(AddedObject& added);
+QString ReadHatch(AddedObject& added);
 QString ReadRichLine(AddedObject& added);
 QString ReadFace(AddedObject& added);
 QString ReadPolyline3D(AddedObject& added);

@@ -26,3 +26,9 @@ extern const ChangeGroups modifiedEmbeddedObject;
 extern const ChangeGroups modifiedViewport;
 extern const ChangeGroups modifiedLeader;
 extern const ChangeGroups modifiedTolerance;
+/// Of all dimension classes but two, which have tags of their own behind them.
+extern const ChangeGroups modifiedDimension;
+extern const ChangeGroups modifiedArcLengthDimension;
+extern const ChangeGroups modifiedJoggedDimension;
+extern const ChangeGroups modifiedDimensionStyle;
+extern const ChangeGroups modifiedRichLineStyle;

@@ -299,3 +299,102 @@ QString EmitChangeVertex2D(Writer& writer, const CFxString& target, std::int32_t
     static const PointWords words{declareVertex2D, getVertex2D, changeVertexCoordinate, setVertex2D};
     return changeVertex(writer, words, target, index, axis, value);
 }
+
+// JavaScript reads the whole point into one variable, which every such change declares again.
+
+/// Takes a number wherever the target's words have a place for it.
+static QString changeCoordinate(Writer& writer, const Phrase& phrase, const CFxString& target, const CFxString& stem,
+                                double value)
+{
+    const std::uint32_t suffix = writer.target == Target::JavaScript ? 0 : ++writer.UniqueCounter;
+    return writer.fill(phrase).text(target).text(stem).real(value).number(suffix);
+}
+
+static const Phrase changeCoordinateX{
+    "EmitChangeCoordinateX",
+    {
+        .cpp = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( %5, y%6, z%6 );%2",
+        .cppCom = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( %5, y%6, z%6 );%2",
+        .csharp = "%1double x%6, y%6, z%6;%2%1%3.Get%4( out x%6, out y%6, out z%6 );%2"
+                  "%1%3.Set%4( %5, y%6, z%6 );%2",
+        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(%5, points.Y, points.Z);%2",
+        .vbNet = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4( x%6, y%6, z%6 )%2"
+                 "%1%3.Set%4( %5, y%6, z%6 )%2",
+        .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4 x%6, y%6, z%6%2"
+               "%1%3.Set%4 %5, y%6, z%6%2",
+    }};
+
+QString EmitChangeCoordinateX(Writer& writer, const CFxString& target, const CFxString& stem, double value)
+{
+    return changeCoordinate(writer, changeCoordinateX, target, stem, value);
+}
+
+static const Phrase changeCoordinateY{
+    "EmitChangeCoordinateY",
+    {
+        .cpp = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( x%6, %5, z%6 );%2",
+        .cppCom = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( x%6, %5, z%6 );%2",
+        .csharp = "%1double x%6, y%6, z%6;%2%1%3.Get%4( out x%6, out y%6, out z%6 );%2"
+                  "%1%3.Set%4( x%6, %5, z%6 );%2",
+        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(points.X, %5, points.Z);%2",
+        .vbNet = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4( x%6, y%6, z%6 )%2"
+                 "%1%3.Set%4( x%6, %5, z%6 )%2",
+        .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4 x%6, y%6, z%6%2"
+               "%1%3.Set%4 x%6, %5, z%6%2",
+    }};
+
+QString EmitChangeCoordinateY(Writer& writer, const CFxString& target, const CFxString& stem, double value)
+{
+    return changeCoordinate(writer, changeCoordinateY, target, stem, value);
+}
+
+static const Phrase changeCoordinateZ{
+    "EmitChangeCoordinateZ",
+    {
+        .cpp = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( x%6, y%6, %5 );%2",
+        .cppCom = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( x%6, y%6, %5 );%2",
+        .csharp = "%1double x%6, y%6, z%6;%2%1%3.Get%4( out x%6, out y%6, out z%6 );%2"
+                  "%1%3.Set%4( x%6, y%6, %5 );%2",
+        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(points.X, points.Y, %5);%2",
+        .vbNet = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4( x%6, y%6, z%6 )%2"
+                 "%1%3.Set%4( x%6, y%6, %5 )%2",
+        .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4 x%6, y%6, z%6%2"
+               "%1%3.Set%4 x%6, y%6, %5%2",
+    }};
+
+QString EmitChangeCoordinateZ(Writer& writer, const CFxString& target, const CFxString& stem, double value)
+{
+    return changeCoordinate(writer, changeCoordinateZ, target, stem, value);
+}
+
+static const Phrase changeCoordinate2DX{
+    "EmitChangeCoordinate2DX",
+    {
+        .cpp = "%1double x%6, y%6;%2%1%3->Get%4( &x%6, &y%6 );%2%1%3->Set%4( %5, y%6 );%2",
+        .cppCom = "%1double x%6, y%6;%2%1%3->Get%4( &x%6, &y%6 );%2%1%3->Set%4( %5, y%6 );%2",
+        .csharp = "%1double x%6, y%6;%2%1%3.Get%4( out x%6, out y%6 );%2%1%3.Set%4( %5, y%6 );%2",
+        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(%5, points.Y);%2",
+        .vbNet = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1%3.Get%4( x%6, y%6 )%2%1%3.Set%4( %5, y%6 )%2",
+        .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1%3.Get%4 x%6, y%6%2%1%3.Set%4 %5, y%6%2",
+    }};
+
+QString EmitChangeCoordinate2DX(Writer& writer, const CFxString& target, const CFxString& stem, double value)
+{
+    return changeCoordinate(writer, changeCoordinate2DX, target, stem, value);
+}
+
+static const Phrase changeCoordinate2DY{
+    "EmitChangeCoordinate2DY",
+    {
+        .cpp = "%1double x%6, y%6;%2%1%3->Get%4( &x%6, &y%6 );%2%1%3->Set%4( x%6, %5 );%2",
+        .cppCom = "%1double x%6, y%6;%2%1%3->Get%4( &x%6, &y%6 );%2%1%3->Set%4( x%6, %5 );%2",
+        .csharp = "%1double x%6, y%6;%2%1%3.Get%4( out x%6, out y%6 );%2%1%3.Set%4( x%6, %5 );%2",
+        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(points.X, %5);%2",
+        .vbNet = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1%3.Get%4( x%6, y%6 )%2%1%3.Set%4( x%6, %5 )%2",
+        .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1%3.Get%4 x%6, y%6%2%1%3.Set%4 x%6, %5%2",
+    }};
+
+QString EmitChangeCoordinate2DY(Writer& writer, const CFxString& target, const CFxString& stem, double value)
+{
+    return changeCoordinate(writer, changeCoordinate2DY, target, stem, value);
+}

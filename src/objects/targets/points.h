@@ -16,3 +16,10 @@ QString EmitChangeVertex(Writer& writer, const CFxString& target, std::int32_t i
                          double value);
 QString EmitChangeVertex2D(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
                            double value);
+// A coordinate of a point that has one host operation to read and one to write: "Get" and "Set" in front of the stem.
+QString EmitChangeCoordinateX(Writer& writer, const CFxString& target, const CFxString& stem, double value);
+QString EmitChangeCoordinateY(Writer& writer, const CFxString& target, const CFxString& stem, double value);
+QString EmitChangeCoordinateZ(Writer& writer, const CFxString& target, const CFxString& stem, double value);
+/// Of a point in a plane, as the next one does.
+QString EmitChangeCoordinate2DX(Writer& writer, const CFxString& target, const CFxString& stem, double value);
+QString EmitChangeCoordinate2DY(Writer& writer, const CFxString& target, const CFxString& stem, double value);

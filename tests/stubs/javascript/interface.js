@@ -6,8 +6,13 @@
 var CALLS = [];
 var COUNTS = {};
 
+// A value as a call has it: objects by the way to them, those in lists too.
+function named(value) {
+    return value instanceof Noting ? '@' + value.way : Array.isArray(value) ? value.map(named) : value;
+}
+
 function note(object, call, given, result) {
-    CALLS.push({on: object.way, call: call, args: given.map(value => value instanceof Noting ? '@' + value.way : value)});
+    CALLS.push({on: object.way, call: call, args: given.map(named)});
     if (given.length < 2) {
         return object.way + '.' + call + '(' + given.map(value => JSON.stringify(value)).join('') + ')';
     }

@@ -1,0 +1,84 @@
+// The custom action that inserts a hatch. The command has made the hatch, and the action is handed its variable.
+
+#include "targets/hatches.h"
+#include "actions/handedVariable.h"
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/counters.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/targets/hatchInsertions.h"
+
+#include <cmath>
+
+using inkmacro::HandedVariable;
+using inkmacro::takeVariable;
+
+namespace {
+
+/// A segment that is bent by no more than this is straight.
+constexpr double kStraight = 1e-10;
+
+/// A polyline of its own is the boundary. The bulges are tangents of a quarter of the angle of each arc.
+QString hatchByBulges(Writer& writer, const CFxString& hatch, const HatchPattern& pattern,
+                      const CFxCustomAction& action)
+{
+    const CFxString polyline = QStringLiteral("hatch_Polyline_%1").arg(processCounters.hatchPolylines);
+    QString text = EmitHatchBoundaryPolyline(writer, polyline, action.GetData(8).Get2dPointArray(), true);
+    std::int32_t index = 0;
+    for (const double bulge : action.GetData(7).GetDoubleArray()) {
+        if (bulge > kStraight || bulge < -kStraight)
+            text += EmitSetSegmentAngle(writer, polyline, index, 4 * std::atan(bulge));
+        ++index;
+    }
+    ++processCounters.hatchPolylines;
+    return text + EmitHatchByPolyline(writer, hatch, polyline, pattern, action.GetData(9).GetBool());
+}
+
+/// The points are one more than the counts add up to: the first stands at the end once more, whatever the number of
+/// loops. A boundary without a loop writes nothing.
+QString hatchByBoundary(Writer& writer, const CFxString& hatch, const HatchPattern& pattern,
+                        const CFxCustomAction& action)
+{
+    const OdArray<int>& counts = action.GetData(7).GetIntArray();
+    if (counts.isEmpty())
+        return {};
+    OdArray<OdGePoint2d> points = action.GetData(8).Get2dPointArray();
+    points.append(points[0]);
+    return EmitInsertHatchByBoundary(writer, hatch, counts, points, pattern);
+}
+
+HatchGradient gradientAt(const CFxCustomAction& action, std::int32_t first)
+{
+    return {action.GetData(first).GetColor(), action.GetData(first + 1).GetColor(), action.GetData(first + 2).GetBool(),
+            action.GetData(first + 3).GetDouble()};
+}
+
+} // namespace
+
+/// Of the ways to make a hatch the first one that is set is taken; the last needs no mark.
+std::int32_t CFxConverterIWAPIImpl::ConvertActionInsertHatch(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    const CFxString hatch = takeVariable(text, HandedVariable::Replaced);
+    const HatchPattern pattern{action->GetData(0).GetString(), action->GetData(1).GetDouble(),
+                               action->GetData(2).GetDouble()};
+    const bool byInternalPoints = action->GetData(3).GetBool();
+    const bool byEntities = action->GetData(4).GetBool();
+    const bool byBulges = action->GetData(5).GetBool();
+    const bool hasGradient = action->GetData(6).GetBool();
+    std::int32_t gradient = 9;
+    if (byInternalPoints) {
+        text = EmitInsertHatchByInternalPoints(writer, hatch, action->GetData(7).Get2dPointArray(), pattern);
+        gradient = 8;
+    } else if (byEntities) {
+        text =
+            EmitInsertHatchByEntities(writer, hatch, Objects().BoundaryObjects(action->GetData(7).GetObjectIdArray()),
+                                      pattern, action->GetData(8).GetBool());
+    } else if (byBulges) {
+        text = hatchByBulges(writer, hatch, pattern, *action);
+        gradient = 10;
+    } else {
+        text = hatchByBoundary(writer, hatch, pattern, *action);
+    }
+    if (hasGradient)
+        text += EmitHatchGradient(writer, hatch, gradientAt(*action, gradient));
+    return kFxSuccess;
+}

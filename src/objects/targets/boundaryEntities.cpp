@@ -1,0 +1,321 @@
+// The temporary entities that a hatch's boundary is made from where the macro has no variable for it.
+
+#include "objects/targets/boundaryEntities.h"
+
+#include "frame/counters.h"
+#include "host/db/OdDbClasses.h"
+#include "objects/targets/blocks.h"
+#include "objects/targets/curves.h"
+#include "objects/targets/leaders.h"
+#include "objects/targets/meshes.h"
+#include "objects/targets/polylines.h"
+#include "objects/targets/regions.h"
+#include "objects/targets/tables.h"
+#include "targets/hatches.h"
+#include "targets/wording.h"
+
+#include <algorithm>
+#include <cmath>
+#include <span>
+
+using namespace inkmacro;
+
+/// C# declares with the insertion's assignment, JavaScript with its `var`.
+static constexpr Words declareWords{.cpp = "%1iw%4_ptr %3;%2",
+                                    .cppCom = "%1I%4Ptr %3;%2",
+                                    .vbNet = "%1Dim %3 As Inkwright.%4%2",
+                                    .vba = "%1Dim %3 As Inkwright.%4%2"};
+
+static constexpr Words eraseWords{.cpp = "%1%3->put_Erased( true );%2",
+                                  .cppCom = "%1%3->put_Erased( true );%2",
+                                  .csharp = "%1%3.Erased = true;%2",
+                                  .javascript = "%1%3.put_Erased(true);%2",
+                                  .vbNet = "%1%3.Erased = true%2",
+                                  .vba = "%1%3.Erased = True%2"};
+
+static constexpr Words withScript(Words words, const char* script)
+{
+    words.javascript = script;
+    return words;
+}
+
+static constexpr Words withVba(Words words, const char* vba)
+{
+    words.vba = vba;
+    return words;
+}
+
+static const Phrase declareEntity{"EmitInsertHatchByEntities: declaration of an entity", declareWords};
+/// An insertion gives an array of regions there.
+static const Phrase declareRegion{"EmitInsertHatchByEntities: declaration of an entity",
+                                  withVba(declareWords, "%1Dim %3 As Variant%2")};
+
+static const Phrase eraseEntity{"EmitInsertHatchByEntities: erasure of an entity", eraseWords};
+/// The object is set to another variable than the one that is declared for it. It has to stay so.
+static const Phrase eraseRegion{
+    "EmitInsertHatchByEntities: erasure of a region",
+    withVba(eraseWords, "%1Dim regionObj%3 As Variant%2%1Dim iwRegion%3 As Inkwright.Region%2"
+                        "%1Set regionObj%3 = %4(0)%2%1Set iwRegion = regionObj%2%1iwRegion.Erased = True%2")};
+static const Phrase eraseBlock{"EmitInsertHatchByEntities: erasure of a block instance",
+                               withScript(eraseWords, "%1%3.put_Erased( true );%2")};
+/// Of the marker for the indentation a 1 is missing, so that indentation and line end go to the places behind it, and
+/// the number of the table is lost. It has to stay so.
+static const Phrase eraseTable{"EmitInsertHatchByEntities: erasure of a table",
+                               withScript(eraseWords, "%hatchTable_%3.put_Erased(true);%2")};
+
+namespace {
+
+struct TemporaryName
+{
+    QString name;
+    QString declared; ///< as the insertion assigns to it: in C# behind its type
+};
+
+/// A kind of temporary entity.
+struct TemporaryKind
+{
+    OdRxClass* (*cls)(); ///< of the objects that it stands for; derived classes count
+    const char* stem;    ///< of the variable, in front of the number
+    const char* type;    ///< the host's name
+    QString (*insert)(Writer& writer, const OdDbObject& object, const TemporaryName& variable);
+    const Phrase& declare = declareEntity;
+    const Phrase& erase = eraseEntity;
+};
+
+/// The row of the kind of temporary entity for objects of class T.
+template<class T, QString (*insertion)(Writer&, const T&, const TemporaryName&)>
+QString insertAs(Writer& writer, const OdDbObject& object, const TemporaryName& variable)
+{
+    return insertion(writer, static_cast<const T&>(object), variable);
+}
+
+QString insertCircle(Writer& writer, const OdDbCircle& circle, const TemporaryName& variable)
+{
+    return EmitInsertCircle(writer, circle.center(), circle.radius(), variable.declared);
+}
+
+QString insertRegion(Writer& writer, const OdDbRegion& region, const TemporaryName& variable)
+{
+    return EmitRegionBoundaryCurves(writer, variable.declared, region.explode());
+}
+
+QString insertTable(Writer& writer, const OdDbTable& table, const TemporaryName& variable)
+{
+    const unsigned rows = table.numRows();
+    const unsigned columns = table.numColumns();
+    return EmitInsertTable(writer, table.position(), static_cast<int>(rows), static_cast<int>(columns),
+                           table.height() / rows, table.width() / columns, tableCellTypes(table), variable.declared);
+}
+
+/// A plain block comes as an external reference too.
+QString insertBlock(Writer& writer, const OdDbBlockReference& reference, const TemporaryName& variable)
+{
+    const auto record = odrxCast<OdDbBlockTableRecord>(reference.blockTableRecord().openObject(true).get());
+    CFxString block;
+    if (record)
+        block = record->isFromExternalReference() ? record->pathName() : record->getName();
+    return EmitInsertExternalReference(writer, block, reference.position(), reference.scaleFactors(),
+                                       variable.declared);
+}
+
+QString insertPolygonMesh(Writer& writer, const OdDbPolygonMesh& mesh, const TemporaryName& variable)
+{
+    return EmitInsertPolygonMesh(writer, mesh.mSize(), mesh.nSize(), mesh.vertices(), variable.declared);
+}
+
+QString insertPolyFaceMesh(Writer& writer, const OdDbPolyFaceMesh& mesh, const TemporaryName& variable)
+{
+    return EmitInsertPolyFaceMesh(writer, mesh.numVertices(), mesh.vertices(), mesh.faces(), variable.declared);
+}
+
+QString insertSolid(Writer& writer, const OdDbSolid& solid, const TemporaryName& variable)
+{
+    const OdArray<OdGePoint3d> corners{solid.getPointAt(0), solid.getPointAt(1), solid.getPointAt(2),
+                                       solid.getPointAt(3)};
+    return EmitInsertSolid(writer, corners, variable.declared);
+}
+
+QString insertPolyline3D(Writer& writer, const OdDb3dPolyline& polyline, const TemporaryName& variable)
+{
+    return EmitInsertPolyline3D(writer, polyline.vertices(), polyline.isClosed(), variable.declared);
+}
+
+QString insertArc(Writer& writer, const OdDbArc& arc, const TemporaryName& variable)
+{
+    return EmitInsertArc(writer, arc.center(), arc.radius(), arc.startAngle(), arc.endAngle(), variable.declared);
+}
+
+QString insertPolyline(Writer& writer, const OdDbPolyline& polyline, const TemporaryName& variable)
+{
+    OdArray<OdGePoint2d> points;
+    for (unsigned i = 0; i < polyline.numVerts(); ++i)
+        points.append(polyline.getPointAt(i));
+    QString text = EmitInsertPolyline2D(writer, points, polyline.isClosed(), variable.declared);
+    for (unsigned i = 0; i < polyline.numVerts(); ++i)
+        if (polyline.segType(i) == OdDbPolyline::kArc)
+            text += EmitSetSegmentAngle(writer, variable.name, static_cast<std::int32_t>(i),
+                                        4 * std::atan(polyline.getBulgeAt(i)));
+    return text;
+}
+
+double length(const OdGeVector3d& vector)
+{
+    return std::sqrt(vector.x * vector.x + vector.y * vector.y + vector.z * vector.z);
+}
+
+QString insertWholeEllipse(Writer& writer, const OdDbEllipse& ellipse, const TemporaryName& variable)
+{
+    return EmitInsertEllipse(writer, ellipse.center() + ellipse.majorAxis(), ellipse.center() - ellipse.majorAxis(),
+                             length(ellipse.minorAxis()), variable.declared);
+}
+
+/// A whole ellipse whose end angle is a full turn is an arc here, other than on its way from the recording.
+QString insertEllipse(Writer& writer, const OdDbEllipse& ellipse, const TemporaryName& variable)
+{
+    if (ellipse.startAngle() == 0.0 && ellipse.endAngle() == 0.0)
+        return insertWholeEllipse(writer, ellipse, variable);
+    return EmitInsertEllipseArc(writer, ellipse.center() + ellipse.majorAxis(), ellipse.center() - ellipse.majorAxis(),
+                                length(ellipse.minorAxis()), ellipse.startAngle(), ellipse.endAngle(),
+                                variable.declared);
+}
+
+QString insertLine(Writer& writer, const OdDbLine& line, const TemporaryName& variable)
+{
+    return EmitInsertLine(writer, line.startPoint(), line.endPoint(), variable.declared);
+}
+
+QString insertFace(Writer& writer, const OdDbFace& face, const TemporaryName& variable)
+{
+    OdArray<OdGePoint3d> corners;
+    std::array<bool, 4> visible{};
+    for (std::size_t i = 0; i < visible.size(); ++i) {
+        corners.append(face.getVertexAt(i));
+        visible[i] = face.isEdgeVisibleAt(i);
+    }
+    return EmitInsertFace(writer, corners, visible, variable.declared);
+}
+
+QString insertRichLine(Writer& writer, const OdDbMline& line, const TemporaryName& variable)
+{
+    return EmitInsertRichLine(writer, line.vertices(), line.justification(), line.scale(), line.plotStyleName(),
+                              line.closedMline(), variable.declared);
+}
+
+QString insertLeader(Writer& writer, const OdDbLeader& leader, const TemporaryName& variable)
+{
+    CFxString content;
+    if (leader.annoType() == OdDbLeader::kMText)
+        if (const auto note = odrxCast<OdDbMText>(leader.annotationObjectId().openObject(true).get()))
+            content = note->contents();
+    return EmitInsertLeader(writer, leader.vertices(), leader.annoWidth(), content, variable.declared);
+}
+
+// In the order in which an object's class is looked for.
+
+constexpr std::size_t kTable = 2; ///< the row whose number regions are erased by
+
+const TemporaryKind boundaryKinds[] = {
+    {&OdDbCircle::desc, "hatchCircle_", "Circle", &insertAs<OdDbCircle, insertCircle>},
+    {&OdDbRegion::desc, "hatchRegion_", "Region", &insertAs<OdDbRegion, insertRegion>, declareRegion, eraseRegion},
+    {&OdDbTable::desc, "hatchTable_", "Table", &insertAs<OdDbTable, insertTable>, declareEntity, eraseTable},
+    {&OdDbBlockReference::desc, "hatchBlkRef_", "BlockInstance", &insertAs<OdDbBlockReference, insertBlock>,
+     declareEntity, eraseBlock},
+    {&OdDbPolygonMesh::desc, "hatchPolygonMesh_", "PolygonMesh", &insertAs<OdDbPolygonMesh, insertPolygonMesh>},
+    {&OdDbPolyFaceMesh::desc, "hatchPolyFaceMesh_", "PolyFaceMesh", &insertAs<OdDbPolyFaceMesh, insertPolyFaceMesh>},
+    {&OdDbSolid::desc, "hatchSolid_", "Solid", &insertAs<OdDbSolid, insertSolid>},
+    {&OdDb3dPolyline::desc, "hatchPolyLine3D_", "PolyLine3D", &insertAs<OdDb3dPolyline, insertPolyline3D>},
+    {&OdDbArc::desc, "hatchArc_", "CircleArc", &insertAs<OdDbArc, insertArc>},
+    {&OdDbPolyline::desc, "hatchPolyline_", "PolyLine", &insertAs<OdDbPolyline, insertPolyline>},
+    // The misspelling has to stay.
+    {&OdDbEllipse::desc, "hatcEllipse_", "EllipseArc", &insertAs<OdDbEllipse, insertEllipse>},
+    {&OdDbLine::desc, "hatchLine_", "Line", &insertAs<OdDbLine, insertLine>},
+    {&OdDbFace::desc, "hatchFace_", "Face", &insertAs<OdDbFace, insertFace>},
+    {&OdDbMline::desc, "hatchRichLine_", "RichLine", &insertAs<OdDbMline, insertRichLine>},
+    {&OdDbLeader::desc, "hatchLeader_", "Leader", &insertAs<OdDbLeader, insertLeader>},
+};
+
+const TemporaryKind pieceKinds[] = {
+    {&OdDbCircle::desc, "circle_", "Circle", &insertAs<OdDbCircle, insertCircle>},
+    {&OdDbEllipse::desc, "ellipse_", "EllipseArc", &insertAs<OdDbEllipse, insertWholeEllipse>},
+    {&OdDbArc::desc, "arc_", "CircleArc", &insertAs<OdDbArc, insertArc>},
+    {&OdDbLine::desc, "line_", "Line", &insertAs<OdDbLine, insertLine>},
+};
+
+using Counters = ProcessCounters::OfTarget;
+static_assert(std::size(boundaryKinds) == std::tuple_size_v<decltype(Counters::boundaryEntities)>);
+static_assert(std::size(pieceKinds) == std::tuple_size_v<decltype(Counters::regionPieces)>);
+
+/// Null for an object of another kind.
+const TemporaryKind* kindOf(const OdDbObject& object, std::span<const TemporaryKind> kinds)
+{
+    const auto found =
+        std::ranges::find_if(kinds, [&](const TemporaryKind& kind) { return object.isA()->isDerivedFrom(kind.cls()); });
+    return found == kinds.end() ? nullptr : &*found;
+}
+
+QString numbered(const TemporaryKind& kind, std::uint32_t number)
+{
+    return kind.stem + QString::number(number);
+}
+
+QString insertTemporary(Writer& writer, const TemporaryKind& kind, const OdDbObject& object, const QString& name)
+{
+    const QString declared = writer.target == Target::CSharp ? QLatin1String(kind.type) + (' ' + name) : name;
+    return writer.fill(kind.declare).text(name).text(QLatin1String(kind.type)).str() +
+           kind.insert(writer, object, {name, declared});
+}
+
+/// Regions are erased by the present number of tables where their own should stand, in C++, C# and JavaScript. It has
+/// to stay so.
+QString eraseTemporary(Writer& writer, const TemporaryKind& kind, std::uint32_t number)
+{
+    const Target target = writer.target;
+    Fill statement = writer.fill(kind.erase);
+    if (&kind.erase == &eraseRegion) {
+        if (target == Target::Vba)
+            statement.number(number);
+        else if (target == Target::Cpp || target == Target::CSharp || target == Target::JavaScript)
+            number = processCounters.of(target).boundaryEntities[kTable];
+    }
+    return statement.text(numbered(kind, number));
+}
+
+} // namespace
+
+BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<BoundaryObject>& boundary)
+{
+    auto& counters = processCounters.of(writer.target).boundaryEntities;
+    BoundaryEntities entities;
+    for (const BoundaryObject& entity : boundary) {
+        const TemporaryKind* const kind = kindOf(*entity.object, boundaryKinds);
+        if (!kind)
+            continue;
+        if (!entity.variable.isEmpty()) {
+            entities.names.push_back(entity.variable);
+            continue;
+        }
+        std::uint32_t& counter = counters[static_cast<std::size_t>(kind - boundaryKinds)];
+        const QString name = numbered(*kind, counter);
+        entities.insertion += insertTemporary(writer, *kind, *entity.object, name);
+        entities.erasure += eraseTemporary(writer, *kind, counter);
+        entities.names.push_back(name);
+        ++counter;
+    }
+    return entities;
+}
+
+QString EmitRegionBoundaryCurves(Writer& writer, const CFxString& variable, const OdArray<OdDbObjectPtr>& pieces)
+{
+    Counters& counters = processCounters.of(writer.target);
+    QString text;
+    QStringList names;
+    for (const OdDbObjectPtr& piece : pieces) {
+        const TemporaryKind* const kind = kindOf(*piece, pieceKinds);
+        if (!kind)
+            continue;
+        const QString name = numbered(*kind, counters.regionPieces[static_cast<std::size_t>(kind - pieceKinds)]++);
+        text += insertTemporary(writer, *kind, *piece, name);
+        names.append(name);
+    }
+    return text + EmitInsertRegion(writer, variable, names, counters.hatchRegions++);
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/db/OdDbObject.h"
+#include "targets/Writer.h"
+
+#include <vector>
+
+/// An object that a hatch's boundary follows, and the variable that the macro has for it, if any.
+struct BoundaryObject
+{
+    OdDbObjectPtr object;
+    QString variable;
+};
+
+/// What a boundary becomes. Objects with a variable are only named; the others are made anew, as temporary entities.
+struct BoundaryEntities
+{
+    std::vector<QString> names; ///< variables, in the order of the boundary
+    QString insertion;          ///< makes the temporary entities
+    QString erasure;            ///< takes them away again
+};
+
+/// Objects of kinds that no hatch is made from are left out, whether they have a variable or not.
+BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<BoundaryObject>& boundary);
+/// Makes the curves around a region and the region from them. Curves of other kinds than circle, ellipse, arc and line
+/// are left out. The curves stay in the drawing.
+QString EmitRegionBoundaryCurves(Writer& writer, const CFxString& variable, const OdArray<OdDbObjectPtr>& pieces);

@@ -1,0 +1,370 @@
+// What is set on a hatch that exists: pattern, gradient, detection of inner regions.
+
+#include "objects/targets/hatchPatterns.h"
+
+#include "targets/enumerations.h"
+#include "targets/wording.h"
+
+#include <array>
+
+using namespace inkmacro;
+
+static const Phrase getHatchPattern{"EmitGetHatchPattern",
+                                    {
+                                        .cpp = "%1iwHatchPattern_ptr %3;%2%1%4->GetHatchPattern( &%3 );%2",
+                                        .cppCom = "%1IHatchPatternPtr %3;%2%1%3 = %4->GetHatchPattern();%2",
+                                        .csharp = "%1HatchPattern %3 = %4.GetHatchPattern();%2",
+                                        .javascript = "%1var %3 = %4.GetHatchPattern();%2",
+                                        .vbNet = "%1Dim %3 As Inkwright.HatchPattern%2%1%3 = %4.GetHatchPattern()%2",
+                                        .vba = "%1Dim %3 As Inkwright.HatchPattern%2%1Set %3 = %4.GetHatchPattern()%2",
+                                    }};
+
+QString EmitGetHatchPattern(Writer& writer, const CFxString& hatch, CFxString& pattern)
+{
+    switch (writer.target) {
+    case Target::Cpp:
+    case Target::CppCom:
+        pattern = "iwHatchPattern";
+        break;
+    case Target::CSharp:
+    case Target::VbNet:
+        pattern = "hatchPattern";
+        break;
+    case Target::JavaScript:
+    case Target::Vba:
+        // A declaration holds for the whole page or procedure there: only a number keeps two apart.
+        pattern = QStringLiteral("hatchPattern%1").arg(++writer.UniqueCounter);
+        break;
+    }
+    return writer.fill(getHatchPattern).text(pattern).text(hatch);
+}
+
+static const Phrase setRegionDetection{"EmitHatchRegionDetection",
+                                       {
+                                           .cpp = "%2%1%3->put_InternalRegionDetection( %4 );%2",
+                                           .cppCom = "%2%1%3->put_InternalRegionDetection( %4 );%2",
+                                           .csharp = "%2%1%3.InternalRegionDetection = %4;%2",
+                                           .javascript = "%2%1%3.put_InternalRegionDetection(\"%4\");%2",
+                                           .vbNet = "%2%1%3.InternalRegionDetection = %4%2",
+                                           .vba = "%2%1%3.InternalRegionDetection = %4%2",
+                                       }};
+
+QString EmitHatchRegionDetection(Writer& writer, const CFxString& pattern, std::int32_t code)
+{
+    const QString way = EnumeratorByValue(writer.target, enums::hatchPatternInternalRegionDetection, code);
+    return writer.fill(setRegionDetection).text(pattern).text(way);
+}
+
+// The pattern's data.
+
+static constexpr char basicDataLocals[] = "%1Dim %3 As String%2%1Dim %4 As Double%2%1Dim %5 As Double%2"
+                                          "%1Dim %6 As Inkwright.iwHatchPatternType_e%2%1Dim %7 As Double%2%2";
+
+/// JavaScript has all of them in one object.
+static const Phrase declareHatchData{"EmitSetHatchData: locals",
+                                     {
+                                         .cpp = "%1iwString %3;%2%1double %4;%2%1double %5;%2"
+                                                "%1iwHatchPatternType_e %6;%2%1double %7;%2%2",
+                                         .cppCom = "%1BSTR %3;%2%1double %4;%2%1double %5;%2"
+                                                   "%1iwHatchPatternType_e %6;%2%1double %7;%2%2",
+                                         .csharp = "%2%1string %3;%2%1double %4;%2%1double %5;%2"
+                                                   "%1iwHatchPatternType_e %6;%2%1double %7;%2",
+                                         .vbNet = basicDataLocals,
+                                         .vba = basicDataLocals,
+                                     }};
+
+static const Phrase getHatchData{
+    "EmitSetHatchData: reading",
+    {
+        .cpp = "%1%3->GetHatchOrSolidData( &%4, &%5, &%6, &%7, &%8 );%2",
+        .cppCom = "%1%3->GetHatchOrSolidData( &%4, &%5, &%6, &%7, &%8 );%2",
+        .csharp = "%2%1%8.GetHatchOrSolidData( out %3, out %4, out %5, out %6, out %7 );%2",
+        .javascript = "%1 var data_%4 = %3.GetHatchOrSolidData();%2",
+        .vbNet = "%1%3.GetHatchOrSolidData( %4, %5, %6, %7, %8 )%2%2",
+        .vba = "%1%3.GetHatchOrSolidData %4, %5, %6, %7, %8%2",
+    }};
+
+static const Phrase putHatchData{"EmitSetHatchData: writing",
+                                 {
+                                     .cpp = "%1%3->SetHatchOrSolidData( %4, %5, %6, %7, %8 );%2",
+                                     .cppCom = "%1%3->SetHatchOrSolidData( %4, %5, %6, %7, %8 );%2%2",
+                                     .csharp = "%1%8.SetHatchOrSolidData( %3, %4, %5, %6, %7 );%2",
+                                     .javascript =
+                                         "%1%4.SetHatchOrSolidData( data_%3.PatternName, data_%3.Angle, data_%3.Scale, "
+                                         "data_%3.HatchPatternType, data_%3.Spacing);%2",
+                                     .vbNet = "%1%3.SetHatchOrSolidData( %4, %5, %6, %7, %8 )%2%2",
+                                     .vba = "%1%3.SetHatchOrSolidData %4, %5, %6, %7, %8%2%2",
+                                 }};
+
+static constexpr char assignLocal[] = "%1%3 = %4;%2";
+static constexpr char basicAssignLocal[] = "%1%3 = %4%2";
+
+static const Phrase assignAngle{"EmitSetHatchData: angle",
+                                {
+                                    .cpp = assignLocal,
+                                    .cppCom = assignLocal,
+                                    .csharp = "%1Angle = %3;%2",
+                                    .javascript = "%1data_%4.Angle = %3;%2",
+                                    .vbNet = basicAssignLocal,
+                                    .vba = basicAssignLocal,
+                                }};
+
+static const Phrase assignScale{"EmitSetHatchData: scale",
+                                {
+                                    .cpp = assignLocal,
+                                    .cppCom = assignLocal,
+                                    .csharp = "%1Scale = %3;%2",
+                                    .javascript = "%1data_%4.Scale = %3;%2",
+                                    .vbNet = basicAssignLocal,
+                                    .vba = basicAssignLocal,
+                                }};
+
+static const Phrase assignSpacing{"EmitSetHatchData: spacing",
+                                  {
+                                      .cpp = assignLocal,
+                                      .cppCom = assignLocal,
+                                      .csharp = "%1Spacing = %3;%2",
+                                      .javascript = "%1data_%4.Spacing = %3;%2",
+                                      .vbNet = basicAssignLocal,
+                                      .vba = basicAssignLocal,
+                                  }};
+
+static const Phrase assignPatternName{"EmitSetHatchData: name",
+                                      {
+                                          .cpp = "%1%3 = L\"%4\";%2",
+                                          .cppCom = "%1%3 = L\"%4\";%2",
+                                          .csharp = "%1PatternName = \"%3\";%2",
+                                          .javascript = "%1data_%4.PatternName = \"%3\";%2",
+                                          .vbNet = "%1%3 = \"%4\"%2",
+                                          .vba = "%1%3 = \"%4\"%2",
+                                      }};
+
+static const Phrase assignPatternType{"EmitSetHatchData: type",
+                                      {
+                                          .cpp = assignLocal,
+                                          .cppCom = assignLocal,
+                                          .csharp = "%1HatchPatternType = %3;%2",
+                                          .javascript = "%1data_%4.HatchPatternType = \"%3\";%2",
+                                          .vbNet = basicAssignLocal,
+                                          .vba = basicAssignLocal,
+                                      }};
+
+namespace {
+
+/// The locals in the order of the host's calls.
+enum DataLocal
+{
+    kPatternName,
+    kAngle,
+    kScale,
+    kPatternType,
+    kSpacing,
+};
+
+using DataLocals = std::array<QLatin1String, 5>;
+
+const DataLocals& dataLocals(Target target)
+{
+    static const DataLocals usual{QLatin1String("PatternName"), QLatin1String("Angle"), QLatin1String("Scale"),
+                                  QLatin1String("HatchPatternType"), QLatin1String("Spacing")};
+    // Two have names of their own in VBA.
+    static const DataLocals vba{usual[kPatternName], usual[kAngle], QLatin1String("scale"), usual[kPatternType],
+                                QLatin1String("Elevation")};
+    return target == Target::Vba ? vba : usual;
+}
+
+/// The pattern in front of the locals, in C# behind them.
+QString callWithData(Writer& writer, const Phrase& phrase, const CFxString& pattern)
+{
+    Fill call = writer.fill(phrase);
+    if (writer.target != Target::CSharp)
+        call.text(pattern);
+    for (const QLatin1String local : dataLocals(writer.target))
+        call.text(local);
+    return call.text(pattern);
+}
+
+/// One assignment to a local, or in JavaScript to a member of the object that has that number.
+template<class Value>
+QString assign(Writer& writer, const Phrase& phrase, DataLocal local, std::uint32_t number, const Value& putValue)
+{
+    Fill assignment = writer.fill(phrase);
+    if (writer.target != Target::CSharp && writer.target != Target::JavaScript)
+        assignment.text(dataLocals(writer.target)[local]);
+    putValue(assignment);
+    return assignment.number(number);
+}
+
+/// Which of the three types a word means depends on the target: only C++ and JavaScript know predefined patterns, which
+/// the others take for a user's own.
+QString patternTypeWord(Target target, const CFxString& word)
+{
+    const bool knowsPredefined = target == Target::Cpp || target == Target::CppCom || target == Target::JavaScript;
+    QString type = QStringLiteral("UserDefined");
+    if (word.equalNoCase("Custom"))
+        type = QStringLiteral("Custom");
+    else if (knowsPredefined && word.equalNoCase("Predefined"))
+        type = QStringLiteral("Predefined");
+    return enumeratorText(target, "iwHatchPatternType_e", "iwHatchPatternType_" + type);
+}
+
+QString assignData(Writer& writer, const HatchPatternChange& change, std::uint32_t number)
+{
+    const auto assignReal = [&](const Phrase& phrase, DataLocal local, const std::optional<double>& value) {
+        return value ? assign(writer, phrase, local, number, [&](Fill& fill) { fill.real(*value); }) : QString();
+    };
+    QString text = assignReal(assignAngle, kAngle, change.angle) + assignReal(assignScale, kScale, change.scale) +
+                   assignReal(assignSpacing, kSpacing, change.spacing);
+    if (change.name)
+        text += assign(writer, assignPatternName, kPatternName, number, [&](Fill& fill) { fill.text(*change.name); });
+    if (change.type)
+        text += assign(writer, assignPatternType, kPatternType, number,
+                       [&](Fill& fill) { fill.text(patternTypeWord(writer.target, *change.type)); });
+    return text;
+}
+
+} // namespace
+
+QString EmitSetHatchData(Writer& writer, const CFxString& pattern, const HatchPatternChange& change)
+{
+    if (writer.target == Target::JavaScript) {
+        const std::uint32_t number = ++writer.UniqueCounter;
+        return writer.fill(getHatchData).text(pattern).number(number).str() + assignData(writer, change, number) +
+               writer.fill(putHatchData).number(number).text(pattern).str();
+    }
+    Fill locals = writer.fill(declareHatchData);
+    for (const QLatin1String local : dataLocals(writer.target))
+        locals.text(local);
+    return locals.str() + callWithData(writer, getHatchData, pattern) + assignData(writer, change, 0) +
+           callWithData(writer, putHatchData, pattern);
+}
+
+// The gradient's data.
+
+static const Phrase getGradientData{
+    "EmitHatchGradientData: reading",
+    {
+        .cpp = "%2%1iwColor_ptr color1;%2%1iwColor_ptr color2;%2%1bool bCentered;%2%1double gradientAngle;%2%2"
+               "%1%3->GetGradientData( &color1, &color2, &bCentered, &gradientAngle);%2",
+        .cppCom = "%1IColorPtr color1;%2%1IColorPtr color2;%2%1VARIANT_BOOL bCentered;%2%1double gradientAngle;%2%2"
+                  "%1%3->GetGradientData( &color1, &color2, &bCentered, &gradientAngle);%2",
+        .csharp = "%2%1Color color1, color2;%2%1bool bCentered;%2%1double gradientAngle;%2%2"
+                  "%1%3.GetGradientData(out color1, out color2, out bCentered, out gradientAngle);%2",
+        .javascript = "%1 var data%3 = %4.GetGradientData();%2",
+        .vbNet = "%2%1Dim color1 As Inkwright.Color%2%1Dim color2 As Inkwright.Color%2%1Dim bCentered As Boolean%2"
+                 "%1Dim gradientAngle As Double%2%2"
+                 "%1%3.GetGradientData( color1, color2, bCentered, gradientAngle)%2",
+        .vba = "%2%1Dim color1 As Inkwright.Color%2%2%1Dim color2 As Inkwright.Color%2%1Dim bCentered As Boolean%2"
+               "%1Dim gradientAngle As Double%2%2"
+               "%1%3.GetGradientData color1, color2, bCentered, gradientAngle%2",
+    }};
+
+/// Statements in C++, without a line end. In COM the semicolon ends the statement that the color comes to a second
+/// time. Both have to stay so.
+static const Phrase indexedColor{"EmitHatchGradientData: indexed color",
+                                 {
+                                     .cpp = "%2m_pIwApp->GetColorByIndex( %1, &%3 );",
+                                     .cppCom = "pConnection->m_IwApp->GetColorByIndex( %1 );",
+                                     .csharp = "iwApp.GetColorByIndex( %1 )",
+                                     .javascript = "mApp.GetColorByIndex( %1 )",
+                                     .vbNet = "iwApp.GetColorByIndex( %1 )",
+                                     .vba = "iwApp.GetColorByIndex( %1 )",
+                                 }};
+
+static const Phrase rgbColor{"EmitHatchGradientData: true color",
+                             {
+                                 .cpp = "%4m_pIwApp->GetRGBColor( %1 ,%2 ,%3, &%5 );",
+                                 .cppCom = "pConnection->m_IwApp->GetRGBColor( %1 ,%2 ,%3 );",
+                                 .csharp = "iwApp.GetRGBColor( %1 ,%2 ,%3 )",
+                                 .javascript = "mApp.GetRGBColor( %1 ,%2 ,%3 )",
+                                 .vbNet = "iwApp.GetRGBColor( %1 ,%2 ,%3 )",
+                                 .vba = "iwApp.GetRGBColor( %1 ,%2 ,%3 )",
+                             }};
+
+/// In C++ the color's own call sets the local.
+static const Phrase assignFirstColor{"EmitHatchGradientData: assigned color",
+                                     {
+                                         .cppCom = "%1color1 = %3;%2",
+                                         .csharp = "%1color1 = %3;%2",
+                                         .javascript = "%1data%4.Color1 = %3;%2",
+                                         .vbNet = "%1color1 = %3%2",
+                                         .vba = "%1Set color1 = %3%2",
+                                     }};
+
+static const Phrase assignSecondColor{"EmitHatchGradientData: assigned color",
+                                      {
+                                          .cppCom = "%1color2 = %3;%2",
+                                          .csharp = "%1color2 = %3;%2",
+                                          .javascript = "%1data%4.Color2 = %3;%2",
+                                          .vbNet = "%1color2 = %3%2",
+                                          .vba = "%1Set color2 = %3%2",
+                                      }};
+
+/// Without a marker for the line end in C++, the line end takes the value's place there, and the value is lost. The
+/// same holds for the mark that follows. Both have to stay so.
+static const Phrase assignGradientAngle{"EmitHatchGradientData: angle",
+                                        {
+                                            .cpp = "%1gradientAngle = %3;",
+                                            .cppCom = "%1gradientAngle = %3;%2",
+                                            .csharp = "%1gradientAngle = %3;%2",
+                                            .javascript = "%1data%4.GradientAngle = %3;%2",
+                                            .vbNet = "%1gradientAngle = %3%2",
+                                            .vba = "%1gradientAngle = %3%2",
+                                        }};
+
+static const Phrase assignCentered{"EmitHatchGradientData: centered",
+                                   {
+                                       .cpp = "%1bCentered = %3;",
+                                       .cppCom = "%1bCentered = %3;%2",
+                                       .csharp = "%1bCentered = %3;%2",
+                                       .javascript = "%1data%4.IsCentered = %3;%2",
+                                       .vbNet = "%1bCentered = %3%2",
+                                       .vba = "%1bCentered = %3%2",
+                                   }};
+
+static const Phrase putGradientData{
+    "EmitHatchGradientData: writing",
+    {
+        .cpp = "%2%1%3->SetGradientData(color1, color2, bCentered, gradientAngle);%2",
+        .cppCom = "%1%3->SetGradientData(color1, color2, bCentered, gradientAngle);%2",
+        .csharp = "%1%3.SetGradientData(color1, color2, bCentered, gradientAngle);%2",
+        .javascript = "%1%4.SetGradientData(data%3.Color1, data%3.Color2, data%3.IsCentered, data%3.GradientAngle);%2",
+        .vbNet = "%1%3.SetGradientData(color1, color2, bCentered, gradientAngle)%2",
+        .vba = "%1%3.SetGradientData color1, color2, bCentered, gradientAngle%2",
+    }};
+
+/// `local` is of C++ alone.
+static QString changeColor(Writer& writer, const Phrase& assignment, const char* local, const OdCmColor& color,
+                           std::uint32_t number)
+{
+    Fill text((color.isByACI() ? indexedColor : rgbColor).in(writer.target));
+    if (color.isByACI())
+        text.number(color.colorIndex());
+    else
+        text.number(color.red()).number(color.green()).number(color.blue());
+    if (writer.target == Target::Cpp)
+        return text.indent(writer.IndentLevel).text(QLatin1String(local));
+    return writer.fill(assignment).text(text.str()).number(number);
+}
+
+QString EmitHatchGradientData(Writer& writer, const CFxString& pattern, const HatchGradientChange& change)
+{
+    const bool script = writer.target == Target::JavaScript;
+    const std::uint32_t number = script ? ++writer.UniqueCounter : 0;
+    const auto call = [&](const Phrase& phrase) {
+        Fill statement = writer.fill(phrase);
+        if (script)
+            statement.number(number);
+        return statement.text(pattern).str();
+    };
+    QString text = call(getGradientData);
+    if (change.first)
+        text += changeColor(writer, assignFirstColor, "color1", *change.first, number);
+    if (change.second)
+        text += changeColor(writer, assignSecondColor, "color2", *change.second, number);
+    if (change.angle)
+        text += writer.fill(assignGradientAngle).real(*change.angle).number(number).str();
+    if (change.centered)
+        text += writer.fill(assignCentered).text(truthWord(writer.target, *change.centered)).number(number).str();
+    return text + call(putGradientData);
+}

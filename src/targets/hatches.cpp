@@ -1,0 +1,169 @@
+// Hatches whose boundary is a polyline of their own, and the gradient of a new hatch.
+
+#include "targets/hatches.h"
+
+#include "objects/targets/colors.h"
+#include "targets/arrays.h"
+#include "targets/wording.h"
+
+using namespace inkmacro;
+
+static const Phrase insertBoundaryPolyline{
+    "EmitHatchBoundaryPolyline",
+    {
+        .cpp = "%2%1iwPolyLine_ptr %6;%2%1{%2%1    iwDoubleArray Coordinates%3;%2%1    Coordinates%3.clear();%2%2%4%2"
+               "%1    iwSketchManager->InsertPolyline2D( Coordinates%3, %5, &%6 );%2%1}%2",
+        .cppCom = "%2%1IPolyLinePtr %7;%2%1{%2%1    VARIANT variant%3;%2%1    variant%3.vt = ( VT_ARRAY | VT_R8 );%2"
+                  "%1    variant%3.parray = SafeArrayCreateVector( VT_R8, 0, %6 );%2%4%2"
+                  "%1    %7 = iwSketchManager->InsertPolyline2D( variant%3, %5);%2%1}%2",
+        .csharp = "%2%1PolyLine %5;%2%1{%2"
+                  "%1    %5 = iwSketchManager.InsertPolyline2D( new double[]{%3}, %4 );%2%1}%2",
+        .javascript = "%1var %5 = mSkMgr.InsertPolyline2D(%3, %4);%2",
+        .vbNet = "%1Dim %7 As Inkwright.PolyLine%2%1Dim Coordinates%3(%4) As Double%2%5%2"
+                 "%1%7 = iwSketchManager.InsertPolyline2D( Coordinates%3, %6 )%2",
+        .vba = "%1Dim %7 As Inkwright.PolyLine%2%1Dim Coordinates%3(%4) As Double%2%5%2"
+               "%1Set %7 = iwSketchManager.InsertPolyline2D( Coordinates%3, %6 )%2",
+    }};
+
+QString EmitHatchBoundaryPolyline(Writer& writer, const CFxString& name, const OdArray<OdGePoint2d>& points,
+                                  bool closed)
+{
+    return callWithArray(
+        writer, insertBoundaryPolyline, coordinateArray(writer, planar(points), "polyPoints", NumberForm::Short),
+        [&](Fill& call) { call.text(truthWord(writer.target, closed)); }, name);
+}
+
+static const Phrase setSegmentAngle{"EmitSetSegmentAngle",
+                                    {
+                                        .cpp = "%1bool bRet%3 = false;%2%1%4->SetSegmentAngle( %5, %6, &bRet%3 );%2",
+                                        .cppCom = "%1%4->SetSegmentAngle( %5, %6 );%2",
+                                        .csharp = "%1%3.SetSegmentAngle( %4, %5 );%2",
+                                        .javascript = "%1%3.SetSegmentAngle(%4, %5);%2",
+                                        .vbNet = "%1%3.SetSegmentAngle( %4, %5 )%2",
+                                        .vba = "%1%3.SetSegmentAngle %4, %5%2",
+                                    }};
+
+QString EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::int32_t index, double angle)
+{
+    Fill statement = writer.fill(setSegmentAngle);
+    if (writer.target == Target::Cpp)
+        statement.number(++writer.UniqueCounter);
+    return statement.text(polyline).number(index).shortReal(angle);
+}
+
+/// In a page this insertion alone goes by the sketch manager's name of the other targets, which no page knows. It has
+/// to stay so.
+static const Phrase hatchByPolyline{
+    "EmitHatchByPolyline",
+    {
+        .cpp = "%2%1iwObjectPtrArray iwEntities;%2%1iwEntities.add( %6 );%2"
+               "%1iwSketchManager->InsertHatchByEntities(%2%1 iwEntities, %2%1 L\"%3\", %2%1 %4, %2%1 %5, &%7 );%2",
+        .cppCom = "%1VARIANT EntityArray%3;%2%1EntityArray%3.vt = ( VT_ARRAY | VT_DISPATCH );%2"
+                  "%1EntityArray%3.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 1);%2"
+                  "%1long rgIndices%3;%2%1rgIndices%3 = 0;%2%1long rgIndice%3;%2%1rgIndice%3 = 0;%2"
+                  "%1IDispatch* val%3;%2%1val%3 = %4;%2"
+                  "%1SafeArrayPutElement( EntityArray%3.parray, &rgIndices%3, (IDispatch*)(val%3) );%2"
+                  "%1%8 = iwSketchManager->InsertHatchByEntities( EntityArray%3, L\"%5\", %6, %7 );%2",
+        .csharp = "%2%1DispatchWrapper[] iwEntities = new DispatchWrapper[1];%2"
+                  "%1iwEntities[0] = new DispatchWrapper( %6 );%2"
+                  "%1%7 = iwSketchManager.InsertHatchByEntities(%2%1 iwEntities, %2%1 \"%3\", %2%1 %4, %2%1 %5 );%2",
+        .javascript = "%2%1var iwEntities = new Array(1);%2%1iwEntities[0] = %6;%2"
+                      "%1%7 = iwSketchManager.InsertHatchByEntities(%2%1 iwEntities, %2%1 \"%3\", %2%1 %4, %2%1 %5 );"
+                      "%2",
+        .vbNet = "%2%1Dim iwEntities As DispatchWrapper() = New DispatchWrapper(0) {}%2"
+                 "%1iwEntities(0) = New DispatchWrapper( %6 )%2"
+                 "%1%7 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
+        .vba = "%2%1Dim iwEntities(0) As Object%2%1Set iwEntities(0) = %6%2"
+               "%1Set %7 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
+    }};
+
+static const Phrase eraseBoundaryPolyline{"EmitHatchByPolyline: erasure",
+                                          {
+                                              .cpp = "%2%1%3->put_Erased( %4 );%2",
+                                              .cppCom = "%2%1%3->put_Erased( %4 );%2",
+                                              .csharp = "%2%1%3.Erased = %4;%2",
+                                              .javascript = "%2%1%3.put_Erased( %4 );%2",
+                                              .vbNet = "%2%1%3.Erased = %4%2",
+                                              .vba = "%2%1%3.Erased = %4%2",
+                                          }};
+
+QString EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxString& polyline,
+                            const HatchPattern& pattern, bool erase)
+{
+    Fill insertion = writer.fill(hatchByPolyline);
+    // COM fills its array before the call, the others name the polyline's place in it after the pattern.
+    if (writer.target == Target::CppCom)
+        insertion.number(++writer.UniqueCounter).text(polyline);
+    insertion.text(pattern.name);
+    if (writer.target == Target::Cpp)
+        insertion.shortReal(pattern.first).shortReal(pattern.second);
+    else
+        insertion.real(pattern.first).real(pattern.second);
+    if (writer.target != Target::CppCom)
+        insertion.text(polyline);
+    const QString statement = insertion.text(hatch);
+    if (!erase)
+        return statement;
+    return statement + writer.fill(eraseBoundaryPolyline).text(polyline).text(truthWord(writer.target, true)).str();
+}
+
+// The C++ add-in takes each color into a variable of its own; the others have the color among the call's arguments.
+
+static const Phrase firstIndexedColor{
+    "EmitHatchGradient: indexed color",
+    {.cpp = "%2%1iwColor_ptr iwColor1%3;%2%1m_pIwApp->GetColorByIndex( %4, &iwColor1%3 );%2%2"}};
+static const Phrase secondIndexedColor{
+    "EmitHatchGradient: indexed color",
+    {.cpp = "%2%1iwColor_ptr iwColor2%3;%2%1m_pIwApp->GetColorByIndex( %4, &iwColor2%3 );%2%2"}};
+static const Phrase firstRgbColor{
+    "EmitHatchGradient: true color",
+    {.cpp = "%2%1iwColor_ptr iwColor1%3;%2%1m_pIwApp->GetRGBColor( %4, %5, %6, &iwColor1%3 );%2%2"}};
+static const Phrase secondRgbColor{
+    "EmitHatchGradient: true color",
+    {.cpp = "%2%1iwColor_ptr iwColor2%3;%2%1m_pIwApp->GetRGBColor( %4, %5, %6, &iwColor2%3 );%2%2"}};
+
+/// Takes the color into its variable. Empty in all targets but C++.
+static QString takeColor(Writer& writer, const Phrase& indexed, const Phrase& rgb, const OdCmColor& color)
+{
+    Fill statement = writer.fill(color.isByACI() ? indexed : rgb);
+    statement.number(writer.UniqueCounter);
+    if (color.isByACI())
+        return statement.number(color.colorIndex());
+    return statement.number(color.red()).number(color.green()).number(color.blue());
+}
+
+/// A color by layer or by block counts as black in a gradient.
+static OdCmColor plainColor(const OdCmColor& color)
+{
+    return color.isByACI() ? color : OdCmColor::byRgb(color.red(), color.green(), color.blue());
+}
+
+static const Phrase setGradient{
+    "EmitHatchGradient",
+    {
+        .cpp = "%1iwHatchPattern_ptr iwHatchPattern%3;%2%1%6->GetHatchPattern( &iwHatchPattern%3 );%2"
+               "%1iwHatchPattern%3->SetGradientData( iwColor1%3, iwColor2%3, %4, %5);%2",
+        .cppCom = "%2%1IHatchPatternPtr hatchPattern%3 = %8->GetHatchPattern();%2"
+                  "%1hatchPattern%3->SetGradientData( %4, %5, %6, %7);%2",
+        .csharp = "%2%1HatchPattern hatchPattern%3 = %8.GetHatchPattern();%2"
+                  "%1hatchPattern%3.SetGradientData( %4, %5, %6, %7);%2",
+        .javascript = "%2%1var hatchPattern%3 = %8.GetHatchPattern();%2"
+                      "%1hatchPattern%3.SetGradientData( %4, %5, %6, %7);%2",
+        .vbNet = "%2%1Dim hatchPattern%3 As Inkwright.HatchPattern%2%1hatchPattern%3 = %8.GetHatchPattern()%2"
+                 "%1hatchPattern%3.SetGradientData( %4, %5, %6, %7)%2",
+        .vba = "%2%1Dim hatchPattern%3 As Inkwright.HatchPattern%2%1hatchPattern%3 = %8.GetHatchPattern()%2"
+               "%1hatchPattern%3.SetGradientData %4, %5, %6, %7%2",
+    }};
+
+QString EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient)
+{
+    const OdCmColor first = plainColor(gradient.first);
+    const OdCmColor second = plainColor(gradient.second);
+    Fill call = writer.fill(setGradient);
+    call.number(++writer.UniqueCounter);
+    if (writer.target != Target::Cpp)
+        call.text(colorExpression(writer.target, first)).text(colorExpression(writer.target, second));
+    call.text(truthWord(writer.target, gradient.centered)).real(gradient.angle).text(hatch);
+    return takeColor(writer, firstIndexedColor, firstRgbColor, first) +
+           takeColor(writer, secondIndexedColor, secondRgbColor, second) + call.str();
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "host/db/OdCmColor.h"
+#include "host/db/OdGe.h"
+#include "host/rx/OdArray.h"
+#include "targets/Writer.h"
+
+/// How a pattern fills a hatch, as the host's insertion calls take it.
+struct HatchPattern
+{
+    CFxString name;
+    double first = 1.0;  ///< the first number of every call: the scale as the recording has it
+    double second = 0.0; ///< the second: the angle, in radians
+};
+
+/// A blend of two colors in place of a pattern. The angle is in radians.
+struct HatchGradient
+{
+    OdCmColor first;
+    OdCmColor second;
+    bool centered = false;
+    double angle = 0.0;
+};
+
+/// Declares the variable of the polyline too.
+QString EmitHatchBoundaryPolyline(Writer& writer, const CFxString& name, const OdArray<OdGePoint2d>& points,
+                                  bool closed);
+/// Bends the segment that begins at the vertex; `angle` is that of the arc, in radians.
+QString EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::int32_t index, double angle);
+/// With `erase` the polyline does not outlive the insertion.
+QString EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxString& polyline,
+                            const HatchPattern& pattern, bool erase);
+QString EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient);
