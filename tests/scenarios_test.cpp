@@ -155,19 +155,7 @@ using enum Target;
 const std::set<Target> everyTarget{Cpp, CSharp, JavaScript, VbNet, CppCom, Vba};
 const Unreachable unreachable[]{
     {"EmitCommandOptionInt32", everyTarget, "no option of a document is of that type"},
-    {"color", everyTarget, "changes of table styles are not converted"},
-    {"EmitRenameRichLineStyle", everyTarget, "new names of styles are not converted"},
-    {"EmitScaleTableRows: coefficient", everyTarget, "changes of tables are not converted"},
-    {"EmitScaleTableRows: count", everyTarget, "changes of tables are not converted"},
-    {"EmitScaleTableRows: loop", everyTarget, "changes of tables are not converted"},
-    {"EmitScaleTableRows: size", everyTarget, "changes of tables are not converted"},
-    {"EmitScaleTableRows: set", everyTarget, "changes of tables are not converted"},
-    {"EmitSetTableStyle: manager", everyTarget, "changes of tables are not converted"},
-    {"EmitSetTableStyle: style", everyTarget, "changes of tables are not converted"},
-    {"EmitSetTableStyle: set", everyTarget, "changes of tables are not converted"},
-    {"EmitTableStyleOrientation", everyTarget, "changes of tables are not converted"},
-    {"EmitTableBordersLineWeight", everyTarget, "changes of table styles are not converted"},
-    {"EmitTableBordersColor", everyTarget, "changes of table styles are not converted"},
+    {"EmitChangeCoordinateZ", everyTarget, "no tag is the height of such a point"},
     {"array of numbers", {JavaScript, VbNet, CppCom}, "selections alone fill one, and these targets have none"},
 };
 

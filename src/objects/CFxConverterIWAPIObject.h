@@ -13,6 +13,7 @@
 class ChangeGroups;
 class CFxConverterIWAPIImpl;
 class StatementGroup;
+struct TableLines;
 class Writer;
 struct BoundaryObject;
 struct ClassRow;
@@ -32,6 +33,11 @@ CFxString ShownWord(const char* word);
 CFxString ElementText(const CFxVariant& value);
 /// The text of the chosen item, whether it came alone or among all items; nothing for any other value.
 std::optional<CFxString> ChosenText(const CFxVariant& value);
+/// The word of a value, whether it is plain text or the chosen one of several items.
+inline CFxString wordOf(const CFxVariant& value)
+{
+    return ChosenText(value).value_or(value.GetString());
+}
 
 /// Turns recorded objects into statements, from their property records alone. Knows no target: the words come from the
 /// Emit operations. Lives as long as one conversion; its driver owns it.
@@ -73,6 +79,8 @@ public:
 
     // Changes that are more than a list of tags: ChangeHandler in objects/classTable.h.
     void ConvertModifiedLine(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedBlockInstance(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedTable(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
     void ConvertModifiedHatch(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
 
     /// Takes the first record with that tag out of the list and gives its value, or the null value. The record's tag
@@ -114,6 +122,8 @@ private:
         bool searchesGroup;
     };
     const TagWords& WordsOf(const CFxString& tag);
+    /// The group of block attributes, in the host's display language.
+    const QString& BlockAttributes();
 
     // Steps of ConvertObjectChanges.
     bool AddressChangedObject(const OdRxClass* cls, const OdDbHandle& handle, const OdDbObjectId& noteLeader,
@@ -122,6 +132,15 @@ private:
                              QString& text);
     QString ConvertErased(const OdRxClass* cls, const OdDbHandle& handle, const CFxString& name,
                           const CFxVariant& erased);
+
+    // Steps of ConvertModifiedTable.
+    bool ConvertTableCount(const TableLines& lines, PropertyList& list, bool takeOnly, const CFxString& name,
+                           QString& text);
+    bool ConvertTableSizes(const TableLines& lines, PropertyList& list, bool takeOnly, const CFxString& name,
+                           QString& text);
+    bool ConvertCellTexts(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertTableSize(const TableLines& lines, PropertyList& list, bool takeOnly, bool told, const CFxString& name,
+                          QString& text);
 
     std::map<OdDbObjectId, QString> addedVariableById;
     OdDbHandle changedHandle; ///< of the object whose changes are being converted
@@ -133,6 +152,6 @@ private:
     CFxConverterIWAPIImpl& driver;
     Writer& writer; ///< the driver's
 
-    QString blockAttributes; ///< the group of block attributes, in the host's display language
+    QString blockAttributes; ///< null until it is asked for
     QHash<QString, TagWords> tagWords;
 };

@@ -149,10 +149,10 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         leaveGroup();
         CFxString holder = target;
         if (isCurvedText)
-            text += EmitGetCurvedTextSettings(writer, target, holder);
+            text += EmitGetOptions(writer, curvedTextSettings, target, holder);
         text += EmitSetColor(writer, holder, "Color", value.GetColor());
         if (isCurvedText)
-            text += EmitSetCurvedTextSettings(writer, target, holder);
+            text += EmitSetOptions(writer, curvedTextSettings, target, holder);
     }
     if (take(QStringLiteral("Layer")))
         text += EmitSetLayer(writer, target, "Layer", value.GetId());

@@ -26,6 +26,13 @@ extern const ChangeGroups modifiedEmbeddedObject;
 extern const ChangeGroups modifiedViewport;
 extern const ChangeGroups modifiedLeader;
 extern const ChangeGroups modifiedTolerance;
+extern const ChangeGroups modifiedTextStyle;
+extern const ChangeGroups modifiedAttributeDefinition;
+extern const ChangeGroups modifiedSimpleNote;
+extern const ChangeGroups modifiedNote;
+extern const ChangeGroups modifiedCurvedText;
+extern const ChangeGroups modifiedPicture;
+extern const ChangeGroups modifiedTableStyle;
 /// Of all dimension classes but two, which have tags of their own behind them.
 extern const ChangeGroups modifiedDimension;
 extern const ChangeGroups modifiedArcLengthDimension;

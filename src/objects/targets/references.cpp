@@ -58,38 +58,6 @@ QString EmitDeclareBlockDefinition(Writer& writer, const CFxString& name)
     return writer.fill(declareBlockDefinition).text(name);
 }
 
-static const Phrase getCurvedTextSettings{
-    "EmitGetCurvedTextSettings",
-    {
-        .cpp = "%1iwCurvedSettings_ptr %3;%2%1%4->GetCurvedSettings( &%3 );%2",
-        .cppCom = "%1ICurvedSettingsPtr %3 = %4->GetCurvedSettings();%2",
-        .csharp = "%1CurvedSettings %3 = %4.GetCurvedSettings();%2",
-        .javascript = "%1var %3 = %4.GetCurvedSettings();%2",
-        .vbNet = "%1Dim %3 As Inkwright.CurvedSettings = %4.GetCurvedSettings()%2",
-        .vba = "%1Dim %3 As Inkwright.CurvedSettings%2%1Set %3 = %4.GetCurvedSettings()%2",
-    }};
-
-QString EmitGetCurvedTextSettings(Writer& writer, const CFxString& name, CFxString& settings)
-{
-    settings = QStringLiteral("curvedSettings%1").arg(++writer.UniqueCounter);
-    return writer.fill(getCurvedTextSettings).text(settings).text(name);
-}
-
-static const Phrase setCurvedTextSettings{"EmitSetCurvedTextSettings",
-                                          {
-                                              .cpp = "%1%3->SetCurvedSettings( %4 );%2",
-                                              .cppCom = "%1%3->SetCurvedSettings( %4 );%2",
-                                              .csharp = "%1%3.SetCurvedSettings( %4 );%2",
-                                              .javascript = "%1%3.SetCurvedSettings( %4 );%2",
-                                              .vbNet = "%1%3.SetCurvedSettings( %4 )%2",
-                                              .vba = "%1%3.SetCurvedSettings %4%2",
-                                          }};
-
-QString EmitSetCurvedTextSettings(Writer& writer, const CFxString& name, const CFxString& settings)
-{
-    return writer.fill(setCurvedTextSettings).text(name).text(settings);
-}
-
 static const Phrase removeModelView{"EmitRemoveNamedView",
                                     {
                                         .cpp = "%1iwViewManager->RemoveModelNamedView( L\"%3\" );%2",

@@ -7,7 +7,5 @@
 QString EmitGetObjectByHandle(Writer& writer, const CFxString& type, const CFxString& name, const OdDbHandle& handle);
 QString EmitGetNoteAnnotation(Writer& writer, const CFxString& note, const CFxString& leader);
 QString EmitDeclareBlockDefinition(Writer& writer, const CFxString& name);
-QString EmitGetCurvedTextSettings(Writer& writer, const CFxString& name, CFxString& settings);
-QString EmitSetCurvedTextSettings(Writer& writer, const CFxString& name, const CFxString& settings);
 QString EmitRemoveNamedView(Writer& writer, const CFxString& name, const CFxString& viewName, bool paperspace);
 QString EmitRemoveLayer(Writer& writer, const CFxString& name);
