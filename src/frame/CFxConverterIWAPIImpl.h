@@ -8,6 +8,7 @@
 #include <QTextStream>
 
 #include <map>
+#include <set>
 
 class CFxConverterIWAPIObject;
 class StatementGroup;
@@ -102,6 +103,8 @@ public:
     virtual std::int32_t EmitProjectFiles(const QString&) { return kFxSuccess; }
 
     Writer writer;
+    /// Variables of the hatches that custom actions have inserted.
+    std::set<QString> insertedHatches;
     /// Ordinal of the last object that got a variable.
     std::uint32_t objectCounter = 0;
 

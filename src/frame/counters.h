@@ -30,6 +30,11 @@ struct ProcessCounters
     std::uint32_t selections = 0;
     std::uint32_t elementColors = 0;
     std::uint32_t hatchPolylines = 0;
+    std::uint32_t blockArcs = 0;
+    std::uint32_t blockArcLengthDimensions = 0;
+    std::uint32_t clipCircles = 0;
+    std::uint32_t clipPolylines = 0;
+    std::uint32_t clipEllipses = 0;
 
     OfTarget& of(inkmacro::Target target) { return ofTargets[static_cast<std::size_t>(target)]; }
     std::array<OfTarget, inkmacro::targetCount> ofTargets{};

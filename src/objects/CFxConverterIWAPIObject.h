@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 
+struct BlockContents;
 class ChangeGroups;
 class CFxConverterIWAPIImpl;
 class StatementGroup;
@@ -17,6 +18,14 @@ struct TableLines;
 class Writer;
 struct BoundaryObject;
 struct ClassRow;
+struct TableLines;
+
+/// Which part of a collection's elements holds the handles.
+enum class HandlesIn
+{
+    Tags,
+    Values
+};
 
 /// Whether that file of line type shapes comes with the host, which then needs no statement to load it.
 bool IsHostShapeFile(const CFxString& fileName);
@@ -103,13 +112,28 @@ public:
     QString ObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
     /// The variable of an object that was added before; empty for any other. Takes no number.
     QString AddedVariable(const OdDbObjectId& id) const;
+    /// The variable of an object that the macro has one for, the later objects of the same command included; empty for
+    /// any other. Takes no number.
+    QString KnownVariable(const OdDbHandle& handle) const;
+    /// The class by which such an object was recorded; null for any other.
+    const OdRxClass* KnownClass(const OdDbHandle& handle) const;
+    /// The leader that owns the note of that handle, else the null id. Raises OdError_NotThatKindOfClass when the
+    /// handle is another object's.
+    OdDbObjectId LeaderOfNote(const OdDbHandle& handle) const;
+    /// Whether a custom action of this recording has inserted the hatch of that variable.
+    bool IsHatchInserted(const QString& variable) const;
+    /// The object of that handle in the active drawing, which may have none; null without a drawing.
+    static OdDbObjectId IdOf(const OdDbHandle& handle);
+    /// The objects of a collection that has their handles as texts; none of a value that is no collection.
+    static OdArray<OdDbObjectId> ObjectsOf(const CFxVariant& collection, HandlesIn place);
     /// The objects that a hatch's boundary follows, erased ones included and each of them once, with the variables of
     /// those that were added before. Raises an OdError for an object that the drawing does not have.
     std::vector<BoundaryObject> BoundaryObjects(const OdArray<OdDbObjectId>& ids) const;
+    /// Statements that make a block definition of entities which have a variable. The others are left out, but for the
+    /// few kinds that are drawn for it.
+    QString CreateBlockDefinition(const BlockContents& contents);
 
 private:
-    /// The id of the object in the active drawing; null without one.
-    static OdDbObjectId IdOf(const OdDbHandle& handle);
     /// Type and name of the object's variable; whether it is a new one, which a statement has to fetch.
     bool NameVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& type, CFxString& name);
     /// Spells a name from its parts; looks up no variable and takes no number.

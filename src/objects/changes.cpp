@@ -89,7 +89,7 @@ bool CFxConverterIWAPIObject::AddressChangedObject(const OdRxClass* cls, const O
     }
     if (cls == OdDbBlockTableRecord::desc() && hasRecord(list, "Objects")) {
         name = NameObject(handle, cls);
-        text += EmitDeclareBlockDefinition(writer, name);
+        text += EmitDeclareObject(writer, "BlockDefinition", name);
         return true;
     }
     // A sheet is found by its name in the records, it needs no variable.

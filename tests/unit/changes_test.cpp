@@ -371,7 +371,7 @@ TEST(References, DeclareAVariableInTheFormOfTheirTarget)
     expectInAllTargets({"    iwBlockDefinition_ptr b;\n", "    IBlockDefinitionPtr b;\n", "    BlockDefinition b;\n",
                         "    var b;\n", "    Dim b As Inkwright.BlockDefinition\n",
                         "    Dim b As Inkwright.BlockDefinition\n"},
-                       [](TestTarget& made) { return EmitDeclareBlockDefinition(made.writer, "b"); });
+                       [](TestTarget& made) { return EmitDeclareObject(made.writer, "BlockDefinition", "b"); });
 }
 
 TEST(References, FetchAnObjectThatTheMacroDidNotMake)

@@ -43,19 +43,23 @@ QString EmitGetNoteAnnotation(Writer& writer, const CFxString& note, const CFxSt
     return writer.fill(getNoteAnnotation).text(leader).text(note);
 }
 
-static const Phrase declareBlockDefinition{"EmitDeclareBlockDefinition",
-                                           {
-                                               .cpp = "%1iwBlockDefinition_ptr %3;%2",
-                                               .cppCom = "%1IBlockDefinitionPtr %3;%2",
-                                               .csharp = "%1BlockDefinition %3;%2",
-                                               .javascript = "%1var %3;%2",
-                                               .vbNet = "%1Dim %3 As Inkwright.BlockDefinition%2",
-                                               .vba = "%1Dim %3 As Inkwright.BlockDefinition%2",
-                                           }};
+static const Phrase declareObject{"EmitDeclareObject",
+                                  {
+                                      .cpp = "%1iw%3_ptr %4;%2",
+                                      .cppCom = "%1I%3Ptr %4;%2",
+                                      .csharp = "%1%3 %4;%2",
+                                      .javascript = "%1var %3;%2",
+                                      .vbNet = "%1Dim %4 As Inkwright.%3%2",
+                                      .vba = "%1Dim %4 As Inkwright.%3%2",
+                                  }};
 
-QString EmitDeclareBlockDefinition(Writer& writer, const CFxString& name)
+QString EmitDeclareObject(Writer& writer, const char* interfaceName, const CFxString& name)
 {
-    return writer.fill(declareBlockDefinition).text(name);
+    Fill declaration = writer.fill(declareObject);
+    // A page's variables have no types.
+    if (writer.target != Target::JavaScript)
+        declaration.text(QLatin1String(interfaceName));
+    return declaration.text(name);
 }
 
 static const Phrase removeModelView{"EmitRemoveNamedView",
