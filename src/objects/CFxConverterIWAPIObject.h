@@ -14,6 +14,7 @@ struct BlockContents;
 class ChangeGroups;
 class CFxConverterIWAPIImpl;
 class StatementGroup;
+struct TableLines;
 class Writer;
 struct BoundaryObject;
 struct ClassRow;
@@ -41,6 +42,11 @@ CFxString ShownWord(const char* word);
 CFxString ElementText(const CFxVariant& value);
 /// The text of the chosen item, whether it came alone or among all items; nothing for any other value.
 std::optional<CFxString> ChosenText(const CFxVariant& value);
+/// The word of a value, whether it is plain text or the chosen one of several items.
+inline CFxString wordOf(const CFxVariant& value)
+{
+    return ChosenText(value).value_or(value.GetString());
+}
 
 /// Turns recorded objects into statements, from their property records alone. Knows no target: the words come from the
 /// Emit operations. Lives as long as one conversion; its driver owns it.
@@ -82,9 +88,9 @@ public:
 
     // Changes that are more than a list of tags: ChangeHandler in objects/classTable.h.
     void ConvertModifiedLine(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
-    void ConvertModifiedHatch(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
     void ConvertModifiedBlockInstance(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
     void ConvertModifiedTable(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedHatch(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
 
     /// Takes the first record with that tag out of the list and gives its value, or the null value. The record's tag
     /// may be in the host's display language. `consumed` and `index` may be null; they receive the record, and its
@@ -161,6 +167,7 @@ private:
                           QString& text);
 
     std::map<OdDbObjectId, QString> addedVariableById;
+    OdDbHandle changedHandle; ///< of the object whose changes are being converted
     // What tables were made and changed to so far, by their variables.
     std::map<CFxString, std::int32_t> tableRowCounts;
     std::map<CFxString, std::int32_t> tableColumnCounts;

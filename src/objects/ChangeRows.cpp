@@ -66,13 +66,15 @@ void CFxConverterIWAPIObject::ConvertRows(const ChangeGroups& groups, PropertyLi
             for (const ChangeRow& row : part.rows) {
                 CFxVariant number;
                 const CFxVariant value = FindProperty(row.tag, list, context, nullptr, &number);
-                if (takeOnly || value.IsNull())
+                const char* const secondTag = row.kind.secondTag;
+                const CFxVariant second = secondTag ? FindProperty(secondTag, list, context) : CFxVariant();
+                if (takeOnly || (value.IsNull() && second.IsNull()))
                     continue;
                 const std::int32_t index = !row.kind.indexed || number.IsNull() ? -1 : number.GetInt32();
                 if (row.kind.indexed && index == -1)
                     continue;
                 const CFxString target = objects.variable(part.on, text);
-                text += row.kind.statement({writer, row, target, value, index, number});
+                text += row.kind.statement({writer, row, target, value, second, index, number, IdOf(changedHandle)});
                 if (part.on && part.on->writtenBack)
                     text += EmitSetOptions(writer, *part.on, objects.variable(part.on->owner, text), target);
             }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/db/OdDbObjectId.h"
 #include "host/kernel/CFxVariant.h"
 #include "targets/Writer.h"
 #include "targets/enumerations.h"
@@ -16,8 +17,10 @@ struct Change
     const ChangeRow& row;
     const CFxString& target; ///< the variable that the statement sets it on
     const CFxVariant& value;
+    const CFxVariant& second; ///< of the kind's second tag; one of the two may be null
     std::int32_t index;       ///< within a repeated property, else -1
     const CFxVariant& number; ///< the record's number in whatever form it has
+    OdDbObjectId object;      ///< the changed object in the drawing, which may lack it
 };
 
 /// What a change becomes. A kind with axes stands for one tag an axis: its row holds what stands before the letter.
@@ -30,6 +33,8 @@ struct ChangeKind
     // Whose enumerator a kind that sets one writes.
     const inkmacro::TextEnumeration* byText = nullptr;
     const inkmacro::ValueEnumeration* byValue = nullptr;
+    const char* suffix = nullptr;    ///< the enumerator of a kind that always writes the same one
+    const char* secondTag = nullptr; ///< a tag that goes into the same statement: either of the two calls for it
 };
 
 /// One tag and what it becomes.
@@ -65,6 +70,11 @@ public:
     /// Tags of the changed object itself.
     ChangeGroups(std::initializer_list<ChangeRow> rows) : groups_(1, ChangeGroup(1, ChangeRows(rows))) {}
     ChangeGroups(std::initializer_list<ChangeGroup> groups) : groups_(groups) {}
+    /// Tags that several classes have, and behind them those of the one class, which are of the object itself.
+    ChangeGroups(const ChangeGroups& common, std::initializer_list<ChangeRow> own) : groups_(common.groups_)
+    {
+        groups_.emplace_back(1, ChangeRows(own));
+    }
     auto begin() const { return groups_.begin(); }
     auto end() const { return groups_.end(); }
 

@@ -3,6 +3,8 @@
 #include "objects/changeKinds.h"
 
 #include "frame/RecordingState.h"
+#include "host/db/OdDbClasses.h"
+#include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/dimensionOptions.h"
 #include "objects/targets/points.h"
@@ -19,8 +21,13 @@
 
 namespace {
 
-/// The drawing's number for a scale that is given, not that of the sheet.
+// The drawing's numbers.
 constexpr std::int32_t kUseScaleFactor = 1;
+constexpr std::int32_t kScaleOfSheet = 2;
+constexpr std::int32_t kCustomArrow = 20;
+constexpr std::int32_t kNoCenterMark = 0;
+constexpr std::int32_t kCenterLines = 1;
+constexpr std::int32_t kCenterMark = 2;
 
 QString setReal(const Change& change, double value)
 {
@@ -85,12 +92,24 @@ std::optional<CFxString> anyText(const CFxVariant& value)
 
 bool isAnyYes(const CFxVariant& value)
 {
-    return anyText(value).value_or(CFxString()).equalNoCase(ShownWord("Yes"));
+    return wordOf(value).equalNoCase(ShownWord("Yes"));
+}
+
+bool isPlainYes(const CFxVariant& value)
+{
+    return value.GetString() == ShownWord("Yes");
 }
 
 QString setEnum(const Change& change, const CFxString& word)
 {
     return EmitSetEnumProperty(change.writer, change.target, *change.row.kind.byText, change.row.property, word);
+}
+
+template<std::int32_t (*numberOf)(const CFxVariant&)>
+QString setEnumValue(const Change& change)
+{
+    return EmitSetEnumValue(change.writer, change.target, *change.row.kind.byValue, change.row.property,
+                            numberOf(change.value));
 }
 
 QString setText(const Change& change, const CFxString& value, bool quoted)
@@ -122,6 +141,81 @@ QString setChosen(const Change& change)
 QString setQuoted(const Change& change, const CFxString& word)
 {
     return setText(change, word, true);
+}
+
+template<bool (*isYes)(const CFxVariant&)>
+QString setEnumIfYes(const Change& change)
+{
+    return isYes(change.value) ? EmitSetEnumSuffix(change.writer, change.target, *change.row.kind.byValue,
+                                                   change.row.property, change.row.kind.suffix)
+                               : QString();
+}
+
+QString setDecimalSeparator(const Change& change, const CFxString& separator)
+{
+    return EmitSetDecimalSeparator(change.writer, change.target, change.row.property, separator);
+}
+
+/// Stands for the measure in the text of a dimension.
+constexpr QLatin1String kMeasure("<>", 2);
+
+QString setAffix(const Change& change, const CFxString& part)
+{
+    return part.toQString() == kMeasure ? QString() : setQuoted(change, part);
+}
+
+QString setPrefixAndSuffix(const Change& change, const CFxString& parts)
+{
+    const QString& whole = parts;
+    const int measure = whole.indexOf(kMeasure);
+    const auto set = [&](const char* property, const QString& part) {
+        return part.isEmpty() ? QString() : EmitSetProperty(change.writer, change.target, property, part, true);
+    };
+    if (measure < 0)
+        return set("Prefix", whole);
+    return set("Prefix", whole.left(measure)) + set("Suffix", whole.mid(measure + kMeasure.size()));
+}
+
+QString setLineStyle(const Change& change)
+{
+    if (change.value.GetType() == CFxVariant::kId)
+        return EmitSetLineStyle(change.writer, change.target, change.row.property, change.value.GetId());
+    return setChosen<setQuoted, anyText>(change);
+}
+
+using SetArrow = QString (*)(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
+                             const CFxString& name);
+
+template<SetArrow emit>
+QString setArrow(const Change& change)
+{
+    const std::int32_t arrow = anyNumber(change.value);
+    const CFxString name = arrow == kCustomArrow ? anyText(change.value).value_or(CFxString()) : CFxString();
+    return emit(change.writer, change.target, change.row.property, arrow, name);
+}
+
+QString setStyleCenterMark(const Change& change)
+{
+    const auto set = [&](std::int32_t kind, double size) {
+        return EmitSetStyleCenterMark(change.writer, change.target, change.row.property, kind, size);
+    };
+    if (change.value.GetType() != CFxVariant::kDouble)
+        return set(anyNumber(change.value), 0);
+    const double size = change.value.GetDouble();
+    return set(size > 0 ? kCenterMark : size < 0 ? kCenterLines : kNoCenterMark, std::abs(size));
+}
+
+/// The current style has to be made current again under its new name.
+QString renameDimensionStyle(const Change& change, const CFxString& name)
+{
+    const OdDbObjectId& style = change.object;
+    const bool isCurrent = !style.isNull() && style == ACTIVE_DOCUMENT->GetDatabase()->currentDimensionStyleId();
+    return EmitRenameStyle(change.writer, change.target, name, isCurrent);
+}
+
+QString renameRichLineStyle(const Change& change, const CFxString& name)
+{
+    return EmitRenameRichLineStyle(change.writer, change.target, name);
 }
 
 QString setYes(const Change& change, const CFxString& word)
@@ -237,6 +331,15 @@ QString changeVertex(const Change& change)
     return emit(change.writer, change.target, change.index, change.row.axis, change.value.GetDouble());
 }
 
+using CoordinateChange = QString (*)(Writer& writer, const CFxString& target, const CFxString& stem, double value);
+
+template<CoordinateChange x, CoordinateChange y>
+QString changeCoordinate(const Change& change)
+{
+    const CoordinateChange emit = change.row.axis == CFxString("X") ? x : y;
+    return emit(change.writer, change.target, change.row.property, change.value.GetDouble());
+}
+
 QString changeNumberedVertex(const Change& change)
 {
     const qint64 number = qint64{change.index} + 1;
@@ -275,6 +378,7 @@ constinit const ChangeKind visible{
     [](const Change& change) { return setBool(change, shows(change.value, "Visible")); }};
 constinit const ChangeKind exactEnabled{
     [](const Change& change) { return setBool(change, ElementText(change.value) == ShownWord("Enabled")); }};
+constinit const ChangeKind plainYes{[](const Change& change) { return setBool(change, isPlainYes(change.value)); }};
 constinit const ChangeKind yesOrFirst{setYesOrFirst};
 constinit const ChangeKind anyYes{[](const Change& change) { return setBool(change, isAnyYes(change.value)); }};
 constinit const ChangeKind chosenYes{setChosen<setYes>};
@@ -287,12 +391,7 @@ ChangeKind enumText(const inkmacro::TextEnumeration& enumeration)
 
 ChangeKind enumValue(const inkmacro::ValueEnumeration& enumeration)
 {
-    return {.statement =
-                [](const Change& change) {
-                    return EmitSetEnumValue(change.writer, change.target, *change.row.kind.byValue, change.row.property,
-                                            elementNumber(change.value));
-                },
-            .byValue = &enumeration};
+    return {.statement = setEnumValue<elementNumber>, .byValue = &enumeration};
 }
 
 ChangeKind chosenEnumText(const inkmacro::TextEnumeration& enumeration)
@@ -307,18 +406,27 @@ ChangeKind anyEnumText(const inkmacro::TextEnumeration& enumeration)
 
 ChangeKind anyEnumValue(const inkmacro::ValueEnumeration& enumeration)
 {
-    return {.statement =
-                [](const Change& change) {
-                    return EmitSetEnumValue(change.writer, change.target, *change.row.kind.byValue, change.row.property,
-                                            anyNumber(change.value));
-                },
-            .byValue = &enumeration};
+    return {.statement = setEnumValue<anyNumber>, .byValue = &enumeration};
 }
+
+ChangeKind exactYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix)
+{
+    return {.statement = setEnumIfYes<IsYes>, .byValue = &enumeration, .suffix = suffix};
+}
+
+ChangeKind plainYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix)
+{
+    return {.statement = setEnumIfYes<isPlainYes>, .byValue = &enumeration, .suffix = suffix};
+}
+
+constinit const ChangeKind decimalSeparator{setChosen<setDecimalSeparator, anyText>};
 
 constinit const ChangeKind quoted{[](const Change& change) { return setQuoted(change, ElementText(change.value)); }};
 constinit const ChangeKind chosenQuoted{setChosen<setQuoted>};
 constinit const ChangeKind anyQuoted{setChosen<setQuoted, anyText>};
 constinit const ChangeKind doubledBackslashes{setChosen<setDoubled, anyText>};
+constinit const ChangeKind affix{setChosen<setAffix, anyText>};
+constinit const ChangeKind prefixAndSuffix{setChosen<setPrefixAndSuffix, anyText>};
 constinit const ChangeKind escaped{[](const Change& change) {
     return setQuoted(change, inkmacro::escapeText(change.writer.target, change.value.GetString()));
 }};
@@ -329,15 +437,52 @@ constinit const ChangeKind color{[](const Change& change) {
     return EmitSetColor(change.writer, change.target, change.row.property, change.value.GetColor());
 }};
 constinit const ChangeKind lineWeight{[](const Change& change) {
-    return EmitSetLineWeight(change.writer, change.target, change.row.property, change.value.GetInt32());
+    return EmitSetLineWeight(change.writer, change.target, change.row.property, anyNumber(change.value));
 }};
+constinit const ChangeKind lineStyle{setLineStyle};
+/// A leader's record does not tell the block of an arrow of one's own.
 constinit const ChangeKind arrow{[](const Change& change) {
-    return EmitSetLeaderArrow(change.writer, change.target, change.row.property, elementNumber(change.value));
+    return EmitSetArrow(change.writer, change.target, change.row.property, elementNumber(change.value), {});
 }};
-constinit const ChangeKind dimensionScale{[](const Change& change) {
+
+constinit const ChangeKind dimensionArrow{setArrow<&EmitSetArrow>};
+constinit const ChangeKind styleArrow{setArrow<&EmitSetStyleArrow>};
+constinit const ChangeKind scaleFactor{[](const Change& change) {
     return EmitSetDimensionScale(change.writer, change.target, change.row.property, kUseScaleFactor,
                                  change.value.GetDouble());
 }};
+constinit const ChangeKind sheetScale{[](const Change& change) {
+    return IsYes(change.value)
+               ? EmitSetDimensionScale(change.writer, change.target, change.row.property, kScaleOfSheet, 1.0)
+               : QString();
+}};
+constinit const ChangeKind centerMark{[](const Change& change) {
+    return EmitSetCenterMarkKind(change.writer, change.target, change.row.property, anyNumber(change.value));
+}};
+constinit const ChangeKind centerMarkSize{[](const Change& change) {
+    return EmitSetCenterMarkSize(change.writer, change.target, change.row.property, change.value.GetDouble());
+}};
+constinit const ChangeKind styleCenterMark{setStyleCenterMark};
+
+ChangeKind fixedLength(const char* lengthTag)
+{
+    return {.statement =
+                [](const Change& change) {
+                    return EmitSetExtensionLineFixedLength(change.writer, change.target, IsYes(change.value),
+                                                           change.second.GetDouble());
+                },
+            .secondTag = lengthTag};
+}
+
+constinit const ChangeKind textInside{
+    .statement =
+        [](const Change& change) {
+            const bool isThere = !odrxQuery<OdDbDimension>(change.object.openObject().get()).isNull();
+            return isThere ? setEnumIfYes<IsYes>(change) : QString();
+        },
+    .byValue = &inkmacro::enums::dimensionFitGeometry,
+    .suffix = "KeepTextBetweenExtensionLines",
+};
 
 constinit const ChangeKind noteDirection{setChosen<setNoteDirection, anyText>};
 constinit const ChangeKind noteLineSpacing{setNoteLineSpacing};
@@ -374,10 +519,14 @@ constinit const ChangeKind firstPoint{changePair<&EmitChangeFirstPoint>, "XYZ"};
 constinit const ChangeKind secondPoint{changePair<&EmitChangeSecondPoint>, "XYZ"};
 constinit const ChangeKind vertex{changeVertex<&EmitChangeVertex>, "xyz", true};
 constinit const ChangeKind vertex2D{changeVertex<&EmitChangeVertex2D>, "XY", true};
+constinit const ChangeKind coordinate{changeCoordinate<&EmitChangeCoordinateX, &EmitChangeCoordinateY>, "XY"};
+constinit const ChangeKind planeCoordinate{changeCoordinate<&EmitChangeCoordinate2DX, &EmitChangeCoordinate2DY>, "xy"};
 constinit const ChangeKind numberedVertex{changeNumberedVertex, "XYZ", true};
 constinit const ChangeKind faceVertex{changeFaceVertex, "XYZ", true};
 
 constinit const ChangeKind textStyleName{setChosen<renameTextStyle, anyText>};
 constinit const ChangeKind styleName{setChosen<renameStyle, anyText>};
+constinit const ChangeKind dimensionStyleName{setChosen<renameDimensionStyle, anyText>};
+constinit const ChangeKind richLineStyleName{setChosen<renameRichLineStyle, anyText>};
 
 } // namespace kinds

@@ -23,6 +23,7 @@ extern const ChangeKind yes;      ///< the element's word without regard to case
 extern const ChangeKind exactYes; ///< with case
 extern const ChangeKind visible;
 extern const ChangeKind exactEnabled;
+extern const ChangeKind plainYes; ///< a plain text
 /// Among all items the first one is "Yes", whatever it is called; a value of no choice type writes nothing.
 extern const ChangeKind yesOrFirst;
 extern const ChangeKind anyYes; ///< without regard to case; whatever is no "Yes" is false
@@ -34,20 +35,41 @@ ChangeKind enumValue(const inkmacro::ValueEnumeration& enumeration); ///< by the
 ChangeKind chosenEnumText(const inkmacro::TextEnumeration& enumeration);
 ChangeKind anyEnumText(const inkmacro::TextEnumeration& enumeration);
 ChangeKind anyEnumValue(const inkmacro::ValueEnumeration& enumeration); ///< by number
+/// That member where the answer is yes, nothing where it is no: one of several tags for one property.
+ChangeKind exactYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix);
+ChangeKind plainYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix);
+extern const ChangeKind decimalSeparator; ///< by the separator itself
 
 // Texts.
 extern const ChangeKind quoted; ///< the element's word
 extern const ChangeKind chosenQuoted;
 extern const ChangeKind anyQuoted;
-extern const ChangeKind doubledBackslashes; ///< of any value
-extern const ChangeKind escaped;            ///< a plain text with what the target's quotes need
-extern const ChangeKind unquoted;           ///< a plain text as it stands
+extern const ChangeKind doubledBackslashes; ///< of any text, in all targets
+/// The part of a dimension's text that stands on one side of the measure; one that holds but the measure's sign is not
+/// written.
+extern const ChangeKind affix;
+/// Both parts in one text, the measure's sign between them: sets `Prefix` and `Suffix`. Without the sign all is prefix.
+extern const ChangeKind prefixAndSuffix;
+extern const ChangeKind escaped;  ///< a plain text with what the target's quotes need
+extern const ChangeKind unquoted; ///< a plain text as it stands
 
-// Looks.
+// Looks. Numbers and names come in any form where nothing else is said.
 extern const ChangeKind color;
 extern const ChangeKind lineWeight;
-extern const ChangeKind arrow;          ///< by the element's number, with the row's operation
-extern const ChangeKind dimensionScale; ///< a given factor, with the row's operation
+extern const ChangeKind lineStyle; ///< by the style's record or its name
+extern const ChangeKind arrow;     ///< by the element's number, with the row's operation
+
+// The looks of dimensions, with the row's operation where there is one.
+extern const ChangeKind dimensionArrow; ///< an arrow of one's own by its block
+extern const ChangeKind styleArrow;     ///< the same, of a dimension style
+extern const ChangeKind scaleFactor;    ///< a given factor
+extern const ChangeKind sheetScale;     ///< where the answer is yes
+extern const ChangeKind centerMark;     ///< the kind of mark by number
+extern const ChangeKind centerMarkSize;
+/// Both: a length is the mark's size, negative for center lines; an element is the kind of a mark without a size.
+extern const ChangeKind styleCenterMark;
+ChangeKind fixedLength(const char* lengthTag); ///< of extension lines; the row's tag says whether it is fixed
+extern const ChangeKind textInside;            ///< of a dimension that is in the drawing, where the answer is yes
 
 // The looks of notes and curved texts.
 extern const ChangeKind noteDirection;
@@ -75,6 +97,8 @@ extern const ChangeKind firstPoint;
 extern const ChangeKind secondPoint;
 extern const ChangeKind vertex; ///< the tags' axes are in lower case
 extern const ChangeKind vertex2D;
+extern const ChangeKind coordinate;      ///< X and Y alone
+extern const ChangeKind planeCoordinate; ///< of a point in a plane; the tags' axes are in lower case
 /// The host counts these from 1 and has a pair of operations for each.
 extern const ChangeKind numberedVertex;
 extern const ChangeKind faceVertex; ///< there are four
@@ -82,5 +106,7 @@ extern const ChangeKind faceVertex; ///< there are four
 // Names of styles.
 extern const ChangeKind textStyleName;
 extern const ChangeKind styleName; ///< of another one
+extern const ChangeKind dimensionStyleName;
+extern const ChangeKind richLineStyleName;
 
 } // namespace kinds

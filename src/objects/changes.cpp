@@ -28,6 +28,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls,
                                                            bool fromAdded, QString& text)
 {
     text.clear();
+    changedHandle = handle;
     OdDbObjectId leader;
     if (cls == OdDbMText::desc())
         driver.GetNoteLeader(leader, handle);

@@ -242,6 +242,11 @@ QString EnumeratorByValue(Target target, const ValueEnumeration& enumeration, st
     return withSuffix(target, enumeration.name, enumeration.suffixes.begin()[inside ? position : 0]);
 }
 
+QString EnumeratorBySuffix(Target target, const ValueEnumeration& enumeration, const char* suffix)
+{
+    return withSuffix(target, enumeration.name, suffix);
+}
+
 QString EnumeratorByText(Target target, const TextEnumeration& enumeration, const QString& text)
 {
     const auto shown = [&](const TextEnumeration::Row& row) {

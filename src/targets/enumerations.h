@@ -79,6 +79,8 @@ extern const TextEnumeration viewportStandardScale;
 
 /// A value outside the enumeration gives its default.
 QString EnumeratorByValue(Target target, const ValueEnumeration& enumeration, std::int32_t value);
+/// `suffix` is one of the enumeration's.
+QString EnumeratorBySuffix(Target target, const ValueEnumeration& enumeration, const char* suffix);
 
 /// The text is taken in the host's display language and without regard to case. An unknown one gives the default.
 QString EnumeratorByText(Target target, const TextEnumeration& enumeration, const QString& text);

@@ -175,7 +175,7 @@ TEST(TextChanges, OfATextStyle)
                         " result# = it1->Rename( styleName# );\n",
                         " iwCreateObjectResult_e result#;\n string styleName# = \"Notes\";\n"
                         " result# = it1.Rename( styleName# );\n",
-                        " var styleName# = \"Notes\";\n var result# = it1.Rename( styleName# );\n",
+                        " var result#;\n var styleName# = \"Notes\";\n result# = it1.Rename( styleName# );\n",
                         " Dim result# As Inkwright.iwCreateObjectResult_e\n Dim styleName# As String = \"Notes\"\n"
                         " result# = it1.Rename( styleName# )\n",
                         " Dim result# As Inkwright.iwCreateObjectResult_e\n Dim styleName# As String\n"

@@ -149,6 +149,11 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitObjectModifiedComment", {JavaScript}},
         // The point that a call gives needs no declaration either.
         {"EmitChangePosition", {JavaScript}},
+        // A page's points have members for scales; C++ sets little of a table style, and a page no text style.
+        {"EmitChangeScale", {Cpp, CSharp, VbNet, CppCom, Vba}},
+        {"call of a table style", {Cpp}},
+        {"EmitSetTableStyleAlignment", {Cpp}},
+        {"EmitSetTableStyleTextStyle", {Cpp, JavaScript}},
         // The array is declared together with its elements.
         {"EmitFileLocationArray", {CSharp, VbNet}},
         // COM puts an element into both lists at once.

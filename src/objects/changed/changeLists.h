@@ -33,3 +33,9 @@ extern const ChangeGroups modifiedNote;
 extern const ChangeGroups modifiedCurvedText;
 extern const ChangeGroups modifiedPicture;
 extern const ChangeGroups modifiedTableStyle;
+/// Of all dimension classes but two, which have tags of their own behind them.
+extern const ChangeGroups modifiedDimension;
+extern const ChangeGroups modifiedArcLengthDimension;
+extern const ChangeGroups modifiedJoggedDimension;
+extern const ChangeGroups modifiedDimensionStyle;
+extern const ChangeGroups modifiedRichLineStyle;

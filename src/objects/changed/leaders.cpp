@@ -19,7 +19,7 @@ const ChangeGroups modifiedLeader{
     ChangeGroup{{leaderOptions::lines, {{color, "DimLine LColor", "DimensionLineColor"}}}},
     ChangeGroup{{leaderOptions::lines, {{lineWeight, "DimLine LWeight", "DimensionLineLineWeight"}}}},
     ChangeGroup{{leaderOptions::text, {{unquoted, "Text offset", "OffsetFromDimensionLines"}}}},
-    ChangeGroup{{leaderOptions::fit, {{dimensionScale, "DimScale overall", "SetDimensionScale"}}}},
+    ChangeGroup{{leaderOptions::fit, {{scaleFactor, "DimScale overall", "SetDimensionScale"}}}},
 };
 
 const ChangeGroups modifiedTolerance{ChangeGroup{

@@ -77,11 +77,6 @@ QString cellStatement(Writer& writer, const CFxString& table, const CFxPropertyC
     return EmitSetCellText(writer, table, numberIn(record, 1), numberIn(record, 2), inkmacro::doubleBackslashes(text));
 }
 
-CFxString textOf(const CFxVariant& value)
-{
-    return value.GetType() == CFxVariant::kString ? value.GetString() : ChosenText(value).value_or(CFxString());
-}
-
 /// New lines stand behind the old ones. One pass over the records finds them, so one whose record comes too early, or
 /// behind a gap, is no new line.
 QString insertLines(Writer& writer, const TableLines& lines, const PropertyList& list, CFxValueContext context,
@@ -104,7 +99,7 @@ QString insertLines(Writer& writer, const TableLines& lines, const PropertyList&
         if (!isOf(record, cellTag))
             continue;
         const std::int32_t line = numberIn(record, lines.numberInCell);
-        const CFxString content = textOf(record->GetValue(context));
+        const CFxString content = wordOf(record->GetValue(context));
         if (line >= first && line < count && !content.isEmpty())
             text += cellStatement(writer, table, record, content);
     }
@@ -140,7 +135,7 @@ bool CFxConverterIWAPIObject::ConvertCellTexts(PropertyList& list, bool takeOnly
     for (const CFxPropertyChangedPtr& record : cells) {
         const CFxVariant value = record->GetValue(driver.GetContext());
         if (!takeOnly && !value.IsNull())
-            text += cellStatement(writer, name, record, textOf(value));
+            text += cellStatement(writer, name, record, wordOf(value));
     }
     return !cells.empty();
 }

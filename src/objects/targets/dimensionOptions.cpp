@@ -3,6 +3,7 @@
 #include "objects/targets/dimensionOptions.h"
 
 #include "targets/enumerations.h"
+#include "targets/wording.h"
 
 using namespace inkmacro;
 
@@ -43,17 +44,47 @@ static const Phrase setArrow{"EmitSetArrow",
                              {
                                  .cpp = "%1%3->%4( %5, L\"%6\" );%2",
                                  .cppCom = "%1%3->%4( %5, L\"%6\" );%2",
-                                 .csharp = "%1%3.%4( %5, \"%6\" );%2",
+                                 .csharp = "%1%3.%4( %5, %6%7%8 );%2",
                                  .javascript = "%1%3.%4( \"%5\", \"%6\" );%2",
                                  .vbNet = "%1%3.%4( %5, \"%6\" )%2",
                                  .vba = "%1%3.%4 %5, \"%6\"%2",
                              }};
 
-/// A leader's record does not tell the block of an arrow of one's own.
-QString EmitSetLeaderArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow)
+QString EmitSetArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
+                     const CFxString& name)
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionArrowType, arrow);
-    return writer.fill(setArrow).text(target).text(operation).text(kind).text(QString());
+    Fill statement = writer.fill(setArrow);
+    statement.text(target).text(operation).text(kind);
+    if (writer.target != Target::CSharp)
+        return statement.text(name);
+    // C# takes its quotes as values too.
+    const QLatin1String quote("\"");
+    return statement.text(quote).text(name).text(quote);
+}
+
+static const Phrase setStyleArrow{
+    "EmitSetStyleArrow",
+    {
+        .cpp = "%1iwDimensionArrowType_e arrowType%3=%4;%2%1iwString arrowName%3 = L\"%5\";%2"
+               "%1%6->%7( arrowType%3, arrowName%3 );%2",
+        .cppCom = "%1iwDimensionArrowType_e arrowType%3=%4;%2%1BSTR arrowName%3 = L\"%5\";%2"
+                  "%1%6->%7( arrowType%3, arrowName%3 );%2",
+        .csharp = "%1iwDimensionArrowType_e arrowType%3=%4;%2%1string arrowName%3=\"%5\";%2"
+                  "%1%6.%7(arrowType%3, arrowName%3);%2",
+        .javascript = "%1var arrowType%3 = \"%4\";%2%1var arrowName%3 = \"%5\";%2"
+                      "%1%6.%7(arrowType%3, arrowName%3);%2",
+        .vbNet = "%1Dim arrowType%3 As Inkwright.iwDimensionArrowType_e = %4%2"
+                 "%1Dim arrowName%3 As String = \"%5\"%2%1%6.%7(arrowType%3, arrowName%3)%2",
+        .vba = "%1Dim arrowType%3 As Inkwright.iwDimensionArrowType_e%2%1arrowType%3 = %4%2"
+               "%1Dim arrowName%3 As String%2%1arrowName%3 = \"%5\"%2%1%6.%7 arrowType%3, arrowName%3%2",
+    }};
+
+QString EmitSetStyleArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
+                          const CFxString& name)
+{
+    const QString kind = EnumeratorByValue(writer.target, enums::dimensionArrowType, arrow);
+    return writer.fill(setStyleArrow).number(++writer.UniqueCounter).text(kind).text(name).text(target).text(operation);
 }
 
 static const Phrase setDimensionScale{"EmitSetDimensionScale",
@@ -71,4 +102,103 @@ QString EmitSetDimensionScale(Writer& writer, const CFxString& target, const CFx
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionScale, scale);
     return writer.fill(setDimensionScale).text(target).text(operation).text(kind).real(factor);
+}
+
+static const Phrase setFixedLength{"EmitSetExtensionLineFixedLength",
+                                   {
+                                       .cpp = "%1%3->SetExtensionLineFixedLength(%4, %5);%2",
+                                       .cppCom = "%1%3->SetExtensionLineFixedLength(%4, %5);%2",
+                                       .csharp = "%1%3.SetExtensionLineFixedLength(%4, %5);%2",
+                                       .javascript = "%1%3.SetExtensionLineFixedLength(%4, %5);%2",
+                                       .vbNet = "%1%3.SetExtensionLineFixedLength(%4, %5)%2",
+                                       .vba = "%1%3.SetExtensionLineFixedLength %4, %5%2",
+                                   }};
+
+QString EmitSetExtensionLineFixedLength(Writer& writer, const CFxString& target, bool fixed, double length)
+{
+    return writer.fill(setFixedLength).text(target).text(truthWord(writer.target, fixed)).real(length);
+}
+
+static const Phrase getCenterMark{
+    "EmitSetCenterMark",
+    {
+        .cpp = "%1iwDimensionCenterMarkDisplay_e CenterMarkDisplay%3;%2%1double markSize%3;%2"
+               "%1%4->GetCenterMarkDisplay( &CenterMarkDisplay%3, &markSize%3 );%2",
+        .cppCom = "%1iwDimensionCenterMarkDisplay_e CenterMarkDisplay%3;%2%1double markSize%3;%2"
+                  "%1%4->GetCenterMarkDisplay( &CenterMarkDisplay%3, &markSize%3 );%2",
+        .csharp = "%1iwDimensionCenterMarkDisplay_e CenterMarkDisplay%3;%2%1double markSize%3;%2"
+                  "%1%4.GetCenterMarkDisplay( out CenterMarkDisplay%3, out markSize%3 );%2",
+        .javascript = "%1var results%3 = %4.GetCenterMarkDisplay( );%2",
+        .vbNet = "%1Dim CenterMarkDisplay%3 As Inkwright.iwDimensionCenterMarkDisplay_e%2%1Dim markSize%3 As Double%2"
+                 "%1%4.GetCenterMarkDisplay( CenterMarkDisplay%3, markSize%3 )%2",
+        .vba = "%1Dim CenterMarkDisplay%3 As Inkwright.iwDimensionCenterMarkDisplay_e%2%1Dim markSize%3 As Double%2"
+               "%1%4.GetCenterMarkDisplay CenterMarkDisplay%3, markSize%3%2",
+    }};
+
+static const Phrase changeCenterMarkKind{"EmitSetCenterMark",
+                                         {
+                                             .cpp = "%1CenterMarkDisplay%3 = %4;%2",
+                                             .cppCom = "%1CenterMarkDisplay%3 = %4;%2",
+                                             .csharp = "%1CenterMarkDisplay%3 = %4;%2",
+                                             .javascript = "%1results%3[0] = \"%4\";%2",
+                                             .vbNet = "%1CenterMarkDisplay%3 = %4%2",
+                                             .vba = "%1CenterMarkDisplay%3 = %4%2",
+                                         }};
+
+static const Phrase changeCenterMarkSize{"EmitSetCenterMark",
+                                         {
+                                             .cpp = "%1markSize%3 = %4;%2",
+                                             .cppCom = "%1markSize%3 = %4;%2",
+                                             .csharp = "%1markSize%3 = %4;%2",
+                                             .javascript = "%1results%3[1] = %4;%2",
+                                             .vbNet = "%1markSize%3 = %4%2",
+                                             .vba = "%1markSize%3 = %4%2",
+                                         }};
+
+static const Phrase setCenterMark{"EmitSetCenterMark",
+                                  {
+                                      .cpp = "%1%3->%4( CenterMarkDisplay%5, markSize%5 );%2",
+                                      .cppCom = "%1%3->%4( CenterMarkDisplay%5, markSize%5 );%2",
+                                      .csharp = "%1%3.%4( CenterMarkDisplay%5, markSize%5 );%2",
+                                      .javascript = "%1%3.%4( results%5[0], results%5[1] );%2",
+                                      .vbNet = "%1%3.%4( CenterMarkDisplay%5, markSize%5 )%2",
+                                      .vba = "%1%3.%4 CenterMarkDisplay%5, markSize%5%2",
+                                  }};
+
+static QString changeCenterMark(Writer& writer, const CFxString& target, const CFxString& operation,
+                                const Phrase& change, const QString& value)
+{
+    const std::uint32_t suffix = ++writer.UniqueCounter;
+    return writer.fill(getCenterMark).number(suffix).text(target).str() +
+           writer.fill(change).number(suffix).text(value).str() +
+           writer.fill(setCenterMark).text(target).text(operation).number(suffix).str();
+}
+
+QString EmitSetCenterMarkKind(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind)
+{
+    return changeCenterMark(writer, target, operation, changeCenterMarkKind,
+                            EnumeratorByValue(writer.target, enums::dimensionCenterMarkDisplay, kind));
+}
+
+QString EmitSetCenterMarkSize(Writer& writer, const CFxString& target, const CFxString& operation, double size)
+{
+    return changeCenterMark(writer, target, operation, changeCenterMarkSize, FormatLong(size));
+}
+
+/// C++ calls the operation as if it were a property; this must stay so.
+static const Phrase setStyleCenterMark{"EmitSetStyleEnumPair",
+                                       {
+                                           .cpp = "%1%3->put_%4(%5, %6);%2",
+                                           .cppCom = "%1%3->%4(%5, %6);%2",
+                                           .csharp = "%1%3.%4(%5, %6);%2",
+                                           .javascript = "%1%3.%4(\"%5\", %6);%2",
+                                           .vbNet = "%1%3.%4(%5, %6)%2",
+                                           .vba = "%1%3.%4 %5, %6%2",
+                                       }};
+
+QString EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind,
+                               double size)
+{
+    const QString word = EnumeratorByValue(writer.target, enums::dimensionCenterMarkDisplay, kind);
+    return writer.fill(setStyleCenterMark).text(target).text(operation).text(word).real(size);
 }

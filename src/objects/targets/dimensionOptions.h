@@ -15,6 +15,38 @@ struct OptionObject
 
 inline constexpr OptionObject generalDimension{nullptr, "GeneralDimension", "generalDimension"};
 
+/// Of dimensions: what a dimension overrides of its style.
+namespace dimensionOptions {
+
+inline constexpr OptionObject userData{&generalDimension, "DimensionStyleUserData", "dimensionStyle", true};
+inline constexpr OptionObject angular{&userData, "DimensionStyleAngularDimensionOptions", "angularDimensionOptions"};
+inline constexpr OptionObject arrows{&userData, "DimensionStyleArrowsOptions", "arrowsOptions"};
+inline constexpr OptionObject dual{&userData, "DimensionStyleDualDimensionOptions", "dualDimensionOptions"};
+inline constexpr OptionObject linear{&userData, "DimensionStyleLinearDimensionOptions", "linearDimensionOptions"};
+inline constexpr OptionObject radial{&userData, "DimensionStyleRadialDiameterDimensionOptions",
+                                     "radialDiameterDimensionOptions"};
+inline constexpr OptionObject fit{&userData, "DimensionStyleFitOptions", "fitOptions"};
+inline constexpr OptionObject lines{&userData, "DimensionStyleLineOptions", "lineOptions"};
+inline constexpr OptionObject text{&userData, "DimensionStyleTextOptions", "textOptions"};
+inline constexpr OptionObject tolerance{&userData, "DimensionStyleToleranceOptions", "toleranceOptions"};
+
+} // namespace dimensionOptions
+
+/// Of dimension styles.
+namespace styleOptions {
+
+inline constexpr OptionObject arrows{nullptr, "DimensionStyleArrowsOptions", "arrowOptions"};
+inline constexpr OptionObject angular{nullptr, "DimensionStyleAngularDimensionOptions", "angularOptions"};
+inline constexpr OptionObject dual{nullptr, "DimensionStyleDualDimensionOptions", "dualOptions"};
+inline constexpr OptionObject fit{nullptr, "DimensionStyleFitOptions", "fitOptions"};
+inline constexpr OptionObject linear{nullptr, "DimensionStyleLinearDimensionOptions", "linearOptions"};
+inline constexpr OptionObject lines{nullptr, "DimensionStyleLineOptions", "linesOptions"};
+inline constexpr OptionObject radial{nullptr, "DimensionStyleRadialDiameterDimensionOptions", "radialDiameterOptions"};
+inline constexpr OptionObject text{nullptr, "DimensionStyleTextOptions", "textOptions"};
+inline constexpr OptionObject tolerance{nullptr, "DimensionStyleToleranceOptions", "toleranceOptions"};
+
+} // namespace styleOptions
+
 /// Of leaders and tolerances.
 namespace leaderOptions {
 
@@ -32,8 +64,19 @@ inline constexpr OptionObject curvedTextSettings{nullptr, "CurvedSettings", "cur
 QString EmitGetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, CFxString& options);
 /// Hands the object in the variable `options` back to its owner.
 QString EmitSetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, const CFxString& options);
-/// `arrow` is the drawing's number of a kind of arrow.
-QString EmitSetLeaderArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow);
+/// `arrow` is the drawing's number of a kind of arrow, `name` the block of one that is of one's own.
+QString EmitSetArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
+                     const CFxString& name);
+QString EmitSetStyleArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
+                          const CFxString& name);
 /// `scale` is the drawing's number: 1 for the factor given, 2 for the scale of the sheet.
 QString EmitSetDimensionScale(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t scale,
                               double factor);
+QString EmitSetExtensionLineFixedLength(Writer& writer, const CFxString& target, bool fixed, double length);
+
+// The host sets the kind of a center mark, a number of the drawing's, and its size together. On a dimension the
+// generated program reads both, changes the one and writes them back.
+QString EmitSetCenterMarkKind(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind);
+QString EmitSetCenterMarkSize(Writer& writer, const CFxString& target, const CFxString& operation, double size);
+QString EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind,
+                               double size);

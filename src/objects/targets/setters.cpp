@@ -92,6 +92,18 @@ QString EmitSetEnumValue(Writer& writer, const CFxString& target, const ValueEnu
     return setEnumerator(writer, target, property, EnumeratorByValue(writer.target, enumeration, value));
 }
 
+QString EmitSetEnumSuffix(Writer& writer, const CFxString& target, const ValueEnumeration& enumeration,
+                          const CFxString& property, const char* suffix)
+{
+    return setEnumerator(writer, target, property, EnumeratorBySuffix(writer.target, enumeration, suffix));
+}
+
+QString EmitSetDecimalSeparator(Writer& writer, const CFxString& target, const CFxString& property,
+                                const CFxString& separator)
+{
+    return setEnumerator(writer, target, property, DecimalSeparatorEnumerator(writer.target, separator));
+}
+
 static const Phrase setIndexedColor{
     "EmitSetColor",
     {

@@ -17,6 +17,10 @@ QString EmitSetEnumProperty(Writer& writer, const CFxString& target, const inkma
 /// The enumerator is told by the number that the drawing or the recording has for it.
 QString EmitSetEnumValue(Writer& writer, const CFxString& target, const inkmacro::ValueEnumeration& enumeration,
                          const CFxString& property, std::int32_t value);
+QString EmitSetEnumSuffix(Writer& writer, const CFxString& target, const inkmacro::ValueEnumeration& enumeration,
+                          const CFxString& property, const char* suffix);
+QString EmitSetDecimalSeparator(Writer& writer, const CFxString& target, const CFxString& property,
+                                const CFxString& separator);
 QString EmitSetColor(Writer& writer, const CFxString& target, const CFxString& property, const OdCmColor& color);
 QString EmitSetLayer(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id);
 QString EmitSetLineStyle(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id);

@@ -10,7 +10,7 @@
 using namespace inkmacro;
 
 /// The blank behind the indentation stays.
-static const Phrase setOfCells{"EmitSetTableStyleColor",
+static const Phrase setOfCells{"call of a table style",
                                {
                                    .cppCom = "%1 %2->%3(%4,%5);%6",
                                    .csharp = "%1 %2.%3(%4,%5);%6",

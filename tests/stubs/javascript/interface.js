@@ -28,7 +28,8 @@ function Noting(way) {
 function isOf(type, value) {
     switch (type) {
     case 'double': return typeof value === 'number' && isFinite(value);
-    case 'int': return Number.isInteger(value);
+    case 'int':
+    case 'long': return Number.isInteger(value);
     case 'bool': return typeof value === 'boolean';
     case 'string': return typeof value === 'string';
     case 'object': return true;
@@ -55,7 +56,7 @@ function answer(type, way) {
     if (type in INTERFACE.enumerations) {
         return INTERFACE.enumerations[type][0];
     }
-    return {double: 0, int: 0, bool: false, string: ''}[type];
+    return {double: 0, int: 0, long: 0, bool: false, string: ''}[type];
 }
 
 // Several results come as an array, which has them by their names too.
