@@ -1,8 +1,8 @@
 // Text styles, attribute definitions, notes, tolerances, leaders and curved texts: what a reader makes of its records
 // and of the drawing, and the statements of the six targets.
 
-#include "TestActions.h"
 #include "TestDrawing.h"
+#include "TestRecords.h"
 #include "TestTarget.h"
 
 #include "objects/targets/leaders.h"
@@ -16,25 +16,6 @@
 using namespace inkmacro;
 
 namespace {
-
-CFxPropertyChangedPtr record(const char* tag, const CFxVariant& value)
-{
-    return odrxNew<TestProperty>(tag, value);
-}
-
-CFxPropertyChangedPtr record(const char* tag, const char* text)
-{
-    return record(tag, CFxVariant(CFxString(text)));
-}
-
-/// A value of choice type.
-CFxVariant choice(std::vector<const char*> items, int chosen)
-{
-    std::vector<CFxVariantCollectionElement> elements;
-    for (const char* item : items)
-        elements.emplace_back(static_cast<int>(elements.size()), CFxString(item));
-    return CFxVariantCollection(std::move(elements), chosen);
-}
 
 PropertyList point(const char* stem, double x, double y, double z)
 {

@@ -184,6 +184,16 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         // Only C++ and C# measure a circle or an arc of the macro, the others make one each time.
         {"EmitInsertDiameterDimension: on a variable", {CppCom, JavaScript, VbNet, Vba}},
         {"EmitInsertJoggedDimension: on a variable", {CppCom, JavaScript, VbNet, Vba}},
+        // A color has a variable of its own in C++.
+        {"color", {Cpp}, 2},
+        // C++ cannot change these of a style, nor a style's name.
+        {"EmitTableBordersColor", {Cpp}},
+        {"EmitReplaceRichLineElement", {Cpp}},
+        {"EmitRenameRichLineStyle", {Cpp}},
+        // Only in C++ does the activation of a layer or a style differ from that of anything else.
+        {"EmitActivateLayer", allButCpp},
+        // The others look the style up where they set it.
+        {"EmitSetTableStyle: style", {CSharp, JavaScript, VbNet, Vba}},
         // A temporary entity is declared where it is assigned.
         {"EmitInsertHatchByEntities: declaration of an entity", {CSharp, JavaScript}, 2},
         // COM declares the array with the call, a page has all of a pattern's data in one object.
