@@ -3,6 +3,7 @@
 
 #include "TestActions.h"
 #include "TestDrawing.h"
+#include "TestRecords.h"
 #include "TestTarget.h"
 
 #include "frame/counters.h"
@@ -18,11 +19,6 @@ using Ids = OdArray<OdDbObjectId>;
 
 constexpr std::uint64_t kBlock = 0x50;
 constexpr std::uint64_t kReference = 0x51;
-
-CFxPropertyChangedPtr record(const char* tag, const CFxVariant& value)
-{
-    return odrxNew<TestProperty>(tag, value);
-}
 
 /// The numbers of drawn entities begin anew.
 class Blocks : public testing::Test

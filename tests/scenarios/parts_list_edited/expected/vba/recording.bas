@@ -151,9 +151,9 @@ Sub main()
                 iRowCount1 = table3.TotalRowCount()
                 Dim i1 As Integer
                 For i1 = 0 To iRowCount1 - 1
-                    Dim height As Double
-                    height = table3.GetRowHeight(i1)*coef1
-                    table3.SetRowHeightAt i1, height
+                    Dim height1 As Double
+                    height1 = table3.GetRowHeight(i1)*coef1
+                    table3.SetRowHeightAt i1, height1
                 Next
             End If
 
@@ -168,9 +168,9 @@ Sub main()
                 iColumnCount1 = table3.TotalColumnCount()
                 Dim i1 As Integer
                 For i1 = 0 To iColumnCount1 - 1
-                    Dim width As Double
-                    width = table3.GetColumnWidth(i1)*coef1
-                    table3.SetColumnWidthAt i1, width
+                    Dim width1 As Double
+                    width1 = table3.GetColumnWidth(i1)*coef1
+                    table3.SetColumnWidthAt i1, width1
                 Next
             End If
 
