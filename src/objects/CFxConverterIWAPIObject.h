@@ -14,7 +14,6 @@ struct BlockContents;
 class ChangeGroups;
 class CFxConverterIWAPIImpl;
 class StatementGroup;
-struct TableLines;
 class Writer;
 struct BoundaryObject;
 struct ClassRow;

@@ -223,7 +223,7 @@ QString CFxConverterIWAPIObject::CreateBlockDefinition(const BlockContents& cont
         if (entity.name.isEmpty())
             continue;
         definition.entities.push_back(entity.name);
-        definition.types.push_back(QLatin1String(kind->type));
+        definition.types.emplace_back(QLatin1String(kind->type));
     }
     return text + EmitCreateBlockDefinition(writer, definition);
 }

@@ -4,7 +4,7 @@
 #include "targets/Writer.h"
 
 /// The name that stands for a block which has none of its own.
-inline constexpr QLatin1String anonymousBlockName("*U");
+inline constexpr QLatin1String anonymousBlockName("*U", 2);
 
 /// Where a block, a picture or a shape stands.
 struct Placement

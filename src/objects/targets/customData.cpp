@@ -8,7 +8,7 @@ namespace {
 
 /// The variable has no number, so two objects with data in one group declare it twice, and `count` with it. It has to
 /// stay so.
-constexpr QLatin1String customDataVariable("iwCustomData");
+constexpr QLatin1String customDataVariable("iwCustomData", 12);
 
 enum GroupCode
 {

@@ -271,6 +271,13 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     richline9->put_LineWeight( iwLnWt_ByLayer );
     richline9->put_Thickness( 0.00000000000000 );
     IShapePtr shape10;
+    shape10 = iwSketchManager->InsertShape( L"", 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 );
+    shape10->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    shape10->put_Layer( L"Walls" );
+    shape10->put_LineStyle( L"Continuous" );
+    shape10->put_LineScale( 1.00000000000000 );
+    shape10->put_LineWeight( iwLnWt_ByLayer );
+    shape10->put_Thickness( 0.00000000000000 );
     IEmbeddedObjectPtr embeddedobject11;
     IViewportPtr viewport12;
     IRotatedDimensionPtr rotateddimension13;

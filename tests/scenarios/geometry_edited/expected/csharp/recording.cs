@@ -145,6 +145,13 @@ namespace IWAPIMacros
             richline9.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
             richline9.Thickness = 0.00000000000000;
             Shape shape10;
+            shape10 = iwSketchManager.InsertShape( "", 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 );
+            shape10.Color = iwApp.GetColorByIndex( 256 );
+            shape10.Layer = "Walls";
+            shape10.LineStyle = "Continuous";
+            shape10.LineScale = 1.00000000000000;
+            shape10.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
+            shape10.Thickness = 0.00000000000000;
             EmbeddedObject embeddedobject11;
             Viewport viewport12;
             RotatedDimension rotateddimension13;

@@ -133,6 +133,13 @@ Public Class recording
         richline9.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
         richline9.Thickness = 0.00000000000000
         Dim shape10 As Inkwright.Shape
+        shape10 = iwSketchManager.InsertShape( "", 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 )
+        shape10.Color = iwApp.GetColorByIndex( 256 )
+        shape10.Layer = "Walls"
+        shape10.LineStyle = "Continuous"
+        shape10.LineScale = 1.00000000000000
+        shape10.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
+        shape10.Thickness = 0.00000000000000
         Dim embeddedobject11 As Inkwright.EmbeddedObject
         Dim viewport12 As Inkwright.Viewport
         Dim rotateddimension13 As Inkwright.RotatedDimension

@@ -47,24 +47,16 @@ bool CMacroCommand::ExecuteNotify(void)
     }
 
     iwSketchManager_ptr iwSketchManager;
+    iwModel->GetSketchManager( &iwSketchManager );
+    if ( !iwSketchManager )
+    {
+        return false;
+    }
+
     iwObjectPtrArray iwSheetsArray;
     iwDoc->GetSheets( &iwSheetsArray );
     iwSheet_ptr iwSheet = (iwSheet_c *)iwSheetsArray[1];
     if ( !iwSheet )
-    {
-        return false;
-    }
-
-    iwDoc->GetSheet( L"A3", &iwSheet );
-    if ( !iwSheet )
-    {
-        return false;
-    }
-
-    iwSheet->Activate();
-
-    iwSheet->GetSketchManager( &iwSketchManager );
-    if ( !iwSketchManager )
     {
         return false;
     }

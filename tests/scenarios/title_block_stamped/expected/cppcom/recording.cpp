@@ -85,6 +85,13 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     }
 
     ISketchManagerPtr iwSketchManager;
+    iwSketchManager = iwModel->GetSketchManager();
+    if( NULL == iwSketchManager )
+    {
+        MessageBox (NULL, L"Failed to get a sketch manager of the current document.", L"title", MB_OK);
+        return;
+    }
+
     _variant_t pVariantArray = iwDoc->GetSheets();
     ISheetPtr *iwSheetArrays = NULL;
     int count = 0;
@@ -93,23 +100,6 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     if( NULL == iwSheet )
     {
         MessageBox (NULL, L"Failed to get a paper space of the current document.", L"title", MB_OK);
-        return;
-    }
-
-    iwSheet = NULL;
-    iwSheet = iwDoc->GetSheet(L"A3");
-    if( NULL == iwSheet )
-    {
-        MessageBox (NULL, L"Failed to get a paper space of the current document.", L"title", MB_OK);
-        return;
-    }
-
-    iwSheet->Activate();
-
-    iwSketchManager = iwSheet->GetSketchManager();
-    if( NULL == iwSketchManager )
-    {
-        MessageBox (NULL, L"Failed to get a sketch manager of the current document.", L"title", MB_OK);
         return;
     }
 

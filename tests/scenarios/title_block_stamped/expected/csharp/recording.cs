@@ -22,25 +22,17 @@ namespace IWAPIMacros
             }
 
             SketchManager iwSketchManager;
+            iwSketchManager = iwModel.GetSketchManager();
+            if (null == iwSketchManager)
+            {
+                return;
+            }
+
             object[] sheetsList = (object[])iwDoc.GetSheets();
             Sheet iwSheet = (Sheet)sheetsList[1];
             if (null == iwSheet)
             {
                  return;
-            }
-
-            iwSheet = iwDoc.GetSheet("A3");
-            if (null == iwSheet)
-            {
-                 return;
-            }
-
-            iwSheet.Activate();
-
-            iwSketchManager = iwSheet.GetSketchManager();
-            if (null == iwSketchManager)
-            {
-                return;
             }
 
             ViewManager iwViewManager = iwDoc.GetViewManager();

@@ -31,6 +31,9 @@ Sub main()
 		'Get model space
 		Set iwModel = iwDoc.GetModel()
 
+		'Get Sketch Manager
+		Set iwSketchManager = iwModel.GetSketchManager()
+
         Dim iwSheet As Inkwright.Sheet
         Dim iwVarSheets As Variant
         iwVarSheets = iwDoc.GetSheets
@@ -38,16 +41,6 @@ Sub main()
         If iwSheet Is Nothing Then
             Return
         End If
-
-		'Get paper space
-        Set iwSheet = iwDoc.GetSheet("A3")
-        If iwSheet Is Nothing Then
-            Return
-        End If
-
-        iwSheet.Activate
-		'Get Sketch Manager
-		Set iwSketchManager = iwSheet.GetSketchManager()
 
 		'Get View Manager
 		Set iwViewManager = iwDoc.GetViewManager()

@@ -19,22 +19,16 @@ Public Class recording
         End If
 
         Dim iwSketchManager As Inkwright.SketchManager
+        iwSketchManager = iwModel.GetSketchManager()
+        If iwSketchManager Is Nothing Then
+            Return
+        End If
+
         Dim iwSheet As Inkwright.Sheet
         Dim iwVarSheets As Object
         iwVarSheets = iwDoc.GetSheets()
         iwSheet = iwVarSheets(1)
         If iwSheet Is Nothing Then
-            Return
-        End If
-
-        iwSheet = iwDoc.GetSheet("A3")
-        If iwSheet Is Nothing Then
-            Return
-        End If
-
-        iwSheet.Activate()
-        iwSketchManager = iwSheet.GetSketchManager()
-        If iwSketchManager Is Nothing Then
             Return
         End If
 
