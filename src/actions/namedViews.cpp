@@ -17,9 +17,9 @@ using inkmacro::takeVariable;
 namespace {
 
 // As the host's dialog shows the backgrounds.
-constexpr QLatin1String kSolid("Solid...");
-constexpr QLatin1String kGradient("Gradient...");
-constexpr QLatin1String kImage("Image...");
+const QLatin1String kSolid("Solid...");
+const QLatin1String kGradient("Gradient...");
+const QLatin1String kImage("Image...");
 
 /// A list of the dialog may hand over one of its choices where a view's name is meant.
 bool isViewName(const CFxString& word)

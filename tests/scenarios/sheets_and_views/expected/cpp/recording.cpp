@@ -306,29 +306,28 @@ bool CMacroCommand::ExecuteNotify(void)
     }
     {
         iwObjectPtrArray iwViewTileArray0;
-        iwModel->InsertViewTiles(iwViewTilesMode_3_Above, iwViewTilesApplyTo_Display, &iwViewTileArray0);
+        iwModel->InsertViewTiles(iwViewTilesMode_2_Vertical, iwViewTilesApplyTo_Display, &iwViewTileArray0);
         iwModel->GetViewTiles(&iwViewTileArray0);
 
         iwViewTile_c* iwviewtile5 =(iwViewTile_c*)iwViewTileArray0[0];
         iwViewTile_c* iwviewtile6 =(iwViewTile_c*)iwViewTileArray0[1];
-        iwViewTile_c* iwviewtile7 =(iwViewTile_c*)iwViewTileArray0[2];
     }
     {
         iwObjectPtrArray iwViewTileArray1;
         iwModel->InsertViewTiles(iwViewTilesMode_1, iwViewTilesApplyTo_ActiveViewTile, &iwViewTileArray1);
         iwModel->GetViewTiles(&iwViewTileArray1);
 
-        iwViewTile_c* iwviewtile8 =(iwViewTile_c*)iwViewTileArray1[0];
+        iwViewTile_c* iwviewtile7 =(iwViewTile_c*)iwViewTileArray1[0];
     }
-        iwModelNamedView_ptr iwmodelnamedview9;
+        iwModelNamedView_ptr iwmodelnamedview8;
         {
             iwModel->Activate();
             iwModel->GetSketchManager( &iwSketchManager );
-            iwViewManager->CreateModelNamedView( L"Garden", &iwmodelnamedview9 );
+            iwViewManager->CreateModelNamedView( L"Garden", &iwmodelnamedview8 );
         }
         iwImageBackground_ptr iwImageBackground0;
         iwViewManager->CreateImageBackground( L"garden.png", iwImageBackgroundPosition_Center, 0.00000000000000, 0.00000000000000, 1.50000000000000, 1.50000000000000, &iwImageBackground0 );
-        iwmodelnamedview9->SetImageBackground( iwImageBackground0 );
+        iwmodelnamedview8->SetImageBackground( iwImageBackground0 );
 
         {
             iwDoubleArray lowerLeft_1, upperRight_1;

@@ -360,7 +360,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         pConnection->m_IwApp->Zoom(iwZoomRange_Fit, NULL, NULL);
     }
     {
-        _variant_t variant_iwViewTileArray0 = iwModel->InsertViewTiles(iwViewTilesMode_3_Above, iwViewTilesApplyTo_Display);
+        _variant_t variant_iwViewTileArray0 = iwModel->InsertViewTiles(iwViewTilesMode_2_Vertical, iwViewTilesApplyTo_Display);
         variant_iwViewTileArray0 = iwModel->GetViewTiles();
         IViewTilePtr *iwViewTileArray0 = NULL;
         int count_iwViewTileArray0 = 0;
@@ -368,7 +368,6 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 
         IViewTilePtr viewtile5 = iwViewTileArray0[0];
         IViewTilePtr viewtile6 = iwViewTileArray0[1];
-        IViewTilePtr viewtile7 = iwViewTileArray0[2];
     }
     {
         _variant_t variant_iwViewTileArray1 = iwModel->InsertViewTiles(iwViewTilesMode_1, iwViewTilesApplyTo_ActiveViewTile);
@@ -377,17 +376,17 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
         int count_iwViewTileArray1 = 0;
         TypeConverter::convertVariantArrayToPtrArray<IViewTilePtr, IViewTile>( variant_iwViewTileArray1, iwViewTileArray1, count_iwViewTileArray1 );
 
-        IViewTilePtr viewtile8 = iwViewTileArray1[0];
+        IViewTilePtr viewtile7 = iwViewTileArray1[0];
     }
-        IModelNamedViewPtr modelnamedview9;
+        IModelNamedViewPtr modelnamedview8;
         {
             iwModel->Activate();
             iwSketchManager = iwModel->GetSketchManager();
-            modelnamedview9 = iwViewManager->CreateModelNamedView( L"Garden" );
+            modelnamedview8 = iwViewManager->CreateModelNamedView( L"Garden" );
         }
         IImageBackgroundPtr iwImageBackground0;
         iwImageBackground0 = iwViewManager->CreateImageBackground( L"garden.png", iwImageBackgroundPosition_Center, 0.00000000000000, 0.00000000000000, 1.50000000000000, 1.50000000000000 );
-        modelnamedview9->SetImageBackground( iwImageBackground0 );
+        modelnamedview8->SetImageBackground( iwImageBackground0 );
 
         {
             pConnection->m_IwApp->Zoom(iwZoomRange_All, NULL, NULL);

@@ -242,27 +242,26 @@ namespace IWAPIMacros
                 iwApp.Zoom(iwZoomRange_e.iwZoomRange_Fit, null, null);
             }
             {
-                object[] iwViewTileArray0 = (object[])iwModel.InsertViewTiles(iwViewTilesMode_e.iwViewTilesMode_3_Above, iwViewTilesApplyTo_e.iwViewTilesApplyTo_Display);
+                object[] iwViewTileArray0 = (object[])iwModel.InsertViewTiles(iwViewTilesMode_e.iwViewTilesMode_2_Vertical, iwViewTilesApplyTo_e.iwViewTilesApplyTo_Display);
                 iwViewTileArray0 = (object[])iwModel.GetViewTiles();
 
                 Inkwright.ViewTile viewtile5 =(Inkwright.ViewTile)iwViewTileArray0[0];
                 Inkwright.ViewTile viewtile6 =(Inkwright.ViewTile)iwViewTileArray0[1];
-                Inkwright.ViewTile viewtile7 =(Inkwright.ViewTile)iwViewTileArray0[2];
             }
             {
                 object[] iwViewTileArray1 = (object[])iwModel.InsertViewTiles(iwViewTilesMode_e.iwViewTilesMode_1, iwViewTilesApplyTo_e.iwViewTilesApplyTo_ActiveViewTile);
                 iwViewTileArray1 = (object[])iwModel.GetViewTiles();
 
-                Inkwright.ViewTile viewtile8 =(Inkwright.ViewTile)iwViewTileArray1[0];
+                Inkwright.ViewTile viewtile7 =(Inkwright.ViewTile)iwViewTileArray1[0];
             }
-                ModelNamedView modelnamedview9;
+                ModelNamedView modelnamedview8;
                 {
                     iwModel.Activate();
                     iwSketchManager = iwModel.GetSketchManager();
-                    modelnamedview9 = iwViewManager.CreateModelNamedView( "Garden" );
+                    modelnamedview8 = iwViewManager.CreateModelNamedView( "Garden" );
                 }
                 ImageBackground iwImageBackground0 = iwViewManager.CreateImageBackground( "garden.png", iwImageBackgroundPosition_e.iwImageBackgroundPosition_Center, 0.00000000000000, 0.00000000000000, 1.50000000000000, 1.50000000000000 );
-                modelnamedview9.SetImageBackground( iwImageBackground0 );
+                modelnamedview8.SetImageBackground( iwImageBackground0 );
 
                 {
                     iwApp.Zoom(iwZoomRange_e.iwZoomRange_All, null, null);

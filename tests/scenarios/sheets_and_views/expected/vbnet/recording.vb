@@ -245,30 +245,29 @@ Public Class recording
         End If
 
         If 1 Then
-            Dim iwViewTileArray0 As Object() = iwModel.InsertViewTiles(Inkwright.iwViewTilesMode_e.iwViewTilesMode_3_Above, Inkwright.iwViewTilesApplyTo_e.iwViewTilesApplyTo_Display)
+            Dim iwViewTileArray0 As Object() = iwModel.InsertViewTiles(Inkwright.iwViewTilesMode_e.iwViewTilesMode_2_Vertical, Inkwright.iwViewTilesApplyTo_e.iwViewTilesApplyTo_Display)
             iwViewTileArray0 = iwModel.GetViewTiles()
 
             Dim viewtile5 As Inkwright.ViewTile = iwViewTileArray0(0)
             Dim viewtile6 As Inkwright.ViewTile = iwViewTileArray0(1)
-            Dim viewtile7 As Inkwright.ViewTile = iwViewTileArray0(2)
         End If
 
         If 1 Then
             Dim iwViewTileArray1 As Object() = iwModel.InsertViewTiles(Inkwright.iwViewTilesMode_e.iwViewTilesMode_1, Inkwright.iwViewTilesApplyTo_e.iwViewTilesApplyTo_ActiveViewTile)
             iwViewTileArray1 = iwModel.GetViewTiles()
 
-            Dim viewtile8 As Inkwright.ViewTile = iwViewTileArray1(0)
+            Dim viewtile7 As Inkwright.ViewTile = iwViewTileArray1(0)
         End If
 
-            Dim modelnamedview9 As Inkwright.ModelNamedView
+            Dim modelnamedview8 As Inkwright.ModelNamedView
             If 1 Then
                 iwModel.Activate()
                 iwSketchManager = iwModel.GetSketchManager()
-                modelnamedview9 = iwViewManager.CreateModelNamedView( "Garden" )
+                modelnamedview8 = iwViewManager.CreateModelNamedView( "Garden" )
             End If
 
             Dim iwImageBackground0 As Inkwright.ImageBackground = iwViewManager.CreateImageBackground( "garden.png", Inkwright.iwImageBackgroundPosition_e.iwImageBackgroundPosition_Center, 0.00000000000000, 0.00000000000000, 1.50000000000000, 1.50000000000000 )
-            modelnamedview9.SetImageBackground( iwImageBackground0 )
+            modelnamedview8.SetImageBackground( iwImageBackground0 )
 
             If 1 Then
                 iwApp.Zoom(Inkwright.iwZoomRange_e.iwZoomRange_All, Nothing, Nothing)
