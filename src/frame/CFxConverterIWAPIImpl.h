@@ -53,6 +53,8 @@ public:
     std::int32_t ConvertActionScale(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionSelect(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionSelectionFilter(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionCoordinateSystemOfEntity(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionNamedView(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionEmbeddedObject(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionErase(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionInsertHatch(OdSmartPtr<CFxCustomAction> action, QString& text);
@@ -64,10 +66,13 @@ public:
     std::int32_t ConvertActionGroupAdd(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionGroupRemove(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionAttributeValue(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionViewBackground(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionZoom(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionRegion(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionActivate(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionViewport(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionPrintStyle(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionViewTiles(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionJoin(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionExplode(OdSmartPtr<CFxCustomAction> action, QString& text);
 

@@ -30,6 +30,7 @@ struct ProcessCounters
     std::uint32_t selections = 0;
     std::uint32_t elementColors = 0;
     std::uint32_t hatchPolylines = 0;
+    std::uint32_t viewTileArrays = 0;
     std::uint32_t blockArcs = 0;
     std::uint32_t blockArcLengthDimensions = 0;
     std::uint32_t clipCircles = 0;

@@ -192,6 +192,8 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         // C++ takes each color into a variable in front of the call, the others have them within it.
         {"EmitHatchGradient: indexed color", allButCpp, 2},
         {"EmitHatchGradient: true color", allButCpp, 2},
+        // C++ declares the corners of a zoom for all ranges.
+        {"EmitZoom: corners", allButCpp},
         // C++ sets the color where it is fetched.
         {"EmitHatchGradientData: assigned color", {Cpp}, 2},
         // A color has a variable of its own in C++.

@@ -35,7 +35,8 @@ function isOf(type, value) {
     case 'object': return true;
     }
     if (type.endsWith('[]')) {
-        return Array.isArray(value) && value.every(element => isOf(type.slice(0, -2), element));
+        // A call that can do without an array is given none.
+        return value === null || Array.isArray(value) && value.every(element => isOf(type.slice(0, -2), element));
     }
     if (type in INTERFACE.enumerations) {
         return INTERFACE.enumerations[type].includes(value);
