@@ -89,6 +89,9 @@ public:
     void ConvertModifiedLine(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
     void ConvertModifiedBlockInstance(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
     void ConvertModifiedTable(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedLayer(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedBlockDefinition(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedSheet(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
     void ConvertModifiedHatch(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
 
     /// Takes the first record with that tag out of the list and gives its value, or the null value. The record's tag

@@ -13,6 +13,7 @@
 #include "objects/targets/tableStyles.h"
 #include "objects/targets/tables.h"
 #include "objects/targets/texts.h"
+#include "objects/targets/viewportOverrides.h"
 #include "targets/wording.h"
 
 #include <algorithm>
@@ -213,6 +214,11 @@ QString renameDimensionStyle(const Change& change, const CFxString& name)
     return EmitRenameStyle(change.writer, change.target, name, isCurrent);
 }
 
+CFxString integerWord(const Change& change)
+{
+    return CFxString(QString::number(change.value.GetInt32()));
+}
+
 QString renameRichLineStyle(const Change& change, const CFxString& name)
 {
     return EmitRenameRichLineStyle(change.writer, change.target, name);
@@ -379,6 +385,8 @@ constinit const ChangeKind visible{
 constinit const ChangeKind exactEnabled{
     [](const Change& change) { return setBool(change, ElementText(change.value) == ShownWord("Enabled")); }};
 constinit const ChangeKind plainYes{[](const Change& change) { return setBool(change, isPlainYes(change.value)); }};
+constinit const ChangeKind plainNo{
+    [](const Change& change) { return setBool(change, change.value.GetString() == ShownWord("No")); }};
 constinit const ChangeKind yesOrFirst{setYesOrFirst};
 constinit const ChangeKind anyYes{[](const Change& change) { return setBool(change, isAnyYes(change.value)); }};
 constinit const ChangeKind chosenYes{setChosen<setYes>};
@@ -432,6 +440,8 @@ constinit const ChangeKind escaped{[](const Change& change) {
 }};
 constinit const ChangeKind unquoted{
     [](const Change& change) { return setText(change, change.value.GetString(), false); }};
+constinit const ChangeKind integerText{
+    [](const Change& change) { return setText(change, integerWord(change), false); }};
 
 constinit const ChangeKind color{[](const Change& change) {
     return EmitSetColor(change.writer, change.target, change.row.property, change.value.GetColor());
@@ -443,6 +453,28 @@ constinit const ChangeKind lineStyle{setLineStyle};
 /// A leader's record does not tell the block of an arrow of one's own.
 constinit const ChangeKind arrow{[](const Change& change) {
     return EmitSetArrow(change.writer, change.target, change.row.property, elementNumber(change.value), {});
+}};
+
+constinit const ChangeKind activation{[](const Change& change) {
+    return isPlainYes(change.value) ? EmitActivateLayer(change.writer, change.target) : QString();
+}};
+constinit const ChangeKind overrideYes{[](const Change& change) {
+    return EmitViewportOverrideBool(change.writer, change.target, change.row.property, isPlainYes(change.value));
+}};
+constinit const ChangeKind overrideColor{[](const Change& change) {
+    return EmitViewportOverrideColor(change.writer, change.target, change.row.property, change.value.GetColor());
+}};
+constinit const ChangeKind overrideLineStyle{[](const Change& change) {
+    return EmitViewportOverrideLineStyle(change.writer, change.target, change.row.property, change.value.GetId());
+}};
+constinit const ChangeKind overrideLineWeight{[](const Change& change) {
+    return EmitViewportOverrideLineWeight(change.writer, change.target, change.row.property, anyNumber(change.value));
+}};
+constinit const ChangeKind overrideText{[](const Change& change) {
+    return EmitViewportOverrideText(change.writer, change.target, change.row.property, change.value.GetString(), true);
+}};
+constinit const ChangeKind overrideInteger{[](const Change& change) {
+    return EmitViewportOverrideText(change.writer, change.target, change.row.property, integerWord(change), false);
 }};
 
 constinit const ChangeKind dimensionArrow{setArrow<&EmitSetArrow>};

@@ -24,6 +24,7 @@ extern const ChangeKind exactYes; ///< with case
 extern const ChangeKind visible;
 extern const ChangeKind exactEnabled;
 extern const ChangeKind plainYes; ///< a plain text
+extern const ChangeKind plainNo;  ///< a plain text, and "No" is true
 /// Among all items the first one is "Yes", whatever it is called; a value of no choice type writes nothing.
 extern const ChangeKind yesOrFirst;
 extern const ChangeKind anyYes; ///< without regard to case; whatever is no "Yes" is false
@@ -52,6 +53,7 @@ extern const ChangeKind affix;
 extern const ChangeKind prefixAndSuffix;
 extern const ChangeKind escaped;  ///< a plain text with what the target's quotes need
 extern const ChangeKind unquoted; ///< a plain text as it stands
+extern const ChangeKind integerText;
 
 // Looks. Numbers and names come in any form where nothing else is said.
 extern const ChangeKind color;
@@ -87,6 +89,15 @@ extern const ChangeKind cellLength;
 extern const ChangeKind gridColor; ///< the record's number is an element: the cell type and, as value, the line
 extern const ChangeKind gridLineWeight;
 
+// A layer, and with the row's operation what it looks like in the active viewport alone.
+extern const ChangeKind activation; ///< where the plain text is "Yes"
+extern const ChangeKind overrideYes;
+extern const ChangeKind overrideColor;
+extern const ChangeKind overrideLineStyle; ///< by the style's record
+extern const ChangeKind overrideLineWeight;
+extern const ChangeKind overrideText;
+extern const ChangeKind overrideInteger;
+
 // A coordinate of a point that the host reads and writes as a whole: by "Get" and "Set" in front of the property, or
 // by a pair of operations that belongs to the kind.
 extern const ChangeKind point;
@@ -107,6 +118,6 @@ extern const ChangeKind faceVertex; ///< there are four
 extern const ChangeKind textStyleName;
 extern const ChangeKind styleName; ///< of another one
 extern const ChangeKind dimensionStyleName;
-extern const ChangeKind richLineStyleName;
+extern const ChangeKind richLineStyleName; ///< also of a layer and a group
 
 } // namespace kinds

@@ -39,3 +39,5 @@ extern const ChangeGroups modifiedArcLengthDimension;
 extern const ChangeGroups modifiedJoggedDimension;
 extern const ChangeGroups modifiedDimensionStyle;
 extern const ChangeGroups modifiedRichLineStyle;
+extern const ChangeGroups modifiedGroup;
+extern const ChangeGroups modifiedViewTile;

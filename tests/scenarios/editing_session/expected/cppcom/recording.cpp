@@ -544,7 +544,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
              iwSheet->Activate();
              iwSketchManager = iwSheet->GetSketchManager();
         }
-        iwSheet->put_PrintStyle( L"monochrome.ctb" );
+        iwSheet->put_PrintStyle( "monochrome.ctb" );
     }
 }
 

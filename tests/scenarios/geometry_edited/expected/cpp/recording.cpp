@@ -423,6 +423,20 @@ bool CMacroCommand::ExecuteNotify(void)
     // AcDbBlockTableRecord object modified
     iwBlockDefinition_ptr iwblockdefinition15;
     {
+
+        iwObjectPtrArray objects_39;
+
+        iwLongArray objecttypes_39;
+
+         iwDoc->CreateBlockDefinition(
+         L"Bolt", 
+         L"", 
+         0.00000000000000, 
+         0.00000000000000, 
+         0.00000000000000, 
+         objecttypes_39,  
+         objects_39, 
+         iwBlockDefinitionEntities_RemoveFromDrawing ,&iwblockdefinition15 );
         iwblockdefinition15->put_Erased( true );
     }
     iwLayerManager_ptr iwLayerManager_1;
@@ -431,12 +445,12 @@ bool CMacroCommand::ExecuteNotify(void)
     iwLayerManager_1->GetLayer( L"0", &iwlayer16 );
     // AcDbLayerTableRecord object modified
     {
-        iwLayerManager_ptr iwLayerManager39;
-        iwDoc->GetLayerManager( &iwLayerManager39 );
-        iwString layerName39;
-        iwlayer16->get_Name( &layerName39 );
-        bool bResult39 = false;
-        iwLayerManager39->RemoveLayer( layerName39, &bResult39 );
+        iwLayerManager_ptr iwLayerManager40;
+        iwDoc->GetLayerManager( &iwLayerManager40 );
+        iwString layerName40;
+        iwlayer16->get_Name( &layerName40 );
+        bool bResult40 = false;
+        iwLayerManager40->RemoveLayer( layerName40, &bResult40 );
     }
     // AcDbViewTableRecord object modified
     {
