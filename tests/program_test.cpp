@@ -2,6 +2,8 @@
 
 #include "Program.h"
 
+#include <QDir>
+
 namespace {
 
 /// No handler has a kind like this.
@@ -281,6 +283,39 @@ TEST_F(Program, NamesOptionsAsItIsTold)
         run({"convert", "scale.jsonl", "--target", "csharp", "--output", "names.json", "--option-names", "names.json"})
             .status,
         2);
+}
+
+TEST_F(Program, LooksForLineStylesInFoldersOfTheCommandLineAndOfTheRecording)
+{
+    write("fence.jsonl", R"({"drawing":{"lineStyleFolders":["own"]}}
+{"added":{"class":"AcDbLinetypeTableRecord","handle":"24","properties":[{"tag":"Name","value":"FENCE1"}]}}
+)");
+    const auto convert = [&](QStringList more) {
+        return run(QStringList{"convert", "fence.jsonl", "--target", "csharp", "--output", "out/"} + more);
+    };
+    const auto isLoadedFrom = [&](const QString& file) {
+        return contents("out/csharp/fence.cs").contains(("LoadLineStyle( \"FENCE1\",\"" + file + "\",").toUtf8());
+    };
+    const Outcome without = convert({});
+    EXPECT_EQ(without.status, 0);
+    EXPECT_TRUE(without.err.contains("\"FENCE1\"")) << without.err.toStdString();
+    EXPECT_EQ(without.err.count('\n'), 1);
+    EXPECT_TRUE(isLoadedFrom(""));
+
+    ASSERT_TRUE(QDir().mkpath(path("own")) && QDir().mkpath(path("given")));
+    write("own/a.lin", "*FENCE1,of the recording\n");
+    EXPECT_EQ(convert({"--line-styles", "given"}).err, "");
+    EXPECT_TRUE(isLoadedFrom(path("own/a.lin")));
+    write("given/b.lin", "*FENCE1,of the command line\n");
+    EXPECT_EQ(convert({"--line-styles", "given"}).err, "");
+    EXPECT_TRUE(isLoadedFrom(path("given/b.lin")));
+    // Several processes are told the folder too.
+    EXPECT_EQ(
+        run({"convert", "fence.jsonl", "--target", "csharp,vba", "--output", "out/", "--line-styles", "given"}).err,
+        "");
+    EXPECT_TRUE(isLoadedFrom(path("given/b.lin")));
+    EXPECT_EQ(convert({"--line-styles", "given/b.lin"}).status, 2);
+    EXPECT_EQ(convert({"--line-styles", ""}).status, 2);
 }
 
 TEST_F(Program, ConvertsNothingWithFaultyNamesOfOptions)

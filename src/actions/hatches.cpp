@@ -60,6 +60,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionInsertHatch(OdSmartPtr<CFxCusto
     const CFxString hatch = takeVariable(text, HandedVariable::Replaced);
     const HatchPattern pattern{action->GetData(0).GetString(), action->GetData(1).GetDouble(),
                                action->GetData(2).GetDouble()};
+    insertedHatches.insert(hatch);
     const bool byInternalPoints = action->GetData(3).GetBool();
     const bool byEntities = action->GetData(4).GetBool();
     const bool byBulges = action->GetData(5).GetBool();

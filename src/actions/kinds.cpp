@@ -2,6 +2,8 @@
 
 #include "actions/kinds.h"
 
+#include "actions/handedVariable.h"
+
 namespace inkmacro {
 
 bool DataSignature::fits(const CFxCustomAction& action) const
@@ -17,7 +19,7 @@ bool DataSignature::fits(const CFxCustomAction& action) const
     return !word_ || (count > 0 && action.GetData(0).GetString().toQString().compare(word_, wordCase_) == 0);
 }
 
-ActionHandler HandlerOf(const CFxCustomAction& action)
+const ActionForm* FormOf(const CFxCustomAction& action)
 {
     const std::int32_t number = action.GetKind();
     const auto kind = std::ranges::find_if(actionKinds, [&](const ActionKind& candidate) {
@@ -28,7 +30,7 @@ ActionHandler HandlerOf(const CFxCustomAction& action)
     const std::span<const ActionForm> forms = kind->forms();
     const auto form =
         std::ranges::find_if(forms, [&](const ActionForm& candidate) { return candidate.data.fits(action); });
-    return form == forms.end() ? nullptr : form->handler;
+    return form != forms.end() && (form->handler || form->statements) ? &*form : nullptr;
 }
 
 } // namespace inkmacro
@@ -36,6 +38,12 @@ ActionHandler HandlerOf(const CFxCustomAction& action)
 /// The one place where an action is refused for its number or the form of its data.
 std::int32_t CFxConverterIWAPIImpl::ConvertCustomAction(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    const inkmacro::ActionHandler handler = inkmacro::HandlerOf(*action);
-    return handler ? (this->*handler)(std::move(action), text) : kFxFailure;
+    const inkmacro::ActionForm* const form = inkmacro::FormOf(*action);
+    if (!form)
+        return kFxFailure;
+    if (form->handler)
+        return (this->*form->handler)(std::move(action), text);
+    inkmacro::takeVariable(text, inkmacro::HandedVariable::Replaced);
+    text = form->statements(writer, *action);
+    return kFxSuccess;
 }

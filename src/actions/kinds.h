@@ -58,11 +58,19 @@ private:
 
 using ActionHandler = std::int32_t (CFxConverterIWAPIImpl::*)(OdSmartPtr<CFxCustomAction> action, QString& text);
 
-/// One way in which a kind of custom action comes.
+/// The statements of a form that needs nothing but its data. They take the place of the variable that is handed over.
+using ActionStatements = QString (*)(Writer& writer, const CFxCustomAction& action);
+
+/// One way in which a kind of custom action comes. Has a handler, or statements, or neither and is refused.
 struct ActionForm
 {
+    constexpr ActionForm() = default;
+    constexpr ActionForm(DataSignature data, ActionHandler handler) : data(data), handler(handler) {}
+    constexpr ActionForm(DataSignature data, ActionStatements statements) : data(data), statements(statements) {}
+
     DataSignature data;
     ActionHandler handler = nullptr;
+    ActionStatements statements = nullptr;
 };
 
 struct KindNumbers
@@ -120,6 +128,9 @@ inline constexpr ActionForm chamferForms[] = {
      &CFxConverterIWAPIImpl::ConvertActionCornersOfPolyline},
     {DataSignature::anyOf(6), &CFxConverterIWAPIImpl::ConvertActionChamfer},
 };
+// Forms that are told apart by words, in the files of their topics.
+extern const ActionForm coordinateSystemForms[21];
+extern const ActionForm sheetForms[8];
 
 /// In the order of their numbers; the host has no others.
 inline constexpr auto actionKinds = [] {
@@ -138,9 +149,9 @@ inline constexpr auto actionKinds = [] {
         {9, "chamfer", chamferForms},
         {10, "select", &Impl::ConvertActionSelect},
         {11, "selection filter", &Impl::ConvertActionSelectionFilter},
-        {12, "coordinate system"},
-        {13, "sheet"},
-        {14, "named view"},
+        {12, "coordinate system", coordinateSystemForms},
+        {13, "sheet", sheetForms},
+        {14, "named view", &Impl::ConvertActionNamedView},
         {15, "embedded object",
          ActionForm{DataSignature::exactly({kInt, kString}), &Impl::ConvertActionEmbeddedObject}},
         {kPolyline, "polyline"},
@@ -157,16 +168,16 @@ inline constexpr auto actionKinds = [] {
         {38, "group remove", &Impl::ConvertActionGroupRemove},
         {39, "attribute value", &Impl::ConvertActionAttributeValue},
         {40, "polyline edit"},
-        {kViewBackground, "view background"},
+        {kViewBackground, "view background", &Impl::ConvertActionViewBackground},
         {42, "polyline vertex"},
-        {43, "zoom"},
+        {43, "zoom", &Impl::ConvertActionZoom},
         {44, "region", &Impl::ConvertActionRegion},
         {45, "activate", &Impl::ConvertActionActivate},
         {kViewport, "viewport", &Impl::ConvertActionViewport},
         {47, "print style",
          ActionForm{DataSignature::beginning({kString, kBool, kString}), &Impl::ConvertActionPrintStyle}},
         {48, "clip boundary"},
-        {49, "view tiles"},
+        {49, "view tiles", &Impl::ConvertActionViewTiles},
         {50, "join", &Impl::ConvertActionJoin},
         {55, "explode", &Impl::ConvertActionExplode},
     });
@@ -185,6 +196,6 @@ inline constexpr auto actionKindNames = [] {
 }();
 
 /// Null for a number or data that no handler takes.
-ActionHandler HandlerOf(const CFxCustomAction& action);
+const ActionForm* FormOf(const CFxCustomAction& action);
 
 } // namespace inkmacro

@@ -8,6 +8,7 @@
 #include <QTextStream>
 
 #include <map>
+#include <set>
 
 class CFxConverterIWAPIObject;
 class StatementGroup;
@@ -59,6 +60,8 @@ public:
     std::int32_t ConvertActionCornersOfPolyline(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionSelect(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionSelectionFilter(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionCoordinateSystemOfEntity(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionNamedView(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionEmbeddedObject(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionErase(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionInsertHatch(OdSmartPtr<CFxCustomAction> action, QString& text);
@@ -70,10 +73,13 @@ public:
     std::int32_t ConvertActionGroupAdd(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionGroupRemove(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionAttributeValue(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionViewBackground(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionZoom(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionRegion(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionActivate(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionViewport(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionPrintStyle(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionViewTiles(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionJoin(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionExplode(OdSmartPtr<CFxCustomAction> action, QString& text);
 
@@ -109,6 +115,8 @@ public:
     virtual std::int32_t EmitProjectFiles(const QString&) { return kFxSuccess; }
 
     Writer writer;
+    /// Variables of the hatches that custom actions have inserted.
+    std::set<QString> insertedHatches;
     /// Ordinal of the last object that got a variable.
     std::uint32_t objectCounter = 0;
 

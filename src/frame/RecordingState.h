@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/kernel/CFxString.h"
+#include "targets/Target.h"
 
 #include <cstdint>
 
@@ -12,3 +13,4 @@ extern bool RecordingInModel;
 /// The host setting that decides the byte order mark and the form of type names: a language code of a conversion. It
 /// need not be the code of the conversion that runs.
 std::int16_t RecordingLanguage();
+bool RecordsIn(inkmacro::Target language);

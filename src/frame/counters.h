@@ -32,6 +32,12 @@ struct ProcessCounters
     std::uint32_t fillets = 0;
     std::uint32_t chamfers = 0;
     std::uint32_t hatchPolylines = 0;
+    std::uint32_t viewTileArrays = 0;
+    std::uint32_t blockArcs = 0;
+    std::uint32_t blockArcLengthDimensions = 0;
+    std::uint32_t clipCircles = 0;
+    std::uint32_t clipPolylines = 0;
+    std::uint32_t clipEllipses = 0;
 
     OfTarget& of(inkmacro::Target target) { return ofTargets[static_cast<std::size_t>(target)]; }
     std::array<OfTarget, inkmacro::targetCount> ofTargets{};

@@ -2,12 +2,6 @@
 
 #include "objects/CFxConverterIWAPIObject.h"
 
-/// The word of a value, whether it is plain text or the chosen one of several items.
-inline CFxString wordOf(const CFxVariant& value)
-{
-    return ChosenText(value).value_or(value.GetString());
-}
-
 /// One added object in the hands of its reader, with its records: what is read leaves the list and is remembered.
 class AddedObject
 {

@@ -10,12 +10,21 @@
 #include <memory>
 #include <optional>
 
+struct BlockContents;
 class ChangeGroups;
 class CFxConverterIWAPIImpl;
 class StatementGroup;
 class Writer;
 struct BoundaryObject;
 struct ClassRow;
+struct TableLines;
+
+/// Which part of a collection's elements holds the handles.
+enum class HandlesIn
+{
+    Tags,
+    Values
+};
 
 /// Whether that file of line type shapes comes with the host, which then needs no statement to load it.
 bool IsHostShapeFile(const CFxString& fileName);
@@ -32,6 +41,11 @@ CFxString ShownWord(const char* word);
 CFxString ElementText(const CFxVariant& value);
 /// The text of the chosen item, whether it came alone or among all items; nothing for any other value.
 std::optional<CFxString> ChosenText(const CFxVariant& value);
+/// The word of a value, whether it is plain text or the chosen one of several items.
+inline CFxString wordOf(const CFxVariant& value)
+{
+    return ChosenText(value).value_or(value.GetString());
+}
 
 /// Turns recorded objects into statements, from their property records alone. Knows no target: the words come from the
 /// Emit operations. Lives as long as one conversion; its driver owns it.
@@ -73,6 +87,11 @@ public:
 
     // Changes that are more than a list of tags: ChangeHandler in objects/classTable.h.
     void ConvertModifiedLine(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedBlockInstance(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedTable(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedLayer(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedBlockDefinition(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedSheet(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
     void ConvertModifiedHatch(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
 
     /// Takes the first record with that tag out of the list and gives its value, or the null value. The record's tag
@@ -95,13 +114,28 @@ public:
     QString ObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
     /// The variable of an object that was added before; empty for any other. Takes no number.
     QString AddedVariable(const OdDbObjectId& id) const;
+    /// The variable of an object that the macro has one for, the later objects of the same command included; empty for
+    /// any other. Takes no number.
+    QString KnownVariable(const OdDbHandle& handle) const;
+    /// The class by which such an object was recorded; null for any other.
+    const OdRxClass* KnownClass(const OdDbHandle& handle) const;
+    /// The leader that owns the note of that handle, else the null id. Raises OdError_NotThatKindOfClass when the
+    /// handle is another object's.
+    OdDbObjectId LeaderOfNote(const OdDbHandle& handle) const;
+    /// Whether a custom action of this recording has inserted the hatch of that variable.
+    bool IsHatchInserted(const QString& variable) const;
+    /// The object of that handle in the active drawing, which may have none; null without a drawing.
+    static OdDbObjectId IdOf(const OdDbHandle& handle);
+    /// The objects of a collection that has their handles as texts; none of a value that is no collection.
+    static OdArray<OdDbObjectId> ObjectsOf(const CFxVariant& collection, HandlesIn place);
     /// The objects that a hatch's boundary follows, erased ones included and each of them once, with the variables of
     /// those that were added before. Raises an OdError for an object that the drawing does not have.
     std::vector<BoundaryObject> BoundaryObjects(const OdArray<OdDbObjectId>& ids) const;
+    /// Statements that make a block definition of entities which have a variable. The others are left out, but for the
+    /// few kinds that are drawn for it.
+    QString CreateBlockDefinition(const BlockContents& contents);
 
 private:
-    /// The id of the object in the active drawing; null without one.
-    static OdDbObjectId IdOf(const OdDbHandle& handle);
     /// Type and name of the object's variable; whether it is a new one, which a statement has to fetch.
     bool NameVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& type, CFxString& name);
     /// Spells a name from its parts; looks up no variable and takes no number.
@@ -114,6 +148,8 @@ private:
         bool searchesGroup;
     };
     const TagWords& WordsOf(const CFxString& tag);
+    /// The group of block attributes, in the host's display language.
+    const QString& BlockAttributes();
 
     // Steps of ConvertObjectChanges.
     bool AddressChangedObject(const OdRxClass* cls, const OdDbHandle& handle, const OdDbObjectId& noteLeader,
@@ -122,6 +158,15 @@ private:
                              QString& text);
     QString ConvertErased(const OdRxClass* cls, const OdDbHandle& handle, const CFxString& name,
                           const CFxVariant& erased);
+
+    // Steps of ConvertModifiedTable.
+    bool ConvertTableCount(const TableLines& lines, PropertyList& list, bool takeOnly, const CFxString& name,
+                           QString& text);
+    bool ConvertTableSizes(const TableLines& lines, PropertyList& list, bool takeOnly, const CFxString& name,
+                           QString& text);
+    bool ConvertCellTexts(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertTableSize(const TableLines& lines, PropertyList& list, bool takeOnly, bool told, const CFxString& name,
+                          QString& text);
 
     std::map<OdDbObjectId, QString> addedVariableById;
     OdDbHandle changedHandle; ///< of the object whose changes are being converted
@@ -133,6 +178,6 @@ private:
     CFxConverterIWAPIImpl& driver;
     Writer& writer; ///< the driver's
 
-    QString blockAttributes; ///< the group of block attributes, in the host's display language
+    QString blockAttributes; ///< null until it is asked for
     QHash<QString, TagWords> tagWords;
 };

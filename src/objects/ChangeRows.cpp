@@ -74,7 +74,9 @@ void CFxConverterIWAPIObject::ConvertRows(const ChangeGroups& groups, PropertyLi
                 if (row.kind.indexed && index == -1)
                     continue;
                 const CFxString target = objects.variable(part.on, text);
-                text += row.kind.statement({writer, row, target, value, second, index, IdOf(changedHandle)});
+                text += row.kind.statement({writer, row, target, value, second, index, number, IdOf(changedHandle)});
+                if (part.on && part.on->writtenBack)
+                    text += EmitSetOptions(writer, *part.on, objects.variable(part.on->owner, text), target);
             }
     }
 }

@@ -19,6 +19,7 @@ struct Change
     const CFxVariant& value;
     const CFxVariant& second; ///< of the kind's second tag; one of the two may be null
     std::int32_t index;       ///< within a repeated property, else -1
+    const CFxVariant& number; ///< the record's number in whatever form it has
     OdDbObjectId object;      ///< the changed object in the drawing, which may lack it
 };
 

@@ -2,6 +2,7 @@
 
 #include "objects/changeKinds.h"
 
+#include "frame/RecordingState.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
@@ -9,8 +10,13 @@
 #include "objects/targets/points.h"
 #include "objects/targets/setters.h"
 #include "objects/targets/styles.h"
+#include "objects/targets/tableStyles.h"
+#include "objects/targets/tables.h"
+#include "objects/targets/texts.h"
+#include "objects/targets/viewportOverrides.h"
 #include "targets/wording.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -83,6 +89,11 @@ std::int32_t anyNumber(const CFxVariant& value)
 std::optional<CFxString> anyText(const CFxVariant& value)
 {
     return value.GetType() == CFxVariant::kString ? value.GetString() : ChosenText(value);
+}
+
+bool isAnyYes(const CFxVariant& value)
+{
+    return wordOf(value).equalNoCase(ShownWord("Yes"));
 }
 
 bool isPlainYes(const CFxVariant& value)
@@ -203,9 +214,94 @@ QString renameDimensionStyle(const Change& change, const CFxString& name)
     return EmitRenameStyle(change.writer, change.target, name, isCurrent);
 }
 
+CFxString integerWord(const Change& change)
+{
+    return CFxString(QString::number(change.value.GetInt32()));
+}
+
 QString renameRichLineStyle(const Change& change, const CFxString& name)
 {
     return EmitRenameRichLineStyle(change.writer, change.target, name);
+}
+
+QString setYes(const Change& change, const CFxString& word)
+{
+    return setBool(change, word.equalNoCase(ShownWord("Yes")));
+}
+
+QString setDoubled(const Change& change, const CFxString& text)
+{
+    return setQuoted(change, inkmacro::doubleBackslashes(text));
+}
+
+QString setNoteDirection(const Change& change, const CFxString& word)
+{
+    // In the order of the drawing's numbers.
+    static constexpr const char* words[] = {"ByStyle", "Vertical", "Horizontal"};
+    const auto found = std::find_if(std::begin(words), std::end(words),
+                                    [&](const char* shown) { return word.equalNoCase(ShownWord(shown)); });
+    if (found == std::end(words))
+        return {};
+    return EmitSetNoteDirection(change.writer, change.target, change.row.property,
+                                static_cast<int>(found - std::begin(words)));
+}
+
+QString setNoteLineSpacing(const Change& change)
+{
+    const CFxVariant::Type type = change.value.GetType();
+    if (type != CFxVariant::kCollection && type != CFxVariant::kCollectionElement && type != CFxVariant::kInt32)
+        return {};
+    return EmitSetNoteLineSpacing(change.writer, change.target, change.row.property, anyNumber(change.value));
+}
+
+QString renameStyle(const Change& change, const CFxString& name)
+{
+    return EmitRenameStyle(change.writer, change.target, name, false);
+}
+
+/// A name that begins with the mark is none to be given; such a change is passed over.
+QString renameTextStyle(const Change& change, const CFxString& name)
+{
+    static const QLatin1String mark("<tag>");
+    return name.toQString().startsWith(mark, Qt::CaseInsensitive) ? QString() : renameStyle(change, name);
+}
+
+QString setTableStyle(const Change& change, const CFxString& style)
+{
+    return EmitSetTableStyle(change.writer, change.target, style, change.row.property);
+}
+
+QString setOrientation(const Change& change, const CFxString& word)
+{
+    const bool down = word.equalNoCase(ShownWord("Down"));
+    if (!down && !word.equalNoCase(ShownWord("Up")))
+        return {};
+    return EmitTableStyleOrientation(change.writer, change.target, change.row.property, down);
+}
+
+/// Without a number it is the title.
+std::int32_t cellType(const Change& change)
+{
+    return anyNumber(change.number);
+}
+
+/// The line whose number stands beside the cell type, else that above the cells.
+std::int32_t borderLine(const Change& change)
+{
+    constexpr std::int32_t horizontalTop = 1;
+    if (change.number.GetType() != CFxVariant::kCollectionElement)
+        return horizontalTop;
+    return change.number.GetCollectionElement().GetValue()->GetInt32();
+}
+
+QString setCellAlignment(const Change& change, const CFxString& shownText)
+{
+    return EmitSetTableStyleAlignment(change.writer, change.target, cellType(change), shownText);
+}
+
+QString setCellTextStyle(const Change& change, const CFxString& name)
+{
+    return EmitSetTableStyleTextStyle(change.writer, change.target, cellType(change), name);
 }
 
 QString changePoint(const Change& change)
@@ -213,6 +309,15 @@ QString changePoint(const Change& change)
     const QString& pair = change.row.property;
     return EmitChangePoint(change.writer, change.target, change.row.axis, "Get" + pair, "Set" + pair,
                            change.value.GetDouble(), change.index);
+}
+
+QString changeScale(const Change& change)
+{
+    if (!RecordsIn(inkmacro::Target::JavaScript))
+        return changePoint(change);
+    const QString& pair = change.row.property;
+    return EmitChangeScale(change.writer, change.target, change.row.axis, "Get" + pair, "Set" + pair,
+                           change.value.GetDouble());
 }
 
 using PairChange = QString (*)(Writer& writer, const CFxString& target, const CFxString& local, double value);
@@ -280,7 +385,11 @@ constinit const ChangeKind visible{
 constinit const ChangeKind exactEnabled{
     [](const Change& change) { return setBool(change, ElementText(change.value) == ShownWord("Enabled")); }};
 constinit const ChangeKind plainYes{[](const Change& change) { return setBool(change, isPlainYes(change.value)); }};
+constinit const ChangeKind plainNo{
+    [](const Change& change) { return setBool(change, change.value.GetString() == ShownWord("No")); }};
 constinit const ChangeKind yesOrFirst{setYesOrFirst};
+constinit const ChangeKind anyYes{[](const Change& change) { return setBool(change, isAnyYes(change.value)); }};
+constinit const ChangeKind chosenYes{setChosen<setYes>};
 
 ChangeKind enumText(const inkmacro::TextEnumeration& enumeration)
 {
@@ -296,6 +405,11 @@ ChangeKind enumValue(const inkmacro::ValueEnumeration& enumeration)
 ChangeKind chosenEnumText(const inkmacro::TextEnumeration& enumeration)
 {
     return {.statement = setChosen<setEnum>, .byText = &enumeration};
+}
+
+ChangeKind anyEnumText(const inkmacro::TextEnumeration& enumeration)
+{
+    return {.statement = setChosen<setEnum, anyText>, .byText = &enumeration};
 }
 
 ChangeKind anyEnumValue(const inkmacro::ValueEnumeration& enumeration)
@@ -318,8 +432,7 @@ constinit const ChangeKind decimalSeparator{setChosen<setDecimalSeparator, anyTe
 constinit const ChangeKind quoted{[](const Change& change) { return setQuoted(change, ElementText(change.value)); }};
 constinit const ChangeKind chosenQuoted{setChosen<setQuoted>};
 constinit const ChangeKind anyQuoted{setChosen<setQuoted, anyText>};
-constinit const ChangeKind doubledBackslashes{
-    [](const Change& change) { return setQuoted(change, inkmacro::doubleBackslashes(change.value.GetString())); }};
+constinit const ChangeKind doubledBackslashes{setChosen<setDoubled, anyText>};
 constinit const ChangeKind affix{setChosen<setAffix, anyText>};
 constinit const ChangeKind prefixAndSuffix{setChosen<setPrefixAndSuffix, anyText>};
 constinit const ChangeKind escaped{[](const Change& change) {
@@ -327,6 +440,8 @@ constinit const ChangeKind escaped{[](const Change& change) {
 }};
 constinit const ChangeKind unquoted{
     [](const Change& change) { return setText(change, change.value.GetString(), false); }};
+constinit const ChangeKind integerText{
+    [](const Change& change) { return setText(change, integerWord(change), false); }};
 
 constinit const ChangeKind color{[](const Change& change) {
     return EmitSetColor(change.writer, change.target, change.row.property, change.value.GetColor());
@@ -338,6 +453,28 @@ constinit const ChangeKind lineStyle{setLineStyle};
 /// A leader's record does not tell the block of an arrow of one's own.
 constinit const ChangeKind arrow{[](const Change& change) {
     return EmitSetArrow(change.writer, change.target, change.row.property, elementNumber(change.value), {});
+}};
+
+constinit const ChangeKind activation{[](const Change& change) {
+    return isPlainYes(change.value) ? EmitActivateLayer(change.writer, change.target) : QString();
+}};
+constinit const ChangeKind overrideYes{[](const Change& change) {
+    return EmitViewportOverrideBool(change.writer, change.target, change.row.property, isPlainYes(change.value));
+}};
+constinit const ChangeKind overrideColor{[](const Change& change) {
+    return EmitViewportOverrideColor(change.writer, change.target, change.row.property, change.value.GetColor());
+}};
+constinit const ChangeKind overrideLineStyle{[](const Change& change) {
+    return EmitViewportOverrideLineStyle(change.writer, change.target, change.row.property, change.value.GetId());
+}};
+constinit const ChangeKind overrideLineWeight{[](const Change& change) {
+    return EmitViewportOverrideLineWeight(change.writer, change.target, change.row.property, anyNumber(change.value));
+}};
+constinit const ChangeKind overrideText{[](const Change& change) {
+    return EmitViewportOverrideText(change.writer, change.target, change.row.property, change.value.GetString(), true);
+}};
+constinit const ChangeKind overrideInteger{[](const Change& change) {
+    return EmitViewportOverrideText(change.writer, change.target, change.row.property, integerWord(change), false);
 }};
 
 constinit const ChangeKind dimensionArrow{setArrow<&EmitSetArrow>};
@@ -379,8 +516,36 @@ constinit const ChangeKind textInside{
     .suffix = "KeepTextBetweenExtensionLines",
 };
 
+constinit const ChangeKind noteDirection{setChosen<setNoteDirection, anyText>};
+constinit const ChangeKind noteLineSpacing{setNoteLineSpacing};
+constinit const ChangeKind fontParameter{[](const Change& change) {
+    return EmitSetFontParameter(change.writer, change.target, change.row.property, isAnyYes(change.value));
+}};
+
+constinit const ChangeKind tableStyle{setChosen<setTableStyle, anyText>};
+constinit const ChangeKind orientation{setChosen<setOrientation, anyText>};
+constinit const ChangeKind cellAlignment{setChosen<setCellAlignment, anyText>};
+constinit const ChangeKind cellTextStyle{setChosen<setCellTextStyle, anyText>};
+constinit const ChangeKind cellColor{[](const Change& change) {
+    return EmitSetTableStyleColor(change.writer, change.target, change.row.property, cellType(change),
+                                  change.value.GetColor());
+}};
+constinit const ChangeKind cellLength{[](const Change& change) {
+    return EmitSetTableStyleLength(change.writer, change.target, change.row.property, cellType(change),
+                                   change.value.GetDouble());
+}};
+constinit const ChangeKind gridColor{[](const Change& change) {
+    return EmitTableBordersColor(change.writer, change.target, cellType(change), borderLine(change),
+                                 change.value.GetColor());
+}};
+constinit const ChangeKind gridLineWeight{[](const Change& change) {
+    return EmitTableBordersLineWeight(change.writer, change.target, cellType(change), borderLine(change),
+                                      anyNumber(change.value));
+}};
+
 constinit const ChangeKind point{changePoint, "XYZ"};
 constinit const ChangeKind indexedPoint{changePoint, "XYZ", true};
+constinit const ChangeKind scale{changeScale, "XYZ"};
 constinit const ChangeKind position{changePair<&EmitChangePosition>, "XYZ"};
 constinit const ChangeKind firstPoint{changePair<&EmitChangeFirstPoint>, "XYZ"};
 constinit const ChangeKind secondPoint{changePair<&EmitChangeSecondPoint>, "XYZ"};
@@ -391,6 +556,8 @@ constinit const ChangeKind planeCoordinate{changeCoordinate<&EmitChangeCoordinat
 constinit const ChangeKind numberedVertex{changeNumberedVertex, "XYZ", true};
 constinit const ChangeKind faceVertex{changeFaceVertex, "XYZ", true};
 
+constinit const ChangeKind textStyleName{setChosen<renameTextStyle, anyText>};
+constinit const ChangeKind styleName{setChosen<renameStyle, anyText>};
 constinit const ChangeKind dimensionStyleName{setChosen<renameDimensionStyle, anyText>};
 constinit const ChangeKind richLineStyleName{setChosen<renameRichLineStyle, anyText>};
 

@@ -24,13 +24,17 @@ extern const ChangeKind exactYes; ///< with case
 extern const ChangeKind visible;
 extern const ChangeKind exactEnabled;
 extern const ChangeKind plainYes; ///< a plain text
+extern const ChangeKind plainNo;  ///< a plain text, and "No" is true
 /// Among all items the first one is "Yes", whatever it is called; a value of no choice type writes nothing.
 extern const ChangeKind yesOrFirst;
+extern const ChangeKind anyYes; ///< without regard to case; whatever is no "Yes" is false
+extern const ChangeKind chosenYes;
 
 // Members of an enumeration.
 ChangeKind enumText(const inkmacro::TextEnumeration& enumeration);   ///< by the element's word
 ChangeKind enumValue(const inkmacro::ValueEnumeration& enumeration); ///< by the element's number
 ChangeKind chosenEnumText(const inkmacro::TextEnumeration& enumeration);
+ChangeKind anyEnumText(const inkmacro::TextEnumeration& enumeration);
 ChangeKind anyEnumValue(const inkmacro::ValueEnumeration& enumeration); ///< by number
 /// That member where the answer is yes, nothing where it is no: one of several tags for one property.
 ChangeKind exactYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix);
@@ -41,7 +45,7 @@ extern const ChangeKind decimalSeparator; ///< by the separator itself
 extern const ChangeKind quoted; ///< the element's word
 extern const ChangeKind chosenQuoted;
 extern const ChangeKind anyQuoted;
-extern const ChangeKind doubledBackslashes; ///< a plain text, in all targets
+extern const ChangeKind doubledBackslashes; ///< of any text, in all targets
 /// The part of a dimension's text that stands on one side of the measure; one that holds but the measure's sign is not
 /// written.
 extern const ChangeKind affix;
@@ -49,6 +53,7 @@ extern const ChangeKind affix;
 extern const ChangeKind prefixAndSuffix;
 extern const ChangeKind escaped;  ///< a plain text with what the target's quotes need
 extern const ChangeKind unquoted; ///< a plain text as it stands
+extern const ChangeKind integerText;
 
 // Looks. Numbers and names come in any form where nothing else is said.
 extern const ChangeKind color;
@@ -68,10 +73,36 @@ extern const ChangeKind styleCenterMark;
 ChangeKind fixedLength(const char* lengthTag); ///< of extension lines; the row's tag says whether it is fixed
 extern const ChangeKind textInside;            ///< of a dimension that is in the drawing, where the answer is yes
 
+// The looks of notes and curved texts.
+extern const ChangeKind noteDirection;
+extern const ChangeKind noteLineSpacing; ///< by number
+extern const ChangeKind fontParameter;   ///< on or off
+
+// The looks of tables and table styles. Those of cells have the cell type as the record's number, with the row's
+// operation where there is one.
+extern const ChangeKind tableStyle;
+extern const ChangeKind orientation; ///< the row has the object's word: "Table" or "TableStyle"
+extern const ChangeKind cellAlignment;
+extern const ChangeKind cellTextStyle;
+extern const ChangeKind cellColor;
+extern const ChangeKind cellLength;
+extern const ChangeKind gridColor; ///< the record's number is an element: the cell type and, as value, the line
+extern const ChangeKind gridLineWeight;
+
+// A layer, and with the row's operation what it looks like in the active viewport alone.
+extern const ChangeKind activation; ///< where the plain text is "Yes"
+extern const ChangeKind overrideYes;
+extern const ChangeKind overrideColor;
+extern const ChangeKind overrideLineStyle; ///< by the style's record
+extern const ChangeKind overrideLineWeight;
+extern const ChangeKind overrideText;
+extern const ChangeKind overrideInteger;
+
 // A coordinate of a point that the host reads and writes as a whole: by "Get" and "Set" in front of the property, or
 // by a pair of operations that belongs to the kind.
 extern const ChangeKind point;
 extern const ChangeKind indexedPoint;
+extern const ChangeKind scale; ///< of a block
 extern const ChangeKind position;
 extern const ChangeKind firstPoint;
 extern const ChangeKind secondPoint;
@@ -84,7 +115,9 @@ extern const ChangeKind numberedVertex;
 extern const ChangeKind faceVertex; ///< there are four
 
 // Names of styles.
+extern const ChangeKind textStyleName;
+extern const ChangeKind styleName; ///< of another one
 extern const ChangeKind dimensionStyleName;
-extern const ChangeKind richLineStyleName;
+extern const ChangeKind richLineStyleName; ///< also of a layer and a group
 
 } // namespace kinds

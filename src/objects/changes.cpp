@@ -89,7 +89,7 @@ bool CFxConverterIWAPIObject::AddressChangedObject(const OdRxClass* cls, const O
     }
     if (cls == OdDbBlockTableRecord::desc() && hasRecord(list, "Objects")) {
         name = NameObject(handle, cls);
-        text += EmitDeclareBlockDefinition(writer, name);
+        text += EmitDeclareObject(writer, "BlockDefinition", name);
         return true;
     }
     // A sheet is found by its name in the records, it needs no variable.
@@ -149,10 +149,10 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         leaveGroup();
         CFxString holder = target;
         if (isCurvedText)
-            text += EmitGetCurvedTextSettings(writer, target, holder);
+            text += EmitGetOptions(writer, curvedTextSettings, target, holder);
         text += EmitSetColor(writer, holder, "Color", value.GetColor());
         if (isCurvedText)
-            text += EmitSetCurvedTextSettings(writer, target, holder);
+            text += EmitSetOptions(writer, curvedTextSettings, target, holder);
     }
     if (take(QStringLiteral("Layer")))
         text += EmitSetLayer(writer, target, "Layer", value.GetId());

@@ -46,16 +46,22 @@ bool IsOn(const CFxVariant& value)
     return ElementText(value) == ShownWord("On");
 }
 
+const QString& CFxConverterIWAPIObject::BlockAttributes()
+{
+    if (blockAttributes.isNull())
+        blockAttributes = translated("property_groups", "BlockAttributes");
+    return blockAttributes;
+}
+
 /// The catalogues are asked once for each tag of a conversion, not for each record.
 const CFxConverterIWAPIObject::TagWords& CFxConverterIWAPIObject::WordsOf(const CFxString& tag)
 {
     const auto known = tagWords.constFind(tag);
     if (known != tagWords.constEnd())
         return *known;
-    if (blockAttributes.isNull())
-        blockAttributes = translated("property_groups", "BlockAttributes");
+    const QString& attributes = BlockAttributes();
     const CFxString groupWord = translated("property_groups", tag);
-    const bool searchesGroup = groupWord.equalNoCase(blockAttributes) && groupWord.equalNoCase(tag);
+    const bool searchesGroup = groupWord.equalNoCase(attributes) && groupWord.equalNoCase(tag);
     return *tagWords.insert(tag, {translated("property_types", tag), searchesGroup});
 }
 

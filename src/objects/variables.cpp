@@ -60,3 +60,37 @@ QString CFxConverterIWAPIObject::AddedVariable(const OdDbObjectId& id) const
     const auto found = addedVariableById.find(id);
     return id.isNull() || found == addedVariableById.end() ? QString() : found->second;
 }
+
+QString CFxConverterIWAPIObject::KnownVariable(const OdDbHandle& handle) const
+{
+    const ActionEntry* const entry = driver.FindEntry(handle);
+    return entry ? ObjectVariableName(entry->cls, IdOf(handle), entry->ordinal).toQString() : QString();
+}
+
+const OdRxClass* CFxConverterIWAPIObject::KnownClass(const OdDbHandle& handle) const
+{
+    const ActionEntry* const entry = driver.FindEntry(handle);
+    return entry ? entry->cls : nullptr;
+}
+
+OdDbObjectId CFxConverterIWAPIObject::LeaderOfNote(const OdDbHandle& handle) const
+{
+    OdDbObjectId leader;
+    driver.GetNoteLeader(leader, handle);
+    return leader;
+}
+
+bool CFxConverterIWAPIObject::IsHatchInserted(const QString& variable) const
+{
+    return driver.insertedHatches.count(variable) != 0;
+}
+
+OdArray<OdDbObjectId> CFxConverterIWAPIObject::ObjectsOf(const CFxVariant& collection, HandlesIn place)
+{
+    OdArray<OdDbObjectId> ids;
+    for (const CFxVariantCollectionElement& element : collection.GetCollection().GetCollectionDataForRead()) {
+        const CFxVariant* const handle = place == HandlesIn::Tags ? element.GetTag() : element.GetValue();
+        ids.append(IdOf(OdDbHandle(handle->GetString().toQString().toULongLong(nullptr, 16))));
+    }
+    return ids;
+}

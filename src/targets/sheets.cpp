@@ -1,10 +1,27 @@
-// Sheets.
+// The model and the sheets.
 
 #include "targets/sheets.h"
 
 using namespace inkmacro;
 
-/// Works on the variables that the frame declares.
+// Activating a space works on the variables that the frame declares.
+
+static const Phrase activateModel{
+    "EmitActivateModel",
+    {
+        .cpp = "%1iwModel->Activate();%2%1iwModel->GetSketchManager( &iwSketchManager );%2",
+        .cppCom = "%1iwModel->Activate();%2%1iwSketchManager = iwModel->GetSketchManager();%2",
+        .csharp = "%1iwModel.Activate();%2%1iwSketchManager = iwModel.GetSketchManager();%2",
+        .javascript = "%1mModel.Activate();%2%1mSkMgr = mModel.GetSketchManager();%2",
+        .vbNet = "%1iwModel.Activate()%2%1iwSketchManager = iwModel.GetSketchManager()%2",
+        .vba = "%1iwModel.Activate%2%1Set iwSketchManager = iwModel.GetSketchManager()%2",
+    }};
+
+QString EmitActivateModel(Writer& writer)
+{
+    return writer.fill(activateModel);
+}
+
 static const Phrase activateSheet{
     "EmitActivateSheet",
     {
@@ -26,4 +43,97 @@ QString EmitActivateSheet(Writer& writer, const CFxString& sheetName, CFxString&
 {
     sheetVariable = writer.target == Target::JavaScript ? "mSheet" : "iwSheet";
     return writer.fill(activateSheet).text(sheetName);
+}
+
+static const Phrase createSheet{"EmitCreateSheet",
+                                {
+                                    .cpp = "%1iwSheet_ptr sheet%4;%2%1iwDoc->CreateSheet(L\"%3\", &sheet%4);%2",
+                                    .cppCom = "%1ISheetPtr sheet%4 = iwDoc->CreateSheet(L\"%3\");%2",
+                                    .csharp = "%1Sheet sheet%4 = iwDoc.CreateSheet(\"%3\");%2",
+                                    .javascript = "%1var sheet%4 = mDoc.CreateSheet(\"%3\");%2",
+                                    .vbNet = "%1Dim sheet%4 As Inkwright.Sheet = iwDoc.CreateSheet(\"%3\")%2",
+                                    .vba = "%1Dim sheet%4 As Inkwright.Sheet%2"
+                                           "%1Set sheet%4 = iwDoc.CreateSheet(\"%3\")%2",
+                                }};
+
+QString EmitCreateSheet(Writer& writer, const CFxString& name)
+{
+    return writer.fill(createSheet).text(name).number(++writer.UniqueCounter);
+}
+
+static const Phrase createSheetFromTemplate{
+    "EmitCreateSheetFromTemplate",
+    {
+        .cpp = "%1iwSheet_ptr template_sheet%6;%2"
+               "%1iwDoc->CreateSheetByTemplate( L\"%3\", L\"%4\", L\"%5\", &template_sheet%6 );%2",
+        .cppCom = "%1ISheetPtr template_sheet%6 = iwDoc->CreateSheetByTemplate( L\"%3\", L\"%4\", L\"%5\" );%2",
+        .csharp = "%1Sheet template_sheet%6 = iwDoc.CreateSheetByTemplate( \"%3\", \"%4\", \"%5\" );%2",
+        .javascript = "%1var template_sheet%6 = mDoc.CreateSheetByTemplate( \"%3\", \"%4\", \"%5\" );%2",
+        .vbNet = "%1Dim template_sheet%6 As Inkwright.Sheet = "
+                 "iwDoc.CreateSheetByTemplate( \"%3\", \"%4\", \"%5\" )%2",
+        .vba = "%1Dim template_sheet%6 As Inkwright.Sheet%2"
+               "%1Set template_sheet%6 = iwDoc.CreateSheetByTemplate( \"%3\", \"%4\", \"%5\" )%2",
+    }};
+
+QString EmitCreateSheetFromTemplate(Writer& writer, const CFxString& file, const CFxString& source,
+                                    const CFxString& name)
+{
+    return writer.fill(createSheetFromTemplate).text(file).text(source).text(name).number(++writer.UniqueCounter);
+}
+
+/// C++ COM alone asks the application. JavaScript and VBA have the prefix of C++ texts, and in VBA the line end has
+/// lost its marker: it comes between the first quotes, the source between the second, and the copy's name is lost. All
+/// of it has to stay so.
+static const Phrase copySheet{"EmitCopySheet",
+                              {
+                                  .cpp = "%1iwDoc->CopySheet(L\"%3\" , L\"%4\" );%2",
+                                  .cppCom = "%1ISheetPtr *sheets = NULL;%2"
+                                            "%1pConnection->m_IwApp->CopySheet(L\"%3\" , L\"%4\" ,&sheets );%2",
+                                  .csharp = "%1iwDoc.CopySheet(\"%3\" , \"%4\" );%2",
+                                  .javascript = "%1mDoc.CopySheet(L\"%3\" , L\"%4\" );%2",
+                                  .vbNet = "%1iwDoc.CopySheet(\"%3\" , \"%4\" )%2",
+                                  .vba = "%1iwDoc.CopySheet(L\"%3\" , L\"%4\" )2",
+                              }};
+
+QString EmitCopySheet(Writer& writer, const CFxString& source, const CFxString& copy)
+{
+    return writer.fill(copySheet).text(source).text(copy);
+}
+
+/// Pages name a variable that nothing declares. It has to stay so.
+static const Phrase renameSheet{
+    "EmitRenameSheet",
+    {
+        .cpp = "%1iwSheet_ptr PreSheet%4;%2%1iwDoc->GetSheet(L\"%3\", &PreSheet%4);%2%1if (NULL != PreSheet%4)%2"
+               "%1   PreSheet%4->put_Name( L\"%5\" );%2",
+        .cppCom = "%1ISheetPtr PreSheet%4 = iwDoc->GetSheet(L\"%3\");%2%1if (NULL != PreSheet%4)%2"
+                  "%1   PreSheet%4->put_Name( L\"%5\" );%2",
+        .csharp = "%1Sheet PreSheet%4 = iwDoc.GetSheet(\"%3\");%2%1if (null != PreSheet%4)%2"
+                  "%1   PreSheet%4.Name = \"%5\";%2",
+        .javascript = "%1var PreSheet%4 = mDoc.GetSheet(\"%3\");%2%1if (null != PreSheet%4)%2"
+                      "%1   iwSheet%4.put_Name(\"%5\");%2",
+        .vbNet = "%1Dim PreSheet%4 As Inkwright.Sheet = iwDoc.GetSheet(\"%3\")%2%1If PreSheet%4 IsNot Nothing Then%2"
+                 "%1   PreSheet%4.Name = \"%5\"%2%1End If%2",
+        .vba = "%1Dim PreSheet%4 As Inkwright.Sheet%2%1Set PreSheet%4 = iwDoc.GetSheet(\"%3\")%2"
+               "%1If Not PreSheet%4 Is Nothing Then%2%1   PreSheet%4.Name = \"%5\"%2%1End If%2",
+    }};
+
+QString EmitRenameSheet(Writer& writer, const CFxString& oldName, const CFxString& newName)
+{
+    return writer.fill(renameSheet).text(oldName).number(++writer.UniqueCounter).text(newName);
+}
+
+static const Phrase removeSheet{"EmitRemoveSheet",
+                                {
+                                    .cpp = "%1iwDoc->RemoveSheet( L\"%3\" );%2",
+                                    .cppCom = "%1iwDoc->RemoveSheet( L\"%3\" );%2",
+                                    .csharp = "%1iwDoc.RemoveSheet(\"%3\");%2",
+                                    .javascript = "%1var mV = mDoc.RemoveSheet(\"%3\");%2",
+                                    .vbNet = "%1iwDoc.RemoveSheet(\"%3\")%2",
+                                    .vba = "%1iwDoc.RemoveSheet(\"%3\")%2",
+                                }};
+
+QString EmitRemoveSheet(Writer& writer, const CFxString& name)
+{
+    return writer.fill(removeSheet).text(name);
 }

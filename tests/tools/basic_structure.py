@@ -10,7 +10,7 @@ _NAME = r"[A-Za-z_]\w*"
 _DECLARATION = re.compile(rf"({_NAME})(?: ?\([^()]*\))? As (?:New )?[\w.]+ ?(?:\(\))?(?P<value> = ?.+)?$", re.I)
 _NEXT_DECLARATION = re.compile(rf", (?={_NAME}(?: ?\([^()]*\))? As )", re.I)
 _LOOP = re.compile(rf"For (?:Each )?({_NAME}) As [\w.]+ (?:=|In) ", re.I)
-_CLASS = re.compile(rf"(?:Public |Private )?(?:Class|Module) (.*)$", re.I)
+_CLASS = re.compile(rf"\b(?:Public |Private )?(?:Class|Module) (.*)$", re.I)
 _PROCEDURE = re.compile(rf"(?:Public |Private |Shared )*(?:Sub|Function) {_NAME} ?\((?P<parameters>.*)\)$", re.I)
 _PARAMETER = re.compile(rf"(?:ByVal |ByRef )?({_NAME}) As [\w.]+$", re.I)
 

@@ -210,13 +210,16 @@ def _named(arguments):
 
 def _temporaries(calls, made):
     """The ways to what is inserted for one call alone. Curves of a dimension are erased right behind it. What a hatch
-    or a region within its boundary is made of stands right in front of it. `made` has the way to what each call
-    inserts, if any."""
+    or a region within its boundary is made of stands right in front of it, and so does what is drawn for a block or a
+    viewport. `made` has the way to what each call inserts, if any."""
     for number, (_, name, arguments) in enumerate(calls):
         if re.fullmatch("Insert.+Dimension.*", name):
             behind = itertools.takewhile(lambda call: call[1] == "put_Erased" and "@" + call[0] in arguments,
                                          calls[number + 1:])
             yield from (on for on, _, _ in behind)
+        if name in ("CreateBlockDefinition", "InsertViewportByEntity"):
+            handed = _named(arguments)
+            yield from itertools.takewhile(lambda way: way and "@" + way in handed, reversed(made[:number]))
         if name == "InsertHatchByEntities":
             boundary = _named(arguments)
             for (_, operation, handed), way in zip(reversed(calls[:number]), reversed(made[:number])):

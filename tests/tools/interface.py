@@ -3,7 +3,7 @@
 import dataclasses
 import re
 
-BASIC_TYPES = ("double", "int", "bool", "string", "object")
+BASIC_TYPES = ("double", "int", "long", "bool", "string", "object")
 
 
 @dataclasses.dataclass(frozen=True)

@@ -3,9 +3,9 @@ arguments."""
 
 import interface
 
-TYPES = {"double": "double", "int": "long", "bool": "bool", "string": "const iwString &",
+TYPES = {"double": "double", "int": "long", "long": "long", "bool": "bool", "string": "const iwString &",
          "object": "iwObject_c *"}
-OUT_TYPES = {"double": "double *", "int": "long *", "bool": "bool *", "string": "iwString *",
+OUT_TYPES = {"double": "double *", "int": "long *", "long": "long *", "bool": "bool *", "string": "iwString *",
              "object": "iwObjectOut"}
 ARRAYS = {"double": "iwDoubleArray", "int": "iwLongArray", "string": "iwStringArray"}
 

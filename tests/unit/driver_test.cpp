@@ -165,9 +165,9 @@ TEST_F(Driver, IndentsAllThatFollowsABackgroundWithoutATarget)
     EXPECT_EQ(conversion.body(),
               line1 + "                Line line2;\n                {\n" + lineStatement(2, 5) + "                }\n");
     // An object that a custom action finishes gives the background its target.
-    ASSERT_EQ(conversion.run({command({odrxNew<TestAdded>("AcDbPolyline", 1), addedLine(2), odrxNew<TestCustom>(41)})}),
+    ASSERT_EQ(conversion.run({command({odrxNew<TestAdded>("AcDbRegion", 1), addedLine(2), odrxNew<TestCustom>(41)})}),
               kFxSuccess);
-    EXPECT_EQ(conversion.body(), "            PolyLine polyline1;\n            Line line2;\n            {\n" +
+    EXPECT_EQ(conversion.body(), "            Region region1;\n            Line line2;\n            {\n" +
                                      lineStatement(2, 4) + "            }\n");
 }
 

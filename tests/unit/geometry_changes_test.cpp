@@ -1,10 +1,8 @@
 // Changes of curves and geometry: which statements a changed tag becomes, and what a target makes of them.
 
-#include "TestActions.h"
-#include "TestTarget.h"
+#include "TestChanges.h"
 
 #include "objects/ChangeRows.h"
-#include "objects/classTable.h"
 
 #include <gtest/gtest.h>
 
@@ -14,33 +12,9 @@ using inkmacro::Target;
 
 namespace {
 
-CFxPropertyChangedPtr record(const CFxString& tag, const CFxVariant& value, const CFxVariant& index = {})
-{
-    return odrxNew<TestProperty>(tag, value, CFxString(), index);
-}
-
-CFxVariantCollectionElement item(std::int32_t number, const char* text)
-{
-    return {number, CFxString(text)};
-}
-
 CFxVariant choice(std::int32_t chosen)
 {
     return CFxVariantCollection({item(0, "Yes"), item(1, "Quadratic")}, chosen);
-}
-
-/// What becomes of the records of the object "it1", all of which must be known to the class.
-std::string changed(const char* cls, PropertyList list, Target target = Target::CSharp)
-{
-    TestTarget made(target);
-    QString text;
-    const ClassChanges& changes = FindClass(QString(cls))->changes;
-    if (changes.groups)
-        made.objects.ConvertRows(*changes.groups, list, false, "it1", text);
-    else
-        (made.objects.*changes.handler)(list, false, "it1", text);
-    EXPECT_TRUE(list.empty());
-    return text.toStdString();
 }
 
 TEST(GeometryChanges, ReadChangeAndWriteAPoint)

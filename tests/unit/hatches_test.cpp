@@ -58,6 +58,7 @@ protected:
             made.driver.RegisterObject(OdDbHandle(static_cast<std::uint64_t>(handle)), oddbClassByName(cls));
             made.driver.ConvertAction(odrxNew<TestAdded>(cls, static_cast<std::uint64_t>(handle)), ignored);
         }
+        made.writer.UniqueCounter = 0;
         QString text = "h";
         EXPECT_EQ(made.driver.ConvertAction(odrxNew<TestCustom>(18, data), text), expectedStatus);
         return text.toStdString();

@@ -149,6 +149,11 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitObjectModifiedComment", {JavaScript}},
         // The point that a call gives needs no declaration either.
         {"EmitChangePosition", {JavaScript}},
+        // A page's points have members for scales; C++ sets little of a table style, and a page no text style.
+        {"EmitChangeScale", {Cpp, CSharp, VbNet, CppCom, Vba}},
+        {"call of a table style", {Cpp}},
+        {"EmitSetTableStyleAlignment", {Cpp}},
+        {"EmitSetTableStyleTextStyle", {Cpp, JavaScript}},
         // The array is declared together with its elements.
         {"EmitFileLocationArray", {CSharp, VbNet}},
         // COM puts an element into both lists at once.
@@ -187,6 +192,8 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         // C++ takes each color into a variable in front of the call, the others have them within it.
         {"EmitHatchGradient: indexed color", allButCpp, 2},
         {"EmitHatchGradient: true color", allButCpp, 2},
+        // C++ declares the corners of a zoom for all ranges.
+        {"EmitZoom: corners", allButCpp},
         // C++ sets the color where it is fetched.
         {"EmitHatchGradientData: assigned color", {Cpp}, 2},
         // The array's size stands in its declaration.
@@ -200,6 +207,16 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitTrimEntities: success", allButCpp},
         {"EmitTrimEntities: property into a local", {CSharp, JavaScript, VbNet, Vba}},
         {"EmitTrimEntities: property", {Cpp, CppCom}},
+        // A color has a variable of its own in C++.
+        {"color", {Cpp}, 2},
+        // C++ cannot change these of a style, nor a style's name.
+        {"EmitTableBordersColor", {Cpp}},
+        {"EmitReplaceRichLineElement", {Cpp}},
+        {"EmitRenameRichLineStyle", {Cpp}},
+        // Only in C++ does the activation of a layer or a style differ from that of anything else.
+        {"EmitActivateLayer", allButCpp},
+        // The others look the style up where they set it.
+        {"EmitSetTableStyle: style", {CSharp, JavaScript, VbNet, Vba}},
         // Declarations ahead of the tests in C++ and VBA, a call behind them in C++.
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom}},
         {"EmitGroupAddEntities", {CSharp, JavaScript, VbNet, CppCom, Vba}},

@@ -26,9 +26,18 @@ extern const ChangeGroups modifiedEmbeddedObject;
 extern const ChangeGroups modifiedViewport;
 extern const ChangeGroups modifiedLeader;
 extern const ChangeGroups modifiedTolerance;
+extern const ChangeGroups modifiedTextStyle;
+extern const ChangeGroups modifiedAttributeDefinition;
+extern const ChangeGroups modifiedSimpleNote;
+extern const ChangeGroups modifiedNote;
+extern const ChangeGroups modifiedCurvedText;
+extern const ChangeGroups modifiedPicture;
+extern const ChangeGroups modifiedTableStyle;
 /// Of all dimension classes but two, which have tags of their own behind them.
 extern const ChangeGroups modifiedDimension;
 extern const ChangeGroups modifiedArcLengthDimension;
 extern const ChangeGroups modifiedJoggedDimension;
 extern const ChangeGroups modifiedDimensionStyle;
 extern const ChangeGroups modifiedRichLineStyle;
+extern const ChangeGroups modifiedGroup;
+extern const ChangeGroups modifiedViewTile;

@@ -8,20 +8,14 @@
 
 namespace {
 
-/// A text, whether it is plain or an item of a choice.
-CFxString textOf(const CFxVariant& value)
-{
-    return ChosenText(value).value_or(value.GetString());
-}
-
 std::optional<double> realOf(const CFxVariant& value)
 {
     return value.IsNull() ? std::nullopt : std::optional(value.GetDouble());
 }
 
-std::optional<CFxString> wordOf(const CFxVariant& value)
+std::optional<CFxString> textOf(const CFxVariant& value)
 {
-    return value.IsNull() ? std::nullopt : std::optional(textOf(value));
+    return value.IsNull() ? std::nullopt : std::optional(wordOf(value));
 }
 
 std::optional<OdCmColor> colorOf(const CFxVariant& value)
@@ -31,7 +25,7 @@ std::optional<OdCmColor> colorOf(const CFxVariant& value)
 
 std::optional<bool> yesOf(const CFxVariant& value)
 {
-    return value.IsNull() ? std::nullopt : std::optional(textOf(value) == ShownWord("Yes"));
+    return value.IsNull() ? std::nullopt : std::optional(wordOf(value) == ShownWord("Yes"));
 }
 
 } // namespace
@@ -44,11 +38,11 @@ void CFxConverterIWAPIObject::ConvertModifiedHatch(PropertyList& list, bool take
         return;
     const TakeTag take = [&](const char* tag) { return FindProperty(tag, list, driver.GetContext()); };
     // The tags are read in this order.
-    const HatchPatternChange data{.name = wordOf(take("Pattern name")),
+    const HatchPatternChange data{.name = textOf(take("Pattern name")),
                                   .angle = realOf(take("Angle")),
                                   .scale = realOf(take("Scale")),
                                   .spacing = realOf(take("Spacing")),
-                                  .type = wordOf(take("Type"))};
+                                  .type = textOf(take("Type"))};
     const HatchGradientChange gradient{.first = colorOf(take("Color 1")),
                                        .second = colorOf(take("Color 2")),
                                        .centered = yesOf(take("Centered")),

@@ -3,6 +3,25 @@
 #include "host/db/OdGe.h"
 #include "targets/Writer.h"
 
+/// The name that stands for a block which has none of its own.
+inline constexpr QLatin1String anonymousBlockName("*U", 2);
+
+/// Where a block, a picture or a shape stands.
+struct Placement
+{
+    OdGePoint3d position;
+    OdGeScale3d scales;
+    double rotation = 0.0; ///< radians
+};
+
+/// An anonymous block is told by the text variable that the statements which define it have filled: see
+/// EmitCreateBlockDefinition.
+QString EmitInsertBlock(Writer& writer, const CFxString& block, const Placement& placement, const CFxString& name);
 /// The host's call takes the scales along X and Y alone.
 QString EmitInsertExternalReference(Writer& writer, const CFxString& path, const OdGePoint3d& position,
                                     const OdGeScale3d& scales, const CFxString& name);
+/// `rotation` is in radians, as the next one's is.
+QString EmitInsertPicture(Writer& writer, const CFxString& path, const OdGePoint3d& position, double scale,
+                          double rotation, const CFxString& name);
+QString EmitInsertShape(Writer& writer, const CFxString& shape, const OdGePoint3d& position, double size,
+                        double rotation, const CFxString& name);

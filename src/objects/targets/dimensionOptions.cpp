@@ -24,6 +24,21 @@ QString EmitGetOptions(Writer& writer, const OptionObject& object, const CFxStri
     return writer.fill(getOptions).text(options).text(owner).text(QLatin1String(object.hostWord)).text(library);
 }
 
+static const Phrase setOptions{"EmitSetOptions",
+                               {
+                                   .cpp = "%1%3->Set%5( %4 );%2",
+                                   .cppCom = "%1%3->Set%5( %4 );%2",
+                                   .csharp = "%1%3.Set%5( %4 );%2",
+                                   .javascript = "%1%3.Set%5( %4 );%2",
+                                   .vbNet = "%1%3.Set%5( %4 )%2",
+                                   .vba = "%1%3.Set%5 %4%2",
+                               }};
+
+QString EmitSetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, const CFxString& options)
+{
+    return writer.fill(setOptions).text(owner).text(options).text(QLatin1String(object.hostWord));
+}
+
 /// The name of a block stands behind the kind of arrow.
 static const Phrase setArrow{"EmitSetArrow",
                              {

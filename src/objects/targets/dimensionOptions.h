@@ -2,14 +2,15 @@
 
 #include "targets/Writer.h"
 
-/// An object that holds a part of what is set on a dimension, a leader or a dimension style. A statement fetches it
-/// from its owner into a variable of its own.
+/// An object that holds a part of what is set on a dimension, a leader, a dimension style or a curved text. A statement
+/// fetches it from its owner into a variable of its own.
 struct OptionObject
 {
     const OptionObject* owner; ///< null for one of the changed object itself
     const char* hostWord;      ///< its type; the host gets it by "Get" in front of that
     const char* stem;          ///< its variables' names without the number
     bool qualified = false;    ///< C# writes the type with its library in front
+    bool writtenBack = false;  ///< the host gives a copy, which counts when it is handed back
 };
 
 inline constexpr OptionObject generalDimension{nullptr, "GeneralDimension", "generalDimension"};
@@ -57,8 +58,12 @@ inline constexpr OptionObject text{&userData, "DimensionStyleTextOptions", "text
 
 } // namespace leaderOptions
 
+inline constexpr OptionObject curvedTextSettings{nullptr, "CurvedSettings", "curvedSettings", false, true};
+
 /// Fetches the object from the variable `owner` and gives its variable.
 QString EmitGetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, CFxString& options);
+/// Hands the object in the variable `options` back to its owner.
+QString EmitSetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, const CFxString& options);
 /// `arrow` is the drawing's number of a kind of arrow, `name` the block of one that is of one's own.
 QString EmitSetArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
                      const CFxString& name);

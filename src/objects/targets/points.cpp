@@ -129,6 +129,18 @@ QString EmitChangePoint(Writer& writer, const CFxString& target, const CFxString
     return changePoint(writer, index == -1 ? plain : indexed, target, getter, setter, index, axis, value);
 }
 
+static const Phrase changeScale{"EmitChangeScale",
+                                {
+                                    .javascript = "%1var points;%2%1points = %3.%4();%2%1points.Scale%6 = %7;%2"
+                                                  "%1%3.%5(points.ScaleX, points.ScaleY, points.ScaleZ);%2",
+                                }};
+
+QString EmitChangeScale(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
+                        const CFxString& setter, double value)
+{
+    return writer.fill(changeScale).text(target).text(getter).text(setter).text(axis).real(value);
+}
+
 /// JavaScript gets its local from the call.
 static const Phrase declarePair{"EmitChangePosition",
                                 {

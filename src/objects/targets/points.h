@@ -8,6 +8,10 @@ QString EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxStri
 /// is not repeated.
 QString EmitChangePoint(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
                         const CFxString& setter, double value, std::int32_t index);
+/// A scale factor of the axis. A page's points have members of their own for these; the other targets lack the
+/// statement.
+QString EmitChangeScale(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
+                        const CFxString& setter, double value);
 /// `local` is "getX", "getY" or "getZ".
 QString EmitChangePosition(Writer& writer, const CFxString& target, const CFxString& local, double value);
 QString EmitChangeFirstPoint(Writer& writer, const CFxString& target, const CFxString& local, double value);

@@ -43,51 +43,23 @@ QString EmitGetNoteAnnotation(Writer& writer, const CFxString& note, const CFxSt
     return writer.fill(getNoteAnnotation).text(leader).text(note);
 }
 
-static const Phrase declareBlockDefinition{"EmitDeclareBlockDefinition",
-                                           {
-                                               .cpp = "%1iwBlockDefinition_ptr %3;%2",
-                                               .cppCom = "%1IBlockDefinitionPtr %3;%2",
-                                               .csharp = "%1BlockDefinition %3;%2",
-                                               .javascript = "%1var %3;%2",
-                                               .vbNet = "%1Dim %3 As Inkwright.BlockDefinition%2",
-                                               .vba = "%1Dim %3 As Inkwright.BlockDefinition%2",
-                                           }};
+static const Phrase declareObject{"EmitDeclareObject",
+                                  {
+                                      .cpp = "%1iw%3_ptr %4;%2",
+                                      .cppCom = "%1I%3Ptr %4;%2",
+                                      .csharp = "%1%3 %4;%2",
+                                      .javascript = "%1var %3;%2",
+                                      .vbNet = "%1Dim %4 As Inkwright.%3%2",
+                                      .vba = "%1Dim %4 As Inkwright.%3%2",
+                                  }};
 
-QString EmitDeclareBlockDefinition(Writer& writer, const CFxString& name)
+QString EmitDeclareObject(Writer& writer, const char* interfaceName, const CFxString& name)
 {
-    return writer.fill(declareBlockDefinition).text(name);
-}
-
-static const Phrase getCurvedTextSettings{
-    "EmitGetCurvedTextSettings",
-    {
-        .cpp = "%1iwCurvedSettings_ptr %3;%2%1%4->GetCurvedSettings( &%3 );%2",
-        .cppCom = "%1ICurvedSettingsPtr %3 = %4->GetCurvedSettings();%2",
-        .csharp = "%1CurvedSettings %3 = %4.GetCurvedSettings();%2",
-        .javascript = "%1var %3 = %4.GetCurvedSettings();%2",
-        .vbNet = "%1Dim %3 As Inkwright.CurvedSettings = %4.GetCurvedSettings()%2",
-        .vba = "%1Dim %3 As Inkwright.CurvedSettings%2%1Set %3 = %4.GetCurvedSettings()%2",
-    }};
-
-QString EmitGetCurvedTextSettings(Writer& writer, const CFxString& name, CFxString& settings)
-{
-    settings = QStringLiteral("curvedSettings%1").arg(++writer.UniqueCounter);
-    return writer.fill(getCurvedTextSettings).text(settings).text(name);
-}
-
-static const Phrase setCurvedTextSettings{"EmitSetCurvedTextSettings",
-                                          {
-                                              .cpp = "%1%3->SetCurvedSettings( %4 );%2",
-                                              .cppCom = "%1%3->SetCurvedSettings( %4 );%2",
-                                              .csharp = "%1%3.SetCurvedSettings( %4 );%2",
-                                              .javascript = "%1%3.SetCurvedSettings( %4 );%2",
-                                              .vbNet = "%1%3.SetCurvedSettings( %4 )%2",
-                                              .vba = "%1%3.SetCurvedSettings %4%2",
-                                          }};
-
-QString EmitSetCurvedTextSettings(Writer& writer, const CFxString& name, const CFxString& settings)
-{
-    return writer.fill(setCurvedTextSettings).text(name).text(settings);
+    Fill declaration = writer.fill(declareObject);
+    // A page's variables have no types.
+    if (writer.target != Target::JavaScript)
+        declaration.text(QLatin1String(interfaceName));
+    return declaration.text(name);
 }
 
 static const Phrase removeModelView{"EmitRemoveNamedView",

@@ -6,8 +6,7 @@
 /// Fetches an object that the recording did not make. `type` is its interface.
 QString EmitGetObjectByHandle(Writer& writer, const CFxString& type, const CFxString& name, const OdDbHandle& handle);
 QString EmitGetNoteAnnotation(Writer& writer, const CFxString& note, const CFxString& leader);
-QString EmitDeclareBlockDefinition(Writer& writer, const CFxString& name);
-QString EmitGetCurvedTextSettings(Writer& writer, const CFxString& name, CFxString& settings);
-QString EmitSetCurvedTextSettings(Writer& writer, const CFxString& name, const CFxString& settings);
+/// Declares a variable that the recording itself has not.
+QString EmitDeclareObject(Writer& writer, const char* interfaceName, const CFxString& name);
 QString EmitRemoveNamedView(Writer& writer, const CFxString& name, const CFxString& viewName, bool paperspace);
 QString EmitRemoveLayer(Writer& writer, const CFxString& name);

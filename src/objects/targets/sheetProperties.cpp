@@ -19,7 +19,7 @@ static const Phrase setModelProperty{"EmitSetModelProperty",
 static const Phrase setSheetProperty{"EmitSetModelProperty",
                                      {
                                          .cpp = "%3%1%4->put_%5( \"%6\" );%2",
-                                         .cppCom = "%3%1%4->put_%5( L\"%6\" );%2",
+                                         .cppCom = "%3%1%4->put_%5( \"%6\" );%2",
                                          .csharp = "%3%1%4.%5 = \"%6\";%2",
                                          .javascript = "%3%1%4.put_%5( \"%6\" );%2",
                                          .vbNet = "%3%1%4.%5 = \"%6\"%2",

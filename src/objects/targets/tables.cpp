@@ -122,7 +122,7 @@ static const Phrase scaledSize{"EmitScaleTableRows: size",
                                    .csharp = "%1double %7 = %2.Get%5%6(i)*coef%4;%3",
                                    .javascript = "%1var %7 = %2.Get%5%6(i)*coef%4;%3",
                                    .vbNet = "%1Dim %7 As Double = %2.Get%5%6(i)*coef%4%3",
-                                   .vba = "%1Dim %7%4 As Double%3%1%7%4 = %2.Get%5%6(i%4)*coef%4%3",
+                                   .vba = "%1Dim %7 As Double%3%1%7 = %2.Get%5%6(i%4)*coef%4%3",
                                }};
 
 /// Ends the loop too: its indentation is a value.
@@ -133,7 +133,7 @@ static const Phrase setScaledSize{"EmitScaleTableRows: set",
                                       .csharp = "%1%2.Set%6%7At(i, %8);%3%4}%3",
                                       .javascript = "%1%2.Set%6%7At(i, %8);%3%4}%3",
                                       .vbNet = "%1%2.Set%6%7At(i, %8)%3%4Next%3",
-                                      .vba = "%1%2.Set%6%7At i%5, %8%5%3%4Next%3",
+                                      .vba = "%1%2.Set%6%7At i%5, %8%3%4Next%3",
                                   }};
 
 QString EmitScaleTableRows(Writer& writer, const CFxString& table, const CFxString& operation, double coefficient)
@@ -141,8 +141,10 @@ QString EmitScaleTableRows(Writer& writer, const CFxString& table, const CFxStri
     const bool rows = operation == CFxString("SetRowHeight");
     const QLatin1String line(rows ? "Row" : "Column");
     const QLatin1String measure(rows ? "Height" : "Width");
-    const QLatin1String local(rows ? "height" : "width");
     const std::uint32_t number = ++writer.UniqueCounter;
+    QString local(rows ? "height" : "width");
+    if (writer.target == Target::Vba)
+        local += QString::number(number);
     const QString loopIndentation = writer.indentation();
 
     QString text = writer.fillIndented(scaleCoefficient).real(coefficient).text(LineEnd).number(number);

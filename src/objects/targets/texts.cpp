@@ -2,6 +2,7 @@
 
 #include "objects/targets/texts.h"
 
+#include "frame/RecordingState.h"
 #include "objects/targets/setters.h"
 #include "targets/enumerations.h"
 #include "targets/wording.h"
@@ -173,6 +174,54 @@ QString EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxStr
 QString EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction)
 {
     return EmitSetEnumValue(writer, target, enums::noteDirection, property, direction);
+}
+
+/// The enumerator's form follows the language that the host records in, not the target; a page gets a typed name.
+QString EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const CFxString& property, std::int32_t style)
+{
+    const Target form = RecordsIn(Target::Cpp) || RecordsIn(Target::CppCom)  ? Target::Cpp
+                        : RecordsIn(Target::VbNet) || RecordsIn(Target::Vba) ? Target::VbNet
+                                                                             : Target::CSharp;
+    const QString enumerator =
+        enumeratorText(form, QStringLiteral("iwNoteLineSpacingStyle_e"),
+                       QLatin1String("iwNoteLineSpacingStyle_") + QLatin1String(style == 0 ? "AtLeast" : "Exactly"));
+    return EmitSetProperty(writer, target, property, enumerator, false);
+}
+
+/// The locals have no number, so that a second change in one scope declares them again. It has to stay so.
+static const Phrase setFontParameter{
+    "EmitSetFontParameter",
+    {
+        .cpp = "%1iwString Typeface;%2%1bool Bold = false;%2%1bool Italic = false;%2%1long Charset = 0;%2"
+               "%1long PitchAndFamily = 0;%2"
+               "%1%3->GetFontParameters( &Typeface, &Bold, &Italic, &Charset, &PitchAndFamily);%2%1%4 = %5;%2"
+               "%1%3->SetFontParameters( Typeface, Bold, Italic, Charset, PitchAndFamily);%2",
+        .cppCom = "%1BSTR Typeface;%2%1VARIANT_BOOL Bold = false;%2%1VARIANT_BOOL Italic = false;%2"
+                  "%1long Charset = 0;%2%1long PitchAndFamily = 0;%2"
+                  "%1%3->GetFontParameters( &Typeface, &Bold, &Italic, &Charset, &PitchAndFamily);%2%1%4 = %5;%2"
+                  "%1%3->SetFontParameters( Typeface, Bold, Italic, Charset, PitchAndFamily);%2",
+        .csharp = "%1string Typeface;%2%1bool Bold = false;%2%1bool Italic = false;%2%1long Charset = 0;%2"
+                  "%1long PitchAndFamily = 0;%2"
+                  "%1%3.GetFontParameters( out Typeface, out Bold, out Italic, out Charset, out PitchAndFamily);%2"
+                  "%1%4 = %5;%2%1%3.SetFontParameters( Typeface, Bold, Italic, Charset, PitchAndFamily);%2",
+        .javascript = "%1var results = %3.GetFontParameters( );%2%1%4 = %5;%2"
+                      "%1%3.SetFontParameters( results[0], results[1], results[2], results[3], results[4]);%2",
+        .vbNet = "%1Dim Typeface As String%2%1Dim Bold As Boolean = False%2%1Dim Italic As Boolean = False%2"
+                 "%1Dim Charset As Integer = 0%2%1Dim PitchAndFamily As Integer = 0%2"
+                 "%1%3.GetFontParameters( Typeface, Bold, Italic, Charset, PitchAndFamily)%2%1%4 = %5%2"
+                 "%1%3.SetFontParameters( Typeface, Bold, Italic, Charset, PitchAndFamily)%2",
+        .vba = "%1Dim Typeface As String%2%1Dim Bold As Boolean%2%1Bold = False%2%1Dim Italic As Boolean%2"
+               "%1Italic = False%2%1Dim Charset As Integer%2%1Charset = 0%2%1Dim PitchAndFamily As Integer%2"
+               "%1PitchAndFamily = 0%2%1%3.GetFontParameters Typeface, Bold, Italic, Charset, PitchAndFamily%2"
+               "%1%4 = %5%2%1%3.SetFontParameters Typeface, Bold, Italic, Charset, PitchAndFamily%2",
+    }};
+
+QString EmitSetFontParameter(Writer& writer, const CFxString& settings, const CFxString& parameter, bool value)
+{
+    CFxString local = parameter;
+    if (writer.target == Target::JavaScript)
+        local = parameter == CFxString("Bold") ? "results[1]" : "results[2]";
+    return writer.fill(setFontParameter).text(settings).text(local).text(truthWord(writer.target, value));
 }
 
 static const Phrase insertCurvedText{"EmitInsertCurvedText",

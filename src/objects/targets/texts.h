@@ -32,4 +32,8 @@ QString EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const OdG
 QString EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxString& property,
                            const CFxString& shownText);
 QString EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction);
+/// `style` is the number of the chosen item: 0 is at least the distance, others are exactly it.
+QString EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const CFxString& property, std::int32_t style);
+/// `parameter` is "Bold" or "Italic". The host reads and writes all parameters of a font at once.
+QString EmitSetFontParameter(Writer& writer, const CFxString& settings, const CFxString& parameter, bool value);
 QString EmitInsertCurvedText(Writer& writer, const CFxString& text, const CFxString& arc, const CFxString& name);

@@ -28,13 +28,15 @@ function Noting(way) {
 function isOf(type, value) {
     switch (type) {
     case 'double': return typeof value === 'number' && isFinite(value);
-    case 'int': return Number.isInteger(value);
+    case 'int':
+    case 'long': return Number.isInteger(value);
     case 'bool': return typeof value === 'boolean';
     case 'string': return typeof value === 'string';
     case 'object': return true;
     }
     if (type.endsWith('[]')) {
-        return Array.isArray(value) && value.every(element => isOf(type.slice(0, -2), element));
+        // A call that can do without an array is given none.
+        return value === null || Array.isArray(value) && value.every(element => isOf(type.slice(0, -2), element));
     }
     if (type in INTERFACE.enumerations) {
         return INTERFACE.enumerations[type].includes(value);
@@ -55,7 +57,7 @@ function answer(type, way) {
     if (type in INTERFACE.enumerations) {
         return INTERFACE.enumerations[type][0];
     }
-    return {double: 0, int: 0, bool: false, string: ''}[type];
+    return {double: 0, int: 0, long: 0, bool: false, string: ''}[type];
 }
 
 // Several results come as an array, which has them by their names too.

@@ -306,21 +306,23 @@ bool CMacroCommand::ExecuteNotify(void)
     }
     iwGroup_ptr iwgroup11;
     {
-
         iwObjectPtrArray entities1;
-        bool hasEntity1 = false;
-        iwgroup11->HasEntity(iwline1, &hasEntity1);
-        if ( !hasEntity1 )
+        iwDoc->CreateGroup( L"", false, L"", entities1, &iwgroup11 );
+
+        iwObjectPtrArray entities2;
+        bool hasEntity2 = false;
+        iwgroup11->HasEntity(iwline1, &hasEntity2);
+        if ( !hasEntity2 )
         {
-            entities1.add(iwline1);
+            entities2.add(iwline1);
         }
-        iwgroup11->HasEntity(iwline2, &hasEntity1);
-        if ( !hasEntity1 )
+        iwgroup11->HasEntity(iwline2, &hasEntity2);
+        if ( !hasEntity2 )
         {
-            entities1.add(iwline2);
+            entities2.add(iwline2);
         }
 
-        iwgroup11->AddEntities(entities1);
+        iwgroup11->AddEntities(entities2);
     }
     {
 
@@ -358,6 +360,7 @@ bool CMacroCommand::ExecuteNotify(void)
     }
     iwBlockInstance_ptr iwblockinstance15;
     {
+         iwSketchManager->InsertBlock2(L"", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000, &iwblockinstance15 );
         iwObjectPtrArray iwAttributes1;
         iwblockinstance15->GetAttributeInstances( &iwAttributes1 );
         for (int i = 0; i < (int)iwAttributes1.length(); ++i)

@@ -362,30 +362,38 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     }
     IGroupPtr group11;
     {
+        VARIANT EntityArray1;
+        EntityArray1.vt = ( VT_ARRAY | VT_DISPATCH );
+        EntityArray1.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 0);
+                long rgIndices1;
+        rgIndices1 = 0;
+        IDispatch* val1;
+
+        iwDoc->CreateGroup("", false, L"", EntityArray1 );
 
         if ( !group11->HasEntity(line1) )
         {
-            VARIANT entities1;
-            entities1.vt = ( VT_ARRAY | VT_DISPATCH );
-            entities1.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 1 );
-            long rgIndices1;
-            rgIndices1 = 0;
-            IDispatch* val1;
-            val1 = line1;
-            SafeArrayPutElement( entities1.parray, &rgIndices1, (IDispatch*)(val1) );
-            group11->AddEntities(entities1);
+            VARIANT entities2;
+            entities2.vt = ( VT_ARRAY | VT_DISPATCH );
+            entities2.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 1 );
+            long rgIndices2;
+            rgIndices2 = 0;
+            IDispatch* val2;
+            val2 = line1;
+            SafeArrayPutElement( entities2.parray, &rgIndices2, (IDispatch*)(val2) );
+            group11->AddEntities(entities2);
         }
         if ( !group11->HasEntity(line2) )
         {
-            VARIANT entities1;
-            entities1.vt = ( VT_ARRAY | VT_DISPATCH );
-            entities1.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 1 );
-            long rgIndices1;
-            rgIndices1 = 0;
-            IDispatch* val1;
-            val1 = line2;
-            SafeArrayPutElement( entities1.parray, &rgIndices1, (IDispatch*)(val1) );
-            group11->AddEntities(entities1);
+            VARIANT entities2;
+            entities2.vt = ( VT_ARRAY | VT_DISPATCH );
+            entities2.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 1 );
+            long rgIndices2;
+            rgIndices2 = 0;
+            IDispatch* val2;
+            val2 = line2;
+            SafeArrayPutElement( entities2.parray, &rgIndices2, (IDispatch*)(val2) );
+            group11->AddEntities(entities2);
         }
 
     }
@@ -444,6 +452,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     }
     IBlockInstancePtr blockinstance15;
     {
+         blockinstance15 = iwSketchManager->InsertBlock2(L"", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 );
         IAttributeInstancePtr *iwAttributes1 = NULL;
         int count1 = 0;
         TypeConverter::convertVariantArrayToPtrArray<IAttributeInstancePtr, IAttributeInstance>( blockinstance15->GetAttributeInstances(), iwAttributes1, count1 );
@@ -535,7 +544,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
              iwSheet->Activate();
              iwSketchManager = iwSheet->GetSketchManager();
         }
-        iwSheet->put_PrintStyle( L"monochrome.ctb" );
+        iwSheet->put_PrintStyle( "monochrome.ctb" );
     }
 }
 

@@ -254,18 +254,20 @@ namespace IWAPIMacros
             }
             Group group11;
             {
+                DispatchWrapper[] entities1 = new DispatchWrapper[0];
+                group11 = iwDoc.CreateGroup( "", false, "", entities1 );
 
                 if ( !group11.HasEntity(line1) )
                 {
-                    DispatchWrapper[] entities1 = new DispatchWrapper[1];
-                    entities1[0] = new DispatchWrapper(line1);
-                    group11.AddEntities(entities1);
+                    DispatchWrapper[] entities2 = new DispatchWrapper[1];
+                    entities2[0] = new DispatchWrapper(line1);
+                    group11.AddEntities(entities2);
                 }
                 if ( !group11.HasEntity(line2) )
                 {
-                    DispatchWrapper[] entities1 = new DispatchWrapper[1];
-                    entities1[0] = new DispatchWrapper(line2);
-                    group11.AddEntities(entities1);
+                    DispatchWrapper[] entities2 = new DispatchWrapper[1];
+                    entities2[0] = new DispatchWrapper(line2);
+                    group11.AddEntities(entities2);
                 }
 
             }
@@ -301,6 +303,7 @@ namespace IWAPIMacros
             }
             BlockInstance blockinstance15;
             {
+                blockinstance15 = iwApp.GetActiveDocument().GetModel().GetSketchManager().InsertBlock2( "", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 );
                 object[] iwAttributes1 = (object[])blockinstance15.GetAttributeInstances();
                 foreach (object attribute1 in iwAttributes1)
                 {

@@ -292,6 +292,8 @@ Sub main()
 
         Dim group11 As Inkwright.Group
         If 1 Then
+            Dim entities(-1) As Object
+            Set group11 = iwDoc.CreateGroup( "", False, "", entities )
 
             Dim entities1( 0 ) As Object
             If Not group11.HasEntity(line1) Then
@@ -341,6 +343,7 @@ Sub main()
 
         Dim blockinstance15 As Inkwright.BlockInstance
         If 1 Then
+            Set blockinstance15 = iwSketchManager.InsertBlock2( "", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 )
             Dim iwAttributes1 As Variant
             iwAttributes1 = blockinstance15.GetAttributeInstances()
             Dim iwAttribute1 As Variant

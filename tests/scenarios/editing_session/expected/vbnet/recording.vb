@@ -189,18 +189,20 @@ Public Class recording
 
         Dim group11 As Inkwright.Group
         If 1 Then
+            Dim entities1 As DispatchWrapper() = New DispatchWrapper(-1) {}
+            group11 = iwDoc.CreateGroup( "", False, "", entities1 )
 
             If Not group11.HasEntity(line1) Then
-                Dim entities1 As DispatchWrapper()
-                entities1 = New DispatchWrapper( 0 ) {}
-                entities1( 0 ) = New DispatchWrapper( line1 )
-                group11.AddEntities(entities1)
+                Dim entities2 As DispatchWrapper()
+                entities2 = New DispatchWrapper( 0 ) {}
+                entities2( 0 ) = New DispatchWrapper( line1 )
+                group11.AddEntities(entities2)
             End If
             If Not group11.HasEntity(line2) Then
-                Dim entities1 As DispatchWrapper()
-                entities1 = New DispatchWrapper( 0 ) {}
-                entities1( 0 ) = New DispatchWrapper( line2 )
-                group11.AddEntities(entities1)
+                Dim entities2 As DispatchWrapper()
+                entities2 = New DispatchWrapper( 0 ) {}
+                entities2( 0 ) = New DispatchWrapper( line2 )
+                group11.AddEntities(entities2)
             End If
 
         End If
@@ -242,6 +244,7 @@ Public Class recording
 
         Dim blockinstance15 As Inkwright.BlockInstance
         If 1 Then
+            blockinstance15 = iwSketchManager.InsertBlock2( "", 0.00000000000000, 0.00000000000000, 0.00000000000000, 1.00000000000000, 1.00000000000000, 1.00000000000000, 0.00000000000000 )
             Dim iwAttributes1 As Object() = blockinstance15.GetAttributeInstances()
             For Each iwAttribute1 As Inkwright.AttributeInstance In iwAttributes1
                 If iwAttribute1.Name = "SIZE" Then

@@ -206,6 +206,15 @@ bool CMacroCommand::ExecuteNotify(void)
     iwrichline9->put_LineWeight( iwLnWt_ByLayer );
     iwrichline9->put_Thickness( 0.00000000000000 );
     iwShape_ptr iwshape10;
+    iwSketchManager->InsertShape( L"", 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, &iwshape10 );
+    iwColor_ptr iwColor19;
+    m_pIwApp->GetColorByIndex( 256, &iwColor19 );
+    iwshape10->put_Color( iwColor19 );
+    iwshape10->put_Layer( L"Walls" );
+    iwshape10->put_LineStyle( L"Continuous" );
+    iwshape10->put_LineScale( 1.00000000000000 );
+    iwshape10->put_LineWeight( iwLnWt_ByLayer );
+    iwshape10->put_Thickness( 0.00000000000000 );
     iwEmbeddedObject_ptr iwembeddedobject11;
     iwViewport_ptr iwviewport12;
     iwRotatedDimension_ptr iwrotateddimension13;
@@ -237,12 +246,12 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolyline1->SetVertexCoordinate( 2, X, Y, &retVal );
     }
     {
-        bool bRetVal19 = false;
-        iwpolyline1->SetSegmentStartWidth( 0, 0.25000000000000, &bRetVal19 );
+        bool bRetVal20 = false;
+        iwpolyline1->SetSegmentStartWidth( 0, 0.25000000000000, &bRetVal20 );
     }
     {
-        bool bRetVal20 = false;
-        iwpolyline1->SetSegmentEndWidth( 0, 0.50000000000000, &bRetVal20 );
+        bool bRetVal21 = false;
+        iwpolyline1->SetSegmentEndWidth( 0, 0.50000000000000, &bRetVal21 );
     }
     // AcDbPolyline object modified
     {
@@ -257,13 +266,13 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolyline1->put_LineStyleGeneration( false );
     }
     {
-        double X21;
-        double Y21;
-        double Z21;
-        bool bRetVal21 = false;
-        iwpolyline3d2->GetVertexCoordinate( 1, &X21, &Y21, &Z21, &bRetVal21 );
-        Z21 = 7.00000000000000;
-        iwpolyline3d2->SetVertexCoordinate( 1, X21, Y21, Z21, &bRetVal21 );
+        double X22;
+        double Y22;
+        double Z22;
+        bool bRetVal22 = false;
+        iwpolyline3d2->GetVertexCoordinate( 1, &X22, &Y22, &Z22, &bRetVal22 );
+        Z22 = 7.00000000000000;
+        iwpolyline3d2->SetVertexCoordinate( 1, X22, Y22, Z22, &bRetVal22 );
     }
     // AcDb3dPolyline object modified
     {
@@ -271,35 +280,35 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolyline3d2->put_Closed( true );
     }
     {
-        double X22;
-        double Y22;
-        double Z22;
-        bool bRetVal22 = false;
-        iwspline3->GetControlPointCoordinate( 0, &X22, &Y22, &Z22, &bRetVal22 );
-        X22 = 3.00000000000000;
-        iwspline3->SetControlPointCoordinate( 0, X22, Y22, Z22, &bRetVal22 );
-    }
-    {
         double X23;
         double Y23;
         double Z23;
         bool bRetVal23 = false;
-        iwspline3->GetFitPointCoordinate( 3, &X23, &Y23, &Z23, &bRetVal23 );
-        Y23 = 4.00000000000000;
-        iwspline3->SetFitPointCoordinate( 3, X23, Y23, Z23, &bRetVal23 );
-    }
-    // AcDbSpline object modified
-    {
-        iwspline3->put_FitTolerance( 0.00100000000000 );
+        iwspline3->GetControlPointCoordinate( 0, &X23, &Y23, &Z23, &bRetVal23 );
+        X23 = 3.00000000000000;
+        iwspline3->SetControlPointCoordinate( 0, X23, Y23, Z23, &bRetVal23 );
     }
     {
         double X24;
         double Y24;
         double Z24;
         bool bRetVal24 = false;
-        iwpolygonmesh4->GetVertexCoordinate( 0, &X24, &Y24, &Z24, &bRetVal24 );
-        X24 = 5.00000000000000;
-        iwpolygonmesh4->SetVertexCoordinate( 0, X24, Y24, Z24, &bRetVal24 );
+        iwspline3->GetFitPointCoordinate( 3, &X24, &Y24, &Z24, &bRetVal24 );
+        Y24 = 4.00000000000000;
+        iwspline3->SetFitPointCoordinate( 3, X24, Y24, Z24, &bRetVal24 );
+    }
+    // AcDbSpline object modified
+    {
+        iwspline3->put_FitTolerance( 0.00100000000000 );
+    }
+    {
+        double X25;
+        double Y25;
+        double Z25;
+        bool bRetVal25 = false;
+        iwpolygonmesh4->GetVertexCoordinate( 0, &X25, &Y25, &Z25, &bRetVal25 );
+        X25 = 5.00000000000000;
+        iwpolygonmesh4->SetVertexCoordinate( 0, X25, Y25, Z25, &bRetVal25 );
     }
     // AcDbPolygonMesh object modified
     {
@@ -310,29 +319,29 @@ bool CMacroCommand::ExecuteNotify(void)
         iwpolygonmesh4->put_FitSmooth( iwPolygonMeshFitSmooth_Bezier );
     }
     {
-        double X25;
-        double Y25;
-        double Z25;
-        bool bRetVal25 = false;
-        iwpolyfacemesh5->GetVertexCoordinate( 5, &X25, &Y25, &Z25, &bRetVal25 );
-        Y25 = 6.00000000000000;
-        iwpolyfacemesh5->SetVertexCoordinate( 5, X25, Y25, Z25, &bRetVal25 );
-    }
-    {
         double X26;
         double Y26;
         double Z26;
-        iwsolid6->GetVertex1Coordinate( &X26, &Y26, &Z26 );
-        X26 = 1.00000000000000;
-        iwsolid6->SetVertex1Coordinate( X26, Y26, Z26 );
+        bool bRetVal26 = false;
+        iwpolyfacemesh5->GetVertexCoordinate( 5, &X26, &Y26, &Z26, &bRetVal26 );
+        Y26 = 6.00000000000000;
+        iwpolyfacemesh5->SetVertexCoordinate( 5, X26, Y26, Z26, &bRetVal26 );
     }
     {
         double X27;
         double Y27;
         double Z27;
-        iwtrace7->GetVertex4Coordinate( &X27, &Y27, &Z27 );
-        Z27 = 2.00000000000000;
-        iwtrace7->SetVertex4Coordinate( X27, Y27, Z27 );
+        iwsolid6->GetVertex1Coordinate( &X27, &Y27, &Z27 );
+        X27 = 1.00000000000000;
+        iwsolid6->SetVertex1Coordinate( X27, Y27, Z27 );
+    }
+    {
+        double X28;
+        double Y28;
+        double Z28;
+        iwtrace7->GetVertex4Coordinate( &X28, &Y28, &Z28 );
+        Z28 = 2.00000000000000;
+        iwtrace7->SetVertex4Coordinate( X28, Y28, Z28 );
     }
     // AcDbFace object modified
     {
@@ -340,12 +349,12 @@ bool CMacroCommand::ExecuteNotify(void)
         iwface8->put_Edge4Visible( false );
     }
     {
-        double X28;
-        double Y28;
-        double Z28;
-        iwface8->GetVertex4Coordinate( &X28, &Y28, &Z28 );
-        X28 = 1.00000000000000;
-        iwface8->SetVertex4Coordinate( X28, Y28, Z28 );
+        double X29;
+        double Y29;
+        double Z29;
+        iwface8->GetVertex4Coordinate( &X29, &Y29, &Z29 );
+        X29 = 1.00000000000000;
+        iwface8->SetVertex4Coordinate( X29, Y29, Z29 );
     }
     // AcDbMline object modified
     {
@@ -354,12 +363,12 @@ bool CMacroCommand::ExecuteNotify(void)
     }
     // AcDbShape object modified
     {
-        double X29;
-        double Y29;
-        double Z29;
-        iwshape10->GetPosition( &X29, &Y29, &Z29 );
-        X29 = 1.00000000000000;
-        iwshape10->SetPosition( X29, Y29, Z29 );
+        double X30;
+        double Y30;
+        double Z30;
+        iwshape10->GetPosition( &X30, &Y30, &Z30 );
+        X30 = 1.00000000000000;
+        iwshape10->SetPosition( X30, Y30, Z30 );
         iwshape10->put_Obliquing( 0.10000000000000 );
         iwshape10->put_Rotation( 0.20000000000000 );
         iwshape10->put_Size( 3.00000000000000 );
@@ -368,23 +377,23 @@ bool CMacroCommand::ExecuteNotify(void)
     // AcDbOle2Frame object modified
     {
         iwembeddedobject11->put_Height( 2.00000000000000 );
-        double X30;
-        double Y30;
-        double Z30;
-        iwembeddedobject11->GetPosition( &X30, &Y30, &Z30 );
-        Y30 = 1.00000000000000;
-        iwembeddedobject11->SetPosition( X30, Y30, Z30 );
+        double X31;
+        double Y31;
+        double Z31;
+        iwembeddedobject11->GetPosition( &X31, &Y31, &Z31 );
+        Y31 = 1.00000000000000;
+        iwembeddedobject11->SetPosition( X31, Y31, Z31 );
         iwembeddedobject11->put_Width( 3.00000000000000 );
         iwembeddedobject11->put_PrintQuality( iwEmbeddedObjectPrintQuality_HighGraphics );
     }
     // AcDbViewport object modified
     {
-        double X31;
-        double Y31;
-        double Z31;
-        iwviewport12->GetCenter( &X31, &Y31, &Z31 );
-        X31 = 5.00000000000000;
-        iwviewport12->SetCenter( X31, Y31, Z31 );
+        double X32;
+        double Y32;
+        double Z32;
+        iwviewport12->GetCenter( &X32, &Y32, &Z32 );
+        X32 = 5.00000000000000;
+        iwviewport12->SetCenter( X32, Y32, Z32 );
         iwviewport12->put_Height( 4.00000000000000 );
         iwviewport12->put_CCSPerViewport( true );
         iwviewport12->put_CustomScale( 0.50000000000000 );
@@ -394,26 +403,40 @@ bool CMacroCommand::ExecuteNotify(void)
         iwviewport12->put_StandardScale( iwViewportStandardScale_1_2 );
     }
     // AcDbRotatedDimension object modified
-        iwGeneralDimension_ptr generalDimension32;
-        iwrotateddimension13->GetGeneralDimension( &generalDimension32 );
-    iwColor_ptr iwColor33;
-    m_pIwApp->GetColorByIndex( 2, &iwColor33 );
-    generalDimension32->put_Color( iwColor33 );
+        iwGeneralDimension_ptr generalDimension33;
+        iwrotateddimension13->GetGeneralDimension( &generalDimension33 );
+    iwColor_ptr iwColor34;
+    m_pIwApp->GetColorByIndex( 2, &iwColor34 );
+    generalDimension33->put_Color( iwColor34 );
     // AcDbRotatedDimension object modified
     {
-        iwGeneralDimension_ptr generalDimension34;
-        iwrotateddimension13->GetGeneralDimension( &generalDimension34 );
-        generalDimension34->put_Layer( L"Walls" );
+        iwGeneralDimension_ptr generalDimension35;
+        iwrotateddimension13->GetGeneralDimension( &generalDimension35 );
+        generalDimension35->put_Layer( L"Walls" );
     }
     // AcDbRotatedDimension object modified
     {
-        iwGeneralDimension_ptr generalDimension36;
-        iwrotateddimension13->GetGeneralDimension( &generalDimension36 );
-        generalDimension36->put_Erased( true );
+        iwGeneralDimension_ptr generalDimension37;
+        iwrotateddimension13->GetGeneralDimension( &generalDimension37 );
+        generalDimension37->put_Erased( true );
     }
     // AcDbBlockTableRecord object modified
     iwBlockDefinition_ptr iwblockdefinition15;
     {
+
+        iwObjectPtrArray objects_39;
+
+        iwLongArray objecttypes_39;
+
+         iwDoc->CreateBlockDefinition(
+         L"Bolt", 
+         L"", 
+         0.00000000000000, 
+         0.00000000000000, 
+         0.00000000000000, 
+         objecttypes_39,  
+         objects_39, 
+         iwBlockDefinitionEntities_RemoveFromDrawing ,&iwblockdefinition15 );
         iwblockdefinition15->put_Erased( true );
     }
     iwLayerManager_ptr iwLayerManager_1;
@@ -422,12 +445,12 @@ bool CMacroCommand::ExecuteNotify(void)
     iwLayerManager_1->GetLayer( L"0", &iwlayer16 );
     // AcDbLayerTableRecord object modified
     {
-        iwLayerManager_ptr iwLayerManager38;
-        iwDoc->GetLayerManager( &iwLayerManager38 );
-        iwString layerName38;
-        iwlayer16->get_Name( &layerName38 );
-        bool bResult38 = false;
-        iwLayerManager38->RemoveLayer( layerName38, &bResult38 );
+        iwLayerManager_ptr iwLayerManager40;
+        iwDoc->GetLayerManager( &iwLayerManager40 );
+        iwString layerName40;
+        iwlayer16->get_Name( &layerName40 );
+        bool bResult40 = false;
+        iwLayerManager40->RemoveLayer( layerName40, &bResult40 );
     }
     // AcDbViewTableRecord object modified
     {

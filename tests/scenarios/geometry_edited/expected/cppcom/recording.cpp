@@ -271,6 +271,13 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     richline9->put_LineWeight( iwLnWt_ByLayer );
     richline9->put_Thickness( 0.00000000000000 );
     IShapePtr shape10;
+    shape10 = iwSketchManager->InsertShape( L"", 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 );
+    shape10->put_Color( pConnection->m_IwApp->GetColorByIndex( 256 ) );
+    shape10->put_Layer( L"Walls" );
+    shape10->put_LineStyle( L"Continuous" );
+    shape10->put_LineScale( 1.00000000000000 );
+    shape10->put_LineWeight( iwLnWt_ByLayer );
+    shape10->put_Thickness( 0.00000000000000 );
     IEmbeddedObjectPtr embeddedobject11;
     IViewportPtr viewport12;
     IRotatedDimensionPtr rotateddimension13;
@@ -504,16 +511,42 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     // AcDbBlockTableRecord object modified
     IBlockDefinitionPtr blockdefinition15;
     {
+
+        VARIANT objects_29;
+        objects_29.vt = ( VT_ARRAY | VT_DISPATCH );
+        objects_29.parray = SafeArrayCreateVector( VT_DISPATCH, 0, 0 );
+        long rgIndices29;
+        rgIndices29 = 0;
+        IDispatch* val29;
+
+        VARIANT objecttypes_29;
+        objecttypes_29.vt = ( VT_ARRAY | VT_I4 );
+        objecttypes_29.parray = SafeArrayCreateVector( VT_I4, 0, 0 );
+        {
+            long rgIndices29;
+            rgIndices29 = 0;
+            int val29;
+        }
+
+         blockdefinition15 = iwDoc->CreateBlockDefinition(
+         L"Bolt", 
+         L"", 
+         0.00000000000000, 
+         0.00000000000000, 
+         0.00000000000000, 
+         objecttypes_29,  
+         objects_29, 
+         iwBlockDefinitionEntities_RemoveFromDrawing );
         blockdefinition15->put_Erased( true );
     }
     ILayerManagerPtr iwLayerManager_1 = iwDoc->GetLayerManager();
     ILayerPtr layer16 = iwLayerManager_1->GetLayer( "0" );
     // AcDbLayerTableRecord object modified
     {
-        ILayerManagerPtr iwLayerManager29 = iwDoc->GetLayerManager();
-        BSTR layerName29;
-        layer16->get_Name( &layerName29 );
-        iwLayerManager29->RemoveLayer( layerName29 );
+        ILayerManagerPtr iwLayerManager30 = iwDoc->GetLayerManager();
+        BSTR layerName30;
+        layer16->get_Name( &layerName30 );
+        iwLayerManager30->RemoveLayer( layerName30 );
     }
     // AcDbViewTableRecord object modified
     {

@@ -145,6 +145,13 @@ namespace IWAPIMacros
             richline9.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
             richline9.Thickness = 0.00000000000000;
             Shape shape10;
+            shape10 = iwSketchManager.InsertShape( "", 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 );
+            shape10.Color = iwApp.GetColorByIndex( 256 );
+            shape10.Layer = "Walls";
+            shape10.LineStyle = "Continuous";
+            shape10.LineScale = 1.00000000000000;
+            shape10.LineWeight = iwLineWeight_e.iwLnWt_ByLayer;
+            shape10.Thickness = 0.00000000000000;
             EmbeddedObject embeddedobject11;
             Viewport viewport12;
             RotatedDimension rotateddimension13;
@@ -336,15 +343,29 @@ namespace IWAPIMacros
             // AcDbBlockTableRecord object modified
             BlockDefinition blockdefinition15;
             {
+
+                DispatchWrapper[] objects_18 = new DispatchWrapper[0];
+
+                int[] objecttypes_18 = new int[0];
+
+                 blockdefinition15 = iwDoc.CreateBlockDefinition(
+                 "Bolt", 
+                 "", 
+                 0.00000000000000, 
+                 0.00000000000000, 
+                 0.00000000000000, 
+                 objecttypes_18,  
+                 objects_18, 
+                 iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing );
                 blockdefinition15.Erased = true;
             }
             LayerManager iwLayerManager_1 = iwDoc.GetLayerManager();
             Layer layer16 = iwLayerManager_1.GetLayer( "0" );
             // AcDbLayerTableRecord object modified
             {
-                LayerManager iwLayerManager18 = iwDoc.GetLayerManager();
-                string layerName18 = layer16.Name;
-                iwLayerManager18.RemoveLayer( layerName18 );
+                LayerManager iwLayerManager19 = iwDoc.GetLayerManager();
+                string layerName19 = layer16.Name;
+                iwLayerManager19.RemoveLayer( layerName19 );
             }
             // AcDbViewTableRecord object modified
             {

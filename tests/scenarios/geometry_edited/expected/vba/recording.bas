@@ -140,6 +140,13 @@ Sub main()
         richline9.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
         richline9.Thickness = 0.00000000000000
         Dim shape10 As Inkwright.Shape
+        Set shape10 = iwSketchManager.InsertShape( "", 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 )
+        shape10.Color = iwApp.GetColorByIndex( 256 )
+        shape10.Layer = "Walls"
+        shape10.LineStyle = "Continuous"
+        shape10.LineScale = 1.00000000000000
+        shape10.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
+        shape10.Thickness = 0.00000000000000
         Dim embeddedobject11 As Inkwright.EmbeddedObject
         Dim viewport12 As Inkwright.Viewport
         Dim rotateddimension13 As Inkwright.RotatedDimension
@@ -367,6 +374,12 @@ Sub main()
         ' AcDbBlockTableRecord object modified
         Dim blockdefinition15 As Inkwright.BlockDefinition
         If 1 Then
+
+            Dim objects_27( -1 ) As Object
+
+            Dim objecttypes_27( -1 ) As iwObjectType_e
+
+             Set blockdefinition15 = iwDoc.CreateBlockDefinition( "Bolt", "", 0.00000000000000, 0.00000000000000, 0.00000000000000, objecttypes_27, objects_27, Inkwright.iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing )
             blockdefinition15.Erased = True
         End If
 
@@ -376,11 +389,11 @@ Sub main()
         Set layer16  = iwLayerManager_1.GetLayer( "0" )
         ' AcDbLayerTableRecord object modified
         If 1 Then
-            Dim iwLayerManager27 As Inkwright.LayerManager
-            Set iwLayerManager27 = iwDoc.GetLayerManager()
-            Dim layerName27 As String
-            layerName27 = layer16.Name
-            iwLayerManager27.RemoveLayer layerName27
+            Dim iwLayerManager28 As Inkwright.LayerManager
+            Set iwLayerManager28 = iwDoc.GetLayerManager()
+            Dim layerName28 As String
+            layerName28 = layer16.Name
+            iwLayerManager28.RemoveLayer layerName28
         End If
 
         ' AcDbViewTableRecord object modified

@@ -133,6 +133,13 @@ Public Class recording
         richline9.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
         richline9.Thickness = 0.00000000000000
         Dim shape10 As Inkwright.Shape
+        shape10 = iwSketchManager.InsertShape( "", 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 )
+        shape10.Color = iwApp.GetColorByIndex( 256 )
+        shape10.Layer = "Walls"
+        shape10.LineStyle = "Continuous"
+        shape10.LineScale = 1.00000000000000
+        shape10.LineWeight = Inkwright.iwLineWeight_e.iwLnWt_ByLayer
+        shape10.Thickness = 0.00000000000000
         Dim embeddedobject11 As Inkwright.EmbeddedObject
         Dim viewport12 As Inkwright.Viewport
         Dim rotateddimension13 As Inkwright.RotatedDimension
@@ -344,6 +351,13 @@ Public Class recording
         ' AcDbBlockTableRecord object modified
         Dim blockdefinition15 As Inkwright.BlockDefinition
         If 1 Then
+
+            Dim objects_27 As DispatchWrapper()
+            objects_27 = New DispatchWrapper( -1 ) {}
+
+            Dim objecttypes_27 As Integer() = New Integer( -1 ) {}
+
+             blockdefinition15 = iwDoc.CreateBlockDefinition( "Bolt", "", 0.00000000000000, 0.00000000000000, 0.00000000000000, objecttypes_27, objects_27, Inkwright.iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing )
             blockdefinition15.Erased = True
         End If
 
@@ -351,9 +365,9 @@ Public Class recording
         Dim layer16 As Inkwright.Layer = iwLayerManager_1.GetLayer( "0" )
         ' AcDbLayerTableRecord object modified
         If 1 Then
-            Dim iwLayerManager27 As Inkwright.LayerManager = iwDoc.GetLayerManager()
-            Dim layerName27 As String = layer16.Name
-            iwLayerManager27.RemoveLayer( layerName27 )
+            Dim iwLayerManager28 As Inkwright.LayerManager = iwDoc.GetLayerManager()
+            Dim layerName28 As String = layer16.Name
+            iwLayerManager28.RemoveLayer( layerName28 )
         End If
 
         ' AcDbViewTableRecord object modified

@@ -72,6 +72,14 @@ bool CMacroCommand::ExecuteNotify(void)
     iwSpline_ptr iwspline2;
     {
         iwSketchManager->InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 40.00000000000000, 0.00000000000000, 0.00000000000000, &iwline1 );
+        iwDoubleArray Coordinates1;
+        Coordinates1.clear();
+
+        Coordinates1.add(0.00000000000000);Coordinates1.add(60.00000000000000);Coordinates1.add(0.00000000000000);
+        Coordinates1.add(10.00000000000000);Coordinates1.add(65.00000000000000);Coordinates1.add(0.00000000000000);
+        Coordinates1.add(20.00000000000000);Coordinates1.add(60.00000000000000);Coordinates1.add(0.00000000000000);
+
+        iwSketchManager->InsertSpline( Coordinates1, false, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, &iwspline2 );
     }
     iwHatch_ptr iwhatch3;
     {

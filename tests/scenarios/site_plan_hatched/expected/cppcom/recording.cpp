@@ -121,6 +121,35 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     ISplinePtr spline2;
     {
         line1 = iwSketchManager->InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 40.00000000000000, 0.00000000000000, 0.00000000000000 );
+        VARIANT variant1;
+        variant1.vt = ( VT_ARRAY | VT_R8 );
+        variant1.parray = SafeArrayCreateVector( VT_R8, 0, 9 );
+        long rgIndices1;
+        rgIndices1 = -1;
+        double x_1, y_1, z_1;
+        x_1=0.00000000000000; y_1=60.00000000000000; z_1=0.00000000000000;
+        rgIndices1=0;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=1;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=2;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+        x_1=10.00000000000000; y_1=65.00000000000000; z_1=0.00000000000000;
+        rgIndices1=3;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=4;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=5;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+        x_1=20.00000000000000; y_1=60.00000000000000; z_1=0.00000000000000;
+        rgIndices1=6;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(x_1) );
+        rgIndices1=7;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(y_1) );
+        rgIndices1=8;
+        SafeArrayPutElement( variant1.parray, &rgIndices1, (double*)&(z_1) );
+
+        spline2 = iwSketchManager->InsertSpline( variant1, false, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 );
     }
     IHatchPtr hatch3;
     {

@@ -42,6 +42,18 @@ Public Class recording
         Dim spline2 As Inkwright.Spline
         If 1 Then
             line1 = iwSketchManager.InsertLine( 0.00000000000000, 0.00000000000000, 0.00000000000000, 40.00000000000000, 0.00000000000000, 0.00000000000000 )
+            Dim Coordinates1(8) As Double
+            Coordinates1( 0 )=0.00000000000000
+            Coordinates1( 1 )=60.00000000000000
+            Coordinates1( 2 )=0.00000000000000
+            Coordinates1( 3 )=10.00000000000000
+            Coordinates1( 4 )=65.00000000000000
+            Coordinates1( 5 )=0.00000000000000
+            Coordinates1( 6 )=20.00000000000000
+            Coordinates1( 7 )=60.00000000000000
+            Coordinates1( 8 )=0.00000000000000
+
+            spline2 = iwSketchManager.InsertSpline( Coordinates1, False, 0.00000000000000, 0.00000000000000 ,0.00000000000000, 0.00000000000000, 0.00000000000000, 0.00000000000000 )
         End If
 
         Dim hatch3 As Inkwright.Hatch

@@ -154,11 +154,23 @@ bool CMacroCommand::ExecuteNotify(void)
     iwDoc->GetLayerManager( &iwLayerManager_1 );
     iwLayer_ptr iwlayer13;
     iwLayerManager_1->GetLayer( L"0", &iwlayer13 );
+    // AcDbLayerTableRecord object modified
+    {
+        iwlayer13->put_Frozen( true );
+    }
     {
         iwLayerManager_ptr iwLayerManager_2;
         iwDoc->GetLayerManager( &iwLayerManager_2 );
         iwLayer_ptr iwlayer14;
         iwLayerManager_2->GetLayer( L"0", &iwlayer14 );
+        // AcDbLayerTableRecord object modified
+        {
+            iwlayer14->put_Locked( true );
+        }
+        // AcDbLayerTableRecord object modified
+        {
+            iwlayer13->put_Frozen( false );
+        }
     }
     {
         iwline1->put_Thickness( 2.00000000000000 );

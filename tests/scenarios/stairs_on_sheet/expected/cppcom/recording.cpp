@@ -194,9 +194,21 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
     }
     ILayerManagerPtr iwLayerManager_1 = iwDoc->GetLayerManager();
     ILayerPtr layer13 = iwLayerManager_1->GetLayer( "0" );
+    // AcDbLayerTableRecord object modified
+    {
+        layer13->put_Frozen( true );
+    }
     {
         ILayerManagerPtr iwLayerManager_2 = iwDoc->GetLayerManager();
         ILayerPtr layer14 = iwLayerManager_2->GetLayer( "0" );
+        // AcDbLayerTableRecord object modified
+        {
+            layer14->put_Locked( true );
+        }
+        // AcDbLayerTableRecord object modified
+        {
+            layer13->put_Frozen( false );
+        }
     }
     {
         line1->put_Thickness( 2.00000000000000 );

@@ -111,9 +111,21 @@ namespace IWAPIMacros
             }
             LayerManager iwLayerManager_1 = iwDoc.GetLayerManager();
             Layer layer13 = iwLayerManager_1.GetLayer( "0" );
+            // AcDbLayerTableRecord object modified
+            {
+                layer13.Frozen = true;
+            }
             {
                 LayerManager iwLayerManager_2 = iwDoc.GetLayerManager();
                 Layer layer14 = iwLayerManager_2.GetLayer( "0" );
+                // AcDbLayerTableRecord object modified
+                {
+                    layer14.Locked = true;
+                }
+                // AcDbLayerTableRecord object modified
+                {
+                    layer13.Frozen = false;
+                }
             }
             {
                 line1.Thickness = 2.00000000000000;

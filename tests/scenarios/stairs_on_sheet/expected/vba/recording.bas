@@ -121,11 +121,26 @@ Sub main()
         Set iwLayerManager_1  = iwDoc.GetLayerManager()
         Dim layer13 As Inkwright.Layer
         Set layer13  = iwLayerManager_1.GetLayer( "0" )
+        ' AcDbLayerTableRecord object modified
+        If 1 Then
+            layer13.Frozen = True
+        End If
+
         If 1 Then
             Dim iwLayerManager_2 As Inkwright.LayerManager
             Set iwLayerManager_2  = iwDoc.GetLayerManager()
             Dim layer14 As Inkwright.Layer
             Set layer14  = iwLayerManager_2.GetLayer( "0" )
+            ' AcDbLayerTableRecord object modified
+            If 1 Then
+                layer14.Locked = True
+            End If
+
+            ' AcDbLayerTableRecord object modified
+            If 1 Then
+                layer13.Frozen = False
+            End If
+
         End If
 
         If 1 Then

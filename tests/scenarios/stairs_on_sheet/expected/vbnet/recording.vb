@@ -110,9 +110,24 @@ Public Class recording
 
         Dim iwLayerManager_1 As Inkwright.LayerManager = iwDoc.GetLayerManager()
         Dim layer13 As Inkwright.Layer = iwLayerManager_1.GetLayer( "0" )
+        ' AcDbLayerTableRecord object modified
+        If 1 Then
+            layer13.Frozen = True
+        End If
+
         If 1 Then
             Dim iwLayerManager_2 As Inkwright.LayerManager = iwDoc.GetLayerManager()
             Dim layer14 As Inkwright.Layer = iwLayerManager_2.GetLayer( "0" )
+            ' AcDbLayerTableRecord object modified
+            If 1 Then
+                layer14.Locked = True
+            End If
+
+            ' AcDbLayerTableRecord object modified
+            If 1 Then
+                layer13.Frozen = False
+            End If
+
         End If
 
         If 1 Then

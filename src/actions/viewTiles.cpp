@@ -1,0 +1,53 @@
+// Custom actions that divide the display into tiles and show another part of the drawing.
+
+#include "targets/viewTiles.h"
+#include "actions/handedVariable.h"
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/counters.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "targets/zoom.h"
+
+#include <array>
+
+using inkmacro::HandedVariable;
+using inkmacro::takeVariable;
+
+/// An integer that stands for no mode counts as a single tile.
+static QString tilesMode(int mode)
+{
+    static constexpr std::array suffixes{"1",       "2_Vertical", "2_Horizontal", "3_Right", "3_Left",  "3_Above",
+                                         "3_Below", "3_Vertical", "3_Horizontal", "4_Equal", "4_Right", "4_Left"};
+    const auto index = static_cast<std::size_t>(mode);
+    return QLatin1String("iwViewTilesMode_") + QLatin1String(suffixes[index < suffixes.size() ? index : 0]);
+}
+
+/// A tile is taken from the array of all tiles, so the statement that fetches one which the macro does not know is
+/// dropped.
+std::int32_t CFxConverterIWAPIImpl::ConvertActionViewTiles(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    takeVariable(text, HandedVariable::Replaced);
+    const QLatin1String applyTo(action->GetData(0).GetBool() ? "iwViewTilesApplyTo_Display"
+                                                             : "iwViewTilesApplyTo_ActiveViewTile");
+    const QString mode = tilesMode(action->GetData(1).GetInt());
+    const std::vector<OdDbHandle>& tiles = action->GetData(2).GetHandleArray();
+    const std::vector<const OdRxClass*>& classes = action->GetData(3).GetClassArray();
+    std::vector<CFxString> names(tiles.size());
+    for (std::size_t i = 0; i < tiles.size(); ++i)
+        names[i] = Objects().NameObject(tiles[i], ClassAt(classes, i));
+    const QString array = QStringLiteral("iwViewTileArray%1").arg(processCounters.viewTileArrays++);
+    text = EmitInsertViewTiles(writer, array, mode, applyTo);
+    for (std::size_t i = 0; i < names.size(); ++i)
+        if (!names[i].isEmpty())
+            text += EmitSelectViewTile(writer, array, i, names[i]);
+    return kFxSuccess;
+}
+
+std::int32_t CFxConverterIWAPIImpl::ConvertActionZoom(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    takeVariable(text, HandedVariable::Replaced);
+    const CFxString& range = action->GetData(0).GetString();
+    text = range.equalNoCase("iwZoomRange_Window")
+               ? EmitZoom(writer, range, action->GetData(1).GetPoint(), action->GetData(2).GetPoint())
+               : EmitZoom(writer, range);
+    return kFxSuccess;
+}

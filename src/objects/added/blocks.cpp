@@ -1,0 +1,124 @@
+// Added block references and definitions, pictures and shapes.
+
+#include "objects/targets/blocks.h"
+
+#include "host/db/OdDbClasses.h"
+#include "objects/AddedObject.h"
+#include "objects/added/readers.h"
+#include "objects/blockContents.h"
+#include "objects/targets/blockAttributes.h"
+#include "objects/targets/customData.h"
+
+namespace {
+
+OdArray<OdDbObjectId> entitiesOf(const OdDbBlockTableRecord& record)
+{
+    OdArray<OdDbObjectId> ids;
+    for (const OdDbObjectIteratorPtr entity = record.newIterator(); !entity->done(); entity->step())
+        ids.append(entity->objectId());
+    return ids;
+}
+
+CFxString descriptionOf(const OdDbBlockTableRecord& record)
+{
+    CFxString description = record.comments();
+    description.replace("\n", "\\n");
+    return description;
+}
+
+/// A revision cloud is a block without a name, which no drawing has before the macro runs.
+QString defineCloud(const AddedObject& added, const OdDbBlockTableRecord& record)
+{
+    return added.converter.CreateBlockDefinition(
+        {added.name, CFxString(anonymousBlockName), false, descriptionOf(record), record.origin(), entitiesOf(record)});
+}
+
+QString setAttributes(const AddedObject& added, const OdDbBlockReference& reference)
+{
+    QString text;
+    for (const OdDbObjectIteratorPtr at = reference.attributeIterator(); !at->done(); at->step()) {
+        const auto attribute = odrxCast<OdDbAttribute>(at->objectId().openObject().get());
+        if (attribute && !attribute->tag().isEmpty())
+            text +=
+                EmitBlockAttributeValue(added.writer, added.name, "Value", attribute->tag(), attribute->textString());
+    }
+    return text;
+}
+
+} // namespace
+
+QString ReadBlockReference(AddedObject& added)
+{
+    CFxString block = added.takeText("Name");
+    Placement placement;
+    placement.position = added.takePoint("Position X", "Position Y", "Position Z");
+    placement.scales.sx = added.takeReal("Scale X", 1.0);
+    placement.scales.sy = added.takeReal("Scale Y", 1.0);
+    placement.scales.sz = added.takeReal("Scale Z", 1.0);
+    placement.rotation = added.takeReal("Rotation", 0.0);
+
+    const auto reference = added.open<OdDbBlockReference>();
+    const OdDbObjectPtr definition = reference ? reference->blockTableRecord().openObject() : OdDbObjectPtr();
+    const auto record = odrxCast<OdDbBlockTableRecord>(definition.get());
+    const OdResBufPtr cloud = record ? record->xData(cloudApplication) : OdResBufPtr();
+    QString text;
+    if (cloud) {
+        block = CFxString(anonymousBlockName);
+        text = defineCloud(added, *record);
+    }
+    if (record && record->isFromExternalReference())
+        text += EmitInsertExternalReference(added.writer, record->pathName(), placement.position, placement.scales,
+                                            added.name);
+    else
+        text += EmitInsertBlock(added.writer, block, placement, added.name);
+    if (cloud)
+        text += EmitCustomData(added.writer, added.name, cloud);
+    return reference ? text + setAttributes(added, *reference) : text;
+}
+
+/// Without a record of the entities they are those of the drawing; but sheets and external references are not defined
+/// by their entities.
+QString ReadBlockDefinition(AddedObject& added)
+{
+    const CFxVariant name = added.take("Name");
+    const CFxVariant objects = added.take("Objects");
+    const CFxVariant description = added.take("Description");
+    const auto record = added.open<OdDbBlockTableRecord>();
+
+    BlockContents contents;
+    contents.variable = added.name;
+    contents.name = name.GetString();
+    contents.description = description.GetString();
+    if (record) {
+        contents.origin = record->origin();
+        if (name.IsNull())
+            contents.name = record->getName();
+        if (description.IsNull())
+            contents.description = descriptionOf(*record);
+    }
+    if (objects.GetType() == CFxVariant::kCollection)
+        contents.ids = CFxConverterIWAPIObject::ObjectsOf(objects, HandlesIn::Values);
+    else if (record && !record->isLayout() && !record->isFromExternalReference())
+        contents.ids = entitiesOf(*record);
+    else
+        return {};
+    return added.converter.CreateBlockDefinition(contents);
+}
+
+QString ReadPicture(AddedObject& added)
+{
+    const CFxString path = added.takeText("Path");
+    const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
+    const double scale = added.takeReal("Scale", 1.0);
+    const double rotation = added.takeReal("Rotation", 0.0);
+    return EmitInsertPicture(added.writer, path, position, scale, rotation, added.name);
+}
+
+QString ReadShape(AddedObject& added)
+{
+    const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
+    const CFxString shape = added.takeText("Name");
+    const double size = added.takeReal("Size", 0.0);
+    const double rotation = added.takeReal("Rotation", 0.0);
+    return EmitInsertShape(added.writer, shape, position, size, rotation, added.name);
+}

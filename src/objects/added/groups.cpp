@@ -1,0 +1,18 @@
+// Added groups.
+
+#include "objects/AddedObject.h"
+#include "objects/added/readers.h"
+#include "objects/targets/newGroups.h"
+
+QString ReadGroup(AddedObject& added)
+{
+    NewGroup group;
+    group.name = added.takeText("Name");
+    group.description = added.takeText("Description");
+    const CFxVariant entities = added.take("AllEntities");
+    group.selectable = added.takeText("SelectableEntities").equalNoCase(ShownWord("YES"));
+    for (const OdDbObjectId& id : CFxConverterIWAPIObject::ObjectsOf(entities, HandlesIn::Tags))
+        if (const QString variable = added.converter.KnownVariable(id.getHandle()); !variable.isEmpty())
+            group.entities.push_back(variable);
+    return EmitCreateGroup(added.writer, group, added.name);
+}

@@ -1,0 +1,21 @@
+// Added layers.
+
+#include "objects/targets/layers.h"
+
+#include "host/db/OdDbClasses.h"
+#include "objects/AddedObject.h"
+#include "objects/added/readers.h"
+#include "objects/targets/styles.h"
+
+QString ReadLayer(AddedObject& added)
+{
+    const CFxVariant name = added.take("Name");
+    CFxString layer = name.GetString();
+    if (name.IsNull())
+        if (const auto record = added.open<OdDbLayerTableRecord>())
+            layer = record->getName();
+    QString text = EmitCreateLayer(added.writer, layer, added.name);
+    if (added.takeText("ActivateLayer") == ShownWord("Yes"))
+        text += EmitActivateLayer(added.writer, LayerOf(added.name));
+    return text;
+}

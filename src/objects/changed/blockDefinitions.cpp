@@ -1,0 +1,26 @@
+// Changed block definitions, which are made anew of their objects.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "host/db/OdDbClasses.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/blockContents.h"
+
+void CFxConverterIWAPIObject::ConvertModifiedBlockDefinition(PropertyList& list, bool takeOnly, const CFxString& name,
+                                                             QString& text)
+{
+    const CFxValueContext context = driver.GetContext();
+    const CFxVariant objects = FindProperty("Objects", list, context);
+    const CFxVariant description = FindProperty("Description", list, context);
+    if (takeOnly || objects.GetType() != CFxVariant::kCollection)
+        return;
+    BlockContents contents;
+    contents.variable = name;
+    contents.renewed = driver.FindEntry(changedHandle) != nullptr;
+    contents.description = description.GetString();
+    if (const auto record = odrxCast<OdDbBlockTableRecord>(IdOf(changedHandle).openObject().get())) {
+        contents.name = record->getName();
+        contents.origin = record->origin();
+    }
+    contents.ids = ObjectsOf(objects, HandlesIn::Values);
+    text += CreateBlockDefinition(contents);
+}

@@ -1,0 +1,44 @@
+// Changed layers and groups.
+
+#include "objects/targets/layers.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/changeKinds.h"
+#include "objects/changed/changeLists.h"
+
+using namespace kinds;
+
+/// The sense of "Show" is turned round, and two of the host's operations are misspelt: it all has to stay.
+static const ChangeGroups modifiedLayer{
+    {anyQuoted, "Description", "Description"},
+    {color, "Color", "Color"},
+    {lineStyle, "LineStyle", "LineStyle"},
+    {lineWeight, "LineWeight", "LineWeight"},
+    {plainYes, "Frozen", "Frozen"},
+    {plainYes, "Locked", "Locked"},
+    {plainYes, "Printable", "Printable"},
+    {plainYes, "Hidden", "Hidden"},
+    {plainNo, "Show", "Shown"},
+    {richLineStyleName, "Name"},
+    {activation, "ActivateLayer"},
+    {anyQuoted, "PrintStyle", "PrintStyle"},
+    {integerText, "Transparency", "Transparency"},
+    {plainYes, "FrozenInNewViewport", "FrozenInNewViewport"},
+    {overrideYes, "FrozenInViewport", "SetFrozenInViewport"},
+    {overrideColor, "ColorInViewport", "SetColorInViewport"},
+    {overrideLineStyle, "LinetypeInViewport", "SetLineStyleInViewport"},
+    {overrideLineWeight, "LineweightInViewport", "SetLineWeigthInViewport"},
+    {overrideInteger, "TransparencyInViewport", "SetTranparencyInViewport"},
+    {overrideText, "PrintStyleInViewport", "SetPrintStyleInViewport"},
+};
+
+const ChangeGroups modifiedGroup{
+    {richLineStyleName, "Name"},
+    {anyQuoted, "Description", "Description"},
+    {plainYes, "SelectableEntities", "Selectable"},
+};
+
+void CFxConverterIWAPIObject::ConvertModifiedLayer(PropertyList& list, bool takeOnly, const CFxString& name,
+                                                   QString& text)
+{
+    ConvertRows(modifiedLayer, list, takeOnly, LayerOf(name), text);
+}

@@ -1,0 +1,46 @@
+// Changed pictures and block references.
+
+#include "frame/CFxConverterIWAPIImpl.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/changeKinds.h"
+#include "objects/changed/changeLists.h"
+#include "objects/targets/blockAttributes.h"
+
+using namespace kinds;
+
+const ChangeGroups modifiedPicture{
+    {integer, "Brightness", "Brightness"},
+    {integer, "Contrast", "Contrast"},
+    {integer, "Fade", "Fade"},
+    {real, "Height", "Height"},
+    {real, "Rotation", "Rotation"},
+    {real, "Scale", "ScaleImage"},
+    {real, "Width", "Width"},
+    {anyYes, "Show clipped", "ShowClipped"},
+    {anyYes, "Show image", "ShowImage"},
+    {anyYes, "Transparency", "Transparency"},
+    {point, "Position", "Position"},
+};
+
+static const ChangeGroups modifiedBlockInstance{
+    {point, "Position", "Position"},
+    {scale, "Scale", "Scales"},
+    {real, "Rotation", "Rotation"},
+};
+
+/// An attribute of the block is a record in a group of its own, with the attribute's tag.
+void CFxConverterIWAPIObject::ConvertModifiedBlockInstance(PropertyList& list, bool takeOnly, const CFxString& name,
+                                                           QString& text)
+{
+    ConvertRows(modifiedBlockInstance, list, takeOnly, name, text);
+    while (true) {
+        PropertyList taken;
+        CFxVariant tag;
+        const CFxVariant value = FindProperty(BlockAttributes(), list, driver.GetContext(), &taken, &tag);
+        if (taken.empty())
+            return;
+        const bool isAttribute = taken.front()->GetGroup().equalNoCase(BlockAttributes());
+        if (isAttribute && !takeOnly && !value.IsNull())
+            text += EmitBlockAttributeValue(writer, name, "Value", tag.GetString(), value.GetString());
+    }
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "targets/Writer.h"
+
+#include <vector>
+
+/// A group of objects as the host's call takes it.
+struct NewGroup
+{
+    CFxString name;
+    bool selectable = false; ///< a click on one of them selects them all
+    CFxString description;
+    std::vector<QString> entities; ///< variables
+};
+
+QString EmitCreateGroup(Writer& writer, const NewGroup& group, const CFxString& variable);

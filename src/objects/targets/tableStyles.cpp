@@ -1,0 +1,88 @@
+// What table styles tell of the cells of one type.
+
+#include "objects/targets/tableStyles.h"
+
+#include "frame/RecordingState.h"
+#include "objects/targets/colors.h"
+#include "targets/LineEnd.h"
+#include "targets/enumerations.h"
+
+using namespace inkmacro;
+
+/// The blank behind the indentation stays.
+static const Phrase setOfCells{"call of a table style",
+                               {
+                                   .cppCom = "%1 %2->%3(%4,%5);%6",
+                                   .csharp = "%1 %2.%3(%4,%5);%6",
+                                   .javascript = "%1 %2.%3(\"%4\",%5);%6",
+                                   .vbNet = "%1 %2.%3(%4,%5)%6",
+                                   .vba = "%1 %2.%3 %4,%5%6",
+                               }};
+
+static QString cellTypeEnumerator(const Writer& writer, std::int32_t cellType)
+{
+    return EnumeratorByValue(writer.target, enums::tableCellType, cellType);
+}
+
+static QString setOfCellsTo(Writer& writer, const CFxString& style, const CFxString& operation, std::int32_t cellType,
+                            const QString& value)
+{
+    return writer.fillIndented(setOfCells)
+        .text(style)
+        .text(operation)
+        .text(cellTypeEnumerator(writer, cellType))
+        .text(value)
+        .text(LineEnd);
+}
+
+QString EmitSetTableStyleColor(Writer& writer, const CFxString& style, const CFxString& operation,
+                               std::int32_t cellType, const OdCmColor& color)
+{
+    return setOfCellsTo(writer, style, operation, cellType, colorExpression(writer.target, color));
+}
+
+QString EmitSetTableStyleLength(Writer& writer, const CFxString& style, const CFxString& operation,
+                                std::int32_t cellType, double length)
+{
+    return setOfCellsTo(writer, style, operation, cellType, FormatLong(length));
+}
+
+static const Phrase setAlignment{"EmitSetTableStyleAlignment",
+                                 {
+                                     .cppCom = "%1 %2->SetAlignment(%3,%4);%5",
+                                     .csharp = "%1 %2.SetAlignment(%3,%4);%5",
+                                     .javascript = "%1 %2.SetAlignment(\"%3\",\"%4\");%5",
+                                     .vbNet = "%1 %2.SetAlignment(%3,%4)%5",
+                                     .vba = "%1 %2.SetAlignment %3,%4%5",
+                                 }};
+
+/// Where the host records in one of the C++ languages, the type in front of the alignment is taken off in any target.
+QString EmitSetTableStyleAlignment(Writer& writer, const CFxString& style, std::int32_t cellType,
+                                   const CFxString& shownText)
+{
+    QString alignment = EnumeratorByText(writer.target, enums::tableCellAlignment, shownText);
+    if (RecordsIn(Target::Cpp) || RecordsIn(Target::CppCom))
+        alignment.remove(QLatin1String("iwTableCellAlignment_e."));
+    return writer.fillIndented(setAlignment)
+        .text(style)
+        .text(cellTypeEnumerator(writer, cellType))
+        .text(alignment)
+        .text(LineEnd);
+}
+
+static const Phrase setTextStyle{"EmitSetTableStyleTextStyle",
+                                 {
+                                     .cppCom = "%1 %2->SetTextStyle(%3,L\"%4\");%5",
+                                     .csharp = "%1 %2.SetTextStyle(%3,\"%4\");%5",
+                                     .vbNet = "%1 %2.SetTextStyle(%3,\"%4\")%5",
+                                     .vba = "%1 %2.SetTextStyle %3,\"%4\"%5",
+                                 }};
+
+QString EmitSetTableStyleTextStyle(Writer& writer, const CFxString& style, std::int32_t cellType, const CFxString& name)
+{
+    return writer.fillIndented(setTextStyle)
+        .text(style)
+        .text(cellTypeEnumerator(writer, cellType))
+        .text(name)
+        .text(LineEnd);
+}

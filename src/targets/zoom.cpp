@@ -1,0 +1,77 @@
+// What part of the drawing is in sight.
+
+#include "targets/zoom.h"
+
+#include "targets/arrays.h"
+#include "targets/wording.h"
+
+using namespace inkmacro;
+
+/// C++ declares the corners for all ranges, and hands them over empty where there are none.
+static const Phrase declareCorners{"EmitZoom: corners", {.cpp = "%1iwDoubleArray lowerLeft_%3, upperRight_%3;%2"}};
+
+static const Phrase zoomToRange{"EmitZoom",
+                                {
+                                    .cpp = "%1m_pIwApp->Zoom(%3, lowerLeft_%4, upperRight_%4);%2",
+                                    .cppCom = "%1pConnection->m_IwApp->Zoom(%3, NULL, NULL);%2",
+                                    .csharp = "%1iwApp.Zoom(%3, null, null);%2",
+                                    .javascript = "%1mApp.Zoom(\"%3\", null, null);%2",
+                                    .vbNet = "%1iwApp.Zoom(%3, Nothing, Nothing)%2",
+                                    .vba = "%1iwApp.Zoom %3, Nothing, Nothing%2",
+                                }};
+
+static QString rangeWord(const Writer& writer, const CFxString& range)
+{
+    return enumeratorText(writer.target, "iwZoomRange_e", range);
+}
+
+QString EmitZoom(Writer& writer, const CFxString& range)
+{
+    const std::uint32_t number = writer.target == Target::Cpp ? ++writer.UniqueCounter : 0;
+    return writer.fill(declareCorners).number(number).str() +
+           writer.fill(zoomToRange).text(rangeWord(writer, range)).number(number).str();
+}
+
+static const Phrase zoomToWindow{
+    "EmitZoom",
+    {
+        .cpp = "%1lowerLeft_%10.add(%3);lowerLeft_%10.add(%4);lowerLeft_%10.add(%5);%2"
+               "%1upperRight_%10.add(%6);upperRight_%10.add(%7);upperRight_%10.add(%8);%2"
+               "%1m_pIwApp->Zoom(%9, lowerLeft_%10, upperRight_%10);%2",
+        .cppCom = "%1VARIANT lowerLeft_%6;%2%1lowerLeft_%6.vt = ( VT_ARRAY | VT_R8 );%2"
+                  "%1lowerLeft_%6.parray = SafeArrayCreateVector( VT_R8, 0, 3 );%2%3"
+                  "%1VARIANT upperRight_%6;%2%1upperRight_%6.vt = ( VT_ARRAY | VT_R8 );%2"
+                  "%1upperRight_%6.parray = SafeArrayCreateVector( VT_R8, 0, 3 );%2%4"
+                  "%1pConnection->m_IwApp->Zoom(%5, lowerLeft_%6, upperRight_%6);%2",
+        .csharp = "%1double[] lowerLeft_%10 = new double[] { %3, %4, %5 };%2"
+                  "%1double[] upperRight_%10 = new double[] { %6, %7, %8 };%2"
+                  "%1iwApp.Zoom(%9, lowerLeft_%10, upperRight_%10);%2",
+        .javascript = "%1var lowerLeft_%10 = new Array(%3, %4, %5);%2%1var upperRight_%10 = new Array(%6, %7, %8);%2"
+                      "%1mApp.Zoom(\"%9\", lowerLeft_%10, upperRight_%10);%2",
+        .vbNet = "%1Dim lowerLeft_%10 As Double() = New Double() { %3, %4, %5 }%2"
+                 "%1Dim upperRight_%10 As Double() = New Double() { %6, %7, %8 }%2"
+                 "%1iwApp.Zoom(%9, lowerLeft_%10, upperRight_%10)%2",
+        .vba = "%1Dim lowerLeft_%10(2) As Double%2"
+               "%1lowerLeft_%10(0) = %3%2%1lowerLeft_%10(1) = %4%2%1lowerLeft_%10(2) = %5%2"
+               "%1Dim upperRight_%10(2) As Double%2"
+               "%1upperRight_%10(0) = %6%2%1upperRight_%10(1) = %7%2%1upperRight_%10(2) = %8%2"
+               "%1iwApp.Zoom %9, lowerLeft_%10, upperRight_%10%2",
+    }};
+
+QString EmitZoom(Writer& writer, const CFxString& range, const OdGePoint3d& lowerLeft, const OdGePoint3d& upperRight)
+{
+    const std::uint32_t number = ++writer.UniqueCounter;
+    Fill zoom = writer.fill(zoomToWindow);
+    if (writer.target == Target::CppCom) {
+        const auto corner = [&](const char* name, const OdGePoint3d& point) {
+            return inOwnGroup({writer, name + QString::number(number), number}, [&](const ArrayPlace& place) {
+                return comPointLines(place, point, NumberForm::Short, true);
+            });
+        };
+        zoom.text(corner("lowerLeft_", lowerLeft)).text(corner("upperRight_", upperRight));
+    } else {
+        zoom.shortPoint(lowerLeft).shortPoint(upperRight);
+    }
+    zoom.text(rangeWord(writer, range)).number(number);
+    return writer.fill(declareCorners).number(number).str() + zoom.str();
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "host/db/OdGe.h"
+#include "targets/Writer.h"
+
+// `range` is an enumerator, such as "iwZoomRange_Fit".
+
+QString EmitZoom(Writer& writer, const CFxString& range);
+QString EmitZoom(Writer& writer, const CFxString& range, const OdGePoint3d& lowerLeft, const OdGePoint3d& upperRight);

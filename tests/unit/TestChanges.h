@@ -1,0 +1,37 @@
+#pragma once
+
+#include "TestRecords.h"
+#include "TestTarget.h"
+
+#include "objects/classTable.h"
+
+/// A record of a repeated property.
+inline CFxPropertyChangedPtr record(const CFxString& tag, const CFxVariant& value, const CFxVariant& index = {})
+{
+    return odrxNew<TestProperty>(tag, value, CFxString(), index);
+}
+
+inline CFxVariantCollectionElement item(std::int32_t number, const char* text)
+{
+    return {number, CFxString(text)};
+}
+
+/// What becomes of the records of the object "it1", all of which must be known to the class.
+inline QString changedIn(TestTarget& made, const char* cls, PropertyList list, bool takeOnly = false)
+{
+    QString text;
+    const ClassChanges& changes = FindClass(QString(cls))->changes;
+    if (changes.groups)
+        made.objects.ConvertRows(*changes.groups, list, takeOnly, "it1", text);
+    else
+        (made.objects.*changes.handler)(list, takeOnly, "it1", text);
+    EXPECT_TRUE(list.empty()) << cls;
+    return text;
+}
+
+inline std::string changed(const char* cls, const PropertyList& list,
+                           inkmacro::Target target = inkmacro::Target::CSharp)
+{
+    TestTarget made(target);
+    return changedIn(made, cls, list).toStdString();
+}
