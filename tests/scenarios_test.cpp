@@ -156,7 +156,6 @@ const std::set<Target> everyTarget{Cpp, CSharp, JavaScript, VbNet, CppCom, Vba};
 const Unreachable unreachable[]{
     {"EmitCommandOptionInt32", everyTarget, "no option of a document is of that type"},
     {"EmitChangeCoordinateZ", everyTarget, "no tag is the height of such a point"},
-    {"array of numbers", {JavaScript, VbNet, CppCom}, "selections alone fill one, and these targets have none"},
 };
 
 bool isReachable(const Phrase& phrase, Target target)

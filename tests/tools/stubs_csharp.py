@@ -18,12 +18,12 @@ class _Source:
         if type_.endswith("[]"):
             element = type_[:-2]
             if element in self._known.classes:
-                return f'Arrays.Of({call}, way => new {element}Object(way))'
-            return f"Arrays.Of({call}, way => default({element}))"
+                return f'Arrays.Of({call}, element => new {element}Object(element))'
+            return f"Arrays.Of({call}, element => default({element}))"
         if type_ in self._known.classes:
             return f"new {type_}Object({call})"
         if type_ == "object":
-            return f"Model.Found({call})"
+            return f"OfferedModel.Found({call})"
         return f'Values.Of<{self.type(type_)}>({call})'
 
     def operation(self, operation):

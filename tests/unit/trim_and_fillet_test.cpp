@@ -153,7 +153,7 @@ TEST(Trim, SearchesForWhatIsNewOnly)
                                   "            DispatchWrapper[] CuttingEntitiesArray1;\n"));
     EXPECT_EQ(cut.driver.FindEntry(OdDbHandle(0x1a))->cls, cls("AcDbRay"));
     EXPECT_EQ(cut.driver.objectCounter, 3U);
-    EXPECT_TRUE(search.contains("iwNewEnt < 2;"));
+    EXPECT_TRUE(search.contains("iNewEnt < 2;"));
     EXPECT_TRUE(search.contains("            ray2 = null;\n            for (int iNewEnt"));
     // No test of circles: their variable stays as it was declared.
     EXPECT_FALSE(search.contains("iwCircleType"));

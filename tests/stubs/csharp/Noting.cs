@@ -47,7 +47,7 @@ namespace Inkwright
             Log.Append("{\"on\":" + Json.Of(Way) + ",\"call\":\"" + call + "\",\"args\":[" + string.Join(",", shown)
                        + "]}\n");
             string way = WayTo(call, result, shown);
-            Model.Tell(Way, call, arguments, shown, way);
+            OfferedModel.Tell(Way, call, arguments, shown, way);
             return way;
         }
 
@@ -66,9 +66,10 @@ namespace Inkwright
     {
         public static T Of<T>(string way)
         {
-            if (Model.Answers.Count > 0) {
-                object known = Model.Answers.Dequeue();
-                return (T)(typeof(T).IsEnum ? Enum.Parse(typeof(T), (string)known) : known);
+            if (OfferedModel.Answers.Count > 0) {
+                object known = OfferedModel.Answers.Dequeue();
+                return (T)(typeof(T).IsEnum ? Enum.Parse(typeof(T), (string)known)
+                                            : Convert.ChangeType(known, typeof(T), CultureInfo.InvariantCulture));
             }
             return typeof(T) == typeof(string) ? (T)(object)"" : default(T);
         }

@@ -15,7 +15,7 @@ internal static class RunMacros
         for (int i = 0; i + 1 < arguments.Length; i += 2) {
             string name = arguments[i];
             Noting.Begin();
-            Model.Begin(arguments[i + 1]);
+            OfferedModel.Begin(arguments[i + 1]);
             string stop = Run(name);
             Console.Write("{\"macro\":" + Json.Of(name) + "}\n" + Noting.Log + stop);
         }

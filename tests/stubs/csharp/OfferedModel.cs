@@ -27,7 +27,7 @@ namespace Inkwright
         }
     }
 
-    internal static class Model
+    internal static class OfferedModel
     {
         /// What the last call is answered with, the results behind the arguments first.
         public static readonly Queue<object> Answers = new Queue<object>();
