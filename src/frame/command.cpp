@@ -61,7 +61,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
     if (written)
         stream << state.declarations << group.begin();
     for (const QString& statement : state.statements)
-        stream << statement;
+        writer.write(stream, statement);
     // An unnamed target leaves the level where the group's begin put it: what follows stands one level deeper.
     const QString end = grouped ? group.close() : QString();
     if (written)

@@ -87,6 +87,7 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
 
 std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action)
 {
+    writer.forgetLater();
     if (const auto command = odrxQuery<CFxUserCommand>(action.get())) {
         try {
             const OdResBufPtr line = command->GetCommand();
@@ -101,7 +102,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const O
     QString text;
     const std::int32_t status = ConvertAction(action, text);
     if (status == kFxSuccess)
-        stream << text;
+        writer.write(stream, text);
     return status;
 }
 

@@ -4,7 +4,9 @@
 
 #include <simdjson.h>
 
+#include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace inkmacro::recordfile {
 
@@ -75,6 +77,16 @@ bool LineReader::fill()
     return true;
 }
 
+/// The buffer for a begun line of that length. What a line outgrows stays with the process, so a line that outgrows the
+/// first buffer gets room for all that may come: only the part that is read into takes memory.
+std::size_t LineReader::roomFor(std::size_t length) const
+{
+    const qint64 rest = device_.isSequential() ? -1 : device_.size() - total_;
+    if (length == 0 || rest <= 0)
+        return 2 * (length + kChunk);
+    return std::min(length + static_cast<std::size_t>(rest), longestLine_) + kChunk;
+}
+
 /// Brings the begun line to the front, and takes a larger buffer when a chunk does not fit behind it.
 void LineReader::makeRoom()
 {
@@ -83,7 +95,7 @@ void LineReader::makeRoom()
         if (begin_ > 0)
             std::memmove(buffer_.get(), buffer_.get() + begin_, length);
     } else {
-        capacity_ = 2 * (length + kChunk);
+        capacity_ = roomFor(length);
         const std::unique_ptr<char[]> old =
             std::exchange(buffer_, std::make_unique_for_overwrite<char[]>(capacity_ + kPadding));
         if (length > 0)

@@ -33,6 +33,7 @@ public:
 private:
     bool fill();
     void makeRoom();
+    std::size_t roomFor(std::size_t length) const;
     Outcome give(std::size_t length, std::size_t withEnd, std::string_view& line);
 
     QIODevice& device_;

@@ -11,12 +11,15 @@
 #include <QFileInfo>
 
 #include <cstdio>
+#include <new>
 
 namespace inkmacro {
 
 using namespace recordfile;
 
 namespace {
+
+constexpr std::size_t kLongLine = 1024 * 1024;
 
 /// Puts the lines of a file into a recording, one by one.
 class RecordingMaker
@@ -30,6 +33,9 @@ public:
         simdjson::dom::element element;
         if (const auto code = parser_.parse(line.data(), line.size(), false).get(element); code != simdjson::SUCCESS)
             throw FormError{{}, explainFault(code, line)};
+        // Of a long line what the parser has noted beside the document takes as much memory as what is made of it now.
+        if (line.size() > kLongLine && parser_.allocate(kLongLine) != simdjson::SUCCESS)
+            throw std::bad_alloc();
         const Json json(element, reading_);
         static const std::vector<std::string_view> keys = lineKeys();
         const ChosenEntry chosen = chosenEntry(json, keys, "kind of line");

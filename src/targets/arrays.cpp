@@ -6,11 +6,15 @@
 
 #include <QStringList>
 
+#include <algorithm>
+#include <utility>
+
 using namespace inkmacro;
 
 Coordinates spatial(const OdArray<OdGePoint3d>& points)
 {
     Coordinates coordinates{3, {}};
+    coordinates.values.reserve(std::size_t{3} * points.length());
     for (const OdGePoint3d& point : points)
         coordinates.values.insert(coordinates.values.end(), {point.x, point.y, point.z});
     return coordinates;
@@ -20,6 +24,7 @@ template<class Point>
 static Coordinates withoutHeights(const OdArray<Point>& points)
 {
     Coordinates coordinates{2, {}};
+    coordinates.values.reserve(std::size_t{2} * points.length());
     for (const Point& point : points)
         coordinates.values.insert(coordinates.values.end(), {point.x, point.y});
     return coordinates;
@@ -247,12 +252,34 @@ static const Phrase point3d{
         .vba = "%1%3( %4 )=%7%2%1%3( %5 )=%8%2%1%3( %6 )=%9%2",
     }};
 
-QString coordinateList(const Coordinates& coordinates, NumberForm numbers)
+/// Numbers that a statement holds the text of, and of each part of a text with more: of plane points and others.
+static constexpr std::size_t kHeldNumbers = 6 * 2048;
+
+/// The text of the coordinates, made by a function of them and the range to write.
+template<class Text>
+static QString inParts(Writer& writer, Coordinates&& coordinates, const Text& text)
 {
-    QStringList list;
-    for (const double value : coordinates.values)
-        list.append(formatted(value, numbers));
-    return list.join(',');
+    const std::size_t count = coordinates.values.size();
+    if (count <= kHeldNumbers)
+        return text(coordinates, 0, count);
+    return writer.later([coordinates = std::move(coordinates), text, count](std::size_t part) {
+        const std::size_t first = part * kHeldNumbers;
+        return first < count ? text(coordinates, first, std::min(count, first + kHeldNumbers)) : QString();
+    });
+}
+
+QString coordinateList(Writer& writer, Coordinates coordinates, NumberForm numbers)
+{
+    return inParts(writer, std::move(coordinates),
+                   [numbers](const Coordinates& all, std::size_t first, std::size_t end) {
+                       QString list;
+                       for (std::size_t i = first; i < end; ++i) {
+                           if (i > 0)
+                               list += ',';
+                           list += formatted(all.values[i], numbers);
+                       }
+                       return list;
+                   });
 }
 
 static QString comPointsHead(const ArrayPlace& place, int axes)
@@ -265,13 +292,14 @@ static QString comPointsHead(const ArrayPlace& place, int axes)
         .number(place.number);
 }
 
-QString pointLines(const ArrayPlace& place, const Coordinates& coordinates, NumberForm numbers)
+static QString pointLinesOf(const ArrayPlace& place, const Coordinates& coordinates, std::size_t from, std::size_t end,
+                            NumberForm numbers)
 {
     const Target target = place.writer.target;
-    QString lines = target == Target::CppCom ? comPointsHead(place, coordinates.axes) : QString();
+    QString lines;
     const auto axes = static_cast<std::size_t>(coordinates.axes);
     const Template* const words = (axes == 2 ? point2d : point3d).in(target);
-    for (std::size_t first = 0; first + axes <= coordinates.values.size(); first += axes) {
+    for (std::size_t first = from; first + axes <= end; first += axes) {
         Fill line(words);
         line.text(place.indentation).text(place.lineEnd).text(place.name);
         for (std::size_t i = first; target != Target::Cpp && i < first + axes; ++i)
@@ -285,6 +313,15 @@ QString pointLines(const ArrayPlace& place, const Coordinates& coordinates, Numb
         lines += line.number(place.number).str();
     }
     return lines;
+}
+
+QString pointLines(const ArrayPlace& place, Coordinates coordinates, NumberForm numbers)
+{
+    const QString head = place.writer.target == Target::CppCom ? comPointsHead(place, coordinates.axes) : QString();
+    return head + inParts(place.writer, std::move(coordinates),
+                          [place, numbers](const Coordinates& all, std::size_t first, std::size_t end) {
+                              return pointLinesOf(place, all, first, end, numbers);
+                          });
 }
 
 QString comPointLines(const ArrayPlace& place, const OdGePoint3d& point, NumberForm numbers, bool declareLocals)
@@ -325,24 +362,25 @@ static QString scriptArray(Writer& writer, const QString& name, const QString& l
     return writer.indentation() + "var " + name + " = new Array(" + blank + list + blank + ");" + LineEnd;
 }
 
-ArrayArgument coordinateArray(Writer& writer, const Coordinates& coordinates, const char* script, NumberForm numbers,
+ArrayArgument coordinateArray(Writer& writer, Coordinates coordinates, const char* script, NumberForm numbers,
                               Brackets scriptBrackets)
 {
     const Target target = writer.target;
     ArrayArgument array{target};
     array.count = static_cast<int>(coordinates.values.size());
     if (target == Target::CSharp) {
-        array.words = coordinateList(coordinates, numbers);
+        array.words = coordinateList(writer, std::move(coordinates), numbers);
         return array;
     }
     array.number = ++writer.UniqueCounter;
     if (target == Target::JavaScript) {
         array.words = script + QString::number(array.number);
-        array.before = scriptArray(writer, array.words, coordinateList(coordinates, numbers), scriptBrackets);
+        array.before =
+            scriptArray(writer, array.words, coordinateList(writer, std::move(coordinates), numbers), scriptBrackets);
         return array;
     }
     const QString name = (target == Target::CppCom ? "variant" : "Coordinates") + QString::number(array.number);
-    array.words = pointLines({writer, name, array.number}, coordinates, numbers);
+    array.words = pointLines({writer, name, array.number}, std::move(coordinates), numbers);
     return array;
 }
 

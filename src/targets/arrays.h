@@ -61,10 +61,10 @@ QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& wor
 QString integerLines(const ArrayPlace& place, const std::vector<int>& values);
 QString realLines(const ArrayPlace& place, const std::vector<double>& values, NumberForm numbers);
 /// All coordinates of a point are written together. Empty in C# and JavaScript, which take lists.
-QString pointLines(const ArrayPlace& place, const Coordinates& coordinates, NumberForm numbers);
+QString pointLines(const ArrayPlace& place, Coordinates coordinates, NumberForm numbers);
 
 /// The coordinates with commas between them.
-QString coordinateList(const Coordinates& coordinates, NumberForm numbers);
+QString coordinateList(Writer& writer, Coordinates coordinates, NumberForm numbers);
 
 // Single elements, for arrays that are filled between other lines. Empty in C++ COM, where locals come in front of them
 // all.
@@ -111,7 +111,7 @@ struct ArrayArgument
 
 /// The array "Coordinates", in C++ COM "variant"; `script` is what JavaScript calls it, and `scriptBrackets` stand
 /// around its elements there. Takes a new number wherever the target has one.
-ArrayArgument coordinateArray(Writer& writer, const Coordinates& coordinates, const char* script,
+ArrayArgument coordinateArray(Writer& writer, Coordinates coordinates, const char* script,
                               NumberForm numbers = NumberForm::Long, Brackets scriptBrackets = Brackets::Tight);
 /// Integers that a call takes besides the coordinates, with a number that is taken already.
 ArrayArgument integerArray(Writer& writer, const std::vector<int>& values, std::uint32_t number, const char* name,

@@ -206,7 +206,7 @@ QString EmitInsertViewport(Writer& writer, const CFxString& variable, const CFxS
     const char* const name = writer.target == Target::CppCom ? "variant" : "Coordinates";
     ArrayPlace place(writer, name + QString::number(number), number);
     place.indentation += QLatin1String("    ");
-    const QString filling = listed ? coordinateList(spatial(points), NumberForm::Short)
+    const QString filling = listed ? coordinateList(writer, spatial(points), NumberForm::Short)
                                    : pointLines(place, spatial(points), NumberForm::Short);
     return writer.fill(insertViewport)
         .number(number)

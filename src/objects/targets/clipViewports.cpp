@@ -69,7 +69,7 @@ Clip clipByPolyline(Writer& writer, const Phrase& phrase, const Coordinates& coo
     const bool isList = target == Target::CSharp || target == Target::JavaScript;
     Fill creation(phrase.in(target));
     creation
-        .text(isList ? coordinateList(coordinates, NumberForm::Long)
+        .text(isList ? coordinateList(writer, coordinates, NumberForm::Long)
                      : pointLines({writer, array, number}, coordinates, NumberForm::Long))
         .text(truthWord(target, closed))
         .number(number)
