@@ -33,14 +33,20 @@ void CFxConverterIWAPIObject::ConvertModifiedBlockInstance(PropertyList& list, b
                                                            QString& text)
 {
     ConvertRows(modifiedBlockInstance, list, takeOnly, name, text);
-    while (true) {
+    PropertyList rest;
+    for (CFxPropertyChangedPtr& record : list) {
+        // Each record on its own: attributes may be many, and what is taken out of a list moves all that stand behind.
+        PropertyList one{record};
         PropertyList taken;
         CFxVariant tag;
-        const CFxVariant value = FindProperty(BlockAttributes(), list, driver.GetContext(), &taken, &tag);
-        if (taken.empty())
-            return;
+        const CFxVariant value = FindProperty(BlockAttributes(), one, driver.GetContext(), &taken, &tag);
+        if (taken.empty()) {
+            rest.push_back(std::move(record));
+            continue;
+        }
         const bool isAttribute = taken.front()->GetGroup().equalNoCase(BlockAttributes());
         if (isAttribute && !takeOnly && !value.IsNull())
             text += EmitBlockAttributeValue(writer, name, "Value", tag.GetString(), value.GetString());
     }
+    list = std::move(rest);
 }
