@@ -1,105 +1,28 @@
 // Makes recordings to measure with: always the same bytes for the same arguments, on every machine.
 //
-//     make_recording OBJECTS FILE lines|drawing
+//     make_recording COUNT FILE lines|drawing|polyline|block|hatch
+//
+// COUNT are objects, but the vertices of the one polyline, the entities of the one block, or the objects that bound the
+// one hatch.
+
+#include "Lines.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
-#include <fstream>
 #include <iterator>
 #include <span>
-#include <string>
 #include <string_view>
 
 namespace {
-
-/// splitmix64: the distributions of <random> differ between standard libraries.
-class Dice
-{
-public:
-    std::uint64_t below(std::uint64_t limit)
-    {
-        state_ += 0x9E3779B97F4A7C15U;
-        std::uint64_t mixed = state_;
-        mixed = (mixed ^ (mixed >> 30)) * 0xBF58476D1CE4E5B9U;
-        mixed = (mixed ^ (mixed >> 27)) * 0x94D049BB133111EBU;
-        return (mixed ^ (mixed >> 31)) % limit;
-    }
-    bool chance(std::uint64_t percent) { return below(100) < percent; }
-
-private:
-    std::uint64_t state_ = 20240229;
-};
-
-class Lines
-{
-public:
-    explicit Lines(const char* path) : file_(path, std::ios::binary) {}
-
-    Lines& operator<<(std::string_view text)
-    {
-        text_ += text;
-        return *this;
-    }
-    Lines& operator<<(std::uint64_t number) { return append(number, 10); }
-    Lines& handle(std::uint64_t value) { return append(value, 16); }
-
-    /// A number with up to `decimals` decimals, in units of the last one.
-    Lines& decimal(std::uint64_t units, int decimals)
-    {
-        std::uint64_t one = 1;
-        for (int i = 0; i < decimals; ++i)
-            one *= 10;
-        *this << units / one;
-        std::uint64_t fraction = units % one;
-        if (fraction == 0)
-            return *this;
-        text_ += '.';
-        for (one /= 10; fraction > 0; one /= 10) {
-            text_ += static_cast<char>('0' + fraction / one);
-            fraction %= one;
-        }
-        return *this;
-    }
-
-    void end()
-    {
-        text_ += '\n';
-        if (text_.size() > 1 << 20)
-            write();
-    }
-    bool finish()
-    {
-        write();
-        file_.flush();
-        return file_.good();
-    }
-
-private:
-    Lines& append(std::uint64_t value, int base)
-    {
-        char digits[20];
-        const char* const end = std::to_chars(std::begin(digits), std::end(digits), value, base).ptr;
-        for (const char* digit = digits; digit != end; ++digit)
-            text_ += *digit >= 'a' ? static_cast<char>(*digit - 'a' + 'A') : *digit;
-        return *this;
-    }
-    void write()
-    {
-        file_.write(text_.data(), static_cast<std::streamsize>(text_.size()));
-        text_.clear();
-    }
-
-    std::ofstream file_;
-    std::string text_;
-};
 
 enum class Form
 {
     Zero,
     Length, ///< up to 1000 drawing units
+    Exact,  ///< the same with about all digits that a double has, as points have that were picked or computed
     Radius, ///< above 0
     Offset, ///< on both sides of 0
     Angle   ///< radians, one turn
@@ -139,6 +62,10 @@ constexpr Tag throughTags[] = {{"Base point X", Form::Length},   {"Base point Y"
                                {"Base point Z", Form::Zero},     {"Second point X", Form::Length},
                                {"Second point Y", Form::Length}, {"Second point Z", Form::Zero}};
 
+constexpr Tag insertionTags[] = {{"Position X", Form::Length}, {"Position Y", Form::Length}, {"Position Z", Form::Zero},
+                                 {"Scale X", Form::Radius},    {"Scale Y", Form::Radius},    {"Scale Z", Form::Radius},
+                                 {"Rotation", Form::Angle}};
+
 constexpr Kind kinds[] = {
     {60, "LINE", "AcDbLine", lineTags},
     {14, "CIRCLE", "AcDbCircle", circleTags},
@@ -152,12 +79,22 @@ constexpr Kind kinds[] = {
 constexpr std::uint64_t firstHandle = 0x100;
 constexpr std::uint64_t firstLayer = 0x10;
 constexpr std::uint64_t layers = 8;
+/// Objects of the drawing that hatches lie between.
+constexpr std::uint64_t firstBoundary = 0x40;
+constexpr std::uint64_t boundaries = 100;
+/// The block that is in the drawing before all others.
+constexpr std::string_view firstBlock = "Bolt";
 
 class Maker
 {
 public:
     /// `groups`: whether property records name their group.
-    Maker(Lines& out, bool groups) : out_(out), groups_(groups) {}
+    Maker(Lines& out, bool groups)
+        : out_(out),
+          geometry_(groups ? R"(,"group":"Geometry"})" : "}"),
+          general_(groups ? R"(,"group":"General"})" : "}")
+    {
+    }
 
     void lines(std::uint64_t count)
     {
@@ -171,12 +108,7 @@ public:
     {
         head();
         while (count > 0) {
-            const std::uint64_t children = std::min<std::uint64_t>(count, 1 + dice_.below(40));
-            const Kind& kind = anyKind();
-            command(kind, children);
-            count -= children;
-            if (dice_.chance(15))
-                changes(kind, children);
+            count -= dice_.chance(70) ? simpleObjects(count) : otherObjects(count);
             if (dice_.chance(10)) {
                 sysVar();
                 out_.end();
@@ -184,7 +116,212 @@ public:
         }
     }
 
+    /// One polyline, outside of commands.
+    void longPolyline(std::uint64_t vertices)
+    {
+        polyline(vertices, Form::Exact);
+        out_.end();
+    }
+
+    /// Lines, and the block that is made of them.
+    void largeBlock(std::uint64_t entities)
+    {
+        openCommand("LINE");
+        for (std::uint64_t i = 0; i < entities; ++i) {
+            separate(i);
+            added(kinds[0]);
+        }
+        closeCommand();
+        blockDefinition(entities);
+    }
+
+    /// One hatch over lines of the drawing, which the macro has to draw for it.
+    void largeHatch(std::uint64_t objects)
+    {
+        boundaryLines(firstHandle, objects);
+        nextHandle_ += objects;
+        openCommand("HATCH");
+        hatchHead(true);
+        out_ << R"({"ids":[)";
+        for (std::uint64_t i = 0; i < objects; ++i) {
+            separate(i);
+            out_ << R"(")";
+            out_.handle(firstHandle + i) << R"(")";
+        }
+        out_ << "]},";
+        hatchEnd();
+        closeCommand();
+    }
+
 private:
+    std::uint64_t simpleObjects(std::uint64_t most)
+    {
+        const std::uint64_t children = std::min<std::uint64_t>(most, 1 + dice_.below(40));
+        const Kind& kind = anyKind();
+        command(kind, children);
+        if (dice_.chance(15))
+            changes(kind, children);
+        if (dice_.chance(4))
+            blockDefinition(children);
+        return children;
+    }
+
+    std::uint64_t otherObjects(std::uint64_t most)
+    {
+        const std::uint64_t children = std::min<std::uint64_t>(most, 1 + dice_.below(6));
+        const std::uint64_t roll = dice_.below(100);
+        const bool polylines = roll < 30;
+        const bool dimensions = !polylines && roll < 60;
+        const bool hatches = !polylines && !dimensions && roll < 75;
+        openCommand(polylines ? "PLINE" : dimensions ? "DIMLINEAR" : hatches ? "HATCH" : "-INSERT");
+        for (std::uint64_t i = 0; i < (hatches ? 1 : children); ++i) {
+            separate(i);
+            if (polylines)
+                polyline(4 + dice_.below(197), Form::Length);
+            else if (dimensions)
+                dimension();
+            else if (hatches)
+                hatch();
+            else
+                blockReference();
+        }
+        closeCommand();
+        return hatches ? 1 : children;
+    }
+
+    void openCommand(std::string_view name) { out_ << R"({"command":{"name":")" << name << R"(","actions":[)"; }
+    void closeCommand()
+    {
+        out_ << "]}}";
+        out_.end();
+    }
+    void separate(std::uint64_t index)
+    {
+        if (index > 0)
+            out_ << ",";
+    }
+
+    void boundaryLines(std::uint64_t first, std::uint64_t count)
+    {
+        for (std::uint64_t i = 0; i < count; ++i) {
+            out_ << R"({"object":{"class":"AcDbLine","handle":")";
+            out_.handle(first + i) << R"(","startPoint":)";
+            coordinates(Form::Length);
+            out_ << R"(,"endPoint":)";
+            coordinates(Form::Length);
+            out_ << "}}";
+            out_.end();
+        }
+    }
+
+    void polyline(std::uint64_t vertices, Form form)
+    {
+        beginAdded("AcDbPolyline");
+        out_ << R"({"tag":"Vertex","value":{"collection":{"elements":[)";
+        for (std::uint64_t i = 0; i < vertices; ++i) {
+            separate(i);
+            out_ << R"({"tag":{"int":)" << i << R"(},"value":{"point":)";
+            coordinates(form);
+            out_ << "}}";
+        }
+        out_ << "]}}" << geometry_ << R"(,{"tag":"Closed","value":")" << (dice_.chance(30) ? "Yes" : "No") << "\""
+             << geometry_ << ",";
+        endEntity();
+    }
+
+    void dimension()
+    {
+        const bool turned = dice_.chance(50);
+        beginAdded(turned ? "AcDbRotatedDimension" : "AcDbAlignedDimension");
+        for (const std::string_view tag : {"xLine1Point", "xLine2Point", "dimLinePoint"}) {
+            out_ << R"({"tag":")" << tag << R"(","value":{"point":)";
+            coordinates(Form::Length);
+            out_ << "}" << geometry_ << ",";
+        }
+        if (turned) {
+            out_ << R"({"tag":"rotation","value":)";
+            number(Form::Angle);
+            out_ << geometry_ << ",";
+        }
+        out_ << R"({"tag":"Text override","value":"<>")" << general_ << ",";
+        endEntity();
+    }
+
+    /// Those by internal points and those by entities that erase them.
+    void hatch()
+    {
+        const bool byEntities = dice_.chance(50);
+        hatchHead(byEntities);
+        if (byEntities) {
+            out_ << R"({"ids":[)";
+            const std::uint64_t first = dice_.below(boundaries);
+            for (std::uint64_t i = 0; i < std::min<std::uint64_t>(1 + dice_.below(8), boundaries - first); ++i) {
+                separate(i);
+                out_ << R"(")";
+                out_.handle(firstBoundary + first + i) << R"(")";
+            }
+        } else {
+            out_ << R"({"points2d":[)";
+            for (std::uint64_t i = 0, count = 1 + dice_.below(5); i < count; ++i) {
+                separate(i);
+                out_ << "[";
+                number(Form::Length);
+                out_ << ",";
+                number(Form::Length);
+                out_ << "]";
+            }
+        }
+        out_ << "]},";
+        hatchEnd();
+    }
+    void hatchHead(bool byEntities)
+    {
+        out_ << R"({"custom":{"kind":18,"data":[{"string":"ANSI31"},{"double":)";
+        number(Form::Radius);
+        out_ << R"(},{"double":)";
+        number(Form::Angle);
+        out_ << (byEntities ? R"(},{"bool":false},{"bool":true},)" : R"(},{"bool":true},{"bool":false},)")
+             << R"({"bool":false},{"bool":false},)";
+    }
+    void hatchEnd()
+    {
+        out_ << R"({"bool":true}]}},)";
+        beginAdded("AcDbHatch");
+        endEntity();
+    }
+
+    void blockReference()
+    {
+        beginAdded("AcDbBlockReference");
+        out_ << R"({"tag":"Name","value":")" << firstBlock;
+        if (blocks_ > 0 && dice_.chance(80))
+            out_ << " " << dice_.below(blocks_) + 1;
+        out_ << R"(")" << general_ << ",";
+        for (const Tag& tag : insertionTags) {
+            out_ << R"({"tag":")" << tag.name << R"(","value":)";
+            number(tag.form);
+            out_ << geometry_ << ",";
+        }
+        endEntity();
+    }
+
+    /// The last objects become a block.
+    void blockDefinition(std::uint64_t last)
+    {
+        openCommand("-BLOCK");
+        const std::uint64_t first = nextHandle_ - last;
+        beginAdded("AcDbBlockTableRecord");
+        out_ << R"({"tag":"Name","value":")" << firstBlock << " " << ++blocks_ << R"(")" << general_
+             << R"(,{"tag":"Objects","value":{"collection":{"elements":[)";
+        for (std::uint64_t i = 0; i < last; ++i) {
+            separate(i);
+            out_ << R"({"tag":{"int":)" << i << R"(},"value":")";
+            out_.handle(first + i) << R"("})";
+        }
+        out_ << "]}}" << general_ << "]}}";
+        closeCommand();
+    }
+
     void head()
     {
         out_ << R"({"recording":{"version":1,"sheet":{"name":"Model","model":true}}})";
@@ -200,6 +337,7 @@ private:
         out_.end();
         out_ << R"({"object":{"class":"AcDbLayout","handle":"22","layoutName":"Model","modelType":true}})";
         out_.end();
+        boundaryLines(firstBoundary, boundaries);
     }
 
     const Kind& anyKind()
@@ -213,7 +351,7 @@ private:
 
     void command(const Kind& kind, std::uint64_t children)
     {
-        out_ << R"({"command":{"name":")" << kind.command << R"(","actions":[)";
+        openCommand(kind.command);
         interaction("Specify start point&raquo; ");
         for (; children > 0; --children) {
             if (dice_.chance(40)) {
@@ -227,14 +365,13 @@ private:
             out_ << ",";
             sysVar();
         }
-        out_ << "]}}";
-        out_.end();
+        closeCommand();
     }
 
     /// Some of the last command's objects are restyled or moved.
     void changes(const Kind& kind, std::uint64_t last)
     {
-        out_ << R"({"command":{"name":"PROPERTIES","actions":[)";
+        openCommand("PROPERTIES");
         for (std::uint64_t i = 1; i <= std::min<std::uint64_t>(last, 5); ++i) {
             if (i > 1)
                 out_ << ",";
@@ -249,8 +386,7 @@ private:
                 out_ << "}]}}";
             }
         }
-        out_ << "]}}";
-        out_.end();
+        closeCommand();
     }
 
     void color()
@@ -265,11 +401,9 @@ private:
 
     void interaction(std::string_view prompt)
     {
-        out_ << R"({"interaction":{"kind":"point","prompt":")" << prompt << R"(","result":{"point3d":[)";
-        number(Form::Length);
-        out_ << ",";
-        number(Form::Length);
-        out_ << R"(,0]}}})";
+        out_ << R"({"interaction":{"kind":"point","prompt":")" << prompt << R"(","result":{"point3d":)";
+        coordinates(Form::Length);
+        out_ << "}}}";
     }
 
     void sysVar()
@@ -281,24 +415,43 @@ private:
 
     void added(const Kind& kind)
     {
-        out_ << R"({"added":{"class":")" << kind.cls << R"(","handle":")";
-        out_.handle(nextHandle_++) << R"(","properties":[)";
-        const std::string_view geometry = groups_ ? R"(,"group":"Geometry"})" : "}";
-        const std::string_view general = groups_ ? R"(,"group":"General"})" : "}";
+        beginAdded(kind.cls);
         for (const Tag& tag : kind.tags) {
             out_ << R"({"tag":")" << tag.name << R"(","value":)";
             number(tag.form);
-            out_ << geometry << ",";
+            out_ << geometry_ << ",";
         }
+        endEntity();
+    }
+
+    void beginAdded(std::string_view cls)
+    {
+        out_ << R"({"added":{"class":")" << cls << R"(","handle":")";
+        out_.handle(nextHandle_++) << R"(","properties":[)";
+    }
+
+    /// The properties that all entities have.
+    void endEntity()
+    {
         out_ << R"({"tag":"LineColor","value":{"color":)";
         color();
-        out_ << "}" << general;
+        out_ << "}" << general_;
         out_ << R"(,{"tag":"Layer","value":{"id":")";
-        out_.handle(firstLayer + dice_.below(layers)) << R"("})" << general;
-        out_ << R"(,{"tag":"LineStyle","value":{"id":"1A"})" << general;
-        out_ << R"(,{"tag":"LineScale","value":1)" << general;
-        out_ << R"(,{"tag":"LineWeight","value":{"int":-1})" << general;
-        out_ << R"(,{"tag":"Thickness","value":0)" << general << "]}}";
+        out_.handle(firstLayer + dice_.below(layers)) << R"("})" << general_;
+        out_ << R"(,{"tag":"LineStyle","value":{"id":"1A"})" << general_;
+        out_ << R"(,{"tag":"LineScale","value":1)" << general_;
+        out_ << R"(,{"tag":"LineWeight","value":{"int":-1})" << general_;
+        out_ << R"(,{"tag":"Thickness","value":0)" << general_ << "]}}";
+    }
+
+    /// A point in the plane.
+    void coordinates(Form form)
+    {
+        out_ << "[";
+        number(form);
+        out_ << ",";
+        number(form);
+        out_ << ",0]";
     }
 
     void number(Form form)
@@ -309,6 +462,9 @@ private:
             break;
         case Form::Length:
             out_.decimal(dice_.below(10'000'000), 4);
+            break;
+        case Form::Exact:
+            out_.decimal(dice_.below(10'000'000'000'000'000), 13);
             break;
         case Form::Radius:
             out_.decimal(1 + dice_.below(50'000), 3);
@@ -325,9 +481,24 @@ private:
     }
 
     Lines& out_;
-    bool groups_;
+    const std::string_view geometry_; ///< ends a property record, and names its group if groups are wanted
+    const std::string_view general_;
     Dice dice_;
     std::uint64_t nextHandle_ = firstHandle;
+    std::uint64_t blocks_ = 0; ///< made so far
+};
+
+struct Mode
+{
+    std::string_view name;
+    bool groups;
+    void (Maker::*make)(std::uint64_t count);
+};
+
+constexpr Mode modes[] = {
+    {"lines", false, &Maker::lines},           {"drawing", true, &Maker::drawing},
+    {"polyline", false, &Maker::longPolyline}, {"block", false, &Maker::largeBlock},
+    {"hatch", false, &Maker::largeHatch},
 };
 
 } // namespace
@@ -336,20 +507,18 @@ int main(int argc, char** argv)
 {
     std::uint64_t count = 0;
     const char* const digits = argc == 4 ? argv[1] : "";
-    const std::string_view kind = argc == 4 ? argv[3] : "";
+    const std::string_view name = argc == 4 ? argv[3] : "";
     const char* const end = digits + std::strlen(digits);
     const std::from_chars_result parsed = std::from_chars(digits, end, count);
-    if (parsed.ec != std::errc() || parsed.ptr != end || (kind != "lines" && kind != "drawing")) {
-        std::fputs("usage: make_recording OBJECTS FILE lines|drawing\n", stderr);
+    const auto mode = std::ranges::find(modes, name, &Mode::name);
+    if (parsed.ec != std::errc() || parsed.ptr != end || mode == std::end(modes)) {
+        std::fputs("usage: make_recording COUNT FILE lines|drawing|polyline|block|hatch\n", stderr);
         return 2;
     }
 
     Lines out(argv[2]);
-    Maker maker(out, kind == "drawing");
-    if (kind == "lines")
-        maker.lines(count);
-    else
-        maker.drawing(count);
+    Maker maker(out, mode->groups);
+    (maker.*mode->make)(count);
     if (!out.finish()) {
         std::fprintf(stderr, "make_recording: cannot write %s\n", argv[2]);
         return 1;
