@@ -73,7 +73,8 @@ void Writer::write(QTextStream& stream, const QString& statements) const
 {
     const QStringView text(statements);
     int from = 0;
-    for (int at = statements.indexOf(laterMark); at != -1; at = statements.indexOf(laterMark, from)) {
+    int at = later_.empty() ? -1 : statements.indexOf(laterMark);
+    for (; at != -1; at = statements.indexOf(laterMark, from)) {
         writeSliced(stream, text.mid(from, at - from));
         const int digits = at + laterMark.size();
         const Parts& parts = later_.at(laterNumber(text.mid(digits, kLaterDigits)));

@@ -93,6 +93,28 @@ TEST(RecordingFile, HoldsEveryFormAndGivesItBack)
     EXPECT_EQ(erased->getPersistentReactors()[1].getHandle().value(), ~std::uint64_t{0});
 }
 
+/// Longer than the buffers of before, the second more so than the first.
+TEST(RecordingFile, GoesOnBehindLongLines)
+{
+    const auto note = [](int letters) {
+        return R"({"added":{"class":"AcDbLine","handle":"2F","properties":[{"tag":"a","value":")" +
+               QByteArray(letters, 'x') + "\"}]}}\n";
+    };
+    Recording recording;
+    ASSERT_FALSE(read(note(3'000'000) + note(1) + note(9'000'000) + note(2), recording));
+    std::vector<int> lengths;
+    for (const OdRxObjectPtr& action : recording.actions)
+        lengths.push_back(odrxCast<CFxObjectAdded>(action.get())
+                              ->GetProperties()
+                              .front()
+                              ->GetValue(0)
+                              .GetString()
+                              .toQString()
+                              .size());
+    EXPECT_EQ(lengths, (std::vector<int>{3'000'000, 1, 9'000'000, 2}));
+    EXPECT_NE(complaint(note(3'000'000) + note(5'000'000), 4'000'000).find("longer than"), std::string::npos);
+}
+
 /// Longer than the stack is deep.
 TEST(RecordingFile, HoldsLongChainsAndTexts)
 {
