@@ -11,7 +11,8 @@ using namespace inkmacro;
 
 namespace {
 
-/// Two low surrogates in a row are in no text; the number of what is kept stands behind them, in three more.
+/// In no text: a low surrogate stands alone only for a byte of a file's name, of which none becomes this one. The
+/// number of what is kept stands behind it, in three more.
 const QString laterMark(2, QChar(0xDFFF));
 constexpr int kLaterDigits = 3;
 constexpr int kLaterDigitBits = 10;
