@@ -77,12 +77,12 @@ struct RawArguments
 {
     std::vector<std::string> files;
     std::string targets;
-    std::string output;
-    std::string installDir;
-    std::string optionNames;
-    std::string lineStyles;
+    std::optional<std::string> output;
+    std::optional<std::string> installDir;
+    std::optional<std::string> optionNames;
+    std::optional<std::string> lineStyles;
     std::string handle;
-    int recordingLanguage = 0;
+    std::optional<int> recordingLanguage;
     bool replay = false;
     bool json = false;
     bool version = false;
@@ -130,6 +130,46 @@ void checkFiles(const QStringList& files)
         throw WrongUse("standard input (-) is given more than once");
 }
 
+void declareArguments(CLI::App& app, RawArguments& raw)
+{
+    app.require_subcommand(0, 1);
+    app.add_flag("--version", raw.version);
+
+    CLI::App* const convert = app.add_subcommand("convert");
+    convert->add_option("FILE", raw.files)->required();
+    convert->add_option("--target", raw.targets)->required();
+    convert->add_option("--output", raw.output);
+    convert->add_flag("--replay", raw.replay);
+    convert->add_option("--recording-language", raw.recordingLanguage)->check(CLI::Range(0, 5));
+    convert->add_option("--install-dir", raw.installDir);
+    convert->add_option("--option-names", raw.optionNames);
+    convert->add_option("--line-styles", raw.lineStyles);
+    CLI::App* const inspect = app.add_subcommand("inspect");
+    inspect->add_option("FILE", raw.files)->required()->expected(1);
+    inspect->add_flag("--json", raw.json);
+    app.add_subcommand("check")->add_option("FILE", raw.files)->required();
+    CLI::App* const snapshot = app.add_subcommand("snapshot");
+    snapshot->add_option("FILE", raw.files)->required()->expected(1);
+    snapshot->add_option("--handle", raw.handle)->required();
+    snapshot->add_flag("--json", raw.json);
+    app.add_subcommand("schema");
+    app.add_subcommand("system-variables");
+}
+
+HostSettings hostSettings(const RawArguments& raw)
+{
+    HostSettings host;
+    host.recordingLanguage = raw.recordingLanguage;
+    if (raw.installDir)
+        host.installDir = decodeName(*raw.installDir);
+    if (raw.optionNames)
+        host.optionNames = decodeName(*raw.optionNames);
+    if (raw.lineStyles)
+        host.lineStyles = parseDirectory("--line-styles", decodeName(*raw.lineStyles));
+    host.replay = raw.replay;
+    return host;
+}
+
 } // namespace
 
 QString targetName(const TargetRow& row)
@@ -141,29 +181,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
 {
     RawArguments raw;
     CLI::App app;
-    app.require_subcommand(0, 1);
-    app.add_flag("--version", raw.version);
-
-    CLI::App* const convert = app.add_subcommand("convert");
-    convert->add_option("FILE", raw.files)->required();
-    convert->add_option("--target", raw.targets)->required();
-    const CLI::Option* const output = convert->add_option("--output", raw.output);
-    convert->add_flag("--replay", raw.replay);
-    const CLI::Option* const language =
-        convert->add_option("--recording-language", raw.recordingLanguage)->check(CLI::Range(0, 5));
-    const CLI::Option* const installDir = convert->add_option("--install-dir", raw.installDir);
-    const CLI::Option* const optionNames = convert->add_option("--option-names", raw.optionNames);
-    const CLI::Option* const lineStyles = convert->add_option("--line-styles", raw.lineStyles);
-    CLI::App* const inspect = app.add_subcommand("inspect");
-    inspect->add_option("FILE", raw.files)->required()->expected(1);
-    inspect->add_flag("--json", raw.json);
-    app.add_subcommand("check")->add_option("FILE", raw.files)->required();
-    CLI::App* const snapshot = app.add_subcommand("snapshot");
-    snapshot->add_option("FILE", raw.files)->required()->expected(1);
-    snapshot->add_option("--handle", raw.handle)->required();
-    snapshot->add_flag("--json", raw.json);
-    app.add_subcommand("schema");
-    app.add_subcommand("system-variables");
+    declareArguments(app, raw);
 
     CommandLine line;
     try {
@@ -184,20 +202,12 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
         line.targets = parseTargets(decodeName(raw.targets));
     if (line.command == CommandLine::Command::Snapshot)
         line.handle = parseHandle(decodeName(raw.handle));
-    if (*output) {
-        if (raw.output.empty())
+    if (raw.output) {
+        if (raw.output->empty())
             throw WrongUse("--output is empty");
-        line.output = decodeName(raw.output);
+        line.output = decodeName(*raw.output);
     }
-    if (*language)
-        line.host.recordingLanguage = raw.recordingLanguage;
-    if (*installDir)
-        line.host.installDir = decodeName(raw.installDir);
-    if (*optionNames)
-        line.host.optionNames = decodeName(raw.optionNames);
-    if (*lineStyles)
-        line.host.lineStyles = parseDirectory("--line-styles", decodeName(raw.lineStyles));
-    line.host.replay = raw.replay;
+    line.host = hostSettings(raw);
     return line;
 }
 
