@@ -83,6 +83,9 @@ public:
     /// Keeps a text that nobody else does.
     Fill& text(QString&& value);
     Fill& text(CFxString&& value) { return text(QString(value.toQString())); }
+    // What Qt's operators give is a temporary that is const.
+    Fill& text(const QString&& value) { return text(QString(value)); }
+    Fill& text(const CFxString&& value) { return text(QString(value.toQString())); }
 
     Fill& number(int value) { return add(qlonglong{value}); }
     Fill& number(long value) { return add(qlonglong{value}); }

@@ -101,12 +101,8 @@ static const Phrase integerElement{"array of integers",
 static const Phrase realElement{"array of numbers",
                                 {
                                     .cpp = "%1%3.add(%4);%2",
-                                    .cppCom = "%1val%4 = %5;%2"
-                                              "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (double*)&(val%4) );%2"
-                                              "%1rgIndices%4++;%2",
                                     .csharp = "%1%3[%4] = %5;%2",
                                     .javascript = "%1%3[%4] = %5;%2",
-                                    .vbNet = "%1%3(%4) = %5%2",
                                     .vba = "%1%3(%4) = %5%2",
                                 }};
 
@@ -181,15 +177,6 @@ static QString formatted(double value, NumberForm numbers)
     return numbers == NumberForm::Long ? FormatLong(value) : FormatShort(value);
 }
 
-QString realLines(const ArrayPlace& place, const std::vector<double>& values, NumberForm numbers)
-{
-    std::vector<QString> words;
-    words.reserve(values.size());
-    for (const double value : values)
-        words.push_back(formatted(value, numbers));
-    return elementLines(realElement, "double", place, words);
-}
-
 /// Nothing in COM: there the locals come first.
 static QString singleLine(const Phrase& phrase, const ArrayPlace& place, std::size_t index, const QString& word)
 {
@@ -218,7 +205,7 @@ QString bareObjectTypeLine(const ArrayPlace& place, std::size_t index, const QSt
 
 QString realLine(const ArrayPlace& place, std::size_t index, double value, NumberForm numbers)
 {
-    return singleLine(realElement, place, index, formatted(value, numbers));
+    return elementLine(realElement, place, index, formatted(value, numbers));
 }
 
 // Of all lines of points the values are indentation, line end, name, the indices of the coordinates (but none in C++),

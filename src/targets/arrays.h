@@ -59,7 +59,6 @@ QString objectLines(const ArrayPlace& place, std::vector<QString> words);
 /// `words` as objectTypeWord makes them, or variables.
 QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words);
 QString integerLines(const ArrayPlace& place, const std::vector<int>& values);
-QString realLines(const ArrayPlace& place, const std::vector<double>& values, NumberForm numbers);
 /// All coordinates of a point are written together. Empty in C# and JavaScript, which take lists.
 QString pointLines(const ArrayPlace& place, const Coordinates& coordinates, NumberForm numbers);
 
@@ -75,6 +74,7 @@ QString bareObjectLine(const ArrayPlace& place, std::size_t index, const QString
 QString objectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word);
 /// Of an array whose elements are object types and not their numbers.
 QString bareObjectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word);
+/// Empty in VB.NET too: there and in C++ COM arrays of numbers are filled by points.
 QString realLine(const ArrayPlace& place, std::size_t index, double value, NumberForm numbers);
 
 /// Fills the array of the one point that an operation takes, in C++ COM. The lines work with the locals `x`, `y` and

@@ -62,7 +62,14 @@ static QString elementsOf(const ArrayPlace& place, const PickedArray& array)
 {
     if (const auto* const names = std::get_if<0>(&array.elements))
         return objectLines(place, std::vector<QString>(names->begin(), names->end()));
-    return realLines(place, spatial(std::get<1>(array.elements)).values, NumberForm::Short);
+    const Coordinates coordinates = spatial(std::get<1>(array.elements));
+    const Target target = place.writer.target;
+    if (target == Target::CppCom || target == Target::VbNet)
+        return pointLines(place, coordinates, NumberForm::Short);
+    QString lines;
+    for (std::size_t i = 0; i < coordinates.values.size(); ++i)
+        lines += realLine(place, i, coordinates.values[i], NumberForm::Short);
+    return lines;
 }
 
 QString pickedArrays(Writer& writer, std::uint32_t number, std::span<const PickedArray> arrays)
@@ -82,10 +89,9 @@ QString pickedArrays(Writer& writer, std::uint32_t number, std::span<const Picke
         text += LineEnd;
 
     for (const PickedArray& array : arrays) {
-        // Of Basic's two, VBA has no blanks around the index of a number.
-        const bool tight = target == Target::Vba && !holdsObjects(array);
+        // VBA has blanks around the index of an object, and none around that of a number.
         const ArrayPlace place(writer, array.name + QString::number(number), number,
-                               tight ? Brackets::Tight : Brackets::Spaced);
+                               holdsObjects(array) ? Brackets::Spaced : Brackets::Tight);
         // All have one number, so COM's locals are kept apart.
         const bool grouped = target == Target::CppCom && &array != arrays.data();
         text += grouped ? inOwnGroup(place, [&](const ArrayPlace& inner) { return elementsOf(inner, array); })

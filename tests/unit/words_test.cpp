@@ -174,6 +174,8 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitPromptSelection: listed element", {Cpp, VbNet, CppCom, Vba}},
         {"EmitPromptSelection: look-up", allButCpp},
         {"EmitPromptSelection: looked-up word", {Cpp}, 2},
+        // These fill arrays of numbers by points.
+        {"array of numbers", {VbNet, CppCom}},
         // Lists stand within a call or in front of it.
         {"array of integers", {CSharp, JavaScript}},
         {"array of points", {CSharp, JavaScript}},

@@ -297,80 +297,64 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 
         {
             long rgIndices0;
-            rgIndices0 = 0;
-            double val0;
-            val0 = 11;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 11.25;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 12;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 11;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 6;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 11;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 20;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 11;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 32;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 11;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 40;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 1;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 11;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 51;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 8;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 51;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
+            rgIndices0 = -1;
+            double x_0, y_0, z_0;
+            x_0=11; y_0=0; z_0=0;
+            rgIndices0=0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=1;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=2;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
+            x_0=11.25; y_0=12; z_0=0;
+            rgIndices0=3;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=4;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=5;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
+            x_0=11; y_0=6; z_0=0;
+            rgIndices0=6;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=7;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=8;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
+            x_0=11; y_0=20; z_0=0;
+            rgIndices0=9;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=10;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=11;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
+            x_0=11; y_0=32; z_0=0;
+            rgIndices0=12;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=13;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=14;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
+            x_0=11; y_0=40; z_0=1;
+            rgIndices0=15;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=16;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=17;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
+            x_0=11; y_0=51; z_0=0;
+            rgIndices0=18;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=19;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=20;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
+            x_0=8; y_0=51; z_0=0;
+            rgIndices0=21;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=22;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=23;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
         }
 
         {
@@ -675,26 +659,22 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 
         {
             long rgIndices0;
-            rgIndices0 = 0;
-            double val0;
-            val0 = 7.5;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 8;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 3;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
+            rgIndices0 = -1;
+            double x_0, y_0, z_0;
+            x_0=7.5; y_0=0; z_0=0;
+            rgIndices0=0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=1;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=2;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
+            x_0=8; y_0=3; z_0=0;
+            rgIndices0=3;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=4;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=5;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
         }
 
         {
@@ -731,17 +711,15 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 
         {
             long rgIndices0;
-            rgIndices0 = 0;
-            double val0;
-            val0 = 8;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 14.5;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
+            rgIndices0 = -1;
+            double x_0, y_0, z_0;
+            x_0=8; y_0=14.5; z_0=0;
+            rgIndices0=0;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=1;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=2;
+            SafeArrayPutElement( PointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
         }
 
         {
@@ -781,32 +759,28 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 
         {
             long rgIndices0;
-            rgIndices0 = 0;
-            double val0;
-            val0 = 20;
-            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 10;
-            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
+            rgIndices0 = -1;
+            double x_0, y_0, z_0;
+            x_0=20; y_0=10; z_0=0;
+            rgIndices0=0;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=1;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=2;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
         }
 
         {
             long rgIndices0;
-            rgIndices0 = 0;
-            double val0;
-            val0 = 18;
-            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 12;
-            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
+            rgIndices0 = -1;
+            double x_0, y_0, z_0;
+            x_0=18; y_0=12; z_0=0;
+            rgIndices0=0;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=1;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=2;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
         }
 
         {
@@ -846,32 +820,28 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 
         {
             long rgIndices1;
-            rgIndices1 = 0;
-            double val1;
-            val1 = 5;
-            SafeArrayPutElement( firstPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
-            rgIndices1++;
-            val1 = 6;
-            SafeArrayPutElement( firstPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
-            rgIndices1++;
-            val1 = 0;
-            SafeArrayPutElement( firstPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
-            rgIndices1++;
+            rgIndices1 = -1;
+            double x_1, y_1, z_1;
+            x_1=5; y_1=6; z_1=0;
+            rgIndices1=0;
+            SafeArrayPutElement( firstPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(x_1) );
+            rgIndices1=1;
+            SafeArrayPutElement( firstPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(y_1) );
+            rgIndices1=2;
+            SafeArrayPutElement( firstPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(z_1) );
         }
 
         {
             long rgIndices1;
-            rgIndices1 = 0;
-            double val1;
-            val1 = 15.5;
-            SafeArrayPutElement( secondPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
-            rgIndices1++;
-            val1 = 20;
-            SafeArrayPutElement( secondPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
-            rgIndices1++;
-            val1 = 0;
-            SafeArrayPutElement( secondPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(val1) );
-            rgIndices1++;
+            rgIndices1 = -1;
+            double x_1, y_1, z_1;
+            x_1=15.5; y_1=20; z_1=0;
+            rgIndices1=0;
+            SafeArrayPutElement( secondPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(x_1) );
+            rgIndices1=1;
+            SafeArrayPutElement( secondPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(y_1) );
+            rgIndices1=2;
+            SafeArrayPutElement( secondPointOnEntityDblArray1.parray, &rgIndices1, (double*)&(z_1) );
         }
 
         {
@@ -911,32 +881,28 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 
         {
             long rgIndices0;
-            rgIndices0 = 0;
-            double val0;
-            val0 = 0;
-            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 1.25;
-            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
+            rgIndices0 = -1;
+            double x_0, y_0, z_0;
+            x_0=0; y_0=1.25; z_0=0;
+            rgIndices0=0;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=1;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=2;
+            SafeArrayPutElement( firstPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
         }
 
         {
             long rgIndices0;
-            rgIndices0 = 0;
-            double val0;
-            val0 = 1.5;
-            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
-            val0 = 0;
-            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(val0) );
-            rgIndices0++;
+            rgIndices0 = -1;
+            double x_0, y_0, z_0;
+            x_0=1.5; y_0=0; z_0=0;
+            rgIndices0=0;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(x_0) );
+            rgIndices0=1;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(y_0) );
+            rgIndices0=2;
+            SafeArrayPutElement( secondPointOnEntityDblArray0.parray, &rgIndices0, (double*)&(z_0) );
         }
 
         {

@@ -146,30 +146,30 @@ Public Class recording
             EntitiesToRemoveArray0( 6 ) = New DispatchWrapper( spline11 )
             EntitiesToRemoveArray0( 7 ) = New DispatchWrapper( infiniteline12 )
 
-            PointOnEntityDblArray0( 0 ) = 11
-            PointOnEntityDblArray0( 1 ) = 0
-            PointOnEntityDblArray0( 2 ) = 0
-            PointOnEntityDblArray0( 3 ) = 11.25
-            PointOnEntityDblArray0( 4 ) = 12
-            PointOnEntityDblArray0( 5 ) = 0
-            PointOnEntityDblArray0( 6 ) = 11
-            PointOnEntityDblArray0( 7 ) = 6
-            PointOnEntityDblArray0( 8 ) = 0
-            PointOnEntityDblArray0( 9 ) = 11
-            PointOnEntityDblArray0( 10 ) = 20
-            PointOnEntityDblArray0( 11 ) = 0
-            PointOnEntityDblArray0( 12 ) = 11
-            PointOnEntityDblArray0( 13 ) = 32
-            PointOnEntityDblArray0( 14 ) = 0
-            PointOnEntityDblArray0( 15 ) = 11
-            PointOnEntityDblArray0( 16 ) = 40
-            PointOnEntityDblArray0( 17 ) = 1
-            PointOnEntityDblArray0( 18 ) = 11
-            PointOnEntityDblArray0( 19 ) = 51
-            PointOnEntityDblArray0( 20 ) = 0
-            PointOnEntityDblArray0( 21 ) = 8
-            PointOnEntityDblArray0( 22 ) = 51
-            PointOnEntityDblArray0( 23 ) = 0
+            PointOnEntityDblArray0( 0 )=11
+            PointOnEntityDblArray0( 1 )=0
+            PointOnEntityDblArray0( 2 )=0
+            PointOnEntityDblArray0( 3 )=11.25
+            PointOnEntityDblArray0( 4 )=12
+            PointOnEntityDblArray0( 5 )=0
+            PointOnEntityDblArray0( 6 )=11
+            PointOnEntityDblArray0( 7 )=6
+            PointOnEntityDblArray0( 8 )=0
+            PointOnEntityDblArray0( 9 )=11
+            PointOnEntityDblArray0( 10 )=20
+            PointOnEntityDblArray0( 11 )=0
+            PointOnEntityDblArray0( 12 )=11
+            PointOnEntityDblArray0( 13 )=32
+            PointOnEntityDblArray0( 14 )=0
+            PointOnEntityDblArray0( 15 )=11
+            PointOnEntityDblArray0( 16 )=40
+            PointOnEntityDblArray0( 17 )=1
+            PointOnEntityDblArray0( 18 )=11
+            PointOnEntityDblArray0( 19 )=51
+            PointOnEntityDblArray0( 20 )=0
+            PointOnEntityDblArray0( 21 )=8
+            PointOnEntityDblArray0( 22 )=51
+            PointOnEntityDblArray0( 23 )=0
 
             If 1 Then
                 Dim result1 As Inkwright.iwSetCommandOptionResult_e 
@@ -471,12 +471,12 @@ Public Class recording
             EntitiesToExtendArray0( 0 ) = New DispatchWrapper( line1 )
             EntitiesToExtendArray0( 1 ) = New DispatchWrapper( circlearc15 )
 
-            PointOnEntityDblArray0( 0 ) = 7.5
-            PointOnEntityDblArray0( 1 ) = 0
-            PointOnEntityDblArray0( 2 ) = 0
-            PointOnEntityDblArray0( 3 ) = 8
-            PointOnEntityDblArray0( 4 ) = 3
-            PointOnEntityDblArray0( 5 ) = 0
+            PointOnEntityDblArray0( 0 )=7.5
+            PointOnEntityDblArray0( 1 )=0
+            PointOnEntityDblArray0( 2 )=0
+            PointOnEntityDblArray0( 3 )=8
+            PointOnEntityDblArray0( 4 )=3
+            PointOnEntityDblArray0( 5 )=0
 
             If 1 Then
                 Dim result1 As Inkwright.iwSetCommandOptionResult_e 
@@ -496,9 +496,9 @@ Public Class recording
 
             EntitiesToRemoveArray0( 0 ) = New DispatchWrapper( line5 )
 
-            PointOnEntityDblArray0( 0 ) = 8
-            PointOnEntityDblArray0( 1 ) = 14.5
-            PointOnEntityDblArray0( 2 ) = 0
+            PointOnEntityDblArray0( 0 )=8
+            PointOnEntityDblArray0( 1 )=14.5
+            PointOnEntityDblArray0( 2 )=0
 
             If 1 Then
                 Dim result1 As Inkwright.iwSetCommandOptionResult_e 
@@ -519,13 +519,13 @@ Public Class recording
 
             secondEntityArray0( 0 ) = New DispatchWrapper( line3 )
 
-            firstPointOnEntityDblArray0( 0 ) = 20
-            firstPointOnEntityDblArray0( 1 ) = 10
-            firstPointOnEntityDblArray0( 2 ) = 0
+            firstPointOnEntityDblArray0( 0 )=20
+            firstPointOnEntityDblArray0( 1 )=10
+            firstPointOnEntityDblArray0( 2 )=0
 
-            secondPointOnEntityDblArray0( 0 ) = 18
-            secondPointOnEntityDblArray0( 1 ) = 12
-            secondPointOnEntityDblArray0( 2 ) = 0
+            secondPointOnEntityDblArray0( 0 )=18
+            secondPointOnEntityDblArray0( 1 )=12
+            secondPointOnEntityDblArray0( 2 )=0
 
             If 1 Then
                 Dim result1 As Inkwright.iwSetCommandOptionResult_e 
@@ -546,13 +546,13 @@ Public Class recording
 
             secondEntityArray1( 0 ) = New DispatchWrapper( polyline16 )
 
-            firstPointOnEntityDblArray1( 0 ) = 5
-            firstPointOnEntityDblArray1( 1 ) = 6
-            firstPointOnEntityDblArray1( 2 ) = 0
+            firstPointOnEntityDblArray1( 0 )=5
+            firstPointOnEntityDblArray1( 1 )=6
+            firstPointOnEntityDblArray1( 2 )=0
 
-            secondPointOnEntityDblArray1( 0 ) = 15.5
-            secondPointOnEntityDblArray1( 1 ) = 20
-            secondPointOnEntityDblArray1( 2 ) = 0
+            secondPointOnEntityDblArray1( 0 )=15.5
+            secondPointOnEntityDblArray1( 1 )=20
+            secondPointOnEntityDblArray1( 2 )=0
 
             If 1 Then
                 Dim result1 As Inkwright.iwSetCommandOptionResult_e 
@@ -573,13 +573,13 @@ Public Class recording
 
             secondEntityArray0( 0 ) = New DispatchWrapper( line1 )
 
-            firstPointOnEntityDblArray0( 0 ) = 0
-            firstPointOnEntityDblArray0( 1 ) = 1.25
-            firstPointOnEntityDblArray0( 2 ) = 0
+            firstPointOnEntityDblArray0( 0 )=0
+            firstPointOnEntityDblArray0( 1 )=1.25
+            firstPointOnEntityDblArray0( 2 )=0
 
-            secondPointOnEntityDblArray0( 0 ) = 1.5
-            secondPointOnEntityDblArray0( 1 ) = 0
-            secondPointOnEntityDblArray0( 2 ) = 0
+            secondPointOnEntityDblArray0( 0 )=1.5
+            secondPointOnEntityDblArray0( 1 )=0
+            secondPointOnEntityDblArray0( 2 )=0
 
             If 1 Then
                 Dim result1 As Inkwright.iwSetCommandOptionResult_e 
