@@ -7,28 +7,18 @@
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/hatchInsertions.h"
 
-#include <cmath>
-
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;
 
 namespace {
 
-/// A segment that is bent by no more than this is straight.
-constexpr double kStraight = 1e-10;
-
-/// A polyline of its own is the boundary. The bulges are tangents of a quarter of the angle of each arc.
+/// A polyline of its own is the boundary.
 QString hatchByBulges(Writer& writer, const CFxString& hatch, const HatchPattern& pattern,
                       const CFxCustomAction& action)
 {
     const CFxString polyline = QStringLiteral("hatch_Polyline_%1").arg(processCounters.hatchPolylines);
     QString text = EmitHatchBoundaryPolyline(writer, polyline, action.GetData(8).Get2dPointArray(), true);
-    std::int32_t index = 0;
-    for (const double bulge : action.GetData(7).GetDoubleArray()) {
-        if (bulge > kStraight || bulge < -kStraight)
-            text += EmitSetSegmentAngle(writer, polyline, index, 4 * std::atan(bulge));
-        ++index;
-    }
+    text += EmitSetSegmentAngles(writer, polyline, action.GetData(7).GetDoubleArray());
     ++processCounters.hatchPolylines;
     return text + EmitHatchByPolyline(writer, hatch, polyline, pattern, action.GetData(9).GetBool());
 }

@@ -39,18 +39,25 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionRegion(OdSmartPtr<CFxCustomActi
     return kFxSuccess;
 }
 
+bool CFxConverterIWAPIImpl::NameInsertedObject(const CFxCustomAction& action, CFxString& name)
+{
+    if (!name.isEmpty())
+        return true;
+    const OdDbHandle handle = action.GetData(3).GetHandle();
+    const OdRxClass* const cls = action.GetData(4).GetClass();
+    if (!cls || !IsSupportedClass(cls->name()))
+        return false;
+    RegisterObject(handle, cls);
+    ResolveVariable(handle, cls, name);
+    return true;
+}
+
 std::int32_t CFxConverterIWAPIImpl::ConvertActionViewport(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
     CFxString name = takeVariable(text, HandedVariable::Replaced);
     const OdArray<OdGePoint3d>& polygon = action->GetData(0).GetPointArray();
-    if (name.isEmpty()) {
-        const OdDbHandle handle = action->GetData(3).GetHandle();
-        const OdRxClass* const cls = action->GetData(4).GetClass();
-        if (!cls || !IsSupportedClass(cls->name()))
-            return kFxSuccess;
-        RegisterObject(handle, cls);
-        ResolveVariable(handle, cls, name);
-    }
+    if (!NameInsertedObject(*action, name))
+        return kFxSuccess;
     text = EmitInsertViewport(writer, name, action->GetData(5).GetString(), polygon);
     return kFxSuccess;
 }

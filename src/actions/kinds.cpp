@@ -30,7 +30,7 @@ const ActionForm* FormOf(const CFxCustomAction& action)
     const std::span<const ActionForm> forms = kind->forms();
     const auto form =
         std::ranges::find_if(forms, [&](const ActionForm& candidate) { return candidate.data.fits(action); });
-    return form != forms.end() && (form->handler || form->statements) ? &*form : nullptr;
+    return form != forms.end() ? &*form : nullptr;
 }
 
 } // namespace inkmacro

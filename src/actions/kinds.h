@@ -61,7 +61,7 @@ using ActionHandler = std::int32_t (CFxConverterIWAPIImpl::*)(OdSmartPtr<CFxCust
 /// The statements of a form that needs nothing but its data. They take the place of the variable that is handed over.
 using ActionStatements = QString (*)(Writer& writer, const CFxCustomAction& action);
 
-/// One way in which a kind of custom action comes. Has a handler, or statements, or neither and is refused.
+/// One way in which a kind of custom action comes. Has a handler or statements.
 struct ActionForm
 {
     constexpr ActionForm() = default;
@@ -86,8 +86,6 @@ struct KindNumbers
 class ActionKind
 {
 public:
-    /// Without a handler: has a name, and is refused.
-    constexpr ActionKind(KindNumbers numbers, const char* name) : numbers(numbers), name(name) {}
     /// One handler for whatever data come.
     constexpr ActionKind(KindNumbers numbers, const char* name, ActionHandler handler)
         : numbers(numbers), name(name), form_{{}, handler}
@@ -128,9 +126,18 @@ inline constexpr ActionForm chamferForms[] = {
      &CFxConverterIWAPIImpl::ConvertActionCornersOfPolyline},
     {DataSignature::anyOf(6), &CFxConverterIWAPIImpl::ConvertActionChamfer},
 };
-// Forms that are told apart by words, in the files of their topics.
+// A truth value takes the boundary away, whichever it is.
+inline constexpr ActionForm clipBoundaryForms[] = {
+    {DataSignature::beginning({DataSignature::anyType, DataSignature::anyType, CFxCustomActionData::kBool}),
+     &CFxConverterIWAPIImpl::ConvertActionClipBoundary},
+    {DataSignature::beginning({DataSignature::anyType, DataSignature::anyType, CFxCustomActionData::k2dPointArray}),
+     &CFxConverterIWAPIImpl::ConvertActionClipBoundary},
+};
+// Forms that are told apart by words or have statements of their own, in the files of their topics.
 extern const ActionForm coordinateSystemForms[21];
 extern const ActionForm sheetForms[8];
+extern const ActionForm polylineEditForms[12];
+extern const ActionForm polylineVertexForms[2];
 
 /// In the order of their numbers; the host has no others.
 inline constexpr auto actionKinds = [] {
@@ -154,7 +161,7 @@ inline constexpr auto actionKinds = [] {
         {14, "named view", &Impl::ConvertActionNamedView},
         {15, "embedded object",
          ActionForm{DataSignature::exactly({kInt, kString}), &Impl::ConvertActionEmbeddedObject}},
-        {kPolyline, "polyline"},
+        {kPolyline, "polyline", &Impl::ConvertActionPolyline},
         {17, "erase", &Impl::ConvertActionErase},
         {18, "insert hatch", &Impl::ConvertActionInsertHatch},
         // Colors of the host's screen elements; the element is the action's first datum.
@@ -167,16 +174,16 @@ inline constexpr auto actionKinds = [] {
         {37, "group add", &Impl::ConvertActionGroupAdd},
         {38, "group remove", &Impl::ConvertActionGroupRemove},
         {39, "attribute value", &Impl::ConvertActionAttributeValue},
-        {40, "polyline edit"},
+        {40, "polyline edit", polylineEditForms},
         {kViewBackground, "view background", &Impl::ConvertActionViewBackground},
-        {42, "polyline vertex"},
+        {42, "polyline vertex", polylineVertexForms},
         {43, "zoom", &Impl::ConvertActionZoom},
         {44, "region", &Impl::ConvertActionRegion},
         {45, "activate", &Impl::ConvertActionActivate},
         {kViewport, "viewport", &Impl::ConvertActionViewport},
         {47, "print style",
          ActionForm{DataSignature::beginning({kString, kBool, kString}), &Impl::ConvertActionPrintStyle}},
-        {48, "clip boundary"},
+        {48, "clip boundary", clipBoundaryForms},
         {49, "view tiles", &Impl::ConvertActionViewTiles},
         {50, "join", &Impl::ConvertActionJoin},
         {55, "explode", &Impl::ConvertActionExplode},

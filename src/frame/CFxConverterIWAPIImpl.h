@@ -63,6 +63,7 @@ public:
     std::int32_t ConvertActionCoordinateSystemOfEntity(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionNamedView(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionEmbeddedObject(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionPolyline(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionErase(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionInsertHatch(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionElementColor(OdSmartPtr<CFxCustomAction> action, QString& text);
@@ -73,15 +74,23 @@ public:
     std::int32_t ConvertActionGroupAdd(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionGroupRemove(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionAttributeValue(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionPolylineJoin(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionViewBackground(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionZoom(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionRegion(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionActivate(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionViewport(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionPrintStyle(OdSmartPtr<CFxCustomAction> action, QString& text);
+    std::int32_t ConvertActionClipBoundary(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionViewTiles(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionJoin(OdSmartPtr<CFxCustomAction> action, QString& text);
     std::int32_t ConvertActionExplode(OdSmartPtr<CFxCustomAction> action, QString& text);
+    /// The statement for one edit of the polyline of that variable.
+    using EmitPolylineEdit = QString (*)(Writer& writer, const CFxString& polyline, const CFxCustomAction& action);
+    template<EmitPolylineEdit edit>
+    std::int32_t ConvertActionPolylineEdit(OdSmartPtr<CFxCustomAction> action, QString& text);
+    template<EmitPolylineEdit edit>
+    std::int32_t ConvertActionPolylineVertex(OdSmartPtr<CFxCustomAction> action, QString& text);
 
     // Variables of the generated code: variables.cpp. Naming one neither registers an object nor writes a statement
     // that fetches it; that is CFxConverterIWAPIObject::ObjectVariable.
@@ -135,6 +144,10 @@ private:
     std::int32_t ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text);
     CFxConverterIWAPIObject& Objects() const;
     EntityList EntitiesOf(const CFxCustomAction& action) const;
+    QString EditOfPolyline(const CFxCustomAction& action, std::int32_t first, EmitPolylineEdit edit);
+    /// Registers and names the object that the data 3 and 4 tell, unless a name was handed over. False, and no name, for
+    /// an object whose class is not converted.
+    bool NameInsertedObject(const CFxCustomAction& action, CFxString& name);
     std::vector<TrimPiece> RegisterPieces(const CFxCustomAction& trim);
     /// One side of a corner, in three data from the first on.
     CornerSide SideOf(const CFxCustomAction& action, std::int32_t first) const;

@@ -6,6 +6,8 @@
 #include "targets/arrays.h"
 #include "targets/wording.h"
 
+#include <cmath>
+
 using namespace inkmacro;
 
 static const Phrase insertBoundaryPolyline{
@@ -49,6 +51,20 @@ QString EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::int3
     if (writer.target == Target::Cpp)
         statement.number(++writer.UniqueCounter);
     return statement.text(polyline).number(index).shortReal(angle);
+}
+
+QString EmitSetSegmentAngles(Writer& writer, const CFxString& polyline, const OdArray<double>& bulges)
+{
+    // A segment that is bent by no more than this is straight.
+    constexpr double straight = 1e-10;
+    QString text;
+    std::int32_t index = 0;
+    for (const double bulge : bulges) {
+        if (bulge > straight || bulge < -straight)
+            text += EmitSetSegmentAngle(writer, polyline, index, 4 * std::atan(bulge));
+        ++index;
+    }
+    return text;
 }
 
 /// In a page this insertion alone goes by the sketch manager's name of the other targets, which no page knows. It has

@@ -27,6 +27,8 @@ QString EmitHatchBoundaryPolyline(Writer& writer, const CFxString& name, const O
                                   bool closed);
 /// Bends the segment that begins at the vertex; `angle` is that of the arc, in radians.
 QString EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::int32_t index, double angle);
+/// Bends the segments by their bulges, the tangents of a quarter of the angle of each arc.
+QString EmitSetSegmentAngles(Writer& writer, const CFxString& polyline, const OdArray<double>& bulges);
 /// With `erase` the polyline does not outlive the insertion.
 QString EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxString& polyline,
                             const HatchPattern& pattern, bool erase);

@@ -24,7 +24,8 @@ def _value(properties, tag):
 
 
 CHANGES = {"put_Erased", "put_Layer"}
-# The custom actions that erase their objects and that trim them.
+# The custom actions that draw a polyline, that erase their objects and that trim them.
+DRAWING = 16
 ERASING = 17
 TRIMMING = 6
 
@@ -146,6 +147,11 @@ class _Objects:
             self.calls.append((way, "put_Erased", [True]))
 
     def custom(self, record):
+        if record["kind"] == DRAWING:
+            data = record["data"]
+            vertices = [{"value": {"point": point}} for point in data[0]["points"]]
+            self.added({"class": data[4]["class"], "handle": data[3]["handle"],
+                        "properties": [{"tag": "Vertex", "value": {"collection": {"elements": vertices}}}]})
         if record["kind"] == ERASING:
             self.calls += [(self.ways[handle], "put_Erased", [True])
                            for handle in record["data"][0]["handles"] if handle in self.ways]

@@ -1,0 +1,23 @@
+// The custom action that clips an image or takes its clip boundary away. The command that attached the image hands its
+// variable over.
+
+#include "targets/clipBoundaries.h"
+#include "actions/handedVariable.h"
+#include "actions/kinds.h"
+#include "objects/CFxConverterIWAPIObject.h"
+
+/// Of an image that the macro does not know the statement that would fetch it is lost, and the new name stays.
+std::int32_t CFxConverterIWAPIImpl::ConvertActionClipBoundary(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    CFxString image = inkmacro::takeVariable(text, inkmacro::HandedVariable::Replaced);
+    if (image.isEmpty())
+        image = Objects().NameObject(action->GetData(0).GetHandle(), action->GetData(1).GetClass());
+    if (image.isEmpty())
+        return kFxSuccess;
+    const CFxCustomActionData& boundary = action->GetData(2);
+    // A truth value removes the boundary, whichever it is.
+    text = boundary.GetType() == CFxCustomActionData::kBool
+               ? EmitRemoveClipBoundary(writer, image)
+               : EmitSetClipBoundary(writer, image, boundary.Get2dPointArray());
+    return kFxSuccess;
+}

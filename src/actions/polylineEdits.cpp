@@ -1,0 +1,219 @@
+// The custom actions that edit a polyline and those that say more of a polyline that was drawn.
+
+#include "targets/polylineEdits.h"
+#include "actions/handedVariable.h"
+#include "actions/kinds.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/targets/setters.h"
+#include "targets/hatches.h"
+
+#include <algorithm>
+
+using inkmacro::HandedVariable;
+using inkmacro::takeVariable;
+
+using enum CFxCustomActionData::_Type;
+
+/// The polyline is told by two data from `first` on, by a handle and a class or by arrays of which the first counts.
+/// One without a variable gets no statement.
+QString CFxConverterIWAPIImpl::EditOfPolyline(const CFxCustomAction& action, std::int32_t first, EmitPolylineEdit edit)
+{
+    const CFxCustomActionData& handle = action.GetData(first);
+    const CFxCustomActionData& cls = action.GetData(first + 1);
+    CFxString polyline;
+    QString text;
+    if (handle.GetType() == kHandleArray) {
+        const OdRxClass* const firstClass = ClassAt(cls.GetClassArray(), 0);
+        if (handle.GetHandleArray().empty())
+            throw OdError_InvalidIndex();
+        text = Objects().ObjectVariable(handle.GetHandleArray().front(), firstClass, polyline);
+    } else {
+        text = Objects().ObjectVariable(handle.GetHandle(), cls.GetClass(), polyline);
+    }
+    return polyline.isEmpty() ? QString() : text + edit(writer, polyline, action);
+}
+
+template<CFxConverterIWAPIImpl::EmitPolylineEdit edit>
+std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineEdit(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    takeVariable(text, HandedVariable::Replaced);
+    text = EditOfPolyline(*action, 1, edit);
+    return kFxSuccess;
+}
+
+template<CFxConverterIWAPIImpl::EmitPolylineEdit edit>
+std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineVertex(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    takeVariable(text, HandedVariable::AppendedTo);
+    text += EditOfPolyline(*action, 0, edit);
+    return kFxSuccess;
+}
+
+/// The first object is joined with those of the others that can be; the rest is not even fetched.
+std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineJoin(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    struct Joint
+    {
+        const char* cls;
+        QString (*statement)(Writer& writer, const CFxString& polyline, const CFxString& other);
+    };
+    static constexpr Joint joints[] = {
+        {"AcDbPolyline", &EmitJoinPolyline}, {"AcDbLine", &EmitJoinLine}, {"AcDbArc", &EmitJoinCircleArc}};
+
+    takeVariable(text, HandedVariable::Replaced);
+    const std::vector<OdDbHandle>& objects = action->GetData(1).GetHandleArray();
+    const std::vector<const OdRxClass*>& classes = action->GetData(2).GetClassArray();
+    if (objects.size() < 2)
+        return kFxFailure;
+    CFxString polyline;
+    const QString fetch = Objects().ObjectVariable(objects[0], ClassAt(classes, 0), polyline);
+    if (polyline.isEmpty())
+        return kFxSuccess;
+    text = fetch;
+    for (std::size_t i = 1; i < objects.size(); ++i) {
+        const OdRxClass* const cls = ClassAt(classes, i);
+        const auto joint = std::ranges::find_if(
+            joints, [&](const Joint& candidate) { return cls && CFxString(cls->name()).equalNoCase(candidate.cls); });
+        if (joint == std::end(joints))
+            continue;
+        CFxString other;
+        text += Objects().ObjectVariable(objects[i], cls, other);
+        text += joint->statement(writer, polyline, other);
+    }
+    return kFxSuccess;
+}
+
+namespace inkmacro {
+
+namespace {
+
+QString widthsOf(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+{
+    const OdArray<double>& starts = action.GetData(5).GetDoubleArray();
+    const OdArray<double>& ends = action.GetData(6).GetDoubleArray();
+    QString text;
+    for (unsigned segment = 0; segment < starts.length(); ++segment) {
+        const auto index = static_cast<std::int32_t>(segment);
+        text += EmitSetIndexedDouble(writer, polyline, "SetSegmentStartWidth", index, starts[segment]);
+        text += EmitSetIndexedDouble(writer, polyline, "SetSegmentEndWidth", index, ends[segment]);
+    }
+    if (action.GetData(7).GetBool())
+        text += EmitSetDoubleProperty(writer, polyline, "GlobalWidth", action.GetData(8).GetDouble());
+    return text;
+}
+
+} // namespace
+
+} // namespace inkmacro
+
+/// The second points hold the bulges as their x.
+std::int32_t CFxConverterIWAPIImpl::ConvertActionPolyline(OdSmartPtr<CFxCustomAction> action, QString& text)
+{
+    CFxString name = takeVariable(text, HandedVariable::Replaced);
+    const OdArray<OdGePoint3d>& vertices = action->GetData(0).GetPointArray();
+    const OdArray<OdGePoint3d>& bends = action->GetData(1).GetPointArray();
+    const bool closed = action->GetData(2).GetBool();
+    if (vertices.length() != bends.length())
+        return kFxFailure;
+    NameInsertedObject(*action, name);
+    if (name.isEmpty())
+        return kFxSuccess;
+    OdArray<OdGePoint2d> points;
+    OdArray<double> bulges;
+    for (unsigned i = 0; i < vertices.length(); ++i) {
+        points.append({vertices[i].x, vertices[i].y});
+        bulges.append(bends[i].x);
+    }
+    text = EmitHatchBoundaryPolyline(writer, name, points, closed);
+    text += EmitSetSegmentAngles(writer, name, bulges);
+    text += inkmacro::widthsOf(writer, name, *action);
+    return kFxSuccess;
+}
+
+namespace inkmacro {
+
+namespace {
+
+using Impl = CFxConverterIWAPIImpl;
+
+constexpr int kAny = DataSignature::anyType;
+
+constexpr DataSignature objectsOnly(const char* option)
+{
+    return DataSignature::exactly({kString, kHandleArray, kClassArray}).withWord(option);
+}
+
+constexpr DataSignature vertexOnly(const char* option)
+{
+    return DataSignature::exactly({kString, kAny, kAny, kInt}).withWord(option);
+}
+
+constexpr DataSignature vertexAndPoint(const char* option)
+{
+    return DataSignature::exactly({kString, kAny, kAny, kInt, kPoint}).withWord(option);
+}
+
+template<QString (*statement)(Writer&, const CFxString&)>
+QString whole(Writer& writer, const CFxString& polyline, const CFxCustomAction&)
+{
+    return statement(writer, polyline);
+}
+
+template<bool spatial>
+QString split(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+{
+    return EmitPolylineSplit(writer, polyline, action.GetData(3).GetInt(), spatial);
+}
+
+template<QString (*statement)(Writer&, const CFxString&, int, const OdGePoint3d&, bool), bool spatial>
+QString placed(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+{
+    return statement(writer, polyline, action.GetData(3).GetInt(), action.GetData(4).GetPoint(), spatial);
+}
+
+QString straightened(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+{
+    return EmitPolylineStraighten(writer, polyline, action.GetData(3).GetInt(), action.GetData(4).GetInt());
+}
+
+QString widened(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+{
+    return EmitPolylineWidth(writer, polyline, action.GetData(3).GetInt(), action.GetData(4).GetDouble(),
+                             action.GetData(5).GetDouble());
+}
+
+QString vertexAdded(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+{
+    return EmitAddVertexAfter(writer, polyline, action.GetData(2).GetInt(), action.GetData(3).GetPoint(), true);
+}
+
+QString vertexDeleted(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+{
+    return EmitDeleteVertex(writer, polyline, action.GetData(2).GetInt());
+}
+
+} // namespace
+
+const ActionForm polylineEditForms[12] = {
+    {objectsOnly("_FIT"), &Impl::ConvertActionPolylineEdit<&whole<&EmitPolylineFit>>},
+    {objectsOnly("_DECURVE"), &Impl::ConvertActionPolylineEdit<&whole<&EmitPolylineDecurve>>},
+    {objectsOnly("_SPLINE"), &Impl::ConvertActionPolylineEdit<&whole<&EmitPolylineSpline>>},
+    {objectsOnly("_JOIN"), &Impl::ConvertActionPolylineJoin},
+    {vertexOnly("_SPLIT"), &Impl::ConvertActionPolylineEdit<&split<false>>},
+    {vertexOnly("_SPLIT3D"), &Impl::ConvertActionPolylineEdit<&split<true>>},
+    {vertexAndPoint("_INSERT"), &Impl::ConvertActionPolylineEdit<&placed<&EmitAddVertexAfter, false>>},
+    {vertexAndPoint("_INSERT3D"), &Impl::ConvertActionPolylineEdit<&placed<&EmitAddVertexAfter, true>>},
+    {vertexAndPoint("_MOVE"), &Impl::ConvertActionPolylineEdit<&placed<&EmitSetVertexCoordinate, false>>},
+    {vertexAndPoint("_MOVE3D"), &Impl::ConvertActionPolylineEdit<&placed<&EmitSetVertexCoordinate, true>>},
+    {DataSignature::exactly({kString, kAny, kAny, kInt, kInt}).withWord("_STRAIGHTEN"),
+     &Impl::ConvertActionPolylineEdit<&straightened>},
+    {DataSignature::exactly({kString, kAny, kAny, kInt, kDouble, kDouble}).withWord("_WIDTH"),
+     &Impl::ConvertActionPolylineEdit<&widened>},
+};
+
+const ActionForm polylineVertexForms[2] = {
+    {DataSignature::anyOf(4), &Impl::ConvertActionPolylineVertex<&vertexAdded>},
+    {DataSignature::anyOf(3), &Impl::ConvertActionPolylineVertex<&vertexDeleted>},
+};
+
+} // namespace inkmacro

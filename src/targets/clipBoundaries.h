@@ -1,0 +1,8 @@
+#pragma once
+
+#include "host/db/OdGe.h"
+#include "host/rx/OdArray.h"
+#include "targets/Writer.h"
+
+QString EmitSetClipBoundary(Writer& writer, const CFxString& image, const OdArray<OdGePoint2d>& points);
+QString EmitRemoveClipBoundary(Writer& writer, const CFxString& image);
