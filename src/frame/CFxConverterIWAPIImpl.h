@@ -145,8 +145,8 @@ private:
     CFxConverterIWAPIObject& Objects() const;
     EntityList EntitiesOf(const CFxCustomAction& action) const;
     QString EditOfPolyline(const CFxCustomAction& action, std::int32_t first, EmitPolylineEdit edit);
-    /// Registers and names the object that the data 3 and 4 tell, unless a name was handed over. False, and no name, for
-    /// an object whose class is not converted.
+    /// Registers and names the object that the data 3 and 4 tell, unless a name was handed over. False, and no name,
+    /// for an object whose class is not converted.
     bool NameInsertedObject(const CFxCustomAction& action, CFxString& name);
     std::vector<TrimPiece> RegisterPieces(const CFxCustomAction& trim);
     /// One side of a corner, in three data from the first on.

@@ -117,7 +117,7 @@ QString EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxStr
         insertion.real(pattern.first).real(pattern.second);
     if (writer.target != Target::CppCom)
         insertion.text(polyline);
-    const QString statement = insertion.text(hatch);
+    QString statement = insertion.text(hatch);
     if (!erase)
         return statement;
     return statement + writer.fill(eraseBoundaryPolyline).text(polyline).text(truthWord(writer.target, true)).str();
