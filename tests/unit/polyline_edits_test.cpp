@@ -88,6 +88,13 @@ std::vector<Form> forms()
     };
 }
 
+/// Whether what stands behind option and object is of the same types.
+bool sameForm(const TestData& data, const TestData& other)
+{
+    return std::equal(data.begin() + 3, data.end(), other.begin() + 3, other.end(),
+                      [](const auto& value, const auto& otherValue) { return value.index() == otherValue.index(); });
+}
+
 class PolylineEdits : public testing::Test
 {
 protected:
@@ -157,6 +164,16 @@ TEST_F(PolylineEdits, AreRefusedInAnyOtherForm)
             expectRefused(40, other);
         }
     }
+    // An option is of one form only, whatever form another one has.
+    for (const Form& form : forms())
+        for (const Form& other : forms()) {
+            if (form.kind != 40 || other.kind != 40 || sameForm(form.data, other.data))
+                continue;
+            SCOPED_TRACE(std::string(form.statement) + "in the form of" + other.statement);
+            TestData data = other.data;
+            data[0] = form.data[0];
+            expectRefused(40, data);
+        }
     for (const char* option : {"", "_fit", "FIT", "_CLOSE"})
         for (const TestData& more :
              {TestData(), TestData{1}, TestData{1, kPoint}, TestData{1, 2}, TestData{1, 0.5, 0.5}})
