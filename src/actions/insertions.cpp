@@ -3,6 +3,7 @@
 
 #include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/counters.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/regions.h"
 #include "targets/customActions.h"
@@ -27,15 +28,13 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionEmbeddedObject(OdSmartPtr<CFxCu
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionRegion(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    // Process-wide, and never put back.
-    static std::uint32_t regions = 0;
     const CFxString name = takeVariable(text, HandedVariable::Replaced);
     std::vector<CFxString> names;
     ResolveVariables(names, action->GetData(0), action->GetData(1));
     QStringList curves;
     for (const CFxString& curve : names)
         curves.append(curve);
-    text = EmitInsertRegion(writer, name, curves, ++regions);
+    text = EmitInsertRegion(writer, name, curves, ++processCounters.regions);
     return kFxSuccess;
 }
 

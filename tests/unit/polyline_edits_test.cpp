@@ -194,6 +194,13 @@ TEST_F(PolylineEdits, OfObjectsWithoutAVariableWriteNothing)
     EXPECT_EQ(converted(40, {CFxString("_JOIN"), Handles{OdDbHandle(9), kPlane}, Classes{foreign, foreign}}), "");
     EXPECT_EQ(converted(42, {kPlane, foreign, 1}), "x");
     EXPECT_EQ(converted(48, {OdDbHandle(9), foreign, true}, {}), "");
+    // What should tell the object and is of another type tells none; other data count as their type's neutral value.
+    EXPECT_EQ(converted(42, {1.0, 2.0, 1, kPoint}), "x");
+    EXPECT_EQ(converted(42, {kPlane, cls("AcDbPolyline"), kPoint, 3}), "x polyline1.AddVertexAfter( 0, 0, 0, 0 );\n");
+    EXPECT_EQ(converted(48, {1.0, 2.0, true}, {}), "");
+    TestData untold = drawn(OdDbHandle(9), "AcDbPolyline");
+    untold[4] = 1;
+    EXPECT_EQ(converted(16, untold, {}), "");
     EXPECT_EQ(converted(16, drawn(OdDbHandle(9), "AcDbProxyEntity"), {}), "");
     EXPECT_EQ(driver.objectCounter, 3U);
     // What the macro can fetch is fetched, in front of the edit.
