@@ -82,6 +82,7 @@ struct RawArguments
     std::optional<std::string> optionNames;
     std::optional<std::string> lineStyles;
     std::string handle;
+    std::string hostCommand;
     std::optional<int> recordingLanguage;
     bool replay = false;
     bool json = false;
@@ -97,6 +98,8 @@ CommandLine::Command commandOf(const CLI::App& app, const RawArguments& raw)
         return CommandLine::Command::Convert;
     if (name == "inspect")
         return CommandLine::Command::Inspect;
+    if (name == "run")
+        return CommandLine::Command::Run;
     if (name == "check")
         return CommandLine::Command::Check;
     if (name == "snapshot")
@@ -152,6 +155,10 @@ void declareArguments(CLI::App& app, RawArguments& raw)
     snapshot->add_option("FILE", raw.files)->required()->expected(1);
     snapshot->add_option("--handle", raw.handle)->required();
     snapshot->add_flag("--json", raw.json);
+    CLI::App* const run = app.add_subcommand("run");
+    run->add_option("FILE", raw.files)->required()->expected(1);
+    run->add_option("--command", raw.hostCommand)->required();
+    run->add_option("--output", raw.output);
     app.add_subcommand("schema");
     app.add_subcommand("system-variables");
 }
@@ -202,6 +209,11 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
         line.targets = parseTargets(decodeName(raw.targets));
     if (line.command == CommandLine::Command::Snapshot)
         line.handle = parseHandle(decodeName(raw.handle));
+    if (line.command == CommandLine::Command::Run) {
+        if (line.files.front() == "-")
+            throw WrongUse("run reads answers from standard input, so the recording must be a file");
+        line.hostCommand = decodeName(raw.hostCommand);
+    }
     if (raw.output) {
         if (raw.output->empty())
             throw WrongUse("--output is empty");
@@ -241,6 +253,7 @@ Usage:
   inkmacro inspect FILE [--json]
   inkmacro check FILE...
   inkmacro snapshot FILE --handle H [--json]
+  inkmacro run FILE --command NAME [--output FILE]
   inkmacro schema
   inkmacro system-variables
   inkmacro --version | --help
@@ -254,6 +267,9 @@ Commands:
   snapshot show what the recorder's snapshot adds for the object of the drawing
            that has the handle H, beside what the host's property sheet shows;
            with --json as one JSON array
+  run      run a command of the macro writer on the drawing of a recording:
+           -HYPERLINK or -LINESTYLE, with or without a leading underscore, in
+           any case
   schema   print the JSON Schema of one line of a recording
   system-variables
            print, as a page in Markdown, the system variables that convert
@@ -296,13 +312,21 @@ Options of convert:
       the recording names coming behind. A style without a file is loaded
       under an empty file name, which is reported.
 
+Run asks on standard output, a line a prompt, and takes a line of standard
+input as the answer; at a terminal it can be edited, and Tab completes it. An
+option is entered by its capital letters, by its beginning or whole, an empty
+line takes the one in <>. A point is x,y or x,y,z; entities are handles with
+blanks between them, or all. Ctrl+C, Esc with Enter and the end of input cancel
+the command. When it has ended well the recording with the changed drawing
+replaces FILE, or is written to the file of --output; else nothing is written.
+
 Several files or targets are converted side by side; one that fails does not
 stop the others. Standard output holds the paths written, one a line, the macro
 before its project; messages go to standard error.
 
 Exit status:
   0  all was done
-  1  a conversion failed
+  1  a conversion failed, or a command ended in another way than well
   2  wrong use: nothing was read or written
   3  a recording could not be read: nothing was written for it; or the file of
      --option-names could not: nothing was written at all

@@ -38,6 +38,7 @@ struct CommandLine
     {
         Convert,
         Inspect,
+        Run,
         Check,
         Snapshot,
         Schema,
@@ -51,7 +52,8 @@ struct CommandLine
     std::vector<const TargetRow*> targets; ///< each once, in the order asked for
     std::optional<QString> output;
     HostSettings host;
-    OdDbHandle handle; ///< of the object whose snapshot is shown
+    OdDbHandle handle;   ///< of the object whose snapshot is shown
+    QString hostCommand; ///< the name of the command that is run
     bool json = false;
 };
 

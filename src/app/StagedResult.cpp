@@ -111,7 +111,7 @@ QString PlacingError::message() const
     return QString::fromLocal8Bit(what());
 }
 
-StagedResult::StagedResult(const Job& job) : files_(job.files()), directory_(directoryOf(toPath(job.macro)))
+StagedResult::StagedResult(const QStringList& files) : files_(files), directory_(directoryOf(toPath(files.front())))
 {
     std::vector<std::string> names;
     for (const QString& file : files_)
@@ -120,7 +120,7 @@ StagedResult::StagedResult(const Job& job) : files_(job.files()), directory_(dir
         fs::create_directories(directory_);
         staging_.emplace(directory_, names);
     } catch (const std::system_error& error) {
-        failFor(job.macro, error.code().value());
+        failFor(files.front(), error.code().value());
     }
 }
 
@@ -129,7 +129,7 @@ std::string StagedResult::staged(const QString& file) const
     return staging_->file(toPath(file).filename());
 }
 
-QString StagedResult::macro() const
+QString StagedResult::firstFile() const
 {
     return QFile::decodeName(staged(files_.front()).c_str());
 }
@@ -170,14 +170,14 @@ QStringList StagedResult::place()
             written.append(file);
         }
 
-    // Of two processes that put files here at once, one has to wait, so that macro and project are of the same one.
+    // Of two processes that put files here at once, one has to wait, so that all files are of the same one.
     const Descriptor directory(directory_, O_RDONLY | O_DIRECTORY);
     while (flock(directory.number(), LOCK_EX) != 0 && errno == EINTR) {
     }
     if (!staging_->stands() || !has(files_.front()))
         throw PlacingError(files_.front(), "its folder vanished during the work");
     const SignalPause pause;
-    // The macro comes last: where it is, its project is.
+    // The first one comes last: where a macro is, its project is.
     std::reverse(moves.begin(), moves.end());
     for (const Move& move : moves)
         if (rename(move.from.c_str(), move.to.c_str()) != 0)
@@ -185,9 +185,9 @@ QStringList StagedResult::place()
     return written;
 }
 
-QString refusalOf(const Job& job)
+QString refusalOf(const QStringList& files)
 {
-    for (const QString& file : job.files())
+    for (const QString& file : files)
         if (QString refusal = refusalAt(file); !refusal.isEmpty())
             return refusal;
     return {};

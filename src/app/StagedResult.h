@@ -1,7 +1,8 @@
 #pragma once
 
 #include "app/StagingFolder.h"
-#include "app/jobs.h"
+
+#include <QStringList>
 
 #include <list>
 #include <optional>
@@ -17,16 +18,16 @@ public:
     QString message() const;
 };
 
-/// The files of one job: the module writes them in a staging folder beside their place, and when all of them are whole
+/// Files that belong together: they are written in a staging folder beside their place, and when all of them are whole
 /// they are put there by renaming. Until then, and for ever when that moment does not come, what stood there stays.
 class StagedResult
 {
 public:
-    /// Makes the folders that are missing. Raises PlacingError.
-    explicit StagedResult(const Job& job);
+    /// All in one folder, which is made when it is missing. Raises PlacingError.
+    explicit StagedResult(const QStringList& files);
 
-    /// Where the module shall write the macro. Its name is that of the place, since the text of the macro holds it.
-    QString macro() const;
+    /// Where the first of the files, and the others beside it, shall be written. Its name is that of the place.
+    QString firstFile() const;
     /// Whether the file that is to come to that place has been written.
     bool has(const QString& file) const;
 
@@ -45,14 +46,14 @@ private:
     std::string staged(const QString& file) const;
     Move prepare(const QString& file);
 
-    QStringList files_; ///< the macro first
+    QStringList files_;
     std::filesystem::path directory_;
     std::optional<StagingFolder> staging_;
     std::list<StagingFolder> elsewhere_; ///< beside the targets of links
 };
 
-/// Why a file of the job may not be written, or empty text: in its place stands something that is no file, or that the
+/// Why one of the files may not be written, or empty text: in its place stands something that is no file, or that the
 /// user may not write.
-QString refusalOf(const Job& job);
+QString refusalOf(const QStringList& files);
 
 } // namespace inkmacro

@@ -81,8 +81,8 @@ bool complainOfIncompleteFiles(const Job& job)
 
 int convertRead(const Job& job, const Recording& recording, const HostSettings& host)
 {
-    StagedResult result(job);
-    const std::int32_t status = runModule(job, result.macro(), recording, host);
+    StagedResult result(job.files());
+    const std::int32_t status = runModule(job, result.firstFile(), recording, host);
     for (const CFxString& problem : GetFxSystemServices()->GetProblems())
         complain(QString("%1 to %2: %3").arg(job.input, targetName(*job.target), problem));
     if (status != kFxSuccess) {
@@ -107,7 +107,7 @@ int convertOne(const Job& job, const HostSettings& host)
     Recording recording;
     if (!readOrComplain(job.input, recording))
         return kUnreadable;
-    if (const QString refusal = refusalOf(job); !refusal.isEmpty()) {
+    if (const QString refusal = refusalOf(job.files()); !refusal.isEmpty()) {
         complain(refusal);
         return kFailed;
     }

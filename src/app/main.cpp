@@ -10,6 +10,7 @@
 #include "app/optionNames.h"
 #include "app/processes.h"
 #include "app/reading.h"
+#include "app/runCommand.h"
 #include "app/snapshot.h"
 #include "app/systemVariables.h"
 #include "recordfile/RecordingSchema.h"
@@ -35,6 +36,8 @@ int run(const CommandLine& line)
         return convert(line);
     case CommandLine::Command::Inspect:
         return inspectRecording(line.files.front(), line.json);
+    case CommandLine::Command::Run:
+        return runCommand(line.files.front(), line.hostCommand, line.output.value_or(line.files.front()));
     case CommandLine::Command::Check:
         return checkRecordings(line.files);
     case CommandLine::Command::Snapshot:

@@ -186,7 +186,7 @@ void JobRunner::start(std::size_t number)
     State& state = states_[number];
     const Job& job = jobs_[number];
     // The process would take a directory at that path for a place to put results in.
-    if (const QString refusal = refusalOf(job); !refusal.isEmpty()) {
+    if (const QString refusal = refusalOf(job.files()); !refusal.isEmpty()) {
         refuse(number, ("inkmacro: " + refusal + '\n').toLocal8Bit(), kFailed);
         return;
     }

@@ -1,16 +1,10 @@
 #pragma once
 
 #include "host/kernel/CFxActions.h"
+#include "host/kernel/CFxStatus.h"
 #include "host/rx/OdRxModule.h"
 
 class OdDbObject;
-
-/// Status codes of a conversion.
-enum CFxStatus : std::int32_t
-{
-    kFxSuccess = 5100,
-    kFxFailure = -5001,
-};
 
 /// One pair of tag and value that a snapshot adds.
 using CFxSnapshotRecord = CFxVariantCollectionElement;

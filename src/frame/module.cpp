@@ -1,7 +1,11 @@
 // The module object and the library's exports.
 
+#include "commands/CFxCommandHyperlink.h"
+#include "commands/CFxCommandLinetype.h"
 #include "frame/CFxConverterIWAPI.h"
 #include "objects/snapshot.h"
+
+#include <array>
 
 namespace {
 
@@ -15,8 +19,16 @@ public:
     }
     OdRxClass* isA() const override { return desc(); }
 
-    void initApp() override {}
-    void uninitApp() override {}
+    void initApp() override
+    {
+        for (const CFxCommandPtr& command : commands_)
+            GetFxCommandStack()->AddCommand(command);
+    }
+    void uninitApp() override
+    {
+        for (const CFxCommandPtr& command : commands_)
+            GetFxCommandStack()->RemoveCommand(command);
+    }
 
     std::int32_t ConvertRecording(const CFxString& path, std::uint32_t language, std::uint32_t mode,
                                   CFxValueContext context, const CFxActionArray& actions) override
@@ -29,6 +41,9 @@ public:
     {
         ::TakeSnapshot(object, target);
     }
+
+private:
+    const std::array<CFxCommandPtr, 2> commands_{odrxNew<CFxCommandHyperlink>(), odrxNew<CFxCommandLinetype>()};
 };
 
 } // namespace

@@ -32,6 +32,8 @@ OpenDrawing::OpenDrawing(const Recording& recording) : OpenDrawing(*recording.da
     const Recording::Drawing& drawing = recording.drawing;
     OdDbDatabase& database = *recording.database;
     database.setCurrentLayoutId(database.getOdDbObjectId(drawing.currentLayout));
+    database.setActiveLayoutBTRId(database.getOdDbObjectId(drawing.activeBlock));
+    database.setCLAYER(database.getOdDbObjectId(drawing.layer));
     database.setGroupDictionaryId(database.getOdDbObjectId(drawing.groupDictionary));
     database.setTablestyle(database.getOdDbObjectId(drawing.tableStyle));
     database.setCurrentDimensionStyleId(database.getOdDbObjectId(drawing.dimensionStyle));

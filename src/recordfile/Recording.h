@@ -34,6 +34,7 @@ struct Recording
     {
         OdDbHandle currentLayout;
         OdDbHandle activeBlock;
+        OdDbHandle layer;
         OdDbHandle textStyle;
         OdDbHandle tableStyle;
         OdDbHandle dimensionStyle;

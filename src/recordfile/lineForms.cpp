@@ -133,6 +133,7 @@ std::span<const Key<Recording::Drawing>> Form<Recording::Drawing>::keys()
     static constexpr std::array table{
         optional<&Drawing::currentLayout>("currentLayout", "handle of the layout that is current"),
         optional<&Drawing::activeBlock>("activeBlock", "handle of the block that is drawn into"),
+        optional<&Drawing::layer>("layer", "handle of the active layer"),
         optional<&Drawing::textStyle>("textStyle", "handle of the current text style"),
         optional<&Drawing::tableStyle>("tableStyle", "handle of the current table style"),
         optional<&Drawing::dimensionStyle>("dimensionStyle", "handle of the current dimension style"),

@@ -87,7 +87,9 @@ OdDbHandle Form<OdDbHandle>::read(const Json& json)
         json.fail(QString("%1 is not a handle: more than %2 digits").arg(quoted(text)).arg(kHandleDigits));
     if (value == 0)
         json.fail(quoted(text) + " is not a handle: zero stands for no object");
-    return OdDbHandle(value);
+    const OdDbHandle handle(value);
+    json.reading.database.noteHandle(handle);
+    return handle;
 }
 
 void Form<OdDbHandle>::write(JsonOut& out, const OdDbHandle& value)

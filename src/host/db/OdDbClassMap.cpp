@@ -55,7 +55,7 @@ constexpr OdDbClassRow withData(const char* name, const char* parent, int code =
 
 const std::array kRows{
     abstractClass(kObject, nullptr, OdDbObject::fields),
-    abstractClass(kEntity, kObject),
+    abstractClass(kEntity, kObject, OdDbEntity::fields),
     abstractClass(kDimension, kEntity, OdDbDimension::fields),
     abstractClass(kTable, kObject),
     abstractClass(kRecord, kObject, OdDbSymbolTableRecord::fields),
@@ -108,7 +108,8 @@ const std::array kRows{
     record("AcDbDimStyleTableRecord", 69),
     withData<OdDbLinetypeTableRecord>("AcDbLinetypeTableRecord", kRecord, 57),
     withData<OdDbViewTableRecord>("AcDbViewTableRecord", kRecord, 61),
-    plain<OdDbLayerTableRecord>("AcDbLayerTableRecord", kRecord, 51),
+    withData<OdDbLayerTableRecord>("AcDbLayerTableRecord", kRecord, 51),
+    plain<OdDbRegAppTableRecord>("AcDbRegAppTableRecord", kRecord, 67),
     record("AcDbViewportTableRecord", 65),
     plain<OdDbObject>("AcDbViewTable", kTable),
     plain<OdDbObject>("AcDbLayerTable", kTable),
@@ -222,7 +223,9 @@ INKHOST_DESC(MText)
 INKHOST_DESC(Leader)
 INKHOST_DESC(Fcf)
 INKHOST_DESC(ArcAlignedText)
+INKHOST_DESC(SymbolTable)
 INKHOST_DESC(SymbolTableRecord)
+INKHOST_DESC(RegAppTableRecord)
 INKHOST_DESC(LayerTableRecord)
 INKHOST_DESC(LinetypeTableRecord)
 INKHOST_DESC(TextStyleTableRecord)

@@ -111,6 +111,11 @@ private:
     bool closed_ = false;
 };
 
+struct OdDb3dPolylineVertex
+{
+    OdGePoint3d position;
+};
+
 class INKHOST_EXPORT OdDb3dPolyline : public OdDbVertexEntity
 {
 public:
@@ -119,6 +124,8 @@ public:
     static std::span<const OdDbField> fields();
 
     bool isClosed() const { return closed_; }
+    void appendVertex(const OdDb3dPolylineVertex& vertex) { vertices_.append(vertex.position); }
+    void makeClosed() { closed_ = true; }
 
 private:
     bool closed_ = false;

@@ -1,5 +1,7 @@
 #include "host/db/OdDbDatabase.h"
 
+#include "host/db/LineStyleFile.h"
+
 #include <QRandomGenerator>
 
 #include <algorithm>
@@ -42,10 +44,17 @@ OdDbObjectId OdDbDatabase::getOdDbObjectId(const OdDbHandle& handle)
 {
     if (handle.isNull())
         return {};
+    noteHandle(handle);
     std::unique_ptr<OdDbStub>& stub = stubs_[handle.value()];
     if (!stub)
         stub = std::make_unique<OdDbStub>(OdDbStub{handle, {}});
     return OdDbObjectId(stub.get());
+}
+
+OdDbObjectId OdDbDatabase::findOdDbObjectId(const OdDbHandle& handle) const
+{
+    const auto found = stubs_.find(handle.value());
+    return found == stubs_.end() ? OdDbObjectId() : OdDbObjectId(found->second.get());
 }
 
 OdDbObjectId OdDbDatabase::addObject(const OdDbHandle& handle, OdDbObjectPtr object)
@@ -54,6 +63,61 @@ OdDbObjectId OdDbDatabase::addObject(const OdDbHandle& handle, OdDbObjectPtr obj
     object->objectId_ = id;
     stubs_[handle.value()]->object = std::move(object);
     return id;
+}
+
+OdDbHandle OdDbDatabase::handseed() const
+{
+    if (lastHandle_.value() == std::numeric_limits<std::uint64_t>::max())
+        throw OdError(eHandlesUsedUp, "no handle is left for a new object");
+    return OdDbHandle(lastHandle_.value() + 1);
+}
+
+OdDbObjectId OdDbDatabase::tableId(Table& table, const OdRxClass* recordClass)
+{
+    if (!table)
+        table = std::make_unique<OdDbStub>(OdDbStub{{}, odrxNew<OdDbSymbolTable>(*this, recordClass)});
+    return OdDbObjectId(table.get());
+}
+
+OdDbObjectId OdDbDatabase::linetypeId(const char* name)
+{
+    return odrxCast<OdDbSymbolTable>(getLinetypeTableId().openObject().get())->getAt(name);
+}
+
+OdDbObjectId OdDbDatabase::getLinetypeByLayerId()
+{
+    return linetypeId("ByLayer");
+}
+
+OdDbObjectId OdDbDatabase::getLinetypeByBlockId()
+{
+    return linetypeId("ByBlock");
+}
+
+OdDbObjectId OdDbDatabase::getLinetypeContinuousId()
+{
+    return linetypeId("Continuous");
+}
+
+void OdDbDatabase::loadLineTypeFile(const OdString& name, const OdString& path)
+{
+    LineStyleFile file(path);
+    LineStyleFile::Style style;
+    do {
+        if (!file.next(style))
+            throw OdError(eUndefinedLineType);
+    } while (style.name.compare(name, Qt::CaseInsensitive) != 0);
+    if (!file.nextIsPattern())
+        throw OdError(eUndefinedLineType);
+
+    const auto table = odrxCast<OdDbSymbolTable>(getLinetypeTableId().openObject().get());
+    auto record = odrxCast<OdDbLinetypeTableRecord>(table->getAt(style.name).openObject().get());
+    if (!record) {
+        record = odrxNew<OdDbLinetypeTableRecord>(OdDbLinetypeTableRecord::desc());
+        record->setName(style.name);
+        table->add(record);
+    }
+    record->setComments(style.description);
 }
 
 double OdDbDatabase::getSysVarDouble(const OdString& name) const

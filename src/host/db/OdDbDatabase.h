@@ -1,7 +1,8 @@
 #pragma once
 
-#include "host/db/OdDbObject.h"
+#include "host/db/OdDbRecords.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <unordered_map>
@@ -17,8 +18,37 @@ public:
 
     /// The id of that handle, whether an object stands behind it or not; the null id for the null handle.
     OdDbObjectId getOdDbObjectId(const OdDbHandle& handle);
+    /// The same of a handle that somebody has asked for, else the null id.
+    OdDbObjectId findOdDbObjectId(const OdDbHandle& handle) const;
     /// Puts the object into the drawing under the handle and tells it its id. A former object there is let go.
     OdDbObjectId addObject(const OdDbHandle& handle, OdSmartPtr<OdDbObject> object);
+
+    /// The handle that the next new object gets: one above all that the drawing or its recording speaks of. Raises
+    /// OdError when there is none left.
+    OdDbHandle handseed() const;
+    /// Somebody refers to an object by that handle.
+    void noteHandle(const OdDbHandle& handle) { lastHandle_ = std::max(lastHandle_, handle); }
+
+    /// The tables, each made of the records that the drawing had when it was first asked for.
+    OdDbObjectId getLayerTableId() { return tableId(layerTable_, OdDbLayerTableRecord::desc()); }
+    OdDbObjectId getLinetypeTableId() { return tableId(linetypeTable_, OdDbLinetypeTableRecord::desc()); }
+    OdDbObjectId getRegAppTableId() { return tableId(regAppTable_, OdDbRegAppTableRecord::desc()); }
+    OdDbObjectId getBlockTableId() { return tableId(blockTable_, OdDbBlockTableRecord::desc()); }
+
+    /// The line styles that every drawing has. The null id for one that the drawing does not speak of.
+    OdDbObjectId getLinetypeByLayerId();
+    OdDbObjectId getLinetypeByBlockId();
+    OdDbObjectId getLinetypeContinuousId();
+    /// Takes the definition of a line style over from a file of line styles; one that is there already gets the new
+    /// description. Raises OdError, eUndefinedLineType when the file has no good definition of that name.
+    void loadLineTypeFile(const OdString& name, const OdString& path);
+
+    /// The layer of new entities.
+    OdDbObjectId getCLAYER() const { return currentLayerId_; }
+    void setCLAYER(OdDbObjectId id) { currentLayerId_ = id; }
+    /// The block that is drawn into.
+    OdDbObjectId getActiveLayoutBTRId() const { return activeBlockId_; }
+    void setActiveLayoutBTRId(OdDbObjectId id) { activeBlockId_ = id; }
 
     OdDbObjectId currentLayoutId() const { return currentLayoutId_; }
     void setCurrentLayoutId(OdDbObjectId id) { currentLayoutId_ = id; }
@@ -56,7 +86,19 @@ private:
         std::size_t operator()(std::uint64_t handle) const;
     };
 
+    using Table = std::unique_ptr<OdDbStub>;
+
+    OdDbObjectId tableId(Table& table, const OdRxClass* recordClass);
+    OdDbObjectId linetypeId(const char* name);
+
     std::unordered_map<std::uint64_t, std::unique_ptr<OdDbStub>, HandleHash> stubs_; ///< by the handle's value
+    Table layerTable_;
+    Table linetypeTable_;
+    Table regAppTable_;
+    Table blockTable_;
+    OdDbHandle lastHandle_;
+    OdDbObjectId currentLayerId_;
+    OdDbObjectId activeBlockId_;
     OdDbObjectId currentLayoutId_;
     OdDbObjectId groupDictionaryId_;
     OdDbObjectId tablestyle_;

@@ -3,6 +3,7 @@
 #include "host/db/OdDbEntities.h"
 
 #include "host/db/OdDbCurves.h"
+#include "host/db/OdDbDatabase.h"
 #include "host/db/OdDbSurfaces.h"
 
 namespace {
@@ -16,6 +17,11 @@ const T& at(const std::array<T, count>& items, std::size_t index)
 }
 
 } // namespace
+
+void OdDbEntity::setDatabaseDefaults(const OdDbDatabase& database)
+{
+    layerId_ = database.getCLAYER();
+}
 
 double OdDbPolyline::getBulgeAt(unsigned index) const
 {

@@ -14,6 +14,14 @@ std::span<const OdDbField> OdDbObject::fields()
     return table;
 }
 
+std::span<const OdDbField> OdDbEntity::fields()
+{
+    static const OdDbField table[] = {
+        {"layer", "handle of the layer", &OdDbEntity::layerId_},
+    };
+    return table;
+}
+
 std::span<const OdDbField> OdDbLine::fields()
 {
     static const OdDbField table[] = {
@@ -361,6 +369,14 @@ std::span<const OdDbField> OdDbSymbolTableRecord::fields()
 {
     static const OdDbField table[] = {
         {"name", "the name in its table", &OdDbSymbolTableRecord::name_},
+    };
+    return table;
+}
+
+std::span<const OdDbField> OdDbLayerTableRecord::fields()
+{
+    static const OdDbField table[] = {
+        {"color", "color of what has that of its layer", &OdDbLayerTableRecord::color_},
     };
     return table;
 }

@@ -14,6 +14,29 @@ OdResBufPtr OdDbObject::xData(const OdString& application) const
     return found == xData_.end() ? OdResBufPtr() : found->second;
 }
 
+void OdDbObject::setXData(const OdResBufPtr& chain)
+{
+    OdResBufPtr last;
+    OdResBufPtr* rows = nullptr;
+    for (OdResBufPtr row = chain; row; row = row->next()) {
+        if (row->restype() == OdResBuf::kDxfRegAppName) {
+            rows = &xData_[row->getString()];
+            *rows = nullptr;
+            last = nullptr;
+            continue;
+        }
+        if (!rows)
+            throw OdError(eBadDxfSequence);
+        const auto copy = odrxNew<OdResBuf>(row->restype(), row->value());
+        if (last)
+            last->setNext(copy);
+        else
+            *rows = copy;
+        last = copy;
+    }
+    std::erase_if(xData_, [](const auto& entry) { return !entry.second; });
+}
+
 OdRxClass* OdDbObjectIterator::desc()
 {
     static OdRxClass* const descriptor = OdRxClass::define("OdDbObjectIterator", OdRxObject::desc());

@@ -78,6 +78,9 @@ public:
     OdDbObjectId getExtension(const OdString& name) const { return oddbIdOf(extensions_, name); }
     /// What the application has put to the object, without the row that names the application; null for nothing.
     OdResBufPtr xData(const OdString& application) const;
+    /// Puts data of applications in the place of what they had. Each begins with a row 1001 that names the application;
+    /// one that has no further row loses its data.
+    void setXData(const OdResBufPtr& chain);
 
 private:
     friend class OdDbDatabase;

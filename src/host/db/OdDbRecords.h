@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/db/OdDbEntity.h"
 #include "host/db/OdDbObjectIterator.h"
 
 /// A named entry of one of the drawing's tables: a layer, a style, a block definition.
@@ -11,9 +12,40 @@ public:
     static std::span<const OdDbField> fields();
 
     const OdString& getName() const { return name_; }
+    /// For a record that has not come into its table yet.
+    void setName(const OdString& name) { name_ = name; }
 
 private:
     OdString name_;
+};
+
+/// One of the drawing's tables: the records of a class by their names. Not an object of the drawing's file, where the
+/// records stand by themselves.
+class INKHOST_EXPORT OdDbSymbolTable : public OdDbObject
+{
+public:
+    /// Of all records of that class. Must not outlive the drawing.
+    OdDbSymbolTable(OdDbDatabase& database, const OdRxClass* recordClass);
+    static OdRxClass* desc();
+
+    /// The null id for a name that is not in it. Upper and lower case are the same.
+    OdDbObjectId getAt(const OdString& name) const { return oddbIdOf(records_, name); }
+    /// Puts a record, which has its name already, into table and drawing. Raises OdError.
+    OdDbObjectId add(const OdSmartPtr<OdDbSymbolTableRecord>& record);
+
+private:
+    OdDbDatabase& database_;
+    OdDbNamedIds records_;
+};
+
+using OdDbSymbolTablePtr = OdSmartPtr<OdDbSymbolTable>;
+
+/// The name of an application that puts data to objects.
+class INKHOST_EXPORT OdDbRegAppTableRecord : public OdDbSymbolTableRecord
+{
+public:
+    using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
+    static OdRxClass* desc();
 };
 
 class INKHOST_EXPORT OdDbLayerTableRecord : public OdDbSymbolTableRecord
@@ -21,6 +53,13 @@ class INKHOST_EXPORT OdDbLayerTableRecord : public OdDbSymbolTableRecord
 public:
     using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
     static OdRxClass* desc();
+    static std::span<const OdDbField> fields();
+
+    OdCmColor color() const { return color_.value_or(OdCmColor()); }
+    void setColorIndex(std::uint16_t index) { color_ = OdCmColor::byIndex(index); }
+
+private:
+    std::optional<OdCmColor> color_;
 };
 
 /// A line style.
@@ -33,10 +72,13 @@ public:
 
     /// The description.
     const OdString& comments() const { return comments_; }
+    void setComments(const OdString& comments) { comments_ = comments; }
 
 private:
     OdString comments_;
 };
+
+using OdDbLinetypeTableRecordPtr = OdSmartPtr<OdDbLinetypeTableRecord>;
 
 class INKHOST_EXPORT OdDbTextStyleTableRecord : public OdDbSymbolTableRecord
 {
@@ -95,6 +137,12 @@ public:
     /// Walks the entities from the first to the last, without the erased ones. Must not outlive the definition.
     OdDbObjectIteratorPtr newIterator() const { return odrxNew<OdDbObjectIterator>(entities_); }
 
+    /// Puts a new entity into the drawing, behind the others of this block. A block that is not in the drawing yet
+    /// comes in with it. Raises OdError.
+    OdDbObjectId appendOdDbEntity(OdDbDatabase& database, const OdSmartPtr<OdDbEntity>& entity);
+    /// A block that holds what is drawn on a sheet or in model space, as yet outside the drawing.
+    static OdSmartPtr<OdDbBlockTableRecord> createLayoutBlock(const OdString& name);
+
 private:
     bool layout_ = false;
     bool externalReference_ = false;
@@ -106,6 +154,8 @@ private:
     int blockInsertUnits_ = 0;
     OdArray<OdDbObjectId> entities_;
 };
+
+using OdDbBlockTableRecordPtr = OdSmartPtr<OdDbBlockTableRecord>;
 
 /// A table style.
 class INKHOST_EXPORT OdDbTableStyle : public OdDbObject

@@ -27,6 +27,14 @@ public:
         kRtInt8 = 5011,
         kRtBool = 5012,
     };
+    /// Group codes of data that applications put to objects.
+    enum DxfCode : int
+    {
+        kDxfXdAsciiString = 1000,
+        kDxfRegAppName = 1001,
+        kDxfXdControlString = 1002,
+        kDxfXdInteger32 = 1071,
+    };
     using Value = std::variant<std::monostate, OdString, double, std::int8_t, std::int16_t, std::int32_t, bool,
                                OdGePoint2d, OdGePoint3d>;
 

@@ -14,6 +14,10 @@ enum OdResult : int
     eInvalidIndex = 21,
     eNotThatKindOfClass = 22,
     eTextTooLong = 23,
+    eBadDxfSequence = 24,
+    eDuplicateRecordName = 25,
+    eHandlesUsedUp = 26,
+    eUndefinedLineType = 156,
 };
 
 /// What the drawing SDK throws. Never crosses the border of a conversion: the driver turns it into a status.

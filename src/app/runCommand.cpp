@@ -1,0 +1,105 @@
+#include "app/runCommand.h"
+
+#include "app/CommandLine.h"
+#include "app/ExitStatus.h"
+#include "app/LoadedModule.h"
+#include "app/StagedResult.h"
+#include "app/TerminalIO.h"
+#include "app/console.h"
+#include "app/earlyEnd.h"
+#include "app/reading.h"
+#include "host/kernel/CFxCommand.h"
+#include "recordfile/OpenDrawing.h"
+#include "recordfile/RecordingWriter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace inkmacro {
+
+namespace {
+
+CFxCommandPtr findCommand(const QString& name)
+{
+    if (const CFxCommandPtr command = GetFxCommandStack()->LookupCommand(name))
+        return command;
+    QStringList known;
+    for (const CFxCommandPtr& command : GetFxCommandStack()->GetCommands())
+        known.append(command->localName());
+    throw WrongUse(QString("unknown command \"%1\"; known are %2").arg(name, known.join(", ")));
+}
+
+std::int32_t execute(CFxCommand& command, OdDbDatabase& database)
+{
+    TerminalIO io(database);
+    CFxCommandContext context(database, &io);
+    try {
+        return command.Execute(&context);
+    } catch (const OdError& error) {
+        complain(QString::fromUtf8(error.what()));
+        return kFxFailure;
+    }
+}
+
+/// What the recording says of its drawing as a whole, as the command has left it and seen from another folder.
+void updateDrawing(Recording& recording, const QString& output)
+{
+    recording.drawing.lineStyle = recording.database->currentLineStyleId().getHandle();
+    const QDir from(recording.folder);
+    const QDir to(QFileInfo(output).path());
+    if (from.canonicalPath() == to.canonicalPath())
+        return;
+    for (QString& folder : recording.drawing.lineStyleFolders)
+        if (QDir::isRelativePath(folder))
+            folder = to.relativeFilePath(from.absoluteFilePath(folder));
+}
+
+/// Raises PlacingError.
+void write(const Recording& recording, const QString& output)
+{
+    StagedResult result({output});
+    QFile file(result.firstFile());
+    if (!file.open(QIODevice::WriteOnly))
+        throw PlacingError(output, file.errorString());
+    if (!WriteRecording(recording, file) || !file.flush())
+        throw PlacingError(output, file.error() == QFileDevice::NoError
+                                       ? "the drawing has data that no recording can hold"
+                                       : file.errorString());
+    file.close();
+    result.place();
+}
+
+} // namespace
+
+int runCommand(const QString& path, const QString& name, const QString& output)
+{
+    nameWork(QString("running %1 on %2").arg(name, path));
+    const LoadedModule module;
+    const CFxCommandPtr command = findCommand(name);
+    Recording recording;
+    if (!readOrComplain(path, recording))
+        return kUnreadable;
+    if (const QString refusal = refusalOf({output}); !refusal.isEmpty()) {
+        complain(refusal);
+        return kFailed;
+    }
+    const OpenDrawing drawing(recording);
+    const std::int32_t status = execute(*command, *recording.database);
+    for (const CFxString& problem : GetFxSystemServices()->GetProblems())
+        complain(problem);
+    if (status != kFxSuccess) {
+        complain(QString("%1 ended with status %2").arg(command->localName()).arg(status));
+        return kFailed;
+    }
+    updateDrawing(recording, output);
+    try {
+        write(recording, output);
+    } catch (const PlacingError& error) {
+        complain(error.message());
+        return kFailed;
+    }
+    return kDone;
+}
+
+} // namespace inkmacro

@@ -1,0 +1,41 @@
+#include "host/commands/GetLinetype.h"
+
+namespace {
+
+OdDbLinetypeTableRecordPtr findLineStyle(OdDbDatabase& database, const QString& name, bool layerAndBlock)
+{
+    const auto is = [&](const char* known) { return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0; };
+    const bool byOther = is("ByLayer") || is("ByBlock");
+    if (byOther && !layerAndBlock)
+        return {};
+    const auto table = odrxCast<OdDbSymbolTable>(database.getLinetypeTableId().openObject().get());
+    auto record = odrxCast<OdDbLinetypeTableRecord>(table->getAt(name).openObject().get());
+    if (!record && (byOther || is("Continuous"))) {
+        record = odrxNew<OdDbLinetypeTableRecord>(OdDbLinetypeTableRecord::desc());
+        record->setName(is("ByLayer") ? "ByLayer" : is("ByBlock") ? "ByBlock" : "Continuous");
+        table->add(record);
+    }
+    return record;
+}
+
+} // namespace
+
+std::int32_t GetLinetype(CFxCommandContext* context, OdDbLinetypeTableRecordPtr& record, bool several,
+                         CFxString promptForSeveral, CFxString prompt, QString notFound, QString hint,
+                         bool layerAndBlock)
+{
+    CFxUserIO* const io = GetFxUserIO(context);
+    if (!io)
+        return kFxFailure;
+    CFxString name;
+    if (const CFxStatus status = io->GetString(several ? promptForSeveral : prompt, name); status != kFxSuccess)
+        return status;
+    if (name.isEmpty())
+        return kFxNothing;
+    record = findLineStyle(context->GetDatabase(), name, layerAndBlock);
+    if (record)
+        return kFxSuccess;
+    io->ShowMessage(notFound.arg(name.toQString()));
+    io->ShowMessage(hint);
+    return kFxFailure;
+}

@@ -1,0 +1,168 @@
+#!/usr/bin/python3
+"""Holds whole conversations with the interactive commands against what a person would see of them at a terminal.
+
+    check_dialogs.py PROGRAM SOURCE_DIR dialogs|terminal
+
+A conversation, in which FOLDER is where it takes place, is a text of shell commands behind "$ " and what they print. Where the program asks, the line holds the
+prompt and, behind it, the answer that it is given; "<Esc>" is a cancel. "[1]" is the status of a command that failed.
+"""
+
+import difflib
+import os
+import pathlib
+import pty
+import re
+import select
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+
+def commands(text):
+    """Each shell command of a conversation with the lines that belong to it."""
+    for piece in re.split(r"^\$ ", text, flags=re.MULTILINE)[1:]:
+        command, *lines = piece.rstrip("\n").split("\n")
+        yield command, lines
+
+
+def converse(command, lines, folder, environment):
+    """Runs the command with the answers that stand in the lines; gives what comes, in the form of these lines."""
+    process = subprocess.Popen(["/bin/sh", "-c", command], cwd=folder, env=environment, stdin=subprocess.PIPE,
+                               stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, encoding="utf-8")
+    came = []
+    for line in process.stdout:
+        line = line.rstrip("\n")
+        expected = lines[len(came)] if len(came) < len(lines) else ""
+        if line.endswith(": ") and expected.startswith(line.rstrip()):
+            answer = expected[len(line):].strip()
+            process.stdin.write(("\x1b" if answer == "<Esc>" else answer) + "\n")
+            process.stdin.flush()
+            line += answer
+        elif line.endswith(": "):
+            process.stdin.close()
+        came.append(line.rstrip())
+    if status := process.wait():
+        came.append(f"[{status}]")
+    return came
+
+
+def check_conversation(name, text, program, source):
+    environment = {**os.environ, "PATH": f"{program.parent}:{os.environ['PATH']}", "LC_ALL": "C.UTF-8"}
+    with tempfile.TemporaryDirectory(prefix="inkmacro-dialogs-") as folder:
+        shutil.copytree(source / "examples", pathlib.Path(folder, "examples"))
+        for command, lines in commands(text):
+            came = [line.replace(folder, "FOLDER") for line in converse(command, lines, folder, environment)]
+            lines = [line.rstrip() for line in lines]
+            if came != lines:
+                print(f"{name}: $ {command}")
+                print("\n".join(difflib.unified_diff(lines, came, "expected", "came", lineterm="")))
+                return False
+    return True
+
+
+def readme_conversations(source):
+    readme = source.joinpath("README.md").read_text(encoding="utf-8")
+    found = re.findall(r"^```\n(\$ inkmacro run .*?)^```$", readme, flags=re.MULTILINE | re.DOTALL)
+    assert found, "README.md has no conversation"
+    return found
+
+
+def check_dialogs(program, source):
+    conversations = [("README.md", text) for text in readme_conversations(source)]
+    conversations += [(file.name, file.read_text(encoding="utf-8"))
+                      for file in sorted(source.glob("tests/dialogs/*.txt"))]
+    return all([check_conversation(name, text, program, source) for name, text in conversations])
+
+
+class Terminal:
+    """The program at a terminal of its own."""
+
+    def __init__(self, arguments, folder):
+        self.pid, self.descriptor = pty.fork()
+        if self.pid == 0:
+            os.chdir(folder)
+            os.environ.update(TERM="xterm", LC_ALL="C.UTF-8", HOME=folder)
+            os.execv(arguments[0], arguments)
+        self.screen = ""
+
+    def until(self, text):
+        """Reads what comes up to the text, which must come."""
+        end = time.monotonic() + 60
+        while text not in self.screen:
+            ready, _, _ = select.select([self.descriptor], [], [], max(0, end - time.monotonic()))
+            try:
+                got = os.read(self.descriptor, 4096) if ready else b""
+            except OSError:
+                got = b""
+            if not got:
+                raise AssertionError(f"{text!r} does not come, but {self.screen!r}")
+            self.screen += got.decode()
+        self.screen = self.screen.partition(text)[2]
+
+    def enter(self, keys):
+        os.write(self.descriptor, keys.encode())
+
+    def status(self):
+        """The end of the program, after everything that it prints."""
+        try:
+            while got := os.read(self.descriptor, 4096):
+                self.screen += got.decode()
+        except OSError:
+            pass
+        return os.waitstatus_to_exitcode(os.waitpid(self.pid, 0)[1])
+
+
+def check_terminal(program, source):
+    with tempfile.TemporaryDirectory(prefix="inkmacro-dialogs-") as folder:
+        recording = pathlib.Path(folder, "a.jsonl")
+        before = '{"recording":{"version":1}}\n{"object":{"class":"AcDbLine","handle":"2A"}}\n'
+        recording.write_text(before, encoding="utf-8")
+
+        def start():
+            terminal = Terminal([str(program), "run", str(recording), "--command", "-HYPERLINK"], folder)
+            terminal.until("<Insert>: ")
+            return terminal
+
+        def cancelled(keys):
+            terminal = start()
+            terminal.enter(keys)
+            assert terminal.status() == 1, terminal.screen
+            assert "ended with status -5002" in terminal.screen, terminal.screen
+            assert recording.read_text(encoding="utf-8") == before
+
+        cancelled("\x03")      # Ctrl+C
+        cancelled("I\x1b\r")   # Esc, Enter
+        cancelled("\x04")      # Ctrl+D
+
+        terminal = start()
+        terminal.enter("ins\t\r")
+        terminal.until("<Entity>: ")
+        terminal.enter("e\t\t\r")
+        terminal.until("Specify entities: ")
+        terminal.enter("2B\r")
+        terminal.until("Specify entities: ")
+        # One answer up, its last letter removed.
+        terminal.enter("\x1b[A\x7fA\r")
+        terminal.until("address: ")
+        # To the front of the line and back to its end.
+        terminal.enter("an.dwg\x01pl\x05!\r")
+        terminal.until("drawing: ")
+        terminal.enter("\r")
+        terminal.until("text: ")
+        terminal.enter("é\r")
+        assert terminal.status() == 0, terminal.screen
+        after = recording.read_text(encoding="utf-8")
+        assert '"string":"plan.dwg!"' in after and '"string":"é"' in after, after
+    return True
+
+
+def main():
+    program, source = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2])
+    check = {"dialogs": check_dialogs, "terminal": check_terminal}[sys.argv[3]]
+    return 0 if check(program, source) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
