@@ -141,6 +141,8 @@ public:
         const InterruptBreaks breaks;
         prompt_ = prompt.toLocal8Bit();
         expected_ = &expected;
+        // The editor itself would do this behind the prompt, and lose a key that comes in between.
+        el_set(editor_, EL_PREP_TERM, 1);
         int length = 0;
         const char* const text = el_gets(editor_, &length);
         if (!text || length <= 0) {

@@ -14,10 +14,10 @@ import pty
 import re
 import select
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
-import time
 
 
 def commands(text):
@@ -87,18 +87,23 @@ class Terminal:
             os.execv(arguments[0], arguments)
         self.screen = ""
 
+    def read(self):
+        """What comes next; empty at the end of the program."""
+        ready, _, _ = select.select([self.descriptor], [], [], 60)
+        if not ready:
+            os.kill(self.pid, signal.SIGKILL)
+            raise AssertionError(f"nothing comes behind {self.screen!r}")
+        try:
+            return os.read(self.descriptor, 4096).decode(errors="replace")
+        except OSError:
+            return ""
+
     def until(self, text):
         """Reads what comes up to the text, which must come."""
-        end = time.monotonic() + 60
         while text not in self.screen:
-            ready, _, _ = select.select([self.descriptor], [], [], max(0, end - time.monotonic()))
-            try:
-                got = os.read(self.descriptor, 4096) if ready else b""
-            except OSError:
-                got = b""
-            if not got:
-                raise AssertionError(f"{text!r} does not come, but {self.screen!r}")
-            self.screen += got.decode()
+            got = self.read()
+            assert got, f"{text!r} does not come, but {self.screen!r}"
+            self.screen += got
         self.screen = self.screen.partition(text)[2]
 
     def enter(self, keys):
@@ -106,11 +111,8 @@ class Terminal:
 
     def status(self):
         """The end of the program, after everything that it prints."""
-        try:
-            while got := os.read(self.descriptor, 4096):
-                self.screen += got.decode()
-        except OSError:
-            pass
+        while got := self.read():
+            self.screen += got
         return os.waitstatus_to_exitcode(os.waitpid(self.pid, 0)[1])
 
 
