@@ -3,6 +3,7 @@
 #include "app/console.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -71,10 +72,9 @@ public:
 private:
     bool fill()
     {
-        constexpr int piece = 65536;
-        bytes_.resize(piece);
-        const ssize_t got = isReady() ? ::read(STDIN_FILENO, bytes_.data(), piece) : 0;
-        bytes_.resize(static_cast<int>(std::max<ssize_t>(got, 0)));
+        std::array<char, 65536> piece;
+        const ssize_t got = isReady() ? ::read(STDIN_FILENO, piece.data(), piece.size()) : 0;
+        bytes_ = QByteArray(piece.data(), static_cast<int>(std::max<ssize_t>(got, 0)));
         return got > 0;
     }
 
