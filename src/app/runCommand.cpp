@@ -22,7 +22,7 @@ namespace {
 
 CFxCommandPtr findCommand(const QString& name)
 {
-    if (const CFxCommandPtr command = GetFxCommandStack()->LookupCommand(name))
+    if (CFxCommandPtr command = GetFxCommandStack()->LookupCommand(name))
         return command;
     QStringList known;
     for (const CFxCommandPtr& command : GetFxCommandStack()->GetCommands())

@@ -20,9 +20,11 @@ OdDbLinetypeTableRecordPtr findLineStyle(OdDbDatabase& database, const QString& 
 
 } // namespace
 
+// NOLINTBEGIN(performance-unnecessary-value-param): the host declares it so.
 std::int32_t GetLinetype(CFxCommandContext* context, OdDbLinetypeTableRecordPtr& record, bool several,
                          CFxString promptForSeveral, CFxString prompt, QString notFound, QString hint,
                          bool layerAndBlock)
+// NOLINTEND(performance-unnecessary-value-param)
 {
     CFxUserIO* const io = GetFxUserIO(context);
     if (!io)

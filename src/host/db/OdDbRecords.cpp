@@ -31,7 +31,7 @@ OdDbObjectId OdDbBlockTableRecord::appendOdDbEntity(OdDbDatabase& database, cons
 
 OdDbBlockTableRecordPtr OdDbBlockTableRecord::createLayoutBlock(const OdString& name)
 {
-    const auto block = odrxNew<OdDbBlockTableRecord>(desc());
+    auto block = odrxNew<OdDbBlockTableRecord>(desc());
     block->setName(name);
     block->layout_ = true;
     return block;

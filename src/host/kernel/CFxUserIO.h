@@ -40,7 +40,7 @@ public:
     /// picked on the screen, means nothing.
     CFxStatus GetSelection(CFxSelectionSet& set, std::uint32_t filterMask, std::int32_t mode);
     /// An absolute path.
-    CFxStatus GetFile(const CFxFileQuestion& question, CFxString& path);
+    CFxStatus GetFile(const CFxFileQuestion& wanted, CFxString& path);
 
     /// Reads a text as a number of that type, the type code of a result buffer. Gives kFxFailure when it is none.
     static CFxStatus ParseNumber(const CFxString& text, int type, double& number);
