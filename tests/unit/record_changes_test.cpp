@@ -196,7 +196,7 @@ TEST_F(RecordChanges, OfASheet)
 
 TEST_F(RecordChanges, OfABlockDefinition)
 {
-    drawing.add(1, "AcDbBlockTableRecord", {{"name", OdString("Chair")}, {"origin", OdGePoint3d(1, 2, 0)}});
+    drawing.add(1, "AcDbBlockTableRecord", {{"name", OdString("Chair")}, {"origin", OdGePoint3d{1, 2, 0}}});
     drawing.add(0x2F, "AcDbLine");
     const auto handle = [](const char* element) { return CFxVariantCollectionElement(0, CFxString(element)); };
     const PropertyList list{record("Description", text("Swivel")),
