@@ -187,8 +187,11 @@ private:
         const QString type = told.startsWith("iwLnWt") ? "iwLineWeight" : told.section('_', 0, 0);
         return (basic ? "Inkwright." : "") + type + "_e." + told;
     }
+    /// A statement that the target lacks has no words.
     void line(QString words, const std::vector<std::pair<QString, QString>>& values)
     {
+        if (words.isEmpty())
+            return;
         for (const auto& [place, with] : values)
             words.replace(place, with);
         lines_ += words + '\n';

@@ -401,6 +401,10 @@ TEST_F(DimensionChanges, OfAStyleTakeValuesInEveryForm)
     EXPECT_EQ(set("LineDimensionsStyle", drawing.id(0x99)), "");
     EXPECT_EQ(set("TextDimensionTextStyle", CFxVariantCollection({}, 0)), "");
 
+    EXPECT_EQ(set("Angular Precision", 2.75), "angularOptions1.Precision = iwUnitPrecision_e.iwUnitPrecision_2;\n");
+    EXPECT_EQ(set("Angular Precision", -3e9), "angularOptions1.Precision = iwUnitPrecision_e.iwUnitPrecision_0;\n");
+    EXPECT_EQ(set("Arrow Size", 3), "arrowOptions1.Size = 3.00000000000000;\n");
+
     // Only an arrow of one's own has a name.
     EXPECT_EQ(set("End arrow", item(20, "My arrow")),
               "iwDimensionArrowType_e arrowType2=iwDimensionArrowType_e.iwDimensionArrowType_Custom;\n"
@@ -430,12 +434,11 @@ TEST_F(DimensionChanges, OfAStyleTakeValuesInEveryForm)
               "linearOptions1.DecimalSeparator = "
               "iwLinearDimensionDecimalSeparator_e.iwLinearDimensionDecimalSeparator_Space;\n");
     EXPECT_EQ(set("Show dual dimensions", yes), "dualOptions1.Show = false;\n");
+    EXPECT_EQ(set("FitDimensionsGeometryText", yes),
+              "fitOptions1.FitGeometry = iwDimensionFitGeometry_e.iwDimensionFitGeometry_Text;\n");
     const std::vector<std::pair<const char*, CFxVariant>> silent{
-        {"FitDimensionsGeometryText", text("No")},
-        {"FitDimensionsGeometryText", yes},
-        {"FitTextNextToTheDimensionLine", no},
-        {"FitScaleDimensionsAccordingToSheet", no},
-        {"TextDimensionTextAlignmentUseISOStandard", no},
+        {"FitDimensionsGeometryText", text("No")},   {"FitTextNextToTheDimensionLine", no},
+        {"FitScaleDimensionsAccordingToSheet", no},  {"TextDimensionTextAlignmentUseISOStandard", no},
         {"Dual Dimensions Below primary units", no},
     };
     for (const auto& [tag, value] : silent)

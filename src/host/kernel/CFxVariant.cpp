@@ -1,5 +1,8 @@
 #include "host/kernel/CFxVariant.h"
 
+#include <cmath>
+#include <limits>
+
 template<class T>
 struct CFxVariant::Boxed : CFxVariant::Shared
 {
@@ -63,11 +66,17 @@ T heldOr(const Value& value, T neutral)
 
 std::int32_t CFxVariant::GetInt32() const
 {
+    if (const auto* const number = std::get_if<double>(&value_)) {
+        const bool fits = std::abs(*number) <= std::numeric_limits<std::int32_t>::max();
+        return fits ? static_cast<std::int32_t>(*number) : 0;
+    }
     return heldOr(value_, std::int32_t{0});
 }
 
 double CFxVariant::GetDouble() const
 {
+    if (const auto* const number = std::get_if<std::int32_t>(&value_))
+        return *number;
     return heldOr(value_, 0.0);
 }
 

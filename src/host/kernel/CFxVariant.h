@@ -12,8 +12,8 @@
 class CFxVariantCollection;
 class CFxVariantCollectionElement;
 
-/// The typed value of a property; immutable, cheap to copy. A getter of another type than the value's gives that
-/// type's neutral value (0, empty text, origin, color by layer, null id, empty collection) and never fails.
+/// The typed value of a property; immutable, cheap to copy. A number gives the other kind too, without its fraction. A
+/// getter of another type gives a neutral value (0, empty text, origin, color by layer, null id, empty collection).
 class INKHOST_EXPORT CFxVariant
 {
 public:
