@@ -96,11 +96,6 @@ bool isAnyYes(const CFxVariant& value)
     return wordOf(value).equalNoCase(ShownWord("Yes"));
 }
 
-bool isAnyExactYes(const CFxVariant& value)
-{
-    return wordOf(value) == ShownWord("Yes");
-}
-
 bool isPlainYes(const CFxVariant& value)
 {
     return value.GetString() == ShownWord("Yes");
@@ -427,9 +422,9 @@ ChangeKind exactYesEnum(const inkmacro::ValueEnumeration& enumeration, const cha
     return {.statement = setEnumIfYes<IsYes>, .byValue = &enumeration, .suffix = suffix};
 }
 
-ChangeKind anyYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix)
+ChangeKind plainYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix)
 {
-    return {.statement = setEnumIfYes<isAnyExactYes>, .byValue = &enumeration, .suffix = suffix};
+    return {.statement = setEnumIfYes<isPlainYes>, .byValue = &enumeration, .suffix = suffix};
 }
 
 constinit const ChangeKind decimalSeparator{setChosen<setDecimalSeparator, anyText>};

@@ -38,7 +38,7 @@ ChangeKind anyEnumText(const inkmacro::TextEnumeration& enumeration);
 ChangeKind anyEnumValue(const inkmacro::ValueEnumeration& enumeration); ///< by number
 /// That member where the answer is yes, nothing where it is no: one of several tags for one property.
 ChangeKind exactYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix);
-ChangeKind anyYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix);
+ChangeKind plainYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix);
 extern const ChangeKind decimalSeparator; ///< by the separator itself
 
 // Texts.

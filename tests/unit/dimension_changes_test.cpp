@@ -434,11 +434,12 @@ TEST_F(DimensionChanges, OfAStyleTakeValuesInEveryForm)
               "linearOptions1.DecimalSeparator = "
               "iwLinearDimensionDecimalSeparator_e.iwLinearDimensionDecimalSeparator_Space;\n");
     EXPECT_EQ(set("Show dual dimensions", yes), "dualOptions1.Show = false;\n");
-    EXPECT_EQ(set("FitDimensionsGeometryText", yes),
-              "fitOptions1.FitGeometry = iwDimensionFitGeometry_e.iwDimensionFitGeometry_Text;\n");
     const std::vector<std::pair<const char*, CFxVariant>> silent{
-        {"FitDimensionsGeometryText", text("No")},   {"FitTextNextToTheDimensionLine", no},
-        {"FitScaleDimensionsAccordingToSheet", no},  {"TextDimensionTextAlignmentUseISOStandard", no},
+        {"FitDimensionsGeometryText", text("No")},
+        {"FitDimensionsGeometryText", yes},
+        {"FitTextNextToTheDimensionLine", no},
+        {"FitScaleDimensionsAccordingToSheet", no},
+        {"TextDimensionTextAlignmentUseISOStandard", no},
         {"Dual Dimensions Below primary units", no},
     };
     for (const auto& [tag, value] : silent)

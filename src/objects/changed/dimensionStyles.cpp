@@ -49,11 +49,11 @@ const ChangeGroups modifiedDimensionStyle{
     ChangeGroup{
         {styleOptions::fit,
          {
-             {anyYesEnum(dimensionFitGeometry, "Automatic"), "FitDimensionsGeometryAutomatic", "FitGeometry"},
-             {anyYesEnum(dimensionFitGeometry, "Arrows"), "FitDimensionsGeometryArrows", "FitGeometry"},
-             {anyYesEnum(dimensionFitGeometry, "Text"), "FitDimensionsGeometryText", "FitGeometry"},
-             {anyYesEnum(dimensionFitGeometry, "TextAndArrows"), "FitDimensionsGeometryTextAndArrows", "FitGeometry"},
-             {anyYesEnum(dimensionFitGeometry, "KeepTextBetweenExtensionLines"),
+             {plainYesEnum(dimensionFitGeometry, "Automatic"), "FitDimensionsGeometryAutomatic", "FitGeometry"},
+             {plainYesEnum(dimensionFitGeometry, "Arrows"), "FitDimensionsGeometryArrows", "FitGeometry"},
+             {plainYesEnum(dimensionFitGeometry, "Text"), "FitDimensionsGeometryText", "FitGeometry"},
+             {plainYesEnum(dimensionFitGeometry, "TextAndArrows"), "FitDimensionsGeometryTextAndArrows", "FitGeometry"},
+             {plainYesEnum(dimensionFitGeometry, "KeepTextBetweenExtensionLines"),
               "FitDimensionsGeometryKeepTextBetweenExtensionLines", "FitGeometry"},
              {exactYes, "FitDimensionsGeometryHideArrows", "HideArrows"},
              {exactYesEnum(dimensionFitDimensionText, "AboveDimensionLineWithLeader"),
