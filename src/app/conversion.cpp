@@ -104,7 +104,8 @@ int convertRead(const Job& job, const Recording& recording, const HostSettings& 
 int convertOne(const Job& job, const HostSettings& host)
 {
     nameWork(QString("converting %1 to %2").arg(job.input, targetName(*job.target)));
-    Recording recording;
+    // Never destroyed: the end of the process gives the memory back at once, record by record it takes a while.
+    static Recording& recording = *new Recording;
     if (!readOrComplain(job.input, recording))
         return kUnreadable;
     if (const QString refusal = refusalOf(job.files()); !refusal.isEmpty()) {

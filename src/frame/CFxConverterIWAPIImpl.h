@@ -7,8 +7,8 @@
 
 #include <QTextStream>
 
-#include <map>
 #include <set>
+#include <unordered_map>
 
 class CFxConverterIWAPIObject;
 class StatementGroup;
@@ -160,6 +160,6 @@ private:
 
     std::uint32_t mode;
     std::shared_ptr<CFxConverterIWAPIObject> objectConverter;
-    std::map<OdDbHandle, ActionEntry> ObjectVariableMap;
+    std::unordered_map<OdDbHandle, ActionEntry, OdDbHandleHash> ObjectVariableMap;
     CFxValueContext context = 0;
 };

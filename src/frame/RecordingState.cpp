@@ -7,8 +7,9 @@ bool RecordingInModel = true;
 
 std::int16_t RecordingLanguage()
 {
-    static const CFxString setting("RecordingLanguage"); // read several times for each object
-    return GetFxSystemServices()->GetInt16(setting);
+    // Read several times for each object.
+    static const std::int16_t& setting = GetFxSystemServices()->GetInt16("RecordingLanguage");
+    return setting;
 }
 
 bool RecordsIn(inkmacro::Target language)

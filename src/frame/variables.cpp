@@ -6,6 +6,11 @@
 #include "host/kernel/CFxServices.h"
 #include "objects/classTable.h"
 
+#include <QHash>
+
+#include <array>
+#include <charconv>
+
 namespace {
 
 CFxString cppTypeName(const ClassRow& row)
@@ -20,12 +25,48 @@ CFxString numbered(CFxString type, std::uint32_t ordinal)
     return CFxString(type.toQString() + QString::number(ordinal));
 }
 
+/// Those of the classes in the table, for C++ or not. Names are made several times for each object.
+const QString& stemOf(const ClassRow& row)
+{
+    static std::array<QHash<const ClassRow*, QString>, 2> stems;
+    const bool cpp = RecordingLanguage() == 0;
+    QString& stem = stems[cpp ? 0 : 1][&row];
+    if (stem.isNull()) {
+        CFxString type = cpp ? cppTypeName(row) : CFxString(row.interfaceName);
+        if (cpp)
+            StripPointerSuffixes(type);
+        type.makeLower();
+        stem = type;
+    }
+    return stem;
+}
+
 } // namespace
+
+QString NumberedVariable(const OdRxClass* cls, std::uint32_t ordinal)
+{
+    constexpr std::size_t mostDigits = 10;
+    std::array<char, mostDigits> digits;
+    const char* const end = std::to_chars(digits.begin(), digits.end(), ordinal).ptr;
+    QString name;
+    if (const ClassRow* const row = FindClass(cls); row && row->interfaceName) {
+        const QString& stem = stemOf(*row);
+        name.reserve(stem.size() + static_cast<int>(mostDigits));
+        name += stem;
+    }
+    return name += QLatin1String(digits.data(), end);
+}
 
 void StripPointerSuffixes(CFxString& typeName)
 {
     typeName.replace("_ptr", "");
     typeName.replace("_c*", "");
+}
+
+bool HasInterface(const OdRxClass* cls)
+{
+    const ClassRow* const row = FindClass(cls);
+    return row && row->interfaceName;
 }
 
 std::int32_t GetApiTypeName(const OdRxClass* cls, CFxString& typeName, CFxString& secondName)
@@ -74,13 +115,7 @@ ActionEntry CFxConverterIWAPIImpl::RegisterObject(const OdDbHandle& handle, cons
 
 CFxString CFxConverterIWAPIImpl::DeclaredName(const ActionEntry& entry) const
 {
-    CFxString type;
-    CFxString second;
-    if (GetApiTypeName(entry.cls, type, second) != kFxSuccess)
-        return {};
-    if (RecordingLanguage() == 0)
-        StripPointerSuffixes(type);
-    return numbered(type, entry.ordinal);
+    return HasInterface(entry.cls) ? CFxString(NumberedVariable(entry.cls, entry.ordinal)) : CFxString();
 }
 
 EntityList CFxConverterIWAPIImpl::ResolveNames(const CFxCustomActionData& handleArray,

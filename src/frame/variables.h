@@ -17,6 +17,12 @@ struct ActionEntry
 /// a class outside the table; the outputs then stay untouched.
 std::int32_t GetApiTypeName(const OdRxClass* cls, CFxString& typeName, CFxString& secondName);
 
+/// Whether GetApiTypeName knows the class.
+bool HasInterface(const OdRxClass* cls);
+
+/// The declared name of the class's variable with that ordinal: the type name in small letters, without what C++ type
+/// names end in. Only the ordinal for a class outside the table.
+QString NumberedVariable(const OdRxClass* cls, std::uint32_t ordinal);
 /// Removes what C++ type names end in, wherever it stands.
 void StripPointerSuffixes(CFxString& typeName);
 

@@ -24,15 +24,15 @@ public:
         return odrxCast<T>(id_.openObject().get());
     }
 
-    CFxVariant take(const CFxString& tag) { return converter.FindProperty(tag, list_, context_, &consumed_); }
-    OdGePoint3d takePoint(const CFxString& xTag, const CFxString& yTag, const CFxString& zTag)
+    CFxVariant take(const PropertyTag& tag) { return converter.FindProperty(tag, list_, context_, &consumed_); }
+    OdGePoint3d takePoint(const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag)
     {
         return converter.FindPoint(xTag, yTag, zTag, list_, context_, &consumed_);
     }
-    OdGePoint3d takePoint(const CFxString& tag) { return take(tag).GetPoint3d(); }
-    CFxString takeText(const CFxString& tag) { return take(tag).GetString(); }
+    OdGePoint3d takePoint(const PropertyTag& tag) { return take(tag).GetPoint3d(); }
+    CFxString takeText(const PropertyTag& tag) { return take(tag).GetString(); }
     /// The points of a collection; none of a value that is no collection.
-    OdArray<OdGePoint3d> takePoints(const CFxString& tag)
+    OdArray<OdGePoint3d> takePoints(const PropertyTag& tag)
     {
         OdArray<OdGePoint3d> points;
         const CFxVariant value = take(tag);
@@ -40,7 +40,7 @@ public:
             points.append(element.GetValue()->GetPoint3d());
         return points;
     }
-    double takeReal(const CFxString& tag, double whenMissing)
+    double takeReal(const PropertyTag& tag, double whenMissing)
     {
         const CFxVariant value = take(tag);
         return value.IsNull() ? whenMissing : value.GetDouble();

@@ -1,14 +1,16 @@
 #pragma once
 
 #include "frame/CFxConverterIWAPIModule.h"
+#include "frame/variables.h"
 #include "host/db/OdDbObject.h"
+#include "objects/PropertyTag.h"
 
-#include <QHash>
 #include <QString>
 
 #include <map>
 #include <memory>
 #include <optional>
+#include <unordered_map>
 
 struct BlockContents;
 class ChangeGroups;
@@ -98,10 +100,10 @@ public:
     /// may be in the host's display language. `consumed` and `index` may be null; they receive the record, and its
     /// number within a repeated property. The translation of "BlockAttributes" as the tag searches by group: then
     /// `index` receives the attribute's own tag.
-    CFxVariant FindProperty(const CFxString& tag, PropertyList& list, CFxValueContext valueContext,
+    CFxVariant FindProperty(const PropertyTag& tag, PropertyList& list, CFxValueContext valueContext,
                             PropertyList* consumed = nullptr, CFxVariant* index = nullptr);
     /// Three reads in the order X, Y, Z; a coordinate that was not recorded is 0.0.
-    OdGePoint3d FindPoint(const CFxString& xTag, const CFxString& yTag, const CFxString& zTag, PropertyList& list,
+    OdGePoint3d FindPoint(const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag, PropertyList& list,
                           CFxValueContext valueContext, PropertyList* consumed = nullptr);
 
     // What statements reach an object by: variables.cpp.
@@ -136,18 +138,18 @@ public:
     QString CreateBlockDefinition(const BlockContents& contents);
 
 private:
-    /// Type and name of the object's variable; whether it is a new one, which a statement has to fetch.
-    bool NameVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& type, CFxString& name);
+    /// The name of the object's variable; whether it is a new one, which a statement has to fetch.
+    bool NameVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
     /// Spells a name from its parts; looks up no variable and takes no number.
     CFxString ObjectVariableName(const OdRxClass* cls, const OdDbObjectId& id, std::uint32_t ordinal) const;
 
     /// What records are compared with when a tag is looked for.
     struct TagWords
     {
-        QString translated;
-        bool searchesGroup;
+        QString translated; ///< null as long as the tag has not been looked for
+        bool searchesGroup = false;
     };
-    const TagWords& WordsOf(const CFxString& tag);
+    const TagWords& WordsOf(const PropertyTag& tag);
     /// The group of block attributes, in the host's display language.
     const QString& BlockAttributes();
 
@@ -168,7 +170,8 @@ private:
     void ConvertTableSize(const TableLines& lines, PropertyList& list, bool takeOnly, bool told, const CFxString& name,
                           QString& text);
 
-    std::map<OdDbObjectId, QString> addedVariableById;
+    /// What the variables of converted objects are named by.
+    std::unordered_map<OdDbHandle, ActionEntry, OdDbHandleHash> addedVariableById;
     OdDbHandle changedHandle; ///< of the object whose changes are being converted
     // What tables were made and changed to so far, by their variables.
     std::map<CFxString, std::int32_t> tableRowCounts;
@@ -178,6 +181,6 @@ private:
     CFxConverterIWAPIImpl& driver;
     Writer& writer; ///< the driver's
 
-    QString blockAttributes; ///< null until it is asked for
-    QHash<QString, TagWords> tagWords;
+    QString blockAttributes;        ///< null until it is asked for
+    std::vector<TagWords> tagWords; ///< by the tags' numbers
 };

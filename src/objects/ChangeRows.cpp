@@ -17,7 +17,7 @@ ChangeRows::ChangeRows(const OptionObject* on, std::initializer_list<ChangeRow> 
         }
         for (const QChar letter : QLatin1String(row.kind.axes)) {
             ChangeRow spread = row;
-            spread.tag = row.tag.toQString() + ' ' + letter;
+            spread.tag = QString(row.tag.text() + ' ' + letter);
             spread.axis = QString(letter.toUpper());
             rows.push_back(std::move(spread));
         }

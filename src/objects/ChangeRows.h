@@ -2,6 +2,7 @@
 
 #include "host/db/OdDbObjectId.h"
 #include "host/kernel/CFxVariant.h"
+#include "objects/PropertyTag.h"
 #include "targets/Writer.h"
 #include "targets/enumerations.h"
 
@@ -41,7 +42,7 @@ struct ChangeKind
 struct ChangeRow
 {
     ChangeKind kind;
-    CFxString tag;
+    PropertyTag tag;
     /// The host's word for it: a property, an operation, or what stands behind "Get" and "Set" of a pair of them.
     CFxString property = {};
     CFxString axis = {}; ///< "X", "Y" or "Z", set when rows with axes are spread out

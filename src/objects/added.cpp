@@ -12,8 +12,10 @@ namespace {
 void strike(const PropertyList& consumed, PropertyList& list)
 {
     for (const CFxPropertyChangedPtr& record : consumed) {
+        const CFxString& name = record->GetName();
+        const CFxString& group = record->GetGroup();
         const auto twin = std::find_if(list.begin(), list.end(), [&](const CFxPropertyChangedPtr& other) {
-            return other->GetName() == record->GetName() && other->GetGroup() == record->GetGroup();
+            return isSame(other->GetName(), name) && isSame(other->GetGroup(), group);
         });
         if (twin != list.end())
             list.erase(twin);
@@ -33,7 +35,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
 
     const OdDbObjectId id = IdOf(handle);
     const CFxString name = ObjectVariableName(cls, id, entry->ordinal);
-    addedVariableById[id] = name;
+    addedVariableById[id.getHandle()] = {cls, entry->ordinal};
 
     AddedObject added(*this, writer, driver.GetContext(), id, name, read);
     if (const ClassRow* const row = FindClass(cls); row && row->reader)

@@ -135,8 +135,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
                                                                QString& text)
 {
     CFxVariant value;
-    // Asked for each object: the tags are made once.
-    const auto take = [&](const QString& tag) {
+    const auto take = [&](const PropertyTag& tag) {
         value = FindProperty(tag, list, driver.GetContext());
         return !value.IsNull();
     };
@@ -145,7 +144,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
             group.abandon();
     };
 
-    if (take(QStringLiteral("LineColor"))) {
+    if (take("LineColor")) {
         leaveGroup();
         CFxString holder = target;
         if (isCurvedText)
@@ -154,23 +153,23 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         if (isCurvedText)
             text += EmitSetOptions(writer, curvedTextSettings, target, holder);
     }
-    if (take(QStringLiteral("Layer")))
+    if (take("Layer"))
         text += EmitSetLayer(writer, target, "Layer", value.GetId());
-    if (take(QStringLiteral("LineStyle"))) {
+    if (take("LineStyle")) {
         leaveGroup();
         text += EmitSetLineStyle(writer, target, "LineStyle", value.GetId());
     }
-    if (take(QStringLiteral("LineScale")))
+    if (take("LineScale"))
         text += EmitSetDoubleProperty(writer, target, "LineScale", value.GetDouble());
-    if (take(QStringLiteral("LineWeight"))) {
+    if (take("LineWeight")) {
         leaveGroup();
         text += EmitSetLineWeight(writer, target, "LineWeight", value.GetInt32());
     }
-    if (take(QStringLiteral("Thickness")))
+    if (take("Thickness"))
         text += EmitSetDoubleProperty(writer, target, "Thickness", value.GetDouble());
-    if (take(QStringLiteral("PrintStyle")))
+    if (take("PrintStyle"))
         text += EmitSetProperty(writer, target, "PrintStyle", value.GetString(), true);
-    if (take(QStringLiteral("Transparency")) && !fromAdded && value.GetType() == CFxVariant::kTransparency)
+    if (take("Transparency") && !fromAdded && value.GetType() == CFxVariant::kTransparency)
         text += EmitSetTransparency(writer, target, value.GetTransparency());
     return kFxSuccess;
 }

@@ -54,19 +54,22 @@ const QString& CFxConverterIWAPIObject::BlockAttributes()
 }
 
 /// The catalogues are asked once for each tag of a conversion, not for each record.
-const CFxConverterIWAPIObject::TagWords& CFxConverterIWAPIObject::WordsOf(const CFxString& tag)
+const CFxConverterIWAPIObject::TagWords& CFxConverterIWAPIObject::WordsOf(const PropertyTag& tag)
 {
-    const auto known = tagWords.constFind(tag);
-    if (known != tagWords.constEnd())
-        return *known;
-    const QString& attributes = BlockAttributes();
-    const CFxString groupWord = translated("property_groups", tag);
-    const bool searchesGroup = groupWord.equalNoCase(attributes) && groupWord.equalNoCase(tag);
-    return *tagWords.insert(tag, {translated("property_types", tag), searchesGroup});
+    if (tag.number() >= tagWords.size())
+        tagWords.resize(tag.number() + 1);
+    TagWords& words = tagWords[tag.number()];
+    if (words.translated.isNull()) {
+        const CFxString groupWord = translated("property_groups", tag.text());
+        words.searchesGroup = groupWord.equalNoCase(BlockAttributes()) && groupWord.equalNoCase(tag.text());
+        words.translated = translated("property_types", tag.text());
+    }
+    return words;
 }
 
-CFxVariant CFxConverterIWAPIObject::FindProperty(const CFxString& tag, PropertyList& list, CFxValueContext valueContext,
-                                                 PropertyList* consumed, CFxVariant* index)
+CFxVariant CFxConverterIWAPIObject::FindProperty(const PropertyTag& tag, PropertyList& list,
+                                                 CFxValueContext valueContext, PropertyList* consumed,
+                                                 CFxVariant* index)
 {
     const TagWords& words = WordsOf(tag);
     const auto byGroup = [&](const CFxPropertyChanged& record) {
@@ -74,7 +77,7 @@ CFxVariant CFxConverterIWAPIObject::FindProperty(const CFxString& tag, PropertyL
     };
     const auto found = std::find_if(list.begin(), list.end(), [&](const CFxPropertyChangedPtr& record) {
         const QString& name = record->GetName();
-        return name == tag.toQString() || name == words.translated || byGroup(*record);
+        return isSame(name, tag.text()) || isSame(name, words.translated) || byGroup(*record);
     });
     if (found == list.end())
         return CFxVariant::kNull;
@@ -88,8 +91,9 @@ CFxVariant CFxConverterIWAPIObject::FindProperty(const CFxString& tag, PropertyL
     return record->GetValue(valueContext);
 }
 
-OdGePoint3d CFxConverterIWAPIObject::FindPoint(const CFxString& xTag, const CFxString& yTag, const CFxString& zTag,
-                                               PropertyList& list, CFxValueContext valueContext, PropertyList* consumed)
+OdGePoint3d CFxConverterIWAPIObject::FindPoint(const PropertyTag& xTag, const PropertyTag& yTag,
+                                               const PropertyTag& zTag, PropertyList& list,
+                                               CFxValueContext valueContext, PropertyList* consumed)
 {
     // A null variant's double is 0.0. The reads are statements of their own because their order counts.
     const double x = FindProperty(xTag, list, valueContext, consumed).GetDouble();

@@ -1,7 +1,6 @@
 // The variables that changes reach their objects by.
 
 #include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/RecordingState.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
@@ -15,23 +14,14 @@ OdDbObjectId CFxConverterIWAPIObject::IdOf(const OdDbHandle& handle)
 CFxString CFxConverterIWAPIObject::ObjectVariableName(const OdRxClass* cls, const OdDbObjectId& id,
                                                       std::uint32_t ordinal) const
 {
-    CFxString type;
-    CFxString second;
-    GetApiTypeName(cls, type, second);
     const auto view = odrxQuery<OdDbViewTableRecord>(id.openObject().get());
-    if (view && view->isPaperspaceView())
-        type = "SheetNamedView";
-    if (RecordingLanguage() == 0)
-        StripPointerSuffixes(type);
-    type.makeLower();
-    return CFxString(type.toQString() + QString::number(ordinal));
+    return view && view->isPaperspaceView() ? QStringLiteral("sheetnamedview") + QString::number(ordinal)
+                                            : NumberedVariable(cls, ordinal);
 }
 
-bool CFxConverterIWAPIObject::NameVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& type,
-                                           CFxString& name)
+bool CFxConverterIWAPIObject::NameVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
 {
-    CFxString second;
-    if (GetApiTypeName(cls, type, second) != kFxSuccess)
+    if (!HasInterface(cls))
         return false;
     const ActionEntry* const entry = driver.FindEntry(handle);
     name = ObjectVariableName(cls, IdOf(handle), entry ? entry->ordinal : ++driver.objectCounter);
@@ -40,25 +30,29 @@ bool CFxConverterIWAPIObject::NameVariable(const OdDbHandle& handle, const OdRxC
 
 CFxString CFxConverterIWAPIObject::NameObject(const OdDbHandle& handle, const OdRxClass* cls)
 {
-    CFxString type;
     CFxString name;
     // The fetch that is not written takes its number all the same, where it would have one.
-    if (NameVariable(handle, cls, type, name) && writer.target != inkmacro::Target::JavaScript)
+    if (NameVariable(handle, cls, name) && writer.target != inkmacro::Target::JavaScript)
         ++writer.UniqueCounter;
     return name;
 }
 
 QString CFxConverterIWAPIObject::ObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
 {
+    if (!NameVariable(handle, cls, name))
+        return {};
     CFxString type;
-    const bool isNew = NameVariable(handle, cls, type, name);
-    return isNew ? EmitGetObjectByHandle(writer, type, name, handle) : QString();
+    CFxString second;
+    GetApiTypeName(cls, type, second);
+    return EmitGetObjectByHandle(writer, type, name, handle);
 }
 
 QString CFxConverterIWAPIObject::AddedVariable(const OdDbObjectId& id) const
 {
-    const auto found = addedVariableById.find(id);
-    return id.isNull() || found == addedVariableById.end() ? QString() : found->second;
+    const auto found = addedVariableById.find(id.getHandle());
+    return id.isNull() || found == addedVariableById.end()
+               ? QString()
+               : ObjectVariableName(found->second.cls, id, found->second.ordinal).toQString();
 }
 
 QString CFxConverterIWAPIObject::KnownVariable(const OdDbHandle& handle) const

@@ -391,7 +391,7 @@ Template::Template(const char* latin1) : text_(QString::fromLatin1(latin1))
 
 Fill& Fill::text(QStringView value)
 {
-    percent_ = percent_ || value.contains(u'%');
+    percent_ = percent_ || std::find(value.begin(), value.end(), u'%') != value.end();
     return add(value);
 }
 

@@ -3,10 +3,12 @@
 #include "targets/wording.h"
 
 #include <QCoreApplication>
+#include <QHash>
 
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <map>
 
 namespace inkmacro {
 
@@ -258,18 +260,35 @@ QString EnumeratorByText(Target target, const TextEnumeration& enumeration, cons
     return withSuffix(target, enumeration.name, enumeration.defaultSuffix);
 }
 
+namespace {
+
+/// Every entity has a weight, so the texts of one target are made once.
+struct LineWeightTexts
+{
+    explicit LineWeightTexts(Target target)
+    {
+        const auto text = [target](const QString& name) {
+            return enumeratorText(target, "iwLineWeight_e", "iwLnWt_" + name);
+        };
+        for (const int weight : {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
+                                 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211})
+            byWeight.insert(weight, text(QStringLiteral("%1").arg(weight, 3, 10, QLatin1Char('0'))));
+        byWeight.insert(-1, text("ByLayer"));
+        byWeight.insert(-2, text("ByBlock"));
+        other = text("ByLwDefault");
+    }
+
+    QHash<int, QString> byWeight;
+    QString other;
+};
+
+} // namespace
+
 QString LineWeightEnumerator(Target target, int weight)
 {
-    static constexpr std::array weights{0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
-                                        53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
-    QString name = QStringLiteral("ByLwDefault");
-    if (weight == -2)
-        name = QStringLiteral("ByBlock");
-    else if (weight == -1)
-        name = QStringLiteral("ByLayer");
-    else if (std::find(weights.begin(), weights.end(), weight) != weights.end())
-        name = QStringLiteral("%1").arg(weight, 3, 10, QLatin1Char('0'));
-    return enumeratorText(target, "iwLineWeight_e", "iwLnWt_" + name);
+    static std::map<Target, LineWeightTexts> targets;
+    const LineWeightTexts& texts = targets.try_emplace(target, target).first->second;
+    return texts.byWeight.value(weight, texts.other);
 }
 
 QString DecimalSeparatorEnumerator(Target target, const QString& separator)

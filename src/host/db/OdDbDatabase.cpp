@@ -2,8 +2,6 @@
 
 #include "host/db/LineStyleFile.h"
 
-#include <QRandomGenerator>
-
 #include <algorithm>
 #include <limits>
 
@@ -26,17 +24,6 @@ OdDbObjectPtr OdDbObjectId::openObject(bool openErased) const
     return stub_->object;
 }
 
-/// Spreads the upper bits over all, with a seed of this process. Neighbors stay neighbors, as they are used.
-std::size_t OdDbDatabase::HandleHash::operator()(std::uint64_t handle) const
-{
-    static const std::uint64_t seed = QRandomGenerator::system()->generate64();
-    constexpr int neighborBits = 8;
-    std::uint64_t bits = (handle >> neighborBits) ^ seed;
-    bits = (bits ^ bits >> 33) * 0xFF51AFD7ED558CCDU;
-    bits = (bits ^ bits >> 33) * 0xC4CEB9FE1A85EC53U;
-    return (bits ^ bits >> 33) + (handle & ((1U << neighborBits) - 1));
-}
-
 OdDbDatabase::OdDbDatabase() = default;
 OdDbDatabase::~OdDbDatabase() = default;
 
@@ -45,7 +32,7 @@ OdDbObjectId OdDbDatabase::getOdDbObjectId(const OdDbHandle& handle)
     if (handle.isNull())
         return {};
     noteHandle(handle);
-    std::unique_ptr<OdDbStub>& stub = stubs_[handle.value()];
+    std::unique_ptr<OdDbStub>& stub = stubs_[handle];
     if (!stub)
         stub = std::make_unique<OdDbStub>(OdDbStub{handle, {}});
     return OdDbObjectId(stub.get());
@@ -53,7 +40,7 @@ OdDbObjectId OdDbDatabase::getOdDbObjectId(const OdDbHandle& handle)
 
 OdDbObjectId OdDbDatabase::findOdDbObjectId(const OdDbHandle& handle) const
 {
-    const auto found = stubs_.find(handle.value());
+    const auto found = stubs_.find(handle);
     return found == stubs_.end() ? OdDbObjectId() : OdDbObjectId(found->second.get());
 }
 
@@ -61,7 +48,7 @@ OdDbObjectId OdDbDatabase::addObject(const OdDbHandle& handle, OdDbObjectPtr obj
 {
     const OdDbObjectId id = getOdDbObjectId(handle);
     object->objectId_ = id;
-    stubs_[handle.value()]->object = std::move(object);
+    stubs_[handle]->object = std::move(object);
     return id;
 }
 

@@ -80,18 +80,12 @@ public:
     OdArray<OdDbObjectId> objectIds() const;
 
 private:
-    /// Handles come from files: were they their own hashes, those of one file could all fall into one place.
-    struct HandleHash
-    {
-        std::size_t operator()(std::uint64_t handle) const;
-    };
-
     using Table = std::unique_ptr<OdDbStub>;
 
     OdDbObjectId tableId(Table& table, const OdRxClass* recordClass);
     OdDbObjectId linetypeId(const char* name);
 
-    std::unordered_map<std::uint64_t, std::unique_ptr<OdDbStub>, HandleHash> stubs_; ///< by the handle's value
+    std::unordered_map<OdDbHandle, std::unique_ptr<OdDbStub>, OdDbHandleHash> stubs_;
     Table layerTable_;
     Table linetypeTable_;
     Table regAppTable_;

@@ -22,3 +22,10 @@ public:
 private:
     std::uint64_t value_ = 0;
 };
+
+/// For tables by handle. Handles come from files: were they their own hashes, those of one file could all fall into one
+/// place.
+struct INKHOST_EXPORT OdDbHandleHash
+{
+    std::size_t operator()(const OdDbHandle& handle) const;
+};

@@ -5,6 +5,8 @@
 
 #include <QHash>
 
+#include <map>
+
 /// The document that the user works in. Does not own the drawing.
 class CFxDocument
 {
@@ -20,9 +22,9 @@ private:
 class INKHOST_EXPORT CFxSystemServices
 {
 public:
-    /// 0 when the setting is not known.
-    std::int16_t GetInt16(const CFxString& name) const;
-    void SetInt16(const CFxString& name, std::int16_t value);
+    /// 0 as long as nobody has set it. The reference lasts and follows the setting.
+    const std::int16_t& GetInt16(const CFxString& name) { return settings_[name]; }
+    void SetInt16(const CFxString& name, std::int16_t value) { settings_[name] = value; }
 
     /// The enumerator that stands for a system variable in the interface's option lists; empty when it was not set.
     CFxString GetOptionName(const CFxString& variable) const { return optionNames_.value(variable); }
@@ -43,7 +45,7 @@ public:
 private:
     std::vector<CFxString> problems_;
     std::vector<CFxString> incompleteFiles_;
-    QHash<QString, std::int16_t> settings_;
+    std::map<CFxString, std::int16_t> settings_;
     QHash<QString, CFxString> optionNames_;
     CFxDocument* activeDocument_ = nullptr;
 };
