@@ -4,6 +4,7 @@
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
+#include "objects/targets/tableCells.h"
 
 void CFxConverterIWAPIObject::RememberTable(const CFxString& table, std::int32_t rows, std::int32_t columns,
                                             const CFxVariant& height, const CFxVariant& width)

@@ -95,7 +95,7 @@ QString EmitInsertPolyline2D(Writer& writer, const OdArray<OdGePoint2d>& vertice
     return insertPolyline(writer, insertPolyline2D, planar(vertices), "polyPoints", closed, name);
 }
 
-/// In Basic the comma ahead of the end tangent has its blank in front. It has to stay so.
+/// In Basic the comma ahead of the start tangent's Z has its blank in front. It has to stay so.
 static const Phrase insertSpline{
     "EmitInsertSpline",
     {

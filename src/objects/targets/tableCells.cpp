@@ -58,6 +58,21 @@ QString EmitDeleteRow(Writer& writer, const CFxString& table, std::int32_t row)
     return writer.fill(deleteRow).number(row).text(table);
 }
 
+static const Phrase setRowHeightAt{"EmitSetRowHeightAt",
+                                   {
+                                       .cpp = "%1%5->SetRowHeightAt( %3, %4 );%2",
+                                       .cppCom = "%1%5->SetRowHeightAt( %3, %4 );%2",
+                                       .csharp = "%1%5.SetRowHeightAt( %3, %4 );%2",
+                                       .javascript = "%1%5.SetRowHeightAt( %3, %4 );%2",
+                                       .vbNet = "%1%5.SetRowHeightAt( %3, %4 )%2",
+                                       .vba = "%1%5.SetRowHeightAt %3, %4%2",
+                                   }};
+
+QString EmitSetRowHeightAt(Writer& writer, const CFxString& table, std::int32_t row, double height)
+{
+    return callWithSize(writer, setRowHeightAt, table, row, height);
+}
+
 static const Phrase insertColumn{"EmitInsertColumn",
                                  {
                                      .cpp = "%1bool bRetVal;%2%1%5->InsertColumn( %3, %4, &bRetVal );%2",

@@ -66,21 +66,6 @@ QString EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows, i
     return call.text(name);
 }
 
-static const Phrase setRowHeightAt{"EmitSetRowHeightAt",
-                                   {
-                                       .cpp = "%1%5->SetRowHeightAt( %3, %4 );%2",
-                                       .cppCom = "%1%5->SetRowHeightAt( %3, %4 );%2",
-                                       .csharp = "%1%5.SetRowHeightAt( %3, %4 );%2",
-                                       .javascript = "%1%5.SetRowHeightAt( %3, %4 );%2",
-                                       .vbNet = "%1%5.SetRowHeightAt( %3, %4 )%2",
-                                       .vba = "%1%5.SetRowHeightAt %3, %4%2",
-                                   }};
-
-QString EmitSetRowHeightAt(Writer& writer, const CFxString& table, int row, double height)
-{
-    return writer.fill(setRowHeightAt).number(row).real(height).text(table);
-}
-
 // Of the pieces of a scaling the last values are "Row" or "Column", "Height" or "Width", "height" or "width", behind
 // those of the usual statements.
 

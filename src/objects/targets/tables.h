@@ -15,7 +15,6 @@ std::array<int, 3> tableCellTypes(const OdDbTable& table);
 QString EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows, int columns, double rowHeight,
                         double columnWidth, const std::array<int, 3>& cellTypes, const CFxString& name);
 
-QString EmitSetRowHeightAt(Writer& writer, const CFxString& table, int row, double height);
 /// Multiplies the size of each row or column of the table. `operation` is "SetRowHeight" or "SetColumnWidth".
 QString EmitScaleTableRows(Writer& writer, const CFxString& table, const CFxString& operation, double coefficient);
 
