@@ -82,7 +82,7 @@ struct TemporaryKind
     const Phrase& erase = eraseEntity;
 };
 
-/// The row of the kind of temporary entity for objects of class T.
+/// An insertion of objects of class T in the form that a row takes.
 template<class T, QString (*insertion)(Writer&, const T&, const TemporaryName&)>
 QString insertAs(Writer& writer, const OdDbObject& object, const TemporaryName& variable)
 {
