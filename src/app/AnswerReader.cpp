@@ -126,7 +126,7 @@ public:
         el_set(editor_, EL_BIND, "\\e^M", "cancel-answer", nullptr);
         el_set(editor_, EL_BIND, "\\e^J", "cancel-answer", nullptr);
         // Ctrl+C as a key: a signal could come when nobody waits for it.
-        el_set(editor_, EL_SETTY, "-d", "intr=", nullptr);
+        el_set(editor_, EL_SETTY, "-d", "-isig", nullptr);
         el_set(editor_, EL_BIND, "^C", "cancel-answer", nullptr);
     }
     ~LineEditor() override

@@ -179,7 +179,7 @@ TEST(GeometryChanges, OfAddedObjectsFollowTheirClass)
             for (const ChangeGroup& group : *row.changes.groups)
                 for (const ChangeRows& rows : group)
                     for (const ChangeRow& change : rows.rows)
-                        list.push_back(record(change.tag, 1.0, 0));
+                        list.push_back(record(change.tag.text(), 1.0, 0));
         else if (row.changes.handler == &CFxConverterIWAPIObject::ConvertModifiedLine)
             for (const char* tag : {"Start X", "Start Y", "Start Z", "End X", "End Y", "End Z"})
                 list.push_back(record(tag, 1.0, 0));
