@@ -184,6 +184,11 @@ QString setLineStyle(const Change& change)
     return setChosen<setQuoted, anyText>(change);
 }
 
+QString setOverrideText(const Change& change, const CFxString& value)
+{
+    return EmitViewportOverrideText(change.writer, change.target, change.row.property, value, true);
+}
+
 using SetArrow = QString (*)(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
                              const CFxString& name);
 
@@ -465,14 +470,14 @@ constinit const ChangeKind overrideColor{[](const Change& change) {
     return EmitViewportOverrideColor(change.writer, change.target, change.row.property, change.value.GetColor());
 }};
 constinit const ChangeKind overrideLineStyle{[](const Change& change) {
+    if (change.value.GetType() != CFxVariant::kId)
+        return setChosen<setOverrideText, anyText>(change);
     return EmitViewportOverrideLineStyle(change.writer, change.target, change.row.property, change.value.GetId());
 }};
 constinit const ChangeKind overrideLineWeight{[](const Change& change) {
     return EmitViewportOverrideLineWeight(change.writer, change.target, change.row.property, anyNumber(change.value));
 }};
-constinit const ChangeKind overrideText{[](const Change& change) {
-    return EmitViewportOverrideText(change.writer, change.target, change.row.property, change.value.GetString(), true);
-}};
+constinit const ChangeKind overrideText{setChosen<setOverrideText, anyText>};
 constinit const ChangeKind overrideInteger{[](const Change& change) {
     return EmitViewportOverrideText(change.writer, change.target, change.row.property, integerWord(change), false);
 }};

@@ -93,7 +93,7 @@ extern const ChangeKind gridLineWeight;
 extern const ChangeKind activation; ///< where the plain text is "Yes"
 extern const ChangeKind overrideYes;
 extern const ChangeKind overrideColor;
-extern const ChangeKind overrideLineStyle; ///< by the style's record
+extern const ChangeKind overrideLineStyle; ///< by the style's record or its name
 extern const ChangeKind overrideLineWeight;
 extern const ChangeKind overrideText;
 extern const ChangeKind overrideInteger;

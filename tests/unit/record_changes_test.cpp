@@ -121,6 +121,9 @@ TEST_F(RecordChanges, OfALayer)
     expectTags("AcDbLayerTableRecord", {{"Show", yes, set, "Shown", "false"},
                                         {"ColorInViewport", OdCmColor::byRgb(200, 100, 50), overrideRgbColor,
                                          "SetColorInViewport", "200, 100, 50"}});
+    expectTags("AcDbLayerTableRecord",
+               {{"LinetypeInViewport", text("DOTTED"), overrideText, "SetLineStyleInViewport", "DOTTED"},
+                {"PrintStyleInViewport", item(2, "Grey"), overrideText, "SetPrintStyleInViewport", "Grey"}});
     EXPECT_EQ(changed("AcDbLayerTableRecord",
                       {record("ActivateLayer", text("YES")), record("LinetypeInViewport", drawing.id(0x99))}),
               "");
