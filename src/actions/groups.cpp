@@ -30,7 +30,7 @@ void CFxConverterIWAPIImpl::ConvertGroupChange(const CFxCustomAction& action, Em
     if (!group)
         return;
     CFxString name;
-    text += Objects().ObjectVariable(handle, group->cls, name);
+    text += Objects().EmitObjectVariable(handle, group->cls, name);
     text += change(writer, names, name);
 }
 

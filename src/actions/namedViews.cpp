@@ -73,7 +73,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionNamedView(OdSmartPtr<CFxCustomA
     if (!FindEntry(handle))
         return kFxSuccess;
     if (variable.isEmpty())
-        text += Objects().ObjectVariable(handle, action->GetData(1).GetClass(), variable);
+        text += Objects().EmitObjectVariable(handle, action->GetData(1).GetClass(), variable);
     const bool mayRename = action->GetData(2).GetBool();
     const bool onSheet = action->GetData(3).GetBool();
     const CFxString& oldName = action->GetData(4).GetString();
@@ -114,7 +114,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionViewBackground(OdSmartPtr<CFxCu
         text += group.close();
     } else {
         if (view.isEmpty() && !onSheet)
-            text += Objects().ObjectVariable(handle, cls, view);
+            text += Objects().EmitObjectVariable(handle, cls, view);
         if (isNew)
             text += createInItsSpace(writer, name, onSheet, sheetName, view);
     }

@@ -19,8 +19,8 @@ QString CFxConverterIWAPIImpl::NoteOfLeader(const OdDbHandle& note, const OdRxCl
 {
     const OdDbObjectPtr object = leader.openObject();
     CFxString leaderName;
-    Objects().ObjectVariable(note, noteClass, name);
-    QString text = Objects().ObjectVariable(leader.getHandle(), object->isA(), leaderName);
+    Objects().EmitObjectVariable(note, noteClass, name);
+    QString text = Objects().EmitObjectVariable(leader.getHandle(), object->isA(), leaderName);
     return text += EmitGetNoteAnnotation(writer, name, leaderName);
 }
 
@@ -39,7 +39,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionErase(OdSmartPtr<CFxCustomActio
         if (cls == OdDbMText::desc())
             GetNoteLeader(leader, objects[i]);
         CFxString name;
-        text += leader.isNull() ? Objects().ObjectVariable(objects[i], cls, name)
+        text += leader.isNull() ? Objects().EmitObjectVariable(objects[i], cls, name)
                                 : NoteOfLeader(objects[i], cls, leader, name);
         if (!name.isEmpty())
             names[i] = name;
@@ -70,7 +70,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionActivate(OdSmartPtr<CFxCustomAc
     if (objects.empty())
         throw OdError_InvalidIndex();
     CFxString name;
-    text += Objects().ObjectVariable(objects.front(), cls, name);
+    text += Objects().EmitObjectVariable(objects.front(), cls, name);
     text += EmitActivate(writer, name);
     return kFxSuccess;
 }
@@ -80,7 +80,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionJoin(OdSmartPtr<CFxCustomAction
     takeVariable(text, HandedVariable::Replaced);
     const auto variable = [&](std::int32_t index, CFxString& name) {
         const OdRxClass* const cls = action->GetData(index + 1).GetClass();
-        return Objects().ObjectVariable(action->GetData(index).GetHandle(), cls, name);
+        return Objects().EmitObjectVariable(action->GetData(index).GetHandle(), cls, name);
     };
     CFxString name;
     CFxString other;
@@ -102,7 +102,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionExplode(OdSmartPtr<CFxCustomAct
         if (GetApiTypeName(cls, type, second) != kFxSuccess)
             continue;
         CFxString name;
-        text += Objects().ObjectVariable(objects[i], cls, name);
+        text += Objects().EmitObjectVariable(objects[i], cls, name);
         text += EmitExplode(writer, name);
     }
     return kFxSuccess;

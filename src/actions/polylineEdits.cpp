@@ -26,9 +26,9 @@ QString CFxConverterIWAPIImpl::EditOfPolyline(const CFxCustomAction& action, std
         const OdRxClass* const firstClass = ClassAt(cls.GetClassArray(), 0);
         if (handle.GetHandleArray().empty())
             throw OdError_InvalidIndex();
-        text = Objects().ObjectVariable(handle.GetHandleArray().front(), firstClass, polyline);
+        text = Objects().EmitObjectVariable(handle.GetHandleArray().front(), firstClass, polyline);
     } else {
-        text = Objects().ObjectVariable(handle.GetHandle(), cls.GetClass(), polyline);
+        text = Objects().EmitObjectVariable(handle.GetHandle(), cls.GetClass(), polyline);
     }
     return polyline.isEmpty() ? QString() : text + edit(writer, polyline, action);
 }
@@ -66,7 +66,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineJoin(OdSmartPtr<CFxCust
     if (objects.size() < 2)
         return kFxFailure;
     CFxString polyline;
-    const QString fetch = Objects().ObjectVariable(objects[0], ClassAt(classes, 0), polyline);
+    const QString fetch = Objects().EmitObjectVariable(objects[0], ClassAt(classes, 0), polyline);
     if (polyline.isEmpty())
         return kFxSuccess;
     text = fetch;
@@ -77,7 +77,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineJoin(OdSmartPtr<CFxCust
         if (joint == std::end(joints))
             continue;
         CFxString other;
-        text += Objects().ObjectVariable(objects[i], cls, other);
+        text += Objects().EmitObjectVariable(objects[i], cls, other);
         text += joint->statement(writer, polyline, other);
     }
     return kFxSuccess;

@@ -7,8 +7,8 @@
 
 #include <QTextStream>
 
+#include <map>
 #include <set>
-#include <unordered_map>
 
 class CFxConverterIWAPIObject;
 class StatementGroup;
@@ -93,7 +93,7 @@ public:
     std::int32_t ConvertActionPolylineVertex(OdSmartPtr<CFxCustomAction> action, QString& text);
 
     // Variables of the generated code: variables.cpp. Naming one neither registers an object nor writes a statement
-    // that fetches it; that is CFxConverterIWAPIObject::ObjectVariable.
+    // that fetches it; that is CFxConverterIWAPIObject::EmitObjectVariable.
 
     /// The leader that owns the note of that handle, else the null id. Raises OdError_NotThatKindOfClass when the
     /// handle is another object's.
@@ -160,6 +160,6 @@ private:
 
     std::uint32_t mode;
     std::shared_ptr<CFxConverterIWAPIObject> objectConverter;
-    std::unordered_map<OdDbHandle, ActionEntry, OdDbHandleHash> ObjectVariableMap;
+    std::map<OdDbHandle, ActionEntry> ObjectVariableMap;
     CFxValueContext context = 0;
 };

@@ -113,7 +113,7 @@ public:
     CFxString NameObject(const OdDbHandle& handle, const OdRxClass* cls);
     /// The same, and gives the statement that fetches an object which the recording has not made; else it is empty. A
     /// class without an interface leaves the name as it was.
-    QString ObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
+    QString EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
     /// The variable of an object that was added before; empty for any other. Takes no number.
     QString AddedVariable(const OdDbObjectId& id) const;
     /// The variable of an object that the macro has one for, the later objects of the same command included; empty for

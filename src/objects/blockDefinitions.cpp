@@ -48,7 +48,7 @@ QString fetchNote(BlockEntity& entity)
     if (leader.isNull())
         return {};
     CFxString leaderName;
-    entity.fetch = entity.objects.ObjectVariable(leader.getHandle(), OdDbLeader::desc(), leaderName);
+    entity.fetch = entity.objects.EmitObjectVariable(leader.getHandle(), OdDbLeader::desc(), leaderName);
     entity.name = entity.objects.NameObject(note, entity.object->isA());
     return EmitGetNoteAnnotation(entity.writer, entity.name, leaderName);
 }

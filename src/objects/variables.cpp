@@ -37,7 +37,7 @@ CFxString CFxConverterIWAPIObject::NameObject(const OdDbHandle& handle, const Od
     return name;
 }
 
-QString CFxConverterIWAPIObject::ObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
+QString CFxConverterIWAPIObject::EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
 {
     if (!NameVariable(handle, cls, name))
         return {};

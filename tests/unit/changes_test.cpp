@@ -379,7 +379,7 @@ TEST(References, FetchAnObjectThatTheMacroDidNotMake)
     CFxString name;
     const auto fetch = [&](TestTarget& made) {
         made.driver.objectCounter = 4;
-        return made.objects.ObjectVariable(OdDbHandle(0x1AF), oddbDwgClassMapDesc(17), name);
+        return made.objects.EmitObjectVariable(OdDbHandle(0x1AF), oddbDwgClassMapDesc(17), name);
     };
     expectInAllTargets(
         {
@@ -403,7 +403,7 @@ TEST(References, FetchAnObjectThatTheMacroDidNotMake)
     EXPECT_EQ(fetch(made), "");
     EXPECT_EQ(name, CFxString("circlearc1"));
     EXPECT_EQ(made.driver.objectCounter, 4U);
-    EXPECT_EQ(made.objects.ObjectVariable(OdDbHandle(2), oddbClassByName("HostWeldSymbol"), name), "");
+    EXPECT_EQ(made.objects.EmitObjectVariable(OdDbHandle(2), oddbClassByName("HostWeldSymbol"), name), "");
     EXPECT_EQ(name, CFxString("circlearc1"));
 }
 
