@@ -27,6 +27,14 @@ def commands(text):
         yield command, lines
 
 
+def enter(process, answer):
+    try:
+        process.stdin.write(answer + "\n")
+        process.stdin.flush()
+    except BrokenPipeError:
+        pass  # the command gets its input from elsewhere, or it has ended and its output shows that
+
+
 def converse(command, lines, folder, environment):
     """Runs the command with the answers that stand in the lines; gives what comes, in the form of these lines."""
     process = subprocess.Popen(["/bin/sh", "-c", command], cwd=folder, env=environment, stdin=subprocess.PIPE,
@@ -37,8 +45,7 @@ def converse(command, lines, folder, environment):
         expected = lines[len(came)] if len(came) < len(lines) else ""
         if line.endswith(": ") and expected.startswith(line.rstrip()):
             answer = expected[len(line):].strip()
-            process.stdin.write(("\x1b" if answer == "<Esc>" else answer) + "\n")
-            process.stdin.flush()
+            enter(process, "\x1b" if answer == "<Esc>" else answer)
             line += answer
         elif line.endswith(": "):
             process.stdin.close()
