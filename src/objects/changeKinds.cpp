@@ -254,7 +254,9 @@ QString setNoteDirection(const Change& change, const CFxString& word)
 QString setNoteLineSpacing(const Change& change)
 {
     const CFxVariant::Type type = change.value.GetType();
-    if (type != CFxVariant::kCollection && type != CFxVariant::kCollectionElement && type != CFxVariant::kInt32)
+    constexpr CFxVariant::Type known[] = {CFxVariant::kCollection, CFxVariant::kCollectionElement, CFxVariant::kInt32,
+                                          CFxVariant::kDouble};
+    if (std::find(std::begin(known), std::end(known), type) == std::end(known))
         return {};
     return EmitSetNoteLineSpacing(change.writer, change.target, change.row.property, anyNumber(change.value));
 }

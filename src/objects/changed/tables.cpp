@@ -115,7 +115,8 @@ bool CFxConverterIWAPIObject::ConvertTableCount(const TableLines& lines, Propert
     const CFxVariant value = FindProperty(lines.countTag, list, driver.GetContext());
     if (value.IsNull())
         return false;
-    if (takeOnly || value.GetType() != CFxVariant::kInt32)
+    const bool isNumber = value.GetType() == CFxVariant::kInt32 || value.GetType() == CFxVariant::kDouble;
+    if (takeOnly || !isNumber)
         return true;
     std::int32_t& count = (this->*lines.counts)[name];
     const std::int32_t before = count;
