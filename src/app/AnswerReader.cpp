@@ -117,11 +117,13 @@ public:
             editor_, EL_PROMPT, +[](EditLine* editor) { return self(editor).prompt_.data(); });
         el_set(editor_, EL_EDITOR, "emacs");
         el_set(editor_, EL_HIST, history, history_);
-        el_set(
-            editor_, EL_ADDFN, "complete-answer", "Complete the answer",
-            +[](EditLine* editor, int) { return self(editor).complete(); });
-        el_set(
-            editor_, EL_ADDFN, "cancel-answer", "Cancel the command", +[](EditLine*, int) { return CC_EOF; });
+        // The wide form keeps these names, of the other it would make copies for ever.
+        el_wset(
+            editor_, EL_ADDFN, L"complete-answer", L"Complete the answer",
+            +[](EditLine* editor, wint_t) { return self(editor).complete(); });
+        el_wset(
+            editor_, EL_ADDFN, L"cancel-answer", L"Cancel the command",
+            +[](EditLine*, wint_t) -> unsigned char { return CC_EOF; });
         el_set(editor_, EL_BIND, "^I", "complete-answer", nullptr);
         el_set(editor_, EL_BIND, "\\e^M", "cancel-answer", nullptr);
         el_set(editor_, EL_BIND, "\\e^J", "cancel-answer", nullptr);

@@ -3,6 +3,7 @@
 #include <QHash>
 
 #include <cstring>
+#include <deque>
 #include <unordered_map>
 
 PropertyTag::PropertyTag(const char* latin1)
@@ -21,9 +22,10 @@ PropertyTag::PropertyTag(const QString& text) : entry_(entryOf(text))
 
 const PropertyTag::Entry* PropertyTag::entryOf(const QString& text)
 {
+    static std::deque<Entry> entries;
     static QHash<QString, const Entry*> byText;
     const Entry*& entry = byText[text];
     if (!entry)
-        entry = new Entry{text, text.toLatin1(), static_cast<std::size_t>(byText.size() - 1)};
+        entry = &entries.emplace_back(Entry{text, text.toLatin1(), entries.size()});
     return entry;
 }
