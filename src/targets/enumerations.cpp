@@ -270,8 +270,8 @@ struct LineWeightTexts
         const auto text = [target](const QString& name) {
             return enumeratorText(target, "iwLineWeight_e", "iwLnWt_" + name);
         };
-        for (const int weight : {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
-                                 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211})
+        for (const int weight :
+             {0, 5, 9, 13, 15, 18, 20, 25, 30, 35, 40, 50, 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211})
             byWeight.insert(weight, text(QStringLiteral("%1").arg(weight, 3, 10, QLatin1Char('0'))));
         byWeight.insert(-1, text("ByLayer"));
         byWeight.insert(-2, text("ByBlock"));
