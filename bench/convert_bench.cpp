@@ -1,9 +1,9 @@
-// The conversion alone: the recording is in memory, the macro goes to a temporary folder.
+// The conversion alone, to each target: the recording is in memory, the macro goes to a temporary folder.
 
 #include "frame/CFxConverterIWAPI.h"
 #include "host/kernel/CFxServices.h"
 #include "recordfile/RecordingReader.h"
-#include "targets/Target.h"
+#include "targets/TargetTable.h"
 
 #include <benchmark/benchmark.h>
 
@@ -14,43 +14,50 @@
 namespace inkmacro {
 namespace {
 
-constexpr auto language = static_cast<std::uint32_t>(Target::CSharp);
-
-/// Fills an empty recording with a made one of that many objects; gives what went wrong.
-QString makeRecording(const char* objects, const char* kind, Recording& recording)
+/// A recording, or what went wrong with it.
+struct Made
 {
+    Recording recording;
+    QString error;
+};
+
+Made makeRecording(const char* objects, const char* kind)
+{
+    Made made;
     const QTemporaryDir folder;
     const QString file = folder.filePath("recording.jsonl");
     const QString maker = QFileInfo(INKMACRO_PROGRAM).path() + "/make_recording";
     if (QProcess::execute(maker, {objects, file, kind}) != 0)
-        return "make_recording failed";
-    const auto error = ReadRecording(file, recording);
-    return error ? error->text() : QString();
+        made.error = "make_recording failed";
+    else if (const auto error = ReadRecording(file, made.recording))
+        made.error = error->text();
+    return made;
 }
 
 /// The bytes of the macro file; 0 after a failure.
-qint64 convert(const Recording& recording, const QString& macro)
+qint64 convert(Target target, const Recording& recording, const QString& macro)
 {
-    const auto converter = CreateConverter(language, 0, 0);
+    const auto converter = CreateConverter(static_cast<std::uint32_t>(target), 0, 0);
     const bool done = converter && converter->Convert(macro, recording.actions) == kFxSuccess;
     return done ? QFileInfo(macro).size() : 0;
 }
 
-void BM_Convert(benchmark::State& state)
+void BM_Convert(benchmark::State& state, Target target)
 {
-    Recording recording;
-    if (const QString error = makeRecording("20000", "drawing", recording); !error.isEmpty()) {
-        state.SkipWithError(qPrintable(error));
+    // Read once: each repetition for each target comes here anew.
+    static const Made made = makeRecording("20000", "drawing");
+    if (!made.error.isEmpty()) {
+        state.SkipWithError(qPrintable(made.error));
         return;
     }
-    CFxDocument document(recording.database.get());
-    GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
+    CFxDocument document(made.recording.database.get());
+    GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(target));
     GetFxSystemServices()->SetActiveDocument(&document);
 
     const QTemporaryDir folder;
     qint64 bytes = 0;
     for ([[maybe_unused]] auto _ : state) {
-        const qint64 written = convert(recording, folder.filePath("macro.cs"));
+        const qint64 written = convert(target, made.recording, folder.filePath("macro"));
         if (written == 0) {
             state.SkipWithError("the conversion failed");
             break;
@@ -60,7 +67,11 @@ void BM_Convert(benchmark::State& state)
     state.SetBytesProcessed(bytes);
     GetFxSystemServices()->SetActiveDocument(nullptr);
 }
-BENCHMARK(BM_Convert)->Unit(benchmark::kMillisecond);
+
+#define BENCHMARK_TARGET(id, suffix, name, extension, projectFiles)                                                    \
+    BENCHMARK_CAPTURE(BM_Convert, id, Target::id)->Unit(benchmark::kMillisecond)->Name("BM_Convert/" name);
+INKMACRO_TARGETS(BENCHMARK_TARGET)
+#undef BENCHMARK_TARGET
 
 } // namespace
 } // namespace inkmacro

@@ -1,9 +1,10 @@
 // Makes recordings to measure with: always the same bytes for the same arguments, on every machine.
 //
-//     make_recording COUNT FILE lines|drawing|polyline|block|hatch
+//     make_recording COUNT FILE lines|drawing|polyline|block|hatch|command|properties|selection
 //
-// COUNT are objects, but the vertices of the one polyline, the entities of the one block, or the objects that bound the
-// one hatch.
+// COUNT are objects, but the vertices of the one polyline, the entities of the one block, the objects that bound the
+// one hatch, the actions of the one command, the properties that the one table changes, or the handles of the one
+// selection.
 
 #include "Lines.h"
 
@@ -126,12 +127,7 @@ public:
     /// Lines, and the block that is made of them.
     void largeBlock(std::uint64_t entities)
     {
-        openCommand("LINE");
-        for (std::uint64_t i = 0; i < entities; ++i) {
-            separate(i);
-            added(kinds[0]);
-        }
-        closeCommand();
+        lineCommand(entities);
         blockDefinition(entities);
     }
 
@@ -153,7 +149,77 @@ public:
         closeCommand();
     }
 
+    /// One command that asks for three points before each line. With more lines a million actions would not fit into
+    /// the 256 MiB that one line of a recording may have.
+    void longCommand(std::uint64_t actions)
+    {
+        openCommand("LINE");
+        for (std::uint64_t i = 0; i < actions; ++i) {
+            separate(i);
+            if (i % 4 < 3)
+                interaction("Specify next point&raquo; ");
+            else
+                added(kinds[0]);
+        }
+        closeCommand();
+    }
+
+    /// A table, and one change of it: new rows with their heights and texts, each between two tags that no table has.
+    void changedTable(std::uint64_t properties)
+    {
+        constexpr std::uint64_t columns = 4;
+        const std::uint64_t handle = nextHandle_;
+        openCommand("TABLE");
+        beginAdded("AcDbTable");
+        out_ << R"({"tag":"Rows","value":{"int":1})" << geometry_ << R"(,{"tag":"Columns","value":{"int":)" << columns
+             << "}" << geometry_ << ",";
+        endEntity();
+        out_ << R"(,{"modified":{"class":"AcDbTable","handle":")";
+        out_.handle(handle) << R"(","properties":[)";
+        for (std::uint64_t i = 0, row = 0; i < properties; ++i, row = i / 4) {
+            separate(i);
+            if (i % 2 == 0)
+                out_ << R"({"tag":"Remark_)" << i << R"(","value":"as built")";
+            else if (i % 4 == 1)
+                out_ << R"({"tag":"RowHeight_)" << row << R"(","value":)" << 5 + row % 3;
+            else
+                out_ << R"({"tag":"Contents_)" << row << "_" << row % columns << R"(","value":"Pos. )" << row << R"(")";
+            out_ << general_;
+        }
+        separate(properties);
+        out_ << R"({"tag":"Rows","value":{"int":)" << properties / 4 << "}" << general_ << "]}}";
+        closeCommand();
+    }
+
+    /// One selection, half of lines that were in the drawing, half of lines that the recording added.
+    void longSelection(std::uint64_t handles)
+    {
+        const std::uint64_t there = handles / 2;
+        boundaryLines(firstHandle, there);
+        nextHandle_ += there;
+        lineCommand(handles - there);
+        openCommand("MOVE");
+        out_ << R"({"selection":{"objects":[)";
+        for (std::uint64_t i = 0; i < handles; ++i) {
+            separate(i);
+            out_ << R"({"handle":")";
+            out_.handle(firstHandle + i) << R"(","class":"AcDbLine"})";
+        }
+        out_ << "]}}";
+        closeCommand();
+    }
+
 private:
+    void lineCommand(std::uint64_t lines)
+    {
+        openCommand("LINE");
+        for (std::uint64_t i = 0; i < lines; ++i) {
+            separate(i);
+            added(kinds[0]);
+        }
+        closeCommand();
+    }
+
     std::uint64_t simpleObjects(std::uint64_t most)
     {
         const std::uint64_t children = std::min<std::uint64_t>(most, 1 + dice_.below(40));
@@ -496,9 +562,14 @@ struct Mode
 };
 
 constexpr Mode modes[] = {
-    {"lines", false, &Maker::lines},           {"drawing", true, &Maker::drawing},
-    {"polyline", false, &Maker::longPolyline}, {"block", false, &Maker::largeBlock},
+    {"lines", false, &Maker::lines},
+    {"drawing", true, &Maker::drawing},
+    {"polyline", false, &Maker::longPolyline},
+    {"block", false, &Maker::largeBlock},
     {"hatch", false, &Maker::largeHatch},
+    {"command", false, &Maker::longCommand},
+    {"properties", false, &Maker::changedTable},
+    {"selection", false, &Maker::longSelection},
 };
 
 } // namespace
@@ -512,7 +583,8 @@ int main(int argc, char** argv)
     const std::from_chars_result parsed = std::from_chars(digits, end, count);
     const auto mode = std::ranges::find(modes, name, &Mode::name);
     if (parsed.ec != std::errc() || parsed.ptr != end || mode == std::end(modes)) {
-        std::fputs("usage: make_recording COUNT FILE lines|drawing|polyline|block|hatch\n", stderr);
+        std::fputs("usage: make_recording COUNT FILE lines|drawing|polyline|block|hatch|command|properties|selection\n",
+                   stderr);
         return 2;
     }
 
