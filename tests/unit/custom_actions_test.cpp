@@ -1,8 +1,6 @@
 // Custom actions: which are refused, and what the handlers of a single statement write.
 
-#include "TestActions.h"
-#include "TestDrawing.h"
-#include "TestTarget.h"
+#include "TestHandlers.h"
 
 #include "objects/targets/blockAttributes.h"
 #include "objects/targets/regions.h"
@@ -31,27 +29,10 @@ const OdRxClass* cls(const char* name)
 }
 
 /// A line that the macro knows under handle 1A.
-class CustomActions : public testing::Test
+class CustomActions : public Handlers
 {
 protected:
     CustomActions() { driver.RegisterObject(OdDbHandle(0x1a), oddbClassByName("AcDbLine")); }
-
-    std::int32_t convert(std::int32_t kind, const TestData& data, const QString& before = "x")
-    {
-        text = before;
-        return driver.ConvertAction(odrxNew<TestCustom>(kind, data), text);
-    }
-    std::string converted(std::int32_t kind, const TestData& data, const QString& before = "x")
-    {
-        EXPECT_EQ(convert(kind, data, before), kFxSuccess);
-        return text.toStdString();
-    }
-
-    TestDrawing drawing;
-    TestTarget csharp{Target::CSharp};
-    TestTarget::Driver& driver = csharp.driver;
-    TestConversion conversion;
-    QString text;
 };
 
 TEST_F(CustomActions, WithoutAHandlerAreRefused)

@@ -1,8 +1,6 @@
 // Custom actions that edit polylines, say more of a drawn polyline, or clip an image.
 
-#include "TestActions.h"
-#include "TestDrawing.h"
-#include "TestTarget.h"
+#include "TestHandlers.h"
 
 #include <QFileInfo>
 
@@ -95,7 +93,7 @@ bool sameForm(const TestData& data, const TestData& other)
                       [](const auto& value, const auto& otherValue) { return value.index() == otherValue.index(); });
 }
 
-class PolylineEdits : public testing::Test
+class PolylineEdits : public Handlers
 {
 protected:
     PolylineEdits()
@@ -105,16 +103,6 @@ protected:
         driver.RegisterObject(kImage, cls("AcDbRasterImage"));
     }
 
-    std::int32_t convert(std::int32_t kind, const TestData& data, const QString& before = "x")
-    {
-        text = before;
-        return driver.ConvertAction(odrxNew<TestCustom>(kind, data), text);
-    }
-    std::string converted(std::int32_t kind, const TestData& data, const QString& before = "x")
-    {
-        EXPECT_EQ(convert(kind, data, before), kFxSuccess);
-        return text.toStdString();
-    }
     /// A macro has no such action: at top level it fails, a command ends with it.
     void expectRefused(std::int32_t kind, const TestData& data)
     {
@@ -124,12 +112,6 @@ protected:
         EXPECT_TRUE(conversion.body().contains("line1 = "));
         EXPECT_FALSE(conversion.body().contains("line2 = "));
     }
-
-    TestDrawing drawing;
-    TestTarget csharp{Target::CSharp};
-    TestTarget::Driver& driver = csharp.driver;
-    TestConversion conversion;
-    QString text;
 };
 
 TEST_F(PolylineEdits, ComeInTheFormsOfTheirOptions)
