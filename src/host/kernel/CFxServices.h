@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/db/OdDbDatabase.h"
+#include "host/kernel/CFxConversionNotes.h"
 #include "host/kernel/CFxVariant.h"
 
 #include <QHash>
@@ -42,7 +43,10 @@ public:
     void ReportProblem(const CFxString& problem) { problems_.push_back(problem); }
     const std::vector<CFxString>& GetProblems() const { return problems_; }
 
+    CFxConversionNotes& Notes() { return notes_; }
+
 private:
+    CFxConversionNotes notes_;
     std::vector<CFxString> problems_;
     std::vector<CFxString> incompleteFiles_;
     std::map<CFxString, std::int16_t> settings_;
