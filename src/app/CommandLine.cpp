@@ -85,6 +85,7 @@ struct RawArguments
     std::string hostCommand;
     std::optional<int> recordingLanguage;
     bool replay = false;
+    bool repair = false;
     bool json = false;
     bool version = false;
 };
@@ -143,6 +144,7 @@ void declareArguments(CLI::App& app, RawArguments& raw)
     convert->add_option("--target", raw.targets)->required();
     convert->add_option("--output", raw.output);
     convert->add_flag("--replay", raw.replay);
+    convert->add_flag("--repair", raw.repair);
     convert->add_option("--recording-language", raw.recordingLanguage)->check(CLI::Range(0, 5));
     convert->add_option("--install-dir", raw.installDir);
     convert->add_option("--option-names", raw.optionNames);
@@ -174,6 +176,7 @@ HostSettings hostSettings(const RawArguments& raw)
     if (raw.lineStyles)
         host.lineStyles = parseDirectory("--line-styles", decodeName(*raw.lineStyles));
     host.replay = raw.replay;
+    host.repair = raw.repair;
     return host;
 }
 
@@ -236,6 +239,8 @@ QStringList HostSettings::arguments() const
         arguments.append("--line-styles=" + *lineStyles);
     if (replay)
         arguments.append("--replay");
+    if (repair)
+        arguments.append("--repair");
     return arguments;
 }
 
@@ -248,8 +253,9 @@ QString helpText()
 
 Usage:
   inkmacro convert FILE... --target TARGET[,TARGET...]|all [--output PATH]
-                   [--replay] [--recording-language N] [--install-dir DIR]
-                   [--option-names FILE] [--line-styles DIR]
+                   [--replay] [--repair] [--recording-language N]
+                   [--install-dir DIR] [--option-names FILE]
+                   [--line-styles DIR]
   inkmacro inspect FILE [--json]
   inkmacro check FILE...
   inkmacro snapshot FILE --handle H [--json]
@@ -294,6 +300,11 @@ Options of convert:
       The macro stops where the recorded command asked its user something,
       offers the recorded answer, and sets the system variables that changed.
       Without it the recording's header says.
+  --repair
+      Without it a macro is as the application's own recorder writes it, with
+      faults by which its language or its host rejects it; and a recorded text
+      with a quotation mark in it can become code. With it they are mended: all
+      that the user entered stays text.
   --recording-language N
       The host setting that decides on the byte order mark and on the form of
       type names, 0 to 5. Without it the recording's header says, or else the
