@@ -105,6 +105,8 @@ CommandLine::Command commandOf(const CLI::App& app, const RawArguments& raw)
         return CommandLine::Command::Check;
     if (name == "snapshot")
         return CommandLine::Command::Snapshot;
+    if (name == "faults")
+        return CommandLine::Command::Faults;
     if (name == "schema")
         return CommandLine::Command::Schema;
     return name == "system-variables" ? CommandLine::Command::SystemVariables : CommandLine::Command::Help;
@@ -163,6 +165,7 @@ void declareArguments(CLI::App& app, RawArguments& raw)
     run->add_option("--output", raw.output);
     app.add_subcommand("schema");
     app.add_subcommand("system-variables");
+    app.add_subcommand("faults");
 }
 
 HostSettings hostSettings(const RawArguments& raw)
@@ -262,6 +265,7 @@ Usage:
   inkmacro run FILE --command NAME [--output FILE]
   inkmacro schema
   inkmacro system-variables
+  inkmacro faults
   inkmacro --version | --help
 
 Commands:
@@ -279,6 +283,8 @@ Commands:
   schema   print the JSON Schema of one line of a recording
   system-variables
            print, as a page in Markdown, the system variables that convert
+  faults   print, as a page in Markdown, the known faults of macros that are
+           not repaired
 
 FILE is a recording; - is standard input. Behind -- all arguments are files,
 whatever they begin with.

@@ -44,6 +44,7 @@ struct CommandLine
         Snapshot,
         Schema,
         SystemVariables,
+        Faults,
         Version,
         Help
     };
