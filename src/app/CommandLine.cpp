@@ -84,7 +84,10 @@ struct RawArguments
     std::string handle;
     std::string hostCommand;
     std::optional<int> recordingLanguage;
+    std::string report;
+    std::string schemaOf = "recording";
     bool replay = false;
+    bool quiet = false;
     bool json = false;
     bool version = false;
 };
@@ -105,7 +108,7 @@ CommandLine::Command commandOf(const CLI::App& app, const RawArguments& raw)
     if (name == "snapshot")
         return CommandLine::Command::Snapshot;
     if (name == "schema")
-        return CommandLine::Command::Schema;
+        return raw.schemaOf == "report" ? CommandLine::Command::ReportSchema : CommandLine::Command::RecordingSchema;
     return name == "system-variables" ? CommandLine::Command::SystemVariables : CommandLine::Command::Help;
 }
 
@@ -143,6 +146,9 @@ void declareArguments(CLI::App& app, RawArguments& raw)
     convert->add_option("--target", raw.targets)->required();
     convert->add_option("--output", raw.output);
     convert->add_flag("--replay", raw.replay);
+    // A flag with a value takes no argument behind it, which may be a file.
+    convert->add_flag("--report{json}", raw.report)->check(CLI::IsMember({"json", "text"}));
+    convert->add_flag("--quiet", raw.quiet);
     convert->add_option("--recording-language", raw.recordingLanguage)->check(CLI::Range(0, 5));
     convert->add_option("--install-dir", raw.installDir);
     convert->add_option("--option-names", raw.optionNames);
@@ -159,7 +165,7 @@ void declareArguments(CLI::App& app, RawArguments& raw)
     run->add_option("FILE", raw.files)->required()->expected(1);
     run->add_option("--command", raw.hostCommand)->required();
     run->add_option("--output", raw.output);
-    app.add_subcommand("schema");
+    app.add_subcommand("schema")->add_option("WHAT", raw.schemaOf)->check(CLI::IsMember({"recording", "report"}));
     app.add_subcommand("system-variables");
 }
 
@@ -205,6 +211,9 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
     line.files = decodeNames(raw.files);
     checkFiles(line.files);
     line.json = raw.json;
+    line.telling.quiet = raw.quiet;
+    if (!raw.report.empty())
+        line.telling.report = raw.report == "text" ? ReportForm::Text : ReportForm::Json;
     if (line.command == CommandLine::Command::Convert)
         line.targets = parseTargets(decodeName(raw.targets));
     if (line.command == CommandLine::Command::Snapshot)

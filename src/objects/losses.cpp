@@ -1,0 +1,108 @@
+// What of an object's records does not come into the macro.
+
+#include "frame/losses.h"
+#include "actions/kinds.h"
+#include "host/db/OdDbClasses.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/classTable.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Shown values that the host computes of others: a change of them comes with a change of those.
+struct DerivedTag
+{
+    const char* tag;
+    const char* cls = nullptr; ///< null for any
+};
+constexpr DerivedTag derivedTags[] = {
+    {"Area"},
+    {"Arc length"},
+    {"Length"},
+    {"Measurement"},
+    {"Perimeter"},
+    {"Total angle"},
+    {"Angle", "AcDbLine"},
+    {"Delta X", "AcDbLine"},
+    {"Delta Y", "AcDbLine"},
+    {"Delta Z", "AcDbLine"},
+};
+
+bool isDerived(const OdRxClass* cls, const QString& tag)
+{
+    return std::ranges::any_of(derivedTags, [&](const DerivedTag& row) {
+        return tag == QLatin1String(row.tag) && (!row.cls || cls->name() == QLatin1String(row.cls));
+    });
+}
+
+/// Objects that a custom action of their command makes, one of these kinds.
+struct MadeByAction
+{
+    const char* cls;
+    std::initializer_list<std::int32_t> kinds;
+};
+const MadeByAction madeByActions[] = {
+    {"AcDbHatch", {inkmacro::kInsertHatch}},
+    {"AcDbLayout", {inkmacro::kSheet}},
+    {"AcDbOle2Frame", {inkmacro::kEmbeddedObject}},
+    {"AcDbRegion", {inkmacro::kRegion}},
+    {"AcDbViewport", {inkmacro::kViewport}},
+    {"AcDbViewportTableRecord", {inkmacro::kViewTiles}},
+    {"AcDbViewTableRecord", {inkmacro::kViewBackground, inkmacro::kNamedView}},
+};
+
+} // namespace
+
+void CFxConverterIWAPIObject::LoseObject(const char* reason) const
+{
+    NoteLoss(ObjectTitle(changedClass, changedHandle), reason);
+}
+
+void CFxConverterIWAPIObject::LoseProperty(const QString& tag, const QString& reason) const
+{
+    NoteLoss(CFxString("property \"" + tag + "\" of " + ObjectTitle(changedClass, changedHandle).toQString()),
+             CFxString(reason));
+}
+
+void CFxConverterIWAPIObject::LoseArcs(const OdDbPolyline& polyline) const
+{
+    for (unsigned i = 0; i < polyline.numVerts(); ++i)
+        if (polyline.segType(i) == OdDbPolyline::kArc && !driver.HasSibling(inkmacro::kPolyline))
+            return LoseProperty("Vertex", "arcs come as lines");
+}
+
+/// What a class's changes would say is no loss of an added object: its insertion and its style give it, or the action
+/// that makes it.
+void CFxConverterIWAPIObject::LoseRest(PropertyList& list, bool fromAdded, const CFxString& name)
+{
+    if (list.empty())
+        return;
+    if (const ClassRow* const row = FindClass(changedClass); row && fromAdded) {
+        if (row->has(kFinishedByCustomAction))
+            return;
+        QString nothing;
+        if (row->whenAdded == WhenAdded::Skip)
+            ConvertClassChanges(*row, list, true, name, nothing);
+    }
+    for (const CFxPropertyChangedPtr& record : list)
+        if (!isDerived(changedClass, record->GetName()))
+            LoseProperty(record->GetName(), "no statement sets it");
+}
+
+void CFxConverterIWAPIObject::LoseUnmade(PropertyList& rest, bool written)
+{
+    const auto row = std::ranges::find_if(
+        madeByActions, [&](const MadeByAction& made) { return changedClass->name() == QLatin1String(made.cls); });
+    if (row == std::end(madeByActions))
+        return;
+    if (std::ranges::none_of(row->kinds, [&](std::int32_t kind) { return driver.HasSibling(kind); })) {
+        LoseObject("no action of its command makes it");
+        return;
+    }
+    if (written || !changedClass->isDerivedFrom(OdDbEntity::desc()))
+        return;
+    for (const char* const tag : {"LineColor", "Layer", "LineStyle", "LineScale", "LineWeight", "Thickness"})
+        if (!FindProperty(tag, rest, driver.GetContext()).IsNull())
+            LoseProperty(tag, "the action that makes the object does not set it");
+}
