@@ -52,7 +52,9 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCustomAction(OdSmartPtr<CFxCustomActi
         inkmacro::takeVariable(text, inkmacro::HandedVariable::Replaced);
         text = form->statements(writer, *action);
     }
-    if (status == kFxSuccess && text.isEmpty() && !losses.any())
+    // A view that stays as it is needs none.
+    const bool wants = action->GetKind() != inkmacro::kNamedView;
+    if (status == kFxSuccess && text.isEmpty() && wants && !losses.any())
         NoteLoss(ActionTitle(action.get()), "no statement came of it");
     return status;
 }

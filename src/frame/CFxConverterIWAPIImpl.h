@@ -114,6 +114,8 @@ public:
     CFxString DeclaredName(const ActionEntry& entry) const;
     /// Whether a custom action of that kind stands in the same command as what is being converted.
     bool HasSibling(std::int32_t kind) const;
+    /// The same of a block definition that is added or changed.
+    bool HasSiblingBlock() const;
     /// The next ordinal, noted under the handle. An object that is met again under its handle gets a new variable.
     ActionEntry RegisterObject(const OdDbHandle& handle, const OdRxClass* cls);
 

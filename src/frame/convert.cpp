@@ -131,6 +131,11 @@ bool CFxConverterIWAPIImpl::HasSibling(std::int32_t kind) const
     return siblings && siblings->has(kind);
 }
 
+bool CFxConverterIWAPIImpl::HasSiblingBlock() const
+{
+    return siblings && siblings->hasBlock();
+}
+
 std::int32_t CFxConverterIWAPIImpl::ConvertAction(OdRxObjectPtr action, QString& text)
 {
     const OdRxObject* const object = action.get();

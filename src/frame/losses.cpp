@@ -3,6 +3,7 @@
 #include "frame/losses.h"
 
 #include "actions/kinds.h"
+#include "host/db/OdDbClasses.h"
 
 CFxString ObjectTitle(const OdRxClass* cls, const OdDbHandle& handle)
 {
@@ -43,11 +44,27 @@ CFxString ActionTitle(const OdRxObject* action)
 
 bool ActionKinds::has(std::int32_t kind) const
 {
-    if (!kinds_) {
-        kinds_.emplace();
-        for (const OdRxObjectPtr& action : actions_)
-            if (const auto custom = odrxQuery<CFxCustomAction>(action.get()))
-                kinds_->insert(custom->GetKind());
-    }
+    look();
     return kinds_->contains(kind);
+}
+
+bool ActionKinds::hasBlock() const
+{
+    look();
+    return hasBlock_;
+}
+
+void ActionKinds::look() const
+{
+    if (kinds_)
+        return;
+    kinds_.emplace();
+    for (const OdRxObjectPtr& action : actions_) {
+        if (const auto custom = odrxQuery<CFxCustomAction>(action.get()))
+            kinds_->insert(custom->GetKind());
+        else if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
+            hasBlock_ = hasBlock_ || added->GetObjectClass() == OdDbBlockTableRecord::desc();
+        else if (const auto modified = odrxQuery<CFxObjectModified>(action.get()))
+            hasBlock_ = hasBlock_ || modified->GetObjectClass() == OdDbBlockTableRecord::desc();
+    }
 }

@@ -42,8 +42,13 @@ class ActionKinds
 public:
     explicit ActionKinds(const CFxActionArray& actions) : actions_(actions) {}
     bool has(std::int32_t kind) const;
+    /// Whether a block definition is added or changed beside them.
+    bool hasBlock() const;
 
 private:
+    void look() const;
+
     const CFxActionArray& actions_;
     mutable std::optional<std::set<std::int32_t>> kinds_;
+    mutable bool hasBlock_ = false;
 };

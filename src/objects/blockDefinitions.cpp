@@ -220,7 +220,7 @@ QString CFxConverterIWAPIObject::CreateBlockDefinition(const BlockContents& cont
         const OdRxClass* const cls = object ? object->isA() : KnownClass(id.getHandle());
         const EntityKind* const kind = cls ? kindOf(cls) : nullptr;
         if (!kind) {
-            loseEntity(cls, id, contents, "no block takes objects of its class");
+            loseEntity(cls, id, contents, cls ? "no block takes objects of its class" : "the drawing does not have it");
             continue;
         }
         BlockEntity entity{*this, writer, object.get(), KnownVariable(id.getHandle())};

@@ -3,6 +3,7 @@
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
 #include "frame/StatementGroup.h"
+#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
@@ -36,7 +37,8 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls,
     const OdDbObjectId noteLeader = fromAdded ? OdDbObjectId() : leader;
     CFxString name;
     if (!AddressChangedObject(cls, handle, noteLeader, list, name, text)) {
-        LoseObject("the recording did not add the object, so the macro has no variable for it");
+        NoteLoss("changes of " + ObjectTitle(cls, handle).toQString(),
+                 "the recording did not add the object, so the macro has no variable for it");
         return kFxSuccess;
     }
 

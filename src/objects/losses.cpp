@@ -36,6 +36,8 @@ bool isDerived(const OdRxClass* cls, const QString& tag)
     });
 }
 
+constexpr std::int32_t kLineWeightByLayer = -1;
+
 /// Objects that a custom action of their command makes, one of these kinds.
 struct MadeByAction
 {
@@ -50,6 +52,30 @@ const MadeByAction madeByActions[] = {
     {"AcDbViewport", {inkmacro::kViewport}},
     {"AcDbViewportTableRecord", {inkmacro::kViewTiles}},
     {"AcDbViewTableRecord", {inkmacro::kViewBackground, inkmacro::kNamedView}},
+};
+
+CFxString nameOfLineStyle(const OdDbObjectId& id)
+{
+    const auto style = odrxQuery<OdDbLinetypeTableRecord>(id.openObject(true).get());
+    return style ? CFxString(style->getName()) : CFxString();
+}
+
+/// A general property, and whether a new object has that value anyway.
+struct GeneralTag
+{
+    const char* tag;
+    bool (*isUsual)(const CFxVariant& value);
+};
+constexpr GeneralTag generalTags[] = {
+    {"LineColor", [](const CFxVariant& value) { return value.GetColor().isByLayer(); }},
+    {"Layer",
+     [](const CFxVariant& value) {
+         return ACTIVE_DOCUMENT && value.GetId() == ACTIVE_DOCUMENT->GetDatabase()->getCLAYER();
+     }},
+    {"LineStyle", [](const CFxVariant& value) { return nameOfLineStyle(value.GetId()).equalNoCase("ByLayer"); }},
+    {"LineScale", [](const CFxVariant& value) { return value.GetDouble() == 1; }},
+    {"LineWeight", [](const CFxVariant& value) { return value.GetInt32() == kLineWeightByLayer; }},
+    {"Thickness", [](const CFxVariant& value) { return value.GetDouble() == 0; }},
 };
 
 } // namespace
@@ -96,13 +122,16 @@ void CFxConverterIWAPIObject::LoseUnmade(PropertyList& rest, bool written)
         madeByActions, [&](const MadeByAction& made) { return changedClass->name() == QLatin1String(made.cls); });
     if (row == std::end(madeByActions))
         return;
-    if (std::ranges::none_of(row->kinds, [&](std::int32_t kind) { return driver.HasSibling(kind); })) {
+    // A block inserts the hatches that it is made of.
+    const bool inBlock = changedClass == OdDbHatch::desc() && driver.HasSiblingBlock();
+    const auto makes = [&](std::int32_t kind) { return driver.HasSibling(kind); };
+    if (!inBlock && std::ranges::none_of(row->kinds, makes)) {
         LoseObject("no action of its command makes it");
         return;
     }
     if (written || !changedClass->isDerivedFrom(OdDbEntity::desc()))
         return;
-    for (const char* const tag : {"LineColor", "Layer", "LineStyle", "LineScale", "LineWeight", "Thickness"})
-        if (!FindProperty(tag, rest, driver.GetContext()).IsNull())
+    for (const auto& [tag, isUsual] : generalTags)
+        if (const CFxVariant value = FindProperty(tag, rest, driver.GetContext()); !value.IsNull() && !isUsual(value))
             LoseProperty(tag, "the action that makes the object does not set it");
 }
