@@ -88,6 +88,7 @@ struct RawArguments
     std::string schemaOf = "recording";
     bool replay = false;
     bool quiet = false;
+    bool repair = false;
     bool json = false;
     bool version = false;
 };
@@ -149,6 +150,7 @@ void declareArguments(CLI::App& app, RawArguments& raw)
     // A flag with a value takes no argument behind it, which may be a file.
     convert->add_flag("--report{json}", raw.report)->check(CLI::IsMember({"json", "text"}));
     convert->add_flag("--quiet", raw.quiet);
+    convert->add_flag("--repair", raw.repair);
     convert->add_option("--recording-language", raw.recordingLanguage)->check(CLI::Range(0, 5));
     convert->add_option("--install-dir", raw.installDir);
     convert->add_option("--option-names", raw.optionNames);
@@ -180,6 +182,7 @@ HostSettings hostSettings(const RawArguments& raw)
     if (raw.lineStyles)
         host.lineStyles = parseDirectory("--line-styles", decodeName(*raw.lineStyles));
     host.replay = raw.replay;
+    host.repair = raw.repair;
     return host;
 }
 
@@ -245,6 +248,8 @@ QStringList HostSettings::arguments() const
         arguments.append("--line-styles=" + *lineStyles);
     if (replay)
         arguments.append("--replay");
+    if (repair)
+        arguments.append("--repair");
     return arguments;
 }
 
@@ -257,8 +262,9 @@ QString helpText()
 
 Usage:
   inkmacro convert FILE... --target TARGET[,TARGET...]|all [--output PATH]
-                   [--replay] [--recording-language N] [--install-dir DIR]
-                   [--option-names FILE] [--line-styles DIR]
+                   [--replay] [--repair] [--recording-language N]
+                   [--install-dir DIR] [--option-names FILE]
+                   [--line-styles DIR]
   inkmacro inspect FILE [--json]
   inkmacro check FILE...
   inkmacro snapshot FILE --handle H [--json]
@@ -303,6 +309,11 @@ Options of convert:
       The macro stops where the recorded command asked its user something,
       offers the recorded answer, and sets the system variables that changed.
       Without it the recording's header says.
+  --repair
+      Without it a macro is as the application's own recorder writes it, with
+      faults by which its language or its host rejects it; and a recorded text
+      with a quotation mark in it can become code. With it they are mended: all
+      that the user entered stays text.
   --recording-language N
       The host setting that decides on the byte order mark and on the form of
       type names, 0 to 5. Without it the recording's header says, or else the

@@ -27,6 +27,7 @@ struct HostSettings
     std::optional<QString> optionNames;   ///< file with the enumerators of system variables' options
     std::optional<QString> lineStyles;    ///< directory of line style files, searched before those of the drawing
     bool replay = false;                  ///< whatever mode the recording says
+    bool repair = false;                  ///< macros without their known faults
 
     /// The same once more, for another process of this program.
     QStringList arguments() const;

@@ -43,6 +43,7 @@ std::int32_t runModule(const Job& job, const QString& macro, const Recording& re
     const auto code = static_cast<std::uint32_t>(job.target->target);
     const int language = host.recordingLanguage.value_or(recording.header.language.value_or(static_cast<int>(code)));
     GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
+    GetFxSystemServices()->SetInt16("RepairMacros", host.repair ? 1 : 0);
     if (host.installDir)
         GetFxRegistry()->SetText("SOFTWARE\\Velmorand\\Inkwright", "InstallDir", *host.installDir);
     if (recording.header.sheet)

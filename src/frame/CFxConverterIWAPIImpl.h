@@ -125,6 +125,10 @@ public:
     // Unless the target says otherwise, the macro file is the whole result.
     virtual QString EmitProgramText(const QString&) { return {}; }
     virtual QString EmitProjectText(const QString&) { return {}; }
+    /// The name that stands in code for that of the macro's file: itself, in a repaired macro one that is legal.
+    QString identifier(const QString& name) const;
+    /// The text with a note when the name in it is no identifier.
+    QString faultyName(const QString& name, const QString& text) const;
     /// Writes the project around the macro file.
     virtual std::int32_t EmitProjectFiles(const QString&) { return kFxSuccess; }
 

@@ -16,3 +16,9 @@ bool RecordsIn(inkmacro::Target language)
 {
     return RecordingLanguage() == static_cast<std::int16_t>(language);
 }
+
+bool RepairsMacros()
+{
+    static const std::int16_t& setting = GetFxSystemServices()->GetInt16("RepairMacros");
+    return setting != 0;
+}

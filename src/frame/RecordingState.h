@@ -14,3 +14,6 @@ extern bool RecordingInModel;
 /// need not be the code of the conversion that runs.
 std::int16_t RecordingLanguage();
 bool RecordsIn(inkmacro::Target language);
+
+/// The host setting that asks for macros without the faults that their targets are known to reject.
+bool RepairsMacros();

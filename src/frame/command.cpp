@@ -12,7 +12,14 @@
 #include <QScopedValueRollback>
 #include <QStringList>
 
+using inkmacro::Fault;
+using inkmacro::Target;
+
 namespace {
+
+const Fault kUndeclared{"ConvertCommand",
+                        {Target::Cpp, Target::CppCom, Target::CSharp, Target::VbNet, Target::Vba},
+                        "a command that loads a shape file or stands without a block has no declarations"};
 
 /// Whether a custom action of the same command finishes objects of that class; it is told their variable.
 bool isFinishedByCustomAction(const OdRxClass* cls)
@@ -56,20 +63,28 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
     const ActionKinds kinds(children);
     const QScopedValueRollback<const ActionKinds*> beside(siblings, &kinds);
 
-    const std::uint32_t outerCounter = std::exchange(writer.UniqueCounter, 0);
+    // Where locals are seen behind their command, numbers that begin anew make some of them twice.
+    const std::uint32_t outerCounter = writer.UniqueCounter;
+    if (!writer.repairs)
+        writer.UniqueCounter = 0;
     ConvertChildren(children, state, group);
 
     const bool grouped = !group.abandoned() && !state.unnamedTarget;
-    const bool written = grouped && !state.allEmpty && !state.shapeStyle;
+    const bool written = grouped && !state.allEmpty && (writer.repairs || !state.shapeStyle);
+    if (written || (writer.repairs && !state.allEmpty))
+        writer.write(stream, state.declarations);
+    else if (!state.declarations.isEmpty() && !state.statements.isEmpty())
+        state.statements.front() = writer.faulty(state.statements.front(), kUndeclared);
     if (written)
-        stream << state.declarations << group.begin();
+        writer.write(stream, group.begin());
     for (const QString& statement : state.statements)
         writer.write(stream, statement);
     // An unnamed target leaves the level where the group's begin put it: what follows stands one level deeper.
     const QString end = grouped ? group.close() : QString();
     if (written)
-        stream << end;
-    writer.UniqueCounter = outerCounter;
+        writer.write(stream, end);
+    if (!writer.repairs)
+        writer.UniqueCounter = outerCounter;
     return kFxSuccess;
 }
 

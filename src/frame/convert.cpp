@@ -4,6 +4,7 @@
 #include "frame/RecordingState.h"
 #include "frame/losses.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "targets/quoting.h"
 #include "targets/variables.h"
 #include "targets/wording.h"
 
@@ -15,6 +16,10 @@
 #include <algorithm>
 
 namespace {
+
+const inkmacro::Fault kIllegalName{"EmitFileHeader",
+                                   {inkmacro::Target::CSharp, inkmacro::Target::VbNet, inkmacro::Target::CppCom},
+                                   "the file's name stands in code, where it is no identifier"};
 
 /// The byte order mark follows the host's setting and not the target: the codes of the two C++ targets, 0 and 4, ask
 /// for it.
@@ -61,7 +66,9 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
 
     writer.IndentLevel = 0;
     const bool hasSysVar = std::any_of(actions.begin(), actions.end(), isSysVar);
-    stream << EmitFileHeader(inkmacro::projectName(path), hasSysVar);
+    writer.file = QFileInfo(path).fileName();
+    writer.noteFaults();
+    writer.write(stream, EmitFileHeader(inkmacro::projectName(path), hasSysVar));
     RecordingSheetName = CFxString();
     RecordingInModel = true;
 
@@ -75,7 +82,7 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     }
 
     // Written after a failure too, when the level may be out of balance: nobody reads that text.
-    stream << EmitFileFooter();
+    writer.write(stream, EmitFileFooter());
     stream.flush();
     bool written = stream.status() == QTextStream::Ok && file.error() == QFileDevice::NoError;
     // Some file systems tell only who closes a file that it was not written. A close that goes well forgets the rest.
@@ -91,6 +98,16 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     return EmitProjectFiles(path);
 }
 
+QString CFxConverterIWAPIImpl::identifier(const QString& name) const
+{
+    return writer.repairs ? inkmacro::legalName(name) : name;
+}
+
+QString CFxConverterIWAPIImpl::faultyName(const QString& name, const QString& text) const
+{
+    return inkmacro::legalName(name) == name ? text : writer.faulty(text, kIllegalName);
+}
+
 std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action)
 {
     writer.forgetLater();
@@ -103,7 +120,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const O
         }
     }
     if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
-        stream << EmitVariableDeclaration(writer, RegisterObject(added->GetHandle(), added->GetObjectClass()));
+        writer.write(stream,
+                     EmitVariableDeclaration(writer, RegisterObject(added->GetHandle(), added->GetObjectClass())));
 
     QString text;
     const std::int32_t status = ConvertOrLose(action, text);

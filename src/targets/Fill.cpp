@@ -1,6 +1,9 @@
 #include "targets/Fill.h"
 
 #include "host/rx/OdError.h"
+#include "targets/Fault.h"
+#include "targets/Marks.h"
+#include "targets/quoting.h"
 
 #include <algorithm>
 #include <array>
@@ -350,9 +353,47 @@ bool isClosing(T)
     return false;
 }
 
+/// Follows a statement's text from quote to quote.
+class Quotes
+{
+public:
+    /// Whether quotes are open behind the text, which goes on where the last one ended. A comment ends with its line,
+    /// and since a marker may stand for the line end, with a marker too.
+    bool areOpenBehind(QStringView text, Target language)
+    {
+        const bool basic = isBasic(language);
+        comment_ = false;
+        for (qsizetype at = 0; at < text.size(); ++at) {
+            const QChar character = text[at];
+            if (comment_)
+                comment_ = character != u'\n';
+            else if (!open_.isNull() && !basic && character == u'\\')
+                ++at;
+            else if (!open_.isNull())
+                open_ = character == open_ ? QChar() : open_;
+            else if (character == u'"' || (character == u'\'' && !basic))
+                open_ = character;
+            else
+                comment_ = basic ? character == u'\'' : text.mid(at).startsWith(u"//");
+        }
+        return !open_.isNull();
+    }
+
+private:
+    QChar open_; ///< null outside of quotes
+    bool comment_ = false;
+};
+
+const Fault kBrokenQuotes{"EscapeText",
+                          {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                          "a text closes the literal that it stands in, or is read as another text there"};
+const Fault kReadMarker{"EscapeText",
+                        {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                        "a text holds a percent sign and a digit, and a later value of the statement stands there"};
+
 } // namespace
 
-Template::Template(const char* latin1) : text_(QString::fromLatin1(latin1))
+Template::Template(const char* latin1, std::optional<Target> language) : text_(QString::fromLatin1(latin1))
 {
     std::vector<Marker> markers;
     std::vector<int> numbers;
@@ -364,6 +405,7 @@ Template::Template(const char* latin1) : text_(QString::fromLatin1(latin1))
     numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
     ranks_.resize(numbers.size());
 
+    Quotes quotes;
     int from = 0;
     bool openMarker = false;
     int before = 0;
@@ -381,7 +423,9 @@ Template::Template(const char* latin1) : text_(QString::fromLatin1(latin1))
         ranks_[rank].exposed |= open;
         local_ |= marker.local;
         addText(marker.begin);
-        pieces_.push_back({marker.begin, marker.end - marker.begin, static_cast<int>(rank)});
+        const bool quoted = language && quotes.areOpenBehind(text, *language);
+        quotes_ |= quoted;
+        pieces_.push_back({marker.begin, marker.end - marker.begin, static_cast<int>(rank), quoted});
         from = marker.end;
         openMarker = marker.end - marker.begin == 2;
         before = marker.number;
@@ -413,10 +457,81 @@ QString Fill::str() const
         return {};
     }
     const int used = std::min(values_.size(), static_cast<int>(template_->ranks_.size()));
+    if (mode_.repairs) {
+        return escaped(used);
+    }
+    QString outcome = filled(used);
+    if (mode_.marked && (fault_ || percent_ || template_->quotes_)) {
+        markFaults(outcome, used);
+    }
+    return outcome;
+}
+
+QString Fill::filled(int used) const
+{
     if (used == 0) {
         return template_->text_;
     }
     return fitsOnePass(used) ? inOnePass(used) : valueByValue();
+}
+
+QString Fill::escaped(int used) const
+{
+    QString out;
+    for (const Template::Piece& piece : template_->pieces_) {
+        if (piece.rank == Template::noMarker || piece.rank >= used) {
+            out += QStringView(template_->text_).mid(piece.from, piece.length);
+            continue;
+        }
+        const QString value = std::visit(
+            [](const auto& held) { return written(room(held), [&](QChar* end) { return write(end, held); }); },
+            values_[piece.rank]);
+        if (piece.quoted) {
+            appendQuoted(out, value, *mode_.target);
+        } else {
+            out += value;
+        }
+        if (out.size() > longestText) {
+            throw OdError(eTextTooLong, "a statement would be longer than 256 MiB");
+        }
+    }
+    return out;
+}
+
+void Fill::markFaults(QString& outcome, int used) const
+{
+    const auto mark = [&](const Fault& fault) {
+        insertMark(outcome, {Mark::Kind::Fault, fault.number()});
+        *mode_.marked = true;
+    };
+    if (fault_) {
+        mark(*fault_);
+    }
+    if (percent_ && hasReadMarker(used)) {
+        mark(kReadMarker);
+    }
+    if (template_->quotes_ && hasBrokenQuotes(used)) {
+        mark(kBrokenQuotes);
+    }
+}
+
+bool Fill::hasBrokenQuotes(int used) const
+{
+    return std::any_of(template_->pieces_.begin(), template_->pieces_.end(), [&](const Template::Piece& piece) {
+        const auto* const text =
+            piece.quoted && piece.rank < used ? std::get_if<QStringView>(&values_[piece.rank]) : nullptr;
+        return text && breaksQuotes(*text, *mode_.target);
+    });
+}
+
+/// The last value has none behind it that could stand in its marker.
+bool Fill::hasReadMarker(int used) const
+{
+    const auto holdsMarker = [](const Value& value) {
+        const auto* const text = std::get_if<QStringView>(&value);
+        return text && hasMarker(*text);
+    };
+    return std::any_of(values_.begin(), values_.begin() + std::min(used, values_.size() - 1), holdsMarker);
 }
 
 /// Whether no value makes or changes a marker for the values behind it.

@@ -2,23 +2,29 @@
 
 #include "host/db/OdGe.h"
 #include "host/kernel/CFxString.h"
+#include "targets/Target.h"
 
 #include <QString>
 #include <QStringView>
 #include <QVarLengthArray>
 
 #include <cstdlib>
+#include <optional>
+#include <utility>
 #include <variant>
 #include <vector>
 
 namespace inkmacro {
+
+class Fault;
 
 /// A Latin-1 literal, cut into plain text and markers. Markers are those of QString::arg: `%`, an optional `L` for the
 /// locale's form of a number, one or two digits.
 class Template
 {
 public:
-    explicit Template(const char* latin1);
+    /// Of a language in which a statement stands; without one, no text is known to stand between quotes.
+    explicit Template(const char* latin1, std::optional<Target> language = {});
 
 private:
     friend class Fill;
@@ -28,7 +34,8 @@ private:
     {
         int from;
         int length;
-        int rank; ///< of the marker, noMarker for plain text
+        int rank;            ///< of the marker, noMarker for plain text
+        bool quoted = false; ///< a marker between quotes of the language
     };
 
     /// One marker number. The numbers are ranked upwards from 0; values go to the ranks in turn.
@@ -45,13 +52,25 @@ private:
     QString text_;
     std::vector<Piece> pieces_;
     std::vector<Rank> ranks_;
-    bool local_ = false; ///< some marker has an L
+    bool local_ = false;  ///< some marker has an L
+    bool quotes_ = false; ///< some marker stands between quotes
+};
+
+/// What a conversion asks of the statements that it fills.
+struct FillMode
+{
+    std::optional<Target> target{};
+    bool repairs = false;   ///< see Fill
+    bool* marked = nullptr; ///< set when an outcome has a mark of a fault; null: faults are not looked for
 };
 
 /// Fills one template. Values are taken in the order given: each goes to all places of the lowest-numbered marker that
 /// is left. Values without a marker are dropped; markers without a value stay as they are. The outcome is exactly what
 /// a chain of QString::arg calls makes of the literal, also where a value itself holds markers for the values behind
 /// it; but Qt's warnings about missing markers are not printed.
+///
+/// In a repaired macro values hold no markers, and a text between quotes is escaped as the target's language wants it.
+/// In any other the outcome is marked as faulty where that makes a difference.
 ///
 /// Texts that stand in a variable are kept as views: each must live until str() is called. An outcome of more than
 /// 256 Mi characters, or one on the way to it, raises an OdError.
@@ -66,6 +85,15 @@ public:
     Fill(const Template* words, unsigned level, QStringView lineEnd) : template_(words) { indent(level).text(lineEnd); }
     Fill(const Fill&) = delete;
     Fill& operator=(const Fill&) = delete;
+    Fill(Fill&&) = default; // what is kept does not move, so the views stay good
+
+    /// `fault` is the one that the words have, if any.
+    Fill with(const FillMode& mode, const Fault* fault = nullptr) &&
+    {
+        mode_ = mode;
+        fault_ = fault;
+        return std::move(*this);
+    }
 
     /// Four blanks a level, but one blank at level 0. A level that was lowered below 0 has as many blanks as its
     /// counterpart above: so QString::arg takes a negative width.
@@ -132,11 +160,18 @@ private:
     }
 
     // `used` is how many values have a marker.
+    QString filled(int used) const;
+    QString escaped(int used) const;
+    void markFaults(QString& outcome, int used) const;
+    bool hasBrokenQuotes(int used) const;
+    bool hasReadMarker(int used) const;
     bool fitsOnePass(int used) const;
     QString inOnePass(int used) const;
     QString valueByValue() const;
 
     const Template* template_;
+    FillMode mode_{};
+    const Fault* fault_ = nullptr;
     QVarLengthArray<Value, 16> values_;
     std::vector<QString> kept_; ///< what views among the values look at; their characters never move
     bool percent_ = false;      ///< some text holds '%'

@@ -43,7 +43,7 @@ const Template* Phrase::in(Target target) const
     auto& slot = templates_[index];
     const Template* kept = slot.load(std::memory_order_acquire);
     if (!kept) {
-        auto cut = std::make_unique<const Template>(literals_[index]);
+        auto cut = std::make_unique<const Template>(literals_[index], target);
         if (slot.compare_exchange_strong(kept, cut.get(), std::memory_order_acq_rel, std::memory_order_acquire)) {
             kept = cut.release();
         }

@@ -23,6 +23,8 @@ struct Words
     const char* in(Target target) const;
 };
 
+class Mend;
+
 /// One statement in all targets, safe to use from several threads. Phrases have static storage duration; each lists
 /// itself in all(), so that the holes can be enumerated.
 class Phrase
@@ -47,12 +49,18 @@ public:
         return templates_[static_cast<std::size_t>(target)].load(std::memory_order_relaxed) != nullptr;
     }
 
+    /// What is known to be wrong with the target's literal; null when nothing is.
+    const Mend* mend(Target target) const { return mends_[static_cast<std::size_t>(target)]; }
+
     static const std::vector<const Phrase*>& all();
 
 private:
+    friend class Mend;
+
     const char* name_;
     std::array<const char*, targetCount> literals_;
     mutable std::array<std::atomic<const Template*>, targetCount> templates_{};
+    mutable std::array<const Mend*, targetCount> mends_{}; ///< set while the program starts
 };
 
 } // namespace inkmacro

@@ -1,6 +1,9 @@
 #include "targets/Writer.h"
 
+#include "frame/RecordingState.h"
+#include "host/kernel/CFxServices.h"
 #include "targets/LineEnd.h"
+#include "targets/Marks.h"
 
 #include <QTextStream>
 
@@ -10,29 +13,6 @@
 using namespace inkmacro;
 
 namespace {
-
-/// In no text: a low surrogate stands alone only for a byte of a file's name, of which none becomes this one. The
-/// number of what is kept stands behind it, in three more.
-const QString laterMark(2, QChar(0xDFFF));
-constexpr int kLaterDigits = 3;
-constexpr int kLaterDigitBits = 10;
-constexpr ushort kFirstLowSurrogate = 0xDC00;
-
-QString laterDigits(std::size_t number)
-{
-    QString digits;
-    for (int shift = (kLaterDigits - 1) * kLaterDigitBits; shift >= 0; shift -= kLaterDigitBits)
-        digits += QChar(static_cast<ushort>(kFirstLowSurrogate + ((number >> shift) & ((1U << kLaterDigitBits) - 1))));
-    return digits;
-}
-
-std::size_t laterNumber(QStringView digits)
-{
-    std::size_t number = 0;
-    for (const QChar digit : digits)
-        number = (number << kLaterDigitBits) | (digit.unicode() - kFirstLowSurrogate);
-    return number;
-}
 
 /// The stream makes copies of all that it is given at once.
 void writeSliced(QTextStream& stream, QStringView text)
@@ -49,14 +29,35 @@ void writeSliced(QTextStream& stream, QStringView text)
 
 } // namespace
 
+Writer::Writer(Target target) : target(target), repairs(RepairsMacros())
+{
+}
+
+FillMode Writer::mode() const
+{
+    return {target, repairs, notesFaults_ ? &marked_ : nullptr};
+}
+
+Fill Writer::fillPlain(const Phrase& phrase) const
+{
+    const Mend* const mend = phrase.mend(target);
+    if (!mend)
+        return Fill(phrase.in(target)).with(mode());
+    return repairs ? Fill(mend->words()).with(mode()) : Fill(phrase.in(target)).with(mode(), mend);
+}
+
 Fill Writer::fill(const Phrase& phrase) const
 {
-    return Fill(phrase.in(target), IndentLevel, LineEnd);
+    Fill statement = fillPlain(phrase);
+    statement.indent(IndentLevel).text(LineEnd);
+    return statement;
 }
 
 Fill Writer::fillIndented(const Phrase& phrase) const
 {
-    return Fill(phrase.in(target), IndentLevel);
+    Fill statement = fillPlain(phrase);
+    statement.indent(IndentLevel);
+    return statement;
 }
 
 QString Writer::indentation() const
@@ -64,27 +65,52 @@ QString Writer::indentation() const
     return QString(Fill::indentationWidth(IndentLevel), ' ');
 }
 
+QString Writer::faulty(QString statement, const Fault& fault) const
+{
+    if (notesFaults_ && !repairs && !statement.isEmpty()) {
+        insertMark(statement, {Mark::Kind::Fault, fault.number()});
+        marked_ = true;
+    }
+    return statement;
+}
+
 QString Writer::later(Parts parts)
 {
     later_.push_back(std::move(parts));
-    return laterMark + laterDigits(later_.size() - 1);
+    marked_ = true;
+    return Mark{Mark::Kind::Later, later_.size() - 1}.text();
 }
 
-void Writer::write(QTextStream& stream, const QString& statements) const
+void Writer::writeText(QTextStream& stream, QStringView text)
+{
+    line_ += std::count(text.begin(), text.end(), QChar('\n'));
+    writeSliced(stream, text);
+}
+
+void Writer::write(QTextStream& stream, const QString& statements)
 {
     const QStringView text(statements);
-    int from = 0;
-    int at = later_.empty() ? -1 : statements.indexOf(laterMark);
-    for (; at != -1; at = statements.indexOf(laterMark, from)) {
-        writeSliced(stream, text.mid(from, at - from));
-        const int digits = at + laterMark.size();
-        const Parts& parts = later_.at(laterNumber(text.mid(digits, kLaterDigits)));
+    qsizetype from = 0;
+    auto found = marked_ ? Mark::find(text, 0) : std::nullopt;
+    for (; found; found = Mark::find(text, from)) {
+        writeText(stream, text.mid(from, found->at - from));
+        from = found->at + Mark::length;
+        if (found->mark.kind == Mark::Kind::Fault) {
+            noteFault(*Fault::all().at(found->mark.number));
+            continue;
+        }
+        const Parts& parts = later_.at(found->mark.number);
         QString part = parts(0);
         for (std::size_t number = 1; !part.isEmpty(); ++number) {
-            writeSliced(stream, part);
+            writeText(stream, part);
             part = parts(number);
         }
-        from = digits + kLaterDigits;
     }
-    writeSliced(stream, text.mid(from));
+    writeText(stream, text.mid(from));
+}
+
+void Writer::noteFault(const Fault& fault) const
+{
+    GetFxSystemServices()->Notes().NoteFault(
+        {fault.operation(), fault.reason(), file, static_cast<std::uint32_t>(line_), fault.mended()});
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/kernel/CFxString.h"
-#include "targets/Phrase.h"
+#include "targets/Fault.h"
 
 #include <cstdint>
 #include <functional>
@@ -14,7 +14,7 @@ class QTextStream;
 class Writer
 {
 public:
-    explicit Writer(inkmacro::Target target) : target(target) {}
+    explicit Writer(inkmacro::Target target);
     Writer(const Writer&) = delete;
     Writer& operator=(const Writer&) = delete;
 
@@ -22,24 +22,45 @@ public:
     inkmacro::Fill fill(const inkmacro::Phrase& phrase) const;
     /// The same for literals in which `%2` is a value already: only the indentation is filled in.
     inkmacro::Fill fillIndented(const inkmacro::Phrase& phrase) const;
+    /// The words of a frame, which bring their own indentation.
+    inkmacro::Fill fill(const inkmacro::Template& words) const { return inkmacro::Fill(&words).with(mode()); }
+    /// The target's words for the phrase, with nothing filled in.
+    inkmacro::Fill fillPlain(const inkmacro::Phrase& phrase) const;
     /// The blanks in front of a statement.
     QString indentation() const;
+
+    /// The statement with a note that it has the fault, which a repaired macro has not: there it stays as it is.
+    QString faulty(QString statement, const inkmacro::Fault& fault) const;
 
     /// Gives the parts of a text one by one, from 0; an empty one behind the last.
     using Parts = std::function<QString(std::size_t part)>;
     /// Stands in a statement for a text that is too long to be held: its parts are made when the statement is written.
     QString later(Parts parts);
-    /// Writes statements, with all that they have kept for later.
-    void write(QTextStream& stream, const QString& statements) const;
+    /// From here on statements bear marks of their faults, and so are good for write() alone.
+    void noteFaults() { notesFaults_ = true; }
+    /// Writes statements, with all that they have kept for later. Their faults are noted with the lines where they
+    /// stand.
+    void write(QTextStream& stream, const QString& statements);
     /// Forgets what has been kept, once no statement stands for it any more.
     void forgetLater() { later_.clear(); }
 
     const inkmacro::Target target;
+    /// Whether the macro is written without the faults that its target is known to reject.
+    const bool repairs;
+    /// The macro's name without folders.
+    QString file;
     /// Depth of the statement being written, four blanks a level.
     std::uint32_t IndentLevel = 0;
     /// Suffix that keeps the local names of one statement apart: raised before use by each statement that has one.
     std::uint32_t UniqueCounter = 0;
 
 private:
+    inkmacro::FillMode mode() const;
+    void writeText(QTextStream& stream, QStringView text);
+    void noteFault(const inkmacro::Fault& fault) const;
+
     std::vector<Parts> later_;
+    std::size_t line_ = 1;        ///< of the macro, that is written next
+    bool notesFaults_ = false;    ///< else no statement gets a mark of one
+    mutable bool marked_ = false; ///< some statement has a mark
 };

@@ -1,7 +1,6 @@
 #include "targets/installation.h"
 
 #include "host/kernel/CFxRegistry.h"
-#include "targets/wording.h"
 
 namespace inkmacro {
 
@@ -11,7 +10,7 @@ QString installedPath(const char* tail)
     if (directory.isEmpty())
         directory = QStringLiteral("C:\\Program Files\\Velmorand\\Inkwright\\");
     else
-        directory = doubleBackslashes(directory);
+        directory.replace('\\', QLatin1String("\\\\"));
     // Only a directory that was found has its backslashes doubled; the tail never has.
     return directory + QLatin1String(tail);
 }

@@ -302,7 +302,7 @@ QString EmitPromptKeyword(Writer& writer, const CFxString& prompt, const std::ve
                           const std::vector<CFxString>& global)
 {
     const std::uint32_t lists = writer.UniqueCounter;
-    const auto line = [&](const Phrase& phrase) { return Fill(phrase.in(writer.target), writer.IndentLevel); };
+    const auto line = [&](const Phrase& phrase) { return writer.fillIndented(phrase); };
     const CFxString first = local.empty() ? CFxString() : local.front();
     QString text = line(keywordLists).number(lists).text(first).number(local.size());
     for (std::size_t i = 0; i < local.size(); ++i) {

@@ -123,7 +123,7 @@ QString EmitPromptSelection(Writer& writer, const EntityList& entities)
         const auto& [name, type, handle] = entities[i];
         const bool known = !name.isEmpty() && !type.isEmpty();
         const auto found = [&, &handle = handle](const Phrase& phrase, const char* local) {
-            return phrase.has(writer.target) ? Fill(phrase.in(writer.target)).text(handle).number(number).str()
+            return phrase.has(writer.target) ? writer.fillPlain(phrase).text(handle).number(number).str()
                                              : local + QString::number(number);
         };
         types.push_back(known ? enumeratorText(writer.target, "iwObjectType_e", type) : found(findType, "type"));

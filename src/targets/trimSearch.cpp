@@ -316,7 +316,7 @@ struct Questions
 static QString compared(Writer& writer, const QString& value, int number)
 {
     const QString offset = number == 0 ? QString() : " + " + QString::number(number);
-    return Fill(comparison.in(writer.target)).text(value).text(offset);
+    return writer.fillPlain(comparison).text(value).text(offset);
 }
 
 /// How a call names the local that it gives an answer to.
@@ -359,7 +359,7 @@ static void askPoint(Writer& writer, const PiecesOfClass& of, const ComparedPoin
 static void askProperty(Writer& writer, const PiecesOfClass& of, const char* name, int number, Questions& questions)
 {
     if (property.has(writer.target)) {
-        const QString value = Fill(property.in(writer.target)).text(of.stem).text(QLatin1String(name));
+        const QString value = writer.fillPlain(property).text(of.stem).text(QLatin1String(name));
         questions.comparisons.append(compared(writer, value, number));
         return;
     }
@@ -414,7 +414,7 @@ static QString sectionOf(Writer& writer, const PiecesOfClass& of, bool first, QS
     const QString lines = declarations.join(QString());
     return writer.fill(testOfClass)
         .text(assignments)
-        .text(first ? QString() : QString(Fill(otherClass.in(writer.target), writer.IndentLevel)))
+        .text(first ? QString() : QString(writer.fillIndented(otherClass)))
         .text(objectTypeWord(writer.target, of.row.enumerator))
         .text(of.stem)
         .text(vba ? questions.calls : lines + questions.calls)

@@ -1,5 +1,7 @@
 #include "targets/wording.h"
 
+#include "frame/RecordingState.h"
+
 #include <QFileInfo>
 #include <QRegExp>
 #include <QRegularExpression>
@@ -26,17 +28,19 @@ QString CleanPromptText(const QString& prompt)
 
 QString doubleBackslashes(QString text)
 {
+    if (RepairsMacros())
+        return text;
     return text.replace('\\', QLatin1String("\\\\"));
 }
 
 QString escapeWithBackslashes(const QString& text)
 {
-    return doubleBackslashes(text).replace('\n', QLatin1String("\\n"));
+    return RepairsMacros() ? text : doubleBackslashes(text).replace('\n', QLatin1String("\\n"));
 }
 
 QString escapeText(Target target, const QString& text)
 {
-    if (isBasic(target))
+    if (isBasic(target) && !RepairsMacros())
         return QString(text).replace('\n', QLatin1String("\" & vbLf & \""));
     return escapeWithBackslashes(text);
 }

@@ -48,7 +48,7 @@ static QString entityArray(Writer& writer, const std::vector<QString>& names)
     const QString lines =
         objectLines({writer, QStringLiteral("iwEntities"), 0, Brackets::Tight}, elementWords(writer.target, names));
     if (writer.target == Target::CSharp || writer.target == Target::JavaScript)
-        return Fill(entitiesHead.in(writer.target)).number(qulonglong{names.size()}).indent(writer.IndentLevel).str() +
+        return writer.fillPlain(entitiesHead).number(qulonglong{names.size()}).indent(writer.IndentLevel).str() +
                LineEnd + lines;
     return writer.fill(entitiesHead).number(arrayBound(writer, names.size())).str() + lines;
 }

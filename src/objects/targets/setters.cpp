@@ -237,7 +237,7 @@ QString EmitSetTransparency(Writer& writer, const CFxString& target, const OdCmT
                                                                                     : nullptr;
     // The interface counts in percent from solid to clear.
     const int percent = static_cast<int>(100 - transparency.alpha / 255.0 * 100);
-    const QString line = Fill(phrase ? phrase->in(writer.target) : nullptr).number(counter).number(percent);
+    const QString line = phrase ? writer.fillPlain(*phrase).number(counter).number(percent).str() : QString();
     const QString statement = writer.fill(setTransparency).number(counter).text(target).text(line);
     ++counter;
     return statement;

@@ -84,8 +84,8 @@ QString EmitViewportOverrideColor(Writer& writer, const CFxString& layer, const 
     const bool indexed = color.isByBlock() || color.isByLayer() || color.isByACI();
     const bool byLocal = writer.target == Target::Cpp;
     const QString suffix = nextSuffix(writer);
-    Fill words = byLocal ? writer.fill(indexed ? indexedColor : rgbColor)
-                         : Fill((indexed ? indexedColor : rgbColor).in(writer.target));
+    Fill words =
+        byLocal ? writer.fill(indexed ? indexedColor : rgbColor) : writer.fillPlain(indexed ? indexedColor : rgbColor);
     if (byLocal)
         words.text(suffix);
     if (indexed)

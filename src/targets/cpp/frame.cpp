@@ -39,14 +39,15 @@ static const FileHead head{
 QString CFxConverterIWAPICPP::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 1;
-    const Template words(head.words().constData());
-    return Fill(&words).text(LineEnd).text(className).text(RecordingSheetName);
+    const Template words(head.words().constData(), writer.target);
+    return writer.fill(words).text(LineEnd).text(className).text(RecordingSheetName);
 }
 
 QString CFxConverterIWAPICPP::EmitFileFooter()
 {
     writer.IndentLevel -= 1;
     static const Template words("    return true;%1}%1%1const iwString &CMacroCommand::GetName() const%1{%1"
-                                "    return m_name;%1}%1");
-    return Fill(&words).text(LineEnd);
+                                "    return m_name;%1}%1",
+                                writer.target);
+    return writer.fill(words).text(LineEnd);
 }

@@ -152,7 +152,7 @@ namespace inkmacro::cppcom {
 
 QString connectionHeader(const QString& name)
 {
-    static const Template words(headerText);
+    const Template words(withIdentifier(headerText, {"LIBID_%1Lib"}, name).constData());
     return Fill(&words).text(name).text(LineEnd);
 }
 

@@ -4,6 +4,7 @@
 #include "targets/FileHead.h"
 #include "targets/LineEnd.h"
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
+#include "targets/cppcom/projectTexts.h"
 
 #include <QUuid>
 
@@ -155,14 +156,17 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 QString CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 1;
-    const Template words((server + head.words()).constData());
+    const Template words(
+        (cppcom::withIdentifier(server, {"C%2Module", "LIBID_%2Lib", "IDR_%2,"}, className) + head.words()).constData(),
+        writer.target);
     const QString serverId = QUuid::createUuid().toString();
-    return Fill(&words).text(LineEnd).text(className).text(serverId).text(RecordingSheetName);
+    return faultyName(className,
+                      writer.fill(words).text(LineEnd).text(className).text(serverId).text(RecordingSheetName));
 }
 
 QString CFxConverterIWAPICPPCOM::EmitFileFooter()
 {
     writer.IndentLevel -= 1;
-    static const Template words("}%1%1");
-    return Fill(&words).text(LineEnd);
+    static const Template words("}%1%1", writer.target);
+    return writer.fill(words).text(LineEnd);
 }

@@ -1,8 +1,11 @@
 // The project around a macro of the COM add-in.
 
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
+
+#include "frame/RecordingState.h"
 #include "targets/cppcom/projectTexts.h"
 #include "targets/projectFiles.h"
+#include "targets/quoting.h"
 #include "targets/wording.h"
 
 #include <QUuid>
@@ -15,6 +18,18 @@ QString CFxConverterIWAPICPPCOM::TypeLibraryUuid;
 static QString withoutBraces(const QString& uuid)
 {
     return uuid.mid(1, uuid.size() - 2);
+}
+
+QByteArray cppcom::withIdentifier(QByteArray words, std::initializer_list<const char*> places, const QString& name)
+{
+    if (!RepairsMacros())
+        return words;
+    const QByteArray identifier = legalName(name).toLatin1();
+    for (const char* const place : places) {
+        QByteArray legal(place);
+        words.replace(place, legal.replace(legal.indexOf('%'), 2, identifier));
+    }
+    return words;
 }
 
 CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(std::uint32_t mode) : CFxConverterIWAPIImpl(Target::CppCom, mode)

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
+
+#include <initializer_list>
 
 /// The texts of the project around a macro of the COM add-in. `name` is the project's; ids come with or without braces
 /// as each says.
@@ -23,6 +26,10 @@ QString proxyExports(const QString& name);
 // Resources: resources.cpp.
 QString resourceHeader(const QString& name);
 QString resourceScript(const QString& name);
+
+/// The words of a text in which the name stands as a part of identifiers, at those places: in a repaired project it is
+/// a legal one there.
+QByteArray withIdentifier(QByteArray words, std::initializer_list<const char*> places, const QString& name);
 
 // What all sources of the project share: support.cpp.
 QString precompiledHeader();

@@ -108,7 +108,7 @@ namespace inkmacro::cppcom {
 
 QString interfaceDefinition(const QString& name, const QString& typeLibraryId, const QString& classId)
 {
-    static const Template words(interfaceText);
+    const Template words(withIdentifier(interfaceText, {"library %1Lib"}, name).constData());
     const QString interfaceId = QUuid::createUuid().toString(QUuid::WithoutBraces);
     return Fill(&words).text(name).text(LineEnd).text(interfaceId).text(typeLibraryId).text(classId);
 }

@@ -149,13 +149,13 @@ namespace inkmacro::cppcom {
 
 QString resourceHeader(const QString& name)
 {
-    static const Template words(headerText);
+    const Template words(withIdentifier(headerText, {"IDR_%1 "}, name).constData());
     return Fill(&words).text(name).text(LineEnd);
 }
 
 QString resourceScript(const QString& name)
 {
-    static const Template words(scriptText);
+    const Template words(withIdentifier(scriptText, {"IDR_%5 "}, name).constData());
     return Fill(&words).text(LineEnd).number(1).number(2).number(3).text(name);
 }
 

@@ -42,13 +42,13 @@ QString CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool h
         frame.append(optionResult);
 
     writer.IndentLevel += 3;
-    const Template words(frame.constData());
-    return Fill(&words).text(LineEnd).text(className).text(RecordingSheetName);
+    const Template words(frame.constData(), writer.target);
+    return faultyName(className, writer.fill(words).text(LineEnd).text(identifier(className)).text(RecordingSheetName));
 }
 
 QString CFxConverterIWAPICSharp::EmitFileFooter()
 {
     writer.IndentLevel -= 3;
-    static const Template words("        }%1    }%1}%1");
-    return Fill(&words).text(LineEnd);
+    static const Template words("        }%1    }%1}%1", writer.target);
+    return writer.fill(words).text(LineEnd);
 }

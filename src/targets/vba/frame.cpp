@@ -49,14 +49,15 @@ static const FileHead head{
 QString CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
 {
     writer.IndentLevel += 2;
-    const Template words(head.words().constData());
-    return Fill(&words).text(LineEnd).text(RecordingSheetName);
+    const Template words(head.words().constData(), writer.target);
+    return writer.fill(words).text(LineEnd).text(RecordingSheetName);
 }
 
 /// Leaves the level.
 QString CFxConverterIWAPIVba::EmitFileFooter()
 {
     static const Template words("\tElse%1%1\t\tMsgBox \"There are no open documents in Inkwright\"%1%1\tEnd If%1"
-                                "End Sub%1");
-    return Fill(&words).text(LineEnd);
+                                "End Sub%1",
+                                writer.target);
+    return writer.fill(words).text(LineEnd);
 }

@@ -33,13 +33,13 @@ static const FileHead head{
 QString CFxConverterIWAPIVbNet::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 2;
-    const Template words(head.words().constData());
-    return Fill(&words).text(className).text(LineEnd).text(RecordingSheetName);
+    const Template words(head.words().constData(), writer.target);
+    return faultyName(className, writer.fill(words).text(identifier(className)).text(LineEnd).text(RecordingSheetName));
 }
 
 /// Leaves the level, and the last line without an end.
 QString CFxConverterIWAPIVbNet::EmitFileFooter()
 {
-    static const Template words("%2    End Sub%2%2End Class");
-    return Fill(&words).text(LineEnd);
+    static const Template words("%2    End Sub%2%2End Class", writer.target);
+    return writer.fill(words).text(LineEnd);
 }

@@ -101,13 +101,16 @@ static const char* const projectClosing = R"(  <ItemGroup>
 QString CFxConverterIWAPIVbNet::EmitProgramText(const QString& projectName)
 {
     static const Template words(program);
-    return Fill(&words).text(projectName).text(LineEnd);
+    return Fill(&words).text(identifier(projectName)).text(LineEnd);
 }
 
 QString CFxConverterIWAPIVbNet::EmitProjectText(const QString& projectName)
 {
-    static const Template words((QByteArray(projectOpening) + comReference + projectClosing).constData());
-    return Fill(&words).text(xmlText(projectName)).text(LineEnd);
+    QByteArray project = QByteArray(projectOpening) + comReference + projectClosing;
+    if (writer.repairs)
+        project.replace("%1.vb", "%3");
+    const Template words(project.constData());
+    return Fill(&words).text(xmlText(identifier(projectName))).text(LineEnd).text(xmlText(writer.file));
 }
 
 std::int32_t CFxConverterIWAPIVbNet::EmitProjectFiles(const QString& path)
