@@ -19,7 +19,7 @@ static CFxString customTitle(std::int32_t kind)
     return CFxString("custom " + (name ? QString(name) : QString::number(kind)));
 }
 
-CFxString ActionTitle(const OdRxObject* action)
+static CFxString titleOf(const OdRxObject* action)
 {
     if (const auto command = odrxQuery<CFxUserCommand>(action)) {
         const OdResBufPtr line = command->GetCommand();
@@ -40,6 +40,15 @@ CFxString ActionTitle(const OdRxObject* action)
     if (const auto custom = odrxQuery<CFxCustomAction>(action))
         return customTitle(custom->GetKind());
     return "action";
+}
+
+CFxString ActionTitle(const OdRxObject* action)
+{
+    try {
+        return titleOf(action);
+    } catch (const OdError&) {
+        return "action";
+    }
 }
 
 bool ActionKinds::has(std::int32_t kind) const

@@ -164,7 +164,7 @@ private:
     const QString& BlockAttributes();
 
     /// The properties that nothing has taken out of the list.
-    void LoseRest(PropertyList& list, bool fromAdded, const CFxString& name);
+    void LoseRest(const PropertyList& list, bool fromAdded, const CFxString& name);
     /// An added object that is made by a custom action, when there is none, and else the general properties of one that
     /// no statement was written for.
     void LoseUnmade(PropertyList& rest, bool written);

@@ -100,18 +100,19 @@ void CFxConverterIWAPIObject::LoseArcs(const OdDbPolyline& polyline) const
 
 /// What a class's changes would say is no loss of an added object: its insertion and its style give it, or the action
 /// that makes it.
-void CFxConverterIWAPIObject::LoseRest(PropertyList& list, bool fromAdded, const CFxString& name)
+void CFxConverterIWAPIObject::LoseRest(const PropertyList& list, bool fromAdded, const CFxString& name)
 {
     if (list.empty())
         return;
+    PropertyList rest = list;
     if (const ClassRow* const row = FindClass(changedClass); row && fromAdded) {
         if (row->has(kFinishedByCustomAction))
             return;
         QString nothing;
         if (row->whenAdded == WhenAdded::Skip)
-            ConvertClassChanges(*row, list, true, name, nothing);
+            ConvertClassChanges(*row, rest, true, name, nothing);
     }
-    for (const CFxPropertyChangedPtr& record : list)
+    for (const CFxPropertyChangedPtr& record : rest)
         if (!isDerived(changedClass, record->GetName()))
             LoseProperty(record->GetName(), "no statement sets it");
 }
