@@ -53,6 +53,7 @@ CFxConverterIWAPIImpl::~CFxConverterIWAPIImpl() = default;
 
 std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActionArray& actions)
 {
+    GetFxSystemServices()->Notes().Forget();
     const QDir directory(QFileInfo(path).path());
     if (!directory.exists() && !directory.mkpath("."))
         return kFxFailure;

@@ -163,6 +163,8 @@ private:
     /// The group of block attributes, in the host's display language.
     const QString& BlockAttributes();
 
+    /// An added note that its leader should bring, when the macro does not have the leader.
+    void LoseNoteWithoutLeader(const OdRxClass* cls, const OdDbHandle& handle) const;
     /// The properties that nothing has taken out of the list.
     void LoseRest(const PropertyList& list, bool fromAdded, const CFxString& name);
     /// An added object that is made by a custom action, when there is none, and else the general properties of one that

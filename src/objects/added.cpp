@@ -31,8 +31,10 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
     if (!cls)
         return kFxFailure;
     const ActionEntry* const entry = driver.FindEntry(handle);
-    if (!entry)
+    if (!entry) {
+        LoseNoteWithoutLeader(cls, handle);
         return kFxSuccess;
+    }
 
     changedClass = cls;
     changedHandle = handle;

@@ -182,7 +182,11 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         text += EmitSetDoubleProperty(writer, target, "Thickness", value.GetDouble());
     if (take("PrintStyle"))
         text += EmitSetProperty(writer, target, "PrintStyle", value.GetString(), true);
-    if (take("Transparency") && !fromAdded && value.GetType() == CFxVariant::kTransparency)
-        text += EmitSetTransparency(writer, target, value.GetTransparency());
+    if (take("Transparency") && !fromAdded) {
+        if (value.GetType() == CFxVariant::kTransparency)
+            text += EmitSetTransparency(writer, target, value.GetTransparency());
+        else
+            LoseProperty("Transparency", "it is not recorded as a transparency");
+    }
     return kFxSuccess;
 }

@@ -38,20 +38,21 @@ bool isDerived(const OdRxClass* cls, const QString& tag)
 
 constexpr std::int32_t kLineWeightByLayer = -1;
 
-/// Objects that a custom action of their command makes, one of these kinds.
+/// Objects that a custom action of their command makes, one of that kind or the other.
 struct MadeByAction
 {
     const char* cls;
-    std::initializer_list<std::int32_t> kinds;
+    std::int32_t kind;
+    std::int32_t other = kind;
 };
-const MadeByAction madeByActions[] = {
-    {"AcDbHatch", {inkmacro::kInsertHatch}},
-    {"AcDbLayout", {inkmacro::kSheet}},
-    {"AcDbOle2Frame", {inkmacro::kEmbeddedObject}},
-    {"AcDbRegion", {inkmacro::kRegion}},
-    {"AcDbViewport", {inkmacro::kViewport}},
-    {"AcDbViewportTableRecord", {inkmacro::kViewTiles}},
-    {"AcDbViewTableRecord", {inkmacro::kViewBackground, inkmacro::kNamedView}},
+constexpr MadeByAction madeByActions[] = {
+    {"AcDbHatch", inkmacro::kInsertHatch},
+    {"AcDbLayout", inkmacro::kSheet},
+    {"AcDbOle2Frame", inkmacro::kEmbeddedObject},
+    {"AcDbRegion", inkmacro::kRegion},
+    {"AcDbViewport", inkmacro::kViewport},
+    {"AcDbViewportTableRecord", inkmacro::kViewTiles},
+    {"AcDbViewTableRecord", inkmacro::kViewBackground, inkmacro::kNamedView},
 };
 
 CFxString nameOfLineStyle(const OdDbObjectId& id)
@@ -98,19 +99,25 @@ void CFxConverterIWAPIObject::LoseArcs(const OdDbPolyline& polyline) const
             return LoseProperty("Vertex", "arcs come as lines");
 }
 
+void CFxConverterIWAPIObject::LoseNoteWithoutLeader(const OdRxClass* cls, const OdDbHandle& handle) const
+{
+    if (cls == OdDbMText::desc() && !driver.FindEntry(LeaderOfNote(handle).getHandle()))
+        NoteLoss(ObjectTitle(cls, handle), "a leader brings it that the macro does not have");
+}
+
 /// What a class's changes would say is no loss of an added object: its insertion and its style give it, or the action
 /// that makes it.
 void CFxConverterIWAPIObject::LoseRest(const PropertyList& list, bool fromAdded, const CFxString& name)
 {
     if (list.empty())
         return;
+    const ClassRow* const row = FindClass(changedClass);
+    if (row && fromAdded && row->has(kFinishedByCustomAction))
+        return;
     PropertyList rest = list;
-    if (const ClassRow* const row = FindClass(changedClass); row && fromAdded) {
-        if (row->has(kFinishedByCustomAction))
-            return;
+    if (row && fromAdded && row->whenAdded == WhenAdded::Skip) {
         QString nothing;
-        if (row->whenAdded == WhenAdded::Skip)
-            ConvertClassChanges(*row, rest, true, name, nothing);
+        ConvertClassChanges(*row, rest, true, name, nothing);
     }
     for (const CFxPropertyChangedPtr& record : rest)
         if (!isDerived(changedClass, record->GetName()))
@@ -125,8 +132,7 @@ void CFxConverterIWAPIObject::LoseUnmade(PropertyList& rest, bool written)
         return;
     // A block inserts the hatches that it is made of.
     const bool inBlock = changedClass == OdDbHatch::desc() && driver.HasSiblingBlock();
-    const auto makes = [&](std::int32_t kind) { return driver.HasSibling(kind); };
-    if (!inBlock && std::ranges::none_of(row->kinds, makes)) {
+    if (!inBlock && !driver.HasSibling(row->kind) && !driver.HasSibling(row->other)) {
         LoseObject("no action of its command makes it");
         return;
     }

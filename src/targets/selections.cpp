@@ -166,6 +166,7 @@ static QString selectionOf(Writer& writer, std::int32_t mode, const OdArray<OdGe
     case kCrossline:
         return selectionCoordinates(writer, points) + call(selectByCrossline);
     default:
+        NoteLoss("selection", "the way of selecting is not known");
         return {};
     }
 }

@@ -25,8 +25,6 @@ std::vector<std::string> lossesOf(const QByteArray& lines, Target target = Targe
     const auto error = ReadRecording(buffer, "test", recording);
     EXPECT_FALSE(error) << error->text().toStdString();
 
-    CFxConversionNotes& notes = GetFxSystemServices()->Notes();
-    notes.Forget();
     const auto language = static_cast<std::uint32_t>(target);
     GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
     const OpenDrawing drawing(recording);
@@ -36,7 +34,7 @@ std::vector<std::string> lossesOf(const QByteArray& lines, Target target = Targe
     GetFxSystemServices()->SetInt16("RecordingLanguage", 0);
 
     std::vector<std::string> losses;
-    for (const CFxLoss& loss : notes.GetLosses()) {
+    for (const CFxLoss& loss : GetFxSystemServices()->Notes().GetLosses()) {
         QStringList place;
         for (const std::uint32_t number : loss.where)
             place.append(QString::number(number));

@@ -35,7 +35,8 @@ struct CFxFaultNote
     bool operator==(const CFxFaultNote&) const = default;
 };
 
-/// What one conversion tells of its result beside the files. The module notes, its host reads and forgets.
+/// What one conversion tells of its result beside the files. The module notes, its host reads; the next conversion
+/// begins by forgetting all.
 class INKHOST_EXPORT CFxConversionNotes
 {
 public:
