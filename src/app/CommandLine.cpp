@@ -108,6 +108,8 @@ CommandLine::Command commandOf(const CLI::App& app, const RawArguments& raw)
         return CommandLine::Command::Check;
     if (name == "snapshot")
         return CommandLine::Command::Snapshot;
+    if (name == "faults")
+        return CommandLine::Command::Faults;
     if (name == "schema")
         return raw.schemaOf == "report" ? CommandLine::Command::ReportSchema : CommandLine::Command::RecordingSchema;
     return name == "system-variables" ? CommandLine::Command::SystemVariables : CommandLine::Command::Help;
@@ -169,6 +171,7 @@ void declareArguments(CLI::App& app, RawArguments& raw)
     run->add_option("--output", raw.output);
     app.add_subcommand("schema")->add_option("WHAT", raw.schemaOf)->check(CLI::IsMember({"recording", "report"}));
     app.add_subcommand("system-variables");
+    app.add_subcommand("faults");
 }
 
 HostSettings hostSettings(const RawArguments& raw)
@@ -271,6 +274,7 @@ Usage:
   inkmacro run FILE --command NAME [--output FILE]
   inkmacro schema [recording|report]
   inkmacro system-variables
+  inkmacro faults
   inkmacro --version | --help
 
 Commands:
@@ -289,6 +293,8 @@ Commands:
            convert
   system-variables
            print, as a page in Markdown, the system variables that convert
+  faults   print, as a page in Markdown, the known faults of macros that are
+           not repaired
 
 FILE is a recording; - is standard input. Behind -- all arguments are files,
 whatever they begin with.

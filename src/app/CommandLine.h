@@ -60,6 +60,7 @@ struct CommandLine
         RecordingSchema,
         ReportSchema,
         SystemVariables,
+        Faults,
         Version,
         Help
     };

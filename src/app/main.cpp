@@ -7,6 +7,7 @@
 #include "app/earlyEnd.h"
 #include "app/fileNames.h"
 #include "app/inspection.h"
+#include "app/knownFaults.h"
 #include "app/optionNames.h"
 #include "app/processes.h"
 #include "app/reading.h"
@@ -52,6 +53,9 @@ int run(const CommandLine& line)
         break;
     case CommandLine::Command::SystemVariables:
         printOut(systemVariablesPage());
+        break;
+    case CommandLine::Command::Faults:
+        printOut(knownFaultsPage());
         break;
     case CommandLine::Command::Version:
         printOut(QByteArray("inkmacro " INKMACRO_VERSION "\n"));

@@ -6,6 +6,15 @@
 
 class OdDbObject;
 
+/// What is known to be wrong with macros as they are written without repair.
+struct CFxKnownFault
+{
+    CFxString operation;                  ///< what writes the place, such as "EmitSetColor"
+    std::vector<std::uint32_t> languages; ///< codes of the languages that it is a fault of
+    CFxString reason;                     ///< a clause without a full stop
+    bool mended = false;                  ///< whether a repaired macro is without it
+};
+
 /// One pair of tag and value that a snapshot adds.
 using CFxSnapshotRecord = CFxVariantCollectionElement;
 
@@ -25,4 +34,7 @@ public:
     /// conversion also notes the drawing's current layout for the head of the next macro.
     /// Raises OdError_NotThatKindOfClass.
     virtual void TakeSnapshot(const OdDbObject* object, std::vector<CFxSnapshotRecord>& target) = 0;
+
+    /// All of them, by their operations.
+    virtual std::vector<CFxKnownFault> ListFaults() const = 0;
 };

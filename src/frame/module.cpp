@@ -4,10 +4,29 @@
 #include "commands/CFxCommandLinetype.h"
 #include "frame/CFxConverterIWAPI.h"
 #include "objects/snapshot.h"
+#include "targets/Fault.h"
 
+#include <algorithm>
 #include <array>
+#include <tuple>
 
 namespace {
+
+std::vector<CFxKnownFault> knownFaults()
+{
+    std::vector<CFxKnownFault> known;
+    for (const inkmacro::Fault* const fault : inkmacro::Fault::all()) {
+        std::vector<std::uint32_t> languages;
+        for (const inkmacro::Target target : fault->targets())
+            languages.push_back(static_cast<std::uint32_t>(target));
+        known.push_back({fault->operation(), std::move(languages), fault->reason(), fault->mended()});
+    }
+    std::sort(known.begin(), known.end(), [](const CFxKnownFault& one, const CFxKnownFault& other) {
+        return std::tie(one.operation, one.languages, one.reason) <
+               std::tie(other.operation, other.languages, other.reason);
+    });
+    return known;
+}
 
 class MacroWriterModule final : public CFxConverterIWAPIModule
 {
@@ -41,6 +60,8 @@ public:
     {
         ::TakeSnapshot(object, target);
     }
+
+    std::vector<CFxKnownFault> ListFaults() const override { return knownFaults(); }
 
 private:
     const std::array<CFxCommandPtr, 2> commands_{odrxNew<CFxCommandHyperlink>(), odrxNew<CFxCommandLinetype>()};
