@@ -10,6 +10,7 @@
 #include <map>
 #include <set>
 
+class ActionKinds;
 class CFxConverterIWAPIObject;
 class StatementGroup;
 struct CornerSide;
@@ -111,6 +112,10 @@ public:
     const ActionEntry* FindEntry(const OdDbHandle& handle) const;
     /// The name that a declaration gives the entry; empty for a class outside the type table. Looks nothing up.
     CFxString DeclaredName(const ActionEntry& entry) const;
+    /// Whether a custom action of that kind stands in the same command as what is being converted.
+    bool HasSibling(std::int32_t kind) const;
+    /// The same of a block definition that is added or changed.
+    bool HasSiblingBlock() const;
     /// The next ordinal, noted under the handle. An object that is met again under its handle gets a new variable.
     ActionEntry RegisterObject(const OdDbHandle& handle, const OdRxClass* cls);
 
@@ -144,6 +149,14 @@ private:
     void RegisterChildren(const CFxActionArray& children, CommandState& state);
     void DeclareChildren(CommandState& state);
     void ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group);
+    /// False when the child failed.
+    bool ConvertChild(const OdRxObjectPtr& child, unsigned number, CommandState& state, StatementGroup& group);
+    void LoseBehind(const CFxActionArray& children, unsigned failed);
+    /// ConvertAction, with a note of an action that fails.
+    std::int32_t ConvertOrLose(const OdRxObjectPtr& action, QString& text);
+    bool IsWanted(const CFxSysVarChanged& variable) const;
+    /// Whether it is by rule that nothing is written for the action.
+    bool IsPassedOver(const OdRxObject* action) const;
     std::int32_t ConvertFileLocation(const FileObject& files, const CFxCustomAction& action, QString& text);
     std::int32_t ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text);
     CFxConverterIWAPIObject& Objects() const;
@@ -163,6 +176,7 @@ private:
     void ConvertGroupChange(const CFxCustomAction& action, EmitGroupChange change, QString& text);
 
     std::uint32_t mode;
+    const ActionKinds* siblings = nullptr; ///< of the action that is being converted
     std::shared_ptr<CFxConverterIWAPIObject> objectConverter;
     std::map<OdDbHandle, ActionEntry> ObjectVariableMap;
     CFxValueContext context = 0;

@@ -3,12 +3,13 @@
 #include "actions/kinds.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/StatementGroup.h"
+#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
-#include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
 #include "targets/variables.h"
 
+#include <QScopedValueRollback>
 #include <QStringList>
 
 using inkmacro::Fault;
@@ -59,6 +60,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
     RegisterChildren(children, state);
     DeclareChildren(state);
     StatementGroup group(writer);
+    const ActionKinds kinds(children);
+    const QScopedValueRollback<const ActionKinds*> beside(siblings, &kinds);
 
     // Where locals are seen behind their command, numbers that begin anew make some of them twice.
     const std::uint32_t outerCounter = writer.UniqueCounter;
@@ -120,28 +123,59 @@ void CFxConverterIWAPIImpl::DeclareChildren(CommandState& state)
 
 void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group)
 {
-    for (const OdRxObjectPtr& child : children) {
-        QString current;
-        if (const auto custom = odrxQuery<CFxCustomAction>(child.get())) {
-            const std::int32_t kind = custom->GetKind();
-            if (!state.names.empty())
-                current = state.names.back();
-            if (kind == inkmacro::kViewBackground) {
-                // Backgrounds and objects pair up in order; a surplus background stays with the last object.
-                if (state.names.size() > 1 && state.nextName < state.names.size())
-                    current = state.names[state.nextName++];
-                state.unnamedTarget = current.isEmpty();
-            }
-            if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport)
-                group.abandon();
+    for (unsigned i = 0; i < children.length(); ++i)
+        if (!ConvertChild(children[i], i, state, group))
+            return LoseBehind(children, i);
+}
+
+bool CFxConverterIWAPIImpl::ConvertChild(const OdRxObjectPtr& child, unsigned number, CommandState& state,
+                                         StatementGroup& group)
+{
+    const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), number);
+    QString current;
+    if (const auto custom = odrxQuery<CFxCustomAction>(child.get())) {
+        const std::int32_t kind = custom->GetKind();
+        if (!state.names.empty())
+            current = state.names.back();
+        if (kind == inkmacro::kViewBackground) {
+            // Backgrounds and objects pair up in order; a surplus background stays with the last object.
+            if (state.names.size() > 1 && state.nextName < state.names.size())
+                current = state.names[state.nextName++];
+            state.unnamedTarget = current.isEmpty();
         }
-        if (ConvertAction(child, current) != kFxSuccess)
-            return;
-        if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
-            state.shapeStyle = true;
-        if (!current.isEmpty()) {
-            state.allEmpty = false;
-            state.statements.append(current);
-        }
+        if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport)
+            group.abandon();
     }
+    if (ConvertOrLose(child, current) != kFxSuccess)
+        return false;
+    if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
+        state.shapeStyle = true;
+    if (!current.isEmpty()) {
+        state.allEmpty = false;
+        state.statements.append(current);
+    }
+    return true;
+}
+
+/// Notes the children that a failed one takes along, as far as they would have had statements.
+void CFxConverterIWAPIImpl::LoseBehind(const CFxActionArray& children, unsigned failed)
+{
+    const CFxString reason(QString("action %1 of its command could not be converted").arg(failed + 1));
+    for (unsigned i = failed + 1; i < children.length(); ++i) {
+        const OdRxObject* const child = children[i].get();
+        const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
+        if (!IsPassedOver(child))
+            NoteLoss(ActionTitle(child), reason);
+    }
+}
+
+bool CFxConverterIWAPIImpl::IsPassedOver(const OdRxObject* action) const
+{
+    if (const auto variable = odrxQuery<CFxSysVarChanged>(action))
+        return !IsWanted(*variable);
+    if (odrxQuery<CFxUserInteraction>(action) || odrxQuery<CFxUserSelection>(action))
+        return mode != 1;
+    // A leader brings its note.
+    const auto added = odrxQuery<CFxObjectAdded>(action);
+    return added && added->GetObjectClass() == OdDbMText::desc() && !FindEntry(added->GetHandle());
 }
