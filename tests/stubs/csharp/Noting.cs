@@ -68,7 +68,7 @@ namespace Inkwright
         {
             if (OfferedModel.Answers.Count > 0) {
                 object known = OfferedModel.Answers.Dequeue();
-                return (T)(typeof(T).IsEnum ? Enum.Parse(typeof(T), (string)known)
+                return (T)(typeof(T).IsEnum ? Enum.Parse(typeof(T), known.ToString())
                                             : Convert.ChangeType(known, typeof(T), CultureInfo.InvariantCulture));
             }
             return typeof(T) == typeof(string) ? (T)(object)"" : default(T);

@@ -62,7 +62,7 @@ function answer(type, way) {
 
 // Several results come as an array, which has them by their names too.
 function answers(types, names, way, known) {
-    var results = known || types.map(type => answer(type, way));
+    var results = types.map((type, i) => known && i in known ? known[i] : answer(type, way));
     if (results.length < 2) {
         return results[0];
     }
