@@ -52,11 +52,21 @@ namespace Inkwright
                 int size = parts.Length > 1 ? int.Parse(parts[1]) : 1;
                 object[] values = list ?? arguments.Skip(next).Take(size).ToArray();
                 if (field.Contains("*"))
-                    for (int at = 0; at < list.Length; at += size)
-                        Note(way, parts[0], list.Skip(at).Take(size).Prepend(at / size).ToArray(), 1);
+                    NoteList(way, parts[0], list, size);
                 else if (field != "-")
                     Note(way, parts[0], values, 0);
                 next += list == null ? size : 1;
+            }
+        }
+
+        private static void NoteList(string way, string name, object[] list, int size)
+        {
+            for (int at = 0; at < list.Length; at += size) {
+                IEnumerable<object> values = list.Skip(at).Take(size);
+                if (name.Contains("#"))
+                    Note(way, name.Replace("#", (at / size + 1).ToString()), values.ToArray(), 0);
+                else
+                    Note(way, name, values.Prepend(at / size).ToArray(), 1);
             }
         }
 

@@ -13,7 +13,7 @@ function named(value) {
 
 function note(object, call, given, result) {
     CALLS.push({on: object.way, call: call, args: given.map(named)});
-    if (given.length < 2) {
+    if (given.length < 2 && !call.startsWith('Insert')) {
         return object.way + '.' + call + '(' + given.map(value => JSON.stringify(value)).join('') + ')';
     }
     COUNTS[result] = (COUNTS[result] || 0) + 1;

@@ -20,12 +20,17 @@ function hold(way, name, given, which) {
 function tellInsertion(way, row, given) {
     var rest = given.slice();
     row.forEach(function (field) {
-        var [, name, sign, digits] = /^([\w-]+)(?:([:*])(\d))?$/.exec(field);
+        var [, name, sign, digits] = /^([\w#-]+)(?:([:*])(\d))?$/.exec(field);
         var size = Number(digits || 1);
         var values = Array.isArray(rest[0]) || rest[0] === null ? rest.shift() || [] : rest.splice(0, size);
         if (sign === '*') {
             for (let at = 0; at < values.length; at += size) {
-                hold(way, name, [at / size].concat(values.slice(at, at + size)), 1);
+                let one = values.slice(at, at + size);
+                if (name.includes('#')) {
+                    hold(way, name.replace('#', at / size + 1), one, 0);
+                } else {
+                    hold(way, name, [at / size].concat(one), 1);
+                }
             }
         } else if (name !== '-') {
             hold(way, name, values, 0);
