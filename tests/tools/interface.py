@@ -124,5 +124,5 @@ def read(path, target):
 def state_rows():
     """The rows of tests/stubs/state.txt."""
     path = pathlib.Path(__file__).resolve().parent.parent / "stubs/state.txt"
-    lines = (line.split("#")[0].strip() for line in path.read_text(encoding="utf-8").splitlines())
-    return list(filter(None, lines))
+    lines = path.read_text(encoding="utf-8").splitlines()
+    return [line for line in lines if line and not line.startswith("#")]
