@@ -84,7 +84,8 @@ CFxString propertyOf(const FileObject& files, const CFxString& key)
 CFxString quotable(CFxString path)
 {
     const std::int16_t language = RecordingLanguage();
-    if (language != static_cast<int>(Target::VbNet) && language != static_cast<int>(Target::Vba))
+    const bool curly = language != static_cast<int>(Target::VbNet) && language != static_cast<int>(Target::Vba);
+    if (curly && !RepairsMacros())
         path.replace("\\", "\\\\");
     return path;
 }

@@ -4,6 +4,7 @@
 #include "host/kernel/CFxServices.h"
 #include "targets/LineEnd.h"
 #include "targets/Marks.h"
+#include "targets/quoting.h"
 
 #include <QTextStream>
 
@@ -63,6 +64,15 @@ Fill Writer::fillIndented(const Phrase& phrase) const
 QString Writer::indentation() const
 {
     return QString(Fill::indentationWidth(IndentLevel), ' ');
+}
+
+QString Writer::quoted(const QString& text) const
+{
+    if (!repairs)
+        return text;
+    QString escaped;
+    appendQuoted(escaped, text, target);
+    return escaped;
 }
 
 QString Writer::faulty(QString statement, const Fault& fault) const

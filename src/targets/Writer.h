@@ -29,6 +29,9 @@ public:
     /// The blanks in front of a statement.
     QString indentation() const;
 
+    /// A text for a place that its literal has no quotes around, but the values next to it: in a repaired macro
+    /// escaped.
+    QString quoted(const QString& text) const;
     /// The statement with a note that it has the fault, which a repaired macro has not: there it stays as it is.
     QString faulty(QString statement, const inkmacro::Fault& fault) const;
 

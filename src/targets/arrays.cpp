@@ -130,7 +130,7 @@ static QString bracketed(const ArrayPlace& place, const QString& text)
 static QString elementLine(const Phrase& phrase, const ArrayPlace& place, std::size_t index, const QString& word)
 {
     const QString indexText = bracketed(place, QString::number(index));
-    Fill line(phrase.in(place.writer.target));
+    Fill line = place.writer.fillPlain(phrase);
     putPlace(line, place, indexText);
     return line.text(word);
 }

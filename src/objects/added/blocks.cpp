@@ -2,6 +2,7 @@
 
 #include "objects/targets/blocks.h"
 
+#include "frame/RecordingState.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
@@ -22,7 +23,8 @@ OdArray<OdDbObjectId> entitiesOf(const OdDbBlockTableRecord& record)
 CFxString descriptionOf(const OdDbBlockTableRecord& record)
 {
     CFxString description = record.comments();
-    description.replace("\n", "\\n");
+    if (!RepairsMacros())
+        description.replace("\n", "\\n");
     return description;
 }
 

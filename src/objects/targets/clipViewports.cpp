@@ -67,7 +67,7 @@ Clip clipByPolyline(Writer& writer, const Phrase& phrase, const Coordinates& coo
     const std::uint32_t number = processCounters.clipPolylines++;
     const QString array = (target == Target::CppCom ? "variant" : "Coordinates") + QString::number(number);
     const bool isList = target == Target::CSharp || target == Target::JavaScript;
-    Fill creation(phrase.in(target));
+    Fill creation = writer.fillPlain(phrase);
     creation
         .text(isList ? coordinateList(writer, coordinates, NumberForm::Long)
                      : pointLines({writer, array, number}, coordinates, NumberForm::Long))

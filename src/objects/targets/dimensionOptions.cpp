@@ -60,7 +60,7 @@ QString EmitSetArrow(Writer& writer, const CFxString& target, const CFxString& o
         return statement.text(name);
     // C# takes its quotes as values too.
     const QLatin1String quote("\"");
-    return statement.text(quote).text(name).text(quote);
+    return statement.text(quote).text(writer.quoted(name)).text(quote);
 }
 
 static const Phrase setStyleArrow{

@@ -65,7 +65,7 @@ static QString insertOnCurve(Writer& writer, const CurveDimension& kind, const M
     const bool nameFirst = kind.nameFirst && (temporary || target == Target::Cpp);
     const QString curveName = temporary ? temporaryName(kind, name) : curve.variable;
 
-    Fill insertion((temporary ? kind.onTemporary : kind.onVariable).in(target));
+    Fill insertion = writer.fillPlain(temporary ? kind.onTemporary : kind.onVariable);
     insertion.text(QLatin1String(kind.call)).indent(writer.IndentLevel).text(LineEnd).text(curveName);
     if (temporary)
         fillShape(insertion, kind, target, *curve.object);

@@ -337,7 +337,7 @@ static const Phrase putGradientData{
 static QString changeColor(Writer& writer, const Phrase& assignment, const char* local, const OdCmColor& color,
                            std::uint32_t number)
 {
-    Fill text((color.isByACI() ? indexedColor : rgbColor).in(writer.target));
+    Fill text = writer.fillPlain(color.isByACI() ? indexedColor : rgbColor);
     if (color.isByACI())
         text.number(color.colorIndex());
     else

@@ -68,7 +68,7 @@ static QString regionEntities(Writer& writer, const QStringList& names, std::uin
     if (writer.target != Target::CSharp && writer.target != Target::JavaScript)
         return writer.fill(regionHead).number(number).number(bound).str() + objectLines(place, words);
     place.lineEnd.clear();
-    Fill head(regionHead.in(writer.target));
+    Fill head = writer.fillPlain(regionHead);
     head.number(number);
     if (writer.target == Target::CSharp)
         head.number(bound);
