@@ -112,9 +112,14 @@ private:
 };
 
 // The kinds that the walk over a command's children asks for.
+inline constexpr std::int32_t kNamedView = 14;
+inline constexpr std::int32_t kEmbeddedObject = 15;
 inline constexpr std::int32_t kPolyline = 16;
+inline constexpr std::int32_t kHatch = 18;
 inline constexpr std::int32_t kViewBackground = 41;
+inline constexpr std::int32_t kRegion = 44;
 inline constexpr std::int32_t kViewport = 46;
+inline constexpr std::int32_t kViewTiles = 49;
 
 inline constexpr ActionForm filletForms[] = {
     {DataSignature::anyOf(3).withWord("FILLET", Qt::CaseInsensitive),
@@ -158,12 +163,12 @@ inline constexpr auto actionKinds = [] {
         {11, "selection filter", &Impl::ConvertActionSelectionFilter},
         {12, "coordinate system", coordinateSystemForms},
         {13, "sheet", sheetForms},
-        {14, "named view", &Impl::ConvertActionNamedView},
-        {15, "embedded object",
+        {kNamedView, "named view", &Impl::ConvertActionNamedView},
+        {kEmbeddedObject, "embedded object",
          ActionForm{DataSignature::exactly({kInt, kString}), &Impl::ConvertActionEmbeddedObject}},
         {kPolyline, "polyline", &Impl::ConvertActionPolyline},
         {17, "erase", &Impl::ConvertActionErase},
-        {18, "insert hatch", &Impl::ConvertActionInsertHatch},
+        {kHatch, "insert hatch", &Impl::ConvertActionInsertHatch},
         // Colors of the host's screen elements; the element is the action's first datum.
         {{19, 23}, "element color", &Impl::ConvertActionElementColor},
         {{26, 32}, "element color", &Impl::ConvertActionElementColor},
@@ -178,13 +183,13 @@ inline constexpr auto actionKinds = [] {
         {kViewBackground, "view background", &Impl::ConvertActionViewBackground},
         {42, "polyline vertex", polylineVertexForms},
         {43, "zoom", &Impl::ConvertActionZoom},
-        {44, "region", &Impl::ConvertActionRegion},
+        {kRegion, "region", &Impl::ConvertActionRegion},
         {45, "activate", &Impl::ConvertActionActivate},
         {kViewport, "viewport", &Impl::ConvertActionViewport},
         {47, "print style",
          ActionForm{DataSignature::beginning({kString, kBool, kString}), &Impl::ConvertActionPrintStyle}},
         {48, "clip boundary", clipBoundaryForms},
-        {49, "view tiles", &Impl::ConvertActionViewTiles},
+        {kViewTiles, "view tiles", &Impl::ConvertActionViewTiles},
         {50, "join", &Impl::ConvertActionJoin},
         {55, "explode", &Impl::ConvertActionExplode},
     });

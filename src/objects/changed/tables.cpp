@@ -11,6 +11,8 @@
 #include <algorithm>
 
 using namespace kinds;
+using inkmacro::Fault;
+using inkmacro::Target;
 
 const ChangeGroups modifiedTableStyle{
     {styleName, "TableStyleName"},
@@ -61,6 +63,10 @@ std::int32_t numberIn(const CFxPropertyChangedPtr& record, int which)
     return record->GetName().toQString().section('_', which, which).toInt();
 }
 
+const Fault kSingleRemoval{"ConvertTableCount",
+                           {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                           "of several rows or columns that went only the last is removed"};
+
 /// Takes all records out of the list whose tags begin so.
 PropertyList takeAll(const char* tag, PropertyList& list)
 {
@@ -106,6 +112,18 @@ QString insertLines(Writer& writer, const TableLines& lines, const PropertyList&
     return text;
 }
 
+/// One statement, however many lines went; in a repaired macro one each, from behind.
+QString removeLines(Writer& writer, const TableLines& lines, const CFxString& table, std::int32_t before,
+                    std::int32_t count)
+{
+    QString text = lines.remove(writer, table, before - 1);
+    if (!writer.repairs)
+        return count < before - 1 ? writer.faulty(text, kSingleRemoval) : text;
+    for (std::int32_t line = before - 2; line >= std::max(count, 0); --line)
+        text += lines.remove(writer, table, line);
+    return text;
+}
+
 } // namespace
 
 /// Takes the count of the lines. True if it was there.
@@ -124,8 +142,7 @@ bool CFxConverterIWAPIObject::ConvertTableCount(const TableLines& lines, Propert
     if (count > before)
         text += insertLines(writer, lines, list, driver.GetContext(), name, before);
     else if (count < before)
-        // One statement, however many lines went.
-        text += lines.remove(writer, name, before - 1);
+        text += removeLines(writer, lines, name, before, count);
     return true;
 }
 
