@@ -108,7 +108,7 @@ public:
                           const CFxCustomActionData& classArray) const;
     /// One object's name, or the name as it was. Spelled another way than the declared name: see there.
     void ResolveVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) const;
-    /// The entry of that handle or null.
+    /// The entry of that handle or null; null in a repaired macro for an object that no statement inserts.
     const ActionEntry* FindEntry(const OdDbHandle& handle) const;
     /// The name that a declaration gives the entry; empty for a class outside the type table. Looks nothing up.
     CFxString DeclaredName(const ActionEntry& entry) const;
@@ -135,6 +135,12 @@ public:
     Writer writer;
     /// Variables of the hatches that custom actions have inserted.
     std::set<QString> insertedHatches;
+    /// Added objects of the present command that its custom actions insert.
+    std::set<OdDbHandle> madeByActions;
+    /// Added objects that no statement inserts: their variables have no value.
+    std::set<OdDbHandle> unmade;
+    /// Whether the variable of an unmade object was asked for; set back for each statement.
+    mutable bool usesUnmade = false;
     /// Ordinal of the last object that got a variable.
     std::uint32_t objectCounter = 0;
 
@@ -147,7 +153,9 @@ private:
 
     std::int32_t ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action);
     void RegisterChildren(const CFxActionArray& children, CommandState& state);
+    void FindMadeByActions(const CFxActionArray& children, const CommandState& state);
     void DeclareChildren(CommandState& state);
+    QString Declarations(const CommandState& state) const;
     void ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group);
     /// False when the child failed.
     bool ConvertChild(const OdRxObjectPtr& child, unsigned number, CommandState& state, StatementGroup& group);

@@ -4,6 +4,7 @@
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/StatementGroup.h"
 #include "frame/losses.h"
+#include "host/db/OdDbClassMap.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
@@ -11,6 +12,9 @@
 
 #include <QScopedValueRollback>
 #include <QStringList>
+
+#include <algorithm>
+#include <map>
 
 using inkmacro::Fault;
 using inkmacro::Target;
@@ -21,11 +25,28 @@ const Fault kUndeclared{"ConvertCommand",
                         {Target::Cpp, Target::CppCom, Target::CSharp, Target::VbNet, Target::Vba},
                         "a command that loads a shape file or stands without a block has no declarations"};
 
+const Fault kUnmade{"EmitObjectVariable",
+                    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                    "an object that no statement inserts has a variable without a value"};
+
 /// Whether a custom action of the same command finishes objects of that class; it is told their variable.
 bool isFinishedByCustomAction(const OdRxClass* cls)
 {
     const ClassRow* const row = FindClass(cls);
     return row && row->has(kFinishedByCustomAction);
+}
+
+/// The custom action that makes objects of the class, where their reader does not; -1 for other classes.
+std::int32_t makingKind(const OdRxClass* cls)
+{
+    static const std::map<const OdRxClass*, std::int32_t> kinds{
+        {OdDbRegion::desc(), inkmacro::kRegion},
+        {oddbClassByName("AcDbOle2Frame"), inkmacro::kEmbeddedObject},
+        {OdDbPolyline::desc(), inkmacro::kPolyline},
+        {OdDbHatch::desc(), inkmacro::kInsertHatch},
+        {OdDbViewTableRecord::desc(), inkmacro::kNamedView}};
+    const auto found = kinds.find(cls);
+    return found == kinds.end() ? -1 : found->second;
 }
 
 /// A style that loads a file of shapes. The host's own file of line type shapes does not count.
@@ -43,7 +64,8 @@ bool isShapeFileStyle(const CFxObjectAdded& added)
 struct CFxConverterIWAPIImpl::CommandState
 {
     std::vector<ActionEntry> added;
-    QString declarations;
+    std::vector<OdDbHandle> handles; ///< one an added object
+    std::vector<QString> declarations;
     /// Variables of the objects that a custom action of this command finishes.
     std::vector<QString> names;
     std::size_t nextName = 0;
@@ -71,9 +93,10 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
 
     const bool grouped = !group.abandoned() && !state.unnamedTarget;
     const bool written = grouped && !state.allEmpty && (writer.repairs || !state.shapeStyle);
+    const QString declarations = Declarations(state);
     if (written || (writer.repairs && !state.allEmpty))
-        writer.write(stream, state.declarations);
-    else if (!state.declarations.isEmpty() && !state.statements.isEmpty())
+        writer.write(stream, declarations);
+    else if (!declarations.isEmpty() && !state.statements.isEmpty())
         state.statements.front() = writer.faulty(state.statements.front(), kUndeclared);
     if (written)
         writer.write(stream, group.begin());
@@ -106,19 +129,50 @@ void CFxConverterIWAPIImpl::RegisterChildren(const CFxActionArray& children, Com
                 continue;
         }
         state.added.push_back(RegisterObject(added->GetHandle(), cls));
+        state.handles.push_back(added->GetHandle());
+    }
+    FindMadeByActions(children, state);
+}
+
+/// The last object that custom actions finish gets what they make. View tiles are told by their handles.
+void CFxConverterIWAPIImpl::FindMadeByActions(const CFxActionArray& children, const CommandState& state)
+{
+    madeByActions.clear();
+    const auto last = std::find_if(state.added.rbegin(), state.added.rend(),
+                                   [](const ActionEntry& entry) { return isFinishedByCustomAction(entry.cls); });
+    for (const OdRxObjectPtr& child : children) {
+        const auto custom = odrxQuery<CFxCustomAction>(child.get());
+        if (!custom)
+            continue;
+        if (last != state.added.rend() && custom->GetKind() == makingKind(last->cls))
+            madeByActions.insert(state.handles[static_cast<std::size_t>(state.added.rend() - last) - 1]);
+        if (custom->GetKind() == inkmacro::kViewTiles && inkmacro::FormOf(*custom)) {
+            const std::vector<OdDbHandle>& tiles = custom->GetData(2).GetHandleArray();
+            madeByActions.insert(tiles.begin(), tiles.end());
+        }
     }
 }
 
 void CFxConverterIWAPIImpl::DeclareChildren(CommandState& state)
 {
     for (const ActionEntry& entry : state.added) {
-        state.declarations += EmitVariableDeclaration(writer, entry);
+        state.declarations.push_back(EmitVariableDeclaration(writer, entry));
         if (!isFinishedByCustomAction(entry.cls))
             continue;
         const CFxString name = DeclaredName(entry);
         if (!name.isEmpty())
             state.names.push_back(name);
     }
+}
+
+/// In a repaired macro without those of objects that turned out to have no statement that inserts them.
+QString CFxConverterIWAPIImpl::Declarations(const CommandState& state) const
+{
+    QString text;
+    for (std::size_t i = 0; i < state.declarations.size(); ++i)
+        if (!writer.repairs || unmade.count(state.handles[i]) == 0)
+            text += state.declarations[i];
+    return text;
 }
 
 void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group)
@@ -146,8 +200,11 @@ bool CFxConverterIWAPIImpl::ConvertChild(const OdRxObjectPtr& child, unsigned nu
         if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport)
             group.abandon();
     }
+    usesUnmade = false;
     if (ConvertOrLose(child, current) != kFxSuccess)
         return false;
+    if (usesUnmade)
+        current = writer.faulty(current, kUnmade);
     if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
         state.shapeStyle = true;
     if (!current.isEmpty()) {

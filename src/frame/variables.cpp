@@ -105,11 +105,16 @@ void CFxConverterIWAPIImpl::GetNoteLeader(OdDbObjectId& leader, const OdDbHandle
 const ActionEntry* CFxConverterIWAPIImpl::FindEntry(const OdDbHandle& handle) const
 {
     const auto found = ObjectVariableMap.find(handle);
-    return found == ObjectVariableMap.end() ? nullptr : &found->second;
+    if (found == ObjectVariableMap.end())
+        return nullptr;
+    const bool isUnmade = unmade.count(handle) != 0;
+    usesUnmade = usesUnmade || isUnmade;
+    return isUnmade && writer.repairs ? nullptr : &found->second;
 }
 
 ActionEntry CFxConverterIWAPIImpl::RegisterObject(const OdDbHandle& handle, const OdRxClass* cls)
 {
+    unmade.erase(handle);
     return ObjectVariableMap[handle] = ActionEntry{cls, ++objectCounter};
 }
 

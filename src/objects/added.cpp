@@ -48,8 +48,13 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
     strike(added.consumed(), rest);
     if (text.isEmpty() || cls == OdDbHatch::desc())
         LoseUnmade(rest, !text.isEmpty());
-    if (text.isEmpty())
-        return kFxSuccess;
+    if (text.isEmpty()) {
+        const bool isMade = driver.madeByActions.count(handle) != 0;
+        if (!isMade)
+            driver.unmade.insert(handle);
+        if (!isMade || !writer.repairs)
+            return kFxSuccess;
+    }
 
     QString general;
     if (ConvertObjectChanges(cls, handle, rest, true, general) != kFxSuccess)

@@ -50,7 +50,7 @@ QString CFxConverterIWAPIObject::EmitObjectVariable(const OdDbHandle& handle, co
 QString CFxConverterIWAPIObject::AddedVariable(const OdDbObjectId& id) const
 {
     const auto found = addedVariableById.find(id.getHandle());
-    return id.isNull() || found == addedVariableById.end()
+    return id.isNull() || found == addedVariableById.end() || !driver.FindEntry(id.getHandle())
                ? QString()
                : ObjectVariableName(found->second.cls, id, found->second.ordinal).toQString();
 }

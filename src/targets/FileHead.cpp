@@ -4,10 +4,10 @@
 
 namespace inkmacro {
 
-QByteArray FileHead::words() const
+QByteArray FileHead::words(bool repairs) const
 {
     QByteArray joined(opening);
-    if (RecordingInModel)
+    if (RecordingInModel || (repairs && RecordingSheetName.isEmpty()))
         joined += modelSketchManager;
     joined += firstSheet;
     if (!RecordingSheetName.isEmpty() && !RecordingInModel)

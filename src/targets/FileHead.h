@@ -16,8 +16,8 @@ struct FileHead
     const char* viewManager;
 
     /// The pieces that suit the recording, joined. One that began on a sheet without a name gets neither of the two
-    /// sketch managers.
-    QByteArray words() const;
+    /// sketch managers, but in a repaired macro that of the model.
+    QByteArray words(bool repairs) const;
 };
 
 } // namespace inkmacro

@@ -93,6 +93,9 @@ static const Phrase arrayElement{"EmitFileLocationArray",
                                      .vbNet = "%1Dim s%3_%4 As String = \"%5\"%2",
                                      .vba = "%1sArray%3_%4(%5) = \"%6\"%2",
                                  }};
+static const Mend scriptArrayElement(
+    arrayElement, Target::JavaScript, "each folder goes to an array of its own number, and only the first exists",
+    "%1var s%3_%4 = \"%5\";%2%1sArray%3_%6[%4] = s%3_%4;%2");
 
 static const Phrase arrayAssignment{
     "EmitFileLocationArray",
@@ -115,7 +118,10 @@ static QString fileLocationElement(Writer& writer, const CFxString& property, st
         element.number(array);
     if (writer.target != Target::Cpp)
         element.number(index);
-    return element.text(value);
+    element.text(value);
+    if (writer.repairs)
+        element.number(array);
+    return element;
 }
 
 QString EmitFileLocationArray(Writer& writer, const CFxString& variable, const CFxString& property,

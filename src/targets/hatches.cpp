@@ -92,6 +92,9 @@ static const Phrase hatchByPolyline{
         .vba = "%2%1Dim iwEntities(0) As Object%2%1Set iwEntities(0) = %6%2"
                "%1Set %7 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
     }};
+static const Mend hatchInPage(
+    hatchByPolyline, Target::JavaScript, "the page has no iwSketchManager, its sketch manager is mSkMgr, and the hatch's variable is not declared",
+    "%2%1var iwEntities = new Array(1);%2%1iwEntities[0] = %6;%2%1var %7 = mSkMgr.InsertHatchByEntities(%2%1 iwEntities, %2%1 \"%3\", %2%1 %4, %2%1 %5 );%2");
 
 static const Phrase eraseBoundaryPolyline{"EmitHatchByPolyline: erasure",
                                           {

@@ -296,6 +296,9 @@ static const Phrase promptKeyword{
                "%1iwApp.GetCommandMessage().PromptForKeyword2 \"%4\", ErrorMsg%3, iwglobal%5, iwlocal%5, 1, "
                "keyword%5, value%3%2",
     }};
+static const Mend scriptKeyword(
+    promptKeyword, Target::JavaScript, "the error message has no value",
+    "%1var value%3;%2%1var ErrorMsg%3 = \"\";%2%1var result = mCmdMess.PromptForKeyword2(\"%4\",ErrorMsg%3,iwglobal%5,iwlocal%5,1, keyword%5);%2");
 
 /// The lists bear the number in front of the call's own.
 QString EmitPromptKeyword(Writer& writer, const CFxString& prompt, const std::vector<CFxString>& local,

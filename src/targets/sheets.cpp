@@ -94,6 +94,9 @@ static const Phrase copySheet{"EmitCopySheet",
                                   .vbNet = "%1iwDoc.CopySheet(\"%3\" , \"%4\" )%2",
                                   .vba = "%1iwDoc.CopySheet(L\"%3\" , L\"%4\" )2",
                               }};
+static const Mend scriptCopy(
+    copySheet, Target::JavaScript, "texts with the prefix of C++",
+    "%1mDoc.CopySheet(\"%3\" , \"%4\" );%2");
 
 QString EmitCopySheet(Writer& writer, const CFxString& source, const CFxString& copy)
 {
@@ -117,6 +120,9 @@ static const Phrase renameSheet{
         .vba = "%1Dim PreSheet%4 As Inkwright.Sheet%2%1Set PreSheet%4 = iwDoc.GetSheet(\"%3\")%2"
                "%1If Not PreSheet%4 Is Nothing Then%2%1   PreSheet%4.Name = \"%5\"%2%1End If%2",
     }};
+static const Mend scriptRename(
+    renameSheet, Target::JavaScript, "a variable that nothing declares",
+    "%1var PreSheet%4 = mDoc.GetSheet(\"%3\");%2%1if (null != PreSheet%4)%2%1   PreSheet%4.put_Name(\"%5\");%2");
 
 QString EmitRenameSheet(Writer& writer, const CFxString& oldName, const CFxString& newName)
 {

@@ -63,6 +63,9 @@ static const Phrase getLayer{
                "%1Set iwLayerManager_%3  = iwDoc.GetLayerManager()%2%1Dim %4 As Inkwright.Layer%2"
                "%1Set %4  = iwLayerManager_%3.GetLayer( \"0\" )%2",
     }};
+static const Mend layerInPage(
+    getLayer, Target::JavaScript, "the page has no iwDoc, its document is mDoc",
+    "%1var iwLayerManager_%3 = mDoc.GetLayerManager();%2%1var %4 = iwLayerManager_%3.LayerManager.GetLayer( \"0\" );%2");
 
 QString EmitGetLayer(Writer& writer, const CFxString& variable)
 {

@@ -29,7 +29,8 @@ def library():
                              "properties": [[p.name, p.type] for p in cls.properties]}
     described = json.dumps({"classes": classes, "enumerations": known.enumerations})
     scripts = [(harness.STUBS / f"javascript/{name}.js").read_text(encoding="utf-8") for name in ("model", "interface")]
-    return "\n".join([f"var INTERFACE = {described};", *scripts])
+    rows = json.dumps([row.split() for row in interface.state_rows()])
+    return "\n".join([f"var INTERFACE = {described};", f"var STATE = {rows};", *scripts])
 
 
 class _Handler(http.server.BaseHTTPRequestHandler):

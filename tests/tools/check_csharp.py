@@ -2,19 +2,24 @@
 """Compiles the C# macros and their start-up programs against stubs, runs the macros, and compares the calls they make
 with the objects of their recordings.
 
-    check_csharp.py PROGRAM SOURCE_DIR
+    check_csharp.py PROGRAM SOURCE_DIR [repaired]
+
+With `repaired`, as --repair writes them: nothing is excused, and the drawings that they make are compared too.
 """
 
 import itertools
 import json
 import pathlib
 import re
+import sys
 
+import drawing
 import expected
 import harness
 import model
 import stubs_csharp
 
+CLASS = re.compile(r"^ *class (\w+)", re.MULTILINE)
 ERROR = re.compile(r"^(.*?)\((\d+),\d+\): error (.*)$", re.MULTILINE)
 
 
@@ -53,8 +58,8 @@ class Judge:
         return file
 
     def _run(self):
-        """A name with blanks is no class; its macro was repaired to have none."""
-        by_class = {macro.name.replace(" ", "_"): macro for macro in self.macros}
+        """A class is not named like its macro when that is no name; by now it has one."""
+        by_class = {CLASS.search(macro.file.read_text(encoding="utf-8"))[1]: macro for macro in self.macros}
         models = [(name, self._model(macro)) for name, macro in by_class.items()]
         result = harness.run(self.mono, "--debug", self.assembly, *itertools.chain(*models))
         if result.returncode != 0:
@@ -73,11 +78,12 @@ class Judge:
 
 def main():
     checked = harness.Checked()
-    macros = checked.macros("csharp")
+    repaired = sys.argv[3:] == ["repaired"]
+    macros = checked.macros("csharp", *(["--repair"] if repaired else []))
     judge = Judge(checked, macros)
-    faults = harness.KnownFaults("csharp")
+    faults = harness.KnownFaults("csharp", *([()] if repaired else []))
     faults.settle(judge.files, judge)
-    comparison = expected.Comparison("csharp")
+    comparison = (drawing if repaired else expected).Comparison("csharp")
     for macro, calls in judge.calls.items():
         comparison.add(macro, calls)
     summary = comparison.summary()

@@ -2,7 +2,9 @@
 """Parses the scripts of the JavaScript pages with node, or runs the pages in a browser against a stub library and
 compares the calls they make with the objects of their recordings.
 
-    check_javascript.py PROGRAM SOURCE_DIR parse|run
+    check_javascript.py PROGRAM SOURCE_DIR parse|run [repaired]
+
+With `repaired`, as --repair writes them: nothing is excused, and the drawings that they make are compared too.
 """
 
 import html.parser
@@ -10,6 +12,7 @@ import re
 import sys
 
 import browser
+import drawing
 import expected
 import harness
 import model
@@ -46,20 +49,19 @@ def parse(node, macro, script):
     return [harness.Rejection(macro.file, int(match[1]) if match else 0, match[2] if match else result.stderr)]
 
 
-def check_syntax(checked):
+def check_syntax(checked, options, excused, _):
     node, = harness.need("node")
-    macros = checked.macros("javascript")
-    faults = harness.KnownFaults("javascript", ("parse",))
+    macros = checked.macros("javascript", *options)
+    faults = harness.KnownFaults("javascript", excused and ("parse",))
     for macro in macros:
         faults.settle([macro.file], lambda macro=macro: parse(node, macro, checked.folder / "script.js"))
     faults.report(f"{len(macros)} scripts parsed")
 
 
-def check_run(checked):
+def check_run(checked, options, excused, comparison):
     executable, = harness.need("chromium")
-    macros = checked.macros("javascript")
-    faults = harness.KnownFaults("javascript")
-    comparison = expected.Comparison("javascript")
+    macros = checked.macros("javascript", *options)
+    faults = harness.KnownFaults("javascript", excused)
     with browser.Browser(executable, checked.folder) as window:
         for macro in macros:
             seen = {}
@@ -78,7 +80,11 @@ def check_run(checked):
 
 def main():
     checked = harness.Checked()
-    {"parse": check_syntax, "run": check_run}[sys.argv[3]](checked)
+    check = {"parse": check_syntax, "run": check_run}[sys.argv[3]]
+    if sys.argv[4:] == ["repaired"]:
+        check(checked, ["--repair"], (), drawing.Comparison("javascript"))
+    else:
+        check(checked, [], ("parse", "run"), expected.Comparison("javascript"))
 
 
 main()

@@ -254,7 +254,7 @@ class Comparison:
         recording = macro.lines()
         header = recording[0].get("recording", {}) if recording else {}
         sheet = header.get("sheet", {"name": "", "model": True})
-        calls = [(call["on"], call["call"], call["args"]) for call in calls]
+        calls = [(call["on"], call["call"], call["args"]) for call in calls if "call" in call]
         in_model = sheet.get("model", True)
         frame, manager = self._frame(in_model, sheet.get("name", ""))
         faults = _first_difference(frame, calls[:len(frame)], "call of the frame")

@@ -72,8 +72,8 @@ class Checked:
         listed = run(self.program, "--help").stdout
         return re.search(rf"^ *{target} \(code \d\)$", listed, re.MULTILINE) is not None
 
-    def macros(self, target):
-        """Converts every recording, each into a folder of its own."""
+    def macros(self, target, *options):
+        """Converts every recording with those options of the program, each into a folder of its own."""
         if not self.has(target):
             skip(f"the program has no target {target}")
         macros = []
@@ -81,7 +81,7 @@ class Checked:
             folder = self.folder / target / name
             folder.mkdir(parents=True)
             file = folder / f"{name}.{EXTENSIONS[target]}"
-            result = run(self.program, "convert", recording, "--target", target, "--output", file)
+            result = run(self.program, "convert", recording, "--target", target, "--output", file, *options)
             if result.returncode != 0:
                 sys.exit(f"{recording} does not convert to {target}: {result.stderr}")
             macros.append(Macro(name, recording, folder, file))

@@ -1,6 +1,7 @@
 """Reads tests/stubs/interface.txt: the classes, operations, properties and enumerations of the automation interface."""
 
 import dataclasses
+import pathlib
 import re
 
 BASIC_TYPES = ("double", "int", "long", "bool", "string", "object")
@@ -118,3 +119,10 @@ def read(path, target):
             raise BadLine(f"{path}:{number}: {error}") from None
     _check_types(interface)
     return interface
+
+
+def state_rows():
+    """The rows of tests/stubs/state.txt."""
+    path = pathlib.Path(__file__).resolve().parent.parent / "stubs/state.txt"
+    lines = path.read_text(encoding="utf-8").splitlines()
+    return [line for line in lines if line and not line.startswith("#")]

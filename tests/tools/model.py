@@ -13,7 +13,7 @@ class Offered:
     interface: str  # its class there
     type: str  # enumerator of iwObjectType_e
     number: int  # the same for a script
-    answers: dict  # numbers by the call that they answer, such as "GetVertexCoordinate(0)"
+    answers: dict  # numbers by the call that they answer, such as "VertexCoordinate(0)"
     points: list
 
     @property
@@ -45,24 +45,24 @@ def _around(center, major, minor, start, end):
 
 def _line(data):
     ends = [data["startPoint"], data["endPoint"]]
-    return {"GetFirstPoint()": ends[0], "GetSecondPoint()": ends[1]}, _along(ends)
+    return {"FirstPoint()": ends[0], "SecondPoint()": ends[1]}, _along(ends)
 
 
 def _arc(data):
     center, radius, start, end = (data[key] for key in ("center", "radius", "startAngle", "endAngle"))
-    return ({"GetCenter()": center, "get_Radius()": [radius], "get_StartAngle()": [start], "get_EndAngle()": [end]},
+    return ({"Center()": center, "Radius()": [radius], "StartAngle()": [start], "EndAngle()": [end]},
             _around(center, [radius, 0, 0], [0, radius, 0], start, end))
 
 
 def _ellipse(data):
     center, major, minor = (data[key] for key in ("center", "majorAxis", "minorAxis"))
-    return ({"GetCenter()": center, "get_MajorRadius()": [math.hypot(*major)],
-             "get_MinorRadius()": [math.hypot(*minor)]},
+    return ({"Center()": center, "MajorRadius()": [math.hypot(*major)],
+             "MinorRadius()": [math.hypot(*minor)]},
             _around(center, major, minor, data.get("startAngle", 0), data.get("endAngle", 0)))
 
 
 def _vertices(points):
-    return {f"GetVertexCoordinate({index})": point for index, point in enumerate(points)}
+    return {f"VertexCoordinate({index})": point for index, point in enumerate(points)}
 
 
 def _polyline(data):

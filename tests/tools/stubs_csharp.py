@@ -77,4 +77,6 @@ def source(path):
         lines.append(f"    public {cls.name}Object(string way) : base(way) {{ }}")
         lines += [f"    {definition}" for _, definition in own + inherited]
         lines.append("}")
+    rows = ", ".join(f'"{row}"' for row in interface.state_rows())
+    lines.append(f"internal static partial class State {{ private static readonly string[] Rows = {{ {rows} }}; }}")
     return "\n".join([*lines, *found(known, writer), "}"])

@@ -11,6 +11,8 @@
 #include <algorithm>
 
 using namespace kinds;
+using inkmacro::Fault;
+using inkmacro::Target;
 
 const ChangeGroups modifiedTableStyle{
     {styleName, "TableStyleName"},
@@ -61,6 +63,11 @@ std::int32_t numberIn(const CFxPropertyChangedPtr& record, int which)
     return record->GetName().toQString().section('_', which, which).toInt();
 }
 
+const Fault kSingleRemoval{
+    "ConvertTableCount",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "of several rows or columns that went only the last is removed"};
+
 /// Takes all records out of the list whose tags begin so.
 PropertyList takeAll(const char* tag, PropertyList& list)
 {
@@ -106,6 +113,18 @@ QString insertLines(Writer& writer, const TableLines& lines, const PropertyList&
     return text;
 }
 
+/// One statement, however many lines went; in a repaired macro one each, from behind.
+QString removeLines(Writer& writer, const TableLines& lines, const CFxString& table, std::int32_t before,
+                    std::int32_t count)
+{
+    QString text = lines.remove(writer, table, before - 1);
+    if (!writer.repairs)
+        return count < before - 1 ? writer.faulty(text, kSingleRemoval) : text;
+    for (std::int32_t line = before - 2; line >= std::max(count, 0); --line)
+        text += lines.remove(writer, table, line);
+    return text;
+}
+
 } // namespace
 
 /// Takes the count of the lines. True if it was there.
@@ -131,9 +150,8 @@ bool CFxConverterIWAPIObject::ConvertTableCount(const TableLines& lines, Propert
         if (reached < count)
             LoseProperty(lines.countTag, "new lines are inserted by the records of their sizes, which are too few");
     } else if (count < before) {
-        // One statement, however many lines went.
-        text += lines.remove(writer, name, before - 1);
-        if (before - count > 1)
+        text += removeLines(writer, lines, name, before, count);
+        if (before - count > 1 && !writer.repairs)
             LoseProperty(lines.countTag, "one line is removed where several went");
     }
     return true;

@@ -63,6 +63,9 @@ static const Phrase eraseBlock{"EmitInsertHatchByEntities: erasure of a block in
 /// the number of the table is lost. It has to stay so.
 static const Phrase eraseTable{"EmitInsertHatchByEntities: erasure of a table",
                                withScript(eraseWords, "%hatchTable_%3.put_Erased(true);%2")};
+static const Mend scriptTableErasure(
+    eraseTable, Target::JavaScript, "of a marker's number the 1 is missing, so the values of the statement are one place off",
+    "%1%3.put_Erased(true);%2");
 
 namespace {
 
@@ -266,19 +269,25 @@ QString insertTemporary(Writer& writer, const TemporaryKind& kind, const OdDbObj
            kind.insert(writer, object, {name, declared});
 }
 
+const Fault kForeignNumber{"EmitInsertHatchByEntities: erasure of a region",
+                           {Target::Cpp, Target::CSharp, Target::JavaScript},
+                           "regions are erased by the number of tables"};
+
 /// Regions are erased by the present number of tables where their own should stand, in C++, C# and JavaScript. It has
 /// to stay so.
 QString eraseTemporary(Writer& writer, const TemporaryKind& kind, std::uint32_t number)
 {
     const Target target = writer.target;
     Fill statement = writer.fill(kind.erase);
-    if (&kind.erase == &eraseRegion) {
-        if (target == Target::Vba)
-            statement.number(number);
-        else if (target == Target::Cpp || target == Target::CSharp || target == Target::JavaScript)
-            number = processCounters.of(target).boundaryEntities[kTable];
-    }
-    return statement.text(numbered(kind, number));
+    if (&kind.erase != &eraseRegion)
+        return statement.text(numbered(kind, number));
+    if (target == Target::Vba)
+        statement.number(number);
+    const std::uint32_t tables = processCounters.of(target).boundaryEntities[kTable];
+    const bool misled = (target == Target::Cpp || target == Target::CSharp || target == Target::JavaScript) &&
+                        number != tables;
+    statement.text(numbered(kind, misled && !writer.repairs ? tables : number));
+    return misled ? writer.faulty(statement, kForeignNumber) : statement.str();
 }
 
 void loseBoundary(const OdDbObject& object)

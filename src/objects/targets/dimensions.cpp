@@ -23,15 +23,19 @@ struct PointDimension
 
 } // namespace
 
+static const Fault kUndeclaredPoints{
+    "EmitInsertAlignedDimension", {Target::JavaScript}, "the arrays of the dimension's points are not declared"};
+
 /// A page fills its arrays in front of the call, which names them by the number that all have.
 static QString insertInPage(Writer& writer, const PointDimension& kind, const std::vector<OdGePoint3d>& points,
                             const CFxString& text, const std::optional<QString>& last, const CFxString& name)
 {
-    static const Template array("%1%0%3 = new Array(%4, %5, %6);%2");
+    static const Template assigned("%1%0%3 = new Array(%4, %5, %6);%2");
+    static const Template declared("%1var %0%3 = new Array(%4, %5, %6);%2");
     const std::uint32_t number = ++writer.UniqueCounter;
     QString statements;
     for (std::size_t i = 0; i < points.size(); ++i)
-        statements += Fill(&array)
+        statements += Fill(writer.repairs ? &declared : &assigned)
                           .text(QLatin1String(kind.scriptArrays[i]))
                           .indent(writer.IndentLevel)
                           .text(LineEnd)
@@ -42,7 +46,7 @@ static QString insertInPage(Writer& writer, const PointDimension& kind, const st
     call.text(name).text(text);
     if (last)
         call.text(*last);
-    return statements + call.number(number).str();
+    return writer.faulty(statements, kUndeclaredPoints) + call.number(number).str();
 }
 
 /// `last` is the argument behind the text, where the call takes one more.
@@ -270,6 +274,9 @@ static const Phrase insertAngularDimension2Line{
                "%1Set %9 = iwSketchManager.InsertAngularDimension2Line( %3, %4, dimPositionPoint_2Line%10, "
                "\"%8\" )%2",
     }};
+static const Mend declaredAngularDimension2Line(
+    insertAngularDimension2Line, Target::JavaScript, "the dimension's variable is not declared",
+    "%1var %9 = mSkMgr.InsertAngularDimension2Line(%3, %4, new Array(%5,%6,%7), \"%8\");%2");
 
 bool MeasuresFromVariables(const Writer& writer)
 {

@@ -195,17 +195,26 @@ QString assign(Writer& writer, const Phrase& phrase, DataLocal local, std::uint3
     return assignment.number(number);
 }
 
+const Fault kPredefinedPattern{"EmitSetHatchData: type",
+                               {Target::CSharp, Target::VbNet, Target::Vba},
+                               "a predefined pattern becomes a user's own"};
+
 /// Which of the three types a word means depends on the target: only C++ and JavaScript know predefined patterns, which
 /// the others take for a user's own.
-QString patternTypeWord(Target target, const CFxString& word)
+bool knowsPredefined(const Writer& writer)
 {
-    const bool knowsPredefined = target == Target::Cpp || target == Target::CppCom || target == Target::JavaScript;
+    return writer.repairs || writer.target == Target::Cpp || writer.target == Target::CppCom ||
+           writer.target == Target::JavaScript;
+}
+
+QString patternTypeWord(const Writer& writer, const CFxString& word)
+{
     QString type = QStringLiteral("UserDefined");
     if (word.equalNoCase("Custom"))
         type = QStringLiteral("Custom");
-    else if (knowsPredefined && word.equalNoCase("Predefined"))
+    else if (knowsPredefined(writer) && word.equalNoCase("Predefined"))
         type = QStringLiteral("Predefined");
-    return enumeratorText(target, "iwHatchPatternType_e", "iwHatchPatternType_" + type);
+    return enumeratorText(writer.target, "iwHatchPatternType_e", "iwHatchPatternType_" + type);
 }
 
 QString assignData(Writer& writer, const HatchPatternChange& change, std::uint32_t number)
@@ -217,9 +226,12 @@ QString assignData(Writer& writer, const HatchPatternChange& change, std::uint32
                    assignReal(assignSpacing, kSpacing, change.spacing);
     if (change.name)
         text += assign(writer, assignPatternName, kPatternName, number, [&](Fill& fill) { fill.text(*change.name); });
-    if (change.type)
-        text += assign(writer, assignPatternType, kPatternType, number,
-                       [&](Fill& fill) { fill.text(patternTypeWord(writer.target, *change.type)); });
+    if (change.type) {
+        const QString type = assign(writer, assignPatternType, kPatternType, number,
+                                    [&](Fill& fill) { fill.text(patternTypeWord(writer, *change.type)); });
+        const bool misread = !knowsPredefined(writer) && change.type->equalNoCase("Predefined");
+        text += misread ? writer.faulty(type, kPredefinedPattern) : type;
+    }
     return text;
 }
 

@@ -19,6 +19,9 @@ static const Phrase regionHead{
         .vbNet = "%2%1Dim iwEntities_%3 As DispatchWrapper() = New DispatchWrapper(%4) {}%2",
         .vba = "%2%1Dim iwRegionEntities_%3(%4) As Object%2",
     }};
+static const Mend regionHeadOfPage(
+    regionHead, Target::JavaScript, "a percent sign stands in front of the statement",
+    "\n\n%3var iwEntities_%1 = new Array();\n");
 
 static const Phrase regionArray{"EmitInsertRegion",
                                 {
@@ -54,6 +57,11 @@ static const Phrase takeRegion{
         .vba = "%1Set %4 = regionArray%3(0)%2%2",
     }};
 
+static const Fault kEmptyPlace{
+    "EmitInsertRegion",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "an object without a variable leaves its place empty"};
+
 static QString regionEntities(Writer& writer, const QStringList& names, std::uint32_t number)
 {
     static constexpr Words arrayNames{.cpp = "entitiesArray",
@@ -77,8 +85,13 @@ static QString regionEntities(Writer& writer, const QStringList& names, std::uin
 
 QString EmitInsertRegion(Writer& writer, const CFxString& variable, const QStringList& names, std::uint32_t number)
 {
+    QStringList known = names;
+    known.removeAll(QString());
+    QString entities = regionEntities(writer, writer.repairs ? known : names, number);
+    if (known.size() < names.size())
+        entities = writer.faulty(entities, kEmptyPlace);
     // The number goes into two places of the same literal in C++.
-    return regionEntities(writer, names, number) + writer.fill(regionArray).number(number).str() +
+    return entities + writer.fill(regionArray).number(number).str() +
            writer.fill(insertRegion).number(number).number(number).str() +
            writer.fill(takeRegion).number(number).text(variable).str();
 }

@@ -15,6 +15,9 @@ static const Phrase setModelProperty{"EmitSetModelProperty",
                                          .vbNet = "%1iwModel.%3 = \"%4\"%2",
                                          .vba = "%1iwModel.%3 = \"%4\"%2",
                                      }};
+static const Mend modelPropertyOfPage(
+    setModelProperty, Target::JavaScript, "the marker of the indentation lacks its number, so the values of the statement are one place off",
+    "%1mModel.put_%3( \"%4\" );%2");
 
 static const Phrase setSheetProperty{"EmitSetModelProperty",
                                      {

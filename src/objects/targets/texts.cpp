@@ -176,6 +176,10 @@ QString EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxS
     return EmitSetEnumValue(writer, target, enums::noteDirection, property, direction);
 }
 
+static const Fault kTypedEnumerator{"EmitSetNoteLineSpacing",
+                                    {Target::JavaScript},
+                                    "the type stands in front of the enumerator, as in a typed language"};
+
 /// The enumerator's form follows the language that the host records in, not the target; a page gets a typed name.
 QString EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const CFxString& property, std::int32_t style)
 {
@@ -185,7 +189,11 @@ QString EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const CF
     const QString enumerator =
         enumeratorText(form, QStringLiteral("iwNoteLineSpacingStyle_e"),
                        QLatin1String("iwNoteLineSpacingStyle_") + QLatin1String(style == 0 ? "AtLeast" : "Exactly"));
-    return EmitSetProperty(writer, target, property, enumerator, false);
+    if (writer.target != Target::JavaScript)
+        return EmitSetProperty(writer, target, property, enumerator, false);
+    if (writer.repairs)
+        return EmitSetProperty(writer, target, property, enumerator.section('.', -1), true);
+    return writer.faulty(EmitSetProperty(writer, target, property, enumerator, false), kTypedEnumerator);
 }
 
 /// The locals have no number, so that a second change in one scope declares them again. It has to stay so.

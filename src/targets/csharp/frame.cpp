@@ -37,7 +37,7 @@ static const char* const optionResult = "            iwSetCommandOptionResult_e 
 
 QString CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool hasSysVar)
 {
-    QByteArray frame = head.words();
+    QByteArray frame = head.words(writer.repairs);
     if (hasSysVar)
         frame.append(optionResult);
 

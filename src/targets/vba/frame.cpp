@@ -49,7 +49,7 @@ static const FileHead head{
 QString CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
 {
     writer.IndentLevel += 2;
-    const Template words(head.words().constData(), writer.target);
+    const Template words(head.words(writer.repairs).constData(), writer.target);
     return writer.fill(words).text(LineEnd).text(RecordingSheetName);
 }
 

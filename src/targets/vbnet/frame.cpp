@@ -33,7 +33,7 @@ static const FileHead head{
 QString CFxConverterIWAPIVbNet::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 2;
-    const Template words(head.words().constData(), writer.target);
+    const Template words(head.words(writer.repairs).constData(), writer.target);
     return faultyName(className, writer.fill(words).text(identifier(className)).text(LineEnd).text(RecordingSheetName));
 }
 

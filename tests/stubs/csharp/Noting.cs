@@ -40,7 +40,8 @@ namespace Inkwright
             Way = way;
         }
 
-        /// Objects that take several values to get are named by a number, so that their way stays short.
+        /// Objects that take several values to get, and inserted ones, are named by a number, so that their way stays
+        /// short.
         protected string Note(string call, string result, params object[] arguments)
         {
             string[] shown = Array.ConvertAll(arguments, Json.Of);
@@ -53,7 +54,7 @@ namespace Inkwright
 
         private string WayTo(string call, string result, string[] shown)
         {
-            if (shown.Length < 2)
+            if (shown.Length < 2 && !call.StartsWith("Insert", StringComparison.Ordinal))
                 return Way + "." + call + "(" + string.Join("", shown) + ")";
             int count;
             counts.TryGetValue(result, out count);
@@ -68,7 +69,7 @@ namespace Inkwright
         {
             if (OfferedModel.Answers.Count > 0) {
                 object known = OfferedModel.Answers.Dequeue();
-                return (T)(typeof(T).IsEnum ? Enum.Parse(typeof(T), (string)known)
+                return (T)(typeof(T).IsEnum ? Enum.Parse(typeof(T), known.ToString())
                                             : Convert.ChangeType(known, typeof(T), CultureInfo.InvariantCulture));
             }
             return typeof(T) == typeof(string) ? (T)(object)"" : default(T);

@@ -1,4 +1,4 @@
-// The objects that a macro finds in the model: a selection by a window offers them, and they know their geometry.
+// The objects that a macro finds in the model: a selection by a window offers them.
 
 using System;
 using System.Collections.Generic;
@@ -13,7 +13,6 @@ namespace Inkwright
         public string Type;
         public string Way;
         public List<double[]> Points = new List<double[]>();
-        public Dictionary<string, double[]> Answers = new Dictionary<string, double[]>();
 
         public bool IsWithin(double[] one, double[] other)
         {
@@ -42,6 +41,7 @@ namespace Inkwright
             offered.Clear();
             places.Clear();
             selected.Clear();
+            State.Begin();
             foreach (string line in File.ReadAllLines(file)) {
                 string[] fields = line.Split('\t');
                 Offered made = new Offered { Interface = fields[0], Type = fields[1], Way = fields[2] };
@@ -52,7 +52,7 @@ namespace Inkwright
                     if (parts[0] == "")
                         made.Points.Add(numbers);
                     else
-                        made.Answers[parts[0]] = numbers;
+                        State.Hold(made.Way, parts[0], Array.ConvertAll(numbers, number => (object)number));
                 }
                 offered.Add(made);
             }
@@ -75,10 +75,11 @@ namespace Inkwright
                 Answers.Enqueue(selected[(int)arguments[1]].Type);
                 Answers.Enqueue(selected[(int)arguments[1]]);
             } else {
-                Offered asked = offered.Find(one => one.Way == on);
-                double[] numbers;
-                if (asked != null && asked.Answers.TryGetValue(call + "(" + string.Join(",", shown) + ")", out numbers))
-                    Array.ForEach(numbers, number => Answers.Enqueue(number));
+                State.Tell(on, call, arguments, way);
+                object[] known = State.Asked(on, call, shown);
+                foreach (object value in known)
+                    if (!(value is Noting))
+                        Answers.Enqueue(value);
             }
         }
 

@@ -13,7 +13,7 @@ function named(value) {
 
 function note(object, call, given, result) {
     CALLS.push({on: object.way, call: call, args: given.map(named)});
-    if (given.length < 2) {
+    if (given.length < 2 && !call.startsWith('Insert')) {
         return object.way + '.' + call + '(' + given.map(value => JSON.stringify(value)).join('') + ')';
     }
     COUNTS[result] = (COUNTS[result] || 0) + 1;
@@ -62,7 +62,7 @@ function answer(type, way) {
 
 // Several results come as an array, which has them by their names too.
 function answers(types, names, way, known) {
-    var results = known || types.map(type => answer(type, way));
+    var results = types.map((type, i) => known && i in known ? known[i] : answer(type, way));
     if (results.length < 2) {
         return results[0];
     }

@@ -1,0 +1,394 @@
+"""The drawing that a macro made, as the stubs noted it, and its comparison object by object with what the recording
+says. Which property of a record stands where in an object is told by drawing.txt."""
+
+import math
+import re
+
+import expected
+import harness
+import interface
+
+# Enumerators that do not repeat the shown text, or of which only the number is recorded.
+ENUMERATORS = {
+    "LineWeight": {-1: "ByLayer", -2: "ByBlock", -3: "Default"},
+    "FitSmooth": {"Quadratic": "Qudratic"},
+    "Direction": {"Up": "BottomToTop"},
+    "Alignment": {4: "Center"},
+    "TextSide": {1: "OnConvexSide"},
+    "TextDirection": {2: "InwardToTheCenter"},
+}
+YES = {"Yes", "YES", "Visible", "Enabled"}
+# What stands between an object and its properties without being one of them.
+STEPS = re.compile(r"[gG]et_?(\w+)\(\)")
+PASSED = {"GeneralDimension", "DimensionStyleUserData"}
+# What an object has of which nothing is recorded, besides zeros and empty texts: the host's own values.
+DEFAULTS = [("Circle", "Radius()", 1), ("BlockInstance", "Scales()", 1), ("SimpleNote", "Height()", 2.5),
+            ("AttributeDefinition", "Height()", 0.2), ("EllipseArc", "OtherRadius()", 1), ("Hatch", "HatchPattern.HatchOrSolidData()", "iwHatchPatternType_UserDefined"),
+            ("EllipseArc", "EndAngle()", 2 * math.pi)]
+# Written with six digits.
+SHORT = re.compile(r"Segment(Angle|StartWidth|EndWidth)")
+# What the records of an object do not tell: the drawing's data and custom actions do.
+ELSEWHERE = re.compile(r"NoteAnnotation|ToleranceAnnotation|BlockAnnotation|ClipBoundary|TableStyle|FitOptions.DimensionS"
+                       r"|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
+                       r"|RowHeightAt|ColumnWidthAt|Pattern")
+# Recorded of an added object, and without a statement.
+LOST = {"AcDbTable": re.compile(r"RowHeight_[3-9]|ColumnWidth_[1-9]|Contents_")}
+# Of a block that another drawing holds.
+REFERENCED = {"Name()", "Rotation()"}
+# Behind these an object has other vertices than those of its record.
+RESHAPING = {"AddVertexAfter", "DeleteVertex", "Straighten", "Split", "Fit", "Decurve", "Spline"}
+# What a leader's note is told comes from the drawing.
+ANNOTATION = {"textHeight": "TextHeight", "width": "Width", "rotation": "Rotation", "lineSpacingFactor":
+              "LineSpaceFactor", "backgroundFillOn": "BackgroundMask", "backgroundScaleFactor":
+              "BackgroundBorderOffsetFactor"}
+# Recorded of a block without a name: the host numbers it when it is made.
+ANONYMOUS = re.compile(r"^\*U\d+$")
+HATCHING = 18
+# How a number of the record becomes the one that the object holds.
+MEASURES = {"half": lambda value: value / 2, "round": lambda value: value / (2 * math.pi),
+            "area": lambda value: math.sqrt(value / math.pi)}
+
+
+class _Rows:
+    """drawing.txt: the interface's class by the drawing's class, and by both classes and tag the place of a value."""
+
+    def __init__(self):
+        self.interfaces, self.places = {}, {}
+        cls = ""
+        for line in (harness.HERE / "drawing.txt").read_text(encoding="utf-8").splitlines():
+            text = "" if line.startswith("#") else line.rstrip()
+            if text and not text.startswith(" "):
+                cls, _, name = text.partition(" ")
+                self.interfaces[cls] = name
+            elif text:
+                tag, place = text.strip().split(" = ")
+                for axis, letter in enumerate("XYZ" if "*" in tag else ""):
+                    for sign in (letter, letter.lower()):
+                        self.places[cls, tag.replace("*", sign)] = f"{place} {axis}" if place != "-" else place
+                if "*" not in tag:
+                    self.places[cls, tag] = place
+
+    def place(self, cls, tag):
+        numbers = re.findall(r"(?<=_)\d+", tag)
+        place = self.places.get((cls, re.sub(r"(?<=_)\d+", "#", tag)), self.places.get(("every", tag), ""))
+        for number in numbers:
+            place = place.replace("#", number, 1)
+        return place
+
+
+class _Choice:
+    """One of several values: its number and how it was shown, of which one may be missing."""
+
+    def __init__(self, number, text):
+        self.number, self.text = number, text
+
+    def __repr__(self):
+        return f"{self.text or self.number}"
+
+
+def _plain(text):
+    return re.sub(r"\W|_", "", text).lower()
+
+
+def _derive_ellipse(held):
+    """Center and long axis from both ends of the axis, in the plane."""
+    for axis in range(2):
+        if ("AxisStart()", axis) in held:
+            start, end = held.pop(("AxisStart()", axis)), held.pop(("AxisEnd()", axis))
+            held["Center()", axis], held["MajorAxis()", axis] = (start + end) / 2, (start - end) / 2
+
+
+def _derive_note(held):
+    """Position and width from the corners of its box."""
+    if ("FirstCorner()", 0) not in held:
+        return
+    first, second = ([held.pop((name, axis)) for axis in range(3)] for name in ("FirstCorner()", "SecondCorner()"))
+    justified = held.get(("Justify()", 0), "")
+    shares = [0.5 * ("Center" in justified) + ("Right" in justified),
+              0.5 * ("Middle" in justified) + ("Bottom" in justified), 0]
+    for axis in range(3):
+        held.setdefault(("Position()", axis), first[axis] + shares[axis] * (second[axis] - first[axis]))
+    held.setdefault(("Width()", 0), second[0] - first[0])
+
+
+def _derive_table(held):
+    """Sizes of the rows and columns that were not set one by one."""
+    for count, size, one in ("Rows()", "RowHeight()", "RowHeightAt"), ("Columns()", "ColumnWidth()", "ColumnWidthAt"):
+        length = held.pop((size, 0))
+        for number in range(int(held[count, 0])):
+            held.setdefault((f"{one}({number})", 0), length)
+
+
+DERIVED = {"EllipseArc": _derive_ellipse, "Note": _derive_note, "Table": _derive_table}
+COUNTED = {"InsertRow": ("Rows()", 1), "DeleteRow": ("Rows()", -1), "InsertColumn": ("Columns()", 1),
+           "DeleteColumn": ("Columns()", -1)}
+
+
+def _question(name, index):
+    """What is asked of an object for the value, `index` telling which of several."""
+    if "#" in name:
+        return name.replace("#", str(index + 1)) + "()"
+    return name if name.endswith(")") else f"{name}({index})"
+
+
+class Recorded:
+    """What the recording says of its objects: what they hold by their handle, in the order in which they were added."""
+
+    def __init__(self, recording, rows):
+        self._rows = rows
+        records = [line["object"] for line in recording if "object" in line]
+        self._names = {record["handle"]: record.get("name", "") for record in records}
+        # A leader brings its note with it.
+        self._leaders = {record["handle"]: record["reactors"][0] for record in records
+                         if record["class"] == "AcDbMText" and record.get("reactors")}
+        self._notes = {record["handle"]: record for record in records if record["handle"] in self._leaders}
+        self._thicknesses = {record["handle"]: record["thickness"] for record in records if "thickness" in record}
+        self._pattern = None  # of the next hatch; empty when that is not inserted
+        self.added, self._classes, self._held, self.strange = [], {}, {}, set()
+        for action in expected._actions(recording):
+            for kind in {"added", "modified", "property", "custom"} & action.keys():
+                getattr(self, f"_{kind}")(action[kind])
+
+    def _added(self, record):
+        handle, cls = record["handle"], record["class"]
+        if handle in self._leaders or cls not in self._rows.interfaces or cls == "AcDbHatch" and self._pattern == {}:
+            return
+        self._classes[handle], self._held[handle] = cls, {}
+        self.added.append((cls, self._held[handle]))
+        for note, leader in self._leaders.items():
+            if leader == handle:
+                self._held[handle].update({(f"NoteAnnotation.{ANNOTATION[field]}()", 0): value
+                                           for field, value in self._notes[note].items() if field in ANNOTATION})
+        if cls == "AcDbHatch":
+            self._held[handle].update(self._pattern or {})
+            self._pattern = None
+        if handle in self._thicknesses:
+            self._held[handle]["Thickness()", 0] = self._thicknesses[handle]
+        lost = LOST.get(cls, re.compile("$."))
+        self._modified({**record, "properties": [one for one in record["properties"] if not lost.match(one["tag"])]})
+        self._align(cls, self._held[handle])
+
+    @staticmethod
+    def _align(cls, held):
+        """An attribute definition is inserted at the point by which its text is aligned."""
+        if cls == "AcDbAttributeDefinition":
+            justified = str(held.get(("Justification()", 0), "Left")) != "Left"
+            for axis in range(3):
+                alignment = held.pop(("AlignmentPoint()", axis), 0)
+                if justified:
+                    held["Position()", axis] = alignment
+
+    def _modified(self, record):
+        # Of two records of one property the first counts.
+        for one in reversed(record["properties"]):
+            self._set(record["handle"], one, None)
+
+    def _property(self, record):
+        self._set(record["handle"], record, record.get("index"))
+
+    def _custom(self, action):
+        data = action["data"]
+        if action["kind"] == expected.DRAWING:
+            self._draw(data[3]["handle"], *(next(iter(one.values())) for one in data))
+        if action["kind"] == HATCHING:
+            self._hatch(*(next(iter(one.values())) for one in data))
+        if action["kind"] == expected.ERASING:
+            for handle in data[0]["handles"]:
+                if handle in self._held:
+                    self._held[handle]["Erased()", 0] = True
+        if action["kind"] == expected.TRIMMING:
+            for handle, cls in zip(data[5]["handles"], data[6]["classes"]):
+                if self._classes.get(handle) != cls:  # another object from here on
+                    self._held.pop(handle, None)
+
+    def _hatch(self, name, scale, angle, *rest):
+        """Stands in front of its hatch, or behind it."""
+        pattern = {"PatternName()": name, "PatternScale()": scale, "PatternAngle()": angle}
+        by_points, by_entities, by_bulges, has_gradient, *data = rest
+        self._pattern = {(place, 0): value for place, value in pattern.items()}
+        if has_gradient:
+            gradient = [{"color": one} if isinstance(one, (dict, str)) else one for one in data[-4:]]
+            self._pattern.update({("HatchPattern.GradientData()", index): one for index, one in enumerate(gradient)})
+        if not (by_points or by_entities or by_bulges or data[0]):
+            self._pattern = {}
+        if self.added and self.added[-1][0] == "AcDbHatch" and ("PatternName()", 0) not in self.added[-1][1]:
+            self.added[-1][1].update(self._pattern)
+            self._pattern = None
+
+    def _draw(self, handle, points, bulges, closed, _, cls, starts, ends, one_width, width):
+        vertices = [{"value": {"point": point}} for point in points]
+        self._added({"class": cls, "handle": handle,
+                     "properties": [{"tag": "Vertex", "value": {"collection": {"elements": vertices}}}]})
+        held = self._held[handle]
+        held["Closed()", 0] = closed
+        held.update({(f"SegmentAngle({number})", 0): 4 * math.atan(bulge[0]) for number, bulge in enumerate(bulges)
+                     if abs(bulge[0]) > 1e-10})
+        if one_width:
+            held["GlobalWidth()", 0] = width
+            return
+        for name, widths in ("SegmentStartWidth", starts), ("SegmentEndWidth", ends):
+            held.update({(f"{name}({number})", 0): value for number, value in enumerate(widths)})
+
+    def _set(self, handle, record, index):
+        tag, held = record["tag"], self._held.get(handle)
+        if handle in self._leaders and tag == "Layer":
+            held, tag = self._held.get(self._leaders[handle]), "NoteLayer"
+        if held is None:
+            return
+        cls = self._classes.get(handle, "AcDbLeader")
+        place = self._rows.place(cls, tag)
+        if not place:
+            self.strange.add(f"{cls} {tag}")
+        elif match := re.fullmatch(r"(.*)\[(\d)\]", place):
+            self._set_points(held, match[1], int(match[2]), record["value"])
+        elif place != "-" and (tag != "Erased" or record["value"] == "YES"):
+            name, _, rest = place.partition(" ")
+            value = self._value(record["value"])
+            if value is None or index and not 0 <= index["int"] < (4 if "#" in name else math.inf):
+                return
+            value = MEASURES[rest](value) if rest in MEASURES else value
+            if name == "Transparency":
+                name += [".ByLayer", ".ByBlock", ".ByAlpha"][record["value"]["transparency"]["method"]]
+            held[_question(name, "" if index is None else index["int"]), int(rest) if rest.isdigit() else 0] = value
+
+    @staticmethod
+    def _set_points(held, name, axes, value):
+        """A collection that is none says nothing."""
+        points = value.get("collection", {}).get("elements", []) if isinstance(value, dict) else []
+        for number, element in enumerate(points):
+            for axis, coordinate in enumerate(element["value"].get("point", [])[:axes]):
+                held[_question(name, number), axis] = coordinate
+
+    def _value(self, value):
+        if not isinstance(value, dict):
+            return ANONYMOUS.sub("*U", value) if isinstance(value, str) else value
+        kind, held = next(iter(value.items()))
+        if kind == "id":
+            return self._names.get(held)
+        if kind == "int":
+            return _Choice(held, "")
+        if kind == "transparency":
+            return [True, True, round((255 - held["alpha"]) / 2.55)][held["method"]]
+        if kind == "element":
+            number = held["tag"].get("int") if isinstance(held.get("tag"), dict) else None
+            return _Choice(number, self._value(held["value"]))
+        if kind == "collection":
+            return self._value({"element": held["elements"][held.get("chosen", 0)]})
+        return value
+
+
+class Made:
+    """The objects that a macro made: by their way what they hold."""
+
+    def __init__(self, notes):
+        self.held, self.colors = {}, []
+        reshaped = set()
+        for note in notes:
+            if note.get("call") == "GetRGBColor":
+                self.colors.append(note["args"])
+            if note.get("call") in RESHAPING:
+                reshaped.add(note["on"])
+            if note.get("call") in COUNTED:
+                place, step = COUNTED[note["call"]]
+                self.held[note["on"]][place, 0] += step
+            if "holds" in note and note["on"] not in reshaped:
+                self._hold(note["on"], note["holds"], note["values"])
+        for way, held in self.held.items():
+            if derive := DERIVED.get(way.split("#")[0]):
+                derive(held)
+
+    def _hold(self, way, question, values):
+        match = re.match(r"(\w+#\d+)(?=\.|$)", way)
+        if not match:
+            return
+        steps = [step.removeprefix("DimensionStyle") for step in STEPS.findall(way[match.end():]) if step not in PASSED]
+        for index, value in enumerate(values or [True]):
+            if not isinstance(value, str) or not value.startswith(f"@{match[1]}"):
+                self.held.setdefault(match[1], {})[".".join([*steps, question]), index] = value
+
+    def color(self, value):
+        """A color as recordings have it."""
+        index = re.search(r"GetColorByIndex\((\d+)\)", value)
+        if index:
+            return {256: "bylayer", 0: "byblock"}.get(int(index[1]), {"index": int(index[1])})
+        number = re.fullmatch(r"@Color#(\d+)", value)
+        return {"rgb": self.colors[int(number[1]) - 1]} if number else None
+
+
+def _number(value):
+    try:
+        return float(value)
+    except (TypeError, ValueError):
+        return math.nan
+
+
+def _fits(made, place, seen, wanted):
+    """Whether what the object holds is what the record says."""
+    if isinstance(wanted, dict):
+        return isinstance(seen, str) and made.color(seen) == wanted.get("color")
+    number, text = (wanted.number, wanted.text) if isinstance(wanted, _Choice) else (None, wanted)
+    if isinstance(seen, bool):
+        closed = place == "Closed()" and str(text).lower() == "yes"  # read in any case
+        return seen == (closed or text is True or number == 1 and not text or text in YES)
+    if isinstance(seen, (int, float)):
+        value = _number(number if text == "" else text)
+        short = SHORT.match(place) and seen == _number(f"{value:.6g}")
+        return short or math.isclose(seen, value, rel_tol=0, abs_tol=1e-9)
+    if isinstance(seen, str) and re.match(r"iw\w+_", seen):
+        names = ENUMERATORS.get(re.sub(r"\W", "", place.split(".")[-1]), {})
+        name = names.get(text or number, text or f"{number:03d}")
+        return _plain(seen.split("_", 1)[1]) == _plain(name)
+    return seen == text
+
+
+class Comparison(expected.Comparison):
+    """Holds the drawings that macros made against recordings, besides their calls."""
+
+    def __init__(self, target):
+        super().__init__(target)
+        self._rows = _Rows()
+        manager = interface.read(harness.STUBS / "interface.txt", target).classes["SketchManager"]
+        interfaces = set(self._rows.interfaces.values())
+        self._results = {operation.name: operation.result for operation in manager.operations
+                         if operation.result in interfaces}
+
+    def add(self, macro, notes):
+        super().add(macro, notes)
+        recorded, made = Recorded(macro.lines(), self._rows), Made(notes)
+        ways = self._lasting_ways([(note["on"], note["call"], note["args"]) for note in notes if "call" in note])
+        names = [self._rows.interfaces[cls] for cls, _ in recorded.added]
+        faults = [f"{strange} is in no row" for strange in sorted(recorded.strange)]
+        if names != [way.split("#")[0] for way in ways]:
+            faults.append(f"the objects made are {ways}\n    and should be {names}")
+            ways = []
+        for (_, wanted), way in zip(recorded.added, ways):
+            faults += [f"{way} {fault}" for fault in self._compare_object(made, way, wanted)]
+        self.complaints += [f"{macro.name}: {fault}" for fault in faults]
+
+    def _lasting_ways(self, calls):
+        """To the objects that were made and are not drawn for others alone. Hatches never are."""
+        ways, counts = [], {}
+        for _, name, _ in calls:
+            result = self._results.get(name)
+            counts[result] = counts.get(result, 0) + 1
+            ways.append(f"{result}#{counts[result]}" if result else None)
+        helpers = [None if way and way.startswith("Hatch#") else way for way in ways]
+        temporary = set(expected._temporaries(calls, helpers))
+        return [way for way in ways if way and way not in temporary]
+
+    @staticmethod
+    def _compare_object(made, way, wanted):
+        seen, cls = made.held.get(way, {}), way.split("#")[0]
+        for (place, index), value in wanted.items():
+            if ("Path()", 0) in seen and place in REFERENCED:
+                continue
+            if (place, index) in seen:
+                fits = _fits(made, place, seen[place, index], value)
+            else:
+                fits = value == 0 or (cls, place, value) in DEFAULTS
+            if not fits:
+                yield f"has {seen.get((place, index))} as {place} {index}, which should be {value}"
+        for (place, index), value in seen.items():
+            if (place, index) not in wanted and value not in (0, "") and (
+                    (cls, place, value) not in DEFAULTS and not ELSEWHERE.match(place)):
+                yield f"has {value} as {place} {index}, of which nothing is recorded"
