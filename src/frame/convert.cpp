@@ -84,6 +84,7 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
 
     // Written after a failure too, when the level may be out of balance: nobody reads that text.
     writer.write(stream, EmitFileFooter());
+    writer.finish(stream);
     stream.flush();
     bool written = stream.status() == QTextStream::Ok && file.error() == QFileDevice::NoError;
     // Some file systems tell only who closes a file that it was not written. A close that goes well forgets the rest.
