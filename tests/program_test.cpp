@@ -255,6 +255,8 @@ TEST_F(Program, ShowsRecordingsAndItself)
     EXPECT_TRUE(run({"--version"}).out.startsWith("inkmacro "));
     EXPECT_TRUE(run({"--help"}).out.contains("Exit status:"));
     EXPECT_TRUE(run({"schema"}).out.contains("\"$defs\""));
+    EXPECT_EQ(run({"schema", "recording"}).out, run({"schema"}).out);
+    EXPECT_EQ(run({"schema", "drawing"}).status, 2);
 }
 
 TEST_F(Program, NamesOptionsAsItIsTold)

@@ -4,6 +4,7 @@
 #include "targets/clipBoundaries.h"
 #include "actions/handedVariable.h"
 #include "actions/kinds.h"
+#include "frame/losses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 
 /// Of an image that the macro does not know the statement that would fetch it is lost, and the new name stays.
@@ -13,7 +14,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionClipBoundary(OdSmartPtr<CFxCust
     if (image.isEmpty())
         image = Objects().NameObject(action->GetData(0).GetHandle(), action->GetData(1).GetClass());
     if (image.isEmpty())
-        return kFxSuccess;
+        return PassOver(action, "objects of that class have no statements");
     const CFxCustomActionData& boundary = action->GetData(2);
     // A truth value removes the boundary, whichever it is.
     text = boundary.GetType() == CFxCustomActionData::kBool

@@ -5,6 +5,7 @@
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
 #include "frame/StatementGroup.h"
+#include "frame/losses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/setters.h"
 #include "targets/LineEnd.h"
@@ -107,6 +108,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files,
         text += EmitSetProperty(writer, variable, property, quotable(value.GetString()), true);
     else if (value.GetType() == CFxCustomActionData::kStringArray)
         text += EmitFileLocationArray(writer, variable, property, value.GetStringArray());
+    else
+        NoteLoss(ActionTitle(&action), "its value is neither a text nor a list of texts");
     text += group.close() + LineEnd;
     return kFxSuccess;
 }

@@ -3,8 +3,8 @@
 #include "targets/groups.h"
 #include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
-#include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
 
 const ActionEntry* CFxConverterIWAPIImpl::FindGroup(const CFxString& groupName, OdDbHandle& handle) const
@@ -27,8 +27,10 @@ void CFxConverterIWAPIImpl::ConvertGroupChange(const CFxCustomAction& action, Em
     ResolveVariables(names, action.GetData(0), action.GetData(1));
     OdDbHandle handle;
     const ActionEntry* const group = FindGroup(action.GetData(2).GetString(), handle);
-    if (!group)
+    if (!group) {
+        NoteLoss(ActionTitle(&action), "the macro does not have the group");
         return;
+    }
     CFxString name;
     text += Objects().EmitObjectVariable(handle, group->cls, name);
     text += change(writer, names, name);

@@ -4,6 +4,7 @@
 #include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/counters.h"
+#include "frame/losses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/hatchInsertions.h"
 
@@ -29,8 +30,10 @@ QString hatchByBoundary(Writer& writer, const CFxString& hatch, const HatchPatte
                         const CFxCustomAction& action)
 {
     const OdArray<int>& counts = action.GetData(7).GetIntArray();
-    if (counts.isEmpty())
+    if (counts.isEmpty()) {
+        NoteLoss(ActionTitle(&action), "its boundary has no loop");
         return {};
+    }
     OdArray<OdGePoint2d> points = action.GetData(8).Get2dPointArray();
     points.append(points[0]);
     return EmitInsertHatchByBoundary(writer, hatch, counts, points, pattern);

@@ -4,6 +4,7 @@
 #include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/counters.h"
+#include "frame/losses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/regions.h"
 #include "targets/customActions.h"
@@ -56,7 +57,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionViewport(OdSmartPtr<CFxCustomAc
     CFxString name = takeVariable(text, HandedVariable::Replaced);
     const OdArray<OdGePoint3d>& polygon = action->GetData(0).GetPointArray();
     if (!NameInsertedObject(*action, name))
-        return kFxSuccess;
+        return PassOver(action, "objects of that class have no statements");
     text = EmitInsertViewport(writer, name, action->GetData(5).GetString(), polygon);
     return kFxSuccess;
 }

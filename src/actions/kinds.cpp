@@ -3,6 +3,7 @@
 #include "actions/kinds.h"
 
 #include "actions/handedVariable.h"
+#include "frame/losses.h"
 
 namespace inkmacro {
 
@@ -39,11 +40,21 @@ const ActionForm* FormOf(const CFxCustomAction& action)
 std::int32_t CFxConverterIWAPIImpl::ConvertCustomAction(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
     const inkmacro::ActionForm* const form = inkmacro::FormOf(*action);
-    if (!form)
+    if (!form) {
+        NoteLoss(ActionTitle(action.get()), "no statement is known for this kind of action or form of its data");
         return kFxFailure;
-    if (form->handler)
-        return (this->*form->handler)(std::move(action), text);
-    inkmacro::takeVariable(text, inkmacro::HandedVariable::Replaced);
-    text = form->statements(writer, *action);
-    return kFxSuccess;
+    }
+    const LossWatch losses;
+    std::int32_t status = kFxSuccess;
+    if (form->handler) {
+        status = (this->*form->handler)(action, text);
+    } else {
+        inkmacro::takeVariable(text, inkmacro::HandedVariable::Replaced);
+        text = form->statements(writer, *action);
+    }
+    // A view that stays as it is needs none.
+    const bool wants = action->GetKind() != inkmacro::kNamedView;
+    if (status == kFxSuccess && text.isEmpty() && wants && !losses.any())
+        NoteLoss(ActionTitle(action.get()), "no statement came of it");
+    return status;
 }

@@ -112,13 +112,15 @@ private:
 };
 
 // The kinds that the walk over a command's children asks for.
+inline constexpr std::int32_t kPolyline = 16;
+inline constexpr std::int32_t kViewBackground = 41;
+inline constexpr std::int32_t kViewport = 46;
+// Others that make objects.
+inline constexpr std::int32_t kSheet = 13;
 inline constexpr std::int32_t kNamedView = 14;
 inline constexpr std::int32_t kEmbeddedObject = 15;
-inline constexpr std::int32_t kPolyline = 16;
-inline constexpr std::int32_t kHatch = 18;
-inline constexpr std::int32_t kViewBackground = 41;
+inline constexpr std::int32_t kInsertHatch = 18;
 inline constexpr std::int32_t kRegion = 44;
-inline constexpr std::int32_t kViewport = 46;
 inline constexpr std::int32_t kViewTiles = 49;
 
 inline constexpr ActionForm filletForms[] = {
@@ -162,13 +164,13 @@ inline constexpr auto actionKinds = [] {
         {10, "select", &Impl::ConvertActionSelect},
         {11, "selection filter", &Impl::ConvertActionSelectionFilter},
         {12, "coordinate system", coordinateSystemForms},
-        {13, "sheet", sheetForms},
+        {kSheet, "sheet", sheetForms},
         {kNamedView, "named view", &Impl::ConvertActionNamedView},
         {kEmbeddedObject, "embedded object",
          ActionForm{DataSignature::exactly({kInt, kString}), &Impl::ConvertActionEmbeddedObject}},
         {kPolyline, "polyline", &Impl::ConvertActionPolyline},
         {17, "erase", &Impl::ConvertActionErase},
-        {kHatch, "insert hatch", &Impl::ConvertActionInsertHatch},
+        {kInsertHatch, "insert hatch", &Impl::ConvertActionInsertHatch},
         // Colors of the host's screen elements; the element is the action's first datum.
         {{19, 23}, "element color", &Impl::ConvertActionElementColor},
         {{26, 32}, "element color", &Impl::ConvertActionElementColor},

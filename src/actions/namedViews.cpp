@@ -4,6 +4,7 @@
 #include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/StatementGroup.h"
+#include "frame/losses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/viewBackgrounds.h"
 #include "targets/sheets.h"
@@ -71,7 +72,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionNamedView(OdSmartPtr<CFxCustomA
     CFxString variable = takeVariable(text, HandedVariable::Replaced);
     const OdDbHandle& handle = action->GetData(0).GetHandle();
     if (!FindEntry(handle))
-        return kFxSuccess;
+        return PassOver(action, "the macro does not have the view");
     if (variable.isEmpty())
         text += Objects().EmitObjectVariable(handle, action->GetData(1).GetClass(), variable);
     const bool mayRename = action->GetData(2).GetBool();
@@ -103,7 +104,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionViewBackground(OdSmartPtr<CFxCu
     const CFxString& sheetName = action->GetData(4).GetString();
     const CFxString& name = action->GetData(5).GetString();
     if (!cls || !IsSupportedClass(cls->name()))
-        return kFxSuccess;
+        return PassOver(action, "objects of that class have no statements");
 
     if (isNew && view.isEmpty() && !FindEntry(handle)) {
         const ActionEntry entry = RegisterObject(handle, cls);

@@ -2,6 +2,7 @@
 
 #include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/blockAttributes.h"
@@ -11,6 +12,11 @@
 
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;
+
+static void loseObject(const OdRxClass* cls, const OdDbHandle& handle)
+{
+    NoteLoss(ObjectTitle(cls, handle), "objects of its class have no statements");
+}
 
 /// A note that a leader owns is reached through its leader, which also declares the note's variable. So the statement
 /// that fetches the note itself is dropped, and the leader's is not.
@@ -33,8 +39,10 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionErase(OdSmartPtr<CFxCustomActio
     for (std::size_t i = 0; i < objects.size(); ++i) {
         const OdRxClass* const cls = ClassAt(classes, i);
         CFxString second;
-        if (GetApiTypeName(cls, names[i], second) != kFxSuccess)
+        if (GetApiTypeName(cls, names[i], second) != kFxSuccess) {
+            loseObject(cls, objects[i]);
             continue;
+        }
         OdDbObjectId leader;
         if (cls == OdDbMText::desc())
             GetNoteLeader(leader, objects[i]);
@@ -55,7 +63,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionAttributeValue(OdSmartPtr<CFxCu
     ResolveVariable(action->GetData(0).GetHandle(), action->GetData(1).GetClass(), name);
     takeVariable(text, name.isEmpty() ? HandedVariable::Kept : HandedVariable::Replaced);
     if (name.isEmpty())
-        return kFxSuccess;
+        return PassOver(action, "the macro does not have the block");
     EmitGetLayer(writer, name);
     text =
         EmitBlockAttributeValue(writer, name, "Value", action->GetData(2).GetString(), action->GetData(3).GetString());
@@ -99,8 +107,10 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionExplode(OdSmartPtr<CFxCustomAct
         const OdRxClass* const cls = ClassAt(classes, i);
         CFxString type;
         CFxString second;
-        if (GetApiTypeName(cls, type, second) != kFxSuccess)
+        if (GetApiTypeName(cls, type, second) != kFxSuccess) {
+            loseObject(cls, objects[i]);
             continue;
+        }
         CFxString name;
         text += Objects().EmitObjectVariable(objects[i], cls, name);
         text += EmitExplode(writer, name);

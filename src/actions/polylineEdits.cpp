@@ -3,6 +3,7 @@
 #include "targets/polylineEdits.h"
 #include "actions/handedVariable.h"
 #include "actions/kinds.h"
+#include "frame/losses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/setters.h"
 #include "targets/hatches.h"
@@ -74,8 +75,10 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineJoin(OdSmartPtr<CFxCust
         const OdRxClass* const cls = ClassAt(classes, i);
         const auto joint = std::ranges::find_if(
             joints, [&](const Joint& candidate) { return cls && CFxString(cls->name()).equalNoCase(candidate.cls); });
-        if (joint == std::end(joints))
+        if (joint == std::end(joints)) {
+            NoteLoss(ObjectTitle(cls, objects[i]), "objects of its class are not joined with a polyline");
             continue;
+        }
         CFxString other;
         text += Objects().EmitObjectVariable(objects[i], cls, other);
         text += joint->statement(writer, polyline, other);
@@ -117,7 +120,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionPolyline(OdSmartPtr<CFxCustomAc
         return kFxFailure;
     NameInsertedObject(*action, name);
     if (name.isEmpty())
-        return kFxSuccess;
+        return PassOver(action, "the macro does not have the polyline");
     OdArray<OdGePoint2d> points;
     OdArray<double> bulges;
     for (unsigned i = 0; i < vertices.length(); ++i) {

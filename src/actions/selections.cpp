@@ -3,6 +3,7 @@
 #include "targets/selections.h"
 #include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/losses.h"
 #include "objects/classTable.h"
 #include "targets/selectionPrompts.h"
 
@@ -50,6 +51,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionSelectionFilter(OdSmartPtr<CFxC
         if (datum.GetType() == CFxCustomActionData::kString) {
             if (const ClassRow* const row = FindClassOfInterface(datum.GetString()))
                 typeNames.emplace_back(row->enumerator);
+            else
+                NoteLoss("selection filter for " + datum.GetString().toQString(), "the interface has no such type");
         } else if (datum.GetType() == CFxCustomActionData::kInt) {
             mode = datum.GetInt();
         } else if (datum.GetType() == CFxCustomActionData::kPointArray) {

@@ -3,6 +3,7 @@
 #include "actions/handedVariable.h"
 #include "actions/optionTable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/losses.h"
 #include "objects/targets/sheetProperties.h"
 #include "targets/customActions.h"
 #include "targets/options.h"
@@ -33,7 +34,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionOptionValue(OdSmartPtr<CFxCusto
 
     // Without an option there is nothing to say, and the value need not be there.
     if (!inDocument && !inApplication)
-        return kFxSuccess;
+        return PassOver(action, "the interface has no option for " + variable.toQString());
     const CFxCustomActionData& value = action->GetData(1);
     if (inDocument) {
         if (documentKind == static_cast<std::int32_t>(OptionKind::Int16))

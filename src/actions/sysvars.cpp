@@ -2,7 +2,7 @@
 
 #include "actions/optionTable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
-#include "host/kernel/CFxServices.h"
+#include "frame/losses.h"
 #include "targets/options.h"
 #include "targets/wording.h"
 
@@ -101,5 +101,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertSysVar(OdSmartPtr<CFxSysVarChanged> v
         text = commandOption(writer, *variable, option, static_cast<OptionKind>(kind), *value);
     else if (FindApplicationOption(variable->GetName(), option, kind) == kFxSuccess)
         text += applicationOption(writer, option, static_cast<OptionKind>(kind), *value);
+    else
+        NoteLoss(ActionTitle(variable.get()), "the interface has no option for it");
     return kFxSuccess;
 }

@@ -3,7 +3,7 @@
 #include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/StatementGroup.h"
-#include "host/kernel/CFxServices.h"
+#include "frame/losses.h"
 #include "targets/fillets.h"
 #include "targets/trim.h"
 #include "targets/variables.h"
@@ -98,8 +98,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionChamfer(OdSmartPtr<CFxCustomAct
 }
 
 /// All corners of a polyline at once: the interface has no operation for it, so the macro does not say it.
-std::int32_t CFxConverterIWAPIImpl::ConvertActionCornersOfPolyline(OdSmartPtr<CFxCustomAction>, QString& text)
+std::int32_t CFxConverterIWAPIImpl::ConvertActionCornersOfPolyline(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
     takeVariable(text, HandedVariable::Replaced);
-    return kFxSuccess;
+    return PassOver(action, "the interface has no operation for all corners of a polyline");
 }

@@ -84,7 +84,10 @@ struct RawArguments
     std::string handle;
     std::string hostCommand;
     std::optional<int> recordingLanguage;
+    std::string report;
+    std::string schemaOf = "recording";
     bool replay = false;
+    bool quiet = false;
     bool repair = false;
     bool json = false;
     bool version = false;
@@ -108,7 +111,7 @@ CommandLine::Command commandOf(const CLI::App& app, const RawArguments& raw)
     if (name == "faults")
         return CommandLine::Command::Faults;
     if (name == "schema")
-        return CommandLine::Command::Schema;
+        return raw.schemaOf == "report" ? CommandLine::Command::ReportSchema : CommandLine::Command::RecordingSchema;
     return name == "system-variables" ? CommandLine::Command::SystemVariables : CommandLine::Command::Help;
 }
 
@@ -146,6 +149,9 @@ void declareArguments(CLI::App& app, RawArguments& raw)
     convert->add_option("--target", raw.targets)->required();
     convert->add_option("--output", raw.output);
     convert->add_flag("--replay", raw.replay);
+    // A flag with a value takes no argument behind it, which may be a file.
+    convert->add_flag("--report{json}", raw.report)->check(CLI::IsMember({"json", "text"}));
+    convert->add_flag("--quiet", raw.quiet);
     convert->add_flag("--repair", raw.repair);
     convert->add_option("--recording-language", raw.recordingLanguage)->check(CLI::Range(0, 5));
     convert->add_option("--install-dir", raw.installDir);
@@ -163,7 +169,7 @@ void declareArguments(CLI::App& app, RawArguments& raw)
     run->add_option("FILE", raw.files)->required()->expected(1);
     run->add_option("--command", raw.hostCommand)->required();
     run->add_option("--output", raw.output);
-    app.add_subcommand("schema");
+    app.add_subcommand("schema")->add_option("WHAT", raw.schemaOf)->check(CLI::IsMember({"recording", "report"}));
     app.add_subcommand("system-variables");
     app.add_subcommand("faults");
 }
@@ -211,6 +217,9 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
     line.files = decodeNames(raw.files);
     checkFiles(line.files);
     line.json = raw.json;
+    line.telling.quiet = raw.quiet;
+    if (!raw.report.empty())
+        line.telling.report = raw.report == "text" ? ReportForm::Text : ReportForm::Json;
     if (line.command == CommandLine::Command::Convert)
         line.targets = parseTargets(decodeName(raw.targets));
     if (line.command == CommandLine::Command::Snapshot)
@@ -258,12 +267,12 @@ Usage:
   inkmacro convert FILE... --target TARGET[,TARGET...]|all [--output PATH]
                    [--replay] [--repair] [--recording-language N]
                    [--install-dir DIR] [--option-names FILE]
-                   [--line-styles DIR]
+                   [--line-styles DIR] [--report[=text]] [--quiet]
   inkmacro inspect FILE [--json]
   inkmacro check FILE...
   inkmacro snapshot FILE --handle H [--json]
   inkmacro run FILE --command NAME [--output FILE]
-  inkmacro schema
+  inkmacro schema [recording|report]
   inkmacro system-variables
   inkmacro faults
   inkmacro --version | --help
@@ -280,7 +289,8 @@ Commands:
   run      run a command of the macro writer on the drawing of a recording:
            -HYPERLINK or -LINESTYLE, with or without a leading underscore, in
            any case
-  schema   print the JSON Schema of one line of a recording
+  schema   print the JSON Schema of one line of a recording, or of the report of
+           convert
   system-variables
            print, as a page in Markdown, the system variables that convert
   faults   print, as a page in Markdown, the known faults of macros that are
@@ -328,6 +338,13 @@ Options of convert:
       style from the first of them that holds it, those of the folders that
       the recording names coming behind. A style without a file is loaded
       under an empty file name, which is reported.
+  --report[=text]
+      Print in place of the paths, as one JSON document, what each macro lacks
+      of what the user did, with its place in the recording, and where macro and
+      project are rejected or misread by their own language or host, with the
+      line and whether --repair mends it. With =text as tables for a person.
+  --quiet
+      Do not count on standard error what a macro lacks and its faults.
 
 Run asks on standard output, a line a prompt, and takes a line of standard
 input as the answer; at a terminal it can be edited, and Tab completes it. An
@@ -339,7 +356,8 @@ replaces FILE, or is written to the file of --output; else nothing is written.
 
 Several files or targets are converted side by side; one that fails does not
 stop the others. Standard output holds the paths written, one a line, the macro
-before its project; messages go to standard error.
+before its project; messages go to standard error, and so does a line like
+"walls.cs: 3 steps lost, 2 faults; see --report" for each macro that has any.
 
 Exit status:
   0  all was done

@@ -33,6 +33,21 @@ struct HostSettings
     QStringList arguments() const;
 };
 
+/// In which form `convert` prints what its macros lack and where they are faulty, in place of the list of files.
+enum class ReportForm
+{
+    None,
+    Json,
+    Text
+};
+
+/// What `convert` says of its macros.
+struct Telling
+{
+    ReportForm report = ReportForm::None;
+    bool quiet = false; ///< no counts on standard error
+};
+
 struct CommandLine
 {
     enum class Command
@@ -42,7 +57,8 @@ struct CommandLine
         Run,
         Check,
         Snapshot,
-        Schema,
+        RecordingSchema,
+        ReportSchema,
         SystemVariables,
         Faults,
         Version,
@@ -54,6 +70,7 @@ struct CommandLine
     std::vector<const TargetRow*> targets; ///< each once, in the order asked for
     std::optional<QString> output;
     HostSettings host;
+    Telling telling;
     OdDbHandle handle;   ///< of the object whose snapshot is shown
     QString hostCommand; ///< the name of the command that is run
     bool json = false;

@@ -9,6 +9,7 @@
 #include "app/console.h"
 #include "app/earlyEnd.h"
 #include "app/reading.h"
+#include "app/report.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxRegistry.h"
 #include "host/kernel/CFxServices.h"
@@ -80,7 +81,8 @@ bool complainOfIncompleteFiles(const Job& job)
     return !incomplete.empty();
 }
 
-int convertRead(const Job& job, const Recording& recording, const HostSettings& host)
+/// Places the files and gives their paths, or complains and gives none.
+QStringList convertRead(const Job& job, const Recording& recording, const HostSettings& host)
 {
     StagedResult result(job.files());
     const std::int32_t status = runModule(job, result.firstFile(), recording, host);
@@ -91,22 +93,14 @@ int convertRead(const Job& job, const Recording& recording, const HostSettings& 
                      .arg(targetName(*job.target))
                      .arg(status)
                      .arg(failedFile(job, result)));
-        return kFailed;
+        return {};
     }
-    if (complainOfIncompleteFiles(job))
-        return kFailed;
-    for (const QString& file : result.place())
-        printOut(file + '\n');
-    return kDone;
+    return complainOfIncompleteFiles(job) ? QStringList() : result.place();
 }
 
-} // namespace
-
-int convertOne(const Job& job, const HostSettings& host)
+/// Gives an exit status.
+int convertOrComplain(const Job& job, const HostSettings& host, Recording& recording, QStringList& placed)
 {
-    nameWork(QString("converting %1 to %2").arg(job.input, targetName(*job.target)));
-    // Never destroyed: the end of the process gives the memory back at once, record by record it takes a while.
-    static Recording& recording = *new Recording;
     if (!readOrComplain(job.input, recording))
         return kUnreadable;
     if (const QString refusal = refusalOf(job.files()); !refusal.isEmpty()) {
@@ -114,7 +108,8 @@ int convertOne(const Job& job, const HostSettings& host)
         return kFailed;
     }
     try {
-        return convertRead(job, recording, host);
+        placed = convertRead(job, recording, host);
+        return placed.isEmpty() ? kFailed : kDone;
     } catch (const PlacingError& error) {
         complain(error.message());
     } catch (const std::bad_alloc&) {
@@ -124,6 +119,29 @@ int convertOne(const Job& job, const HostSettings& host)
                      .arg(targetName(*job.target), QString::fromUtf8(error.what()), job.macro));
     }
     return kFailed;
+}
+
+} // namespace
+
+int convertOne(const Job& job, const HostSettings& host, const Telling& telling)
+{
+    nameWork(QString("converting %1 to %2").arg(job.input, targetName(*job.target)));
+    // Never destroyed: the end of the process gives the memory back at once, record by record it takes a while.
+    static Recording& recording = *new Recording;
+    QStringList placed;
+    const int status = convertOrComplain(job, host, recording, placed);
+    QJsonObject report = reportOf(job, status);
+    addNotes(report, GetFxSystemServices()->Notes(), recording);
+
+    const bool asked = telling.report != ReportForm::None;
+    if (const QString counts = countText(report); status == kDone && !telling.quiet && !counts.isEmpty())
+        printError((job.macro + ": " + counts + (asked ? "\n" : "; see --report\n")).toLocal8Bit());
+    if (asked)
+        printReport({report}, telling.report);
+    else
+        for (const QString& file : placed)
+            printOut(file + '\n');
+    return status;
 }
 
 } // namespace inkmacro

@@ -6,6 +6,6 @@ namespace inkmacro {
 
 /// Does one job in this process, which can do no more than one: the module keeps state for the whole process.
 /// Gives an exit status.
-int convertOne(const Job& job, const HostSettings& host);
+int convertOne(const Job& job, const HostSettings& host, const Telling& telling);
 
 } // namespace inkmacro

@@ -11,6 +11,7 @@
 #include "app/optionNames.h"
 #include "app/processes.h"
 #include "app/reading.h"
+#include "app/report.h"
 #include "app/runCommand.h"
 #include "app/snapshot.h"
 #include "app/systemVariables.h"
@@ -27,7 +28,8 @@ int convert(const CommandLine& line)
     const std::vector<Job> jobs = planJobs(line);
     if (line.host.optionNames && !readOptionNamesOrComplain(*line.host.optionNames))
         return kUnreadable;
-    return jobs.size() == 1 ? convertOne(jobs.front(), line.host) : convertInProcesses(jobs, line.host);
+    return jobs.size() == 1 ? convertOne(jobs.front(), line.host, line.telling)
+                            : convertInProcesses(jobs, line.host, line.telling);
 }
 
 int run(const CommandLine& line)
@@ -43,8 +45,11 @@ int run(const CommandLine& line)
         return checkRecordings(line.files);
     case CommandLine::Command::Snapshot:
         return showSnapshot(line.files.front(), line.handle, line.json);
-    case CommandLine::Command::Schema:
+    case CommandLine::Command::RecordingSchema:
         printOut(RecordingSchema());
+        break;
+    case CommandLine::Command::ReportSchema:
+        printOut(reportSchema());
         break;
     case CommandLine::Command::SystemVariables:
         printOut(systemVariablesPage());

@@ -7,6 +7,7 @@
 #include "app/StagedResult.h"
 #include "app/console.h"
 #include "app/earlyEnd.h"
+#include "app/report.h"
 #include "recordfile/RecordingReader.h"
 
 #include <QCoreApplication>
@@ -64,7 +65,7 @@ int lackOfDescriptors()
 class JobRunner final : private EarlyEnd
 {
 public:
-    JobRunner(const std::vector<Job>& jobs, const HostSettings& host);
+    JobRunner(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling);
     ~JobRunner() { endWatch(); }
 
     int run();
@@ -78,7 +79,7 @@ private:
         QByteArray messages;
         bool begun = false;
         bool done = false;
-        bool unreadable = false;
+        int status = kDone;
     };
 
     /// Standard input can be read once, so it is kept for all who want it.
@@ -94,11 +95,14 @@ private:
     std::unique_ptr<JobProcess, void (*)(JobProcess*)> release(State& state);
     void finish(std::size_t number, int status);
     void passOn();
+    void passOn(std::size_t number);
     void endEarly(int signal) noexcept override;
 
     const std::vector<Job>& jobs_;
     const HostSettings& host_;
+    const Telling& telling_;
     std::vector<State> states_;
+    QJsonArray reports_; ///< of the jobs passed on
     QTemporaryFile standardInput_;
     QEventLoop loop_;
     std::size_t next_ = 0; ///< all jobs in front of it have begun
@@ -110,8 +114,8 @@ private:
     ProgressLine progress_;
 };
 
-JobRunner::JobRunner(const std::vector<Job>& jobs, const HostSettings& host)
-    : jobs_(jobs), host_(host), states_(jobs.size()), progress_([this] {
+JobRunner::JobRunner(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling)
+    : jobs_(jobs), host_(host), telling_(telling), states_(jobs.size()), progress_([this] {
           const auto total = static_cast<int>(jobs_.size());
           return progressBar(doneCount_, total) + QString("  %1 of %2 done").arg(doneCount_).arg(total);
       })
@@ -132,6 +136,8 @@ int JobRunner::run()
     if (passedOn_ < jobs_.size())
         loop_.exec();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (telling_.report != ReportForm::None)
+        progress_.aside([this] { printReport(reports_, telling_.report); });
     return status_;
 }
 
@@ -216,6 +222,10 @@ QStringList JobRunner::argumentsOf(const Job& job) const
 {
     QStringList arguments{"convert", "--target=" + targetName(*job.target), "--output=" + job.macro};
     arguments += host_.arguments();
+    if (telling_.report != ReportForm::None)
+        arguments.append("--report");
+    if (telling_.quiet)
+        arguments.append("--quiet");
     return arguments << "--" << job.input;
 }
 
@@ -270,7 +280,7 @@ void JobRunner::finish(std::size_t number, int status)
 {
     states_[number].begun = true;
     states_[number].done = true;
-    states_[number].unreadable = status == kUnreadable;
+    states_[number].status = status;
     status_ = std::max(status_, status);
     ++doneCount_;
     passOn();
@@ -279,23 +289,33 @@ void JobRunner::finish(std::size_t number, int status)
 void JobRunner::passOn()
 {
     progress_.aside([this] {
-        for (; passedOn_ < states_.size() && states_[passedOn_].done; ++passedOn_) {
-            State& state = states_[passedOn_];
-            QByteArray messages = std::exchange(state.messages, {});
-            if (state.unreadable) {
-                // What is wrong with a recording is said once, not once for each target.
-                const std::pair complaint(jobs_[passedOn_].input, messages);
-                if (complaint == lastComplaint_)
-                    messages.clear();
-                else
-                    lastComplaint_ = complaint;
-            }
-            printError(messages);
-            printOut(std::exchange(state.output, {}));
-        }
+        for (; passedOn_ < states_.size() && states_[passedOn_].done; ++passedOn_)
+            passOn(passedOn_);
     });
     if (passedOn_ == states_.size())
         loop_.quit();
+}
+
+void JobRunner::passOn(std::size_t number)
+{
+    State& state = states_[number];
+    QByteArray messages = std::exchange(state.messages, {});
+    if (state.status == kUnreadable) {
+        // What is wrong with a recording is said once, not once for each target.
+        const std::pair complaint(jobs_[number].input, messages);
+        if (complaint == lastComplaint_)
+            messages.clear();
+        else
+            lastComplaint_ = complaint;
+    }
+    printError(messages);
+    const QByteArray output = std::exchange(state.output, {});
+    if (telling_.report == ReportForm::None) {
+        printOut(output);
+        return;
+    }
+    const QJsonObject report = reportFrom(output);
+    reports_.append(report.isEmpty() ? reportOf(jobs_[number], state.status) : report);
 }
 
 void JobRunner::endEarly(int signal) noexcept
@@ -310,9 +330,9 @@ void JobRunner::endEarly(int signal) noexcept
 
 } // namespace
 
-int convertInProcesses(const std::vector<Job>& jobs, const HostSettings& host)
+int convertInProcesses(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling)
 {
-    return JobRunner(jobs, host).run();
+    return JobRunner(jobs, host, telling).run();
 }
 
 } // namespace inkmacro

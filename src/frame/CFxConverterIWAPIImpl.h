@@ -10,6 +10,7 @@
 #include <map>
 #include <set>
 
+class ActionKinds;
 class CFxConverterIWAPIObject;
 class StatementGroup;
 struct CornerSide;
@@ -111,6 +112,10 @@ public:
     const ActionEntry* FindEntry(const OdDbHandle& handle) const;
     /// The name that a declaration gives the entry; empty for a class outside the type table. Looks nothing up.
     CFxString DeclaredName(const ActionEntry& entry) const;
+    /// Whether a custom action of that kind stands in the same command as what is being converted.
+    bool HasSibling(std::int32_t kind) const;
+    /// The same of a block definition that is added or changed.
+    bool HasSiblingBlock() const;
     /// The next ordinal, noted under the handle. An object that is met again under its handle gets a new variable.
     ActionEntry RegisterObject(const OdDbHandle& handle, const OdRxClass* cls);
 
@@ -130,8 +135,8 @@ public:
     Writer writer;
     /// Variables of the hatches that custom actions have inserted.
     std::set<QString> insertedHatches;
-    /// Added objects of the present command that its custom actions insert.
-    std::set<OdDbHandle> madeByActions;
+    /// The last added object that a custom action finishes: it gets what they make in its command.
+    OdDbHandle lastFinished;
     /// Added objects that no statement inserts: their variables have no value.
     std::set<OdDbHandle> unmade;
     /// Whether the variable of an unmade object was asked for; set back for each statement.
@@ -148,10 +153,17 @@ private:
 
     std::int32_t ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action);
     void RegisterChildren(const CFxActionArray& children, CommandState& state);
-    void FindMadeByActions(const CFxActionArray& children, const CommandState& state);
     void DeclareChildren(CommandState& state);
     QString Declarations(const CommandState& state) const;
     void ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group);
+    /// False when the child failed.
+    bool ConvertChild(const OdRxObjectPtr& child, unsigned number, CommandState& state, StatementGroup& group);
+    void LoseBehind(const CFxActionArray& children, unsigned failed);
+    /// ConvertAction, with a note of an action that fails.
+    std::int32_t ConvertOrLose(const OdRxObjectPtr& action, QString& text);
+    bool IsWanted(const CFxSysVarChanged& variable) const;
+    /// Whether it is by rule that nothing is written for the action.
+    bool IsPassedOver(const OdRxObject* action) const;
     std::int32_t ConvertFileLocation(const FileObject& files, const CFxCustomAction& action, QString& text);
     std::int32_t ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text);
     CFxConverterIWAPIObject& Objects() const;
@@ -171,6 +183,7 @@ private:
     void ConvertGroupChange(const CFxCustomAction& action, EmitGroupChange change, QString& text);
 
     std::uint32_t mode;
+    const ActionKinds* siblings = nullptr; ///< of the action that is being converted
     std::shared_ptr<CFxConverterIWAPIObject> objectConverter;
     std::map<OdDbHandle, ActionEntry> ObjectVariableMap;
     CFxValueContext context = 0;

@@ -3,16 +3,14 @@
 #include "actions/kinds.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/StatementGroup.h"
+#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
-#include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
 #include "targets/variables.h"
 
+#include <QScopedValueRollback>
 #include <QStringList>
-
-#include <algorithm>
-#include <map>
 
 using inkmacro::Fault;
 using inkmacro::Target;
@@ -32,18 +30,6 @@ bool isFinishedByCustomAction(const OdRxClass* cls)
 {
     const ClassRow* const row = FindClass(cls);
     return row && row->has(kFinishedByCustomAction);
-}
-
-/// The custom action that makes objects of the class, where their reader does not; -1 for other classes.
-std::int32_t makingKind(const OdRxClass* cls)
-{
-    static const std::map<const OdRxClass*, std::int32_t> kinds{{OdDbRegion::desc(), inkmacro::kRegion},
-                                                                {OdDbOle2Frame::desc(), inkmacro::kEmbeddedObject},
-                                                                {OdDbPolyline::desc(), inkmacro::kPolyline},
-                                                                {OdDbHatch::desc(), inkmacro::kHatch},
-                                                                {OdDbViewTableRecord::desc(), inkmacro::kNamedView}};
-    const auto found = kinds.find(cls);
-    return found == kinds.end() ? -1 : found->second;
 }
 
 /// A style that loads a file of shapes. The host's own file of line type shapes does not count.
@@ -79,6 +65,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
     RegisterChildren(children, state);
     DeclareChildren(state);
     StatementGroup group(writer);
+    const ActionKinds kinds(children);
+    const QScopedValueRollback<const ActionKinds*> beside(siblings, &kinds);
 
     // Where locals are seen behind their command, numbers that begin anew make some of them twice.
     const std::uint32_t outerCounter = writer.UniqueCounter;
@@ -125,27 +113,8 @@ void CFxConverterIWAPIImpl::RegisterChildren(const CFxActionArray& children, Com
         }
         state.added.push_back(RegisterObject(added->GetHandle(), cls));
         state.handles.push_back(added->GetHandle());
-    }
-    FindMadeByActions(children, state);
-}
-
-/// The last object that custom actions finish gets what they make. View tiles are told by their handles.
-void CFxConverterIWAPIImpl::FindMadeByActions(const CFxActionArray& children, const CommandState& state)
-{
-    madeByActions.clear();
-    const auto last = std::find_if(state.added.rbegin(), state.added.rend(), [](const ActionEntry& entry) {
-        return isFinishedByCustomAction(entry.cls);
-    });
-    for (const OdRxObjectPtr& child : children) {
-        const auto custom = odrxQuery<CFxCustomAction>(child.get());
-        if (!custom)
-            continue;
-        if (last != state.added.rend() && custom->GetKind() == makingKind(last->cls))
-            madeByActions.insert(state.handles[static_cast<std::size_t>(state.added.rend() - last) - 1]);
-        if (custom->GetKind() == inkmacro::kViewTiles && inkmacro::FormOf(*custom)) {
-            const std::vector<OdDbHandle>& tiles = custom->GetData(2).GetHandleArray();
-            madeByActions.insert(tiles.begin(), tiles.end());
-        }
+        if (isFinishedByCustomAction(cls))
+            lastFinished = added->GetHandle();
     }
 }
 
@@ -173,31 +142,62 @@ QString CFxConverterIWAPIImpl::Declarations(const CommandState& state) const
 
 void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group)
 {
-    for (const OdRxObjectPtr& child : children) {
-        QString current;
-        if (const auto custom = odrxQuery<CFxCustomAction>(child.get())) {
-            const std::int32_t kind = custom->GetKind();
-            if (!state.names.empty())
-                current = state.names.back();
-            if (kind == inkmacro::kViewBackground) {
-                // Backgrounds and objects pair up in order; a surplus background stays with the last object.
-                if (state.names.size() > 1 && state.nextName < state.names.size())
-                    current = state.names[state.nextName++];
-                state.unnamedTarget = current.isEmpty();
-            }
-            if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport)
-                group.abandon();
+    for (unsigned i = 0; i < children.length(); ++i)
+        if (!ConvertChild(children[i], i, state, group))
+            return LoseBehind(children, i);
+}
+
+bool CFxConverterIWAPIImpl::ConvertChild(const OdRxObjectPtr& child, unsigned number, CommandState& state,
+                                         StatementGroup& group)
+{
+    const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), number);
+    QString current;
+    if (const auto custom = odrxQuery<CFxCustomAction>(child.get())) {
+        const std::int32_t kind = custom->GetKind();
+        if (!state.names.empty())
+            current = state.names.back();
+        if (kind == inkmacro::kViewBackground) {
+            // Backgrounds and objects pair up in order; a surplus background stays with the last object.
+            if (state.names.size() > 1 && state.nextName < state.names.size())
+                current = state.names[state.nextName++];
+            state.unnamedTarget = current.isEmpty();
         }
-        usesUnmade = false;
-        if (ConvertAction(child, current) != kFxSuccess)
-            return;
-        if (usesUnmade)
-            current = writer.faulty(current, kUnmade);
-        if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
-            state.shapeStyle = true;
-        if (!current.isEmpty()) {
-            state.allEmpty = false;
-            state.statements.append(current);
-        }
+        if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport)
+            group.abandon();
     }
+    usesUnmade = false;
+    if (ConvertOrLose(child, current) != kFxSuccess)
+        return false;
+    if (usesUnmade)
+        current = writer.faulty(current, kUnmade);
+    if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
+        state.shapeStyle = true;
+    if (!current.isEmpty()) {
+        state.allEmpty = false;
+        state.statements.append(current);
+    }
+    return true;
+}
+
+/// Notes the children that a failed one takes along, as far as they would have had statements.
+void CFxConverterIWAPIImpl::LoseBehind(const CFxActionArray& children, unsigned failed)
+{
+    const CFxString reason(QString("action %1 of its command could not be converted").arg(failed + 1));
+    for (unsigned i = failed + 1; i < children.length(); ++i) {
+        const OdRxObject* const child = children[i].get();
+        const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
+        if (!IsPassedOver(child))
+            NoteLoss(ActionTitle(child), reason);
+    }
+}
+
+bool CFxConverterIWAPIImpl::IsPassedOver(const OdRxObject* action) const
+{
+    if (const auto variable = odrxQuery<CFxSysVarChanged>(action))
+        return !IsWanted(*variable);
+    if (odrxQuery<CFxUserInteraction>(action) || odrxQuery<CFxUserSelection>(action))
+        return mode != 1;
+    // A leader brings its note.
+    const auto added = odrxQuery<CFxObjectAdded>(action);
+    return added && added->GetObjectClass() == OdDbMText::desc() && !FindEntry(added->GetHandle());
 }

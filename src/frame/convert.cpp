@@ -2,7 +2,7 @@
 
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
-#include "host/kernel/CFxServices.h"
+#include "frame/losses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "targets/quoting.h"
 #include "targets/variables.h"
@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -27,9 +28,10 @@ bool wantsByteOrderMark()
     return (RecordingLanguage() & ~4) == 0;
 }
 
-/// Of what is thrown below the user hears only that a text outgrew every bound; else the status is all.
-std::int32_t failed(const OdError& error)
+/// Of what is thrown below the user hears at once only that a text outgrew every bound.
+std::int32_t failed(const OdRxObjectPtr& action, const OdError& error)
 {
+    NoteLoss(ActionTitle(action.get()), error.what());
     if (error.code() == eTextTooLong)
         GetFxSystemServices()->ReportProblem(QString(error.what()));
     return kFxFailure;
@@ -51,6 +53,7 @@ CFxConverterIWAPIImpl::~CFxConverterIWAPIImpl() = default;
 
 std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActionArray& actions)
 {
+    GetFxSystemServices()->Notes().Forget();
     const QDir directory(QFileInfo(path).path());
     if (!directory.exists() && !directory.mkpath("."))
         return kFxFailure;
@@ -71,12 +74,17 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     RecordingInModel = true;
 
     std::int32_t status = kFxSuccess;
-    for (unsigned i = 0; i < actions.length() && status == kFxSuccess; ++i)
+    const ActionKinds kinds(actions);
+    const QScopedValueRollback<const ActionKinds*> beside(siblings, &kinds);
+    for (unsigned i = 0; i < actions.length() && status == kFxSuccess; ++i) {
+        const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
         if (actions[i])
             status = ConvertTopLevel(stream, actions[i]);
+    }
 
     // Written after a failure too, when the level may be out of balance: nobody reads that text.
     writer.write(stream, EmitFileFooter());
+    writer.finish(stream);
     stream.flush();
     bool written = stream.status() == QTextStream::Ok && file.error() == QFileDevice::NoError;
     // Some file systems tell only who closes a file that it was not written. A close that goes well forgets the rest.
@@ -110,7 +118,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const O
             const OdResBufPtr line = command->GetCommand();
             return ConvertCommand(stream, line ? line->getString() : OdString(), command->GetActions());
         } catch (const OdError& error) {
-            return failed(error);
+            return failed(action, error);
         }
     }
     if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
@@ -118,10 +126,34 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const O
                      EmitVariableDeclaration(writer, RegisterObject(added->GetHandle(), added->GetObjectClass())));
 
     QString text;
-    const std::int32_t status = ConvertAction(action, text);
+    const std::int32_t status = ConvertOrLose(action, text);
     if (status == kFxSuccess)
         writer.write(stream, text);
     return status;
+}
+
+std::int32_t CFxConverterIWAPIImpl::ConvertOrLose(const OdRxObjectPtr& action, QString& text)
+{
+    const LossWatch losses;
+    const std::int32_t status = ConvertAction(action, text);
+    if (status != kFxSuccess && !losses.any())
+        NoteLoss(ActionTitle(action.get()), "it could not be converted");
+    return status;
+}
+
+bool CFxConverterIWAPIImpl::IsWanted(const CFxSysVarChanged& variable) const
+{
+    return mode == 1 || variable.GetName().equalNoCase("CVPORT");
+}
+
+bool CFxConverterIWAPIImpl::HasSibling(std::int32_t kind) const
+{
+    return siblings && siblings->has(kind);
+}
+
+bool CFxConverterIWAPIImpl::HasSiblingBlock() const
+{
+    return siblings && siblings->hasBlock();
 }
 
 std::int32_t CFxConverterIWAPIImpl::ConvertAction(OdRxObjectPtr action, QString& text)
@@ -134,10 +166,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertAction(OdRxObjectPtr action, QString&
             return Objects().ConvertObjectAdded(std::move(added), text);
         if (const auto modified = odrxQuery<CFxObjectModified>(object))
             return ConvertModified(modified, text);
-        if (auto variable = odrxQuery<CFxSysVarChanged>(object)) {
-            const bool wanted = mode == 1 || variable->GetName().equalNoCase("CVPORT");
-            return wanted ? ConvertSysVar(std::move(variable), text) : kFxSuccess;
-        }
+        if (auto variable = odrxQuery<CFxSysVarChanged>(object))
+            return IsWanted(*variable) ? ConvertSysVar(std::move(variable), text) : kFxSuccess;
         if (auto property = odrxQuery<CFxPropertyChanged>(object))
             return Objects().ConvertPropertyChanged(std::move(property), text);
         if (auto selection = odrxQuery<CFxUserSelection>(object))
@@ -145,7 +175,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertAction(OdRxObjectPtr action, QString&
         if (auto custom = odrxQuery<CFxCustomAction>(object))
             return ConvertCustomAction(std::move(custom), text);
     } catch (const OdError& error) {
-        return failed(error);
+        return failed(action, error);
     }
     return kFxFailure;
 }

@@ -46,6 +46,17 @@ public:
         return value.IsNull() ? whenMissing : value.GetDouble();
     }
 
+    /// What no reader has taken yet.
+    const PropertyList& rest() const { return list_; }
+    CFxVariant valueOf(const CFxPropertyChanged& record) const { return record.GetValue(context_); }
+
+    /// Says that the object does not come into the macro; gives the statement that there is none.
+    QString lost(const char* reason) const
+    {
+        converter.LoseObject(reason);
+        return {};
+    }
+
     const PropertyList& consumed() const { return consumed_; }
 
 private:

@@ -15,6 +15,7 @@
 struct BlockContents;
 class ChangeGroups;
 class CFxConverterIWAPIImpl;
+class OdDbPolyline;
 class StatementGroup;
 class Writer;
 struct BoundaryObject;
@@ -106,6 +107,15 @@ public:
     OdGePoint3d FindPoint(const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag, PropertyList& list,
                           CFxValueContext valueContext, PropertyList* consumed = nullptr);
 
+    // What the macro does not do, for the notes of the conversion: losses.cpp.
+
+    /// The object that is being converted.
+    void LoseObject(const char* reason) const;
+    /// One of its properties.
+    void LoseProperty(const QString& tag, const QString& reason) const;
+    /// The arcs of an added polyline, which none but a custom action tells.
+    void LoseArcs(const OdDbPolyline& polyline) const;
+
     // What statements reach an object by: variables.cpp.
 
     /// The object's variable without a statement. One that the recording has not made gets a new name each time, which
@@ -153,10 +163,20 @@ private:
     /// The group of block attributes, in the host's display language.
     const QString& BlockAttributes();
 
+    /// An added note that its leader should bring, when the macro does not have the leader.
+    void LoseNoteWithoutLeader(const OdRxClass* cls, const OdDbHandle& handle) const;
+    /// The properties that nothing has taken out of the list.
+    void LoseRest(const PropertyList& list, bool fromAdded, const CFxString& name);
+    /// Whether custom actions, or the block of its command, make the object.
+    bool IsMadeByAction(const OdRxClass* cls, const OdDbHandle& handle) const;
+    /// An added object that is made by a custom action, when there is none, and else the general properties of one that
+    /// no statement was written for.
+    void LoseUnmade(PropertyList& rest, bool written);
+
     // Steps of ConvertObjectChanges.
     bool AddressChangedObject(const OdRxClass* cls, const OdDbHandle& handle, const OdDbObjectId& noteLeader,
                               const PropertyList& list, CFxString& name, QString& text);
-    void ConvertClassChanges(const ClassRow& row, PropertyList& list, bool fromAdded, const CFxString& name,
+    void ConvertClassChanges(const ClassRow& row, PropertyList& list, bool takeOnly, const CFxString& name,
                              QString& text);
     QString ConvertErased(const OdRxClass* cls, const OdDbHandle& handle, const CFxString& name,
                           const CFxVariant& erased);
@@ -172,7 +192,9 @@ private:
 
     /// What the variables of converted objects are named by.
     std::unordered_map<OdDbHandle, ActionEntry, OdDbHandleHash> addedVariableById;
-    OdDbHandle changedHandle; ///< of the object whose changes are being converted
+    // The object that is being converted.
+    const OdRxClass* changedClass = nullptr;
+    OdDbHandle changedHandle;
     // What tables were made and changed to so far, by their variables.
     std::map<CFxString, std::int32_t> tableRowCounts;
     std::map<CFxString, std::int32_t> tableColumnCounts;

@@ -71,10 +71,16 @@ void CFxConverterIWAPIObject::ConvertRows(const ChangeGroups& groups, PropertyLi
                 if (takeOnly || (value.IsNull() && second.IsNull()))
                     continue;
                 const std::int32_t index = !row.kind.indexed || number.IsNull() ? -1 : number.GetInt32();
-                if (row.kind.indexed && index == -1)
+                if (row.kind.indexed && index == -1) {
+                    LoseProperty(row.tag.text(), "its number is not recorded");
                     continue;
+                }
                 const CFxString target = objects.variable(part.on, text);
-                text += row.kind.statement({writer, row, target, value, second, index, number, IdOf(changedHandle)});
+                const QString statement =
+                    row.kind.statement({writer, row, target, value, second, index, number, IdOf(changedHandle)});
+                if (statement.isEmpty() && !row.kind.maySayNothing)
+                    LoseProperty(row.tag.text(), "the target has no statement that sets it so");
+                text += statement;
                 if (part.on && part.on->writtenBack)
                     text += EmitSetOptions(writer, *part.on, objects.variable(part.on->owner, text), target);
             }

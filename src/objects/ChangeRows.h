@@ -36,6 +36,8 @@ struct ChangeKind
     const inkmacro::ValueEnumeration* byValue = nullptr;
     const char* suffix = nullptr;    ///< the enumerator of a kind that always writes the same one
     const char* secondTag = nullptr; ///< a tag that goes into the same statement: either of the two calls for it
+    /// A value may call for no statement, as the "No" of one of several marks.
+    bool maySayNothing = false;
 };
 
 /// One tag and what it becomes.

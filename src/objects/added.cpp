@@ -1,6 +1,7 @@
 // Added objects: the frame around the readers.
 
 #include "frame/CFxConverterIWAPIImpl.h"
+#include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/classTable.h"
 
@@ -30,9 +31,13 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
     if (!cls)
         return kFxFailure;
     const ActionEntry* const entry = driver.FindEntry(handle);
-    if (!entry)
+    if (!entry) {
+        LoseNoteWithoutLeader(cls, handle);
         return kFxSuccess;
+    }
 
+    changedClass = cls;
+    changedHandle = handle;
     const OdDbObjectId id = IdOf(handle);
     const CFxString name = ObjectVariableName(cls, id, entry->ordinal);
     addedVariableById[id.getHandle()] = {cls, entry->ordinal};
@@ -41,13 +46,13 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
     if (const ClassRow* const row = FindClass(cls); row && row->reader)
         text = row->reader(added);
     strike(added.consumed(), rest);
-    if (text.isEmpty()) {
-        const bool isMade = driver.madeByActions.count(handle) != 0;
-        if (!isMade)
-            driver.unmade.insert(handle);
-        if (!isMade || !writer.repairs)
-            return kFxSuccess;
-    }
+    const bool isMade = !text.isEmpty() || IsMadeByAction(cls, handle);
+    if (!isMade)
+        driver.unmade.insert(handle);
+    if (!(isMade && writer.repairs) && (text.isEmpty() || cls == OdDbHatch::desc()))
+        LoseUnmade(rest, !text.isEmpty());
+    if (text.isEmpty() && !(isMade && writer.repairs))
+        return kFxSuccess;
 
     QString general;
     if (ConvertObjectChanges(cls, handle, rest, true, general) != kFxSuccess)

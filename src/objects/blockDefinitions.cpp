@@ -2,6 +2,7 @@
 
 #include "objects/targets/blockDefinitions.h"
 #include "frame/counters.h"
+#include "frame/losses.h"
 #include "host/db/OdDbClassMap.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/added/dimensionGeometry.h"
@@ -189,6 +190,12 @@ const EntityKind* kindOf(const OdRxClass* cls)
     return found == classes.end() ? nullptr : &kKinds[found - classes.begin()];
 }
 
+void loseEntity(const OdRxClass* cls, const OdDbObjectId& id, const BlockContents& contents, const char* reason)
+{
+    NoteLoss(CFxString(ObjectTitle(cls, id.getHandle()).toQString() + " in block " + contents.name.toQString()),
+             reason);
+}
+
 /// Ahead of what fetches another object.
 const inkmacro::Phrase aheadOfFetch{"block entity",
                                     {
@@ -212,16 +219,20 @@ QString CFxConverterIWAPIObject::CreateBlockDefinition(const BlockContents& cont
         const OdDbObjectPtr object = id.openObject(true);
         const OdRxClass* const cls = object ? object->isA() : KnownClass(id.getHandle());
         const EntityKind* const kind = cls ? kindOf(cls) : nullptr;
-        if (!kind)
+        if (!kind) {
+            loseEntity(cls, id, contents, cls ? "no block takes objects of its class" : "the drawing does not have it");
             continue;
+        }
         BlockEntity entity{*this, writer, object.get(), KnownVariable(id.getHandle())};
         const QString statements = object && kind->prepare ? kind->prepare(entity) : QString();
         if (!entity.fetch.isEmpty())
             text += writer.fillIndented(aheadOfFetch).str() + entity.fetch;
         if (!statements.isEmpty())
             text += statements + inkmacro::LineEnd;
-        if (entity.name.isEmpty())
+        if (entity.name.isEmpty()) {
+            loseEntity(cls, id, contents, "the macro does not have it");
             continue;
+        }
         definition.entities.push_back(entity.name);
         definition.types.emplace_back(QLatin1String(kind->type));
     }

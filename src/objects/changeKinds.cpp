@@ -426,12 +426,12 @@ ChangeKind anyEnumValue(const inkmacro::ValueEnumeration& enumeration)
 
 ChangeKind exactYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix)
 {
-    return {.statement = setEnumIfYes<IsYes>, .byValue = &enumeration, .suffix = suffix};
+    return {.statement = setEnumIfYes<IsYes>, .byValue = &enumeration, .suffix = suffix, .maySayNothing = true};
 }
 
 ChangeKind plainYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix)
 {
-    return {.statement = setEnumIfYes<isPlainYes>, .byValue = &enumeration, .suffix = suffix};
+    return {.statement = setEnumIfYes<isPlainYes>, .byValue = &enumeration, .suffix = suffix, .maySayNothing = true};
 }
 
 constinit const ChangeKind decimalSeparator{setChosen<setDecimalSeparator, anyText>};
@@ -440,8 +440,8 @@ constinit const ChangeKind quoted{[](const Change& change) { return setQuoted(ch
 constinit const ChangeKind chosenQuoted{setChosen<setQuoted>};
 constinit const ChangeKind anyQuoted{setChosen<setQuoted, anyText>};
 constinit const ChangeKind doubledBackslashes{setChosen<setDoubled, anyText>};
-constinit const ChangeKind affix{setChosen<setAffix, anyText>};
-constinit const ChangeKind prefixAndSuffix{setChosen<setPrefixAndSuffix, anyText>};
+constinit const ChangeKind affix{.statement = setChosen<setAffix, anyText>, .maySayNothing = true};
+constinit const ChangeKind prefixAndSuffix{.statement = setChosen<setPrefixAndSuffix, anyText>, .maySayNothing = true};
 constinit const ChangeKind escaped{[](const Change& change) {
     return setQuoted(change, inkmacro::escapeText(change.writer.target, change.value.GetString()));
 }};
@@ -462,9 +462,13 @@ constinit const ChangeKind arrow{[](const Change& change) {
     return EmitSetArrow(change.writer, change.target, change.row.property, elementNumber(change.value), {});
 }};
 
-constinit const ChangeKind activation{[](const Change& change) {
-    return isPlainYes(change.value) ? EmitActivateLayer(change.writer, change.target) : QString();
-}};
+constinit const ChangeKind activation{
+    .statement =
+        [](const Change& change) {
+            return isPlainYes(change.value) ? EmitActivateLayer(change.writer, change.target) : QString();
+        },
+    .maySayNothing = true,
+};
 constinit const ChangeKind overrideYes{[](const Change& change) {
     return EmitViewportOverrideBool(change.writer, change.target, change.row.property, isPlainYes(change.value));
 }};
@@ -490,11 +494,15 @@ constinit const ChangeKind scaleFactor{[](const Change& change) {
     return EmitSetDimensionScale(change.writer, change.target, change.row.property, kUseScaleFactor,
                                  change.value.GetDouble());
 }};
-constinit const ChangeKind sheetScale{[](const Change& change) {
-    return IsYes(change.value)
-               ? EmitSetDimensionScale(change.writer, change.target, change.row.property, kScaleOfSheet, 1.0)
-               : QString();
-}};
+constinit const ChangeKind sheetScale{
+    .statement =
+        [](const Change& change) {
+            return IsYes(change.value)
+                       ? EmitSetDimensionScale(change.writer, change.target, change.row.property, kScaleOfSheet, 1.0)
+                       : QString();
+        },
+    .maySayNothing = true,
+};
 constinit const ChangeKind centerMark{[](const Change& change) {
     return EmitSetCenterMarkKind(change.writer, change.target, change.row.property, anyNumber(change.value));
 }};
@@ -521,6 +529,7 @@ constinit const ChangeKind textInside{
         },
     .byValue = &inkmacro::enums::dimensionFitGeometry,
     .suffix = "KeepTextBetweenExtensionLines",
+    .maySayNothing = true,
 };
 
 constinit const ChangeKind noteDirection{setChosen<setNoteDirection, anyText>};

@@ -3,6 +3,7 @@
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
 #include "frame/StatementGroup.h"
+#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
@@ -28,14 +29,18 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls,
                                                            bool fromAdded, QString& text)
 {
     text.clear();
+    changedClass = cls;
     changedHandle = handle;
     OdDbObjectId leader;
     if (cls == OdDbMText::desc())
         driver.GetNoteLeader(leader, handle);
     const OdDbObjectId noteLeader = fromAdded ? OdDbObjectId() : leader;
     CFxString name;
-    if (!AddressChangedObject(cls, handle, noteLeader, list, name, text))
+    if (!AddressChangedObject(cls, handle, noteLeader, list, name, text)) {
+        NoteLoss("changes of " + ObjectTitle(cls, handle).toQString(),
+                 "the recording did not add the object, so the macro has no variable for it");
         return kFxSuccess;
+    }
 
     StatementGroup group(writer);
     QString general;
@@ -48,11 +53,13 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls,
         if (!general.isEmpty())
             general.prepend(dimension);
     }
-    if (const ClassRow* const row = FindClass(cls))
-        ConvertClassChanges(*row, list, fromAdded, name, classText);
+    const ClassRow* const row = FindClass(cls);
+    if (row && !(fromAdded && row->whenAdded == WhenAdded::Skip))
+        ConvertClassChanges(*row, list, fromAdded && row->whenAdded == WhenAdded::TakeOnly, name, classText);
     const CFxVariant erased = FindProperty("Erased", list, driver.GetContext());
     if (!fromAdded && !erased.IsNull())
         classText += ConvertErased(cls, handle, name, erased);
+    LoseRest(list, fromAdded, name);
 
     if (general.isEmpty() && classText.isEmpty()) {
         // Who left the group has given its level back already.
@@ -96,12 +103,9 @@ bool CFxConverterIWAPIObject::AddressChangedObject(const OdRxClass* cls, const O
     return cls == OdDbLayout::desc();
 }
 
-void CFxConverterIWAPIObject::ConvertClassChanges(const ClassRow& row, PropertyList& list, bool fromAdded,
+void CFxConverterIWAPIObject::ConvertClassChanges(const ClassRow& row, PropertyList& list, bool takeOnly,
                                                   const CFxString& name, QString& text)
 {
-    if (fromAdded && row.whenAdded == WhenAdded::Skip)
-        return;
-    const bool takeOnly = fromAdded && row.whenAdded == WhenAdded::TakeOnly;
     if (row.changes.groups)
         ConvertRows(*row.changes.groups, list, takeOnly, name, text);
     else if (row.changes.handler)
@@ -115,13 +119,16 @@ QString CFxConverterIWAPIObject::ConvertErased(const OdRxClass* cls, const OdDbH
     CFxString target = name;
     if (IsDimensionClass(cls))
         text = EmitGetOptions(writer, generalDimension, name, target);
-    // What comes back has no statement.
-    if (!erased.GetString().equalNoCase(ShownWord("YES")))
+    if (!erased.GetString().equalNoCase(ShownWord("YES"))) {
+        LoseProperty("Erased", "what comes back has no statement");
         return text;
+    }
     if (cls == OdDbViewTableRecord::desc()) {
         const OdDbObjectPtr object = IdOf(handle).openObject(true);
         if (const auto view = odrxCast<OdDbViewTableRecord>(object.get()))
             text += EmitRemoveNamedView(writer, name, view->getName(), view->isPaperspaceView());
+        else
+            LoseProperty("Erased", "the drawing does not have the view");
     } else if (cls == OdDbLayerTableRecord::desc()) {
         text += EmitRemoveLayer(writer, name);
     } else {
@@ -153,11 +160,17 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         if (isCurvedText)
             text += EmitSetOptions(writer, curvedTextSettings, target, holder);
     }
+    const auto addNamed = [&](const char* tag, const QString& statement) {
+        if (statement.isEmpty())
+            LoseProperty(tag, "the drawing does not have what it names");
+        text += statement;
+    };
+
     if (take("Layer"))
-        text += EmitSetLayer(writer, target, "Layer", value.GetId());
+        addNamed("Layer", EmitSetLayer(writer, target, "Layer", value.GetId()));
     if (take("LineStyle")) {
         leaveGroup();
-        text += EmitSetLineStyle(writer, target, "LineStyle", value.GetId());
+        addNamed("LineStyle", EmitSetLineStyle(writer, target, "LineStyle", value.GetId()));
     }
     if (take("LineScale"))
         text += EmitSetDoubleProperty(writer, target, "LineScale", value.GetDouble());
@@ -169,7 +182,11 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         text += EmitSetDoubleProperty(writer, target, "Thickness", value.GetDouble());
     if (take("PrintStyle"))
         text += EmitSetProperty(writer, target, "PrintStyle", value.GetString(), true);
-    if (take("Transparency") && !fromAdded && value.GetType() == CFxVariant::kTransparency)
-        text += EmitSetTransparency(writer, target, value.GetTransparency());
+    if (take("Transparency") && !fromAdded) {
+        if (value.GetType() == CFxVariant::kTransparency)
+            text += EmitSetTransparency(writer, target, value.GetTransparency());
+        else
+            LoseProperty("Transparency", "it is not recorded as a transparency");
+    }
     return kFxSuccess;
 }

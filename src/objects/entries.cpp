@@ -1,8 +1,11 @@
 // The three kinds of object action that the driver hands over.
 
 #include "frame/CFxConverterIWAPIImpl.h"
+#include "frame/losses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/statements.h"
+
+static constexpr char kForeignClass[] = "objects of its class have no statements";
 
 CFxConverterIWAPIObject::CFxConverterIWAPIObject(CFxConverterIWAPIImpl& driver) : driver(driver), writer(driver.writer)
 {
@@ -15,8 +18,10 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectAdded(OdSmartPtr<CFxObjectAdd
     const OdRxClass* const cls = action->GetObjectClass();
     if (!cls)
         return kFxFailure;
-    if (!IsSupportedClass(cls->name()))
+    if (!IsSupportedClass(cls->name())) {
+        NoteLoss(ActionTitle(action.get()), kForeignClass);
         return kFxSuccess;
+    }
 
     PropertyList read = action->GetProperties();
     PropertyList rest = action->GetExtraProperties();
@@ -34,8 +39,10 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectModified(OdSmartPtr<CFxObject
     const OdRxClass* const cls = action->GetObjectClass();
     if (!cls)
         return kFxFailure;
-    if (!IsSupportedClass(cls->name()))
+    if (!IsSupportedClass(cls->name())) {
+        NoteLoss(ActionTitle(action.get()), kForeignClass);
         return kFxSuccess;
+    }
     PropertyList list = action->GetProperties();
     if (list.empty())
         return kFxSuccess;

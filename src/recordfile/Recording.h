@@ -52,6 +52,7 @@ struct Recording
     /// Never null. Stands before the actions because their values hold ids of it.
     std::unique_ptr<OdDbDatabase> database = std::make_unique<OdDbDatabase>();
     CFxActionArray actions;
+    std::vector<qint64> actionLines; ///< one an action: its line in the file, from 1
 };
 
 /// Why a recording file could not be read.

@@ -28,7 +28,7 @@ public:
     explicit RecordingMaker(Recording& recording) : recording_(recording), reading_{*recording.database, texts_} {}
 
     /// Throws FormError.
-    void take(std::string_view line)
+    void take(std::string_view line, qint64 number)
     {
         simdjson::dom::element element;
         if (const auto code = parser_.parse(line.data(), line.size(), false).get(element); code != simdjson::SUCCESS)
@@ -41,16 +41,17 @@ public:
         const ChosenEntry chosen = chosenEntry(json, keys, "kind of line");
         const Json entry = json.entry(chosen.key, chosen.value);
         if (chosen.choice >= kActionLines)
-            takeAction(actionChoices()[chosen.choice - kActionLines], entry);
+            takeAction(actionChoices()[chosen.choice - kActionLines], entry, number);
         else
             takeOther(static_cast<LineKind>(chosen.choice), entry);
         begun_ = true;
     }
 
 private:
-    void takeAction(const Choice<OdRxObjectPtr>& choice, const Json& json)
+    void takeAction(const Choice<OdRxObjectPtr>& choice, const Json& json, qint64 number)
     {
         recording_.actions.append(choice.read(json));
+        recording_.actionLines.push_back(number);
     }
 
     void takeOther(LineKind kind, const Json& json)
@@ -107,7 +108,7 @@ std::optional<RecordingError> readLines(QIODevice& device, const QString& name, 
         if (isBlank(line))
             continue;
         try {
-            maker.take(line);
+            maker.take(line, number);
         } catch (const FormError& error) {
             return RecordingError{name, number, error.path, error.message};
         }

@@ -28,9 +28,29 @@ void writeSliced(QTextStream& stream, QStringView text)
     }
 }
 
+/// Calls for each line that is whole, with what had begun before.
+template<class Use>
+void forLines(QString& begun, QStringView text, const Use& use)
+{
+    for (auto end = text.indexOf(QChar('\n')); end != -1; end = text.indexOf(QChar('\n'))) {
+        if (begun.isEmpty()) {
+            use(text.left(end));
+        } else {
+            use(QStringView(begun += text.left(end)));
+            begun.clear();
+        }
+        text = text.mid(end + 1);
+    }
+    begun += text;
+}
+
+const Fault kDeclaredTwice{"ConvertCommand",
+                           {Target::Cpp, Target::CppCom, Target::CSharp, Target::VbNet, Target::Vba},
+                           "a local variable is declared where one of its name is seen already"};
+
 } // namespace
 
-Writer::Writer(Target target) : target(target), repairs(RepairsMacros())
+Writer::Writer(Target target) : target(target), repairs(RepairsMacros()), locals_(target)
 {
 }
 
@@ -93,8 +113,35 @@ QString Writer::later(Parts parts)
 
 void Writer::writeText(QTextStream& stream, QStringView text)
 {
-    line_ += std::count(text.begin(), text.end(), QChar('\n'));
+    if (repairs)
+        return writeLines(stream, text);
+    if (notesFaults_)
+        followLines(text);
     writeSliced(stream, text);
+}
+
+void Writer::followLines(QStringView text)
+{
+    forLines(begun_, text, [this](QStringView line) {
+        if (locals_.declaresTwice(line))
+            noteFault(kDeclaredTwice);
+        ++line_;
+    });
+}
+
+void Writer::writeLines(QTextStream& stream, QStringView text)
+{
+    forLines(begun_, text, [&](QStringView line) {
+        writeSliced(stream, locals_.toldApart(line.toString()));
+        stream << '\n';
+        ++line_;
+    });
+}
+
+void Writer::finish(QTextStream& stream)
+{
+    if (repairs)
+        writeSliced(stream, std::exchange(begun_, QString()));
 }
 
 void Writer::write(QTextStream& stream, const QString& statements)

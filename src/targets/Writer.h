@@ -2,6 +2,7 @@
 
 #include "host/kernel/CFxString.h"
 #include "targets/Fault.h"
+#include "targets/Locals.h"
 
 #include <cstdint>
 #include <functional>
@@ -44,6 +45,8 @@ public:
     /// Writes statements, with all that they have kept for later. Their faults are noted with the lines where they
     /// stand.
     void write(QTextStream& stream, const QString& statements);
+    /// Writes what the last line has without an end.
+    void finish(QTextStream& stream);
     /// Forgets what has been kept, once no statement stands for it any more.
     void forgetLater() { later_.clear(); }
 
@@ -60,10 +63,14 @@ public:
 private:
     inkmacro::FillMode mode() const;
     void writeText(QTextStream& stream, QStringView text);
+    void followLines(QStringView text);
+    void writeLines(QTextStream& stream, QStringView text);
     void noteFault(const inkmacro::Fault& fault) const;
 
     std::vector<Parts> later_;
-    std::size_t line_ = 1;        ///< of the macro, that is written next
+    std::size_t line_ = 1; ///< of the macro, that is written next
+    QString begun_;        ///< what is there of that line
+    inkmacro::Locals locals_;
     bool notesFaults_ = false;    ///< else no statement gets a mark of one
     mutable bool marked_ = false; ///< some statement has a mark
 };

@@ -3,6 +3,7 @@
 #include "targets/selections.h"
 
 #include "frame/counters.h"
+#include "frame/losses.h"
 #include "targets/LineEnd.h"
 #include "targets/arrays.h"
 
@@ -165,14 +166,21 @@ static QString selectionOf(Writer& writer, std::int32_t mode, const OdArray<OdGe
     case kCrossline:
         return selectionCoordinates(writer, points) + call(selectByCrossline);
     default:
+        NoteLoss("selection", "the way of selecting is not known");
         return {};
     }
+}
+
+static QString withoutSelections()
+{
+    NoteLoss("selection", "the target has no statement for it");
+    return {};
 }
 
 QString EmitSelectEntities(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager)
 {
     if (!selectionManager.has(writer.target))
-        return {};
+        return withoutSelections();
     QString text;
     if (!hasManager)
         text += writer.fillIndented(selectionManager).number(selections);
@@ -225,7 +233,7 @@ QString EmitSelectionFilter(Writer& writer, const OdArray<OdGePoint3d>& points, 
                             const std::vector<CFxString>& typeNames)
 {
     if (!selectionManager.has(writer.target))
-        return {};
+        return withoutSelections();
     // The selection within raises the number.
     const std::uint32_t number = selections;
     QString text = writer.fillIndented(selectionManager).number(number).str() +

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Holds recordings against the JSON Schema that the program prints, and the schema against damaged lines.
+"""Holds recordings and reports against the JSON Schemas that the program prints, and these against damaged ones.
 
     check_schema.py PROGRAM SOURCE_DIR
 """
@@ -8,6 +8,7 @@ import json
 import pathlib
 import subprocess
 import sys
+import tempfile
 
 import jsonschema
 
@@ -39,11 +40,53 @@ DAMAGED = [
 ]
 
 
+# Each gives a report that the schema refuses.
+DAMAGES = [
+    lambda report: report.update(version=1),
+    lambda report: report["conversions"][0].update(status="done"),
+    lambda report: report["conversions"][0].pop("macro"),
+    lambda report: report["conversions"][0]["losses"].append({"line": 3, "what": "a", "reason": "b"}),
+    lambda report: report["conversions"][0]["faults"].append({"file": "a.cs", "line": 3, "reason": "b"}),
+]
+
+
+def output(*command):
+    return json.loads(subprocess.run(command, stdout=subprocess.PIPE, check=True).stdout)
+
+
+def validator_of(program, what):
+    schema = output(program, "schema", what)
+    jsonschema.Draft202012Validator.check_schema(schema)
+    return jsonschema.Draft202012Validator(schema)
+
+
+def check_reports(program, files):
+    """The faults of a report of all recordings, a name a folder, in all targets."""
+    validator = validator_of(program, "report")
+    faults = []
+    found = {"losses": 0, "faults": 0}
+    with tempfile.TemporaryDirectory() as folder:
+        for file in files:
+            report = output(program, "convert", file, "--target", "all", "--output", folder, "--report", "--quiet")
+            error = jsonschema.exceptions.best_match(validator.iter_errors(report))
+            if error:
+                faults.append(f"the report of {file}: {error.json_path}: {error.message}")
+            for conversion in report["conversions"]:
+                for kind in found:
+                    found[kind] += len(conversion[kind])
+    if not all(found.values()):
+        faults.append(f"the reports hold only {found}")
+    for number, damage in enumerate(DAMAGES):
+        damaged = json.loads(json.dumps(report))
+        damage(damaged)
+        if validator.is_valid(damaged):
+            faults.append(f"the schema takes the damaged report {number}")
+    return faults
+
+
 def main():
     program, source = sys.argv[1], pathlib.Path(sys.argv[2])
-    schema = json.loads(subprocess.run([program, "schema"], stdout=subprocess.PIPE, check=True).stdout)
-    jsonschema.Draft202012Validator.check_schema(schema)
-    validator = jsonschema.Draft202012Validator(schema)
+    validator = validator_of(program, "recording")
 
     files = sorted(source.glob("examples/*.jsonl")) + sorted(source.glob("tests/scenarios/*/recording.jsonl"))
     checked = 0
@@ -57,6 +100,7 @@ def main():
             if error:
                 faults.append(f"{file}:{number}: {error.json_path}: {error.message}")
     faults += [f"the schema takes {line}" for line in DAMAGED if validator.is_valid(json.loads(line))]
+    faults += check_reports(program, files)
     if not files or checked < 100:
         faults.append(f"only {checked} lines were found to check")
     print("\n".join(faults) or f"{checked} lines in {len(files)} recordings fit the schema")

@@ -2,16 +2,16 @@
 
 void CFxConversionNotes::NoteLoss(const CFxString& what, const CFxString& reason)
 {
-    CFxLoss loss{place_, what, reason};
-    // Those of one action stand together.
-    for (auto known = losses_.rbegin(); known != losses_.rend() && known->where == place_; ++known)
-        if (*known == loss)
-            return;
-    losses_.push_back(std::move(loss));
+    const QPair<QString, QString> loss(what, reason);
+    if (known_.contains(loss))
+        return;
+    known_.insert(loss);
+    losses_.push_back({place_, what, reason});
 }
 
 void CFxConversionNotes::Forget()
 {
+    known_.clear();
     losses_.clear();
     faults_.clear();
 }

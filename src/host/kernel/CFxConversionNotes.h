@@ -3,6 +3,9 @@
 #include "host/kernel/CFxString.h"
 #include "host/rx/Export.h"
 
+#include <QPair>
+#include <QSet>
+
 #include <cstddef>
 #include <cstdint>
 #include <utility>
@@ -32,7 +35,8 @@ struct CFxFaultNote
     bool operator==(const CFxFaultNote&) const = default;
 };
 
-/// What one conversion tells of its result beside the files. The module notes, its host reads and forgets.
+/// What one conversion tells of its result beside the files. The module notes, its host reads; the next conversion
+/// begins by forgetting all.
 class INKHOST_EXPORT CFxConversionNotes
 {
 public:
@@ -40,20 +44,26 @@ public:
     class Action
     {
     public:
-        Action(CFxConversionNotes& notes, std::uint32_t number) : place_(notes.place_) { place_.push_back(number); }
-        ~Action() { place_.pop_back(); }
+        Action(CFxConversionNotes& notes, std::uint32_t number) : notes_(notes)
+        {
+            notes_.known_.clear();
+            notes_.place_.push_back(number);
+        }
+        ~Action()
+        {
+            notes_.known_.clear();
+            notes_.place_.pop_back();
+        }
         Action(const Action&) = delete;
         Action& operator=(const Action&) = delete;
 
     private:
-        CFxActionPlace& place_;
+        CFxConversionNotes& notes_;
     };
 
     /// What is lost of one action in the same way several times counts once.
     void NoteLoss(const CFxString& what, const CFxString& reason);
     const std::vector<CFxLoss>& GetLosses() const { return losses_; }
-    /// Takes back those behind the first `count`: a greater one holds them.
-    void TakeLossesBack(std::size_t count) { losses_.resize(count); }
 
     void NoteFault(CFxFaultNote fault) { faults_.push_back(std::move(fault)); }
     const std::vector<CFxFaultNote>& GetFaults() const { return faults_; }
@@ -62,6 +72,7 @@ public:
 
 private:
     CFxActionPlace place_;
+    QSet<QPair<QString, QString>> known_; ///< what is lost of the action, and why
     std::vector<CFxLoss> losses_;
     std::vector<CFxFaultNote> faults_;
 };

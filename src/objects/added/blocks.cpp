@@ -103,7 +103,7 @@ QString ReadBlockDefinition(AddedObject& added)
     else if (record && !record->isLayout() && !record->isFromExternalReference())
         contents.ids = entitiesOf(*record);
     else
-        return {};
+        return record ? QString() : added.lost("neither a record nor the drawing tells what it is made of");
     return added.converter.CreateBlockDefinition(contents);
 }
 

@@ -46,6 +46,8 @@ std::optional<MeasuredCurve> curveOf(const AddedObject& added)
 /// The rotation belongs to the part of a dimension that all kinds have, so a statement fetches that first.
 QString withTextRotation(QString insertion, AddedObject& added)
 {
+    if (insertion.isEmpty())
+        added.lost("the drawing does not have a circle or an arc that it measures");
     const CFxVariant rotation = added.take("Rotation");
     if (rotation.IsNull())
         return insertion;

@@ -14,5 +14,7 @@ QString ReadGroup(AddedObject& added)
     for (const OdDbObjectId& id : CFxConverterIWAPIObject::ObjectsOf(entities, HandlesIn::Tags))
         if (const QString variable = added.converter.KnownVariable(id.getHandle()); !variable.isEmpty())
             group.entities.push_back(variable);
+        else
+            added.converter.LoseProperty("AllEntities", "the macro does not have the object " + id.getHandle().ascii());
     return EmitCreateGroup(added.writer, group, added.name);
 }

@@ -54,6 +54,8 @@ QString annotate(const AddedObject& added)
     if (!leader)
         return {};
     const OdDbObjectPtr annotation = leader->annotationObjectId().openObject();
+    if (!annotation && !leader->annotationObjectId().isNull())
+        added.converter.LoseProperty("content", "the drawing does not have what stands at the leader's end");
     if (const auto tolerance = odrxQuery<OdDbFcf>(annotation.get()))
         return EmitSetAnnotation(added.writer, added.name, LeaderAnnotation::Tolerance,
                                  escapeWithBackslashes(tolerance->text()));

@@ -1,6 +1,7 @@
 // Added rich lines, polylines and splines. The records of a polyline hold its vertices only: arcs come as lines.
 
 #include "objects/targets/polylines.h"
+#include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/targets/setters.h"
@@ -54,6 +55,8 @@ QString ReadPolyline(AddedObject& added)
     OdArray<OdGePoint2d> vertices;
     for (const OdGePoint3d& vertex : added.takePoints("Vertex"))
         vertices.append({vertex.x, vertex.y});
+    if (const auto polyline = added.open<OdDbPolyline>())
+        added.converter.LoseArcs(*polyline);
     return EmitInsertPolyline2D(added.writer, vertices, takeClosed(added), added.name);
 }
 

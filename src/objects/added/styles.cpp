@@ -30,8 +30,12 @@ QString replaceElements(const AddedObject& added, const OdDbMlineStyle& style)
     int index = 0;
     for (const auto& [offset, element] : elements) {
         const auto lineStyle = odrxCast<OdDbLinetypeTableRecord>(element.linetypeId.openObject(true).get());
-        text += EmitReplaceRichLineElement(added.writer, added.name, index, offset, element.color.colorIndex(),
-                                           lineStyle ? lineStyle->getName() : OdString());
+        const QString statement =
+            EmitReplaceRichLineElement(added.writer, added.name, index, offset, element.color.colorIndex(),
+                                       lineStyle ? lineStyle->getName() : OdString());
+        if (statement.isEmpty())
+            added.converter.LoseProperty("elements", "the target has no statement for lines of such a style");
+        text += statement;
         ++index;
     }
     return text;
@@ -69,7 +73,7 @@ QString ReadLineStyle(AddedObject& added)
 {
     const CFxVariant value = added.take("Name");
     if (value.IsNull())
-        return {};
+        return added.lost("its name is not recorded");
     const CFxString styleName = value.GetString();
     const QString path = lineStyleFile(styleName);
     if (path.isEmpty())

@@ -17,6 +17,21 @@ void CFxConverterIWAPIObject::RememberTable(const CFxString& table, std::int32_t
         tableWidths[table] = width.GetDouble();
 }
 
+/// Of texts in new cells, too, there is no statement: they are written when they change.
+static void loseRest(const AddedObject& added, double height, double width)
+{
+    for (const CFxPropertyChangedPtr& record : added.rest()) {
+        const QString& tag = record->GetName();
+        const CFxVariant value = added.valueOf(*record);
+        if (tag.startsWith(QLatin1String("Contents_")) && !wordOf(value).isEmpty())
+            added.converter.LoseProperty(tag, "the texts of a new table have no statement");
+        else if (tag.startsWith(QLatin1String("RowHeight_")) && value.GetDouble() != height)
+            added.converter.LoseProperty(tag, "rows behind the second are made of one height");
+        else if (tag.startsWith(QLatin1String("ColumnWidth_")) && value.GetDouble() != width)
+            added.converter.LoseProperty(tag, "columns are made of one width");
+    }
+}
+
 /// The height of the insertion is that of the first row of data. Other heights behind it and other widths have no
 /// statement.
 QString ReadTable(AddedObject& added)
@@ -40,5 +55,6 @@ QString ReadTable(AddedObject& added)
         if (height != dataHeight)
             text += EmitSetRowHeightAt(added.writer, added.name, row, height);
     }
+    loseRest(added, dataHeight, width);
     return text;
 }

@@ -166,7 +166,7 @@ QString ReadCurvedText(AddedObject& added)
 {
     const auto curved = added.open<OdDbArcAlignedText>();
     if (!curved)
-        return {};
+        return added.lost("the drawing does not have it, and no record holds its text");
     const QString arc = added.converter.AddedVariable(curved->arcId());
     return EmitInsertCurvedText(added.writer, curved->textString(), arc, added.name);
 }

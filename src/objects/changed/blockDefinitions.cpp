@@ -11,8 +11,13 @@ void CFxConverterIWAPIObject::ConvertModifiedBlockDefinition(PropertyList& list,
     const CFxValueContext context = driver.GetContext();
     const CFxVariant objects = FindProperty("Objects", list, context);
     const CFxVariant description = FindProperty("Description", list, context);
-    if (takeOnly || objects.GetType() != CFxVariant::kCollection)
+    if (takeOnly)
         return;
+    if (objects.GetType() != CFxVariant::kCollection) {
+        if (!description.IsNull())
+            LoseProperty("Description", "a block is made anew only when its objects are recorded");
+        return;
+    }
     BlockContents contents;
     contents.variable = name;
     contents.renewed = driver.FindEntry(changedHandle) != nullptr;

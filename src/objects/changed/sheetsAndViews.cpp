@@ -21,7 +21,13 @@ void CFxConverterIWAPIObject::ConvertModifiedSheet(PropertyList& list, bool take
     const CFxVariant table = FindProperty("PrintStyleTable", list, context);
     const CFxVariant model = FindProperty("Model_PrintStyleTable", list, context);
     const CFxVariant sheet = FindProperty("SheetName_PrintStyleTable", list, context);
-    if (!takeOnly && !table.IsNull() && !model.IsNull() && !sheet.IsNull())
-        text += EmitSetModelProperty(writer, "PrintStyleTable", table.GetString(),
-                                     model.GetString() == ShownWord("Yes"), sheet.GetString());
+    if (takeOnly)
+        return;
+    if (table.IsNull() || model.IsNull() || sheet.IsNull()) {
+        if (!table.IsNull())
+            LoseProperty("PrintStyleTable", "its sheet is not recorded");
+        return;
+    }
+    text += EmitSetModelProperty(writer, "PrintStyleTable", table.GetString(), model.GetString() == ShownWord("Yes"),
+                                 sheet.GetString());
 }

@@ -83,14 +83,14 @@ QString cellStatement(Writer& writer, const CFxString& table, const CFxPropertyC
     return EmitSetCellText(writer, table, numberIn(record, 1), numberIn(record, 2), inkmacro::doubleBackslashes(text));
 }
 
-/// New lines stand behind the old ones. One pass over the records finds them, so one whose record comes too early, or
-/// behind a gap, is no new line.
+/// New lines stand behind the old ones; `count` receives how many lines there are then. One pass over the records finds
+/// them, so one whose record comes too early, or behind a gap, is no new line.
 QString insertLines(Writer& writer, const TableLines& lines, const PropertyList& list, CFxValueContext context,
-                    const CFxString& table, std::int32_t first)
+                    const CFxString& table, std::int32_t first, qint64& count)
 {
     const auto tagOf = [&](qint64 number) { return lines.sizeTag + ('_' + QString::number(number)); };
     QString text;
-    qint64 count = first;
+    count = first;
     QString next = tagOf(count);
     for (const CFxPropertyChangedPtr& record : list) {
         if (record->GetName().toQString() != next)
@@ -134,15 +134,25 @@ bool CFxConverterIWAPIObject::ConvertTableCount(const TableLines& lines, Propert
     if (value.IsNull())
         return false;
     const bool isNumber = value.GetType() == CFxVariant::kInt32 || value.GetType() == CFxVariant::kDouble;
-    if (takeOnly || !isNumber)
+    if (takeOnly)
         return true;
+    if (!isNumber) {
+        LoseProperty(lines.countTag, "it is not recorded as a number");
+        return true;
+    }
     std::int32_t& count = (this->*lines.counts)[name];
     const std::int32_t before = count;
     count = value.GetInt32();
-    if (count > before)
-        text += insertLines(writer, lines, list, driver.GetContext(), name, before);
-    else if (count < before)
+    if (count > before) {
+        qint64 reached = 0;
+        text += insertLines(writer, lines, list, driver.GetContext(), name, before, reached);
+        if (reached < count)
+            LoseProperty(lines.countTag, "new lines are inserted by the records of their sizes, which are too few");
+    } else if (count < before) {
         text += removeLines(writer, lines, name, before, count);
+        if (before - count > 1 && !writer.repairs)
+            LoseProperty(lines.countTag, "one line is removed where several went");
+    }
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "objects/targets/boundaryEntities.h"
 
 #include "frame/counters.h"
+#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/targets/blocks.h"
 #include "objects/targets/curves.h"
@@ -289,6 +290,11 @@ QString eraseTemporary(Writer& writer, const TemporaryKind& kind, std::uint32_t 
     return misled ? writer.faulty(statement, kForeignNumber) : statement.str();
 }
 
+void loseBoundary(const OdDbObject& object)
+{
+    NoteLoss(ObjectTitle(object.isA(), object.getDbHandle()), "a boundary has no objects of its class");
+}
+
 } // namespace
 
 BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<BoundaryObject>& boundary)
@@ -297,8 +303,10 @@ BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<Boundary
     BoundaryEntities entities;
     for (const BoundaryObject& entity : boundary) {
         const TemporaryKind* const kind = kindOf(*entity.object, boundaryKinds);
-        if (!kind)
+        if (!kind) {
+            loseBoundary(*entity.object);
             continue;
+        }
         if (!entity.variable.isEmpty()) {
             entities.names.push_back(entity.variable);
             continue;
@@ -320,8 +328,10 @@ QString EmitRegionBoundaryCurves(Writer& writer, const CFxString& variable, cons
     QStringList names;
     for (const OdDbObjectPtr& piece : pieces) {
         const TemporaryKind* const kind = kindOf(*piece, pieceKinds);
-        if (!kind)
+        if (!kind) {
+            loseBoundary(*piece);
             continue;
+        }
         const QString name = numbered(*kind, counters.regionPieces[static_cast<std::size_t>(kind - pieceKinds)]++);
         text += insertTemporary(writer, *kind, *piece, name);
         names.append(name);

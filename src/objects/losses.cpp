@@ -1,0 +1,169 @@
+// What of an object's records does not come into the macro.
+
+#include "frame/losses.h"
+#include "actions/kinds.h"
+#include "host/db/OdDbClasses.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/classTable.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Shown values that the host computes of others: a change of them comes with a change of those.
+struct DerivedTag
+{
+    const char* tag;
+    const char* cls = nullptr; ///< null for any
+};
+constexpr DerivedTag derivedTags[] = {
+    {"Area"},
+    {"Arc length"},
+    {"Length"},
+    {"Measurement"},
+    {"Perimeter"},
+    {"Total angle"},
+    {"Angle", "AcDbLine"},
+    {"Delta X", "AcDbLine"},
+    {"Delta Y", "AcDbLine"},
+    {"Delta Z", "AcDbLine"},
+};
+
+bool isDerived(const OdRxClass* cls, const QString& tag)
+{
+    return std::ranges::any_of(derivedTags, [&](const DerivedTag& row) {
+        return tag == QLatin1String(row.tag) && (!row.cls || cls->name() == QLatin1String(row.cls));
+    });
+}
+
+constexpr std::int32_t kLineWeightByLayer = -1;
+
+/// Objects that a custom action of their command makes, one of that kind or the other.
+struct MadeByAction
+{
+    const char* cls;
+    std::int32_t kind;
+    std::int32_t other = kind;
+};
+constexpr MadeByAction madeByActions[] = {
+    {"AcDbHatch", inkmacro::kInsertHatch},
+    {"AcDbLayout", inkmacro::kSheet},
+    {"AcDbOle2Frame", inkmacro::kEmbeddedObject},
+    {"AcDbRegion", inkmacro::kRegion},
+    {"AcDbViewport", inkmacro::kViewport},
+    {"AcDbViewportTableRecord", inkmacro::kViewTiles},
+    {"AcDbViewTableRecord", inkmacro::kViewBackground, inkmacro::kNamedView},
+};
+
+/// Null for a class whose objects a reader makes.
+const MadeByAction* madeByAction(const OdRxClass* cls)
+{
+    const auto row = std::ranges::find_if(
+        madeByActions, [&](const MadeByAction& made) { return cls->name() == QLatin1String(made.cls); });
+    return row == std::end(madeByActions) ? nullptr : row;
+}
+
+/// A block inserts the hatches that it is made of.
+bool isInBlock(const OdRxClass* cls, const CFxConverterIWAPIImpl& driver)
+{
+    return cls == OdDbHatch::desc() && driver.HasSiblingBlock();
+}
+
+CFxString nameOfLineStyle(const OdDbObjectId& id)
+{
+    const auto style = odrxQuery<OdDbLinetypeTableRecord>(id.openObject(true).get());
+    return style ? CFxString(style->getName()) : CFxString();
+}
+
+/// A general property, and whether a new object has that value anyway.
+struct GeneralTag
+{
+    const char* tag;
+    bool (*isUsual)(const CFxVariant& value);
+};
+constexpr GeneralTag generalTags[] = {
+    {"LineColor", [](const CFxVariant& value) { return value.GetColor().isByLayer(); }},
+    {"Layer",
+     [](const CFxVariant& value) {
+         return ACTIVE_DOCUMENT && value.GetId() == ACTIVE_DOCUMENT->GetDatabase()->getCLAYER();
+     }},
+    {"LineStyle", [](const CFxVariant& value) { return nameOfLineStyle(value.GetId()).equalNoCase("ByLayer"); }},
+    {"LineScale", [](const CFxVariant& value) { return value.GetDouble() == 1; }},
+    {"LineWeight", [](const CFxVariant& value) { return value.GetInt32() == kLineWeightByLayer; }},
+    {"Thickness", [](const CFxVariant& value) { return value.GetDouble() == 0; }},
+};
+
+} // namespace
+
+void CFxConverterIWAPIObject::LoseObject(const char* reason) const
+{
+    NoteLoss(ObjectTitle(changedClass, changedHandle), reason);
+}
+
+void CFxConverterIWAPIObject::LoseProperty(const QString& tag, const QString& reason) const
+{
+    NoteLoss(CFxString("property \"" + tag + "\" of " + ObjectTitle(changedClass, changedHandle).toQString()),
+             CFxString(reason));
+}
+
+void CFxConverterIWAPIObject::LoseArcs(const OdDbPolyline& polyline) const
+{
+    for (unsigned i = 0; i < polyline.numVerts(); ++i)
+        if (polyline.segType(i) == OdDbPolyline::kArc && !driver.HasSibling(inkmacro::kPolyline))
+            return LoseProperty("Vertex", "arcs come as lines");
+}
+
+void CFxConverterIWAPIObject::LoseNoteWithoutLeader(const OdRxClass* cls, const OdDbHandle& handle) const
+{
+    if (cls == OdDbMText::desc() && !driver.FindEntry(LeaderOfNote(handle).getHandle()))
+        NoteLoss(ObjectTitle(cls, handle), "a leader brings it that the macro does not have");
+}
+
+/// What a class's changes would say is no loss of an added object: its insertion and its style give it, or the action
+/// that makes it.
+void CFxConverterIWAPIObject::LoseRest(const PropertyList& list, bool fromAdded, const CFxString& name)
+{
+    if (list.empty())
+        return;
+    const ClassRow* const row = FindClass(changedClass);
+    if (row && fromAdded && row->has(kFinishedByCustomAction))
+        return;
+    PropertyList rest = list;
+    if (row && fromAdded && row->whenAdded == WhenAdded::Skip) {
+        QString nothing;
+        ConvertClassChanges(*row, rest, true, name, nothing);
+    }
+    for (const CFxPropertyChangedPtr& record : rest)
+        if (!isDerived(changedClass, record->GetName()))
+            LoseProperty(record->GetName(), "no statement sets it");
+}
+
+bool CFxConverterIWAPIObject::IsMadeByAction(const OdRxClass* cls, const OdDbHandle& handle) const
+{
+    if (cls == OdDbPolyline::desc())
+        return driver.HasSibling(inkmacro::kPolyline);
+    if (isInBlock(cls, driver))
+        return true;
+    const MadeByAction* const row = madeByAction(cls);
+    const ClassRow* const known = FindClass(cls);
+    if (!row || !known || (!driver.HasSibling(row->kind) && !driver.HasSibling(row->other)))
+        return false;
+    const bool onlyLast = known->has(kFinishedByCustomAction) && cls != OdDbViewTableRecord::desc();
+    return !onlyLast || handle == driver.lastFinished;
+}
+
+void CFxConverterIWAPIObject::LoseUnmade(PropertyList& rest, bool written)
+{
+    const MadeByAction* const row = madeByAction(changedClass);
+    if (!row)
+        return;
+    if (!isInBlock(changedClass, driver) && !driver.HasSibling(row->kind) && !driver.HasSibling(row->other)) {
+        LoseObject("no action of its command makes it");
+        return;
+    }
+    if (written || !changedClass->isDerivedFrom(OdDbEntity::desc()))
+        return;
+    for (const auto& [tag, isUsual] : generalTags)
+        if (const CFxVariant value = FindProperty(tag, rest, driver.GetContext()); !value.IsNull() && !isUsual(value))
+            LoseProperty(tag, "the action that makes the object does not set it");
+}

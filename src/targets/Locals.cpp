@@ -1,0 +1,243 @@
+#include "targets/Locals.h"
+
+#include <QVarLengthArray>
+
+#include <algorithm>
+#include <array>
+
+namespace inkmacro {
+
+namespace {
+
+bool isNamePart(QChar character)
+{
+    return character.isLetterOrNumber() || character == '_';
+}
+
+QStringView nameAt(QStringView text, qsizetype at)
+{
+    const qsizetype from = at;
+    while (at < text.size() && isNamePart(text[at]))
+        ++at;
+    return text.mid(from, at - from);
+}
+
+qsizetype behindBlanks(QStringView text, qsizetype at)
+{
+    while (at < text.size() && (text[at] == ' ' || text[at] == '\t'))
+        ++at;
+    return at;
+}
+
+using Names = QVarLengthArray<QStringView, 4>;
+
+/// `Dim a(2) As Double`.
+void findInBasic(QStringView line, Names& found)
+{
+    constexpr QStringView dim = u"Dim ";
+    const qsizetype at = behindBlanks(line, 0);
+    if (!line.mid(at).startsWith(dim))
+        return;
+    if (const QStringView name = nameAt(line, at + dim.size()); !name.isEmpty())
+        found.append(name);
+}
+
+bool isType(QStringView word)
+{
+    static constexpr std::array<QStringView, 9> others{u"return", u"delete", u"else",   u"new",   u"throw",
+                                                       u"goto",   u"public", u"static", u"extern"};
+    return !word.isEmpty() && !word.front().isDigit() && std::find(others.begin(), others.end(), word) == others.end();
+}
+
+/// Behind a type: dots, colons and what stands in its brackets belong to it. -1 when no type stands there.
+qsizetype behindType(QStringView line, qsizetype at)
+{
+    const QStringView first = nameAt(line, at);
+    if (!isType(first))
+        return -1;
+    at += first.size();
+    while (at < line.size() && (isNamePart(line[at]) || line[at] == '.' || line.mid(at).startsWith(u"::")))
+        at += line[at] == ':' ? 2 : 1;
+    if (line.mid(at).startsWith(u"[]"))
+        at += 2;
+    return at;
+}
+
+/// `Type a, b = 1;`, where a star may stand on either side of the blank.
+void findInCurly(QStringView line, Names& found)
+{
+    const qsizetype typeEnd = behindType(line, behindBlanks(line, 0));
+    qsizetype at = typeEnd;
+    const auto passStars = [&] {
+        while (at < line.size() && (line[at] == ' ' || line[at] == '*'))
+            ++at;
+    };
+    if (typeEnd == -1)
+        return;
+    passStars();
+    Names names;
+    for (bool more = at > typeEnd; more;) {
+        const QStringView name = nameAt(line, at);
+        const qsizetype behind = behindBlanks(line, at + name.size());
+        if (name.isEmpty() || name.front().isDigit() || behind >= line.size())
+            return;
+        names.append(name);
+        more = line[behind] == ',';
+        if (!more && !QStringView(u";=(").contains(line[behind]))
+            return;
+        at = behind + 1;
+        passStars();
+    }
+    found = names;
+}
+
+Names declarationsIn(QStringView line, Target target)
+{
+    Names found;
+    if (isBasic(target))
+        findInBasic(line, found);
+    else
+        findInCurly(line, found);
+    return found;
+}
+
+/// Behind a text in double quotes.
+qsizetype behindText(QStringView line, qsizetype at, Target target)
+{
+    for (++at; at < line.size() && line[at] != '"'; ++at)
+        if (line[at] == '\\' && !isBasic(target))
+            ++at;
+    return std::min(at + 1, line.size());
+}
+
+bool startsComment(QStringView line, qsizetype at, Target target)
+{
+    return isBasic(target) ? line[at] == '\'' : line.mid(at).startsWith(u"//");
+}
+
+} // namespace
+
+Locals::Locals(Target target) : target_(target), scopes_(1)
+{
+}
+
+void Locals::followBlocks(QStringView line)
+{
+    if (target_ == Target::Vba)
+        return;
+    const QStringView text = line.trimmed();
+    int opened = 0;
+    int closed = 0;
+    if (target_ == Target::VbNet) {
+        const bool otherwise = text.startsWith(u"Else");
+        opened = otherwise || (text.startsWith(u"If ") && text.endsWith(u" Then")) || text.startsWith(u"For ") ||
+                 text.startsWith(u"Public Sub ");
+        closed = otherwise || text.startsWith(u"End If") || text.startsWith(u"End Sub") || text.startsWith(u"Next");
+    } else if (!text.isEmpty() && (text.front() == '{' || text.front() == '}' || text.back() == '{')) {
+        opened = static_cast<int>(std::count(text.begin(), text.end(), QChar('{')));
+        closed = static_cast<int>(std::count(text.begin(), text.end(), QChar('}')));
+    }
+    const auto close = [this] {
+        if (scopes_.size() < 2)
+            return;
+        const Scope inner = scopes_.back();
+        scopes_.pop_back();
+        scopes_.back().inside += inner.declared;
+        scopes_.back().inside += inner.inside;
+    };
+    const bool closesFirst = target_ == Target::VbNet || text.startsWith(u'}');
+    for (; closesFirst && closed > 0; --closed)
+        close();
+    scopes_.resize(scopes_.size() + static_cast<std::size_t>(opened));
+    for (; closed > 0; --closed)
+        close();
+}
+
+/// C++ hides an outer local behind an inner one, .NET's languages do not allow it; C# does not even when the inner one
+/// stands in front.
+bool Locals::conflicts(const QString& name) const
+{
+    if (scopes_.back().declared.contains(name))
+        return true;
+    if (target_ == Target::Cpp || target_ == Target::CppCom)
+        return false;
+    if (target_ == Target::CSharp && scopes_.back().inside.contains(name))
+        return true;
+    return std::any_of(scopes_.begin(), scopes_.end(),
+                       [&](const Scope& scope) { return scope.declared.contains(name); });
+}
+
+QString Locals::keyOf(QStringView name) const
+{
+    return isBasic(target_) ? name.toString().toLower() : name.toString();
+}
+
+const QString* Locals::otherNameOf(const QString& name) const
+{
+    for (auto scope = scopes_.rbegin(); scope != scopes_.rend(); ++scope) {
+        if (const auto found = scope->renamed.constFind(name); found != scope->renamed.constEnd())
+            return &found.value();
+        if (scope->declared.contains(name))
+            return nullptr;
+    }
+    return nullptr;
+}
+
+bool Locals::declaresTwice(QStringView line)
+{
+    if (target_ == Target::JavaScript)
+        return false;
+    followBlocks(line);
+    bool twice = false;
+    for (const QStringView name : declarationsIn(line, target_)) {
+        const QString key = keyOf(name);
+        twice = twice || conflicts(key);
+        scopes_.back().declared.insert(key);
+    }
+    return twice;
+}
+
+QString Locals::toldApart(const QString& line)
+{
+    if (target_ == Target::JavaScript)
+        return line;
+    followBlocks(line);
+    for (const QStringView name : declarationsIn(line, target_)) {
+        const QString key = keyOf(name);
+        Scope& scope = scopes_.back();
+        if (conflicts(key))
+            scope.renamed[key] = QString("%1_v%2").arg(name).arg(++counts_[key] + 1);
+        scope.declared.insert(key);
+    }
+    return counts_.isEmpty() ? line : withOtherNames(line);
+}
+
+/// Texts and comments stay as they are, and so do members, which stand behind a dot or an arrow.
+QString Locals::withOtherNames(const QString& line) const
+{
+    const QStringView text(line);
+    QString changed;
+    for (qsizetype at = 0; at < text.size();) {
+        const qsizetype from = at;
+        if (text[at] == '"') {
+            at = behindText(text, at, target_);
+        } else if (startsComment(text, at, target_)) {
+            at = text.size();
+        } else if (isNamePart(text[at])) {
+            const QStringView name = nameAt(text, at);
+            at += name.size();
+            const bool member = from > 0 && (text[from - 1] == '.' || text.mid(from - 1, 1) == u">");
+            const QString* const other = member ? nullptr : otherNameOf(keyOf(name));
+            if (other) {
+                changed += *other;
+                continue;
+            }
+        } else {
+            ++at;
+        }
+        changed += text.mid(from, at - from);
+    }
+    return changed;
+}
+
+} // namespace inkmacro

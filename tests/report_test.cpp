@@ -1,0 +1,133 @@
+// What the program tells of a macro besides writing it: counts and reports.
+
+#include "Program.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+/// In the third line a property and in the fourth an object that has no statement.
+const QByteArray lossy =
+    "{\"recording\":{\"version\":1}}\n" + line +
+    R"({"command":{"name":"A","actions":[{"sysvar":{"name":"X","value":{"int16":1}}},{"modified":{"class":"AcDbLine",)"
+    R"("handle":"2F","properties":[{"tag":"Material","value":"Oak"}]}}]}})"
+    "\n\n"
+    R"({"added":{"class":"HostWeldSymbol","handle":"3C","properties":[]}})"
+    "\n";
+/// A text that closes its literal.
+const QByteArray faulty =
+    R"({"added":{"class":"AcDbText","handle":"30","properties":[{"tag":"Contents","value":"6\" wide"}]}})"
+    "\n";
+
+QJsonArray conversions(const Outcome& outcome)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(outcome.out.toUtf8());
+    EXPECT_EQ(document.object().keys(), QStringList("conversions")) << outcome.out.toStdString();
+    return document["conversions"].toArray();
+}
+
+TEST_F(Program, CountsLossesAndFaults)
+{
+    write("whole.jsonl", line);
+    write("lossy.jsonl", lossy);
+    write("one.jsonl", R"({"added":{"class":"HostWeldSymbol","handle":"3C","properties":[]}})");
+    write("faulty.jsonl", faulty);
+    const auto counts = [this](const QStringList& arguments) {
+        const Outcome outcome = run(QStringList{"convert", "--output", "out/"} + arguments);
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_TRUE(outcome.out.startsWith("out/"));
+        return outcome.err;
+    };
+    EXPECT_EQ(counts({"whole.jsonl", "--target", "all"}), "");
+    EXPECT_EQ(counts({"lossy.jsonl", "--target", "csharp,vba"}), "out/csharp/lossy.cs: 2 steps lost; see --report\n"
+                                                                 "out/vba/lossy.bas: 2 steps lost; see --report\n");
+    EXPECT_EQ(counts({"one.jsonl", "--target", "vba"}), "out/vba/one.bas: 1 step lost; see --report\n");
+    EXPECT_EQ(counts({"faulty.jsonl", "--target", "vba"}), "out/vba/faulty.bas: 1 fault; see --report\n");
+    EXPECT_EQ(counts({"faulty.jsonl", "--target", "vba", "--repair"}), "");
+    EXPECT_EQ(counts({"lossy.jsonl", "--target", "csharp", "--quiet"}), "");
+    EXPECT_EQ(counts({"lossy.jsonl", "faulty.jsonl", "--target", "csharp,vba", "--quiet"}), "");
+}
+
+TEST_F(Program, ReportsOfAllJobsInOneDocument)
+{
+    write("lossy.jsonl", lossy);
+    write("faulty.jsonl", faulty);
+    write("refused.jsonl", line + "{\"custom\":{\"kind\":56,\"data\":[]}}\n");
+    write("broken.jsonl", "{\"undo\":1}\n");
+    write("out/blocked/csharp/blocked.cs/file", "");
+    write("blocked.jsonl", line);
+    const Outcome outcome = run({"convert", "lossy.jsonl", "faulty.jsonl", "refused.jsonl", "broken.jsonl",
+                                 "blocked.jsonl", "-", "--target", "csharp,vba", "--output", "out/", "--report"},
+                                line);
+    EXPECT_EQ(outcome.status, 3);
+    EXPECT_EQ(outcome.err.count("broken.jsonl:1: "), 1) << outcome.err.toStdString();
+    EXPECT_TRUE(outcome.err.contains("out/lossy/vba/lossy.bas: 2 steps lost\n"));
+
+    const QJsonArray reports = conversions(outcome);
+    QStringList told;
+    for (const QJsonValue& report : reports)
+        told.append(QString("%1 %2 %3 %4 %5")
+                        .arg(report["macro"].toString(), report["status"].toString())
+                        .arg(report["project"].toArray().size())
+                        .arg(report["losses"].toArray().size())
+                        .arg(report["faults"].toArray().size()));
+    EXPECT_EQ(told.join('\n').toStdString(), "out/lossy/csharp/lossy.cs converted 2 2 0\n"
+                                             "out/lossy/vba/lossy.bas converted 0 2 0\n"
+                                             "out/faulty/csharp/faulty.cs converted 2 0 1\n"
+                                             "out/faulty/vba/faulty.bas converted 0 0 1\n"
+                                             "out/refused/csharp/refused.cs failed 2 1 0\n"
+                                             "out/refused/vba/refused.bas failed 0 1 0\n"
+                                             "out/broken/csharp/broken.cs unreadable 2 0 0\n"
+                                             "out/broken/vba/broken.bas unreadable 0 0 0\n"
+                                             "out/blocked/csharp/blocked.cs failed 2 0 0\n"
+                                             "out/blocked/vba/blocked.bas converted 0 0 0\n"
+                                             "out/recording/csharp/recording.cs converted 2 0 0\n"
+                                             "out/recording/vba/recording.bas converted 0 0 0");
+    EXPECT_EQ(reports[0]["project"], (QJsonArray{"out/lossy/csharp/Program.cs", "out/lossy/csharp/lossy.csproj"}));
+    EXPECT_EQ(reports[1]["losses"], (QJsonArray{QJsonObject{{"line", 3},
+                                                            {"path", "command.actions[1]"},
+                                                            {"what", "property \"Material\" of AcDbLine 2F"},
+                                                            {"reason", "no statement sets it"}},
+                                                QJsonObject{{"line", 5},
+                                                            {"path", ""},
+                                                            {"what", "added HostWeldSymbol 3C"},
+                                                            {"reason", "objects of its class have no statements"}}}));
+    const QJsonObject fault = reports[3]["faults"][0].toObject();
+    EXPECT_EQ(fault["file"], "faulty.bas");
+    EXPECT_TRUE(fault["mended"].toBool());
+    const QList<QByteArray> lines = contents("out/faulty/vba/faulty.bas").split('\n');
+    EXPECT_TRUE(lines.value(fault["line"].toInt() - 1).contains("6\" wide")) << fault["line"].toInt();
+}
+
+TEST_F(Program, ReportsAsTables)
+{
+    write("lossy.jsonl", lossy);
+    write("none.jsonl", line);
+    EXPECT_EQ(
+        run({"convert", "lossy.jsonl", "none.jsonl", "--target", "csharp", "--output", "out/", "--report=text"}).out,
+        "lossy.jsonl to csharp: out/lossy/csharp/lossy.cs: 2 steps lost\n"
+        "  lost\n"
+        "    line 3  command.actions[1]  property \"Material\" of AcDbLine 2F  no statement sets it\n"
+        "    line 5                      added HostWeldSymbol 3C             objects of its class have no statements\n"
+        "none.jsonl to csharp: out/none/csharp/none.cs: nothing lost, no faults\n");
+    EXPECT_EQ(run({"convert", "lossy.jsonl", "--target", "csharp", "--report=table"}).status, 2);
+    // What stands behind the option is a file.
+    EXPECT_EQ(conversions(run({"convert", "--target", "csharp", "--report", "none.jsonl"})).size(), 1);
+}
+
+TEST_F(Program, TellsWhenAReportIsNotWritten)
+{
+    write("lossy.jsonl", lossy);
+    for (const char* const targets : {"csharp", "csharp,vba"}) {
+        const Outcome outcome = run({"convert", "lossy.jsonl", "--target", targets, "--output", "out/", "--report"}, {},
+                                    "exec >/dev/full; ");
+        EXPECT_EQ(outcome.status, 1) << targets;
+        EXPECT_TRUE(outcome.err.endsWith("inkmacro: standard output: No space left on device\n"))
+            << outcome.err.toStdString();
+        EXPECT_TRUE(contents("out/csharp/lossy.cs").contains("line1")) << targets;
+    }
+}
+
+} // namespace

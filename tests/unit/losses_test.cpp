@@ -1,0 +1,196 @@
+// What a conversion notes of a recording that its macro does not do, and where nothing is to be noted.
+
+#include "frame/CFxConverterIWAPI.h"
+#include "host/kernel/CFxServices.h"
+#include "recordfile/OpenDrawing.h"
+#include "recordfile/RecordingReader.h"
+#include "targets/Target.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QTemporaryDir>
+
+using namespace inkmacro;
+
+namespace {
+
+/// "0.2 what: reason", the numbers being the place.
+std::vector<std::string> lossesOf(const QByteArray& lines, Target target = Target::CSharp)
+{
+    QByteArray bytes = lines;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    Recording recording;
+    const auto error = ReadRecording(buffer, "test", recording);
+    EXPECT_FALSE(error) << error->text().toStdString();
+
+    const auto language = static_cast<std::uint32_t>(target);
+    GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
+    const OpenDrawing drawing(recording);
+    const QTemporaryDir folder;
+    CreateConverter(language, static_cast<std::uint32_t>(recording.header.mode), 0)
+        ->Convert(folder.filePath("macro"), recording.actions);
+    GetFxSystemServices()->SetInt16("RecordingLanguage", 0);
+
+    std::vector<std::string> losses;
+    for (const CFxLoss& loss : GetFxSystemServices()->Notes().GetLosses()) {
+        QStringList place;
+        for (const std::uint32_t number : loss.where)
+            place.append(QString::number(number));
+        losses.push_back(
+            (place.join('.') + ' ' + loss.what.toQString() + ": " + loss.reason.toQString()).toStdString());
+    }
+    return losses;
+}
+
+QByteArray command(const QByteArray& children)
+{
+    return "{\"command\":{\"name\":\"TEST\",\"actions\":[" + children + "]}}\n";
+}
+
+const QByteArray line = R"({"added":{"class":"AcDbLine","handle":"30","properties":[{"tag":"End X","value":4.5}]}})";
+const QByteArray replay = "{\"recording\":{\"version\":1,\"mode\":1}}\n";
+
+QByteArray changed(const QByteArray& cls, const QByteArray& handle, const QByteArray& properties)
+{
+    return "{\"modified\":{\"class\":\"" + cls + "\",\"handle\":\"" + handle + "\",\"properties\":[" + properties +
+           "]}}\n";
+}
+
+using Lines = std::vector<std::string>;
+
+TEST(Losses, AreNoneOfWhatIsPassedOverByRule)
+{
+    const QByteArray cases[] = {
+        // Asked again only in a replay.
+        command(R"({"interaction":{"kind":"angle","prompt":"A:","result":{"type":5004,"double":0.5}}},)"
+                R"({"selection":{"objects":[]}},{"sysvar":{"name":"NOSUCH","value":{"int16":1}}})"),
+        replay + command(R"({"interaction":{"kind":"angle","prompt":"A:","result":null}})"),
+        // A leader brings its note.
+        R"({"object":{"class":"AcDbMText","handle":"31","reactors":["32"]}}
+{"object":{"class":"AcDbLeader","handle":"32","annotationObjectId":"31"}}
+)" + command(R"({"added":{"class":"AcDbLeader","handle":"32","properties":[]}},)"
+             R"({"added":{"class":"AcDbMText","handle":"31","properties":[{"tag":"Contents","value":"a"}]}})"),
+        // The insertion or the style gives what a change would set.
+        command(
+            R"({"added":{"class":"AcDbAlignedDimension","handle":"31","properties":[{"tag":"Arrow size","value":2}]}},)"
+            R"({"added":{"class":"AcDbCircle","handle":"32","properties":[{"tag":"Diameter","value":2}]}})"),
+        // Only one of several marks is set.
+        command(
+            R"({"added":{"class":"AcDbDimStyleTableRecord","handle":"31","properties":[)"
+            R"({"tag":"FitDimensionsGeometryText","value":"No"},{"tag":"Linear Dimensions Prefix","value":"<>"}]}})"),
+        // Shown values that follow from others.
+        line + '\n' + changed("AcDbLine", "30", R"({"tag":"End X","value":5},{"tag":"Delta X","value":5})"),
+        // What a custom action makes has what new objects have.
+        command(
+            R"({"added":{"class":"AcDbRegion","handle":"31","properties":[{"tag":"LineColor","value":{"color":"bylayer"}}]}},)"
+            R"({"custom":{"kind":44,"data":[{"handles":[]},{"classes":[]}]}})"),
+        // A block inserts its hatches.
+        R"({"object":{"class":"AcDbHatch","handle":"31","seedPoints":[[1,1]],"loops":[{"type":4}]}}
+)" + command(R"({"added":{"class":"AcDbHatch","handle":"31","properties":[]}},)"
+             R"({"added":{"class":"AcDbBlockTableRecord","handle":"32","properties":[{"tag":"Name","value":"B"},)"
+             R"({"tag":"Objects","value":{"collection":{"elements":[{"tag":{"int":0},"value":"31"}]}}}]}})"),
+    };
+    for (const QByteArray& lines : cases)
+        EXPECT_EQ(lossesOf(lines), Lines()) << lines.toStdString();
+}
+
+TEST(Losses, OfACommandAreItsFailedChildAndAllBehindIt)
+{
+    const QByteArray children = line +
+                                R"(,{"custom":{"kind":56,"data":[]}},)"
+                                R"({"sysvar":{"name":"LTSCALE","value":{"double":1}}},)" +
+                                changed("AcDbLine", "30", R"({"tag":"Layer","value":{"id":"10"}})").trimmed();
+    EXPECT_EQ(lossesOf(command(line) + command(children)),
+              (Lines{"1.1 custom 56: no statement is known for this kind of action or form of its data",
+                     "1.3 modified AcDbLine 30: action 2 of its command could not be converted"}));
+    EXPECT_EQ(lossesOf(replay + command(children)).at(1),
+              "0.2 sysvar LTSCALE: action 2 of its command could not be converted");
+    // The reason of a failure at top level is known too, though there is no macro then.
+    EXPECT_EQ(lossesOf(line + "\n{\"custom\":{\"kind\":0,\"data\":[]}}\n"), (Lines{"1 custom mirror: invalid index"}));
+    EXPECT_EQ(lossesOf(command(command(line).trimmed())), (Lines{"0.0 command TEST: it could not be converted"}));
+}
+
+TEST(Losses, OfObjectsTellTheirReason)
+{
+    const struct
+    {
+        QByteArray lines;
+        const char* loss;
+    } cases[] = {
+        {command(R"({"added":{"class":"HostWeldSymbol","handle":"31","properties":[]}})"),
+         "0.0 added HostWeldSymbol 31: objects of its class have no statements"},
+        {changed("AcDbLine", "A0", R"({"tag":"End X","value":1},{"tag":"End Y","value":1})"),
+         "0 changes of AcDbLine A0: the recording did not add the object, so the macro has no variable for it"},
+        {command(R"({"added":{"class":"AcDbRadialDimension","handle":"31","properties":[]}})"),
+         "0.0 AcDbRadialDimension 31: the drawing does not have a circle or an arc that it measures"},
+        {command(R"({"added":{"class":"AcDbRegion","handle":"31","properties":[]}})"),
+         "0.0 AcDbRegion 31: no action of its command makes it"},
+        {command(R"({"added":{"class":"AcDbRegion","handle":"31","properties":[{"tag":"Thickness","value":2}]}},)"
+                 R"({"custom":{"kind":44,"data":[{"handles":[]},{"classes":[]}]}})"),
+         "0.0 property \"Thickness\" of AcDbRegion 31: the action that makes the object does not set it"},
+        {R"({"object":{"class":"AcDbPolyline","handle":"31","points":[[0,0],[1,0],[2,0]],"bulges":[0,1]}}
+)" + command(R"({"added":{"class":"AcDbPolyline","handle":"31","properties":[]}})"),
+         "0.0 property \"Vertex\" of AcDbPolyline 31: arcs come as lines"},
+        {command(R"({"added":{"class":"AcDbBlockTableRecord","handle":"32","properties":[{"tag":"Name","value":"B"},)"
+                 R"({"tag":"Objects","value":{"collection":{"elements":[{"tag":{"int":0},"value":"31"}]}}}]}})"),
+         "0.0 object 31 in block B: the drawing does not have it"},
+        {command(R"({"custom":{"kind":37,"data":[{"handles":[]},{"classes":[]},{"string":"G"}]}})"),
+         "0.0 custom group add: the macro does not have the group"},
+        {command(R"({"custom":{"kind":8,"data":[{"string":"FILLET"},{"handle":"1"},{"class":"AcDbPolyline"}]}})"),
+         "0.0 custom fillet: the interface has no operation for all corners of a polyline"},
+        {replay + command(R"({"sysvar":{"name":"NOSUCH","value":{"int16":1}}})"),
+         "0.0 sysvar NOSUCH: the interface has no option for it"},
+    };
+    for (const auto& [lines, loss] : cases)
+        EXPECT_EQ(lossesOf(lines), Lines{loss});
+}
+
+TEST(Losses, OfPropertiesAreThoseThatNoStatementSets)
+{
+    const auto ofLine = [](const QByteArray& properties) {
+        return lossesOf(command(line) + changed("AcDbLine", "30", properties));
+    };
+    EXPECT_EQ(
+        ofLine(R"({"tag":"Material","value":"Oak"},{"tag":"Layer","value":{"id":"99"}},{"tag":"End X","value":1})"),
+        (Lines{"1 property \"Layer\" of AcDbLine 30: the drawing does not have what it names",
+               "1 property \"Material\" of AcDbLine 30: no statement sets it"}));
+    EXPECT_EQ(ofLine(R"({"tag":"Erased","value":"NO"})"),
+              (Lines{"1 property \"Erased\" of AcDbLine 30: what comes back has no statement"}));
+    // The same property of one action counts once, of two actions twice.
+    const QByteArray twice = R"({"tag":"Material","value":"Oak"},{"tag":"Material","value":"Ash"})";
+    EXPECT_EQ(ofLine(twice).size(), 1U);
+    EXPECT_EQ(lossesOf(command(line) + changed("AcDbLine", "30", twice) + changed("AcDbLine", "30", twice)).size(), 2U);
+
+    const QByteArray polyline = command(R"({"added":{"class":"AcDbPolyline","handle":"31","properties":[]}})");
+    EXPECT_EQ(lossesOf(polyline + changed("AcDbPolyline", "31", R"({"tag":"Vertex X","value":1})")),
+              (Lines{"1 property \"Vertex X\" of AcDbPolyline 31: its number is not recorded"}));
+
+    const QByteArray table = command(
+        R"({"added":{"class":"AcDbTable","handle":"31","properties":[{"tag":"Rows","value":5},{"tag":"Columns","value":2},)"
+        R"({"tag":"ColumnWidth_0","value":9},{"tag":"ColumnWidth_1","value":9},{"tag":"Contents_1_1","value":"a"}]}})");
+    EXPECT_EQ(lossesOf(table + changed("AcDbTable", "31", R"({"tag":"Rows","value":3})")),
+              (Lines{"0.0 property \"Contents_1_1\" of AcDbTable 31: the texts of a new table have no statement",
+                     "1 property \"Rows\" of AcDbTable 31: one line is removed where several went"}));
+}
+
+TEST(Losses, DependOnTheTarget)
+{
+    const QByteArray style = command(R"({"added":{"class":"AcDbTableStyle","handle":"31","properties":[)"
+                                     R"({"tag":"TableStyleName","value":"S"}]}})") +
+                             changed("AcDbTableStyle", "31", R"({"tag":"textStyle","value":"Roman"})");
+    const QByteArray selection = command(R"({"custom":{"kind":10,"data":[{"int":0},{"points":[[0,0,0]]}]}})");
+    for (const Target target :
+         {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba}) {
+        const bool noStyle = target == Target::Cpp || target == Target::JavaScript;
+        const bool noSelection = target == Target::CppCom || target == Target::JavaScript || target == Target::VbNet;
+        EXPECT_EQ(lossesOf(style, target), noStyle ? Lines{"1 property \"textStyle\" of AcDbTableStyle 31: the target "
+                                                           "has no statement that sets it so"}
+                                                   : Lines());
+        EXPECT_EQ(lossesOf(selection, target),
+                  noSelection ? Lines{"0.0 selection: the target has no statement for it"} : Lines());
+    }
+}
+
+} // namespace
