@@ -93,7 +93,8 @@ static const Phrase hatchByPolyline{
                "%1Set %7 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
     }};
 static const Mend hatchInPage(
-    hatchByPolyline, Target::JavaScript, "the page has no iwSketchManager, its sketch manager is mSkMgr, and the hatch's variable is not declared",
+    hatchByPolyline, Target::JavaScript,
+    "the page has no iwSketchManager, its sketch manager is mSkMgr, and the hatch's variable is not declared",
     "%2%1var iwEntities = new Array(1);%2%1iwEntities[0] = %6;%2%1var %7 = mSkMgr.InsertHatchByEntities(%2%1 iwEntities, %2%1 \"%3\", %2%1 %4, %2%1 %5 );%2");
 
 static const Phrase eraseBoundaryPolyline{"EmitHatchByPolyline: erasure",
@@ -173,6 +174,10 @@ static const Phrase setGradient{
         .vba = "%2%1Dim hatchPattern%3 As Inkwright.HatchPattern%2%1hatchPattern%3 = %8.GetHatchPattern()%2"
                "%1hatchPattern%3.SetGradientData %4, %5, %6, %7%2",
     }};
+static const Mend
+    basicGradient(setGradient, Target::Vba, "an object is assigned without Set",
+                  "%2%1Dim hatchPattern%3 As Inkwright.HatchPattern%2%1Set hatchPattern%3 = %8.GetHatchPattern()%2"
+                  "%1hatchPattern%3.SetGradientData %4, %5, %6, %7%2");
 
 QString EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient)
 {
