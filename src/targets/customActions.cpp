@@ -76,9 +76,8 @@ static const Phrase chooseElement{"EmitSetElementColor",
                                       .vbNet = "%3ElementOption = %5%4",
                                       .vba = "%3Set ElementOption = %5%4",
                                   }};
-static const Mend scriptElement(
-    chooseElement, Target::JavaScript, "a cast of a typed language",
-    "%3ElementOption = %5;%4");
+static const Mend scriptElement(chooseElement, Target::JavaScript, "a cast of a typed language",
+                                "%3ElementOption = %5;%4");
 
 static const Phrase colorByIndex{"EmitSetElementColor",
                                  {
@@ -89,9 +88,8 @@ static const Phrase colorByIndex{"EmitSetElementColor",
                                      .vbNet = "%4iwColor1 = iwApp.GetColorByIndex( %6 )%5",
                                      .vba = "%4Set iwColor1 = iwApp.GetColorByIndex( %6 )%5",
                                  }};
-static const Mend indexedColorInPage(
-    colorByIndex, Target::JavaScript, "the page has no iwApp, its application is mApp",
-    "%4iwColor1 = mApp.GetColorByIndex( %6 );%5");
+static const Mend indexedColorInPage(colorByIndex, Target::JavaScript, "the page has no iwApp, its application is mApp",
+                                     "%4iwColor1 = mApp.GetColorByIndex( %6 );%5");
 
 static const Phrase colorByRgb{"EmitSetElementColor",
                                {
@@ -102,9 +100,8 @@ static const Phrase colorByRgb{"EmitSetElementColor",
                                    .vbNet = "%4iwColor1 = iwApp.GetRGBColor( %6, %7, %8 )%5",
                                    .vba = "%4Set iwColor1 = iwApp.GetRGBColor( %6, %7, %8 )%5",
                                }};
-static const Mend rgbColorInPage(
-    colorByRgb, Target::JavaScript, "the page has no iwApp, its application is mApp",
-    "%4iwColor1 = mApp.GetRGBColor( %6, %7, %8 );%5");
+static const Mend rgbColorInPage(colorByRgb, Target::JavaScript, "the page has no iwApp, its application is mApp",
+                                 "%4iwColor1 = mApp.GetRGBColor( %6, %7, %8 );%5");
 
 static const Phrase setElementColor{"EmitSetElementColor",
                                     {

@@ -63,9 +63,10 @@ std::int32_t numberIn(const CFxPropertyChangedPtr& record, int which)
     return record->GetName().toQString().section('_', which, which).toInt();
 }
 
-const Fault kSingleRemoval{"ConvertTableCount",
-                           {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
-                           "of several rows or columns that went only the last is removed"};
+const Fault kSingleRemoval{
+    "ConvertTableCount",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "of several rows or columns that went only the last is removed"};
 
 /// Takes all records out of the list whose tags begin so.
 PropertyList takeAll(const char* tag, PropertyList& list)

@@ -63,9 +63,10 @@ static const Phrase eraseBlock{"EmitInsertHatchByEntities: erasure of a block in
 /// the number of the table is lost. It has to stay so.
 static const Phrase eraseTable{"EmitInsertHatchByEntities: erasure of a table",
                                withScript(eraseWords, "%hatchTable_%3.put_Erased(true);%2")};
-static const Mend scriptTableErasure(
-    eraseTable, Target::JavaScript, "of a marker's number the 1 is missing, so the values of the statement are one place off",
-    "%1%3.put_Erased(true);%2");
+static const Mend
+    scriptTableErasure(eraseTable, Target::JavaScript,
+                       "of a marker's number the 1 is missing, so the values of the statement are one place off",
+                       "%1%3.put_Erased(true);%2");
 
 namespace {
 
@@ -284,8 +285,8 @@ QString eraseTemporary(Writer& writer, const TemporaryKind& kind, std::uint32_t 
     if (target == Target::Vba)
         statement.number(number);
     const std::uint32_t tables = processCounters.of(target).boundaryEntities[kTable];
-    const bool misled = (target == Target::Cpp || target == Target::CSharp || target == Target::JavaScript) &&
-                        number != tables;
+    const bool misled =
+        (target == Target::Cpp || target == Target::CSharp || target == Target::JavaScript) && number != tables;
     statement.text(numbered(kind, misled && !writer.repairs ? tables : number));
     return misled ? writer.faulty(statement, kForeignNumber) : statement.str();
 }

@@ -16,7 +16,8 @@ static const Phrase setModelProperty{"EmitSetModelProperty",
                                          .vba = "%1iwModel.%3 = \"%4\"%2",
                                      }};
 static const Mend modelPropertyOfPage(
-    setModelProperty, Target::JavaScript, "the marker of the indentation lacks its number, so the values of the statement are one place off",
+    setModelProperty, Target::JavaScript,
+    "the marker of the indentation lacks its number, so the values of the statement are one place off",
     "%1mModel.put_%3( \"%4\" );%2");
 
 static const Phrase setSheetProperty{"EmitSetModelProperty",
