@@ -136,6 +136,16 @@ TEST(Losses, OfObjectsTellTheirReason)
         {command(R"({"added":{"class":"AcDbBlockTableRecord","handle":"32","properties":[{"tag":"Name","value":"B"},)"
                  R"({"tag":"Objects","value":{"collection":{"elements":[{"tag":{"int":0},"value":"31"}]}}}]}})"),
          "0.0 object 31 in block B: the drawing does not have it"},
+        {R"({"object":{"class":"AcDbMText","handle":"31","reactors":["32"]}}
+{"object":{"class":"AcDbLeader","handle":"32","annotationObjectId":"31"}}
+)" + command(R"({"added":{"class":"AcDbMText","handle":"31","properties":[]}})"),
+         "0.0 AcDbMText 31: a leader brings it that the macro does not have"},
+        {R"({"object":{"class":"AcDbSpline","handle":"31"}}
+)" + command(R"({"custom":{"kind":18,"data":[{"string":"ANSI31"},{"double":1},{"double":0},{"bool":false},{"bool":true},)"
+             R"({"bool":false},{"bool":false},{"ids":["31"]},{"bool":false}]}})"),
+         "0.0 AcDbSpline 31: a boundary has no objects of its class"},
+        {command(R"({"custom":{"kind":17,"data":[{"handles":["31"]},{"classes":["HostWeldSymbol"]}]}})"),
+         "0.0 HostWeldSymbol 31: objects of its class have no statements"},
         {command(R"({"custom":{"kind":37,"data":[{"handles":[]},{"classes":[]},{"string":"G"}]}})"),
          "0.0 custom group add: the macro does not have the group"},
         {command(R"({"custom":{"kind":8,"data":[{"string":"FILLET"},{"handle":"1"},{"class":"AcDbPolyline"}]}})"),
