@@ -152,12 +152,6 @@ static QString takeColor(Writer& writer, const Phrase& indexed, const Phrase& rg
     return statement.number(color.red()).number(color.green()).number(color.blue());
 }
 
-/// A color by layer or by block counts as black in a gradient.
-static OdCmColor plainColor(const OdCmColor& color)
-{
-    return color.isByACI() ? color : OdCmColor::byRgb(color.red(), color.green(), color.blue());
-}
-
 static const Phrase setGradient{
     "EmitHatchGradient",
     {
@@ -181,13 +175,14 @@ static const Mend
 
 QString EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient)
 {
-    const OdCmColor first = plainColor(gradient.first);
-    const OdCmColor second = plainColor(gradient.second);
+    const OdCmColor first = gradientColor(writer, gradient.first);
+    const OdCmColor second = gradientColor(writer, gradient.second);
     Fill call = writer.fill(setGradient);
     call.number(++writer.UniqueCounter);
     if (writer.target != Target::Cpp)
         call.text(colorExpression(writer.target, first)).text(colorExpression(writer.target, second));
     call.text(truthWord(writer.target, gradient.centered)).real(gradient.angle).text(hatch);
-    return takeColor(writer, firstIndexedColor, firstRgbColor, first) +
-           takeColor(writer, secondIndexedColor, secondRgbColor, second) + call.str();
+    const QString text = takeColor(writer, firstIndexedColor, firstRgbColor, first) +
+                         takeColor(writer, secondIndexedColor, secondRgbColor, second) + call.str();
+    return notingBlack(writer, notingBlack(writer, text, gradient.first), gradient.second);
 }

@@ -2,6 +2,7 @@
 
 #include "objects/targets/hatchPatterns.h"
 
+#include "objects/targets/colors.h"
 #include "targets/enumerations.h"
 #include "targets/wording.h"
 
@@ -353,14 +354,16 @@ static const Phrase putGradientData{
 static QString changeColor(Writer& writer, const Phrase& assignment, const char* local, const OdCmColor& color,
                            std::uint32_t number)
 {
-    Fill text = writer.fillPlain(color.isByACI() ? indexedColor : rgbColor);
-    if (color.isByACI())
-        text.number(color.colorIndex());
+    const OdCmColor plain = gradientColor(writer, color);
+    Fill text = writer.fillPlain(plain.isByACI() ? indexedColor : rgbColor);
+    if (plain.isByACI())
+        text.number(plain.colorIndex());
     else
-        text.number(color.red()).number(color.green()).number(color.blue());
-    if (writer.target == Target::Cpp)
-        return text.indent(writer.IndentLevel).text(QLatin1String(local));
-    return writer.fill(assignment).text(text.str()).number(number);
+        text.number(plain.red()).number(plain.green()).number(plain.blue());
+    const QString change = writer.target == Target::Cpp
+                               ? text.indent(writer.IndentLevel).text(QLatin1String(local)).str()
+                               : writer.fill(assignment).text(text.str()).number(number).str();
+    return notingBlack(writer, change, color);
 }
 
 QString EmitHatchGradientData(Writer& writer, const CFxString& pattern, const HatchGradientChange& change)
