@@ -62,6 +62,9 @@ static const Phrase drawingSupportFilesObject{
         .vbNet = "%1Dim %3 As Inkwright.DrawingSupportFiles = iwApp.GetDrawingSupportFiles()%2",
         .vba = "%1Dim %3 As Inkwright.DrawingSupportFiles%2%11Set %3 = iwApp.GetDrawingSupportFiles()%2",
     }};
+static const Mend
+    basicDrawingSupportFiles(drawingSupportFilesObject, Target::Vba, "a placeholder of the statement is never filled",
+                             "%1Dim %3 As Inkwright.DrawingSupportFiles%2%1Set %3 = iwApp.GetDrawingSupportFiles()%2");
 
 QString EmitDrawingSupportFilesObject(Writer& writer, CFxString& variable)
 {

@@ -168,6 +168,10 @@ static const Phrase setGradient{
         .vba = "%2%1Dim hatchPattern%3 As Inkwright.HatchPattern%2%1hatchPattern%3 = %8.GetHatchPattern()%2"
                "%1hatchPattern%3.SetGradientData %4, %5, %6, %7%2",
     }};
+static const Mend
+    basicGradient(setGradient, Target::Vba, "an object is assigned without Set",
+                  "%2%1Dim hatchPattern%3 As Inkwright.HatchPattern%2%1Set hatchPattern%3 = %8.GetHatchPattern()%2"
+                  "%1hatchPattern%3.SetGradientData %4, %5, %6, %7%2");
 
 QString EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient)
 {

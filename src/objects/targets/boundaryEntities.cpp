@@ -57,6 +57,10 @@ static const Phrase eraseRegion{
     "EmitInsertHatchByEntities: erasure of a region",
     withVba(eraseWords, "%1Dim regionObj%3 As Variant%2%1Dim iwRegion%3 As Inkwright.Region%2"
                         "%1Set regionObj%3 = %4(0)%2%1Set iwRegion = regionObj%2%1iwRegion.Erased = True%2")};
+static const Mend
+    basicRegionErasure(eraseRegion, Target::Vba, "the numbers of both variables are missing",
+                       "%1Dim regionObj%3 As Variant%2%1Dim iwRegion%3 As Inkwright.Region%2"
+                       "%1Set regionObj%3 = %4(0)%2%1Set iwRegion%3 = regionObj%3%2%1iwRegion%3.Erased = True%2");
 static const Phrase eraseBlock{"EmitInsertHatchByEntities: erasure of a block instance",
                                withScript(eraseWords, "%1%3.put_Erased( true );%2")};
 /// Of the marker for the indentation a 1 is missing, so that indentation and line end go to the places behind it, and
