@@ -48,7 +48,7 @@ class Judge:
 def main():
     checked = harness.Checked()
     repaired = sys.argv[3:] == ["repaired"]
-    macros = checked.repaired("cpp") if repaired else checked.macros("cpp")
+    macros = checked.macros("cpp", *["--repair"] * repaired)
     judge = Judge(checked, macros)
     faults = harness.KnownFaults("cpp", *([()] if repaired else []))
     faults.settle(judge.files, judge)

@@ -79,7 +79,7 @@ class Judge:
 def main():
     checked = harness.Checked()
     repaired = sys.argv[3:] == ["repaired"]
-    macros = checked.repaired("csharp") if repaired else checked.macros("csharp")
+    macros = checked.macros("csharp", *["--repair"] * repaired)
     judge = Judge(checked, macros)
     faults = harness.KnownFaults("csharp", *([()] if repaired else []))
     faults.settle(judge.files, judge)

@@ -51,7 +51,7 @@ def parse(node, macro, script):
 
 def check_syntax(checked, repaired, excused, _):
     node, = harness.need("node")
-    macros = checked.repaired("javascript") if repaired else checked.macros("javascript")
+    macros = checked.macros("javascript", *["--repair"] * repaired)
     faults = harness.KnownFaults("javascript", excused and ("parse",))
     for macro in macros:
         faults.settle([macro.file], lambda macro=macro: parse(node, macro, checked.folder / "script.js"))
@@ -60,7 +60,7 @@ def check_syntax(checked, repaired, excused, _):
 
 def check_run(checked, repaired, excused, comparison):
     executable, = harness.need("chromium")
-    macros = checked.repaired("javascript") if repaired else checked.macros("javascript")
+    macros = checked.macros("javascript", *["--repair"] * repaired)
     faults = harness.KnownFaults("javascript", excused)
     with browser.Browser(executable, checked.folder) as window:
         for macro in macros:

@@ -60,10 +60,12 @@ class Checked:
         self._temporary = tempfile.TemporaryDirectory(prefix="inkmacro-tools-", ignore_cleanup_errors=True)
         self.folder = pathlib.Path(self._temporary.name)
 
-    def recordings(self):
-        """Scenarios, examples, and the recordings that exist for these checks alone, by the name of their macro."""
+    def recordings(self, repaired=False):
+        """Scenarios, examples, and the recordings that exist for these checks alone, by the name of their macro. Some
+        are for repaired macros alone: no tool goes on behind the faults of others."""
         found = {file.parent.name: file for file in self.source.glob("tests/scenarios/*/recording.jsonl")}
-        for pattern in ("examples/*.jsonl", "tests/tools/recordings/*.jsonl"):
+        patterns = ["examples/*.jsonl", "tests/tools/recordings/*.jsonl"]
+        for pattern in patterns + ["tests/tools/recordings/faulty/*.jsonl"] * repaired:
             for file in self.source.glob(pattern):
                 if file.stem in found:
                     sys.exit(f"{file} and {found[file.stem]} would give macros of one name")
@@ -86,18 +88,14 @@ class Checked:
             found[title].write_text(text, encoding="utf-8")
         return found
 
-    def repaired(self, target):
-        return self._converted(target, {**self.recordings(), **self.hostile_recordings()}, ["--repair"])
-
-    def macros(self, target):
-        return self._converted(target, self.recordings(), [])
-
-    def _converted(self, target, recordings, options):
-        """Converts recordings with those options of the program, each into a folder of its own."""
+    def macros(self, target, *options):
+        """Converts every recording with those options of the program, each into a folder of its own; to repaired
+        macros the hostile ones too."""
         if not self.has(target):
             skip(f"the program has no target {target}")
+        repaired = "--repair" in options
         macros = []
-        for name, recording in recordings.items():
+        for name, recording in {**self.recordings(repaired), **(self.hostile_recordings() if repaired else {})}.items():
             folder = self.folder / target / name
             folder.mkdir(parents=True)
             file = folder / f"{name}.{EXTENSIONS[target]}"

@@ -8,7 +8,7 @@ ENDINGS = ['"; System.IO.File.Delete("x"); //', "</script><b>'", "a\nb\r\nc", "b
            "tab\tbell\a1", "\u201cquoted\u201d", '" & Kill("x") & "', "\u2028end\u2029\x85", "??/ ??=", "<!-- \\u0022 ${x}"]
 
 # Of recordings and so of their macros.
-NAMES = ["a b-1", "class", "1st", "Line", "System", "O'Neil & Sons", "math", "Run", "caf\u00e9", "100%1"]
+NAMES = ["a b-1", "namespace", "1st", "Line", "System", "O'Neil & Sons", "math", "Run", "caf\u00e9", "100%1"]
 
 # Keys and property tags under which users' texts stand.
 KEYS = {"comments", "contents", "dimensionText", "pathName", "plotStyleName", "textString", "text", "prompt", "local",
