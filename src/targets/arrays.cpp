@@ -155,11 +155,19 @@ static QString objectWord(const ArrayPlace& place, const QString& word)
     return place.writer.target == Target::VbNet ? bracketed(place, word) : word;
 }
 
+static const Fault kReleasedElement{
+    "array of objects", {Target::CppCom}, "a pointer is taken out of a temporary, which lets go of the object"};
+
 QString objectLines(const ArrayPlace& place, std::vector<QString> words)
 {
+    const Writer& writer = place.writer;
+    const bool found = std::any_of(words.begin(), words.end(), [](const QString& word) { return word.endsWith(')'); });
+    const bool released = writer.target == Target::CppCom && found;
     for (QString& word : words)
         word = objectWord(place, word);
-    return elementLines(objectElement, "IDispatch*", place, words);
+    const QString lines =
+        elementLines(objectElement, released && writer.repairs ? "IDispatchPtr" : "IDispatch*", place, words);
+    return released ? writer.faulty(lines, kReleasedElement) : lines;
 }
 
 QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words)

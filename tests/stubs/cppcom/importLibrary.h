@@ -39,6 +39,8 @@ public:
     template<class Other>
     _com_ptr_t(Other* other);
     _com_ptr_t& operator=(T* object);
+    template<class Other>
+    _com_ptr_t& operator=(const _com_ptr_t<Other>& other);
 
     void Attach(T* object);
     T* operator->() const;
