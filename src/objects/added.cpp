@@ -46,15 +46,14 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
     if (const ClassRow* const row = FindClass(cls); row && row->reader)
         text = row->reader(added);
     strike(added.consumed(), rest);
-    if (text.isEmpty() || cls == OdDbHatch::desc())
+    if (text.isEmpty() && !IsMadeByAction(cls, handle))
+        driver.unmade.insert(handle);
+    // The hatch stands there already, and its general properties have to wait for no other statement.
+    const bool isThere = writer.repairs && cls == OdDbHatch::desc() && IsHatchInserted(name);
+    if ((text.isEmpty() || cls == OdDbHatch::desc()) && !isThere)
         LoseUnmade(rest, !text.isEmpty());
-    if (text.isEmpty()) {
-        const bool isMade = driver.madeByActions.count(handle) != 0;
-        if (!isMade)
-            driver.unmade.insert(handle);
-        if (!isMade || !writer.repairs)
-            return kFxSuccess;
-    }
+    if (text.isEmpty() && !isThere)
+        return kFxSuccess;
 
     QString general;
     if (ConvertObjectChanges(cls, handle, rest, true, general) != kFxSuccess)
