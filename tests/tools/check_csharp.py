@@ -79,7 +79,7 @@ class Judge:
 def main():
     checked = harness.Checked()
     repaired = sys.argv[3:] == ["repaired"]
-    macros = checked.macros("csharp", *(["--repair"] if repaired else []))
+    macros = checked.macros("csharp", *["--repair"] * repaired)
     judge = Judge(checked, macros)
     faults = harness.KnownFaults("csharp", *([()] if repaired else []))
     faults.settle(judge.files, judge)
