@@ -155,11 +155,26 @@ static QString objectWord(const ArrayPlace& place, const QString& word)
     return place.writer.target == Target::VbNet ? bracketed(place, word) : word;
 }
 
+static const Fault kEmptyPlace{
+    "array of objects",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "an object without a variable leaves its place empty"};
+static const Fault kReleasedElement{
+    "array of objects", {Target::CppCom}, "a pointer is taken out of a temporary, which lets go of the object"};
+
 QString objectLines(const ArrayPlace& place, std::vector<QString> words)
 {
+    const Writer& writer = place.writer;
+    const bool hasEmpty = std::find(words.begin(), words.end(), QString()) != words.end();
+    const bool found = std::any_of(words.begin(), words.end(), [](const QString& word) { return word.endsWith(')'); });
+    const bool released = writer.target == Target::CppCom && found;
     for (QString& word : words)
         word = objectWord(place, word);
-    return elementLines(objectElement, "IDispatch*", place, words);
+    QString lines =
+        elementLines(objectElement, released && writer.repairs ? "IDispatchPtr" : "IDispatch*", place, words);
+    if (hasEmpty)
+        lines = writer.faulty(lines, kEmptyPlace);
+    return released ? writer.faulty(lines, kReleasedElement) : lines;
 }
 
 QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words)
@@ -190,7 +205,8 @@ static QString singleLine(const Phrase& phrase, const ArrayPlace& place, std::si
 
 QString objectLine(const ArrayPlace& place, std::size_t index, const QString& word)
 {
-    return singleLine(objectElement, place, index, objectWord(place, word));
+    const QString line = singleLine(objectElement, place, index, objectWord(place, word));
+    return word.isEmpty() ? place.writer.faulty(line, kEmptyPlace) : line;
 }
 
 QString bareObjectLine(const ArrayPlace& place, std::size_t index, const QString& word)
