@@ -112,14 +112,15 @@ private:
 };
 
 // The kinds that the walk over a command's children asks for.
+inline constexpr std::int32_t kPolyline = 16;
+inline constexpr std::int32_t kViewBackground = 41;
+inline constexpr std::int32_t kViewport = 46;
+// Others that make objects.
 inline constexpr std::int32_t kSheet = 13;
 inline constexpr std::int32_t kNamedView = 14;
 inline constexpr std::int32_t kEmbeddedObject = 15;
-inline constexpr std::int32_t kPolyline = 16;
 inline constexpr std::int32_t kInsertHatch = 18;
-inline constexpr std::int32_t kViewBackground = 41;
 inline constexpr std::int32_t kRegion = 44;
-inline constexpr std::int32_t kViewport = 46;
 inline constexpr std::int32_t kViewTiles = 49;
 
 inline constexpr ActionForm filletForms[] = {

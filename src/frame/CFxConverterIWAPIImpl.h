@@ -135,8 +135,8 @@ public:
     Writer writer;
     /// Variables of the hatches that custom actions have inserted.
     std::set<QString> insertedHatches;
-    /// Added objects of the present command that its custom actions insert.
-    std::set<OdDbHandle> madeByActions;
+    /// The last added object that a custom action finishes: it gets what they make in its command.
+    OdDbHandle lastFinished;
     /// Added objects that no statement inserts: their variables have no value.
     std::set<OdDbHandle> unmade;
     /// Whether the variable of an unmade object was asked for; set back for each statement.
@@ -153,7 +153,6 @@ private:
 
     std::int32_t ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action);
     void RegisterChildren(const CFxActionArray& children, CommandState& state);
-    void FindMadeByActions(const CFxActionArray& children, const CommandState& state);
     void DeclareChildren(CommandState& state);
     QString Declarations(const CommandState& state) const;
     void ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group);

@@ -4,7 +4,6 @@
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/StatementGroup.h"
 #include "frame/losses.h"
-#include "host/db/OdDbClassMap.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
@@ -12,9 +11,6 @@
 
 #include <QScopedValueRollback>
 #include <QStringList>
-
-#include <algorithm>
-#include <map>
 
 using inkmacro::Fault;
 using inkmacro::Target;
@@ -34,19 +30,6 @@ bool isFinishedByCustomAction(const OdRxClass* cls)
 {
     const ClassRow* const row = FindClass(cls);
     return row && row->has(kFinishedByCustomAction);
-}
-
-/// The custom action that makes objects of the class, where their reader does not; -1 for other classes.
-std::int32_t makingKind(const OdRxClass* cls)
-{
-    static const std::map<const OdRxClass*, std::int32_t> kinds{
-        {OdDbRegion::desc(), inkmacro::kRegion},
-        {oddbClassByName("AcDbOle2Frame"), inkmacro::kEmbeddedObject},
-        {OdDbPolyline::desc(), inkmacro::kPolyline},
-        {OdDbHatch::desc(), inkmacro::kInsertHatch},
-        {OdDbViewTableRecord::desc(), inkmacro::kNamedView}};
-    const auto found = kinds.find(cls);
-    return found == kinds.end() ? -1 : found->second;
 }
 
 /// A style that loads a file of shapes. The host's own file of line type shapes does not count.
@@ -130,26 +113,8 @@ void CFxConverterIWAPIImpl::RegisterChildren(const CFxActionArray& children, Com
         }
         state.added.push_back(RegisterObject(added->GetHandle(), cls));
         state.handles.push_back(added->GetHandle());
-    }
-    FindMadeByActions(children, state);
-}
-
-/// The last object that custom actions finish gets what they make. View tiles are told by their handles.
-void CFxConverterIWAPIImpl::FindMadeByActions(const CFxActionArray& children, const CommandState& state)
-{
-    madeByActions.clear();
-    const auto last = std::find_if(state.added.rbegin(), state.added.rend(),
-                                   [](const ActionEntry& entry) { return isFinishedByCustomAction(entry.cls); });
-    for (const OdRxObjectPtr& child : children) {
-        const auto custom = odrxQuery<CFxCustomAction>(child.get());
-        if (!custom)
-            continue;
-        if (last != state.added.rend() && custom->GetKind() == makingKind(last->cls))
-            madeByActions.insert(state.handles[static_cast<std::size_t>(state.added.rend() - last) - 1]);
-        if (custom->GetKind() == inkmacro::kViewTiles && inkmacro::FormOf(*custom)) {
-            const std::vector<OdDbHandle>& tiles = custom->GetData(2).GetHandleArray();
-            madeByActions.insert(tiles.begin(), tiles.end());
-        }
+        if (isFinishedByCustomAction(cls))
+            lastFinished = added->GetHandle();
     }
 }
 

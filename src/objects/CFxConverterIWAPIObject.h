@@ -167,6 +167,8 @@ private:
     void LoseNoteWithoutLeader(const OdRxClass* cls, const OdDbHandle& handle) const;
     /// The properties that nothing has taken out of the list.
     void LoseRest(const PropertyList& list, bool fromAdded, const CFxString& name);
+    /// Whether custom actions, or the block of its command, make the object.
+    bool IsMadeByAction(const OdRxClass* cls, const OdDbHandle& handle) const;
     /// An added object that is made by a custom action, when there is none, and else the general properties of one that
     /// no statement was written for.
     void LoseUnmade(PropertyList& rest, bool written);

@@ -46,15 +46,13 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
     if (const ClassRow* const row = FindClass(cls); row && row->reader)
         text = row->reader(added);
     strike(added.consumed(), rest);
-    if (text.isEmpty() || cls == OdDbHatch::desc())
+    const bool isMade = !text.isEmpty() || IsMadeByAction(cls, handle);
+    if (!isMade)
+        driver.unmade.insert(handle);
+    if (!(isMade && writer.repairs) && (text.isEmpty() || cls == OdDbHatch::desc()))
         LoseUnmade(rest, !text.isEmpty());
-    if (text.isEmpty()) {
-        const bool isMade = driver.madeByActions.count(handle) != 0;
-        if (!isMade)
-            driver.unmade.insert(handle);
-        if (!isMade || !writer.repairs)
-            return kFxSuccess;
-    }
+    if (text.isEmpty() && !(isMade && writer.repairs))
+        return kFxSuccess;
 
     QString general;
     if (ConvertObjectChanges(cls, handle, rest, true, general) != kFxSuccess)

@@ -55,6 +55,20 @@ constexpr MadeByAction madeByActions[] = {
     {"AcDbViewTableRecord", inkmacro::kViewBackground, inkmacro::kNamedView},
 };
 
+/// Null for a class whose objects a reader makes.
+const MadeByAction* madeByAction(const OdRxClass* cls)
+{
+    const auto row = std::ranges::find_if(
+        madeByActions, [&](const MadeByAction& made) { return cls->name() == QLatin1String(made.cls); });
+    return row == std::end(madeByActions) ? nullptr : row;
+}
+
+/// A block inserts the hatches that it is made of.
+bool isInBlock(const OdRxClass* cls, const CFxConverterIWAPIImpl& driver)
+{
+    return cls == OdDbHatch::desc() && driver.HasSiblingBlock();
+}
+
 CFxString nameOfLineStyle(const OdDbObjectId& id)
 {
     const auto style = odrxQuery<OdDbLinetypeTableRecord>(id.openObject(true).get());
@@ -124,15 +138,26 @@ void CFxConverterIWAPIObject::LoseRest(const PropertyList& list, bool fromAdded,
             LoseProperty(record->GetName(), "no statement sets it");
 }
 
+bool CFxConverterIWAPIObject::IsMadeByAction(const OdRxClass* cls, const OdDbHandle& handle) const
+{
+    if (cls == OdDbPolyline::desc())
+        return driver.HasSibling(inkmacro::kPolyline);
+    if (isInBlock(cls, driver))
+        return true;
+    const MadeByAction* const row = madeByAction(cls);
+    const ClassRow* const known = FindClass(cls);
+    if (!row || !known || (!driver.HasSibling(row->kind) && !driver.HasSibling(row->other)))
+        return false;
+    const bool onlyLast = known->has(kFinishedByCustomAction) && cls != OdDbViewTableRecord::desc();
+    return !onlyLast || handle == driver.lastFinished;
+}
+
 void CFxConverterIWAPIObject::LoseUnmade(PropertyList& rest, bool written)
 {
-    const auto row = std::ranges::find_if(
-        madeByActions, [&](const MadeByAction& made) { return changedClass->name() == QLatin1String(made.cls); });
-    if (row == std::end(madeByActions))
+    const MadeByAction* const row = madeByAction(changedClass);
+    if (!row)
         return;
-    // A block inserts the hatches that it is made of.
-    const bool inBlock = changedClass == OdDbHatch::desc() && driver.HasSiblingBlock();
-    if (!inBlock && !driver.HasSibling(row->kind) && !driver.HasSibling(row->other)) {
+    if (!isInBlock(changedClass, driver) && !driver.HasSibling(row->kind) && !driver.HasSibling(row->other)) {
         LoseObject("no action of its command makes it");
         return;
     }
