@@ -94,6 +94,9 @@ static const Phrase copySheet{"EmitCopySheet",
                                   .vbNet = "%1iwDoc.CopySheet(\"%3\" , \"%4\" )%2",
                                   .vba = "%1iwDoc.CopySheet(L\"%3\" , L\"%4\" )2",
                               }};
+static const Mend copyOfDocument(copySheet, Target::CppCom,
+                                 "the application copies no sheets, its document does",
+                                 "%1iwDoc->CopySheet(L\"%3\" , L\"%4\" );%2");
 static const Mend scriptCopy(
     copySheet, Target::JavaScript, "texts with the prefix of C++",
     "%1mDoc.CopySheet(\"%3\" , \"%4\" );%2");

@@ -323,6 +323,9 @@ static const Phrase assignGradientAngle{"EmitHatchGradientData: angle",
                                             .vbNet = "%1gradientAngle = %3%2",
                                             .vba = "%1gradientAngle = %3%2",
                                         }};
+static const Mend gradientAngleWithValue(assignGradientAngle, Target::Cpp,
+                                         "the marker of the line end is missing, so the value is lost",
+                                         "%1gradientAngle = %3;%2");
 
 static const Phrase assignCentered{"EmitHatchGradientData: centered",
                                    {
@@ -333,6 +336,9 @@ static const Phrase assignCentered{"EmitHatchGradientData: centered",
                                        .vbNet = "%1bCentered = %3%2",
                                        .vba = "%1bCentered = %3%2",
                                    }};
+static const Mend centeredWithValue(assignCentered, Target::Cpp,
+                                    "the marker of the line end is missing, so the value is lost",
+                                    "%1bCentered = %3;%2");
 
 static const Phrase putGradientData{
     "EmitHatchGradientData: writing",
