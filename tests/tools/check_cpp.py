@@ -37,7 +37,7 @@ class Judge:
 def main():
     repaired = sys.argv[3:] == ["repaired"]
     checked = harness.Checked()
-    macros = checked.macros("cpp", *(["--repair"] if repaired else []))
+    macros = checked.macros("cpp", *["--repair"] * repaired)
     judge = Judge(checked, macros)
     faults = harness.KnownFaults("cpp", *([()] if repaired else []))
     faults.settle(judge.files, judge)
