@@ -91,6 +91,10 @@ CFxString quotable(CFxString path)
     return path;
 }
 
+const Fault kNoProperty{"ConvertFileLocation",
+                        {Target::Cpp, Target::CppCom, Target::CSharp, Target::JavaScript, Target::VbNet, Target::Vba},
+                        "the object of the files has no property for the location"};
+
 } // namespace
 
 std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files, const CFxCustomAction& action,
@@ -99,6 +103,10 @@ std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files,
     takeVariable(writer, text, HandedVariable::Replaced);
     const CFxString property = propertyOf(files, action.GetData(0).GetString());
     const CFxCustomActionData& value = action.GetData(1);
+    if (property.isEmpty() && writer.repairs) {
+        NoteLoss(ActionTitle(&action), kNoProperty.reason());
+        return kFxSuccess;
+    }
 
     StatementGroup group(writer);
     text = group.begin();
@@ -111,6 +119,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files,
     else
         NoteLoss(ActionTitle(&action), "its value is neither a text nor a list of texts");
     text += group.close() + LineEnd;
+    if (property.isEmpty())
+        text = writer.faulty(text, kNoProperty);
     return kFxSuccess;
 }
 

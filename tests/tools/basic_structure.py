@@ -33,12 +33,14 @@ _CLOSES = {"Next": "For", "Loop": "Do"}
 _PARTS = [("If", re.compile(r"(?:Else$|ElseIf\b.*\bThen$)", re.I)), ("Try", re.compile(r"(?:Catch\b|Finally$)", re.I)),
           ("Select", re.compile(r"Case\b", re.I))]
 
+_LINE_END = {VBNET: re.compile("\r\n|[\r\n\x85\u2028\u2029]"), VBA: re.compile("\r\n|[\r\n]")}
 _KEYWORDS = set("""and andalso byref byval call case catch class dim do each else elseif end exit explicit false finally
     for function get if imports in is isnot let like loop mod module new next not nothing on option or orelse private
     public redim return select set shared step sub then to true try until wend while with xor""".split())
 _GLOBALS = {
-    VBNET: {"inkwright", "system", "dispatchwrapper", "cint", "vblf", "ctype", "directcast", "trycast", "object", "math"},
-    VBA: {"inkwright", "getobject", "msgbox", "vblf", "cint", "abs"},
+    VBNET: {"inkwright", "system", "dispatchwrapper", "cint", "vblf", "ctype", "directcast", "trycast", "object", "math",
+            "chrw"},
+    VBA: {"inkwright", "getobject", "msgbox", "vblf", "cint", "abs", "chrw"},
 }
 
 
@@ -71,7 +73,9 @@ class _Checker:
         return name.lower() in self.known or any(name.lower() in scope.names for scope in self.scopes)
 
     def line(self, raw):
-        code = self.without_text(raw).strip()
+        code, closed = without_text(raw)
+        if not closed:
+            self.fault("a string is not closed")
         if not code or re.match(r"(Imports|Option) ", code, re.I):
             return
         if re.search(r"%\d", code):
@@ -82,21 +86,6 @@ class _Checker:
         if not self.block(code):
             self.statement(code)
         self.names(code)
-
-    def without_text(self, raw):
-        """The code of a line: no comment, and nothing in its strings."""
-        code, inside = "", False
-        for character in raw:
-            if character == '"':
-                inside = not inside
-                code += character
-            elif character == "'" and not inside:
-                break
-            elif not inside:
-                code += character
-        if inside:
-            self.fault("a string is not closed")
-        return code
 
     def block(self, code):
         if match := _CLOSER.match(code):
@@ -174,9 +163,9 @@ class _Checker:
     def vba_statement(self, code):
         if re.match(r"Return\b", code, re.I):
             self.fault("Return goes back from a GoSub, and there is none")
-        call = re.match(r"[\w.]+ ?\((.*)\)$", code)
-        if call and "," in re.sub(r"\([^()]*\)", "", call[1]):
-            self.fault("a call without a result has no parentheses around several arguments")
+        flat = _flat(code)
+        if re.fullmatch(r"[\w.]+(?:\(\)[\w.]+)* ?\(\)", flat) and _argument_count(code) != 1:
+            self.fault("a call without a result has no parentheses, unless around a single argument")
 
     def names(self, code):
         """Every name is known that is neither a member nor a type."""
@@ -191,17 +180,58 @@ class _Checker:
                 self.fault(f"{match[0]} is not declared")
 
 
-def check(text, dialect, known=()):
-    """(line, fault) of everything that is wrong; `known` are names from the other files of the project."""
-    checker = _Checker(dialect, known)
-    begun = ""
-    for number, raw in enumerate(text.lstrip("\ufeff").splitlines(), 1):
-        checker.number = checker.number if begun else number
+def without_text(raw):
+    """The code of a line, with no comment and nothing in its strings, and whether its strings are closed."""
+    code, inside = "", False
+    for character in raw:
+        if character == '"':
+            inside = not inside
+            code += character
+        elif character == "'" and not inside:
+            break
+        elif not inside:
+            code += character
+    return code.strip(), not inside
+
+
+def _flat(code):
+    """The code with nothing in its outermost parentheses."""
+    flat, depth = "", 0
+    for character in code:
+        depth -= character == ")"
+        flat += character if depth == 0 else ""
+        depth += character == "("
+    return flat
+
+
+def _argument_count(call):
+    """How many arguments stand in the parentheses that end a call."""
+    depth, count = 0, 1
+    for place in range(len(call) - 1, -1, -1):
+        depth += (call[place] == ")") - (call[place] == "(")
+        if depth == 0:
+            return count if call[place + 1:-1].strip() else 0
+        count += call[place] == "," and depth == 1
+    return count
+
+
+def statements(text, dialect):
+    """(line, statement) of everything that stands in a file, continued lines in one."""
+    begun, first = "", 0
+    for number, raw in enumerate(_LINE_END[dialect].split(text.lstrip("\ufeff")), 1):
+        first = first if begun else number
         if raw.endswith(" _"):
             begun += raw[:-1]
         else:
-            checker.line(begun + raw)
+            yield first, begun + raw
             begun = ""
+
+
+def check(text, dialect, known=()):
+    """(line, fault) of everything that is wrong; `known` are names from the other files of the project."""
+    checker = _Checker(dialect, known)
+    for checker.number, statement in statements(text, dialect):
+        checker.line(statement)
     for scope in checker.scopes[1:]:
         checker.fault(f"{scope.block} is never closed", scope.line)
     return checker.faults

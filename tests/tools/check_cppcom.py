@@ -41,7 +41,7 @@ class Judge:
 def main():
     repaired = sys.argv[3:] == ["repaired"]
     checked = harness.Checked()
-    macros = checked.macros("cppcom", *["--repair"] * repaired)
+    macros = checked.macros("cppcom", *(["--repair"] if repaired else []))
     judge = Judge(checked, macros)
     faults = harness.KnownFaults("cppcom", *([()] if repaired else []))
     faults.settle(judge.files, judge)

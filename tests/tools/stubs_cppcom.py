@@ -7,7 +7,7 @@ import re
 import interface
 
 TYPES = {"double": "double", "int": "long", "long": "long", "bool": "VARIANT_BOOL", "string": "const _bstr_t &",
-         "object": "IDispatch *"}
+         "object": "_com_argument_t<IDispatch>"}
 RAW_TYPES = {**TYPES, "string": "BSTR"}
 OUT_TYPES = {"double": "double *", "int": "long *", "long": "long *", "bool": "VARIANT_BOOL *", "string": "BSTR *",
              "object": "IDispatch **"}
@@ -33,7 +33,7 @@ class _Library:
         if name.endswith("[]"):
             return "const _variant_t &"
         if name in self._known.classes:
-            return f"I{name} *"
+            return f"_com_argument_t<I{name}>"
         return basic.get(name, name)
 
     def _out(self, name):
@@ -82,6 +82,6 @@ def write(path, precompiled, folder):
 
 
 def own_header(definition):
-    """Of the text of a project's interface definition, as if its library had a legal name."""
-    library = re.search(r"^library ([^\n{]*\S)", definition, re.MULTILINE)[1]
-    return OWN_HEADER.format(cls=re.search(r"coclass (\w+)", definition)[1], library=re.sub(r"\W", "_", library))
+    """Of the text of a project's interface definition."""
+    return OWN_HEADER.format(cls=re.search(r"coclass (\w+)", definition)[1],
+                             library=re.search(r"^library ([^\n{]*\S)", definition, re.MULTILINE)[1])

@@ -26,7 +26,6 @@ static const Phrase createGroup{
 static const Mend
     scriptGroup(createGroup, Target::JavaScript, "the group's variable is not declared",
                 "%1var entities = new Array(%3);%2%4%1var %8 = mDoc.CreateGroup(\"%5\", %6, \"%7\", entities);%2");
-
 static const Mend comGroup(createGroup, Target::CppCom, "the group's variable is not assigned",
                            "%1VARIANT EntityArray%3;%2%1EntityArray%3.vt = ( VT_ARRAY | VT_DISPATCH );%2"
                            "%1EntityArray%3.parray = SafeArrayCreateVector( VT_DISPATCH, 0, %5);%2%4%2"
