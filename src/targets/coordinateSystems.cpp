@@ -226,6 +226,13 @@ static const Phrase alignToEntity{
                                   "%1    iwCustomCoordinateSystemMgr%3.AlignActiveCustomCoordinateSystemByEntity %4, "
                                   "pointOnEntity%3%2"),
     }};
+static const Mend pointWithZ(
+    alignToEntity, Target::Cpp, "y is written twice and z never",
+    INKMACRO_MANAGER_CPP("%3")
+        INKMACRO_IF_CPP("%3",
+                        "%1    iwDoubleArray pointOnEntity%3;%2"
+                        "%1    pointOnEntity%3.add(%5);pointOnEntity%3.add(%6);pointOnEntity%3.add(%7);%2"
+                        "%1    iwCCSManager%3->AlignActiveCustomCoordinateSystemByEntity( %4, pointOnEntity%3 );%2"));
 
 QString EmitAlignCoordinateSystemToEntity(Writer& writer, const CFxString& entity, const OdGePoint3d& point)
 {

@@ -276,6 +276,11 @@ static const Phrase bothKeywords{
                   "%1SafeArrayPutElement( iwlocal%3.parray, &index%5, str%5 );\n%1str%5 = SysAllocString(L\"%4\");\n"
                   "%1SafeArrayPutElement( iwglobal%3.parray, &index%5, str%5 );\n",
     }};
+static const Mend keywordsFromFirst(
+    bothKeywords, Target::CppCom, "the index is raised before the first element, so the last one lies behind the array",
+    "%1str%5 = SysAllocString(L\"%2\");\n%1SafeArrayPutElement( iwlocal%3.parray, &index%5, str%5 );\n"
+    "%1str%5 = SysAllocString(L\"%4\");\n%1SafeArrayPutElement( iwglobal%3.parray, &index%5, str%5 );\n"
+    "%1index%5 = index%5 + 1;\n");
 
 static const Phrase promptKeyword{
     "EmitPromptKeyword",

@@ -82,6 +82,6 @@ def write(path, precompiled, folder):
 
 
 def own_header(definition):
-    """Of the text of a project's interface definition."""
-    return OWN_HEADER.format(cls=re.search(r"coclass (\w+)", definition)[1],
-                             library=re.search(r"^library ([^\n{]*\S)", definition, re.MULTILINE)[1])
+    """Of the text of a project's interface definition, as if its library had a legal name."""
+    library = re.search(r"^library ([^\n{]*\S)", definition, re.MULTILINE)[1]
+    return OWN_HEADER.format(cls=re.search(r"coclass (\w+)", definition)[1], library=re.sub(r"\W", "_", library))

@@ -26,6 +26,10 @@ static const Phrase createGroup{
 static const Mend
     scriptGroup(createGroup, Target::JavaScript, "the group's variable is not declared",
                 "%1var entities = new Array(%3);%2%4%1var %8 = mDoc.CreateGroup(\"%5\", %6, \"%7\", entities);%2");
+static const Mend comGroup(createGroup, Target::CppCom, "the group's variable is not assigned",
+                           "%1VARIANT EntityArray%3;%2%1EntityArray%3.vt = ( VT_ARRAY | VT_DISPATCH );%2"
+                           "%1EntityArray%3.parray = SafeArrayCreateVector( VT_DISPATCH, 0, %5);%2%4%2"
+                           "%1%9 = iwDoc->CreateGroup(L\"%6\", %7, L\"%8\", EntityArray%3 );%2");
 
 QString EmitCreateGroup(Writer& writer, const NewGroup& group, const CFxString& variable)
 {
@@ -46,7 +50,8 @@ QString EmitCreateGroup(Writer& writer, const NewGroup& group, const CFxString& 
     else
         creation.number(bound).text(lines);
     creation.text(group.name).text(truthWord(target, group.selectable)).text(group.description);
-    if (target != Target::CppCom)
+    // A text of the faithful literal may hold a marker, so that a value too many would go into it.
+    if (target != Target::CppCom || writer.repairs)
         creation.text(variable);
     if (numbered && target != Target::CppCom)
         creation.number(number);
