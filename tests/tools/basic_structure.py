@@ -42,6 +42,32 @@ _GLOBALS = {
 }
 
 
+def without_text(raw):
+    """The code of a line, without comment and with nothing in its strings; and whether these are closed."""
+    code, inside = "", False
+    for character in raw:
+        if character == '"':
+            inside = not inside
+            code += character
+        elif character == "'" and not inside:
+            break
+        elif not inside:
+            code += character
+    return code.strip(), not inside
+
+
+def logical_lines(text):
+    """(number, line), where a line goes on behind a blank and an underscore."""
+    begun, first = "", 0
+    for number, raw in enumerate(text.lstrip("\ufeff").splitlines(), 1):
+        first = first if begun else number
+        if raw.endswith(" _"):
+            begun += raw[:-1]
+        else:
+            yield first, begun + raw
+            begun = ""
+
+
 class _Scope:
     def __init__(self, block, line):
         self.block, self.line, self.names = block, line, set()
@@ -71,7 +97,9 @@ class _Checker:
         return name.lower() in self.known or any(name.lower() in scope.names for scope in self.scopes)
 
     def line(self, raw):
-        code = self.without_text(raw).strip()
+        code, closed = without_text(raw)
+        if not closed:
+            self.fault("a string is not closed")
         if not code or re.match(r"(Imports|Option) ", code, re.I):
             return
         if re.search(r"%\d", code):
@@ -82,21 +110,6 @@ class _Checker:
         if not self.block(code):
             self.statement(code)
         self.names(code)
-
-    def without_text(self, raw):
-        """The code of a line: no comment, and nothing in its strings."""
-        code, inside = "", False
-        for character in raw:
-            if character == '"':
-                inside = not inside
-                code += character
-            elif character == "'" and not inside:
-                break
-            elif not inside:
-                code += character
-        if inside:
-            self.fault("a string is not closed")
-        return code
 
     def block(self, code):
         if match := _CLOSER.match(code):
@@ -194,14 +207,8 @@ class _Checker:
 def check(text, dialect, known=()):
     """(line, fault) of everything that is wrong; `known` are names from the other files of the project."""
     checker = _Checker(dialect, known)
-    begun = ""
-    for number, raw in enumerate(text.lstrip("\ufeff").splitlines(), 1):
-        checker.number = checker.number if begun else number
-        if raw.endswith(" _"):
-            begun += raw[:-1]
-        else:
-            checker.line(begun + raw)
-            begun = ""
+    for checker.number, line in logical_lines(text):
+        checker.line(line)
     for scope in checker.scopes[1:]:
         checker.fault(f"{scope.block} is never closed", scope.line)
     return checker.faults
