@@ -46,12 +46,13 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
     if (const ClassRow* const row = FindClass(cls); row && row->reader)
         text = row->reader(added);
     strike(added.consumed(), rest);
-    const bool isMade = !text.isEmpty() || IsMadeByAction(cls, handle);
-    if (!isMade)
+    if (text.isEmpty() && !IsMadeByAction(cls, handle))
         driver.unmade.insert(handle);
-    if (!(isMade && writer.repairs) && (text.isEmpty() || cls == OdDbHatch::desc()))
+    // The hatch stands there already, and its general properties have to wait for no other statement.
+    const bool isThere = writer.repairs && cls == OdDbHatch::desc() && IsHatchInserted(name);
+    if ((text.isEmpty() || cls == OdDbHatch::desc()) && !isThere)
         LoseUnmade(rest, !text.isEmpty());
-    if (text.isEmpty() && !(isMade && writer.repairs))
+    if (text.isEmpty() && !isThere)
         return kFxSuccess;
 
     QString general;

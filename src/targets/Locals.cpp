@@ -121,6 +121,11 @@ Locals::Locals(Target target) : target_(target), scopes_(1)
 {
 }
 
+bool Locals::isReserved(const QString& name) const
+{
+    return target_ == Target::Vba && name == QLatin1String("line");
+}
+
 void Locals::followBlocks(QStringView line)
 {
     if (target_ == Target::Vba)
@@ -191,7 +196,7 @@ bool Locals::declaresTwice(QStringView line)
     bool twice = false;
     for (const QStringView name : declarationsIn(line, target_)) {
         const QString key = keyOf(name);
-        twice = twice || conflicts(key);
+        twice = twice || conflicts(key) || isReserved(key);
         scopes_.back().declared.insert(key);
     }
     return twice;
@@ -205,7 +210,7 @@ QString Locals::toldApart(const QString& line)
     for (const QStringView name : declarationsIn(line, target_)) {
         const QString key = keyOf(name);
         Scope& scope = scopes_.back();
-        if (conflicts(key))
+        if (conflicts(key) || isReserved(key))
             scope.renamed[key] = QString("%1_v%2").arg(name).arg(++counts_[key] + 1);
         scope.declared.insert(key);
     }

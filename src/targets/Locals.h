@@ -33,6 +33,8 @@ private:
     };
 
     void followBlocks(QStringView line);
+    /// Whether the language has the word for itself.
+    bool isReserved(const QString& name) const;
     bool conflicts(const QString& name) const;
     /// The name as the language compares it.
     QString keyOf(QStringView name) const;

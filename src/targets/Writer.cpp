@@ -44,9 +44,18 @@ void forLines(QString& begun, QStringView text, const Use& use)
     begun += text;
 }
 
+/// Arrays without elements have an index below zero, which VBA does not take; without a size it does.
+bool sizesNothing(QStringView line, Target target)
+{
+    return target == Target::Vba && line.trimmed().startsWith(u"Dim ") &&
+           (line.contains(u"(-1)") || line.contains(u"( -1 )"));
+}
+
 const Fault kDeclaredTwice{"ConvertCommand",
                            {Target::Cpp, Target::CppCom, Target::CSharp, Target::VbNet, Target::Vba},
                            "a local variable is declared where one of its name is seen already"};
+
+const Fault kEmptyArray{"ConvertCommand", {Target::Vba}, "an array without elements is declared with a size of -1"};
 
 } // namespace
 
@@ -125,6 +134,8 @@ void Writer::followLines(QStringView text)
     forLines(begun_, text, [this](QStringView line) {
         if (locals_.declaresTwice(line))
             noteFault(kDeclaredTwice);
+        if (sizesNothing(line, target))
+            noteFault(kEmptyArray);
         ++line_;
     });
 }
@@ -132,7 +143,10 @@ void Writer::followLines(QStringView text)
 void Writer::writeLines(QTextStream& stream, QStringView text)
 {
     forLines(begun_, text, [&](QStringView line) {
-        writeSliced(stream, locals_.toldApart(line.toString()));
+        QString text = locals_.toldApart(line.toString());
+        if (sizesNothing(text, target))
+            text.remove(QLatin1String("-1")).replace(QLatin1String("(  )"), QLatin1String("()"));
+        writeSliced(stream, text);
         stream << '\n';
         ++line_;
     });

@@ -249,6 +249,19 @@ QString EmitAlignCoordinateSystemZAxis(Writer& writer, const OdGePoint3d& origin
     return writer.fill(alignZAxis).number(++writer.UniqueCounter).shortPoint(origin).shortPoint(onAxis);
 }
 
+// Behind the fetched manager.
+#define INKMACRO_ALIGN_TO_POINTS_VBA                                                                                   \
+    INKMACRO_IF_VBA("_%3", "%1    Dim iwMathUtility_%3 As Inkwright.MathUtility%2"                                     \
+                           "%1    Set iwMathUtility_%3 = iwApp.GetMathUtility()%2"                                     \
+                           "%1    Dim Origin_%3 As Inkwright.MathPoint%2"                                              \
+                           "%1    Set Origin_%3 = iwMathUtility_%3.CreatePoint( %4, %5, %6 )%2"                        \
+                           "%1    Dim XAxisThroughPoint_%3 As Inkwright.MathPoint%2"                                   \
+                           "%1    Set XAxisThroughPoint_%3 = iwMathUtility_%3.CreatePoint( %7, %8, %9 )%2"             \
+                           "%1    Dim XYPlaneThroughPoint_%3 As Inkwright.MathPoint%2"                                 \
+                           "%1    Set XYPlaneThroughPoint_%3 = iwMathUtility_%3.CreatePoint( %10, %11, %12 )%2"        \
+                           "%1    iwCustomCoordinateSystemMgr_%3.AlignActiveCustomCoordinateSystemXYPlane Origin_%3, " \
+                           "XAxisThroughPoint_%3, XYPlaneThroughPoint_%3%2")
+
 /// VBA cannot give a value in a declaration; that it is done here has to stay so.
 static const Phrase alignPlane{
     "EmitThreePointCoordinateSystem",
@@ -298,19 +311,14 @@ static const Phrase alignPlane{
                        "iwMathUtility_%3.CreatePoint( %10, %11, %12 )%2"
                        "%1    iwCustomCoordinateSystemMgr_%3.AlignActiveCustomCoordinateSystemXYPlane( Origin_%3, "
                        "XAxisThroughPoint_%3, XYPlaneThroughPoint_%3 )%2"),
-        .vba = "%1Dim iwCustomCoordinateSystemMgr_%3 As Inkwright.CustomCoordinateSystemManager = Nothing%2"
-               "%1Set iwCustomCoordinateSystemMgr_%3 = iwDoc.GetCustomCoordinateSystemManager()%2" INKMACRO_IF_VBA(
-                   "_%3", "%1    Dim iwMathUtility_%3 As Inkwright.MathUtility%2"
-                          "%1    Set iwMathUtility_%3 = iwApp.GetMathUtility()%2"
-                          "%1    Dim Origin_%3 As Inkwright.MathPoint%2"
-                          "%1    Set Origin_%3 = iwMathUtility_%3.CreatePoint( %4, %5, %6 )%2"
-                          "%1    Dim XAxisThroughPoint_%3 As Inkwright.MathPoint%2"
-                          "%1    Set XAxisThroughPoint_%3 = iwMathUtility_%3.CreatePoint( %7, %8, %9 )%2"
-                          "%1    Dim XYPlaneThroughPoint_%3 As Inkwright.MathPoint%2"
-                          "%1    Set XYPlaneThroughPoint_%3 = iwMathUtility_%3.CreatePoint( %10, %11, %12 )%2"
-                          "%1    iwCustomCoordinateSystemMgr_%3.AlignActiveCustomCoordinateSystemXYPlane Origin_%3, "
-                          "XAxisThroughPoint_%3, XYPlaneThroughPoint_%3%2"),
+        .vba =
+            "%1Dim iwCustomCoordinateSystemMgr_%3 As Inkwright.CustomCoordinateSystemManager = Nothing%2"
+            "%1Set iwCustomCoordinateSystemMgr_%3 = iwDoc.GetCustomCoordinateSystemManager()%2" INKMACRO_ALIGN_TO_POINTS_VBA,
     }};
+static const Mend basicAlignment(
+    alignPlane, Target::Vba, "a declaration has no value in this language",
+    "%1Dim iwCustomCoordinateSystemMgr_%3 As Inkwright.CustomCoordinateSystemManager%2"
+    "%1Set iwCustomCoordinateSystemMgr_%3 = iwDoc.GetCustomCoordinateSystemManager()%2" INKMACRO_ALIGN_TO_POINTS_VBA);
 
 QString EmitThreePointCoordinateSystem(Writer& writer, const OdGePoint3d& origin, const OdGePoint3d& onXAxis,
                                        const OdGePoint3d& onPlane)

@@ -66,6 +66,10 @@ static const Phrase declareElementColor{
         .vba = "%1Dim appOption As Inkwright.ApplicationOptions%2%1Set appOption = iwApp.GetApplicationOptions()%2"
                "%1Dim iwColor1 As Inkwright.Color%2%1Set ElementOption As Inkwright.iwElementColor_e%2%1%2",
     }};
+static const Mend basicColorLocals(
+    declareElementColor, Target::Vba, "Set stands where Dim belongs",
+    "%1Dim appOption As Inkwright.ApplicationOptions%2%1Set appOption = iwApp.GetApplicationOptions()%2"
+    "%1Dim iwColor1 As Inkwright.Color%2%1Dim ElementOption As Inkwright.iwElementColor_e%2%1%2");
 
 static const Phrase chooseElement{"EmitSetElementColor",
                                   {
@@ -76,9 +80,10 @@ static const Phrase chooseElement{"EmitSetElementColor",
                                       .vbNet = "%3ElementOption = %5%4",
                                       .vba = "%3Set ElementOption = %5%4",
                                   }};
-static const Mend scriptElement(
-    chooseElement, Target::JavaScript, "a cast of a typed language",
-    "%3ElementOption = %5;%4");
+static const Mend basicElement(chooseElement, Target::Vba, "Set stands where a value is assigned",
+                               "%3ElementOption = %5%4");
+static const Mend scriptElement(chooseElement, Target::JavaScript, "a cast of a typed language",
+                                "%3ElementOption = %5;%4");
 
 static const Phrase colorByIndex{"EmitSetElementColor",
                                  {
@@ -89,9 +94,8 @@ static const Phrase colorByIndex{"EmitSetElementColor",
                                      .vbNet = "%4iwColor1 = iwApp.GetColorByIndex( %6 )%5",
                                      .vba = "%4Set iwColor1 = iwApp.GetColorByIndex( %6 )%5",
                                  }};
-static const Mend indexedColorInPage(
-    colorByIndex, Target::JavaScript, "the page has no iwApp, its application is mApp",
-    "%4iwColor1 = mApp.GetColorByIndex( %6 );%5");
+static const Mend indexedColorInPage(colorByIndex, Target::JavaScript, "the page has no iwApp, its application is mApp",
+                                     "%4iwColor1 = mApp.GetColorByIndex( %6 );%5");
 
 static const Phrase colorByRgb{"EmitSetElementColor",
                                {
@@ -102,9 +106,8 @@ static const Phrase colorByRgb{"EmitSetElementColor",
                                    .vbNet = "%4iwColor1 = iwApp.GetRGBColor( %6, %7, %8 )%5",
                                    .vba = "%4Set iwColor1 = iwApp.GetRGBColor( %6, %7, %8 )%5",
                                }};
-static const Mend rgbColorInPage(
-    colorByRgb, Target::JavaScript, "the page has no iwApp, its application is mApp",
-    "%4iwColor1 = mApp.GetRGBColor( %6, %7, %8 );%5");
+static const Mend rgbColorInPage(colorByRgb, Target::JavaScript, "the page has no iwApp, its application is mApp",
+                                 "%4iwColor1 = mApp.GetRGBColor( %6, %7, %8 );%5");
 
 static const Phrase setElementColor{"EmitSetElementColor",
                                     {
@@ -115,12 +118,14 @@ static const Phrase setElementColor{"EmitSetElementColor",
                                         .vbNet = "%9appOption.SetElementColor(ElementOption, iwColor1)%10",
                                         .vba = "%9Set appOption.SetElementColor(ElementOption, iwColor1)%10",
                                     }};
+static const Mend basicElementColor(setElementColor, Target::Vba, "Set stands in front of a call",
+                                    "%9appOption.SetElementColor ElementOption, iwColor1%10");
 
 QString EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmColor& color)
 {
     // The count goes on, so a later conversion uses variables that its macro does not declare. It has to stay so.
     QString text;
-    if (processCounters.elementColors++ == 0)
+    if (processCounters.elementColors++ == 0 || writer.repairs)
         text += writer.fill(declareElementColor);
     text += writer.fill(chooseElement).number(element);
     if (color.isByACI())

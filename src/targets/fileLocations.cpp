@@ -62,6 +62,9 @@ static const Phrase drawingSupportFilesObject{
         .vbNet = "%1Dim %3 As Inkwright.DrawingSupportFiles = iwApp.GetDrawingSupportFiles()%2",
         .vba = "%1Dim %3 As Inkwright.DrawingSupportFiles%2%11Set %3 = iwApp.GetDrawingSupportFiles()%2",
     }};
+static const Mend
+    basicDrawingSupportFiles(drawingSupportFilesObject, Target::Vba, "a placeholder of the statement is never filled",
+                             "%1Dim %3 As Inkwright.DrawingSupportFiles%2%1Set %3 = iwApp.GetDrawingSupportFiles()%2");
 
 QString EmitDrawingSupportFilesObject(Writer& writer, CFxString& variable)
 {
@@ -93,9 +96,9 @@ static const Phrase arrayElement{"EmitFileLocationArray",
                                      .vbNet = "%1Dim s%3_%4 As String = \"%5\"%2",
                                      .vba = "%1sArray%3_%4(%5) = \"%6\"%2",
                                  }};
-static const Mend scriptArrayElement(
-    arrayElement, Target::JavaScript, "each folder goes to an array of its own number, and only the first exists",
-    "%1var s%3_%4 = \"%5\";%2%1sArray%3_%6[%4] = s%3_%4;%2");
+static const Mend scriptArrayElement(arrayElement, Target::JavaScript,
+                                     "each folder goes to an array of its own number, and only the first exists",
+                                     "%1var s%3_%4 = \"%5\";%2%1sArray%3_%6[%4] = s%3_%4;%2");
 
 static const Phrase arrayAssignment{
     "EmitFileLocationArray",

@@ -93,7 +93,8 @@ static const Phrase hatchByPolyline{
                "%1Set %7 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
     }};
 static const Mend hatchInPage(
-    hatchByPolyline, Target::JavaScript, "the page has no iwSketchManager, its sketch manager is mSkMgr, and the hatch's variable is not declared",
+    hatchByPolyline, Target::JavaScript,
+    "the page has no iwSketchManager, its sketch manager is mSkMgr, and the hatch's variable is not declared",
     "%2%1var iwEntities = new Array(1);%2%1iwEntities[0] = %6;%2%1var %7 = mSkMgr.InsertHatchByEntities(%2%1 iwEntities, %2%1 \"%3\", %2%1 %4, %2%1 %5 );%2");
 
 static const Phrase eraseBoundaryPolyline{"EmitHatchByPolyline: erasure",
@@ -151,12 +152,6 @@ static QString takeColor(Writer& writer, const Phrase& indexed, const Phrase& rg
     return statement.number(color.red()).number(color.green()).number(color.blue());
 }
 
-/// A color by layer or by block counts as black in a gradient.
-static OdCmColor plainColor(const OdCmColor& color)
-{
-    return color.isByACI() ? color : OdCmColor::byRgb(color.red(), color.green(), color.blue());
-}
-
 static const Phrase setGradient{
     "EmitHatchGradient",
     {
@@ -173,16 +168,21 @@ static const Phrase setGradient{
         .vba = "%2%1Dim hatchPattern%3 As Inkwright.HatchPattern%2%1hatchPattern%3 = %8.GetHatchPattern()%2"
                "%1hatchPattern%3.SetGradientData %4, %5, %6, %7%2",
     }};
+static const Mend
+    basicGradient(setGradient, Target::Vba, "an object is assigned without Set",
+                  "%2%1Dim hatchPattern%3 As Inkwright.HatchPattern%2%1Set hatchPattern%3 = %8.GetHatchPattern()%2"
+                  "%1hatchPattern%3.SetGradientData %4, %5, %6, %7%2");
 
 QString EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient)
 {
-    const OdCmColor first = plainColor(gradient.first);
-    const OdCmColor second = plainColor(gradient.second);
+    const OdCmColor first = gradientColor(writer, gradient.first);
+    const OdCmColor second = gradientColor(writer, gradient.second);
     Fill call = writer.fill(setGradient);
     call.number(++writer.UniqueCounter);
     if (writer.target != Target::Cpp)
         call.text(colorExpression(writer.target, first)).text(colorExpression(writer.target, second));
     call.text(truthWord(writer.target, gradient.centered)).real(gradient.angle).text(hatch);
-    return takeColor(writer, firstIndexedColor, firstRgbColor, first) +
-           takeColor(writer, secondIndexedColor, secondRgbColor, second) + call.str();
+    const QString text = takeColor(writer, firstIndexedColor, firstRgbColor, first) +
+                         takeColor(writer, secondIndexedColor, secondRgbColor, second) + call.str();
+    return notingBlack(writer, notingBlack(writer, text, gradient.first), gradient.second);
 }

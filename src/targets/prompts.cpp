@@ -137,6 +137,10 @@ static const Phrase promptAngle{
         .vba = "%1Dim IO_angle%3 As Double2%1IO_angle%3 = %5%2"
                "%1iwApp.GetCommandMessage().PromptForAngle \"%4\", %5, IO_angle%3%2",
     }};
+static const Mend basicAngle(promptAngle, Target::Vba,
+                             "the sign of a placeholder is missing, so the assignment stands in the declaration",
+                             "%1Dim IO_angle%3 As Double%2%1IO_angle%3 = %5%2"
+                             "%1iwApp.GetCommandMessage().PromptForAngle \"%4\", %5, IO_angle%3%2");
 
 QString EmitPromptAngle(Writer& writer, const CFxString& prompt, double value)
 {

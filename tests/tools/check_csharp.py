@@ -83,7 +83,7 @@ def main():
     judge = Judge(checked, macros)
     faults = harness.KnownFaults("csharp", *([()] if repaired else []))
     faults.settle(judge.files, judge)
-    comparison = (drawing if repaired else expected).Comparison("csharp")
+    comparison = drawing.Comparison("csharp", checked.program) if repaired else expected.Comparison("csharp")
     for macro, calls in judge.calls.items():
         comparison.add(macro, calls)
     summary = comparison.summary()

@@ -82,7 +82,7 @@ def main():
     checked = harness.Checked()
     check = {"parse": check_syntax, "run": check_run}[sys.argv[3]]
     if sys.argv[4:] == ["repaired"]:
-        check(checked, ["--repair"], (), drawing.Comparison("javascript"))
+        check(checked, ["--repair"], (), drawing.Comparison("javascript", checked.program))
     else:
         check(checked, [], ("parse", "run"), expected.Comparison("javascript"))
 

@@ -1,6 +1,7 @@
 """The drawing that a macro made, as the stubs noted it, and its comparison object by object with what the recording
 says. Which property of a record stands where in an object is told by drawing.txt."""
 
+import json
 import math
 import re
 
@@ -16,6 +17,13 @@ ENUMERATORS = {
     "Alignment": {4: "Center"},
     "TextSide": {1: "OnConvexSide"},
     "TextDirection": {2: "InwardToTheCenter"},
+    "StartArrow": {20: "Custom"},
+    "FitGeometry": {"Yes": "KeepTextBetweenExtensionLines"},
+    "TextOptions.Alignment": {1: "AlignHorizontally", 2: "AlignWithDimensionLines"},
+    "Calculation": {4: "Basic"},
+    "DecimalSeparator": {" ": "Space"},
+    "CenterMarkDisplay": {"Mark": "AsMark"},
+    "ArcSymbolType": {2: "None"},
 }
 YES = {"Yes", "YES", "Visible", "Enabled"}
 # What stands between an object and its properties without being one of them.
@@ -30,9 +38,10 @@ SHORT = re.compile(r"Segment(Angle|StartWidth|EndWidth)")
 # What the records of an object do not tell: the drawing's data and custom actions do.
 ELSEWHERE = re.compile(r"NoteAnnotation|ToleranceAnnotation|BlockAnnotation|ClipBoundary|TableStyle|FitOptions.DimensionS"
                        r"|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
-                       r"|RowHeightAt|ColumnWidthAt|Pattern")
-# Recorded of an added object, and without a statement.
-LOST = {"AcDbTable": re.compile(r"RowHeight_[3-9]|ColumnWidth_[1-9]|Contents_")}
+                       r"|RowHeightAt|ColumnWidthAt|Pattern|ArrowsOptions.\w+Arrow|Measure"
+                       r"|ExtensionLineFixedLength")
+# Of an added dimension without a statement, like all that it overrides of its style.
+OVERRIDDEN = re.compile("Arrow|Dim style")
 # Of a block that another drawing holds.
 REFERENCED = {"Name()", "Rotation()"}
 # Behind these an object has other vertices than those of its record.
@@ -53,15 +62,19 @@ class _Rows:
     """drawing.txt: the interface's class by the drawing's class, and by both classes and tag the place of a value."""
 
     def __init__(self):
-        self.interfaces, self.places = {}, {}
+        self.interfaces, self.places, self.optional = {}, {}, set()
         cls = ""
         for line in (harness.HERE / "drawing.txt").read_text(encoding="utf-8").splitlines():
             text = "" if line.startswith("#") else line.rstrip()
             if text and not text.startswith(" "):
                 cls, _, name = text.partition(" ")
-                self.interfaces[cls] = name
+                if name:
+                    self.interfaces[cls] = name
             elif text:
                 tag, place = text.strip().split(" = ")
+                if place.endswith("?"):
+                    place = place[:-1]
+                    self.optional.add((self.interfaces[cls], place.split("[")[0] + "()"))
                 for axis, letter in enumerate("XYZ" if "*" in tag else ""):
                     for sign in (letter, letter.lower()):
                         self.places[cls, tag.replace("*", sign)] = f"{place} {axis}" if place != "-" else place
@@ -70,7 +83,9 @@ class _Rows:
 
     def place(self, cls, tag):
         numbers = re.findall(r"(?<=_)\d+", tag)
-        place = self.places.get((cls, re.sub(r"(?<=_)\d+", "#", tag)), self.places.get(("every", tag), ""))
+        common = ["dimension", "every"] if "Dimension" in cls else ["every"]
+        place = next((self.places[key] for key in [(cls, re.sub(r"(?<=_)\d+", "#", tag)), *((one, tag) for one in common)]
+                      if key in self.places), "")
         for number in numbers:
             place = place.replace("#", number, 1)
         return place
@@ -134,8 +149,8 @@ def _question(name, index):
 class Recorded:
     """What the recording says of its objects: what they hold by their handle, in the order in which they were added."""
 
-    def __init__(self, recording, rows):
-        self._rows = rows
+    def __init__(self, recording, rows, lost):
+        self._rows, self._lost = rows, lost
         records = [line["object"] for line in recording if "object" in line]
         self._names = {record["handle"]: record.get("name", "") for record in records}
         # A leader brings its note with it.
@@ -151,7 +166,8 @@ class Recorded:
 
     def _added(self, record):
         handle, cls = record["handle"], record["class"]
-        if handle in self._leaders or cls not in self._rows.interfaces or cls == "AcDbHatch" and self._pattern == {}:
+        if handle in self._leaders or (handle, "") in self._lost or cls not in self._rows.interfaces or (
+                cls == "AcDbHatch" and self._pattern == {}):
             return
         self._classes[handle], self._held[handle] = cls, {}
         self.added.append((cls, self._held[handle]))
@@ -164,8 +180,9 @@ class Recorded:
             self._pattern = None
         if handle in self._thicknesses:
             self._held[handle]["Thickness()", 0] = self._thicknesses[handle]
-        lost = LOST.get(cls, re.compile("$."))
-        self._modified({**record, "properties": [one for one in record["properties"] if not lost.match(one["tag"])]})
+        self._modified({**record, "properties": [one for one in record["properties"]
+                                                 if (handle, one["tag"]) not in self._lost
+                                                 and not ("Dimension" in cls and OVERRIDDEN.match(one["tag"]))]})
         self._align(cls, self._held[handle])
 
     @staticmethod
@@ -180,7 +197,8 @@ class Recorded:
 
     def _modified(self, record):
         # Of two records of one property the first counts.
-        for one in reversed(record["properties"]):
+        firsts = {one["tag"]: one for one in reversed(record["properties"])}
+        for one in reversed(firsts.values()):
             self._set(record["handle"], one, None)
 
     def _property(self, record):
@@ -254,7 +272,11 @@ class Recorded:
     @staticmethod
     def _set_points(held, name, axes, value):
         """A collection that is none says nothing."""
-        points = value.get("collection", {}).get("elements", []) if isinstance(value, dict) else []
+        if not isinstance(value, dict):
+            return
+        if "point" in value:
+            held.update({(f"{name}()", axis): coordinate for axis, coordinate in enumerate(value["point"][:axes])})
+        points = value.get("collection", {}).get("elements", [])
         for number, element in enumerate(points):
             for axis, coordinate in enumerate(element["value"].get("point", [])[:axes]):
                 held[_question(name, number), axis] = coordinate
@@ -335,17 +357,24 @@ def _fits(made, place, seen, wanted):
         short = SHORT.match(place) and seen == _number(f"{value:.6g}")
         return short or math.isclose(seen, value, rel_tol=0, abs_tol=1e-9)
     if isinstance(seen, str) and re.match(r"iw\w+_", seen):
-        names = ENUMERATORS.get(re.sub(r"\W", "", place.split(".")[-1]), {})
-        name = names.get(text or number, text or f"{number:03d}")
-        return _plain(seen.split("_", 1)[1]) == _plain(name)
+        # The longest name that fits.
+        names = next((ENUMERATORS[end] for end in sorted(ENUMERATORS, key=len, reverse=True)
+                      if place.removesuffix("()").endswith(end)), {})
+        name = names.get(text, names.get(number, text or f"{number}"))
+        return _plain(seen.split("_", 1)[1]) in (_plain(name), name.zfill(3))
     return seen == text
 
 
 class Comparison(expected.Comparison):
     """Holds the drawings that macros made against recordings, besides their calls."""
 
-    def __init__(self, target):
+    def __init__(self, target, program):
         super().__init__(target)
+        self._target, self._program = target, program
+        if target == "csharp":
+            # A recording that began on a sheet without a name works in the model.
+            faithful = self._frame
+            self._frame = lambda in_model, sheet: faithful(in_model or not sheet, sheet)
         self._rows = _Rows()
         manager = interface.read(harness.STUBS / "interface.txt", target).classes["SketchManager"]
         interfaces = set(self._rows.interfaces.values())
@@ -354,9 +383,10 @@ class Comparison(expected.Comparison):
 
     def add(self, macro, notes):
         super().add(macro, notes)
-        recorded, made = Recorded(macro.lines(), self._rows), Made(notes)
-        ways = self._lasting_ways([(note["on"], note["call"], note["args"]) for note in notes if "call" in note])
+        recorded, made = Recorded(macro.lines(), self._rows, self._lost(macro)), Made(notes)
         names = [self._rows.interfaces[cls] for cls, _ in recorded.added]
+        calls = [(note["on"], note["call"], note["args"]) for note in notes if "call" in note]
+        ways = self._lasting_ways(calls, names)
         faults = [f"{strange} is in no row" for strange in sorted(recorded.strange)]
         if names != [way.split("#")[0] for way in ways]:
             faults.append(f"the objects made are {ways}\n    and should be {names}")
@@ -365,8 +395,24 @@ class Comparison(expected.Comparison):
             faults += [f"{way} {fault}" for fault in self._compare_object(made, way, wanted)]
         self.complaints += [f"{macro.name}: {fault}" for fault in faults]
 
-    def _lasting_ways(self, calls):
-        """To the objects that were made and are not drawn for others alone. Hatches never are."""
+    def _lost(self, macro):
+        """What the program reports as lost of added objects: handles, each with the tag of a property or with none."""
+        report = harness.run(self._program, "convert", macro.recording, "--target", self._target, "--repair", "--report",
+                             "--output", macro.folder / "reported" / macro.file.name)
+        lines = macro.recording.read_text(encoding="utf-8-sig").split("\n")
+        lost = set()
+        for loss in json.loads(report.stdout)["conversions"][0]["losses"]:
+            told = re.fullmatch(r'(?:property "(.*)" of )?AcDb\w+ (\w+)', loss["what"])
+            number = re.fullmatch(r"command\.actions\[(\d+)\]", loss.get("path", ""))
+            if told and number:
+                action = json.loads(lines[loss["line"] - 1])["command"]["actions"][int(number[1])]
+                if action.get("added", {}).get("handle") == told[2]:
+                    lost.add((told[2], told[1] or ""))
+        return lost
+
+    def _lasting_ways(self, calls, names):
+        """To the objects that were made and are not drawn for others alone. Hatches never are, and of what a block is
+        made of `names` tells which have a record."""
         ways, counts = [], {}
         for _, name, _ in calls:
             result = self._results.get(name)
@@ -374,10 +420,18 @@ class Comparison(expected.Comparison):
             ways.append(f"{result}#{counts[result]}" if result else None)
         helpers = [None if way and way.startswith("Hatch#") else way for way in ways]
         temporary = set(expected._temporaries(calls, helpers))
-        return [way for way in ways if way and way not in temporary]
+        handed = set().union(*(expected._named(arguments) for _, name, arguments in calls
+                               if name == "CreateBlockDefinition"))
+        lasting, wanted = [], list(names)
+        for way in (way for way in ways if way and way not in temporary):
+            if wanted and way.startswith(f"{wanted[0]}#"):
+                del wanted[0]
+            elif f"@{way}" in handed:
+                continue
+            lasting.append(way)
+        return lasting
 
-    @staticmethod
-    def _compare_object(made, way, wanted):
+    def _compare_object(self, made, way, wanted):
         seen, cls = made.held.get(way, {}), way.split("#")[0]
         for (place, index), value in wanted.items():
             if ("Path()", 0) in seen and place in REFERENCED:
@@ -385,7 +439,7 @@ class Comparison(expected.Comparison):
             if (place, index) in seen:
                 fits = _fits(made, place, seen[place, index], value)
             else:
-                fits = value == 0 or (cls, place, value) in DEFAULTS
+                fits = value == 0 or (cls, place, value) in DEFAULTS or (cls, place) in self._rows.optional
             if not fits:
                 yield f"has {seen.get((place, index))} as {place} {index}, which should be {value}"
         for (place, index), value in seen.items():

@@ -57,15 +57,20 @@ static const Phrase eraseRegion{
     "EmitInsertHatchByEntities: erasure of a region",
     withVba(eraseWords, "%1Dim regionObj%3 As Variant%2%1Dim iwRegion%3 As Inkwright.Region%2"
                         "%1Set regionObj%3 = %4(0)%2%1Set iwRegion = regionObj%2%1iwRegion.Erased = True%2")};
+static const Mend
+    basicRegionErasure(eraseRegion, Target::Vba, "the numbers of both variables are missing",
+                       "%1Dim regionObj%3 As Variant%2%1Dim iwRegion%3 As Inkwright.Region%2"
+                       "%1Set regionObj%3 = %4(0)%2%1Set iwRegion%3 = regionObj%3%2%1iwRegion%3.Erased = True%2");
 static const Phrase eraseBlock{"EmitInsertHatchByEntities: erasure of a block instance",
                                withScript(eraseWords, "%1%3.put_Erased( true );%2")};
 /// Of the marker for the indentation a 1 is missing, so that indentation and line end go to the places behind it, and
 /// the number of the table is lost. It has to stay so.
 static const Phrase eraseTable{"EmitInsertHatchByEntities: erasure of a table",
                                withScript(eraseWords, "%hatchTable_%3.put_Erased(true);%2")};
-static const Mend scriptTableErasure(
-    eraseTable, Target::JavaScript, "of a marker's number the 1 is missing, so the values of the statement are one place off",
-    "%1%3.put_Erased(true);%2");
+static const Mend
+    scriptTableErasure(eraseTable, Target::JavaScript,
+                       "of a marker's number the 1 is missing, so the values of the statement are one place off",
+                       "%1%3.put_Erased(true);%2");
 
 namespace {
 
@@ -284,8 +289,8 @@ QString eraseTemporary(Writer& writer, const TemporaryKind& kind, std::uint32_t 
     if (target == Target::Vba)
         statement.number(number);
     const std::uint32_t tables = processCounters.of(target).boundaryEntities[kTable];
-    const bool misled = (target == Target::Cpp || target == Target::CSharp || target == Target::JavaScript) &&
-                        number != tables;
+    const bool misled =
+        (target == Target::Cpp || target == Target::CSharp || target == Target::JavaScript) && number != tables;
     statement.text(numbered(kind, misled && !writer.repairs ? tables : number));
     return misled ? writer.faulty(statement, kForeignNumber) : statement.str();
 }

@@ -2,8 +2,6 @@
 
 #include "objects/targets/colors.h"
 
-#include "targets/Phrase.h"
-
 using namespace inkmacro;
 
 static const Phrase colorByIndex{"color",
@@ -29,4 +27,26 @@ QString colorExpression(Target target, const OdCmColor& color)
     if (color.isByBlock() || color.isByLayer() || color.isByACI())
         return Fill(colorByIndex.in(target)).number(color.colorIndex());
     return Fill(colorByRgb.in(target)).number(color.red()).number(color.green()).number(color.blue());
+}
+
+static const Fault kBlackGradient{
+    "EmitHatchGradient",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "a color by layer or by block counts as black in a gradient"};
+
+static bool isInherited(const OdCmColor& color)
+{
+    return color.isByLayer() || color.isByBlock();
+}
+
+OdCmColor gradientColor(const Writer& writer, const OdCmColor& color)
+{
+    if (isInherited(color) && writer.repairs)
+        return OdCmColor::byIndex(color.colorIndex());
+    return color.isByACI() ? color : OdCmColor::byRgb(color.red(), color.green(), color.blue());
+}
+
+QString notingBlack(const Writer& writer, const QString& statement, const OdCmColor& color)
+{
+    return isInherited(color) ? writer.faulty(statement, kBlackGradient) : statement;
 }

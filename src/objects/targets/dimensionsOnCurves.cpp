@@ -136,6 +136,13 @@ static const Phrase angularOnTemporaryArc{
         .vbNet = vbNetOnTemporaryArc,
         .vba = vbaOnTemporaryArc,
     }};
+static const Mend nativeAngularOnTemporaryArc(
+    angularOnTemporaryArc, Target::Cpp,
+    "the sign of a placeholder is missing, so the dimension's variable is not handed over",
+    "%1iwCircleArc_ptr %3;%2%1iwSketchManager->InsertArc(%4, %5, %6, %7, %8, %9, &%3);%2"
+    "%1{%2%1    iwDoubleArray dimPositionPoint;%2"
+    "%1    dimPositionPoint.add(%10); dimPositionPoint.add(%11); dimPositionPoint.add(%12);%2"
+    "%1    iwSketchManager->%0( %3, dimPositionPoint, L\"%13\", &%14 );%2%1    %3->put_Erased(true);%2%1}%2");
 
 QString EmitInsertAngularDimensionArc(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& arcPoint,
                                       const CFxString& text, const CFxString& name)

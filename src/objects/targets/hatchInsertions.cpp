@@ -31,9 +31,8 @@ static const Phrase insertByEntities{
         .vbNet = "%1%6 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
         .vba = "%1Set %6 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
     }};
-static const Mend declaredHatch(
-    insertByEntities, Target::JavaScript, "the hatch's variable is not declared",
-    "%1var %6 = mSkMgr.InsertHatchByEntities(iwEntities, \"%3\", %4, %5);%2");
+static const Mend declaredHatch(insertByEntities, Target::JavaScript, "the hatch's variable is not declared",
+                                "%1var %6 = mSkMgr.InsertHatchByEntities(iwEntities, \"%3\", %4, %5);%2");
 
 /// What an element of the array names. A region's variable is an array itself in VBA.
 static std::vector<QString> elementWords(Target target, std::vector<QString> names)

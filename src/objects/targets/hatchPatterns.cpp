@@ -2,6 +2,7 @@
 
 #include "objects/targets/hatchPatterns.h"
 
+#include "objects/targets/colors.h"
 #include "targets/enumerations.h"
 #include "targets/wording.h"
 
@@ -323,6 +324,8 @@ static const Phrase assignGradientAngle{"EmitHatchGradientData: angle",
                                             .vbNet = "%1gradientAngle = %3%2",
                                             .vba = "%1gradientAngle = %3%2",
                                         }};
+static const Mend nativeGradientAngle(assignGradientAngle, Target::Cpp, "the line end stands in the place of the value",
+                                      "%1gradientAngle = %3;%2");
 
 static const Phrase assignCentered{"EmitHatchGradientData: centered",
                                    {
@@ -333,6 +336,8 @@ static const Phrase assignCentered{"EmitHatchGradientData: centered",
                                        .vbNet = "%1bCentered = %3%2",
                                        .vba = "%1bCentered = %3%2",
                                    }};
+static const Mend nativeCentered(assignCentered, Target::Cpp, "the line end stands in the place of the value",
+                                 "%1bCentered = %3;%2");
 
 static const Phrase putGradientData{
     "EmitHatchGradientData: writing",
@@ -349,14 +354,16 @@ static const Phrase putGradientData{
 static QString changeColor(Writer& writer, const Phrase& assignment, const char* local, const OdCmColor& color,
                            std::uint32_t number)
 {
-    Fill text = writer.fillPlain(color.isByACI() ? indexedColor : rgbColor);
-    if (color.isByACI())
-        text.number(color.colorIndex());
+    const OdCmColor plain = gradientColor(writer, color);
+    Fill text = writer.fillPlain(plain.isByACI() ? indexedColor : rgbColor);
+    if (plain.isByACI())
+        text.number(plain.colorIndex());
     else
-        text.number(color.red()).number(color.green()).number(color.blue());
-    if (writer.target == Target::Cpp)
-        return text.indent(writer.IndentLevel).text(QLatin1String(local));
-    return writer.fill(assignment).text(text.str()).number(number);
+        text.number(plain.red()).number(plain.green()).number(plain.blue());
+    const QString change = writer.target == Target::Cpp
+                               ? text.indent(writer.IndentLevel).text(QLatin1String(local)).str()
+                               : writer.fill(assignment).text(text.str()).number(number).str();
+    return notingBlack(writer, change, color);
 }
 
 QString EmitHatchGradientData(Writer& writer, const CFxString& pattern, const HatchGradientChange& change)

@@ -23,9 +23,9 @@ static const Phrase createGroup{
                  "%1%8 = iwDoc.CreateGroup( \"%5\", %6, \"%7\", entities%9 )%2",
         .vba = "%1Dim entities(%3) As Object%2%4%1Set %8 = iwDoc.CreateGroup( \"%5\", %6, \"%7\", entities )%2",
     }};
-static const Mend scriptGroup(
-    createGroup, Target::JavaScript, "the group's variable is not declared",
-    "%1var entities = new Array(%3);%2%4%1var %8 = mDoc.CreateGroup(\"%5\", %6, \"%7\", entities);%2");
+static const Mend
+    scriptGroup(createGroup, Target::JavaScript, "the group's variable is not declared",
+                "%1var entities = new Array(%3);%2%4%1var %8 = mDoc.CreateGroup(\"%5\", %6, \"%7\", entities);%2");
 
 QString EmitCreateGroup(Writer& writer, const NewGroup& group, const CFxString& variable)
 {

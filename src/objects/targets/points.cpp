@@ -219,9 +219,8 @@ static const Phrase declareVertex{"EmitChangeVertex",
                                       .vbNet = basicXYZ,
                                       .vba = basicXYZ,
                                   }};
-static const Mend scriptVertex(
-    declareVertex, Target::JavaScript, "a declaration of a typed language",
-    "%1var points;%2");
+static const Mend scriptVertex(declareVertex, Target::JavaScript, "a declaration of a typed language",
+                               "%1var points;%2");
 
 static const Phrase getVertex{"EmitChangeVertex",
                               {
@@ -232,9 +231,8 @@ static const Phrase getVertex{"EmitChangeVertex",
                                   .vbNet = "%1%2.GetVertexCoordinate( %3, X%5, Y%5, Z%5 )%4",
                                   .vba = "%1%2.GetVertexCoordinate %3, X%5, Y%5, Z%5%4",
                               }};
-static const Mend scriptVertexRead(
-    getVertex, Target::JavaScript, "results by argument, as in a typed language",
-    "%1points = %2.GetVertexCoordinate(%3);%4");
+static const Mend scriptVertexRead(getVertex, Target::JavaScript, "results by argument, as in a typed language",
+                                   "%1points = %2.GetVertexCoordinate(%3);%4");
 
 static const Phrase changeVertexCoordinate{"EmitChangeVertex",
                                            {
@@ -245,9 +243,8 @@ static const Phrase changeVertexCoordinate{"EmitChangeVertex",
                                                .vbNet = "%1%2%5 = %3%4",
                                                .vba = "%1%2%5 = %3%4",
                                            }};
-static const Mend scriptVertexChange(
-    changeVertexCoordinate, Target::JavaScript, "the local of a typed language",
-    "%1points.%2 = %3;%4");
+static const Mend scriptVertexChange(changeVertexCoordinate, Target::JavaScript, "the local of a typed language",
+                                     "%1points.%2 = %3;%4");
 
 static const Phrase setVertex{"EmitChangeVertex",
                               {
@@ -258,9 +255,8 @@ static const Phrase setVertex{"EmitChangeVertex",
                                   .vbNet = "%1%2.SetVertexCoordinate( %3, X%5, Y%5, Z%5 )%4",
                                   .vba = "%1%2.SetVertexCoordinate %3, X%5, Y%5, Z%5%4",
                               }};
-static const Mend scriptVertexWrite(
-    setVertex, Target::JavaScript, "the locals of a typed language",
-    "%1%2.SetVertexCoordinate(%3, points.X, points.Y, points.Z);%4");
+static const Mend scriptVertexWrite(setVertex, Target::JavaScript, "the locals of a typed language",
+                                    "%1%2.SetVertexCoordinate(%3, points.X, points.Y, points.Z);%4");
 
 static QString changeVertex(Writer& writer, const PointWords& words, const CFxString& target, std::int32_t index,
                             const CFxString& axis, double value)
@@ -296,9 +292,8 @@ static const Phrase declareVertex2D{"EmitChangeVertex2D",
                                         .vbNet = "%1Dim X%3 As Double%2%1Dim Y%3 As Double%2",
                                         .vba = "%1Dim X%3 As Double%2%1Dim Y%3 As Double%2",
                                     }};
-static const Mend scriptVertex2D(
-    declareVertex2D, Target::JavaScript, "a declaration of a typed language",
-    "%1var points;%2");
+static const Mend scriptVertex2D(declareVertex2D, Target::JavaScript, "a declaration of a typed language",
+                                 "%1var points;%2");
 
 static const Phrase getVertex2D{"EmitChangeVertex2D",
                                 {
@@ -309,9 +304,8 @@ static const Phrase getVertex2D{"EmitChangeVertex2D",
                                     .vbNet = "%1%2.GetVertexCoordinate( %3, X%5, Y%5 )%4",
                                     .vba = "%1%2.GetVertexCoordinate %3, X%5, Y%5%4",
                                 }};
-static const Mend scriptVertex2DRead(
-    getVertex2D, Target::JavaScript, "results by argument, as in a typed language",
-    "%1points = %2.GetVertexCoordinate(%3);%4");
+static const Mend scriptVertex2DRead(getVertex2D, Target::JavaScript, "results by argument, as in a typed language",
+                                     "%1points = %2.GetVertexCoordinate(%3);%4");
 
 static const Phrase setVertex2D{"EmitChangeVertex2D",
                                 {
@@ -322,9 +316,8 @@ static const Phrase setVertex2D{"EmitChangeVertex2D",
                                     .vbNet = "%1%2.SetVertexCoordinate( %3, X%5, Y%5 )%4",
                                     .vba = "%1%2.SetVertexCoordinate %3, X%5, Y%5%4",
                                 }};
-static const Mend scriptVertex2DWrite(
-    setVertex2D, Target::JavaScript, "the locals of a typed language",
-    "%1%2.SetVertexCoordinate(%3, points.X, points.Y);%4");
+static const Mend scriptVertex2DWrite(setVertex2D, Target::JavaScript, "the locals of a typed language",
+                                      "%1%2.SetVertexCoordinate(%3, points.X, points.Y);%4");
 
 QString EmitChangeVertex2D(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
                            double value)

@@ -19,9 +19,8 @@ static const Phrase regionHead{
         .vbNet = "%2%1Dim iwEntities_%3 As DispatchWrapper() = New DispatchWrapper(%4) {}%2",
         .vba = "%2%1Dim iwRegionEntities_%3(%4) As Object%2",
     }};
-static const Mend regionHeadOfPage(
-    regionHead, Target::JavaScript, "a percent sign stands in front of the statement",
-    "\n\n%3var iwEntities_%1 = new Array();\n");
+static const Mend regionHeadOfPage(regionHead, Target::JavaScript, "a percent sign stands in front of the statement",
+                                   "\n\n%3var iwEntities_%1 = new Array();\n");
 
 static const Phrase regionArray{"EmitInsertRegion",
                                 {

@@ -16,7 +16,8 @@ static const Phrase setModelProperty{"EmitSetModelProperty",
                                          .vba = "%1iwModel.%3 = \"%4\"%2",
                                      }};
 static const Mend modelPropertyOfPage(
-    setModelProperty, Target::JavaScript, "the marker of the indentation lacks its number, so the values of the statement are one place off",
+    setModelProperty, Target::JavaScript,
+    "the marker of the indentation lacks its number, so the values of the statement are one place off",
     "%1mModel.put_%3( \"%4\" );%2");
 
 static const Phrase setSheetProperty{"EmitSetModelProperty",
@@ -28,6 +29,10 @@ static const Phrase setSheetProperty{"EmitSetModelProperty",
                                          .vbNet = "%3%1%4.%5 = \"%6\"%2",
                                          .vba = "%3%1%4.%5 = \"%6\"%2",
                                      }};
+static const Mend comSheetProperty(setSheetProperty, Target::CppCom, "a property of a sheet is given a narrow text",
+                                   "%3%1%4->put_%5( L\"%6\" );%2");
+static const Mend nativeSheetProperty(setSheetProperty, Target::Cpp, "a property of a sheet is given a narrow text",
+                                      "%3%1%4->put_%5( L\"%6\" );%2");
 
 QString EmitSetModelProperty(Writer& writer, const CFxString& property, const CFxString& value, bool ofModel,
                              const CFxString& sheetName)

@@ -46,11 +46,16 @@ static const FileHead head{
     .viewManager = "\t\t'Get View Manager%1\t\tSet iwViewManager = iwDoc.GetViewManager()%1%1",
 };
 
+static const Fault kReturn{"EmitFileHeader", {Target::Vba}, "Return ends a GoSub; a procedure is left with Exit Sub"};
+
 QString CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
 {
     writer.IndentLevel += 2;
-    const Template words(head.words(writer.repairs).constData(), writer.target);
-    return writer.fill(words).text(LineEnd).text(RecordingSheetName);
+    QByteArray text = head.words(writer.repairs);
+    if (writer.repairs)
+        text.replace("Return%1", "Exit Sub%1");
+    const Template words(text.constData(), writer.target);
+    return writer.faulty(writer.fill(words).text(LineEnd).text(RecordingSheetName), kReturn);
 }
 
 /// Leaves the level.
