@@ -42,32 +42,6 @@ _GLOBALS = {
 }
 
 
-def without_text(raw):
-    """The code of a line, without comment and with nothing in its strings; and whether these are closed."""
-    code, inside = "", False
-    for character in raw:
-        if character == '"':
-            inside = not inside
-            code += character
-        elif character == "'" and not inside:
-            break
-        elif not inside:
-            code += character
-    return code.strip(), not inside
-
-
-def logical_lines(text):
-    """(number, line), where a line goes on behind a blank and an underscore."""
-    begun, first = "", 0
-    for number, raw in enumerate(text.lstrip("\ufeff").splitlines(), 1):
-        first = first if begun else number
-        if raw.endswith(" _"):
-            begun += raw[:-1]
-        else:
-            yield first, begun + raw
-            begun = ""
-
-
 class _Scope:
     def __init__(self, block, line):
         self.block, self.line, self.names = block, line, set()
@@ -187,9 +161,9 @@ class _Checker:
     def vba_statement(self, code):
         if re.match(r"Return\b", code, re.I):
             self.fault("Return goes back from a GoSub, and there is none")
-        call = re.match(r"[\w.]+ ?\((.*)\)$", code)
-        if call and "," in re.sub(r"\([^()]*\)", "", call[1]):
-            self.fault("a call without a result has no parentheses around several arguments")
+        flat = _flat(code)
+        if re.fullmatch(r"[\w.]+(?:\(\)[\w.]+)* ?\(\)", flat) and _argument_count(code) != 1:
+            self.fault("a call without a result has no parentheses, unless around a single argument")
 
     def names(self, code):
         """Every name is known that is neither a member nor a type."""
@@ -204,11 +178,58 @@ class _Checker:
                 self.fault(f"{match[0]} is not declared")
 
 
+def without_text(raw):
+    """The code of a line, with no comment and nothing in its strings, and whether its strings are closed."""
+    code, inside = "", False
+    for character in raw:
+        if character == '"':
+            inside = not inside
+            code += character
+        elif character == "'" and not inside:
+            break
+        elif not inside:
+            code += character
+    return code.strip(), not inside
+
+
+def _flat(code):
+    """The code with nothing in its outermost parentheses."""
+    flat, depth = "", 0
+    for character in code:
+        depth -= character == ")"
+        flat += character if depth == 0 else ""
+        depth += character == "("
+    return flat
+
+
+def _argument_count(call):
+    """How many arguments stand in the parentheses that end a call."""
+    depth, count = 0, 1
+    for place in range(len(call) - 1, -1, -1):
+        depth += (call[place] == ")") - (call[place] == "(")
+        if depth == 0:
+            return count if call[place + 1:-1].strip() else 0
+        count += call[place] == "," and depth == 1
+    return count
+
+
+def statements(text):
+    """(line, statement) of everything that stands in a file, continued lines in one."""
+    begun, first = "", 0
+    for number, raw in enumerate(text.lstrip("\ufeff").splitlines(), 1):
+        first = first if begun else number
+        if raw.endswith(" _"):
+            begun += raw[:-1]
+        else:
+            yield first, begun + raw
+            begun = ""
+
+
 def check(text, dialect, known=()):
     """(line, fault) of everything that is wrong; `known` are names from the other files of the project."""
     checker = _Checker(dialect, known)
-    for checker.number, line in logical_lines(text):
-        checker.line(line)
+    for checker.number, statement in statements(text):
+        checker.line(statement)
     for scope in checker.scopes[1:]:
         checker.fault(f"{scope.block} is never closed", scope.line)
     return checker.faults

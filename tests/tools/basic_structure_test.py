@@ -26,7 +26,7 @@ class Structure(unittest.TestCase):
         self.accepts(in_class("Dim x As Inkwright.Line = Nothing", "If 1 Then", "x = iwApp.Get( 1, \"a ' b\" ) ' c",
                               "Dim d(2) As Double", "d( 0 )=1.5", "x.Join( d, \"\"\"\" )", "ElseIf x IsNot Nothing Then", "x = Nothing",
                               "End If", "Try", "Exit Try", "Catch ex As Exception", "Return", "End Try"), VBNET)
-        self.accepts(in_sub("Set x = GetObject(, \"A\")", "If Not x Is Nothing Then", "x.Join 1, 2", "x.Erase( 1 )",
+        self.accepts(in_sub("Set x = GetObject(, \"A\")", "If Not x Is Nothing Then", "x.Join 1, 2", "x.Erase( 1 )", "x.Erase (x.Get( 1, 2 ))",
                             "Else", "MsgBox \"none\"", "End If", "Dim a( 2 ) As Object", "Set a( 0 ) = x",
                             "For i = 0 To 1", "Next") .replace("For i", "For x"), VBA)
 
@@ -63,7 +63,8 @@ class Structure(unittest.TestCase):
         self.refuses(in_sub("Dim y As Object = Nothing"), VBA, 4, "no value")
         self.refuses(in_sub("Dim y As Double2    y = 3"), VBA, 4, "no declaration")
         self.refuses(in_sub("If x IsNot Nothing Then", "End If"), VBA, 4, "no IsNot")
-        self.refuses(in_sub("x.Join( 1, 2 )"), VBA, 4, "no parentheses")
+        for call in ("x.Join( 1, 2 )", "x.Join()", "x.Get( 1, 2 ).Join (x, y.Get(3))"):
+            self.refuses(in_sub("Dim y As Object", call), VBA, 5, "no parentheses")
         self.refuses(in_sub("Set x As Inkwright.Line"), VBA, 4, "assigns nothing")
         self.refuses(in_sub("Set x = "), VBA, 4, "assigns nothing")
         self.refuses(in_sub("Set x = 3"), VBA, 4, "no object")

@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Compiles the VBA macros that --repair writes with LibreOffice's Basic, and checks what that leaves; nothing is excused.
+"""Compiles the repaired VBA macros with LibreOffice's Basic, and checks what that compiler leaves to the run: names, types,
+and calls.
 
     check_vba.py PROGRAM SOURCE_DIR
 """
@@ -7,60 +8,61 @@
 import os
 import pathlib
 
+import basic_structure
 import harness
 import interface
 import vba_types
 
 LIBREOFFICE = pathlib.Path("/usr/lib/libreoffice/program")
+LIBRARIES = ("libmergedlo.so", "libuno_sal.so.3")
 
 
-def compiler(folder):
-    """The program that calls LibreOffice's compiler."""
-    gxx, = harness.need("g++")
-    if not (LIBREOFFICE / "libmergedlo.so").exists():
+def build(checked):
+    """The compiler as a program."""
+    gcc, = harness.need("g++")
+    if not all((LIBREOFFICE / library).exists() for library in LIBRARIES):
         harness.skip("libreoffice-core-nogui not installed")
-    program = folder / "basic_compile"
-    result = harness.run(gxx, "-std=c++20", harness.HERE / "basic_compile.cpp", "-o", program, "-ldl")
+    program = checked.folder / "vba_compiler"
+    result = harness.run(gcc, "-std=c++20", "-Wall", "-Wextra", f'-DLIBREOFFICE="{LIBREOFFICE}"',
+                         harness.HERE / "vba_compiler.cpp", "-o", program, f"-L{LIBREOFFICE}", f"-Wl,-rpath,{LIBREOFFICE}",
+                         *(f"-l:{library}" for library in LIBRARIES))
     if result.returncode != 0:
         harness.finish([result.stderr], "")
     return program
 
 
-def compile_with(program, folder, files):
-    """What the compiler says: (file, line, complaint)."""
-    home = {**os.environ, "LD_LIBRARY_PATH": str(LIBREOFFICE), "HOME": str(folder)}
-    result = harness.run(program, LIBREOFFICE, folder / "profile", *files, env=home)
-    if result.returncode == harness.SKIPPED:
-        harness.skip(result.stderr)
-    rows = [line.split("\t") for line in result.stdout.splitlines()]
-    if result.returncode != 0:
-        rows.append([str(program), "0", f"ended with {result.returncode}: {result.stderr}"])
-    return [(pathlib.Path(file), int(line), text) for file, line, text in rows]
+def compile_all(checked, program, files):
+    result = harness.run(program, checked.folder / "profile", *files,
+                         env={**os.environ, "HOME": str(checked.folder)})
+    rows = [row.split("\t", 2) for row in result.stdout.splitlines()]
+    if result.returncode != (1 if rows else 0):
+        harness.finish([f"the compiler ended with {result.returncode}: {result.stderr}"], "")
+    return [harness.Rejection(pathlib.Path(file), int(line), message) for file, line, message in rows]
 
 
-def probe(program, folder):
-    """A compiler that takes everything would show nothing."""
-    for name, value, taken in (("good", "", True), ("bad", " = 1", False)):
-        file = folder / f"{name}.bas"
-        file.write_text(f"Option Explicit\nSub main()\n    Dim x As Double{value}\nEnd Sub\n", encoding="utf-8")
-        if taken == bool(compile_with(program, folder, [file])):
-            harness.finish([f"the compiler {'rejects' if taken else 'takes'} {file.read_text(encoding='utf-8')}"], "")
+def see_faults(checked, program):
+    """A compiler that takes everything would prove nothing."""
+    wrong = checked.folder / "wrong.bas"
+    wrong.write_text("Sub main()\nDim x As Double\nDim x As Double\nx = \"ä\nEnd Sub\n", encoding="utf-8")
+    lines = {rejection.line for rejection in compile_all(checked, program, [wrong])}
+    if not {3, 4} <= lines:
+        harness.finish([f"the compiler refused lines {sorted(lines)} instead of 3 and 4"], "")
 
 
 def main():
     checked = harness.Checked()
-    program = compiler(checked.folder)
-    probe(program, checked.folder)
-    macros = checked.macros("vba", "--repair")
+    program = build(checked)
+    see_faults(checked, program)
+    files = [macro.file for macro in checked.macros("vba", "--repair")]
     known = interface.read(harness.STUBS / "interface.txt", "csharp")
-    found = compile_with(program, checked.folder, [macro.file for macro in macros])
-    for macro in macros:
-        text = macro.file.read_text(encoding="utf-8")
-        found += [(macro.file, line, fault) for line, fault in vba_types.check(text, known)]
-    lines = {macro.file: macro.file.read_text(encoding="utf-8").split("\n") for macro in macros}
-    complaints = [f"{file.name}:{line}: {fault}\n    {lines.get(file, [''])[line - 1].strip()}"
-                  for file, line, fault in found]
-    harness.finish(complaints, f"{len(macros)} macros compiled")
+    rejections = compile_all(checked, program, files)
+    for file in files:
+        text = file.read_text(encoding="utf-8")
+        rejections += [harness.Rejection(file, number, fault)
+                       for number, fault in [*basic_structure.check(text, basic_structure.VBA),
+                                             *vba_types.check(text, known)]]
+    rejections.sort(key=lambda rejection: (rejection.file, rejection.line))
+    harness.finish(harness.shown(rejections), f"{len(files)} macros compiled")
 
 
 main()

@@ -70,7 +70,7 @@ def main():
     library = checked.folder / "Inkwright.dll"
     broken = compiler(checked.folder, "/target:library", f"/out:{library}", "stubs.vb")
     if broken or not library.exists():
-        harness.finish([f"{r.file.name}:{r.line}: {r.message}" for r in broken] or ["the compiler makes nothing"], "")
+        harness.finish(harness.shown(broken) or ["the compiler makes nothing"], "")
     macros = checked.macros("vbnet", "--repair")
 
     def judge(macro):
@@ -78,12 +78,7 @@ def main():
 
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         rejections = [rejection for found in pool.map(judge, macros) for rejection in found]
-    complaints = []
-    for rejection in rejections:
-        lines = rejection.file.read_text(encoding="utf-8-sig").split("\n") if rejection.file.is_file() else [""]
-        complaints.append(f"{rejection.file.name}:{rejection.line}: {rejection.message}\n"
-                          f"    {lines[rejection.line - 1].strip()}")
-    harness.finish(complaints, f"{len(macros)} projects compiled")
+    harness.finish(harness.shown(rejections), f"{len(macros)} projects compiled")
 
 
 main()

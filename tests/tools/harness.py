@@ -97,6 +97,16 @@ class Rejection:
     message: str
 
 
+def shown(rejections):
+    """Complaints of what a tool refused, each with its line."""
+    complaints = []
+    for rejection in rejections:
+        lines = rejection.file.read_text(encoding="utf-8-sig").split("\n") if rejection.file.is_file() else []
+        text = lines[rejection.line - 1] if 0 < rejection.line <= len(lines) else ""
+        complaints.append(f"{rejection.file.name}:{rejection.line}: {rejection.message}\n    {text}")
+    return complaints
+
+
 class _Fault:
     def __init__(self, entry):
         self.target = entry["target"]

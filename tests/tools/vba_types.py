@@ -1,101 +1,93 @@
-"""What a compiler of Basic leaves to the run of a VBA macro, and VBA's own compiler does not: types, members, sizes of
-arrays, Set, and parentheses around the arguments of a call."""
+"""What the types of VBA's variables rule out, and what a compiler that looks types up when a macro runs does not see:
+types and members that nobody has, sizes that are no constants, Set where it does not belong or is left out, and objects in
+parentheses, which stand for their default property."""
 
 import re
 
 import basic_structure
 
+VALUES = {"boolean", "byte", "currency", "date", "double", "integer", "long", "single", "string"}
 _NAME = r"[A-Za-z]\w*"
-_DECLARED = re.compile(rf"\b({_NAME})( ?\([^)]*\))? As (?:New )?([\w.]+)", re.I)
-_ASSIGNED = re.compile(rf"(Set )?({_NAME})( ?\([^)]*\))? *= ", re.I)
-_CALLED = re.compile(rf"({_NAME}(?: ?\([^()]*\))?(?:\.{_NAME}(?: ?\([^()]*\))?)*\.{_NAME}) ?\((.*)\)$", re.I)
+_DECLARED = re.compile(rf"(?:^Dim |, ?)({_NAME})(?: ?(\([^()]*\)))? As (?:New )?([\w.]+)", re.I)
+_SIZE = re.compile(r"\( *(?:(?:\d+ To )?\d+(?: *, *(?=\d))?)* *\)", re.I)
+_ASSIGNED = re.compile(rf"(Set )?({_NAME})( ?\(.*?\))? *=(.*)$", re.I)
 _MEMBER = re.compile(rf"(?<![\w.)])({_NAME})\.({_NAME})")
-_VALUES = {"double", "integer", "long", "string", "boolean"}
-_LIBRARY = "Inkwright."
-
-
-class _Variable:
-    def __init__(self, type_, size):
-        self.type, self.size = type_, size
-
-    def array(self):
-        return self.size is not None
+_IN_PARENTHESES = re.compile(rf"[\w.]+\.{_NAME} ?\( ?({_NAME}) ?\)$")
+_CALLED = re.compile(rf"\.({_NAME})(?: ?\(.*\))?$")
 
 
 class _Checker:
     def __init__(self, known):
         self.known = known
-        self.values = _VALUES | {name.lower() for name in known.enumerations}
-        self.variables = {}
-        self.faults = []
+        self.classes = {"object", *map(str.lower, known.classes)}
+        self.enumerations = {name.lower() for name in known.enumerations}
+        self.declared = {}  # name: kind of its type, size
+        self.types = {}  # name: its class, in lower case
+        self.members = {name.lower(): {member.name.lower() for cls in known.chain(name)
+                                       for member in (*cls.operations, *cls.properties)} for name in known.classes}
 
-    def line(self, number, code):
-        found = [*self.declarations(code), *self.assignment(code), *self.call(code), *self.members(code)]
-        self.faults += [(number, fault) for fault in found]
+    def kind(self, type_):
+        """What a variable of that type holds; empty: there is no such type."""
+        name = type_.lower().removeprefix("inkwright.")
+        if name in VALUES or name in self.enumerations:
+            return "value"
+        return "object" if name in self.classes else "variant" if name == "variant" else ""
 
     def declarations(self, code):
         for name, size, type_ in _DECLARED.findall(code):
-            plain = type_.removeprefix(_LIBRARY)
-            if plain not in self.known.classes and plain.lower() not in self.values | {"variant", "object"}:
+            kind = self.kind(type_)
+            self.declared[name.lower()] = (kind, size)
+            self.types[name.lower()] = type_.lower().removeprefix("inkwright.")
+            if not kind:
                 yield f"there is no type {type_}"
-            size = size.strip(" ()") if size else None
-            if size and not re.fullmatch(r"\d+", size):
-                yield f"the size of {name} is no constant of at least 0"
-            self.variables[name.lower()] = _Variable(plain, size)
+            if size and not _SIZE.fullmatch(size):
+                yield f"the size of {name} is no constant"
 
-    def is_object(self, variable):
-        return variable.type.lower() not in self.values | {"variant"}
+    def given(self, expression):
+        """What an expression gives, as far as it is known without running it."""
+        kind, size = self.declared.get(expression.lower(), ("", ""))
+        if kind:
+            return "array" if size else kind
+        called = _CALLED.search(expression)
+        return self.result(called[1]) if called else ""
+
+    def result(self, name):
+        """What members of that name give, where all classes agree."""
+        types = set()
+        for cls in self.known.classes.values():
+            types |= {self.kind(operation.result) for operation in cls.operations if operation.name == name}
+            types |= {self.kind(prop.type) for prop in cls.properties if prop.name == name}
+        return types.pop() if len(types) == 1 else ""
 
     def assignment(self, code):
         match = _ASSIGNED.match(code)
-        variable = match and self.variables.get(match[2].lower())
-        if not variable:
+        if not match or match[2].lower() not in self.declared:
             return
-        whole = variable.array() and not match[3]
-        if match[1] and not self.is_object(variable) and variable.type.lower() != "variant":
-            yield f"Set with {match[2]}, which is no object"
-        elif not match[1] and self.is_object(variable) and not whole:
-            yield f"no Set with {match[2]}, which is an object"
-        if whole and variable.size:
-            yield f"{match[2]} is an array of a fixed size, which is assigned to"
+        is_set, name, index, expression = match.groups()
+        kind, size = self.declared[name.lower()]
+        if size not in ("", "()") and not index:
+            yield f"{name} is an array, which takes no assignment"
+        elif is_set and kind == "value":
+            yield f"Set with {name}, which is no object"
+        elif is_set and self.given(expression.strip()) in ("value", "array"):
+            yield f"Set with {expression.strip()}, which is no object"
+        elif not is_set and "object" in (kind, kind == "variant" and self.given(expression.strip())):
+            yield f"no Set with {name}, which becomes an object"
 
-    def call(self, code):
-        if re.search(r",\s*(?:\)|$)", code):
-            yield "the last argument is empty"
-        match = None if re.match(r"(?:If|Set|Dim|Call|For)\b", code, re.I) else _CALLED.match(code)
-        if not match or not _matched(match[2]):
-            return
-        if not match[2].strip():
-            yield "a call without a result has no empty parentheses"
-        variable = self.variables.get(match[2].strip().lower())
-        if variable and self.is_object(variable) and not variable.array():
-            yield "an object in parentheses stands for its default property"
-
-    def members(self, code):
+    def uses(self, code):
         for name, member in _MEMBER.findall(code):
-            variable = self.variables.get(name.lower())
-            if not variable or variable.type not in self.known.classes:
-                continue
-            members = {entry.name.lower() for cls in self.known.chain(variable.type)
-                       for entry in (*cls.operations, *cls.properties)}
-            if member.lower() not in members:
-                yield f"{variable.type} has no {member}"
-
-
-def _matched(text):
-    """Whether every parenthesis of the text is closed within it."""
-    depth = 0
-    for character in text:
-        depth += (character == "(") - (character == ")")
-        if depth < 0:
-            return False
-    return depth == 0
+            type_ = self.types.get(name.lower())
+            if type_ in self.members and member.lower() not in self.members[type_]:
+                yield f"{name} has no member {member}"
+        if (call := _IN_PARENTHESES.match(code)) and self.given(call[1]) == "object":
+            yield f"{call[1]} in parentheses is its default property and no object"
 
 
 def check(text, known):
-    """(line, fault) of everything that is wrong; `known` is the automation interface."""
+    """(line, fault) of everything that is wrong; `known` is the interface that the macro uses."""
     checker = _Checker(known)
-    for number, line in basic_structure.logical_lines(text):
-        code, _ = basic_structure.without_text(line)
-        checker.line(number, code)
-    return checker.faults
+    for number, statement in basic_structure.statements(text):
+        code, _ = basic_structure.without_text(statement)
+        declares = re.match(r"Dim\b", code, re.I)
+        faults = checker.declarations(code) if declares else [*checker.assignment(code), *checker.uses(code)]
+        yield from ((number, fault) for fault in faults)
