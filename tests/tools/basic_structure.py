@@ -38,7 +38,7 @@ _KEYWORDS = set("""and andalso byref byval call case catch class dim do each els
     public redim return select set shared step sub then to true try until wend while with xor""".split())
 _GLOBALS = {
     VBNET: {"inkwright", "system", "dispatchwrapper", "cint", "vblf", "ctype", "directcast", "trycast", "object", "math"},
-    VBA: {"inkwright", "getobject", "msgbox", "vblf", "cint", "abs"},
+    VBA: {"inkwright", "getobject", "msgbox", "vblf", "cint", "abs", "chrw"},
 }
 
 
