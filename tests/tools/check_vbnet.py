@@ -1,10 +1,9 @@
 #!/usr/bin/python3
-"""Compiles the VB.NET projects that --repair writes against stubs of the automation interface; nothing is excused.
+"""Compiles the repaired VB.NET macros and their start-up modules against stubs, with the options of their projects.
 
     check_vbnet.py PROGRAM SOURCE_DIR
 
-The compiler is the command in INKMACRO_VBC (such as `/sdk/dotnet /sdk/sdk/8.0.100/Roslyn/bincore/vbc.dll`), or vbc on
-the path.
+The compiler is the command in INKMACRO_VBC, or `vbc` on the path.
 """
 
 import concurrent.futures
@@ -12,73 +11,78 @@ import os
 import pathlib
 import re
 import shlex
+import shutil
 import xml.etree.ElementTree
 
 import harness
 import stubs_vbnet
 
-PROJECT = {"p": "http://schemas.microsoft.com/developer/msbuild/2003"}
-ERROR = re.compile(r"^(.*?)\((\d+)(?:,\d+)?\) ?: error (.*)$|^vbc : error (.*)$", re.MULTILINE)
-# The projects are for the .NET Framework; .NET Core has left this out.
-LEFT_OUT = "'GetActiveObject' is not a member of 'Marshal'"
+ERROR = re.compile(r"^(?:(.*?)\((\d+)\)|vbc) ?: error (BC\d+: .*)$", re.MULTILINE)
+NAMESPACE = {"p": "http://schemas.microsoft.com/developer/msbuild/2003"}
+SWITCHES = ("OptionExplicit", "OptionStrict", "OptionInfer")
+ASSEMBLIES = ("mscorlib", "netstandard", "System", "System.Private.CoreLib", "System.Runtime",
+              "System.Runtime.InteropServices")
+# Projects are for the .NET Framework, which has it; .NET does not.
+FRAMEWORK_ONLY = "'GetActiveObject' is not a member of 'Marshal'"
 
 
 class Compiler:
     def __init__(self):
-        self.command = shlex.split(os.environ.get("INKMACRO_VBC", "")) or harness.need("vbc")
-        self.command += ["/nologo", "/utf8output", r'/define:_MYTYPE=\"Empty\"']
-        if self.command[0].endswith("dotnet"):
-            self._use_runtime(pathlib.Path(self.command[0]).resolve().parent)
+        self._command = shlex.split(os.environ.get("INKMACRO_VBC", "")) or [harness.need("vbc")[0]]
+        self._options = ["/nologo", "/utf8output", '/define:_MYTYPE=\\"Empty\\"', *self._library()]
 
-    def _use_runtime(self, sdk):
-        """A compiler that runs on .NET Core does not find its libraries by itself."""
-        runtime = max((sdk / "shared/Microsoft.NETCore.App").iterdir())
-        basic = runtime / "Microsoft.VisualBasic.dll"
-        self.command += [f"/sdkpath:{runtime}", f"/vbruntime:{basic}"]
-        self.command += [f"/r:{file}" for file in sorted(runtime.glob("*.dll"))
-                         if re.match(r"(System|mscorlib|netstandard)\b", file.name) and ".Native" not in file.name]
+    def _library(self):
+        """A .NET SDK has no library where the compiler looks for it: the newest beside the compiler or its host."""
+        for word in [*self._command, "dotnet"]:
+            place = pathlib.Path(shutil.which(word) or word).resolve()
+            for folder in place.parents:
+                libraries = list(folder.glob("shared/Microsoft.NETCore.App/*/Microsoft.VisualBasic.dll"))
+                if libraries:
+                    newest = max(libraries, key=lambda file: [int(part) for part in re.findall(r"\d+", file.parent.name)])
+                    found = [newest.parent / f"{name}.dll" for name in ASSEMBLIES]
+                    return [f"/sdkpath:{newest.parent}", f"/vbruntime:{newest}",
+                            *(f"/reference:{file}" for file in found if file.exists())]
+        return []
 
-    def __call__(self, folder, *arguments):
-        """What is wrong, or nothing: (file, line, complaint)."""
-        environment = {**os.environ, "DOTNET_SYSTEM_GLOBALIZATION_INVARIANT": "1"}
-        result = harness.run(*self.command, *arguments, cwd=folder, env=environment)
-        output = result.stdout + result.stderr
-        found = [harness.Rejection(folder / match[1] if match[1] else folder, int(match[2] or 0), match[3] or match[4])
-                 for match in ERROR.finditer(output) if LEFT_OUT not in match[0]]
-        if result.returncode != 0 and not ERROR.search(output):
-            found.append(harness.Rejection(folder, 0, f"ended with {result.returncode}: {output}"))
-        return found
+    def __call__(self, output, *arguments):
+        """What is refused."""
+        result = harness.run(*self._command, *self._options, f"/out:{output}", *arguments, cwd=output.parent,
+                             env={"DOTNET_SYSTEM_GLOBALIZATION_INVARIANT": "1", **os.environ})
+        rejections = [harness.Rejection(output.parent / file, int(line or 0), message)
+                      for file, line, message in ERROR.findall(result.stdout)]
+        if result.returncode != 0 and not rejections:
+            rejections = [harness.Rejection(output, 0, result.stdout + result.stderr)]
+        return [rejection for rejection in rejections if FRAMEWORK_ONLY not in rejection.message]
 
 
-def project_arguments(macro):
-    """Options, imports and files as the project tells them."""
+def arguments(macro):
+    """What the project of a macro has the compiler do; projects of that form have version 9 of the language."""
     root = xml.etree.ElementTree.parse(macro.project(".vbproj")).getroot()
-    group = root.find("p:PropertyGroup", PROJECT)
-    given = {element.tag.split("}")[1]: element.text for element in group}
-    switches = [f"/{name.lower()}{'+' if given[name] == 'On' else '-'}"
-                for name in ("OptionExplicit", "OptionStrict", "OptionInfer")]
-    imports = ",".join(element.get("Include") for element in root.iterfind(".//p:Import[@Include]", PROJECT))
-    return [*switches, f"/optioncompare:{given['OptionCompare'].lower()}", f"/nowarn:{given['NoWarn']}",
-            f"/rootnamespace:{given['RootNamespace']}", f"/target:{given['OutputType'].lower()}", f"/imports:{imports}",
-            "/langversion:9", *(element.get("Include") for element in root.iterfind(".//p:Compile", PROJECT))]
+    options = {name: root.findtext(f"p:PropertyGroup/p:{name}", "", NAMESPACE)
+               for name in (*SWITCHES, "OptionCompare", "NoWarn", "RootNamespace", "OutputType")}
+    imports = [item.get("Include") for item in root.iterfind("p:ItemGroup/p:Import", NAMESPACE)]
+    return ["/langversion:9", *(f"/{name.lower()}{'+' if options[name] == 'On' else '-'}" for name in SWITCHES),
+            f"/optioncompare:{options['OptionCompare'].lower()}", f"/nowarn:{options['NoWarn']}",
+            f"/rootnamespace:{options['RootNamespace']}", f"/target:{options['OutputType'].lower()}",
+            f"/imports:{','.join(imports)}",
+            *(item.get("Include") for item in root.iterfind("p:ItemGroup/p:Compile", NAMESPACE))]
 
 
 def main():
     checked = harness.Checked()
     compiler = Compiler()
-    (checked.folder / "stubs.vb").write_text(stubs_vbnet.source(harness.STUBS / "interface.txt"), encoding="utf-8")
+    stubs = checked.folder / "stubs.vb"
+    stubs.write_text(stubs_vbnet.source(harness.STUBS / "interface.txt"), encoding="utf-8")
     library = checked.folder / "Inkwright.dll"
-    broken = compiler(checked.folder, "/target:library", f"/out:{library}", "stubs.vb")
-    if broken or not library.exists():
-        harness.finish(harness.shown(broken) or ["the compiler makes nothing"], "")
+    rejections = compiler(library, "/target:library", stubs)
+    if rejections or not library.exists():
+        harness.finish(harness.shown(rejections) or ["the compiler makes nothing"], "")
     macros = checked.macros("vbnet", "--repair")
-
-    def judge(macro):
-        return compiler(macro.folder, f"/r:{library}", f"/out:{checked.folder / macro.name}.exe", *project_arguments(macro))
-
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        rejections = [rejection for found in pool.map(judge, macros) for rejection in found]
-    harness.finish(harness.shown(rejections), f"{len(macros)} projects compiled")
+        refused = pool.map(lambda macro: compiler(macro.folder / "macro.exe", f"/reference:{library}", *arguments(macro)),
+                           macros)
+        complaints = [complaint for rejections in refused for complaint in harness.shown(rejections)]
+    harness.finish(complaints, f"{len(macros)} macros compiled")
 
 
 main()
