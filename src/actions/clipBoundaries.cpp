@@ -7,12 +7,13 @@
 #include "frame/losses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 
-/// Of an image that the macro does not know the statement that would fetch it is lost, and the new name stays.
+/// Of an image that the macro does not know the statement that would fetch it is lost, and the new name stays; but not
+/// in a repaired macro.
 std::int32_t CFxConverterIWAPIImpl::ConvertActionClipBoundary(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    CFxString image = inkmacro::takeVariable(text, inkmacro::HandedVariable::Replaced);
+    CFxString image = inkmacro::takeVariable(writer, text, inkmacro::HandedVariable::Replaced);
     if (image.isEmpty())
-        image = Objects().NameObject(action->GetData(0).GetHandle(), action->GetData(1).GetClass());
+        image = VariableWithoutFetch(action->GetData(0).GetHandle(), action->GetData(1).GetClass());
     if (image.isEmpty())
         return PassOver(action, "objects of that class have no statements");
     const CFxCustomActionData& boundary = action->GetData(2);

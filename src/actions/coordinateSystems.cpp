@@ -92,7 +92,7 @@ const ActionForm coordinateSystemForms[21] = {
 std::int32_t CFxConverterIWAPIImpl::ConvertActionCoordinateSystemOfEntity(OdSmartPtr<CFxCustomAction> action,
                                                                           QString& text)
 {
-    inkmacro::takeVariable(text, inkmacro::HandedVariable::Replaced);
+    inkmacro::takeVariable(writer, text, inkmacro::HandedVariable::Replaced);
     CFxString entity;
     ResolveVariable(action->GetData(0).GetHandle(), action->GetData(1).GetClass(), entity);
     text = EmitAlignCoordinateSystemToEntity(writer, entity, action->GetData(2).GetPoint());

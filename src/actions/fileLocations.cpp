@@ -96,7 +96,7 @@ CFxString quotable(CFxString path)
 std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files, const CFxCustomAction& action,
                                                         QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     const CFxString property = propertyOf(files, action.GetData(0).GetString());
     const CFxCustomActionData& value = action.GetData(1);
 

@@ -22,9 +22,11 @@ const ActionEntry* CFxConverterIWAPIImpl::FindGroup(const CFxString& groupName, 
 
 void CFxConverterIWAPIImpl::ConvertGroupChange(const CFxCustomAction& action, EmitGroupChange change, QString& text)
 {
-    inkmacro::takeVariable(text, inkmacro::HandedVariable::AppendedTo);
+    inkmacro::takeVariable(writer, text, inkmacro::HandedVariable::AppendedTo);
     std::vector<CFxString> names;
     ResolveVariables(names, action.GetData(0), action.GetData(1));
+    if (writer.repairs)
+        std::erase_if(names, [](const CFxString& name) { return name.isEmpty(); });
     OdDbHandle handle;
     const ActionEntry* const group = FindGroup(action.GetData(2).GetString(), handle);
     if (!group) {

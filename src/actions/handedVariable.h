@@ -1,8 +1,6 @@
 #pragma once
 
-#include "host/kernel/CFxString.h"
-
-#include <utility>
+#include "targets/Writer.h"
 
 namespace inkmacro {
 
@@ -15,11 +13,21 @@ enum class HandedVariable
     Kept,       ///< there are no statements, and the bare name lands in the macro alone
 };
 
+inline const Fault kBareVariable{
+    "EmitObjectVariable",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "the bare name of a variable stands in front of the statements"};
+
 /// The variable; empty for an action that is handed none. Handlers begin with it: from there on the text holds what
 /// goes into the macro and nothing else.
-inline CFxString takeVariable(QString& text, HandedVariable fate)
+inline CFxString takeVariable(const Writer& writer, QString& text, HandedVariable fate)
 {
-    return fate == HandedVariable::Replaced ? CFxString(std::exchange(text, QString())) : CFxString(text);
+    const CFxString variable(text);
+    if (fate == HandedVariable::Replaced || writer.repairs)
+        text.clear();
+    else if (!text.isEmpty())
+        text = writer.faulty(text, kBareVariable);
+    return variable;
 }
 
 } // namespace inkmacro

@@ -17,7 +17,7 @@ using inkmacro::takeVariable;
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionEmbeddedObject(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    const CFxString name = takeVariable(text, HandedVariable::Replaced);
+    const CFxString name = takeVariable(writer, text, HandedVariable::Replaced);
     const int flags = action->GetData(0).GetInt();
     const CFxString& path = action->GetData(1).GetString();
     if (path.isEmpty())
@@ -29,7 +29,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionEmbeddedObject(OdSmartPtr<CFxCu
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionRegion(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    const CFxString name = takeVariable(text, HandedVariable::Replaced);
+    const CFxString name = takeVariable(writer, text, HandedVariable::Replaced);
     std::vector<CFxString> names;
     ResolveVariables(names, action->GetData(0), action->GetData(1));
     QStringList curves;
@@ -54,7 +54,7 @@ bool CFxConverterIWAPIImpl::NameInsertedObject(const CFxCustomAction& action, CF
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionViewport(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    CFxString name = takeVariable(text, HandedVariable::Replaced);
+    CFxString name = takeVariable(writer, text, HandedVariable::Replaced);
     const OdArray<OdGePoint3d>& polygon = action->GetData(0).GetPointArray();
     if (!NameInsertedObject(*action, name))
         return PassOver(action, "objects of that class have no statements");

@@ -45,13 +45,17 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCustomAction(OdSmartPtr<CFxCustomActi
         return kFxFailure;
     }
     const LossWatch losses;
+    fetched.clear();
+    fetches.clear();
     std::int32_t status = kFxSuccess;
     if (form->handler) {
         status = (this->*form->handler)(action, text);
     } else {
-        inkmacro::takeVariable(text, inkmacro::HandedVariable::Replaced);
+        inkmacro::takeVariable(writer, text, inkmacro::HandedVariable::Replaced);
         text = form->statements(writer, *action);
     }
+    if (!text.isEmpty())
+        text.prepend(fetches);
     // A view that stays as it is needs none.
     const bool wants = action->GetKind() != inkmacro::kNamedView;
     if (status == kFxSuccess && text.isEmpty() && wants && !losses.any())

@@ -69,7 +69,7 @@ QString background(Writer& writer, const CFxCustomAction& action, const CFxStrin
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionNamedView(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    CFxString variable = takeVariable(text, HandedVariable::Replaced);
+    CFxString variable = takeVariable(writer, text, HandedVariable::Replaced);
     const OdDbHandle& handle = action->GetData(0).GetHandle();
     if (!FindEntry(handle))
         return PassOver(action, "the macro does not have the view");
@@ -96,7 +96,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionNamedView(OdSmartPtr<CFxCustomA
 /// is made here is declared here, and made in a group of its own.
 std::int32_t CFxConverterIWAPIImpl::ConvertActionViewBackground(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    CFxString view = takeVariable(text, HandedVariable::Replaced);
+    CFxString view = takeVariable(writer, text, HandedVariable::Replaced);
     const OdDbHandle& handle = action->GetData(0).GetHandle();
     const OdRxClass* const cls = action->GetData(1).GetClass();
     const bool isNew = action->GetData(2).GetBool();

@@ -32,7 +32,7 @@ QString CFxConverterIWAPIImpl::NoteOfLeader(const OdDbHandle& note, const OdRxCl
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionErase(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::AppendedTo);
+    takeVariable(writer, text, HandedVariable::AppendedTo);
     const std::vector<OdDbHandle>& objects = action->GetData(0).GetHandleArray();
     const std::vector<const OdRxClass*>& classes = action->GetData(1).GetClassArray();
     std::vector<CFxString> names(objects.size());
@@ -61,7 +61,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionAttributeValue(OdSmartPtr<CFxCu
 {
     CFxString name;
     ResolveVariable(action->GetData(0).GetHandle(), action->GetData(1).GetClass(), name);
-    takeVariable(text, name.isEmpty() ? HandedVariable::Kept : HandedVariable::Replaced);
+    takeVariable(writer, text, name.isEmpty() ? HandedVariable::Kept : HandedVariable::Replaced);
     if (name.isEmpty())
         return PassOver(action, "the macro does not have the block");
     EmitGetLayer(writer, name);
@@ -72,7 +72,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionAttributeValue(OdSmartPtr<CFxCu
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionActivate(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::AppendedTo);
+    takeVariable(writer, text, HandedVariable::AppendedTo);
     const std::vector<OdDbHandle>& objects = action->GetData(0).GetHandleArray();
     const OdRxClass* const cls = ClassAt(action->GetData(1).GetClassArray(), 0);
     if (objects.empty())
@@ -85,7 +85,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionActivate(OdSmartPtr<CFxCustomAc
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionJoin(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     const auto variable = [&](std::int32_t index, CFxString& name) {
         const OdRxClass* const cls = action->GetData(index + 1).GetClass();
         return Objects().EmitObjectVariable(action->GetData(index).GetHandle(), cls, name);
@@ -100,7 +100,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionJoin(OdSmartPtr<CFxCustomAction
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionExplode(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     const std::vector<OdDbHandle>& objects = action->GetData(0).GetHandleArray();
     const std::vector<const OdRxClass*>& classes = action->GetData(1).GetClassArray();
     for (std::size_t i = 0; i < objects.size(); ++i) {

@@ -37,7 +37,7 @@ QString CFxConverterIWAPIImpl::EditOfPolyline(const CFxCustomAction& action, std
 template<CFxConverterIWAPIImpl::EmitPolylineEdit edit>
 std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineEdit(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     text = EditOfPolyline(*action, 1, edit);
     return kFxSuccess;
 }
@@ -45,7 +45,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineEdit(OdSmartPtr<CFxCust
 template<CFxConverterIWAPIImpl::EmitPolylineEdit edit>
 std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineVertex(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::AppendedTo);
+    takeVariable(writer, text, HandedVariable::AppendedTo);
     text += EditOfPolyline(*action, 0, edit);
     return kFxSuccess;
 }
@@ -61,7 +61,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineJoin(OdSmartPtr<CFxCust
     static constexpr Joint joints[] = {
         {"AcDbPolyline", &EmitJoinPolyline}, {"AcDbLine", &EmitJoinLine}, {"AcDbArc", &EmitJoinCircleArc}};
 
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     const std::vector<OdDbHandle>& objects = action->GetData(1).GetHandleArray();
     const std::vector<const OdRxClass*>& classes = action->GetData(2).GetClassArray();
     if (objects.size() < 2)
@@ -112,7 +112,7 @@ QString widthsOf(Writer& writer, const CFxString& polyline, const CFxCustomActio
 /// The second points hold the bulges as their x.
 std::int32_t CFxConverterIWAPIImpl::ConvertActionPolyline(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    CFxString name = takeVariable(text, HandedVariable::Replaced);
+    CFxString name = takeVariable(writer, text, HandedVariable::Replaced);
     const OdArray<OdGePoint3d>& vertices = action->GetData(0).GetPointArray();
     const OdArray<OdGePoint3d>& bends = action->GetData(1).GetPointArray();
     const bool closed = action->GetData(2).GetBool();

@@ -34,7 +34,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertSelection(OdSmartPtr<CFxUserSelection
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionSelect(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::AppendedTo);
+    takeVariable(writer, text, HandedVariable::AppendedTo);
     for (std::int32_t i = 0; i + 1 < action->GetDataCount(); i += 2)
         text += EmitSelectEntities(writer, action->GetData(i).GetInt(), action->GetData(i + 1).GetPointArray(), false);
     return kFxSuccess;
@@ -42,7 +42,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionSelect(OdSmartPtr<CFxCustomActi
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionSelectionFilter(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::AppendedTo);
+    takeVariable(writer, text, HandedVariable::AppendedTo);
     std::vector<CFxString> typeNames;
     OdArray<OdGePoint3d> points;
     std::int32_t mode = 0;

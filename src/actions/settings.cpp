@@ -13,7 +13,7 @@ using inkmacro::takeVariable;
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionElementColor(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     text = EmitSetElementColor(writer, action->GetData(0).GetInt(), action->GetData(1).GetColor());
     return kFxSuccess;
 }
@@ -30,7 +30,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionOptionValue(OdSmartPtr<CFxCusto
     std::int32_t applicationKind = -1;
     const bool inDocument = FindCommandOption(variable, ofDocument, documentKind) == kFxSuccess;
     const bool inApplication = FindApplicationOption(variable, ofApplication, applicationKind) == kFxSuccess;
-    takeVariable(text, inApplication && !inDocument ? HandedVariable::AppendedTo : HandedVariable::Replaced);
+    takeVariable(writer, text, inApplication && !inDocument ? HandedVariable::AppendedTo : HandedVariable::Replaced);
 
     // Without an option there is nothing to say, and the value need not be there.
     if (!inDocument && !inApplication)
@@ -59,7 +59,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionOptionValue(OdSmartPtr<CFxCusto
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionPrintStyle(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     text = EmitSetModelProperty(writer, "PrintStyle", action->GetData(0).GetString(), action->GetData(1).GetBool(),
                                 action->GetData(2).GetString());
     return kFxSuccess;

@@ -36,7 +36,7 @@ std::vector<TrimPiece> CFxConverterIWAPIImpl::RegisterPieces(const CFxCustomActi
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionTrim(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     std::vector<CFxString> cutting;
     std::vector<CFxString> removed;
     ResolveVariables(cutting, action->GetData(0), action->GetData(1));
@@ -55,7 +55,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionTrim(OdSmartPtr<CFxCustomAction
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionExtend(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     std::vector<CFxString> boundary;
     std::vector<CFxString> extended;
     ResolveVariables(boundary, action->GetData(0), action->GetData(1));
@@ -64,7 +64,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionExtend(OdSmartPtr<CFxCustomActi
     return kFxSuccess;
 }
 
-CornerSide CFxConverterIWAPIImpl::SideOf(const CFxCustomAction& action, std::int32_t first) const
+CornerSide CFxConverterIWAPIImpl::SideOf(const CFxCustomAction& action, std::int32_t first)
 {
     CornerSide side;
     ResolveVariables(side.names, action.GetData(first), action.GetData(first + 1));
@@ -74,7 +74,7 @@ CornerSide CFxConverterIWAPIImpl::SideOf(const CFxCustomAction& action, std::int
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionFillet(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     std::optional<double> radius;
     if (ACTIVE_DOCUMENT)
         radius = ACTIVE_DOCUMENT->GetDatabase()->getSysVarDouble("FILLETRAD");
@@ -84,7 +84,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionFillet(OdSmartPtr<CFxCustomActi
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionChamfer(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     ChamferSettings settings;
     if (ACTIVE_DOCUMENT) {
         const OdDbDatabase& drawing = *ACTIVE_DOCUMENT->GetDatabase();
@@ -100,6 +100,6 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionChamfer(OdSmartPtr<CFxCustomAct
 /// All corners of a polyline at once: the interface has no operation for it, so the macro does not say it.
 std::int32_t CFxConverterIWAPIImpl::ConvertActionCornersOfPolyline(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     return PassOver(action, "the interface has no operation for all corners of a polyline");
 }

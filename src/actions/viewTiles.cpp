@@ -25,7 +25,7 @@ static QString tilesMode(int mode)
 /// dropped.
 std::int32_t CFxConverterIWAPIImpl::ConvertActionViewTiles(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     const QLatin1String applyTo(action->GetData(0).GetBool() ? "iwViewTilesApplyTo_Display"
                                                              : "iwViewTilesApplyTo_ActiveViewTile");
     const QString mode = tilesMode(action->GetData(1).GetInt());
@@ -44,7 +44,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionViewTiles(OdSmartPtr<CFxCustomA
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionZoom(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    takeVariable(text, HandedVariable::Replaced);
+    takeVariable(writer, text, HandedVariable::Replaced);
     const CFxString& range = action->GetData(0).GetString();
     text = range.equalNoCase("iwZoomRange_Window")
                ? EmitZoom(writer, range, action->GetData(1).GetPoint(), action->GetData(2).GetPoint())

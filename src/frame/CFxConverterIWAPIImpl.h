@@ -101,11 +101,15 @@ public:
     void GetNoteLeader(OdDbObjectId& leader, const OdDbHandle& handle) const;
     /// One element a handle: its name as ResolveVariables gives it, the object type enumerator (empty where the name
     /// is), the handle's text.
-    EntityList ResolveNames(const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray) const;
+    EntityList ResolveNames(const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray);
     /// One element a handle: the name that the object is declared by, with the class that is told here; empty for an
-    /// object that the generated code does not know, whose class is not asked for.
+    /// object that the generated code does not know, whose class is not asked for. A repaired macro fetches that one.
     void ResolveVariables(std::vector<CFxString>& names, const CFxCustomActionData& handleArray,
-                          const CFxCustomActionData& classArray) const;
+                          const CFxCustomActionData& classArray);
+    /// The variable of an object that the present custom action has to fetch.
+    CFxString Fetched(const OdDbHandle& handle, const OdRxClass* cls);
+    /// The name of an object whose fetch is not written, but in a repaired macro.
+    CFxString VariableWithoutFetch(const OdDbHandle& handle, const OdRxClass* cls);
     /// One object's name, or the name as it was. Spelled another way than the declared name: see there.
     void ResolveVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) const;
     /// The entry of that handle or null; null in a repaired macro for an object that no statement inserts.
@@ -139,6 +143,9 @@ public:
     OdDbHandle lastFinished;
     /// Added objects that no statement inserts: their variables have no value.
     std::set<OdDbHandle> unmade;
+    /// Variables of objects that a repaired macro fetches in front of the present custom action, and what fetches them.
+    std::map<OdDbHandle, CFxString> fetched;
+    QString fetches;
     /// Whether the variable of an unmade object was asked for; set back for each statement.
     mutable bool usesUnmade = false;
     /// Ordinal of the last object that got a variable.
@@ -167,14 +174,14 @@ private:
     std::int32_t ConvertFileLocation(const FileObject& files, const CFxCustomAction& action, QString& text);
     std::int32_t ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text);
     CFxConverterIWAPIObject& Objects() const;
-    EntityList EntitiesOf(const CFxCustomAction& action) const;
+    EntityList EntitiesOf(const CFxCustomAction& action);
     QString EditOfPolyline(const CFxCustomAction& action, std::int32_t first, EmitPolylineEdit edit);
     /// Registers and names the object that the data 3 and 4 tell, unless a name was handed over. False, and no name,
     /// for an object whose class is not converted.
     bool NameInsertedObject(const CFxCustomAction& action, CFxString& name);
     std::vector<TrimPiece> RegisterPieces(const CFxCustomAction& trim);
     /// One side of a corner, in three data from the first on.
-    CornerSide SideOf(const CFxCustomAction& action, std::int32_t first) const;
+    CornerSide SideOf(const CFxCustomAction& action, std::int32_t first);
     QString NoteOfLeader(const OdDbHandle& note, const OdRxClass* noteClass, const OdDbObjectId& leader,
                          CFxString& name);
     /// The entry of the group of that name, or null for a group that the generated code does not know.

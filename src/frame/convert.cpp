@@ -194,6 +194,11 @@ std::int32_t CFxConverterIWAPIImpl::ConvertModified(const OdSmartPtr<CFxObjectMo
         ResolveVariable(handle, cls, name);
         if (!name.isEmpty())
             text += EmitGetLayer(writer, name);
+        const std::int32_t status = Objects().ConvertObjectModified(action, text);
+        // The variable is gone behind its command.
+        if (writer.repairs)
+            ObjectVariableMap.erase(handle);
+        return status;
     }
     return Objects().ConvertObjectModified(action, text);
 }

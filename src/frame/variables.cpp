@@ -4,6 +4,7 @@
 #include "frame/RecordingState.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
+#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
 
 #include <QHash>
@@ -124,7 +125,7 @@ CFxString CFxConverterIWAPIImpl::DeclaredName(const ActionEntry& entry) const
 }
 
 EntityList CFxConverterIWAPIImpl::ResolveNames(const CFxCustomActionData& handleArray,
-                                               const CFxCustomActionData& classArray) const
+                                               const CFxCustomActionData& classArray)
 {
     std::vector<CFxString> names;
     ResolveVariables(names, handleArray, classArray);
@@ -138,11 +139,31 @@ EntityList CFxConverterIWAPIImpl::ResolveNames(const CFxCustomActionData& handle
             GetApiTypeName(classes[i], type, entities[i].type);
         entities[i].handle = objects[i].ascii();
     }
+    if (writer.repairs)
+        std::erase_if(entities, [](const ListedEntity& entity) { return entity.name.isEmpty(); });
     return entities;
 }
 
+CFxString CFxConverterIWAPIImpl::Fetched(const OdDbHandle& handle, const OdRxClass* cls)
+{
+    CFxString& name = fetched[handle];
+    if (name.isEmpty())
+        fetches += Objects().EmitObjectVariable(handle, cls, name);
+    return name;
+}
+
+CFxString CFxConverterIWAPIImpl::VariableWithoutFetch(const OdDbHandle& handle, const OdRxClass* cls)
+{
+    if (!FindEntry(handle) && HasInterface(cls)) {
+        usesUnmade = true;
+        if (writer.repairs)
+            return Fetched(handle, cls);
+    }
+    return Objects().NameObject(handle, cls);
+}
+
 void CFxConverterIWAPIImpl::ResolveVariables(std::vector<CFxString>& names, const CFxCustomActionData& handleArray,
-                                             const CFxCustomActionData& classArray) const
+                                             const CFxCustomActionData& classArray)
 {
     const std::vector<OdDbHandle>& objects = handleArray.GetHandleArray();
     const std::vector<const OdRxClass*>& classes = classArray.GetClassArray();
@@ -150,6 +171,8 @@ void CFxConverterIWAPIImpl::ResolveVariables(std::vector<CFxString>& names, cons
     for (std::size_t i = 0; i < objects.size(); ++i)
         if (const ActionEntry* const entry = FindEntry(objects[i]))
             names[i] = DeclaredName({ClassAt(classes, i), entry->ordinal});
+        else if (writer.repairs && unmade.count(objects[i]) == 0 && HasInterface(ClassAt(classes, i)))
+            names[i] = Fetched(objects[i], ClassAt(classes, i));
 }
 
 /// Takes the suffixes off after the number was put on, and only the one of smart pointers: in C++ a region or a view

@@ -86,7 +86,12 @@ bool CFxConverterIWAPIObject::AddressChangedObject(const OdRxClass* cls, const O
         return false;
     if (!noteLeader.isNull()) {
         name = NameObject(handle, cls);
-        const CFxString leader = NameObject(noteLeader.getHandle(), OdDbLeader::desc());
+        CFxString leader;
+        driver.usesUnmade = driver.usesUnmade || !driver.FindEntry(noteLeader.getHandle());
+        if (writer.repairs)
+            text += EmitObjectVariable(noteLeader.getHandle(), OdDbLeader::desc(), leader);
+        else
+            leader = NameObject(noteLeader.getHandle(), OdDbLeader::desc());
         text += EmitGetNoteAnnotation(writer, name, leader);
         return true;
     }

@@ -155,11 +155,18 @@ static QString objectWord(const ArrayPlace& place, const QString& word)
     return place.writer.target == Target::VbNet ? bracketed(place, word) : word;
 }
 
+static const Fault kEmptyPlace{
+    "array of objects",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "an object without a variable leaves its place empty"};
+
 QString objectLines(const ArrayPlace& place, std::vector<QString> words)
 {
+    const bool hasEmpty = std::find(words.begin(), words.end(), QString()) != words.end();
     for (QString& word : words)
         word = objectWord(place, word);
-    return elementLines(objectElement, "IDispatch*", place, words);
+    const QString lines = elementLines(objectElement, "IDispatch*", place, words);
+    return hasEmpty ? place.writer.faulty(lines, kEmptyPlace) : lines;
 }
 
 QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words)
@@ -190,7 +197,8 @@ static QString singleLine(const Phrase& phrase, const ArrayPlace& place, std::si
 
 QString objectLine(const ArrayPlace& place, std::size_t index, const QString& word)
 {
-    return singleLine(objectElement, place, index, objectWord(place, word));
+    const QString line = singleLine(objectElement, place, index, objectWord(place, word));
+    return word.isEmpty() ? place.writer.faulty(line, kEmptyPlace) : line;
 }
 
 QString bareObjectLine(const ArrayPlace& place, std::size_t index, const QString& word)

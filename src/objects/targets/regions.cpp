@@ -56,11 +56,6 @@ static const Phrase takeRegion{
         .vba = "%1Set %4 = regionArray%3(0)%2%2",
     }};
 
-static const Fault kEmptyPlace{
-    "EmitInsertRegion",
-    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
-    "an object without a variable leaves its place empty"};
-
 static QString regionEntities(Writer& writer, const QStringList& names, std::uint32_t number)
 {
     static constexpr Words arrayNames{.cpp = "entitiesArray",
@@ -84,13 +79,11 @@ static QString regionEntities(Writer& writer, const QStringList& names, std::uin
 
 QString EmitInsertRegion(Writer& writer, const CFxString& variable, const QStringList& names, std::uint32_t number)
 {
-    QStringList known = names;
-    known.removeAll(QString());
-    QString entities = regionEntities(writer, writer.repairs ? known : names, number);
-    if (known.size() < names.size())
-        entities = writer.faulty(entities, kEmptyPlace);
+    QStringList filled = names;
+    if (writer.repairs)
+        filled.removeAll(QString());
     // The number goes into two places of the same literal in C++.
-    return entities + writer.fill(regionArray).number(number).str() +
+    return regionEntities(writer, filled, number) + writer.fill(regionArray).number(number).str() +
            writer.fill(insertRegion).number(number).number(number).str() +
            writer.fill(takeRegion).number(number).text(variable).str();
 }
