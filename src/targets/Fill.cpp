@@ -393,7 +393,8 @@ const Fault kReadMarker{"EscapeText",
 
 } // namespace
 
-Template::Template(const char* latin1, std::optional<Target> language) : text_(QString::fromLatin1(latin1))
+Template::Template(const char* latin1, std::optional<Target> language)
+    : language_(language), text_(QString::fromLatin1(latin1))
 {
     std::vector<Marker> markers;
     std::vector<int> numbers;

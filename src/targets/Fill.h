@@ -26,6 +26,8 @@ public:
     /// Of a language in which a statement stands; without one, no text is known to stand between quotes.
     explicit Template(const char* latin1, std::optional<Target> language = {});
 
+    std::optional<Target> language() const { return language_; }
+
 private:
     friend class Fill;
 
@@ -49,6 +51,7 @@ private:
 
     static constexpr int noMarker = -1;
 
+    std::optional<Target> language_;
     QString text_;
     std::vector<Piece> pieces_;
     std::vector<Rank> ranks_;

@@ -159,14 +159,22 @@ static const Fault kEmptyPlace{
     "array of objects",
     {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
     "an object without a variable leaves its place empty"};
+static const Fault kReleasedElement{
+    "array of objects", {Target::CppCom}, "a pointer is taken out of a temporary, which lets go of the object"};
 
 QString objectLines(const ArrayPlace& place, std::vector<QString> words)
 {
+    const Writer& writer = place.writer;
     const bool hasEmpty = std::find(words.begin(), words.end(), QString()) != words.end();
+    const bool found = std::any_of(words.begin(), words.end(), [](const QString& word) { return word.endsWith(')'); });
+    const bool released = writer.target == Target::CppCom && found;
     for (QString& word : words)
         word = objectWord(place, word);
-    const QString lines = elementLines(objectElement, "IDispatch*", place, words);
-    return hasEmpty ? place.writer.faulty(lines, kEmptyPlace) : lines;
+    QString lines =
+        elementLines(objectElement, released && writer.repairs ? "IDispatchPtr" : "IDispatch*", place, words);
+    if (hasEmpty)
+        lines = writer.faulty(lines, kEmptyPlace);
+    return released ? writer.faulty(lines, kReleasedElement) : lines;
 }
 
 QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words)

@@ -54,7 +54,7 @@ QString numberedName(const inkmacro::Words& names, inkmacro::Target target, std:
 
 // All elements of an array, in C++ COM with the locals that it takes to put them in.
 
-/// `words` are variables or expressions.
+/// `words` are variables or calls.
 QString objectLines(const ArrayPlace& place, std::vector<QString> words);
 /// `words` as objectTypeWord makes them, or variables.
 QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words);

@@ -120,6 +120,9 @@ static const Phrase setElementColor{"EmitSetElementColor",
                                     }};
 static const Mend basicElementColor(setElementColor, Target::Vba, "Set stands in front of a call",
                                     "%9appOption.SetElementColor ElementOption, iwColor1%10");
+static const Mend elementColorByPointer(setElementColor, Target::CppCom,
+                                        "a member is asked of the smart pointer instead of its object",
+                                        "%9appOption->SetElementColor(ElementOption, iwColor1);%10");
 
 QString EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmColor& color)
 {

@@ -181,10 +181,10 @@ static const Phrase setWidths{"EmitPolylineWidth",
                                   .vba = "%1%2.SetSegmentStartWidth %3, %4 \n"
                                          "%1%2.SetSegmentEndWidth %3, %5 \n",
                               }};
-static const Mend nativeWidths(setWidths, Target::Cpp,
-                               "the local that tells the success is declared and not handed over",
-                               "%1bool Success%6;\n%1%2->SetSegmentStartWidth( %3, %4, &Success%6 );\n"
-                               "%1%2->SetSegmentEndWidth( %3, %5, &Success%6 );\n");
+static const Mend widthsWithSuccess(setWidths, Target::Cpp,
+                                    "the local that tells the success is declared and not handed over",
+                                    "%1bool Success%6;\n%1%2->SetSegmentStartWidth( %3, %4, &Success%6 );\n"
+                                    "%1%2->SetSegmentEndWidth( %3, %5, &Success%6 );\n");
 
 QString EmitPolylineWidth(Writer& writer, const CFxString& polyline, int segment, double start, double end)
 {

@@ -3,6 +3,7 @@
 #include "targets/projectFiles.h"
 
 #include "frame/CFxConverterIWAPIModule.h"
+#include "frame/RecordingState.h"
 #include "host/kernel/CFxServices.h"
 
 #include <QDir>
@@ -35,6 +36,11 @@ bool writeTextFile(const QString& path, const QString& text, bool byteOrderMark)
 QString xmlText(const QString& text)
 {
     return text.toHtmlEscaped();
+}
+
+Fill fillProject(const Template& words)
+{
+    return Fill(&words).with({words.language(), RepairsMacros()});
 }
 
 std::int32_t WriteProject(const QString& macroPath, const std::vector<ProjectFile>& files)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "targets/Fill.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -17,6 +19,9 @@ struct ProjectFile
 
 /// A name or a directory as it stands in the XML of a project, between tags or quotes.
 QString xmlText(const QString& text);
+
+/// The words of a project's file; with their language, which escapes what stands in its quotes in a repaired project.
+Fill fillProject(const Template& words);
 
 /// Writes the files in turn into the macro file's directory, which is made when it is missing. Ends with kFxFailure at
 /// the first that cannot be opened; those before it stay. A write that fails after that is reported to the host alone.

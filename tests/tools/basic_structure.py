@@ -33,11 +33,13 @@ _CLOSES = {"Next": "For", "Loop": "Do"}
 _PARTS = [("If", re.compile(r"(?:Else$|ElseIf\b.*\bThen$)", re.I)), ("Try", re.compile(r"(?:Catch\b|Finally$)", re.I)),
           ("Select", re.compile(r"Case\b", re.I))]
 
+_LINE_END = {VBNET: re.compile("\r\n|[\r\n\x85\u2028\u2029]"), VBA: re.compile("\r\n|[\r\n]")}
 _KEYWORDS = set("""and andalso byref byval call case catch class dim do each else elseif end exit explicit false finally
     for function get if imports in is isnot let like loop mod module new next not nothing on option or orelse private
     public redim return select set shared step sub then to true try until wend while with xor""".split())
 _GLOBALS = {
-    VBNET: {"inkwright", "system", "dispatchwrapper", "cint", "vblf", "ctype", "directcast", "trycast", "object", "math"},
+    VBNET: {"inkwright", "system", "dispatchwrapper", "cint", "vblf", "ctype", "directcast", "trycast", "object", "math",
+            "chrw"},
     VBA: {"inkwright", "getobject", "msgbox", "vblf", "cint", "abs", "chrw"},
 }
 
@@ -213,10 +215,10 @@ def _argument_count(call):
     return count
 
 
-def statements(text):
+def statements(text, dialect):
     """(line, statement) of everything that stands in a file, continued lines in one."""
     begun, first = "", 0
-    for number, raw in enumerate(text.lstrip("\ufeff").splitlines(), 1):
+    for number, raw in enumerate(_LINE_END[dialect].split(text.lstrip("\ufeff")), 1):
         first = first if begun else number
         if raw.endswith(" _"):
             begun += raw[:-1]
@@ -228,7 +230,7 @@ def statements(text):
 def check(text, dialect, known=()):
     """(line, fault) of everything that is wrong; `known` are names from the other files of the project."""
     checker = _Checker(dialect, known)
-    for checker.number, statement in statements(text):
+    for checker.number, statement in statements(text, dialect):
         checker.line(statement)
     for scope in checker.scopes[1:]:
         checker.fault(f"{scope.block} is never closed", scope.line)

@@ -65,7 +65,7 @@ class Judge:
         if result.returncode != 0:
             return [harness.Rejection(self.assembly, 0, result.stdout + result.stderr)]
         self.calls, rejections, macro = {}, [], None
-        for line in map(json.loads, result.stdout.splitlines()):
+        for line in map(json.loads, filter(None, result.stdout.split("\n"))):
             if "macro" in line:
                 macro = by_class[line["macro"]]
                 self.calls[macro] = []
@@ -79,7 +79,7 @@ class Judge:
 def main():
     checked = harness.Checked()
     repaired = sys.argv[3:] == ["repaired"]
-    macros = checked.macros("csharp", *(["--repair"] if repaired else []))
+    macros = checked.macros("csharp", *["--repair"] * repaired)
     judge = Judge(checked, macros)
     faults = harness.KnownFaults("csharp", *([()] if repaired else []))
     faults.settle(judge.files, judge)

@@ -49,18 +49,18 @@ def parse(node, macro, script):
     return [harness.Rejection(macro.file, int(match[1]) if match else 0, match[2] if match else result.stderr)]
 
 
-def check_syntax(checked, options, excused, _):
+def check_syntax(checked, repaired, excused, _):
     node, = harness.need("node")
-    macros = checked.macros("javascript", *options)
+    macros = checked.macros("javascript", *["--repair"] * repaired)
     faults = harness.KnownFaults("javascript", excused and ("parse",))
     for macro in macros:
         faults.settle([macro.file], lambda macro=macro: parse(node, macro, checked.folder / "script.js"))
     faults.report(f"{len(macros)} scripts parsed")
 
 
-def check_run(checked, options, excused, comparison):
+def check_run(checked, repaired, excused, comparison):
     executable, = harness.need("chromium")
-    macros = checked.macros("javascript", *options)
+    macros = checked.macros("javascript", *["--repair"] * repaired)
     faults = harness.KnownFaults("javascript", excused)
     with browser.Browser(executable, checked.folder) as window:
         for macro in macros:
@@ -82,9 +82,9 @@ def main():
     checked = harness.Checked()
     check = {"parse": check_syntax, "run": check_run}[sys.argv[3]]
     if sys.argv[4:] == ["repaired"]:
-        check(checked, ["--repair"], (), drawing.Comparison("javascript", checked.program))
+        check(checked, True, (), drawing.Comparison("javascript", checked.program))
     else:
-        check(checked, [], ("parse", "run"), expected.Comparison("javascript"))
+        check(checked, False, ("parse", "run"), expected.Comparison("javascript"))
 
 
 main()

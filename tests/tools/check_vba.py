@@ -34,7 +34,7 @@ def build(checked):
 def compile_all(checked, program, files):
     result = harness.run(program, checked.folder / "profile", *files,
                          env={**os.environ, "HOME": str(checked.folder)})
-    rows = [row.split("\t", 2) for row in result.stdout.splitlines()]
+    rows = [row.split("\t", 2) for row in result.stdout.split("\n")[:-1]]
     if result.returncode != (1 if rows else 0):
         harness.finish([f"the compiler ended with {result.returncode}: {result.stderr}"], "")
     return [harness.Rejection(pathlib.Path(file), int(line), message) for file, line, message in rows]

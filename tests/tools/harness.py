@@ -9,6 +9,8 @@ import subprocess
 import sys
 import tempfile
 
+import hostile
+
 SKIPPED = 77
 HERE = pathlib.Path(__file__).resolve().parent
 STUBS = HERE.parent / "stubs"
@@ -74,12 +76,26 @@ class Checked:
         listed = run(self.program, "--help").stdout
         return re.search(rf"^ *{target} \(code \d\)$", listed, re.MULTILINE) is not None
 
+    def hostile_recordings(self):
+        """Every recording with texts that try to become code, under a name that is no identifier."""
+        folder = self.folder / "hostile"
+        folder.mkdir(exist_ok=True)
+        found = {}
+        for number, (name, recording) in enumerate(self.recordings().items()):
+            title = hostile.NAMES[number] if number < len(hostile.NAMES) else f"{number} {name}-x"
+            found[title] = folder / f"{title}.jsonl"
+            text = hostile.Hostile(number).recording(recording.read_text(encoding="utf-8-sig"))
+            found[title].write_text(text, encoding="utf-8")
+        return found
+
     def macros(self, target, *options):
-        """Converts every recording with those options of the program, each into a folder of its own."""
+        """Converts every recording with those options of the program, each into a folder of its own; to repaired
+        macros the hostile ones too."""
         if not self.has(target):
             skip(f"the program has no target {target}")
+        repaired = "--repair" in options
         macros = []
-        for name, recording in self.recordings("--repair" in options).items():
+        for name, recording in {**self.recordings(repaired), **(self.hostile_recordings() if repaired else {})}.items():
             folder = self.folder / target / name
             folder.mkdir(parents=True)
             file = folder / f"{name}.{EXTENSIONS[target]}"

@@ -7,6 +7,9 @@ import re
 ENDINGS = ['"; System.IO.File.Delete("x"); //', "</script><b>'", "a\nb\r\nc", "back\\slash\\", "%1 %2 %3 %L4 %11 %%5",
            "tab\tbell\a1", "\u201cquoted\u201d", '" & Kill("x") & "', "\u2028end\u2029\x85", "??/ ??=", "<!-- \\u0022 ${x}"]
 
+# Of recordings and so of their macros.
+NAMES = ["a b-1", "namespace", "1st", "Line", "System", "O'Neil & Sons", "math", "Run", "caf\u00e9", "100%1"]
+
 # Keys and property tags under which users' texts stand.
 KEYS = {"comments", "contents", "dimensionText", "pathName", "plotStyleName", "textString", "text", "prompt", "local",
         "global", "layoutName"}
@@ -21,6 +24,8 @@ class Hostile:
         self._count = first
 
     def _text(self, text):
+        if text.startswith("*"):  # the host's own names
+            return text
         ending = ENDINGS[self._count % len(ENDINGS)]
         self._count += 1
         return text + ending

@@ -86,7 +86,7 @@ class _Checker:
 def check(text, known):
     """(line, fault) of everything that is wrong; `known` is the interface that the macro uses."""
     checker = _Checker(known)
-    for number, statement in basic_structure.statements(text):
+    for number, statement in basic_structure.statements(text, basic_structure.VBA):
         code, _ = basic_structure.without_text(statement)
         declares = re.match(r"Dim\b", code, re.I)
         faults = checker.declarations(code) if declares else [*checker.assignment(code), *checker.uses(code)]

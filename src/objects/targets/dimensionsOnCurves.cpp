@@ -136,7 +136,7 @@ static const Phrase angularOnTemporaryArc{
         .vbNet = vbNetOnTemporaryArc,
         .vba = vbaOnTemporaryArc,
     }};
-static const Mend nativeAngularOnTemporaryArc(
+static const Mend dimensionHandedOver(
     angularOnTemporaryArc, Target::Cpp,
     "the sign of a placeholder is missing, so the dimension's variable is not handed over",
     "%1iwCircleArc_ptr %3;%2%1iwSketchManager->InsertArc(%4, %5, %6, %7, %8, %9, &%3);%2"

@@ -324,8 +324,9 @@ static const Phrase assignGradientAngle{"EmitHatchGradientData: angle",
                                             .vbNet = "%1gradientAngle = %3%2",
                                             .vba = "%1gradientAngle = %3%2",
                                         }};
-static const Mend nativeGradientAngle(assignGradientAngle, Target::Cpp, "the line end stands in the place of the value",
-                                      "%1gradientAngle = %3;%2");
+static const Mend gradientAngleWithValue(assignGradientAngle, Target::Cpp,
+                                         "the marker of the line end is missing, so the value is lost",
+                                         "%1gradientAngle = %3;%2");
 
 static const Phrase assignCentered{"EmitHatchGradientData: centered",
                                    {
@@ -336,8 +337,9 @@ static const Phrase assignCentered{"EmitHatchGradientData: centered",
                                        .vbNet = "%1bCentered = %3%2",
                                        .vba = "%1bCentered = %3%2",
                                    }};
-static const Mend nativeCentered(assignCentered, Target::Cpp, "the line end stands in the place of the value",
-                                 "%1bCentered = %3;%2");
+static const Mend centeredWithValue(assignCentered, Target::Cpp,
+                                    "the marker of the line end is missing, so the value is lost",
+                                    "%1bCentered = %3;%2");
 
 static const Phrase putGradientData{
     "EmitHatchGradientData: writing",

@@ -29,10 +29,11 @@ static const Phrase setSheetProperty{"EmitSetModelProperty",
                                          .vbNet = "%3%1%4.%5 = \"%6\"%2",
                                          .vba = "%3%1%4.%5 = \"%6\"%2",
                                      }};
-static const Mend comSheetProperty(setSheetProperty, Target::CppCom, "a property of a sheet is given a narrow text",
-                                   "%3%1%4->put_%5( L\"%6\" );%2");
-static const Mend nativeSheetProperty(setSheetProperty, Target::Cpp, "a property of a sheet is given a narrow text",
-                                      "%3%1%4->put_%5( L\"%6\" );%2");
+static const Mend wideSheetProperty(setSheetProperty, Target::Cpp, "a property of a sheet is given a narrow text",
+                                    "%3%1%4->put_%5( L\"%6\" );%2");
+static const Mend wideSheetPropertyInCom(setSheetProperty, Target::CppCom,
+                                         "a property of a sheet is given a narrow text",
+                                         "%3%1%4->put_%5( L\"%6\" );%2");
 
 QString EmitSetModelProperty(Writer& writer, const CFxString& property, const CFxString& value, bool ofModel,
                              const CFxString& sheetName)

@@ -140,14 +140,14 @@ private:
 
 static QString named(const char* words, const QString& name)
 {
-    const Template text(words);
-    return Fill(&text).text(name).text(LineEnd);
+    const Template text(words, Target::Cpp);
+    return fillProject(text).text(name).text(LineEnd);
 }
 
 static QString exports(const QString& projectName)
 {
     static const Template words("LIBRARY\t\"%2\"%1%1EXPORTS%1connectToInkwright%1disconnectFromInkwright%1");
-    return Fill(&words).text(LineEnd).text(projectName);
+    return fillProject(words).text(LineEnd).text(projectName);
 }
 
 QString CFxConverterIWAPICPP::EmitProgramText(const QString& name)

@@ -233,7 +233,7 @@ QByteArray projectWords()
 QString CFxConverterIWAPICPP::EmitProjectText(const QString& projectName)
 {
     static const Template words(projectWords().constData());
-    return Fill(&words)
+    return fillProject(words)
         .text(xmlText(projectName))
         .text(LineEnd)
         .text(xmlText(installedPath("APISDK\\lib\\cpp")))

@@ -3,6 +3,7 @@
 #include "targets/Fill.h"
 #include "targets/LineEnd.h"
 #include "targets/cppcom/projectTexts.h"
+#include "targets/projectFiles.h"
 
 // %1 is the project, %2 the line end.
 
@@ -152,14 +153,14 @@ namespace inkmacro::cppcom {
 
 QString connectionHeader(const QString& name)
 {
-    const Template words(withIdentifier(headerText, {"LIBID_%1Lib"}, name).constData());
-    return Fill(&words).text(name).text(LineEnd);
+    const Template words(withIdentifier(headerText, {"LIBID_%1Lib"}, name).constData(), Target::CppCom);
+    return fillProject(words).text(name).text(LineEnd);
 }
 
 QString connectionSource(const QString& name)
 {
-    static const Template words(sourceText);
-    return Fill(&words).text(name).text(LineEnd);
+    static const Template words(sourceText, Target::CppCom);
+    return fillProject(words).text(name).text(LineEnd);
 }
 
 QString commandHeader()

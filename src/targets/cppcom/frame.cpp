@@ -156,9 +156,10 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 QString CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 1;
-    const Template words(
-        (cppcom::withIdentifier(server, {"C%2Module", "LIBID_%2Lib", "IDR_%2,"}, className) + head.words(writer.repairs)).constData(),
-        writer.target);
+    const Template words((cppcom::withIdentifier(server, {"C%2Module", "LIBID_%2Lib", "IDR_%2,"}, className) +
+                          head.words(writer.repairs))
+                             .constData(),
+                         writer.target);
     const QString serverId = QUuid::createUuid().toString();
     return faultyName(className,
                       writer.fill(words).text(LineEnd).text(className).text(serverId).text(RecordingSheetName));

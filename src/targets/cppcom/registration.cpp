@@ -3,6 +3,7 @@
 #include "targets/Fill.h"
 #include "targets/LineEnd.h"
 #include "targets/cppcom/projectTexts.h"
+#include "targets/projectFiles.h"
 
 #include <QUuid>
 
@@ -110,31 +111,31 @@ QString interfaceDefinition(const QString& name, const QString& typeLibraryId, c
 {
     const Template words(withIdentifier(interfaceText, {"library %1Lib"}, name).constData());
     const QString interfaceId = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    return Fill(&words).text(name).text(LineEnd).text(interfaceId).text(typeLibraryId).text(classId);
+    return fillProject(words).text(name).text(LineEnd).text(interfaceId).text(typeLibraryId).text(classId);
 }
 
 QString connectionRegistration(const QString& name, const QString& classId, const QString& typeLibraryId)
 {
     static const Template words(connectionScript);
-    return Fill(&words).text(name).text(LineEnd).text(classId).text(typeLibraryId);
+    return fillProject(words).text(name).text(LineEnd).text(classId).text(typeLibraryId);
 }
 
 QString serverRegistration(const QString& name)
 {
     static const Template words(serverScript);
-    return Fill(&words).text(name).text(LineEnd);
+    return fillProject(words).text(name).text(LineEnd);
 }
 
 QString serverExports(const QString& name)
 {
     static const Template words(serverExportsText);
-    return Fill(&words).text(name).text(LineEnd);
+    return fillProject(words).text(name).text(LineEnd);
 }
 
 QString proxyExports(const QString& name)
 {
     static const Template words(proxyExportsText);
-    return Fill(&words).text(name).text(LineEnd);
+    return fillProject(words).text(name).text(LineEnd);
 }
 
 } // namespace inkmacro::cppcom

@@ -3,6 +3,7 @@
 #include "targets/Fill.h"
 #include "targets/LineEnd.h"
 #include "targets/cppcom/projectTexts.h"
+#include "targets/projectFiles.h"
 
 // %1 is the project, %2 the line end.
 
@@ -150,13 +151,13 @@ namespace inkmacro::cppcom {
 QString resourceHeader(const QString& name)
 {
     const Template words(withIdentifier(headerText, {"IDR_%1 "}, name).constData());
-    return Fill(&words).text(name).text(LineEnd);
+    return fillProject(words).text(name).text(LineEnd);
 }
 
 QString resourceScript(const QString& name)
 {
     const Template words(withIdentifier(scriptText, {"IDR_%5 "}, name).constData());
-    return Fill(&words).text(LineEnd).number(1).number(2).number(3).text(name);
+    return fillProject(words).text(LineEnd).number(1).number(2).number(3).text(name);
 }
 
 } // namespace inkmacro::cppcom

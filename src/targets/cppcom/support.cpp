@@ -4,6 +4,7 @@
 #include "targets/LineEnd.h"
 #include "targets/cppcom/projectTexts.h"
 #include "targets/installation.h"
+#include "targets/projectFiles.h"
 
 // %1 is the line end, %2 and %3 are the type libraries of add-ins and of the application.
 static const char* const precompiledHeaderText =
@@ -311,7 +312,7 @@ namespace inkmacro::cppcom {
 QString precompiledHeader()
 {
     static const Template words(precompiledHeaderText);
-    return Fill(&words)
+    return fillProject(words)
         .text(LineEnd)
         .text(installedPath("APISDK\\tlb\\iwAddin.tlb"))
         .text(installedPath("bin\\iwAutomation.dll"));
@@ -320,7 +321,7 @@ QString precompiledHeader()
 QString precompiledSource()
 {
     static const Template words(precompiledSourceText);
-    return Fill(&words).text(LineEnd);
+    return fillProject(words).text(LineEnd);
 }
 
 QString safeArrayHeader()

@@ -246,7 +246,7 @@ namespace inkmacro::cppcom {
 QString environmentProject(const QString& name, const QString& projectId)
 {
     static const Template words(project().constData());
-    return Fill(&words).text(xmlText(name)).text(LineEnd).text(projectId);
+    return fillProject(words).text(xmlText(name)).text(LineEnd).text(projectId);
 }
 
 } // namespace inkmacro::cppcom

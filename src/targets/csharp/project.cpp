@@ -79,7 +79,7 @@ static const char* const projectClosing = R"(  <Import Project="$(MSBuildBinPath
 QString CFxConverterIWAPICSharp::EmitProgramText(const QString& projectName)
 {
     static const Template words(program);
-    return Fill(&words).text(identifier(projectName)).text(LineEnd);
+    return fillProject(words).text(identifier(projectName)).text(LineEnd);
 }
 
 QString CFxConverterIWAPICSharp::EmitProjectText(const QString& projectName)
@@ -88,7 +88,7 @@ QString CFxConverterIWAPICSharp::EmitProjectText(const QString& projectName)
     if (writer.repairs)
         project.replace("%1.cs", "%3");
     const Template words(project.constData());
-    return Fill(&words).text(xmlText(identifier(projectName))).text(LineEnd).text(xmlText(writer.file));
+    return fillProject(words).text(xmlText(identifier(projectName))).text(LineEnd).text(xmlText(writer.file));
 }
 
 std::int32_t CFxConverterIWAPICSharp::EmitProjectFiles(const QString& path)

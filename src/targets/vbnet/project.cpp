@@ -101,7 +101,7 @@ static const char* const projectClosing = R"(  <ItemGroup>
 QString CFxConverterIWAPIVbNet::EmitProgramText(const QString& projectName)
 {
     static const Template words(program);
-    return Fill(&words).text(identifier(projectName)).text(LineEnd);
+    return fillProject(words).text(identifier(projectName)).text(LineEnd);
 }
 
 QString CFxConverterIWAPIVbNet::EmitProjectText(const QString& projectName)
@@ -110,7 +110,7 @@ QString CFxConverterIWAPIVbNet::EmitProjectText(const QString& projectName)
     if (writer.repairs)
         project.replace("%1.vb", "%3");
     const Template words(project.constData());
-    return Fill(&words).text(xmlText(identifier(projectName))).text(LineEnd).text(xmlText(writer.file));
+    return fillProject(words).text(xmlText(identifier(projectName))).text(LineEnd).text(xmlText(writer.file));
 }
 
 std::int32_t CFxConverterIWAPIVbNet::EmitProjectFiles(const QString& path)
