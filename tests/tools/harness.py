@@ -45,7 +45,7 @@ class Macro:
 
     def lines(self):
         """What its recording holds, line by line."""
-        lines = self.recording.read_text(encoding="utf-8-sig").splitlines()
+        lines = self.recording.read_text(encoding="utf-8-sig").split("\n")
         return [json.loads(line) for line in lines if line.strip()]
 
     def project(self, extension):
