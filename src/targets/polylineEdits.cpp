@@ -51,6 +51,8 @@ static const Phrase joinCurve{"EmitJoinPolyline",
                                   .vbNet = "%1%3.%4(%5)%2",
                                   .vba = "%1%3.%4( %5 )%2",
                               }};
+static const Mend basicJoin(joinCurve, Target::Vba, "an object in parentheses stands for its default property",
+                            "%1%3.%4 %5%2");
 
 static QString join(Writer& writer, const CFxString& polyline, const char* operation, const CFxString& other)
 {

@@ -54,7 +54,7 @@ def main():
     program = build(checked)
     see_faults(checked, program)
     files = [macro.file for macro in checked.macros("vba", "--repair")]
-    known = interface.read(harness.STUBS / "interface.txt", "vba")
+    known = interface.read(harness.STUBS / "interface.txt", "csharp")
     rejections = compile_all(checked, program, files)
     for file in files:
         text = file.read_text(encoding="utf-8")

@@ -74,8 +74,9 @@ def main():
     stubs = checked.folder / "stubs.vb"
     stubs.write_text(stubs_vbnet.source(harness.STUBS / "interface.txt"), encoding="utf-8")
     library = checked.folder / "Inkwright.dll"
-    if rejections := compiler(library, "/target:library", stubs):
-        harness.finish(harness.shown(rejections), "")
+    rejections = compiler(library, "/target:library", stubs)
+    if rejections or not library.exists():
+        harness.finish(harness.shown(rejections) or ["the compiler makes nothing"], "")
     macros = checked.macros("vbnet", "--repair")
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         refused = pool.map(lambda macro: compiler(macro.folder / f"{macro.name}.exe", f"/reference:{library}",

@@ -1,5 +1,6 @@
 """What the types of VBA's variables rule out, and what a compiler that looks types up when a macro runs does not see:
-types that nobody has, sizes that are no constants, and Set where it does not belong or is left out."""
+types and members that nobody has, sizes that are no constants, Set where it does not belong or is left out, and objects in
+parentheses, which stand for their default property."""
 
 import re
 
@@ -10,6 +11,8 @@ _NAME = r"[A-Za-z]\w*"
 _DECLARED = re.compile(rf"(?:^Dim |, ?)({_NAME})(?: ?(\([^()]*\)))? As (?:New )?([\w.]+)", re.I)
 _SIZE = re.compile(r"\( *(?:(?:\d+ To )?\d+(?: *, *(?=\d))?)* *\)", re.I)
 _ASSIGNED = re.compile(rf"(Set )?({_NAME})( ?\(.*?\))? *=(.*)$", re.I)
+_MEMBER = re.compile(rf"(?<![\w.)])({_NAME})\.({_NAME})")
+_IN_PARENTHESES = re.compile(rf"[\w.]+\.{_NAME} ?\( ?({_NAME}) ?\)$")
 _CALLED = re.compile(rf"\.({_NAME})(?: ?\(.*\))?$")
 
 
@@ -19,6 +22,9 @@ class _Checker:
         self.classes = {"object", *map(str.lower, known.classes)}
         self.enumerations = {name.lower() for name in known.enumerations}
         self.declared = {}  # name: kind of its type, size
+        self.types = {}  # name: its class, in lower case
+        self.members = {name.lower(): {member.name.lower() for cls in known.chain(name)
+                                       for member in (*cls.operations, *cls.properties)} for name in known.classes}
 
     def kind(self, type_):
         """What a variable of that type holds; empty: there is no such type."""
@@ -31,6 +37,7 @@ class _Checker:
         for name, size, type_ in _DECLARED.findall(code):
             kind = self.kind(type_)
             self.declared[name.lower()] = (kind, size)
+            self.types[name.lower()] = type_.lower().removeprefix("inkwright.")
             if not kind:
                 yield f"there is no type {type_}"
             if size and not _SIZE.fullmatch(size):
@@ -67,11 +74,20 @@ class _Checker:
         elif not is_set and "object" in (kind, kind == "variant" and self.given(expression.strip())):
             yield f"no Set with {name}, which becomes an object"
 
+    def uses(self, code):
+        for name, member in _MEMBER.findall(code):
+            type_ = self.types.get(name.lower())
+            if type_ in self.members and member.lower() not in self.members[type_]:
+                yield f"{name} has no member {member}"
+        if (call := _IN_PARENTHESES.match(code)) and self.given(call[1]) == "object":
+            yield f"{call[1]} in parentheses is its default property and no object"
+
 
 def check(text, known):
     """(line, fault) of everything that is wrong; `known` is the interface that the macro uses."""
     checker = _Checker(known)
     for number, statement in basic_structure.statements(text, basic_structure.VBA):
         code, _ = basic_structure.without_text(statement)
-        faults = checker.declarations(code) if re.match(r"Dim\b", code, re.I) else checker.assignment(code)
+        declares = re.match(r"Dim\b", code, re.I)
+        faults = checker.declarations(code) if declares else [*checker.assignment(code), *checker.uses(code)]
         yield from ((number, fault) for fault in faults)

@@ -7,7 +7,7 @@ import harness
 import interface
 import vba_types
 
-KNOWN = interface.read(harness.STUBS / "interface.txt", "vba")
+KNOWN = interface.read(harness.STUBS / "interface.txt", "csharp")
 DECLARED = ["Dim d As Double, line1 As Inkwright.Line", "Dim v As Variant, kind As iwObjectType_e",
             "Dim a(2) As Double", "Dim o( 0 To 1 ) As Object", "Dim r() As String"]
 
@@ -24,13 +24,18 @@ class Types(unittest.TestCase):
     def test_what_is_right_passes(self):
         self.assertEqual(self.faults(
             "d = 1.5 ' = 2", "Set line1 = Nothing", "v = d", "Set v = line1", "a(1) = d", "Set o(0) = line1", "kind = 3",
-            "line1.Layer = \"Set = 1\"", "v = doc.GetSheets()", "If line1 = d Then", "Dim z(1, 2) As Long"), [])
+            "line1.Layer = \"Set = 1\"", "v = doc.GetSheets()", "If line1 = d Then", "Dim z(1, 2) As Long",
+            "doc.F( d )", "doc.F( line1.Layer )", "doc.F( o )", "line1.GetFirstPoint d, d, d", "unknown.Nobody"), [])
 
     def test_types_and_sizes(self):
         self.refuses("Dim x As Double2", "no type Double2")
         self.refuses("Dim x As Inkwright.Lane", "no type Inkwright.Lane")
         for size in ("-1", "d", "1 To d"):
             self.refuses(f"Dim x( {size} ) As Double", "size of x")
+
+    def test_members_and_objects_in_parentheses(self):
+        self.refuses("line1.GetMiddle d, d, d", "line1 has no member GetMiddle")
+        self.refuses("doc.Join( line1 )", "line1 in parentheses")
 
     def test_set_goes_with_objects_and_only_with_them(self):
         self.refuses("Set d = line1", "Set with d")
