@@ -128,12 +128,15 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling)
     nameWork(QString("converting %1 to %2").arg(job.input, targetName(*job.target)));
     // Never destroyed: the end of the process gives the memory back at once, record by record it takes a while.
     static Recording& recording = *new Recording;
+    const bool asked = telling.report != ReportForm::None;
+    const bool tellsNothing = telling.quiet && !asked;
+    GetFxSystemServices()->SetInt16("IgnoreFaults", tellsNothing ? 1 : 0);
     QStringList placed;
     const int status = convertOrComplain(job, host, recording, placed);
     QJsonObject report = reportOf(job, status);
-    addNotes(report, GetFxSystemServices()->Notes(), recording);
+    if (!tellsNothing)
+        addNotes(report, GetFxSystemServices()->Notes(), recording);
 
-    const bool asked = telling.report != ReportForm::None;
     if (const QString counts = countText(report); status == kDone && !telling.quiet && !counts.isEmpty())
         printError((job.macro + ": " + counts + (asked ? "\n" : "; see --report\n")).toLocal8Bit());
     if (asked)

@@ -22,3 +22,8 @@ bool RepairsMacros()
     static const std::int16_t& setting = GetFxSystemServices()->GetInt16("RepairMacros");
     return setting != 0;
 }
+
+bool NotesFaults()
+{
+    return GetFxSystemServices()->GetInt16("IgnoreFaults") == 0;
+}

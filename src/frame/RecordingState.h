@@ -17,3 +17,7 @@ bool RecordsIn(inkmacro::Target language);
 
 /// The host setting that asks for macros without the faults that their targets are known to reject.
 bool RepairsMacros();
+
+/// Whether the host reads of the faults that a macro has. Looking for them takes a while, so a host that does not
+/// says so in its settings.
+bool NotesFaults();

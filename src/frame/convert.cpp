@@ -68,7 +68,8 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     writer.IndentLevel = 0;
     const bool hasSysVar = std::any_of(actions.begin(), actions.end(), isSysVar);
     writer.file = QFileInfo(path).fileName();
-    writer.noteFaults();
+    if (NotesFaults())
+        writer.noteFaults();
     writer.write(stream, EmitFileHeader(inkmacro::projectName(path), hasSysVar));
     RecordingSheetName = CFxString();
     RecordingInModel = true;

@@ -4,14 +4,28 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace inkmacro {
 
 namespace {
 
-bool isNamePart(QChar character)
+/// Asked of a good part of the macro's characters, so ASCII is looked up.
+inline bool isNamePart(QChar character)
 {
-    return character.isLetterOrNumber() || character == '_';
+    static constexpr auto ascii = [] {
+        std::array<bool, 0x80> parts{};
+        for (const char part : "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_")
+            parts[static_cast<std::size_t>(part)] = part != '\0';
+        return parts;
+    }();
+    const ushort code = character.unicode();
+    return code < ascii.size() ? ascii[code] : character.isLetterOrNumber();
+}
+
+inline bool isPair(QStringView text, qsizetype at, char first, char second)
+{
+    return at + 1 < text.size() && text[at] == first && text[at + 1] == second;
 }
 
 QStringView nameAt(QStringView text, qsizetype at)
@@ -35,10 +49,9 @@ using Names = QVarLengthArray<QStringView, 4>;
 void findInBasic(QStringView line, Names& found)
 {
     constexpr QStringView dim = u"Dim ";
-    const qsizetype at = behindBlanks(line, 0);
-    if (!line.mid(at).startsWith(dim))
+    if (!isPair(line, 0, 'D', 'i') || !line.startsWith(dim))
         return;
-    if (const QStringView name = nameAt(line, at + dim.size()); !name.isEmpty())
+    if (const QStringView name = nameAt(line, dim.size()); !name.isEmpty())
         found.append(name);
 }
 
@@ -49,34 +62,31 @@ bool isType(QStringView word)
     return !word.isEmpty() && !word.front().isDigit() && std::find(others.begin(), others.end(), word) == others.end();
 }
 
-/// Behind a type: dots, colons and what stands in its brackets belong to it. -1 when no type stands there.
-qsizetype behindType(QStringView line, qsizetype at)
+/// Behind a type: dots, colons and what stands in its brackets belong to it. Behind anything else when no type stands
+/// there.
+qsizetype behindType(QStringView line)
 {
-    const QStringView first = nameAt(line, at);
-    if (!isType(first))
-        return -1;
-    at += first.size();
-    while (at < line.size() && (isNamePart(line[at]) || line[at] == '.' || line.mid(at).startsWith(u"::")))
+    qsizetype at = 0;
+    while (at < line.size() && (isNamePart(line[at]) || line[at] == '.' || isPair(line, at, ':', ':')))
         at += line[at] == ':' ? 2 : 1;
-    if (line.mid(at).startsWith(u"[]"))
-        at += 2;
-    return at;
+    return isPair(line, at, '[', ']') ? at + 2 : at;
 }
 
 /// `Type a, b = 1;`, where a star may stand on either side of the blank.
 void findInCurly(QStringView line, Names& found)
 {
-    const qsizetype typeEnd = behindType(line, behindBlanks(line, 0));
+    const qsizetype typeEnd = behindType(line);
     qsizetype at = typeEnd;
     const auto passStars = [&] {
         while (at < line.size() && (line[at] == ' ' || line[at] == '*'))
             ++at;
     };
-    if (typeEnd == -1)
-        return;
     passStars();
+    // Of most lines only so much is looked at.
+    if (at == typeEnd || at == line.size() || !isNamePart(line[at]) || !isType(nameAt(line, 0)))
+        return;
     Names names;
-    for (bool more = at > typeEnd; more;) {
+    for (bool more = true; more;) {
         const QStringView name = nameAt(line, at);
         const qsizetype behind = behindBlanks(line, at + name.size());
         if (name.isEmpty() || name.front().isDigit() || behind >= line.size())
@@ -110,6 +120,25 @@ qsizetype behindText(QStringView line, qsizetype at, Target target)
     return std::min(at + 1, line.size());
 }
 
+/// What QStringView::trimmed() gives, which takes longer for the few blanks of a line.
+QStringView trimmed(QStringView line)
+{
+    while (!line.isEmpty() && line.back().isSpace())
+        line.chop(1);
+    qsizetype at = 0;
+    while (at < line.size() && line[at].isSpace())
+        ++at;
+    return line.mid(at);
+}
+
+/// The larger set takes the other one in.
+void unite(QSet<QString>& names, QSet<QString>& others)
+{
+    if (names.size() < others.size())
+        names.swap(others);
+    names += others;
+}
+
 bool startsComment(QStringView line, qsizetype at, Target target)
 {
     return isBasic(target) ? line[at] == '\'' : line.mid(at).startsWith(u"//");
@@ -126,14 +155,16 @@ bool Locals::isReserved(const QString& name) const
     return target_ == Target::Vba && name == QLatin1String("line");
 }
 
-void Locals::followBlocks(QStringView line)
+void Locals::followBlocks(QStringView text)
 {
     if (target_ == Target::Vba)
         return;
-    const QStringView text = line.trimmed();
     int opened = 0;
     int closed = 0;
     if (target_ == Target::VbNet) {
+        // Most lines begin with none of the words below.
+        if (text.isEmpty() || !QStringView(u"EIFPN").contains(text.front()))
+            return;
         const bool otherwise = text.startsWith(u"Else");
         opened = otherwise || (text.startsWith(u"If ") && text.endsWith(u" Then")) || text.startsWith(u"For ") ||
                  text.startsWith(u"Public Sub ");
@@ -142,13 +173,15 @@ void Locals::followBlocks(QStringView line)
         opened = static_cast<int>(std::count(text.begin(), text.end(), QChar('{')));
         closed = static_cast<int>(std::count(text.begin(), text.end(), QChar('}')));
     }
+    if (opened + closed == 0)
+        return;
     const auto close = [this] {
         if (scopes_.size() < 2)
             return;
-        const Scope inner = scopes_.back();
+        Scope inner = std::move(scopes_.back());
         scopes_.pop_back();
-        scopes_.back().inside += inner.declared;
-        scopes_.back().inside += inner.inside;
+        unite(inner.inside, inner.declared);
+        unite(scopes_.back().inside, inner.inside);
     };
     const bool closesFirst = target_ == Target::VbNet || text.startsWith(u'}');
     for (; closesFirst && closed > 0; --closed)
@@ -168,7 +201,7 @@ bool Locals::conflicts(const QString& name) const
         return false;
     if (target_ == Target::CSharp && scopes_.back().inside.contains(name))
         return true;
-    return std::any_of(scopes_.begin(), scopes_.end(),
+    return std::any_of(scopes_.begin(), scopes_.end() - 1,
                        [&](const Scope& scope) { return scope.declared.contains(name); });
 }
 
@@ -192,9 +225,10 @@ bool Locals::declaresTwice(QStringView line)
 {
     if (target_ == Target::JavaScript)
         return false;
-    followBlocks(line);
+    const QStringView text = trimmed(line);
+    followBlocks(text);
     bool twice = false;
-    for (const QStringView name : declarationsIn(line, target_)) {
+    for (const QStringView name : declarationsIn(text, target_)) {
         const QString key = keyOf(name);
         twice = twice || conflicts(key) || isReserved(key);
         scopes_.back().declared.insert(key);
@@ -206,8 +240,9 @@ QString Locals::toldApart(const QString& line)
 {
     if (target_ == Target::JavaScript)
         return line;
-    followBlocks(line);
-    for (const QStringView name : declarationsIn(line, target_)) {
+    const QStringView text = trimmed(line);
+    followBlocks(text);
+    for (const QStringView name : declarationsIn(text, target_)) {
         const QString key = keyOf(name);
         Scope& scope = scopes_.back();
         if (conflicts(key) || isReserved(key))

@@ -32,7 +32,7 @@ private:
         QHash<QString, QString> renamed;
     };
 
-    void followBlocks(QStringView line);
+    void followBlocks(QStringView text);
     /// Whether the language has the word for itself.
     bool isReserved(const QString& name) const;
     bool conflicts(const QString& name) const;
