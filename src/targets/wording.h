@@ -12,7 +12,8 @@ QString projectName(const QString& macroPath);
 /// The plain text that a statement quotes, of a prompt as the host showed it, markup included.
 QString CleanPromptText(const QString& prompt);
 
-// Texts for the quotes of a statement. In a repaired macro each of these stays as it is, since the statement escapes it.
+// Texts for the quotes of a statement. In a repaired macro each of these stays as it is, since the statement escapes
+// it.
 
 /// Text as it stands within the quotes of a statement. Only line feeds and, outside the Basic targets, backslashes
 /// are taken care of; a quote stays as it is.

@@ -36,7 +36,11 @@ public:
     {                                                                                                                  \
         return id;                                                                                                     \
     }
-#define DECLARE_REGISTRY_RESOURCEID(resource) enum { registryResource = resource };
+#define DECLARE_REGISTRY_RESOURCEID(resource)                                                                          \
+    enum                                                                                                               \
+    {                                                                                                                  \
+        registryResource = resource                                                                                    \
+    };
 #define DECLARE_REGISTRY_APPID_RESOURCEID(resource, id)                                                                \
     DECLARE_REGISTRY_RESOURCEID(resource)                                                                              \
     static const char* AppId()                                                                                         \
