@@ -260,6 +260,7 @@ TEST(Writer, MarksStatementsAtFaultOnlyWhereFaultsAreNoted)
 // Behind a polyline's or a viewport's own action a command has no block.
 TEST(RepairedCommand, HasItsDeclarationsWithoutABlockToo)
 {
+    const TestTarget host(Target::CSharp);
     for (const std::int32_t kind : {16, 46}) {
         const CFxActionArray actions{command({addedLine(1), odrxNew<TestCustom>(kind)})};
         TestConversion conversion;
