@@ -476,6 +476,7 @@ QString Fill::filled(int used) const
     return fitsOnePass(used) ? inOnePass(used) : valueByValue();
 }
 
+/// With values in which no markers are read; only a repaired macro has those between quotes escaped.
 QString Fill::escaped(int used) const
 {
     QString out;
@@ -487,7 +488,7 @@ QString Fill::escaped(int used) const
         const QString value = std::visit(
             [](const auto& held) { return written(room(held), [&](QChar* end) { return write(end, held); }); },
             values_[piece.rank]);
-        if (piece.quoted) {
+        if (mode_.repairs && piece.quoted) {
             appendQuoted(out, value, *mode_.target);
         } else {
             out += value;
@@ -525,14 +526,10 @@ bool Fill::hasBrokenQuotes(int used) const
     });
 }
 
-/// The last value has none behind it that could stand in its marker.
+/// Whether a value stands in a marker that another one holds.
 bool Fill::hasReadMarker(int used) const
 {
-    const auto holdsMarker = [](const Value& value) {
-        const auto* const text = std::get_if<QStringView>(&value);
-        return text && hasMarker(*text);
-    };
-    return std::any_of(values_.begin(), values_.begin() + std::min(used, values_.size() - 1), holdsMarker);
+    return filled(used) != escaped(used);
 }
 
 /// Whether no value makes or changes a marker for the values behind it.

@@ -191,15 +191,15 @@ void Locals::followBlocks(QStringView text)
         close();
 }
 
-/// C++ hides an outer local behind an inner one, .NET's languages do not allow it; C# does not even when the inner one
-/// stands in front.
+/// C++ hides an outer local behind an inner one; .NET's languages do not allow it, not even when the inner one stands
+/// in front.
 bool Locals::conflicts(const QString& name) const
 {
     if (scopes_.back().declared.contains(name))
         return true;
     if (target_ == Target::Cpp || target_ == Target::CppCom)
         return false;
-    if (target_ == Target::CSharp && scopes_.back().inside.contains(name))
+    if (scopes_.back().inside.contains(name))
         return true;
     return std::any_of(scopes_.begin(), scopes_.end() - 1,
                        [&](const Scope& scope) { return scope.declared.contains(name); });
