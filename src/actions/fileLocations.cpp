@@ -81,6 +81,11 @@ CFxString propertyOf(const FileObject& files, const CFxString& key)
     return found == files.locations.end() ? CFxString() : CFxString(found->property);
 }
 
+const Fault kUnknownLocation{
+    "EmitSetProperty",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "the property of a location that the host does not have lacks its name"};
+
 /// In strings of the curly languages a backslash escapes. The host's setting decides, not the target.
 CFxString quotable(CFxString path)
 {
@@ -91,10 +96,6 @@ CFxString quotable(CFxString path)
     return path;
 }
 
-const Fault kNoProperty{"ConvertFileLocation",
-                        {Target::Cpp, Target::CppCom, Target::CSharp, Target::JavaScript, Target::VbNet, Target::Vba},
-                        "the object of the files has no property for the location"};
-
 } // namespace
 
 std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files, const CFxCustomAction& action,
@@ -103,11 +104,11 @@ std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files,
     takeVariable(writer, text, HandedVariable::Replaced);
     const CFxString property = propertyOf(files, action.GetData(0).GetString());
     const CFxCustomActionData& value = action.GetData(1);
+
     if (property.isEmpty() && writer.repairs) {
-        NoteLoss(ActionTitle(&action), kNoProperty.reason());
+        NoteLoss(ActionTitle(&action), "the host has no such location");
         return kFxSuccess;
     }
-
     StatementGroup group(writer);
     text = group.begin();
     CFxString variable;
@@ -120,7 +121,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files,
         NoteLoss(ActionTitle(&action), "its value is neither a text nor a list of texts");
     text += group.close() + LineEnd;
     if (property.isEmpty())
-        text = writer.faulty(text, kNoProperty);
+        text = writer.faulty(text, kUnknownLocation);
     return kFxSuccess;
 }
 

@@ -125,16 +125,16 @@ static const Mend
                   "GetSelectedObject(iwSelectionSetType_Previous, i, &type%3);%2"
                   "%1        SafeArrayPutElement( types%3.parray, &i, (int*)&(type%3) );%2"
                   "%1        SafeArrayPutElement( entities%3.parray, &i, (IDispatch*)(object) );%2%1    }%2%1}%2");
-static const Mend scriptSelection(
-    promptSelection, Target::JavaScript, "declarations, arrays and an address as in a typed language",
-    "%1var types%3 =%2%1[%2%4%1];%2%1var entities%3 =%2%1[%2%5%1];%2"
-    "%1mCmdMess.PromptForSelection(false, \"%6\", \"\");%2%1{%2"
-    "%1    var selectionMgr%3 = mApp.GetActiveDocument().GetSelectionManager();%2"
-    "%1    var count%3 = selectionMgr%3.GetSelectedObjectCount(\"iwSelectionSetType_Previous\");%2"
-    "%1    types%3 = new Array(count%3);%2%1    entities%3 = new Array(count%3);%2"
-    "%1    for (var i = 0; i < count%3; ++i)%2%1    {%2"
-    "%1        var selected%3 = selectionMgr%3.GetSelectedObject(\"iwSelectionSetType_Previous\", i);%2"
-    "%1        entities%3[i] = selected%3[0];%2%1        types%3[i] = selected%3[1];%2%1    }%2%1}%2");
+static const Mend
+    scriptSelection(promptSelection, Target::JavaScript, "declarations, arrays and an address as in a typed language",
+                    "%1var types%3 =%2%1[%2%4%1];%2%1var entities%3 =%2%1[%2%5%1];%2"
+                    "%1mCmdMess.PromptForSelection(false, \"%6\", \"\");%2%1{%2"
+                    "%1    var selectionMgr%3 = mApp.GetActiveDocument().GetSelectionManager();%2"
+                    "%1    var count%3 = selectionMgr%3.GetSelectedObjectCount(\"iwSelectionSetType_Previous\");%2"
+                    "%1    types%3 = new Array(count%3);%2%1    entities%3 = new Array(count%3);%2"
+                    "%1    for (var i = 0; i < count%3; ++i)%2%1    {%2"
+                    "%1        var selected%3 = selectionMgr%3.GetSelectedObject(\"iwSelectionSetType_Previous\", i);%2"
+                    "%1        entities%3[i] = selected%3[0];%2%1        types%3[i] = selected%3[1];%2%1    }%2%1}%2");
 
 QString EmitPromptSelection(Writer& writer, const EntityList& entities)
 {

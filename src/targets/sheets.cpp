@@ -97,12 +97,10 @@ static const Phrase copySheet{"EmitCopySheet",
 static const Mend basicCopy(copySheet, Target::Vba,
                             "texts have the prefix of C++, and the sign of the line end's placeholder is missing",
                             "%1iwDoc.CopySheet \"%3\" , \"%4\"%2");
-static const Mend copyOfDocument(copySheet, Target::CppCom,
-                                 "the application copies no sheets, its document does",
+static const Mend copyOfDocument(copySheet, Target::CppCom, "the application copies no sheets, its document does",
                                  "%1iwDoc->CopySheet(L\"%3\" , L\"%4\" );%2");
-static const Mend scriptCopy(
-    copySheet, Target::JavaScript, "texts with the prefix of C++",
-    "%1mDoc.CopySheet(\"%3\" , \"%4\" );%2");
+static const Mend scriptCopy(copySheet, Target::JavaScript, "texts with the prefix of C++",
+                             "%1mDoc.CopySheet(\"%3\" , \"%4\" );%2");
 
 QString EmitCopySheet(Writer& writer, const CFxString& source, const CFxString& copy)
 {

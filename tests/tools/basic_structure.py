@@ -38,8 +38,8 @@ _KEYWORDS = set("""and andalso byref byval call case catch class dim do each els
     for function get if imports in is isnot let like loop mod module new next not nothing on option or orelse private
     public redim return select set shared step sub then to true try until wend while with xor""".split())
 _GLOBALS = {
-    VBNET: {"inkwright", "system", "dispatchwrapper", "cint", "vblf", "ctype", "directcast", "trycast", "object", "math",
-            "chrw"},
+    VBNET: {"inkwright", "system", "dispatchwrapper", "cint", "vblf", "ctype", "directcast", "trycast", "object",
+            "math", "chrw"},
     VBA: {"inkwright", "getobject", "msgbox", "vblf", "cint", "abs", "chrw"},
 }
 

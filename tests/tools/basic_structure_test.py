@@ -26,7 +26,8 @@ class Structure(unittest.TestCase):
         self.accepts(in_class("Dim x As Inkwright.Line = Nothing", "If 1 Then", "x = iwApp.Get( 1, \"a ' b\" ) ' c",
                               "Dim d(2) As Double", "d( 0 )=1.5", "x.Join( d, \"\"\"\" )", "ElseIf x IsNot Nothing Then", "x = Nothing",
                               "End If", "Try", "Exit Try", "Catch ex As Exception", "Return", "End Try"), VBNET)
-        self.accepts(in_sub("Set x = GetObject(, \"A\")", "If Not x Is Nothing Then", "x.Join 1, 2", "x.Erase( 1 )", "x.Erase (x.Get( 1, 2 ))",
+        self.accepts(in_sub("Set x = GetObject(, \"A\")", "If Not x Is Nothing Then", "x.Join 1, 2", "x.Erase( 1 )",
+                            "x.Erase (x.Get( 1, 2 ))",
                             "Else", "MsgBox \"none\"", "End If", "Dim a( 2 ) As Object", "Set a( 0 ) = x",
                             "For i = 0 To 1", "Next") .replace("For i", "For x"), VBA)
 

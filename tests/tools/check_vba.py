@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Compiles the repaired VBA macros with LibreOffice's Basic, and checks what that compiler leaves to the run: names, types,
-and calls.
+"""Compiles the repaired VBA macros with LibreOffice's Basic, and checks what that compiler leaves to the run: names,
+types, and calls.
 
     check_vba.py PROGRAM SOURCE_DIR
 """
@@ -24,8 +24,8 @@ def build(checked):
         harness.skip("libreoffice-core-nogui not installed")
     program = checked.folder / "vba_compiler"
     result = harness.run(gcc, "-std=c++20", "-Wall", "-Wextra", f'-DLIBREOFFICE="{LIBREOFFICE}"',
-                         harness.HERE / "vba_compiler.cpp", "-o", program, f"-L{LIBREOFFICE}", f"-Wl,-rpath,{LIBREOFFICE}",
-                         *(f"-l:{library}" for library in LIBRARIES))
+                         harness.HERE / "vba_compiler.cpp", "-o", program, f"-L{LIBREOFFICE}",
+                         f"-Wl,-rpath,{LIBREOFFICE}", *(f"-l:{library}" for library in LIBRARIES))
     if result.returncode != 0:
         harness.finish([result.stderr], "")
     return program

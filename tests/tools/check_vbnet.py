@@ -38,7 +38,7 @@ class Compiler:
             for folder in place.parents:
                 libraries = list(folder.glob("shared/Microsoft.NETCore.App/*/Microsoft.VisualBasic.dll"))
                 if libraries:
-                    newest = max(libraries, key=lambda file: [int(part) for part in re.findall(r"\d+", file.parent.name)])
+                    newest = max(libraries, key=lambda file: list(map(int, re.findall(r"\d+", file.parent.name))))
                     found = [newest.parent / f"{name}.dll" for name in ASSEMBLIES]
                     return [f"/sdkpath:{newest.parent}", f"/vbruntime:{newest}",
                             *(f"/reference:{file}" for file in found if file.exists())]
@@ -48,7 +48,7 @@ class Compiler:
         """What is refused."""
         result = harness.run(*self._command, *self._options, f"/out:{output}", *arguments, cwd=output.parent,
                              env={"DOTNET_SYSTEM_GLOBALIZATION_INVARIANT": "1", **os.environ})
-        rejections = [harness.Rejection(output.parent / file, int(line or 0), message)
+        rejections = [harness.Rejection(output.parent / (file or output.name), int(line or 0), message)
                       for file, line, message in ERROR.findall(result.stdout)]
         if result.returncode != 0 and not rejections:
             rejections = [harness.Rejection(output, 0, result.stdout + result.stderr)]
@@ -78,8 +78,8 @@ def main():
         harness.finish(harness.shown(rejections), "")
     macros = checked.macros("vbnet", "--repair")
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        refused = pool.map(lambda macro: compiler(macro.folder / "macro.exe", f"/reference:{library}", *arguments(macro)),
-                           macros)
+        refused = pool.map(lambda macro: compiler(macro.folder / f"{macro.name}.exe", f"/reference:{library}",
+                                                  *arguments(macro)), macros)
         complaints = [complaint for rejections in refused for complaint in harness.shown(rejections)]
     harness.finish(complaints, f"{len(macros)} macros compiled")
 

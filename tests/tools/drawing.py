@@ -31,13 +31,14 @@ STEPS = re.compile(r"[gG]et_?(\w+)\(\)")
 PASSED = {"GeneralDimension", "DimensionStyleUserData"}
 # What an object has of which nothing is recorded, besides zeros and empty texts: the host's own values.
 DEFAULTS = [("Circle", "Radius()", 1), ("BlockInstance", "Scales()", 1), ("SimpleNote", "Height()", 2.5),
-            ("AttributeDefinition", "Height()", 0.2), ("EllipseArc", "OtherRadius()", 1), ("Hatch", "HatchPattern.HatchOrSolidData()", "iwHatchPatternType_UserDefined"),
+            ("AttributeDefinition", "Height()", 0.2), ("EllipseArc", "OtherRadius()", 1),
+            ("Hatch", "HatchPattern.HatchOrSolidData()", "iwHatchPatternType_UserDefined"),
             ("EllipseArc", "EndAngle()", 2 * math.pi)]
 # Written with six digits.
 SHORT = re.compile(r"Segment(Angle|StartWidth|EndWidth)")
 # What the records of an object do not tell: the drawing's data and custom actions do.
-ELSEWHERE = re.compile(r"NoteAnnotation|ToleranceAnnotation|BlockAnnotation|ClipBoundary|TableStyle|FitOptions.DimensionS"
-                       r"|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
+ELSEWHERE = re.compile(r"NoteAnnotation|ToleranceAnnotation|BlockAnnotation|ClipBoundary|TableStyle"
+                       r"|FitOptions.DimensionS|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
                        r"|RowHeightAt|ColumnWidthAt|Pattern|ArrowsOptions.\w+Arrow|Measure"
                        r"|ExtensionLineFixedLength")
 # Of an added dimension without a statement, like all that it overrides of its style.
@@ -84,8 +85,8 @@ class _Rows:
     def place(self, cls, tag):
         numbers = re.findall(r"(?<=_)\d+", tag)
         common = ["dimension", "every"] if "Dimension" in cls else ["every"]
-        place = next((self.places[key] for key in [(cls, re.sub(r"(?<=_)\d+", "#", tag)), *((one, tag) for one in common)]
-                      if key in self.places), "")
+        keys = [(cls, re.sub(r"(?<=_)\d+", "#", tag)), *((one, tag) for one in common)]
+        place = next((self.places[key] for key in keys if key in self.places), "")
         for number in numbers:
             place = place.replace("#", number, 1)
         return place
@@ -397,8 +398,8 @@ class Comparison(expected.Comparison):
 
     def _lost(self, macro):
         """What the program reports as lost of added objects: handles, each with the tag of a property or with none."""
-        report = harness.run(self._program, "convert", macro.recording, "--target", self._target, "--repair", "--report",
-                             "--output", macro.folder / "reported" / macro.file.name)
+        report = harness.run(self._program, "convert", macro.recording, "--target", self._target, "--repair",
+                             "--report", "--output", macro.folder / "reported" / macro.file.name)
         lines = macro.recording.read_text(encoding="utf-8-sig").split("\n")
         lost = set()
         for loss in json.loads(report.stdout)["conversions"][0]["losses"]:

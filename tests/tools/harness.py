@@ -45,7 +45,7 @@ class Macro:
 
     def lines(self):
         """What its recording holds, line by line."""
-        lines = self.recording.read_text(encoding="utf-8-sig").splitlines()
+        lines = self.recording.read_text(encoding="utf-8-sig").split("\n")
         return [json.loads(line) for line in lines if line.strip()]
 
     def project(self, extension):
@@ -116,10 +116,10 @@ class Rejection:
 
 
 def shown(rejections):
-    """Complaints of what a tool refused, each with its line."""
+    """Complaints of what a tool refused, each with its line; line 0 is none."""
     complaints = []
     for rejection in rejections:
-        lines = rejection.file.read_text(encoding="utf-8").split("\n") if rejection.file.exists() else []
+        lines = rejection.file.read_text(encoding="utf-8").split("\n") if rejection.line else []
         text = lines[rejection.line - 1] if 0 < rejection.line <= len(lines) else ""
         complaints.append(f"{rejection.file.name}:{rejection.line}: {rejection.message}\n    {text}")
     return complaints

@@ -1,11 +1,12 @@
-"""The automation interface as VB.NET source: interfaces that a type library would give, which take a member that they do
-not have late, when a macro runs."""
+"""The automation interface as VB.NET source: interfaces as a type library gives them, which look for a member that
+they do not have when a macro runs."""
 
 import uuid
 
 import interface
 
-TYPES = {"double": "Double", "int": "Integer", "long": "Long", "bool": "Boolean", "string": "String", "object": "Object"}
+TYPES = {"double": "Double", "int": "Integer", "long": "Long", "bool": "Boolean", "string": "String",
+         "object": "Object"}
 FAMILY = uuid.UUID("5d6f4c1e-93a7-4b60-8f1b-6f0f5a3f7c52")
 
 

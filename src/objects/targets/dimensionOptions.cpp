@@ -195,8 +195,8 @@ static const Phrase setStyleCenterMark{"EmitSetStyleEnumPair",
                                            .vbNet = "%1%3.%4(%5, %6)%2",
                                            .vba = "%1%3.%4 %5, %6%2",
                                        }};
-static const Mend centerMarkOperation(setStyleCenterMark, Target::Cpp, "an operation is called as if it were a property",
-                                      "%1%3->%4(%5, %6);%2");
+static const Mend centerMarkOperation(setStyleCenterMark, Target::Cpp,
+                                      "an operation is called as if it were a property", "%1%3->%4(%5, %6);%2");
 
 QString EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind,
                                double size)

@@ -114,14 +114,14 @@ static const Phrase insertByBoundary{
                "%1Set %11 = iwSketchManager.InsertHatchByBoundary( BoundaryPointCountLongArray%3, Coordinates%3, "
                "\"%8\", %9, %10 )%2",
     }};
-static const Mend countsByTheirName(
-    insertByBoundary, Target::CppCom, "an array is declared by one name and made by another",
-    "%1VARIANT variant%3,BoundaryPointCountLongArray%5;%2%1variant%3.vt = ( VT_ARRAY | VT_R8 );%2"
-    "%1BoundaryPointCountLongArray%5.vt = ( VT_ARRAY | VT_I4 );%2"
-    "%1variant%3.parray = SafeArrayCreateVector( VT_R8, 0, %11 );%2"
-    "%1BoundaryPointCountLongArray%5.parray = SafeArrayCreateVector( VT_I4, 0, %12 );%2%4%2%6%2"
-    "%1 %10=iwSketchManager->InsertHatchByBoundary( BoundaryPointCountLongArray%3, variant%3, "
-    "L\"%7\", %8, %9);%2");
+static const Mend
+    countsByTheirName(insertByBoundary, Target::CppCom, "an array is declared by one name and made by another",
+                      "%1VARIANT variant%3,BoundaryPointCountLongArray%5;%2%1variant%3.vt = ( VT_ARRAY | VT_R8 );%2"
+                      "%1BoundaryPointCountLongArray%5.vt = ( VT_ARRAY | VT_I4 );%2"
+                      "%1variant%3.parray = SafeArrayCreateVector( VT_R8, 0, %11 );%2"
+                      "%1BoundaryPointCountLongArray%5.parray = SafeArrayCreateVector( VT_I4, 0, %12 );%2%4%2%6%2"
+                      "%1 %10=iwSketchManager->InsertHatchByBoundary( BoundaryPointCountLongArray%3, variant%3, "
+                      "L\"%7\", %8, %9);%2");
 
 /// The values that the arrays have at the head of the call.
 static void openLoops(Fill& call, const ArrayArgument& points, const ArrayArgument& counts)
