@@ -16,20 +16,21 @@ ROW = re.compile(r"^\| `(.*?)` \| ([\w, ]+) \| (.*) \| (yes|no) \|$", re.MULTILI
 def reported(checked, recordings, folder, *options):
     """The faults that are reported of the recordings' macros, as pairs of operation and reason, by whether --repair
     mends them."""
-    result = harness.run(checked.program, "convert", *recordings, "--target", "all", "--report", "--quiet", "--output",
-                         f"{checked.folder / folder}/", *options)
-    if result.returncode != 0:
-        harness.finish([f"not all recordings convert: {result.stderr}"], "")
     faults = {True: set(), False: set()}
-    for conversion in json.loads(result.stdout)["conversions"]:
-        for fault in conversion["faults"]:
-            faults[fault["mended"]].add((fault["operation"], fault["reason"]))
+    for name, recording in recordings.items():
+        result = harness.run(checked.program, "convert", recording, "--target", "all", "--report", "--quiet",
+                             "--output", f"{checked.folder / folder / name}/", *options)
+        if result.returncode != 0:
+            harness.finish([f"{recording} does not convert: {result.stderr}"], "")
+        for conversion in json.loads(result.stdout)["conversions"]:
+            for fault in conversion["faults"]:
+                faults[fault["mended"]].add((fault["operation"], fault["reason"]))
     return faults
 
 
 def main():
     checked = harness.Checked()
-    recordings = [*checked.recordings(True).values(), *checked.hostile_recordings().values()]
+    recordings = {**checked.recordings(True), **checked.hostile_recordings()}
     listed = {(operation, reason): mended == "yes"
               for operation, _, reason, mended in ROW.findall(harness.run(checked.program, "faults").stdout)}
     if not listed:

@@ -46,8 +46,8 @@ static const FileHead head{
     .viewManager = "\t\t'Get View Manager%1\t\tSet iwViewManager = iwDoc.GetViewManager()%1%1",
 };
 
-static const Fault kReturn{"EmitFileHeader", {Target::Vba}, "Return ends a GoSub; a procedure is left with Exit Sub"};
-
+/// `Return` ends a GoSub. No macro gets there that finds the sheet, so it counts as no fault, but a repaired one leaves
+/// the procedure as VBA does.
 QString CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
 {
     writer.IndentLevel += 2;
@@ -55,7 +55,7 @@ QString CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
     if (writer.repairs)
         text.replace("Return%1", "Exit Sub%1");
     const Template words(text.constData(), writer.target);
-    return writer.faulty(writer.fill(words).text(LineEnd).text(RecordingSheetName), kReturn);
+    return writer.fill(words).text(LineEnd).text(RecordingSheetName);
 }
 
 /// Leaves the level.
