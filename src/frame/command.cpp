@@ -21,10 +21,6 @@ const Fault kUndeclared{"ConvertCommand",
                         {Target::Cpp, Target::CppCom, Target::CSharp, Target::VbNet, Target::Vba},
                         "a command that loads a shape file or stands without a block has no declarations"};
 
-const Fault kUnmade{"EmitObjectVariable",
-                    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
-                    "an object that no statement inserts has a variable without a value"};
-
 /// Whether a custom action of the same command finishes objects of that class; it is told their variable.
 bool isFinishedByCustomAction(const OdRxClass* cls)
 {
@@ -165,11 +161,8 @@ bool CFxConverterIWAPIImpl::ConvertChild(const OdRxObjectPtr& child, unsigned nu
         if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport)
             group.abandon();
     }
-    usesUnmade = false;
     if (ConvertOrLose(child, current) != kFxSuccess)
         return false;
-    if (usesUnmade)
-        current = writer.faulty(current, kUnmade);
     if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
         state.shapeStyle = true;
     if (!current.isEmpty()) {

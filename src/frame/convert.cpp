@@ -21,6 +21,16 @@ const inkmacro::Fault kIllegalName{"EmitFileHeader",
                                    {inkmacro::Target::CSharp, inkmacro::Target::VbNet, inkmacro::Target::CppCom},
                                    "the file's name stands in code, where it is no identifier"};
 
+const inkmacro::Fault kUnmade{"EmitObjectVariable",
+                              {inkmacro::Target::Cpp, inkmacro::Target::CSharp, inkmacro::Target::JavaScript,
+                               inkmacro::Target::VbNet, inkmacro::Target::CppCom, inkmacro::Target::Vba},
+                              "an object that no statement inserts has a variable without a value"};
+
+const inkmacro::Fault kNoSketchManager{"EmitFileHeader",
+                                       {inkmacro::Target::Cpp, inkmacro::Target::CppCom, inkmacro::Target::CSharp,
+                                        inkmacro::Target::VbNet, inkmacro::Target::Vba},
+                                       "a recording that began on a sheet without a name has no sketch manager"};
+
 /// The byte order mark follows the host's setting and not the target: the codes of the two C++ targets, 0 and 4, ask
 /// for it.
 bool wantsByteOrderMark()
@@ -70,7 +80,10 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     writer.file = QFileInfo(path).fileName();
     if (NotesFaults())
         writer.noteFaults();
-    writer.write(stream, EmitFileHeader(inkmacro::projectName(path), hasSysVar));
+    QString header = EmitFileHeader(inkmacro::projectName(path), hasSysVar);
+    if (!RecordingInModel && RecordingSheetName.isEmpty() && writer.target != inkmacro::Target::JavaScript)
+        header = writer.faulty(header, kNoSketchManager);
+    writer.write(stream, header);
     RecordingSheetName = CFxString();
     RecordingInModel = true;
 
@@ -136,7 +149,10 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const O
 std::int32_t CFxConverterIWAPIImpl::ConvertOrLose(const OdRxObjectPtr& action, QString& text)
 {
     const LossWatch losses;
+    usesUnmade = false;
     const std::int32_t status = ConvertAction(action, text);
+    if (usesUnmade)
+        text = writer.faulty(text, kUnmade);
     if (status != kFxSuccess && !losses.any())
         NoteLoss(ActionTitle(action.get()), "it could not be converted");
     return status;

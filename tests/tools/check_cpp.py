@@ -23,7 +23,6 @@ class Judge:
         headers.mkdir()
         stubs_cpp.write(harness.STUBS / "interface.txt", headers)
         self.includes = ["-I", headers, "-I", harness.STUBS / "cpp"]
-        self.files = [file for macro in macros for file in macro.folder.iterdir() if file.suffix in (".h", ".cpp")]
 
     def __call__(self):
         rejections = []
@@ -38,10 +37,10 @@ def main():
     repaired = sys.argv[3:] == ["repaired"]
     checked = harness.Checked()
     macros = checked.macros("cpp", *["--repair"] * repaired)
-    judge = Judge(checked, macros)
-    faults = harness.KnownFaults("cpp", *([()] if repaired else []))
-    faults.settle(judge.files, judge)
-    faults.report(f"{len(macros)} add-ins parsed")
+    count = len(macros)
+    verdict = harness.Verdict()
+    verdict.settle(macros, Judge(checked, macros))
+    verdict.report(f"{count} add-ins parsed")
 
 
 main()

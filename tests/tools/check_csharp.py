@@ -27,7 +27,6 @@ class Judge:
     def __init__(self, checked, macros):
         self.mcs, self.mono = harness.need("mcs", "mono")
         self.macros = macros
-        self.files = [file for macro in macros for file in (macro.file, macro.folder / "Program.cs")]
         stub = checked.folder / "Interface.cs"
         stub.write_text(stubs_csharp.source(harness.STUBS / "interface.txt"), encoding="utf-8")
         self.stubs = [stub, *sorted((harness.STUBS / "csharp").glob("*.cs"))]
@@ -38,8 +37,9 @@ class Judge:
         return self._compile() or self._run()
 
     def _compile(self):
+        files = [file for macro in self.macros for file in (macro.file, macro.folder / "Program.cs")]
         result = harness.run(self.mcs, "-nologo", "-debug", "-warn:0", "-codepage:utf8", "-main:RunMacros",
-                             f"-out:{self.assembly}", *self.stubs, *self.files)
+                             f"-out:{self.assembly}", *self.stubs, *files)
         rejections = [harness.Rejection(pathlib.Path(file), int(line), message)
                       for file, line, message in ERROR.findall(result.stdout + result.stderr)]
         if result.returncode != 0 and not rejections:
@@ -80,15 +80,16 @@ def main():
     checked = harness.Checked()
     repaired = sys.argv[3:] == ["repaired"]
     macros = checked.macros("csharp", *["--repair"] * repaired)
+    count = len(macros)
     judge = Judge(checked, macros)
-    faults = harness.KnownFaults("csharp", *([()] if repaired else []))
-    faults.settle(judge.files, judge)
+    verdict = harness.Verdict()
+    verdict.settle(macros, judge)
     comparison = drawing.Comparison("csharp", checked.program) if repaired else expected.Comparison("csharp")
     for macro, calls in judge.calls.items():
         comparison.add(macro, calls)
     summary = comparison.summary()
-    faults.complaints += comparison.complaints
-    faults.report(f"{len(macros)} macros compiled and run, {summary}")
+    verdict.complaints += comparison.complaints
+    verdict.report(f"{count} macros compiled and run, {summary}")
 
 
 main()

@@ -49,19 +49,19 @@ def parse(node, macro, script):
     return [harness.Rejection(macro.file, int(match[1]) if match else 0, match[2] if match else result.stderr)]
 
 
-def check_syntax(checked, repaired, excused, _):
+def check_syntax(checked, repaired, _):
     node, = harness.need("node")
     macros = checked.macros("javascript", *["--repair"] * repaired)
-    faults = harness.KnownFaults("javascript", excused and ("parse",))
+    verdict = harness.Verdict()
     for macro in macros:
-        faults.settle([macro.file], lambda macro=macro: parse(node, macro, checked.folder / "script.js"))
-    faults.report(f"{len(macros)} scripts parsed")
+        verdict.settle([macro], lambda macro=macro: parse(node, macro, checked.folder / "script.js"))
+    verdict.report(f"{len(macros)} scripts parsed")
 
 
-def check_run(checked, repaired, excused, comparison):
+def check_run(checked, repaired, comparison):
     executable, = harness.need("chromium")
     macros = checked.macros("javascript", *["--repair"] * repaired)
-    faults = harness.KnownFaults("javascript", excused)
+    verdict = harness.Verdict()
     with browser.Browser(executable, checked.folder) as window:
         for macro in macros:
             seen = {}
@@ -71,20 +71,22 @@ def check_run(checked, repaired, excused, comparison):
                 error = seen["error"]
                 return [harness.Rejection(macro.file, error["line"], error["message"])] if error else []
 
-            faults.settle([macro.file], press)
-            comparison.add(macro, seen["calls"])
+            kept = [macro]
+            verdict.settle(kept, press)
+            if kept:
+                comparison.add(macro, seen["calls"])
     summary = comparison.summary()
-    faults.complaints += comparison.complaints
-    faults.report(f"{len(macros)} pages run, {summary}")
+    verdict.complaints += comparison.complaints
+    verdict.report(f"{len(macros)} pages run, {summary}")
 
 
 def main():
     checked = harness.Checked()
     check = {"parse": check_syntax, "run": check_run}[sys.argv[3]]
     if sys.argv[4:] == ["repaired"]:
-        check(checked, True, (), drawing.Comparison("javascript", checked.program))
+        check(checked, True, drawing.Comparison("javascript", checked.program))
     else:
-        check(checked, False, ("parse", "run"), expected.Comparison("javascript"))
+        check(checked, False, expected.Comparison("javascript"))
 
 
 main()

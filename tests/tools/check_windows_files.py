@@ -106,7 +106,7 @@ def main():
         harness.skip("the program has no such target")
     complaints, files = [], 0
     for target in targets:
-        faults = harness.KnownFaults(target, (extension,))
+        verdict = harness.Verdict()
         for macro in checked.macros(target):
             sources = sorted(macro.folder.glob(f"*.{extension}"))
             files += len(sources)
@@ -114,10 +114,11 @@ def main():
                 complaints.append(f"{macro.name} has no .{extension} file")
             for file in sources:
                 (checked.folder / "def.out").unlink(missing_ok=True)
-                faults.settle([file, *macro.folder.glob("resource.h")], lambda file=file: judge(command, file))
-                if extension == "def":
+                kept = [macro]
+                verdict.settle(kept, lambda file=file: judge(command, file))
+                if extension == "def" and kept:
                     complaints += missing_exports(target, macro, file, checked.folder / "def.out")
-        complaints += faults.close()
+        complaints += verdict.complaints
     harness.finish(complaints, f"{files} .{extension} files read")
 
 

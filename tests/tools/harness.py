@@ -1,4 +1,5 @@
-"""What the checks of generated macros share: recordings, conversions, and rejections held against the known faults."""
+"""What the checks of generated macros share: recordings, conversions, and rejections held against the faults that the
+program reports."""
 
 import dataclasses
 import json
@@ -42,6 +43,7 @@ class Macro:
     recording: pathlib.Path
     folder: pathlib.Path
     file: pathlib.Path
+    faults: tuple = ()  # those that the program reports: lines and operations
 
     def lines(self):
         """What its recording holds, line by line."""
@@ -99,10 +101,13 @@ class Checked:
             folder = self.folder / target / name
             folder.mkdir(parents=True)
             file = folder / f"{name}.{EXTENSIONS[target]}"
-            result = run(self.program, "convert", recording, "--target", target, "--output", file, *options)
+            result = run(self.program, "convert", recording, "--target", target, "--output", file, "--report",
+                         "--quiet", *options)
             if result.returncode != 0:
                 sys.exit(f"{recording} does not convert to {target}: {result.stderr}")
-            macros.append(Macro(name, recording, folder, file))
+            conversion, = json.loads(result.stdout)["conversions"]
+            faults = tuple((fault["line"], fault["operation"]) for fault in conversion["faults"])
+            macros.append(Macro(name, recording, folder, file, faults))
         if not macros:
             sys.exit("no recording was found")
         return macros
@@ -125,85 +130,46 @@ def shown(rejections):
     return complaints
 
 
-class _Fault:
-    def __init__(self, entry):
-        self.target = entry["target"]
-        self.statement = entry["statement"]
-        self.reason = entry["reason"]
-        self.stage = entry.get("stage", "run")
-        self.line = re.compile(entry["line"])
-        self.message = re.compile(entry.get("message", ""))
-        self.instead = entry["instead"]
-        self.sometimes = entry.get("sometimes", False)
-        self.met = 0
+class Verdict:
+    """Holds what the tools of a language reject against the faults that the program reports. A rejection that no
+    reported fault explains is a complaint; a macro with one that is explained is left out of what follows."""
 
-    def matches(self, text, message):
-        return self.line.search(text) and self.message.search(message)
+    # A fault is reported for the line where its statement begins.
+    LONGEST_STATEMENT = 40
 
-    def repaired(self, text, message):
-        named = self.message.search(message)
-        instead = self.instead.replace("{name}", named[1]) if self.message.groups else self.instead
-        return self.line.sub(instead, text)
-
-
-class KnownFaults:
-    """The rejections of a target that its statements are known to give. known_faults.json is exact: a rejection that is
-    not listed is a complaint, and so is a listed line that passes."""
-
-    def __init__(self, target, stages=("parse", "run")):
-        entries = [_Fault(entry) for entry in json.loads((HERE / "known_faults.json").read_text(encoding="utf-8"))]
-        self._entries = [entry for entry in entries if entry.target == target and entry.stage in stages]
+    def __init__(self):
         self.complaints = []
-        self.repaired = 0
+        self.rejected = []
 
-    def settle(self, files, judge):
-        """Calls `judge` for rejections and replaces the rejected lines that are known, until nothing is rejected."""
-        texts = {file: file.read_text(encoding="utf-8").split("\n") for file in files}
-        done = set()
-        while rejections := judge():
-            before = len(done)
-            strange = [r for r in rejections if not self._repair(texts, r, done)]
-            if len(done) == before:
-                self.complaints += [f"{r.file.name}:{r.line}: {r.message}\n    {self._text(texts, r)}"
-                                    for r in strange]
+    def settle(self, macros, judge):
+        """Calls `judge` for rejections and takes rejected macros out of `macros`, until nothing is rejected."""
+        while macros and (rejections := judge()):
+            self.complaints += [f"{one.file.name}:{one.line}: {one.message}\n    {self._text(one)}" for one in rejections
+                                if not any(self._explains(macro, one) for macro in macros)]
+            rejected = [macro for macro in macros if any(one.file.parent == macro.folder for one in rejections)]
+            if not rejected:
                 break
-            for file in {r.file for r in rejections if r.file in texts}:
-                file.write_text("\n".join(texts[file]), encoding="utf-8")
-        self._find_passed(texts)
+            self.rejected += rejected
+            macros[:] = [macro for macro in macros if macro not in rejected]
+
+    def _explains(self, macro, rejection):
+        """What is wrong with the files of a project is reported for the macro, and what the head of a macro lacks shows
+        anywhere."""
+        if rejection.file != macro.file or rejection.line == 0:
+            return rejection.file.parent == macro.folder and bool(macro.faults)
+        return any(0 <= rejection.line - line <= self.LONGEST_STATEMENT or operation == "EmitFileHeader"
+                   for line, operation in macro.faults)
 
     @staticmethod
-    def _text(texts, rejection):
-        lines = texts.get(rejection.file, [])
+    def _text(rejection):
+        if not rejection.file.is_file():
+            return ""
+        lines = rejection.file.read_text(encoding="utf-8", errors="replace").split("\n")
         return lines[rejection.line - 1] if 0 < rejection.line <= len(lines) else ""
-
-    def _repair(self, texts, rejection, done):
-        text = self._text(texts, rejection)
-        for entry in self._entries:
-            place = (rejection.file, rejection.line, entry)
-            if text and place not in done and entry.matches(text, rejection.message):
-                texts[rejection.file][rejection.line - 1] = entry.repaired(text, rejection.message)
-                entry.met += 1
-                self.repaired += 1
-                done.add(place)
-                return True
-        return False
-
-    def _find_passed(self, texts):
-        for entry in self._entries:
-            if entry.sometimes:
-                continue
-            self.complaints += [f"{file.name}:{number}: the known fault of {entry.statement} passes\n    {text}"
-                                for file, lines in texts.items() for number, text in enumerate(lines, 1)
-                                if entry.line.search(text)]
-
-    def close(self):
-        """All complaints, once every file was settled."""
-        return self.complaints + [f"the known fault of {entry.statement} ({entry.reason}) was met in no macro"
-                                  for entry in self._entries if not entry.met]
 
     def report(self, checked):
         """Ends a test of one target."""
-        finish(self.close(), f"{checked}; {self.repaired} lines with a known fault")
+        finish(self.complaints, f"{checked}; {len(self.rejected)} macros are rejected for faults that are reported")
 
 
 def finish(complaints, summary):
