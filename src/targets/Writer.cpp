@@ -28,6 +28,8 @@ void writeSliced(QTextStream& stream, QStringView text)
     }
 }
 
+constexpr int kLineHead = 1024;
+
 /// Calls for each line that is whole, with what had begun before.
 template<class Use>
 void forLines(QString& begun, QStringView text, const Use& use)
@@ -138,6 +140,8 @@ void Writer::followLines(QStringView text)
             noteFault(kEmptyArray);
         ++line_;
     });
+    // A declaration stands at the beginning of its line, which may be long in all.
+    begun_.truncate(kLineHead);
 }
 
 void Writer::writeLines(QTextStream& stream, QStringView text)
