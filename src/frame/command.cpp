@@ -74,7 +74,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
     const bool written = grouped && !state.allEmpty && (writer.repairs || !state.shapeStyle);
     const QString declarations = Declarations(state);
     if (written || (writer.repairs && !state.allEmpty))
-        writer.write(stream, declarations);
+        writer.writeDeclarations(stream, declarations);
     else if (!declarations.isEmpty() && !state.statements.isEmpty())
         state.statements.front() = writer.faulty(state.statements.front(), kUndeclared);
     if (written)

@@ -136,8 +136,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const O
         }
     }
     if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
-        writer.write(stream,
-                     EmitVariableDeclaration(writer, RegisterObject(added->GetHandle(), added->GetObjectClass())));
+        writer.writeDeclarations(
+            stream, EmitVariableDeclaration(writer, RegisterObject(added->GetHandle(), added->GetObjectClass())));
 
     QString text;
     const std::int32_t status = ConvertOrLose(action, text);

@@ -156,6 +156,14 @@ void Writer::writeLines(QTextStream& stream, QStringView text)
     });
 }
 
+void Writer::writeDeclarations(QTextStream& stream, const QString& declarations)
+{
+    if (repairs || Mark::find(declarations, 0))
+        return write(stream, declarations);
+    line_ += static_cast<std::size_t>(std::count(declarations.begin(), declarations.end(), QChar('\n')));
+    stream << declarations;
+}
+
 void Writer::finish(QTextStream& stream)
 {
     if (repairs)

@@ -45,6 +45,9 @@ public:
     /// Writes statements, with all that they have kept for later. Their faults are noted with the lines where they
     /// stand.
     void write(QTextStream& stream, const QString& statements);
+    /// Writes the declarations of objects, each on lines of its own. Their names are numbered through the macro, so
+    /// that none is declared twice.
+    void writeDeclarations(QTextStream& stream, const QString& declarations);
     /// Writes what the last line has without an end.
     void finish(QTextStream& stream);
     /// Forgets what has been kept, once no statement stands for it any more.
