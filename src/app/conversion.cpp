@@ -133,11 +133,13 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling)
     GetFxSystemServices()->SetInt16("IgnoreFaults", tellsNothing ? 1 : 0);
     QStringList placed;
     const int status = convertOrComplain(job, host, recording, placed);
+    const CFxConversionNotes& notes = GetFxSystemServices()->Notes();
     QJsonObject report = reportOf(job, status);
-    if (!tellsNothing)
-        addNotes(report, GetFxSystemServices()->Notes(), recording);
+    if (asked)
+        addNotes(report, notes, recording);
 
-    if (const QString counts = countText(report); status == kDone && !telling.quiet && !counts.isEmpty())
+    const QString counts = countText(notes.GetLosses().size(), notes.GetFaults().size());
+    if (status == kDone && !telling.quiet && !counts.isEmpty())
         printError((job.macro + ": " + counts + (asked ? "\n" : "; see --report\n")).toLocal8Bit());
     if (asked)
         printReport({report}, telling.report);

@@ -88,7 +88,8 @@ QStringList faultRow(const QJsonObject& fault)
 void printText(const QJsonObject& report)
 {
     const QString status = report["status"].toString();
-    QString result = countText(report);
+    QString result = countText(static_cast<std::size_t>(report["losses"].toArray().size()),
+                               static_cast<std::size_t>(report["faults"].toArray().size()));
     if (status != statusWord(kDone))
         result = result.isEmpty() ? status : status + ", " + result;
     else if (result.isEmpty())
@@ -151,13 +152,13 @@ void addNotes(QJsonObject& report, const CFxConversionNotes& notes, const Record
     report["faults"] = faults;
 }
 
-QString countText(const QJsonObject& report)
+QString countText(std::size_t losses, std::size_t faults)
 {
     QStringList counts;
-    if (const int losses = report["losses"].toArray().size(); losses > 0)
-        counts.append(counted(losses, "step", "steps") + " lost");
-    if (const int faults = report["faults"].toArray().size(); faults > 0)
-        counts.append(counted(faults, "fault", "faults"));
+    if (losses > 0)
+        counts.append(counted(static_cast<int>(losses), "step", "steps") + " lost");
+    if (faults > 0)
+        counts.append(counted(static_cast<int>(faults), "fault", "faults"));
     return counts.join(", ");
 }
 

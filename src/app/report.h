@@ -18,7 +18,7 @@ QJsonObject reportOf(const Job& job, int status);
 void addNotes(QJsonObject& report, const CFxConversionNotes& notes, const Recording& recording);
 
 /// "3 steps lost, 2 faults", without what there is none of; empty when there is neither.
-QString countText(const QJsonObject& report);
+QString countText(std::size_t losses, std::size_t faults);
 
 /// Prints the reports of all jobs as one.
 void printReport(const QJsonArray& reports, ReportForm form);
