@@ -41,6 +41,23 @@ static const Phrase findObject{
         .vba = "iwApp.GetActiveDocument().GetObjectByHandle(\"%1\", type%2)",
     }};
 
+// The prompt of COM add-ins. POINTER is the type of the local that an object is held by on its way to the array.
+#define INKMACRO_PROMPT_SELECTION_COM(POINTER)                                                                         \
+    "%1iwObjectType_e type%3;%2%1VARIANT types%3;%2%1types%3.vt = ( VT_ARRAY | VT_I4  );%2"                            \
+    "%1types%3.parray = SafeArrayCreateVector( VT_I4 , 0, %7 );%2%4%1VARIANT entities%3;%2"                            \
+    "%1entities%3.vt = ( VT_ARRAY | VT_DISPATCH  );%2"                                                                 \
+    "%1entities%3.parray = SafeArrayCreateVector( VT_DISPATCH , 0, %7 );%2%5"                                          \
+    "%1pConnection->m_IwApp->GetCommandMessage()->PromptForSelection(false, L\"%6\", L\"\");%2%1{%2"                   \
+    "%1    long count = pConnection->m_IwApp->GetActiveDocument()->GetSelectionManager()->"                            \
+    "GetSelectedObjectCount(iwSelectionSetType_Previous);%2"                                                           \
+    "%1    types%3.parray = SafeArrayCreateVector( VT_I4 , 0, count );%2"                                              \
+    "%1    entities%3.parray = SafeArrayCreateVector( VT_DISPATCH , 0, count );%2"                                     \
+    "%1    for (long i = 0; i < count; ++i)%2%1    {%2"                                                                \
+    "%1        " POINTER " object = pConnection->m_IwApp->GetActiveDocument()->GetSelectionManager()->"                \
+    "GetSelectedObject(iwSelectionSetType_Previous, i, &type%3);%2"                                                    \
+    "%1        SafeArrayPutElement( types%3.parray, &i, (int*)&(type%3) );%2"                                          \
+    "%1        SafeArrayPutElement( entities%3.parray, &i, (IDispatch*)(object) );%2%1    }%2%1}%2"
+
 /// The JavaScript is not valid: it counts and makes its arrays as C# does, and passes an address.
 static const Phrase promptSelection{
     "EmitPromptSelection",
@@ -56,20 +73,7 @@ static const Phrase promptSelection{
             "%1    types%3.clear();%2%1    entities%3.clear();%2%1    for (long i = 0; i < count; ++i)%2%1    {%2"
             "%1        iwSelectionMgr%3->GetSelectedObject(iwSelectionSetType_Previous, i, &type%3, &object%3);%2"
             "%1        types%3.add(type%3);%2%1        entities%3.add(object%3);%2%1    }%2%1}%2",
-        .cppCom = "%1iwObjectType_e type%3;%2%1VARIANT types%3;%2%1types%3.vt = ( VT_ARRAY | VT_I4  );%2"
-                  "%1types%3.parray = SafeArrayCreateVector( VT_I4 , 0, %7 );%2%4%1VARIANT entities%3;%2"
-                  "%1entities%3.vt = ( VT_ARRAY | VT_DISPATCH  );%2"
-                  "%1entities%3.parray = SafeArrayCreateVector( VT_DISPATCH , 0, %7 );%2%5"
-                  "%1pConnection->m_IwApp->GetCommandMessage()->PromptForSelection(false, L\"%6\", L\"\");%2%1{%2"
-                  "%1    long count = pConnection->m_IwApp->GetActiveDocument()->GetSelectionManager()->"
-                  "GetSelectedObjectCount(iwSelectionSetType_Previous);%2"
-                  "%1    types%3.parray = SafeArrayCreateVector( VT_I4 , 0, count );%2"
-                  "%1    entities%3.parray = SafeArrayCreateVector( VT_DISPATCH , 0, count );%2"
-                  "%1    for (long i = 0; i < count; ++i)%2%1    {%2"
-                  "%1        IDispatch* object = pConnection->m_IwApp->GetActiveDocument()->GetSelectionManager()->"
-                  "GetSelectedObject(iwSelectionSetType_Previous, i, &type%3);%2"
-                  "%1        SafeArrayPutElement( types%3.parray, &i, (int*)&(type%3) );%2"
-                  "%1        SafeArrayPutElement( entities%3.parray, &i, (IDispatch*)(object) );%2%1    }%2%1}%2",
+        .cppCom = INKMACRO_PROMPT_SELECTION_COM("IDispatch*"),
         .csharp =
             "%1iwObjectType_e type%3;%2%1iwObjectType_e[] types%3 =%2%1{%2%4%1};%2%1object[] entities%3 =%2%1{%2%5%1};%2"
             "%1iwApp.GetCommandMessage().PromptForSelection(false, \"%6\", \"\");%2%1{%2"
@@ -109,22 +113,9 @@ static const Phrase promptSelection{
                "GetSelectedObject(Inkwright.iwSelectionSetType_e.iwSelectionSetType_Previous, i%3, types%3( i%3 ))%2"
                "%1    Next%2%1End If%2",
     }};
-static const Mend
-    keptSelection(promptSelection, Target::CppCom, "a pointer is taken out of a temporary, which lets go of the object",
-                  "%1iwObjectType_e type%3;%2%1VARIANT types%3;%2%1types%3.vt = ( VT_ARRAY | VT_I4  );%2"
-                  "%1types%3.parray = SafeArrayCreateVector( VT_I4 , 0, %7 );%2%4%1VARIANT entities%3;%2"
-                  "%1entities%3.vt = ( VT_ARRAY | VT_DISPATCH  );%2"
-                  "%1entities%3.parray = SafeArrayCreateVector( VT_DISPATCH , 0, %7 );%2%5"
-                  "%1pConnection->m_IwApp->GetCommandMessage()->PromptForSelection(false, L\"%6\", L\"\");%2%1{%2"
-                  "%1    long count = pConnection->m_IwApp->GetActiveDocument()->GetSelectionManager()->"
-                  "GetSelectedObjectCount(iwSelectionSetType_Previous);%2"
-                  "%1    types%3.parray = SafeArrayCreateVector( VT_I4 , 0, count );%2"
-                  "%1    entities%3.parray = SafeArrayCreateVector( VT_DISPATCH , 0, count );%2"
-                  "%1    for (long i = 0; i < count; ++i)%2%1    {%2"
-                  "%1        IDispatchPtr object = pConnection->m_IwApp->GetActiveDocument()->GetSelectionManager()->"
-                  "GetSelectedObject(iwSelectionSetType_Previous, i, &type%3);%2"
-                  "%1        SafeArrayPutElement( types%3.parray, &i, (int*)&(type%3) );%2"
-                  "%1        SafeArrayPutElement( entities%3.parray, &i, (IDispatch*)(object) );%2%1    }%2%1}%2");
+static const Mend keptSelection(promptSelection, Target::CppCom,
+                                "a pointer is taken out of a temporary, which lets go of the object",
+                                INKMACRO_PROMPT_SELECTION_COM("IDispatchPtr"));
 static const Mend
     scriptSelection(promptSelection, Target::JavaScript, "declarations, arrays and an address as in a typed language",
                     "%1var types%3 =%2%1[%2%4%1];%2%1var entities%3 =%2%1[%2%5%1];%2"

@@ -36,7 +36,7 @@ class Compiler:
         for word in [*self._command, "dotnet"]:
             place = pathlib.Path(shutil.which(word) or word).resolve()
             for folder in place.parents:
-                libraries = list(folder.glob("shared/Microsoft.NETCore.App/*/Microsoft.VisualBasic.dll"))
+                libraries = list(folder.glob("*/Microsoft.NETCore.App/*/Microsoft.VisualBasic.dll"))
                 if libraries:
                     newest = max(libraries, key=lambda file: list(map(int, re.findall(r"\d+", file.parent.name))))
                     found = [newest.parent / f"{name}.dll" for name in ASSEMBLIES]
