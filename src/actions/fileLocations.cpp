@@ -120,7 +120,9 @@ std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files,
     else
         NoteLoss(ActionTitle(&action), "its value is neither a text nor a list of texts");
     text += group.close() + LineEnd;
-    if (property.isEmpty())
+    const bool hasStatement =
+        value.GetType() == CFxCustomActionData::kString || value.GetType() == CFxCustomActionData::kStringArray;
+    if (property.isEmpty() && hasStatement)
         text = writer.faulty(text, kUnknownLocation);
     return kFxSuccess;
 }

@@ -12,10 +12,11 @@ import basic_structure
 import harness
 
 
-def judge(macro, files, dialect, repaired):
+def judge(macro, dialect, repaired):
     """A project's class is known to its start-up module. The `Return` of a macro's head stops only a macro that does not
     find its sheet, and is reported as no fault."""
     # What is left open shows at the end, far from where it went wrong.
+    files = sorted(file for file in macro.folder.iterdir() if file.suffix in (".bas", ".vb"))
     return [harness.Rejection(file, 0 if "comes before the end" in fault else number, fault) for file in files
             for number, fault in basic_structure.check(file.read_text(encoding="utf-8"), dialect, {macro.name})
             if repaired or not fault.startswith("Return ")]
@@ -28,9 +29,9 @@ def main():
     macros = checked.macros(dialect, *(["--repair"] if repaired else []))
     verdict = harness.Verdict()
     for macro in macros:
-        files = sorted(file for file in macro.folder.iterdir() if file.suffix in (".bas", ".vb"))
-        verdict.settle([macro], lambda macro=macro, files=files: judge(macro, files, dialect, repaired))
+        verdict.settle([macro], lambda macro=macro: judge(macro, dialect, repaired))
     verdict.report(f"{len(macros)} macros checked")
 
 
-main()
+if __name__ == "__main__":
+    main()

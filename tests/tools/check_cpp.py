@@ -20,7 +20,7 @@ class Judge:
     def __init__(self, checked, macros):
         self.macros = macros
         headers = checked.folder / "headers"
-        headers.mkdir()
+        headers.mkdir(exist_ok=True)
         stubs_cpp.write(harness.STUBS / "interface.txt", headers)
         self.includes = ["-I", headers, "-I", harness.STUBS / "cpp"]
 
@@ -43,4 +43,5 @@ def main():
     verdict.report(f"{count} add-ins parsed")
 
 
-main()
+if __name__ == "__main__":
+    main()

@@ -22,7 +22,7 @@ class Judge:
     def __init__(self, checked, macros):
         self.macros = macros
         headers = checked.folder / "headers"
-        headers.mkdir()
+        headers.mkdir(exist_ok=True)
         precompiled = (macros[0].folder / "stdafx.h").read_text(encoding="utf-8-sig")
         stubs_cppcom.write(harness.STUBS / "interface.txt", precompiled, headers)
         self.options = [*DEFINITIONS, "-I", headers, "-I", harness.STUBS / "cppcom"]
@@ -51,4 +51,5 @@ def main():
     verdict.report(f"{count} add-ins type-checked")
 
 
-main()
+if __name__ == "__main__":
+    main()

@@ -92,4 +92,5 @@ def main():
     verdict.report(f"{count} macros compiled and run, {summary}")
 
 
-main()
+if __name__ == "__main__":
+    main()

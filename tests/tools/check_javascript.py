@@ -58,26 +58,36 @@ def check_syntax(checked, repaired, _):
     verdict.report(f"{len(macros)} scripts parsed")
 
 
+class Judge:
+    """Runs pages."""
+
+    def __init__(self, checked, macros):
+        self.executable, = harness.need("chromium")
+        self.folder, self.macros = checked.folder, macros
+        self.calls = {}
+
+    def __call__(self):
+        self.calls, rejections = {}, []
+        with browser.Browser(self.executable, self.folder) as window:
+            for macro in self.macros:
+                seen = window.run(macro.file.read_text(encoding="utf-8"), model.offered(macro.lines()))
+                if error := seen["error"]:
+                    rejections.append(harness.Rejection(macro.file, error["line"], error["message"]))
+                self.calls[macro] = seen["calls"]
+        return rejections
+
+
 def check_run(checked, repaired, comparison):
-    executable, = harness.need("chromium")
     macros = checked.macros("javascript", *["--repair"] * repaired)
+    count = len(macros)
+    judge = Judge(checked, macros)
     verdict = harness.Verdict()
-    with browser.Browser(executable, checked.folder) as window:
-        for macro in macros:
-            seen = {}
-
-            def press():
-                seen.update(window.run(macro.file.read_text(encoding="utf-8"), model.offered(macro.lines())))
-                error = seen["error"]
-                return [harness.Rejection(macro.file, error["line"], error["message"])] if error else []
-
-            kept = [macro]
-            verdict.settle(kept, press)
-            if kept:
-                comparison.add(macro, seen["calls"])
+    verdict.settle(macros, judge)
+    for macro, calls in judge.calls.items():
+        comparison.add(macro, calls)
     summary = comparison.summary()
     verdict.complaints += comparison.complaints
-    verdict.report(f"{len(macros)} pages run, {summary}")
+    verdict.report(f"{count} pages run, {summary}")
 
 
 def main():
@@ -89,4 +99,5 @@ def main():
         check(checked, False, expected.Comparison("javascript"))
 
 
-main()
+if __name__ == "__main__":
+    main()

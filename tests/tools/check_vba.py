@@ -49,20 +49,29 @@ def see_faults(checked, program):
         harness.finish([f"the compiler refused lines {sorted(lines)} instead of 3 and 4"], "")
 
 
+class Judge:
+    def __init__(self, checked, macros):
+        self.checked, self.macros = checked, macros
+        self.program = build(checked)
+        see_faults(checked, self.program)
+        self.known = interface.read(harness.STUBS / "interface.txt", "csharp")
+
+    def __call__(self):
+        files = [macro.file for macro in self.macros]
+        rejections = compile_all(self.checked, self.program, files)
+        for file in files:
+            text = file.read_text(encoding="utf-8")
+            rejections += [harness.Rejection(file, number, fault)
+                           for number, fault in [*basic_structure.check(text, basic_structure.VBA),
+                                                 *vba_types.check(text, self.known)]]
+        return sorted(rejections, key=lambda rejection: (rejection.file, rejection.line))
+
+
 def main():
     checked = harness.Checked()
-    program = build(checked)
-    see_faults(checked, program)
-    files = [macro.file for macro in checked.macros("vba", "--repair")]
-    known = interface.read(harness.STUBS / "interface.txt", "csharp")
-    rejections = compile_all(checked, program, files)
-    for file in files:
-        text = file.read_text(encoding="utf-8")
-        rejections += [harness.Rejection(file, number, fault)
-                       for number, fault in [*basic_structure.check(text, basic_structure.VBA),
-                                             *vba_types.check(text, known)]]
-    rejections.sort(key=lambda rejection: (rejection.file, rejection.line))
-    harness.finish(harness.shown(rejections), f"{len(files)} macros compiled")
+    macros = checked.macros("vba", "--repair")
+    harness.finish(harness.shown(Judge(checked, macros)()), f"{len(macros)} macros compiled")
 
 
-main()
+if __name__ == "__main__":
+    main()

@@ -26,6 +26,10 @@ ASSEMBLIES = ("mscorlib", "netstandard", "System", "System.Private.CoreLib", "Sy
 FRAMEWORK_ONLY = "'GetActiveObject' is not a member of 'Marshal'"
 
 
+def found():
+    return bool(os.environ.get("INKMACRO_VBC") or shutil.which("vbc"))
+
+
 class Compiler:
     def __init__(self):
         self._command = shlex.split(os.environ.get("INKMACRO_VBC", "")) or [harness.need("vbc")[0]]
@@ -68,21 +72,29 @@ def arguments(macro):
             *(item.get("Include") for item in root.iterfind("p:ItemGroup/p:Compile", NAMESPACE))]
 
 
+class Judge:
+    def __init__(self, checked, macros):
+        self.macros, self.compiler = macros, Compiler()
+        stubs = checked.folder / "stubs.vb"
+        stubs.write_text(stubs_vbnet.source(harness.STUBS / "interface.txt"), encoding="utf-8")
+        self.library = checked.folder / "Inkwright.dll"
+        rejections = self.compiler(self.library, "/target:library", stubs)
+        if rejections or not self.library.exists():
+            harness.finish(harness.shown(rejections) or ["the compiler makes nothing"], "")
+
+    def _judge(self, macro):
+        return self.compiler(macro.folder / f"{macro.name}.exe", f"/reference:{self.library}", *arguments(macro))
+
+    def __call__(self):
+        with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+            return [rejection for rejections in pool.map(self._judge, self.macros) for rejection in rejections]
+
+
 def main():
     checked = harness.Checked()
-    compiler = Compiler()
-    stubs = checked.folder / "stubs.vb"
-    stubs.write_text(stubs_vbnet.source(harness.STUBS / "interface.txt"), encoding="utf-8")
-    library = checked.folder / "Inkwright.dll"
-    rejections = compiler(library, "/target:library", stubs)
-    if rejections or not library.exists():
-        harness.finish(harness.shown(rejections) or ["the compiler makes nothing"], "")
     macros = checked.macros("vbnet", "--repair")
-    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        refused = pool.map(lambda macro: compiler(macro.folder / f"{macro.name}.exe", f"/reference:{library}",
-                                                  *arguments(macro)), macros)
-        complaints = [complaint for rejections in refused for complaint in harness.shown(rejections)]
-    harness.finish(complaints, f"{len(macros)} macros compiled")
+    harness.finish(harness.shown(Judge(checked, macros)()), f"{len(macros)} macros compiled")
 
 
-main()
+if __name__ == "__main__":
+    main()

@@ -38,12 +38,21 @@ def run(*command, **options):
 
 
 @dataclasses.dataclass(frozen=True)
+class Fault:
+    """As the program reports it."""
+    line: int
+    operation: str
+    reason: str
+    mended: bool
+
+
+@dataclasses.dataclass(frozen=True)
 class Macro:
     name: str
     recording: pathlib.Path
     folder: pathlib.Path
     file: pathlib.Path
-    faults: tuple = ()  # those that the program reports: lines and operations
+    faults: tuple = ()
 
     def lines(self):
         """What its recording holds, line by line."""
@@ -90,27 +99,34 @@ class Checked:
             found[title].write_text(text, encoding="utf-8")
         return found
 
-    def macros(self, target, *options):
-        """Converts every recording with those options of the program, each into a folder of its own; to repaired
-        macros the hostile ones too."""
+    def convert(self, target, recordings, folder, *options):
+        """The macros of recordings in one call of the program with those options, named as their files are."""
         if not self.has(target):
             skip(f"the program has no target {target}")
-        repaired = "--repair" in options
+        result = run(self.program, "convert", *recordings, "--target", target, "--output", f"{folder}/", "--report",
+                     "--quiet", *options)
+        if result.returncode != 0:
+            sys.exit(f"the recordings do not convert to {target}: {result.stderr}")
         macros = []
-        for name, recording in {**self.recordings(repaired), **(self.hostile_recordings() if repaired else {})}.items():
-            folder = self.folder / target / name
-            folder.mkdir(parents=True)
-            file = folder / f"{name}.{EXTENSIONS[target]}"
-            result = run(self.program, "convert", recording, "--target", target, "--output", file, "--report",
-                         "--quiet", *options)
-            if result.returncode != 0:
-                sys.exit(f"{recording} does not convert to {target}: {result.stderr}")
-            conversion, = json.loads(result.stdout)["conversions"]
-            faults = tuple((fault["line"], fault["operation"]) for fault in conversion["faults"])
-            macros.append(Macro(name, recording, folder, file, faults))
-        if not macros:
-            sys.exit("no recording was found")
+        for recording, conversion in zip(recordings, json.loads(result.stdout)["conversions"], strict=True):
+            file = pathlib.Path(conversion["macro"])
+            faults = tuple(Fault(fault["line"], fault["operation"], fault["reason"], fault["mended"])
+                           for fault in conversion["faults"])
+            macros.append(Macro(recording.stem, recording, file.parent, file, faults))
         return macros
+
+    def named_recordings(self, repaired=False):
+        """Files that are named like the macros are to be."""
+        folder = self.folder / "recordings"
+        folder.mkdir(exist_ok=True)
+        return [pathlib.Path(shutil.copy(recording, folder / f"{name}.jsonl"))
+                for name, recording in self.recordings(repaired).items()]
+
+    def macros(self, target, *options):
+        """Those of every recording; to repaired macros the hostile ones too."""
+        repaired = "--repair" in options
+        recordings = self.named_recordings(repaired) + list(self.hostile_recordings().values() if repaired else [])
+        return self.convert(target, recordings, self.folder / target, *options)
 
 
 @dataclasses.dataclass(frozen=True)
@@ -140,6 +156,7 @@ class Verdict:
     def __init__(self):
         self.complaints = []
         self.rejected = []
+        self.reasons = {}
 
     def settle(self, macros, judge):
         """Calls `judge` for rejections and takes rejected macros out of `macros`, until nothing is rejected."""
@@ -150,6 +167,10 @@ class Verdict:
             if not rejected:
                 break
             self.rejected += rejected
+            for one in rejections:
+                for macro in rejected:
+                    if one.file.parent == macro.folder:
+                        self.reasons.setdefault(macro, f"{one.line}: {one.message} | {self._text(one)}")
             macros[:] = [macro for macro in macros if macro not in rejected]
 
     def _explains(self, macro, rejection):
@@ -157,8 +178,8 @@ class Verdict:
         anywhere."""
         if rejection.file != macro.file or rejection.line == 0:
             return rejection.file.parent == macro.folder and bool(macro.faults)
-        return any(0 <= rejection.line - line <= self.LONGEST_STATEMENT or operation == "EmitFileHeader"
-                   for line, operation in macro.faults)
+        return any(0 <= rejection.line - fault.line <= self.LONGEST_STATEMENT or fault.operation == "EmitFileHeader"
+                   for fault in macro.faults)
 
     @staticmethod
     def _text(rejection):
