@@ -2,6 +2,7 @@
 
 #include "host/rx/OdError.h"
 #include "targets/Fault.h"
+#include "targets/LineEnd.h"
 #include "targets/Marks.h"
 #include "targets/quoting.h"
 
@@ -517,12 +518,13 @@ void Fill::markFaults(QString& outcome, int used) const
     }
 }
 
+/// The line end that a literal's own fault puts between quotes is no text of the user's.
 bool Fill::hasBrokenQuotes(int used) const
 {
     return std::any_of(template_->pieces_.begin(), template_->pieces_.end(), [&](const Template::Piece& piece) {
         const auto* const text =
             piece.quoted && piece.rank < used ? std::get_if<QStringView>(&values_[piece.rank]) : nullptr;
-        return text && breaksQuotes(*text, *mode_.target);
+        return text && text->data() != LineEnd.constData() && breaksQuotes(*text, *mode_.target);
     });
 }
 

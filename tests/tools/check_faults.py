@@ -29,7 +29,7 @@ SAID = {
     # The point's own z, of which a call with another number of coordinates is none to a compiler.
     "y is written twice and z never": r"\.add\(0\.25\)",
     # A pointer is used that nothing has set.
-    "a recording that began on a sheet without a name has no sketch manager": r"iwModel->GetSketchManager",
+    "a recording that began on a sheet without a name has no sketch manager": r"iwModel(->|\.)GetSketchManager",
     # The color is made of other numbers.
     "a color by layer or by block counts as black in a gradient": r"GetColorByIndex ?\(? ?256\b",
     # The second of two rows, from behind.
@@ -67,15 +67,16 @@ def pieces(recording, folder):
     for line in (line for line in lines if line not in frame):
         actions = line["command"]["actions"] if "command" in line else [line]
         # Actions of several kinds belong together.
-        alone = actions if len(actions) > 1 and len({kind for action in actions for kind in action}) == 1 else []
-        for part in [line, *alone]:
+        joined = len({kind for action in actions for kind in action}) > 1
+        for part in [line] if joined or len(actions) == 1 else [line, *actions]:
             before = [inserted[handle] for handle in sorted(inserted.keys() & _texts(part))]
-            commands = [one if one is line else {"command": {"name": "", "actions": [one]}} for one in [*before, part]]
+            commands = [one if one is line or "command" in one else {"command": {"name": "", "actions": [one]}}
+                        for one in [*before, part]]
             count += 1
             file = folder / f"{re.sub('[^0-9A-Za-z]', '_', recording.stem)}_{count}.jsonl"
             file.write_text("\n".join(map(json.dumps, [*frame, *commands])) + "\n", encoding="utf-8")
             yield file
-        inserted |= {action["added"]["handle"]: action for action in actions if "added" in action}
+        inserted |= {action["added"]["handle"]: line if joined else action for action in actions if "added" in action}
 
 
 def rows_of(faults):

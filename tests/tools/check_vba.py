@@ -9,6 +9,7 @@ import os
 import pathlib
 
 import basic_structure
+import check_basic
 import harness
 import interface
 import vba_types
@@ -50,27 +51,27 @@ def see_faults(checked, program):
 
 
 class Judge:
-    def __init__(self, checked, macros):
-        self.checked, self.macros = checked, macros
+    """With `repaired`, nothing is excused."""
+
+    def __init__(self, checked, macros, repaired=False):
+        self.checked, self.macros, self.repaired = checked, macros, repaired
         self.program = build(checked)
         see_faults(checked, self.program)
         self.known = interface.read(harness.STUBS / "interface.txt", "csharp")
 
     def __call__(self):
-        files = [macro.file for macro in self.macros]
-        rejections = compile_all(self.checked, self.program, files)
-        for file in files:
-            text = file.read_text(encoding="utf-8")
-            rejections += [harness.Rejection(file, number, fault)
-                           for number, fault in [*basic_structure.check(text, basic_structure.VBA),
-                                                 *vba_types.check(text, self.known)]]
+        rejections = compile_all(self.checked, self.program, [macro.file for macro in self.macros])
+        for macro in self.macros:
+            rejections += check_basic.judge(macro, basic_structure.VBA, self.repaired)
+            rejections += [harness.Rejection(macro.file, number, fault) for number, fault in
+                           vba_types.check(macro.file.read_text(encoding="utf-8"), self.known)]
         return sorted(rejections, key=lambda rejection: (rejection.file, rejection.line))
 
 
 def main():
     checked = harness.Checked()
     macros = checked.macros("vba", "--repair")
-    harness.finish(harness.shown(Judge(checked, macros)()), f"{len(macros)} macros compiled")
+    harness.finish(harness.shown(Judge(checked, macros, True)()), f"{len(macros)} macros compiled")
 
 
 if __name__ == "__main__":
