@@ -94,7 +94,8 @@ static const Phrase colorByIndex{"EmitSetElementColor",
                                      .vbNet = "%4iwColor1 = iwApp.GetColorByIndex( %6 )%5",
                                      .vba = "%4Set iwColor1 = iwApp.GetColorByIndex( %6 )%5",
                                  }};
-static const Mend indexedColorInPage(colorByIndex, Target::JavaScript, "the page has no iwApp, its application is mApp",
+static const Mend indexedColorInPage(colorByIndex, Target::JavaScript,
+                                     "an indexed color is asked of iwApp, the page's application is mApp",
                                      "%4iwColor1 = mApp.GetColorByIndex( %6 );%5");
 
 static const Phrase colorByRgb{"EmitSetElementColor",
@@ -106,7 +107,8 @@ static const Phrase colorByRgb{"EmitSetElementColor",
                                    .vbNet = "%4iwColor1 = iwApp.GetRGBColor( %6, %7, %8 )%5",
                                    .vba = "%4Set iwColor1 = iwApp.GetRGBColor( %6, %7, %8 )%5",
                                }};
-static const Mend rgbColorInPage(colorByRgb, Target::JavaScript, "the page has no iwApp, its application is mApp",
+static const Mend rgbColorInPage(colorByRgb, Target::JavaScript,
+                                 "an RGB color is asked of iwApp, the page's application is mApp",
                                  "%4iwColor1 = mApp.GetRGBColor( %6, %7, %8 );%5");
 
 static const Phrase setElementColor{"EmitSetElementColor",

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Holds the known faults of a target against recordings: for each there has to be a macro that has this fault alone and
-is rejected by its tools, or makes another drawing, while the repaired one does not.
+"""Proves the known faults of a target: for each there has to be a macro that has this fault alone and is rejected by its
+tools, or makes another drawing than the recorded one, while the repaired macro does not.
 
     check_faults.py PROGRAM SOURCE_DIR TARGET
 """
@@ -20,47 +20,54 @@ import drawing
 import harness
 
 ROW = re.compile(r"^\| `(.*?)` \| ([\w, ]+) \| (.*) \| (?:yes|no) \|$", re.MULTILINE)
-TRIED = 2  # pieces of one recording, at most, for a fault
-UNRUN = ("cpp", "cppcom", "vbnet", "vba")
 
-# By the reason of a fault that compilers take, for targets whose macros do not run here: what its repaired statement says
-# of the recording and the faithful one does not.
+# At most, for a fault: recordings that are cut into pieces, and pieces of each that are tried.
+CUT = 4
+TRIED = 2
+
+RUN = ("csharp", "javascript")
+# Faults by their reason that compilers take, for targets whose macros do not run here: what only the repaired statement
+# says of the recording.
 SAID = {
-    # The point's own z, of which a call with another number of coordinates is none to a compiler.
+    # The point's z, which is a number as good as its y.
     "y is written twice and z never": r"\.add\(0\.25\)",
-    # A pointer is used that nothing has set.
+    # What sets the pointer that all statements use.
     "a recording that began on a sheet without a name has no sketch manager": r"iwModel(->|\.)GetSketchManager",
-    # The color is made of other numbers.
-    "a color by layer or by block counts as black in a gradient": r"GetColorByIndex ?\(? ?256\b",
-    # The second of two rows, from behind.
+    # A color is as good as another.
+    "a color by layer or by block counts as black in a gradient": r"GetColorByIndex ?\( ?256\b",
+    # The second of two calls, from behind.
     "of several rows or columns that went only the last is removed": r"DeleteRow ?\(? ?3\b",
-    # The result of a call is dropped.
+    # Who takes the result.
     "the group's variable is not assigned": r"\w+ = iwDoc->CreateGroup",
-    # An index is a number as good as another.
+    # The index goes up behind both elements.
     "the index is raised before the first element, so the last one lies behind the array":
         r"iwlocal\d+\.parray, &(index\d+),[^;]*;[^;]*;\s*SafeArrayPutElement[^;]*;\s*\1 = \1 \+ 1;",
-    # Another enumerator of the same type.
+    # An enumerator is as good as another of its type.
     "a predefined pattern becomes a user's own": r"iwHatchPatternType_Predefined",
 }
 
 
+def rows_of(faults):
+    return {(fault.operation, fault.reason) for fault in faults}
+
+
 def listed(checked, target):
     """The faults of the target: operation and reason."""
-    rows = ROW.findall(harness.run(checked.program, "faults").stdout)
-    return {(operation, reason) for operation, targets, reason in rows if target in targets.split(", ")}
+    rows = [(operation, reason) for operation, targets, reason
+            in ROW.findall(harness.run(checked.program, "faults").stdout) if target in targets.split(", ")]
+    if not rows or len(set(rows)) < len(rows):
+        harness.finish([f"the program lists no faults of {target}, or one twice"], "")
+    return set(rows)
 
 
-def _texts(node):
+def texts_of(node):
     if isinstance(node, (dict, list)):
-        return {text for part in (node.values() if isinstance(node, dict) else node) for text in _texts(part)}
+        return {text for part in (node.values() if isinstance(node, dict) else node) for text in texts_of(part)}
     return {node} if isinstance(node, str) else set()
 
 
 def pieces(recording, folder):
-    """The recording, and cut down to single commands and actions, each behind the insertions of what it names."""
-    folder /= recording.stem
-    folder.mkdir(parents=True)
-    yield shutil.copy(recording, folder / recording.name)
+    """The recording cut down to single commands and actions, each behind the insertions of what it names."""
     lines = [json.loads(line) for line in recording.read_text(encoding="utf-8-sig").split("\n") if line.strip()]
     frame = [line for line in lines if line.keys() & {"recording", "object"}]
     inserted, count = {}, 0
@@ -69,7 +76,7 @@ def pieces(recording, folder):
         # Actions of several kinds belong together.
         joined = len({kind for action in actions for kind in action}) > 1
         for part in [line] if joined or len(actions) == 1 else [line, *actions]:
-            before = [inserted[handle] for handle in sorted(inserted.keys() & _texts(part))]
+            before = [inserted[handle] for handle in sorted(inserted.keys() & texts_of(part))]
             commands = [one if one is line or "command" in one else {"command": {"name": "", "actions": [one]}}
                         for one in [*before, part]]
             count += 1
@@ -79,8 +86,27 @@ def pieces(recording, folder):
         inserted |= {action["added"]["handle"]: line if joined else action for action in actions if "added" in action}
 
 
-def rows_of(faults):
-    return {(fault.operation, fault.reason) for fault in faults}
+def candidates(checked, target):
+    """For each fault macros that have it, those with the fewest others first."""
+    whole = checked.convert(target, checked.named_recordings(True), checked.folder / "whole")
+    whole.sort(key=lambda macro: macro.recording.stat().st_size)
+    cut = collections.Counter()
+    folder = checked.folder / "pieces"
+    folder.mkdir()
+    found = []
+    for macro in whole:
+        cut.update(rows_of(macro.faults))
+        if any(cut[row] <= CUT for row in rows_of(macro.faults)):
+            parts = list(pieces(macro.recording, folder))
+            found += [(macro, one) for one in [macro, *checked.convert(target, parts, checked.folder / "faithful")]]
+    found.sort(key=lambda pair: (len(rows_of(pair[1].faults)), pair[1].file.stat().st_size))
+    cases, tried = collections.defaultdict(list), collections.Counter()
+    for source, macro in found:
+        for row in rows_of(macro.faults):
+            tried[row, source] += 1
+            if tried[row, source] <= TRIED:
+                cases[row].append(macro)
+    return cases
 
 
 def isolated(row, faithful, repaired, folder):
@@ -89,67 +115,27 @@ def isolated(row, faithful, repaired, folder):
     if rows_of(faithful.faults) == {row}:
         return faithful
     left, right = (macro.file.read_text(encoding="utf-8").split("\n") for macro in (faithful, repaired))
-    begin = sorted({fault.line for fault in faithful.faults})
-    lines, found = [], False
+    begins = sorted({fault.line for fault in faithful.faults})
+    lines, faults = [], []
     for kind, a, b, c, d in difflib.SequenceMatcher(None, left, right, False).get_opcodes():
         # Lines or statements that correspond to each other may belong to several faults.
-        cuts = [a, *(line - 1 for line in begin if a < line - 1 < b), b] if kind != "equal" else [a, b]
+        cuts = [a, *(line - 1 for line in begins if kind != "equal" and a < line - 1 < b), b]
         cuts = list(range(a, b + 1)) if b - a == d - c else cuts if len(cuts) - 1 == d - c else [a, b]
         ends = range(c, d + 1) if len(cuts) - 1 == d - c else [c, d]
         for a, b, c, d in zip(cuts, cuts[1:], ends, ends[1:]):
-            begun = max((line for line in begin if line <= a + 1), default=0)
-            own = kind != "equal" and rows_of(fault for fault in faithful.faults if fault.line == begun) == {row}
-            lines += left[a:b] if own else right[c:d]
-            found |= own
-    if not found:
+            begun = max((line for line in begins if line <= a + 1), default=0)
+            of_statement = [fault for fault in faithful.faults if fault.line == begun]
+            if kind != "equal" and rows_of(of_statement) == {row}:
+                faults.append(dataclasses.replace(of_statement[0], line=max(len(lines) + begun - a, 1)))
+                lines += left[a:b]
+            else:
+                lines += right[c:d]
+    if not faults:
         return None
     shutil.copytree(repaired.folder, folder)
     file = folder / repaired.file.name
     file.write_text("\n".join(lines), encoding="utf-8")
-    return dataclasses.replace(faithful, folder=folder, file=file)
-
-
-class Tools:
-    """Those of a target."""
-
-    def __init__(self, checked, target):
-        self._checked, self._target = checked, target
-        self.all_found = target != "vbnet" or check_vbnet.found()
-
-    def refused(self, macros):
-        """By name, the macros that are rejected or make another drawing than the recorded one, and why."""
-        if self._target == "vbnet":
-            found = {macro.name: rejections for macro in macros if (rejections := check_basic.judge(macro, "vbnet", False))}
-            macros = [macro for macro in macros if macro.name not in found] if self.all_found else []
-        else:
-            found = {}
-        if not macros:
-            return found
-        verdict, kept = harness.Verdict(), list(macros)
-        judge = importlib.import_module(f"check_{self._target}").Judge(self._checked, kept)
-        verdict.settle(kept, judge)
-        found |= {macro.name: verdict.reasons[macro] for macro in verdict.rejected}
-        for macro, calls in getattr(judge, "calls", {}).items():
-            comparison = drawing.Comparison(self._target, self._checked.program)
-            comparison.add(macro, calls)
-            if comparison.complaints:
-                found[macro.name] = comparison.complaints[0]
-        return found
-
-
-def candidates(checked, target):
-    """For each fault macros that have it, those with the fewest others first."""
-    files = [piece for recording in checked.named_recordings(True)
-             for piece in pieces(recording, checked.folder / "pieces")]
-    macros = checked.convert(target, files, checked.folder / "faithful")
-    macros.sort(key=lambda macro: (len(rows_of(macro.faults)), macro.file.stat().st_size))
-    found, tried = collections.defaultdict(list), collections.Counter()
-    for macro in macros:
-        for row in rows_of(macro.faults):
-            tried[row, macro.recording.parent] += 1
-            if tried[row, macro.recording.parent] <= TRIED:
-                found[row].append(macro)
-    return found
+    return dataclasses.replace(faithful, folder=folder, file=file, faults=tuple(faults))
 
 
 class Proof:
@@ -157,60 +143,79 @@ class Proof:
 
     def __init__(self, checked, target):
         self._checked, self._target = checked, target
-        self._tools = Tools(checked, target)
+        self._has_compiler = target != "vbnet" or check_vbnet.is_found()
         self.rows = listed(checked, target)
-        self.shown = {}  # by the fault, the macro and what is wrong with it
-        self.tried = []
+        self.shown, self.tried = set(), collections.defaultdict(list)
 
     def run(self):
-        cases = candidates(self._checked, self._target)
-        turn = 0
+        cases, turn = candidates(self._checked, self._target), 0
         while chosen := self._choose(cases):
             turn += 1
             folder = self._checked.folder / f"turn{turn}"
             repaired = self._checked.convert(self._target, [macro.recording for macro in chosen], folder, "--repair")
-            self._try({isolated(row, macro, sound, folder / "isolated" / macro.name): (row, sound)
-                       for (macro, row), sound in zip(chosen.items(), repaired)})
+            macros = {isolated(row, macro, sound, folder / "isolated" / macro.name): (row, sound)
+                      for (macro, row), sound in zip(chosen.items(), repaired)}
+            macros.pop(None, None)
+            self._try(macros)
 
     def _choose(self, cases):
         """The next macro of each fault that is not shown yet; a macro is tried for one fault at a time."""
         chosen = {}
-        for row in sorted(self.rows - self.shown.keys()):
+        for row in sorted(self.rows - self.shown):
             if macro := next((macro for macro in cases[row] if macro not in chosen), None):
                 cases[row].remove(macro)
                 chosen[macro] = row
         return chosen
 
-    def _try(self, cases):
-        cases.pop(None, None)
-        wrong = self._tools.refused(list(cases))
-        for macro, (row, repaired) in cases.items():
-            if self._target in UNRUN and macro.name not in wrong and says_less(row, macro, repaired):
-                wrong[macro.name] = "says something else"
-        sound = self._tools.refused([repaired for macro, (_, repaired) in cases.items() if macro.name in wrong])
-        for macro, (row, _) in cases.items():
-            if macro.name in wrong and macro.name not in sound:
-                self.shown[row] = macro.name, wrong[macro.name]
+    def _try(self, macros):
+        refused = self._refused(macros)
+        wrong = [macro for macro, (row, repaired) in macros.items()
+                 if macro.name in refused or self._target not in RUN and self._says_less(row, macro, repaired)]
+        refused = self._refused([macros[macro][1] for macro in wrong])
+        for macro, (row, _) in macros.items():
+            if macro in wrong and macro.name not in refused:
+                self.shown.add(row)
             else:
-                self.tried.append(f"{row[0]}: {macro.name}: {wrong.get(macro.name)} {sound.get(macro.name)}")
+                self.tried[row].append(f"{macro.name} ({'refused too when repaired' if macro in wrong else 'accepted'})")
 
+    def _refused(self, macros):
+        """The names of macros that are rejected, in no other place than the fault's when one is reported, or make
+        another drawing than the recorded one."""
+        verdict, kept = harness.Verdict(), list(macros)
+        if self._target == "vbnet":
+            verdict.settle(kept, lambda: [one for macro in kept for one in check_basic.judge(macro, "vbnet", False)])
+        calls = {}
+        if kept and self._has_compiler:
+            judge = importlib.import_module(f"check_{self._target}").Judge(self._checked, kept)
+            verdict.settle(kept, judge)
+            calls = getattr(judge, "calls", calls)
+        elsewhere = {one.file.parent for one in verdict.unexplained}
+        names = {macro.name for macro in verdict.rejected if not macro.faults or macro.folder not in elsewhere}
+        for macro in kept if calls else ():
+            comparison = drawing.Comparison(self._target, self._checked.program)
+            comparison.add(macro, calls[macro])
+            names |= {macro.name for _ in comparison.complaints}
+        return names
 
-def says_less(row, macro, repaired):
-    pattern = SAID.get(row[1])
-    found = [bool(re.search(pattern, one.file.read_text(encoding="utf-8"))) for one in (macro, repaired)] if pattern else []
-    return found == [False, True]
+    @staticmethod
+    def _says_less(row, macro, repaired):
+        found = [row[1] in SAID and re.search(SAID[row[1]], one.file.read_text(encoding="utf-8")) is not None
+                 for one in (macro, repaired)]
+        return found == [False, True]
+
+    def finish(self):
+        unshown = self.rows - self.shown
+        summary = f"{len(self.shown)} of {len(self.rows)} faults shown"
+        if not self._has_compiler:
+            harness.finish([], f"{summary}, {len(unshown)} not checked without a compiler")
+        harness.finish([f"nothing shows the fault of {row[0]}: {row[1]}; {', '.join(self.tried[row])}"
+                        for row in sorted(unshown)], summary)
 
 
 def main():
-    checked = harness.Checked()
-    target = sys.argv[3]
-    proof = Proof(checked, target)
+    proof = Proof(harness.Checked(), sys.argv[3])
     proof.run()
-    print("\n".join(proof.tried))
-    for row in sorted(proof.rows):
-        print("OK  " if row in proof.shown else "OPEN", row, proof.shown.get(row))
-    print(f"{target}: {len(proof.shown)} of {len(proof.rows)} shown")
+    proof.finish()
 
 
-if __name__ == "__main__":
-    main()
+main()

@@ -26,7 +26,7 @@ ASSEMBLIES = ("mscorlib", "netstandard", "System", "System.Private.CoreLib", "Sy
 FRAMEWORK_ONLY = "'GetActiveObject' is not a member of 'Marshal'"
 
 
-def found():
+def is_found():
     return bool(os.environ.get("INKMACRO_VBC") or shutil.which("vbc"))
 
 

@@ -112,6 +112,8 @@ class Checked:
             file = pathlib.Path(conversion["macro"])
             faults = tuple(Fault(fault["line"], fault["operation"], fault["reason"], fault["mended"])
                            for fault in conversion["faults"])
+            if "--repair" in options and any(fault.mended for fault in faults):
+                sys.exit(f"{recording} has a fault when it is repaired: {faults}")
             macros.append(Macro(recording.stem, recording, file.parent, file, faults))
         return macros
 
@@ -156,21 +158,18 @@ class Verdict:
     def __init__(self):
         self.complaints = []
         self.rejected = []
-        self.reasons = {}
+        self.unexplained = []
 
     def settle(self, macros, judge):
         """Calls `judge` for rejections and takes rejected macros out of `macros`, until nothing is rejected."""
         while macros and (rejections := judge()):
-            self.complaints += [f"{one.file.name}:{one.line}: {one.message}\n    {self._text(one)}" for one in rejections
-                                if not any(self._explains(macro, one) for macro in macros)]
+            unexplained = [one for one in rejections if not any(self._explains(macro, one) for macro in macros)]
+            self.unexplained += unexplained
+            self.complaints += [f"{one.file.name}:{one.line}: {one.message}\n    {self._text(one)}" for one in unexplained]
             rejected = [macro for macro in macros if any(one.file.parent == macro.folder for one in rejections)]
             if not rejected:
                 break
             self.rejected += rejected
-            for one in rejections:
-                for macro in rejected:
-                    if one.file.parent == macro.folder:
-                        self.reasons.setdefault(macro, f"{one.line}: {one.message} | {self._text(one)}")
             macros[:] = [macro for macro in macros if macro not in rejected]
 
     def _explains(self, macro, rejection):

@@ -94,7 +94,7 @@ static const Phrase renewDefinition{
                "Inkwright.iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing )%2",
     }};
 static const Mend keptBlockName(
-    renewDefinition, Target::CppCom, "a text is taken out of a temporary, which frees it",
+    renewDefinition, Target::CppCom, "the old name is taken out of a temporary, which frees it",
     "%1_bstr_t blkName_%9;%2%1blkName_%9 = %8->GetName();%2%2%1 %8 = iwDoc->CreateBlockDefinition(%2%1 %3, "
     "%2%1 L\"%4\", %2%1 %5, %2%1 %6, %2%1 %7, %2%1 objecttypes_%9,  %2%1 objects_%9, %2"
     "%1 iwBlockDefinitionEntities_RemoveFromDrawing );%2");
@@ -109,7 +109,8 @@ static const Phrase declareBlockName{"EmitCreateBlockDefinition",
                                          .vba = "%1 Dim %3Name As String%2",
                                      }};
 static const Mend keptAnonymousName(declareBlockName, Target::CppCom,
-                                    "a text is taken out of a temporary, which frees it", "%1 _bstr_t %3Name;%2");
+                                    "an anonymous name is taken out of a temporary, which frees it",
+                                    "%1 _bstr_t %3Name;%2");
 
 static const Phrase getBlockName{"EmitCreateBlockDefinition",
                                  {
