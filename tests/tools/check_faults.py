@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Proves the known faults of a target: for each there has to be a macro that has this fault alone and is rejected by its
-tools, or makes another drawing than the recorded one, while the repaired macro does not.
+"""Proves the known faults of a target: for each there has to be a macro that has this fault alone and is rejected by
+its tools, or makes another drawing than the recorded one, while the repaired macro does not.
 
     check_faults.py PROGRAM SOURCE_DIR TARGET
 """
@@ -176,7 +176,8 @@ class Proof:
             if macro in wrong and macro.name not in refused:
                 self.shown.add(row)
             else:
-                self.tried[row].append(f"{macro.name} ({'refused too when repaired' if macro in wrong else 'accepted'})")
+                outcome = "refused too when repaired" if macro in wrong else "not refused"
+                self.tried[row].append(f"{macro.name} is {outcome}")
 
     def _refused(self, macros):
         """The names of macros that are rejected, in no other place than the fault's when one is reported, or make

@@ -165,7 +165,8 @@ class Verdict:
         while macros and (rejections := judge()):
             unexplained = [one for one in rejections if not any(self._explains(macro, one) for macro in macros)]
             self.unexplained += unexplained
-            self.complaints += [f"{one.file.name}:{one.line}: {one.message}\n    {self._text(one)}" for one in unexplained]
+            self.complaints += [f"{one.file.name}:{one.line}: {one.message}\n    {self._text(one)}"
+                                for one in unexplained]
             rejected = [macro for macro in macros if any(one.file.parent == macro.folder for one in rejections)]
             if not rejected:
                 break
