@@ -41,8 +41,6 @@ ELSEWHERE = re.compile(r"NoteAnnotation|ToleranceAnnotation|BlockAnnotation|Clip
                        r"|FitOptions.DimensionS|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
                        r"|RowHeightAt|ColumnWidthAt|Pattern|ArrowsOptions.\w+Arrow|Measure"
                        r"|ExtensionLineFixedLength")
-# Of an added dimension without a statement, like all that it overrides of its style.
-OVERRIDDEN = re.compile("Arrow|Dim style")
 # Of a block that another drawing holds.
 REFERENCED = {"Name()", "Rotation()"}
 # Behind these an object has other vertices than those of its record.
@@ -182,8 +180,7 @@ class Recorded:
         if handle in self._thicknesses:
             self._held[handle]["Thickness()", 0] = self._thicknesses[handle]
         self._modified({**record, "properties": [one for one in record["properties"]
-                                                 if (handle, one["tag"]) not in self._lost
-                                                 and not ("Dimension" in cls and OVERRIDDEN.match(one["tag"]))]})
+                                                 if (handle, one["tag"]) not in self._lost]})
         self._align(cls, self._held[handle])
 
     @staticmethod
