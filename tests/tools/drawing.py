@@ -1,6 +1,7 @@
 """The drawing that a macro made, as the stubs noted it, and its comparison object by object with what the recording
 says. Which property of a record stands where in an object is told by drawing.txt."""
 
+import itertools
 import json
 import math
 import re
@@ -61,7 +62,7 @@ class _Rows:
     """drawing.txt: the interface's class by the drawing's class, and by both classes and tag the place of a value."""
 
     def __init__(self):
-        self.interfaces, self.places, self.optional = {}, {}, set()
+        self.interfaces, self.places, self.optional, self.operations = {}, {}, set(), {}
         cls = ""
         for line in (harness.HERE / "drawing.txt").read_text(encoding="utf-8").splitlines():
             text = "" if line.startswith("#") else line.rstrip()
@@ -71,6 +72,9 @@ class _Rows:
                     self.interfaces[cls] = name
             elif text:
                 tag, place = text.strip().split(" = ")
+                if cls == "operations":
+                    self.operations[int(tag.split()[0])] = tag.split()[1], place.split()
+                    continue
                 if place.endswith("?"):
                     place = place[:-1]
                     self.optional.add((self.interfaces[cls], place.split("[")[0] + "()"))
@@ -145,6 +149,29 @@ def _question(name, index):
     return name if name.endswith(")") else f"{name}({index})"
 
 
+class _Object:
+    """One that an operation is handed: its handle, and its place among the added ones, if it is one of them."""
+
+    def __init__(self, handle, place):
+        self.handle, self._place = handle, place
+
+    def ways(self, added):
+        if self._place is not None:
+            return {added[self._place]}
+        return {f"model {self.handle}", f'{expected.DOCUMENT}.GetObjectByHandle("{self.handle}")'}
+
+    def __repr__(self):
+        return self.handle
+
+
+def _flat(values):
+    for value in values:
+        if isinstance(value, list):
+            yield from _flat(value)
+        else:
+            yield value
+
+
 class Recorded:
     """What the recording says of its objects: what they hold by their handle, in the order in which they were added."""
 
@@ -158,7 +185,8 @@ class Recorded:
         self._notes = {record["handle"]: record for record in records if record["handle"] in self._leaders}
         self._thicknesses = {record["handle"]: record["thickness"] for record in records if "thickness" in record}
         self._pattern = None  # of the next hatch; empty when that is not inserted
-        self.added, self._classes, self._held, self.strange = [], {}, {}, set()
+        self._places = {}  # of the objects in `added` by their handles
+        self.added, self._classes, self._held, self.strange, self.operations = [], {}, {}, set(), []
         for action in expected._actions(recording):
             for kind in {"added", "modified", "property", "custom"} & action.keys():
                 getattr(self, f"_{kind}")(action[kind])
@@ -169,6 +197,7 @@ class Recorded:
                 cls == "AcDbHatch" and self._pattern == {}):
             return
         self._classes[handle], self._held[handle] = cls, {}
+        self._places[handle] = len(self.added)
         self.added.append((cls, self._held[handle]))
         for note, leader in self._leaders.items():
             if leader == handle:
@@ -206,6 +235,8 @@ class Recorded:
         data = action["data"]
         if action["kind"] == expected.DRAWING:
             self._draw(data[3]["handle"], *(next(iter(one.values())) for one in data))
+        if action["kind"] in self._rows.operations and json.dumps(action) not in self._lost:
+            self._operate(*self._rows.operations[action["kind"]], data)
         if action["kind"] == HATCHING:
             self._hatch(*(next(iter(one.values())) for one in data))
         if action["kind"] == expected.ERASING:
@@ -216,6 +247,29 @@ class Recorded:
             for handle, cls in zip(data[5]["handles"], data[6]["classes"]):
                 if self._classes.get(handle) != cls:  # another object from here on
                     self._held.pop(handle, None)
+                    self._places.pop(handle, None)
+                    self._classes[handle] = cls
+
+    def _operate(self, name, fields, data):
+        """Operations on several objects, with all that is handed to them, in one list."""
+        on, *fields = fields if fields[0].startswith("on") else ["", *fields]
+        for several in range(2, len(data)) if "*" in fields else [None]:
+            handed = [part for field in fields for part in self._handed(field.removeprefix("each"), data, several)]
+            for owner in self._handed(on[2:], data, None) if on else [None]:
+                self.operations += [(name, owner, one) for one in (
+                    [[part] for part in handed] if "each0" in fields else [handed])]
+
+    def _handed(self, field, data, several):
+        """Objects by their place in `added`, or by their handle."""
+        number, _, span = field.lstrip("-").partition(":")
+        value = next(iter(data[several if number == "*" else int(number)].values()))
+        values = value if isinstance(value, list) else [value]
+        if field.startswith("-"):
+            return [None] * len(values)
+        flat = [part for one in values for part in (one if isinstance(one, list) else [one])]
+        return [_Object(part, self._places.get(part)) if isinstance(part, str) else part
+                for part in (flat[slice(*map(int, span.split("-")))] if span else flat)
+                if (part, "") not in self._lost]
 
     def _hatch(self, name, scale, angle, *rest):
         """Stands in front of its hatch, or behind it."""
@@ -389,24 +443,49 @@ class Comparison(expected.Comparison):
         if names != [way.split("#")[0] for way in ways]:
             faults.append(f"the objects made are {ways}\n    and should be {names}")
             ways = []
+        elif fault := self._first_operation(recorded.operations, calls, ways):
+            faults.append(fault)
         for (_, wanted), way in zip(recorded.added, ways):
             faults += [f"{way} {fault}" for fault in self._compare_object(made, way, wanted)]
         self.complaints += [f"{macro.name}: {fault}" for fault in faults]
 
     def _lost(self, macro):
-        """What the program reports as lost of added objects: handles, each with the tag of a property or with none."""
+        """What the program reports as lost: of added objects the handles, each with the tag of a property or with none,
+        and whole custom actions."""
         report = harness.run(self._program, "convert", macro.recording, "--target", self._target, "--repair",
                              "--report", "--output", macro.folder / "reported" / macro.file.name)
         lines = macro.recording.read_text(encoding="utf-8-sig").split("\n")
         lost = set()
         for loss in json.loads(report.stdout)["conversions"][0]["losses"]:
             told = re.fullmatch(r'(?:property "(.*)" of )?AcDb\w+ (\w+)', loss["what"])
-            number = re.fullmatch(r"command\.actions\[(\d+)\]", loss.get("path", ""))
-            if told and number:
-                action = json.loads(lines[loss["line"] - 1])["command"]["actions"][int(number[1])]
-                if action.get("added", {}).get("handle") == told[2]:
-                    lost.add((told[2], told[1] or ""))
+            action = json.loads(lines[loss["line"] - 1])
+            if number := re.fullmatch(r"command\.actions\[(\d+)\]", loss.get("path", "")):
+                action = action["command"]["actions"][int(number[1])]
+            if told and action.get("added", {}).get("handle") == told[2]:
+                lost.add((told[2], told[1] or ""))
+            elif loss["what"].startswith("custom "):
+                lost.add(json.dumps(action["custom"]))
         return lost
+
+    def _first_operation(self, wanted, calls, ways):
+        """The first operation on several objects that is not as it should be."""
+        names = {name for name, _ in self._rows.operations.values()}
+        seen = [call for call in calls if call[1] in names]
+        for (on, name, arguments), (operation, owner, handed) in itertools.zip_longest(
+                seen, wanted, fillvalue=(None, "nothing", [])):
+            values = list(_flat(arguments))
+            if (name, len(values)) != (operation, len(handed)) or owner and on.removesuffix(
+                    ".get_DispObj()") not in owner.ways(ways) or not all(
+                    self._is_handed(*pair, ways) for pair in zip(values, handed)):
+                return f"{on}.{name}({arguments}) should be {operation} of {owner}: {handed}"
+        return None
+
+    @staticmethod
+    def _is_handed(value, wanted, ways):
+        if isinstance(wanted, _Object):
+            return isinstance(value, str) and value[1:].removesuffix(".get_DispObj()") in wanted.ways(ways)
+        return wanted is None or value == _number(f"{wanted:.6g}") or math.isclose(
+            value, wanted, rel_tol=0, abs_tol=1e-9)
 
     def _lasting_ways(self, calls, names):
         """To the objects that were made and are not drawn for others alone. Hatches never are, and of what a block is
