@@ -29,7 +29,10 @@ ENUMERATORS = {
 YES = {"Yes", "YES", "Visible", "Enabled"}
 # What stands between an object and its properties without being one of them.
 STEPS = re.compile(r"[gG]et_?(\w+)\(\)")
-PASSED = {"GeneralDimension", "DimensionStyleUserData"}
+PASSED = {"GeneralDimension", "DimensionStyleUserData", "Layer", "TextStyle", "TableStyle", "DimensionStyle", "RichLineStyle"}
+# The numbers by which a table style's cells and lines are recorded.
+CELLS = {"iwTableCellType_Title": "1", "iwTableCellType_Header": "2", "iwTableCellType_Data": "3",
+         "iwTableBordersLineType_HorizontalBottom": "4", "iwTableBordersLineType_VerticalInside": "16"}
 # What an object has of which nothing is recorded, besides zeros and empty texts: the host's own values.
 DEFAULTS = [("Circle", "Radius()", 1), ("BlockInstance", "Scales()", 1), ("SimpleNote", "Height()", 2.5),
             ("AttributeDefinition", "Height()", 0.2), ("EllipseArc", "OtherRadius()", 1),
@@ -39,7 +42,7 @@ DEFAULTS = [("Circle", "Radius()", 1), ("BlockInstance", "Scales()", 1), ("Simpl
 SHORT = re.compile(r"Segment(Angle|StartWidth|EndWidth)")
 # What the records of an object do not tell: the drawing's data and custom actions do.
 ELSEWHERE = re.compile(r"NoteAnnotation|ToleranceAnnotation|BlockAnnotation|ClipBoundary|TableStyle"
-                       r"|FitOptions.DimensionS|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
+                       r"|Active|.*InViewport|FitOptions.DimensionS|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
                        r"|RowHeightAt|ColumnWidthAt|Pattern|ArrowsOptions.\w+Arrow|Measure"
                        r"|ExtensionLineFixedLength")
 # Of a block that another drawing holds.
@@ -55,7 +58,7 @@ ANONYMOUS = re.compile(r"^\*U\d+$")
 HATCHING = 18
 # How a number of the record becomes the one that the object holds.
 MEASURES = {"half": lambda value: value / 2, "round": lambda value: value / (2 * math.pi),
-            "area": lambda value: math.sqrt(value / math.pi)}
+            "area": lambda value: math.sqrt(value / math.pi), "not": lambda value: "No" if value in YES else "Yes"}
 
 
 class _Rows:
@@ -63,12 +66,15 @@ class _Rows:
 
     def __init__(self):
         self.interfaces, self.places, self.optional, self.operations = {}, {}, set(), {}
+        self.records = {}  # classes of records: how the interface's class is called, and the tag of their names
         cls = ""
         for line in (harness.HERE / "drawing.txt").read_text(encoding="utf-8").splitlines():
             text = "" if line.startswith("#") else line.rstrip()
             if text and not text.startswith(" "):
                 cls, _, name = text.partition(" ")
-                if name:
+                if " " in name:
+                    self.records[cls] = name.split()
+                elif name:
                     self.interfaces[cls] = name
             elif text:
                 tag, place = text.strip().split(" = ")
@@ -185,14 +191,29 @@ class Recorded:
         self._notes = {record["handle"]: record for record in records if record["handle"] in self._leaders}
         self._thicknesses = {record["handle"]: record["thickness"] for record in records if "thickness" in record}
         self._pattern = None  # of the next hatch; empty when that is not inserted
+        self.records = {}
         self._places = {}  # of the objects in `added` by their handles
         self.added, self._classes, self._held, self.strange, self.operations = [], {}, {}, set(), []
         for action in expected._actions(recording):
             for kind in {"added", "modified", "property", "custom"} & action.keys():
                 getattr(self, f"_{kind}")(action[kind])
 
+    def _hold_record(self, record):
+        """Records of tables are found by the names that they had first, groups by their order."""
+        interface, tag = self._rows.records[record["class"]]
+        name = expected._value(record["properties"], tag) or self._names.get(record["handle"], "")
+        number = sum(way.startswith(f"{interface}#") for way in self.records)
+        held = {("Name()", 0): ANONYMOUS.sub("*U", name)} if name else {}
+        self.records[f"{interface}#{number + 1}" if interface == "Group" else f"{interface} {name}"] = held
+        self._classes[record["handle"]], self._held[record["handle"]] = record["class"], held
+
     def _added(self, record):
         handle, cls = record["handle"], record["class"]
+        if cls in self._rows.records and (handle, "") not in self._lost:
+            self._hold_record(record)
+            self._modified({**record, "properties": [one for one in record["properties"]
+                                                     if (handle, one["tag"]) not in self._lost]})
+            return
         if handle in self._leaders or (handle, "") in self._lost or cls not in self._rows.interfaces or (
                 cls == "AcDbHatch" and self._pattern == {}):
             return
@@ -223,10 +244,14 @@ class Recorded:
                     held["Position()", axis] = alignment
 
     def _modified(self, record):
+        if record["class"] in self._rows.records and record["handle"] not in self._held and self._names.get(
+                record["handle"]):
+            self._hold_record({**record, "properties": []})
         # Of two records of one property the first counts.
         firsts = {one["tag"]: one for one in reversed(record["properties"])}
-        for one in reversed(firsts.values()):
-            self._set(record["handle"], one, None)
+        action = json.dumps(record)
+        for one in reversed([one for one in firsts.values() if (action, one["tag"]) not in self._lost]):
+            self._set(record["handle"], one, one.get("index"))
 
     def _property(self, record):
         self._set(record["handle"], record, record.get("index"))
@@ -311,15 +336,18 @@ class Recorded:
             self.strange.add(f"{cls} {tag}")
         elif match := re.fullmatch(r"(.*)\[(\d)\]", place):
             self._set_points(held, match[1], int(match[2]), record["value"])
-        elif place != "-" and (tag != "Erased" or record["value"] == "YES"):
+        elif place != "-" and (tag not in ("Erased", "ActivateLayer") or record["value"] in YES):
             name, _, rest = place.partition(" ")
             value = self._value(record["value"])
-            if value is None or index and not 0 <= index["int"] < (4 if "#" in name else math.inf):
+            if value is None or index and "int" in index and not 0 <= index["int"] < (4 if "#" in name else math.inf):
                 return
             value = MEASURES[rest](value) if rest in MEASURES else value
-            if name == "Transparency":
+            if name == "Transparency" and isinstance(record["value"], dict) and "transparency" in record["value"]:
                 name += [".ByLayer", ".ByBlock", ".ByAlpha"][record["value"]["transparency"]["method"]]
-            held[_question(name, "" if index is None else index["int"]), int(rest) if rest.isdigit() else 0] = value
+            which = index and index.get("int", index.get("element"))
+            if isinstance(which, dict):
+                which = f'{which["tag"]["int"]},{which["value"]["int"]}'
+            held[_question(name, "" if which is None else which), int(rest) if rest.isdigit() else 0] = value
 
     @staticmethod
     def _set_points(held, name, axes, value):
@@ -352,14 +380,18 @@ class Recorded:
 
 
 class Made:
-    """The objects that a macro made: by their way what they hold."""
+    """The objects that a macro made: by their way what they hold. A record's way is its class and first name."""
+
+    RECORD = re.compile(r'.*\.(?:Create|Get)(Layer|\w+Style)\(("(?:[^"\\]|\\.)*")\)(.*)')
 
     def __init__(self, notes):
-        self.held, self.colors = {}, []
+        self.held, self.colors, self._renamed = {}, [], {}
         reshaped = set()
         for note in notes:
             if note.get("call") == "GetRGBColor":
                 self.colors.append(note["args"])
+            if note.get("call") in ("Rename", "Activate", "RemoveLayer"):
+                self._change(note["on"], note["call"], note["args"])
             if note.get("call") in RESHAPING:
                 reshaped.add(note["on"])
             if note.get("call") in COUNTED:
@@ -371,14 +403,33 @@ class Made:
             if derive := DERIVED.get(way.split("#")[0]):
                 derive(held)
 
-    def _hold(self, way, question, values):
+    def _way(self, way):
+        """To the object, and from there on."""
+        if record := self.RECORD.match(way):
+            name = f"{record[1]} {json.loads(record[2])}"
+            return self._renamed.get(name, name), record[3]
         match = re.match(r"(\w+#\d+)(?=\.|$)", way)
-        if not match:
+        return (match[1], way[match.end():]) if match else (None, "")
+
+    def _change(self, way, call, arguments):
+        if call == "RemoveLayer":
+            way = f"{way}.GetLayer({json.dumps(arguments[0])})"
+        name, _ = self._way(way)
+        if call == "Rename" and name:
+            self._renamed[f"{name.split()[0]} {arguments[0]}"] = name
+        if name:
+            question = {"Rename": "Name()", "Activate": "Active()", "RemoveLayer": "Erased()"}[call]
+            self.held.setdefault(name, {})[question, 0] = arguments[0] if call == "Rename" else True
+
+    def _hold(self, way, question, values):
+        name, rest = self._way(way)
+        if not name:
             return
-        steps = [step.removeprefix("DimensionStyle") for step in STEPS.findall(way[match.end():]) if step not in PASSED]
+        steps = [step.removeprefix("DimensionStyle") for step in STEPS.findall(rest) if step not in PASSED]
+        question = re.sub(r'"(iwTable\w+)"', lambda match: CELLS[match[1]], question)
         for index, value in enumerate(values or [True]):
-            if not isinstance(value, str) or not value.startswith(f"@{match[1]}"):
-                self.held.setdefault(match[1], {})[".".join([*steps, question]), index] = value
+            if not isinstance(value, str) or not value.startswith(f"@{name}"):
+                self.held.setdefault(name, {})[".".join([*steps, question]), index] = value
 
     def color(self, value):
         """A color as recordings have it."""
@@ -445,13 +496,14 @@ class Comparison(expected.Comparison):
             ways = []
         elif fault := self._first_operation(recorded.operations, calls, ways):
             faults.append(fault)
-        for (_, wanted), way in zip(recorded.added, ways):
+        for wanted, way in [*((wanted, way) for (_, wanted), way in zip(recorded.added, ways)),
+                            *((wanted, way) for way, wanted in recorded.records.items())]:
             faults += [f"{way} {fault}" for fault in self._compare_object(made, way, wanted)]
         self.complaints += [f"{macro.name}: {fault}" for fault in faults]
 
     def _lost(self, macro):
         """What the program reports as lost: of added objects the handles, each with the tag of a property or with none,
-        and whole custom actions."""
+        of changes the tags, and whole custom actions."""
         report = harness.run(self._program, "convert", macro.recording, "--target", self._target, "--repair",
                              "--report", "--output", macro.folder / "reported" / macro.file.name)
         lines = macro.recording.read_text(encoding="utf-8-sig").split("\n")
@@ -463,6 +515,8 @@ class Comparison(expected.Comparison):
                 action = action["command"]["actions"][int(number[1])]
             if told and action.get("added", {}).get("handle") == told[2]:
                 lost.add((told[2], told[1] or ""))
+            elif told and "modified" in action:
+                lost.add((json.dumps(action["modified"]), told[1]))
             elif loss["what"].startswith("custom "):
                 lost.add(json.dumps(action["custom"]))
         return lost
@@ -509,7 +563,7 @@ class Comparison(expected.Comparison):
         return lasting
 
     def _compare_object(self, made, way, wanted):
-        seen, cls = made.held.get(way, {}), way.split("#")[0]
+        seen, cls = made.held.get(way, {}), re.split("[# ]", way)[0]
         for (place, index), value in wanted.items():
             if ("Path()", 0) in seen and place in REFERENCED:
                 continue
