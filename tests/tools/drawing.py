@@ -19,10 +19,20 @@ ENUMERATORS = {
     "TextSide": {1: "OnConvexSide"},
     "TextDirection": {2: "InwardToTheCenter"},
     "StartArrow": {20: "Custom"},
+    "EndArrow": {20: "Custom"},
+    "LeaderArrow": {11: "DotSmall"},
+    "AngularDimensionOptions.Format": {1: "Deg_Min_Sec"},
+    "AngularDimensionOptions.Precision": {3: "3"},
+    "ArcLengthSymbols": {2: "None"},
+    "DualDimensionOptions.Format": {3: "Engineering"},
+    "LinearDimensionOptions.Format": {2: "Decimal"},
+    "LinearDimensionOptions.Precision": {9: "0"},
+    "VerticalPosition": {1: "Above"},
+    "VerticalTextJustification": {1: "Middle"},
     "FitGeometry": {"Yes": "KeepTextBetweenExtensionLines"},
     "TextOptions.Alignment": {1: "AlignHorizontally", 2: "AlignWithDimensionLines"},
-    "Calculation": {4: "Basic"},
-    "DecimalSeparator": {" ": "Space"},
+    "Calculation": {2: "Deviation", 4: "Basic"},
+    "DecimalSeparator": {" ": "Space", ",": "Comma", ".": "Period"},
     "CenterMarkDisplay": {"Mark": "AsMark"},
     "ArcSymbolType": {2: "None"},
 }
@@ -42,7 +52,7 @@ DEFAULTS = [("Circle", "Radius()", 1), ("BlockInstance", "Scales()", 1), ("Simpl
 SHORT = re.compile(r"Segment(Angle|StartWidth|EndWidth)")
 # What the records of an object do not tell: the drawing's data and custom actions do.
 ELSEWHERE = re.compile(r"NoteAnnotation|ToleranceAnnotation|BlockAnnotation|ClipBoundary|TableStyle"
-                       r"|Active|.*InViewport|FitOptions.DimensionS|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
+                       r"|Active|.*InViewport|RadialDiameterDimensionOptions.CenterMarkDisplay|FitOptions.DimensionS|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
                        r"|RowHeightAt|ColumnWidthAt|Pattern|ArrowsOptions.\w+Arrow|Measure"
                        r"|ExtensionLineFixedLength")
 # Of a block that another drawing holds.
@@ -58,7 +68,8 @@ ANONYMOUS = re.compile(r"^\*U\d+$")
 HATCHING = 18
 # How a number of the record becomes the one that the object holds.
 MEASURES = {"half": lambda value: value / 2, "round": lambda value: value / (2 * math.pi),
-            "area": lambda value: math.sqrt(value / math.pi), "not": lambda value: "No" if value in YES else "Yes"}
+            "area": lambda value: math.sqrt(value / math.pi), "not": lambda value: "No" if value in YES else "Yes",
+            "abs": abs}
 
 
 class _Rows:
@@ -337,17 +348,24 @@ class Recorded:
         elif match := re.fullmatch(r"(.*)\[(\d)\]", place):
             self._set_points(held, match[1], int(match[2]), record["value"])
         elif place != "-" and (tag not in ("Erased", "ActivateLayer") or record["value"] in YES):
-            name, _, rest = place.partition(" ")
+            name, *rest = place.split(" ")
             value = self._value(record["value"])
+            if "is" in rest:
+                value = rest[1] if str(value) in YES else None
+            if rest == ["affixes"] and "<>" in value:
+                value, held[name.replace("Prefix", "Suffix") + "()", 0] = value.split("<>", 1)
+            if rest == ["affix"] and value == "<>":
+                value = None
             if value is None or index and "int" in index and not 0 <= index["int"] < (4 if "#" in name else math.inf):
                 return
-            value = MEASURES[rest](value) if rest in MEASURES else value
+            for word in rest:
+                value = MEASURES.get(word, lambda value: value)(value)
             if name == "Transparency" and isinstance(record["value"], dict) and "transparency" in record["value"]:
                 name += [".ByLayer", ".ByBlock", ".ByAlpha"][record["value"]["transparency"]["method"]]
             which = index and index.get("int", index.get("element"))
             if isinstance(which, dict):
                 which = f'{which["tag"]["int"]},{which["value"]["int"]}'
-            held[_question(name, "" if which is None else which), int(rest) if rest.isdigit() else 0] = value
+            held[_question(name, "" if which is None else which), max((int(word) for word in rest if word.isdigit()), default=0)] = value
 
     @staticmethod
     def _set_points(held, name, axes, value):
@@ -496,8 +514,11 @@ class Comparison(expected.Comparison):
             ways = []
         elif fault := self._first_operation(recorded.operations, calls, ways):
             faults.append(fault)
-        for wanted, way in [*((wanted, way) for (_, wanted), way in zip(recorded.added, ways)),
-                            *((wanted, way) for way, wanted in recorded.records.items())]:
+        self.objects += len(recorded.records)
+        # What is only looked up has nothing but its name.
+        looked_up = {way: {("Name()", 0): way.split(" ", 1)[1]} for way in made.held if " " in way}
+        for way, wanted in [*zip(ways, (wanted for _, wanted in recorded.added)),
+                            *{**looked_up, **recorded.records}.items()]:
             faults += [f"{way} {fault}" for fault in self._compare_object(made, way, wanted)]
         self.complaints += [f"{macro.name}: {fault}" for fault in faults]
 
