@@ -48,8 +48,6 @@ DEFAULTS = [("Circle", "Radius()", 1), ("BlockInstance", "Scales()", 1), ("Simpl
             ("AttributeDefinition", "Height()", 0.2), ("EllipseArc", "OtherRadius()", 1),
             ("Hatch", "HatchPattern.HatchOrSolidData()", "iwHatchPatternType_UserDefined"),
             ("EllipseArc", "EndAngle()", 2 * math.pi)]
-# Written with six digits.
-SHORT = re.compile(r"Segment(Angle|StartWidth|EndWidth)")
 # What the records of an object do not tell: the drawing's data and custom actions do.
 ELSEWHERE = re.compile(r"NoteAnnotation|ToleranceAnnotation|BlockAnnotation|ClipBoundary|TableStyle"
                        r"|Active|.*InViewport|RadialDiameterDimensionOptions.CenterMarkDisplay|FitOptions.DimensionS|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
@@ -475,8 +473,7 @@ def _fits(made, place, seen, wanted):
         return seen == (closed or text is True or number == 1 and not text or text in YES)
     if isinstance(seen, (int, float)):
         value = _number(number if text == "" else text)
-        short = SHORT.match(place) and seen == _number(f"{value:.6g}")
-        return short or math.isclose(seen, value, rel_tol=0, abs_tol=1e-9)
+        return math.isclose(seen, value, rel_tol=0, abs_tol=1e-9)
     if isinstance(seen, str) and re.match(r"iw\w+_", seen):
         # The longest name that fits.
         names = next((ENUMERATORS[end] for end in sorted(ENUMERATORS, key=len, reverse=True)
@@ -559,8 +556,7 @@ class Comparison(expected.Comparison):
     def _is_handed(value, wanted, ways):
         if isinstance(wanted, _Object):
             return isinstance(value, str) and value[1:].removesuffix(".get_DispObj()") in wanted.ways(ways)
-        return wanted is None or value == _number(f"{wanted:.6g}") or math.isclose(
-            value, wanted, rel_tol=0, abs_tol=1e-9)
+        return wanted is None or math.isclose(value, wanted, rel_tol=0, abs_tol=1e-9)
 
     def _lasting_ways(self, calls, names):
         """To the objects that were made and are not drawn for others alone. Hatches never are, and of what a block is
