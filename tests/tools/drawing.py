@@ -39,7 +39,8 @@ ENUMERATORS = {
 YES = {"Yes", "YES", "Visible", "Enabled"}
 # What stands between an object and its properties without being one of them.
 STEPS = re.compile(r"[gG]et_?(\w+)\(\)")
-PASSED = {"GeneralDimension", "DimensionStyleUserData", "Layer", "TextStyle", "TableStyle", "DimensionStyle", "RichLineStyle"}
+PASSED = {"GeneralDimension", "DimensionStyleUserData", "Layer", "TextStyle", "TableStyle", "DimensionStyle",
+          "RichLineStyle"}
 # The numbers by which a table style's cells and lines are recorded.
 CELLS = {"iwTableCellType_Title": "1", "iwTableCellType_Header": "2", "iwTableCellType_Data": "3",
          "iwTableBordersLineType_HorizontalBottom": "4", "iwTableBordersLineType_VerticalInside": "16"}

@@ -6,6 +6,8 @@
 #include "recordfile/RecordingReader.h"
 #include "targets/Target.h"
 
+#include "TestRepair.h"
+
 #include <gtest/gtest.h>
 
 #include <QBuffer>
@@ -222,6 +224,15 @@ TEST(Losses, OfAddedObjectsAreAllPropertiesThatTheirInsertionDoesNotTake)
                   1)
             << cls;
     }
+}
+
+/// A faithful macro changes the layer "0" then, which a repaired one must not touch.
+TEST(Losses, OfARepairedMacroAreLayersWithoutAName)
+{
+    const QByteArray frozen = changed("AcDbLayerTableRecord", "99", R"({"tag":"Frozen","value":"Yes"})");
+    EXPECT_EQ(lossesOf(frozen), Lines());
+    const TestRepair repair;
+    EXPECT_EQ(lossesOf(frozen), Lines{"0 changes of AcDbLayerTableRecord 99: the drawing does not have the layer"});
 }
 
 TEST(Losses, DependOnTheTarget)
