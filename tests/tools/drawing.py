@@ -51,7 +51,8 @@ DEFAULTS = [("Circle", "Radius()", 1), ("BlockInstance", "Scales()", 1), ("Simpl
             ("EllipseArc", "EndAngle()", 2 * math.pi)]
 # What the records of an object do not tell: the drawing's data and custom actions do.
 ELSEWHERE = re.compile(r"NoteAnnotation|ToleranceAnnotation|BlockAnnotation|ClipBoundary|TableStyle"
-                       r"|Active|.*InViewport|RadialDiameterDimensionOptions.CenterMarkDisplay|FitOptions.DimensionS|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
+                       r"|Active|.*InViewport|RadialDiameterDimensionOptions.CenterMarkDisplay|FitOptions.DimensionS"
+                       r"|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
                        r"|RowHeightAt|ColumnWidthAt|Pattern|ArrowsOptions.\w+Arrow|Measure"
                        r"|ExtensionLineFixedLength")
 # Of a block that another drawing holds.
@@ -364,7 +365,8 @@ class Recorded:
             which = index and index.get("int", index.get("element"))
             if isinstance(which, dict):
                 which = f'{which["tag"]["int"]},{which["value"]["int"]}'
-            held[_question(name, "" if which is None else which), max((int(word) for word in rest if word.isdigit()), default=0)] = value
+            number = next((int(word) for word in rest if word.isdigit()), 0)
+            held[_question(name, "" if which is None else which), number] = value
 
     @staticmethod
     def _set_points(held, name, axes, value):
