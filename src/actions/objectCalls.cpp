@@ -64,7 +64,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionAttributeValue(OdSmartPtr<CFxCu
     takeVariable(writer, text, name.isEmpty() ? HandedVariable::Kept : HandedVariable::Replaced);
     if (name.isEmpty())
         return PassOver(action, "the macro does not have the block");
-    EmitGetLayer(writer, name);
+    EmitGetLayer(writer, name, "0");
     text =
         EmitBlockAttributeValue(writer, name, "Value", action->GetData(2).GetString(), action->GetData(3).GetString());
     return kFxSuccess;

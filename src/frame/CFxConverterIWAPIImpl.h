@@ -141,6 +141,8 @@ public:
     std::set<QString> insertedHatches;
     /// The last added object that a custom action finishes: it gets what they make in its command.
     OdDbHandle lastFinished;
+    /// What changed layers are called by now, where that is not their name in the drawing.
+    std::map<OdDbHandle, CFxString> renamedLayers;
     /// Added objects that no statement inserts: their variables have no value.
     std::set<OdDbHandle> unmade;
     /// Variables of objects that a repaired macro fetches in front of the present custom action, and what fetches them.
@@ -173,6 +175,7 @@ private:
     bool IsPassedOver(const OdRxObject* action) const;
     std::int32_t ConvertFileLocation(const FileObject& files, const CFxCustomAction& action, QString& text);
     std::int32_t ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text);
+    CFxString LayerName(const OdDbHandle& handle, const CFxObjectModified& changes);
     CFxConverterIWAPIObject& Objects() const;
     EntityList EntitiesOf(const CFxCustomAction& action);
     QString EditOfPolyline(const CFxCustomAction& action, std::int32_t first, EmitPolylineEdit edit);

@@ -3,6 +3,7 @@
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/RecordingState.h"
 #include "frame/losses.h"
+#include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "targets/quoting.h"
 #include "targets/variables.h"
@@ -197,6 +198,18 @@ std::int32_t CFxConverterIWAPIImpl::ConvertAction(OdRxObjectPtr action, QString&
     return kFxFailure;
 }
 
+/// In front of the changes, which may rename it.
+CFxString CFxConverterIWAPIImpl::LayerName(const OdDbHandle& handle, const CFxObjectModified& changes)
+{
+    const auto record = odrxQuery<OdDbLayerTableRecord>(Objects().IdOf(handle).openObject(true).get());
+    const auto [known, isNew] = renamedLayers.try_emplace(handle, record ? CFxString(record->getName()) : CFxString());
+    const CFxString before = known->second;
+    PropertyList list = changes.GetProperties();
+    if (const CFxVariant renamed = Objects().FindProperty("Name", list, GetContext()); !renamed.IsNull())
+        known->second = renamed.GetString();
+    return before;
+}
+
 /// A layer that the recording did not make has no variable yet, although a statement is about to change it.
 std::int32_t CFxConverterIWAPIImpl::ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text)
 {
@@ -206,11 +219,16 @@ std::int32_t CFxConverterIWAPIImpl::ConvertModified(const OdSmartPtr<CFxObjectMo
     const CFxString className = cls->name();
     const OdDbHandle handle = action->GetHandle();
     if (IsSupportedClass(className) && className.equalNoCase("AcDbLayerTableRecord") && !FindEntry(handle)) {
+        const CFxString layer = LayerName(handle, *action);
+        if (writer.repairs && layer.isEmpty()) {
+            NoteLoss("changes of " + ObjectTitle(cls, handle).toQString(), "the drawing does not have the layer");
+            return kFxSuccess;
+        }
         RegisterObject(handle, cls);
         CFxString name;
         ResolveVariable(handle, cls, name);
         if (!name.isEmpty())
-            text += EmitGetLayer(writer, name);
+            text += EmitGetLayer(writer, name, layer);
         const std::int32_t status = Objects().ConvertObjectModified(action, text);
         // The variable is gone behind its command.
         if (writer.repairs)

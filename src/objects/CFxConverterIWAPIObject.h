@@ -79,23 +79,22 @@ public:
     std::int32_t ConvertGeneralProperties(PropertyList& list, bool fromAdded, bool isCurvedText,
                                           const CFxString& target, StatementGroup& group, QString& text);
 
-    /// Statements for the tags of a list, in its order: takes them out of `list` and appends to `text`. With `takeOnly`
-    /// it writes nothing. `name` is the object's variable.
-    void ConvertRows(const ChangeGroups& groups, PropertyList& list, bool takeOnly, const CFxString& name,
-                     QString& text);
+    /// Statements for the tags of a list, in its order: takes them out of `list` and appends to `text`. `name`
+    /// is the object's variable.
+    void ConvertRows(const ChangeGroups& groups, PropertyList& list, const CFxString& name, QString& text);
 
     /// Heights and widths that are null are not known.
     void RememberTable(const CFxString& table, std::int32_t rows, std::int32_t columns, const CFxVariant& height,
                        const CFxVariant& width);
 
     // Changes that are more than a list of tags: ChangeHandler in objects/classTable.h.
-    void ConvertModifiedLine(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
-    void ConvertModifiedBlockInstance(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
-    void ConvertModifiedTable(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
-    void ConvertModifiedLayer(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
-    void ConvertModifiedBlockDefinition(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
-    void ConvertModifiedSheet(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
-    void ConvertModifiedHatch(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
+    void ConvertModifiedLine(PropertyList& list, const CFxString& name, QString& text);
+    void ConvertModifiedBlockInstance(PropertyList& list, const CFxString& name, QString& text);
+    void ConvertModifiedTable(PropertyList& list, const CFxString& name, QString& text);
+    void ConvertModifiedLayer(PropertyList& list, const CFxString& name, QString& text);
+    void ConvertModifiedBlockDefinition(PropertyList& list, const CFxString& name, QString& text);
+    void ConvertModifiedSheet(PropertyList& list, const CFxString& name, QString& text);
+    void ConvertModifiedHatch(PropertyList& list, const CFxString& name, QString& text);
 
     /// Takes the first record with that tag out of the list and gives its value, or the null value. The record's tag
     /// may be in the host's display language. `consumed` and `index` may be null; they receive the record, and its
@@ -166,7 +165,7 @@ private:
     /// An added note that its leader should bring, when the macro does not have the leader.
     void LoseNoteWithoutLeader(const OdRxClass* cls, const OdDbHandle& handle) const;
     /// The properties that nothing has taken out of the list.
-    void LoseRest(const PropertyList& list, bool fromAdded, const CFxString& name);
+    void LoseRest(const PropertyList& list, bool fromAdded) const;
     /// Whether custom actions, or the block of its command, make the object.
     bool IsMadeByAction(const OdRxClass* cls, const OdDbHandle& handle) const;
     /// An added object that is made by a custom action, when there is none, and else the general properties of one that
@@ -176,19 +175,15 @@ private:
     // Steps of ConvertObjectChanges.
     bool AddressChangedObject(const OdRxClass* cls, const OdDbHandle& handle, const OdDbObjectId& noteLeader,
                               const PropertyList& list, CFxString& name, QString& text);
-    void ConvertClassChanges(const ClassRow& row, PropertyList& list, bool takeOnly, const CFxString& name,
-                             QString& text);
+    void ConvertClassChanges(const ClassRow& row, PropertyList& list, const CFxString& name, QString& text);
     QString ConvertErased(const OdRxClass* cls, const OdDbHandle& handle, const CFxString& name,
                           const CFxVariant& erased);
 
     // Steps of ConvertModifiedTable.
-    bool ConvertTableCount(const TableLines& lines, PropertyList& list, bool takeOnly, const CFxString& name,
-                           QString& text);
-    bool ConvertTableSizes(const TableLines& lines, PropertyList& list, bool takeOnly, const CFxString& name,
-                           QString& text);
-    bool ConvertCellTexts(PropertyList& list, bool takeOnly, const CFxString& name, QString& text);
-    void ConvertTableSize(const TableLines& lines, PropertyList& list, bool takeOnly, bool told, const CFxString& name,
-                          QString& text);
+    bool ConvertTableCount(const TableLines& lines, PropertyList& list, const CFxString& name, QString& text);
+    bool ConvertTableSizes(const TableLines& lines, PropertyList& list, const CFxString& name, QString& text);
+    bool ConvertCellTexts(PropertyList& list, const CFxString& name, QString& text);
+    void ConvertTableSize(const TableLines& lines, PropertyList& list, bool told, const CFxString& name, QString& text);
 
     /// What the variables of converted objects are named by.
     std::unordered_map<OdDbHandle, ActionEntry, OdDbHandleHash> addedVariableById;

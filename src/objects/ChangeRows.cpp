@@ -56,8 +56,8 @@ private:
 
 } // namespace
 
-void CFxConverterIWAPIObject::ConvertRows(const ChangeGroups& groups, PropertyList& list, bool takeOnly,
-                                          const CFxString& name, QString& text)
+void CFxConverterIWAPIObject::ConvertRows(const ChangeGroups& groups, PropertyList& list, const CFxString& name,
+                                          QString& text)
 {
     const CFxValueContext context = driver.GetContext();
     for (const ChangeGroup& group : groups) {
@@ -68,7 +68,7 @@ void CFxConverterIWAPIObject::ConvertRows(const ChangeGroups& groups, PropertyLi
                 const CFxVariant value = FindProperty(row.tag, list, context, nullptr, &number);
                 const char* const secondTag = row.kind.secondTag;
                 const CFxVariant second = secondTag ? FindProperty(secondTag, list, context) : CFxVariant();
-                if (takeOnly || (value.IsNull() && second.IsNull()))
+                if (value.IsNull() && second.IsNull())
                     continue;
                 const std::int32_t index = !row.kind.indexed || number.IsNull() ? -1 : number.GetInt32();
                 if (row.kind.indexed && index == -1) {

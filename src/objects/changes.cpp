@@ -54,12 +54,12 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls,
             general.prepend(dimension);
     }
     const ClassRow* const row = FindClass(cls);
-    if (row && !(fromAdded && row->whenAdded == WhenAdded::Skip))
-        ConvertClassChanges(*row, list, fromAdded && row->whenAdded == WhenAdded::TakeOnly, name, classText);
-    const CFxVariant erased = FindProperty("Erased", list, driver.GetContext());
-    if (!fromAdded && !erased.IsNull())
+    if (row && (!fromAdded || row->has(kSetWhenAdded)))
+        ConvertClassChanges(*row, list, name, classText);
+    if (const CFxVariant erased = fromAdded ? CFxVariant() : FindProperty("Erased", list, driver.GetContext());
+        !erased.IsNull())
         classText += ConvertErased(cls, handle, name, erased);
-    LoseRest(list, fromAdded, name);
+    LoseRest(list, fromAdded);
 
     if (general.isEmpty() && classText.isEmpty()) {
         // Who left the group has given its level back already.
@@ -108,13 +108,13 @@ bool CFxConverterIWAPIObject::AddressChangedObject(const OdRxClass* cls, const O
     return cls == OdDbLayout::desc();
 }
 
-void CFxConverterIWAPIObject::ConvertClassChanges(const ClassRow& row, PropertyList& list, bool takeOnly,
-                                                  const CFxString& name, QString& text)
+void CFxConverterIWAPIObject::ConvertClassChanges(const ClassRow& row, PropertyList& list, const CFxString& name,
+                                                  QString& text)
 {
     if (row.changes.groups)
-        ConvertRows(*row.changes.groups, list, takeOnly, name, text);
+        ConvertRows(*row.changes.groups, list, name, text);
     else if (row.changes.handler)
-        (this->*row.changes.handler)(list, takeOnly, name, text);
+        (this->*row.changes.handler)(list, name, text);
 }
 
 QString CFxConverterIWAPIObject::ConvertErased(const OdRxClass* cls, const OdDbHandle& handle, const CFxString& name,
@@ -187,7 +187,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         text += EmitSetDoubleProperty(writer, target, "Thickness", value.GetDouble());
     if (take("PrintStyle"))
         text += EmitSetProperty(writer, target, "PrintStyle", value.GetString(), true);
-    if (take("Transparency") && !fromAdded) {
+    if (!fromAdded && take("Transparency")) {
         if (value.GetType() == CFxVariant::kTransparency)
             text += EmitSetTransparency(writer, target, value.GetTransparency());
         else

@@ -7,15 +7,16 @@
 #include "objects/classTable.h"
 
 #include <algorithm>
+#include <span>
 
 namespace {
 
-/// Shown values that the host computes of others: a change of them comes with a change of those.
 struct DerivedTag
 {
-    const char* tag;
+    const char* tag;           ///< `*` at its end stands for whatever follows
     const char* cls = nullptr; ///< null for any
 };
+/// Shown values that the host computes of others: a change of them comes with a change of those.
 constexpr DerivedTag derivedTags[] = {
     {"Area"},
     {"Arc length"},
@@ -24,15 +25,40 @@ constexpr DerivedTag derivedTags[] = {
     {"Perimeter"},
     {"Total angle"},
     {"Angle", "AcDbLine"},
-    {"Delta X", "AcDbLine"},
-    {"Delta Y", "AcDbLine"},
-    {"Delta Z", "AcDbLine"},
+    {"Delta *", "AcDbLine"},
 };
 
-bool isDerived(const OdRxClass* cls, const QString& tag)
+/// What the insertion of an added object says in another form.
+constexpr DerivedTag insertedTags[] = {
+    {"Circumference", "AcDbCircle"},
+    {"Diameter", "AcDbCircle"},
+    {"Major radius", "AcDbEllipse"},
+    {"Radius ratio", "AcDbEllipse"},
+    // One point of a collection, which the property sheet shows.
+    {"Vertex *"},
+    {"Control point *", "AcDbSpline"},
+    {"Fit point *", "AcDbSpline"},
+    {"Line space factor", "AcDbMText"},
+    // One of the two points is the other one moved by the justification.
+    {"Position *", "AcDbAttributeDefinition"},
+    {"Text alignment *", "AcDbAttributeDefinition"},
+    // The insertion takes it from the drawing.
+    {"Contents", "AcDbArcAlignedText"},
+    {"Center *", "AcDbViewport"},
+    {"Height", "AcDbViewport"},
+    {"Width", "AcDbViewport"},
+    // The reader tells which of them are lost.
+    {"Contents_*", "AcDbTable"},
+    {"RowHeight_*", "AcDbTable"},
+    {"ColumnWidth_*", "AcDbTable"},
+};
+
+bool holds(std::span<const DerivedTag> rows, const OdRxClass* cls, const QString& tag)
 {
-    return std::ranges::any_of(derivedTags, [&](const DerivedTag& row) {
-        return tag == QLatin1String(row.tag) && (!row.cls || cls->name() == QLatin1String(row.cls));
+    return std::ranges::any_of(rows, [&](const DerivedTag& row) {
+        const QLatin1String known(row.tag);
+        const bool fits = known.endsWith(QLatin1Char('*')) ? tag.startsWith(known.chopped(1)) : tag == known;
+        return fits && (!row.cls || cls->name() == QLatin1String(row.cls));
     });
 }
 
@@ -91,7 +117,19 @@ constexpr GeneralTag generalTags[] = {
     {"LineScale", [](const CFxVariant& value) { return value.GetDouble() == 1; }},
     {"LineWeight", [](const CFxVariant& value) { return value.GetInt32() == kLineWeightByLayer; }},
     {"Thickness", [](const CFxVariant& value) { return value.GetDouble() == 0; }},
+    {"Transparency",
+     [](const CFxVariant& value) {
+         return value.GetType() == CFxVariant::kTransparency &&
+                value.GetTransparency().method == OdCmTransparency::ByLayer;
+     }},
+    {"Erased", [](const CFxVariant& value) { return !value.GetString().equalNoCase(ShownWord("YES")); }},
 };
+
+bool isUsual(const QString& tag, const CFxVariant& value)
+{
+    return std::ranges::any_of(
+        generalTags, [&](const GeneralTag& row) { return tag == QLatin1String(row.tag) && row.isUsual(value); });
+}
 
 } // namespace
 
@@ -119,23 +157,21 @@ void CFxConverterIWAPIObject::LoseNoteWithoutLeader(const OdRxClass* cls, const 
         NoteLoss(ObjectTitle(cls, handle), "a leader brings it that the macro does not have");
 }
 
-/// What a class's changes would say is no loss of an added object: its insertion and its style give it, or the action
-/// that makes it.
-void CFxConverterIWAPIObject::LoseRest(const PropertyList& list, bool fromAdded, const CFxString& name)
+/// What is left of an added object is no loss when an action makes the object, nor when the object is lost itself, as a
+/// hatch without its action is.
+void CFxConverterIWAPIObject::LoseRest(const PropertyList& list, bool fromAdded) const
 {
     if (list.empty())
         return;
-    const ClassRow* const row = FindClass(changedClass);
-    if (row && fromAdded && row->has(kFinishedByCustomAction))
+    if (fromAdded && (changedClass == OdDbHatch::desc() || IsMadeByAction(changedClass, changedHandle)))
         return;
-    PropertyList rest = list;
-    if (row && fromAdded && row->whenAdded == WhenAdded::Skip) {
-        QString nothing;
-        ConvertClassChanges(*row, rest, true, name, nothing);
+    for (const CFxPropertyChangedPtr& record : list) {
+        const QString& tag = record->GetName();
+        const bool isThere = fromAdded && (holds(insertedTags, changedClass, tag) ||
+                                           isUsual(tag, record->GetValue(driver.GetContext())));
+        if (!isThere && !holds(derivedTags, changedClass, tag))
+            LoseProperty(tag, "no statement sets it");
     }
-    for (const CFxPropertyChangedPtr& record : rest)
-        if (!isDerived(changedClass, record->GetName()))
-            LoseProperty(record->GetName(), "no statement sets it");
 }
 
 bool CFxConverterIWAPIObject::IsMadeByAction(const OdRxClass* cls, const OdDbHandle& handle) const

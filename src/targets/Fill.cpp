@@ -4,6 +4,7 @@
 #include "targets/Fault.h"
 #include "targets/LineEnd.h"
 #include "targets/Marks.h"
+#include "targets/digits.h"
 #include "targets/quoting.h"
 
 #include <algorithm>
@@ -453,6 +454,19 @@ Fill& Fill::text(QLatin1String value)
     return add(value);
 }
 
+Fill& Fill::shortReal(double value)
+{
+    if ((mode_.repairs || mode_.marked) && losesDigits(value)) {
+        if (mode_.repairs) {
+            return real(value);
+        }
+        if (rounded_ < 0) {
+            rounded_ = values_.size();
+        }
+    }
+    return add(Short{value});
+}
+
 QString Fill::str() const
 {
     if (!template_) {
@@ -463,7 +477,7 @@ QString Fill::str() const
         return escaped(used);
     }
     QString outcome = filled(used);
-    if (mode_.marked && (fault_ || percent_ || template_->quotes_)) {
+    if (mode_.marked && (fault_ || percent_ || rounded_ >= 0 || template_->quotes_)) {
         markFaults(outcome, used);
     }
     return outcome;
@@ -509,6 +523,9 @@ void Fill::markFaults(QString& outcome, int used) const
     };
     if (fault_) {
         mark(*fault_);
+    }
+    if (rounded_ >= 0 && rounded_ < used) {
+        mark(kSixDigits);
     }
     if (percent_ && hasReadMarker(used)) {
         mark(kReadMarker);

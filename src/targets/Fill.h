@@ -129,8 +129,8 @@ public:
     Fill& real(double value) { return add(Long{value}); }
     /// The three coordinates in the form of FormatLong.
     Fill& point(const OdGePoint3d& value) { return real(value.x).real(value.y).real(value.z); }
-    /// In the form of FormatShort.
-    Fill& shortReal(double value) { return add(Short{value}); }
+    /// In the form of FormatShort; in a repaired macro in that of FormatLong, when six digits are too few.
+    Fill& shortReal(double value);
     /// The three coordinates in the form of FormatShort.
     Fill& shortPoint(const OdGePoint3d& value) { return shortReal(value.x).shortReal(value.y).shortReal(value.z); }
     Fill& shortVector(const OdGeVector3d& value) { return shortReal(value.x).shortReal(value.y).shortReal(value.z); }
@@ -178,6 +178,7 @@ private:
     QVarLengthArray<Value, 16> values_;
     std::vector<QString> kept_; ///< what views among the values look at; their characters never move
     bool percent_ = false;      ///< some text holds '%'
+    int rounded_ = -1;          ///< the first value that loses digits
 };
 
 /// Fixed notation with 14 decimals, halves away from zero: "1.50000000000000".

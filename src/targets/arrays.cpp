@@ -3,6 +3,7 @@
 #include "targets/arrays.h"
 
 #include "targets/LineEnd.h"
+#include "targets/digits.h"
 
 #include <QStringList>
 
@@ -192,6 +193,17 @@ QString integerLines(const ArrayPlace& place, const std::vector<int>& values)
     return elementLines(integerElement, "int", place, words);
 }
 
+static bool areRounded(const std::vector<double>& values, NumberForm numbers)
+{
+    return numbers == NumberForm::Short && std::any_of(values.begin(), values.end(), losesDigits);
+}
+
+/// A repaired macro rounds none.
+static NumberForm formIn(const Writer& writer, NumberForm numbers, bool rounded)
+{
+    return rounded && writer.repairs ? NumberForm::Long : numbers;
+}
+
 static QString formatted(double value, NumberForm numbers)
 {
     return numbers == NumberForm::Long ? FormatLong(value) : FormatShort(value);
@@ -226,7 +238,10 @@ QString bareObjectTypeLine(const ArrayPlace& place, std::size_t index, const QSt
 
 QString realLine(const ArrayPlace& place, std::size_t index, double value, NumberForm numbers)
 {
-    return elementLine(realElement, place, index, formatted(value, numbers));
+    const bool rounded = areRounded({value}, numbers);
+    const QString word = formatted(value, formIn(place.writer, numbers, rounded));
+    const QString line = elementLine(realElement, place, index, word);
+    return rounded ? place.writer.faulty(line, kSixDigits) : line;
 }
 
 // Of all lines of points the values are indentation, line end, name, the indices of the coordinates (but none in C++),
@@ -273,16 +288,19 @@ static QString inParts(Writer& writer, Coordinates&& coordinates, const Text& te
 
 QString coordinateList(Writer& writer, Coordinates coordinates, NumberForm numbers)
 {
-    return inParts(writer, std::move(coordinates),
-                   [numbers](const Coordinates& all, std::size_t first, std::size_t end) {
-                       QString list;
-                       for (std::size_t i = first; i < end; ++i) {
-                           if (i > 0)
-                               list += ',';
-                           list += formatted(all.values[i], numbers);
-                       }
-                       return list;
-                   });
+    const bool rounded = areRounded(coordinates.values, numbers);
+    numbers = formIn(writer, numbers, rounded);
+    const QString text =
+        inParts(writer, std::move(coordinates), [numbers](const Coordinates& all, std::size_t first, std::size_t end) {
+            QString list;
+            for (std::size_t i = first; i < end; ++i) {
+                if (i > 0)
+                    list += ',';
+                list += formatted(all.values[i], numbers);
+            }
+            return list;
+        });
+    return rounded ? writer.faulty(text, kSixDigits) : text;
 }
 
 static QString comPointsHead(const ArrayPlace& place, int axes)
@@ -321,10 +339,13 @@ static QString pointLinesOf(const ArrayPlace& place, const Coordinates& coordina
 QString pointLines(const ArrayPlace& place, Coordinates coordinates, NumberForm numbers)
 {
     const QString head = place.writer.target == Target::CppCom ? comPointsHead(place, coordinates.axes) : QString();
-    return head + inParts(place.writer, std::move(coordinates),
-                          [place, numbers](const Coordinates& all, std::size_t first, std::size_t end) {
-                              return pointLinesOf(place, all, first, end, numbers);
-                          });
+    const bool rounded = areRounded(coordinates.values, numbers);
+    numbers = formIn(place.writer, numbers, rounded);
+    const QString text = head + inParts(place.writer, std::move(coordinates),
+                                        [place, numbers](const Coordinates& all, std::size_t first, std::size_t end) {
+                                            return pointLinesOf(place, all, first, end, numbers);
+                                        });
+    return rounded ? place.writer.faulty(text, kSixDigits) : text;
 }
 
 QString comPointLines(const ArrayPlace& place, const OdGePoint3d& point, NumberForm numbers, bool declareLocals)
@@ -340,7 +361,10 @@ QString comPointLines(const ArrayPlace& place, const OdGePoint3d& point, NumberF
         lines += Fill(&locals).text(place.indentation).text(place.lineEnd).str();
     Fill put(&values);
     put.text(place.indentation).text(place.lineEnd).text(place.name).number(place.number);
-    return lines + (numbers == NumberForm::Long ? put.point(point) : put.shortPoint(point)).str();
+    const bool rounded = areRounded({point.x, point.y, point.z}, numbers);
+    const bool isLong = formIn(place.writer, numbers, rounded) == NumberForm::Long;
+    lines += (isLong ? put.point(point) : put.shortPoint(point)).str();
+    return rounded ? place.writer.faulty(lines, kSixDigits) : lines;
 }
 
 Fill& ArrayArgument::open(Fill& call) const

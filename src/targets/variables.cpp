@@ -44,30 +44,35 @@ QString EmitVariableDeclaration(Writer& writer, const ActionEntry& entry)
     return untyped(writer.target, type, writer.fill(declareVariable).text(stem).number(entry.ordinal).text(type));
 }
 
-/// The layer's name is always "0": the default layer is fetched into the variable, and the statements that follow set
-/// the recorded properties on it.
+const Fault kLayerZero{"EmitGetLayer",
+                       {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                       "the layer is fetched by the name 0, whichever it is, and what follows changes that one"};
+
 static const Phrase getLayer{
     "EmitGetLayer",
     {
         .cpp = "%1iwLayerManager_ptr iwLayerManager_%3;%2%1iwDoc->GetLayerManager( &iwLayerManager_%3 );%2"
-               "%1iwLayer_ptr %4;%2%1iwLayerManager_%3->GetLayer( L\"0\", &%4 );%2",
+               "%1iwLayer_ptr %4;%2%1iwLayerManager_%3->GetLayer( L\"%5\", &%4 );%2",
         .cppCom = "%1ILayerManagerPtr iwLayerManager_%3 = iwDoc->GetLayerManager();%2"
-                  "%1ILayerPtr %4 = iwLayerManager_%3->GetLayer( \"0\" );%2",
+                  "%1ILayerPtr %4 = iwLayerManager_%3->GetLayer( \"%5\" );%2",
         .csharp = "%1LayerManager iwLayerManager_%3 = iwDoc.GetLayerManager();%2"
-                  "%1Layer %4 = iwLayerManager_%3.GetLayer( \"0\" );%2",
+                  "%1Layer %4 = iwLayerManager_%3.GetLayer( \"%5\" );%2",
         .javascript = "%1var iwLayerManager_%3 = iwDoc.GetLayerManager();%2"
-                      "%1var %4 = iwLayerManager_%3.LayerManager.GetLayer( \"0\" );%2",
+                      "%1var %4 = iwLayerManager_%3.LayerManager.GetLayer( \"%5\" );%2",
         .vbNet = "%1Dim iwLayerManager_%3 As Inkwright.LayerManager = iwDoc.GetLayerManager()%2"
-                 "%1Dim %4 As Inkwright.Layer = iwLayerManager_%3.GetLayer( \"0\" )%2",
+                 "%1Dim %4 As Inkwright.Layer = iwLayerManager_%3.GetLayer( \"%5\" )%2",
         .vba = "%1Dim iwLayerManager_%3 As Inkwright.LayerManager%2"
                "%1Set iwLayerManager_%3  = iwDoc.GetLayerManager()%2%1Dim %4 As Inkwright.Layer%2"
-               "%1Set %4  = iwLayerManager_%3.GetLayer( \"0\" )%2",
+               "%1Set %4  = iwLayerManager_%3.GetLayer( \"%5\" )%2",
     }};
 static const Mend layerInPage(
     getLayer, Target::JavaScript, "the page has no iwDoc, its document is mDoc",
-    "%1var iwLayerManager_%3 = mDoc.GetLayerManager();%2%1var %4 = iwLayerManager_%3.LayerManager.GetLayer( \"0\" );%2");
+    "%1var iwLayerManager_%3 = mDoc.GetLayerManager();%2%1var %4 = iwLayerManager_%3.LayerManager.GetLayer( \"%5\" );%2");
 
-QString EmitGetLayer(Writer& writer, const CFxString& variable)
+QString EmitGetLayer(Writer& writer, const CFxString& variable, const CFxString& layer)
 {
-    return writer.fill(getLayer).number(++processCounters.layerManagers).text(variable);
+    const QString zero = "0";
+    const QString& name = writer.repairs ? layer.toQString() : zero;
+    const QString text = writer.fill(getLayer).number(++processCounters.layerManagers).text(variable).text(name);
+    return name == layer.toQString() ? text : writer.faulty(text, kLayerZero);
 }

@@ -4,4 +4,5 @@
 #include "targets/Writer.h"
 
 QString EmitVariableDeclaration(Writer& writer, const ActionEntry& entry);
-QString EmitGetLayer(Writer& writer, const CFxString& variable);
+/// Fetches the layer "0", but in a repaired macro the one that is told.
+QString EmitGetLayer(Writer& writer, const CFxString& variable, const CFxString& layer);

@@ -1,6 +1,7 @@
 """The drawing that a macro made, as the stubs noted it, and its comparison object by object with what the recording
 says. Which property of a record stands where in an object is told by drawing.txt."""
 
+import itertools
 import json
 import math
 import re
@@ -18,31 +19,42 @@ ENUMERATORS = {
     "TextSide": {1: "OnConvexSide"},
     "TextDirection": {2: "InwardToTheCenter"},
     "StartArrow": {20: "Custom"},
+    "EndArrow": {20: "Custom"},
+    "LeaderArrow": {11: "DotSmall"},
+    "AngularDimensionOptions.Format": {1: "Deg_Min_Sec"},
+    "AngularDimensionOptions.Precision": {3: "3"},
+    "ArcLengthSymbols": {2: "None"},
+    "DualDimensionOptions.Format": {3: "Engineering"},
+    "LinearDimensionOptions.Format": {2: "Decimal"},
+    "LinearDimensionOptions.Precision": {9: "0"},
+    "VerticalPosition": {1: "Above"},
+    "VerticalTextJustification": {1: "Middle"},
     "FitGeometry": {"Yes": "KeepTextBetweenExtensionLines"},
     "TextOptions.Alignment": {1: "AlignHorizontally", 2: "AlignWithDimensionLines"},
-    "Calculation": {4: "Basic"},
-    "DecimalSeparator": {" ": "Space"},
+    "Calculation": {2: "Deviation", 4: "Basic"},
+    "DecimalSeparator": {" ": "Space", ",": "Comma", ".": "Period"},
     "CenterMarkDisplay": {"Mark": "AsMark"},
     "ArcSymbolType": {2: "None"},
 }
 YES = {"Yes", "YES", "Visible", "Enabled"}
 # What stands between an object and its properties without being one of them.
 STEPS = re.compile(r"[gG]et_?(\w+)\(\)")
-PASSED = {"GeneralDimension", "DimensionStyleUserData"}
+PASSED = {"GeneralDimension", "DimensionStyleUserData", "Layer", "TextStyle", "TableStyle", "DimensionStyle",
+          "RichLineStyle"}
+# The numbers by which a table style's cells and lines are recorded.
+CELLS = {"iwTableCellType_Title": "1", "iwTableCellType_Header": "2", "iwTableCellType_Data": "3",
+         "iwTableBordersLineType_HorizontalBottom": "4", "iwTableBordersLineType_VerticalInside": "16"}
 # What an object has of which nothing is recorded, besides zeros and empty texts: the host's own values.
 DEFAULTS = [("Circle", "Radius()", 1), ("BlockInstance", "Scales()", 1), ("SimpleNote", "Height()", 2.5),
             ("AttributeDefinition", "Height()", 0.2), ("EllipseArc", "OtherRadius()", 1),
             ("Hatch", "HatchPattern.HatchOrSolidData()", "iwHatchPatternType_UserDefined"),
             ("EllipseArc", "EndAngle()", 2 * math.pi)]
-# Written with six digits.
-SHORT = re.compile(r"Segment(Angle|StartWidth|EndWidth)")
 # What the records of an object do not tell: the drawing's data and custom actions do.
 ELSEWHERE = re.compile(r"NoteAnnotation|ToleranceAnnotation|BlockAnnotation|ClipBoundary|TableStyle"
-                       r"|FitOptions.DimensionS|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
+                       r"|Active|.*InViewport|RadialDiameterDimensionOptions.CenterMarkDisplay|FitOptions.DimensionS"
+                       r"|CurvedSettings.FontParameters|[MN]Closed|Count\(|FaceCount|Face\(|Path|Contents"
                        r"|RowHeightAt|ColumnWidthAt|Pattern|ArrowsOptions.\w+Arrow|Measure"
                        r"|ExtensionLineFixedLength")
-# Of an added dimension without a statement, like all that it overrides of its style.
-OVERRIDDEN = re.compile("Arrow|Dim style")
 # Of a block that another drawing holds.
 REFERENCED = {"Name()", "Rotation()"}
 # Behind these an object has other vertices than those of its record.
@@ -56,23 +68,30 @@ ANONYMOUS = re.compile(r"^\*U\d+$")
 HATCHING = 18
 # How a number of the record becomes the one that the object holds.
 MEASURES = {"half": lambda value: value / 2, "round": lambda value: value / (2 * math.pi),
-            "area": lambda value: math.sqrt(value / math.pi)}
+            "area": lambda value: math.sqrt(value / math.pi), "not": lambda value: "No" if value in YES else "Yes",
+            "abs": abs}
 
 
 class _Rows:
     """drawing.txt: the interface's class by the drawing's class, and by both classes and tag the place of a value."""
 
     def __init__(self):
-        self.interfaces, self.places, self.optional = {}, {}, set()
+        self.interfaces, self.places, self.optional, self.operations = {}, {}, set(), {}
+        self.records = {}  # classes of records: how the interface's class is called, and the tag of their names
         cls = ""
         for line in (harness.HERE / "drawing.txt").read_text(encoding="utf-8").splitlines():
             text = "" if line.startswith("#") else line.rstrip()
             if text and not text.startswith(" "):
                 cls, _, name = text.partition(" ")
-                if name:
+                if " " in name:
+                    self.records[cls] = name.split()
+                elif name:
                     self.interfaces[cls] = name
             elif text:
                 tag, place = text.strip().split(" = ")
+                if cls == "operations":
+                    self.operations[int(tag.split()[0])] = tag.split()[1], place.split()
+                    continue
                 if place.endswith("?"):
                     place = place[:-1]
                     self.optional.add((self.interfaces[cls], place.split("[")[0] + "()"))
@@ -147,6 +166,29 @@ def _question(name, index):
     return name if name.endswith(")") else f"{name}({index})"
 
 
+class _Object:
+    """One that an operation is handed: its handle, and its place among the added ones, if it is one of them."""
+
+    def __init__(self, handle, place):
+        self.handle, self._place = handle, place
+
+    def ways(self, added):
+        if self._place is not None:
+            return {added[self._place]}
+        return {f"model {self.handle}", f'{expected.DOCUMENT}.GetObjectByHandle("{self.handle}")'}
+
+    def __repr__(self):
+        return self.handle
+
+
+def _flat(values):
+    for value in values:
+        if isinstance(value, list):
+            yield from _flat(value)
+        else:
+            yield value
+
+
 class Recorded:
     """What the recording says of its objects: what they hold by their handle, in the order in which they were added."""
 
@@ -160,17 +202,34 @@ class Recorded:
         self._notes = {record["handle"]: record for record in records if record["handle"] in self._leaders}
         self._thicknesses = {record["handle"]: record["thickness"] for record in records if "thickness" in record}
         self._pattern = None  # of the next hatch; empty when that is not inserted
-        self.added, self._classes, self._held, self.strange = [], {}, {}, set()
+        self.records = {}
+        self._places = {}  # of the objects in `added` by their handles
+        self.added, self._classes, self._held, self.strange, self.operations = [], {}, {}, set(), []
         for action in expected._actions(recording):
             for kind in {"added", "modified", "property", "custom"} & action.keys():
                 getattr(self, f"_{kind}")(action[kind])
 
+    def _hold_record(self, record):
+        """Records of tables are found by the names that they had first, groups by their order."""
+        interface, tag = self._rows.records[record["class"]]
+        name = expected._value(record["properties"], tag) or self._names.get(record["handle"], "")
+        number = sum(way.startswith(f"{interface}#") for way in self.records)
+        held = {("Name()", 0): ANONYMOUS.sub("*U", name)} if name else {}
+        self.records[f"{interface}#{number + 1}" if interface == "Group" else f"{interface} {name}"] = held
+        self._classes[record["handle"]], self._held[record["handle"]] = record["class"], held
+
     def _added(self, record):
         handle, cls = record["handle"], record["class"]
+        if cls in self._rows.records and (handle, "") not in self._lost:
+            self._hold_record(record)
+            self._modified({**record, "properties": [one for one in record["properties"]
+                                                     if (handle, one["tag"]) not in self._lost]})
+            return
         if handle in self._leaders or (handle, "") in self._lost or cls not in self._rows.interfaces or (
                 cls == "AcDbHatch" and self._pattern == {}):
             return
         self._classes[handle], self._held[handle] = cls, {}
+        self._places[handle] = len(self.added)
         self.added.append((cls, self._held[handle]))
         for note, leader in self._leaders.items():
             if leader == handle:
@@ -182,8 +241,7 @@ class Recorded:
         if handle in self._thicknesses:
             self._held[handle]["Thickness()", 0] = self._thicknesses[handle]
         self._modified({**record, "properties": [one for one in record["properties"]
-                                                 if (handle, one["tag"]) not in self._lost
-                                                 and not ("Dimension" in cls and OVERRIDDEN.match(one["tag"]))]})
+                                                 if (handle, one["tag"]) not in self._lost]})
         self._align(cls, self._held[handle])
 
     @staticmethod
@@ -197,10 +255,14 @@ class Recorded:
                     held["Position()", axis] = alignment
 
     def _modified(self, record):
+        if record["class"] in self._rows.records and record["handle"] not in self._held and self._names.get(
+                record["handle"]):
+            self._hold_record({**record, "properties": []})
         # Of two records of one property the first counts.
         firsts = {one["tag"]: one for one in reversed(record["properties"])}
-        for one in reversed(firsts.values()):
-            self._set(record["handle"], one, None)
+        action = json.dumps(record)
+        for one in reversed([one for one in firsts.values() if (action, one["tag"]) not in self._lost]):
+            self._set(record["handle"], one, one.get("index"))
 
     def _property(self, record):
         self._set(record["handle"], record, record.get("index"))
@@ -209,6 +271,8 @@ class Recorded:
         data = action["data"]
         if action["kind"] == expected.DRAWING:
             self._draw(data[3]["handle"], *(next(iter(one.values())) for one in data))
+        if action["kind"] in self._rows.operations and json.dumps(action) not in self._lost:
+            self._operate(*self._rows.operations[action["kind"]], data)
         if action["kind"] == HATCHING:
             self._hatch(*(next(iter(one.values())) for one in data))
         if action["kind"] == expected.ERASING:
@@ -219,6 +283,29 @@ class Recorded:
             for handle, cls in zip(data[5]["handles"], data[6]["classes"]):
                 if self._classes.get(handle) != cls:  # another object from here on
                     self._held.pop(handle, None)
+                    self._places.pop(handle, None)
+                    self._classes[handle] = cls
+
+    def _operate(self, name, fields, data):
+        """Operations on several objects, with all that is handed to them, in one list."""
+        on, *fields = fields if fields[0].startswith("on") else ["", *fields]
+        for several in range(2, len(data)) if "*" in fields else [None]:
+            handed = [part for field in fields for part in self._handed(field.removeprefix("each"), data, several)]
+            for owner in self._handed(on[2:], data, None) if on else [None]:
+                self.operations += [(name, owner, one) for one in (
+                    [[part] for part in handed] if "each0" in fields else [handed])]
+
+    def _handed(self, field, data, several):
+        """Objects by their place in `added`, or by their handle."""
+        number, _, span = field.lstrip("-").partition(":")
+        value = next(iter(data[several if number == "*" else int(number)].values()))
+        values = value if isinstance(value, list) else [value]
+        if field.startswith("-"):
+            return [None] * len(values)
+        flat = [part for one in values for part in (one if isinstance(one, list) else [one])]
+        return [_Object(part, self._places.get(part)) if isinstance(part, str) else part
+                for part in (flat[slice(*map(int, span.split("-")))] if span else flat)
+                if (part, "") not in self._lost]
 
     def _hatch(self, name, scale, angle, *rest):
         """Stands in front of its hatch, or behind it."""
@@ -260,15 +347,26 @@ class Recorded:
             self.strange.add(f"{cls} {tag}")
         elif match := re.fullmatch(r"(.*)\[(\d)\]", place):
             self._set_points(held, match[1], int(match[2]), record["value"])
-        elif place != "-" and (tag != "Erased" or record["value"] == "YES"):
-            name, _, rest = place.partition(" ")
+        elif place != "-" and (tag not in ("Erased", "ActivateLayer") or record["value"] in YES):
+            name, *rest = place.split(" ")
             value = self._value(record["value"])
-            if value is None or index and not 0 <= index["int"] < (4 if "#" in name else math.inf):
+            if "is" in rest:
+                value = rest[1] if str(value) in YES else None
+            if rest == ["affixes"] and "<>" in value:
+                value, held[name.replace("Prefix", "Suffix") + "()", 0] = value.split("<>", 1)
+            if rest == ["affix"] and value == "<>":
+                value = None
+            if value is None or index and "int" in index and not 0 <= index["int"] < (4 if "#" in name else math.inf):
                 return
-            value = MEASURES[rest](value) if rest in MEASURES else value
-            if name == "Transparency":
+            for word in rest:
+                value = MEASURES.get(word, lambda value: value)(value)
+            if name == "Transparency" and isinstance(record["value"], dict) and "transparency" in record["value"]:
                 name += [".ByLayer", ".ByBlock", ".ByAlpha"][record["value"]["transparency"]["method"]]
-            held[_question(name, "" if index is None else index["int"]), int(rest) if rest.isdigit() else 0] = value
+            which = index and index.get("int", index.get("element"))
+            if isinstance(which, dict):
+                which = f'{which["tag"]["int"]},{which["value"]["int"]}'
+            number = next((int(word) for word in rest if word.isdigit()), 0)
+            held[_question(name, "" if which is None else which), number] = value
 
     @staticmethod
     def _set_points(held, name, axes, value):
@@ -301,14 +399,18 @@ class Recorded:
 
 
 class Made:
-    """The objects that a macro made: by their way what they hold."""
+    """The objects that a macro made: by their way what they hold. A record's way is its class and first name."""
+
+    RECORD = re.compile(r'.*\.(?:Create|Get)(Layer|\w+Style)\(("(?:[^"\\]|\\.)*")\)(.*)')
 
     def __init__(self, notes):
-        self.held, self.colors = {}, []
+        self.held, self.colors, self._renamed = {}, [], {}
         reshaped = set()
         for note in notes:
             if note.get("call") == "GetRGBColor":
                 self.colors.append(note["args"])
+            if note.get("call") in ("Rename", "Activate", "RemoveLayer"):
+                self._change(note["on"], note["call"], note["args"])
             if note.get("call") in RESHAPING:
                 reshaped.add(note["on"])
             if note.get("call") in COUNTED:
@@ -320,14 +422,33 @@ class Made:
             if derive := DERIVED.get(way.split("#")[0]):
                 derive(held)
 
-    def _hold(self, way, question, values):
+    def _way(self, way):
+        """To the object, and from there on."""
+        if record := self.RECORD.match(way):
+            name = f"{record[1]} {json.loads(record[2])}"
+            return self._renamed.get(name, name), record[3]
         match = re.match(r"(\w+#\d+)(?=\.|$)", way)
-        if not match:
+        return (match[1], way[match.end():]) if match else (None, "")
+
+    def _change(self, way, call, arguments):
+        if call == "RemoveLayer":
+            way = f"{way}.GetLayer({json.dumps(arguments[0])})"
+        name, _ = self._way(way)
+        if call == "Rename" and name:
+            self._renamed[f"{name.split()[0]} {arguments[0]}"] = name
+        if name:
+            question = {"Rename": "Name()", "Activate": "Active()", "RemoveLayer": "Erased()"}[call]
+            self.held.setdefault(name, {})[question, 0] = arguments[0] if call == "Rename" else True
+
+    def _hold(self, way, question, values):
+        name, rest = self._way(way)
+        if not name:
             return
-        steps = [step.removeprefix("DimensionStyle") for step in STEPS.findall(way[match.end():]) if step not in PASSED]
+        steps = [step.removeprefix("DimensionStyle") for step in STEPS.findall(rest) if step not in PASSED]
+        question = re.sub(r'"(iwTable\w+)"', lambda match: CELLS[match[1]], question)
         for index, value in enumerate(values or [True]):
-            if not isinstance(value, str) or not value.startswith(f"@{match[1]}"):
-                self.held.setdefault(match[1], {})[".".join([*steps, question]), index] = value
+            if not isinstance(value, str) or not value.startswith(f"@{name}"):
+                self.held.setdefault(name, {})[".".join([*steps, question]), index] = value
 
     def color(self, value):
         """A color as recordings have it."""
@@ -355,8 +476,7 @@ def _fits(made, place, seen, wanted):
         return seen == (closed or text is True or number == 1 and not text or text in YES)
     if isinstance(seen, (int, float)):
         value = _number(number if text == "" else text)
-        short = SHORT.match(place) and seen == _number(f"{value:.6g}")
-        return short or math.isclose(seen, value, rel_tol=0, abs_tol=1e-9)
+        return math.isclose(seen, value, rel_tol=0, abs_tol=1e-9)
     if isinstance(seen, str) and re.match(r"iw\w+_", seen):
         # The longest name that fits.
         names = next((ENUMERATORS[end] for end in sorted(ENUMERATORS, key=len, reverse=True)
@@ -392,24 +512,54 @@ class Comparison(expected.Comparison):
         if names != [way.split("#")[0] for way in ways]:
             faults.append(f"the objects made are {ways}\n    and should be {names}")
             ways = []
-        for (_, wanted), way in zip(recorded.added, ways):
+        elif fault := self._first_operation(recorded.operations, calls, ways):
+            faults.append(fault)
+        self.objects += len(recorded.records)
+        # What is only looked up has nothing but its name.
+        looked_up = {way: {("Name()", 0): way.split(" ", 1)[1]} for way in made.held if " " in way}
+        for way, wanted in [*zip(ways, (wanted for _, wanted in recorded.added)),
+                            *{**looked_up, **recorded.records}.items()]:
             faults += [f"{way} {fault}" for fault in self._compare_object(made, way, wanted)]
         self.complaints += [f"{macro.name}: {fault}" for fault in faults]
 
     def _lost(self, macro):
-        """What the program reports as lost of added objects: handles, each with the tag of a property or with none."""
+        """What the program reports as lost: of added objects the handles, each with the tag of a property or with none,
+        of changes the tags, and whole custom actions."""
         report = harness.run(self._program, "convert", macro.recording, "--target", self._target, "--repair",
                              "--report", "--output", macro.folder / "reported" / macro.file.name)
         lines = macro.recording.read_text(encoding="utf-8-sig").split("\n")
         lost = set()
         for loss in json.loads(report.stdout)["conversions"][0]["losses"]:
             told = re.fullmatch(r'(?:property "(.*)" of )?AcDb\w+ (\w+)', loss["what"])
-            number = re.fullmatch(r"command\.actions\[(\d+)\]", loss.get("path", ""))
-            if told and number:
-                action = json.loads(lines[loss["line"] - 1])["command"]["actions"][int(number[1])]
-                if action.get("added", {}).get("handle") == told[2]:
-                    lost.add((told[2], told[1] or ""))
+            action = json.loads(lines[loss["line"] - 1])
+            if number := re.fullmatch(r"command\.actions\[(\d+)\]", loss.get("path", "")):
+                action = action["command"]["actions"][int(number[1])]
+            if told and action.get("added", {}).get("handle") == told[2]:
+                lost.add((told[2], told[1] or ""))
+            elif told and "modified" in action:
+                lost.add((json.dumps(action["modified"]), told[1]))
+            elif loss["what"].startswith("custom "):
+                lost.add(json.dumps(action["custom"]))
         return lost
+
+    def _first_operation(self, wanted, calls, ways):
+        """The first operation on several objects that is not as it should be."""
+        names = {name for name, _ in self._rows.operations.values()}
+        seen = [call for call in calls if call[1] in names]
+        for (on, name, arguments), (operation, owner, handed) in itertools.zip_longest(
+                seen, wanted, fillvalue=(None, "nothing", [])):
+            values = list(_flat(arguments))
+            if (name, len(values)) != (operation, len(handed)) or owner and on.removesuffix(
+                    ".get_DispObj()") not in owner.ways(ways) or not all(
+                    self._is_handed(*pair, ways) for pair in zip(values, handed)):
+                return f"{on}.{name}({arguments}) should be {operation} of {owner}: {handed}"
+        return None
+
+    @staticmethod
+    def _is_handed(value, wanted, ways):
+        if isinstance(wanted, _Object):
+            return isinstance(value, str) and value[1:].removesuffix(".get_DispObj()") in wanted.ways(ways)
+        return wanted is None or math.isclose(value, wanted, rel_tol=0, abs_tol=1e-9)
 
     def _lasting_ways(self, calls, names):
         """To the objects that were made and are not drawn for others alone. Hatches never are, and of what a block is
@@ -433,7 +583,7 @@ class Comparison(expected.Comparison):
         return lasting
 
     def _compare_object(self, made, way, wanted):
-        seen, cls = made.held.get(way, {}), way.split("#")[0]
+        seen, cls = made.held.get(way, {}), re.split("[# ]", way)[0]
         for (place, index), value in wanted.items():
             if ("Path()", 0) in seen and place in REFERENCED:
                 continue

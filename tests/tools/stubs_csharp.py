@@ -34,7 +34,8 @@ class _Source:
         given = [name for p, name in zip(operation.parameters, names) if not p.out]
         note = f'Note("{operation.name}", "{operation.result}"{"".join(", " + name for name in given)})'
         body = [f"string way = {note};"]
-        body += [f"{name} = {self.value(p.type, 'Way')};" for p, name in zip(operation.parameters, names) if p.out]
+        to = "Way" if operation.result else "way"
+        body += [f"{name} = {self.value(p.type, to)};" for p, name in zip(operation.parameters, names) if p.out]
         body += [f"return {self.value(operation.result, 'way')};"] if operation.result else []
         return f"{self.type(operation.result) or 'void'} {operation.name}({signature})", " ".join(body)
 

@@ -17,14 +17,14 @@ inline CFxVariantCollectionElement item(std::int32_t number, const char* text)
 }
 
 /// What becomes of the records of the object "it1", all of which must be known to the class.
-inline QString changedIn(TestTarget& made, const char* cls, PropertyList list, bool takeOnly = false)
+inline QString changedIn(TestTarget& made, const char* cls, PropertyList list)
 {
     QString text;
     const ClassChanges& changes = FindClass(QString(cls))->changes;
     if (changes.groups)
-        made.objects.ConvertRows(*changes.groups, list, takeOnly, "it1", text);
+        made.objects.ConvertRows(*changes.groups, list, "it1", text);
     else
-        (made.objects.*changes.handler)(list, takeOnly, "it1", text);
+        (made.objects.*changes.handler)(list, "it1", text);
     EXPECT_TRUE(list.empty()) << cls;
     return text;
 }

@@ -189,7 +189,7 @@ std::string changed(Target target, const PropertyList& records)
     TestTarget made(target);
     PropertyList list = records;
     QString text;
-    made.objects.ConvertModifiedHatch(list, false, "h", text);
+    made.objects.ConvertModifiedHatch(list, "h", text);
     return text.toStdString();
 }
 
@@ -280,12 +280,6 @@ TEST(ChangedHatches, LoseAngleAndMarkOfTheirGradientInCpp)
 TEST(ChangedHatches, WriteNothingWithoutATagOfTheirs)
 {
     EXPECT_EQ(changed(Target::Vba, {record("Area", 4.0)}), "");
-    TestTarget made(Target::CSharp);
-    PropertyList list{record("Angle", 4.0)};
-    QString text;
-    made.objects.ConvertModifiedHatch(list, true, "h", text);
-    EXPECT_EQ(text, "");
-    EXPECT_EQ(list.size(), 1U);
 }
 
 TEST_F(Hatches, AddedWithoutSettingsWriteNothing)

@@ -6,6 +6,8 @@
 #include "recordfile/RecordingReader.h"
 #include "targets/Target.h"
 
+#include "TestRepair.h"
+
 #include <gtest/gtest.h>
 
 #include <QBuffer>
@@ -72,10 +74,13 @@ TEST(Losses, AreNoneOfWhatIsPassedOverByRule)
 {"object":{"class":"AcDbLeader","handle":"32","annotationObjectId":"31"}}
 )" + command(R"({"added":{"class":"AcDbLeader","handle":"32","properties":[]}},)"
              R"({"added":{"class":"AcDbMText","handle":"31","properties":[{"tag":"Contents","value":"a"}]}})"),
-        // The insertion or the style gives what a change would set.
+        // The insertion gives what a change would set, or a new object has it anyway.
         command(
-            R"({"added":{"class":"AcDbAlignedDimension","handle":"31","properties":[{"tag":"Arrow size","value":2}]}},)"
-            R"({"added":{"class":"AcDbCircle","handle":"32","properties":[{"tag":"Diameter","value":2}]}})"),
+            R"({"added":{"class":"AcDbAlignedDimension","handle":"31","properties":[{"tag":"Measurement","value":2},)"
+            R"({"tag":"Text override","value":"a"},{"tag":"Rotation","value":1},{"tag":"Erased","value":"NO"},)"
+            R"({"tag":"Transparency","value":{"transparency":{"method":0,"alpha":0}}}]}},)"
+            R"({"added":{"class":"AcDbCircle","handle":"32","properties":[{"tag":"Diameter","value":2}]}},)"
+            R"({"added":{"class":"AcDbSolid","handle":"33","properties":[{"tag":"Vertex X","value":2}]}})"),
         // Only one of several marks is set.
         command(
             R"({"added":{"class":"AcDbDimStyleTableRecord","handle":"31","properties":[)"
@@ -183,6 +188,51 @@ TEST(Losses, OfPropertiesAreThoseThatNoStatementSets)
     EXPECT_EQ(lossesOf(table + changed("AcDbTable", "31", R"({"tag":"Rows","value":3})")),
               (Lines{"0.0 property \"Contents_1_1\" of AcDbTable 31: the texts of a new table have no statement",
                      "1 property \"Rows\" of AcDbTable 31: one line is removed where several went"}));
+}
+
+/// What only a change sets: for each class a tag that its insertion takes beside one that nothing takes.
+TEST(Losses, OfAddedObjectsAreAllPropertiesThatTheirInsertionDoesNotTake)
+{
+    const struct
+    {
+        const char* cls;
+        const char* taken;
+        const char* lost;
+    } cases[] = {
+        {"AcDbAlignedDimension", "dimLinePoint", "Arrow size"},
+        {"AcDb2LineAngularDimension", "arcPoint", "Suppress leading zeros"},
+        {"AcDb3PointAngularDimension", "centerPoint", "Dim style"},
+        {"AcDbOrdinateDimension", "setZero", "Position x"},
+        {"AcDbRotatedDimension", "rotation", "Arrow 1"},
+        {"AcDbLeader", "width", "DimStyle"},
+        {"AcDbFcf", "Content", "Text height"},
+        {"AcDbText", "Height", "TextStyle"},
+        {"AcDbLayerTableRecord", "Name", "Frozen"},
+        {"AcDbRasterImage", "Scale", "Fade"},
+        {"AcDbGroup", "Description", "Erased"},
+        {"AcDbCircle", "Layer", "Transparency"},
+    };
+    for (const auto& [cls, taken, lost] : cases) {
+        const auto record = [](const char* tag) { return QByteArray(R"({"tag":")") + tag + R"(","value":"YES"})"; };
+        const QByteArray added = QByteArray(R"({"added":{"class":")") + cls + R"(","handle":"31","properties":[)";
+        const Lines losses = lossesOf(command(added + record(taken) + ',' + record(lost) + "]}}"));
+        const std::string property = std::string("property \"") + lost + "\" of " + cls + " 31: no statement sets it";
+        EXPECT_NE(std::find(losses.begin(), losses.end(), "0.0 " + property), losses.end()) << cls;
+        EXPECT_EQ(std::count_if(
+                      losses.begin(), losses.end(),
+                      [](const std::string& loss) { return loss.find("no statement sets it") != std::string::npos; }),
+                  1)
+            << cls;
+    }
+}
+
+/// A faithful macro changes the layer "0" then, which a repaired one must not touch.
+TEST(Losses, OfARepairedMacroAreLayersWithoutAName)
+{
+    const QByteArray frozen = changed("AcDbLayerTableRecord", "99", R"({"tag":"Frozen","value":"Yes"})");
+    EXPECT_EQ(lossesOf(frozen), Lines());
+    const TestRepair repair;
+    EXPECT_EQ(lossesOf(frozen), Lines{"0 changes of AcDbLayerTableRecord 99: the drawing does not have the layer"});
 }
 
 TEST(Losses, DependOnTheTarget)

@@ -172,6 +172,40 @@ TEST(FaithfulFill, MarksTextsAtFaultAndChangesNothingElse)
     }
 }
 
+TEST(ShortNumbers, KeepTheirDigitsInRepairedMacrosAndAreMarkedInOthers)
+{
+    struct Case
+    {
+        double value;
+        const char* faithful;
+        const char* repaired; ///< null: the same
+    };
+    const Case cases[] = {
+        {0.5, "0.5", nullptr},
+        {1e6, "1e+06", nullptr},
+        {-0.0, "0", nullptr},
+        {1e-20, "1e-20", nullptr},
+        {1.23456789e-12, "1.23457e-12", nullptr}, // the long form has less of it
+        {1234567, "1.23457e+06", "1234567.00000000000000"},
+        {-3.14159265358979, "-3.14159", "-3.14159265358979"},
+    };
+    const Template words("f( %1 );", Target::CSharp);
+    for (const auto& [value, faithful, repaired] : cases) {
+        bool marked = false;
+        QString outcome = Fill(&words).with({Target::CSharp, false, &marked}).shortReal(value);
+        EXPECT_EQ(takeMarks(outcome) > 0, repaired != nullptr) << value;
+        EXPECT_EQ(marked, repaired != nullptr) << value;
+        EXPECT_EQ(outcome, QString("f( %1 );").arg(faithful)) << value;
+        const QString mended = Fill(&words).with({Target::CSharp, true}).shortReal(value);
+        EXPECT_EQ(mended, QString("f( %1 );").arg(repaired ? repaired : faithful)) << value;
+    }
+    // A value that no marker takes is not at fault.
+    bool marked = false;
+    const QString dropped = Fill(&words).with({Target::CSharp, false, &marked}).shortReal(1).shortReal(1.23456789);
+    EXPECT_EQ(dropped, "f( 1 );");
+    EXPECT_FALSE(marked);
+}
+
 TEST(Marks, NeitherMakeNorBreakMarkers)
 {
     const char* const texts[] = {"",   " ",  "  ",  "%",   "%1",  "5",     "L",     "%L",   "L5",   "x",

@@ -157,9 +157,6 @@ void expectChanges(const char* cls, const std::vector<Row>& rows)
         }
         TestTarget made(target);
         EXPECT_EQ(changedIn(made, cls, list), expected) << cls << " in target " << static_cast<int>(target);
-        TestTarget added(target);
-        EXPECT_EQ(changedIn(added, cls, list, true), QString()) << cls;
-        EXPECT_EQ(added.writer.UniqueCounter, 0U) << cls;
     }
 }
 
@@ -578,17 +575,6 @@ TEST_F(TableChanges, ReadWhatTheyCanOfATag)
               QString(" it1.SetText( 1, 0, \"a\" );\n it1.SetText( -1, 2, \"b\" );\n"
                       " it1.SetText( 0, 0, \"c\" );\n it1.SetText( 7, 0, \"\" );\n"
                       " it1.SetRowHeightAt( 0, 4 );\n it1.SetColumnWidthAt( 0, 5 );\n"));
-}
-
-TEST_F(TableChanges, OfAnAddedTableAreTakenAlone)
-{
-    EXPECT_EQ(changedIn(csharp, "AcDbTable",
-                        {record("Rows", 9), record("RowHeight_2", 1.0), record("Contents_0_0", CFxString("a")),
-                         record("Table height", 50.0), record("TableStyle", CFxString("Parts"))},
-                        true),
-              QString());
-    EXPECT_EQ(change({record("Rows", 1)}), QString(" it1.DeleteRow( 1 );\n"));
-    EXPECT_TRUE(change({record("Table height", 20.0)}).contains("coef1 = 2;"));
 }
 
 } // namespace

@@ -75,11 +75,12 @@ bool IsHostShapeFile(const CFxString& fileName)
 QString ReadTextStyle(AddedObject& added)
 {
     const auto style = added.open<OdDbTextStyleTableRecord>();
+    const CFxString name = added.takeText("Name");
+    const CFxVariant font = added.take("Font");
     if (style && style->isShapeFile())
         return loadShapes(added.writer, style->fileName());
 
-    QString text = EmitCreateTextStyle(added.writer, added.name, added.takeText("Name"));
-    const CFxVariant font = added.take("Font");
+    QString text = EmitCreateTextStyle(added.writer, added.name, name);
     if (!font.IsNull())
         text += EmitSetProperty(added.writer, added.name, "Font", doubleBackslashes(font.GetString()), true);
     return text;

@@ -5,14 +5,11 @@
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/blockContents.h"
 
-void CFxConverterIWAPIObject::ConvertModifiedBlockDefinition(PropertyList& list, bool takeOnly, const CFxString& name,
-                                                             QString& text)
+void CFxConverterIWAPIObject::ConvertModifiedBlockDefinition(PropertyList& list, const CFxString& name, QString& text)
 {
     const CFxValueContext context = driver.GetContext();
     const CFxVariant objects = FindProperty("Objects", list, context);
     const CFxVariant description = FindProperty("Description", list, context);
-    if (takeOnly)
-        return;
     if (objects.GetType() != CFxVariant::kCollection) {
         if (!description.IsNull())
             LoseProperty("Description", "a block is made anew only when its objects are recorded");

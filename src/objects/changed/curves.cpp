@@ -9,11 +9,10 @@ using namespace kinds;
 const ChangeGroups modifiedLine{{firstPoint, "Start"}, {secondPoint, "End"}};
 
 /// Alone among the handlers this one drops what stands in the text already.
-void CFxConverterIWAPIObject::ConvertModifiedLine(PropertyList& list, bool takeOnly, const CFxString& name,
-                                                  QString& text)
+void CFxConverterIWAPIObject::ConvertModifiedLine(PropertyList& list, const CFxString& name, QString& text)
 {
     text.clear();
-    ConvertRows(modifiedLine, list, takeOnly, name, text);
+    ConvertRows(modifiedLine, list, name, text);
 }
 
 /// The host records a new radius with all that depends on it, so that one change sets the radius up to four times.

@@ -30,12 +30,8 @@ std::optional<bool> yesOf(const CFxVariant& value)
 
 } // namespace
 
-/// The tags of an added hatch are not even taken: its reader has been there before.
-void CFxConverterIWAPIObject::ConvertModifiedHatch(PropertyList& list, bool takeOnly, const CFxString& name,
-                                                   QString& text)
+void CFxConverterIWAPIObject::ConvertModifiedHatch(PropertyList& list, const CFxString& name, QString& text)
 {
-    if (takeOnly)
-        return;
     const TakeTag take = [&](const char* tag) { return FindProperty(tag, list, driver.GetContext()); };
     // The tags are read in this order.
     const HatchPatternChange data{.name = textOf(take("Pattern name")),

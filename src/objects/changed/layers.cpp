@@ -37,8 +37,7 @@ const ChangeGroups modifiedGroup{
     {plainYes, "SelectableEntities", "Selectable"},
 };
 
-void CFxConverterIWAPIObject::ConvertModifiedLayer(PropertyList& list, bool takeOnly, const CFxString& name,
-                                                   QString& text)
+void CFxConverterIWAPIObject::ConvertModifiedLayer(PropertyList& list, const CFxString& name, QString& text)
 {
-    ConvertRows(modifiedLayer, list, takeOnly, LayerOf(name), text);
+    ConvertRows(modifiedLayer, list, LayerOf(name), text);
 }

@@ -29,10 +29,9 @@ static const ChangeGroups modifiedBlockInstance{
 };
 
 /// An attribute of the block is a record in a group of its own, with the attribute's tag.
-void CFxConverterIWAPIObject::ConvertModifiedBlockInstance(PropertyList& list, bool takeOnly, const CFxString& name,
-                                                           QString& text)
+void CFxConverterIWAPIObject::ConvertModifiedBlockInstance(PropertyList& list, const CFxString& name, QString& text)
 {
-    ConvertRows(modifiedBlockInstance, list, takeOnly, name, text);
+    ConvertRows(modifiedBlockInstance, list, name, text);
     PropertyList rest;
     for (CFxPropertyChangedPtr& record : list) {
         // Each record on its own: attributes may be many, and what is taken out of a list moves all that stand behind.
@@ -45,7 +44,7 @@ void CFxConverterIWAPIObject::ConvertModifiedBlockInstance(PropertyList& list, b
             continue;
         }
         const bool isAttribute = taken.front()->GetGroup().equalNoCase(BlockAttributes());
-        if (isAttribute && !takeOnly && !value.IsNull())
+        if (isAttribute && !value.IsNull())
             text += EmitBlockAttributeValue(writer, name, "Value", tag.GetString(), value.GetString());
     }
     list = std::move(rest);

@@ -15,14 +15,12 @@ const ChangeGroups modifiedViewTile{
 };
 
 /// The three records come together; the sheet is found by its name and needs no variable.
-void CFxConverterIWAPIObject::ConvertModifiedSheet(PropertyList& list, bool takeOnly, const CFxString&, QString& text)
+void CFxConverterIWAPIObject::ConvertModifiedSheet(PropertyList& list, const CFxString&, QString& text)
 {
     const CFxValueContext context = driver.GetContext();
     const CFxVariant table = FindProperty("PrintStyleTable", list, context);
     const CFxVariant model = FindProperty("Model_PrintStyleTable", list, context);
     const CFxVariant sheet = FindProperty("SheetName_PrintStyleTable", list, context);
-    if (takeOnly)
-        return;
     if (table.IsNull() || model.IsNull() || sheet.IsNull()) {
         if (!table.IsNull())
             LoseProperty("PrintStyleTable", "its sheet is not recorded");

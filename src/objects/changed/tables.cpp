@@ -128,15 +128,13 @@ QString removeLines(Writer& writer, const TableLines& lines, const CFxString& ta
 } // namespace
 
 /// Takes the count of the lines. True if it was there.
-bool CFxConverterIWAPIObject::ConvertTableCount(const TableLines& lines, PropertyList& list, bool takeOnly,
-                                                const CFxString& name, QString& text)
+bool CFxConverterIWAPIObject::ConvertTableCount(const TableLines& lines, PropertyList& list, const CFxString& name,
+                                                QString& text)
 {
     const CFxVariant value = FindProperty(lines.countTag, list, driver.GetContext());
     if (value.IsNull())
         return false;
     const bool isNumber = value.GetType() == CFxVariant::kInt32 || value.GetType() == CFxVariant::kDouble;
-    if (takeOnly)
-        return true;
     if (!isNumber) {
         LoseProperty(lines.countTag, "it is not recorded as a number");
         return true;
@@ -158,36 +156,36 @@ bool CFxConverterIWAPIObject::ConvertTableCount(const TableLines& lines, Propert
 }
 
 /// Takes the records of cells. True if there were any.
-bool CFxConverterIWAPIObject::ConvertCellTexts(PropertyList& list, bool takeOnly, const CFxString& name, QString& text)
+bool CFxConverterIWAPIObject::ConvertCellTexts(PropertyList& list, const CFxString& name, QString& text)
 {
     const PropertyList cells = takeAll(cellTag, list);
     for (const CFxPropertyChangedPtr& record : cells) {
         const CFxVariant value = record->GetValue(driver.GetContext());
-        if (!takeOnly && !value.IsNull())
+        if (!value.IsNull())
             text += cellStatement(writer, name, record, wordOf(value));
     }
     return !cells.empty();
 }
 
 /// Takes the sizes of single lines. True if there were any.
-bool CFxConverterIWAPIObject::ConvertTableSizes(const TableLines& lines, PropertyList& list, bool takeOnly,
-                                                const CFxString& name, QString& text)
+bool CFxConverterIWAPIObject::ConvertTableSizes(const TableLines& lines, PropertyList& list, const CFxString& name,
+                                                QString& text)
 {
     const PropertyList sizes = takeAll(lines.sizeTag, list);
     for (const CFxPropertyChangedPtr& record : sizes) {
         const CFxVariant value = record->GetValue(driver.GetContext());
-        if (!takeOnly && !value.IsNull())
+        if (!value.IsNull())
             text += lines.setSize(writer, name, numberIn(record, 1), value.GetDouble());
     }
     return !sizes.empty();
 }
 
 /// Takes the size of the whole table. A table that became larger or smaller with nothing else to tell why was scaled.
-void CFxConverterIWAPIObject::ConvertTableSize(const TableLines& lines, PropertyList& list, bool takeOnly, bool told,
+void CFxConverterIWAPIObject::ConvertTableSize(const TableLines& lines, PropertyList& list, bool told,
                                                const CFxString& name, QString& text)
 {
     const CFxVariant value = FindProperty(lines.wholeTag, list, driver.GetContext());
-    if (takeOnly || value.IsNull())
+    if (value.IsNull())
         return;
     double& whole = (this->*lines.wholes)[name];
     if (!told)
@@ -195,8 +193,7 @@ void CFxConverterIWAPIObject::ConvertTableSize(const TableLines& lines, Property
     whole = value.GetDouble();
 }
 
-void CFxConverterIWAPIObject::ConvertModifiedTable(PropertyList& list, bool takeOnly, const CFxString& name,
-                                                   QString& text)
+void CFxConverterIWAPIObject::ConvertModifiedTable(PropertyList& list, const CFxString& name, QString& text)
 {
     static const TableLines rows{"Rows",
                                  "RowHeight",
@@ -219,13 +216,13 @@ void CFxConverterIWAPIObject::ConvertModifiedTable(PropertyList& list, bool take
                                     &CFxConverterIWAPIObject::tableColumnCounts,
                                     &CFxConverterIWAPIObject::tableWidths};
 
-    ConvertRows(tablePosition, list, takeOnly, name, text);
-    const bool rowsTold = ConvertTableCount(rows, list, takeOnly, name, text);
-    const bool columnsTold = ConvertTableCount(columns, list, takeOnly, name, text);
-    const bool cellsTold = ConvertCellTexts(list, takeOnly, name, text);
-    const bool heightsTold = ConvertTableSizes(rows, list, takeOnly, name, text);
-    ConvertTableSize(rows, list, takeOnly, rowsTold || cellsTold || heightsTold, name, text);
-    const bool widthsTold = ConvertTableSizes(columns, list, takeOnly, name, text);
-    ConvertTableSize(columns, list, takeOnly, columnsTold || cellsTold || widthsTold, name, text);
-    ConvertRows(tableLooks, list, takeOnly, name, text);
+    ConvertRows(tablePosition, list, name, text);
+    const bool rowsTold = ConvertTableCount(rows, list, name, text);
+    const bool columnsTold = ConvertTableCount(columns, list, name, text);
+    const bool cellsTold = ConvertCellTexts(list, name, text);
+    const bool heightsTold = ConvertTableSizes(rows, list, name, text);
+    ConvertTableSize(rows, list, rowsTold || cellsTold || heightsTold, name, text);
+    const bool widthsTold = ConvertTableSizes(columns, list, name, text);
+    ConvertTableSize(columns, list, columnsTold || cellsTold || widthsTold, name, text);
+    ConvertRows(tableLooks, list, name, text);
 }

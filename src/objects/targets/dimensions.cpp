@@ -4,6 +4,7 @@
 
 #include "objects/targets/dimensionPoints.h"
 #include "targets/LineEnd.h"
+#include "targets/digits.h"
 #include "targets/wording.h"
 
 #include <optional>
@@ -229,7 +230,10 @@ QString EmitInsertRotatedDimension(Writer& writer, const OdGePoint3d& first, con
                                    const CFxString& name)
 {
     static const PointDimension kind{insertRotatedDimension, {"ExtLineOne", "ExtLineTwo", "DimLine"}};
-    const QString angle = writer.target == Target::Cpp ? FormatShort(rotation) : FormatLong(rotation);
+    const bool isShort = writer.target == Target::Cpp;
+    const bool rounded = isShort && losesDigits(rotation);
+    const QString number = isShort && !(rounded && writer.repairs) ? FormatShort(rotation) : FormatLong(rotation);
+    const QString angle = rounded ? writer.faulty(number, kSixDigits) : number;
     return insertOnPoints(writer, kind, {first, second, dimensionLine}, text, angle, name);
 }
 
