@@ -50,7 +50,7 @@ HatchGradient gradientAt(const CFxCustomAction& action, std::int32_t first)
 /// Of the ways to make a hatch the first one that is set is taken; the last needs no mark.
 std::int32_t CFxConverterIWAPIImpl::ConvertActionInsertHatch(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    const CFxString hatch = takeVariable(writer, text, HandedVariable::Replaced);
+    const CFxString hatch = VariableOfMade(takeVariable(writer, text, HandedVariable::Replaced), "AcDbHatch");
     const HatchPattern pattern{action->GetData(0).GetString(), action->GetData(1).GetDouble(),
                                action->GetData(2).GetDouble()};
     insertedHatches.insert(hatch);

@@ -87,7 +87,8 @@ bool CFxConverterIWAPIObject::AddressChangedObject(const OdRxClass* cls, const O
     if (!noteLeader.isNull()) {
         name = NameObject(handle, cls);
         CFxString leader;
-        driver.usesUnmade = driver.usesUnmade || !driver.FindEntry(noteLeader.getHandle());
+        if (!driver.FindEntry(noteLeader.getHandle()))
+            driver.NoteUnmade();
         if (writer.repairs)
             text += EmitObjectVariable(noteLeader.getHandle(), OdDbLeader::desc(), leader);
         else

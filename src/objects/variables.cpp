@@ -24,7 +24,8 @@ bool CFxConverterIWAPIObject::NameVariable(const OdDbHandle& handle, const OdRxC
     if (!HasInterface(cls))
         return false;
     const ActionEntry* const entry = driver.FindEntry(handle);
-    name = ObjectVariableName(cls, IdOf(handle), entry ? entry->ordinal : ++driver.objectCounter);
+    name = ObjectVariableName(entry ? driver.NamingClass(*entry, cls) : cls, IdOf(handle),
+                              entry ? entry->ordinal : ++driver.objectCounter);
     return !entry;
 }
 
