@@ -8,6 +8,8 @@
 #include "targets/trim.h"
 #include "targets/variables.h"
 
+#include <utility>
+
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;
 
@@ -52,6 +54,10 @@ std::vector<TrimPiece> CFxConverterIWAPIImpl::RegisterPieces(const CFxCustomActi
     std::vector<TrimPiece> pieces;
     for (std::size_t i = 0; i < handles.size(); ++i) {
         const OdRxClass* const cls = ClassAt(classes, i);
+        if (writer.repairs && !HasInterface(cls)) {
+            NoteLoss(ObjectTitle(cls, handles[i]), "objects of its class have no statements");
+            continue;
+        }
         const ActionEntry* const known = FindEntry(handles[i]);
         if (known && known->cls == cls)
             continue;
@@ -88,6 +94,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionTrim(OdSmartPtr<CFxCustomAction
                 declarations += EmitVariableDeclaration(writer, piece.entry);
             return declarations;
         });
+    // What is fetched is seen in its group only.
+    text += std::exchange(fetches, {});
     text += EmitTrimEntities(writer, cut.edges, cut.objects, cut.points, 0, pieces);
     return kFxSuccess;
 }

@@ -104,8 +104,9 @@ public:
     /// One element a handle: its name as ResolveVariables gives it, the object type enumerator (empty where the name
     /// is), the handle's text.
     EntityList ResolveNames(const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray);
-    /// One element a handle: the name that the object is declared by, with the class that is told here; empty for an
-    /// object that the generated code does not know, whose class is not asked for. A repaired macro fetches that one.
+    /// One element a handle: the name that the object is declared by, with the class that is told here, in a repaired
+    /// macro with its own; empty for an object that the generated code does not know, whose class is not asked for. A
+    /// repaired macro fetches that one.
     void ResolveVariables(std::vector<CFxString>& names, const CFxCustomActionData& handleArray,
                           const CFxCustomActionData& classArray);
     /// The variable of an object that the present custom action has to fetch.
@@ -123,9 +124,11 @@ public:
     const ActionEntry* FindEntry(const OdDbHandle& handle) const;
     /// The name that a declaration gives the entry; empty for a class outside the type table. Looks nothing up.
     CFxString DeclaredName(const ActionEntry& entry) const;
-    /// The class that a known object is named by, which is the one that is told; in a repaired macro the one that it is
-    /// declared by.
-    const OdRxClass* NamingClass(const ActionEntry& entry, const OdRxClass* told) const;
+    /// The same for a statement that only objects of that class have; null in a repaired macro for an object that is
+    /// declared as another one.
+    const ActionEntry* FindAs(const OdDbHandle& handle, const OdRxClass* cls) const;
+    /// Whether the class that is told gives another variable than the one that is declared.
+    bool IsOtherClass(const ActionEntry& entry, const OdRxClass* told) const;
     /// Of the statements of the present action.
     void NoteFault(const inkmacro::Fault& fault) const;
     /// Their fault is to name an object that no statement inserts.

@@ -151,12 +151,18 @@ void CFxConverterIWAPIImpl::NoteUnmade() const
     NoteFault(kUnmade);
 }
 
-const OdRxClass* CFxConverterIWAPIImpl::NamingClass(const ActionEntry& entry, const OdRxClass* told) const
+bool CFxConverterIWAPIImpl::IsOtherClass(const ActionEntry& entry, const OdRxClass* told) const
 {
     if (told == entry.cls || NumberedVariable(told, 0) == NumberedVariable(entry.cls, 0))
-        return told;
+        return false;
     NoteFault(kOtherClass);
-    return writer.repairs ? entry.cls : told;
+    return true;
+}
+
+const ActionEntry* CFxConverterIWAPIImpl::FindAs(const OdDbHandle& handle, const OdRxClass* cls) const
+{
+    const ActionEntry* const entry = FindEntry(handle);
+    return entry && IsOtherClass(*entry, cls) && writer.repairs ? nullptr : entry;
 }
 
 ActionEntry CFxConverterIWAPIImpl::RegisterObject(const OdDbHandle& handle, const OdRxClass* cls)
@@ -218,7 +224,7 @@ CFxString CFxConverterIWAPIImpl::VariableOfMade(const CFxString& handedOver, con
 
 CFxString CFxConverterIWAPIImpl::VariableWithoutFetch(const OdDbHandle& handle, const OdRxClass* cls)
 {
-    if (!FindEntry(handle) && HasInterface(cls)) {
+    if (!FindAs(handle, cls) && HasInterface(cls)) {
         NoteUnmade();
         if (writer.repairs)
             return Fetched(handle, cls);
@@ -232,27 +238,30 @@ void CFxConverterIWAPIImpl::ResolveVariables(std::vector<CFxString>& names, cons
     const std::vector<OdDbHandle>& objects = handleArray.GetHandleArray();
     const std::vector<const OdRxClass*>& classes = classArray.GetClassArray();
     names.assign(objects.size(), {});
-    for (std::size_t i = 0; i < objects.size(); ++i)
-        if (const ActionEntry* const entry = FindEntry(objects[i]))
-            names[i] = DeclaredName({NamingClass(*entry, ClassAt(classes, i)), entry->ordinal});
-        else if (writer.repairs)
+    for (std::size_t i = 0; i < objects.size(); ++i) {
+        if (const ActionEntry* const entry = FindEntry(objects[i])) {
+            const OdRxClass* const told = ClassAt(classes, i);
+            const bool asDeclared = IsOtherClass(*entry, told) && writer.repairs;
+            names[i] = DeclaredName({asDeclared ? entry->cls : told, entry->ordinal});
+        } else if (writer.repairs) {
             names[i] = FetchedUnknown(objects[i], ClassAt(classes, i));
+        }
+    }
 }
 
 /// Takes the suffixes off after the number was put on, and only the one of smart pointers: in C++ a region or a view
 /// tile gets a name like "iwregion_c*3" here, which no compiler takes.
 void CFxConverterIWAPIImpl::ResolveVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) const
 {
-    const ActionEntry* const entry = FindEntry(handle);
+    const ActionEntry* const entry = FindAs(handle, cls);
     CFxString type;
     CFxString second;
     if (!entry || GetApiTypeName(cls, type, second) != kFxSuccess)
         return;
-    const CFxString declared = DeclaredName({NamingClass(*entry, cls), entry->ordinal});
     name = numbered(type, entry->ordinal);
     name.replace("_ptr", "");
     if (name.toQString().contains('*'))
         NoteFault(kStarInName);
     if (writer.repairs)
-        name = declared;
+        name = DeclaredName({cls, entry->ordinal});
 }

@@ -97,7 +97,10 @@ bool CFxConverterIWAPIObject::AddressChangedObject(const OdRxClass* cls, const O
         return true;
     }
     if (driver.FindEntry(handle)) {
-        name = NameObject(handle, cls);
+        if (writer.repairs)
+            text += EmitObjectVariable(handle, cls, name);
+        else
+            name = NameObject(handle, cls);
         return true;
     }
     if (cls == OdDbBlockTableRecord::desc() && hasRecord(list, "Objects")) {

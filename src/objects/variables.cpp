@@ -23,9 +23,8 @@ bool CFxConverterIWAPIObject::NameVariable(const OdDbHandle& handle, const OdRxC
 {
     if (!HasInterface(cls))
         return false;
-    const ActionEntry* const entry = driver.FindEntry(handle);
-    name = ObjectVariableName(entry ? driver.NamingClass(*entry, cls) : cls, IdOf(handle),
-                              entry ? entry->ordinal : ++driver.objectCounter);
+    const ActionEntry* const entry = driver.FindAs(handle, cls);
+    name = ObjectVariableName(cls, IdOf(handle), entry ? entry->ordinal : ++driver.objectCounter);
     return !entry;
 }
 

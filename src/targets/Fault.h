@@ -46,7 +46,7 @@ public:
     /// Null words leave the statement out.
     Mend(const Phrase& phrase, Target target, const char* reason, const char* words);
     /// The words are made of the faithful ones.
-    Mend(const Phrase& phrase, Target target, const char* reason, QByteArray (*reword)(QByteArray words));
+    Mend(const Phrase& phrase, Target target, const char* reason, QByteArray (&reword)(QByteArray words));
 
     /// Null for words that leave the statement out.
     const Template* words() const { return words_ ? &*words_ : nullptr; }
