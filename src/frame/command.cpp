@@ -185,6 +185,8 @@ void CFxConverterIWAPIImpl::LoseBehind(const CFxActionArray& children, unsigned 
         const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
         if (!IsPassedOver(child))
             NoteLoss(ActionTitle(child), reason);
+        if (const auto added = odrxQuery<CFxObjectAdded>(child))
+            unmade.insert(added->GetHandle());
     }
 }
 
