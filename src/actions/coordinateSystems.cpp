@@ -4,10 +4,15 @@
 #include "targets/coordinateSystems.h"
 #include "actions/handedVariable.h"
 #include "actions/kinds.h"
+#include "frame/losses.h"
 
 namespace inkmacro {
 
 namespace {
+
+const Fault kNoEntity{"EmitAlignCoordinateSystemToEntity",
+                      {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                      "an entity without a variable leaves its place empty"};
 
 QString standardSystem(Writer& writer, const CFxCustomAction& action)
 {
@@ -93,8 +98,16 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionCoordinateSystemOfEntity(OdSmar
                                                                           QString& text)
 {
     inkmacro::takeVariable(writer, text, inkmacro::HandedVariable::Replaced);
+    const OdDbHandle handle = action->GetData(0).GetHandle();
+    const OdRxClass* const cls = action->GetData(1).GetClass();
     CFxString entity;
-    ResolveVariable(action->GetData(0).GetHandle(), action->GetData(1).GetClass(), entity);
+    ResolveVariable(handle, cls, entity);
+    if (entity.isEmpty()) {
+        NoteFault(inkmacro::kNoEntity);
+        entity = FetchedUnknown(handle, cls);
+    }
+    if (entity.isEmpty() && writer.repairs)
+        return PassOver(action, "the macro does not have the entity");
     text = EmitAlignCoordinateSystemToEntity(writer, entity, action->GetData(2).GetPoint());
     return kFxSuccess;
 }

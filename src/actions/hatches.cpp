@@ -50,10 +50,10 @@ HatchGradient gradientAt(const CFxCustomAction& action, std::int32_t first)
 /// Of the ways to make a hatch the first one that is set is taken; the last needs no mark.
 std::int32_t CFxConverterIWAPIImpl::ConvertActionInsertHatch(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    const CFxString hatch = takeVariable(writer, text, HandedVariable::Replaced);
+    const CFxString handedOver = takeVariable(writer, text, HandedVariable::Replaced);
+    const CFxString hatch = VariableOfMade(handedOver, "AcDbHatch");
     const HatchPattern pattern{action->GetData(0).GetString(), action->GetData(1).GetDouble(),
                                action->GetData(2).GetDouble()};
-    insertedHatches.insert(hatch);
     const bool byInternalPoints = action->GetData(3).GetBool();
     const bool byEntities = action->GetData(4).GetBool();
     const bool byBulges = action->GetData(5).GetBool();
@@ -72,7 +72,11 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionInsertHatch(OdSmartPtr<CFxCusto
     } else {
         text = hatchByBoundary(writer, hatch, pattern, *action);
     }
-    if (hasGradient)
+    if (!text.isEmpty())
+        insertedHatches.insert(hatch);
+    else if (!handedOver.isEmpty())
+        unmade.insert(lastFinished);
+    if (hasGradient && (!text.isEmpty() || !writer.repairs))
         text += EmitHatchGradient(writer, hatch, gradientAt(*action, gradient));
     return kFxSuccess;
 }

@@ -17,7 +17,7 @@ using inkmacro::takeVariable;
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionEmbeddedObject(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    const CFxString name = takeVariable(writer, text, HandedVariable::Replaced);
+    const CFxString name = VariableOfMade(takeVariable(writer, text, HandedVariable::Replaced), "AcDbOle2Frame");
     const int flags = action->GetData(0).GetInt();
     const CFxString& path = action->GetData(1).GetString();
     if (path.isEmpty())
@@ -29,7 +29,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionEmbeddedObject(OdSmartPtr<CFxCu
 
 std::int32_t CFxConverterIWAPIImpl::ConvertActionRegion(OdSmartPtr<CFxCustomAction> action, QString& text)
 {
-    const CFxString name = takeVariable(writer, text, HandedVariable::Replaced);
+    const CFxString name = VariableOfMade(takeVariable(writer, text, HandedVariable::Replaced), "AcDbRegion");
     std::vector<CFxString> names;
     ResolveVariables(names, action->GetData(0), action->GetData(1));
     QStringList curves;

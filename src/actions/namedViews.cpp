@@ -5,10 +5,12 @@
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/StatementGroup.h"
 #include "frame/losses.h"
+#include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/viewBackgrounds.h"
 #include "targets/sheets.h"
 #include "targets/variables.h"
+#include "targets/wording.h"
 
 #include <QCoreApplication>
 
@@ -57,12 +59,19 @@ QString background(Writer& writer, const CFxCustomAction& action, const CFxStrin
     if (kind == kGradient)
         return EmitGradientBackground(writer, action.GetData(8).GetColor(), action.GetData(9).GetColor(),
                                       action.GetData(10).GetColor(), action.GetData(11).GetDouble(), 0.0, view);
-    if (kind == kImage)
-        return EmitImageBackground(writer, action.GetData(10).GetString(), action.GetData(11).GetString(),
-                                   {action.GetData(12).GetDouble(), action.GetData(13).GetDouble(),
-                                    action.GetData(14).GetDouble(), action.GetData(15).GetDouble()},
-                                   view);
-    return {};
+    if (kind != kImage)
+        return {};
+    const CFxString& position = action.GetData(11).GetString();
+    const bool known = inkmacro::isWord(position);
+    if (!known && writer.repairs) {
+        NoteLoss(ActionTitle(&action), "there is no position of that name");
+        return {};
+    }
+    const QString image = EmitImageBackground(writer, action.GetData(10).GetString(), position,
+                                              {action.GetData(12).GetDouble(), action.GetData(13).GetDouble(),
+                                               action.GetData(14).GetDouble(), action.GetData(15).GetDouble()},
+                                              view);
+    return known ? image : writer.faulty(image, inkmacro::textAsCode);
 }
 
 } // namespace
@@ -103,7 +112,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionViewBackground(OdSmartPtr<CFxCu
     const bool onSheet = action->GetData(3).GetBool();
     const CFxString& sheetName = action->GetData(4).GetString();
     const CFxString& name = action->GetData(5).GetString();
-    if (!cls || !IsSupportedClass(cls->name()))
+    if (!cls || !IsSupportedClass(cls->name()) || (writer.repairs && cls != OdDbViewTableRecord::desc()))
         return PassOver(action, "objects of that class have no statements");
 
     if (isNew && view.isEmpty() && !FindEntry(handle)) {

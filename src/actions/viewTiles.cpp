@@ -4,7 +4,9 @@
 #include "actions/handedVariable.h"
 #include "frame/CFxConverterIWAPIImpl.h"
 #include "frame/counters.h"
+#include "frame/losses.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "targets/wording.h"
 #include "targets/zoom.h"
 
 #include <array>
@@ -46,6 +48,11 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionZoom(OdSmartPtr<CFxCustomAction
 {
     takeVariable(writer, text, HandedVariable::Replaced);
     const CFxString& range = action->GetData(0).GetString();
+    if (!inkmacro::isWord(range)) {
+        NoteFault(inkmacro::textAsCode);
+        if (writer.repairs)
+            return PassOver(action, "there is no range of that name");
+    }
     text = range.equalNoCase("iwZoomRange_Window")
                ? EmitZoom(writer, range, action->GetData(1).GetPoint(), action->GetData(2).GetPoint())
                : EmitZoom(writer, range);

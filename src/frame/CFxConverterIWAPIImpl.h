@@ -9,11 +9,13 @@
 
 #include <map>
 #include <set>
+#include <vector>
 
 class ActionKinds;
 class CFxConverterIWAPIObject;
 class StatementGroup;
 struct CornerSide;
+struct CutObjects;
 struct FileObject;
 struct TrimPiece;
 
@@ -102,12 +104,18 @@ public:
     /// One element a handle: its name as ResolveVariables gives it, the object type enumerator (empty where the name
     /// is), the handle's text.
     EntityList ResolveNames(const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray);
-    /// One element a handle: the name that the object is declared by, with the class that is told here; empty for an
-    /// object that the generated code does not know, whose class is not asked for. A repaired macro fetches that one.
+    /// One element a handle: the name that the object is declared by, with the class that is told here, in a repaired
+    /// macro with its own; empty for an object that the generated code does not know, whose class is not asked for. A
+    /// repaired macro fetches that one.
     void ResolveVariables(std::vector<CFxString>& names, const CFxCustomActionData& handleArray,
                           const CFxCustomActionData& classArray);
     /// The variable of an object that the present custom action has to fetch.
     CFxString Fetched(const OdDbHandle& handle, const OdRxClass* cls);
+    /// The same of an object that the generated code does not know, in a repaired macro; else empty.
+    CFxString FetchedUnknown(const OdDbHandle& handle, const OdRxClass* cls);
+    /// The variable of what the present custom action makes: the one that was handed over, without one that of an
+    /// object which a repaired macro declares.
+    CFxString VariableOfMade(const CFxString& handedOver, const char* className);
     /// The name of an object whose fetch is not written, but in a repaired macro.
     CFxString VariableWithoutFetch(const OdDbHandle& handle, const OdRxClass* cls);
     /// One object's name, or the name as it was. Spelled another way than the declared name: see there.
@@ -116,6 +124,15 @@ public:
     const ActionEntry* FindEntry(const OdDbHandle& handle) const;
     /// The name that a declaration gives the entry; empty for a class outside the type table. Looks nothing up.
     CFxString DeclaredName(const ActionEntry& entry) const;
+    /// The same for a statement that only objects of that class have; null in a repaired macro for an object that is
+    /// declared as another one.
+    const ActionEntry* FindAs(const OdDbHandle& handle, const OdRxClass* cls) const;
+    /// Whether the class that is told gives another variable than the one that is declared.
+    bool IsOtherClass(const ActionEntry& entry, const OdRxClass* told) const;
+    /// Of the statements of the present action.
+    void NoteFault(const inkmacro::Fault& fault) const;
+    /// Their fault is to name an object that no statement inserts.
+    void NoteUnmade() const;
     /// Whether a custom action of that kind stands in the same command as what is being converted.
     bool HasSibling(std::int32_t kind) const;
     /// The same of a block definition that is added or changed.
@@ -148,8 +165,12 @@ public:
     /// Variables of objects that a repaired macro fetches in front of the present custom action, and what fetches them.
     std::map<OdDbHandle, CFxString> fetched;
     QString fetches;
-    /// Whether the variable of an unmade object was asked for; set back for each statement.
-    mutable bool usesUnmade = false;
+    /// What the statements of the present action have to do with the objects that they name.
+    mutable std::vector<const inkmacro::Fault*> statementFaults;
+    /// Layers that a statement of the present command has declared, and those of former commands, whose blocks hide
+    /// them.
+    std::set<OdDbHandle> fetchedLayers;
+    std::set<OdDbHandle> outOfReach;
     /// Ordinal of the last object that got a variable.
     std::uint32_t objectCounter = 0;
 
@@ -183,6 +204,7 @@ private:
     /// for an object whose class is not converted.
     bool NameInsertedObject(const CFxCustomAction& action, CFxString& name);
     std::vector<TrimPiece> RegisterPieces(const CFxCustomAction& trim);
+    bool TakeCutObjects(const CFxCustomAction& action, CutObjects& cut);
     /// One side of a corner, in three data from the first on.
     CornerSide SideOf(const CFxCustomAction& action, std::int32_t first);
     QString NoteOfLeader(const OdDbHandle& note, const OdRxClass* noteClass, const OdDbObjectId& leader,

@@ -87,6 +87,10 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
         writer.write(stream, end);
     if (!writer.repairs)
         writer.UniqueCounter = outerCounter;
+    const bool hides = written && writer.target != Target::JavaScript && writer.target != Target::Vba;
+    if (hides)
+        outOfReach.merge(fetchedLayers);
+    fetchedLayers.clear();
     return kFxSuccess;
 }
 
@@ -181,6 +185,8 @@ void CFxConverterIWAPIImpl::LoseBehind(const CFxActionArray& children, unsigned 
         const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
         if (!IsPassedOver(child))
             NoteLoss(ActionTitle(child), reason);
+        if (const auto added = odrxQuery<CFxObjectAdded>(child))
+            unmade.insert(added->GetHandle());
     }
 }
 

@@ -22,11 +22,6 @@ const inkmacro::Fault kIllegalName{"EmitFileHeader",
                                    {inkmacro::Target::CSharp, inkmacro::Target::VbNet, inkmacro::Target::CppCom},
                                    "the file's name stands in code, where it is no identifier"};
 
-const inkmacro::Fault kUnmade{"EmitObjectVariable",
-                              {inkmacro::Target::Cpp, inkmacro::Target::CSharp, inkmacro::Target::JavaScript,
-                               inkmacro::Target::VbNet, inkmacro::Target::CppCom, inkmacro::Target::Vba},
-                              "an object that no statement inserts has a variable without a value"};
-
 const inkmacro::Fault kNoSketchManager{"EmitFileHeader",
                                        {inkmacro::Target::Cpp, inkmacro::Target::CppCom, inkmacro::Target::CSharp,
                                         inkmacro::Target::VbNet, inkmacro::Target::Vba},
@@ -150,10 +145,10 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const O
 std::int32_t CFxConverterIWAPIImpl::ConvertOrLose(const OdRxObjectPtr& action, QString& text)
 {
     const LossWatch losses;
-    usesUnmade = false;
+    statementFaults.clear();
     const std::int32_t status = ConvertAction(action, text);
-    if (usesUnmade)
-        text = writer.faulty(text, kUnmade);
+    for (const inkmacro::Fault* const fault : statementFaults)
+        text = writer.faulty(text, *fault);
     if (status != kFxSuccess && !losses.any())
         NoteLoss(ActionTitle(action.get()), "it could not be converted");
     return status;
@@ -233,6 +228,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertModified(const OdSmartPtr<CFxObjectMo
         // The variable is gone behind its command.
         if (writer.repairs)
             ObjectVariableMap.erase(handle);
+        else
+            fetchedLayers.insert(handle);
         return status;
     }
     return Objects().ConvertObjectModified(action, text);

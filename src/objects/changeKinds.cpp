@@ -445,8 +445,12 @@ constinit const ChangeKind prefixAndSuffix{.statement = setChosen<setPrefixAndSu
 constinit const ChangeKind escaped{[](const Change& change) {
     return setQuoted(change, inkmacro::escapeText(change.writer.target, change.value.GetString()));
 }};
-constinit const ChangeKind unquoted{
-    [](const Change& change) { return setText(change, change.value.GetString(), false); }};
+constinit const ChangeKind unquoted{[](const Change& change) {
+    const CFxString& text = change.value.GetString();
+    if (inkmacro::isNumber(text))
+        return setText(change, text, false);
+    return change.writer.repairs ? QString() : change.writer.faulty(setText(change, text, false), inkmacro::textAsCode);
+}};
 constinit const ChangeKind integerText{
     [](const Change& change) { return setText(change, integerWord(change), false); }};
 

@@ -87,7 +87,8 @@ bool CFxConverterIWAPIObject::AddressChangedObject(const OdRxClass* cls, const O
     if (!noteLeader.isNull()) {
         name = NameObject(handle, cls);
         CFxString leader;
-        driver.usesUnmade = driver.usesUnmade || !driver.FindEntry(noteLeader.getHandle());
+        if (!driver.FindEntry(noteLeader.getHandle()))
+            driver.NoteUnmade();
         if (writer.repairs)
             text += EmitObjectVariable(noteLeader.getHandle(), OdDbLeader::desc(), leader);
         else
@@ -96,7 +97,10 @@ bool CFxConverterIWAPIObject::AddressChangedObject(const OdRxClass* cls, const O
         return true;
     }
     if (driver.FindEntry(handle)) {
-        name = NameObject(handle, cls);
+        if (writer.repairs)
+            text += EmitObjectVariable(handle, cls, name);
+        else
+            name = NameObject(handle, cls);
         return true;
     }
     if (cls == OdDbBlockTableRecord::desc() && hasRecord(list, "Objects")) {

@@ -23,7 +23,7 @@ bool CFxConverterIWAPIObject::NameVariable(const OdDbHandle& handle, const OdRxC
 {
     if (!HasInterface(cls))
         return false;
-    const ActionEntry* const entry = driver.FindEntry(handle);
+    const ActionEntry* const entry = driver.FindAs(handle, cls);
     name = ObjectVariableName(cls, IdOf(handle), entry ? entry->ordinal : ++driver.objectCounter);
     return !entry;
 }

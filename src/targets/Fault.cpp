@@ -44,4 +44,9 @@ Mend::Mend(const Phrase& phrase, Target target, const char* reason, const char* 
     phrase.mends_[static_cast<std::size_t>(target)] = this;
 }
 
+Mend::Mend(const Phrase& phrase, Target target, const char* reason, QByteArray (&reword)(QByteArray words))
+    : Mend(phrase, target, reason, reword(phrase.literals_[static_cast<std::size_t>(target)]).constData())
+{
+}
+
 } // namespace inkmacro

@@ -2,6 +2,8 @@
 
 #include "targets/Phrase.h"
 
+#include <QByteArray>
+
 #include <initializer_list>
 #include <optional>
 #include <vector>
@@ -43,6 +45,8 @@ class Mend : public Fault
 public:
     /// Null words leave the statement out.
     Mend(const Phrase& phrase, Target target, const char* reason, const char* words);
+    /// The words are made of the faithful ones.
+    Mend(const Phrase& phrase, Target target, const char* reason, QByteArray (&reword)(QByteArray words));
 
     /// Null for words that leave the statement out.
     const Template* words() const { return words_ ? &*words_ : nullptr; }

@@ -386,14 +386,15 @@ private:
     bool comment_ = false;
 };
 
-const Fault kBrokenQuotes{"EscapeText",
-                          {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
-                          "a text closes the literal that it stands in, or is read as another text there"};
 const Fault kReadMarker{"EscapeText",
                         {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
                         "a text holds a percent sign and a digit, and a later value of the statement stands there"};
 
 } // namespace
+
+const Fault brokenQuotes{"EscapeText",
+                         {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                         "a text closes the literal that it stands in, or is read as another text there"};
 
 Template::Template(const char* latin1, std::optional<Target> language)
     : language_(language), text_(QString::fromLatin1(latin1))
@@ -531,7 +532,7 @@ void Fill::markFaults(QString& outcome, int used) const
         mark(kReadMarker);
     }
     if (template_->quotes_ && hasBrokenQuotes(used)) {
-        mark(kBrokenQuotes);
+        mark(brokenQuotes);
     }
 }
 

@@ -59,6 +59,9 @@ private:
     bool quotes_ = false; ///< some marker stands between quotes
 };
 
+/// A text closes the literal that it stands in, or is read as another text there.
+extern const Fault brokenQuotes;
+
 /// What a conversion asks of the statements that it fills.
 struct FillMode
 {

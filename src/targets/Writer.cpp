@@ -100,7 +100,7 @@ QString Writer::indentation() const
 QString Writer::quoted(const QString& text) const
 {
     if (!repairs)
-        return text;
+        return breaksQuotes(text, target) ? faulty(text, brokenQuotes) : text;
     QString escaped;
     appendQuoted(escaped, text, target);
     return escaped;

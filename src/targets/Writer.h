@@ -31,7 +31,7 @@ public:
     QString indentation() const;
 
     /// A text for a place that its literal has no quotes around, but the values next to it: in a repaired macro
-    /// escaped.
+    /// escaped, in any other with a note when it breaks them.
     QString quoted(const QString& text) const;
     /// The statement with a note that it has the fault, which a repaired macro has not: there it stays as it is.
     QString faulty(QString statement, const inkmacro::Fault& fault) const;

@@ -2,6 +2,8 @@
 
 #include "targets/namedViews.h"
 
+#include "targets/bstrTexts.h"
+
 using namespace inkmacro;
 
 static const Phrase createModelView{"EmitCreateNamedView",
@@ -95,6 +97,7 @@ static const Phrase setModelViewClass{
         .vbNet = "%1%3.GetNamedView().Class = \"%4\"%2%2",
         .vba = "%1%3.GetNamedView().Class = \"%4\"%2%2",
     }};
+static const Mend bstrModelViewClass(setModelViewClass, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 static const Phrase setSheetViewClass{
     "EmitSetNamedViewClass",
@@ -117,6 +120,7 @@ static const Phrase setSheetViewClass{
                "%1Set sheetNamedView_%3_class = iwViewManager.GetSheetNamedView( \"%4\" )%2"
                "%1sheetNamedView_%3_class.GetNamedView().Class = \"%5\"%2%2",
     }};
+static const Mend bstrSheetViewClass(setSheetViewClass, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 QString EmitSetNamedViewClass(Writer& writer, const NamedViewReference& view, const CFxString& className)
 {

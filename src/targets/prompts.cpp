@@ -2,6 +2,8 @@
 
 #include "targets/prompts.h"
 
+#include "targets/bstrTexts.h"
+
 using namespace inkmacro;
 
 static QString prompted(Writer& writer, const Phrase& phrase, const CFxString& prompt, const OdGePoint3d& value)
@@ -225,6 +227,7 @@ static const Phrase promptString{
         .vba = "%1Dim IO_text%3 As String%2%1IO_text%3 = \"%5\"%2"
                "%1iwApp.GetCommandMessage().PromptForString True, \"%4\", \"%5\", IO_text%3%2",
     }};
+static const Mend bstrAnswer(promptString, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 QString EmitPromptString(Writer& writer, const CFxString& prompt, const CFxString& value)
 {
@@ -250,6 +253,7 @@ static const Phrase keywordLists{
         .vba = "%1Dim iwlocal%2(%4) As String\n%1Dim iwglobal%2(%4) As String\n%1Dim keyword%2 As String\n"
                "%1keyword%2 = \"%3\"\n",
     }};
+static const Mend bstrKeyword(keywordLists, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 static const Phrase localKeyword{"EmitPromptKeyword: element of a list",
                                  {
@@ -305,6 +309,7 @@ static const Phrase promptKeyword{
                "%1iwApp.GetCommandMessage().PromptForKeyword2 \"%4\", ErrorMsg%3, iwglobal%5, iwlocal%5, 1, "
                "keyword%5, value%3%2",
     }};
+static const Mend bstrErrorMessage(promptKeyword, Target::CppCom, literalIsNoBstr, textsAsBstr);
 static const Mend scriptKeyword(
     promptKeyword, Target::JavaScript, "the error message has no value",
     "%1var value%3;%2%1var ErrorMsg%3 = \"\";%2%1var result = mCmdMess.PromptForKeyword2(\"%4\",ErrorMsg%3,iwglobal%5,iwlocal%5,1, keyword%5);%2");

@@ -2,6 +2,8 @@
 
 #include "targets/sheets.h"
 
+#include "targets/bstrTexts.h"
+
 using namespace inkmacro;
 
 // Activating a space works on the variables that the frame declares.
@@ -124,6 +126,7 @@ static const Phrase renameSheet{
         .vba = "%1Dim PreSheet%4 As Inkwright.Sheet%2%1Set PreSheet%4 = iwDoc.GetSheet(\"%3\")%2"
                "%1If Not PreSheet%4 Is Nothing Then%2%1   PreSheet%4.Name = \"%5\"%2%1End If%2",
     }};
+static const Mend bstrSheetName(renameSheet, Target::CppCom, literalIsNoBstr, textsAsBstr);
 static const Mend scriptRename(
     renameSheet, Target::JavaScript, "a variable that nothing declares",
     "%1var PreSheet%4 = mDoc.GetSheet(\"%3\");%2%1if (null != PreSheet%4)%2%1   PreSheet%4.put_Name(\"%5\");%2");

@@ -59,4 +59,21 @@ QString enumeratorText(Target target, const QString& type, const QString& enumer
     return target == Target::CSharp ? type + '.' + enumerator : enumerator;
 }
 
+const Fault textAsCode{"EscapeText",
+                       {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                       "a text stands where a number or an enumerator belongs"};
+
+bool isNumber(const QString& text)
+{
+    static const QRegularExpression number(
+        QRegularExpression::anchoredPattern(R"([-+]?(\d+\.?\d*|\.\d+)([eE][-+]?\d+)?)"));
+    return number.match(text).hasMatch();
+}
+
+bool isWord(const QString& text)
+{
+    static const QRegularExpression word(QRegularExpression::anchoredPattern("[A-Za-z_][A-Za-z_0-9]*"));
+    return word.match(text).hasMatch();
+}
+
 } // namespace inkmacro

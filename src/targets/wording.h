@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/Target.h"
+#include "targets/Fault.h"
 
 #include <QString>
 
@@ -30,5 +30,13 @@ QString truthWord(Target target, bool value);
 
 /// The form in which the target writes an enumerator, as `iwLineWeight_e` and `iwLnWt_ByLayer`.
 QString enumeratorText(Target target, const QString& type, const QString& enumerator);
+
+/// A text that a statement takes for a number or an enumerator, though it is neither.
+extern const Fault textAsCode;
+
+/// A number as code has it.
+bool isNumber(const QString& text);
+/// What may be an enumerator.
+bool isWord(const QString& text);
 
 } // namespace inkmacro

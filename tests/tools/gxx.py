@@ -11,7 +11,7 @@ ERROR = re.compile(r"^(.*?):(\d+):\d+: (?:fatal )?error: (.*)$", re.MULTILINE)
 def rejections(options, *files):
     """What is rejected of sources, where it stands."""
     compiler, = harness.need("g++")
-    result = harness.run(compiler, "-std=c++17", "-fsyntax-only", "-w", *options, *files)
+    result = harness.run(compiler, "-std=c++17", "-fsyntax-only", "-Werror=write-strings", *options, *files)
     found = [harness.Rejection(pathlib.Path(file), int(line), message)
              for file, line, message in ERROR.findall(result.stderr)]
     if result.returncode != 0 and not found:

@@ -8,7 +8,7 @@ import interface
 
 TYPES = {"double": "double", "int": "long", "long": "long", "bool": "VARIANT_BOOL", "string": "const _bstr_t &",
          "object": "_com_argument_t<IDispatch>"}
-RAW_TYPES = {**TYPES, "string": "BSTR"}
+RAW_TYPES = {**TYPES, "string": "_bstr_argument_t"}
 OUT_TYPES = {"double": "double *", "int": "long *", "long": "long *", "bool": "VARIANT_BOOL *", "string": "BSTR *",
              "object": "IDispatch **"}
 RESULTS = {**TYPES, "string": "_bstr_t", "object": "IDispatchPtr", "": "HRESULT"}

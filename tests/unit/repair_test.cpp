@@ -3,12 +3,17 @@
 #include "TestActions.h"
 #include "TestRepair.h"
 #include "TestTarget.h"
+#include "objects/targets/dimensionOptions.h"
 #include "targets/Fault.h"
 #include "targets/Marks.h"
 #include "targets/Phrase.h"
+#include "targets/bstrTexts.h"
 #include "targets/quoting.h"
+#include "targets/wording.h"
 
 #include <QStringList>
+
+#include <algorithm>
 
 using namespace inkmacro;
 
@@ -17,6 +22,14 @@ namespace {
 std::string shownTarget(Target target)
 {
     return "target " + std::to_string(static_cast<int>(target));
+}
+
+/// Of the last conversion.
+std::ptrdiff_t timesNoted(const char* reason)
+{
+    return std::ranges::count_if(GetFxSystemServices()->Notes().GetFaults(), [&](const CFxFaultNote& note) {
+        return note.reason.toQString() == QLatin1String(reason);
+    });
 }
 
 TEST(Quoting, EscapesAsTheLanguageDoes)
@@ -308,6 +321,185 @@ TEST(RepairedCommand, HasItsDeclarationsWithoutABlockToo)
         EXPECT_EQ(macro.count("Line line1;"), 1);
         EXPECT_LT(macro.indexOf("Line line1;"), macro.indexOf(" line1 = "));
     }
+}
+
+/// A way in which objects get lost on their way into a statement of a C# macro.
+struct Hole
+{
+    const char* fault; ///< what is said of the faithful macro
+    CFxActionArray actions;
+    const char* faithful; ///< stands there and not in the repaired macro
+    const char* repaired; ///< the other way round; empty where the statement is left out
+};
+
+using Handles = std::vector<OdDbHandle>;
+using Classes = std::vector<const OdRxClass*>;
+using Points = OdArray<OdGePoint3d>;
+
+OdSmartPtr<TestCommand> custom(std::int32_t kind, const TestData& data)
+{
+    return command({odrxNew<TestCustom>(kind, data)});
+}
+
+std::vector<Hole> holes()
+{
+    const auto cls = [](const char* name) -> const OdRxClass* { return oddbClassByName(name); };
+    const OdRxObjectPtr line = command({addedLine(1)});
+    const OdRxObjectPtr loose = command({odrxNew<TestAdded>("AcDbRegion", 2)});
+    const OdDbHandle known(1);
+    const OdDbHandle unmade(2);
+    const OdDbHandle unknown(0xA2);
+    const OdGePoint3d point{1, 2, 0};
+    const TestData hatch{CFxString("ANSI31"), 1.0, 0.0, true, false, false, false, OdArray<OdGePoint2d>{{2, 1}}};
+    static constexpr char unmadeUsed[] = "an object that no statement inserts has a variable without a value";
+    static constexpr char otherClass[] = "an object that is declared as one class is named as another one";
+    static constexpr char textAsCodeNoted[] = "a text stands where a number or an enumerator belongs";
+    static constexpr char unnamed[] = "what a custom action makes has no variable when its command has no such object";
+    return {
+        {unmadeUsed,
+         {line, loose,
+          custom(7, {Handles{known}, Classes{cls("AcDbLine")}, Handles{unmade, known},
+                     Classes{cls("AcDbRegion"), cls("AcDbLine")}, Points{{5, 0, 0}, {6, 0, 0}}})},
+         "new DispatchWrapper(region2)",
+         "EntitiesToExtendArray0[0] = new DispatchWrapper(line1)"},
+        {unmadeUsed,
+         {line, loose,
+          custom(8, {Handles{known}, Classes{cls("AcDbLine")}, point, Handles{unmade}, Classes{cls("AcDbRegion")},
+                     point})},
+         "FilletEntities(",
+         ""},
+        {unmadeUsed,
+         {loose, custom(6, {Handles{unmade}, Classes{cls("AcDbRegion")}, Handles{}, Classes{}, Points{}, Handles{},
+                            Classes{}, Points{}, OdArray<double>{}})},
+         "TrimEntities(",
+         ""},
+        {unnamed, {custom(18, hatch)}, "  = iwSketchManager.InsertHatch", "hatch1 = iwSketchManager.InsertHatch"},
+        {unnamed,
+         {custom(15, {1, CFxString("a.xls")})},
+         "  = iwSketchManager.InsertEmbedded",
+         "EmbeddedObject embeddedobject1;"},
+        {unnamed,
+         {line, custom(44, {Handles{known}, Classes{cls("AcDbLine")}})},
+         "  = iwRegions",
+         "region2 = iwRegions"},
+        {"an entity without a variable leaves its place empty",
+         {custom(12, {unknown, cls("AcDbLine"), point})},
+         "ByEntity( , ",
+         "ByEntity( line1, "},
+        {unmadeUsed, {loose, custom(12, {unmade, cls("AcDbRegion"), point})}, "ByEntity( region1, ", ""},
+        {otherClass,
+         {line, command({odrxNew<TestModified>("AcDbArc", 1, PropertyList{odrxNew<TestProperty>("Thickness", 2.0)})})},
+         "circlearc1",
+         "CircleArc circlearc2 = iwApp.GetActiveDocument().GetObjectByHandle"},
+        {textAsCodeNoted, {loose, custom(43, {CFxString("iwZoomRange_All; f()")})}, "f()", ""},
+        {otherClass,
+         {line, custom(4, {Handles{known}, Classes{cls("AcDbArc")}, point, 0.5})},
+         "circlearc1",
+         "DispatchWrapper(line1)"},
+    };
+}
+
+TEST(RepairedMacro, HasNoPlaceWithoutItsObject)
+{
+    const TestTarget host(Target::CSharp);
+    for (const Hole& hole : holes()) {
+        TestConversion conversion;
+        ASSERT_EQ(conversion.run(hole.actions), kFxSuccess);
+        const QString faithful = conversion.body();
+        EXPECT_TRUE(faithful.contains(hole.faithful)) << hole.faithful << " in\n" << faithful.toStdString();
+        EXPECT_EQ(faithful.contains(hole.repaired), QString(hole.repaired).isEmpty()) << hole.repaired;
+        EXPECT_EQ(timesNoted(hole.fault), 1) << hole.fault;
+
+        const TestRepair repair;
+        ASSERT_EQ(conversion.run(hole.actions), kFxSuccess);
+        const QString repaired = conversion.body();
+        EXPECT_FALSE(repaired.contains(hole.faithful)) << hole.faithful << " in\n" << repaired.toStdString();
+        EXPECT_TRUE(repaired.contains(hole.repaired)) << hole.repaired << " in\n" << repaired.toStdString();
+        const bool leftOut = QString(hole.repaired).isEmpty();
+        EXPECT_EQ(GetFxSystemServices()->Notes().GetLosses().size() > 1, leftOut) << hole.faithful;
+    }
+}
+
+// Behind the declaration of a trim's pieces another group begins.
+TEST(RepairedMacro, FetchesTrimmedObjectsInTheGroupOfTheTrim)
+{
+    const TestTarget host(Target::CSharp);
+    const TestRepair repair;
+    const OdRxClass* const line = oddbClassByName("AcDbLine");
+    const Handles unknown{OdDbHandle(0xA2)};
+    const TestData trim{unknown,       Classes{line},     unknown,
+                        Classes{line}, Points{{1, 0, 0}}, Handles{OdDbHandle(0xB0)},
+                        Classes{line}, Points{{2, 0, 0}}, OdArray<double>{0, 0, 0, 2, 0, 0}};
+    TestConversion conversion;
+    ASSERT_EQ(conversion.run({custom(6, trim)}), kFxSuccess);
+    const QString macro = conversion.body();
+    const auto piece = macro.indexOf("Line line2;");
+    const auto fetch = macro.indexOf("Line line1 = iwApp.GetActiveDocument().GetObjectByHandle");
+    EXPECT_NE(piece, -1) << macro.toStdString();
+    EXPECT_LT(piece, fetch) << macro.toStdString();
+    EXPECT_LT(fetch, macro.indexOf("new DispatchWrapper(line1)")) << macro.toStdString();
+}
+
+// Code takes such texts as they stand.
+TEST(CodeTexts, AreNumbersOrWords)
+{
+    for (const char* const text : {"0", "-2.5", "+.5", "3.", "1e-05", "1.5E+6"})
+        EXPECT_TRUE(isNumber(text)) << text;
+    for (const char* const text : {"", ".", "-", "2,5", "2.5;f()", "1e", "0x1", "inf", " 1", "1\n"})
+        EXPECT_FALSE(isNumber(text)) << text;
+    for (const char* const text : {"iwZoomRange_All", "_a1"})
+        EXPECT_TRUE(isWord(text)) << text;
+    for (const char* const text : {"", "1a", "a b", "a\n", "\u00E4", "a;f()"})
+        EXPECT_FALSE(isWord(text)) << text;
+}
+
+// Where blocks hide their locals, the layer's variable is gone behind its command.
+TEST(FaithfulMacro, TellsLayersThatAnotherCommandHasDeclared)
+{
+    const auto change = [] {
+        return odrxNew<TestModified>(
+            "AcDbLayerTableRecord", 7,
+            PropertyList{odrxNew<TestProperty>("Locked", CFxVariantCollectionElement(0, CFxString("Yes")))});
+    };
+    const std::pair<Target, int> cases[] = {{Target::Cpp, 1},        {Target::CppCom, 1}, {Target::CSharp, 1},
+                                            {Target::JavaScript, 0}, {Target::VbNet, 1},  {Target::Vba, 0}};
+    for (const auto& [target, expected] : cases) {
+        const TestTarget host(target);
+        const QTemporaryDir folder;
+        const CFxActionArray actions{command({change(), change()}), command({change()})};
+        const auto converter = CreateConverter(static_cast<std::int16_t>(target), 0, 0);
+        ASSERT_EQ(converter->Convert(folder.filePath("plate.txt"), actions), kFxSuccess);
+        EXPECT_EQ(timesNoted("a layer is declared in the block of a former command"), expected) << shownTarget(target);
+    }
+}
+
+// The quotes of this statement are values too.
+TEST(FaithfulMacro, TellsTextsThatBreakQuotesOfValues)
+{
+    for (const auto& [name, count] : {std::pair("_DOT", 0), {"_D\"OT", 1}}) {
+        TestTarget csharp(Target::CSharp);
+        csharp.writer.noteFaults();
+        QString statement = EmitSetArrow(csharp.writer, "a", "SetStartArrow", 3, name);
+        EXPECT_EQ(takeMarks(statement), count);
+        EXPECT_EQ(statement,
+                  QString(" a.SetStartArrow( iwDimensionArrowType_e.iwDimensionArrowType_Dot, \"%1\" );\n").arg(name));
+    }
+}
+
+TEST(BstrTexts, StandWhereALiteralIsGivenOrKept)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {R"(%1%3->put_%4( L"%5" );%2)", R"(%1%3->put_%4( _bstr_t(L"%5") );%2)"},
+        {R"(BSTR text%3 = L"%5";%2%1f->Ask( true, L"%4", &text%3);)",
+         R"(BSTR text%3 = SysAllocString(L"%5");%2%1f->Ask( true, L"%4", &text%3);)"},
+        {R"(BSTR none%3=L"";BSTR more = L"a";)",
+         R"(BSTR none%3=SysAllocString(L"");BSTR more = SysAllocString(L"a");)"},
+        {R"(if (a->GetName() == _bstr_t(L"%5")) a->put_Name( L"%6" );)",
+         R"(if (a->GetName() == _bstr_t(L"%5")) a->put_Name( _bstr_t(L"%6") );)"},
+        {R"(f->put_Sheet( d->GetSheet( L"%3" ) );)", R"(f->put_Sheet( d->GetSheet( L"%3" ) );)"},
+    };
+    for (const auto& [words, expected] : cases)
+        EXPECT_EQ(textsAsBstr(words), QByteArray(expected));
 }
 
 } // namespace

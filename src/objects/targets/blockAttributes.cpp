@@ -2,6 +2,8 @@
 
 #include "objects/targets/blockAttributes.h"
 
+#include "targets/bstrTexts.h"
+
 using namespace inkmacro;
 
 static const Phrase blockAttributeValue{
@@ -35,6 +37,7 @@ static const Phrase blockAttributeValue{
                "%1    If iwAttribute%3.Name = \"%5\" Then%2%1        iwAttribute%3.%6 = \"%7\"%2%1    End If%2"
                "%1Next%2",
     }};
+static const Mend bstrAttributeValue(blockAttributeValue, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 QString EmitBlockAttributeValue(Writer& writer, const CFxString& variable, const CFxString& property,
                                 const CFxString& tag, const CFxString& value)

@@ -2,6 +2,7 @@
 
 #include "objects/targets/dimensionOptions.h"
 
+#include "targets/bstrTexts.h"
 #include "targets/enumerations.h"
 #include "targets/wording.h"
 
@@ -79,6 +80,7 @@ static const Phrase setStyleArrow{
         .vba = "%1Dim arrowType%3 As Inkwright.iwDimensionArrowType_e%2%1arrowType%3 = %4%2"
                "%1Dim arrowName%3 As String%2%1arrowName%3 = \"%5\"%2%1%6.%7 arrowType%3, arrowName%3%2",
     }};
+static const Mend bstrArrowName(setStyleArrow, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 QString EmitSetStyleArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
                           const CFxString& name)

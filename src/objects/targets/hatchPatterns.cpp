@@ -3,6 +3,7 @@
 #include "objects/targets/hatchPatterns.h"
 
 #include "objects/targets/colors.h"
+#include "targets/bstrTexts.h"
 #include "targets/enumerations.h"
 #include "targets/wording.h"
 
@@ -139,6 +140,7 @@ static const Phrase assignPatternName{"EmitSetHatchData: name",
                                           .vbNet = "%1%3 = \"%4\"%2",
                                           .vba = "%1%3 = \"%4\"%2",
                                       }};
+static const Mend bstrPatternName(assignPatternName, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 static const Phrase assignPatternType{"EmitSetHatchData: type",
                                       {

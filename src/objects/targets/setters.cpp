@@ -4,6 +4,7 @@
 
 #include "frame/counters.h"
 #include "host/db/OdDbClasses.h"
+#include "targets/bstrTexts.h"
 #include "targets/enumerations.h"
 #include "targets/wording.h"
 
@@ -18,6 +19,7 @@ static const Phrase setText{"EmitSetProperty",
                                 .vbNet = "%1%3.%4 = \"%5\"%2",
                                 .vba = "%1%3.%4 = \"%5\"%2",
                             }};
+static const Mend bstrProperty(setText, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 static const Phrase setValue{"EmitSetProperty",
                              {

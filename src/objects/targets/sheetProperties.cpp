@@ -1,6 +1,7 @@
 // Properties of the model and of sheets.
 
 #include "objects/targets/sheetProperties.h"
+#include "targets/bstrTexts.h"
 #include "targets/sheets.h"
 
 using namespace inkmacro;
@@ -15,6 +16,7 @@ static const Phrase setModelProperty{"EmitSetModelProperty",
                                          .vbNet = "%1iwModel.%3 = \"%4\"%2",
                                          .vba = "%1iwModel.%3 = \"%4\"%2",
                                      }};
+static const Mend bstrModelProperty(setModelProperty, Target::CppCom, literalIsNoBstr, textsAsBstr);
 static const Mend modelPropertyOfPage(
     setModelProperty, Target::JavaScript,
     "the marker of the indentation lacks its number, so the values of the statement are one place off",
@@ -33,7 +35,7 @@ static const Mend wideSheetProperty(setSheetProperty, Target::Cpp, "a property o
                                     "%3%1%4->put_%5( L\"%6\" );%2");
 static const Mend wideSheetPropertyInCom(setSheetProperty, Target::CppCom,
                                          "a property of a sheet is given a narrow text",
-                                         "%3%1%4->put_%5( L\"%6\" );%2");
+                                         "%3%1%4->put_%5( _bstr_t(L\"%6\") );%2");
 
 QString EmitSetModelProperty(Writer& writer, const CFxString& property, const CFxString& value, bool ofModel,
                              const CFxString& sheetName)

@@ -2,6 +2,7 @@
 
 #include "objects/targets/styles.h"
 
+#include "targets/bstrTexts.h"
 #include "targets/customActions.h"
 
 using namespace inkmacro;
@@ -35,6 +36,10 @@ static const Phrase createRichLineStyle{
     "EmitCreateRichLineStyle", INKMACRO_CREATE_STYLE("RichLineStyle", "richLineStyleName", "%1var result%3;%2")};
 
 #undef INKMACRO_CREATE_STYLE
+
+static const Mend bstrTableStyleName(createTableStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
+static const Mend bstrDimensionStyleName(createDimensionStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
+static const Mend bstrRichLineStyleName(createRichLineStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 static QString create(Writer& writer, const Phrase& phrase, const CFxString& styleName, const CFxString& name,
                       bool hasResult = true)
@@ -99,6 +104,7 @@ static const Phrase renameStyle{
         .vba = "%1Dim result%3 As Inkwright.iwCreateObjectResult_e%2%1Dim styleName%4 As String%2"
                "%1styleName%4 = \"%5\"%2%1result%3 = %6.Rename( styleName%4 )%2",
     }};
+static const Mend bstrStyleName(renameStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 QString EmitRenameStyle(Writer& writer, const CFxString& style, const CFxString& newName, bool activate)
 {

@@ -4,6 +4,7 @@
 
 #include "frame/RecordingState.h"
 #include "objects/targets/setters.h"
+#include "targets/bstrTexts.h"
 #include "targets/enumerations.h"
 #include "targets/wording.h"
 
@@ -42,6 +43,7 @@ static const Phrase createTextStyle{
                "%1    iwApp.GetActiveDocument().GetTextStyleManager().CreateTextStyle textStyleName%4, %6, "
                "result%3%2%1End If%2",
     }};
+static const Mend bstrTextStyleName(createTextStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 QString EmitCreateTextStyle(Writer& writer, const CFxString& name, const CFxString& styleName)
 {

@@ -18,6 +18,14 @@ public:
     bool operator!=(const _bstr_t& other) const;
 };
 
+// What takes a BSTR for the length of a call, so a temporary's too, but no literal.
+class _bstr_argument_t
+{
+public:
+    _bstr_argument_t(wchar_t* text);
+    _bstr_argument_t(const _bstr_t& text);
+};
+
 class _variant_t : public VARIANT
 {
 public:
