@@ -78,7 +78,8 @@ TEST_F(Program, TellsOfAStatementThatOutgrowsEveryBound)
     const QString recording = QStringLiteral(INKMACRO_SOURCE_DIR "/fuzz/found/many_markers.jsonl");
     const Outcome outcome = run({"convert", recording, "--target", "vba", "--output", "out/"});
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(outcome.err.contains("many_markers.jsonl to vba: a statement would be longer than 256 MiB\n"));
+    EXPECT_TRUE(outcome.err.contains("many_markers.jsonl to vba: markers in the texts of a statement "
+                                     "would make it more than 16 MiB longer\n"));
     EXPECT_FALSE(exists("out/vba/many_markers.bas"));
 }
 

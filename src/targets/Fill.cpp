@@ -86,6 +86,8 @@ QString madeByQt(T value)
 
 /// 256 MiB of plain text. QString::arg reckons in int, and a bit further up it writes behind the end of its text.
 constexpr qsizetype longestText = 256 * 1024 * 1024;
+/// Markers that values hold for each other multiply: some thousand letters would fill any memory.
+constexpr qsizetype longestGrowth = 16 * 1024 * 1024;
 
 constexpr auto powersOfTen = [] {
     std::array<std::uint64_t, 20> powers{1};
@@ -307,19 +309,28 @@ qsizetype filledLength(QStringView text, qsizetype plain, qsizetype local)
     return length;
 }
 
-/// Throws when the value would make a text that is too long of this one.
+[[noreturn]] void refuseLength()
+{
+    throw OdError(eTextTooLong, "a statement would be longer than 256 MiB");
+}
+
+/// Throws when the value would make a text of this one that is longer than `most`.
 template<class T>
-void requireLength(const QString& text, T value)
+void requireLength(const QString& text, T value, qsizetype most)
 {
     // Every other character a marker's first is the most that there can be, and the locale's form of a number is less
     // than twice as long as the other.
-    if (text.size() * (1 + room(value)) <= longestText) {
+    if (text.size() * (1 + room(value)) <= most) {
         return;
     }
     const qsizetype plain = lengthAt(QStringLiteral("%1"), value);
-    if (filledLength(text, plain, lengthAt(QStringLiteral("%L1"), value)) > longestText) {
-        throw OdError(eTextTooLong, "a statement would be longer than 256 MiB");
+    if (filledLength(text, plain, lengthAt(QStringLiteral("%L1"), value)) <= most) {
+        return;
     }
+    if (most == longestText) {
+        refuseLength();
+    }
+    throw OdError(eTextTooLong, "markers in the texts of a statement would make it more than 16 MiB longer");
 }
 
 /// A text of at most `most` characters, made by a writer.
@@ -489,7 +500,7 @@ QString Fill::filled(int used) const
     if (used == 0) {
         return template_->text_;
     }
-    return fitsOnePass(used) ? inOnePass(used) : valueByValue();
+    return fitsOnePass(used) ? inOnePass(used) : valueByValue(used);
 }
 
 /// With values in which no markers are read; only a repaired macro has those between quotes escaped.
@@ -510,7 +521,7 @@ QString Fill::escaped(int used) const
             out += value;
         }
         if (out.size() > longestText) {
-            throw OdError(eTextTooLong, "a statement would be longer than 256 MiB");
+            refuseLength();
         }
     }
     return out;
@@ -567,14 +578,21 @@ bool Fill::fitsOnePass(int used) const
     return true;
 }
 
-QString Fill::inOnePass(int used) const
+/// When no value holds a marker the text is no longer than that.
+qsizetype Fill::plainLength(int used) const
 {
     qsizetype most = template_->text_.size();
     for (int i = 0; i < used; ++i) {
         most += template_->ranks_[i].places * std::visit([](const auto& value) { return room(value); }, values_[i]);
     }
+    return most;
+}
+
+QString Fill::inOnePass(int used) const
+{
+    const qsizetype most = plainLength(used);
     if (most > longestText) {
-        return valueByValue();
+        return valueByValue(used);
     }
     return written(most, [&](QChar* out) {
         const QStringView text = template_->text_;
@@ -590,16 +608,17 @@ QString Fill::inOnePass(int used) const
 }
 
 /// The slow way: reads the whole text again for every value.
-QString Fill::valueByValue() const
+QString Fill::valueByValue(int used) const
 {
+    const qsizetype most = std::min(longestText, plainLength(used) + longestGrowth);
     QString text = template_->text_;
     for (const Value& value : values_) {
         if (!hasMarker(text)) {
             break;
         }
         text = std::visit(
-            [&text](const auto& held) {
-                requireLength(text, held);
+            [&text, most](const auto& held) {
+                requireLength(text, held, most);
                 return filledByQt(text, held);
             },
             value);

@@ -172,8 +172,9 @@ private:
     bool hasBrokenQuotes(int used) const;
     bool hasReadMarker(int used) const;
     bool fitsOnePass(int used) const;
+    qsizetype plainLength(int used) const;
     QString inOnePass(int used) const;
-    QString valueByValue() const;
+    QString valueByValue(int used) const;
 
     const Template* template_;
     FillMode mode_{};

@@ -420,25 +420,28 @@ TEST(Fill, PrintsNothing)
 const QString manyFives = QString("%5").repeated(1024);
 const QString manySixes = QString("%6").repeated(1024);
 
-TEST(Fill, RefusesTextOfMoreThan256Mi)
+TEST(Fill, RefusesTextThatGrowsTooLong)
 {
-    const auto codeOf = [](const std::string& literal, const Values& values) {
+    const auto outcome = [](const std::string& literal, const Values& values) {
         try {
-            return std::make_pair(eOk, byFill(literal, values).size());
+            return QString::number(byFill(literal, values).size());
         } catch (const OdError& error) {
-            EXPECT_TRUE(QString(error.what()).contains("256 MiB"));
-            return std::make_pair(error.code(), 0);
+            EXPECT_EQ(error.code(), eTextTooLong);
+            return QString(error.what());
         }
     };
-    const auto refused = std::make_pair(eTextTooLong, 0);
+    const QString grown("markers in the texts of a statement would make it more than 16 MiB longer");
     const QString letters(4096, 'a');
-    EXPECT_EQ(codeOf("%1", {manyFives, manySixes, letters}), refused);
-    EXPECT_EQ(codeOf("%1", {manyFives, manySixes, Indent{1024}}), refused);
-    EXPECT_EQ(codeOf("%1", {manyFives, manySixes + "%L6", letters}), refused);
-    // Without a marker in any value, too.
+    EXPECT_EQ(outcome("%1", {manyFives, manySixes, letters}), grown);
+    EXPECT_EQ(outcome("%1", {manyFives, manySixes, Indent{1024}}), grown);
+    EXPECT_EQ(outcome("%1", {manyFives, manySixes + "%L6", letters}), grown);
+    EXPECT_EQ(outcome("%1", {manyFives, manySixes, QString(17, 'a')}), grown);
+    EXPECT_EQ(outcome("%1", {manyFives, manySixes, QString(16, 'a')}), "16777216");
+    // Without a marker in any value, or with one between long texts.
     const QString long4(80'000'000, 'a');
-    EXPECT_EQ(codeOf("%1%2%1%1%1", {long4, 1}), refused);
-    EXPECT_EQ(codeOf("%1%2%1", {long4, 1}), std::make_pair(eOk, 160'000'001));
+    EXPECT_EQ(outcome("%1%2%1%1%1", {long4, 1}), "a statement would be longer than 256 MiB");
+    EXPECT_EQ(outcome("%1%2%1", {long4, 1}), "160000001");
+    EXPECT_EQ(outcome("%1%2%1", {long4, QString("%3"), 1}), "160000001");
 }
 
 TEST(Fill, EqualsArgChainWithAMillionMarkers)
