@@ -32,7 +32,7 @@ public:
     bool any() const { return count() != before_; }
 
 private:
-    static std::size_t count() { return GetFxSystemServices()->Notes().GetLosses().size(); }
+    static std::size_t count() { return GetFxSystemServices()->Notes().GetLossCount(); }
     const std::size_t before_ = count();
 };
 

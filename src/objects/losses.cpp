@@ -140,8 +140,9 @@ void CFxConverterIWAPIObject::LoseObject(const char* reason) const
 
 void CFxConverterIWAPIObject::LoseProperty(const QString& tag, const QString& reason) const
 {
-    NoteLoss(CFxString("property \"" + tag + "\" of " + ObjectTitle(changedClass, changedHandle).toQString()),
-             CFxString(reason));
+    GetFxSystemServices()->Notes().NoteLoss(changedHandle, tag, reason, [&] {
+        return CFxString("property \"" + tag + "\" of " + ObjectTitle(changedClass, changedHandle).toQString());
+    });
 }
 
 void CFxConverterIWAPIObject::LoseArcs(const OdDbPolyline& polyline) const

@@ -2,16 +2,20 @@
 
 void CFxConversionNotes::NoteLoss(const CFxString& what, const CFxString& reason)
 {
-    const QPair<QString, QString> loss(what, reason);
-    if (known_.contains(loss))
-        return;
-    known_.insert(loss);
-    losses_.push_back({place_, what, reason});
+    NoteLoss({}, what, reason, [&] { return what; });
+}
+
+bool CFxConversionNotes::IsFirst(const Lost& lost)
+{
+    const int before = known_.size();
+    known_.insert(lost);
+    return known_.size() > before;
 }
 
 void CFxConversionNotes::Forget()
 {
     known_.clear();
+    lossCount_ = 0;
     losses_.clear();
     faults_.clear();
 }

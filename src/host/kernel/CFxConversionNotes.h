@@ -1,9 +1,9 @@
 #pragma once
 
+#include "host/db/OdDbHandle.h"
 #include "host/kernel/CFxString.h"
 #include "host/rx/Export.h"
 
-#include <QPair>
 #include <QSet>
 
 #include <cstddef>
@@ -61,8 +61,23 @@ public:
         CFxConversionNotes& notes_;
     };
 
+    /// A host that is about to ask for no more than the number of losses spares their texts.
+    void KeepLosses(bool keeps) { keepsLosses_ = keeps; }
+
     /// What is lost of one action in the same way several times counts once.
     void NoteLoss(const CFxString& what, const CFxString& reason);
+    /// Of the object with that handle. Who calls makes a loss's words of the part in `title`, when they are kept.
+    template<class Title>
+    void NoteLoss(const OdDbHandle& object, const QString& part, const QString& reason, Title title)
+    {
+        if (!IsFirst({object, part, reason}))
+            return;
+        ++lossCount_;
+        if (keepsLosses_)
+            losses_.push_back({place_, title(), CFxString(reason)});
+    }
+    std::size_t GetLossCount() const { return lossCount_; }
+    /// Empty when they are not kept.
     const std::vector<CFxLoss>& GetLosses() const { return losses_; }
 
     void NoteFault(CFxFaultNote fault) { faults_.push_back(std::move(fault)); }
@@ -71,8 +86,23 @@ public:
     void Forget();
 
 private:
+    struct Lost
+    {
+        OdDbHandle object; ///< null when the part says it all
+        QString part;
+        QString reason;
+        bool operator==(const Lost&) const = default;
+        friend uint qHash(const Lost& lost, uint seed) noexcept
+        {
+            return ::qHash(lost.object.value(), seed) ^ ::qHash(lost.part, seed);
+        }
+    };
+    bool IsFirst(const Lost& lost);
+
     CFxActionPlace place_;
-    QSet<QPair<QString, QString>> known_; ///< what is lost of the action, and why
+    QSet<Lost> known_; ///< of the action
+    bool keepsLosses_ = true;
+    std::size_t lossCount_ = 0;
     std::vector<CFxLoss> losses_;
     std::vector<CFxFaultNote> faults_;
 };
