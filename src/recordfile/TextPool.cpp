@@ -25,12 +25,13 @@ OdRxClass* TextPool::classOf(std::string_view utf8)
     return found->second;
 }
 
-const PropertyLabelPtr& TextPool::label(const CFxString* tag, const CFxString* group)
+const PropertyLabel& TextPool::label(const CFxString* tag, const CFxString* group)
 {
-    PropertyLabelPtr& label = labels_[{tag, group}];
-    if (!label)
-        label = PropertyLabelPtr(new PropertyLabel(*tag, *group), kOdRxObjAttach);
-    return label;
+    const TextPair texts(tag, group);
+    auto found = labels_.find(texts);
+    if (found == labels_.end())
+        found = labels_.try_emplace(texts, *tag, *group).first;
+    return found->second;
 }
 
 std::size_t TextPool::PairHash::operator()(const TextPair& pair) const

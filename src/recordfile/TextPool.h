@@ -18,7 +18,7 @@ public:
     const CFxString* text(std::string_view utf8);
     OdRxClass* classOf(std::string_view utf8);
     /// Both texts are of this pool.
-    const PropertyLabelPtr& label(const CFxString* tag, const CFxString* group);
+    const PropertyLabel& label(const CFxString* tag, const CFxString* group);
 
 private:
     struct BytesHash
@@ -40,7 +40,7 @@ private:
     ByBytes<CFxString> texts_;
     std::deque<CFxString> longTexts_;
     ByBytes<OdRxClass*> classes_;
-    std::unordered_map<TextPair, PropertyLabelPtr, PairHash> labels_;
+    std::unordered_map<TextPair, PropertyLabel, PairHash> labels_;
 };
 
 } // namespace inkmacro::recordfile

@@ -44,7 +44,7 @@ PropertyBody PropertyBody::take(const CFxPropertyChanged& record, CFxValueContex
 
 CFxPropertyChangedPtr PropertyBody::make(Reading& reading)
 {
-    const PropertyLabelPtr& label = reading.texts.label(tag, group);
+    const PropertyLabel& label = reading.texts.label(tag, group);
     if (!cls && !index && !old)
         return odrxNew<RecordedProperty>(label, std::move(value));
     PropertyDetails details{index.value_or(CFxVariant::kNull), old.value_or(CFxVariant::kNull), cls, handle};

@@ -7,35 +7,48 @@ namespace inkmacro::recordfile {
 // The actions of a recording that was read from a file. Property records are by far the most of what it holds, so
 // they are kept small.
 
-/// Tag and group of property records: one for all records that have both in common.
+/// Tag and group of property records: one for all records that have both in common. Held by its number in the process,
+/// which takes half the place of a pointer; the texts go with the last that holds it.
 class PropertyLabel
 {
 public:
-    PropertyLabel(const CFxString& tag, const CFxString& group) : tag(tag), group(group) {}
-    void addRef() const { ++references_; }
-    void release() const
+    PropertyLabel(const CFxString& tag, const CFxString& group);
+    PropertyLabel(const PropertyLabel& other) : number_(other.number_) { ++entry().references; }
+    PropertyLabel& operator=(const PropertyLabel&) = delete;
+    ~PropertyLabel()
     {
-        if (--references_ == 0)
-            delete this;
+        if (--entry().references == 0)
+            free();
     }
 
-    const CFxString tag;
-    const CFxString group;
+    /// Both live as long as the label.
+    const CFxString& tag() const { return entry().tag; }
+    const CFxString& group() const { return entry().group; }
 
 private:
-    mutable unsigned references_ = 1;
-};
+    struct Entry
+    {
+        CFxString tag;
+        CFxString group;
+        unsigned references = 1;
+    };
+    Entry& entry() const { return *entries[number_]; }
+    void free();
 
-using PropertyLabelPtr = OdSmartPtr<const PropertyLabel>;
+    static std::vector<Entry*>& entries;
+    static std::vector<std::uint32_t>& freed;
+
+    std::uint32_t number_;
+};
 
 /// A record as it stands in the list of an object.
 class RecordedProperty : public CFxPropertyChanged
 {
 public:
-    RecordedProperty(const PropertyLabelPtr& label, CFxVariant value) : label_(label), value_(std::move(value)) {}
+    RecordedProperty(const PropertyLabel& label, CFxVariant value) : label_(label), value_(std::move(value)) {}
 
-    const CFxString& GetName() const override { return label_->tag; }
-    const CFxString& GetGroup() const override { return label_->group; }
+    const CFxString& GetName() const override { return label_.tag(); }
+    const CFxString& GetGroup() const override { return label_.group(); }
     CFxVariant GetValue(CFxValueContext) const override { return value_; }
     CFxVariant GetOldValue(CFxValueContext) const override { return CFxVariant::kNull; }
     OdRxClass* GetObjectClass() const override { return nullptr; }
@@ -43,11 +56,11 @@ public:
     CFxVariant GetIndex(CFxValueContext) const override { return CFxVariant::kNull; }
 
 private:
-    PropertyLabelPtr label_;
+    PropertyLabel label_; // stands in the padding of the base
     CFxVariant value_;
 };
 
-static_assert(sizeof(RecordedProperty) <= 40, "there are millions of these");
+static_assert(sizeof(RecordedProperty) <= 32, "there are millions of these");
 
 /// What only few records have.
 struct PropertyDetails
@@ -61,7 +74,7 @@ struct PropertyDetails
 class RecordedPropertyWithDetails final : public RecordedProperty
 {
 public:
-    RecordedPropertyWithDetails(const PropertyLabelPtr& label, CFxVariant value, PropertyDetails details)
+    RecordedPropertyWithDetails(const PropertyLabel& label, CFxVariant value, PropertyDetails details)
         : RecordedProperty(label, std::move(value)), details_(std::move(details))
     {
     }

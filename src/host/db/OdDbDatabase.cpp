@@ -5,13 +5,6 @@
 #include <algorithm>
 #include <limits>
 
-/// Where an id points to. The object is null while only the handle has been heard of.
-struct OdDbStub
-{
-    OdDbHandle handle;
-    OdDbObjectPtr object;
-};
-
 OdDbHandle OdDbObjectId::getHandle() const
 {
     return stub_ ? stub_->handle : OdDbHandle();
@@ -32,23 +25,22 @@ OdDbObjectId OdDbDatabase::getOdDbObjectId(const OdDbHandle& handle)
     if (handle.isNull())
         return {};
     noteHandle(handle);
-    std::unique_ptr<OdDbStub>& stub = stubs_[handle];
-    if (!stub)
-        stub = std::make_unique<OdDbStub>(OdDbStub{handle, {}});
-    return OdDbObjectId(stub.get());
+    OdDbStub& stub = stubs_[handle];
+    stub.handle = handle;
+    return OdDbObjectId(&stub);
 }
 
 OdDbObjectId OdDbDatabase::findOdDbObjectId(const OdDbHandle& handle) const
 {
     const auto found = stubs_.find(handle);
-    return found == stubs_.end() ? OdDbObjectId() : OdDbObjectId(found->second.get());
+    return found == stubs_.end() ? OdDbObjectId() : OdDbObjectId(&found->second);
 }
 
 OdDbObjectId OdDbDatabase::addObject(const OdDbHandle& handle, OdDbObjectPtr object)
 {
     const OdDbObjectId id = getOdDbObjectId(handle);
     object->objectId_ = id;
-    stubs_[handle]->object = std::move(object);
+    stubs_[handle].object = std::move(object);
     return id;
 }
 
@@ -122,13 +114,13 @@ std::int16_t OdDbDatabase::getSysVarInt16(const OdString& name) const
 
 OdArray<OdDbObjectId> OdDbDatabase::objectIds() const
 {
-    std::vector<OdDbStub*> stubs;
+    std::vector<const OdDbStub*> stubs;
     for (const auto& [handle, stub] : stubs_)
-        if (stub->object)
-            stubs.push_back(stub.get());
+        if (stub.object)
+            stubs.push_back(&stub);
     std::sort(stubs.begin(), stubs.end(), [](const OdDbStub* a, const OdDbStub* b) { return a->handle < b->handle; });
     OdArray<OdDbObjectId> ids;
-    for (OdDbStub* const stub : stubs)
+    for (const OdDbStub* const stub : stubs)
         ids.append(OdDbObjectId(stub));
     return ids;
 }

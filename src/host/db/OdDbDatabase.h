@@ -7,6 +7,13 @@
 #include <memory>
 #include <unordered_map>
 
+/// Where an id points to. The object is null while only the handle has been heard of.
+struct OdDbStub
+{
+    OdDbHandle handle;
+    OdDbObjectPtr object;
+};
+
 /// A drawing: its objects by handle. Owns them and the entries behind their ids, so ids live as long as the drawing.
 class INKHOST_EXPORT OdDbDatabase
 {
@@ -85,7 +92,7 @@ private:
     OdDbObjectId tableId(Table& table, const OdRxClass* recordClass);
     OdDbObjectId linetypeId(const char* name);
 
-    std::unordered_map<OdDbHandle, std::unique_ptr<OdDbStub>, OdDbHandleHash> stubs_;
+    std::unordered_map<OdDbHandle, OdDbStub, OdDbHandleHash> stubs_;
     Table layerTable_;
     Table linetypeTable_;
     Table regAppTable_;

@@ -11,7 +11,7 @@ class INKHOST_EXPORT OdDbObjectId
 {
 public:
     OdDbObjectId() = default;
-    explicit OdDbObjectId(OdDbStub* stub) : stub_(stub) {}
+    explicit OdDbObjectId(const OdDbStub* stub) : stub_(stub) {}
 
     bool isNull() const { return !stub_; }
     OdDbHandle getHandle() const;
@@ -23,5 +23,5 @@ public:
     bool operator<(const OdDbObjectId& other) const { return getHandle() < other.getHandle(); }
 
 private:
-    OdDbStub* stub_ = nullptr;
+    const OdDbStub* stub_ = nullptr;
 };
