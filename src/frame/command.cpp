@@ -10,7 +10,9 @@
 #include "targets/variables.h"
 
 #include <QScopedValueRollback>
-#include <QStringList>
+
+#include <algorithm>
+#include <deque>
 
 using inkmacro::Fault;
 using inkmacro::Target;
@@ -38,6 +40,28 @@ bool isShapeFileStyle(const CFxObjectAdded& added)
     return style && style->isShapeFile() && !IsHostShapeFile(style->fileName());
 }
 
+/// The text of a statement that waits for the end of its command. Nearly all are plain letters, which take half the
+/// room that QString gives them: a command may have millions of statements.
+class HeldStatement
+{
+public:
+    explicit HeldStatement(QString text) : latin1_(text.toLatin1())
+    {
+        if (text == latin1())
+            return;
+        latin1_.clear();
+        text_ = std::move(text);
+    }
+    QString text() const { return text_.isNull() ? QString(latin1()) : text_; }
+
+private:
+    /// Made of the array alone it would end in front of the first null character.
+    QLatin1String latin1() const { return QLatin1String(latin1_.constData(), latin1_.size()); }
+
+    QByteArray latin1_;
+    QString text_;
+};
+
 } // namespace
 
 struct CFxConverterIWAPIImpl::CommandState
@@ -48,7 +72,7 @@ struct CFxConverterIWAPIImpl::CommandState
     /// Variables of the objects that a custom action of this command finishes.
     std::vector<QString> names;
     std::size_t nextName = 0;
-    QStringList statements;
+    std::deque<HeldStatement> statements;
     bool unnamedTarget = false;
     bool shapeStyle = false;
     bool allEmpty = true;
@@ -75,12 +99,12 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
     const QString declarations = Declarations(state);
     if (written || (writer.repairs && !state.allEmpty))
         writer.writeDeclarations(stream, declarations);
-    else if (!declarations.isEmpty() && !state.statements.isEmpty())
-        state.statements.front() = writer.faulty(state.statements.front(), kUndeclared);
+    else if (!declarations.isEmpty() && !state.statements.empty())
+        state.statements.front() = HeldStatement(writer.faulty(state.statements.front().text(), kUndeclared));
     if (written)
         writer.write(stream, group.begin());
-    for (const QString& statement : state.statements)
-        writer.write(stream, statement);
+    for (; !state.statements.empty(); state.statements.pop_front())
+        writer.write(stream, state.statements.front().text());
     // An unnamed target leaves the level where the group's begin put it: what follows stands one level deeper.
     const QString end = grouped ? group.close() : QString();
     if (written)
@@ -171,7 +195,7 @@ bool CFxConverterIWAPIImpl::ConvertChild(const OdRxObjectPtr& child, unsigned nu
         state.shapeStyle = true;
     if (!current.isEmpty()) {
         state.allEmpty = false;
-        state.statements.append(current);
+        state.statements.emplace_back(std::move(current));
     }
     return true;
 }
