@@ -129,7 +129,9 @@ void CFxConverterIWAPIImpl::GetNoteLeader(OdDbObjectId& leader, const OdDbHandle
 
 const ActionEntry* CFxConverterIWAPIImpl::FindEntry(const OdDbHandle& handle) const
 {
-    const auto found = ObjectVariableMap.find(handle);
+    // Most asked for is the newest object, which stands last.
+    const bool isLast = !ObjectVariableMap.empty() && ObjectVariableMap.rbegin()->first == handle;
+    const auto found = isLast ? std::prev(ObjectVariableMap.end()) : ObjectVariableMap.find(handle);
     if (found == ObjectVariableMap.end())
         return nullptr;
     const bool isUnmade = unmade.count(handle) != 0;
@@ -169,7 +171,9 @@ ActionEntry CFxConverterIWAPIImpl::RegisterObject(const OdDbHandle& handle, cons
 {
     unmade.erase(handle);
     outOfReach.erase(handle);
-    return ObjectVariableMap[handle] = ActionEntry{cls, ++objectCounter};
+    const ActionEntry entry{cls, ++objectCounter};
+    ObjectVariableMap.insert_or_assign(ObjectVariableMap.end(), handle, entry);
+    return entry;
 }
 
 CFxString CFxConverterIWAPIImpl::DeclaredName(const ActionEntry& entry) const

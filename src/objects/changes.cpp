@@ -146,13 +146,30 @@ QString CFxConverterIWAPIObject::ConvertErased(const OdRxClass* cls, const OdDbH
     return text;
 }
 
+/// A property that most entities have, by the tag of its records and the name in the interface.
+struct GeneralProperty
+{
+    PropertyTag tag;
+    CFxString name;
+};
+
 std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& list, bool fromAdded, bool isCurvedText,
                                                                const CFxString& target, StatementGroup& group,
                                                                QString& text)
 {
+    // Made once: they are asked for with every entity.
+    static const GeneralProperty color{"LineColor", "Color"};
+    static const GeneralProperty layer{"Layer", "Layer"};
+    static const GeneralProperty lineStyle{"LineStyle", "LineStyle"};
+    static const GeneralProperty lineScale{"LineScale", "LineScale"};
+    static const GeneralProperty lineWeight{"LineWeight", "LineWeight"};
+    static const GeneralProperty thickness{"Thickness", "Thickness"};
+    static const GeneralProperty printStyle{"PrintStyle", "PrintStyle"};
+    static const GeneralProperty transparency{"Transparency", {}};
+
     CFxVariant value;
-    const auto take = [&](const PropertyTag& tag) {
-        value = FindProperty(tag, list, driver.GetContext());
+    const auto take = [&](const GeneralProperty& property) {
+        value = FindProperty(property.tag, list, driver.GetContext());
         return !value.IsNull();
     };
     const auto leaveGroup = [&] {
@@ -160,42 +177,42 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
             group.abandon();
     };
 
-    if (take("LineColor")) {
+    if (take(color)) {
         leaveGroup();
         CFxString holder = target;
         if (isCurvedText)
             text += EmitGetOptions(writer, curvedTextSettings, target, holder);
-        text += EmitSetColor(writer, holder, "Color", value.GetColor());
+        text += EmitSetColor(writer, holder, color.name, value.GetColor());
         if (isCurvedText)
             text += EmitSetOptions(writer, curvedTextSettings, target, holder);
     }
-    const auto addNamed = [&](const char* tag, const QString& statement) {
+    const auto addNamed = [&](const GeneralProperty& property, const QString& statement) {
         if (statement.isEmpty())
-            LoseProperty(tag, "the drawing does not have what it names");
+            LoseProperty(property.tag.text(), QStringLiteral("the drawing does not have what it names"));
         text += statement;
     };
 
-    if (take("Layer"))
-        addNamed("Layer", EmitSetLayer(writer, target, "Layer", value.GetId()));
-    if (take("LineStyle")) {
+    if (take(layer))
+        addNamed(layer, EmitSetLayer(writer, target, layer.name, value.GetId()));
+    if (take(lineStyle)) {
         leaveGroup();
-        addNamed("LineStyle", EmitSetLineStyle(writer, target, "LineStyle", value.GetId()));
+        addNamed(lineStyle, EmitSetLineStyle(writer, target, lineStyle.name, value.GetId()));
     }
-    if (take("LineScale"))
-        text += EmitSetDoubleProperty(writer, target, "LineScale", value.GetDouble());
-    if (take("LineWeight")) {
+    if (take(lineScale))
+        text += EmitSetDoubleProperty(writer, target, lineScale.name, value.GetDouble());
+    if (take(lineWeight)) {
         leaveGroup();
-        text += EmitSetLineWeight(writer, target, "LineWeight", value.GetInt32());
+        text += EmitSetLineWeight(writer, target, lineWeight.name, value.GetInt32());
     }
-    if (take("Thickness"))
-        text += EmitSetDoubleProperty(writer, target, "Thickness", value.GetDouble());
-    if (take("PrintStyle"))
-        text += EmitSetProperty(writer, target, "PrintStyle", value.GetString(), true);
-    if (!fromAdded && take("Transparency")) {
+    if (take(thickness))
+        text += EmitSetDoubleProperty(writer, target, thickness.name, value.GetDouble());
+    if (take(printStyle))
+        text += EmitSetProperty(writer, target, printStyle.name, value.GetString(), true);
+    if (!fromAdded && take(transparency)) {
         if (value.GetType() == CFxVariant::kTransparency)
             text += EmitSetTransparency(writer, target, value.GetTransparency());
         else
-            LoseProperty("Transparency", "it is not recorded as a transparency");
+            LoseProperty(transparency.tag.text(), "it is not recorded as a transparency");
     }
     return kFxSuccess;
 }

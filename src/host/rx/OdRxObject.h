@@ -63,7 +63,9 @@ public:
     requires std::convertible_to<U*, T*> OdSmartPtr(const OdSmartPtr<U>& other) : OdSmartPtr(other.get()) {}
     template<class U>
     requires std::convertible_to<U*, T*> OdSmartPtr(OdSmartPtr<U>&& other) : object_(other.detach()) {}
-    OdSmartPtr& operator=(OdSmartPtr other) noexcept
+    OdSmartPtr& operator=(const OdSmartPtr& other) { return *this = OdSmartPtr(other); }
+    /// Leaves the former object to the other pointer.
+    OdSmartPtr& operator=(OdSmartPtr&& other) noexcept
     {
         std::swap(object_, other.object_);
         return *this;
