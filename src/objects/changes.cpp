@@ -43,7 +43,10 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls,
     }
 
     StatementGroup group(writer);
+    // For the statements of an everyday object.
+    constexpr int room = 512;
     QString general;
+    general.reserve(room);
     QString classText;
     if (cls->isDerivedFrom(OdDbEntity::desc())) {
         CFxString target = name;
