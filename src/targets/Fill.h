@@ -2,7 +2,7 @@
 
 #include "host/db/OdGe.h"
 #include "host/kernel/CFxString.h"
-#include "targets/Target.h"
+#include "targets/Template.h"
 
 #include <QString>
 #include <QStringView>
@@ -17,47 +17,6 @@
 namespace inkmacro {
 
 class Fault;
-
-/// A Latin-1 literal, cut into plain text and markers. Markers are those of QString::arg: `%`, an optional `L` for the
-/// locale's form of a number, one or two digits.
-class Template
-{
-public:
-    /// Of a language in which a statement stands; without one, no text is known to stand between quotes.
-    explicit Template(const char* latin1, std::optional<Target> language = {});
-
-    std::optional<Target> language() const { return language_; }
-
-private:
-    friend class Fill;
-
-    /// A run of text_: plain text or a marker.
-    struct Piece
-    {
-        int from;
-        int length;
-        int rank;            ///< of the marker, noMarker for plain text
-        bool quoted = false; ///< a marker between quotes of the language
-    };
-
-    /// One marker number. The numbers are ranked upwards from 0; values go to the ranks in turn.
-    struct Rank
-    {
-        int places = 0;
-        /// Some place follows an open end: text or a later marker to which digits could be added. A value which starts
-        /// with a digit would make another marker there.
-        bool exposed = false;
-    };
-
-    static constexpr int noMarker = -1;
-
-    std::optional<Target> language_;
-    QString text_;
-    std::vector<Piece> pieces_;
-    std::vector<Rank> ranks_;
-    bool local_ = false;  ///< some marker has an L
-    bool quotes_ = false; ///< some marker stands between quotes
-};
 
 /// A text closes the literal that it stands in, or is read as another text there.
 extern const Fault brokenQuotes;
@@ -79,7 +38,8 @@ struct FillMode
 /// In any other the outcome is marked as faulty where that makes a difference.
 ///
 /// Texts that stand in a variable are kept as views: each must live until str() is called. An outcome of more than
-/// 256 Mi characters, or one on the way to it, raises an OdError.
+/// 256 Mi characters, or one on the way to it, raises an OdError, and so does one that markers in its values would make
+/// more than 16 Mi longer.
 class Fill
 {
 public:
