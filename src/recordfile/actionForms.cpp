@@ -19,7 +19,7 @@ struct PropertyBody
 {
     OdRxClass* cls = nullptr;
     OdDbHandle handle;
-    const CFxString* tag = nullptr;
+    const CFxString* tag = &noText;
     CFxVariant value;
     const CFxString* group = &noText;
     std::optional<CFxVariant> index;
@@ -237,7 +237,7 @@ namespace {
 
 struct SysVarBody
 {
-    const CFxString* name = nullptr;
+    const CFxString* name = &noText;
     OdResBufPtr value;
 
     static SysVarBody take(const CFxSysVarChanged& changed, JsonOut&)
@@ -494,7 +494,7 @@ constexpr Choice<OdRxObjectPtr> actionChoice(std::string_view key, const char* m
         [](const Json& json) { return Form<Body>::read(json).make(); },
         isA<Action>,
         [](JsonOut& out, const OdRxObjectPtr& action) {
-            Form<Body>::write(out, Body::take(*odrxQuery<Action>(action.get()), out));
+            Form<Body>::write(out, Body::take(static_cast<const Action&>(*action), out));
         },
         Form<Body>::schema,
     };
@@ -506,7 +506,8 @@ constexpr Choice<OdRxObjectPtr> propertyChoice{
     [](const Json& json) -> OdRxObjectPtr { return PropertyActionForm::read(json).make(json.reading); },
     isA<CFxPropertyChanged>,
     [](JsonOut& out, const OdRxObjectPtr& action) {
-        PropertyActionForm::write(out, PropertyBody::take(*odrxQuery<CFxPropertyChanged>(action.get()), out.context));
+        PropertyActionForm::write(out,
+                                  PropertyBody::take(static_cast<const CFxPropertyChanged&>(*action), out.context));
     },
     PropertyActionForm::schema,
 };
