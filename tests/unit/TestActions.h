@@ -145,7 +145,8 @@ struct TestConversion
     /// What stands between head and tail of a macro that begins in model space.
     QString body() const
     {
-        const QString text = QString::fromUtf8(macro());
+        const QByteArray bytes = macro();
+        const QString text = QString::fromUtf8(bytes.constData(), bytes.size());
         const QString lastOfHead = "            if (null == iwViewManager)\n            {\n                return;\n"
                                    "            }\n\n";
         const int from = text.indexOf(lastOfHead) + lastOfHead.length();

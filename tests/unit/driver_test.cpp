@@ -130,6 +130,18 @@ TEST_F(Driver, EndsACommandEarlyWhenAChildFails)
     }
 }
 
+/// The statements of a command wait for its end, those of plain letters in another form.
+TEST_F(Driver, KeepsEveryLetterOfACommandsTexts)
+{
+    for (const QString& text : {QString("plain"), QString::fromUtf8("caf\u00e9"), QString::fromUtf8("\u4e16 \u00e9"),
+                                QString::fromUtf16(u"front\0back", 10), QString::fromUtf16(u"\0\u4e16", 2)}) {
+        const auto note =
+            odrxNew<TestAdded>("AcDbText", 1, PropertyList{odrxNew<TestProperty>("Contents", CFxString(text))});
+        ASSERT_EQ(conversion.run({command({note, addedLine(2)})}), kFxSuccess);
+        EXPECT_TRUE(conversion.body().contains('"' + text + "\" );\n")) << conversion.body().toStdString();
+    }
+}
+
 TEST_F(Driver, KeepsTheMacroWhenItsProjectCannotBeWritten)
 {
     ASSERT_TRUE(QDir(conversion.folder.path()).mkpath("made/Program.cs"));
