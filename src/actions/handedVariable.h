@@ -22,7 +22,7 @@ inline const Fault kBareVariable{
 /// goes into the macro and nothing else.
 inline CFxString takeVariable(const Writer& writer, QString& text, HandedVariable fate)
 {
-    const CFxString variable(text);
+    CFxString variable(text);
     if (fate == HandedVariable::Replaced || writer.repairs)
         text.clear();
     else if (!text.isEmpty())

@@ -198,7 +198,7 @@ CFxString CFxConverterIWAPIImpl::LayerName(const OdDbHandle& handle, const CFxOb
 {
     const auto record = odrxQuery<OdDbLayerTableRecord>(Objects().IdOf(handle).openObject(true).get());
     const auto [known, isNew] = renamedLayers.try_emplace(handle, record ? CFxString(record->getName()) : CFxString());
-    const CFxString before = known->second;
+    CFxString before = known->second;
     PropertyList list = changes.GetProperties();
     if (const CFxVariant renamed = Objects().FindProperty("Name", list, GetContext()); !renamed.IsNull())
         known->second = renamed.GetString();
