@@ -44,6 +44,15 @@ SAID = {
         r"iwlocal\d+\.parray, &(index\d+),[^;]*;[^;]*;\s*SafeArrayPutElement[^;]*;\s*\1 = \1 \+ 1;",
     # An enumerator is as good as another of its type.
     "a predefined pattern becomes a user's own": r"iwHatchPatternType_Predefined",
+    # A name is as good as another.
+    "the layer is fetched by the name 0, whichever it is, and what follows changes that one":
+        r"GetLayer\( L?\"(?!0\")",
+}
+# Faults by their reason beside which others stand in one statement: what mends them there, so that the other is alone.
+BESIDE = {
+    "the page has no iwDoc, its document is mDoc": (r"\biwDoc\b", "mDoc"),
+    # The recorded points lie in the plane.
+    "y is written twice and z never": (r"\.add\([^()]*\);$", ".add(0);"),
 }
 
 
@@ -109,6 +118,18 @@ def candidates(checked, target):
     return cases
 
 
+def apart(row, faults):
+    """Of a statement's faults the row's own, None when it has none, and the reasons of the others."""
+    return (next((fault for fault in faults if (fault.operation, fault.reason) == row), None),
+            {reason for _, reason in rows_of(faults) - {row}})
+
+
+def without(lines, reasons):
+    for pattern, words in map(BESIDE.get, reasons):
+        lines = [re.sub(pattern, words, line) for line in lines]
+    return lines
+
+
 def isolated(row, faithful, repaired, folder):
     """The macro with one fault alone: the repaired one, in which the lines of the fault are as they are without
     --repair. None when they do not stand apart."""
@@ -124,10 +145,10 @@ def isolated(row, faithful, repaired, folder):
         ends = range(c, d + 1) if len(cuts) - 1 == d - c else [c, d]
         for a, b, c, d in zip(cuts, cuts[1:], ends, ends[1:]):
             begun = max((line for line in begins if line <= a + 1), default=0)
-            of_statement = [fault for fault in faithful.faults if fault.line == begun]
-            if kind != "equal" and rows_of(of_statement) == {row}:
-                faults.append(dataclasses.replace(of_statement[0], line=max(len(lines) + begun - a, 1)))
-                lines += left[a:b]
+            fault, others = apart(row, [fault for fault in faithful.faults if fault.line == begun])
+            if kind != "equal" and fault and others <= BESIDE.keys():
+                faults.append(dataclasses.replace(fault, line=max(len(lines) + begun - a, 1)))
+                lines += without(left[a:b], others)
             else:
                 lines += right[c:d]
     if not faults:
