@@ -47,6 +47,8 @@ SAID = {
     # A name is as good as another.
     "the layer is fetched by the name 0, whichever it is, and what follows changes that one":
         r"GetLayer\( L?\"(?!0\")",
+    # A number is as good as another.
+    "a number that has more than six digits is rounded to them": r"\d\.\d{6}\d*[1-9]",
 }
 # Faults by their reason beside which others stand in one statement: what mends them there, so that the other is alone.
 BESIDE = {
@@ -190,8 +192,7 @@ class Proof:
 
     def _try(self, macros):
         refused = self._refused(macros)
-        wrong = [macro for macro, (row, repaired) in macros.items()
-                 if macro.name in refused or self._target not in RUN and self._says_less(row, macro, repaired)]
+        wrong = [macro for macro, (row, repaired) in macros.items() if self._is_wrong(row, macro, repaired, refused)]
         refused = self._refused([macros[macro][1] for macro in wrong])
         for macro, (row, _) in macros.items():
             if macro in wrong and macro.name not in refused:
@@ -219,11 +220,12 @@ class Proof:
             names |= {macro.name for _ in comparison.complaints}
         return names
 
-    @staticmethod
-    def _says_less(row, macro, repaired):
-        found = [row[1] in SAID and re.search(SAID[row[1]], one.file.read_text(encoding="utf-8")) is not None
-                 for one in (macro, repaired)]
-        return found == [False, True]
+    def _is_wrong(self, row, macro, repaired, refused):
+        """What a compiler takes is refused only where the statements of two macros do not fit together."""
+        if self._target in RUN or row[1] not in SAID:
+            return macro.name in refused
+        return [re.search(SAID[row[1]], one.file.read_text(encoding="utf-8")) is not None
+                for one in (macro, repaired)] == [False, True]
 
     def finish(self):
         unshown = self.rows - self.shown
