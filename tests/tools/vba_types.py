@@ -1,6 +1,7 @@
 """What the types of VBA's variables rule out, and what a compiler that looks types up when a macro runs does not see:
 types and members that nobody has, sizes that are no constants, Set where it does not belong or is left out, objects in
-parentheses, which stand for their default property, and arguments that are left out, which the interface has nowhere."""
+parentheses, which stand for their default property, and arguments that are left out, of which the interface knows
+none."""
 
 import re
 
