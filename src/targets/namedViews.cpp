@@ -100,7 +100,7 @@ static const Phrase setModelViewClass{
 static const Mend bstrModelViewClass(setModelViewClass, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 static const Phrase setSheetViewClass{
-    "EmitSetNamedViewClass",
+    "EmitSetNamedViewClass: of a sheet",
     {
         .cpp = "%1iwSheetNamedView_ptr sheetNamedView_%3_class;%2"
                "%1iwViewManager->GetSheetNamedView( L\"%4\", &sheetNamedView_%3_class );%2"

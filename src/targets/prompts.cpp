@@ -237,7 +237,7 @@ QString EmitPromptString(Writer& writer, const CFxString& prompt, const CFxStrin
 /// Only some targets give their lists a size, the last value. COM puts the elements in through an index and a string,
 /// and raises the index before the first.
 static const Phrase keywordLists{
-    "EmitPromptKeyword",
+    "EmitPromptKeyword: lists",
     {
         .cpp = "%1iwStringArray iwlocal%2;\n%1iwStringArray iwglobal%2;\n%1iwString keyword%2 = L\"%3\";\n",
         .cppCom = "%1VARIANT iwlocal%2;\n%1VARIANT iwglobal%2;\n%1iwlocal%2.vt = ( VT_ARRAY | VT_BSTR );\n"

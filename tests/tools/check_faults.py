@@ -44,6 +44,17 @@ SAID = {
         r"iwlocal\d+\.parray, &(index\d+),[^;]*;[^;]*;\s*SafeArrayPutElement[^;]*;\s*\1 = \1 \+ 1;",
     # An enumerator is as good as another of its type.
     "a predefined pattern becomes a user's own": r"iwHatchPatternType_Predefined",
+    # A name is as good as another.
+    "the layer is fetched by the name 0, whichever it is, and what follows changes that one":
+        r"GetLayer\( L?\"(?!0\")",
+    # A number is as good as another.
+    "a number that has more than six digits is rounded to them": r"\d\.\d{6}\d*[1-9]",
+}
+# Faults by their reason beside which others stand in one statement: what mends them there, so that the other is alone.
+BESIDE = {
+    "the page has no iwDoc, its document is mDoc": (r"\biwDoc\b", "mDoc"),
+    # The recorded points lie in the plane.
+    "y is written twice and z never": (r"\.add\([^()]*\);$", ".add(0);"),
 }
 
 
@@ -109,6 +120,18 @@ def candidates(checked, target):
     return cases
 
 
+def apart(row, faults):
+    """Of a statement's faults the row's own, None when it has none, and the reasons of the others."""
+    return (next((fault for fault in faults if (fault.operation, fault.reason) == row), None),
+            {reason for _, reason in rows_of(faults) - {row}})
+
+
+def without(lines, reasons):
+    for pattern, words in map(BESIDE.get, reasons):
+        lines = [re.sub(pattern, words, line) for line in lines]
+    return lines
+
+
 def isolated(row, faithful, repaired, folder):
     """The macro with one fault alone: the repaired one, in which the lines of the fault are as they are without
     --repair. None when they do not stand apart."""
@@ -124,10 +147,10 @@ def isolated(row, faithful, repaired, folder):
         ends = range(c, d + 1) if len(cuts) - 1 == d - c else [c, d]
         for a, b, c, d in zip(cuts, cuts[1:], ends, ends[1:]):
             begun = max((line for line in begins if line <= a + 1), default=0)
-            of_statement = [fault for fault in faithful.faults if fault.line == begun]
-            if kind != "equal" and rows_of(of_statement) == {row}:
-                faults.append(dataclasses.replace(of_statement[0], line=max(len(lines) + begun - a, 1)))
-                lines += left[a:b]
+            fault, others = apart(row, [fault for fault in faithful.faults if fault.line == begun])
+            if kind != "equal" and fault and others <= BESIDE.keys():
+                faults.append(dataclasses.replace(fault, line=max(len(lines) + begun - a, 1)))
+                lines += without(left[a:b], others)
             else:
                 lines += right[c:d]
     if not faults:
@@ -169,8 +192,7 @@ class Proof:
 
     def _try(self, macros):
         refused = self._refused(macros)
-        wrong = [macro for macro, (row, repaired) in macros.items()
-                 if macro.name in refused or self._target not in RUN and self._says_less(row, macro, repaired)]
+        wrong = [macro for macro, (row, repaired) in macros.items() if self._is_wrong(row, macro, repaired, refused)]
         refused = self._refused([macros[macro][1] for macro in wrong])
         for macro, (row, _) in macros.items():
             if macro in wrong and macro.name not in refused:
@@ -198,11 +220,12 @@ class Proof:
             names |= {macro.name for _ in comparison.complaints}
         return names
 
-    @staticmethod
-    def _says_less(row, macro, repaired):
-        found = [row[1] in SAID and re.search(SAID[row[1]], one.file.read_text(encoding="utf-8")) is not None
-                 for one in (macro, repaired)]
-        return found == [False, True]
+    def _is_wrong(self, row, macro, repaired, refused):
+        """What a compiler takes is refused only where the statements of two macros do not fit together."""
+        if self._target in RUN or row[1] not in SAID:
+            return macro.name in refused
+        return [re.search(SAID[row[1]], one.file.read_text(encoding="utf-8")) is not None
+                for one in (macro, repaired)] == [False, True]
 
     def finish(self):
         unshown = self.rows - self.shown

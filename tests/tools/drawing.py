@@ -297,9 +297,12 @@ class Recorded:
 
     def _handed(self, field, data, several):
         """Objects by their place in `added`, or by their handle."""
+        field, _, owners = field.partition("/")
         number, _, span = field.lstrip("-").partition(":")
         value = next(iter(data[several if number == "*" else int(number)].values()))
         values = value if isinstance(value, list) else [value]
+        if owners:
+            values = [one for one, owner in zip(values, data[int(owners)]["handles"]) if (owner, "") not in self._lost]
         if field.startswith("-"):
             return [None] * len(values)
         flat = [part for one in values for part in (one if isinstance(one, list) else [one])]

@@ -1,6 +1,7 @@
 """What the types of VBA's variables rule out, and what a compiler that looks types up when a macro runs does not see:
-types and members that nobody has, sizes that are no constants, Set where it does not belong or is left out, and objects in
-parentheses, which stand for their default property."""
+types and members that nobody has, sizes that are no constants, Set where it does not belong or is left out, objects in
+parentheses, which stand for their default property, and arguments that are left out, of which the interface knows
+none."""
 
 import re
 
@@ -13,6 +14,7 @@ _SIZE = re.compile(r"\( *(?:(?:\d+ To )?\d+(?: *, *(?=\d))?)* *\)", re.I)
 _ASSIGNED = re.compile(rf"(Set )?({_NAME})( ?\(.*?\))? *=(.*)$", re.I)
 _MEMBER = re.compile(rf"(?<![\w.)])({_NAME})\.({_NAME})")
 _IN_PARENTHESES = re.compile(rf"[\w.]+\.{_NAME} ?\( ?({_NAME}) ?\)$")
+_LEFT_OUT = re.compile(rf"\.{_NAME}(?: ?\(| ) *,|, *(?:[,)]|$)")
 _CALLED = re.compile(rf"\.({_NAME})(?: ?\(.*\))?$")
 
 
@@ -81,6 +83,8 @@ class _Checker:
                 yield f"{name} has no member {member}"
         if (call := _IN_PARENTHESES.match(code)) and self.given(call[1]) == "object":
             yield f"{call[1]} in parentheses is its default property and no object"
+        if _LEFT_OUT.search(code):
+            yield "an argument is left out"
 
 
 def check(text, known):

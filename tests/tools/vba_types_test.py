@@ -25,7 +25,8 @@ class Types(unittest.TestCase):
         self.assertEqual(self.faults(
             "d = 1.5 ' = 2", "Set line1 = Nothing", "v = d", "Set v = line1", "a(1) = d", "Set o(0) = line1", "kind = 3",
             "line1.Layer = \"Set = 1\"", "v = doc.GetSheets()", "If line1 = d Then", "Dim z(1, 2) As Long",
-            "doc.F( d )", "doc.F( line1.Layer )", "doc.F( o )", "line1.GetFirstPoint d, d, d", "unknown.Nobody"), [])
+            "doc.F( d )", "doc.F( line1.Layer )", "doc.F( o )", "line1.GetFirstPoint d, d, d", "unknown.Nobody",
+            "doc.F Inkwright.iwOne_e.iwOne, \", ,\", d, \"\""), [])
 
     def test_types_and_sizes(self):
         self.refuses("Dim x As Double2", "no type Double2")
@@ -36,6 +37,10 @@ class Types(unittest.TestCase):
     def test_members_and_objects_in_parentheses(self):
         self.refuses("line1.GetMiddle d, d, d", "line1 has no member GetMiddle")
         self.refuses("doc.Join( line1 )", "line1 in parentheses")
+
+    def test_arguments_that_are_left_out(self):
+        for line in ("doc.F , d", "v = doc.F( , d )", "doc.F d, , d", "doc.F d,"):
+            self.refuses(line, "left out")
 
     def test_set_goes_with_objects_and_only_with_them(self):
         self.refuses("Set d = line1", "Set with d")
