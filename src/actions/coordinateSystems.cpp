@@ -5,14 +5,11 @@
 #include "actions/handedVariable.h"
 #include "actions/kinds.h"
 #include "frame/losses.h"
+#include "targets/arrays.h"
 
 namespace inkmacro {
 
 namespace {
-
-const Fault kNoEntity{"EmitAlignCoordinateSystemToEntity",
-                      {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
-                      "an entity without a variable leaves its place empty"};
 
 QString standardSystem(Writer& writer, const CFxCustomAction& action)
 {
@@ -103,7 +100,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionCoordinateSystemOfEntity(OdSmar
     CFxString entity;
     ResolveVariable(handle, cls, entity);
     if (entity.isEmpty()) {
-        NoteFault(inkmacro::kNoEntity);
+        NoteFault(inkmacro::emptyPlace);
         entity = FetchedUnknown(handle, cls);
     }
     if (entity.isEmpty() && writer.repairs)

@@ -7,6 +7,7 @@
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/blockAttributes.h"
 #include "objects/targets/references.h"
+#include "targets/arrays.h"
 #include "targets/customActions.h"
 #include "targets/variables.h"
 
@@ -79,6 +80,10 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionActivate(OdSmartPtr<CFxCustomAc
         throw OdError_InvalidIndex();
     CFxString name;
     text += Objects().EmitObjectVariable(objects.front(), cls, name);
+    if (name.isEmpty())
+        NoteFault(inkmacro::emptyPlace);
+    if (name.isEmpty() && writer.repairs)
+        return PassOver(action, "objects of that class have no statements");
     text += EmitActivate(writer, name);
     return kFxSuccess;
 }
@@ -94,6 +99,13 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionJoin(OdSmartPtr<CFxCustomAction
     CFxString other;
     text += variable(0, name);
     text += variable(2, other);
+    if (name.isEmpty() || other.isEmpty()) {
+        NoteFault(inkmacro::emptyPlace);
+        if (writer.repairs) {
+            text.clear();
+            return PassOver(action, "objects of that class have no statements");
+        }
+    }
     text += EmitJoin(writer, name, other);
     return kFxSuccess;
 }

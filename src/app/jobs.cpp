@@ -92,11 +92,16 @@ void checkMacros(const std::vector<Job>& jobs)
         if (const auto [other, fresh] = macros.emplace(placeOf(job.macro), &job); !fresh)
             throw WrongUse(QString("%1 and %2 would both become %3").arg(other->second->input, job.input, job.macro));
     // Projects may share a file, but a macro that one of them replaces is lost.
-    for (const Job& job : jobs)
-        for (const QString& file : job.projectFiles())
+    for (const Job& job : jobs) {
+        const QStringList files = job.projectFiles();
+        for (const QString& file : files)
+            if (files.count(file) > 1)
+                throw WrongUse(QString("two project files of %1 would both become %2").arg(job.input, file));
+        for (const QString& file : files)
             if (const auto macro = macros.find(placeOf(file)); macro != macros.end())
                 throw WrongUse(QString("the macro of %1 and a project file of %2 would both become %3")
                                    .arg(macro->second->input, job.input, file));
+    }
 }
 
 void checkInputs(const std::vector<Job>& jobs, const CommandLine& line)

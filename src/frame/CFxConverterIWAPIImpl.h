@@ -158,6 +158,8 @@ public:
     std::set<QString> insertedHatches;
     /// The last added object that a custom action finishes: it gets what they make in its command.
     OdDbHandle lastFinished;
+    /// In a repaired macro also those that have an action each.
+    std::set<OdDbHandle> finished;
     /// What changed layers are called by now, where that is not their name in the drawing.
     std::map<OdDbHandle, CFxString> renamedLayers;
     /// Added objects that no statement inserts: their variables have no value.
@@ -184,6 +186,9 @@ private:
     std::int32_t ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action);
     void RegisterChildren(const CFxActionArray& children, CommandState& state);
     void DeclareChildren(CommandState& state);
+    void PairWithActions(const CFxActionArray& children, CommandState& state);
+    /// The variable that a custom action of a command is handed.
+    QString HandOver(std::int32_t kind, unsigned number, const CommandState& state);
     QString Declarations(const CommandState& state) const;
     void ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group);
     /// False when the child failed.

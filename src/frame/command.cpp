@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <map>
 
 using inkmacro::Fault;
 using inkmacro::Target;
@@ -71,6 +72,7 @@ struct CFxConverterIWAPIImpl::CommandState
     std::vector<QString> declarations;
     /// Variables of the objects that a custom action of this command finishes.
     std::vector<QString> names;
+    std::map<unsigned, std::size_t> made; ///< in a repaired macro, by child: which added object the action makes
     std::size_t nextName = 0;
     std::deque<HeldStatement> statements;
     bool unnamedTarget = false;
@@ -84,6 +86,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
     CommandState state;
     RegisterChildren(children, state);
     DeclareChildren(state);
+    if (writer.repairs)
+        PairWithActions(children, state);
     StatementGroup group(writer);
     const ActionKinds kinds(children);
     const QScopedValueRollback<const ActionKinds*> beside(siblings, &kinds);
@@ -154,6 +158,25 @@ void CFxConverterIWAPIImpl::DeclareChildren(CommandState& state)
     }
 }
 
+/// Each action that makes an entity gets one of its own, from behind.
+void CFxConverterIWAPIImpl::PairWithActions(const CFxActionArray& children, CommandState& state)
+{
+    std::map<const OdRxClass*, unsigned> next;
+    for (std::size_t i = state.added.size(); i-- > 0;) {
+        const OdRxClass* const cls = state.added[i].cls;
+        if (!isFinishedByCustomAction(cls))
+            continue;
+        for (unsigned& at = next.try_emplace(cls, children.length()).first->second; at > 0;) {
+            const auto custom = odrxQuery<CFxCustomAction>(children[--at].get());
+            if (custom && CFxConverterIWAPIObject::IsEntityOfAction(cls, custom->GetKind())) {
+                state.made.emplace(at, i);
+                finished.insert(state.handles[i]);
+                break;
+            }
+        }
+    }
+}
+
 /// In a repaired macro without those of objects that turned out to have no statement that inserts them.
 QString CFxConverterIWAPIImpl::Declarations(const CommandState& state) const
 {
@@ -171,6 +194,18 @@ void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, Comm
             return LoseBehind(children, i);
 }
 
+/// The last one, whatever it is; in a repaired macro an action that makes an entity gets that one, or none.
+QString CFxConverterIWAPIImpl::HandOver(std::int32_t kind, unsigned number, const CommandState& state)
+{
+    if (const auto made = state.made.find(number); made != state.made.end()) {
+        lastFinished = state.handles[made->second];
+        return DeclaredName(state.added[made->second]);
+    }
+    if (state.names.empty() || (writer.repairs && CFxConverterIWAPIObject::IsEntityOfAction(nullptr, kind)))
+        return {};
+    return state.names.back();
+}
+
 bool CFxConverterIWAPIImpl::ConvertChild(const OdRxObjectPtr& child, unsigned number, CommandState& state,
                                          StatementGroup& group)
 {
@@ -178,8 +213,7 @@ bool CFxConverterIWAPIImpl::ConvertChild(const OdRxObjectPtr& child, unsigned nu
     QString current;
     if (const auto custom = odrxQuery<CFxCustomAction>(child.get())) {
         const std::int32_t kind = custom->GetKind();
-        if (!state.names.empty())
-            current = state.names.back();
+        current = HandOver(kind, number, state);
         if (kind == inkmacro::kViewBackground) {
             // Backgrounds and objects pair up in order; a surplus background stays with the last object.
             if (state.names.size() > 1 && state.nextName < state.names.size())
@@ -204,10 +238,10 @@ bool CFxConverterIWAPIImpl::ConvertChild(const OdRxObjectPtr& child, unsigned nu
 void CFxConverterIWAPIImpl::LoseBehind(const CFxActionArray& children, unsigned failed)
 {
     const CFxString reason(QString("action %1 of its command could not be converted").arg(failed + 1));
-    for (unsigned i = failed + 1; i < children.length(); ++i) {
+    for (unsigned i = failed; i < children.length(); ++i) {
         const OdRxObject* const child = children[i].get();
         const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
-        if (!IsPassedOver(child))
+        if (i > failed && !IsPassedOver(child))
             NoteLoss(ActionTitle(child), reason);
         if (const auto added = odrxQuery<CFxObjectAdded>(child))
             unmade.insert(added->GetHandle());

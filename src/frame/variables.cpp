@@ -192,8 +192,10 @@ EntityList CFxConverterIWAPIImpl::ResolveNames(const CFxCustomActionData& handle
     for (std::size_t i = 0; i < objects.size(); ++i) {
         CFxString type;
         entities[i].name = names[i];
-        if (!names[i].isEmpty())
-            GetApiTypeName(classes[i], type, entities[i].type);
+        if (!names[i].isEmpty()) {
+            const ActionEntry* const declared = writer.repairs ? FindEntry(objects[i]) : nullptr;
+            GetApiTypeName(declared ? declared->cls : classes[i], type, entities[i].type);
+        }
         entities[i].handle = objects[i].ascii();
     }
     if (writer.repairs)

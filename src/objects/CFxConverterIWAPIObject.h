@@ -125,11 +125,15 @@ public:
     QString EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
     /// The variable of an object that was added before; empty for any other. Takes no number.
     QString AddedVariable(const OdDbObjectId& id) const;
+    /// The same; an object that the recording did not add is fetched in a repaired macro. Empty is a fault.
+    QString AddedOrFetched(const OdDbObjectId& id, QString& fetch);
     /// The variable of an object that the macro has one for, the later objects of the same command included; empty for
     /// any other. Takes no number.
     QString KnownVariable(const OdDbHandle& handle) const;
     /// The class by which such an object was recorded; null for any other.
     const OdRxClass* KnownClass(const OdDbHandle& handle) const;
+    /// Whether custom actions of that kind make entities of the class; null: of any.
+    static bool IsEntityOfAction(const OdRxClass* cls, std::int32_t kind);
     /// The leader that owns the note of that handle, else the null id. Raises OdError_NotThatKindOfClass when the
     /// handle is another object's.
     OdDbObjectId LeaderOfNote(const OdDbHandle& handle) const;

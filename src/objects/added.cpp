@@ -46,6 +46,9 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
     if (const ClassRow* const row = FindClass(cls); row && row->reader)
         text = row->reader(added);
     strike(added.consumed(), rest);
+    // Settings make no hatch.
+    if (writer.repairs && cls == OdDbHatch::desc() && !IsMadeByAction(cls, handle))
+        text.clear();
     if (text.isEmpty() && !IsMadeByAction(cls, handle))
         driver.unmade.insert(handle);
     // The hatch stands there already, and its general properties have to wait for no other statement.

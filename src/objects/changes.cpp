@@ -38,7 +38,9 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls,
     CFxString name;
     if (!AddressChangedObject(cls, handle, noteLeader, list, name, text)) {
         NoteLoss("changes of " + ObjectTitle(cls, handle).toQString(),
-                 "the recording did not add the object, so the macro has no variable for it");
+                 driver.unmade.contains(handle)
+                     ? "no statement inserts the object, so the macro has no variable for it"
+                     : "the recording did not add the object, so the macro has no variable for it");
         return kFxSuccess;
     }
 

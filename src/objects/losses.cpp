@@ -2,6 +2,7 @@
 
 #include "frame/losses.h"
 #include "actions/kinds.h"
+#include "host/db/OdDbClassMap.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
@@ -175,6 +176,14 @@ void CFxConverterIWAPIObject::LoseRest(const PropertyList& list, bool fromAdded)
     }
 }
 
+bool CFxConverterIWAPIObject::IsEntityOfAction(const OdRxClass* cls, std::int32_t kind)
+{
+    return std::ranges::any_of(madeByActions, [&](const MadeByAction& made) {
+        const OdRxClass* const known = oddbClassByName(made.cls);
+        return made.kind == kind && (!cls || cls == known) && known->isDerivedFrom(OdDbEntity::desc());
+    });
+}
+
 bool CFxConverterIWAPIObject::IsMadeByAction(const OdRxClass* cls, const OdDbHandle& handle) const
 {
     if (cls == OdDbPolyline::desc())
@@ -186,7 +195,7 @@ bool CFxConverterIWAPIObject::IsMadeByAction(const OdRxClass* cls, const OdDbHan
     if (!row || !known || (!driver.HasSibling(row->kind) && !driver.HasSibling(row->other)))
         return false;
     const bool onlyLast = known->has(kFinishedByCustomAction) && cls != OdDbViewTableRecord::desc();
-    return !onlyLast || handle == driver.lastFinished;
+    return !onlyLast || handle == driver.lastFinished || driver.finished.contains(handle);
 }
 
 void CFxConverterIWAPIObject::LoseUnmade(PropertyList& rest, bool written)

@@ -5,6 +5,7 @@
 #include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/references.h"
+#include "targets/arrays.h"
 
 OdDbObjectId CFxConverterIWAPIObject::IdOf(const OdDbHandle& handle)
 {
@@ -53,6 +54,19 @@ QString CFxConverterIWAPIObject::AddedVariable(const OdDbObjectId& id) const
     return id.isNull() || found == addedVariableById.end() || !driver.FindEntry(id.getHandle())
                ? QString()
                : ObjectVariableName(found->second.cls, id, found->second.ordinal).toQString();
+}
+
+QString CFxConverterIWAPIObject::AddedOrFetched(const OdDbObjectId& id, QString& fetch)
+{
+    if (QString added = AddedVariable(id); !added.isEmpty())
+        return added;
+    driver.NoteFault(inkmacro::emptyPlace);
+    const OdDbObjectPtr object = id.openObject();
+    CFxString name;
+    if (writer.repairs && object && !driver.unmade.contains(id.getHandle()))
+        fetch = EmitObjectVariable(id.getHandle(), object->isA(), name);
+    // Nothing fetches what the command inserts further down.
+    return fetch.isEmpty() ? QString() : name.toQString();
 }
 
 QString CFxConverterIWAPIObject::KnownVariable(const OdDbHandle& handle) const

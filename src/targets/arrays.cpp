@@ -156,8 +156,8 @@ static QString objectWord(const ArrayPlace& place, const QString& word)
     return place.writer.target == Target::VbNet ? bracketed(place, word) : word;
 }
 
-static const Fault kEmptyPlace{
-    "array of objects",
+const Fault inkmacro::emptyPlace{
+    "EmitObjectVariable",
     {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
     "an object without a variable leaves its place empty"};
 static const Fault kReleasedElement{
@@ -174,7 +174,7 @@ QString objectLines(const ArrayPlace& place, std::vector<QString> words)
     QString lines =
         elementLines(objectElement, released && writer.repairs ? "IDispatchPtr" : "IDispatch*", place, words);
     if (hasEmpty)
-        lines = writer.faulty(lines, kEmptyPlace);
+        lines = writer.faulty(lines, emptyPlace);
     return released ? writer.faulty(lines, kReleasedElement) : lines;
 }
 
@@ -218,7 +218,7 @@ static QString singleLine(const Phrase& phrase, const ArrayPlace& place, std::si
 QString objectLine(const ArrayPlace& place, std::size_t index, const QString& word)
 {
     const QString line = singleLine(objectElement, place, index, objectWord(place, word));
-    return word.isEmpty() ? place.writer.faulty(line, kEmptyPlace) : line;
+    return word.isEmpty() ? place.writer.faulty(line, emptyPlace) : line;
 }
 
 QString bareObjectLine(const ArrayPlace& place, std::size_t index, const QString& word)

@@ -52,6 +52,11 @@ struct ArrayPlace
 /// The name with its number behind it.
 QString numberedName(const inkmacro::Words& names, inkmacro::Target target, std::uint32_t number);
 
+namespace inkmacro {
+/// The fault of a statement that names an object which has no variable.
+extern const Fault emptyPlace;
+} // namespace inkmacro
+
 // All elements of an array, in C++ COM with the locals that it takes to put them in.
 
 /// `words` are variables or calls.

@@ -105,9 +105,9 @@ const QSet<QString>& takenWords()
             "struct structure sub switch synclock template then this throw to true try trycast typedef typeid typename "
             "typeof uint ulong unchecked union unsafe unsigned until ushort using uuid variant virtual void volatile "
             "wchar_t wend when while widening with withevents writeonly xor "
-            "console date entity environment exception inkwright iwaddin_global iwaddinconnection iwapimacros "
-            "iwapplicationoptions_c iwcommandmessage_c iwsheet_c marshal math microsoft module1 program resource "
-            "smartvars stdafx system typeconverter vblf";
+            "console date dispatchwrapper entity environment exception inkwright iwaddin_global iwaddinconnection "
+            "iwapimacros iwapplicationoptions_c iwcommandmessage_c iwsheet_c marshal math microsoft module1 program "
+            "resource smartvars stdafx system typeconverter vblf";
         const QStringList list = all.split(' ');
         return QSet<QString>(list.begin(), list.end());
     }();

@@ -1,6 +1,7 @@
 // How texts stand in repaired macros, and how statements at fault are marked in all others.
 
 #include "TestActions.h"
+#include "TestDrawing.h"
 #include "TestRepair.h"
 #include "TestTarget.h"
 #include "objects/targets/dimensionOptions.h"
@@ -98,9 +99,17 @@ TEST(Quoting, TellsTextsThatBreakTheirQuotes)
 TEST(Quoting, MakesLegalNames)
 {
     const std::pair<const char*, const char*> cases[] = {
-        {"plate_2", "plate_2"},     {"a b-c", "a_b_c"},   {"gr\u00F6\u00DFe", "gr__e"}, {"1st", "macro_1st"},
-        {"_x", "macro__x"},         {"", "macro_"},       {"Class", "Class_macro"},     {"elseIf", "elseIf_macro"},
-        {"StdAfx", "StdAfx_macro"}, {"class1", "class1"},
+        {"plate_2", "plate_2"},
+        {"a b-c", "a_b_c"},
+        {"gr\u00F6\u00DFe", "gr__e"},
+        {"1st", "macro_1st"},
+        {"_x", "macro__x"},
+        {"", "macro_"},
+        {"Class", "Class_macro"},
+        {"elseIf", "elseIf_macro"},
+        {"StdAfx", "StdAfx_macro"},
+        {"class1", "class1"},
+        {"DispatchWrapper", "DispatchWrapper_macro"},
     };
     for (const auto& [name, expected] : cases)
         EXPECT_EQ(legalName(name), expected) << name;
@@ -352,6 +361,7 @@ std::vector<Hole> holes()
     const OdGePoint3d point{1, 2, 0};
     const TestData hatch{CFxString("ANSI31"), 1.0, 0.0, true, false, false, false, OdArray<OdGePoint2d>{{2, 1}}};
     static constexpr char unmadeUsed[] = "an object that no statement inserts has a variable without a value";
+    static constexpr char emptyPlaceNoted[] = "an object without a variable leaves its place empty";
     static constexpr char otherClass[] = "an object that is declared as one class is named as another one";
     static constexpr char textAsCodeNoted[] = "a text stands where a number or an enumerator belongs";
     static constexpr char unnamed[] = "what a custom action makes has no variable when its command has no such object";
@@ -382,10 +392,7 @@ std::vector<Hole> holes()
          {line, custom(44, {Handles{known}, Classes{cls("AcDbLine")}})},
          "  = iwRegions",
          "region2 = iwRegions"},
-        {"an entity without a variable leaves its place empty",
-         {custom(12, {unknown, cls("AcDbLine"), point})},
-         "ByEntity( , ",
-         "ByEntity( line1, "},
+        {emptyPlaceNoted, {custom(12, {unknown, cls("AcDbLine"), point})}, "ByEntity( , ", "ByEntity( line1, "},
         {unmadeUsed, {loose, custom(12, {unmade, cls("AcDbRegion"), point})}, "ByEntity( region1, ", ""},
         {otherClass,
          {line, command({odrxNew<TestModified>("AcDbArc", 1, PropertyList{odrxNew<TestProperty>("Thickness", 2.0)})})},
@@ -396,6 +403,18 @@ std::vector<Hole> holes()
          {line, custom(4, {Handles{known}, Classes{cls("AcDbArc")}, point, 0.5})},
          "circlearc1",
          "DispatchWrapper(line1)"},
+        {otherClass,
+         {line, custom(4, {Handles{known}, Classes{cls("AcDbArc")}, point, 0.5})},
+         "iwCircleArcType",
+         "iwLineType"},
+        {emptyPlaceNoted,
+         {loose, line, custom(45, {Handles{known}, Classes{cls("HostWeldSymbol")}})},
+         ".Activate()",
+         ""},
+        {emptyPlaceNoted,
+         {loose, line, custom(50, {known, cls("AcDbLine"), unknown, cls("HostWeldSymbol")})},
+         ".Join(",
+         ""},
     };
 }
 
@@ -418,6 +437,80 @@ TEST(RepairedMacro, HasNoPlaceWithoutItsObject)
         const bool leftOut = QString(hole.repaired).isEmpty();
         EXPECT_EQ(GetFxSystemServices()->Notes().GetLosses().size() > 1, leftOut) << hole.faithful;
     }
+}
+
+/// The same of objects that their readers look up in the drawing.
+TEST(RepairedMacro, HasNoPlaceWithoutAnObjectOfTheDrawing)
+{
+    const TestTarget host(Target::CSharp);
+    TestDrawing drawing;
+    drawing.add(0xA1, "AcDbArc");
+    drawing.add(0xA2, "AcDbRegion");
+    drawing.add(1, "AcDbArcAlignedText", {{"arcId", drawing.id(0xA1)}});
+    drawing.add(2, "AcDbArcAlignedText");
+    drawing.add(3, "AcDbViewport", {{"isNonRectClipOn", true}, {"nonRectClipEntityId", drawing.id(0xA2)}});
+    drawing.add(4, "AcDbViewport", {{"isNonRectClipOn", true}});
+    const std::tuple<const char*, std::uint64_t, const char*, const char*> cases[] = {
+        {"AcDbArcAlignedText", 1, "InsertCurvedText( \"\",  )", "InsertCurvedText( \"\", circlearc2 )"},
+        {"AcDbArcAlignedText", 2, "InsertCurvedText( \"\",  )", ""},
+        {"AcDbViewport", 3, "InsertViewportByEntity()", "InsertViewportByEntity(region2)"},
+        {"AcDbViewport", 4, "InsertViewportByEntity()", ""},
+    };
+    for (const auto& [cls, handle, faithful, repaired] : cases) {
+        const CFxActionArray actions{command({odrxNew<TestAdded>(cls, handle)})};
+        TestConversion conversion;
+        ASSERT_EQ(conversion.run(actions), kFxSuccess);
+        EXPECT_TRUE(conversion.body().contains(faithful)) << conversion.body().toStdString();
+        EXPECT_EQ(timesNoted("an object without a variable leaves its place empty"), 1) << cls;
+
+        const TestRepair repair;
+        ASSERT_EQ(conversion.run(actions), kFxSuccess);
+        const QString body = conversion.body();
+        EXPECT_FALSE(body.contains(faithful)) << body.toStdString();
+        EXPECT_TRUE(body.contains(repaired)) << body.toStdString();
+        EXPECT_EQ(GetFxSystemServices()->Notes().GetLosses().empty(), *repaired != '\0') << cls;
+    }
+}
+
+TEST(RepairedMacro, NamesNoObjectWhoseInsertionFailed)
+{
+    const TestTarget host(Target::CSharp);
+    TestDrawing drawing;
+    drawing.add(1, "AcDbLine");
+    const CFxActionArray actions{
+        command({odrxNew<TestAdded>("AcDbArcAlignedText", 1)}),
+        custom(4, {Handles{OdDbHandle(1)}, Classes{oddbClassByName("AcDbArcAlignedText")}, OdGePoint3d{}, 0.5})};
+    TestConversion conversion;
+    ASSERT_EQ(conversion.run(actions), kFxSuccess);
+    EXPECT_TRUE(conversion.body().contains("DispatchWrapper(arcalignedtext1)"));
+    EXPECT_EQ(timesNoted("an object that no statement inserts has a variable without a value"), 1);
+
+    const TestRepair repair;
+    ASSERT_EQ(conversion.run(actions), kFxSuccess);
+    EXPECT_FALSE(conversion.body().contains("arcalignedtext1")) << conversion.body().toStdString();
+}
+
+// Their command hands the variable of its last object to each of its actions.
+TEST(RepairedMacro, HandsEachActionTheObjectThatItMakes)
+{
+    const TestTarget host(Target::CSharp);
+    const TestData solid{CFxString("SOLID"), 1.0, 0.0, true, false, false, false, OdArray<OdGePoint2d>{{2, 1}}};
+    const auto hatch = [](std::uint64_t handle) {
+        return odrxNew<TestAdded>("AcDbHatch", handle, PropertyList{odrxNew<TestProperty>("Origin X", 2.0)});
+    };
+    const CFxActionArray actions{
+        command({addedLine(1), odrxNew<TestCustom>(18, solid), hatch(2), odrxNew<TestCustom>(18, solid), hatch(3),
+                 odrxNew<TestAdded>("AcDbRegion", 4), odrxNew<TestCustom>(44, TestData{Handles{}, Classes{}})})};
+    TestConversion conversion;
+    ASSERT_EQ(conversion.run(actions), kFxSuccess);
+    EXPECT_EQ(conversion.body().count("region4 = iwSketchManager.InsertHatch"), 2);
+
+    const TestRepair repair;
+    ASSERT_EQ(conversion.run(actions), kFxSuccess);
+    const QString body = conversion.body();
+    for (const char* const made : {"hatch2 = iwSketch", "hatch3 = iwSketch", "region4 = iwRegions"})
+        EXPECT_EQ(body.count(made), 1) << made << " in\n" << body.toStdString();
+    EXPECT_TRUE(GetFxSystemServices()->Notes().GetLosses().empty());
 }
 
 // Behind the declaration of a trim's pieces another group begins.

@@ -168,6 +168,9 @@ QString ReadCurvedText(AddedObject& added)
     const auto curved = added.open<OdDbArcAlignedText>();
     if (!curved)
         return added.lost("the drawing does not have it, and no record holds its text");
-    const QString arc = added.converter.AddedVariable(curved->arcId());
-    return EmitInsertCurvedText(added.writer, curved->textString(), arc, added.name);
+    QString fetch;
+    const QString arc = added.converter.AddedOrFetched(curved->arcId(), fetch);
+    if (arc.isEmpty() && added.writer.repairs)
+        return added.lost("the macro does not have the arc that it runs along");
+    return fetch + EmitInsertCurvedText(added.writer, curved->textString(), arc, added.name);
 }

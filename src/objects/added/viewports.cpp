@@ -16,6 +16,14 @@ QString ReadViewport(AddedObject& added)
     const OdDbObjectPtr current = ACTIVE_DOCUMENT->GetDatabase()->currentLayoutId().openObject();
     const auto layout = odrxCast<OdDbLayout>(current.get());
     const OdDbObjectId& clip = viewport->nonRectClipEntityId();
-    return EmitInsertViewportByEntity(added.writer, layout ? CFxString(layout->getLayoutName()) : CFxString(),
-                                      clip.openObject(), added.converter.KnownVariable(clip.getHandle()), added.name);
+    const OdDbObjectPtr entity = clip.openObject();
+    QString variable = added.converter.KnownVariable(clip.getHandle());
+    QString fetch;
+    if (variable.isEmpty() && !CanMakeClip(entity.get())) {
+        variable = added.converter.AddedOrFetched(clip, fetch);
+        if (variable.isEmpty() && added.writer.repairs)
+            return {};
+    }
+    return fetch + EmitInsertViewportByEntity(added.writer, layout ? CFxString(layout->getLayoutName()) : CFxString(),
+                                              entity, variable, added.name);
 }

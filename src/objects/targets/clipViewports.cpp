@@ -133,6 +133,12 @@ Clip clipLike(Writer& writer, const OdDbObject* object)
 
 } // namespace
 
+bool CanMakeClip(const OdDbObject* entity)
+{
+    return odrxQuery<OdDbCircle>(entity) || odrxQuery<OdDbPolyline>(entity) || odrxQuery<OdDb3dPolyline>(entity) ||
+           odrxQuery<OdDbEllipse>(entity);
+}
+
 static const Phrase insertViewport{
     "EmitInsertViewportByEntity",
     {

@@ -3,6 +3,8 @@
 #include "host/db/OdDbObject.h"
 #include "targets/Writer.h"
 
+/// Whether an entity without a variable can be drawn once more; null cannot.
+bool CanMakeClip(const OdDbObject* entity);
 /// A viewport on the sheet that an entity bounds. `variable` is what the macro has for the entity; when it has none, a
 /// circle, polyline or ellipse is drawn like it. `clip` may be null.
 QString EmitInsertViewportByEntity(Writer& writer, const CFxString& sheet, const OdDbObjectPtr& clip,
