@@ -132,14 +132,14 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling)
     const bool tellsNothing = telling.quiet && !asked;
     GetFxSystemServices()->SetInt16("IgnoreFaults", tellsNothing ? 1 : 0);
     CFxConversionNotes& notes = GetFxSystemServices()->Notes();
-    notes.KeepLosses(asked);
+    notes.KeepAll(asked);
     QStringList placed;
     const int status = convertOrComplain(job, host, recording, placed);
     QJsonObject report = reportOf(job, status);
     if (asked)
         addNotes(report, notes, recording);
 
-    const QString counts = countText(notes.GetLossCount(), notes.GetFaults().size());
+    const QString counts = countText(notes.GetLossCount(), notes.GetFaultCount());
     if (status == kDone && !telling.quiet && !counts.isEmpty())
         printError((job.macro + ": " + counts + (asked ? "\n" : "; see --report\n")).toLocal8Bit());
     if (asked)

@@ -194,6 +194,7 @@ void Writer::write(QTextStream& stream, const QString& statements)
 
 void Writer::noteFault(const Fault& fault) const
 {
-    GetFxSystemServices()->Notes().NoteFault(
-        {fault.operation(), fault.reason(), file, static_cast<std::uint32_t>(line_), fault.mended()});
+    GetFxSystemServices()->Notes().NoteFault([&] {
+        return CFxFaultNote{fault.operation(), fault.reason(), file, static_cast<std::uint32_t>(line_), fault.mended()};
+    });
 }

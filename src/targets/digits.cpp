@@ -1,7 +1,7 @@
 #include "targets/digits.h"
 
-#include "targets/Fill.h"
-
+#include <array>
+#include <charconv>
 #include <cmath>
 
 namespace inkmacro {
@@ -14,7 +14,14 @@ const Fault kSixDigits{"FormatShort",
 bool losesDigits(double value)
 {
     constexpr double lastLongDecimal = 1e-14;
-    return std::fabs(FormatShort(value).toDouble() - value) > lastLongDecimal;
+    constexpr int digitsBehindTheFirst = 5;
+    std::array<char, 32> digits;
+    // Room for a number of so many digits there always is.
+    const char* const end =
+        std::to_chars(digits.begin(), digits.end(), value, std::chars_format::scientific, digitsBehindTheFirst).ptr;
+    double rounded = value;
+    std::from_chars(digits.begin(), end, rounded);
+    return std::fabs(rounded - value) > lastLongDecimal;
 }
 
 } // namespace inkmacro

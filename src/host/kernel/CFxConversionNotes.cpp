@@ -16,6 +16,7 @@ void CFxConversionNotes::Forget()
 {
     known_.clear();
     lossCount_ = 0;
+    faultCount_ = 0;
     losses_.clear();
     faults_.clear();
 }

@@ -61,8 +61,8 @@ public:
         CFxConversionNotes& notes_;
     };
 
-    /// A host that is about to ask for no more than the number of losses spares their texts.
-    void KeepLosses(bool keeps) { keepsLosses_ = keeps; }
+    /// A host that is about to ask for no more than the numbers of losses and faults spares what tells of them.
+    void KeepAll(bool keeps) { keepsAll_ = keeps; }
 
     /// What is lost of one action in the same way several times counts once.
     void NoteLoss(const CFxString& what, const CFxString& reason);
@@ -73,14 +73,23 @@ public:
         if (!IsFirst({object, part, reason}))
             return;
         ++lossCount_;
-        if (keepsLosses_)
+        if (keepsAll_)
             losses_.push_back({place_, title(), CFxString(reason)});
     }
     std::size_t GetLossCount() const { return lossCount_; }
     /// Empty when they are not kept.
     const std::vector<CFxLoss>& GetLosses() const { return losses_; }
 
-    void NoteFault(CFxFaultNote fault) { faults_.push_back(std::move(fault)); }
+    /// `note` makes the fault's note, when they are kept.
+    template<class Note>
+    void NoteFault(Note note)
+    {
+        ++faultCount_;
+        if (keepsAll_)
+            faults_.push_back(note());
+    }
+    std::size_t GetFaultCount() const { return faultCount_; }
+    /// Empty when they are not kept.
     const std::vector<CFxFaultNote>& GetFaults() const { return faults_; }
 
     void Forget();
@@ -101,8 +110,9 @@ private:
 
     CFxActionPlace place_;
     QSet<Lost> known_; ///< of the action
-    bool keepsLosses_ = true;
+    bool keepsAll_ = true;
     std::size_t lossCount_ = 0;
+    std::size_t faultCount_ = 0;
     std::vector<CFxLoss> losses_;
     std::vector<CFxFaultNote> faults_;
 };
