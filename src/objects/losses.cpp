@@ -65,12 +65,11 @@ bool holds(std::span<const DerivedTag> rows, const OdRxClass* cls, const QString
 
 constexpr std::int32_t kLineWeightByLayer = -1;
 
-/// Objects that a custom action of their command makes, one of that kind or the other.
+/// Objects that a custom action of their command makes.
 struct MadeByAction
 {
     const char* cls;
     std::int32_t kind;
-    std::int32_t other = kind;
 };
 constexpr MadeByAction madeByActions[] = {
     {"AcDbHatch", inkmacro::kInsertHatch},
@@ -79,7 +78,7 @@ constexpr MadeByAction madeByActions[] = {
     {"AcDbRegion", inkmacro::kRegion},
     {"AcDbViewport", inkmacro::kViewport},
     {"AcDbViewportTableRecord", inkmacro::kViewTiles},
-    {"AcDbViewTableRecord", inkmacro::kViewBackground, inkmacro::kNamedView},
+    {"AcDbViewTableRecord", inkmacro::kViewBackground},
 };
 
 /// Null for a class whose objects a reader makes.
@@ -192,7 +191,7 @@ bool CFxConverterIWAPIObject::IsMadeByAction(const OdRxClass* cls, const OdDbHan
         return true;
     const MadeByAction* const row = madeByAction(cls);
     const ClassRow* const known = FindClass(cls);
-    if (!row || !known || (!driver.HasSibling(row->kind) && !driver.HasSibling(row->other)))
+    if (!row || !known || !driver.HasSibling(row->kind))
         return false;
     const bool onlyLast = known->has(kFinishedByCustomAction) && cls != OdDbViewTableRecord::desc();
     return !onlyLast || handle == driver.lastFinished || driver.finished.contains(handle);
@@ -203,7 +202,7 @@ void CFxConverterIWAPIObject::LoseUnmade(PropertyList& rest, bool written)
     const MadeByAction* const row = madeByAction(changedClass);
     if (!row)
         return;
-    if (!isInBlock(changedClass, driver) && !driver.HasSibling(row->kind) && !driver.HasSibling(row->other)) {
+    if (!isInBlock(changedClass, driver) && !driver.HasSibling(row->kind)) {
         LoseObject("no action of its command makes it");
         return;
     }
