@@ -7,6 +7,7 @@
 #include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
+#include "targets/Marks.h"
 #include "targets/variables.h"
 
 #include <QScopedValueRollback>
@@ -16,6 +17,7 @@
 #include <map>
 
 using inkmacro::Fault;
+using inkmacro::Mark;
 using inkmacro::Target;
 
 namespace {
@@ -41,26 +43,45 @@ bool isShapeFileStyle(const CFxObjectAdded& added)
     return style && style->isShapeFile() && !IsHostShapeFile(style->fileName());
 }
 
-/// The text of a statement that waits for the end of its command. Nearly all are plain letters, which take half the
-/// room that QString gives them: a command may have millions of statements.
+/// The text of a statement that waits for the end of its command. Nearly all are plain letters but for the marks in
+/// them, and take half the room so that QString gives them: a command may have millions of statements.
 class HeldStatement
 {
 public:
-    explicit HeldStatement(QString text) : latin1_(text.toLatin1())
+    explicit HeldStatement(const QString& text) : text_(text), latin1_(text.toLatin1())
     {
-        if (text == latin1())
-            return;
-        latin1_.clear();
-        text_ = std::move(text);
+        if (text_ != latin1())
+            takeMarks();
+        if (text_ == latin1())
+            text_.clear();
+        else
+            latin1_.clear();
     }
-    QString text() const { return text_.isNull() ? QString(latin1()) : text_; }
+
+    QString text() const
+    {
+        QString text = latin1_.isNull() ? text_ : QString(latin1());
+        for (auto mark = marks_.rbegin(); mark != marks_.rend(); ++mark)
+            text.insert(mark->first, mark->second);
+        return text;
+    }
 
 private:
+    void takeMarks()
+    {
+        for (auto found = Mark::find(text_, 0); found; found = Mark::find(text_, found->at)) {
+            const int at = static_cast<int>(found->at);
+            marks_.emplace_back(at, text_.mid(at, Mark::length));
+            text_.remove(at, Mark::length);
+        }
+        latin1_ = text_.toLatin1();
+    }
     /// Made of the array alone it would end in front of the first null character.
     QLatin1String latin1() const { return QLatin1String(latin1_.constData(), latin1_.size()); }
 
-    QByteArray latin1_;
     QString text_;
+    QByteArray latin1_;
+    std::vector<std::pair<int, QString>> marks_; ///< each where it stood before those behind it were there
 };
 
 } // namespace
@@ -229,7 +250,7 @@ bool CFxConverterIWAPIImpl::ConvertChild(const OdRxObjectPtr& child, unsigned nu
         state.shapeStyle = true;
     if (!current.isEmpty()) {
         state.allEmpty = false;
-        state.statements.emplace_back(std::move(current));
+        state.statements.emplace_back(current);
     }
     return true;
 }
