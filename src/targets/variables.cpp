@@ -52,27 +52,29 @@ static const Phrase getLayer{
     "EmitGetLayer",
     {
         .cpp = "%1iwLayerManager_ptr iwLayerManager_%3;%2%1iwDoc->GetLayerManager( &iwLayerManager_%3 );%2"
-               "%1iwLayer_ptr %4;%2%1iwLayerManager_%3->GetLayer( L\"%5\", &%4 );%2",
+               "%1iwLayer_ptr %4;%2%1iwLayerManager_%3->GetLayer( L\"0\", &%4 );%2",
         .cppCom = "%1ILayerManagerPtr iwLayerManager_%3 = iwDoc->GetLayerManager();%2"
-                  "%1ILayerPtr %4 = iwLayerManager_%3->GetLayer( \"%5\" );%2",
+                  "%1ILayerPtr %4 = iwLayerManager_%3->GetLayer( \"0\" );%2",
         .csharp = "%1LayerManager iwLayerManager_%3 = iwDoc.GetLayerManager();%2"
-                  "%1Layer %4 = iwLayerManager_%3.GetLayer( \"%5\" );%2",
+                  "%1Layer %4 = iwLayerManager_%3.GetLayer( \"0\" );%2",
         .javascript = "%1var iwLayerManager_%3 = iwDoc.GetLayerManager();%2"
-                      "%1var %4 = iwLayerManager_%3.LayerManager.GetLayer( \"%5\" );%2",
+                      "%1var %4 = iwLayerManager_%3.LayerManager.GetLayer( \"0\" );%2",
         .vbNet = "%1Dim iwLayerManager_%3 As Inkwright.LayerManager = iwDoc.GetLayerManager()%2"
-                 "%1Dim %4 As Inkwright.Layer = iwLayerManager_%3.GetLayer( \"%5\" )%2",
+                 "%1Dim %4 As Inkwright.Layer = iwLayerManager_%3.GetLayer( \"0\" )%2",
         .vba = "%1Dim iwLayerManager_%3 As Inkwright.LayerManager%2"
                "%1Set iwLayerManager_%3  = iwDoc.GetLayerManager()%2%1Dim %4 As Inkwright.Layer%2"
-               "%1Set %4  = iwLayerManager_%3.GetLayer( \"%5\" )%2",
+               "%1Set %4  = iwLayerManager_%3.GetLayer( \"0\" )%2",
     }};
 static const Mend layerInPage(
     getLayer, Target::JavaScript, "the page has no iwDoc, its document is mDoc",
-    "%1var iwLayerManager_%3 = mDoc.GetLayerManager();%2%1var %4 = iwLayerManager_%3.LayerManager.GetLayer( \"%5\" );%2");
+    "%1var iwLayerManager_%3 = mDoc.GetLayerManager();%2%1var %4 = iwLayerManager_%3.LayerManager.GetLayer( \"0\" );%2");
 
+/// The layer's name is always "0": the default layer is fetched into the variable, and the statements that follow set
+/// the recorded properties on it.
 QString EmitGetLayer(Writer& writer, const CFxString& variable, const CFxString& layer)
 {
-    const QString zero = "0";
-    const QString& name = writer.repairs ? layer.toQString() : zero;
-    const QString text = writer.fill(getLayer).number(++processCounters.layerManagers).text(variable).text(name);
-    return name == layer.toQString() ? text : writer.faulty(text, kLayerZero);
+    QString text = writer.fill(getLayer).number(++processCounters.layerManagers).text(variable);
+    if (writer.repairs)
+        text.replace("\"0\"", '"' + writer.quoted(layer) + '"');
+    return layer.toQString() == "0" ? text : writer.faulty(text, kLayerZero);
 }
