@@ -6,7 +6,6 @@
 With `repaired`, as --repair writes them: nothing is excused.
 """
 
-import sys
 
 import gxx
 import harness
@@ -33,15 +32,5 @@ class Judge:
         return list(dict.fromkeys(rejections))
 
 
-def main():
-    repaired = sys.argv[3:] == ["repaired"]
-    checked = harness.Checked()
-    macros = checked.macros("cpp", *["--repair"] * repaired)
-    count = len(macros)
-    verdict = harness.Verdict()
-    verdict.settle(macros, Judge(checked, macros))
-    verdict.report(f"{count} add-ins parsed")
-
-
 if __name__ == "__main__":
-    main()
+    harness.check("cpp", Judge, "add-ins parsed")

@@ -8,7 +8,6 @@ With `repaired`, as --repair writes them: nothing is excused.
 """
 
 import dataclasses
-import sys
 
 import gxx
 import harness
@@ -41,15 +40,5 @@ class Judge:
         return list(dict.fromkeys(rejections))
 
 
-def main():
-    repaired = sys.argv[3:] == ["repaired"]
-    checked = harness.Checked()
-    macros = checked.macros("cppcom", *(["--repair"] if repaired else []))
-    count = len(macros)
-    verdict = harness.Verdict()
-    verdict.settle(macros, Judge(checked, macros))
-    verdict.report(f"{count} add-ins type-checked")
-
-
 if __name__ == "__main__":
-    main()
+    harness.check("cppcom", Judge, "add-ins type-checked")

@@ -193,6 +193,16 @@ class Verdict:
         finish(self.complaints, f"{checked}; {len(self.rejected)} macros are rejected for faults that are reported")
 
 
+def check(target, judge_of, done):
+    """A test that holds what the tools of a target reject against the reports, or as `repaired` against nothing."""
+    checked = Checked()
+    macros = checked.macros(target, *["--repair"] * (sys.argv[3:] == ["repaired"]))
+    count = len(macros)
+    verdict = Verdict()
+    verdict.settle(macros, judge_of(checked, macros))
+    verdict.report(f"{count} {done}")
+
+
 def finish(complaints, summary):
     print("\n".join(complaints) if complaints else summary)
     sys.exit(1 if complaints else 0)
