@@ -44,11 +44,11 @@ class Fill
 {
 public:
     /// A null template yields empty text.
-    explicit Fill(const Template* words) : template_(words) {}
+    explicit Fill(const Template* words) : template_(words), most_(words ? words->text_.size() : 0) {}
     /// A statement's first value is its indentation.
-    Fill(const Template* words, unsigned level) : template_(words) { indent(level); }
+    Fill(const Template* words, unsigned level) : Fill(words) { indent(level); }
     /// Of most statements the first two values are indentation and line end.
-    Fill(const Template* words, unsigned level, QStringView lineEnd) : template_(words) { indent(level).text(lineEnd); }
+    Fill(const Template* words, unsigned level, QStringView lineEnd) : Fill(words) { indent(level).text(lineEnd); }
     Fill(const Fill&) = delete;
     Fill& operator=(const Fill&) = delete;
     Fill(Fill&&) = default; // what is kept does not move, so the views stay good
@@ -118,12 +118,9 @@ public:
 private:
     using Value = std::variant<Blanks, QStringView, QLatin1String, qlonglong, qulonglong, Long, Short>;
 
+    /// Of the types that Value has.
     template<class T>
-    Fill& add(T value)
-    {
-        values_.append(Value(value));
-        return *this;
-    }
+    Fill& add(T value);
 
     // `used` is how many values have a marker.
     QString filled(int used) const;
@@ -131,17 +128,18 @@ private:
     void markFaults(QString& outcome, int used) const;
     bool hasBrokenQuotes(int used) const;
     bool hasReadMarker(int used) const;
-    bool fitsOnePass(int used) const;
-    qsizetype plainLength(int used) const;
+    bool fitsOnePass() const;
     QString inOnePass(int used) const;
-    QString valueByValue(int used) const;
+    QString valueByValue() const;
 
     const Template* template_;
     FillMode mode_{};
     const Fault* fault_ = nullptr;
     QVarLengthArray<Value, 16> values_;
     std::vector<QString> kept_; ///< what views among the values look at; their characters never move
+    qsizetype most_;            ///< no outcome is longer while no value holds a marker
     bool percent_ = false;      ///< some text holds '%'
+    bool open_ = false;         ///< some value can make a marker of what stands in front of it
     int rounded_ = -1;          ///< the first value that loses digits
 };
 
