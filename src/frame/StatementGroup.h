@@ -10,11 +10,11 @@
 class StatementGroup
 {
 public:
-    explicit StatementGroup(Writer& writer) : writer_(writer), begin_(EmitBlockBegin(writer)) {}
+    explicit StatementGroup(Writer& writer) : writer_(writer), level_(writer.IndentLevel) { enterBlock(writer); }
     StatementGroup(const StatementGroup&) = delete;
     StatementGroup& operator=(const StatementGroup&) = delete;
 
-    const QString& begin() const { return begin_; }
+    QString begin() const { return blockBeginAt(writer_, level_); }
     /// Gives the level back.
     QString close() { return EmitBlockEnd(writer_); }
     /// Gives a level back because statements are written without a group, in every target: who may not do so in
@@ -28,7 +28,7 @@ public:
 
 private:
     Writer& writer_;
-    QString begin_;
+    const std::uint32_t level_; ///< in front of it
     bool abandoned_ = false;
 };
 

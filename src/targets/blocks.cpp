@@ -15,13 +15,22 @@ static const Phrase blockBegin{"EmitBlockBegin",
                                    .vba = "%1If 1 Then%2",
                                }};
 
-/// A target without groups keeps its level too.
 QString EmitBlockBegin(Writer& writer)
 {
-    const QString text = writer.fill(blockBegin);
+    const QString text = blockBeginAt(writer, writer.IndentLevel);
+    enterBlock(writer);
+    return text;
+}
+
+QString blockBeginAt(const Writer& writer, std::uint32_t level)
+{
+    return writer.fillPlain(blockBegin).indent(level).text(LineEnd);
+}
+
+void enterBlock(Writer& writer)
+{
     if (blockBegin.has(writer.target))
         ++writer.IndentLevel;
-    return text;
 }
 
 static const Phrase blockEnd{"EmitBlockEnd",
