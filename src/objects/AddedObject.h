@@ -2,13 +2,14 @@
 
 #include "objects/CFxConverterIWAPIObject.h"
 
-/// One added object in the hands of its reader, with its records: what is read leaves the list and is remembered.
+/// One added object in the hands of its reader, with its records: what is read leaves the list.
 class AddedObject
 {
 public:
+    /// `consumed` receives what is read; null: nobody asks.
     AddedObject(CFxConverterIWAPIObject& converter, Writer& writer, CFxValueContext context, const OdDbObjectId& id,
-                const CFxString& name, PropertyList& list)
-        : converter(converter), writer(writer), name(name), id_(id), list_(list), context_(context)
+                const CFxString& name, PropertyList& list, PropertyList* consumed)
+        : converter(converter), writer(writer), name(name), id_(id), list_(list), context_(context), consumed_(consumed)
     {
     }
 
@@ -24,10 +25,10 @@ public:
         return odrxCast<T>(id_.openObject().get());
     }
 
-    CFxVariant take(const PropertyTag& tag) { return converter.FindProperty(tag, list_, context_, &consumed_); }
+    CFxVariant take(const PropertyTag& tag) { return converter.FindProperty(tag, list_, context_, consumed_); }
     OdGePoint3d takePoint(const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag)
     {
-        return converter.FindPoint(xTag, yTag, zTag, list_, context_, &consumed_);
+        return converter.FindPoint(xTag, yTag, zTag, list_, context_, consumed_);
     }
     OdGePoint3d takePoint(const PropertyTag& tag) { return take(tag).GetPoint3d(); }
     CFxString takeText(const PropertyTag& tag) { return take(tag).GetString(); }
@@ -57,11 +58,9 @@ public:
         return {};
     }
 
-    const PropertyList& consumed() const { return consumed_; }
-
 private:
     const OdDbObjectId id_;
     PropertyList& list_;
     CFxValueContext context_;
-    PropertyList consumed_;
+    PropertyList* consumed_;
 };

@@ -162,7 +162,7 @@ private:
         QString translated; ///< null as long as the tag has not been looked for
         bool searchesGroup = false;
     };
-    const TagWords& WordsOf(const PropertyTag& tag);
+    const TagWords& TranslateTag(const PropertyTag& tag);
     /// The group of block attributes, in the host's display language.
     const QString& BlockAttributes();
 

@@ -2,18 +2,25 @@
 
 #include <QHash>
 
+#include <array>
+#include <cstdint>
 #include <cstring>
 #include <deque>
-#include <unordered_map>
 
+/// A literal of an address that another one's has pushed out is looked up by its letters, which takes longer.
 PropertyTag::PropertyTag(const char* latin1)
 {
-    static std::unordered_map<const char*, const Entry*> byAddress;
-    const Entry*& entry = byAddress[latin1];
+    struct Known
+    {
+        const char* address;
+        const Entry* entry;
+    };
+    static std::array<Known, 4096> byAddress{};
+    Known& known = byAddress[reinterpret_cast<std::uintptr_t>(latin1) / 4 % byAddress.size()];
     // What was no literal may have left its place to another text.
-    if (!entry || std::strcmp(entry->latin1.constData(), latin1) != 0)
-        entry = entryOf(QString::fromLatin1(latin1));
-    entry_ = entry;
+    if (known.address != latin1 || std::strcmp(known.entry->latin1.constData(), latin1) != 0)
+        known = {latin1, entryOf(QString::fromLatin1(latin1))};
+    entry_ = known.entry;
 }
 
 PropertyTag::PropertyTag(const QString& text) : entry_(entryOf(text))

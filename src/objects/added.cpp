@@ -42,10 +42,16 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
     const CFxString name = ObjectVariableName(cls, id, entry->ordinal);
     addedVariableById[id.getHandle()] = {cls, entry->ordinal};
 
-    AddedObject added(*this, writer, driver.GetContext(), id, name, read);
+    // Of two lists with the same records the same ones stay.
+    const bool same = read == rest;
+    PropertyList consumed;
+    AddedObject added(*this, writer, driver.GetContext(), id, name, read, same ? nullptr : &consumed);
     if (const ClassRow* const row = FindClass(cls); row && row->reader)
         text = row->reader(added);
-    strike(added.consumed(), rest);
+    if (same)
+        rest = std::move(read);
+    else
+        strike(consumed, rest);
     // Settings make no hatch.
     if (writer.repairs && cls == OdDbHatch::desc() && !IsMadeByAction(cls, handle))
         text.clear();

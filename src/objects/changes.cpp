@@ -74,7 +74,8 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls,
         if (!noteLeader.isNull())
             text.clear();
     } else if (group.abandoned()) {
-        text += general + classText;
+        text += general;
+        text += classText;
     } else {
         text += group.begin() + general + classText + group.close();
     }

@@ -54,16 +54,14 @@ const QString& CFxConverterIWAPIObject::BlockAttributes()
 }
 
 /// The catalogues are asked once for each tag of a conversion, not for each record.
-const CFxConverterIWAPIObject::TagWords& CFxConverterIWAPIObject::WordsOf(const PropertyTag& tag)
+const CFxConverterIWAPIObject::TagWords& CFxConverterIWAPIObject::TranslateTag(const PropertyTag& tag)
 {
     if (tag.number() >= tagWords.size())
         tagWords.resize(tag.number() + 1);
     TagWords& words = tagWords[tag.number()];
-    if (words.translated.isNull()) {
-        const CFxString groupWord = translated("property_groups", tag.text());
-        words.searchesGroup = groupWord.equalNoCase(BlockAttributes()) && groupWord.equalNoCase(tag.text());
-        words.translated = translated("property_types", tag.text());
-    }
+    const CFxString groupWord = translated("property_groups", tag.text());
+    words.searchesGroup = groupWord.equalNoCase(BlockAttributes()) && groupWord.equalNoCase(tag.text());
+    words.translated = translated("property_types", tag.text());
     return words;
 }
 
@@ -71,15 +69,19 @@ CFxVariant CFxConverterIWAPIObject::FindProperty(const PropertyTag& tag, Propert
                                                  CFxValueContext valueContext, PropertyList* consumed,
                                                  CFxVariant* index)
 {
-    const TagWords& words = WordsOf(tag);
+    const bool known = tag.number() < tagWords.size() && !tagWords[tag.number()].translated.isNull();
+    const TagWords& words = known ? tagWords[tag.number()] : TranslateTag(tag);
     const auto byGroup = [&](const CFxPropertyChanged& record) {
         return words.searchesGroup && record.GetGroup().equalNoCase(blockAttributes);
     };
-    const auto found = std::find_if(list.begin(), list.end(), [&](const CFxPropertyChangedPtr& record) {
-        const QString& name = record->GetName();
-        return isSame(name, tag.text()) || isSame(name, words.translated) || byGroup(*record);
-    });
-    if (found == list.end())
+    const auto end = list.end();
+    auto found = list.begin();
+    for (; found != end; ++found) {
+        const QString& name = (*found)->GetName();
+        if (isSame(name, tag.text()) || isSame(name, words.translated) || byGroup(**found))
+            break;
+    }
+    if (found == end)
         return CFxVariant::kNull;
 
     const CFxPropertyChangedPtr record = std::move(*found);
