@@ -50,58 +50,77 @@ CFxString numbered(CFxString type, std::uint32_t ordinal)
     return CFxString(type.toQString() + QString::number(ordinal));
 }
 
-/// Those of the classes in the table, for C++ or not. Names are made several times for each object.
-const QString& stemOf(const ClassRow& row)
+TypeNames namesOf(const ClassRow& row)
 {
-    static std::array<QHash<const ClassRow*, QString>, 2> stems;
     const bool cpp = RecordingLanguage() == 0;
-    QString& stem = stems[cpp ? 0 : 1][&row];
-    if (stem.isNull()) {
-        CFxString type = cpp ? cppTypeName(row) : CFxString(row.interfaceName);
-        if (cpp)
-            StripPointerSuffixes(type);
-        type.makeLower();
-        stem = type;
+    TypeNames names{cpp ? cppTypeName(row) : CFxString(row.interfaceName), row.enumerator, {}, {}};
+    names.lower = names.type;
+    names.lower.makeLower();
+    names.stem = names.lower;
+    if (cpp) {
+        names.stem.replace("_ptr", "");
+        names.stem.replace("_c*", "");
     }
-    return stem;
+    return names;
 }
 
 } // namespace
 
+const TypeNames* FindTypeNames(const OdRxClass* cls)
+{
+    // For C++ or not. Asked for several times for each object.
+    static std::array<QHash<const OdRxClass*, TypeNames>, 2> known;
+    auto& names = known[RecordingLanguage() == 0 ? 0 : 1];
+    auto found = names.constFind(cls);
+    if (found == names.constEnd()) {
+        const ClassRow* const row = FindClass(cls);
+        if (!row || !row->interfaceName)
+            return nullptr;
+        found = names.insert(cls, namesOf(*row));
+    }
+    return &found.value();
+}
+
 QString NumberedVariable(const OdRxClass* cls, std::uint32_t ordinal)
 {
+    struct Made
+    {
+        const OdRxClass* cls = nullptr;
+        std::uint32_t ordinal = 0;
+        std::int16_t language = 0;
+        QString name;
+    };
+    // An object's statements ask for one after the other.
+    static Made last;
+    if (last.cls == cls && last.ordinal == ordinal && last.language == RecordingLanguage() && !last.name.isNull())
+        return last.name;
+
     constexpr std::size_t mostDigits = 10;
     std::array<char, mostDigits> digits;
     const char* const end = std::to_chars(digits.begin(), digits.end(), ordinal).ptr;
     QString name;
-    if (const ClassRow* const row = FindClass(cls); row && row->interfaceName) {
-        const QString& stem = stemOf(*row);
-        name.reserve(stem.size() + static_cast<int>(mostDigits));
-        name += stem;
+    if (const TypeNames* const names = FindTypeNames(cls)) {
+        name.reserve(names->stem.getLength() + static_cast<int>(mostDigits));
+        name += names->stem;
     }
-    return name += QLatin1String(digits.data(), end);
-}
-
-void StripPointerSuffixes(CFxString& typeName)
-{
-    typeName.replace("_ptr", "");
-    typeName.replace("_c*", "");
+    name += QLatin1String(digits.data(), end);
+    last = {cls, ordinal, RecordingLanguage(), name};
+    return name;
 }
 
 bool HasInterface(const OdRxClass* cls)
 {
-    const ClassRow* const row = FindClass(cls);
-    return row && row->interfaceName;
+    return FindTypeNames(cls) != nullptr;
 }
 
 std::int32_t GetApiTypeName(const OdRxClass* cls, CFxString& typeName, CFxString& secondName)
 {
     // A custom action whose datum is of another type than expected gives no class.
-    const ClassRow* const row = FindClass(cls);
-    if (!row || !row->interfaceName)
+    const TypeNames* const names = FindTypeNames(cls);
+    if (!names)
         return kFxFailure;
-    typeName = RecordingLanguage() == 0 ? cppTypeName(*row) : CFxString(row->interfaceName);
-    secondName = row->enumerator;
+    typeName = names->type;
+    secondName = names->second;
     return kFxSuccess;
 }
 

@@ -29,15 +29,11 @@ static QString untyped(Target target, const QString& type, QString declaration)
 
 QString EmitVariableDeclaration(Writer& writer, const ActionEntry& entry)
 {
-    CFxString type;
-    CFxString second;
-    GetApiTypeName(entry.cls, type, second);
-    if (type.isEmpty())
+    const TypeNames* const names = FindTypeNames(entry.cls);
+    if (!names)
         return {};
-    CFxString stem = type;
-    if (writer.target == Target::Cpp)
-        StripPointerSuffixes(stem);
-    stem.makeLower();
+    const CFxString& type = names->type;
+    const CFxString& stem = writer.target == Target::Cpp ? names->stem : names->lower;
     // The curly targets but COM put the type in front of the name.
     if (writer.target == Target::Cpp || writer.target == Target::CSharp)
         return writer.fill(declareVariable).text(type).text(stem).number(entry.ordinal);
