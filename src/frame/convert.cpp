@@ -71,6 +71,8 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
         return kFxFailure;
 
+    // Ends in front of the stream, whatever is thrown.
+    const Writer::Background background(writer, stream);
     writer.IndentLevel = 0;
     const bool hasSysVar = std::any_of(actions.begin(), actions.end(), isSysVar);
     writer.file = QFileInfo(path).fileName();

@@ -10,17 +10,26 @@ namespace inkmacro {
 
 namespace {
 
+constexpr unsigned char kNamePart = 1;
+constexpr unsigned char kDot = 2;
+
 /// Asked of a good part of the macro's characters, so ASCII is looked up.
-inline bool isNamePart(QChar character)
+inline bool isOneOf(unsigned kinds, QChar character)
 {
     static constexpr auto ascii = [] {
-        std::array<bool, 0x80> parts{};
+        std::array<unsigned char, 0x80> parts{};
         for (const char part : "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_")
-            parts[static_cast<std::size_t>(part)] = part != '\0';
+            parts[static_cast<std::size_t>(part)] = part == '\0' ? 0 : kNamePart;
+        parts['.'] = kDot;
         return parts;
     }();
     const ushort code = character.unicode();
-    return code < ascii.size() ? ascii[code] : character.isLetterOrNumber();
+    return code < ascii.size() ? (ascii[code] & kinds) != 0 : character.isLetterOrNumber();
+}
+
+inline bool isNamePart(QChar character)
+{
+    return isOneOf(kNamePart, character);
 }
 
 inline bool isPair(QStringView text, qsizetype at, char first, char second)
@@ -67,8 +76,10 @@ bool isType(QStringView word)
 qsizetype behindType(QStringView line)
 {
     qsizetype at = 0;
-    while (at < line.size() && (isNamePart(line[at]) || line[at] == '.' || isPair(line, at, ':', ':')))
-        at += line[at] == ':' ? 2 : 1;
+    do {
+        const auto other = [](QChar character) { return !isOneOf(kNamePart | kDot, character); };
+        at = std::find_if(line.begin() + at, line.end(), other) - line.begin();
+    } while (isPair(line, at, ':', ':') && (at += 2));
     return isPair(line, at, '[', ']') ? at + 2 : at;
 }
 
@@ -121,14 +132,12 @@ qsizetype behindText(QStringView line, qsizetype at, Target target)
 }
 
 /// What QStringView::trimmed() gives, which takes longer for the few blanks of a line.
-QStringView trimmed(QStringView line)
+inline QStringView trimmed(QStringView line)
 {
     while (!line.isEmpty() && line.back().isSpace())
         line.chop(1);
-    qsizetype at = 0;
-    while (at < line.size() && line[at].isSpace())
-        ++at;
-    return line.mid(at);
+    const auto isOther = [](QChar character) { return character != ' ' && !character.isSpace(); };
+    return line.mid(std::find_if(line.begin(), line.end(), isOther) - line.begin());
 }
 
 /// The larger set takes the other one in.

@@ -13,55 +13,7 @@
 
 using namespace inkmacro;
 
-namespace {
-
-/// The stream makes copies of all that it is given at once.
-void writeSliced(QTextStream& stream, QStringView text)
-{
-    constexpr qsizetype slice = 64 * 1024;
-    while (!text.isEmpty()) {
-        qsizetype length = std::min(slice, text.size());
-        if (length < text.size() && text[length].isLowSurrogate())
-            ++length;
-        stream << text.left(length);
-        text = text.mid(length);
-    }
-}
-
-constexpr int kLineHead = 1024;
-
-/// Calls for each line that is whole, with what had begun before.
-template<class Use>
-void forLines(QString& begun, QStringView text, const Use& use)
-{
-    for (auto end = text.indexOf(QChar('\n')); end != -1; end = text.indexOf(QChar('\n'))) {
-        if (begun.isEmpty()) {
-            use(text.left(end));
-        } else {
-            use(QStringView(begun += text.left(end)));
-            begun.clear();
-        }
-        text = text.mid(end + 1);
-    }
-    begun += text;
-}
-
-/// Arrays without elements have an index below zero, which VBA does not take; without a size it does.
-bool sizesNothing(QStringView line, Target target)
-{
-    return target == Target::Vba && line.trimmed().startsWith(u"Dim ") &&
-           (line.contains(u"(-1)") || line.contains(u"( -1 )"));
-}
-
-const Fault kDeclaredTwice{"ConvertCommand",
-                           {Target::Cpp, Target::CppCom, Target::CSharp, Target::VbNet, Target::Vba},
-                           "a local variable is declared where one of its name is seen already"};
-
-const Fault kEmptyArray{"ConvertCommand", {Target::Vba}, "an array without elements is declared with a size of -1"};
-
-} // namespace
-
-Writer::Writer(Target target) : target(target), repairs(RepairsMacros()), locals_(target)
+Writer::Writer(Target target) : target(target), repairs(RepairsMacros()), text_(target, repairs)
 {
 }
 
@@ -122,52 +74,42 @@ QString Writer::later(Parts parts)
     return Mark{Mark::Kind::Later, later_.size() - 1}.text();
 }
 
-void Writer::writeText(QTextStream& stream, QStringView text)
+void Writer::noteFaults()
 {
-    if (repairs)
-        return writeLines(stream, text);
-    if (notesFaults_)
-        followLines(text);
-    writeSliced(stream, text);
+    notesFaults_ = true;
+    text_.noteFaults();
 }
 
-void Writer::followLines(QStringView text)
+void Writer::put(QTextStream& stream, MacroText::Kind kind, QStringView text)
 {
-    forLines(begun_, text, [this](QStringView line) {
-        if (locals_.declaresTwice(line))
-            noteFault(kDeclaredTwice);
-        if (sizesNothing(line, target))
-            noteFault(kEmptyArray);
-        ++line_;
-    });
-    // A declaration stands at the beginning of its line, which may be long in all.
-    begun_.truncate(kLineHead);
+    if (text.isEmpty())
+        return;
+    if (behind_)
+        return note(behind_->write(kind, text));
+    text_.write(stream, kind, text);
+    note(text_.takeFaults());
 }
 
-void Writer::writeLines(QTextStream& stream, QStringView text)
+void Writer::put(const Fault& fault)
 {
-    forLines(begun_, text, [&](QStringView line) {
-        QString text = locals_.toldApart(line.toString());
-        if (sizesNothing(text, target))
-            text.remove(QLatin1String("-1")).replace(QLatin1String("(  )"), QLatin1String("()"));
-        writeSliced(stream, text);
-        stream << '\n';
-        ++line_;
-    });
+    if (behind_)
+        behind_->noteFault(fault);
+    else
+        text_.noteFault(fault);
 }
 
 void Writer::writeDeclarations(QTextStream& stream, const QString& declarations)
 {
-    if (repairs || Mark::find(declarations, 0))
+    if (repairs || (marked_ && Mark::find(declarations, 0)))
         return write(stream, declarations);
-    line_ += static_cast<std::size_t>(std::count(declarations.begin(), declarations.end(), QChar('\n')));
-    stream << declarations;
+    put(stream, MacroText::Kind::Declarations, declarations);
 }
 
 void Writer::finish(QTextStream& stream)
 {
-    if (repairs)
-        writeSliced(stream, std::exchange(begun_, QString()));
+    if (behind_)
+        note(behind_->finish());
+    text_.finish(stream);
 }
 
 void Writer::write(QTextStream& stream, const QString& statements)
@@ -176,25 +118,27 @@ void Writer::write(QTextStream& stream, const QString& statements)
     qsizetype from = 0;
     auto found = marked_ ? Mark::find(text, 0) : std::nullopt;
     for (; found; found = Mark::find(text, from)) {
-        writeText(stream, text.mid(from, found->at - from));
+        put(stream, MacroText::Kind::Statements, text.mid(from, found->at - from));
         from = found->at + Mark::length;
         if (found->mark.kind == Mark::Kind::Fault) {
-            noteFault(*Fault::all().at(found->mark.number));
+            put(*Fault::all().at(found->mark.number));
             continue;
         }
         const Parts& parts = later_.at(found->mark.number);
         QString part = parts(0);
         for (std::size_t number = 1; !part.isEmpty(); ++number) {
-            writeText(stream, part);
+            put(stream, MacroText::Kind::Statements, part);
             part = parts(number);
         }
     }
-    writeText(stream, text.mid(from));
+    put(stream, MacroText::Kind::Statements, text.mid(from));
 }
 
-void Writer::noteFault(const Fault& fault) const
+void Writer::note(const std::vector<MacroText::FoundFault>& faults) const
 {
-    GetFxSystemServices()->Notes().NoteFault([&] {
-        return CFxFaultNote{fault.operation(), fault.reason(), file, static_cast<std::uint32_t>(line_), fault.mended()};
-    });
+    for (const auto& [fault, line] : faults)
+        GetFxSystemServices()->Notes().NoteFault([&, fault = fault, line = line] {
+            return CFxFaultNote{fault->operation(), fault->reason(), file, static_cast<std::uint32_t>(line),
+                                fault->mended()};
+        });
 }

@@ -2,7 +2,8 @@
 
 #include "host/kernel/CFxString.h"
 #include "targets/Fault.h"
-#include "targets/Locals.h"
+#include "targets/MacroText.h"
+#include "targets/WriteBehind.h"
 
 #include <cstdint>
 #include <functional>
@@ -41,7 +42,22 @@ public:
     /// Stands in a statement for a text that is too long to be held: its parts are made when the statement is written.
     QString later(Parts parts);
     /// From here on statements bear marks of their faults, and so are good for write() alone.
-    void noteFaults() { notesFaults_ = true; }
+    void noteFaults();
+    /// While one of these lives, a second thread writes to the stream, which is nobody else's until finish() is called.
+    class Background
+    {
+    public:
+        Background(Writer& writer, QTextStream& stream) : writer_(writer)
+        {
+            writer_.behind_.emplace(writer_.text_, stream);
+        }
+        ~Background() { writer_.behind_.reset(); }
+        Background(const Background&) = delete;
+        Background& operator=(const Background&) = delete;
+
+    private:
+        Writer& writer_;
+    };
     /// Writes statements, with all that they have kept for later. Their faults are noted with the lines where they
     /// stand.
     void write(QTextStream& stream, const QString& statements);
@@ -65,15 +81,13 @@ public:
 
 private:
     inkmacro::FillMode mode() const;
-    void writeText(QTextStream& stream, QStringView text);
-    void followLines(QStringView text);
-    void writeLines(QTextStream& stream, QStringView text);
-    void noteFault(const inkmacro::Fault& fault) const;
+    void put(QTextStream& stream, inkmacro::MacroText::Kind kind, QStringView text);
+    void put(const inkmacro::Fault& fault);
+    void note(const std::vector<inkmacro::MacroText::FoundFault>& faults) const;
 
     std::vector<Parts> later_;
-    std::size_t line_ = 1; ///< of the macro, that is written next
-    QString begun_;        ///< what is there of that line
-    inkmacro::Locals locals_;
+    inkmacro::MacroText text_;
+    std::optional<inkmacro::WriteBehind> behind_;
     bool notesFaults_ = false;    ///< else no statement gets a mark of one
     mutable bool marked_ = false; ///< some statement has a mark
 };
