@@ -37,16 +37,15 @@ const std::vector<const Fault*>& Fault::all()
 }
 
 Mend::Mend(const Phrase& phrase, Target target, const char* reason, const char* words)
-    : Fault(phrase.name(), {target}, reason)
+    : Fault(phrase.name(), {target}, reason), words_(words, target)
 {
-    if (words)
-        words_.emplace(words, target);
     phrase.mends_[static_cast<std::size_t>(target)] = this;
 }
 
-Mend::Mend(const Phrase& phrase, Target target, const char* reason, QByteArray (&reword)(QByteArray words))
-    : Mend(phrase, target, reason, reword(phrase.literals_[static_cast<std::size_t>(target)]).constData())
+Mend::Mend(const Phrase& phrase, Target target, const char* reason, LazyTemplate::Reword& reword)
+    : Fault(phrase.name(), {target}, reason), words_(phrase.of(target).literal(), target, &reword)
 {
+    phrase.mends_[static_cast<std::size_t>(target)] = this;
 }
 
 } // namespace inkmacro

@@ -2,10 +2,7 @@
 
 #include "targets/Phrase.h"
 
-#include <QByteArray>
-
 #include <initializer_list>
-#include <optional>
 #include <vector>
 
 namespace inkmacro {
@@ -46,13 +43,13 @@ public:
     /// Null words leave the statement out.
     Mend(const Phrase& phrase, Target target, const char* reason, const char* words);
     /// The words are made of the faithful ones.
-    Mend(const Phrase& phrase, Target target, const char* reason, QByteArray (&reword)(QByteArray words));
+    Mend(const Phrase& phrase, Target target, const char* reason, LazyTemplate::Reword& reword);
 
     /// Null for words that leave the statement out.
-    const Template* words() const { return words_ ? &*words_ : nullptr; }
+    const Template* words() const { return words_.get(); }
 
 private:
-    std::optional<Template> words_;
+    const LazyTemplate words_;
 };
 
 } // namespace inkmacro

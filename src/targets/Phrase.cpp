@@ -20,8 +20,27 @@ const char* Words::in(Target target) const
     return std::array{cpp, csharp, javascript, vbNet, cppCom, vba}[static_cast<std::size_t>(target)];
 }
 
+const Template* LazyTemplate::cut() const
+{
+    const QByteArray reworded = reword_ ? reword_(literal_) : QByteArray();
+    auto made = std::make_unique<const Template>(reword_ ? reworded.constData() : literal_, target_);
+    const Template* kept = nullptr;
+    if (kept_.compare_exchange_strong(kept, made.get(), std::memory_order_acq_rel, std::memory_order_acquire)) {
+        kept = made.release();
+    }
+    return kept;
+}
+
 Phrase::Phrase(const char* name, const Words& words)
-    : name_(name), literals_{words.cpp, words.csharp, words.javascript, words.vbNet, words.cppCom, words.vba}
+    : name_(name),
+      templates_{{
+          {words.cpp, Target::Cpp},
+          {words.csharp, Target::CSharp},
+          {words.javascript, Target::JavaScript},
+          {words.vbNet, Target::VbNet},
+          {words.cppCom, Target::CppCom},
+          {words.vba, Target::Vba},
+      }}
 {
     registry().push_back(this);
 }
@@ -29,26 +48,6 @@ Phrase::Phrase(const char* name, const Words& words)
 Phrase::~Phrase()
 {
     std::erase(registry(), this);
-    for (const auto& cut : templates_) {
-        delete cut.load(std::memory_order_acquire);
-    }
-}
-
-const Template* Phrase::in(Target target) const
-{
-    const auto index = static_cast<std::size_t>(target);
-    if (!literals_[index]) {
-        return nullptr;
-    }
-    auto& slot = templates_[index];
-    const Template* kept = slot.load(std::memory_order_acquire);
-    if (!kept) {
-        auto cut = std::make_unique<const Template>(literals_[index], target);
-        if (slot.compare_exchange_strong(kept, cut.get(), std::memory_order_acq_rel, std::memory_order_acquire)) {
-            kept = cut.release();
-        }
-    }
-    return kept;
 }
 
 const std::vector<const Phrase*>& Phrase::all()

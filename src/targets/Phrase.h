@@ -3,6 +3,8 @@
 #include "targets/Fill.h"
 #include "targets/Target.h"
 
+#include <QByteArray>
+
 #include <array>
 #include <atomic>
 #include <vector>
@@ -23,6 +25,41 @@ struct Words
     const char* in(Target target) const;
 };
 
+/// The template of a literal, which is not copied: cut on its first use, since a run needs few of those that there are,
+/// and then kept. Safe to use from several threads.
+class LazyTemplate
+{
+public:
+    using Reword = QByteArray(QByteArray literal);
+
+    /// Null is a hole. With `reword` the template is that of the words which it makes of the literal.
+    LazyTemplate(const char* literal, Target target, Reword* reword = nullptr)
+        : literal_(literal), target_(target), reword_(reword)
+    {
+    }
+    ~LazyTemplate() { delete kept_.load(std::memory_order_acquire); }
+    LazyTemplate(const LazyTemplate&) = delete;
+    LazyTemplate& operator=(const LazyTemplate&) = delete;
+
+    const char* literal() const { return literal_; }
+    /// Null for a hole.
+    const Template* get() const
+    {
+        const Template* const kept = kept_.load(std::memory_order_acquire);
+        return kept || !literal_ ? kept : cut();
+    }
+    /// Whether anything in this process has asked for the template.
+    bool used() const { return kept_.load(std::memory_order_relaxed) != nullptr; }
+
+private:
+    const Template* cut() const;
+
+    const char* const literal_;
+    const Target target_;
+    Reword* const reword_;
+    mutable std::atomic<const Template*> kept_ = nullptr;
+};
+
 class Mend;
 
 /// One statement in all targets, safe to use from several threads. Phrases have static storage duration; each lists
@@ -38,16 +75,13 @@ public:
     Phrase& operator=(const Phrase&) = delete;
 
     const char* name() const { return name_; }
-    bool has(Target target) const { return literals_[static_cast<std::size_t>(target)] != nullptr; }
-    /// Null for a hole. A template is cut on its first use, since a run needs few of them, and then kept.
-    const Template* in(Target target) const;
+    bool has(Target target) const { return of(target).literal() != nullptr; }
+    /// Null for a hole.
+    const Template* in(Target target) const { return of(target).get(); }
 
     /// Whether anything in this process has asked for the target's template: so the literals that no recording reaches
     /// can be enumerated.
-    bool used(Target target) const
-    {
-        return templates_[static_cast<std::size_t>(target)].load(std::memory_order_relaxed) != nullptr;
-    }
+    bool used(Target target) const { return of(target).used(); }
 
     /// What is known to be wrong with the target's literal; null when nothing is.
     const Mend* mend(Target target) const { return mends_[static_cast<std::size_t>(target)]; }
@@ -57,10 +91,11 @@ public:
 private:
     friend class Mend;
 
+    const LazyTemplate& of(Target target) const { return templates_[static_cast<std::size_t>(target)]; }
+
     const char* name_;
-    std::array<const char*, targetCount> literals_;
-    mutable std::array<std::atomic<const Template*>, targetCount> templates_{};
-    mutable std::array<const Mend*, targetCount> mends_{}; ///< set while the program starts
+    const std::array<LazyTemplate, targetCount> templates_; ///< by target
+    mutable std::array<const Mend*, targetCount> mends_{};  ///< set while the program starts
 };
 
 } // namespace inkmacro
