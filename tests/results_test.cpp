@@ -269,7 +269,7 @@ TEST_F(Results, AreNotBegunWithoutDescriptorsOrMemory)
     QStringList many{"convert", "--target", "csharp", "--output", "out/"};
     for (int i = 0; i < 4000; ++i)
         many.append(QString("r%1.jsonl").arg(i));
-    Outcome outcome = run(many, {}, "ulimit -n 12; ");
+    Outcome outcome = run(many, {}, "ulimit -n 6; ");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.err, "inkmacro: no process can be started for out/r0/csharp/r0.cs: Too many open files, nor for "
                            "the 3999 behind it\n");

@@ -238,24 +238,6 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
     return line;
 }
 
-QStringList HostSettings::arguments() const
-{
-    QStringList arguments;
-    if (recordingLanguage)
-        arguments.append(QString("--recording-language=%1").arg(*recordingLanguage));
-    if (installDir)
-        arguments.append("--install-dir=" + *installDir);
-    if (optionNames)
-        arguments.append("--option-names=" + *optionNames);
-    if (lineStyles)
-        arguments.append("--line-styles=" + *lineStyles);
-    if (replay)
-        arguments.append("--replay");
-    if (repair)
-        arguments.append("--repair");
-    return arguments;
-}
-
 QString helpText()
 {
     QString targets;

@@ -28,9 +28,6 @@ struct HostSettings
     std::optional<QString> lineStyles;    ///< directory of line style files, searched before those of the drawing
     bool replay = false;                  ///< whatever mode the recording says
     bool repair = false;                  ///< macros without their known faults
-
-    /// The same once more, for another process of this program.
-    QStringList arguments() const;
 };
 
 /// In which form `convert` prints what its macros lack and where they are faulty, in place of the list of files.

@@ -52,6 +52,14 @@ Function resolve(QLibrary& library, const char* symbol)
 
 } // namespace
 
+void loadModuleAhead()
+{
+    try {
+        QLibrary(findLibrary()).load();
+    } catch (const std::runtime_error&) {
+    }
+}
+
 LoadedModule::LoadedModule()
 {
     QLibrary library(findLibrary());

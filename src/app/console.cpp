@@ -8,6 +8,7 @@
 #include <cstdio>
 
 #include <fcntl.h>
+#include <stdio_ext.h>
 #include <unistd.h>
 
 namespace inkmacro {
@@ -65,6 +66,12 @@ int finishOutput(int status)
         return status;
     complain("standard output: " + qt_error_string(outputError));
     return std::max<int>(status, kFailed);
+}
+
+void forgetOutput()
+{
+    __fpurge(stdout);
+    outputError = 0;
 }
 
 } // namespace inkmacro

@@ -21,4 +21,7 @@ void complain(const QString& message);
 /// output was lost; a reader who closed the pipe has seen enough and is no failure.
 int finishOutput(int status);
 
+/// In a process that has just been forked: what the other one has not written yet is that one's to write.
+void forgetOutput();
+
 } // namespace inkmacro

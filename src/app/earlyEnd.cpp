@@ -1,6 +1,7 @@
 #include "app/earlyEnd.h"
 
 #include "app/ExitStatus.h"
+#include "app/console.h"
 
 #include <QByteArray>
 
@@ -85,8 +86,25 @@ void prepareEarlyEnd()
         if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
             sigaction(number, &ending, nullptr);
     }
-    // A worker is started while they are away.
-    pthread_sigmask(SIG_UNBLOCK, &ending.sa_mask, nullptr);
+}
+
+void forgetEarlyEnds()
+{
+    EarlyEnds::first = nullptr;
+    const sigset_t set = endingSet();
+    pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
+}
+
+int orComplain(const std::function<int()>& work)
+{
+    try {
+        return work();
+    } catch (const std::bad_alloc&) {
+        endWithoutMemory();
+    } catch (const std::exception& error) {
+        complain(QString::fromUtf8(error.what()));
+        return kFailed;
+    }
 }
 
 void nameWork(const QString& work)

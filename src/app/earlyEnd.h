@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <csignal>
+#include <functional>
 
 namespace inkmacro {
 
@@ -10,11 +11,18 @@ namespace inkmacro {
 /// a message and kFailed, both after every EarlyEnd was told. A signal that the caller had ignored stays ignored.
 void prepareEarlyEnd();
 
+/// In a process that was forked during a SignalPause: what the other one watches is none of its business, and the
+/// signals come through.
+void forgetEarlyEnds();
+
 /// What the process is at, for the message when memory runs out: "converting walls.jsonl to csharp".
 void nameWork(const QString& work);
 
 /// The end for lack of memory.
 [[noreturn]] void endWithoutMemory();
+
+/// Runs the work and gives its exit status; complains of an exception and gives kFailed.
+int orComplain(const std::function<int()>& work);
 
 /// Keeps the signals above away from this thread, and from processes and threads that it starts, for as long as this
 /// lives.

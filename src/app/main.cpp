@@ -67,18 +67,13 @@ int run(const CommandLine& line)
     return kDone;
 }
 
-int runOrComplain(int argc, const char* const* argv)
+int parseAndRun(int argc, const char* const* argv)
 {
     try {
         return run(parseCommandLine(argc, argv));
     } catch (const WrongUse& wrong) {
         complain(wrong.message() + "\nTry 'inkmacro --help'.");
         return kWrongUse;
-    } catch (const std::bad_alloc&) {
-        endWithoutMemory();
-    } catch (const std::exception& error) {
-        complain(QString::fromUtf8(error.what()));
-        return kFailed;
     }
 }
 
@@ -91,5 +86,5 @@ int main(int argc, char** argv)
     useByteExactNames();
     const std::vector<const char*> arguments(argv, argv + argc);
     const QCoreApplication application(argc, argv);
-    return finishOutput(runOrComplain(static_cast<int>(arguments.size()), arguments.data()));
+    return finishOutput(orComplain([&] { return parseAndRun(static_cast<int>(arguments.size()), arguments.data()); }));
 }

@@ -1,19 +1,18 @@
-// Several jobs, each in a process that is this program once more.
+// Several jobs, each in a process that is forked from this one.
 
 #include "app/processes.h"
 
 #include "app/ExitStatus.h"
+#include "app/LoadedModule.h"
 #include "app/ProgressLine.h"
 #include "app/StagedResult.h"
 #include "app/console.h"
+#include "app/conversion.h"
 #include "app/earlyEnd.h"
 #include "app/report.h"
 #include "recordfile/RecordingReader.h"
 
-#include <QCoreApplication>
-#include <QEventLoop>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTemporaryFile>
 
 #include <algorithm>
@@ -21,11 +20,11 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
-#include <memory>
 #include <thread>
 #include <utility>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -34,33 +33,65 @@ namespace inkmacro {
 
 namespace {
 
-/// Ends when this process does, however it does.
-class JobProcess final : public QProcess
+/// One end of a pipe, closed when this goes.
+class PipeEnd
 {
-protected:
-    void setupChildProcess() override
+public:
+    PipeEnd() = default;
+    explicit PipeEnd(int descriptor) : descriptor_(descriptor) {}
+    PipeEnd(PipeEnd&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+    PipeEnd& operator=(PipeEnd&& other) noexcept
     {
-        prctl(PR_SET_PDEATHSIG, SIGTERM);
-        if (getppid() != parent_)
-            _exit(kFailed);
+        std::swap(descriptor_, other.descriptor_);
+        return *this;
     }
+    ~PipeEnd() { shut(); }
+
+    void shut()
+    {
+        if (const int descriptor = std::exchange(descriptor_, -1); descriptor != -1)
+            close(descriptor);
+    }
+    bool isOpen() const { return descriptor_ != -1; }
+    int descriptor() const { return descriptor_; }
 
 private:
-    const pid_t parent_ = getpid();
+    int descriptor_ = -1;
 };
 
-/// Whether there are descriptors for one more process: else the errno. QProcess would give a wrong reason.
-int lackOfDescriptors()
+struct Pipe
 {
-    std::array<int, 12> probes = {};
-    for (int& probe : probes)
-        probe = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0);
-    const int error = probes.back() < 0 ? errno : 0;
-    for (const int probe : probes)
-        if (probe >= 0)
-            close(probe);
-    return error;
+    PipeEnd in; ///< to write to
+    PipeEnd out;
+};
+
+/// 0, or the errno.
+int makePipe(Pipe& pipe)
+{
+    std::array<int, 2> ends = {};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0)
+        return errno;
+    pipe = {PipeEnd(ends[1]), PipeEnd(ends[0])};
+    return 0;
 }
+
+/// What a process prints on one of its streams.
+struct Printed
+{
+    PipeEnd pipe;
+    QByteArray bytes;
+
+    /// Takes what is there, and closes the pipe behind the last of it.
+    void take()
+    {
+        std::array<char, 64 * 1024> piece;
+        const ssize_t got = read(pipe.descriptor(), piece.data(), piece.size());
+        if (got > 0)
+            bytes.append(piece.data(), static_cast<int>(got));
+        else if (got == 0 || errno != EINTR)
+            pipe.shut();
+    }
+};
 
 class JobRunner final : private EarlyEnd
 {
@@ -73,10 +104,9 @@ public:
 private:
     struct State
     {
-        std::unique_ptr<JobProcess> process;
         std::atomic<pid_t> processId = 0; ///< while the process runs
-        QByteArray output;
-        QByteArray messages;
+        Printed output;
+        Printed messages;
         bool begun = false;
         bool done = false;
         int status = kDone;
@@ -89,10 +119,12 @@ private:
     void startSome();
     bool mayStart(std::size_t number) const;
     void start(std::size_t number);
-    QStringList argumentsOf(const Job& job) const;
+    /// Gives an errno.
+    int fork(State& state, const Job& job);
+    [[noreturn]] void work(const Job& job, const Pipe& output, const Pipe& messages);
     void couldNotStart(std::size_t number, const QString& reason);
-    void ended(std::size_t number, bool crashed);
-    std::unique_ptr<JobProcess, void (*)(JobProcess*)> release(State& state);
+    void waitForSome();
+    void ended(std::size_t number);
     void finish(std::size_t number, int status);
     void passOn();
     void passOn(std::size_t number);
@@ -104,11 +136,11 @@ private:
     std::vector<State> states_;
     QJsonArray reports_; ///< of the jobs passed on
     QTemporaryFile standardInput_;
-    QEventLoop loop_;
+    const pid_t self_ = getpid();
     std::size_t next_ = 0; ///< all jobs in front of it have begun
     std::size_t passedOn_ = 0;
     std::pair<QString, QByteArray> lastComplaint_; ///< the recording that could not be read, and why
-    unsigned running_ = 0;
+    std::vector<std::size_t> running_;             ///< numbers of jobs
     int status_ = kDone;
     std::atomic<int> doneCount_ = 0;
     ProgressLine progress_;
@@ -132,10 +164,10 @@ int JobRunner::run()
             if (wantsInput(jobs_[i]))
                 refuse(i, (error.text() + '\n').toLocal8Bit(), kUnreadable);
     }
+    loadModuleAhead();
     startSome();
-    if (passedOn_ < jobs_.size())
-        loop_.exec();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    while (!running_.empty())
+        waitForSome();
     if (telling_.report != ReportForm::None)
         progress_.aside([this] { printReport(reports_, telling_.report); });
     return status_;
@@ -167,14 +199,14 @@ QString JobRunner::keptInput()
 
 void JobRunner::refuse(std::size_t number, const QByteArray& message, int status)
 {
-    states_[number].messages = message;
+    states_[number].messages.bytes = message;
     finish(number, status);
 }
 
 void JobRunner::startSome()
 {
     const unsigned most = std::max(1U, std::thread::hardware_concurrency());
-    for (std::size_t number = next_; number < jobs_.size() && running_ < most; ++number)
+    for (std::size_t number = next_; number < jobs_.size() && running_.size() < most; ++number)
         if (!states_[number].begun && mayStart(number))
             start(number);
     while (next_ < jobs_.size() && states_[next_].begun)
@@ -197,53 +229,61 @@ void JobRunner::start(std::size_t number)
         return;
     }
 
-    if (const int error = lackOfDescriptors()) {
-        couldNotStart(number, qt_error_string(error));
-        return;
-    }
-
     state.begun = true;
-    state.process = std::make_unique<JobProcess>();
-    JobProcess& process = *state.process;
-    process.setStandardInputFile(job.input == "-" ? keptInput() : QProcess::nullDevice());
-    QObject::connect(&process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished),
-                     [this, number](int, QProcess::ExitStatus how) { ended(number, how == QProcess::CrashExit); });
-    QObject::connect(&process, &QProcess::errorOccurred, [this, number](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart && states_[number].process)
-            couldNotStart(number, states_[number].process->errorString());
-    });
-    ++running_;
+    if (const int error = fork(state, job))
+        couldNotStart(number, qt_error_string(error));
+    else
+        running_.push_back(number);
+}
+
+int JobRunner::fork(State& state, const Job& job)
+{
+    Pipe output;
+    Pipe messages;
+    if (const int error = makePipe(output))
+        return error;
+    if (const int error = makePipe(messages))
+        return error;
     const SignalPause pause;
-    process.start(QCoreApplication::applicationFilePath(), argumentsOf(job));
-    state.processId = static_cast<pid_t>(process.processId());
+    const pid_t process = ::fork();
+    if (process == 0)
+        work(job, output, messages);
+    if (process == -1)
+        return errno;
+    state.processId = process;
+    state.output.pipe = std::move(output.out);
+    state.messages.pipe = std::move(messages.out);
+    return 0;
 }
 
-QStringList JobRunner::argumentsOf(const Job& job) const
+/// In the new process, which ends when the one that has started it does, however it does.
+void JobRunner::work(const Job& job, const Pipe& output, const Pipe& messages)
 {
-    QStringList arguments{"convert", "--target=" + targetName(*job.target), "--output=" + job.macro};
-    arguments += host_.arguments();
-    if (telling_.report != ReportForm::None)
-        arguments.append("--report");
-    if (telling_.quiet)
-        arguments.append("--quiet");
-    return arguments << "--" << job.input;
-}
-
-/// Null when it was released before.
-std::unique_ptr<JobProcess, void (*)(JobProcess*)> JobRunner::release(State& state)
-{
-    state.processId = 0;
-    if (state.process)
-        --running_;
-    // Its signal is still under way.
-    return {state.process.release(), [](JobProcess* process) { process->deleteLater(); }};
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+    if (getppid() != self_)
+        _exit(kFailed);
+    const QByteArray input = job.input == "-" ? QFile::encodeName(keptInput()) : QByteArray("/dev/null");
+    const PipeEnd opened(open(input.constData(), O_RDONLY | O_CLOEXEC));
+    dup2(opened.descriptor(), STDIN_FILENO);
+    dup2(output.in.descriptor(), STDOUT_FILENO);
+    dup2(messages.in.descriptor(), STDERR_FILENO);
+    // Of the others nothing is needed here.
+    for (const std::size_t number : running_) {
+        states_[number].output.pipe.shut();
+        states_[number].messages.pipe.shut();
+    }
+    forgetOutput();
+    forgetEarlyEnds();
+    // A report is joined with the others, so it has the form that is read again.
+    Telling telling = telling_;
+    if (telling.report != ReportForm::None)
+        telling.report = ReportForm::Json;
+    _exit(finishOutput(orComplain([&] { return convertOne(job, host_, telling); })));
 }
 
 /// The next one could not be started either, so this is the end for all that wait.
 void JobRunner::couldNotStart(std::size_t number, const QString& reason)
 {
-    states_[number].begun = true;
-    release(states_[number]);
     const auto waiting = std::count_if(states_.begin(), states_.end(), [](const State& s) { return !s.begun; });
     QString message = QString("inkmacro: no process can be started for %1: %2").arg(jobs_[number].macro, reason);
     if (waiting > 0)
@@ -254,21 +294,49 @@ void JobRunner::couldNotStart(std::size_t number, const QString& reason)
             refuse(i, {}, kFailed);
 }
 
-void JobRunner::ended(std::size_t number, bool crashed)
+void JobRunner::waitForSome()
+{
+    std::vector<Printed*> streams;
+    std::vector<pollfd> polled;
+    for (const std::size_t number : running_)
+        for (Printed* const stream : {&states_[number].output, &states_[number].messages})
+            if (stream->pipe.isOpen()) {
+                streams.push_back(stream);
+                polled.push_back({stream->pipe.descriptor(), POLLIN, 0});
+            }
+    if (poll(polled.data(), polled.size(), -1) > 0)
+        for (std::size_t i = 0; i < polled.size(); ++i)
+            if (polled[i].revents != 0)
+                streams[i]->take();
+
+    const auto hasEnded = [this](std::size_t number) {
+        return !states_[number].output.pipe.isOpen() && !states_[number].messages.pipe.isOpen();
+    };
+    for (const std::size_t number : std::vector(running_))
+        if (hasEnded(number))
+            ended(number);
+}
+
+void JobRunner::ended(std::size_t number)
 {
     State& state = states_[number];
-    const auto process = release(state);
-    if (!process)
-        return;
+    int result = 0;
+    {
+        const SignalPause pause;
+        while (waitpid(state.processId, &result, 0) == -1 && errno == EINTR) {
+        }
+        state.processId = 0;
+    }
+    std::erase(running_, number);
 
-    state.output = process->readAllStandardOutput();
-    state.messages += process->readAllStandardError();
-    int status = process->exitCode();
+    const bool crashed = !WIFEXITED(result);
+    int status = WEXITSTATUS(result);
     if (crashed || status > kUnreadable) {
-        const QString reason = crashed ? process->errorString() : QString("ended with status %1").arg(status);
-        state.messages += QString("inkmacro: conversion to %1 came to no end: %2: %3\n")
-                              .arg(targetName(*jobs_[number].target), reason, jobs_[number].macro)
-                              .toLocal8Bit();
+        const QString reason = crashed ? QString("killed by signal %1").arg(WTERMSIG(result))
+                                       : QString("ended with status %1").arg(status);
+        state.messages.bytes += QString("inkmacro: conversion to %1 came to no end: %2: %3\n")
+                                    .arg(targetName(*jobs_[number].target), reason, jobs_[number].macro)
+                                    .toLocal8Bit();
         status = kFailed;
         removeDeadStaging(QFile::encodeName(QFileInfo(jobs_[number].macro).path()).toStdString());
     }
@@ -292,14 +360,12 @@ void JobRunner::passOn()
         for (; passedOn_ < states_.size() && states_[passedOn_].done; ++passedOn_)
             passOn(passedOn_);
     });
-    if (passedOn_ == states_.size())
-        loop_.quit();
 }
 
 void JobRunner::passOn(std::size_t number)
 {
     State& state = states_[number];
-    QByteArray messages = std::exchange(state.messages, {});
+    QByteArray messages = std::exchange(state.messages.bytes, {});
     if (state.status == kUnreadable) {
         // What is wrong with a recording is said once, not once for each target.
         const std::pair complaint(jobs_[number].input, messages);
@@ -309,7 +375,7 @@ void JobRunner::passOn(std::size_t number)
             lastComplaint_ = complaint;
     }
     printError(messages);
-    const QByteArray output = std::exchange(state.output, {});
+    const QByteArray output = std::exchange(state.output.bytes, {});
     if (telling_.report == ReportForm::None) {
         printOut(output);
         return;
