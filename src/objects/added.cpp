@@ -67,6 +67,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
     QString general;
     if (ConvertObjectChanges(cls, handle, rest, true, general) != kFxSuccess)
         return kFxFailure;
-    text += general;
+    // Made at its full length: one that grows is allocated and copied once more.
+    text = text + general;
     return kFxSuccess;
 }

@@ -399,6 +399,11 @@ template Fill& Fill::add(qulonglong);
 template Fill& Fill::add(Long);
 template Fill& Fill::add(Short);
 
+Fill& Fill::lineEnd()
+{
+    return add(QStringView(LineEnd));
+}
+
 Fill& Fill::text(QStringView value)
 {
     percent_ = percent_ || std::find(value.begin(), value.end(), u'%') != value.end();

@@ -44,22 +44,14 @@ class Fill
 {
 public:
     /// A null template yields empty text.
-    explicit Fill(const Template* words) : template_(words), most_(words ? words->text_.size() : 0) {}
-    /// A statement's first value is its indentation.
-    Fill(const Template* words, unsigned level) : Fill(words) { indent(level); }
-    /// Of most statements the first two values are indentation and line end.
-    Fill(const Template* words, unsigned level, QStringView lineEnd) : Fill(words) { indent(level).text(lineEnd); }
+    /// `fault` is the one that the words have, if any.
+    explicit Fill(const Template* words, const FillMode& mode = {}, const Fault* fault = nullptr)
+        : template_(words), mode_(mode), fault_(fault), most_(words ? words->text_.size() : 0)
+    {
+    }
     Fill(const Fill&) = delete;
     Fill& operator=(const Fill&) = delete;
     Fill(Fill&&) = default; // what is kept does not move, so the views stay good
-
-    /// `fault` is the one that the words have, if any.
-    Fill with(const FillMode& mode, const Fault* fault = nullptr) &&
-    {
-        mode_ = mode;
-        fault_ = fault;
-        return std::move(*this);
-    }
 
     /// Four blanks a level, but one blank at level 0. A level that was lowered below 0 has as many blanks as its
     /// counterpart above: so QString::arg takes a negative width.
@@ -70,6 +62,8 @@ public:
     }
     Fill& indent(unsigned level) { return add(Blanks{indentationWidth(level)}); }
 
+    /// The text LineEnd.
+    Fill& lineEnd();
     Fill& text(QStringView value);
     Fill& text(QLatin1String value);
     Fill& text(const QString& value) { return text(QStringView(value)); }
@@ -133,8 +127,8 @@ private:
     QString valueByValue() const;
 
     const Template* template_;
-    FillMode mode_{};
-    const Fault* fault_ = nullptr;
+    const FillMode mode_;
+    const Fault* const fault_;
     QVarLengthArray<Value, 16> values_;
     std::vector<QString> kept_; ///< what views among the values look at; their characters never move
     qsizetype most_;            ///< no outcome is longer while no value holds a marker

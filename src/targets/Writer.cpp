@@ -2,7 +2,6 @@
 
 #include "frame/RecordingState.h"
 #include "host/kernel/CFxServices.h"
-#include "targets/LineEnd.h"
 #include "targets/Marks.h"
 #include "targets/quoting.h"
 
@@ -26,14 +25,14 @@ Fill Writer::fillPlain(const Phrase& phrase) const
 {
     const Mend* const mend = phrase.mend(target);
     if (!mend)
-        return Fill(phrase.in(target)).with(mode());
-    return repairs ? Fill(mend->words()).with(mode()) : Fill(phrase.in(target)).with(mode(), mend);
+        return Fill(phrase.in(target), mode());
+    return repairs ? Fill(mend->words(), mode()) : Fill(phrase.in(target), mode(), mend);
 }
 
 Fill Writer::fill(const Phrase& phrase) const
 {
     Fill statement = fillPlain(phrase);
-    statement.indent(IndentLevel).text(LineEnd);
+    statement.indent(IndentLevel).lineEnd();
     return statement;
 }
 

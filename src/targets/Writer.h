@@ -25,7 +25,7 @@ public:
     /// The same for literals in which `%2` is a value already: only the indentation is filled in.
     inkmacro::Fill fillIndented(const inkmacro::Phrase& phrase) const;
     /// The words of a frame, which bring their own indentation.
-    inkmacro::Fill fill(const inkmacro::Template& words) const { return inkmacro::Fill(&words).with(mode()); }
+    inkmacro::Fill fill(const inkmacro::Template& words) const { return inkmacro::Fill(&words, mode()); }
     /// The target's words for the phrase, with nothing filled in.
     inkmacro::Fill fillPlain(const inkmacro::Phrase& phrase) const;
     /// The blanks in front of a statement.

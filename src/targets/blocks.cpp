@@ -2,8 +2,6 @@
 
 #include "targets/blocks.h"
 
-#include "targets/LineEnd.h"
-
 using namespace inkmacro;
 
 static const Phrase blockBegin{"EmitBlockBegin",
@@ -24,7 +22,7 @@ QString EmitBlockBegin(Writer& writer)
 
 QString blockBeginAt(const Writer& writer, std::uint32_t level)
 {
-    return writer.fillPlain(blockBegin).indent(level).text(LineEnd);
+    return writer.fillPlain(blockBegin).indent(level).lineEnd();
 }
 
 void enterBlock(Writer& writer)

@@ -40,7 +40,7 @@ QString xmlText(const QString& text)
 
 Fill fillProject(const Template& words)
 {
-    return Fill(&words).with({words.language(), RepairsMacros()});
+    return Fill(&words, {words.language(), RepairsMacros()});
 }
 
 std::int32_t WriteProject(const QString& macroPath, const std::vector<ProjectFile>& files)

@@ -118,7 +118,7 @@ TEST(Quoting, MakesLegalNames)
 QString filled(const char* literal, const QStringList& values, const FillMode& mode)
 {
     const Template words(literal, mode.target);
-    Fill fill = Fill(&words).with(mode);
+    Fill fill = Fill(&words, mode);
     for (const QString& value : values)
         fill.text(value);
     return fill;
@@ -214,16 +214,16 @@ TEST(ShortNumbers, KeepTheirDigitsInRepairedMacrosAndAreMarkedInOthers)
     const Template words("f( %1 );", Target::CSharp);
     for (const auto& [value, faithful, repaired] : cases) {
         bool marked = false;
-        QString outcome = Fill(&words).with({Target::CSharp, false, &marked}).shortReal(value);
+        QString outcome = Fill(&words, {Target::CSharp, false, &marked}).shortReal(value);
         EXPECT_EQ(takeMarks(outcome) > 0, repaired != nullptr) << value;
         EXPECT_EQ(marked, repaired != nullptr) << value;
         EXPECT_EQ(outcome, QString("f( %1 );").arg(faithful)) << value;
-        const QString mended = Fill(&words).with({Target::CSharp, true}).shortReal(value);
+        const QString mended = Fill(&words, {Target::CSharp, true}).shortReal(value);
         EXPECT_EQ(mended, QString("f( %1 );").arg(repaired ? repaired : faithful)) << value;
     }
     // A value that no marker takes is not at fault.
     bool marked = false;
-    const QString dropped = Fill(&words).with({Target::CSharp, false, &marked}).shortReal(1).shortReal(1.23456789);
+    const QString dropped = Fill(&words, {Target::CSharp, false, &marked}).shortReal(1).shortReal(1.23456789);
     EXPECT_EQ(dropped, "f( 1 );");
     EXPECT_FALSE(marked);
 }

@@ -46,12 +46,12 @@ public:
     public:
         Action(CFxConversionNotes& notes, std::uint32_t number) : notes_(notes)
         {
-            notes_.known_.clear();
+            notes_.ForgetKnown();
             notes_.place_.push_back(number);
         }
         ~Action()
         {
-            notes_.known_.clear();
+            notes_.ForgetKnown();
             notes_.place_.pop_back();
         }
         Action(const Action&) = delete;
@@ -106,10 +106,16 @@ private:
             return ::qHash(lost.object.value(), seed) ^ ::qHash(lost.part, seed);
         }
     };
-    bool IsFirst(const Lost& lost);
+    bool IsFirst(Lost lost);
+    void ForgetKnown()
+    {
+        known_.clear();
+        manyKnown_.clear();
+    }
 
     CFxActionPlace place_;
-    QSet<Lost> known_; ///< of the action
+    std::vector<Lost> known_; ///< of the action, as long as they are few: most actions lose little
+    QSet<Lost> manyKnown_;    ///< else all of them
     bool keepsAll_ = true;
     std::size_t lossCount_ = 0;
     std::size_t faultCount_ = 0;

@@ -45,8 +45,8 @@ static QString cellTypeVariables(Writer& writer, const std::array<int, 3>& cellT
 {
     static const Template words("\n%1var TableStyle_1_%2 = \"%3\";\n%1var TableStyle_2_%2 = \"%4\";\n"
                                 "%1var TableStyle_3_%2 = \"%5\";\n");
-    Fill variables(&words, writer.IndentLevel);
-    variables.number(writer.UniqueCounter);
+    Fill variables(&words);
+    variables.indent(writer.IndentLevel).number(writer.UniqueCounter);
     for (const int type : cellTypes)
         variables.text(type == 0 ? QString() : EnumeratorByValue(writer.target, enums::tableCellType, type));
     return variables;
