@@ -1,7 +1,7 @@
 #include "app/ProgressLine.h"
 
 #include "app/console.h"
-#include "app/earlyEnd.h"
+#include "threads/background.h"
 
 #include <algorithm>
 #include <chrono>
@@ -32,8 +32,7 @@ ProgressLine::ProgressLine(std::function<QString()> describe) : describe_(std::m
 {
     if (!isatty(STDERR_FILENO))
         return;
-    const SignalPause pause; // the thread has nothing to end
-    thread_ = std::thread([this] { run(); });
+    thread_ = startInBackground([this] { run(); });
 }
 
 ProgressLine::~ProgressLine()

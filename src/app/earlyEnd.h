@@ -24,8 +24,7 @@ void nameWork(const QString& work);
 /// Runs the work and gives its exit status; complains of an exception and gives kFailed.
 int orComplain(const std::function<int()>& work);
 
-/// Keeps the signals above away from this thread, and from processes and threads that it starts, for as long as this
-/// lives.
+/// Keeps the signals above away from this thread, and from processes that it starts, for as long as this lives.
 class SignalPause
 {
 public:

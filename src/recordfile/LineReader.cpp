@@ -18,8 +18,8 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 } // namespace
 
-LineReader::LineReader(QIODevice& device, qint64 longestLine, std::function<void(qint64)> progress)
-    : device_(device), longestLine_(static_cast<std::size_t>(longestLine)), progress_(std::move(progress))
+LineReader::LineReader(QIODevice& device, qint64 longestLine)
+    : device_(device), longestLine_(static_cast<std::size_t>(longestLine))
 {
 }
 
@@ -72,8 +72,6 @@ bool LineReader::fill()
     end_ += static_cast<std::size_t>(count);
     std::memset(buffer_.get() + end_, 0, kPadding);
     total_ += count;
-    if (progress_)
-        progress_(total_);
     return true;
 }
 

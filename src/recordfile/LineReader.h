@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <memory>
 #include <string_view>
 
@@ -23,12 +22,13 @@ public:
         Failed
     };
 
-    /// `progress` gets the bytes read so far, after each chunk.
-    LineReader(QIODevice& device, qint64 longestLine, std::function<void(qint64)> progress);
+    LineReader(QIODevice& device, qint64 longestLine);
 
     /// The next line without its line feed, and without the file's byte-order mark. It lasts until the next call and
     /// has readable bytes behind it, as many as the JSON parser wants.
     Outcome next(std::string_view& line);
+    /// Of the device, so far.
+    qint64 bytesRead() const { return total_; }
 
 private:
     bool fill();
@@ -38,7 +38,6 @@ private:
 
     QIODevice& device_;
     const std::size_t longestLine_;
-    const std::function<void(qint64)> progress_;
     std::unique_ptr<char[]> buffer_;
     std::size_t capacity_ = 0; // without the padding behind it
     std::size_t begin_ = 0;    // of the line to come

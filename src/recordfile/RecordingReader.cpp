@@ -1,9 +1,8 @@
 #include "recordfile/RecordingReader.h"
 
-#include "recordfile/LineReader.h"
+#include "recordfile/ParseAhead.h"
 #include "recordfile/TextPool.h"
 #include "recordfile/actionForms.h"
-#include "recordfile/jsonFaults.h"
 #include "recordfile/lineForms.h"
 #include "recordfile/lineKinds.h"
 
@@ -19,7 +18,8 @@ using namespace recordfile;
 
 namespace {
 
-constexpr std::size_t kLongLine = 1024 * 1024;
+/// So many lines that waiting for the other thread costs nothing, and so few that they stay in the processor's caches.
+constexpr std::size_t kBatchBytes = 128 * 1024;
 
 /// Puts the lines of a file into a recording, one by one.
 class RecordingMaker
@@ -28,20 +28,16 @@ public:
     explicit RecordingMaker(Recording& recording) : recording_(recording), reading_{*recording.database, texts_} {}
 
     /// Throws FormError.
-    void take(std::string_view line, qint64 number)
+    void take(const ParsedLine& line)
     {
-        simdjson::dom::element element;
-        if (const auto code = parser_.parse(line.data(), line.size(), false).get(element); code != simdjson::SUCCESS)
-            throw FormError{{}, explainFault(code, line)};
-        // Of a long line what the parser has noted beside the document takes as much memory as what is made of it now.
-        if (line.size() > kLongLine && parser_.allocate(kLongLine) != simdjson::SUCCESS)
-            throw std::bad_alloc();
-        const Json json(element, reading_);
+        if (!line.fault.isNull())
+            throw FormError{{}, line.fault};
+        const Json json(line.document.root(), reading_);
         static const std::vector<std::string_view> keys = lineKeys();
         const ChosenEntry chosen = chosenEntry(json, keys, "kind of line");
         const Json entry = json.entry(chosen.key, chosen.value);
         if (chosen.choice >= kActionLines)
-            takeAction(actionChoices()[chosen.choice - kActionLines], entry, number);
+            takeAction(actionChoices()[chosen.choice - kActionLines], entry, line.number);
         else
             takeOther(static_cast<LineKind>(chosen.choice), entry);
         begun_ = true;
@@ -74,44 +70,44 @@ private:
     Recording& recording_;
     TextPool texts_;
     Reading reading_;
-    simdjson::dom::parser parser_;
     bool begun_ = false;
     bool hasDrawing_ = false;
 };
 
-bool isBlank(std::string_view line)
+/// Nothing at the end of the file.
+std::optional<RecordingError> errorOf(const LineBatch::Ending& ending, const QString& name, qint64 longestLine)
 {
-    return line.find_first_not_of(" \t\r") == std::string_view::npos;
+    switch (ending.outcome) {
+    case LineReader::Outcome::Failed:
+        return RecordingError{name, 0, {}, "cannot be read: " + ending.deviceError};
+    case LineReader::Outcome::TooLong:
+        return RecordingError{name, ending.number, {}, QString("the line is longer than %1 bytes").arg(longestLine)};
+    default:
+        return {};
+    }
 }
 
 std::optional<RecordingError> readLines(QIODevice& device, const QString& name, Recording& recording,
                                         const ReadingProgress& progress, qint64 longestLine)
 {
-    const qint64 total = device.isSequential() ? -1 : device.size();
-    LineReader lines(device, longestLine, [&](qint64 read) {
-        if (progress)
-            progress(read, total);
-    });
+    const bool comesLineByLine = device.isSequential();
+    const qint64 total = comesLineByLine ? -1 : device.size();
+    LineParser parser(device, longestLine, comesLineByLine ? 1 : kBatchBytes);
+    ParseAhead batches(parser, !comesLineByLine);
     RecordingMaker maker(recording);
-    std::string_view line;
-    for (qint64 number = 1;; ++number) {
-        switch (lines.next(line)) {
-        case LineReader::Outcome::End:
-            return {};
-        case LineReader::Outcome::Failed:
-            return RecordingError{name, 0, {}, "cannot be read: " + device.errorString()};
-        case LineReader::Outcome::TooLong:
-            return RecordingError{name, number, {}, QString("the line is longer than %1 bytes").arg(longestLine)};
-        case LineReader::Outcome::Line:
-            break;
+    for (;;) {
+        const LineBatch& batch = batches.next();
+        if (progress)
+            progress(batch.bytesRead, total);
+        for (std::size_t i = 0; i < batch.count; ++i) {
+            try {
+                maker.take(batch.lines[i]);
+            } catch (const FormError& error) {
+                return RecordingError{name, batch.lines[i].number, error.path, error.message};
+            }
         }
-        if (isBlank(line))
-            continue;
-        try {
-            maker.take(line, number);
-        } catch (const FormError& error) {
-            return RecordingError{name, number, error.path, error.message};
-        }
+        if (batch.ending)
+            return errorOf(*batch.ending, name, longestLine);
     }
 }
 

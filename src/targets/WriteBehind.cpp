@@ -1,5 +1,7 @@
 #include "targets/WriteBehind.h"
 
+#include "threads/background.h"
+
 #include <system_error>
 #include <utility>
 
@@ -48,7 +50,7 @@ bool WriteBehind::start()
 {
     try {
         if (!thread_.joinable())
-            thread_ = std::thread([this] { run(); });
+            thread_ = startInBackground([this] { run(); });
         return true;
     } catch (const std::system_error&) {
         return false;
