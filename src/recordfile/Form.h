@@ -93,9 +93,10 @@ void readEntries(const Json& json, std::size_t count, NameOf nameOf, IsRequired 
     std::size_t at = 0;
     for (const simdjson::dom::key_value_pair entry : json.object()) {
         // Most files have the keys in the table's order.
-        for (std::size_t tried = 0; tried < count && entry.key != nameOf(at); ++tried)
+        std::size_t tried = 0;
+        for (; tried < count && entry.key != nameOf(at); ++tried)
             at = at + 1 < count ? at + 1 : 0;
-        if (count == 0 || entry.key != nameOf(at))
+        if (tried == count)
             json.fail("unknown key " + quoted(entry.key));
         if (met.test(at))
             json.fail(QString("the key %1 is given twice").arg(quoted(entry.key)));

@@ -5,14 +5,30 @@
 
 namespace inkmacro::recordfile {
 
+namespace {
+
+/// Tags differ in their lengths and in some of these letters.
+std::size_t bitsOf(std::string_view utf8)
+{
+    const auto letter = [&](std::size_t at) { return static_cast<unsigned char>(utf8[at]); };
+    const std::size_t size = utf8.size();
+    return size == 0 ? 0 : size * 5 ^ letter(0) * 3 ^ letter(size * 2 / 3) * 11 ^ letter(size - 1) * 7;
+}
+
+} // namespace
+
 const CFxString* TextPool::text(std::string_view utf8)
 {
     if (utf8.size() > longestShared)
         return &longTexts_.emplace_back(toText(utf8));
-    auto found = texts_.find(utf8);
-    if (found == texts_.end())
-        found = texts_.emplace(utf8, toText(utf8)).first;
-    return &found->second;
+    auto& recent = recentTexts_[bitsOf(utf8) % recentTexts_.size()];
+    if (!recent || recent->first != utf8) {
+        auto found = texts_.find(utf8);
+        if (found == texts_.end())
+            found = texts_.emplace(utf8, toText(utf8)).first;
+        recent = &*found;
+    }
+    return &recent->second;
 }
 
 OdRxClass* TextPool::classOf(std::string_view utf8)
@@ -28,10 +44,14 @@ OdRxClass* TextPool::classOf(std::string_view utf8)
 const PropertyLabel& TextPool::label(const CFxString* tag, const CFxString* group)
 {
     const TextPair texts(tag, group);
-    auto found = labels_.find(texts);
-    if (found == labels_.end())
-        found = labels_.try_emplace(texts, *tag, *group).first;
-    return found->second;
+    auto& recent = recentLabels_[PairHash()(texts) % recentLabels_.size()];
+    if (!recent || recent->first != texts) {
+        auto found = labels_.find(texts);
+        if (found == labels_.end())
+            found = labels_.try_emplace(texts, *tag, *group).first;
+        recent = &*found;
+    }
+    return recent->second;
 }
 
 std::size_t TextPool::PairHash::operator()(const TextPair& pair) const

@@ -2,6 +2,7 @@
 
 #include "recordfile/recordedActions.h"
 
+#include <array>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -33,14 +34,20 @@ private:
     {
         std::size_t operator()(const TextPair& pair) const;
     };
+    /// What was looked up last, by a few bits of the key: the records of one object have the tags of the one before.
+    template<class Entry>
+    using Recent = std::array<const Entry*, 256>;
 
     /// Longer ones are made anew each time: as keys they would take half as much again, and hardly any occurs twice.
     static constexpr std::size_t longestShared = 64 * 1024;
 
     ByBytes<CFxString> texts_;
+    Recent<ByBytes<CFxString>::value_type> recentTexts_{};
     std::deque<CFxString> longTexts_;
     ByBytes<OdRxClass*> classes_;
-    std::unordered_map<TextPair, PropertyLabel, PairHash> labels_;
+    using Labels = std::unordered_map<TextPair, PropertyLabel, PairHash>;
+    Labels labels_;
+    Recent<Labels::value_type> recentLabels_{};
 };
 
 } // namespace inkmacro::recordfile

@@ -45,7 +45,7 @@ private:
 class RecordedProperty : public CFxPropertyChanged
 {
 public:
-    RecordedProperty(const PropertyLabel& label, CFxVariant value) : label_(label), value_(std::move(value)) {}
+    RecordedProperty(const PropertyLabel& label, CFxVariant&& value) : label_(label), value_(std::move(value)) {}
 
     const CFxString& GetName() const override { return label_.tag(); }
     const CFxString& GetGroup() const override { return label_.group(); }
@@ -74,7 +74,7 @@ struct PropertyDetails
 class RecordedPropertyWithDetails final : public RecordedProperty
 {
 public:
-    RecordedPropertyWithDetails(const PropertyLabel& label, CFxVariant value, PropertyDetails details)
+    RecordedPropertyWithDetails(const PropertyLabel& label, CFxVariant&& value, PropertyDetails details)
         : RecordedProperty(label, std::move(value)), details_(std::move(details))
     {
     }
