@@ -45,7 +45,7 @@ bool CFxConverterIWAPIImpl::NameInsertedObject(const CFxCustomAction& action, CF
         return true;
     const OdDbHandle handle = action.GetData(3).GetHandle();
     const OdRxClass* const cls = action.GetData(4).GetClass();
-    if (!cls || !IsSupportedClass(cls->name()))
+    if (!cls || !IsSupportedClass(cls))
         return false;
     RegisterObject(handle, cls);
     ResolveVariable(handle, cls, name);

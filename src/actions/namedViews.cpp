@@ -112,7 +112,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionViewBackground(OdSmartPtr<CFxCu
     const bool onSheet = action->GetData(3).GetBool();
     const CFxString& sheetName = action->GetData(4).GetString();
     const CFxString& name = action->GetData(5).GetString();
-    if (!cls || !IsSupportedClass(cls->name()) || (writer.repairs && cls != OdDbViewTableRecord::desc()))
+    if (!cls || !IsSupportedClass(cls) || (writer.repairs && cls != OdDbViewTableRecord::desc()))
         return PassOver(action, "objects of that class have no statements");
 
     if (isNew && view.isEmpty() && !FindEntry(handle)) {

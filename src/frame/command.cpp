@@ -152,7 +152,7 @@ void CFxConverterIWAPIImpl::RegisterChildren(const CFxActionArray& children, Com
             continue;
         OdRxClass* const cls = added->GetObjectClass();
         Objects();
-        if (!cls || !IsSupportedClass(cls->name()))
+        if (!cls || !IsSupportedClass(cls))
             continue;
         if (cls == OdDbMText::desc()) {
             OdDbObjectId leader;

@@ -215,7 +215,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertModified(const OdSmartPtr<CFxObjectMo
         return kFxFailure;
     const CFxString className = cls->name();
     const OdDbHandle handle = action->GetHandle();
-    if (IsSupportedClass(className) && className.equalNoCase("AcDbLayerTableRecord") && !FindEntry(handle)) {
+    if (IsSupportedClass(cls) && className.equalNoCase("AcDbLayerTableRecord") && !FindEntry(handle)) {
         const CFxString layer = LayerName(handle, *action);
         if (writer.repairs && layer.isEmpty()) {
             NoteLoss("changes of " + ObjectTitle(cls, handle).toQString(), "the drawing does not have the layer");

@@ -10,6 +10,7 @@
 #include "objects/classTable.h"
 
 #include <QHash>
+#include <QStringBuilder>
 
 #include <algorithm>
 #include <array>
@@ -95,15 +96,10 @@ QString NumberedVariable(const OdRxClass* cls, std::uint32_t ordinal)
     if (last.cls == cls && last.ordinal == ordinal && last.language == RecordingLanguage() && !last.name.isNull())
         return last.name;
 
-    constexpr std::size_t mostDigits = 10;
-    std::array<char, mostDigits> digits;
+    std::array<char, 10> digits;
     const char* const end = std::to_chars(digits.begin(), digits.end(), ordinal).ptr;
-    QString name;
-    if (const TypeNames* const names = FindTypeNames(cls)) {
-        name.reserve(names->stem.getLength() + static_cast<int>(mostDigits));
-        name += names->stem;
-    }
-    name += QLatin1String(digits.data(), end);
+    const TypeNames* const names = FindTypeNames(cls);
+    const QString name = (names ? names->stem.toQString() : QString()) % QLatin1String(digits.data(), end);
     last = {cls, ordinal, RecordingLanguage(), name};
     return name;
 }

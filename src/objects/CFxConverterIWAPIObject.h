@@ -33,7 +33,7 @@ enum class HandlesIn
 bool IsHostShapeFile(const CFxString& fileName);
 
 /// Whether objects of that class are converted at all.
-bool IsSupportedClass(const CFxString& name);
+bool IsSupportedClass(const OdRxClass* cls);
 
 /// Whether a value of choice type shows the word "Yes" or "On" in the host's display language.
 bool IsYes(const CFxVariant& value);

@@ -129,9 +129,9 @@ const ClassRow* FindClassOfInterface(const QString& interfaceName)
     return found == std::end(kRows) ? nullptr : found;
 }
 
-bool IsSupportedClass(const CFxString& name)
+bool IsSupportedClass(const OdRxClass* cls)
 {
-    const ClassRow* const row = FindClass(name);
+    const ClassRow* const row = FindClass(cls);
     return row && !row->has(kOnlyNamed);
 }
 

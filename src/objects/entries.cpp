@@ -18,7 +18,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectAdded(OdSmartPtr<CFxObjectAdd
     const OdRxClass* const cls = action->GetObjectClass();
     if (!cls)
         return kFxFailure;
-    if (!IsSupportedClass(cls->name())) {
+    if (!IsSupportedClass(cls)) {
         NoteLoss(ActionTitle(action.get()), kForeignClass);
         return kFxSuccess;
     }
@@ -39,7 +39,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectModified(OdSmartPtr<CFxObject
     const OdRxClass* const cls = action->GetObjectClass();
     if (!cls)
         return kFxFailure;
-    if (!IsSupportedClass(cls->name())) {
+    if (!IsSupportedClass(cls)) {
         NoteLoss(ActionTitle(action.get()), kForeignClass);
         return kFxSuccess;
     }

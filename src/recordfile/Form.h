@@ -105,7 +105,7 @@ void readEntries(const Json& json, std::size_t count, NameOf nameOf, IsRequired 
         at = at + 1 < count ? at + 1 : 0;
     }
     for (std::size_t i = 0; i < count; ++i)
-        if (!met.test(i) && isRequired(i))
+        if (isRequired(i) && !met.test(i))
             json.fail(QString("the key %1 is missing").arg(quoted(nameOf(i))));
 }
 

@@ -115,11 +115,11 @@ TEST(Classes, AreKnownInAllTheirTables)
         EXPECT_TRUE(names.insert(row.name).second) << row.name;
         EXPECT_NE(oddbFindClassRow(row.name), nullptr) << row.name;
         EXPECT_EQ(FindClass(oddbClassByName(row.name)), &row) << row.name;
-        EXPECT_EQ(IsSupportedClass(row.name), !row.has(kOnlyNamed)) << row.name;
+        EXPECT_EQ(IsSupportedClass(oddbClassByName(row.name)), !row.has(kOnlyNamed)) << row.name;
         EXPECT_EQ(row.interfaceName == nullptr, row.enumerator == nullptr) << row.name;
     }
     EXPECT_EQ(names.size(), 53U);
-    EXPECT_FALSE(IsSupportedClass("acdbline"));
+    EXPECT_FALSE(IsSupportedClass(oddbClassByName("acdbline")));
 
     EXPECT_TRUE(oddbDwgClassMapDesc(22)->isDerivedFrom(OdDbEntity::desc()));
     EXPECT_FALSE(oddbDwgClassMapDesc(51)->isDerivedFrom(OdDbEntity::desc()));
