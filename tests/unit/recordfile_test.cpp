@@ -399,6 +399,35 @@ TEST(RecordingFile, SaysWhatIsWrongAndWhere)
         EXPECT_EQ(complaint(bytes), error);
 }
 
+/// Lines are parsed far ahead of the one that a recording is being made of.
+TEST(RecordingFile, TellsTheFirstFaultOfManyLines)
+{
+    constexpr int count = 300'000;
+    const auto withLine = [](std::initializer_list<std::pair<int, QByteArray>> others) {
+        QByteArray bytes;
+        int number = 1;
+        for (const auto& [at, other] : others) {
+            for (; number < at; ++number)
+                bytes += "{\"null\":null}\n";
+            bytes += other + '\n';
+            ++number;
+        }
+        for (; number <= count; ++number)
+            bytes += "{\"null\":null}\n";
+        return bytes;
+    };
+    const QByteArray undo = R"({"undo":1})";
+    const QByteArray broken = R"({"null":nul})";
+    EXPECT_EQ(complaint(withLine({{150'000, undo}, {150'001, broken}})),
+              "walls.jsonl:150000: \"undo\" is not a kind of line");
+    EXPECT_EQ(complaint(withLine({{150'000, broken}, {150'001, undo}})).substr(0, 19), "walls.jsonl:150000:");
+    EXPECT_EQ(complaint(withLine({{2, undo}, {150'000, broken}})), "walls.jsonl:2: \"undo\" is not a kind of line");
+    EXPECT_EQ(complaint(withLine({{149'000, undo}, {150'000, QByteArray(2000, ' ')}}), 1000),
+              "walls.jsonl:149000: \"undo\" is not a kind of line");
+    EXPECT_EQ(complaint(withLine({{150'000, QByteArray(2000, ' ')}, {150'001, undo}}), 1000),
+              "walls.jsonl:150000: the line is longer than 1000 bytes");
+}
+
 TEST(RecordingFile, SaysWhereBrokenTextIs)
 {
     // The words come from what the parser saw; the line has to be right, and the text on one line.
