@@ -71,7 +71,10 @@ void BM_Convert(benchmark::State& state, Target target)
 }
 
 #define BENCHMARK_TARGET(id, suffix, name, extension, projectFiles)                                                    \
-    BENCHMARK_CAPTURE(BM_Convert, id, Target::id)->UseRealTime()->Unit(benchmark::kMillisecond)->Name("BM_Convert/" name);
+    BENCHMARK_CAPTURE(BM_Convert, id, Target::id)                                                                      \
+        ->UseRealTime()                                                                                                \
+        ->Unit(benchmark::kMillisecond)                                                                                \
+        ->Name("BM_Convert/" name);
 INKMACRO_TARGETS(BENCHMARK_TARGET)
 #undef BENCHMARK_TARGET
 

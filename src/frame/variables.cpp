@@ -99,7 +99,7 @@ QString NumberedVariable(const OdRxClass* cls, std::uint32_t ordinal)
     std::array<char, 10> digits;
     const char* const end = std::to_chars(digits.begin(), digits.end(), ordinal).ptr;
     const TypeNames* const names = FindTypeNames(cls);
-    const QString name = (names ? names->stem.toQString() : QString()) % QLatin1String(digits.data(), end);
+    QString name = (names ? names->stem.toQString() : QString()) % QLatin1String(digits.data(), end);
     last = {cls, ordinal, RecordingLanguage(), name};
     return name;
 }

@@ -424,7 +424,7 @@ Fill& Fill::text(QLatin1String value)
 
 Fill& Fill::shortReal(double value)
 {
-    if ((mode_.repairs || mode_.marked) && losesDigits(value)) {
+    if ((mode_.repairs || mode_.marked != nullptr) && losesDigits(value)) {
         if (mode_.repairs) {
             return real(value);
         }
@@ -445,7 +445,7 @@ QString Fill::str() const
         return escaped(used);
     }
     QString outcome = filled(used);
-    if (mode_.marked && (fault_ || percent_ || rounded_ >= 0 || template_->quotes_)) {
+    if (mode_.marked != nullptr && (fault_ || percent_ || rounded_ >= 0 || template_->quotes_)) {
         markFaults(outcome, used);
     }
     return outcome;

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <ranges>
+#include <string_view>
 #include <utility>
 
 namespace inkmacro {
@@ -18,9 +20,10 @@ inline bool isOneOf(unsigned kinds, QChar character)
 {
     static constexpr auto ascii = [] {
         std::array<unsigned char, 0x80> parts{};
-        for (const char part : "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_")
-            parts[static_cast<std::size_t>(part)] = part == '\0' ? 0 : kNamePart;
-        parts['.'] = kDot;
+        for (const char16_t part :
+             std::u16string_view(u"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_"))
+            parts[part] = kNamePart;
+        parts[u'.'] = kDot;
         return parts;
     }();
     const ushort code = character.unicode();
@@ -221,10 +224,10 @@ QString Locals::keyOf(QStringView name) const
 
 const QString* Locals::otherNameOf(const QString& name) const
 {
-    for (auto scope = scopes_.rbegin(); scope != scopes_.rend(); ++scope) {
-        if (const auto found = scope->renamed.constFind(name); found != scope->renamed.constEnd())
+    for (const Scope& scope : std::ranges::reverse_view(scopes_)) {
+        if (const auto found = scope.renamed.constFind(name); found != scope.renamed.constEnd())
             return &found.value();
-        if (scope->declared.contains(name))
+        if (scope.declared.contains(name))
             return nullptr;
     }
     return nullptr;

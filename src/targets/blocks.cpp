@@ -15,7 +15,7 @@ static const Phrase blockBegin{"EmitBlockBegin",
 
 QString EmitBlockBegin(Writer& writer)
 {
-    const QString text = blockBeginAt(writer, writer.IndentLevel);
+    QString text = blockBeginAt(writer, writer.IndentLevel);
     enterBlock(writer);
     return text;
 }
