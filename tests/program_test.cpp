@@ -293,7 +293,7 @@ TEST_F(Program, LooksForLineStylesInFoldersOfTheCommandLineAndOfTheRecording)
     write("fence.jsonl", R"({"drawing":{"lineStyleFolders":["own"]}}
 {"added":{"class":"AcDbLinetypeTableRecord","handle":"24","properties":[{"tag":"Name","value":"FENCE1"}]}}
 )");
-    const auto convert = [&](QStringList more) {
+    const auto convert = [&](const QStringList& more) {
         return run(QStringList{"convert", "fence.jsonl", "--target", "csharp", "--output", "out/"} + more);
     };
     const auto isLoadedFrom = [&](const QString& file) {

@@ -61,8 +61,8 @@ public:
     QString text() const
     {
         QString text = latin1_.isNull() ? text_ : QString(latin1());
-        for (auto mark = marks_.rbegin(); mark != marks_.rend(); ++mark)
-            text.insert(mark->first, mark->second);
+        std::for_each(marks_.rbegin(), marks_.rend(),
+                      [&text](const auto& mark) { text.insert(mark.first, mark.second); });
         return text;
     }
 

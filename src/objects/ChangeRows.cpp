@@ -8,9 +8,9 @@
 
 #include <algorithm>
 
-ChangeRows::ChangeRows(const OptionObject* on, std::initializer_list<ChangeRow> list) : on(on)
+ChangeRows::ChangeRows(const OptionObject* on, std::initializer_list<ChangeRow> all) : on(on)
 {
-    for (const ChangeRow& row : list) {
+    for (const ChangeRow& row : all) {
         if (!row.kind.axes) {
             rows.push_back(row);
             continue;

@@ -60,7 +60,7 @@ struct ChangeRows
     std::vector<ChangeRow> rows;
 
 private:
-    ChangeRows(const OptionObject* on, std::initializer_list<ChangeRow> rows);
+    ChangeRows(const OptionObject* on, std::initializer_list<ChangeRow> all);
 };
 
 /// What is fetched for one of its tags serves the tags behind it. The next group fetches anew.

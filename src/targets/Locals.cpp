@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 #include <string_view>
 #include <utility>
 
@@ -224,13 +223,13 @@ QString Locals::keyOf(QStringView name) const
 
 const QString* Locals::otherNameOf(const QString& name) const
 {
-    for (const Scope& scope : std::ranges::reverse_view(scopes_)) {
-        if (const auto found = scope.renamed.constFind(name); found != scope.renamed.constEnd())
-            return &found.value();
-        if (scope.declared.contains(name))
-            return nullptr;
-    }
-    return nullptr;
+    const auto scope = std::find_if(scopes_.rbegin(), scopes_.rend(), [&](const Scope& one) {
+        return one.renamed.contains(name) || one.declared.contains(name);
+    });
+    if (scope == scopes_.rend())
+        return nullptr;
+    const auto found = scope->renamed.constFind(name);
+    return found == scope->renamed.constEnd() ? nullptr : &found.value();
 }
 
 bool Locals::declaresTwice(QStringView line)

@@ -57,10 +57,9 @@ void appendCurly(QString& out, QStringView text, qsizetype at, Target target)
     const QChar character = text[at];
     const ushort code = character.unicode();
     const bool cpp = target == Target::Cpp || target == Target::CppCom;
-    if (character == u'"' || character == u'\\' || (target == Target::JavaScript && character == u'\''))
-        out += '\\';
     // Two question marks begin a trigraph.
-    else if (cpp && character == u'?' && at > 0 && text[at - 1] == u'?')
+    const bool trigraph = cpp && character == u'?' && at > 0 && text[at - 1] == u'?';
+    if (character == u'"' || character == u'\\' || (target == Target::JavaScript && character == u'\'') || trigraph)
         out += '\\';
     else if (isControl(code) || (!cpp && endsLine(code))) {
         out += escapeSequence(code, target);

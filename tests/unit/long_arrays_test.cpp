@@ -15,7 +15,7 @@ CFxPropertyChangedPtr vertexRecord(int first)
 {
     std::vector<CFxVariantCollectionElement> elements;
     for (int i = 0; i < vertices; ++i)
-        elements.emplace_back(i, OdGePoint3d(first + i, 0.5, -i));
+        elements.emplace_back(i, OdGePoint3d{double(first + i), 0.5, double(-i)});
     return record("Vertex", CFxVariantCollection(std::move(elements)));
 }
 

@@ -63,7 +63,12 @@ public:
     requires std::convertible_to<U*, T*> OdSmartPtr(const OdSmartPtr<U>& other) : OdSmartPtr(other.get()) {}
     template<class U>
     requires std::convertible_to<U*, T*> OdSmartPtr(OdSmartPtr<U>&& other) : object_(other.detach()) {}
-    OdSmartPtr& operator=(const OdSmartPtr& other) { return *this = OdSmartPtr(other); }
+    OdSmartPtr& operator=(const OdSmartPtr& other)
+    {
+        OdSmartPtr copy(other);
+        std::swap(object_, copy.object_);
+        return *this;
+    }
     /// Leaves the former object to the other pointer.
     OdSmartPtr& operator=(OdSmartPtr&& other) noexcept
     {

@@ -69,7 +69,7 @@ QString ReadSpline(AddedObject& added)
     const OdGePoint3d end = added.takePoint("End tangent vector X", "End tangent vector Y", "End tangent vector Z");
     const CFxVariant tolerance = added.take("Fit tolerance");
 
-    const QString text = EmitInsertSpline(added.writer, fitPoints, closed, start, end, added.name);
+    QString text = EmitInsertSpline(added.writer, fitPoints, closed, start, end, added.name);
     if (tolerance.IsNull())
         return text;
     return text + EmitSetDoubleProperty(added.writer, added.name, "FitTolerance", tolerance.GetDouble());
