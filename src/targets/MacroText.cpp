@@ -9,17 +9,9 @@ namespace inkmacro {
 
 namespace {
 
-/// The stream makes copies of all that it is given at once.
 void writeSliced(QTextStream& stream, QStringView text)
 {
-    constexpr qsizetype slice = 64 * 1024;
-    while (!text.isEmpty()) {
-        qsizetype length = std::min(slice, text.size());
-        if (length < text.size() && text[length].isLowSurrogate())
-            ++length;
-        stream << text.left(length);
-        text = text.mid(length);
-    }
+    forSlices(text, 64 * 1024, [&stream](QStringView slice) { stream << slice; });
 }
 
 constexpr int kLineHead = 1024;

@@ -6,12 +6,27 @@
 #include <QString>
 #include <QStringView>
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
 class QTextStream;
 
 namespace inkmacro {
+
+/// Calls for one slice of the text after the other, of at most so many letters; no pair of surrogates is cut. Who makes
+/// copies does so of a slice at a time.
+template<class Use>
+void forSlices(QStringView text, qsizetype most, Use use)
+{
+    while (!text.isEmpty()) {
+        qsizetype length = std::min(most, text.size());
+        if (length < text.size() && text[length].isLowSurrogate())
+            --length;
+        use(text.left(length));
+        text = text.mid(length);
+    }
+}
 
 /// The text of a macro on its way into the stream, line by line: gives the faults in it their lines, and tells locals
 /// apart that a repaired macro would declare twice. Belongs to one thread at a time.
