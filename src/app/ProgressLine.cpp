@@ -37,14 +37,7 @@ ProgressLine::ProgressLine(std::function<QString()> describe) : describe_(std::m
 
 ProgressLine::~ProgressLine()
 {
-    if (!thread_.joinable())
-        return;
-    {
-        const std::lock_guard lock(mutex_);
-        ended_ = true;
-    }
-    ending_.notify_one();
-    thread_.join();
+    endInBackground(thread_, mutex_, ending_, ended_);
 }
 
 void ProgressLine::aside(const std::function<void()>& write)

@@ -8,14 +8,7 @@ namespace inkmacro::recordfile {
 
 ParseAhead::~ParseAhead()
 {
-    if (!thread_.joinable())
-        return;
-    {
-        const std::lock_guard lock(mutex_);
-        stopped_ = true;
-        changed_.notify_all();
-    }
-    thread_.join();
+    endInBackground(thread_, mutex_, changed_, stopped_);
 }
 
 const LineBatch& ParseAhead::next()

@@ -123,14 +123,7 @@ void WriteBehind::writeAll(Batch& batch)
 
 void WriteBehind::end()
 {
-    if (!thread_.joinable())
-        return;
-    {
-        const std::lock_guard lock(mutex_);
-        ended_ = true;
-        changed_.notify_all();
-    }
-    thread_.join();
+    endInBackground(thread_, mutex_, changed_, ended_);
 }
 
 } // namespace inkmacro

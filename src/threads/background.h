@@ -1,6 +1,8 @@
 #pragma once
 
+#include <condition_variable>
 #include <csignal>
+#include <mutex>
 #include <thread>
 #include <utility>
 
@@ -24,6 +26,20 @@ std::thread startInBackground(Work work)
     };
     const Mask mask;
     return std::thread(std::move(work));
+}
+
+/// Tells a thread by its flag that it shall end, and waits until it has; nothing when there is none. `mutex` guards the
+/// flag, and the thread waits for `changed`.
+inline void endInBackground(std::thread& thread, std::mutex& mutex, std::condition_variable& changed, bool& flag)
+{
+    if (!thread.joinable())
+        return;
+    {
+        const std::lock_guard lock(mutex);
+        flag = true;
+        changed.notify_all();
+    }
+    thread.join();
 }
 
 } // namespace inkmacro
