@@ -1,9 +1,9 @@
 // The conversion alone, to each target: the recording is in memory, the macro goes to a temporary folder.
 
-#include "frame/CFxConverterIWAPI.h"
 #include "host/kernel/CFxServices.h"
+#include "module/CFxConverterIWAPI.h"
 #include "recordfile/RecordingReader.h"
-#include "targets/TargetTable.h"
+#include "statements/TargetTable.h"
 
 #include <benchmark/benchmark.h>
 

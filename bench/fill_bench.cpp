@@ -1,4 +1,4 @@
-#include "targets/Fill.h"
+#include "statements/Fill.h"
 
 #include <benchmark/benchmark.h>
 

@@ -25,9 +25,18 @@ set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/${INKMACRO_BIN_TO_LIB}")
 find_program(INKMACRO_CCACHE ccache)
 mark_as_advanced(INKMACRO_CCACHE)
 if(INKMACRO_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${INKMACRO_CCACHE})
+    # Without these words it keeps nothing that is compiled with a precompiled header.
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${INKMACRO_CCACHE})
+endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-fpch-preprocess)
+else()
+    add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
 endif()
 
+# "emit" is a word of this project's.
+add_compile_definitions(QT_NO_KEYWORDS)
 add_compile_options(-Wall -Wextra -Wpedantic)
 if(INKMACRO_WERROR)
     add_compile_options(-Werror)

@@ -16,7 +16,7 @@ endif()
 
 # The folders below src/ stay, because the headers include one another by those paths.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/host DESTINATION ${headers} FILES_MATCHING PATTERN "*.h")
-install(FILES ${PROJECT_SOURCE_DIR}/src/frame/CFxConverterIWAPIModule.h DESTINATION ${headers}/frame OPTIONAL)
+install(FILES ${PROJECT_SOURCE_DIR}/src/module/CFxConverterIWAPIModule.h DESTINATION ${headers}/module OPTIONAL)
 install(FILES ${PROJECT_SOURCE_DIR}/docs/inkmacro.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 if(TARGET inkmacro)

@@ -10,6 +10,18 @@ function(inkmacro_sources variable)
     set(${variable} ${found} PARENT_SCOPE)
 endfunction()
 
+# Of the host's headers those that most of what stands above it reads.
+set(host_headers db/OdDbClasses.h kernel/CFxActions.h kernel/CFxServices.h)
+list(TRANSFORM host_headers PREPEND ${PROJECT_SOURCE_DIR}/src/host/)
+
+# What nearly every source reads: the standard library, Qt and the host's headers are most of the lines of one. A source
+# includes what it uses all the same.
+function(inkmacro_precompile target)
+    target_precompile_headers(${target} PRIVATE
+        <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <set> <span> <unordered_map> <utility>
+        <variant> <vector> <QByteArray> <QHash> <QString> <QStringList> <QTextStream> <QVarLengthArray> ${ARGN})
+endfunction()
+
 # Makes an executable which sees the internals of the module and knows where the program is:
 # inkmacro_developer_executable(<name> SOURCES <file>... [LIBRARIES <library>...])
 function(inkmacro_developer_executable name)

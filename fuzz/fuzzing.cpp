@@ -1,8 +1,8 @@
 #include "fuzzing.h"
 
-#include "frame/CFxConverterIWAPI.h"
-#include "frame/RecordingState.h"
+#include "module/CFxConverterIWAPI.h"
 #include "recordfile/OpenDrawing.h"
+#include "statements/RecordingState.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "recordfile/RecordingReader.h"
-#include "targets/TargetTable.h"
+#include "statements/TargetTable.h"
 
 #include <cstdint>
 

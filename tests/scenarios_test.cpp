@@ -1,12 +1,12 @@
 // Whole recordings, each converted for each target and compared byte for byte with the files beside it.
 
-#include "frame/CFxConverterIWAPI.h"
-#include "frame/RecordingState.h"
-#include "frame/counters.h"
+#include "module/CFxConverterIWAPI.h"
 #include "recordfile/OpenDrawing.h"
 #include "recordfile/RecordingReader.h"
-#include "targets/Phrase.h"
-#include "targets/TargetTable.h"
+#include "statements/Phrase.h"
+#include "statements/RecordingState.h"
+#include "statements/TargetTable.h"
+#include "statements/counters.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 
 #include "targets/clipBoundaries.h"
 #include "actions/handedVariable.h"
-#include "actions/kinds.h"
-#include "frame/losses.h"
+#include "actions/handlers.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "statements/losses.h"
 
 /// Of an image that the macro does not know the statement that would fetch it is lost, and the new name stays; but not
 /// in a repaired macro.

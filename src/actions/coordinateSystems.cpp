@@ -3,9 +3,9 @@
 
 #include "targets/coordinateSystems.h"
 #include "actions/handedVariable.h"
-#include "actions/kinds.h"
-#include "frame/losses.h"
-#include "targets/arrays.h"
+#include "actions/handlers.h"
+#include "statements/arrays.h"
+#include "statements/losses.h"
 
 namespace inkmacro {
 

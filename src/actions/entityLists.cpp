@@ -3,7 +3,7 @@
 
 #include "targets/entityLists.h"
 #include "actions/handedVariable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "module/CFxConverterIWAPIImpl.h"
 
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;

@@ -2,14 +2,14 @@
 
 #include "targets/fileLocations.h"
 #include "actions/handedVariable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/RecordingState.h"
-#include "frame/StatementGroup.h"
-#include "frame/losses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/setters.h"
-#include "targets/LineEnd.h"
-#include "targets/Target.h"
+#include "statements/LineEnd.h"
+#include "statements/RecordingState.h"
+#include "statements/StatementGroup.h"
+#include "statements/Target.h"
+#include "statements/losses.h"
 
 #include <algorithm>
 #include <span>

@@ -2,10 +2,10 @@
 
 #include "targets/groups.h"
 #include "actions/handedVariable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
+#include "statements/losses.h"
 
 const ActionEntry* CFxConverterIWAPIImpl::FindGroup(const CFxString& groupName, OdDbHandle& handle) const
 {

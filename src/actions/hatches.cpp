@@ -2,11 +2,11 @@
 
 #include "targets/hatches.h"
 #include "actions/handedVariable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/counters.h"
-#include "frame/losses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/hatchInsertions.h"
+#include "statements/counters.h"
+#include "statements/losses.h"
 
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;

@@ -2,13 +2,13 @@
 // action is handed the object's variable.
 
 #include "actions/handedVariable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/counters.h"
-#include "frame/losses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/regions.h"
+#include "statements/counters.h"
+#include "statements/losses.h"
+#include "statements/wording.h"
 #include "targets/customActions.h"
-#include "targets/wording.h"
 
 #include <QStringList>
 

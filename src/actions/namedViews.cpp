@@ -2,15 +2,15 @@
 
 #include "targets/namedViews.h"
 #include "actions/handedVariable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/StatementGroup.h"
-#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/viewBackgrounds.h"
+#include "statements/StatementGroup.h"
+#include "statements/losses.h"
+#include "statements/wording.h"
 #include "targets/sheets.h"
 #include "targets/variables.h"
-#include "targets/wording.h"
 
 #include <QCoreApplication>
 

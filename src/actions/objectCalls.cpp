@@ -1,13 +1,13 @@
 // Custom actions that call an operation of objects: erase, activate, join, explode, and the value of an attribute.
 
 #include "actions/handedVariable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/blockAttributes.h"
 #include "objects/targets/references.h"
-#include "targets/arrays.h"
+#include "statements/arrays.h"
+#include "statements/losses.h"
 #include "targets/customActions.h"
 #include "targets/variables.h"
 

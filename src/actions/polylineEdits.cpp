@@ -2,10 +2,10 @@
 
 #include "targets/polylineEdits.h"
 #include "actions/handedVariable.h"
-#include "actions/kinds.h"
-#include "frame/losses.h"
+#include "actions/handlers.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/setters.h"
+#include "statements/losses.h"
 #include "targets/hatches.h"
 
 #include <algorithm>

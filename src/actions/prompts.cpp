@@ -1,9 +1,9 @@
 // Answers at prompts, which a replay asks for anew.
 
 #include "targets/prompts.h"
-#include "frame/CFxConverterIWAPIImpl.h"
 #include "host/rx/OdError.h"
-#include "targets/wording.h"
+#include "module/CFxConverterIWAPIImpl.h"
+#include "statements/wording.h"
 
 #include <array>
 #include <variant>

@@ -2,9 +2,9 @@
 
 #include "targets/selections.h"
 #include "actions/handedVariable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/losses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/classTable.h"
+#include "statements/losses.h"
 #include "targets/selectionPrompts.h"
 
 using inkmacro::HandedVariable;
@@ -49,8 +49,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionSelectionFilter(OdSmartPtr<CFxC
     for (std::int32_t i = 0; i < action->GetDataCount(); ++i) {
         const CFxCustomActionData& datum = action->GetData(i);
         if (datum.GetType() == CFxCustomActionData::kString) {
-            if (const ClassRow* const row = FindClassOfInterface(datum.GetString()))
-                typeNames.emplace_back(row->enumerator);
+            if (const InterfaceType* const type = FindInterface(datum.GetString()))
+                typeNames.emplace_back(type->enumerator);
             else
                 NoteLoss("selection filter for " + datum.GetString().toQString(), "the interface has no such type");
         } else if (datum.GetType() == CFxCustomActionData::kInt) {

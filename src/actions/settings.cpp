@@ -2,9 +2,9 @@
 
 #include "actions/handedVariable.h"
 #include "actions/optionTable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/losses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/targets/sheetProperties.h"
+#include "statements/losses.h"
 #include "targets/customActions.h"
 #include "targets/options.h"
 

@@ -1,6 +1,6 @@
 // The custom action that activates a space, or makes, copies, renames or removes a sheet: all its data are texts.
 
-#include "actions/kinds.h"
+#include "actions/handlers.h"
 #include "targets/sheets.h"
 
 namespace inkmacro {

@@ -1,10 +1,10 @@
 // Changes of system variables.
 
 #include "actions/optionTable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/losses.h"
+#include "module/CFxConverterIWAPIImpl.h"
+#include "statements/losses.h"
+#include "statements/wording.h"
 #include "targets/options.h"
-#include "targets/wording.h"
 
 using namespace inkmacro;
 

@@ -1,9 +1,9 @@
 // Custom actions that cut objects at others or at corners: trim, extend, fillet, chamfer.
 
 #include "actions/handedVariable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/StatementGroup.h"
-#include "frame/losses.h"
+#include "module/CFxConverterIWAPIImpl.h"
+#include "statements/StatementGroup.h"
+#include "statements/losses.h"
 #include "targets/fillets.h"
 #include "targets/trim.h"
 #include "targets/variables.h"

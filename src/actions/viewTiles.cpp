@@ -2,11 +2,11 @@
 
 #include "targets/viewTiles.h"
 #include "actions/handedVariable.h"
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/counters.h"
-#include "frame/losses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
-#include "targets/wording.h"
+#include "statements/counters.h"
+#include "statements/losses.h"
+#include "statements/wording.h"
 #include "targets/zoom.h"
 
 #include <array>

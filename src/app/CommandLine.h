@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdDbHandle.h"
-#include "targets/TargetTable.h"
+#include "statements/TargetTable.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/CFxConverterIWAPIModule.h"
+#include "module/CFxConverterIWAPIModule.h"
 
 #include <stdexcept>
 

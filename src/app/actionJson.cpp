@@ -2,8 +2,8 @@
 
 #include "app/actionJson.h"
 
-#include "actions/kinds.h"
 #include "recordfile/Pieces.h"
+#include "statements/actionKinds.h"
 
 #include <QJsonArray>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "frame/CFxConverterIWAPIModule.h"
-#include "frame/variables.h"
 #include "host/db/OdDbObject.h"
+#include "module/CFxConverterIWAPIModule.h"
 #include "objects/PropertyTag.h"
+#include "statements/typeNames.h"
 
 #include <QString>
 

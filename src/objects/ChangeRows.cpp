@@ -2,7 +2,7 @@
 
 #include "objects/ChangeRows.h"
 
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/dimensionOptions.h"
 

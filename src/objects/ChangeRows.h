@@ -3,8 +3,8 @@
 #include "host/db/OdDbObjectId.h"
 #include "host/kernel/CFxVariant.h"
 #include "objects/PropertyTag.h"
-#include "targets/Writer.h"
-#include "targets/enumerations.h"
+#include "statements/Writer.h"
+#include "statements/enumerations.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 // Added objects: the frame around the readers.
 
-#include "frame/CFxConverterIWAPIImpl.h"
 #include "host/db/OdDbClasses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/AddedObject.h"
 #include "objects/classTable.h"
 

@@ -1,8 +1,6 @@
 // What the entities of a block definition are to the macro.
 
 #include "objects/targets/blockDefinitions.h"
-#include "frame/counters.h"
-#include "frame/losses.h"
 #include "host/db/OdDbClassMap.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/added/dimensionGeometry.h"
@@ -12,8 +10,10 @@
 #include "objects/targets/hatchInsertions.h"
 #include "objects/targets/references.h"
 #include "objects/targets/tableCells.h"
-#include "targets/LineEnd.h"
-#include "targets/wording.h"
+#include "statements/LineEnd.h"
+#include "statements/counters.h"
+#include "statements/losses.h"
+#include "statements/wording.h"
 
 #include <algorithm>
 

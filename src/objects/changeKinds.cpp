@@ -2,7 +2,6 @@
 
 #include "objects/changeKinds.h"
 
-#include "frame/RecordingState.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "objects/CFxConverterIWAPIObject.h"
@@ -14,7 +13,8 @@
 #include "objects/targets/tables.h"
 #include "objects/targets/texts.h"
 #include "objects/targets/viewportOverrides.h"
-#include "targets/wording.h"
+#include "statements/RecordingState.h"
+#include "statements/wording.h"
 
 #include <algorithm>
 #include <cmath>

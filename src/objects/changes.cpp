@@ -1,15 +1,15 @@
 // What becomes of changed properties, and of those that an added object's reader left.
 
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/RecordingState.h"
-#include "frame/StatementGroup.h"
-#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
 #include "objects/targets/dimensionOptions.h"
 #include "objects/targets/references.h"
 #include "objects/targets/setters.h"
+#include "statements/RecordingState.h"
+#include "statements/StatementGroup.h"
+#include "statements/losses.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/CFxConverterIWAPIModule.h"
+#include "module/CFxConverterIWAPIModule.h"
 
 #include <span>
 
@@ -27,17 +27,14 @@ enum ClassFlags : unsigned
 {
     kDimension = 1,
     kFinishedByCustomAction = 2, ///< one of the command that adds the object; it is told the object's variable
-    kRawPointer = 4,             ///< C++ keeps objects of the type as raw pointers, all others as smart pointers
-    kOnlyNamed = 8,              ///< the type is only met within other objects' data: objects are not converted
-    kSetWhenAdded = 16,          ///< what an added object's reader has left is written like a change
+    kOnlyNamed = 4,              ///< the type is only met within other objects' data: objects are not converted
+    kSetWhenAdded = 8,           ///< what an added object's reader has left is written like a change
 };
 
 /// What is known of one class of drawing objects.
 struct ClassRow
 {
-    const char* name;          ///< as the class descriptor reports it
-    const char* interfaceName; ///< variables and declarations are made from it; null for a class that has none
-    const char* enumerator;    ///< of iwObjectType_e
+    const char* name;                                ///< as the class descriptor reports it
     QString (*reader)(AddedObject& added) = nullptr; ///< gives the statement that makes the object; it may be empty
     ClassChanges changes = {};
     unsigned flags = 0;
@@ -50,5 +47,3 @@ std::span<const ClassRow> ClassTable();
 const ClassRow* FindClass(const OdRxClass* cls);
 /// By the class's name, with case.
 const ClassRow* FindClass(const QString& name);
-/// By interface name, without case: the first class of that interface, or null.
-const ClassRow* FindClassOfInterface(const QString& interfaceName);

@@ -1,9 +1,9 @@
 // The three kinds of object action that the driver hands over.
 
-#include "frame/CFxConverterIWAPIImpl.h"
-#include "frame/losses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/statements.h"
+#include "statements/losses.h"
 
 static constexpr char kForeignClass[] = "objects of its class have no statements";
 

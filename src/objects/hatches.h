@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/kernel/CFxVariant.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 #include <functional>
 

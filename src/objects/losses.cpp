@@ -1,11 +1,12 @@
 // What of an object's records does not come into the macro.
 
-#include "frame/losses.h"
-#include "actions/kinds.h"
+#include "statements/losses.h"
 #include "host/db/OdDbClassMap.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
+#include "statements/actionKinds.h"
+#include "module/CFxConverterIWAPIImpl.h"
 
 #include <algorithm>
 #include <span>

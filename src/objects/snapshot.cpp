@@ -1,9 +1,9 @@
 #include "objects/snapshot.h"
 
-#include "frame/RecordingState.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "host/kernel/CFxUtils.h"
+#include "statements/RecordingState.h"
 
 #include <QCoreApplication>
 

@@ -1,11 +1,11 @@
 // The variables that changes reach their objects by.
 
-#include "frame/CFxConverterIWAPIImpl.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/references.h"
-#include "targets/arrays.h"
+#include "statements/arrays.h"
 
 OdDbObjectId CFxConverterIWAPIObject::IdOf(const OdDbHandle& handle)
 {

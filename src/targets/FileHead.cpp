@@ -1,6 +1,6 @@
 #include "targets/FileHead.h"
 
-#include "frame/RecordingState.h"
+#include "statements/RecordingState.h"
 
 namespace inkmacro {
 

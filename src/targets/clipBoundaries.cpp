@@ -2,7 +2,7 @@
 
 #include "targets/clipBoundaries.h"
 
-#include "targets/arrays.h"
+#include "statements/arrays.h"
 
 using namespace inkmacro;
 

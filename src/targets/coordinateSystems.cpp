@@ -2,8 +2,8 @@
 
 #include "targets/coordinateSystems.h"
 
-#include "targets/arrays.h"
-#include "targets/wording.h"
+#include "statements/arrays.h"
+#include "statements/wording.h"
 
 using namespace inkmacro;
 

@@ -2,8 +2,8 @@
 
 #include "targets/customActions.h"
 
-#include "frame/counters.h"
-#include "targets/arrays.h"
+#include "statements/arrays.h"
+#include "statements/counters.h"
 
 using namespace inkmacro;
 

@@ -3,7 +3,7 @@
 #include "host/db/OdCmColor.h"
 #include "host/db/OdGe.h"
 #include "host/rx/OdArray.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 #include <vector>
 

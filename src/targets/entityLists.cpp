@@ -3,8 +3,8 @@
 
 #include "targets/entityLists.h"
 
-#include "targets/LineEnd.h"
-#include "targets/arrays.h"
+#include "statements/LineEnd.h"
+#include "statements/arrays.h"
 #include "targets/objectTypes.h"
 
 using namespace inkmacro;

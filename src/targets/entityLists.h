@@ -1,8 +1,8 @@
 #pragma once
 
 #include "host/db/OdGe.h"
+#include "statements/Writer.h"
 #include "targets/EntityList.h"
-#include "targets/Writer.h"
 
 QString EmitMirrorEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& first,
                            const OdGePoint3d& second, bool erase);

@@ -2,7 +2,7 @@
 
 #include "targets/fileLocations.h"
 
-#include "frame/counters.h"
+#include "statements/counters.h"
 
 #include <QStringList>
 

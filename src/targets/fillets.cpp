@@ -3,7 +3,7 @@
 
 #include "targets/fillets.h"
 
-#include "frame/counters.h"
+#include "statements/counters.h"
 #include "targets/options.h"
 #include "targets/pickedArrays.h"
 

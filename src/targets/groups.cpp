@@ -2,8 +2,8 @@
 
 #include "targets/groups.h"
 
-#include "targets/LineEnd.h"
-#include "targets/arrays.h"
+#include "statements/LineEnd.h"
+#include "statements/arrays.h"
 
 using namespace inkmacro;
 

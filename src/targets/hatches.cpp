@@ -2,9 +2,9 @@
 
 #include "targets/hatches.h"
 
-#include "objects/targets/colors.h"
-#include "targets/arrays.h"
-#include "targets/wording.h"
+#include "statements/arrays.h"
+#include "statements/wording.h"
+#include "targets/colors.h"
 
 #include <cmath>
 

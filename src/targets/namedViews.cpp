@@ -2,7 +2,7 @@
 
 #include "targets/namedViews.h"
 
-#include "targets/bstrTexts.h"
+#include "statements/bstrTexts.h"
 
 using namespace inkmacro;
 

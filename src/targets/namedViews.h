@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdGe.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 /// A named view as statements find it: one of the model by its variable, one of a sheet by its name.
 struct NamedViewReference

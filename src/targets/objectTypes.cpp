@@ -2,7 +2,7 @@
 
 #include "targets/objectTypes.h"
 
-#include "targets/wording.h"
+#include "statements/wording.h"
 
 #include <QHash>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/Target.h"
+#include "statements/Target.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 
 #include "targets/options.h"
 
-#include "targets/wording.h"
+#include "statements/wording.h"
 
 #include <QByteArray>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdGe.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 QString EmitCommandOptionBool(Writer& writer, const CFxString& option, bool value);
 QString EmitCommandOptionDouble(Writer& writer, const CFxString& option, double value);

@@ -2,7 +2,7 @@
 
 #include "host/db/OdGe.h"
 #include "host/rx/OdArray.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 #include <span>
 #include <variant>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdGe.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 // Edits of a polyline that has a variable. Vertices and segments are told by their index. Those that `spatial` is given
 // to differ for polylines of space and of a plane.

@@ -2,9 +2,9 @@
 
 #include "targets/projectFiles.h"
 
-#include "frame/CFxConverterIWAPIModule.h"
-#include "frame/RecordingState.h"
 #include "host/kernel/CFxServices.h"
+#include "host/kernel/CFxStatus.h"
+#include "statements/RecordingState.h"
 
 #include <QDir>
 #include <QFile>

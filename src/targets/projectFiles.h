@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/Fill.h"
+#include "statements/Fill.h"
 
 #include <QString>
 

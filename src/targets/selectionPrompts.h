@@ -1,6 +1,6 @@
 #pragma once
 
+#include "statements/Writer.h"
 #include "targets/EntityList.h"
-#include "targets/Writer.h"
 
 QString EmitPromptSelection(Writer& writer, const EntityList& entities);

@@ -2,10 +2,10 @@
 
 #include "targets/selections.h"
 
-#include "frame/counters.h"
-#include "frame/losses.h"
-#include "targets/LineEnd.h"
-#include "targets/arrays.h"
+#include "statements/LineEnd.h"
+#include "statements/arrays.h"
+#include "statements/counters.h"
+#include "statements/losses.h"
 
 #include <algorithm>
 

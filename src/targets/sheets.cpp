@@ -2,7 +2,7 @@
 
 #include "targets/sheets.h"
 
-#include "targets/bstrTexts.h"
+#include "statements/bstrTexts.h"
 
 using namespace inkmacro;
 

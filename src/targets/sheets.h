@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 QString EmitActivateModel(Writer& writer);
 QString EmitActivateSheet(Writer& writer, const CFxString& sheetName, CFxString& sheetVariable);

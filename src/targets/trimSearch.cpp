@@ -3,9 +3,9 @@
 
 #include "targets/trimSearch.h"
 
-#include "objects/classTable.h"
-#include "targets/LineEnd.h"
-#include "targets/arrays.h"
+#include "host/db/OdDbClassMap.h"
+#include "statements/LineEnd.h"
+#include "statements/arrays.h"
 #include "targets/objectTypes.h"
 
 #include <QStringList>
@@ -70,7 +70,7 @@ struct NumberedPiece
 struct PiecesOfClass
 {
     const SearchedClass& searched;
-    const ClassRow& row;
+    const InterfaceType& type;
     QString stem; ///< of the variables
     std::vector<NumberedPiece> pieces;
 };
@@ -81,10 +81,10 @@ static std::vector<PiecesOfClass> byClass(const std::vector<TrimPiece>& pieces)
 {
     std::vector<PiecesOfClass> classes;
     for (const SearchedClass& searched : searchedClasses()) {
-        const ClassRow& row = *FindClass(QString::fromLatin1(searched.name.data()));
-        PiecesOfClass found{searched, row, QString(row.interfaceName).toLower(), {}};
+        const InterfaceType& type = *FindInterface(oddbClassByName(QString::fromLatin1(searched.name.data())));
+        PiecesOfClass found{searched, type, QString(type.name).toLower(), {}};
         for (std::size_t i = 0; i < pieces.size(); ++i)
-            if (FindClass(pieces[i].entry.cls) == &row)
+            if (FindInterface(pieces[i].entry.cls) == &type)
                 found.pieces.push_back({i, pieces[i].entry.ordinal});
         if (!found.pieces.empty())
             classes.push_back(found);
@@ -384,7 +384,7 @@ static Questions questionsOf(Writer& writer, const PiecesOfClass& of)
 
 static QStringList declarationsOf(Writer& writer, const PiecesOfClass& of, const QStringList& locals)
 {
-    QStringList lines{writer.fill(declareObject).text(of.stem).text(QLatin1String(of.row.interfaceName))};
+    QStringList lines{writer.fill(declareObject).text(of.stem).text(QLatin1String(of.type.name))};
     if (!isBasic(writer.target))
         lines.append(writer.fill(declareNumbers).text(locals.join(QLatin1String(", "))));
     else
@@ -415,11 +415,11 @@ static QString sectionOf(Writer& writer, const PiecesOfClass& of, bool first, QS
     return writer.fill(testOfClass)
         .text(assignments)
         .text(first ? QString() : QString(writer.fillIndented(otherClass)))
-        .text(objectTypeWord(writer.target, of.row.enumerator))
+        .text(objectTypeWord(writer.target, of.type.enumerator))
         .text(of.stem)
         .text(vba ? questions.calls : lines + questions.calls)
         .text(questions.comparisons.join(writer.fill(nextComparison).str()))
-        .text(vba ? lines : QString(of.row.interfaceName));
+        .text(vba ? lines : QString(of.type.name));
 }
 
 /// The box around the piece's place is as wide as the comparison is exact.

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "frame/variables.h"
 #include "host/db/OdGe.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
+#include "statements/typeNames.h"
 
 #include <array>
 #include <vector>

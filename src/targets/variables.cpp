@@ -2,7 +2,7 @@
 
 #include "targets/variables.h"
 
-#include "frame/counters.h"
+#include "statements/counters.h"
 
 using namespace inkmacro;
 

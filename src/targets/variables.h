@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/variables.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
+#include "statements/typeNames.h"
 
 QString EmitVariableDeclaration(Writer& writer, const ActionEntry& entry);
 /// Fetches the layer "0", but in a repaired macro the one that is told.

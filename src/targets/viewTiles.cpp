@@ -2,7 +2,7 @@
 
 #include "targets/viewTiles.h"
 
-#include "targets/wording.h"
+#include "statements/wording.h"
 
 using namespace inkmacro;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 /// The array of all tiles. `mode` and `applyTo` are enumerators, such as "iwViewTilesMode_4_Equal" and
 /// "iwViewTilesApplyTo_Display".

@@ -2,8 +2,8 @@
 
 #include "targets/zoom.h"
 
-#include "targets/arrays.h"
-#include "targets/wording.h"
+#include "statements/arrays.h"
+#include "statements/wording.h"
 
 using namespace inkmacro;
 

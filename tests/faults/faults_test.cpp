@@ -1,7 +1,7 @@
 // A conversion in which one call of the system fails: afterwards the old files stand or the new ones, each whole, and
 // nothing else; and a failure is told.
 
-#include "targets/TargetTable.h"
+#include "statements/TargetTable.h"
 
 #include <gtest/gtest.h>
 

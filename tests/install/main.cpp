@@ -1,6 +1,6 @@
 // Converts a recording of nothing to the C# macro file named by the argument.
 
-#include "frame/CFxConverterIWAPIModule.h"
+#include "module/CFxConverterIWAPIModule.h"
 
 #include <cstdio>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/CFxConverterIWAPI.h"
 #include "host/db/OdDbClassMap.h"
+#include "module/CFxConverterIWAPI.h"
 
 #include <QFile>
 #include <QTemporaryDir>

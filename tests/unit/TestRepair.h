@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/kernel/CFxServices.h"
-#include "targets/Marks.h"
+#include "statements/Marks.h"
 
 #include <QString>
 

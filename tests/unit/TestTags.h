@@ -3,7 +3,7 @@
 #include "TestTarget.h"
 
 #include "host/kernel/CFxVariant.h"
-#include "targets/Target.h"
+#include "statements/Target.h"
 
 #include <utility>
 #include <vector>

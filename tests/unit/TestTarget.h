@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/CFxConverterIWAPIImpl.h"
 #include "host/kernel/CFxServices.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 
 #include <gtest/gtest.h>
@@ -15,16 +15,10 @@ inline constexpr inkmacro::Target allTargets[] = {
 /// target's language.
 struct TestTarget
 {
-    class Driver final : public CFxConverterIWAPIImpl
-    {
-    public:
-        explicit Driver(inkmacro::Target target) : CFxConverterIWAPIImpl(target, 1) {}
-        QString EmitFileHeader(const QString&, bool) override { return {}; }
-        QString EmitFileFooter() override { return {}; }
-    };
+    using Driver = CFxConverterIWAPIImpl;
 
     explicit TestTarget(inkmacro::Target target, unsigned level = 0)
-        : before_(GetFxSystemServices()->GetInt16("RecordingLanguage")), driver(target)
+        : before_(GetFxSystemServices()->GetInt16("RecordingLanguage")), driver(target, 1)
     {
         GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(target));
         writer.IndentLevel = level;

@@ -6,8 +6,8 @@
 #include "TestRecords.h"
 #include "TestTarget.h"
 
-#include "frame/counters.h"
 #include "objects/blockContents.h"
+#include "statements/counters.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 
 #include "TestActions.h"
 
-#include "frame/RecordingState.h"
 #include "host/kernel/CFxServices.h"
+#include "statements/RecordingState.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "targets/Fill.h"
+#include "statements/Fill.h"
 
 #include "host/rx/OdError.h"
-#include "targets/Phrase.h"
+#include "statements/Phrase.h"
 
 #include <QLocale>
 

@@ -2,10 +2,10 @@
 
 #include "TestActions.h"
 
-#include "frame/RecordingState.h"
 #include "host/kernel/CFxRegistry.h"
 #include "host/kernel/CFxServices.h"
-#include "targets/TargetTable.h"
+#include "statements/RecordingState.h"
+#include "statements/TargetTable.h"
 #include "targets/cpp/CFxConverterIWAPICPP.h"
 #include "targets/installation.h"
 #include "targets/javascript/CFxConverterIWAPIJavaScript.h"

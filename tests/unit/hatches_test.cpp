@@ -5,9 +5,9 @@
 #include "TestDrawing.h"
 #include "TestTarget.h"
 
-#include "frame/counters.h"
 #include "objects/targets/points.h"
 #include "objects/targets/viewBackgrounds.h"
+#include "statements/counters.h"
 
 #include <limits>
 

@@ -1,6 +1,6 @@
 // Locals that are declared where their language does not allow it.
 
-#include "targets/Locals.h"
+#include "statements/Locals.h"
 
 #include <QStringList>
 

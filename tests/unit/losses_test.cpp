@@ -1,10 +1,10 @@
 // What a conversion notes of a recording that its macro does not do, and where nothing is to be noted.
 
-#include "frame/CFxConverterIWAPI.h"
 #include "host/kernel/CFxServices.h"
+#include "module/CFxConverterIWAPI.h"
 #include "recordfile/OpenDrawing.h"
 #include "recordfile/RecordingReader.h"
-#include "targets/Target.h"
+#include "statements/Target.h"
 
 #include "TestRepair.h"
 

@@ -5,12 +5,12 @@
 #include "TestRepair.h"
 #include "TestTarget.h"
 #include "objects/targets/dimensionOptions.h"
-#include "targets/Fault.h"
-#include "targets/Marks.h"
-#include "targets/Phrase.h"
-#include "targets/bstrTexts.h"
-#include "targets/quoting.h"
-#include "targets/wording.h"
+#include "statements/Fault.h"
+#include "statements/Marks.h"
+#include "statements/Phrase.h"
+#include "statements/bstrTexts.h"
+#include "statements/quoting.h"
+#include "statements/wording.h"
 
 #include <QStringList>
 

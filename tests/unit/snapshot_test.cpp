@@ -2,10 +2,10 @@
 
 #include "TestDrawing.h"
 
-#include "frame/RecordingState.h"
 #include "host/kernel/CFxUtils.h"
 #include "objects/snapshot.h"
-#include "targets/enumerations.h"
+#include "statements/RecordingState.h"
+#include "statements/enumerations.h"
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,12 +1,12 @@
 // Words that stand in statements: enumerators, type names, prompts, names of projects.
 
-#include "frame/CFxConverterIWAPIModule.h"
 #include "host/db/OdDbClassMap.h"
+#include "module/CFxConverterIWAPIModule.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
-#include "targets/Phrase.h"
-#include "targets/enumerations.h"
-#include "targets/wording.h"
+#include "statements/Phrase.h"
+#include "statements/enumerations.h"
+#include "statements/wording.h"
 
 #include <gtest/gtest.h>
 
@@ -116,9 +116,10 @@ TEST(Classes, AreKnownInAllTheirTables)
         EXPECT_NE(oddbFindClassRow(row.name), nullptr) << row.name;
         EXPECT_EQ(FindClass(oddbClassByName(row.name)), &row) << row.name;
         EXPECT_EQ(IsSupportedClass(oddbClassByName(row.name)), !row.has(kOnlyNamed)) << row.name;
-        EXPECT_EQ(row.interfaceName == nullptr, row.enumerator == nullptr) << row.name;
     }
     EXPECT_EQ(names.size(), 53U);
+    for (const InterfaceType& type : InterfaceTypes())
+        EXPECT_TRUE(names.contains(type.cls)) << type.cls;
     EXPECT_FALSE(IsSupportedClass(oddbClassByName("acdbline")));
 
     EXPECT_TRUE(oddbDwgClassMapDesc(22)->isDerivedFrom(OdDbEntity::desc()));

@@ -1,7 +1,7 @@
 // Long macros, whose text a second thread writes.
 
 #include "TestTarget.h"
-#include "targets/WriteBehind.h"
+#include "statements/WriteBehind.h"
 
 #include <QBuffer>
 #include <QTextStream>

@@ -2,13 +2,13 @@
 
 #include "objects/targets/blocks.h"
 
-#include "frame/RecordingState.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/blockContents.h"
 #include "objects/targets/blockAttributes.h"
 #include "objects/targets/customData.h"
+#include "statements/RecordingState.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include "objects/targets/dimensionsOnCurves.h"
 #include "objects/targets/points.h"
 #include "objects/targets/setters.h"
-#include "targets/wording.h"
+#include "statements/wording.h"
 
 #include <optional>
 

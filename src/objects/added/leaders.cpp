@@ -7,8 +7,8 @@
 #include "objects/targets/references.h"
 #include "objects/targets/setters.h"
 #include "objects/targets/texts.h"
-#include "targets/enumerations.h"
-#include "targets/wording.h"
+#include "statements/enumerations.h"
+#include "statements/wording.h"
 
 using inkmacro::escapeWithBackslashes;
 

@@ -6,7 +6,7 @@
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/lineStyleFiles.h"
-#include "targets/wording.h"
+#include "statements/wording.h"
 
 #include <functional>
 

@@ -1,13 +1,13 @@
 // Added text styles, attribute definitions, notes and curved texts.
 
 #include "objects/targets/texts.h"
-#include "frame/StatementGroup.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/targets/points.h"
 #include "objects/targets/setters.h"
-#include "targets/wording.h"
+#include "statements/StatementGroup.h"
+#include "statements/wording.h"
 
 #include <array>
 

@@ -1,11 +1,11 @@
 // Added viewports. One with straight edges is made by a custom action.
 
-#include "frame/RecordingState.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/targets/clipViewports.h"
+#include "statements/RecordingState.h"
 
 QString ReadViewport(AddedObject& added)
 {

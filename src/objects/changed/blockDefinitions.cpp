@@ -1,7 +1,7 @@
 // Changed block definitions, which are made anew of their objects.
 
-#include "frame/CFxConverterIWAPIImpl.h"
 #include "host/db/OdDbClasses.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/blockContents.h"
 

@@ -2,7 +2,7 @@
 
 #include "objects/hatches.h"
 
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/hatchPatterns.h"
 

@@ -1,6 +1,6 @@
 // Changed pictures and block references.
 
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/changeKinds.h"
 #include "objects/changed/changeLists.h"

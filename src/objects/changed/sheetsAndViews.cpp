@@ -1,6 +1,6 @@
 // Changed sheets and view tiles. Of a changed named view only its removal is converted.
 
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/changeKinds.h"
 #include "objects/changed/changeLists.h"

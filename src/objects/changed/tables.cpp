@@ -1,12 +1,12 @@
 // Changed tables and table styles.
 
 #include "objects/targets/tables.h"
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/CFxConverterIWAPIObject.h"
 #include "objects/changeKinds.h"
 #include "objects/changed/changeLists.h"
 #include "objects/targets/tableCells.h"
-#include "targets/wording.h"
+#include "statements/wording.h"
 
 #include <algorithm>
 

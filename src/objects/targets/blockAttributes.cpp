@@ -2,7 +2,7 @@
 
 #include "objects/targets/blockAttributes.h"
 
-#include "targets/bstrTexts.h"
+#include "statements/bstrTexts.h"
 
 using namespace inkmacro;
 

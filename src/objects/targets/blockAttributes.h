@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 /// Sets a property of the block reference's attribute of that tag.
 QString EmitBlockAttributeValue(Writer& writer, const CFxString& variable, const CFxString& property,

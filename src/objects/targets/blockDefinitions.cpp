@@ -4,8 +4,8 @@
 
 #include "objects/targets/blocks.h"
 #include "objects/targets/references.h"
-#include "targets/LineEnd.h"
-#include "targets/arrays.h"
+#include "statements/LineEnd.h"
+#include "statements/arrays.h"
 #include "targets/objectTypes.h"
 
 using namespace inkmacro;

@@ -2,7 +2,7 @@
 
 #include "objects/targets/blocks.h"
 
-#include "targets/wording.h"
+#include "statements/wording.h"
 
 using namespace inkmacro;
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdGe.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 /// The name that stands for a block which has none of its own.
 inline constexpr QLatin1String anonymousBlockName("*U", 2);

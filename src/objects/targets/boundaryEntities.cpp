@@ -2,8 +2,6 @@
 
 #include "objects/targets/boundaryEntities.h"
 
-#include "frame/counters.h"
-#include "frame/losses.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/targets/blocks.h"
 #include "objects/targets/curves.h"
@@ -12,8 +10,10 @@
 #include "objects/targets/polylines.h"
 #include "objects/targets/regions.h"
 #include "objects/targets/tables.h"
+#include "statements/counters.h"
+#include "statements/losses.h"
+#include "statements/wording.h"
 #include "targets/hatches.h"
-#include "targets/wording.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,13 +2,13 @@
 
 #include "objects/targets/clipViewports.h"
 
-#include "frame/counters.h"
 #include "host/db/OdDbClasses.h"
 #include "objects/targets/curves.h"
 #include "objects/targets/references.h"
-#include "targets/LineEnd.h"
-#include "targets/arrays.h"
-#include "targets/wording.h"
+#include "statements/LineEnd.h"
+#include "statements/arrays.h"
+#include "statements/counters.h"
+#include "statements/wording.h"
 
 #include <cmath>
 #include <numbers>

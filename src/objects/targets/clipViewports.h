@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdDbObject.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 /// Whether an entity without a variable can be drawn once more; null cannot.
 bool CanMakeClip(const OdDbObject* entity);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdGe.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 QString EmitInsertLine(Writer& writer, const OdGePoint3d& start, const OdGePoint3d& end, const CFxString& name);
 QString EmitInsertCircle(Writer& writer, const OdGePoint3d& center, double radius, const CFxString& name);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdResBuf.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 /// The application whose data make a block a revision cloud.
 inline constexpr char cloudApplication[] = "PE_CLOUD";

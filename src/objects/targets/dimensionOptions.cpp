@@ -2,9 +2,9 @@
 
 #include "objects/targets/dimensionOptions.h"
 
-#include "targets/bstrTexts.h"
-#include "targets/enumerations.h"
-#include "targets/wording.h"
+#include "statements/bstrTexts.h"
+#include "statements/enumerations.h"
+#include "statements/wording.h"
 
 using namespace inkmacro;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 /// An object that holds a part of what is set on a dimension, a leader, a dimension style or a curved text. A statement
 /// fetches it from its owner into a variable of its own.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/arrays.h"
+#include "statements/arrays.h"
 
 #include <span>
 

@@ -3,9 +3,9 @@
 #include "objects/targets/dimensions.h"
 
 #include "objects/targets/dimensionPoints.h"
-#include "targets/LineEnd.h"
-#include "targets/digits.h"
-#include "targets/wording.h"
+#include "statements/LineEnd.h"
+#include "statements/digits.h"
+#include "statements/wording.h"
 
 #include <optional>
 #include <vector>

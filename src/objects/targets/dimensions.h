@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdGe.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 // Dimensions between points and between lines. `text` stands in place of the measured value, its backslashes doubled.
 

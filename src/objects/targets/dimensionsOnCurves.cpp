@@ -4,7 +4,7 @@
 
 #include "host/db/OdDbClasses.h"
 #include "objects/targets/dimensionPoints.h"
-#include "targets/LineEnd.h"
+#include "statements/LineEnd.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdDbObject.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 // Dimensions that the interface puts on a curve. `text` stands in place of the measured value, its backslashes doubled.
 

@@ -2,8 +2,8 @@
 
 #include "objects/targets/hatchInsertions.h"
 
-#include "targets/LineEnd.h"
-#include "targets/arrays.h"
+#include "statements/LineEnd.h"
+#include "statements/arrays.h"
 
 using namespace inkmacro;
 

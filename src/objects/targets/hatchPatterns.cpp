@@ -2,10 +2,10 @@
 
 #include "objects/targets/hatchPatterns.h"
 
-#include "objects/targets/colors.h"
-#include "targets/bstrTexts.h"
-#include "targets/enumerations.h"
-#include "targets/wording.h"
+#include "statements/bstrTexts.h"
+#include "statements/enumerations.h"
+#include "statements/wording.h"
+#include "targets/colors.h"
 
 #include <array>
 

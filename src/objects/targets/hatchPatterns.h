@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdCmColor.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 #include <optional>
 

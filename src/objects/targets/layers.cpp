@@ -2,7 +2,7 @@
 
 #include "objects/targets/layers.h"
 
-#include "frame/RecordingState.h"
+#include "statements/RecordingState.h"
 
 using namespace inkmacro;
 

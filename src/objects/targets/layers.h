@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 QString EmitCreateLayer(Writer& writer, const CFxString& layer, const CFxString& name);
 /// What the statements of a layer work on: a page's variable of a new layer is a result that has the layer.

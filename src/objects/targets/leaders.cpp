@@ -2,7 +2,7 @@
 
 #include "objects/targets/leaders.h"
 
-#include "targets/arrays.h"
+#include "statements/arrays.h"
 
 using namespace inkmacro;
 

@@ -3,8 +3,8 @@
 #include "objects/targets/meshes.h"
 
 #include "host/db/OdDbClasses.h"
-#include "targets/arrays.h"
-#include "targets/wording.h"
+#include "statements/arrays.h"
+#include "statements/wording.h"
 
 using namespace inkmacro;
 

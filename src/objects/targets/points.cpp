@@ -3,7 +3,7 @@
 
 #include "objects/targets/points.h"
 
-#include "targets/LineEnd.h"
+#include "statements/LineEnd.h"
 
 using namespace inkmacro;
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdGe.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 QString EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxString& method, const OdGePoint3d& point);
 /// `getter` and `setter` are the host's operations. `axis` is "X", "Y" or "Z"; `index` is -1 for a property that

@@ -2,9 +2,9 @@
 
 #include "objects/targets/polylines.h"
 
-#include "targets/arrays.h"
-#include "targets/enumerations.h"
-#include "targets/wording.h"
+#include "statements/arrays.h"
+#include "statements/enumerations.h"
+#include "statements/wording.h"
 
 using namespace inkmacro;
 

@@ -2,7 +2,7 @@
 
 #include "host/db/OdGe.h"
 #include "host/rx/OdArray.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 /// `justification` is the drawing's number: 0 top, 1 zero, 2 bottom; any other gives top.
 QString EmitInsertRichLine(Writer& writer, const OdArray<OdGePoint3d>& vertices, int justification, double scale,

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdDbHandle.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 /// Fetches an object that the recording did not make. `type` is its interface.
 QString EmitGetObjectByHandle(Writer& writer, const CFxString& type, const CFxString& name, const OdDbHandle& handle);

@@ -2,7 +2,7 @@
 
 #include "objects/targets/regions.h"
 
-#include "targets/arrays.h"
+#include "statements/arrays.h"
 
 using namespace inkmacro;
 

@@ -2,11 +2,11 @@
 
 #include "objects/targets/setters.h"
 
-#include "frame/counters.h"
 #include "host/db/OdDbClasses.h"
-#include "targets/bstrTexts.h"
-#include "targets/enumerations.h"
-#include "targets/wording.h"
+#include "statements/bstrTexts.h"
+#include "statements/counters.h"
+#include "statements/enumerations.h"
+#include "statements/wording.h"
 
 using namespace inkmacro;
 

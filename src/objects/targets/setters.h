@@ -2,8 +2,8 @@
 
 #include "host/db/OdCmColor.h"
 #include "host/db/OdDbObjectId.h"
-#include "targets/Writer.h"
-#include "targets/enumerations.h"
+#include "statements/Writer.h"
+#include "statements/enumerations.h"
 
 QString EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const CFxString& value,
                         bool quoted);

@@ -1,7 +1,7 @@
 // Properties of the model and of sheets.
 
 #include "objects/targets/sheetProperties.h"
-#include "targets/bstrTexts.h"
+#include "statements/bstrTexts.h"
 #include "targets/sheets.h"
 
 using namespace inkmacro;

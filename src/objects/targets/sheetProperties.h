@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 /// Of the model, or else of the sheet of that name, which is activated.
 QString EmitSetModelProperty(Writer& writer, const CFxString& property, const CFxString& value, bool ofModel,

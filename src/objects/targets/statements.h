@@ -1,5 +1,5 @@
 #pragma once
 
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 QString EmitObjectModifiedComment(Writer& writer, const CFxString& className);

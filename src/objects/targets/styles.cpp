@@ -2,7 +2,7 @@
 
 #include "objects/targets/styles.h"
 
-#include "targets/bstrTexts.h"
+#include "statements/bstrTexts.h"
 #include "targets/customActions.h"
 
 using namespace inkmacro;

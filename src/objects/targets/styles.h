@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 QString EmitCreateTableStyle(Writer& writer, const CFxString& styleName, const CFxString& name);
 QString EmitCreateDimensionStyle(Writer& writer, const CFxString& styleName, const CFxString& name);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 // Rows and columns are counted from 0, heights and widths are drawing units.
 

@@ -2,10 +2,10 @@
 
 #include "objects/targets/tableStyles.h"
 
-#include "frame/RecordingState.h"
-#include "objects/targets/colors.h"
-#include "targets/LineEnd.h"
-#include "targets/enumerations.h"
+#include "statements/LineEnd.h"
+#include "statements/RecordingState.h"
+#include "statements/enumerations.h"
+#include "targets/colors.h"
 
 using namespace inkmacro;
 

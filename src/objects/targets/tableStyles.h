@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdCmColor.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 // What the cells of one type look like. `cellType` is the drawing's number. C++ has none of these statements, and a
 // page has no text styles.

@@ -3,10 +3,10 @@
 #include "objects/targets/tables.h"
 
 #include "host/db/OdDbClasses.h"
-#include "objects/targets/colors.h"
-#include "targets/LineEnd.h"
-#include "targets/enumerations.h"
-#include "targets/wording.h"
+#include "statements/LineEnd.h"
+#include "statements/enumerations.h"
+#include "statements/wording.h"
+#include "targets/colors.h"
 
 using namespace inkmacro;
 

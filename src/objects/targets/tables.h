@@ -2,7 +2,7 @@
 
 #include "host/db/OdCmColor.h"
 #include "host/db/OdGe.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 #include <array>
 

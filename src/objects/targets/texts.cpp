@@ -2,11 +2,11 @@
 
 #include "objects/targets/texts.h"
 
-#include "frame/RecordingState.h"
 #include "objects/targets/setters.h"
-#include "targets/bstrTexts.h"
-#include "targets/enumerations.h"
-#include "targets/wording.h"
+#include "statements/RecordingState.h"
+#include "statements/bstrTexts.h"
+#include "statements/enumerations.h"
+#include "statements/wording.h"
 
 using namespace inkmacro;
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/db/OdGe.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 /// What the insertion of an attribute definition takes.
 struct AttributeDefinition

@@ -2,8 +2,8 @@
 
 #include "objects/targets/viewBackgrounds.h"
 
-#include "frame/counters.h"
-#include "targets/wording.h"
+#include "statements/counters.h"
+#include "statements/wording.h"
 
 using namespace inkmacro;
 

@@ -3,8 +3,8 @@
 #include "objects/targets/viewportOverrides.h"
 
 #include "host/db/OdDbClasses.h"
-#include "targets/enumerations.h"
-#include "targets/wording.h"
+#include "statements/enumerations.h"
+#include "statements/wording.h"
 
 using namespace inkmacro;
 

@@ -2,7 +2,7 @@
 
 #include "host/db/OdCmColor.h"
 #include "host/db/OdDbObjectId.h"
-#include "targets/Writer.h"
+#include "statements/Writer.h"
 
 // What a layer looks like in the active viewport. `operation` is the host's.
 

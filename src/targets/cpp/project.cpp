@@ -1,9 +1,9 @@
 // The add-in around a C++ macro.
 
-#include "targets/LineEnd.h"
+#include "statements/LineEnd.h"
+#include "statements/wording.h"
 #include "targets/cpp/CFxConverterIWAPICPP.h"
 #include "targets/projectFiles.h"
-#include "targets/wording.h"
 
 using namespace inkmacro;
 
@@ -150,7 +150,7 @@ static QString exports(const QString& projectName)
     return fillProject(words).text(LineEnd).text(projectName);
 }
 
-QString CFxConverterIWAPICPP::EmitProgramText(const QString& name)
+QString CFxConverterIWAPICPP::EmitProgramText(const QString& name) const
 {
     return named(exportHeader, name);
 }

@@ -1,6 +1,6 @@
 // The project file of the add-in around a C++ macro.
 
-#include "targets/LineEnd.h"
+#include "statements/LineEnd.h"
 #include "targets/cpp/CFxConverterIWAPICPP.h"
 #include "targets/installation.h"
 #include "targets/projectFiles.h"
@@ -230,7 +230,7 @@ QByteArray projectWords()
 
 } // namespace
 
-QString CFxConverterIWAPICPP::EmitProjectText(const QString& projectName)
+QString CFxConverterIWAPICPP::EmitProjectText(const QString& projectName) const
 {
     static const Template words(projectWords().constData());
     return fillProject(words)

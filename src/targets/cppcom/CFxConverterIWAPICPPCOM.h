@@ -1,21 +1,19 @@
 #pragma once
 
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "targets/MacroFrame.h"
 
 /// C++ through COM: the source of an in-process ATL server whose command repeats the recording, and its project.
-class CFxConverterIWAPICPPCOM final : public CFxConverterIWAPIImpl
+class CFxConverterIWAPICPPCOM final : public MacroFrame
 {
 public:
-    explicit CFxConverterIWAPICPPCOM(std::uint32_t mode);
+    explicit CFxConverterIWAPICPPCOM(Writer& writer);
 
     QString EmitFileHeader(const QString& className, bool hasSysVar) override;
     QString EmitFileFooter() override;
-    QString EmitProjectText(const QString& projectName) override;
     std::int32_t EmitProjectFiles(const QString& path) override;
 
 private:
-    // Process-wide; each converter makes both anew, so that the files of one project agree and two projects never do.
-    // With braces.
-    static QString ConnectionClassUuid;
-    static QString TypeLibraryUuid;
+    // Made anew for each conversion, so that the files of one project agree and two projects never do. With braces.
+    const QString ConnectionClassUuid;
+    const QString TypeLibraryUuid;
 };

@@ -1,7 +1,7 @@
 // The object of the COM add-in that the host connects to, and the command that runs the macro.
 
-#include "targets/Fill.h"
-#include "targets/LineEnd.h"
+#include "statements/Fill.h"
+#include "statements/LineEnd.h"
 #include "targets/cppcom/projectTexts.h"
 #include "targets/projectFiles.h"
 

@@ -1,8 +1,8 @@
 // The macro file of the COM add-in around the statements.
 
-#include "frame/RecordingState.h"
+#include "statements/LineEnd.h"
+#include "statements/RecordingState.h"
 #include "targets/FileHead.h"
-#include "targets/LineEnd.h"
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
 #include "targets/cppcom/projectTexts.h"
 

@@ -2,18 +2,15 @@
 
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
 
-#include "frame/RecordingState.h"
+#include "statements/RecordingState.h"
+#include "statements/quoting.h"
+#include "statements/wording.h"
 #include "targets/cppcom/projectTexts.h"
 #include "targets/projectFiles.h"
-#include "targets/quoting.h"
-#include "targets/wording.h"
 
 #include <QUuid>
 
 using namespace inkmacro;
-
-QString CFxConverterIWAPICPPCOM::ConnectionClassUuid;
-QString CFxConverterIWAPICPPCOM::TypeLibraryUuid;
 
 static QString withoutBraces(const QString& uuid)
 {
@@ -32,15 +29,11 @@ QByteArray cppcom::withIdentifier(QByteArray words, std::initializer_list<const 
     return words;
 }
 
-CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(std::uint32_t mode) : CFxConverterIWAPIImpl(Target::CppCom, mode)
+CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(Writer& writer)
+    : MacroFrame(writer),
+      ConnectionClassUuid(QUuid::createUuid().toString()),
+      TypeLibraryUuid(QUuid::createUuid().toString())
 {
-    ConnectionClassUuid = QUuid::createUuid().toString();
-    TypeLibraryUuid = QUuid::createUuid().toString();
-}
-
-QString CFxConverterIWAPICPPCOM::EmitProjectText(const QString& projectName)
-{
-    return cppcom::environmentProject(projectName, QUuid::createUuid().toString());
 }
 
 std::int32_t CFxConverterIWAPICPPCOM::EmitProjectFiles(const QString& path)
@@ -64,7 +57,7 @@ std::int32_t CFxConverterIWAPICPPCOM::EmitProjectFiles(const QString& path)
                   {"IwAddinConnection.rgs", connectionRegistration(name, ConnectionClassUuid, TypeLibraryUuid), false},
                   {name + ".rgs", serverRegistration(name), false},
                   {name + ".rc", resourceScript(name), false},
-                  {name + ".vcproj", EmitProjectText(name), false},
+                  {name + ".vcproj", environmentProject(name, QUuid::createUuid().toString()), false},
                   {"typeconverter.h", typeConverterHeader(), true},
               });
 }

@@ -1,7 +1,7 @@
 // What the server of the COM add-in offers, and how it is registered.
 
-#include "targets/Fill.h"
-#include "targets/LineEnd.h"
+#include "statements/Fill.h"
+#include "statements/LineEnd.h"
 #include "targets/cppcom/projectTexts.h"
 #include "targets/projectFiles.h"
 

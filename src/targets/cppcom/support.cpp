@@ -1,7 +1,7 @@
 // What all sources of the COM add-in share: the precompiled header, arrays and conversions.
 
-#include "targets/Fill.h"
-#include "targets/LineEnd.h"
+#include "statements/Fill.h"
+#include "statements/LineEnd.h"
 #include "targets/cppcom/projectTexts.h"
 #include "targets/installation.h"
 #include "targets/projectFiles.h"

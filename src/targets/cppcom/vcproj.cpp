@@ -1,7 +1,7 @@
 // The project of the development environment for the COM add-in.
 
-#include "targets/Fill.h"
-#include "targets/LineEnd.h"
+#include "statements/Fill.h"
+#include "statements/LineEnd.h"
 #include "targets/cppcom/projectTexts.h"
 #include "targets/projectFiles.h"
 

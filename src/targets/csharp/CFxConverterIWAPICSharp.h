@@ -1,16 +1,18 @@
 #pragma once
 
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "targets/MacroFrame.h"
 
 /// C#: a class with a `Run`, a start-up program that finds the running application, and a project file.
-class CFxConverterIWAPICSharp final : public CFxConverterIWAPIImpl
+class CFxConverterIWAPICSharp final : public MacroFrame
 {
 public:
-    explicit CFxConverterIWAPICSharp(std::uint32_t mode) : CFxConverterIWAPIImpl(inkmacro::Target::CSharp, mode) {}
+    using MacroFrame::MacroFrame;
 
     QString EmitFileHeader(const QString& className, bool hasSysVar) override;
     QString EmitFileFooter() override;
-    QString EmitProgramText(const QString& projectName) override;
-    QString EmitProjectText(const QString& projectName) override;
     std::int32_t EmitProjectFiles(const QString& path) override;
+
+private:
+    QString EmitProgramText(const QString& projectName) const;
+    QString EmitProjectText(const QString& projectName) const;
 };

@@ -1,10 +1,10 @@
 // The start-up program and the project file around a C# macro.
 
-#include "targets/LineEnd.h"
+#include "statements/LineEnd.h"
+#include "statements/wording.h"
 #include "targets/comReference.h"
 #include "targets/csharp/CFxConverterIWAPICSharp.h"
 #include "targets/projectFiles.h"
-#include "targets/wording.h"
 
 using namespace inkmacro;
 
@@ -76,13 +76,13 @@ static const char* const projectClosing = R"(  <Import Project="$(MSBuildBinPath
 </Project>
 )";
 
-QString CFxConverterIWAPICSharp::EmitProgramText(const QString& projectName)
+QString CFxConverterIWAPICSharp::EmitProgramText(const QString& projectName) const
 {
     static const Template words(program);
     return fillProject(words).text(identifier(projectName)).text(LineEnd);
 }
 
-QString CFxConverterIWAPICSharp::EmitProjectText(const QString& projectName)
+QString CFxConverterIWAPICSharp::EmitProjectText(const QString& projectName) const
 {
     QByteArray project = QByteArray(projectOpening) + comReference + projectClosing;
     if (writer.repairs)

@@ -1,14 +1,12 @@
 #pragma once
 
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "targets/MacroFrame.h"
 
 /// JavaScript: one page that loads the host's script library and runs the macro at the press of a button.
-class CFxConverterIWAPIJavaScript final : public CFxConverterIWAPIImpl
+class CFxConverterIWAPIJavaScript final : public MacroFrame
 {
 public:
-    explicit CFxConverterIWAPIJavaScript(std::uint32_t mode) : CFxConverterIWAPIImpl(inkmacro::Target::JavaScript, mode)
-    {
-    }
+    using MacroFrame::MacroFrame;
 
     QString EmitFileHeader(const QString& className, bool hasSysVar) override;
     QString EmitFileFooter() override;

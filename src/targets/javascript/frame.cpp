@@ -1,7 +1,7 @@
 // The page around the statements.
 
-#include "frame/RecordingState.h"
-#include "targets/LineEnd.h"
+#include "statements/LineEnd.h"
+#include "statements/RecordingState.h"
 #include "targets/javascript/CFxConverterIWAPIJavaScript.h"
 
 using namespace inkmacro;

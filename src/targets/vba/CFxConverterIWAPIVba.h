@@ -1,12 +1,12 @@
 #pragma once
 
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "targets/MacroFrame.h"
 
 /// VBA: one subroutine to paste into an editor. The macro's name plays no part in it.
-class CFxConverterIWAPIVba final : public CFxConverterIWAPIImpl
+class CFxConverterIWAPIVba final : public MacroFrame
 {
 public:
-    explicit CFxConverterIWAPIVba(std::uint32_t mode) : CFxConverterIWAPIImpl(inkmacro::Target::Vba, mode) {}
+    using MacroFrame::MacroFrame;
 
     QString EmitFileHeader(const QString& className, bool hasSysVar) override;
     QString EmitFileFooter() override;

@@ -1,16 +1,18 @@
 #pragma once
 
-#include "frame/CFxConverterIWAPIImpl.h"
+#include "targets/MacroFrame.h"
 
 /// VB.NET: a class with a `Run`, a start-up module that finds the running application, and a project file.
-class CFxConverterIWAPIVbNet final : public CFxConverterIWAPIImpl
+class CFxConverterIWAPIVbNet final : public MacroFrame
 {
 public:
-    explicit CFxConverterIWAPIVbNet(std::uint32_t mode) : CFxConverterIWAPIImpl(inkmacro::Target::VbNet, mode) {}
+    using MacroFrame::MacroFrame;
 
     QString EmitFileHeader(const QString& className, bool hasSysVar) override;
     QString EmitFileFooter() override;
-    QString EmitProgramText(const QString& projectName) override;
-    QString EmitProjectText(const QString& projectName) override;
     std::int32_t EmitProjectFiles(const QString& path) override;
+
+private:
+    QString EmitProgramText(const QString& projectName) const;
+    QString EmitProjectText(const QString& projectName) const;
 };

@@ -1,8 +1,8 @@
 // The VB.NET macro file around the statements.
 
-#include "frame/RecordingState.h"
+#include "statements/LineEnd.h"
+#include "statements/RecordingState.h"
 #include "targets/FileHead.h"
-#include "targets/LineEnd.h"
 #include "targets/vbnet/CFxConverterIWAPIVbNet.h"
 
 using namespace inkmacro;

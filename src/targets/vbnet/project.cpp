@@ -1,10 +1,10 @@
 // The start-up module and the project file around a VB.NET macro.
 
-#include "targets/LineEnd.h"
+#include "statements/LineEnd.h"
+#include "statements/wording.h"
 #include "targets/comReference.h"
 #include "targets/projectFiles.h"
 #include "targets/vbnet/CFxConverterIWAPIVbNet.h"
-#include "targets/wording.h"
 
 using namespace inkmacro;
 
@@ -98,13 +98,13 @@ static const char* const projectClosing = R"(  <ItemGroup>
 </Project>
 )";
 
-QString CFxConverterIWAPIVbNet::EmitProgramText(const QString& projectName)
+QString CFxConverterIWAPIVbNet::EmitProgramText(const QString& projectName) const
 {
     static const Template words(program);
     return fillProject(words).text(identifier(projectName)).text(LineEnd);
 }
 
-QString CFxConverterIWAPIVbNet::EmitProjectText(const QString& projectName)
+QString CFxConverterIWAPIVbNet::EmitProjectText(const QString& projectName) const
 {
     QByteArray project = QByteArray(projectOpening) + comReference + projectClosing;
     if (writer.repairs)

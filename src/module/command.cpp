@@ -1,0 +1,281 @@
+// The children of a command as one block.
+
+#include "host/db/OdDbClasses.h"
+#include "module/CFxConverterIWAPIImpl.h"
+#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/classTable.h"
+#include "statements/Marks.h"
+#include "statements/StatementGroup.h"
+#include "statements/actionKinds.h"
+#include "statements/losses.h"
+#include "targets/variables.h"
+
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <deque>
+#include <map>
+
+using inkmacro::Fault;
+using inkmacro::Mark;
+using inkmacro::Target;
+
+namespace {
+
+const Fault kUndeclared{"ConvertCommand",
+                        {Target::Cpp, Target::CppCom, Target::CSharp, Target::VbNet, Target::Vba},
+                        "a command that loads a shape file or stands without a block has no declarations"};
+
+/// Whether a custom action of the same command finishes objects of that class; it is told their variable.
+bool isFinishedByCustomAction(const OdRxClass* cls)
+{
+    const ClassRow* const row = FindClass(cls);
+    return row && row->has(kFinishedByCustomAction);
+}
+
+/// A style that loads a file of shapes. The host's own file of line type shapes does not count.
+bool isShapeFileStyle(const CFxObjectAdded& added)
+{
+    if (added.GetObjectClass() != OdDbTextStyleTableRecord::desc() || !ACTIVE_DOCUMENT)
+        return false;
+    const OdDbObjectId id = ACTIVE_DOCUMENT->GetDatabase()->getOdDbObjectId(added.GetHandle());
+    const auto style = odrxCast<OdDbTextStyleTableRecord>(id.openObject().get());
+    return style && style->isShapeFile() && !IsHostShapeFile(style->fileName());
+}
+
+/// The text of a statement that waits for the end of its command. Nearly all are plain letters but for the marks in
+/// them, and take half the room so that QString gives them: a command may have millions of statements.
+class HeldStatement
+{
+public:
+    explicit HeldStatement(const QString& text) : text_(text), latin1_(text.toLatin1())
+    {
+        if (text_ != latin1())
+            takeMarks();
+        if (text_ == latin1())
+            text_.clear();
+        else
+            latin1_.clear();
+    }
+
+    QString text() const
+    {
+        QString text = latin1_.isNull() ? text_ : QString(latin1());
+        std::for_each(marks_.rbegin(), marks_.rend(),
+                      [&text](const auto& mark) { text.insert(mark.first, mark.second); });
+        return text;
+    }
+
+private:
+    void takeMarks()
+    {
+        for (auto found = Mark::find(text_, 0); found; found = Mark::find(text_, found->at)) {
+            const int at = static_cast<int>(found->at);
+            marks_.emplace_back(at, text_.mid(at, Mark::length));
+            text_.remove(at, Mark::length);
+        }
+        latin1_ = text_.toLatin1();
+    }
+    /// Made of the array alone it would end in front of the first null character.
+    QLatin1String latin1() const { return QLatin1String(latin1_.constData(), latin1_.size()); }
+
+    QString text_;
+    QByteArray latin1_;
+    std::vector<std::pair<int, QString>> marks_; ///< each where it stood before those behind it were there
+};
+
+} // namespace
+
+struct CFxConverterIWAPIImpl::CommandState
+{
+    std::vector<ActionEntry> added;
+    std::vector<OdDbHandle> handles; ///< one an added object
+    std::vector<QString> declarations;
+    /// Variables of the objects that a custom action of this command finishes.
+    std::vector<QString> names;
+    std::map<unsigned, std::size_t> made; ///< in a repaired macro, by child: which added object the action makes
+    std::size_t nextName = 0;
+    std::deque<HeldStatement> statements;
+    bool unnamedTarget = false;
+    bool shapeStyle = false;
+    bool allEmpty = true;
+};
+
+std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CFxString&,
+                                                   const CFxActionArray& children)
+{
+    CommandState state;
+    RegisterChildren(children, state);
+    DeclareChildren(state);
+    if (writer.repairs)
+        PairWithActions(children, state);
+    StatementGroup group(writer);
+    const ActionKinds kinds(children);
+    const QScopedValueRollback<const ActionKinds*> beside(siblings, &kinds);
+
+    // Where locals are seen behind their command, numbers that begin anew make some of them twice.
+    const std::uint32_t outerCounter = writer.UniqueCounter;
+    if (!writer.repairs)
+        writer.UniqueCounter = 0;
+    ConvertChildren(children, state, group);
+
+    const bool grouped = !group.abandoned() && !state.unnamedTarget;
+    const bool written = grouped && !state.allEmpty && (writer.repairs || !state.shapeStyle);
+    const QString declarations = Declarations(state);
+    if (written || (writer.repairs && !state.allEmpty))
+        writer.writeDeclarations(stream, declarations);
+    else if (!declarations.isEmpty() && !state.statements.empty())
+        state.statements.front() = HeldStatement(writer.faulty(state.statements.front().text(), kUndeclared));
+    if (written)
+        writer.write(stream, group.begin());
+    for (; !state.statements.empty(); state.statements.pop_front())
+        writer.write(stream, state.statements.front().text());
+    // An unnamed target leaves the level where the group's begin put it: what follows stands one level deeper.
+    const QString end = grouped ? group.close() : QString();
+    if (written)
+        writer.write(stream, end);
+    if (!writer.repairs)
+        writer.UniqueCounter = outerCounter;
+    const bool hides = written && writer.target != Target::JavaScript && writer.target != Target::Vba;
+    if (hides)
+        outOfReach.merge(fetchedLayers);
+    fetchedLayers.clear();
+    return kFxSuccess;
+}
+
+/// All added children are registered before the first statement is made, so a child may refer to a later one.
+void CFxConverterIWAPIImpl::RegisterChildren(const CFxActionArray& children, CommandState& state)
+{
+    for (const OdRxObjectPtr& child : children) {
+        const auto added = odrxQuery<CFxObjectAdded>(child.get());
+        if (!added)
+            continue;
+        OdRxClass* const cls = added->GetObjectClass();
+        Objects();
+        if (!cls || !IsSupportedClass(cls))
+            continue;
+        if (cls == OdDbMText::desc()) {
+            OdDbObjectId leader;
+            GetNoteLeader(leader, added->GetHandle());
+            if (!leader.isNull())
+                continue;
+        }
+        state.added.push_back(RegisterObject(added->GetHandle(), cls));
+        state.handles.push_back(added->GetHandle());
+        if (isFinishedByCustomAction(cls))
+            lastFinished = added->GetHandle();
+    }
+}
+
+void CFxConverterIWAPIImpl::DeclareChildren(CommandState& state)
+{
+    for (const ActionEntry& entry : state.added) {
+        state.declarations.push_back(EmitVariableDeclaration(writer, entry));
+        if (!isFinishedByCustomAction(entry.cls))
+            continue;
+        const CFxString name = DeclaredName(entry);
+        if (!name.isEmpty())
+            state.names.push_back(name);
+    }
+}
+
+/// Each action that makes an entity gets one of its own, from behind.
+void CFxConverterIWAPIImpl::PairWithActions(const CFxActionArray& children, CommandState& state)
+{
+    std::map<const OdRxClass*, unsigned> next;
+    for (std::size_t i = state.added.size(); i-- > 0;) {
+        const OdRxClass* const cls = state.added[i].cls;
+        if (!isFinishedByCustomAction(cls))
+            continue;
+        for (unsigned& at = next.try_emplace(cls, children.length()).first->second; at > 0;) {
+            const auto custom = odrxQuery<CFxCustomAction>(children[--at].get());
+            if (custom && CFxConverterIWAPIObject::IsEntityOfAction(cls, custom->GetKind())) {
+                state.made.emplace(at, i);
+                finished.insert(state.handles[i]);
+                break;
+            }
+        }
+    }
+}
+
+/// In a repaired macro without those of objects that turned out to have no statement that inserts them.
+QString CFxConverterIWAPIImpl::Declarations(const CommandState& state) const
+{
+    QString text;
+    for (std::size_t i = 0; i < state.declarations.size(); ++i)
+        if (!writer.repairs || unmade.count(state.handles[i]) == 0)
+            text += state.declarations[i];
+    return text;
+}
+
+void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group)
+{
+    for (unsigned i = 0; i < children.length(); ++i)
+        if (!ConvertChild(children[i], i, state, group))
+            return LoseBehind(children, i);
+}
+
+/// The last one, whatever it is; in a repaired macro an action that makes an entity gets that one, or none.
+QString CFxConverterIWAPIImpl::HandOver(std::int32_t kind, unsigned number, const CommandState& state)
+{
+    if (const auto made = state.made.find(number); made != state.made.end()) {
+        lastFinished = state.handles[made->second];
+        return DeclaredName(state.added[made->second]);
+    }
+    if (state.names.empty() || (writer.repairs && CFxConverterIWAPIObject::IsEntityOfAction(nullptr, kind)))
+        return {};
+    return state.names.back();
+}
+
+bool CFxConverterIWAPIImpl::ConvertChild(const OdRxObjectPtr& child, unsigned number, CommandState& state,
+                                         StatementGroup& group)
+{
+    const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), number);
+    QString current;
+    if (const auto custom = odrxQuery<CFxCustomAction>(child.get())) {
+        const std::int32_t kind = custom->GetKind();
+        current = HandOver(kind, number, state);
+        if (kind == inkmacro::kViewBackground) {
+            // Backgrounds and objects pair up in order; a surplus background stays with the last object.
+            if (state.names.size() > 1 && state.nextName < state.names.size())
+                current = state.names[state.nextName++];
+            state.unnamedTarget = current.isEmpty();
+        }
+        if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport)
+            group.abandon();
+    }
+    if (ConvertOrLose(child, current) != kFxSuccess)
+        return false;
+    if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
+        state.shapeStyle = true;
+    if (!current.isEmpty()) {
+        state.allEmpty = false;
+        state.statements.emplace_back(current);
+    }
+    return true;
+}
+
+/// Notes the children that a failed one takes along, as far as they would have had statements.
+void CFxConverterIWAPIImpl::LoseBehind(const CFxActionArray& children, unsigned failed)
+{
+    const CFxString reason(QString("action %1 of its command could not be converted").arg(failed + 1));
+    for (unsigned i = failed; i < children.length(); ++i) {
+        const OdRxObject* const child = children[i].get();
+        const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
+        if (i > failed && !IsPassedOver(child))
+            NoteLoss(ActionTitle(child), reason);
+        if (const auto added = odrxQuery<CFxObjectAdded>(child))
+            unmade.insert(added->GetHandle());
+    }
+}
+
+bool CFxConverterIWAPIImpl::IsPassedOver(const OdRxObject* action) const
+{
+    if (const auto variable = odrxQuery<CFxSysVarChanged>(action))
+        return !IsWanted(*variable);
+    if (odrxQuery<CFxUserInteraction>(action) || odrxQuery<CFxUserSelection>(action))
+        return mode != 1;
+    // A leader brings its note.
+    const auto added = odrxQuery<CFxObjectAdded>(action);
+    return added && added->GetObjectClass() == OdDbMText::desc() && !FindEntry(added->GetHandle());
+}

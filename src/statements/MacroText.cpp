@@ -1,0 +1,101 @@
+#include "statements/MacroText.h"
+
+#include <QTextStream>
+
+#include <algorithm>
+#include <utility>
+
+namespace inkmacro {
+
+namespace {
+
+void writeSliced(QTextStream& stream, QStringView text)
+{
+    forSlices(text, 64 * 1024, [&stream](QStringView slice) { stream << slice; });
+}
+
+constexpr int kLineHead = 1024;
+
+/// Calls for each line that is whole, with what had begun before.
+template<class Use>
+void forLines(QString& begun, QStringView text, const Use& use)
+{
+    for (auto end = text.indexOf(QChar('\n')); end != -1; end = text.indexOf(QChar('\n'))) {
+        if (begun.isEmpty()) {
+            use(text.left(end));
+        } else {
+            use(QStringView(begun += text.left(end)));
+            begun.clear();
+        }
+        text = text.mid(end + 1);
+    }
+    begun += text;
+}
+
+/// Arrays without elements have an index below zero, which VBA does not take; without a size it does.
+bool sizesNothing(QStringView line, Target target)
+{
+    return target == Target::Vba && line.trimmed().startsWith(u"Dim ") &&
+           (line.contains(u"(-1)") || line.contains(u"( -1 )"));
+}
+
+const Fault kDeclaredTwice{"ConvertCommand",
+                           {Target::Cpp, Target::CppCom, Target::CSharp, Target::VbNet, Target::Vba},
+                           "a local variable is declared where one of its name is seen already"};
+
+const Fault kEmptyArray{"ConvertCommand", {Target::Vba}, "an array without elements is declared with a size of -1"};
+
+} // namespace
+
+MacroText::MacroText(Target target, bool repairs) : target_(target), repairs_(repairs), locals_(target)
+{
+}
+
+void MacroText::write(QTextStream& stream, Kind kind, QStringView text)
+{
+    if (repairs_)
+        return writeLines(stream, text);
+    if (kind == Kind::Declarations)
+        line_ += static_cast<std::size_t>(std::count(text.begin(), text.end(), QChar('\n')));
+    else if (notesFaults_)
+        followLines(text);
+    writeSliced(stream, text);
+}
+
+void MacroText::followLines(QStringView text)
+{
+    forLines(begun_, text, [this](QStringView line) {
+        if (locals_.declaresTwice(line))
+            noteFault(kDeclaredTwice);
+        if (sizesNothing(line, target_))
+            noteFault(kEmptyArray);
+        ++line_;
+    });
+    // A declaration stands at the beginning of its line, which may be long in all.
+    begun_.truncate(kLineHead);
+}
+
+void MacroText::writeLines(QTextStream& stream, QStringView text)
+{
+    forLines(begun_, text, [&](QStringView line) {
+        QString text = locals_.toldApart(line.toString());
+        if (sizesNothing(text, target_))
+            text.remove(QLatin1String("-1")).replace(QLatin1String("(  )"), QLatin1String("()"));
+        writeSliced(stream, text);
+        stream << '\n';
+        ++line_;
+    });
+}
+
+void MacroText::finish(QTextStream& stream)
+{
+    if (repairs_)
+        writeSliced(stream, std::exchange(begun_, QString()));
+}
+
+std::vector<MacroText::FoundFault> MacroText::takeFaults()
+{
+    return std::exchange(faults_, {});
+}
+
+} // namespace inkmacro

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "statements/Fault.h"
+#include "statements/Locals.h"
+
+#include <QString>
+#include <QStringView>
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+class QTextStream;
+
+namespace inkmacro {
+
+/// Calls for one slice of the text after the other, of at most so many letters; no pair of surrogates is cut. Who makes
+/// copies does so of a slice at a time.
+template<class Use>
+void forSlices(QStringView text, qsizetype most, Use use)
+{
+    while (!text.isEmpty()) {
+        qsizetype length = std::min(most, text.size());
+        if (length < text.size() && text[length].isLowSurrogate())
+            --length;
+        use(text.left(length));
+        text = text.mid(length);
+    }
+}
+
+/// The text of a macro on its way into the stream, line by line: gives the faults in it their lines, and tells locals
+/// apart that a repaired macro would declare twice. Belongs to one thread at a time.
+class MacroText
+{
+public:
+    enum class Kind
+    {
+        Statements,
+        Declarations ///< whole lines with locals that no other line declares
+    };
+
+    struct FoundFault
+    {
+        const Fault* fault;
+        std::size_t line; ///< from 1
+    };
+
+    MacroText(Target target, bool repairs);
+
+    /// From here on lines are looked at for faults.
+    void noteFaults() { notesFaults_ = true; }
+    void write(QTextStream& stream, Kind kind, QStringView text);
+    /// The line that is written next has it.
+    void noteFault(const Fault& fault) { faults_.push_back({&fault, line_}); }
+    /// Writes what the last line has without an end.
+    void finish(QTextStream& stream);
+    /// The faults since the last call.
+    std::vector<FoundFault> takeFaults();
+
+private:
+    void followLines(QStringView text);
+    void writeLines(QTextStream& stream, QStringView text);
+
+    const Target target_;
+    const bool repairs_;
+    bool notesFaults_ = false;
+    std::size_t line_ = 1; ///< that is written next
+    QString begun_;        ///< what is there of that line
+    Locals locals_;
+    std::vector<FoundFault> faults_;
+};
+
+} // namespace inkmacro

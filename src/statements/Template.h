@@ -1,0 +1,66 @@
+#pragma once
+
+#include "statements/Target.h"
+
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+#include <vector>
+
+namespace inkmacro {
+
+/// A Latin-1 literal, cut into plain text and markers. Markers are those of QString::arg: `%`, an optional `L` for the
+/// locale's form of a number, one or two digits.
+class Template
+{
+public:
+    /// Of a language in which a statement stands; without one, no text is known to stand between quotes.
+    explicit Template(const char* latin1, std::optional<Target> language = {});
+
+    std::optional<Target> language() const { return language_; }
+
+private:
+    friend class Fill;
+
+    /// A run of text_: plain text or a marker.
+    struct Piece
+    {
+        int from;
+        int length;
+        int rank;            ///< of the marker, noMarker for plain text
+        bool quoted = false; ///< a marker between quotes of the language
+    };
+
+    /// One marker number. The numbers are ranked upwards from 0; values go to the ranks in turn.
+    struct Rank
+    {
+        int places = 0;
+        /// Some place follows an open end: text or a later marker to which digits could be added. A value which starts
+        /// with a digit would make another marker there.
+        bool exposed = false;
+    };
+
+    static constexpr int noMarker = -1;
+
+    std::optional<Target> language_;
+    QString text_;
+    std::vector<Piece> pieces_;
+    std::vector<Rank> ranks_;
+    bool local_ = false;  ///< some marker has an L
+    bool quotes_ = false; ///< some marker stands between quotes
+};
+
+/// A marker in a text.
+struct Marker
+{
+    int begin;
+    int end; ///< -1: there is none
+    int number;
+    bool local; ///< has an L
+};
+
+/// The first marker at or behind `from`. Digits are what Qt takes for digits, so also the superscripts of Latin-1.
+Marker nextMarker(QStringView text, int from);
+
+} // namespace inkmacro

@@ -1,0 +1,48 @@
+// Statement groups and comments.
+
+#include "statements/blocks.h"
+
+using namespace inkmacro;
+
+static const Phrase blockBegin{"EmitBlockBegin",
+                               {
+                                   .cpp = "%1{%2",
+                                   .cppCom = "%1{%2",
+                                   .csharp = "%1{%2",
+                                   .vbNet = "%1If 1 Then%2",
+                                   .vba = "%1If 1 Then%2",
+                               }};
+
+QString EmitBlockBegin(Writer& writer)
+{
+    QString text = blockBeginAt(writer, writer.IndentLevel);
+    enterBlock(writer);
+    return text;
+}
+
+QString blockBeginAt(const Writer& writer, std::uint32_t level)
+{
+    return writer.fillPlain(blockBegin).indent(level).lineEnd();
+}
+
+void enterBlock(Writer& writer)
+{
+    if (blockBegin.has(writer.target))
+        ++writer.IndentLevel;
+}
+
+static const Phrase blockEnd{"EmitBlockEnd",
+                             {
+                                 .cpp = "%1}%2",
+                                 .cppCom = "%1}%2",
+                                 .csharp = "%1}%2",
+                                 .vbNet = "%1End If%2%2",
+                                 .vba = "%1End If%2%2",
+                             }};
+
+QString EmitBlockEnd(Writer& writer)
+{
+    if (blockEnd.has(writer.target))
+        --writer.IndentLevel;
+    return writer.fill(blockEnd);
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "statements/Target.h"
+
+#include <QString>
+#include <QStringView>
+
+namespace inkmacro {
+
+/// Appends a text as it has to stand within the double quotes of a statement, so that the program reads just that text
+/// and nothing behind it. In Basic, which has no escapes, the quotes are closed and opened again around a character
+/// that cannot stand between them.
+void appendQuoted(QString& out, QStringView text, Target target);
+
+/// Whether a text that stands between quotes as it is would end them or be read as another text. Backslashes may have
+/// been doubled and line feeds replaced before.
+bool breaksQuotes(QStringView text, Target target);
+
+/// A name of letters, digits and underscores that no target takes for a keyword, a type or a file of its own.
+QString legalName(const QString& name);
+
+} // namespace inkmacro

@@ -1,0 +1,46 @@
+// The frames of the targets, and what they have in common.
+
+#include "targets/MacroFrame.h"
+
+#include "host/kernel/CFxStatus.h"
+#include "statements/TargetTable.h"
+#include "statements/quoting.h"
+#include "targets/cpp/CFxConverterIWAPICPP.h"
+#include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
+#include "targets/csharp/CFxConverterIWAPICSharp.h"
+#include "targets/javascript/CFxConverterIWAPIJavaScript.h"
+#include "targets/vba/CFxConverterIWAPIVba.h"
+#include "targets/vbnet/CFxConverterIWAPIVbNet.h"
+
+using namespace inkmacro;
+
+static const Fault kIllegalName{"EmitFileHeader",
+                                {Target::CSharp, Target::VbNet, Target::CppCom},
+                                "the file's name stands in code, where it is no identifier"};
+
+std::int32_t MacroFrame::EmitProjectFiles(const QString&)
+{
+    return kFxSuccess;
+}
+
+QString MacroFrame::identifier(const QString& name) const
+{
+    return writer.repairs ? legalName(name) : name;
+}
+
+QString MacroFrame::faultyName(const QString& name, const QString& text) const
+{
+    return legalName(name) == name ? text : writer.faulty(text, kIllegalName);
+}
+
+std::unique_ptr<MacroFrame> CreateMacroFrame(Writer& writer)
+{
+    switch (writer.target) {
+#define INKMACRO_CREATE(id, suffix, name, extension, projectFiles)                                                     \
+    case Target::id:                                                                                                   \
+        return std::make_unique<CFxConverterIWAPI##suffix>(writer);
+        INKMACRO_TARGETS(INKMACRO_CREATE)
+#undef INKMACRO_CREATE
+    }
+    return nullptr;
+}

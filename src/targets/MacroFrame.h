@@ -1,0 +1,34 @@
+#pragma once
+
+#include "statements/Writer.h"
+
+#include <memory>
+
+/// What varies by language in more than words: the head and the foot of the macro file, and the project around it. One
+/// for each conversion.
+class MacroFrame
+{
+public:
+    explicit MacroFrame(Writer& writer) : writer(writer) {}
+    virtual ~MacroFrame() = default;
+    MacroFrame(const MacroFrame&) = delete;
+    MacroFrame& operator=(const MacroFrame&) = delete;
+
+    /// `hasSysVar`: a system variable changed at the recording's top level.
+    virtual QString EmitFileHeader(const QString& className, bool hasSysVar) = 0;
+    virtual QString EmitFileFooter() = 0;
+    /// Writes the project around the macro file of that path; gives kFxSuccess or kFxFailure. Unless the target says
+    /// otherwise, the macro file is the whole result.
+    virtual std::int32_t EmitProjectFiles(const QString& path);
+
+protected:
+    /// The name that stands in code for that of the macro's file: itself, in a repaired macro one that is legal.
+    QString identifier(const QString& name) const;
+    /// The text with a note when the name in it is no identifier.
+    QString faultyName(const QString& name, const QString& text) const;
+
+    Writer& writer;
+};
+
+/// That of the writer's target, which must outlive it.
+std::unique_ptr<MacroFrame> CreateMacroFrame(Writer& writer);
