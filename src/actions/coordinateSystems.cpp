@@ -81,7 +81,7 @@ const ActionForm coordinateSystemForms[21] = {
          const OdGePoint3d& base = action.GetData(0).GetPoint();
          return EmitAlignCoordinateSystemZAxis(writer, base, base + action.GetData(1).GetVector());
      }},
-    {DataSignature::exactly({kHandle, kClass, kPoint}), &CFxConverterIWAPIImpl::ConvertActionCoordinateSystemOfEntity},
+    {DataSignature::exactly({kHandle, kClass, kPoint}), &ConvertActionCoordinateSystemOfEntity},
     {wordAndPoints("3POINT"), threePoints},
     {wordAndPoints("X"), threePoints},
     {wordAndPoints("Y"), threePoints},
@@ -91,20 +91,19 @@ const ActionForm coordinateSystemForms[21] = {
 
 } // namespace inkmacro
 
-std::int32_t CFxConverterIWAPIImpl::ConvertActionCoordinateSystemOfEntity(OdSmartPtr<CFxCustomAction> action,
-                                                                          QString& text)
+std::int32_t ConvertActionCoordinateSystemOfEntity(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    inkmacro::takeVariable(writer, text, inkmacro::HandedVariable::Replaced);
-    const OdDbHandle handle = action->GetData(0).GetHandle();
-    const OdRxClass* const cls = action->GetData(1).GetClass();
+    inkmacro::takeVariable(conversion.writer, text, inkmacro::HandedVariable::Replaced);
+    const OdDbHandle handle = action.GetData(0).GetHandle();
+    const OdRxClass* const cls = action.GetData(1).GetClass();
     CFxString entity;
-    ResolveVariable(handle, cls, entity);
+    conversion.names().ResolveVariable(handle, cls, entity);
     if (entity.isEmpty()) {
-        NoteFault(inkmacro::emptyPlace);
-        entity = FetchedUnknown(handle, cls);
+        conversion.faults.note(inkmacro::emptyPlace);
+        entity = conversion.names().FetchedUnknown(handle, cls);
     }
-    if (entity.isEmpty() && writer.repairs)
+    if (entity.isEmpty() && conversion.writer.repairs)
         return PassOver(action, "the macro does not have the entity");
-    text = EmitAlignCoordinateSystemToEntity(writer, entity, action->GetData(2).GetPoint());
+    text = EmitAlignCoordinateSystemToEntity(conversion.writer, entity, action.GetData(2).GetPoint());
     return kFxSuccess;
 }

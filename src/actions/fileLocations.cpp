@@ -2,8 +2,7 @@
 
 #include "targets/fileLocations.h"
 #include "actions/handedVariable.h"
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
+#include "actions/handlers.h"
 #include "objects/targets/setters.h"
 #include "statements/LineEnd.h"
 #include "statements/RecordingState.h"
@@ -98,46 +97,46 @@ CFxString quotable(CFxString path)
 
 } // namespace
 
-std::int32_t CFxConverterIWAPIImpl::ConvertFileLocation(const FileObject& files, const CFxCustomAction& action,
-                                                        QString& text)
+static std::int32_t ConvertFileLocation(Conversion& conversion, const FileObject& files, const CFxCustomAction& action,
+                                        QString& text)
 {
-    takeVariable(writer, text, HandedVariable::Replaced);
+    takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const CFxString property = propertyOf(files, action.GetData(0).GetString());
     const CFxCustomActionData& value = action.GetData(1);
 
-    if (property.isEmpty() && writer.repairs) {
+    if (property.isEmpty() && conversion.writer.repairs) {
         NoteLoss(ActionTitle(&action), "the host has no such location");
         return kFxSuccess;
     }
-    StatementGroup group(writer);
+    StatementGroup group(conversion.writer);
     text = group.begin();
     CFxString variable;
-    text += files.emitObject(writer, variable);
+    text += files.emitObject(conversion.writer, variable);
     if (value.GetType() == CFxCustomActionData::kString)
-        text += EmitSetProperty(writer, variable, property, quotable(value.GetString()), true);
+        text += EmitSetProperty(conversion.writer, variable, property, quotable(value.GetString()), true);
     else if (value.GetType() == CFxCustomActionData::kStringArray)
-        text += EmitFileLocationArray(writer, variable, property, value.GetStringArray());
+        text += EmitFileLocationArray(conversion.writer, variable, property, value.GetStringArray());
     else
         NoteLoss(ActionTitle(&action), "its value is neither a text nor a list of texts");
     text += group.close() + LineEnd;
     const bool hasStatement =
         value.GetType() == CFxCustomActionData::kString || value.GetType() == CFxCustomActionData::kStringArray;
     if (property.isEmpty() && hasStatement)
-        text = writer.faulty(text, kUnknownLocation);
+        text = conversion.writer.faulty(text, kUnknownLocation);
     return kFxSuccess;
 }
 
-std::int32_t CFxConverterIWAPIImpl::ConvertActionInterfaceFile(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionInterfaceFile(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    return ConvertFileLocation(interfaceFiles, *action, text);
+    return ConvertFileLocation(conversion, interfaceFiles, action, text);
 }
 
-std::int32_t CFxConverterIWAPIImpl::ConvertActionSystemFile(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionSystemFile(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    return ConvertFileLocation(systemFiles, *action, text);
+    return ConvertFileLocation(conversion, systemFiles, action, text);
 }
 
-std::int32_t CFxConverterIWAPIImpl::ConvertActionDrawingSupportFile(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionDrawingSupportFile(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    return ConvertFileLocation(drawingSupportFiles, *action, text);
+    return ConvertFileLocation(conversion, drawingSupportFiles, action, text);
 }

@@ -2,12 +2,11 @@
 
 #include "targets/groups.h"
 #include "actions/handedVariable.h"
+#include "actions/handlers.h"
 #include "host/db/OdDbClasses.h"
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
 #include "statements/losses.h"
 
-const ActionEntry* CFxConverterIWAPIImpl::FindGroup(const CFxString& groupName, OdDbHandle& handle) const
+static const ActionEntry* FindGroup(Conversion& conversion, const CFxString& groupName, OdDbHandle& handle)
 {
     if (!ACTIVE_DOCUMENT)
         return nullptr;
@@ -17,35 +16,36 @@ const ActionEntry* CFxConverterIWAPIImpl::FindGroup(const CFxString& groupName, 
         return nullptr;
     const OdDbObjectId id = groups->getAt(groupName);
     handle = id.getHandle();
-    return id.isNull() ? nullptr : FindEntry(handle);
+    return id.isNull() ? nullptr : conversion.names().FindEntry(handle);
 }
 
-void CFxConverterIWAPIImpl::ConvertGroupChange(const CFxCustomAction& action, EmitGroupChange change, QString& text)
+using EmitGroupChange = QString (*)(Writer&, const std::vector<CFxString>&, const CFxString&);
+
+static void ConvertGroupChange(Conversion& conversion, const CFxCustomAction& action, EmitGroupChange change,
+                               QString& text)
 {
-    inkmacro::takeVariable(writer, text, inkmacro::HandedVariable::AppendedTo);
-    std::vector<CFxString> names;
-    ResolveVariables(names, action.GetData(0), action.GetData(1));
-    if (writer.repairs)
-        std::erase_if(names, [](const CFxString& name) { return name.isEmpty(); });
+    inkmacro::takeVariable(conversion.writer, text, inkmacro::HandedVariable::AppendedTo);
+    std::vector<CFxString> names = conversion.names().ResolveVariables(action.GetData(0), action.GetData(1));
+    conversion.names().DropUnnamed(names);
     OdDbHandle handle;
-    const ActionEntry* const group = FindGroup(action.GetData(2).GetString(), handle);
+    const ActionEntry* const group = FindGroup(conversion, action.GetData(2).GetString(), handle);
     if (!group) {
         NoteLoss(ActionTitle(&action), "the macro does not have the group");
         return;
     }
     CFxString name;
-    text += Objects().EmitObjectVariable(handle, group->cls, name);
-    text += change(writer, names, name);
+    text += conversion.names().EmitObjectVariable(handle, group->cls, name);
+    text += change(conversion.writer, names, name);
 }
 
-std::int32_t CFxConverterIWAPIImpl::ConvertActionGroupAdd(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionGroupAdd(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    ConvertGroupChange(*action, &EmitGroupAddEntities, text);
+    ConvertGroupChange(conversion, action, &EmitGroupAddEntities, text);
     return kFxSuccess;
 }
 
-std::int32_t CFxConverterIWAPIImpl::ConvertActionGroupRemove(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionGroupRemove(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    ConvertGroupChange(*action, &EmitGroupRemoveEntities, text);
+    ConvertGroupChange(conversion, action, &EmitGroupRemoveEntities, text);
     return kFxSuccess;
 }

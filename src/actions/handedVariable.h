@@ -1,6 +1,6 @@
 #pragma once
 
-#include "statements/Writer.h"
+#include "conversion/Conversion.h"
 
 namespace inkmacro {
 
@@ -31,3 +31,7 @@ inline CFxString takeVariable(const Writer& writer, QString& text, HandedVariabl
 }
 
 } // namespace inkmacro
+
+/// Registers and names the object that the data 3 and 4 of an action tell, unless a name was handed over. False, and no
+/// name, for an object whose class is not converted.
+bool NameInsertedObject(Conversion& conversion, const CFxCustomAction& action, CFxString& name);

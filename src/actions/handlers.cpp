@@ -2,6 +2,7 @@
 
 #include "actions/handlers.h"
 
+#include "actions/entries.h"
 #include "actions/handedVariable.h"
 #include "statements/losses.h"
 
@@ -36,29 +37,27 @@ const ActionForm* FormOf(const CFxCustomAction& action)
 
 } // namespace inkmacro
 
-/// The one place where an action is refused for its number or the form of its data.
-std::int32_t CFxConverterIWAPIImpl::ConvertCustomAction(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertCustomAction(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    const inkmacro::ActionForm* const form = inkmacro::FormOf(*action);
+    const inkmacro::ActionForm* const form = inkmacro::FormOf(action);
     if (!form) {
-        NoteLoss(ActionTitle(action.get()), "no statement is known for this kind of action or form of its data");
+        NoteLoss(ActionTitle(&action), "no statement is known for this kind of action or form of its data");
         return kFxFailure;
     }
     const LossWatch losses;
-    fetched.clear();
-    fetches.clear();
+    conversion.names().ForgetFetched();
     std::int32_t status = kFxSuccess;
     if (form->handler) {
-        status = (this->*form->handler)(action, text);
+        status = form->handler(conversion, action, text);
     } else {
-        inkmacro::takeVariable(writer, text, inkmacro::HandedVariable::Replaced);
-        text = form->statements(writer, *action);
+        inkmacro::takeVariable(conversion.writer, text, inkmacro::HandedVariable::Replaced);
+        text = form->statements(conversion.writer, action);
     }
     if (!text.isEmpty())
-        text.prepend(fetches);
+        text.prepend(conversion.names().TakeFetches());
     // A view that stays as it is needs none.
-    const bool wants = action->GetKind() != inkmacro::kNamedView;
+    const bool wants = action.GetKind() != inkmacro::kNamedView;
     if (status == kFxSuccess && text.isEmpty() && wants && !losses.any())
-        NoteLoss(ActionTitle(action.get()), "no statement came of it");
+        NoteLoss(ActionTitle(&action), "no statement came of it");
     return status;
 }

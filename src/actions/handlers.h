@@ -1,6 +1,7 @@
 #pragma once
 
-#include "module/CFxConverterIWAPIImpl.h"
+#include "conversion/Conversion.h"
+#include "host/kernel/CFxStatus.h"
 #include "statements/actionKinds.h"
 
 #include <algorithm>
@@ -57,7 +58,10 @@ private:
     Qt::CaseSensitivity wordCase_ = Qt::CaseSensitive;
 };
 
-using ActionHandler = std::int32_t (CFxConverterIWAPIImpl::*)(OdSmartPtr<CFxCustomAction> action, QString& text);
+/// Converts one custom action of a form that its row of the table lets through; looks at neither the kind nor the form
+/// of the data once more. `text` is the variable of the object that the command made for the action, and becomes its
+/// statements. Gives kFxSuccess or kFxFailure.
+using ActionHandler = std::int32_t (*)(Conversion& conversion, const CFxCustomAction& action, QString& text);
 
 /// The statements of a form that needs nothing but its data. They take the place of the variable that is handed over.
 using ActionStatements = QString (*)(Writer& writer, const CFxCustomAction& action);
@@ -93,22 +97,64 @@ private:
     std::span<const ActionForm> forms_{};
 };
 
+} // namespace inkmacro
+
+std::int32_t ConvertActionMirror(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionStretch(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionCopy(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionMove(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionRotate(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionScale(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionTrim(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionExtend(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionFillet(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionChamfer(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionCornersOfPolyline(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionSelect(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionSelectionFilter(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionCoordinateSystemOfEntity(Conversion& conversion, const CFxCustomAction& action,
+                                                   QString& text);
+std::int32_t ConvertActionNamedView(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionEmbeddedObject(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionPolyline(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionInsertHatch(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionElementColor(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionOptionValue(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionInterfaceFile(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionSystemFile(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionDrawingSupportFile(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionGroupAdd(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionGroupRemove(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionAttributeValue(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionPolylineJoin(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionViewBackground(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionZoom(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionRegion(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionActivate(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionViewport(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionPrintStyle(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionClipBoundary(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionViewTiles(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionJoin(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionExplode(Conversion& conversion, const CFxCustomAction& action, QString& text);
+
+namespace inkmacro {
+
 inline constexpr ActionForm filletForms[] = {
-    {DataSignature::anyOf(3).withWord("FILLET", Qt::CaseInsensitive),
-     &CFxConverterIWAPIImpl::ConvertActionCornersOfPolyline},
-    {DataSignature::anyOf(6), &CFxConverterIWAPIImpl::ConvertActionFillet},
+    {DataSignature::anyOf(3).withWord("FILLET", Qt::CaseInsensitive), &ConvertActionCornersOfPolyline},
+    {DataSignature::anyOf(6), &ConvertActionFillet},
 };
 inline constexpr ActionForm chamferForms[] = {
-    {DataSignature::anyOf(3).withWord("CHAMFER", Qt::CaseInsensitive),
-     &CFxConverterIWAPIImpl::ConvertActionCornersOfPolyline},
-    {DataSignature::anyOf(6), &CFxConverterIWAPIImpl::ConvertActionChamfer},
+    {DataSignature::anyOf(3).withWord("CHAMFER", Qt::CaseInsensitive), &ConvertActionCornersOfPolyline},
+    {DataSignature::anyOf(6), &ConvertActionChamfer},
 };
 // A truth value takes the boundary away, whichever it is.
 inline constexpr ActionForm clipBoundaryForms[] = {
     {DataSignature::beginning({DataSignature::anyType, DataSignature::anyType, CFxCustomActionData::kBool}),
-     &CFxConverterIWAPIImpl::ConvertActionClipBoundary},
+     &ConvertActionClipBoundary},
     {DataSignature::beginning({DataSignature::anyType, DataSignature::anyType, CFxCustomActionData::k2dPointArray}),
-     &CFxConverterIWAPIImpl::ConvertActionClipBoundary},
+     &ConvertActionClipBoundary},
 };
 // Forms that are told apart by words or have statements of their own, in the files of their topics.
 extern const ActionForm coordinateSystemForms[21];
@@ -118,48 +164,47 @@ extern const ActionForm polylineVertexForms[2];
 
 inline constexpr auto actionHandlers = [] {
     using enum CFxCustomActionData::_Type;
-    using Impl = CFxConverterIWAPIImpl;
     return std::to_array<KindHandlers>({
-        {0, &Impl::ConvertActionMirror},
-        {1, &Impl::ConvertActionStretch},
-        {2, &Impl::ConvertActionCopy},
-        {3, &Impl::ConvertActionMove},
-        {4, &Impl::ConvertActionRotate},
-        {5, &Impl::ConvertActionScale},
-        {6, ActionForm{DataSignature::anyOf(9), &Impl::ConvertActionTrim}},
-        {7, ActionForm{DataSignature::anyOf(5), &Impl::ConvertActionExtend}},
+        {0, &ConvertActionMirror},
+        {1, &ConvertActionStretch},
+        {2, &ConvertActionCopy},
+        {3, &ConvertActionMove},
+        {4, &ConvertActionRotate},
+        {5, &ConvertActionScale},
+        {6, ActionForm{DataSignature::anyOf(9), &ConvertActionTrim}},
+        {7, ActionForm{DataSignature::anyOf(5), &ConvertActionExtend}},
         {8, filletForms},
         {9, chamferForms},
-        {10, &Impl::ConvertActionSelect},
-        {11, &Impl::ConvertActionSelectionFilter},
+        {10, &ConvertActionSelect},
+        {11, &ConvertActionSelectionFilter},
         {12, coordinateSystemForms},
         {kSheet, sheetForms},
-        {kNamedView, &Impl::ConvertActionNamedView},
-        {kEmbeddedObject, ActionForm{DataSignature::exactly({kInt, kString}), &Impl::ConvertActionEmbeddedObject}},
-        {kPolyline, &Impl::ConvertActionPolyline},
-        {17, &Impl::ConvertActionErase},
-        {kInsertHatch, &Impl::ConvertActionInsertHatch},
-        {{19, 23}, &Impl::ConvertActionElementColor},
-        {{26, 32}, &Impl::ConvertActionElementColor},
-        {33, &Impl::ConvertActionOptionValue},
-        {34, &Impl::ConvertActionInterfaceFile},
-        {35, &Impl::ConvertActionSystemFile},
-        {36, &Impl::ConvertActionDrawingSupportFile},
-        {37, &Impl::ConvertActionGroupAdd},
-        {38, &Impl::ConvertActionGroupRemove},
-        {39, &Impl::ConvertActionAttributeValue},
+        {kNamedView, &ConvertActionNamedView},
+        {kEmbeddedObject, ActionForm{DataSignature::exactly({kInt, kString}), &ConvertActionEmbeddedObject}},
+        {kPolyline, &ConvertActionPolyline},
+        {17, &ConvertActionErase},
+        {kInsertHatch, &ConvertActionInsertHatch},
+        {{19, 23}, &ConvertActionElementColor},
+        {{26, 32}, &ConvertActionElementColor},
+        {33, &ConvertActionOptionValue},
+        {34, &ConvertActionInterfaceFile},
+        {35, &ConvertActionSystemFile},
+        {36, &ConvertActionDrawingSupportFile},
+        {37, &ConvertActionGroupAdd},
+        {38, &ConvertActionGroupRemove},
+        {39, &ConvertActionAttributeValue},
         {40, polylineEditForms},
-        {kViewBackground, &Impl::ConvertActionViewBackground},
+        {kViewBackground, &ConvertActionViewBackground},
         {42, polylineVertexForms},
-        {43, &Impl::ConvertActionZoom},
-        {kRegion, &Impl::ConvertActionRegion},
-        {45, &Impl::ConvertActionActivate},
-        {kViewport, &Impl::ConvertActionViewport},
-        {47, ActionForm{DataSignature::beginning({kString, kBool, kString}), &Impl::ConvertActionPrintStyle}},
+        {43, &ConvertActionZoom},
+        {kRegion, &ConvertActionRegion},
+        {45, &ConvertActionActivate},
+        {kViewport, &ConvertActionViewport},
+        {47, ActionForm{DataSignature::beginning({kString, kBool, kString}), &ConvertActionPrintStyle}},
         {48, clipBoundaryForms},
-        {kViewTiles, &Impl::ConvertActionViewTiles},
-        {50, &Impl::ConvertActionJoin},
-        {55, &Impl::ConvertActionExplode},
+        {kViewTiles, &ConvertActionViewTiles},
+        {50, &ConvertActionJoin},
+        {55, &ConvertActionExplode},
     });
 }();
 // One row a row of actionKinds, in their order.

@@ -2,8 +2,8 @@
 
 #include "targets/hatches.h"
 #include "actions/handedVariable.h"
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
+#include "actions/handlers.h"
+#include "objects/hatches.h"
 #include "objects/targets/hatchInsertions.h"
 #include "statements/counters.h"
 #include "statements/losses.h"
@@ -48,35 +48,35 @@ HatchGradient gradientAt(const CFxCustomAction& action, std::int32_t first)
 } // namespace
 
 /// Of the ways to make a hatch the first one that is set is taken; the last needs no mark.
-std::int32_t CFxConverterIWAPIImpl::ConvertActionInsertHatch(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionInsertHatch(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    const CFxString handedOver = takeVariable(writer, text, HandedVariable::Replaced);
-    const CFxString hatch = VariableOfMade(handedOver, "AcDbHatch");
-    const HatchPattern pattern{action->GetData(0).GetString(), action->GetData(1).GetDouble(),
-                               action->GetData(2).GetDouble()};
-    const bool byInternalPoints = action->GetData(3).GetBool();
-    const bool byEntities = action->GetData(4).GetBool();
-    const bool byBulges = action->GetData(5).GetBool();
-    const bool hasGradient = action->GetData(6).GetBool();
+    const CFxString handedOver = takeVariable(conversion.writer, text, HandedVariable::Replaced);
+    const CFxString hatch = conversion.names().VariableOfMade(handedOver, "AcDbHatch");
+    const HatchPattern pattern{action.GetData(0).GetString(), action.GetData(1).GetDouble(),
+                               action.GetData(2).GetDouble()};
+    const bool byInternalPoints = action.GetData(3).GetBool();
+    const bool byEntities = action.GetData(4).GetBool();
+    const bool byBulges = action.GetData(5).GetBool();
+    const bool hasGradient = action.GetData(6).GetBool();
     std::int32_t gradient = 9;
     if (byInternalPoints) {
-        text = EmitInsertHatchByInternalPoints(writer, hatch, action->GetData(7).Get2dPointArray(), pattern);
+        text = EmitInsertHatchByInternalPoints(conversion.writer, hatch, action.GetData(7).Get2dPointArray(), pattern);
         gradient = 8;
     } else if (byEntities) {
-        text =
-            EmitInsertHatchByEntities(writer, hatch, Objects().BoundaryObjects(action->GetData(7).GetObjectIdArray()),
-                                      pattern, action->GetData(8).GetBool());
+        text = EmitInsertHatchByEntities(conversion.writer, hatch,
+                                         BoundaryObjects(conversion.names(), action.GetData(7).GetObjectIdArray()),
+                                         pattern, action.GetData(8).GetBool());
     } else if (byBulges) {
-        text = hatchByBulges(writer, hatch, pattern, *action);
+        text = hatchByBulges(conversion.writer, hatch, pattern, action);
         gradient = 10;
     } else {
-        text = hatchByBoundary(writer, hatch, pattern, *action);
+        text = hatchByBoundary(conversion.writer, hatch, pattern, action);
     }
     if (!text.isEmpty())
-        insertedHatches.insert(hatch);
+        conversion.insertedHatches.insert(hatch);
     else if (!handedOver.isEmpty())
-        unmade.insert(lastFinished);
-    if (hasGradient && (!text.isEmpty() || !writer.repairs))
-        text += EmitHatchGradient(writer, hatch, gradientAt(*action, gradient));
+        conversion.names().SetUnmade(conversion.lastFinished);
+    if (hasGradient && (!text.isEmpty() || !conversion.writer.repairs))
+        text += EmitHatchGradient(conversion.writer, hatch, gradientAt(action, gradient));
     return kFxSuccess;
 }

@@ -2,9 +2,9 @@
 
 #include "targets/namedViews.h"
 #include "actions/handedVariable.h"
+#include "actions/handlers.h"
 #include "host/db/OdDbClasses.h"
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/classTable.h"
 #include "objects/targets/viewBackgrounds.h"
 #include "statements/StatementGroup.h"
 #include "statements/losses.h"
@@ -76,60 +76,60 @@ QString background(Writer& writer, const CFxCustomAction& action, const CFxStrin
 
 } // namespace
 
-std::int32_t CFxConverterIWAPIImpl::ConvertActionNamedView(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionNamedView(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    CFxString variable = takeVariable(writer, text, HandedVariable::Replaced);
-    const OdDbHandle& handle = action->GetData(0).GetHandle();
-    if (!FindEntry(handle))
+    CFxString variable = takeVariable(conversion.writer, text, HandedVariable::Replaced);
+    const OdDbHandle& handle = action.GetData(0).GetHandle();
+    if (!conversion.names().FindEntry(handle))
         return PassOver(action, "the macro does not have the view");
     if (variable.isEmpty())
-        text += Objects().EmitObjectVariable(handle, action->GetData(1).GetClass(), variable);
-    const bool mayRename = action->GetData(2).GetBool();
-    const bool onSheet = action->GetData(3).GetBool();
-    const CFxString& oldName = action->GetData(4).GetString();
-    const CFxString& name = action->GetData(5).GetString();
-    const OdGePoint3d& first = action->GetData(7).GetPoint();
-    const OdGePoint3d& opposite = action->GetData(8).GetPoint();
+        text += conversion.names().EmitObjectVariable(handle, action.GetData(1).GetClass(), variable);
+    const bool mayRename = action.GetData(2).GetBool();
+    const bool onSheet = action.GetData(3).GetBool();
+    const CFxString& oldName = action.GetData(4).GetString();
+    const CFxString& name = action.GetData(5).GetString();
+    const OdGePoint3d& first = action.GetData(7).GetPoint();
+    const OdGePoint3d& opposite = action.GetData(8).GetPoint();
 
     if (mayRename && isViewName(oldName))
-        text += EmitRenameNamedView(writer, {onSheet ? oldName : variable, onSheet}, name);
+        text += EmitRenameNamedView(conversion.writer, {onSheet ? oldName : variable, onSheet}, name);
     const NamedViewReference view{onSheet ? name : variable, onSheet};
     if (!name.equalNoCase(QCoreApplication::translate("CFxDlgView", "Current")))
-        text += EmitSetNamedViewClass(writer, view, action->GetData(6).GetString());
+        text += EmitSetNamedViewClass(conversion.writer, view, action.GetData(6).GetString());
     if (!isOrigin(first) || !isOrigin(opposite))
-        text += EmitSetViewWindow(writer, view, first, opposite);
+        text += EmitSetViewWindow(conversion.writer, view, first, opposite);
     return kFxSuccess;
 }
 
 /// A view that its command has made comes with its variable, declared and in the command's group. Any other view that
 /// is made here is declared here, and made in a group of its own.
-std::int32_t CFxConverterIWAPIImpl::ConvertActionViewBackground(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionViewBackground(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    CFxString view = takeVariable(writer, text, HandedVariable::Replaced);
-    const OdDbHandle& handle = action->GetData(0).GetHandle();
-    const OdRxClass* const cls = action->GetData(1).GetClass();
-    const bool isNew = action->GetData(2).GetBool();
-    const bool onSheet = action->GetData(3).GetBool();
-    const CFxString& sheetName = action->GetData(4).GetString();
-    const CFxString& name = action->GetData(5).GetString();
-    if (!cls || !IsSupportedClass(cls) || (writer.repairs && cls != OdDbViewTableRecord::desc()))
+    CFxString view = takeVariable(conversion.writer, text, HandedVariable::Replaced);
+    const OdDbHandle& handle = action.GetData(0).GetHandle();
+    const OdRxClass* const cls = action.GetData(1).GetClass();
+    const bool isNew = action.GetData(2).GetBool();
+    const bool onSheet = action.GetData(3).GetBool();
+    const CFxString& sheetName = action.GetData(4).GetString();
+    const CFxString& name = action.GetData(5).GetString();
+    if (!cls || !IsSupportedClass(cls) || (conversion.writer.repairs && cls != OdDbViewTableRecord::desc()))
         return PassOver(action, "objects of that class have no statements");
 
-    if (isNew && view.isEmpty() && !FindEntry(handle)) {
-        const ActionEntry entry = RegisterObject(handle, cls);
-        view = DeclaredName(entry);
-        text += EmitVariableDeclaration(writer, entry);
-        StatementGroup group(writer);
-        text += group.begin() + createInItsSpace(writer, name, onSheet, sheetName, view);
+    if (isNew && view.isEmpty() && !conversion.names().FindEntry(handle)) {
+        const ActionEntry entry = conversion.names().RegisterObject(handle, cls);
+        view = conversion.names().DeclaredName(entry);
+        text += EmitVariableDeclaration(conversion.writer, entry);
+        StatementGroup group(conversion.writer);
+        text += group.begin() + createInItsSpace(conversion.writer, name, onSheet, sheetName, view);
         text += group.close();
     } else {
         if (view.isEmpty() && !onSheet)
-            text += Objects().EmitObjectVariable(handle, cls, view);
+            text += conversion.names().EmitObjectVariable(handle, cls, view);
         if (isNew)
-            text += createInItsSpace(writer, name, onSheet, sheetName, view);
+            text += createInItsSpace(conversion.writer, name, onSheet, sheetName, view);
     }
     // Only views of the model have a background.
     if (!onSheet)
-        text += background(writer, *action, view);
+        text += background(conversion.writer, action, view);
     return kFxSuccess;
 }

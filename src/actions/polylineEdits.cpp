@@ -3,7 +3,6 @@
 #include "targets/polylineEdits.h"
 #include "actions/handedVariable.h"
 #include "actions/handlers.h"
-#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/targets/setters.h"
 #include "statements/losses.h"
 #include "targets/hatches.h"
@@ -15,9 +14,13 @@ using inkmacro::takeVariable;
 
 using enum CFxCustomActionData::_Type;
 
+/// The statement for one edit of the polyline of that variable.
+using EmitPolylineEdit = QString (*)(Writer& writer, const CFxString& polyline, const CFxCustomAction& action);
+
 /// The polyline is told by two data from `first` on, by a handle and a class or by arrays of which the first counts.
 /// One without a variable gets no statement.
-QString CFxConverterIWAPIImpl::EditOfPolyline(const CFxCustomAction& action, std::int32_t first, EmitPolylineEdit edit)
+static QString EditOfPolyline(Conversion& conversion, const CFxCustomAction& action, std::int32_t first,
+                              EmitPolylineEdit edit)
 {
     const CFxCustomActionData& handle = action.GetData(first);
     const CFxCustomActionData& cls = action.GetData(first + 1);
@@ -27,31 +30,31 @@ QString CFxConverterIWAPIImpl::EditOfPolyline(const CFxCustomAction& action, std
         const OdRxClass* const firstClass = ClassAt(cls.GetClassArray(), 0);
         if (handle.GetHandleArray().empty())
             throw OdError_InvalidIndex();
-        text = Objects().EmitObjectVariable(handle.GetHandleArray().front(), firstClass, polyline);
+        text = conversion.names().EmitObjectVariable(handle.GetHandleArray().front(), firstClass, polyline);
     } else {
-        text = Objects().EmitObjectVariable(handle.GetHandle(), cls.GetClass(), polyline);
+        text = conversion.names().EmitObjectVariable(handle.GetHandle(), cls.GetClass(), polyline);
     }
-    return polyline.isEmpty() ? QString() : text + edit(writer, polyline, action);
+    return polyline.isEmpty() ? QString() : text + edit(conversion.writer, polyline, action);
 }
 
-template<CFxConverterIWAPIImpl::EmitPolylineEdit edit>
-std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineEdit(OdSmartPtr<CFxCustomAction> action, QString& text)
+template<EmitPolylineEdit edit>
+static std::int32_t ConvertActionPolylineEdit(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    takeVariable(writer, text, HandedVariable::Replaced);
-    text = EditOfPolyline(*action, 1, edit);
+    takeVariable(conversion.writer, text, HandedVariable::Replaced);
+    text = EditOfPolyline(conversion, action, 1, edit);
     return kFxSuccess;
 }
 
-template<CFxConverterIWAPIImpl::EmitPolylineEdit edit>
-std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineVertex(OdSmartPtr<CFxCustomAction> action, QString& text)
+template<EmitPolylineEdit edit>
+static std::int32_t ConvertActionPolylineVertex(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    takeVariable(writer, text, HandedVariable::AppendedTo);
-    text += EditOfPolyline(*action, 0, edit);
+    takeVariable(conversion.writer, text, HandedVariable::AppendedTo);
+    text += EditOfPolyline(conversion, action, 0, edit);
     return kFxSuccess;
 }
 
 /// The first object is joined with those of the others that can be; the rest is not even fetched.
-std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineJoin(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionPolylineJoin(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
     struct Joint
     {
@@ -61,13 +64,13 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineJoin(OdSmartPtr<CFxCust
     static constexpr Joint joints[] = {
         {"AcDbPolyline", &EmitJoinPolyline}, {"AcDbLine", &EmitJoinLine}, {"AcDbArc", &EmitJoinCircleArc}};
 
-    takeVariable(writer, text, HandedVariable::Replaced);
-    const std::vector<OdDbHandle>& objects = action->GetData(1).GetHandleArray();
-    const std::vector<const OdRxClass*>& classes = action->GetData(2).GetClassArray();
+    takeVariable(conversion.writer, text, HandedVariable::Replaced);
+    const std::vector<OdDbHandle>& objects = action.GetData(1).GetHandleArray();
+    const std::vector<const OdRxClass*>& classes = action.GetData(2).GetClassArray();
     if (objects.size() < 2)
         return kFxFailure;
     CFxString polyline;
-    const QString fetch = Objects().EmitObjectVariable(objects[0], ClassAt(classes, 0), polyline);
+    const QString fetch = conversion.names().EmitObjectVariable(objects[0], ClassAt(classes, 0), polyline);
     if (polyline.isEmpty())
         return kFxSuccess;
     text = fetch;
@@ -80,8 +83,8 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionPolylineJoin(OdSmartPtr<CFxCust
             continue;
         }
         CFxString other;
-        text += Objects().EmitObjectVariable(objects[i], cls, other);
-        text += joint->statement(writer, polyline, other);
+        text += conversion.names().EmitObjectVariable(objects[i], cls, other);
+        text += joint->statement(conversion.writer, polyline, other);
     }
     return kFxSuccess;
 }
@@ -110,15 +113,15 @@ QString widthsOf(Writer& writer, const CFxString& polyline, const CFxCustomActio
 } // namespace inkmacro
 
 /// The second points hold the bulges as their x.
-std::int32_t CFxConverterIWAPIImpl::ConvertActionPolyline(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionPolyline(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    CFxString name = takeVariable(writer, text, HandedVariable::Replaced);
-    const OdArray<OdGePoint3d>& vertices = action->GetData(0).GetPointArray();
-    const OdArray<OdGePoint3d>& bends = action->GetData(1).GetPointArray();
-    const bool closed = action->GetData(2).GetBool();
+    CFxString name = takeVariable(conversion.writer, text, HandedVariable::Replaced);
+    const OdArray<OdGePoint3d>& vertices = action.GetData(0).GetPointArray();
+    const OdArray<OdGePoint3d>& bends = action.GetData(1).GetPointArray();
+    const bool closed = action.GetData(2).GetBool();
     if (vertices.length() != bends.length())
         return kFxFailure;
-    NameInsertedObject(*action, name);
+    NameInsertedObject(conversion, action, name);
     if (name.isEmpty())
         return PassOver(action, "the macro does not have the polyline");
     OdArray<OdGePoint2d> points;
@@ -127,17 +130,15 @@ std::int32_t CFxConverterIWAPIImpl::ConvertActionPolyline(OdSmartPtr<CFxCustomAc
         points.append({vertices[i].x, vertices[i].y});
         bulges.append(bends[i].x);
     }
-    text = EmitHatchBoundaryPolyline(writer, name, points, closed);
-    text += EmitSetSegmentAngles(writer, name, bulges);
-    text += inkmacro::widthsOf(writer, name, *action);
+    text = EmitHatchBoundaryPolyline(conversion.writer, name, points, closed);
+    text += EmitSetSegmentAngles(conversion.writer, name, bulges);
+    text += inkmacro::widthsOf(conversion.writer, name, action);
     return kFxSuccess;
 }
 
 namespace inkmacro {
 
 namespace {
-
-using Impl = CFxConverterIWAPIImpl;
 
 constexpr int kAny = DataSignature::anyType;
 
@@ -198,25 +199,25 @@ QString vertexDeleted(Writer& writer, const CFxString& polyline, const CFxCustom
 } // namespace
 
 const ActionForm polylineEditForms[12] = {
-    {objectsOnly("_FIT"), &Impl::ConvertActionPolylineEdit<&whole<&EmitPolylineFit>>},
-    {objectsOnly("_DECURVE"), &Impl::ConvertActionPolylineEdit<&whole<&EmitPolylineDecurve>>},
-    {objectsOnly("_SPLINE"), &Impl::ConvertActionPolylineEdit<&whole<&EmitPolylineSpline>>},
-    {objectsOnly("_JOIN"), &Impl::ConvertActionPolylineJoin},
-    {vertexOnly("_SPLIT"), &Impl::ConvertActionPolylineEdit<&split<false>>},
-    {vertexOnly("_SPLIT3D"), &Impl::ConvertActionPolylineEdit<&split<true>>},
-    {vertexAndPoint("_INSERT"), &Impl::ConvertActionPolylineEdit<&placed<&EmitAddVertexAfter, false>>},
-    {vertexAndPoint("_INSERT3D"), &Impl::ConvertActionPolylineEdit<&placed<&EmitAddVertexAfter, true>>},
-    {vertexAndPoint("_MOVE"), &Impl::ConvertActionPolylineEdit<&placed<&EmitSetVertexCoordinate, false>>},
-    {vertexAndPoint("_MOVE3D"), &Impl::ConvertActionPolylineEdit<&placed<&EmitSetVertexCoordinate, true>>},
+    {objectsOnly("_FIT"), &ConvertActionPolylineEdit<&whole<&EmitPolylineFit>>},
+    {objectsOnly("_DECURVE"), &ConvertActionPolylineEdit<&whole<&EmitPolylineDecurve>>},
+    {objectsOnly("_SPLINE"), &ConvertActionPolylineEdit<&whole<&EmitPolylineSpline>>},
+    {objectsOnly("_JOIN"), &ConvertActionPolylineJoin},
+    {vertexOnly("_SPLIT"), &ConvertActionPolylineEdit<&split<false>>},
+    {vertexOnly("_SPLIT3D"), &ConvertActionPolylineEdit<&split<true>>},
+    {vertexAndPoint("_INSERT"), &ConvertActionPolylineEdit<&placed<&EmitAddVertexAfter, false>>},
+    {vertexAndPoint("_INSERT3D"), &ConvertActionPolylineEdit<&placed<&EmitAddVertexAfter, true>>},
+    {vertexAndPoint("_MOVE"), &ConvertActionPolylineEdit<&placed<&EmitSetVertexCoordinate, false>>},
+    {vertexAndPoint("_MOVE3D"), &ConvertActionPolylineEdit<&placed<&EmitSetVertexCoordinate, true>>},
     {DataSignature::exactly({kString, kAny, kAny, kInt, kInt}).withWord("_STRAIGHTEN"),
-     &Impl::ConvertActionPolylineEdit<&straightened>},
+     &ConvertActionPolylineEdit<&straightened>},
     {DataSignature::exactly({kString, kAny, kAny, kInt, kDouble, kDouble}).withWord("_WIDTH"),
-     &Impl::ConvertActionPolylineEdit<&widened>},
+     &ConvertActionPolylineEdit<&widened>},
 };
 
 const ActionForm polylineVertexForms[2] = {
-    {DataSignature::anyOf(4), &Impl::ConvertActionPolylineVertex<&vertexAdded>},
-    {DataSignature::anyOf(3), &Impl::ConvertActionPolylineVertex<&vertexDeleted>},
+    {DataSignature::anyOf(4), &ConvertActionPolylineVertex<&vertexAdded>},
+    {DataSignature::anyOf(3), &ConvertActionPolylineVertex<&vertexDeleted>},
 };
 
 } // namespace inkmacro

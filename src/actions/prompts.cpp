@@ -1,8 +1,9 @@
 // Answers at prompts, which a replay asks for anew.
 
 #include "targets/prompts.h"
+#include "actions/entries.h"
+#include "actions/handlers.h"
 #include "host/rx/OdError.h"
-#include "module/CFxConverterIWAPIImpl.h"
 #include "statements/wording.h"
 
 #include <array>
@@ -109,19 +110,19 @@ struct Replay
 
 } // namespace
 
-std::int32_t CFxConverterIWAPIImpl::ConvertInteraction(OdSmartPtr<CFxUserInteraction> interaction, QString& text)
+std::int32_t ConvertInteraction(Conversion& conversion, const CFxUserInteraction& interaction, QString& text)
 {
-    const OdResBufPtr result = interaction->GetResult();
+    const OdResBufPtr result = interaction.GetResult();
     // A prompt that was cancelled leaves no trace.
     if (!result)
         return kFxSuccess;
-    const std::int32_t number = interaction->GetInteractionKind();
+    const std::int32_t number = interaction.GetInteractionKind();
     if (number < 0 || static_cast<std::size_t>(number) >= promptKinds.size())
         return kFxFailure;
     const PromptKind& kind = promptKinds[static_cast<std::size_t>(number)];
-    CFxString prompt = inkmacro::CleanPromptText(interaction->GetPrompt());
+    CFxString prompt = inkmacro::CleanPromptText(interaction.GetPrompt());
     if (prompt.isEmpty())
         prompt = kind.prompt;
-    text = std::visit(Replay{writer, *interaction, *result, kind, prompt}, kind.ask);
+    text = std::visit(Replay{conversion.writer, interaction, *result, kind, prompt}, kind.ask);
     return kFxSuccess;
 }

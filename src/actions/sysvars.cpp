@@ -1,7 +1,7 @@
 // Changes of system variables.
 
+#include "actions/entries.h"
 #include "actions/optionTable.h"
-#include "module/CFxConverterIWAPIImpl.h"
 #include "statements/losses.h"
 #include "statements/wording.h"
 #include "targets/options.h"
@@ -78,30 +78,28 @@ QString applicationOption(Writer& writer, const CFxString& option, OptionKind ki
 
 } // namespace
 
-std::int32_t CFxConverterIWAPIImpl::FindCommandOption(const CFxString& variable, CFxString& enumerator,
-                                                      std::int32_t& kind) const
+std::int32_t FindCommandOption(const CFxString& variable, CFxString& enumerator, std::int32_t& kind)
 {
     return find(OptionOwner::Document, variable, enumerator, kind);
 }
 
-std::int32_t CFxConverterIWAPIImpl::FindApplicationOption(const CFxString& variable, CFxString& enumerator,
-                                                          std::int32_t& kind) const
+std::int32_t FindApplicationOption(const CFxString& variable, CFxString& enumerator, std::int32_t& kind)
 {
     return find(OptionOwner::Application, variable, enumerator, kind);
 }
 
-std::int32_t CFxConverterIWAPIImpl::ConvertSysVar(OdSmartPtr<CFxSysVarChanged> variable, QString& text)
+std::int32_t ConvertSysVar(Conversion& conversion, const CFxSysVarChanged& variable, QString& text)
 {
-    const OdResBufPtr value = variable->GetValue();
+    const OdResBufPtr value = variable.GetValue();
     if (!value)
         return kFxSuccess;
     CFxString option;
     std::int32_t kind = -1;
-    if (FindCommandOption(variable->GetName(), option, kind) == kFxSuccess)
-        text = commandOption(writer, *variable, option, static_cast<OptionKind>(kind), *value);
-    else if (FindApplicationOption(variable->GetName(), option, kind) == kFxSuccess)
-        text += applicationOption(writer, option, static_cast<OptionKind>(kind), *value);
+    if (FindCommandOption(variable.GetName(), option, kind) == kFxSuccess)
+        text = commandOption(conversion.writer, variable, option, static_cast<OptionKind>(kind), *value);
+    else if (FindApplicationOption(variable.GetName(), option, kind) == kFxSuccess)
+        text += applicationOption(conversion.writer, option, static_cast<OptionKind>(kind), *value);
     else
-        NoteLoss(ActionTitle(variable.get()), "the interface has no option for it");
+        NoteLoss(ActionTitle(&variable), "the interface has no option for it");
     return kFxSuccess;
 }

@@ -2,8 +2,7 @@
 
 #include "targets/viewTiles.h"
 #include "actions/handedVariable.h"
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
+#include "actions/handlers.h"
 #include "statements/counters.h"
 #include "statements/losses.h"
 #include "statements/wording.h"
@@ -25,36 +24,36 @@ static QString tilesMode(int mode)
 
 /// A tile is taken from the array of all tiles, so the statement that fetches one which the macro does not know is
 /// dropped.
-std::int32_t CFxConverterIWAPIImpl::ConvertActionViewTiles(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionViewTiles(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    takeVariable(writer, text, HandedVariable::Replaced);
-    const QLatin1String applyTo(action->GetData(0).GetBool() ? "iwViewTilesApplyTo_Display"
-                                                             : "iwViewTilesApplyTo_ActiveViewTile");
-    const QString mode = tilesMode(action->GetData(1).GetInt());
-    const std::vector<OdDbHandle>& tiles = action->GetData(2).GetHandleArray();
-    const std::vector<const OdRxClass*>& classes = action->GetData(3).GetClassArray();
+    takeVariable(conversion.writer, text, HandedVariable::Replaced);
+    const QLatin1String applyTo(action.GetData(0).GetBool() ? "iwViewTilesApplyTo_Display"
+                                                            : "iwViewTilesApplyTo_ActiveViewTile");
+    const QString mode = tilesMode(action.GetData(1).GetInt());
+    const std::vector<OdDbHandle>& tiles = action.GetData(2).GetHandleArray();
+    const std::vector<const OdRxClass*>& classes = action.GetData(3).GetClassArray();
     std::vector<CFxString> names(tiles.size());
     for (std::size_t i = 0; i < tiles.size(); ++i)
-        names[i] = Objects().NameObject(tiles[i], ClassAt(classes, i));
+        names[i] = conversion.names().NameObject(tiles[i], ClassAt(classes, i));
     const QString array = QStringLiteral("iwViewTileArray%1").arg(processCounters.viewTileArrays++);
-    text = EmitInsertViewTiles(writer, array, mode, applyTo);
+    text = EmitInsertViewTiles(conversion.writer, array, mode, applyTo);
     for (std::size_t i = 0; i < names.size(); ++i)
         if (!names[i].isEmpty())
-            text += EmitSelectViewTile(writer, array, i, names[i]);
+            text += EmitSelectViewTile(conversion.writer, array, i, names[i]);
     return kFxSuccess;
 }
 
-std::int32_t CFxConverterIWAPIImpl::ConvertActionZoom(OdSmartPtr<CFxCustomAction> action, QString& text)
+std::int32_t ConvertActionZoom(Conversion& conversion, const CFxCustomAction& action, QString& text)
 {
-    takeVariable(writer, text, HandedVariable::Replaced);
-    const CFxString& range = action->GetData(0).GetString();
+    takeVariable(conversion.writer, text, HandedVariable::Replaced);
+    const CFxString& range = action.GetData(0).GetString();
     if (!inkmacro::isWord(range)) {
-        NoteFault(inkmacro::textAsCode);
-        if (writer.repairs)
+        conversion.faults.note(inkmacro::textAsCode);
+        if (conversion.writer.repairs)
             return PassOver(action, "there is no range of that name");
     }
     text = range.equalNoCase("iwZoomRange_Window")
-               ? EmitZoom(writer, range, action->GetData(1).GetPoint(), action->GetData(2).GetPoint())
-               : EmitZoom(writer, range);
+               ? EmitZoom(conversion.writer, range, action.GetData(1).GetPoint(), action.GetData(2).GetPoint())
+               : EmitZoom(conversion.writer, range);
     return kFxSuccess;
 }

@@ -1,9 +1,10 @@
 // The children of a command as one block.
 
 #include "host/db/OdDbClasses.h"
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
+#include "module/walk.h"
 #include "objects/classTable.h"
+#include "objects/entries.h"
+#include "objects/losses.h"
 #include "statements/Marks.h"
 #include "statements/StatementGroup.h"
 #include "statements/actionKinds.h"
@@ -84,9 +85,8 @@ private:
     std::vector<std::pair<int, QString>> marks_; ///< each where it stood before those behind it were there
 };
 
-} // namespace
-
-struct CFxConverterIWAPIImpl::CommandState
+/// What is known of a command while its children are converted.
+struct CommandState
 {
     std::vector<ActionEntry> added;
     std::vector<OdDbHandle> handles; ///< one an added object
@@ -101,27 +101,154 @@ struct CFxConverterIWAPIImpl::CommandState
     bool allEmpty = true;
 };
 
-std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CFxString&,
-                                                   const CFxActionArray& children)
+} // namespace
+
+/// All added children are registered before the first statement is made, so a child may refer to a later one.
+static void RegisterChildren(Conversion& conversion, const CFxActionArray& children, CommandState& state)
 {
+    for (const OdRxObjectPtr& child : children) {
+        const auto added = odrxQuery<CFxObjectAdded>(child.get());
+        if (!added)
+            continue;
+        OdRxClass* const cls = added->GetObjectClass();
+        if (!cls || !IsSupportedClass(cls))
+            continue;
+        if (cls == OdDbMText::desc() && !GetNoteLeader(added->GetHandle()).isNull())
+            continue;
+        state.added.push_back(conversion.names().RegisterObject(added->GetHandle(), cls));
+        state.handles.push_back(added->GetHandle());
+        if (isFinishedByCustomAction(cls))
+            conversion.lastFinished = added->GetHandle();
+    }
+}
+
+static void DeclareChildren(Conversion& conversion, CommandState& state)
+{
+    for (const ActionEntry& entry : state.added) {
+        state.declarations.push_back(EmitVariableDeclaration(conversion.writer, entry));
+        if (!isFinishedByCustomAction(entry.cls))
+            continue;
+        const CFxString name = conversion.names().DeclaredName(entry);
+        if (!name.isEmpty())
+            state.names.push_back(name);
+    }
+}
+
+/// Each action that makes an entity gets one of its own, from behind.
+static void PairWithActions(Conversion& conversion, const CFxActionArray& children, CommandState& state)
+{
+    std::map<const OdRxClass*, unsigned> next;
+    for (std::size_t i = state.added.size(); i-- > 0;) {
+        const OdRxClass* const cls = state.added[i].cls;
+        if (!isFinishedByCustomAction(cls))
+            continue;
+        for (unsigned& at = next.try_emplace(cls, children.length()).first->second; at > 0;) {
+            const auto custom = odrxQuery<CFxCustomAction>(children[--at].get());
+            if (custom && IsEntityOfAction(cls, custom->GetKind())) {
+                state.made.emplace(at, i);
+                conversion.finished.insert(state.handles[i]);
+                break;
+            }
+        }
+    }
+}
+
+/// In a repaired macro without those of objects that turned out to have no statement that inserts them.
+static QString Declarations(Conversion& conversion, const CommandState& state)
+{
+    QString text;
+    for (std::size_t i = 0; i < state.declarations.size(); ++i)
+        if (conversion.names().IsDeclared(state.handles[i]))
+            text += state.declarations[i];
+    return text;
+}
+
+/// The variable that a custom action of a command is handed: the last one, whatever it is; in a repaired macro an
+/// action that makes an entity gets that one, or none.
+static QString HandOver(Conversion& conversion, std::int32_t kind, unsigned number, const CommandState& state)
+{
+    if (const auto made = state.made.find(number); made != state.made.end()) {
+        conversion.lastFinished = state.handles[made->second];
+        return conversion.names().DeclaredName(state.added[made->second]);
+    }
+    if (state.names.empty() || (conversion.writer.repairs && IsEntityOfAction(nullptr, kind)))
+        return {};
+    return state.names.back();
+}
+
+/// False when the child failed.
+static bool ConvertChild(Conversion& conversion, const OdRxObjectPtr& child, unsigned number, CommandState& state,
+                         StatementGroup& group)
+{
+    const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), number);
+    QString current;
+    if (const auto custom = odrxQuery<CFxCustomAction>(child.get())) {
+        const std::int32_t kind = custom->GetKind();
+        current = HandOver(conversion, kind, number, state);
+        if (kind == inkmacro::kViewBackground) {
+            // Backgrounds and objects pair up in order; a surplus background stays with the last object.
+            if (state.names.size() > 1 && state.nextName < state.names.size())
+                current = state.names[state.nextName++];
+            state.unnamedTarget = current.isEmpty();
+        }
+        if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport)
+            group.abandon();
+    }
+    if (ConvertOrLose(conversion, child, current) != kFxSuccess)
+        return false;
+    if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
+        state.shapeStyle = true;
+    if (!current.isEmpty()) {
+        state.allEmpty = false;
+        state.statements.emplace_back(current);
+    }
+    return true;
+}
+
+/// Notes the children that a failed one takes along, as far as they would have had statements.
+static void LoseBehind(Conversion& conversion, const CFxActionArray& children, unsigned failed)
+{
+    const CFxString reason(QString("action %1 of its command could not be converted").arg(failed + 1));
+    for (unsigned i = failed; i < children.length(); ++i) {
+        const OdRxObject* const child = children[i].get();
+        const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
+        if (i > failed && !IsPassedOver(conversion, child))
+            NoteLoss(ActionTitle(child), reason);
+        if (const auto added = odrxQuery<CFxObjectAdded>(child))
+            conversion.names().SetUnmade(added->GetHandle());
+    }
+}
+
+static void ConvertChildren(Conversion& conversion, const CFxActionArray& children, CommandState& state,
+                            StatementGroup& group)
+{
+    for (unsigned i = 0; i < children.length(); ++i)
+        if (!ConvertChild(conversion, children[i], i, state, group))
+            return LoseBehind(conversion, children, i);
+}
+
+std::int32_t ConvertCommand(Conversion& conversion, QTextStream& stream, const CFxString&,
+                            const CFxActionArray& children)
+{
+    Writer& writer = conversion.writer;
     CommandState state;
-    RegisterChildren(children, state);
-    DeclareChildren(state);
+    RegisterChildren(conversion, children, state);
+    DeclareChildren(conversion, state);
     if (writer.repairs)
-        PairWithActions(children, state);
+        PairWithActions(conversion, children, state);
     StatementGroup group(writer);
-    const ActionKinds kinds(children);
-    const QScopedValueRollback<const ActionKinds*> beside(siblings, &kinds);
+    const Siblings siblings(children);
+    const QScopedValueRollback<const Siblings*> beside(conversion.siblings, &siblings);
 
     // Where locals are seen behind their command, numbers that begin anew make some of them twice.
     const std::uint32_t outerCounter = writer.UniqueCounter;
     if (!writer.repairs)
         writer.UniqueCounter = 0;
-    ConvertChildren(children, state, group);
+    ConvertChildren(conversion, children, state, group);
 
     const bool grouped = !group.abandoned() && !state.unnamedTarget;
     const bool written = grouped && !state.allEmpty && (writer.repairs || !state.shapeStyle);
-    const QString declarations = Declarations(state);
+    const QString declarations = Declarations(conversion, state);
     if (written || (writer.repairs && !state.allEmpty))
         writer.writeDeclarations(stream, declarations);
     else if (!declarations.isEmpty() && !state.statements.empty())
@@ -137,145 +264,6 @@ std::int32_t CFxConverterIWAPIImpl::ConvertCommand(QTextStream& stream, const CF
     if (!writer.repairs)
         writer.UniqueCounter = outerCounter;
     const bool hides = written && writer.target != Target::JavaScript && writer.target != Target::Vba;
-    if (hides)
-        outOfReach.merge(fetchedLayers);
-    fetchedLayers.clear();
+    conversion.names().EndCommand(hides);
     return kFxSuccess;
-}
-
-/// All added children are registered before the first statement is made, so a child may refer to a later one.
-void CFxConverterIWAPIImpl::RegisterChildren(const CFxActionArray& children, CommandState& state)
-{
-    for (const OdRxObjectPtr& child : children) {
-        const auto added = odrxQuery<CFxObjectAdded>(child.get());
-        if (!added)
-            continue;
-        OdRxClass* const cls = added->GetObjectClass();
-        Objects();
-        if (!cls || !IsSupportedClass(cls))
-            continue;
-        if (cls == OdDbMText::desc()) {
-            OdDbObjectId leader;
-            GetNoteLeader(leader, added->GetHandle());
-            if (!leader.isNull())
-                continue;
-        }
-        state.added.push_back(RegisterObject(added->GetHandle(), cls));
-        state.handles.push_back(added->GetHandle());
-        if (isFinishedByCustomAction(cls))
-            lastFinished = added->GetHandle();
-    }
-}
-
-void CFxConverterIWAPIImpl::DeclareChildren(CommandState& state)
-{
-    for (const ActionEntry& entry : state.added) {
-        state.declarations.push_back(EmitVariableDeclaration(writer, entry));
-        if (!isFinishedByCustomAction(entry.cls))
-            continue;
-        const CFxString name = DeclaredName(entry);
-        if (!name.isEmpty())
-            state.names.push_back(name);
-    }
-}
-
-/// Each action that makes an entity gets one of its own, from behind.
-void CFxConverterIWAPIImpl::PairWithActions(const CFxActionArray& children, CommandState& state)
-{
-    std::map<const OdRxClass*, unsigned> next;
-    for (std::size_t i = state.added.size(); i-- > 0;) {
-        const OdRxClass* const cls = state.added[i].cls;
-        if (!isFinishedByCustomAction(cls))
-            continue;
-        for (unsigned& at = next.try_emplace(cls, children.length()).first->second; at > 0;) {
-            const auto custom = odrxQuery<CFxCustomAction>(children[--at].get());
-            if (custom && CFxConverterIWAPIObject::IsEntityOfAction(cls, custom->GetKind())) {
-                state.made.emplace(at, i);
-                finished.insert(state.handles[i]);
-                break;
-            }
-        }
-    }
-}
-
-/// In a repaired macro without those of objects that turned out to have no statement that inserts them.
-QString CFxConverterIWAPIImpl::Declarations(const CommandState& state) const
-{
-    QString text;
-    for (std::size_t i = 0; i < state.declarations.size(); ++i)
-        if (!writer.repairs || unmade.count(state.handles[i]) == 0)
-            text += state.declarations[i];
-    return text;
-}
-
-void CFxConverterIWAPIImpl::ConvertChildren(const CFxActionArray& children, CommandState& state, StatementGroup& group)
-{
-    for (unsigned i = 0; i < children.length(); ++i)
-        if (!ConvertChild(children[i], i, state, group))
-            return LoseBehind(children, i);
-}
-
-/// The last one, whatever it is; in a repaired macro an action that makes an entity gets that one, or none.
-QString CFxConverterIWAPIImpl::HandOver(std::int32_t kind, unsigned number, const CommandState& state)
-{
-    if (const auto made = state.made.find(number); made != state.made.end()) {
-        lastFinished = state.handles[made->second];
-        return DeclaredName(state.added[made->second]);
-    }
-    if (state.names.empty() || (writer.repairs && CFxConverterIWAPIObject::IsEntityOfAction(nullptr, kind)))
-        return {};
-    return state.names.back();
-}
-
-bool CFxConverterIWAPIImpl::ConvertChild(const OdRxObjectPtr& child, unsigned number, CommandState& state,
-                                         StatementGroup& group)
-{
-    const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), number);
-    QString current;
-    if (const auto custom = odrxQuery<CFxCustomAction>(child.get())) {
-        const std::int32_t kind = custom->GetKind();
-        current = HandOver(kind, number, state);
-        if (kind == inkmacro::kViewBackground) {
-            // Backgrounds and objects pair up in order; a surplus background stays with the last object.
-            if (state.names.size() > 1 && state.nextName < state.names.size())
-                current = state.names[state.nextName++];
-            state.unnamedTarget = current.isEmpty();
-        }
-        if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport)
-            group.abandon();
-    }
-    if (ConvertOrLose(child, current) != kFxSuccess)
-        return false;
-    if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
-        state.shapeStyle = true;
-    if (!current.isEmpty()) {
-        state.allEmpty = false;
-        state.statements.emplace_back(current);
-    }
-    return true;
-}
-
-/// Notes the children that a failed one takes along, as far as they would have had statements.
-void CFxConverterIWAPIImpl::LoseBehind(const CFxActionArray& children, unsigned failed)
-{
-    const CFxString reason(QString("action %1 of its command could not be converted").arg(failed + 1));
-    for (unsigned i = failed; i < children.length(); ++i) {
-        const OdRxObject* const child = children[i].get();
-        const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
-        if (i > failed && !IsPassedOver(child))
-            NoteLoss(ActionTitle(child), reason);
-        if (const auto added = odrxQuery<CFxObjectAdded>(child))
-            unmade.insert(added->GetHandle());
-    }
-}
-
-bool CFxConverterIWAPIImpl::IsPassedOver(const OdRxObject* action) const
-{
-    if (const auto variable = odrxQuery<CFxSysVarChanged>(action))
-        return !IsWanted(*variable);
-    if (odrxQuery<CFxUserInteraction>(action) || odrxQuery<CFxUserSelection>(action))
-        return mode != 1;
-    // A leader brings its note.
-    const auto added = odrxQuery<CFxObjectAdded>(action);
-    return added && added->GetObjectClass() == OdDbMText::desc() && !FindEntry(added->GetHandle());
 }

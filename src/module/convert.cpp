@@ -1,10 +1,8 @@
 // One conversion, from the output path to the project files.
 
-#include "host/db/OdDbClasses.h"
 #include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
+#include "module/walk.h"
 #include "statements/RecordingState.h"
-#include "statements/losses.h"
 #include "statements/wording.h"
 #include "targets/variables.h"
 
@@ -29,15 +27,6 @@ bool wantsByteOrderMark()
     return (RecordingLanguage() & ~4) == 0;
 }
 
-/// Of what is thrown below the user hears at once only that a text outgrew every bound.
-std::int32_t failed(const OdRxObjectPtr& action, const OdError& error)
-{
-    NoteLoss(ActionTitle(action.get()), error.what());
-    if (error.code() == eTextTooLong)
-        GetFxSystemServices()->ReportProblem(QString(error.what()));
-    return kFxFailure;
-}
-
 bool isSysVar(const OdRxObjectPtr& action)
 {
     return !odrxQuery<CFxSysVarChanged>(action.get()).isNull();
@@ -46,17 +35,13 @@ bool isSysVar(const OdRxObjectPtr& action)
 } // namespace
 
 CFxConverterIWAPIImpl::CFxConverterIWAPIImpl(inkmacro::Target target, std::uint32_t mode)
-    : writer(target),
-      mode(mode),
-      frame(CreateMacroFrame(writer)),
-      objectConverter(std::make_shared<CFxConverterIWAPIObject>(*this))
+    : conversion(target, mode), frame(CreateMacroFrame(conversion.writer))
 {
 }
 
-CFxConverterIWAPIImpl::~CFxConverterIWAPIImpl() = default;
-
 std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActionArray& actions)
 {
+    Writer& writer = conversion.writer;
     GetFxSystemServices()->Notes().Forget();
     const QDir directory(QFileInfo(path).path());
     if (!directory.exists() && !directory.mkpath("."))
@@ -84,8 +69,8 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     RecordingInModel = true;
 
     std::int32_t status = kFxSuccess;
-    const ActionKinds kinds(actions);
-    const QScopedValueRollback<const ActionKinds*> beside(siblings, &kinds);
+    const Siblings siblings(actions);
+    const QScopedValueRollback<const Siblings*> beside(conversion.siblings, &siblings);
     for (unsigned i = 0; i < actions.length() && status == kFxSuccess; ++i) {
         const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
         if (actions[i])
@@ -112,122 +97,24 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
 
 std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action)
 {
+    Writer& writer = conversion.writer;
     writer.forgetLater();
     if (const auto command = odrxQuery<CFxUserCommand>(action.get())) {
         try {
             const OdResBufPtr line = command->GetCommand();
-            return ConvertCommand(stream, line ? line->getString() : OdString(), command->GetActions());
+            return ConvertCommand(conversion, stream, line ? line->getString() : OdString(), command->GetActions());
         } catch (const OdError& error) {
-            return failed(action, error);
+            return FailedAction(action, error);
         }
     }
     if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
         writer.writeDeclarations(
-            stream, EmitVariableDeclaration(writer, RegisterObject(added->GetHandle(), added->GetObjectClass())));
+            stream, EmitVariableDeclaration(
+                        writer, conversion.names().RegisterObject(added->GetHandle(), added->GetObjectClass())));
 
     QString text;
-    const std::int32_t status = ConvertOrLose(action, text);
+    const std::int32_t status = ConvertOrLose(conversion, action, text);
     if (status == kFxSuccess)
         writer.write(stream, text);
     return status;
-}
-
-std::int32_t CFxConverterIWAPIImpl::ConvertOrLose(const OdRxObjectPtr& action, QString& text)
-{
-    const LossWatch losses;
-    statementFaults.clear();
-    const std::int32_t status = ConvertAction(action, text);
-    for (const inkmacro::Fault* const fault : statementFaults)
-        text = writer.faulty(text, *fault);
-    if (status != kFxSuccess && !losses.any())
-        NoteLoss(ActionTitle(action.get()), "it could not be converted");
-    return status;
-}
-
-bool CFxConverterIWAPIImpl::IsWanted(const CFxSysVarChanged& variable) const
-{
-    return mode == 1 || variable.GetName().equalNoCase("CVPORT");
-}
-
-bool CFxConverterIWAPIImpl::HasSibling(std::int32_t kind) const
-{
-    return siblings && siblings->has(kind);
-}
-
-bool CFxConverterIWAPIImpl::HasSiblingBlock() const
-{
-    return siblings && siblings->hasBlock();
-}
-
-std::int32_t CFxConverterIWAPIImpl::ConvertAction(OdRxObjectPtr action, QString& text)
-{
-    const OdRxObject* const object = action.get();
-    try {
-        if (auto interaction = odrxQuery<CFxUserInteraction>(object))
-            return mode == 1 ? ConvertInteraction(std::move(interaction), text) : kFxSuccess;
-        if (auto added = odrxQuery<CFxObjectAdded>(object))
-            return Objects().ConvertObjectAdded(std::move(added), text);
-        if (const auto modified = odrxQuery<CFxObjectModified>(object))
-            return ConvertModified(modified, text);
-        if (auto variable = odrxQuery<CFxSysVarChanged>(object))
-            return IsWanted(*variable) ? ConvertSysVar(std::move(variable), text) : kFxSuccess;
-        if (auto property = odrxQuery<CFxPropertyChanged>(object))
-            return Objects().ConvertPropertyChanged(std::move(property), text);
-        if (auto selection = odrxQuery<CFxUserSelection>(object))
-            return mode == 1 ? ConvertSelection(std::move(selection), text) : kFxSuccess;
-        if (auto custom = odrxQuery<CFxCustomAction>(object))
-            return ConvertCustomAction(std::move(custom), text);
-    } catch (const OdError& error) {
-        return failed(action, error);
-    }
-    return kFxFailure;
-}
-
-/// In front of the changes, which may rename it.
-CFxString CFxConverterIWAPIImpl::LayerName(const OdDbHandle& handle, const CFxObjectModified& changes)
-{
-    const auto record = odrxQuery<OdDbLayerTableRecord>(Objects().IdOf(handle).openObject(true).get());
-    const auto [known, isNew] = renamedLayers.try_emplace(handle, record ? CFxString(record->getName()) : CFxString());
-    CFxString before = known->second;
-    PropertyList list = changes.GetProperties();
-    if (const CFxVariant renamed = Objects().FindProperty("Name", list, GetContext()); !renamed.IsNull())
-        known->second = renamed.GetString();
-    return before;
-}
-
-/// A layer that the recording did not make has no variable yet, although a statement is about to change it.
-std::int32_t CFxConverterIWAPIImpl::ConvertModified(const OdSmartPtr<CFxObjectModified>& action, QString& text)
-{
-    OdRxClass* const cls = action->GetObjectClass();
-    if (!cls)
-        return kFxFailure;
-    const CFxString className = cls->name();
-    const OdDbHandle handle = action->GetHandle();
-    if (IsSupportedClass(cls) && className.equalNoCase("AcDbLayerTableRecord") && !FindEntry(handle)) {
-        const CFxString layer = LayerName(handle, *action);
-        if (writer.repairs && layer.isEmpty()) {
-            NoteLoss("changes of " + ObjectTitle(cls, handle).toQString(), "the drawing does not have the layer");
-            return kFxSuccess;
-        }
-        RegisterObject(handle, cls);
-        CFxString name;
-        ResolveVariable(handle, cls, name);
-        if (!name.isEmpty())
-            text += EmitGetLayer(writer, name, layer);
-        const std::int32_t status = Objects().ConvertObjectModified(action, text);
-        // The variable is gone behind its command.
-        if (writer.repairs)
-            ObjectVariableMap.erase(handle);
-        else
-            fetchedLayers.insert(handle);
-        return status;
-    }
-    return Objects().ConvertObjectModified(action, text);
-}
-
-CFxConverterIWAPIObject& CFxConverterIWAPIImpl::Objects() const
-{
-    if (!objectConverter)
-        throw OdError(eNullObjectPointer);
-    return *objectConverter;
 }

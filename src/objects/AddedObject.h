@@ -1,21 +1,29 @@
 #pragma once
 
-#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/losses.h"
+#include "objects/properties.h"
 
 /// One added object in the hands of its reader, with its records: what is read leaves the list.
 class AddedObject
 {
 public:
     /// `consumed` receives what is read; null: nobody asks.
-    AddedObject(CFxConverterIWAPIObject& converter, Writer& writer, CFxValueContext context, const OdDbObjectId& id,
-                const CFxString& name, PropertyList& list, PropertyList* consumed)
-        : converter(converter), writer(writer), name(name), id_(id), list_(list), context_(context), consumed_(consumed)
+    AddedObject(Conversion& conversion, const RecordedObject& object, const OdDbObjectId& id, PropertyList& list,
+                PropertyList* consumed)
+        : conversion(conversion),
+          writer(conversion.writer),
+          object(object),
+          name(object.name),
+          id_(id),
+          list_(list),
+          consumed_(consumed)
     {
     }
 
-    CFxConverterIWAPIObject& converter;
+    Conversion& conversion;
     Writer& writer;
-    const CFxString name; ///< its variable
+    const RecordedObject& object;
+    const CFxString& name; ///< its variable
 
     /// The object in the drawing, for what no record holds; null when it is not there. Raises
     /// OdError_NotThatKindOfClass when it is of another class.
@@ -25,10 +33,10 @@ public:
         return odrxCast<T>(id_.openObject().get());
     }
 
-    CFxVariant take(const PropertyTag& tag) { return converter.FindProperty(tag, list_, context_, consumed_); }
+    CFxVariant take(const PropertyTag& tag) { return FindProperty(conversion, tag, list_, consumed_); }
     OdGePoint3d takePoint(const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag)
     {
-        return converter.FindPoint(xTag, yTag, zTag, list_, context_, consumed_);
+        return FindPoint(conversion, xTag, yTag, zTag, list_, consumed_);
     }
     OdGePoint3d takePoint(const PropertyTag& tag) { return take(tag).GetPoint3d(); }
     CFxString takeText(const PropertyTag& tag) { return take(tag).GetString(); }
@@ -49,18 +57,17 @@ public:
 
     /// What no reader has taken yet.
     const PropertyList& rest() const { return list_; }
-    CFxVariant valueOf(const CFxPropertyChanged& record) const { return record.GetValue(context_); }
+    CFxVariant valueOf(const CFxPropertyChanged& record) const { return record.GetValue(conversion.context); }
 
     /// Says that the object does not come into the macro; gives the statement that there is none.
     QString lost(const char* reason) const
     {
-        converter.LoseObject(reason);
+        LoseObject(object, reason);
         return {};
     }
 
 private:
     const OdDbObjectId id_;
     PropertyList& list_;
-    CFxValueContext context_;
     PropertyList* consumed_;
 };

@@ -2,8 +2,8 @@
 
 #include "objects/ChangeRows.h"
 
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/losses.h"
+#include "objects/properties.h"
 #include "objects/targets/dimensionOptions.h"
 
 #include <algorithm>
@@ -56,30 +56,30 @@ private:
 
 } // namespace
 
-void CFxConverterIWAPIObject::ConvertRows(const ChangeGroups& groups, PropertyList& list, const CFxString& name,
-                                          QString& text)
+void ConvertRows(Conversion& conversion, const ChangeGroups& groups, const RecordedObject& object, PropertyList& list,
+                 QString& text)
 {
-    const CFxValueContext context = driver.GetContext();
+    Writer& writer = conversion.writer;
     for (const ChangeGroup& group : groups) {
-        FetchedObjects objects(writer, name);
+        FetchedObjects objects(writer, object.name);
         for (const ChangeRows& part : group)
             for (const ChangeRow& row : part.rows) {
                 CFxVariant number;
-                const CFxVariant value = FindProperty(row.tag, list, context, nullptr, &number);
+                const CFxVariant value = FindProperty(conversion, row.tag, list, nullptr, &number);
                 const char* const secondTag = row.kind.secondTag;
-                const CFxVariant second = secondTag ? FindProperty(secondTag, list, context) : CFxVariant();
+                const CFxVariant second = secondTag ? FindProperty(conversion, secondTag, list) : CFxVariant();
                 if (value.IsNull() && second.IsNull())
                     continue;
                 const std::int32_t index = !row.kind.indexed || number.IsNull() ? -1 : number.GetInt32();
                 if (row.kind.indexed && index == -1) {
-                    LoseProperty(row.tag.text(), "its number is not recorded");
+                    LoseProperty(object, row.tag.text(), "its number is not recorded");
                     continue;
                 }
                 const CFxString target = objects.variable(part.on, text);
                 const QString statement =
-                    row.kind.statement({writer, row, target, value, second, index, number, IdOf(changedHandle)});
+                    row.kind.statement({writer, row, target, value, second, index, number, IdOf(object.handle)});
                 if (statement.isEmpty() && !row.kind.maySayNothing)
-                    LoseProperty(row.tag.text(), "the target has no statement that sets it so");
+                    LoseProperty(object, row.tag.text(), "the target has no statement that sets it so");
                 text += statement;
                 if (part.on && part.on->writtenBack)
                     text += EmitSetOptions(writer, *part.on, objects.variable(part.on->owner, text), target);

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "conversion/Conversion.h"
 #include "host/db/OdDbObjectId.h"
 #include "host/kernel/CFxVariant.h"
-#include "objects/PropertyTag.h"
+#include "objects/RecordedObject.h"
 #include "statements/Writer.h"
 #include "statements/enumerations.h"
 
@@ -84,3 +85,7 @@ public:
 private:
     std::vector<ChangeGroup> groups_;
 };
+
+/// Statements for the tags of a list, in its order: takes them out of `list` and appends to `text`.
+void ConvertRows(Conversion& conversion, const ChangeGroups& groups, const RecordedObject& object, PropertyList& list,
+                 QString& text);

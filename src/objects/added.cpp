@@ -1,9 +1,9 @@
 // Added objects: the frame around the readers.
 
 #include "host/db/OdDbClasses.h"
-#include "module/CFxConverterIWAPIImpl.h"
 #include "objects/AddedObject.h"
 #include "objects/classTable.h"
+#include "objects/entries.h"
 
 #include <algorithm>
 
@@ -25,27 +25,24 @@ void strike(const PropertyList& consumed, PropertyList& list)
 
 } // namespace
 
-std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, OdDbHandle handle, PropertyList& read,
-                                                         PropertyList& rest, QString& text)
+std::int32_t ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle,
+                                PropertyList& read, PropertyList& rest, QString& text)
 {
     if (!cls)
         return kFxFailure;
-    const ActionEntry* const entry = driver.FindEntry(handle);
+    RecordedObject object{cls, handle, {}};
+    const ActionEntry* const entry = conversion.names().FindEntry(handle);
     if (!entry) {
-        LoseNoteWithoutLeader(cls, handle);
+        LoseNoteWithoutLeader(conversion, object);
         return kFxSuccess;
     }
-
-    changedClass = cls;
-    changedHandle = handle;
     const OdDbObjectId id = IdOf(handle);
-    const CFxString name = ObjectVariableName(cls, id, entry->ordinal);
-    addedVariableById[id.getHandle()] = {cls, entry->ordinal};
+    object.name = conversion.names().NameAdded(*entry, cls, id);
 
     // Of two lists with the same records the same ones stay.
     const bool same = read == rest;
     PropertyList consumed;
-    AddedObject added(*this, writer, driver.GetContext(), id, name, read, same ? nullptr : &consumed);
+    AddedObject added(conversion, object, id, read, same ? nullptr : &consumed);
     if (const ClassRow* const row = FindClass(cls); row && row->reader)
         text = row->reader(added);
     if (same)
@@ -53,19 +50,20 @@ std::int32_t CFxConverterIWAPIObject::ConvertAddedObject(const OdRxClass* cls, O
     else
         strike(consumed, rest);
     // Settings make no hatch.
-    if (writer.repairs && cls == OdDbHatch::desc() && !IsMadeByAction(cls, handle))
+    if (conversion.writer.repairs && cls == OdDbHatch::desc() && !IsMadeByAction(conversion, object))
         text.clear();
-    if (text.isEmpty() && !IsMadeByAction(cls, handle))
-        driver.unmade.insert(handle);
+    if (text.isEmpty() && !IsMadeByAction(conversion, object))
+        conversion.names().SetUnmade(handle);
     // The hatch stands there already, and its general properties have to wait for no other statement.
-    const bool isThere = writer.repairs && cls == OdDbHatch::desc() && IsHatchInserted(name);
+    const bool isThere =
+        conversion.writer.repairs && cls == OdDbHatch::desc() && conversion.insertedHatches.contains(object.name);
     if ((text.isEmpty() || cls == OdDbHatch::desc()) && !isThere)
-        LoseUnmade(rest, !text.isEmpty());
+        LoseUnmade(conversion, object, rest, !text.isEmpty());
     if (text.isEmpty() && !isThere)
         return kFxSuccess;
 
     QString general;
-    if (ConvertObjectChanges(cls, handle, rest, true, general) != kFxSuccess)
+    if (ConvertObjectChanges(conversion, cls, handle, rest, true, general) != kFxSuccess)
         return kFxFailure;
     // Made at its full length: one that grows is allocated and copied once more.
     text = text + general;

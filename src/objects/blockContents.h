@@ -1,7 +1,16 @@
 #pragma once
 
-#include "host/db/OdDbObject.h"
-#include "host/kernel/CFxString.h"
+#include "conversion/Conversion.h"
+
+/// Which part of a collection's elements holds the handles.
+enum class HandlesIn
+{
+    Tags,
+    Values
+};
+
+/// The objects of a collection that has their handles as texts; none of a value that is no collection.
+OdArray<OdDbObjectId> ObjectsOf(const CFxVariant& collection, HandlesIn place);
 
 /// What a block definition is to be made of.
 struct BlockContents
@@ -13,3 +22,7 @@ struct BlockContents
     OdGePoint3d origin;
     OdArray<OdDbObjectId> ids;
 };
+
+/// Statements that make a block definition of entities which have a variable. The others are left out, but for the few
+/// kinds that are drawn for it.
+QString CreateBlockDefinition(Conversion& conversion, const BlockContents& contents);

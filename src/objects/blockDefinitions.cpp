@@ -2,9 +2,9 @@
 
 #include "objects/targets/blockDefinitions.h"
 #include "host/db/OdDbClassMap.h"
-#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/added/dimensionGeometry.h"
 #include "objects/blockContents.h"
+#include "objects/hatches.h"
 #include "objects/targets/curves.h"
 #include "objects/targets/dimensionsOnCurves.h"
 #include "objects/targets/hatchInsertions.h"
@@ -24,7 +24,7 @@ namespace {
 /// An entity on its way into a block.
 struct BlockEntity
 {
-    CFxConverterIWAPIObject& objects;
+    Conversion& conversion;
     Writer& writer;
     const OdDbObject* object; ///< never null where it is prepared
     CFxString name;           ///< its variable; empty when the macro has none
@@ -45,12 +45,12 @@ QString drawArc(BlockEntity& entity)
 QString fetchNote(BlockEntity& entity)
 {
     const OdDbHandle note = entity.object->getDbHandle();
-    const OdDbObjectId leader = entity.objects.LeaderOfNote(note);
+    const OdDbObjectId leader = GetNoteLeader(note);
     if (leader.isNull())
         return {};
     CFxString leaderName;
-    entity.fetch = entity.objects.EmitObjectVariable(leader.getHandle(), OdDbLeader::desc(), leaderName);
-    entity.name = entity.objects.NameObject(note, entity.object->isA());
+    entity.fetch = entity.conversion.names().EmitObjectVariable(leader.getHandle(), OdDbLeader::desc(), leaderName);
+    entity.name = entity.conversion.names().NameObject(note, entity.object->isA());
     return EmitGetNoteAnnotation(entity.writer, entity.name, leaderName);
 }
 
@@ -75,7 +75,7 @@ QString dimensionArc(BlockEntity& entity)
     const auto& dimension = static_cast<const OdDbArcDimension&>(*entity.object);
     entity.name = QStringLiteral("arcLengthDimension_%1").arg(processCounters.blockArcLengthDimensions++);
     const OdDbObjectPtr curve = GetDimensionGeometry(dimension);
-    const MeasuredCurve arc{curve, entity.objects.AddedVariable(curve->objectId())};
+    const MeasuredCurve arc{curve, entity.conversion.names().AddedVariable(curve->objectId())};
     return EmitDeclareObject(entity.writer, "ArcLengthDimension", entity.name) +
            EmitInsertArcLengthDimension(entity.writer, arc, dimension.xLine1Point(), dimension.xLine2Point(),
                                         dimension.isPartial(), dimension.arcPoint(),
@@ -109,7 +109,7 @@ struct HatchLoops
 /// A hatch that no custom action has inserted, though the macro has a variable for it.
 QString insertHatch(BlockEntity& entity)
 {
-    if (entity.name.isEmpty() || entity.objects.IsHatchInserted(entity.name))
+    if (entity.name.isEmpty() || entity.conversion.insertedHatches.contains(entity.name))
         return {};
     const auto& hatch = static_cast<const OdDbHatch&>(*entity.object);
     const HatchPattern pattern{hatch.patternName(), hatch.patternScale(), hatch.patternAngle()};
@@ -122,7 +122,8 @@ QString insertHatch(BlockEntity& entity)
     }
     if (loops.allAssociated)
         return EmitInsertHatchByEntities(entity.writer, entity.name,
-                                         entity.objects.BoundaryObjects(hatch.getAssocObjIds()), pattern, true);
+                                         BoundaryObjects(entity.conversion.names(), hatch.getAssocObjIds()), pattern,
+                                         true);
     if (loops.points.isEmpty())
         return {};
     loops.points.append(loops.points[0]);
@@ -209,21 +210,33 @@ const inkmacro::Phrase aheadOfFetch{"block entity",
 
 } // namespace
 
-QString CFxConverterIWAPIObject::CreateBlockDefinition(const BlockContents& contents)
+OdArray<OdDbObjectId> ObjectsOf(const CFxVariant& collection, HandlesIn place)
 {
+    OdArray<OdDbObjectId> ids;
+    for (const CFxVariantCollectionElement& element : collection.GetCollection().GetCollectionDataForRead()) {
+        const CFxVariant* const handle = place == HandlesIn::Tags ? element.GetTag() : element.GetValue();
+        ids.append(IdOf(OdDbHandle(handle->GetString().toQString().toULongLong(nullptr, 16))));
+    }
+    return ids;
+}
+
+QString CreateBlockDefinition(Conversion& conversion, const BlockContents& contents)
+{
+    Writer& writer = conversion.writer;
+    const Names& names = conversion.names();
     BlockDefinition definition{
         contents.variable, contents.name, contents.renewed, contents.description, contents.origin, {}, {}};
     QString text = EmitOpenBlockDefinition(writer, definition);
     for (const OdDbObjectId& id : contents.ids) {
         // What an entity is needs no more than the recording; what it looks like does.
         const OdDbObjectPtr object = id.openObject(true);
-        const OdRxClass* const cls = object ? object->isA() : KnownClass(id.getHandle());
+        const OdRxClass* const cls = object ? object->isA() : names.KnownClass(id.getHandle());
         const EntityKind* const kind = cls ? kindOf(cls) : nullptr;
         if (!kind) {
             loseEntity(cls, id, contents, cls ? "no block takes objects of its class" : "the drawing does not have it");
             continue;
         }
-        BlockEntity entity{*this, writer, object.get(), KnownVariable(id.getHandle())};
+        BlockEntity entity{conversion, writer, object.get(), names.KnownVariable(id.getHandle())};
         const QString statements = object && kind->prepare ? kind->prepare(entity) : QString();
         if (!entity.fetch.isEmpty())
             text += writer.fillIndented(aheadOfFetch).str() + entity.fetch;

@@ -4,7 +4,7 @@
 
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
-#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/properties.h"
 #include "objects/targets/dimensionOptions.h"
 #include "objects/targets/points.h"
 #include "objects/targets/setters.h"

@@ -1,9 +1,11 @@
 // What becomes of changed properties, and of those that an added object's reader left.
 
 #include "host/db/OdDbClasses.h"
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/ChangeRows.h"
 #include "objects/classTable.h"
+#include "objects/entries.h"
+#include "objects/losses.h"
+#include "objects/properties.h"
 #include "objects/targets/dimensionOptions.h"
 #include "objects/targets/references.h"
 #include "objects/targets/setters.h"
@@ -25,46 +27,115 @@ bool hasRecord(const PropertyList& list, const char* tag)
 
 } // namespace
 
-std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls, OdDbHandle handle, PropertyList& list,
-                                                           bool fromAdded, QString& text)
+/// Gives the variable of the object, and the statement that the changes need in front of them. False for an object
+/// that the macro does not know: its changes are dropped.
+static bool addressChangedObject(Conversion& conversion, RecordedObject& object, const OdDbObjectId& noteLeader,
+                                 const PropertyList& list, QString& text)
+{
+    const auto& [cls, handle, name] = object;
+    Names& names = conversion.names();
+    if (!cls)
+        return false;
+    if (!noteLeader.isNull()) {
+        object.name = names.NameObject(handle, cls);
+        CFxString leader;
+        if (!names.FindEntry(noteLeader.getHandle()))
+            conversion.faults.noteUnmade();
+        text += names.EmitVariableOfChanged(noteLeader.getHandle(), OdDbLeader::desc(), leader);
+        text += EmitGetNoteAnnotation(conversion.writer, name, leader);
+        return true;
+    }
+    if (names.FindEntry(handle)) {
+        text += names.EmitVariableOfChanged(handle, cls, object.name);
+        return true;
+    }
+    if (cls == OdDbBlockTableRecord::desc() && hasRecord(list, "Objects")) {
+        object.name = names.NameObject(handle, cls);
+        text += EmitDeclareObject(conversion.writer, "BlockDefinition", name);
+        return true;
+    }
+    // A sheet is found by its name in the records, it needs no variable.
+    return cls == OdDbLayout::desc();
+}
+
+static QString convertErased(Conversion& conversion, const RecordedObject& object, const CFxVariant& erased)
+{
+    Writer& writer = conversion.writer;
+    QString text;
+    CFxString target = object.name;
+    if (IsDimensionClass(object.cls))
+        text = EmitGetOptions(writer, generalDimension, object.name, target);
+    if (!erased.GetString().equalNoCase(ShownWord("YES"))) {
+        LoseProperty(object, "Erased", "what comes back has no statement");
+        return text;
+    }
+    if (object.cls == OdDbViewTableRecord::desc()) {
+        const OdDbObjectPtr opened = IdOf(object.handle).openObject(true);
+        if (const auto view = odrxCast<OdDbViewTableRecord>(opened.get()))
+            text += EmitRemoveNamedView(writer, object.name, view->getName(), view->isPaperspaceView());
+        else
+            LoseProperty(object, "Erased", "the drawing does not have the view");
+    } else if (object.cls == OdDbLayerTableRecord::desc()) {
+        text += EmitRemoveLayer(writer, object.name);
+    } else {
+        text += EmitSetBoolProperty(writer, target, "Erased", true);
+    }
+    return text;
+}
+
+static QString convertClassChanges(Conversion& conversion, const RecordedObject& object, PropertyList& list,
+                                   bool fromAdded)
+{
+    QString text;
+    const ClassRow* const row = FindClass(object.cls);
+    if (row && (!fromAdded || row->has(kSetWhenAdded))) {
+        if (row->changes.groups)
+            ConvertRows(conversion, *row->changes.groups, object, list, text);
+        else if (row->changes.handler)
+            row->changes.handler(conversion, object, list, text);
+    }
+    if (const CFxVariant erased = fromAdded ? CFxVariant() : FindProperty(conversion, "Erased", list); !erased.IsNull())
+        text += convertErased(conversion, object, erased);
+    return text;
+}
+
+static QString convertGeneral(Conversion& conversion, const RecordedObject& object, PropertyList& list, bool fromAdded,
+                              StatementGroup& group)
+{
+    // For the statements of an everyday object.
+    constexpr int room = 512;
+    QString general;
+    general.reserve(room);
+    CFxString target = object.name;
+    const QString dimension = IsDimensionClass(object.cls)
+                                  ? EmitGetOptions(conversion.writer, generalDimension, object.name, target)
+                                  : QString();
+    ConvertGeneralProperties(conversion, object, list, fromAdded, target, group, general);
+    if (!general.isEmpty())
+        general.prepend(dimension);
+    return general;
+}
+
+std::int32_t ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle,
+                                  PropertyList& list, bool fromAdded, QString& text)
 {
     text.clear();
-    changedClass = cls;
-    changedHandle = handle;
-    OdDbObjectId leader;
-    if (cls == OdDbMText::desc())
-        driver.GetNoteLeader(leader, handle);
+    RecordedObject object{cls, handle, {}};
+    const OdDbObjectId leader = cls == OdDbMText::desc() ? GetNoteLeader(handle) : OdDbObjectId();
     const OdDbObjectId noteLeader = fromAdded ? OdDbObjectId() : leader;
-    CFxString name;
-    if (!AddressChangedObject(cls, handle, noteLeader, list, name, text)) {
+    if (!addressChangedObject(conversion, object, noteLeader, list, text)) {
         NoteLoss("changes of " + ObjectTitle(cls, handle).toQString(),
-                 driver.unmade.contains(handle)
+                 conversion.names().IsUnmade(handle)
                      ? "no statement inserts the object, so the macro has no variable for it"
                      : "the recording did not add the object, so the macro has no variable for it");
         return kFxSuccess;
     }
 
-    StatementGroup group(writer);
-    // For the statements of an everyday object.
-    constexpr int room = 512;
-    QString general;
-    general.reserve(room);
-    QString classText;
-    if (cls->isDerivedFrom(OdDbEntity::desc())) {
-        CFxString target = name;
-        const QString dimension =
-            IsDimensionClass(cls) ? EmitGetOptions(writer, generalDimension, name, target) : QString();
-        ConvertGeneralProperties(list, fromAdded, cls == OdDbArcAlignedText::desc(), target, group, general);
-        if (!general.isEmpty())
-            general.prepend(dimension);
-    }
-    const ClassRow* const row = FindClass(cls);
-    if (row && (!fromAdded || row->has(kSetWhenAdded)))
-        ConvertClassChanges(*row, list, name, classText);
-    if (const CFxVariant erased = fromAdded ? CFxVariant() : FindProperty("Erased", list, driver.GetContext());
-        !erased.IsNull())
-        classText += ConvertErased(cls, handle, name, erased);
-    LoseRest(list, fromAdded);
+    StatementGroup group(conversion.writer);
+    const QString general =
+        cls->isDerivedFrom(OdDbEntity::desc()) ? convertGeneral(conversion, object, list, fromAdded, group) : QString();
+    const QString classText = convertClassChanges(conversion, object, list, fromAdded);
+    LoseRest(conversion, object, list, fromAdded);
 
     if (general.isEmpty() && classText.isEmpty()) {
         // Who left the group has given its level back already.
@@ -82,76 +153,6 @@ std::int32_t CFxConverterIWAPIObject::ConvertObjectChanges(const OdRxClass* cls,
     return kFxSuccess;
 }
 
-/// Gives the variable of the object, and the statement that the changes need in front of them. False for an object
-/// that the macro does not know: its changes are dropped.
-bool CFxConverterIWAPIObject::AddressChangedObject(const OdRxClass* cls, const OdDbHandle& handle,
-                                                   const OdDbObjectId& noteLeader, const PropertyList& list,
-                                                   CFxString& name, QString& text)
-{
-    if (!cls)
-        return false;
-    if (!noteLeader.isNull()) {
-        name = NameObject(handle, cls);
-        CFxString leader;
-        if (!driver.FindEntry(noteLeader.getHandle()))
-            driver.NoteUnmade();
-        if (writer.repairs)
-            text += EmitObjectVariable(noteLeader.getHandle(), OdDbLeader::desc(), leader);
-        else
-            leader = NameObject(noteLeader.getHandle(), OdDbLeader::desc());
-        text += EmitGetNoteAnnotation(writer, name, leader);
-        return true;
-    }
-    if (driver.FindEntry(handle)) {
-        if (writer.repairs)
-            text += EmitObjectVariable(handle, cls, name);
-        else
-            name = NameObject(handle, cls);
-        return true;
-    }
-    if (cls == OdDbBlockTableRecord::desc() && hasRecord(list, "Objects")) {
-        name = NameObject(handle, cls);
-        text += EmitDeclareObject(writer, "BlockDefinition", name);
-        return true;
-    }
-    // A sheet is found by its name in the records, it needs no variable.
-    return cls == OdDbLayout::desc();
-}
-
-void CFxConverterIWAPIObject::ConvertClassChanges(const ClassRow& row, PropertyList& list, const CFxString& name,
-                                                  QString& text)
-{
-    if (row.changes.groups)
-        ConvertRows(*row.changes.groups, list, name, text);
-    else if (row.changes.handler)
-        (this->*row.changes.handler)(list, name, text);
-}
-
-QString CFxConverterIWAPIObject::ConvertErased(const OdRxClass* cls, const OdDbHandle& handle, const CFxString& name,
-                                               const CFxVariant& erased)
-{
-    QString text;
-    CFxString target = name;
-    if (IsDimensionClass(cls))
-        text = EmitGetOptions(writer, generalDimension, name, target);
-    if (!erased.GetString().equalNoCase(ShownWord("YES"))) {
-        LoseProperty("Erased", "what comes back has no statement");
-        return text;
-    }
-    if (cls == OdDbViewTableRecord::desc()) {
-        const OdDbObjectPtr object = IdOf(handle).openObject(true);
-        if (const auto view = odrxCast<OdDbViewTableRecord>(object.get()))
-            text += EmitRemoveNamedView(writer, name, view->getName(), view->isPaperspaceView());
-        else
-            LoseProperty("Erased", "the drawing does not have the view");
-    } else if (cls == OdDbLayerTableRecord::desc()) {
-        text += EmitRemoveLayer(writer, name);
-    } else {
-        text += EmitSetBoolProperty(writer, target, "Erased", true);
-    }
-    return text;
-}
-
 /// A property that most entities have, by the tag of its records and the name in the interface.
 struct GeneralProperty
 {
@@ -159,10 +160,11 @@ struct GeneralProperty
     CFxString name;
 };
 
-std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& list, bool fromAdded, bool isCurvedText,
-                                                               const CFxString& target, StatementGroup& group,
-                                                               QString& text)
+void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& object, PropertyList& list, bool fromAdded,
+                              const CFxString& target, StatementGroup& group, QString& text)
 {
+    Writer& writer = conversion.writer;
+    const bool isCurvedText = object.cls == OdDbArcAlignedText::desc();
     // Made once: they are asked for with every entity.
     static const GeneralProperty color{"LineColor", "Color"};
     static const GeneralProperty layer{"Layer", "Layer"};
@@ -175,7 +177,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
 
     CFxVariant value;
     const auto take = [&](const GeneralProperty& property) {
-        value = FindProperty(property.tag, list, driver.GetContext());
+        value = FindProperty(conversion, property.tag, list);
         return !value.IsNull();
     };
     const auto leaveGroup = [&] {
@@ -194,7 +196,7 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
     }
     const auto addNamed = [&](const GeneralProperty& property, const QString& statement) {
         if (statement.isEmpty())
-            LoseProperty(property.tag.text(), QStringLiteral("the drawing does not have what it names"));
+            LoseProperty(object, property.tag.text(), QStringLiteral("the drawing does not have what it names"));
         text += statement;
     };
 
@@ -218,7 +220,6 @@ std::int32_t CFxConverterIWAPIObject::ConvertGeneralProperties(PropertyList& lis
         if (value.GetType() == CFxVariant::kTransparency)
             text += EmitSetTransparency(writer, target, value.GetTransparency());
         else
-            LoseProperty(transparency.tag.text(), "it is not recorded as a transparency");
+            LoseProperty(object, transparency.tag.text(), "it is not recorded as a transparency");
     }
-    return kFxSuccess;
 }

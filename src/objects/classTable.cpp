@@ -3,7 +3,6 @@
 #include "objects/classTable.h"
 
 #include "host/db/OdDbClassMap.h"
-#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/added/readers.h"
 #include "objects/changed/changeLists.h"
 
@@ -13,10 +12,8 @@
 
 namespace {
 
-using Objects = CFxConverterIWAPIObject;
-
 constexpr ClassRow kRows[] = {
-    {"AcDbLine", &ReadLine, &Objects::ConvertModifiedLine},
+    {"AcDbLine", &ReadLine, &ConvertModifiedLine},
     {"AcDbCircle", &ReadCircle, &modifiedCircle},
     {"AcDbPoint", &ReadPoint, &modifiedPoint},
     {"AcDbRay", &ReadRay, &modifiedRay},
@@ -27,11 +24,11 @@ constexpr ClassRow kRows[] = {
     {"AcDbAttributeDefinition", &ReadAttributeDefinition, &modifiedAttributeDefinition},
     {"AcDbText", &ReadSimpleNote, &modifiedSimpleNote},
     {"AcDbMText", &ReadNote, &modifiedNote},
-    {"AcDbBlockReference", &ReadBlockReference, &Objects::ConvertModifiedBlockInstance},
+    {"AcDbBlockReference", &ReadBlockReference, &ConvertModifiedBlockInstance},
     {"AcDbRasterImage", &ReadPicture, &modifiedPicture, kFinishedByCustomAction},
     {"AcDbMline", &ReadRichLine, &modifiedRichLine},
     {"AcDbFcf", &ReadTolerance, &modifiedTolerance},
-    {"AcDbTable", &ReadTable, &Objects::ConvertModifiedTable},
+    {"AcDbTable", &ReadTable, &ConvertModifiedTable},
     {"AcDbRegion", nullptr, nullptr, kFinishedByCustomAction},
     {"AcDbShape", &ReadShape, &modifiedShape},
     {"AcDbFace", &ReadFace, &modifiedFace},
@@ -43,9 +40,9 @@ constexpr ClassRow kRows[] = {
     {"AcDbOle2Frame", nullptr, &modifiedEmbeddedObject, kFinishedByCustomAction},
     {"AcDbPolyline", &ReadPolyline, &modifiedPolyline, kFinishedByCustomAction},
     {"AcDb2dPolyline", nullptr, nullptr, kOnlyNamed},
-    {"AcDbHatch", &ReadHatch, &Objects::ConvertModifiedHatch, kFinishedByCustomAction},
+    {"AcDbHatch", &ReadHatch, &ConvertModifiedHatch, kFinishedByCustomAction},
     {"AcDbPolyFaceMesh", &ReadPolyFaceMesh, &modifiedPolyFaceMesh},
-    {"AcDbBlockTableRecord", &ReadBlockDefinition, &Objects::ConvertModifiedBlockDefinition},
+    {"AcDbBlockTableRecord", &ReadBlockDefinition, &ConvertModifiedBlockDefinition},
     {"AcDbGroup", &ReadGroup, &modifiedGroup},
     // Of a changed view only its removal is converted.
     {"AcDbViewTableRecord", nullptr, nullptr, kFinishedByCustomAction},
@@ -65,8 +62,8 @@ constexpr ClassRow kRows[] = {
     {"AcDbMlineStyle", &ReadRichLineStyle, &modifiedRichLineStyle},
     {"AcDbViewport", &ReadViewport, &modifiedViewport},
     {"AcDbTrace", &ReadTrace, &modifiedTrace},
-    {"AcDbLayerTableRecord", &ReadLayer, &Objects::ConvertModifiedLayer},
-    {"AcDbLayout", nullptr, &Objects::ConvertModifiedSheet},
+    {"AcDbLayerTableRecord", &ReadLayer, &ConvertModifiedLayer},
+    {"AcDbLayout", nullptr, &ConvertModifiedSheet},
     {"AcDbViewportTableRecord", nullptr, &modifiedViewTile},
     {"AcDbArcAlignedText", &ReadCurvedText, &modifiedCurvedText},
     // Tables of records: their objects are taken, but have no variable.
@@ -110,7 +107,7 @@ bool IsSupportedClass(const OdRxClass* cls)
     return row && !row->has(kOnlyNamed);
 }
 
-bool CFxConverterIWAPIObject::IsDimensionClass(const OdRxClass* cls) const
+bool IsDimensionClass(const OdRxClass* cls)
 {
     const ClassRow* const row = FindClass(cls);
     return row && row->has(kDimension);

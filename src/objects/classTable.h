@@ -1,16 +1,16 @@
 #pragma once
 
-#include "module/CFxConverterIWAPIModule.h"
+#include "conversion/Conversion.h"
+#include "objects/RecordedObject.h"
 
 #include <span>
 
 class AddedObject;
 class ChangeGroups;
-class CFxConverterIWAPIObject;
 
 /// Converts the changes of one class, where they are more than a list of tags with a statement each. Takes the tags
-/// that it knows out of the list and appends their statements to `text`. `name` is the object's variable.
-using ChangeHandler = void (CFxConverterIWAPIObject::*)(PropertyList& list, const CFxString& name, QString& text);
+/// that it knows out of the list and appends their statements to `text`.
+using ChangeHandler = void (*)(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);
 
 /// The changes of one class: a list of tags, a handler, or nothing beyond what all classes have.
 struct ClassChanges
@@ -47,3 +47,7 @@ std::span<const ClassRow> ClassTable();
 const ClassRow* FindClass(const OdRxClass* cls);
 /// By the class's name, with case.
 const ClassRow* FindClass(const QString& name);
+
+/// Whether objects of that class are converted at all.
+bool IsSupportedClass(const OdRxClass* cls);
+bool IsDimensionClass(const OdRxClass* cls);

@@ -2,8 +2,7 @@
 
 #include "objects/hatches.h"
 
-#include "objects/CFxConverterIWAPIObject.h"
-#include "objects/targets/boundaryEntities.h"
+#include "objects/properties.h"
 #include "objects/targets/hatchPatterns.h"
 #include "objects/targets/points.h"
 
@@ -39,7 +38,7 @@ QString ConvertHatchCommonProperties(Writer& writer, const CFxString& pattern, c
     return text;
 }
 
-std::vector<BoundaryObject> CFxConverterIWAPIObject::BoundaryObjects(const OdArray<OdDbObjectId>& ids) const
+std::vector<BoundaryObject> BoundaryObjects(const Names& names, const OdArray<OdDbObjectId>& ids)
 {
     std::vector<BoundaryObject> boundary;
     std::set<OdDbObjectId> seen;
@@ -49,7 +48,7 @@ std::vector<BoundaryObject> CFxConverterIWAPIObject::BoundaryObjects(const OdArr
         OdDbObjectPtr object = id.openObject(true);
         if (!object)
             throw OdError(eNullObjectPointer);
-        boundary.push_back({std::move(object), AddedVariable(id)});
+        boundary.push_back({std::move(object), names.AddedVariable(id)});
     }
     return boundary;
 }

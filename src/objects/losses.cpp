@@ -1,12 +1,11 @@
 // What of an object's records does not come into the macro.
 
-#include "statements/losses.h"
+#include "objects/losses.h"
 #include "host/db/OdDbClassMap.h"
 #include "host/db/OdDbClasses.h"
-#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
+#include "objects/properties.h"
 #include "statements/actionKinds.h"
-#include "module/CFxConverterIWAPIImpl.h"
 
 #include <algorithm>
 #include <span>
@@ -91,9 +90,9 @@ const MadeByAction* madeByAction(const OdRxClass* cls)
 }
 
 /// A block inserts the hatches that it is made of.
-bool isInBlock(const OdRxClass* cls, const CFxConverterIWAPIImpl& driver)
+bool isInBlock(const OdRxClass* cls, const Conversion& conversion)
 {
-    return cls == OdDbHatch::desc() && driver.HasSiblingBlock();
+    return cls == OdDbHatch::desc() && conversion.HasSiblingBlock();
 }
 
 CFxString nameOfLineStyle(const OdDbObjectId& id)
@@ -134,49 +133,47 @@ bool isUsual(const QString& tag, const CFxVariant& value)
 
 } // namespace
 
-void CFxConverterIWAPIObject::LoseObject(const char* reason) const
+void LoseObject(const RecordedObject& object, const char* reason)
 {
-    NoteLoss(ObjectTitle(changedClass, changedHandle), reason);
+    NoteLoss(ObjectTitle(object.cls, object.handle), reason);
 }
 
-void CFxConverterIWAPIObject::LoseProperty(const QString& tag, const QString& reason) const
+void LoseProperty(const RecordedObject& object, const QString& tag, const QString& reason)
 {
-    GetFxSystemServices()->Notes().NoteLoss(changedHandle, tag, reason, [&] {
-        return CFxString("property \"" + tag + "\" of " + ObjectTitle(changedClass, changedHandle).toQString());
+    GetFxSystemServices()->Notes().NoteLoss(object.handle, tag, reason, [&] {
+        return CFxString("property \"" + tag + "\" of " + ObjectTitle(object.cls, object.handle).toQString());
     });
 }
 
-void CFxConverterIWAPIObject::LoseArcs(const OdDbPolyline& polyline) const
+void LoseArcs(const Conversion& conversion, const RecordedObject& object, const OdDbPolyline& polyline)
 {
     for (unsigned i = 0; i < polyline.numVerts(); ++i)
-        if (polyline.segType(i) == OdDbPolyline::kArc && !driver.HasSibling(inkmacro::kPolyline))
-            return LoseProperty("Vertex", "arcs come as lines");
+        if (polyline.segType(i) == OdDbPolyline::kArc && !conversion.HasSibling(inkmacro::kPolyline))
+            return LoseProperty(object, "Vertex", "arcs come as lines");
 }
 
-void CFxConverterIWAPIObject::LoseNoteWithoutLeader(const OdRxClass* cls, const OdDbHandle& handle) const
+void LoseNoteWithoutLeader(const Conversion& conversion, const RecordedObject& object)
 {
-    if (cls == OdDbMText::desc() && !driver.FindEntry(LeaderOfNote(handle).getHandle()))
-        NoteLoss(ObjectTitle(cls, handle), "a leader brings it that the macro does not have");
+    if (object.cls == OdDbMText::desc() && !conversion.names().FindEntry(GetNoteLeader(object.handle).getHandle()))
+        LoseObject(object, "a leader brings it that the macro does not have");
 }
 
-/// What is left of an added object is no loss when an action makes the object, nor when the object is lost itself, as a
-/// hatch without its action is.
-void CFxConverterIWAPIObject::LoseRest(const PropertyList& list, bool fromAdded) const
+void LoseRest(const Conversion& conversion, const RecordedObject& object, const PropertyList& list, bool fromAdded)
 {
     if (list.empty())
         return;
-    if (fromAdded && (changedClass == OdDbHatch::desc() || IsMadeByAction(changedClass, changedHandle)))
+    if (fromAdded && (object.cls == OdDbHatch::desc() || IsMadeByAction(conversion, object)))
         return;
     for (const CFxPropertyChangedPtr& record : list) {
         const QString& tag = record->GetName();
-        const bool isThere = fromAdded && (holds(insertedTags, changedClass, tag) ||
-                                           isUsual(tag, record->GetValue(driver.GetContext())));
-        if (!isThere && !holds(derivedTags, changedClass, tag))
-            LoseProperty(tag, "no statement sets it");
+        const bool isThere =
+            fromAdded && (holds(insertedTags, object.cls, tag) || isUsual(tag, record->GetValue(conversion.context)));
+        if (!isThere && !holds(derivedTags, object.cls, tag))
+            LoseProperty(object, tag, "no statement sets it");
     }
 }
 
-bool CFxConverterIWAPIObject::IsEntityOfAction(const OdRxClass* cls, std::int32_t kind)
+bool IsEntityOfAction(const OdRxClass* cls, std::int32_t kind)
 {
     return std::ranges::any_of(madeByActions, [&](const MadeByAction& made) {
         const OdRxClass* const known = oddbClassByName(made.cls);
@@ -184,32 +181,32 @@ bool CFxConverterIWAPIObject::IsEntityOfAction(const OdRxClass* cls, std::int32_
     });
 }
 
-bool CFxConverterIWAPIObject::IsMadeByAction(const OdRxClass* cls, const OdDbHandle& handle) const
+bool IsMadeByAction(const Conversion& conversion, const RecordedObject& object)
 {
-    if (cls == OdDbPolyline::desc())
-        return driver.HasSibling(inkmacro::kPolyline);
-    if (isInBlock(cls, driver))
+    if (object.cls == OdDbPolyline::desc())
+        return conversion.HasSibling(inkmacro::kPolyline);
+    if (isInBlock(object.cls, conversion))
         return true;
-    const MadeByAction* const row = madeByAction(cls);
-    const ClassRow* const known = FindClass(cls);
-    if (!row || !known || !driver.HasSibling(row->kind))
+    const MadeByAction* const row = madeByAction(object.cls);
+    const ClassRow* const known = FindClass(object.cls);
+    if (!row || !known || !conversion.HasSibling(row->kind))
         return false;
-    const bool onlyLast = known->has(kFinishedByCustomAction) && cls != OdDbViewTableRecord::desc();
-    return !onlyLast || handle == driver.lastFinished || driver.finished.contains(handle);
+    const bool onlyLast = known->has(kFinishedByCustomAction) && object.cls != OdDbViewTableRecord::desc();
+    return !onlyLast || object.handle == conversion.lastFinished || conversion.finished.contains(object.handle);
 }
 
-void CFxConverterIWAPIObject::LoseUnmade(PropertyList& rest, bool written)
+void LoseUnmade(Conversion& conversion, const RecordedObject& object, PropertyList& rest, bool written)
 {
-    const MadeByAction* const row = madeByAction(changedClass);
+    const MadeByAction* const row = madeByAction(object.cls);
     if (!row)
         return;
-    if (!isInBlock(changedClass, driver) && !driver.HasSibling(row->kind)) {
-        LoseObject("no action of its command makes it");
+    if (!isInBlock(object.cls, conversion) && !conversion.HasSibling(row->kind)) {
+        LoseObject(object, "no action of its command makes it");
         return;
     }
-    if (written || !changedClass->isDerivedFrom(OdDbEntity::desc()))
+    if (written || !object.cls->isDerivedFrom(OdDbEntity::desc()))
         return;
     for (const auto& [tag, isUsual] : generalTags)
-        if (const CFxVariant value = FindProperty(tag, rest, driver.GetContext()); !value.IsNull() && !isUsual(value))
-            LoseProperty(tag, "the action that makes the object does not set it");
+        if (const CFxVariant value = FindProperty(conversion, tag, rest); !value.IsNull() && !isUsual(value))
+            LoseProperty(object, tag, "the action that makes the object does not set it");
 }

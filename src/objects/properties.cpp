@@ -1,23 +1,14 @@
 // Property records: the lookup through which every value is read.
 
-#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/properties.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
 
-namespace {
-
-QString translated(const char* context, const QString& key)
-{
-    return QCoreApplication::translate(context, key.toUtf8().constData(), nullptr, -1);
-}
-
-} // namespace
-
 CFxString ShownWord(const char* word)
 {
-    return translated("property_values", word);
+    return QCoreApplication::translate("property_values", word, nullptr, -1);
 }
 
 CFxString ElementText(const CFxVariant& value)
@@ -41,38 +32,12 @@ bool IsYes(const CFxVariant& value)
     return ElementText(value) == ShownWord("Yes");
 }
 
-bool IsOn(const CFxVariant& value)
+CFxVariant FindProperty(Conversion& conversion, const PropertyTag& tag, PropertyList& list, PropertyList* consumed,
+                        CFxVariant* index)
 {
-    return ElementText(value) == ShownWord("On");
-}
-
-const QString& CFxConverterIWAPIObject::BlockAttributes()
-{
-    if (blockAttributes.isNull())
-        blockAttributes = translated("property_groups", "BlockAttributes");
-    return blockAttributes;
-}
-
-/// The catalogues are asked once for each tag of a conversion, not for each record.
-const CFxConverterIWAPIObject::TagWords& CFxConverterIWAPIObject::TranslateTag(const PropertyTag& tag)
-{
-    if (tag.number() >= tagWords.size())
-        tagWords.resize(tag.number() + 1);
-    TagWords& words = tagWords[tag.number()];
-    const CFxString groupWord = translated("property_groups", tag.text());
-    words.searchesGroup = groupWord.equalNoCase(BlockAttributes()) && groupWord.equalNoCase(tag.text());
-    words.translated = translated("property_types", tag.text());
-    return words;
-}
-
-CFxVariant CFxConverterIWAPIObject::FindProperty(const PropertyTag& tag, PropertyList& list,
-                                                 CFxValueContext valueContext, PropertyList* consumed,
-                                                 CFxVariant* index)
-{
-    const bool known = tag.number() < tagWords.size() && !tagWords[tag.number()].translated.isNull();
-    const TagWords& words = known ? tagWords[tag.number()] : TranslateTag(tag);
+    const TagWords::Words& words = conversion.tags.of(tag);
     const auto byGroup = [&](const CFxPropertyChanged& record) {
-        return words.searchesGroup && record.GetGroup().equalNoCase(blockAttributes);
+        return words.searchesGroup && record.GetGroup().equalNoCase(conversion.tags.blockAttributes());
     };
     const auto end = list.end();
     auto found = list.begin();
@@ -89,17 +54,16 @@ CFxVariant CFxConverterIWAPIObject::FindProperty(const PropertyTag& tag, Propert
     if (consumed)
         consumed->push_back(record);
     if (index)
-        *index = byGroup(*record) ? CFxVariant(record->GetName()) : record->GetIndex(valueContext);
-    return record->GetValue(valueContext);
+        *index = byGroup(*record) ? CFxVariant(record->GetName()) : record->GetIndex(conversion.context);
+    return record->GetValue(conversion.context);
 }
 
-OdGePoint3d CFxConverterIWAPIObject::FindPoint(const PropertyTag& xTag, const PropertyTag& yTag,
-                                               const PropertyTag& zTag, PropertyList& list,
-                                               CFxValueContext valueContext, PropertyList* consumed)
+OdGePoint3d FindPoint(Conversion& conversion, const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag,
+                      PropertyList& list, PropertyList* consumed)
 {
     // A null variant's double is 0.0. The reads are statements of their own because their order counts.
-    const double x = FindProperty(xTag, list, valueContext, consumed).GetDouble();
-    const double y = FindProperty(yTag, list, valueContext, consumed).GetDouble();
-    const double z = FindProperty(zTag, list, valueContext, consumed).GetDouble();
+    const double x = FindProperty(conversion, xTag, list, consumed).GetDouble();
+    const double y = FindProperty(conversion, yTag, list, consumed).GetDouble();
+    const double z = FindProperty(conversion, zTag, list, consumed).GetDouble();
     return {x, y, z};
 }

@@ -14,7 +14,7 @@
 
 namespace {
 
-using Records = std::vector<CFxSnapshotRecord>;
+using Records = std::vector<CFxVariantCollectionElement>;
 
 void add(Records& target, const CFxString& tag, const CFxVariant& value)
 {
@@ -286,7 +286,7 @@ void noteCurrentLayout()
 
 } // namespace
 
-void TakeSnapshot(const OdDbObject* object, std::vector<CFxSnapshotRecord>& target)
+void TakeSnapshot(const OdDbObject* object, std::vector<CFxVariantCollectionElement>& target)
 {
     noteCurrentLayout();
     add(target, "Erased", word(object->isErased()));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/CFxConverterIWAPIModule.h"
+#include "host/kernel/CFxActions.h"
 
 /// Appends the records of one object, and notes the current layout if the recording has just begun.
-void TakeSnapshot(const OdDbObject* object, std::vector<CFxSnapshotRecord>& target);
+void TakeSnapshot(const OdDbObject* object, std::vector<CFxVariantCollectionElement>& target);

@@ -50,30 +50,3 @@ CFxString ActionTitle(const OdRxObject* action)
         return "action";
     }
 }
-
-bool ActionKinds::has(std::int32_t kind) const
-{
-    look();
-    return kinds_->contains(kind);
-}
-
-bool ActionKinds::hasBlock() const
-{
-    look();
-    return hasBlock_;
-}
-
-void ActionKinds::look() const
-{
-    if (kinds_)
-        return;
-    kinds_.emplace();
-    for (const OdRxObjectPtr& action : actions_) {
-        if (const auto custom = odrxQuery<CFxCustomAction>(action.get()))
-            kinds_->insert(custom->GetKind());
-        else if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
-            hasBlock_ = hasBlock_ || added->GetObjectClass() == OdDbBlockTableRecord::desc();
-        else if (const auto modified = odrxQuery<CFxObjectModified>(action.get()))
-            hasBlock_ = hasBlock_ || modified->GetObjectClass() == OdDbBlockTableRecord::desc();
-    }
-}

@@ -4,9 +4,6 @@
 #include "host/kernel/CFxServices.h"
 #include "host/kernel/CFxStatus.h"
 
-#include <optional>
-#include <set>
-
 /// What an action is called in notes: `added AcDbLine 2F`, `custom move`.
 CFxString ActionTitle(const OdRxObject* action);
 /// Class and handle.
@@ -19,9 +16,9 @@ inline void NoteLoss(const CFxString& what, const CFxString& reason)
 }
 
 /// The same of a custom action for which nothing is written; gives the status of its handler.
-inline std::int32_t PassOver(const OdSmartPtr<CFxCustomAction>& action, const CFxString& reason)
+inline std::int32_t PassOver(const CFxCustomAction& action, const CFxString& reason)
 {
-    NoteLoss(ActionTitle(action.get()), reason);
+    NoteLoss(ActionTitle(&action), reason);
     return kFxSuccess;
 }
 
@@ -34,21 +31,4 @@ public:
 private:
     static std::size_t count() { return GetFxSystemServices()->Notes().GetLossCount(); }
     const std::size_t before_ = count();
-};
-
-/// The kinds of custom action that stand side by side. They are looked at when the first is asked for.
-class ActionKinds
-{
-public:
-    explicit ActionKinds(const CFxActionArray& actions) : actions_(actions) {}
-    bool has(std::int32_t kind) const;
-    /// Whether a block definition is added or changed beside them.
-    bool hasBlock() const;
-
-private:
-    void look() const;
-
-    const CFxActionArray& actions_;
-    mutable std::optional<std::set<std::int32_t>> kinds_;
-    mutable bool hasBlock_ = false;
 };

@@ -3,6 +3,8 @@
 #include "TestRecords.h"
 #include "TestTarget.h"
 
+#include "host/db/OdDbClassMap.h"
+#include "objects/ChangeRows.h"
 #include "objects/classTable.h"
 
 /// A record of a repeated property.
@@ -20,11 +22,12 @@ inline CFxVariantCollectionElement item(std::int32_t number, const char* text)
 inline QString changedIn(TestTarget& made, const char* cls, PropertyList list)
 {
     QString text;
+    const RecordedObject object{oddbClassByName(cls), {}, "it1"};
     const ClassChanges& changes = FindClass(QString(cls))->changes;
     if (changes.groups)
-        made.objects.ConvertRows(*changes.groups, list, "it1", text);
+        ConvertRows(made.conversion, *changes.groups, object, list, text);
     else
-        (made.objects.*changes.handler)(list, "it1", text);
+        changes.handler(made.conversion, object, list, text);
     EXPECT_TRUE(list.empty()) << cls;
     return text;
 }

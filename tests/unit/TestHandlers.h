@@ -4,6 +4,8 @@
 #include "TestDrawing.h"
 #include "TestTarget.h"
 
+#include "module/walk.h"
+
 /// Hands custom actions to their handlers, one by one and to C#, in an open drawing.
 class Handlers : public testing::Test
 {
@@ -11,7 +13,7 @@ protected:
     std::int32_t convert(std::int32_t kind, const TestData& data, const QString& before = "x")
     {
         text = before;
-        return driver.ConvertAction(odrxNew<TestCustom>(kind, data), text);
+        return ConvertAction(conversion, odrxNew<TestCustom>(kind, data), text);
     }
     std::string converted(std::int32_t kind, const TestData& data, const QString& before = "x")
     {
@@ -21,7 +23,7 @@ protected:
 
     TestDrawing drawing;
     TestTarget csharp{inkmacro::Target::CSharp};
-    TestTarget::Driver& driver = csharp.driver;
-    TestConversion conversion; ///< for actions within a recording
+    Conversion& conversion = csharp.conversion;
+    TestConversion recording; ///< for actions within a recording
     QString text;              ///< what the last action left
 };

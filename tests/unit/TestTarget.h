@@ -1,8 +1,8 @@
 #pragma once
 
 #include "host/kernel/CFxServices.h"
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
+#include "conversion/Conversion.h"
+#include "host/db/OdDbClasses.h"
 
 #include <gtest/gtest.h>
 
@@ -15,10 +15,8 @@ inline constexpr inkmacro::Target allTargets[] = {
 /// target's language.
 struct TestTarget
 {
-    using Driver = CFxConverterIWAPIImpl;
-
     explicit TestTarget(inkmacro::Target target, unsigned level = 0)
-        : before_(GetFxSystemServices()->GetInt16("RecordingLanguage")), driver(target, 1)
+        : before_(GetFxSystemServices()->GetInt16("RecordingLanguage")), conversion(target, 1)
     {
         GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(target));
         writer.IndentLevel = level;
@@ -32,7 +30,7 @@ private:
 
 public:
     Driver driver;
-    Writer& writer = driver.writer;
+    Writer& writer = conversion.writer;
     CFxConverterIWAPIObject objects{driver};
 };
 

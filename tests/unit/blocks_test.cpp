@@ -28,7 +28,7 @@ protected:
 
     void know(std::uint64_t handle, const char* cls)
     {
-        made.driver.RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
+        made.conversion.names().RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
     }
     void drawKnown(std::uint64_t handle, const char* cls, const TestFields& fields = {})
     {
@@ -44,14 +44,14 @@ protected:
     }
     QString block(const Ids& entities)
     {
-        return made.objects.CreateBlockDefinition({"b", "B", false, "", {}, entities});
+        return CreateBlockDefinition(made.conversion, {"b", "B", false, "", {}, entities});
     }
     QString add(const char* cls, std::uint64_t handle, PropertyList records = {})
     {
         know(handle, cls);
         PropertyList rest;
         QString text;
-        EXPECT_EQ(made.objects.ConvertAddedObject(oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
+        EXPECT_EQ(ConvertAddedObject(made.conversion, oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
                   kFxSuccess);
         return text;
     }
@@ -93,8 +93,8 @@ TEST_F(Blocks, TakeEntitiesThatTheMacroKnowsByTheFirstKindThatFits)
     for (const auto& [cls, type] : kinds) {
         TestTarget target(Target::Cpp);
         drawing.add(0x10, cls);
-        target.driver.RegisterObject(OdDbHandle(0x10), oddbClassByName(cls));
-        const QString text = target.objects.CreateBlockDefinition({"b", "B", false, "", {}, ids({0x10})});
+        target.conversion.names().RegisterObject(OdDbHandle(0x10), oddbClassByName(cls));
+        const QString text = CreateBlockDefinition(target.conversion, {"b", "B", false, "", {}, ids({0x10})});
         EXPECT_TRUE(text.contains(QString(" objecttypes_1.add(%1);\n").arg(type))) << cls << '\n' << text.toStdString();
     }
 }
@@ -164,14 +164,14 @@ TEST_F(Blocks, TellFromTheLoopsHowAHatchWasMade)
               "  \"P\", \n  1, \n  0 );");
     EXPECT_EQ(hatched({{1, {}, {}}, {4, {}, {}}}), "");
 
-    made.driver.insertedHatches.insert("hatch1");
+    made.conversion.insertedHatches.insert("hatch1");
     EXPECT_EQ(hatched({{2, corner, {}}}), "") << "a custom action has inserted it";
 }
 
 TEST_F(Blocks, KeepTheirNamesWhenTheyAreRenewed)
 {
     const auto renewed = [&](TestTarget& target) {
-        return target.objects.CreateBlockDefinition({"b", "B", true, "d", {1, 2, 3}, {}});
+        return CreateBlockDefinition(target.conversion, {"b", "B", true, "d", {1, 2, 3}, {}});
     };
     const auto tail = [](QString text) {
         text.remove(".00000000000000");
@@ -229,7 +229,7 @@ TEST_F(Blocks, AreReferencedByTheRecordsAloneWhenTheDrawingLacksThem)
               "1, 2, 1, 0 );\n");
     drawing.add(kReference, "AcDbLine");
     QString text;
-    EXPECT_EQ(made.driver.ConvertAction(odrxNew<TestAdded>("AcDbBlockReference", kReference), text), kFxFailure);
+    EXPECT_EQ(ConvertAction(made.conversion, odrxNew<TestAdded>("AcDbBlockReference", kReference), text), kFxFailure);
 }
 
 TEST_F(Blocks, LeaveUnknownObjectsOutOfGroups)

@@ -30,13 +30,13 @@ protected:
     /// The text of a change to an object that the macro has a variable for.
     QString change(TestTarget& made, const char* cls, PropertyList list)
     {
-        made.driver.RegisterObject(OdDbHandle(1), oddbClassByName(cls));
+        made.conversion.names().RegisterObject(OdDbHandle(1), oddbClassByName(cls));
         return changeAsItIs(made, cls, 1, std::move(list));
     }
     static QString changeAsItIs(TestTarget& made, const char* cls, std::uint64_t handle, PropertyList list)
     {
         QString text = "left from before";
-        EXPECT_EQ(made.objects.ConvertObjectChanges(oddbClassByName(cls), OdDbHandle(handle), list, false, text),
+        EXPECT_EQ(ConvertObjectChanges(made.conversion, oddbClassByName(cls), OdDbHandle(handle), list, false, text),
                   kFxSuccess);
         return text;
     }
@@ -128,7 +128,7 @@ TEST_F(Changes, OfUnknownObjectsAreDropped)
     };
     EXPECT_EQ(unknown("AcDbLine", {layer()}), "");
     EXPECT_EQ(unknown("AcDbBlockTableRecord", {record("Description", CFxString("Door"))}), "");
-    EXPECT_EQ(made.driver.objectCounter, 0U);
+    EXPECT_EQ(made.objectCount(), 0U);
     EXPECT_TRUE(unknown("AcDbBlockTableRecord", {record("Objects", CFxVariantCollection())})
                     .startsWith("    BlockDefinition blockdefinition1;\n    {\n"));
     // A sheet has no variable and is not dropped for that.
@@ -136,7 +136,7 @@ TEST_F(Changes, OfUnknownObjectsAreDropped)
     EXPECT_EQ(unknown("AcDbLayout", {record("Erased", CFxString("YES"))}), "    {\n        .Erased = true;\n    }\n");
     QString text;
     PropertyList list{layer()};
-    EXPECT_EQ(made.objects.ConvertObjectChanges(nullptr, OdDbHandle(5), list, false, text), kFxSuccess);
+    EXPECT_EQ(ConvertObjectChanges(made.conversion, nullptr, OdDbHandle(5), list, false, text), kFxSuccess);
     EXPECT_EQ(text, "");
     EXPECT_EQ(made.writer.IndentLevel, 1U);
 }
@@ -147,7 +147,7 @@ TEST_F(Changes, OfALeadersNoteFetchTheNoteFirst)
     drawing.add(0x20, "AcDbMText", {{"reactors", OdArray<OdDbObjectId>{drawing.id(0x21)}}});
 
     TestTarget made(Target::CSharp, 1);
-    made.driver.RegisterObject(OdDbHandle(0x21), OdDbLeader::desc());
+    made.conversion.names().RegisterObject(OdDbHandle(0x21), OdDbLeader::desc());
     EXPECT_EQ(changeAsItIs(made, "AcDbMText", 0x20, {layer()}),
               "    Note note2 = leader1.GetNoteAnnotation();\n    {\n        note2.Layer = \"Walls\";\n    }\n");
     EXPECT_EQ(changeAsItIs(made, "AcDbMText", 0x20, {record("Linear scale", 2.0)}), "");
@@ -291,10 +291,10 @@ TEST_F(Changes, ThatEraseANamedViewAskByItsName)
 TEST_F(Changes, OfAddedObjectsAreTheGeneralOnesAlone)
 {
     TestTarget made(Target::CSharp, 1);
-    made.driver.RegisterObject(OdDbHandle(1), oddbDwgClassMapDesc(27));
+    made.conversion.names().RegisterObject(OdDbHandle(1), oddbDwgClassMapDesc(27));
     const PropertyList list{record("Erased", CFxString("YES")), record("Transparency", OdCmTransparency{}), layer()};
     QString text;
-    ASSERT_EQ(made.objects.ConvertObjectAdded(odrxNew<TestAdded>("AcDbPoint", 1, list, list), text), kFxSuccess);
+    ASSERT_EQ(ConvertObjectAdded(made.conversion, *odrxNew<TestAdded>("AcDbPoint", 1, list, list), text), kFxSuccess);
     EXPECT_EQ(text,
               "    point1 = iwSketchManager.InsertPoint( 0.00000000000000, 0.00000000000000, 0.00000000000000 );\n"
               "    {\n        point1.Layer = \"Walls\";\n    }\n");
@@ -379,7 +379,7 @@ TEST(References, FetchAnObjectThatTheMacroDidNotMake)
     CFxString name;
     const auto fetch = [&](TestTarget& made) {
         made.driver.objectCounter = 4;
-        return made.objects.EmitObjectVariable(OdDbHandle(0x1AF), oddbDwgClassMapDesc(17), name);
+        return made.conversion.names().EmitObjectVariable(OdDbHandle(0x1AF), oddbDwgClassMapDesc(17), name);
     };
     expectInAllTargets(
         {
@@ -399,11 +399,11 @@ TEST(References, FetchAnObjectThatTheMacroDidNotMake)
     EXPECT_EQ(name, CFxString("circlearc5"));
 
     TestTarget made(Target::CSharp, 1);
-    made.driver.RegisterObject(OdDbHandle(0x1AF), oddbDwgClassMapDesc(17));
+    made.conversion.names().RegisterObject(OdDbHandle(0x1AF), oddbDwgClassMapDesc(17));
     EXPECT_EQ(fetch(made), "");
     EXPECT_EQ(name, CFxString("circlearc1"));
-    EXPECT_EQ(made.driver.objectCounter, 4U);
-    EXPECT_EQ(made.objects.EmitObjectVariable(OdDbHandle(2), oddbClassByName("HostWeldSymbol"), name), "");
+    EXPECT_EQ(made.objectCount(), 4U);
+    EXPECT_EQ(made.conversion.names().EmitObjectVariable(OdDbHandle(2), oddbClassByName("HostWeldSymbol"), name), "");
     EXPECT_EQ(name, CFxString("circlearc1"));
 }
 

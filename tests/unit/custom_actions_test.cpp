@@ -32,7 +32,7 @@ const OdRxClass* cls(const char* name)
 class CustomActions : public Handlers
 {
 protected:
-    CustomActions() { driver.RegisterObject(OdDbHandle(0x1a), oddbClassByName("AcDbLine")); }
+    CustomActions() { conversion.names().RegisterObject(OdDbHandle(0x1a), oddbClassByName("AcDbLine")); }
 };
 
 TEST_F(CustomActions, WithoutAHandlerAreRefused)
@@ -112,7 +112,7 @@ TEST_F(CustomActions, MayHaveNothingToSay)
     EXPECT_EQ(converted(39, {OdDbHandle(0x1a), cls("HostWeldSymbol"), CFxString("A"), CFxString("B")}), "x");
     // A value of another type is that type's neutral value.
     EXPECT_EQ(converted(46, {Points(), Points(), true, OdDbHandle(9), 1, CFxString("A3")}, {}), "");
-    EXPECT_EQ(driver.objectCounter, 1U);
+    EXPECT_EQ(csharp.objectCount(), 1U);
     EXPECT_NE(converted(3, {1, 1, OdGePoint3d{1.0, 1.0, 1.0}}).find("[0];\n\n\n iwApp"), std::string::npos);
     EXPECT_TRUE(text.endsWith("MoveEntities(0, 0, 0, iwEntities0);\n"));
 }
@@ -139,7 +139,7 @@ TEST_F(CustomActions, EraseALeadersNoteThroughItsLeader)
 {
     drawing.add(0x30, "AcDbLeader");
     drawing.add(0x2f, "AcDbMText", {{"reactors", OdArray<OdDbObjectId>{drawing.id(0x30)}}});
-    driver.RegisterObject(OdDbHandle(0x30), oddbClassByName("AcDbLeader"));
+    conversion.names().RegisterObject(OdDbHandle(0x30), oddbClassByName("AcDbLeader"));
     const TestData data{Handles{OdDbHandle(0x1a), OdDbHandle(0x77), OdDbHandle(0x2f)},
                         Classes{cls("AcDbLine"), cls("HostWeldSymbol"), cls("AcDbMText")}};
     EXPECT_EQ(converted(17, data, {}), " Note note3 = leader2.GetNoteAnnotation();\n"
@@ -155,8 +155,8 @@ TEST_F(CustomActions, EraseALeadersNoteThroughItsLeader)
 
 TEST_F(CustomActions, SetElementColorsInVariablesThatAreDeclaredOnce)
 {
-    const QString first = EmitSetElementColor(driver.writer, 7, OdCmColor::byIndex(30));
-    const QString second = EmitSetElementColor(driver.writer, 7, OdCmColor::byIndex(30));
+    const QString first = EmitSetElementColor(conversion.writer, 7, OdCmColor::byIndex(30));
+    const QString second = EmitSetElementColor(conversion.writer, 7, OdCmColor::byIndex(30));
     EXPECT_EQ(second, " ElementOption = (iwElementColor_e)7;\n"
                       " iwColor1 = iwApp.GetColorByIndex( 30 );\n"
                       " appOption.SetElementColor(ElementOption, iwColor1);\n");
@@ -206,7 +206,7 @@ TEST_F(CustomActions, ChangeOnlyGroupsThatTheMacroKnows)
     const TestData data{Handles{OdDbHandle(0x1a)}, Classes{cls("AcDbLine")}, CFxString("Chairs")};
     for (const std::int32_t kind : {37, 38})
         EXPECT_EQ(converted(kind, data), "x");
-    driver.RegisterObject(OdDbHandle(0x40), oddbClassByName("AcDbGroup"));
+    conversion.names().RegisterObject(OdDbHandle(0x40), oddbClassByName("AcDbGroup"));
     EXPECT_EQ(converted(37, data), "x\n"
                                    " if ( !group2.HasEntity(line1) )\n"
                                    " {\n"
@@ -236,7 +236,7 @@ TEST_F(CustomActions, ActivateJoinAndExplodeByVariable)
     const OdDbHandle known(0x1a);
     EXPECT_EQ(converted(45, {Handles{known, OdDbHandle(2)}, Classes{cls("AcDbLine"), cls("AcDbArc")}}),
               "x line1.Activate();\n");
-    driver.RegisterObject(OdDbHandle(0x2b), oddbClassByName("AcDbPolyline"));
+    conversion.names().RegisterObject(OdDbHandle(0x2b), oddbClassByName("AcDbPolyline"));
     EXPECT_EQ(converted(50, {known, cls("AcDbLine"), OdDbHandle(0x2b), cls("AcDbPolyline")}),
               " line1.Join( polyline2 );\n");
     EXPECT_EQ(converted(55, {Handles{known, OdDbHandle(9), OdDbHandle(0x2b)},
@@ -269,7 +269,7 @@ TEST_F(CustomActions, InsertViewportsWithoutABlock)
               "     Coordinates1( 2 )=3\n     Set v = sheetsArray1.InsertViewport( Coordinates1 )\n End If\n");
     // A known variable is used and no object registered.
     EXPECT_TRUE(QString::fromStdString(converted(46, data, "viewport7")).startsWith(" Viewport viewport7 = null;\n"));
-    EXPECT_EQ(driver.objectCounter, 1U);
+    EXPECT_EQ(csharp.objectCount(), 1U);
 }
 
 TEST_F(CustomActions, SetPrintStylesOfModelAndSheets)

@@ -43,9 +43,9 @@ protected:
     std::string change(TestTarget& made, const char* cls, PropertyList list, bool fromAdded = false)
     {
         const OdRxClass* const type = oddbClassByName(cls);
-        made.driver.RegisterObject(OdDbHandle(handleOf(cls)), type);
+        made.conversion.names().RegisterObject(OdDbHandle(handleOf(cls)), type);
         QString text;
-        EXPECT_EQ(made.objects.ConvertObjectChanges(type, OdDbHandle(handleOf(cls)), list, fromAdded, text),
+        EXPECT_EQ(ConvertObjectChanges(made.conversion, type, OdDbHandle(handleOf(cls)), list, fromAdded, text),
                   kFxSuccess);
         static const QRegularExpression group("^(\\{|\\}|If 1 Then|End If|)\n", QRegularExpression::MultilineOption);
         return text.remove(QRegularExpression("^ +", QRegularExpression::MultilineOption)).remove(group).toStdString();
@@ -70,7 +70,7 @@ protected:
             TestTarget made(target);
             Expected expected(target, target == Target::Cpp ? CFxString("iw" + QString(variable)) : variable);
             // The fetch of a dimension for its general properties takes a number, though none of them is there.
-            if (made.objects.IsDimensionClass(oddbClassByName(cls)))
+            if (IsDimensionClass(oddbClassByName(cls)))
                 expected.skipNumber();
             for (const Group& group : groups)
                 expected.add(group);

@@ -38,10 +38,10 @@ protected:
 
     QString add(const char* cls, std::uint64_t handle, PropertyList records, TestTarget& target)
     {
-        target.driver.RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
+        target.conversion.names().RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
         PropertyList rest;
         QString text;
-        EXPECT_EQ(target.objects.ConvertAddedObject(oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
+        EXPECT_EQ(ConvertAddedObject(target.conversion, oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
                   kFxSuccess);
         return text.remove(".00000000000000");
     }

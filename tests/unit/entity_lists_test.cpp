@@ -21,7 +21,7 @@ struct Lists : TestTarget
 {
     explicit Lists(Target target) : TestTarget(target)
     {
-        driver.RegisterObject(OdDbHandle(0x1a), oddbClassByName("AcDbLine"));
+        conversion.names().RegisterObject(OdDbHandle(0x1a), oddbClassByName("AcDbLine"));
         writer.UniqueCounter = 4;
     }
     std::string convert(std::int32_t kind, TestData values)
@@ -34,7 +34,7 @@ struct Lists : TestTarget
     std::string run(std::int32_t kind, const TestData& data)
     {
         QString text;
-        EXPECT_EQ(driver.ConvertCustomAction(odrxNew<TestCustom>(kind, data), text), kFxSuccess);
+        EXPECT_EQ(ConvertCustomAction(conversion, *odrxNew<TestCustom>(kind, data), text), kFxSuccess);
         EXPECT_EQ(writer.UniqueCounter, 4U);
         EXPECT_EQ(writer.IndentLevel, 0U);
         return text.toStdString();
@@ -364,7 +364,7 @@ TEST(Selections, TakeTheFormOfTheirMode)
         EXPECT_EQ(lists.select(mode, four), head + tail);
     QString text;
     EXPECT_THROW(EmitSelectEntities(lists.writer, 1, {}, false), OdError);
-    EXPECT_EQ(lists.driver.ConvertAction(odrxNew<TestCustom>(10, TestData{1, Points()}), text), kFxFailure);
+    EXPECT_EQ(ConvertAction(lists.conversion, odrxNew<TestCustom>(10, TestData{1, Points()}), text), kFxFailure);
 }
 
 TEST(Selections, PassThroughAFilter)
@@ -401,7 +401,7 @@ TEST(Selections, AtAPromptLookUpWhatTheMacroDoesNotKnow)
     Lists lists(Target::CSharp);
     QString text = "before";
     const auto select = [&](Handles handles, Classes classes) {
-        return lists.driver.ConvertSelection(odrxNew<TestSelection>(std::move(handles), std::move(classes)), text);
+        return ConvertSelection(lists.conversion, *odrxNew<TestSelection>(std::move(handles), std::move(classes)), text);
     };
     EXPECT_EQ(select({}, {}), kFxSuccess);
     EXPECT_EQ(text, "before");
@@ -436,8 +436,7 @@ TEST(Selections, AtAPromptReachByHandleInAllTargets)
     for (const Target target : allTargets) {
         Lists lists(target);
         QString text;
-        ASSERT_EQ(lists.driver.ConvertSelection(
-                      odrxNew<TestSelection>(Handles{OdDbHandle(0x2b)}, Classes{oddbClassByName("AcDbCircle")}), text),
+        ASSERT_EQ(ConvertSelection(lists.conversion, *odrxNew<TestSelection>(Handles{OdDbHandle(0x2b)}, Classes{oddbClassByName("AcDbCircle")}), text),
                   kFxSuccess);
         EXPECT_EQ(text.count("GetObjectByHandle("), 2) << text.toStdString();
         EXPECT_EQ(text.count("\"2B\""), 2) << text.toStdString();

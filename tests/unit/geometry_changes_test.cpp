@@ -188,9 +188,9 @@ TEST(GeometryChanges, OfAddedObjectsFollowTheirClass)
         const std::size_t all = list.size();
         TestTarget made(Target::CSharp);
         OdRxClass* const cls = oddbClassByName(row.name);
-        made.driver.RegisterObject(OdDbHandle(1), cls);
+        made.conversion.names().RegisterObject(OdDbHandle(1), cls);
         QString text;
-        EXPECT_EQ(made.objects.ConvertObjectChanges(cls, OdDbHandle(1), list, true, text), kFxSuccess);
+        EXPECT_EQ(ConvertObjectChanges(made.conversion, cls, OdDbHandle(1), list, true, text), kFxSuccess);
         EXPECT_EQ(text.isEmpty(), !row.has(kSetWhenAdded)) << row.name;
         EXPECT_EQ(list.size(), row.has(kSetWhenAdded) ? 0 : all) << row.name;
         // A dimension is fetched for its general properties before it is known that there are none.

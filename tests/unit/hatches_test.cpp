@@ -55,12 +55,12 @@ protected:
         TestTarget made(target);
         for (const auto& [handle, cls] : {std::pair{0x1a, "AcDbLine"}, {0x1b, "AcDbSpline"}}) {
             QString ignored;
-            made.driver.RegisterObject(OdDbHandle(static_cast<std::uint64_t>(handle)), oddbClassByName(cls));
-            made.driver.ConvertAction(odrxNew<TestAdded>(cls, static_cast<std::uint64_t>(handle)), ignored);
+            made.conversion.names().RegisterObject(OdDbHandle(static_cast<std::uint64_t>(handle)), oddbClassByName(cls));
+            ConvertAction(made.conversion, odrxNew<TestAdded>(cls, static_cast<std::uint64_t>(handle)), ignored);
         }
         made.writer.UniqueCounter = 0;
         QString text = "h";
-        EXPECT_EQ(made.driver.ConvertAction(odrxNew<TestCustom>(18, data), text), expectedStatus);
+        EXPECT_EQ(ConvertAction(made.conversion, odrxNew<TestCustom>(18, data), text), expectedStatus);
         return text.toStdString();
     }
     std::string byEntities(Target target, const std::vector<std::uint64_t>& handles, bool erase = true)
@@ -286,12 +286,12 @@ TEST_F(Hatches, AddedWithoutSettingsWriteNothing)
 {
     for (const bool hasOrigin : {false, true}) {
         TestTarget made(Target::CSharp);
-        made.driver.RegisterObject(OdDbHandle(0x40), oddbClassByName("AcDbHatch"));
+        made.conversion.names().RegisterObject(OdDbHandle(0x40), oddbClassByName("AcDbHatch"));
         PropertyList records{record("Pattern name", CFxString("ANSI37")), record("LineColor", OdCmColor::byIndex(2))};
         if (hasOrigin)
             records.push_back(record("Origin X", 4.0));
         QString text;
-        made.driver.ConvertAction(odrxNew<TestAdded>("AcDbHatch", 0x40, records, records), text);
+        ConvertAction(made.conversion, odrxNew<TestAdded>("AcDbHatch", 0x40, records, records), text);
         // With no statement of its own the hatch does not get its color either.
         EXPECT_EQ(text.contains("SetOrigin( 4.00000000000000, y1 );"), hasOrigin) << text.toStdString();
         EXPECT_EQ(text.contains("hatch1.Color = "), hasOrigin);

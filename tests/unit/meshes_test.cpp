@@ -20,10 +20,10 @@ protected:
     QString add(const char* cls, std::uint64_t handle, PropertyList records)
     {
         TestTarget page(Target::JavaScript);
-        page.driver.RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
+        page.conversion.names().RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
         PropertyList rest;
         QString text;
-        EXPECT_EQ(page.objects.ConvertAddedObject(oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
+        EXPECT_EQ(ConvertAddedObject(page.conversion, oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
                   kFxSuccess);
         return text.remove(".00000000000000");
     }

@@ -98,9 +98,9 @@ class PolylineEdits : public Handlers
 protected:
     PolylineEdits()
     {
-        driver.RegisterObject(kPlane, cls("AcDbPolyline"));
-        driver.RegisterObject(kSpatial, cls("AcDb3dPolyline"));
-        driver.RegisterObject(kImage, cls("AcDbRasterImage"));
+        conversion.names().RegisterObject(kPlane, cls("AcDbPolyline"));
+        conversion.names().RegisterObject(kSpatial, cls("AcDb3dPolyline"));
+        conversion.names().RegisterObject(kImage, cls("AcDbRasterImage"));
     }
 
     /// A macro has no such action: at top level it fails, a command ends with it.
@@ -184,7 +184,7 @@ TEST_F(PolylineEdits, OfObjectsWithoutAVariableWriteNothing)
     untold[4] = 1;
     EXPECT_EQ(converted(16, untold, {}), "");
     EXPECT_EQ(converted(16, drawn(OdDbHandle(9), "AcDbProxyEntity"), {}), "");
-    EXPECT_EQ(driver.objectCounter, 3U);
+    EXPECT_EQ(csharp.objectCount(), 3U);
     // What the macro can fetch is fetched, in front of the edit.
     EXPECT_EQ(converted(40, {CFxString("_FIT"), Handles{OdDbHandle(0x70)}, Classes{cls("AcDbPolyline")}}),
               " iwObjectType_e type1;\n"
@@ -194,15 +194,15 @@ TEST_F(PolylineEdits, OfObjectsWithoutAVariableWriteNothing)
 
 TEST_F(PolylineEdits, JoinWhatCanBeJoined)
 {
-    driver.RegisterObject(OdDbHandle(0x20), cls("AcDbLine"));
-    driver.RegisterObject(OdDbHandle(0x21), cls("AcDbArc"));
+    conversion.names().RegisterObject(OdDbHandle(0x20), cls("AcDbLine"));
+    conversion.names().RegisterObject(OdDbHandle(0x21), cls("AcDbArc"));
     const Handles objects{kSpatial, OdDbHandle(0x21), OdDbHandle(0x77), OdDbHandle(0x78), OdDbHandle(0x20), kPlane};
     const Classes classes{cls("AcDb3dPolyline"), cls("AcDbArc"),     cls("AcDbCircle"), nullptr,
                           cls("AcDbLine"),       cls("AcDbPolyline")};
     EXPECT_EQ(converted(40, {CFxString("_JOIN"), objects, classes}), " polyline3d2.JoinCircleArc(circlearc5);\n"
                                                                      " polyline3d2.JoinLine(line4);\n"
                                                                      " polyline3d2.JoinPolyLine(polyline1);\n");
-    EXPECT_EQ(driver.objectCounter, 5U) << "the circle is not fetched";
+    EXPECT_EQ(csharp.objectCount(), 5U) << "the circle is not fetched";
 }
 
 TEST_F(PolylineEdits, DrawAPolylineWithoutABlock)
@@ -231,7 +231,7 @@ TEST_F(PolylineEdits, DrawAPolylineWithoutABlock)
     EXPECT_TRUE(text.startsWith("\n PolyLine polyline7;\n")) << text.toStdString();
     EXPECT_TRUE(text.contains("1e+06}, false );\n"));
     EXPECT_TRUE(text.endsWith(".SetSegmentEndWidth( 0, 0.25000000000000 );\n"));
-    EXPECT_EQ(driver.objectCounter, 3U);
+    EXPECT_EQ(csharp.objectCount(), 3U);
 }
 
 TEST_F(PolylineEdits, DrawNoPolylineWhenTheDataDoNotFit)

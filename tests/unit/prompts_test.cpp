@@ -50,7 +50,7 @@ Outcome replay(const OdSmartPtr<TestInteraction>& interaction, Target target = T
 {
     TestTarget prompter(target, 1);
     QString text = "before";
-    const std::int32_t status = prompter.driver.ConvertAction(OdRxObjectPtr(interaction.get()), text);
+    const std::int32_t status = ConvertAction(prompter.conversion, OdRxObjectPtr(interaction.get()), text);
     return {status, text, prompter.writer.UniqueCounter};
 }
 
@@ -145,7 +145,7 @@ TEST(Prompts, CountOnWithinACommand)
     QString text;
     QTextStream stream(&text);
     prompter.writer.UniqueCounter = 40;
-    prompter.driver.ConvertCommand(
+    ConvertCommand(prompter.conversion, 
         stream, "ROTATE",
         {odrxNew<TestInteraction>(Kind::kAngle, "A", angle(1234567)),
          odrxNew<TestInteraction>(Kind::kAngle, "cancelled", nullptr),

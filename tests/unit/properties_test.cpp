@@ -39,7 +39,7 @@ class Properties : public testing::Test
 protected:
     Properties() : application(argc, argv) {}
 
-    CFxVariant find(const CFxString& tag) { return csharp.objects.FindProperty(tag, list, 0, &consumed, &index); }
+    CFxVariant find(const CFxString& tag) { return FindProperty(csharp.conversion, tag, list, &consumed, &index); }
     std::vector<QString> tagsLeft() const { return tagsOf(list); }
 
     int argc = 1;
@@ -100,7 +100,7 @@ TEST_F(Properties, AreFoundByTheGroupOfBlockAttributes)
 TEST_F(Properties, MakePointsOfWhatWasRecorded)
 {
     list = {record("Center Z", 3.0), record("Center X", 1.0), record("Radius", 9.0)};
-    EXPECT_EQ(csharp.objects.FindPoint("Center X", "Center Y", "Center Z", list, 0), (OdGePoint3d{1.0, 0.0, 3.0}));
+    EXPECT_EQ(FindPoint(csharp.conversion, "Center X", "Center Y", "Center Z", list), (OdGePoint3d{1.0, 0.0, 3.0}));
     EXPECT_EQ(tagsLeft(), std::vector<QString>{"Radius"});
 }
 
@@ -122,10 +122,10 @@ class AddedObjects : public testing::Test
 protected:
     QString add(const char* cls, PropertyList read)
     {
-        csharp.driver.RegisterObject(OdDbHandle(1), oddbClassByName(cls));
+        csharp.conversion.names().RegisterObject(OdDbHandle(1), oddbClassByName(cls));
         rest = read;
         QString text;
-        EXPECT_EQ(csharp.objects.ConvertAddedObject(oddbClassByName(cls), OdDbHandle(1), read, rest, text), kFxSuccess);
+        EXPECT_EQ(ConvertAddedObject(csharp.conversion, oddbClassByName(cls), OdDbHandle(1), read, rest, text), kFxSuccess);
         return text;
     }
 
@@ -154,7 +154,7 @@ TEST_F(AddedObjects, AreNotAskedForMoreWhenNothingWasCreated)
     EXPECT_EQ(rest.size(), 1U);
     QString text = "before\n";
     const auto convert = [&](const char* cls, std::uint64_t handle) {
-        return csharp.objects.ConvertObjectAdded(odrxNew<TestAdded>(cls, handle, list, list), text);
+        return ConvertObjectAdded(csharp.conversion, *odrxNew<TestAdded>(cls, handle, list, list), text);
     };
     EXPECT_EQ(convert("HostWeldSymbol", 1), kFxSuccess);
     // Known to the driver under no handle.
@@ -174,10 +174,10 @@ TEST_F(AddedObjects, FailWithoutAnAction)
 TEST(ModifiedObjects, GetACommentOnlyWhereAStatementStands)
 {
     TestTarget csharp(inkmacro::Target::CSharp);
-    csharp.driver.RegisterObject(OdDbHandle(1), oddbClassByName("AcDbLine"));
+    csharp.conversion.names().RegisterObject(OdDbHandle(1), oddbClassByName("AcDbLine"));
     QString text;
     const auto modify = [&](const char* cls, PropertyList list) {
-        EXPECT_EQ(csharp.objects.ConvertObjectModified(odrxNew<TestModified>(cls, 1, std::move(list)), text),
+        EXPECT_EQ(ConvertObjectModified(csharp.conversion, *odrxNew<TestModified>(cls, 1, std::move(list)), text),
                   kFxSuccess);
     };
     modify("AcDbLine", {});

@@ -82,9 +82,9 @@ protected:
     /// With the group around it, of an object that the macro has a variable for.
     static QString whole(TestTarget& made, const char* cls, PropertyList list)
     {
-        made.driver.RegisterObject(OdDbHandle(1), oddbClassByName(cls));
+        made.conversion.names().RegisterObject(OdDbHandle(1), oddbClassByName(cls));
         QString text;
-        EXPECT_EQ(made.objects.ConvertObjectChanges(oddbClassByName(cls), OdDbHandle(1), list, false, text),
+        EXPECT_EQ(ConvertObjectChanges(made.conversion, oddbClassByName(cls), OdDbHandle(1), list, false, text),
                   kFxSuccess);
         return text;
     }
@@ -204,7 +204,7 @@ TEST_F(RecordChanges, OfABlockDefinition)
     const PropertyList list{record("Description", text("Swivel")),
                             record("Objects", CFxVariantCollection({handle("2f"), handle("99")}))};
     const auto renewed = [&](TestTarget& made) {
-        made.driver.RegisterObject(OdDbHandle(0x2F), oddbClassByName("AcDbLine"));
+        made.conversion.names().RegisterObject(OdDbHandle(0x2F), oddbClassByName("AcDbLine"));
         return whole(made, "AcDbBlockTableRecord", list).remove(".00000000000000");
     };
     expectInAllTargets(

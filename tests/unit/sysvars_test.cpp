@@ -80,7 +80,7 @@ protected:
 
     static std::string converted(TestTarget& target, const char* variable, OdResBuf::Value value, QString text = {})
     {
-        EXPECT_EQ(target.driver.ConvertSysVar(odrxNew<ChangedVariable>(variable, std::move(value)), text), kFxSuccess);
+        EXPECT_EQ(ConvertSysVar(target.conversion, *odrxNew<ChangedVariable>(variable, std::move(value)), text), kFxSuccess);
         return text.toStdString();
     }
 
@@ -88,7 +88,7 @@ protected:
                                  CFxCustomActionData::Value value)
     {
         QString text = "what the command left";
-        EXPECT_EQ(target.driver.ConvertCustomAction(odrxNew<ChangedLocation>(kind, key, std::move(value)), text),
+        EXPECT_EQ(ConvertCustomAction(target.conversion, *odrxNew<ChangedLocation>(kind, key, std::move(value)), text),
                   kFxSuccess);
         EXPECT_EQ(target.writer.IndentLevel, 1U);
         return text.toStdString();

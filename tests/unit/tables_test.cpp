@@ -18,10 +18,10 @@ class AddedTables : public testing::Test
 protected:
     QString add(const char* cls, std::uint64_t handle, PropertyList records)
     {
-        made.driver.RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
+        made.conversion.names().RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
         PropertyList rest;
         QString text;
-        EXPECT_EQ(made.objects.ConvertAddedObject(oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
+        EXPECT_EQ(ConvertAddedObject(made.conversion, oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
                   kFxSuccess);
         return text.remove(".00000000000000");
     }

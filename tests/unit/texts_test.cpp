@@ -40,11 +40,11 @@ class AddedTexts : public testing::Test
 protected:
     QString add(const char* cls, std::uint64_t handle, const PropertyList& records)
     {
-        csharp.driver.RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
+        csharp.conversion.names().RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
         PropertyList read = records;
         left = records;
         QString text;
-        EXPECT_EQ(csharp.objects.ConvertAddedObject(oddbClassByName(cls), OdDbHandle(handle), read, left, text),
+        EXPECT_EQ(ConvertAddedObject(csharp.conversion, oddbClassByName(cls), OdDbHandle(handle), read, left, text),
                   kFxSuccess);
         return text;
     }
@@ -147,8 +147,8 @@ TEST_F(AddedTexts, NotesSetOnlyWhatWasRecorded)
     for (const CFxVariant& style :
          {CFxVariant(drawing.id(0x11)), CFxVariant(CFxVariantCollectionElement(0, CFxString("Titles")))})
         EXPECT_TRUE(add("AcDbMText", 3, {record("Style", style), record("Width", 8.0)})
-                        .endsWith("\n note" + QString::number(csharp.driver.objectCounter) +
-                                  ".Width = 8.00000000000000;\n note" + QString::number(csharp.driver.objectCounter) +
+                        .endsWith("\n note" + QString::number(csharp.objectCount()) +
+                                  ".Width = 8.00000000000000;\n note" + QString::number(csharp.objectCount()) +
                                   ".TextStyle = \"Titles\";\n"));
     for (const CFxVariant& none : {CFxVariant(drawing.id(0x404)), CFxVariant(CFxString())})
         EXPECT_TRUE(add("AcDbMText", 4, {record("Style", none)}).endsWith(".TextStyle = \"\";\n"));
@@ -157,9 +157,9 @@ TEST_F(AddedTexts, NotesSetOnlyWhatWasRecorded)
 TEST_F(AddedTexts, TolerancesKeepLinesAndBackslashes)
 {
     TestTarget basic(Target::VbNet);
-    basic.driver.RegisterObject(OdDbHandle(1), oddbClassByName("AcDbFcf"));
+    basic.conversion.names().RegisterObject(OdDbHandle(1), oddbClassByName("AcDbFcf"));
     QString text;
-    basic.objects.ConvertObjectAdded(odrxNew<TestAdded>("AcDbFcf", 1, PropertyList{record("Content", "a\\b\nc")}),
+    ConvertObjectAdded(basic.conversion, *odrxNew<TestAdded>("AcDbFcf", 1, PropertyList{record("Content", "a\\b\nc")}),
                                      text);
     EXPECT_EQ(brief(text),
               " tolerance1 = iwSketchManager.InsertTolerance( New Double(){0,0,0}, \"a\\b\" & vbLf & \"c\" )\n");

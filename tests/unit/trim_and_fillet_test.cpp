@@ -61,12 +61,12 @@ struct Cut : TestTarget
 {
     explicit Cut(Target target = Target::CSharp) : TestTarget(target, 3)
     {
-        driver.RegisterObject(OdDbHandle(0x1a), cls("AcDbLine"));
+        conversion.names().RegisterObject(OdDbHandle(0x1a), cls("AcDbLine"));
     }
     std::int32_t convert(std::int32_t kind, const TestData& data)
     {
         text = "before";
-        return driver.ConvertAction(odrxNew<TestCustom>(kind, data), text);
+        return ConvertAction(conversion, odrxNew<TestCustom>(kind, data), text);
     }
     QString converted(std::int32_t kind, const TestData& data)
     {
@@ -87,7 +87,7 @@ TEST(TrimAndFillet, AreRefusedForTheNumberOfTheirData)
             // Of whatever type: each is read as its neutral value.
             const auto action = odrxNew<TestCustom>(kind, TestData(static_cast<std::size_t>(count), 7));
             QString text = "before";
-            EXPECT_EQ(Cut().driver.ConvertAction(action, text), taken ? kFxSuccess : kFxFailure) << kind << count;
+            EXPECT_EQ(ConvertAction(Cut().conversion, action, text), taken ? kFxSuccess : kFxFailure) << kind << count;
             EXPECT_EQ(text.contains("Entities("), taken) << kind << ' ' << count;
 
             TestConversion alone;
@@ -151,8 +151,8 @@ TEST(Trim, SearchesForWhatIsNewOnly)
     const QString search = cut.converted(6, trimOf({{0x1a, "AcDbRay"}, {0x30, "AcDbCircle"}, {0x1a, "AcDbRay"}}));
     EXPECT_TRUE(search.startsWith("        }\n        Ray ray2;\n        Circle circle3;\n        {\n"
                                   "            DispatchWrapper[] CuttingEntitiesArray1;\n"));
-    EXPECT_EQ(cut.driver.FindEntry(OdDbHandle(0x1a))->cls, cls("AcDbRay"));
-    EXPECT_EQ(cut.driver.objectCounter, 3U);
+    EXPECT_EQ(cut.conversion.names().FindEntry(OdDbHandle(0x1a))->cls, cls("AcDbRay"));
+    EXPECT_EQ(cut.objectCount(), 3U);
     EXPECT_TRUE(search.contains("iNewEnt < 2;"));
     EXPECT_TRUE(search.contains("            ray2 = null;\n            for (int iNewEnt"));
     // No test of circles: their variable stays as it was declared.

@@ -35,12 +35,12 @@ CFxString word(const char* text)
 class Views : public testing::Test
 {
 protected:
-    Views() { driver.RegisterObject(OdDbHandle(0x1a), view); }
+    Views() { conversion.names().RegisterObject(OdDbHandle(0x1a), view); }
 
     std::int32_t convert(std::int32_t kind, const TestData& data, const QString& before = {})
     {
         text = before;
-        return driver.ConvertAction(odrxNew<TestCustom>(kind, data), text);
+        return ConvertAction(conversion, odrxNew<TestCustom>(kind, data), text);
     }
     QString converted(std::int32_t kind, const TestData& data, const QString& before = {})
     {
@@ -237,7 +237,7 @@ TEST_F(Views, AreMadeInTheirSpaceAndGetABackground)
               " ModelNamedView modelnamedview2;\n {\n    iwModel.Activate();\n"
               "    iwSketchManager = iwModel.GetSketchManager();\n"
               "    modelnamedview2 = iwViewManager.CreateModelNamedView( \"North\" );\n }\n");
-    EXPECT_EQ(driver.writer.IndentLevel, 0U);
+    EXPECT_EQ(conversion.writer.IndentLevel, 0U);
     EXPECT_FALSE(background(true, false, "", none, {}, 0x99).contains("ModelNamedView modelnamedview"));
     EXPECT_EQ(converted(kBackground, {OdDbHandle(7), oddbClassByName("AcDbProxyEntity"), true, false, word(""),
                                       word("N"), word("<None>")}),
@@ -277,7 +277,7 @@ TEST_F(Views, ZoomToAWindowInAnyCase)
                               "upperRight_1);\n"));
     EXPECT_EQ(converted(kZoom, {word("iwZoomRange_Fit"), origin, point}),
               " iwApp.Zoom(iwZoomRange_e.iwZoomRange_Fit, null, null);\n");
-    EXPECT_EQ(driver.writer.UniqueCounter, 1U);
+    EXPECT_EQ(conversion.writer.UniqueCounter, 1U);
 }
 
 TEST_F(Views, LeaveNoMarkerUnfilled)

@@ -31,8 +31,8 @@ CFxString descriptionOf(const OdDbBlockTableRecord& record)
 /// A revision cloud is a block without a name, which no drawing has before the macro runs.
 QString defineCloud(const AddedObject& added, const OdDbBlockTableRecord& record)
 {
-    return added.converter.CreateBlockDefinition(
-        {added.name, CFxString(anonymousBlockName), false, descriptionOf(record), record.origin(), entitiesOf(record)});
+    return CreateBlockDefinition(added.conversion, {added.name, CFxString(anonymousBlockName), false,
+                                                    descriptionOf(record), record.origin(), entitiesOf(record)});
 }
 
 QString setAttributes(const AddedObject& added, const OdDbBlockReference& reference)
@@ -99,12 +99,12 @@ QString ReadBlockDefinition(AddedObject& added)
             contents.description = descriptionOf(*record);
     }
     if (objects.GetType() == CFxVariant::kCollection)
-        contents.ids = CFxConverterIWAPIObject::ObjectsOf(objects, HandlesIn::Values);
+        contents.ids = ObjectsOf(objects, HandlesIn::Values);
     else if (record && !record->isLayout() && !record->isFromExternalReference())
         contents.ids = entitiesOf(*record);
     else
         return record ? QString() : added.lost("neither a record nor the drawing tells what it is made of");
-    return added.converter.CreateBlockDefinition(contents);
+    return CreateBlockDefinition(added.conversion, contents);
 }
 
 QString ReadPicture(AddedObject& added)

@@ -40,7 +40,7 @@ std::optional<MeasuredCurve> curveOf(const AddedObject& added)
     const OdDbObjectPtr curve = dimension ? GetDimensionGeometry(*dimension) : OdDbObjectPtr();
     if (!curve)
         return std::nullopt;
-    return MeasuredCurve{curve, added.converter.AddedVariable(curve->objectId())};
+    return MeasuredCurve{curve, added.conversion.names().AddedVariable(curve->objectId())};
 }
 
 /// The rotation belongs to the part of a dimension that all kinds have, so a statement fetches that first.
@@ -59,7 +59,7 @@ QString withTextRotation(QString insertion, AddedObject& added)
 /// A line without a variable is drawn anew.
 QString variableOf(const AddedObject& added, const OdDbObjectPtr& line)
 {
-    return line ? added.converter.AddedVariable(line->objectId()) : QString();
+    return line ? added.conversion.names().AddedVariable(line->objectId()) : QString();
 }
 
 } // namespace

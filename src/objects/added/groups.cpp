@@ -2,6 +2,7 @@
 
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
+#include "objects/blockContents.h"
 #include "objects/targets/newGroups.h"
 
 QString ReadGroup(AddedObject& added)
@@ -11,10 +12,10 @@ QString ReadGroup(AddedObject& added)
     group.description = added.takeText("Description");
     const CFxVariant entities = added.take("AllEntities");
     group.selectable = added.takeText("SelectableEntities").equalNoCase(ShownWord("YES"));
-    for (const OdDbObjectId& id : CFxConverterIWAPIObject::ObjectsOf(entities, HandlesIn::Tags))
-        if (const QString variable = added.converter.KnownVariable(id.getHandle()); !variable.isEmpty())
+    for (const OdDbObjectId& id : ObjectsOf(entities, HandlesIn::Tags))
+        if (const QString variable = added.conversion.names().KnownVariable(id.getHandle()); !variable.isEmpty())
             group.entities.push_back(variable);
         else
-            added.converter.LoseProperty("AllEntities", "the macro does not have the object " + id.getHandle().ascii());
+            LoseProperty(added.object, "AllEntities", "the macro does not have the object " + id.getHandle().ascii());
     return EmitCreateGroup(added.writer, group, added.name);
 }

@@ -18,7 +18,7 @@ namespace {
 QString setNote(const AddedObject& leader, const OdDbMText& note)
 {
     // The note is reached through its leader.
-    const CFxString name = leader.converter.NameObject(note.getDbHandle(), note.isA());
+    const CFxString name = leader.conversion.names().NameObject(note.getDbHandle(), note.isA());
     Writer& writer = leader.writer;
     QString text = EmitGetNoteAnnotation(writer, name, leader.name);
 
@@ -55,7 +55,7 @@ QString annotate(const AddedObject& added)
         return {};
     const OdDbObjectPtr annotation = leader->annotationObjectId().openObject();
     if (!annotation && !leader->annotationObjectId().isNull())
-        added.converter.LoseProperty("content", "the drawing does not have what stands at the leader's end");
+        LoseProperty(added.object, "content", "the drawing does not have what stands at the leader's end");
     if (const auto tolerance = odrxQuery<OdDbFcf>(annotation.get()))
         return EmitSetAnnotation(added.writer, added.name, LeaderAnnotation::Tolerance,
                                  escapeWithBackslashes(tolerance->text()));

@@ -56,7 +56,7 @@ QString ReadPolyline(AddedObject& added)
     for (const OdGePoint3d& vertex : added.takePoints("Vertex"))
         vertices.append({vertex.x, vertex.y});
     if (const auto polyline = added.open<OdDbPolyline>())
-        added.converter.LoseArcs(*polyline);
+        LoseArcs(added.conversion, added.object, *polyline);
     return EmitInsertPolyline2D(added.writer, vertices, takeClosed(added), added.name);
 }
 

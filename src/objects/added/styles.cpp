@@ -34,7 +34,7 @@ QString replaceElements(const AddedObject& added, const OdDbMlineStyle& style)
             EmitReplaceRichLineElement(added.writer, added.name, index, offset, element.color.colorIndex(),
                                        lineStyle ? lineStyle->getName() : OdString());
         if (statement.isEmpty())
-            added.converter.LoseProperty("elements", "the target has no statement for lines of such a style");
+            LoseProperty(added.object, "elements", "the target has no statement for lines of such a style");
         text += statement;
         ++index;
     }

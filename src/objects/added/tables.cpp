@@ -6,15 +6,16 @@
 #include "objects/added/readers.h"
 #include "objects/targets/tableCells.h"
 
-void CFxConverterIWAPIObject::RememberTable(const CFxString& table, std::int32_t rows, std::int32_t columns,
-                                            const CFxVariant& height, const CFxVariant& width)
+/// Heights and widths that are null are not known.
+static void rememberTable(TableSizes& tables, const CFxString& table, std::int32_t rows, std::int32_t columns,
+                          const CFxVariant& height, const CFxVariant& width)
 {
-    tableRowCounts[table] = rows;
-    tableColumnCounts[table] = columns;
+    tables.rowCounts[table] = rows;
+    tables.columnCounts[table] = columns;
     if (!height.IsNull())
-        tableHeights[table] = height.GetDouble();
+        tables.heights[table] = height.GetDouble();
     if (!width.IsNull())
-        tableWidths[table] = width.GetDouble();
+        tables.widths[table] = width.GetDouble();
 }
 
 /// Of texts in new cells, too, there is no statement: they are written when they change.
@@ -24,11 +25,11 @@ static void loseRest(const AddedObject& added, double height, double width)
         const QString& tag = record->GetName();
         const CFxVariant value = added.valueOf(*record);
         if (tag.startsWith(QLatin1String("Contents_")) && !wordOf(value).isEmpty())
-            added.converter.LoseProperty(tag, "the texts of a new table have no statement");
+            LoseProperty(added.object, tag, "the texts of a new table have no statement");
         else if (tag.startsWith(QLatin1String("RowHeight_")) && value.GetDouble() != height)
-            added.converter.LoseProperty(tag, "rows behind the second are made of one height");
+            LoseProperty(added.object, tag, "rows behind the second are made of one height");
         else if (tag.startsWith(QLatin1String("ColumnWidth_")) && value.GetDouble() != width)
-            added.converter.LoseProperty(tag, "columns are made of one width");
+            LoseProperty(added.object, tag, "columns are made of one width");
     }
 }
 
@@ -47,7 +48,7 @@ QString ReadTable(AddedObject& added)
 
     const CFxVariant tableHeight = added.take("Table height");
     const CFxVariant tableWidth = added.take("Table width");
-    added.converter.RememberTable(added.name, rows, columns, tableHeight, tableWidth);
+    rememberTable(added.conversion.tables, added.name, rows, columns, tableHeight, tableWidth);
 
     const char* const headTags[] = {"RowHeight_0", "RowHeight_1"};
     for (int row = 0; row < 2; ++row) {

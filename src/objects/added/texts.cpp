@@ -4,6 +4,7 @@
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
+#include "objects/entries.h"
 #include "objects/targets/points.h"
 #include "objects/targets/setters.h"
 #include "statements/StatementGroup.h"
@@ -169,7 +170,7 @@ QString ReadCurvedText(AddedObject& added)
     if (!curved)
         return added.lost("the drawing does not have it, and no record holds its text");
     QString fetch;
-    const QString arc = added.converter.AddedOrFetched(curved->arcId(), fetch);
+    const QString arc = added.conversion.names().AddedOrFetched(curved->arcId(), fetch);
     if (arc.isEmpty() && added.writer.repairs)
         return added.lost("the macro does not have the arc that it runs along");
     return fetch + EmitInsertCurvedText(added.writer, curved->textString(), arc, added.name);

@@ -17,10 +17,10 @@ QString ReadViewport(AddedObject& added)
     const auto layout = odrxCast<OdDbLayout>(current.get());
     const OdDbObjectId& clip = viewport->nonRectClipEntityId();
     const OdDbObjectPtr entity = clip.openObject();
-    QString variable = added.converter.KnownVariable(clip.getHandle());
+    QString variable = added.conversion.names().KnownVariable(clip.getHandle());
     QString fetch;
     if (variable.isEmpty() && !CanMakeClip(entity.get())) {
-        variable = added.converter.AddedOrFetched(clip, fetch);
+        variable = added.conversion.names().AddedOrFetched(clip, fetch);
         if (variable.isEmpty() && added.writer.repairs)
             return {};
     }

@@ -1,28 +1,28 @@
 // Changed block definitions, which are made anew of their objects.
 
 #include "host/db/OdDbClasses.h"
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/blockContents.h"
+#include "objects/losses.h"
+#include "objects/properties.h"
 
-void CFxConverterIWAPIObject::ConvertModifiedBlockDefinition(PropertyList& list, const CFxString& name, QString& text)
+void ConvertModifiedBlockDefinition(Conversion& conversion, const RecordedObject& object, PropertyList& list,
+                                    QString& text)
 {
-    const CFxValueContext context = driver.GetContext();
-    const CFxVariant objects = FindProperty("Objects", list, context);
-    const CFxVariant description = FindProperty("Description", list, context);
+    const CFxVariant objects = FindProperty(conversion, "Objects", list);
+    const CFxVariant description = FindProperty(conversion, "Description", list);
     if (objects.GetType() != CFxVariant::kCollection) {
         if (!description.IsNull())
-            LoseProperty("Description", "a block is made anew only when its objects are recorded");
+            LoseProperty(object, "Description", "a block is made anew only when its objects are recorded");
         return;
     }
     BlockContents contents;
-    contents.variable = name;
-    contents.renewed = driver.FindEntry(changedHandle) != nullptr;
+    contents.variable = object.name;
+    contents.renewed = conversion.names().FindEntry(object.handle) != nullptr;
     contents.description = description.GetString();
-    if (const auto record = odrxCast<OdDbBlockTableRecord>(IdOf(changedHandle).openObject().get())) {
+    if (const auto record = odrxCast<OdDbBlockTableRecord>(IdOf(object.handle).openObject().get())) {
         contents.name = record->getName();
         contents.origin = record->origin();
     }
     contents.ids = ObjectsOf(objects, HandlesIn::Values);
-    text += CreateBlockDefinition(contents);
+    text += CreateBlockDefinition(conversion, contents);
 }

@@ -41,3 +41,14 @@ extern const ChangeGroups modifiedDimensionStyle;
 extern const ChangeGroups modifiedRichLineStyle;
 extern const ChangeGroups modifiedGroup;
 extern const ChangeGroups modifiedViewTile;
+
+// Changes that are more than a list of tags: see ChangeHandler.
+void ConvertModifiedLine(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);
+void ConvertModifiedBlockInstance(Conversion& conversion, const RecordedObject& object, PropertyList& list,
+                                  QString& text);
+void ConvertModifiedTable(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);
+void ConvertModifiedLayer(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);
+void ConvertModifiedBlockDefinition(Conversion& conversion, const RecordedObject& object, PropertyList& list,
+                                    QString& text);
+void ConvertModifiedSheet(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);
+void ConvertModifiedHatch(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);

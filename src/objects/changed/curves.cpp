@@ -1,18 +1,19 @@
 // Changed lines, circles, points, rays, arcs, infinite lines and ellipses.
 
-#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/changeKinds.h"
 #include "objects/changed/changeLists.h"
+#include "objects/losses.h"
+#include "objects/properties.h"
 
 using namespace kinds;
 
 const ChangeGroups modifiedLine{{firstPoint, "Start"}, {secondPoint, "End"}};
 
 /// Alone among the handlers this one drops what stands in the text already.
-void CFxConverterIWAPIObject::ConvertModifiedLine(PropertyList& list, const CFxString& name, QString& text)
+void ConvertModifiedLine(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
 {
     text.clear();
-    ConvertRows(modifiedLine, list, name, text);
+    ConvertRows(conversion, modifiedLine, object, list, text);
 }
 
 /// The host records a new radius with all that depends on it, so that one change sets the radius up to four times.

@@ -2,8 +2,8 @@
 
 #include "objects/hatches.h"
 
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
+#include "objects/losses.h"
+#include "objects/properties.h"
 #include "objects/targets/hatchPatterns.h"
 
 namespace {
@@ -30,9 +30,9 @@ std::optional<bool> yesOf(const CFxVariant& value)
 
 } // namespace
 
-void CFxConverterIWAPIObject::ConvertModifiedHatch(PropertyList& list, const CFxString& name, QString& text)
+void ConvertModifiedHatch(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
 {
-    const TakeTag take = [&](const char* tag) { return FindProperty(tag, list, driver.GetContext()); };
+    const TakeTag take = [&](const char* tag) { return FindProperty(conversion, tag, list); };
     // The tags are read in this order.
     const HatchPatternChange data{.name = textOf(take("Pattern name")),
                                   .angle = realOf(take("Angle")),
@@ -44,14 +44,14 @@ void CFxConverterIWAPIObject::ConvertModifiedHatch(PropertyList& list, const CFx
                                        .centered = yesOf(take("Centered")),
                                        .angle = realOf(take("Gradient Angle"))};
     CFxString pattern;
-    const QString fetch = EmitGetHatchPattern(writer, name, pattern);
-    const QString common = ConvertHatchCommonProperties(writer, pattern, take);
+    const QString fetch = EmitGetHatchPattern(conversion.writer, object.name, pattern);
+    const QString common = ConvertHatchCommonProperties(conversion.writer, pattern, take);
     if (data.isEmpty() && gradient.isEmpty() && common.isEmpty())
         return;
     text += fetch;
     if (!data.isEmpty())
-        text += EmitSetHatchData(writer, pattern, data);
+        text += EmitSetHatchData(conversion.writer, pattern, data);
     if (!gradient.isEmpty())
-        text += EmitHatchGradientData(writer, pattern, gradient);
+        text += EmitHatchGradientData(conversion.writer, pattern, gradient);
     text += common;
 }

@@ -1,9 +1,10 @@
 // Changed layers and groups.
 
 #include "objects/targets/layers.h"
-#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/changeKinds.h"
 #include "objects/changed/changeLists.h"
+#include "objects/losses.h"
+#include "objects/properties.h"
 
 using namespace kinds;
 
@@ -37,7 +38,8 @@ const ChangeGroups modifiedGroup{
     {plainYes, "SelectableEntities", "Selectable"},
 };
 
-void CFxConverterIWAPIObject::ConvertModifiedLayer(PropertyList& list, const CFxString& name, QString& text)
+void ConvertModifiedLayer(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
 {
-    ConvertRows(modifiedLayer, list, LayerOf(name), text);
+    const RecordedObject layer{object.cls, object.handle, LayerOf(object.name)};
+    ConvertRows(conversion, modifiedLayer, layer, list, text);
 }

@@ -1,9 +1,9 @@
 // Changed pictures and block references.
 
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/changeKinds.h"
 #include "objects/changed/changeLists.h"
+#include "objects/losses.h"
+#include "objects/properties.h"
 #include "objects/targets/blockAttributes.h"
 
 using namespace kinds;
@@ -29,23 +29,25 @@ static const ChangeGroups modifiedBlockInstance{
 };
 
 /// An attribute of the block is a record in a group of its own, with the attribute's tag.
-void CFxConverterIWAPIObject::ConvertModifiedBlockInstance(PropertyList& list, const CFxString& name, QString& text)
+void ConvertModifiedBlockInstance(Conversion& conversion, const RecordedObject& object, PropertyList& list,
+                                  QString& text)
 {
-    ConvertRows(modifiedBlockInstance, list, name, text);
+    ConvertRows(conversion, modifiedBlockInstance, object, list, text);
     PropertyList rest;
     for (CFxPropertyChangedPtr& record : list) {
         // Each record on its own: attributes may be many, and what is taken out of a list moves all that stand behind.
         PropertyList one{record};
         PropertyList taken;
         CFxVariant tag;
-        const CFxVariant value = FindProperty(BlockAttributes(), one, driver.GetContext(), &taken, &tag);
+        const CFxVariant value = FindProperty(conversion, conversion.tags.blockAttributes(), one, &taken, &tag);
         if (taken.empty()) {
             rest.push_back(std::move(record));
             continue;
         }
-        const bool isAttribute = taken.front()->GetGroup().equalNoCase(BlockAttributes());
+        const bool isAttribute = taken.front()->GetGroup().equalNoCase(conversion.tags.blockAttributes());
         if (isAttribute && !value.IsNull())
-            text += EmitBlockAttributeValue(writer, name, "Value", tag.GetString(), value.GetString());
+            text +=
+                EmitBlockAttributeValue(conversion.writer, object.name, "Value", tag.GetString(), value.GetString());
     }
     list = std::move(rest);
 }

@@ -1,9 +1,9 @@
 // Changed sheets and view tiles. Of a changed named view only its removal is converted.
 
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/changeKinds.h"
 #include "objects/changed/changeLists.h"
+#include "objects/losses.h"
+#include "objects/properties.h"
 #include "objects/targets/sheetProperties.h"
 
 using namespace kinds;
@@ -15,17 +15,16 @@ const ChangeGroups modifiedViewTile{
 };
 
 /// The three records come together; the sheet is found by its name and needs no variable.
-void CFxConverterIWAPIObject::ConvertModifiedSheet(PropertyList& list, const CFxString&, QString& text)
+void ConvertModifiedSheet(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
 {
-    const CFxValueContext context = driver.GetContext();
-    const CFxVariant table = FindProperty("PrintStyleTable", list, context);
-    const CFxVariant model = FindProperty("Model_PrintStyleTable", list, context);
-    const CFxVariant sheet = FindProperty("SheetName_PrintStyleTable", list, context);
+    const CFxVariant table = FindProperty(conversion, "PrintStyleTable", list);
+    const CFxVariant model = FindProperty(conversion, "Model_PrintStyleTable", list);
+    const CFxVariant sheet = FindProperty(conversion, "SheetName_PrintStyleTable", list);
     if (table.IsNull() || model.IsNull() || sheet.IsNull()) {
         if (!table.IsNull())
-            LoseProperty("PrintStyleTable", "its sheet is not recorded");
+            LoseProperty(object, "PrintStyleTable", "its sheet is not recorded");
         return;
     }
-    text += EmitSetModelProperty(writer, "PrintStyleTable", table.GetString(), model.GetString() == ShownWord("Yes"),
-                                 sheet.GetString());
+    text += EmitSetModelProperty(conversion.writer, "PrintStyleTable", table.GetString(),
+                                 model.GetString() == ShownWord("Yes"), sheet.GetString());
 }

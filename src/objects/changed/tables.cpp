@@ -1,10 +1,10 @@
 // Changed tables and table styles.
 
 #include "objects/targets/tables.h"
-#include "module/CFxConverterIWAPIImpl.h"
-#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/changeKinds.h"
 #include "objects/changed/changeLists.h"
+#include "objects/losses.h"
+#include "objects/properties.h"
 #include "objects/targets/tableCells.h"
 #include "statements/wording.h"
 
@@ -44,8 +44,8 @@ struct TableLines
     QString (*insert)(Writer& writer, const CFxString& table, std::int32_t index, double size);
     QString (*remove)(Writer& writer, const CFxString& table, std::int32_t index);
     QString (*setSize)(Writer& writer, const CFxString& table, std::int32_t index, double size);
-    std::map<CFxString, std::int32_t> CFxConverterIWAPIObject::*counts;
-    std::map<CFxString, double> CFxConverterIWAPIObject::*wholes;
+    std::map<CFxString, std::int32_t> TableSizes::*counts;
+    std::map<CFxString, double> TableSizes::*wholes;
 };
 
 namespace {
@@ -128,72 +128,73 @@ QString removeLines(Writer& writer, const TableLines& lines, const CFxString& ta
 } // namespace
 
 /// Takes the count of the lines. True if it was there.
-bool CFxConverterIWAPIObject::ConvertTableCount(const TableLines& lines, PropertyList& list, const CFxString& name,
-                                                QString& text)
+static bool ConvertTableCount(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
+                              PropertyList& list, QString& text)
 {
-    const CFxVariant value = FindProperty(lines.countTag, list, driver.GetContext());
+    const CFxVariant value = FindProperty(conversion, lines.countTag, list);
     if (value.IsNull())
         return false;
     const bool isNumber = value.GetType() == CFxVariant::kInt32 || value.GetType() == CFxVariant::kDouble;
     if (!isNumber) {
-        LoseProperty(lines.countTag, "it is not recorded as a number");
+        LoseProperty(object, lines.countTag, "it is not recorded as a number");
         return true;
     }
-    std::int32_t& count = (this->*lines.counts)[name];
+    std::int32_t& count = (conversion.tables.*lines.counts)[object.name];
     const std::int32_t before = count;
     count = value.GetInt32();
     if (count > before) {
         qint64 reached = 0;
-        text += insertLines(writer, lines, list, driver.GetContext(), name, before, reached);
+        text += insertLines(conversion.writer, lines, list, conversion.context, object.name, before, reached);
         if (reached < count)
-            LoseProperty(lines.countTag, "new lines are inserted by the records of their sizes, which are too few");
+            LoseProperty(object, lines.countTag,
+                         "new lines are inserted by the records of their sizes, which are too few");
     } else if (count < before) {
-        text += removeLines(writer, lines, name, before, count);
-        if (before - count > 1 && !writer.repairs)
-            LoseProperty(lines.countTag, "one line is removed where several went");
+        text += removeLines(conversion.writer, lines, object.name, before, count);
+        if (before - count > 1 && !conversion.writer.repairs)
+            LoseProperty(object, lines.countTag, "one line is removed where several went");
     }
     return true;
 }
 
 /// Takes the records of cells. True if there were any.
-bool CFxConverterIWAPIObject::ConvertCellTexts(PropertyList& list, const CFxString& name, QString& text)
+static bool ConvertCellTexts(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
 {
     const PropertyList cells = takeAll(cellTag, list);
     for (const CFxPropertyChangedPtr& record : cells) {
-        const CFxVariant value = record->GetValue(driver.GetContext());
+        const CFxVariant value = record->GetValue(conversion.context);
         if (!value.IsNull())
-            text += cellStatement(writer, name, record, wordOf(value));
+            text += cellStatement(conversion.writer, object.name, record, wordOf(value));
     }
     return !cells.empty();
 }
 
 /// Takes the sizes of single lines. True if there were any.
-bool CFxConverterIWAPIObject::ConvertTableSizes(const TableLines& lines, PropertyList& list, const CFxString& name,
-                                                QString& text)
+static bool ConvertTableSizes(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
+                              PropertyList& list, QString& text)
 {
     const PropertyList sizes = takeAll(lines.sizeTag, list);
     for (const CFxPropertyChangedPtr& record : sizes) {
-        const CFxVariant value = record->GetValue(driver.GetContext());
+        const CFxVariant value = record->GetValue(conversion.context);
         if (!value.IsNull())
-            text += lines.setSize(writer, name, numberIn(record, 1), value.GetDouble());
+            text += lines.setSize(conversion.writer, object.name, numberIn(record, 1), value.GetDouble());
     }
     return !sizes.empty();
 }
 
 /// Takes the size of the whole table. A table that became larger or smaller with nothing else to tell why was scaled.
-void CFxConverterIWAPIObject::ConvertTableSize(const TableLines& lines, PropertyList& list, bool told,
-                                               const CFxString& name, QString& text)
+static void ConvertTableSize(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
+                             PropertyList& list, bool told, QString& text)
 {
-    const CFxVariant value = FindProperty(lines.wholeTag, list, driver.GetContext());
+    const CFxVariant value = FindProperty(conversion, lines.wholeTag, list);
     if (value.IsNull())
         return;
-    double& whole = (this->*lines.wholes)[name];
+    double& whole = (conversion.tables.*lines.wholes)[object.name];
     if (!told)
-        text += EmitScaleTableRows(writer, name, lines.sizeOperation, value.GetDouble() / whole);
+        text += EmitScaleTableRows(conversion.writer, object.name, lines.sizeOperation, value.GetDouble() / whole);
     whole = value.GetDouble();
 }
 
-void CFxConverterIWAPIObject::ConvertModifiedTable(PropertyList& list, const CFxString& name, QString& text)
+void ConvertModifiedTable(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
 {
     static const TableLines rows{"Rows",
                                  "RowHeight",
@@ -203,8 +204,8 @@ void CFxConverterIWAPIObject::ConvertModifiedTable(PropertyList& list, const CFx
                                  &EmitInsertRow,
                                  &EmitDeleteRow,
                                  &EmitSetRowHeightAt,
-                                 &CFxConverterIWAPIObject::tableRowCounts,
-                                 &CFxConverterIWAPIObject::tableHeights};
+                                 &TableSizes::rowCounts,
+                                 &TableSizes::heights};
     static const TableLines columns{"Columns",
                                     "ColumnWidth",
                                     "Table width",
@@ -213,16 +214,16 @@ void CFxConverterIWAPIObject::ConvertModifiedTable(PropertyList& list, const CFx
                                     &EmitInsertColumn,
                                     &EmitDeleteColumn,
                                     &EmitSetColumnWidthAt,
-                                    &CFxConverterIWAPIObject::tableColumnCounts,
-                                    &CFxConverterIWAPIObject::tableWidths};
+                                    &TableSizes::columnCounts,
+                                    &TableSizes::widths};
 
-    ConvertRows(tablePosition, list, name, text);
-    const bool rowsTold = ConvertTableCount(rows, list, name, text);
-    const bool columnsTold = ConvertTableCount(columns, list, name, text);
-    const bool cellsTold = ConvertCellTexts(list, name, text);
-    const bool heightsTold = ConvertTableSizes(rows, list, name, text);
-    ConvertTableSize(rows, list, rowsTold || cellsTold || heightsTold, name, text);
-    const bool widthsTold = ConvertTableSizes(columns, list, name, text);
-    ConvertTableSize(columns, list, columnsTold || cellsTold || widthsTold, name, text);
-    ConvertRows(tableLooks, list, name, text);
+    ConvertRows(conversion, tablePosition, object, list, text);
+    const bool rowsTold = ConvertTableCount(conversion, rows, object, list, text);
+    const bool columnsTold = ConvertTableCount(conversion, columns, object, list, text);
+    const bool cellsTold = ConvertCellTexts(conversion, object, list, text);
+    const bool heightsTold = ConvertTableSizes(conversion, rows, object, list, text);
+    ConvertTableSize(conversion, rows, object, list, rowsTold || cellsTold || heightsTold, text);
+    const bool widthsTold = ConvertTableSizes(conversion, columns, object, list, text);
+    ConvertTableSize(conversion, columns, object, list, columnsTold || cellsTold || widthsTold, text);
+    ConvertRows(conversion, tableLooks, object, list, text);
 }

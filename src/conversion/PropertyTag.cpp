@@ -1,4 +1,4 @@
-#include "objects/PropertyTag.h"
+#include "conversion/PropertyTag.h"
 
 #include <QHash>
 

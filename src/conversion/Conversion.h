@@ -1,0 +1,61 @@
+#pragma once
+
+#include "conversion/ActionFaults.h"
+#include "conversion/Names.h"
+#include "conversion/Siblings.h"
+#include "conversion/TagWords.h"
+
+/// The sizes that tables were made with and changed to so far, by their variables. Lengths are drawing units.
+struct TableSizes
+{
+    std::map<CFxString, std::int32_t> rowCounts;
+    std::map<CFxString, std::int32_t> columnCounts;
+    std::map<CFxString, double> heights;
+    std::map<CFxString, double> widths;
+};
+
+/// What one conversion knows. The walk owns it, and every function that converts something takes it first. There is no
+/// language in it.
+class Conversion
+{
+public:
+    /// `mode`: 1 replays prompts and selections. `context` is handed to the getters of property records as it is.
+    Conversion(inkmacro::Target target, std::uint32_t mode)
+        : writer(target), replays(mode == 1), names_(CreateNames(writer, faults))
+    {
+    }
+    Conversion(const Conversion&) = delete;
+    Conversion& operator=(const Conversion&) = delete;
+
+    Names& names() { return *names_; }
+    const Names& names() const { return *names_; }
+
+    /// Whether a custom action of that kind stands in the same command as what is being converted.
+    bool HasSibling(std::int32_t kind) const { return siblings && siblings->has(kind); }
+    /// The same of a block definition that is added or changed.
+    bool HasSiblingBlock() const { return siblings && siblings->hasBlock(); }
+
+    /// The present action has that fault. In a repaired macro it has not: then true, and the caller leaves out what
+    /// would have it.
+    bool Drops(const inkmacro::Fault& fault);
+
+    Writer writer;
+    const bool replays;
+    CFxValueContext context = 0;
+    ActionFaults faults;
+    TagWords tags;
+    TableSizes tables;
+
+    const Siblings* siblings = nullptr; ///< of the action that is being converted
+    /// Variables of the hatches that custom actions have inserted.
+    std::set<QString> insertedHatches;
+    /// The last added object that a custom action finishes: it gets what they make in its command.
+    OdDbHandle lastFinished;
+    /// In a repaired macro also those that have an action each.
+    std::set<OdDbHandle> finished;
+    /// What changed layers are called by now, where that is not their name in the drawing.
+    std::map<OdDbHandle, CFxString> renamedLayers;
+
+private:
+    const std::unique_ptr<Names> names_;
+};

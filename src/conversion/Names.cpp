@@ -1,0 +1,351 @@
+// The variables that the generated code names its objects by.
+
+#include "conversion/Names.h"
+
+#include "host/db/OdDbClassMap.h"
+#include "host/db/OdDbClasses.h"
+#include "host/kernel/CFxServices.h"
+#include "objects/targets/references.h"
+#include "statements/arrays.h"
+#include "targets/variables.h"
+
+#include <utility>
+
+using inkmacro::Fault;
+using inkmacro::Target;
+
+namespace {
+
+const Fault kUnnamed{"EmitObjectVariable",
+                     {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                     "what a custom action makes has no variable when its command has no such object"};
+
+const Fault kOtherClass{"EmitObjectVariable",
+                        {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                        "an object that is declared as one class is named as another one"};
+
+const Fault kStarInName{"EmitObjectVariable", {Target::Cpp}, "the star of its type stands in a variable's name"};
+
+const Fault kOutOfReach{"EmitGetLayer",
+                        {Target::Cpp, Target::CSharp, Target::VbNet, Target::CppCom},
+                        "a layer is declared in the block of a former command"};
+
+/// Spells a name from its parts; looks up no variable and takes no number.
+CFxString variableOf(const OdRxClass* cls, const OdDbObjectId& id, std::uint32_t ordinal)
+{
+    const auto view = odrxQuery<OdDbViewTableRecord>(id.openObject().get());
+    return view && view->isPaperspaceView() ? QStringLiteral("sheetnamedview") + QString::number(ordinal)
+                                            : NumberedVariable(cls, ordinal);
+}
+
+} // namespace
+
+OdDbObjectId IdOf(const OdDbHandle& handle)
+{
+    return ACTIVE_DOCUMENT ? ACTIVE_DOCUMENT->GetDatabase()->getOdDbObjectId(handle) : OdDbObjectId();
+}
+
+OdDbObjectId GetNoteLeader(const OdDbHandle& handle)
+{
+    const OdDbObjectPtr object = IdOf(handle).openObject();
+    if (!object)
+        return {};
+    for (const OdDbObjectId& id : odrxCast<OdDbMText>(object.get())->getPersistentReactors())
+        if (odrxQuery<OdDbLeader>(id.openObject().get()))
+            return id;
+    return {};
+}
+
+const OdRxClass* ClassAt(const std::vector<const OdRxClass*>& classes, std::size_t index)
+{
+    if (index >= classes.size())
+        throw OdError_InvalidIndex();
+    return classes[index];
+}
+
+ActionEntry Names::RegisterObject(const OdDbHandle& handle, const OdRxClass* cls)
+{
+    unmade_.erase(handle);
+    outOfReach_.erase(handle);
+    const ActionEntry entry{cls, ++objectCounter_};
+    entries_.insert_or_assign(entries_.end(), handle, entry);
+    return entry;
+}
+
+const ActionEntry* Names::FindEntry(const OdDbHandle& handle) const
+{
+    // Most asked for is the newest object, which stands last.
+    const bool isLast = !entries_.empty() && entries_.rbegin()->first == handle;
+    const auto found = isLast ? std::prev(entries_.end()) : entries_.find(handle);
+    if (found == entries_.end())
+        return nullptr;
+    const bool isUnmade = IsUnmade(handle);
+    if (isUnmade)
+        faults_.noteUnmade();
+    if (outOfReach_.contains(handle))
+        faults_.note(kOutOfReach);
+    return isUnmade && !NamesUnmade() ? nullptr : &found->second;
+}
+
+bool Names::IsOtherClass(const ActionEntry& entry, const OdRxClass* told) const
+{
+    if (told == entry.cls || NumberedVariable(told, 0) == NumberedVariable(entry.cls, 0))
+        return false;
+    faults_.note(kOtherClass);
+    return true;
+}
+
+const ActionEntry* Names::FindAs(const OdDbHandle& handle, const OdRxClass* cls) const
+{
+    const ActionEntry* const entry = FindEntry(handle);
+    return entry && IsOtherClass(*entry, cls) && SpelledClass(*entry, cls) != cls ? nullptr : entry;
+}
+
+CFxString Names::DeclaredName(const ActionEntry& entry)
+{
+    return HasInterface(entry.cls) ? CFxString(NumberedVariable(entry.cls, entry.ordinal)) : CFxString();
+}
+
+EntityList Names::ResolveNames(const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray)
+{
+    std::vector<CFxString> names = ResolveVariables(handleArray, classArray);
+    const std::vector<OdDbHandle>& objects = handleArray.GetHandleArray();
+    const std::vector<const OdRxClass*>& classes = classArray.GetClassArray();
+    EntityList entities;
+    for (std::size_t i = 0; i < objects.size(); ++i) {
+        ListedEntity entity{names[i], {}, objects[i].ascii()};
+        if (!names[i].isEmpty()) {
+            const ActionEntry* const entry = FindEntry(objects[i]);
+            CFxString type;
+            GetApiTypeName(entry ? SpelledClass(*entry, classes[i]) : classes[i], type, entity.type);
+        }
+        if (!names[i].isEmpty() || ListsUnnamed())
+            entities.push_back(std::move(entity));
+    }
+    return entities;
+}
+
+std::vector<CFxString> Names::ResolveVariables(const CFxCustomActionData& handleArray,
+                                               const CFxCustomActionData& classArray)
+{
+    const std::vector<OdDbHandle>& objects = handleArray.GetHandleArray();
+    const std::vector<const OdRxClass*>& classes = classArray.GetClassArray();
+    std::vector<CFxString> names(objects.size());
+    for (std::size_t i = 0; i < objects.size(); ++i) {
+        if (const ActionEntry* const entry = FindEntry(objects[i])) {
+            const OdRxClass* const told = ClassAt(classes, i);
+            names[i] = DeclaredName({IsOtherClass(*entry, told) ? SpelledClass(*entry, told) : told, entry->ordinal});
+        } else if (FetchesUnknown()) {
+            names[i] = FetchedUnknown(objects[i], ClassAt(classes, i));
+        }
+    }
+    return names;
+}
+
+void Names::ResolveVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) const
+{
+    if (const ActionEntry* const entry = FindAs(handle, cls); entry && HasInterface(cls))
+        name = SpelledName(cls, entry->ordinal);
+}
+
+CFxString Names::Fetched(const OdDbHandle& handle, const OdRxClass* cls)
+{
+    CFxString& name = fetched_[handle];
+    if (name.isEmpty())
+        AddFetch(EmitObjectVariable(handle, cls, name));
+    return name;
+}
+
+CFxString Names::FetchedUnknown(const OdDbHandle& handle, const OdRxClass* cls)
+{
+    return FetchesUnknown() && !IsUnmade(handle) && HasInterface(cls) ? Fetched(handle, cls) : CFxString();
+}
+
+CFxString Names::VariableOfMade(const CFxString& handedOver, const char* className)
+{
+    if (!handedOver.isEmpty())
+        return handedOver;
+    faults_.note(kUnnamed);
+    return DeclareMade(oddbClassByName(className));
+}
+
+CFxString Names::VariableWithoutFetch(const OdDbHandle& handle, const OdRxClass* cls)
+{
+    if (!FindAs(handle, cls) && HasInterface(cls)) {
+        faults_.noteUnmade();
+        if (FetchesUnknown())
+            return Fetched(handle, cls);
+    }
+    return NameObject(handle, cls);
+}
+
+QString Names::TakeFetches()
+{
+    return std::exchange(fetches_, {});
+}
+
+void Names::ForgetFetched()
+{
+    fetched_.clear();
+    fetches_.clear();
+}
+
+bool Names::NameVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
+{
+    if (!HasInterface(cls))
+        return false;
+    const ActionEntry* const entry = FindAs(handle, cls);
+    name = variableOf(cls, IdOf(handle), entry ? entry->ordinal : ++objectCounter_);
+    return !entry;
+}
+
+CFxString Names::NameObject(const OdDbHandle& handle, const OdRxClass* cls)
+{
+    CFxString name;
+    // The fetch that is not written takes its number all the same, where it would have one.
+    if (NameVariable(handle, cls, name) && writer_.target != Target::JavaScript)
+        ++writer_.UniqueCounter;
+    return name;
+}
+
+QString Names::EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
+{
+    return NameVariable(handle, cls, name) ? EmitGetObjectByHandle(writer_, FindTypeNames(cls)->type, name, handle)
+                                           : QString();
+}
+
+CFxString Names::NameAdded(const ActionEntry& entry, const OdRxClass* cls, const OdDbObjectId& id)
+{
+    added_[id.getHandle()] = {cls, entry.ordinal};
+    return variableOf(cls, id, entry.ordinal);
+}
+
+QString Names::AddedVariable(const OdDbObjectId& id) const
+{
+    const auto found = added_.find(id.getHandle());
+    return id.isNull() || found == added_.end() || !FindEntry(id.getHandle())
+               ? QString()
+               : variableOf(found->second.cls, id, found->second.ordinal).toQString();
+}
+
+QString Names::AddedOrFetched(const OdDbObjectId& id, QString& fetch)
+{
+    if (QString added = AddedVariable(id); !added.isEmpty())
+        return added;
+    faults_.note(inkmacro::emptyPlace);
+    const OdDbObjectPtr object = id.openObject();
+    CFxString name;
+    if (FetchesUnknown() && object && !IsUnmade(id.getHandle()))
+        fetch = EmitObjectVariable(id.getHandle(), object->isA(), name);
+    // Nothing fetches what the command inserts further down.
+    return fetch.isEmpty() ? QString() : name.toQString();
+}
+
+QString Names::KnownVariable(const OdDbHandle& handle) const
+{
+    const ActionEntry* const entry = FindEntry(handle);
+    return entry ? variableOf(entry->cls, IdOf(handle), entry->ordinal).toQString() : QString();
+}
+
+const OdRxClass* Names::KnownClass(const OdDbHandle& handle) const
+{
+    const ActionEntry* const entry = FindEntry(handle);
+    return entry ? entry->cls : nullptr;
+}
+
+void Names::EndCommand(bool hides)
+{
+    if (hides)
+        outOfReach_.merge(fetchedLayers_);
+    fetchedLayers_.clear();
+}
+
+namespace {
+
+class RecordedNames final : public Names
+{
+public:
+    using Names::Names;
+
+    bool IsDeclared(const OdDbHandle&) const override { return true; }
+    void DropUnnamed(std::vector<CFxString>&) const override {}
+    bool KeepNamed(std::vector<CFxString>&, OdArray<OdGePoint3d>&) const override { return true; }
+    QString EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) override
+    {
+        name = NameObject(handle, cls);
+        return {};
+    }
+    void EndFetchedLayer(const OdDbHandle& handle) override { DeclareLayer(handle); }
+
+private:
+    bool NamesUnmade() const override { return true; }
+    bool ListsUnnamed() const override { return true; }
+    bool FetchesUnknown() const override { return false; }
+    const OdRxClass* SpelledClass(const ActionEntry&, const OdRxClass* told) const override { return told; }
+    /// Takes the suffixes off after the number was put on, and only the one of smart pointers: in C++ a region or a
+    /// view tile gets a name like "iwregion_c*3" here, which no compiler takes.
+    CFxString SpelledName(const OdRxClass* told, std::uint32_t ordinal) const override
+    {
+        CFxString name(FindTypeNames(told)->lower.toQString() + QString::number(ordinal));
+        name.replace("_ptr", "");
+        if (name.toQString().contains('*'))
+            faults_.note(kStarInName);
+        return name;
+    }
+    CFxString DeclareMade(const OdRxClass*) override { return {}; }
+};
+
+class RepairedNames final : public Names
+{
+public:
+    using Names::Names;
+
+    bool IsDeclared(const OdDbHandle& handle) const override { return !IsUnmade(handle); }
+    void DropUnnamed(std::vector<CFxString>& names) const override
+    {
+        std::erase_if(names, [](const CFxString& name) { return name.isEmpty(); });
+    }
+    bool KeepNamed(std::vector<CFxString>& names, OdArray<OdGePoint3d>& points) const override
+    {
+        if (names.empty())
+            return true;
+        OdArray<OdGePoint3d> kept;
+        for (std::size_t i = 0; i < names.size() && i < points.length(); ++i)
+            if (!names[i].isEmpty())
+                kept.append(points[static_cast<unsigned>(i)]);
+        points = kept;
+        DropUnnamed(names);
+        return !names.empty();
+    }
+    QString EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) override
+    {
+        return EmitObjectVariable(handle, cls, name);
+    }
+    /// The variable is gone behind its command.
+    void EndFetchedLayer(const OdDbHandle& handle) override { Forget(handle); }
+
+private:
+    bool NamesUnmade() const override { return false; }
+    bool ListsUnnamed() const override { return false; }
+    bool FetchesUnknown() const override { return true; }
+    const OdRxClass* SpelledClass(const ActionEntry& entry, const OdRxClass*) const override { return entry.cls; }
+    CFxString SpelledName(const OdRxClass* told, std::uint32_t ordinal) const override
+    {
+        return DeclaredName({told, ordinal});
+    }
+    CFxString DeclareMade(const OdRxClass* cls) override
+    {
+        const ActionEntry entry = NewEntry(cls);
+        AddFetch(EmitVariableDeclaration(writer_, entry));
+        return DeclaredName(entry);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Names> CreateNames(Writer& writer, ActionFaults& faults)
+{
+    if (writer.repairs)
+        return std::make_unique<RepairedNames>(writer, faults);
+    return std::make_unique<RecordedNames>(writer, faults);
+}

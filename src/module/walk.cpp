@@ -1,0 +1,114 @@
+// One action after the other: to each its place.
+
+#include "module/walk.h"
+
+#include "actions/entries.h"
+#include "host/db/OdDbClasses.h"
+#include "objects/classTable.h"
+#include "objects/entries.h"
+#include "objects/properties.h"
+#include "statements/losses.h"
+#include "targets/variables.h"
+
+static bool isWanted(const Conversion& conversion, const CFxSysVarChanged& variable)
+{
+    return conversion.replays || variable.GetName().equalNoCase("CVPORT");
+}
+
+std::int32_t FailedAction(const OdRxObjectPtr& action, const OdError& error)
+{
+    NoteLoss(ActionTitle(action.get()), error.what());
+    if (error.code() == eTextTooLong)
+        GetFxSystemServices()->ReportProblem(QString(error.what()));
+    return kFxFailure;
+}
+
+bool IsPassedOver(const Conversion& conversion, const OdRxObject* action)
+{
+    if (const auto variable = odrxQuery<CFxSysVarChanged>(action))
+        return !isWanted(conversion, *variable);
+    if (odrxQuery<CFxUserInteraction>(action) || odrxQuery<CFxUserSelection>(action))
+        return !conversion.replays;
+    // A leader brings its note.
+    const auto added = odrxQuery<CFxObjectAdded>(action);
+    return added && added->GetObjectClass() == OdDbMText::desc() && !conversion.names().FindEntry(added->GetHandle());
+}
+
+std::int32_t ConvertOrLose(Conversion& conversion, const OdRxObjectPtr& action, QString& text)
+{
+    const LossWatch losses;
+    conversion.faults.forget();
+    const std::int32_t status = ConvertAction(conversion, action, text);
+    text = conversion.faults.on(text, conversion.writer);
+    if (status != kFxSuccess && !losses.any())
+        NoteLoss(ActionTitle(action.get()), "it could not be converted");
+    return status;
+}
+
+/// In front of the changes, which may rename it.
+static CFxString layerName(Conversion& conversion, const CFxObjectModified& changes)
+{
+    const OdDbHandle handle = changes.GetHandle();
+    const auto record = odrxQuery<OdDbLayerTableRecord>(IdOf(handle).openObject(true).get());
+    const auto [known, isNew] =
+        conversion.renamedLayers.try_emplace(handle, record ? CFxString(record->getName()) : CFxString());
+    CFxString before = known->second;
+    PropertyList list = changes.GetProperties();
+    if (const CFxVariant renamed = FindProperty(conversion, "Name", list); !renamed.IsNull())
+        known->second = renamed.GetString();
+    return before;
+}
+
+/// A layer that the recording did not make has no variable yet, although a statement is about to change it.
+static std::int32_t convertModifiedLayer(Conversion& conversion, const CFxObjectModified& action, QString& text)
+{
+    OdRxClass* const cls = action.GetObjectClass();
+    const OdDbHandle handle = action.GetHandle();
+    Names& names = conversion.names();
+    const CFxString layer = layerName(conversion, action);
+    if (conversion.writer.repairs && layer.isEmpty()) {
+        NoteLoss("changes of " + ObjectTitle(cls, handle).toQString(), "the drawing does not have the layer");
+        return kFxSuccess;
+    }
+    names.RegisterObject(handle, cls);
+    CFxString name;
+    names.ResolveVariable(handle, cls, name);
+    if (!name.isEmpty())
+        text += EmitGetLayer(conversion.writer, name, layer);
+    const std::int32_t status = ConvertObjectModified(conversion, action, text);
+    names.EndFetchedLayer(handle);
+    return status;
+}
+
+static std::int32_t convertModified(Conversion& conversion, const CFxObjectModified& action, QString& text)
+{
+    OdRxClass* const cls = action.GetObjectClass();
+    const bool isLayer = cls && IsSupportedClass(cls) && CFxString(cls->name()).equalNoCase("AcDbLayerTableRecord");
+    return isLayer && !conversion.names().FindEntry(action.GetHandle())
+               ? convertModifiedLayer(conversion, action, text)
+               : ConvertObjectModified(conversion, action, text);
+}
+
+std::int32_t ConvertAction(Conversion& conversion, const OdRxObjectPtr& action, QString& text)
+{
+    const OdRxObject* const object = action.get();
+    try {
+        if (const auto interaction = odrxQuery<CFxUserInteraction>(object))
+            return conversion.replays ? ConvertInteraction(conversion, *interaction, text) : kFxSuccess;
+        if (const auto added = odrxQuery<CFxObjectAdded>(object))
+            return ConvertObjectAdded(conversion, *added, text);
+        if (const auto modified = odrxQuery<CFxObjectModified>(object))
+            return convertModified(conversion, *modified, text);
+        if (const auto variable = odrxQuery<CFxSysVarChanged>(object))
+            return isWanted(conversion, *variable) ? ConvertSysVar(conversion, *variable, text) : kFxSuccess;
+        if (auto property = odrxQuery<CFxPropertyChanged>(object))
+            return ConvertPropertyChanged(conversion, std::move(property), text);
+        if (const auto selection = odrxQuery<CFxUserSelection>(object))
+            return conversion.replays ? ConvertSelection(conversion, *selection, text) : kFxSuccess;
+        if (const auto custom = odrxQuery<CFxCustomAction>(object))
+            return ConvertCustomAction(conversion, *custom, text);
+    } catch (const OdError& error) {
+        return FailedAction(action, error);
+    }
+    return kFxFailure;
+}

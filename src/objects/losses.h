@@ -1,0 +1,28 @@
+#pragma once
+
+#include "conversion/Conversion.h"
+#include "objects/RecordedObject.h"
+#include "statements/losses.h"
+
+class OdDbPolyline;
+
+// What the macro does not do, for the notes of the conversion.
+
+void LoseObject(const RecordedObject& object, const char* reason);
+/// One of its properties.
+void LoseProperty(const RecordedObject& object, const QString& tag, const QString& reason);
+/// The arcs of an added polyline, which none but a custom action tells.
+void LoseArcs(const Conversion& conversion, const RecordedObject& object, const OdDbPolyline& polyline);
+/// An added note that its leader should bring, when the macro does not have the leader.
+void LoseNoteWithoutLeader(const Conversion& conversion, const RecordedObject& object);
+/// The properties that nothing has taken out of the list. What is left of an added object is no loss when an action
+/// makes the object, nor when the object is lost itself, as a hatch without its action is.
+void LoseRest(const Conversion& conversion, const RecordedObject& object, const PropertyList& list, bool fromAdded);
+/// An added object that is made by a custom action, when there is none, and else the general properties of one that no
+/// statement was written for.
+void LoseUnmade(Conversion& conversion, const RecordedObject& object, PropertyList& rest, bool written);
+
+/// Whether custom actions, or the block of its command, make the object.
+bool IsMadeByAction(const Conversion& conversion, const RecordedObject& object);
+/// Whether custom actions of that kind make entities of the class; null: of any.
+bool IsEntityOfAction(const OdRxClass* cls, std::int32_t kind);

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// The text of one or more statements.
+using Statement = QString;
