@@ -8,7 +8,7 @@
 
 /// Of an image that the macro does not know the statement that would fetch it is lost, and the new name stays; but not
 /// in a repaired macro.
-std::int32_t ConvertActionClipBoundary(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionClipBoundary(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     CFxString image = inkmacro::takeVariable(conversion.writer, text, inkmacro::HandedVariable::Replaced);
     if (image.isEmpty())

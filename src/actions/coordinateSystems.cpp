@@ -11,13 +11,13 @@ namespace inkmacro {
 
 namespace {
 
-QString standardSystem(Writer& writer, const CFxCustomAction& action)
+Statement standardSystem(Writer& writer, const CFxCustomAction& action)
 {
     return EmitDefaultCoordinateSystem(
         writer, CFxString("iwDefaultCustomCoordinateSystem_" + action.GetData(0).GetString().toQString()));
 }
 
-QString threePoints(Writer& writer, const CFxCustomAction& action)
+Statement threePoints(Writer& writer, const CFxCustomAction& action)
 {
     return EmitThreePointCoordinateSystem(writer, action.GetData(1).GetPoint(), action.GetData(2).GetPoint(),
                                           action.GetData(3).GetPoint());
@@ -91,7 +91,7 @@ const ActionForm coordinateSystemForms[21] = {
 
 } // namespace inkmacro
 
-std::int32_t ConvertActionCoordinateSystemOfEntity(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionCoordinateSystemOfEntity(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     inkmacro::takeVariable(conversion.writer, text, inkmacro::HandedVariable::Replaced);
     const OdDbHandle handle = action.GetData(0).GetHandle();

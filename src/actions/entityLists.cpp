@@ -13,7 +13,7 @@ static EntityList EntitiesOf(Conversion& conversion, const CFxCustomAction& acti
     return conversion.names().ResolveNames(action.GetData(0), action.GetData(1));
 }
 
-std::int32_t ConvertActionMirror(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionMirror(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     text = EmitMirrorEntities(conversion.writer, EntitiesOf(conversion, action), action.GetData(2).GetPoint(),
@@ -21,7 +21,7 @@ std::int32_t ConvertActionMirror(Conversion& conversion, const CFxCustomAction& 
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionStretch(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionStretch(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     text = EmitStretchEntities(conversion.writer, EntitiesOf(conversion, action), action.GetData(2).GetPoint(),
@@ -29,7 +29,7 @@ std::int32_t ConvertActionStretch(Conversion& conversion, const CFxCustomAction&
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionCopy(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionCopy(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const EntityList entities = EntitiesOf(conversion, action);
@@ -38,14 +38,14 @@ std::int32_t ConvertActionCopy(Conversion& conversion, const CFxCustomAction& ac
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionMove(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionMove(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     text = EmitMoveEntities(conversion.writer, EntitiesOf(conversion, action), action.GetData(2).GetVector(), true);
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionRotate(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionRotate(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     text = EmitRotateEntities(conversion.writer, EntitiesOf(conversion, action), action.GetData(2).GetPoint(),
@@ -53,7 +53,7 @@ std::int32_t ConvertActionRotate(Conversion& conversion, const CFxCustomAction& 
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionScale(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionScale(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     text = EmitScaleEntities(conversion.writer, EntitiesOf(conversion, action), action.GetData(2).GetPoint(),

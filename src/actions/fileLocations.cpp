@@ -28,7 +28,7 @@ struct Location
 /// A host object that holds file locations.
 struct FileObject
 {
-    QString (*emitObject)(Writer& writer, CFxString& variable);
+    Statement (*emitObject)(Writer& writer, CFxString& variable);
     std::span<const Location> locations;
 };
 
@@ -98,7 +98,7 @@ CFxString quotable(CFxString path)
 } // namespace
 
 static std::int32_t ConvertFileLocation(Conversion& conversion, const FileObject& files, const CFxCustomAction& action,
-                                        QString& text)
+                                        Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const CFxString property = propertyOf(files, action.GetData(0).GetString());
@@ -126,17 +126,17 @@ static std::int32_t ConvertFileLocation(Conversion& conversion, const FileObject
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionInterfaceFile(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionInterfaceFile(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     return ConvertFileLocation(conversion, interfaceFiles, action, text);
 }
 
-std::int32_t ConvertActionSystemFile(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionSystemFile(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     return ConvertFileLocation(conversion, systemFiles, action, text);
 }
 
-std::int32_t ConvertActionDrawingSupportFile(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionDrawingSupportFile(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     return ConvertFileLocation(conversion, drawingSupportFiles, action, text);
 }

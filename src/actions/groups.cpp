@@ -19,10 +19,10 @@ static const ActionEntry* FindGroup(Conversion& conversion, const CFxString& gro
     return id.isNull() ? nullptr : conversion.names().FindEntry(handle);
 }
 
-using EmitGroupChange = QString (*)(Writer&, const std::vector<CFxString>&, const CFxString&);
+using EmitGroupChange = Statement (*)(Writer&, const std::vector<CFxString>&, const CFxString&);
 
 static void ConvertGroupChange(Conversion& conversion, const CFxCustomAction& action, EmitGroupChange change,
-                               QString& text)
+                               Statement& text)
 {
     inkmacro::takeVariable(conversion.writer, text, inkmacro::HandedVariable::AppendedTo);
     std::vector<CFxString> names = conversion.names().ResolveVariables(action.GetData(0), action.GetData(1));
@@ -38,13 +38,13 @@ static void ConvertGroupChange(Conversion& conversion, const CFxCustomAction& ac
     text += change(conversion.writer, names, name);
 }
 
-std::int32_t ConvertActionGroupAdd(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionGroupAdd(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     ConvertGroupChange(conversion, action, &EmitGroupAddEntities, text);
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionGroupRemove(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionGroupRemove(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     ConvertGroupChange(conversion, action, &EmitGroupRemoveEntities, text);
     return kFxSuccess;

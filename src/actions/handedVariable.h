@@ -20,9 +20,9 @@ inline const Fault kBareVariable{
 
 /// The variable; empty for an action that is handed none. Handlers begin with it: from there on the text holds what
 /// goes into the macro and nothing else.
-inline CFxString takeVariable(const Writer& writer, QString& text, HandedVariable fate)
+inline CFxString takeVariable(const Writer& writer, Statement& text, HandedVariable fate)
 {
-    CFxString variable(text);
+    CFxString variable(text.text());
     if (fate == HandedVariable::Replaced || writer.repairs)
         text.clear();
     else if (!text.isEmpty())

@@ -37,7 +37,7 @@ const ActionForm* FormOf(const CFxCustomAction& action)
 
 } // namespace inkmacro
 
-std::int32_t ConvertCustomAction(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertCustomAction(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     const inkmacro::ActionForm* const form = inkmacro::FormOf(action);
     if (!form) {

@@ -61,10 +61,10 @@ private:
 /// Converts one custom action of a form that its row of the table lets through; looks at neither the kind nor the form
 /// of the data once more. `text` is the variable of the object that the command made for the action, and becomes its
 /// statements. Gives kFxSuccess or kFxFailure.
-using ActionHandler = std::int32_t (*)(Conversion& conversion, const CFxCustomAction& action, QString& text);
+using ActionHandler = std::int32_t (*)(Conversion& conversion, const CFxCustomAction& action, Statement& text);
 
 /// The statements of a form that needs nothing but its data. They take the place of the variable that is handed over.
-using ActionStatements = QString (*)(Writer& writer, const CFxCustomAction& action);
+using ActionStatements = Statement (*)(Writer& writer, const CFxCustomAction& action);
 
 /// One way in which a kind of custom action comes. Has a handler or statements.
 struct ActionForm
@@ -99,45 +99,45 @@ private:
 
 } // namespace inkmacro
 
-std::int32_t ConvertActionMirror(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionStretch(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionCopy(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionMove(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionRotate(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionScale(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionTrim(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionExtend(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionFillet(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionChamfer(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionCornersOfPolyline(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionSelect(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionSelectionFilter(Conversion& conversion, const CFxCustomAction& action, QString& text);
+std::int32_t ConvertActionMirror(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionStretch(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionCopy(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionMove(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionRotate(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionScale(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionTrim(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionExtend(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionFillet(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionChamfer(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionCornersOfPolyline(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionSelect(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionSelectionFilter(Conversion& conversion, const CFxCustomAction& action, Statement& text);
 std::int32_t ConvertActionCoordinateSystemOfEntity(Conversion& conversion, const CFxCustomAction& action,
-                                                   QString& text);
-std::int32_t ConvertActionNamedView(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionEmbeddedObject(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionPolyline(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionInsertHatch(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionElementColor(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionOptionValue(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionInterfaceFile(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionSystemFile(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionDrawingSupportFile(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionGroupAdd(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionGroupRemove(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionAttributeValue(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionPolylineJoin(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionViewBackground(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionZoom(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionRegion(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionActivate(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionViewport(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionPrintStyle(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionClipBoundary(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionViewTiles(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionJoin(Conversion& conversion, const CFxCustomAction& action, QString& text);
-std::int32_t ConvertActionExplode(Conversion& conversion, const CFxCustomAction& action, QString& text);
+                                                   Statement& text);
+std::int32_t ConvertActionNamedView(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionEmbeddedObject(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionPolyline(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionInsertHatch(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionElementColor(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionOptionValue(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionInterfaceFile(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionSystemFile(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionDrawingSupportFile(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionGroupAdd(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionGroupRemove(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionAttributeValue(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionPolylineJoin(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionViewBackground(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionZoom(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionRegion(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionActivate(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionViewport(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionPrintStyle(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionClipBoundary(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionViewTiles(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionJoin(Conversion& conversion, const CFxCustomAction& action, Statement& text);
+std::int32_t ConvertActionExplode(Conversion& conversion, const CFxCustomAction& action, Statement& text);
 
 namespace inkmacro {
 

@@ -14,11 +14,11 @@ using inkmacro::takeVariable;
 namespace {
 
 /// A polyline of its own is the boundary.
-QString hatchByBulges(Writer& writer, const CFxString& hatch, const HatchPattern& pattern,
+Statement hatchByBulges(Writer& writer, const CFxString& hatch, const HatchPattern& pattern,
                       const CFxCustomAction& action)
 {
     const CFxString polyline = QStringLiteral("hatch_Polyline_%1").arg(processCounters.hatchPolylines);
-    QString text = EmitHatchBoundaryPolyline(writer, polyline, action.GetData(8).Get2dPointArray(), true);
+    Statement text = EmitHatchBoundaryPolyline(writer, polyline, action.GetData(8).Get2dPointArray(), true);
     text += EmitSetSegmentAngles(writer, polyline, action.GetData(7).GetDoubleArray());
     ++processCounters.hatchPolylines;
     return text + EmitHatchByPolyline(writer, hatch, polyline, pattern, action.GetData(9).GetBool());
@@ -26,7 +26,7 @@ QString hatchByBulges(Writer& writer, const CFxString& hatch, const HatchPattern
 
 /// The points are one more than the counts add up to: the first stands at the end once more, whatever the number of
 /// loops. A boundary without a loop writes nothing.
-QString hatchByBoundary(Writer& writer, const CFxString& hatch, const HatchPattern& pattern,
+Statement hatchByBoundary(Writer& writer, const CFxString& hatch, const HatchPattern& pattern,
                         const CFxCustomAction& action)
 {
     const OdArray<int>& counts = action.GetData(7).GetIntArray();
@@ -48,7 +48,7 @@ HatchGradient gradientAt(const CFxCustomAction& action, std::int32_t first)
 } // namespace
 
 /// Of the ways to make a hatch the first one that is set is taken; the last needs no mark.
-std::int32_t ConvertActionInsertHatch(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionInsertHatch(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     const CFxString handedOver = takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const CFxString hatch = conversion.names().VariableOfMade(handedOver, "AcDbHatch");

@@ -15,7 +15,7 @@
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;
 
-std::int32_t ConvertActionEmbeddedObject(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionEmbeddedObject(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     const CFxString name = conversion.names().VariableOfMade(
         takeVariable(conversion.writer, text, HandedVariable::Replaced), "AcDbOle2Frame");
@@ -28,7 +28,7 @@ std::int32_t ConvertActionEmbeddedObject(Conversion& conversion, const CFxCustom
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionRegion(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionRegion(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     const CFxString name = conversion.names().VariableOfMade(
         takeVariable(conversion.writer, text, HandedVariable::Replaced), "AcDbRegion");
@@ -52,7 +52,7 @@ bool NameInsertedObject(Conversion& conversion, const CFxCustomAction& action, C
     return true;
 }
 
-std::int32_t ConvertActionViewport(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionViewport(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     CFxString name = takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const OdArray<OdGePoint3d>& polygon = action.GetData(0).GetPointArray();

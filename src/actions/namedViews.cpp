@@ -37,7 +37,7 @@ bool isOrigin(const OdGePoint3d& point)
 }
 
 /// In the space that the view belongs to; what was active is activated again behind it.
-QString createInItsSpace(Writer& writer, const CFxString& name, bool onSheet, const CFxString& sheetName,
+Statement createInItsSpace(Writer& writer, const CFxString& name, bool onSheet, const CFxString& sheetName,
                          const CFxString& variable)
 {
     CFxString sheet;
@@ -51,7 +51,7 @@ QString createInItsSpace(Writer& writer, const CFxString& name, bool onSheet, co
 
 /// The settings stand behind the word. The flags in front of an image and of a gradient's colors are the dialog's own,
 /// and of a gradient it tells the angle and no height.
-QString background(Writer& writer, const CFxCustomAction& action, const CFxString& view)
+Statement background(Writer& writer, const CFxCustomAction& action, const CFxString& view)
 {
     const QString& kind = action.GetData(6).GetString().toQString();
     if (kind == kSolid)
@@ -67,7 +67,7 @@ QString background(Writer& writer, const CFxCustomAction& action, const CFxStrin
         NoteLoss(ActionTitle(&action), "there is no position of that name");
         return {};
     }
-    const QString image = EmitImageBackground(writer, action.GetData(10).GetString(), position,
+    const Statement image = EmitImageBackground(writer, action.GetData(10).GetString(), position,
                                               {action.GetData(12).GetDouble(), action.GetData(13).GetDouble(),
                                                action.GetData(14).GetDouble(), action.GetData(15).GetDouble()},
                                               view);
@@ -76,7 +76,7 @@ QString background(Writer& writer, const CFxCustomAction& action, const CFxStrin
 
 } // namespace
 
-std::int32_t ConvertActionNamedView(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionNamedView(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     CFxString variable = takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const OdDbHandle& handle = action.GetData(0).GetHandle();
@@ -103,7 +103,7 @@ std::int32_t ConvertActionNamedView(Conversion& conversion, const CFxCustomActio
 
 /// A view that its command has made comes with its variable, declared and in the command's group. Any other view that
 /// is made here is declared here, and made in a group of its own.
-std::int32_t ConvertActionViewBackground(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionViewBackground(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     CFxString view = takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const OdDbHandle& handle = action.GetData(0).GetHandle();

@@ -20,17 +20,17 @@ static void loseObject(const OdRxClass* cls, const OdDbHandle& handle)
 
 /// A note that a leader owns is reached through its leader, which also declares the note's variable. So the statement
 /// that fetches the note itself is dropped, and the leader's is not.
-static QString NoteOfLeader(Conversion& conversion, const OdDbHandle& note, const OdRxClass* noteClass,
+static Statement NoteOfLeader(Conversion& conversion, const OdDbHandle& note, const OdRxClass* noteClass,
                             const OdDbObjectId& leader, CFxString& name)
 {
     const OdDbObjectPtr object = leader.openObject();
     CFxString leaderName;
     conversion.names().EmitObjectVariable(note, noteClass, name);
-    QString text = conversion.names().EmitObjectVariable(leader.getHandle(), object->isA(), leaderName);
+    Statement text = conversion.names().EmitObjectVariable(leader.getHandle(), object->isA(), leaderName);
     return text += EmitGetNoteAnnotation(conversion.writer, name, leaderName);
 }
 
-std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::AppendedTo);
     const std::vector<OdDbHandle>& objects = action.GetData(0).GetHandleArray();
@@ -55,7 +55,7 @@ std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& a
 }
 
 /// The first statement is always lost: all that remains of it is that its counter has risen.
-std::int32_t ConvertActionAttributeValue(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionAttributeValue(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     CFxString name;
     conversion.names().ResolveVariable(action.GetData(0).GetHandle(), action.GetData(1).GetClass(), name);
@@ -68,7 +68,7 @@ std::int32_t ConvertActionAttributeValue(Conversion& conversion, const CFxCustom
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionActivate(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionActivate(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::AppendedTo);
     const std::vector<OdDbHandle>& objects = action.GetData(0).GetHandleArray();
@@ -85,7 +85,7 @@ std::int32_t ConvertActionActivate(Conversion& conversion, const CFxCustomAction
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionJoin(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionJoin(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const auto variable = [&](std::int32_t index, CFxString& name) {
@@ -107,7 +107,7 @@ std::int32_t ConvertActionJoin(Conversion& conversion, const CFxCustomAction& ac
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionExplode(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionExplode(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const std::vector<OdDbHandle>& objects = action.GetData(0).GetHandleArray();

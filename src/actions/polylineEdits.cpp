@@ -15,17 +15,17 @@ using inkmacro::takeVariable;
 using enum CFxCustomActionData::_Type;
 
 /// The statement for one edit of the polyline of that variable.
-using EmitPolylineEdit = QString (*)(Writer& writer, const CFxString& polyline, const CFxCustomAction& action);
+using EmitPolylineEdit = Statement (*)(Writer& writer, const CFxString& polyline, const CFxCustomAction& action);
 
 /// The polyline is told by two data from `first` on, by a handle and a class or by arrays of which the first counts.
 /// One without a variable gets no statement.
-static QString EditOfPolyline(Conversion& conversion, const CFxCustomAction& action, std::int32_t first,
+static Statement EditOfPolyline(Conversion& conversion, const CFxCustomAction& action, std::int32_t first,
                               EmitPolylineEdit edit)
 {
     const CFxCustomActionData& handle = action.GetData(first);
     const CFxCustomActionData& cls = action.GetData(first + 1);
     CFxString polyline;
-    QString text;
+    Statement text;
     if (handle.GetType() == kHandleArray) {
         const OdRxClass* const firstClass = ClassAt(cls.GetClassArray(), 0);
         if (handle.GetHandleArray().empty())
@@ -38,7 +38,7 @@ static QString EditOfPolyline(Conversion& conversion, const CFxCustomAction& act
 }
 
 template<EmitPolylineEdit edit>
-static std::int32_t ConvertActionPolylineEdit(Conversion& conversion, const CFxCustomAction& action, QString& text)
+static std::int32_t ConvertActionPolylineEdit(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     text = EditOfPolyline(conversion, action, 1, edit);
@@ -46,7 +46,7 @@ static std::int32_t ConvertActionPolylineEdit(Conversion& conversion, const CFxC
 }
 
 template<EmitPolylineEdit edit>
-static std::int32_t ConvertActionPolylineVertex(Conversion& conversion, const CFxCustomAction& action, QString& text)
+static std::int32_t ConvertActionPolylineVertex(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::AppendedTo);
     text += EditOfPolyline(conversion, action, 0, edit);
@@ -54,12 +54,12 @@ static std::int32_t ConvertActionPolylineVertex(Conversion& conversion, const CF
 }
 
 /// The first object is joined with those of the others that can be; the rest is not even fetched.
-std::int32_t ConvertActionPolylineJoin(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionPolylineJoin(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     struct Joint
     {
         const char* cls;
-        QString (*statement)(Writer& writer, const CFxString& polyline, const CFxString& other);
+        Statement (*statement)(Writer& writer, const CFxString& polyline, const CFxString& other);
     };
     static constexpr Joint joints[] = {
         {"AcDbPolyline", &EmitJoinPolyline}, {"AcDbLine", &EmitJoinLine}, {"AcDbArc", &EmitJoinCircleArc}};
@@ -70,7 +70,7 @@ std::int32_t ConvertActionPolylineJoin(Conversion& conversion, const CFxCustomAc
     if (objects.size() < 2)
         return kFxFailure;
     CFxString polyline;
-    const QString fetch = conversion.names().EmitObjectVariable(objects[0], ClassAt(classes, 0), polyline);
+    const Statement fetch = conversion.names().EmitObjectVariable(objects[0], ClassAt(classes, 0), polyline);
     if (polyline.isEmpty())
         return kFxSuccess;
     text = fetch;
@@ -93,11 +93,11 @@ namespace inkmacro {
 
 namespace {
 
-QString widthsOf(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+Statement widthsOf(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
 {
     const OdArray<double>& starts = action.GetData(5).GetDoubleArray();
     const OdArray<double>& ends = action.GetData(6).GetDoubleArray();
-    QString text;
+    Statement text;
     for (unsigned segment = 0; segment < starts.length(); ++segment) {
         const auto index = static_cast<std::int32_t>(segment);
         text += EmitSetIndexedDouble(writer, polyline, "SetSegmentStartWidth", index, starts[segment]);
@@ -113,7 +113,7 @@ QString widthsOf(Writer& writer, const CFxString& polyline, const CFxCustomActio
 } // namespace inkmacro
 
 /// The second points hold the bulges as their x.
-std::int32_t ConvertActionPolyline(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionPolyline(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     CFxString name = takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const OdArray<OdGePoint3d>& vertices = action.GetData(0).GetPointArray();
@@ -157,41 +157,41 @@ constexpr DataSignature vertexAndPoint(const char* option)
     return DataSignature::exactly({kString, kAny, kAny, kInt, kPoint}).withWord(option);
 }
 
-template<QString (*statement)(Writer&, const CFxString&)>
-QString whole(Writer& writer, const CFxString& polyline, const CFxCustomAction&)
+template<Statement (*statement)(Writer&, const CFxString&)>
+Statement whole(Writer& writer, const CFxString& polyline, const CFxCustomAction&)
 {
     return statement(writer, polyline);
 }
 
 template<bool spatial>
-QString split(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+Statement split(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
 {
     return EmitPolylineSplit(writer, polyline, action.GetData(3).GetInt(), spatial);
 }
 
-template<QString (*statement)(Writer&, const CFxString&, int, const OdGePoint3d&, bool), bool spatial>
-QString placed(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+template<Statement (*statement)(Writer&, const CFxString&, int, const OdGePoint3d&, bool), bool spatial>
+Statement placed(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
 {
     return statement(writer, polyline, action.GetData(3).GetInt(), action.GetData(4).GetPoint(), spatial);
 }
 
-QString straightened(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+Statement straightened(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
 {
     return EmitPolylineStraighten(writer, polyline, action.GetData(3).GetInt(), action.GetData(4).GetInt());
 }
 
-QString widened(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+Statement widened(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
 {
     return EmitPolylineWidth(writer, polyline, action.GetData(3).GetInt(), action.GetData(4).GetDouble(),
                              action.GetData(5).GetDouble());
 }
 
-QString vertexAdded(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+Statement vertexAdded(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
 {
     return EmitAddVertexAfter(writer, polyline, action.GetData(2).GetInt(), action.GetData(3).GetPoint(), true);
 }
 
-QString vertexDeleted(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
+Statement vertexDeleted(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
 {
     return EmitDeleteVertex(writer, polyline, action.GetData(2).GetInt());
 }

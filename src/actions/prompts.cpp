@@ -12,11 +12,11 @@
 namespace {
 
 using Words = std::vector<CFxString>;
-using EmitPoint = QString (*)(Writer&, const CFxString&, const OdGePoint3d&);
-using EmitReal = QString (*)(Writer&, const CFxString&, double);
-using EmitInteger = QString (*)(Writer&, const CFxString&, std::int32_t);
-using EmitText = QString (*)(Writer&, const CFxString&, const CFxString&);
-using EmitKeyword = QString (*)(Writer&, const CFxString&, const Words&, const Words&);
+using EmitPoint = Statement (*)(Writer&, const CFxString&, const OdGePoint3d&);
+using EmitReal = Statement (*)(Writer&, const CFxString&, double);
+using EmitInteger = Statement (*)(Writer&, const CFxString&, std::int32_t);
+using EmitText = Statement (*)(Writer&, const CFxString&, const CFxString&);
+using EmitKeyword = Statement (*)(Writer&, const CFxString&, const Words&, const Words&);
 
 struct PromptKind
 {
@@ -83,21 +83,21 @@ struct Replay
 
     bool accepted() const { return kind.accepts(result.restype()); }
 
-    QString operator()(EmitPoint ask) const
+    Statement operator()(EmitPoint ask) const
     {
         return ask(writer, prompt, accepted() ? result.getPoint3d() : OdGePoint3d());
     }
-    QString operator()(EmitReal ask) const
+    Statement operator()(EmitReal ask) const
     {
         return ask(writer, prompt, accepted() ? result.getDouble() : kind.neutral);
     }
-    QString operator()(EmitInteger ask) const
+    Statement operator()(EmitInteger ask) const
     {
         return ask(writer, prompt, accepted() ? result.getInt32() : kind.neutral);
     }
-    QString operator()(EmitText ask) const { return ask(writer, prompt, result.getString()); }
+    Statement operator()(EmitText ask) const { return ask(writer, prompt, result.getString()); }
     /// The keyword that was taken is not repeated: the first of the list is what the generated prompt offers.
-    QString operator()(EmitKeyword ask) const
+    Statement operator()(EmitKeyword ask) const
     {
         Words local;
         Words global;
@@ -110,7 +110,7 @@ struct Replay
 
 } // namespace
 
-std::int32_t ConvertInteraction(Conversion& conversion, const CFxUserInteraction& interaction, QString& text)
+std::int32_t ConvertInteraction(Conversion& conversion, const CFxUserInteraction& interaction, Statement& text)
 {
     const OdResBufPtr result = interaction.GetResult();
     // A prompt that was cancelled leaves no trace.

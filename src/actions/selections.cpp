@@ -11,7 +11,7 @@
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;
 
-std::int32_t ConvertSelection(Conversion& conversion, const CFxUserSelection& selection, QString& text)
+std::int32_t ConvertSelection(Conversion& conversion, const CFxUserSelection& selection, Statement& text)
 {
     const std::vector<OdDbHandle>& objects = selection.GetHandles();
     const std::vector<const OdRxClass*>& classes = selection.GetClasses();
@@ -33,7 +33,7 @@ std::int32_t ConvertSelection(Conversion& conversion, const CFxUserSelection& se
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionSelect(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionSelect(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::AppendedTo);
     for (std::int32_t i = 0; i + 1 < action.GetDataCount(); i += 2)
@@ -42,7 +42,7 @@ std::int32_t ConvertActionSelect(Conversion& conversion, const CFxCustomAction& 
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionSelectionFilter(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionSelectionFilter(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::AppendedTo);
     std::vector<CFxString> typeNames;

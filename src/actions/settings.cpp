@@ -12,7 +12,7 @@
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;
 
-std::int32_t ConvertActionElementColor(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionElementColor(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     text = EmitSetElementColor(conversion.writer, action.GetData(0).GetInt(), action.GetData(1).GetColor());
@@ -21,7 +21,7 @@ std::int32_t ConvertActionElementColor(Conversion& conversion, const CFxCustomAc
 
 /// A variable may be an option of the document and of the application: then both are set. The application's statement
 /// is appended to what the text holds, be it the document's statement or the handed variable.
-std::int32_t ConvertActionOptionValue(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionOptionValue(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     using inkmacro::OptionKind;
     const CFxString& variable = action.GetData(0).GetString();
@@ -59,7 +59,7 @@ std::int32_t ConvertActionOptionValue(Conversion& conversion, const CFxCustomAct
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionPrintStyle(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionPrintStyle(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     text = EmitSetModelProperty(conversion.writer, "PrintStyle", action.GetData(0).GetString(),

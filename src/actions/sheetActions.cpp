@@ -7,7 +7,7 @@ namespace inkmacro {
 
 using enum CFxCustomActionData::_Type;
 
-static QString activateSheet(Writer& writer, const CFxCustomAction& action)
+static Statement activateSheet(Writer& writer, const CFxCustomAction& action)
 {
     CFxString variable;
     return EmitActivateSheet(writer, action.GetData(0).GetString(), variable);

@@ -36,7 +36,7 @@ std::int32_t int16Value(const CFxString& variable, const OdResBuf& value)
     return variable.equalNoCase("CECOLOR") ? value.getString().toInt() : value.getInt16();
 }
 
-QString commandOption(Writer& writer, const CFxSysVarChanged& change, const CFxString& option, OptionKind kind,
+Statement commandOption(Writer& writer, const CFxSysVarChanged& change, const CFxString& option, OptionKind kind,
                       const OdResBuf& value)
 {
     switch (kind) {
@@ -60,7 +60,7 @@ QString commandOption(Writer& writer, const CFxSysVarChanged& change, const CFxS
     return {};
 }
 
-QString applicationOption(Writer& writer, const CFxString& option, OptionKind kind, const OdResBuf& value)
+Statement applicationOption(Writer& writer, const CFxString& option, OptionKind kind, const OdResBuf& value)
 {
     switch (kind) {
     case OptionKind::Bool:
@@ -88,7 +88,7 @@ std::int32_t FindApplicationOption(const CFxString& variable, CFxString& enumera
     return find(OptionOwner::Application, variable, enumerator, kind);
 }
 
-std::int32_t ConvertSysVar(Conversion& conversion, const CFxSysVarChanged& variable, QString& text)
+std::int32_t ConvertSysVar(Conversion& conversion, const CFxSysVarChanged& variable, Statement& text)
 {
     const OdResBufPtr value = variable.GetValue();
     if (!value)

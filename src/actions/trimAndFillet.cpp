@@ -60,7 +60,7 @@ static bool TakeCutObjects(Conversion& conversion, const CFxCustomAction& action
     return names.KeepNamed(cut.edges, none) && names.KeepNamed(cut.objects, cut.points);
 }
 
-std::int32_t ConvertActionTrim(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionTrim(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     CutObjects cut;
@@ -69,7 +69,7 @@ std::int32_t ConvertActionTrim(Conversion& conversion, const CFxCustomAction& ac
     const std::vector<TrimPiece> pieces = RegisterPieces(conversion, action);
     if (!pieces.empty())
         text = betweenGroups(conversion.writer, [&] {
-            QString declarations;
+            Statement declarations;
             for (const TrimPiece& piece : pieces)
                 declarations += EmitVariableDeclaration(conversion.writer, piece.entry);
             return declarations;
@@ -80,7 +80,7 @@ std::int32_t ConvertActionTrim(Conversion& conversion, const CFxCustomAction& ac
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionExtend(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionExtend(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     CutObjects cut;
@@ -98,7 +98,7 @@ static CornerSide SideOf(Conversion& conversion, const CFxCustomAction& action, 
     return side;
 }
 
-std::int32_t ConvertActionFillet(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionFillet(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     CornerSide first = SideOf(conversion, action, 0);
@@ -112,7 +112,7 @@ std::int32_t ConvertActionFillet(Conversion& conversion, const CFxCustomAction& 
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionChamfer(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionChamfer(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     CornerSide first = SideOf(conversion, action, 0);
@@ -132,7 +132,7 @@ std::int32_t ConvertActionChamfer(Conversion& conversion, const CFxCustomAction&
 }
 
 /// All corners of a polyline at once: the interface has no operation for it, so the macro does not say it.
-std::int32_t ConvertActionCornersOfPolyline(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionCornersOfPolyline(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     return PassOver(action, "the interface has no operation for all corners of a polyline");

@@ -24,7 +24,7 @@ static QString tilesMode(int mode)
 
 /// A tile is taken from the array of all tiles, so the statement that fetches one which the macro does not know is
 /// dropped.
-std::int32_t ConvertActionViewTiles(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionViewTiles(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const QLatin1String applyTo(action.GetData(0).GetBool() ? "iwViewTilesApplyTo_Display"
@@ -43,7 +43,7 @@ std::int32_t ConvertActionViewTiles(Conversion& conversion, const CFxCustomActio
     return kFxSuccess;
 }
 
-std::int32_t ConvertActionZoom(Conversion& conversion, const CFxCustomAction& action, QString& text)
+std::int32_t ConvertActionZoom(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const CFxString& range = action.GetData(0).GetString();

@@ -1,6 +1,7 @@
 #include "conversion/ActionFaults.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace inkmacro;
 
@@ -20,9 +21,9 @@ void ActionFaults::noteUnmade()
     note(kUnmade);
 }
 
-QString ActionFaults::on(QString statements, const Writer& writer) const
+Statement ActionFaults::on(Statement statements, const Writer& writer) const
 {
     for (const Fault* const fault : noted_)
-        statements = writer.faulty(statements, *fault);
+        statements = writer.faulty(std::move(statements), *fault);
     return statements;
 }

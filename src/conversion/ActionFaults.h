@@ -14,7 +14,7 @@ public:
     void noteUnmade();
     void forget() { noted_.clear(); }
     /// The statements with what was noted.
-    QString on(QString statements, const Writer& writer) const;
+    Statement on(Statement statements, const Writer& writer) const;
 
 private:
     std::vector<const inkmacro::Fault*> noted_;

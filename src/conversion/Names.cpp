@@ -179,7 +179,7 @@ CFxString Names::VariableWithoutFetch(const OdDbHandle& handle, const OdRxClass*
     return NameObject(handle, cls);
 }
 
-QString Names::TakeFetches()
+Statement Names::TakeFetches()
 {
     return std::exchange(fetches_, {});
 }
@@ -208,10 +208,10 @@ CFxString Names::NameObject(const OdDbHandle& handle, const OdRxClass* cls)
     return name;
 }
 
-QString Names::EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
+Statement Names::EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
 {
     return NameVariable(handle, cls, name) ? EmitGetObjectByHandle(writer_, FindTypeNames(cls)->type, name, handle)
-                                           : QString();
+                                           : Statement();
 }
 
 CFxString Names::NameAdded(const ActionEntry& entry, const OdRxClass* cls, const OdDbObjectId& id)
@@ -228,7 +228,7 @@ QString Names::AddedVariable(const OdDbObjectId& id) const
                : variableOf(found->second.cls, id, found->second.ordinal).toQString();
 }
 
-QString Names::AddedOrFetched(const OdDbObjectId& id, QString& fetch)
+QString Names::AddedOrFetched(const OdDbObjectId& id, Statement& fetch)
 {
     if (QString added = AddedVariable(id); !added.isEmpty())
         return added;
@@ -270,7 +270,7 @@ public:
     bool IsDeclared(const OdDbHandle&) const override { return true; }
     void DropUnnamed(std::vector<CFxString>&) const override {}
     bool KeepNamed(std::vector<CFxString>&, OdArray<OdGePoint3d>&) const override { return true; }
-    QString EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) override
+    Statement EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) override
     {
         name = NameObject(handle, cls);
         return {};
@@ -317,7 +317,7 @@ public:
         DropUnnamed(names);
         return !names.empty();
     }
-    QString EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) override
+    Statement EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) override
     {
         return EmitObjectVariable(handle, cls, name);
     }

@@ -69,7 +69,7 @@ public:
     /// The same of picked objects, with their points. False when there were objects and none of them is left.
     virtual bool KeepNamed(std::vector<CFxString>& names, OdArray<OdGePoint3d>& points) const = 0;
     /// What fetches the objects of the present custom action, and forgets it.
-    QString TakeFetches();
+    Statement TakeFetches();
     /// Begins a custom action: nothing has been fetched for it.
     void ForgetFetched();
 
@@ -80,16 +80,16 @@ public:
     CFxString NameObject(const OdDbHandle& handle, const OdRxClass* cls);
     /// The same, and gives the statement that fetches an object which the recording has not made; else it is empty. A
     /// class without an interface leaves the name as it was.
-    QString EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
+    Statement EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
     /// Of an object that statements may be written for without its fetch: as recorded its bare name, in a repaired
     /// macro with the statement.
-    virtual QString EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) = 0;
+    virtual Statement EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) = 0;
     /// An object is being added: its variable, which AddedVariable gives from here on.
     CFxString NameAdded(const ActionEntry& entry, const OdRxClass* cls, const OdDbObjectId& id);
     /// The variable of an object that was added before; empty for any other. Takes no number.
     QString AddedVariable(const OdDbObjectId& id) const;
     /// The same; an object that the recording did not add is fetched in a repaired macro. Empty is a fault.
-    QString AddedOrFetched(const OdDbObjectId& id, QString& fetch);
+    QString AddedOrFetched(const OdDbObjectId& id, Statement& fetch);
     /// The variable of an object that the macro has one for, the later objects of the same command included; empty for
     /// any other. Takes no number.
     QString KnownVariable(const OdDbHandle& handle) const;
@@ -126,7 +126,7 @@ protected:
     void Forget(const OdDbHandle& handle) { entries_.erase(handle); }
     void DeclareLayer(const OdDbHandle& handle) { fetchedLayers_.insert(handle); }
     ActionEntry NewEntry(const OdRxClass* cls) { return {cls, ++objectCounter_}; }
-    void AddFetch(const QString& statement) { fetches_ += statement; }
+    void AddFetch(const Statement& statement) { fetches_ += statement; }
 
     Writer& writer_;
     ActionFaults& faults_;
@@ -141,7 +141,7 @@ private:
     std::set<OdDbHandle> unmade_;
     /// Variables of objects that are fetched in front of the present custom action, and what fetches them.
     std::map<OdDbHandle, CFxString> fetched_;
-    QString fetches_;
+    Statement fetches_;
     /// Layers that a statement of the present command has declared, and those of former commands, whose blocks hide
     /// them.
     std::set<OdDbHandle> fetchedLayers_;

@@ -4,7 +4,7 @@
 #include "module/CFxConverterIWAPI.h"
 #include "targets/MacroFrame.h"
 
-class QTextStream;
+class MacroFile;
 
 /// One conversion from the output path to the project files. Knows no target: the words come from the Emit operations,
 /// and the target's frame adds what varies in more than words.
@@ -18,7 +18,7 @@ public:
     void SetContext(CFxValueContext value) override { conversion.context = value; }
 
 private:
-    std::int32_t ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action);
+    std::int32_t ConvertTopLevel(MacroFile& macro, const OdRxObjectPtr& action);
 
     Conversion conversion;
     const std::unique_ptr<MacroFrame> frame;

@@ -1,11 +1,11 @@
 // The children of a command as one block.
 
 #include "host/db/OdDbClasses.h"
+#include "module/MacroFile.h"
 #include "module/walk.h"
 #include "objects/classTable.h"
 #include "objects/entries.h"
 #include "objects/losses.h"
-#include "statements/Marks.h"
 #include "statements/StatementGroup.h"
 #include "statements/actionKinds.h"
 #include "statements/losses.h"
@@ -18,7 +18,6 @@
 #include <map>
 
 using inkmacro::Fault;
-using inkmacro::Mark;
 using inkmacro::Target;
 
 namespace {
@@ -44,45 +43,27 @@ bool isShapeFileStyle(const CFxObjectAdded& added)
     return style && style->isShapeFile() && !IsHostShapeFile(style->fileName());
 }
 
-/// The text of a statement that waits for the end of its command. Nearly all are plain letters but for the marks in
-/// them, and take half the room so that QString gives them: a command may have millions of statements.
+/// A statement that waits for the end of its command. Nearly all are plain letters, and take half the room so that
+/// QString gives them: a command may have millions of statements.
 class HeldStatement
 {
 public:
-    explicit HeldStatement(const QString& text) : text_(text), latin1_(text.toLatin1())
+    explicit HeldStatement(Statement statement) : latin1_(statement.text().toLatin1()), rest_(std::move(statement))
     {
-        if (text_ != latin1())
-            takeMarks();
-        if (text_ == latin1())
-            text_.clear();
+        if (rest_.text() == latin1())
+            rest_ = Statement(QString(), rest_.notes());
         else
             latin1_.clear();
     }
 
-    QString text() const
-    {
-        QString text = latin1_.isNull() ? text_ : QString(latin1());
-        std::for_each(marks_.rbegin(), marks_.rend(),
-                      [&text](const auto& mark) { text.insert(mark.first, mark.second); });
-        return text;
-    }
+    Statement statement() const { return latin1_.isNull() ? rest_ : Statement(latin1(), rest_.notes()); }
 
 private:
-    void takeMarks()
-    {
-        for (auto found = Mark::find(text_, 0); found; found = Mark::find(text_, found->at)) {
-            const int at = static_cast<int>(found->at);
-            marks_.emplace_back(at, text_.mid(at, Mark::length));
-            text_.remove(at, Mark::length);
-        }
-        latin1_ = text_.toLatin1();
-    }
     /// Made of the array alone it would end in front of the first null character.
     QLatin1String latin1() const { return QLatin1String(latin1_.constData(), latin1_.size()); }
 
-    QString text_;
-    QByteArray latin1_;
-    std::vector<std::pair<int, QString>> marks_; ///< each where it stood before those behind it were there
+    QByteArray latin1_; ///< null for a text that has other letters
+    Statement rest_;    ///< what it does not hold
 };
 
 /// What is known of a command while its children are converted.
@@ -90,7 +71,7 @@ struct CommandState
 {
     std::vector<ActionEntry> added;
     std::vector<OdDbHandle> handles; ///< one an added object
-    std::vector<QString> declarations;
+    std::vector<Statement> declarations;
     /// Variables of the objects that a custom action of this command finishes.
     std::vector<QString> names;
     std::map<unsigned, std::size_t> made; ///< in a repaired macro, by child: which added object the action makes
@@ -154,9 +135,9 @@ static void PairWithActions(Conversion& conversion, const CFxActionArray& childr
 }
 
 /// In a repaired macro without those of objects that turned out to have no statement that inserts them.
-static QString Declarations(Conversion& conversion, const CommandState& state)
+static Statement Declarations(Conversion& conversion, const CommandState& state)
 {
-    QString text;
+    Statement text;
     for (std::size_t i = 0; i < state.declarations.size(); ++i)
         if (conversion.names().IsDeclared(state.handles[i]))
             text += state.declarations[i];
@@ -181,7 +162,7 @@ static bool ConvertChild(Conversion& conversion, const OdRxObjectPtr& child, uns
                          StatementGroup& group)
 {
     const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), number);
-    QString current;
+    Statement current;
     if (const auto custom = odrxQuery<CFxCustomAction>(child.get())) {
         const std::int32_t kind = custom->GetKind();
         current = HandOver(conversion, kind, number, state);
@@ -200,7 +181,7 @@ static bool ConvertChild(Conversion& conversion, const OdRxObjectPtr& child, uns
         state.shapeStyle = true;
     if (!current.isEmpty()) {
         state.allEmpty = false;
-        state.statements.emplace_back(current);
+        state.statements.emplace_back(std::move(current));
     }
     return true;
 }
@@ -227,8 +208,7 @@ static void ConvertChildren(Conversion& conversion, const CFxActionArray& childr
             return LoseBehind(conversion, children, i);
 }
 
-std::int32_t ConvertCommand(Conversion& conversion, QTextStream& stream, const CFxString&,
-                            const CFxActionArray& children)
+std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxString&, const CFxActionArray& children)
 {
     Writer& writer = conversion.writer;
     CommandState state;
@@ -248,19 +228,19 @@ std::int32_t ConvertCommand(Conversion& conversion, QTextStream& stream, const C
 
     const bool grouped = !group.abandoned() && !state.unnamedTarget;
     const bool written = grouped && !state.allEmpty && (writer.repairs || !state.shapeStyle);
-    const QString declarations = Declarations(conversion, state);
+    const Statement declarations = Declarations(conversion, state);
     if (written || (writer.repairs && !state.allEmpty))
-        writer.writeDeclarations(stream, declarations);
+        macro.writeDeclarations(declarations);
     else if (!declarations.isEmpty() && !state.statements.empty())
-        state.statements.front() = HeldStatement(writer.faulty(state.statements.front().text(), kUndeclared));
+        state.statements.front() = HeldStatement(writer.faulty(state.statements.front().statement(), kUndeclared));
     if (written)
-        writer.write(stream, group.begin());
+        macro.write(group.begin());
     for (; !state.statements.empty(); state.statements.pop_front())
-        writer.write(stream, state.statements.front().text());
+        macro.write(state.statements.front().statement());
     // An unnamed target leaves the level where the group's begin put it: what follows stands one level deeper.
-    const QString end = grouped ? group.close() : QString();
+    const Statement end = grouped ? group.close() : Statement();
     if (written)
-        writer.write(stream, end);
+        macro.write(end);
     if (!writer.repairs)
         writer.UniqueCounter = outerCounter;
     const bool hides = written && writer.target != Target::JavaScript && writer.target != Target::Vba;

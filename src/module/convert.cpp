@@ -1,6 +1,7 @@
 // One conversion, from the output path to the project files.
 
 #include "module/CFxConverterIWAPIImpl.h"
+#include "module/MacroFile.h"
 #include "module/walk.h"
 #include "statements/RecordingState.h"
 #include "statements/wording.h"
@@ -55,16 +56,13 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
         return kFxFailure;
 
     // Ends in front of the stream, whatever is thrown.
-    const Writer::Background background(writer, stream);
+    MacroFile macro(stream, QFileInfo(path).fileName(), writer.target, writer.repairs, writer.notesFaults);
     writer.IndentLevel = 0;
     const bool hasSysVar = std::any_of(actions.begin(), actions.end(), isSysVar);
-    writer.file = QFileInfo(path).fileName();
-    if (NotesFaults())
-        writer.noteFaults();
-    QString header = frame->EmitFileHeader(inkmacro::projectName(path), hasSysVar);
+    Statement header = frame->EmitFileHeader(inkmacro::projectName(path), hasSysVar);
     if (!RecordingInModel && RecordingSheetName.isEmpty() && writer.target != inkmacro::Target::JavaScript)
         header = writer.faulty(header, kNoSketchManager);
-    writer.write(stream, header);
+    macro.write(header);
     RecordingSheetName = CFxString();
     RecordingInModel = true;
 
@@ -74,12 +72,12 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     for (unsigned i = 0; i < actions.length() && status == kFxSuccess; ++i) {
         const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
         if (actions[i])
-            status = ConvertTopLevel(stream, actions[i]);
+            status = ConvertTopLevel(macro, actions[i]);
     }
 
     // Written after a failure too, when the level may be out of balance: nobody reads that text.
-    writer.write(stream, frame->EmitFileFooter());
-    writer.finish(stream);
+    macro.write(frame->EmitFileFooter());
+    macro.finish();
     stream.flush();
     bool written = stream.status() == QTextStream::Ok && file.error() == QFileDevice::NoError;
     // Some file systems tell only who closes a file that it was not written. A close that goes well forgets the rest.
@@ -95,26 +93,23 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     return frame->EmitProjectFiles(path);
 }
 
-std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(QTextStream& stream, const OdRxObjectPtr& action)
+std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(MacroFile& macro, const OdRxObjectPtr& action)
 {
-    Writer& writer = conversion.writer;
-    writer.forgetLater();
     if (const auto command = odrxQuery<CFxUserCommand>(action.get())) {
         try {
             const OdResBufPtr line = command->GetCommand();
-            return ConvertCommand(conversion, stream, line ? line->getString() : OdString(), command->GetActions());
+            return ConvertCommand(conversion, macro, line ? line->getString() : OdString(), command->GetActions());
         } catch (const OdError& error) {
             return FailedAction(action, error);
         }
     }
     if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
-        writer.writeDeclarations(
-            stream, EmitVariableDeclaration(
-                        writer, conversion.names().RegisterObject(added->GetHandle(), added->GetObjectClass())));
+        macro.writeDeclarations(EmitVariableDeclaration(
+            conversion.writer, conversion.names().RegisterObject(added->GetHandle(), added->GetObjectClass())));
 
-    QString text;
+    Statement text;
     const std::int32_t status = ConvertOrLose(conversion, action, text);
     if (status == kFxSuccess)
-        writer.write(stream, text);
+        macro.write(text);
     return status;
 }

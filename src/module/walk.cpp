@@ -34,7 +34,7 @@ bool IsPassedOver(const Conversion& conversion, const OdRxObject* action)
     return added && added->GetObjectClass() == OdDbMText::desc() && !conversion.names().FindEntry(added->GetHandle());
 }
 
-std::int32_t ConvertOrLose(Conversion& conversion, const OdRxObjectPtr& action, QString& text)
+std::int32_t ConvertOrLose(Conversion& conversion, const OdRxObjectPtr& action, Statement& text)
 {
     const LossWatch losses;
     conversion.faults.forget();
@@ -60,7 +60,7 @@ static CFxString layerName(Conversion& conversion, const CFxObjectModified& chan
 }
 
 /// A layer that the recording did not make has no variable yet, although a statement is about to change it.
-static std::int32_t convertModifiedLayer(Conversion& conversion, const CFxObjectModified& action, QString& text)
+static std::int32_t convertModifiedLayer(Conversion& conversion, const CFxObjectModified& action, Statement& text)
 {
     OdRxClass* const cls = action.GetObjectClass();
     const OdDbHandle handle = action.GetHandle();
@@ -80,7 +80,7 @@ static std::int32_t convertModifiedLayer(Conversion& conversion, const CFxObject
     return status;
 }
 
-static std::int32_t convertModified(Conversion& conversion, const CFxObjectModified& action, QString& text)
+static std::int32_t convertModified(Conversion& conversion, const CFxObjectModified& action, Statement& text)
 {
     OdRxClass* const cls = action.GetObjectClass();
     const bool isLayer = cls && IsSupportedClass(cls) && CFxString(cls->name()).equalNoCase("AcDbLayerTableRecord");
@@ -89,7 +89,7 @@ static std::int32_t convertModified(Conversion& conversion, const CFxObjectModif
                : ConvertObjectModified(conversion, action, text);
 }
 
-std::int32_t ConvertAction(Conversion& conversion, const OdRxObjectPtr& action, QString& text)
+std::int32_t ConvertAction(Conversion& conversion, const OdRxObjectPtr& action, Statement& text)
 {
     const OdRxObject* const object = action.get();
     try {

@@ -33,7 +33,7 @@ public:
     FetchedObjects(Writer& writer, const CFxString& changed) : writer_(writer), changed_(changed) {}
 
     /// The variable of that object, null being the changed one. Fetches what is not there yet, from the owner on.
-    CFxString variable(const OptionObject* object, QString& text)
+    CFxString variable(const OptionObject* object, Statement& text)
     {
         if (!object)
             return changed_;
@@ -57,7 +57,7 @@ private:
 } // namespace
 
 void ConvertRows(Conversion& conversion, const ChangeGroups& groups, const RecordedObject& object, PropertyList& list,
-                 QString& text)
+                 Statement& text)
 {
     Writer& writer = conversion.writer;
     for (const ChangeGroup& group : groups) {
@@ -76,7 +76,7 @@ void ConvertRows(Conversion& conversion, const ChangeGroups& groups, const Recor
                     continue;
                 }
                 const CFxString target = objects.variable(part.on, text);
-                const QString statement =
+                const Statement statement =
                     row.kind.statement({writer, row, target, value, second, index, number, IdOf(object.handle)});
                 if (statement.isEmpty() && !row.kind.maySayNothing)
                     LoseProperty(object, row.tag.text(), "the target has no statement that sets it so");

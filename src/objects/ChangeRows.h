@@ -28,7 +28,7 @@ struct Change
 /// What a change becomes. A kind with axes stands for one tag an axis: its row holds what stands before the letter.
 struct ChangeKind
 {
-    QString (*statement)(const Change& change);
+    Statement (*statement)(const Change& change);
     const char* axes = nullptr;
     /// Of a repeated property: a record without a number, or with the number -1, writes nothing.
     bool indexed = false;
@@ -88,4 +88,4 @@ private:
 
 /// Statements for the tags of a list, in its order: takes them out of `list` and appends to `text`.
 void ConvertRows(Conversion& conversion, const ChangeGroups& groups, const RecordedObject& object, PropertyList& list,
-                 QString& text);
+                 Statement& text);

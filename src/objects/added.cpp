@@ -26,7 +26,7 @@ void strike(const PropertyList& consumed, PropertyList& list)
 } // namespace
 
 std::int32_t ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle,
-                                PropertyList& read, PropertyList& rest, QString& text)
+                                PropertyList& read, PropertyList& rest, Statement& text)
 {
     if (!cls)
         return kFxFailure;
@@ -62,7 +62,7 @@ std::int32_t ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, co
     if (text.isEmpty() && !isThere)
         return kFxSuccess;
 
-    QString general;
+    Statement general;
     if (ConvertObjectChanges(conversion, cls, handle, rest, true, general) != kFxSuccess)
         return kFxFailure;
     // Made at its full length: one that grows is allocated and copied once more.

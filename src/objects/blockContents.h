@@ -25,4 +25,4 @@ struct BlockContents
 
 /// Statements that make a block definition of entities which have a variable. The others are left out, but for the few
 /// kinds that are drawn for it.
-QString CreateBlockDefinition(Conversion& conversion, const BlockContents& contents);
+Statement CreateBlockDefinition(Conversion& conversion, const BlockContents& contents);

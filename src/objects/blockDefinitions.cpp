@@ -28,10 +28,10 @@ struct BlockEntity
     Writer& writer;
     const OdDbObject* object; ///< never null where it is prepared
     CFxString name;           ///< its variable; empty when the macro has none
-    QString fetch{};          ///< fetches what the entity is reached by
+    Statement fetch{};          ///< fetches what the entity is reached by
 };
 
-QString drawArc(BlockEntity& entity)
+Statement drawArc(BlockEntity& entity)
 {
     if (!entity.name.isEmpty())
         return {};
@@ -42,7 +42,7 @@ QString drawArc(BlockEntity& entity)
 }
 
 /// A note that a leader owns is reached through the leader.
-QString fetchNote(BlockEntity& entity)
+Statement fetchNote(BlockEntity& entity)
 {
     const OdDbHandle note = entity.object->getDbHandle();
     const OdDbObjectId leader = GetNoteLeader(note);
@@ -54,12 +54,12 @@ QString fetchNote(BlockEntity& entity)
     return EmitGetNoteAnnotation(entity.writer, entity.name, leaderName);
 }
 
-QString fillCells(BlockEntity& entity)
+Statement fillCells(BlockEntity& entity)
 {
     if (entity.name.isEmpty())
         return {};
     const auto& table = static_cast<const OdDbTable&>(*entity.object);
-    QString statements;
+    Statement statements;
     for (unsigned row = 0; row < table.numRows(); ++row)
         for (unsigned column = 0; column < table.numColumns(); ++column)
             if (const OdString text = table.textString(row, column); !text.isEmpty())
@@ -68,7 +68,7 @@ QString fillCells(BlockEntity& entity)
     return statements;
 }
 
-QString dimensionArc(BlockEntity& entity)
+Statement dimensionArc(BlockEntity& entity)
 {
     if (!entity.name.isEmpty())
         return {};
@@ -107,7 +107,7 @@ struct HatchLoops
 };
 
 /// A hatch that no custom action has inserted, though the macro has a variable for it.
-QString insertHatch(BlockEntity& entity)
+Statement insertHatch(BlockEntity& entity)
 {
     if (entity.name.isEmpty() || entity.conversion.insertedHatches.contains(entity.name))
         return {};
@@ -135,7 +135,7 @@ struct EntityKind
     const char* cls;  ///< derived classes count
     const char* type; ///< of iwObjectType_e
     /// Gives what the entity needs besides, and may find it a variable.
-    QString (*prepare)(BlockEntity& entity) = nullptr;
+    Statement (*prepare)(BlockEntity& entity) = nullptr;
 };
 
 /// In the order in which they are looked for: an attribute definition is found as a text, which it derives from. The
@@ -220,13 +220,13 @@ OdArray<OdDbObjectId> ObjectsOf(const CFxVariant& collection, HandlesIn place)
     return ids;
 }
 
-QString CreateBlockDefinition(Conversion& conversion, const BlockContents& contents)
+Statement CreateBlockDefinition(Conversion& conversion, const BlockContents& contents)
 {
     Writer& writer = conversion.writer;
     const Names& names = conversion.names();
     BlockDefinition definition{
         contents.variable, contents.name, contents.renewed, contents.description, contents.origin, {}, {}};
-    QString text = EmitOpenBlockDefinition(writer, definition);
+    Statement text = EmitOpenBlockDefinition(writer, definition);
     for (const OdDbObjectId& id : contents.ids) {
         // What an entity is needs no more than the recording; what it looks like does.
         const OdDbObjectPtr object = id.openObject(true);
@@ -237,7 +237,7 @@ QString CreateBlockDefinition(Conversion& conversion, const BlockContents& conte
             continue;
         }
         BlockEntity entity{conversion, writer, object.get(), names.KnownVariable(id.getHandle())};
-        const QString statements = object && kind->prepare ? kind->prepare(entity) : QString();
+        const Statement statements = object && kind->prepare ? kind->prepare(entity) : QString();
         if (!entity.fetch.isEmpty())
             text += writer.fillIndented(aheadOfFetch).str() + entity.fetch;
         if (!statements.isEmpty())

@@ -30,13 +30,13 @@ constexpr std::int32_t kNoCenterMark = 0;
 constexpr std::int32_t kCenterLines = 1;
 constexpr std::int32_t kCenterMark = 2;
 
-QString setReal(const Change& change, double value)
+Statement setReal(const Change& change, double value)
 {
     return EmitSetDoubleProperty(change.writer, change.target, change.row.property, value);
 }
 
 template<double (*radius)(double)>
-QString setRadius(const Change& change)
+Statement setRadius(const Change& change)
 {
     return EmitSetDoubleProperty(change.writer, change.target, "Radius", radius(change.value.GetDouble()));
 }
@@ -56,7 +56,7 @@ double fromDiameter(double diameter)
     return diameter * 0.5;
 }
 
-QString setBool(const Change& change, bool value)
+Statement setBool(const Change& change, bool value)
 {
     return EmitSetBoolProperty(change.writer, change.target, change.row.property, value);
 }
@@ -101,24 +101,24 @@ bool isPlainYes(const CFxVariant& value)
     return value.GetString() == ShownWord("Yes");
 }
 
-QString setEnum(const Change& change, const CFxString& word)
+Statement setEnum(const Change& change, const CFxString& word)
 {
     return EmitSetEnumProperty(change.writer, change.target, *change.row.kind.byText, change.row.property, word);
 }
 
 template<std::int32_t (*numberOf)(const CFxVariant&)>
-QString setEnumValue(const Change& change)
+Statement setEnumValue(const Change& change)
 {
     return EmitSetEnumValue(change.writer, change.target, *change.row.kind.byValue, change.row.property,
                             numberOf(change.value));
 }
 
-QString setText(const Change& change, const CFxString& value, bool quoted)
+Statement setText(const Change& change, const CFxString& value, bool quoted)
 {
     return EmitSetProperty(change.writer, change.target, change.row.property, value, quoted);
 }
 
-QString setYesOrFirst(const Change& change)
+Statement setYesOrFirst(const Change& change)
 {
     switch (change.value.GetType()) {
     case CFxVariant::kCollection:
@@ -130,29 +130,29 @@ QString setYesOrFirst(const Change& change)
     }
 }
 
-using SetText = QString (*)(const Change& change, const CFxString& word);
+using SetText = Statement (*)(const Change& change, const CFxString& word);
 
 template<SetText set, std::optional<CFxString> (*textOf)(const CFxVariant&) = &ChosenText>
-QString setChosen(const Change& change)
+Statement setChosen(const Change& change)
 {
     const std::optional<CFxString> word = textOf(change.value);
     return word ? set(change, *word) : QString();
 }
 
-QString setQuoted(const Change& change, const CFxString& word)
+Statement setQuoted(const Change& change, const CFxString& word)
 {
     return setText(change, word, true);
 }
 
 template<bool (*isYes)(const CFxVariant&)>
-QString setEnumIfYes(const Change& change)
+Statement setEnumIfYes(const Change& change)
 {
     return isYes(change.value) ? EmitSetEnumSuffix(change.writer, change.target, *change.row.kind.byValue,
                                                    change.row.property, change.row.kind.suffix)
                                : QString();
 }
 
-QString setDecimalSeparator(const Change& change, const CFxString& separator)
+Statement setDecimalSeparator(const Change& change, const CFxString& separator)
 {
     return EmitSetDecimalSeparator(change.writer, change.target, change.row.property, separator);
 }
@@ -160,12 +160,12 @@ QString setDecimalSeparator(const Change& change, const CFxString& separator)
 /// Stands for the measure in the text of a dimension.
 constexpr QLatin1String kMeasure("<>", 2);
 
-QString setAffix(const Change& change, const CFxString& part)
+Statement setAffix(const Change& change, const CFxString& part)
 {
     return part.toQString() == kMeasure ? QString() : setQuoted(change, part);
 }
 
-QString setPrefixAndSuffix(const Change& change, const CFxString& parts)
+Statement setPrefixAndSuffix(const Change& change, const CFxString& parts)
 {
     const QString& whole = parts;
     const int measure = whole.indexOf(kMeasure);
@@ -177,30 +177,30 @@ QString setPrefixAndSuffix(const Change& change, const CFxString& parts)
     return set("Prefix", whole.left(measure)) + set("Suffix", whole.mid(measure + kMeasure.size()));
 }
 
-QString setLineStyle(const Change& change)
+Statement setLineStyle(const Change& change)
 {
     if (change.value.GetType() == CFxVariant::kId)
         return EmitSetLineStyle(change.writer, change.target, change.row.property, change.value.GetId());
     return setChosen<setQuoted, anyText>(change);
 }
 
-QString setOverrideText(const Change& change, const CFxString& value)
+Statement setOverrideText(const Change& change, const CFxString& value)
 {
     return EmitViewportOverrideText(change.writer, change.target, change.row.property, value, true);
 }
 
-using SetArrow = QString (*)(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
+using SetArrow = Statement (*)(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
                              const CFxString& name);
 
 template<SetArrow emit>
-QString setArrow(const Change& change)
+Statement setArrow(const Change& change)
 {
     const std::int32_t arrow = anyNumber(change.value);
     const CFxString name = arrow == kCustomArrow ? anyText(change.value).value_or(CFxString()) : CFxString();
     return emit(change.writer, change.target, change.row.property, arrow, name);
 }
 
-QString setStyleCenterMark(const Change& change)
+Statement setStyleCenterMark(const Change& change)
 {
     const auto set = [&](std::int32_t kind, double size) {
         return EmitSetStyleCenterMark(change.writer, change.target, change.row.property, kind, size);
@@ -212,7 +212,7 @@ QString setStyleCenterMark(const Change& change)
 }
 
 /// The current style has to be made current again under its new name.
-QString renameDimensionStyle(const Change& change, const CFxString& name)
+Statement renameDimensionStyle(const Change& change, const CFxString& name)
 {
     const OdDbObjectId& style = change.object;
     const bool isCurrent = !style.isNull() && style == ACTIVE_DOCUMENT->GetDatabase()->currentDimensionStyleId();
@@ -224,22 +224,22 @@ CFxString integerWord(const Change& change)
     return CFxString(QString::number(change.value.GetInt32()));
 }
 
-QString renameRichLineStyle(const Change& change, const CFxString& name)
+Statement renameRichLineStyle(const Change& change, const CFxString& name)
 {
     return EmitRenameRichLineStyle(change.writer, change.target, name);
 }
 
-QString setYes(const Change& change, const CFxString& word)
+Statement setYes(const Change& change, const CFxString& word)
 {
     return setBool(change, word.equalNoCase(ShownWord("Yes")));
 }
 
-QString setDoubled(const Change& change, const CFxString& text)
+Statement setDoubled(const Change& change, const CFxString& text)
 {
     return setQuoted(change, inkmacro::doubleBackslashes(text));
 }
 
-QString setNoteDirection(const Change& change, const CFxString& word)
+Statement setNoteDirection(const Change& change, const CFxString& word)
 {
     // In the order of the drawing's numbers.
     static constexpr const char* words[] = {"ByStyle", "Vertical", "Horizontal"};
@@ -251,7 +251,7 @@ QString setNoteDirection(const Change& change, const CFxString& word)
                                 static_cast<int>(found - std::begin(words)));
 }
 
-QString setNoteLineSpacing(const Change& change)
+Statement setNoteLineSpacing(const Change& change)
 {
     const CFxVariant::Type type = change.value.GetType();
     constexpr CFxVariant::Type known[] = {CFxVariant::kCollection, CFxVariant::kCollectionElement, CFxVariant::kInt32,
@@ -261,24 +261,24 @@ QString setNoteLineSpacing(const Change& change)
     return EmitSetNoteLineSpacing(change.writer, change.target, change.row.property, anyNumber(change.value));
 }
 
-QString renameStyle(const Change& change, const CFxString& name)
+Statement renameStyle(const Change& change, const CFxString& name)
 {
     return EmitRenameStyle(change.writer, change.target, name, false);
 }
 
 /// A name that begins with the mark is none to be given; such a change is passed over.
-QString renameTextStyle(const Change& change, const CFxString& name)
+Statement renameTextStyle(const Change& change, const CFxString& name)
 {
     static const QLatin1String mark("<tag>");
     return name.toQString().startsWith(mark, Qt::CaseInsensitive) ? QString() : renameStyle(change, name);
 }
 
-QString setTableStyle(const Change& change, const CFxString& style)
+Statement setTableStyle(const Change& change, const CFxString& style)
 {
     return EmitSetTableStyle(change.writer, change.target, style, change.row.property);
 }
 
-QString setOrientation(const Change& change, const CFxString& word)
+Statement setOrientation(const Change& change, const CFxString& word)
 {
     const bool down = word.equalNoCase(ShownWord("Down"));
     if (!down && !word.equalNoCase(ShownWord("Up")))
@@ -301,24 +301,24 @@ std::int32_t borderLine(const Change& change)
     return change.number.GetCollectionElement().GetValue()->GetInt32();
 }
 
-QString setCellAlignment(const Change& change, const CFxString& shownText)
+Statement setCellAlignment(const Change& change, const CFxString& shownText)
 {
     return EmitSetTableStyleAlignment(change.writer, change.target, cellType(change), shownText);
 }
 
-QString setCellTextStyle(const Change& change, const CFxString& name)
+Statement setCellTextStyle(const Change& change, const CFxString& name)
 {
     return EmitSetTableStyleTextStyle(change.writer, change.target, cellType(change), name);
 }
 
-QString changePoint(const Change& change)
+Statement changePoint(const Change& change)
 {
     const QString& pair = change.row.property;
     return EmitChangePoint(change.writer, change.target, change.row.axis, "Get" + pair, "Set" + pair,
                            change.value.GetDouble(), change.index);
 }
 
-QString changeScale(const Change& change)
+Statement changeScale(const Change& change)
 {
     if (!RecordsIn(inkmacro::Target::JavaScript))
         return changePoint(change);
@@ -327,33 +327,33 @@ QString changeScale(const Change& change)
                            change.value.GetDouble());
 }
 
-using PairChange = QString (*)(Writer& writer, const CFxString& target, const CFxString& local, double value);
+using PairChange = Statement (*)(Writer& writer, const CFxString& target, const CFxString& local, double value);
 
 template<PairChange emit>
-QString changePair(const Change& change)
+Statement changePair(const Change& change)
 {
     return emit(change.writer, change.target, "get" + change.row.axis.toQString(), change.value.GetDouble());
 }
 
-using VertexChange = QString (*)(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
+using VertexChange = Statement (*)(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
                                  double value);
 
 template<VertexChange emit>
-QString changeVertex(const Change& change)
+Statement changeVertex(const Change& change)
 {
     return emit(change.writer, change.target, change.index, change.row.axis, change.value.GetDouble());
 }
 
-using CoordinateChange = QString (*)(Writer& writer, const CFxString& target, const CFxString& stem, double value);
+using CoordinateChange = Statement (*)(Writer& writer, const CFxString& target, const CFxString& stem, double value);
 
 template<CoordinateChange x, CoordinateChange y>
-QString changeCoordinate(const Change& change)
+Statement changeCoordinate(const Change& change)
 {
     const CoordinateChange emit = change.row.axis == CFxString("X") ? x : y;
     return emit(change.writer, change.target, change.row.property, change.value.GetDouble());
 }
 
-QString changeNumberedVertex(const Change& change)
+Statement changeNumberedVertex(const Change& change)
 {
     const qint64 number = qint64{change.index} + 1;
     return EmitChangePoint(change.writer, change.target, change.row.axis,
@@ -361,7 +361,7 @@ QString changeNumberedVertex(const Change& change)
                            QStringLiteral("SetVertex%1Coordinate").arg(number), change.value.GetDouble(), -1);
 }
 
-QString changeFaceVertex(const Change& change)
+Statement changeFaceVertex(const Change& change)
 {
     const bool exists = change.index >= 0 && change.index <= 3;
     return exists ? changeNumberedVertex(change) : QString();

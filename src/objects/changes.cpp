@@ -30,7 +30,7 @@ bool hasRecord(const PropertyList& list, const char* tag)
 /// Gives the variable of the object, and the statement that the changes need in front of them. False for an object
 /// that the macro does not know: its changes are dropped.
 static bool addressChangedObject(Conversion& conversion, RecordedObject& object, const OdDbObjectId& noteLeader,
-                                 const PropertyList& list, QString& text)
+                                 const PropertyList& list, Statement& text)
 {
     const auto& [cls, handle, name] = object;
     Names& names = conversion.names();
@@ -58,10 +58,10 @@ static bool addressChangedObject(Conversion& conversion, RecordedObject& object,
     return cls == OdDbLayout::desc();
 }
 
-static QString convertErased(Conversion& conversion, const RecordedObject& object, const CFxVariant& erased)
+static Statement convertErased(Conversion& conversion, const RecordedObject& object, const CFxVariant& erased)
 {
     Writer& writer = conversion.writer;
-    QString text;
+    Statement text;
     CFxString target = object.name;
     if (IsDimensionClass(object.cls))
         text = EmitGetOptions(writer, generalDimension, object.name, target);
@@ -83,10 +83,10 @@ static QString convertErased(Conversion& conversion, const RecordedObject& objec
     return text;
 }
 
-static QString convertClassChanges(Conversion& conversion, const RecordedObject& object, PropertyList& list,
+static Statement convertClassChanges(Conversion& conversion, const RecordedObject& object, PropertyList& list,
                                    bool fromAdded)
 {
-    QString text;
+    Statement text;
     const ClassRow* const row = FindClass(object.cls);
     if (row && (!fromAdded || row->has(kSetWhenAdded))) {
         if (row->changes.groups)
@@ -99,17 +99,17 @@ static QString convertClassChanges(Conversion& conversion, const RecordedObject&
     return text;
 }
 
-static QString convertGeneral(Conversion& conversion, const RecordedObject& object, PropertyList& list, bool fromAdded,
+static Statement convertGeneral(Conversion& conversion, const RecordedObject& object, PropertyList& list, bool fromAdded,
                               StatementGroup& group)
 {
     // For the statements of an everyday object.
     constexpr int room = 512;
-    QString general;
+    Statement general;
     general.reserve(room);
     CFxString target = object.name;
-    const QString dimension = IsDimensionClass(object.cls)
+    const Statement dimension = IsDimensionClass(object.cls)
                                   ? EmitGetOptions(conversion.writer, generalDimension, object.name, target)
-                                  : QString();
+                                  : Statement();
     ConvertGeneralProperties(conversion, object, list, fromAdded, target, group, general);
     if (!general.isEmpty())
         general.prepend(dimension);
@@ -117,7 +117,7 @@ static QString convertGeneral(Conversion& conversion, const RecordedObject& obje
 }
 
 std::int32_t ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle,
-                                  PropertyList& list, bool fromAdded, QString& text)
+                                  PropertyList& list, bool fromAdded, Statement& text)
 {
     text.clear();
     RecordedObject object{cls, handle, {}};
@@ -132,9 +132,9 @@ std::int32_t ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, 
     }
 
     StatementGroup group(conversion.writer);
-    const QString general =
+    const Statement general =
         cls->isDerivedFrom(OdDbEntity::desc()) ? convertGeneral(conversion, object, list, fromAdded, group) : QString();
-    const QString classText = convertClassChanges(conversion, object, list, fromAdded);
+    const Statement classText = convertClassChanges(conversion, object, list, fromAdded);
     LoseRest(conversion, object, list, fromAdded);
 
     if (general.isEmpty() && classText.isEmpty()) {
@@ -161,7 +161,7 @@ struct GeneralProperty
 };
 
 void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& object, PropertyList& list, bool fromAdded,
-                              const CFxString& target, StatementGroup& group, QString& text)
+                              const CFxString& target, StatementGroup& group, Statement& text)
 {
     Writer& writer = conversion.writer;
     const bool isCurvedText = object.cls == OdDbArcAlignedText::desc();
@@ -194,7 +194,7 @@ void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& obje
         if (isCurvedText)
             text += EmitSetOptions(writer, curvedTextSettings, target, holder);
     }
-    const auto addNamed = [&](const GeneralProperty& property, const QString& statement) {
+    const auto addNamed = [&](const GeneralProperty& property, const Statement& statement) {
         if (statement.isEmpty())
             LoseProperty(object, property.tag.text(), QStringLiteral("the drawing does not have what it names"));
         text += statement;

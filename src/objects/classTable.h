@@ -10,7 +10,7 @@ class ChangeGroups;
 
 /// Converts the changes of one class, where they are more than a list of tags with a statement each. Takes the tags
 /// that it knows out of the list and appends their statements to `text`.
-using ChangeHandler = void (*)(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);
+using ChangeHandler = void (*)(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text);
 
 /// The changes of one class: a list of tags, a handler, or nothing beyond what all classes have.
 struct ClassChanges
@@ -35,7 +35,7 @@ enum ClassFlags : unsigned
 struct ClassRow
 {
     const char* name;                                ///< as the class descriptor reports it
-    QString (*reader)(AddedObject& added) = nullptr; ///< gives the statement that makes the object; it may be empty
+    Statement (*reader)(AddedObject& added) = nullptr; ///< gives the statement that makes the object; it may be empty
     ClassChanges changes = {};
     unsigned flags = 0;
 

@@ -8,7 +8,7 @@
 
 static constexpr char kForeignClass[] = "objects of its class have no statements";
 
-std::int32_t ConvertObjectAdded(Conversion& conversion, const CFxObjectAdded& action, QString& text)
+std::int32_t ConvertObjectAdded(Conversion& conversion, const CFxObjectAdded& action, Statement& text)
 {
     const OdRxClass* const cls = action.GetObjectClass();
     if (!cls)
@@ -20,14 +20,14 @@ std::int32_t ConvertObjectAdded(Conversion& conversion, const CFxObjectAdded& ac
 
     PropertyList read = action.GetProperties();
     PropertyList rest = action.GetExtraProperties();
-    QString statements;
+    Statement statements;
     if (ConvertAddedObject(conversion, cls, action.GetHandle(), read, rest, statements) != kFxSuccess)
         return kFxFailure;
     text += statements;
     return kFxSuccess;
 }
 
-std::int32_t ConvertObjectModified(Conversion& conversion, const CFxObjectModified& action, QString& text)
+std::int32_t ConvertObjectModified(Conversion& conversion, const CFxObjectModified& action, Statement& text)
 {
     const OdRxClass* const cls = action.GetObjectClass();
     if (!cls)
@@ -40,8 +40,8 @@ std::int32_t ConvertObjectModified(Conversion& conversion, const CFxObjectModifi
     if (list.empty())
         return kFxSuccess;
 
-    const QString comment = EmitObjectModifiedComment(conversion.writer, cls->name());
-    QString statements;
+    const Statement comment = EmitObjectModifiedComment(conversion.writer, cls->name());
+    Statement statements;
     if (ConvertObjectChanges(conversion, cls, action.GetHandle(), list, false, statements) != kFxSuccess)
         return kFxFailure;
     if (!statements.isEmpty())
@@ -50,7 +50,7 @@ std::int32_t ConvertObjectModified(Conversion& conversion, const CFxObjectModifi
 }
 
 /// A property that stands alone is a list of one record, which brings its class and handle along.
-std::int32_t ConvertPropertyChanged(Conversion& conversion, CFxPropertyChangedPtr action, QString& text)
+std::int32_t ConvertPropertyChanged(Conversion& conversion, CFxPropertyChangedPtr action, Statement& text)
 {
     const OdRxClass* const cls = action->GetObjectClass();
     if (!cls)

@@ -9,21 +9,21 @@ class StatementGroup;
 // Recorded objects become statements, from their property records alone. The first two append to `text`, a property
 // that stands alone replaces it. Each gives kFxSuccess or kFxFailure.
 
-std::int32_t ConvertObjectAdded(Conversion& conversion, const CFxObjectAdded& action, QString& text);
-std::int32_t ConvertObjectModified(Conversion& conversion, const CFxObjectModified& action, QString& text);
-std::int32_t ConvertPropertyChanged(Conversion& conversion, CFxPropertyChangedPtr action, QString& text);
+std::int32_t ConvertObjectAdded(Conversion& conversion, const CFxObjectAdded& action, Statement& text);
+std::int32_t ConvertObjectModified(Conversion& conversion, const CFxObjectModified& action, Statement& text);
+std::int32_t ConvertPropertyChanged(Conversion& conversion, CFxPropertyChangedPtr action, Statement& text);
 
 /// `read` is what the class's reader takes its values from, `rest` what the general handler gets of it: the same
 /// records less those that the reader took.
 std::int32_t ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle,
-                                PropertyList& read, PropertyList& rest, QString& text);
+                                PropertyList& read, PropertyList& rest, Statement& text);
 /// Statements for the properties that changed, or for what an added object's reader left. Empties `text` first.
 std::int32_t ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle,
-                                  PropertyList& list, bool fromAdded, QString& text);
+                                  PropertyList& list, bool fromAdded, Statement& text);
 /// The properties that entities of all classes have. Abandons the group that was begun, when the statements declare
 /// what must be seen behind it. `target` is the variable that they are set on.
 void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& object, PropertyList& list, bool fromAdded,
-                              const CFxString& target, StatementGroup& group, QString& text);
+                              const CFxString& target, StatementGroup& group, Statement& text);
 
 /// Whether that file of line type shapes comes with the host, which then needs no statement to load it.
 bool IsHostShapeFile(const CFxString& fileName);

@@ -26,9 +26,9 @@ std::int32_t regionDetection(const CFxVariant& value)
 
 } // namespace
 
-QString ConvertHatchCommonProperties(Writer& writer, const CFxString& pattern, const TakeTag& take)
+Statement ConvertHatchCommonProperties(Writer& writer, const CFxString& pattern, const TakeTag& take)
 {
-    QString text;
+    Statement text;
     if (const CFxVariant detection = take("Internal region detection"); !detection.IsNull())
         text = EmitHatchRegionDetection(writer, pattern, regionDetection(detection));
     if (const CFxVariant x = take("Origin X"); !x.IsNull())

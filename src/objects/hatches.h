@@ -10,7 +10,7 @@ using TakeTag = std::function<CFxVariant(const char* tag)>;
 
 /// What no insertion call has an argument for: inner regions and the pattern's origin. Empty when the records have none
 /// of it. `pattern` is the variable of the hatch's pattern object.
-QString ConvertHatchCommonProperties(Writer& writer, const CFxString& pattern, const TakeTag& take);
+Statement ConvertHatchCommonProperties(Writer& writer, const CFxString& pattern, const TakeTag& take);
 
 /// The objects that a hatch's boundary follows, erased ones included and each of them once, with the variables of those
 /// that were added before. Raises an OdError for an object that the drawing does not have.

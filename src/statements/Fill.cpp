@@ -3,7 +3,6 @@
 #include "host/rx/OdError.h"
 #include "statements/Fault.h"
 #include "statements/LineEnd.h"
-#include "statements/Marks.h"
 #include "statements/digits.h"
 #include "statements/quoting.h"
 
@@ -293,21 +292,28 @@ qsizetype lengthAt(const QString& marker, T value)
     return filledByQt(marker, value).size();
 }
 
+/// The places that the next value goes to.
+std::vector<Marker> lowestMarkers(QStringView text)
+{
+    std::vector<Marker> lowest;
+    for (Marker next = nextMarker(text, 0); next.end != -1; next = nextMarker(text, next.end)) {
+        if (!lowest.empty() && next.number < lowest.front().number) {
+            lowest.clear();
+        }
+        if (lowest.empty() || next.number == lowest.front().number) {
+            lowest.push_back(next);
+        }
+    }
+    return lowest;
+}
+
 /// How long the text becomes when values of these lengths go to the places of its lowest marker, those without and
 /// those with an L.
 qsizetype filledLength(QStringView text, qsizetype plain, qsizetype local)
 {
-    constexpr int aboveAll = 100;
-    int lowest = aboveAll;
     qsizetype length = text.size();
-    for (Marker next = nextMarker(text, 0); next.end != -1; next = nextMarker(text, next.end)) {
-        if (next.number < lowest) {
-            lowest = next.number;
-            length = text.size();
-        }
-        if (next.number == lowest) {
-            length += (next.local ? local : plain) - (next.end - next.begin);
-        }
+    for (const Marker& marker : lowestMarkers(text)) {
+        length += (marker.local ? local : plain) - (marker.end - marker.begin);
     }
     return length;
 }
@@ -424,7 +430,7 @@ Fill& Fill::text(QLatin1String value)
 
 Fill& Fill::shortReal(double value)
 {
-    if ((mode_.repairs || mode_.marked != nullptr) && losesDigits(value)) {
+    if ((mode_.repairs || mode_.notesFaults) && losesDigits(value)) {
         if (mode_.repairs) {
             return real(value);
         }
@@ -435,18 +441,37 @@ Fill& Fill::shortReal(double value)
     return add(Short{value});
 }
 
-QString Fill::str() const
+Fill& Fill::text(const Statement& value)
+{
+    if (value.hasNotes()) {
+        noted_.push_back({values_.size(), value.notes()});
+    }
+    return text(value.text());
+}
+
+Fill& Fill::text(Statement&& value)
+{
+    if (value.hasNotes()) {
+        noted_.push_back({values_.size(), value.notes()});
+    }
+    return text(QString(value.text()));
+}
+
+Statement Fill::str() const
 {
     if (!template_) {
         return {};
     }
     const int used = std::min(values_.size(), static_cast<int>(template_->ranks_.size()));
     if (mode_.repairs) {
-        return escaped(used);
+        Statement::Notes notes;
+        QString outcome = escaped(used, noted_.empty() ? nullptr : &notes);
+        return {std::move(outcome), std::move(notes)};
     }
-    QString outcome = filled(used);
-    if (mode_.marked != nullptr && (fault_ || percent_ || rounded_ >= 0 || template_->quotes_)) {
-        markFaults(outcome, used);
+    QString text = filled(used);
+    Statement outcome = noted_.empty() ? Statement(std::move(text)) : Statement(std::move(text), notesOf(used));
+    if (mode_.notesFaults && (fault_ || percent_ || rounded_ >= 0 || template_->quotes_)) {
+        noteFaults(outcome, used);
     }
     return outcome;
 }
@@ -460,7 +485,7 @@ QString Fill::filled(int used) const
 }
 
 /// With values in which no markers are read; only a repaired macro has those between quotes escaped.
-QString Fill::escaped(int used) const
+QString Fill::escaped(int used, Statement::Notes* notes) const
 {
     QString out;
     for (const Template::Piece& piece : template_->pieces_) {
@@ -471,6 +496,9 @@ QString Fill::escaped(int used) const
         const QString value = std::visit(
             [](const auto& held) { return written(room(held), [&](QChar* end) { return write(end, held); }); },
             values_[piece.rank]);
+        if (notes) {
+            addNotes(*notes, piece.rank, out.size());
+        }
         if (mode_.repairs && piece.quoted) {
             appendQuoted(out, value, *mode_.target);
         } else {
@@ -483,23 +511,34 @@ QString Fill::escaped(int used) const
     return out;
 }
 
-void Fill::markFaults(QString& outcome, int used) const
+/// The notes of the values, at their places in the outcome.
+Statement::Notes Fill::notesOf(int used) const
 {
-    const auto mark = [&](const Fault& fault) {
-        insertMark(outcome, {Mark::Kind::Fault, fault.number()});
-        *mode_.marked = true;
-    };
+    Statement::Notes notes;
+    if (fitsOnePass()) {
+        escaped(used, &notes);
+    } else {
+        valueByValue(&notes);
+    }
+    return notes;
+}
+
+void Fill::noteFaults(Statement& outcome, int used) const
+{
+    if (outcome.isEmpty()) {
+        return;
+    }
     if (fault_) {
-        mark(*fault_);
+        outcome.addFault(*fault_);
     }
     if (rounded_ >= 0 && rounded_ < used) {
-        mark(kSixDigits);
+        outcome.addFault(kSixDigits);
     }
     if (percent_ && hasReadMarker(used)) {
-        mark(kReadMarker);
+        outcome.addFault(kReadMarker);
     }
     if (template_->quotes_ && hasBrokenQuotes(used)) {
-        mark(brokenQuotes);
+        outcome.addFault(brokenQuotes);
     }
 }
 
@@ -541,22 +580,59 @@ QString Fill::inOnePass(int used) const
 }
 
 /// The slow way: reads the whole text again for every value.
-QString Fill::valueByValue() const
+QString Fill::valueByValue(Statement::Notes* notes) const
 {
     const qsizetype most = std::min(longestText, most_ + longestGrowth);
     QString text = template_->text_;
+    int rank = 0;
     for (const Value& value : values_) {
         if (!hasMarker(text)) {
             break;
         }
         text = std::visit(
-            [&text, most](const auto& held) {
+            [&](const auto& held) {
                 requireLength(text, held, most);
+                if (notes) {
+                    moveNotes(*notes, rank, text, lengthAt(QStringLiteral("%1"), held),
+                              lengthAt(QStringLiteral("%L1"), held));
+                }
                 return filledByQt(text, held);
             },
             value);
+        ++rank;
     }
     return text;
+}
+
+void Fill::addNotes(Statement::Notes& notes, int rank, qsizetype place) const
+{
+    for (const auto& [noted, ofValue] : noted_) {
+        for (const StatementNote& note : ofValue) {
+            if (noted == rank) {
+                notes.push_back({static_cast<int>(place) + note.offset, note.what});
+            }
+        }
+    }
+}
+
+/// The value takes the places of the lowest-numbered marker: what is noted behind one moves, and its own notes come in.
+/// `plain` and `local` are the lengths of the two forms that it has.
+void Fill::moveNotes(Statement::Notes& notes, int rank, const QString& text, qsizetype plain, qsizetype local) const
+{
+    Statement::Notes moved;
+    auto next = notes.begin();
+    qsizetype shift = 0;
+    for (const Marker& marker : lowestMarkers(text)) {
+        for (; next != notes.end() && next->offset <= marker.begin; ++next) {
+            moved.push_back({next->offset + static_cast<int>(shift), next->what});
+        }
+        addNotes(moved, rank, marker.begin + shift);
+        shift += (marker.local ? local : plain) - (marker.end - marker.begin);
+    }
+    for (; next != notes.end(); ++next) {
+        moved.push_back({next->offset + static_cast<int>(shift), next->what});
+    }
+    notes = std::move(moved);
 }
 
 QString FormatLong(double value)

@@ -2,6 +2,7 @@
 
 #include "host/db/OdGe.h"
 #include "host/kernel/CFxString.h"
+#include "statements/Statement.h"
 #include "statements/Template.h"
 
 #include <QString>
@@ -16,8 +17,6 @@
 
 namespace inkmacro {
 
-class Fault;
-
 /// A text closes the literal that it stands in, or is read as another text there.
 extern const Fault brokenQuotes;
 
@@ -25,8 +24,8 @@ extern const Fault brokenQuotes;
 struct FillMode
 {
     std::optional<Target> target{};
-    bool repairs = false;   ///< see Fill
-    bool* marked = nullptr; ///< set when an outcome has a mark of a fault; null: faults are not looked for
+    bool repairs = false;     ///< see Fill
+    bool notesFaults = false; ///< whether faults are looked for
 };
 
 /// Fills one template. Values are taken in the order given: each goes to all places of the lowest-numbered marker that
@@ -35,11 +34,12 @@ struct FillMode
 /// it; but Qt's warnings about missing markers are not printed.
 ///
 /// In a repaired macro values hold no markers, and a text between quotes is escaped as the target's language wants it.
-/// In any other the outcome is marked as faulty where that makes a difference.
+/// In any other a fault is noted where that makes a difference. The notes of statements that are values come to stand
+/// wherever the value does.
 ///
-/// Texts that stand in a variable are kept as views: each must live until str() is called. An outcome of more than
-/// 256 Mi characters, or one on the way to it, raises an OdError, and so does one that markers in its values would make
-/// more than 16 Mi longer.
+/// Texts that stand in a variable are kept as views: each must live until the statement is asked for. An outcome of
+/// more than 256 Mi characters, or one on the way to it, raises an OdError, and so does one that markers in its values
+/// would make more than 16 Mi longer.
 class Fill
 {
 public:
@@ -71,6 +71,9 @@ public:
     /// Keeps a text that nobody else does.
     Fill& text(QString&& value);
     Fill& text(CFxString&& value) { return text(QString(value.toQString())); }
+    Fill& text(const Statement& value);
+    Fill& text(Statement&& value);
+    Fill& text(const Statement&& value) { return text(Statement(value)); }
     // What Qt's operators give is a temporary that is const.
     Fill& text(const QString&& value) { return text(QString(value)); }
     Fill& text(const CFxString&& value) { return text(QString(value.toQString())); }
@@ -92,8 +95,8 @@ public:
     Fill& shortPoint(const OdGePoint3d& value) { return shortReal(value.x).shortReal(value.y).shortReal(value.z); }
     Fill& shortVector(const OdGeVector3d& value) { return shortReal(value.x).shortReal(value.y).shortReal(value.z); }
 
-    QString str() const;
-    operator QString() const { return str(); }
+    Statement str() const;
+    operator Statement() const { return str(); }
 
     // The forms in which values are kept, besides Qt's own types.
     struct Blanks
@@ -116,25 +119,37 @@ private:
     template<class T>
     Fill& add(T value);
 
+    /// The notes of a value.
+    struct Noted
+    {
+        int rank;
+        Statement::Notes notes;
+    };
+
     // `used` is how many values have a marker.
     QString filled(int used) const;
-    QString escaped(int used) const;
-    void markFaults(QString& outcome, int used) const;
+    QString escaped(int used, Statement::Notes* notes = nullptr) const;
+    Statement::Notes notesOf(int used) const;
+    /// Of the value of that rank, which stands at the place.
+    void addNotes(Statement::Notes& notes, int rank, qsizetype place) const;
+    void moveNotes(Statement::Notes& notes, int rank, const QString& text, qsizetype plain, qsizetype local) const;
+    void noteFaults(Statement& outcome, int used) const;
     bool hasBrokenQuotes(int used) const;
     bool hasReadMarker(int used) const;
     bool fitsOnePass() const;
     QString inOnePass(int used) const;
-    QString valueByValue() const;
+    QString valueByValue(Statement::Notes* notes = nullptr) const;
 
     const Template* template_;
     const FillMode mode_;
     const Fault* const fault_;
     QVarLengthArray<Value, 16> values_;
     std::vector<QString> kept_; ///< what views among the values look at; their characters never move
-    qsizetype most_;            ///< no outcome is longer while no value holds a marker
-    bool percent_ = false;      ///< some text holds '%'
-    bool open_ = false;         ///< some value can make a marker of what stands in front of it
-    int rounded_ = -1;          ///< the first value that loses digits
+    std::vector<Noted> noted_;
+    qsizetype most_;       ///< no outcome is longer while no value holds a marker
+    bool percent_ = false; ///< some text holds '%'
+    bool open_ = false;    ///< some value can make a marker of what stands in front of it
+    int rounded_ = -1;     ///< the first value that loses digits
 };
 
 /// Fixed notation with 14 decimals, halves away from zero: "1.50000000000000".

@@ -14,9 +14,9 @@ public:
     StatementGroup(const StatementGroup&) = delete;
     StatementGroup& operator=(const StatementGroup&) = delete;
 
-    QString begin() const { return blockBeginAt(writer_, level_); }
+    Statement begin() const { return blockBeginAt(writer_, level_); }
     /// Gives the level back.
-    QString close() { return EmitBlockEnd(writer_); }
+    Statement close() { return EmitBlockEnd(writer_); }
     /// Gives a level back because statements are written without a group, in every target: who may not do so in
     /// JavaScript has to ask. Each such statement may do it, so the level can fall below that in front of the group.
     void abandon()
@@ -48,9 +48,9 @@ private:
 /// Statements that must be outside of the group around them: they stand between its end and the beginning of another,
 /// in which all goes on.
 template<class Statements>
-QString betweenGroups(Writer& writer, const Statements& statements)
+Statement betweenGroups(Writer& writer, const Statements& statements)
 {
-    QString text = EmitBlockEnd(writer);
+    Statement text = EmitBlockEnd(writer);
     text += statements();
     return text += EmitBlockBegin(writer);
 }

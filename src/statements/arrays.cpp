@@ -128,7 +128,7 @@ static QString bracketed(const ArrayPlace& place, const QString& text)
     return isBasic(place.writer.target) && place.brackets == Brackets::Spaced ? ' ' + text + ' ' : text;
 }
 
-static QString elementLine(const Phrase& phrase, const ArrayPlace& place, std::size_t index, const QString& word)
+static Statement elementLine(const Phrase& phrase, const ArrayPlace& place, std::size_t index, const QString& word)
 {
     const QString indexText = bracketed(place, QString::number(index));
     Fill line = place.writer.fillPlain(phrase);
@@ -136,10 +136,10 @@ static QString elementLine(const Phrase& phrase, const ArrayPlace& place, std::s
     return line.text(word);
 }
 
-static QString elementLines(const Phrase& phrase, const char* comType, const ArrayPlace& place,
+static Statement elementLines(const Phrase& phrase, const char* comType, const ArrayPlace& place,
                             const std::vector<QString>& words)
 {
-    QString lines;
+    Statement lines;
     if (place.writer.target == Target::CppCom) {
         static const Template head("%1long rgIndices%3;%2%1rgIndices%3 = 0;%2%1%4 val%3;%2");
         lines =
@@ -163,7 +163,7 @@ const Fault inkmacro::emptyPlace{
 static const Fault kReleasedElement{
     "array of objects", {Target::CppCom}, "a pointer is taken out of a temporary, which lets go of the object"};
 
-QString objectLines(const ArrayPlace& place, std::vector<QString> words)
+Statement objectLines(const ArrayPlace& place, std::vector<QString> words)
 {
     const Writer& writer = place.writer;
     const bool hasEmpty = std::find(words.begin(), words.end(), QString()) != words.end();
@@ -171,20 +171,20 @@ QString objectLines(const ArrayPlace& place, std::vector<QString> words)
     const bool released = writer.target == Target::CppCom && found;
     for (QString& word : words)
         word = objectWord(place, word);
-    QString lines =
+    Statement lines =
         elementLines(objectElement, released && writer.repairs ? "IDispatchPtr" : "IDispatch*", place, words);
     if (hasEmpty)
         lines = writer.faulty(lines, emptyPlace);
     return released ? writer.faulty(lines, kReleasedElement) : lines;
 }
 
-QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words)
+Statement objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words)
 {
     const bool com = place.writer.target == Target::CppCom;
     return elementLines(com ? integerElement : objectTypeElement, "int", place, words);
 }
 
-QString integerLines(const ArrayPlace& place, const std::vector<int>& values)
+Statement integerLines(const ArrayPlace& place, const std::vector<int>& values)
 {
     std::vector<QString> words;
     words.reserve(values.size());
@@ -210,37 +210,37 @@ static QString formatted(double value, NumberForm numbers)
 }
 
 /// Nothing in COM: there the locals come first.
-static QString singleLine(const Phrase& phrase, const ArrayPlace& place, std::size_t index, const QString& word)
+static Statement singleLine(const Phrase& phrase, const ArrayPlace& place, std::size_t index, const QString& word)
 {
-    return place.writer.target == Target::CppCom ? QString() : elementLine(phrase, place, index, word);
+    return place.writer.target == Target::CppCom ? Statement() : elementLine(phrase, place, index, word);
 }
 
-QString objectLine(const ArrayPlace& place, std::size_t index, const QString& word)
+Statement objectLine(const ArrayPlace& place, std::size_t index, const QString& word)
 {
-    const QString line = singleLine(objectElement, place, index, objectWord(place, word));
+    const Statement line = singleLine(objectElement, place, index, objectWord(place, word));
     return word.isEmpty() ? place.writer.faulty(line, emptyPlace) : line;
 }
 
-QString bareObjectLine(const ArrayPlace& place, std::size_t index, const QString& word)
+Statement bareObjectLine(const ArrayPlace& place, std::size_t index, const QString& word)
 {
     return singleLine(bareObjectElement, place, index, word);
 }
 
-QString objectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word)
+Statement objectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word)
 {
     return singleLine(objectTypeElement, place, index, word);
 }
 
-QString bareObjectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word)
+Statement bareObjectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word)
 {
     return singleLine(bareObjectTypeElement, place, index, word);
 }
 
-QString realLine(const ArrayPlace& place, std::size_t index, double value, NumberForm numbers)
+Statement realLine(const ArrayPlace& place, std::size_t index, double value, NumberForm numbers)
 {
     const bool rounded = areRounded({value}, numbers);
     const QString word = formatted(value, formIn(place.writer, numbers, rounded));
-    const QString line = elementLine(realElement, place, index, word);
+    const Statement line = elementLine(realElement, place, index, word);
     return rounded ? place.writer.faulty(line, kSixDigits) : line;
 }
 
@@ -275,23 +275,23 @@ static constexpr std::size_t kHeldNumbers = 6 * 2048;
 
 /// The text of the coordinates, made by a function of them and the range to write.
 template<class Text>
-static QString inParts(Writer& writer, Coordinates&& coordinates, const Text& text)
+static Statement inParts(Coordinates&& coordinates, const Text& text)
 {
     const std::size_t count = coordinates.values.size();
     if (count <= kHeldNumbers)
         return text(coordinates, 0, count);
-    return writer.later([coordinates = std::move(coordinates), text, count](std::size_t part) {
+    return Statement([coordinates = std::move(coordinates), text, count](std::size_t part) {
         const std::size_t first = part * kHeldNumbers;
         return first < count ? text(coordinates, first, std::min(count, first + kHeldNumbers)) : QString();
     });
 }
 
-QString coordinateList(Writer& writer, Coordinates coordinates, NumberForm numbers)
+Statement coordinateList(Writer& writer, Coordinates coordinates, NumberForm numbers)
 {
     const bool rounded = areRounded(coordinates.values, numbers);
     numbers = formIn(writer, numbers, rounded);
-    const QString text =
-        inParts(writer, std::move(coordinates), [numbers](const Coordinates& all, std::size_t first, std::size_t end) {
+    const Statement text =
+        inParts(std::move(coordinates), [numbers](const Coordinates& all, std::size_t first, std::size_t end) {
             QString list;
             for (std::size_t i = first; i < end; ++i) {
                 if (i > 0)
@@ -303,7 +303,7 @@ QString coordinateList(Writer& writer, Coordinates coordinates, NumberForm numbe
     return rounded ? writer.faulty(text, kSixDigits) : text;
 }
 
-static QString comPointsHead(const ArrayPlace& place, int axes)
+static Statement comPointsHead(const ArrayPlace& place, int axes)
 {
     static const Template planarHead("%1long rgIndices%3;%2%1rgIndices%3 = -1;%2%1double x, y;%2");
     static const Template spatialHead("%1long rgIndices%3;%2%1rgIndices%3 = -1;%2%1double x_%3, y_%3, z_%3;%2");
@@ -313,8 +313,8 @@ static QString comPointsHead(const ArrayPlace& place, int axes)
         .number(place.number);
 }
 
-static QString pointLinesOf(const ArrayPlace& place, const Coordinates& coordinates, std::size_t from, std::size_t end,
-                            NumberForm numbers)
+static QString pointLinesOf(const ArrayPlace& place, const Coordinates& coordinates, std::size_t from,
+                              std::size_t end, NumberForm numbers)
 {
     const Target target = place.writer.target;
     QString lines;
@@ -331,24 +331,24 @@ static QString pointLinesOf(const ArrayPlace& place, const Coordinates& coordina
             else
                 line.shortReal(coordinates.values[i]);
         }
-        lines += line.number(place.number).str();
+        lines += line.number(place.number).str().text();
     }
     return lines;
 }
 
-QString pointLines(const ArrayPlace& place, Coordinates coordinates, NumberForm numbers)
+Statement pointLines(const ArrayPlace& place, Coordinates coordinates, NumberForm numbers)
 {
-    const QString head = place.writer.target == Target::CppCom ? comPointsHead(place, coordinates.axes) : QString();
+    const Statement head = place.writer.target == Target::CppCom ? comPointsHead(place, coordinates.axes) : Statement();
     const bool rounded = areRounded(coordinates.values, numbers);
     numbers = formIn(place.writer, numbers, rounded);
-    const QString text = head + inParts(place.writer, std::move(coordinates),
-                                        [place, numbers](const Coordinates& all, std::size_t first, std::size_t end) {
-                                            return pointLinesOf(place, all, first, end, numbers);
-                                        });
+    const Statement text = head + inParts(std::move(coordinates),
+                                          [place, numbers](const Coordinates& all, std::size_t first, std::size_t end) {
+                                              return pointLinesOf(place, all, first, end, numbers);
+                                          });
     return rounded ? place.writer.faulty(text, kSixDigits) : text;
 }
 
-QString comPointLines(const ArrayPlace& place, const OdGePoint3d& point, NumberForm numbers, bool declareLocals)
+Statement comPointLines(const ArrayPlace& place, const OdGePoint3d& point, NumberForm numbers, bool declareLocals)
 {
     static const Template head("%1long rgIndices%3;%2%1rgIndices%3 = 0;%2");
     static const Template locals("%1double x, y, z;%2");
@@ -356,7 +356,7 @@ QString comPointLines(const ArrayPlace& place, const OdGePoint3d& point, NumberF
                                  "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (double*)&(x) );%2%1rgIndices%4=1;%2"
                                  "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (double*)&(y) );%2%1rgIndices%4=2;%2"
                                  "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (double*)&(z) );%2");
-    QString lines = Fill(&head).text(place.indentation).text(place.lineEnd).number(place.number);
+    Statement lines = Fill(&head).text(place.indentation).text(place.lineEnd).number(place.number);
     if (declareLocals)
         lines += Fill(&locals).text(place.indentation).text(place.lineEnd).str();
     Fill put(&values);
@@ -383,7 +383,7 @@ Fill& ArrayArgument::close(Fill& call) const
 }
 
 /// A script's own array in front of the call.
-static QString scriptArray(Writer& writer, const QString& name, const QString& list, Brackets brackets)
+static Statement scriptArray(Writer& writer, const QString& name, const Statement& list, Brackets brackets)
 {
     const QString blank = brackets == Brackets::Spaced ? QStringLiteral(" ") : QString();
     return writer.indentation() + "var " + name + " = new Array(" + blank + list + blank + ");" + LineEnd;
@@ -403,7 +403,7 @@ ArrayArgument coordinateArray(Writer& writer, Coordinates coordinates, const cha
     if (target == Target::JavaScript) {
         array.words = script + QString::number(array.number);
         array.before =
-            scriptArray(writer, array.words, coordinateList(writer, std::move(coordinates), numbers), scriptBrackets);
+            scriptArray(writer, array.words.text(), coordinateList(writer, std::move(coordinates), numbers), scriptBrackets);
         return array;
     }
     const QString name = (target == Target::CppCom ? "variant" : "Coordinates") + QString::number(array.number);
@@ -444,7 +444,7 @@ int arrayBound(Writer& writer, std::size_t count)
     return static_cast<int>(count) - (isBasic(writer.target) ? 1 : 0);
 }
 
-QString listHead(Writer& writer, const Phrase& phrase, std::size_t count)
+Statement listHead(Writer& writer, const Phrase& phrase, std::size_t count)
 {
     return fillList(writer, phrase).number(writer.UniqueCounter).number(arrayBound(writer, count));
 }

@@ -60,39 +60,39 @@ extern const Fault emptyPlace;
 // All elements of an array, in C++ COM with the locals that it takes to put them in.
 
 /// `words` are variables or calls.
-QString objectLines(const ArrayPlace& place, std::vector<QString> words);
+Statement objectLines(const ArrayPlace& place, std::vector<QString> words);
 /// `words` as objectTypeWord makes them, or variables.
-QString objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words);
-QString integerLines(const ArrayPlace& place, const std::vector<int>& values);
+Statement objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words);
+Statement integerLines(const ArrayPlace& place, const std::vector<int>& values);
 /// All coordinates of a point are written together. Empty in C# and JavaScript, which take lists.
-QString pointLines(const ArrayPlace& place, Coordinates coordinates, NumberForm numbers);
+Statement pointLines(const ArrayPlace& place, Coordinates coordinates, NumberForm numbers);
 
 /// The coordinates with commas between them.
-QString coordinateList(Writer& writer, Coordinates coordinates, NumberForm numbers);
+Statement coordinateList(Writer& writer, Coordinates coordinates, NumberForm numbers);
 
 // Single elements, for arrays that are filled between other lines. Empty in C++ COM, where locals come in front of them
 // all.
 
-QString objectLine(const ArrayPlace& place, std::size_t index, const QString& word);
+Statement objectLine(const ArrayPlace& place, std::size_t index, const QString& word);
 /// Of an array of objects without wrappers, which is none of .NET's.
-QString bareObjectLine(const ArrayPlace& place, std::size_t index, const QString& word);
-QString objectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word);
+Statement bareObjectLine(const ArrayPlace& place, std::size_t index, const QString& word);
+Statement objectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word);
 /// Of an array whose elements are object types and not their numbers.
-QString bareObjectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word);
+Statement bareObjectTypeLine(const ArrayPlace& place, std::size_t index, const QString& word);
 /// Empty in VB.NET too: there and in C++ COM arrays of numbers are filled by points.
-QString realLine(const ArrayPlace& place, std::size_t index, double value, NumberForm numbers);
+Statement realLine(const ArrayPlace& place, std::size_t index, double value, NumberForm numbers);
 
 /// Fills the array of the one point that an operation takes, in C++ COM. The lines work with the locals `x`, `y` and
 /// `z`.
-QString comPointLines(const ArrayPlace& place, const OdGePoint3d& point, NumberForm numbers, bool declareLocals);
+Statement comPointLines(const ArrayPlace& place, const OdGePoint3d& point, NumberForm numbers, bool declareLocals);
 
 /// The locals of one filling keep those of another out, so all but one of a statement need a group of their own.
 template<class Filling>
-QString inOwnGroup(ArrayPlace place, const Filling& filling)
+Statement inOwnGroup(ArrayPlace place, const Filling& filling)
 {
     StatementGroup group(place.writer);
     place.indentation = place.writer.indentation();
-    const QString lines = filling(place);
+    const Statement lines = filling(place);
     return group.begin() + lines + group.close();
 }
 
@@ -103,8 +103,8 @@ struct ArrayArgument
     inkmacro::Target target;
     std::uint32_t number = 0; ///< keeps the array apart from others; none in C#
     int count = 0;            ///< of elements: a point has two or three
-    QString before{};         ///< statements in front of the call
-    QString words{};          ///< the list, the name of the array or the lines that fill it
+    Statement before{};        ///< statements in front of the call
+    Statement words{};        ///< the list, the name of the array or the lines that fill it
 
     /// As a declaration in Basic has it.
     int highestIndex() const { return count - 1; }
@@ -124,8 +124,8 @@ ArrayArgument integerArray(Writer& writer, const std::vector<int>& values, std::
 
 /// A call whose literal opens and closes in the usual way around the values that `values` puts in.
 template<class Values>
-QString callWithArray(Writer& writer, const inkmacro::Phrase& phrase, const ArrayArgument& array, const Values& values,
-                      const QString& variable)
+Statement callWithArray(Writer& writer, const inkmacro::Phrase& phrase, const ArrayArgument& array,
+                        const Values& values, const QString& variable)
 {
     inkmacro::Fill call = writer.fill(phrase);
     array.open(call);
@@ -138,4 +138,4 @@ inkmacro::Fill fillList(Writer& writer, const inkmacro::Phrase& phrase);
 /// What the declaration of an array of so many elements names: the count, in Basic the highest index.
 int arrayBound(Writer& writer, std::size_t count);
 /// Declarations of arrays of so many elements, with the writer's present number.
-QString listHead(Writer& writer, const inkmacro::Phrase& phrase, std::size_t count);
+Statement listHead(Writer& writer, const inkmacro::Phrase& phrase, std::size_t count);

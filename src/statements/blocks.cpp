@@ -13,14 +13,14 @@ static const Phrase blockBegin{"EmitBlockBegin",
                                    .vba = "%1If 1 Then%2",
                                }};
 
-QString EmitBlockBegin(Writer& writer)
+Statement EmitBlockBegin(Writer& writer)
 {
-    QString text = blockBeginAt(writer, writer.IndentLevel);
+    Statement text = blockBeginAt(writer, writer.IndentLevel);
     enterBlock(writer);
     return text;
 }
 
-QString blockBeginAt(const Writer& writer, std::uint32_t level)
+Statement blockBeginAt(const Writer& writer, std::uint32_t level)
 {
     return writer.fillPlain(blockBegin).indent(level).lineEnd();
 }
@@ -40,7 +40,7 @@ static const Phrase blockEnd{"EmitBlockEnd",
                                  .vba = "%1End If%2%2",
                              }};
 
-QString EmitBlockEnd(Writer& writer)
+Statement EmitBlockEnd(Writer& writer)
 {
     if (blockEnd.has(writer.target))
         --writer.IndentLevel;

@@ -3,9 +3,9 @@
 #include "statements/Writer.h"
 
 /// The text that begins a group of statements; raises the level, which a target without groups keeps.
-QString EmitBlockBegin(Writer& writer);
-QString EmitBlockEnd(Writer& writer);
+Statement EmitBlockBegin(Writer& writer);
+Statement EmitBlockEnd(Writer& writer);
 
 // The two halves of EmitBlockBegin, for a group of which it turns out later whether it is written.
-QString blockBeginAt(const Writer& writer, std::uint32_t level);
+Statement blockBeginAt(const Writer& writer, std::uint32_t level);
 void enterBlock(Writer& writer);

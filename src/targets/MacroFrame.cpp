@@ -28,7 +28,7 @@ QString MacroFrame::identifier(const QString& name) const
     return writer.repairs ? legalName(name) : name;
 }
 
-QString MacroFrame::faultyName(const QString& name, const QString& text) const
+Statement MacroFrame::faultyName(const QString& name, const Statement& text) const
 {
     return legalName(name) == name ? text : writer.faulty(text, kIllegalName);
 }

@@ -15,8 +15,8 @@ public:
     MacroFrame& operator=(const MacroFrame&) = delete;
 
     /// `hasSysVar`: a system variable changed at the recording's top level.
-    virtual QString EmitFileHeader(const QString& className, bool hasSysVar) = 0;
-    virtual QString EmitFileFooter() = 0;
+    virtual Statement EmitFileHeader(const QString& className, bool hasSysVar) = 0;
+    virtual Statement EmitFileFooter() = 0;
     /// Writes the project around the macro file of that path; gives kFxSuccess or kFxFailure. Unless the target says
     /// otherwise, the macro file is the whole result.
     virtual std::int32_t EmitProjectFiles(const QString& path);
@@ -25,7 +25,7 @@ protected:
     /// The name that stands in code for that of the macro's file: itself, in a repaired macro one that is legal.
     QString identifier(const QString& name) const;
     /// The text with a note when the name in it is no identifier.
-    QString faultyName(const QString& name, const QString& text) const;
+    Statement faultyName(const QString& name, const Statement& text) const;
 
     Writer& writer;
 };

@@ -21,7 +21,7 @@ static const Phrase setClipBoundary{
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2%1%6.SetClipBoundary( Coordinates%3 )%2%2",
     }};
 
-QString EmitSetClipBoundary(Writer& writer, const CFxString& image, const OdArray<OdGePoint2d>& points)
+Statement EmitSetClipBoundary(Writer& writer, const CFxString& image, const OdArray<OdGePoint2d>& points)
 {
     return callWithArray(
         writer, setClipBoundary, coordinateArray(writer, planar(points), "points", NumberForm::Short), [](Fill&) {},
@@ -38,7 +38,7 @@ static const Phrase removeClipBoundary{"EmitRemoveClipBoundary",
                                            .vba = "%1%3.RemoveClipBoundary%2",
                                        }};
 
-QString EmitRemoveClipBoundary(Writer& writer, const CFxString& image)
+Statement EmitRemoveClipBoundary(Writer& writer, const CFxString& image)
 {
     Fill statement = writer.fill(removeClipBoundary);
     statement.text(image);

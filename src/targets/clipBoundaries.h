@@ -4,5 +4,5 @@
 #include "host/rx/OdArray.h"
 #include "statements/Writer.h"
 
-QString EmitSetClipBoundary(Writer& writer, const CFxString& image, const OdArray<OdGePoint2d>& points);
-QString EmitRemoveClipBoundary(Writer& writer, const CFxString& image);
+Statement EmitSetClipBoundary(Writer& writer, const CFxString& image, const OdArray<OdGePoint2d>& points);
+Statement EmitRemoveClipBoundary(Writer& writer, const CFxString& image);

@@ -25,8 +25,8 @@ static const Phrase colorByRgb{"color",
 QString colorExpression(Target target, const OdCmColor& color)
 {
     if (color.isByBlock() || color.isByLayer() || color.isByACI())
-        return Fill(colorByIndex.in(target)).number(color.colorIndex());
-    return Fill(colorByRgb.in(target)).number(color.red()).number(color.green()).number(color.blue());
+        return Fill(colorByIndex.in(target)).number(color.colorIndex()).str().text();
+    return Fill(colorByRgb.in(target)).number(color.red()).number(color.green()).number(color.blue()).str().text();
 }
 
 static const Fault kBlackGradient{
@@ -46,7 +46,7 @@ OdCmColor gradientColor(const Writer& writer, const OdCmColor& color)
     return color.isByACI() ? color : OdCmColor::byRgb(color.red(), color.green(), color.blue());
 }
 
-QString notingBlack(const Writer& writer, const QString& statement, const OdCmColor& color)
+Statement notingBlack(const Writer& writer, const Statement& statement, const OdCmColor& color)
 {
     return isInherited(color) ? writer.faulty(statement, kBlackGradient) : statement;
 }

@@ -11,4 +11,4 @@ QString colorExpression(inkmacro::Target target, const OdCmColor& color);
 /// A color of a gradient. By layer or by block counts as black there, but not in a repaired macro.
 OdCmColor gradientColor(const Writer& writer, const OdCmColor& color);
 /// The statement, with a note when gradientColor has made that color black.
-QString notingBlack(const Writer& writer, const QString& statement, const OdCmColor& color);
+Statement notingBlack(const Writer& writer, const Statement& statement, const OdCmColor& color);

@@ -102,7 +102,7 @@ static const Phrase saveSystem{
                       "iwCustomCoordinateSystem%4%2"),
     }};
 
-QString EmitSaveCoordinateSystem(Writer& writer, const CFxString& name)
+Statement EmitSaveCoordinateSystem(Writer& writer, const CFxString& name)
 {
     return writer.fill(saveSystem).text(name).number(++writer.UniqueCounter);
 }
@@ -137,7 +137,7 @@ static const Phrase restoreSystem{
                   "\"%3\")%2%1iwCustomCoordinateSystem%4.Activate%2",
     }};
 
-QString EmitRestoreCoordinateSystem(Writer& writer, const CFxString& name)
+Statement EmitRestoreCoordinateSystem(Writer& writer, const CFxString& name)
 {
     return writer.fill(restoreSystem).text(name).number(++writer.UniqueCounter);
 }
@@ -146,7 +146,7 @@ static const Phrase removeSystem{
     "EmitRemoveCoordinateSystem",
     INKMACRO_CALL_MANAGER("%4", "RemoveCustomCoordinateSystem", " L\"%3\" ", " \"%3\" ", " \"%3\"")};
 
-QString EmitRemoveCoordinateSystem(Writer& writer, const CFxString& name)
+Statement EmitRemoveCoordinateSystem(Writer& writer, const CFxString& name)
 {
     return writer.fill(removeSystem).text(name).number(++writer.UniqueCounter);
 }
@@ -156,7 +156,7 @@ static const Phrase previousSystem{"EmitPreviousCoordinateSystem",
                                                             "GetPreviousCustomCoordinateSystem", "&iwPreviousCCS%3", "",
                                                             "")};
 
-QString EmitPreviousCoordinateSystem(Writer& writer)
+Statement EmitPreviousCoordinateSystem(Writer& writer)
 {
     return writer.fill(previousSystem).number(++writer.UniqueCounter);
 }
@@ -165,7 +165,7 @@ static const Phrase worldSystem{
     "EmitWorldCoordinateSystem",
     INKMACRO_ACTIVATE_SYSTEM("%3", "iwWorldCCS", "", "", "GetWorldCustomCoordinateSystem", "&iwWorldCCS%3", "", "")};
 
-QString EmitWorldCoordinateSystem(Writer& writer)
+Statement EmitWorldCoordinateSystem(Writer& writer)
 {
     return writer.fill(worldSystem).number(++writer.UniqueCounter);
 }
@@ -175,7 +175,7 @@ static const Phrase defaultSystem{"EmitDefaultCoordinateSystem",
                                                            "GetDefaultCustomCoordinateSystem",
                                                            "%3, &iwCustomCoordinateSystem%4", " %3 ", " \"%3\" ")};
 
-QString EmitDefaultCoordinateSystem(Writer& writer, const CFxString& enumerator)
+Statement EmitDefaultCoordinateSystem(Writer& writer, const CFxString& enumerator)
 {
     return writer.fill(defaultSystem)
         .text(enumeratorText(writer.target, "iwDefaultCustomCoordinateSystem_e", enumerator))
@@ -185,7 +185,7 @@ QString EmitDefaultCoordinateSystem(Writer& writer, const CFxString& enumerator)
 static const Phrase alignToView{"EmitViewCoordinateSystem",
                                 INKMACRO_CALL_MANAGER("%3", "AlignActiveCustomCoordinateSystemByView", "", "", "")};
 
-QString EmitViewCoordinateSystem(Writer& writer)
+Statement EmitViewCoordinateSystem(Writer& writer)
 {
     return writer.fill(alignToView).number(++writer.UniqueCounter);
 }
@@ -194,7 +194,7 @@ static const Phrase setOrigin{"EmitCoordinateSystemOrigin",
                               INKMACRO_CALL_MANAGER("%3", "SetActiveCustomCoordinateSystemOrigin", " %4, %5, %6  ",
                                                     " %4, %5, %6  ", " %4, %5, %6")};
 
-QString EmitCoordinateSystemOrigin(Writer& writer, const OdGePoint3d& origin)
+Statement EmitCoordinateSystemOrigin(Writer& writer, const OdGePoint3d& origin)
 {
     return writer.fill(setOrigin).number(++writer.UniqueCounter).shortPoint(origin);
 }
@@ -234,7 +234,7 @@ static const Mend pointWithZ(
                         "%1    pointOnEntity%3.add(%5);pointOnEntity%3.add(%6);pointOnEntity%3.add(%7);%2"
                         "%1    iwCCSManager%3->AlignActiveCustomCoordinateSystemByEntity( %4, pointOnEntity%3 );%2"));
 
-QString EmitAlignCoordinateSystemToEntity(Writer& writer, const CFxString& entity, const OdGePoint3d& point)
+Statement EmitAlignCoordinateSystemToEntity(Writer& writer, const CFxString& entity, const OdGePoint3d& point)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     Fill statement = writer.fill(alignToEntity);
@@ -251,7 +251,7 @@ static const Phrase alignZAxis{"EmitAlignCoordinateSystemZAxis",
                                                      " %4, %5, %6, %7, %8, %9 ", " %4, %5, %6, %7, %8, %9 ",
                                                      " %4, %5, %6, %7, %8, %9")};
 
-QString EmitAlignCoordinateSystemZAxis(Writer& writer, const OdGePoint3d& origin, const OdGePoint3d& onAxis)
+Statement EmitAlignCoordinateSystemZAxis(Writer& writer, const OdGePoint3d& origin, const OdGePoint3d& onAxis)
 {
     return writer.fill(alignZAxis).number(++writer.UniqueCounter).shortPoint(origin).shortPoint(onAxis);
 }
@@ -327,7 +327,7 @@ static const Mend basicAlignment(
     "%1Dim iwCustomCoordinateSystemMgr_%3 As Inkwright.CustomCoordinateSystemManager%2"
     "%1Set iwCustomCoordinateSystemMgr_%3 = iwDoc.GetCustomCoordinateSystemManager()%2" INKMACRO_ALIGN_TO_POINTS_VBA);
 
-QString EmitThreePointCoordinateSystem(Writer& writer, const OdGePoint3d& origin, const OdGePoint3d& onXAxis,
+Statement EmitThreePointCoordinateSystem(Writer& writer, const OdGePoint3d& origin, const OdGePoint3d& onXAxis,
                                        const OdGePoint3d& onPlane)
 {
     return writer.fill(alignPlane)

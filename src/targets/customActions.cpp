@@ -20,7 +20,7 @@ static const Phrase insertEmbeddedObject{
     }};
 
 /// VBA alone writes the truth values with a capital here.
-QString EmitInsertEmbeddedObject(Writer& writer, const CFxString& variable, const CFxString& path, bool first,
+Statement EmitInsertEmbeddedObject(Writer& writer, const CFxString& variable, const CFxString& path, bool first,
                                  bool second)
 {
     const auto word = [&](bool value) {
@@ -40,9 +40,9 @@ static const Phrase eraseEntity{"EmitEraseEntities",
                                     .vba = "%1%2.Erased = True\n",
                                 }};
 
-QString EmitEraseEntities(Writer& writer, const std::vector<CFxString>& names)
+Statement EmitEraseEntities(Writer& writer, const std::vector<CFxString>& names)
 {
-    QString text;
+    Statement text;
     for (const CFxString& name : names)
         if (!name.isEmpty())
             text += writer.fillIndented(eraseEntity).text(name);
@@ -126,10 +126,10 @@ static const Mend elementColorByPointer(setElementColor, Target::CppCom,
                                         "a member is asked of the smart pointer instead of its object",
                                         "%9appOption->SetElementColor(ElementOption, iwColor1);%10");
 
-QString EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmColor& color)
+Statement EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmColor& color)
 {
     // The count goes on, so a later conversion uses variables that its macro does not declare. It has to stay so.
-    QString text;
+    Statement text;
     if (processCounters.elementColors++ == 0 || writer.repairs)
         text += writer.fill(declareElementColor);
     text += writer.fill(chooseElement).number(element);
@@ -153,7 +153,7 @@ static const Phrase activate{"EmitActivate",
                                  .vba = "%1%3.Activate%2",
                              }};
 
-QString EmitActivate(Writer& writer, const CFxString& variable)
+Statement EmitActivate(Writer& writer, const CFxString& variable)
 {
     return writer.fill(activate).text(variable);
 }
@@ -168,7 +168,7 @@ static const Phrase join{"EmitJoin",
                              .vba = "%1%3.Join %4%2",
                          }};
 
-QString EmitJoin(Writer& writer, const CFxString& variable, const CFxString& other)
+Statement EmitJoin(Writer& writer, const CFxString& variable, const CFxString& other)
 {
     return writer.fill(join).text(variable).text(other);
 }
@@ -183,7 +183,7 @@ static const Phrase explode{"EmitExplode",
                                 .vba = "%1%3.Explode%2",
                             }};
 
-QString EmitExplode(Writer& writer, const CFxString& variable)
+Statement EmitExplode(Writer& writer, const CFxString& variable)
 {
     return writer.fill(explode).text(variable);
 }
@@ -217,7 +217,7 @@ static const Phrase insertViewport{
                "%1    Set %4 = sheetsArray%3.InsertViewport( Coordinates%3 )%2%1End If%2",
     }};
 
-QString EmitInsertViewport(Writer& writer, const CFxString& variable, const CFxString& sheetName,
+Statement EmitInsertViewport(Writer& writer, const CFxString& variable, const CFxString& sheetName,
                            const OdArray<OdGePoint3d>& points)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
@@ -225,7 +225,7 @@ QString EmitInsertViewport(Writer& writer, const CFxString& variable, const CFxS
     const char* const name = writer.target == Target::CppCom ? "variant" : "Coordinates";
     ArrayPlace place(writer, name + QString::number(number), number);
     place.indentation += QLatin1String("    ");
-    const QString filling = listed ? coordinateList(writer, spatial(points), NumberForm::Short)
+    const Statement filling = listed ? coordinateList(writer, spatial(points), NumberForm::Short)
                                    : pointLines(place, spatial(points), NumberForm::Short);
     return writer.fill(insertViewport)
         .number(number)

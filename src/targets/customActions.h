@@ -7,12 +7,12 @@
 
 #include <vector>
 
-QString EmitInsertEmbeddedObject(Writer& writer, const CFxString& variable, const CFxString& path, bool first,
+Statement EmitInsertEmbeddedObject(Writer& writer, const CFxString& variable, const CFxString& path, bool first,
                                  bool second);
-QString EmitEraseEntities(Writer& writer, const std::vector<CFxString>& names);
-QString EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmColor& color);
-QString EmitActivate(Writer& writer, const CFxString& variable);
-QString EmitJoin(Writer& writer, const CFxString& variable, const CFxString& other);
-QString EmitExplode(Writer& writer, const CFxString& variable);
-QString EmitInsertViewport(Writer& writer, const CFxString& variable, const CFxString& sheetName,
+Statement EmitEraseEntities(Writer& writer, const std::vector<CFxString>& names);
+Statement EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmColor& color);
+Statement EmitActivate(Writer& writer, const CFxString& variable);
+Statement EmitJoin(Writer& writer, const CFxString& variable, const CFxString& other);
+Statement EmitExplode(Writer& writer, const CFxString& variable);
+Statement EmitInsertViewport(Writer& writer, const CFxString& variable, const CFxString& sheetName,
                            const OdArray<OdGePoint3d>& points);

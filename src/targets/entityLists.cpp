@@ -41,7 +41,7 @@ static ArrayPlace objectsPlace(Writer& writer)
     return {writer, numberedName(names, writer.target, number), number};
 }
 
-static QString objectElements(Writer& writer, const EntityList& entities)
+static Statement objectElements(Writer& writer, const EntityList& entities)
 {
     std::vector<QString> names;
     names.reserve(entities.size());
@@ -50,7 +50,7 @@ static QString objectElements(Writer& writer, const EntityList& entities)
     return objectLines(objectsPlace(writer), names);
 }
 
-static QString objectArray(Writer& writer, const EntityList& entities)
+static Statement objectArray(Writer& writer, const EntityList& entities)
 {
     const std::size_t count = entities.size();
     return listHead(writer, objectsHead, count) + listHead(writer, objectsSize, count) +
@@ -101,12 +101,12 @@ static const Phrase lookUpObject{
                "%1Set iwObjForCopy%3 = iwApp.GetActiveDocument().GetObjectByHandle(\"%4\", iwTypeForCopy%3)%2",
     }};
 
-static QString typedElements(Writer& writer, const EntityList& entities, bool lookUpUnknown)
+static Statement typedElements(Writer& writer, const EntityList& entities, bool lookUpUnknown)
 {
     const QString suffix = QString::number(writer.UniqueCounter);
     const ArrayPlace objects = objectsPlace(writer);
     const ArrayPlace types(writer, "types" + suffix, writer.UniqueCounter);
-    QString text;
+    Statement text;
     std::vector<QString> objectWords;
     std::vector<QString> typeWords;
     for (std::size_t i = 0; i < entities.size(); ++i) {
@@ -125,7 +125,7 @@ static QString typedElements(Writer& writer, const EntityList& entities, bool lo
     return text;
 }
 
-static QString typedArrays(Writer& writer, const EntityList& entities, bool lookUpUnknown)
+static Statement typedArrays(Writer& writer, const EntityList& entities, bool lookUpUnknown)
 {
     const std::size_t count = entities.size();
     return listHead(writer, typedHead, count) + listHead(writer, objectsSize, count) +
@@ -145,10 +145,10 @@ static const Phrase mirrorEntities{
     }};
 
 /// VBA alone writes the truth value with a capital here.
-QString EmitMirrorEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& first,
+Statement EmitMirrorEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& first,
                            const OdGePoint3d& second, bool erase)
 {
-    const QString arrays = typedArrays(writer, entities, false);
+    const Statement arrays = typedArrays(writer, entities, false);
     return arrays + fillList(writer, mirrorEntities)
                         .shortPoint(first)
                         .shortPoint(second)
@@ -170,9 +170,9 @@ static const Phrase copyEntities{
         .vba = "%1iwSketchManager.CopyEntities %3, %4, %5, types%6, iwEntities%6%2",
     }};
 
-QString EmitCopyEntities(Writer& writer, const EntityList& entities, const OdGeVector3d& offset, bool first)
+Statement EmitCopyEntities(Writer& writer, const EntityList& entities, const OdGeVector3d& offset, bool first)
 {
-    const QString arrays = first ? typedArrays(writer, entities, true) : QString();
+    const Statement arrays = first ? typedArrays(writer, entities, true) : Statement();
     return arrays + fillList(writer, copyEntities).shortVector(offset).number(writer.UniqueCounter).str();
 }
 
@@ -188,9 +188,9 @@ static const Phrase moveEntities{
         .vba = "%1iwSketchManager.MoveEntities %3, %4, %5, iwEntities%6%2",
     }};
 
-QString EmitMoveEntities(Writer& writer, const EntityList& entities, const OdGeVector3d& offset, bool first)
+Statement EmitMoveEntities(Writer& writer, const EntityList& entities, const OdGeVector3d& offset, bool first)
 {
-    const QString array = first ? objectArray(writer, entities) : QString();
+    const Statement array = first ? objectArray(writer, entities) : Statement();
     return array + fillList(writer, moveEntities).shortVector(offset).number(writer.UniqueCounter).str();
 }
 
@@ -206,9 +206,9 @@ static const Phrase rotateEntities{
         .vba = "%1iwSketchManager.RotateEntities %3, %4, %5, types%6, iwEntities%6%2",
     }};
 
-QString EmitRotateEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& center, double angle)
+Statement EmitRotateEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& center, double angle)
 {
-    const QString arrays = typedArrays(writer, entities, false);
+    const Statement arrays = typedArrays(writer, entities, false);
     return arrays + fillList(writer, rotateEntities)
                         .shortReal(center.x)
                         .shortReal(center.y)
@@ -230,9 +230,9 @@ static const Phrase scaleEntities{
         .vba = "%1iwSketchManager.ScaleEntities %3, %4, %7, %5, types%6, iwEntities%6%2",
     }};
 
-QString EmitScaleEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& center, double factor)
+Statement EmitScaleEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& center, double factor)
 {
-    const QString arrays = typedArrays(writer, entities, false);
+    const Statement arrays = typedArrays(writer, entities, false);
     return arrays +
            fillList(writer, scaleEntities).shortPoint(center).number(writer.UniqueCounter).shortReal(factor).str();
 }
@@ -287,7 +287,7 @@ static const Phrase stretchEnd{
                "%1crossingBoxEndCorner%3(2) = %6%2%2",
     }};
 
-static QString crossingBox(Writer& writer, const OdGePoint3d& start, const OdGePoint3d& end)
+static Statement crossingBox(Writer& writer, const OdGePoint3d& start, const OdGePoint3d& end)
 {
     if (writer.target == Target::CppCom) {
         const auto corner = [&](const char* name, const OdGePoint3d& point) {
@@ -318,11 +318,11 @@ static const Phrase stretchEntities{
                "crossingBoxEndCorner%6%2",
     }};
 
-QString EmitStretchEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& start,
+Statement EmitStretchEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& start,
                             const OdGePoint3d& end, const OdGeVector3d& offset)
 {
     const std::size_t count = entities.size();
-    const QString arrays = listHead(writer, stretchHead, count) + listHead(writer, stretchSize, count) +
+    const Statement arrays = listHead(writer, stretchHead, count) + listHead(writer, stretchSize, count) +
                            objectElements(writer, entities) + LineEnd + crossingBox(writer, start, end);
     return arrays + fillList(writer, stretchEntities).shortVector(offset).number(writer.UniqueCounter).str();
 }

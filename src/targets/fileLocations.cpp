@@ -28,7 +28,7 @@ static const Phrase interfaceFilesObject{
         .vba = "%1Dim %3 As Inkwright.InterfaceFiles%2%1Set %3 = iwApp.GetInterfaceFiles()%2",
     }};
 
-QString EmitInterfaceFilesObject(Writer& writer, CFxString& variable)
+Statement EmitInterfaceFilesObject(Writer& writer, CFxString& variable)
 {
     variable = numbered("iwInterfaceFiles_%1", processCounters.of(writer.target).interfaceFiles++);
     return writer.fill(interfaceFilesObject).text(variable);
@@ -45,7 +45,7 @@ static const Phrase systemFilesObject{
         .vba = "%1Dim %3 As Inkwright.SystemFiles%2%1Set %3 = iwApp.GetSystemFiles()%2",
     }};
 
-QString EmitSystemFilesObject(Writer& writer, CFxString& variable)
+Statement EmitSystemFilesObject(Writer& writer, CFxString& variable)
 {
     variable = numbered("iwSystemFiles_%1", processCounters.of(writer.target).systemFiles++);
     return writer.fill(systemFilesObject).text(variable);
@@ -66,7 +66,7 @@ static const Mend
     basicDrawingSupportFiles(drawingSupportFilesObject, Target::Vba, "a placeholder of the statement is never filled",
                              "%1Dim %3 As Inkwright.DrawingSupportFiles%2%1Set %3 = iwApp.GetDrawingSupportFiles()%2");
 
-QString EmitDrawingSupportFilesObject(Writer& writer, CFxString& variable)
+Statement EmitDrawingSupportFilesObject(Writer& writer, CFxString& variable)
 {
     variable = numbered("iwDrawingSupportFiles_%1", processCounters.of(writer.target).drawingSupportFiles++);
     return writer.fill(drawingSupportFilesObject).text(variable);
@@ -112,7 +112,7 @@ static const Phrase arrayAssignment{
     }};
 
 /// Where an element has one number only, that is its index; but C++ appends to the array and has no index.
-static QString fileLocationElement(Writer& writer, const CFxString& property, std::uint32_t array, int index,
+static Statement fileLocationElement(Writer& writer, const CFxString& property, std::uint32_t array, int index,
                                    const CFxString& value)
 {
     Fill element = writer.fill(arrayElement);
@@ -127,14 +127,14 @@ static QString fileLocationElement(Writer& writer, const CFxString& property, st
     return element;
 }
 
-QString EmitFileLocationArray(Writer& writer, const CFxString& variable, const CFxString& property,
+Statement EmitFileLocationArray(Writer& writer, const CFxString& variable, const CFxString& property,
                               const std::vector<CFxString>& values)
 {
     const std::uint32_t array = processCounters.of(writer.target).fileLocationArrays++;
     const auto size = static_cast<int>(values.size());
 
     // VBA declares the last index and not the size.
-    QString elements = writer.fill(arrayDeclaration)
+    Statement elements = writer.fill(arrayDeclaration)
                            .text(property)
                            .number(array)
                            .number(writer.target == Target::Vba ? size - 1 : size);

@@ -7,8 +7,8 @@
 #include "targets/options.h"
 #include "targets/pickedArrays.h"
 
-static QString cutCorner(Writer& writer, const char* operation, std::uint32_t& counter, const CornerSide& first,
-                         const CornerSide& second, const QString& settings)
+static Statement cutCorner(Writer& writer, const char* operation, std::uint32_t& counter, const CornerSide& first,
+                         const CornerSide& second, const Statement& settings)
 {
     const std::uint32_t number = counter++;
     const std::array<PickedArray, 4> arrays{{{"firstEntityArray", first.names},
@@ -19,21 +19,21 @@ static QString cutCorner(Writer& writer, const char* operation, std::uint32_t& c
     return pickedArrays(writer, number, arrays) + settings + callWithPicked(writer, operation, number, inCall);
 }
 
-QString EmitFilletEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
+Statement EmitFilletEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
                            std::optional<double> radius)
 {
-    const QString settings =
-        radius ? EmitCommandOptionDouble(writer, "iwCommandOptionDouble_SetFltRad", *radius) : QString();
+    const Statement settings =
+        radius ? EmitCommandOptionDouble(writer, "iwCommandOptionDouble_SetFltRad", *radius) : Statement();
     return cutCorner(writer, "FilletEntities", processCounters.fillets, first, second, settings);
 }
 
-QString EmitChamferEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
+Statement EmitChamferEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
                             const ChamferSettings& settings)
 {
     static constexpr std::array<const char*, 4> sizeOptions{
         "iwCommandOptionDouble_SetChmfDst1", "iwCommandOptionDouble_SetChmfDst2", "iwCommandOptionDouble_SetChmfLen",
         "iwCommandOptionDouble_SetChmfAng"};
-    QString options;
+    Statement options;
     for (std::size_t i = 0; settings.sizes && i < sizeOptions.size(); ++i)
         options += EmitCommandOptionDouble(writer, sizeOptions[i], (*settings.sizes)[i]);
     options += EmitCommandOptionInt16(writer, "iwCommandOptionInt16_EnblChmfAng", settings.byAngle);

@@ -25,7 +25,7 @@ struct ChamferSettings
 };
 
 /// Without a radius, that of the program that runs the macro is left as it is.
-QString EmitFilletEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
+Statement EmitFilletEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
                            std::optional<double> radius);
-QString EmitChamferEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
+Statement EmitChamferEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
                             const ChamferSettings& settings);

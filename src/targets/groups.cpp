@@ -40,10 +40,10 @@ static const Phrase addGathered{"EmitGroupAddEntities",
                                     .cpp = "%1%3->AddEntities(entities%2);\n",
                                 }};
 
-QString EmitGroupAddEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group)
+Statement EmitGroupAddEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group)
 {
     ++writer.UniqueCounter;
-    QString text = LineEnd + writer.fillIndented(addHead).number(writer.UniqueCounter).str();
+    Statement text = LineEnd + writer.fillIndented(addHead).number(writer.UniqueCounter).str();
     for (const CFxString& name : names)
         text += writer.fillIndented(addEntity).number(writer.UniqueCounter).text(group).text(name);
     text += LineEnd;
@@ -79,7 +79,7 @@ static const Phrase removeCall{"EmitGroupRemoveEntities",
                                    .vba = "%1%3.RemoveEntities removeObject%2\n",
                                }};
 
-QString EmitGroupRemoveEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group)
+Statement EmitGroupRemoveEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     const ArrayPlace place(writer, "removeObject" + QString::number(number), number);

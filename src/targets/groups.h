@@ -4,5 +4,5 @@
 
 #include <vector>
 
-QString EmitGroupAddEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group);
-QString EmitGroupRemoveEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group);
+Statement EmitGroupAddEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group);
+Statement EmitGroupRemoveEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group);

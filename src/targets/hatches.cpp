@@ -27,7 +27,7 @@ static const Phrase insertBoundaryPolyline{
                "%1Set %7 = iwSketchManager.InsertPolyline2D( Coordinates%3, %6 )%2",
     }};
 
-QString EmitHatchBoundaryPolyline(Writer& writer, const CFxString& name, const OdArray<OdGePoint2d>& points,
+Statement EmitHatchBoundaryPolyline(Writer& writer, const CFxString& name, const OdArray<OdGePoint2d>& points,
                                   bool closed)
 {
     return callWithArray(
@@ -45,7 +45,7 @@ static const Phrase setSegmentAngle{"EmitSetSegmentAngle",
                                         .vba = "%1%3.SetSegmentAngle %4, %5%2",
                                     }};
 
-QString EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::int32_t index, double angle)
+Statement EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::int32_t index, double angle)
 {
     Fill statement = writer.fill(setSegmentAngle);
     if (writer.target == Target::Cpp)
@@ -53,11 +53,11 @@ QString EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::int3
     return statement.text(polyline).number(index).shortReal(angle);
 }
 
-QString EmitSetSegmentAngles(Writer& writer, const CFxString& polyline, const OdArray<double>& bulges)
+Statement EmitSetSegmentAngles(Writer& writer, const CFxString& polyline, const OdArray<double>& bulges)
 {
     // A segment that is bent by no more than this is straight.
     constexpr double straight = 1e-10;
-    QString text;
+    Statement text;
     std::int32_t index = 0;
     for (const double bulge : bulges) {
         if (bulge > straight || bulge < -straight)
@@ -107,7 +107,7 @@ static const Phrase eraseBoundaryPolyline{"EmitHatchByPolyline: erasure",
                                               .vba = "%2%1%3.Erased = %4%2",
                                           }};
 
-QString EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxString& polyline,
+Statement EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxString& polyline,
                             const HatchPattern& pattern, bool erase)
 {
     Fill insertion = writer.fill(hatchByPolyline);
@@ -121,7 +121,7 @@ QString EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxStr
         insertion.real(pattern.first).real(pattern.second);
     if (writer.target != Target::CppCom)
         insertion.text(polyline);
-    QString statement = insertion.text(hatch);
+    Statement statement = insertion.text(hatch);
     if (!erase)
         return statement;
     return statement + writer.fill(eraseBoundaryPolyline).text(polyline).text(truthWord(writer.target, true)).str();
@@ -143,7 +143,7 @@ static const Phrase secondRgbColor{
     {.cpp = "%2%1iwColor_ptr iwColor2%3;%2%1m_pIwApp->GetRGBColor( %4, %5, %6, &iwColor2%3 );%2%2"}};
 
 /// Takes the color into its variable. Empty in all targets but C++.
-static QString takeColor(Writer& writer, const Phrase& indexed, const Phrase& rgb, const OdCmColor& color)
+static Statement takeColor(Writer& writer, const Phrase& indexed, const Phrase& rgb, const OdCmColor& color)
 {
     Fill statement = writer.fill(color.isByACI() ? indexed : rgb);
     statement.number(writer.UniqueCounter);
@@ -173,7 +173,7 @@ static const Mend
                   "%2%1Dim hatchPattern%3 As Inkwright.HatchPattern%2%1Set hatchPattern%3 = %8.GetHatchPattern()%2"
                   "%1hatchPattern%3.SetGradientData %4, %5, %6, %7%2");
 
-QString EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient)
+Statement EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient)
 {
     const OdCmColor first = gradientColor(writer, gradient.first);
     const OdCmColor second = gradientColor(writer, gradient.second);
@@ -182,7 +182,7 @@ QString EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGra
     if (writer.target != Target::Cpp)
         call.text(colorExpression(writer.target, first)).text(colorExpression(writer.target, second));
     call.text(truthWord(writer.target, gradient.centered)).real(gradient.angle).text(hatch);
-    const QString text = takeColor(writer, firstIndexedColor, firstRgbColor, first) +
+    const Statement text = takeColor(writer, firstIndexedColor, firstRgbColor, first) +
                          takeColor(writer, secondIndexedColor, secondRgbColor, second) + call.str();
     return notingBlack(writer, notingBlack(writer, text, gradient.first), gradient.second);
 }

@@ -23,13 +23,13 @@ struct HatchGradient
 };
 
 /// Declares the variable of the polyline too.
-QString EmitHatchBoundaryPolyline(Writer& writer, const CFxString& name, const OdArray<OdGePoint2d>& points,
+Statement EmitHatchBoundaryPolyline(Writer& writer, const CFxString& name, const OdArray<OdGePoint2d>& points,
                                   bool closed);
 /// Bends the segment that begins at the vertex; `angle` is that of the arc, in radians.
-QString EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::int32_t index, double angle);
+Statement EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::int32_t index, double angle);
 /// Bends the segments by their bulges, the tangents of a quarter of the angle of each arc.
-QString EmitSetSegmentAngles(Writer& writer, const CFxString& polyline, const OdArray<double>& bulges);
+Statement EmitSetSegmentAngles(Writer& writer, const CFxString& polyline, const OdArray<double>& bulges);
 /// With `erase` the polyline does not outlive the insertion.
-QString EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxString& polyline,
+Statement EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxString& polyline,
                             const HatchPattern& pattern, bool erase);
-QString EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient);
+Statement EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient);

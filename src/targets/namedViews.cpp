@@ -30,7 +30,7 @@ static const Phrase createSheetView{
                "%1Set sheetNamedView_%4 = iwViewManager.CreateSheetNamedView( \"%3\" )%2",
     }};
 
-QString EmitCreateNamedView(Writer& writer, const CFxString& name, bool onSheet, const CFxString& variable)
+Statement EmitCreateNamedView(Writer& writer, const CFxString& name, bool onSheet, const CFxString& variable)
 {
     if (onSheet)
         return writer.fill(createSheetView).text(name).number(++writer.UniqueCounter);
@@ -80,7 +80,7 @@ static const Phrase renameSheetView{
                "%1sheetNamedView_%3_rename.GetNamedView().Rename \"%5\"%2%2",
     }};
 
-QString EmitRenameNamedView(Writer& writer, const NamedViewReference& view, const CFxString& newName)
+Statement EmitRenameNamedView(Writer& writer, const NamedViewReference& view, const CFxString& newName)
 {
     Fill statement = writer.fill(view.onSheet ? renameSheetView : renameModelView);
     return putView(statement, writer, view).text(newName);
@@ -122,7 +122,7 @@ static const Phrase setSheetViewClass{
     }};
 static const Mend bstrSheetViewClass(setSheetViewClass, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
-QString EmitSetNamedViewClass(Writer& writer, const NamedViewReference& view, const CFxString& className)
+Statement EmitSetNamedViewClass(Writer& writer, const NamedViewReference& view, const CFxString& className)
 {
     Fill statement = writer.fill(view.onSheet ? setSheetViewClass : setModelViewClass);
     return putView(statement, writer, view).text(className);
@@ -188,7 +188,7 @@ static const Phrase setSheetViewWindow{
                "%1sheetNamedView_%3_Pt.GetNamedView().SetWindow FirstCorner_%3_1, OppositeCorner_%3_1%2%2",
     }};
 
-QString EmitSetViewWindow(Writer& writer, const NamedViewReference& view, const OdGePoint3d& first,
+Statement EmitSetViewWindow(Writer& writer, const NamedViewReference& view, const OdGePoint3d& first,
                           const OdGePoint3d& opposite)
 {
     const std::uint32_t number = ++writer.UniqueCounter;

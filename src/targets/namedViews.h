@@ -11,8 +11,8 @@ struct NamedViewReference
 };
 
 /// One of the model goes to `variable`. One of a sheet has none: it is found by its name from there on.
-QString EmitCreateNamedView(Writer& writer, const CFxString& name, bool onSheet, const CFxString& variable);
-QString EmitRenameNamedView(Writer& writer, const NamedViewReference& view, const CFxString& newName);
-QString EmitSetNamedViewClass(Writer& writer, const NamedViewReference& view, const CFxString& className);
-QString EmitSetViewWindow(Writer& writer, const NamedViewReference& view, const OdGePoint3d& first,
+Statement EmitCreateNamedView(Writer& writer, const CFxString& name, bool onSheet, const CFxString& variable);
+Statement EmitRenameNamedView(Writer& writer, const NamedViewReference& view, const CFxString& newName);
+Statement EmitSetNamedViewClass(Writer& writer, const NamedViewReference& view, const CFxString& className);
+Statement EmitSetViewWindow(Writer& writer, const NamedViewReference& view, const OdGePoint3d& first,
                           const OdGePoint3d& opposite);

@@ -105,50 +105,50 @@ static const OptionPhrase commandPoint3D{"EmitCommandOptionPoint3D", commandOpti
 static const OptionPhrase commandString{"EmitCommandOptionString", commandOption, textWords};
 
 /// C#, VB.NET and VBA give the result's variable a number of its own. Elsewhere the counter stays as it is.
-static QString withResult(Writer& writer, Fill& statement)
+static Statement withResult(Writer& writer, Fill& statement)
 {
     if (writer.target == Target::CSharp || writer.target == Target::VbNet || writer.target == Target::Vba)
         statement.number(++writer.UniqueCounter);
     return statement;
 }
 
-QString EmitCommandOptionBool(Writer& writer, const CFxString& option, bool value)
+Statement EmitCommandOptionBool(Writer& writer, const CFxString& option, bool value)
 {
     return withResult(writer, writer.fill(commandBool).text(option).text(truthWord(writer.target, value)));
 }
 
-QString EmitCommandOptionDouble(Writer& writer, const CFxString& option, double value)
+Statement EmitCommandOptionDouble(Writer& writer, const CFxString& option, double value)
 {
     return withResult(writer, writer.fill(commandDouble).text(option).shortReal(value));
 }
 
-QString EmitCommandOptionInt8(Writer& writer, const CFxString& option, std::int32_t value)
+Statement EmitCommandOptionInt8(Writer& writer, const CFxString& option, std::int32_t value)
 {
     return withResult(writer, writer.fill(commandInt8).text(option).number(value));
 }
 
-QString EmitCommandOptionInt16(Writer& writer, const CFxString& option, std::int32_t value)
+Statement EmitCommandOptionInt16(Writer& writer, const CFxString& option, std::int32_t value)
 {
     return withResult(writer, writer.fill(commandInt16).text(option).number(value));
 }
 
-QString EmitCommandOptionInt32(Writer& writer, const CFxString& option, std::int32_t value)
+Statement EmitCommandOptionInt32(Writer& writer, const CFxString& option, std::int32_t value)
 {
     return withResult(writer, writer.fill(commandInt32).text(option).number(value));
 }
 
-QString EmitCommandOptionPoint2D(Writer& writer, const CFxString& option, const OdGePoint2d& value)
+Statement EmitCommandOptionPoint2D(Writer& writer, const CFxString& option, const OdGePoint2d& value)
 {
     return withResult(writer, writer.fill(commandPoint2D).text(option).shortReal(value.x).shortReal(value.y));
 }
 
-QString EmitCommandOptionPoint3D(Writer& writer, const CFxString& option, const OdGePoint3d& value)
+Statement EmitCommandOptionPoint3D(Writer& writer, const CFxString& option, const OdGePoint3d& value)
 {
     return withResult(
         writer, writer.fill(commandPoint3D).text(option).shortReal(value.x).shortReal(value.y).shortReal(value.z));
 }
 
-QString EmitCommandOptionString(Writer& writer, const CFxString& option, const CFxString& value)
+Statement EmitCommandOptionString(Writer& writer, const CFxString& option, const CFxString& value)
 {
     return withResult(writer, writer.fill(commandString).text(option).text(value));
 }
@@ -174,34 +174,34 @@ static const OptionPhrase applicationDouble{"EmitApplicationOptionDouble", appli
 static const OptionPhrase applicationString{"EmitApplicationOptionString", applicationOption, textWords};
 
 /// The options are fetched into a variable only in C++, which is numbered there.
-static QString withOptions(Writer& writer, Fill& statement)
+static Statement withOptions(Writer& writer, Fill& statement)
 {
     if (writer.target == Target::Cpp)
         statement.number(++writer.UniqueCounter);
     return statement;
 }
 
-QString EmitApplicationOptionBool(Writer& writer, const CFxString& option, bool value)
+Statement EmitApplicationOptionBool(Writer& writer, const CFxString& option, bool value)
 {
     return withOptions(writer, writer.fill(applicationBool).text(option).text(truthWord(writer.target, value)));
 }
 
-QString EmitApplicationOptionInt16(Writer& writer, const CFxString& option, std::int32_t value)
+Statement EmitApplicationOptionInt16(Writer& writer, const CFxString& option, std::int32_t value)
 {
     return withOptions(writer, writer.fill(applicationInt16).text(option).number(value));
 }
 
-QString EmitApplicationOptionInt32(Writer& writer, const CFxString& option, std::int32_t value)
+Statement EmitApplicationOptionInt32(Writer& writer, const CFxString& option, std::int32_t value)
 {
     return withOptions(writer, writer.fill(applicationInt32).text(option).number(value));
 }
 
-QString EmitApplicationOptionDouble(Writer& writer, const CFxString& option, double value)
+Statement EmitApplicationOptionDouble(Writer& writer, const CFxString& option, double value)
 {
     return withOptions(writer, writer.fill(applicationDouble).text(option).shortReal(value));
 }
 
-QString EmitApplicationOptionString(Writer& writer, const CFxString& option, const CFxString& value)
+Statement EmitApplicationOptionString(Writer& writer, const CFxString& option, const CFxString& value)
 {
     return withOptions(writer, writer.fill(applicationString).text(option).text(value));
 }

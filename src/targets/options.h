@@ -3,16 +3,16 @@
 #include "host/db/OdGe.h"
 #include "statements/Writer.h"
 
-QString EmitCommandOptionBool(Writer& writer, const CFxString& option, bool value);
-QString EmitCommandOptionDouble(Writer& writer, const CFxString& option, double value);
-QString EmitCommandOptionInt8(Writer& writer, const CFxString& option, std::int32_t value);
-QString EmitCommandOptionInt16(Writer& writer, const CFxString& option, std::int32_t value);
-QString EmitCommandOptionInt32(Writer& writer, const CFxString& option, std::int32_t value);
-QString EmitCommandOptionPoint2D(Writer& writer, const CFxString& option, const OdGePoint2d& value);
-QString EmitCommandOptionPoint3D(Writer& writer, const CFxString& option, const OdGePoint3d& value);
-QString EmitCommandOptionString(Writer& writer, const CFxString& option, const CFxString& value);
-QString EmitApplicationOptionBool(Writer& writer, const CFxString& option, bool value);
-QString EmitApplicationOptionInt16(Writer& writer, const CFxString& option, std::int32_t value);
-QString EmitApplicationOptionInt32(Writer& writer, const CFxString& option, std::int32_t value);
-QString EmitApplicationOptionDouble(Writer& writer, const CFxString& option, double value);
-QString EmitApplicationOptionString(Writer& writer, const CFxString& option, const CFxString& value);
+Statement EmitCommandOptionBool(Writer& writer, const CFxString& option, bool value);
+Statement EmitCommandOptionDouble(Writer& writer, const CFxString& option, double value);
+Statement EmitCommandOptionInt8(Writer& writer, const CFxString& option, std::int32_t value);
+Statement EmitCommandOptionInt16(Writer& writer, const CFxString& option, std::int32_t value);
+Statement EmitCommandOptionInt32(Writer& writer, const CFxString& option, std::int32_t value);
+Statement EmitCommandOptionPoint2D(Writer& writer, const CFxString& option, const OdGePoint2d& value);
+Statement EmitCommandOptionPoint3D(Writer& writer, const CFxString& option, const OdGePoint3d& value);
+Statement EmitCommandOptionString(Writer& writer, const CFxString& option, const CFxString& value);
+Statement EmitApplicationOptionBool(Writer& writer, const CFxString& option, bool value);
+Statement EmitApplicationOptionInt16(Writer& writer, const CFxString& option, std::int32_t value);
+Statement EmitApplicationOptionInt32(Writer& writer, const CFxString& option, std::int32_t value);
+Statement EmitApplicationOptionDouble(Writer& writer, const CFxString& option, double value);
+Statement EmitApplicationOptionString(Writer& writer, const CFxString& option, const CFxString& value);

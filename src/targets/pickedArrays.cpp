@@ -58,7 +58,7 @@ static std::size_t lengthOf(const PickedArray& array)
     return std::size_t{3} * std::get<1>(array.elements).length();
 }
 
-static QString elementsOf(const ArrayPlace& place, const PickedArray& array)
+static Statement elementsOf(const ArrayPlace& place, const PickedArray& array)
 {
     if (const auto* const names = std::get_if<0>(&array.elements))
         return objectLines(place, std::vector<QString>(names->begin(), names->end()));
@@ -66,16 +66,16 @@ static QString elementsOf(const ArrayPlace& place, const PickedArray& array)
     const Target target = place.writer.target;
     if (target == Target::CppCom || target == Target::VbNet)
         return pointLines(place, coordinates, NumberForm::Short);
-    QString lines;
+    Statement lines;
     for (std::size_t i = 0; i < coordinates.values.size(); ++i)
         lines += realLine(place, i, coordinates.values[i], NumberForm::Short);
     return lines;
 }
 
-QString pickedArrays(Writer& writer, std::uint32_t number, std::span<const PickedArray> arrays)
+Statement pickedArrays(Writer& writer, std::uint32_t number, std::span<const PickedArray> arrays)
 {
     const Target target = writer.target;
-    QString text;
+    Statement text;
     const auto head = [&](const Phrase& ofObjects, const Phrase& ofPoints) {
         for (const PickedArray& array : arrays)
             text += writer.fill(holdsObjects(array) ? ofObjects : ofPoints)
@@ -111,7 +111,7 @@ static const Phrase call{"call with picked arrays",
                              .vba = "%1iwSketchManager.%3 %4%2",
                          }};
 
-QString callWithPicked(Writer& writer, const char* operation, std::uint32_t number, std::span<const char* const> names)
+Statement callWithPicked(Writer& writer, const char* operation, std::uint32_t number, std::span<const char* const> names)
 {
     QStringList arguments;
     for (const char* const name : names)

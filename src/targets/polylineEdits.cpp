@@ -4,7 +4,7 @@
 
 using namespace inkmacro;
 
-static QString withSuccess(Writer& writer, Fill& statement)
+static Statement withSuccess(Writer& writer, Fill& statement)
 {
     if (writer.target == Target::Cpp)
         statement.number(++writer.UniqueCounter);
@@ -21,22 +21,22 @@ static const Phrase reshape{"EmitPolylineFit",
                                 .vba = "%1%2.%3\n",
                             }};
 
-static QString reshapePolyline(Writer& writer, const CFxString& polyline, const char* operation)
+static Statement reshapePolyline(Writer& writer, const CFxString& polyline, const char* operation)
 {
     return withSuccess(writer, writer.fillIndented(reshape).text(polyline).text(QLatin1String(operation)));
 }
 
-QString EmitPolylineFit(Writer& writer, const CFxString& polyline)
+Statement EmitPolylineFit(Writer& writer, const CFxString& polyline)
 {
     return reshapePolyline(writer, polyline, "Fit");
 }
 
-QString EmitPolylineDecurve(Writer& writer, const CFxString& polyline)
+Statement EmitPolylineDecurve(Writer& writer, const CFxString& polyline)
 {
     return reshapePolyline(writer, polyline, "Decurve");
 }
 
-QString EmitPolylineSpline(Writer& writer, const CFxString& polyline)
+Statement EmitPolylineSpline(Writer& writer, const CFxString& polyline)
 {
     return reshapePolyline(writer, polyline, "Spline");
 }
@@ -54,22 +54,22 @@ static const Phrase joinCurve{"EmitJoinPolyline",
 static const Mend basicJoin(joinCurve, Target::Vba, "an object in parentheses stands for its default property",
                             "%1%3.%4 %5%2");
 
-static QString join(Writer& writer, const CFxString& polyline, const char* operation, const CFxString& other)
+static Statement join(Writer& writer, const CFxString& polyline, const char* operation, const CFxString& other)
 {
     return withSuccess(writer, writer.fill(joinCurve).text(polyline).text(QLatin1String(operation)).text(other));
 }
 
-QString EmitJoinPolyline(Writer& writer, const CFxString& polyline, const CFxString& other)
+Statement EmitJoinPolyline(Writer& writer, const CFxString& polyline, const CFxString& other)
 {
     return join(writer, polyline, "JoinPolyLine", other);
 }
 
-QString EmitJoinLine(Writer& writer, const CFxString& polyline, const CFxString& line)
+Statement EmitJoinLine(Writer& writer, const CFxString& polyline, const CFxString& line)
 {
     return join(writer, polyline, "JoinLine", line);
 }
 
-QString EmitJoinCircleArc(Writer& writer, const CFxString& polyline, const CFxString& arc)
+Statement EmitJoinCircleArc(Writer& writer, const CFxString& polyline, const CFxString& arc)
 {
     return join(writer, polyline, "JoinCircleArc", arc);
 }
@@ -98,7 +98,7 @@ static const Phrase splitPolyline2D{
         .vba = "%1Dim splittedPolyline%4 As Inkwright.PolyLine\n%1%2.Split %3, splittedPolyline%4\n",
     }};
 
-QString EmitPolylineSplit(Writer& writer, const CFxString& polyline, int vertex, bool spatial)
+Statement EmitPolylineSplit(Writer& writer, const CFxString& polyline, int vertex, bool spatial)
 {
     return writer.fillIndented(spatial ? splitPolyline3D : splitPolyline2D)
         .text(polyline)
@@ -128,7 +128,7 @@ static const Phrase placeVertex2D{"EmitAddVertexAfter",
                                       .vba = "%1%2.%3 %4, %5, %6 \n",
                                   }};
 
-static QString placeVertex(Writer& writer, const CFxString& polyline, const char* operation, int vertex,
+static Statement placeVertex(Writer& writer, const CFxString& polyline, const char* operation, int vertex,
                            const OdGePoint3d& point, bool spatial)
 {
     Fill statement = writer.fillIndented(spatial ? placeVertex3D : placeVertex2D);
@@ -138,13 +138,13 @@ static QString placeVertex(Writer& writer, const CFxString& polyline, const char
     return withSuccess(writer, statement);
 }
 
-QString EmitAddVertexAfter(Writer& writer, const CFxString& polyline, int vertex, const OdGePoint3d& point,
+Statement EmitAddVertexAfter(Writer& writer, const CFxString& polyline, int vertex, const OdGePoint3d& point,
                            bool spatial)
 {
     return placeVertex(writer, polyline, "AddVertexAfter", vertex, point, spatial);
 }
 
-QString EmitSetVertexCoordinate(Writer& writer, const CFxString& polyline, int vertex, const OdGePoint3d& point,
+Statement EmitSetVertexCoordinate(Writer& writer, const CFxString& polyline, int vertex, const OdGePoint3d& point,
                                 bool spatial)
 {
     return placeVertex(writer, polyline, "SetVertexCoordinate", vertex, point, spatial);
@@ -160,7 +160,7 @@ static const Phrase straighten{"EmitPolylineStraighten",
                                    .vba = "%1%2.Straighten %3, %4 \n",
                                }};
 
-QString EmitPolylineStraighten(Writer& writer, const CFxString& polyline, int first, int last)
+Statement EmitPolylineStraighten(Writer& writer, const CFxString& polyline, int first, int last)
 {
     return withSuccess(writer, writer.fillIndented(straighten).text(polyline).number(first).number(last));
 }
@@ -186,7 +186,7 @@ static const Mend widthsWithSuccess(setWidths, Target::Cpp,
                                     "%1bool Success%6;\n%1%2->SetSegmentStartWidth( %3, %4, &Success%6 );\n"
                                     "%1%2->SetSegmentEndWidth( %3, %5, &Success%6 );\n");
 
-QString EmitPolylineWidth(Writer& writer, const CFxString& polyline, int segment, double start, double end)
+Statement EmitPolylineWidth(Writer& writer, const CFxString& polyline, int segment, double start, double end)
 {
     return withSuccess(writer,
                        writer.fillIndented(setWidths).text(polyline).number(segment).shortReal(start).shortReal(end));
@@ -203,7 +203,7 @@ static const Phrase deleteVertex{"EmitDeleteVertex",
                                      .vba = "%1%2.DeleteVertex( %3 )\n",
                                  }};
 
-QString EmitDeleteVertex(Writer& writer, const CFxString& polyline, int vertex)
+Statement EmitDeleteVertex(Writer& writer, const CFxString& polyline, int vertex)
 {
     return withSuccess(writer, writer.fillIndented(deleteVertex).text(polyline).number(vertex));
 }

@@ -49,7 +49,7 @@ std::int32_t WriteProject(const QString& macroPath, const std::vector<ProjectFil
     if (!QDir().exists(directory) && !QDir().mkpath(directory))
         return kFxFailure;
     for (const ProjectFile& file : files)
-        if (!writeTextFile(directory + "//" + file.name, file.text, file.byteOrderMark))
+        if (!writeTextFile(directory + "//" + file.name, file.text.text(), file.byteOrderMark))
             return kFxFailure;
     return kFxSuccess;
 }

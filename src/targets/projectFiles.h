@@ -13,7 +13,7 @@ namespace inkmacro {
 struct ProjectFile
 {
     QString name;
-    QString text;
+    Statement text;
     bool byteOrderMark;
 };
 

@@ -6,17 +6,17 @@
 
 using namespace inkmacro;
 
-static QString prompted(Writer& writer, const Phrase& phrase, const CFxString& prompt, const OdGePoint3d& value)
+static Statement prompted(Writer& writer, const Phrase& phrase, const CFxString& prompt, const OdGePoint3d& value)
 {
     return writer.fill(phrase).number(++writer.UniqueCounter).text(prompt).shortPoint(value);
 }
 
-static QString prompted(Writer& writer, const Phrase& phrase, const CFxString& prompt, double value)
+static Statement prompted(Writer& writer, const Phrase& phrase, const CFxString& prompt, double value)
 {
     return writer.fill(phrase).number(++writer.UniqueCounter).text(prompt).shortReal(value);
 }
 
-static QString prompted(Writer& writer, const Phrase& phrase, const CFxString& prompt, std::int32_t value)
+static Statement prompted(Writer& writer, const Phrase& phrase, const CFxString& prompt, std::int32_t value)
 {
     return writer.fill(phrase).number(++writer.UniqueCounter).text(prompt).number(value);
 }
@@ -93,7 +93,7 @@ static const Phrase promptPoint{
                "iwStringArray%3, 0, False, defaultPoint%3, basePoint%3, resultKeyword%3, resultPoint%3, plane%3%2%2",
     }};
 
-QString EmitPromptPoint(Writer& writer, const CFxString& prompt, const OdGePoint3d& value)
+Statement EmitPromptPoint(Writer& writer, const CFxString& prompt, const OdGePoint3d& value)
 {
     return prompted(writer, promptPoint, prompt, value);
 }
@@ -117,7 +117,7 @@ static const Phrase promptCorner{
                "%1iwApp.GetCommandMessage().PromptForPoint \"%4\", IOCorner_x%3, IOCorner_y%3, IOCorner_z%3%2",
     }};
 
-QString EmitPromptCorner(Writer& writer, const CFxString& prompt, const OdGePoint3d& value)
+Statement EmitPromptCorner(Writer& writer, const CFxString& prompt, const OdGePoint3d& value)
 {
     return prompted(writer, promptCorner, prompt, value);
 }
@@ -144,7 +144,7 @@ static const Mend basicAngle(promptAngle, Target::Vba,
                              "%1Dim IO_angle%3 As Double%2%1IO_angle%3 = %5%2"
                              "%1iwApp.GetCommandMessage().PromptForAngle \"%4\", %5, IO_angle%3%2");
 
-QString EmitPromptAngle(Writer& writer, const CFxString& prompt, double value)
+Statement EmitPromptAngle(Writer& writer, const CFxString& prompt, double value)
 {
     return prompted(writer, promptAngle, prompt, value);
 }
@@ -180,33 +180,33 @@ static const Phrase promptInteger{"EmitPromptInteger", INTEGER_PROMPT("integer")
 #undef REAL_PROMPT
 #undef NUMBER_PROMPT
 
-QString EmitPromptDistance(Writer& writer, const CFxString& prompt, double value)
+Statement EmitPromptDistance(Writer& writer, const CFxString& prompt, double value)
 {
     return prompted(writer, promptDistance, prompt, value);
 }
 
-QString EmitPromptOrient(Writer& writer, const CFxString& prompt, double value)
+Statement EmitPromptOrient(Writer& writer, const CFxString& prompt, double value)
 {
     return prompted(writer, promptOrient, prompt, value);
 }
 
-QString EmitPromptScale(Writer& writer, const CFxString& prompt, double value)
+Statement EmitPromptScale(Writer& writer, const CFxString& prompt, double value)
 {
     return prompted(writer, promptScale, prompt, value);
 }
 
-QString EmitPromptDouble(Writer& writer, const CFxString& prompt, double value)
+Statement EmitPromptDouble(Writer& writer, const CFxString& prompt, double value)
 {
     return prompted(writer, promptDouble, prompt, value);
 }
 
 /// The number of a color, not a color object.
-QString EmitPromptColor(Writer& writer, const CFxString& prompt, std::int32_t value)
+Statement EmitPromptColor(Writer& writer, const CFxString& prompt, std::int32_t value)
 {
     return prompted(writer, promptColor, prompt, value);
 }
 
-QString EmitPromptInteger(Writer& writer, const CFxString& prompt, std::int32_t value)
+Statement EmitPromptInteger(Writer& writer, const CFxString& prompt, std::int32_t value)
 {
     return prompted(writer, promptInteger, prompt, value);
 }
@@ -229,7 +229,7 @@ static const Phrase promptString{
     }};
 static const Mend bstrAnswer(promptString, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
-QString EmitPromptString(Writer& writer, const CFxString& prompt, const CFxString& value)
+Statement EmitPromptString(Writer& writer, const CFxString& prompt, const CFxString& value)
 {
     return writer.fill(promptString).number(++writer.UniqueCounter).text(prompt).text(value);
 }
@@ -315,18 +315,18 @@ static const Mend scriptKeyword(
     "%1var value%3;%2%1var ErrorMsg%3 = \"\";%2%1var result = mCmdMess.PromptForKeyword2(\"%4\",ErrorMsg%3,iwglobal%5,iwlocal%5,1, keyword%5);%2");
 
 /// The lists bear the number in front of the call's own.
-QString EmitPromptKeyword(Writer& writer, const CFxString& prompt, const std::vector<CFxString>& local,
+Statement EmitPromptKeyword(Writer& writer, const CFxString& prompt, const std::vector<CFxString>& local,
                           const std::vector<CFxString>& global)
 {
     const std::uint32_t lists = writer.UniqueCounter;
     const auto line = [&](const Phrase& phrase) { return writer.fillIndented(phrase); };
     const CFxString first = local.empty() ? CFxString() : local.front();
-    QString text = line(keywordLists).number(lists).text(first).number(local.size());
+    Statement text = line(keywordLists).number(lists).text(first).number(local.size());
     for (std::size_t i = 0; i < local.size(); ++i) {
         text += line(localKeyword).number(lists).text(local[i]).number(i).str();
         text += line(globalKeyword).number(lists).text(global[i]).number(i).str();
         text += line(bothKeywords).text(local[i]).number(lists).text(global[i]).number(lists).str();
     }
-    text += '\n';
+    text += QString('\n');
     return text + writer.fill(promptKeyword).number(++writer.UniqueCounter).text(prompt).number(lists).str();
 }

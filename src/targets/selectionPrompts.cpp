@@ -127,25 +127,25 @@ static const Mend
                     "%1        var selected%3 = selectionMgr%3.GetSelectedObject(\"iwSelectionSetType_Previous\", i);%2"
                     "%1        entities%3[i] = selected%3[0];%2%1        types%3[i] = selected%3[1];%2%1    }%2%1}%2");
 
-QString EmitPromptSelection(Writer& writer, const EntityList& entities)
+Statement EmitPromptSelection(Writer& writer, const EntityList& entities)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     const ArrayPlace typePlace(writer, "types" + QString::number(number), number);
     const ArrayPlace namePlace(writer, "entities" + QString::number(number), number);
     std::vector<QString> types;
     std::vector<QString> names;
-    QString typeLines;
-    QString nameLines;
+    Statement typeLines;
+    Statement nameLines;
     for (std::size_t i = 0; i < entities.size(); ++i) {
         const auto& [name, type, handle] = entities[i];
         const bool known = !name.isEmpty() && !type.isEmpty();
         const auto found = [&, &handle = handle](const Phrase& phrase, const char* local) {
-            return phrase.has(writer.target) ? writer.fillPlain(phrase).text(handle).number(number).str()
+            return phrase.has(writer.target) ? writer.fillPlain(phrase).text(handle).number(number).str().text()
                                              : local + QString::number(number);
         };
         types.push_back(known ? enumeratorText(writer.target, "iwObjectType_e", type) : found(findType, "type"));
         names.push_back(known ? name.toQString() : found(findObject, "object"));
-        const QString search = known ? QString() : writer.fill(lookUp).text(handle).number(number).str();
+        const Statement search = known ? Statement() : writer.fill(lookUp).text(handle).number(number).str();
         typeLines += search + bareObjectTypeLine(typePlace, i, types.back()) +
                      writer.fill(listedElement).text(types.back()).str();
         nameLines +=

@@ -3,4 +3,4 @@
 #include "statements/Writer.h"
 #include "targets/EntityList.h"
 
-QString EmitPromptSelection(Writer& writer, const EntityList& entities);
+Statement EmitPromptSelection(Writer& writer, const EntityList& entities);

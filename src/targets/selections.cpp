@@ -114,7 +114,7 @@ static const Phrase selectedCount{
 /// Number of the next selection.
 static std::uint32_t& selections = processCounters.selections;
 
-static QString selectionCorners(Writer& writer, const OdArray<OdGePoint3d>& points)
+static Statement selectionCorners(Writer& writer, const OdArray<OdGePoint3d>& points)
 {
     OdGePoint3d low{1e20, 1e20, 1e20};
     OdGePoint3d high{-1e20, -1e20, -1e20};
@@ -129,9 +129,9 @@ static QString selectionCorners(Writer& writer, const OdArray<OdGePoint3d>& poin
 }
 
 /// All points are written to the same three places.
-static QString selectionCoordinates(Writer& writer, const OdArray<OdGePoint3d>& points)
+static Statement selectionCoordinates(Writer& writer, const OdArray<OdGePoint3d>& points)
 {
-    QString text =
+    Statement text =
         writer.fillIndented(coordinatesHead).number(selections).number(arrayBound(writer, 3U * points.length()));
     const ArrayPlace place(writer, "doubleArray" + QString::number(selections), selections, Brackets::Tight);
     for (const OdGePoint3d& point : points)
@@ -140,7 +140,7 @@ static QString selectionCoordinates(Writer& writer, const OdArray<OdGePoint3d>& 
     return text;
 }
 
-static QString selectionOf(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points)
+static Statement selectionOf(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points)
 {
     /// As the host's recorder numbers them.
     enum Mode : std::int32_t
@@ -177,11 +177,11 @@ static QString withoutSelections()
     return {};
 }
 
-QString EmitSelectEntities(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager)
+Statement EmitSelectEntities(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager)
 {
     if (!selectionManager.has(writer.target))
         return withoutSelections();
-    QString text;
+    Statement text;
     if (!hasManager)
         text += writer.fillIndented(selectionManager).number(selections);
     text += writer.fillIndented(selectionMath).number(selections).str() + selectionOf(writer, mode, points) +
@@ -229,14 +229,14 @@ static const Phrase deactivateFilter{"EmitSelectionFilter",
                                      }};
 
 /// The filter is on only around the one selection.
-QString EmitSelectionFilter(Writer& writer, const OdArray<OdGePoint3d>& points, std::int32_t mode,
+Statement EmitSelectionFilter(Writer& writer, const OdArray<OdGePoint3d>& points, std::int32_t mode,
                             const std::vector<CFxString>& typeNames)
 {
     if (!selectionManager.has(writer.target))
         return withoutSelections();
     // The selection within raises the number.
     const std::uint32_t number = selections;
-    QString text = writer.fillIndented(selectionManager).number(number).str() +
+    Statement text = writer.fillIndented(selectionManager).number(number).str() +
                    writer.fillIndented(getSelectionFilter).number(number).str() +
                    writer.fillIndented(clearFilter).number(number).str();
     for (const CFxString& type : typeNames)

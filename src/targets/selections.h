@@ -8,6 +8,6 @@
 
 /// `hasManager`: the selection manager's variable stands already. Raises OdError_InvalidIndex when a selection by
 /// point has none.
-QString EmitSelectEntities(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager);
-QString EmitSelectionFilter(Writer& writer, const OdArray<OdGePoint3d>& points, std::int32_t mode,
+Statement EmitSelectEntities(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager);
+Statement EmitSelectionFilter(Writer& writer, const OdArray<OdGePoint3d>& points, std::int32_t mode,
                             const std::vector<CFxString>& typeNames);

@@ -19,7 +19,7 @@ static const Phrase activateModel{
         .vba = "%1iwModel.Activate%2%1Set iwSketchManager = iwModel.GetSketchManager()%2",
     }};
 
-QString EmitActivateModel(Writer& writer)
+Statement EmitActivateModel(Writer& writer)
 {
     return writer.fill(activateModel);
 }
@@ -41,7 +41,7 @@ static const Phrase activateSheet{
                "%1     Set iwSketchManager = iwSheet.GetSketchManager()%2%1End If%2",
     }};
 
-QString EmitActivateSheet(Writer& writer, const CFxString& sheetName, CFxString& sheetVariable)
+Statement EmitActivateSheet(Writer& writer, const CFxString& sheetName, CFxString& sheetVariable)
 {
     sheetVariable = writer.target == Target::JavaScript ? "mSheet" : "iwSheet";
     return writer.fill(activateSheet).text(sheetName);
@@ -58,7 +58,7 @@ static const Phrase createSheet{"EmitCreateSheet",
                                            "%1Set sheet%4 = iwDoc.CreateSheet(\"%3\")%2",
                                 }};
 
-QString EmitCreateSheet(Writer& writer, const CFxString& name)
+Statement EmitCreateSheet(Writer& writer, const CFxString& name)
 {
     return writer.fill(createSheet).text(name).number(++writer.UniqueCounter);
 }
@@ -77,7 +77,7 @@ static const Phrase createSheetFromTemplate{
                "%1Set template_sheet%6 = iwDoc.CreateSheetByTemplate( \"%3\", \"%4\", \"%5\" )%2",
     }};
 
-QString EmitCreateSheetFromTemplate(Writer& writer, const CFxString& file, const CFxString& source,
+Statement EmitCreateSheetFromTemplate(Writer& writer, const CFxString& file, const CFxString& source,
                                     const CFxString& name)
 {
     return writer.fill(createSheetFromTemplate).text(file).text(source).text(name).number(++writer.UniqueCounter);
@@ -104,7 +104,7 @@ static const Mend copyOfDocument(copySheet, Target::CppCom, "the application cop
 static const Mend scriptCopy(copySheet, Target::JavaScript, "texts with the prefix of C++",
                              "%1mDoc.CopySheet(\"%3\" , \"%4\" );%2");
 
-QString EmitCopySheet(Writer& writer, const CFxString& source, const CFxString& copy)
+Statement EmitCopySheet(Writer& writer, const CFxString& source, const CFxString& copy)
 {
     return writer.fill(copySheet).text(source).text(copy);
 }
@@ -131,7 +131,7 @@ static const Mend scriptRename(
     renameSheet, Target::JavaScript, "a variable that nothing declares",
     "%1var PreSheet%4 = mDoc.GetSheet(\"%3\");%2%1if (null != PreSheet%4)%2%1   PreSheet%4.put_Name(\"%5\");%2");
 
-QString EmitRenameSheet(Writer& writer, const CFxString& oldName, const CFxString& newName)
+Statement EmitRenameSheet(Writer& writer, const CFxString& oldName, const CFxString& newName)
 {
     return writer.fill(renameSheet).text(oldName).number(++writer.UniqueCounter).text(newName);
 }
@@ -146,7 +146,7 @@ static const Phrase removeSheet{"EmitRemoveSheet",
                                     .vba = "%1iwDoc.RemoveSheet(\"%3\")%2",
                                 }};
 
-QString EmitRemoveSheet(Writer& writer, const CFxString& name)
+Statement EmitRemoveSheet(Writer& writer, const CFxString& name)
 {
     return writer.fill(removeSheet).text(name);
 }

@@ -15,9 +15,9 @@ struct CutObjects
 
 /// The pick points are one an object to trim. `edgeFlag`: 1 when cutting edges count as if they went on. Behind the
 /// call comes the search for the pieces, when there are any.
-QString EmitTrimEntities(Writer& writer, const std::vector<CFxString>& cutting, const std::vector<CFxString>& removed,
+Statement EmitTrimEntities(Writer& writer, const std::vector<CFxString>& cutting, const std::vector<CFxString>& removed,
                          const OdArray<OdGePoint3d>& points, std::int32_t edgeFlag,
                          const std::vector<TrimPiece>& pieces);
-QString EmitExtendEntities(Writer& writer, const std::vector<CFxString>& boundary,
+Statement EmitExtendEntities(Writer& writer, const std::vector<CFxString>& boundary,
                            const std::vector<CFxString>& extended, const OdArray<OdGePoint3d>& points,
                            std::int32_t edgeFlag);

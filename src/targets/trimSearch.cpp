@@ -163,10 +163,10 @@ static const Phrase pieceNumber{"EmitTrimEntities: search",
                                     .vba = "%1prop(%4) = %3%2",
                                 }};
 
-static QString numbersOf(Writer& writer, const std::vector<TrimPiece>& pieces)
+static Statement numbersOf(Writer& writer, const std::vector<TrimPiece>& pieces)
 {
-    QString places;
-    QString numbers;
+    Statement places;
+    Statement numbers;
     qulonglong nextPlace = 0;
     qulonglong nextNumber = 0;
     for (const TrimPiece& piece : pieces) {
@@ -307,13 +307,13 @@ namespace {
 struct Questions
 {
     QStringList locals;
-    QString calls;
-    QStringList comparisons;
+    Statement calls;
+    std::vector<Statement> comparisons;
 };
 
 } // namespace
 
-static QString compared(Writer& writer, const QString& value, int number)
+static Statement compared(Writer& writer, const Statement& value, int number)
 {
     const QString offset = number == 0 ? QString() : " + " + QString::number(number);
     return writer.fillPlain(comparison).text(value).text(offset);
@@ -337,14 +337,14 @@ static void askPoint(Writer& writer, const PiecesOfClass& of, const ComparedPoin
     for (int axis = 0; axis < of.searched.axes; ++axis) {
         const char letter = "XYZ"[axis];
         if (target == Target::JavaScript) {
-            questions.comparisons.append(
+            questions.comparisons.push_back(
                 compared(writer, QLatin1String(point.local) + QString('.') + letter, firstNumber + axis));
             continue;
         }
         const QString local = QString(point.local) + letter;
         questions.locals.append(local);
         arguments.append(outArgument(target, local));
-        questions.comparisons.append(compared(writer, local, firstNumber + axis));
+        questions.comparisons.push_back(compared(writer, local, firstNumber + axis));
     }
     if (target == Target::Cpp && of.searched.tellsSuccess)
         arguments.append("&bRetVal");
@@ -359,14 +359,14 @@ static void askPoint(Writer& writer, const PiecesOfClass& of, const ComparedPoin
 static void askProperty(Writer& writer, const PiecesOfClass& of, const char* name, int number, Questions& questions)
 {
     if (property.has(writer.target)) {
-        const QString value = writer.fillPlain(property).text(of.stem).text(QLatin1String(name));
-        questions.comparisons.append(compared(writer, value, number));
+        const Statement value = writer.fillPlain(property).text(of.stem).text(QLatin1String(name));
+        questions.comparisons.push_back(compared(writer, value, number));
         return;
     }
     const QString local = QChar(name[0]).toLower() + QString(name + 1);
     questions.locals.append(local);
     questions.calls += writer.fill(askForProperty).text(of.stem).text(QLatin1String(name)).text(local).str();
-    questions.comparisons.append(compared(writer, local, number));
+    questions.comparisons.push_back(compared(writer, local, number));
 }
 
 static Questions questionsOf(Writer& writer, const PiecesOfClass& of)
@@ -382,44 +382,54 @@ static Questions questionsOf(Writer& writer, const PiecesOfClass& of)
     return questions;
 }
 
-static QStringList declarationsOf(Writer& writer, const PiecesOfClass& of, const QStringList& locals)
+static std::vector<Statement> declarationsOf(Writer& writer, const PiecesOfClass& of, const QStringList& locals)
 {
-    QStringList lines{writer.fill(declareObject).text(of.stem).text(QLatin1String(of.type.name))};
+    std::vector<Statement> lines{writer.fill(declareObject).text(of.stem).text(QLatin1String(of.type.name)).str()};
     if (!isBasic(writer.target))
-        lines.append(writer.fill(declareNumbers).text(locals.join(QLatin1String(", "))));
+        lines.push_back(writer.fill(declareNumbers).text(locals.join(QLatin1String(", "))));
     else
         for (const QString& local : locals)
-            lines.append(writer.fill(declareNumbers).text(local));
+            lines.push_back(writer.fill(declareNumbers).text(local));
     if (of.searched.tellsSuccess)
-        lines.append(writer.fill(declareSuccess));
+        lines.push_back(writer.fill(declareSuccess));
     return lines;
 }
 
-static QString sectionOf(Writer& writer, const PiecesOfClass& of, bool first, QStringList& declared)
+static Statement joined(const std::vector<Statement>& statements, const Statement& separator)
 {
-    QString assignments;
+    Statement text;
+    for (const Statement& statement : statements) {
+        if (&statement != &statements.front())
+            text += separator;
+        text += statement;
+    }
+    return text;
+}
+
+static Statement sectionOf(Writer& writer, const PiecesOfClass& of, bool first, std::vector<Statement>& declared)
+{
+    Statement assignments;
     for (const auto& [number, ordinal] : of.pieces)
         assignments += writer.fill(assignVariable).number(qulonglong{number}).text(of.stem).number(ordinal).str();
 
     const Questions questions = questionsOf(writer, of);
-    QStringList declarations = declarationsOf(writer, of, questions.locals);
+    std::vector<Statement> declarations = declarationsOf(writer, of, questions.locals);
     const bool vba = writer.target == Target::Vba;
     if (vba) {
         // One scope a procedure: what a test in front has declared is there already.
-        declarations.erase(std::remove_if(declarations.begin(), declarations.end(),
-                                          [&](const QString& line) { return declared.contains(line); }),
-                           declarations.end());
-        declared += declarations;
+        std::erase_if(declarations,
+                      [&](const Statement& line) { return std::ranges::find(declared, line) != declared.end(); });
+        declared.insert(declared.end(), declarations.begin(), declarations.end());
     }
-    const QString lines = declarations.join(QString());
+    const Statement lines = joined(declarations, {});
     return writer.fill(testOfClass)
         .text(assignments)
-        .text(first ? QString() : QString(writer.fillIndented(otherClass)))
+        .text(first ? Statement() : writer.fillIndented(otherClass).str())
         .text(objectTypeWord(writer.target, of.type.enumerator))
         .text(of.stem)
         .text(vba ? questions.calls : lines + questions.calls)
-        .text(questions.comparisons.join(writer.fill(nextComparison).str()))
-        .text(vba ? lines : QString(of.type.name));
+        .text(joined(questions.comparisons, writer.fill(nextComparison)))
+        .text(vba ? lines : Statement(QString(of.type.name)));
 }
 
 /// The box around the piece's place is as wide as the comparison is exact.
@@ -509,12 +519,12 @@ static const Phrase searchLoop{
                "%1Next%2%2",
     }};
 
-QString trimSearch(Writer& writer, const std::vector<TrimPiece>& pieces)
+Statement trimSearch(Writer& writer, const std::vector<TrimPiece>& pieces)
 {
     const std::vector<PiecesOfClass> classes = byClass(pieces);
-    QString resets;
-    QString sections;
-    QStringList declared;
+    Statement resets;
+    Statement sections;
+    std::vector<Statement> declared;
     for (const PiecesOfClass& of : classes) {
         for (const NumberedPiece& piece : of.pieces)
             resets += writer.fill(resetVariable).text(of.stem).number(piece.ordinal).str();

@@ -18,4 +18,4 @@ struct TrimPiece
 
 /// Statements that find the pieces in the drawing once the macro has trimmed, and assign them to their variables: they
 /// pick around each piece's place and compare what they find with its numbers.
-QString trimSearch(Writer& writer, const std::vector<TrimPiece>& pieces);
+Statement trimSearch(Writer& writer, const std::vector<TrimPiece>& pieces);

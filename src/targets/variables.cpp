@@ -27,7 +27,7 @@ static QString untyped(Target target, const QString& type, QString declaration)
     return declaration;
 }
 
-QString EmitVariableDeclaration(Writer& writer, const ActionEntry& entry)
+Statement EmitVariableDeclaration(Writer& writer, const ActionEntry& entry)
 {
     const TypeNames* const names = FindTypeNames(entry.cls);
     if (!names)
@@ -37,7 +37,7 @@ QString EmitVariableDeclaration(Writer& writer, const ActionEntry& entry)
     // The curly targets but COM put the type in front of the name.
     if (writer.target == Target::Cpp || writer.target == Target::CSharp)
         return writer.fill(declareVariable).text(type).text(stem).number(entry.ordinal);
-    return untyped(writer.target, type, writer.fill(declareVariable).text(stem).number(entry.ordinal).text(type));
+    return untyped(writer.target, type, writer.fill(declareVariable).text(stem).number(entry.ordinal).text(type).str().text());
 }
 
 const Fault kLayerZero{"EmitGetLayer",
@@ -67,10 +67,10 @@ static const Mend layerInPage(
 
 /// The layer's name is always "0": the default layer is fetched into the variable, and the statements that follow set
 /// the recorded properties on it.
-QString EmitGetLayer(Writer& writer, const CFxString& variable, const CFxString& layer)
+Statement EmitGetLayer(Writer& writer, const CFxString& variable, const CFxString& layer)
 {
-    QString text = writer.fill(getLayer).number(++processCounters.layerManagers).text(variable);
+    Statement text = writer.fill(getLayer).number(++processCounters.layerManagers).text(variable);
     if (writer.repairs)
-        text.replace("\"0\"", '"' + writer.quoted(layer) + '"');
+        text = QString(text.text()).replace("\"0\"", '"' + writer.quoted(layer).text() + '"');
     return layer.toQString() == "0" ? text : writer.faulty(text, kLayerZero);
 }

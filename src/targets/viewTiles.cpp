@@ -21,7 +21,7 @@ static const Phrase insertViewTiles{
         .vba = "%1Dim %5 As Variant%2%1%5 = iwModel.InsertViewTiles(%3, %4)%2%1%5 = iwModel.GetViewTiles()%2%2",
     }};
 
-QString EmitInsertViewTiles(Writer& writer, const QString& tiles, const QString& mode, const QString& applyTo)
+Statement EmitInsertViewTiles(Writer& writer, const QString& tiles, const QString& mode, const QString& applyTo)
 {
     return writer.fill(insertViewTiles)
         .text(enumeratorText(writer.target, "iwViewTilesMode_e", mode))
@@ -40,7 +40,7 @@ static const Phrase selectViewTile{"EmitSelectViewTile",
                                        .vba = "%1Dim %5 As Inkwright.ViewTile%2%1Set %5 = %3(%4)%2",
                                    }};
 
-QString EmitSelectViewTile(Writer& writer, const QString& tiles, std::size_t index, const CFxString& variable)
+Statement EmitSelectViewTile(Writer& writer, const QString& tiles, std::size_t index, const CFxString& variable)
 {
     return writer.fill(selectViewTile).text(tiles).number(qulonglong{index}).text(variable);
 }

@@ -20,12 +20,12 @@ static const Phrase zoomToRange{"EmitZoom",
                                     .vba = "%1iwApp.Zoom %3, Nothing, Nothing%2",
                                 }};
 
-static QString rangeWord(const Writer& writer, const CFxString& range)
+static Statement rangeWord(const Writer& writer, const CFxString& range)
 {
     return enumeratorText(writer.target, "iwZoomRange_e", range);
 }
 
-QString EmitZoom(Writer& writer, const CFxString& range)
+Statement EmitZoom(Writer& writer, const CFxString& range)
 {
     const std::uint32_t number = writer.target == Target::Cpp ? ++writer.UniqueCounter : 0;
     return writer.fill(declareCorners).number(number).str() +
@@ -58,7 +58,7 @@ static const Phrase zoomToWindow{
                "%1iwApp.Zoom %9, lowerLeft_%10, upperRight_%10%2",
     }};
 
-QString EmitZoom(Writer& writer, const CFxString& range, const OdGePoint3d& lowerLeft, const OdGePoint3d& upperRight)
+Statement EmitZoom(Writer& writer, const CFxString& range, const OdGePoint3d& lowerLeft, const OdGePoint3d& upperRight)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     Fill zoom = writer.fill(zoomToWindow);

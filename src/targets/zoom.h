@@ -5,5 +5,5 @@
 
 // `range` is an enumerator, such as "iwZoomRange_Fit".
 
-QString EmitZoom(Writer& writer, const CFxString& range);
-QString EmitZoom(Writer& writer, const CFxString& range, const OdGePoint3d& lowerLeft, const OdGePoint3d& upperRight);
+Statement EmitZoom(Writer& writer, const CFxString& range);
+Statement EmitZoom(Writer& writer, const CFxString& range, const OdGePoint3d& lowerLeft, const OdGePoint3d& upperRight);

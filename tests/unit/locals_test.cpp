@@ -1,6 +1,6 @@
 // Locals that are declared where their language does not allow it.
 
-#include "statements/Locals.h"
+#include "module/Locals.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 // Long macros, whose text a second thread writes.
 
 #include "TestTarget.h"
-#include "statements/WriteBehind.h"
+#include "module/WriteBehind.h"
 
 #include <QBuffer>
 #include <QTextStream>

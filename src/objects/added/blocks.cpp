@@ -29,15 +29,15 @@ CFxString descriptionOf(const OdDbBlockTableRecord& record)
 }
 
 /// A revision cloud is a block without a name, which no drawing has before the macro runs.
-QString defineCloud(const AddedObject& added, const OdDbBlockTableRecord& record)
+Statement defineCloud(const AddedObject& added, const OdDbBlockTableRecord& record)
 {
     return CreateBlockDefinition(added.conversion, {added.name, CFxString(anonymousBlockName), false,
                                                     descriptionOf(record), record.origin(), entitiesOf(record)});
 }
 
-QString setAttributes(const AddedObject& added, const OdDbBlockReference& reference)
+Statement setAttributes(const AddedObject& added, const OdDbBlockReference& reference)
 {
-    QString text;
+    Statement text;
     for (const OdDbObjectIteratorPtr at = reference.attributeIterator(); !at->done(); at->step()) {
         const auto attribute = odrxCast<OdDbAttribute>(at->objectId().openObject().get());
         if (attribute && !attribute->tag().isEmpty())
@@ -49,7 +49,7 @@ QString setAttributes(const AddedObject& added, const OdDbBlockReference& refere
 
 } // namespace
 
-QString ReadBlockReference(AddedObject& added)
+Statement ReadBlockReference(AddedObject& added)
 {
     CFxString block = added.takeText("Name");
     Placement placement;
@@ -63,7 +63,7 @@ QString ReadBlockReference(AddedObject& added)
     const OdDbObjectPtr definition = reference ? reference->blockTableRecord().openObject() : OdDbObjectPtr();
     const auto record = odrxCast<OdDbBlockTableRecord>(definition.get());
     const OdResBufPtr cloud = record ? record->xData(cloudApplication) : OdResBufPtr();
-    QString text;
+    Statement text;
     if (cloud) {
         block = CFxString(anonymousBlockName);
         text = defineCloud(added, *record);
@@ -80,7 +80,7 @@ QString ReadBlockReference(AddedObject& added)
 
 /// Without a record of the entities they are those of the drawing; but sheets and external references are not defined
 /// by their entities.
-QString ReadBlockDefinition(AddedObject& added)
+Statement ReadBlockDefinition(AddedObject& added)
 {
     const CFxVariant name = added.take("Name");
     const CFxVariant objects = added.take("Objects");
@@ -107,7 +107,7 @@ QString ReadBlockDefinition(AddedObject& added)
     return CreateBlockDefinition(added.conversion, contents);
 }
 
-QString ReadPicture(AddedObject& added)
+Statement ReadPicture(AddedObject& added)
 {
     const CFxString path = added.takeText("Path");
     const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
@@ -116,7 +116,7 @@ QString ReadPicture(AddedObject& added)
     return EmitInsertPicture(added.writer, path, position, scale, rotation, added.name);
 }
 
-QString ReadShape(AddedObject& added)
+Statement ReadShape(AddedObject& added)
 {
     const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
     const CFxString shape = added.takeText("Name");

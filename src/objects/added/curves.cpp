@@ -7,33 +7,33 @@
 
 #include <numbers>
 
-QString ReadLine(AddedObject& added)
+Statement ReadLine(AddedObject& added)
 {
     const OdGePoint3d start = added.takePoint("Start X", "Start Y", "Start Z");
     const OdGePoint3d end = added.takePoint("End X", "End Y", "End Z");
     return EmitInsertLine(added.writer, start, end, added.name);
 }
 
-QString ReadCircle(AddedObject& added)
+Statement ReadCircle(AddedObject& added)
 {
     const OdGePoint3d center = added.takePoint("Center X", "Center Y", "Center Z");
     const double radius = added.takeReal("Radius", 1.0);
     return EmitInsertCircle(added.writer, center, radius, added.name);
 }
 
-QString ReadPoint(AddedObject& added)
+Statement ReadPoint(AddedObject& added)
 {
     return EmitInsertPoint(added.writer, added.takePoint("Position X", "Position Y", "Position Z"), added.name);
 }
 
-QString ReadRay(AddedObject& added)
+Statement ReadRay(AddedObject& added)
 {
     const OdGePoint3d base = added.takePoint("Base point X", "Base point Y", "Base point Z");
     const OdGePoint3d second = added.takePoint("Second point X", "Second point Y", "Second point Z");
     return EmitInsertRay(added.writer, base, second, added.name);
 }
 
-QString ReadArc(AddedObject& added)
+Statement ReadArc(AddedObject& added)
 {
     const OdGePoint3d center = added.takePoint("Center X", "Center Y", "Center Z");
     const double radius = added.takeReal("Radius", 1.0);
@@ -42,14 +42,14 @@ QString ReadArc(AddedObject& added)
     return EmitInsertArc(added.writer, center, radius, startAngle, endAngle, added.name);
 }
 
-QString ReadInfiniteLine(AddedObject& added)
+Statement ReadInfiniteLine(AddedObject& added)
 {
     const OdGePoint3d base = added.takePoint("Base point X", "Base point Y", "Base point Z");
     const OdGePoint3d second = added.takePoint("Second point X", "Second point Y", "Second point Z");
     return EmitInsertInfiniteLine(added.writer, base, second, added.name);
 }
 
-QString ReadEllipse(AddedObject& added)
+Statement ReadEllipse(AddedObject& added)
 {
     const OdGePoint3d center = added.takePoint("Center X", "Center Y", "Center Z");
     const OdGePoint3d major = added.takePoint("Major axis vector X", "Major axis vector Y", "Major axis vector Z");

@@ -44,7 +44,7 @@ std::optional<MeasuredCurve> curveOf(const AddedObject& added)
 }
 
 /// The rotation belongs to the part of a dimension that all kinds have, so a statement fetches that first.
-QString withTextRotation(QString insertion, AddedObject& added)
+Statement withTextRotation(Statement insertion, AddedObject& added)
 {
     if (insertion.isEmpty())
         added.lost("the drawing does not have a circle or an arc that it measures");
@@ -64,7 +64,7 @@ QString variableOf(const AddedObject& added, const OdDbObjectPtr& line)
 
 } // namespace
 
-QString ReadAlignedDimension(AddedObject& added)
+Statement ReadAlignedDimension(AddedObject& added)
 {
     const OdGePoint3d first = added.takePoint("xLine1Point");
     const OdGePoint3d second = added.takePoint("xLine2Point");
@@ -73,7 +73,7 @@ QString ReadAlignedDimension(AddedObject& added)
     return withTextRotation(EmitInsertAlignedDimension(added.writer, first, second, line, text, added.name), added);
 }
 
-QString Read2LineAngularDimension(AddedObject& added)
+Statement Read2LineAngularDimension(AddedObject& added)
 {
     DimensionLine first;
     DimensionLine second;
@@ -96,7 +96,7 @@ QString Read2LineAngularDimension(AddedObject& added)
                             added);
 }
 
-QString Read3PointAngularDimension(AddedObject& added)
+Statement Read3PointAngularDimension(AddedObject& added)
 {
     const OdGePoint3d center = added.takePoint("centerPoint");
     const OdGePoint3d first = added.takePoint("xLine1Point");
@@ -105,33 +105,33 @@ QString Read3PointAngularDimension(AddedObject& added)
     const CFxString text = takeTextOverride(added);
     const std::optional<MeasuredCurve> curve = curveOf<OdDb3PointAngularDimension>(added);
     const bool onArc = curve && odrxQuery<OdDbArc>(curve->object.get());
-    QString insertion =
+    Statement insertion =
         onArc ? EmitInsertAngularDimensionArc(added.writer, *curve, arcPoint, text, added.name)
               : EmitInsertAngularDimension3Point(added.writer, center, first, second, arcPoint, text, added.name);
     return withTextRotation(std::move(insertion), added);
 }
 
-QString ReadArcLengthDimension(AddedObject& added)
+Statement ReadArcLengthDimension(AddedObject& added)
 {
     const OdGePoint3d first = added.takePoint("xLine1Point");
     const OdGePoint3d second = added.takePoint("xLine2Point");
     const bool partial = added.take("isPartial").GetInt32() != 0;
     const OdGePoint3d arcPoint = added.takePoint("arcPoint");
     const CFxString text = takeTextOverride(added);
-    QString insertion;
+    Statement insertion;
     if (const std::optional<MeasuredCurve> arc = curveOf<OdDbArcDimension>(added))
         insertion =
             EmitInsertArcLengthDimension(added.writer, *arc, first, second, partial, arcPoint, text, added.name);
     return withTextRotation(std::move(insertion), added);
 }
 
-QString ReadOrdinateDimension(AddedObject& added)
+Statement ReadOrdinateDimension(AddedObject& added)
 {
     const OdGePoint3d point = added.takePoint("definingPoint");
     const OdGePoint3d leaderEnd = added.takePoint("leaderEndPoint");
     const bool usesXAxis = added.take("isUsingXAxis").GetInt32() != 0;
     const CFxString text = takeTextOverride(added);
-    QString statements = withTextRotation(
+    Statement statements = withTextRotation(
         EmitInsertOrdinateDimension(added.writer, point, leaderEnd, usesXAxis, text, added.name), added);
     const CFxVariant zero = added.take("setZero");
     if (!zero.IsNull() && zero.GetPoint3d().distanceTo({}) > kPointTolerance)
@@ -139,39 +139,39 @@ QString ReadOrdinateDimension(AddedObject& added)
     return statements;
 }
 
-QString ReadDiameterDimension(AddedObject& added)
+Statement ReadDiameterDimension(AddedObject& added)
 {
     const OdGePoint3d chordPoint = added.takePoint("chordPoint");
     const CFxString text = takeTextOverride(added);
-    QString insertion;
+    Statement insertion;
     if (const std::optional<MeasuredCurve> curve = curveOf<OdDbDiametricDimension>(added))
         insertion = EmitInsertDiameterDimension(added.writer, *curve, chordPoint, text, added.name);
     return withTextRotation(std::move(insertion), added);
 }
 
-QString ReadRadialDimension(AddedObject& added)
+Statement ReadRadialDimension(AddedObject& added)
 {
     const OdGePoint3d chordPoint = added.takePoint("chordPoint");
     const CFxString text = takeTextOverride(added);
-    QString insertion;
+    Statement insertion;
     if (const std::optional<MeasuredCurve> curve = curveOf<OdDbRadialDimension>(added))
         insertion = EmitInsertRadialDimension(added.writer, *curve, chordPoint, text, added.name);
     return withTextRotation(std::move(insertion), added);
 }
 
-QString ReadJoggedDimension(AddedObject& added)
+Statement ReadJoggedDimension(AddedObject& added)
 {
     const OdGePoint3d center = takePlanePoint(added, "Center location override Y", "Center location override X");
     const OdGePoint3d jog = takePlanePoint(added, "Jog location Y", "Jog location X");
     const OdGePoint3d position = takePlanePoint(added, "Position y", "Position x");
     const CFxString text = takeTextOverride(added);
-    QString insertion;
+    Statement insertion;
     if (const std::optional<MeasuredCurve> curve = curveOf<OdDbRadialDimensionLarge>(added))
         insertion = EmitInsertJoggedDimension(added.writer, *curve, center, jog, position, text, added.name);
     return withTextRotation(std::move(insertion), added);
 }
 
-QString ReadRotatedDimension(AddedObject& added)
+Statement ReadRotatedDimension(AddedObject& added)
 {
     const OdGePoint3d first = added.takePoint("xLine1Point");
     const OdGePoint3d second = added.takePoint("xLine2Point");

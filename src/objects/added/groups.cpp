@@ -5,7 +5,7 @@
 #include "objects/blockContents.h"
 #include "objects/targets/newGroups.h"
 
-QString ReadGroup(AddedObject& added)
+Statement ReadGroup(AddedObject& added)
 {
     NewGroup group;
     group.name = added.takeText("Name");

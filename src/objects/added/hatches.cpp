@@ -6,11 +6,11 @@
 #include "objects/added/readers.h"
 #include "objects/targets/hatchPatterns.h"
 
-QString ReadHatch(AddedObject& added)
+Statement ReadHatch(AddedObject& added)
 {
     CFxString pattern;
-    const QString fetch = EmitGetHatchPattern(added.writer, added.name, pattern);
-    const QString settings =
+    const Statement fetch = EmitGetHatchPattern(added.writer, added.name, pattern);
+    const Statement settings =
         ConvertHatchCommonProperties(added.writer, pattern, [&](const char* tag) { return added.take(tag); });
-    return settings.isEmpty() ? QString() : fetch + settings;
+    return settings.isEmpty() ? Statement() : fetch + settings;
 }

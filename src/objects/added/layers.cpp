@@ -7,14 +7,14 @@
 #include "objects/added/readers.h"
 #include "objects/targets/styles.h"
 
-QString ReadLayer(AddedObject& added)
+Statement ReadLayer(AddedObject& added)
 {
     const CFxVariant name = added.take("Name");
     CFxString layer = name.GetString();
     if (name.IsNull())
         if (const auto record = added.open<OdDbLayerTableRecord>())
             layer = record->getName();
-    QString text = EmitCreateLayer(added.writer, layer, added.name);
+    Statement text = EmitCreateLayer(added.writer, layer, added.name);
     if (added.takeText("ActivateLayer") == ShownWord("Yes"))
         text += EmitActivateLayer(added.writer, LayerOf(added.name));
     return text;

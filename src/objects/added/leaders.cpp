@@ -15,12 +15,12 @@ using inkmacro::escapeWithBackslashes;
 namespace {
 
 /// The insertion of a leader makes its note too; the note's settings come from the drawing, since no record holds them.
-QString setNote(const AddedObject& leader, const OdDbMText& note)
+Statement setNote(const AddedObject& leader, const OdDbMText& note)
 {
     // The note is reached through its leader.
     const CFxString name = leader.conversion.names().NameObject(note.getDbHandle(), note.isA());
     Writer& writer = leader.writer;
-    QString text = EmitGetNoteAnnotation(writer, name, leader.name);
+    Statement text = EmitGetNoteAnnotation(writer, name, leader.name);
 
     text += EmitSetBoolProperty(writer, name, "BackgroundMask", note.backgroundFillOn());
     text += EmitSetBoolProperty(writer, name, "UseDrawingBackgroundColor", note.useBackgroundColorOn());
@@ -48,7 +48,7 @@ QString setNote(const AddedObject& leader, const OdDbMText& note)
     return text;
 }
 
-QString annotate(const AddedObject& added)
+Statement annotate(const AddedObject& added)
 {
     const auto leader = added.open<OdDbLeader>();
     if (!leader)
@@ -70,7 +70,7 @@ QString annotate(const AddedObject& added)
 
 } // namespace
 
-QString ReadTolerance(AddedObject& added)
+Statement ReadTolerance(AddedObject& added)
 {
     const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
     return EmitInsertTolerance(added.writer, position,
@@ -78,11 +78,11 @@ QString ReadTolerance(AddedObject& added)
 }
 
 /// A leader's texts are escaped alike in all targets, those without backslash escapes included. It has to stay so.
-QString ReadLeader(AddedObject& added)
+Statement ReadLeader(AddedObject& added)
 {
     const OdArray<OdGePoint3d> vertices = added.takePoints("Vertex");
     const CFxString content = escapeWithBackslashes(added.takeText("content"));
     const double width = added.takeReal("width", 0.0);
-    const QString insertion = EmitInsertLeader(added.writer, vertices, width, content, added.name);
+    const Statement insertion = EmitInsertLeader(added.writer, vertices, width, content, added.name);
     return insertion + annotate(added);
 }

@@ -6,7 +6,7 @@
 #include "objects/added/readers.h"
 #include "objects/targets/setters.h"
 
-QString ReadFace(AddedObject& added)
+Statement ReadFace(AddedObject& added)
 {
     const OdArray<OdGePoint3d> corners = added.takePoints("Vertex");
     std::array<bool, 4> edgesVisible{};
@@ -16,27 +16,27 @@ QString ReadFace(AddedObject& added)
     return EmitInsertFace(added.writer, corners, edgesVisible, added.name);
 }
 
-QString ReadSolid(AddedObject& added)
+Statement ReadSolid(AddedObject& added)
 {
     return EmitInsertSolid(added.writer, added.takePoints("Vertex"), added.name);
 }
 
-QString ReadTrace(AddedObject& added)
+Statement ReadTrace(AddedObject& added)
 {
-    const QString text = EmitInsertTrace(added.writer, added.takePoints("Vertex"), added.name);
+    const Statement text = EmitInsertTrace(added.writer, added.takePoints("Vertex"), added.name);
     const auto trace = added.open<OdDbTrace>();
     if (!trace)
         return text;
     return text + EmitSetDoubleProperty(added.writer, added.name, "Thickness", trace->thickness());
 }
 
-QString ReadPolygonMesh(AddedObject& added)
+Statement ReadPolygonMesh(AddedObject& added)
 {
     const OdArray<OdGePoint3d> vertices = added.takePoints("Vertex");
     const int rows = added.take("M vertex count").GetInt32();
     const int columns = added.take("N vertex count").GetInt32();
 
-    QString text = EmitInsertPolygonMesh(added.writer, rows, columns, vertices, added.name);
+    Statement text = EmitInsertPolygonMesh(added.writer, rows, columns, vertices, added.name);
     const auto mesh = added.open<OdDbPolygonMesh>();
     if (mesh && mesh->isMClosed())
         text += EmitSetBoolProperty(added.writer, added.name, "MClosed", true);
@@ -45,7 +45,7 @@ QString ReadPolygonMesh(AddedObject& added)
     return text;
 }
 
-QString ReadPolyFaceMesh(AddedObject& added)
+Statement ReadPolyFaceMesh(AddedObject& added)
 {
     const OdArray<OdGePoint3d> vertices = added.takePoints("Vertex");
     const auto mesh = added.open<OdDbPolyFaceMesh>();

@@ -34,7 +34,7 @@ int takeJustification(AddedObject& added)
 
 } // namespace
 
-QString ReadRichLine(AddedObject& added)
+Statement ReadRichLine(AddedObject& added)
 {
     const OdArray<OdGePoint3d> vertices = added.takePoints("vertices");
     const int justification = takeJustification(added);
@@ -44,13 +44,13 @@ QString ReadRichLine(AddedObject& added)
     return EmitInsertRichLine(added.writer, vertices, justification, scale, style, closed, added.name);
 }
 
-QString ReadPolyline3D(AddedObject& added)
+Statement ReadPolyline3D(AddedObject& added)
 {
     const OdArray<OdGePoint3d> vertices = added.takePoints("Vertex");
     return EmitInsertPolyline3D(added.writer, vertices, takeClosed(added), added.name);
 }
 
-QString ReadPolyline(AddedObject& added)
+Statement ReadPolyline(AddedObject& added)
 {
     OdArray<OdGePoint2d> vertices;
     for (const OdGePoint3d& vertex : added.takePoints("Vertex"))
@@ -60,7 +60,7 @@ QString ReadPolyline(AddedObject& added)
     return EmitInsertPolyline2D(added.writer, vertices, takeClosed(added), added.name);
 }
 
-QString ReadSpline(AddedObject& added)
+Statement ReadSpline(AddedObject& added)
 {
     const OdArray<OdGePoint3d> fitPoints = added.takePoints("Fit point");
     const bool closed = takeClosed(added);
@@ -69,7 +69,7 @@ QString ReadSpline(AddedObject& added)
     const OdGePoint3d end = added.takePoint("End tangent vector X", "End tangent vector Y", "End tangent vector Z");
     const CFxVariant tolerance = added.take("Fit tolerance");
 
-    QString text = EmitInsertSpline(added.writer, fitPoints, closed, start, end, added.name);
+    Statement text = EmitInsertSpline(added.writer, fitPoints, closed, start, end, added.name);
     if (tolerance.IsNull())
         return text;
     return text + EmitSetDoubleProperty(added.writer, added.name, "FitTolerance", tolerance.GetDouble());

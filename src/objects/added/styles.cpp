@@ -20,17 +20,17 @@ bool isCurrent(const OdDbObjectPtr& style, OdDbObjectId (OdDbDatabase::*current)
 
 /// A new style comes with lines of its own, each of which gives way to one of the recorded style: these are counted
 /// from the outermost. Of two lines in one place the later one counts.
-QString replaceElements(const AddedObject& added, const OdDbMlineStyle& style)
+Statement replaceElements(const AddedObject& added, const OdDbMlineStyle& style)
 {
     std::map<double, OdDbMlineElement, std::greater<>> elements;
     for (int i = 0; i < style.numElements(); ++i)
         elements[style.getElementAt(i).offset] = style.getElementAt(i);
 
-    QString text;
+    Statement text;
     int index = 0;
     for (const auto& [offset, element] : elements) {
         const auto lineStyle = odrxCast<OdDbLinetypeTableRecord>(element.linetypeId.openObject(true).get());
-        const QString statement =
+        const Statement statement =
             EmitReplaceRichLineElement(added.writer, added.name, index, offset, element.color.colorIndex(),
                                        lineStyle ? lineStyle->getName() : OdString());
         if (statement.isEmpty())
@@ -43,23 +43,23 @@ QString replaceElements(const AddedObject& added, const OdDbMlineStyle& style)
 
 } // namespace
 
-QString ReadTableStyle(AddedObject& added)
+Statement ReadTableStyle(AddedObject& added)
 {
     const CFxString styleName = added.takeText("TableStyleName");
-    QString text = EmitCreateTableStyle(added.writer, styleName, added.name);
+    Statement text = EmitCreateTableStyle(added.writer, styleName, added.name);
     if (isCurrent(added.open<OdDbTableStyle>(), &OdDbDatabase::tablestyle))
         text += EmitActivateLayer(added.writer, added.name);
     return text + EmitRenameStyle(added.writer, added.name, styleName, false);
 }
 
-QString ReadDimensionStyle(AddedObject& added)
+Statement ReadDimensionStyle(AddedObject& added)
 {
     return EmitCreateDimensionStyle(added.writer, added.takeText("DimensionStyleName"), added.name);
 }
 
-QString ReadRichLineStyle(AddedObject& added)
+Statement ReadRichLineStyle(AddedObject& added)
 {
-    QString text = EmitCreateRichLineStyle(added.writer, added.takeText("RichLineStyleName"), added.name);
+    Statement text = EmitCreateRichLineStyle(added.writer, added.takeText("RichLineStyleName"), added.name);
     const auto style = added.open<OdDbMlineStyle>();
     if (!style)
         return text;
@@ -69,7 +69,7 @@ QString ReadRichLineStyle(AddedObject& added)
 }
 
 /// A style that no file holds is loaded all the same: the macro's user can fill in the file.
-QString ReadLineStyle(AddedObject& added)
+Statement ReadLineStyle(AddedObject& added)
 {
     const CFxVariant value = added.take("Name");
     if (value.IsNull())

@@ -35,7 +35,7 @@ static void loseRest(const AddedObject& added, double height, double width)
 
 /// The height of the insertion is that of the first row of data. Other heights behind it and other widths have no
 /// statement.
-QString ReadTable(AddedObject& added)
+Statement ReadTable(AddedObject& added)
 {
     const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
     const std::int32_t rows = added.take("Rows").GetInt32();
@@ -44,7 +44,7 @@ QString ReadTable(AddedObject& added)
     const double dataHeight = added.takeReal("RowHeight_2", 0.0);
     const double width = added.takeReal("ColumnWidth_0", 0.0);
     const std::array<int, 3> cellTypes = table ? tableCellTypes(*table) : std::array<int, 3>{};
-    QString text = EmitInsertTable(added.writer, position, rows, columns, dataHeight, width, cellTypes, added.name);
+    Statement text = EmitInsertTable(added.writer, position, rows, columns, dataHeight, width, cellTypes, added.name);
 
     const CFxVariant tableHeight = added.take("Table height");
     const CFxVariant tableWidth = added.take("Table width");

@@ -58,7 +58,7 @@ Box boxOfNote(int attachment, const OdGePoint3d& position, double width, double 
 }
 
 /// A command that loads shapes is written without its block, so the statement stands one level further out.
-QString loadShapes(Writer& writer, const CFxString& fileName)
+Statement loadShapes(Writer& writer, const CFxString& fileName)
 {
     if (IsHostShapeFile(fileName))
         return {};
@@ -73,7 +73,7 @@ bool IsHostShapeFile(const CFxString& fileName)
     return fileName.equalNoCase("LTypeShp.shx");
 }
 
-QString ReadTextStyle(AddedObject& added)
+Statement ReadTextStyle(AddedObject& added)
 {
     const auto style = added.open<OdDbTextStyleTableRecord>();
     const CFxString name = added.takeText("Name");
@@ -81,13 +81,13 @@ QString ReadTextStyle(AddedObject& added)
     if (style && style->isShapeFile())
         return loadShapes(added.writer, style->fileName());
 
-    QString text = EmitCreateTextStyle(added.writer, added.name, name);
+    Statement text = EmitCreateTextStyle(added.writer, added.name, name);
     if (!font.IsNull())
         text += EmitSetProperty(added.writer, added.name, "Font", doubleBackslashes(font.GetString()), true);
     return text;
 }
 
-QString ReadAttributeDefinition(AddedObject& added)
+Statement ReadAttributeDefinition(AddedObject& added)
 {
     const auto takeYes = [&](const char* tag) { return wordOf(added.take(tag)).equalNoCase(ShownWord("Yes")); };
 
@@ -110,7 +110,7 @@ QString ReadAttributeDefinition(AddedObject& added)
     return EmitInsertAttributeDefinition(added.writer, definition, added.name);
 }
 
-QString ReadSimpleNote(AddedObject& added)
+Statement ReadSimpleNote(AddedObject& added)
 {
     const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
     const OdGePoint3d alignment = added.takePoint("Text alignment X", "Text alignment Y", "Text alignment Z");
@@ -119,7 +119,7 @@ QString ReadSimpleNote(AddedObject& added)
     const CFxString contents = added.takeText("Contents");
     const std::optional<CFxString> justification = ChosenText(added.take("Justify"));
 
-    QString text = EmitInsertSimpleNote(added.writer, position, height, rotation, contents, added.name);
+    Statement text = EmitInsertSimpleNote(added.writer, position, height, rotation, contents, added.name);
     if (justification)
         text += EmitSetEnumProperty(added.writer, added.name, inkmacro::enums::textJustification, "Justify",
                                     *justification);
@@ -129,7 +129,7 @@ QString ReadSimpleNote(AddedObject& added)
     return text;
 }
 
-QString ReadNote(AddedObject& added)
+Statement ReadNote(AddedObject& added)
 {
     const CFxVariant width = added.take("Width");
     const CFxVariant textHeight = added.take("Text Height");
@@ -144,7 +144,7 @@ QString ReadNote(AddedObject& added)
     const double boxHeight = added.takeReal("TextBoxHeight", 0.0);
 
     const Box box = boxOfNote(justify.GetCollection().GetChosen(), position, width.GetDouble(), boxHeight);
-    QString text = EmitInsertNote(added.writer, box.first, box.second, contents, added.name);
+    Statement text = EmitInsertNote(added.writer, box.first, box.second, contents, added.name);
     const auto setReal = [&](const char* property, const CFxVariant& value) {
         if (!value.IsNull())
             text += EmitSetDoubleProperty(added.writer, added.name, property, value.GetDouble());
@@ -164,12 +164,12 @@ QString ReadNote(AddedObject& added)
     return text;
 }
 
-QString ReadCurvedText(AddedObject& added)
+Statement ReadCurvedText(AddedObject& added)
 {
     const auto curved = added.open<OdDbArcAlignedText>();
     if (!curved)
         return added.lost("the drawing does not have it, and no record holds its text");
-    QString fetch;
+    Statement fetch;
     const QString arc = added.conversion.names().AddedOrFetched(curved->arcId(), fetch);
     if (arc.isEmpty() && added.writer.repairs)
         return added.lost("the macro does not have the arc that it runs along");

@@ -7,7 +7,7 @@
 #include "objects/targets/clipViewports.h"
 #include "statements/RecordingState.h"
 
-QString ReadViewport(AddedObject& added)
+Statement ReadViewport(AddedObject& added)
 {
     const auto viewport = added.open<OdDbViewport>();
     if (!viewport || !viewport->isNonRectClipOn())
@@ -18,7 +18,7 @@ QString ReadViewport(AddedObject& added)
     const OdDbObjectId& clip = viewport->nonRectClipEntityId();
     const OdDbObjectPtr entity = clip.openObject();
     QString variable = added.conversion.names().KnownVariable(clip.getHandle());
-    QString fetch;
+    Statement fetch;
     if (variable.isEmpty() && !CanMakeClip(entity.get())) {
         variable = added.conversion.names().AddedOrFetched(clip, fetch);
         if (variable.isEmpty() && added.writer.repairs)

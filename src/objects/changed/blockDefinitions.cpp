@@ -6,7 +6,7 @@
 #include "objects/properties.h"
 
 void ConvertModifiedBlockDefinition(Conversion& conversion, const RecordedObject& object, PropertyList& list,
-                                    QString& text)
+                                    Statement& text)
 {
     const CFxVariant objects = FindProperty(conversion, "Objects", list);
     const CFxVariant description = FindProperty(conversion, "Description", list);

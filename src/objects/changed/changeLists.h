@@ -43,12 +43,12 @@ extern const ChangeGroups modifiedGroup;
 extern const ChangeGroups modifiedViewTile;
 
 // Changes that are more than a list of tags: see ChangeHandler.
-void ConvertModifiedLine(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);
+void ConvertModifiedLine(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text);
 void ConvertModifiedBlockInstance(Conversion& conversion, const RecordedObject& object, PropertyList& list,
-                                  QString& text);
-void ConvertModifiedTable(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);
-void ConvertModifiedLayer(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);
+                                  Statement& text);
+void ConvertModifiedTable(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text);
+void ConvertModifiedLayer(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text);
 void ConvertModifiedBlockDefinition(Conversion& conversion, const RecordedObject& object, PropertyList& list,
-                                    QString& text);
-void ConvertModifiedSheet(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);
-void ConvertModifiedHatch(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text);
+                                    Statement& text);
+void ConvertModifiedSheet(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text);
+void ConvertModifiedHatch(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text);

@@ -10,7 +10,7 @@ using namespace kinds;
 const ChangeGroups modifiedLine{{firstPoint, "Start"}, {secondPoint, "End"}};
 
 /// Alone among the handlers this one drops what stands in the text already.
-void ConvertModifiedLine(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
+void ConvertModifiedLine(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
 {
     text.clear();
     ConvertRows(conversion, modifiedLine, object, list, text);

@@ -30,7 +30,7 @@ std::optional<bool> yesOf(const CFxVariant& value)
 
 } // namespace
 
-void ConvertModifiedHatch(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
+void ConvertModifiedHatch(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
 {
     const TakeTag take = [&](const char* tag) { return FindProperty(conversion, tag, list); };
     // The tags are read in this order.
@@ -44,8 +44,8 @@ void ConvertModifiedHatch(Conversion& conversion, const RecordedObject& object, 
                                        .centered = yesOf(take("Centered")),
                                        .angle = realOf(take("Gradient Angle"))};
     CFxString pattern;
-    const QString fetch = EmitGetHatchPattern(conversion.writer, object.name, pattern);
-    const QString common = ConvertHatchCommonProperties(conversion.writer, pattern, take);
+    const Statement fetch = EmitGetHatchPattern(conversion.writer, object.name, pattern);
+    const Statement common = ConvertHatchCommonProperties(conversion.writer, pattern, take);
     if (data.isEmpty() && gradient.isEmpty() && common.isEmpty())
         return;
     text += fetch;

@@ -38,7 +38,7 @@ const ChangeGroups modifiedGroup{
     {plainYes, "SelectableEntities", "Selectable"},
 };
 
-void ConvertModifiedLayer(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
+void ConvertModifiedLayer(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
 {
     const RecordedObject layer{object.cls, object.handle, LayerOf(object.name)};
     ConvertRows(conversion, modifiedLayer, layer, list, text);

@@ -30,7 +30,7 @@ static const ChangeGroups modifiedBlockInstance{
 
 /// An attribute of the block is a record in a group of its own, with the attribute's tag.
 void ConvertModifiedBlockInstance(Conversion& conversion, const RecordedObject& object, PropertyList& list,
-                                  QString& text)
+                                  Statement& text)
 {
     ConvertRows(conversion, modifiedBlockInstance, object, list, text);
     PropertyList rest;

@@ -15,7 +15,7 @@ const ChangeGroups modifiedViewTile{
 };
 
 /// The three records come together; the sheet is found by its name and needs no variable.
-void ConvertModifiedSheet(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
+void ConvertModifiedSheet(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
 {
     const CFxVariant table = FindProperty(conversion, "PrintStyleTable", list);
     const CFxVariant model = FindProperty(conversion, "Model_PrintStyleTable", list);

@@ -41,9 +41,9 @@ struct TableLines
     const char* wholeTag;
     int numberInCell; ///< whether the line is the first or the second number of a cell
     const char* sizeOperation;
-    QString (*insert)(Writer& writer, const CFxString& table, std::int32_t index, double size);
-    QString (*remove)(Writer& writer, const CFxString& table, std::int32_t index);
-    QString (*setSize)(Writer& writer, const CFxString& table, std::int32_t index, double size);
+    Statement (*insert)(Writer& writer, const CFxString& table, std::int32_t index, double size);
+    Statement (*remove)(Writer& writer, const CFxString& table, std::int32_t index);
+    Statement (*setSize)(Writer& writer, const CFxString& table, std::int32_t index, double size);
     std::map<CFxString, std::int32_t> TableSizes::*counts;
     std::map<CFxString, double> TableSizes::*wholes;
 };
@@ -78,7 +78,7 @@ PropertyList takeAll(const char* tag, PropertyList& list)
     return records;
 }
 
-QString cellStatement(Writer& writer, const CFxString& table, const CFxPropertyChangedPtr& record,
+Statement cellStatement(Writer& writer, const CFxString& table, const CFxPropertyChangedPtr& record,
                       const CFxString& text)
 {
     return EmitSetCellText(writer, table, numberIn(record, 1), numberIn(record, 2), inkmacro::doubleBackslashes(text));
@@ -86,11 +86,11 @@ QString cellStatement(Writer& writer, const CFxString& table, const CFxPropertyC
 
 /// New lines stand behind the old ones; `count` receives how many lines there are then. One pass over the records finds
 /// them, so one whose record comes too early, or behind a gap, is no new line.
-QString insertLines(Writer& writer, const TableLines& lines, const PropertyList& list, CFxValueContext context,
+Statement insertLines(Writer& writer, const TableLines& lines, const PropertyList& list, CFxValueContext context,
                     const CFxString& table, std::int32_t first, qint64& count)
 {
     const auto tagOf = [&](qint64 number) { return lines.sizeTag + ('_' + QString::number(number)); };
-    QString text;
+    Statement text;
     count = first;
     QString next = tagOf(count);
     for (const CFxPropertyChangedPtr& record : list) {
@@ -114,10 +114,10 @@ QString insertLines(Writer& writer, const TableLines& lines, const PropertyList&
 }
 
 /// One statement, however many lines went; in a repaired macro one each, from behind.
-QString removeLines(Writer& writer, const TableLines& lines, const CFxString& table, std::int32_t before,
+Statement removeLines(Writer& writer, const TableLines& lines, const CFxString& table, std::int32_t before,
                     std::int32_t count)
 {
-    QString text = lines.remove(writer, table, before - 1);
+    Statement text = lines.remove(writer, table, before - 1);
     if (!writer.repairs)
         return count < before - 1 ? writer.faulty(text, kSingleRemoval) : text;
     for (std::int32_t line = before - 2; line >= std::max(count, 0); --line)
@@ -129,7 +129,7 @@ QString removeLines(Writer& writer, const TableLines& lines, const CFxString& ta
 
 /// Takes the count of the lines. True if it was there.
 static bool ConvertTableCount(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
-                              PropertyList& list, QString& text)
+                              PropertyList& list, Statement& text)
 {
     const CFxVariant value = FindProperty(conversion, lines.countTag, list);
     if (value.IsNull())
@@ -157,7 +157,7 @@ static bool ConvertTableCount(Conversion& conversion, const TableLines& lines, c
 }
 
 /// Takes the records of cells. True if there were any.
-static bool ConvertCellTexts(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
+static bool ConvertCellTexts(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
 {
     const PropertyList cells = takeAll(cellTag, list);
     for (const CFxPropertyChangedPtr& record : cells) {
@@ -170,7 +170,7 @@ static bool ConvertCellTexts(Conversion& conversion, const RecordedObject& objec
 
 /// Takes the sizes of single lines. True if there were any.
 static bool ConvertTableSizes(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
-                              PropertyList& list, QString& text)
+                              PropertyList& list, Statement& text)
 {
     const PropertyList sizes = takeAll(lines.sizeTag, list);
     for (const CFxPropertyChangedPtr& record : sizes) {
@@ -183,7 +183,7 @@ static bool ConvertTableSizes(Conversion& conversion, const TableLines& lines, c
 
 /// Takes the size of the whole table. A table that became larger or smaller with nothing else to tell why was scaled.
 static void ConvertTableSize(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
-                             PropertyList& list, bool told, QString& text)
+                             PropertyList& list, bool told, Statement& text)
 {
     const CFxVariant value = FindProperty(conversion, lines.wholeTag, list);
     if (value.IsNull())
@@ -194,7 +194,7 @@ static void ConvertTableSize(Conversion& conversion, const TableLines& lines, co
     whole = value.GetDouble();
 }
 
-void ConvertModifiedTable(Conversion& conversion, const RecordedObject& object, PropertyList& list, QString& text)
+void ConvertModifiedTable(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
 {
     static const TableLines rows{"Rows",
                                  "RowHeight",

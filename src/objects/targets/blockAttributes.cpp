@@ -39,7 +39,7 @@ static const Phrase blockAttributeValue{
     }};
 static const Mend bstrAttributeValue(blockAttributeValue, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
-QString EmitBlockAttributeValue(Writer& writer, const CFxString& variable, const CFxString& property,
+Statement EmitBlockAttributeValue(Writer& writer, const CFxString& variable, const CFxString& property,
                                 const CFxString& tag, const CFxString& value)
 {
     return writer.fill(blockAttributeValue)

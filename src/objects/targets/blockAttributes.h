@@ -3,5 +3,5 @@
 #include "statements/Writer.h"
 
 /// Sets a property of the block reference's attribute of that tag.
-QString EmitBlockAttributeValue(Writer& writer, const CFxString& variable, const CFxString& property,
+Statement EmitBlockAttributeValue(Writer& writer, const CFxString& variable, const CFxString& property,
                                 const CFxString& tag, const CFxString& value);

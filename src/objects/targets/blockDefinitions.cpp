@@ -33,7 +33,7 @@ static const Phrase typesHead{"EmitCreateBlockDefinition",
                                   .vba = "%2%1Dim objecttypes_%3( %4 ) As iwObjectType_e%2",
                               }};
 
-static QString entityArrays(Writer& writer, const BlockDefinition& definition, std::uint32_t number)
+static Statement entityArrays(Writer& writer, const BlockDefinition& definition, std::uint32_t number)
 {
     std::vector<QString> types;
     types.reserve(definition.types.size());
@@ -43,7 +43,7 @@ static QString entityArrays(Writer& writer, const BlockDefinition& definition, s
     const int bound = arrayBound(writer, types.size());
     const ArrayPlace objects(writer, "objects_" + QString::number(number), number);
     const ArrayPlace objectTypes(writer, "objecttypes_" + QString::number(number), number);
-    QString text = writer.fill(entitiesHead).number(number).number(bound).str() +
+    Statement text = writer.fill(entitiesHead).number(number).number(bound).str() +
                    objectLines(objects, definition.entities) +
                    writer.fill(typesHead).number(number).number(bound).str();
     if (writer.target == Target::CppCom)
@@ -132,17 +132,17 @@ static QString definitionVariable(const BlockDefinition& definition)
     return definition.variable.toQString() + (isAnonymous(definition) ? "Def" : "");
 }
 
-QString EmitOpenBlockDefinition(Writer& writer, const BlockDefinition& definition)
+Statement EmitOpenBlockDefinition(Writer& writer, const BlockDefinition& definition)
 {
     return isAnonymous(definition) ? EmitDeclareObject(writer, "BlockDefinition", definitionVariable(definition))
                                    : QString();
 }
 
-QString EmitCreateBlockDefinition(Writer& writer, const BlockDefinition& definition)
+Statement EmitCreateBlockDefinition(Writer& writer, const BlockDefinition& definition)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     const QString variable = definitionVariable(definition);
-    QString text = entityArrays(writer, definition, number);
+    Statement text = entityArrays(writer, definition, number);
     text += writer.fill(definition.renewed ? renewDefinition : createDefinition)
                 .text(definition.renewed ? "blkName_" + QString::number(number) : definition.name.toQString())
                 .text(definition.description)

@@ -18,7 +18,7 @@ struct BlockDefinition
 };
 
 /// What comes ahead of the statements that make the block's entities: an anonymous block's definition needs a variable.
-QString EmitOpenBlockDefinition(Writer& writer, const BlockDefinition& definition);
+Statement EmitOpenBlockDefinition(Writer& writer, const BlockDefinition& definition);
 /// Moves the entities from the drawing into the block. The name that the host gives an anonymous one is fetched into
 /// the text variable that EmitInsertBlock names.
-QString EmitCreateBlockDefinition(Writer& writer, const BlockDefinition& definition);
+Statement EmitCreateBlockDefinition(Writer& writer, const BlockDefinition& definition);

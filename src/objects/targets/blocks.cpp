@@ -31,7 +31,7 @@ static const Phrase insertAnonymousBlock{
         .vba = "%1Set %11 = iwSketchManager.InsertBlock2( %3, %4, %5, %6, %7, %8, %9, %10 )%2",
     }};
 
-QString EmitInsertBlock(Writer& writer, const CFxString& block, const Placement& placement, const CFxString& name)
+Statement EmitInsertBlock(Writer& writer, const CFxString& block, const Placement& placement, const CFxString& name)
 {
     const bool anonymous = block.toQString() == anonymousBlockName;
     const CFxString word = anonymous ? CFxString(name.toQString() + "Name") : block;
@@ -56,7 +56,7 @@ static const Phrase insertExternalReference{
         .vba = "%1Set %9 = iwSketchManager.InsertExternalReference(  \"%3\", %4, %5, %6, %7, %8)%2",
     }};
 
-QString EmitInsertExternalReference(Writer& writer, const CFxString& path, const OdGePoint3d& position,
+Statement EmitInsertExternalReference(Writer& writer, const CFxString& path, const OdGePoint3d& position,
                                     const OdGeScale3d& scales, const CFxString& name)
 {
     return writer.fill(insertExternalReference).text(path).point(position).real(scales.sx).real(scales.sy).text(name);
@@ -75,7 +75,7 @@ static const Phrase insertPicture{
     }};
 
 /// C# alone has the backslashes of the path doubled. It has to stay so.
-QString EmitInsertPicture(Writer& writer, const CFxString& path, const OdGePoint3d& position, double scale,
+Statement EmitInsertPicture(Writer& writer, const CFxString& path, const OdGePoint3d& position, double scale,
                           double rotation, const CFxString& name)
 {
     const QString word = writer.target == Target::CSharp ? doubleBackslashes(path) : path.toQString();
@@ -92,7 +92,7 @@ static const Phrase insertShape{"EmitInsertShape",
                                     .vba = "%1Set %9 = iwSketchManager.InsertShape( \"%3\", %4, %5, %6, %7, %8 )%2",
                                 }};
 
-QString EmitInsertShape(Writer& writer, const CFxString& shape, const OdGePoint3d& position, double size,
+Statement EmitInsertShape(Writer& writer, const CFxString& shape, const OdGePoint3d& position, double size,
                         double rotation, const CFxString& name)
 {
     return writer.fill(insertShape).text(shape).point(position).real(size).real(rotation).text(name);

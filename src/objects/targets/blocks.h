@@ -16,12 +16,12 @@ struct Placement
 
 /// An anonymous block is told by the text variable that the statements which define it have filled: see
 /// EmitCreateBlockDefinition.
-QString EmitInsertBlock(Writer& writer, const CFxString& block, const Placement& placement, const CFxString& name);
+Statement EmitInsertBlock(Writer& writer, const CFxString& block, const Placement& placement, const CFxString& name);
 /// The host's call takes the scales along X and Y alone.
-QString EmitInsertExternalReference(Writer& writer, const CFxString& path, const OdGePoint3d& position,
+Statement EmitInsertExternalReference(Writer& writer, const CFxString& path, const OdGePoint3d& position,
                                     const OdGeScale3d& scales, const CFxString& name);
 /// `rotation` is in radians, as the next one's is.
-QString EmitInsertPicture(Writer& writer, const CFxString& path, const OdGePoint3d& position, double scale,
+Statement EmitInsertPicture(Writer& writer, const CFxString& path, const OdGePoint3d& position, double scale,
                           double rotation, const CFxString& name);
-QString EmitInsertShape(Writer& writer, const CFxString& shape, const OdGePoint3d& position, double size,
+Statement EmitInsertShape(Writer& writer, const CFxString& shape, const OdGePoint3d& position, double size,
                         double rotation, const CFxString& name);

@@ -86,29 +86,29 @@ struct TemporaryKind
     OdRxClass* (*cls)(); ///< of the objects that it stands for; derived classes count
     const char* stem;    ///< of the variable, in front of the number
     const char* type;    ///< the host's name
-    QString (*insert)(Writer& writer, const OdDbObject& object, const TemporaryName& variable);
+    Statement (*insert)(Writer& writer, const OdDbObject& object, const TemporaryName& variable);
     const Phrase& declare = declareEntity;
     const Phrase& erase = eraseEntity;
 };
 
 /// An insertion of objects of class T in the form that a row takes.
-template<class T, QString (*insertion)(Writer&, const T&, const TemporaryName&)>
-QString insertAs(Writer& writer, const OdDbObject& object, const TemporaryName& variable)
+template<class T, Statement (*insertion)(Writer&, const T&, const TemporaryName&)>
+Statement insertAs(Writer& writer, const OdDbObject& object, const TemporaryName& variable)
 {
     return insertion(writer, static_cast<const T&>(object), variable);
 }
 
-QString insertCircle(Writer& writer, const OdDbCircle& circle, const TemporaryName& variable)
+Statement insertCircle(Writer& writer, const OdDbCircle& circle, const TemporaryName& variable)
 {
     return EmitInsertCircle(writer, circle.center(), circle.radius(), variable.declared);
 }
 
-QString insertRegion(Writer& writer, const OdDbRegion& region, const TemporaryName& variable)
+Statement insertRegion(Writer& writer, const OdDbRegion& region, const TemporaryName& variable)
 {
     return EmitRegionBoundaryCurves(writer, variable.declared, region.explode());
 }
 
-QString insertTable(Writer& writer, const OdDbTable& table, const TemporaryName& variable)
+Statement insertTable(Writer& writer, const OdDbTable& table, const TemporaryName& variable)
 {
     const unsigned rows = table.numRows();
     const unsigned columns = table.numColumns();
@@ -117,7 +117,7 @@ QString insertTable(Writer& writer, const OdDbTable& table, const TemporaryName&
 }
 
 /// A plain block comes as an external reference too.
-QString insertBlock(Writer& writer, const OdDbBlockReference& reference, const TemporaryName& variable)
+Statement insertBlock(Writer& writer, const OdDbBlockReference& reference, const TemporaryName& variable)
 {
     const auto record = odrxCast<OdDbBlockTableRecord>(reference.blockTableRecord().openObject(true).get());
     CFxString block;
@@ -127,39 +127,39 @@ QString insertBlock(Writer& writer, const OdDbBlockReference& reference, const T
                                        variable.declared);
 }
 
-QString insertPolygonMesh(Writer& writer, const OdDbPolygonMesh& mesh, const TemporaryName& variable)
+Statement insertPolygonMesh(Writer& writer, const OdDbPolygonMesh& mesh, const TemporaryName& variable)
 {
     return EmitInsertPolygonMesh(writer, mesh.mSize(), mesh.nSize(), mesh.vertices(), variable.declared);
 }
 
-QString insertPolyFaceMesh(Writer& writer, const OdDbPolyFaceMesh& mesh, const TemporaryName& variable)
+Statement insertPolyFaceMesh(Writer& writer, const OdDbPolyFaceMesh& mesh, const TemporaryName& variable)
 {
     return EmitInsertPolyFaceMesh(writer, mesh.numVertices(), mesh.vertices(), mesh.faces(), variable.declared);
 }
 
-QString insertSolid(Writer& writer, const OdDbSolid& solid, const TemporaryName& variable)
+Statement insertSolid(Writer& writer, const OdDbSolid& solid, const TemporaryName& variable)
 {
     const OdArray<OdGePoint3d> corners{solid.getPointAt(0), solid.getPointAt(1), solid.getPointAt(2),
                                        solid.getPointAt(3)};
     return EmitInsertSolid(writer, corners, variable.declared);
 }
 
-QString insertPolyline3D(Writer& writer, const OdDb3dPolyline& polyline, const TemporaryName& variable)
+Statement insertPolyline3D(Writer& writer, const OdDb3dPolyline& polyline, const TemporaryName& variable)
 {
     return EmitInsertPolyline3D(writer, polyline.vertices(), polyline.isClosed(), variable.declared);
 }
 
-QString insertArc(Writer& writer, const OdDbArc& arc, const TemporaryName& variable)
+Statement insertArc(Writer& writer, const OdDbArc& arc, const TemporaryName& variable)
 {
     return EmitInsertArc(writer, arc.center(), arc.radius(), arc.startAngle(), arc.endAngle(), variable.declared);
 }
 
-QString insertPolyline(Writer& writer, const OdDbPolyline& polyline, const TemporaryName& variable)
+Statement insertPolyline(Writer& writer, const OdDbPolyline& polyline, const TemporaryName& variable)
 {
     OdArray<OdGePoint2d> points;
     for (unsigned i = 0; i < polyline.numVerts(); ++i)
         points.append(polyline.getPointAt(i));
-    QString text = EmitInsertPolyline2D(writer, points, polyline.isClosed(), variable.declared);
+    Statement text = EmitInsertPolyline2D(writer, points, polyline.isClosed(), variable.declared);
     for (unsigned i = 0; i < polyline.numVerts(); ++i)
         if (polyline.segType(i) == OdDbPolyline::kArc)
             text += EmitSetSegmentAngle(writer, variable.name, static_cast<std::int32_t>(i),
@@ -172,14 +172,14 @@ double length(const OdGeVector3d& vector)
     return std::sqrt(vector.x * vector.x + vector.y * vector.y + vector.z * vector.z);
 }
 
-QString insertWholeEllipse(Writer& writer, const OdDbEllipse& ellipse, const TemporaryName& variable)
+Statement insertWholeEllipse(Writer& writer, const OdDbEllipse& ellipse, const TemporaryName& variable)
 {
     return EmitInsertEllipse(writer, ellipse.center() + ellipse.majorAxis(), ellipse.center() - ellipse.majorAxis(),
                              length(ellipse.minorAxis()), variable.declared);
 }
 
 /// A whole ellipse whose end angle is a full turn is an arc here, other than on its way from the recording.
-QString insertEllipse(Writer& writer, const OdDbEllipse& ellipse, const TemporaryName& variable)
+Statement insertEllipse(Writer& writer, const OdDbEllipse& ellipse, const TemporaryName& variable)
 {
     if (ellipse.startAngle() == 0.0 && ellipse.endAngle() == 0.0)
         return insertWholeEllipse(writer, ellipse, variable);
@@ -188,12 +188,12 @@ QString insertEllipse(Writer& writer, const OdDbEllipse& ellipse, const Temporar
                                 variable.declared);
 }
 
-QString insertLine(Writer& writer, const OdDbLine& line, const TemporaryName& variable)
+Statement insertLine(Writer& writer, const OdDbLine& line, const TemporaryName& variable)
 {
     return EmitInsertLine(writer, line.startPoint(), line.endPoint(), variable.declared);
 }
 
-QString insertFace(Writer& writer, const OdDbFace& face, const TemporaryName& variable)
+Statement insertFace(Writer& writer, const OdDbFace& face, const TemporaryName& variable)
 {
     OdArray<OdGePoint3d> corners;
     std::array<bool, 4> visible{};
@@ -204,13 +204,13 @@ QString insertFace(Writer& writer, const OdDbFace& face, const TemporaryName& va
     return EmitInsertFace(writer, corners, visible, variable.declared);
 }
 
-QString insertRichLine(Writer& writer, const OdDbMline& line, const TemporaryName& variable)
+Statement insertRichLine(Writer& writer, const OdDbMline& line, const TemporaryName& variable)
 {
     return EmitInsertRichLine(writer, line.vertices(), line.justification(), line.scale(), line.plotStyleName(),
                               line.closedMline(), variable.declared);
 }
 
-QString insertLeader(Writer& writer, const OdDbLeader& leader, const TemporaryName& variable)
+Statement insertLeader(Writer& writer, const OdDbLeader& leader, const TemporaryName& variable)
 {
     CFxString content;
     if (leader.annoType() == OdDbLeader::kMText)
@@ -267,7 +267,7 @@ QString numbered(const TemporaryKind& kind, std::uint32_t number)
     return kind.stem + QString::number(number);
 }
 
-QString insertTemporary(Writer& writer, const TemporaryKind& kind, const OdDbObject& object, const QString& name)
+Statement insertTemporary(Writer& writer, const TemporaryKind& kind, const OdDbObject& object, const QString& name)
 {
     const QString declared = writer.target == Target::CSharp ? QLatin1String(kind.type) + (' ' + name) : name;
     return writer.fill(kind.declare).text(name).text(QLatin1String(kind.type)).str() +
@@ -280,7 +280,7 @@ const Fault kForeignNumber{"EmitInsertHatchByEntities: erasure of a region",
 
 /// Regions are erased by the present number of tables where their own should stand, in C++, C# and JavaScript. It has
 /// to stay so.
-QString eraseTemporary(Writer& writer, const TemporaryKind& kind, std::uint32_t number)
+Statement eraseTemporary(Writer& writer, const TemporaryKind& kind, std::uint32_t number)
 {
     const Target target = writer.target;
     Fill statement = writer.fill(kind.erase);
@@ -326,10 +326,10 @@ BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<Boundary
     return entities;
 }
 
-QString EmitRegionBoundaryCurves(Writer& writer, const CFxString& variable, const OdArray<OdDbObjectPtr>& pieces)
+Statement EmitRegionBoundaryCurves(Writer& writer, const CFxString& variable, const OdArray<OdDbObjectPtr>& pieces)
 {
     Counters& counters = processCounters.of(writer.target);
-    QString text;
+    Statement text;
     QStringList names;
     for (const OdDbObjectPtr& piece : pieces) {
         const TemporaryKind* const kind = kindOf(*piece, pieceKinds);

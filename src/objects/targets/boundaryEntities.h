@@ -16,12 +16,12 @@ struct BoundaryObject
 struct BoundaryEntities
 {
     std::vector<QString> names; ///< variables, in the order of the boundary
-    QString insertion;          ///< makes the temporary entities
-    QString erasure;            ///< takes them away again
+    Statement insertion;          ///< makes the temporary entities
+    Statement erasure; ///< takes them away again
 };
 
 /// Objects of kinds that no hatch is made from are left out, whether they have a variable or not.
 BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<BoundaryObject>& boundary);
 /// Makes the curves around a region and the region from them. Curves of other kinds than circle, ellipse, arc and line
 /// are left out. The curves stay in the drawing.
-QString EmitRegionBoundaryCurves(Writer& writer, const CFxString& variable, const OdArray<OdDbObjectPtr>& pieces);
+Statement EmitRegionBoundaryCurves(Writer& writer, const CFxString& variable, const OdArray<OdDbObjectPtr>& pieces);

@@ -58,7 +58,7 @@ namespace {
 struct Clip
 {
     QString name;
-    QString creation;
+    Statement creation;
 };
 
 Clip clipByPolyline(Writer& writer, const Phrase& phrase, const Coordinates& coordinates, bool closed)
@@ -83,15 +83,14 @@ Clip clipByPolyline(Writer& writer, const Phrase& phrase, const Coordinates& coo
 template<class Insert>
 Clip clipByCurve(Writer& writer, const char* type, const QString& name, const Insert& insert)
 {
-    QString creation;
+    Statement creation;
     if (writer.target == Target::CSharp)
         creation = insert(type + (' ' + name));
     else if (writer.target == Target::JavaScript)
         creation = insert(name);
     else
         creation = EmitDeclareObject(writer, type, name) + insert(name);
-    creation.remove(0, writer.indentation().size());
-    creation.chop(LineEnd.size());
+    creation.cut(writer.indentation().size(), LineEnd.size());
     return {name, creation};
 }
 
@@ -161,7 +160,7 @@ static const Phrase insertViewport{
                "%1     Set %4 = sheetsArray%3.InsertViewportByEntity(%7)%2%1End If%2",
     }};
 
-QString EmitInsertViewportByEntity(Writer& writer, const CFxString& sheet, const OdDbObjectPtr& clip,
+Statement EmitInsertViewportByEntity(Writer& writer, const CFxString& sheet, const OdDbObjectPtr& clip,
                                    const QString& variable, const CFxString& name)
 {
     const std::uint32_t number = ++writer.UniqueCounter;

@@ -7,5 +7,5 @@
 bool CanMakeClip(const OdDbObject* entity);
 /// A viewport on the sheet that an entity bounds. `variable` is what the macro has for the entity; when it has none, a
 /// circle, polyline or ellipse is drawn like it. `clip` may be null.
-QString EmitInsertViewportByEntity(Writer& writer, const CFxString& sheet, const OdDbObjectPtr& clip,
+Statement EmitInsertViewportByEntity(Writer& writer, const CFxString& sheet, const OdDbObjectPtr& clip,
                                    const QString& variable, const CFxString& name);

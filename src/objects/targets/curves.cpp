@@ -14,7 +14,7 @@ static const Phrase insertLine{"EmitInsertLine",
                                    .vba = "%1Set %9 = iwSketchManager.InsertLine( %3, %4, %5, %6, %7, %8 )%2",
                                }};
 
-QString EmitInsertLine(Writer& writer, const OdGePoint3d& start, const OdGePoint3d& end, const CFxString& name)
+Statement EmitInsertLine(Writer& writer, const OdGePoint3d& start, const OdGePoint3d& end, const CFxString& name)
 {
     return writer.fill(insertLine).point(start).point(end).text(name);
 }
@@ -29,7 +29,7 @@ static const Phrase insertCircle{"EmitInsertCircle",
                                      .vba = "%1Set %7 = iwSketchManager.InsertCircle( %3, %4, %5, %6 )%2",
                                  }};
 
-QString EmitInsertCircle(Writer& writer, const OdGePoint3d& center, double radius, const CFxString& name)
+Statement EmitInsertCircle(Writer& writer, const OdGePoint3d& center, double radius, const CFxString& name)
 {
     return writer.fill(insertCircle).point(center).real(radius).text(name);
 }
@@ -44,7 +44,7 @@ static const Phrase insertPoint{"EmitInsertPoint",
                                     .vba = "%1Set %6 = iwSketchManager.InsertPoint( %3, %4, %5 )%2",
                                 }};
 
-QString EmitInsertPoint(Writer& writer, const OdGePoint3d& position, const CFxString& name)
+Statement EmitInsertPoint(Writer& writer, const OdGePoint3d& position, const CFxString& name)
 {
     return writer.fill(insertPoint).point(position).text(name);
 }
@@ -59,7 +59,7 @@ static const Phrase insertRay{"EmitInsertRay",
                                   .vba = "%1Set %9 = iwSketchManager.InsertRay( %3, %4, %5, %6, %7, %8 )%2",
                               }};
 
-QString EmitInsertRay(Writer& writer, const OdGePoint3d& base, const OdGePoint3d& second, const CFxString& name)
+Statement EmitInsertRay(Writer& writer, const OdGePoint3d& base, const OdGePoint3d& second, const CFxString& name)
 {
     return writer.fill(insertRay).point(base).point(second).text(name);
 }
@@ -74,7 +74,7 @@ static const Phrase insertArc{"EmitInsertArc",
                                   .vba = "%1Set %9 = iwSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 )%2",
                               }};
 
-QString EmitInsertArc(Writer& writer, const OdGePoint3d& center, double radius, double startAngle, double endAngle,
+Statement EmitInsertArc(Writer& writer, const OdGePoint3d& center, double radius, double startAngle, double endAngle,
                       const CFxString& name)
 {
     return writer.fill(insertArc).point(center).real(radius).real(startAngle).real(endAngle).text(name);
@@ -91,7 +91,7 @@ static const Phrase insertInfiniteLine{
         .vba = "%1Set %9 = iwSketchManager.InsertInfiniteLine( %3, %4, %5, %6, %7, %8 )%2",
     }};
 
-QString EmitInsertInfiniteLine(Writer& writer, const OdGePoint3d& base, const OdGePoint3d& second,
+Statement EmitInsertInfiniteLine(Writer& writer, const OdGePoint3d& base, const OdGePoint3d& second,
                                const CFxString& name)
 {
     return writer.fill(insertInfiniteLine).point(base).point(second).text(name);
@@ -108,7 +108,7 @@ static const Phrase insertEllipseArc{
         .vba = "%1Set %10 = iwSketchManager.InsertEllipseArcDistanceToOtherAxis( %3, %4, %5, %6, %7, %8, %9 )%2",
     }};
 
-QString EmitInsertEllipseArc(Writer& writer, const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
+Statement EmitInsertEllipseArc(Writer& writer, const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
                              double otherAxisDistance, double startAngle, double endAngle, const CFxString& name)
 {
     return writer.fill(insertEllipseArc)
@@ -133,7 +133,7 @@ static const Phrase insertEllipse{
         .vba = "%1Set %8 = iwSketchManager.InsertEllipseDistanceToOtherAxis( %3, %4, %5, %6, %7 )%2",
     }};
 
-QString EmitInsertEllipse(Writer& writer, const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
+Statement EmitInsertEllipse(Writer& writer, const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
                           double otherAxisDistance, const CFxString& name)
 {
     return writer.fill(insertEllipse)

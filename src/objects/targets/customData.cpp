@@ -110,7 +110,7 @@ static const Phrase setData{"EmitCustomData",
                                 .vba = "%1 %3.SetCustomData \"%4\", %5%2",
                             }};
 
-static QString insertElement(Writer& writer, const OdResBuf& element)
+static Statement insertElement(Writer& writer, const OdResBuf& element)
 {
     switch (element.restype()) {
     case kDistance:
@@ -124,15 +124,15 @@ static QString insertElement(Writer& writer, const OdResBuf& element)
     }
 }
 
-QString EmitCustomData(Writer& writer, const CFxString& variable, const OdResBufPtr& data)
+Statement EmitCustomData(Writer& writer, const CFxString& variable, const OdResBufPtr& data)
 {
     const QLatin1String application(cloudApplication);
-    QString text = writer.fill(declareData).text(customDataVariable).str() +
+    Statement text = writer.fill(declareData).text(customDataVariable).str() +
                    writer.fill(getData).text(variable).text(customDataVariable).text(application).str() +
                    writer.fill(emptyData).text(customDataVariable).str() + writer.fill(declareCount).str();
-    const QString count = writer.fill(getCount).text(customDataVariable);
+    const Statement count = writer.fill(getCount).text(customDataVariable);
     for (OdResBufPtr element = data; element; element = element->next())
-        if (const QString insertion = insertElement(writer, *element); !insertion.isEmpty())
+        if (const Statement insertion = insertElement(writer, *element); !insertion.isEmpty())
             text += count + insertion;
     return text + writer.fill(setData).text(variable).text(application).text(customDataVariable).str();
 }

@@ -7,4 +7,4 @@
 inline constexpr char cloudApplication[] = "PE_CLOUD";
 
 /// Puts the data of that application to the object. Elements other than texts, points and numbers are left out.
-QString EmitCustomData(Writer& writer, const CFxString& variable, const OdResBufPtr& data);
+Statement EmitCustomData(Writer& writer, const CFxString& variable, const OdResBufPtr& data);

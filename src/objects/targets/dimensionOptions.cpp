@@ -18,7 +18,7 @@ static const Phrase getOptions{"EmitGetOptions",
                                    .vba = "%1Dim %3 As Inkwright.%5%2%1Set %3 = %4.Get%5()%2",
                                }};
 
-QString EmitGetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, CFxString& options)
+Statement EmitGetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, CFxString& options)
 {
     options = object.stem + QString::number(++writer.UniqueCounter);
     const QLatin1String library(object.qualified ? "Inkwright." : "");
@@ -35,7 +35,7 @@ static const Phrase setOptions{"EmitSetOptions",
                                    .vba = "%1%3.Set%5 %4%2",
                                }};
 
-QString EmitSetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, const CFxString& options)
+Statement EmitSetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, const CFxString& options)
 {
     return writer.fill(setOptions).text(owner).text(options).text(QLatin1String(object.hostWord));
 }
@@ -51,7 +51,7 @@ static const Phrase setArrow{"EmitSetArrow",
                                  .vba = "%1%3.%4 %5, \"%6\"%2",
                              }};
 
-QString EmitSetArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
+Statement EmitSetArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
                      const CFxString& name)
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionArrowType, arrow);
@@ -82,7 +82,7 @@ static const Phrase setStyleArrow{
     }};
 static const Mend bstrArrowName(setStyleArrow, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
-QString EmitSetStyleArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
+Statement EmitSetStyleArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
                           const CFxString& name)
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionArrowType, arrow);
@@ -99,7 +99,7 @@ static const Phrase setDimensionScale{"EmitSetDimensionScale",
                                           .vba = "%1%3.%4 %5, %6%2",
                                       }};
 
-QString EmitSetDimensionScale(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t scale,
+Statement EmitSetDimensionScale(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t scale,
                               double factor)
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionScale, scale);
@@ -116,7 +116,7 @@ static const Phrase setFixedLength{"EmitSetExtensionLineFixedLength",
                                        .vba = "%1%3.SetExtensionLineFixedLength %4, %5%2",
                                    }};
 
-QString EmitSetExtensionLineFixedLength(Writer& writer, const CFxString& target, bool fixed, double length)
+Statement EmitSetExtensionLineFixedLength(Writer& writer, const CFxString& target, bool fixed, double length)
 {
     return writer.fill(setFixedLength).text(target).text(truthWord(writer.target, fixed)).real(length);
 }
@@ -167,7 +167,7 @@ static const Phrase setCenterMark{"EmitSetCenterMark",
                                       .vba = "%1%3.%4 CenterMarkDisplay%5, markSize%5%2",
                                   }};
 
-static QString changeCenterMark(Writer& writer, const CFxString& target, const CFxString& operation,
+static Statement changeCenterMark(Writer& writer, const CFxString& target, const CFxString& operation,
                                 const Phrase& change, const QString& value)
 {
     const std::uint32_t suffix = ++writer.UniqueCounter;
@@ -176,13 +176,13 @@ static QString changeCenterMark(Writer& writer, const CFxString& target, const C
            writer.fill(setCenterMark).text(target).text(operation).number(suffix).str();
 }
 
-QString EmitSetCenterMarkKind(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind)
+Statement EmitSetCenterMarkKind(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind)
 {
     return changeCenterMark(writer, target, operation, changeCenterMarkKind,
                             EnumeratorByValue(writer.target, enums::dimensionCenterMarkDisplay, kind));
 }
 
-QString EmitSetCenterMarkSize(Writer& writer, const CFxString& target, const CFxString& operation, double size)
+Statement EmitSetCenterMarkSize(Writer& writer, const CFxString& target, const CFxString& operation, double size)
 {
     return changeCenterMark(writer, target, operation, changeCenterMarkSize, FormatLong(size));
 }
@@ -200,7 +200,7 @@ static const Phrase setStyleCenterMark{"EmitSetStyleEnumPair",
 static const Mend centerMarkOperation(setStyleCenterMark, Target::Cpp,
                                       "an operation is called as if it were a property", "%1%3->%4(%5, %6);%2");
 
-QString EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind,
+Statement EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind,
                                double size)
 {
     const QString word = EnumeratorByValue(writer.target, enums::dimensionCenterMarkDisplay, kind);

@@ -61,22 +61,22 @@ inline constexpr OptionObject text{&userData, "DimensionStyleTextOptions", "text
 inline constexpr OptionObject curvedTextSettings{nullptr, "CurvedSettings", "curvedSettings", false, true};
 
 /// Fetches the object from the variable `owner` and gives its variable.
-QString EmitGetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, CFxString& options);
+Statement EmitGetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, CFxString& options);
 /// Hands the object in the variable `options` back to its owner.
-QString EmitSetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, const CFxString& options);
+Statement EmitSetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, const CFxString& options);
 /// `arrow` is the drawing's number of a kind of arrow, `name` the block of one that is of one's own.
-QString EmitSetArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
+Statement EmitSetArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
                      const CFxString& name);
-QString EmitSetStyleArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
+Statement EmitSetStyleArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
                           const CFxString& name);
 /// `scale` is the drawing's number: 1 for the factor given, 2 for the scale of the sheet.
-QString EmitSetDimensionScale(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t scale,
+Statement EmitSetDimensionScale(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t scale,
                               double factor);
-QString EmitSetExtensionLineFixedLength(Writer& writer, const CFxString& target, bool fixed, double length);
+Statement EmitSetExtensionLineFixedLength(Writer& writer, const CFxString& target, bool fixed, double length);
 
 // The host sets the kind of a center mark, a number of the drawing's, and its size together. On a dimension the
 // generated program reads both, changes the one and writes them back.
-QString EmitSetCenterMarkKind(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind);
-QString EmitSetCenterMarkSize(Writer& writer, const CFxString& target, const CFxString& operation, double size);
-QString EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind,
+Statement EmitSetCenterMarkKind(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind);
+Statement EmitSetCenterMarkSize(Writer& writer, const CFxString& target, const CFxString& operation, double size);
+Statement EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind,
                                double size);

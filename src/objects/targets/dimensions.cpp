@@ -28,13 +28,13 @@ static const Fault kUndeclaredPoints{
     "EmitInsertAlignedDimension", {Target::JavaScript}, "the arrays of the dimension's points are not declared"};
 
 /// A page fills its arrays in front of the call, which names them by the number that all have.
-static QString insertInPage(Writer& writer, const PointDimension& kind, const std::vector<OdGePoint3d>& points,
-                            const CFxString& text, const std::optional<QString>& last, const CFxString& name)
+static Statement insertInPage(Writer& writer, const PointDimension& kind, const std::vector<OdGePoint3d>& points,
+                            const CFxString& text, const std::optional<Statement>& last, const CFxString& name)
 {
     static const Template assigned("%1%0%3 = new Array(%4, %5, %6);%2");
     static const Template declared("%1var %0%3 = new Array(%4, %5, %6);%2");
     const std::uint32_t number = ++writer.UniqueCounter;
-    QString statements;
+    Statement statements;
     for (std::size_t i = 0; i < points.size(); ++i)
         statements += Fill(writer.repairs ? &declared : &assigned)
                           .text(QLatin1String(kind.scriptArrays[i]))
@@ -51,8 +51,8 @@ static QString insertInPage(Writer& writer, const PointDimension& kind, const st
 }
 
 /// `last` is the argument behind the text, where the call takes one more.
-static QString insertOnPoints(Writer& writer, const PointDimension& kind, const std::vector<OdGePoint3d>& points,
-                              const CFxString& text, const std::optional<QString>& last, const CFxString& name)
+static Statement insertOnPoints(Writer& writer, const PointDimension& kind, const std::vector<OdGePoint3d>& points,
+                              const CFxString& text, const std::optional<Statement>& last, const CFxString& name)
 {
     if (writer.target == Target::JavaScript)
         return insertInPage(writer, kind, points, text, last, name);
@@ -104,7 +104,7 @@ static const Phrase insertAlignedDimension{
                "dimLinePoint%13, \"%12\" )%2",
     }};
 
-QString EmitInsertAlignedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
+Statement EmitInsertAlignedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
                                    const OdGePoint3d& dimensionLine, const CFxString& text, const CFxString& name)
 {
     static const PointDimension kind{insertAlignedDimension, {"ExtLineOne", "ExtLineTwo", "DimLine"}};
@@ -149,7 +149,7 @@ static const Phrase insertAngularDimension3Point{
                "extLine1Point_3Point%16, extLine2Point_3Point%16, dimPositionPoint_3Point%16, \"%15\" )%2",
     }};
 
-QString EmitInsertAngularDimension3Point(Writer& writer, const OdGePoint3d& center, const OdGePoint3d& first,
+Statement EmitInsertAngularDimension3Point(Writer& writer, const OdGePoint3d& center, const OdGePoint3d& first,
                                          const OdGePoint3d& second, const OdGePoint3d& arcPoint, const CFxString& text,
                                          const CFxString& name)
 {
@@ -183,7 +183,7 @@ static const Phrase insertOrdinateDimension{
                "\"%9\", %10 )%2",
     }};
 
-QString EmitInsertOrdinateDimension(Writer& writer, const OdGePoint3d& point, const OdGePoint3d& leaderEnd,
+Statement EmitInsertOrdinateDimension(Writer& writer, const OdGePoint3d& point, const OdGePoint3d& leaderEnd,
                                     bool usesXAxis, const CFxString& text, const CFxString& name)
 {
     static const PointDimension kind{insertOrdinateDimension, {"ExtLineOne", "ExtLineTwo"}};
@@ -225,7 +225,7 @@ static const Phrase insertRotatedDimension{
                "dimLinePoint_Rot%14, \"%12\", %13 )%2",
     }};
 
-QString EmitInsertRotatedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
+Statement EmitInsertRotatedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
                                    const OdGePoint3d& dimensionLine, double rotation, const CFxString& text,
                                    const CFxString& name)
 {
@@ -233,7 +233,7 @@ QString EmitInsertRotatedDimension(Writer& writer, const OdGePoint3d& first, con
     const bool isShort = writer.target == Target::Cpp;
     const bool rounded = isShort && losesDigits(rotation);
     const QString number = isShort && !(rounded && writer.repairs) ? FormatShort(rotation) : FormatLong(rotation);
-    const QString angle = rounded ? writer.faulty(number, kSixDigits) : number;
+    const Statement angle = rounded ? writer.faulty(number, kSixDigits) : Statement(number);
     return insertOnPoints(writer, kind, {first, second, dimensionLine}, text, angle, name);
 }
 
@@ -288,7 +288,7 @@ bool MeasuresFromVariables(const Writer& writer)
 }
 
 /// Draws both lines in the block of the dimension.
-static QString insertWithOwnLines(Writer& writer, const DimensionLine& first, const DimensionLine& second,
+static Statement insertWithOwnLines(Writer& writer, const DimensionLine& first, const DimensionLine& second,
                                   const OdGePoint3d& arcPoint, const CFxString& text, const CFxString& name)
 {
     Fill insertion = writer.fill(insertAngularDimension2Line);
@@ -296,14 +296,14 @@ static QString insertWithOwnLines(Writer& writer, const DimensionLine& first, co
     return insertion.point(first.start).point(first.end).point(second.start).point(second.end).text(text).text(name);
 }
 
-QString EmitInsertAngularDimension2Line(Writer& writer, const DimensionLine& first, const DimensionLine& second,
+Statement EmitInsertAngularDimension2Line(Writer& writer, const DimensionLine& first, const DimensionLine& second,
                                         const OdGePoint3d& arcPoint, const CFxString& text, const CFxString& name)
 {
     if (!MeasuresFromVariables(writer))
         return insertWithOwnLines(writer, first, second, arcPoint, text, name);
 
-    QString creation;
-    QString erasure;
+    Statement creation;
+    Statement erasure;
     const auto nameOf = [&](const DimensionLine& line, const char* suffix) {
         if (!line.variable.isEmpty())
             return line.variable;

@@ -5,16 +5,16 @@
 
 // Dimensions between points and between lines. `text` stands in place of the measured value, its backslashes doubled.
 
-QString EmitInsertAlignedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
+Statement EmitInsertAlignedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
                                    const OdGePoint3d& dimensionLine, const CFxString& text, const CFxString& name);
-QString EmitInsertAngularDimension3Point(Writer& writer, const OdGePoint3d& center, const OdGePoint3d& first,
+Statement EmitInsertAngularDimension3Point(Writer& writer, const OdGePoint3d& center, const OdGePoint3d& first,
                                          const OdGePoint3d& second, const OdGePoint3d& arcPoint, const CFxString& text,
                                          const CFxString& name);
 /// Shows the X coordinate of the point, or else Y.
-QString EmitInsertOrdinateDimension(Writer& writer, const OdGePoint3d& point, const OdGePoint3d& leaderEnd,
+Statement EmitInsertOrdinateDimension(Writer& writer, const OdGePoint3d& point, const OdGePoint3d& leaderEnd,
                                     bool usesXAxis, const CFxString& text, const CFxString& name);
 /// `rotation` of the dimension line is in radians.
-QString EmitInsertRotatedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
+Statement EmitInsertRotatedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
                                    const OdGePoint3d& dimensionLine, double rotation, const CFxString& text,
                                    const CFxString& name);
 
@@ -29,5 +29,5 @@ struct DimensionLine
 
 /// Whether the target measures from lines of the drawing. The others draw both lines anew and leave them there.
 bool MeasuresFromVariables(const Writer& writer);
-QString EmitInsertAngularDimension2Line(Writer& writer, const DimensionLine& first, const DimensionLine& second,
+Statement EmitInsertAngularDimension2Line(Writer& writer, const DimensionLine& first, const DimensionLine& second,
                                         const OdGePoint3d& arcPoint, const CFxString& text, const CFxString& name);

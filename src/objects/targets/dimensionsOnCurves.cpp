@@ -57,7 +57,7 @@ QString temporaryName(const CurveDimension& kind, const CFxString& name)
 
 } // namespace
 
-static QString insertOnCurve(Writer& writer, const CurveDimension& kind, const MeasuredCurve& curve,
+static Statement insertOnCurve(Writer& writer, const CurveDimension& kind, const MeasuredCurve& curve,
                              const std::vector<OdGePoint3d>& points, const CFxString& text, const CFxString& name)
 {
     const Target target = writer.target;
@@ -144,7 +144,7 @@ static const Mend dimensionHandedOver(
     "%1    dimPositionPoint.add(%10); dimPositionPoint.add(%11); dimPositionPoint.add(%12);%2"
     "%1    iwSketchManager->%0( %3, dimPositionPoint, L\"%13\", &%14 );%2%1    %3->put_Erased(true);%2%1}%2");
 
-QString EmitInsertAngularDimensionArc(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& arcPoint,
+Statement EmitInsertAngularDimensionArc(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& arcPoint,
                                       const CFxString& text, const CFxString& name)
 {
     static const CurveDimension kind{"InsertAngularDimensionArc", Shape::Arc, "_Arc", angularOnArc,
@@ -250,7 +250,7 @@ static const Phrase partialLengthOfTemporaryArc{
                "\"%19\" )%2%1%3.Erased = True%2",
     }};
 
-QString EmitInsertArcLengthDimension(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& first,
+Statement EmitInsertArcLengthDimension(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& first,
                                      const OdGePoint3d& second, bool partial, const OdGePoint3d& arcPoint,
                                      const CFxString& text, const CFxString& name)
 {
@@ -322,7 +322,7 @@ static const Phrase radialOnTemporaryArc{
     }};
 
 /// One of the two, after the class of the curve.
-static QString insertRadial(Writer& writer, const CurveDimension& onCircle, const CurveDimension& onArc,
+static Statement insertRadial(Writer& writer, const CurveDimension& onCircle, const CurveDimension& onArc,
                             const MeasuredCurve& curve, const std::vector<OdGePoint3d>& points, const CFxString& text,
                             const CFxString& name)
 {
@@ -333,7 +333,7 @@ static QString insertRadial(Writer& writer, const CurveDimension& onCircle, cons
     return {};
 }
 
-QString EmitInsertDiameterDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
+Statement EmitInsertDiameterDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
                                     const CFxString& text, const CFxString& name)
 {
     static const CurveDimension onCircle{"InsertDiameterDimensionCircle", Shape::Circle, "_Dia", radialOnCurve,
@@ -343,7 +343,7 @@ QString EmitInsertDiameterDimension(Writer& writer, const MeasuredCurve& curve, 
     return insertRadial(writer, onCircle, onArc, curve, {chordPoint}, text, name);
 }
 
-QString EmitInsertRadialDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
+Statement EmitInsertRadialDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
                                   const CFxString& text, const CFxString& name)
 {
     static const CurveDimension onCircle{"InsertRadialDimensionCircle", Shape::Circle, "_Rad", radialOnCurve,
@@ -446,7 +446,7 @@ static const Phrase joggedOnTemporaryArc{
                "%1%3.Erased = True%2",
     }};
 
-QString EmitInsertJoggedDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& centerOverride,
+Statement EmitInsertJoggedDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& centerOverride,
                                   const OdGePoint3d& jog, const OdGePoint3d& position, const CFxString& text,
                                   const CFxString& name)
 {

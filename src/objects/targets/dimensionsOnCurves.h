@@ -15,19 +15,19 @@ struct MeasuredCurve
 
 // On arcs. Each raises OdError_NotThatKindOfClass when it has to make a curve like an object that is no arc.
 
-QString EmitInsertAngularDimensionArc(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& arcPoint,
+Statement EmitInsertAngularDimensionArc(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& arcPoint,
                                       const CFxString& text, const CFxString& name);
 /// A partial one measures from the first point to the second.
-QString EmitInsertArcLengthDimension(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& first,
+Statement EmitInsertArcLengthDimension(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& first,
                                      const OdGePoint3d& second, bool partial, const OdGePoint3d& arcPoint,
                                      const CFxString& text, const CFxString& name);
 
 // On circles and arcs; empty on anything else.
 
-QString EmitInsertDiameterDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
+Statement EmitInsertDiameterDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
                                     const CFxString& text, const CFxString& name);
-QString EmitInsertRadialDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
+Statement EmitInsertRadialDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
                                   const CFxString& text, const CFxString& name);
-QString EmitInsertJoggedDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& centerOverride,
+Statement EmitInsertJoggedDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& centerOverride,
                                   const OdGePoint3d& jog, const OdGePoint3d& position, const CFxString& text,
                                   const CFxString& name);

@@ -45,9 +45,9 @@ static std::vector<QString> elementWords(Target target, std::vector<QString> nam
     return names;
 }
 
-static QString entityArray(Writer& writer, const std::vector<QString>& names)
+static Statement entityArray(Writer& writer, const std::vector<QString>& names)
 {
-    const QString lines =
+    const Statement lines =
         objectLines({writer, QStringLiteral("iwEntities"), 0, Brackets::Tight}, elementWords(writer.target, names));
     if (writer.target == Target::CSharp || writer.target == Target::JavaScript)
         return writer.fillPlain(entitiesHead).number(qulonglong{names.size()}).indent(writer.IndentLevel).str() +
@@ -55,11 +55,11 @@ static QString entityArray(Writer& writer, const std::vector<QString>& names)
     return writer.fill(entitiesHead).number(arrayBound(writer, names.size())).str() + lines;
 }
 
-static QString comInsertionByEntities(Writer& writer, const CFxString& hatch, const std::vector<QString>& names,
+static Statement comInsertionByEntities(Writer& writer, const CFxString& hatch, const std::vector<QString>& names,
                                       const HatchPattern& pattern)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
-    const QString lines = objectLines({writer, "EntityArray" + QString::number(number), number}, names);
+    const Statement lines = objectLines({writer, "EntityArray" + QString::number(number), number}, names);
     return writer.fill(insertByEntities)
         .number(number)
         .text(lines)
@@ -70,13 +70,13 @@ static QString comInsertionByEntities(Writer& writer, const CFxString& hatch, co
         .number(qulonglong{names.size()});
 }
 
-QString EmitInsertHatchByEntities(Writer& writer, const CFxString& hatch, const std::vector<BoundaryObject>& boundary,
+Statement EmitInsertHatchByEntities(Writer& writer, const CFxString& hatch, const std::vector<BoundaryObject>& boundary,
                                   const HatchPattern& pattern, bool erase)
 {
     const BoundaryEntities entities = EmitBoundaryEntities(writer, boundary);
     const bool erased = erase && !entities.erasure.isEmpty();
     const QString separator = erased ? QString(LineEnd) : QString();
-    const QString ending = erased ? entities.erasure + LineEnd : QString();
+    const Statement ending = erased ? entities.erasure + LineEnd : Statement();
     if (writer.target == Target::CppCom)
         return entities.insertion + separator + comInsertionByEntities(writer, hatch, entities.names, pattern) + ending;
 
@@ -145,7 +145,7 @@ static void openLoops(Fill& call, const ArrayArgument& points, const ArrayArgume
     }
 }
 
-QString EmitInsertHatchByBoundary(Writer& writer, const CFxString& hatch, const OdArray<int>& counts,
+Statement EmitInsertHatchByBoundary(Writer& writer, const CFxString& hatch, const OdArray<int>& counts,
                                   const OdArray<OdGePoint2d>& points, const HatchPattern& pattern)
 {
     const ArrayArgument coordinates =
@@ -175,7 +175,7 @@ static const Phrase insertByInternalPoints{
                "%1Set %9 = iwSketchManager.InsertHatchByInternalPoints( Coordinates%3, \"%6\", %7, %8 )%2",
     }};
 
-QString EmitInsertHatchByInternalPoints(Writer& writer, const CFxString& hatch, const OdArray<OdGePoint2d>& points,
+Statement EmitInsertHatchByInternalPoints(Writer& writer, const CFxString& hatch, const OdArray<OdGePoint2d>& points,
                                         const HatchPattern& pattern)
 {
     const ArrayArgument coordinates =

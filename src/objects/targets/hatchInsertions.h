@@ -5,10 +5,10 @@
 
 /// Objects of the boundary that the macro has no variable for are made first. With `erase` these do not outlive the
 /// insertion; the others stay in any case.
-QString EmitInsertHatchByEntities(Writer& writer, const CFxString& hatch, const std::vector<BoundaryObject>& boundary,
+Statement EmitInsertHatchByEntities(Writer& writer, const CFxString& hatch, const std::vector<BoundaryObject>& boundary,
                                   const HatchPattern& pattern, bool erase);
 /// `counts` tells how many of the points belong to each loop.
-QString EmitInsertHatchByBoundary(Writer& writer, const CFxString& hatch, const OdArray<int>& counts,
+Statement EmitInsertHatchByBoundary(Writer& writer, const CFxString& hatch, const OdArray<int>& counts,
                                   const OdArray<OdGePoint2d>& points, const HatchPattern& pattern);
-QString EmitInsertHatchByInternalPoints(Writer& writer, const CFxString& hatch, const OdArray<OdGePoint2d>& points,
+Statement EmitInsertHatchByInternalPoints(Writer& writer, const CFxString& hatch, const OdArray<OdGePoint2d>& points,
                                         const HatchPattern& pattern);

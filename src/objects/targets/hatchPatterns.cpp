@@ -21,7 +21,7 @@ static const Phrase getHatchPattern{"EmitGetHatchPattern",
                                         .vba = "%1Dim %3 As Inkwright.HatchPattern%2%1Set %3 = %4.GetHatchPattern()%2",
                                     }};
 
-QString EmitGetHatchPattern(Writer& writer, const CFxString& hatch, CFxString& pattern)
+Statement EmitGetHatchPattern(Writer& writer, const CFxString& hatch, CFxString& pattern)
 {
     switch (writer.target) {
     case Target::Cpp:
@@ -51,7 +51,7 @@ static const Phrase setRegionDetection{"EmitHatchRegionDetection",
                                            .vba = "%2%1%3.InternalRegionDetection = %4%2",
                                        }};
 
-QString EmitHatchRegionDetection(Writer& writer, const CFxString& pattern, std::int32_t code)
+Statement EmitHatchRegionDetection(Writer& writer, const CFxString& pattern, std::int32_t code)
 {
     const QString way = EnumeratorByValue(writer.target, enums::hatchPatternInternalRegionDetection, code);
     return writer.fill(setRegionDetection).text(pattern).text(way);
@@ -177,7 +177,7 @@ const DataLocals& dataLocals(Target target)
 }
 
 /// The pattern in front of the locals, in C# behind them.
-QString callWithData(Writer& writer, const Phrase& phrase, const CFxString& pattern)
+Statement callWithData(Writer& writer, const Phrase& phrase, const CFxString& pattern)
 {
     Fill call = writer.fill(phrase);
     if (writer.target != Target::CSharp)
@@ -189,7 +189,7 @@ QString callWithData(Writer& writer, const Phrase& phrase, const CFxString& patt
 
 /// One assignment to a local, or in JavaScript to a member of the object that has that number.
 template<class Value>
-QString assign(Writer& writer, const Phrase& phrase, DataLocal local, std::uint32_t number, const Value& putValue)
+Statement assign(Writer& writer, const Phrase& phrase, DataLocal local, std::uint32_t number, const Value& putValue)
 {
     Fill assignment = writer.fill(phrase);
     if (writer.target != Target::CSharp && writer.target != Target::JavaScript)
@@ -210,7 +210,7 @@ bool knowsPredefined(const Writer& writer)
            writer.target == Target::JavaScript;
 }
 
-QString patternTypeWord(const Writer& writer, const CFxString& word)
+Statement patternTypeWord(const Writer& writer, const CFxString& word)
 {
     QString type = QStringLiteral("UserDefined");
     if (word.equalNoCase("Custom"))
@@ -220,17 +220,17 @@ QString patternTypeWord(const Writer& writer, const CFxString& word)
     return enumeratorText(writer.target, "iwHatchPatternType_e", "iwHatchPatternType_" + type);
 }
 
-QString assignData(Writer& writer, const HatchPatternChange& change, std::uint32_t number)
+Statement assignData(Writer& writer, const HatchPatternChange& change, std::uint32_t number)
 {
     const auto assignReal = [&](const Phrase& phrase, DataLocal local, const std::optional<double>& value) {
-        return value ? assign(writer, phrase, local, number, [&](Fill& fill) { fill.real(*value); }) : QString();
+        return value ? assign(writer, phrase, local, number, [&](Fill& fill) { fill.real(*value); }) : Statement();
     };
-    QString text = assignReal(assignAngle, kAngle, change.angle) + assignReal(assignScale, kScale, change.scale) +
+    Statement text = assignReal(assignAngle, kAngle, change.angle) + assignReal(assignScale, kScale, change.scale) +
                    assignReal(assignSpacing, kSpacing, change.spacing);
     if (change.name)
         text += assign(writer, assignPatternName, kPatternName, number, [&](Fill& fill) { fill.text(*change.name); });
     if (change.type) {
-        const QString type = assign(writer, assignPatternType, kPatternType, number,
+        const Statement type = assign(writer, assignPatternType, kPatternType, number,
                                     [&](Fill& fill) { fill.text(patternTypeWord(writer, *change.type)); });
         const bool misread = !knowsPredefined(writer) && change.type->equalNoCase("Predefined");
         text += misread ? writer.faulty(type, kPredefinedPattern) : type;
@@ -240,7 +240,7 @@ QString assignData(Writer& writer, const HatchPatternChange& change, std::uint32
 
 } // namespace
 
-QString EmitSetHatchData(Writer& writer, const CFxString& pattern, const HatchPatternChange& change)
+Statement EmitSetHatchData(Writer& writer, const CFxString& pattern, const HatchPatternChange& change)
 {
     if (writer.target == Target::JavaScript) {
         const std::uint32_t number = ++writer.UniqueCounter;
@@ -355,7 +355,7 @@ static const Phrase putGradientData{
     }};
 
 /// `local` is of C++ alone.
-static QString changeColor(Writer& writer, const Phrase& assignment, const char* local, const OdCmColor& color,
+static Statement changeColor(Writer& writer, const Phrase& assignment, const char* local, const OdCmColor& color,
                            std::uint32_t number)
 {
     const OdCmColor plain = gradientColor(writer, color);
@@ -364,13 +364,13 @@ static QString changeColor(Writer& writer, const Phrase& assignment, const char*
         text.number(plain.colorIndex());
     else
         text.number(plain.red()).number(plain.green()).number(plain.blue());
-    const QString change = writer.target == Target::Cpp
+    const Statement change = writer.target == Target::Cpp
                                ? text.indent(writer.IndentLevel).text(QLatin1String(local)).str()
                                : writer.fill(assignment).text(text.str()).number(number).str();
     return notingBlack(writer, change, color);
 }
 
-QString EmitHatchGradientData(Writer& writer, const CFxString& pattern, const HatchGradientChange& change)
+Statement EmitHatchGradientData(Writer& writer, const CFxString& pattern, const HatchGradientChange& change)
 {
     const bool script = writer.target == Target::JavaScript;
     const std::uint32_t number = script ? ++writer.UniqueCounter : 0;
@@ -380,7 +380,7 @@ QString EmitHatchGradientData(Writer& writer, const CFxString& pattern, const Ha
             statement.number(number);
         return statement.text(pattern).str();
     };
-    QString text = call(getGradientData);
+    Statement text = call(getGradientData);
     if (change.first)
         text += changeColor(writer, assignFirstColor, "color1", *change.first, number);
     if (change.second)

@@ -30,9 +30,9 @@ struct HatchGradientChange
 };
 
 /// `pattern` is set to the variable that the hatch's pattern object is fetched into.
-QString EmitGetHatchPattern(Writer& writer, const CFxString& hatch, CFxString& pattern);
+Statement EmitGetHatchPattern(Writer& writer, const CFxString& hatch, CFxString& pattern);
 /// `code` is 1 for the normal way, 2 for the outer boundaries alone, 3 to ignore inner ones.
-QString EmitHatchRegionDetection(Writer& writer, const CFxString& pattern, std::int32_t code);
+Statement EmitHatchRegionDetection(Writer& writer, const CFxString& pattern, std::int32_t code);
 // The generated program reads what the pattern has, overrides what has changed and writes it back.
-QString EmitSetHatchData(Writer& writer, const CFxString& pattern, const HatchPatternChange& change);
-QString EmitHatchGradientData(Writer& writer, const CFxString& pattern, const HatchGradientChange& change);
+Statement EmitSetHatchData(Writer& writer, const CFxString& pattern, const HatchPatternChange& change);
+Statement EmitHatchGradientData(Writer& writer, const CFxString& pattern, const HatchGradientChange& change);

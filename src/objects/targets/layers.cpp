@@ -29,7 +29,7 @@ static const Phrase createLayer{
                "%1iwLayerManager%5.CreateLayer \"%3\", %4, iwCreateObjectResult%5%2",
     }};
 
-QString EmitCreateLayer(Writer& writer, const CFxString& layer, const CFxString& name)
+Statement EmitCreateLayer(Writer& writer, const CFxString& layer, const CFxString& name)
 {
     return writer.fill(createLayer).text(layer).text(name).number(++writer.UniqueCounter);
 }

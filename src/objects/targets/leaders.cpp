@@ -23,7 +23,7 @@ static const Phrase insertTolerance{
                "%1Coordinates%7(2) = %5%2%1Set %8 = iwSketchManager.InsertTolerance( Coordinates%7, \"%6\" )%2",
     }};
 
-QString EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const CFxString& text, const CFxString& name)
+Statement EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const CFxString& text, const CFxString& name)
 {
     std::uint32_t& counter = writer.UniqueCounter;
     if (writer.target == Target::Cpp)
@@ -32,7 +32,7 @@ QString EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const C
             [&](Fill& call) { call.text(text); }, name);
     if (writer.target == Target::CppCom) {
         ++counter;
-        const QString point =
+        const Statement point =
             comPointLines({writer, "variant" + QString::number(counter), counter}, position, NumberForm::Long, false);
         return writer.fill(insertTolerance).number(counter).text(point).text(text).text(name);
     }
@@ -59,7 +59,7 @@ static const Phrase insertLeader{
                "%1Set %8 = iwSketchManager.InsertLeader( Coordinates%3, %6, \"%7\" )%2",
     }};
 
-QString EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
+Statement EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
                          const CFxString& name)
 {
     return callWithArray(
@@ -87,7 +87,7 @@ static const Phrase setBlockAnnotation{"EmitSetAnnotation",
                                            .vba = "%1%3.SetBlockAnnotation \"%4\"%2",
                                        }};
 
-QString EmitSetAnnotation(Writer& writer, const CFxString& leader, LeaderAnnotation kind, const CFxString& text)
+Statement EmitSetAnnotation(Writer& writer, const CFxString& leader, LeaderAnnotation kind, const CFxString& text)
 {
     const Phrase& words = kind == LeaderAnnotation::Tolerance ? setToleranceAnnotation : setBlockAnnotation;
     return writer.fill(words).text(leader).text(text);

@@ -24,7 +24,7 @@ static const Phrase insertFace{
                "%1Set %10 = iwSketchManager.InsertFace( Coordinates%3, %6, %7, %8, %9 )%2",
     }};
 
-QString EmitInsertFace(Writer& writer, const OdArray<OdGePoint3d>& corners, const std::array<bool, 4>& edgesVisible,
+Statement EmitInsertFace(Writer& writer, const OdArray<OdGePoint3d>& corners, const std::array<bool, 4>& edgesVisible,
                        const CFxString& name)
 {
     return callWithArray(
@@ -65,13 +65,13 @@ static const Phrase insertTrace{
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2%1Set %6 = iwSketchManager.InsertTrace( Coordinates%3 )%2",
     }};
 
-QString EmitInsertSolid(Writer& writer, const OdArray<OdGePoint3d>& corners, const CFxString& name)
+Statement EmitInsertSolid(Writer& writer, const OdArray<OdGePoint3d>& corners, const CFxString& name)
 {
     return callWithArray(
         writer, insertSolid, coordinateArray(writer, spatial(corners), "points"), [](Fill&) {}, name);
 }
 
-QString EmitInsertTrace(Writer& writer, const OdArray<OdGePoint3d>& corners, const CFxString& name)
+Statement EmitInsertTrace(Writer& writer, const OdArray<OdGePoint3d>& corners, const CFxString& name)
 {
     const ArrayArgument array = coordinateArray(writer, spatial(corners), "points", NumberForm::Long, Brackets::Spaced);
     return callWithArray(
@@ -100,7 +100,7 @@ static bool listsStandLast(Target target)
     return target == Target::CSharp || target == Target::JavaScript;
 }
 
-QString EmitInsertPolygonMesh(Writer& writer, int rows, int columns, const OdArray<OdGePoint3d>& vertices,
+Statement EmitInsertPolygonMesh(Writer& writer, int rows, int columns, const OdArray<OdGePoint3d>& vertices,
                               const CFxString& name)
 {
     const ArrayArgument array = coordinateArray(writer, spatial(vertices), "polMesh");
@@ -143,7 +143,7 @@ static const Phrase insertPolyFaceMesh{
                "FaceVerticesLongArray%3 )%2",
     }};
 
-QString EmitInsertPolyFaceMesh(Writer& writer, int vertexCount, const OdArray<OdGePoint3d>& vertices,
+Statement EmitInsertPolyFaceMesh(Writer& writer, int vertexCount, const OdArray<OdGePoint3d>& vertices,
                                const OdArray<OdDbFaceRecord>& faces, const CFxString& name)
 {
     std::vector<int> counts;

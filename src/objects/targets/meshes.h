@@ -9,12 +9,12 @@
 struct OdDbFaceRecord;
 
 /// The edge that begins at each corner is visible or not.
-QString EmitInsertFace(Writer& writer, const OdArray<OdGePoint3d>& corners, const std::array<bool, 4>& edgesVisible,
+Statement EmitInsertFace(Writer& writer, const OdArray<OdGePoint3d>& corners, const std::array<bool, 4>& edgesVisible,
                        const CFxString& name);
-QString EmitInsertSolid(Writer& writer, const OdArray<OdGePoint3d>& corners, const CFxString& name);
-QString EmitInsertTrace(Writer& writer, const OdArray<OdGePoint3d>& corners, const CFxString& name);
+Statement EmitInsertSolid(Writer& writer, const OdArray<OdGePoint3d>& corners, const CFxString& name);
+Statement EmitInsertTrace(Writer& writer, const OdArray<OdGePoint3d>& corners, const CFxString& name);
 /// `rows` of vertices, each of `columns`.
-QString EmitInsertPolygonMesh(Writer& writer, int rows, int columns, const OdArray<OdGePoint3d>& vertices,
+Statement EmitInsertPolygonMesh(Writer& writer, int rows, int columns, const OdArray<OdGePoint3d>& vertices,
                               const CFxString& name);
-QString EmitInsertPolyFaceMesh(Writer& writer, int vertexCount, const OdArray<OdGePoint3d>& vertices,
+Statement EmitInsertPolyFaceMesh(Writer& writer, int vertexCount, const OdArray<OdGePoint3d>& vertices,
                                const OdArray<OdDbFaceRecord>& faces, const CFxString& name);

@@ -31,7 +31,7 @@ static const Mend comGroup(createGroup, Target::CppCom, "the group's variable is
                            "%1EntityArray%3.parray = SafeArrayCreateVector( VT_DISPATCH, 0, %5);%2%4%2"
                            "%1%9 = iwDoc->CreateGroup(L\"%6\", %7, L\"%8\", EntityArray%3 );%2");
 
-QString EmitCreateGroup(Writer& writer, const NewGroup& group, const CFxString& variable)
+Statement EmitCreateGroup(Writer& writer, const NewGroup& group, const CFxString& variable)
 {
     const Target target = writer.target;
     const bool numbered = target != Target::JavaScript && target != Target::Vba;
@@ -39,7 +39,7 @@ QString EmitCreateGroup(Writer& writer, const NewGroup& group, const CFxString& 
     QString name = target == Target::CppCom ? QStringLiteral("EntityArray") : QStringLiteral("entities");
     if (numbered)
         name += QString::number(number);
-    const QString lines = objectLines({writer, name, number, Brackets::Tight}, group.entities);
+    const Statement lines = objectLines({writer, name, number, Brackets::Tight}, group.entities);
     const int bound = arrayBound(writer, group.entities.size());
 
     Fill creation = writer.fill(createGroup);

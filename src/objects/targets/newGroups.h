@@ -13,4 +13,4 @@ struct NewGroup
     std::vector<QString> entities; ///< variables
 };
 
-QString EmitCreateGroup(Writer& writer, const NewGroup& group, const CFxString& variable);
+Statement EmitCreateGroup(Writer& writer, const NewGroup& group, const CFxString& variable);

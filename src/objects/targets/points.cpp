@@ -17,7 +17,7 @@ static const Phrase callWithPoint{"EmitCallWithPoint",
                                       .vba = "%1%3.%4 %5, %6, %7%2",
                                   }};
 
-QString EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxString& method, const OdGePoint3d& point)
+Statement EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxString& method, const OdGePoint3d& point)
 {
     return writer.fill(callWithPoint).text(target).text(method).point(point);
 }
@@ -32,11 +32,11 @@ struct PointWords
 };
 
 /// Without an index (-1) the calls have one value less.
-static QString changePoint(Writer& writer, const PointWords& words, const CFxString& target, const CFxString& getter,
+static Statement changePoint(Writer& writer, const PointWords& words, const CFxString& target, const CFxString& getter,
                            const CFxString& setter, std::int32_t index, const CFxString& coordinate, double value)
 {
     const std::uint32_t suffix = ++writer.UniqueCounter;
-    const auto call = [&](const Phrase& phrase, const CFxString& operation) -> QString {
+    const auto call = [&](const Phrase& phrase, const CFxString& operation) -> Statement {
         if (index == -1)
             return writer.fillIndented(phrase).text(target).text(operation).text(LineEnd).number(suffix);
         return writer.fillIndented(phrase).text(target).text(operation).number(index).text(LineEnd).number(suffix);
@@ -121,7 +121,7 @@ static const Phrase setIndexedPoint{"EmitChangePoint",
                                         .vba = "%1%2.%3 %4, X%6, Y%6, Z%6 %5",
                                     }};
 
-QString EmitChangePoint(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
+Statement EmitChangePoint(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
                         const CFxString& setter, double value, std::int32_t index)
 {
     static const PointWords plain{declarePoint, getPoint, changePointCoordinate, setPoint};
@@ -135,7 +135,7 @@ static const Phrase changeScale{"EmitChangeScale",
                                                   "%1%3.%5(points.ScaleX, points.ScaleY, points.ScaleZ);%2",
                                 }};
 
-QString EmitChangeScale(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
+Statement EmitChangeScale(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
                         const CFxString& setter, double value)
 {
     return writer.fill(changeScale).text(target).text(getter).text(setter).text(axis).real(value);
@@ -182,7 +182,7 @@ static const Phrase setPair{"EmitChangePosition",
                                 .vba = "%1%2.%3 getX%5, getY%5, getZ%5%4",
                             }};
 
-static QString changePair(Writer& writer, const CFxString& target, const CFxString& getter, const CFxString& setter,
+static Statement changePair(Writer& writer, const CFxString& target, const CFxString& getter, const CFxString& setter,
                           const CFxString& local, double value)
 {
     static const PointWords words{declarePair, getPair, changeLocal, setPair};
@@ -192,17 +192,17 @@ static QString changePair(Writer& writer, const CFxString& target, const CFxStri
     return changePoint(writer, words, target, getter, setter, -1, coordinate, value);
 }
 
-QString EmitChangePosition(Writer& writer, const CFxString& target, const CFxString& local, double value)
+Statement EmitChangePosition(Writer& writer, const CFxString& target, const CFxString& local, double value)
 {
     return changePair(writer, target, "GetPosition", "SetPosition", local, value);
 }
 
-QString EmitChangeFirstPoint(Writer& writer, const CFxString& target, const CFxString& local, double value)
+Statement EmitChangeFirstPoint(Writer& writer, const CFxString& target, const CFxString& local, double value)
 {
     return changePair(writer, target, "GetFirstPoint", "SetFirstPoint", local, value);
 }
 
-QString EmitChangeSecondPoint(Writer& writer, const CFxString& target, const CFxString& local, double value)
+Statement EmitChangeSecondPoint(Writer& writer, const CFxString& target, const CFxString& local, double value)
 {
     return changePair(writer, target, "GetSecondPoint", "SetSecondPoint", local, value);
 }
@@ -258,7 +258,7 @@ static const Phrase setVertex{"EmitChangeVertex",
 static const Mend scriptVertexWrite(setVertex, Target::JavaScript, "the locals of a typed language",
                                     "%1%2.SetVertexCoordinate(%3, points.X, points.Y, points.Z);%4");
 
-static QString changeVertex(Writer& writer, const PointWords& words, const CFxString& target, std::int32_t index,
+static Statement changeVertex(Writer& writer, const PointWords& words, const CFxString& target, std::int32_t index,
                             const CFxString& axis, double value)
 {
     // Only here the C++ calls end with the usual second value, and only they do without the suffix.
@@ -276,7 +276,7 @@ static QString changeVertex(Writer& writer, const PointWords& words, const CFxSt
            call(words.set);
 }
 
-QString EmitChangeVertex(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
+Statement EmitChangeVertex(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
                          double value)
 {
     static const PointWords words{declareVertex, getVertex, changeVertexCoordinate, setVertex};
@@ -319,7 +319,7 @@ static const Phrase setVertex2D{"EmitChangeVertex2D",
 static const Mend scriptVertex2DWrite(setVertex2D, Target::JavaScript, "the locals of a typed language",
                                       "%1%2.SetVertexCoordinate(%3, points.X, points.Y);%4");
 
-QString EmitChangeVertex2D(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
+Statement EmitChangeVertex2D(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
                            double value)
 {
     static const PointWords words{declareVertex2D, getVertex2D, changeVertexCoordinate, setVertex2D};
@@ -329,7 +329,7 @@ QString EmitChangeVertex2D(Writer& writer, const CFxString& target, std::int32_t
 // JavaScript reads the whole point into one variable, which every such change declares again.
 
 /// Takes a number wherever the target's words have a place for it.
-static QString changeCoordinate(Writer& writer, const Phrase& phrase, const CFxString& target, const CFxString& stem,
+static Statement changeCoordinate(Writer& writer, const Phrase& phrase, const CFxString& target, const CFxString& stem,
                                 double value)
 {
     const std::uint32_t suffix = writer.target == Target::JavaScript ? 0 : ++writer.UniqueCounter;
@@ -350,7 +350,7 @@ static const Phrase changeCoordinateX{
                "%1%3.Set%4 %5, y%6, z%6%2",
     }};
 
-QString EmitChangeCoordinateX(Writer& writer, const CFxString& target, const CFxString& stem, double value)
+Statement EmitChangeCoordinateX(Writer& writer, const CFxString& target, const CFxString& stem, double value)
 {
     return changeCoordinate(writer, changeCoordinateX, target, stem, value);
 }
@@ -369,7 +369,7 @@ static const Phrase changeCoordinateY{
                "%1%3.Set%4 x%6, %5, z%6%2",
     }};
 
-QString EmitChangeCoordinateY(Writer& writer, const CFxString& target, const CFxString& stem, double value)
+Statement EmitChangeCoordinateY(Writer& writer, const CFxString& target, const CFxString& stem, double value)
 {
     return changeCoordinate(writer, changeCoordinateY, target, stem, value);
 }
@@ -388,7 +388,7 @@ static const Phrase changeCoordinateZ{
                "%1%3.Set%4 x%6, y%6, %5%2",
     }};
 
-QString EmitChangeCoordinateZ(Writer& writer, const CFxString& target, const CFxString& stem, double value)
+Statement EmitChangeCoordinateZ(Writer& writer, const CFxString& target, const CFxString& stem, double value)
 {
     return changeCoordinate(writer, changeCoordinateZ, target, stem, value);
 }
@@ -404,7 +404,7 @@ static const Phrase changeCoordinate2DX{
         .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1%3.Get%4 x%6, y%6%2%1%3.Set%4 %5, y%6%2",
     }};
 
-QString EmitChangeCoordinate2DX(Writer& writer, const CFxString& target, const CFxString& stem, double value)
+Statement EmitChangeCoordinate2DX(Writer& writer, const CFxString& target, const CFxString& stem, double value)
 {
     return changeCoordinate(writer, changeCoordinate2DX, target, stem, value);
 }
@@ -420,7 +420,7 @@ static const Phrase changeCoordinate2DY{
         .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1%3.Get%4 x%6, y%6%2%1%3.Set%4 x%6, %5%2",
     }};
 
-QString EmitChangeCoordinate2DY(Writer& writer, const CFxString& target, const CFxString& stem, double value)
+Statement EmitChangeCoordinate2DY(Writer& writer, const CFxString& target, const CFxString& stem, double value)
 {
     return changeCoordinate(writer, changeCoordinate2DY, target, stem, value);
 }

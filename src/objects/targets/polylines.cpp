@@ -34,7 +34,7 @@ static QString justificationWord(Target target, int justification)
     return enumeratorText(target, QString(enumeration.name) + "_e", QString(enumeration.name) + '_' + suffix);
 }
 
-QString EmitInsertRichLine(Writer& writer, const OdArray<OdGePoint3d>& vertices, int justification, double scale,
+Statement EmitInsertRichLine(Writer& writer, const OdArray<OdGePoint3d>& vertices, int justification, double scale,
                            const CFxString& style, bool closed, const CFxString& name)
 {
     const QString justificationText = justificationWord(writer.target, justification);
@@ -77,7 +77,7 @@ static const Phrase insertPolyline2D{
                "%1Set %7 = iwSketchManager.InsertPolyline2D( Coordinates%3, %6 )%2",
     }};
 
-static QString insertPolyline(Writer& writer, const Phrase& phrase, const Coordinates& vertices, const char* script,
+static Statement insertPolyline(Writer& writer, const Phrase& phrase, const Coordinates& vertices, const char* script,
                               bool closed, const CFxString& name)
 {
     const QString closedText = truthWord(writer.target, closed);
@@ -85,12 +85,12 @@ static QString insertPolyline(Writer& writer, const Phrase& phrase, const Coordi
         writer, phrase, coordinateArray(writer, vertices, script), [&](Fill& call) { call.text(closedText); }, name);
 }
 
-QString EmitInsertPolyline3D(Writer& writer, const OdArray<OdGePoint3d>& vertices, bool closed, const CFxString& name)
+Statement EmitInsertPolyline3D(Writer& writer, const OdArray<OdGePoint3d>& vertices, bool closed, const CFxString& name)
 {
     return insertPolyline(writer, insertPolyline3D, spatial(vertices), "points", closed, name);
 }
 
-QString EmitInsertPolyline2D(Writer& writer, const OdArray<OdGePoint2d>& vertices, bool closed, const CFxString& name)
+Statement EmitInsertPolyline2D(Writer& writer, const OdArray<OdGePoint2d>& vertices, bool closed, const CFxString& name)
 {
     return insertPolyline(writer, insertPolyline2D, planar(vertices), "polyPoints", closed, name);
 }
@@ -113,7 +113,7 @@ static const Phrase insertSpline{
                "%1Set %13 = iwSketchManager.InsertSpline( Coordinates%3, %6, %7, %8 ,%9, %10, %11, %12 )%2",
     }};
 
-QString EmitInsertSpline(Writer& writer, const OdArray<OdGePoint3d>& fitPoints, bool closed,
+Statement EmitInsertSpline(Writer& writer, const OdArray<OdGePoint3d>& fitPoints, bool closed,
                          const OdGePoint3d& startTangent, const OdGePoint3d& endTangent, const CFxString& name)
 {
     const QString closedText = truthWord(writer.target, closed);

@@ -19,7 +19,7 @@ static const Phrase objectByHandle{
                "%1Set %4 = iwApp.GetActiveDocument().GetObjectByHandle (\"%5\", type%6 )%2",
     }};
 
-QString EmitGetObjectByHandle(Writer& writer, const CFxString& type, const CFxString& name, const OdDbHandle& handle)
+Statement EmitGetObjectByHandle(Writer& writer, const CFxString& type, const CFxString& name, const OdDbHandle& handle)
 {
     const QString digits = handle.ascii();
     // A page needs neither the variable's type nor a place for the object's.
@@ -38,7 +38,7 @@ static const Phrase getNoteAnnotation{"EmitGetNoteAnnotation",
                                           .vba = "%1Dim %4 As Inkwright.Note%2%1Set %4 = %3.GetNoteAnnotation()%2",
                                       }};
 
-QString EmitGetNoteAnnotation(Writer& writer, const CFxString& note, const CFxString& leader)
+Statement EmitGetNoteAnnotation(Writer& writer, const CFxString& note, const CFxString& leader)
 {
     return writer.fill(getNoteAnnotation).text(leader).text(note);
 }
@@ -53,7 +53,7 @@ static const Phrase declareObject{"EmitDeclareObject",
                                       .vba = "%1Dim %4 As Inkwright.%3%2",
                                   }};
 
-QString EmitDeclareObject(Writer& writer, const char* interfaceName, const CFxString& name)
+Statement EmitDeclareObject(Writer& writer, const char* interfaceName, const CFxString& name)
 {
     Fill declaration = writer.fill(declareObject);
     // A page's variables have no types.
@@ -83,7 +83,7 @@ static const Phrase removeSheetView{"EmitRemoveNamedView",
                                     }};
 
 /// The manager removes a view by its name; the variable is of no use.
-QString EmitRemoveNamedView(Writer& writer, const CFxString&, const CFxString& viewName, bool paperspace)
+Statement EmitRemoveNamedView(Writer& writer, const CFxString&, const CFxString& viewName, bool paperspace)
 {
     return writer.fill(paperspace ? removeSheetView : removeModelView).text(viewName);
 }
@@ -108,7 +108,7 @@ static const Phrase removeLayer{
                "%1iwLayerManager%3.RemoveLayer layerName%3%2",
     }};
 
-QString EmitRemoveLayer(Writer& writer, const CFxString& name)
+Statement EmitRemoveLayer(Writer& writer, const CFxString& name)
 {
     return writer.fill(removeLayer).number(++writer.UniqueCounter).text(name);
 }

@@ -56,7 +56,7 @@ static const Phrase takeRegion{
         .vba = "%1Set %4 = regionArray%3(0)%2%2",
     }};
 
-static QString regionEntities(Writer& writer, const QStringList& names, std::uint32_t number)
+static Statement regionEntities(Writer& writer, const QStringList& names, std::uint32_t number)
 {
     static constexpr Words arrayNames{.cpp = "entitiesArray",
                                       .cppCom = "entitiesArray",
@@ -77,7 +77,7 @@ static QString regionEntities(Writer& writer, const QStringList& names, std::uin
     return head.indent(writer.IndentLevel).str() + objectLines(place, words);
 }
 
-QString EmitInsertRegion(Writer& writer, const CFxString& variable, const QStringList& names, std::uint32_t number)
+Statement EmitInsertRegion(Writer& writer, const CFxString& variable, const QStringList& names, std::uint32_t number)
 {
     QStringList filled = names;
     if (writer.repairs)

@@ -4,4 +4,4 @@
 
 #include <QStringList>
 
-QString EmitInsertRegion(Writer& writer, const CFxString& variable, const QStringList& names, std::uint32_t number);
+Statement EmitInsertRegion(Writer& writer, const CFxString& variable, const QStringList& names, std::uint32_t number);

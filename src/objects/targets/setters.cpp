@@ -31,18 +31,18 @@ static const Phrase setValue{"EmitSetProperty",
                                  .vba = "%1%3.%4 = %5%2",
                              }};
 
-QString EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const CFxString& value,
+Statement EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const CFxString& value,
                         bool quoted)
 {
     return writer.fill(quoted ? setText : setValue).text(target).text(property).text(value);
 }
 
-QString EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value)
+Statement EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value)
 {
     return writer.fill(setValue).text(target).text(property).real(value);
 }
 
-QString EmitSetBoolProperty(Writer& writer, const CFxString& target, const CFxString& property, bool value)
+Statement EmitSetBoolProperty(Writer& writer, const CFxString& target, const CFxString& property, bool value)
 {
     return writer.fill(setValue).text(target).text(property).text(truthWord(writer.target, value));
 }
@@ -57,7 +57,7 @@ static const Phrase setIndexedDouble{"EmitSetIndexedDouble",
                                          .vba = "%1%3.%4 %5, %6%2",
                                      }};
 
-QString EmitSetIndexedDouble(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t index,
+Statement EmitSetIndexedDouble(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t index,
                              double value)
 {
     // Only C++ has a local, and only a local uses up a number.
@@ -76,31 +76,31 @@ static const Phrase setEnumeratorProperty{"EmitSetEnumProperty",
                                               .vba = "%1%3.%4 = %5%2",
                                           }};
 
-static QString setEnumerator(Writer& writer, const CFxString& target, const CFxString& property,
+static Statement setEnumerator(Writer& writer, const CFxString& target, const CFxString& property,
                              const QString& enumerator)
 {
     return writer.fill(setEnumeratorProperty).text(target).text(property).text(enumerator);
 }
 
-QString EmitSetEnumProperty(Writer& writer, const CFxString& target, const TextEnumeration& enumeration,
+Statement EmitSetEnumProperty(Writer& writer, const CFxString& target, const TextEnumeration& enumeration,
                             const CFxString& property, const CFxString& shownText)
 {
     return setEnumerator(writer, target, property, EnumeratorByText(writer.target, enumeration, shownText));
 }
 
-QString EmitSetEnumValue(Writer& writer, const CFxString& target, const ValueEnumeration& enumeration,
+Statement EmitSetEnumValue(Writer& writer, const CFxString& target, const ValueEnumeration& enumeration,
                          const CFxString& property, std::int32_t value)
 {
     return setEnumerator(writer, target, property, EnumeratorByValue(writer.target, enumeration, value));
 }
 
-QString EmitSetEnumSuffix(Writer& writer, const CFxString& target, const ValueEnumeration& enumeration,
+Statement EmitSetEnumSuffix(Writer& writer, const CFxString& target, const ValueEnumeration& enumeration,
                           const CFxString& property, const char* suffix)
 {
     return setEnumerator(writer, target, property, EnumeratorBySuffix(writer.target, enumeration, suffix));
 }
 
-QString EmitSetDecimalSeparator(Writer& writer, const CFxString& target, const CFxString& property,
+Statement EmitSetDecimalSeparator(Writer& writer, const CFxString& target, const CFxString& property,
                                 const CFxString& separator)
 {
     return setEnumerator(writer, target, property, DecimalSeparatorEnumerator(writer.target, separator));
@@ -130,7 +130,7 @@ static const Phrase setRgbColor{"EmitSetColor",
                                 }};
 
 /// The C++ add-in takes the color into a local variable before it comes to the property.
-QString EmitSetColor(Writer& writer, const CFxString& target, const CFxString& property, const OdCmColor& color)
+Statement EmitSetColor(Writer& writer, const CFxString& target, const CFxString& property, const OdCmColor& color)
 {
     const bool indexed = color.isByBlock() || color.isByLayer() || color.isByACI();
     const bool byLocal = writer.target == Target::Cpp;
@@ -155,13 +155,13 @@ static OdSmartPtr<Record> recordOf(const OdDbObjectId& id)
     return odrxCast<Record>(id.openObject(true).get());
 }
 
-QString EmitSetLayer(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id)
+Statement EmitSetLayer(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id)
 {
     const auto layer = recordOf<OdDbLayerTableRecord>(id);
     return layer ? EmitSetProperty(writer, target, property, layer->getName(), true) : QString();
 }
 
-QString EmitSetLineStyle(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id)
+Statement EmitSetLineStyle(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id)
 {
     const auto style = recordOf<OdDbLinetypeTableRecord>(id);
     return style ? EmitSetProperty(writer, target, property, style->getName(), true) : QString();
@@ -178,7 +178,7 @@ static const Phrase setLineWeight{"EmitSetLineWeight",
                                       .vba = "%1%3.%4 = %5%2",
                                   }};
 
-QString EmitSetLineWeight(Writer& writer, const CFxString& target, const CFxString& property, int weight)
+Statement EmitSetLineWeight(Writer& writer, const CFxString& target, const CFxString& property, int weight)
 {
     return writer.fill(setLineWeight).text(target).text(property).text(LineWeightEnumerator(writer.target, weight));
 }
@@ -230,7 +230,7 @@ static const Phrase setTransparency{
     }};
 
 /// A method without a name leaves the middle line blank.
-QString EmitSetTransparency(Writer& writer, const CFxString& target, const OdCmTransparency& transparency)
+Statement EmitSetTransparency(Writer& writer, const CFxString& target, const OdCmTransparency& transparency)
 {
     std::uint32_t& counter = processCounters.of(writer.target).transparencies;
     const Phrase* const phrase = transparency.method == OdCmTransparency::ByLayer   ? &setByLayer
@@ -239,8 +239,8 @@ QString EmitSetTransparency(Writer& writer, const CFxString& target, const OdCmT
                                                                                     : nullptr;
     // The interface counts in percent from solid to clear.
     const int percent = static_cast<int>(100 - transparency.alpha / 255.0 * 100);
-    const QString line = phrase ? writer.fillPlain(*phrase).number(counter).number(percent).str() : QString();
-    const QString statement = writer.fill(setTransparency).number(counter).text(target).text(line);
+    const Statement line = phrase ? writer.fillPlain(*phrase).number(counter).number(percent).str() : Statement();
+    const Statement statement = writer.fill(setTransparency).number(counter).text(target).text(line);
     ++counter;
     return statement;
 }

@@ -37,12 +37,12 @@ static const Mend wideSheetPropertyInCom(setSheetProperty, Target::CppCom,
                                          "a property of a sheet is given a narrow text",
                                          "%3%1%4->put_%5( _bstr_t(L\"%6\") );%2");
 
-QString EmitSetModelProperty(Writer& writer, const CFxString& property, const CFxString& value, bool ofModel,
+Statement EmitSetModelProperty(Writer& writer, const CFxString& property, const CFxString& value, bool ofModel,
                              const CFxString& sheetName)
 {
     if (ofModel)
         return writer.fill(setModelProperty).text(property).text(value);
     CFxString sheet;
-    const QString activation = EmitActivateSheet(writer, sheetName, sheet);
+    const Statement activation = EmitActivateSheet(writer, sheetName, sheet);
     return writer.fill(setSheetProperty).text(activation).text(sheet).text(property).text(value);
 }

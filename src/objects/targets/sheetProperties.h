@@ -3,5 +3,5 @@
 #include "statements/Writer.h"
 
 /// Of the model, or else of the sheet of that name, which is activated.
-QString EmitSetModelProperty(Writer& writer, const CFxString& property, const CFxString& value, bool ofModel,
+Statement EmitSetModelProperty(Writer& writer, const CFxString& property, const CFxString& value, bool ofModel,
                              const CFxString& sheetName);

@@ -13,7 +13,7 @@ static const Phrase objectModified{"EmitObjectModifiedComment",
                                        .vba = "%1' %3 object modified%2",
                                    }};
 
-QString EmitObjectModifiedComment(Writer& writer, const CFxString& className)
+Statement EmitObjectModifiedComment(Writer& writer, const CFxString& className)
 {
     return writer.fill(objectModified).text(className);
 }

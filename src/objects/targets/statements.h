@@ -2,4 +2,4 @@
 
 #include "statements/Writer.h"
 
-QString EmitObjectModifiedComment(Writer& writer, const CFxString& className);
+Statement EmitObjectModifiedComment(Writer& writer, const CFxString& className);

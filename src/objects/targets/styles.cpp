@@ -41,7 +41,7 @@ static const Mend bstrTableStyleName(createTableStyle, Target::CppCom, literalIs
 static const Mend bstrDimensionStyleName(createDimensionStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
 static const Mend bstrRichLineStyleName(createRichLineStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
-static QString create(Writer& writer, const Phrase& phrase, const CFxString& styleName, const CFxString& name,
+static Statement create(Writer& writer, const Phrase& phrase, const CFxString& styleName, const CFxString& name,
                       bool hasResult = true)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
@@ -51,17 +51,17 @@ static QString create(Writer& writer, const Phrase& phrase, const CFxString& sty
     return statement.number(number).text(styleName).text(name);
 }
 
-QString EmitCreateTableStyle(Writer& writer, const CFxString& styleName, const CFxString& name)
+Statement EmitCreateTableStyle(Writer& writer, const CFxString& styleName, const CFxString& name)
 {
     return create(writer, createTableStyle, styleName, name, writer.target != Target::JavaScript);
 }
 
-QString EmitCreateDimensionStyle(Writer& writer, const CFxString& styleName, const CFxString& name)
+Statement EmitCreateDimensionStyle(Writer& writer, const CFxString& styleName, const CFxString& name)
 {
     return create(writer, createDimensionStyle, styleName, name);
 }
 
-QString EmitCreateRichLineStyle(Writer& writer, const CFxString& styleName, const CFxString& name)
+Statement EmitCreateRichLineStyle(Writer& writer, const CFxString& styleName, const CFxString& name)
 {
     return create(writer, createRichLineStyle, styleName, name);
 }
@@ -81,7 +81,7 @@ static const Phrase loadLineStyle{
         .vba = "%1iwApp.GetActiveDocument().GetLineStyleManager().LoadLineStyle \"%3\",\"%4\", %5%2",
     }};
 
-QString EmitLoadLineStyle(Writer& writer, const CFxString& styleName, const CFxString& path, const CFxString& name)
+Statement EmitLoadLineStyle(Writer& writer, const CFxString& styleName, const CFxString& path, const CFxString& name)
 {
     Fill statement = writer.fill(loadLineStyle);
     if (writer.target == Target::Cpp)
@@ -106,10 +106,10 @@ static const Phrase renameStyle{
     }};
 static const Mend bstrStyleName(renameStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
-QString EmitRenameStyle(Writer& writer, const CFxString& style, const CFxString& newName, bool activate)
+Statement EmitRenameStyle(Writer& writer, const CFxString& style, const CFxString& newName, bool activate)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
-    const QString rename = writer.fill(renameStyle).number(number).number(number).text(newName).text(style);
+    const Statement rename = writer.fill(renameStyle).number(number).number(number).text(newName).text(style);
     return activate ? rename + EmitActivate(writer, style) : rename;
 }
 
@@ -122,7 +122,7 @@ static const Phrase renameRichLineStyle{"EmitRenameRichLineStyle",
                                             .vba = "%1%3.Rename( \"%4\" ) %2",
                                         }};
 
-QString EmitRenameRichLineStyle(Writer& writer, const CFxString& style, const CFxString& newName)
+Statement EmitRenameRichLineStyle(Writer& writer, const CFxString& style, const CFxString& newName)
 {
     return writer.fill(renameRichLineStyle).text(style).text(newName);
 }
@@ -133,7 +133,7 @@ static const Phrase activateLayer{"EmitActivateLayer",
                                       .cpp = "%1bool bRes%4;%2%1%3->Activate( &bRes%4 );%2",
                                   }};
 
-QString EmitActivateLayer(Writer& writer, const CFxString& variable)
+Statement EmitActivateLayer(Writer& writer, const CFxString& variable)
 {
     if (!activateLayer.has(writer.target))
         return EmitActivate(writer, variable);
@@ -151,7 +151,7 @@ static const Phrase replaceElement{
         .vba = "%1%3.DeleteLine %4%2%1%3.AddLine %5, iwApp.GetColorByIndex( %6 ), \"%7\"%2",
     }};
 
-QString EmitReplaceRichLineElement(Writer& writer, const CFxString& style, int index, double offset, int color,
+Statement EmitReplaceRichLineElement(Writer& writer, const CFxString& style, int index, double offset, int color,
                                    const CFxString& lineStyle)
 {
     return writer.fill(replaceElement).text(style).number(index).real(offset).number(color).text(lineStyle);

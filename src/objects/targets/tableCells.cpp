@@ -14,13 +14,13 @@ static const Phrase setCellText{"EmitSetCellText",
                                     .vba = "%1%6.SetText %3, %4, \"%5\"%2",
                                 }};
 
-QString EmitSetCellText(Writer& writer, const CFxString& table, std::int32_t row, std::int32_t column,
+Statement EmitSetCellText(Writer& writer, const CFxString& table, std::int32_t row, std::int32_t column,
                         const CFxString& text)
 {
     return writer.fill(setCellText).number(row).number(column).text(text).text(table);
 }
 
-static QString callWithSize(Writer& writer, const Phrase& phrase, const CFxString& table, std::int32_t index,
+static Statement callWithSize(Writer& writer, const Phrase& phrase, const CFxString& table, std::int32_t index,
                             double size)
 {
     return writer.fill(phrase).number(index).real(size).text(table);
@@ -38,7 +38,7 @@ static const Phrase insertRow{"EmitInsertRow",
                                   .vba = "%1%5.InsertRow %3, %4%2",
                               }};
 
-QString EmitInsertRow(Writer& writer, const CFxString& table, std::int32_t row, double height)
+Statement EmitInsertRow(Writer& writer, const CFxString& table, std::int32_t row, double height)
 {
     return callWithSize(writer, insertRow, table, row, height);
 }
@@ -53,7 +53,7 @@ static const Phrase deleteRow{"EmitDeleteRow",
                                   .vba = "%1%4.DeleteRow %3%2",
                               }};
 
-QString EmitDeleteRow(Writer& writer, const CFxString& table, std::int32_t row)
+Statement EmitDeleteRow(Writer& writer, const CFxString& table, std::int32_t row)
 {
     return writer.fill(deleteRow).number(row).text(table);
 }
@@ -68,7 +68,7 @@ static const Phrase setRowHeightAt{"EmitSetRowHeightAt",
                                        .vba = "%1%5.SetRowHeightAt %3, %4%2",
                                    }};
 
-QString EmitSetRowHeightAt(Writer& writer, const CFxString& table, std::int32_t row, double height)
+Statement EmitSetRowHeightAt(Writer& writer, const CFxString& table, std::int32_t row, double height)
 {
     return callWithSize(writer, setRowHeightAt, table, row, height);
 }
@@ -83,7 +83,7 @@ static const Phrase insertColumn{"EmitInsertColumn",
                                      .vba = "%1%5.InsertColumn %3, %4%2",
                                  }};
 
-QString EmitInsertColumn(Writer& writer, const CFxString& table, std::int32_t column, double width)
+Statement EmitInsertColumn(Writer& writer, const CFxString& table, std::int32_t column, double width)
 {
     return callWithSize(writer, insertColumn, table, column, width);
 }
@@ -98,7 +98,7 @@ static const Phrase deleteColumn{"EmitDeleteColumn",
                                      .vba = "%1%4.DeleteColumn %3%2",
                                  }};
 
-QString EmitDeleteColumn(Writer& writer, const CFxString& table, std::int32_t column)
+Statement EmitDeleteColumn(Writer& writer, const CFxString& table, std::int32_t column)
 {
     return writer.fill(deleteColumn).number(column).text(table);
 }
@@ -113,7 +113,7 @@ static const Phrase setColumnWidthAt{"EmitSetColumnWidthAt",
                                          .vba = "%1%5.SetColumnWidthAt %3, %4%2",
                                      }};
 
-QString EmitSetColumnWidthAt(Writer& writer, const CFxString& table, std::int32_t column, double width)
+Statement EmitSetColumnWidthAt(Writer& writer, const CFxString& table, std::int32_t column, double width)
 {
     return callWithSize(writer, setColumnWidthAt, table, column, width);
 }

@@ -19,12 +19,12 @@ static const Phrase setOfCells{"call of a table style",
                                    .vba = "%1 %2.%3 %4,%5%6",
                                }};
 
-static QString cellTypeEnumerator(const Writer& writer, std::int32_t cellType)
+static Statement cellTypeEnumerator(const Writer& writer, std::int32_t cellType)
 {
     return EnumeratorByValue(writer.target, enums::tableCellType, cellType);
 }
 
-static QString setOfCellsTo(Writer& writer, const CFxString& style, const CFxString& operation, std::int32_t cellType,
+static Statement setOfCellsTo(Writer& writer, const CFxString& style, const CFxString& operation, std::int32_t cellType,
                             const QString& value)
 {
     return writer.fillIndented(setOfCells)
@@ -35,13 +35,13 @@ static QString setOfCellsTo(Writer& writer, const CFxString& style, const CFxStr
         .text(LineEnd);
 }
 
-QString EmitSetTableStyleColor(Writer& writer, const CFxString& style, const CFxString& operation,
+Statement EmitSetTableStyleColor(Writer& writer, const CFxString& style, const CFxString& operation,
                                std::int32_t cellType, const OdCmColor& color)
 {
     return setOfCellsTo(writer, style, operation, cellType, colorExpression(writer.target, color));
 }
 
-QString EmitSetTableStyleLength(Writer& writer, const CFxString& style, const CFxString& operation,
+Statement EmitSetTableStyleLength(Writer& writer, const CFxString& style, const CFxString& operation,
                                 std::int32_t cellType, double length)
 {
     return setOfCellsTo(writer, style, operation, cellType, FormatLong(length));
@@ -57,7 +57,7 @@ static const Phrase setAlignment{"EmitSetTableStyleAlignment",
                                  }};
 
 /// Where the host records in one of the C++ languages, the type in front of the alignment is taken off in any target.
-QString EmitSetTableStyleAlignment(Writer& writer, const CFxString& style, std::int32_t cellType,
+Statement EmitSetTableStyleAlignment(Writer& writer, const CFxString& style, std::int32_t cellType,
                                    const CFxString& shownText)
 {
     QString alignment = EnumeratorByText(writer.target, enums::tableCellAlignment, shownText);
@@ -78,7 +78,7 @@ static const Phrase setTextStyle{"EmitSetTableStyleTextStyle",
                                      .vba = "%1 %2.SetTextStyle %3,\"%4\"%5",
                                  }};
 
-QString EmitSetTableStyleTextStyle(Writer& writer, const CFxString& style, std::int32_t cellType, const CFxString& name)
+Statement EmitSetTableStyleTextStyle(Writer& writer, const CFxString& style, std::int32_t cellType, const CFxString& name)
 {
     return writer.fillIndented(setTextStyle)
         .text(style)

@@ -7,13 +7,13 @@
 // page has no text styles.
 
 /// `shownText` is the alignment as the property sheet shows it.
-QString EmitSetTableStyleAlignment(Writer& writer, const CFxString& style, std::int32_t cellType,
+Statement EmitSetTableStyleAlignment(Writer& writer, const CFxString& style, std::int32_t cellType,
                                    const CFxString& shownText);
-QString EmitSetTableStyleTextStyle(Writer& writer, const CFxString& style, std::int32_t cellType,
+Statement EmitSetTableStyleTextStyle(Writer& writer, const CFxString& style, std::int32_t cellType,
                                    const CFxString& name);
 /// `operation` is "SetBackgroundColor" or "SetTextColor".
-QString EmitSetTableStyleColor(Writer& writer, const CFxString& style, const CFxString& operation,
+Statement EmitSetTableStyleColor(Writer& writer, const CFxString& style, const CFxString& operation,
                                std::int32_t cellType, const OdCmColor& color);
 /// `operation` is "SetTextHeight", "SetHorizontalMargin" or "SetVerticalMargin".
-QString EmitSetTableStyleLength(Writer& writer, const CFxString& style, const CFxString& operation,
+Statement EmitSetTableStyleLength(Writer& writer, const CFxString& style, const CFxString& operation,
                                 std::int32_t cellType, double length);

@@ -41,7 +41,7 @@ static const Phrase insertTable{
     }};
 
 /// A page tells cell types by their words, in variables ahead of the call.
-static QString cellTypeVariables(Writer& writer, const std::array<int, 3>& cellTypes)
+static Statement cellTypeVariables(Writer& writer, const std::array<int, 3>& cellTypes)
 {
     static const Template words("\n%1var TableStyle_1_%2 = \"%3\";\n%1var TableStyle_2_%2 = \"%4\";\n"
                                 "%1var TableStyle_3_%2 = \"%5\";\n");
@@ -52,7 +52,7 @@ static QString cellTypeVariables(Writer& writer, const std::array<int, 3>& cellT
     return variables;
 }
 
-QString EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows, int columns, double rowHeight,
+Statement EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows, int columns, double rowHeight,
                         double columnWidth, const std::array<int, 3>& cellTypes, const CFxString& name)
 {
     Fill call = writer.fill(insertTable);
@@ -121,7 +121,7 @@ static const Phrase setScaledSize{"EmitScaleTableRows: set",
                                       .vba = "%1%2.Set%6%7At i%5, %8%3%4Next%3",
                                   }};
 
-QString EmitScaleTableRows(Writer& writer, const CFxString& table, const CFxString& operation, double coefficient)
+Statement EmitScaleTableRows(Writer& writer, const CFxString& table, const CFxString& operation, double coefficient)
 {
     const bool rows = operation == CFxString("SetRowHeight");
     const QLatin1String line(rows ? "Row" : "Column");
@@ -132,7 +132,7 @@ QString EmitScaleTableRows(Writer& writer, const CFxString& table, const CFxStri
         local += QString::number(number);
     const QString loopIndentation = writer.indentation();
 
-    QString text = writer.fillIndented(scaleCoefficient).real(coefficient).text(LineEnd).number(number);
+    Statement text = writer.fillIndented(scaleCoefficient).real(coefficient).text(LineEnd).number(number);
     text += writer.fillIndented(countLines).text(table).text(LineEnd).number(number).text(line).str();
     text += writer.fill(eachLine).number(number).text(line).str();
     ++writer.IndentLevel;
@@ -186,10 +186,10 @@ static const Phrase setTableStyle{"EmitSetTableStyle: set",
                                       .vba = "%1%5.TableStyle = tablestylemgr%4.GetTableStyle(\"%2\")%3",
                                   }};
 
-QString EmitSetTableStyle(Writer& writer, const CFxString& table, const CFxString& styleName, const CFxString& property)
+Statement EmitSetTableStyle(Writer& writer, const CFxString& table, const CFxString& styleName, const CFxString& property)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
-    QString text = writer.fill(tableStyleManager).number(number);
+    Statement text = writer.fill(tableStyleManager).number(number);
     if (!tableStyleVariable.has(writer.target))
         return text + writer.fillIndented(setTableStyle).text(styleName).text(LineEnd).number(number).text(table).str();
     text += writer.fill(tableStyleVariable).text(styleName).number(number).str();
@@ -216,7 +216,7 @@ static const Phrase setDirection{"EmitTableStyleOrientation",
                                      .vba = "%1 %2.Direction= %3%4",
                                  }};
 
-QString EmitTableStyleOrientation(Writer& writer, const CFxString& target, const CFxString& object, bool down)
+Statement EmitTableStyleOrientation(Writer& writer, const CFxString& target, const CFxString& object, bool down)
 {
     const bool header = object == CFxString("TableStyle");
     const Phrase& phrase = header ? setHeaderOrientation : setDirection;
@@ -247,7 +247,7 @@ static const Phrase setBordersColor{"EmitTableBordersColor",
                                         .vba = "%1 %2.SetBordersColor %3,%4,%5%6",
                                     }};
 
-static QString setBorders(Writer& writer, const Phrase& phrase, const CFxString& style, int cellType, int border,
+static Statement setBorders(Writer& writer, const Phrase& phrase, const CFxString& style, int cellType, int border,
                           const QString& value)
 {
     return writer.fillIndented(phrase)
@@ -258,13 +258,13 @@ static QString setBorders(Writer& writer, const Phrase& phrase, const CFxString&
         .text(LineEnd);
 }
 
-QString EmitTableBordersLineWeight(Writer& writer, const CFxString& style, int cellType, int border, int weight)
+Statement EmitTableBordersLineWeight(Writer& writer, const CFxString& style, int cellType, int border, int weight)
 {
     return setBorders(writer, setBordersLineWeight, style, cellType, border,
                       LineWeightEnumerator(writer.target, weight));
 }
 
-QString EmitTableBordersColor(Writer& writer, const CFxString& style, int cellType, int border, const OdCmColor& color)
+Statement EmitTableBordersColor(Writer& writer, const CFxString& style, int cellType, int border, const OdCmColor& color)
 {
     return setBorders(writer, setBordersColor, style, cellType, border, colorExpression(writer.target, color));
 }

@@ -45,7 +45,7 @@ static const Phrase createTextStyle{
     }};
 static const Mend bstrTextStyleName(createTextStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
-QString EmitCreateTextStyle(Writer& writer, const CFxString& name, const CFxString& styleName)
+Statement EmitCreateTextStyle(Writer& writer, const CFxString& name, const CFxString& styleName)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     return writer.fill(createTextStyle).number(number).number(number).text(styleName).text(name);
@@ -67,7 +67,7 @@ static const Phrase loadShapeFile{
                "%1iwShapeManager.Load \"%3\"%2",
     }};
 
-QString EmitLoadShapeFile(Writer& writer, const CFxString& path)
+Statement EmitLoadShapeFile(Writer& writer, const CFxString& path)
 {
     return writer.fill(loadShapeFile).text(path);
 }
@@ -90,7 +90,7 @@ static const Phrase insertAttributeDefinition{
                "%10, %11, %12, %13, %14, %15, %16, %17, %18 )%2",
     }};
 
-QString EmitInsertAttributeDefinition(Writer& writer, const AttributeDefinition& definition, const CFxString& name)
+Statement EmitInsertAttributeDefinition(Writer& writer, const AttributeDefinition& definition, const CFxString& name)
 {
     const QString justification = EnumeratorByText(writer.target, enums::textJustification, definition.justification);
     const auto word = [&](bool value) { return truthWord(writer.target, value); };
@@ -117,7 +117,7 @@ static const Phrase insertSimpleNote{
         .vba = "%1Set %9 = iwSketchManager.InsertSimpleNote( %3, %4, %5, %6, %7, \"%8\" )%2",
     }};
 
-QString EmitInsertSimpleNote(Writer& writer, const OdGePoint3d& position, double height, double rotation,
+Statement EmitInsertSimpleNote(Writer& writer, const OdGePoint3d& position, double height, double rotation,
                              const CFxString& text, const CFxString& name)
 {
     return writer.fill(insertSimpleNote).point(position).real(height).real(rotation).text(text).text(name);
@@ -158,7 +158,7 @@ static const Phrase insertNote{
         .vba = "%1Set %10 = iwSketchManager.InsertNote( %3, %4, %5, %6, %7, %8, strArray%9 )%2",
     }};
 
-QString EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
+Statement EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
                        const CFxString& text, const CFxString& name)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
@@ -167,13 +167,13 @@ QString EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const OdG
            writer.fill(insertNote).point(firstCorner).point(secondCorner).number(number).text(name).str();
 }
 
-QString EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxString& property,
+Statement EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxString& property,
                            const CFxString& shownText)
 {
     return EmitSetEnumProperty(writer, target, enums::noteJustification, property, shownText);
 }
 
-QString EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction)
+Statement EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction)
 {
     return EmitSetEnumValue(writer, target, enums::noteDirection, property, direction);
 }
@@ -183,7 +183,7 @@ static const Fault kTypedEnumerator{"EmitSetNoteLineSpacing",
                                     "the type stands in front of the enumerator, as in a typed language"};
 
 /// The enumerator's form follows the language that the host records in, not the target; a page gets a typed name.
-QString EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const CFxString& property, std::int32_t style)
+Statement EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const CFxString& property, std::int32_t style)
 {
     const Target form = RecordsIn(Target::Cpp) || RecordsIn(Target::CppCom)  ? Target::Cpp
                         : RecordsIn(Target::VbNet) || RecordsIn(Target::Vba) ? Target::VbNet
@@ -226,7 +226,7 @@ static const Phrase setFontParameter{
                "%1%4 = %5%2%1%3.SetFontParameters Typeface, Bold, Italic, Charset, PitchAndFamily%2",
     }};
 
-QString EmitSetFontParameter(Writer& writer, const CFxString& settings, const CFxString& parameter, bool value)
+Statement EmitSetFontParameter(Writer& writer, const CFxString& settings, const CFxString& parameter, bool value)
 {
     CFxString local = parameter;
     if (writer.target == Target::JavaScript)
@@ -244,7 +244,7 @@ static const Phrase insertCurvedText{"EmitInsertCurvedText",
                                          .vba = "%1Set %5 = iwSketchManager.InsertCurvedText( \"%3\", %4 )%2",
                                      }};
 
-QString EmitInsertCurvedText(Writer& writer, const CFxString& text, const CFxString& arc, const CFxString& name)
+Statement EmitInsertCurvedText(Writer& writer, const CFxString& text, const CFxString& arc, const CFxString& name)
 {
     return writer.fill(insertCurvedText).text(text).text(arc).text(name);
 }

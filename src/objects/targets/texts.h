@@ -21,19 +21,19 @@ struct AttributeDefinition
     bool lockPosition;
 };
 
-QString EmitCreateTextStyle(Writer& writer, const CFxString& name, const CFxString& styleName);
-QString EmitLoadShapeFile(Writer& writer, const CFxString& path);
-QString EmitInsertAttributeDefinition(Writer& writer, const AttributeDefinition& definition, const CFxString& name);
-QString EmitInsertSimpleNote(Writer& writer, const OdGePoint3d& position, double height, double rotation,
+Statement EmitCreateTextStyle(Writer& writer, const CFxString& name, const CFxString& styleName);
+Statement EmitLoadShapeFile(Writer& writer, const CFxString& path);
+Statement EmitInsertAttributeDefinition(Writer& writer, const AttributeDefinition& definition, const CFxString& name);
+Statement EmitInsertSimpleNote(Writer& writer, const OdGePoint3d& position, double height, double rotation,
                              const CFxString& text, const CFxString& name);
-QString EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
+Statement EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
                        const CFxString& text, const CFxString& name);
 /// `shownText` is the justification as the property sheet shows it, `direction` the number of the chosen item.
-QString EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxString& property,
+Statement EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxString& property,
                            const CFxString& shownText);
-QString EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction);
+Statement EmitSetNoteDirection(Writer& writer, const CFxString& target, const CFxString& property, int direction);
 /// `style` is the number of the chosen item: 0 is at least the distance, others are exactly it.
-QString EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const CFxString& property, std::int32_t style);
+Statement EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const CFxString& property, std::int32_t style);
 /// `parameter` is "Bold" or "Italic". The host reads and writes all parameters of a font at once.
-QString EmitSetFontParameter(Writer& writer, const CFxString& settings, const CFxString& parameter, bool value);
-QString EmitInsertCurvedText(Writer& writer, const CFxString& text, const CFxString& arc, const CFxString& name);
+Statement EmitSetFontParameter(Writer& writer, const CFxString& settings, const CFxString& parameter, bool value);
+Statement EmitInsertCurvedText(Writer& writer, const CFxString& text, const CFxString& arc, const CFxString& name);

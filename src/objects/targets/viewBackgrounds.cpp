@@ -30,7 +30,7 @@ static const Phrase imageBackground{
                "%1%9.SetImageBackground iwImageBackground%2\n\n",
     }};
 
-QString EmitImageBackground(Writer& writer, const CFxString& path, const CFxString& position,
+Statement EmitImageBackground(Writer& writer, const CFxString& path, const CFxString& position,
                             const std::array<double, 4>& numbers, const CFxString& view)
 {
     Fill statement = writer.fillIndented(imageBackground);
@@ -105,7 +105,7 @@ static Fill& putColor(Fill& statement, const OdCmColor& color)
     return statement.number(color.red()).number(color.green()).number(color.blue());
 }
 
-QString EmitGradientBackground(Writer& writer, const OdCmColor& top, const OdCmColor& middle, const OdCmColor& bottom,
+Statement EmitGradientBackground(Writer& writer, const OdCmColor& top, const OdCmColor& middle, const OdCmColor& bottom,
                                double rotation, double height, const CFxString& view)
 {
     Fill statement = writer.fillIndented(gradientBackground);
@@ -147,7 +147,7 @@ static const Phrase solidBackground{
                "%1%6.SetSolidBackground iwSolidBackground%2\n\n",
     }};
 
-QString EmitSolidBackground(Writer& writer, const OdCmColor& color, const CFxString& view)
+Statement EmitSolidBackground(Writer& writer, const OdCmColor& color, const CFxString& view)
 {
     Fill statement = writer.fillIndented(solidBackground);
     statement.number(processCounters.of(writer.target).solidBackgrounds++);

@@ -9,8 +9,8 @@
 
 /// `position` is an enumerator, such as "iwImageBackgroundPosition_Center"; the numbers are those of the host's call,
 /// in its order.
-QString EmitImageBackground(Writer& writer, const CFxString& path, const CFxString& position,
+Statement EmitImageBackground(Writer& writer, const CFxString& path, const CFxString& position,
                             const std::array<double, 4>& numbers, const CFxString& view);
-QString EmitGradientBackground(Writer& writer, const OdCmColor& top, const OdCmColor& middle, const OdCmColor& bottom,
+Statement EmitGradientBackground(Writer& writer, const OdCmColor& top, const OdCmColor& middle, const OdCmColor& bottom,
                                double rotation, double height, const CFxString& view);
-QString EmitSolidBackground(Writer& writer, const OdCmColor& color, const CFxString& view);
+Statement EmitSolidBackground(Writer& writer, const OdCmColor& color, const CFxString& view);

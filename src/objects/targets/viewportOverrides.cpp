@@ -57,8 +57,8 @@ static const Phrase rgbColor{
     }};
 
 /// `locals`: what the value needs in front of the call, in C++ alone.
-static QString setOverride(Writer& writer, const Phrase& phrase, const CFxString& layer, const CFxString& operation,
-                           const QString& value, const QString& suffix, const QString& locals = {})
+static Statement setOverride(Writer& writer, const Phrase& phrase, const CFxString& layer, const CFxString& operation,
+                           const Statement& value, const QString& suffix, const Statement& locals = {})
 {
     Fill call = writer.fill(phrase);
     call.text(layer).text(operation).text(value);
@@ -73,12 +73,12 @@ static QString nextSuffix(Writer& writer)
     return writer.target == Target::Cpp ? "ViewPortOverride" + QString::number(++writer.UniqueCounter) : QString();
 }
 
-QString EmitViewportOverrideBool(Writer& writer, const CFxString& layer, const CFxString& operation, bool value)
+Statement EmitViewportOverrideBool(Writer& writer, const CFxString& layer, const CFxString& operation, bool value)
 {
     return setOverride(writer, overrideValue, layer, operation, truthWord(writer.target, value), nextSuffix(writer));
 }
 
-QString EmitViewportOverrideColor(Writer& writer, const CFxString& layer, const CFxString& operation,
+Statement EmitViewportOverrideColor(Writer& writer, const CFxString& layer, const CFxString& operation,
                                   const OdCmColor& color)
 {
     const bool indexed = color.isByBlock() || color.isByLayer() || color.isByACI();
@@ -96,7 +96,7 @@ QString EmitViewportOverrideColor(Writer& writer, const CFxString& layer, const 
                    : setOverride(writer, overrideValue, layer, operation, words, suffix);
 }
 
-QString EmitViewportOverrideLineStyle(Writer& writer, const CFxString& layer, const CFxString& operation,
+Statement EmitViewportOverrideLineStyle(Writer& writer, const CFxString& layer, const CFxString& operation,
                                       const OdDbObjectId& id)
 {
     const auto style = odrxCast<OdDbLinetypeTableRecord>(id.openObject(true).get());
@@ -104,15 +104,15 @@ QString EmitViewportOverrideLineStyle(Writer& writer, const CFxString& layer, co
 }
 
 /// A page hands enumerators over as texts.
-QString EmitViewportOverrideLineWeight(Writer& writer, const CFxString& layer, const CFxString& operation, int weight)
+Statement EmitViewportOverrideLineWeight(Writer& writer, const CFxString& layer, const CFxString& operation, int weight)
 {
     const Phrase& phrase = writer.target == Target::JavaScript ? overrideText : overrideValue;
     return setOverride(writer, phrase, layer, operation, LineWeightEnumerator(writer.target, weight),
                        nextSuffix(writer));
 }
 
-QString EmitViewportOverrideText(Writer& writer, const CFxString& layer, const CFxString& operation,
+Statement EmitViewportOverrideText(Writer& writer, const CFxString& layer, const CFxString& operation,
                                  const CFxString& value, bool quoted)
 {
-    return setOverride(writer, quoted ? overrideText : overrideValue, layer, operation, value, nextSuffix(writer));
+    return setOverride(writer, quoted ? overrideText : overrideValue, layer, operation, value.toQString(), nextSuffix(writer));
 }

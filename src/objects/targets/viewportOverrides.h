@@ -6,13 +6,13 @@
 
 // What a layer looks like in the active viewport. `operation` is the host's.
 
-QString EmitViewportOverrideBool(Writer& writer, const CFxString& layer, const CFxString& operation, bool value);
-QString EmitViewportOverrideColor(Writer& writer, const CFxString& layer, const CFxString& operation,
+Statement EmitViewportOverrideBool(Writer& writer, const CFxString& layer, const CFxString& operation, bool value);
+Statement EmitViewportOverrideColor(Writer& writer, const CFxString& layer, const CFxString& operation,
                                   const OdCmColor& color);
 /// Empty for a style that the drawing does not have.
-QString EmitViewportOverrideLineStyle(Writer& writer, const CFxString& layer, const CFxString& operation,
+Statement EmitViewportOverrideLineStyle(Writer& writer, const CFxString& layer, const CFxString& operation,
                                       const OdDbObjectId& id);
 /// `weight` is in hundredths of a millimetre, -1 by layer, -2 by block.
-QString EmitViewportOverrideLineWeight(Writer& writer, const CFxString& layer, const CFxString& operation, int weight);
-QString EmitViewportOverrideText(Writer& writer, const CFxString& layer, const CFxString& operation,
+Statement EmitViewportOverrideLineWeight(Writer& writer, const CFxString& layer, const CFxString& operation, int weight);
+Statement EmitViewportOverrideText(Writer& writer, const CFxString& layer, const CFxString& operation,
                                  const CFxString& value, bool quoted);

@@ -8,12 +8,12 @@ class CFxConverterIWAPICPP final : public MacroFrame
 public:
     using MacroFrame::MacroFrame;
 
-    QString EmitFileHeader(const QString& className, bool hasSysVar) override;
-    QString EmitFileFooter() override;
+    Statement EmitFileHeader(const QString& className, bool hasSysVar) override;
+    Statement EmitFileFooter() override;
     std::int32_t EmitProjectFiles(const QString& path) override;
 
 private:
     /// The header with the export macros; `name` is its own, without extension.
-    QString EmitProgramText(const QString& name) const;
-    QString EmitProjectText(const QString& projectName) const;
+    Statement EmitProgramText(const QString& name) const;
+    Statement EmitProjectText(const QString& projectName) const;
 };

@@ -36,14 +36,14 @@ static const FileHead head{
                    "    if ( !iwViewManager )%1    {%1        return false;%1    }%1%1",
 };
 
-QString CFxConverterIWAPICPP::EmitFileHeader(const QString& className, bool)
+Statement CFxConverterIWAPICPP::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 1;
     const Template words(head.words(writer.repairs).constData(), writer.target);
     return writer.fill(words).text(LineEnd).text(className).text(RecordingSheetName);
 }
 
-QString CFxConverterIWAPICPP::EmitFileFooter()
+Statement CFxConverterIWAPICPP::EmitFileFooter()
 {
     writer.IndentLevel -= 1;
     static const Template words("    return true;%1}%1%1const iwString &CMacroCommand::GetName() const%1{%1"

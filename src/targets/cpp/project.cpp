@@ -138,19 +138,19 @@ private:
 };
 )";
 
-static QString named(const char* words, const QString& name)
+static Statement named(const char* words, const QString& name)
 {
     const Template text(words, Target::Cpp);
     return fillProject(text).text(name).text(LineEnd);
 }
 
-static QString exports(const QString& projectName)
+static Statement exports(const QString& projectName)
 {
     static const Template words("LIBRARY\t\"%2\"%1%1EXPORTS%1connectToInkwright%1disconnectFromInkwright%1");
     return fillProject(words).text(LineEnd).text(projectName);
 }
 
-QString CFxConverterIWAPICPP::EmitProgramText(const QString& name) const
+Statement CFxConverterIWAPICPP::EmitProgramText(const QString& name) const
 {
     return named(exportHeader, name);
 }
@@ -163,6 +163,6 @@ std::int32_t CFxConverterIWAPICPP::EmitProjectFiles(const QString& path)
                                {name + ".vcproj", EmitProjectText(name), false},
                                {"iwAddinConnection.h", named(connectionHeader, name), true},
                                {"iwAddinConnection.cpp", named(connectionSource, name), true},
-                               {name + ".h", commandHeader, true},
+                               {name + ".h", QString(commandHeader), true},
                                {name + ".def", exports(name), false}});
 }

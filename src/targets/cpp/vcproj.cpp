@@ -230,7 +230,7 @@ QByteArray projectWords()
 
 } // namespace
 
-QString CFxConverterIWAPICPP::EmitProjectText(const QString& projectName) const
+Statement CFxConverterIWAPICPP::EmitProjectText(const QString& projectName) const
 {
     static const Template words(projectWords().constData());
     return fillProject(words)

@@ -8,8 +8,8 @@ class CFxConverterIWAPICPPCOM final : public MacroFrame
 public:
     explicit CFxConverterIWAPICPPCOM(Writer& writer);
 
-    QString EmitFileHeader(const QString& className, bool hasSysVar) override;
-    QString EmitFileFooter() override;
+    Statement EmitFileHeader(const QString& className, bool hasSysVar) override;
+    Statement EmitFileFooter() override;
     std::int32_t EmitProjectFiles(const QString& path) override;
 
 private:

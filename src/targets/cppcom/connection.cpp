@@ -151,19 +151,19 @@ private:
 
 namespace inkmacro::cppcom {
 
-QString connectionHeader(const QString& name)
+Statement connectionHeader(const QString& name)
 {
     const Template words(withIdentifier(headerText, {"LIBID_%1Lib"}, name).constData(), Target::CppCom);
     return fillProject(words).text(name).text(LineEnd);
 }
 
-QString connectionSource(const QString& name)
+Statement connectionSource(const QString& name)
 {
     static const Template words(sourceText, Target::CppCom);
     return fillProject(words).text(name).text(LineEnd);
 }
 
-QString commandHeader()
+Statement commandHeader()
 {
     return QString::fromLatin1(commandText);
 }

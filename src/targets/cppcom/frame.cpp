@@ -153,7 +153,7 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 )",
 };
 
-QString CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool)
+Statement CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 1;
     const Template words((cppcom::withIdentifier(server, {"C%2Module", "LIBID_%2Lib", "IDR_%2,"}, className) +
@@ -165,7 +165,7 @@ QString CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool)
                       writer.fill(words).text(LineEnd).text(className).text(serverId).text(RecordingSheetName));
 }
 
-QString CFxConverterIWAPICPPCOM::EmitFileFooter()
+Statement CFxConverterIWAPICPPCOM::EmitFileFooter()
 {
     writer.IndentLevel -= 1;
     static const Template words("}%1%1", writer.target);

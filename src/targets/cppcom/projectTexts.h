@@ -10,34 +10,34 @@
 namespace inkmacro::cppcom {
 
 // The object that the host connects to, and the command that runs the macro: connection.cpp.
-QString connectionHeader(const QString& name);
-QString connectionSource(const QString& name);
-QString commandHeader();
+Statement connectionHeader(const QString& name);
+Statement connectionSource(const QString& name);
+Statement commandHeader();
 
 // What the server offers and how it is registered: registration.cpp.
 /// Ids without braces.
-QString interfaceDefinition(const QString& name, const QString& typeLibraryId, const QString& classId);
+Statement interfaceDefinition(const QString& name, const QString& typeLibraryId, const QString& classId);
 /// Ids with braces.
-QString connectionRegistration(const QString& name, const QString& classId, const QString& typeLibraryId);
-QString serverRegistration(const QString& name);
-QString serverExports(const QString& name);
-QString proxyExports(const QString& name);
+Statement connectionRegistration(const QString& name, const QString& classId, const QString& typeLibraryId);
+Statement serverRegistration(const QString& name);
+Statement serverExports(const QString& name);
+Statement proxyExports(const QString& name);
 
 // Resources: resources.cpp.
-QString resourceHeader(const QString& name);
-QString resourceScript(const QString& name);
+Statement resourceHeader(const QString& name);
+Statement resourceScript(const QString& name);
 
 /// The words of a text in which the name stands as a part of identifiers, at those places: in a repaired project it is
 /// a legal one there.
 QByteArray withIdentifier(QByteArray words, std::initializer_list<const char*> places, const QString& name);
 
 // What all sources of the project share: support.cpp.
-QString precompiledHeader();
-QString precompiledSource();
-QString safeArrayHeader();
-QString typeConverterHeader();
+Statement precompiledHeader();
+Statement precompiledSource();
+Statement safeArrayHeader();
+Statement typeConverterHeader();
 
 // The project of the development environment: vcproj.cpp. The id comes with braces.
-QString environmentProject(const QString& name, const QString& projectId);
+Statement environmentProject(const QString& name, const QString& projectId);
 
 } // namespace inkmacro::cppcom

@@ -107,32 +107,32 @@ EXPORTS
 
 namespace inkmacro::cppcom {
 
-QString interfaceDefinition(const QString& name, const QString& typeLibraryId, const QString& classId)
+Statement interfaceDefinition(const QString& name, const QString& typeLibraryId, const QString& classId)
 {
     const Template words(withIdentifier(interfaceText, {"library %1Lib"}, name).constData());
     const QString interfaceId = QUuid::createUuid().toString(QUuid::WithoutBraces);
     return fillProject(words).text(name).text(LineEnd).text(interfaceId).text(typeLibraryId).text(classId);
 }
 
-QString connectionRegistration(const QString& name, const QString& classId, const QString& typeLibraryId)
+Statement connectionRegistration(const QString& name, const QString& classId, const QString& typeLibraryId)
 {
     static const Template words(connectionScript);
     return fillProject(words).text(name).text(LineEnd).text(classId).text(typeLibraryId);
 }
 
-QString serverRegistration(const QString& name)
+Statement serverRegistration(const QString& name)
 {
     static const Template words(serverScript);
     return fillProject(words).text(name).text(LineEnd);
 }
 
-QString serverExports(const QString& name)
+Statement serverExports(const QString& name)
 {
     static const Template words(serverExportsText);
     return fillProject(words).text(name).text(LineEnd);
 }
 
-QString proxyExports(const QString& name)
+Statement proxyExports(const QString& name)
 {
     static const Template words(proxyExportsText);
     return fillProject(words).text(name).text(LineEnd);

@@ -148,13 +148,13 @@ END
 
 namespace inkmacro::cppcom {
 
-QString resourceHeader(const QString& name)
+Statement resourceHeader(const QString& name)
 {
     const Template words(withIdentifier(headerText, {"IDR_%1 "}, name).constData());
     return fillProject(words).text(name).text(LineEnd);
 }
 
-QString resourceScript(const QString& name)
+Statement resourceScript(const QString& name)
 {
     const Template words(withIdentifier(scriptText, {"IDR_%5 "}, name).constData());
     return fillProject(words).text(LineEnd).number(1).number(2).number(3).text(name);

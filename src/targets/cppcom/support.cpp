@@ -309,7 +309,7 @@ public:
 
 namespace inkmacro::cppcom {
 
-QString precompiledHeader()
+Statement precompiledHeader()
 {
     static const Template words(precompiledHeaderText);
     return fillProject(words)
@@ -318,18 +318,18 @@ QString precompiledHeader()
         .text(installedPath("bin\\iwAutomation.dll"));
 }
 
-QString precompiledSource()
+Statement precompiledSource()
 {
     static const Template words(precompiledSourceText);
     return fillProject(words).text(LineEnd);
 }
 
-QString safeArrayHeader()
+Statement safeArrayHeader()
 {
     return QString::fromLatin1(safeArrayText);
 }
 
-QString typeConverterHeader()
+Statement typeConverterHeader()
 {
     return QString::fromLatin1(typeConverterText);
 }

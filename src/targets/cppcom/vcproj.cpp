@@ -243,7 +243,7 @@ static QByteArray project()
 
 namespace inkmacro::cppcom {
 
-QString environmentProject(const QString& name, const QString& projectId)
+Statement environmentProject(const QString& name, const QString& projectId)
 {
     static const Template words(project().constData());
     return fillProject(words).text(xmlText(name)).text(LineEnd).text(projectId);

@@ -35,7 +35,7 @@ static const FileHead head{
 
 static const char* const optionResult = "            iwSetCommandOptionResult_e result;%1";
 
-QString CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool hasSysVar)
+Statement CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool hasSysVar)
 {
     QByteArray frame = head.words(writer.repairs);
     if (hasSysVar)
@@ -46,7 +46,7 @@ QString CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool h
     return faultyName(className, writer.fill(words).text(LineEnd).text(identifier(className)).text(RecordingSheetName));
 }
 
-QString CFxConverterIWAPICSharp::EmitFileFooter()
+Statement CFxConverterIWAPICSharp::EmitFileFooter()
 {
     writer.IndentLevel -= 3;
     static const Template words("        }%1    }%1}%1", writer.target);

@@ -2,6 +2,8 @@
 
 #include "statements/LineEnd.h"
 #include "statements/wording.h"
+
+#include <QFileInfo>
 #include "targets/comReference.h"
 #include "targets/csharp/CFxConverterIWAPICSharp.h"
 #include "targets/projectFiles.h"
@@ -76,24 +78,24 @@ static const char* const projectClosing = R"(  <Import Project="$(MSBuildBinPath
 </Project>
 )";
 
-QString CFxConverterIWAPICSharp::EmitProgramText(const QString& projectName) const
+Statement CFxConverterIWAPICSharp::EmitProgramText(const QString& projectName) const
 {
     static const Template words(program);
     return fillProject(words).text(identifier(projectName)).text(LineEnd);
 }
 
-QString CFxConverterIWAPICSharp::EmitProjectText(const QString& projectName) const
+Statement CFxConverterIWAPICSharp::EmitProjectText(const QString& projectName, const QString& macroFile) const
 {
     QByteArray project = QByteArray(projectOpening) + comReference + projectClosing;
     if (writer.repairs)
         project.replace("%1.cs", "%3");
     const Template words(project.constData());
-    return fillProject(words).text(xmlText(identifier(projectName))).text(LineEnd).text(xmlText(writer.file));
+    return fillProject(words).text(xmlText(identifier(projectName))).text(LineEnd).text(xmlText(macroFile));
 }
 
 std::int32_t CFxConverterIWAPICSharp::EmitProjectFiles(const QString& path)
 {
     const QString name = projectName(path);
     return WriteProject(
-        path, {{"Program.cs", EmitProgramText(name), false}, {name + ".csproj", EmitProjectText(name), false}});
+        path, {{"Program.cs", EmitProgramText(name), false}, {name + ".csproj", EmitProjectText(name, QFileInfo(path).fileName()), false}});
 }

@@ -8,6 +8,6 @@ class CFxConverterIWAPIJavaScript final : public MacroFrame
 public:
     using MacroFrame::MacroFrame;
 
-    QString EmitFileHeader(const QString& className, bool hasSysVar) override;
-    QString EmitFileFooter() override;
+    Statement EmitFileHeader(const QString& className, bool hasSysVar) override;
+    Statement EmitFileFooter() override;
 };

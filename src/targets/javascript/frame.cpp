@@ -144,7 +144,7 @@ static QByteArray pageHead()
     return head.append(variables);
 }
 
-QString CFxConverterIWAPIJavaScript::EmitFileHeader(const QString&, bool)
+Statement CFxConverterIWAPIJavaScript::EmitFileHeader(const QString&, bool)
 {
     QByteArray head = pageHead();
     if (!RecordingInModel)
@@ -155,7 +155,7 @@ QString CFxConverterIWAPIJavaScript::EmitFileHeader(const QString&, bool)
     return writer.fill(words).text(LineEnd).text(RecordingSheetName);
 }
 
-QString CFxConverterIWAPIJavaScript::EmitFileFooter()
+Statement CFxConverterIWAPIJavaScript::EmitFileFooter()
 {
     writer.IndentLevel -= 3;
     static const Template words(

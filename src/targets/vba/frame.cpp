@@ -48,7 +48,7 @@ static const FileHead head{
 
 /// `Return` ends a GoSub. No macro gets there that finds the sheet, so it counts as no fault, but a repaired one leaves
 /// the procedure as VBA does.
-QString CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
+Statement CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
 {
     writer.IndentLevel += 2;
     QByteArray text = head.words(writer.repairs);
@@ -59,7 +59,7 @@ QString CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
 }
 
 /// Leaves the level.
-QString CFxConverterIWAPIVba::EmitFileFooter()
+Statement CFxConverterIWAPIVba::EmitFileFooter()
 {
     static const Template words("\tElse%1%1\t\tMsgBox \"There are no open documents in Inkwright\"%1%1\tEnd If%1"
                                 "End Sub%1",

@@ -8,11 +8,11 @@ class CFxConverterIWAPIVbNet final : public MacroFrame
 public:
     using MacroFrame::MacroFrame;
 
-    QString EmitFileHeader(const QString& className, bool hasSysVar) override;
-    QString EmitFileFooter() override;
+    Statement EmitFileHeader(const QString& className, bool hasSysVar) override;
+    Statement EmitFileFooter() override;
     std::int32_t EmitProjectFiles(const QString& path) override;
 
 private:
-    QString EmitProgramText(const QString& projectName) const;
-    QString EmitProjectText(const QString& projectName) const;
+    Statement EmitProgramText(const QString& projectName) const;
+    Statement EmitProjectText(const QString& projectName, const QString& macroFile) const;
 };

@@ -30,7 +30,7 @@ static const FileHead head{
                    "            Return%2        End If%2%2",
 };
 
-QString CFxConverterIWAPIVbNet::EmitFileHeader(const QString& className, bool)
+Statement CFxConverterIWAPIVbNet::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 2;
     const Template words(head.words(writer.repairs).constData(), writer.target);
@@ -38,7 +38,7 @@ QString CFxConverterIWAPIVbNet::EmitFileHeader(const QString& className, bool)
 }
 
 /// Leaves the level, and the last line without an end.
-QString CFxConverterIWAPIVbNet::EmitFileFooter()
+Statement CFxConverterIWAPIVbNet::EmitFileFooter()
 {
     static const Template words("%2    End Sub%2%2End Class", writer.target);
     return writer.fill(words).text(LineEnd);

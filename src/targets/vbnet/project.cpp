@@ -2,6 +2,8 @@
 
 #include "statements/LineEnd.h"
 #include "statements/wording.h"
+
+#include <QFileInfo>
 #include "targets/comReference.h"
 #include "targets/projectFiles.h"
 #include "targets/vbnet/CFxConverterIWAPIVbNet.h"
@@ -98,24 +100,24 @@ static const char* const projectClosing = R"(  <ItemGroup>
 </Project>
 )";
 
-QString CFxConverterIWAPIVbNet::EmitProgramText(const QString& projectName) const
+Statement CFxConverterIWAPIVbNet::EmitProgramText(const QString& projectName) const
 {
     static const Template words(program);
     return fillProject(words).text(identifier(projectName)).text(LineEnd);
 }
 
-QString CFxConverterIWAPIVbNet::EmitProjectText(const QString& projectName) const
+Statement CFxConverterIWAPIVbNet::EmitProjectText(const QString& projectName, const QString& macroFile) const
 {
     QByteArray project = QByteArray(projectOpening) + comReference + projectClosing;
     if (writer.repairs)
         project.replace("%1.vb", "%3");
     const Template words(project.constData());
-    return fillProject(words).text(xmlText(identifier(projectName))).text(LineEnd).text(xmlText(writer.file));
+    return fillProject(words).text(xmlText(identifier(projectName))).text(LineEnd).text(xmlText(macroFile));
 }
 
 std::int32_t CFxConverterIWAPIVbNet::EmitProjectFiles(const QString& path)
 {
     const QString name = projectName(path);
     return WriteProject(
-        path, {{"Module1.vb", EmitProgramText(name), false}, {name + ".vbproj", EmitProjectText(name), false}});
+        path, {{"Module1.vb", EmitProgramText(name), false}, {name + ".vbproj", EmitProjectText(name, QFileInfo(path).fileName()), false}});
 }

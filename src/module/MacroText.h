@@ -1,7 +1,7 @@
 #pragma once
 
+#include "module/Locals.h"
 #include "statements/Fault.h"
-#include "statements/Locals.h"
 
 #include <QString>
 #include <QStringView>
@@ -45,10 +45,9 @@ public:
         std::size_t line; ///< from 1
     };
 
-    MacroText(Target target, bool repairs);
+    /// `notesFaults`: whether lines are looked at for faults.
+    MacroText(Target target, bool repairs, bool notesFaults);
 
-    /// From here on lines are looked at for faults.
-    void noteFaults() { notesFaults_ = true; }
     void write(QTextStream& stream, Kind kind, QStringView text);
     /// The line that is written next has it.
     void noteFault(const Fault& fault) { faults_.push_back({&fault, line_}); }
@@ -63,7 +62,7 @@ private:
 
     const Target target_;
     const bool repairs_;
-    bool notesFaults_ = false;
+    const bool notesFaults_;
     std::size_t line_ = 1; ///< that is written next
     QString begun_;        ///< what is there of that line
     Locals locals_;

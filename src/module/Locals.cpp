@@ -1,4 +1,4 @@
-#include "statements/Locals.h"
+#include "module/Locals.h"
 
 #include <QVarLengthArray>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "statements/MacroText.h"
+#include "module/MacroText.h"
 
 #include <condition_variable>
 #include <exception>

@@ -1,4 +1,4 @@
-#include "statements/MacroText.h"
+#include "module/MacroText.h"
 
 #include <QTextStream>
 
@@ -47,7 +47,8 @@ const Fault kEmptyArray{"ConvertCommand", {Target::Vba}, "an array without eleme
 
 } // namespace
 
-MacroText::MacroText(Target target, bool repairs) : target_(target), repairs_(repairs), locals_(target)
+MacroText::MacroText(Target target, bool repairs, bool notesFaults)
+    : target_(target), repairs_(repairs), notesFaults_(notesFaults), locals_(target)
 {
 }
 

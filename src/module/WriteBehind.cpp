@@ -1,4 +1,4 @@
-#include "statements/WriteBehind.h"
+#include "module/WriteBehind.h"
 
 #include "threads/background.h"
 

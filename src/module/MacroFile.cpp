@@ -1,0 +1,68 @@
+#include "module/MacroFile.h"
+
+#include "host/kernel/CFxServices.h"
+#include "statements/Fault.h"
+
+#include <variant>
+
+using namespace inkmacro;
+
+MacroFile::MacroFile(QTextStream& stream, const QString& name, Target target, bool repairs, bool notesFaults)
+    : name_(name), stream_(stream), text_(target, repairs, notesFaults), behind_(text_, stream)
+{
+}
+
+void MacroFile::write(const Statement& statements)
+{
+    write(statements, Kind::Statements);
+}
+
+void MacroFile::writeDeclarations(const Statement& declarations)
+{
+    write(declarations, declarations.hasNotes() ? Kind::Statements : Kind::Declarations);
+}
+
+void MacroFile::write(const Statement& statements, Kind kind)
+{
+    const QStringView text(statements.text());
+    qsizetype from = 0;
+    for (const StatementNote& note : statements.notes()) {
+        put(kind, text.mid(from, note.offset - from));
+        from = note.offset;
+        if (const auto* const fault = std::get_if<const Fault*>(&note.what))
+            put(**fault);
+        else
+            put(std::get<LateText>(note.what));
+    }
+    put(kind, text.mid(from));
+}
+
+void MacroFile::put(Kind kind, QStringView text)
+{
+    if (!text.isEmpty())
+        note(behind_.write(kind, text));
+}
+
+void MacroFile::put(const LateText& text)
+{
+    QString part = text(0);
+    for (std::size_t number = 1; !part.isEmpty(); ++number) {
+        put(Kind::Statements, part);
+        part = text(number);
+    }
+}
+
+void MacroFile::finish()
+{
+    note(behind_.finish());
+    text_.finish(stream_);
+}
+
+void MacroFile::note(const std::vector<MacroText::FoundFault>& faults) const
+{
+    for (const auto& [fault, line] : faults)
+        GetFxSystemServices()->Notes().NoteFault([&, fault = fault, line = line] {
+            return CFxFaultNote{fault->operation(), fault->reason(), name_, static_cast<std::uint32_t>(line),
+                                fault->mended()};
+        });
+}
