@@ -21,7 +21,7 @@ inline CFxVariantCollectionElement item(std::int32_t number, const char* text)
 /// What becomes of the records of the object "it1", all of which must be known to the class.
 inline QString changedIn(TestTarget& made, const char* cls, PropertyList list)
 {
-    QString text;
+    Statement text;
     const RecordedObject object{oddbClassByName(cls), {}, "it1"};
     const ClassChanges& changes = FindClass(QString(cls))->changes;
     if (changes.groups)
@@ -29,7 +29,7 @@ inline QString changedIn(TestTarget& made, const char* cls, PropertyList list)
     else
         changes.handler(made.conversion, object, list, text);
     EXPECT_TRUE(list.empty()) << cls;
-    return text;
+    return textOf(text);
 }
 
 inline std::string changed(const char* cls, const PropertyList& list,

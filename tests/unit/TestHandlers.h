@@ -12,8 +12,10 @@ class Handlers : public testing::Test
 protected:
     std::int32_t convert(std::int32_t kind, const TestData& data, const QString& before = "x")
     {
-        text = before;
-        return ConvertAction(conversion, odrxNew<TestCustom>(kind, data), text);
+        Statement statement = before;
+        const std::int32_t status = ConvertAction(conversion, odrxNew<TestCustom>(kind, data), statement);
+        text = textOf(statement);
+        return status;
     }
     std::string converted(std::int32_t kind, const TestData& data, const QString& before = "x")
     {
@@ -25,5 +27,5 @@ protected:
     TestTarget csharp{inkmacro::Target::CSharp};
     Conversion& conversion = csharp.conversion;
     TestConversion recording; ///< for actions within a recording
-    QString text;              ///< what the last action left
+    QString text;             ///< what the last action left
 };

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "host/kernel/CFxServices.h"
 #include "conversion/Conversion.h"
 #include "host/db/OdDbClasses.h"
+#include "host/kernel/CFxServices.h"
+#include "statements/Statement.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +11,11 @@ inline constexpr inkmacro::Target allTargets[] = {
     inkmacro::Target::Cpp,        inkmacro::Target::CppCom, inkmacro::Target::CSharp,
     inkmacro::Target::JavaScript, inkmacro::Target::VbNet,  inkmacro::Target::Vba,
 };
+
+inline QString textOf(const Statement& statement)
+{
+    return statement;
+}
 
 /// The statements of one target without their file around them, prompts included. The host is set to record that
 /// target's language.
@@ -25,13 +31,15 @@ struct TestTarget
     TestTarget(const TestTarget&) = delete;
     TestTarget& operator=(const TestTarget&) = delete;
 
+    /// How many objects have a variable. Takes a number itself.
+    std::uint32_t objectCount() { return conversion.names().RegisterObject(OdDbHandle(~0ULL), nullptr).ordinal - 1; }
+
 private:
     std::int16_t before_;
 
 public:
-    Driver driver;
+    Conversion conversion;
     Writer& writer = conversion.writer;
-    CFxConverterIWAPIObject objects{driver};
 };
 
 /// One text a target.

@@ -6,7 +6,9 @@
 #include "TestRecords.h"
 #include "TestTarget.h"
 
+#include "module/walk.h"
 #include "objects/blockContents.h"
+#include "objects/entries.h"
 #include "statements/counters.h"
 
 #include <gtest/gtest.h>
@@ -44,16 +46,16 @@ protected:
     }
     QString block(const Ids& entities)
     {
-        return CreateBlockDefinition(made.conversion, {"b", "B", false, "", {}, entities});
+        return textOf(CreateBlockDefinition(made.conversion, {"b", "B", false, "", {}, entities}));
     }
     QString add(const char* cls, std::uint64_t handle, PropertyList records = {})
     {
         know(handle, cls);
         PropertyList rest;
-        QString text;
+        Statement text;
         EXPECT_EQ(ConvertAddedObject(made.conversion, oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
                   kFxSuccess);
-        return text;
+        return textOf(text);
     }
 
     TestDrawing drawing;
@@ -94,7 +96,7 @@ TEST_F(Blocks, TakeEntitiesThatTheMacroKnowsByTheFirstKindThatFits)
         TestTarget target(Target::Cpp);
         drawing.add(0x10, cls);
         target.conversion.names().RegisterObject(OdDbHandle(0x10), oddbClassByName(cls));
-        const QString text = CreateBlockDefinition(target.conversion, {"b", "B", false, "", {}, ids({0x10})});
+        const QString text = textOf(CreateBlockDefinition(target.conversion, {"b", "B", false, "", {}, ids({0x10})}));
         EXPECT_TRUE(text.contains(QString(" objecttypes_1.add(%1);\n").arg(type))) << cls << '\n' << text.toStdString();
     }
 }
@@ -171,7 +173,7 @@ TEST_F(Blocks, TellFromTheLoopsHowAHatchWasMade)
 TEST_F(Blocks, KeepTheirNamesWhenTheyAreRenewed)
 {
     const auto renewed = [&](TestTarget& target) {
-        return CreateBlockDefinition(target.conversion, {"b", "B", true, "d", {1, 2, 3}, {}});
+        return textOf(CreateBlockDefinition(target.conversion, {"b", "B", true, "d", {1, 2, 3}, {}}));
     };
     const auto tail = [](QString text) {
         text.remove(".00000000000000");
@@ -228,7 +230,7 @@ TEST_F(Blocks, AreReferencedByTheRecordsAloneWhenTheDrawingLacksThem)
               " blockinstance1 = iwApp.GetActiveDocument().GetModel().GetSketchManager().InsertBlock2( \"\", 0, 0, 0, "
               "1, 2, 1, 0 );\n");
     drawing.add(kReference, "AcDbLine");
-    QString text;
+    Statement text;
     EXPECT_EQ(ConvertAction(made.conversion, odrxNew<TestAdded>("AcDbBlockReference", kReference), text), kFxFailure);
 }
 

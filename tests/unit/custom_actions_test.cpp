@@ -42,11 +42,11 @@ TEST_F(CustomActions, WithoutAHandlerAreRefused)
         EXPECT_EQ(convert(kind, {}), kFxFailure) << kind;
         EXPECT_EQ(text, "x");
     }
-    EXPECT_EQ(conversion.run({addedLine(1), odrxNew<TestCustom>(56)}), kFxFailure);
-    EXPECT_FALSE(QFileInfo::exists(conversion.path()));
-    EXPECT_EQ(conversion.run({command({addedLine(1), odrxNew<TestCustom>(-1), addedLine(2)})}), kFxSuccess);
-    EXPECT_TRUE(conversion.body().contains("line1 = "));
-    EXPECT_FALSE(conversion.body().contains("line2 = "));
+    EXPECT_EQ(recording.run({addedLine(1), odrxNew<TestCustom>(56)}), kFxFailure);
+    EXPECT_FALSE(QFileInfo::exists(recording.path()));
+    EXPECT_EQ(recording.run({command({addedLine(1), odrxNew<TestCustom>(-1), addedLine(2)})}), kFxSuccess);
+    EXPECT_TRUE(recording.body().contains("line1 = "));
+    EXPECT_FALSE(recording.body().contains("line2 = "));
 }
 
 TEST_F(CustomActions, FailWhenTheirElementsDoNotFit)
@@ -119,16 +119,16 @@ TEST_F(CustomActions, MayHaveNothingToSay)
 
 TEST_F(CustomActions, InsertEmbeddedObjectsIntoTheirCommandsVariable)
 {
-    ASSERT_EQ(conversion.run({command({odrxNew<TestAdded>("AcDbOle2Frame", 1),
-                                       odrxNew<TestCustom>(15, TestData{2, CFxString("C:\\data\\sum.xls")})})}),
+    ASSERT_EQ(recording.run({command({odrxNew<TestAdded>("AcDbOle2Frame", 1),
+                                      odrxNew<TestCustom>(15, TestData{2, CFxString("C:\\data\\sum.xls")})})}),
               kFxSuccess);
-    EXPECT_EQ(conversion.body(), "            EmbeddedObject embeddedobject1;\n"
-                                 "            {\n"
-                                 "                embeddedobject1 = iwSketchManager.InsertEmbeddedObjectFromFile(\n"
-                                 "                 \"C:\\\\data\\\\sum.xls\", \n"
-                                 "                 false, \n"
-                                 "                 true);\n"
-                                 "            }\n");
+    EXPECT_EQ(recording.body(), "            EmbeddedObject embeddedobject1;\n"
+                                "            {\n"
+                                "                embeddedobject1 = iwSketchManager.InsertEmbeddedObjectFromFile(\n"
+                                "                 \"C:\\\\data\\\\sum.xls\", \n"
+                                "                 false, \n"
+                                "                 true);\n"
+                                "            }\n");
     EXPECT_EQ(EmitInsertEmbeddedObject(TestTarget(Target::Vba).writer, "o", "p", true, false),
               " Set o = iwSketchManager.InsertEmbeddedObjectFromFile( \"p\", True, False )\n");
     EXPECT_EQ(EmitInsertEmbeddedObject(TestTarget(Target::VbNet).writer, "o", "p", true, false),
@@ -155,8 +155,8 @@ TEST_F(CustomActions, EraseALeadersNoteThroughItsLeader)
 
 TEST_F(CustomActions, SetElementColorsInVariablesThatAreDeclaredOnce)
 {
-    const QString first = EmitSetElementColor(conversion.writer, 7, OdCmColor::byIndex(30));
-    const QString second = EmitSetElementColor(conversion.writer, 7, OdCmColor::byIndex(30));
+    const QString first = textOf(EmitSetElementColor(conversion.writer, 7, OdCmColor::byIndex(30)));
+    const QString second = textOf(EmitSetElementColor(conversion.writer, 7, OdCmColor::byIndex(30)));
     EXPECT_EQ(second, " ElementOption = (iwElementColor_e)7;\n"
                       " iwColor1 = iwApp.GetColorByIndex( 30 );\n"
                       " appOption.SetElementColor(ElementOption, iwColor1);\n");
@@ -254,8 +254,8 @@ TEST_F(CustomActions, InsertViewportsWithoutABlock)
 {
     const TestData data{
         Points{{0.0, 0.0, 0.0}, {5.5, 0.0, 1e6}}, Points(), true, OdDbHandle(9), cls("AcDbViewport"), CFxString("A3")};
-    ASSERT_EQ(conversion.run({command({odrxNew<TestCustom>(46, data)})}), kFxSuccess);
-    EXPECT_EQ(conversion.body(),
+    ASSERT_EQ(recording.run({command({odrxNew<TestCustom>(46, data)})}), kFxSuccess);
+    EXPECT_EQ(recording.body(),
               "            Viewport viewport1 = null;\n"
               "            Sheet sheetsArray1 = iwDoc.GetSheet(\"A3\");\n"
               "            if ( null != sheetsArray1 )\n"
@@ -280,7 +280,7 @@ TEST_F(CustomActions, SetPrintStylesOfModelAndSheets)
               "      iwSketchManager = iwSheet.GetSketchManager();\n }\n iwSheet.PrintStyle = \"a.ctb\";\n");
     TestTarget page(Target::JavaScript);
     EXPECT_EQ(EmitSetModelProperty(page.writer, "PrintStyle", "a.ctb", true, {}), "%mModel.put_\n( \"PrintStyle\" ); ");
-    EXPECT_TRUE(EmitSetModelProperty(page.writer, "PrintStyle", "a.ctb", false, "A3")
+    EXPECT_TRUE(textOf(EmitSetModelProperty(page.writer, "PrintStyle", "a.ctb", false, "A3"))
                     .endsWith("\n mSheet.put_PrintStyle( \"a.ctb\" );\n"));
 }
 
@@ -322,7 +322,7 @@ TEST_F(CustomActions, LeaveNoMarkerUnfilled)
     for (const Target target : allTargets) {
         TestTarget made(target);
         Writer& writer = made.writer;
-        const QString written =
+        const Statement written =
             EmitMirrorEntities(writer, lists, {}, {}, true) + EmitStretchEntities(writer, lists, {}, {}, {}) +
             EmitRotateEntities(writer, lists, {}, 1.0) + EmitScaleEntities(writer, lists, {}, 1.0) +
             EmitInsertEmbeddedObject(writer, "a", "b", true, true) + EmitEraseEntities(writer, names) +
@@ -333,8 +333,8 @@ TEST_F(CustomActions, LeaveNoMarkerUnfilled)
             EmitSetElementColor(writer, 1, OdCmColor::byRgb(1, 2, 3)) +
             EmitBlockAttributeValue(writer, "a", "Value", "ROOM", "12") +
             EmitSetModelProperty(writer, "PrintStyle", "a", false, "A3") +
-            (target == Target::JavaScript ? QString() : EmitInsertRegion(writer, "r", {"a", "b"}, 1));
-        EXPECT_FALSE(written.contains('%')) << written.toStdString();
+            (target == Target::JavaScript ? Statement() : EmitInsertRegion(writer, "r", {"a", "b"}, 1));
+        EXPECT_FALSE(textOf(written).contains('%')) << written.toStdString();
         EXPECT_EQ(writer.IndentLevel, 0U);
     }
 }
@@ -347,10 +347,10 @@ TEST_F(CustomActions, GoOnCountingOverConversions)
     const OdRxObjectPtr value =
         odrxNew<TestCustom>(39, TestData{OdDbHandle(2), cls("AcDbBlockReference"), CFxString("ROOM"), CFxString("12")});
     const auto run = [&](const OdRxObjectPtr& last) {
-        EXPECT_EQ(conversion.run({block, odrxNew<TestCustom>(44, line), odrxNew<TestCustom>(10, TestData{2, Points()}),
-                                  odrxNew<TestCustom>(20, TestData{1, OdCmColor::byIndex(1)}), last}),
+        EXPECT_EQ(recording.run({block, odrxNew<TestCustom>(44, line), odrxNew<TestCustom>(10, TestData{2, Points()}),
+                                 odrxNew<TestCustom>(20, TestData{1, OdCmColor::byIndex(1)}), last}),
                   kFxSuccess);
-        return conversion.body();
+        return recording.body();
     };
     const OdRxObjectPtr layer = odrxNew<TestModified>(
         "AcDbLayerTableRecord", 3, PropertyList{odrxNew<TestProperty>(CFxString("None"), CFxString("none"))});

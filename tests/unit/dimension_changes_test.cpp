@@ -4,6 +4,10 @@
 #include "TestDrawing.h"
 #include "TestTags.h"
 
+#include "host/db/OdDbClassMap.h"
+#include "objects/classTable.h"
+#include "objects/entries.h"
+
 #include <QRegularExpression>
 
 using inkmacro::Target;
@@ -44,11 +48,14 @@ protected:
     {
         const OdRxClass* const type = oddbClassByName(cls);
         made.conversion.names().RegisterObject(OdDbHandle(handleOf(cls)), type);
-        QString text;
+        Statement text;
         EXPECT_EQ(ConvertObjectChanges(made.conversion, type, OdDbHandle(handleOf(cls)), list, fromAdded, text),
                   kFxSuccess);
         static const QRegularExpression group("^(\\{|\\}|If 1 Then|End If|)\n", QRegularExpression::MultilineOption);
-        return text.remove(QRegularExpression("^ +", QRegularExpression::MultilineOption)).remove(group).toStdString();
+        return textOf(text)
+            .remove(QRegularExpression("^ +", QRegularExpression::MultilineOption))
+            .remove(group)
+            .toStdString();
     }
     std::string inCSharp(const char* cls, PropertyList list)
     {

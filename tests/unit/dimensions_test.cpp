@@ -4,6 +4,8 @@
 #include "TestDrawing.h"
 #include "TestTarget.h"
 
+#include "objects/entries.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -40,10 +42,10 @@ protected:
     {
         target.conversion.names().RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
         PropertyList rest;
-        QString text;
+        Statement text;
         EXPECT_EQ(ConvertAddedObject(target.conversion, oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
                   kFxSuccess);
-        return text.remove(".00000000000000");
+        return textOf(text).remove(".00000000000000");
     }
     QString add(const char* cls, const PropertyList& records) { return add(cls, kDimension, records, csharp); }
 

@@ -3,6 +3,8 @@
 #include "TestActions.h"
 #include "TestTarget.h"
 
+#include "actions/entries.h"
+#include "module/walk.h"
 #include "targets/entityLists.h"
 #include "targets/selections.h"
 
@@ -33,7 +35,7 @@ struct Lists : TestTarget
     }
     std::string run(std::int32_t kind, const TestData& data)
     {
-        QString text;
+        Statement text;
         EXPECT_EQ(ConvertCustomAction(conversion, *odrxNew<TestCustom>(kind, data), text), kFxSuccess);
         EXPECT_EQ(writer.UniqueCounter, 4U);
         EXPECT_EQ(writer.IndentLevel, 0U);
@@ -262,7 +264,8 @@ TEST(EntityLists, MirrorRotateAndScaleWithTheirTypes)
 TEST(EntityLists, NameTypesByNumberInAScript)
 {
     TestTarget script(Target::JavaScript);
-    const QString text = EmitScaleEntities(script.writer, {{"line1", "iwLineType", "1A"}, {"", "", "2B"}}, {}, 2.0);
+    const QString text =
+        textOf(EmitScaleEntities(script.writer, {{"line1", "iwLineType", "1A"}, {"", "", "2B"}}, {}, 2.0));
     EXPECT_TRUE(text.contains(" types0[0] = 21;\n iwEntities0[0] = line1;\n types0[1] = 0;\n")) << text.toStdString();
     EXPECT_TRUE(text.endsWith(" mSkMgr.ScaleEntities(0, 0, 2, 0, types0, iwEntities0);\n")) << text.toStdString();
 }
@@ -362,7 +365,7 @@ TEST(Selections, TakeTheFormOfTheirMode)
     }
     for (const std::int32_t mode : {5, -1})
         EXPECT_EQ(lists.select(mode, four), head + tail);
-    QString text;
+    Statement text;
     EXPECT_THROW(EmitSelectEntities(lists.writer, 1, {}, false), OdError);
     EXPECT_EQ(ConvertAction(lists.conversion, odrxNew<TestCustom>(10, TestData{1, Points()}), text), kFxFailure);
 }
@@ -399,14 +402,16 @@ TEST(Selections, ByPointsAreEmptyInThreeTargets)
 TEST(Selections, AtAPromptLookUpWhatTheMacroDoesNotKnow)
 {
     Lists lists(Target::CSharp);
-    QString text = "before";
+    Statement selected("before");
     const auto select = [&](Handles handles, Classes classes) {
-        return ConvertSelection(lists.conversion, *odrxNew<TestSelection>(std::move(handles), std::move(classes)), text);
+        return ConvertSelection(lists.conversion, *odrxNew<TestSelection>(std::move(handles), std::move(classes)),
+                                selected);
     };
     EXPECT_EQ(select({}, {}), kFxSuccess);
-    EXPECT_EQ(text, "before");
+    EXPECT_EQ(selected, "before");
     const Classes classes{oddbClassByName("AcDbLine"), oddbClassByName("AcDbCircle")};
     EXPECT_EQ(select({OdDbHandle(0x1a), OdDbHandle(0x2b)}, classes), kFxSuccess);
+    const QString text = textOf(selected);
     const QString lookup = "iwApp.GetActiveDocument().GetObjectByHandle(\"2B\", out type5)";
     EXPECT_TRUE(text.startsWith(" iwObjectType_e type5;\n"
                                 " iwObjectType_e[] types5 =\n"
@@ -435,9 +440,10 @@ TEST(Selections, AtAPromptReachByHandleInAllTargets)
 {
     for (const Target target : allTargets) {
         Lists lists(target);
-        QString text;
-        ASSERT_EQ(ConvertSelection(lists.conversion, *odrxNew<TestSelection>(Handles{OdDbHandle(0x2b)}, Classes{oddbClassByName("AcDbCircle")}), text),
-                  kFxSuccess);
+        Statement selected;
+        const auto circle = odrxNew<TestSelection>(Handles{OdDbHandle(0x2b)}, Classes{oddbClassByName("AcDbCircle")});
+        ASSERT_EQ(ConvertSelection(lists.conversion, *circle, selected), kFxSuccess);
+        const QString text = textOf(selected);
         EXPECT_EQ(text.count("GetObjectByHandle("), 2) << text.toStdString();
         EXPECT_EQ(text.count("\"2B\""), 2) << text.toStdString();
         EXPECT_FALSE(text.contains('%')) << text.toStdString();

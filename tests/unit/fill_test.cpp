@@ -1,5 +1,7 @@
 #include "statements/Fill.h"
 
+#include "TestTarget.h"
+
 #include "host/rx/OdError.h"
 #include "statements/Phrase.h"
 
@@ -99,7 +101,7 @@ QString byFill(const std::string& literal, const Values& values)
                    },
                    value);
     }
-    return fill;
+    return textOf(fill);
 }
 
 std::string shown(double value)

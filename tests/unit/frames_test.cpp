@@ -1,6 +1,7 @@
 // The file around the statements and the project around the file, in each target.
 
 #include "TestActions.h"
+#include "TestTarget.h"
 
 #include "host/kernel/CFxRegistry.h"
 #include "host/kernel/CFxServices.h"
@@ -61,17 +62,21 @@ protected:
     }
 
     QTemporaryDir folder;
-    CFxConverterIWAPICPP cpp{0};
-    CFxConverterIWAPIJavaScript javascript{0};
-    CFxConverterIWAPIVbNet vbnet{0};
-    CFxConverterIWAPIVba vba{0};
+    Writer ofCpp{Target::Cpp};
+    Writer ofJavascript{Target::JavaScript};
+    Writer ofVbnet{Target::VbNet};
+    Writer ofVba{Target::Vba};
+    CFxConverterIWAPICPP cpp{ofCpp};
+    CFxConverterIWAPIJavaScript javascript{ofJavascript};
+    CFxConverterIWAPIVbNet vbnet{ofVbnet};
+    CFxConverterIWAPIVba vba{ofVba};
 };
 
 /// The lines of a head that choose a sheet or its sketch manager.
-std::string choice(CFxConverterIWAPIImpl& converter)
+std::string choice(MacroFrame& frame)
 {
     QStringList lines;
-    for (const QString& line : converter.EmitFileHeader("plate", false).split('\n'))
+    for (const QString& line : textOf(frame.EmitFileHeader("plate", false)).split('\n'))
         if (line.contains("GetSketchManager") || line.contains("Activate()") || line.endsWith("Activate") ||
             line.contains("GetSheet("))
             lines.append(line.trimmed());
@@ -107,42 +112,41 @@ TEST_F(Frames, FollowThePlaceWhereTheRecordingBegan)
 
 TEST_F(Frames, OpenAndCloseAsTheirLanguageAsks)
 {
-    const auto level = [](CFxConverterIWAPIImpl& converter) { return converter.writer.IndentLevel; };
-
-    const QString source = cpp.EmitFileHeader("plate", true);
+    const QString source = textOf(cpp.EmitFileHeader("plate", true));
     EXPECT_TRUE(source.startsWith("#include \"plate.h\"\n#include \"iwAddinConnection.h\"\n")) << qPrintable(source);
     EXPECT_TRUE(source.endsWith("    if ( !iwViewManager )\n    {\n        return false;\n    }\n\n"));
     EXPECT_TRUE(source.contains("\nbool CMacroCommand::ExecuteNotify(void)\n{\n"));
-    EXPECT_EQ(level(cpp), 1U);
-    EXPECT_TRUE(cpp.EmitFileFooter().startsWith("    return true;\n}\n\nconst iwString &"));
-    EXPECT_EQ(level(cpp), 0U);
+    EXPECT_EQ(ofCpp.IndentLevel, 1U);
+    EXPECT_TRUE(textOf(cpp.EmitFileFooter()).startsWith("    return true;\n}\n\nconst iwString &"));
+    EXPECT_EQ(ofCpp.IndentLevel, 0U);
 
-    EXPECT_TRUE(vbnet.EmitFileHeader("plate", true)
+    EXPECT_TRUE(textOf(vbnet.EmitFileHeader("plate", true))
                     .startsWith("\nImports System.Runtime.InteropServices\n\n\nPublic Class plate\n\n    Sub Run("));
     EXPECT_EQ(vbnet.EmitFileFooter(), "\n    End Sub\n\nEnd Class");
-    EXPECT_EQ(level(vbnet), 2U);
+    EXPECT_EQ(ofVbnet.IndentLevel, 2U);
 
-    const QString macro = vba.EmitFileHeader("plate", true);
-    EXPECT_EQ(CFxConverterIWAPIVba(0).EmitFileHeader("another", false), macro);
+    const QString macro = textOf(vba.EmitFileHeader("plate", true));
+    Writer ofAnother(Target::Vba);
+    EXPECT_EQ(CFxConverterIWAPIVba(ofAnother).EmitFileHeader("another", false), macro);
     EXPECT_TRUE(macro.startsWith("'" + QString(62, '-') + "\n' Preconditions:\n"));
     EXPECT_TRUE(
         macro.contains("drawing document.\n'" + QString(64, '-') + "\nOption Explicit\nSub main()\n\tDim iwApp"));
     EXPECT_TRUE(macro.contains("'    install_dir\\bin\\iwAutomation.dll.\n"));
     EXPECT_TRUE(
         macro.contains("\n   Dim iwViewManager As Inkwright.ViewManager\n\t'Connect to Inkwright\n\tSet iwApp"));
-    EXPECT_TRUE(vba.EmitFileFooter().startsWith("\tElse\n\n\t\tMsgBox \"There are"));
-    EXPECT_EQ(level(vba), 2U);
+    EXPECT_TRUE(textOf(vba.EmitFileFooter()).startsWith("\tElse\n\n\t\tMsgBox \"There are"));
+    EXPECT_EQ(ofVba.IndentLevel, 2U);
 
-    const QString page = javascript.EmitFileHeader("plate", true);
+    const QString page = textOf(javascript.EmitFileHeader("plate", true));
     EXPECT_TRUE(page.contains("   <meta http-equiv =\"X-UA-Compatible\" content =\"IE=8\" /\n>   <!-- Add your"));
     EXPECT_TRUE(page.contains("   <script type=\"text/javascript\" "
                               "src=\"http://localhost:7776/APISDK/ijLibrary/iwCurvedSettings.js\"></script>\n"
                               "   <script type=\"text/javascript\">\n"));
     EXPECT_EQ(page.count(".js\"></script>\n"), 102);
     EXPECT_EQ(page.count("/iwMathUtility.js"), 2);
-    EXPECT_EQ(level(javascript), 3U);
-    EXPECT_TRUE(javascript.EmitFileFooter().startsWith("       }\n   </script>\n"));
-    EXPECT_EQ(level(javascript), 0U);
+    EXPECT_EQ(ofJavascript.IndentLevel, 3U);
+    EXPECT_TRUE(textOf(javascript.EmitFileFooter()).startsWith("       }\n   </script>\n"));
+    EXPECT_EQ(ofJavascript.IndentLevel, 0U);
 }
 
 TEST_F(Frames, HoldTheStatementsOfACommand)
@@ -258,7 +262,8 @@ TEST_F(Frames, FindTheInstalledLibraries)
     installIn("D:\\CAD\\Inkwright\\");
     // What was found is doubled, the tail is not.
     EXPECT_EQ(installedPath("bin\\x.dll"), "D:\\\\CAD\\\\Inkwright\\\\bin\\x.dll");
-    const QString project = cpp.EmitProjectText("plate");
+    ASSERT_EQ(cpp.EmitProjectFiles(path("plate.cpp")), kFxSuccess);
+    const QString project = QString::fromUtf8(contents(path("plate.vcproj")));
     EXPECT_EQ(project.count("AdditionalIncludeDirectories=\"&quot;D:\\\\CAD\\\\Inkwright\\\\APISDK\\headers\\cpp"
                             "&quot;\""),
               4);

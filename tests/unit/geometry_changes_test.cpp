@@ -3,6 +3,8 @@
 #include "TestChanges.h"
 
 #include "objects/ChangeRows.h"
+#include "objects/changed/changeLists.h"
+#include "objects/entries.h"
 
 #include <gtest/gtest.h>
 
@@ -180,7 +182,7 @@ TEST(GeometryChanges, OfAddedObjectsFollowTheirClass)
                 for (const ChangeRows& rows : group)
                     for (const ChangeRow& change : rows.rows)
                         list.push_back(record(change.tag.text(), 1.0, 0));
-        else if (row.changes.handler == &CFxConverterIWAPIObject::ConvertModifiedLine)
+        else if (row.changes.handler == &ConvertModifiedLine)
             for (const char* tag : {"Start X", "Start Y", "Start Z", "End X", "End Y", "End Z"})
                 list.push_back(record(tag, 1.0, 0));
         if (list.empty())
@@ -189,7 +191,7 @@ TEST(GeometryChanges, OfAddedObjectsFollowTheirClass)
         TestTarget made(Target::CSharp);
         OdRxClass* const cls = oddbClassByName(row.name);
         made.conversion.names().RegisterObject(OdDbHandle(1), cls);
-        QString text;
+        Statement text;
         EXPECT_EQ(ConvertObjectChanges(made.conversion, cls, OdDbHandle(1), list, true, text), kFxSuccess);
         EXPECT_EQ(text.isEmpty(), !row.has(kSetWhenAdded)) << row.name;
         EXPECT_EQ(list.size(), row.has(kSetWhenAdded) ? 0 : all) << row.name;

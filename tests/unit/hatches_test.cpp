@@ -5,6 +5,8 @@
 #include "TestDrawing.h"
 #include "TestTarget.h"
 
+#include "module/walk.h"
+#include "objects/changed/changeLists.h"
 #include "objects/targets/points.h"
 #include "objects/targets/viewBackgrounds.h"
 #include "statements/counters.h"
@@ -54,12 +56,13 @@ protected:
     {
         TestTarget made(target);
         for (const auto& [handle, cls] : {std::pair{0x1a, "AcDbLine"}, {0x1b, "AcDbSpline"}}) {
-            QString ignored;
-            made.conversion.names().RegisterObject(OdDbHandle(static_cast<std::uint64_t>(handle)), oddbClassByName(cls));
+            Statement ignored;
+            made.conversion.names().RegisterObject(OdDbHandle(static_cast<std::uint64_t>(handle)),
+                                                   oddbClassByName(cls));
             ConvertAction(made.conversion, odrxNew<TestAdded>(cls, static_cast<std::uint64_t>(handle)), ignored);
         }
         made.writer.UniqueCounter = 0;
-        QString text = "h";
+        Statement text("h");
         EXPECT_EQ(ConvertAction(made.conversion, odrxNew<TestCustom>(18, data), text), expectedStatus);
         return text.toStdString();
     }
@@ -188,8 +191,8 @@ std::string changed(Target target, const PropertyList& records)
 {
     TestTarget made(target);
     PropertyList list = records;
-    QString text;
-    made.objects.ConvertModifiedHatch(list, "h", text);
+    Statement text;
+    ConvertModifiedHatch(made.conversion, {oddbClassByName("AcDbHatch"), {}, "h"}, list, text);
     return text.toStdString();
 }
 
@@ -290,8 +293,9 @@ TEST_F(Hatches, AddedWithoutSettingsWriteNothing)
         PropertyList records{record("Pattern name", CFxString("ANSI37")), record("LineColor", OdCmColor::byIndex(2))};
         if (hasOrigin)
             records.push_back(record("Origin X", 4.0));
-        QString text;
-        ConvertAction(made.conversion, odrxNew<TestAdded>("AcDbHatch", 0x40, records, records), text);
+        Statement added;
+        ConvertAction(made.conversion, odrxNew<TestAdded>("AcDbHatch", 0x40, records, records), added);
+        const QString text = textOf(added);
         // With no statement of its own the hatch does not get its color either.
         EXPECT_EQ(text.contains("SetOrigin( 4.00000000000000, y1 );"), hasOrigin) << text.toStdString();
         EXPECT_EQ(text.contains("hatch1.Color = "), hasOrigin);
@@ -316,8 +320,8 @@ TEST(Coordinates, AreChangedBetweenReadingAndWriting)
                                "    d.GetJogPoint x1, y1, z1\n    d.SetJogPoint x1, 0.50000000000000, z1\n"},
                        middle);
     TestTarget made(Target::CSharp);
-    EXPECT_TRUE(EmitChangeCoordinateX(made.writer, "d", "P", 1).contains("SetP( 1.00000000000000, y1, z1 )"));
-    EXPECT_TRUE(EmitChangeCoordinateZ(made.writer, "d", "P", 1).contains("SetP( x2, y2, 1.00000000000000 )"));
+    EXPECT_TRUE(textOf(EmitChangeCoordinateX(made.writer, "d", "P", 1)).contains("SetP( 1.00000000000000, y1, z1 )"));
+    EXPECT_TRUE(textOf(EmitChangeCoordinateZ(made.writer, "d", "P", 1)).contains("SetP( x2, y2, 1.00000000000000 )"));
 }
 
 TEST(ViewBackgrounds, AreNumberedForTheProcess)
@@ -354,7 +358,8 @@ TEST(ViewBackgrounds, AreNumberedForTheProcess)
         [&](TestTarget& made) { return EmitSolidBackground(made.writer, red, "v"); });
 
     TestTarget cpp(Target::Cpp);
-    EXPECT_TRUE(EmitSolidBackground(cpp.writer, dark, "v").contains("GetRGBColor( 10, 20, 30, &SolidColor1 );"));
+    EXPECT_TRUE(
+        textOf(EmitSolidBackground(cpp.writer, dark, "v")).contains("GetRGBColor( 10, 20, 30, &SolidColor1 );"));
     EXPECT_EQ(EmitGradientBackground(cpp.writer, red, dark, red, 0.5, 2, "v"),
               " iwColor_ptr TopColor0;\n iwColor_ptr MiddleColor0;\n iwColor_ptr BottomColor0;\n"
               " m_pIwApp->GetRGBColor( 255, 0, 0, &TopColor0 );\n m_pIwApp->GetRGBColor( 10, 20, 30, &MiddleColor0 );\n"
@@ -368,7 +373,7 @@ TEST(ViewBackgrounds, AreNumberedForTheProcess)
               "2.00000000000000, 3.00000000000000, 4.00000000000000, &iwImageBackground0 );\n"
               " v->SetImageBackground( iwImageBackground0 );\n\n");
     TestTarget script(Target::JavaScript);
-    EXPECT_TRUE(EmitImageBackground(script.writer, "sky.png", "iwImageBackgroundPosition_Tile", {}, "v")
+    EXPECT_TRUE(textOf(EmitImageBackground(script.writer, "sky.png", "iwImageBackgroundPosition_Tile", {}, "v"))
                     .contains("CreateImageBackground( \"sky.png\", \"iwImageBackgroundPosition_Tile\", 0"));
 }
 

@@ -32,13 +32,13 @@ QStringList coordinates(int first)
 /// The macro of a command that draws two polylines.
 QString macro(Target target)
 {
-    TestTarget at(target);
+    const TestTarget at(target);
     const QTemporaryDir folder;
     const QString path = folder.filePath("macro");
     const CFxActionArray actions{
         command({odrxNew<TestAdded>("AcDb3dPolyline", 0x30, PropertyList{vertexRecord(0)}),
                  odrxNew<TestAdded>("AcDb3dPolyline", 0x31, PropertyList{vertexRecord(7000)})})};
-    EXPECT_EQ(at.driver.Convert(path, actions), kFxSuccess);
+    EXPECT_EQ(CreateConverter(static_cast<std::uint32_t>(target), 1, 0)->Convert(path, actions), kFxSuccess);
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     return QString::fromUtf8(file.readAll());

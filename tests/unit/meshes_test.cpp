@@ -5,6 +5,8 @@
 #include "TestRecords.h"
 #include "TestTarget.h"
 
+#include "objects/entries.h"
+
 using namespace inkmacro;
 
 namespace {
@@ -22,10 +24,10 @@ protected:
         TestTarget page(Target::JavaScript);
         page.conversion.names().RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
         PropertyList rest;
-        QString text;
+        Statement text;
         EXPECT_EQ(ConvertAddedObject(page.conversion, oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
                   kFxSuccess);
-        return text.remove(".00000000000000");
+        return textOf(text).remove(".00000000000000");
     }
 
     TestDrawing drawing;

@@ -3,6 +3,7 @@
 #include "TestActions.h"
 #include "TestTarget.h"
 
+#include "module/walk.h"
 #include "targets/prompts.h"
 
 #include <gtest/gtest.h>
@@ -49,9 +50,9 @@ struct Outcome
 Outcome replay(const OdSmartPtr<TestInteraction>& interaction, Target target = Target::CSharp)
 {
     TestTarget prompter(target, 1);
-    QString text = "before";
+    Statement text("before");
     const std::int32_t status = ConvertAction(prompter.conversion, OdRxObjectPtr(interaction.get()), text);
-    return {status, text, prompter.writer.UniqueCounter};
+    return {status, textOf(text), prompter.writer.UniqueCounter};
 }
 
 OdResBufPtr angle(double value)
@@ -145,8 +146,8 @@ TEST(Prompts, CountOnWithinACommand)
     QString text;
     QTextStream stream(&text);
     prompter.writer.UniqueCounter = 40;
-    ConvertCommand(prompter.conversion, 
-        stream, "ROTATE",
+    ConvertCommand(
+        prompter.conversion, stream, "ROTATE",
         {odrxNew<TestInteraction>(Kind::kAngle, "A", angle(1234567)),
          odrxNew<TestInteraction>(Kind::kAngle, "cancelled", nullptr),
          odrxNew<TestInteraction>(Kind::kKeyword, "K", string("Copy"), Words{"Copy"}, Words{"_Copy"}),
@@ -174,7 +175,7 @@ TEST(Prompts, CountOnWithinACommand)
 constexpr std::array targets{Target::Cpp,        Target::CppCom, Target::CSharp,
                              Target::JavaScript, Target::VbNet,  Target::Vba};
 
-using Emit = QString (*)(Writer&);
+using Emit = Statement (*)(Writer&);
 /// In the order of `targets`, without the indentation of four blanks and without `cmdMesage`, whose fetch is the same
 /// in all C++ statements.
 using Expected = std::array<const char*, 6>;
@@ -184,7 +185,7 @@ void expectStatements(Emit ask, const Expected& expected)
     for (std::size_t i = 0; i < targets.size(); ++i) {
         TestTarget prompter(targets[i], 1);
         prompter.writer.UniqueCounter = 6;
-        QString text = ask(prompter.writer);
+        QString text = textOf(ask(prompter.writer));
         const QString fetch = "    iwCommandMessage_c* cmdMesage7;\n    m_pIwApp->GetCommandMessage(&cmdMesage7);\n";
         EXPECT_EQ(text.count(fetch), targets[i] == Target::Cpp ? 1 : 0);
         text.remove(fetch);
@@ -398,12 +399,12 @@ TEST(PromptStatements, ListKeywords)
          "PromptForKeyword2 \"P:\", ErrorMsg7, iwglobal6, iwlocal6, 1, keyword6, value7\n"});
 
     TestTarget basic(Target::Vba, 1);
-    EXPECT_TRUE(EmitPromptKeyword(basic.writer, "P:", {}, {"_Yes"})
+    EXPECT_TRUE(textOf(EmitPromptKeyword(basic.writer, "P:", {}, {"_Yes"}))
                     .startsWith("    Dim iwlocal0(0) As String\n    Dim iwglobal0(0) As String\n"
                                 "    Dim keyword0 As String\n    keyword0 = \"\"\n\n    Dim value1 As String \n"));
     TestTarget com(Target::CppCom, 1);
     EXPECT_TRUE(
-        EmitPromptKeyword(com.writer, "P:", {}, {})
+        textOf(EmitPromptKeyword(com.writer, "P:", {}, {}))
             .contains("    BSTR keyword0 = L\"\";\n    long index0 = 0;\n    BSTR str0;\n\n    BSTR value1;\n"));
 }
 

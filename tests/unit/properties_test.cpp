@@ -3,6 +3,9 @@
 #include "TestActions.h"
 #include "TestTarget.h"
 
+#include "objects/entries.h"
+#include "objects/properties.h"
+
 #include <QCoreApplication>
 #include <QTranslator>
 
@@ -104,11 +107,10 @@ TEST_F(Properties, MakePointsOfWhatWasRecorded)
     EXPECT_EQ(tagsLeft(), std::vector<QString>{"Radius"});
 }
 
-TEST_F(Properties, ShowYesAndOnInTheHostsLanguage)
+TEST_F(Properties, ShowYesInTheHostsLanguage)
 {
     const auto shown = [](const char* word) { return CFxVariant(CFxVariantCollectionElement({}, CFxString(word))); };
     EXPECT_TRUE(IsYes(shown("Yes")));
-    EXPECT_TRUE(IsOn(shown("On")));
     EXPECT_FALSE(IsYes(shown("yes")));
     EXPECT_FALSE(IsYes(CFxString("Yes"))) << "a plain text is no choice";
     German german;
@@ -124,9 +126,10 @@ protected:
     {
         csharp.conversion.names().RegisterObject(OdDbHandle(1), oddbClassByName(cls));
         rest = read;
-        QString text;
-        EXPECT_EQ(ConvertAddedObject(csharp.conversion, oddbClassByName(cls), OdDbHandle(1), read, rest, text), kFxSuccess);
-        return text;
+        Statement text;
+        EXPECT_EQ(ConvertAddedObject(csharp.conversion, oddbClassByName(cls), OdDbHandle(1), read, rest, text),
+                  kFxSuccess);
+        return textOf(text);
     }
 
     TestTarget csharp{inkmacro::Target::CSharp};
@@ -152,22 +155,13 @@ TEST_F(AddedObjects, AreNotAskedForMoreWhenNothingWasCreated)
     const PropertyList list{record("LineScale", 0.5)};
     EXPECT_EQ(add("AcDbRegion", list), "");
     EXPECT_EQ(rest.size(), 1U);
-    QString text = "before\n";
+    Statement text("before\n");
     const auto convert = [&](const char* cls, std::uint64_t handle) {
         return ConvertObjectAdded(csharp.conversion, *odrxNew<TestAdded>(cls, handle, list, list), text);
     };
     EXPECT_EQ(convert("HostWeldSymbol", 1), kFxSuccess);
-    // Known to the driver under no handle.
+    // Registered under no handle.
     EXPECT_EQ(convert("AcDbLine", 2), kFxSuccess);
-    EXPECT_EQ(text, "before\n");
-}
-
-TEST_F(AddedObjects, FailWithoutAnAction)
-{
-    QString text = "before\n";
-    EXPECT_EQ(csharp.objects.ConvertObjectAdded(nullptr, text), kFxFailure);
-    EXPECT_EQ(csharp.objects.ConvertObjectModified(nullptr, text), kFxFailure);
-    EXPECT_EQ(csharp.objects.ConvertPropertyChanged(nullptr, text), kFxFailure);
     EXPECT_EQ(text, "before\n");
 }
 
@@ -175,7 +169,7 @@ TEST(ModifiedObjects, GetACommentOnlyWhereAStatementStands)
 {
     TestTarget csharp(inkmacro::Target::CSharp);
     csharp.conversion.names().RegisterObject(OdDbHandle(1), oddbClassByName("AcDbLine"));
-    QString text;
+    Statement text;
     const auto modify = [&](const char* cls, PropertyList list) {
         EXPECT_EQ(ConvertObjectModified(csharp.conversion, *odrxNew<TestModified>(cls, 1, std::move(list)), text),
                   kFxSuccess);

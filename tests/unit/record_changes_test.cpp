@@ -4,6 +4,8 @@
 #include "TestDrawing.h"
 #include "TestTags.h"
 
+#include "objects/entries.h"
+
 #include <QRegularExpression>
 
 using inkmacro::Target;
@@ -83,10 +85,10 @@ protected:
     static QString whole(TestTarget& made, const char* cls, PropertyList list)
     {
         made.conversion.names().RegisterObject(OdDbHandle(1), oddbClassByName(cls));
-        QString text;
+        Statement text;
         EXPECT_EQ(ConvertObjectChanges(made.conversion, oddbClassByName(cls), OdDbHandle(1), list, false, text),
                   kFxSuccess);
-        return text;
+        return textOf(text);
     }
 
     TestDrawing drawing;

@@ -121,7 +121,7 @@ QString filled(const char* literal, const QStringList& values, const FillMode& m
     Fill fill = Fill(&words, mode);
     for (const QString& value : values)
         fill.text(value);
-    return fill;
+    return textOf(fill);
 }
 
 TEST(RepairedFill, EscapesBetweenQuotesOnlyAndReadsNoMarkers)
@@ -214,16 +214,16 @@ TEST(ShortNumbers, KeepTheirDigitsInRepairedMacrosAndAreMarkedInOthers)
     const Template words("f( %1 );", Target::CSharp);
     for (const auto& [value, faithful, repaired] : cases) {
         bool marked = false;
-        QString outcome = Fill(&words, {Target::CSharp, false, &marked}).shortReal(value);
+        QString outcome = textOf(Fill(&words, {Target::CSharp, false, &marked}).shortReal(value));
         EXPECT_EQ(takeMarks(outcome) > 0, repaired != nullptr) << value;
         EXPECT_EQ(marked, repaired != nullptr) << value;
         EXPECT_EQ(outcome, QString("f( %1 );").arg(faithful)) << value;
-        const QString mended = Fill(&words, {Target::CSharp, true}).shortReal(value);
+        const QString mended = textOf(Fill(&words, {Target::CSharp, true}).shortReal(value));
         EXPECT_EQ(mended, QString("f( %1 );").arg(repaired ? repaired : faithful)) << value;
     }
     // A value that no marker takes is not at fault.
     bool marked = false;
-    const QString dropped = Fill(&words, {Target::CSharp, false, &marked}).shortReal(1).shortReal(1.23456789);
+    const QString dropped = textOf(Fill(&words, {Target::CSharp, false, &marked}).shortReal(1).shortReal(1.23456789));
     EXPECT_EQ(dropped, "f( 1 );");
     EXPECT_FALSE(marked);
 }
@@ -276,7 +276,7 @@ TEST(Writer, TakesMendedWordsOrMarksTheFaithful)
     const Phrase phrase("EmitTest", {.csharp = "%1f( %3 );%2", .vba = "%1f%2"});
     const Mend mended(phrase, Target::CSharp, "f is called g", "%1g( %3, %4 );%2");
     const Mend leftOut(phrase, Target::Vba, "there is no f", nullptr);
-    const auto statement = [&](TestTarget& made) { return made.writer.fill(phrase).number(3).number(4).str(); };
+    const auto statement = [&](TestTarget& made) { return textOf(made.writer.fill(phrase).number(3).number(4).str()); };
 
     TestTarget quiet(Target::CSharp);
     EXPECT_EQ(statement(quiet), " f( 3 );\n");
@@ -300,17 +300,17 @@ TEST(Writer, MarksStatementsAtFaultOnlyWhereFaultsAreNoted)
 {
     const Fault fault("EmitTest", {Target::CSharp}, "a test");
     TestTarget faithful(Target::CSharp);
-    EXPECT_EQ(faithful.writer.faulty("f();", fault), "f();");
+    EXPECT_EQ(faithful.writer.faulty(QString("f();"), fault), "f();");
     faithful.writer.noteFaults();
-    QString marked = faithful.writer.faulty("f();", fault);
+    QString marked = textOf(faithful.writer.faulty(QString("f();"), fault));
     EXPECT_EQ(takeMarks(marked), 1);
     EXPECT_EQ(marked, "f();");
-    EXPECT_EQ(faithful.writer.faulty("", fault), "");
+    EXPECT_EQ(faithful.writer.faulty(Statement(), fault), "");
 
     const TestRepair repair;
     TestTarget repaired(Target::CSharp);
     repaired.writer.noteFaults();
-    EXPECT_EQ(repaired.writer.faulty("f();", fault), "f();");
+    EXPECT_EQ(repaired.writer.faulty(QString("f();"), fault), "f();");
 }
 
 // Behind a polyline's or a viewport's own action a command has no block.
@@ -572,7 +572,7 @@ TEST(FaithfulMacro, TellsTextsThatBreakQuotesOfValues)
     for (const auto& [name, count] : {std::pair("_DOT", 0), {"_D\"OT", 1}}) {
         TestTarget csharp(Target::CSharp);
         csharp.writer.noteFaults();
-        QString statement = EmitSetArrow(csharp.writer, "a", "SetStartArrow", 3, name);
+        QString statement = textOf(EmitSetArrow(csharp.writer, "a", "SetStartArrow", 3, name));
         EXPECT_EQ(takeMarks(statement), count);
         EXPECT_EQ(statement,
                   QString(" a.SetStartArrow( iwDimensionArrowType_e.iwDimensionArrowType_Dot, \"%1\" );\n").arg(name));

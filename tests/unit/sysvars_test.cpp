@@ -3,6 +3,7 @@
 #include "TestActions.h"
 #include "TestTarget.h"
 
+#include "actions/entries.h"
 #include "actions/optionTable.h"
 #include "targets/fileLocations.h"
 #include "targets/options.h"
@@ -78,16 +79,19 @@ protected:
         GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
     }
 
-    static std::string converted(TestTarget& target, const char* variable, OdResBuf::Value value, QString text = {})
+    static std::string converted(TestTarget& target, const char* variable, OdResBuf::Value value,
+                                 const QString& before = {})
     {
-        EXPECT_EQ(ConvertSysVar(target.conversion, *odrxNew<ChangedVariable>(variable, std::move(value)), text), kFxSuccess);
+        Statement text = before;
+        const auto change = odrxNew<ChangedVariable>(variable, std::move(value));
+        EXPECT_EQ(ConvertSysVar(target.conversion, *change, text), kFxSuccess);
         return text.toStdString();
     }
 
     static std::string converted(TestTarget& target, std::int32_t kind, const char* key,
                                  CFxCustomActionData::Value value)
     {
-        QString text = "what the command left";
+        Statement text("what the command left");
         EXPECT_EQ(ConvertCustomAction(target.conversion, *odrxNew<ChangedLocation>(kind, key, std::move(value)), text),
                   kFxSuccess);
         EXPECT_EQ(target.writer.IndentLevel, 1U);
@@ -104,25 +108,23 @@ protected:
     }
 };
 
-std::string found(std::int32_t (CFxConverterIWAPIImpl::*find)(const CFxString&, CFxString&, std::int32_t&) const,
-                  const char* variable)
+std::string found(std::int32_t (*find)(const CFxString&, CFxString&, std::int32_t&), const char* variable)
 {
-    const TestTarget target(Target::CSharp, 1);
     CFxString name = "before";
     std::int32_t kind = 99;
-    const std::int32_t status = (target.driver.*find)(variable, name, kind);
+    const std::int32_t status = find(variable, name, kind);
     EXPECT_EQ(status == kFxSuccess, kind != -1) << variable;
     return name.toQString().toStdString() + ' ' + std::to_string(kind);
 }
 
 std::string command(const char* variable)
 {
-    return found(&CFxConverterIWAPIImpl::FindCommandOption, variable);
+    return found(&FindCommandOption, variable);
 }
 
 std::string application(const char* variable)
 {
-    return found(&CFxConverterIWAPIImpl::FindApplicationOption, variable);
+    return found(&FindApplicationOption, variable);
 }
 
 TEST_F(SysVars, HaveTheEnumeratorsOfTheInterface)
@@ -356,7 +358,7 @@ TEST_F(SysVars, CountOnlyWhereTheStatementHasANumber)
     EXPECT_TRUE(QString::fromStdString(converted(page, "USERS1", OdString("%5"))).contains("\"%5\""));
 }
 
-using EmitFiles = QString (*)(Writer&, CFxString&);
+using EmitFiles = Statement (*)(Writer&, CFxString&);
 
 /// Use up a number of the process-wide counters.
 int takeNumber(TestTarget& target, EmitFiles emitObject)
@@ -368,7 +370,7 @@ int takeNumber(TestTarget& target, EmitFiles emitObject)
 
 int takeArrayNumber(TestTarget& target)
 {
-    return EmitFileLocationArray(target.writer, "x", "P", {})
+    return textOf(EmitFileLocationArray(target.writer, "x", "P", {}))
         .section("sArrayP_", 1, 1)
         .section(QRegExp("[^0-9]"), 0, 0)
         .toInt();
@@ -390,7 +392,7 @@ TEST_F(SysVars, FetchTheirFileObjects)
         const auto matches = [&](EmitFiles emitObject, const char* name) {
             const int number = takeNumber(target, emitObject) + 1;
             CFxString variable;
-            const QString text = emitObject(target.writer, variable);
+            const Statement text = emitObject(target.writer, variable);
             QString wanted = QString(expected).replace("SystemFiles", name).replace('#', QString::number(number));
             if (language == 5 && QString(name) == "DrawingSupportFiles")
                 wanted.replace("    Set", "%11Set");
@@ -431,7 +433,7 @@ TEST_F(SysVars, SetFileLocationsInArrays)
     for (int language = 0; language < languages; ++language) {
         TestTarget target(static_cast<Target>(language), 1);
         const int number = takeArrayNumber(target) + 1;
-        const QString text =
+        const Statement text =
             EmitFileLocationArray(target.writer, "x", "SupportPaths", {CFxString("C:\\a"), CFxString("b")});
         EXPECT_EQ(text.toStdString(),
                   QString(in(expected, language)).replace('@', QString::number(number)).toStdString());

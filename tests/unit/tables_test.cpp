@@ -4,6 +4,7 @@
 #include "TestRecords.h"
 #include "TestTarget.h"
 
+#include "objects/entries.h"
 #include "objects/targets/styles.h"
 #include "objects/targets/tables.h"
 
@@ -20,10 +21,10 @@ protected:
     {
         made.conversion.names().RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
         PropertyList rest;
-        QString text;
+        Statement text;
         EXPECT_EQ(ConvertAddedObject(made.conversion, oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
                   kFxSuccess);
-        return text.remove(".00000000000000");
+        return textOf(text).remove(".00000000000000");
     }
 
     TestDrawing drawing;
@@ -125,7 +126,7 @@ TEST(TableStatements, ScaleEachRowOrColumn)
                        [](TestTarget& made) { return EmitScaleTableRows(made.writer, "t", "SetRowHeight", 1.5); });
 
     TestTarget cpp(Target::Cpp);
-    QString columns = EmitScaleTableRows(cpp.writer, "t", "SetColumnWidth", 1.5);
+    QString columns = textOf(EmitScaleTableRows(cpp.writer, "t", "SetColumnWidth", 1.5));
     for (const char* const words : {"lColumnCount1", "TotalColumnCount( ", "GetColumnWidth(i, &width)",
                                     "width *= coef1", "SetColumnWidthAt(i, width)"})
         EXPECT_TRUE(columns.contains(words)) << words;
@@ -209,8 +210,8 @@ TEST(TableStatements, SetBordersOfCells)
                EmitTableBordersColor(made.writer, "s", 3, 0, OdCmColor::byRgb(1, 2, 3));
     });
     TestTarget page(Target::JavaScript);
-    EXPECT_TRUE(
-        EmitTableBordersColor(page.writer, "s", 1, 1, OdCmColor::byLayer()).endsWith("GetColorByIndex(256));\n"));
+    EXPECT_TRUE(textOf(EmitTableBordersColor(page.writer, "s", 1, 1, OdCmColor::byLayer()))
+                    .endsWith("GetColorByIndex(256));\n"));
 }
 
 TEST(StyleStatements, RenameAndActivate)

@@ -5,6 +5,7 @@
 #include "TestRecords.h"
 #include "TestTarget.h"
 
+#include "objects/entries.h"
 #include "objects/targets/leaders.h"
 #include "objects/targets/points.h"
 #include "objects/targets/texts.h"
@@ -43,10 +44,10 @@ protected:
         csharp.conversion.names().RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
         PropertyList read = records;
         left = records;
-        QString text;
+        Statement text;
         EXPECT_EQ(ConvertAddedObject(csharp.conversion, oddbClassByName(cls), OdDbHandle(handle), read, left, text),
                   kFxSuccess);
-        return text;
+        return textOf(text);
     }
 
     TestDrawing drawing;
@@ -144,12 +145,12 @@ TEST_F(AddedTexts, NotesSetOnlyWhatWasRecorded)
     EXPECT_EQ(left.size(), 0U);
 
     drawing.add(0x11, "AcDbTextStyleTableRecord", {{"name", OdString("Titles")}});
-    for (const CFxVariant& style :
-         {CFxVariant(drawing.id(0x11)), CFxVariant(CFxVariantCollectionElement(0, CFxString("Titles")))})
-        EXPECT_TRUE(add("AcDbMText", 3, {record("Style", style), record("Width", 8.0)})
-                        .endsWith("\n note" + QString::number(csharp.objectCount()) +
-                                  ".Width = 8.00000000000000;\n note" + QString::number(csharp.objectCount()) +
-                                  ".TextStyle = \"Titles\";\n"));
+    const CFxVariantCollectionElement byName(0, CFxString("Titles"));
+    for (const auto& [ordinal, style] : {std::pair(3, CFxVariant(drawing.id(0x11))), {4, CFxVariant(byName)}})
+        EXPECT_TRUE(
+            add("AcDbMText", 3, {record("Style", style), record("Width", 8.0)})
+                .endsWith(
+                    QString("\n note%1.Width = 8.00000000000000;\n note%1.TextStyle = \"Titles\";\n").arg(ordinal)));
     for (const CFxVariant& none : {CFxVariant(drawing.id(0x404)), CFxVariant(CFxString())})
         EXPECT_TRUE(add("AcDbMText", 4, {record("Style", none)}).endsWith(".TextStyle = \"\";\n"));
 }
@@ -158,10 +159,10 @@ TEST_F(AddedTexts, TolerancesKeepLinesAndBackslashes)
 {
     TestTarget basic(Target::VbNet);
     basic.conversion.names().RegisterObject(OdDbHandle(1), oddbClassByName("AcDbFcf"));
-    QString text;
+    Statement text;
     ConvertObjectAdded(basic.conversion, *odrxNew<TestAdded>("AcDbFcf", 1, PropertyList{record("Content", "a\\b\nc")}),
-                                     text);
-    EXPECT_EQ(brief(text),
+                       text);
+    EXPECT_EQ(brief(textOf(text)),
               " tolerance1 = iwSketchManager.InsertTolerance( New Double(){0,0,0}, \"a\\b\" & vbLf & \"c\" )\n");
 
     EXPECT_EQ(brief(add("AcDbFcf", 1, point("Position", 1, 2, 3) + PropertyList{record("Content", "{\\Fgdt;j}\n0.1")})),
@@ -256,7 +257,7 @@ TEST_F(AddedTexts, StylesAreFontsOrFilesOfShapes)
 struct Row
 {
     const char* name;
-    QString (*write)(Writer& writer);
+    Statement (*write)(Writer& writer);
     std::array<const char*, targetCount> expected;
 };
 
@@ -352,7 +353,7 @@ const Row rows[] = {
       " Coordinates8( 3 )=4\n Coordinates8( 4 )=5\n Coordinates8( 5 )=6\n\n"
       " Set v = iwSketchManager.InsertLeader( Coordinates8, 9, \"a\" )\n"}},
     {"leader without vertices",
-     [](Writer& writer) { return EmitInsertLeader(writer, {}, 9, "a", "v").section("\n", 0, 1); },
+     [](Writer& writer) -> Statement { return textOf(EmitInsertLeader(writer, {}, 9, "a", "v")).section("\n", 0, 1); },
      {" iwDoubleArray Coordinates8;\n Coordinates8.clear();", " v = iwSketchManager.InsertLeader(\n  new double[]{},",
       " var leaderPoints8 = new Array();\n var v = mSkMgr.InsertLeader(leaderPoints8, 9, \"a\");",
       " Dim Coordinates8(-1) As Double\n", " VARIANT variant8;\n variant8.vt = ( VT_ARRAY | VT_R8 );",
@@ -416,7 +417,8 @@ TEST(TextStatements, TakeTheFormOfTheirTarget)
         for (std::size_t code = 0; code < targetCount; ++code) {
             TestTarget made(static_cast<Target>(code));
             made.writer.UniqueCounter = 7;
-            EXPECT_EQ(brief(row.write(made.writer)).toStdString(), row.expected[code]) << row.name << ", code " << code;
+            EXPECT_EQ(brief(textOf(row.write(made.writer))).toStdString(), row.expected[code])
+                << row.name << ", code " << code;
         }
 }
 

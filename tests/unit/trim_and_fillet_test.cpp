@@ -4,6 +4,8 @@
 #include "TestDrawing.h"
 #include "TestTarget.h"
 
+#include "module/walk.h"
+
 using inkmacro::Target;
 
 namespace {
@@ -65,8 +67,10 @@ struct Cut : TestTarget
     }
     std::int32_t convert(std::int32_t kind, const TestData& data)
     {
-        text = "before";
-        return ConvertAction(conversion, odrxNew<TestCustom>(kind, data), text);
+        Statement statement("before");
+        const std::int32_t status = ConvertAction(conversion, odrxNew<TestCustom>(kind, data), statement);
+        text = textOf(statement);
+        return status;
     }
     QString converted(std::int32_t kind, const TestData& data)
     {
@@ -86,9 +90,10 @@ TEST(TrimAndFillet, AreRefusedForTheNumberOfTheirData)
             const bool taken = std::find(counts.begin(), counts.end(), count) != counts.end();
             // Of whatever type: each is read as its neutral value.
             const auto action = odrxNew<TestCustom>(kind, TestData(static_cast<std::size_t>(count), 7));
-            QString text = "before";
-            EXPECT_EQ(ConvertAction(Cut().conversion, action, text), taken ? kFxSuccess : kFxFailure) << kind << count;
-            EXPECT_EQ(text.contains("Entities("), taken) << kind << ' ' << count;
+            Statement text("before");
+            Cut cut;
+            EXPECT_EQ(ConvertAction(cut.conversion, action, text), taken ? kFxSuccess : kFxFailure) << kind << count;
+            EXPECT_EQ(textOf(text).contains("Entities("), taken) << kind << ' ' << count;
 
             TestConversion alone;
             EXPECT_EQ(alone.run({action}), taken ? kFxSuccess : kFxFailure) << kind << ' ' << count;

@@ -4,6 +4,7 @@
 #include "TestDrawing.h"
 #include "TestTarget.h"
 
+#include "module/walk.h"
 #include "targets/coordinateSystems.h"
 #include "targets/namedViews.h"
 #include "targets/sheets.h"
@@ -39,8 +40,10 @@ protected:
 
     std::int32_t convert(std::int32_t kind, const TestData& data, const QString& before = {})
     {
-        text = before;
-        return ConvertAction(conversion, odrxNew<TestCustom>(kind, data), text);
+        Statement statement = before;
+        const std::int32_t status = ConvertAction(conversion, odrxNew<TestCustom>(kind, data), statement);
+        text = textOf(statement);
+        return status;
     }
     QString converted(std::int32_t kind, const TestData& data, const QString& before = {})
     {
@@ -66,8 +69,8 @@ protected:
     const OdRxClass* view = oddbClassByName("AcDbViewTableRecord");
     TestDrawing drawing;
     TestTarget csharp{Target::CSharp};
-    TestTarget::Driver& driver = csharp.driver;
-    TestConversion conversion;
+    Conversion& conversion = csharp.conversion;
+    TestConversion recording;
     QString text;
 };
 
@@ -109,12 +112,12 @@ TEST_F(Views, AreRefusedWhenCountOrTypesDoNotFit)
         EXPECT_EQ(text, "x");
         // Within a command they end it, at top level everything.
         const OdRxObjectPtr action = odrxNew<TestCustom>(kind, data);
-        EXPECT_EQ(conversion.run({command({addedLine(1), action, addedLine(2)}), addedLine(3)}), kFxSuccess);
-        EXPECT_TRUE(conversion.body().contains("line1 = "));
-        EXPECT_FALSE(conversion.body().contains("line2 = "));
-        EXPECT_TRUE(conversion.body().contains("line3 = "));
-        EXPECT_EQ(conversion.run({addedLine(1), action}), kFxFailure);
-        EXPECT_FALSE(QFileInfo::exists(conversion.path()));
+        EXPECT_EQ(recording.run({command({addedLine(1), action, addedLine(2)}), addedLine(3)}), kFxSuccess);
+        EXPECT_TRUE(recording.body().contains("line1 = "));
+        EXPECT_FALSE(recording.body().contains("line2 = "));
+        EXPECT_TRUE(recording.body().contains("line3 = "));
+        EXPECT_EQ(recording.run({addedLine(1), action}), kFxFailure);
+        EXPECT_FALSE(QFileInfo::exists(recording.path()));
     }
     // Of the others a missing datum fails, one of another type is that type's neutral value.
     for (const auto& [kind, data] : std::vector<std::pair<std::int32_t, TestData>>{
@@ -285,24 +288,24 @@ TEST_F(Views, LeaveNoMarkerUnfilled)
     for (const Target target : allTargets) {
         TestTarget made(target);
         Writer& writer = made.writer;
-        QString written = EmitSaveCoordinateSystem(writer, "a") + EmitRestoreCoordinateSystem(writer, "a") +
-                          EmitRemoveCoordinateSystem(writer, "a") + EmitPreviousCoordinateSystem(writer) +
-                          EmitWorldCoordinateSystem(writer) + EmitDefaultCoordinateSystem(writer, "a") +
-                          EmitViewCoordinateSystem(writer) + EmitCoordinateSystemOrigin(writer, point) +
-                          EmitAlignCoordinateSystemToEntity(writer, "a", point) +
-                          EmitAlignCoordinateSystemZAxis(writer, point, point) +
-                          EmitThreePointCoordinateSystem(writer, point, point, point) + EmitActivateModel(writer) +
-                          EmitCreateSheet(writer, "a") + EmitCreateSheetFromTemplate(writer, "a", "b", "c") +
-                          EmitCopySheet(writer, "a", "b") + EmitRenameSheet(writer, "a", "b") +
-                          EmitRemoveSheet(writer, "a") + EmitInsertViewTiles(writer, "a", "b", "c") +
-                          EmitSelectViewTile(writer, "a", 0, "b") + EmitZoom(writer, "a") +
-                          EmitZoom(writer, "a", point, point);
+        Statement written = EmitSaveCoordinateSystem(writer, "a") + EmitRestoreCoordinateSystem(writer, "a") +
+                            EmitRemoveCoordinateSystem(writer, "a") + EmitPreviousCoordinateSystem(writer) +
+                            EmitWorldCoordinateSystem(writer) + EmitDefaultCoordinateSystem(writer, "a") +
+                            EmitViewCoordinateSystem(writer) + EmitCoordinateSystemOrigin(writer, point) +
+                            EmitAlignCoordinateSystemToEntity(writer, "a", point) +
+                            EmitAlignCoordinateSystemZAxis(writer, point, point) +
+                            EmitThreePointCoordinateSystem(writer, point, point, point) + EmitActivateModel(writer) +
+                            EmitCreateSheet(writer, "a") + EmitCreateSheetFromTemplate(writer, "a", "b", "c") +
+                            EmitCopySheet(writer, "a", "b") + EmitRenameSheet(writer, "a", "b") +
+                            EmitRemoveSheet(writer, "a") + EmitInsertViewTiles(writer, "a", "b", "c") +
+                            EmitSelectViewTile(writer, "a", 0, "b") + EmitZoom(writer, "a") +
+                            EmitZoom(writer, "a", point, point);
         for (const bool onSheet : {false, true})
             written += EmitCreateNamedView(writer, "a", onSheet, "b") +
                        EmitRenameNamedView(writer, {"a", onSheet}, "b") +
                        EmitSetNamedViewClass(writer, {"a", onSheet}, "b") +
                        EmitSetViewWindow(writer, {"a", onSheet}, point, point);
-        EXPECT_FALSE(written.contains('%')) << written.toStdString();
+        EXPECT_FALSE(textOf(written).contains('%')) << written.toStdString();
         EXPECT_EQ(writer.IndentLevel, 0U);
     }
 }

@@ -2,7 +2,6 @@
 
 #include "host/db/OdDbClassMap.h"
 #include "module/CFxConverterIWAPIModule.h"
-#include "objects/CFxConverterIWAPIObject.h"
 #include "objects/classTable.h"
 #include "statements/Phrase.h"
 #include "statements/enumerations.h"
