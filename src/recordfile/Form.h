@@ -109,13 +109,13 @@ void readEntries(const Json& json, std::size_t count, NameOf nameOf, IsRequired 
             json.fail(QString("the key %1 is missing").arg(quoted(nameOf(i))));
 }
 
-/// Form of an object with the keys of `Self::keys()`, called `Self::name` in the schema.
+/// Form of an object with the keys `Self::keys`, called `Self::name` in the schema.
 template<class Self, class Body>
 struct ObjectForm
 {
     static Body read(const Json& json)
     {
-        const std::span<const Key<Body>> keys = Self::keys();
+        const std::span<const Key<Body>> keys = Self::keys;
         Body body{};
         readEntries(
             json, keys.size(), [keys](std::size_t i) { return keys[i].name; },
@@ -127,7 +127,7 @@ struct ObjectForm
     static void write(JsonOut& out, const Body& body)
     {
         out.beginObject();
-        for (const Key<Body>& key : Self::keys())
+        for (const Key<Body>& key : Self::keys)
             key.write(out, key.name, body);
         out.endObject();
     }
@@ -136,7 +136,7 @@ struct ObjectForm
     {
         return definitions.reference(Self::name, [](SchemaDefinitions& all) {
             ObjectSchema object;
-            for (const Key<Body>& key : Self::keys())
+            for (const Key<Body>& key : Self::keys)
                 object.add(toText(key.name), key.meaning, key.schema(all), key.required);
             return object.json();
         });
@@ -155,15 +155,6 @@ struct Choice
     QJsonObject (*schema)(SchemaDefinitions&);
 };
 
-/// The one entry of an object, by its key's number in the list. `noun` is what a key stands for.
-struct ChosenEntry
-{
-    std::size_t choice;
-    std::string_view key;
-    simdjson::dom::element value;
-};
-ChosenEntry chosenEntry(const Json& json, std::span<const std::string_view> keys, const char* noun);
-
 template<class Row>
 std::vector<std::string_view> keysOf(std::span<const Row> rows)
 {
@@ -177,7 +168,7 @@ template<class T>
 T readChoice(const Json& json, std::span<const Choice<T>> choices, std::span<const std::string_view> keys,
              const char* noun)
 {
-    const ChosenEntry chosen = chosenEntry(json, keys, noun);
+    const ChosenEntry chosen = json.chosenEntry(keys, noun);
     return choices[chosen.choice].read(json.entry(chosen.key, chosen.value));
 }
 
@@ -277,6 +268,24 @@ struct FixedListForm
 template<class T, std::size_t count>
 struct Form<std::array<T, count>> : FixedListForm<T, count>
 {
+};
+
+/// Form of a value that may be empty, for which null stands.
+template<class T>
+struct NullableForm
+{
+    static T read(const Json& json) { return json.element.is_null() ? T() : Form<T>::read(json); }
+    static void write(JsonOut& out, const T& value)
+    {
+        if (value == T())
+            out.null();
+        else
+            Form<T>::write(out, value);
+    }
+    static QJsonObject schema(SchemaDefinitions& definitions)
+    {
+        return anyOfSchema({typeSchema("null"), Form<T>::schema(definitions)});
+    }
 };
 
 /// What is there at all is written as what it is.

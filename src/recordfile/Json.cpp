@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <optional>
 
 namespace inkmacro::recordfile {
 
@@ -87,6 +88,24 @@ std::string_view Json::text(const char* expected) const
     if (element.get(text) != simdjson::SUCCESS)
         failExpected(expected);
     return text;
+}
+
+ChosenEntry Json::chosenEntry(std::span<const std::string_view> keys, const char* noun) const
+{
+    std::optional<ChosenEntry> chosen;
+    for (const simdjson::dom::key_value_pair entry : object()) {
+        const auto found = std::find(keys.begin(), keys.end(), entry.key);
+        if (found == keys.end())
+            fail(QString("%1 is not a %2").arg(quoted(entry.key), noun));
+        if (chosen && chosen->key == entry.key)
+            fail(QString("the key %1 is given twice").arg(quoted(entry.key)));
+        if (chosen)
+            fail(QString("only one %1 is allowed, found %2 and %3").arg(noun, quoted(chosen->key), quoted(entry.key)));
+        chosen = ChosenEntry{static_cast<std::size_t>(found - keys.begin()), entry.key, entry.value};
+    }
+    if (!chosen)
+        fail(QString("a %1 is missing").arg(noun));
+    return *chosen;
 }
 
 void Json::fail(const QString& message) const

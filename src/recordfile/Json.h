@@ -4,6 +4,7 @@
 
 #include <simdjson.h>
 
+#include <span>
 #include <string_view>
 
 namespace inkmacro::recordfile {
@@ -25,6 +26,14 @@ struct FormError
     QString message;
 };
 
+/// The one entry that an object has, by its key's number in a list.
+struct ChosenEntry
+{
+    std::size_t choice;
+    std::string_view key;
+    simdjson::dom::element value;
+};
+
 /// A value of the line that is being read, with the way to it. The value that this one is part of has to outlive it.
 class Json
 {
@@ -38,6 +47,9 @@ public:
     simdjson::dom::object object() const;
     simdjson::dom::array array(const char* expected = "a list") const;
     std::string_view text(const char* expected = "a text") const;
+
+    /// `noun` is what each of the keys stands for.
+    ChosenEntry chosenEntry(std::span<const std::string_view> keys, const char* noun) const;
 
     [[noreturn]] void fail(const QString& message) const;
     /// "expected a text, found the number 3"

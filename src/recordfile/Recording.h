@@ -64,7 +64,11 @@ struct RecordingError
     QString message;
 
     /// `FILE:LINE: PATH: MESSAGE` without the parts that do not exist.
-    QString text() const;
+    QString text() const
+    {
+        const QString place = line > 0 ? file + ':' + QString::number(line) : file;
+        return place + ": " + (path.isEmpty() ? message : path + ": " + message);
+    }
 };
 
 } // namespace inkmacro

@@ -2,9 +2,8 @@
 
 #include "recordfile/ParseAhead.h"
 #include "recordfile/TextPool.h"
-#include "recordfile/actionForms.h"
+#include "recordfile/drawingForms.h"
 #include "recordfile/lineForms.h"
-#include "recordfile/lineKinds.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -34,7 +33,7 @@ public:
             throw FormError{{}, line.fault};
         const Json json(line.document.root(), reading_);
         static const std::vector<std::string_view> keys = lineKeys();
-        const ChosenEntry chosen = chosenEntry(json, keys, "kind of line");
+        const ChosenEntry chosen = json.chosenEntry(keys, "kind of line");
         const Json entry = json.entry(chosen.key, chosen.value);
         if (chosen.choice >= kActionLines)
             takeAction(actionChoices()[chosen.choice - kActionLines], entry, line.number);

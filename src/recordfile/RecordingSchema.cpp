@@ -1,7 +1,7 @@
 #include "recordfile/RecordingSchema.h"
 
+#include "recordfile/drawingForms.h"
 #include "recordfile/lineForms.h"
-#include "recordfile/lineKinds.h"
 
 #include <QJsonDocument>
 

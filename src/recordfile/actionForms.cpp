@@ -52,30 +52,26 @@ CFxPropertyChangedPtr PropertyBody::make(Reading& reading)
 }
 
 /// The keys of a property that is an action; one in a list lacks the first two.
-std::span<const Key<PropertyBody>> propertyKeys()
-{
-    static constexpr std::array table{
-        required<&PropertyBody::cls>("class", "class of the object"),
-        required<&PropertyBody::handle>("handle", "handle of the object"),
-        required<&PropertyBody::tag>("tag", "name of the property in the host's display language"),
-        required<&PropertyBody::value>("value", "the value"),
-        optional<&PropertyBody::group>("group", "group of properties, else none"),
-        optional<&PropertyBody::index>("index", "number within a repeated property"),
-        optional<&PropertyBody::old>("old", "the value before"),
-    };
-    return table;
-}
+constexpr std::array propertyKeys{
+    required<&PropertyBody::cls>("class", "class of the object"),
+    required<&PropertyBody::handle>("handle", "handle of the object"),
+    required<&PropertyBody::tag>("tag", "name of the property in the host's display language"),
+    required<&PropertyBody::value>("value", "the value"),
+    optional<&PropertyBody::group>("group", "group of properties, else none"),
+    optional<&PropertyBody::index>("index", "number within a repeated property"),
+    optional<&PropertyBody::old>("old", "the value before"),
+};
 
 struct PropertyActionForm : ObjectForm<PropertyActionForm, PropertyBody>
 {
     static constexpr const char* name = "propertyAction";
-    static std::span<const Key<PropertyBody>> keys() { return propertyKeys(); }
+    static constexpr auto keys = propertyKeys;
 };
 
 struct ListedPropertyForm : ObjectForm<ListedPropertyForm, PropertyBody>
 {
     static constexpr const char* name = "property";
-    static std::span<const Key<PropertyBody>> keys() { return propertyKeys().subspan(2); }
+    static constexpr auto keys = std::span(propertyKeys).subspan(2);
 };
 
 } // namespace
@@ -175,14 +171,10 @@ template<>
 struct Form<CommandBody> : ObjectForm<Form<CommandBody>, CommandBody>
 {
     static constexpr const char* name = "command";
-    static std::span<const Key<CommandBody>> keys()
-    {
-        static constexpr std::array table{
-            required<&CommandBody::name>("name", "name of the command"),
-            required<&CommandBody::actions>("actions", "what the command did"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        required<&CommandBody::name>("name", "name of the command"),
+        required<&CommandBody::actions>("actions", "what the command did"),
+    };
     static CommandBody read(const Json& json)
     {
         const CommandDepth depth(json.reading.commandDepth);
@@ -204,31 +196,23 @@ template<>
 struct Form<AddedBody> : ObjectForm<Form<AddedBody>, AddedBody>
 {
     static constexpr const char* name = "added";
-    static std::span<const Key<AddedBody>> keys()
-    {
-        static constexpr std::array table{
-            required<&AddedBody::cls>("class", "class of the object"),
-            required<&AddedBody::handle>("handle", "handle of the object"),
-            required<&AddedBody::properties>("properties", "its properties when it was added"),
-            optional<&AddedBody::extra>("extra", "the second list of properties, else the same records as the first"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        required<&AddedBody::cls>("class", "class of the object"),
+        required<&AddedBody::handle>("handle", "handle of the object"),
+        required<&AddedBody::properties>("properties", "its properties when it was added"),
+        optional<&AddedBody::extra>("extra", "the second list of properties, else the same records as the first"),
+    };
 };
 
 template<>
 struct Form<ModifiedBody> : ObjectForm<Form<ModifiedBody>, ModifiedBody>
 {
     static constexpr const char* name = "modified";
-    static std::span<const Key<ModifiedBody>> keys()
-    {
-        static constexpr std::array table{
-            required<&ModifiedBody::cls>("class", "class of the object"),
-            required<&ModifiedBody::handle>("handle", "handle of the object"),
-            required<&ModifiedBody::properties>("properties", "the properties that changed"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        required<&ModifiedBody::cls>("class", "class of the object"),
+        required<&ModifiedBody::handle>("handle", "handle of the object"),
+        required<&ModifiedBody::properties>("properties", "the properties that changed"),
+    };
 };
 
 // System variables, prompts, selections and custom actions
@@ -284,26 +268,6 @@ struct InteractionKindForm
         for (const std::string_view name : names)
             words.append(toText(name));
         return anyOfSchema({enumSchema(words), Form<std::int32_t>::schema(definitions)});
-    }
-};
-
-/// The answer at a prompt; null where there is none.
-struct AnswerForm
-{
-    static OdResBufPtr read(const Json& json)
-    {
-        return json.element.is_null() ? OdResBufPtr() : Form<OdResBufPtr>::read(json);
-    }
-    static void write(JsonOut& out, const OdResBufPtr& answer)
-    {
-        if (answer)
-            Form<OdResBufPtr>::write(out, answer);
-        else
-            out.null();
-    }
-    static QJsonObject schema(SchemaDefinitions& definitions)
-    {
-        return anyOfSchema({typeSchema("null"), Form<OdResBufPtr>::schema(definitions)});
     }
 };
 
@@ -394,85 +358,62 @@ template<>
 struct Form<SysVarBody> : ObjectForm<Form<SysVarBody>, SysVarBody>
 {
     static constexpr const char* name = "sysvar";
-    static std::span<const Key<SysVarBody>> keys()
-    {
-        static constexpr std::array table{
-            required<&SysVarBody::name>("name", "name of the variable"),
-            required<&SysVarBody::value>("value", "its new value"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        required<&SysVarBody::name>("name", "name of the variable"),
+        required<&SysVarBody::value>("value", "its new value"),
+    };
 };
 
 template<>
 struct Form<KeywordsBody> : ObjectForm<Form<KeywordsBody>, KeywordsBody>
 {
     static constexpr const char* name = "keywords";
-    static std::span<const Key<KeywordsBody>> keys()
-    {
-        static constexpr std::array table{
-            required<&KeywordsBody::local>("local", "the keywords as they were shown"),
-            required<&KeywordsBody::global>("global", "one by one their names in all languages"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        required<&KeywordsBody::local>("local", "the keywords as they were shown"),
+        required<&KeywordsBody::global>("global", "one by one their names in all languages"),
+    };
 };
 
 template<>
 struct Form<InteractionBody> : ObjectForm<Form<InteractionBody>, InteractionBody>
 {
     static constexpr const char* name = "interaction";
-    static std::span<const Key<InteractionBody>> keys()
-    {
-        static constexpr std::array table{
-            required<&InteractionBody::kind, InteractionKindForm>("kind", "what was asked for"),
-            required<&InteractionBody::prompt>("prompt", "the prompt as it was shown, markup included"),
-            required<&InteractionBody::result, AnswerForm>("result", "the answer, null where there was none"),
-            optional<&InteractionBody::keywords>("keywords", "the keywords that the prompt offered"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        required<&InteractionBody::kind, InteractionKindForm>("kind", "what was asked for"),
+        required<&InteractionBody::prompt>("prompt", "the prompt as it was shown, markup included"),
+        required<&InteractionBody::result, NullableForm<OdResBufPtr>>("result",
+                                                                      "the answer, null where there was none"),
+        optional<&InteractionBody::keywords>("keywords", "the keywords that the prompt offered"),
+    };
 };
 
 template<>
 struct Form<PickedBody> : ObjectForm<Form<PickedBody>, PickedBody>
 {
     static constexpr const char* name = "picked";
-    static std::span<const Key<PickedBody>> keys()
-    {
-        static constexpr std::array table{
-            required<&PickedBody::handle>("handle", "handle of the object"),
-            required<&PickedBody::cls>("class", "class of the object"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        required<&PickedBody::handle>("handle", "handle of the object"),
+        required<&PickedBody::cls>("class", "class of the object"),
+    };
 };
 
 template<>
 struct Form<SelectionBody> : ObjectForm<Form<SelectionBody>, SelectionBody>
 {
     static constexpr const char* name = "selection";
-    static std::span<const Key<SelectionBody>> keys()
-    {
-        static constexpr std::array table{
-            required<&SelectionBody::objects>("objects", "the picked objects"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        required<&SelectionBody::objects>("objects", "the picked objects"),
+    };
 };
 
 template<>
 struct Form<CustomBody> : ObjectForm<Form<CustomBody>, CustomBody>
 {
     static constexpr const char* name = "custom";
-    static std::span<const Key<CustomBody>> keys()
-    {
-        static constexpr std::array table{
-            required<&CustomBody::kind>("kind", "number of the kind"),
-            required<&CustomBody::data>("data", "the data in the order that the kind wants"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        required<&CustomBody::kind>("kind", "number of the kind"),
+        required<&CustomBody::data>("data", "the data in the order that the kind wants"),
+    };
 };
 
 // Actions by their kinds

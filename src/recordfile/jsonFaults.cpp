@@ -1,12 +1,12 @@
 // The parser says that a line is broken, but neither where nor, in many a case, how. So a line that it refused is gone
-// over once more, slowly, by JSON's grammar.
+// over once more, slowly, by JSON's grammar. Qt's parser would not do: to it "C:\Users", a bare tab, .5 and 1. are
+// right, and most of what is wrong is an unterminated object.
 
 #include "recordfile/jsonFaults.h"
 
 #include "recordfile/Json.h"
 
-#include <charconv>
-#include <vector>
+#include <algorithm>
 
 namespace inkmacro::recordfile {
 
@@ -16,238 +16,136 @@ struct Fault
 {
     std::size_t at;
     QString reason;
-    bool inGrammar = true; ///< else it is the parser that cannot take it
 };
 
 constexpr std::string_view kDigits = "0123456789";
+constexpr std::string_view kHexDigits = "0123456789abcdefABCDEF";
+constexpr std::size_t kCodeUnitDigits = 4;
 
-class FaultFinder
+bool isOneOf(std::string_view letters, char letter)
 {
-public:
-    explicit FaultFinder(std::string_view line) : line_(line) {}
+    return letters.find(letter) != std::string_view::npos;
+}
 
-    /// Throws the first fault; returns when there is none.
-    void find();
+std::size_t behindSpace(std::string_view line, std::size_t at)
+{
+    return std::min(line.find_first_not_of(" \t\r\n", at), line.size());
+}
 
-private:
-    enum class Next
-    {
-        Value,
-        FirstEntry,
-        FirstKey,
-        Key,
-        Behind
+std::size_t behindEscape(std::string_view line, std::size_t begin)
+{
+    const std::string_view escape = line.substr(begin + 1, 1 + kCodeUnitDigits);
+    if (escape.empty() || !isOneOf("\"\\/bfnrtu", escape.front()))
+        throw Fault{begin, "there is no such escape"};
+    if (escape.front() != 'u')
+        return begin + 2;
+    if (escape.size() <= kCodeUnitDigits || escape.find_first_not_of(kHexDigits, 1) != std::string_view::npos)
+        throw Fault{begin, "four hexadecimal digits are expected behind \\u"};
+    return begin + 2 + kCodeUnitDigits;
+}
+
+std::size_t behindText(std::string_view line, std::size_t begin)
+{
+    for (std::size_t at = begin + 1; at < line.size();) {
+        if (line[at] == '"')
+            return at + 1;
+        if (static_cast<unsigned char>(line[at]) < 0x20)
+            throw Fault{at, "a text holds a control character that is not escaped"};
+        at = line[at] == '\\' ? behindEscape(line, at) : at + 1;
+    }
+    throw Fault{begin, "a text lacks its closing quote"};
+}
+
+bool isNumber(std::string_view text)
+{
+    const auto skip = [&](std::string_view letters) {
+        const bool found = !text.empty() && isOneOf(letters, text.front());
+        text.remove_prefix(found ? 1 : 0);
+        return found;
     };
-
-    bool atEnd() const { return at_ >= line_.size(); }
-    char here() const { return atEnd() ? '\0' : line_[at_]; }
-    [[noreturn]] void fail(const QString& reason) const { throw Fault{at_, reason}; }
-    void skipSpace();
-    bool skip(char letter);
-    bool skipDigits();
-    Next step(Next next);
-    Next value();
-    Next key();
-    Next behindValue();
-    void text();
-    void escape();
-    unsigned codeUnit();
-    void word();
-    void number();
-    bool isNumber();
-
-    std::string_view line_;
-    std::size_t at_ = 0;
-    std::vector<char> open_; // brackets
-};
-
-void FaultFinder::find()
-{
-    Next next = Next::Value;
-    for (;;) {
-        skipSpace();
-        if (atEnd()) {
-            if (open_.empty() && next == Next::Behind)
-                return;
-            fail(open_.empty()         ? QString("a value is expected")
-                 : open_.back() == '{' ? QString("the line ends within an object")
-                                       : QString("the line ends within a list"));
-        }
-        next = step(next);
+    const auto skipDigits = [&] {
+        const std::size_t count = std::min(text.find_first_not_of(kDigits), text.size());
+        text.remove_prefix(count);
+        return count > 0;
+    };
+    skip("-");
+    if (!skip("0") && !skipDigits())
+        return false;
+    if (skip(".") && !skipDigits())
+        return false;
+    if (skip("eE")) {
+        skip("+-");
+        if (!skipDigits())
+            return false;
     }
+    return text.empty();
 }
 
-void FaultFinder::skipSpace()
+/// Behind a number, true, false or null.
+std::size_t behindWord(std::string_view line, std::size_t begin)
 {
-    at_ = std::min(line_.find_first_not_of(" \t\r\n", at_), line_.size());
-}
-
-bool FaultFinder::skip(char letter)
-{
-    const bool found = !atEnd() && here() == letter;
-    if (found)
-        ++at_;
-    return found;
-}
-
-bool FaultFinder::skipDigits()
-{
-    const std::size_t begin = at_;
-    at_ = std::min(line_.find_first_not_of(kDigits, at_), line_.size());
-    return at_ > begin;
-}
-
-FaultFinder::Next FaultFinder::step(Next next)
-{
-    switch (next) {
-    case Next::FirstEntry:
-        return here() == ']' ? behindValue() : value();
-    case Next::FirstKey:
-        return here() == '}' ? behindValue() : key();
-    case Next::Key:
-        return key();
-    case Next::Behind:
-        return behindValue();
-    case Next::Value:
-        break;
-    }
-    return value();
-}
-
-FaultFinder::Next FaultFinder::value()
-{
-    const char first = here();
-    if (first == '{' || first == '[') {
-        open_.push_back(first);
-        ++at_;
-        return first == '{' ? Next::FirstKey : Next::FirstEntry;
-    }
-    if (first == '"')
-        text();
-    else if (first == '-' || kDigits.find(first) != std::string_view::npos)
-        number();
-    else
-        word();
-    return Next::Behind;
-}
-
-FaultFinder::Next FaultFinder::key()
-{
-    if (here() != '"')
-        fail("a key in quotes is expected");
-    text();
-    skipSpace();
-    if (!skip(':'))
-        fail("a colon is expected behind the key");
-    return Next::Value;
-}
-
-FaultFinder::Next FaultFinder::behindValue()
-{
-    if (open_.empty())
-        fail("nothing may stand behind the line's object");
-    const bool inObject = open_.back() == '{';
-    if (skip(','))
-        return inObject ? Next::Key : Next::Value;
-    if (!skip(inObject ? '}' : ']'))
-        fail(inObject ? "a comma or } is expected" : "a comma or ] is expected");
-    open_.pop_back();
-    return Next::Behind;
-}
-
-void FaultFinder::text()
-{
-    const std::size_t begin = at_++;
-    while (!atEnd() && here() != '"') {
-        if (static_cast<unsigned char>(here()) < 0x20)
-            fail("a text holds a control character that is not escaped");
-        if (here() == '\\')
-            escape();
-        else
-            ++at_;
-    }
-    if (!skip('"'))
-        throw Fault{begin, "a text lacks its closing quote"};
-}
-
-void FaultFinder::escape()
-{
-    const std::size_t begin = at_++;
-    if (here() != 'u') {
-        if (atEnd() || std::string_view("\"\\/bfnrt").find(here()) == std::string_view::npos)
-            throw Fault{begin, "there is no such escape"};
-        ++at_;
-        return;
-    }
-    const unsigned unit = codeUnit();
-    bool paired = unit < 0xD800 || unit > 0xDFFF;
-    if (unit >= 0xD800 && unit <= 0xDBFF && skip('\\') && here() == 'u') {
-        const unsigned second = codeUnit();
-        paired = second >= 0xDC00 && second <= 0xDFFF;
-    }
-    if (!paired)
-        throw Fault{begin, "half a pair of surrogates"};
-}
-
-/// The four digits behind a `u`.
-unsigned FaultFinder::codeUnit()
-{
-    const std::string_view digits = line_.substr(std::min(at_ + 1, line_.size()), 4);
-    unsigned unit = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), unit, 16);
-    if (error != std::errc() || end != digits.data() + 4)
-        throw Fault{at_ - 1, "four hexadecimal digits are expected behind \\u"};
-    at_ += 5;
-    return unit;
-}
-
-void FaultFinder::word()
-{
-    const std::size_t begin = at_;
-    at_ = std::min(line_.find_first_of(" \t\r\n,:{}[]\"", at_), line_.size());
-    const std::string_view word = line_.substr(begin, at_ - begin);
-    if (word == "true" || word == "false" || word == "null")
-        return;
+    const std::size_t end = std::min(line.find_first_of(" \t\r\n,:{}[]\"", begin), line.size());
+    const std::string_view word = line.substr(begin, end - begin);
     if (word.empty())
-        fail("a value is expected");
-    throw Fault{begin, quoted(word) + " is no value"};
+        throw Fault{begin, "a value is expected"};
+    if (word == "true" || word == "false" || word == "null" || isNumber(word))
+        return end;
+    const bool isMeantAsNumber = word.front() == '-' || isOneOf(kDigits, word.front());
+    throw Fault{begin, quoted(word) + (isMeantAsNumber ? " is not a number as JSON writes it" : " is no value")};
 }
 
-bool FaultFinder::isNumber()
+std::size_t behindKey(std::string_view line, std::size_t begin)
 {
-    skip('-');
-    if (!skip('0') && !skipDigits())
-        return false;
-    if (skip('.') && !skipDigits())
-        return false;
-    if (skip('e') || skip('E')) {
-        if (!skip('+'))
-            skip('-');
-        return skipDigits();
-    }
-    return true;
+    if (line[begin] != '"')
+        throw Fault{begin, "a key in quotes is expected"};
+    const std::size_t at = behindSpace(line, behindText(line, begin));
+    if (at == line.size() || line[at] != ':')
+        throw Fault{at, "a colon is expected behind the key"};
+    return at + 1;
 }
 
-void FaultFinder::number()
+/// Throws the first fault; returns when there is none.
+void findFault(std::string_view line)
 {
-    const std::size_t begin = at_;
-    const std::size_t end = std::min(line_.find_first_of(" \t\r\n,:{}[]\"", at_), line_.size());
-    const std::string_view number = line_.substr(begin, end - begin);
-    if (!isNumber() || at_ != end)
-        throw Fault{begin, quoted(number) + " is not a number as JSON writes it"};
-    const auto overflows = [number](auto value) {
-        return std::from_chars(number.data(), number.data() + number.size(), value).ec ==
-               std::errc::result_out_of_range;
-    };
-    if (number.find_first_of(".eE") == std::string_view::npos) {
-        if (number.front() == '-' ? overflows(qint64()) : overflows(quint64()))
-            throw Fault{begin,
-                        quoted(number) + " is beyond 64 bits; a number of that size needs a fraction or an exponent",
-                        false};
-    } else if (overflows(double()) && number.find("e-") == std::string_view::npos &&
-               number.find("E-") == std::string_view::npos) {
-        throw Fault{begin, quoted(number) + " is beyond the range of a double", false};
+    enum
+    {
+        Value,      // the line's own, or that of a key
+        FirstEntry, // or none
+        Entry,
+        Behind
+    } next = Value;
+    std::string closings; // of what is open
+    std::size_t at = behindSpace(line, 0);
+    for (; at < line.size(); at = behindSpace(line, at)) {
+        const char letter = line[at];
+        const char closing = closings.empty() ? ' ' : closings.back();
+        if (letter == closing && (next == FirstEntry || next == Behind)) {
+            closings.pop_back();
+            ++at;
+            next = Behind;
+        } else if (next == Behind) {
+            if (closings.empty())
+                throw Fault{at, "nothing may stand behind the line's object"};
+            if (letter != ',')
+                throw Fault{at, QString("a comma or %1 is expected").arg(closing)};
+            ++at;
+            next = Entry;
+        } else if (next != Value && closing == '}') {
+            at = behindKey(line, at);
+            next = Value;
+        } else if (letter == '{' || letter == '[') {
+            closings += letter == '{' ? '}' : ']';
+            ++at;
+            next = FirstEntry;
+        } else {
+            at = letter == '"' ? behindText(line, at) : behindWord(line, at);
+            next = Behind;
+        }
     }
+    if (!closings.empty())
+        throw Fault{at, closings.back() == '}' ? "the line ends within an object" : "the line ends within a list"};
+    if (next != Behind)
+        throw Fault{at, "a value is expected"};
 }
 
 /// From 1, in characters, as editors count.
@@ -272,12 +170,14 @@ QString explainFault(simdjson::error_code code, std::string_view line)
         break;
     }
     try {
-        FaultFinder(line).find();
+        findFault(line);
     } catch (const Fault& fault) {
-        const QString column = QString::number(columnOf(line, fault.at));
-        return QString(fault.inGrammar ? "not valid JSON: %1 (column %2)" : "%1 (column %2)").arg(fault.reason, column);
+        return QString("not valid JSON: %1 (column %2)").arg(fault.reason, QString::number(columnOf(line, fault.at)));
     }
-    return "not valid JSON";
+    // What is left keeps to the grammar.
+    if (code == simdjson::NUMBER_ERROR)
+        return "a number is out of range: of more than 64 bits, or beyond a double if it has a fraction or an exponent";
+    return code == simdjson::STRING_ERROR ? "a text holds half a pair of surrogates" : "not valid JSON";
 }
 
 } // namespace inkmacro::recordfile

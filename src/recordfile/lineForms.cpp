@@ -1,7 +1,6 @@
 #include "recordfile/lineForms.h"
 
-#include "host/db/OdDbClassMap.h"
-#include "recordfile/drawingForms.h"
+#include "recordfile/plainForms.h"
 
 #include <array>
 #include <unordered_set>
@@ -46,29 +45,28 @@ template<>
 struct Form<Recording::Sheet> : ObjectForm<Form<Recording::Sheet>, Recording::Sheet>
 {
     static constexpr const char* name = "sheet";
-    static std::span<const Key<Recording::Sheet>> keys()
-    {
-        static constexpr std::array table{
-            required<&Recording::Sheet::name>("name", "name of the layout"),
-            required<&Recording::Sheet::model>("model", "whether it is that of model space"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        required<&Recording::Sheet::name>("name", "name of the layout"),
+        required<&Recording::Sheet::model>("model", "whether it is that of model space"),
+    };
 };
 
-std::span<const Key<Recording::Header>> Form<Recording::Header>::keys()
-{
-    using Header = Recording::Header;
-    using Mode = IntegerForm<int, 0>;
-    static constexpr std::array table{
-        versionKey,
-        optional<&Header::language, LanguageForm>("language", "the host setting RecordingLanguage, a language code"),
-        optional<&Header::mode, Mode>("mode", "the ConversionMode: 1 replays prompts and selections"),
-        optional<&Header::context>("context", "opaque value for the getters of properties"),
-        optional<&Header::sheet>("sheet", "the layout that was current when recording began, else model space"),
-    };
-    return table;
-}
+namespace {
+
+using Mode = IntegerForm<int, 0>;
+
+constexpr std::array headerKeys{
+    versionKey,
+    optional<&Recording::Header::language, LanguageForm>("language",
+                                                         "the host setting RecordingLanguage, a language code"),
+    optional<&Recording::Header::mode, Mode>("mode", "the ConversionMode: 1 replays prompts and selections"),
+    optional<&Recording::Header::context>("context", "opaque value for the getters of properties"),
+    optional<&Recording::Header::sheet>("sheet", "the layout that was current when recording began, else model space"),
+};
+
+} // namespace
+
+constinit const std::span<const Key<Recording::Header>> Form<Recording::Header>::keys = headerKeys;
 
 // The drawing
 
@@ -125,127 +123,23 @@ struct SettingsForm
     }
 };
 
-} // namespace
-
-std::span<const Key<Recording::Drawing>> Form<Recording::Drawing>::keys()
-{
-    using Drawing = Recording::Drawing;
-    static constexpr std::array table{
-        optional<&Drawing::currentLayout>("currentLayout", "handle of the layout that is current"),
-        optional<&Drawing::activeBlock>("activeBlock", "handle of the block that is drawn into"),
-        optional<&Drawing::layer>("layer", "handle of the active layer"),
-        optional<&Drawing::textStyle>("textStyle", "handle of the current text style"),
-        optional<&Drawing::tableStyle>("tableStyle", "handle of the current table style"),
-        optional<&Drawing::dimensionStyle>("dimensionStyle", "handle of the current dimension style"),
-        optional<&Drawing::richLineStyle>("richLineStyle", "handle of the current rich line style"),
-        optional<&Drawing::lineStyle>("lineStyle", "handle of the current line style"),
-        optional<&Drawing::lineStyleFolders>("lineStyleFolders",
-                                             "where the files of line styles lie, seen from the recording's folder"),
-        optional<&Drawing::groupDictionary>("groupDictionary", "handle of the dictionary of groups"),
-        optional<&Drawing::settings, SettingsForm>("settings", "variables of drawing and host, by name"),
-    };
-    return table;
-}
-
-// Objects
-
-namespace {
-
-constexpr std::string_view kClassKey = "class";
-constexpr std::string_view kHandleKey = "handle";
-
-/// The class stands anywhere among the keys, and the others depend on it.
-const OdDbClassRow& classRow(const Json& json)
-{
-    simdjson::dom::element name;
-    if (json.object()[kClassKey].get(name) != simdjson::SUCCESS)
-        json.fail(QString("the key %1 is missing").arg(quoted(kClassKey)));
-    const Json entry = json.entry(kClassKey, name);
-    const QString text = toText(entry.text("the name of a class"));
-    const OdDbClassRow* const row = oddbFindClassRow(text);
-    if (!row || !row->create)
-        entry.fail(quoted(text) + " is not a class whose objects are known");
-    return *row;
-}
-
-template<class Object>
-auto memberOf(Object& object, const OdDbField& field, auto use)
-{
-    return std::visit(
-        [&](auto member) { return use(object.*member, Form<typename MemberOf<decltype(member)>::Type>()); },
-        field.member);
-}
-
-bool sameField(const OdDbObject& left, const OdDbObject& right, const OdDbField& field)
-{
-    return std::visit([&](auto member) { return left.*member == right.*member; }, field.member);
-}
-
-QJsonObject fieldSchema(const OdDbField& field, SchemaDefinitions& definitions)
-{
-    return std::visit([&](auto member) { return Form<typename MemberOf<decltype(member)>::Type>::schema(definitions); },
-                      field.member);
-}
+constexpr std::array drawingKeys{
+    optional<&Recording::Drawing::currentLayout>("currentLayout", "handle of the layout that is current"),
+    optional<&Recording::Drawing::activeBlock>("activeBlock", "handle of the block that is drawn into"),
+    optional<&Recording::Drawing::layer>("layer", "handle of the active layer"),
+    optional<&Recording::Drawing::textStyle>("textStyle", "handle of the current text style"),
+    optional<&Recording::Drawing::tableStyle>("tableStyle", "handle of the current table style"),
+    optional<&Recording::Drawing::dimensionStyle>("dimensionStyle", "handle of the current dimension style"),
+    optional<&Recording::Drawing::richLineStyle>("richLineStyle", "handle of the current rich line style"),
+    optional<&Recording::Drawing::lineStyle>("lineStyle", "handle of the current line style"),
+    optional<&Recording::Drawing::lineStyleFolders>(
+        "lineStyleFolders", "where the files of line styles lie, seen from the recording's folder"),
+    optional<&Recording::Drawing::groupDictionary>("groupDictionary", "handle of the dictionary of groups"),
+    optional<&Recording::Drawing::settings, SettingsForm>("settings", "variables of drawing and host, by name"),
+};
 
 } // namespace
 
-void DrawingObjectForm::read(const Json& json)
-{
-    const OdDbClassRow& row = classRow(json);
-    const std::vector<const OdDbField*> fields = oddbAllFields(row);
-    const OdDbObjectPtr object = row.create(oddbClassByName(row.name));
-    OdDbHandle handle;
-    const auto nameOf = [&](std::size_t i) {
-        return i == 0 ? kClassKey : i == 1 ? kHandleKey : std::string_view(fields[i - 2]->key);
-    };
-    readEntries(
-        json, fields.size() + 2, nameOf, [](std::size_t i) { return i < 2; },
-        [&](std::size_t i, const Json& value) {
-            if (i == 1)
-                handle = Form<OdDbHandle>::read(value);
-            else if (i >= 2)
-                memberOf(*object, *fields[i - 2], [&](auto& member, auto form) { member = form.read(value); });
-        });
-    OdDbDatabase& database = json.reading.database;
-    if (database.getOdDbObjectId(handle).openObject(true))
-        json.fail(QString("the drawing has an object with the handle %1 already").arg(handle.ascii()));
-    database.addObject(handle, object);
-}
-
-void DrawingObjectForm::write(JsonOut& out, const OdDbObject& object)
-{
-    const OdDbClassRow* const row = oddbFindClassRow(object.isA()->name());
-    if (!row || !row->create)
-        return out.refuse();
-    out.beginObject();
-    out.key(kClassKey);
-    out.text(object.isA()->name());
-    out.key(kHandleKey);
-    Form<OdDbHandle>::write(out, object.getDbHandle());
-    const OdDbObjectPtr fresh = row->create(object.isA());
-    for (const OdDbField* const field : oddbAllFields(*row)) {
-        if (sameField(object, *fresh, *field))
-            continue;
-        out.key(std::string_view(field->key));
-        memberOf(object, *field, [&](const auto& member, auto form) { form.write(out, member); });
-    }
-    out.endObject();
-}
-
-QJsonObject DrawingObjectForm::schema(SchemaDefinitions& definitions)
-{
-    QJsonArray classes;
-    for (const OdDbClassRow& row : oddbClassRows()) {
-        if (!row.create)
-            continue;
-        ObjectSchema object;
-        object.add(toText(kClassKey), "class of the object", {{"const", row.name}}, true);
-        object.add(toText(kHandleKey), "handle of the object", Form<OdDbHandle>::schema(definitions), true);
-        for (const OdDbField* const field : oddbAllFields(row))
-            object.add(field->key, field->meaning, fieldSchema(*field, definitions), false);
-        classes.append(object.json());
-    }
-    return anyOfSchema(classes);
-}
+constinit const std::span<const Key<Recording::Drawing>> Form<Recording::Drawing>::keys = drawingKeys;
 
 } // namespace inkmacro::recordfile

@@ -1,32 +1,44 @@
 #pragma once
 
-#include "recordfile/Form.h"
 #include "recordfile/Recording.h"
+#include "recordfile/actionForms.h"
 
 namespace inkmacro::recordfile {
 
-// The lines that are no actions: the header, the drawing's settings and the drawing's objects.
+/// The kinds of line, in the order of their keys. The kinds of action come behind the others.
+enum LineKind : std::size_t
+{
+    kHeaderLine,
+    kDrawingLine,
+    kObjectLine,
+    kActionLines,
+};
+
+inline constexpr std::string_view kOtherLineKeys[] = {"recording", "drawing", "object"};
+static_assert(std::size(kOtherLineKeys) == kActionLines);
+
+inline std::vector<std::string_view> lineKeys()
+{
+    std::vector<std::string_view> keys(std::begin(kOtherLineKeys), std::end(kOtherLineKeys));
+    for (const Choice<OdRxObjectPtr>& choice : actionChoices())
+        keys.push_back(choice.key);
+    return keys;
+}
+
+// The header and the drawing's settings.
 
 template<>
 struct Form<Recording::Header> : ObjectForm<Form<Recording::Header>, Recording::Header>
 {
     static constexpr const char* name = "recording";
-    static std::span<const Key<Recording::Header>> keys();
+    static const std::span<const Key<Recording::Header>> keys;
 };
 
 template<>
 struct Form<Recording::Drawing> : ObjectForm<Form<Recording::Drawing>, Recording::Drawing>
 {
     static constexpr const char* name = "drawing";
-    static std::span<const Key<Recording::Drawing>> keys();
-};
-
-/// An object with its class, its handle and the data of its class. Reading puts it into the drawing.
-struct DrawingObjectForm
-{
-    static void read(const Json& json);
-    static void write(JsonOut& out, const OdDbObject& object);
-    static QJsonObject schema(SchemaDefinitions& definitions);
+    static const std::span<const Key<Recording::Drawing>> keys;
 };
 
 } // namespace inkmacro::recordfile

@@ -229,14 +229,4 @@ QJsonObject Form<OdCmColor>::schema(SchemaDefinitions& definitions)
     });
 }
 
-std::span<const Key<OdCmTransparency>> Form<OdCmTransparency>::keys()
-{
-    using Method = IntegerForm<std::uint8_t, OdCmTransparency::ByLayer, OdCmTransparency::ByAlpha>;
-    static constexpr std::array table{
-        required<&OdCmTransparency::method, Method>("method", "0 by layer, 1 by block, 2 by alpha"),
-        required<&OdCmTransparency::alpha>("alpha", "from 0, clear, to 255, solid"),
-    };
-    return table;
-}
-
 } // namespace inkmacro::recordfile

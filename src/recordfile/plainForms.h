@@ -165,7 +165,11 @@ template<>
 struct Form<OdCmTransparency> : ObjectForm<Form<OdCmTransparency>, OdCmTransparency>
 {
     static constexpr const char* name = "transparency";
-    static std::span<const Key<OdCmTransparency>> keys();
+    using Method = IntegerForm<std::uint8_t, OdCmTransparency::ByLayer, OdCmTransparency::ByAlpha>;
+    static constexpr std::array keys{
+        required<&OdCmTransparency::method, Method>("method", "0 by layer, 1 by block, 2 by alpha"),
+        required<&OdCmTransparency::alpha>("alpha", "from 0, clear, to 255, solid"),
+    };
 };
 
 } // namespace inkmacro::recordfile

@@ -102,16 +102,17 @@ private:
     CFxActionArray actions_;
 };
 
-class RecordedAdded : public CFxObjectAdded
+/// What added and modified objects have in common.
+template<class Action>
+class RecordedObject : public Action
 {
 public:
-    RecordedAdded(OdRxClass* cls, OdDbHandle handle, PropertyList properties)
+    RecordedObject(OdRxClass* cls, OdDbHandle handle, PropertyList properties)
         : class_(cls), handle_(handle), properties_(std::move(properties))
     {
     }
     OdRxClass* GetObjectClass() const override { return class_; }
     PropertyList GetProperties() const override { return properties_; }
-    PropertyList GetExtraProperties() const override { return properties_; }
     OdDbHandle GetHandle() const override { return handle_; }
 
 private:
@@ -120,11 +121,18 @@ private:
     PropertyList properties_;
 };
 
-class RecordedAddedWithExtra final : public RecordedAdded
+class RecordedAdded final : public RecordedObject<CFxObjectAdded>
+{
+public:
+    using RecordedObject::RecordedObject;
+    PropertyList GetExtraProperties() const override { return GetProperties(); }
+};
+
+class RecordedAddedWithExtra final : public RecordedObject<CFxObjectAdded>
 {
 public:
     RecordedAddedWithExtra(OdRxClass* cls, OdDbHandle handle, PropertyList properties, PropertyList extra)
-        : RecordedAdded(cls, handle, std::move(properties)), extra_(std::move(extra))
+        : RecordedObject(cls, handle, std::move(properties)), extra_(std::move(extra))
     {
     }
     PropertyList GetExtraProperties() const override { return extra_; }
@@ -133,22 +141,7 @@ private:
     PropertyList extra_;
 };
 
-class RecordedModified final : public CFxObjectModified
-{
-public:
-    RecordedModified(OdRxClass* cls, OdDbHandle handle, PropertyList properties)
-        : class_(cls), handle_(handle), properties_(std::move(properties))
-    {
-    }
-    OdRxClass* GetObjectClass() const override { return class_; }
-    PropertyList GetProperties() const override { return properties_; }
-    OdDbHandle GetHandle() const override { return handle_; }
-
-private:
-    OdRxClass* class_;
-    OdDbHandle handle_;
-    PropertyList properties_;
-};
+using RecordedModified = RecordedObject<CFxObjectModified>;
 
 class RecordedSysVar final : public CFxSysVarChanged
 {

@@ -103,28 +103,20 @@ template<>
 struct Form<ElementBody> : ObjectForm<Form<ElementBody>, ElementBody>
 {
     static constexpr const char* name = "element";
-    static std::span<const Key<ElementBody>> keys()
-    {
-        static constexpr std::array table{
-            required<&ElementBody::tag>("tag", "a text, or the number of the element"),
-            required<&ElementBody::value>("value", "the value"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        required<&ElementBody::tag>("tag", "a text, or the number of the element"),
+        required<&ElementBody::value>("value", "the value"),
+    };
 };
 
 template<>
 struct Form<CollectionBody> : ObjectForm<Form<CollectionBody>, CollectionBody>
 {
     static constexpr const char* name = "collection";
-    static std::span<const Key<CollectionBody>> keys()
-    {
-        static constexpr std::array table{
-            optional<&CollectionBody::chosen>("chosen", "the number that it begins with, else 0"),
-            required<&CollectionBody::elements>("elements", "the elements in their order"),
-        };
-        return table;
-    }
+    static constexpr std::array keys{
+        optional<&CollectionBody::chosen>("chosen", "the number that it begins with, else 0"),
+        required<&CollectionBody::elements>("elements", "the elements in their order"),
+    };
 };
 
 CFxVariantCollectionElement Form<CFxVariantCollectionElement>::read(const Json& json)

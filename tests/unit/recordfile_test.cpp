@@ -430,21 +430,42 @@ TEST(RecordingFile, TellsTheFirstFaultOfManyLines)
 
 TEST(RecordingFile, SaysWhereBrokenTextIs)
 {
-    // The words come from what the parser saw; the line has to be right, and the text on one line.
-    const QByteArray cases[] = {
-        "{\"null\":nul}",
-        "{\"null\":null",
-        "{\"null\":null}}",
-        "{'null':null}",
-        "{\"sysvar\":{\"name\":\"A\",\"value\":{\"int32\":99999999999999999999}}}",
-        "{\"sysvar\":{\"name\":\"A\",\"value\":{\"double\":1e999}}}",
-        "{\"sysvar\":{\"name\":\"\xC3\x28\"}}",
+    const struct
+    {
+        QByteArray line;
+        const char* reason;
+    } cases[] = {
+        {R"({"null":nul})", "\"nul\" is no value (column 9)"},
+        {R"({"null":'a'})", "\"'a'\" is no value (column 9)"},
+        {R"({"null":})", "a value is expected (column 9)"},
+        {R"({"null":null)", "the line ends within an object (column 13)"},
+        {R"([[1,2)", "the line ends within a list (column 6)"},
+        {R"({"null":null}})", "nothing may stand behind the line's object (column 14)"},
+        {R"({null:null})", "a key in quotes is expected (column 2)"},
+        {R"({"null":null,})", "a key in quotes is expected (column 14)"},
+        {R"({"a":[1,]})", "a value is expected (column 9)"},
+        {R"({"null" null})", "a colon is expected behind the key (column 9)"},
+        {R"({"a":1 "b":2})", "a comma or } is expected (column 8)"},
+        {R"({"a":[1 2]})", "a comma or ] is expected (column 9)"},
+        {R"({"a":[1}})", "a comma or ] is expected (column 8)"},
+        {R"({"a":"b})", "a text lacks its closing quote (column 6)"},
+        {"{\"\xC3\xA4\":\"b\tc\"}", "a text holds a control character that is not escaped (column 8)"},
+        {R"({"a":"C:\Users"})", "there is no such escape (column 9)"},
+        {R"({"a":"\u00g1"})", "four hexadecimal digits are expected behind \\u (column 7)"},
+        {R"({"a":"\u00)", "four hexadecimal digits are expected behind \\u (column 7)"},
+        {R"({"a":01})", "\"01\" is not a number as JSON writes it (column 6)"},
+        {R"({"a":-})", "\"-\" is not a number as JSON writes it (column 6)"},
+        {R"({"a":1.})", "\"1.\" is not a number as JSON writes it (column 6)"},
+        {R"({"a":1e+})", "\"1e+\" is not a number as JSON writes it (column 6)"},
+        {R"({"a":.5})", "\".5\" is no value (column 6)"},
     };
-    for (const QByteArray& bytes : cases) {
-        const std::string error = complaint("\n" + bytes + "\n");
-        EXPECT_TRUE(error.starts_with("walls.jsonl:2: ")) << bytes.toStdString() << ": " << error;
-        EXPECT_EQ(error.find('\n'), std::string::npos) << error;
-    }
+    for (const auto& [line, reason] : cases)
+        EXPECT_EQ(complaint("\n" + line + "\n"), std::string("walls.jsonl:2: not valid JSON: ") + reason);
+    EXPECT_EQ(complaint("{\"a\":\"\xC3\x28\"}"), "walls.jsonl:1: not valid UTF-8");
+    EXPECT_EQ(complaint(R"({"a":"\ud800"})"), "walls.jsonl:1: a text holds half a pair of surrogates");
+    for (const char* const number : {"99999999999999999999", "-9223372036854775809", "1e999"})
+        EXPECT_EQ(complaint(QByteArray("{\"a\":") + number + "}").find("walls.jsonl:1: a number is out of range"), 0U);
+
     EXPECT_EQ(complaint("{}\n" + QByteArray(100, ' '), 50).substr(0, 14), "walls.jsonl:1:");
     EXPECT_EQ(complaint("\n" + QByteArray(51, ' '), 50), "walls.jsonl:2: the line is longer than 50 bytes");
 

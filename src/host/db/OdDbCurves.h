@@ -2,22 +2,22 @@
 
 #include "host/db/OdDbEntity.h"
 
+#define INKHOST_LINE_DATA(READ, HOLD, FIELD)                                                                           \
+    READ(OdGePoint3d, startPoint, "where it begins")                                                                   \
+    READ(OdGePoint3d, endPoint, "where it ends")                                                                       \
+    READ(double, thickness, "height of the extrusion")
+
 class INKHOST_EXPORT OdDbLine : public OdDbEntity
 {
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    const OdGePoint3d& startPoint() const { return startPoint_; }
-    const OdGePoint3d& endPoint() const { return endPoint_; }
-    double thickness() const { return thickness_; }
-
-private:
-    OdGePoint3d startPoint_;
-    OdGePoint3d endPoint_;
-    double thickness_ = 0.0;
+    INKHOST_DATA(OdDbLine, INKHOST_LINE_DATA)
 };
+
+#define INKHOST_CIRCLE_DATA(READ, HOLD, FIELD)                                                                         \
+    READ(OdGePoint3d, center, "the center")                                                                            \
+    READ(double, radius, "the radius")
 
 class INKHOST_EXPORT OdDbCircle : public OdDbEntity
 {
@@ -25,15 +25,14 @@ public:
     using OdDbEntity::OdDbEntity;
     OdDbCircle(const OdGePoint3d& center, double radius) : OdDbEntity(desc()), center_(center), radius_(radius) {}
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    const OdGePoint3d& center() const { return center_; }
-    double radius() const { return radius_; }
-
-private:
-    OdGePoint3d center_;
-    double radius_ = 0.0;
+    INKHOST_DATA(OdDbCircle, INKHOST_CIRCLE_DATA)
 };
+
+#define INKHOST_ARC_DATA(READ, HOLD, FIELD)                                                                            \
+    READ(OdGePoint3d, center, "the center")                                                                            \
+    READ(double, radius, "the radius")                                                                                 \
+    READ(double, startAngle, "where it begins, in radians")                                                            \
+    READ(double, endAngle, "where it ends, in radians")
 
 class INKHOST_EXPORT OdDbArc : public OdDbEntity
 {
@@ -44,20 +43,15 @@ public:
     {
     }
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    const OdGePoint3d& center() const { return center_; }
-    double radius() const { return radius_; }
-    /// In radians, as the next one is.
-    double startAngle() const { return startAngle_; }
-    double endAngle() const { return endAngle_; }
-
-private:
-    OdGePoint3d center_;
-    double radius_ = 0.0;
-    double startAngle_ = 0.0;
-    double endAngle_ = 0.0;
+    INKHOST_DATA(OdDbArc, INKHOST_ARC_DATA)
 };
+
+#define INKHOST_ELLIPSE_DATA(READ, HOLD, FIELD)                                                                        \
+    READ(OdGePoint3d, center, "the center")                                                                            \
+    READ(OdGeVector3d, majorAxis, "from the center along the longer axis")                                             \
+    READ(OdGeVector3d, minorAxis, "from the center along the shorter axis")                                            \
+    READ(double, startAngle, "where it begins, in radians; 0 for a whole one")                                         \
+    READ(double, endAngle, "where it ends, in radians; 0 for a whole one")
 
 /// An ellipse, whole or in part.
 class INKHOST_EXPORT OdDbEllipse : public OdDbEntity
@@ -65,23 +59,15 @@ class INKHOST_EXPORT OdDbEllipse : public OdDbEntity
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    const OdGePoint3d& center() const { return center_; }
-    /// From the center to the curve, as the next one does.
-    const OdGeVector3d& majorAxis() const { return majorAxis_; }
-    const OdGeVector3d& minorAxis() const { return minorAxis_; }
-    /// In radians, as the next one is.
-    double startAngle() const { return startAngle_; }
-    double endAngle() const { return endAngle_; }
-
-private:
-    OdGePoint3d center_;
-    OdGeVector3d majorAxis_;
-    OdGeVector3d minorAxis_;
-    double startAngle_ = 0.0;
-    double endAngle_ = 0.0;
+    INKHOST_DATA(OdDbEllipse, INKHOST_ELLIPSE_DATA)
 };
+
+#define INKHOST_POLYLINE_DATA(READ, HOLD, FIELD)                                                                       \
+    HOLD(OdArray<OdGePoint2d>, points, "the vertices")                                                                 \
+    HOLD(OdArray<double>, bulges,                                                                                      \
+         "one a vertex, for the segment that begins there: the tangent of a quarter of the angle of an arc, "          \
+         "0 for a line; a missing one is 0")                                                                           \
+    READ(bool, isClosed, "the last vertex is joined with the first")
 
 /// A polyline in a plane, of lines and arcs.
 class INKHOST_EXPORT OdDbPolyline : public OdDbEntity
@@ -95,7 +81,7 @@ public:
 
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbPolyline, INKHOST_POLYLINE_DATA)
 
     unsigned numVerts() const { return points_.length(); }
     /// Raises OdError_InvalidIndex, as the next two do.
@@ -103,12 +89,6 @@ public:
     /// Tangent of a quarter of the angle of the arc that begins at the vertex, 0 for a line.
     double getBulgeAt(unsigned index) const;
     SegType segType(unsigned index) const { return getBulgeAt(index) == 0.0 ? kLine : kArc; }
-    bool isClosed() const { return closed_; }
-
-private:
-    OdArray<OdGePoint2d> points_;
-    OdArray<double> bulges_; ///< one a point, up to the last that is given
-    bool closed_ = false;
 };
 
 struct OdDb3dPolylineVertex
@@ -116,22 +96,29 @@ struct OdDb3dPolylineVertex
     OdGePoint3d position;
 };
 
+#define INKHOST_3D_POLYLINE_DATA(READ, HOLD, FIELD)                                                                    \
+    FIELD(vertices, "the vertices")                                                                                    \
+    READ(bool, isClosed, "the last vertex is joined with the first")
+
 class INKHOST_EXPORT OdDb3dPolyline : public OdDbVertexEntity
 {
 public:
     using OdDbVertexEntity::OdDbVertexEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDb3dPolyline, INKHOST_3D_POLYLINE_DATA)
 
-    bool isClosed() const { return closed_; }
     void appendVertex(const OdDb3dPolylineVertex& vertex) { vertices_.append(vertex.position); }
-    void makeClosed() { closed_ = true; }
-
-private:
-    bool closed_ = false;
+    void makeClosed() { isClosed_ = true; }
 };
 
-/// A rich line.
+#define INKHOST_MLINE_DATA(READ, HOLD, FIELD)                                                                          \
+    FIELD(vertices, "the vertices")                                                                                    \
+    READ(int, justification, "which line runs through the vertices: 0 top, 1 zero, 2 bottom", kTop)                    \
+    READ(double, scale, "factor of the distances between the lines", 1.0)                                              \
+    READ(OdString, plotStyleName, "the print style")                                                                   \
+    READ(bool, closedMline, "the last vertex is joined with the first")
+
+/// A rich line. Its justification may be any number: it is as it stands in the drawing.
 class INKHOST_EXPORT OdDbMline : public OdDbVertexEntity
 {
 public:
@@ -144,20 +131,14 @@ public:
 
     using OdDbVertexEntity::OdDbVertexEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    /// Any number, as it stands in the drawing.
-    int justification() const { return justification_; }
-    double scale() const { return scale_; }
-    const OdString& plotStyleName() const { return plotStyleName_; }
-    bool closedMline() const { return closed_; }
-
-private:
-    int justification_ = kTop;
-    double scale_ = 1.0;
-    OdString plotStyleName_;
-    bool closed_ = false;
+    INKHOST_DATA(OdDbMline, INKHOST_MLINE_DATA)
 };
+
+#define INKHOST_LEADER_DATA(READ, HOLD, FIELD)                                                                         \
+    FIELD(vertices, "the vertices, the arrow first")                                                                   \
+    HOLD(int, annoType, "kind of the annotation: 0 note, 1 tolerance, 2 block reference, 3 none", kNoAnno)             \
+    READ(OdDbObjectId, annotationObjectId, "handle of the annotation")                                                 \
+    READ(double, annoWidth, "width of the annotation")
 
 class INKHOST_EXPORT OdDbLeader : public OdDbVertexEntity
 {
@@ -172,14 +153,7 @@ public:
 
     using OdDbVertexEntity::OdDbVertexEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbLeader, INKHOST_LEADER_DATA)
 
     AnnoType annoType() const { return static_cast<AnnoType>(annoType_); }
-    const OdDbObjectId& annotationObjectId() const { return annotationObjectId_; }
-    double annoWidth() const { return annoWidth_; }
-
-private:
-    int annoType_ = kNoAnno;
-    OdDbObjectId annotationObjectId_;
-    double annoWidth_ = 0.0;
 };

@@ -20,7 +20,7 @@ const T& at(const std::array<T, count>& items, std::size_t index)
 
 void OdDbEntity::setDatabaseDefaults(const OdDbDatabase& database)
 {
-    layerId_ = database.getCLAYER();
+    layer_ = database.getCLAYER();
 }
 
 double OdDbPolyline::getBulgeAt(unsigned index) const

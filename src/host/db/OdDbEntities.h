@@ -10,29 +10,27 @@ public:
     static OdRxClass* desc();
 };
 
+#define INKHOST_BLOCK_REFERENCE_DATA(READ, HOLD, FIELD)                                                                \
+    READ(OdGePoint3d, position, "where the origin of the definition lands")                                            \
+    READ(OdGeScale3d, scaleFactors, "scale along each axis")                                                           \
+    READ(double, rotation, "angle, in radians")                                                                        \
+    READ(OdDbObjectId, blockTableRecord, "handle of the block definition")                                             \
+    HOLD(OdArray<OdDbObjectId>, attributes, "handles of the attributes")
+
 class INKHOST_EXPORT OdDbBlockReference : public OdDbEntity
 {
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbBlockReference, INKHOST_BLOCK_REFERENCE_DATA)
 
-    const OdGePoint3d& position() const { return position_; }
-    const OdGeScale3d& scaleFactors() const { return scaleFactors_; }
-    /// In radians.
-    double rotation() const { return rotation_; }
-    /// The definition that is shown here.
-    const OdDbObjectId& blockTableRecord() const { return blockTableRecord_; }
     /// Walks the attributes, without the erased ones. Must not outlive the reference.
     OdDbObjectIteratorPtr attributeIterator() const { return odrxNew<OdDbObjectIterator>(attributes_); }
-
-private:
-    OdGePoint3d position_;
-    OdGeScale3d scaleFactors_;
-    double rotation_ = 0.0;
-    OdDbObjectId blockTableRecord_;
-    OdArray<OdDbObjectId> attributes_;
 };
+
+#define INKHOST_ATTRIBUTE_DATA(READ, HOLD, FIELD)                                                                      \
+    READ(OdString, tag, "name of the attribute")                                                                       \
+    READ(OdString, textString, "the text")
 
 /// A text of a block reference that differs from one reference to the next.
 class INKHOST_EXPORT OdDbAttribute : public OdDbEntity
@@ -40,15 +38,17 @@ class INKHOST_EXPORT OdDbAttribute : public OdDbEntity
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    const OdString& tag() const { return tag_; }
-    const OdString& textString() const { return textString_; }
-
-private:
-    OdString tag_;
-    OdString textString_;
+    INKHOST_DATA(OdDbAttribute, INKHOST_ATTRIBUTE_DATA)
 };
+
+#define INKHOST_TABLE_DATA(READ, HOLD, FIELD)                                                                          \
+    READ(double, height, "height of the whole table")                                                                  \
+    READ(double, width, "width of the whole table")                                                                    \
+    HOLD(OdArray<OdString>, cellStyles,                                                                                \
+         "names of the cell styles of whole rows, from the first on; a missing one is empty")                          \
+    HOLD(OdArray<double>, rowHeights, "heights of the rows, as many as there are")                                     \
+    HOLD(OdArray<double>, columnWidths, "widths of the columns, as many as there are")                                 \
+    HOLD(OdArray<OdArray<OdString>>, textStrings, "texts of the cells, row by row; a missing one is empty")
 
 /// A table has as many rows and columns as it has heights and widths.
 class INKHOST_EXPORT OdDbTable : public OdDbBlockReference
@@ -56,13 +56,10 @@ class INKHOST_EXPORT OdDbTable : public OdDbBlockReference
 public:
     using OdDbBlockReference::OdDbBlockReference;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbTable, INKHOST_TABLE_DATA)
 
     unsigned numRows() const { return rowHeights_.length(); }
     unsigned numColumns() const { return columnWidths_.length(); }
-    /// Of the whole table, as the next one is.
-    double height() const { return height_; }
-    double width() const { return width_; }
     /// Raises OdError_InvalidIndex, as the next one does.
     double rowHeight(unsigned row) const { return rowHeights_[row]; }
     double columnWidth(unsigned column) const { return columnWidths_[column]; }
@@ -71,15 +68,21 @@ public:
     /// Name of the cell style of a whole row, for which the column is -1. Empty when there is none; cells have none of
     /// their own.
     OdString cellStyle(unsigned row, int column) const;
-
-private:
-    double height_ = 0.0;
-    double width_ = 0.0;
-    OdArray<OdString> cellStyles_; ///< by row, as far as they are given
-    OdArray<double> rowHeights_;
-    OdArray<double> columnWidths_;
-    OdArray<OdArray<OdString>> textStrings_; ///< by row, up to the last filled cell
 };
+
+#define INKHOST_MTEXT_DATA(READ, HOLD, FIELD)                                                                          \
+    READ(OdString, contents, "the text, with its format codes")                                                        \
+    READ(OdDbObjectId, textStyle, "handle of the text style")                                                          \
+    READ(double, textHeight, "height of the letters")                                                                  \
+    READ(double, width, "width of the box")                                                                            \
+    READ(double, actualHeight, "height that the lines take")                                                           \
+    READ(double, rotation, "angle of the text, in radians")                                                            \
+    READ(double, lineSpacingFactor, "distance of the lines in relation to the usual one", 1.0)                         \
+    READ(int, attachment, "1 top left, 2 top center and so on to 9 bottom right", 1)                                   \
+    READ(bool, backgroundFillOn, "the box is filled")                                                                  \
+    READ(bool, useBackgroundColorOn, "the box is filled with the drawing's background color")                          \
+    HOLD(std::optional<OdCmColor>, backgroundFillColor, "the color of the box")                                        \
+    HOLD(double, backgroundScaleFactor, "size of the filled box in relation to that of the text", 1.5)
 
 /// A note: text of one or more lines in a box.
 class INKHOST_EXPORT OdDbMText : public OdDbEntity
@@ -87,42 +90,13 @@ class INKHOST_EXPORT OdDbMText : public OdDbEntity
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbMText, INKHOST_MTEXT_DATA)
 
-    /// With the format codes.
-    const OdString& contents() const { return contents_; }
-    const OdDbObjectId& textStyle() const { return textStyle_; }
-    double textHeight() const { return textHeight_; }
-    /// Of the box, as the user set it.
-    double width() const { return width_; }
-    /// Of the lines, as they fill the box.
-    double actualHeight() const { return actualHeight_; }
-    /// In radians.
-    double rotation() const { return rotation_; }
-    double lineSpacingFactor() const { return lineSpacingFactor_; }
-    /// 1 (top left) to 9 (bottom right), row by row.
-    int attachment() const { return attachment_; }
-
-    bool backgroundFillOn() const { return backgroundFill_; }
-    bool useBackgroundColorOn() const { return useBackgroundColor_; }
     const std::optional<OdCmColor>& getBackgroundFillColor() const { return backgroundFillColor_; }
-    /// The filled box in relation to the text's.
     double getBackgroundScaleFactor() const { return backgroundScaleFactor_; }
-
-private:
-    OdString contents_;
-    OdDbObjectId textStyle_;
-    double textHeight_ = 0.0;
-    double width_ = 0.0;
-    double actualHeight_ = 0.0;
-    double rotation_ = 0.0;
-    double lineSpacingFactor_ = 1.0;
-    int attachment_ = 1;
-    bool backgroundFill_ = false;
-    bool useBackgroundColor_ = false;
-    std::optional<OdCmColor> backgroundFillColor_;
-    double backgroundScaleFactor_ = 1.5;
 };
+
+#define INKHOST_FCF_DATA(READ, HOLD, FIELD) READ(OdString, text, "the text of the tolerance frame")
 
 /// A tolerance frame.
 class INKHOST_EXPORT OdDbFcf : public OdDbEntity
@@ -130,13 +104,21 @@ class INKHOST_EXPORT OdDbFcf : public OdDbEntity
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    const OdString& text() const { return text_; }
-
-private:
-    OdString text_;
+    INKHOST_DATA(OdDbFcf, INKHOST_FCF_DATA)
 };
+
+#define INKHOST_ARC_ALIGNED_TEXT_DATA(READ, HOLD, FIELD)                                                               \
+    READ(OdString, textString, "the text")                                                                             \
+    READ(OdDbObjectId, arcId, "handle of the arc that the text runs along")                                            \
+    READ(OdDbObjectId, textStyle, "handle of the text style")                                                          \
+    READ(OdString, typeface, "the font")                                                                               \
+    READ(bool, isBold, "the font is bold")                                                                             \
+    READ(bool, isItalic, "the font is italic")                                                                         \
+    READ(bool, isUnderlined, "the text is underlined")                                                                 \
+    READ(bool, isReversedCharOrder, "the letters stand in reversed order")                                             \
+    READ(int, alignment, "1 fit, 2 left, 3 right, 4 center", 1)                                                        \
+    READ(int, textPosition, "1 on the convex side of the arc, 2 on the concave side", 1)                               \
+    READ(int, textDirection, "1 outward from the center, 2 inward to the center", 1)
 
 /// A curved text.
 class INKHOST_EXPORT OdDbArcAlignedText : public OdDbEntity
@@ -144,37 +126,12 @@ class INKHOST_EXPORT OdDbArcAlignedText : public OdDbEntity
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    const OdString& textString() const { return textString_; }
-    /// The arc that the text runs along.
-    const OdDbObjectId& arcId() const { return arcId_; }
-    const OdDbObjectId& textStyle() const { return textStyle_; }
-    const OdString& typeface() const { return typeface_; }
-    bool isBold() const { return bold_; }
-    bool isItalic() const { return italic_; }
-    bool isUnderlined() const { return underlined_; }
-    bool isReversedCharOrder() const { return reversed_; }
-    /// 1 fit, 2 left, 3 right, 4 center.
-    int alignment() const { return alignment_; }
-    /// 1 on the arc's convex side, 2 on its concave side.
-    int textPosition() const { return textPosition_; }
-    /// 1 outward from the center, 2 inward.
-    int textDirection() const { return textDirection_; }
-
-private:
-    OdString textString_;
-    OdDbObjectId arcId_;
-    OdDbObjectId textStyle_;
-    OdString typeface_;
-    bool bold_ = false;
-    bool italic_ = false;
-    bool underlined_ = false;
-    bool reversed_ = false;
-    int alignment_ = 1;
-    int textPosition_ = 1;
-    int textDirection_ = 1;
+    INKHOST_DATA(OdDbArcAlignedText, INKHOST_ARC_ALIGNED_TEXT_DATA)
 };
+
+#define INKHOST_VIEWPORT_DATA(READ, HOLD, FIELD)                                                                       \
+    READ(bool, isNonRectClipOn, "an entity bounds the window, not a rectangle")                                        \
+    READ(OdDbObjectId, nonRectClipEntityId, "handle of that entity")
 
 /// A window of a sheet onto the model.
 class INKHOST_EXPORT OdDbViewport : public OdDbEntity
@@ -182,13 +139,5 @@ class INKHOST_EXPORT OdDbViewport : public OdDbEntity
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    /// Whether an entity, not a rectangle, bounds the window.
-    bool isNonRectClipOn() const { return nonRectClip_; }
-    const OdDbObjectId& nonRectClipEntityId() const { return nonRectClipEntityId_; }
-
-private:
-    bool nonRectClip_ = false;
-    OdDbObjectId nonRectClipEntityId_;
+    INKHOST_DATA(OdDbViewport, INKHOST_VIEWPORT_DATA)
 };

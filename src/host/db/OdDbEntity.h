@@ -4,22 +4,21 @@
 
 class OdDbDatabase;
 
+#define INKHOST_ENTITY_DATA(READ, HOLD, FIELD) HOLD(OdDbObjectId, layer, "handle of the layer")
+
 /// What is drawn, as against the records and styles behind it.
 class INKHOST_EXPORT OdDbEntity : public OdDbObject
 {
 public:
     using OdDbObject::OdDbObject;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbEntity, INKHOST_ENTITY_DATA)
 
     /// The null id when the drawing does not tell.
-    OdDbObjectId layerId() const { return layerId_; }
-    void setLayer(OdDbObjectId layer) { layerId_ = layer; }
+    OdDbObjectId layerId() const { return layer_; }
+    void setLayer(OdDbObjectId layer) { layer_ = layer; }
     /// Takes over what the drawing has for new entities: the active layer.
     void setDatabaseDefaults(const OdDbDatabase& database);
-
-private:
-    OdDbObjectId layerId_;
 };
 
 /// An entity along or over a list of points. No class of drawing objects of its own.

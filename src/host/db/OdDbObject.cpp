@@ -37,11 +37,7 @@ void OdDbObject::setXData(const OdResBufPtr& chain)
     std::erase_if(xData_, [](const auto& entry) { return !entry.second; });
 }
 
-OdRxClass* OdDbObjectIterator::desc()
-{
-    static OdRxClass* const descriptor = OdRxClass::define("OdDbObjectIterator", OdRxObject::desc());
-    return descriptor;
-}
+ODRX_DEFINE_DESC(OdDbObjectIterator, OdRxObject)
 
 void OdDbObjectIterator::skipErased()
 {

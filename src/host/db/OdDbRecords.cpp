@@ -33,7 +33,7 @@ OdDbBlockTableRecordPtr OdDbBlockTableRecord::createLayoutBlock(const OdString& 
 {
     auto block = odrxNew<OdDbBlockTableRecord>(desc());
     block->setName(name);
-    block->layout_ = true;
+    block->isLayout_ = true;
     return block;
 }
 

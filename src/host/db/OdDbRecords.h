@@ -3,20 +3,19 @@
 #include "host/db/OdDbEntity.h"
 #include "host/db/OdDbObjectIterator.h"
 
+#define INKHOST_SYMBOL_TABLE_RECORD_DATA(READ, HOLD, FIELD) HOLD(OdString, name, "the name in its table")
+
 /// A named entry of one of the drawing's tables: a layer, a style, a block definition.
 class INKHOST_EXPORT OdDbSymbolTableRecord : public OdDbObject
 {
 public:
     using OdDbObject::OdDbObject;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbSymbolTableRecord, INKHOST_SYMBOL_TABLE_RECORD_DATA)
 
     const OdString& getName() const { return name_; }
     /// For a record that has not come into its table yet.
     void setName(const OdString& name) { name_ = name; }
-
-private:
-    OdString name_;
 };
 
 /// One of the drawing's tables: the records of a class by their names. Not an object of the drawing's file, where the
@@ -48,19 +47,21 @@ public:
     static OdRxClass* desc();
 };
 
+#define INKHOST_LAYER_TABLE_RECORD_DATA(READ, HOLD, FIELD)                                                             \
+    HOLD(std::optional<OdCmColor>, color, "color of what has that of its layer")
+
 class INKHOST_EXPORT OdDbLayerTableRecord : public OdDbSymbolTableRecord
 {
 public:
     using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbLayerTableRecord, INKHOST_LAYER_TABLE_RECORD_DATA)
 
     OdCmColor color() const { return color_.value_or(OdCmColor()); }
     void setColorIndex(std::uint16_t index) { color_ = OdCmColor::byIndex(index); }
-
-private:
-    std::optional<OdCmColor> color_;
 };
+
+#define INKHOST_LINETYPE_TABLE_RECORD_DATA(READ, HOLD, FIELD) READ(OdString, comments, "the description")
 
 /// A line style.
 class INKHOST_EXPORT OdDbLinetypeTableRecord : public OdDbSymbolTableRecord
@@ -68,46 +69,45 @@ class INKHOST_EXPORT OdDbLinetypeTableRecord : public OdDbSymbolTableRecord
 public:
     using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbLinetypeTableRecord, INKHOST_LINETYPE_TABLE_RECORD_DATA)
 
-    /// The description.
-    const OdString& comments() const { return comments_; }
     void setComments(const OdString& comments) { comments_ = comments; }
-
-private:
-    OdString comments_;
 };
 
 using OdDbLinetypeTableRecordPtr = OdSmartPtr<OdDbLinetypeTableRecord>;
+
+#define INKHOST_TEXT_STYLE_TABLE_RECORD_DATA(READ, HOLD, FIELD)                                                        \
+    READ(bool, isShapeFile, "the style loads a file of shapes")                                                        \
+    READ(OdString, fileName, "the font's or the shapes' file")
 
 class INKHOST_EXPORT OdDbTextStyleTableRecord : public OdDbSymbolTableRecord
 {
 public:
     using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    /// Whether the style only loads a file of shapes and holds no font.
-    bool isShapeFile() const { return shapeFile_; }
-    const OdString& fileName() const { return fileName_; }
-
-private:
-    bool shapeFile_ = false;
-    OdString fileName_;
+    INKHOST_DATA(OdDbTextStyleTableRecord, INKHOST_TEXT_STYLE_TABLE_RECORD_DATA)
 };
+
+#define INKHOST_VIEW_TABLE_RECORD_DATA(READ, HOLD, FIELD) READ(bool, isPaperspaceView, "the view was saved on a sheet")
 
 class INKHOST_EXPORT OdDbViewTableRecord : public OdDbSymbolTableRecord
 {
 public:
     using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    bool isPaperspaceView() const { return paperspaceView_; }
-
-private:
-    bool paperspaceView_ = false;
+    INKHOST_DATA(OdDbViewTableRecord, INKHOST_VIEW_TABLE_RECORD_DATA)
 };
+
+#define INKHOST_BLOCK_TABLE_RECORD_DATA(READ, HOLD, FIELD)                                                             \
+    READ(bool, isLayout, "the block holds what is drawn on a sheet or in model space")                                 \
+    READ(bool, isFromExternalReference, "the block shows another drawing")                                             \
+    READ(OdString, pathName, "file of the drawing that is shown")                                                      \
+    READ(OdGePoint3d, origin, "the point that lands on a reference's position")                                        \
+    READ(OdString, comments, "the description")                                                                        \
+    HOLD(int, blockScaling, "1 for uniform scales only, else 0", kAny)                                                 \
+    READ(bool, explodable, "references can be exploded", true)                                                         \
+    READ(int, blockInsertUnits, "0 unitless, 1 inches, 2 feet, 3 miles, 4 millimeters and so on to 20 parsecs")        \
+    HOLD(OdArray<OdDbObjectId>, entities, "handles of what the block is made of")
 
 class INKHOST_EXPORT OdDbBlockTableRecord : public OdDbSymbolTableRecord
 {
@@ -120,20 +120,9 @@ public:
 
     using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbBlockTableRecord, INKHOST_BLOCK_TABLE_RECORD_DATA)
 
-    /// Whether the block holds what is drawn on a sheet or in model space.
-    bool isLayout() const { return layout_; }
-    bool isFromExternalReference() const { return externalReference_; }
-    /// File of the drawing that an external reference shows.
-    const OdString& pathName() const { return pathName_; }
-    /// The point of the block that lands on a reference's position.
-    const OdGePoint3d& origin() const { return origin_; }
-    const OdString& comments() const { return comments_; }
     BlockScaling blockScaling() const { return static_cast<BlockScaling>(blockScaling_); }
-    bool explodable() const { return explodable_; }
-    /// 0 unitless, 1 inches and so on, see CFxUtils.
-    int blockInsertUnits() const { return blockInsertUnits_; }
     /// Walks the entities from the first to the last, without the erased ones. Must not outlive the definition.
     OdDbObjectIteratorPtr newIterator() const { return odrxNew<OdDbObjectIterator>(entities_); }
 
@@ -142,17 +131,6 @@ public:
     OdDbObjectId appendOdDbEntity(OdDbDatabase& database, const OdSmartPtr<OdDbEntity>& entity);
     /// A block that holds what is drawn on a sheet or in model space, as yet outside the drawing.
     static OdSmartPtr<OdDbBlockTableRecord> createLayoutBlock(const OdString& name);
-
-private:
-    bool layout_ = false;
-    bool externalReference_ = false;
-    OdString pathName_;
-    OdGePoint3d origin_;
-    OdString comments_;
-    int blockScaling_ = kAny;
-    bool explodable_ = true;
-    int blockInsertUnits_ = 0;
-    OdArray<OdDbObjectId> entities_;
 };
 
 using OdDbBlockTableRecordPtr = OdSmartPtr<OdDbBlockTableRecord>;
@@ -174,37 +152,37 @@ struct OdDbMlineElement
     bool operator==(const OdDbMlineElement&) const = default;
 };
 
+#define INKHOST_MLINE_STYLE_DATA(READ, HOLD, FIELD)                                                                    \
+    READ(OdString, name, "the name")                                                                                   \
+    HOLD(OdArray<OdDbMlineElement>, elements, "the parallel lines")
+
 /// A rich line style.
 class INKHOST_EXPORT OdDbMlineStyle : public OdDbObject
 {
 public:
     using OdDbObject::OdDbObject;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbMlineStyle, INKHOST_MLINE_STYLE_DATA)
 
-    const OdString& name() const { return name_; }
     int numElements() const { return static_cast<int>(elements_.length()); }
     /// Raises OdError_InvalidIndex.
     const OdDbMlineElement& getElementAt(int index) const { return elements_[static_cast<std::size_t>(index)]; }
-
-private:
-    OdString name_;
-    OdArray<OdDbMlineElement> elements_;
 };
+
+#define INKHOST_GROUP_DATA(READ, HOLD, FIELD) READ(bool, isAnonymous, "the group has no name of its own")
 
 class INKHOST_EXPORT OdDbGroup : public OdDbObject
 {
 public:
     using OdDbObject::OdDbObject;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    /// Whether the group has no name of its own.
-    bool isAnonymous() const { return anonymous_; }
-
-private:
-    bool anonymous_ = false;
+    INKHOST_DATA(OdDbGroup, INKHOST_GROUP_DATA)
 };
+
+#define INKHOST_DIM_ASSOC_DATA(READ, HOLD, FIELD)                                                                      \
+    HOLD(OdDbFour<OdArray<OdDbObjectId>>, pointRefs,                                                                   \
+         "four places, one for each point of the dimension: null, or the handles of the objects that lead to what "    \
+         "the point hangs on, that one the last")
 
 /// What a dimension hangs on. Stands in the dimension's extension dictionary as "ACAD_DIMASSOC".
 class INKHOST_EXPORT OdDbDimAssoc : public OdDbObject
@@ -214,59 +192,53 @@ public:
 
     using OdDbObject::OdDbObject;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbDimAssoc, INKHOST_DIM_ASSOC_DATA)
 
     /// The objects that lead to the geometry of one of the dimension's points, the geometry itself the last; empty
     /// when the point hangs on nothing. Raises OdError_InvalidIndex.
     const OdArray<OdDbObjectId>& pointRef(std::size_t index) const;
-
-private:
-    std::array<OdArray<OdDbObjectId>, kMaxPointRefs> pointRefs_;
 };
+
+#define INKHOST_DICTIONARY_DATA(READ, HOLD, FIELD) HOLD(OdDbNamedIds, items, "handles of the objects by name")
 
 class INKHOST_EXPORT OdDbDictionary : public OdDbObject
 {
 public:
     using OdDbObject::OdDbObject;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbDictionary, INKHOST_DICTIONARY_DATA)
 
     /// The null id for a name that is not in it. Upper and lower case are the same.
     OdDbObjectId getAt(const OdString& name) const;
-
-private:
-    OdDbNamedIds items_;
 };
+
+#define INKHOST_PLOT_SETTINGS_DATA(READ, HOLD, FIELD)                                                                  \
+    READ(bool, modelType, "the settings of model space")                                                               \
+    HOLD(OdString, currentStyleSheet, "file of the print styles")
 
 class INKHOST_EXPORT OdDbPlotSettings : public OdDbObject
 {
 public:
     using OdDbObject::OdDbObject;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbPlotSettings, INKHOST_PLOT_SETTINGS_DATA)
 
-    /// Whether the settings are those of model space.
-    bool modelType() const { return modelType_; }
-    /// File of the print styles, empty for none.
+    /// Empty for none.
     const OdString& getCurrentStyleSheet() const { return currentStyleSheet_; }
 
 protected:
-    bool modelType_ = false;
-
-private:
-    OdString currentStyleSheet_;
+    OdDbPlotSettings(OdRxClass* cls, bool modelType) : OdDbObject(cls), modelType_(modelType) {}
 };
+
+#define INKHOST_LAYOUT_DATA(READ, HOLD, FIELD) HOLD(OdString, layoutName, "the sheet's name")
 
 class INKHOST_EXPORT OdDbLayout : public OdDbPlotSettings
 {
 public:
     using OdDbPlotSettings::OdDbPlotSettings;
-    OdDbLayout(const OdString& name, bool model) : OdDbPlotSettings(desc()), layoutName_(name) { modelType_ = model; }
+    OdDbLayout(const OdString& name, bool model) : OdDbPlotSettings(desc(), model), layoutName_(name) {}
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbLayout, INKHOST_LAYOUT_DATA)
 
     const OdString& getLayoutName() const { return layoutName_; }
-
-private:
-    OdString layoutName_;
 };

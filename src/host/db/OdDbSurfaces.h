@@ -2,26 +2,20 @@
 
 #include "host/db/OdDbEntity.h"
 
+#define INKHOST_POLYGON_MESH_DATA(READ, HOLD, FIELD)                                                                   \
+    FIELD(vertices, "the vertices, row by row")                                                                        \
+    READ(int, mSize, "number of rows of vertices")                                                                     \
+    READ(int, nSize, "number of vertices in a row")                                                                    \
+    READ(bool, isMClosed, "the last row is joined with the first")                                                     \
+    READ(bool, isNClosed, "the last vertex of each row is joined with the first")
+
 /// A grid of points.
 class INKHOST_EXPORT OdDbPolygonMesh : public OdDbVertexEntity
 {
 public:
     using OdDbVertexEntity::OdDbVertexEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    /// How many rows of vertices there are.
-    int mSize() const { return mSize_; }
-    /// How many vertices a row has.
-    int nSize() const { return nSize_; }
-    bool isMClosed() const { return mClosed_; }
-    bool isNClosed() const { return nClosed_; }
-
-private:
-    int mSize_ = 0;
-    int nSize_ = 0;
-    bool mClosed_ = false;
-    bool nClosed_ = false;
+    INKHOST_DATA(OdDbPolygonMesh, INKHOST_POLYGON_MESH_DATA)
 };
 
 /// One face of a polyface mesh.
@@ -36,33 +30,33 @@ struct INKHOST_EXPORT OdDbFaceRecord
     bool operator==(const OdDbFaceRecord&) const = default;
 };
 
+#define INKHOST_POLY_FACE_MESH_DATA(READ, HOLD, FIELD)                                                                 \
+    FIELD(vertices, "the vertices")                                                                                    \
+    READ(OdArray<OdDbFaceRecord>, faces,                                                                               \
+         "three or four numbers of vertices each, from 1; a negative number begins a hidden edge, a fourth number "    \
+         "0 is as none")
+
 class INKHOST_EXPORT OdDbPolyFaceMesh : public OdDbVertexEntity
 {
 public:
     using OdDbVertexEntity::OdDbVertexEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    const OdArray<OdDbFaceRecord>& faces() const { return faces_; }
-
-private:
-    OdArray<OdDbFaceRecord> faces_;
+    INKHOST_DATA(OdDbPolyFaceMesh, INKHOST_POLY_FACE_MESH_DATA)
 };
+
+#define INKHOST_FILLED_AREA_DATA(READ, HOLD, FIELD)                                                                    \
+    HOLD(OdDbFour<OdGePoint3d>, points, "the four corners")                                                            \
+    READ(double, thickness, "height of the extrusion")
 
 /// A filled area between four points. No class of drawing objects of its own.
 class INKHOST_EXPORT OdDbFilledArea : public OdDbEntity
 {
 public:
     using OdDbEntity::OdDbEntity;
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbFilledArea, INKHOST_FILLED_AREA_DATA)
 
     /// Raises OdError_InvalidIndex.
     const OdGePoint3d& getPointAt(std::size_t index) const;
-    double thickness() const { return thickness_; }
-
-private:
-    std::array<OdGePoint3d, 4> points_{};
-    double thickness_ = 0.0;
 };
 
 class INKHOST_EXPORT OdDbSolid : public OdDbFilledArea
@@ -79,21 +73,24 @@ public:
     static OdRxClass* desc();
 };
 
+#define INKHOST_FACE_DATA(READ, HOLD, FIELD)                                                                           \
+    HOLD(OdDbFour<OdGePoint3d>, vertices, "the four corners")                                                          \
+    HOLD(OdDbFour<bool>, edgesVisible, "whether the edge that begins at each corner is visible")
+
 class INKHOST_EXPORT OdDbFace : public OdDbEntity
 {
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbFace, INKHOST_FACE_DATA)
 
     /// Raises OdError_InvalidIndex, as the next one does.
     const OdGePoint3d& getVertexAt(std::size_t index) const;
     bool isEdgeVisibleAt(std::size_t index) const;
-
-private:
-    std::array<OdGePoint3d, 4> vertices_{};
-    std::array<bool, 4> edgesVisible_{};
 };
+
+#define INKHOST_REGION_DATA(READ, HOLD, FIELD)                                                                         \
+    HOLD(OdArray<OdDbObjectId>, pieces, "handles of the curves around it, in order")
 
 /// A flat area within curves.
 class INKHOST_EXPORT OdDbRegion : public OdDbEntity
@@ -101,13 +98,10 @@ class INKHOST_EXPORT OdDbRegion : public OdDbEntity
 public:
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
+    INKHOST_DATA(OdDbRegion, INKHOST_REGION_DATA)
 
     /// The curves around the area, in their order. Those that the drawing does not hold are left out.
     OdArray<OdDbObjectPtr> explode() const;
-
-private:
-    OdArray<OdDbObjectId> pieces_;
 };
 
 /// One of the boundaries of a hatch.
@@ -118,6 +112,13 @@ struct OdDbHatchLoop
     OdArray<OdDbObjectId> assocObjIds; ///< the objects that the boundary follows
     bool operator==(const OdDbHatchLoop&) const = default;
 };
+
+#define INKHOST_HATCH_DATA(READ, HOLD, FIELD)                                                                          \
+    READ(OdString, patternName, "name of the pattern")                                                                 \
+    READ(double, patternScale, "scale of the pattern", 1.0)                                                            \
+    READ(double, patternAngle, "angle of the pattern, in radians")                                                     \
+    HOLD(OdArray<OdGePoint2d>, seedPoints, "the points within the areas, by which they were found")                    \
+    HOLD(OdArray<OdDbHatchLoop>, loops, "the boundaries")
 
 class INKHOST_EXPORT OdDbHatch : public OdDbEntity
 {
@@ -130,12 +131,7 @@ public:
 
     using OdDbEntity::OdDbEntity;
     static OdRxClass* desc();
-    static std::span<const OdDbField> fields();
-
-    const OdString& patternName() const { return patternName_; }
-    double patternScale() const { return patternScale_; }
-    /// In radians.
-    double patternAngle() const { return patternAngle_; }
+    INKHOST_DATA(OdDbHatch, INKHOST_HATCH_DATA)
 
     int numLoops() const { return static_cast<int>(loops_.length()); }
     /// Bits of LoopType and others. Raises OdError_InvalidIndex, as the next two do.
@@ -151,10 +147,4 @@ public:
 
 private:
     const OdDbHatchLoop& loopAt(int index) const { return loops_[static_cast<std::size_t>(index)]; }
-
-    OdString patternName_;
-    double patternScale_ = 1.0;
-    double patternAngle_ = 0.0;
-    OdArray<OdGePoint2d> seedPoints_;
-    OdArray<OdDbHatchLoop> loops_;
 };

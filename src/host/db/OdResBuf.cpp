@@ -21,11 +21,7 @@ OdResBuf::~OdResBuf()
         rest = OdResBufPtr(std::move(rest->next_));
 }
 
-OdRxClass* OdResBuf::desc()
-{
-    static OdRxClass* const descriptor = OdRxClass::define("OdResBuf", OdRxObject::desc());
-    return descriptor;
-}
+ODRX_DEFINE_DESC(OdResBuf, OdRxObject)
 
 OdString OdResBuf::getString() const
 {

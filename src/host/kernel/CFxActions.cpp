@@ -1,17 +1,10 @@
 #include "host/kernel/CFxActions.h"
 
-#define INKHOST_ACTION(Class)                                                                                          \
-    OdRxClass* Class::desc()                                                                                           \
-    {                                                                                                                  \
-        static OdRxClass* const descriptor = OdRxClass::define(#Class, OdRxObject::desc());                            \
-        return descriptor;                                                                                             \
-    }
-
-INKHOST_ACTION(CFxPropertyChanged)
-INKHOST_ACTION(CFxUserCommand)
-INKHOST_ACTION(CFxObjectAdded)
-INKHOST_ACTION(CFxObjectModified)
-INKHOST_ACTION(CFxSysVarChanged)
-INKHOST_ACTION(CFxUserInteraction)
-INKHOST_ACTION(CFxUserSelection)
-INKHOST_ACTION(CFxCustomAction)
+ODRX_DEFINE_DESC(CFxPropertyChanged, OdRxObject)
+ODRX_DEFINE_DESC(CFxUserCommand, OdRxObject)
+ODRX_DEFINE_DESC(CFxObjectAdded, OdRxObject)
+ODRX_DEFINE_DESC(CFxObjectModified, OdRxObject)
+ODRX_DEFINE_DESC(CFxSysVarChanged, OdRxObject)
+ODRX_DEFINE_DESC(CFxUserInteraction, OdRxObject)
+ODRX_DEFINE_DESC(CFxUserSelection, OdRxObject)
+ODRX_DEFINE_DESC(CFxCustomAction, OdRxObject)

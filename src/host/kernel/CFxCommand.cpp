@@ -9,17 +9,8 @@ QString bare(const QString& name)
 
 } // namespace
 
-OdRxClass* OdEdCommand::desc()
-{
-    static OdRxClass* const descriptor = OdRxClass::define("OdEdCommand", OdRxObject::desc());
-    return descriptor;
-}
-
-OdRxClass* CFxCommand::desc()
-{
-    static OdRxClass* const descriptor = OdRxClass::define("CFxCommand", OdEdCommand::desc());
-    return descriptor;
-}
+ODRX_DEFINE_DESC(OdEdCommand, OdRxObject)
+ODRX_DEFINE_DESC(CFxCommand, OdEdCommand)
 
 OdDbBlockTableRecordPtr GetActiveBlockTableRecord(CFxCommandContext* context)
 {

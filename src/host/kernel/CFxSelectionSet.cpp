@@ -1,10 +1,6 @@
 #include "host/kernel/CFxSelectionSet.h"
 
-OdRxClass* CFxSelectionSet::desc()
-{
-    static OdRxClass* const descriptor = OdRxClass::define("CFxSelectionSet", OdRxObject::desc());
-    return descriptor;
-}
+ODRX_DEFINE_DESC(CFxSelectionSet, OdRxObject)
 
 void CFxSelectionSet::Clear()
 {

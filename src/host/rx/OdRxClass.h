@@ -26,3 +26,11 @@ private:
     OdString name_;
     OdRxClass* parent_;
 };
+
+/// Defines `desc` of a class whose descriptor has the class's name.
+#define ODRX_DEFINE_DESC(Class, Parent)                                                                                \
+    OdRxClass* Class::desc()                                                                                           \
+    {                                                                                                                  \
+        static OdRxClass* const descriptor = OdRxClass::define(#Class, Parent::desc());                                \
+        return descriptor;                                                                                             \
+    }

@@ -1,5 +1,7 @@
 #include "host/rx/OdRxObject.h"
 
+#include "host/rx/OdRxModule.h"
+
 OdRxClass* OdRxObject::desc()
 {
     static OdRxClass* const descriptor = OdRxClass::define("OdRxObject", nullptr);
@@ -15,3 +17,5 @@ OdRxObject* OdRxObject::queryX(const OdRxClass* wanted) const
     addRef();
     return const_cast<OdRxObject*>(this);
 }
+
+ODRX_DEFINE_DESC(OdRxModule, OdRxObject)
