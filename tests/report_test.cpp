@@ -103,6 +103,30 @@ TEST_F(Program, ReportsOfAllJobsInOneDocument)
     EXPECT_TRUE(lines.value(fault["line"].toInt() - 1).contains("6\" wide")) << fault["line"].toInt();
 }
 
+/// An insertion draws the arcs of a polyline as lines, an action as arcs.
+TEST_F(Program, ReportsArcsAsLostWhereNoActionDrawsThem)
+{
+    const QByteArray object =
+        R"({"object":{"class":"AcDbPolyline","handle":"31","points":[[0,0],[1,0],[2,0]],"bulges":[0,1]}})"
+        "\n";
+    const QByteArray added = R"({"added":{"class":"AcDbPolyline","handle":"31","properties":[]}})";
+    const QByteArray action = R"({"custom":{"kind":16,"data":[{"points":[[0,0,0],[1,0,0],[2,0,0]]},)"
+                              R"({"points":[[0,0,0],[1,0,0],[0,0,0]]},{"bool":false},{"handle":"31"},)"
+                              R"({"class":"AcDbPolyline"},{"doubles":[]},{"doubles":[]},{"bool":true},{"double":0}]}})";
+    const auto lossesOf = [this, &object](const QByteArray& actions) {
+        write("arcs.jsonl", object + R"({"command":{"name":"POLYLINE","actions":[)" + actions + "]}}\n");
+        const QJsonArray reports =
+            conversions(run({"convert", "arcs.jsonl", "--target", "csharp", "--output", "out/", "--report"}));
+        EXPECT_EQ(reports[0]["status"], "converted");
+        return reports[0]["losses"].toArray();
+    };
+    EXPECT_EQ(lossesOf(added), (QJsonArray{QJsonObject{{"line", 2},
+                                                       {"path", "command.actions[0]"},
+                                                       {"what", "property \"Vertex\" of AcDbPolyline 31"},
+                                                       {"reason", "arcs come as lines"}}}));
+    EXPECT_EQ(lossesOf(added + ',' + action), QJsonArray());
+}
+
 /// A second thread writes the text of a long macro, in batches of 64 Ki letters.
 TEST_F(Program, ReportsFaultsUpToTheEndOfALongMacro)
 {
