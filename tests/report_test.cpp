@@ -6,6 +6,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace {
 
 /// In the third line a property and in the fourth an object that has no statement.
@@ -99,6 +101,56 @@ TEST_F(Program, ReportsOfAllJobsInOneDocument)
     EXPECT_TRUE(fault["mended"].toBool());
     const QList<QByteArray> lines = contents("out/faulty/vba/faulty.bas").split('\n');
     EXPECT_TRUE(lines.value(fault["line"].toInt() - 1).contains("6\" wide")) << fault["line"].toInt();
+}
+
+/// An insertion draws the arcs of a polyline as lines, an action as arcs.
+TEST_F(Program, ReportsArcsAsLostWhereNoActionDrawsThem)
+{
+    const QByteArray object =
+        R"({"object":{"class":"AcDbPolyline","handle":"31","points":[[0,0],[1,0],[2,0]],"bulges":[0,1]}})"
+        "\n";
+    const QByteArray added = R"({"added":{"class":"AcDbPolyline","handle":"31","properties":[]}})";
+    const QByteArray action = R"({"custom":{"kind":16,"data":[{"points":[[0,0,0],[1,0,0],[2,0,0]]},)"
+                              R"({"points":[[0,0,0],[1,0,0],[0,0,0]]},{"bool":false},{"handle":"31"},)"
+                              R"({"class":"AcDbPolyline"},{"doubles":[]},{"doubles":[]},{"bool":true},{"double":0}]}})";
+    const auto lossesOf = [this, &object](const QByteArray& actions) {
+        write("arcs.jsonl", object + R"({"command":{"name":"POLYLINE","actions":[)" + actions + "]}}\n");
+        const QJsonArray reports =
+            conversions(run({"convert", "arcs.jsonl", "--target", "csharp", "--output", "out/", "--report"}));
+        EXPECT_EQ(reports[0]["status"], "converted");
+        return reports[0]["losses"].toArray();
+    };
+    EXPECT_EQ(lossesOf(added), (QJsonArray{QJsonObject{{"line", 2},
+                                                       {"path", "command.actions[0]"},
+                                                       {"what", "property \"Vertex\" of AcDbPolyline 31"},
+                                                       {"reason", "arcs come as lines"}}}));
+    EXPECT_EQ(lossesOf(added + ',' + action), QJsonArray());
+}
+
+/// A second thread writes the text of a long macro, in batches of 64 Ki letters.
+TEST_F(Program, ReportsFaultsUpToTheEndOfALongMacro)
+{
+    QByteArray recording = faulty;
+    for (int handle = 0x100; handle < 0x500; ++handle)
+        recording += QByteArray(line).replace("2F", QByteArray::number(handle, 16));
+    write("long.jsonl", recording + QByteArray(faulty).replace("6\\\" wide", "7\\\" high"));
+    const QJsonArray reports =
+        conversions(run({"convert", "long.jsonl", "--target", "all", "--output", "out/", "--report"}));
+    EXPECT_EQ(reports.size(), 6);
+    for (const QJsonValue& report : reports) {
+        const QString macro = report["macro"].toString();
+        const QByteArray text = contents(macro);
+        EXPECT_GT(text.size(), 2 * 64 * 1024) << macro.toStdString();
+        const QList<QByteArray> lines = text.split('\n');
+        const QJsonArray faults = report["faults"].toArray();
+        const auto tells = [&](const char* words) {
+            return std::any_of(faults.begin(), faults.end(), [&](const QJsonValue& fault) {
+                return lines.value(fault["line"].toInt() - 1).contains(words);
+            });
+        };
+        EXPECT_TRUE(tells("6\" wide")) << macro.toStdString();
+        EXPECT_TRUE(tells("7\" high")) << macro.toStdString();
+    }
 }
 
 TEST_F(Program, ReportsAsTables)

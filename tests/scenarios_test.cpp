@@ -1,4 +1,8 @@
-// Whole recordings, each converted for each target and compared byte for byte with the files beside it.
+// Whole recordings, each converted for each target and compared byte for byte with what is expected. All of them have
+// the base name "recording" and so give the same files around their statements: those of tests/scenarios/project, and a
+// macro whose head and foot are those of tests/scenarios/frames, by the place where the recording began. There
+// <statements> stands for the scenario's own file and <sheet> for the sheet that its recording names. Apart from these
+// only the ids of a COM project differ, which are numbered here.
 
 #include "module/CFxConverterIWAPI.h"
 #include "recordfile/OpenDrawing.h"
@@ -25,28 +29,39 @@ using namespace inkmacro;
 
 namespace {
 
+const QString root = INKMACRO_SOURCE_DIR "/tests/scenarios/";
+
 struct Scenario
 {
-    QString folder;
+    QString name;
     const TargetRow* row;
 
-    QString name() const { return QDir(folder).dirName(); }
     QString target() const { return QString::fromLatin1(row->name.data(), static_cast<int>(row->name.size())); }
-    QString recording() const { return folder + "/recording.jsonl"; }
+    QString macroOf(const QString& base) const
+    {
+        return base + '.' + QString::fromLatin1(row->extension.data(), static_cast<int>(row->extension.size()));
+    }
+    QString recording() const { return root + name + "/recording.jsonl"; }
+    /// These two are relative to the root.
+    QString statements() const { return name + "/expected/" + macroOf(target()); }
+    QString frame(bool inModel) const
+    {
+        return QString("frames/") + (inModel ? "model/" : "sheet/") + macroOf(target());
+    }
 };
 
 void PrintTo(const Scenario& scenario, std::ostream* out)
 {
-    *out << scenario.name().toStdString() << " in " << scenario.row->name;
+    *out << scenario.name.toStdString() << " in " << scenario.row->name;
 }
 
 std::vector<Scenario> scenarios()
 {
     std::vector<Scenario> all;
-    const QDir root(INKMACRO_SOURCE_DIR "/tests/scenarios");
-    for (const QString& name : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
+    for (const QString& name : QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
         for (const TargetRow& row : targetTable)
-            all.push_back({root.filePath(name), &row});
+            if (const Scenario scenario{name, &row}; QFile::exists(scenario.recording()))
+                all.push_back(scenario);
     return all;
 }
 
@@ -62,10 +77,36 @@ QMap<QString, QByteArray> filesBelow(const QString& folder)
     return files;
 }
 
-/// The first line in which two texts differ, with the one in front of it.
-std::string difference(const QByteArray& expected, const QByteArray& written)
+/// A part of an expected file, and where it stands.
+struct Piece
 {
-    const QList<QByteArray> left = expected.split('\n');
+    QString file;
+    int firstLine;
+    QByteArray bytes;
+};
+using Pieces = std::vector<Piece>;
+
+QByteArray joined(const Pieces& pieces)
+{
+    QByteArray bytes;
+    for (const Piece& piece : pieces)
+        bytes += piece.bytes;
+    return bytes;
+}
+
+/// Where the joined pieces' line of that index stands.
+std::string place(const Pieces& pieces, int line)
+{
+    auto piece = pieces.begin();
+    for (; piece + 1 != pieces.end() && line >= piece->bytes.count('\n'); ++piece)
+        line -= piece->bytes.count('\n');
+    return piece->file.toStdString() + ':' + std::to_string(piece->firstLine + line);
+}
+
+/// The first line in which two texts differ, with the one in front of it.
+std::string difference(const Pieces& expected, const QByteArray& written)
+{
+    const QList<QByteArray> left = joined(expected).split('\n');
     const QList<QByteArray> right = written.split('\n');
     int line = 0;
     while (line < left.size() && line < right.size() && left[line] == right[line])
@@ -73,8 +114,45 @@ std::string difference(const QByteArray& expected, const QByteArray& written)
     const auto at = [&](const QList<QByteArray>& lines, int i) {
         return i >= 0 && i < lines.size() ? '"' + lines[i].toStdString() + '"' : std::string("(nothing)");
     };
-    return "line " + std::to_string(line + 1) + "\n  behind   " + at(left, line - 1) + "\n  expected " +
-           at(left, line) + "\n  written  " + at(right, line);
+    return "line " + std::to_string(line + 1) + ", expected by " + place(expected, line) + "\n  behind   " +
+           at(left, line - 1) + "\n  expected " + at(left, line) + "\n  written  " + at(right, line);
+}
+
+QByteArray contents(const QString& name)
+{
+    QFile file(root + name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly))
+        << name.toStdString() << " is missing; scripts/update-scenarios writes what is expected";
+    return file.readAll();
+}
+
+/// The macro: the head, the scenario's own statements and the foot.
+Pieces expectedMacro(const Scenario& scenario, const Recording::Sheet& sheet)
+{
+    static const QByteArray gap = "<statements>\n";
+    const QString name = scenario.frame(sheet.model);
+    const QByteArray frame = contents(name).replace("<sheet>", sheet.name.toUtf8());
+    const int at = frame.indexOf(gap);
+    EXPECT_GE(at, 0) << name.toStdString();
+    const QByteArray head = frame.left(at);
+    return {{name, 1, head},
+            {scenario.statements(), 1, contents(scenario.statements())},
+            {name, head.count('\n') + 2, frame.mid(at + gap.size())}};
+}
+
+QMap<QString, Pieces> expectedFiles(const Scenario& scenario)
+{
+    Recording recording;
+    const auto error = ReadRecording(scenario.recording(), recording);
+    EXPECT_FALSE(error) << error->text().toStdString();
+    const QString folder = "project/" + scenario.target() + '/';
+    const auto project = filesBelow(root + folder);
+    QMap<QString, Pieces> files;
+    for (auto file = project.begin(); file != project.end(); ++file)
+        files.insert(file.key(), {{folder + file.key(), 1, file.value()}});
+    files.insert(scenario.macroOf("recording"),
+                 expectedMacro(scenario, recording.header.sheet.value_or(Recording::Sheet{})));
+    return files;
 }
 
 /// A COM project has fresh ids each time. They are numbered in the order in which they appear, so that the same id has
@@ -110,21 +188,33 @@ TEST_P(Scenarios, GiveTheExpectedFiles)
     ASSERT_TRUE(program.waitForFinished(60'000));
     ASSERT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
 
-    const auto expected = filesBelow(GetParam().folder + "/expected/" + target);
+    const auto expected = expectedFiles(GetParam());
     auto written = filesBelow(folder.filePath(target));
     if (target == "cppcom")
         numberIds(written);
-    ASSERT_FALSE(expected.isEmpty()) << "scripts/update-scenarios writes what is expected";
     EXPECT_TRUE(expected.keys() == written.keys())
         << "written: " << QStringList(written.keys()).join(' ').toStdString();
     for (auto file = expected.begin(); file != expected.end(); ++file)
-        EXPECT_TRUE(file.value() == written.value(file.key()))
+        EXPECT_TRUE(joined(file.value()) == written.value(file.key()))
             << file.key().toStdString() << ": " << difference(file.value(), written.value(file.key()));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Scenarios, testing::ValuesIn(scenarios()), [](const auto& info) {
-    return (info.param.name() + '_' + info.param.target()).toStdString();
-});
+/// What is expected is read by somebody.
+TEST(ScenarioFiles, HoldNothingElse)
+{
+    std::set<QString> read;
+    for (const Scenario& scenario : scenarios()) {
+        read.insert(scenario.name + "/recording.jsonl");
+        for (const Pieces& pieces : expectedFiles(scenario))
+            for (const Piece& piece : pieces)
+                read.insert(piece.file);
+    }
+    for (const QString& name : filesBelow(root).keys())
+        EXPECT_TRUE(read.contains(name)) << name.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Scenarios, testing::ValuesIn(scenarios()),
+                         [](const auto& info) { return (info.param.name + '_' + info.param.target()).toStdString(); });
 
 /// Converts in this process, where the phrases tell which words were asked for, as if nothing had been converted in it.
 void convertHere(const Scenario& scenario)

@@ -1,5 +1,5 @@
-// Loaded in front of the C library, this lets one call fail: the FAULT_NUMBER-th FAULT_CALL (open, write, close or
-// rename) of a file below FAULT_FOLDER. A failed call leaves a file at FAULT_MARK.
+// Loaded in front of the C library, this lets one call fail: the FAULT_NUMBER-th FAULT_CALL (open, write,
+// fdatasync, close or rename) of a file below FAULT_FOLDER. A failed call leaves a file at FAULT_MARK.
 
 #include <array>
 #include <atomic>
@@ -110,6 +110,13 @@ EXPORTED ssize_t write(int descriptor, const void* bytes, size_t size)
     if (isWatched(descriptor) && fails("write", ENOSPC))
         return -1;
     return next<ssize_t(int, const void*, size_t)>("write")(descriptor, bytes, size);
+}
+
+EXPORTED int fdatasync(int descriptor)
+{
+    if (isWatched(descriptor) && fails("fdatasync", EIO))
+        return -1;
+    return next<int(int)>("fdatasync")(descriptor);
 }
 
 EXPORTED int close(int descriptor)
