@@ -1,9 +1,6 @@
 #pragma once
 
 #include "host/kernel/CFxServices.h"
-#include "statements/Marks.h"
-
-#include <QString>
 
 /// Macros are repaired while it lives.
 class TestRepair
@@ -20,14 +17,3 @@ public:
 private:
     std::int16_t before_;
 };
-
-/// Takes the marks out of a statement and counts them.
-inline int takeMarks(QString& statement)
-{
-    int count = 0;
-    for (auto found = inkmacro::Mark::find(statement, 0); found; found = inkmacro::Mark::find(statement, found->at)) {
-        statement.remove(static_cast<int>(found->at), inkmacro::Mark::length);
-        ++count;
-    }
-    return count;
-}

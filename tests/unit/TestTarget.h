@@ -14,7 +14,7 @@ inline constexpr inkmacro::Target allTargets[] = {
 
 inline QString textOf(const Statement& statement)
 {
-    return statement;
+    return statement.text();
 }
 
 /// The statements of one target without their file around them, prompts included. The host is set to record that

@@ -3,6 +3,7 @@
 #include "TestActions.h"
 #include "TestTarget.h"
 
+#include "module/MacroFile.h"
 #include "module/walk.h"
 #include "targets/prompts.h"
 
@@ -145,13 +146,15 @@ TEST(Prompts, CountOnWithinACommand)
     TestTarget prompter(Target::CSharp, 1);
     QString text;
     QTextStream stream(&text);
+    MacroFile macro(stream, {}, Target::CSharp, false, false);
     prompter.writer.UniqueCounter = 40;
     ConvertCommand(
-        prompter.conversion, stream, "ROTATE",
+        prompter.conversion, macro, "ROTATE",
         {odrxNew<TestInteraction>(Kind::kAngle, "A", angle(1234567)),
          odrxNew<TestInteraction>(Kind::kAngle, "cancelled", nullptr),
          odrxNew<TestInteraction>(Kind::kKeyword, "K", string("Copy"), Words{"Copy"}, Words{"_Copy"}),
          odrxNew<TestInteraction>(Kind::kInteger, "I", odrxNew<OdResBuf>(OdResBuf::kRtInt32, std::int32_t{-3}))});
+    macro.finish();
     stream.flush();
     EXPECT_EQ(text, "    {\n"
                     "        double angle1 = 1.23457e+06;\n"

@@ -1,4 +1,4 @@
-// How texts stand in repaired macros, and how statements at fault are marked in all others.
+// How texts stand in repaired macros, and how faults of statements are noted in all others.
 
 #include "TestActions.h"
 #include "TestDrawing.h"
@@ -6,7 +6,6 @@
 #include "TestTarget.h"
 #include "objects/targets/dimensionOptions.h"
 #include "statements/Fault.h"
-#include "statements/Marks.h"
 #include "statements/Phrase.h"
 #include "statements/bstrTexts.h"
 #include "statements/quoting.h"
@@ -115,13 +114,13 @@ TEST(Quoting, MakesLegalNames)
         EXPECT_EQ(legalName(name), expected) << name;
 }
 
-QString filled(const char* literal, const QStringList& values, const FillMode& mode)
+Statement filled(const char* literal, const QStringList& values, const FillMode& mode)
 {
     const Template words(literal, mode.target);
     Fill fill = Fill(&words, mode);
     for (const QString& value : values)
         fill.text(value);
-    return textOf(fill);
+    return fill;
 }
 
 TEST(RepairedFill, EscapesBetweenQuotesOnlyAndReadsNoMarkers)
@@ -152,14 +151,14 @@ TEST(RepairedFill, EscapesBetweenQuotesOnlyAndReadsNoMarkers)
         EXPECT_EQ(filled(one.literal, one.values, {one.target, true}), one.expected) << one.literal;
 }
 
-TEST(FaithfulFill, MarksTextsAtFaultAndChangesNothingElse)
+TEST(FaithfulFill, NotesTextsAtFaultAndChangesNothingElse)
 {
     struct Case
     {
         Target target;
         const char* literal;
         QStringList values;
-        bool marked;
+        bool noted;
     };
     const Case cases[] = {
         {Target::CSharp, R"(f( "%1", %2 );)", {"a", "b"}, false},
@@ -179,22 +178,19 @@ TEST(FaithfulFill, MarksTextsAtFaultAndChangesNothingElse)
         {Target::CSharp, R"(f( %1 );)", {"50%1"}, false},
     };
     for (const Case& one : cases) {
-        bool marked = false;
-        QString outcome = filled(one.literal, one.values, {one.target, false, &marked});
-        const bool found = takeMarks(outcome) > 0;
+        const Statement outcome = filled(one.literal, one.values, {one.target, false, true});
         QString expected(one.literal);
         for (const QString& value : one.values)
             if (expected.contains('%'))
                 expected = expected.arg(value);
         const std::string shown = std::string(one.literal) + " with " + one.values.join(" | ").toStdString();
         EXPECT_EQ(outcome, expected) << shown;
-        EXPECT_EQ(found, one.marked) << shown;
-        EXPECT_EQ(marked, one.marked) << shown;
+        EXPECT_EQ(outcome.hasNotes(), one.noted) << shown;
         EXPECT_EQ(filled(one.literal, one.values, {one.target}), expected) << shown;
     }
 }
 
-TEST(ShortNumbers, KeepTheirDigitsInRepairedMacrosAndAreMarkedInOthers)
+TEST(ShortNumbers, KeepTheirDigitsInRepairedMacrosAndAreNotedInOthers)
 {
     struct Case
     {
@@ -213,104 +209,93 @@ TEST(ShortNumbers, KeepTheirDigitsInRepairedMacrosAndAreMarkedInOthers)
     };
     const Template words("f( %1 );", Target::CSharp);
     for (const auto& [value, faithful, repaired] : cases) {
-        bool marked = false;
-        QString outcome = textOf(Fill(&words, {Target::CSharp, false, &marked}).shortReal(value));
-        EXPECT_EQ(takeMarks(outcome) > 0, repaired != nullptr) << value;
-        EXPECT_EQ(marked, repaired != nullptr) << value;
+        const Statement outcome = Fill(&words, {Target::CSharp, false, true}).shortReal(value);
+        EXPECT_EQ(outcome.hasNotes(), repaired != nullptr) << value;
         EXPECT_EQ(outcome, QString("f( %1 );").arg(faithful)) << value;
         const QString mended = textOf(Fill(&words, {Target::CSharp, true}).shortReal(value));
         EXPECT_EQ(mended, QString("f( %1 );").arg(repaired ? repaired : faithful)) << value;
     }
     // A value that no marker takes is not at fault.
-    bool marked = false;
-    const QString dropped = textOf(Fill(&words, {Target::CSharp, false, &marked}).shortReal(1).shortReal(1.23456789));
+    const Statement dropped = Fill(&words, {Target::CSharp, false, true}).shortReal(1).shortReal(1.23456789);
     EXPECT_EQ(dropped, "f( 1 );");
-    EXPECT_FALSE(marked);
+    EXPECT_FALSE(dropped.hasNotes());
 }
 
-TEST(Marks, NeitherMakeNorBreakMarkers)
+TEST(StatementNotes, StayWithTheTextBehindThem)
 {
-    const char* const texts[] = {"",   " ",  "  ",  "%",   "%1",  "5",     "L",     "%L",   "L5",   "x",
-                                 "%x", "x%", "5 x", "  5", "5  ", "%1 %2", "\n%3;", "%%2x", "L%\n", "12(%"};
-    const char* const outers[] = {"%1",     "%1%2",   "%%1%2", "%%1",  "%L%1%2", "%%L%1", "%1%12",
-                                  "%13 %2", "%2%15L", "5%15",  "%3%1", "%2(%1)", "%1%1"};
-    const auto fill = [](const QString& outer, const QString& text) {
-        QString filled = outer;
-        for (const QString& value : {text, QString("b"), QString("7")})
-            filled = filled.arg(value);
-        return filled;
-    };
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    for (const Mark& mark : {Mark{Mark::Kind::Fault, 0}, Mark{Mark::Kind::Later, (1U << 30) - 1}})
-        for (const char* const text : texts) {
-            QString statement(text);
-            insertMark(statement, mark);
-            const auto found = Mark::find(statement, 0);
-            if (found) {
-                EXPECT_EQ(found->mark.kind, mark.kind);
-                EXPECT_EQ(found->mark.number, mark.number);
-            }
-            QString without = statement;
-            EXPECT_EQ(takeMarks(without), found ? 1 : 0);
-            EXPECT_EQ(without, text);
-            for (const char* const outer : outers) {
-                QString made = fill(outer, statement);
-                takeMarks(made);
-                EXPECT_EQ(made, fill(outer, text)) << '"' << text << "\" in \"" << outer << '"';
-            }
-            // As words that are filled themselves.
-            QString made = fill(statement, "a");
-            takeMarks(made);
-            EXPECT_EQ(made, fill(text, "a")) << text;
-        }
-    qInstallMessageHandler(nullptr);
-
-    for (QString statement : {QString("x"), QString("%1x = %2;"), QString("    f();\n"), QString("5 + %1")}) {
-        insertMark(statement, {Mark::Kind::Fault, 3});
-        EXPECT_TRUE(Mark::find(statement, 0)) << statement.toStdString();
-    }
+    const Fault fault("EmitTest", {Target::CSharp}, "a test");
+    // The letter that has the note is in no other text.
+    const char* const texts[] = {"#", "  #", "\n # ", "#%1", "#%2", "%1#", "%2 #%3", "5#", "#5%L2"};
+    const char* const outers[] = {"%1",      "%1%2",  "%%1%2", "%L%1%2", "%1%12", "%13 %2",    "%2%15L",
+                                  "%3%1%1%", "%2(%1", "%1%1",  "%2",     "x",     "%1\n%2\n%1"};
+    for (const char* const text : texts)
+        for (const char* const outer : outers)
+            for (const QString& other : {QString("b"), QString("%3 7"), QString()})
+                for (const bool repairs : {false, true}) {
+                    const QString shown = QString(text) + " in " + outer + " with " + other;
+                    const Template words(outer, Target::CSharp);
+                    const Statement noted(text, {{QString(text).indexOf('#'), &fault}});
+                    const Statement outcome =
+                        Fill(&words, {Target::CSharp, repairs}).text(noted).text(other).text(QString("c")).str();
+                    QString plain(outer);
+                    for (const QString& value : {QString(text), other, QString("c")})
+                        if (plain.contains('%'))
+                            plain = plain.arg(value);
+                    if (!repairs && plain.contains('#')) {
+                        EXPECT_EQ(outcome, plain) << shown.toStdString();
+                    }
+                    EXPECT_EQ(outcome.notes().size(), outcome.text().count('#')) << shown.toStdString();
+                    for (const StatementNote& note : outcome.notes())
+                        EXPECT_EQ(outcome.text().mid(note.offset, 1), "#") << shown.toStdString();
+                }
 }
 
-TEST(Writer, TakesMendedWordsOrMarksTheFaithful)
+TEST(StatementNotes, StandWhereTheTextOfTheirStatementBegins)
+{
+    const Fault fault("EmitTest", {Target::CSharp}, "a test");
+    const Fault outerFault("EmitTest", {Target::CSharp}, "another test");
+    Statement inner(QString("\n  g();\n"));
+    inner.addFault(fault);
+    Statement statements = QString("    f();\n") + inner;
+    statements.addFault(outerFault);
+    ASSERT_EQ(statements.notes().size(), 2U);
+    EXPECT_EQ(statements.notes()[0].offset, 4);
+    EXPECT_EQ(std::get<const Fault*>(statements.notes()[0].what), &outerFault);
+    EXPECT_EQ(statements.text().mid(statements.notes()[1].offset), "g();\n");
+    statements.prepend(QString("h();\n"));
+    EXPECT_EQ(statements.text().mid(statements.notes()[1].offset), "g();\n");
+    statements.cut(5, 1);
+    EXPECT_EQ(statements.text().mid(statements.notes()[1].offset), "g();");
+}
+
+TEST(Writer, TakesMendedWordsOrNotesTheFaultOfTheFaithful)
 {
     const Phrase phrase("EmitTest", {.csharp = "%1f( %3 );%2", .vba = "%1f%2"});
     const Mend mended(phrase, Target::CSharp, "f is called g", "%1g( %3, %4 );%2");
     const Mend leftOut(phrase, Target::Vba, "there is no f", nullptr);
-    const auto statement = [&](TestTarget& made) { return textOf(made.writer.fill(phrase).number(3).number(4).str()); };
+    const auto statement = [&](TestTarget& made) { return made.writer.fill(phrase).number(3).number(4).str(); };
 
+    TestTarget faithful(Target::CSharp);
+    const Statement noted = statement(faithful);
+    EXPECT_EQ(noted, " f( 3 );\n");
+    ASSERT_EQ(noted.notes().size(), 1U);
+    EXPECT_EQ(std::get<const Fault*>(noted.notes()[0].what), &mended);
+
+    GetFxSystemServices()->SetInt16("IgnoreFaults", 1);
     TestTarget quiet(Target::CSharp);
+    GetFxSystemServices()->SetInt16("IgnoreFaults", 0);
     EXPECT_EQ(statement(quiet), " f( 3 );\n");
-    quiet.writer.noteFaults();
-    QString marked = statement(quiet);
-    const auto found = Mark::find(marked, 0);
-    ASSERT_TRUE(found);
-    EXPECT_EQ(Fault::all().at(found->mark.number), &mended);
-    EXPECT_EQ(takeMarks(marked), 1);
-    EXPECT_EQ(marked, " f( 3 );\n");
+    EXPECT_FALSE(statement(quiet).hasNotes());
+    EXPECT_FALSE(quiet.writer.faulty(QString("f();"), mended).hasNotes());
+    EXPECT_TRUE(faithful.writer.faulty(QString("f();"), mended).hasNotes());
+    EXPECT_FALSE(faithful.writer.faulty(Statement(), mended).hasNotes());
 
     const TestRepair repair;
     TestTarget csharp(Target::CSharp);
     TestTarget vba(Target::Vba);
-    csharp.writer.noteFaults();
     EXPECT_EQ(statement(csharp), " g( 3, 4 );\n");
     EXPECT_EQ(statement(vba), "");
-}
-
-TEST(Writer, MarksStatementsAtFaultOnlyWhereFaultsAreNoted)
-{
-    const Fault fault("EmitTest", {Target::CSharp}, "a test");
-    TestTarget faithful(Target::CSharp);
-    EXPECT_EQ(faithful.writer.faulty(QString("f();"), fault), "f();");
-    faithful.writer.noteFaults();
-    QString marked = textOf(faithful.writer.faulty(QString("f();"), fault));
-    EXPECT_EQ(takeMarks(marked), 1);
-    EXPECT_EQ(marked, "f();");
-    EXPECT_EQ(faithful.writer.faulty(Statement(), fault), "");
-
-    const TestRepair repair;
-    TestTarget repaired(Target::CSharp);
-    repaired.writer.noteFaults();
-    EXPECT_EQ(repaired.writer.faulty(QString("f();"), fault), "f();");
+    EXPECT_FALSE(csharp.writer.faulty(QString("f();"), mended).hasNotes());
 }
 
 // Behind a polyline's or a viewport's own action a command has no block.
@@ -569,11 +554,10 @@ TEST(FaithfulMacro, TellsLayersThatAnotherCommandHasDeclared)
 // The quotes of this statement are values too.
 TEST(FaithfulMacro, TellsTextsThatBreakQuotesOfValues)
 {
-    for (const auto& [name, count] : {std::pair("_DOT", 0), {"_D\"OT", 1}}) {
+    for (const auto& [name, count] : {std::pair("_DOT", 0U), {"_D\"OT", 1U}}) {
         TestTarget csharp(Target::CSharp);
-        csharp.writer.noteFaults();
-        QString statement = textOf(EmitSetArrow(csharp.writer, "a", "SetStartArrow", 3, name));
-        EXPECT_EQ(takeMarks(statement), count);
+        const Statement statement = EmitSetArrow(csharp.writer, "a", "SetStartArrow", 3, name);
+        EXPECT_EQ(statement.notes().size(), count);
         EXPECT_EQ(statement,
                   QString(" a.SetStartArrow( iwDimensionArrowType_e.iwDimensionArrowType_Dot, \"%1\" );\n").arg(name));
     }

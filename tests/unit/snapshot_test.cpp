@@ -44,10 +44,10 @@ QString shown(const CFxVariant& value)
 /// The records behind "Erased", a line each.
 QStringList recordsOf(const OdDbObjectPtr& object)
 {
-    std::vector<CFxSnapshotRecord> records;
+    std::vector<CFxVariantCollectionElement> records;
     TakeSnapshot(object.get(), records);
     QStringList lines;
-    for (const CFxSnapshotRecord& record : records)
+    for (const CFxVariantCollectionElement& record : records)
         lines.append(record.GetTag()->GetString().toQString() + " = " + shown(*record.GetValue()));
     EXPECT_EQ(lines.value(0), object->isErased() ? "Erased = \"YES\"" : "Erased = \"NO\"");
     lines.removeFirst();

@@ -1,7 +1,7 @@
 // Long macros, whose text a second thread writes.
 
 #include "TestTarget.h"
-#include "module/WriteBehind.h"
+#include "module/MacroFile.h"
 
 #include <QBuffer>
 #include <QTextStream>
@@ -20,42 +20,36 @@ struct Written
 {
     QByteArray text;
     std::vector<CFxFaultNote> faults;
-    bool operator==(const Written&) const = default;
 };
 
-/// Statements that are at fault by a mark or by their locals, a declaration, texts that are kept for later, and lines
-/// that several statements share.
-Written write(bool behind)
+/// Statements that are at fault by a note or by their locals, a declaration, texts that are made late, and lines that
+/// several statements share.
+Written write()
 {
     CFxConversionNotes& notes = GetFxSystemServices()->Notes();
     notes.Forget();
-    TestTarget made(Target::CSharp);
-    Writer& writer = made.writer;
-    writer.noteFaults();
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QTextStream stream(&buffer);
     stream.setCodec("UTF-8");
-    {
-        std::optional<Writer::Background> background;
-        if (behind)
-            background.emplace(writer, stream);
-        for (int i = 0; i < kStatements; ++i) {
-            writer.forgetLater();
-            writer.writeDeclarations(stream, QString("Line line%1;\n").arg(i));
-            writer.write(stream, QString("line%1 = f( \u00E4 );").arg(i));
-            writer.write(stream, "\n");
-            if (i % 1000 == 7)
-                writer.write(stream, writer.faulty("g();\n", fault));
-            if (i % 1000 == 8)
-                writer.write(stream, "int twice;\n");
-            if (i % 1000 == 9)
-                writer.write(stream, "h( " + writer.later([](std::size_t part) {
-                    return part < 3 ? QString(50000, 'x') + '\n' : QString();
-                }) + " );\n");
+    MacroFile macro(stream, "test.cs", Target::CSharp, false, true);
+    for (int i = 0; i < kStatements; ++i) {
+        macro.writeDeclarations(QString("Line line%1;\n").arg(i));
+        macro.write(QString("line%1 = f( \u00E4 );").arg(i));
+        macro.write(QString("\n"));
+        if (i % 1000 == 7) {
+            Statement statement(QString("g();\n"));
+            statement.addFault(fault);
+            macro.write(statement);
         }
-        writer.finish(stream);
+        if (i % 1000 == 8)
+            macro.write(QString("int twice;\n"));
+        if (i % 1000 == 9)
+            macro.write(QString("h( ") +
+                        Statement([](std::size_t part) { return part < 3 ? QString(50000, 'x') + '\n' : QString(); }) +
+                        QString(" );\n"));
     }
+    macro.finish();
     stream.flush();
     Written written{buffer.data(), notes.GetFaults()};
     notes.Forget();
@@ -85,20 +79,25 @@ private:
 
 } // namespace
 
-TEST(WriteBehind, WritesAndNotesWhatIsWrittenAtOnce)
+TEST(MacroFile, WritesAndNotesInTheOrderOfTheMacro)
 {
-    const Written atOnce = write(false);
-    EXPECT_EQ(atOnce.faults.size(), 40 + 39);
-    EXPECT_EQ(atOnce.faults[0].line, 2 * 8 + 1);
-    EXPECT_EQ(atOnce.faults[1].line, 2 * 1008 + 1 + 1 + 4 + 1);
-    EXPECT_TRUE(atOnce.text.endsWith("Line line39999;\nline39999 = f( \xC3\xA4 );\n"));
-    EXPECT_TRUE(write(true) == atOnce);
+    const Written written = write();
+    ASSERT_EQ(written.faults.size(), 40 + 39);
+    EXPECT_EQ(written.faults[0].line, 2 * 8 + 1);
+    EXPECT_EQ(written.faults[1].line, 2 * 1008 + 1 + 1 + 4 + 1);
+    const QList<QByteArray> lines = written.text.split('\n');
+    for (const CFxFaultNote& note : written.faults)
+        EXPECT_TRUE(lines[static_cast<int>(note.line) - 1] == "g();" ||
+                    lines[static_cast<int>(note.line) - 1] == "int twice;")
+            << note.line;
+    EXPECT_EQ(lines.size(), 2 * kStatements + 40 + 40 + 40 * 4 + 1);
+    EXPECT_TRUE(written.text.endsWith("Line line39999;\nline39999 = f( \xC3\xA4 );\n"));
 }
 
 TEST(WriteBehind, TellsOfWhatIsThrownAndEndsWithoutBeingFinished)
 {
     for (const bool finishes : {true, false}) {
-        MacroText text(Target::CSharp, false);
+        MacroText text(Target::CSharp, false, false);
         SmallDevice device;
         QTextStream stream(&device);
         const QString line = QString(99, 'x') + '\n';
