@@ -15,7 +15,7 @@ namespace {
 
 /// A polyline of its own is the boundary.
 Statement hatchByBulges(Writer& writer, const CFxString& hatch, const HatchPattern& pattern,
-                      const CFxCustomAction& action)
+                        const CFxCustomAction& action)
 {
     const CFxString polyline = QStringLiteral("hatch_Polyline_%1").arg(processCounters.hatchPolylines);
     Statement text = EmitHatchBoundaryPolyline(writer, polyline, action.GetData(8).Get2dPointArray(), true);
@@ -27,7 +27,7 @@ Statement hatchByBulges(Writer& writer, const CFxString& hatch, const HatchPatte
 /// The points are one more than the counts add up to: the first stands at the end once more, whatever the number of
 /// loops. A boundary without a loop writes nothing.
 Statement hatchByBoundary(Writer& writer, const CFxString& hatch, const HatchPattern& pattern,
-                        const CFxCustomAction& action)
+                          const CFxCustomAction& action)
 {
     const OdArray<int>& counts = action.GetData(7).GetIntArray();
     if (counts.isEmpty()) {
@@ -76,7 +76,7 @@ std::int32_t ConvertActionInsertHatch(Conversion& conversion, const CFxCustomAct
         conversion.insertedHatches.insert(hatch);
     else if (!handedOver.isEmpty())
         conversion.names().SetUnmade(conversion.lastFinished);
-    if (hasGradient && (!text.isEmpty() || !conversion.writer.repairs))
+    if (hasGradient && (!text.isEmpty() || conversion.names().NamesUnmade()))
         text += EmitHatchGradient(conversion.writer, hatch, gradientAt(action, gradient));
     return kFxSuccess;
 }

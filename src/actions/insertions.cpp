@@ -32,10 +32,9 @@ std::int32_t ConvertActionRegion(Conversion& conversion, const CFxCustomAction& 
 {
     const CFxString name = conversion.names().VariableOfMade(
         takeVariable(conversion.writer, text, HandedVariable::Replaced), "AcDbRegion");
-    QStringList curves;
-    for (const CFxString& curve : conversion.names().ResolveVariables(action.GetData(0), action.GetData(1)))
-        curves.append(curve);
-    text = EmitInsertRegion(conversion.writer, name, curves, ++processCounters.regions);
+    std::vector<CFxString> curves = conversion.names().ResolveVariables(action.GetData(0), action.GetData(1));
+    conversion.names().DropUnnamed(curves);
+    text = EmitInsertRegion(conversion.writer, name, {curves.begin(), curves.end()}, ++processCounters.regions);
     return kFxSuccess;
 }
 

@@ -21,7 +21,7 @@ static void loseObject(const OdRxClass* cls, const OdDbHandle& handle)
 /// A note that a leader owns is reached through its leader, which also declares the note's variable. So the statement
 /// that fetches the note itself is dropped, and the leader's is not.
 static Statement NoteOfLeader(Conversion& conversion, const OdDbHandle& note, const OdRxClass* noteClass,
-                            const OdDbObjectId& leader, CFxString& name)
+                              const OdDbObjectId& leader, CFxString& name)
 {
     const OdDbObjectPtr object = leader.openObject();
     CFxString leaderName;
@@ -77,9 +77,7 @@ std::int32_t ConvertActionActivate(Conversion& conversion, const CFxCustomAction
         throw OdError_InvalidIndex();
     CFxString name;
     text += conversion.names().EmitObjectVariable(objects.front(), cls, name);
-    if (name.isEmpty())
-        conversion.faults.note(inkmacro::emptyPlace);
-    if (name.isEmpty() && conversion.writer.repairs)
+    if (name.isEmpty() && conversion.Drops(inkmacro::emptyPlace))
         return PassOver(action, "objects of that class have no statements");
     text += EmitActivate(conversion.writer, name);
     return kFxSuccess;
@@ -96,12 +94,9 @@ std::int32_t ConvertActionJoin(Conversion& conversion, const CFxCustomAction& ac
     CFxString other;
     text += variable(0, name);
     text += variable(2, other);
-    if (name.isEmpty() || other.isEmpty()) {
-        conversion.faults.note(inkmacro::emptyPlace);
-        if (conversion.writer.repairs) {
-            text.clear();
-            return PassOver(action, "objects of that class have no statements");
-        }
+    if ((name.isEmpty() || other.isEmpty()) && conversion.Drops(inkmacro::emptyPlace)) {
+        text.clear();
+        return PassOver(action, "objects of that class have no statements");
     }
     text += EmitJoin(conversion.writer, name, other);
     return kFxSuccess;

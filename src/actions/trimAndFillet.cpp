@@ -33,7 +33,7 @@ static std::vector<TrimPiece> RegisterPieces(Conversion& conversion, const CFxCu
     std::vector<TrimPiece> pieces;
     for (std::size_t i = 0; i < handles.size(); ++i) {
         const OdRxClass* const cls = ClassAt(classes, i);
-        if (conversion.writer.repairs && !HasInterface(cls)) {
+        if (!HasInterface(cls) && !conversion.names().ListsUnnamed()) {
             NoteLoss(ObjectTitle(cls, handles[i]), "objects of its class have no statements");
             continue;
         }

@@ -47,11 +47,8 @@ std::int32_t ConvertActionZoom(Conversion& conversion, const CFxCustomAction& ac
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const CFxString& range = action.GetData(0).GetString();
-    if (!inkmacro::isWord(range)) {
-        conversion.faults.note(inkmacro::textAsCode);
-        if (conversion.writer.repairs)
-            return PassOver(action, "there is no range of that name");
-    }
+    if (!inkmacro::isWord(range) && conversion.Drops(inkmacro::textAsCode))
+        return PassOver(action, "there is no range of that name");
     text = range.equalNoCase("iwZoomRange_Window")
                ? EmitZoom(conversion.writer, range, action.GetData(1).GetPoint(), action.GetData(2).GetPoint())
                : EmitZoom(conversion.writer, range);

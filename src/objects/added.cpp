@@ -50,13 +50,13 @@ std::int32_t ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, co
     else
         strike(consumed, rest);
     // Settings make no hatch.
-    if (conversion.writer.repairs && cls == OdDbHatch::desc() && !IsMadeByAction(conversion, object))
+    const bool needsAction = conversion.writer.repairs && cls == OdDbHatch::desc();
+    if (needsAction && !IsMadeByAction(conversion, object))
         text.clear();
     if (text.isEmpty() && !IsMadeByAction(conversion, object))
         conversion.names().SetUnmade(handle);
     // The hatch stands there already, and its general properties have to wait for no other statement.
-    const bool isThere =
-        conversion.writer.repairs && cls == OdDbHatch::desc() && conversion.insertedHatches.contains(object.name);
+    const bool isThere = needsAction && conversion.insertedHatches.contains(object.name);
     if ((text.isEmpty() || cls == OdDbHatch::desc()) && !isThere)
         LoseUnmade(conversion, object, rest, !text.isEmpty());
     if (text.isEmpty() && !isThere)

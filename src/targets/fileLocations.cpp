@@ -113,7 +113,7 @@ static const Phrase arrayAssignment{
 
 /// Where an element has one number only, that is its index; but C++ appends to the array and has no index.
 static Statement fileLocationElement(Writer& writer, const CFxString& property, std::uint32_t array, int index,
-                                   const CFxString& value)
+                                     const CFxString& value)
 {
     Fill element = writer.fill(arrayElement);
     element.text(property);
@@ -121,23 +121,20 @@ static Statement fileLocationElement(Writer& writer, const CFxString& property, 
         element.number(array);
     if (writer.target != Target::Cpp)
         element.number(index);
-    element.text(value);
-    if (writer.repairs)
-        element.number(array);
-    return element;
+    return element.text(value).mendNumber(array);
 }
 
 Statement EmitFileLocationArray(Writer& writer, const CFxString& variable, const CFxString& property,
-                              const std::vector<CFxString>& values)
+                                const std::vector<CFxString>& values)
 {
     const std::uint32_t array = processCounters.of(writer.target).fileLocationArrays++;
     const auto size = static_cast<int>(values.size());
 
     // VBA declares the last index and not the size.
     Statement elements = writer.fill(arrayDeclaration)
-                           .text(property)
-                           .number(array)
-                           .number(writer.target == Target::Vba ? size - 1 : size);
+                             .text(property)
+                             .number(array)
+                             .number(writer.target == Target::Vba ? size - 1 : size);
     QStringList names;
     for (int i = 0; i < size; ++i) {
         elements += fileLocationElement(writer, property, array, i, values[static_cast<std::size_t>(i)]);

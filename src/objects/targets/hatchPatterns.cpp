@@ -202,22 +202,15 @@ const Fault kPredefinedPattern{"EmitSetHatchData: type",
                                {Target::CSharp, Target::VbNet, Target::Vba},
                                "a predefined pattern becomes a user's own"};
 
-/// Which of the three types a word means depends on the target: only C++ and JavaScript know predefined patterns, which
-/// the others take for a user's own.
-bool knowsPredefined(const Writer& writer)
-{
-    return writer.repairs || writer.target == Target::Cpp || writer.target == Target::CppCom ||
-           writer.target == Target::JavaScript;
-}
-
-Statement patternTypeWord(const Writer& writer, const CFxString& word)
+/// Without predefined patterns these count as a user's own.
+QString patternTypeWord(Target target, const CFxString& word, bool knowsPredefined)
 {
     QString type = QStringLiteral("UserDefined");
     if (word.equalNoCase("Custom"))
         type = QStringLiteral("Custom");
-    else if (knowsPredefined(writer) && word.equalNoCase("Predefined"))
+    else if (knowsPredefined && word.equalNoCase("Predefined"))
         type = QStringLiteral("Predefined");
-    return enumeratorText(writer.target, "iwHatchPatternType_e", "iwHatchPatternType_" + type);
+    return enumeratorText(target, "iwHatchPatternType_e", "iwHatchPatternType_" + type);
 }
 
 Statement assignData(Writer& writer, const HatchPatternChange& change, std::uint32_t number)
@@ -226,14 +219,18 @@ Statement assignData(Writer& writer, const HatchPatternChange& change, std::uint
         return value ? assign(writer, phrase, local, number, [&](Fill& fill) { fill.real(*value); }) : Statement();
     };
     Statement text = assignReal(assignAngle, kAngle, change.angle) + assignReal(assignScale, kScale, change.scale) +
-                   assignReal(assignSpacing, kSpacing, change.spacing);
+                     assignReal(assignSpacing, kSpacing, change.spacing);
     if (change.name)
         text += assign(writer, assignPatternName, kPatternName, number, [&](Fill& fill) { fill.text(*change.name); });
     if (change.type) {
-        const Statement type = assign(writer, assignPatternType, kPatternType, number,
-                                    [&](Fill& fill) { fill.text(patternTypeWord(writer, *change.type)); });
-        const bool misread = !knowsPredefined(writer) && change.type->equalNoCase("Predefined");
-        text += misread ? writer.faulty(type, kPredefinedPattern) : type;
+        const auto type = [&](bool knowsPredefined) {
+            const QString word = patternTypeWord(writer.target, *change.type, knowsPredefined);
+            return assign(writer, assignPatternType, kPatternType, number, [&](Fill& fill) { fill.text(word); });
+        };
+        const bool isMisread = isBasic(writer.target) || writer.target == Target::CSharp;
+        text += isMisread && change.type->equalNoCase("Predefined")
+                    ? writer.mended(type(false), kPredefinedPattern, type(true))
+                    : type(true);
     }
     return text;
 }
@@ -356,7 +353,7 @@ static const Phrase putGradientData{
 
 /// `local` is of C++ alone.
 static Statement changeColor(Writer& writer, const Phrase& assignment, const char* local, const OdCmColor& color,
-                           std::uint32_t number)
+                             std::uint32_t number)
 {
     const OdCmColor plain = gradientColor(writer, color);
     Fill text = writer.fillPlain(plain.isByACI() ? indexedColor : rgbColor);
@@ -365,8 +362,8 @@ static Statement changeColor(Writer& writer, const Phrase& assignment, const cha
     else
         text.number(plain.red()).number(plain.green()).number(plain.blue());
     const Statement change = writer.target == Target::Cpp
-                               ? text.indent(writer.IndentLevel).text(QLatin1String(local)).str()
-                               : writer.fill(assignment).text(text.str()).number(number).str();
+                                 ? text.indent(writer.IndentLevel).text(QLatin1String(local)).str()
+                                 : writer.fill(assignment).text(text.str()).number(number).str();
     return notingBlack(writer, change, color);
 }
 

@@ -50,10 +50,10 @@ Statement EmitCreateGroup(Writer& writer, const NewGroup& group, const CFxString
     else
         creation.number(bound).text(lines);
     creation.text(group.name).text(truthWord(target, group.selectable)).text(group.description);
-    // A text of the faithful literal may hold a marker, so that a value too many would go into it.
-    if (target != Target::CppCom || writer.repairs)
-        creation.text(variable);
-    if (numbered && target != Target::CppCom)
+    if (target == Target::CppCom)
+        return creation.mendText(variable);
+    creation.text(variable);
+    if (numbered)
         creation.number(number);
     return creation;
 }
