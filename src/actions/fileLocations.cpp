@@ -9,6 +9,7 @@
 #include "statements/StatementGroup.h"
 #include "statements/Target.h"
 #include "statements/losses.h"
+#include "statements/wording.h"
 
 #include <algorithm>
 #include <span>
@@ -86,13 +87,9 @@ const Fault kUnknownLocation{
     "the property of a location that the host does not have lacks its name"};
 
 /// In strings of the curly languages a backslash escapes. The host's setting decides, not the target.
-CFxString quotable(CFxString path)
+CFxString quotable(const CFxString& path)
 {
-    const std::int16_t language = RecordingLanguage();
-    const bool curly = language != static_cast<int>(Target::VbNet) && language != static_cast<int>(Target::Vba);
-    if (curly && !RepairsMacros())
-        path.replace("\\", "\\\\");
-    return path;
+    return RecordsIn(Target::VbNet) || RecordsIn(Target::Vba) ? path : CFxString(doubleBackslashes(path));
 }
 
 } // namespace
@@ -104,24 +101,23 @@ static std::int32_t ConvertFileLocation(Conversion& conversion, const FileObject
     const CFxString property = propertyOf(files, action.GetData(0).GetString());
     const CFxCustomActionData& value = action.GetData(1);
 
-    if (property.isEmpty() && conversion.writer.repairs) {
-        NoteLoss(ActionTitle(&action), "the host has no such location");
-        return kFxSuccess;
-    }
+    if (property.isEmpty() && conversion.writer.repairs)
+        return PassOver(action, "the host has no such location");
     StatementGroup group(conversion.writer);
     text = group.begin();
     CFxString variable;
     text += files.emitObject(conversion.writer, variable);
+    bool isSet = true;
     if (value.GetType() == CFxCustomActionData::kString)
         text += EmitSetProperty(conversion.writer, variable, property, quotable(value.GetString()), true);
     else if (value.GetType() == CFxCustomActionData::kStringArray)
         text += EmitFileLocationArray(conversion.writer, variable, property, value.GetStringArray());
     else
-        NoteLoss(ActionTitle(&action), "its value is neither a text nor a list of texts");
+        isSet = false;
     text += group.close() + LineEnd;
-    const bool hasStatement =
-        value.GetType() == CFxCustomActionData::kString || value.GetType() == CFxCustomActionData::kStringArray;
-    if (property.isEmpty() && hasStatement)
+    if (!isSet)
+        return PassOver(action, "its value is neither a text nor a list of texts");
+    if (property.isEmpty())
         text = conversion.writer.faulty(text, kUnknownLocation);
     return kFxSuccess;
 }
