@@ -15,11 +15,6 @@ namespace {
 
 constexpr char nothingPicked[] = "the macro does not have the objects";
 
-bool keepNamed(const Names& names, CornerSide& first, CornerSide& second)
-{
-    return names.KeepNamed(first.names, first.points) && names.KeepNamed(second.names, second.points);
-}
-
 } // namespace
 
 /// What stands after the trim and is new is a piece: under a handle that the generated code does not know, or of
@@ -98,12 +93,21 @@ static CornerSide SideOf(Conversion& conversion, const CFxCustomAction& action, 
     return side;
 }
 
+/// False in a repaired macro that has not both.
+static bool TakeSides(Conversion& conversion, const CFxCustomAction& action, CornerSide& first, CornerSide& second)
+{
+    first = SideOf(conversion, action, 0);
+    second = SideOf(conversion, action, 3);
+    const Names& names = conversion.names();
+    return names.KeepNamed(first.names, first.points) && names.KeepNamed(second.names, second.points);
+}
+
 std::int32_t ConvertActionFillet(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    CornerSide first = SideOf(conversion, action, 0);
-    CornerSide second = SideOf(conversion, action, 3);
-    if (!keepNamed(conversion.names(), first, second))
+    CornerSide first;
+    CornerSide second;
+    if (!TakeSides(conversion, action, first, second))
         return PassOver(action, nothingPicked);
     std::optional<double> radius;
     if (ACTIVE_DOCUMENT)
@@ -115,9 +119,9 @@ std::int32_t ConvertActionFillet(Conversion& conversion, const CFxCustomAction& 
 std::int32_t ConvertActionChamfer(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    CornerSide first = SideOf(conversion, action, 0);
-    CornerSide second = SideOf(conversion, action, 3);
-    if (!keepNamed(conversion.names(), first, second))
+    CornerSide first;
+    CornerSide second;
+    if (!TakeSides(conversion, action, first, second))
         return PassOver(action, nothingPicked);
     ChamferSettings settings;
     if (ACTIVE_DOCUMENT) {

