@@ -1,9 +1,10 @@
-// Custom actions that call an operation of objects: erase, activate, join, explode, and the value of an attribute.
+// Custom actions that call an operation of objects: erase, activate, join, explode, the value of an attribute, and the
+// clip boundary of an image.
 
 #include "actions/handedVariable.h"
 #include "actions/handlers.h"
 #include "host/db/OdDbClasses.h"
-#include "objects/targets/blockAttributes.h"
+#include "objects/targets/blocks.h"
 #include "objects/targets/references.h"
 #include "statements/arrays.h"
 #include "statements/losses.h"
@@ -119,5 +120,22 @@ std::int32_t ConvertActionExplode(Conversion& conversion, const CFxCustomAction&
         text += conversion.names().EmitObjectVariable(objects[i], cls, name);
         text += EmitExplode(conversion.writer, name);
     }
+    return kFxSuccess;
+}
+
+/// Of an image that the macro does not know the statement that would fetch it is lost, and the new name stays; but not
+/// in a repaired macro.
+std::int32_t ConvertActionClipBoundary(Conversion& conversion, const CFxCustomAction& action, Statement& text)
+{
+    CFxString image = inkmacro::takeVariable(conversion.writer, text, inkmacro::HandedVariable::Replaced);
+    if (image.isEmpty())
+        image = conversion.names().VariableWithoutFetch(action.GetData(0).GetHandle(), action.GetData(1).GetClass());
+    if (image.isEmpty())
+        return PassOver(action, "objects of that class have no statements");
+    const CFxCustomActionData& boundary = action.GetData(2);
+    // A truth value removes the boundary, whichever it is.
+    text = boundary.GetType() == CFxCustomActionData::kBool
+               ? EmitRemoveClipBoundary(conversion.writer, image)
+               : EmitSetClipBoundary(conversion.writer, image, boundary.Get2dPointArray());
     return kFxSuccess;
 }

@@ -1,11 +1,10 @@
 // Custom actions that cut objects at others or at corners: trim, extend, fillet, chamfer.
 
+#include "targets/trimAndFillet.h"
 #include "actions/handedVariable.h"
 #include "actions/handlers.h"
 #include "statements/StatementGroup.h"
 #include "statements/losses.h"
-#include "targets/fillets.h"
-#include "targets/trim.h"
 #include "targets/variables.h"
 
 using inkmacro::HandedVariable;

@@ -1,10 +1,14 @@
-// The three kinds of object action that the driver hands over.
+// The three kinds of object action that the driver hands over, and the frame around the readers of added objects.
 
 #include "objects/entries.h"
 
+#include "host/db/OdDbClasses.h"
+#include "objects/AddedObject.h"
 #include "objects/classTable.h"
-#include "objects/targets/statements.h"
+#include "statements/blocks.h"
 #include "statements/losses.h"
+
+#include <algorithm>
 
 /// Whether objects of the action's class have statements; notes the loss when they have none.
 template<class Action>
@@ -57,4 +61,63 @@ std::int32_t ConvertPropertyChanged(Conversion& conversion, CFxPropertyChangedPt
     PropertyList list{std::move(action)};
     ConvertObjectChanges(conversion, cls, handle, list, false, text);
     return kFxSuccess;
+}
+
+namespace {
+
+/// Removes of each record its first twin in the list. A record without a twin is passed over.
+void strike(const PropertyList& consumed, PropertyList& list)
+{
+    for (const CFxPropertyChangedPtr& record : consumed) {
+        const CFxString& name = record->GetName();
+        const CFxString& group = record->GetGroup();
+        const auto twin = std::find_if(list.begin(), list.end(), [&](const CFxPropertyChangedPtr& other) {
+            return isSame(other->GetName(), name) && isSame(other->GetGroup(), group);
+        });
+        if (twin != list.end())
+            list.erase(twin);
+    }
+}
+
+} // namespace
+
+void ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle, PropertyList& read,
+                        PropertyList& rest, Statement& text)
+{
+    RecordedObject object{cls, handle, {}};
+    const ActionEntry* const entry = conversion.names().FindEntry(handle);
+    if (!entry) {
+        LoseNoteWithoutLeader(conversion, object);
+        return;
+    }
+    const OdDbObjectId id = IdOf(handle);
+    object.name = conversion.names().NameAdded(*entry, cls, id);
+
+    // Of two lists with the same records the same ones stay.
+    const bool same = read == rest;
+    PropertyList consumed;
+    AddedObject added(conversion, object, id, read, same ? nullptr : &consumed);
+    if (const ClassRow* const row = FindClass(cls); row && row->reader)
+        text = row->reader(added);
+    if (same)
+        rest = std::move(read);
+    else
+        strike(consumed, rest);
+    // Settings make no hatch.
+    const bool needsAction = conversion.writer.repairs && cls == OdDbHatch::desc();
+    if (needsAction && !IsMadeByAction(conversion, object))
+        text.clear();
+    if (text.isEmpty() && !IsMadeByAction(conversion, object))
+        conversion.names().SetUnmade(handle);
+    // The hatch stands there already, and its general properties have to wait for no other statement.
+    const bool isThere = needsAction && conversion.insertedHatches.contains(object.name);
+    if ((text.isEmpty() || cls == OdDbHatch::desc()) && !isThere)
+        LoseUnmade(conversion, object, rest, !text.isEmpty());
+    if (text.isEmpty() && !isThere)
+        return;
+
+    Statement general;
+    ConvertObjectChanges(conversion, cls, handle, rest, true, general);
+    // Made at its full length: one that grows is allocated and copied once more.
+    text = text + general;
 }

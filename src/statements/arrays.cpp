@@ -3,7 +3,7 @@
 #include "statements/arrays.h"
 
 #include "statements/LineEnd.h"
-#include "statements/digits.h"
+#include "statements/wording.h"
 
 #include <QStringList>
 

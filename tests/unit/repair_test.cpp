@@ -8,7 +8,6 @@
 #include "statements/Fault.h"
 #include "statements/Marks.h"
 #include "statements/Phrase.h"
-#include "statements/bstrTexts.h"
 #include "statements/quoting.h"
 #include "statements/wording.h"
 

@@ -5,10 +5,9 @@
 #include "TestTarget.h"
 
 #include "targets/coordinateSystems.h"
+#include "targets/display.h"
 #include "targets/namedViews.h"
 #include "targets/sheets.h"
-#include "targets/viewTiles.h"
-#include "targets/zoom.h"
 
 #include <QFileInfo>
 

@@ -4,7 +4,6 @@
 
 #include "objects/targets/dimensionPoints.h"
 #include "statements/LineEnd.h"
-#include "statements/digits.h"
 #include "statements/wording.h"
 
 #include <optional>

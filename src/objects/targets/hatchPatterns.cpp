@@ -2,8 +2,8 @@
 
 #include "objects/targets/hatchPatterns.h"
 
-#include "statements/bstrTexts.h"
 #include "statements/enumerations.h"
+#include "statements/quoting.h"
 #include "statements/wording.h"
 #include "targets/colors.h"
 

@@ -4,8 +4,8 @@
 
 #include "objects/targets/setters.h"
 #include "statements/RecordingState.h"
-#include "statements/bstrTexts.h"
 #include "statements/enumerations.h"
+#include "statements/quoting.h"
 #include "statements/wording.h"
 
 using namespace inkmacro;
