@@ -245,7 +245,6 @@ using enum Target;
 const std::set<Target> everyTarget{Cpp, CSharp, JavaScript, VbNet, CppCom, Vba};
 const Unreachable unreachable[]{
     {"EmitCommandOptionInt32", everyTarget, "no option of a document is of that type"},
-    {"EmitChangeCoordinateZ", everyTarget, "no tag is the height of such a point"},
 };
 
 bool isReachable(const Phrase& phrase, Target target)

@@ -91,18 +91,17 @@ const ActionForm coordinateSystemForms[21] = {
 
 } // namespace inkmacro
 
-std::int32_t ConvertActionCoordinateSystemOfEntity(Conversion& conversion, const CFxCustomAction& action, Statement& text)
+std::int32_t ConvertActionCoordinateSystemOfEntity(Conversion& conversion, const CFxCustomAction& action,
+                                                   Statement& text)
 {
     inkmacro::takeVariable(conversion.writer, text, inkmacro::HandedVariable::Replaced);
     const OdDbHandle handle = action.GetData(0).GetHandle();
     const OdRxClass* const cls = action.GetData(1).GetClass();
     CFxString entity;
     conversion.names().ResolveVariable(handle, cls, entity);
-    if (entity.isEmpty()) {
-        conversion.faults.note(inkmacro::emptyPlace);
+    if (entity.isEmpty())
         entity = conversion.names().FetchedUnknown(handle, cls);
-    }
-    if (entity.isEmpty() && conversion.writer.repairs)
+    if (entity.isEmpty() && conversion.Drops(inkmacro::emptyPlace))
         return PassOver(action, "the macro does not have the entity");
     text = EmitAlignCoordinateSystemToEntity(conversion.writer, entity, action.GetData(2).GetPoint());
     return kFxSuccess;

@@ -23,10 +23,7 @@ inline const Fault kBareVariable{
 inline CFxString takeVariable(const Writer& writer, Statement& text, HandedVariable fate)
 {
     CFxString variable(text.text());
-    if (fate == HandedVariable::Replaced || writer.repairs)
-        text.clear();
-    else if (!text.isEmpty())
-        text = writer.faulty(text, kBareVariable);
+    text = fate == HandedVariable::Replaced ? Statement() : writer.mended(std::move(text), kBareVariable);
     return variable;
 }
 

@@ -1,9 +1,10 @@
-// Custom actions that call an operation of objects: erase, activate, join, explode, and the value of an attribute.
+// Custom actions that call an operation of objects: erase, activate, join, explode, the value of an attribute, and the
+// clip boundary of an image.
 
 #include "actions/handedVariable.h"
 #include "actions/handlers.h"
 #include "host/db/OdDbClasses.h"
-#include "objects/targets/blockAttributes.h"
+#include "objects/targets/blocks.h"
 #include "objects/targets/references.h"
 #include "statements/arrays.h"
 #include "statements/losses.h"
@@ -21,7 +22,7 @@ static void loseObject(const OdRxClass* cls, const OdDbHandle& handle)
 /// A note that a leader owns is reached through its leader, which also declares the note's variable. So the statement
 /// that fetches the note itself is dropped, and the leader's is not.
 static Statement NoteOfLeader(Conversion& conversion, const OdDbHandle& note, const OdRxClass* noteClass,
-                            const OdDbObjectId& leader, CFxString& name)
+                              const OdDbObjectId& leader, CFxString& name)
 {
     const OdDbObjectPtr object = leader.openObject();
     CFxString leaderName;
@@ -77,9 +78,7 @@ std::int32_t ConvertActionActivate(Conversion& conversion, const CFxCustomAction
         throw OdError_InvalidIndex();
     CFxString name;
     text += conversion.names().EmitObjectVariable(objects.front(), cls, name);
-    if (name.isEmpty())
-        conversion.faults.note(inkmacro::emptyPlace);
-    if (name.isEmpty() && conversion.writer.repairs)
+    if (name.isEmpty() && conversion.Drops(inkmacro::emptyPlace))
         return PassOver(action, "objects of that class have no statements");
     text += EmitActivate(conversion.writer, name);
     return kFxSuccess;
@@ -96,12 +95,9 @@ std::int32_t ConvertActionJoin(Conversion& conversion, const CFxCustomAction& ac
     CFxString other;
     text += variable(0, name);
     text += variable(2, other);
-    if (name.isEmpty() || other.isEmpty()) {
-        conversion.faults.note(inkmacro::emptyPlace);
-        if (conversion.writer.repairs) {
-            text.clear();
-            return PassOver(action, "objects of that class have no statements");
-        }
+    if ((name.isEmpty() || other.isEmpty()) && conversion.Drops(inkmacro::emptyPlace)) {
+        text.clear();
+        return PassOver(action, "objects of that class have no statements");
     }
     text += EmitJoin(conversion.writer, name, other);
     return kFxSuccess;
@@ -124,5 +120,22 @@ std::int32_t ConvertActionExplode(Conversion& conversion, const CFxCustomAction&
         text += conversion.names().EmitObjectVariable(objects[i], cls, name);
         text += EmitExplode(conversion.writer, name);
     }
+    return kFxSuccess;
+}
+
+/// Of an image that the macro does not know the statement that would fetch it is lost, and the new name stays; but not
+/// in a repaired macro.
+std::int32_t ConvertActionClipBoundary(Conversion& conversion, const CFxCustomAction& action, Statement& text)
+{
+    CFxString image = inkmacro::takeVariable(conversion.writer, text, inkmacro::HandedVariable::Replaced);
+    if (image.isEmpty())
+        image = conversion.names().VariableWithoutFetch(action.GetData(0).GetHandle(), action.GetData(1).GetClass());
+    if (image.isEmpty())
+        return PassOver(action, "objects of that class have no statements");
+    const CFxCustomActionData& boundary = action.GetData(2);
+    // A truth value removes the boundary, whichever it is.
+    text = boundary.GetType() == CFxCustomActionData::kBool
+               ? EmitRemoveClipBoundary(conversion.writer, image)
+               : EmitSetClipBoundary(conversion.writer, image, boundary.Get2dPointArray());
     return kFxSuccess;
 }

@@ -1,16 +1,26 @@
-// Custom actions that set something of the host or of a sheet: screen colors, option values, print styles.
+// Custom actions that set something of the host or of a sheet: screen colors, option values, print styles, and the
+// paths and files of the host's options.
 
 #include "actions/entries.h"
 #include "actions/handedVariable.h"
 #include "actions/handlers.h"
 #include "actions/optionTable.h"
-#include "objects/targets/sheetProperties.h"
+#include "objects/targets/setters.h"
+#include "statements/LineEnd.h"
+#include "statements/RecordingState.h"
+#include "statements/StatementGroup.h"
+#include "statements/Target.h"
 #include "statements/losses.h"
+#include "statements/wording.h"
 #include "targets/customActions.h"
+#include "targets/fileLocations.h"
 #include "targets/options.h"
+#include "targets/sheets.h"
 
-using inkmacro::HandedVariable;
-using inkmacro::takeVariable;
+#include <algorithm>
+#include <span>
+
+using namespace inkmacro;
 
 std::int32_t ConvertActionElementColor(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
@@ -23,7 +33,6 @@ std::int32_t ConvertActionElementColor(Conversion& conversion, const CFxCustomAc
 /// is appended to what the text holds, be it the document's statement or the handed variable.
 std::int32_t ConvertActionOptionValue(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
-    using inkmacro::OptionKind;
     const CFxString& variable = action.GetData(0).GetString();
     CFxString ofDocument;
     CFxString ofApplication;
@@ -65,4 +74,125 @@ std::int32_t ConvertActionPrintStyle(Conversion& conversion, const CFxCustomActi
     text = EmitSetModelProperty(conversion.writer, "PrintStyle", action.GetData(0).GetString(),
                                 action.GetData(1).GetBool(), action.GetData(2).GetString());
     return kFxSuccess;
+}
+
+namespace {
+
+struct Location
+{
+    const char* key;
+    const char* property;
+};
+
+} // namespace
+
+/// A host object that holds file locations.
+struct FileObject
+{
+    Statement (*emitObject)(Writer& writer, CFxString& variable);
+    std::span<const Location> locations;
+};
+
+namespace {
+
+constexpr Location interfaceLocations[]{
+    {"eFileLocInterfaceAliasFileLoc", "AliasFilePath"},
+    {"eFileLocInterfaceMenuFiles", "MenuFilesPath"},
+    {"eFileLocInterfaceMainCUIFile", "CustomizationFilePath"},
+    {"eFileLocInterfaceCustomIconLoc", "CustomIconPath"},
+};
+
+constexpr Location systemLocations[]{
+    {"eFileLocSystemCustomDictionaryFile", "CustomDictionaryFile"},
+    {"eFileLocSystemMainDictionaryFile", "MainDictionaryFile"},
+    {"eFileLocSystemHelpFileValue", "HelpFile"},
+    {"eFileLocSystemLogFileLoc", "LogFilePath"},
+    {"eFileLocSystemTemporaryFileLoc", "TempPath"},
+    {"eFileLocSystemFontFileSearchPath", "FontsPaths"},
+    {"eFileLocSystemSupportFilesPath", "SupportPaths"},
+    {"eFileLocSystemDrawingBorderFilesPath", "DrawingBorderPaths"},
+    {"eFileLocSystemTitleBlockFilesPath", "TitleBlockPaths"},
+};
+
+/// "Supprt" is the host's spelling.
+constexpr Location drawingSupportLocations[]{
+    {"eFileLocDrawingSupprtAltFontFileSHX", "AlternateShxFontFile"},
+    {"eFileLocDrawingSupprtAltFontFileBIG", "AlternateBigFontFile"},
+    {"eFileLocDrawingSupprtAltFontFileSHP", "AlternateShapeFile"},
+    {"eFileLocDrawingSupprtDrawFilesLoc", "DrawingFilesPath"},
+    {"eFileLocDrawingSupprtDWT", "DrawingTemplateFilesPath"},
+    {"eFileLocDrawingSupprtXrefFilesLoc", "ExternalReferencesFilesPath"},
+    {"eFileLocDrawingSupprtFontMapFile", "FontMappingFile"},
+    {"eFileLocDrawingSupprtLibFilesLoc", "LibraryFilesPath"},
+    {"eFileLocDrawingSupprtLineStyle", "LineStyleFilePath"},
+    {"eFileLocDrawingSupprtPrintSettingsLoc", "PrintSettingsPath"},
+    {"eFileLocDrawingSupprtRLineStyle", "RichLineStyleFilePath"},
+};
+
+constexpr FileObject interfaceFiles{&EmitInterfaceFilesObject, interfaceLocations};
+constexpr FileObject systemFiles{&EmitSystemFilesObject, systemLocations};
+constexpr FileObject drawingSupportFiles{&EmitDrawingSupportFilesObject, drawingSupportLocations};
+
+/// Empty for a location that the object does not have; its statement is written all the same.
+CFxString propertyOf(const FileObject& files, const CFxString& key)
+{
+    const auto found = std::find_if(files.locations.begin(), files.locations.end(),
+                                    [&](const Location& location) { return key.equalNoCase(location.key); });
+    return found == files.locations.end() ? CFxString() : CFxString(found->property);
+}
+
+const Fault kUnknownLocation{
+    "EmitSetProperty",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "the property of a location that the host does not have lacks its name"};
+
+/// In strings of the curly languages a backslash escapes. The host's setting decides, not the target.
+CFxString quotable(const CFxString& path)
+{
+    return RecordsIn(Target::VbNet) || RecordsIn(Target::Vba) ? path : CFxString(doubleBackslashes(path));
+}
+
+} // namespace
+
+static std::int32_t ConvertFileLocation(Conversion& conversion, const FileObject& files, const CFxCustomAction& action,
+                                        Statement& text)
+{
+    takeVariable(conversion.writer, text, HandedVariable::Replaced);
+    const CFxString property = propertyOf(files, action.GetData(0).GetString());
+    const CFxCustomActionData& value = action.GetData(1);
+
+    if (property.isEmpty() && conversion.writer.repairs)
+        return PassOver(action, "the host has no such location");
+    StatementGroup group(conversion.writer);
+    text = group.begin();
+    CFxString variable;
+    text += files.emitObject(conversion.writer, variable);
+    bool isSet = true;
+    if (value.GetType() == CFxCustomActionData::kString)
+        text += EmitSetProperty(conversion.writer, variable, property, quotable(value.GetString()), true);
+    else if (value.GetType() == CFxCustomActionData::kStringArray)
+        text += EmitFileLocationArray(conversion.writer, variable, property, value.GetStringArray());
+    else
+        isSet = false;
+    text += group.close() + LineEnd;
+    if (!isSet)
+        return PassOver(action, "its value is neither a text nor a list of texts");
+    if (property.isEmpty())
+        text = conversion.writer.faulty(text, kUnknownLocation);
+    return kFxSuccess;
+}
+
+std::int32_t ConvertActionInterfaceFile(Conversion& conversion, const CFxCustomAction& action, Statement& text)
+{
+    return ConvertFileLocation(conversion, interfaceFiles, action, text);
+}
+
+std::int32_t ConvertActionSystemFile(Conversion& conversion, const CFxCustomAction& action, Statement& text)
+{
+    return ConvertFileLocation(conversion, systemFiles, action, text);
+}
+
+std::int32_t ConvertActionDrawingSupportFile(Conversion& conversion, const CFxCustomAction& action, Statement& text)
+{
+    return ConvertFileLocation(conversion, drawingSupportFiles, action, text);
 }

@@ -1,11 +1,10 @@
 // Custom actions that cut objects at others or at corners: trim, extend, fillet, chamfer.
 
+#include "targets/trimAndFillet.h"
 #include "actions/handedVariable.h"
 #include "actions/handlers.h"
 #include "statements/StatementGroup.h"
 #include "statements/losses.h"
-#include "targets/fillets.h"
-#include "targets/trim.h"
 #include "targets/variables.h"
 
 using inkmacro::HandedVariable;
@@ -14,11 +13,6 @@ using inkmacro::takeVariable;
 namespace {
 
 constexpr char nothingPicked[] = "the macro does not have the objects";
-
-bool keepNamed(const Names& names, CornerSide& first, CornerSide& second)
-{
-    return names.KeepNamed(first.names, first.points) && names.KeepNamed(second.names, second.points);
-}
 
 } // namespace
 
@@ -33,7 +27,7 @@ static std::vector<TrimPiece> RegisterPieces(Conversion& conversion, const CFxCu
     std::vector<TrimPiece> pieces;
     for (std::size_t i = 0; i < handles.size(); ++i) {
         const OdRxClass* const cls = ClassAt(classes, i);
-        if (conversion.writer.repairs && !HasInterface(cls)) {
+        if (!HasInterface(cls) && !conversion.names().ListsUnnamed()) {
             NoteLoss(ObjectTitle(cls, handles[i]), "objects of its class have no statements");
             continue;
         }
@@ -98,12 +92,21 @@ static CornerSide SideOf(Conversion& conversion, const CFxCustomAction& action, 
     return side;
 }
 
+/// False in a repaired macro that has not both.
+static bool TakeSides(Conversion& conversion, const CFxCustomAction& action, CornerSide& first, CornerSide& second)
+{
+    first = SideOf(conversion, action, 0);
+    second = SideOf(conversion, action, 3);
+    const Names& names = conversion.names();
+    return names.KeepNamed(first.names, first.points) && names.KeepNamed(second.names, second.points);
+}
+
 std::int32_t ConvertActionFillet(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    CornerSide first = SideOf(conversion, action, 0);
-    CornerSide second = SideOf(conversion, action, 3);
-    if (!keepNamed(conversion.names(), first, second))
+    CornerSide first;
+    CornerSide second;
+    if (!TakeSides(conversion, action, first, second))
         return PassOver(action, nothingPicked);
     std::optional<double> radius;
     if (ACTIVE_DOCUMENT)
@@ -115,9 +118,9 @@ std::int32_t ConvertActionFillet(Conversion& conversion, const CFxCustomAction& 
 std::int32_t ConvertActionChamfer(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    CornerSide first = SideOf(conversion, action, 0);
-    CornerSide second = SideOf(conversion, action, 3);
-    if (!keepNamed(conversion.names(), first, second))
+    CornerSide first;
+    CornerSide second;
+    if (!TakeSides(conversion, action, first, second))
         return PassOver(action, nothingPicked);
     ChamferSettings settings;
     if (ACTIVE_DOCUMENT) {

@@ -268,6 +268,8 @@ public:
     using Names::Names;
 
     bool IsDeclared(const OdDbHandle&) const override { return true; }
+    bool NamesUnmade() const override { return true; }
+    bool ListsUnnamed() const override { return true; }
     void DropUnnamed(std::vector<CFxString>&) const override {}
     bool KeepNamed(std::vector<CFxString>&, OdArray<OdGePoint3d>&) const override { return true; }
     Statement EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) override
@@ -278,8 +280,6 @@ public:
     void EndFetchedLayer(const OdDbHandle& handle) override { DeclareLayer(handle); }
 
 private:
-    bool NamesUnmade() const override { return true; }
-    bool ListsUnnamed() const override { return true; }
     bool FetchesUnknown() const override { return false; }
     const OdRxClass* SpelledClass(const ActionEntry&, const OdRxClass* told) const override { return told; }
     /// Takes the suffixes off after the number was put on, and only the one of smart pointers: in C++ a region or a
@@ -301,6 +301,8 @@ public:
     using Names::Names;
 
     bool IsDeclared(const OdDbHandle& handle) const override { return !IsUnmade(handle); }
+    bool NamesUnmade() const override { return false; }
+    bool ListsUnnamed() const override { return false; }
     void DropUnnamed(std::vector<CFxString>& names) const override
     {
         std::erase_if(names, [](const CFxString& name) { return name.isEmpty(); });
@@ -325,8 +327,6 @@ public:
     void EndFetchedLayer(const OdDbHandle& handle) override { Forget(handle); }
 
 private:
-    bool NamesUnmade() const override { return false; }
-    bool ListsUnnamed() const override { return false; }
     bool FetchesUnknown() const override { return true; }
     const OdRxClass* SpelledClass(const ActionEntry& entry, const OdRxClass*) const override { return entry.cls; }
     CFxString SpelledName(const OdRxClass* told, std::uint32_t ordinal) const override

@@ -44,8 +44,13 @@ public:
     /// Whether the object is declared; one that turned out to have no value is not in a repaired macro.
     virtual bool IsDeclared(const OdDbHandle& handle) const = 0;
 
+    /// Whether an object that no statement inserts is named all the same.
+    virtual bool NamesUnmade() const = 0;
+
     // Objects of custom actions.
 
+    /// Whether lists keep a place for an object without a name.
+    virtual bool ListsUnnamed() const = 0;
     /// One element a handle: its name as ResolveVariables gives it, the object type enumerator (empty where the name
     /// is), the handle's text. In a repaired macro those without a name are left out.
     EntityList ResolveNames(const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray);
@@ -106,10 +111,6 @@ public:
 protected:
     // What else differs between the two kinds.
 
-    /// Whether an object that no statement inserts is named all the same.
-    virtual bool NamesUnmade() const = 0;
-    /// Whether lists keep a place for an object without a name.
-    virtual bool ListsUnnamed() const = 0;
     /// Whether an object that the generated code does not know is fetched where it is needed.
     virtual bool FetchesUnknown() const = 0;
     /// The class that a name is spelled with, when another one is told than is declared.

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <deque>
 #include <map>
+#include <optional>
 
 using inkmacro::Fault;
 using inkmacro::Target;
@@ -221,15 +222,16 @@ std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxS
     const QScopedValueRollback<const Siblings*> beside(conversion.siblings, &siblings);
 
     // Where locals are seen behind their command, numbers that begin anew make some of them twice.
-    const std::uint32_t outerCounter = writer.UniqueCounter;
+    std::optional<QScopedValueRollback<std::uint32_t>> ownNumbers;
     if (!writer.repairs)
-        writer.UniqueCounter = 0;
+        ownNumbers.emplace(writer.UniqueCounter, 0);
     ConvertChildren(conversion, children, state, group);
 
     const bool grouped = !group.abandoned() && !state.unnamedTarget;
-    const bool written = grouped && !state.allEmpty && (writer.repairs || !state.shapeStyle);
+    const bool declares = !state.allEmpty && (writer.repairs || (grouped && !state.shapeStyle));
+    const bool written = grouped && declares;
     const Statement declarations = Declarations(conversion, state);
-    if (written || (writer.repairs && !state.allEmpty))
+    if (declares)
         macro.writeDeclarations(declarations);
     else if (!declarations.isEmpty() && !state.statements.empty())
         state.statements.front() = HeldStatement(writer.faulty(state.statements.front().statement(), kUndeclared));
@@ -241,8 +243,6 @@ std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxS
     const Statement end = grouped ? group.close() : Statement();
     if (written)
         macro.write(end);
-    if (!writer.repairs)
-        writer.UniqueCounter = outerCounter;
     const bool hides = written && writer.target != Target::JavaScript && writer.target != Target::Vba;
     conversion.names().EndCommand(hides);
     return kFxSuccess;

@@ -190,7 +190,7 @@ Statement setOverrideText(const Change& change, const CFxString& value)
 }
 
 using SetArrow = Statement (*)(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
-                             const CFxString& name);
+                               const CFxString& name);
 
 template<SetArrow emit>
 Statement setArrow(const Change& change)
@@ -336,7 +336,7 @@ Statement changePair(const Change& change)
 }
 
 using VertexChange = Statement (*)(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
-                                 double value);
+                                   double value);
 
 template<VertexChange emit>
 Statement changeVertex(const Change& change)
@@ -447,9 +447,8 @@ constinit const ChangeKind escaped{[](const Change& change) {
 }};
 constinit const ChangeKind unquoted{[](const Change& change) {
     const CFxString& text = change.value.GetString();
-    if (inkmacro::isNumber(text))
-        return setText(change, text, false);
-    return change.writer.repairs ? QString() : change.writer.faulty(setText(change, text, false), inkmacro::textAsCode);
+    const Statement statement = setText(change, text, false);
+    return inkmacro::isNumber(text) ? statement : change.writer.mended(statement, inkmacro::textAsCode);
 }};
 constinit const ChangeKind integerText{
     [](const Change& change) { return setText(change, integerWord(change), false); }};

@@ -84,7 +84,7 @@ static Statement convertErased(Conversion& conversion, const RecordedObject& obj
 }
 
 static Statement convertClassChanges(Conversion& conversion, const RecordedObject& object, PropertyList& list,
-                                   bool fromAdded)
+                                     bool fromAdded)
 {
     Statement text;
     const ClassRow* const row = FindClass(object.cls);
@@ -99,8 +99,8 @@ static Statement convertClassChanges(Conversion& conversion, const RecordedObjec
     return text;
 }
 
-static Statement convertGeneral(Conversion& conversion, const RecordedObject& object, PropertyList& list, bool fromAdded,
-                              StatementGroup& group)
+static Statement convertGeneral(Conversion& conversion, const RecordedObject& object, PropertyList& list,
+                                bool fromAdded, StatementGroup& group)
 {
     // For the statements of an everyday object.
     constexpr int room = 512;
@@ -108,16 +108,16 @@ static Statement convertGeneral(Conversion& conversion, const RecordedObject& ob
     general.reserve(room);
     CFxString target = object.name;
     const Statement dimension = IsDimensionClass(object.cls)
-                                  ? EmitGetOptions(conversion.writer, generalDimension, object.name, target)
-                                  : Statement();
+                                    ? EmitGetOptions(conversion.writer, generalDimension, object.name, target)
+                                    : Statement();
     ConvertGeneralProperties(conversion, object, list, fromAdded, target, group, general);
     if (!general.isEmpty())
         general.prepend(dimension);
     return general;
 }
 
-std::int32_t ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle,
-                                  PropertyList& list, bool fromAdded, Statement& text)
+void ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle, PropertyList& list,
+                          bool fromAdded, Statement& text)
 {
     text.clear();
     RecordedObject object{cls, handle, {}};
@@ -128,7 +128,7 @@ std::int32_t ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, 
                  conversion.names().IsUnmade(handle)
                      ? "no statement inserts the object, so the macro has no variable for it"
                      : "the recording did not add the object, so the macro has no variable for it");
-        return kFxSuccess;
+        return;
     }
 
     StatementGroup group(conversion.writer);
@@ -150,7 +150,6 @@ std::int32_t ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, 
     } else {
         text += group.begin() + general + classText + group.close();
     }
-    return kFxSuccess;
 }
 
 /// A property that most entities have, by the tag of its records and the name in the interface.

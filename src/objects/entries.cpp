@@ -1,28 +1,36 @@
-// The three kinds of object action that the driver hands over.
+// The three kinds of object action that the driver hands over, and the frame around the readers of added objects.
 
 #include "objects/entries.h"
 
+#include "host/db/OdDbClasses.h"
+#include "objects/AddedObject.h"
 #include "objects/classTable.h"
-#include "objects/targets/statements.h"
+#include "statements/blocks.h"
 #include "statements/losses.h"
 
-static constexpr char kForeignClass[] = "objects of its class have no statements";
+#include <algorithm>
+
+/// Whether objects of the action's class have statements; notes the loss when they have none.
+template<class Action>
+static bool hasStatements(const Action& action)
+{
+    if (IsSupportedClass(action.GetObjectClass()))
+        return true;
+    NoteLoss(ActionTitle(&action), "objects of its class have no statements");
+    return false;
+}
 
 std::int32_t ConvertObjectAdded(Conversion& conversion, const CFxObjectAdded& action, Statement& text)
 {
     const OdRxClass* const cls = action.GetObjectClass();
     if (!cls)
         return kFxFailure;
-    if (!IsSupportedClass(cls)) {
-        NoteLoss(ActionTitle(&action), kForeignClass);
+    if (!hasStatements(action))
         return kFxSuccess;
-    }
-
     PropertyList read = action.GetProperties();
     PropertyList rest = action.GetExtraProperties();
     Statement statements;
-    if (ConvertAddedObject(conversion, cls, action.GetHandle(), read, rest, statements) != kFxSuccess)
-        return kFxFailure;
+    ConvertAddedObject(conversion, cls, action.GetHandle(), read, rest, statements);
     text += statements;
     return kFxSuccess;
 }
@@ -32,18 +40,12 @@ std::int32_t ConvertObjectModified(Conversion& conversion, const CFxObjectModifi
     const OdRxClass* const cls = action.GetObjectClass();
     if (!cls)
         return kFxFailure;
-    if (!IsSupportedClass(cls)) {
-        NoteLoss(ActionTitle(&action), kForeignClass);
-        return kFxSuccess;
-    }
     PropertyList list = action.GetProperties();
-    if (list.empty())
+    if (!hasStatements(action) || list.empty())
         return kFxSuccess;
-
     const Statement comment = EmitObjectModifiedComment(conversion.writer, cls->name());
     Statement statements;
-    if (ConvertObjectChanges(conversion, cls, action.GetHandle(), list, false, statements) != kFxSuccess)
-        return kFxFailure;
+    ConvertObjectChanges(conversion, cls, action.GetHandle(), list, false, statements);
     if (!statements.isEmpty())
         text += comment + statements;
     return kFxSuccess;
@@ -57,5 +59,65 @@ std::int32_t ConvertPropertyChanged(Conversion& conversion, CFxPropertyChangedPt
         return kFxFailure;
     const OdDbHandle handle = action->GetHandle();
     PropertyList list{std::move(action)};
-    return ConvertObjectChanges(conversion, cls, handle, list, false, text);
+    ConvertObjectChanges(conversion, cls, handle, list, false, text);
+    return kFxSuccess;
+}
+
+namespace {
+
+/// Removes of each record its first twin in the list. A record without a twin is passed over.
+void strike(const PropertyList& consumed, PropertyList& list)
+{
+    for (const CFxPropertyChangedPtr& record : consumed) {
+        const CFxString& name = record->GetName();
+        const CFxString& group = record->GetGroup();
+        const auto twin = std::find_if(list.begin(), list.end(), [&](const CFxPropertyChangedPtr& other) {
+            return isSame(other->GetName(), name) && isSame(other->GetGroup(), group);
+        });
+        if (twin != list.end())
+            list.erase(twin);
+    }
+}
+
+} // namespace
+
+void ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle, PropertyList& read,
+                        PropertyList& rest, Statement& text)
+{
+    RecordedObject object{cls, handle, {}};
+    const ActionEntry* const entry = conversion.names().FindEntry(handle);
+    if (!entry) {
+        LoseNoteWithoutLeader(conversion, object);
+        return;
+    }
+    const OdDbObjectId id = IdOf(handle);
+    object.name = conversion.names().NameAdded(*entry, cls, id);
+
+    // Of two lists with the same records the same ones stay.
+    const bool same = read == rest;
+    PropertyList consumed;
+    AddedObject added(conversion, object, id, read, same ? nullptr : &consumed);
+    if (const ClassRow* const row = FindClass(cls); row && row->reader)
+        text = row->reader(added);
+    if (same)
+        rest = std::move(read);
+    else
+        strike(consumed, rest);
+    // Settings make no hatch.
+    const bool needsAction = conversion.writer.repairs && cls == OdDbHatch::desc();
+    if (needsAction && !IsMadeByAction(conversion, object))
+        text.clear();
+    if (text.isEmpty() && !IsMadeByAction(conversion, object))
+        conversion.names().SetUnmade(handle);
+    // The hatch stands there already, and its general properties have to wait for no other statement.
+    const bool isThere = needsAction && conversion.insertedHatches.contains(object.name);
+    if ((text.isEmpty() || cls == OdDbHatch::desc()) && !isThere)
+        LoseUnmade(conversion, object, rest, !text.isEmpty());
+    if (text.isEmpty() && !isThere)
+        return;
+
+    Statement general;
+    ConvertObjectChanges(conversion, cls, handle, rest, true, general);
+    // Made at its full length: one that grows is allocated and copied once more.
+    text = text + general;
 }

@@ -7,7 +7,7 @@
 class StatementGroup;
 
 // Recorded objects become statements, from their property records alone. The first two append to `text`, a property
-// that stands alone replaces it. Each gives kFxSuccess or kFxFailure.
+// that stands alone replaces it. Each gives kFxSuccess, or kFxFailure for an action without a class.
 
 std::int32_t ConvertObjectAdded(Conversion& conversion, const CFxObjectAdded& action, Statement& text);
 std::int32_t ConvertObjectModified(Conversion& conversion, const CFxObjectModified& action, Statement& text);
@@ -15,11 +15,11 @@ std::int32_t ConvertPropertyChanged(Conversion& conversion, CFxPropertyChangedPt
 
 /// `read` is what the class's reader takes its values from, `rest` what the general handler gets of it: the same
 /// records less those that the reader took.
-std::int32_t ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle,
-                                PropertyList& read, PropertyList& rest, Statement& text);
+void ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle, PropertyList& read,
+                        PropertyList& rest, Statement& text);
 /// Statements for the properties that changed, or for what an added object's reader left. Empties `text` first.
-std::int32_t ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle,
-                                  PropertyList& list, bool fromAdded, Statement& text);
+void ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle, PropertyList& list,
+                          bool fromAdded, Statement& text);
 /// The properties that entities of all classes have. Abandons the group that was begun, when the statements declare
 /// what must be seen behind it. `target` is the variable that they are set on.
 void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& object, PropertyList& list, bool fromAdded,

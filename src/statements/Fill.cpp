@@ -3,8 +3,8 @@
 #include "host/rx/OdError.h"
 #include "statements/Fault.h"
 #include "statements/LineEnd.h"
-#include "statements/digits.h"
 #include "statements/quoting.h"
+#include "statements/wording.h"
 
 #include <algorithm>
 #include <array>

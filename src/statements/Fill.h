@@ -95,6 +95,10 @@ public:
     Fill& shortPoint(const OdGePoint3d& value) { return shortReal(value.x).shortReal(value.y).shortReal(value.z); }
     Fill& shortVector(const OdGeVector3d& value) { return shortReal(value.x).shortReal(value.y).shortReal(value.z); }
 
+    // Values that only a mended literal has places for: any other is not given them.
+    Fill& mendText(const CFxString& value) { return mode_.repairs ? text(value) : *this; }
+    Fill& mendNumber(unsigned value) { return mode_.repairs ? number(value) : *this; }
+
     Statement str() const;
     operator Statement() const { return str(); }
 

@@ -53,3 +53,8 @@ Statement Writer::faulty(Statement statement, const Fault& fault) const
         statement.addFault(fault);
     return statement;
 }
+
+Statement Writer::mended(Statement statement, const Fault& fault, Statement repaired) const
+{
+    return repairs ? std::move(repaired) : faulty(std::move(statement), fault);
+}

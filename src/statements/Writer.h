@@ -31,6 +31,8 @@ public:
     Statement quoted(const QString& text) const;
     /// The statement with a note that it has the fault, which a repaired macro has not: there it stays as it is.
     Statement faulty(Statement statement, const inkmacro::Fault& fault) const;
+    /// The same, and in a repaired macro what stands in its place there: another statement, or none.
+    Statement mended(Statement statement, const inkmacro::Fault& fault, Statement repaired = {}) const;
 
     const inkmacro::Target target;
     /// Whether the macro is written without the faults that its target is known to reject.

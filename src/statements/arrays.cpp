@@ -3,7 +3,7 @@
 #include "statements/arrays.h"
 
 #include "statements/LineEnd.h"
-#include "statements/digits.h"
+#include "statements/wording.h"
 
 #include <QStringList>
 
@@ -137,7 +137,7 @@ static Statement elementLine(const Phrase& phrase, const ArrayPlace& place, std:
 }
 
 static Statement elementLines(const Phrase& phrase, const char* comType, const ArrayPlace& place,
-                            const std::vector<QString>& words)
+                              const std::vector<QString>& words)
 {
     Statement lines;
     if (place.writer.target == Target::CppCom) {
@@ -171,11 +171,11 @@ Statement objectLines(const ArrayPlace& place, std::vector<QString> words)
     const bool released = writer.target == Target::CppCom && found;
     for (QString& word : words)
         word = objectWord(place, word);
-    Statement lines =
-        elementLines(objectElement, released && writer.repairs ? "IDispatchPtr" : "IDispatch*", place, words);
-    if (hasEmpty)
-        lines = writer.faulty(lines, emptyPlace);
-    return released ? writer.faulty(lines, kReleasedElement) : lines;
+    const auto lines = [&](const char* type) {
+        const Statement text = elementLines(objectElement, type, place, words);
+        return hasEmpty ? writer.faulty(text, emptyPlace) : text;
+    };
+    return released ? writer.mended(lines("IDispatch*"), kReleasedElement, lines("IDispatchPtr")) : lines("IDispatch*");
 }
 
 Statement objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words)
@@ -313,8 +313,8 @@ static Statement comPointsHead(const ArrayPlace& place, int axes)
         .number(place.number);
 }
 
-static QString pointLinesOf(const ArrayPlace& place, const Coordinates& coordinates, std::size_t from,
-                              std::size_t end, NumberForm numbers)
+static QString pointLinesOf(const ArrayPlace& place, const Coordinates& coordinates, std::size_t from, std::size_t end,
+                            NumberForm numbers)
 {
     const Target target = place.writer.target;
     QString lines;
@@ -402,8 +402,8 @@ ArrayArgument coordinateArray(Writer& writer, Coordinates coordinates, const cha
     array.number = ++writer.UniqueCounter;
     if (target == Target::JavaScript) {
         array.words = script + QString::number(array.number);
-        array.before =
-            scriptArray(writer, array.words.text(), coordinateList(writer, std::move(coordinates), numbers), scriptBrackets);
+        array.before = scriptArray(writer, array.words.text(), coordinateList(writer, std::move(coordinates), numbers),
+                                   scriptBrackets);
         return array;
     }
     const QString name = (target == Target::CppCom ? "variant" : "Coordinates") + QString::number(array.number);

@@ -46,3 +46,17 @@ Statement EmitBlockEnd(Writer& writer)
         --writer.IndentLevel;
     return writer.fill(blockEnd);
 }
+
+static const Phrase objectModified{"EmitObjectModifiedComment",
+                                   {
+                                       .cpp = "%1// %3 object modified%2",
+                                       .cppCom = "%1// %3 object modified%2",
+                                       .csharp = "%1// %3 object modified%2",
+                                       .vbNet = "%1' %3 object modified%2",
+                                       .vba = "%1' %3 object modified%2",
+                                   }};
+
+Statement EmitObjectModifiedComment(Writer& writer, const CFxString& className)
+{
+    return writer.fill(objectModified).text(className);
+}

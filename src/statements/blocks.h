@@ -9,3 +9,5 @@ Statement EmitBlockEnd(Writer& writer);
 // The two halves of EmitBlockBegin, for a group of which it turns out later whether it is written.
 Statement blockBeginAt(const Writer& writer, std::uint32_t level);
 void enterBlock(Writer& writer);
+
+Statement EmitObjectModifiedComment(Writer& writer, const CFxString& className);

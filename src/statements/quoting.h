@@ -2,6 +2,7 @@
 
 #include "statements/Target.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringView>
 
@@ -18,5 +19,11 @@ bool breaksQuotes(QStringView text, Target target);
 
 /// A name of letters, digits and underscores that no target takes for a keyword, a type or a file of its own.
 QString legalName(const QString& name);
+
+inline constexpr char literalIsNoBstr[] = "a literal is given where a BSTR belongs, which has its length in front";
+
+/// The words of C++ COM with a BSTR made of each wide literal that a raw property is given or a local keeps. What a
+/// local keeps outlives its statement.
+QByteArray textsAsBstr(QByteArray words);
 
 } // namespace inkmacro

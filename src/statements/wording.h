@@ -39,4 +39,9 @@ bool isNumber(const QString& text);
 /// What may be an enumerator.
 bool isWord(const QString& text);
 
+/// Whether the form of FormatShort is another number.
+bool losesDigits(double value);
+
+extern const Fault kSixDigits;
+
 } // namespace inkmacro

@@ -132,109 +132,70 @@ static Statement typedArrays(Writer& writer, const EntityList& entities, bool lo
            typedElements(writer, entities, lookUpUnknown) + LineEnd;
 }
 
-static const Phrase mirrorEntities{
-    "EmitMirrorEntities",
+/// The arguments but the arrays stand in one text.
+static const Phrase callWithArrays{
+    "EmitMoveEntities",
     {
-        .cpp = "%1iwSketchManager->MirrorEntities(%2, %3, %4, %5, %6, %7, %8, types%9, iwEntities%9);\n",
-        .cppCom = "%1iwSketchManager->MirrorEntities(%3, %4, %5, %6, %7, %8, %9, types%10, objects%10);%2",
-        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().MirrorEntities(%2, %3, %4, %5, %6, %7, "
-                  "%8, types%9, iwEntities%9);\n",
-        .javascript = "%1mSkMgr.MirrorEntities(%2, %3, %4, %5, %6, %7, %8, types%9, iwEntities%9);\n",
-        .vbNet = "%1iwSketchManager.MirrorEntities( %3, %4, %5, %6, %7, %8, %9, types%10, iwEntities%10 )%2",
-        .vba = "%1iwSketchManager.MirrorEntities %3, %4, %5, %6, %7, %8, %9, types%10, iwEntities%10%2",
+        .cpp = "%1iwSketchManager->%2(%3, iwEntities%4);\n",
+        .cppCom = "%1iwSketchManager->%3(%4, objects%5);%2",
+        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().%2(%3, iwEntities%4);\n",
+        .javascript = "%1mSkMgr.%2(%3, iwEntities%4);\n",
+        .vbNet = "%1iwSketchManager.%3( %4, iwEntities%5 )%2",
+        .vba = "%1iwSketchManager.%3 %4, iwEntities%5%2",
     }};
+
+static Statement callOf(Writer& writer, const char* operation, const Statement& arguments)
+{
+    return fillList(writer, callWithArrays).text(QLatin1String(operation)).text(arguments).number(writer.UniqueCounter);
+}
+
+/// The array of types is the last of the arguments.
+static Statement typedCallOf(Writer& writer, const char* operation, const Statement& arguments)
+{
+    return callOf(writer, operation, arguments + (", types" + QString::number(writer.UniqueCounter)));
+}
+
+static const Template threeNumbers("%1, %2, %3");
+static const Template fourNumbers("%1, %2, %3, %4");
+static const Template twoPointsAndWord("%1, %2, %3, %4, %5, %6, %7");
 
 /// VBA alone writes the truth value with a capital here.
 Statement EmitMirrorEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& first,
-                           const OdGePoint3d& second, bool erase)
+                             const OdGePoint3d& second, bool erase)
 {
-    const Statement arrays = typedArrays(writer, entities, false);
-    return arrays + fillList(writer, mirrorEntities)
-                        .shortPoint(first)
-                        .shortPoint(second)
-                        .text(writer.target == Target::Vba ? QLatin1String(erase ? "True" : "False")
-                                                           : QLatin1String(erase ? "true" : "false"))
-                        .number(writer.UniqueCounter)
-                        .str();
+    const QLatin1String erases = writer.target == Target::Vba ? QLatin1String(erase ? "True" : "False")
+                                                              : QLatin1String(erase ? "true" : "false");
+    return typedArrays(writer, entities, false) +
+           typedCallOf(writer, "MirrorEntities",
+                       writer.fill(twoPointsAndWord).shortPoint(first).shortPoint(second).text(erases));
 }
-
-static const Phrase copyEntities{
-    "EmitCopyEntities",
-    {
-        .cpp = "%1iwSketchManager->CopyEntities(%2, %3, %4, types%5, iwEntities%5);\n",
-        .cppCom = "%1iwSketchManager->CopyEntities(%3, %4, %5, types%6, objects%6);%2",
-        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().CopyEntities(%2, %3, %4, types%5, "
-                  "iwEntities%5);\n",
-        .javascript = "%1mSkMgr.CopyEntities(%2, %3, %4, types%5, iwEntities%5);\n",
-        .vbNet = "%1iwSketchManager.CopyEntities( %3, %4, %5, types%6, iwEntities%6 )%2",
-        .vba = "%1iwSketchManager.CopyEntities %3, %4, %5, types%6, iwEntities%6%2",
-    }};
 
 Statement EmitCopyEntities(Writer& writer, const EntityList& entities, const OdGeVector3d& offset, bool first)
 {
     const Statement arrays = first ? typedArrays(writer, entities, true) : Statement();
-    return arrays + fillList(writer, copyEntities).shortVector(offset).number(writer.UniqueCounter).str();
+    return arrays + typedCallOf(writer, "CopyEntities", writer.fill(threeNumbers).shortVector(offset));
 }
-
-static const Phrase moveEntities{
-    "EmitMoveEntities",
-    {
-        .cpp = "%1iwSketchManager->MoveEntities(%2, %3, %4, iwEntities%5);\n",
-        .cppCom = "%1iwSketchManager->MoveEntities(%3, %4, %5, objects%6);%2",
-        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().MoveEntities(%2, %3, %4, "
-                  "iwEntities%5);\n",
-        .javascript = "%1mSkMgr.MoveEntities(%2, %3, %4, iwEntities%5);\n",
-        .vbNet = "%1iwSketchManager.MoveEntities( %3, %4, %5, iwEntities%6 )%2",
-        .vba = "%1iwSketchManager.MoveEntities %3, %4, %5, iwEntities%6%2",
-    }};
 
 Statement EmitMoveEntities(Writer& writer, const EntityList& entities, const OdGeVector3d& offset, bool first)
 {
     const Statement array = first ? objectArray(writer, entities) : Statement();
-    return array + fillList(writer, moveEntities).shortVector(offset).number(writer.UniqueCounter).str();
+    return array + callOf(writer, "MoveEntities", writer.fill(threeNumbers).shortVector(offset));
 }
-
-static const Phrase rotateEntities{
-    "EmitRotateEntities",
-    {
-        .cpp = "%1iwSketchManager->RotateEntities(%2, %3, %4, types%5, iwEntities%5);\n",
-        .cppCom = "%1iwSketchManager->RotateEntities(%3, %4, %5, types%6, objects%6);%2",
-        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().RotateEntities(%2, %3, %4, types%5, "
-                  "iwEntities%5);\n",
-        .javascript = "%1mSkMgr.RotateEntities(%2, %3, %4, types%5, iwEntities%5);\n",
-        .vbNet = "%1iwSketchManager.RotateEntities( %3, %4, %5, types%6, iwEntities%6 )%2",
-        .vba = "%1iwSketchManager.RotateEntities %3, %4, %5, types%6, iwEntities%6%2",
-    }};
 
 Statement EmitRotateEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& center, double angle)
 {
-    const Statement arrays = typedArrays(writer, entities, false);
-    return arrays + fillList(writer, rotateEntities)
-                        .shortReal(center.x)
-                        .shortReal(center.y)
-                        .shortReal(angle)
-                        .number(writer.UniqueCounter)
-                        .str();
+    return typedArrays(writer, entities, false) +
+           typedCallOf(writer, "RotateEntities",
+                       writer.fill(threeNumbers).shortReal(center.x).shortReal(center.y).shortReal(angle));
 }
 
-/// The factor has the highest marker and stands ahead of the last coordinate: the host takes x, y, factor, z.
-static const Phrase scaleEntities{
-    "EmitScaleEntities",
-    {
-        .cpp = "%1iwSketchManager->ScaleEntities(%2, %3, %6, %4, types%5, iwEntities%5);\n",
-        .cppCom = "%1iwSketchManager->ScaleEntities(%3, %4, %7, %5, types%6, objects%6);%2",
-        .csharp = "%1iwApp.GetActiveDocument().GetModel().GetSketchManager().ScaleEntities(%2, %3, %6, %4, types%5, "
-                  "iwEntities%5);\n",
-        .javascript = "%1mSkMgr.ScaleEntities(%2, %3, %6, %4, types%5, iwEntities%5);\n",
-        .vbNet = "%1iwSketchManager.ScaleEntities( %3, %4, %7, %5, types%6, iwEntities%6 )%2",
-        .vba = "%1iwSketchManager.ScaleEntities %3, %4, %7, %5, types%6, iwEntities%6%2",
-    }};
-
+/// The factor stands ahead of the last coordinate: the host takes x, y, factor, z.
 Statement EmitScaleEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& center, double factor)
 {
-    const Statement arrays = typedArrays(writer, entities, false);
-    return arrays +
-           fillList(writer, scaleEntities).shortPoint(center).number(writer.UniqueCounter).shortReal(factor).str();
+    return typedArrays(writer, entities, false) +
+           typedCallOf(
+               writer, "ScaleEntities",
+               writer.fill(fourNumbers).shortReal(center.x).shortReal(center.y).shortReal(factor).shortReal(center.z));
 }
 
 static const Phrase stretchHead{
@@ -319,10 +280,10 @@ static const Phrase stretchEntities{
     }};
 
 Statement EmitStretchEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& start,
-                            const OdGePoint3d& end, const OdGeVector3d& offset)
+                              const OdGePoint3d& end, const OdGeVector3d& offset)
 {
     const std::size_t count = entities.size();
     const Statement arrays = listHead(writer, stretchHead, count) + listHead(writer, stretchSize, count) +
-                           objectElements(writer, entities) + LineEnd + crossingBox(writer, start, end);
+                             objectElements(writer, entities) + LineEnd + crossingBox(writer, start, end);
     return arrays + fillList(writer, stretchEntities).shortVector(offset).number(writer.UniqueCounter).str();
 }

@@ -8,47 +8,36 @@
 
 using namespace inkmacro;
 
-namespace {
+/// `%4` is the interface, in the variable's name too.
+static const Phrase filesObject{"EmitSystemFilesObject",
+                                {
+                                    .cpp = "%1iw%4_ptr %3;%2%1m_pIwApp->Get%4( &%3 );%2",
+                                    .cppCom = "%1I%4Ptr %3 = pConnection->m_IwApp->Get%4();%2",
+                                    .csharp = "%1%4 %3 = iwApp.Get%4();%2",
+                                    .javascript = "%1var %3 = mApp.Get%4();%2",
+                                    .vbNet = "%1Dim %3 As Inkwright.%4 = iwApp.Get%4()%2",
+                                    .vba = "%1Dim %3 As Inkwright.%4%2%1Set %3 = iwApp.Get%4()%2",
+                                }};
 
-CFxString numbered(const char* pattern, std::uint32_t number)
+static CFxString filesVariable(const char* type, std::uint32_t number)
 {
-    return CFxString(QString::fromLatin1(pattern).arg(number));
+    return QStringLiteral("iw%1_%2").arg(type).arg(number);
 }
 
-} // namespace
-
-static const Phrase interfaceFilesObject{
-    "EmitInterfaceFilesObject",
-    {
-        .cpp = "%1iwInterfaceFiles_ptr %3;%2%1m_pIwApp->GetInterfaceFiles( &%3 );%2",
-        .cppCom = "%1IInterfaceFilesPtr %3 = pConnection->m_IwApp->GetInterfaceFiles();%2",
-        .csharp = "%1InterfaceFiles %3 = iwApp.GetInterfaceFiles();%2",
-        .javascript = "%1var %3 = mApp.GetInterfaceFiles();%2",
-        .vbNet = "%1Dim %3 As Inkwright.InterfaceFiles = iwApp.GetInterfaceFiles()%2",
-        .vba = "%1Dim %3 As Inkwright.InterfaceFiles%2%1Set %3 = iwApp.GetInterfaceFiles()%2",
-    }};
+static Statement fetchFiles(Writer& writer, const char* type, std::uint32_t number, CFxString& variable)
+{
+    variable = filesVariable(type, number);
+    return writer.fill(filesObject).text(variable).text(QLatin1String(type));
+}
 
 Statement EmitInterfaceFilesObject(Writer& writer, CFxString& variable)
 {
-    variable = numbered("iwInterfaceFiles_%1", processCounters.of(writer.target).interfaceFiles++);
-    return writer.fill(interfaceFilesObject).text(variable);
+    return fetchFiles(writer, "InterfaceFiles", processCounters.of(writer.target).interfaceFiles++, variable);
 }
-
-static const Phrase systemFilesObject{
-    "EmitSystemFilesObject",
-    {
-        .cpp = "%1iwSystemFiles_ptr %3;%2%1m_pIwApp->GetSystemFiles( &%3 );%2",
-        .cppCom = "%1ISystemFilesPtr %3 = pConnection->m_IwApp->GetSystemFiles();%2",
-        .csharp = "%1SystemFiles %3 = iwApp.GetSystemFiles();%2",
-        .javascript = "%1var %3 = mApp.GetSystemFiles();%2",
-        .vbNet = "%1Dim %3 As Inkwright.SystemFiles = iwApp.GetSystemFiles()%2",
-        .vba = "%1Dim %3 As Inkwright.SystemFiles%2%1Set %3 = iwApp.GetSystemFiles()%2",
-    }};
 
 Statement EmitSystemFilesObject(Writer& writer, CFxString& variable)
 {
-    variable = numbered("iwSystemFiles_%1", processCounters.of(writer.target).systemFiles++);
-    return writer.fill(systemFilesObject).text(variable);
+    return fetchFiles(writer, "SystemFiles", processCounters.of(writer.target).systemFiles++, variable);
 }
 
 /// The `%11` in VBA stands for nothing and stays in the macro.
@@ -68,7 +57,7 @@ static const Mend
 
 Statement EmitDrawingSupportFilesObject(Writer& writer, CFxString& variable)
 {
-    variable = numbered("iwDrawingSupportFiles_%1", processCounters.of(writer.target).drawingSupportFiles++);
+    variable = filesVariable("DrawingSupportFiles", processCounters.of(writer.target).drawingSupportFiles++);
     return writer.fill(drawingSupportFilesObject).text(variable);
 }
 
@@ -113,7 +102,7 @@ static const Phrase arrayAssignment{
 
 /// Where an element has one number only, that is its index; but C++ appends to the array and has no index.
 static Statement fileLocationElement(Writer& writer, const CFxString& property, std::uint32_t array, int index,
-                                   const CFxString& value)
+                                     const CFxString& value)
 {
     Fill element = writer.fill(arrayElement);
     element.text(property);
@@ -121,23 +110,20 @@ static Statement fileLocationElement(Writer& writer, const CFxString& property, 
         element.number(array);
     if (writer.target != Target::Cpp)
         element.number(index);
-    element.text(value);
-    if (writer.repairs)
-        element.number(array);
-    return element;
+    return element.text(value).mendNumber(array);
 }
 
 Statement EmitFileLocationArray(Writer& writer, const CFxString& variable, const CFxString& property,
-                              const std::vector<CFxString>& values)
+                                const std::vector<CFxString>& values)
 {
     const std::uint32_t array = processCounters.of(writer.target).fileLocationArrays++;
     const auto size = static_cast<int>(values.size());
 
     // VBA declares the last index and not the size.
     Statement elements = writer.fill(arrayDeclaration)
-                           .text(property)
-                           .number(array)
-                           .number(writer.target == Target::Vba ? size - 1 : size);
+                             .text(property)
+                             .number(array)
+                             .number(writer.target == Target::Vba ? size - 1 : size);
     QStringList names;
     for (int i = 0; i < size; ++i) {
         elements += fileLocationElement(writer, property, array, i, values[static_cast<std::size_t>(i)]);

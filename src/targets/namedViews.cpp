@@ -2,7 +2,7 @@
 
 #include "targets/namedViews.h"
 
-#include "statements/bstrTexts.h"
+#include "statements/quoting.h"
 
 using namespace inkmacro;
 
@@ -189,7 +189,7 @@ static const Phrase setSheetViewWindow{
     }};
 
 Statement EmitSetViewWindow(Writer& writer, const NamedViewReference& view, const OdGePoint3d& first,
-                          const OdGePoint3d& opposite)
+                            const OdGePoint3d& opposite)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     const Phrase& setWindow = view.onSheet ? setSheetViewWindow : setModelViewWindow;

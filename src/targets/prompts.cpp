@@ -2,7 +2,7 @@
 
 #include "targets/prompts.h"
 
-#include "statements/bstrTexts.h"
+#include "statements/quoting.h"
 
 using namespace inkmacro;
 
@@ -316,7 +316,7 @@ static const Mend scriptKeyword(
 
 /// The lists bear the number in front of the call's own.
 Statement EmitPromptKeyword(Writer& writer, const CFxString& prompt, const std::vector<CFxString>& local,
-                          const std::vector<CFxString>& global)
+                            const std::vector<CFxString>& global)
 {
     const std::uint32_t lists = writer.UniqueCounter;
     const auto line = [&](const Phrase& phrase) { return writer.fillIndented(phrase); };

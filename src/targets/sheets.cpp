@@ -1,8 +1,8 @@
-// The model and the sheets.
+// The model and the sheets, and their properties.
 
 #include "targets/sheets.h"
 
-#include "statements/bstrTexts.h"
+#include "statements/quoting.h"
 
 using namespace inkmacro;
 
@@ -78,7 +78,7 @@ static const Phrase createSheetFromTemplate{
     }};
 
 Statement EmitCreateSheetFromTemplate(Writer& writer, const CFxString& file, const CFxString& source,
-                                    const CFxString& name)
+                                      const CFxString& name)
 {
     return writer.fill(createSheetFromTemplate).text(file).text(source).text(name).number(++writer.UniqueCounter);
 }
@@ -149,4 +149,45 @@ static const Phrase removeSheet{"EmitRemoveSheet",
 Statement EmitRemoveSheet(Writer& writer, const CFxString& name)
 {
     return writer.fill(removeSheet).text(name);
+}
+
+/// JavaScript lacks the first marker, so that the values move up by one and the last is lost. It has to stay so.
+static const Phrase setModelProperty{"EmitSetModelProperty",
+                                     {
+                                         .cpp = "%1iwModel->put_%3( L\"%4\" );%2",
+                                         .cppCom = "%1iwModel->put_%3( L\"%4\" );%2",
+                                         .csharp = "%1iwModel.%3 = \"%4\";%2",
+                                         .javascript = "%mModel.put_%3( \"%4\" );%2",
+                                         .vbNet = "%1iwModel.%3 = \"%4\"%2",
+                                         .vba = "%1iwModel.%3 = \"%4\"%2",
+                                     }};
+static const Mend bstrModelProperty(setModelProperty, Target::CppCom, literalIsNoBstr, textsAsBstr);
+static const Mend modelPropertyOfPage(
+    setModelProperty, Target::JavaScript,
+    "the marker of the indentation lacks its number, so the values of the statement are one place off",
+    "%1mModel.put_%3( \"%4\" );%2");
+
+static const Phrase setSheetProperty{"EmitSetModelProperty",
+                                     {
+                                         .cpp = "%3%1%4->put_%5( \"%6\" );%2",
+                                         .cppCom = "%3%1%4->put_%5( \"%6\" );%2",
+                                         .csharp = "%3%1%4.%5 = \"%6\";%2",
+                                         .javascript = "%3%1%4.put_%5( \"%6\" );%2",
+                                         .vbNet = "%3%1%4.%5 = \"%6\"%2",
+                                         .vba = "%3%1%4.%5 = \"%6\"%2",
+                                     }};
+static const Mend wideSheetProperty(setSheetProperty, Target::Cpp, "a property of a sheet is given a narrow text",
+                                    "%3%1%4->put_%5( L\"%6\" );%2");
+static const Mend wideSheetPropertyInCom(setSheetProperty, Target::CppCom,
+                                         "a property of a sheet is given a narrow text",
+                                         "%3%1%4->put_%5( _bstr_t(L\"%6\") );%2");
+
+Statement EmitSetModelProperty(Writer& writer, const CFxString& property, const CFxString& value, bool ofModel,
+                               const CFxString& sheetName)
+{
+    if (ofModel)
+        return writer.fill(setModelProperty).text(property).text(value);
+    CFxString sheet;
+    const Statement activation = EmitActivateSheet(writer, sheetName, sheet);
+    return writer.fill(setSheetProperty).text(activation).text(sheet).text(property).text(value);
 }

@@ -37,7 +37,8 @@ Statement EmitVariableDeclaration(Writer& writer, const ActionEntry& entry)
     // The curly targets but COM put the type in front of the name.
     if (writer.target == Target::Cpp || writer.target == Target::CSharp)
         return writer.fill(declareVariable).text(type).text(stem).number(entry.ordinal);
-    return untyped(writer.target, type, writer.fill(declareVariable).text(stem).number(entry.ordinal).text(type).str().text());
+    return untyped(writer.target, type,
+                   writer.fill(declareVariable).text(stem).number(entry.ordinal).text(type).str().text());
 }
 
 const Fault kLayerZero{"EmitGetLayer",
@@ -69,8 +70,9 @@ static const Mend layerInPage(
 /// the recorded properties on it.
 Statement EmitGetLayer(Writer& writer, const CFxString& variable, const CFxString& layer)
 {
-    Statement text = writer.fill(getLayer).number(++processCounters.layerManagers).text(variable);
-    if (writer.repairs)
-        text = QString(text.text()).replace("\"0\"", '"' + writer.quoted(layer).text() + '"');
-    return layer.toQString() == "0" ? text : writer.faulty(text, kLayerZero);
+    const Statement text = writer.fill(getLayer).number(++processCounters.layerManagers).text(variable);
+    if (layer.toQString() == "0")
+        return text;
+    return writer.mended(text, kLayerZero,
+                         QString(text.text()).replace("\"0\"", '"' + writer.quoted(layer).text() + '"'));
 }

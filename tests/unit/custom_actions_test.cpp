@@ -2,13 +2,13 @@
 
 #include "TestHandlers.h"
 
-#include "objects/targets/blockAttributes.h"
+#include "objects/targets/blocks.h"
 #include "objects/targets/regions.h"
-#include "objects/targets/sheetProperties.h"
 #include "targets/customActions.h"
 #include "targets/entityLists.h"
 #include "targets/groups.h"
 #include "targets/selections.h"
+#include "targets/sheets.h"
 
 #include <QFileInfo>
 #include <QRegExp>

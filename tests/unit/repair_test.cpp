@@ -7,7 +7,6 @@
 #include "objects/targets/dimensionOptions.h"
 #include "statements/Fault.h"
 #include "statements/Phrase.h"
-#include "statements/bstrTexts.h"
 #include "statements/quoting.h"
 #include "statements/wording.h"
 

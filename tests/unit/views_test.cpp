@@ -6,10 +6,9 @@
 
 #include "module/walk.h"
 #include "targets/coordinateSystems.h"
+#include "targets/display.h"
 #include "targets/namedViews.h"
 #include "targets/sheets.h"
-#include "targets/viewTiles.h"
-#include "targets/zoom.h"
 
 #include <QFileInfo>
 

@@ -197,7 +197,7 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         // C++ declares the corners of a zoom for all ranges.
         {"EmitZoom: corners", allButCpp},
         // C++ sets the color where it is fetched.
-        {"EmitHatchGradientData: assigned color", {Cpp}, 2},
+        {"EmitHatchGradientData: assigned color", {Cpp}},
         // The array's size stands in its declaration.
         {"size of picked objects", {Cpp, CppCom, Vba}},
         {"size of picked points", {Cpp, CppCom, VbNet, Vba}},

@@ -6,7 +6,6 @@
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/blockContents.h"
-#include "objects/targets/blockAttributes.h"
 #include "objects/targets/customData.h"
 #include "statements/RecordingState.h"
 

@@ -1,9 +1,9 @@
 // Added groups.
 
+#include "targets/groups.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/blockContents.h"
-#include "objects/targets/newGroups.h"
 
 Statement ReadGroup(AddedObject& added)
 {

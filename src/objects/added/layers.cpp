@@ -1,7 +1,5 @@
 // Added layers.
 
-#include "objects/targets/layers.h"
-
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"

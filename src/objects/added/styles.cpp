@@ -1,16 +1,43 @@
 // Added styles of tables, dimensions, rich lines and lines.
 
 #include "objects/targets/styles.h"
+#include "host/db/LineStyleFile.h"
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
-#include "objects/lineStyleFiles.h"
 #include "statements/wording.h"
+
+#include <QDir>
 
 #include <functional>
 
 namespace {
+
+bool holds(const QString& path, const CFxString& styleName)
+{
+    LineStyleFile file(path);
+    LineStyleFile::Style style;
+    while (file.next(style))
+        if (styleName.equalNoCase(style.name))
+            return true;
+    return false;
+}
+
+/// Path of the file, among those of the active drawing's folders, that holds the line style; empty when none does.
+QString lineStyleFile(const CFxString& styleName)
+{
+    if (!ACTIVE_DOCUMENT)
+        return {};
+    for (const OdString& folder : ACTIVE_DOCUMENT->GetDatabase()->lineStyleFolders()) {
+        const QDir directory(folder);
+        // Whatever the case of the ending.
+        for (const QString& file : directory.entryList({"*.lin"}, QDir::Files, QDir::Name))
+            if (holds(directory.filePath(file), styleName))
+                return directory.filePath(file);
+    }
+    return {};
+}
 
 /// Whether the added style is that current one of the drawing.
 bool isCurrent(const OdDbObjectPtr& style, OdDbObjectId (OdDbDatabase::*current)() const)

@@ -171,7 +171,7 @@ Statement ReadCurvedText(AddedObject& added)
         return added.lost("the drawing does not have it, and no record holds its text");
     Statement fetch;
     const QString arc = added.conversion.names().AddedOrFetched(curved->arcId(), fetch);
-    if (arc.isEmpty() && added.writer.repairs)
+    if (arc.isEmpty() && added.conversion.Drops(inkmacro::emptyPlace))
         return added.lost("the macro does not have the arc that it runs along");
     return fetch + EmitInsertCurvedText(added.writer, curved->textString(), arc, added.name);
 }

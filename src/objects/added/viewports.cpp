@@ -21,7 +21,7 @@ Statement ReadViewport(AddedObject& added)
     Statement fetch;
     if (variable.isEmpty() && !CanMakeClip(entity.get())) {
         variable = added.conversion.names().AddedOrFetched(clip, fetch);
-        if (variable.isEmpty() && added.writer.repairs)
+        if (variable.isEmpty() && added.conversion.Drops(inkmacro::emptyPlace))
             return {};
     }
     return fetch + EmitInsertViewportByEntity(added.writer, layout ? CFxString(layout->getLayoutName()) : CFxString(),

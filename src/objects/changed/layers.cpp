@@ -1,10 +1,10 @@
 // Changed layers and groups.
 
-#include "objects/targets/layers.h"
 #include "objects/changeKinds.h"
 #include "objects/changed/changeLists.h"
 #include "objects/losses.h"
 #include "objects/properties.h"
+#include "objects/targets/styles.h"
 
 using namespace kinds;
 

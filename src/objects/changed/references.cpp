@@ -4,7 +4,7 @@
 #include "objects/changed/changeLists.h"
 #include "objects/losses.h"
 #include "objects/properties.h"
-#include "objects/targets/blockAttributes.h"
+#include "objects/targets/blocks.h"
 
 using namespace kinds;
 

@@ -4,7 +4,7 @@
 #include "objects/changed/changeLists.h"
 #include "objects/losses.h"
 #include "objects/properties.h"
-#include "objects/targets/sheetProperties.h"
+#include "targets/sheets.h"
 
 using namespace kinds;
 

@@ -79,7 +79,7 @@ PropertyList takeAll(const char* tag, PropertyList& list)
 }
 
 Statement cellStatement(Writer& writer, const CFxString& table, const CFxPropertyChangedPtr& record,
-                      const CFxString& text)
+                        const CFxString& text)
 {
     return EmitSetCellText(writer, table, numberIn(record, 1), numberIn(record, 2), inkmacro::doubleBackslashes(text));
 }
@@ -87,7 +87,7 @@ Statement cellStatement(Writer& writer, const CFxString& table, const CFxPropert
 /// New lines stand behind the old ones; `count` receives how many lines there are then. One pass over the records finds
 /// them, so one whose record comes too early, or behind a gap, is no new line.
 Statement insertLines(Writer& writer, const TableLines& lines, const PropertyList& list, CFxValueContext context,
-                    const CFxString& table, std::int32_t first, qint64& count)
+                      const CFxString& table, std::int32_t first, qint64& count)
 {
     const auto tagOf = [&](qint64 number) { return lines.sizeTag + ('_' + QString::number(number)); };
     Statement text;
@@ -113,13 +113,11 @@ Statement insertLines(Writer& writer, const TableLines& lines, const PropertyLis
     return text;
 }
 
-/// One statement, however many lines went; in a repaired macro one each, from behind.
+/// From behind.
 Statement removeLines(Writer& writer, const TableLines& lines, const CFxString& table, std::int32_t before,
-                    std::int32_t count)
+                      std::int32_t count)
 {
     Statement text = lines.remove(writer, table, before - 1);
-    if (!writer.repairs)
-        return count < before - 1 ? writer.faulty(text, kSingleRemoval) : text;
     for (std::int32_t line = before - 2; line >= std::max(count, 0); --line)
         text += lines.remove(writer, table, line);
     return text;
@@ -149,8 +147,11 @@ static bool ConvertTableCount(Conversion& conversion, const TableLines& lines, c
             LoseProperty(object, lines.countTag,
                          "new lines are inserted by the records of their sizes, which are too few");
     } else if (count < before) {
-        text += removeLines(conversion.writer, lines, object.name, before, count);
-        if (before - count > 1 && !conversion.writer.repairs)
+        Writer& writer = conversion.writer;
+        const bool onlyLast = before - count > 1 && !writer.repairs;
+        text += onlyLast ? writer.faulty(lines.remove(writer, object.name, before - 1), kSingleRemoval)
+                         : removeLines(writer, lines, object.name, before, count);
+        if (onlyLast)
             LoseProperty(object, lines.countTag, "one line is removed where several went");
     }
     return true;

@@ -1,7 +1,8 @@
-// The insertion of what is drawn elsewhere: blocks, other drawings, pictures and shapes.
+// Block references, their attributes, and what they are made of.
 
 #include "objects/targets/blocks.h"
 
+#include "statements/quoting.h"
 #include "statements/wording.h"
 
 using namespace inkmacro;
@@ -57,7 +58,7 @@ static const Phrase insertExternalReference{
     }};
 
 Statement EmitInsertExternalReference(Writer& writer, const CFxString& path, const OdGePoint3d& position,
-                                    const OdGeScale3d& scales, const CFxString& name)
+                                      const OdGeScale3d& scales, const CFxString& name)
 {
     return writer.fill(insertExternalReference).text(path).point(position).real(scales.sx).real(scales.sy).text(name);
 }
@@ -76,7 +77,7 @@ static const Phrase insertPicture{
 
 /// C# alone has the backslashes of the path doubled. It has to stay so.
 Statement EmitInsertPicture(Writer& writer, const CFxString& path, const OdGePoint3d& position, double scale,
-                          double rotation, const CFxString& name)
+                            double rotation, const CFxString& name)
 {
     const QString word = writer.target == Target::CSharp ? doubleBackslashes(path) : path.toQString();
     return writer.fill(insertPicture).text(word).point(position).real(scale).real(rotation).text(name);
@@ -93,7 +94,51 @@ static const Phrase insertShape{"EmitInsertShape",
                                 }};
 
 Statement EmitInsertShape(Writer& writer, const CFxString& shape, const OdGePoint3d& position, double size,
-                        double rotation, const CFxString& name)
+                          double rotation, const CFxString& name)
 {
     return writer.fill(insertShape).text(shape).point(position).real(size).real(rotation).text(name);
+}
+
+static const Phrase blockAttributeValue{
+    "EmitBlockAttributeValue",
+    {
+        .cpp = "%1iwObjectPtrArray iwAttributes%3;%2%1%4->GetAttributeInstances( &iwAttributes%3 );%2"
+               "%1for (int i = 0; i < (int)iwAttributes%3.length(); ++i)%2%1{%2"
+               "%1    iwAttributeInstance_c* iwAttribute%3 = (iwAttributeInstance_c*)iwAttributes%3[i];%2"
+               "%1    iwString name%3;%2%1    iwAttribute%3->get_Name( &name%3 );%2%1    if (name%3 == L\"%5\")%2"
+               "%1        iwAttribute%3->put_%6( L\"%7\" );%2%1}%2",
+        .cppCom = "%1IAttributeInstancePtr *iwAttributes%3 = NULL;%2%1int count%3 = 0;%2"
+                  "%1TypeConverter::convertVariantArrayToPtrArray<IAttributeInstancePtr, IAttributeInstance>( "
+                  "%4->GetAttributeInstances(), iwAttributes%3, count%3 );%2"
+                  "%1for (int i = 0; i < count%3; ++i)%2%1{%2"
+                  "%1    if (iwAttributes%3[i]->GetName() == _bstr_t(L\"%5\"))%2"
+                  "%1        iwAttributes%3[i]->put_%6( L\"%7\" );%2%1}%2",
+        .csharp = "%1object[] iwAttributes%3 = (object[])%4.GetAttributeInstances();%2"
+                  "%1foreach (object attribute%3 in iwAttributes%3)%2%1{%2"
+                  "%1    AttributeInstance iwAttribute%3 = attribute%3 as AttributeInstance;%2"
+                  "%1    if (iwAttribute%3.Name == \"%5\")%2%1        iwAttribute%3.%6 = \"%7\";%2%1}%2",
+        .javascript = "%1var iwAttributes%3 = %4.GetAttributeInstances();%2"
+                      "%1for (var i = 0; i < iwAttributes%3.length; ++i)%2%1{%2"
+                      "%1    if (iwAttributes%3[i].get_Name() == \"%5\")%2"
+                      "%1        iwAttributes%3[i].put_%6(\"%7\");%2%1}%2",
+        .vbNet = "%1Dim iwAttributes%3 As Object() = %4.GetAttributeInstances()%2"
+                 "%1For Each iwAttribute%3 As Inkwright.AttributeInstance In iwAttributes%3%2"
+                 "%1    If iwAttribute%3.Name = \"%5\" Then%2%1        iwAttribute%3.%6 = \"%7\"%2%1    End If%2"
+                 "%1Next%2",
+        .vba = "%1Dim iwAttributes%3 As Variant%2%1iwAttributes%3 = %4.GetAttributeInstances()%2"
+               "%1Dim iwAttribute%3 As Variant%2%1For Each iwAttribute%3 In iwAttributes%3%2"
+               "%1    If iwAttribute%3.Name = \"%5\" Then%2%1        iwAttribute%3.%6 = \"%7\"%2%1    End If%2"
+               "%1Next%2",
+    }};
+static const Mend bstrAttributeValue(blockAttributeValue, Target::CppCom, literalIsNoBstr, textsAsBstr);
+
+Statement EmitBlockAttributeValue(Writer& writer, const CFxString& variable, const CFxString& property,
+                                  const CFxString& tag, const CFxString& value)
+{
+    return writer.fill(blockAttributeValue)
+        .number(++writer.UniqueCounter)
+        .text(variable)
+        .text(tag)
+        .text(property)
+        .text(value);
 }

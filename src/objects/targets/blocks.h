@@ -19,9 +19,13 @@ struct Placement
 Statement EmitInsertBlock(Writer& writer, const CFxString& block, const Placement& placement, const CFxString& name);
 /// The host's call takes the scales along X and Y alone.
 Statement EmitInsertExternalReference(Writer& writer, const CFxString& path, const OdGePoint3d& position,
-                                    const OdGeScale3d& scales, const CFxString& name);
+                                      const OdGeScale3d& scales, const CFxString& name);
 /// `rotation` is in radians, as the next one's is.
 Statement EmitInsertPicture(Writer& writer, const CFxString& path, const OdGePoint3d& position, double scale,
-                          double rotation, const CFxString& name);
+                            double rotation, const CFxString& name);
 Statement EmitInsertShape(Writer& writer, const CFxString& shape, const OdGePoint3d& position, double size,
-                        double rotation, const CFxString& name);
+                          double rotation, const CFxString& name);
+
+/// Sets a property of the block reference's attribute of that tag.
+Statement EmitBlockAttributeValue(Writer& writer, const CFxString& variable, const CFxString& property,
+                                  const CFxString& tag, const CFxString& value);

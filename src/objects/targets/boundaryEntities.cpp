@@ -283,16 +283,18 @@ const Fault kForeignNumber{"EmitInsertHatchByEntities: erasure of a region",
 Statement eraseTemporary(Writer& writer, const TemporaryKind& kind, std::uint32_t number)
 {
     const Target target = writer.target;
-    Fill statement = writer.fill(kind.erase);
     if (&kind.erase != &eraseRegion)
-        return statement.text(numbered(kind, number));
-    if (target == Target::Vba)
-        statement.number(number);
+        return writer.fill(kind.erase).text(numbered(kind, number));
+    const auto erase = [&](std::uint32_t named) {
+        Fill statement = writer.fill(kind.erase);
+        if (target == Target::Vba)
+            statement.number(named);
+        return statement.text(numbered(kind, named)).str();
+    };
     const std::uint32_t tables = processCounters.of(target).boundaryEntities[kTable];
     const bool misled =
         (target == Target::Cpp || target == Target::CSharp || target == Target::JavaScript) && number != tables;
-    statement.text(numbered(kind, misled && !writer.repairs ? tables : number));
-    return misled ? writer.faulty(statement, kForeignNumber) : statement.str();
+    return misled ? writer.mended(erase(tables), kForeignNumber, erase(number)) : erase(number);
 }
 
 void loseBoundary(const OdDbObject& object)

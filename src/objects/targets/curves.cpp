@@ -4,19 +4,26 @@
 
 using namespace inkmacro;
 
-static const Phrase insertLine{"EmitInsertLine",
-                               {
-                                   .cpp = "%1iwSketchManager->InsertLine( %3, %4, %5, %6, %7, %8, &%9 );%2",
-                                   .cppCom = "%1%9 = iwSketchManager->InsertLine( %3, %4, %5, %6, %7, %8 );%2",
-                                   .csharp = "%1%9 = iwSketchManager.InsertLine( %3, %4, %5, %6, %7, %8 );%2",
-                                   .javascript = "%1var %9 = mSkMgr.InsertLine(%3, %4, %5, %6, %7, %8);%2",
-                                   .vbNet = "%1%9 = iwSketchManager.InsertLine( %3, %4, %5, %6, %7, %8 )%2",
-                                   .vba = "%1Set %9 = iwSketchManager.InsertLine( %3, %4, %5, %6, %7, %8 )%2",
-                               }};
+/// By six numbers.
+static const Phrase insertCurve{"EmitInsertLine",
+                                {
+                                    .cpp = "%1iwSketchManager->%3( %4, %5, %6, %7, %8, %9, &%10 );%2",
+                                    .cppCom = "%1%10 = iwSketchManager->%3( %4, %5, %6, %7, %8, %9 );%2",
+                                    .csharp = "%1%10 = iwSketchManager.%3( %4, %5, %6, %7, %8, %9 );%2",
+                                    .javascript = "%1var %10 = mSkMgr.%3(%4, %5, %6, %7, %8, %9);%2",
+                                    .vbNet = "%1%10 = iwSketchManager.%3( %4, %5, %6, %7, %8, %9 )%2",
+                                    .vba = "%1Set %10 = iwSketchManager.%3( %4, %5, %6, %7, %8, %9 )%2",
+                                }};
+
+static Statement insertByPoints(Writer& writer, const char* operation, const OdGePoint3d& first,
+                                const OdGePoint3d& second, const CFxString& name)
+{
+    return writer.fill(insertCurve).text(QLatin1String(operation)).point(first).point(second).text(name);
+}
 
 Statement EmitInsertLine(Writer& writer, const OdGePoint3d& start, const OdGePoint3d& end, const CFxString& name)
 {
-    return writer.fill(insertLine).point(start).point(end).text(name);
+    return insertByPoints(writer, "InsertLine", start, end, name);
 }
 
 static const Phrase insertCircle{"EmitInsertCircle",
@@ -49,52 +56,27 @@ Statement EmitInsertPoint(Writer& writer, const OdGePoint3d& position, const CFx
     return writer.fill(insertPoint).point(position).text(name);
 }
 
-static const Phrase insertRay{"EmitInsertRay",
-                              {
-                                  .cpp = "%1iwSketchManager->InsertRay( %3, %4, %5, %6, %7, %8, &%9 );%2",
-                                  .cppCom = "%1%9 = iwSketchManager->InsertRay( %3, %4, %5, %6, %7, %8 );%2",
-                                  .csharp = "%1%9 = iwSketchManager.InsertRay( %3, %4, %5, %6, %7, %8 );%2",
-                                  .javascript = "%1var %9 = mSkMgr.InsertRay(%3, %4, %5, %6, %7, %8);%2",
-                                  .vbNet = "%1%9 = iwSketchManager.InsertRay( %3, %4, %5, %6, %7, %8 )%2",
-                                  .vba = "%1Set %9 = iwSketchManager.InsertRay( %3, %4, %5, %6, %7, %8 )%2",
-                              }};
-
 Statement EmitInsertRay(Writer& writer, const OdGePoint3d& base, const OdGePoint3d& second, const CFxString& name)
 {
-    return writer.fill(insertRay).point(base).point(second).text(name);
+    return insertByPoints(writer, "InsertRay", base, second, name);
 }
-
-static const Phrase insertArc{"EmitInsertArc",
-                              {
-                                  .cpp = "%1iwSketchManager->InsertArc( %3, %4, %5, %6, %7, %8, &%9 );%2",
-                                  .cppCom = "%1%9 = iwSketchManager->InsertArc( %3, %4, %5, %6, %7, %8 );%2",
-                                  .csharp = "%1%9 = iwSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 );%2",
-                                  .javascript = "%1var %9 = mSkMgr.InsertArc(%3, %4, %5, %6, %7, %8);%2",
-                                  .vbNet = "%1%9 = iwSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 )%2",
-                                  .vba = "%1Set %9 = iwSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 )%2",
-                              }};
 
 Statement EmitInsertArc(Writer& writer, const OdGePoint3d& center, double radius, double startAngle, double endAngle,
-                      const CFxString& name)
+                        const CFxString& name)
 {
-    return writer.fill(insertArc).point(center).real(radius).real(startAngle).real(endAngle).text(name);
+    return writer.fill(insertCurve)
+        .text(QLatin1String("InsertArc"))
+        .point(center)
+        .real(radius)
+        .real(startAngle)
+        .real(endAngle)
+        .text(name);
 }
 
-static const Phrase insertInfiniteLine{
-    "EmitInsertInfiniteLine",
-    {
-        .cpp = "%1iwSketchManager->InsertInfiniteLine( %3, %4, %5, %6, %7, %8, &%9 );%2",
-        .cppCom = "%1%9 = iwSketchManager->InsertInfiniteLine( %3, %4, %5, %6, %7, %8 );%2",
-        .csharp = "%1%9 = iwSketchManager.InsertInfiniteLine( %3, %4, %5, %6, %7, %8 );%2",
-        .javascript = "%1var %9 = mSkMgr.InsertInfiniteLine(%3, %4, %5, %6, %7, %8);%2",
-        .vbNet = "%1%9 = iwSketchManager.InsertInfiniteLine( %3, %4, %5, %6, %7, %8 )%2",
-        .vba = "%1Set %9 = iwSketchManager.InsertInfiniteLine( %3, %4, %5, %6, %7, %8 )%2",
-    }};
-
 Statement EmitInsertInfiniteLine(Writer& writer, const OdGePoint3d& base, const OdGePoint3d& second,
-                               const CFxString& name)
+                                 const CFxString& name)
 {
-    return writer.fill(insertInfiniteLine).point(base).point(second).text(name);
+    return insertByPoints(writer, "InsertInfiniteLine", base, second, name);
 }
 
 static const Phrase insertEllipseArc{
@@ -109,7 +91,7 @@ static const Phrase insertEllipseArc{
     }};
 
 Statement EmitInsertEllipseArc(Writer& writer, const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
-                             double otherAxisDistance, double startAngle, double endAngle, const CFxString& name)
+                               double otherAxisDistance, double startAngle, double endAngle, const CFxString& name)
 {
     return writer.fill(insertEllipseArc)
         .real(axisStart.x)
@@ -134,7 +116,7 @@ static const Phrase insertEllipse{
     }};
 
 Statement EmitInsertEllipse(Writer& writer, const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
-                          double otherAxisDistance, const CFxString& name)
+                            double otherAxisDistance, const CFxString& name)
 {
     return writer.fill(insertEllipse)
         .real(axisStart.x)

@@ -2,8 +2,8 @@
 
 #include "objects/targets/dimensionOptions.h"
 
-#include "statements/bstrTexts.h"
 #include "statements/enumerations.h"
+#include "statements/quoting.h"
 #include "statements/wording.h"
 
 using namespace inkmacro;
@@ -52,7 +52,7 @@ static const Phrase setArrow{"EmitSetArrow",
                              }};
 
 Statement EmitSetArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
-                     const CFxString& name)
+                       const CFxString& name)
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionArrowType, arrow);
     Fill statement = writer.fill(setArrow);
@@ -83,7 +83,7 @@ static const Phrase setStyleArrow{
 static const Mend bstrArrowName(setStyleArrow, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 Statement EmitSetStyleArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
-                          const CFxString& name)
+                            const CFxString& name)
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionArrowType, arrow);
     return writer.fill(setStyleArrow).number(++writer.UniqueCounter).text(kind).text(name).text(target).text(operation);
@@ -100,7 +100,7 @@ static const Phrase setDimensionScale{"EmitSetDimensionScale",
                                       }};
 
 Statement EmitSetDimensionScale(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t scale,
-                              double factor)
+                                double factor)
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionScale, scale);
     return writer.fill(setDimensionScale).text(target).text(operation).text(kind).real(factor);
@@ -168,7 +168,7 @@ static const Phrase setCenterMark{"EmitSetCenterMark",
                                   }};
 
 static Statement changeCenterMark(Writer& writer, const CFxString& target, const CFxString& operation,
-                                const Phrase& change, const QString& value)
+                                  const Phrase& change, const QString& value)
 {
     const std::uint32_t suffix = ++writer.UniqueCounter;
     return writer.fill(getCenterMark).number(suffix).text(target).str() +
@@ -201,7 +201,7 @@ static const Mend centerMarkOperation(setStyleCenterMark, Target::Cpp,
                                       "an operation is called as if it were a property", "%1%3->%4(%5, %6);%2");
 
 Statement EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind,
-                               double size)
+                                 double size)
 {
     const QString word = EnumeratorByValue(writer.target, enums::dimensionCenterMarkDisplay, kind);
     return writer.fill(setStyleCenterMark).text(target).text(operation).text(word).real(size);

@@ -4,7 +4,6 @@
 
 #include "objects/targets/dimensionPoints.h"
 #include "statements/LineEnd.h"
-#include "statements/digits.h"
 #include "statements/wording.h"
 
 #include <optional>
@@ -29,30 +28,33 @@ static const Fault kUndeclaredPoints{
 
 /// A page fills its arrays in front of the call, which names them by the number that all have.
 static Statement insertInPage(Writer& writer, const PointDimension& kind, const std::vector<OdGePoint3d>& points,
-                            const CFxString& text, const std::optional<Statement>& last, const CFxString& name)
+                              const CFxString& text, const std::optional<Statement>& last, const CFxString& name)
 {
     static const Template assigned("%1%0%3 = new Array(%4, %5, %6);%2");
     static const Template declared("%1var %0%3 = new Array(%4, %5, %6);%2");
     const std::uint32_t number = ++writer.UniqueCounter;
-    Statement statements;
-    for (std::size_t i = 0; i < points.size(); ++i)
-        statements += Fill(writer.repairs ? &declared : &assigned)
-                          .text(QLatin1String(kind.scriptArrays[i]))
-                          .indent(writer.IndentLevel)
-                          .text(LineEnd)
-                          .number(number)
-                          .point(points[i])
-                          .str();
+    const auto arrays = [&](const Template& words) {
+        Statement statements;
+        for (std::size_t i = 0; i < points.size(); ++i)
+            statements += Fill(&words)
+                              .text(QLatin1String(kind.scriptArrays[i]))
+                              .indent(writer.IndentLevel)
+                              .text(LineEnd)
+                              .number(number)
+                              .point(points[i])
+                              .str();
+        return statements;
+    };
     Fill call = writer.fill(kind.insertion);
     call.text(name).text(text);
     if (last)
         call.text(*last);
-    return writer.faulty(statements, kUndeclaredPoints) + call.number(number).str();
+    return writer.mended(arrays(assigned), kUndeclaredPoints, arrays(declared)) + call.number(number).str();
 }
 
 /// `last` is the argument behind the text, where the call takes one more.
 static Statement insertOnPoints(Writer& writer, const PointDimension& kind, const std::vector<OdGePoint3d>& points,
-                              const CFxString& text, const std::optional<Statement>& last, const CFxString& name)
+                                const CFxString& text, const std::optional<Statement>& last, const CFxString& name)
 {
     if (writer.target == Target::JavaScript)
         return insertInPage(writer, kind, points, text, last, name);
@@ -105,7 +107,7 @@ static const Phrase insertAlignedDimension{
     }};
 
 Statement EmitInsertAlignedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
-                                   const OdGePoint3d& dimensionLine, const CFxString& text, const CFxString& name)
+                                     const OdGePoint3d& dimensionLine, const CFxString& text, const CFxString& name)
 {
     static const PointDimension kind{insertAlignedDimension, {"ExtLineOne", "ExtLineTwo", "DimLine"}};
     return insertOnPoints(writer, kind, {first, second, dimensionLine}, text, {}, name);
@@ -150,8 +152,8 @@ static const Phrase insertAngularDimension3Point{
     }};
 
 Statement EmitInsertAngularDimension3Point(Writer& writer, const OdGePoint3d& center, const OdGePoint3d& first,
-                                         const OdGePoint3d& second, const OdGePoint3d& arcPoint, const CFxString& text,
-                                         const CFxString& name)
+                                           const OdGePoint3d& second, const OdGePoint3d& arcPoint,
+                                           const CFxString& text, const CFxString& name)
 {
     static const PointDimension kind{
         insertAngularDimension3Point, {"CenterPoint", "ExtLineOne", "ExtLineTwo", "DimLine"}, true};
@@ -184,7 +186,7 @@ static const Phrase insertOrdinateDimension{
     }};
 
 Statement EmitInsertOrdinateDimension(Writer& writer, const OdGePoint3d& point, const OdGePoint3d& leaderEnd,
-                                    bool usesXAxis, const CFxString& text, const CFxString& name)
+                                      bool usesXAxis, const CFxString& text, const CFxString& name)
 {
     static const PointDimension kind{insertOrdinateDimension, {"ExtLineOne", "ExtLineTwo"}};
     const QString measure = usesXAxis ? "iwOrdinateDimensionMeasure_UseXAxis" : "iwOrdinateDimensionMeasure_UseYAxis";
@@ -226,14 +228,13 @@ static const Phrase insertRotatedDimension{
     }};
 
 Statement EmitInsertRotatedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
-                                   const OdGePoint3d& dimensionLine, double rotation, const CFxString& text,
-                                   const CFxString& name)
+                                     const OdGePoint3d& dimensionLine, double rotation, const CFxString& text,
+                                     const CFxString& name)
 {
     static const PointDimension kind{insertRotatedDimension, {"ExtLineOne", "ExtLineTwo", "DimLine"}};
-    const bool isShort = writer.target == Target::Cpp;
-    const bool rounded = isShort && losesDigits(rotation);
-    const QString number = isShort && !(rounded && writer.repairs) ? FormatShort(rotation) : FormatLong(rotation);
-    const Statement angle = rounded ? writer.faulty(number, kSixDigits) : Statement(number);
+    static const Template number("%1");
+    const Statement angle =
+        writer.target == Target::Cpp ? writer.fill(number).shortReal(rotation) : writer.fill(number).real(rotation);
     return insertOnPoints(writer, kind, {first, second, dimensionLine}, text, angle, name);
 }
 
@@ -289,7 +290,7 @@ bool MeasuresFromVariables(const Writer& writer)
 
 /// Draws both lines in the block of the dimension.
 static Statement insertWithOwnLines(Writer& writer, const DimensionLine& first, const DimensionLine& second,
-                                  const OdGePoint3d& arcPoint, const CFxString& text, const CFxString& name)
+                                    const OdGePoint3d& arcPoint, const CFxString& text, const CFxString& name)
 {
     Fill insertion = writer.fill(insertAngularDimension2Line);
     fillDimensionPoints(writer, insertion, {&arcPoint, 1});
@@ -297,7 +298,7 @@ static Statement insertWithOwnLines(Writer& writer, const DimensionLine& first, 
 }
 
 Statement EmitInsertAngularDimension2Line(Writer& writer, const DimensionLine& first, const DimensionLine& second,
-                                        const OdGePoint3d& arcPoint, const CFxString& text, const CFxString& name)
+                                          const OdGePoint3d& arcPoint, const CFxString& text, const CFxString& name)
 {
     if (!MeasuresFromVariables(writer))
         return insertWithOwnLines(writer, first, second, arcPoint, text, name);

@@ -2,8 +2,8 @@
 
 #include "objects/targets/hatchPatterns.h"
 
-#include "statements/bstrTexts.h"
 #include "statements/enumerations.h"
+#include "statements/quoting.h"
 #include "statements/wording.h"
 #include "targets/colors.h"
 
@@ -101,41 +101,21 @@ static const Phrase putHatchData{"EmitSetHatchData: writing",
 static constexpr char assignLocal[] = "%1%3 = %4;%2";
 static constexpr char basicAssignLocal[] = "%1%3 = %4%2";
 
-static const Phrase assignAngle{"EmitSetHatchData: angle",
-                                {
-                                    .cpp = assignLocal,
-                                    .cppCom = assignLocal,
-                                    .csharp = "%1Angle = %3;%2",
-                                    .javascript = "%1data_%4.Angle = %3;%2",
-                                    .vbNet = basicAssignLocal,
-                                    .vba = basicAssignLocal,
-                                }};
-
-static const Phrase assignScale{"EmitSetHatchData: scale",
-                                {
-                                    .cpp = assignLocal,
-                                    .cppCom = assignLocal,
-                                    .csharp = "%1Scale = %3;%2",
-                                    .javascript = "%1data_%4.Scale = %3;%2",
-                                    .vbNet = basicAssignLocal,
-                                    .vba = basicAssignLocal,
-                                }};
-
-static const Phrase assignSpacing{"EmitSetHatchData: spacing",
-                                  {
-                                      .cpp = assignLocal,
-                                      .cppCom = assignLocal,
-                                      .csharp = "%1Spacing = %3;%2",
-                                      .javascript = "%1data_%4.Spacing = %3;%2",
-                                      .vbNet = basicAssignLocal,
-                                      .vba = basicAssignLocal,
-                                  }};
+static const Phrase assignNumber{"EmitSetHatchData: number",
+                                 {
+                                     .cpp = assignLocal,
+                                     .cppCom = assignLocal,
+                                     .csharp = assignLocal,
+                                     .javascript = "%1data_%5.%3 = %4;%2",
+                                     .vbNet = basicAssignLocal,
+                                     .vba = basicAssignLocal,
+                                 }};
 
 static const Phrase assignPatternName{"EmitSetHatchData: name",
                                       {
                                           .cpp = "%1%3 = L\"%4\";%2",
                                           .cppCom = "%1%3 = L\"%4\";%2",
-                                          .csharp = "%1PatternName = \"%3\";%2",
+                                          .csharp = "%1%3 = \"%4\";%2",
                                           .javascript = "%1data_%4.PatternName = \"%3\";%2",
                                           .vbNet = "%1%3 = \"%4\"%2",
                                           .vba = "%1%3 = \"%4\"%2",
@@ -146,7 +126,7 @@ static const Phrase assignPatternType{"EmitSetHatchData: type",
                                       {
                                           .cpp = assignLocal,
                                           .cppCom = assignLocal,
-                                          .csharp = "%1HatchPatternType = %3;%2",
+                                          .csharp = assignLocal,
                                           .javascript = "%1data_%4.HatchPatternType = \"%3\";%2",
                                           .vbNet = basicAssignLocal,
                                           .vba = basicAssignLocal,
@@ -187,53 +167,53 @@ Statement callWithData(Writer& writer, const Phrase& phrase, const CFxString& pa
     return call.text(pattern);
 }
 
-/// One assignment to a local, or in JavaScript to a member of the object that has that number.
-template<class Value>
-Statement assign(Writer& writer, const Phrase& phrase, DataLocal local, std::uint32_t number, const Value& putValue)
+Statement assignReal(Writer& writer, DataLocal local, const std::optional<double>& value, std::uint32_t number)
+{
+    if (!value)
+        return {};
+    return writer.fill(assignNumber).text(dataLocals(writer.target)[local]).real(*value).number(number);
+}
+
+/// JavaScript's words name the member themselves.
+Statement assignText(Writer& writer, const Phrase& phrase, DataLocal local, const CFxString& text, std::uint32_t number)
 {
     Fill assignment = writer.fill(phrase);
-    if (writer.target != Target::CSharp && writer.target != Target::JavaScript)
+    if (writer.target != Target::JavaScript)
         assignment.text(dataLocals(writer.target)[local]);
-    putValue(assignment);
-    return assignment.number(number);
+    return assignment.text(text).number(number);
 }
 
 const Fault kPredefinedPattern{"EmitSetHatchData: type",
                                {Target::CSharp, Target::VbNet, Target::Vba},
                                "a predefined pattern becomes a user's own"};
 
-/// Which of the three types a word means depends on the target: only C++ and JavaScript know predefined patterns, which
-/// the others take for a user's own.
-bool knowsPredefined(const Writer& writer)
-{
-    return writer.repairs || writer.target == Target::Cpp || writer.target == Target::CppCom ||
-           writer.target == Target::JavaScript;
-}
-
-Statement patternTypeWord(const Writer& writer, const CFxString& word)
+/// Without predefined patterns these count as a user's own.
+QString patternTypeWord(Target target, const CFxString& word, bool knowsPredefined)
 {
     QString type = QStringLiteral("UserDefined");
     if (word.equalNoCase("Custom"))
         type = QStringLiteral("Custom");
-    else if (knowsPredefined(writer) && word.equalNoCase("Predefined"))
+    else if (knowsPredefined && word.equalNoCase("Predefined"))
         type = QStringLiteral("Predefined");
-    return enumeratorText(writer.target, "iwHatchPatternType_e", "iwHatchPatternType_" + type);
+    return enumeratorText(target, "iwHatchPatternType_e", "iwHatchPatternType_" + type);
 }
 
 Statement assignData(Writer& writer, const HatchPatternChange& change, std::uint32_t number)
 {
-    const auto assignReal = [&](const Phrase& phrase, DataLocal local, const std::optional<double>& value) {
-        return value ? assign(writer, phrase, local, number, [&](Fill& fill) { fill.real(*value); }) : Statement();
-    };
-    Statement text = assignReal(assignAngle, kAngle, change.angle) + assignReal(assignScale, kScale, change.scale) +
-                   assignReal(assignSpacing, kSpacing, change.spacing);
+    Statement text = assignReal(writer, kAngle, change.angle, number) +
+                     assignReal(writer, kScale, change.scale, number) +
+                     assignReal(writer, kSpacing, change.spacing, number);
     if (change.name)
-        text += assign(writer, assignPatternName, kPatternName, number, [&](Fill& fill) { fill.text(*change.name); });
+        text += assignText(writer, assignPatternName, kPatternName, *change.name, number);
     if (change.type) {
-        const Statement type = assign(writer, assignPatternType, kPatternType, number,
-                                    [&](Fill& fill) { fill.text(patternTypeWord(writer, *change.type)); });
-        const bool misread = !knowsPredefined(writer) && change.type->equalNoCase("Predefined");
-        text += misread ? writer.faulty(type, kPredefinedPattern) : type;
+        const auto type = [&](bool knowsPredefined) {
+            const CFxString word = patternTypeWord(writer.target, *change.type, knowsPredefined);
+            return assignText(writer, assignPatternType, kPatternType, word, number);
+        };
+        const bool isMisread = isBasic(writer.target) || writer.target == Target::CSharp;
+        text += isMisread && change.type->equalNoCase("Predefined")
+                    ? writer.mended(type(false), kPredefinedPattern, type(true))
+                    : type(true);
     }
     return text;
 }
@@ -297,23 +277,14 @@ static const Phrase rgbColor{"EmitHatchGradientData: true color",
                              }};
 
 /// In C++ the color's own call sets the local.
-static const Phrase assignFirstColor{"EmitHatchGradientData: assigned color",
-                                     {
-                                         .cppCom = "%1color1 = %3;%2",
-                                         .csharp = "%1color1 = %3;%2",
-                                         .javascript = "%1data%4.Color1 = %3;%2",
-                                         .vbNet = "%1color1 = %3%2",
-                                         .vba = "%1Set color1 = %3%2",
-                                     }};
-
-static const Phrase assignSecondColor{"EmitHatchGradientData: assigned color",
-                                      {
-                                          .cppCom = "%1color2 = %3;%2",
-                                          .csharp = "%1color2 = %3;%2",
-                                          .javascript = "%1data%4.Color2 = %3;%2",
-                                          .vbNet = "%1color2 = %3%2",
-                                          .vba = "%1Set color2 = %3%2",
-                                      }};
+static const Phrase assignColor{"EmitHatchGradientData: assigned color",
+                                {
+                                    .cppCom = "%1color%3 = %4;%2",
+                                    .csharp = "%1color%3 = %4;%2",
+                                    .javascript = "%1data%5.Color%3 = %4;%2",
+                                    .vbNet = "%1color%3 = %4%2",
+                                    .vba = "%1Set color%3 = %4%2",
+                                }};
 
 /// Without a marker for the line end in C++, the line end takes the value's place there, and the value is lost. The
 /// same holds for the mark that follows. Both have to stay so.
@@ -354,19 +325,18 @@ static const Phrase putGradientData{
         .vba = "%1%3.SetGradientData color1, color2, bCentered, gradientAngle%2",
     }};
 
-/// `local` is of C++ alone.
-static Statement changeColor(Writer& writer, const Phrase& assignment, const char* local, const OdCmColor& color,
-                           std::uint32_t number)
+/// `which` of the two is 1 or 2.
+static Statement changeColor(Writer& writer, int which, const OdCmColor& color, std::uint32_t number)
 {
     const OdCmColor plain = gradientColor(writer, color);
-    Fill text = writer.fillPlain(plain.isByACI() ? indexedColor : rgbColor);
+    Fill call = writer.fillPlain(plain.isByACI() ? indexedColor : rgbColor);
     if (plain.isByACI())
-        text.number(plain.colorIndex());
+        call.number(plain.colorIndex());
     else
-        text.number(plain.red()).number(plain.green()).number(plain.blue());
+        call.number(plain.red()).number(plain.green()).number(plain.blue());
     const Statement change = writer.target == Target::Cpp
-                               ? text.indent(writer.IndentLevel).text(QLatin1String(local)).str()
-                               : writer.fill(assignment).text(text.str()).number(number).str();
+                                 ? call.indent(writer.IndentLevel).text("color" + QString::number(which)).str()
+                                 : writer.fill(assignColor).number(which).text(call.str()).number(number).str();
     return notingBlack(writer, change, color);
 }
 
@@ -382,9 +352,9 @@ Statement EmitHatchGradientData(Writer& writer, const CFxString& pattern, const 
     };
     Statement text = call(getGradientData);
     if (change.first)
-        text += changeColor(writer, assignFirstColor, "color1", *change.first, number);
+        text += changeColor(writer, 1, *change.first, number);
     if (change.second)
-        text += changeColor(writer, assignSecondColor, "color2", *change.second, number);
+        text += changeColor(writer, 2, *change.second, number);
     if (change.angle)
         text += writer.fill(assignGradientAngle).real(*change.angle).number(number).str();
     if (change.centered)

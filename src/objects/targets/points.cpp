@@ -33,7 +33,7 @@ struct PointWords
 
 /// Without an index (-1) the calls have one value less.
 static Statement changePoint(Writer& writer, const PointWords& words, const CFxString& target, const CFxString& getter,
-                           const CFxString& setter, std::int32_t index, const CFxString& coordinate, double value)
+                             const CFxString& setter, std::int32_t index, const CFxString& coordinate, double value)
 {
     const std::uint32_t suffix = ++writer.UniqueCounter;
     const auto call = [&](const Phrase& phrase, const CFxString& operation) -> Statement {
@@ -122,7 +122,7 @@ static const Phrase setIndexedPoint{"EmitChangePoint",
                                     }};
 
 Statement EmitChangePoint(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
-                        const CFxString& setter, double value, std::int32_t index)
+                          const CFxString& setter, double value, std::int32_t index)
 {
     static const PointWords plain{declarePoint, getPoint, changePointCoordinate, setPoint};
     static const PointWords indexed{declareIndexedPoint, getIndexedPoint, changePointCoordinate, setIndexedPoint};
@@ -136,7 +136,7 @@ static const Phrase changeScale{"EmitChangeScale",
                                 }};
 
 Statement EmitChangeScale(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
-                        const CFxString& setter, double value)
+                          const CFxString& setter, double value)
 {
     return writer.fill(changeScale).text(target).text(getter).text(setter).text(axis).real(value);
 }
@@ -183,7 +183,7 @@ static const Phrase setPair{"EmitChangePosition",
                             }};
 
 static Statement changePair(Writer& writer, const CFxString& target, const CFxString& getter, const CFxString& setter,
-                          const CFxString& local, double value)
+                            const CFxString& local, double value)
 {
     static const PointWords words{declarePair, getPair, changeLocal, setPair};
     QString coordinate = local;
@@ -259,7 +259,7 @@ static const Mend scriptVertexWrite(setVertex, Target::JavaScript, "the locals o
                                     "%1%2.SetVertexCoordinate(%3, points.X, points.Y, points.Z);%4");
 
 static Statement changeVertex(Writer& writer, const PointWords& words, const CFxString& target, std::int32_t index,
-                            const CFxString& axis, double value)
+                              const CFxString& axis, double value)
 {
     // Only here the C++ calls end with the usual second value, and only they do without the suffix.
     if (writer.target == Target::Cpp)
@@ -277,7 +277,7 @@ static Statement changeVertex(Writer& writer, const PointWords& words, const CFx
 }
 
 Statement EmitChangeVertex(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
-                         double value)
+                           double value)
 {
     static const PointWords words{declareVertex, getVertex, changeVertexCoordinate, setVertex};
     return changeVertex(writer, words, target, index, axis, value);
@@ -320,107 +320,79 @@ static const Mend scriptVertex2DWrite(setVertex2D, Target::JavaScript, "the loca
                                       "%1%2.SetVertexCoordinate(%3, points.X, points.Y);%4");
 
 Statement EmitChangeVertex2D(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
-                           double value)
+                             double value)
 {
     static const PointWords words{declareVertex2D, getVertex2D, changeVertexCoordinate, setVertex2D};
     return changeVertex(writer, words, target, index, axis, value);
 }
 
-// JavaScript reads the whole point into one variable, which every such change declares again.
+// A coordinate of a point that is read and written as a whole. JavaScript reads it into one variable, which every such
+// change declares again, and has no number.
 
-/// Takes a number wherever the target's words have a place for it.
-static Statement changeCoordinate(Writer& writer, const Phrase& phrase, const CFxString& target, const CFxString& stem,
-                                double value)
-{
-    const std::uint32_t suffix = writer.target == Target::JavaScript ? 0 : ++writer.UniqueCounter;
-    return writer.fill(phrase).text(target).text(stem).real(value).number(suffix);
-}
-
-static const Phrase changeCoordinateX{
-    "EmitChangeCoordinateX",
+static const Phrase changeSpatial{
+    "EmitChangeCoordinate",
     {
-        .cpp = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( %5, y%6, z%6 );%2",
-        .cppCom = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( %5, y%6, z%6 );%2",
-        .csharp = "%1double x%6, y%6, z%6;%2%1%3.Get%4( out x%6, out y%6, out z%6 );%2"
-                  "%1%3.Set%4( %5, y%6, z%6 );%2",
-        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(%5, points.Y, points.Z);%2",
-        .vbNet = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4( x%6, y%6, z%6 )%2"
-                 "%1%3.Set%4( %5, y%6, z%6 )%2",
-        .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4 x%6, y%6, z%6%2"
-               "%1%3.Set%4 %5, y%6, z%6%2",
+        .cpp = "%1double x%8, y%8, z%8;%2%1%3->Get%4( &x%8, &y%8, &z%8 );%2%1%3->Set%4( %5, %6, %7 );%2",
+        .cppCom = "%1double x%8, y%8, z%8;%2%1%3->Get%4( &x%8, &y%8, &z%8 );%2%1%3->Set%4( %5, %6, %7 );%2",
+        .csharp = "%1double x%8, y%8, z%8;%2%1%3.Get%4( out x%8, out y%8, out z%8 );%2"
+                  "%1%3.Set%4( %5, %6, %7 );%2",
+        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(%5, %6, %7);%2",
+        .vbNet = "%1Dim x%8 As Double%2%1Dim y%8 As Double%2%1Dim z%8 As Double%2%1%3.Get%4( x%8, y%8, z%8 )%2"
+                 "%1%3.Set%4( %5, %6, %7 )%2",
+        .vba = "%1Dim x%8 As Double%2%1Dim y%8 As Double%2%1Dim z%8 As Double%2%1%3.Get%4 x%8, y%8, z%8%2"
+               "%1%3.Set%4 %5, %6, %7%2",
     }};
+
+static const Phrase changePlanar{
+    "EmitChangeCoordinate2D",
+    {
+        .cpp = "%1double x%7, y%7;%2%1%3->Get%4( &x%7, &y%7 );%2%1%3->Set%4( %5, %6 );%2",
+        .cppCom = "%1double x%7, y%7;%2%1%3->Get%4( &x%7, &y%7 );%2%1%3->Set%4( %5, %6 );%2",
+        .csharp = "%1double x%7, y%7;%2%1%3.Get%4( out x%7, out y%7 );%2%1%3.Set%4( %5, %6 );%2",
+        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(%5, %6);%2",
+        .vbNet = "%1Dim x%7 As Double%2%1Dim y%7 As Double%2%1%3.Get%4( x%7, y%7 )%2%1%3.Set%4( %5, %6 )%2",
+        .vba = "%1Dim x%7 As Double%2%1Dim y%7 As Double%2%1%3.Get%4 x%7, y%7%2%1%3.Set%4 %5, %6%2",
+    }};
+
+/// `axis` counts from 0. The other coordinates are set to what was read.
+static Statement changeCoordinate(Writer& writer, const Phrase& phrase, int axis, const CFxString& target,
+                                  const CFxString& stem, double value)
+{
+    const bool script = writer.target == Target::JavaScript;
+    const QString number = script ? QString() : QString::number(++writer.UniqueCounter);
+    Fill change = writer.fill(phrase);
+    change.text(target).text(stem);
+    const int axes = &phrase == &changePlanar ? 2 : 3;
+    for (int i = 0; i < axes; ++i) {
+        if (i == axis)
+            change.real(value);
+        else
+            change.text(script ? "points." + QString(QChar('X' + i)) : QChar('x' + i) + number);
+    }
+    return change.text(number);
+}
 
 Statement EmitChangeCoordinateX(Writer& writer, const CFxString& target, const CFxString& stem, double value)
 {
-    return changeCoordinate(writer, changeCoordinateX, target, stem, value);
+    return changeCoordinate(writer, changeSpatial, 0, target, stem, value);
 }
-
-static const Phrase changeCoordinateY{
-    "EmitChangeCoordinateY",
-    {
-        .cpp = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( x%6, %5, z%6 );%2",
-        .cppCom = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( x%6, %5, z%6 );%2",
-        .csharp = "%1double x%6, y%6, z%6;%2%1%3.Get%4( out x%6, out y%6, out z%6 );%2"
-                  "%1%3.Set%4( x%6, %5, z%6 );%2",
-        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(points.X, %5, points.Z);%2",
-        .vbNet = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4( x%6, y%6, z%6 )%2"
-                 "%1%3.Set%4( x%6, %5, z%6 )%2",
-        .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4 x%6, y%6, z%6%2"
-               "%1%3.Set%4 x%6, %5, z%6%2",
-    }};
 
 Statement EmitChangeCoordinateY(Writer& writer, const CFxString& target, const CFxString& stem, double value)
 {
-    return changeCoordinate(writer, changeCoordinateY, target, stem, value);
+    return changeCoordinate(writer, changeSpatial, 1, target, stem, value);
 }
-
-static const Phrase changeCoordinateZ{
-    "EmitChangeCoordinateZ",
-    {
-        .cpp = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( x%6, y%6, %5 );%2",
-        .cppCom = "%1double x%6, y%6, z%6;%2%1%3->Get%4( &x%6, &y%6, &z%6 );%2%1%3->Set%4( x%6, y%6, %5 );%2",
-        .csharp = "%1double x%6, y%6, z%6;%2%1%3.Get%4( out x%6, out y%6, out z%6 );%2"
-                  "%1%3.Set%4( x%6, y%6, %5 );%2",
-        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(points.X, points.Y, %5);%2",
-        .vbNet = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4( x%6, y%6, z%6 )%2"
-                 "%1%3.Set%4( x%6, y%6, %5 )%2",
-        .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1Dim z%6 As Double%2%1%3.Get%4 x%6, y%6, z%6%2"
-               "%1%3.Set%4 x%6, y%6, %5%2",
-    }};
 
 Statement EmitChangeCoordinateZ(Writer& writer, const CFxString& target, const CFxString& stem, double value)
 {
-    return changeCoordinate(writer, changeCoordinateZ, target, stem, value);
+    return changeCoordinate(writer, changeSpatial, 2, target, stem, value);
 }
-
-static const Phrase changeCoordinate2DX{
-    "EmitChangeCoordinate2DX",
-    {
-        .cpp = "%1double x%6, y%6;%2%1%3->Get%4( &x%6, &y%6 );%2%1%3->Set%4( %5, y%6 );%2",
-        .cppCom = "%1double x%6, y%6;%2%1%3->Get%4( &x%6, &y%6 );%2%1%3->Set%4( %5, y%6 );%2",
-        .csharp = "%1double x%6, y%6;%2%1%3.Get%4( out x%6, out y%6 );%2%1%3.Set%4( %5, y%6 );%2",
-        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(%5, points.Y);%2",
-        .vbNet = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1%3.Get%4( x%6, y%6 )%2%1%3.Set%4( %5, y%6 )%2",
-        .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1%3.Get%4 x%6, y%6%2%1%3.Set%4 %5, y%6%2",
-    }};
 
 Statement EmitChangeCoordinate2DX(Writer& writer, const CFxString& target, const CFxString& stem, double value)
 {
-    return changeCoordinate(writer, changeCoordinate2DX, target, stem, value);
+    return changeCoordinate(writer, changePlanar, 0, target, stem, value);
 }
-
-static const Phrase changeCoordinate2DY{
-    "EmitChangeCoordinate2DY",
-    {
-        .cpp = "%1double x%6, y%6;%2%1%3->Get%4( &x%6, &y%6 );%2%1%3->Set%4( x%6, %5 );%2",
-        .cppCom = "%1double x%6, y%6;%2%1%3->Get%4( &x%6, &y%6 );%2%1%3->Set%4( x%6, %5 );%2",
-        .csharp = "%1double x%6, y%6;%2%1%3.Get%4( out x%6, out y%6 );%2%1%3.Set%4( x%6, %5 );%2",
-        .javascript = "%1var points = %3.Get%4( );%2%1%3.Set%4(points.X, %5);%2",
-        .vbNet = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1%3.Get%4( x%6, y%6 )%2%1%3.Set%4( x%6, %5 )%2",
-        .vba = "%1Dim x%6 As Double%2%1Dim y%6 As Double%2%1%3.Get%4 x%6, y%6%2%1%3.Set%4 x%6, %5%2",
-    }};
 
 Statement EmitChangeCoordinate2DY(Writer& writer, const CFxString& target, const CFxString& stem, double value)
 {
-    return changeCoordinate(writer, changeCoordinate2DY, target, stem, value);
+    return changeCoordinate(writer, changePlanar, 1, target, stem, value);
 }

@@ -79,11 +79,8 @@ static Statement regionEntities(Writer& writer, const QStringList& names, std::u
 
 Statement EmitInsertRegion(Writer& writer, const CFxString& variable, const QStringList& names, std::uint32_t number)
 {
-    QStringList filled = names;
-    if (writer.repairs)
-        filled.removeAll(QString());
     // The number goes into two places of the same literal in C++.
-    return regionEntities(writer, filled, number) + writer.fill(regionArray).number(number).str() +
+    return regionEntities(writer, names, number) + writer.fill(regionArray).number(number).str() +
            writer.fill(insertRegion).number(number).number(number).str() +
            writer.fill(takeRegion).number(number).text(variable).str();
 }

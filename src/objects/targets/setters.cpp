@@ -3,9 +3,9 @@
 #include "objects/targets/setters.h"
 
 #include "host/db/OdDbClasses.h"
-#include "statements/bstrTexts.h"
 #include "statements/counters.h"
 #include "statements/enumerations.h"
+#include "statements/quoting.h"
 #include "statements/wording.h"
 
 using namespace inkmacro;
@@ -32,7 +32,7 @@ static const Phrase setValue{"EmitSetProperty",
                              }};
 
 Statement EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const CFxString& value,
-                        bool quoted)
+                          bool quoted)
 {
     return writer.fill(quoted ? setText : setValue).text(target).text(property).text(value);
 }
@@ -58,7 +58,7 @@ static const Phrase setIndexedDouble{"EmitSetIndexedDouble",
                                      }};
 
 Statement EmitSetIndexedDouble(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t index,
-                             double value)
+                               double value)
 {
     // Only C++ has a local, and only a local uses up a number.
     const std::uint32_t suffix = writer.target == Target::Cpp ? ++writer.UniqueCounter : 0;
@@ -77,31 +77,31 @@ static const Phrase setEnumeratorProperty{"EmitSetEnumProperty",
                                           }};
 
 static Statement setEnumerator(Writer& writer, const CFxString& target, const CFxString& property,
-                             const QString& enumerator)
+                               const QString& enumerator)
 {
     return writer.fill(setEnumeratorProperty).text(target).text(property).text(enumerator);
 }
 
 Statement EmitSetEnumProperty(Writer& writer, const CFxString& target, const TextEnumeration& enumeration,
-                            const CFxString& property, const CFxString& shownText)
+                              const CFxString& property, const CFxString& shownText)
 {
     return setEnumerator(writer, target, property, EnumeratorByText(writer.target, enumeration, shownText));
 }
 
 Statement EmitSetEnumValue(Writer& writer, const CFxString& target, const ValueEnumeration& enumeration,
-                         const CFxString& property, std::int32_t value)
+                           const CFxString& property, std::int32_t value)
 {
     return setEnumerator(writer, target, property, EnumeratorByValue(writer.target, enumeration, value));
 }
 
 Statement EmitSetEnumSuffix(Writer& writer, const CFxString& target, const ValueEnumeration& enumeration,
-                          const CFxString& property, const char* suffix)
+                            const CFxString& property, const char* suffix)
 {
     return setEnumerator(writer, target, property, EnumeratorBySuffix(writer.target, enumeration, suffix));
 }
 
 Statement EmitSetDecimalSeparator(Writer& writer, const CFxString& target, const CFxString& property,
-                                const CFxString& separator)
+                                  const CFxString& separator)
 {
     return setEnumerator(writer, target, property, DecimalSeparatorEnumerator(writer.target, separator));
 }

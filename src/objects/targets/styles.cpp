@@ -1,8 +1,9 @@
-// Styles of tables, dimensions, rich lines and lines.
+// New layers, and styles of tables, dimensions, rich lines and lines.
 
 #include "objects/targets/styles.h"
 
-#include "statements/bstrTexts.h"
+#include "statements/RecordingState.h"
+#include "statements/quoting.h"
 #include "targets/customActions.h"
 
 using namespace inkmacro;
@@ -42,7 +43,7 @@ static const Mend bstrDimensionStyleName(createDimensionStyle, Target::CppCom, l
 static const Mend bstrRichLineStyleName(createRichLineStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 static Statement create(Writer& writer, const Phrase& phrase, const CFxString& styleName, const CFxString& name,
-                      bool hasResult = true)
+                        bool hasResult = true)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     Fill statement = writer.fill(phrase);
@@ -152,7 +153,41 @@ static const Phrase replaceElement{
     }};
 
 Statement EmitReplaceRichLineElement(Writer& writer, const CFxString& style, int index, double offset, int color,
-                                   const CFxString& lineStyle)
+                                     const CFxString& lineStyle)
 {
     return writer.fill(replaceElement).text(style).number(index).real(offset).number(color).text(lineStyle);
+}
+
+/// A page gets a result that has the layer.
+static const Phrase createLayer{
+    "EmitCreateLayer",
+    {
+        .cpp = "%1iwLayerManager_ptr iwLayerManager%5;%2%1iwDoc->GetLayerManager( &iwLayerManager%5 );%2"
+               "%1iwCreateObjectResult_e iwCreateObjectResult%5;%2"
+               "%1iwLayerManager%5->CreateLayer( L\"%3\", &%4, &iwCreateObjectResult%5 );%2",
+        .cppCom = "%1ILayerManagerPtr iwLayerManager%5 = iwDoc->GetLayerManager();%2"
+                  "%1iwCreateObjectResult_e iwCreateObjectResult%5;%2"
+                  "%1iwLayerManager%5->CreateLayer( L\"%3\", &%4, &iwCreateObjectResult%5 );%2",
+        .csharp = "%1LayerManager iwLayerManager%5 = iwDoc.GetLayerManager();%2"
+                  "%1iwCreateObjectResult_e iwCreateObjectResult%5;%2"
+                  "%1iwLayerManager%5.CreateLayer( \"%3\", out %4, out iwCreateObjectResult%5 );%2",
+        .javascript = "%1var iwLayerManager%5 = mDoc.GetLayerManager();%2"
+                      "%1var %4 = iwLayerManager%5.CreateLayer(\"%3\");%2",
+        .vbNet = "%1Dim iwLayerManager%5 As Inkwright.LayerManager = iwDoc.GetLayerManager()%2"
+                 "%1Dim iwCreateObjectResult%5 As Inkwright.iwCreateObjectResult_e%2"
+                 "%1iwLayerManager%5.CreateLayer( \"%3\", %4, iwCreateObjectResult%5 )%2",
+        .vba = "%1Dim iwLayerManager%5 As Inkwright.LayerManager%2%1Set iwLayerManager%5 = iwDoc.GetLayerManager()%2"
+               "%1Dim iwCreateObjectResult%5 As Inkwright.iwCreateObjectResult_e%2"
+               "%1iwLayerManager%5.CreateLayer \"%3\", %4, iwCreateObjectResult%5%2",
+    }};
+
+Statement EmitCreateLayer(Writer& writer, const CFxString& layer, const CFxString& name)
+{
+    return writer.fill(createLayer).text(layer).text(name).number(++writer.UniqueCounter);
+}
+
+CFxString LayerOf(const CFxString& variable)
+{
+    constexpr std::int16_t javaScript = 2;
+    return RecordingLanguage() == javaScript ? CFxString(variable.toQString() + ".Layer") : variable;
 }

@@ -15,4 +15,8 @@ Statement EmitRenameRichLineStyle(Writer& writer, const CFxString& style, const 
 Statement EmitActivateLayer(Writer& writer, const CFxString& variable);
 /// Puts another line in the place of one of a rich line style. `color` is an index.
 Statement EmitReplaceRichLineElement(Writer& writer, const CFxString& style, int index, double offset, int color,
-                                   const CFxString& lineStyle);
+                                     const CFxString& lineStyle);
+
+Statement EmitCreateLayer(Writer& writer, const CFxString& layer, const CFxString& name);
+/// What the statements of a layer work on: a page's variable of a new layer is a result that has the layer.
+CFxString LayerOf(const CFxString& variable);

@@ -15,105 +15,77 @@ static const Phrase setCellText{"EmitSetCellText",
                                 }};
 
 Statement EmitSetCellText(Writer& writer, const CFxString& table, std::int32_t row, std::int32_t column,
-                        const CFxString& text)
+                          const CFxString& text)
 {
     return writer.fill(setCellText).number(row).number(column).text(text).text(table);
 }
 
-static Statement callWithSize(Writer& writer, const Phrase& phrase, const CFxString& table, std::int32_t index,
-                            double size)
+// Rows and columns: the calls end with one word or the other. The local of C++ has no number, so that two of these in
+// one scope declare it twice. It has to stay so.
+
+static const Phrase insertLine{"EmitInsertRow",
+                               {
+                                   .cpp = "%1bool bRetVal;%2%1%3->Insert%4( %5, %6, &bRetVal );%2",
+                                   .cppCom = "%1%3->Insert%4( %5, %6 );%2",
+                                   .csharp = "%1%3.Insert%4( %5, %6 );%2",
+                                   .javascript = "%1%3.Insert%4( %5, %6 );%2",
+                                   .vbNet = "%1%3.Insert%4( %5, %6 )%2",
+                                   .vba = "%1%3.Insert%4 %5, %6%2",
+                               }};
+
+static const Phrase deleteLine{"EmitDeleteRow",
+                               {
+                                   .cpp = "%1bool bRetVal;%2%1%3->Delete%4( %5, &bRetVal );%2",
+                                   .cppCom = "%1%3->Delete%4( %5 );%2",
+                                   .csharp = "%1%3.Delete%4( %5 );%2",
+                                   .javascript = "%1%3.Delete%4( %5 );%2",
+                                   .vbNet = "%1%3.Delete%4( %5 )%2",
+                                   .vba = "%1%3.Delete%4 %5%2",
+                               }};
+
+static const Phrase setLineSize{"EmitSetRowHeightAt",
+                                {
+                                    .cpp = "%1%3->Set%4At( %5, %6 );%2",
+                                    .cppCom = "%1%3->Set%4At( %5, %6 );%2",
+                                    .csharp = "%1%3.Set%4At( %5, %6 );%2",
+                                    .javascript = "%1%3.Set%4At( %5, %6 );%2",
+                                    .vbNet = "%1%3.Set%4At( %5, %6 )%2",
+                                    .vba = "%1%3.Set%4At %5, %6%2",
+                                }};
+
+static Fill callOf(Writer& writer, const Phrase& phrase, const CFxString& table, const char* word, std::int32_t index)
 {
-    return writer.fill(phrase).number(index).real(size).text(table);
+    Fill call = writer.fill(phrase);
+    call.text(table).text(QLatin1String(word)).number(index);
+    return call;
 }
-
-// The local of C++ has no number, so that two of these in one scope declare it twice. It has to stay so.
-
-static const Phrase insertRow{"EmitInsertRow",
-                              {
-                                  .cpp = "%1bool bRetVal;%2%1%5->InsertRow( %3, %4, &bRetVal );%2",
-                                  .cppCom = "%1%5->InsertRow( %3, %4 );%2",
-                                  .csharp = "%1%5.InsertRow( %3, %4 );%2",
-                                  .javascript = "%1%5.InsertRow( %3, %4 );%2",
-                                  .vbNet = "%1%5.InsertRow( %3, %4 )%2",
-                                  .vba = "%1%5.InsertRow %3, %4%2",
-                              }};
 
 Statement EmitInsertRow(Writer& writer, const CFxString& table, std::int32_t row, double height)
 {
-    return callWithSize(writer, insertRow, table, row, height);
+    return callOf(writer, insertLine, table, "Row", row).real(height);
 }
-
-static const Phrase deleteRow{"EmitDeleteRow",
-                              {
-                                  .cpp = "%1bool bRetVal;%2%1%4->DeleteRow( %3, &bRetVal );%2",
-                                  .cppCom = "%1%4->DeleteRow( %3 );%2",
-                                  .csharp = "%1%4.DeleteRow( %3 );%2",
-                                  .javascript = "%1%4.DeleteRow( %3 );%2",
-                                  .vbNet = "%1%4.DeleteRow( %3 )%2",
-                                  .vba = "%1%4.DeleteRow %3%2",
-                              }};
 
 Statement EmitDeleteRow(Writer& writer, const CFxString& table, std::int32_t row)
 {
-    return writer.fill(deleteRow).number(row).text(table);
+    return callOf(writer, deleteLine, table, "Row", row);
 }
-
-static const Phrase setRowHeightAt{"EmitSetRowHeightAt",
-                                   {
-                                       .cpp = "%1%5->SetRowHeightAt( %3, %4 );%2",
-                                       .cppCom = "%1%5->SetRowHeightAt( %3, %4 );%2",
-                                       .csharp = "%1%5.SetRowHeightAt( %3, %4 );%2",
-                                       .javascript = "%1%5.SetRowHeightAt( %3, %4 );%2",
-                                       .vbNet = "%1%5.SetRowHeightAt( %3, %4 )%2",
-                                       .vba = "%1%5.SetRowHeightAt %3, %4%2",
-                                   }};
 
 Statement EmitSetRowHeightAt(Writer& writer, const CFxString& table, std::int32_t row, double height)
 {
-    return callWithSize(writer, setRowHeightAt, table, row, height);
+    return callOf(writer, setLineSize, table, "RowHeight", row).real(height);
 }
-
-static const Phrase insertColumn{"EmitInsertColumn",
-                                 {
-                                     .cpp = "%1bool bRetVal;%2%1%5->InsertColumn( %3, %4, &bRetVal );%2",
-                                     .cppCom = "%1%5->InsertColumn( %3, %4 );%2",
-                                     .csharp = "%1%5.InsertColumn( %3, %4 );%2",
-                                     .javascript = "%1%5.InsertColumn( %3, %4 );%2",
-                                     .vbNet = "%1%5.InsertColumn( %3, %4 )%2",
-                                     .vba = "%1%5.InsertColumn %3, %4%2",
-                                 }};
 
 Statement EmitInsertColumn(Writer& writer, const CFxString& table, std::int32_t column, double width)
 {
-    return callWithSize(writer, insertColumn, table, column, width);
+    return callOf(writer, insertLine, table, "Column", column).real(width);
 }
-
-static const Phrase deleteColumn{"EmitDeleteColumn",
-                                 {
-                                     .cpp = "%1bool bRetVal;%2%1%4->DeleteColumn( %3, &bRetVal );%2",
-                                     .cppCom = "%1%4->DeleteColumn( %3 );%2",
-                                     .csharp = "%1%4.DeleteColumn( %3 );%2",
-                                     .javascript = "%1%4.DeleteColumn( %3 );%2",
-                                     .vbNet = "%1%4.DeleteColumn( %3 )%2",
-                                     .vba = "%1%4.DeleteColumn %3%2",
-                                 }};
 
 Statement EmitDeleteColumn(Writer& writer, const CFxString& table, std::int32_t column)
 {
-    return writer.fill(deleteColumn).number(column).text(table);
+    return callOf(writer, deleteLine, table, "Column", column);
 }
-
-static const Phrase setColumnWidthAt{"EmitSetColumnWidthAt",
-                                     {
-                                         .cpp = "%1%5->SetColumnWidthAt( %3, %4 );%2",
-                                         .cppCom = "%1%5->SetColumnWidthAt( %3, %4 );%2",
-                                         .csharp = "%1%5.SetColumnWidthAt( %3, %4 );%2",
-                                         .javascript = "%1%5.SetColumnWidthAt( %3, %4 );%2",
-                                         .vbNet = "%1%5.SetColumnWidthAt( %3, %4 )%2",
-                                         .vba = "%1%5.SetColumnWidthAt %3, %4%2",
-                                     }};
 
 Statement EmitSetColumnWidthAt(Writer& writer, const CFxString& table, std::int32_t column, double width)
 {
-    return callWithSize(writer, setColumnWidthAt, table, column, width);
+    return callOf(writer, setLineSize, table, "ColumnWidth", column).real(width);
 }

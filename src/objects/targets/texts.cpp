@@ -4,8 +4,8 @@
 
 #include "objects/targets/setters.h"
 #include "statements/RecordingState.h"
-#include "statements/bstrTexts.h"
 #include "statements/enumerations.h"
+#include "statements/quoting.h"
 #include "statements/wording.h"
 
 using namespace inkmacro;
@@ -118,7 +118,7 @@ static const Phrase insertSimpleNote{
     }};
 
 Statement EmitInsertSimpleNote(Writer& writer, const OdGePoint3d& position, double height, double rotation,
-                             const CFxString& text, const CFxString& name)
+                               const CFxString& text, const CFxString& name)
 {
     return writer.fill(insertSimpleNote).point(position).real(height).real(rotation).text(text).text(name);
 }
@@ -159,7 +159,7 @@ static const Phrase insertNote{
     }};
 
 Statement EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
-                       const CFxString& text, const CFxString& name)
+                         const CFxString& text, const CFxString& name)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     return writer.fillIndented(noteTexts).number(number).str() +
@@ -168,7 +168,7 @@ Statement EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const O
 }
 
 Statement EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxString& property,
-                           const CFxString& shownText)
+                             const CFxString& shownText)
 {
     return EmitSetEnumProperty(writer, target, enums::noteJustification, property, shownText);
 }
@@ -193,9 +193,8 @@ Statement EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const 
                        QLatin1String("iwNoteLineSpacingStyle_") + QLatin1String(style == 0 ? "AtLeast" : "Exactly"));
     if (writer.target != Target::JavaScript)
         return EmitSetProperty(writer, target, property, enumerator, false);
-    if (writer.repairs)
-        return EmitSetProperty(writer, target, property, enumerator.section('.', -1), true);
-    return writer.faulty(EmitSetProperty(writer, target, property, enumerator, false), kTypedEnumerator);
+    return writer.mended(EmitSetProperty(writer, target, property, enumerator, false), kTypedEnumerator,
+                         EmitSetProperty(writer, target, property, enumerator.section('.', -1), true));
 }
 
 /// The locals have no number, so that a second change in one scope declares them again. It has to stay so.

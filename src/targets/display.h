@@ -1,6 +1,12 @@
 #pragma once
 
+#include "host/db/OdGe.h"
 #include "statements/Writer.h"
+
+// `range` is an enumerator, such as "iwZoomRange_Fit".
+
+Statement EmitZoom(Writer& writer, const CFxString& range);
+Statement EmitZoom(Writer& writer, const CFxString& range, const OdGePoint3d& lowerLeft, const OdGePoint3d& upperRight);
 
 /// The array of all tiles. `mode` and `applyTo` are enumerators, such as "iwViewTilesMode_4_Equal" and
 /// "iwViewTilesApplyTo_Display".

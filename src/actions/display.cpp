@@ -1,12 +1,12 @@
-// Custom actions that divide the display into tiles and show another part of the drawing.
+// Custom actions that change what is shown: the tiles of the display, the part of the drawing in sight, and the sheet.
 
-#include "targets/viewTiles.h"
+#include "targets/display.h"
 #include "actions/handedVariable.h"
 #include "actions/handlers.h"
 #include "statements/counters.h"
 #include "statements/losses.h"
 #include "statements/wording.h"
-#include "targets/zoom.h"
+#include "targets/sheets.h"
 
 #include <array>
 
@@ -47,13 +47,54 @@ std::int32_t ConvertActionZoom(Conversion& conversion, const CFxCustomAction& ac
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const CFxString& range = action.GetData(0).GetString();
-    if (!inkmacro::isWord(range)) {
-        conversion.faults.note(inkmacro::textAsCode);
-        if (conversion.writer.repairs)
-            return PassOver(action, "there is no range of that name");
-    }
+    if (!inkmacro::isWord(range) && conversion.Drops(inkmacro::textAsCode))
+        return PassOver(action, "there is no range of that name");
     text = range.equalNoCase("iwZoomRange_Window")
                ? EmitZoom(conversion.writer, range, action.GetData(1).GetPoint(), action.GetData(2).GetPoint())
                : EmitZoom(conversion.writer, range);
     return kFxSuccess;
 }
+
+namespace inkmacro {
+
+using enum CFxCustomActionData::_Type;
+
+static Statement activateSheet(Writer& writer, const CFxCustomAction& action)
+{
+    CFxString variable;
+    return EmitActivateSheet(writer, action.GetData(0).GetString(), variable);
+}
+
+const ActionForm sheetForms[8] = {
+    {DataSignature::exactly({kString}).withWord("Model"),
+     [](Writer& writer, const CFxCustomAction&) { return EmitActivateModel(writer); }},
+    {DataSignature::exactly({kString}), activateSheet},
+    {DataSignature::exactly({kString, kString}).withWord("New"),
+     [](Writer& writer, const CFxCustomAction& action) {
+         return EmitCreateSheet(writer, action.GetData(1).GetString());
+     }},
+    {DataSignature::exactly({kString, kString}).withWord("Delete"),
+     [](Writer& writer, const CFxCustomAction& action) {
+         return EmitRemoveSheet(writer, action.GetData(1).GetString());
+     }},
+    // Of a copy without a name of its own only the source is known.
+    {DataSignature::exactly({kString, kString}).withWord("Copy"),
+     [](Writer& writer, const CFxCustomAction& action) {
+         return EmitCopySheet(writer, action.GetData(1).GetString(), action.GetData(1).GetString());
+     }},
+    {DataSignature::exactly({kString, kString}),
+     [](Writer& writer, const CFxCustomAction& action) {
+         return EmitRenameSheet(writer, action.GetData(0).GetString(), action.GetData(1).GetString());
+     }},
+    {DataSignature::exactly({kString, kString, kString}).withWord("Copy"),
+     [](Writer& writer, const CFxCustomAction& action) {
+         return EmitCopySheet(writer, action.GetData(1).GetString(), action.GetData(2).GetString());
+     }},
+    {DataSignature::exactly({kString, kString, kString, kString}).withWord("Layout from template"),
+     [](Writer& writer, const CFxCustomAction& action) {
+         return EmitCreateSheetFromTemplate(writer, action.GetData(1).GetString(), action.GetData(2).GetString(),
+                                            action.GetData(3).GetString());
+     }},
+};
+
+} // namespace inkmacro
