@@ -65,6 +65,7 @@ static Statement activateSheet(Writer& writer, const CFxCustomAction& action)
     return EmitActivateSheet(writer, action.GetData(0).GetString(), variable);
 }
 
+/// All data are texts.
 const ActionForm sheetForms[8] = {
     {DataSignature::exactly({kString}).withWord("Model"),
      [](Writer& writer, const CFxCustomAction&) { return EmitActivateModel(writer); }},

@@ -123,8 +123,8 @@ std::int32_t ConvertActionExplode(Conversion& conversion, const CFxCustomAction&
     return kFxSuccess;
 }
 
-/// Of an image that the macro does not know the statement that would fetch it is lost, and the new name stays; but not
-/// in a repaired macro.
+/// The command that attached the image hands its variable over. Of an image that the macro does not know the statement
+/// that would fetch it is lost, and the new name stays; but not in a repaired macro.
 std::int32_t ConvertActionClipBoundary(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     CFxString image = inkmacro::takeVariable(conversion.writer, text, inkmacro::HandedVariable::Replaced);

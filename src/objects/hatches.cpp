@@ -1,7 +1,10 @@
-// What added and changed hatches have in common.
+// Hatches: what becomes of added and of changed ones, and what both have in common.
 
 #include "objects/hatches.h"
 
+#include "objects/AddedObject.h"
+#include "objects/added/readers.h"
+#include "objects/losses.h"
 #include "objects/properties.h"
 #include "objects/targets/hatchPatterns.h"
 #include "objects/targets/points.h"
@@ -51,4 +54,64 @@ std::vector<BoundaryObject> BoundaryObjects(const Names& names, const OdArray<Od
         boundary.push_back({std::move(object), names.AddedVariable(id)});
     }
     return boundary;
+}
+
+/// A custom action of the same command inserts the hatch; here it gets what its call has no argument for.
+Statement ReadHatch(AddedObject& added)
+{
+    CFxString pattern;
+    const Statement fetch = EmitGetHatchPattern(added.writer, added.name, pattern);
+    const Statement settings =
+        ConvertHatchCommonProperties(added.writer, pattern, [&](const char* tag) { return added.take(tag); });
+    return settings.isEmpty() ? Statement() : fetch + settings;
+}
+
+namespace {
+
+std::optional<double> realOf(const CFxVariant& value)
+{
+    return value.IsNull() ? std::nullopt : std::optional(value.GetDouble());
+}
+
+std::optional<CFxString> textOf(const CFxVariant& value)
+{
+    return value.IsNull() ? std::nullopt : std::optional(wordOf(value));
+}
+
+std::optional<OdCmColor> colorOf(const CFxVariant& value)
+{
+    return value.IsNull() ? std::nullopt : std::optional(value.GetColor());
+}
+
+std::optional<bool> yesOf(const CFxVariant& value)
+{
+    return value.IsNull() ? std::nullopt : std::optional(wordOf(value) == ShownWord("Yes"));
+}
+
+} // namespace
+
+void ConvertModifiedHatch(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
+{
+    const TakeTag take = [&](const char* tag) { return FindProperty(conversion, tag, list); };
+    // The tags are read in this order.
+    const HatchPatternChange data{.name = textOf(take("Pattern name")),
+                                  .angle = realOf(take("Angle")),
+                                  .scale = realOf(take("Scale")),
+                                  .spacing = realOf(take("Spacing")),
+                                  .type = textOf(take("Type"))};
+    const HatchGradientChange gradient{.first = colorOf(take("Color 1")),
+                                       .second = colorOf(take("Color 2")),
+                                       .centered = yesOf(take("Centered")),
+                                       .angle = realOf(take("Gradient Angle"))};
+    CFxString pattern;
+    const Statement fetch = EmitGetHatchPattern(conversion.writer, object.name, pattern);
+    const Statement common = ConvertHatchCommonProperties(conversion.writer, pattern, take);
+    if (data.isEmpty() && gradient.isEmpty() && common.isEmpty())
+        return;
+    text += fetch;
+    if (!data.isEmpty())
+        text += EmitSetHatchData(conversion.writer, pattern, data);
+    if (!gradient.isEmpty())
+        text += EmitHatchGradientData(conversion.writer, pattern, gradient);
+    text += common;
 }

@@ -235,6 +235,8 @@ Statement EmitInsertViewport(Writer& writer, const CFxString& variable, const CF
         .number(arrayBound(writer, 3U * points.length()));
 }
 
+// Clip boundaries of images. In C++ each operation tells its success by a local.
+
 /// VBA has brackets here. It has to stay so.
 static const Phrase setClipBoundary{
     "EmitSetClipBoundary",

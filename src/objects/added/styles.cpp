@@ -1,4 +1,4 @@
-// Added styles of tables, dimensions, rich lines and lines.
+// Added layers and groups, and styles of tables, dimensions, rich lines and lines.
 
 #include "objects/targets/styles.h"
 #include "host/db/LineStyleFile.h"
@@ -6,7 +6,9 @@
 #include "host/kernel/CFxServices.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
+#include "objects/blockContents.h"
 #include "statements/wording.h"
+#include "targets/groups.h"
 
 #include <QDir>
 
@@ -107,4 +109,32 @@ Statement ReadLineStyle(AddedObject& added)
         GetFxSystemServices()->ReportProblem(
             QString("no file of line styles holds \"%1\", so the macro loads it without a file").arg(styleName));
     return EmitLoadLineStyle(added.writer, styleName, inkmacro::doubleBackslashes(path), added.name);
+}
+
+Statement ReadLayer(AddedObject& added)
+{
+    const CFxVariant name = added.take("Name");
+    CFxString layer = name.GetString();
+    if (name.IsNull())
+        if (const auto record = added.open<OdDbLayerTableRecord>())
+            layer = record->getName();
+    Statement text = EmitCreateLayer(added.writer, layer, added.name);
+    if (added.takeText("ActivateLayer") == ShownWord("Yes"))
+        text += EmitActivateLayer(added.writer, LayerOf(added.name));
+    return text;
+}
+
+Statement ReadGroup(AddedObject& added)
+{
+    NewGroup group;
+    group.name = added.takeText("Name");
+    group.description = added.takeText("Description");
+    const CFxVariant entities = added.take("AllEntities");
+    group.selectable = added.takeText("SelectableEntities").equalNoCase(ShownWord("YES"));
+    for (const OdDbObjectId& id : ObjectsOf(entities, HandlesIn::Tags))
+        if (const QString variable = added.conversion.names().KnownVariable(id.getHandle()); !variable.isEmpty())
+            group.entities.push_back(variable);
+        else
+            LoseProperty(added.object, "AllEntities", "the macro does not have the object " + id.getHandle().ascii());
+    return EmitCreateGroup(added.writer, group, added.name);
 }

@@ -1,4 +1,5 @@
-// Changed dimensions. What a dimension overrides of its style is kept in option objects behind its general dimension.
+// Changed dimensions, leaders and tolerances. What they override of a dimension style is kept in option objects, those
+// of a dimension behind its general dimension.
 
 #include "objects/changeKinds.h"
 #include "objects/changed/changeLists.h"
@@ -149,3 +150,33 @@ const ChangeGroups modifiedJoggedDimension{
         {coordinate, "Jog location", "JogPoint"},
     },
 };
+
+/// Each tag fetches its option object anew, into variables of its own.
+const ChangeGroups modifiedLeader{
+    ChangeGroup{{
+        {vertex, "Vertex"},
+        {quoted, "DimStyle", "DimensionStyle"},
+        {enumValue(inkmacro::enums::leaderType), "Type", "Type"},
+    }},
+    ChangeGroup{{leaderOptions::arrows, {{arrow, "Arrow", "SetLeaderArrow"}}}},
+    ChangeGroup{{leaderOptions::arrows, {{unquoted, "Arrow size", "Size"}}}},
+    ChangeGroup{{leaderOptions::lines, {{color, "DimLine LColor", "DimensionLineColor"}}}},
+    ChangeGroup{{leaderOptions::lines, {{lineWeight, "DimLine LWeight", "DimensionLineLineWeight"}}}},
+    ChangeGroup{{leaderOptions::text, {{unquoted, "Text offset", "OffsetFromDimensionLines"}}}},
+    ChangeGroup{{leaderOptions::fit, {{scaleFactor, "DimScale overall", "SetDimensionScale"}}}},
+};
+
+const ChangeGroups modifiedTolerance{ChangeGroup{
+    {
+        {point, "Position", "Position"},
+        {real, "Dim scale overall", "DimensionScaleFactor"},
+        {chosenQuoted, "Dim style", "DimensionStyle"},
+    },
+    {leaderOptions::lines, {{color, "DimLine LColor", "DimensionLineColor"}}},
+    {
+        {quoted, "TextStyle", "TextStyle"},
+        {real, "Text height", "TextHeight"},
+        {color, "TextColor", "TextColor"},
+        {escaped, "Content", "Text"},
+    },
+}};

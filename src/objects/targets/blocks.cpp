@@ -1,4 +1,5 @@
-// Block references, their attributes, and what they are made of.
+// The insertion of what is drawn elsewhere: blocks, other drawings, pictures and shapes; attributes of block
+// references.
 
 #include "objects/targets/blocks.h"
 
