@@ -1,10 +1,23 @@
 // The program as a person meets it: what it prints, what it leaves on disk, how it ends.
 
 #include "Program.h"
+#include "Terminal.h"
 
 #include <QDir>
+#include <QDirIterator>
+
+#include <chrono>
+#include <csignal>
+#include <thread>
+
+#include <sys/stat.h>
 
 namespace {
+
+using namespace std::chrono_literals;
+
+/// Work that takes no longer shows nothing of itself.
+constexpr auto quietTime = 1200ms;
 
 /// No handler has a kind like this.
 const QByteArray refused = "{\"custom\":{\"kind\":56,\"data\":[]}}\n";
@@ -353,6 +366,69 @@ TEST_F(Program, ConvertsNothingWithFaultyNamesOfOptions)
     EXPECT_EQ(run({"convert", "walls.jsonl", "--target", "csharp", "--option-names", "nowhere"}).status, 3);
     EXPECT_EQ(run({"convert", "walls.jsonl", "--target", "csharp", "--option-names", "."}).status, 3);
     EXPECT_FALSE(exists("out") || exists("csharp"));
+}
+
+TEST_F(Program, ShowsAtATerminalHowFarItHasRead)
+{
+    Terminal terminal;
+    write("walls.jsonl", line);
+    const auto began = std::chrono::steady_clock::now();
+    EXPECT_EQ(run({"check", "walls.jsonl"}, {}, terminal.asErrors()).status, 0);
+    EXPECT_TRUE(terminal.text().isEmpty() || std::chrono::steady_clock::now() - began > 1s) << "it was soon done";
+    EXPECT_EQ(terminal.lastingText(), "");
+
+    const auto readSlowly = [&](const QString& before) {
+        QProcess process;
+        start(process, {"check", "-"}, before);
+        process.write(line);
+        process.waitForBytesWritten();
+        std::this_thread::sleep_for(quietTime);
+        process.write(line);
+        return finish(process);
+    };
+    EXPECT_EQ(readSlowly({}).err, "") << "no terminal";
+    EXPECT_EQ(readSlowly(terminal.asErrors()).out, "-: ok, 2 actions\n");
+    EXPECT_TRUE(terminal.text().startsWith("\rreading 0.0 MB\r")) << terminal.text().toStdString();
+    EXPECT_EQ(terminal.lastingText(), "");
+}
+
+TEST_F(Program, ShowsAtATerminalHowMuchItHasWritten)
+{
+    Terminal terminal;
+    write("many.jsonl", line.repeated(100'000));
+    QProcess process;
+    start(process, {"convert", "many.jsonl", "--target", "csharp", "--output", "out/"}, terminal.asErrors());
+    const auto writes = [this] {
+        QDirIterator walk(path("out"), {"many.cs"}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        return walk.hasNext() && QFileInfo(walk.next()).size() > 0;
+    };
+    while (!writes())
+        std::this_thread::sleep_for(1ms);
+    // In the midst of the conversion, which would be done within a second.
+    kill(static_cast<pid_t>(process.processId()), SIGSTOP);
+    std::this_thread::sleep_for(quietTime);
+    kill(static_cast<pid_t>(process.processId()), SIGCONT);
+    terminal.await("\rwriting ");
+    EXPECT_EQ(finish(process).status, 0);
+    EXPECT_EQ(terminal.lastingText(), "");
+}
+
+TEST_F(Program, ShowsAtATerminalHowManyAreConverted)
+{
+    Terminal terminal;
+    write("walls.jsonl", line);
+    ASSERT_EQ(mkfifo(qPrintable(path("slow.jsonl")), 0600), 0);
+    const int slow = open(qPrintable(path("slow.jsonl")), O_RDWR | O_CLOEXEC);
+    QProcess process;
+    start(process, {"convert", "walls.jsonl", "slow.jsonl", "--target", "csharp", "--output", "out/"},
+          terminal.asErrors());
+    terminal.await("\r[##########----------]  50%  1 of 2 done");
+    EXPECT_EQ(::write(slow, line.constData(), static_cast<std::size_t>(line.size())), line.size());
+    close(slow);
+    const Outcome outcome = finish(process);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.out.count('\n'), 6);
+    EXPECT_EQ(terminal.lastingText(), "");
 }
 
 } // namespace

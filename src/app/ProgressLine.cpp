@@ -1,10 +1,8 @@
 #include "app/ProgressLine.h"
 
 #include "app/console.h"
-#include "threads/background.h"
 
 #include <algorithm>
-#include <chrono>
 
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -13,10 +11,10 @@ namespace inkmacro {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-const Clock::time_point workBegan = Clock::now();
+constexpr milliseconds kQuietTime(1000); ///< work that takes no longer shows nothing
+constexpr milliseconds kBeat(200);
 
 /// One less than the terminal has: a full last column would begin a new line.
 int usableColumns()
@@ -28,36 +26,41 @@ int usableColumns()
 
 } // namespace
 
+const ProgressLine::Clock::time_point ProgressLine::workBegan_ = Clock::now();
+
 ProgressLine::ProgressLine(std::function<QString()> describe) : describe_(std::move(describe))
 {
-    if (!isatty(STDERR_FILENO))
-        return;
-    thread_ = startInBackground([this] { run(); });
+    if (isatty(STDERR_FILENO))
+        next_ = std::max(Clock::now() + kBeat, workBegan_ + kQuietTime);
 }
 
 ProgressLine::~ProgressLine()
 {
-    endInBackground(thread_, mutex_, ending_, ended_);
+    erase();
+}
+
+void ProgressLine::update()
+{
+    if (next_ == Clock::time_point::max())
+        return;
+    if (const auto now = Clock::now(); now >= next_) {
+        draw();
+        next_ = now + kBeat;
+    }
+}
+
+int ProgressLine::pollTimeout() const
+{
+    if (next_ == Clock::time_point::max())
+        return -1;
+    const auto left = std::chrono::ceil<milliseconds>(next_ - Clock::now());
+    return static_cast<int>(std::max(left, milliseconds(0)).count());
 }
 
 void ProgressLine::aside(const std::function<void()>& write)
 {
-    const std::lock_guard lock(mutex_);
     erase();
     write();
-}
-
-void ProgressLine::run()
-{
-    std::unique_lock lock(mutex_);
-    const milliseconds beat(200);
-    const auto worked = std::chrono::duration_cast<milliseconds>(Clock::now() - workBegan);
-    milliseconds pause = std::max(beat, milliseconds(1000) - worked);
-    while (!ending_.wait_for(lock, pause, [this] { return ended_; })) {
-        draw();
-        pause = beat;
-    }
-    erase();
 }
 
 void ProgressLine::draw()

@@ -17,6 +17,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 namespace inkmacro {
 
@@ -55,7 +56,10 @@ std::int32_t runModule(const Job& job, const QString& macro, const Recording& re
         folders.insert(folders.begin(), QDir(*host.lineStyles).absolutePath());
         recording.database->setLineStyleFolders(std::move(folders));
     }
-    const ProgressLine line([&] { return "writing " + megabytes(QFileInfo(macro).size()); });
+    ProgressLine line([&] { return "writing " + megabytes(QFileInfo(macro).size()); });
+    CFxConversionNotes& notes = GetFxSystemServices()->Notes();
+    notes.OnAction([&line] { line.update(); });
+    const auto silence = qScopeGuard([&notes] { notes.OnAction({}); });
     const int mode = host.replay ? kReplay : recording.header.mode;
     return module->ConvertRecording(macro, code, static_cast<std::uint32_t>(mode),
                                     static_cast<CFxValueContext>(recording.header.context), recording.actions);

@@ -142,7 +142,7 @@ private:
     std::pair<QString, QByteArray> lastComplaint_; ///< the recording that could not be read, and why
     std::vector<std::size_t> running_;             ///< numbers of jobs
     int status_ = kDone;
-    std::atomic<int> doneCount_ = 0;
+    int doneCount_ = 0;
     ProgressLine progress_;
 };
 
@@ -178,7 +178,7 @@ bool JobRunner::keepStandardInput()
     if (!standardInput_.open())
         return false;
     std::vector<char> piece(1 << 20);
-    for (;;) {
+    for (;; progress_.update()) {
         const ssize_t got = read(STDIN_FILENO, piece.data(), piece.size());
         if (got == 0)
             return standardInput_.flush();
@@ -304,7 +304,9 @@ void JobRunner::waitForSome()
                 streams.push_back(stream);
                 polled.push_back({stream->pipe.descriptor(), POLLIN, 0});
             }
-    if (poll(polled.data(), polled.size(), -1) > 0)
+    const int changed = poll(polled.data(), polled.size(), progress_.pollTimeout());
+    progress_.update();
+    if (changed > 0)
         for (std::size_t i = 0; i < polled.size(); ++i)
             if (polled[i].revents != 0)
                 streams[i]->take();

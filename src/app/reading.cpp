@@ -7,20 +7,19 @@
 #include "app/console.h"
 #include "recordfile/RecordingReader.h"
 
-#include <atomic>
-
 namespace inkmacro {
 
 bool readOrComplain(const QString& path, Recording& recording)
 {
     std::optional<RecordingError> error;
     {
-        std::atomic<qint64> done = 0;
-        std::atomic<qint64> total = 0; // not above 0 when it is not known
-        const ProgressLine line([&] { return "reading " + (total > 0 ? progressBar(done, total) : megabytes(done)); });
+        qint64 done = 0;
+        qint64 total = 0; // not above 0 when it is not known
+        ProgressLine line([&] { return "reading " + (total > 0 ? progressBar(done, total) : megabytes(done)); });
         error = ReadRecording(path, recording, [&](qint64 doneNow, qint64 totalNow) {
             done = doneNow;
             total = totalNow;
+            line.update();
         });
     }
     if (error)

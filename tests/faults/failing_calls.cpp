@@ -1,5 +1,5 @@
-// Loaded in front of the C library, this lets one call fail: the FAULT_NUMBER-th FAULT_CALL (open, write,
-// fdatasync, close or rename) of a file below FAULT_FOLDER. A failed call leaves a file at FAULT_MARK.
+// Loaded in front of the C library, this lets one call fail: the FAULT_NUMBER-th FAULT_CALL (open, write, fdatasync,
+// close or rename) of a file below FAULT_FOLDER, or each pthread_create. A failed call leaves a file at FAULT_MARK.
 
 #include <array>
 #include <atomic>
@@ -11,6 +11,7 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <pthread.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -48,15 +49,25 @@ bool isWatched(int descriptor)
     return descriptor >= 0 && descriptor < mostDescriptors && watched[static_cast<std::size_t>(descriptor)];
 }
 
+bool isCall(const char* call)
+{
+    return std::strcmp(setting("FAULT_CALL"), call) == 0;
+}
+
+/// Straight to the kernel: the mark's own calls are not counted.
+void leaveMark()
+{
+    const long mark = syscall(SYS_openat, AT_FDCWD, setting("FAULT_MARK"), O_WRONLY | O_CREAT, 0600);
+    syscall(SYS_close, mark);
+}
+
 /// Counts the call. True when it is the one that has to fail.
 bool fails(const char* call, int error)
 {
     static std::atomic<int> count = 0;
-    if (std::strcmp(setting("FAULT_CALL"), call) != 0 || ++count != std::atoi(setting("FAULT_NUMBER")))
+    if (!isCall(call) || ++count != std::atoi(setting("FAULT_NUMBER")))
         return false;
-    // Straight to the kernel: the mark's own calls are not counted.
-    const long mark = syscall(SYS_openat, AT_FDCWD, setting("FAULT_MARK"), O_WRONLY | O_CREAT, 0600);
-    syscall(SYS_close, mark);
+    leaveMark();
     errno = error;
     return true;
 }
@@ -150,4 +161,14 @@ EXPORTED int renameat2(int fromFolder, const char* from, int toFolder, const cha
     if (isWatched(to) && fails("rename", EIO))
         return -1;
     return next<int(int, const char*, int, const char*, unsigned)>("renameat2")(fromFolder, from, toFolder, to, flags);
+}
+
+EXPORTED int pthread_create(pthread_t* thread, const pthread_attr_t* attributes, void* (*run)(void*),
+                            void* argument) noexcept
+{
+    if (!isCall("pthread_create"))
+        return next<int(pthread_t*, const pthread_attr_t*, void* (*)(void*), void*)>("pthread_create")(
+            thread, attributes, run, argument);
+    leaveMark();
+    return EAGAIN;
 }

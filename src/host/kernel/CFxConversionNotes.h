@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -48,6 +49,8 @@ public:
         {
             notes_.ForgetKnown();
             notes_.place_.push_back(number);
+            if (notes_.onAction_)
+                notes_.onAction_();
         }
         ~Action()
         {
@@ -60,6 +63,10 @@ public:
     private:
         CFxConversionNotes& notes_;
     };
+
+    /// What the host does before each action, those within commands included, to show its user that a long conversion
+    /// goes on; nothing when it is empty.
+    void OnAction(std::function<void()> call) { onAction_ = std::move(call); }
 
     /// A host that is about to ask for no more than the numbers of losses and faults spares what tells of them.
     void KeepAll(bool keeps) { keepsAll_ = keeps; }
@@ -113,6 +120,7 @@ private:
         manyKnown_.clear();
     }
 
+    std::function<void()> onAction_;
     CFxActionPlace place_;
     std::vector<Lost> known_; ///< of the action, as long as they are few: most actions lose little
     QSet<Lost> manyKnown_;    ///< else all of them
