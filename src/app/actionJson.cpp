@@ -3,11 +3,8 @@
 #include "app/actionJson.h"
 
 #include "recordfile/Pieces.h"
-#include "statements/actionKinds.h"
 
 #include <QJsonArray>
-
-#include <array>
 
 namespace inkmacro {
 
@@ -22,15 +19,6 @@ QJsonObject objectBody(const Object& object)
             {"properties", static_cast<int>(object.GetProperties().size())}};
 }
 
-QJsonObject commandBody(const CFxUserCommand& command, CFxValueContext context, ActionCounts& counts)
-{
-    QJsonArray actions;
-    for (const OdRxObjectPtr& child : command.GetActions())
-        actions.append(actionToJson(child, context, counts));
-    const OdResBufPtr line = command.GetCommand();
-    return {{"name", line ? line->getString() : QString()}, {"actions", actions}};
-}
-
 QJsonObject addedBody(const CFxObjectAdded& added)
 {
     QJsonObject body = objectBody(added);
@@ -38,40 +26,54 @@ QJsonObject addedBody(const CFxObjectAdded& added)
     return body;
 }
 
-QJsonObject customBody(const CFxCustomAction& custom)
+} // namespace
+
+ActionJson::ActionJson(CFxValueContext context, const std::vector<CFxActionKindName>& names) : context_(context)
 {
-    QJsonArray types;
-    for (std::int32_t i = 0; i < custom.GetDataCount(); ++i)
-        types.append(DataType(custom.GetData(i)));
-    QJsonObject body{{"kind", custom.GetKind()}, {"data", types}};
-    const auto kind = static_cast<std::size_t>(custom.GetKind());
-    if (kind < actionKindNames.size() && actionKindNames[kind])
-        body["name"] = actionKindNames[kind];
-    return body;
+    for (const CFxActionKindName& kind : names)
+        names_.emplace(kind.number, kind.name);
 }
 
-QJsonValue bodyOf(const OdRxObjectPtr& action, CFxValueContext context, ActionCounts& counts)
+QJsonObject ActionJson::of(const OdRxObjectPtr& action)
+{
+    const QString kind = ActionKind(action);
+    const QJsonValue body = bodyOf(action);
+    ++counts_[kind];
+    return {{kind, body}};
+}
+
+QJsonValue ActionJson::bodyOf(const OdRxObjectPtr& action)
 {
     // What would fill the screen is told in numbers and types.
     if (const auto command = odrxQuery<CFxUserCommand>(action.get()))
-        return commandBody(*command, context, counts);
+        return commandBody(*command);
     if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
         return addedBody(*added);
     if (const auto modified = odrxQuery<CFxObjectModified>(action.get()))
         return objectBody(*modified);
     if (const auto custom = odrxQuery<CFxCustomAction>(action.get()))
         return customBody(*custom);
-    return ActionToJson(action, context);
+    return ActionToJson(action, context_);
 }
 
-} // namespace
-
-QJsonObject actionToJson(const OdRxObjectPtr& action, CFxValueContext context, ActionCounts& counts)
+QJsonObject ActionJson::commandBody(const CFxUserCommand& command)
 {
-    const QString kind = ActionKind(action);
-    const QJsonValue body = bodyOf(action, context, counts);
-    ++counts[kind];
-    return {{kind, body}};
+    QJsonArray actions;
+    for (const OdRxObjectPtr& child : command.GetActions())
+        actions.append(of(child));
+    const OdResBufPtr line = command.GetCommand();
+    return {{"name", line ? line->getString() : QString()}, {"actions", actions}};
+}
+
+QJsonObject ActionJson::customBody(const CFxCustomAction& custom) const
+{
+    QJsonArray types;
+    for (std::int32_t i = 0; i < custom.GetDataCount(); ++i)
+        types.append(DataType(custom.GetData(i)));
+    QJsonObject body{{"kind", custom.GetKind()}, {"data", types}};
+    if (const auto name = names_.find(custom.GetKind()); name != names_.end())
+        body["name"] = name->second;
+    return body;
 }
 
 } // namespace inkmacro

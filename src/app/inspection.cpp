@@ -3,6 +3,7 @@
 #include "app/inspection.h"
 
 #include "app/ExitStatus.h"
+#include "app/LoadedModule.h"
 #include "app/actionJson.h"
 #include "app/console.h"
 #include "app/reading.h"
@@ -126,25 +127,21 @@ QString countsText(const ActionCounts& counts)
 }
 
 /// One top-level action at a time: a recording may be large.
-void printAsTree(const QString& path, const Recording& recording)
+void printAsTree(const QString& path, const Recording& recording, ActionJson& json)
 {
-    const auto context = static_cast<CFxValueContext>(recording.header.context);
-    ActionCounts counts;
     printOut(QString("%1: %2\n").arg(path, counted(recording.actions.length(), "action", "actions")));
     for (const OdRxObjectPtr& action : recording.actions)
-        printTree(actionToJson(action, context, counts), 0);
-    printOut("counts: " + countsText(counts) + '\n');
+        printTree(json.of(action), 0);
+    printOut("counts: " + countsText(json.counts()) + '\n');
 }
 
-void printAsJson(const QString& path, const Recording& recording)
+void printAsJson(const QString& path, const Recording& recording, ActionJson& json)
 {
-    const auto context = static_cast<CFxValueContext>(recording.header.context);
-    ActionCounts counts;
     QJsonArray actions;
     for (const OdRxObjectPtr& action : recording.actions)
-        actions.append(actionToJson(action, context, counts));
+        actions.append(json.of(action));
     QJsonObject numbers;
-    for (const auto& [kind, count] : counts)
+    for (const auto& [kind, count] : json.counts())
         numbers[kind] = count;
     printOut(QJsonDocument({{"file", path}, {"actions", actions}, {"counts", numbers}}).toJson());
 }
@@ -156,10 +153,11 @@ int inspectRecording(const QString& path, bool json)
     Recording recording;
     if (!readOrComplain(path, recording))
         return kUnreadable;
+    ActionJson actions(static_cast<CFxValueContext>(recording.header.context), LoadedModule()->ListActionKinds());
     if (json)
-        printAsJson(path, recording);
+        printAsJson(path, recording, actions);
     else
-        printAsTree(path, recording);
+        printAsTree(path, recording, actions);
     return kDone;
 }
 

@@ -1,12 +1,13 @@
 #include "app/optionNames.h"
 
-#include "actions/optionTable.h"
+#include "app/LoadedModule.h"
 #include "app/console.h"
 #include "host/kernel/CFxServices.h"
 #include "recordfile/Recording.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -28,13 +29,16 @@ QString pathOf(const QString& key)
     return QJsonDocument(QJsonArray{key}).toJson(QJsonDocument::Compact);
 }
 
-/// What the enumerators of the variable may begin with; empty for a variable without an option.
-QStringList stemsOf(const QString& variable)
+/// What the enumerators may begin with of each variable that has an option.
+using Stems = QHash<QString, QStringList>;
+
+Stems knownStems()
 {
-    QStringList stems;
-    for (const OptionOwner owner : {OptionOwner::Document, OptionOwner::Application})
-        if (const OptionRow* const row = FindOption(owner, variable))
-            stems.append(EnumeratorStem(owner, row->kind));
+    Stems stems;
+    for (const CFxKnownOption& option : LoadedModule()->ListOptions()) {
+        const QString& enumerator = option.enumerator;
+        stems[option.variable].append(enumerator.left(enumerator.indexOf('_') + 1));
+    }
     return stems;
 }
 
@@ -62,9 +66,8 @@ std::optional<QByteArray> readAll(const QString& path, RecordingError& error)
     return std::nullopt;
 }
 
-bool setOptionName(const QString& variable, const QJsonValue& value, RecordingError& error)
+bool setOptionName(const QString& variable, const QJsonValue& value, const QStringList& stems, RecordingError& error)
 {
-    const QStringList stems = stemsOf(variable);
     const QString name = value.toString();
     error.path = pathOf(variable);
     if (stems.isEmpty())
@@ -92,9 +95,10 @@ bool readOptionNames(const QString& path, RecordingError& error)
         error.message = "expected an object of system variables and enumerators";
         return false;
     }
+    const Stems stems = knownStems();
     const QJsonObject names = document.object();
     for (auto entry = names.begin(); entry != names.end(); ++entry)
-        if (!setOptionName(entry.key(), entry.value(), error))
+        if (!setOptionName(entry.key(), entry.value(), stems.value(entry.key()), error))
             return false;
     return true;
 }

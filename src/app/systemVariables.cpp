@@ -1,6 +1,6 @@
 #include "app/systemVariables.h"
 
-#include "actions/optionTable.h"
+#include "app/LoadedModule.h"
 
 #include <QStringList>
 
@@ -31,33 +31,34 @@ A name must begin as the enumerator in the table does, up to the underscore. *Re
 user cannot set: they change by themselves.
 )";
 
-QString rowOf(OptionOwner owner, const OptionRow& row)
+QString rowOf(const CFxKnownOption& option)
 {
     QStringList remarks;
-    if (!row.name)
+    if (option.made)
         remarks.append("made");
-    if (row.readOnly)
+    if (option.readOnly)
         remarks.append("read only");
     return QString("| `%1` | %2 | `%3` | %4 |\n")
-        .arg(row.variable, OptionTypeName(row.kind), OptionEnumerator(owner, row), remarks.join(", "));
+        .arg(option.variable, option.type, option.enumerator, remarks.join(", "));
 }
 
-QString sectionOf(OptionOwner owner, const char* title)
+QString sectionOf(const std::vector<CFxKnownOption>& options, bool ofDocument, const char* title)
 {
-    const std::span<const OptionRow> rows = OptionRows(owner);
-    QString section = QString("\n## %1\n\n%2 variables.\n\n").arg(title).arg(rows.size());
-    section += "| Variable | Type | Enumerator | Remark |\n|---|---|---|---|\n";
-    for (const OptionRow& row : rows)
-        section += rowOf(owner, row);
-    return section;
+    QStringList rows;
+    for (const CFxKnownOption& option : options)
+        if (option.ofDocument == ofDocument)
+            rows.append(rowOf(option));
+    return QString("\n## %1\n\n%2 variables.\n\n").arg(title).arg(rows.size()) +
+           "| Variable | Type | Enumerator | Remark |\n|---|---|---|---|\n" + rows.join(QString());
 }
 
 } // namespace
 
 QString systemVariablesPage()
 {
-    return introduction + sectionOf(OptionOwner::Document, "Options of the document") +
-           sectionOf(OptionOwner::Application, "Options of the application");
+    const std::vector<CFxKnownOption> options = LoadedModule()->ListOptions();
+    return introduction + sectionOf(options, true, "Options of the document") +
+           sectionOf(options, false, "Options of the application");
 }
 
 } // namespace inkmacro

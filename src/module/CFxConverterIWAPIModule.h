@@ -15,10 +15,28 @@ struct CFxKnownFault
     bool mended = false;                  ///< whether a repaired macro is without it
 };
 
+/// What a custom action describes, by the number that the host gives it.
+struct CFxActionKindName
+{
+    std::int32_t number = 0;
+    CFxString name; ///< for people
+};
+
+/// A system variable that the host's automation interface has an option for.
+struct CFxKnownOption
+{
+    CFxString variable;
+    bool ofDocument = false; ///< else of the application
+    CFxString type;          ///< the word for it in names of enumerations, such as "Int16"
+    CFxString enumerator;    ///< what the option is called as long as the host knows no other name
+    bool made = false;       ///< whether the enumerator is made of a verb and the variable's name
+    bool readOnly = false;   ///< whether the host alone changes the variable
+};
+
 /// One pair of tag and value that a snapshot adds.
 using CFxSnapshotRecord = CFxVariantCollectionElement;
 
-/// The macro writer as the host sees it: the object that `odrxCreateModuleObject` gives. Both operations run on the
+/// The macro writer as the host sees it: the object that `odrxCreateModuleObject` gives. All operations run on the
 /// caller's thread and must not overlap.
 class CFxConverterIWAPIModule : public OdRxModule
 {
@@ -37,4 +55,10 @@ public:
 
     /// All of them, by their operations.
     virtual std::vector<CFxKnownFault> ListFaults() const = 0;
+
+    /// By their numbers; kinds that are alike have the same name.
+    virtual std::vector<CFxActionKindName> ListActionKinds() const = 0;
+
+    /// Those of the document first. A variable may have an option of each.
+    virtual std::vector<CFxKnownOption> ListOptions() const = 0;
 };

@@ -1,10 +1,12 @@
 // The module object and the library's exports.
 
+#include "actions/optionTable.h"
 #include "commands/CFxCommandHyperlink.h"
 #include "commands/CFxCommandLinetype.h"
 #include "module/CFxConverterIWAPI.h"
 #include "objects/snapshot.h"
 #include "statements/Fault.h"
+#include "statements/actionKinds.h"
 
 #include <algorithm>
 #include <array>
@@ -26,6 +28,26 @@ std::vector<CFxKnownFault> knownFaults()
                std::tie(other.operation, other.languages, other.reason);
     });
     return known;
+}
+
+std::vector<CFxActionKindName> actionKindList()
+{
+    std::vector<CFxActionKindName> list;
+    for (const inkmacro::KindName& kind : inkmacro::actionKinds)
+        for (std::int32_t number = kind.numbers.first; number <= kind.numbers.last; ++number)
+            list.push_back({number, kind.name});
+    return list;
+}
+
+std::vector<CFxKnownOption> optionList()
+{
+    using inkmacro::OptionOwner;
+    std::vector<CFxKnownOption> list;
+    for (const OptionOwner owner : {OptionOwner::Document, OptionOwner::Application})
+        for (const inkmacro::OptionRow& row : inkmacro::OptionRows(owner))
+            list.push_back({row.variable, owner == OptionOwner::Document, inkmacro::OptionTypeName(row.kind),
+                            inkmacro::OptionEnumerator(owner, row), row.name == nullptr, row.readOnly});
+    return list;
 }
 
 class MacroWriterModule final : public CFxConverterIWAPIModule
@@ -62,6 +84,8 @@ public:
     }
 
     std::vector<CFxKnownFault> ListFaults() const override { return knownFaults(); }
+    std::vector<CFxActionKindName> ListActionKinds() const override { return actionKindList(); }
+    std::vector<CFxKnownOption> ListOptions() const override { return optionList(); }
 
 private:
     const std::array<CFxCommandPtr, 2> commands_{odrxNew<CFxCommandHyperlink>(), odrxNew<CFxCommandLinetype>()};
