@@ -1,10 +1,220 @@
 #include "app/TerminalIO.h"
 
-#include "app/AnswerReader.h"
 #include "app/console.h"
 #include "app/valueText.h"
 
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+
+#include <histedit.h>
+#include <poll.h>
+#include <unistd.h>
+
 namespace inkmacro {
+
+/// Where answers come from.
+class AnswerReader
+{
+public:
+    AnswerReader() = default;
+    virtual ~AnswerReader() = default;
+    AnswerReader(const AnswerReader&) = delete;
+    AnswerReader& operator=(const AnswerReader&) = delete;
+
+    /// Shows the prompt and takes one line, without its end. `expected` are answers that can be completed. False at the
+    /// end of input and when SIGINT came.
+    virtual bool read(const QString& prompt, const std::vector<CFxString>& expected, QByteArray& line) = 0;
+};
+
+namespace {
+
+volatile std::sig_atomic_t interrupted = 0;
+
+/// SIGINT, unless the caller had ignored it, breaks off a system call for as long as this lives.
+class InterruptBreaks
+{
+public:
+    InterruptBreaks()
+    {
+        interrupted = 0;
+        sigaction(SIGINT, nullptr, &before_);
+        if (before_.sa_handler == SIG_IGN)
+            return;
+        struct sigaction breaking = {};
+        breaking.sa_handler = [](int) { interrupted = 1; };
+        sigaction(SIGINT, &breaking, nullptr);
+    }
+    ~InterruptBreaks() { sigaction(SIGINT, &before_, nullptr); }
+    InterruptBreaks(const InterruptBreaks&) = delete;
+    InterruptBreaks& operator=(const InterruptBreaks&) = delete;
+
+private:
+    struct sigaction before_ = {};
+};
+
+void showAtOnce(const QString& text)
+{
+    printOut(text);
+    std::fflush(stdout);
+}
+
+class PlainReader final : public AnswerReader
+{
+public:
+    bool read(const QString& prompt, const std::vector<CFxString>&, QByteArray& line) override
+    {
+        showAtOnce(prompt + '\n');
+        const InterruptBreaks breaks;
+        line.clear();
+        for (;;) {
+            const int end = bytes_.indexOf('\n');
+            line += bytes_.mid(0, end);
+            bytes_ = end < 0 ? QByteArray() : bytes_.mid(end + 1);
+            if (end >= 0)
+                break;
+            if (!fill())
+                return !interrupted && !line.isEmpty();
+        }
+        if (line.endsWith('\r'))
+            line.chop(1);
+        return true;
+    }
+
+private:
+    bool fill()
+    {
+        std::array<char, 65536> piece;
+        const ssize_t got = isReady() ? ::read(STDIN_FILENO, piece.data(), piece.size()) : 0;
+        bytes_ = QByteArray(piece.data(), static_cast<int>(std::max<ssize_t>(got, 0)));
+        return got > 0;
+    }
+
+    /// Waits for input; false when SIGINT came. It comes only while this waits, so that none is overlooked.
+    static bool isReady()
+    {
+        sigset_t interrupt;
+        sigset_t before;
+        sigemptyset(&interrupt);
+        sigaddset(&interrupt, SIGINT);
+        pthread_sigmask(SIG_BLOCK, &interrupt, &before);
+        pollfd input{STDIN_FILENO, POLLIN, 0};
+        while (!interrupted && ppoll(&input, 1, nullptr, &before) < 0 && errno == EINTR) {
+        }
+        pthread_sigmask(SIG_SETMASK, &before, nullptr);
+        return !interrupted;
+    }
+
+    QByteArray bytes_; ///< read already, and of a later line
+};
+
+/// What both texts begin with, whatever the case.
+QString commonBeginning(const QString& left, const QString& right)
+{
+    int length = 0;
+    while (length < left.length() && length < right.length() && left[length].toLower() == right[length].toLower())
+        ++length;
+    return left.left(length);
+}
+
+class LineEditor final : public AnswerReader
+{
+public:
+    LineEditor() : editor_(el_init("inkmacro", stdin, stdout, stderr)), history_(history_init())
+    {
+        HistEvent event;
+        history(history_, &event, H_SETSIZE, 100);
+        el_set(editor_, EL_CLIENTDATA, this);
+        el_set(
+            editor_, EL_PROMPT, +[](EditLine* editor) { return self(editor).prompt_.data(); });
+        el_set(editor_, EL_EDITOR, "emacs");
+        el_set(editor_, EL_HIST, history, history_);
+        // The wide form keeps these names, of the other it would make copies for ever.
+        el_wset(
+            editor_, EL_ADDFN, L"complete-answer", L"Complete the answer",
+            +[](EditLine* editor, wint_t) { return self(editor).complete(); });
+        el_wset(
+            editor_, EL_ADDFN, L"cancel-answer", L"Cancel the command",
+            +[](EditLine*, wint_t) -> unsigned char { return CC_EOF; });
+        el_set(editor_, EL_BIND, "^I", "complete-answer", nullptr);
+        el_set(editor_, EL_BIND, "\\e^M", "cancel-answer", nullptr);
+        el_set(editor_, EL_BIND, "\\e^J", "cancel-answer", nullptr);
+        // Ctrl+C as a key: a signal could come when nobody waits for it.
+        el_set(editor_, EL_SETTY, "-d", "-isig", nullptr);
+        el_set(editor_, EL_BIND, "^C", "cancel-answer", nullptr);
+    }
+    ~LineEditor() override
+    {
+        history_end(history_);
+        el_end(editor_);
+    }
+
+    bool read(const QString& prompt, const std::vector<CFxString>& expected, QByteArray& line) override
+    {
+        showAtOnce({});
+        const InterruptBreaks breaks;
+        prompt_ = prompt.toLocal8Bit();
+        expected_ = &expected;
+        // The editor itself would do this behind the prompt, and lose a key that comes in between.
+        el_set(editor_, EL_PREP_TERM, 1);
+        int length = 0;
+        const char* const text = el_gets(editor_, &length);
+        if (!text || length <= 0) {
+            showAtOnce("\n");
+            return false;
+        }
+        line = QByteArray(text, length);
+        if (line.endsWith('\n'))
+            line.chop(1);
+        if (!line.isEmpty()) {
+            HistEvent event;
+            history(history_, &event, H_ENTER, line.constData());
+        }
+        return true;
+    }
+
+private:
+    static LineEditor& self(EditLine* editor)
+    {
+        void* data = nullptr;
+        el_get(editor, EL_CLIENTDATA, &data);
+        return *static_cast<LineEditor*>(data);
+    }
+
+    /// Completes what is in front of the cursor as far as it is unambiguous.
+    unsigned char complete()
+    {
+        const LineInfo* const info = el_line(editor_);
+        const QString begun = QString::fromLocal8Bit(info->buffer, static_cast<int>(info->cursor - info->buffer));
+        QString common;
+        for (const QString& answer : *expected_)
+            if (answer.startsWith(begun, Qt::CaseInsensitive))
+                common = common.isEmpty() ? answer : commonBeginning(common, answer);
+        if (common.length() <= begun.length())
+            return CC_REFRESH_BEEP;
+        el_deletestr(editor_, begun.length());
+        el_insertstr(editor_, common.toLocal8Bit().constData());
+        return CC_REFRESH;
+    }
+
+    EditLine* editor_;
+    History* history_;
+    QByteArray prompt_;
+    const std::vector<CFxString>* expected_ = nullptr;
+};
+
+/// Of the terminal, when both standard input and standard output are one; else of standard input as it comes.
+std::unique_ptr<AnswerReader> makeAnswerReader()
+{
+    if (isatty(STDIN_FILENO) && isatty(STDOUT_FILENO))
+        return std::make_unique<LineEditor>();
+    return std::make_unique<PlainReader>();
+}
+
+} // namespace
 
 TerminalIO::TerminalIO(OdDbDatabase& database) : CFxUserIO(database), reader_(makeAnswerReader())
 {

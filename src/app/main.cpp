@@ -7,14 +7,13 @@
 #include "app/earlyEnd.h"
 #include "app/fileNames.h"
 #include "app/inspection.h"
-#include "app/knownFaults.h"
 #include "app/optionNames.h"
+#include "app/pages.h"
 #include "app/processes.h"
 #include "app/reading.h"
 #include "app/report.h"
 #include "app/runCommand.h"
 #include "app/snapshot.h"
-#include "app/systemVariables.h"
 #include "recordfile/RecordingSchema.h"
 
 #include <QCoreApplication>

@@ -5,6 +5,7 @@
 #include "app/ExitStatus.h"
 #include "app/ProgressLine.h"
 #include "app/console.h"
+#include "app/valueText.h"
 #include "recordfile/RecordingReader.h"
 
 namespace inkmacro {
@@ -25,11 +26,6 @@ bool readOrComplain(const QString& path, Recording& recording)
     if (error)
         printError((error->text() + '\n').toLocal8Bit());
     return !error;
-}
-
-QString counted(qint64 count, const char* one, const char* many)
-{
-    return QString::number(count) + ' ' + (count == 1 ? one : many);
 }
 
 int checkRecordings(const QStringList& files)

@@ -9,9 +9,6 @@ namespace inkmacro {
 /// Reads the recording, or prints what is wrong with it and gives false.
 bool readOrComplain(const QString& path, Recording& recording);
 
-/// "1 action", "2 actions"
-QString counted(qint64 count, const char* one, const char* many);
-
 /// The command `check`.
 int checkRecordings(const QStringList& files);
 

@@ -4,7 +4,6 @@
 
 #include "app/ExitStatus.h"
 #include "app/console.h"
-#include "app/reading.h"
 #include "app/valueText.h"
 #include "host/kernel/CFxConversionNotes.h"
 #include "recordfile/SchemaDefinitions.h"

@@ -8,6 +8,11 @@
 
 namespace inkmacro {
 
+QString counted(qint64 count, const char* one, const char* many)
+{
+    return QString::number(count) + ' ' + (count == 1 ? one : many);
+}
+
 QString printable(const QString& text)
 {
     QString shown;

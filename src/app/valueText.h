@@ -5,6 +5,9 @@
 
 namespace inkmacro {
 
+/// "1 action", "2 actions"
+QString counted(qint64 count, const char* one, const char* many);
+
 /// Keeps a text on its line, whatever is in it.
 QString printable(const QString& text);
 

@@ -1,14 +1,19 @@
-#include "app/systemVariables.h"
+// The tables of the module as pages in Markdown.
 
+#include "app/pages.h"
+
+#include "app/CommandLine.h"
 #include "app/LoadedModule.h"
 
 #include <QStringList>
+
+#include <algorithm>
 
 namespace inkmacro {
 
 namespace {
 
-const char* const introduction = R"(# System variables
+const char* const variablesIntroduction = R"(# System variables
 
 A change of a system variable becomes a statement that sets an option through Inkwright's automation interface: by
 `SetCommandOption...` on the document or, when the document has no option for the variable, by
@@ -52,13 +57,43 @@ QString sectionOf(const std::vector<CFxKnownOption>& options, bool ofDocument, c
            "| Variable | Type | Enumerator | Remark |\n|---|---|---|---|\n" + rows.join(QString());
 }
 
+const char* const faultsIntroduction = R"(# Known faults
+
+A macro is written as the application's own recorder writes it, and that is not always what its language accepts or what
+the user meant. Each fault that is known stands here. `inkmacro convert` counts them, `--report` tells where they are,
+and `--repair` writes the macro without them. A fault of several targets is listed once.
+
+| Written by | Targets | Fault | Repaired |
+|---|---|---|---|
+)";
+
+bool isOf(const CFxKnownFault& fault, const TargetRow& row)
+{
+    const auto code = static_cast<std::uint32_t>(row.target);
+    return std::find(fault.languages.begin(), fault.languages.end(), code) != fault.languages.end();
+}
+
 } // namespace
 
 QString systemVariablesPage()
 {
     const std::vector<CFxKnownOption> options = LoadedModule()->ListOptions();
-    return introduction + sectionOf(options, true, "Options of the document") +
+    return variablesIntroduction + sectionOf(options, true, "Options of the document") +
            sectionOf(options, false, "Options of the application");
+}
+
+QString knownFaultsPage()
+{
+    QString page = faultsIntroduction;
+    for (const CFxKnownFault& fault : LoadedModule()->ListFaults()) {
+        QStringList targets;
+        for (const TargetRow& row : targetTable)
+            if (isOf(fault, row))
+                targets.append(targetName(row));
+        page += QString("| `%1` | %2 | %3 | %4 |\n")
+                    .arg(fault.operation, targets.join(", "), fault.reason, fault.mended ? "yes" : "no");
+    }
+    return page;
 }
 
 } // namespace inkmacro
