@@ -27,7 +27,7 @@ void takeSnapshots(const Recording& recording)
 {
     const OpenDrawing drawing(recording);
     for (const OdDbObjectId& id : recording.database->objectIds()) {
-        std::vector<CFxSnapshotRecord> records;
+        std::vector<CFxVariantCollectionElement> records;
         try {
             if (const OdDbObjectPtr object = id.openObject(true); object && !isLargeTable(*object))
                 TakeSnapshot(object.get(), records);

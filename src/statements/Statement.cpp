@@ -58,6 +58,12 @@ Statement& Statement::operator+=(const Statement& other)
     return *this;
 }
 
+Statement& Statement::operator+=(Statement&& other)
+{
+    // Whoever has made room for more keeps it.
+    return isEmpty() && text_.capacity() == 0 ? *this = std::move(other) : *this += std::as_const(other);
+}
+
 Statement& Statement::operator+=(const QString& text)
 {
     text_ += text;

@@ -57,6 +57,7 @@ public:
     void reserve(int letters) { text_.reserve(letters); }
 
     Statement& operator+=(const Statement& other);
+    Statement& operator+=(Statement&& other);
     Statement& operator+=(const QString& text);
     Statement& prepend(const Statement& other) { return *this = other + *this; }
     friend Statement operator+(Statement one, const Statement& other);
