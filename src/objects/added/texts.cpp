@@ -7,6 +7,7 @@
 #include "objects/entries.h"
 #include "objects/targets/points.h"
 #include "objects/targets/setters.h"
+#include "statements/arrays.h"
 #include "statements/StatementGroup.h"
 #include "statements/wording.h"
 

@@ -5,6 +5,7 @@
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/targets/clipViewports.h"
+#include "statements/arrays.h"
 #include "statements/RecordingState.h"
 
 Statement ReadViewport(AddedObject& added)
