@@ -5,8 +5,8 @@
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/targets/clipViewports.h"
-#include "statements/arrays.h"
 #include "statements/RecordingState.h"
+#include "statements/arrays.h"
 
 Statement ReadViewport(AddedObject& added)
 {
