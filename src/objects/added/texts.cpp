@@ -9,6 +9,7 @@
 #include "objects/targets/setters.h"
 #include "statements/arrays.h"
 #include "statements/StatementGroup.h"
+#include "statements/arrays.h"
 #include "statements/wording.h"
 
 #include <array>

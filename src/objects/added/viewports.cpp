@@ -7,6 +7,7 @@
 #include "objects/targets/clipViewports.h"
 #include "statements/arrays.h"
 #include "statements/RecordingState.h"
+#include "statements/arrays.h"
 
 Statement ReadViewport(AddedObject& added)
 {
