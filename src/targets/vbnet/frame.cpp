@@ -3,6 +3,7 @@
 #include "statements/LineEnd.h"
 #include "statements/RecordingState.h"
 #include "targets/FileHead.h"
+#include "targets/texts.h"
 #include "targets/vbnet/CFxConverterIWAPIVbNet.h"
 
 using namespace inkmacro;
@@ -29,6 +30,13 @@ static const FileHead head{
                    "        iwViewManager = iwDoc.GetViewManager()%2        If iwViewManager Is Nothing Then%2"
                    "            Return%2        End If%2%2",
 };
+
+static constexpr DotNetFrame::Project project{"Module1.vb", texts::vbnet::Module1_vb, ".vbproj",
+                                              texts::vbnet::project_vbproj, "%1.vb"};
+
+CFxConverterIWAPIVbNet::CFxConverterIWAPIVbNet(Writer& writer) : DotNetFrame(writer, project)
+{
+}
 
 Statement CFxConverterIWAPIVbNet::EmitFileHeader(const QString& className, bool)
 {
