@@ -17,7 +17,7 @@ public:
 private:
     /// The words with what stands for "{identifier}", the name as a part of identifiers: its marker, in a repaired
     /// project a legal name.
-    static QByteArray withIdentifier(QByteArray words, const char* marker, const QString& name);
+    QByteArray withIdentifier(QByteArray words, const char* marker, const QString& name) const;
 
     // Made anew for each conversion, so that the files of one project agree and two projects never do. With braces.
     const QString ConnectionClassUuid;

@@ -104,7 +104,7 @@ Statement CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool
 {
     writer.IndentLevel += 1;
     const QByteArray server = withIdentifier(texts::cppcom::server_cpp, "%2", className);
-    const Template words((server + head.words(writer.repairs)).constData(), writer.target);
+    const Template words((server + head.words()).constData(), writer.target);
     const QString serverId = QUuid::createUuid().toString();
     return faultyName(className,
                       writer.fill(words).text(LineEnd).text(className).text(serverId).text(RecordingSheetName));

@@ -1,7 +1,6 @@
 // The project around a macro of the COM add-in.
 
 #include "statements/LineEnd.h"
-#include "statements/RecordingState.h"
 #include "statements/quoting.h"
 #include "statements/wording.h"
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
@@ -52,9 +51,9 @@ static const QByteArray& projectWords()
     return text;
 }
 
-QByteArray CFxConverterIWAPICPPCOM::withIdentifier(QByteArray words, const char* marker, const QString& name)
+QByteArray CFxConverterIWAPICPPCOM::withIdentifier(QByteArray words, const char* marker, const QString& name) const
 {
-    return words.replace("{identifier}", RepairsMacros() ? legalName(name).toLatin1() : QByteArray(marker));
+    return words.replace("{identifier}", mended(QByteArray(marker), legalName(name).toLatin1()));
 }
 
 CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(Writer& writer)

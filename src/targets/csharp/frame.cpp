@@ -45,7 +45,7 @@ CFxConverterIWAPICSharp::CFxConverterIWAPICSharp(Writer& writer) : DotNetFrame(w
 
 Statement CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool hasSysVar)
 {
-    QByteArray frame = head.words(writer.repairs);
+    QByteArray frame = head.words();
     if (hasSysVar)
         frame.append(optionResult);
 

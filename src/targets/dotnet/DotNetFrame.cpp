@@ -18,7 +18,7 @@ Statement DotNetFrame::EmitProjectText(const QString& projectName, const QString
 {
     const QByteArray words = QByteArray(project_.words)
                                  .replace("{comReference}\n", texts::dotnet::comReference)
-                                 .replace("{macroFile}", writer.repairs ? "%3" : project_.macroFile);
+                                 .replace("{macroFile}", mended(project_.macroFile, "%3"));
     return fillProject(words, {xmlText(identifier(projectName)), LineEnd, xmlText(macroFile)});
 }
 

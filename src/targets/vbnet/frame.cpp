@@ -41,7 +41,7 @@ CFxConverterIWAPIVbNet::CFxConverterIWAPIVbNet(Writer& writer) : DotNetFrame(wri
 Statement CFxConverterIWAPIVbNet::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 2;
-    const Template words(head.words(writer.repairs).constData(), writer.target);
+    const Template words(head.words().constData(), writer.target);
     return faultyName(className, writer.fill(words).text(identifier(className)).text(LineEnd).text(RecordingSheetName));
 }
 
