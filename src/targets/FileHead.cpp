@@ -4,10 +4,10 @@
 
 namespace inkmacro {
 
-QByteArray FileHead::words(bool repairs) const
+QByteArray FileHead::words() const
 {
     QByteArray joined(opening);
-    if (RecordingInModel || (repairs && RecordingSheetName.isEmpty()))
+    if (RecordingInModel || (RepairsMacros() && RecordingSheetName.isEmpty()))
         joined += modelSketchManager;
     joined += firstSheet;
     if (!RecordingSheetName.isEmpty() && !RecordingInModel)

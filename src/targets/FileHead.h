@@ -17,7 +17,7 @@ struct FileHead
 
     /// The pieces that suit the recording, joined. One that began on a sheet without a name gets neither of the two
     /// sketch managers, but in a repaired macro that of the model.
-    QByteArray words(bool repairs) const;
+    QByteArray words() const;
 };
 
 } // namespace inkmacro

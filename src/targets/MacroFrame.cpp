@@ -25,7 +25,7 @@ std::int32_t MacroFrame::EmitProjectFiles(const QString&)
 
 QString MacroFrame::identifier(const QString& name) const
 {
-    return writer.repairs ? legalName(name) : name;
+    return mended(name, legalName(name));
 }
 
 Statement MacroFrame::faultyName(const QString& name, const Statement& text) const

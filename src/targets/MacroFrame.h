@@ -22,6 +22,12 @@ public:
     virtual std::int32_t EmitProjectFiles(const QString& path);
 
 protected:
+    /// Of two forms the one that suits the macro: when it is repaired the second.
+    template<class Form>
+    Form mended(Form faithful, Form repaired) const
+    {
+        return writer.repairs ? repaired : faithful;
+    }
     /// The name that stands in code for that of the macro's file: itself, in a repaired macro one that is legal.
     QString identifier(const QString& name) const;
     /// The text with a note when the name in it is no identifier.

@@ -38,9 +38,13 @@ QString xmlText(const QString& text)
     return text.toHtmlEscaped();
 }
 
-Fill fillProject(const Template& words)
+Statement fillProject(const char* words, std::initializer_list<QString> values, std::optional<Target> language)
 {
-    return Fill(&words, {words.language(), RepairsMacros()});
+    const Template text(words, language);
+    Fill fill(&text, {language, RepairsMacros()});
+    for (const QString& value : values)
+        fill.text(value);
+    return fill;
 }
 
 std::int32_t WriteProject(const QString& macroPath, const std::vector<ProjectFile>& files)

@@ -5,6 +5,8 @@
 #include <QString>
 
 #include <cstdint>
+#include <initializer_list>
+#include <optional>
 #include <vector>
 
 namespace inkmacro {
@@ -20,8 +22,9 @@ struct ProjectFile
 /// A name or a directory as it stands in the XML of a project, between tags or quotes.
 QString xmlText(const QString& text);
 
-/// The words of a project's file; with their language, which escapes what stands in its quotes in a repaired project.
-Fill fillProject(const Template& words);
+/// The words of a project's file with the values for their markers in turn. In a repaired project, what stands between
+/// the quotes of the language is escaped.
+Statement fillProject(const char* words, std::initializer_list<QString> values, std::optional<Target> language = {});
 
 /// Writes the files in turn into the macro file's directory, which is made when it is missing. Ends with kFxFailure at
 /// the first that cannot be opened; those before it stay. A write that fails after that is reported to the host alone.

@@ -39,7 +39,7 @@ static const FileHead head{
 Statement CFxConverterIWAPICPP::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 1;
-    const Template words(head.words(writer.repairs).constData(), writer.target);
+    const Template words(head.words().constData(), writer.target);
     return writer.fill(words).text(LineEnd).text(className).text(RecordingSheetName);
 }
 

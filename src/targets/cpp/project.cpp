@@ -3,166 +3,50 @@
 #include "statements/LineEnd.h"
 #include "statements/wording.h"
 #include "targets/cpp/CFxConverterIWAPICPP.h"
+#include "targets/installation.h"
 #include "targets/projectFiles.h"
+#include "targets/texts.h"
+#include "targets/vcproj.h"
 
 using namespace inkmacro;
 
-// %1 is the project or, in the first of them, the header itself, %2 the line end. One marker for it is enough: without
-// any, a marker in the name would take its value.
+// In the texts %1 is the project or, in the first of them, the header itself, %2 the line end. One marker for it is
+// enough: without any, a marker in the name would take its value.
 
-static const char* const exportHeader = R"(%2// %1.h, C++ API export/import declaration
-
-#ifndef IwAddin_GLOBAL_H
-#define IwAddin_GLOBAL_H
-
-#ifdef IW_WIN
-#define IW_DECL_EXPORT __declspec(dllexport)
-#define IW_DECL_IMPORT __declspec(dllimport)
-#else
-#define IW_DECL_EXPORT
-#define IW_DECL_IMPORT
-#endif
-
-#define NULL 0
-
-#ifdef IwAddin_LIB
-#define IwAddin_EXPORT IW_DECL_EXPORT
-#else
-#define IwAddin_EXPORT IW_DECL_IMPORT
-#endif
-
-#endif // IwAddin_GLOBAL_H
-)";
-
-static const char* const connectionHeader = R"(#ifndef IW_ADDIN_CONNECTION_H%2#define IW_ADDIN_CONNECTION_H
-
-#include "IwAddin_global.h"
-#include "iwApplication_c.h"
-#include "iwCommand_c.h"
-#include "iwInterfacePtr.h"
-#include "%1.h"
-
-class IwAddin_EXPORT MacroApplication : public iwApplicationEvents_c, public iwCommandEvents_c
-{
-public:
-    MacroApplication( iwApplication_c *iwApp );
-    virtual ~MacroApplication();
-
-    iwApplication_c *getIwApp();
-
-    static const iwString appID;
-
-private:
-    iwApplication_ptr m_iwApp;
-    CMacroCommand m_macroCmd;
+static constexpr ConfigurationWord words[] = {
+    {"{name}", {"Debug|Win32", "Debug|x64", "Release|Win32", "Release|x64"}},
+    {"{environment}", {"1", "3", "1", "3"}},
+    {"{runtime}", {"3", "3", "2", "2"}},
+    {"{warnings}", {"", "\t\t\t\tWarnAsError=\"true\"\n", "", ""}},
+    {"{debugFormat}", {"4", "3", "4", "3"}},
+    {"{machine}", {"1", "17", "1", "17"}},
 };
-
-#endif // IW_ADDIN_CONNECTION_H
-)";
-
-/// The command that runs the macro bears the project's name.
-static const char* const connectionSource = R"(#include "iwAddinConnection.h"%2
-MacroApplication *g_macroApp = NULL;
-
-const iwString MacroApplication::appID = L"1C85DA6C-0445-4844-A66F-A048A5787A68";
-
-#ifdef IW_WIN
-IwAddin_EXPORT bool connectToInkwright(int cookie, iwApplication_c *iwApp)
-#else
-extern "C" IwAddin_EXPORT bool connectToInkwright(int cookie, iwApplication_c *iwApp)
-#endif
-{
-    if ( NULL == g_macroApp )
-    {
-        g_macroApp = new MacroApplication( iwApp );
-        return true;
-    }
-
-    return false;
-}
-
-#ifdef IW_WIN
-IwAddin_EXPORT bool disconnectFromInkwright()
-#else
-extern "C" IwAddin_EXPORT bool disconnectFromInkwright()
-#endif
-{
-    if ( NULL != g_macroApp )
-    {
-        g_macroApp->getIwApp()->RemoveUserInterface(MacroApplication::appID);
-
-        delete g_macroApp;
-        g_macroApp = NULL;
-    }
-
-    return true;
-}
-
-MacroApplication::MacroApplication( iwApplication_c *iwApp )
-    : m_iwApp( iwApp )
-    , m_macroCmd( iwApp, L"%1" )
-{
-}
-
-MacroApplication::~MacroApplication()
-{
-}
-
-iwApplication_c *MacroApplication::getIwApp()
-{
-    return m_iwApp;
-}
-)";
-
-static const char* const commandHeader = R"(#pragma once
-
-#include "iwCommand_c.h"
-#include "iwApplication_c.h"
-
-class CMacroCommand
-{
-public:
-    CMacroCommand( iwApplication_c *pApp, const iwString & name );
-    virtual ~CMacroCommand();
-
-    DeclareCommandExecuteNotifyHook
-
-    bool ExecuteNotify( void ); // Mandatory callback name
-
-    const iwString &GetName() const;
-
-private:
-    iwApplication_c *m_pIwApp;
-    iwCommand_c *m_pCmd;
-    iwString m_name;
-};
-)";
-
-static Statement named(const char* words, const QString& name)
-{
-    const Template text(words, Target::Cpp);
-    return fillProject(text).text(name).text(LineEnd);
-}
-
-static Statement exports(const QString& projectName)
-{
-    static const Template words("LIBRARY\t\"%2\"%1%1EXPORTS%1connectToInkwright%1disconnectFromInkwright%1");
-    return fillProject(words).text(LineEnd).text(projectName);
-}
 
 Statement CFxConverterIWAPICPP::EmitProgramText(const QString& name) const
 {
-    return named(exportHeader, name);
+    return fillProject(texts::cpp::IwAddin_global_h, {name, LineEnd}, Target::Cpp);
+}
+
+/// %3 is the library directory and %4 the include directory. Nothing is built from a header; the entry of one is empty.
+Statement CFxConverterIWAPICPP::EmitProjectText(const QString& projectName) const
+{
+    static const QByteArray text =
+        QByteArray(texts::cpp::project_vcproj)
+            .replace("{configurations}\n", forEachConfiguration(texts::cpp::configuration_vcproj, words))
+            .replace("{headerConfigurations}\n", forEachConfiguration(texts::cpp::headerConfiguration_vcproj, words));
+    return fillProject(text, {xmlText(projectName), LineEnd, xmlText(installedPath("APISDK\\lib\\cpp")),
+                              xmlText(installedPath("APISDK\\headers\\cpp"))});
 }
 
 std::int32_t CFxConverterIWAPICPP::EmitProjectFiles(const QString& path)
 {
     const QString name = projectName(path);
     const QString exportHeaderFile = "IwAddin_global.h";
+    const auto named = [&name](const char* text) { return fillProject(text, {name, LineEnd}, Target::Cpp); };
     return WriteProject(path, {{exportHeaderFile, EmitProgramText(projectName(exportHeaderFile)), true},
                                {name + ".vcproj", EmitProjectText(name), false},
-                               {"iwAddinConnection.h", named(connectionHeader, name), true},
-                               {"iwAddinConnection.cpp", named(connectionSource, name), true},
-                               {name + ".h", QString(commandHeader), true},
-                               {name + ".def", exports(name), false}});
+                               {"iwAddinConnection.h", named(texts::cpp::iwAddinConnection_h), true},
+                               {"iwAddinConnection.cpp", named(texts::cpp::iwAddinConnection_cpp), true},
+                               {name + ".h", QString(texts::cpp::project_h), true},
+                               {name + ".def", fillProject(texts::cpp::project_def, {LineEnd, name}), false}});
 }

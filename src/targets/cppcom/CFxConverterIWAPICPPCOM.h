@@ -2,6 +2,8 @@
 
 #include "targets/MacroFrame.h"
 
+#include <QByteArray>
+
 /// C++ through COM: the source of an in-process ATL server whose command repeats the recording, and its project.
 class CFxConverterIWAPICPPCOM final : public MacroFrame
 {
@@ -13,6 +15,10 @@ public:
     std::int32_t EmitProjectFiles(const QString& path) override;
 
 private:
+    /// The words with what stands for "{identifier}", the name as a part of identifiers: its marker, in a repaired
+    /// project a legal name.
+    QByteArray withIdentifier(QByteArray words, const char* marker, const QString& name) const;
+
     // Made anew for each conversion, so that the files of one project agree and two projects never do. With braces.
     const QString ConnectionClassUuid;
     const QString TypeLibraryUuid;

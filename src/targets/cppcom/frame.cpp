@@ -4,7 +4,7 @@
 #include "statements/RecordingState.h"
 #include "targets/FileHead.h"
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
-#include "targets/cppcom/projectTexts.h"
+#include "targets/texts.h"
 
 #include <QUuid>
 
@@ -12,59 +12,6 @@ using namespace inkmacro;
 
 // %1 is the line end, %2 the class, %3 the id of the server, %4 the sheet on which the recording began. A frame brings
 // its own indentation.
-
-static const char* const server =
-    "#include \"stdafx.h\"%1#include \"resource.h\"%1#include \"%2_i.h\"%1#include \"%2.h\"%1#include \"smartvars.h\"%1"
-    "#include \"typeconverter.h\"%1#include \"IwAddinConnection.h\"%1#include \"math.h\"%1%1"
-    R"(class C%2Module : public CAtlDllModuleT< C%2Module >
-{
-public:
-    DECLARE_LIBID(LIBID_%2Lib)
-    DECLARE_REGISTRY_APPID_RESOURCEID(IDR_%2, "%3")
-};
-
-C%2Module _AtlModule;
-
-#ifdef _MANAGED
-#pragma managed(push, off)
-#endif
-
-// Entry point of the library
-extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved)
-{
-    hInstance;
-    return _AtlModule.DllMain(dwReason, lpReserved);
-}
-
-#ifdef _MANAGED
-#pragma managed(pop)
-#endif
-
-// Tells whether the library is still in use
-STDAPI DllCanUnloadNow(void)
-{
-    return _AtlModule.DllCanUnloadNow();
-}
-
-// Gives the class factory of an object of this server
-STDAPI DllGetClassObject(REFCLSID rclsid, REFIID riid, LPVOID* ppv)
-{
-    return _AtlModule.DllGetClassObject(rclsid, riid, ppv);
-}
-
-// Adds the server, its type library and the interfaces of the type library to the registry
-STDAPI DllRegisterServer(void)
-{
-    return _AtlModule.DllRegisterServer();
-}
-
-// Removes from the registry what DllRegisterServer added
-STDAPI DllUnregisterServer(void)
-{
-    return _AtlModule.DllUnregisterServer();
-}
-
-)";
 
 static const FileHead head{
     .opening = R"(IwMacroCommand::IwMacroCommand( ICommand* pCommand )
@@ -156,10 +103,8 @@ void __stdcall IwMacroCommand::OnExecuteNotify()
 Statement CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 1;
-    const Template words((cppcom::withIdentifier(server, {"C%2Module", "LIBID_%2Lib", "IDR_%2,"}, className) +
-                          head.words(writer.repairs))
-                             .constData(),
-                         writer.target);
+    const QByteArray server = withIdentifier(texts::cppcom::server_cpp, "%2", className);
+    const Template words((server + head.words()).constData(), writer.target);
     const QString serverId = QUuid::createUuid().toString();
     return faultyName(className,
                       writer.fill(words).text(LineEnd).text(className).text(serverId).text(RecordingSheetName));

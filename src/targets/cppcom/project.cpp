@@ -1,32 +1,59 @@
 // The project around a macro of the COM add-in.
 
-#include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
-
-#include "statements/RecordingState.h"
+#include "statements/LineEnd.h"
 #include "statements/quoting.h"
 #include "statements/wording.h"
-#include "targets/cppcom/projectTexts.h"
+#include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
+#include "targets/installation.h"
 #include "targets/projectFiles.h"
+#include "targets/texts.h"
+#include "targets/vcproj.h"
 
 #include <QUuid>
 
 using namespace inkmacro;
 
-static QString withoutBraces(const QString& uuid)
+// In the texts %1 is the project and %2 the line end, unless something else is said; ids follow. One marker for the
+// line end is enough: without any, its value would go to the marker behind it.
+
+/// Debug information is to edit and continue (/ZI, 4) or only to debug (/Zi, 3). The former is for x86 alone, and no
+/// compiler takes it together with the whole-program optimization of Release.
+static constexpr ConfigurationWord words[] = {
+    {"{name}", {"Debug|Win32", "Release|Win32", "Debug|x64", "Release|x64"}},
+    {"{folder}", {"", "", "$(PlatformName)\\", "$(PlatformName)\\"}},
+    {"{environment}", {"1", "1", "3", "3"}},
+    {"{machine}", {"1", "1", "17", "17"}},
+    {"{wholeProgram}", {"0", "1", "0", "1"}},
+    {"{state}", {"_DEBUG", "NDEBUG", "_DEBUG", "NDEBUG"}},
+    {"{debugDefinition}", {"_DEBUG;", "", "_DEBUG;", ""}},
+    {"{optimization}", {"0", "2", "0", "2"}},
+    {"{minimalRebuild}", {"true", "false", "true", "false"}},
+    {"{checks}", {"3", "0", "3", "0"}},
+    {"{runtime}", {"3", "2", "3", "2"}},
+    {"{incremental}", {"2", "1", "2", "1"}},
+    {"{references}", {"0", "2", "0", "2"}},
+    {"{debugFormat}", {"4", "3", "3", "3"}},
+};
+
+/// How a file takes part in the precompiled header; 0 is not at all.
+static QByteArray precompiled(const char* how)
 {
-    return uuid.mid(1, uuid.size() - 2);
+    return forEachConfiguration(texts::cppcom::fileConfiguration_vcproj, words).replace("{precompiled}", how);
 }
 
-QByteArray cppcom::withIdentifier(QByteArray words, std::initializer_list<const char*> places, const QString& name)
+static const QByteArray& projectWords()
 {
-    if (!RepairsMacros())
-        return words;
-    const QByteArray identifier = legalName(name).toLatin1();
-    for (const char* const place : places) {
-        QByteArray legal(place);
-        words.replace(place, legal.replace(legal.indexOf('%'), 2, identifier));
-    }
-    return words;
+    static const QByteArray text =
+        QByteArray(texts::cppcom::project_vcproj)
+            .replace("{configurations}\n", forEachConfiguration(texts::cppcom::configuration_vcproj, words))
+            .replace("{makesPrecompiledHeader}\n", precompiled("1"))
+            .replace("{withoutPrecompiledHeader}\n", precompiled("0"));
+    return text;
+}
+
+QByteArray CFxConverterIWAPICPPCOM::withIdentifier(QByteArray words, const char* marker, const QString& name) const
+{
+    return words.replace("{identifier}", mended(QByteArray(marker), legalName(name).toLatin1()));
 }
 
 CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(Writer& writer)
@@ -36,28 +63,42 @@ CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(Writer& writer)
 {
 }
 
+static QString withoutBraces(const QString& uuid)
+{
+    return uuid.mid(1, uuid.size() - 2);
+}
+
 std::int32_t CFxConverterIWAPICPPCOM::EmitProjectFiles(const QString& path)
 {
-    using namespace cppcom;
+    using namespace texts::cppcom;
     const QString name = projectName(path);
     const QString classId = withoutBraces(ConnectionClassUuid);
     const QString libraryId = withoutBraces(TypeLibraryUuid);
+    const QString interfaceId = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    const QString projectId = QUuid::createUuid().toString();
+    const QString addins = installedPath("APISDK\\tlb\\iwAddin.tlb");
+    const QString application = installedPath("bin\\iwAutomation.dll");
+    const auto named = [&](const char* words) { return withIdentifier(words, "%1", name); };
     return WriteProject(
-        path, {
-                  {"IwAddinConnection.h", connectionHeader(name), true},
-                  {"IwAddinConnection.cpp", connectionSource(name), true},
-                  {name + ".h", commandHeader(), true},
-                  {"resource.h", resourceHeader(name), false},
-                  {"stdafx.h", precompiledHeader(), true},
-                  {"stdafx.cpp", precompiledSource(), true},
-                  {"smartvars.h", safeArrayHeader(), true},
-                  {name + ".def", serverExports(name), false},
-                  {name + "ps.def", proxyExports(name), false},
-                  {name + ".idl", interfaceDefinition(name, libraryId, classId), false},
-                  {"IwAddinConnection.rgs", connectionRegistration(name, ConnectionClassUuid, TypeLibraryUuid), false},
-                  {name + ".rgs", serverRegistration(name), false},
-                  {name + ".rc", resourceScript(name), false},
-                  {name + ".vcproj", environmentProject(name, QUuid::createUuid().toString()), false},
-                  {"typeconverter.h", typeConverterHeader(), true},
-              });
+        path,
+        {
+            {"IwAddinConnection.h", fillProject(named(IwAddinConnection_h), {name, LineEnd}, Target::CppCom), true},
+            {"IwAddinConnection.cpp", fillProject(IwAddinConnection_cpp, {name, LineEnd}, Target::CppCom), true},
+            {name + ".h", QString(project_h), true},
+            {"resource.h", fillProject(named(resource_h), {name, LineEnd}), false},
+            // %1 is the line end, %2 and %3 are the type libraries.
+            {"stdafx.h", fillProject(stdafx_h, {LineEnd, addins, application}), true},
+            {"stdafx.cpp", fillProject(stdafx_cpp, {LineEnd}), true},
+            {"smartvars.h", QString(smartvars_h), true},
+            {name + ".def", fillProject(project_def, {name, LineEnd}), false},
+            {name + "ps.def", fillProject(projectps_def, {name, LineEnd}), false},
+            {name + ".idl", fillProject(named(project_idl), {name, LineEnd, interfaceId, libraryId, classId}), false},
+            {"IwAddinConnection.rgs",
+             fillProject(IwAddinConnection_rgs, {name, LineEnd, ConnectionClassUuid, TypeLibraryUuid}), false},
+            {name + ".rgs", fillProject(project_rgs, {name, LineEnd}), false},
+            // %1 is the line end, %2 to %4 are the numbers of the included texts, %5 is the project.
+            {name + ".rc", fillProject(withIdentifier(project_rc, "%5", name), {LineEnd, "1", "2", "3", name}), false},
+            {name + ".vcproj", fillProject(projectWords(), {xmlText(name), LineEnd, projectId}), false},
+            {"typeconverter.h", QString(typeconverter_h), true},
+        });
 }

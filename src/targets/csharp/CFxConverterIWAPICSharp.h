@@ -1,18 +1,13 @@
 #pragma once
 
-#include "targets/MacroFrame.h"
+#include "targets/dotnet/DotNetFrame.h"
 
-/// C#: a class with a `Run`, a start-up program that finds the running application, and a project file.
-class CFxConverterIWAPICSharp final : public MacroFrame
+/// C#: a class with a `Run`. It lives in a namespace of its own, which is why the program's call is qualified.
+class CFxConverterIWAPICSharp final : public DotNetFrame
 {
 public:
-    using MacroFrame::MacroFrame;
+    explicit CFxConverterIWAPICSharp(Writer& writer);
 
     Statement EmitFileHeader(const QString& className, bool hasSysVar) override;
     Statement EmitFileFooter() override;
-    std::int32_t EmitProjectFiles(const QString& path) override;
-
-private:
-    Statement EmitProgramText(const QString& projectName) const;
-    Statement EmitProjectText(const QString& projectName, const QString& macroFile) const;
 };

@@ -4,6 +4,7 @@
 #include "statements/RecordingState.h"
 #include "targets/FileHead.h"
 #include "targets/csharp/CFxConverterIWAPICSharp.h"
+#include "targets/texts.h"
 
 using namespace inkmacro;
 
@@ -35,9 +36,16 @@ static const FileHead head{
 
 static const char* const optionResult = "            iwSetCommandOptionResult_e result;%1";
 
+static constexpr DotNetFrame::Project project{"Program.cs", texts::csharp::Program_cs, ".csproj",
+                                              texts::csharp::project_csproj, "%1.cs"};
+
+CFxConverterIWAPICSharp::CFxConverterIWAPICSharp(Writer& writer) : DotNetFrame(writer, project)
+{
+}
+
 Statement CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool hasSysVar)
 {
-    QByteArray frame = head.words(writer.repairs);
+    QByteArray frame = head.words();
     if (hasSysVar)
         frame.append(optionResult);
 

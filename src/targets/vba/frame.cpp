@@ -51,9 +51,7 @@ static const FileHead head{
 Statement CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
 {
     writer.IndentLevel += 2;
-    QByteArray text = head.words(writer.repairs);
-    if (writer.repairs)
-        text.replace("Return%1", "Exit Sub%1");
+    const QByteArray text = head.words().replace("Return%1", mended("Return%1", "Exit Sub%1"));
     const Template words(text.constData(), writer.target);
     return writer.fill(words).text(LineEnd).text(RecordingSheetName);
 }

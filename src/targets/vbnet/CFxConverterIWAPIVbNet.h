@@ -1,18 +1,13 @@
 #pragma once
 
-#include "targets/MacroFrame.h"
+#include "targets/dotnet/DotNetFrame.h"
 
-/// VB.NET: a class with a `Run`, a start-up module that finds the running application, and a project file.
-class CFxConverterIWAPIVbNet final : public MacroFrame
+/// VB.NET: a class with a `Run`.
+class CFxConverterIWAPIVbNet final : public DotNetFrame
 {
 public:
-    using MacroFrame::MacroFrame;
+    explicit CFxConverterIWAPIVbNet(Writer& writer);
 
     Statement EmitFileHeader(const QString& className, bool hasSysVar) override;
     Statement EmitFileFooter() override;
-    std::int32_t EmitProjectFiles(const QString& path) override;
-
-private:
-    Statement EmitProgramText(const QString& projectName) const;
-    Statement EmitProjectText(const QString& projectName, const QString& macroFile) const;
 };

@@ -3,6 +3,7 @@
 #include "statements/LineEnd.h"
 #include "statements/RecordingState.h"
 #include "targets/FileHead.h"
+#include "targets/texts.h"
 #include "targets/vbnet/CFxConverterIWAPIVbNet.h"
 
 using namespace inkmacro;
@@ -30,10 +31,17 @@ static const FileHead head{
                    "            Return%2        End If%2%2",
 };
 
+static constexpr DotNetFrame::Project project{"Module1.vb", texts::vbnet::Module1_vb, ".vbproj",
+                                              texts::vbnet::project_vbproj, "%1.vb"};
+
+CFxConverterIWAPIVbNet::CFxConverterIWAPIVbNet(Writer& writer) : DotNetFrame(writer, project)
+{
+}
+
 Statement CFxConverterIWAPIVbNet::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 2;
-    const Template words(head.words(writer.repairs).constData(), writer.target);
+    const Template words(head.words().constData(), writer.target);
     return faultyName(className, writer.fill(words).text(identifier(className)).text(LineEnd).text(RecordingSheetName));
 }
 
