@@ -38,7 +38,7 @@ bool isOrigin(const OdGePoint3d& point)
 
 /// In the space that the view belongs to; what was active is activated again behind it.
 Statement createInItsSpace(Writer& writer, const CFxString& name, bool onSheet, const CFxString& sheetName,
-                         const CFxString& variable)
+                           const CFxString& variable)
 {
     CFxString sheet;
     if (onSheet)
@@ -68,9 +68,9 @@ Statement background(Writer& writer, const CFxCustomAction& action, const CFxStr
         return {};
     }
     const Statement image = EmitImageBackground(writer, action.GetData(10).GetString(), position,
-                                              {action.GetData(12).GetDouble(), action.GetData(13).GetDouble(),
-                                               action.GetData(14).GetDouble(), action.GetData(15).GetDouble()},
-                                              view);
+                                                {action.GetData(12).GetDouble(), action.GetData(13).GetDouble(),
+                                                 action.GetData(14).GetDouble(), action.GetData(15).GetDouble()},
+                                                view);
     return known ? image : writer.faulty(image, inkmacro::textAsCode);
 }
 

@@ -20,7 +20,7 @@ using EmitPolylineEdit = Statement (*)(Writer& writer, const CFxString& polyline
 /// The polyline is told by two data from `first` on, by a handle and a class or by arrays of which the first counts.
 /// One without a variable gets no statement.
 static Statement EditOfPolyline(Conversion& conversion, const CFxCustomAction& action, std::int32_t first,
-                              EmitPolylineEdit edit)
+                                EmitPolylineEdit edit)
 {
     const CFxCustomActionData& handle = action.GetData(first);
     const CFxCustomActionData& cls = action.GetData(first + 1);

@@ -37,7 +37,7 @@ std::int32_t int16Value(const CFxString& variable, const OdResBuf& value)
 }
 
 Statement commandOption(Writer& writer, const CFxSysVarChanged& change, const CFxString& option, OptionKind kind,
-                      const OdResBuf& value)
+                        const OdResBuf& value)
 {
     switch (kind) {
     case OptionKind::Bool:

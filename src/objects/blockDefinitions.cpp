@@ -28,7 +28,7 @@ struct BlockEntity
     Writer& writer;
     const OdDbObject* object; ///< never null where it is prepared
     CFxString name;           ///< its variable; empty when the macro has none
-    Statement fetch{};          ///< fetches what the entity is reached by
+    Statement fetch{};        ///< fetches what the entity is reached by
 };
 
 Statement drawArc(BlockEntity& entity)

@@ -10,7 +10,8 @@ class ChangeGroups;
 
 /// Converts the changes of one class, where they are more than a list of tags with a statement each. Takes the tags
 /// that it knows out of the list and appends their statements to `text`.
-using ChangeHandler = void (*)(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text);
+using ChangeHandler = void (*)(Conversion& conversion, const RecordedObject& object, PropertyList& list,
+                               Statement& text);
 
 /// The changes of one class: a list of tags, a handler, or nothing beyond what all classes have.
 struct ClassChanges
@@ -34,7 +35,7 @@ enum ClassFlags : unsigned
 /// What is known of one class of drawing objects.
 struct ClassRow
 {
-    const char* name;                                ///< as the class descriptor reports it
+    const char* name;                                  ///< as the class descriptor reports it
     Statement (*reader)(AddedObject& added) = nullptr; ///< gives the statement that makes the object; it may be empty
     ClassChanges changes = {};
     unsigned flags = 0;

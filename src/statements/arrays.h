@@ -103,7 +103,7 @@ struct ArrayArgument
     inkmacro::Target target;
     std::uint32_t number = 0; ///< keeps the array apart from others; none in C#
     int count = 0;            ///< of elements: a point has two or three
-    Statement before{};        ///< statements in front of the call
+    Statement before{};       ///< statements in front of the call
     Statement words{};        ///< the list, the name of the array or the lines that fill it
 
     /// As a declaration in Basic has it.

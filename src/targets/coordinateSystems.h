@@ -18,4 +18,4 @@ Statement EmitCoordinateSystemOrigin(Writer& writer, const OdGePoint3d& origin);
 Statement EmitAlignCoordinateSystemToEntity(Writer& writer, const CFxString& entity, const OdGePoint3d& point);
 Statement EmitAlignCoordinateSystemZAxis(Writer& writer, const OdGePoint3d& origin, const OdGePoint3d& onAxis);
 Statement EmitThreePointCoordinateSystem(Writer& writer, const OdGePoint3d& origin, const OdGePoint3d& onXAxis,
-                                       const OdGePoint3d& onPlane);
+                                         const OdGePoint3d& onPlane);

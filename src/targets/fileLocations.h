@@ -9,4 +9,4 @@ Statement EmitInterfaceFilesObject(Writer& writer, CFxString& variable);
 Statement EmitSystemFilesObject(Writer& writer, CFxString& variable);
 Statement EmitDrawingSupportFilesObject(Writer& writer, CFxString& variable);
 Statement EmitFileLocationArray(Writer& writer, const CFxString& variable, const CFxString& property,
-                              const std::vector<CFxString>& values);
+                                const std::vector<CFxString>& values);

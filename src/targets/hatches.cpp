@@ -28,7 +28,7 @@ static const Phrase insertBoundaryPolyline{
     }};
 
 Statement EmitHatchBoundaryPolyline(Writer& writer, const CFxString& name, const OdArray<OdGePoint2d>& points,
-                                  bool closed)
+                                    bool closed)
 {
     return callWithArray(
         writer, insertBoundaryPolyline, coordinateArray(writer, planar(points), "polyPoints", NumberForm::Short),
@@ -108,7 +108,7 @@ static const Phrase eraseBoundaryPolyline{"EmitHatchByPolyline: erasure",
                                           }};
 
 Statement EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxString& polyline,
-                            const HatchPattern& pattern, bool erase)
+                              const HatchPattern& pattern, bool erase)
 {
     Fill insertion = writer.fill(hatchByPolyline);
     // COM fills its array before the call, the others name the polyline's place in it after the pattern.
@@ -183,6 +183,6 @@ Statement EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchG
         call.text(colorExpression(writer.target, first)).text(colorExpression(writer.target, second));
     call.text(truthWord(writer.target, gradient.centered)).real(gradient.angle).text(hatch);
     const Statement text = takeColor(writer, firstIndexedColor, firstRgbColor, first) +
-                         takeColor(writer, secondIndexedColor, secondRgbColor, second) + call.str();
+                           takeColor(writer, secondIndexedColor, secondRgbColor, second) + call.str();
     return notingBlack(writer, notingBlack(writer, text, gradient.first), gradient.second);
 }

@@ -24,12 +24,12 @@ struct HatchGradient
 
 /// Declares the variable of the polyline too.
 Statement EmitHatchBoundaryPolyline(Writer& writer, const CFxString& name, const OdArray<OdGePoint2d>& points,
-                                  bool closed);
+                                    bool closed);
 /// Bends the segment that begins at the vertex; `angle` is that of the arc, in radians.
 Statement EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::int32_t index, double angle);
 /// Bends the segments by their bulges, the tangents of a quarter of the angle of each arc.
 Statement EmitSetSegmentAngles(Writer& writer, const CFxString& polyline, const OdArray<double>& bulges);
 /// With `erase` the polyline does not outlive the insertion.
 Statement EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxString& polyline,
-                            const HatchPattern& pattern, bool erase);
+                              const HatchPattern& pattern, bool erase);
 Statement EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchGradient& gradient);

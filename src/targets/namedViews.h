@@ -15,4 +15,4 @@ Statement EmitCreateNamedView(Writer& writer, const CFxString& name, bool onShee
 Statement EmitRenameNamedView(Writer& writer, const NamedViewReference& view, const CFxString& newName);
 Statement EmitSetNamedViewClass(Writer& writer, const NamedViewReference& view, const CFxString& className);
 Statement EmitSetViewWindow(Writer& writer, const NamedViewReference& view, const OdGePoint3d& first,
-                          const OdGePoint3d& opposite);
+                            const OdGePoint3d& opposite);

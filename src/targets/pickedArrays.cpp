@@ -111,7 +111,8 @@ static const Phrase call{"call with picked arrays",
                              .vba = "%1iwSketchManager.%3 %4%2",
                          }};
 
-Statement callWithPicked(Writer& writer, const char* operation, std::uint32_t number, std::span<const char* const> names)
+Statement callWithPicked(Writer& writer, const char* operation, std::uint32_t number,
+                         std::span<const char* const> names)
 {
     QStringList arguments;
     for (const char* const name : names)

@@ -18,4 +18,5 @@ struct PickedArray
 /// Declares the arrays and fills them in their order. All their names end in the number.
 Statement pickedArrays(Writer& writer, std::uint32_t number, std::span<const PickedArray> arrays);
 /// The operation of the sketch manager, with the arrays of these names.
-Statement callWithPicked(Writer& writer, const char* operation, std::uint32_t number, std::span<const char* const> names);
+Statement callWithPicked(Writer& writer, const char* operation, std::uint32_t number,
+                         std::span<const char* const> names);

@@ -129,7 +129,7 @@ static const Phrase placeVertex2D{"EmitAddVertexAfter",
                                   }};
 
 static Statement placeVertex(Writer& writer, const CFxString& polyline, const char* operation, int vertex,
-                           const OdGePoint3d& point, bool spatial)
+                             const OdGePoint3d& point, bool spatial)
 {
     Fill statement = writer.fillIndented(spatial ? placeVertex3D : placeVertex2D);
     statement.text(polyline).text(QLatin1String(operation)).number(vertex).shortReal(point.x).shortReal(point.y);
@@ -139,13 +139,13 @@ static Statement placeVertex(Writer& writer, const CFxString& polyline, const ch
 }
 
 Statement EmitAddVertexAfter(Writer& writer, const CFxString& polyline, int vertex, const OdGePoint3d& point,
-                           bool spatial)
+                             bool spatial)
 {
     return placeVertex(writer, polyline, "AddVertexAfter", vertex, point, spatial);
 }
 
 Statement EmitSetVertexCoordinate(Writer& writer, const CFxString& polyline, int vertex, const OdGePoint3d& point,
-                                bool spatial)
+                                  bool spatial)
 {
     return placeVertex(writer, polyline, "SetVertexCoordinate", vertex, point, spatial);
 }

@@ -14,9 +14,9 @@ Statement EmitJoinLine(Writer& writer, const CFxString& polyline, const CFxStrin
 Statement EmitJoinCircleArc(Writer& writer, const CFxString& polyline, const CFxString& arc);
 Statement EmitPolylineSplit(Writer& writer, const CFxString& polyline, int vertex, bool spatial);
 Statement EmitAddVertexAfter(Writer& writer, const CFxString& polyline, int vertex, const OdGePoint3d& point,
-                           bool spatial);
+                             bool spatial);
 Statement EmitSetVertexCoordinate(Writer& writer, const CFxString& polyline, int vertex, const OdGePoint3d& point,
-                                bool spatial);
+                                  bool spatial);
 Statement EmitPolylineStraighten(Writer& writer, const CFxString& polyline, int first, int last);
 Statement EmitPolylineWidth(Writer& writer, const CFxString& polyline, int segment, double start, double end);
 Statement EmitDeleteVertex(Writer& writer, const CFxString& polyline, int vertex);

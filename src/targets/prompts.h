@@ -17,4 +17,4 @@ Statement EmitPromptInteger(Writer& writer, const CFxString& prompt, std::int32_
 Statement EmitPromptString(Writer& writer, const CFxString& prompt, const CFxString& value);
 /// `global` has at least as many elements as `local`.
 Statement EmitPromptKeyword(Writer& writer, const CFxString& prompt, const std::vector<CFxString>& local,
-                          const std::vector<CFxString>& global);
+                            const std::vector<CFxString>& global);

@@ -230,15 +230,15 @@ static const Phrase deactivateFilter{"EmitSelectionFilter",
 
 /// The filter is on only around the one selection.
 Statement EmitSelectionFilter(Writer& writer, const OdArray<OdGePoint3d>& points, std::int32_t mode,
-                            const std::vector<CFxString>& typeNames)
+                              const std::vector<CFxString>& typeNames)
 {
     if (!selectionManager.has(writer.target))
         return withoutSelections();
     // The selection within raises the number.
     const std::uint32_t number = selections;
     Statement text = writer.fillIndented(selectionManager).number(number).str() +
-                   writer.fillIndented(getSelectionFilter).number(number).str() +
-                   writer.fillIndented(clearFilter).number(number).str();
+                     writer.fillIndented(getSelectionFilter).number(number).str() +
+                     writer.fillIndented(clearFilter).number(number).str();
     for (const CFxString& type : typeNames)
         text += writer.fillIndented(addEntityType).number(number).text(type).str();
     text += LineEnd;

@@ -10,4 +10,4 @@
 /// point has none.
 Statement EmitSelectEntities(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points, bool hasManager);
 Statement EmitSelectionFilter(Writer& writer, const OdArray<OdGePoint3d>& points, std::int32_t mode,
-                            const std::vector<CFxString>& typeNames);
+                              const std::vector<CFxString>& typeNames);

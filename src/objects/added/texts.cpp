@@ -7,7 +7,6 @@
 #include "objects/entries.h"
 #include "objects/targets/points.h"
 #include "objects/targets/setters.h"
-#include "statements/arrays.h"
 #include "statements/StatementGroup.h"
 #include "statements/arrays.h"
 #include "statements/wording.h"

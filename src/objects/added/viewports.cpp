@@ -5,7 +5,6 @@
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/targets/clipViewports.h"
-#include "statements/arrays.h"
 #include "statements/RecordingState.h"
 #include "statements/arrays.h"
 

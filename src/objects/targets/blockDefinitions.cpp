@@ -44,8 +44,8 @@ static Statement entityArrays(Writer& writer, const BlockDefinition& definition,
     const ArrayPlace objects(writer, "objects_" + QString::number(number), number);
     const ArrayPlace objectTypes(writer, "objecttypes_" + QString::number(number), number);
     Statement text = writer.fill(entitiesHead).number(number).number(bound).str() +
-                   objectLines(objects, definition.entities) +
-                   writer.fill(typesHead).number(number).number(bound).str();
+                     objectLines(objects, definition.entities) +
+                     writer.fill(typesHead).number(number).number(bound).str();
     if (writer.target == Target::CppCom)
         text += inOwnGroup(objectTypes, [&](const ArrayPlace& place) { return objectTypeLines(place, types); });
     else

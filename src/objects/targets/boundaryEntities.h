@@ -16,8 +16,8 @@ struct BoundaryObject
 struct BoundaryEntities
 {
     std::vector<QString> names; ///< variables, in the order of the boundary
-    Statement insertion;          ///< makes the temporary entities
-    Statement erasure; ///< takes them away again
+    Statement insertion;        ///< makes the temporary entities
+    Statement erasure;          ///< takes them away again
 };
 
 /// Objects of kinds that no hatch is made from are left out, whether they have a variable or not.

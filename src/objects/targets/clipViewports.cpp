@@ -161,7 +161,7 @@ static const Phrase insertViewport{
     }};
 
 Statement EmitInsertViewportByEntity(Writer& writer, const CFxString& sheet, const OdDbObjectPtr& clip,
-                                   const QString& variable, const CFxString& name)
+                                     const QString& variable, const CFxString& name)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     const Clip entity = variable.isEmpty() ? clipLike(writer, clip.get()) : Clip{variable, {}};

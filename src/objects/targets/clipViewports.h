@@ -8,4 +8,4 @@ bool CanMakeClip(const OdDbObject* entity);
 /// A viewport on the sheet that an entity bounds. `variable` is what the macro has for the entity; when it has none, a
 /// circle, polyline or ellipse is drawn like it. `clip` may be null.
 Statement EmitInsertViewportByEntity(Writer& writer, const CFxString& sheet, const OdDbObjectPtr& clip,
-                                   const QString& variable, const CFxString& name);
+                                     const QString& variable, const CFxString& name);

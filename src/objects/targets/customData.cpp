@@ -128,8 +128,8 @@ Statement EmitCustomData(Writer& writer, const CFxString& variable, const OdResB
 {
     const QLatin1String application(cloudApplication);
     Statement text = writer.fill(declareData).text(customDataVariable).str() +
-                   writer.fill(getData).text(variable).text(customDataVariable).text(application).str() +
-                   writer.fill(emptyData).text(customDataVariable).str() + writer.fill(declareCount).str();
+                     writer.fill(getData).text(variable).text(customDataVariable).text(application).str() +
+                     writer.fill(emptyData).text(customDataVariable).str() + writer.fill(declareCount).str();
     const Statement count = writer.fill(getCount).text(customDataVariable);
     for (OdResBufPtr element = data; element; element = element->next())
         if (const Statement insertion = insertElement(writer, *element); !insertion.isEmpty())

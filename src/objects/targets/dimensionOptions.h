@@ -66,12 +66,12 @@ Statement EmitGetOptions(Writer& writer, const OptionObject& object, const CFxSt
 Statement EmitSetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, const CFxString& options);
 /// `arrow` is the drawing's number of a kind of arrow, `name` the block of one that is of one's own.
 Statement EmitSetArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
-                     const CFxString& name);
+                       const CFxString& name);
 Statement EmitSetStyleArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
-                          const CFxString& name);
+                            const CFxString& name);
 /// `scale` is the drawing's number: 1 for the factor given, 2 for the scale of the sheet.
 Statement EmitSetDimensionScale(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t scale,
-                              double factor);
+                                double factor);
 Statement EmitSetExtensionLineFixedLength(Writer& writer, const CFxString& target, bool fixed, double length);
 
 // The host sets the kind of a center mark, a number of the drawing's, and its size together. On a dimension the
@@ -79,4 +79,4 @@ Statement EmitSetExtensionLineFixedLength(Writer& writer, const CFxString& targe
 Statement EmitSetCenterMarkKind(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind);
 Statement EmitSetCenterMarkSize(Writer& writer, const CFxString& target, const CFxString& operation, double size);
 Statement EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind,
-                               double size);
+                                 double size);

@@ -56,7 +56,7 @@ static Statement entityArray(Writer& writer, const std::vector<QString>& names)
 }
 
 static Statement comInsertionByEntities(Writer& writer, const CFxString& hatch, const std::vector<QString>& names,
-                                      const HatchPattern& pattern)
+                                        const HatchPattern& pattern)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     const Statement lines = objectLines({writer, "EntityArray" + QString::number(number), number}, names);
@@ -71,7 +71,7 @@ static Statement comInsertionByEntities(Writer& writer, const CFxString& hatch, 
 }
 
 Statement EmitInsertHatchByEntities(Writer& writer, const CFxString& hatch, const std::vector<BoundaryObject>& boundary,
-                                  const HatchPattern& pattern, bool erase)
+                                    const HatchPattern& pattern, bool erase)
 {
     const BoundaryEntities entities = EmitBoundaryEntities(writer, boundary);
     const bool erased = erase && !entities.erasure.isEmpty();
@@ -146,7 +146,7 @@ static void openLoops(Fill& call, const ArrayArgument& points, const ArrayArgume
 }
 
 Statement EmitInsertHatchByBoundary(Writer& writer, const CFxString& hatch, const OdArray<int>& counts,
-                                  const OdArray<OdGePoint2d>& points, const HatchPattern& pattern)
+                                    const OdArray<OdGePoint2d>& points, const HatchPattern& pattern)
 {
     const ArrayArgument coordinates =
         coordinateArray(writer, planar(points), "hatchPoints", NumberForm::Long, Brackets::Spaced);
@@ -176,7 +176,7 @@ static const Phrase insertByInternalPoints{
     }};
 
 Statement EmitInsertHatchByInternalPoints(Writer& writer, const CFxString& hatch, const OdArray<OdGePoint2d>& points,
-                                        const HatchPattern& pattern)
+                                          const HatchPattern& pattern)
 {
     const ArrayArgument coordinates =
         coordinateArray(writer, planar(points), "hatchPointsInter", NumberForm::Long, Brackets::Spaced);

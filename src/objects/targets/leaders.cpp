@@ -60,7 +60,7 @@ static const Phrase insertLeader{
     }};
 
 Statement EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
-                         const CFxString& name)
+                           const CFxString& name)
 {
     return callWithArray(
         writer, insertLeader, coordinateArray(writer, spatial(vertices), "leaderPoints"),

@@ -11,8 +11,9 @@ enum class LeaderAnnotation
     Block
 };
 
-Statement EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const CFxString& text, const CFxString& name);
+Statement EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const CFxString& text,
+                              const CFxString& name);
 Statement EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
-                         const CFxString& name);
+                           const CFxString& name);
 /// `text` is the tolerance's text or the block's name.
 Statement EmitSetAnnotation(Writer& writer, const CFxString& leader, LeaderAnnotation kind, const CFxString& text);

@@ -25,7 +25,7 @@ static const Phrase insertFace{
     }};
 
 Statement EmitInsertFace(Writer& writer, const OdArray<OdGePoint3d>& corners, const std::array<bool, 4>& edgesVisible,
-                       const CFxString& name)
+                         const CFxString& name)
 {
     return callWithArray(
         writer, insertFace, coordinateArray(writer, spatial(corners), "facePoints"),
@@ -101,7 +101,7 @@ static bool listsStandLast(Target target)
 }
 
 Statement EmitInsertPolygonMesh(Writer& writer, int rows, int columns, const OdArray<OdGePoint3d>& vertices,
-                              const CFxString& name)
+                                const CFxString& name)
 {
     const ArrayArgument array = coordinateArray(writer, spatial(vertices), "polMesh");
     if (!listsStandLast(writer.target))
@@ -144,7 +144,7 @@ static const Phrase insertPolyFaceMesh{
     }};
 
 Statement EmitInsertPolyFaceMesh(Writer& writer, int vertexCount, const OdArray<OdGePoint3d>& vertices,
-                               const OdArray<OdDbFaceRecord>& faces, const CFxString& name)
+                                 const OdArray<OdDbFaceRecord>& faces, const CFxString& name)
 {
     std::vector<int> counts;
     std::vector<int> numbers;

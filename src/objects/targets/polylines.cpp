@@ -35,7 +35,7 @@ static QString justificationWord(Target target, int justification)
 }
 
 Statement EmitInsertRichLine(Writer& writer, const OdArray<OdGePoint3d>& vertices, int justification, double scale,
-                           const CFxString& style, bool closed, const CFxString& name)
+                             const CFxString& style, bool closed, const CFxString& name)
 {
     const QString justificationText = justificationWord(writer.target, justification);
     const QString closedText = truthWord(writer.target, closed);
@@ -78,7 +78,7 @@ static const Phrase insertPolyline2D{
     }};
 
 static Statement insertPolyline(Writer& writer, const Phrase& phrase, const Coordinates& vertices, const char* script,
-                              bool closed, const CFxString& name)
+                                bool closed, const CFxString& name)
 {
     const QString closedText = truthWord(writer.target, closed);
     return callWithArray(
@@ -114,7 +114,7 @@ static const Phrase insertSpline{
     }};
 
 Statement EmitInsertSpline(Writer& writer, const OdArray<OdGePoint3d>& fitPoints, bool closed,
-                         const OdGePoint3d& startTangent, const OdGePoint3d& endTangent, const CFxString& name)
+                           const OdGePoint3d& startTangent, const OdGePoint3d& endTangent, const CFxString& name)
 {
     const QString closedText = truthWord(writer.target, closed);
     return callWithArray(

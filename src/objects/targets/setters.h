@@ -6,21 +6,21 @@
 #include "statements/enumerations.h"
 
 Statement EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const CFxString& value,
-                        bool quoted);
+                          bool quoted);
 Statement EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value);
 Statement EmitSetBoolProperty(Writer& writer, const CFxString& target, const CFxString& property, bool value);
 Statement EmitSetIndexedDouble(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t index,
-                             double value);
+                               double value);
 /// The enumerator is told by the text that the property sheet shows.
 Statement EmitSetEnumProperty(Writer& writer, const CFxString& target, const inkmacro::TextEnumeration& enumeration,
-                            const CFxString& property, const CFxString& shownText);
+                              const CFxString& property, const CFxString& shownText);
 /// The enumerator is told by the number that the drawing or the recording has for it.
 Statement EmitSetEnumValue(Writer& writer, const CFxString& target, const inkmacro::ValueEnumeration& enumeration,
-                         const CFxString& property, std::int32_t value);
+                           const CFxString& property, std::int32_t value);
 Statement EmitSetEnumSuffix(Writer& writer, const CFxString& target, const inkmacro::ValueEnumeration& enumeration,
-                          const CFxString& property, const char* suffix);
+                            const CFxString& property, const char* suffix);
 Statement EmitSetDecimalSeparator(Writer& writer, const CFxString& target, const CFxString& property,
-                                const CFxString& separator);
+                                  const CFxString& separator);
 Statement EmitSetColor(Writer& writer, const CFxString& target, const CFxString& property, const OdCmColor& color);
 Statement EmitSetLayer(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id);
 Statement EmitSetLineStyle(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id);

@@ -25,7 +25,7 @@ static Statement cellTypeEnumerator(const Writer& writer, std::int32_t cellType)
 }
 
 static Statement setOfCellsTo(Writer& writer, const CFxString& style, const CFxString& operation, std::int32_t cellType,
-                            const QString& value)
+                              const QString& value)
 {
     return writer.fillIndented(setOfCells)
         .text(style)
@@ -36,13 +36,13 @@ static Statement setOfCellsTo(Writer& writer, const CFxString& style, const CFxS
 }
 
 Statement EmitSetTableStyleColor(Writer& writer, const CFxString& style, const CFxString& operation,
-                               std::int32_t cellType, const OdCmColor& color)
+                                 std::int32_t cellType, const OdCmColor& color)
 {
     return setOfCellsTo(writer, style, operation, cellType, colorExpression(writer.target, color));
 }
 
 Statement EmitSetTableStyleLength(Writer& writer, const CFxString& style, const CFxString& operation,
-                                std::int32_t cellType, double length)
+                                  std::int32_t cellType, double length)
 {
     return setOfCellsTo(writer, style, operation, cellType, FormatLong(length));
 }
@@ -58,7 +58,7 @@ static const Phrase setAlignment{"EmitSetTableStyleAlignment",
 
 /// Where the host records in one of the C++ languages, the type in front of the alignment is taken off in any target.
 Statement EmitSetTableStyleAlignment(Writer& writer, const CFxString& style, std::int32_t cellType,
-                                   const CFxString& shownText)
+                                     const CFxString& shownText)
 {
     QString alignment = EnumeratorByText(writer.target, enums::tableCellAlignment, shownText);
     if (RecordsIn(Target::Cpp) || RecordsIn(Target::CppCom))
@@ -78,7 +78,8 @@ static const Phrase setTextStyle{"EmitSetTableStyleTextStyle",
                                      .vba = "%1 %2.SetTextStyle %3,\"%4\"%5",
                                  }};
 
-Statement EmitSetTableStyleTextStyle(Writer& writer, const CFxString& style, std::int32_t cellType, const CFxString& name)
+Statement EmitSetTableStyleTextStyle(Writer& writer, const CFxString& style, std::int32_t cellType,
+                                     const CFxString& name)
 {
     return writer.fillIndented(setTextStyle)
         .text(style)

@@ -8,12 +8,12 @@
 
 /// `shownText` is the alignment as the property sheet shows it.
 Statement EmitSetTableStyleAlignment(Writer& writer, const CFxString& style, std::int32_t cellType,
-                                   const CFxString& shownText);
+                                     const CFxString& shownText);
 Statement EmitSetTableStyleTextStyle(Writer& writer, const CFxString& style, std::int32_t cellType,
-                                   const CFxString& name);
+                                     const CFxString& name);
 /// `operation` is "SetBackgroundColor" or "SetTextColor".
 Statement EmitSetTableStyleColor(Writer& writer, const CFxString& style, const CFxString& operation,
-                               std::int32_t cellType, const OdCmColor& color);
+                                 std::int32_t cellType, const OdCmColor& color);
 /// `operation` is "SetTextHeight", "SetHorizontalMargin" or "SetVerticalMargin".
 Statement EmitSetTableStyleLength(Writer& writer, const CFxString& style, const CFxString& operation,
-                                std::int32_t cellType, double length);
+                                  std::int32_t cellType, double length);

@@ -53,7 +53,7 @@ static Statement cellTypeVariables(Writer& writer, const std::array<int, 3>& cel
 }
 
 Statement EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows, int columns, double rowHeight,
-                        double columnWidth, const std::array<int, 3>& cellTypes, const CFxString& name)
+                          double columnWidth, const std::array<int, 3>& cellTypes, const CFxString& name)
 {
     Fill call = writer.fill(insertTable);
     call.real(position.x).real(position.y).number(rows).number(columns).real(rowHeight).real(columnWidth);
@@ -186,7 +186,8 @@ static const Phrase setTableStyle{"EmitSetTableStyle: set",
                                       .vba = "%1%5.TableStyle = tablestylemgr%4.GetTableStyle(\"%2\")%3",
                                   }};
 
-Statement EmitSetTableStyle(Writer& writer, const CFxString& table, const CFxString& styleName, const CFxString& property)
+Statement EmitSetTableStyle(Writer& writer, const CFxString& table, const CFxString& styleName,
+                            const CFxString& property)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     Statement text = writer.fill(tableStyleManager).number(number);
@@ -248,7 +249,7 @@ static const Phrase setBordersColor{"EmitTableBordersColor",
                                     }};
 
 static Statement setBorders(Writer& writer, const Phrase& phrase, const CFxString& style, int cellType, int border,
-                          const QString& value)
+                            const QString& value)
 {
     return writer.fillIndented(phrase)
         .text(style)
@@ -264,7 +265,8 @@ Statement EmitTableBordersLineWeight(Writer& writer, const CFxString& style, int
                       LineWeightEnumerator(writer.target, weight));
 }
 
-Statement EmitTableBordersColor(Writer& writer, const CFxString& style, int cellType, int border, const OdCmColor& color)
+Statement EmitTableBordersColor(Writer& writer, const CFxString& style, int cellType, int border,
+                                const OdCmColor& color)
 {
     return setBorders(writer, setBordersColor, style, cellType, border, colorExpression(writer.target, color));
 }

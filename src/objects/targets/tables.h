@@ -13,13 +13,13 @@ std::array<int, 3> tableCellTypes(const OdDbTable& table);
 
 /// `cellTypes` as tableCellTypes gives them.
 Statement EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows, int columns, double rowHeight,
-                        double columnWidth, const std::array<int, 3>& cellTypes, const CFxString& name);
+                          double columnWidth, const std::array<int, 3>& cellTypes, const CFxString& name);
 
 /// Multiplies the size of each row or column of the table. `operation` is "SetRowHeight" or "SetColumnWidth".
 Statement EmitScaleTableRows(Writer& writer, const CFxString& table, const CFxString& operation, double coefficient);
 
 Statement EmitSetTableStyle(Writer& writer, const CFxString& table, const CFxString& styleName,
-                          const CFxString& property);
+                            const CFxString& property);
 
 /// `object` is "TableStyle" for where the header of a style stands, "Table" for which way a table runs. `down`: from
 /// the top, with the header there.
@@ -27,4 +27,5 @@ Statement EmitTableStyleOrientation(Writer& writer, const CFxString& target, con
 /// The numbers are the drawing's for cell types and borders. `weight` is in hundredths of a millimetre, -1 by layer, -2
 /// by block.
 Statement EmitTableBordersLineWeight(Writer& writer, const CFxString& style, int cellType, int border, int weight);
-Statement EmitTableBordersColor(Writer& writer, const CFxString& style, int cellType, int border, const OdCmColor& color);
+Statement EmitTableBordersColor(Writer& writer, const CFxString& style, int cellType, int border,
+                                const OdCmColor& color);

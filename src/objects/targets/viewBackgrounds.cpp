@@ -31,7 +31,7 @@ static const Phrase imageBackground{
     }};
 
 Statement EmitImageBackground(Writer& writer, const CFxString& path, const CFxString& position,
-                            const std::array<double, 4>& numbers, const CFxString& view)
+                              const std::array<double, 4>& numbers, const CFxString& view)
 {
     Fill statement = writer.fillIndented(imageBackground);
     statement.number(processCounters.of(writer.target).imageBackgrounds++).text(path);
@@ -106,7 +106,7 @@ static Fill& putColor(Fill& statement, const OdCmColor& color)
 }
 
 Statement EmitGradientBackground(Writer& writer, const OdCmColor& top, const OdCmColor& middle, const OdCmColor& bottom,
-                               double rotation, double height, const CFxString& view)
+                                 double rotation, double height, const CFxString& view)
 {
     Fill statement = writer.fillIndented(gradientBackground);
     statement.number(processCounters.of(writer.target).gradientBackgrounds++);

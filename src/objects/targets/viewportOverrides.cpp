@@ -58,7 +58,7 @@ static const Phrase rgbColor{
 
 /// `locals`: what the value needs in front of the call, in C++ alone.
 static Statement setOverride(Writer& writer, const Phrase& phrase, const CFxString& layer, const CFxString& operation,
-                           const Statement& value, const QString& suffix, const Statement& locals = {})
+                             const Statement& value, const QString& suffix, const Statement& locals = {})
 {
     Fill call = writer.fill(phrase);
     call.text(layer).text(operation).text(value);
@@ -79,7 +79,7 @@ Statement EmitViewportOverrideBool(Writer& writer, const CFxString& layer, const
 }
 
 Statement EmitViewportOverrideColor(Writer& writer, const CFxString& layer, const CFxString& operation,
-                                  const OdCmColor& color)
+                                    const OdCmColor& color)
 {
     const bool indexed = color.isByBlock() || color.isByLayer() || color.isByACI();
     const bool byLocal = writer.target == Target::Cpp;
@@ -97,7 +97,7 @@ Statement EmitViewportOverrideColor(Writer& writer, const CFxString& layer, cons
 }
 
 Statement EmitViewportOverrideLineStyle(Writer& writer, const CFxString& layer, const CFxString& operation,
-                                      const OdDbObjectId& id)
+                                        const OdDbObjectId& id)
 {
     const auto style = odrxCast<OdDbLinetypeTableRecord>(id.openObject(true).get());
     return style ? EmitViewportOverrideText(writer, layer, operation, style->getName(), true) : QString();
@@ -112,7 +112,8 @@ Statement EmitViewportOverrideLineWeight(Writer& writer, const CFxString& layer,
 }
 
 Statement EmitViewportOverrideText(Writer& writer, const CFxString& layer, const CFxString& operation,
-                                 const CFxString& value, bool quoted)
+                                   const CFxString& value, bool quoted)
 {
-    return setOverride(writer, quoted ? overrideText : overrideValue, layer, operation, value.toQString(), nextSuffix(writer));
+    return setOverride(writer, quoted ? overrideText : overrideValue, layer, operation, value.toQString(),
+                       nextSuffix(writer));
 }
