@@ -54,8 +54,10 @@ format:
 format-check:
 	@clang-format --dry-run -Werror $(SOURCES)
 
-tidy: build
-	run-clang-tidy -quiet -p $(BUILD) -extra-arg=-Wno-unknown-warning-option $(if $(JOBS),-j $(JOBS)) '$(CURDIR)/src/.*'
+# Without precompiled headers, which clang-tidy cannot read when another compiler made them.
+tidy: setup
+	cmake --preset $(PRESET) -B build/tidy -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON
+	run-clang-tidy -quiet -p build/tidy -extra-arg=-Wno-unknown-warning-option $(if $(JOBS),-j $(JOBS)) '$(CURDIR)/src/.*'
 
 clean:
 	rm -rf build

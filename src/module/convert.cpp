@@ -1,5 +1,6 @@
 // One conversion, from the output path to the project files.
 
+#include "host/kernel/CFxServices.h"
 #include "module/CFxConverterIWAPIImpl.h"
 #include "module/MacroFile.h"
 #include "module/walk.h"
@@ -11,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QScopedValueRollback>
+#include <QTextStream>
 
 #include <algorithm>
 
