@@ -154,8 +154,7 @@ QChar* write(QChar* out, Fill::Blanks value)
 
 QChar* copyText(QChar* out, const QChar* from, qsizetype length)
 {
-    std::memcpy(static_cast<void*>(out), from, static_cast<std::size_t>(length) * sizeof(QChar));
-    return out + length;
+    return std::copy_n(from, length, out);
 }
 
 QChar* write(QChar* out, QStringView value)
