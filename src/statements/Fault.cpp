@@ -1,7 +1,5 @@
 #include "statements/Fault.h"
 
-#include <algorithm>
-
 namespace inkmacro {
 
 namespace {
@@ -24,11 +22,6 @@ Fault::Fault(const char* operation, std::initializer_list<Target> targets, const
 Fault::~Fault()
 {
     std::erase(registry(), this);
-}
-
-std::size_t Fault::number() const
-{
-    return static_cast<std::size_t>(std::find(registry().begin(), registry().end(), this) - registry().begin());
 }
 
 const std::vector<const Fault*>& Fault::all()

@@ -23,8 +23,6 @@ public:
     const char* reason() const { return reason_; }
     const std::vector<Target>& targets() const { return targets_; }
     bool mended() const { return mended_; }
-    /// In all().
-    std::size_t number() const;
 
     static const std::vector<const Fault*>& all();
 
