@@ -237,7 +237,7 @@ Statement EmitInsertViewport(Writer& writer, const CFxString& variable, const CF
 
 // Clip boundaries of images. In C++ each operation tells its success by a local.
 
-/// VBA has brackets here. It has to stay so.
+/// VBA has brackets here, and a page gives the picture another polyline. Both have to stay so.
 static const Phrase setClipBoundary{
     "EmitSetClipBoundary",
     {
@@ -247,16 +247,19 @@ static const Phrase setClipBoundary{
                   "%1variant%3.parray = SafeArrayCreateVector( VT_R8, 0, %5 );%2%4%2"
                   "%1%6->SetClipBoundary( variant%3 );%2%2",
         .csharp = "%1%4.SetClipBoundary( new double[]{%3} );%2%2",
-        .javascript = "%1%4.SetClipBoundary( %3 );%2%2",
+        .javascript = "%1%4.InsertPolyline2D(%3);%2",
         .vbNet = "%1Dim Coordinates%3(%4) As Double%2%5%2%1%6.SetClipBoundary( Coordinates%3 )%2%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2%1%6.SetClipBoundary( Coordinates%3 )%2%2",
     }};
 
+static const Mend callsOtherMethod{setClipBoundary, Target::JavaScript, "a picture has no InsertPolyline2D",
+                                   "%1%4.SetClipBoundary( %3 );%2"};
+
 Statement EmitSetClipBoundary(Writer& writer, const CFxString& image, const OdArray<OdGePoint2d>& points)
 {
     return callWithArray(
-        writer, setClipBoundary, coordinateArray(writer, planar(points), "points", NumberForm::Short), [](Fill&) {},
-        image);
+        writer, setClipBoundary, coordinateArray(writer, planar(points), "ClipPointsDblArray", NumberForm::Short),
+        [](Fill&) {}, image);
 }
 
 static const Phrase removeClipBoundary{"EmitRemoveClipBoundary",
