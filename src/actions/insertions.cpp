@@ -125,11 +125,12 @@ std::int32_t ConvertActionInsertHatch(Conversion& conversion, const CFxCustomAct
     } else {
         text = hatchByBoundary(conversion.writer, hatch, pattern, action);
     }
-    if (!text.isEmpty())
-        conversion.insertedHatches.insert(hatch);
-    else if (!handedOver.isEmpty())
+    const bool inserts = !text.isEmpty();
+    if (!inserts && !handedOver.isEmpty())
         conversion.names().SetUnmade(conversion.lastFinished);
-    if (hasGradient && (!text.isEmpty() || conversion.names().NamesUnmade()))
+    if (hasGradient && (inserts || conversion.names().NamesUnmade()))
         text += EmitHatchGradient(conversion.writer, hatch, gradientAt(action, gradient));
+    if (inserts)
+        conversion.insertedHatches.insert(hatch); // not before it is sure that nothing fails
     return kFxSuccess;
 }

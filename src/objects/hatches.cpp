@@ -46,12 +46,8 @@ std::vector<BoundaryObject> BoundaryObjects(const Names& names, const OdArray<Od
     std::vector<BoundaryObject> boundary;
     std::set<OdDbObjectId> seen;
     for (const OdDbObjectId& id : ids) {
-        if (!seen.insert(id).second)
-            continue;
-        OdDbObjectPtr object = id.openObject(true);
-        if (!object)
-            throw OdError(eNullObjectPointer);
-        boundary.push_back({std::move(object), names.AddedVariable(id)});
+        if (seen.insert(id).second)
+            boundary.push_back({id, names.AddedVariable(id)});
     }
     return boundary;
 }

@@ -12,6 +12,5 @@ using TakeTag = std::function<CFxVariant(const char* tag)>;
 /// of it. `pattern` is the variable of the hatch's pattern object.
 Statement ConvertHatchCommonProperties(Writer& writer, const CFxString& pattern, const TakeTag& take);
 
-/// The objects that a hatch's boundary follows, erased ones included and each of them once, with the variables of those
-/// that were added before. Raises an OdError for an object that the drawing does not have.
+/// The objects that a hatch's boundary follows, each of them once, with the variables of those that were added before.
 std::vector<BoundaryObject> BoundaryObjects(const Names& names, const OdArray<OdDbObjectId>& ids);

@@ -163,6 +163,23 @@ TEST_F(Hatches, OfMissingObjectsFail)
     EXPECT_EQ(inserted(Target::CSharp, missing, kFxFailure), "");
     const TestData null = head(false, true, false, false) + TestData{Ids{OdDbObjectId()}, true};
     EXPECT_EQ(inserted(Target::CSharp, null, kFxFailure), "");
+    // They are missed at their turn: what stands ahead of them has used up its number.
+    const TestData behind = head(false, true, false, false) + TestData{Ids{drawing.id(0x20), drawing.id(0x99)}, true};
+    EXPECT_EQ(inserted(Target::CSharp, behind, kFxFailure), "");
+    EXPECT_NE(byEntities(Target::CSharp, {0x20}).find("Circle hatchCircle_1 = "), std::string::npos);
+}
+
+TEST_F(Hatches, AreNotMadeByAnActionThatFails)
+{
+    const auto madeBy = [](const TestData& data, std::int32_t status) {
+        TestTarget made(Target::CSharp);
+        Statement text("h");
+        EXPECT_EQ(ConvertAction(made.conversion, odrxNew<TestCustom>(18, data), text), status);
+        return made.conversion.insertedHatches.contains("h");
+    };
+    const TestData internal = head(true, false, false, true) + TestData{triangle};
+    EXPECT_TRUE(madeBy(internal + gradient, kFxSuccess));
+    EXPECT_FALSE(madeBy(internal, kFxFailure));
 }
 
 TEST_F(Hatches, EraseRegionsByTheNumberOfTables)

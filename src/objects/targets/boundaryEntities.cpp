@@ -309,9 +309,12 @@ BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<Boundary
     auto& counters = processCounters.of(writer.target).boundaryEntities;
     BoundaryEntities entities;
     for (const BoundaryObject& entity : boundary) {
-        const TemporaryKind* const kind = kindOf(*entity.object, boundaryKinds);
+        const OdDbObjectPtr object = entity.id.openObject(true);
+        if (!object)
+            throw OdError(eNullObjectPointer);
+        const TemporaryKind* const kind = kindOf(*object, boundaryKinds);
         if (!kind) {
-            loseBoundary(*entity.object);
+            loseBoundary(*object);
             continue;
         }
         if (!entity.variable.isEmpty()) {
@@ -320,7 +323,7 @@ BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<Boundary
         }
         std::uint32_t& counter = counters[static_cast<std::size_t>(kind - boundaryKinds)];
         const QString name = numbered(*kind, counter);
-        entities.insertion += insertTemporary(writer, *kind, *entity.object, name);
+        entities.insertion += insertTemporary(writer, *kind, *object, name);
         entities.erasure += eraseTemporary(writer, *kind, counter);
         entities.names.push_back(name);
         ++counter;

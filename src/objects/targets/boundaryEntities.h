@@ -5,10 +5,10 @@
 
 #include <vector>
 
-/// An object that a hatch's boundary follows, and the variable that the macro has for it, if any.
+/// An object that a hatch's boundary follows, erased or not, and the variable that the macro has for it, if any.
 struct BoundaryObject
 {
-    OdDbObjectPtr object;
+    OdDbObjectId id;
     QString variable;
 };
 
@@ -20,7 +20,8 @@ struct BoundaryEntities
     Statement erasure;          ///< takes them away again
 };
 
-/// Objects of kinds that no hatch is made from are left out, whether they have a variable or not.
+/// Objects of kinds that no hatch is made from are left out, whether they have a variable or not. One that the drawing
+/// does not have raises an OdError at its turn: the entities ahead of it have used up their numbers.
 BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<BoundaryObject>& boundary);
 /// Makes the curves around a region and the region from them. Curves of other kinds than circle, ellipse, arc and line
 /// are left out. The curves stay in the drawing.
