@@ -71,18 +71,22 @@ struct PiecesOfClass
 {
     const SearchedClass& searched;
     const InterfaceType& type;
-    QString stem; ///< of the variables
+    QString stem;     ///< of the locals
+    QString declared; ///< stem of the pieces' variables
     std::vector<NumberedPiece> pieces;
 };
 
 } // namespace
 
-static std::vector<PiecesOfClass> byClass(const std::vector<TrimPiece>& pieces)
+static std::vector<PiecesOfClass> byClass(Target target, const std::vector<TrimPiece>& pieces)
 {
     std::vector<PiecesOfClass> classes;
     for (const SearchedClass& searched : searchedClasses()) {
-        const InterfaceType& type = *FindInterface(oddbClassByName(QString::fromLatin1(searched.name.data())));
-        PiecesOfClass found{searched, type, QString(type.name).toLower(), {}};
+        const OdRxClass* const cls = oddbClassByName(QString::fromLatin1(searched.name.data()));
+        const InterfaceType& type = *FindInterface(cls);
+        const QString stem = QString(type.name).toLower();
+        PiecesOfClass found{
+            searched, type, stem, target == Target::Cpp ? FindTypeNames(cls)->stem.toQString() : stem, {}};
         for (std::size_t i = 0; i < pieces.size(); ++i)
             if (FindInterface(pieces[i].entry.cls) == &type)
                 found.pieces.push_back({i, pieces[i].entry.ordinal});
@@ -182,7 +186,7 @@ static Statement numbersOf(Writer& writer, const std::vector<TrimPiece>& pieces)
 /// A page has no other declaration of the variable.
 static const Phrase resetVariable{"EmitTrimEntities: search",
                                   {
-                                      .cpp = "%1iw%3%4 = NULL;%2",
+                                      .cpp = "%1%3%4 = NULL;%2",
                                       .cppCom = "%1%3%4 = NULL;%2",
                                       .csharp = "%1%3%4 = null;%2",
                                       .javascript = "%1var %3%4 = null;%2",
@@ -192,12 +196,12 @@ static const Phrase resetVariable{"EmitTrimEntities: search",
 
 static const Phrase assignVariable{"EmitTrimEntities: search",
                                    {
-                                       .cpp = "%1if (iNewEnt == %3)%2%1    iw%4%5 = %4;%2",
-                                       .cppCom = "%1if (iNewEnt == %3)%2%1    %4%5 = %4;%2",
-                                       .csharp = "%1if (iNewEnt == %3)%2%1    %4%5 = %4;%2",
-                                       .javascript = "%1if (iNewEnt == %3)%2%1    %4%5 = %4;%2",
-                                       .vbNet = "%1If iNewEnt = %3 Then%2%1    %4%5 = %4%2%1End If%2",
-                                       .vba = "%1If iNewEnt = %3 Then%2%1    Set %4%5 = %4%2%1End If%2",
+                                       .cpp = "%1if (iNewEnt == %3)%2%1    %4%5 = %6;%2",
+                                       .cppCom = "%1if (iNewEnt == %3)%2%1    %4%5 = %6;%2",
+                                       .csharp = "%1if (iNewEnt == %3)%2%1    %4%5 = %6;%2",
+                                       .javascript = "%1if (iNewEnt == %3)%2%1    %4%5 = %6;%2",
+                                       .vbNet = "%1If iNewEnt = %3 Then%2%1    %4%5 = %6%2%1End If%2",
+                                       .vba = "%1If iNewEnt = %3 Then%2%1    Set %4%5 = %6%2%1End If%2",
                                    }};
 
 /// `%9` is the interface's name, in VBA all declarations. The blanks in front of the first test are those of the loop,
@@ -410,7 +414,12 @@ static Statement sectionOf(Writer& writer, const PiecesOfClass& of, bool first, 
 {
     Statement assignments;
     for (const auto& [number, ordinal] : of.pieces)
-        assignments += writer.fill(assignVariable).number(qulonglong{number}).text(of.stem).number(ordinal).str();
+        assignments += writer.fill(assignVariable)
+                           .number(qulonglong{number})
+                           .text(of.declared)
+                           .number(ordinal)
+                           .text(of.stem)
+                           .str();
 
     const Questions questions = questionsOf(writer, of);
     std::vector<Statement> declarations = declarationsOf(writer, of, questions.locals);
@@ -521,13 +530,13 @@ static const Phrase searchLoop{
 
 Statement trimSearch(Writer& writer, const std::vector<TrimPiece>& pieces)
 {
-    const std::vector<PiecesOfClass> classes = byClass(pieces);
+    const std::vector<PiecesOfClass> classes = byClass(writer.target, pieces);
     Statement resets;
     Statement sections;
     std::vector<Statement> declared;
     for (const PiecesOfClass& of : classes) {
         for (const NumberedPiece& piece : of.pieces)
-            resets += writer.fill(resetVariable).text(of.stem).number(piece.ordinal).str();
+            resets += writer.fill(resetVariable).text(of.declared).number(piece.ordinal).str();
         sections += sectionOf(writer, of, sections.isEmpty(), declared);
     }
     if (!sections.isEmpty())

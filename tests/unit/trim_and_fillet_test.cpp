@@ -165,6 +165,19 @@ TEST(Trim, SearchesForWhatIsNewOnly)
     EXPECT_FALSE(search.contains("circle3 ="));
 }
 
+TEST(Trim, AssignsTheDeclaredVariableInWhateverLanguageTheHostRecords)
+{
+    for (const auto& [language, variable] : {std::pair{0, "iwline2"}, {1, "line2"}}) {
+        Cut cut(Target::Cpp);
+        GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
+        const QString text = cut.converted(6, trimOf({{0x30, "AcDbLine"}}));
+        EXPECT_TRUE(text.contains(QString(" %1;\n").arg(variable))) << text.toStdString();
+        EXPECT_TRUE(text.contains(QString("            %1 = NULL;\n").arg(variable)));
+        EXPECT_TRUE(text.contains(QString("                %1 = line;\n").arg(variable)));
+    }
+    GetFxSystemServices()->SetInt16("RecordingLanguage", 0);
+}
+
 TEST(Trim, SearchesNothingByTestsInOneOfOtherClasses)
 {
     // Neither a test nor the end of tests.
