@@ -9,7 +9,6 @@
 #include <QStringView>
 #include <QVarLengthArray>
 
-#include <cstdlib>
 #include <optional>
 #include <utility>
 #include <variant>
@@ -53,13 +52,8 @@ public:
     Fill& operator=(const Fill&) = delete;
     Fill(Fill&&) = default; // what is kept does not move, so the views stay good
 
-    /// Four blanks a level, but one blank at level 0. A level that was lowered below 0 has as many blanks as its
-    /// counterpart above: so QString::arg takes a negative width.
-    static int indentationWidth(unsigned level)
-    {
-        const int width = static_cast<int>(4 * level);
-        return width == 0 ? 1 : std::abs(width);
-    }
+    /// Four blanks a level, but one blank at level 0.
+    static int indentationWidth(unsigned level) { return level == 0 ? 1 : static_cast<int>(4 * level); }
     Fill& indent(unsigned level) { return add(Blanks{indentationWidth(level)}); }
 
     /// The text LineEnd.

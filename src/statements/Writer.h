@@ -4,6 +4,7 @@
 #include "statements/Fault.h"
 #include "statements/Statement.h"
 
+#include <algorithm>
 #include <cstdint>
 
 /// What a statement is filled with: the target, the depth that it stands at, and the number that keeps its local names
@@ -41,6 +42,8 @@ public:
     const bool notesFaults;
     /// Depth of the statement being written, four blanks a level.
     std::uint32_t IndentLevel = 0;
+    /// Not below 0: statements may give back more levels than there are.
+    void lowerLevel(std::uint32_t by = 1) { IndentLevel -= std::min(by, IndentLevel); }
     /// Suffix that keeps the local names of one statement apart: raised before use by each statement that has one.
     std::uint32_t UniqueCounter = 0;
 

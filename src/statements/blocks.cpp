@@ -25,9 +25,14 @@ Statement blockBeginAt(const Writer& writer, std::uint32_t level)
     return writer.fillPlain(blockBegin).indent(level).lineEnd();
 }
 
+bool hasBlocks(const Writer& writer)
+{
+    return blockBegin.has(writer.target);
+}
+
 void enterBlock(Writer& writer)
 {
-    if (blockBegin.has(writer.target))
+    if (hasBlocks(writer))
         ++writer.IndentLevel;
 }
 
@@ -42,8 +47,8 @@ static const Phrase blockEnd{"EmitBlockEnd",
 
 Statement EmitBlockEnd(Writer& writer)
 {
-    if (blockEnd.has(writer.target))
-        --writer.IndentLevel;
+    if (hasBlocks(writer))
+        writer.lowerLevel();
     return writer.fill(blockEnd);
 }
 

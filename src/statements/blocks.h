@@ -10,4 +10,7 @@ Statement EmitBlockEnd(Writer& writer);
 Statement blockBeginAt(const Writer& writer, std::uint32_t level);
 void enterBlock(Writer& writer);
 
+/// Whether the target has groups.
+bool hasBlocks(const Writer& writer);
+
 Statement EmitObjectModifiedComment(Writer& writer, const CFxString& className);

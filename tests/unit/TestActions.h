@@ -132,9 +132,9 @@ inline OdSmartPtr<TestCommand> command(CFxActionArray actions)
 /// A conversion to C# in a folder of its own.
 struct TestConversion
 {
-    std::int32_t run(const CFxActionArray& actions, std::uint32_t mode = 0)
+    std::int32_t run(const CFxActionArray& actions, std::uint32_t mode = 0, std::uint32_t language = 1)
     {
-        return CreateConverter(1, mode, 0)->Convert(path(), actions);
+        return CreateConverter(language, mode, 0)->Convert(path(), actions);
     }
     QString path() const { return folder.filePath("made/plate.cs"); }
     QByteArray macro() const

@@ -1,6 +1,7 @@
 // The walk over a recording: what reaches the file, in which order, and what a failure leaves behind.
 
 #include "TestActions.h"
+#include "TestRepair.h"
 
 #include "host/kernel/CFxServices.h"
 #include "statements/RecordingState.h"
@@ -169,6 +170,25 @@ TEST_F(Driver, WritesBareStatementsForPolylinesAndViewports)
         EXPECT_EQ(conversion.body(),
                   line1 + "            Line line2;\n            {\n" + lineStatement(2, 4) + "            }\n");
     }
+}
+
+TEST_F(Driver, LowersTheLevelOfAPageDownToNothing)
+{
+    GetFxSystemServices()->SetInt16("RecordingLanguage", 2);
+    CFxActionArray commands;
+    for (std::uint64_t i = 1; i <= 5; ++i)
+        commands.append(command({addedLine(i), odrxNew<TestCustom>(16)}));
+    const auto widths = [&] {
+        EXPECT_EQ(conversion.run(commands, 0, 2), kFxSuccess);
+        std::vector<qsizetype> found;
+        for (const QByteArray& line : conversion.macro().split('\n'))
+            if (line.contains("mSkMgr.InsertLine("))
+                found.push_back(line.indexOf("var"));
+        return found;
+    };
+    EXPECT_EQ(widths(), (std::vector<qsizetype>{12, 8, 4, 1, 1}));
+    const TestRepair repair;
+    EXPECT_EQ(widths(), std::vector<qsizetype>(5, 12));
 }
 
 TEST_F(Driver, IndentsAllThatFollowsABackgroundWithoutATarget)

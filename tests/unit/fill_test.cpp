@@ -327,7 +327,6 @@ TEST(Fill, WritesEachKindOfValue)
         {"[%1]", {Indent{0}}, "[ ]"},
         {"[%1]", {Indent{1}}, "[    ]"},
         {"[%1]", {Indent{3}}, "[            ]"},
-        {"[%1]", {Indent{0U - 2}}, "[        ]"},
         {"%1;", {QString("text")}, "text;"},
         {"%1;", {QString()}, ";"},
         {"%1", {QLatin1String("\xe9")}, "é"},

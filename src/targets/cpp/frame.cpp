@@ -45,7 +45,7 @@ Statement CFxConverterIWAPICPP::EmitFileHeader(const QString& className, bool)
 
 Statement CFxConverterIWAPICPP::EmitFileFooter()
 {
-    writer.IndentLevel -= 1;
+    writer.lowerLevel();
     static const Template words("    return true;%1}%1%1const iwString &CMacroCommand::GetName() const%1{%1"
                                 "    return m_name;%1}%1",
                                 writer.target);

@@ -112,7 +112,7 @@ Statement CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool
 
 Statement CFxConverterIWAPICPPCOM::EmitFileFooter()
 {
-    writer.IndentLevel -= 1;
+    writer.lowerLevel();
     static const Template words("}%1%1", writer.target);
     return writer.fill(words).text(LineEnd);
 }

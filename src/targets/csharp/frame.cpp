@@ -56,7 +56,7 @@ Statement CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool
 
 Statement CFxConverterIWAPICSharp::EmitFileFooter()
 {
-    writer.IndentLevel -= 3;
+    writer.lowerLevel(3);
     static const Template words("        }%1    }%1}%1", writer.target);
     return writer.fill(words).text(LineEnd);
 }

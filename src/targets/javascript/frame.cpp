@@ -157,7 +157,7 @@ Statement CFxConverterIWAPIJavaScript::EmitFileHeader(const QString&, bool)
 
 Statement CFxConverterIWAPIJavaScript::EmitFileFooter()
 {
-    writer.IndentLevel -= 3;
+    writer.lowerLevel(3);
     static const Template words(
         "       }%1   </script>%1   </head>%1   <body>%1   <h2>Recorded Macro</h2>%1   <form name=\"macroform\">%1"
         "       <button type=\"button\" onclick=\"runMacro()\">Run macro</button><br />%1   </form>%1   </body>%1"
