@@ -147,9 +147,13 @@ const Fault kUnknownLocation{
     "the property of a location that the host does not have lacks its name"};
 
 /// In strings of the curly languages a backslash escapes. The host's setting decides, not the target.
-CFxString quotable(const CFxString& path)
+CFxString quotable(Conversion& conversion, const CFxString& path)
 {
-    return RecordsIn(Target::VbNet) || RecordsIn(Target::Vba) ? path : CFxString(doubleBackslashes(path));
+    const bool basic = RecordsIn(Target::VbNet) || RecordsIn(Target::Vba);
+    CFxString doubled(doubleBackslashes(path));
+    if (basic != isBasic(conversion.writer.target) && doubled.toQString() != path.toQString())
+        conversion.faults.note(otherLanguage);
+    return basic ? path : doubled;
 }
 
 } // namespace
@@ -169,7 +173,7 @@ static std::int32_t ConvertFileLocation(Conversion& conversion, const FileObject
     text += files.emitObject(conversion.writer, variable);
     bool isSet = true;
     if (value.GetType() == CFxCustomActionData::kString)
-        text += EmitSetProperty(conversion.writer, variable, property, quotable(value.GetString()), true);
+        text += EmitSetProperty(conversion.writer, variable, property, quotable(conversion, value.GetString()), true);
     else if (value.GetType() == CFxCustomActionData::kStringArray)
         text += EmitFileLocationArray(conversion.writer, variable, property, value.GetStringArray());
     else

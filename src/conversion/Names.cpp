@@ -6,6 +6,7 @@
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "objects/targets/references.h"
+#include "statements/RecordingState.h"
 #include "statements/arrays.h"
 #include "targets/variables.h"
 
@@ -82,6 +83,8 @@ const ActionEntry* Names::FindEntry(const OdDbHandle& handle) const
     const bool isUnmade = IsUnmade(handle);
     if (isUnmade)
         faults_.noteUnmade();
+    if (RecordsOtherTypes(writer_.target))
+        faults_.note(otherLanguage);
     if (outOfReach_.contains(handle))
         faults_.note(kOutOfReach);
     return isUnmade && !NamesUnmade() ? nullptr : &found->second;
@@ -163,6 +166,8 @@ CFxString Names::FetchedUnknown(const OdDbHandle& handle, const OdRxClass* cls)
 
 CFxString Names::VariableOfMade(const CFxString& handedOver, const char* className)
 {
+    if (RecordsOtherTypes(writer_.target))
+        faults_.note(otherLanguage);
     if (!handedOver.isEmpty())
         return handedOver;
     faults_.note(kUnnamed);
@@ -210,8 +215,11 @@ CFxString Names::NameObject(const OdDbHandle& handle, const OdRxClass* cls)
 
 Statement Names::EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
 {
-    return NameVariable(handle, cls, name) ? EmitGetObjectByHandle(writer_, FindTypeNames(cls)->type, name, handle)
-                                           : Statement();
+    if (!NameVariable(handle, cls, name))
+        return {};
+    if (RecordsOtherTypes(writer_.target))
+        faults_.note(otherLanguage);
+    return EmitGetObjectByHandle(writer_, FindTypeNames(cls)->type, name, handle);
 }
 
 CFxString Names::NameAdded(const ActionEntry& entry, const OdRxClass* cls, const OdDbObjectId& id)

@@ -15,6 +15,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -45,6 +46,9 @@ CFxConverterIWAPIImpl::CFxConverterIWAPIImpl(inkmacro::Target target, std::uint3
 std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActionArray& actions)
 {
     Writer& writer = conversion.writer;
+    std::optional<OwnLanguage> language;
+    if (writer.repairs)
+        language.emplace(writer.target);
     GetFxSystemServices()->Notes().Forget();
     const QDir directory(QFileInfo(path).path());
     if (!directory.exists() && !directory.mkpath("."))
@@ -64,6 +68,8 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     Statement header = frame->EmitFileHeader(inkmacro::projectName(path), hasSysVar);
     if (!RecordingInModel && RecordingSheetName.isEmpty() && writer.target != inkmacro::Target::JavaScript)
         header = writer.faulty(header, kNoSketchManager);
+    if (writer.target == inkmacro::Target::Vba && stream.generateByteOrderMark())
+        header = writer.faulty(header, otherLanguage);
     macro.write(header);
     RecordingSheetName = CFxString();
     RecordingInModel = true;

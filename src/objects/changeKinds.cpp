@@ -320,8 +320,12 @@ Statement changePoint(const Change& change)
 
 Statement changeScale(const Change& change)
 {
-    if (!RecordsIn(inkmacro::Target::JavaScript))
-        return changePoint(change);
+    if (!RecordsIn(inkmacro::Target::JavaScript)) {
+        Statement text = changePoint(change);
+        return change.writer.target == inkmacro::Target::JavaScript
+                   ? change.writer.faulty(std::move(text), otherLanguage)
+                   : text;
+    }
     const QString& pair = change.row.property;
     return EmitChangeScale(change.writer, change.target, change.row.axis, "Get" + pair, "Set" + pair,
                            change.value.GetDouble());

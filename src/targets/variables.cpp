@@ -2,7 +2,10 @@
 
 #include "targets/variables.h"
 
+#include "statements/RecordingState.h"
 #include "statements/counters.h"
+
+#include <utility>
 
 using namespace inkmacro;
 
@@ -27,7 +30,7 @@ static QString untyped(Target target, const QString& type, QString declaration)
     return declaration;
 }
 
-Statement EmitVariableDeclaration(Writer& writer, const ActionEntry& entry)
+static Statement declaration(Writer& writer, const ActionEntry& entry)
 {
     const TypeNames* const names = FindTypeNames(entry.cls);
     if (!names)
@@ -39,6 +42,12 @@ Statement EmitVariableDeclaration(Writer& writer, const ActionEntry& entry)
         return writer.fill(declareVariable).text(type).text(stem).number(entry.ordinal);
     return untyped(writer.target, type,
                    writer.fill(declareVariable).text(stem).number(entry.ordinal).text(type).str().text());
+}
+
+Statement EmitVariableDeclaration(Writer& writer, const ActionEntry& entry)
+{
+    Statement text = declaration(writer, entry);
+    return RecordsOtherTypes(writer.target) ? writer.faulty(std::move(text), otherLanguage) : text;
 }
 
 const Fault kLayerZero{"EmitGetLayer",

@@ -81,7 +81,20 @@ class Checked:
                 if file.stem in found:
                     sys.exit(f"{file} and {found[file.stem]} would give macros of one name")
                 found[file.stem] = file
+        for file in self.source.glob("tests/tools/recordings/languages/*.jsonl"):
+            found |= {one.stem: one for one in self._in_all_languages(file)}
         return dict(sorted(found.items()))
+
+    def _in_all_languages(self, recording):
+        """Copies of a recording whose headers say that the host recorded in each of the languages."""
+        folder = self.folder / "languages"
+        folder.mkdir(exist_ok=True)
+        header, *lines = recording.read_text(encoding="utf-8").split("\n")
+        for code in range(len(EXTENSIONS)):
+            file = folder / f"{recording.stem}_{code}.jsonl"
+            header = json.dumps({"recording": json.loads(header)["recording"] | {"language": code}})
+            file.write_text("\n".join([header, *lines]), encoding="utf-8")
+            yield file
 
     def has(self, target):
         listed = run(self.program, "--help").stdout

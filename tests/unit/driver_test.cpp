@@ -1,15 +1,20 @@
 // The walk over a recording: what reaches the file, in which order, and what a failure leaves behind.
 
 #include "TestActions.h"
+#include "TestDrawing.h"
 #include "TestRepair.h"
 
 #include "host/kernel/CFxServices.h"
 #include "statements/RecordingState.h"
+#include "statements/counters.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
+
+#include <set>
 
 namespace {
 
@@ -239,6 +244,29 @@ TEST_F(Driver, FollowsTheRecordingLanguageAndNotItsOwn)
         EXPECT_EQ(conversion.macro().contains("            iwLine_ptr iwline_ptr1;\n            {\n"), language == 0);
         EXPECT_EQ(conversion.macro().contains("                iwline1 = iwSketchManager"), language == 0);
         EXPECT_EQ(conversion.macro().contains("            iwRegion_c* iwregion_c*2;\n"), language == 0);
+    }
+}
+
+TEST_F(Driver, RepairsAMacroInWhateverLanguageTheHostRecords)
+{
+    TestDrawing drawing;
+    drawing.add(0x10, "AcDbLayerTableRecord", {{"name", CFxString("Walls")}});
+    const TestRepair repair;
+    // What a layer's change is written on, the declarations and the byte order mark follow the language.
+    const CFxActionArray actions{
+        command({addedLine(1)}),
+        command({odrxNew<TestModified>("AcDbLayerTableRecord", 0x10,
+                                       PropertyList{odrxNew<TestProperty>("Frozen", CFxString("Yes"))})})};
+    for (const std::uint32_t target : {0U, 1U, 2U, 3U, 4U, 5U}) {
+        std::set<QString> macros;
+        for (const std::int16_t language : {0, 1, 2, 3, 4, 5}) {
+            GetFxSystemServices()->SetInt16("RecordingLanguage", language);
+            processCounters = {};
+            ASSERT_EQ(conversion.run(actions, 0, target), kFxSuccess);
+            static const QRegularExpression randomId("[0-9A-Fa-f-]{36}");
+            macros.insert(QString(conversion.macro()).remove(randomId));
+        }
+        EXPECT_EQ(macros.size(), 1U) << target;
     }
 }
 

@@ -7,6 +7,7 @@
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/blockContents.h"
+#include "statements/RecordingState.h"
 #include "statements/wording.h"
 #include "targets/groups.h"
 
@@ -119,8 +120,11 @@ Statement ReadLayer(AddedObject& added)
         if (const auto record = added.open<OdDbLayerTableRecord>())
             layer = record->getName();
     Statement text = EmitCreateLayer(added.writer, layer, added.name);
-    if (added.takeText("ActivateLayer") == ShownWord("Yes"))
+    if (added.takeText("ActivateLayer") == ShownWord("Yes")) {
+        if (RecordsOtherwise(inkmacro::Target::JavaScript, added.writer.target))
+            added.conversion.faults.note(otherLanguage);
         text += EmitActivateLayer(added.writer, LayerOf(added.name));
+    }
     return text;
 }
 

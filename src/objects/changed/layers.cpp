@@ -5,6 +5,7 @@
 #include "objects/losses.h"
 #include "objects/properties.h"
 #include "objects/targets/styles.h"
+#include "statements/RecordingState.h"
 
 using namespace kinds;
 
@@ -41,5 +42,7 @@ const ChangeGroups modifiedGroup{
 void ConvertModifiedLayer(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
 {
     const RecordedObject layer{object.cls, object.handle, LayerOf(object.name)};
+    if (RecordsOtherwise(inkmacro::Target::JavaScript, conversion.writer.target))
+        conversion.faults.note(otherLanguage);
     ConvertRows(conversion, modifiedLayer, layer, list, text);
 }

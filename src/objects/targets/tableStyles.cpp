@@ -61,13 +61,15 @@ Statement EmitSetTableStyleAlignment(Writer& writer, const CFxString& style, std
                                      const CFxString& shownText)
 {
     QString alignment = EnumeratorByText(writer.target, enums::tableCellAlignment, shownText);
+    const QString own = alignment;
     if (RecordsIn(Target::Cpp) || RecordsIn(Target::CppCom))
         alignment.remove(QLatin1String("iwTableCellAlignment_e."));
-    return writer.fillIndented(setAlignment)
-        .text(style)
-        .text(cellTypeEnumerator(writer, cellType))
-        .text(alignment)
-        .text(LineEnd);
+    Statement text = writer.fillIndented(setAlignment)
+                         .text(style)
+                         .text(cellTypeEnumerator(writer, cellType))
+                         .text(alignment)
+                         .text(LineEnd);
+    return alignment == own ? text : writer.faulty(std::move(text), otherLanguage);
 }
 
 static const Phrase setTextStyle{"EmitSetTableStyleTextStyle",

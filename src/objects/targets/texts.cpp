@@ -185,14 +185,18 @@ static const Fault kTypedEnumerator{"EmitSetNoteLineSpacing",
 /// The enumerator's form follows the language that the host records in, not the target; a page gets a typed name.
 Statement EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const CFxString& property, std::int32_t style)
 {
-    const Target form = RecordsIn(Target::Cpp) || RecordsIn(Target::CppCom)  ? Target::Cpp
-                        : RecordsIn(Target::VbNet) || RecordsIn(Target::Vba) ? Target::VbNet
-                                                                             : Target::CSharp;
-    const QString enumerator =
-        enumeratorText(form, QStringLiteral("iwNoteLineSpacingStyle_e"),
-                       QLatin1String("iwNoteLineSpacingStyle_") + QLatin1String(style == 0 ? "AtLeast" : "Exactly"));
-    if (writer.target != Target::JavaScript)
-        return EmitSetProperty(writer, target, property, enumerator, false);
+    const auto enumeratorIn = [style](Target form) {
+        return enumeratorText(form, QStringLiteral("iwNoteLineSpacingStyle_e"),
+                              QLatin1String("iwNoteLineSpacingStyle_") +
+                                  QLatin1String(style == 0 ? "AtLeast" : "Exactly"));
+    };
+    const QString enumerator = enumeratorIn(RecordsIn(Target::Cpp) || RecordsIn(Target::CppCom)  ? Target::Cpp
+                                            : RecordsIn(Target::VbNet) || RecordsIn(Target::Vba) ? Target::VbNet
+                                                                                                 : Target::CSharp);
+    if (writer.target != Target::JavaScript) {
+        Statement text = EmitSetProperty(writer, target, property, enumerator, false);
+        return enumerator == enumeratorIn(writer.target) ? text : writer.faulty(std::move(text), otherLanguage);
+    }
     return writer.mended(EmitSetProperty(writer, target, property, enumerator, false), kTypedEnumerator,
                          EmitSetProperty(writer, target, property, enumerator.section('.', -1), true));
 }
