@@ -169,6 +169,28 @@ TEST_F(Program, ReportsAsTables)
     EXPECT_EQ(conversions(run({"convert", "--target", "csharp", "--report", "none.jsonl"})).size(), 1);
 }
 
+// The sanitizers' own checks take memory.
+#if !defined(__SANITIZE_ADDRESS__)
+TEST_F(Program, ReportsWithLittleMoreMemoryThanItConvertsWith)
+{
+    QByteArray strangers;
+    for (int i = 0; i < 100'000; ++i)
+        strangers += R"({"added":{"class":"Host)" + QByteArray(60, 'W') + R"(","handle":")" +
+                     QByteArray::number(256 + i, 16).toUpper() + R"(","properties":[]}})" + '\n';
+    write("strangers.jsonl", strangers);
+    const QStringList call{"convert", "strangers.jsonl", "--output", "out/", "--quiet", "--target"};
+    for (const auto& [targets, count] : {std::pair{"csharp", 1}, {"all", 6}}) {
+        const Outcome json = run(call + QStringList{targets, "--report"}, {}, "ulimit -v 200000; ");
+        EXPECT_EQ(json.status, 0) << json.err.toStdString();
+        EXPECT_EQ(json.out.count("objects of its class have no statements"), 100'000 * count);
+        EXPECT_EQ(conversions(json).size(), count);
+        const Outcome text = run(call + QStringList{targets, "--report=text"}, {}, "ulimit -v 200000; ");
+        EXPECT_EQ(text.status, 0) << text.err.toStdString();
+        EXPECT_EQ(text.out.count("objects of its class have no statements"), 100'000 * count);
+    }
+}
+#endif
+
 TEST_F(Program, TellsWhenAReportIsNotWritten)
 {
     write("lossy.jsonl", lossy);

@@ -139,18 +139,17 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling)
     notes.KeepAll(asked);
     QStringList placed;
     const int status = convertOrComplain(job, host, recording, placed);
-    QJsonObject report = reportOf(job, status);
-    if (asked)
-        addNotes(report, notes, recording);
-
     const QString counts = countText(notes.GetLossCount(), notes.GetFaultCount());
     if (status == kDone && !telling.quiet && !counts.isEmpty())
         printError((job.macro + ": " + counts + (asked ? "\n" : "; see --report\n")).toLocal8Bit());
-    if (asked)
-        printReport({report}, telling.report);
-    else
+    if (asked) {
+        nameWork(QString("reporting on %1 to %2%3")
+                     .arg(job.input, targetName(*job.target), status == kDone ? ", whose files are written" : ""));
+        printPart(job, status, telling.report, Noted{&notes, &recording});
+    } else {
         for (const QString& file : placed)
             printOut(file + '\n');
+    }
     return status;
 }
 

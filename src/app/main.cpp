@@ -18,6 +18,8 @@
 
 #include <QCoreApplication>
 
+#include <optional>
+
 using namespace inkmacro;
 
 namespace {
@@ -27,8 +29,12 @@ int convert(const CommandLine& line)
     const std::vector<Job> jobs = planJobs(line);
     if (line.host.optionNames && !readOptionNamesOrComplain(*line.host.optionNames))
         return kUnreadable;
-    return jobs.size() == 1 ? convertOne(jobs.front(), line.host, line.telling)
-                            : convertInProcesses(jobs, line.host, line.telling);
+    if (jobs.size() != 1)
+        return convertInProcesses(jobs, line.host, line.telling);
+    std::optional<ReportDocument> report;
+    if (line.telling.report != ReportForm::None)
+        report.emplace(line.telling.report).beginPart();
+    return convertOne(jobs.front(), line.host, line.telling);
 }
 
 int run(const CommandLine& line)

@@ -20,6 +20,8 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <memory>
+#include <optional>
 #include <thread>
 #include <utility>
 
@@ -75,6 +77,16 @@ int makePipe(Pipe& pipe)
     return 0;
 }
 
+/// Behind the part of a report whose process came to an end with it. JSON has no such character.
+constexpr char kPartEnd = '\0';
+
+/// A file without a name, as long as nobody asks for one.
+QString pathOf(const QTemporaryFile& file)
+{
+    const QString descriptor = QString("/proc/self/fd/%1").arg(file.handle());
+    return QFile::exists(descriptor) ? descriptor : file.fileName();
+}
+
 /// What a process prints on one of its streams.
 struct Printed
 {
@@ -107,6 +119,8 @@ private:
         std::atomic<pid_t> processId = 0; ///< while the process runs
         Printed output;
         Printed messages;
+        /// The job's part of the report, which may be too long to be kept in memory until its turn comes.
+        std::unique_ptr<QTemporaryFile> report;
         bool begun = false;
         bool done = false;
         int status = kDone;
@@ -114,27 +128,27 @@ private:
 
     /// Standard input can be read once, so it is kept for all who want it.
     bool keepStandardInput();
-    QString keptInput();
     void refuse(std::size_t number, const QByteArray& message, int status);
     void startSome();
     bool mayStart(std::size_t number) const;
     void start(std::size_t number);
     /// Gives an errno.
     int fork(State& state, const Job& job);
-    [[noreturn]] void work(const Job& job, const Pipe& output, const Pipe& messages);
+    [[noreturn]] void work(const Job& job, int output, int messages);
     void couldNotStart(std::size_t number, const QString& reason);
     void waitForSome();
     void ended(std::size_t number);
     void finish(std::size_t number, int status);
     void passOn();
     void passOn(std::size_t number);
+    static bool passOnReport(QTemporaryFile& report);
     void endEarly(int signal) noexcept override;
 
     const std::vector<Job>& jobs_;
     const HostSettings& host_;
     const Telling& telling_;
     std::vector<State> states_;
-    QJsonArray reports_; ///< of the jobs passed on
+    std::optional<ReportDocument> report_;
     QTemporaryFile standardInput_;
     const pid_t self_ = getpid();
     std::size_t next_ = 0; ///< all jobs in front of it have begun
@@ -152,6 +166,8 @@ JobRunner::JobRunner(const std::vector<Job>& jobs, const HostSettings& host, con
           return progressBar(doneCount_, total) + QString("  %1 of %2 done").arg(doneCount_).arg(total);
       })
 {
+    if (telling.report != ReportForm::None)
+        report_.emplace(telling.report);
     beginWatch();
 }
 
@@ -168,8 +184,6 @@ int JobRunner::run()
     startSome();
     while (!running_.empty())
         waitForSome();
-    if (telling_.report != ReportForm::None)
-        progress_.aside([this] { printReport(reports_, telling_.report); });
     return status_;
 }
 
@@ -187,14 +201,6 @@ bool JobRunner::keepStandardInput()
         if (got < 0 || standardInput_.write(piece.data(), got) != got)
             return false;
     }
-}
-
-/// By its descriptor, because asking for its name would give it one, and with that something to leave behind when this
-/// process is killed.
-QString JobRunner::keptInput()
-{
-    const QString descriptor = QString("/proc/self/fd/%1").arg(standardInput_.handle());
-    return QFile::exists(descriptor) ? descriptor : standardInput_.fileName();
 }
 
 void JobRunner::refuse(std::size_t number, const QByteArray& message, int status)
@@ -244,10 +250,15 @@ int JobRunner::fork(State& state, const Job& job)
         return error;
     if (const int error = makePipe(messages))
         return error;
+    if (report_) {
+        state.report = std::make_unique<QTemporaryFile>();
+        if (!state.report->open())
+            return errno;
+    }
     const SignalPause pause;
     const pid_t process = ::fork();
     if (process == 0)
-        work(job, output, messages);
+        work(job, state.report ? state.report->handle() : output.in.descriptor(), messages.in.descriptor());
     if (process == -1)
         return errno;
     state.processId = process;
@@ -257,16 +268,16 @@ int JobRunner::fork(State& state, const Job& job)
 }
 
 /// In the new process, which ends when the one that has started it does, however it does.
-void JobRunner::work(const Job& job, const Pipe& output, const Pipe& messages)
+void JobRunner::work(const Job& job, int output, int messages)
 {
     prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (getppid() != self_)
         _exit(kFailed);
-    const QByteArray input = job.input == "-" ? QFile::encodeName(keptInput()) : QByteArray("/dev/null");
+    const QByteArray input = job.input == "-" ? QFile::encodeName(pathOf(standardInput_)) : QByteArray("/dev/null");
     const PipeEnd opened(open(input.constData(), O_RDONLY | O_CLOEXEC));
     dup2(opened.descriptor(), STDIN_FILENO);
-    dup2(output.in.descriptor(), STDOUT_FILENO);
-    dup2(messages.in.descriptor(), STDERR_FILENO);
+    dup2(output, STDOUT_FILENO);
+    dup2(messages, STDERR_FILENO);
     // Of the others nothing is needed here.
     for (const std::size_t number : running_) {
         states_[number].output.pipe.shut();
@@ -274,11 +285,12 @@ void JobRunner::work(const Job& job, const Pipe& output, const Pipe& messages)
     }
     forgetOutput();
     forgetEarlyEnds();
-    // A report is joined with the others, so it has the form that is read again.
-    Telling telling = telling_;
-    if (telling.report != ReportForm::None)
-        telling.report = ReportForm::Json;
-    _exit(finishOutput(orComplain([&] { return convertOne(job, host_, telling); })));
+    _exit(finishOutput(orComplain([&] {
+        const int status = convertOne(job, host_, telling_);
+        if (report_)
+            printOut(QByteArray(&kPartEnd, 1));
+        return status;
+    })));
 }
 
 /// The next one could not be started either, so this is the end for all that wait.
@@ -377,13 +389,26 @@ void JobRunner::passOn(std::size_t number)
             lastComplaint_ = complaint;
     }
     printError(messages);
-    const QByteArray output = std::exchange(state.output.bytes, {});
-    if (telling_.report == ReportForm::None) {
-        printOut(output);
+    printOut(std::exchange(state.output.bytes, {}));
+    if (!report_)
         return;
-    }
-    const QJsonObject report = reportFrom(output);
-    reports_.append(report.isEmpty() ? reportOf(jobs_[number], state.status) : report);
+    report_->beginPart();
+    if (!state.report || !passOnReport(*state.report))
+        printPart(jobs_[number], state.status, telling_.report);
+    state.report.reset();
+}
+
+/// False when the process came to no end with it, and nothing is printed.
+bool JobRunner::passOnReport(QTemporaryFile& report)
+{
+    qint64 left = report.size() - 1;
+    char last = 0;
+    if (left < 0 || !report.seek(left) || !report.getChar(&last) || last != kPartEnd || !report.seek(0))
+        return false;
+    constexpr qint64 piece = 1 << 20;
+    for (QByteArray bytes; left > 0 && !(bytes = report.read(std::min(piece, left))).isEmpty(); left -= bytes.size())
+        printOut(bytes);
+    return true;
 }
 
 void JobRunner::endEarly(int signal) noexcept

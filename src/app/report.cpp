@@ -6,16 +6,22 @@
 #include "app/console.h"
 #include "app/valueText.h"
 #include "host/kernel/CFxConversionNotes.h"
+#include "recordfile/JsonOut.h"
 #include "recordfile/SchemaDefinitions.h"
 
 #include <QJsonDocument>
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
+#include <span>
+#include <string_view>
+#include <utility>
 
 namespace inkmacro {
 
 using namespace recordfile;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -40,64 +46,116 @@ qint64 lineOf(const CFxActionPlace& place, const Recording& recording)
     return place.empty() ? 0 : recording.actionLines.at(place.front());
 }
 
-/// Rows of texts in columns, the last one as wide as it is.
-void printColumns(const std::vector<QStringList>& rows)
+/// A list of the report under its heading, in columns, the last one as wide as it is. Each row is made twice, so that
+/// none is kept.
+template<class Note, class Row>
+void printList(const char* heading, const std::vector<Note>& list, Row row)
 {
-    std::vector<int> widths;
-    for (const QStringList& row : rows) {
-        widths.resize(std::max<std::size_t>(widths.size(), static_cast<std::size_t>(row.size())));
-        for (int i = 0; i < row.size(); ++i)
-            widths[static_cast<std::size_t>(i)] = std::max(widths[static_cast<std::size_t>(i)], row[i].size());
+    if (list.empty())
+        return;
+    printOut(QString("  %1\n").arg(heading));
+    std::array<int, 4> widths = {};
+    for (const Note& note : list) {
+        const QStringList cells = row(note);
+        for (int i = 0; i < cells.size(); ++i)
+            widths[static_cast<std::size_t>(i)] = std::max(widths[static_cast<std::size_t>(i)], cells[i].size());
     }
-    for (const QStringList& row : rows) {
+    for (const Note& note : list) {
+        const QStringList cells = row(note);
         QString text = "   ";
-        for (int i = 0; i < row.size(); ++i)
-            text += ' ' + (i + 1 < row.size() ? row[i].leftJustified(widths[static_cast<std::size_t>(i)] + 1) : row[i]);
+        for (int i = 0; i < cells.size(); ++i)
+            text += ' ' +
+                    (i + 1 < cells.size() ? cells[i].leftJustified(widths[static_cast<std::size_t>(i)] + 1) : cells[i]);
         printOut(text + '\n');
     }
 }
 
-/// A list of the report under its heading.
-void printList(const char* heading, const QJsonArray& list, QStringList (*row)(const QJsonObject& entry))
+QStringList faultRow(const CFxFaultNote& fault)
 {
-    if (list.isEmpty())
-        return;
-    printOut(QString("  %1\n").arg(heading));
-    std::vector<QStringList> rows;
-    for (const QJsonValue& entry : list)
-        rows.push_back(row(entry.toObject()));
-    printColumns(rows);
+    QString place = printable(fault.file.toQString());
+    if (fault.line > 0)
+        place += ':' + QString::number(fault.line);
+    return {place, fault.mended ? "mended by --repair" : "not mended", printable(fault.operation.toQString()),
+            printable(fault.reason.toQString())};
 }
 
-QStringList lossRow(const QJsonObject& loss)
+void printText(const Job& job, int status, const std::optional<Noted>& noted)
 {
-    return {"line " + QString::number(loss["line"].toInt()), loss["path"].toString(),
-            printable(loss["what"].toString()), printable(loss["reason"].toString())};
-}
-
-QStringList faultRow(const QJsonObject& fault)
-{
-    QString place = printable(fault["file"].toString());
-    if (const int line = fault["line"].toInt(); line > 0)
-        place += ':' + QString::number(line);
-    return {place, fault["mended"].toBool() ? "mended by --repair" : "not mended",
-            printable(fault["operation"].toString()), printable(fault["reason"].toString())};
-}
-
-void printText(const QJsonObject& report)
-{
-    const QString status = report["status"].toString();
-    QString result = countText(static_cast<std::size_t>(report["losses"].toArray().size()),
-                               static_cast<std::size_t>(report["faults"].toArray().size()));
-    if (status != statusWord(kDone))
-        result = result.isEmpty() ? status : status + ", " + result;
+    QString result = noted ? countText(noted->notes->GetLosses().size(), noted->notes->GetFaults().size()) : QString();
+    if (status != kDone)
+        result = result.isEmpty() ? statusWord(status) : statusWord(status) + ", " + result;
     else if (result.isEmpty())
         result = "nothing lost, no faults";
-    printOut(QString("%1 to %2: %3: %4\n")
-                 .arg(printable(report["input"].toString()), report["target"].toString(),
-                      printable(report["macro"].toString()), result));
-    printList("lost", report["losses"].toArray(), lossRow);
-    printList("faults", report["faults"].toArray(), faultRow);
+    printOut(
+        QString("%1 to %2: %3: %4\n").arg(printable(job.input), targetName(*job.target), printable(job.macro), result));
+    if (!noted)
+        return;
+    printList("lost", noted->notes->GetLosses(), [&](const CFxLoss& loss) {
+        return QStringList{"line " + QString::number(lineOf(loss.where, *noted->recording)), pathOf(loss.where),
+                           printable(loss.what.toQString()), printable(loss.reason.toQString())};
+    });
+    printList("faults", noted->notes->GetFaults(), faultRow);
+}
+
+void add(JsonOut& out, std::string_view key, const QString& text)
+{
+    out.key(key);
+    out.text(text);
+}
+
+/// One note a line; they are printed as they come, since a report may be longer than all that is in memory.
+template<class Note, class Write>
+void addList(JsonOut& out, std::string_view key, std::span<const Note> list, Write write)
+{
+    out.key(key);
+    out.beginArray();
+    constexpr int piece = 64 * 1024;
+    for (const Note& note : list) {
+        out.onNewLine();
+        out.beginObject();
+        write(note);
+        out.endObject();
+        if (out.bytes().size() < piece)
+            continue;
+        printOut(out.bytes());
+        out.clear();
+    }
+    out.endArray();
+}
+
+void printJson(const Job& job, int status, const std::optional<Noted>& noted)
+{
+    JsonOut out(0);
+    out.beginObject();
+    add(out, "input", job.input);
+    add(out, "target", targetName(*job.target));
+    add(out, "macro", job.macro);
+    out.key("project"sv);
+    out.beginArray();
+    for (const QString& file : job.projectFiles())
+        out.text(file);
+    out.endArray();
+    add(out, "status", statusWord(status));
+    const auto losses = noted ? std::span(noted->notes->GetLosses()) : std::span<const CFxLoss>();
+    addList(out, "losses", losses, [&](const CFxLoss& loss) {
+        out.key("line"sv);
+        out.integer(lineOf(loss.where, *noted->recording));
+        add(out, "path", pathOf(loss.where));
+        add(out, "what", loss.what.toQString());
+        add(out, "reason", loss.reason.toQString());
+    });
+    const auto faults = noted ? std::span(noted->notes->GetFaults()) : std::span<const CFxFaultNote>();
+    addList(out, "faults", faults, [&](const CFxFaultNote& fault) {
+        add(out, "file", fault.file.toQString());
+        out.key("line"sv);
+        out.integer(fault.line);
+        add(out, "operation", fault.operation.toQString());
+        add(out, "reason", fault.reason.toQString());
+        out.key("mended"sv);
+        out.boolean(fault.mended);
+    });
+    out.endObject();
+    printOut(out.bytes());
 }
 
 QJsonObject lossSchema()
@@ -124,31 +182,30 @@ QJsonObject faultSchema()
 
 } // namespace
 
-QJsonObject reportOf(const Job& job, int status)
+ReportDocument::ReportDocument(ReportForm form) : form_(form)
 {
-    return {{"input", job.input},           {"target", targetName(*job.target)},
-            {"macro", job.macro},           {"project", QJsonArray::fromStringList(job.projectFiles())},
-            {"status", statusWord(status)}, {"losses", QJsonArray()},
-            {"faults", QJsonArray()}};
+    if (form_ == ReportForm::Json)
+        printOut(QString("{\"%1\":[").arg(kDocumentKey));
 }
 
-void addNotes(QJsonObject& report, const CFxConversionNotes& notes, const Recording& recording)
+ReportDocument::~ReportDocument()
 {
-    QJsonArray losses;
-    for (const CFxLoss& loss : notes.GetLosses())
-        losses.append(QJsonObject{{"line", lineOf(loss.where, recording)},
-                                  {"path", pathOf(loss.where)},
-                                  {"what", loss.what.toQString()},
-                                  {"reason", loss.reason.toQString()}});
-    QJsonArray faults;
-    for (const CFxFaultNote& fault : notes.GetFaults())
-        faults.append(QJsonObject{{"file", fault.file.toQString()},
-                                  {"line", static_cast<qint64>(fault.line)},
-                                  {"operation", fault.operation.toQString()},
-                                  {"reason", fault.reason.toQString()},
-                                  {"mended", fault.mended}});
-    report["losses"] = losses;
-    report["faults"] = faults;
+    if (form_ == ReportForm::Json)
+        printOut(QByteArray("\n]}\n"));
+}
+
+void ReportDocument::beginPart()
+{
+    if (form_ == ReportForm::Json)
+        printOut(QByteArray(std::exchange(first_, false) ? "\n" : ",\n"));
+}
+
+void printPart(const Job& job, int status, ReportForm form, const std::optional<Noted>& noted)
+{
+    if (form == ReportForm::Json)
+        printJson(job, status, noted);
+    else
+        printText(job, status, noted);
 }
 
 QString countText(std::size_t losses, std::size_t faults)
@@ -159,20 +216,6 @@ QString countText(std::size_t losses, std::size_t faults)
     if (faults > 0)
         counts.append(counted(static_cast<int>(faults), "fault", "faults"));
     return counts.join(", ");
-}
-
-void printReport(const QJsonArray& reports, ReportForm form)
-{
-    if (form == ReportForm::Json)
-        printOut(QJsonDocument(QJsonObject{{kDocumentKey, reports}}).toJson());
-    else
-        for (const QJsonValue& report : reports)
-            printText(report.toObject());
-}
-
-QJsonObject reportFrom(const QByteArray& printed)
-{
-    return QJsonDocument::fromJson(printed)[kDocumentKey][0].toObject();
 }
 
 QByteArray reportSchema()

@@ -4,27 +4,41 @@
 #include "app/jobs.h"
 #include "recordfile/Recording.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
+#include <optional>
 
 class CFxConversionNotes;
 
 namespace inkmacro {
 
-/// What is told of one job in a report: nothing lost, no faults. `status` is an ExitStatus.
-QJsonObject reportOf(const Job& job, int status);
+/// What the module has noted of a conversion, and the recording that it is about.
+struct Noted
+{
+    const CFxConversionNotes* notes;
+    const Recording* recording;
+};
 
-/// Puts what the module has noted into the report of its job.
-void addNotes(QJsonObject& report, const CFxConversionNotes& notes, const Recording& recording);
+/// The report of a call while it is printed: one part a job, in the order of the jobs, and all of them one document.
+class ReportDocument
+{
+public:
+    explicit ReportDocument(ReportForm form);
+    ~ReportDocument();
+    ReportDocument(const ReportDocument&) = delete;
+    ReportDocument& operator=(const ReportDocument&) = delete;
+
+    /// Comes before each part.
+    void beginPart();
+
+private:
+    const ReportForm form_;
+    bool first_ = true;
+};
+
+/// Prints the part of one job: without `noted` nothing is lost and there are no faults. `status` is an ExitStatus.
+void printPart(const Job& job, int status, ReportForm form, const std::optional<Noted>& noted = {});
 
 /// "3 steps lost, 2 faults", without what there is none of; empty when there is neither.
 QString countText(std::size_t losses, std::size_t faults);
-
-/// Prints the reports of all jobs as one.
-void printReport(const QJsonArray& reports, ReportForm form);
-
-/// Of what another process of this program has printed in the form Json about one job; empty when that is no report.
-QJsonObject reportFrom(const QByteArray& printed);
 
 /// The JSON Schema of a report in the form Json.
 QByteArray reportSchema();

@@ -1,5 +1,6 @@
 #include "recordfile/JsonOut.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -7,7 +8,15 @@ namespace inkmacro::recordfile {
 
 namespace {
 
-/// What stands for the byte in a text, or an empty text when it stands for itself.
+/// By byte, whether it stands for itself in a text.
+constexpr std::array<bool, 256> plainBytes = [] {
+    std::array<bool, 256> plain = {};
+    for (std::size_t byte = 0x20; byte < plain.size(); ++byte)
+        plain[byte] = byte != '"' && byte != '\\';
+    return plain;
+}();
+
+/// What stands for a byte that does not stand for itself.
 std::string_view escapeOf(char byte, char (&room)[6])
 {
     switch (byte) {
@@ -29,8 +38,6 @@ std::string_view escapeOf(char byte, char (&room)[6])
         break;
     }
     const auto code = static_cast<unsigned char>(byte);
-    if (code >= 0x20)
-        return {};
     static constexpr std::string_view digits = "0123456789abcdef";
     const char escape[] = {'\\', 'u', '0', '0', digits[code >> 4], digits[code & 15]};
     std::copy(std::begin(escape), std::end(escape), room);
@@ -48,7 +55,10 @@ void JsonOut::separate()
 {
     if (comma_)
         bytes_.append(',');
+    if (onNewLine_)
+        bytes_.append('\n');
     comma_ = true;
+    onNewLine_ = false;
 }
 
 void JsonOut::begin(char bracket)
@@ -103,11 +113,10 @@ void JsonOut::quote(const QString& text)
     const QByteArray utf8 = text.toUtf8();
     int written = 0;
     for (int i = 0; i < utf8.size(); ++i) {
-        const std::string_view escape = escapeOf(utf8[i], room);
-        if (escape.empty())
+        if (plainBytes[static_cast<unsigned char>(utf8.at(i))])
             continue;
         bytes_.append(utf8.constData() + written, i - written);
-        append(escape);
+        append(escapeOf(utf8.at(i), room));
         written = i + 1;
     }
     bytes_.append(utf8.constData() + written, utf8.size() - written);

@@ -39,6 +39,8 @@ public:
     void boolean(bool value);
     void null();
     void endLine();
+    /// The next item begins a line, behind the comma.
+    void onNewLine() { onNewLine_ = true; }
 
     /// Notes that something cannot be written.
     void refuse() { refused_ = true; }
@@ -60,6 +62,7 @@ private:
 
     QByteArray bytes_;
     bool comma_ = false; ///< the next item has one before it
+    bool onNewLine_ = false;
     bool refused_ = false;
 };
 
