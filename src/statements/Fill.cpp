@@ -445,6 +445,9 @@ Statement Fill::str() const
     }
     const int used = std::min(values_.size(), static_cast<int>(template_->ranks_.size()));
     if (mode_.repairs) {
+        // Most statements: markers in values mean nothing here.
+        if (noted_.empty() && most_ <= longestText && needsNoEscapes(used))
+            return inOnePass(used);
         Statement::Notes notes;
         QString outcome = escaped(used, noted_.empty() ? nullptr : &notes);
         return {std::move(outcome), std::move(notes)};
@@ -531,6 +534,21 @@ bool Fill::hasBrokenQuotes(int used) const
             piece.quoted && piece.rank < used ? std::get_if<QStringView>(&values_[piece.rank]) : nullptr;
         return text && text->data() != LineEnd.constData() && breaksQuotes(*text, *mode_.target);
     });
+}
+
+/// Whether each text that comes to stand between quotes is plain.
+bool Fill::needsNoEscapes(int used) const
+{
+    const auto isPlainText = [](const auto& value) {
+        if constexpr (std::is_same_v<std::decay_t<decltype(value)>, QStringView>)
+            return isPlain(value);
+        else
+            return !std::is_same_v<std::decay_t<decltype(value)>, QLatin1String>;
+    };
+    return !template_->quotes_ ||
+           std::none_of(template_->pieces_.begin(), template_->pieces_.end(), [&](const Template::Piece& piece) {
+               return piece.quoted && piece.rank < used && !std::visit(isPlainText, values_[piece.rank]);
+           });
 }
 
 /// Whether a value stands in a marker that another one holds.

@@ -133,6 +133,7 @@ private:
     void moveNotes(Statement::Notes& notes, int rank, const QString& text, qsizetype plain, qsizetype local) const;
     void noteFaults(Statement& outcome, int used) const;
     bool hasBrokenQuotes(int used) const;
+    bool needsNoEscapes(int used) const;
     bool hasReadMarker(int used) const;
     bool fitsOnePass() const;
     QString inOnePass(int used) const;

@@ -131,6 +131,15 @@ void appendQuoted(QString& out, QStringView text, Target target)
             appendCurly(out, text, at, target);
 }
 
+bool isPlain(QStringView text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar character) {
+        const ushort code = character.unicode();
+        return (code >= u'a' && code <= u'z') || (code >= u'A' && code <= u'Z') || (code >= u'(' && code <= u';') ||
+               code == u' ' || code == u'_' || code == u'=';
+    });
+}
+
 bool breaksQuotes(QStringView text, Target target)
 {
     if (isBasic(target)) {

@@ -13,6 +13,9 @@ namespace inkmacro {
 /// that cannot stand between them.
 void appendQuoted(QString& out, QStringView text, Target target);
 
+/// Whether the text is of those characters only that stand for themselves between the quotes of every target.
+bool isPlain(QStringView text);
+
 /// Whether a text that stands between quotes as it is would end them or be read as another text. Backslashes may have
 /// been doubled and line feeds replaced before.
 bool breaksQuotes(QStringView text, Target target);
