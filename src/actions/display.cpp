@@ -12,6 +12,7 @@
 
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;
+using inkmacro::Target;
 
 /// An integer that stands for no mode counts as a single tile.
 static QString tilesMode(int mode)
@@ -39,9 +40,14 @@ std::int32_t ConvertActionViewTiles(Conversion& conversion, const CFxCustomActio
     text = EmitInsertViewTiles(conversion.writer, array, mode, applyTo);
     for (std::size_t i = 0; i < names.size(); ++i)
         if (!names[i].isEmpty())
-            text += EmitSelectViewTile(conversion.writer, array, i, names[i]);
+            text += EmitSelectViewTile(conversion.writer, array, i, names[i],
+                                       conversion.names().FindAs(tiles[i], classes[i]) != nullptr);
     return kFxSuccess;
 }
+
+static const inkmacro::Fault kOtherCase{"EmitZoom",
+                                        {Target::Cpp, Target::CSharp, Target::JavaScript, Target::CppCom},
+                                        "the range has the case of letters that was recorded"};
 
 std::int32_t ConvertActionZoom(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
@@ -49,9 +55,14 @@ std::int32_t ConvertActionZoom(Conversion& conversion, const CFxCustomAction& ac
     const CFxString& range = action.GetData(0).GetString();
     if (!inkmacro::isWord(range) && conversion.Drops(inkmacro::textAsCode))
         return PassOver(action, "there is no range of that name");
-    text = range.equalNoCase("iwZoomRange_Window")
-               ? EmitZoom(conversion.writer, range, action.GetData(1).GetPoint(), action.GetData(2).GetPoint())
-               : EmitZoom(conversion.writer, range);
+    const CFxString window("iwZoomRange_Window");
+    if (!range.equalNoCase(window)) {
+        text = EmitZoom(conversion.writer, range);
+        return kFxSuccess;
+    }
+    const bool isMisspelt = range.toQString() != window.toQString();
+    text = EmitZoom(conversion.writer, isMisspelt && conversion.Drops(kOtherCase) ? window : range,
+                    action.GetData(1).GetPoint(), action.GetData(2).GetPoint());
     return kFxSuccess;
 }
 

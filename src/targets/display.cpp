@@ -99,6 +99,12 @@ Statement EmitInsertViewTiles(Writer& writer, const QString& tiles, const QStrin
         .text(tiles);
 }
 
+static const Fault kOtherTile{"EmitSelectViewTile",
+                              {Target::Cpp, Target::CppCom},
+                              "a tile gets a second variable, and the one that is declared for it stays empty"};
+static const Fault kTileAgain{
+    "EmitSelectViewTile", {Target::CSharp, Target::VbNet, Target::Vba}, "a tile is declared a second time"};
+
 /// Declares the variable.
 static const Phrase selectViewTile{"EmitSelectViewTile",
                                    {
@@ -110,7 +116,27 @@ static const Phrase selectViewTile{"EmitSelectViewTile",
                                        .vba = "%1Dim %5 As Inkwright.ViewTile%2%1Set %5 = %3(%4)%2",
                                    }};
 
-Statement EmitSelectViewTile(Writer& writer, const QString& tiles, std::size_t index, const CFxString& variable)
+/// The words of a repaired macro.
+static const Phrase assignViewTile{"EmitSelectViewTile: declared tile",
+                                   {
+                                       .cpp = "%1%5 = (iwViewTile_c*)%3[%4];%2",
+                                       .cppCom = "%1%5 = %3[%4];%2",
+                                       .csharp = "%1%5 = (Inkwright.ViewTile)%3[%4];%2",
+                                       .javascript = "%1var %5 = %3[%4];%2",
+                                       .vbNet = "%1%5 = %3(%4)%2",
+                                       .vba = "%1Set %5 = %3(%4)%2",
+                                   }};
+
+Statement EmitSelectViewTile(Writer& writer, const QString& tiles, std::size_t index, const CFxString& variable,
+                             bool isDeclared)
 {
-    return writer.fill(selectViewTile).text(tiles).number(qulonglong{index}).text(variable);
+    const auto filled = [&](const Phrase& words) {
+        return writer.fill(words).text(tiles).number(qulonglong{index}).text(variable).str();
+    };
+    if (writer.repairs)
+        return isDeclared ? filled(assignViewTile) : Statement();
+    const bool cpp = writer.target == Target::Cpp || writer.target == Target::CppCom;
+    return isDeclared && writer.target != Target::JavaScript
+               ? writer.faulty(filled(selectViewTile), cpp ? kOtherTile : kTileAgain)
+               : filled(selectViewTile);
 }

@@ -11,4 +11,6 @@ Statement EmitZoom(Writer& writer, const CFxString& range, const OdGePoint3d& lo
 /// The array of all tiles. `mode` and `applyTo` are enumerators, such as "iwViewTilesMode_4_Equal" and
 /// "iwViewTilesApplyTo_Display".
 Statement EmitInsertViewTiles(Writer& writer, const QString& tiles, const QString& mode, const QString& applyTo);
-Statement EmitSelectViewTile(Writer& writer, const QString& tiles, std::size_t index, const CFxString& variable);
+/// A repaired macro gives the tile to the variable that is declared for it, and to none where nothing can name it.
+Statement EmitSelectViewTile(Writer& writer, const QString& tiles, std::size_t index, const CFxString& variable,
+                             bool isDeclared);

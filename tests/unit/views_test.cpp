@@ -297,7 +297,7 @@ TEST_F(Views, LeaveNoMarkerUnfilled)
                             EmitCreateSheet(writer, "a") + EmitCreateSheetFromTemplate(writer, "a", "b", "c") +
                             EmitCopySheet(writer, "a", "b") + EmitRenameSheet(writer, "a", "b") +
                             EmitRemoveSheet(writer, "a") + EmitInsertViewTiles(writer, "a", "b", "c") +
-                            EmitSelectViewTile(writer, "a", 0, "b") + EmitZoom(writer, "a") +
+                            EmitSelectViewTile(writer, "a", 0, "b", true) + EmitZoom(writer, "a") +
                             EmitZoom(writer, "a", point, point);
         for (const bool onSheet : {false, true})
             written += EmitCreateNamedView(writer, "a", onSheet, "b") +
