@@ -130,7 +130,9 @@ std::int32_t ConvertActionInsertHatch(Conversion& conversion, const CFxCustomAct
         conversion.names().SetUnmade(conversion.lastFinished);
     if (hasGradient && (inserts || conversion.names().NamesUnmade()))
         text += EmitHatchGradient(conversion.writer, hatch, gradientAt(action, gradient));
-    if (inserts)
+    if (inserts) {
         conversion.insertedHatches.insert(hatch); // not before it is sure that nothing fails
+        text += conversion.TakeSettings(hatch);
+    }
     return kFxSuccess;
 }

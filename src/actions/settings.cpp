@@ -22,10 +22,16 @@
 
 using namespace inkmacro;
 
+static const Fault kNegativeElement{
+    "EmitSetElementColor", {Target::CSharp}, "a negative number stands behind a cast without brackets"};
+
 std::int32_t ConvertActionElementColor(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    text = EmitSetElementColor(conversion.writer, action.GetData(0).GetInt(), action.GetData(1).GetColor());
+    const std::int32_t element = action.GetData(0).GetInt();
+    if (element < 0 && conversion.Drops(kNegativeElement))
+        return PassOver(action, "no element of the screen has a negative number");
+    text = EmitSetElementColor(conversion.writer, element, action.GetData(1).GetColor());
     return kFxSuccess;
 }
 

@@ -7,10 +7,16 @@
 #include "statements/losses.h"
 #include "targets/variables.h"
 
+using inkmacro::Fault;
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;
+using inkmacro::Target;
 
 namespace {
+
+const Fault kNoBlock{"EmitBlockEnd",
+                     {Target::Cpp, Target::CSharp, Target::VbNet, Target::CppCom},
+                     "the trim of no command ends a block that none has begun"};
 
 constexpr char nothingPicked[] = "the macro does not have the objects";
 
@@ -61,13 +67,16 @@ std::int32_t ConvertActionTrim(Conversion& conversion, const CFxCustomAction& ac
     if (!TakeCutObjects(conversion, action, cut))
         return PassOver(action, nothingPicked);
     const std::vector<TrimPiece> pieces = RegisterPieces(conversion, action);
-    if (!pieces.empty())
-        text = betweenGroups(conversion.writer, [&] {
-            Statement declarations;
-            for (const TrimPiece& piece : pieces)
-                declarations += EmitVariableDeclaration(conversion.writer, piece.entry);
-            return declarations;
-        });
+    const auto declarations = [&] {
+        Statement declared;
+        for (const TrimPiece& piece : pieces)
+            declared += EmitVariableDeclaration(conversion.writer, piece.entry);
+        return declared;
+    };
+    if (!pieces.empty() && !conversion.inCommand && conversion.Drops(kNoBlock))
+        text = declarations();
+    else if (!pieces.empty())
+        text = betweenGroups(conversion.writer, declarations);
     // What is fetched is seen in its group only.
     text += conversion.names().TakeFetches();
     text += EmitTrimEntities(conversion.writer, cut.edges, cut.objects, cut.points, 0, pieces);

@@ -46,9 +46,14 @@ public:
     TagWords tags;
     TableSizes tables;
 
+    bool inCommand = false;             ///< whether the statements stand in the block of a command
     const Siblings* siblings = nullptr; ///< of the action that is being converted
     /// Variables of the hatches that custom actions have inserted.
     std::set<QString> insertedHatches;
+    /// In a repaired macro settings of hatches that were recorded ahead of the insertion, by their variables.
+    std::map<QString, Statement> waitingSettings;
+    /// Those of the hatch, which is inserted now.
+    Statement TakeSettings(const QString& hatch);
     /// The last added object that a custom action finishes: it gets what they make in its command.
     OdDbHandle lastFinished;
     /// In a repaired macro also those that have an action each.

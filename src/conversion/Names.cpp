@@ -138,8 +138,8 @@ std::vector<CFxString> Names::ResolveVariables(const CFxCustomActionData& handle
         if (const ActionEntry* const entry = FindEntry(objects[i])) {
             const OdRxClass* const told = ClassAt(classes, i);
             names[i] = DeclaredName({IsOtherClass(*entry, told) ? SpelledClass(*entry, told) : told, entry->ordinal});
-        } else if (FetchesUnknown()) {
-            names[i] = FetchedUnknown(objects[i], ClassAt(classes, i));
+        } else if (FetchesUnknown() && i < classes.size()) {
+            names[i] = FetchedUnknown(objects[i], classes[i]);
         }
     }
     return names;

@@ -158,6 +158,25 @@ static QString HandOver(Conversion& conversion, std::int32_t kind, unsigned numb
     return state.names.back();
 }
 
+/// What a custom action that failed was to make has a variable without a value.
+static void LoseMade(Conversion& conversion, const OdRxObjectPtr& failed, unsigned number, const CommandState& state)
+{
+    const auto custom = odrxQuery<CFxCustomAction>(failed.get());
+    const bool isHanded = conversion.writer.repairs ? state.made.contains(number) : !state.names.empty();
+    if (custom && isHanded && IsEntityOfAction(nullptr, custom->GetKind()))
+        conversion.names().SetUnmade(conversion.lastFinished);
+}
+
+/// Hatches that the command did not insert after all.
+static void LoseWaiting(Conversion& conversion, const CommandState& state)
+{
+    for (std::size_t i = 0; i < state.added.size() && !conversion.waitingSettings.empty(); ++i)
+        if (conversion.waitingSettings.erase(conversion.names().DeclaredName(state.added[i])) > 0) {
+            conversion.names().SetUnmade(state.handles[i]);
+            NoteLoss(ObjectTitle(state.added[i].cls, state.handles[i]), "nothing of its command inserts it");
+        }
+}
+
 /// False when the child failed.
 static bool ConvertChild(Conversion& conversion, const OdRxObjectPtr& child, unsigned number, CommandState& state,
                          StatementGroup& group)
@@ -176,8 +195,10 @@ static bool ConvertChild(Conversion& conversion, const OdRxObjectPtr& child, uns
         if (kind == inkmacro::kPolyline || kind == inkmacro::kViewport)
             group.abandon();
     }
-    if (ConvertOrLose(conversion, child, current) != kFxSuccess)
+    if (ConvertOrLose(conversion, child, current) != kFxSuccess) {
+        LoseMade(conversion, child, number, state);
         return false;
+    }
     if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
         state.shapeStyle = true;
     if (!current.isEmpty()) {
@@ -220,12 +241,14 @@ std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxS
     StatementGroup group(writer);
     const Siblings siblings(children);
     const QScopedValueRollback<const Siblings*> beside(conversion.siblings, &siblings);
+    const QScopedValueRollback<bool> within(conversion.inCommand, true);
 
     // Where locals are seen behind their command, numbers that begin anew make some of them twice.
     std::optional<QScopedValueRollback<std::uint32_t>> ownNumbers;
     if (!writer.repairs)
         ownNumbers.emplace(writer.UniqueCounter, 0);
     ConvertChildren(conversion, children, state, group);
+    LoseWaiting(conversion, state);
 
     const bool grouped = !group.abandoned() && !state.unnamedTarget;
     const bool declares = !state.allEmpty && (writer.repairs || (grouped && !state.shapeStyle));

@@ -107,7 +107,7 @@ struct HatchLoops
 };
 
 /// A hatch that no custom action has inserted, though the macro has a variable for it.
-Statement insertHatch(BlockEntity& entity)
+Statement hatchInsertion(BlockEntity& entity)
 {
     if (entity.name.isEmpty() || entity.conversion.insertedHatches.contains(entity.name))
         return {};
@@ -128,6 +128,17 @@ Statement insertHatch(BlockEntity& entity)
         return {};
     loops.points.append(loops.points[0]);
     return EmitInsertHatchByBoundary(entity.writer, entity.name, loops.counts, loops.points, pattern);
+}
+
+Statement insertHatch(BlockEntity& entity)
+{
+    Statement text = hatchInsertion(entity);
+    if (entity.writer.repairs && !text.isEmpty()) {
+        // Settings that are recorded from here on need not wait.
+        entity.conversion.insertedHatches.insert(entity.name);
+        text += entity.conversion.TakeSettings(entity.name);
+    }
+    return text;
 }
 
 struct EntityKind

@@ -15,6 +15,9 @@
 
 #include <algorithm>
 
+using inkmacro::Fault;
+using inkmacro::Target;
+
 namespace {
 
 constexpr std::int16_t kJavaScript = 2;
@@ -58,6 +61,11 @@ static bool addressChangedObject(Conversion& conversion, RecordedObject& object,
     return cls == OdDbLayout::desc();
 }
 
+static const Fault kErasedSheet{
+    "ConvertObjectChanges",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "a sheet has no property that erases it"};
+
 static Statement convertErased(Conversion& conversion, const RecordedObject& object, const CFxVariant& erased)
 {
     Writer& writer = conversion.writer;
@@ -77,6 +85,8 @@ static Statement convertErased(Conversion& conversion, const RecordedObject& obj
             LoseProperty(object, "Erased", "the drawing does not have the view");
     } else if (object.cls == OdDbLayerTableRecord::desc()) {
         text += EmitRemoveLayer(writer, object.name);
+    } else if (object.cls == OdDbLayout::desc() && conversion.Drops(kErasedSheet)) {
+        LoseProperty(object, "Erased", "the interface cannot erase a sheet");
     } else {
         text += EmitSetBoolProperty(writer, target, "Erased", true);
     }

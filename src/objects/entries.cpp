@@ -9,6 +9,7 @@
 #include "statements/losses.h"
 
 #include <algorithm>
+#include <utility>
 
 /// Whether objects of the action's class have statements; notes the loss when they have none.
 template<class Action>
@@ -63,6 +64,8 @@ std::int32_t ConvertPropertyChanged(Conversion& conversion, CFxPropertyChangedPt
     return kFxSuccess;
 }
 
+using inkmacro::Target;
+
 namespace {
 
 /// Removes of each record its first twin in the list. A record without a twin is passed over.
@@ -80,6 +83,20 @@ void strike(const PropertyList& consumed, PropertyList& list)
 }
 
 } // namespace
+
+static const inkmacro::Fault kAheadOfHatch{
+    "ConvertObjectAdded",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "settings of a hatch stand ahead of its insertion"};
+
+/// Of a hatch that an action behind inserts; it takes them in a repaired macro.
+static Statement SettingsAhead(Conversion& conversion, const QString& hatch, Statement settings)
+{
+    if (!conversion.writer.repairs)
+        return conversion.writer.faulty(std::move(settings), kAheadOfHatch);
+    conversion.waitingSettings[hatch] = std::move(settings);
+    return {};
+}
 
 void ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle, PropertyList& read,
                         PropertyList& rest, Statement& text)
@@ -103,21 +120,24 @@ void ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDb
         rest = std::move(read);
     else
         strike(consumed, rest);
+    const bool isHatch = cls == OdDbHatch::desc();
+    const bool isMade = IsMadeByAction(conversion, object);
     // Settings make no hatch.
-    const bool needsAction = conversion.writer.repairs && cls == OdDbHatch::desc();
-    if (needsAction && !IsMadeByAction(conversion, object))
+    if (isHatch && !isMade && conversion.writer.repairs)
         text.clear();
-    if (text.isEmpty() && !IsMadeByAction(conversion, object))
+    if (text.isEmpty() && !isMade)
         conversion.names().SetUnmade(handle);
-    // The hatch stands there already, and its general properties have to wait for no other statement.
-    const bool isThere = needsAction && conversion.insertedHatches.contains(object.name);
-    if ((text.isEmpty() || cls == OdDbHatch::desc()) && !isThere)
+    // Of a hatch that is inserted general properties are written in any case.
+    const bool isInserted = isHatch && isMade && conversion.writer.repairs;
+    if ((text.isEmpty() || isHatch) && !isInserted)
         LoseUnmade(conversion, object, rest, !text.isEmpty());
-    if (text.isEmpty() && !isThere)
+    if (text.isEmpty() && !isInserted)
         return;
 
     Statement general;
     ConvertObjectChanges(conversion, cls, handle, rest, true, general);
     // Made at its full length: one that grows is allocated and copied once more.
     text = text + general;
+    if (isHatch && isMade && !conversion.insertedHatches.contains(object.name))
+        text = SettingsAhead(conversion, object.name, std::move(text));
 }

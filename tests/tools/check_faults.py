@@ -9,7 +9,6 @@ import collections
 import dataclasses
 import difflib
 import importlib
-import json
 import re
 import shutil
 import sys
@@ -18,6 +17,7 @@ import check_basic
 import check_vbnet
 import drawing
 import harness
+import pieces
 
 ROW = re.compile(r"^\| `(.*?)` \| ([\w, ]+) \| (.*) \| (?:yes|no) \|$", re.MULTILINE)
 
@@ -47,6 +47,10 @@ SAID = {
     # A name is as good as another.
     "the layer is fetched by the name 0, whichever it is, and what follows changes that one":
         r"GetLayer\( L?\"(?!0\")",
+    # The order is no matter of types.
+    "settings of a hatch stand ahead of its insertion": r"\A(?:(?!GetHatchPattern)(?:.|\n))*InsertHatchBy",
+    # The inner variable hides the outer one.
+    "a tile gets a second variable, and the one that is declared for it stays empty": r"^ *(iw)?viewtile2 = ",
     # A number is as good as another.
     "a number that has more than six digits is rounded to them": r"\d\.\d{6}\d*[1-9]",
 }
@@ -71,32 +75,6 @@ def listed(checked, target):
     return set(rows)
 
 
-def texts_of(node):
-    if isinstance(node, (dict, list)):
-        return {text for part in (node.values() if isinstance(node, dict) else node) for text in texts_of(part)}
-    return {node} if isinstance(node, str) else set()
-
-
-def pieces(recording, folder):
-    """The recording cut down to single commands and actions, each behind the insertions of what it names."""
-    lines = [json.loads(line) for line in recording.read_text(encoding="utf-8-sig").split("\n") if line.strip()]
-    frame = [line for line in lines if line.keys() & {"recording", "object"}]
-    inserted, count = {}, 0
-    for line in (line for line in lines if line not in frame):
-        actions = line["command"]["actions"] if "command" in line else [line]
-        # Actions of several kinds belong together.
-        joined = len({kind for action in actions for kind in action}) > 1
-        for part in [line] if joined or len(actions) == 1 else [line, *actions]:
-            before = [inserted[handle] for handle in sorted(inserted.keys() & texts_of(part))]
-            commands = [one if one is line or "command" in one else {"command": {"name": "", "actions": [one]}}
-                        for one in [*before, part]]
-            count += 1
-            file = folder / f"{re.sub('[^0-9A-Za-z]', '_', recording.stem)}_{count}.jsonl"
-            file.write_text("\n".join(map(json.dumps, [*frame, *commands])) + "\n", encoding="utf-8")
-            yield file
-        inserted |= {action["added"]["handle"]: line if joined else action for action in actions if "added" in action}
-
-
 def candidates(checked, target):
     """For each fault macros that have it, those with the fewest others first."""
     whole = checked.convert(target, checked.named_recordings(True), checked.folder / "whole")
@@ -108,7 +86,7 @@ def candidates(checked, target):
     for macro in whole:
         cut.update(rows_of(macro.faults))
         if any(cut[row] <= CUT for row in rows_of(macro.faults)):
-            parts = list(pieces(macro.recording, folder))
+            parts = list(pieces.of(macro.recording, folder))
             found += [(macro, one) for one in [macro, *checked.convert(target, parts, checked.folder / "faithful")]]
     found.sort(key=lambda pair: (len(rows_of(pair[1].faults)), pair[1].file.stat().st_size))
     cases, tried = collections.defaultdict(list), collections.Counter()
@@ -224,7 +202,7 @@ class Proof:
         """What a compiler takes is refused only where the statements of two macros do not fit together."""
         if self._target in RUN or row[1] not in SAID:
             return macro.name in refused
-        return [re.search(SAID[row[1]], one.file.read_text(encoding="utf-8")) is not None
+        return [re.search(SAID[row[1]], one.file.read_text(encoding="utf-8"), re.MULTILINE) is not None
                 for one in (macro, repaired)] == [False, True]
 
     def finish(self):

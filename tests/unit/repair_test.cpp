@@ -475,6 +475,49 @@ TEST(RepairedMacro, NamesNoObjectWhoseInsertionFailed)
 }
 
 // Their command hands the variable of its last object to each of its actions.
+/// An object is used by nothing when what was to make it says nothing or failed, although it stands behind the object.
+TEST(RepairedMacro, LeavesOutTheUsesOfWhatNothingMakes)
+{
+    const TestTarget host(Target::CSharp);
+    const auto change = [](const char* cls) {
+        return command({odrxNew<TestModified>(cls, 0x41, PropertyList{odrxNew<TestProperty>("LineScale", 2.0)})});
+    };
+    // The items of the gradient are missing.
+    const TestData gradient{CFxString("ANSI31"), 1.0, 0.0, true, false, false, true, OdArray<OdGePoint2d>{{1, 2}}};
+    const CFxActionArray cases[] = {
+        {command({odrxNew<TestAdded>("AcDbHatch", 0x41, PropertyList{odrxNew<TestProperty>("LineScale", 2.0)}),
+                  odrxNew<TestCustom>(18, gradient)}),
+         change("AcDbHatch")},
+        // The drawing does not have what it measures.
+        {command({odrxNew<TestAdded>("AcDbDiametricDimension", 0x41,
+                                     PropertyList{odrxNew<TestProperty>("Rotation", 0.5)})}),
+         change("AcDbDiametricDimension")},
+    };
+    for (const CFxActionArray& actions : cases) {
+        TestConversion conversion;
+        ASSERT_EQ(conversion.run(actions), kFxSuccess);
+        EXPECT_GE(timesNoted("an object that no statement inserts has a variable without a value"), 1);
+        const TestRepair repair;
+        ASSERT_EQ(conversion.run(actions), kFxSuccess);
+        EXPECT_EQ(conversion.body(), "");
+        EXPECT_GE(GetFxSystemServices()->Notes().GetLosses().size(), 2U);
+    }
+}
+
+/// As it is passed over in a faithful macro.
+TEST(RepairedMacro, DoesWithoutTheClassOfAnUnknownObject)
+{
+    const TestTarget host(Target::CSharp);
+    const TestRepair repair;
+    TestConversion conversion;
+    const std::vector<OdDbHandle> objects{OdDbHandle(0x1a), OdDbHandle(0x99)};
+    const auto move = odrxNew<TestCustom>(
+        3, TestData{objects, std::vector<const OdRxClass*>{oddbClassByName("AcDbLine")}, OdGeVector3d{1, 0, 0}});
+    ASSERT_EQ(conversion.run({addedLine(0x1a), move}), kFxSuccess);
+    EXPECT_TRUE(conversion.body().contains("(line1)"));
+    EXPECT_TRUE(conversion.body().contains(".MoveEntities("));
+}
+
 TEST(RepairedMacro, HandsEachActionTheObjectThatItMakes)
 {
     const TestTarget host(Target::CSharp);

@@ -46,8 +46,13 @@ std::optional<MeasuredCurve> curveOf(const AddedObject& added)
 /// The rotation belongs to the part of a dimension that all kinds have, so a statement fetches that first.
 Statement withTextRotation(Statement insertion, AddedObject& added)
 {
-    if (insertion.isEmpty())
+    if (insertion.isEmpty()) {
         added.lost("the drawing does not have a circle or an arc that it measures");
+        added.conversion.names().SetUnmade(added.object.handle);
+        if (added.writer.repairs)
+            return insertion;
+        added.conversion.faults.noteUnmade();
+    }
     const CFxVariant rotation = added.take("Rotation");
     if (rotation.IsNull())
         return insertion;

@@ -4,7 +4,9 @@
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
+#include "objects/losses.h"
 #include "objects/targets/tableCells.h"
+#include "statements/losses.h"
 
 /// Heights and widths that are null are not known.
 static void rememberTable(TableSizes& tables, const CFxString& table, std::int32_t rows, std::int32_t columns,
@@ -33,6 +35,17 @@ static void loseRest(const AddedObject& added, double height, double width)
     }
 }
 
+/// Cell styles of the user's own.
+static void loseOwnStyles(const AddedObject& added, const OdDbTable& table, const std::array<int, 3>& cellTypes)
+{
+    for (std::size_t row = 0; row < cellTypes.size(); ++row)
+        if (const OdString style = table.cellStyle(static_cast<unsigned>(row), -1);
+            cellTypes[row] == 0 && !style.isEmpty())
+            NoteLoss("cell style \"" + style + "\" of " +
+                         ObjectTitle(added.object.cls, added.object.handle).toQString(),
+                     "the interface has no cell types of the user's own");
+}
+
 /// The height of the insertion is that of the first row of data. Other heights behind it and other widths have no
 /// statement.
 Statement ReadTable(AddedObject& added)
@@ -44,6 +57,8 @@ Statement ReadTable(AddedObject& added)
     const double dataHeight = added.takeReal("RowHeight_2", 0.0);
     const double width = added.takeReal("ColumnWidth_0", 0.0);
     const std::array<int, 3> cellTypes = table ? tableCellTypes(*table) : std::array<int, 3>{};
+    if (table)
+        loseOwnStyles(added, *table, cellTypes);
     Statement text = EmitInsertTable(added.writer, position, rows, columns, dataHeight, width, cellTypes, added.name);
 
     const CFxVariant tableHeight = added.take("Table height");

@@ -9,6 +9,7 @@
 #include "statements/wording.h"
 
 #include <algorithm>
+#include <cmath>
 
 using namespace kinds;
 using inkmacro::Fault;
@@ -43,6 +44,7 @@ struct TableLines
     const char* sizeOperation;
     Statement (*insert)(Writer& writer, const CFxString& table, std::int32_t index, double size);
     Statement (*remove)(Writer& writer, const CFxString& table, std::int32_t index);
+    Statement (*removeAll)(Writer& writer, const CFxString& table, std::int32_t last, std::int32_t first);
     Statement (*setSize)(Writer& writer, const CFxString& table, std::int32_t index, double size);
     std::map<CFxString, std::int32_t> TableSizes::*counts;
     std::map<CFxString, double> TableSizes::*wholes;
@@ -62,6 +64,11 @@ std::int32_t numberIn(const CFxPropertyChangedPtr& record, int which)
 {
     return record->GetName().toQString().section('_', which, which).toInt();
 }
+
+const Fault kNoCoefficient{
+    "EmitScaleTableRows",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "the size that a table had is 0 or not known, and what is divided by it is no number"};
 
 const Fault kSingleRemoval{
     "ConvertTableCount",
@@ -113,12 +120,16 @@ Statement insertLines(Writer& writer, const TableLines& lines, const PropertyLis
     return text;
 }
 
-/// From behind.
+/// From behind. The recording tells of many by one number, so their statements may not be as many.
 Statement removeLines(Writer& writer, const TableLines& lines, const CFxString& table, std::int32_t before,
                       std::int32_t count)
 {
+    constexpr std::int32_t few = 8;
+    const std::int32_t first = std::max(count, 0);
+    if (before - first > few)
+        return lines.removeAll(writer, table, before - 1, first);
     Statement text = lines.remove(writer, table, before - 1);
-    for (std::int32_t line = before - 2; line >= std::max(count, 0); --line)
+    for (std::int32_t line = before - 2; line >= first; --line)
         text += lines.remove(writer, table, line);
     return text;
 }
@@ -190,8 +201,11 @@ static void ConvertTableSize(Conversion& conversion, const TableLines& lines, co
     if (value.IsNull())
         return;
     double& whole = (conversion.tables.*lines.wholes)[object.name];
-    if (!told)
-        text += EmitScaleTableRows(conversion.writer, object.name, lines.sizeOperation, value.GetDouble() / whole);
+    const double coefficient = value.GetDouble() / whole;
+    if (!told && !std::isfinite(coefficient) && conversion.Drops(kNoCoefficient))
+        LoseProperty(object, lines.wholeTag, "the size that it had is not known");
+    else if (!told)
+        text += EmitScaleTableRows(conversion.writer, object.name, lines.sizeOperation, coefficient);
     whole = value.GetDouble();
 }
 
@@ -204,6 +218,7 @@ void ConvertModifiedTable(Conversion& conversion, const RecordedObject& object, 
                                  "SetRowHeight",
                                  &EmitInsertRow,
                                  &EmitDeleteRow,
+                                 &EmitDeleteRows,
                                  &EmitSetRowHeightAt,
                                  &TableSizes::rowCounts,
                                  &TableSizes::heights};
@@ -214,6 +229,7 @@ void ConvertModifiedTable(Conversion& conversion, const RecordedObject& object, 
                                     "SetColumnWidth",
                                     &EmitInsertColumn,
                                     &EmitDeleteColumn,
+                                    &EmitDeleteColumns,
                                     &EmitSetColumnWidthAt,
                                     &TableSizes::columnCounts,
                                     &TableSizes::widths};

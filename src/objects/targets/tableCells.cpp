@@ -43,6 +43,18 @@ static const Phrase deleteLine{"EmitDeleteRow",
                                    .vba = "%1%3.Delete%4 %5%2",
                                }};
 
+/// For repaired macros: several that went, from behind.
+static const Phrase deleteLines{
+    "EmitDeleteRows",
+    {
+        .cpp = "%1for (long i = %5; i >= %6; --i)%2%1{%2%1    bool bRetVal;%2%1    %3->Delete%4( i, &bRetVal );%2%1}%2",
+        .cppCom = "%1for (long i = %5; i >= %6; --i)%2%1{%2%1    %3->Delete%4( i );%2%1}%2",
+        .csharp = "%1for (int i = %5; i >= %6; --i)%2%1{%2%1    %3.Delete%4( i );%2%1}%2",
+        .javascript = "%1for (var i = %5; i >= %6; --i)%2%1{%2%1    %3.Delete%4( i );%2%1}%2",
+        .vbNet = "%1For i As Integer = %5 To %6 Step -1%2%1    %3.Delete%4( i )%2%1Next%2",
+        .vba = "%1Dim i%7 As Long%2%1For i%7 = %5 To %6 Step -1%2%1    %3.Delete%4 i%7%2%1Next%2",
+    }};
+
 static const Phrase setLineSize{"EmitSetRowHeightAt",
                                 {
                                     .cpp = "%1%3->Set%4At( %5, %6 );%2",
@@ -70,6 +82,21 @@ Statement EmitDeleteRow(Writer& writer, const CFxString& table, std::int32_t row
     return callOf(writer, deleteLine, table, "Row", row);
 }
 
+static Statement deletion(Writer& writer, const CFxString& table, const char* word, std::int32_t last,
+                          std::int32_t first)
+{
+    Fill loop = callOf(writer, deleteLines, table, word, last);
+    loop.number(first);
+    if (writer.target == Target::Vba)
+        loop.number(++writer.UniqueCounter);
+    return loop;
+}
+
+Statement EmitDeleteRows(Writer& writer, const CFxString& table, std::int32_t last, std::int32_t first)
+{
+    return deletion(writer, table, "Row", last, first);
+}
+
 Statement EmitSetRowHeightAt(Writer& writer, const CFxString& table, std::int32_t row, double height)
 {
     return callOf(writer, setLineSize, table, "RowHeight", row).real(height);
@@ -83,6 +110,11 @@ Statement EmitInsertColumn(Writer& writer, const CFxString& table, std::int32_t 
 Statement EmitDeleteColumn(Writer& writer, const CFxString& table, std::int32_t column)
 {
     return callOf(writer, deleteLine, table, "Column", column);
+}
+
+Statement EmitDeleteColumns(Writer& writer, const CFxString& table, std::int32_t last, std::int32_t first)
+{
+    return deletion(writer, table, "Column", last, first);
 }
 
 Statement EmitSetColumnWidthAt(Writer& writer, const CFxString& table, std::int32_t column, double width)

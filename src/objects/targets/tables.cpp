@@ -52,14 +52,28 @@ static Statement cellTypeVariables(Writer& writer, const std::array<int, 3>& cel
     return variables;
 }
 
-Statement EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows, int columns, double rowHeight,
-                          double columnWidth, const std::array<int, 3>& cellTypes, const CFxString& name)
+static const Fault kNoCellType{"EmitInsertTable", {Target::JavaScript}, "no word stands for a cell type of its own"};
+
+/// Those of a new table where the recorded ones are none of the interface's.
+static std::array<int, 3> withoutOwnTypes(std::array<int, 3> cellTypes)
 {
+    for (std::size_t row = 0; row < cellTypes.size(); ++row)
+        if (cellTypes[row] == 0)
+            cellTypes[row] = static_cast<int>(row) + 1;
+    return cellTypes;
+}
+
+Statement EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows, int columns, double rowHeight,
+                          double columnWidth, const std::array<int, 3>& recordedTypes, const CFxString& name)
+{
+    const std::array<int, 3> known = withoutOwnTypes(recordedTypes);
+    const std::array<int, 3>& cellTypes = writer.repairs ? known : recordedTypes;
     Fill call = writer.fill(insertTable);
     call.real(position.x).real(position.y).number(rows).number(columns).real(rowHeight).real(columnWidth);
     if (writer.target == Target::JavaScript) {
         call.number(++writer.UniqueCounter);
-        return cellTypeVariables(writer, cellTypes) + call.text(name).str();
+        Statement text = cellTypeVariables(writer, cellTypes) + call.text(name).str();
+        return known == cellTypes ? text : writer.faulty(std::move(text), kNoCellType);
     }
     for (const int type : cellTypes)
         call.number(type);
