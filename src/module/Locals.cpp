@@ -142,12 +142,13 @@ inline QStringView trimmed(QStringView line)
     return line.mid(std::find_if(line.begin(), line.end(), isOther) - line.begin());
 }
 
-/// The larger set takes the other one in.
-void unite(QSet<QString>& names, QSet<QString>& others)
+/// The larger one takes the other one in.
+void unite(QHash<QString, std::size_t>& names, QHash<QString, std::size_t>& others)
 {
     if (names.size() < others.size())
         names.swap(others);
-    names += others;
+    for (auto other = others.cbegin(); other != others.cend(); ++other)
+        names.insert(other.key(), other.value());
 }
 
 bool startsComment(QStringView line, qsizetype at, Target target)
@@ -232,17 +233,20 @@ const QString* Locals::otherNameOf(const QString& name) const
     return found == scope->renamed.constEnd() ? nullptr : &found.value();
 }
 
-bool Locals::declaresTwice(QStringView line)
+std::size_t Locals::declaresTwice(QStringView line, std::size_t number)
 {
     if (target_ == Target::JavaScript)
-        return false;
+        return 0;
     const QStringView text = trimmed(line);
     followBlocks(text);
-    bool twice = false;
+    std::size_t twice = 0;
     for (const QStringView name : declarationsIn(text, target_)) {
         const QString key = keyOf(name);
-        twice = twice || conflicts(key) || isReserved(key);
-        scopes_.back().declared.insert(key);
+        Scope& scope = scopes_.back();
+        if (twice == 0 && (conflicts(key) || isReserved(key)))
+            twice =
+                target_ == Target::VbNet && !scope.declared.contains(key) ? scope.inside.value(key, number) : number;
+        scope.declared.insert(key, number);
     }
     return twice;
 }
@@ -258,7 +262,7 @@ QString Locals::toldApart(const QString& line)
         Scope& scope = scopes_.back();
         if (conflicts(key) || isReserved(key))
             scope.renamed[key] = QString("%1_v%2").arg(name).arg(++counts_[key] + 1);
-        scope.declared.insert(key);
+        scope.declared.insert(key, 0);
     }
     return counts_.isEmpty() ? line : withOtherNames(line);
 }

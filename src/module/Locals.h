@@ -3,7 +3,6 @@
 #include "statements/Target.h"
 
 #include <QHash>
-#include <QSet>
 #include <QString>
 #include <QStringView>
 
@@ -19,16 +18,17 @@ class Locals
 public:
     explicit Locals(Target target);
 
-    /// Whether the line declares a local once too often. Lines are given in turn, without their ends.
-    bool declaresTwice(QStringView line);
+    /// Where a local is declared once too often: that line, whose number is given, or where VB.NET's compiler complains
+    /// of a variable in a former block, an earlier one; 0 for nowhere. Lines are given in turn, without their ends.
+    std::size_t declaresTwice(QStringView line, std::size_t number);
     /// The line with another name for each such local, here and as long as the name is meant.
     QString toldApart(const QString& line);
 
 private:
     struct Scope
     {
-        QSet<QString> declared;
-        QSet<QString> inside; ///< blocks in it that have ended
+        QHash<QString, std::size_t> declared; ///< by line
+        QHash<QString, std::size_t> inside;   ///< blocks in it that have ended
         QHash<QString, QString> renamed;
     };
 

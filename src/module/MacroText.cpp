@@ -66,8 +66,8 @@ void MacroText::write(QTextStream& stream, Kind kind, QStringView text)
 void MacroText::followLines(QStringView text)
 {
     forLines(begun_, text, [this](QStringView line) {
-        if (locals_.declaresTwice(line))
-            noteFault(kDeclaredTwice);
+        if (const std::size_t number = locals_.declaresTwice(line, line_))
+            faults_.push_back({&kDeclaredTwice, number});
         if (sizesNothing(line, target_))
             noteFault(kEmptyArray);
         ++line_;

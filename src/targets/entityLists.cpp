@@ -109,6 +109,7 @@ static Statement typedElements(Writer& writer, const EntityList& entities, bool 
     Statement text;
     std::vector<QString> objectWords;
     std::vector<QString> typeWords;
+    bool hasEmpty = false;
     for (std::size_t i = 0; i < entities.size(); ++i) {
         const auto& [name, type, handle] = entities[i];
         const bool lookedUp = lookUpUnknown && name.isEmpty();
@@ -117,11 +118,16 @@ static Statement typedElements(Writer& writer, const EntityList& entities, bool 
                     fillList(writer, lookUpObject).number(writer.UniqueCounter).text(handle).str();
         objectWords.push_back(lookedUp ? "iwObjForCopy" + suffix : name.toQString());
         typeWords.push_back(lookedUp ? "iwTypeForCopy" + suffix : objectTypeWord(writer.target, type));
-        text += objectTypeLine(types, i, typeWords.back()) + objectLine(objects, i, objectWords.back());
+        const Statement typeLine = objectTypeLine(types, i, typeWords.back());
+        const bool isEmpty = !lookedUp && type.isEmpty();
+        text += (isEmpty ? writer.faulty(typeLine, emptyPlace) : typeLine) + objectLine(objects, i, objectWords.back());
+        hasEmpty = hasEmpty || isEmpty;
     }
-    if (writer.target == Target::CppCom)
-        text += objectLines(objects, objectWords) +
-                inOwnGroup(types, [&](const ArrayPlace& place) { return objectTypeLines(place, typeWords); });
+    if (writer.target == Target::CppCom) {
+        const Statement typeLines =
+            inOwnGroup(types, [&](const ArrayPlace& place) { return objectTypeLines(place, typeWords); });
+        text += objectLines(objects, objectWords) + (hasEmpty ? writer.faulty(typeLines, emptyPlace) : typeLines);
+    }
     return text;
 }
 

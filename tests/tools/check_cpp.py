@@ -15,21 +15,18 @@ import stubs_cpp
 WINDOWS = ["-DUNICODE", "-DNDEBUG", "-DIW_WIN", "-DIwAddin_LIB", "-D__declspec(kind)="]
 
 
-class Judge:
+class Judge(gxx.Judge):
     def __init__(self, checked, macros):
-        self.macros = macros
+        super().__init__(macros)
         headers = checked.folder / "headers"
         headers.mkdir(exist_ok=True)
         stubs_cpp.write(harness.STUBS / "interface.txt", headers)
         self.includes = ["-I", headers, "-I", harness.STUBS / "cpp"]
 
-    def __call__(self):
-        rejections = []
-        for macro in self.macros:
-            connection = macro.folder / "iwAddinConnection.cpp"
-            rejections += gxx.rejections([*WINDOWS, *self.includes], macro.file, connection)
-            rejections += gxx.rejections(self.includes, connection)
-        return list(dict.fromkeys(rejections))
+    def rejections_of(self, macro):
+        connection = macro.folder / "iwAddinConnection.cpp"
+        return (gxx.rejections([*WINDOWS, *self.includes], macro.file, connection) +
+                gxx.rejections(self.includes, connection))
 
 
 if __name__ == "__main__":

@@ -17,9 +17,9 @@ import stubs_cppcom
 DEFINITIONS = ["-D__stdcall=", "-DUNICODE", "-D_UNICODE", "-DNDEBUG"]
 
 
-class Judge:
+class Judge(gxx.Judge):
     def __init__(self, checked, macros):
-        self.macros = macros
+        super().__init__(macros)
         headers = checked.folder / "headers"
         headers.mkdir(exist_ok=True)
         precompiled = (macros[0].folder / "stdafx.h").read_text(encoding="utf-8-sig")
@@ -29,15 +29,11 @@ class Judge:
             definition = macro.project(".idl").read_text(encoding="utf-8-sig")
             (macro.folder / f"{macro.name}_i.h").write_text(stubs_cppcom.own_header(definition), encoding="utf-8")
 
-    def __call__(self):
-        rejections = []
-        for macro in self.macros:
-            sources = sorted(file for file in macro.folder.iterdir() if file.suffix == ".cpp")
-            for one in gxx.rejections(self.options, *sources):
-                # What a macro's own classes lack is rejected in the stubs.
-                own = one.file.parent == macro.folder
-                rejections.append(one if own else dataclasses.replace(one, file=macro.file, line=0))
-        return list(dict.fromkeys(rejections))
+    def rejections_of(self, macro):
+        sources = sorted(file for file in macro.folder.iterdir() if file.suffix == ".cpp")
+        # What a macro's own classes lack is rejected in the stubs.
+        return [one if one.file.parent == macro.folder else dataclasses.replace(one, file=macro.file, line=0)
+                for one in gxx.rejections(self.options, *sources)]
 
 
 if __name__ == "__main__":

@@ -8,6 +8,18 @@ import harness
 ERROR = re.compile(r"^(.*?):(\d+):\d+: (?:fatal )?error: (.*)$", re.MULTILINE)
 
 
+class Judge:
+    """Of macros that it is asked about again it knows what it said."""
+
+    def __init__(self, macros):
+        self.macros, self._judged = macros, set()
+
+    def __call__(self):
+        fresh = [macro for macro in self.macros if macro not in self._judged]
+        self._judged.update(fresh)
+        return list(dict.fromkeys(one for macro in fresh for one in self.rejections_of(macro)))
+
+
 def rejections(options, *files):
     """What is rejected of sources, where it stands."""
     compiler, = harness.need("g++")

@@ -29,7 +29,7 @@ void expectLocals(const std::vector<Case>& cases)
         int twice = 0;
         QStringList lines;
         for (const QString& line : QString(one.macro).split('\n')) {
-            twice += asked.declaresTwice(line);
+            twice += asked.declaresTwice(line, 1) > 0;
             lines += told.toldApart(line);
         }
         EXPECT_EQ(twice, one.twice) << one.what;
@@ -68,6 +68,23 @@ TEST(Locals, AreSeenInInnerBlocksOfVbNet)
          "If x Then\nDim a\nEnd If\nDim a_v2\na_v2 = 1", 1},
         {"procedures", Target::VbNet, "Public Sub f()\nDim a\nEnd Sub\nPublic Sub g()\nDim a\nEnd Sub", nullptr, 0},
     });
+}
+
+TEST(Locals, AreTwiceWhereTheCompilerSaysSo)
+{
+    const auto found = [](Target target, const QStringList& lines) {
+        Locals locals(target);
+        std::size_t number = 0;
+        std::vector<std::size_t> twice;
+        for (const QString& line : lines)
+            if (const std::size_t at = locals.declaresTwice(line, ++number))
+                twice.push_back(at);
+        return twice;
+    };
+    // An outer one behind the block: one compiler complains of it, the other of the inner one.
+    EXPECT_EQ(found(Target::CSharp, {"{", "int a;", "}", "int a;"}), std::vector<std::size_t>{4});
+    EXPECT_EQ(found(Target::VbNet, {"If 1 Then", "Dim a", "End If", "Dim a"}), std::vector<std::size_t>{2});
+    EXPECT_EQ(found(Target::VbNet, {"Dim a", "If 1 Then", "Dim a", "End If"}), std::vector<std::size_t>{3});
 }
 
 TEST(Locals, AreSeenInInnerBlocksOfCSharp)
