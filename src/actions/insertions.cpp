@@ -20,8 +20,8 @@ using inkmacro::takeVariable;
 
 std::int32_t ConvertActionEmbeddedObject(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
-    const CFxString name = conversion.names().VariableOfMade(
-        takeVariable(conversion.writer, text, HandedVariable::Replaced), "AcDbOle2Frame");
+    const CFxString name =
+        conversion.VariableOfMade(takeVariable(conversion.writer, text, HandedVariable::Replaced), "AcDbOle2Frame");
     const int flags = action.GetData(0).GetInt();
     const CFxString& path = action.GetData(1).GetString();
     if (path.isEmpty())
@@ -33,8 +33,8 @@ std::int32_t ConvertActionEmbeddedObject(Conversion& conversion, const CFxCustom
 
 std::int32_t ConvertActionRegion(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
-    const CFxString name = conversion.names().VariableOfMade(
-        takeVariable(conversion.writer, text, HandedVariable::Replaced), "AcDbRegion");
+    const CFxString name =
+        conversion.VariableOfMade(takeVariable(conversion.writer, text, HandedVariable::Replaced), "AcDbRegion");
     std::vector<CFxString> curves = conversion.names().ResolveVariables(action.GetData(0), action.GetData(1));
     conversion.names().DropUnnamed(curves);
     text = EmitInsertRegion(conversion.writer, name, {curves.begin(), curves.end()}, ++processCounters.regions);
@@ -104,7 +104,7 @@ HatchGradient gradientAt(const CFxCustomAction& action, std::int32_t first)
 std::int32_t ConvertActionInsertHatch(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     const CFxString handedOver = takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    const CFxString hatch = conversion.names().VariableOfMade(handedOver, "AcDbHatch");
+    const CFxString hatch = conversion.VariableOfMade(handedOver, "AcDbHatch");
     const HatchPattern pattern{action.GetData(0).GetString(), action.GetData(1).GetDouble(),
                                action.GetData(2).GetDouble()};
     const bool byInternalPoints = action.GetData(3).GetBool();

@@ -10,6 +10,7 @@
 #include "statements/RecordingState.h"
 #include "statements/StatementGroup.h"
 #include "statements/Target.h"
+#include "statements/counters.h"
 #include "statements/losses.h"
 #include "statements/wording.h"
 #include "targets/customActions.h"
@@ -22,6 +23,10 @@
 
 using namespace inkmacro;
 
+static const Fault kUndeclaredElement{"EmitSetElementColor",
+                                      {Target::Cpp, Target::CSharp, Target::VbNet, Target::CppCom},
+                                      "the variables of element colors are declared in the block of a former command"};
+
 static const Fault kNegativeElement{
     "EmitSetElementColor", {Target::CSharp}, "a negative number stands behind a cast without brackets"};
 
@@ -31,6 +36,12 @@ std::int32_t ConvertActionElementColor(Conversion& conversion, const CFxCustomAc
     const std::int32_t element = action.GetData(0).GetInt();
     if (element < 0 && conversion.Drops(kNegativeElement))
         return PassOver(action, "no element of the screen has a negative number");
+    if (processCounters.elementColors == 0 && !conversion.elementColorCommand)
+        conversion.elementColorCommand = conversion.command;
+    // All blocks see what is declared at top level.
+    const std::uint32_t declaring = conversion.elementColorCommand.value_or(0);
+    if (declaring != 0 && declaring != conversion.command)
+        conversion.faults.note(kUndeclaredElement);
     text = EmitSetElementColor(conversion.writer, element, action.GetData(1).GetColor());
     return kFxSuccess;
 }

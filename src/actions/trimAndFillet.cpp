@@ -73,7 +73,7 @@ std::int32_t ConvertActionTrim(Conversion& conversion, const CFxCustomAction& ac
             declared += EmitVariableDeclaration(conversion.writer, piece.entry);
         return declared;
     };
-    if (!pieces.empty() && !conversion.inCommand && conversion.Drops(kNoBlock))
+    if (!pieces.empty() && conversion.command == 0 && conversion.Drops(kNoBlock))
         text = declarations();
     else if (!pieces.empty())
         text = betweenGroups(conversion.writer, declarations);

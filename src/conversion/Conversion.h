@@ -30,6 +30,10 @@ public:
     Names& names() { return *names_; }
     const Names& names() const { return *names_; }
 
+    /// The variable of what the present custom action makes, see Names. The one that is handed over may be that of
+    /// another class.
+    CFxString VariableOfMade(const CFxString& handedOver, const char* className);
+
     /// Whether a custom action of that kind stands in the same command as what is being converted.
     bool HasSibling(std::int32_t kind) const { return siblings && siblings->has(kind); }
     /// The same of a block definition that is added or changed.
@@ -46,8 +50,10 @@ public:
     TagWords tags;
     TableSizes tables;
 
-    bool inCommand = false;             ///< whether the statements stand in the block of a command
-    const Siblings* siblings = nullptr; ///< of the action that is being converted
+    std::uint32_t command = 0; ///< number of the command whose block the statements stand in, from 1; 0 at top level
+    std::uint32_t commandCount = 0;
+    std::optional<std::uint32_t> elementColorCommand; ///< that has declared the variables of element colors
+    const Siblings* siblings = nullptr;               ///< of the action that is being converted
     /// Variables of the hatches that custom actions have inserted.
     std::set<QString> insertedHatches;
     /// In a repaired macro settings of hatches that were recorded ahead of the insertion, by their variables.

@@ -261,6 +261,12 @@ const OdRxClass* Names::KnownClass(const OdDbHandle& handle) const
     return entry ? entry->cls : nullptr;
 }
 
+const OdRxClass* Names::DeclaredClass(const OdDbHandle& handle) const
+{
+    const auto found = entries_.find(handle);
+    return found == entries_.end() ? nullptr : found->second.cls;
+}
+
 void Names::EndCommand(bool hides)
 {
     if (hides)

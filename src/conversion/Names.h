@@ -100,6 +100,8 @@ public:
     QString KnownVariable(const OdDbHandle& handle) const;
     /// The class by which such an object was recorded; null for any other.
     const OdRxClass* KnownClass(const OdDbHandle& handle) const;
+    /// The same of an object that is about to be made.
+    const OdRxClass* DeclaredClass(const OdDbHandle& handle) const;
 
     // Layers that were not recorded as added: a statement declares them within the present command.
 

@@ -241,7 +241,7 @@ std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxS
     StatementGroup group(writer);
     const Siblings siblings(children);
     const QScopedValueRollback<const Siblings*> beside(conversion.siblings, &siblings);
-    const QScopedValueRollback<bool> within(conversion.inCommand, true);
+    const QScopedValueRollback<std::uint32_t> within(conversion.command, ++conversion.commandCount);
 
     // Where locals are seen behind their command, numbers that begin anew make some of them twice.
     std::optional<QScopedValueRollback<std::uint32_t>> ownNumbers;

@@ -111,9 +111,15 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(MacroFile& macro, const OdRx
             return FailedAction(action, error);
         }
     }
-    if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
-        macro.writeDeclarations(EmitVariableDeclaration(
-            conversion.writer, conversion.names().RegisterObject(added->GetHandle(), added->GetObjectClass())));
+    if (const auto added = odrxQuery<CFxObjectAdded>(action.get())) {
+        const Statement declaration = EmitVariableDeclaration(
+            conversion.writer, conversion.names().RegisterObject(added->GetHandle(), added->GetObjectClass()));
+        // Who changes the note of a leader declares its variable once more.
+        if (added->GetObjectClass() == OdDbMText::desc() && !GetNoteLeader(added->GetHandle()).isNull())
+            macro.write(declaration);
+        else
+            macro.writeDeclarations(declaration);
+    }
 
     Statement text;
     const std::int32_t status = ConvertOrLose(conversion, action, text);

@@ -594,6 +594,20 @@ TEST(FaithfulMacro, TellsLayersThatAnotherCommandHasDeclared)
 }
 
 // The quotes of this statement are values too.
+TEST(FaithfulMacro, TellsANoteThatIsDeclaredAgainWithItsLeader)
+{
+    const TestTarget host(Target::CSharp);
+    TestDrawing drawing;
+    drawing.add(0x30, "AcDbLeader");
+    drawing.add(0x31, "AcDbMText", {{"reactors", OdArray<OdDbObjectId>{drawing.id(0x30)}}});
+    const auto rotated = odrxNew<TestModified>("AcDbMText", 0x31, PropertyList{odrxNew<TestProperty>("Rotation", 1.0)});
+    TestConversion conversion;
+    ASSERT_EQ(conversion.run({odrxNew<TestAdded>("AcDbLeader", 0x30), odrxNew<TestAdded>("AcDbMText", 0x31), rotated}),
+              kFxSuccess);
+    EXPECT_EQ(conversion.body().count("Note note2"), 2) << conversion.body().toStdString();
+    EXPECT_EQ(timesNoted("a local variable is declared where one of its name is seen already"), 1);
+}
+
 TEST(FaithfulMacro, TellsTextsThatBreakQuotesOfValues)
 {
     for (const auto& [name, count] : {std::pair("_DOT", 0U), {"_D\"OT", 1U}}) {
