@@ -25,9 +25,13 @@ const inkmacro::Fault kNoSketchManager{"EmitFileHeader",
                                        "a recording that began on a sheet without a name has no sketch manager"};
 
 /// The byte order mark follows the host's setting and not the target: the codes of the two C++ targets, 0 and 4, ask
-/// for it.
-bool wantsByteOrderMark()
+/// for it. A repaired macro has one wherever it is not told otherwise how to read it: a page says so itself, and VBA
+/// takes it for text.
+bool wantsByteOrderMark(const Writer& writer)
 {
+    using inkmacro::Target;
+    if (writer.repairs)
+        return writer.target != Target::JavaScript && writer.target != Target::Vba;
     return (RecordingLanguage() & ~4) == 0;
 }
 
@@ -57,7 +61,7 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     QFile file(path);
     QTextStream stream(&file);
     stream.setCodec("UTF-8");
-    stream.setGenerateByteOrderMark(wantsByteOrderMark());
+    stream.setGenerateByteOrderMark(wantsByteOrderMark(writer));
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
         return kFxFailure;
 

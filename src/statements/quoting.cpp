@@ -8,6 +8,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
 
 namespace inkmacro {
 
@@ -30,60 +31,119 @@ constexpr bool isTypographicQuote(ushort code)
     return code == 0x201C || code == 0x201D || code == 0x201E || code == 0xFF02;
 }
 
+constexpr bool isCpp(Target target)
+{
+    return target == Target::Cpp || target == Target::CppCom;
+}
+
+/// A number as an escape. Read in a foreign encoding, the last byte of a letter may take the backslash with it: what is
+/// left is text then, as the rest of no other escape is. In C++ all hexadecimal digits behind \x would belong to it,
+/// and \u is no way to say a control character.
 QString escapeSequence(ushort code, Target target)
 {
-    switch (code) {
-    case u'\n':
-        return QStringLiteral("\\n");
-    case u'\r':
-        return QStringLiteral("\\r");
-    case u'\t':
-        return QStringLiteral("\\t");
-    default:
-        break;
-    }
-    // In C++ all hexadecimal digits behind \x would belong to it, and \u is no way to say a control character.
-    if (target == Target::Cpp || target == Target::CppCom)
+    if (isCpp(target))
         return '\\' + QString::number(code, 8).rightJustified(3, '0');
     return "\\u" + QString::number(code, 16).rightJustified(4, '0');
 }
 
-/// In a page a script ends where the text `</script` does, whatever its language makes of it.
-bool opensTag(QStringView text, qsizetype at)
+/// In a page a script ends where the text `</script` does, whatever its language makes of it; in C++ two question marks
+/// begin a trigraph.
+bool needsEscape(QStringView text, qsizetype at, Target target)
 {
-    return text[at] == u'<' && at + 1 < text.size() && QStringView(u"/!sS").contains(text[at + 1]);
+    const ushort code = text[at].unicode();
+    if (QStringView(u"\"\\<").contains(text[at]) || isControl(code))
+        return true;
+    if (isCpp(target))
+        return code == u'?' && at > 0 && text[at - 1] == u'?';
+    return endsLine(code) || (target == Target::JavaScript && code == u'\'');
 }
 
-void appendCurly(QString& out, QStringView text, qsizetype at, Target target)
+bool opensTag(QStringView text, qsizetype at, Target target)
 {
-    const QChar character = text[at];
-    const ushort code = character.unicode();
-    const bool cpp = target == Target::Cpp || target == Target::CppCom;
-    // Two question marks begin a trigraph.
-    const bool trigraph = cpp && character == u'?' && at > 0 && text[at - 1] == u'?';
-    if (character == u'"' || character == u'\\' || (target == Target::JavaScript && character == u'\'') || trigraph)
-        out += '\\';
-    else if (isControl(code) || (!cpp && endsLine(code))) {
-        out += escapeSequence(code, target);
-        return;
-    } else if (target == Target::JavaScript && opensTag(text, at)) {
-        out += QLatin1String("\\x3C");
-        return;
+    return target == Target::JavaScript && at + 1 < text.size() && QStringView(u"/!sS").contains(text[at + 1]);
+}
+
+void appendCurly(QString& out, QStringView text, Target target)
+{
+    for (qsizetype at = 0; at < text.size(); ++at)
+        if (needsEscape(text, at, target))
+            out += escapeSequence(text[at].unicode(), target);
+        else
+            out += text[at];
+}
+
+/// Whether the letter's bytes are the typographic quotes of a one-byte encoding, which end a text in VB.NET.
+bool looksLikeQuotes(QStringView letter)
+{
+    const QByteArray bytes = letter.toUtf8();
+    return std::any_of(bytes.begin(), bytes.end(), [](char byte) {
+        const auto code = static_cast<unsigned char>(byte);
+        return code == 0x84 || code == 0x93 || code == 0x94;
+    });
+}
+
+/// VBA reads its files in the code page of the system, so that nothing beyond ASCII stands for itself.
+bool needsNumber(QStringView letter, Target target)
+{
+    const ushort code = letter.front().unicode();
+    if (isControl(code))
+        return true;
+    if (code <= 0x7F)
+        return false;
+    return target == Target::Vba || endsLine(code) || isTypographicQuote(code) || looksLikeQuotes(letter);
+}
+
+/// Pieces of a text, with which the quotes are closed and opened again.
+class BasicText
+{
+public:
+    BasicText(QString& out, Target target) : out_(out), target_(target) {}
+
+    void append(QStringView plain)
+    {
+        if (!std::exchange(open_, true))
+            out_ += QLatin1String(" & \"");
+        out_ += plain;
     }
-    out += character;
-}
+    void join(const QString& piece)
+    {
+        out_ += QLatin1String(open_ ? "\" & " : " & ");
+        // A line of VBA has no more than 1023 letters.
+        constexpr int most = 50;
+        if (++joined_ % most == 0 && target_ == Target::Vba)
+            out_ += QLatin1String("_\n        ");
+        out_ += piece;
+        open_ = false;
+    }
+    void close()
+    {
+        if (!open_)
+            out_ += QLatin1String(" & \"");
+    }
 
-void appendBasic(QString& out, QChar character, Target target)
+private:
+    QString& out_;
+    const Target target_;
+    bool open_ = true; ///< whether what comes next stands between quotes
+    int joined_ = 0;
+};
+
+void appendBasic(QString& out, QStringView text, Target target)
 {
-    const ushort code = character.unicode();
-    if (character == u'"')
-        out += QLatin1String("\"\"");
-    else if (character == u'\n')
-        out += QLatin1String("\" & vbLf & \"");
-    else if (isControl(code) || endsLine(code) || (target == Target::VbNet && isTypographicQuote(code)))
-        out += QString("\" & ChrW(%1) & \"").arg(code);
-    else
-        out += character;
+    BasicText basic(out, target);
+    for (qsizetype at = 0; at < text.size();) {
+        const bool pair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+        const QStringView letter = text.mid(at, pair ? 2 : 1);
+        if (letter.front() == u'\n')
+            basic.join(QStringLiteral("vbLf"));
+        else if (needsNumber(letter, target))
+            for (const QChar half : letter)
+                basic.join(QString("ChrW(%1)").arg(half.unicode()));
+        else
+            basic.append(letter.front() == u'"' ? QStringView(u"\"\"") : letter);
+        at += letter.size();
+    }
+    basic.close();
 }
 
 /// Words that are no names in one of the languages, or names that the texts around the macro use themselves.
@@ -124,11 +184,10 @@ bool isTaken(const QString& name)
 
 void appendQuoted(QString& out, QStringView text, Target target)
 {
-    for (qsizetype at = 0; at < text.size(); ++at)
-        if (isBasic(target))
-            appendBasic(out, text[at], target);
-        else
-            appendCurly(out, text, at, target);
+    if (isBasic(target))
+        appendBasic(out, text, target);
+    else
+        appendCurly(out, text, target);
 }
 
 bool isPlain(QStringView text)
@@ -145,20 +204,19 @@ bool breaksQuotes(QStringView text, Target target)
     if (isBasic(target)) {
         QString plain = text.toString();
         plain.remove(QLatin1String("\" & vbLf & \""));
-        QString quoted;
-        appendQuoted(quoted, plain, target);
-        return quoted != plain;
+        return std::any_of(plain.begin(), plain.end(), [target](QChar character) {
+            const ushort code = character.unicode();
+            return character == u'"' || isControl(code) || endsLine(code) ||
+                   (target == Target::VbNet && isTypographicQuote(code));
+        });
     }
     for (qsizetype at = 0; at < text.size(); ++at) {
         const bool known = text[at] == u'\\' && at + 1 < text.size() && QStringView(u"\\n").contains(text[at + 1]);
-        if (known) {
-            ++at;
-            continue;
-        }
-        QString quoted;
-        appendCurly(quoted, text, at, target);
-        if (quoted != text[at] && !(target == Target::JavaScript && text[at] == u'\''))
+        // In a page a script ends only where `</script` or a comment begins.
+        const bool harmless = text[at] == u'\'' || (text[at] == u'<' && !opensTag(text, at, target));
+        if (!known && !harmless && needsEscape(text, at, target))
             return true;
+        at += known ? 1 : 0;
     }
     return false;
 }

@@ -28,6 +28,8 @@ protected:
     {
         return writer.repairs ? repaired : faithful;
     }
+    /// What the project file of C++ says of its bytes, which are UTF-8 in either case.
+    const char* encoding() const { return mended("windows-1252", "utf-8"); }
     /// The name that stands in code for that of the macro's file: itself, in a repaired macro one that is legal.
     QString identifier(const QString& name) const;
     /// The text with a note when the name in it is no identifier.

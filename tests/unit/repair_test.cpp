@@ -41,19 +41,26 @@ TEST(Quoting, EscapesAsTheLanguageDoes)
     const Case cases[] = {
         {"", {"", "", "", "", "", ""}},
         {"50%1 #", {"50%1 #", "50%1 #", "50%1 #", "50%1 #", "50%1 #", "50%1 #"}},
-        {R"(a"b)", {R"(a\"b)", R"(a\"b)", R"(a\"b)", R"(a\"b)", R"(a""b)", R"(a""b)"}},
-        {R"(C:\n\)", {R"(C:\\n\\)", R"(C:\\n\\)", R"(C:\\n\\)", R"(C:\\n\\)", R"(C:\n\)", R"(C:\n\)"}},
-        {"it's", {"it's", "it's", "it's", R"(it\'s)", "it's", "it's"}},
-        {"</script>", {"</script>", "</script>", "</script>", R"(\x3C/script>)", "</script>", "</script>"}},
-        {"a<b", {"a<b", "a<b", "a<b", "a<b", "a<b", "a<b"}},
-        {"what?\?/", {R"(what?\?/)", R"(what?\?/)", "what?\?/", "what?\?/", "what?\?/", "what?\?/"}},
-        {"\n1", {R"(\n1)", R"(\n1)", R"(\n1)", R"(\n1)", R"(" & vbLf & "1)", R"(" & vbLf & "1)"}},
+        {R"(a"b)", {R"(a\042b)", R"(a\042b)", R"(a\u0022b)", R"(a\u0022b)", R"(a""b)", R"(a""b)"}},
+        {R"(C:\n\)",
+         {R"(C:\134n\134)", R"(C:\134n\134)", R"(C:\u005cn\u005c)", R"(C:\u005cn\u005c)", R"(C:\n\)", R"(C:\n\)"}},
+        {"it's", {"it's", "it's", "it's", R"(it\u0027s)", "it's", "it's"}},
+        {"</b>", {R"(\074/b>)", R"(\074/b>)", R"(\u003c/b>)", R"(\u003c/b>)", "</b>", "</b>"}},
+        {"what?\?/", {R"(what?\077/)", R"(what?\077/)", "what?\?/", "what?\?/", "what?\?/", "what?\?/"}},
+        {"\n1", {R"(\0121)", R"(\0121)", R"(\u000a1)", R"(\u000a1)", R"(" & vbLf & "1)", R"(" & vbLf & "1)"}},
         {"\x01"
          "1",
          {R"(\0011)", R"(\0011)", R"(\u00011)", R"(\u00011)", R"(" & ChrW(1) & "1)", R"(" & ChrW(1) & "1)"}},
         {QString(QChar(0x2028)),
          {"\u2028", "\u2028", R"(\u2028)", R"(\u2028)", R"(" & ChrW(8232) & ")", R"(" & ChrW(8232) & ")"}},
-        {QString(QChar(0x201C)), {"\u201C", "\u201C", "\u201C", "\u201C", R"(" & ChrW(8220) & ")", "\u201C"}},
+        // Letters stay readable but in VBA, where those beyond 16 bits are two; in VB.NET but for bytes like quotes.
+        {"gr\u00FC\u00DF \U0001F600\n",
+         {"gr\u00FC\u00DF \U0001F600\\012", "gr\u00FC\u00DF \U0001F600\\012", "gr\u00FC\u00DF \U0001F600\\u000a",
+          "gr\u00FC\u00DF \U0001F600\\u000a", "gr\u00FC\u00DF \U0001F600\" & vbLf & \"",
+          R"(gr" & ChrW(252) & ChrW(223) & " " & ChrW(55357) & ChrW(56832) & vbLf & ")"}},
+        {"\u0414\u201C",
+         {"\u0414\u201C", "\u0414\u201C", "\u0414\u201C", "\u0414\u201C", R"(" & ChrW(1044) & ChrW(8220) & ")",
+          R"(" & ChrW(1044) & ChrW(8220) & ")"}},
     };
     for (const Case& one : cases)
         for (const Target target : allTargets) {
@@ -132,12 +139,12 @@ TEST(RepairedFill, EscapesBetweenQuotesOnlyAndReadsNoMarkers)
         const char* expected;
     };
     const Case cases[] = {
-        {Target::CSharp, R"(%1f( "%3", %4 );%2)", {"", "\n", "%4\"", "b\"%9"}, "f( \"%4\\\"\", b\"%9 );\n"},
-        {Target::CSharp, R"(f( "a\"%1" + %1 ))", {"\""}, R"(f( "a\"\"" + " ))"},
+        {Target::CSharp, R"(%1f( "%3", %4 );%2)", {"", "\n", "%4\"", "b\"%9"}, "f( \"%4\\u0022\", b\"%9 );\n"},
+        {Target::CSharp, R"(f( "a\"%1" + %1 ))", {"\""}, R"(f( "a\"\u0022" + " ))"},
         {Target::CSharp, R"(f( "\\", %1, '"', %2 ))", {"\"", "\\"}, R"(f( "\\", ", '"', \ ))"},
-        {Target::CSharp, R"(// isn't "it%1f( "%2" );)", {"\n", "\""}, "// isn't \"it\nf( \"\\\"\" );"},
-        {Target::Cpp, R"(f( L"%2%1" ))", {"\\", "%1"}, R"(f( L"%1\\" ))"},
-        {Target::JavaScript, R"(f( '%1', %2 ))", {"it's", "'"}, R"(f( 'it\'s', ' ))"},
+        {Target::CSharp, R"(// isn't "it%1f( "%2" );)", {"\n", "\""}, "// isn't \"it\nf( \"\\u0022\" );"},
+        {Target::Cpp, R"(f( L"%2%1" ))", {"\\", "%1"}, R"(f( L"%1\134" ))"},
+        {Target::JavaScript, R"(f( '%1', %2 ))", {"it's", "'"}, R"(f( 'it\u0027s', ' ))"},
         {Target::VbNet, R"(f( "a""%1", %2 ))", {"\"", "\""}, R"(f( "a""""", " ))"},
         {Target::VbNet, R"(' isn't%1f( "%2" ))", {"\n", "\""}, "' isn't\nf( \"\"\"\" )"},
         {Target::Vba, R"(f "it's", %1, "%2")", {"\"", "\""}, R"(f "it's", ", """")"},

@@ -30,8 +30,9 @@ Statement CFxConverterIWAPICPP::EmitProgramText(const QString& name) const
 /// %3 is the library directory and %4 the include directory. Nothing is built from a header; the entry of one is empty.
 Statement CFxConverterIWAPICPP::EmitProjectText(const QString& projectName) const
 {
-    static const QByteArray text =
+    const QByteArray text =
         QByteArray(texts::cpp::project_vcproj)
+            .replace("{encoding}", encoding())
             .replace("{configurations}\n", forEachConfiguration(texts::cpp::configuration_vcproj, words))
             .replace("{headerConfigurations}\n", forEachConfiguration(texts::cpp::headerConfiguration_vcproj, words));
     return fillProject(text, {xmlText(projectName), LineEnd, xmlText(installedPath("APISDK\\lib\\cpp")),

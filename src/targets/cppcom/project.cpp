@@ -41,14 +41,13 @@ static QByteArray precompiled(const char* how)
     return forEachConfiguration(texts::cppcom::fileConfiguration_vcproj, words).replace("{precompiled}", how);
 }
 
-static const QByteArray& projectWords()
+static QByteArray projectWords(const char* encoding)
 {
-    static const QByteArray text =
-        QByteArray(texts::cppcom::project_vcproj)
-            .replace("{configurations}\n", forEachConfiguration(texts::cppcom::configuration_vcproj, words))
-            .replace("{makesPrecompiledHeader}\n", precompiled("1"))
-            .replace("{withoutPrecompiledHeader}\n", precompiled("0"));
-    return text;
+    return QByteArray(texts::cppcom::project_vcproj)
+        .replace("{encoding}", encoding)
+        .replace("{configurations}\n", forEachConfiguration(texts::cppcom::configuration_vcproj, words))
+        .replace("{makesPrecompiledHeader}\n", precompiled("1"))
+        .replace("{withoutPrecompiledHeader}\n", precompiled("0"));
 }
 
 QByteArray CFxConverterIWAPICPPCOM::withIdentifier(QByteArray words, const char* marker, const QString& name) const
@@ -98,7 +97,7 @@ std::int32_t CFxConverterIWAPICPPCOM::EmitProjectFiles(const QString& path)
             {name + ".rgs", fillProject(project_rgs, {name, LineEnd}), false},
             // %1 is the line end, %2 to %4 are the numbers of the included texts, %5 is the project.
             {name + ".rc", fillProject(withIdentifier(project_rc, "%5", name), {LineEnd, "1", "2", "3", name}), false},
-            {name + ".vcproj", fillProject(projectWords(), {xmlText(name), LineEnd, projectId}), false},
+            {name + ".vcproj", fillProject(projectWords(encoding()), {xmlText(name), LineEnd, projectId}), false},
             {"typeconverter.h", QString(typeconverter_h), true},
         });
 }

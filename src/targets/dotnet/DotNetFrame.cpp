@@ -25,6 +25,6 @@ Statement DotNetFrame::EmitProjectText(const QString& projectName, const QString
 std::int32_t DotNetFrame::EmitProjectFiles(const QString& path)
 {
     const QString name = projectName(path);
-    return WriteProject(path, {{project_.programFile, EmitProgramText(name), false},
+    return WriteProject(path, {{project_.programFile, EmitProgramText(name), writer.repairs},
                                {name + project_.extension, EmitProjectText(name, QFileInfo(path).fileName()), false}});
 }

@@ -9,7 +9,7 @@ using namespace inkmacro;
 // %1 is the line end, %2 the sheet on which the recording began. A frame brings its own indentation.
 
 static const char* const pageOpening =
-    "<html>%1   <head>%1%1   <!-- Without this line, this will not work in Internet Explorer 8 -->%1"
+    "<html>%1   <head>%1{charset}%1   <!-- Without this line, this will not work in Internet Explorer 8 -->%1"
     "   <meta http-equiv =\"X-UA-Compatible\" content =\"IE=8\" /%1>   <!-- Add your iwInterface .js Files here -->%1";
 
 static const char* const libraryServer = "http://localhost:7776";
@@ -132,9 +132,10 @@ static const char* const variables =
 static const char* const sheetActivation =
     "            mSheet.Activate();%1            mSkMgr = mSheet.GetSketchManager();%1%1";
 
-static QByteArray pageHead()
+QByteArray CFxConverterIWAPIJavaScript::pageHead() const
 {
     QByteArray head(pageOpening);
+    head.replace("{charset}", mended("", "   <meta charset=\"utf-8\">%1"));
     for (const char* const script : libraryScripts)
         head.append("   <script type=\"text/javascript\" src=\"")
             .append(libraryServer)
