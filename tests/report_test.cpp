@@ -46,7 +46,7 @@ TEST_F(Program, CountsLossesAndFaults)
     EXPECT_EQ(counts({"lossy.jsonl", "--target", "csharp,vba"}), "out/csharp/lossy.cs: 2 steps lost; see --report\n"
                                                                  "out/vba/lossy.bas: 2 steps lost; see --report\n");
     EXPECT_EQ(counts({"one.jsonl", "--target", "vba"}), "out/vba/one.bas: 1 step lost; see --report\n");
-    EXPECT_EQ(counts({"faulty.jsonl", "--target", "vba"}), "out/vba/faulty.bas: 1 fault; see --report\n");
+    EXPECT_EQ(counts({"faulty.jsonl", "--target", "vba"}), "out/vba/faulty.bas: 2 faults; see --report\n");
     EXPECT_EQ(counts({"faulty.jsonl", "--target", "vba", "--repair"}), "");
     EXPECT_EQ(counts({"lossy.jsonl", "--target", "csharp", "--quiet"}), "");
     EXPECT_EQ(counts({"lossy.jsonl", "faulty.jsonl", "--target", "csharp,vba", "--quiet"}), "");

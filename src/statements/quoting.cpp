@@ -146,32 +146,66 @@ void appendBasic(QString& out, QStringView text, Target target)
     basic.close();
 }
 
+QSet<QString> wordsOf(const char* list)
+{
+    const QStringList words = QString(list).split(' ');
+    return {words.begin(), words.end()};
+}
+
 /// Words that are no names in one of the languages, or names that the texts around the macro use themselves.
 const QSet<QString>& takenWords()
 {
-    static const QSet<QString> words = [] {
-        const QString all =
-            "abstract addhandler addressof alias and andalso any as asm assembly assert auto base bool boolean break "
-            "byref byte byval call case catch cbool cbyte cchar cdate cdbl cdec char checked cint class clng cobj "
-            "coclass const const_cast continue cpp_quote csbyte cshort csng cstr ctype cuint culng currency cushort "
-            "date decimal declare default delegate delete dim directcast dispinterface do double dynamic_cast each "
-            "else elseif empty end endif enum erase error event exit explicit export extern false finally fixed float "
-            "for foreach friend function get gettype global gosub goto handles hyper if implements implicit import "
-            "importlib imports in inherits inline int interface internal into is isnot let lib library like lock long "
-            "loop main me midl mod module mustinherit mustoverride mutable mybase myclass namespace narrowing native "
-            "new next not nothing notinheritable notoverridable null object of on operator option optional or orelse "
-            "out override overloads overridable overrides paramarray params partial private property protected public "
-            "raiseevent readonly redim ref register reinterpret_cast rem removehandler resume return run sbyte sealed "
-            "select set shadows shared short signed single sizeof small stackalloc static static_cast step stop string "
-            "struct structure sub switch synclock template then this throw to true try trycast typedef typeid typename "
-            "typeof uint ulong unchecked union unsafe unsigned until ushort using uuid variant virtual void volatile "
-            "wchar_t wend when while widening with withevents writeonly xor "
-            "console date dispatchwrapper entity environment exception inkwright iwaddin_global iwaddinconnection "
-            "iwapimacros iwapplicationoptions_c iwcommandmessage_c iwsheet_c marshal math microsoft module1 program "
-            "resource smartvars stdafx system typeconverter vblf";
-        const QStringList list = all.split(' ');
-        return QSet<QString>(list.begin(), list.end());
-    }();
+    static const QSet<QString> words = wordsOf(
+        "abstract addhandler addressof alias and andalso any as asm assembly assert auto base bool boolean break "
+        "byref byte byval call case catch cbool cbyte cchar cdate cdbl cdec char checked cint class clng cobj "
+        "coclass const const_cast continue cpp_quote csbyte cshort csng cstr ctype cuint culng currency cushort "
+        "date decimal declare default delegate delete dim directcast dispinterface do double dynamic_cast each "
+        "else elseif empty end endif enum erase error event exit explicit export extern false finally fixed float "
+        "for foreach friend function get gettype global gosub goto handles hyper if implements implicit import "
+        "importlib imports in inherits inline int interface internal into is isnot let lib library like lock long "
+        "loop main me midl mod module mustinherit mustoverride mutable mybase myclass namespace narrowing native "
+        "new next not nothing notinheritable notoverridable null object of on operator option optional or orelse "
+        "out override overloads overridable overrides paramarray params partial private property protected public "
+        "raiseevent readonly redim ref register reinterpret_cast rem removehandler resume return run sbyte sealed "
+        "select set shadows shared short signed single sizeof small stackalloc static static_cast step stop string "
+        "struct structure sub switch synclock template then this throw to true try trycast typedef typeid typename "
+        "typeof uint ulong unchecked union unsafe unsigned until ushort using uuid variant virtual void volatile "
+        "wchar_t wend when while widening with withevents writeonly xor "
+        "console date dispatchwrapper entity environment exception inkwright iwaddin_global iwaddinconnection "
+        "iwapimacros iwapplicationoptions_c iwcommandmessage_c iwsheet_c marshal math microsoft module1 program "
+        "resource smartvars stdafx system typeconverter vblf");
+    return words;
+}
+
+/// Of the language, and types and operations that a macro names as they are.
+const QSet<QString>& csharpWords()
+{
+    static const QSet<QString> words = wordsOf(
+        "abstract as base bool break byte case catch char checked class const continue decimal default delegate do "
+        "double else enum event explicit extern false finally fixed float for foreach goto if implicit in int "
+        "interface internal is lock long namespace new null object operator out override params private protected "
+        "public readonly ref return sbyte sealed short sizeof stackalloc static string struct switch this throw true "
+        "try typeof uint ulong unchecked unsafe ushort using virtual void volatile while "
+        "Application Color CommandMessage Console DispatchWrapper Document Environment Exception IWAPIMacros Inkwright "
+        "LayerManager Marshal Math MathPoint MathUtility Model Object Program Run SelectionManager Sheet SketchManager "
+        "String System Type ViewManager");
+    return words;
+}
+
+const QSet<QString>& basicWords()
+{
+    static const QSet<QString> words = wordsOf(
+        "addhandler addressof alias and andalso as boolean byref byte byval call case catch cbool cbyte cchar cdate "
+        "cdbl cdec char cint class clng cobj const continue csbyte cshort csng cstr ctype cuint culng cushort date "
+        "decimal declare default delegate dim directcast do double each else elseif end endif enum erase error event "
+        "exit false finally for friend function get gettype getxmlnamespace global gosub goto handles if implements "
+        "imports in inherits integer interface is isnot let lib like long loop me mod module mustinherit mustoverride "
+        "mybase myclass namespace narrowing new next not nothing notinheritable notoverridable object of on operator "
+        "option optional or orelse overloads overridable overrides paramarray partial private property protected "
+        "public raiseevent readonly redim rem removehandler resume return sbyte select set shadows shared short single "
+        "static step stop string structure sub synclock then throw to true try trycast typeof uinteger ulong ushort "
+        "using variant wend when while widening with withevents writeonly xor "
+        "_ console dispatchwrapper environment exception inkwright main marshal math microsoft module1 system");
     return words;
 }
 
@@ -219,6 +253,23 @@ bool breaksQuotes(QStringView text, Target target)
         at += known ? 1 : 0;
     }
     return false;
+}
+
+bool isLegalName(const QString& name, Target target)
+{
+    const bool ascii = target == Target::CppCom;
+    const auto belongs = [ascii](QChar character) {
+        return (character.isLetterOrNumber() && (!ascii || character.unicode() < 0x80)) || character == '_';
+    };
+    if (name.isEmpty() || name.front().isDigit() || !std::all_of(name.begin(), name.end(), belongs))
+        return false;
+    const QString lower = name.toLower();
+    if (target == Target::CSharp) {
+        // Words of the language are small, types begin with a capital.
+        const InterfaceType* const type = FindInterface(name);
+        return !csharpWords().contains(name) && !(type && name == QLatin1String(type->name));
+    }
+    return target == Target::VbNet ? !basicWords().contains(lower) : !isTaken(name);
 }
 
 QString legalName(const QString& name)

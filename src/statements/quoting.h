@@ -20,6 +20,10 @@ bool isPlain(QStringView text);
 /// been doubled and line feeds replaced before.
 bool breaksQuotes(QStringView text, Target target);
 
+/// Whether the target takes the name for one of its own making: that of a class in .NET's languages, what the names of
+/// a project and its files are made of in C++ COM.
+bool isLegalName(const QString& name, Target target);
+
 /// A name of letters, digits and underscores that no target takes for a keyword, a type or a file of its own.
 QString legalName(const QString& name);
 

@@ -30,7 +30,7 @@ QString MacroFrame::identifier(const QString& name) const
 
 Statement MacroFrame::faultyName(const QString& name, const Statement& text) const
 {
-    return legalName(name) == name ? text : writer.faulty(text, kIllegalName);
+    return isLegalName(name, writer.target) ? text : writer.faulty(text, kIllegalName);
 }
 
 std::unique_ptr<MacroFrame> CreateMacroFrame(Writer& writer)

@@ -12,14 +12,12 @@ import basic_structure
 import harness
 
 
-def judge(macro, dialect, repaired):
-    """A project's class is known to its start-up module. The `Return` of a macro's head stops only a macro that does not
-    find its sheet, and is reported as no fault."""
+def judge(macro, dialect):
+    """A project's class is known to its start-up module."""
     # What is left open shows at the end, far from where it went wrong.
     files = sorted(file for file in macro.folder.iterdir() if file.suffix in (".bas", ".vb"))
     return [harness.Rejection(file, 0 if "comes before the end" in fault else number, fault) for file in files
-            for number, fault in basic_structure.check(file.read_text(encoding="utf-8"), dialect, {macro.name})
-            if repaired or not fault.startswith("Return ")]
+            for number, fault in basic_structure.check(file.read_text(encoding="utf-8"), dialect, {macro.name})]
 
 
 def main():
@@ -29,7 +27,7 @@ def main():
     macros = checked.macros(dialect, *(["--repair"] if repaired else []))
     verdict = harness.Verdict()
     for macro in macros:
-        verdict.settle([macro], lambda macro=macro: judge(macro, dialect, repaired))
+        verdict.settle([macro], lambda macro=macro: judge(macro, dialect))
     verdict.report(f"{len(macros)} macros checked")
 
 

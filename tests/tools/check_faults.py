@@ -75,9 +75,22 @@ def listed(checked, target):
     return set(rows)
 
 
+def without_return(macro):
+    """The macro with the fault of each VBA macro mended, when it has others; that one stands in lines of its own."""
+    others = tuple(fault for fault in macro.faults if fault.operation != "EmitFileHeader: sheet")
+    if not others or others == macro.faults:
+        return macro
+    text = macro.file.read_text(encoding="utf-8")
+    macro.file.write_text(re.sub(r"^( *)Return$", r"\1Exit Sub", text, flags=re.MULTILINE), encoding="utf-8")
+    return dataclasses.replace(macro, faults=others)
+
+
 def candidates(checked, target):
     """For each fault macros that have it, those with the fewest others first."""
-    whole = checked.convert(target, checked.named_recordings(True), checked.folder / "whole")
+    def convert(recordings, folder):
+        return [without_return(macro) for macro in checked.convert(target, recordings, checked.folder / folder)]
+
+    whole = convert(checked.named_recordings(True), "whole")
     whole.sort(key=lambda macro: macro.recording.stat().st_size)
     cut = collections.Counter()
     folder = checked.folder / "pieces"
@@ -87,7 +100,7 @@ def candidates(checked, target):
         cut.update(rows_of(macro.faults))
         if any(cut[row] <= CUT for row in rows_of(macro.faults)):
             parts = list(pieces.of(macro.recording, folder))
-            found += [(macro, one) for one in [macro, *checked.convert(target, parts, checked.folder / "faithful")]]
+            found += [(macro, one) for one in [macro, *convert(parts, "faithful")]]
     found.sort(key=lambda pair: (len(rows_of(pair[1].faults)), pair[1].file.stat().st_size))
     cases, tried = collections.defaultdict(list), collections.Counter()
     for source, macro in found:
@@ -184,7 +197,7 @@ class Proof:
         another drawing than the recorded one."""
         verdict, kept = harness.Verdict(), list(macros)
         if self._target == "vbnet":
-            verdict.settle(kept, lambda: [one for macro in kept for one in check_basic.judge(macro, "vbnet", False)])
+            verdict.settle(kept, lambda: [one for macro in kept for one in check_basic.judge(macro, "vbnet")])
         calls = {}
         if kept and self._has_compiler:
             judge = importlib.import_module(f"check_{self._target}").Judge(self._checked, kept)

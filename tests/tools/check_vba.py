@@ -51,10 +51,8 @@ def see_faults(checked, program):
 
 
 class Judge:
-    """With `repaired`, nothing is excused."""
-
-    def __init__(self, checked, macros, repaired=False):
-        self.checked, self.macros, self.repaired = checked, macros, repaired
+    def __init__(self, checked, macros):
+        self.checked, self.macros = checked, macros
         self.program = build(checked)
         see_faults(checked, self.program)
         self.known = interface.read(harness.STUBS / "interface.txt", "csharp")
@@ -62,7 +60,7 @@ class Judge:
     def __call__(self):
         rejections = compile_all(self.checked, self.program, [macro.file for macro in self.macros])
         for macro in self.macros:
-            rejections += check_basic.judge(macro, basic_structure.VBA, self.repaired)
+            rejections += check_basic.judge(macro, basic_structure.VBA)
             rejections += [harness.Rejection(macro.file, number, fault) for number, fault in
                            vba_types.check(macro.file.read_text(encoding="utf-8"), self.known)]
         return sorted(rejections, key=lambda rejection: (rejection.file, rejection.line))
@@ -71,7 +69,7 @@ class Judge:
 def main():
     checked = harness.Checked()
     macros = checked.macros("vba", "--repair")
-    harness.finish(harness.shown(Judge(checked, macros, True)()), f"{len(macros)} macros compiled")
+    harness.finish(harness.shown(Judge(checked, macros)()), f"{len(macros)} macros compiled")
 
 
 if __name__ == "__main__":

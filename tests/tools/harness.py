@@ -116,6 +116,8 @@ class Checked:
         """The macros of recordings in one call of the program with those options, named as their files are."""
         if not self.has(target):
             skip(f"the program has no target {target}")
+        if not recordings:
+            return []
         result = run(self.program, "convert", *recordings, "--target", target, "--output", f"{folder}/", "--report",
                      "--quiet", *options)
         if result.returncode != 0:

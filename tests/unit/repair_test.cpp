@@ -101,6 +101,26 @@ TEST(Quoting, TellsTextsThatBreakTheirQuotes)
     }
 }
 
+TEST(Quoting, KnowsTheNamesOfEachTarget)
+{
+    struct Case
+    {
+        const char* name;
+        bool csharp, vbNet, cppCom;
+    };
+    const Case cases[] = {
+        {"plate_2", true, true, true},    {"line", true, true, false},   {"Line", false, true, false},
+        {"class", false, false, false},   {"Class", true, false, false}, {"gr\u00F6\u00DFe", true, true, false},
+        {"dim", true, false, false},      {"1st", false, false, false},  {"a b", false, false, false},
+        {"Console", false, false, false}, {"stdafx", true, true, false}, {"", false, false, false},
+    };
+    for (const Case& one : cases) {
+        EXPECT_EQ(isLegalName(one.name, Target::CSharp), one.csharp) << one.name;
+        EXPECT_EQ(isLegalName(one.name, Target::VbNet), one.vbNet) << one.name;
+        EXPECT_EQ(isLegalName(one.name, Target::CppCom), one.cppCom) << one.name;
+    }
+}
+
 TEST(Quoting, MakesLegalNames)
 {
     const std::pair<const char*, const char*> cases[] = {

@@ -2,6 +2,8 @@
 
 #include "targets/MacroFrame.h"
 
+#include <QByteArray>
+
 /// VBA: one subroutine to paste into an editor. The macro's name plays no part in it.
 class CFxConverterIWAPIVba final : public MacroFrame
 {
@@ -10,4 +12,8 @@ public:
 
     Statement EmitFileHeader(const QString& className, bool hasSysVar) override;
     Statement EmitFileFooter() override;
+
+private:
+    /// A part of the head.
+    Statement filled(const QByteArray& words) const;
 };

@@ -1,13 +1,16 @@
 // The VBA subroutine around the statements.
 
+#include "statements/Fault.h"
 #include "statements/LineEnd.h"
 #include "statements/RecordingState.h"
 #include "targets/FileHead.h"
 #include "targets/vba/CFxConverterIWAPIVba.h"
 
+#include <cstring>
+
 using namespace inkmacro;
 
-// %1 is the line end, %2 the sheet on which the recording began. Tabs and blanks are mixed, and the `Return`s are not
+// %1 is the line end, %2 the sheet on which the recording began. Tabs and blanks are mixed, and the `Return`s are no
 // VBA; both have to stay.
 
 static const FileHead head{
@@ -46,14 +49,26 @@ static const FileHead head{
     .viewManager = "\t\t'Get View Manager%1\t\tSet iwViewManager = iwDoc.GetViewManager()%1%1",
 };
 
-/// `Return` ends a GoSub. No macro gets there that finds the sheet, so it counts as no fault, but a repaired one leaves
-/// the procedure as VBA does.
+static const Fault kReturn{"EmitFileHeader: sheet", {Target::Vba}, "Return goes back from a GoSub, and there is none"};
+
+/// `Return` ends a GoSub; a repaired macro that does not find its sheet leaves the procedure as VBA does.
 Statement CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
 {
     writer.IndentLevel += 2;
-    const QByteArray text = head.words().replace("Return%1", mended("Return%1", "Exit Sub%1"));
-    const Template words(text.constData(), writer.target);
-    return writer.fill(words).text(LineEnd).text(RecordingSheetName);
+    Statement text;
+    QByteArray words = head.words();
+    for (auto at = words.indexOf("Return%1"); at != -1; at = words.indexOf("Return%1")) {
+        text += filled(words.left(at));
+        text += writer.mended(QStringLiteral("Return"), kReturn, QStringLiteral("Exit Sub"));
+        words.remove(0, at + static_cast<int>(std::strlen("Return")));
+    }
+    return text + filled(words);
+}
+
+Statement CFxConverterIWAPIVba::filled(const QByteArray& words) const
+{
+    const Template part(words.constData(), writer.target);
+    return writer.fill(part).text(LineEnd).text(RecordingSheetName);
 }
 
 /// Leaves the level.
