@@ -141,6 +141,8 @@ void ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const Od
         return;
     }
 
+    if (!fromAdded)
+        LoseLoneTags(conversion, object, list, false);
     StatementGroup group(conversion.writer);
     const Statement general =
         cls->isDerivedFrom(OdDbEntity::desc()) ? convertGeneral(conversion, object, list, fromAdded, group) : QString();

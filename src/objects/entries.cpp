@@ -110,6 +110,7 @@ void ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDb
     const OdDbObjectId id = IdOf(handle);
     object.name = conversion.names().NameAdded(*entry, cls, id);
 
+    LoseLoneTags(conversion, object, rest, true);
     // Of two lists with the same records the same ones stay.
     const bool same = read == rest;
     PropertyList consumed;

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <span>
+#include <vector>
 
 namespace {
 
@@ -39,7 +40,6 @@ constexpr DerivedTag insertedTags[] = {
     {"Vertex *"},
     {"Control point *", "AcDbSpline"},
     {"Fit point *", "AcDbSpline"},
-    {"Line space factor", "AcDbMText"},
     // One of the two points is the other one moved by the justification.
     {"Position *", "AcDbAttributeDefinition"},
     {"Text alignment *", "AcDbAttributeDefinition"},
@@ -53,6 +53,47 @@ constexpr DerivedTag insertedTags[] = {
     {"RowHeight_*", "AcDbTable"},
     {"ColumnWidth_*", "AcDbTable"},
 };
+
+/// A derived value tells something of its own when nothing that it follows from is recorded.
+struct LoneTag
+{
+    LoneTag(const char* className, const char* tag, std::initializer_list<const char*> sources, bool settable = false,
+            double made = 0)
+        : cls(oddbClassByName(className)), tag(tag), sources(sources), settable(settable), made(made)
+    {
+    }
+
+    const OdRxClass* cls;
+    QString tag;
+    std::vector<const char*> sources; ///< beginnings of tags
+    bool settable;                    ///< a change of it alone has a statement
+    double made;                      ///< what an insertion without any record gives, 0 when not known
+};
+
+/// Made once: they are asked for with every object.
+std::span<const LoneTag> loneTags()
+{
+    static const LoneTag rows[] = {
+        {"AcDbCircle", "Diameter", {"Radius"}, true, 2},
+        {"AcDbCircle", "Circumference", {"Radius"}, true},
+        {"AcDbEllipse", "Major radius", {"Major axis vector"}, true},
+        {"AcDbEllipse", "Radius ratio", {"Minor radius"}, true},
+        {"AcDbLine", "Length", {"Start ", "End "}},
+        {"AcDbLine", "Angle", {"Start ", "End "}},
+        {"AcDbArc", "Arc length", {"Radius", "Start Angle", "End Angle"}},
+        {"AcDbArc", "Total angle", {"Start Angle", "End Angle"}},
+    };
+    return rows;
+}
+
+bool isRecorded(const LoneTag& row, const PropertyList& list)
+{
+    return std::ranges::any_of(list, [&](const CFxPropertyChangedPtr& record) {
+        return std::ranges::any_of(row.sources, [&](const char* source) {
+            return record->GetName().toQString().startsWith(QLatin1String(source));
+        });
+    });
+}
 
 bool holds(std::span<const DerivedTag> rows, const OdRxClass* cls, const QString& tag)
 {
@@ -101,7 +142,7 @@ CFxString nameOfLineStyle(const OdDbObjectId& id)
     return style ? CFxString(style->getName()) : CFxString();
 }
 
-/// A general property, and whether a new object has that value anyway.
+/// A general property, or one of a single class, and whether a new object has that value anyway.
 struct GeneralTag
 {
     const char* tag;
@@ -114,6 +155,7 @@ constexpr GeneralTag generalTags[] = {
          return ACTIVE_DOCUMENT && value.GetId() == ACTIVE_DOCUMENT->GetDatabase()->getCLAYER();
      }},
     {"LineStyle", [](const CFxVariant& value) { return nameOfLineStyle(value.GetId()).equalNoCase("ByLayer"); }},
+    {"Line space factor", [](const CFxVariant& value) { return value.GetDouble() == 1; }},
     {"LineScale", [](const CFxVariant& value) { return value.GetDouble() == 1; }},
     {"LineWeight", [](const CFxVariant& value) { return value.GetInt32() == kLineWeightByLayer; }},
     {"Thickness", [](const CFxVariant& value) { return value.GetDouble() == 0; }},
@@ -170,6 +212,18 @@ void LoseRest(const Conversion& conversion, const RecordedObject& object, const 
             fromAdded && (holds(insertedTags, object.cls, tag) || isUsual(tag, record->GetValue(conversion.context)));
         if (!isThere && !holds(derivedTags, object.cls, tag))
             LoseProperty(object, tag, "no statement sets it");
+    }
+}
+
+void LoseLoneTags(const Conversion& conversion, const RecordedObject& object, const PropertyList& list, bool fromAdded)
+{
+    for (const LoneTag& row : loneTags()) {
+        if ((row.settable && !fromAdded) || object.cls != row.cls)
+            continue;
+        for (const CFxPropertyChangedPtr& record : list)
+            if (record->GetName().toQString() == row.tag && !isRecorded(row, list) &&
+                !(fromAdded && row.made != 0 && record->GetValue(conversion.context).GetDouble() == row.made))
+                LoseProperty(object, row.tag, "what it follows from is not recorded");
     }
 }
 

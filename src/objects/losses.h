@@ -22,6 +22,9 @@ void LoseRest(const Conversion& conversion, const RecordedObject& object, const 
 /// statement was written for.
 void LoseUnmade(Conversion& conversion, const RecordedObject& object, PropertyList& rest, bool written);
 
+/// Derived properties of a list from which nothing has been taken yet, where it does not hold what they follow from.
+void LoseLoneTags(const Conversion& conversion, const RecordedObject& object, const PropertyList& list, bool fromAdded);
+
 /// Whether custom actions, or the block of its command, make the object.
 bool IsMadeByAction(const Conversion& conversion, const RecordedObject& object);
 /// Whether custom actions of that kind make entities of the class; null: of any.

@@ -190,6 +190,63 @@ TEST(Losses, OfPropertiesAreThoseThatNoStatementSets)
                      "1 property \"Rows\" of AcDbTable 31: one line is removed where several went"}));
 }
 
+/// Values that an insertion or a change passes over although nothing else in the recording says the same.
+TEST(Losses, OfValuesThatNothingElseSaysAreThoseValues)
+{
+    const QByteArray reference = R"({"object":{"class":"AcDbBlockTableRecord","handle":"40","name":"X",)"
+                                 R"("isFromExternalReference":true,"pathName":"x.dwg"}}
+{"object":{"class":"AcDbBlockReference","handle":"31","blockTableRecord":"40"}}
+)";
+    const struct
+    {
+        const char* cls;
+        QByteArray properties;
+        std::vector<std::string> lost;
+    } cases[] = {
+        {"AcDbBlockReference",
+         R"({"tag":"Name","value":"X"},{"tag":"Scale Z","value":3.0},{"tag":"Rotation","value":0.5})",
+         {"Scale Z", "Rotation"}},
+        {"AcDbBlockReference", R"({"tag":"Scale X","value":3.0},{"tag":"Scale Y","value":3.0})", {}},
+        {"AcDbMText", R"({"tag":"Line space factor","value":1.5})", {"Line space factor"}},
+        {"AcDbMText", R"({"tag":"Line space factor","value":1.0})", {}},
+        {"AcDbCircle", R"({"tag":"Diameter","value":7.0})", {"Diameter"}},
+        {"AcDbCircle", R"({"tag":"Radius","value":3.5},{"tag":"Diameter","value":7.0})", {}},
+        {"AcDbEllipse",
+         R"({"tag":"Major radius","value":7.0},{"tag":"Radius ratio","value":0.5})",
+         {"Major radius", "Radius ratio"}},
+        {"AcDbEllipse",
+         R"({"tag":"Major axis vector X","value":7.0},{"tag":"Minor radius","value":3.5},)"
+         R"({"tag":"Major radius","value":7.0},{"tag":"Radius ratio","value":0.5})",
+         {}},
+        {"AcDbEllipse", R"({"tag":"Center X","value":1.0},{"tag":"Center Z","value":2.0})", {"Center Z"}},
+        {"AcDbTable", R"({"tag":"Position X","value":1.0},{"tag":"Position Z","value":2.0})", {"Position Z"}},
+        {"AcDbPolyline",
+         R"({"tag":"Vertex","value":{"collection":{"elements":[{"tag":{"int":0},"value":{"point":[1,0,4]}}]}}})",
+         {"Vertex Z"}},
+        {"AcDbArc",
+         R"({"tag":"Arc length","value":7.0},{"tag":"Total angle","value":1.0})",
+         {"Arc length", "Total angle"}},
+        {"AcDbArc",
+         R"({"tag":"Radius","value":2.0},{"tag":"End Angle","value":1.0},{"tag":"Arc length","value":2.0})",
+         {}},
+    };
+    for (const auto& [cls, properties, lost] : cases) {
+        const QByteArray drawing = QByteArray(cls) == "AcDbBlockReference" ? reference : QByteArray();
+        const Lines losses = lossesOf(drawing + command(QByteArray(R"({"added":{"class":")") + cls +
+                                                        R"(","handle":"31","properties":[)" + properties + "]}}"));
+        ASSERT_EQ(losses.size(), lost.size()) << cls << ' ' << properties.toStdString();
+        for (std::size_t i = 0; i < lost.size(); ++i)
+            EXPECT_TRUE(losses[i].starts_with("0.0 property \"" + lost[i] + "\" of " + cls)) << losses[i];
+    }
+
+    const auto ofLine = [](const QByteArray& properties) {
+        return lossesOf(command(line) + changed("AcDbLine", "30", properties)).size();
+    };
+    EXPECT_EQ(ofLine(R"({"tag":"Length","value":5.0},{"tag":"Angle","value":0.5})"), 2U);
+    EXPECT_EQ(ofLine(R"({"tag":"Length","value":5.0},{"tag":"Delta X","value":5.0})"), 1U);
+    EXPECT_EQ(ofLine(R"({"tag":"End X","value":5.0},{"tag":"Length","value":5.0},{"tag":"Angle","value":0.5})"), 0U);
+}
+
 /// What only a change sets: for each class a tag that its insertion takes beside one that nothing takes.
 TEST(Losses, OfAddedObjectsAreAllPropertiesThatTheirInsertionDoesNotTake)
 {

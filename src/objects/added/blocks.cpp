@@ -34,6 +34,15 @@ Statement defineCloud(const AddedObject& added, const OdDbBlockTableRecord& reco
                                                     descriptionOf(record), record.origin(), entitiesOf(record)});
 }
 
+/// An external reference is inserted with two factors, and never rotated.
+void loseRestOfPlacement(const AddedObject& added, const Placement& placement)
+{
+    if (placement.scales.sz != 1)
+        LoseProperty(added.object, "Scale Z", "the insertion of an external reference does not take it");
+    if (placement.rotation != 0)
+        LoseProperty(added.object, "Rotation", "the insertion of an external reference does not take it");
+}
+
 Statement setAttributes(const AddedObject& added, const OdDbBlockReference& reference)
 {
     Statement text;
@@ -67,11 +76,13 @@ Statement ReadBlockReference(AddedObject& added)
         block = CFxString(anonymousBlockName);
         text = defineCloud(added, *record);
     }
-    if (record && record->isFromExternalReference())
+    if (record && record->isFromExternalReference()) {
+        loseRestOfPlacement(added, placement);
         text += EmitInsertExternalReference(added.writer, record->pathName(), placement.position, placement.scales,
                                             added.name);
-    else
+    } else {
         text += EmitInsertBlock(added.writer, block, placement, added.name);
+    }
     if (cloud)
         text += EmitCustomData(added.writer, added.name, cloud);
     return reference ? text + setAttributes(added, *reference) : text;

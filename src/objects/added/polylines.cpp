@@ -5,6 +5,7 @@
 #include "objects/AddedObject.h"
 #include "objects/added/readers.h"
 #include "objects/targets/setters.h"
+#include "statements/actionKinds.h"
 
 #include <algorithm>
 
@@ -53,8 +54,11 @@ Statement ReadPolyline3D(AddedObject& added)
 Statement ReadPolyline(AddedObject& added)
 {
     OdArray<OdGePoint2d> vertices;
-    for (const OdGePoint3d& vertex : added.takePoints("Vertex"))
+    for (const OdGePoint3d& vertex : added.takePoints("Vertex")) {
         vertices.append({vertex.x, vertex.y});
+        if (vertex.z != 0 && !added.conversion.HasSibling(inkmacro::kPolyline))
+            LoseProperty(added.object, "Vertex Z", "the insertion takes the vertices in the plane");
+    }
     if (const auto polyline = added.open<OdDbPolyline>())
         LoseArcs(added.conversion, added.object, *polyline);
     return EmitInsertPolyline2D(added.writer, vertices, takeClosed(added), added.name);

@@ -51,6 +51,8 @@ static void loseOwnStyles(const AddedObject& added, const OdDbTable& table, cons
 Statement ReadTable(AddedObject& added)
 {
     const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
+    if (position.z != 0)
+        LoseProperty(added.object, "Position Z", "the insertion takes its position in the plane");
     const std::int32_t rows = added.take("Rows").GetInt32();
     const std::int32_t columns = added.take("Columns").GetInt32();
     const auto table = added.open<OdDbTable>();
