@@ -207,54 +207,6 @@ TEST_F(Results, AreMissedWhenTheirFolderVanishes)
     EXPECT_FALSE(exists("out") || exists("gone/csharp/walls.cs"));
 }
 
-TEST_F(Results, OfACommandGoBesideARecordingThatOthersChanged)
-{
-    const QStringList rectangle{"run", "walls.jsonl", "--command", "-HYPERLINK"};
-    const QByteArray answers = "i\na\n1,2\n5,4\nplan.dwg\n\n\n";
-    write("walls.jsonl", line);
-    const auto meanwhile = [&](const auto& change) {
-        QProcess process;
-        {
-            const Hold hold(path("."));
-            start(process, rectangle);
-            process.write(answers);
-            EXPECT_TRUE(process.waitForBytesWritten());
-            process.closeWriteChannel();
-            awaitStaged("walls.jsonl");
-            change();
-        }
-        return finish(process);
-    };
-    // The recorder goes on.
-    Outcome outcome = meanwhile([&] {
-        QFile file(path("walls.jsonl"));
-        ASSERT_TRUE(file.open(QIODevice::Append));
-        file.write(line);
-    });
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.err, "inkmacro: walls.jsonl was changed by somebody else meanwhile and stays as it is; the new "
-                           "drawing is in walls.jsonl.new\n");
-    EXPECT_EQ(contents("walls.jsonl"), line + line);
-    const QByteArray first = contents("walls.jsonl.new");
-    EXPECT_TRUE(first.contains("plan.dwg"));
-
-    // Of two at once the later one finds what the first has written.
-    outcome = meanwhile([&] { ASSERT_TRUE(QFile::remove(path("walls.jsonl")) && exists("walls.jsonl.new")); });
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_FALSE(exists("walls.jsonl"));
-    EXPECT_EQ(contents("walls.jsonl.new"), first);
-    EXPECT_TRUE(contents("walls.jsonl.new2").contains("plan.dwg"));
-
-    write("walls.jsonl", line);
-    EXPECT_EQ(meanwhile([] {}).status, 0);
-    EXPECT_TRUE(contents("walls.jsonl").contains("plan.dwg"));
-
-    // Who asks is heard by nobody.
-    outcome = run(rectangle, answers, "exec >/dev/full; ");
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.err, "inkmacro: standard output: No space left on device\n");
-}
-
 TEST_F(Results, FollowSymbolicLinksAndLeaveHardLinksAlone)
 {
     write("walls.jsonl", line);

@@ -270,8 +270,7 @@ Commands:
            with --json as one JSON array
   run      run a command of the macro writer on the drawing of a recording:
            -HYPERLINK or -LINESTYLE, with or without a leading underscore, in
-           any case; where somebody else has written to the file meanwhile, it
-           stays as it is and the drawing goes to FILE.new
+           any case
   schema   print the JSON Schema of one line of a recording, or of the report of
            convert
   system-variables

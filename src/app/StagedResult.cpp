@@ -101,18 +101,6 @@ QString refusalAt(const QString& file)
 
 } // namespace
 
-FileState::FileState(const QString& file)
-{
-    struct stat found = {};
-    if (stat(toPath(file).c_str(), &found) != 0)
-        return;
-    const auto nanoseconds = [](const timespec& time) {
-        return static_cast<std::uint64_t>(time.tv_sec) * 1'000'000'000U + static_cast<std::uint64_t>(time.tv_nsec);
-    };
-    known_ = {found.st_dev, found.st_ino, static_cast<std::uint64_t>(found.st_size), nanoseconds(found.st_mtim),
-              nanoseconds(found.st_ctim)};
-}
-
 PlacingError::PlacingError(const QString& file, const QString& reason)
     : std::runtime_error((file + ": " + reason).toLocal8Bit().toStdString())
 {
@@ -175,18 +163,6 @@ StagedResult::Move StagedResult::prepare(const QString& file)
 QStringList StagedResult::place()
 {
     QStringList written;
-    place(written, nullptr);
-    return written;
-}
-
-bool StagedResult::placeUnlessChanged(const FileState& before)
-{
-    QStringList written;
-    return place(written, &before);
-}
-
-bool StagedResult::place(QStringList& written, const FileState* before)
-{
     std::vector<Move> moves;
     for (const QString& file : files_)
         if (has(file)) {
@@ -200,15 +176,13 @@ bool StagedResult::place(QStringList& written, const FileState* before)
     }
     if (!staging_->stands() || !has(files_.front()))
         throw PlacingError(files_.front(), "its folder vanished during the work");
-    if (before && FileState(files_.front()) != *before)
-        return false;
     const SignalPause pause;
     // The first one comes last: where a macro is, its project is.
     std::reverse(moves.begin(), moves.end());
     for (const Move& move : moves)
         if (rename(move.from.c_str(), move.to.c_str()) != 0)
             failFor(move.file, errno);
-    return true;
+    return written;
 }
 
 QString refusalOf(const QStringList& files)

@@ -4,8 +4,6 @@
 
 #include <QStringList>
 
-#include <array>
-#include <cstdint>
 #include <list>
 #include <optional>
 #include <stdexcept>
@@ -18,19 +16,6 @@ class PlacingError : public std::runtime_error
 public:
     PlacingError(const QString& file, const QString& reason);
     QString message() const;
-};
-
-/// What stands at a place, as far as it takes to tell later whether somebody has written there.
-class FileState
-{
-public:
-    /// Of now.
-    explicit FileState(const QString& file);
-    bool operator==(const FileState&) const = default;
-
-private:
-    /// Device, number, length, and both times in nanoseconds; nothing when no file is there.
-    std::optional<std::array<std::uint64_t, 5>> known_;
 };
 
 /// Files that belong together: they are written in a staging folder beside their place, and when all of them are whole
@@ -49,9 +34,6 @@ public:
     /// Puts the files to their places and gives their paths. A symbolic link that stands there stays and its target is
     /// replaced. Raises PlacingError; then no file has been replaced, unless it was the replacing that failed.
     QStringList place();
-    /// The same of a single file, but false, and nothing is replaced, when in its place no longer stands what stood
-    /// there before. Of two processes that do so at once one finds it changed.
-    bool placeUnlessChanged(const FileState& before);
 
 private:
     struct Move
@@ -62,7 +44,6 @@ private:
     };
 
     std::string staged(const QString& file) const;
-    bool place(QStringList& written, const FileState* before);
     Move prepare(const QString& file);
 
     QStringList files_;

@@ -1,21 +1,17 @@
 #include "app/TerminalIO.h"
 
 #include "app/console.h"
-#include "app/earlyEnd.h"
 #include "app/valueText.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
 
 #include <histedit.h>
-#include <langinfo.h>
 #include <poll.h>
-#include <termios.h>
 #include <unistd.h>
 
 namespace inkmacro {
@@ -63,26 +59,8 @@ private:
 void showAtOnce(const QString& text)
 {
     printOut(text);
-    flushOut();
+    std::fflush(stdout);
 }
-
-/// Gives the terminal back as it was when a signal ends the process while the line editor has it.
-class TerminalMode final : private EarlyEnd
-{
-public:
-    TerminalMode() : known_(tcgetattr(STDIN_FILENO, &before_) == 0) { beginWatch(); }
-    ~TerminalMode() { endWatch(); }
-
-private:
-    void endEarly(int) noexcept override
-    {
-        if (known_)
-            tcsetattr(STDIN_FILENO, TCSANOW, &before_);
-    }
-
-    termios before_ = {};
-    const bool known_;
-};
 
 class PlainReader final : public AnswerReader
 {
@@ -147,9 +125,6 @@ class LineEditor final : public AnswerReader
 public:
     LineEditor() : editor_(el_init("inkmacro", stdin, stdout, stderr)), history_(history_init())
     {
-        // It drops letters that the locale does not have, of which some systems have no more than ASCII.
-        if (std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
-            std::setlocale(LC_CTYPE, "C.UTF-8");
         HistEvent event;
         history(history_, &event, H_SETSIZE, 100);
         el_set(editor_, EL_CLIENTDATA, this);
@@ -220,13 +195,11 @@ private:
                 common = common.isEmpty() ? answer : commonBeginning(common, answer);
         if (common.length() <= begun.length())
             return CC_REFRESH_BEEP;
-        // The editor counts letters, of which some take two of a QString's.
-        el_deletestr(editor_, begun.toUcs4().size());
+        el_deletestr(editor_, begun.length());
         el_insertstr(editor_, common.toLocal8Bit().constData());
         return CC_REFRESH;
     }
 
-    const TerminalMode mode_; ///< before the editor is there
     EditLine* editor_;
     History* history_;
     QByteArray prompt_;

@@ -47,11 +47,6 @@ void printOut(const QString& text)
     printOut(text.toLocal8Bit());
 }
 
-void flushOut()
-{
-    noteOutputError(std::fflush(stdout) != 0);
-}
-
 void printError(const QByteArray& bytes)
 {
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);

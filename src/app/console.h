@@ -13,9 +13,6 @@ void prepareStreams();
 void printOut(const QByteArray& bytes);
 void printOut(const QString& text);
 
-/// Sends on what has been printed so far.
-void flushOut();
-
 /// Standard error: bytes as they are, or one message of this program.
 void printError(const QByteArray& bytes);
 void complain(const QString& message);

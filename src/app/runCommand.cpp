@@ -55,8 +55,8 @@ void updateDrawing(Recording& recording, const QString& output)
             folder = to.relativeFilePath(from.absoluteFilePath(folder));
 }
 
-/// False when there stands something else than before. Raises PlacingError.
-bool write(const Recording& recording, const QString& output, const FileState& before)
+/// Raises PlacingError.
+void write(const Recording& recording, const QString& output)
 {
     StagedResult result({output});
     QFile file(result.firstFile());
@@ -67,18 +67,7 @@ bool write(const Recording& recording, const QString& output, const FileState& b
                                        ? "the drawing has data that no recording can hold"
                                        : file.errorString());
     file.close();
-    return result.placeUnlessChanged(before);
-}
-
-/// Beside the file, under a name that is free.
-QString writeBeside(const Recording& recording, const QString& output)
-{
-    for (int number = 1;; ++number) {
-        const QString other = output + (number == 1 ? QString(".new") : QString(".new%1").arg(number));
-        const FileState before(other);
-        if (!QFileInfo::exists(other) && write(recording, other, before))
-            return other;
-    }
+    result.place();
 }
 
 } // namespace
@@ -86,11 +75,8 @@ QString writeBeside(const Recording& recording, const QString& output)
 int runCommand(const QString& path, const QString& name, const QString& output)
 {
     nameWork(QString("running %1 on %2").arg(name, path));
-    if (output.endsWith('/'))
-        throw WrongUse("--output of run is a file: " + output);
     const LoadedModule module;
     const CFxCommandPtr command = findCommand(name);
-    const FileState before(output);
     Recording recording;
     if (!readOrComplain(path, recording))
         return kUnreadable;
@@ -108,11 +94,7 @@ int runCommand(const QString& path, const QString& name, const QString& output)
     }
     updateDrawing(recording, output);
     try {
-        if (!write(recording, output, before)) {
-            complain(QString("%1 was changed by somebody else meanwhile and stays as it is; the new drawing is in %2")
-                         .arg(output, writeBeside(recording, output)));
-            return kFailed;
-        }
+        write(recording, output);
     } catch (const PlacingError& error) {
         complain(error.message());
         return kFailed;

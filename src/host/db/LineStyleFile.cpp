@@ -41,8 +41,6 @@ bool LineStyleFile::next(Style& style)
             continue;
         const int comma = text->indexOf(',');
         style.name = text->mid(1, comma < 0 ? -1 : comma - 1).trimmed();
-        if (style.name.isEmpty())
-            continue;
         style.description = comma < 0 ? OdString() : text->mid(comma + 1, kLongestDescription);
         return true;
     }
