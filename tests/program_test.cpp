@@ -157,17 +157,13 @@ TEST_F(Program, LeavesNoPartOfAMacroThatCouldNotBeWritten)
     write("many.jsonl", many);
     outcome = run({"convert", "many.jsonl", "--target", "csharp", "--output", "full.cs"}, {}, "ulimit -f 8; ");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(outcome.err.contains("-5001") && outcome.err.contains("full.cs")) << outcome.err.toStdString();
+    EXPECT_EQ(outcome.err, "inkmacro: conversion to csharp failed with status -5001: full.cs: File too large\n");
     EXPECT_FALSE(exists("full.cs"));
 
     outcome = run({"convert", "walls.jsonl", "--target", "csharp", "--output", "/dev/full"});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_TRUE(outcome.err.contains("/dev/full exists and is not a regular file")) << outcome.err.toStdString();
     EXPECT_TRUE(QFileInfo::exists("/dev/full"));
-
-    outcome = run({"check", "walls.jsonl"}, {}, "exec >/dev/full; ");
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.err, "inkmacro: standard output: No space left on device\n");
 
     if (geteuid() != 0) {
         QDir().mkdir(path("locked"));
@@ -176,12 +172,69 @@ TEST_F(Program, LeavesNoPartOfAMacroThatCouldNotBeWritten)
     }
 }
 
+TEST_F(Program, TellsThatStandardOutputIsFull)
+{
+    write("walls.jsonl", R"({"object":{"class":"AcDbLine","handle":"2A"}})"
+                         "\n" +
+                             line);
+    const QStringList commands[] = {
+        {"convert", "walls.jsonl", "--target", "csharp", "--output", "out/", "--quiet"},
+        {"convert", "walls.jsonl", "--target", "csharp,vba", "--output", "out/", "--quiet"},
+        {"convert", "walls.jsonl", "--target", "csharp,vba", "--output", "out/", "--quiet", "--report"},
+        {"check", "walls.jsonl"},
+        {"inspect", "walls.jsonl"},
+        {"snapshot", "walls.jsonl", "--handle", "2A"},
+        {"run", "walls.jsonl", "--command", "-HYPERLINK", "--output", "out/run.jsonl"},
+        {"schema"},
+        {"system-variables"},
+        {"faults"},
+        {"--version"},
+        {"--help"},
+    };
+    for (const QStringList& arguments : commands) {
+        const Outcome outcome = run(arguments, "Insert\nEntity\n2A\nplan.dwg\n\n\n", "exec >/dev/full; ");
+        EXPECT_EQ(outcome.status, 1) << arguments.join(' ').toStdString();
+        EXPECT_EQ(outcome.err, "inkmacro: standard output: No space left on device\n")
+            << arguments.join(' ').toStdString();
+    }
+}
+
+TEST_F(Program, KeepsLettersFromTheTerminalThatItWouldObey)
+{
+    const QString hostile = QString::fromUtf8("w\x1B[31m\u009B\u202E\u2066\u200F\u061C\u2028ü😀");
+    const QString shown = QString::fromUtf8("w\\x1b[31m\\x9b\\u202e\\u2066\\u200f\\u061c\\u2028ü😀");
+    const QString file = hostile + ".jsonl";
+    const QString name = shown + ".jsonl";
+    write(file,
+          "{\"sysvar\":{\"name\":\"" + hostile.toUtf8().replace('\x1B', "\\u001b") + "\",\"value\":{\"int32\":1}}}\n");
+    write("bad/" + file, "{");
+    EXPECT_EQ(run({"check", file}).out, name + ": ok, 1 action\n");
+    EXPECT_EQ(run({"inspect", file}).out, name + ": 1 action\nsysvar " + shown + " = 1\ncounts: 1 sysvar\n");
+    EXPECT_TRUE(run({"check", "bad/" + file}).err.startsWith("bad/" + name + ":1: "));
+    EXPECT_EQ(run({"convert", file, "--target", "vba", "--output", file + "/x.bas"}).err,
+              "inkmacro: " + name + "/x.bas: Not a directory\n");
+    for (const QString targets : {"csharp,vba", "vba"})
+        EXPECT_TRUE(run({"convert", file, "--target", targets, "--output", file + "/"}).err.contains(name + '/'))
+            << targets.toStdString();
+    EXPECT_TRUE(run({"convert", file, "--target", hostile}).err.startsWith("inkmacro: unknown target \"" + shown));
+
+    // Paths are for programs, unless it is a terminal that they come to.
+    const QStringList conversion{"convert", file, "--target", "csharp,vba", "--output", "out/"};
+    EXPECT_TRUE(run(conversion).out.startsWith("out/csharp/" + hostile + ".cs\n"));
+    Terminal terminal;
+    run(conversion, {}, terminal.asErrors() + "exec >&2; ");
+    EXPECT_TRUE(terminal.text().contains("out/csharp/" + shown.toUtf8() + ".cs\r\n")) << terminal.text().toStdString();
+    run({"inspect", file, "--json"}, {}, terminal.asErrors() + "exec >&2; ");
+    for (const QChar letter : hostile.mid(1, 1) + hostile.mid(6, 6))
+        EXPECT_FALSE(terminal.text().contains(QString(letter).toUtf8())) << letter.unicode();
+}
+
 TEST_F(Program, NamesTheProjectFileThatCouldNotBeWritten)
 {
     // The macro of an empty recording is shorter than the project file.
     const Outcome full = run({"convert", "-", "--target", "cpp", "--output", "full/m.cpp"}, "", "ulimit -f 8; ");
     EXPECT_EQ(full.status, 1);
-    EXPECT_TRUE(full.err.contains("full/m.vcproj could not be written whole")) << full.err.toStdString();
+    EXPECT_EQ(full.err, "inkmacro: full/m.vcproj could not be written whole: File too large\n");
     EXPECT_TRUE(QDir(path("full")).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
 
@@ -327,7 +380,7 @@ TEST_F(Program, LooksForLineStylesInFoldersOfTheCommandLineAndOfTheRecording)
     EXPECT_TRUE(isLoadedFrom(path("given/b.lin")));
     // Several processes are told the folder too.
     EXPECT_EQ(
-        run({"convert", "fence.jsonl", "--target", "csharp,vba", "--output", "out/", "--line-styles", "given"}).err,
+        run({"convert", "fence.jsonl", "--target", "csharp,vbnet", "--output", "out/", "--line-styles", "given"}).err,
         "");
     EXPECT_TRUE(isLoadedFrom(path("given/b.lin")));
     EXPECT_EQ(convert({"--line-styles", "given/b.lin"}).status, 2);

@@ -264,6 +264,129 @@ TEST_F(Results, GoToFilesOnly)
         }
 }
 
+const QByteArray drawing = R"({"recording":{"version":1}})"
+                           "\n"
+                           R"({"object":{"class":"AcDbLine","handle":"2A"}})"
+                           "\n";
+const QByteArray linkAnswers = "Insert\nEntity\n2A\nplan.dwg\n\n\n";
+
+TEST_F(Results, OfACommandReplaceNothingThatOthersWroteMeanwhile)
+{
+    const auto runsOn = [](const QString& file) { return QStringList{"run", file, "--command", "-HYPERLINK"}; };
+    const QByteArray appended = drawing + line;
+    const QString message =
+        "inkmacro: %1 was changed by somebody else meanwhile and stays as it is; the new drawing is "
+        "in %1.new\n";
+    write("a.jsonl", drawing);
+    QDir().mkpath(path("links"));
+    QFile::link(path("a.jsonl"), path("links/a.jsonl"));
+    const struct
+    {
+        QString file;
+        std::function<void()> change;
+        QByteArray left;
+    } cases[] = {
+        {"a.jsonl", [&] { write("a.jsonl", appended); }, appended},
+        {"a.jsonl", [&] { QFile::remove(path("a.jsonl")); }, {}},
+        {"a.jsonl",
+         [&] {
+             write("b.jsonl", drawing);
+             rename(qPrintable(path("b.jsonl")), qPrintable(path("a.jsonl")));
+         },
+         drawing},
+        {"links/a.jsonl", [&] { write("a.jsonl", appended); }, appended},
+    };
+    for (const auto& [file, change, left] : cases) {
+        write("a.jsonl", drawing);
+        auto hold = std::make_unique<Hold>(path("."));
+        QProcess process;
+        start(process, runsOn(file));
+        process.write(linkAnswers);
+        EXPECT_TRUE(process.waitForBytesWritten());
+        awaitStaged("a.jsonl");
+        change();
+        hold.reset();
+        const Outcome outcome = finish(process);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.err, message.arg(file));
+        EXPECT_EQ(contents("a.jsonl"), left);
+        EXPECT_TRUE(contents(file + ".new").contains("plan.dwg"));
+        EXPECT_EQ(temporaryFolders(), QStringList());
+        QFile::remove(path(file + ".new"));
+    }
+
+    // Of several at once one comes through, and none replaces what another has put beside.
+    write("a.jsonl", drawing);
+    write("a.jsonl.new", "mine");
+    auto hold = std::make_unique<Hold>(path("."));
+    QProcess processes[3];
+    for (QProcess& process : processes) {
+        start(process, runsOn("a.jsonl"));
+        process.write(linkAnswers);
+        EXPECT_TRUE(process.waitForBytesWritten());
+    }
+    awaitStaged("a.jsonl", 3);
+    hold.reset();
+    int failed = 0;
+    for (QProcess& process : processes)
+        failed += finish(process).status;
+    EXPECT_EQ(failed, 2);
+    EXPECT_EQ(contents("a.jsonl.new"), "mine");
+    for (const char* const name : {"a.jsonl", "a.jsonl.new2", "a.jsonl.new3"})
+        EXPECT_TRUE(contents(name).contains("plan.dwg")) << name;
+
+    // What only stands at another place is replaced as ever.
+    write("out.jsonl", "older");
+    EXPECT_EQ(run(runsOn("a.jsonl") << "--output"
+                                    << "out.jsonl",
+                  linkAnswers)
+                  .status,
+              0);
+    EXPECT_TRUE(contents("out.jsonl").contains("plan.dwg"));
+}
+
+TEST_F(Results, OfACommandAreRefusedBeforeItAsks)
+{
+    write("a.jsonl", drawing);
+    write("file", "");
+    const struct
+    {
+        const char* output;
+        int status;
+        const char* message;
+    } cases[] = {
+        {"out/", 2, "inkmacro: --output: \"out/\" is a directory, and run writes a file\nTry 'inkmacro --help'.\n"},
+        {".", 1, "inkmacro: . exists and is not a regular file\n"},
+        {"file/b.jsonl", 1, "inkmacro: file/b.jsonl: Not a directory\n"},
+        {"file/deeper/b.jsonl", 1, "inkmacro: file/deeper/b.jsonl: Not a directory\n"},
+    };
+    for (const auto& [output, status, message] : cases) {
+        const Outcome outcome = run({"run", "a.jsonl", "--command", "-HYPERLINK", "--output", output}, linkAnswers);
+        EXPECT_EQ(outcome.status, status) << output;
+        EXPECT_EQ(outcome.err, message);
+        EXPECT_EQ(outcome.out, "") << output;
+    }
+    EXPECT_FALSE(exists("out"));
+}
+
+TEST_F(Results, OfAFullDiskAreNoEmptyFiles)
+{
+    write("a.jsonl", drawing);
+    write("old.lin", "*OLD,o\nA,1,-1\n");
+    QFile::link("missing.lin", path("link.lin"));
+    for (const QString name : {"new.lin", "old.lin", "link.lin"}) {
+        const Outcome outcome = run({"run", "a.jsonl", "--command", "-LINESTYLE", "--output", "b.jsonl"},
+                                    "Create\nX\n" + name.toUtf8() + "\nd\n1,-1\n\n", "ulimit -f 0; ");
+        EXPECT_TRUE(outcome.err.contains("the line style could not be written to " + path(name) + ": File too large"))
+            << outcome.err.toStdString();
+        EXPECT_FALSE(outcome.out.contains("saved to file"));
+    }
+    EXPECT_FALSE(exists("new.lin"));
+    EXPECT_FALSE(exists("missing.lin"));
+    EXPECT_TRUE(QFileInfo(path("link.lin")).isSymLink());
+    EXPECT_EQ(contents("old.lin"), "*OLD,o\nA,1,-1\n");
+}
+
 // The sanitizers' own checks take descriptors and memory.
 #if !defined(__SANITIZE_ADDRESS__)
 TEST_F(Results, AreNotBegunWithoutDescriptorsOrMemory)

@@ -245,6 +245,8 @@ using enum Target;
 const std::set<Target> everyTarget{Cpp, CSharp, JavaScript, VbNet, CppCom, Vba};
 const Unreachable unreachable[]{
     {"EmitCommandOptionInt32", everyTarget, "no option of a document is of that type"},
+    {"EmitDeleteRows", everyTarget, "only repaired macros remove many lines at once"},
+    {"EmitSelectViewTile: declared tile", everyTarget, "only repaired macros give tiles to their variables"},
 };
 
 bool isReachable(const Phrase& phrase, Target target)

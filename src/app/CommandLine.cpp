@@ -233,6 +233,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
         if (raw.output->empty())
             throw WrongUse("--output is empty");
         line.output = decodeName(*raw.output);
+        if (line.command == CommandLine::Command::Run && line.output->endsWith('/'))
+            throw WrongUse(QString("--output: \"%1\" is a directory, and run writes a file").arg(*line.output));
     }
     line.host = hostSettings(raw);
     return line;
@@ -335,11 +337,16 @@ line takes the one in <>. A point is x,y or x,y,z; entities are handles with
 blanks between them, or all. Ctrl+C, Esc with Enter and the end of input cancel
 the command. When it has ended well the recording with the changed drawing
 replaces FILE, or is written to the file of --output; else nothing is written.
+When somebody else has changed FILE meanwhile it stays as it is, and the new
+recording goes to FILE.new, or FILE.new2 and so on, which is never replaced.
 
 Several files or targets are converted side by side; one that fails does not
 stop the others. Standard output holds the paths written, one a line, the macro
 before its project; messages go to standard error, and so does a line like
 "walls.cs: 3 steps lost, 2 faults; see --report" for each macro that has any.
+Messages show control letters and those that turn the direction of writing as
+\x1b or \u202e. Standard output holds paths and JSON as they are, unless it is
+a terminal.
 
 Exit status:
   0  all was done

@@ -87,15 +87,28 @@ void takeOverRights(const fs::path& path, const fs::path& replaced)
         chmod(path.c_str(), found.st_mode & 0777);
 }
 
+/// Why no folder can be made or used at that path, or 0: an errno of what stands there or above it.
+int obstacleAt(const fs::path& directory)
+{
+    struct stat found = {};
+    if (stat(directory.c_str(), &found) == 0)
+        return !S_ISDIR(found.st_mode) ? ENOTDIR : access(directory.c_str(), W_OK | X_OK) == 0 ? 0 : errno;
+    if (errno != ENOENT && errno != ENOTDIR)
+        return errno;
+    const fs::path above = directoryOf(directory);
+    return above == directory ? ENOENT : obstacleAt(above);
+}
+
 QString refusalAt(const QString& file)
 {
     struct stat found = {};
-    if (stat(QFile::encodeName(file).constData(), &found) != 0)
-        return {};
-    if (!S_ISREG(found.st_mode))
+    const bool exists = stat(QFile::encodeName(file).constData(), &found) == 0;
+    if (exists && !S_ISREG(found.st_mode))
         return file + " exists and is not a regular file";
-    if (access(QFile::encodeName(file).constData(), W_OK) != 0)
+    if (exists && access(QFile::encodeName(file).constData(), W_OK) != 0)
         return file + " cannot be written: " + qt_error_string(errno);
+    if (const int obstacle = obstacleAt(directoryOf(toPath(file))))
+        return file + ": " + qt_error_string(obstacle);
     return {};
 }
 
@@ -160,7 +173,7 @@ StagedResult::Move StagedResult::prepare(const QString& file)
     return move;
 }
 
-QStringList StagedResult::place()
+QStringList StagedResult::place(const std::function<bool()>& mayReplace)
 {
     QStringList written;
     std::vector<Move> moves;
@@ -176,6 +189,8 @@ QStringList StagedResult::place()
     }
     if (!staging_->stands() || !has(files_.front()))
         throw PlacingError(files_.front(), "its folder vanished during the work");
+    if (mayReplace && !mayReplace())
+        return {};
     const SignalPause pause;
     // The first one comes last: where a macro is, its project is.
     std::reverse(moves.begin(), moves.end());

@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <list>
 #include <optional>
 #include <stdexcept>
@@ -32,8 +33,10 @@ public:
     bool has(const QString& file) const;
 
     /// Puts the files to their places and gives their paths. A symbolic link that stands there stays and its target is
-    /// replaced. Raises PlacingError; then no file has been replaced, unless it was the replacing that failed.
-    QStringList place();
+    /// replaced. Raises PlacingError; then no file has been replaced, unless it was the replacing that failed. Under
+    /// the lock of the folder `mayReplace` is asked, when there is one: with false nothing is put anywhere, and no path
+    /// given.
+    QStringList place(const std::function<bool()>& mayReplace = {});
 
 private:
     struct Move
@@ -53,7 +56,7 @@ private:
 };
 
 /// Why one of the files may not be written, or empty text: in its place stands something that is no file, or that the
-/// user may not write.
+/// user may not write, or its folder can neither be made nor written to.
 QString refusalOf(const QStringList& files);
 
 } // namespace inkmacro

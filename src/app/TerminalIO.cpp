@@ -1,17 +1,21 @@
 #include "app/TerminalIO.h"
 
 #include "app/console.h"
+#include "app/earlyEnd.h"
 #include "app/valueText.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
 
 #include <histedit.h>
+#include <langinfo.h>
 #include <poll.h>
+#include <termios.h>
 #include <unistd.h>
 
 namespace inkmacro {
@@ -59,7 +63,7 @@ private:
 void showAtOnce(const QString& text)
 {
     printOut(text);
-    std::fflush(stdout);
+    flushOut();
 }
 
 class PlainReader final : public AnswerReader
@@ -117,14 +121,57 @@ QString commonBeginning(const QString& left, const QString& right)
     int length = 0;
     while (length < left.length() && length < right.length() && left[length].toLower() == right[length].toLower())
         ++length;
+    // Half of a letter is none.
+    if (length > 0 && left[length - 1].isHighSurrogate())
+        --length;
     return left.left(length);
 }
+
+/// Where the environment names no encoding letters are UTF-8, as everywhere in this program; the editor would drop
+/// them.
+void readLettersWithoutLocale()
+{
+    if (std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
+        std::setlocale(LC_CTYPE, "C.UTF-8");
+}
+
+/// Gives the terminal back as it was, however the process ends.
+class TerminalRestorer final : private EarlyEnd
+{
+public:
+    TerminalRestorer()
+    {
+        if (tcgetattr(STDIN_FILENO, &before_) == 0)
+            beginWatch();
+        else
+            isWatching_ = false;
+    }
+    ~TerminalRestorer()
+    {
+        if (isWatching_)
+            endWatch();
+    }
+
+private:
+    void endEarly(int) noexcept override
+    {
+        // A process in the background has no business with it, and would be stopped.
+        if (tcgetpgrp(STDIN_FILENO) != getpgrp())
+            return;
+        tcsetattr(STDIN_FILENO, TCSANOW, &before_);
+        [[maybe_unused]] const ssize_t written = ::write(STDOUT_FILENO, "\n", 1);
+    }
+
+    struct termios before_ = {};
+    bool isWatching_ = true;
+};
 
 class LineEditor final : public AnswerReader
 {
 public:
     LineEditor() : editor_(el_init("inkmacro", stdin, stdout, stderr)), history_(history_init())
     {
+        readLettersWithoutLocale();
         HistEvent event;
         history(history_, &event, H_SETSIZE, 100);
         el_set(editor_, EL_CLIENTDATA, this);
@@ -187,19 +234,22 @@ private:
     /// Completes what is in front of the cursor as far as it is unambiguous.
     unsigned char complete()
     {
-        const LineInfo* const info = el_line(editor_);
-        const QString begun = QString::fromLocal8Bit(info->buffer, static_cast<int>(info->cursor - info->buffer));
+        const LineInfoW* const info = el_wline(editor_);
+        const auto letters = static_cast<int>(info->cursor - info->buffer);
+        const QString begun = QString::fromWCharArray(info->buffer, letters);
         QString common;
         for (const QString& answer : *expected_)
-            if (answer.startsWith(begun, Qt::CaseInsensitive))
+            // The editor would show what is in it.
+            if (answer.startsWith(begun, Qt::CaseInsensitive) && printable(answer) == answer)
                 common = common.isEmpty() ? answer : commonBeginning(common, answer);
         if (common.length() <= begun.length())
             return CC_REFRESH_BEEP;
-        el_deletestr(editor_, begun.length());
-        el_insertstr(editor_, common.toLocal8Bit().constData());
+        el_wdeletestr(editor_, letters);
+        el_winsertstr(editor_, common.toStdWString().c_str());
         return CC_REFRESH;
     }
 
+    TerminalRestorer restorer_; ///< in front of the editor, which changes the terminal
     EditLine* editor_;
     History* history_;
     QByteArray prompt_;

@@ -1,6 +1,7 @@
 #include "app/console.h"
 
 #include "app/ExitStatus.h"
+#include "app/valueText.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -36,8 +37,10 @@ void prepareStreams()
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-void printOut(const QByteArray& bytes)
+void printOut(const QByteArray& text)
 {
+    static const bool isTerminal = isatty(STDOUT_FILENO) != 0;
+    const QByteArray bytes = isTerminal ? printableLines(QString::fromLocal8Bit(text)).toLocal8Bit() : text;
     const auto size = static_cast<std::size_t>(bytes.size());
     noteOutputError(std::fwrite(bytes.constData(), 1, size, stdout) != size);
 }
@@ -52,14 +55,24 @@ void printError(const QByteArray& bytes)
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
 }
 
+void printLine(const QString& message)
+{
+    printError((printable(message) + '\n').toLocal8Bit());
+}
+
 void complain(const QString& message)
 {
-    printError(("inkmacro: " + message + '\n').toLocal8Bit());
+    printLine("inkmacro: " + message);
+}
+
+void flushOut()
+{
+    noteOutputError(std::fflush(stdout) != 0);
 }
 
 int finishOutput(int status)
 {
-    noteOutputError(std::fflush(stdout) != 0);
+    flushOut();
     // Some file systems find out only here that the disk is full.
     noteOutputError(close(STDOUT_FILENO) != 0);
     if (outputError == 0 || outputError == EPIPE)

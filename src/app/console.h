@@ -9,12 +9,16 @@ namespace inkmacro {
 /// errors to be handled instead of the end of the process. Comes before anything opens a file.
 void prepareStreams();
 
-/// Standard output. What cannot be written is dropped; finishOutput tells.
-void printOut(const QByteArray& bytes);
+/// Standard output. What cannot be written is dropped; finishOutput tells. A terminal gets the text without the letters
+/// that it would obey; a pipe or a file gets it as it is.
+void printOut(const QByteArray& text);
 void printOut(const QString& text);
+/// Sends on its way what has been printed so far.
+void flushOut();
 
-/// Standard error: bytes as they are, or one message of this program.
+/// Standard error: bytes as they are, a printable line, or one message of this program.
 void printError(const QByteArray& bytes);
+void printLine(const QString& message);
 void complain(const QString& message);
 
 /// Sends the rest of standard output on its way and closes it. Gives `status`, raised to kFailed with a message when

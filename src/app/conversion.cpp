@@ -78,10 +78,10 @@ QString failedFile(const Job& job, const StagedResult& result)
 /// Whether the module had files which could be opened but not filled; they are named.
 bool complainOfIncompleteFiles(const Job& job)
 {
-    const std::vector<CFxString>& incomplete = GetFxSystemServices()->GetIncompleteFiles();
+    const std::vector<CFxFailedFile>& incomplete = GetFxSystemServices()->GetFailedFiles();
     const QString directory = job.macro.left(job.macro.lastIndexOf('/') + 1);
-    for (const CFxString& file : incomplete)
-        complain(directory + QFileInfo(file).fileName() + " could not be written whole");
+    for (const auto& [path, reason] : incomplete)
+        complain(QString("%1%2 could not be written whole: %3").arg(directory, QFileInfo(path).fileName(), reason));
     return !incomplete.empty();
 }
 
@@ -93,10 +93,10 @@ QStringList convertRead(const Job& job, const Recording& recording, const HostSe
     for (const CFxString& problem : GetFxSystemServices()->GetProblems())
         complain(QString("%1 to %2: %3").arg(job.input, targetName(*job.target), problem));
     if (status != kFxSuccess) {
-        complain(QString("conversion to %1 failed with status %2: %3")
-                     .arg(targetName(*job.target))
-                     .arg(status)
-                     .arg(failedFile(job, result)));
+        const std::vector<CFxFailedFile>& failed = GetFxSystemServices()->GetFailedFiles();
+        complain(QString("conversion to %1 failed with status %2: %3%4")
+                     .arg(targetName(*job.target), QString::number(status), failedFile(job, result),
+                          failed.empty() ? QString() : ": " + failed.back().reason));
         return {};
     }
     return complainOfIncompleteFiles(job) ? QStringList() : result.place();
@@ -141,7 +141,7 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling)
     const int status = convertOrComplain(job, host, recording, placed);
     const QString counts = countText(notes.GetLossCount(), notes.GetFaultCount());
     if (status == kDone && !telling.quiet && !counts.isEmpty())
-        printError((job.macro + ": " + counts + (asked ? "\n" : "; see --report\n")).toLocal8Bit());
+        printLine(job.macro + ": " + counts + (asked ? "" : "; see --report"));
     if (asked) {
         nameWork(QString("reporting on %1 to %2%3")
                      .arg(job.input, targetName(*job.target), status == kDone ? ", whose files are written" : ""));

@@ -2,6 +2,7 @@
 
 #include "app/ExitStatus.h"
 #include "app/console.h"
+#include "app/valueText.h"
 
 #include <QByteArray>
 
@@ -109,7 +110,7 @@ int orComplain(const std::function<int()>& work)
 
 void nameWork(const QString& work)
 {
-    memoryMessage = ("inkmacro: out of memory while " + work + '\n').toLocal8Bit();
+    memoryMessage = (printable("inkmacro: out of memory while " + work) + '\n').toLocal8Bit();
 }
 
 void endWithoutMemory()

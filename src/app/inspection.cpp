@@ -56,7 +56,7 @@ QString propertyText(const QJsonObject& body)
 
 QString interactionText(const QJsonObject& body)
 {
-    const QString kind = body["kind"].isString() ? body["kind"].toString() : valueText(body["kind"]);
+    const QString kind = body["kind"].isString() ? textOf(body, "kind") : valueText(body["kind"]);
     const QString answer = body["result"].isNull() ? QStringLiteral("no answer") : valueText(body["result"]);
     QString text = QString("%1 %2 = %3").arg(kind, valueText(body["prompt"]), answer);
     const QJsonObject keywords = body["keywords"].toObject();
@@ -79,7 +79,7 @@ QString customText(const QJsonObject& body)
     const QJsonArray data = body["data"].toArray();
     QStringList types;
     for (const QJsonValue& type : data)
-        types.append(type.toString());
+        types.append(printable(type.toString()));
     const QString kind = body.contains("name") ? textOf(body, "name") : valueText(body["kind"]);
     return types.isEmpty() ? kind + " (no data)" : QString("%1 (%2)").arg(kind, types.join(", "));
 }
@@ -129,7 +129,7 @@ QString countsText(const ActionCounts& counts)
 /// One top-level action at a time: a recording may be large.
 void printAsTree(const QString& path, const Recording& recording, ActionJson& json)
 {
-    printOut(QString("%1: %2\n").arg(path, counted(recording.actions.length(), "action", "actions")));
+    printOut(QString("%1: %2\n").arg(printable(path), counted(recording.actions.length(), "action", "actions")));
     for (const OdRxObjectPtr& action : recording.actions)
         printTree(json.of(action), 0);
     printOut("counts: " + countsText(json.counts()) + '\n');

@@ -77,7 +77,8 @@ int parseAndRun(int argc, const char* const* argv)
     try {
         return run(parseCommandLine(argc, argv));
     } catch (const WrongUse& wrong) {
-        complain(wrong.message() + "\nTry 'inkmacro --help'.");
+        complain(wrong.message());
+        printLine("Try 'inkmacro --help'.");
         return kWrongUse;
     }
 }

@@ -10,6 +10,7 @@
 #include "app/conversion.h"
 #include "app/earlyEnd.h"
 #include "app/report.h"
+#include "app/valueText.h"
 #include "recordfile/RecordingReader.h"
 
 #include <QFileInfo>
@@ -128,10 +129,10 @@ private:
 
     /// Standard input can be read once, so it is kept for all who want it.
     bool keepStandardInput();
-    void refuse(std::size_t number, const QByteArray& message, int status);
+    void refuse(std::size_t number, const QString& message, int status);
     void startSome();
     bool mayStart(std::size_t number) const;
-    void start(std::size_t number);
+    bool start(std::size_t number);
     /// Gives an errno.
     int fork(State& state, const Job& job);
     [[noreturn]] void work(const Job& job, int output, int messages);
@@ -178,7 +179,7 @@ int JobRunner::run()
         const RecordingError error{"-", 0, {}, "cannot be kept for several results: " + qt_error_string(errno)};
         for (std::size_t i = 0; i < jobs_.size(); ++i)
             if (wantsInput(jobs_[i]))
-                refuse(i, (error.text() + '\n').toLocal8Bit(), kUnreadable);
+                refuse(i, error.text(), kUnreadable);
     }
     loadModuleAhead();
     startSome();
@@ -203,9 +204,10 @@ bool JobRunner::keepStandardInput()
     }
 }
 
-void JobRunner::refuse(std::size_t number, const QByteArray& message, int status)
+void JobRunner::refuse(std::size_t number, const QString& message, int status)
 {
-    states_[number].messages.bytes = message;
+    if (!message.isEmpty())
+        states_[number].messages.bytes = (printable(message) + '\n').toLocal8Bit();
     finish(number, status);
 }
 
@@ -213,8 +215,8 @@ void JobRunner::startSome()
 {
     const unsigned most = std::max(1U, std::thread::hardware_concurrency());
     for (std::size_t number = next_; number < jobs_.size() && running_.size() < most; ++number)
-        if (!states_[number].begun && mayStart(number))
-            start(number);
+        if (!states_[number].begun && mayStart(number) && !start(number))
+            break;
     while (next_ < jobs_.size() && states_[next_].begun)
         ++next_;
 }
@@ -225,21 +227,26 @@ bool JobRunner::mayStart(std::size_t number) const
     return std::all_of(jobs_[number].behind.begin(), jobs_[number].behind.end(), done);
 }
 
-void JobRunner::start(std::size_t number)
+/// False when there is no room for it beside those that run: it has its turn when one of them has ended.
+bool JobRunner::start(std::size_t number)
 {
     State& state = states_[number];
     const Job& job = jobs_[number];
     // The process would take a directory at that path for a place to put results in.
     if (const QString refusal = refusalOf(job.files()); !refusal.isEmpty()) {
-        refuse(number, ("inkmacro: " + refusal + '\n').toLocal8Bit(), kFailed);
-        return;
+        refuse(number, "inkmacro: " + refusal, kFailed);
+        return true;
     }
 
+    const int error = fork(state, job);
+    if (error != 0 && !running_.empty())
+        return false;
     state.begun = true;
-    if (const int error = fork(state, job))
+    if (error != 0)
         couldNotStart(number, qt_error_string(error));
     else
         running_.push_back(number);
+    return true;
 }
 
 int JobRunner::fork(State& state, const Job& job)
@@ -293,14 +300,14 @@ void JobRunner::work(const Job& job, int output, int messages)
     })));
 }
 
-/// The next one could not be started either, so this is the end for all that wait.
+/// When none runs: the next one could not be started either, so this is the end for all that wait.
 void JobRunner::couldNotStart(std::size_t number, const QString& reason)
 {
     const auto waiting = std::count_if(states_.begin(), states_.end(), [](const State& s) { return !s.begun; });
     QString message = QString("inkmacro: no process can be started for %1: %2").arg(jobs_[number].macro, reason);
     if (waiting > 0)
         message += QString(", nor for the %1 behind it").arg(waiting);
-    refuse(number, (message + '\n').toLocal8Bit(), kFailed);
+    refuse(number, message, kFailed);
     for (std::size_t i = 0; i < states_.size(); ++i)
         if (!states_[i].begun)
             refuse(i, {}, kFailed);
@@ -348,9 +355,9 @@ void JobRunner::ended(std::size_t number)
     if (crashed || status > kUnreadable) {
         const QString reason = crashed ? QString("killed by signal %1").arg(WTERMSIG(result))
                                        : QString("ended with status %1").arg(status);
-        state.messages.bytes += QString("inkmacro: conversion to %1 came to no end: %2: %3\n")
-                                    .arg(targetName(*jobs_[number].target), reason, jobs_[number].macro)
-                                    .toLocal8Bit();
+        const QString message = QString("inkmacro: conversion to %1 came to no end: %2: %3")
+                                    .arg(targetName(*jobs_[number].target), reason, jobs_[number].macro);
+        state.messages.bytes += (printable(message) + '\n').toLocal8Bit();
         status = kFailed;
         removeDeadStaging(QFile::encodeName(QFileInfo(jobs_[number].macro).path()).toStdString());
     }

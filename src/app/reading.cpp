@@ -24,7 +24,7 @@ bool readOrComplain(const QString& path, Recording& recording)
         });
     }
     if (error)
-        printError((error->text() + '\n').toLocal8Bit());
+        printLine(error->text());
     return !error;
 }
 
@@ -34,7 +34,8 @@ int checkRecordings(const QStringList& files)
     for (const QString& file : files) {
         Recording recording;
         if (readOrComplain(file, recording))
-            printOut(QString("%1: ok, %2\n").arg(file, counted(recording.actions.length(), "action", "actions")));
+            printOut(
+                QString("%1: ok, %2\n").arg(printable(file), counted(recording.actions.length(), "action", "actions")));
         else
             status = kUnreadable;
     }

@@ -2,6 +2,7 @@
 
 #include "app/CommandLine.h"
 #include "app/ExitStatus.h"
+#include "app/FilePrint.h"
 #include "app/LoadedModule.h"
 #include "app/StagedResult.h"
 #include "app/TerminalIO.h"
@@ -15,6 +16,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+#include <functional>
+#include <optional>
 
 namespace inkmacro {
 
@@ -55,8 +59,8 @@ void updateDrawing(Recording& recording, const QString& output)
             folder = to.relativeFilePath(from.absoluteFilePath(folder));
 }
 
-/// Raises PlacingError.
-void write(const Recording& recording, const QString& output)
+/// False when `mayReplace` forbids it. Raises PlacingError.
+bool write(const Recording& recording, const QString& output, const std::function<bool()>& mayReplace = {})
 {
     StagedResult result({output});
     QFile file(result.firstFile());
@@ -67,7 +71,30 @@ void write(const Recording& recording, const QString& output)
                                        ? "the drawing has data that no recording can hold"
                                        : file.errorString());
     file.close();
-    result.place();
+    return !result.place(mayReplace).isEmpty();
+}
+
+/// To a file that nothing stands at, beside the one that others have changed; gives its name. Raises PlacingError.
+QString writeBeside(const Recording& recording, const QString& output)
+{
+    const auto isFree = [](const QString& name) { return !QFileInfo::exists(name) && !QFileInfo(name).isSymLink(); };
+    QString name = output + ".new";
+    for (int number = 2; !isFree(name) || !write(recording, name, [&] { return isFree(name); }); ++number)
+        name = output + ".new" + QString::number(number);
+    return name;
+}
+
+/// In the place of the recording as it was read; else beside it, with a message and false. Raises PlacingError.
+bool writeBack(const Recording& recording, const QString& path, const FilePrint& asRead)
+{
+    // The lock is that of the folder where the file is, whatever links lead there.
+    const QString file = QFileInfo(path).isSymLink() ? QFileInfo(path).canonicalFilePath() : path;
+    if (!file.isEmpty() && write(recording, file, [&] { return asRead.stillHolds(); }))
+        return true;
+    const QString beside = writeBeside(recording, path);
+    complain(QString("%1 was changed by somebody else meanwhile and stays as it is; the new drawing is in %2")
+                 .arg(path, beside));
+    return false;
 }
 
 } // namespace
@@ -77,6 +104,10 @@ int runCommand(const QString& path, const QString& name, const QString& output)
     nameWork(QString("running %1 on %2").arg(name, path));
     const LoadedModule module;
     const CFxCommandPtr command = findCommand(name);
+    // Taken before the recording is read: what comes in between counts as a change then, and is not lost.
+    std::optional<FilePrint> asRead;
+    if (isSameFile(path, output))
+        asRead.emplace(output);
     Recording recording;
     if (!readOrComplain(path, recording))
         return kUnreadable;
@@ -94,6 +125,8 @@ int runCommand(const QString& path, const QString& name, const QString& output)
     }
     updateDrawing(recording, output);
     try {
+        if (asRead)
+            return writeBack(recording, output, *asRead) ? kDone : kFailed;
         write(recording, output);
     } catch (const PlacingError& error) {
         complain(error.message());

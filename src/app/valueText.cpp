@@ -13,18 +13,58 @@ QString counted(qint64 count, const char* one, const char* many)
     return QString::number(count) + ' ' + (count == 1 ? one : many);
 }
 
-QString printable(const QString& text)
+namespace {
+
+/// Line and paragraph separators, and the marks, embeddings, overrides and isolates that turn the direction of writing.
+bool turnsLines(QChar letter)
+{
+    const ushort code = letter.unicode();
+    return code == 0x061C || code == 0x200E || code == 0x200F || (code >= 0x2028 && code <= 0x202E) ||
+           (code >= 0x2066 && code <= 0x2069);
+}
+
+/// A byte of a file's name that is no letter.
+bool isByte(const QString& text, int at)
+{
+    const ushort code = text[at].unicode();
+    return code >= 0xDC80 && code <= 0xDCFF && (at == 0 || !text[at - 1].isHighSurrogate());
+}
+
+QString hexadecimal(const char* form, int code, int digits)
+{
+    return QString(form).arg(code, digits, 16, QChar('0'));
+}
+
+QString shownLetter(const QString& text, int at)
+{
+    const QChar letter = text[at];
+    if (letter == '\n')
+        return "\\n";
+    if (letter.category() == QChar::Other_Control)
+        return hexadecimal("\\x%1", letter.unicode(), 2);
+    if (isByte(text, at))
+        return hexadecimal("\\x%1", letter.unicode() & 0xFF, 2);
+    return turnsLines(letter) ? hexadecimal("\\u%1", letter.unicode(), 4) : QString(letter);
+}
+
+QString shownText(const QString& text, const QString& kept)
 {
     QString shown;
-    for (const QChar letter : text) {
-        if (letter == '\n')
-            shown += "\\n";
-        else if (letter.category() == QChar::Other_Control)
-            shown += QString("\\x%1").arg(letter.unicode(), 2, 16, QChar('0'));
-        else
-            shown += letter;
-    }
+    for (int i = 0; i < text.length(); ++i)
+        shown += kept.contains(text[i]) ? QString(text[i]) : shownLetter(text, i);
     return shown;
+}
+
+} // namespace
+
+QString printable(const QString& text)
+{
+    return shownText(text, {});
+}
+
+QString printableLines(const QString& text)
+{
+    return shownText(text, "\n\t");
 }
 
 namespace {
@@ -55,7 +95,7 @@ QString objectText(const QJsonObject& object)
         if (plain.contains(entry.key()))
             items.append(valueText(value));
         else if (words.contains(entry.key()) && value.isString())
-            items.append(entry.key() + ' ' + value.toString());
+            items.append(entry.key() + ' ' + printable(value.toString()));
         else if (entry.key() != "type")
             items.append(entry.key() + ' ' + valueText(value));
     }

@@ -7,6 +7,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QStringList>
 
 namespace {
@@ -25,7 +26,7 @@ enum class FileUse
 QString activeName(OdDbDatabase& database)
 {
     const OdDbObjectId active = database.currentLineStyleId();
-    if (active == database.getLinetypeByLayerId())
+    if (active.isNull() || active == database.getLinetypeByLayerId())
         return "ByLayer";
     if (active == database.getLinetypeByBlockId())
         return "ByBlock";
@@ -103,26 +104,37 @@ bool parseSpecs(CFxUserIO& io, const QString& text)
     return false;
 }
 
-/// Behind what the file has; false when that cannot be, and then the file is as it was.
+/// Closes the file, which is where some file systems find out that the disk is full. Gives why not, or empty text.
+QString writeAndClose(QFile& file, const QByteArray& bytes)
+{
+    // Only the write behind one that was cut short tells why.
+    qint64 written = 0;
+    for (qint64 more = 0; more >= 0 && written < bytes.size(); written += more)
+        more = file.write(bytes.mid(static_cast<int>(written)));
+    const QString reason = written < bytes.size() ? file.errorString() : QString();
+    file.close();
+    return reason.isEmpty() && file.error() != QFileDevice::NoError ? file.errorString() : reason;
+}
+
+/// Behind what the file has; false when that cannot be, and then the file is as it was, or missing as it was.
 bool append(const QString& path, const QByteArray& bytes)
 {
+    // The information would look anew once the file is there.
     const QFileInfo before(path);
+    const bool existed = before.exists();
+    const qint64 length = before.size();
     QFile file(path);
-    if ((before.exists() && !before.isFile()) ||
+    if ((existed && !before.isFile()) ||
         !file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Text | QIODevice::Unbuffered))
         return false;
-    // Only the write behind one that was cut short tells why.
-    for (qint64 written = 0, more = 0; more >= 0; written += more) {
-        if (written == bytes.size())
-            return true;
-        more = file.write(bytes.mid(static_cast<int>(written)));
-    }
-    GetFxSystemServices()->ReportProblem(
-        QString("the line style could not be written to %1: %2").arg(path, file.errorString()));
-    if (before.exists())
-        file.resize(before.size());
-    else
-        file.remove();
+    const QString reason = writeAndClose(file, bytes);
+    if (reason.isEmpty())
+        return true;
+    GetFxSystemServices()->ReportProblem(QString("the line style could not be written to %1: %2").arg(path, reason));
+    if (existed)
+        QFile::resize(path, length);
+    else // A link that led nowhere does so again.
+        QFile::remove(QFileInfo(path).canonicalFilePath());
     return false;
 }
 
@@ -134,7 +146,7 @@ CFxStatus create(CFxUserIO& io)
     CFxString specs;
     CFxStatus status = io.GetString(texts("Specify new LineStyle name"), name);
     if (status == kFxSuccess)
-        status = name.isEmpty() ? kFxNothing : askForFile(io, FileUse::CreateOrAppend, path);
+        status = name.toQString().trimmed().isEmpty() ? kFxNothing : askForFile(io, FileUse::CreateOrAppend, path);
     if (status == kFxSuccess)
         status = io.GetString(texts("Specify descriptive text"), description);
     if (status != kFxSuccess)
@@ -151,6 +163,26 @@ CFxStatus create(CFxUserIO& io)
     if (append(path, lines.toLocal8Bit()))
         io.ShowMessage(texts("New LineStyle definition saved to file."));
     return kFxSuccess;
+}
+
+/// Those that can be loaded by their name, which finds the first of several.
+std::vector<LineStyleFile::Style> loadableStylesIn(const QString& path, const QString& filter)
+{
+    const auto leftOut = [&path](const QString& what) {
+        GetFxSystemServices()->ReportProblem(QString("%1 in %2 is left out").arg(what, path));
+    };
+    std::vector<LineStyleFile::Style> loadable;
+    QSet<QString> names;
+    for (const LineStyleFile::Style& style : stylesIn(path, filter)) {
+        if (style.name.isEmpty())
+            leftOut("a line style without a name");
+        else if (names.contains(style.name.toCaseFolded()))
+            leftOut(QString("a further definition of the line style %1").arg(style.name));
+        else
+            loadable.push_back(style);
+        names.insert(style.name.toCaseFolded());
+    }
+    return loadable;
 }
 
 /// Whether a style that is loaded already shall be taken over from the file.
@@ -173,7 +205,7 @@ CFxStatus load(CFxUserIO& io, OdDbDatabase& database)
     if (const CFxStatus status = askForStyles(io, wanted, path); status != kFxSuccess)
         return status;
     const bool all = wanted.toQString() == "*";
-    std::vector<LineStyleFile::Style> styles = stylesIn(path, wanted);
+    std::vector<LineStyleFile::Style> styles = loadableStylesIn(path, wanted);
     if (styles.empty() && !all)
         styles.push_back({wanted, {}});
 

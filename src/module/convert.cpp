@@ -6,6 +6,7 @@
 #include "module/walk.h"
 #include "statements/RecordingState.h"
 #include "statements/wording.h"
+#include "targets/projectFiles.h"
 #include "targets/variables.h"
 
 #include <QDir>
@@ -62,8 +63,10 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     QTextStream stream(&file);
     stream.setCodec("UTF-8");
     stream.setGenerateByteOrderMark(wantsByteOrderMark(writer));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+        GetFxSystemServices()->ReportFailedFile(path, file.errorString());
         return kFxFailure;
+    }
 
     // Ends in front of the stream, whatever is thrown.
     MacroFile macro(stream, QFileInfo(path).fileName(), writer.target, writer.repairs, writer.notesFaults);
@@ -92,11 +95,17 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     macro.finish();
     stream.flush();
     bool written = stream.status() == QTextStream::Ok && file.error() == QFileDevice::NoError;
+    QString reason = written ? QString() : inkmacro::writeFailure(file);
     // Some file systems tell only who closes a file that it was not written. A close that goes well forgets the rest.
     file.close();
-    written = written && file.error() == QFileDevice::NoError;
-    if (!written)
+    if (written && file.error() != QFileDevice::NoError) {
+        written = false;
+        reason = file.errorString();
+    }
+    if (!written) {
+        GetFxSystemServices()->ReportFailedFile(path, reason);
         status = kFxFailure;
+    }
 
     if (status != kFxSuccess) {
         file.remove();

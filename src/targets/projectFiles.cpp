@@ -25,13 +25,23 @@ bool writeTextFile(const QString& path, const QString& text, bool byteOrderMark)
     if (opened)
         stream << text;
     stream.flush();
-    // No failure of the conversion, but the host has to know that the disk is full.
-    if (opened && (!file.flush() || stream.status() != QTextStream::Ok))
-        GetFxSystemServices()->ReportIncompleteFile(path);
+    // A file that is not whole is no failure of the conversion, but the host has to know that the disk is full.
+    if (!opened || !file.flush() || stream.status() != QTextStream::Ok)
+        GetFxSystemServices()->ReportFailedFile(path, opened ? writeFailure(file) : file.errorString());
     return opened;
 }
 
 } // namespace
+
+QString writeFailure(QFileDevice& file)
+{
+    // Of a write that was cut short only the one behind it tells why.
+    if (file.error() == QFileDevice::NoError) {
+        file.write(" ");
+        file.flush();
+    }
+    return file.errorString();
+}
 
 QString xmlText(const QString& text)
 {

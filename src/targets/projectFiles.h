@@ -2,6 +2,7 @@
 
 #include "statements/Fill.h"
 
+#include <QFileDevice>
 #include <QString>
 
 #include <cstdint>
@@ -25,6 +26,9 @@ QString xmlText(const QString& text);
 /// The words of a project's file with the values for their markers in turn. In a repaired project, what stands between
 /// the quotes of the language is escaped.
 Statement fillProject(const char* words, std::initializer_list<QString> values, std::optional<Target> language = {});
+
+/// Why a file that a stream was to fill is not whole. One that cannot be kept: it takes a further write.
+QString writeFailure(QFileDevice& file);
 
 /// Writes the files in turn into the macro file's directory, which is made when it is missing. Ends with kFxFailure at
 /// the first that cannot be opened; those before it stay. A write that fails after that is reported to the host alone.

@@ -8,6 +8,7 @@ prompt and, behind it, the answer that it is given; "<Esc>" is a cancel. "[1]" i
 """
 
 import difflib
+import json
 import os
 import pathlib
 import pty
@@ -18,6 +19,7 @@ import signal
 import subprocess
 import sys
 import tempfile
+import termios
 
 
 def commands(text):
@@ -86,13 +88,14 @@ def check_dialogs(program, source):
 class Terminal:
     """The program at a terminal of its own."""
 
-    def __init__(self, arguments, folder):
+    def __init__(self, arguments, folder, locale="C.UTF-8"):
         self.pid, self.descriptor = pty.fork()
         if self.pid == 0:
             os.chdir(folder)
-            os.environ.update(TERM="xterm", LC_ALL="C.UTF-8", HOME=folder)
+            os.environ.update(TERM="xterm", LC_ALL=locale, HOME=folder)
             os.execv(arguments[0], arguments)
         self.screen = ""
+        self.all = ""
 
     def read(self):
         """What comes next; empty at the end of the program."""
@@ -101,9 +104,11 @@ class Terminal:
             os.kill(self.pid, signal.SIGKILL)
             raise AssertionError(f"nothing comes behind {self.screen!r}")
         try:
-            return os.read(self.descriptor, 4096).decode(errors="replace")
+            got = os.read(self.descriptor, 4096).decode(errors="replace")
         except OSError:
             return ""
+        self.all += got
+        return got
 
     def until(self, text):
         """Reads what comes up to the text, which must come."""
@@ -121,6 +126,52 @@ class Terminal:
         while got := self.read():
             self.screen += got
         return os.waitstatus_to_exitcode(os.waitpid(self.pid, 0)[1])
+
+
+def check_signals(start):
+    """A shell that comes next finds the terminal as it was."""
+    for number in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
+        # Somebody has to have it open when the program has gone.
+        terminal = start()
+        kept = os.open(f"/proc/{terminal.pid}/fd/0", os.O_RDWR | os.O_NOCTTY)
+        assert not termios.tcgetattr(kept)[3] & (termios.ICANON | termios.ECHO), "the editor has not begun"
+        os.kill(terminal.pid, number)
+        ended = os.waitstatus_to_exitcode(os.waitpid(terminal.pid, 0)[1])
+        assert ended == (1 if number == signal.SIGINT else 128 + number), ended
+        wanted = termios.ICANON | termios.ECHO | termios.ISIG
+        assert termios.tcgetattr(kept)[3] & wanted == wanted, f"raw behind {number}"
+        os.close(kept)
+        os.close(terminal.descriptor)
+
+
+def check_letters(program, folder):
+    """Answers with all kinds of letters, typed and completed, in an environment that names no encoding too."""
+    recording = pathlib.Path(folder, "b.jsonl")
+    addresses = ["\U0001F600plan.dwg", "\U0001F601other.dwg", "Ünder.dwg", "x\u202egwd.exe"]
+    recording.write_text("".join(
+        json.dumps({"object": {"class": "AcDbLine", "handle": f"{0x2A + i:X}",
+                               "xData": {"PE_URL": [{"type": 1000, "string": address}]}}}) + "\n"
+        for i, address in enumerate(addresses)), encoding="utf-8")
+    before = recording.read_text(encoding="utf-8")
+    for locale in ("C.UTF-8", "C"):
+        for keys, left in (("\U0001F600\t\r", addresses[1:]),         # completed
+                           ("\U0001F600pl\x02\x02\x06\x06\t\r", addresses[1:]),
+                           ("Ün\t\r", [a for a in addresses if a[0] != "Ü"]),
+                           ("ÜNDER.dwg\x01\x0bÜnder.dwg\r", [a for a in addresses if a[0] != "Ü"]),
+                           ("x\t\x7f\U0001F600plan.dwg\r", addresses[1:])):  # not completed, for it would be shown
+            recording.write_text(before, encoding="utf-8")
+            terminal = Terminal([str(program), "run", str(recording), "--command", "-HYPERLINK"], folder, locale)
+            terminal.until("<Insert>: ")
+            terminal.enter("R\r")
+            terminal.until("Specify entities: ")
+            terminal.enter("all\r")
+            terminal.until("for all: ")
+            terminal.enter(keys)
+            terminal.until("1 hyperlink deleted.")
+            assert terminal.status() == 0, (locale, keys)
+            assert "\u202e" not in terminal.all, (locale, keys)
+            found = re.findall(r'"string":"(.*?)"', recording.read_text(encoding="utf-8"))
+            assert found == left, (locale, keys, found)
 
 
 def check_terminal(program, source):
@@ -164,6 +215,8 @@ def check_terminal(program, source):
         assert terminal.status() == 0, terminal.screen
         after = recording.read_text(encoding="utf-8")
         assert '"string":"plan.dwg!"' in after and '"string":"é"' in after, after
+        check_signals(start)
+        check_letters(program, folder)
     return True
 
 

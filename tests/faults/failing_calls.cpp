@@ -1,5 +1,6 @@
 // Loaded in front of the C library, this lets one call fail: the FAULT_NUMBER-th FAULT_CALL (open, write, fdatasync,
-// close or rename) of a file below FAULT_FOLDER, or each pthread_create. A failed call leaves a file at FAULT_MARK.
+// close or rename) of a file below FAULT_FOLDER, or the FAULT_NUMBER-th fork, or each pthread_create. A failed call
+// leaves a file at FAULT_MARK.
 
 #include <array>
 #include <atomic>
@@ -161,6 +162,11 @@ EXPORTED int renameat2(int fromFolder, const char* from, int toFolder, const cha
     if (isWatched(to) && fails("rename", EIO))
         return -1;
     return next<int(int, const char*, int, const char*, unsigned)>("renameat2")(fromFolder, from, toFolder, to, flags);
+}
+
+EXPORTED pid_t fork() noexcept
+{
+    return fails("fork", EAGAIN) ? -1 : next<pid_t()>("fork")();
 }
 
 EXPORTED int pthread_create(pthread_t* thread, const pthread_attr_t* attributes, void* (*run)(void*),

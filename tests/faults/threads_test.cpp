@@ -7,6 +7,8 @@
 #include <QMap>
 #include <QRegularExpression>
 
+#include <thread>
+
 namespace {
 
 /// What a command leaves behind.
@@ -90,6 +92,30 @@ TEST_F(Threads, AreNotNeeded)
         EXPECT_TRUE(result == expected) << name << result.errors.toStdString();
         EXPECT_EQ(QFile::exists(mark), wantsThreads) << name;
     }
+}
+
+/// As the second of two that would run side by side; a machine with one processor starts it when the first has ended.
+TEST_F(Threads, OfWhichOneIsMissingLeaveTheWorkToTheOthers)
+{
+    if (std::thread::hardware_concurrency() < 2)
+        GTEST_SKIP();
+    QStringList arguments{"convert", "--target", "csharp", "--output", "out/"};
+    for (const char* const name : {"a.jsonl", "b.jsonl", "c.jsonl", "d.jsonl"})
+        arguments.append(write(name, line));
+    const QString failingFork = "export LD_PRELOAD=" INKMACRO_FAILING_CALLS " FAULT_CALL=fork"
+                                " ASAN_OPTIONS=\"$ASAN_OPTIONS:verify_asan_link_order=0\" FAULT_MARK=" +
+                                path("mark") + " FAULT_NUMBER=";
+    const QString expected = run(arguments).out;
+    Outcome outcome = run(arguments, {}, failingFork + "2; ");
+    EXPECT_EQ(outcome.status, 0) << outcome.err.toStdString();
+    EXPECT_EQ(outcome.out, expected);
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_TRUE(exists("mark"));
+
+    outcome = run(arguments, {}, failingFork + "1; ");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.err, "inkmacro: no process can be started for out/a/csharp/a.cs: Resource temporarily "
+                           "unavailable, nor for the 3 behind it\n");
 }
 
 } // namespace

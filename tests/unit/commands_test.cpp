@@ -401,6 +401,38 @@ TEST_F(LineStyles, AreLoadedAndReloaded)
     EXPECT_EQ(loaded().front(), "ONE=again");
 }
 
+TEST_F(LineStyles, WithoutANameOrWithThatOfAnotherAreLeftOut)
+{
+    const QString file = write("all.lin", "*,none\nA,1,-1\n*ONE,first\nA,1,-1\n*  ,blank\nA,1,-1\n"
+                                          "*one,second\nA,2,-2\n*TWO,t\nA,1,-1\n");
+    auto problems = [seen = GetFxSystemServices()->GetProblems().size()]() mutable {
+        const std::vector<CFxString>& all = GetFxSystemServices()->GetProblems();
+        const std::vector<CFxString> fresh(all.begin() + static_cast<std::ptrdiff_t>(seen), all.end());
+        seen = all.size();
+        return fresh;
+    };
+    const CFxString without = "a line style without a name in " + file + " is left out";
+    const CFxString further = "a further definition of the line style one in " + file + " is left out";
+    EXPECT_EQ(run(lineStyles, {"L", "*", file, ""}), 5100);
+    EXPECT_EQ(shownBehindFile(), QStringList());
+    EXPECT_EQ(loaded(), (std::vector<QString>{"ONE=first", "TWO=t"}));
+    EXPECT_EQ(problems(), (std::vector<CFxString>{without, without, further}));
+    EXPECT_EQ(run(lineStyles, {"L", "one", file, "y", ""}), 5100);
+    EXPECT_EQ(loaded().front(), "ONE=first");
+    EXPECT_EQ(problems(), std::vector<CFxString>{further});
+
+    // A blank name is as good as none.
+    EXPECT_EQ(run(lineStyles, {"C", "  ", ""}), 5100);
+    EXPECT_EQ(shown.size(), 5);
+}
+
+TEST_F(LineStyles, AreByLayerWhereNoneIsActive)
+{
+    drawing.add(0x14, "AcDbLinetypeTableRecord", {{"name", OdString("ByLayer")}});
+    EXPECT_EQ(run(lineStyles, {""}), 5100);
+    EXPECT_EQ(shown.front(), "Active LineStyle: ByLayer");
+}
+
 TEST_F(LineStyles, BecomeActive)
 {
     drawing.add(0x14, "AcDbLinetypeTableRecord", {{"name", OdString("Dashed")}});

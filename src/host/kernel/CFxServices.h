@@ -19,6 +19,13 @@ private:
     OdDbDatabase* database_;
 };
 
+/// A file that the system would not make or fill, and why.
+struct CFxFailedFile
+{
+    CFxString path;
+    CFxString reason;
+};
+
 /// Settings of the running host, by name.
 class INKHOST_EXPORT CFxSystemServices
 {
@@ -35,9 +42,10 @@ public:
     /// Not owned; null when no document is open.
     void SetActiveDocument(CFxDocument* document) { activeDocument_ = document; }
 
-    /// A file whose text did not reach the disk whole, though it could be opened.
-    void ReportIncompleteFile(const CFxString& path) { incompleteFiles_.push_back(path); }
-    const std::vector<CFxString>& GetIncompleteFiles() const { return incompleteFiles_; }
+    /// A file that could not be opened, which is a failure of the conversion, or whose text did not reach the disk
+    /// whole, which is none unless it is the macro.
+    void ReportFailedFile(const CFxString& path, const CFxString& reason) { failedFiles_.push_back({path, reason}); }
+    const std::vector<CFxFailedFile>& GetFailedFiles() const { return failedFiles_; }
 
     /// What the user should know of a conversion though its status does not tell it: one sentence without a full stop.
     void ReportProblem(const CFxString& problem) { problems_.push_back(problem); }
@@ -48,7 +56,7 @@ public:
 private:
     CFxConversionNotes notes_;
     std::vector<CFxString> problems_;
-    std::vector<CFxString> incompleteFiles_;
+    std::vector<CFxFailedFile> failedFiles_;
     std::map<CFxString, std::int16_t> settings_;
     QHash<QString, CFxString> optionNames_;
     CFxDocument* activeDocument_ = nullptr;
