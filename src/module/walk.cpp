@@ -29,6 +29,8 @@ bool IsPassedOver(const Conversion& conversion, const OdRxObject* action)
         return !isWanted(conversion, *variable);
     if (odrxQuery<CFxUserInteraction>(action) || odrxQuery<CFxUserSelection>(action))
         return !conversion.replays;
+    if (const auto modified = odrxQuery<CFxObjectModified>(action))
+        return modified->GetProperties().empty();
     // A leader brings its note.
     const auto added = odrxQuery<CFxObjectAdded>(action);
     return added && added->GetObjectClass() == OdDbMText::desc() && !conversion.names().FindEntry(added->GetHandle());

@@ -101,6 +101,11 @@ bool isPlainYes(const CFxVariant& value)
     return value.GetString() == ShownWord("Yes");
 }
 
+using enum inkmacro::Target;
+const inkmacro::Fault kTurnedRound{"EmitSetBoolProperty",
+                                   {Cpp, CSharp, JavaScript, VbNet, CppCom, Vba},
+                                   "a layer that is shown is hidden, and the other way round"};
+
 Statement setEnum(const Change& change, const CFxString& word)
 {
     return EmitSetEnumProperty(change.writer, change.target, *change.row.kind.byText, change.row.property, word);
@@ -396,8 +401,10 @@ constinit const ChangeKind visible{
 constinit const ChangeKind exactEnabled{
     [](const Change& change) { return setBool(change, ElementText(change.value) == ShownWord("Enabled")); }};
 constinit const ChangeKind plainYes{[](const Change& change) { return setBool(change, isPlainYes(change.value)); }};
-constinit const ChangeKind plainNo{
-    [](const Change& change) { return setBool(change, change.value.GetString() == ShownWord("No")); }};
+constinit const ChangeKind plainNo{[](const Change& change) {
+    return change.writer.mended(setBool(change, change.value.GetString() == ShownWord("No")), kTurnedRound,
+                                setBool(change, isPlainYes(change.value)));
+}};
 constinit const ChangeKind yesOrFirst{setYesOrFirst};
 constinit const ChangeKind anyYes{[](const Change& change) { return setBool(change, isAnyYes(change.value)); }};
 constinit const ChangeKind chosenYes{setChosen<setYes>};

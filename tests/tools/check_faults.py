@@ -49,6 +49,8 @@ SAID = {
         r"GetLayer\( L?\"(?!0\")",
     # The order is no matter of types.
     "settings of a hatch stand ahead of its insertion": r"\A(?:(?!GetHatchPattern)(?:.|\n))*InsertHatchBy",
+    # A truth value is as good as the other.
+    "a layer that is shown is hidden, and the other way round": r"Shown\(? ?(= )?[Ff]alse",
     # The inner variable hides the outer one.
     "a tile gets a second variable, and the one that is declared for it stays empty": r"^ *(iw)?viewtile2 = ",
     # A number is as good as another.

@@ -68,8 +68,7 @@ ANONYMOUS = re.compile(r"^\*U\d+$")
 HATCHING = 18
 # How a number of the record becomes the one that the object holds.
 MEASURES = {"half": lambda value: value / 2, "round": lambda value: value / (2 * math.pi),
-            "area": lambda value: math.sqrt(value / math.pi), "not": lambda value: "No" if value in YES else "Yes",
-            "abs": abs}
+            "area": lambda value: math.sqrt(value / math.pi), "abs": abs}
 
 
 class _Rows:

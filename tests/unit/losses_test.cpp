@@ -106,7 +106,8 @@ TEST(Losses, OfACommandAreItsFailedChildAndAllBehindIt)
     const QByteArray children = line +
                                 R"(,{"custom":{"kind":56,"data":[]}},)"
                                 R"({"sysvar":{"name":"LTSCALE","value":{"double":1}}},)" +
-                                changed("AcDbLine", "30", R"({"tag":"Layer","value":{"id":"10"}})").trimmed();
+                                changed("AcDbLine", "30", R"({"tag":"Layer","value":{"id":"10"}})").trimmed() + ',' +
+                                changed("AcDbLine", "31", "").trimmed(); // without a change
     EXPECT_EQ(lossesOf(command(line) + command(children)),
               (Lines{"1.1 custom 56: no statement is known for this kind of action or form of its data",
                      "1.3 modified AcDbLine 30: action 2 of its command could not be converted"}));
