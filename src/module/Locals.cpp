@@ -1,50 +1,22 @@
 #include "module/Locals.h"
 
+#include "module/codeNames.h"
+
 #include <QVarLengthArray>
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 #include <utility>
 
 namespace inkmacro {
 
 namespace {
 
-constexpr unsigned char kNamePart = 1;
-constexpr unsigned char kDot = 2;
-
-/// Asked of a good part of the macro's characters, so ASCII is looked up.
-inline bool isOneOf(unsigned kinds, QChar character)
-{
-    static constexpr auto ascii = [] {
-        std::array<unsigned char, 0x80> parts{};
-        for (const char16_t part :
-             std::u16string_view(u"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_"))
-            parts[part] = kNamePart;
-        parts[u'.'] = kDot;
-        return parts;
-    }();
-    const ushort code = character.unicode();
-    return code < ascii.size() ? (ascii[code] & kinds) != 0 : character.isLetterOrNumber();
-}
-
-inline bool isNamePart(QChar character)
-{
-    return isOneOf(kNamePart, character);
-}
+using namespace codeCharacters;
 
 inline bool isPair(QStringView text, qsizetype at, char first, char second)
 {
     return at + 1 < text.size() && text[at] == first && text[at + 1] == second;
-}
-
-QStringView nameAt(QStringView text, qsizetype at)
-{
-    const qsizetype from = at;
-    while (at < text.size() && isNamePart(text[at]))
-        ++at;
-    return text.mid(from, at - from);
 }
 
 qsizetype behindBlanks(QStringView text, qsizetype at)
@@ -124,24 +96,6 @@ Names declarationsIn(QStringView line, Target target)
     return found;
 }
 
-/// Behind a text in double quotes.
-qsizetype behindText(QStringView line, qsizetype at, Target target)
-{
-    for (++at; at < line.size() && line[at] != '"'; ++at)
-        if (line[at] == '\\' && !isBasic(target))
-            ++at;
-    return std::min(at + 1, line.size());
-}
-
-/// What QStringView::trimmed() gives, which takes longer for the few blanks of a line.
-inline QStringView trimmed(QStringView line)
-{
-    while (!line.isEmpty() && line.back().isSpace())
-        line.chop(1);
-    const auto isOther = [](QChar character) { return character != ' ' && !character.isSpace(); };
-    return line.mid(std::find_if(line.begin(), line.end(), isOther) - line.begin());
-}
-
 /// The larger one takes the other one in.
 void unite(QHash<QString, std::size_t>& names, QHash<QString, std::size_t>& others)
 {
@@ -149,11 +103,6 @@ void unite(QHash<QString, std::size_t>& names, QHash<QString, std::size_t>& othe
         names.swap(others);
     for (auto other = others.cbegin(); other != others.cend(); ++other)
         names.insert(other.key(), other.value());
-}
-
-bool startsComment(QStringView line, qsizetype at, Target target)
-{
-    return isBasic(target) ? line[at] == '\'' : line.mid(at).startsWith(u"//");
 }
 
 } // namespace
@@ -267,32 +216,20 @@ QString Locals::toldApart(const QString& line)
     return counts_.isEmpty() ? line : withOtherNames(line);
 }
 
-/// Texts and comments stay as they are, and so do members, which stand behind a dot or an arrow.
 QString Locals::withOtherNames(const QString& line) const
 {
     const QStringView text(line);
     QString changed;
-    for (qsizetype at = 0; at < text.size();) {
-        const qsizetype from = at;
-        if (text[at] == '"') {
-            at = behindText(text, at, target_);
-        } else if (startsComment(text, at, target_)) {
-            at = text.size();
-        } else if (isNamePart(text[at])) {
-            const QStringView name = nameAt(text, at);
-            at += name.size();
-            const bool member = from > 0 && (text[from - 1] == '.' || text.mid(from - 1, 1) == u">");
-            const QString* const other = member ? nullptr : otherNameOf(keyOf(name));
-            if (other) {
-                changed += *other;
-                continue;
-            }
-        } else {
-            ++at;
-        }
-        changed += text.mid(from, at - from);
-    }
-    return changed;
+    qsizetype copied = 0;
+    forNames(text, target_, [&](QStringView name, qsizetype at) {
+        const QString* const other = otherNameOf(keyOf(name));
+        if (!other)
+            return;
+        changed += text.mid(copied, at - copied);
+        changed += *other;
+        copied = at + name.size();
+    });
+    return changed += text.mid(copied);
 }
 
 } // namespace inkmacro
