@@ -3,12 +3,18 @@
 #include "host/kernel/CFxServices.h"
 #include "statements/Fault.h"
 
+#include <QFileInfo>
+
 #include <variant>
 
 using namespace inkmacro;
 
-MacroFile::MacroFile(QTextStream& stream, const QString& name, Target target, bool repairs, bool notesFaults)
-    : name_(name), stream_(stream), text_(target, repairs, notesFaults), behind_(text_, stream)
+MacroFile::MacroFile(QTextStream& stream, const QString& path, Target target, bool repairs, bool notesFaults)
+    : name_(QFileInfo(path).fileName()),
+      stream_(stream),
+      divides_(MacroText::divides(target, repairs)),
+      text_(target, repairs, notesFaults, QFileInfo(path).path()),
+      behind_(text_, stream)
 {
 }
 
@@ -50,6 +56,12 @@ void MacroFile::put(const LateText& text)
         put(Kind::Statements, part);
         part = text(number);
     }
+}
+
+void MacroFile::endAction()
+{
+    if (divides_)
+        behind_.endAction();
 }
 
 void MacroFile::finish()

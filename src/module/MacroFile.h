@@ -13,8 +13,8 @@ class QTextStream;
 class MacroFile
 {
 public:
-    /// `name` is the file's without folders, for the notes of faults.
-    MacroFile(QTextStream& stream, const QString& name, inkmacro::Target target, bool repairs, bool notesFaults);
+    /// `path` is the file's. The notes of faults hold its name.
+    MacroFile(QTextStream& stream, const QString& path, inkmacro::Target target, bool repairs, bool notesFaults);
     MacroFile(const MacroFile&) = delete;
     MacroFile& operator=(const MacroFile&) = delete;
 
@@ -23,6 +23,10 @@ public:
     /// Writes the declarations of objects, each on lines of its own. Their names are numbered through the macro, so
     /// that none is declared twice.
     void writeDeclarations(const Statement& declarations);
+    /// Writes the head, or behind all statements the foot.
+    void writeFrame(const Statement& frame) { write(frame, Kind::Frame); }
+    /// What has been written since the last call makes sense by itself.
+    void endAction();
     /// Writes what is left.
     void finish();
 
@@ -37,6 +41,7 @@ private:
 
     const QString name_;
     QTextStream& stream_;
+    const bool divides_;
     inkmacro::MacroText text_;
     inkmacro::WriteBehind behind_;
 };

@@ -45,21 +45,26 @@ const Fault kDeclaredTwice{"ConvertCommand",
 
 const Fault kEmptyArray{"ConvertCommand", {Target::Vba}, "an array without elements is declared with a size of -1"};
 
+const Fault kTooLong{"ConvertRecording", {Target::Vba}, "the procedure is longer than VBA compiles"};
+
 } // namespace
 
-MacroText::MacroText(Target target, bool repairs, bool notesFaults)
+MacroText::MacroText(Target target, bool repairs, bool notesFaults, const QString& folder)
     : target_(target), repairs_(repairs), notesFaults_(notesFaults), locals_(target)
 {
+    if (divides(target, repairs))
+        procedures_.emplace(folder);
 }
 
 void MacroText::write(QTextStream& stream, Kind kind, QStringView text)
 {
     if (repairs_)
-        return writeLines(stream, text);
+        return writeLines(stream, kind, text);
     if (kind == Kind::Declarations)
         line_ += static_cast<std::size_t>(std::count(text.begin(), text.end(), QChar('\n')));
     else if (notesFaults_)
         followLines(text);
+    noteLength(text.size());
     writeSliced(stream, text);
 }
 
@@ -70,26 +75,43 @@ void MacroText::followLines(QStringView text)
             faults_.push_back({&kDeclaredTwice, number});
         if (sizesNothing(line, target_))
             noteFault(kEmptyArray);
+        if (target_ == Target::Vba && letters_ == 0 && line == Procedures::kMain)
+            mainLine_ = line_;
         ++line_;
     });
     // A declaration stands at the beginning of its line, which may be long in all.
     begun_.truncate(kLineHead);
 }
 
-void MacroText::writeLines(QTextStream& stream, QStringView text)
+void MacroText::noteLength(qsizetype letters)
+{
+    letters_ += letters;
+    if (mainLine_ > 0 && letters_ > Procedures::kMostLetters)
+        faults_.push_back({&kTooLong, std::exchange(mainLine_, 0)});
+}
+
+void MacroText::writeLines(QTextStream& stream, Kind kind, QStringView text)
 {
     forLines(begun_, text, [&](QStringView line) {
         QString text = locals_.toldApart(line.toString());
         if (sizesNothing(text, target_))
             text.remove(QLatin1String("-1")).replace(QLatin1String("(  )"), QLatin1String("()"));
-        writeSliced(stream, text);
-        stream << '\n';
+        if (!procedures_) {
+            writeSliced(stream, text);
+            stream << '\n';
+        } else if (kind == Kind::Frame) {
+            procedures_->frameLine(text);
+        } else {
+            procedures_->line(text);
+        }
         ++line_;
     });
 }
 
 void MacroText::finish(QTextStream& stream)
 {
+    if (procedures_)
+        procedures_->finish(stream);
     if (repairs_)
         writeSliced(stream, std::exchange(begun_, QString()));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/Locals.h"
+#include "module/Procedures.h"
 #include "statements/Fault.h"
 
 #include <QString>
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 class QTextStream;
@@ -36,7 +38,8 @@ public:
     enum class Kind
     {
         Statements,
-        Declarations ///< whole lines with locals that no other line declares
+        Declarations, ///< whole lines with locals that no other line declares
+        Frame         ///< whole lines of the head or the foot
     };
 
     struct FoundFault
@@ -45,12 +48,16 @@ public:
         std::size_t line; ///< from 1
     };
 
-    /// `notesFaults`: whether lines are looked at for faults.
-    MacroText(Target target, bool repairs, bool notesFaults);
+    /// `notesFaults`: whether lines are looked at for faults. `folder`: where a file may be that lasts until the macro
+    /// is written.
+    MacroText(Target target, bool repairs, bool notesFaults, const QString& folder);
+    static bool divides(Target target, bool repairs) { return repairs && target == Target::Vba; }
 
     void write(QTextStream& stream, Kind kind, QStringView text);
     /// The line that is written next has it.
     void noteFault(const Fault& fault) { faults_.push_back({&fault, line_}); }
+    /// Best divided here; only of texts that are divided at all.
+    void endAction() { procedures_->endAction(); }
     /// Writes what the last line has without an end.
     void finish(QTextStream& stream);
     /// The faults since the last call.
@@ -58,7 +65,8 @@ public:
 
 private:
     void followLines(QStringView text);
-    void writeLines(QTextStream& stream, QStringView text);
+    void writeLines(QTextStream& stream, Kind kind, QStringView text);
+    void noteLength(qsizetype letters);
 
     const Target target_;
     const bool repairs_;
@@ -66,6 +74,9 @@ private:
     std::size_t line_ = 1; ///< that is written next
     QString begun_;        ///< what is there of that line
     Locals locals_;
+    qsizetype letters_ = 0;
+    std::size_t mainLine_ = 0; ///< of VBA's procedure; 0: not there yet, or told that it is too long
+    std::optional<Procedures> procedures_;
     std::vector<FoundFault> faults_;
 };
 

@@ -27,7 +27,7 @@ std::vector<MacroText::FoundFault> WriteBehind::write(MacroText::Kind kind, QStr
         filling_.text += slice;
         const auto length = static_cast<int>(slice.size());
         std::vector<Part>& parts = filling_.parts;
-        if (!parts.empty() && !parts.back().fault && parts.back().kind == kind)
+        if (!parts.empty() && !parts.back().fault && !parts.back().endsAction && parts.back().kind == kind)
             parts.back().length += length;
         else
             parts.push_back({kind, length});
@@ -113,6 +113,8 @@ void WriteBehind::writeAll(Batch& batch)
     for (const Part& part : batch.parts) {
         if (part.fault)
             text_.noteFault(*part.fault);
+        else if (part.endsAction)
+            text_.endAction();
         else
             text_.write(stream_, part.kind, text.mid(from, part.length));
         from += part.length;

@@ -27,6 +27,7 @@ public:
 
     std::vector<MacroText::FoundFault> write(MacroText::Kind kind, QStringView text);
     void noteFault(const Fault& fault) { filling_.parts.push_back({.fault = &fault}); }
+    void endAction() { filling_.parts.push_back({.endsAction = true}); }
     /// Writes all that is left.
     std::vector<MacroText::FoundFault> finish();
 
@@ -36,6 +37,7 @@ private:
         MacroText::Kind kind{};
         int length = 0;               ///< of its text
         const Fault* fault = nullptr; ///< null for a text
+        bool endsAction = false;      ///< is no text either
     };
     struct Batch
     {

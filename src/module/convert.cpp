@@ -69,7 +69,7 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     }
 
     // Ends in front of the stream, whatever is thrown.
-    MacroFile macro(stream, QFileInfo(path).fileName(), writer.target, writer.repairs, writer.notesFaults);
+    MacroFile macro(stream, path, writer.target, writer.repairs, writer.notesFaults);
     writer.IndentLevel = 0;
     const bool hasSysVar = std::any_of(actions.begin(), actions.end(), isSysVar);
     Statement header = frame->EmitFileHeader(inkmacro::projectName(path), hasSysVar);
@@ -77,7 +77,7 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
         header = writer.faulty(header, kNoSketchManager);
     if (writer.target == inkmacro::Target::Vba && stream.generateByteOrderMark())
         header = writer.faulty(header, otherLanguage);
-    macro.write(header);
+    macro.writeFrame(header);
     RecordingSheetName = CFxString();
     RecordingInModel = true;
 
@@ -88,10 +88,11 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
         const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
         if (actions[i])
             status = ConvertTopLevel(macro, actions[i]);
+        macro.endAction();
     }
 
     // Written after a failure too, when the level may be out of balance: nobody reads that text.
-    macro.write(frame->EmitFileFooter());
+    macro.writeFrame(frame->EmitFileFooter());
     macro.finish();
     stream.flush();
     bool written = stream.status() == QTextStream::Ok && file.error() == QFileDevice::NoError;

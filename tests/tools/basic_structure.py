@@ -34,7 +34,7 @@ _PARTS = [("If", re.compile(r"(?:Else$|ElseIf\b.*\bThen$)", re.I)), ("Try", re.c
           ("Select", re.compile(r"Case\b", re.I))]
 
 _LINE_END = {VBNET: re.compile("\r\n|[\r\n\x85\u2028\u2029]"), VBA: re.compile("\r\n|[\r\n]")}
-_KEYWORDS = set("""and andalso byref byval call case catch class dim do each else elseif end exit explicit false finally
+_KEYWORDS = set("""and andalso byref byval call case catch class dim do each else elseif empty end erase exit explicit false finally
     for function get if imports in is isnot let like loop mod module new next not nothing on option or orelse private
     public redim return select set shared step sub then to true try until wend while with xor""".split())
 _GLOBALS = {
@@ -42,6 +42,10 @@ _GLOBALS = {
             "math", "chrw"},
     VBA: {"inkwright", "getobject", "msgbox", "vblf", "cint", "abs", "chrw"},
 }
+
+
+# Letters of a procedure that VBA compiles to 64 KB, which is its limit: the code of a line is about as long as the line.
+LONGEST_PROCEDURE = 64 * 1024
 
 
 class _Scope:
@@ -56,6 +60,8 @@ class _Checker:
         self.scopes = [_Scope("", 0)]
         self.faults = []
         self.number = 0
+        self.letters = 0  # of the present procedure
+        self.has_procedures = False
 
     def fault(self, text, number=None):
         self.faults.append((number or self.number, text))
@@ -118,6 +124,7 @@ class _Checker:
             else:
                 self.fault(f"{match[1]} is no name")
         if kind in ("Sub", "Function"):
+            self.letters, self.has_procedures = 0, True
             match = _PROCEDURE.match(code)
             if not match:
                 self.fault(f"{code} is no declaration of a procedure")
@@ -136,10 +143,16 @@ class _Checker:
             return
         while (scope := self.scopes.pop()).block.lower() != kind.lower():
             self.fault(f"{word} comes before the end of {scope.block} in line {scope.line}")
+        if self.dialect == VBA and kind == "Sub" and self.letters > LONGEST_PROCEDURE:
+            self.fault("the procedure is too long", scope.line)
 
     def statement(self, code):
         if re.match(r"Dim\b", code, re.I):
             self.declarations(code[4:])
+        elif self.dialect == VBA and re.match(r"Private\b", code, re.I):
+            if len(self.scopes) > 1 or self.has_procedures:
+                self.fault("a declaration of the module stands ahead of its procedures")
+            self.declarations(code[8:])
         elif re.match(r"Set\b", code, re.I):
             if self.dialect == VBNET:
                 self.fault("there is no Set in this language")
@@ -229,8 +242,10 @@ def statements(text, dialect):
 
 def check(text, dialect, known=()):
     """(line, fault) of everything that is wrong; `known` are names from the other files of the project."""
-    checker = _Checker(dialect, known)
+    procedures = re.findall(rf"^(?:Private )?Sub ({_NAME})", text, re.M) if dialect == VBA else []
+    checker = _Checker(dialect, [*known, *procedures])
     for checker.number, statement in statements(text, dialect):
+        checker.letters += len(statement) + 1
         checker.line(statement)
     for scope in checker.scopes[1:]:
         checker.fault(f"{scope.block} is never closed", scope.line)

@@ -35,8 +35,8 @@ SAID = {
     "a recording that began on a sheet without a name has no sketch manager": r"iwModel(->|\.)GetSketchManager",
     # A color is as good as another.
     "a color by layer or by block counts as black in a gradient": r"GetColorByIndex ?\( ?256\b",
-    # The second of two calls, from behind.
-    "of several rows or columns that went only the last is removed": r"DeleteRow ?\(? ?3\b",
+    # The second of two calls, or a loop, from behind.
+    "of several rows or columns that went only the last is removed": r"DeleteRow ?\(? ?(?:3|i\d*)\b",
     # Who takes the result.
     "the group's variable is not assigned": r"\w+ = iwDoc->CreateGroup",
     # The index goes up behind both elements.

@@ -9,7 +9,7 @@ import basic_structure
 
 VALUES = {"boolean", "byte", "currency", "date", "double", "integer", "long", "single", "string"}
 _NAME = r"[A-Za-z]\w*"
-_DECLARED = re.compile(rf"(?:^Dim |, ?)({_NAME})(?: ?(\([^()]*\)))? As (?:New )?([\w.]+)", re.I)
+_DECLARED = re.compile(rf"(?:^Dim |^Private |, ?)({_NAME})(?: ?(\([^()]*\)))? As (?:New )?([\w.]+)", re.I)
 _SIZE = re.compile(r"\( *(?:(?:\d+ To )?\d+(?: *, *(?=\d))?)* *\)", re.I)
 _ASSIGNED = re.compile(rf"(Set )?({_NAME})( ?\(.*?\))? *=(.*)$", re.I)
 _MEMBER = re.compile(rf"(?<![\w.)])({_NAME})\.({_NAME})")
@@ -92,6 +92,6 @@ def check(text, known):
     checker = _Checker(known)
     for number, statement in basic_structure.statements(text, basic_structure.VBA):
         code, _ = basic_structure.without_text(statement)
-        declares = re.match(r"Dim\b", code, re.I)
+        declares = re.match(r"(?:Dim|Private (?!Sub))\b", code, re.I)
         faults = checker.declarations(code) if declares else [*checker.assignment(code), *checker.uses(code)]
         yield from ((number, fault) for fault in faults)

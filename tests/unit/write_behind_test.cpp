@@ -1,9 +1,9 @@
 // Long macros, whose text a second thread writes.
 
+#include "TestStream.h"
 #include "TestTarget.h"
 #include "module/MacroFile.h"
 
-#include <QBuffer>
 #include <QTextStream>
 
 #include <stdexcept>
@@ -26,13 +26,8 @@ struct Written
 /// several statements share.
 Written write()
 {
-    CFxConversionNotes& notes = GetFxSystemServices()->Notes();
-    notes.Forget();
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QTextStream stream(&buffer);
-    stream.setCodec("UTF-8");
-    MacroFile macro(stream, "test.cs", Target::CSharp, false, true);
+    TestStream to;
+    MacroFile macro(to.stream, "test.cs", Target::CSharp, false, true);
     for (int i = 0; i < kStatements; ++i) {
         macro.writeDeclarations(QString("Line line%1;\n").arg(i));
         macro.write(QString("line%1 = f( \u00E4 );").arg(i));
@@ -50,9 +45,9 @@ Written write()
                         QString(" );\n"));
     }
     macro.finish();
-    stream.flush();
-    Written written{buffer.data(), notes.GetFaults()};
-    notes.Forget();
+    to.stream.flush();
+    Written written{to.buffer.data(), GetFxSystemServices()->Notes().GetFaults()};
+    GetFxSystemServices()->Notes().Forget();
     return written;
 }
 
@@ -97,7 +92,7 @@ TEST(MacroFile, WritesAndNotesInTheOrderOfTheMacro)
 TEST(WriteBehind, TellsOfWhatIsThrownAndEndsWithoutBeingFinished)
 {
     for (const bool finishes : {true, false}) {
-        MacroText text(Target::CSharp, false, false);
+        MacroText text(Target::CSharp, false, false, {});
         SmallDevice device;
         QTextStream stream(&device);
         const QString line = QString(99, 'x') + '\n';

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <QStringView>
+#include <QTemporaryFile>
+#include <QTextStream>
+
+#include <vector>
+
+namespace inkmacro {
+
+/// Divides the one procedure of a long VBA macro into several, which it calls in turn. A run of lines that closes every
+/// block that it opens becomes a procedure of its own, wherever it stands; a call takes its place. That keeps the order
+/// of all statements, and as many lines in memory as a few procedures have: finished ones wait in a file.
+///
+/// Declarations stand ahead of the first procedure, so those of variables that several procedures use are written when
+/// all procedures are known.
+class Procedures
+{
+public:
+    /// Letters that a procedure may have for certain: VBA takes 64 KB of compiled code, and that of a line is hardly
+    /// longer than the line.
+    static constexpr qsizetype kMostLetters = 64 * 1024;
+    /// The line that begins the procedure.
+    static constexpr QStringView kMain = u"Sub main()";
+
+    /// The file is made in that folder, and is gone when this is.
+    explicit Procedures(const QString& folder);
+
+    /// A line of the head or, behind statements, of the foot: those stay where they are.
+    void frameLine(const QString& line);
+    /// A line of statements, in which no variable has the name of another.
+    void line(const QString& line);
+    /// What has been written makes sense by itself: best divided here.
+    void endAction();
+    /// Writes the macro. A file that failed makes the stream fail.
+    void finish(QTextStream& stream);
+
+private:
+    struct Run
+    {
+        QStringList lines;
+        qsizetype letters = 0;
+        int calls = 0;           ///< lines in front that are calls of procedures
+        bool leavesLoop = false; ///< one that it stands in
+        bool leavesMain = false;
+
+        void add(const Run& other);
+    };
+    struct Block
+    {
+        Run closed;        ///< its beginning, and those of its parts that have ended
+        Run part;          ///< the present one
+        int actionEnd = 0; ///< so many lines of it are whole actions
+        bool isLoop = false;
+    };
+
+    void noteDeclaration(QStringView line);
+    void addWhole(const QString& line);
+    void closePart(Block& block);
+    void closeBlock(const Run& end);
+    void add(const Run& unit);
+    /// Whether they are too long for one procedure. Calls need none of their own until there are many.
+    static bool isLong(const Run& run, const Run& more);
+    /// False when there is nothing that can be taken out of the block.
+    bool divide(Block& block);
+    /// Makes a procedure of those lines of the run.
+    void extract(Run& run, int from, int to);
+    void writeProcedure(const QStringList& lines);
+    void noteNames(const QStringList& lines, int procedure);
+    /// What stands behind the `Dim` when the line declares a variable that several procedures use, else nothing.
+    QStringView sharedIn(QStringView line) const;
+    /// Calls for each line of the finished procedures.
+    template<class Use>
+    void forWaiting(const Use& use);
+    void writeDivided(QTextStream& stream);
+
+    QStringList head_;
+    QStringList foot_;
+    QString continued_; ///< the lines that the next one belongs to
+    std::vector<Block> blocks_;
+    int count_ = 0;
+    QHash<QString, int> users_; ///< of each variable: the procedure that names it, by its number
+    QTemporaryFile waiting_;
+    QTextStream toWaiting_;
+    bool failed_ = false;
+};
+
+} // namespace inkmacro
