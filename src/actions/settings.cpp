@@ -164,13 +164,10 @@ const Fault kUnknownLocation{
     "the property of a location that the host does not have lacks its name"};
 
 /// In strings of the curly languages a backslash escapes. The host's setting decides, not the target.
-CFxString quotable(Conversion& conversion, const CFxString& path)
+EscapedText quotable(const CFxString& path)
 {
     const bool basic = RecordsIn(Target::VbNet) || RecordsIn(Target::Vba);
-    CFxString doubled(doubleBackslashes(path));
-    if (basic != isBasic(conversion.writer.target) && doubled.toQString() != path.toQString())
-        conversion.faults.note(otherLanguage);
-    return basic ? path : doubled;
+    return basic ? EscapedText(path) : doubleBackslashes(path);
 }
 
 } // namespace
@@ -190,7 +187,7 @@ static std::int32_t ConvertFileLocation(Conversion& conversion, const FileObject
     text += files.emitObject(conversion.writer, variable);
     bool isSet = true;
     if (value.GetType() == CFxCustomActionData::kString)
-        text += EmitSetProperty(conversion.writer, variable, property, quotable(conversion, value.GetString()), true);
+        text += EmitSetProperty(conversion.writer, variable, property, quotable(value.GetString()), true);
     else if (value.GetType() == CFxCustomActionData::kStringArray)
         text += EmitFileLocationArray(conversion.writer, variable, property, value.GetStringArray());
     else

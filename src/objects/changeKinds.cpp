@@ -118,7 +118,7 @@ Statement setEnumValue(const Change& change)
                             numberOf(change.value));
 }
 
-Statement setText(const Change& change, const CFxString& value, bool quoted)
+Statement setText(const Change& change, const inkmacro::EscapedText& value, bool quoted)
 {
     return EmitSetProperty(change.writer, change.target, change.row.property, value, quoted);
 }
@@ -241,7 +241,7 @@ Statement setYes(const Change& change, const CFxString& word)
 
 Statement setDoubled(const Change& change, const CFxString& text)
 {
-    return setQuoted(change, inkmacro::doubleBackslashes(text));
+    return setText(change, inkmacro::doubleBackslashes(text), true);
 }
 
 Statement setNoteDirection(const Change& change, const CFxString& word)
@@ -294,7 +294,8 @@ Statement setOrientation(const Change& change, const CFxString& word)
 /// Without a number it is the title.
 std::int32_t cellType(const Change& change)
 {
-    return anyNumber(change.number);
+    constexpr std::int32_t title = 1;
+    return change.number.IsNull() ? title : anyNumber(change.number);
 }
 
 /// The line whose number stands beside the cell type, else that above the cells.
@@ -454,7 +455,7 @@ constinit const ChangeKind doubledBackslashes{setChosen<setDoubled, anyText>};
 constinit const ChangeKind affix{.statement = setChosen<setAffix, anyText>, .maySayNothing = true};
 constinit const ChangeKind prefixAndSuffix{.statement = setChosen<setPrefixAndSuffix, anyText>, .maySayNothing = true};
 constinit const ChangeKind escaped{[](const Change& change) {
-    return setQuoted(change, inkmacro::escapeText(change.writer.target, change.value.GetString()));
+    return setText(change, inkmacro::escapeText(change.writer.target, change.value.GetString()), true);
 }};
 constinit const ChangeKind unquoted{[](const Change& change) {
     const CFxString& text = change.value.GetString();

@@ -422,6 +422,14 @@ Fill& Fill::shortReal(double value)
     return add(Short{value});
 }
 
+Fill& Fill::text(const EscapedText& value)
+{
+    if (mode_.notesFaults && value.written != value.meant) {
+        meant_.push_back({values_.size(), value.meant});
+    }
+    return text(QStringView(value.written));
+}
+
 Fill& Fill::text(const Statement& value)
 {
     if (value.hasNotes()) {
@@ -532,7 +540,12 @@ bool Fill::hasBrokenQuotes(int used) const
     return std::any_of(template_->pieces_.begin(), template_->pieces_.end(), [&](const Template::Piece& piece) {
         const auto* const text =
             piece.quoted && piece.rank < used ? std::get_if<QStringView>(&values_[piece.rank]) : nullptr;
-        return text && text->data() != LineEnd.constData() && breaksQuotes(*text, *mode_.target);
+        if (!text || text->data() == LineEnd.constData() || isPlain(*text)) {
+            return false;
+        }
+        const auto escaped =
+            std::find_if(meant_.begin(), meant_.end(), [&](const Meant& meant) { return meant.rank == piece.rank; });
+        return breaksQuotes(*text, escaped == meant_.end() ? *text : QStringView(escaped->text), *mode_.target);
     });
 }
 

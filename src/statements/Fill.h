@@ -2,6 +2,7 @@
 
 #include "host/db/OdGe.h"
 #include "host/kernel/CFxString.h"
+#include "statements/EscapedText.h"
 #include "statements/Statement.h"
 #include "statements/Template.h"
 
@@ -65,6 +66,8 @@ public:
     /// Keeps a text that nobody else does.
     Fill& text(QString&& value);
     Fill& text(CFxString&& value) { return text(QString(value.toQString())); }
+    Fill& text(const EscapedText& value);
+    Fill& text(EscapedText&& value) = delete;
     Fill& text(const Statement& value);
     Fill& text(Statement&& value);
     Fill& text(const Statement&& value) { return text(Statement(value)); }
@@ -124,6 +127,13 @@ private:
         Statement::Notes notes;
     };
 
+    /// What a value's text is to be read as.
+    struct Meant
+    {
+        int rank;
+        QString text;
+    };
+
     // `used` is how many values have a marker.
     QString filled(int used) const;
     QString escaped(int used, Statement::Notes* notes = nullptr) const;
@@ -145,10 +155,11 @@ private:
     QVarLengthArray<Value, 16> values_;
     std::vector<QString> kept_; ///< what views among the values look at; their characters never move
     std::vector<Noted> noted_;
-    qsizetype most_;       ///< no outcome is longer while no value holds a marker
-    bool percent_ = false; ///< some text holds '%'
-    bool open_ = false;    ///< some value can make a marker of what stands in front of it
-    int rounded_ = -1;     ///< the first value that loses digits
+    std::vector<Meant> meant_; ///< of texts that were escaped
+    qsizetype most_;           ///< no outcome is longer while no value holds a marker
+    bool percent_ = false;     ///< some text holds '%'
+    bool open_ = false;        ///< some value can make a marker of what stands in front of it
+    int rounded_ = -1;         ///< the first value that loses digits
 };
 
 /// Fixed notation with 14 decimals, halves away from zero: "1.50000000000000".

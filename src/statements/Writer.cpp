@@ -41,7 +41,7 @@ QString Writer::indentation() const
 Statement Writer::quoted(const QString& text) const
 {
     if (!repairs)
-        return breaksQuotes(text, target) ? faulty(text, brokenQuotes) : text;
+        return breaksQuotes(text, text, target) ? faulty(text, brokenQuotes) : text;
     QString escaped;
     appendQuoted(escaped, text, target);
     return escaped;

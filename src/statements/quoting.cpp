@@ -8,6 +8,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace inkmacro {
@@ -146,6 +147,41 @@ void appendBasic(QString& out, QStringView text, Target target)
     basic.close();
 }
 
+/// What a program reads between quotes; nothing when it does not read them to their end, or as the escapes of another
+/// text.
+std::optional<QString> readInBasic(QStringView written, Target target)
+{
+    QString read = written.toString();
+    read.replace(basicLineFeed, QLatin1String("\n"));
+    const bool ends = std::any_of(read.begin(), read.end(), [target](QChar character) {
+        const ushort code = character.unicode();
+        return character == u'"' || (isControl(code) && character != u'\n') || endsLine(code) ||
+               (target == Target::VbNet && isTypographicQuote(code));
+    });
+    return ends || written.contains(u'\n') ? std::nullopt : std::optional(read);
+}
+
+std::optional<QString> readInCurly(QStringView written, Target target)
+{
+    QString read;
+    read.reserve(static_cast<int>(written.size()));
+    for (qsizetype at = 0; at < written.size(); ++at) {
+        const QChar character = written[at];
+        const QChar next = at + 1 < written.size() ? written[at + 1] : QChar();
+        // In a page a script ends only where `</script` or a comment begins.
+        const bool harmless = character == u'\'' || (character == u'<' && !opensTag(written, at, target));
+        if (character == u'\\' && (next == u'\\' || next == u'n')) {
+            read += next == u'n' ? QChar(u'\n') : next;
+            ++at;
+        } else if (harmless || !needsEscape(written, at, target)) {
+            read += character;
+        } else {
+            return std::nullopt;
+        }
+    }
+    return read;
+}
+
 QSet<QString> wordsOf(const char* list)
 {
     const QStringList words = QString(list).split(' ');
@@ -233,26 +269,10 @@ bool isPlain(QStringView text)
     });
 }
 
-bool breaksQuotes(QStringView text, Target target)
+bool breaksQuotes(QStringView written, QStringView meant, Target target)
 {
-    if (isBasic(target)) {
-        QString plain = text.toString();
-        plain.remove(QLatin1String("\" & vbLf & \""));
-        return std::any_of(plain.begin(), plain.end(), [target](QChar character) {
-            const ushort code = character.unicode();
-            return character == u'"' || isControl(code) || endsLine(code) ||
-                   (target == Target::VbNet && isTypographicQuote(code));
-        });
-    }
-    for (qsizetype at = 0; at < text.size(); ++at) {
-        const bool known = text[at] == u'\\' && at + 1 < text.size() && QStringView(u"\\n").contains(text[at + 1]);
-        // In a page a script ends only where `</script` or a comment begins.
-        const bool harmless = text[at] == u'\'' || (text[at] == u'<' && !opensTag(text, at, target));
-        if (!known && !harmless && needsEscape(text, at, target))
-            return true;
-        at += known ? 1 : 0;
-    }
-    return false;
+    const std::optional<QString> read = isBasic(target) ? readInBasic(written, target) : readInCurly(written, target);
+    return !read || QStringView(*read) != meant;
 }
 
 bool isLegalName(const QString& name, Target target)

@@ -3,6 +3,7 @@
 #include "statements/Target.h"
 
 #include <QByteArray>
+#include <QLatin1String>
 #include <QString>
 #include <QStringView>
 
@@ -16,9 +17,11 @@ void appendQuoted(QString& out, QStringView text, Target target);
 /// Whether the text is of those characters only that stand for themselves between the quotes of every target.
 bool isPlain(QStringView text);
 
-/// Whether a text that stands between quotes as it is would end them or be read as another text. Backslashes may have
-/// been doubled and line feeds replaced before.
-bool breaksQuotes(QStringView text, Target target);
+/// What stands between the quotes of a Basic text for a line feed: the quotes are closed and opened again.
+inline constexpr QLatin1String basicLineFeed("\" & vbLf & \"");
+
+/// Whether what is written between quotes ends them, or is read as another text than the one that is meant.
+bool breaksQuotes(QStringView written, QStringView meant, Target target);
 
 /// Whether the target takes the name for one of its own making: that of a class in .NET's languages, what the names of
 /// a project and its files are made of in C++ COM.

@@ -1,6 +1,7 @@
 #include "statements/wording.h"
 
 #include "statements/RecordingState.h"
+#include "statements/quoting.h"
 
 #include <QFileInfo>
 #include <QRegExp>
@@ -10,6 +11,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 namespace inkmacro {
 
@@ -30,22 +32,35 @@ QString CleanPromptText(const QString& prompt)
     return text.remove(tag).remove(QLatin1String("&raquo; "));
 }
 
-QString doubleBackslashes(QString text)
+namespace {
+
+QString doubled(QString text)
 {
-    if (RepairsMacros())
-        return text;
     return text.replace('\\', QLatin1String("\\\\"));
 }
 
-QString escapeWithBackslashes(const QString& text)
+/// In a repaired macro the statement escapes.
+EscapedText unlessRepaired(QString written, const QString& text)
 {
-    return RepairsMacros() ? text : doubleBackslashes(text).replace('\n', QLatin1String("\\n"));
+    return RepairsMacros() ? EscapedText(text) : EscapedText(std::move(written), text);
 }
 
-QString escapeText(Target target, const QString& text)
+} // namespace
+
+EscapedText doubleBackslashes(const QString& text)
 {
-    if (isBasic(target) && !RepairsMacros())
-        return QString(text).replace('\n', QLatin1String("\" & vbLf & \""));
+    return unlessRepaired(doubled(text), text);
+}
+
+EscapedText escapeWithBackslashes(const QString& text)
+{
+    return unlessRepaired(doubled(text).replace('\n', QLatin1String("\\n")), text);
+}
+
+EscapedText escapeText(Target target, const QString& text)
+{
+    if (isBasic(target))
+        return unlessRepaired(QString(text).replace('\n', basicLineFeed), text);
     return escapeWithBackslashes(text);
 }
 

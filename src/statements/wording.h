@@ -1,5 +1,6 @@
 #pragma once
 
+#include "statements/EscapedText.h"
 #include "statements/Fault.h"
 
 #include <QString>
@@ -17,13 +18,13 @@ QString CleanPromptText(const QString& prompt);
 
 /// Text as it stands within the quotes of a statement. Only line feeds and, outside the Basic targets, backslashes
 /// are taken care of; a quote stays as it is.
-QString escapeText(Target target, const QString& text);
+EscapedText escapeText(Target target, const QString& text);
 
 /// The text with each backslash doubled, for the statements that want paths so.
-QString doubleBackslashes(QString text);
+EscapedText doubleBackslashes(const QString& text);
 
 /// Backslashes doubled, and line feeds as backslash and n.
-QString escapeWithBackslashes(const QString& text);
+EscapedText escapeWithBackslashes(const QString& text);
 
 /// The word for a truth value in statements of objects and of options.
 QString truthWord(Target target, bool value);

@@ -20,7 +20,7 @@ static const Phrase insertEmbeddedObject{
     }};
 
 /// VBA alone writes the truth values with a capital here.
-Statement EmitInsertEmbeddedObject(Writer& writer, const CFxString& variable, const CFxString& path, bool first,
+Statement EmitInsertEmbeddedObject(Writer& writer, const CFxString& variable, const EscapedText& path, bool first,
                                    bool second)
 {
     const auto word = [&](bool value) {

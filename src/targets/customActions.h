@@ -7,8 +7,8 @@
 
 #include <vector>
 
-Statement EmitInsertEmbeddedObject(Writer& writer, const CFxString& variable, const CFxString& path, bool first,
-                                   bool second);
+Statement EmitInsertEmbeddedObject(Writer& writer, const CFxString& variable, const inkmacro::EscapedText& path,
+                                   bool first, bool second);
 Statement EmitEraseEntities(Writer& writer, const std::vector<CFxString>& names);
 Statement EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmColor& color);
 Statement EmitActivate(Writer& writer, const CFxString& variable);

@@ -74,30 +74,36 @@ TEST(Quoting, TellsTextsThatBreakTheirQuotes)
 {
     struct Case
     {
-        const char* text;
+        const char* written;
+        const char* meant; ///< null: what is written
         bool cpp, csharp, javascript, vbNet, vba;
     };
     const Case cases[] = {
-        {"plain", false, false, false, false, false},
-        {"it's", false, false, false, false, false},
-        {R"(C:\\plan\n)", false, false, false, false, false}, // doubled before
-        {R"(C:\temp)", true, true, true, false, false},
-        {R"(end\)", true, true, true, false, false},
-        {R"(end\\")", true, true, true, true, true},
-        {"\n", true, true, true, true, true},
-        {R"(a" & vbLf & "b)", true, true, true, false, false}, // replaced before in Basic
-        {"?\?/", true, false, false, false, false},
-        {"</script>", false, false, true, false, false},
-        {"\u201D", false, false, false, true, false},
+        {"plain", nullptr, false, false, false, false, false},
+        {"it's", nullptr, false, false, false, false, false},
+        {R"(C:\\plan\n)", "C:\\plan\n", false, false, false, true, true},
+        {R"(C:\\new)", "C:\\new", false, false, false, true, true},
+        {R"(C:\new)", nullptr, true, true, true, false, false},
+        {R"(C:\\new)", nullptr, true, true, true, false, false},
+        {R"(C:\temp)", nullptr, true, true, true, false, false},
+        {R"(end\)", nullptr, true, true, true, false, false},
+        {R"(end\\")", "end\\\"", true, true, true, true, true},
+        {"\n", nullptr, true, true, true, true, true},
+        {R"(a" & vbLf & "b)", "a\nb", true, true, true, false, false},
+        {R"(a" & vbLf & "b)", nullptr, true, true, true, true, true},
+        {"?\?/", nullptr, true, false, false, false, false},
+        {"</script>", nullptr, false, false, true, false, false},
+        {"\u201D", nullptr, false, false, false, true, false},
     };
     for (const Case& one : cases) {
-        const QString text(one.text);
-        EXPECT_EQ(breaksQuotes(text, Target::Cpp), one.cpp) << one.text;
-        EXPECT_EQ(breaksQuotes(text, Target::CppCom), one.cpp) << one.text;
-        EXPECT_EQ(breaksQuotes(text, Target::CSharp), one.csharp) << one.text;
-        EXPECT_EQ(breaksQuotes(text, Target::JavaScript), one.javascript) << one.text;
-        EXPECT_EQ(breaksQuotes(text, Target::VbNet), one.vbNet) << one.text;
-        EXPECT_EQ(breaksQuotes(text, Target::Vba), one.vba) << one.text;
+        const QString written(one.written);
+        const QString meant = one.meant ? QString(one.meant) : written;
+        EXPECT_EQ(breaksQuotes(written, meant, Target::Cpp), one.cpp) << one.written;
+        EXPECT_EQ(breaksQuotes(written, meant, Target::CppCom), one.cpp) << one.written;
+        EXPECT_EQ(breaksQuotes(written, meant, Target::CSharp), one.csharp) << one.written;
+        EXPECT_EQ(breaksQuotes(written, meant, Target::JavaScript), one.javascript) << one.written;
+        EXPECT_EQ(breaksQuotes(written, meant, Target::VbNet), one.vbNet) << one.written;
+        EXPECT_EQ(breaksQuotes(written, meant, Target::Vba), one.vba) << one.written;
     }
 }
 

@@ -103,8 +103,10 @@ TEST(Names, OfProjectsStayAsTheyAre)
 
 TEST(Texts, AreEscapedForTheirQuotes)
 {
-    EXPECT_EQ(escapeText(Target::JavaScript, "a\\P\n\"b\""), "a\\\\P\\n\"b\"");
-    EXPECT_EQ(escapeText(Target::Vba, "a\\P\nb"), "a\\P\" & vbLf & \"b");
+    const QString text = "a\\P\n\"b\"";
+    EXPECT_EQ(escapeText(Target::JavaScript, text).written, "a\\\\P\\n\"b\"");
+    EXPECT_EQ(escapeText(Target::JavaScript, text).meant, text);
+    EXPECT_EQ(escapeText(Target::Vba, "a\\P\nb").written, "a\\P\" & vbLf & \"b");
 }
 
 TEST(Classes, AreKnownInAllTheirTables)

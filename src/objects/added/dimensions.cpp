@@ -19,7 +19,7 @@ namespace {
 /// Distances up to this are none.
 constexpr double kPointTolerance = 1e-10;
 
-CFxString takeTextOverride(AddedObject& added)
+inkmacro::EscapedText takeTextOverride(AddedObject& added)
 {
     return inkmacro::doubleBackslashes(added.takeText("Text override"));
 }
@@ -74,7 +74,7 @@ Statement ReadAlignedDimension(AddedObject& added)
     const OdGePoint3d first = added.takePoint("xLine1Point");
     const OdGePoint3d second = added.takePoint("xLine2Point");
     const OdGePoint3d line = added.takePoint("dimLinePoint");
-    const CFxString text = takeTextOverride(added);
+    const inkmacro::EscapedText text = takeTextOverride(added);
     return withTextRotation(EmitInsertAlignedDimension(added.writer, first, second, line, text, added.name), added);
 }
 
@@ -87,7 +87,7 @@ Statement Read2LineAngularDimension(AddedObject& added)
     second.start = added.takePoint("xLine2Start");
     second.end = added.takePoint("xLine2End");
     const OdGePoint3d arcPoint = added.takePoint("arcPoint");
-    const CFxString text = takeTextOverride(added);
+    const inkmacro::EscapedText text = takeTextOverride(added);
     if (MeasuresFromVariables(added.writer)) {
         if (const auto dimension = added.open<OdDb2LineAngularDimension>()) {
             OdDbObjectPtr firstObject;
@@ -107,7 +107,7 @@ Statement Read3PointAngularDimension(AddedObject& added)
     const OdGePoint3d first = added.takePoint("xLine1Point");
     const OdGePoint3d second = added.takePoint("xLine2Point");
     const OdGePoint3d arcPoint = added.takePoint("arcPoint");
-    const CFxString text = takeTextOverride(added);
+    const inkmacro::EscapedText text = takeTextOverride(added);
     const std::optional<MeasuredCurve> curve = curveOf<OdDb3PointAngularDimension>(added);
     const bool onArc = curve && odrxQuery<OdDbArc>(curve->object.get());
     Statement insertion =
@@ -122,7 +122,7 @@ Statement ReadArcLengthDimension(AddedObject& added)
     const OdGePoint3d second = added.takePoint("xLine2Point");
     const bool partial = added.take("isPartial").GetInt32() != 0;
     const OdGePoint3d arcPoint = added.takePoint("arcPoint");
-    const CFxString text = takeTextOverride(added);
+    const inkmacro::EscapedText text = takeTextOverride(added);
     Statement insertion;
     if (const std::optional<MeasuredCurve> arc = curveOf<OdDbArcDimension>(added))
         insertion =
@@ -135,7 +135,7 @@ Statement ReadOrdinateDimension(AddedObject& added)
     const OdGePoint3d point = added.takePoint("definingPoint");
     const OdGePoint3d leaderEnd = added.takePoint("leaderEndPoint");
     const bool usesXAxis = added.take("isUsingXAxis").GetInt32() != 0;
-    const CFxString text = takeTextOverride(added);
+    const inkmacro::EscapedText text = takeTextOverride(added);
     Statement statements = withTextRotation(
         EmitInsertOrdinateDimension(added.writer, point, leaderEnd, usesXAxis, text, added.name), added);
     const CFxVariant zero = added.take("setZero");
@@ -147,7 +147,7 @@ Statement ReadOrdinateDimension(AddedObject& added)
 Statement ReadDiameterDimension(AddedObject& added)
 {
     const OdGePoint3d chordPoint = added.takePoint("chordPoint");
-    const CFxString text = takeTextOverride(added);
+    const inkmacro::EscapedText text = takeTextOverride(added);
     Statement insertion;
     if (const std::optional<MeasuredCurve> curve = curveOf<OdDbDiametricDimension>(added))
         insertion = EmitInsertDiameterDimension(added.writer, *curve, chordPoint, text, added.name);
@@ -157,7 +157,7 @@ Statement ReadDiameterDimension(AddedObject& added)
 Statement ReadRadialDimension(AddedObject& added)
 {
     const OdGePoint3d chordPoint = added.takePoint("chordPoint");
-    const CFxString text = takeTextOverride(added);
+    const inkmacro::EscapedText text = takeTextOverride(added);
     Statement insertion;
     if (const std::optional<MeasuredCurve> curve = curveOf<OdDbRadialDimension>(added))
         insertion = EmitInsertRadialDimension(added.writer, *curve, chordPoint, text, added.name);
@@ -169,7 +169,7 @@ Statement ReadJoggedDimension(AddedObject& added)
     const OdGePoint3d center = takePlanePoint(added, "Center location override Y", "Center location override X");
     const OdGePoint3d jog = takePlanePoint(added, "Jog location Y", "Jog location X");
     const OdGePoint3d position = takePlanePoint(added, "Position y", "Position x");
-    const CFxString text = takeTextOverride(added);
+    const inkmacro::EscapedText text = takeTextOverride(added);
     Statement insertion;
     if (const std::optional<MeasuredCurve> curve = curveOf<OdDbRadialDimensionLarge>(added))
         insertion = EmitInsertJoggedDimension(added.writer, *curve, center, jog, position, text, added.name);
@@ -182,7 +182,7 @@ Statement ReadRotatedDimension(AddedObject& added)
     const OdGePoint3d second = added.takePoint("xLine2Point");
     const OdGePoint3d line = added.takePoint("dimLinePoint");
     const double rotation = added.takeReal("rotation", 0.0);
-    const CFxString text = takeTextOverride(added);
+    const inkmacro::EscapedText text = takeTextOverride(added);
     return withTextRotation(EmitInsertRotatedDimension(added.writer, first, second, line, rotation, text, added.name),
                             added);
 }

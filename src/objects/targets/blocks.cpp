@@ -80,7 +80,7 @@ static const Phrase insertPicture{
 Statement EmitInsertPicture(Writer& writer, const CFxString& path, const OdGePoint3d& position, double scale,
                             double rotation, const CFxString& name)
 {
-    const QString word = writer.target == Target::CSharp ? doubleBackslashes(path) : path.toQString();
+    const EscapedText word = writer.target == Target::CSharp ? doubleBackslashes(path) : EscapedText(path);
     return writer.fill(insertPicture).text(word).point(position).real(scale).real(rotation).text(name);
 }
 

@@ -28,7 +28,7 @@ static const Fault kUndeclaredPoints{
 
 /// A page fills its arrays in front of the call, which names them by the number that all have.
 static Statement insertInPage(Writer& writer, const PointDimension& kind, const std::vector<OdGePoint3d>& points,
-                              const CFxString& text, const std::optional<Statement>& last, const CFxString& name)
+                              const EscapedText& text, const std::optional<Statement>& last, const CFxString& name)
 {
     static const Template assigned("%1%0%3 = new Array(%4, %5, %6);%2");
     static const Template declared("%1var %0%3 = new Array(%4, %5, %6);%2");
@@ -54,7 +54,7 @@ static Statement insertInPage(Writer& writer, const PointDimension& kind, const 
 
 /// `last` is the argument behind the text, where the call takes one more.
 static Statement insertOnPoints(Writer& writer, const PointDimension& kind, const std::vector<OdGePoint3d>& points,
-                                const CFxString& text, const std::optional<Statement>& last, const CFxString& name)
+                                const EscapedText& text, const std::optional<Statement>& last, const CFxString& name)
 {
     if (writer.target == Target::JavaScript)
         return insertInPage(writer, kind, points, text, last, name);
@@ -107,7 +107,7 @@ static const Phrase insertAlignedDimension{
     }};
 
 Statement EmitInsertAlignedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
-                                     const OdGePoint3d& dimensionLine, const CFxString& text, const CFxString& name)
+                                     const OdGePoint3d& dimensionLine, const EscapedText& text, const CFxString& name)
 {
     static const PointDimension kind{insertAlignedDimension, {"ExtLineOne", "ExtLineTwo", "DimLine"}};
     return insertOnPoints(writer, kind, {first, second, dimensionLine}, text, {}, name);
@@ -153,7 +153,7 @@ static const Phrase insertAngularDimension3Point{
 
 Statement EmitInsertAngularDimension3Point(Writer& writer, const OdGePoint3d& center, const OdGePoint3d& first,
                                            const OdGePoint3d& second, const OdGePoint3d& arcPoint,
-                                           const CFxString& text, const CFxString& name)
+                                           const EscapedText& text, const CFxString& name)
 {
     static const PointDimension kind{
         insertAngularDimension3Point, {"CenterPoint", "ExtLineOne", "ExtLineTwo", "DimLine"}, true};
@@ -186,7 +186,7 @@ static const Phrase insertOrdinateDimension{
     }};
 
 Statement EmitInsertOrdinateDimension(Writer& writer, const OdGePoint3d& point, const OdGePoint3d& leaderEnd,
-                                      bool usesXAxis, const CFxString& text, const CFxString& name)
+                                      bool usesXAxis, const EscapedText& text, const CFxString& name)
 {
     static const PointDimension kind{insertOrdinateDimension, {"ExtLineOne", "ExtLineTwo"}};
     const QString measure = usesXAxis ? "iwOrdinateDimensionMeasure_UseXAxis" : "iwOrdinateDimensionMeasure_UseYAxis";
@@ -228,7 +228,7 @@ static const Phrase insertRotatedDimension{
     }};
 
 Statement EmitInsertRotatedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
-                                     const OdGePoint3d& dimensionLine, double rotation, const CFxString& text,
+                                     const OdGePoint3d& dimensionLine, double rotation, const EscapedText& text,
                                      const CFxString& name)
 {
     static const PointDimension kind{insertRotatedDimension, {"ExtLineOne", "ExtLineTwo", "DimLine"}};
@@ -290,7 +290,7 @@ bool MeasuresFromVariables(const Writer& writer)
 
 /// Draws both lines in the block of the dimension.
 static Statement insertWithOwnLines(Writer& writer, const DimensionLine& first, const DimensionLine& second,
-                                    const OdGePoint3d& arcPoint, const CFxString& text, const CFxString& name)
+                                    const OdGePoint3d& arcPoint, const EscapedText& text, const CFxString& name)
 {
     Fill insertion = writer.fill(insertAngularDimension2Line);
     fillDimensionPoints(writer, insertion, {&arcPoint, 1});
@@ -298,7 +298,7 @@ static Statement insertWithOwnLines(Writer& writer, const DimensionLine& first, 
 }
 
 Statement EmitInsertAngularDimension2Line(Writer& writer, const DimensionLine& first, const DimensionLine& second,
-                                          const OdGePoint3d& arcPoint, const CFxString& text, const CFxString& name)
+                                          const OdGePoint3d& arcPoint, const EscapedText& text, const CFxString& name)
 {
     if (!MeasuresFromVariables(writer))
         return insertWithOwnLines(writer, first, second, arcPoint, text, name);

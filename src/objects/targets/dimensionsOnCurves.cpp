@@ -58,7 +58,7 @@ QString temporaryName(const CurveDimension& kind, const CFxString& name)
 } // namespace
 
 static Statement insertOnCurve(Writer& writer, const CurveDimension& kind, const MeasuredCurve& curve,
-                               const std::vector<OdGePoint3d>& points, const CFxString& text, const CFxString& name)
+                               const std::vector<OdGePoint3d>& points, const EscapedText& text, const CFxString& name)
 {
     const Target target = writer.target;
     const bool temporary = curve.variable.isEmpty() || !kind.onVariable.has(target);
@@ -145,7 +145,7 @@ static const Mend dimensionHandedOver(
     "%1    iwSketchManager->%0( %3, dimPositionPoint, L\"%13\", &%14 );%2%1    %3->put_Erased(true);%2%1}%2");
 
 Statement EmitInsertAngularDimensionArc(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& arcPoint,
-                                        const CFxString& text, const CFxString& name)
+                                        const EscapedText& text, const CFxString& name)
 {
     static const CurveDimension kind{"InsertAngularDimensionArc", Shape::Arc, "_Arc", angularOnArc,
                                      angularOnTemporaryArc};
@@ -252,7 +252,7 @@ static const Phrase partialLengthOfTemporaryArc{
 
 Statement EmitInsertArcLengthDimension(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& first,
                                        const OdGePoint3d& second, bool partial, const OdGePoint3d& arcPoint,
-                                       const CFxString& text, const CFxString& name)
+                                       const EscapedText& text, const CFxString& name)
 {
     static const CurveDimension whole{"InsertArcLengthDimension", Shape::Arc, "_ArcLen", lengthOfArc,
                                       lengthOfTemporaryArc};
@@ -323,8 +323,8 @@ static const Phrase radialOnTemporaryArc{
 
 /// One of the two, after the class of the curve.
 static Statement insertRadial(Writer& writer, const CurveDimension& onCircle, const CurveDimension& onArc,
-                              const MeasuredCurve& curve, const std::vector<OdGePoint3d>& points, const CFxString& text,
-                              const CFxString& name)
+                              const MeasuredCurve& curve, const std::vector<OdGePoint3d>& points,
+                              const EscapedText& text, const CFxString& name)
 {
     if (odrxQuery<OdDbCircle>(curve.object.get()))
         return insertOnCurve(writer, onCircle, curve, points, text, name);
@@ -334,7 +334,7 @@ static Statement insertRadial(Writer& writer, const CurveDimension& onCircle, co
 }
 
 Statement EmitInsertDiameterDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
-                                      const CFxString& text, const CFxString& name)
+                                      const EscapedText& text, const CFxString& name)
 {
     static const CurveDimension onCircle{"InsertDiameterDimensionCircle", Shape::Circle, "_Dia", radialOnCurve,
                                          radialOnTemporaryCircle,         false,         true};
@@ -344,7 +344,7 @@ Statement EmitInsertDiameterDimension(Writer& writer, const MeasuredCurve& curve
 }
 
 Statement EmitInsertRadialDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
-                                    const CFxString& text, const CFxString& name)
+                                    const EscapedText& text, const CFxString& name)
 {
     static const CurveDimension onCircle{"InsertRadialDimensionCircle", Shape::Circle, "_Rad", radialOnCurve,
                                          radialOnTemporaryCircle,       false,         true};
@@ -447,7 +447,7 @@ static const Phrase joggedOnTemporaryArc{
     }};
 
 Statement EmitInsertJoggedDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& centerOverride,
-                                    const OdGePoint3d& jog, const OdGePoint3d& position, const CFxString& text,
+                                    const OdGePoint3d& jog, const OdGePoint3d& position, const EscapedText& text,
                                     const CFxString& name)
 {
     static const CurveDimension onCircle{"InsertJoggedDimensionCircle", Shape::Circle, "_Jog", joggedOnCurve,

@@ -16,18 +16,18 @@ struct MeasuredCurve
 // On arcs. Each raises OdError_NotThatKindOfClass when it has to make a curve like an object that is no arc.
 
 Statement EmitInsertAngularDimensionArc(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& arcPoint,
-                                        const CFxString& text, const CFxString& name);
+                                        const inkmacro::EscapedText& text, const CFxString& name);
 /// A partial one measures from the first point to the second.
 Statement EmitInsertArcLengthDimension(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& first,
                                        const OdGePoint3d& second, bool partial, const OdGePoint3d& arcPoint,
-                                       const CFxString& text, const CFxString& name);
+                                       const inkmacro::EscapedText& text, const CFxString& name);
 
 // On circles and arcs; empty on anything else.
 
 Statement EmitInsertDiameterDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
-                                      const CFxString& text, const CFxString& name);
+                                      const inkmacro::EscapedText& text, const CFxString& name);
 Statement EmitInsertRadialDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& chordPoint,
-                                    const CFxString& text, const CFxString& name);
+                                    const inkmacro::EscapedText& text, const CFxString& name);
 Statement EmitInsertJoggedDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& centerOverride,
-                                    const OdGePoint3d& jog, const OdGePoint3d& position, const CFxString& text,
-                                    const CFxString& name);
+                                    const OdGePoint3d& jog, const OdGePoint3d& position,
+                                    const inkmacro::EscapedText& text, const CFxString& name);

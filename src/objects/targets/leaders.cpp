@@ -23,7 +23,8 @@ static const Phrase insertTolerance{
                "%1Coordinates%7(2) = %5%2%1Set %8 = iwSketchManager.InsertTolerance( Coordinates%7, \"%6\" )%2",
     }};
 
-Statement EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const CFxString& text, const CFxString& name)
+Statement EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const EscapedText& text,
+                              const CFxString& name)
 {
     std::uint32_t& counter = writer.UniqueCounter;
     if (writer.target == Target::Cpp)
@@ -59,7 +60,7 @@ static const Phrase insertLeader{
                "%1Set %8 = iwSketchManager.InsertLeader( Coordinates%3, %6, \"%7\" )%2",
     }};
 
-Statement EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
+Statement EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width, const EscapedText& text,
                            const CFxString& name)
 {
     return callWithArray(
@@ -87,7 +88,7 @@ static const Phrase setBlockAnnotation{"EmitSetAnnotation",
                                            .vba = "%1%3.SetBlockAnnotation \"%4\"%2",
                                        }};
 
-Statement EmitSetAnnotation(Writer& writer, const CFxString& leader, LeaderAnnotation kind, const CFxString& text)
+Statement EmitSetAnnotation(Writer& writer, const CFxString& leader, LeaderAnnotation kind, const EscapedText& text)
 {
     const Phrase& words = kind == LeaderAnnotation::Tolerance ? setToleranceAnnotation : setBlockAnnotation;
     return writer.fill(words).text(leader).text(text);

@@ -11,9 +11,10 @@ enum class LeaderAnnotation
     Block
 };
 
-Statement EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const CFxString& text,
+Statement EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const inkmacro::EscapedText& text,
                               const CFxString& name);
-Statement EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width, const CFxString& text,
-                           const CFxString& name);
+Statement EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width,
+                           const inkmacro::EscapedText& text, const CFxString& name);
 /// `text` is the tolerance's text or the block's name.
-Statement EmitSetAnnotation(Writer& writer, const CFxString& leader, LeaderAnnotation kind, const CFxString& text);
+Statement EmitSetAnnotation(Writer& writer, const CFxString& leader, LeaderAnnotation kind,
+                            const inkmacro::EscapedText& text);

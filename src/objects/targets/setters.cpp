@@ -31,7 +31,7 @@ static const Phrase setValue{"EmitSetProperty",
                                  .vba = "%1%3.%4 = %5%2",
                              }};
 
-Statement EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const CFxString& value,
+Statement EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const EscapedText& value,
                           bool quoted)
 {
     return writer.fill(quoted ? setText : setValue).text(target).text(property).text(value);

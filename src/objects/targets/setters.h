@@ -5,8 +5,8 @@
 #include "statements/Writer.h"
 #include "statements/enumerations.h"
 
-Statement EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const CFxString& value,
-                          bool quoted);
+Statement EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property,
+                          const inkmacro::EscapedText& value, bool quoted);
 Statement EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value);
 Statement EmitSetBoolProperty(Writer& writer, const CFxString& target, const CFxString& property, bool value);
 Statement EmitSetIndexedDouble(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t index,

@@ -82,7 +82,7 @@ static const Phrase loadLineStyle{
         .vba = "%1iwApp.GetActiveDocument().GetLineStyleManager().LoadLineStyle \"%3\",\"%4\", %5%2",
     }};
 
-Statement EmitLoadLineStyle(Writer& writer, const CFxString& styleName, const CFxString& path, const CFxString& name)
+Statement EmitLoadLineStyle(Writer& writer, const CFxString& styleName, const EscapedText& path, const CFxString& name)
 {
     Fill statement = writer.fill(loadLineStyle);
     if (writer.target == Target::Cpp)

@@ -5,7 +5,8 @@
 Statement EmitCreateTableStyle(Writer& writer, const CFxString& styleName, const CFxString& name);
 Statement EmitCreateDimensionStyle(Writer& writer, const CFxString& styleName, const CFxString& name);
 Statement EmitCreateRichLineStyle(Writer& writer, const CFxString& styleName, const CFxString& name);
-Statement EmitLoadLineStyle(Writer& writer, const CFxString& styleName, const CFxString& path, const CFxString& name);
+Statement EmitLoadLineStyle(Writer& writer, const CFxString& styleName, const inkmacro::EscapedText& path,
+                            const CFxString& name);
 
 /// `activate`: makes it the current one again under its new name.
 Statement EmitRenameStyle(Writer& writer, const CFxString& style, const CFxString& newName, bool activate);

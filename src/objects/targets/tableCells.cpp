@@ -15,7 +15,7 @@ static const Phrase setCellText{"EmitSetCellText",
                                 }};
 
 Statement EmitSetCellText(Writer& writer, const CFxString& table, std::int32_t row, std::int32_t column,
-                          const CFxString& text)
+                          const EscapedText& text)
 {
     return writer.fill(setCellText).number(row).number(column).text(text).text(table);
 }

@@ -5,7 +5,7 @@
 // Rows and columns are counted from 0, heights and widths are drawing units.
 
 Statement EmitSetCellText(Writer& writer, const CFxString& table, std::int32_t row, std::int32_t column,
-                          const CFxString& text);
+                          const inkmacro::EscapedText& text);
 Statement EmitInsertRow(Writer& writer, const CFxString& table, std::int32_t row, double height);
 Statement EmitDeleteRow(Writer& writer, const CFxString& table, std::int32_t row);
 /// From the last one that goes to the first.

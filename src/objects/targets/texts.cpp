@@ -67,7 +67,7 @@ static const Phrase loadShapeFile{
                "%1iwShapeManager.Load \"%3\"%2",
     }};
 
-Statement EmitLoadShapeFile(Writer& writer, const CFxString& path)
+Statement EmitLoadShapeFile(Writer& writer, const EscapedText& path)
 {
     return writer.fill(loadShapeFile).text(path);
 }

@@ -22,7 +22,7 @@ struct AttributeDefinition
 };
 
 Statement EmitCreateTextStyle(Writer& writer, const CFxString& name, const CFxString& styleName);
-Statement EmitLoadShapeFile(Writer& writer, const CFxString& path);
+Statement EmitLoadShapeFile(Writer& writer, const inkmacro::EscapedText& path);
 Statement EmitInsertAttributeDefinition(Writer& writer, const AttributeDefinition& definition, const CFxString& name);
 Statement EmitInsertSimpleNote(Writer& writer, const OdGePoint3d& position, double height, double rotation,
                                const CFxString& text, const CFxString& name);
