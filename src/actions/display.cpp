@@ -20,6 +20,8 @@ static QString tilesMode(int mode)
     static constexpr std::array suffixes{"1",       "2_Vertical", "2_Horizontal", "3_Right", "3_Left",  "3_Above",
                                          "3_Below", "3_Vertical", "3_Horizontal", "4_Equal", "4_Right", "4_Left"};
     const auto index = static_cast<std::size_t>(mode);
+    if (index >= suffixes.size())
+        NoteLoss(QString("mode %1 of view tiles").arg(mode), "there is no such mode, so the display has one tile");
     return QLatin1String("iwViewTilesMode_") + QLatin1String(suffixes[index < suffixes.size() ? index : 0]);
 }
 

@@ -54,6 +54,25 @@ constexpr DerivedTag insertedTags[] = {
     {"ColumnWidth_*", "AcDbTable"},
 };
 
+/// What the action that makes an object says in its own data.
+constexpr DerivedTag actionTags[] = {
+    {"Closed", "AcDbPolyline"},
+    {"Vertex", "AcDbPolyline"},
+    {"Global width", "AcDbPolyline"},
+    {"Start segment width *", "AcDbPolyline"},
+    {"End segment width *", "AcDbPolyline"},
+    {"Pattern name", "AcDbHatch"},
+    {"Angle", "AcDbHatch"},
+    {"Scale", "AcDbHatch"},
+    {"Spacing", "AcDbHatch"},
+    {"Type", "AcDbHatch"},
+    {"Associative", "AcDbHatch"},
+    {"Color *", "AcDbHatch"},
+    {"Centered", "AcDbHatch"},
+    {"Gradient Angle", "AcDbHatch"},
+    {"*", "AcDbViewTableRecord"},
+};
+
 /// A derived value tells something of its own when nothing that it follows from is recorded.
 struct LoneTag
 {
@@ -80,6 +99,9 @@ std::span<const LoneTag> loneTags()
         {"AcDbEllipse", "Radius ratio", {"Minor radius"}, true},
         {"AcDbLine", "Length", {"Start ", "End "}},
         {"AcDbLine", "Angle", {"Start ", "End "}},
+        {"AcDbLine", "Delta X", {"Start ", "End "}},
+        {"AcDbLine", "Delta Y", {"Start ", "End "}},
+        {"AcDbLine", "Delta Z", {"Start ", "End "}},
         {"AcDbArc", "Arc length", {"Radius", "Start Angle", "End Angle"}},
         {"AcDbArc", "Total angle", {"Start Angle", "End Angle"}},
     };
@@ -142,13 +164,19 @@ CFxString nameOfLineStyle(const OdDbObjectId& id)
     return style ? CFxString(style->getName()) : CFxString();
 }
 
-/// A general property, or one of a single class, and whether a new object has that value anyway.
-struct GeneralTag
+template<bool yes>
+bool isWord(const CFxVariant& value)
+{
+    return wordOf(value).equalNoCase(ShownWord(yes ? "Yes" : "No"));
+}
+
+/// A property, and whether a new object has that value anyway.
+struct UsualValue
 {
     const char* tag;
     bool (*isUsual)(const CFxVariant& value);
 };
-constexpr GeneralTag generalTags[] = {
+constexpr UsualValue usualValues[] = {
     {"LineColor", [](const CFxVariant& value) { return value.GetColor().isByLayer(); }},
     {"Layer",
      [](const CFxVariant& value) {
@@ -165,12 +193,16 @@ constexpr GeneralTag generalTags[] = {
                 value.GetTransparency().method == OdCmTransparency::ByLayer;
      }},
     {"Erased", [](const CFxVariant& value) { return !value.GetString().equalNoCase(ShownWord("YES")); }},
+    {"Elevation", [](const CFxVariant& value) { return value.GetDouble() == 0; }},
+    {"CCS per viewport", isWord<true>},
+    {"Display locked", isWord<false>},
+    {"On", isWord<true>},
 };
 
 bool isUsual(const QString& tag, const CFxVariant& value)
 {
     return std::ranges::any_of(
-        generalTags, [&](const GeneralTag& row) { return tag == QLatin1String(row.tag) && row.isUsual(value); });
+        usualValues, [&](const UsualValue& row) { return tag == QLatin1String(row.tag) && row.isUsual(value); });
 }
 
 } // namespace
@@ -202,16 +234,19 @@ void LoseNoteWithoutLeader(const Conversion& conversion, const RecordedObject& o
 
 void LoseRest(const Conversion& conversion, const RecordedObject& object, const PropertyList& list, bool fromAdded)
 {
-    if (list.empty())
+    if (list.empty() || (fromAdded && isInBlock(object.cls, conversion)))
         return;
-    if (fromAdded && (object.cls == OdDbHatch::desc() || IsMadeByAction(conversion, object)))
+    const bool isMade = fromAdded && IsMadeByAction(conversion, object);
+    if (fromAdded && object.cls == OdDbHatch::desc() && !isMade)
         return;
     for (const CFxPropertyChangedPtr& record : list) {
         const QString& tag = record->GetName();
         const bool isThere =
-            fromAdded && (holds(insertedTags, object.cls, tag) || isUsual(tag, record->GetValue(conversion.context)));
+            fromAdded && (holds(insertedTags, object.cls, tag) || isUsual(tag, record->GetValue(conversion.context)) ||
+                          (isMade && holds(actionTags, object.cls, tag)));
         if (!isThere && !holds(derivedTags, object.cls, tag))
-            LoseProperty(object, tag, "no statement sets it");
+            LoseProperty(object, tag,
+                         isMade ? "the action that makes the object does not set it" : "no statement sets it");
     }
 }
 
@@ -249,7 +284,7 @@ bool IsMadeByAction(const Conversion& conversion, const RecordedObject& object)
     return !onlyLast || object.handle == conversion.lastFinished || conversion.finished.contains(object.handle);
 }
 
-void LoseUnmade(Conversion& conversion, const RecordedObject& object, PropertyList& rest, bool written)
+void LoseUnmade(const Conversion& conversion, const RecordedObject& object, const PropertyList& rest, bool written)
 {
     const MadeByAction* const row = madeByAction(object.cls);
     if (!row)
@@ -258,9 +293,6 @@ void LoseUnmade(Conversion& conversion, const RecordedObject& object, PropertyLi
         LoseObject(object, "no action of its command makes it");
         return;
     }
-    if (written || !object.cls->isDerivedFrom(OdDbEntity::desc()))
-        return;
-    for (const auto& [tag, isUsual] : generalTags)
-        if (const CFxVariant value = FindProperty(conversion, tag, rest); !value.IsNull() && !isUsual(value))
-            LoseProperty(object, tag, "the action that makes the object does not set it");
+    if (!written && object.cls->isDerivedFrom(OdDbEntity::desc()))
+        LoseRest(conversion, object, rest, true);
 }

@@ -15,12 +15,12 @@ void LoseProperty(const RecordedObject& object, const QString& tag, const QStrin
 void LoseArcs(const Conversion& conversion, const RecordedObject& object, const OdDbPolyline& polyline);
 /// An added note that its leader should bring, when the macro does not have the leader.
 void LoseNoteWithoutLeader(const Conversion& conversion, const RecordedObject& object);
-/// The properties that nothing has taken out of the list. What is left of an added object is no loss when an action
-/// makes the object, nor when the object is lost itself, as a hatch without its action is.
+/// The properties that nothing has taken out of the list. What is left of an added object is no loss when the data of
+/// the action that makes it hold it too, nor when the object is lost itself, as a hatch without its action is.
 void LoseRest(const Conversion& conversion, const RecordedObject& object, const PropertyList& list, bool fromAdded);
-/// An added object that is made by a custom action, when there is none, and else the general properties of one that no
+/// An added object that is made by a custom action, when there is none, and else the properties of one that no
 /// statement was written for.
-void LoseUnmade(Conversion& conversion, const RecordedObject& object, PropertyList& rest, bool written);
+void LoseUnmade(const Conversion& conversion, const RecordedObject& object, const PropertyList& rest, bool written);
 
 /// Derived properties of a list from which nothing has been taken yet, where it does not hold what they follow from.
 void LoseLoneTags(const Conversion& conversion, const RecordedObject& object, const PropertyList& list, bool fromAdded);

@@ -1,5 +1,6 @@
 #include "statements/enumerations.h"
 
+#include "statements/losses.h"
 #include "statements/wording.h"
 
 #include <QCoreApplication>
@@ -126,6 +127,7 @@ constexpr const char* kValues = "property_values";
 
 const TextEnumeration blockInsertUnits{"iwBlockInsertUnits",
                                        "Unitless",
+                                       "Unitless",
                                        "CFxUtils",
                                        {{"Inches", "Inches"},
                                         {"Feet", "Feet"},
@@ -149,25 +151,32 @@ const TextEnumeration blockInsertUnits{"iwBlockInsertUnits",
                                         {"Parsecs", "Parsecs"}}};
 
 const TextEnumeration embeddedObjectPrintQuality{"iwEmbeddedObjectPrintQuality",
+                                                 "Low graphics",
                                                  "LowGraphics",
                                                  kValues,
                                                  {{"Monochrome", "Monochrome"}, {"High graphics", "HighGraphics"}}};
 
-const TextEnumeration noteJustification{"iwNoteJustification", "TopLeft", kValues, {INKMACRO_TWO_WAY_ALIGNMENTS}};
+const TextEnumeration noteJustification{
+    "iwNoteJustification", "Top Left", "TopLeft", kValues, {INKMACRO_TWO_WAY_ALIGNMENTS}};
 
 // The enumerators' own spelling.
 const TextEnumeration polyLine3DFitSmooth{
-    "iwPolyLine3DFitSmooth", "None", kValues, {{"Quadratic", "Qudratic"}, {"Cubic", "Cubic"}}};
+    "iwPolyLine3DFitSmooth", "None", "None", kValues, {{"Quadratic", "Qudratic"}, {"Cubic", "Cubic"}}};
 
-const TextEnumeration polygonMeshFitSmooth{
-    "iwPolygonMeshFitSmooth", "None", kValues, {{"Quadratic", "Qudratic"}, {"Cubic", "Cubic"}, {"Bezier", "Bezier"}}};
+const TextEnumeration polygonMeshFitSmooth{"iwPolygonMeshFitSmooth",
+                                           "None",
+                                           "None",
+                                           kValues,
+                                           {{"Quadratic", "Qudratic"}, {"Cubic", "Cubic"}, {"Bezier", "Bezier"}}};
 
 const TextEnumeration richLineJustification{
-    "iwRichLineJustification", "Top", kValues, {{"Zero", "Zero"}, {"Bottom", "Bottom"}}};
+    "iwRichLineJustification", "Top", "Top", kValues, {{"Zero", "Zero"}, {"Bottom", "Bottom"}}};
 
-const TextEnumeration tableCellAlignment{"iwTableCellAlignment", "TopLeft", kValues, {INKMACRO_TWO_WAY_ALIGNMENTS}};
+const TextEnumeration tableCellAlignment{
+    "iwTableCellAlignment", "Top Left", "TopLeft", kValues, {INKMACRO_TWO_WAY_ALIGNMENTS}};
 
 const TextEnumeration textJustification{"iwTextJustification",
+                                        "Left",
                                         "Left",
                                         kValues,
                                         {{"Center", "Center"},
@@ -179,11 +188,13 @@ const TextEnumeration textJustification{"iwTextJustification",
 
 const TextEnumeration viewportShadePrintStyle{
     "iwViewportShadePrintStyle",
+    "As displayed",
     "AsDisplayed",
     kValues,
     {{"Wireframe", "Wireframe"}, {"Hidden", "Hidden"}, {"Rendered", "Rendered"}}};
 
 const TextEnumeration viewportStandardScale{"iwViewportStandardScale",
+                                            "Scale to fit",
                                             "ScaleToFit",
                                             kValues,
                                             {{"Custom scale", "CustomScale"},
@@ -228,6 +239,11 @@ static QString withSuffix(Target target, const char* enumeration, const char* su
     return enumeratorText(target, QString(enumeration) + "_e", QString(enumeration) + '_' + suffix);
 }
 
+static void loseChoice(const char* enumeration, const QString& choice)
+{
+    NoteLoss(QString("\"%1\" of %2").arg(choice, enumeration), "there is no such choice, so the default stands");
+}
+
 /// The place of the value in the row, negative for one that cannot be there.
 static std::int64_t positionOf(const ValueEnumeration& enumeration, std::int32_t value)
 {
@@ -241,6 +257,8 @@ QString EnumeratorByValue(Target target, const ValueEnumeration& enumeration, st
 {
     const std::int64_t position = positionOf(enumeration, value);
     const bool inside = position >= 0 && position < static_cast<std::int64_t>(enumeration.suffixes.size());
+    if (!inside)
+        loseChoice(enumeration.name, QString::number(value));
     return withSuffix(target, enumeration.name, enumeration.suffixes.begin()[inside ? position : 0]);
 }
 
@@ -251,12 +269,15 @@ QString EnumeratorBySuffix(Target target, const ValueEnumeration& enumeration, c
 
 QString EnumeratorByText(Target target, const TextEnumeration& enumeration, const QString& text)
 {
-    const auto shown = [&](const TextEnumeration::Row& row) {
-        return QCoreApplication::translate(enumeration.translationContext, row.text, nullptr, -1);
+    const auto isShownAs = [&](const char* shown) {
+        return text.compare(QCoreApplication::translate(enumeration.translationContext, shown, nullptr, -1),
+                            Qt::CaseInsensitive) == 0;
     };
     for (const TextEnumeration::Row& row : enumeration.rows)
-        if (text.compare(shown(row), Qt::CaseInsensitive) == 0)
+        if (isShownAs(row.text))
             return withSuffix(target, enumeration.name, row.suffix);
+    if (!text.isEmpty() && !isShownAs(enumeration.defaultText))
+        loseChoice(enumeration.name, text);
     return withSuffix(target, enumeration.name, enumeration.defaultSuffix);
 }
 
@@ -288,12 +309,18 @@ QString LineWeightEnumerator(Target target, int weight)
 {
     static std::map<Target, LineWeightTexts> targets;
     const LineWeightTexts& texts = targets.try_emplace(target, target).first->second;
-    return texts.byWeight.value(weight, texts.other);
+    constexpr int byDefault = -3;
+    const auto known = texts.byWeight.constFind(weight);
+    if (known == texts.byWeight.constEnd() && weight != byDefault)
+        loseChoice("iwLineWeight", QString::number(weight));
+    return known == texts.byWeight.constEnd() ? texts.other : *known;
 }
 
 QString DecimalSeparatorEnumerator(Target target, const QString& separator)
 {
     const char* const suffix = separator == "," ? "Comma" : separator == " " ? "Space" : "Period";
+    if (*suffix == 'P' && !separator.isEmpty() && separator != ".")
+        loseChoice("iwLinearDimensionDecimalSeparator", separator);
     return enumeratorText(target, "iwLinearDimensionDecimalSeparator_e",
                           QString("iwLinearDimensionDecimalSeparator_") + suffix);
 }

@@ -30,6 +30,7 @@ struct TextEnumeration
     };
 
     const char* name;
+    const char* defaultText;
     const char* defaultSuffix;
     const char* translationContext;
     std::initializer_list<Row> rows;
@@ -76,6 +77,8 @@ extern const TextEnumeration viewportShadePrintStyle;
 extern const TextEnumeration viewportStandardScale;
 
 } // namespace enums
+
+// What is no choice of its enumeration is noted as lost, since the default stands in its place.
 
 /// A value outside the enumeration gives its default.
 QString EnumeratorByValue(Target target, const ValueEnumeration& enumeration, std::int32_t value);
