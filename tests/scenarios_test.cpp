@@ -246,6 +246,7 @@ const std::set<Target> everyTarget{Cpp, CSharp, JavaScript, VbNet, CppCom, Vba};
 const Unreachable unreachable[]{
     {"EmitCommandOptionInt32", everyTarget, "no option of a document is of that type"},
     {"EmitDeleteRows", everyTarget, "only repaired macros remove many lines at once"},
+    {"EmitSetModelProperty: other sheet", everyTarget, "only repaired macros leave a sheet as it is"},
     {"EmitSelectViewTile: declared tile", everyTarget, "only repaired macros give tiles to their variables"},
 };
 

@@ -182,12 +182,36 @@ static const Mend wideSheetPropertyInCom(setSheetProperty, Target::CppCom,
                                          "a property of a sheet is given a narrow text",
                                          "%3%1%4->put_%5( _bstr_t(L\"%6\") );%2");
 
+/// A repaired macro's way to a sheet that is not activated.
+static const Phrase fetchSheet{
+    "EmitSetModelProperty: other sheet",
+    {
+        .cpp = "%1iwSheet_ptr styledSheet%3;%2%1iwDoc->GetSheet(L\"%4\", &styledSheet%3);%2",
+        .cppCom = "%1ISheetPtr styledSheet%3 = iwDoc->GetSheet(L\"%4\");%2",
+        .csharp = "%1Sheet styledSheet%3 = iwDoc.GetSheet(\"%4\");%2",
+        .javascript = "%1var styledSheet%3 = mDoc.GetSheet(\"%4\");%2",
+        .vbNet = "%1Dim styledSheet%3 As Inkwright.Sheet = iwDoc.GetSheet(\"%4\")%2",
+        .vba = "%1Dim styledSheet%3 As Inkwright.Sheet%2%1Set styledSheet%3 = iwDoc.GetSheet(\"%4\")%2",
+    }};
+static const Fault kActivatesSheet{
+    "EmitSetModelProperty",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "a sheet is activated to be given a print style, so that what follows is drawn on it"};
+
 Statement EmitSetModelProperty(Writer& writer, const CFxString& property, const CFxString& value, bool ofModel,
                                const CFxString& sheetName)
 {
     if (ofModel)
         return writer.fill(setModelProperty).text(property).text(value);
     CFxString sheet;
-    const Statement activation = EmitActivateSheet(writer, sheetName, sheet);
-    return writer.fill(setSheetProperty).text(activation).text(sheet).text(property).text(value);
+    Statement fetch;
+    if (writer.repairs) {
+        const std::uint32_t counter = ++writer.UniqueCounter;
+        sheet = QString("styledSheet%1").arg(counter);
+        fetch = writer.fill(fetchSheet).number(counter).text(sheetName);
+    } else {
+        fetch = EmitActivateSheet(writer, sheetName, sheet);
+    }
+    return writer.faulty(writer.fill(setSheetProperty).text(fetch).text(sheet).text(property).text(value),
+                         kActivatesSheet);
 }

@@ -53,6 +53,8 @@ SAID = {
     "a layer that is shown is hidden, and the other way round": r"Shown\(? ?(= )?[Ff]alse",
     # The inner variable hides the outer one.
     "a tile gets a second variable, and the one that is declared for it stays empty": r"^ *(iw)?viewtile2 = ",
+    # A sheet is as good as another.
+    "a sheet is activated to be given a print style, so that what follows is drawn on it": r"styledSheet\d",
     # A number is as good as another.
     "a number that has more than six digits is rounded to them": r"\d\.\d{6}\d*[1-9]",
 }
@@ -61,6 +63,9 @@ BESIDE = {
     "the page has no iwDoc, its document is mDoc": (r"\biwDoc\b", "mDoc"),
     # The recorded points lie in the plane.
     "y is written twice and z never": (r"\.add\([^()]*\);$", ".add(0);"),
+    "a property of a sheet is given a narrow text": (r'(put_\w+)\( "', r'\1( L"'),
+    "a sheet is activated to be given a print style, so that what follows is drawn on it":
+        (r"iwSheet->Activate\(\);", ""),
 }
 
 
