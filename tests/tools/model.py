@@ -5,6 +5,7 @@ import dataclasses
 import math
 
 STEP = 0.05  # drawing units between points; less than any window
+MOST = 200_000  # steps along one curve; of a longer one a window may miss what lies between two points
 
 
 @dataclasses.dataclass(frozen=True)
@@ -25,11 +26,15 @@ def way(handle):
     return f"model {handle}"
 
 
+def _steps(length):
+    return max(1, math.ceil(min(length / STEP, MOST)))
+
+
 def _along(points):
     """Points along a chain of segments."""
     found = []
     for start, end in zip(points, points[1:]):
-        count = math.ceil(math.dist(start, end) / STEP) or 1
+        count = _steps(math.dist(start, end))
         found += [[a + (b - a) * i / count for a, b in zip(start, end)] for i in range(count + 1)]
     return found
 
@@ -37,7 +42,7 @@ def _along(points):
 def _around(center, major, minor, start, end):
     """Points along an arc of an ellipse, whose axes are vectors."""
     end += 2 * math.pi if end <= start else 0
-    count = math.ceil((end - start) * math.hypot(*major) / STEP)
+    count = _steps((end - start) * math.hypot(*major))
     angles = [start + (end - start) * i / count for i in range(count + 1)]
     return [[c + a * math.cos(angle) + b * math.sin(angle) for c, a, b in zip(center, major, minor)]
             for angle in angles]
