@@ -252,13 +252,20 @@ void LoseRest(const Conversion& conversion, const RecordedObject& object, const 
 
 void LoseLoneTags(const Conversion& conversion, const RecordedObject& object, const PropertyList& list, bool fromAdded)
 {
-    for (const LoneTag& row : loneTags()) {
-        if ((row.settable && !fromAdded) || object.cls != row.cls)
-            continue;
-        for (const CFxPropertyChangedPtr& record : list)
-            if (record->GetName().toQString() == row.tag && !isRecorded(row, list) &&
-                !(fromAdded && row.made != 0 && record->GetValue(conversion.context).GetDouble() == row.made))
-                LoseProperty(object, row.tag, "what it follows from is not recorded");
+    const auto concerns = [&](const LoneTag& row) { return object.cls == row.cls && (fromAdded || !row.settable); };
+    const std::span<const LoneTag> rows = loneTags();
+    const auto first = std::ranges::find_if(rows, concerns);
+    if (first == rows.end())
+        return;
+    for (const CFxPropertyChangedPtr& record : list) {
+        const QString& tag = record->GetName();
+        const auto row = std::find_if(first, rows.end(), [&](const LoneTag& known) {
+            // Few tags of an everyday object begin like one that is looked for.
+            return tag.size() == known.tag.size() && tag[0] == known.tag[0] && tag == known.tag && concerns(known);
+        });
+        if (row != rows.end() && !isRecorded(*row, list) &&
+            !(fromAdded && row->made != 0 && record->GetValue(conversion.context).GetDouble() == row->made))
+            LoseProperty(object, row->tag, "what it follows from is not recorded");
     }
 }
 

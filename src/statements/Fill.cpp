@@ -5,263 +5,25 @@
 #include "statements/LineEnd.h"
 #include "statements/quoting.h"
 #include "statements/wording.h"
+#include "statements/writtenValues.h"
 
 #include <algorithm>
-#include <array>
-#include <bit>
-#include <cmath>
-#include <cstdint>
-#include <cstring>
+#include <numeric>
 #include <type_traits>
 
 namespace inkmacro {
 
 namespace {
 
-__extension__ using Wide = unsigned __int128;
-
 bool hasMarker(QStringView text)
 {
     return nextMarker(text, 0).end != -1;
-}
-
-QString filledByQt(const QString& text, Fill::Blanks value)
-{
-    return text.arg(QChar(u' '), value.count, QChar(u' '));
-}
-
-QString filledByQt(const QString& text, Fill::Long value)
-{
-    return text.arg(value.value, 0, 'f', 14, QChar(u' '));
-}
-
-QString filledByQt(const QString& text, Fill::Short value)
-{
-    return text.arg(value.value, 0, 'g', -1, QChar(u' '));
-}
-
-template<class T>
-QString filledByQt(const QString& text, T value)
-{
-    return text.arg(value);
-}
-
-template<class T>
-QString madeByQt(T value)
-{
-    return filledByQt(QStringLiteral("%1"), value);
 }
 
 /// 256 MiB of plain text. QString::arg reckons in int, and a bit further up it writes behind the end of its text.
 constexpr qsizetype longestText = 256 * 1024 * 1024;
 /// Markers that values hold for each other multiply: some thousand letters would fill any memory.
 constexpr qsizetype longestGrowth = 16 * 1024 * 1024;
-
-constexpr auto powersOfTen = [] {
-    std::array<std::uint64_t, 20> powers{1};
-    for (std::size_t i = 1; i < powers.size(); ++i) {
-        powers[i] = 10 * powers[i - 1];
-    }
-    return powers;
-}();
-
-using DigitPair = std::array<char16_t, 2>;
-
-/// "00" to "99". Digit by digit, filling takes 13 % more instructions (20,000 added lines to C#).
-constexpr auto digitPairs = [] {
-    std::array<DigitPair, 100> pairs{};
-    for (std::size_t i = 0; i < pairs.size(); ++i) {
-        pairs[i] = {static_cast<char16_t>(u'0' + i / 10), static_cast<char16_t>(u'0' + i % 10)};
-    }
-    return pairs;
-}();
-
-/// `value` times `factor`, computed exactly and then rounded, halves up. `value` is at least 0 and below 2^20, `factor`
-/// is at most 10^14: so the mantissa's product stays below 2^100.
-std::uint64_t scaled(double value, std::uint64_t factor)
-{
-    constexpr int storedBits = 52;
-    constexpr auto leadingBit = std::uint64_t{1} << storedBits;
-    const auto bits = std::bit_cast<std::uint64_t>(value);
-    const int shift = 1075 - static_cast<int>(bits >> storedBits); // value == mantissa / 2^shift
-    if (shift > 101) {
-        return 0; // as are all numbers without the leading bit
-    }
-    const std::uint64_t mantissa = (bits & (leadingBit - 1)) | leadingBit;
-    const Wide half = Wide{1} << (shift - 1);
-    return static_cast<std::uint64_t>((Wide{mantissa} * factor + half) >> shift);
-}
-
-constexpr int longDecimals = 14;
-
-bool isOrdinary(Fill::Long value)
-{
-    return std::fabs(value.value) < 1e15;
-}
-
-// The ranges with 0, 1, 2... decimals in the short form begin here.
-constexpr std::array<double, 10> shortRanges{1e5, 1e4, 1e3, 1e2, 1e1, 1e0, 1e-1, 1e-2, 1e-3, 1e-4};
-
-bool isOrdinary(Fill::Short value)
-{
-    const double size = std::fabs(value.value);
-    return size >= shortRanges.back() && size < 999999.5; // which is the first to be rounded up to 1e+06
-}
-
-// Most characters that the written value can have.
-
-qsizetype room(Fill::Blanks value)
-{
-    return value.count;
-}
-
-qsizetype room(QStringView value)
-{
-    return value.size();
-}
-
-qsizetype room(QLatin1String value)
-{
-    return value.size();
-}
-
-qsizetype room(qlonglong)
-{
-    return 20;
-}
-
-qsizetype room(qulonglong)
-{
-    return 20;
-}
-
-qsizetype room(Fill::Long value)
-{
-    return 1 + (isOrdinary(value) ? 16 : 309) + 1 + longDecimals;
-}
-
-qsizetype room(Fill::Short)
-{
-    return sizeof "-1.23457e-308";
-}
-
-// Writers put a value at `out` and return its end.
-
-QChar* write(QChar* out, Fill::Blanks value)
-{
-    return std::fill_n(out, value.count, QChar(u' '));
-}
-
-QChar* copyText(QChar* out, const QChar* from, qsizetype length)
-{
-    return std::copy_n(from, length, out);
-}
-
-QChar* write(QChar* out, QStringView value)
-{
-    return copyText(out, value.data(), value.size());
-}
-
-QChar* write(QChar* out, QLatin1String value)
-{
-    return std::transform(value.begin(), value.end(), out, [](char c) { return QLatin1Char(c); });
-}
-
-/// Writes the last `width` digits, with leading zeros.
-template<class T>
-inline QChar* writeDigits(QChar* out, T value, int width)
-{
-    QChar* const end = out + width;
-    QChar* at = end;
-    for (; width >= 2; width -= 2) {
-        at -= 2;
-        std::memcpy(static_cast<void*>(at), digitPairs[value % 100].data(), sizeof(DigitPair));
-        value /= 100;
-    }
-    if (width == 1) {
-        *--at = static_cast<char16_t>(u'0' + value % 10);
-    }
-    return end;
-}
-
-/// Writes 14 digits. Halves of them are reckoned with in 32 bits, which is faster.
-QChar* writeLongDecimals(QChar* out, std::uint64_t value)
-{
-    static_assert(longDecimals == 14);
-    constexpr std::uint64_t half = powersOfTen[8];
-    out = writeDigits(out, static_cast<std::uint32_t>(value / half), 6);
-    return writeDigits(out, static_cast<std::uint32_t>(value % half), 8);
-}
-
-QChar* write(QChar* out, qulonglong value)
-{
-    std::size_t width = 1;
-    while (width < powersOfTen.size() && value >= powersOfTen[width]) {
-        ++width;
-    }
-    return writeDigits(out, value, static_cast<int>(width));
-}
-
-QChar* write(QChar* out, qlonglong value)
-{
-    auto size = static_cast<qulonglong>(value);
-    if (value < 0) {
-        *out++ = u'-';
-        size = 0 - size; // right for the lowest number too, which has no positive twin
-    }
-    return write(out, size);
-}
-
-QChar* write(QChar* out, Fill::Long value)
-{
-    if (!isOrdinary(value)) {
-        return write(out, QStringView(madeByQt(value)));
-    }
-    // A number that is rounded to zero keeps its sign. The negative zero has none, and is not below zero.
-    if (value.value < 0) {
-        *out++ = u'-';
-    }
-    constexpr std::uint64_t one = powersOfTen[longDecimals];
-    const double size = std::fabs(value.value);
-    auto whole = static_cast<qulonglong>(size);
-    std::uint64_t fraction = scaled(size - static_cast<double>(whole), one);
-    if (fraction == one) {
-        fraction = 0;
-        ++whole;
-    }
-    out = write(out, whole);
-    *out++ = u'.';
-    return writeLongDecimals(out, fraction);
-}
-
-QChar* write(QChar* out, Fill::Short value)
-{
-    if (value.value == 0) {
-        *out++ = u'0'; // the negative zero has no sign here either
-        return out;
-    }
-    if (!isOrdinary(value)) {
-        return write(out, QStringView(madeByQt(value)));
-    }
-    if (value.value < 0) {
-        *out++ = u'-';
-    }
-    const double size = std::fabs(value.value);
-    std::size_t decimals = 0;
-    while (size < shortRanges[decimals]) {
-        ++decimals;
-    }
-    std::uint64_t digits = scaled(size, powersOfTen[decimals]);
-    for (; decimals > 0 && digits % 10 == 0; --decimals) {
-        digits /= 10;
-    }
-    out = write(out, qulonglong{digits / powersOfTen[decimals]});
-    if (decimals > 0) {
-        *out++ = u'.';
-        out = writeDigits(out, digits, static_cast<int>(decimals));
-    }
-    return out;
-}
 
 /// How many characters the value has at a marker of that form.
 template<class T>
@@ -321,16 +83,6 @@ void requireLength(const QString& text, T value, qsizetype most)
         refuseLength();
     }
     throw OdError(eTextTooLong, "markers in the texts of a statement would make it more than 16 MiB longer");
-}
-
-/// A text of at most `most` characters, made by a writer.
-template<class Writer>
-QString written(qsizetype most, Writer writer)
-{
-    QString text(static_cast<int>(most), Qt::Uninitialized);
-    QChar* const begin = text.data();
-    text.truncate(static_cast<int>(writer(begin) - begin));
-    return text;
 }
 
 // Whether a value, put behind an open end, leaves no marker there that was none before.
@@ -529,24 +281,48 @@ void Fill::noteFaults(Statement& outcome, int used) const
     if (percent_ && hasReadMarker(used)) {
         outcome.addFault(kReadMarker);
     }
-    if (template_->quotes_ && hasBrokenQuotes(used)) {
-        outcome.addFault(brokenQuotes);
+    if (template_->quotes_) {
+        noteBrokenQuotes(outcome, used);
     }
 }
 
 /// The line end that a literal's own fault puts between quotes is no text of the user's.
-bool Fill::hasBrokenQuotes(int used) const
+bool Fill::breaksItsQuotes(const Template::Piece& piece, int used) const
 {
-    return std::any_of(template_->pieces_.begin(), template_->pieces_.end(), [&](const Template::Piece& piece) {
-        const auto* const text =
-            piece.quoted && piece.rank < used ? std::get_if<QStringView>(&values_[piece.rank]) : nullptr;
-        if (!text || text->data() == LineEnd.constData() || isPlain(*text)) {
-            return false;
-        }
-        const auto escaped =
-            std::find_if(meant_.begin(), meant_.end(), [&](const Meant& meant) { return meant.rank == piece.rank; });
-        return breaksQuotes(*text, escaped == meant_.end() ? *text : QStringView(escaped->text), *mode_.target);
-    });
+    const auto* const text =
+        piece.quoted && piece.rank < used ? std::get_if<QStringView>(&values_[piece.rank]) : nullptr;
+    if (!text || text->data() == LineEnd.constData() || isPlain(*text)) {
+        return false;
+    }
+    const auto escaped =
+        std::find_if(meant_.begin(), meant_.end(), [&](const Meant& meant) { return meant.rank == piece.rank; });
+    return breaksQuotes(*text, escaped == meant_.end() ? *text : QStringView(escaped->text), *mode_.target);
+}
+
+/// A statement may have many lines, and the head of a macro has: the fault is of the one where the text stands. Where
+/// values hold markers places are not known.
+void Fill::noteBrokenQuotes(Statement& outcome, int used) const
+{
+    const std::vector<Template::Piece>& pieces = template_->pieces_;
+    const auto broken = std::find_if(pieces.begin(), pieces.end(),
+                                     [&](const Template::Piece& piece) { return breaksItsQuotes(piece, used); });
+    if (broken == pieces.end()) {
+        return;
+    }
+    if (!fitsOnePass()) {
+        outcome.addFault(brokenQuotes);
+        return;
+    }
+    const auto length = [&](const Template::Piece& piece) {
+        const auto writtenLength = [](const auto& value) {
+            return written(room(value), [&](QChar* out) { return write(out, value); }).size();
+        };
+        const bool isFilled = piece.rank != Template::noMarker && piece.rank < used;
+        return isFilled ? std::visit(writtenLength, values_[piece.rank]) : piece.length;
+    };
+    outcome.addFault(brokenQuotes,
+                     std::accumulate(pieces.begin(), broken, 0,
+                                     [&](int sum, const Template::Piece& piece) { return sum + length(piece); }));
 }
 
 /// Whether each text that comes to stand between quotes is plain.

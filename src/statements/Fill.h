@@ -142,7 +142,9 @@ private:
     void addNotes(Statement::Notes& notes, int rank, qsizetype place) const;
     void moveNotes(Statement::Notes& notes, int rank, const QString& text, qsizetype plain, qsizetype local) const;
     void noteFaults(Statement& outcome, int used) const;
-    bool hasBrokenQuotes(int used) const;
+    /// Whether the text that comes to stand in that piece breaks the quotes around it.
+    bool breaksItsQuotes(const Template::Piece& piece, int used) const;
+    void noteBrokenQuotes(Statement& outcome, int used) const;
     bool needsNoEscapes(int used) const;
     bool hasReadMarker(int used) const;
     bool fitsOnePass() const;

@@ -82,11 +82,15 @@ Statement operator+(Statement one, const QString& text)
     return one;
 }
 
-/// A fault that is noted later is of a longer statement, so it stands in front.
 void Statement::addFault(const inkmacro::Fault& fault)
 {
     const auto begin = std::find_if(text_.cbegin(), text_.cend(), [](QChar character) { return !character.isSpace(); });
-    const auto offset = static_cast<int>(begin - text_.cbegin());
+    addFault(fault, static_cast<int>(begin - text_.cbegin()));
+}
+
+/// A fault that is noted later is of a longer statement, so it stands in front.
+void Statement::addFault(const inkmacro::Fault& fault, int offset)
+{
     if (!notes_)
         notes_ = std::make_unique<Notes>();
     const auto place = std::ranges::find_if(*notes_, [&](const StatementNote& note) { return note.offset >= offset; });

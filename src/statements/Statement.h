@@ -65,6 +65,8 @@ public:
 
     /// Notes the fault for where the text begins, behind blanks and line ends.
     void addFault(const inkmacro::Fault& fault);
+    /// Notes it for that place of the text.
+    void addFault(const inkmacro::Fault& fault, int offset);
 
     friend bool operator==(const Statement& one, const Statement& other) { return one.text_ == other.text_; }
     friend bool operator==(const Statement& one, const QString& text) { return one.text_ == text; }
