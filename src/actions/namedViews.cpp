@@ -125,6 +125,8 @@ std::int32_t ConvertActionViewBackground(Conversion& conversion, const CFxCustom
     } else {
         if (view.isEmpty() && !onSheet)
             text += conversion.names().EmitObjectVariable(handle, cls, view);
+        if (view.isEmpty() && !onSheet && conversion.writer.repairs)
+            return PassOver(action, "the macro does not have the view");
         if (isNew)
             text += createInItsSpace(conversion.writer, name, onSheet, sheetName, view);
     }

@@ -28,6 +28,10 @@ static Statement NoteOfLeader(Conversion& conversion, const OdDbHandle& note, co
     CFxString leaderName;
     conversion.names().EmitObjectVariable(note, noteClass, name);
     Statement text = conversion.names().EmitObjectVariable(leader.getHandle(), object->isA(), leaderName);
+    if (conversion.writer.repairs && (name.isEmpty() || leaderName.isEmpty())) {
+        name = CFxString();
+        return {};
+    }
     return text += EmitGetNoteAnnotation(conversion.writer, name, leaderName);
 }
 
@@ -48,7 +52,7 @@ std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& a
         CFxString name;
         text += leader.isNull() ? conversion.names().EmitObjectVariable(objects[i], cls, name)
                                 : NoteOfLeader(conversion, objects[i], cls, leader, name);
-        if (!name.isEmpty())
+        if (!name.isEmpty() || conversion.writer.repairs)
             names[i] = name;
     }
     text += EmitEraseEntities(conversion.writer, names);
@@ -118,7 +122,8 @@ std::int32_t ConvertActionExplode(Conversion& conversion, const CFxCustomAction&
         }
         CFxString name;
         text += conversion.names().EmitObjectVariable(objects[i], cls, name);
-        text += EmitExplode(conversion.writer, name);
+        if (!name.isEmpty() || !conversion.Drops(inkmacro::emptyPlace))
+            text += EmitExplode(conversion.writer, name);
     }
     return kFxSuccess;
 }

@@ -3,7 +3,9 @@
 #include "targets/prompts.h"
 #include "actions/entries.h"
 #include "actions/handlers.h"
+#include "actions/recordedForms.h"
 #include "host/rx/OdError.h"
+#include "statements/losses.h"
 #include "statements/wording.h"
 
 #include <array>
@@ -81,21 +83,32 @@ struct Replay
     const PromptKind& kind;
     CFxString prompt;
 
-    bool accepted() const { return kind.accepts(result.restype()); }
+    /// Notes an answer that the statement does not give as it was.
+    template<class T>
+    bool accepted() const
+    {
+        const bool accepted = kind.accepts(result.restype());
+        if (!accepted || !inkmacro::HoldsForm<T>(result))
+            NoteLoss(ActionTitle(&interaction), "its answer is of another form than the prompt's");
+        return accepted;
+    }
 
     Statement operator()(EmitPoint ask) const
     {
-        return ask(writer, prompt, accepted() ? result.getPoint3d() : OdGePoint3d());
+        return ask(writer, prompt, accepted<OdGePoint3d>() ? result.getPoint3d() : OdGePoint3d());
     }
     Statement operator()(EmitReal ask) const
     {
-        return ask(writer, prompt, accepted() ? result.getDouble() : kind.neutral);
+        return ask(writer, prompt, accepted<double>() ? result.getDouble() : kind.neutral);
     }
     Statement operator()(EmitInteger ask) const
     {
-        return ask(writer, prompt, accepted() ? result.getInt32() : kind.neutral);
+        return ask(writer, prompt, accepted<std::int32_t>() ? result.getInt32() : kind.neutral);
     }
-    Statement operator()(EmitText ask) const { return ask(writer, prompt, result.getString()); }
+    Statement operator()(EmitText ask) const
+    {
+        return ask(writer, prompt, accepted<OdString>() ? CFxString(result.getString()) : CFxString());
+    }
     /// The keyword that was taken is not repeated: the first of the list is what the generated prompt offers.
     Statement operator()(EmitKeyword ask) const
     {

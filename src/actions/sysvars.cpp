@@ -2,6 +2,7 @@
 
 #include "actions/entries.h"
 #include "actions/optionTable.h"
+#include "actions/recordedForms.h"
 #include "statements/losses.h"
 #include "statements/wording.h"
 #include "targets/options.h"
@@ -30,10 +31,39 @@ std::int32_t find(OptionOwner owner, const CFxString& variable, CFxString& enume
     return kFxSuccess;
 }
 
-/// The current color is recorded as a text; a color by name counts as 0.
+/// The current color is recorded as a text.
+bool isColor(const CFxString& variable)
+{
+    return variable.equalNoCase("CECOLOR");
+}
+
+/// A color by name counts as 0.
 std::int32_t int16Value(const CFxString& variable, const OdResBuf& value)
 {
-    return variable.equalNoCase("CECOLOR") ? value.getString().toInt() : value.getInt16();
+    return isColor(variable) ? value.getString().toInt() : value.getInt16();
+}
+
+bool holdsKind(const CFxString& variable, OptionKind kind, const OdResBuf& value)
+{
+    switch (kind) {
+    case OptionKind::Bool:
+        return HoldsForm<bool>(value);
+    case OptionKind::Double:
+        return HoldsForm<double>(value);
+    case OptionKind::Int8:
+        return HoldsForm<std::int8_t>(value);
+    case OptionKind::Int16:
+        return isColor(variable) ? isNumber(value.getString()) : HoldsForm<std::int16_t>(value);
+    case OptionKind::Int32:
+        return HoldsForm<std::int32_t>(value);
+    case OptionKind::Point2d:
+        return HoldsForm<OdGePoint2d>(value);
+    case OptionKind::Point3d:
+        return HoldsForm<OdGePoint3d>(value);
+    case OptionKind::String:
+        return HoldsForm<OdString>(value);
+    }
+    return false;
 }
 
 Statement commandOption(Writer& writer, const CFxSysVarChanged& change, const CFxString& option, OptionKind kind,
@@ -95,11 +125,16 @@ std::int32_t ConvertSysVar(Conversion& conversion, const CFxSysVarChanged& varia
         return kFxSuccess;
     CFxString option;
     std::int32_t kind = -1;
+    bool known = true;
     if (FindCommandOption(variable.GetName(), option, kind) == kFxSuccess)
         text = commandOption(conversion.writer, variable, option, static_cast<OptionKind>(kind), *value);
     else if (FindApplicationOption(variable.GetName(), option, kind) == kFxSuccess)
         text += applicationOption(conversion.writer, option, static_cast<OptionKind>(kind), *value);
     else
+        known = false;
+    if (!known)
         NoteLoss(ActionTitle(&variable), "the interface has no option for it");
+    else if (!holdsKind(variable.GetName(), static_cast<OptionKind>(kind), *value))
+        NoteLoss(ActionTitle(&variable), "its value is of another form than the option, which is set to another one");
     return kFxSuccess;
 }

@@ -8,6 +8,7 @@
 #include "objects/targets/references.h"
 #include "statements/RecordingState.h"
 #include "statements/arrays.h"
+#include "statements/losses.h"
 #include "targets/variables.h"
 
 #include <utility>
@@ -215,6 +216,12 @@ CFxString Names::NameObject(const OdDbHandle& handle, const OdRxClass* cls)
 
 Statement Names::EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
 {
+    if (!NamesUnmade() && IsUnmade(handle)) {
+        // By its handle another object would come, if any.
+        NoteLoss(ObjectTitle(cls, handle), "no statement inserts the object, so the macro has no variable for it");
+        name = CFxString();
+        return {};
+    }
     if (!NameVariable(handle, cls, name))
         return {};
     if (RecordsOtherTypes(writer_.target))

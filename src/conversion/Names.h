@@ -84,7 +84,8 @@ public:
     /// is not remembered, and the counters move as by the fetch. Empty for a class without an interface.
     CFxString NameObject(const OdDbHandle& handle, const OdRxClass* cls);
     /// The same, and gives the statement that fetches an object which the recording has not made; else it is empty. A
-    /// class without an interface leaves the name as it was.
+    /// class without an interface leaves the name as it was. In a repaired macro there is neither name nor statement
+    /// for an object that the recording made and the macro has not; that is noted as lost.
     Statement EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
     /// Of an object that statements may be written for without its fetch: as recorded its bare name, in a repaired
     /// macro with the statement.

@@ -50,6 +50,8 @@ Statement fetchNote(BlockEntity& entity)
         return {};
     CFxString leaderName;
     entity.fetch = entity.conversion.names().EmitObjectVariable(leader.getHandle(), OdDbLeader::desc(), leaderName);
+    if (leaderName.isEmpty())
+        return {};
     entity.name = entity.conversion.names().NameObject(note, entity.object->isA());
     return EmitGetNoteAnnotation(entity.writer, entity.name, leaderName);
 }

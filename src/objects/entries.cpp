@@ -5,10 +5,14 @@
 #include "host/db/OdDbClasses.h"
 #include "objects/AddedObject.h"
 #include "objects/classTable.h"
+#include "objects/losses.h"
 #include "statements/blocks.h"
 #include "statements/losses.h"
 
+#include <QSet>
+
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 /// Whether objects of the action's class have statements; notes the loss when they have none.
@@ -68,6 +72,18 @@ using inkmacro::Target;
 
 namespace {
 
+/// The records of whose tags the other list has none.
+PropertyList onlyIn(const PropertyList& list, const PropertyList& other)
+{
+    QSet<QString> tags;
+    for (const CFxPropertyChangedPtr& record : other)
+        tags.insert(record->GetName());
+    PropertyList found;
+    std::ranges::copy_if(list, std::back_inserter(found),
+                         [&](const CFxPropertyChangedPtr& record) { return !tags.contains(record->GetName()); });
+    return found;
+}
+
 /// Removes of each record its first twin in the list. A record without a twin is passed over.
 void strike(const PropertyList& consumed, PropertyList& list)
 {
@@ -117,6 +133,8 @@ void ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDb
     AddedObject added(conversion, object, id, read, same ? nullptr : &consumed);
     if (const ClassRow* const row = FindClass(cls); row && row->reader)
         text = row->reader(added);
+    // General properties are set by the second list alone.
+    const PropertyList unheard = same ? PropertyList() : onlyIn(read, rest);
     if (same)
         rest = std::move(read);
     else
@@ -135,6 +153,7 @@ void ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDb
     if (text.isEmpty() && !isInserted)
         return;
 
+    LoseRest(conversion, object, unheard, true);
     Statement general;
     ConvertObjectChanges(conversion, cls, handle, rest, true, general);
     // Made at its full length: one that grows is allocated and copied once more.

@@ -197,6 +197,47 @@ TEST(Losses, OfObjectsThatActionsMakeAreWhatTheActionsDoNotSay)
               lost("AcDbHatch", {"Elevation"}));
 }
 
+/// The insertion takes its values from the first list, and general properties come from the second.
+TEST(Losses, OfTwoListsThatDifferAreWhatOnlyOneOfThemHas)
+{
+    const auto ofLists = [](const char* properties, const char* extra) {
+        return lossesOf(command(QByteArray(R"({"added":{"class":"AcDbLine","handle":"31","properties":[)") +
+                                properties + R"(],"extra":[)" + extra + "]}}"));
+    };
+    EXPECT_EQ(ofLists(R"({"tag":"End X","value":4.0},{"tag":"Material","value":"Oak"},{"tag":"Thickness","value":2.0})",
+                      R"({"tag":"Material","value":"Oak"},{"tag":"End Y","value":3.0})"),
+              (Lines{"0.0 property \"Thickness\" of AcDbLine 31: no statement sets it",
+                     "0.0 property \"Material\" of AcDbLine 31: no statement sets it",
+                     "0.0 property \"End Y\" of AcDbLine 31: no statement sets it"}));
+    EXPECT_EQ(
+        ofLists(R"({"tag":"End X","value":4.0})", R"({"tag":"End X","value":4.0},{"tag":"Thickness","value":2.0})"),
+        Lines());
+}
+
+TEST(Losses, OfAReplayAreValuesOfAnotherForm)
+{
+    const auto ofSysvar = [](const char* name, const char* value) {
+        return lossesOf(replay + command(QByteArray(R"({"sysvar":{"name":")") + name + R"(","value":)" + value + "}}"));
+    };
+    const auto ofAnswer = [](const char* kind, const char* result) {
+        return lossesOf(replay + command(QByteArray(R"({"interaction":{"kind":")") + kind +
+                                         R"(","prompt":"A:","result":)" + result + "}}"));
+    };
+    const auto sysvar = [](const std::string& name) {
+        return Lines{"0.0 sysvar " + name +
+                     ": its value is of another form than the option, which is set to another one"};
+    };
+    EXPECT_EQ(ofSysvar("CECOLOR", R"({"string":"red"})"), sysvar("CECOLOR"));
+    EXPECT_EQ(ofSysvar("CECOLOR", R"({"string":"3"})"), Lines());
+    EXPECT_EQ(ofSysvar("LTSCALE", R"({"int16":2})"), sysvar("LTSCALE"));
+    EXPECT_EQ(ofSysvar("LTSCALE", R"({"double":2})"), Lines());
+    const Lines answer{"0.0 interaction: its answer is of another form than the prompt's"};
+    EXPECT_EQ(ofAnswer("double", R"({"int16":2})"), answer);
+    EXPECT_EQ(ofAnswer("point", R"({"point2d":[1,2]})"), answer);
+    EXPECT_EQ(ofAnswer("string", R"({"double":2})"), answer);
+    EXPECT_EQ(ofAnswer("integer", R"({"int16":2})"), Lines());
+}
+
 TEST(Losses, OfWhatIsNoChoiceAreToldWithTheDefault)
 {
     const auto ofChange = [](const char* property) {
@@ -344,6 +385,17 @@ TEST(Losses, OfARepairedMacroAreLayersWithoutAName)
     EXPECT_EQ(lossesOf(frozen), Lines());
     const TestRepair repair;
     EXPECT_EQ(lossesOf(frozen), Lines{"0 changes of AcDbLayerTableRecord 99: the drawing does not have the layer"});
+}
+
+/// By its handle another object of the drawing would be erased.
+TEST(Losses, OfARepairedMacroAreUsesOfWhatItDoesNotMake)
+{
+    const TestRepair repair;
+    const std::string lost = "AcDbRegion 31: no statement inserts the object, so the macro has no variable for it";
+    const QByteArray region = command(R"({"added":{"class":"AcDbRegion","handle":"31","properties":[]}})");
+    for (const char* use : {R"({"custom":{"kind":17,"data":[{"handles":["31"]},{"classes":["AcDbRegion"]}]}})",
+                            R"({"custom":{"kind":55,"data":[{"handles":["31"]},{"classes":["AcDbRegion"]}]}})"})
+        EXPECT_EQ(lossesOf(region + command(use)).at(1), "1.0 " + lost) << use;
 }
 
 TEST(Losses, DependOnTheTarget)
