@@ -12,11 +12,14 @@
 #include "targets/vba/CFxConverterIWAPIVba.h"
 #include "targets/vbnet/CFxConverterIWAPIVbNet.h"
 
+#include <algorithm>
+#include <utility>
+
 using namespace inkmacro;
 
-static const Fault kIllegalName{"EmitFileHeader",
-                                {Target::CSharp, Target::VbNet, Target::CppCom},
-                                "the file's name stands in code, where it is no identifier"};
+const Fault MacroFrame::kIllegalName{"EmitFileHeader",
+                                     {Target::CSharp, Target::VbNet, Target::CppCom},
+                                     "the file's name stands in code, where it is no identifier"};
 
 std::int32_t MacroFrame::EmitProjectFiles(const QString&)
 {
@@ -31,6 +34,17 @@ QString MacroFrame::identifier(const QString& name) const
 Statement MacroFrame::faultyName(const QString& name, const Statement& text) const
 {
     return isLegalName(name, writer.target) ? text : writer.faulty(text, kIllegalName);
+}
+
+Statement MacroFrame::faultyAt(const QString& words, const Statement& text, const Fault& fault) const
+{
+    if (!writer.notesFaults)
+        return text;
+    Statement::Notes notes = text.notes();
+    notes.push_back({std::max(text.text().indexOf(words), 0), &fault});
+    std::stable_sort(notes.begin(), notes.end(),
+                     [](const StatementNote& one, const StatementNote& other) { return one.offset < other.offset; });
+    return {text.text(), std::move(notes)};
 }
 
 std::unique_ptr<MacroFrame> CreateMacroFrame(Writer& writer)

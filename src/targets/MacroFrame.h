@@ -22,6 +22,8 @@ public:
     virtual std::int32_t EmitProjectFiles(const QString& path);
 
 protected:
+    static const inkmacro::Fault kIllegalName;
+
     /// Of two forms the one that suits the macro: when it is repaired the second.
     template<class Form>
     Form mended(Form faithful, Form repaired) const
@@ -34,6 +36,8 @@ protected:
     QString identifier(const QString& name) const;
     /// The text with a note when the name in it is no identifier.
     Statement faultyName(const QString& name, const Statement& text) const;
+    /// The text with a note of the fault where the words stand first.
+    Statement faultyAt(const QString& words, const Statement& text, const inkmacro::Fault& fault) const;
 
     Writer& writer;
 };

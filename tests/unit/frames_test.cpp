@@ -72,6 +72,26 @@ protected:
     CFxConverterIWAPIVba vba{ofVba};
 };
 
+/// The lines in which the last conversion noted the fault.
+std::vector<std::uint32_t> notedLines(const QString& file, const char* reason)
+{
+    std::vector<std::uint32_t> lines;
+    for (const CFxFaultNote& note : GetFxSystemServices()->Notes().GetFaults())
+        if (note.file.toQString() == file && note.reason.toQString() == reason)
+            lines.push_back(note.line);
+    return lines;
+}
+
+std::vector<std::uint32_t> linesWith(const QString& path, const QString& words)
+{
+    std::vector<std::uint32_t> found;
+    const QStringList lines = QString::fromUtf8(contents(path)).split('\n');
+    for (int i = 0; i < lines.size(); ++i)
+        if (lines[i].contains(words))
+            found.push_back(static_cast<std::uint32_t>(i) + 1);
+    return found;
+}
+
 /// The lines of a head that choose a sheet or its sketch manager.
 std::string choice(MacroFrame& frame)
 {
@@ -240,6 +260,33 @@ TEST_F(Frames, WriteProjectsThatCanBeReadWhateverTheName)
     }
     // What is no XML is not escaped.
     EXPECT_TRUE(contents(path("Module1.vb")).contains("            Dim R&D <\"a\">Obj As R&D <\"a\">\n"));
+}
+
+TEST_F(Frames, TellWhereABadNameStandsInTheProject)
+{
+    struct Place
+    {
+        std::uint32_t language;
+        QString macro;
+        QString file;
+        QString words;
+    };
+    const Place places[] = {
+        {1, "a b.cs", "Program.cs", "a b"},
+        {3, "a b.vb", "Module1.vb", "a b"},
+        {4, "a b.cpp", "IwAddinConnection.h", "&LIBID_a bLib"},
+        {4, "a b.cpp", "resource.h", "IDR_a b"},
+        {4, "a b.cpp", "a b.idl", "library a bLib"},
+        {4, "a b.cpp", "a b.rc", "IDR_a b"},
+    };
+    static constexpr char reason[] = "the file's name stands in code, where it is no identifier";
+    for (const auto& [language, macro, file, words] : places) {
+        ASSERT_EQ(CreateConverter(language, 0, 0)->Convert(path(macro), {}), kFxSuccess);
+        const std::vector<std::uint32_t> lines = linesWith(path(file), words);
+        EXPECT_FALSE(lines.empty()) << qPrintable(file);
+        EXPECT_EQ(notedLines(file, reason), lines) << qPrintable(file);
+        EXPECT_EQ(notedLines(macro, reason).size(), 1U) << qPrintable(macro);
+    }
 }
 
 TEST_F(Frames, StopAtTheFirstProjectFileThatCannotBeOpened)

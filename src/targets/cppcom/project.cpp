@@ -55,6 +55,15 @@ QByteArray CFxConverterIWAPICPPCOM::withIdentifier(QByteArray words, const char*
     return words.replace("{identifier}", mended(QByteArray(marker), legalName(name).toLatin1()));
 }
 
+Statement CFxConverterIWAPICPPCOM::faultyIdentifier(const QByteArray& words, const QString& name,
+                                                    const Statement& text) const
+{
+    const QByteArray front = words.left(words.indexOf("{identifier}"));
+    return isLegalName(name, writer.target)
+               ? text
+               : faultyAt(front.mid(front.lastIndexOf('\n') + 1) + name, text, kIllegalName);
+}
+
 CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(Writer& writer)
     : MacroFrame(writer),
       ConnectionClassUuid(QUuid::createUuid().toString()),
@@ -77,27 +86,33 @@ std::int32_t CFxConverterIWAPICPPCOM::EmitProjectFiles(const QString& path)
     const QString projectId = QUuid::createUuid().toString();
     const QString addins = installedPath("APISDK\\tlb\\iwAddin.tlb");
     const QString application = installedPath("bin\\iwAutomation.dll");
-    const auto named = [&](const char* words) { return withIdentifier(words, "%1", name); };
+    const auto named = [&](const char* words, std::initializer_list<Statement> values,
+                           std::optional<Target> language = {}) {
+        return faultyIdentifier(words, name, fillProject(withIdentifier(words, "%1", name), values, language));
+    };
     return WriteProject(
-        path,
-        {
-            {"IwAddinConnection.h", fillProject(named(IwAddinConnection_h), {name, LineEnd}, Target::CppCom), true},
-            {"IwAddinConnection.cpp", fillProject(IwAddinConnection_cpp, {name, LineEnd}, Target::CppCom), true},
-            {name + ".h", QString(project_h), true},
-            {"resource.h", fillProject(named(resource_h), {name, LineEnd}), false},
-            // %1 is the line end, %2 and %3 are the type libraries.
-            {"stdafx.h", fillProject(stdafx_h, {LineEnd, addins, application}), true},
-            {"stdafx.cpp", fillProject(stdafx_cpp, {LineEnd}), true},
-            {"smartvars.h", QString(smartvars_h), true},
-            {name + ".def", fillProject(project_def, {name, LineEnd}), false},
-            {name + "ps.def", fillProject(projectps_def, {name, LineEnd}), false},
-            {name + ".idl", fillProject(named(project_idl), {name, LineEnd, interfaceId, libraryId, classId}), false},
-            {"IwAddinConnection.rgs",
-             fillProject(IwAddinConnection_rgs, {name, LineEnd, ConnectionClassUuid, TypeLibraryUuid}), false},
-            {name + ".rgs", fillProject(project_rgs, {name, LineEnd}), false},
-            // %1 is the line end, %2 to %4 are the numbers of the included texts, %5 is the project.
-            {name + ".rc", fillProject(withIdentifier(project_rc, "%5", name), {LineEnd, "1", "2", "3", name}), false},
-            {name + ".vcproj", fillProject(projectWords(encoding()), {xmlText(name), LineEnd, projectId}), false},
-            {"typeconverter.h", QString(typeconverter_h), true},
-        });
+        path, {
+                  {"IwAddinConnection.h", named(IwAddinConnection_h, {name, LineEnd}, Target::CppCom), true},
+                  {"IwAddinConnection.cpp", fillProject(IwAddinConnection_cpp, {name, LineEnd}, Target::CppCom), true},
+                  {name + ".h", QString(project_h), true},
+                  {"resource.h", named(resource_h, {name, LineEnd}), false},
+                  // %1 is the line end, %2 and %3 are the type libraries.
+                  {"stdafx.h", fillProject(stdafx_h, {LineEnd, addins, application}), true},
+                  {"stdafx.cpp", fillProject(stdafx_cpp, {LineEnd}), true},
+                  {"smartvars.h", QString(smartvars_h), true},
+                  {name + ".def", fillProject(project_def, {name, LineEnd}), false},
+                  {name + "ps.def", fillProject(projectps_def, {name, LineEnd}), false},
+                  {name + ".idl", named(project_idl, {name, LineEnd, interfaceId, libraryId, classId}), false},
+                  {"IwAddinConnection.rgs",
+                   named(IwAddinConnection_rgs, {name, LineEnd, ConnectionClassUuid, TypeLibraryUuid}), false},
+                  {name + ".rgs", fillProject(project_rgs, {name, LineEnd}), false},
+                  // %1 is the line end, %2 to %4 are the numbers of the included texts, %5 is the project.
+                  {name + ".rc",
+                   faultyIdentifier(project_rc, name,
+                                    fillProject(withIdentifier(project_rc, "%5", name),
+                                                {LineEnd, QString("1"), QString("2"), QString("3"), name})),
+                   false},
+                  {name + ".vcproj", fillProject(projectWords(encoding()), {xmlText(name), LineEnd, projectId}), false},
+                  {"typeconverter.h", QString(typeconverter_h), true},
+              });
 }

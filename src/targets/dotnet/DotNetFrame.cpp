@@ -11,7 +11,7 @@ using namespace inkmacro;
 
 Statement DotNetFrame::EmitProgramText(const QString& projectName) const
 {
-    return fillProject(project_.program, {identifier(projectName), LineEnd});
+    return fillProject(project_.program, {faultyName(projectName, identifier(projectName)), LineEnd});
 }
 
 Statement DotNetFrame::EmitProjectText(const QString& projectName, const QString& macroFile) const
