@@ -5,12 +5,17 @@
 #include "host/kernel/CFxStatus.h"
 #include "statements/TargetTable.h"
 #include "statements/quoting.h"
+#include "statements/wording.h"
 #include "targets/cpp/CFxConverterIWAPICPP.h"
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
 #include "targets/csharp/CFxConverterIWAPICSharp.h"
 #include "targets/javascript/CFxConverterIWAPIJavaScript.h"
+#include "targets/projectFiles.h"
 #include "targets/vba/CFxConverterIWAPIVba.h"
 #include "targets/vbnet/CFxConverterIWAPIVbNet.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <utility>
@@ -20,6 +25,10 @@ using namespace inkmacro;
 const Fault MacroFrame::kIllegalName{"EmitFileHeader",
                                      {Target::CSharp, Target::VbNet, Target::CppCom},
                                      "the file's name stands in code, where it is no identifier"};
+
+static const Fault kOtherFile{"EmitProjectText",
+                              {Target::CSharp, Target::VbNet, Target::Cpp, Target::CppCom},
+                              "where the project lists the macro, it names another file"};
 
 std::int32_t MacroFrame::EmitProjectFiles(const QString&)
 {
@@ -45,6 +54,16 @@ Statement MacroFrame::faultyAt(const QString& words, const Statement& text, cons
     std::stable_sort(notes.begin(), notes.end(),
                      [](const StatementNote& one, const StatementNote& other) { return one.offset < other.offset; });
     return {text.text(), std::move(notes)};
+}
+
+Statement MacroFrame::faultyEntry(const QString& entry, const QString& macroPath, const char* misread,
+                                  const Statement& project) const
+{
+    const QString file = QFileInfo(macroPath).fileName();
+    const bool found = isXmlName(file) && !file.contains(QRegularExpression(misread)) &&
+                       project.text().contains(entry + xmlText(file) + '"');
+    const QString name = projectName(macroPath).section('%', 0, 0);
+    return found ? project : faultyAt(entry + xmlText(name), project, kOtherFile);
 }
 
 std::unique_ptr<MacroFrame> CreateMacroFrame(Writer& writer)

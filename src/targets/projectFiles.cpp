@@ -71,6 +71,25 @@ QString xmlText(const QString& text)
     return text.toHtmlEscaped();
 }
 
+QString msbuildItem(const QString& fileName)
+{
+    QString item;
+    for (const QChar character : fileName) {
+        const ushort code = character.unicode();
+        // Blanks in front of an entry are no part of it.
+        const bool reserved = code < 0x20 || code == 0x7F || QStringView(u"%*?;@$()'\\").contains(character) ||
+                              (item.isEmpty() && character == u' ');
+        item += reserved ? '%' + QString::number(code, 16).toUpper().rightJustified(2, '0') : QString(character);
+    }
+    return xmlText(item);
+}
+
+bool isXmlName(const QString& fileName)
+{
+    return QString::fromUtf8(fileName.toUtf8()) == fileName && !fileName.contains(QChar(0xFFFE)) &&
+           !fileName.contains(QChar(0xFFFF));
+}
+
 Statement fillProject(const char* words, std::initializer_list<Statement> values, std::optional<Target> language)
 {
     const Template text(words, language);

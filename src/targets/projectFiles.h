@@ -28,6 +28,13 @@ void noteFault(const Fault& fault, const QString& file, std::size_t line);
 /// A name or a directory as it stands in the XML of a project, between tags or quotes.
 QString xmlText(const QString& text);
 
+/// The name of a file as it stands between quotes where MSBuild lists files: as itself, whatever MSBuild would else
+/// take for a list, a pattern or a property.
+QString msbuildItem(const QString& fileName);
+
+/// Whether an XML file can hold the name: not one of bytes that are no UTF-8.
+bool isXmlName(const QString& fileName);
+
 /// The words of a project's file with the values for their markers in turn. In a repaired project, what stands between
 /// the quotes of the language is escaped.
 Statement fillProject(const char* words, std::initializer_list<Statement> values, std::optional<Target> language = {});

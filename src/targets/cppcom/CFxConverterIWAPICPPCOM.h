@@ -13,6 +13,7 @@ public:
     Statement EmitFileHeader(const QString& className, bool hasSysVar) override;
     Statement EmitFileFooter() override;
     std::int32_t EmitProjectFiles(const QString& path) override;
+    const char* refusal(const QString& fileName) const override;
 
 private:
     /// The words with what stands for "{identifier}", the name as a part of identifiers: its marker, in a repaired

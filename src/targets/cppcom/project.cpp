@@ -9,6 +9,7 @@
 #include "targets/texts.h"
 #include "targets/vcproj.h"
 
+#include <QFileInfo>
 #include <QUuid>
 
 using namespace inkmacro;
@@ -41,10 +42,11 @@ static QByteArray precompiled(const char* how)
     return forEachConfiguration(texts::cppcom::fileConfiguration_vcproj, words).replace("{precompiled}", how);
 }
 
-static QByteArray projectWords(const char* encoding)
+static QByteArray projectWords(const char* encoding, const char* macroFile)
 {
     return QByteArray(texts::cppcom::project_vcproj)
         .replace("{encoding}", encoding)
+        .replace("{macroFile}", macroFile)
         .replace("{configurations}\n", forEachConfiguration(texts::cppcom::configuration_vcproj, words))
         .replace("{makesPrecompiledHeader}\n", precompiled("1"))
         .replace("{withoutPrecompiledHeader}\n", precompiled("0"));
@@ -71,6 +73,17 @@ CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(Writer& writer)
 {
 }
 
+/// A name between the quotes of a registrar script, which puts other texts between two percent signs.
+static QString registrarText(QString name)
+{
+    return name.replace('\'', "''").replace('%', "%%");
+}
+
+const char* CFxConverterIWAPICPPCOM::refusal(const QString& fileName) const
+{
+    return isFound(fileName) ? nullptr : kUnfound.reason();
+}
+
 static QString withoutBraces(const QString& uuid)
 {
     return uuid.mid(1, uuid.size() - 2);
@@ -90,6 +103,10 @@ std::int32_t CFxConverterIWAPICPPCOM::EmitProjectFiles(const QString& path)
                            std::optional<Target> language = {}) {
         return faultyIdentifier(words, name, fillProject(withIdentifier(words, "%1", name), values, language));
     };
+    // A script in UTF-8 without a byte order mark says so itself.
+    const QByteArray script = withIdentifier(project_rc, "%5", name).replace("{codePage}", mended("1252", "65001"));
+    const Statement project = fillProject(projectWords(encoding(), mended("%1.cpp", "%4")),
+                                          {xmlText(name), LineEnd, projectId, xmlText(QFileInfo(path).fileName())});
     return WriteProject(
         path, {
                   {"IwAddinConnection.h", named(IwAddinConnection_h, {name, LineEnd}, Target::CppCom), true},
@@ -105,14 +122,13 @@ std::int32_t CFxConverterIWAPICPPCOM::EmitProjectFiles(const QString& path)
                   {name + ".idl", named(project_idl, {name, LineEnd, interfaceId, libraryId, classId}), false},
                   {"IwAddinConnection.rgs",
                    named(IwAddinConnection_rgs, {name, LineEnd, ConnectionClassUuid, TypeLibraryUuid}), false},
-                  {name + ".rgs", fillProject(project_rgs, {name, LineEnd}), false},
+                  {name + ".rgs", fillProject(project_rgs, {mended(name, registrarText(name)), LineEnd}), false},
                   // %1 is the line end, %2 to %4 are the numbers of the included texts, %5 is the project.
                   {name + ".rc",
                    faultyIdentifier(project_rc, name,
-                                    fillProject(withIdentifier(project_rc, "%5", name),
-                                                {LineEnd, QString("1"), QString("2"), QString("3"), name})),
+                                    fillProject(script, {LineEnd, QString("1"), QString("2"), QString("3"), name})),
                    false},
-                  {name + ".vcproj", fillProject(projectWords(encoding()), {xmlText(name), LineEnd, projectId}), false},
+                  {name + ".vcproj", faultyEntry(kListed, path, kMisread, project), false},
                   {"typeconverter.h", QString(typeconverter_h), true},
               });
 }
