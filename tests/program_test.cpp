@@ -229,6 +229,19 @@ TEST_F(Program, KeepsLettersFromTheTerminalThatItWouldObey)
         EXPECT_FALSE(terminal.text().contains(QString(letter).toUtf8())) << letter.unicode();
 }
 
+TEST_F(Program, RefusesToRepairInCppWhatNoIncludeFinds)
+{
+    write("x\"y.jsonl", line);
+    const Outcome outcome = run({"convert", "x\"y.jsonl", "--target", "cpp,csharp", "--repair", "--output", "out/"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out, "out/csharp/x\"y.cs\nout/csharp/Program.cs\nout/csharp/x\"y.csproj\n");
+    EXPECT_EQ(outcome.err, "inkmacro: conversion to cpp failed with status -5001: out/cpp/x\"y.cpp: no #include or "
+                           "project finds a file whose name has a quotation mark, a backslash, a control character, a "
+                           "trigraph or $( in it, or is no UTF-8\n");
+    EXPECT_TRUE(QDir(path("out/cpp")).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    EXPECT_EQ(run({"convert", "x\"y.jsonl", "--target", "cpp", "--repair", "--output", "xy.cpp"}).status, 0);
+}
+
 TEST_F(Program, NamesTheProjectFileThatCouldNotBeWritten)
 {
     // The macro of an empty recording is shorter than the project file.

@@ -61,7 +61,8 @@ const char* const faultsIntroduction = R"(# Known faults
 
 A macro is written as the application's own recorder writes it, and that is not always what its language accepts or what
 the user meant. Each fault that is known stands here. `inkmacro convert` counts them, `--report` tells where they are,
-and `--repair` writes the macro without them. A fault of several targets is listed once.
+and `--repair` writes the macro without them, or refuses to write it at all where the last column says no. A fault of
+several targets is listed once.
 
 | Written by | Targets | Fault | Repaired |
 |---|---|---|---|

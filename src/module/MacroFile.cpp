@@ -1,7 +1,7 @@
 #include "module/MacroFile.h"
 
-#include "host/kernel/CFxServices.h"
 #include "statements/Fault.h"
+#include "targets/projectFiles.h"
 
 #include <QFileInfo>
 
@@ -73,8 +73,5 @@ void MacroFile::finish()
 void MacroFile::note(const std::vector<MacroText::FoundFault>& faults) const
 {
     for (const auto& [fault, line] : faults)
-        GetFxSystemServices()->Notes().NoteFault([&, fault = fault, line = line] {
-            return CFxFaultNote{fault->operation(), fault->reason(), name_, static_cast<std::uint32_t>(line),
-                                fault->mended()};
-        });
+        noteFault(*fault, name_, line);
 }

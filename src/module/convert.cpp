@@ -55,6 +55,10 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     if (writer.repairs)
         language.emplace(writer.target);
     GetFxSystemServices()->Notes().Forget();
+    if (const char* const reason = writer.repairs ? frame->refusal(QFileInfo(path).fileName()) : nullptr) {
+        GetFxSystemServices()->ReportFailedFile(path, reason);
+        return kFxFailure;
+    }
     const QDir directory(QFileInfo(path).path());
     if (!directory.exists() && !directory.mkpath("."))
         return kFxFailure;

@@ -10,31 +10,35 @@ namespace {
 class Quotes
 {
 public:
-    /// Whether quotes are open behind the text, which goes on where the last one ended. A comment ends with its line,
-    /// and since a marker may stand for the line end, with a marker too.
+    /// Whether quotes of a text are open behind these words, which go on where the last ones ended. A comment ends with
+    /// its line, and since a marker may stand for the line end, with a marker too. The quotes of an include directive
+    /// hold no text: what stands between them is the file's name as it is.
     bool areOpenBehind(QStringView text, Target language)
     {
         const bool basic = isBasic(language);
         comment_ = false;
         for (qsizetype at = 0; at < text.size(); ++at) {
             const QChar character = text[at];
-            if (comment_)
+            if (comment_) {
                 comment_ = character != u'\n';
-            else if (!open_.isNull() && !basic && character == u'\\')
+            } else if (!open_.isNull() && !basic && character == u'\\') {
                 ++at;
-            else if (!open_.isNull())
+            } else if (!open_.isNull()) {
                 open_ = character == open_ ? QChar() : open_;
-            else if (character == u'"' || (character == u'\'' && !basic))
+            } else if (character == u'"' || (character == u'\'' && !basic)) {
                 open_ = character;
-            else
+                include_ = text.left(at).endsWith(u"#include ");
+            } else {
                 comment_ = basic ? character == u'\'' : text.mid(at).startsWith(u"//");
+            }
         }
-        return !open_.isNull();
+        return !open_.isNull() && !include_;
     }
 
 private:
     QChar open_; ///< null outside of quotes
     bool comment_ = false;
+    bool include_ = false; ///< the quotes are those of an include directive
 };
 
 } // namespace

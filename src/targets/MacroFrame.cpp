@@ -5,18 +5,30 @@
 #include "host/kernel/CFxStatus.h"
 #include "statements/TargetTable.h"
 #include "statements/quoting.h"
+#include "statements/wording.h"
 #include "targets/cpp/CFxConverterIWAPICPP.h"
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
 #include "targets/csharp/CFxConverterIWAPICSharp.h"
 #include "targets/javascript/CFxConverterIWAPIJavaScript.h"
+#include "targets/projectFiles.h"
 #include "targets/vba/CFxConverterIWAPIVba.h"
 #include "targets/vbnet/CFxConverterIWAPIVbNet.h"
 
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <utility>
+
 using namespace inkmacro;
 
-static const Fault kIllegalName{"EmitFileHeader",
-                                {Target::CSharp, Target::VbNet, Target::CppCom},
-                                "the file's name stands in code, where it is no identifier"};
+const Fault MacroFrame::kIllegalName{"EmitFileHeader",
+                                     {Target::CSharp, Target::VbNet, Target::CppCom},
+                                     "the file's name stands in code, where it is no identifier"};
+
+static const Fault kOtherFile{"EmitProjectText",
+                              {Target::CSharp, Target::VbNet, Target::Cpp, Target::CppCom},
+                              "where the project lists the macro, it names another file"};
 
 std::int32_t MacroFrame::EmitProjectFiles(const QString&)
 {
@@ -31,6 +43,27 @@ QString MacroFrame::identifier(const QString& name) const
 Statement MacroFrame::faultyName(const QString& name, const Statement& text) const
 {
     return isLegalName(name, writer.target) ? text : writer.faulty(text, kIllegalName);
+}
+
+Statement MacroFrame::faultyAt(const QString& words, const Statement& text, const Fault& fault) const
+{
+    if (!writer.notesFaults)
+        return text;
+    Statement::Notes notes = text.notes();
+    notes.push_back({std::max(text.text().indexOf(words), 0), &fault});
+    std::stable_sort(notes.begin(), notes.end(),
+                     [](const StatementNote& one, const StatementNote& other) { return one.offset < other.offset; });
+    return {text.text(), std::move(notes)};
+}
+
+Statement MacroFrame::faultyEntry(const QString& entry, const QString& macroPath, const char* misread,
+                                  const Statement& project) const
+{
+    const QString file = QFileInfo(macroPath).fileName();
+    const bool found = isXmlName(file) && !file.contains(QRegularExpression(misread)) &&
+                       project.text().contains(entry + xmlText(file) + '"');
+    const QString name = projectName(macroPath).section('%', 0, 0);
+    return found ? project : faultyAt(entry + xmlText(name), project, kOtherFile);
 }
 
 std::unique_ptr<MacroFrame> CreateMacroFrame(Writer& writer)

@@ -20,8 +20,13 @@ public:
     /// Writes the project around the macro file of that path; gives kFxSuccess or kFxFailure. Unless the target says
     /// otherwise, the macro file is the whole result.
     virtual std::int32_t EmitProjectFiles(const QString& path);
+    /// Why there is no repaired macro of that file name, a clause without a full stop: it cannot be written where the
+    /// project needs it. Null when there is one.
+    virtual const char* refusal(const QString&) const { return nullptr; }
 
 protected:
+    static const inkmacro::Fault kIllegalName;
+
     /// Of two forms the one that suits the macro: when it is repaired the second.
     template<class Form>
     Form mended(Form faithful, Form repaired) const
@@ -34,6 +39,13 @@ protected:
     QString identifier(const QString& name) const;
     /// The text with a note when the name in it is no identifier.
     Statement faultyName(const QString& name, const Statement& text) const;
+    /// The text with a note of the fault where the words stand first.
+    Statement faultyAt(const QString& words, const Statement& text, const inkmacro::Fault& fault) const;
+    /// The project with a note when the macro's file is not found by its entry, which begins so. In a faithful project
+    /// the entry is made of the project's name, in which markers may have been filled; and it is read as another one
+    /// where the pattern matches.
+    Statement faultyEntry(const QString& entry, const QString& macroPath, const char* misread,
+                          const Statement& project) const;
 
     Writer& writer;
 };

@@ -11,6 +11,9 @@
 #include <QFileInfo>
 #include <QTextStream>
 
+#include <algorithm>
+#include <set>
+
 namespace inkmacro {
 
 namespace {
@@ -31,7 +34,27 @@ bool writeTextFile(const QString& path, const QString& text, bool byteOrderMark)
     return opened;
 }
 
+/// A line that has a fault several times has it once.
+void noteFaults(const ProjectFile& file)
+{
+    const QString& text = file.text.text();
+    std::set<std::pair<const Fault*, std::size_t>> noted;
+    for (const StatementNote& note : file.text.notes()) {
+        const auto lines = std::count(text.begin(), text.begin() + note.offset, QChar('\n'));
+        const auto* const fault = std::get_if<const Fault*>(&note.what);
+        if (fault && noted.emplace(*fault, lines).second)
+            noteFault(**fault, file.name, static_cast<std::size_t>(lines) + 1);
+    }
+}
+
 } // namespace
+
+void noteFault(const Fault& fault, const QString& file, std::size_t line)
+{
+    GetFxSystemServices()->Notes().NoteFault([&] {
+        return CFxFaultNote{fault.operation(), fault.reason(), file, static_cast<std::uint32_t>(line), fault.mended()};
+    });
+}
 
 QString writeFailure(QFileDevice& file)
 {
@@ -48,11 +71,30 @@ QString xmlText(const QString& text)
     return text.toHtmlEscaped();
 }
 
-Statement fillProject(const char* words, std::initializer_list<QString> values, std::optional<Target> language)
+QString msbuildItem(const QString& fileName)
+{
+    QString item;
+    for (const QChar character : fileName) {
+        const ushort code = character.unicode();
+        // Blanks in front of an entry are no part of it.
+        const bool reserved = code < 0x20 || code == 0x7F || QStringView(u"%*?;@$()'\\").contains(character) ||
+                              (item.isEmpty() && character == u' ');
+        item += reserved ? '%' + QString::number(code, 16).toUpper().rightJustified(2, '0') : QString(character);
+    }
+    return xmlText(item);
+}
+
+bool isXmlName(const QString& fileName)
+{
+    return QString::fromUtf8(fileName.toUtf8()) == fileName && !fileName.contains(QChar(0xFFFE)) &&
+           !fileName.contains(QChar(0xFFFF));
+}
+
+Statement fillProject(const char* words, std::initializer_list<Statement> values, std::optional<Target> language)
 {
     const Template text(words, language);
     Fill fill(&text, {language, RepairsMacros()});
-    for (const QString& value : values)
+    for (const Statement& value : values)
         fill.text(value);
     return fill;
 }
@@ -62,9 +104,11 @@ std::int32_t WriteProject(const QString& macroPath, const std::vector<ProjectFil
     const QString directory = QFileInfo(macroPath).path();
     if (!QDir().exists(directory) && !QDir().mkpath(directory))
         return kFxFailure;
-    for (const ProjectFile& file : files)
+    for (const ProjectFile& file : files) {
         if (!writeTextFile(directory + "//" + file.name, file.text.text(), file.byteOrderMark))
             return kFxFailure;
+        noteFaults(file);
+    }
     return kFxSuccess;
 }
 

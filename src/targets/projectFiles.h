@@ -1,10 +1,12 @@
 #pragma once
 
+#include "statements/Fault.h"
 #include "statements/Fill.h"
 
 #include <QFileDevice>
 #include <QString>
 
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <optional>
@@ -16,16 +18,26 @@ namespace inkmacro {
 struct ProjectFile
 {
     QString name;
-    Statement text;
+    Statement text; ///< the faults in it are noted when it is written
     bool byteOrderMark;
 };
+
+/// Notes for the host that the fault stands in a line of a file, which is named without folders.
+void noteFault(const Fault& fault, const QString& file, std::size_t line);
 
 /// A name or a directory as it stands in the XML of a project, between tags or quotes.
 QString xmlText(const QString& text);
 
+/// The name of a file as it stands between quotes where MSBuild lists files: as itself, whatever MSBuild would else
+/// take for a list, a pattern or a property.
+QString msbuildItem(const QString& fileName);
+
+/// Whether an XML file can hold the name: not one of bytes that are no UTF-8.
+bool isXmlName(const QString& fileName);
+
 /// The words of a project's file with the values for their markers in turn. In a repaired project, what stands between
 /// the quotes of the language is escaped.
-Statement fillProject(const char* words, std::initializer_list<QString> values, std::optional<Target> language = {});
+Statement fillProject(const char* words, std::initializer_list<Statement> values, std::optional<Target> language = {});
 
 /// Why a file that a stream was to fill is not whole. One that cannot be kept: it takes a further write.
 QString writeFailure(QFileDevice& file);

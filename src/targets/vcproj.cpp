@@ -2,10 +2,26 @@
 
 #include "targets/vcproj.h"
 
+#include "targets/projectFiles.h"
+
+#include <QRegularExpression>
+
 #include <initializer_list>
 #include <iterator>
 
 namespace inkmacro {
+
+const Fault kUnfound{"EmitFileHeader",
+                     {Target::Cpp, Target::CppCom},
+                     "no #include or project finds a file whose name has a quotation mark, a backslash, a control "
+                     "character, a trigraph or $( in it, or is no UTF-8",
+                     false};
+
+bool isFound(const QString& fileName)
+{
+    static const QRegularExpression misread(R"(["\\\x00-\x1F\x7F]|\?\?[='()!<>-]|\$\()");
+    return isXmlName(fileName) && !fileName.contains(misread);
+}
 
 static QByteArray emptyTools(std::initializer_list<const char*> names)
 {

@@ -40,6 +40,7 @@ def run(*command, **options):
 @dataclasses.dataclass(frozen=True)
 class Fault:
     """As the program reports it."""
+    file: str
     line: int
     operation: str
     reason: str
@@ -53,6 +54,7 @@ class Macro:
     folder: pathlib.Path
     file: pathlib.Path
     faults: tuple = ()
+    project_faults: tuple = ()  # those in other files than the macro
 
     def lines(self):
         """What its recording holds, line by line."""
@@ -61,6 +63,16 @@ class Macro:
 
     def project(self, extension):
         return self.folder / f"{self.name}{extension}"
+
+
+def macro_of(recording, conversion):
+    """What the report tells of one conversion."""
+    file = pathlib.Path(conversion["macro"])
+    faults = [Fault(*(fault[key] for key in ("file", "line", "operation", "reason", "mended")))
+              for fault in conversion["faults"]]
+    return Macro(file.name.partition(".")[0], recording, file.parent, file,
+                 tuple(fault for fault in faults if fault.file == file.name),
+                 tuple(fault for fault in faults if fault.file != file.name))
 
 
 class Checked:
@@ -124,12 +136,10 @@ class Checked:
             sys.exit(f"the recordings do not convert to {target}: {result.stderr}")
         macros = []
         for recording, conversion in zip(recordings, json.loads(result.stdout)["conversions"], strict=True):
-            file = pathlib.Path(conversion["macro"])
-            faults = tuple(Fault(fault["line"], fault["operation"], fault["reason"], fault["mended"])
-                           for fault in conversion["faults"])
-            if "--repair" in options and any(fault.mended for fault in faults):
-                sys.exit(f"{recording} has a fault when it is repaired: {faults}")
-            macros.append(Macro(recording.stem, recording, file.parent, file, faults))
+            macro = macro_of(recording, conversion)
+            if "--repair" in options and any(fault.mended for fault in macro.faults + macro.project_faults):
+                sys.exit(f"{recording} has a fault when it is repaired: {macro}")
+            macros.append(macro)
         return macros
 
     def named_recordings(self, repaired=False):
@@ -192,7 +202,7 @@ class Verdict:
         """What is wrong with the files of a project is reported for the macro, and what the head of a macro lacks shows
         anywhere."""
         if rejection.file != macro.file or rejection.line == 0:
-            return rejection.file.parent == macro.folder and bool(macro.faults)
+            return rejection.file.parent == macro.folder and bool(macro.faults + macro.project_faults)
         return any(0 <= rejection.line - fault.line <= self.LONGEST_STATEMENT or fault.operation == "EmitFileHeader"
                    for fault in macro.faults)
 

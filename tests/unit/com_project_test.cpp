@@ -1,6 +1,7 @@
 // The COM add-in: the frame of the macro file and the project around it.
 
 #include "TestActions.h"
+#include "TestRepair.h"
 
 #include "host/kernel/CFxServices.h"
 #include "statements/RecordingState.h"
@@ -195,6 +196,18 @@ TEST_F(ComProject, KeepsTheMarkersOfANameInTheResourceScript)
         for (const char* const number : {"1", "2", "3"})
             EXPECT_TRUE(script.contains(QString("\n%1 TEXTINCLUDE\nBEGIN\n").arg(number)));
     }
+}
+
+TEST_F(ComProject, RegistersARepairedServerWhateverItsName)
+{
+    const TestRepair repair;
+    ASSERT_EQ(run({}, "it's 100%1"), kFxSuccess);
+    EXPECT_TRUE(text("it's 100%1.rgs").contains("        '%APPID%' = s 'it''s 100%%1'\n        'it''s 100%%1.DLL'\n"));
+    const QString keys = text("IwAddinConnection.rgs");
+    EXPECT_TRUE(keys.contains("\n    it_s_100_1.IwAddinConnection.1 = s 'IwAddinConnection Class'\n"));
+    EXPECT_TRUE(keys.contains("\n            VersionIndependentProgID = s 'it_s_100_1.IwAddinConnection'\n"));
+    EXPECT_TRUE(text("it's 100%1.rc").contains("\n#pragma code_page(65001)\n"));
+    EXPECT_TRUE(text("it's 100%1.rc").contains("\nIDR_it_s_100_1 REGISTRY \"it's 100%1.rgs\"\n"));
 }
 
 TEST_F(ComProject, NamesEverythingAfterTheMacro)

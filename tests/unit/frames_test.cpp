@@ -1,6 +1,7 @@
 // The file around the statements and the project around the file, in each target.
 
 #include "TestActions.h"
+#include "TestRepair.h"
 #include "TestTarget.h"
 
 #include "host/kernel/CFxRegistry.h"
@@ -18,6 +19,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 using namespace inkmacro;
@@ -71,6 +73,46 @@ protected:
     CFxConverterIWAPIVbNet vbnet{ofVbnet};
     CFxConverterIWAPIVba vba{ofVba};
 };
+
+/// The text of MSBuild's with its escapes read.
+QString unescaped(const QString& item)
+{
+    return QString::fromUtf8(QByteArray::fromPercentEncoding(item.toUtf8()));
+}
+
+/// All attributes of that name in an XML file.
+QStringList attributes(const QString& path, const char* name)
+{
+    QStringList found;
+    QXmlStreamReader reader(QString::fromUtf8(contents(path)));
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.attributes().hasAttribute(name))
+            found.append(reader.attributes().value(name).toString());
+    }
+    EXPECT_FALSE(reader.hasError()) << qPrintable(path) << ": " << qPrintable(reader.errorString());
+    return found;
+}
+
+/// The lines in which the last conversion noted the fault.
+std::vector<std::uint32_t> notedLines(const QString& file, const char* reason)
+{
+    std::vector<std::uint32_t> lines;
+    for (const CFxFaultNote& note : GetFxSystemServices()->Notes().GetFaults())
+        if (note.file.toQString() == file && note.reason.toQString() == reason)
+            lines.push_back(note.line);
+    return lines;
+}
+
+std::vector<std::uint32_t> linesWith(const QString& path, const QString& words)
+{
+    std::vector<std::uint32_t> found;
+    const QStringList lines = QString::fromUtf8(contents(path)).split('\n');
+    for (int i = 0; i < lines.size(); ++i)
+        if (lines[i].contains(words))
+            found.push_back(static_cast<std::uint32_t>(i) + 1);
+    return found;
+}
 
 /// The lines of a head that choose a sheet or its sketch manager.
 std::string choice(MacroFrame& frame)
@@ -240,6 +282,107 @@ TEST_F(Frames, WriteProjectsThatCanBeReadWhateverTheName)
     }
     // What is no XML is not escaped.
     EXPECT_TRUE(contents(path("Module1.vb")).contains("            Dim R&D <\"a\">Obj As R&D <\"a\">\n"));
+}
+
+TEST_F(Frames, ListTheMacroAsMsbuildReadsItsName)
+{
+    const QString names[] = {"plate", "plate.v2", "a;b@(c)$(d)", "5%41*?", " x&<y>'", "tab\tq\"\\"};
+    for (const QString& name : names)
+        for (const auto& [language, extension, project] : {std::tuple{1U, ".cs", ".csproj"}, {3U, ".vb", ".vbproj"}}) {
+            const QString macro = name + extension;
+            const QString base = name.section('.', 0, 0);
+            ASSERT_EQ(CreateConverter(language, 0, 0)->Convert(path(macro), {}), kFxSuccess);
+            const bool plain = name == "plate";
+            const QString beginning = "<Compile Include=\"" + base.left(1);
+            EXPECT_EQ(notedLines(base + project, "where the project lists the macro, it names another file"),
+                      plain ? std::vector<std::uint32_t>() : linesWith(path(base + project), beginning))
+                << qPrintable(macro);
+
+            const TestRepair repair;
+            ASSERT_EQ(CreateConverter(language, 0, 0)->Convert(path(macro), {}), kFxSuccess);
+            const QString item = attributes(path(base + project), "Include").filter(extension).first();
+            EXPECT_EQ(unescaped(item), macro);
+            EXPECT_FALSE(item.contains(QRegularExpression("[;*?@$()'\\\\\t]|^ "))) << qPrintable(item);
+            EXPECT_TRUE(GetFxSystemServices()->Notes().GetFaults().empty());
+        }
+}
+
+TEST_F(Frames, IncludeFilesByTheirNames)
+{
+    const TestRepair repair;
+    const QString name = QString::fromUtf8("<a> 'é'");
+    for (const std::uint32_t language : {0U, 4U}) {
+        ASSERT_EQ(CreateConverter(language, 0, 0)->Convert(path(name + ".v2.cpp"), {}), kFxSuccess);
+        const QString connection = language == 0 ? "iwAddinConnection.h" : "IwAddinConnection.h";
+        for (const QString& file : {name + ".v2.cpp", connection})
+            EXPECT_FALSE(linesWith(path(file), "#include \"" + name + ".h\"").empty()) << qPrintable(file);
+        EXPECT_TRUE(attributes(path(name + ".vcproj"), "RelativePath").contains(".\\" + name + ".v2.cpp"));
+    }
+    // Elsewhere it is a text like others.
+    EXPECT_EQ(linesWith(path("iwAddinConnection.cpp"), QString::fromUtf8("L\"\\074a> 'é'\"")).size(), 1U);
+}
+
+TEST_F(Frames, RefuseNamesThatNoToolFinds)
+{
+    static constexpr char reason[] =
+        "no #include or project finds a file whose name has a quotation mark, a backslash, a control character, a "
+        "trigraph or $( in it, or is no UTF-8";
+    const QString noUtf8 = QString("x") + QChar(0xDCFF);
+    const auto repairs = [this](std::uint32_t language, const QString& file) {
+        const TestRepair repair;
+        QDir(path("")).removeRecursively();
+        const std::size_t failures = GetFxSystemServices()->GetFailedFiles().size();
+        const bool done = CreateConverter(language, 0, 0)->Convert(path(file), {}) == kFxSuccess;
+        EXPECT_EQ(QFileInfo::exists(path("")), done) << qPrintable(file);
+        EXPECT_EQ(GetFxSystemServices()->GetFailedFiles().size() - failures, done ? 0 : 1) << qPrintable(file);
+        return done;
+    };
+    for (const QString& name : {QString("x\"y"), QString("x\\y"), QString("x\ny"), QString("x\x7Fy"),
+                                QString("x\?\?=y"), QString("x$(y)"), noUtf8, QString("plate.v\"2")}) {
+        for (const std::uint32_t language : {0U, 4U}) {
+            EXPECT_FALSE(repairs(language, name + ".cpp")) << qPrintable(name);
+            EXPECT_EQ(GetFxSystemServices()->GetFailedFiles().back().reason.toQString(), reason);
+        }
+        EXPECT_EQ(repairs(1, name + ".cs"), name != noUtf8) << qPrintable(name);
+        EXPECT_EQ(repairs(3, name + ".vb"), name != noUtf8) << qPrintable(name);
+        EXPECT_TRUE(repairs(2, name + ".html") && repairs(5, name + ".bas")) << qPrintable(name);
+    }
+    for (const char* const name : {"x?\?.y", "x$y", "%41", "\xC3\xA9"})
+        EXPECT_TRUE(repairs(0, QString::fromUtf8(name) + ".cpp")) << name;
+
+    // Any other macro is written, and told.
+    for (const std::uint32_t language : {0U, 4U}) {
+        ASSERT_EQ(CreateConverter(language, 0, 0)->Convert(path("x\"y.cpp"), {}), kFxSuccess);
+        const std::uint32_t first = linesWith(path("x\"y.cpp"), "#include \"x\"y").front();
+        EXPECT_EQ(notedLines("x\"y.cpp", reason), std::vector{first});
+    }
+}
+
+TEST_F(Frames, TellWhereABadNameStandsInTheProject)
+{
+    struct Place
+    {
+        std::uint32_t language;
+        QString macro;
+        QString file;
+        QString words;
+    };
+    const Place places[] = {
+        {1, "a b.cs", "Program.cs", "a b"},
+        {3, "a b.vb", "Module1.vb", "a b"},
+        {4, "a b.cpp", "IwAddinConnection.h", "&LIBID_a bLib"},
+        {4, "a b.cpp", "resource.h", "IDR_a b"},
+        {4, "a b.cpp", "a b.idl", "library a bLib"},
+        {4, "a b.cpp", "a b.rc", "IDR_a b"},
+    };
+    static constexpr char reason[] = "the file's name stands in code, where it is no identifier";
+    for (const auto& [language, macro, file, words] : places) {
+        ASSERT_EQ(CreateConverter(language, 0, 0)->Convert(path(macro), {}), kFxSuccess);
+        const std::vector<std::uint32_t> lines = linesWith(path(file), words);
+        EXPECT_FALSE(lines.empty()) << qPrintable(file);
+        EXPECT_EQ(notedLines(file, reason), lines) << qPrintable(file);
+        EXPECT_EQ(notedLines(macro, reason).size(), 1U) << qPrintable(macro);
+    }
 }
 
 TEST_F(Frames, StopAtTheFirstProjectFileThatCannotBeOpened)

@@ -11,9 +11,10 @@ public:
     Statement EmitFileHeader(const QString& className, bool hasSysVar) override;
     Statement EmitFileFooter() override;
     std::int32_t EmitProjectFiles(const QString& path) override;
+    const char* refusal(const QString& fileName) const override;
 
 private:
     /// The header with the export macros; `name` is its own, without extension.
     Statement EmitProgramText(const QString& name) const;
-    Statement EmitProjectText(const QString& projectName) const;
+    Statement EmitProjectText(const QString& projectName, const QString& macroFile) const;
 };

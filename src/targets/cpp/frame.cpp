@@ -4,6 +4,7 @@
 #include "statements/RecordingState.h"
 #include "targets/FileHead.h"
 #include "targets/cpp/CFxConverterIWAPICPP.h"
+#include "targets/vcproj.h"
 
 using namespace inkmacro;
 
@@ -40,7 +41,8 @@ Statement CFxConverterIWAPICPP::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 1;
     const Template words(head.words().constData(), writer.target);
-    return writer.fill(words).text(LineEnd).text(className).text(RecordingSheetName);
+    const Statement text = writer.fill(words).text(LineEnd).text(className).text(RecordingSheetName);
+    return isFound(className) ? text : writer.faulty(text, kUnfound);
 }
 
 Statement CFxConverterIWAPICPP::EmitFileFooter()

@@ -8,6 +8,8 @@
 #include "targets/texts.h"
 #include "targets/vcproj.h"
 
+#include <QFileInfo>
+
 using namespace inkmacro;
 
 // In the texts %1 is the project or, in the first of them, the header itself, %2 the line end. One marker for it is
@@ -27,16 +29,23 @@ Statement CFxConverterIWAPICPP::EmitProgramText(const QString& name) const
     return fillProject(texts::cpp::IwAddin_global_h, {name, LineEnd}, Target::Cpp);
 }
 
-/// %3 is the library directory and %4 the include directory. Nothing is built from a header; the entry of one is empty.
-Statement CFxConverterIWAPICPP::EmitProjectText(const QString& projectName) const
+/// %3 is the library directory, %4 the include directory and, in a repaired project, %5 the macro's file. Nothing is
+/// built from a header; the entry of one is empty.
+Statement CFxConverterIWAPICPP::EmitProjectText(const QString& projectName, const QString& macroFile) const
 {
     const QByteArray text =
         QByteArray(texts::cpp::project_vcproj)
             .replace("{encoding}", encoding())
+            .replace("{macroFile}", mended("%1.cpp", "%5"))
             .replace("{configurations}\n", forEachConfiguration(texts::cpp::configuration_vcproj, words))
             .replace("{headerConfigurations}\n", forEachConfiguration(texts::cpp::headerConfiguration_vcproj, words));
     return fillProject(text, {xmlText(projectName), LineEnd, xmlText(installedPath("APISDK\\lib\\cpp")),
-                              xmlText(installedPath("APISDK\\headers\\cpp"))});
+                              xmlText(installedPath("APISDK\\headers\\cpp")), xmlText(macroFile)});
+}
+
+const char* CFxConverterIWAPICPP::refusal(const QString& fileName) const
+{
+    return isFound(fileName) ? nullptr : kUnfound.reason();
 }
 
 std::int32_t CFxConverterIWAPICPP::EmitProjectFiles(const QString& path)
@@ -44,8 +53,9 @@ std::int32_t CFxConverterIWAPICPP::EmitProjectFiles(const QString& path)
     const QString name = projectName(path);
     const QString exportHeaderFile = "IwAddin_global.h";
     const auto named = [&name](const char* text) { return fillProject(text, {name, LineEnd}, Target::Cpp); };
+    const Statement project = faultyEntry(kListed, path, kMisread, EmitProjectText(name, QFileInfo(path).fileName()));
     return WriteProject(path, {{exportHeaderFile, EmitProgramText(projectName(exportHeaderFile)), true},
-                               {name + ".vcproj", EmitProjectText(name), false},
+                               {name + ".vcproj", project, false},
                                {"iwAddinConnection.h", named(texts::cpp::iwAddinConnection_h), true},
                                {"iwAddinConnection.cpp", named(texts::cpp::iwAddinConnection_cpp), true},
                                {name + ".h", QString(texts::cpp::project_h), true},

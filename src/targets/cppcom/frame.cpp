@@ -5,6 +5,7 @@
 #include "targets/FileHead.h"
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
 #include "targets/texts.h"
+#include "targets/vcproj.h"
 
 #include <QUuid>
 
@@ -106,8 +107,9 @@ Statement CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool
     const QByteArray server = withIdentifier(texts::cppcom::server_cpp, "%2", className);
     const Template words((server + head.words()).constData(), writer.target);
     const QString serverId = QUuid::createUuid().toString();
-    return faultyName(className,
-                      writer.fill(words).text(LineEnd).text(className).text(serverId).text(RecordingSheetName));
+    const Statement text =
+        faultyName(className, writer.fill(words).text(LineEnd).text(className).text(serverId).text(RecordingSheetName));
+    return isFound(className) ? text : faultyAt("#include \"" + className, text, kUnfound);
 }
 
 Statement CFxConverterIWAPICPPCOM::EmitFileFooter()

@@ -9,6 +9,7 @@
 #include "targets/texts.h"
 #include "targets/vcproj.h"
 
+#include <QFileInfo>
 #include <QUuid>
 
 using namespace inkmacro;
@@ -41,10 +42,11 @@ static QByteArray precompiled(const char* how)
     return forEachConfiguration(texts::cppcom::fileConfiguration_vcproj, words).replace("{precompiled}", how);
 }
 
-static QByteArray projectWords(const char* encoding)
+static QByteArray projectWords(const char* encoding, const char* macroFile)
 {
     return QByteArray(texts::cppcom::project_vcproj)
         .replace("{encoding}", encoding)
+        .replace("{macroFile}", macroFile)
         .replace("{configurations}\n", forEachConfiguration(texts::cppcom::configuration_vcproj, words))
         .replace("{makesPrecompiledHeader}\n", precompiled("1"))
         .replace("{withoutPrecompiledHeader}\n", precompiled("0"));
@@ -55,11 +57,31 @@ QByteArray CFxConverterIWAPICPPCOM::withIdentifier(QByteArray words, const char*
     return words.replace("{identifier}", mended(QByteArray(marker), legalName(name).toLatin1()));
 }
 
+Statement CFxConverterIWAPICPPCOM::faultyIdentifier(const QByteArray& words, const QString& name,
+                                                    const Statement& text) const
+{
+    const QByteArray front = words.left(words.indexOf("{identifier}"));
+    return isLegalName(name, writer.target)
+               ? text
+               : faultyAt(front.mid(front.lastIndexOf('\n') + 1) + name, text, kIllegalName);
+}
+
 CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(Writer& writer)
     : MacroFrame(writer),
       ConnectionClassUuid(QUuid::createUuid().toString()),
       TypeLibraryUuid(QUuid::createUuid().toString())
 {
+}
+
+/// A name between the quotes of a registrar script, which puts other texts between two percent signs.
+static QString registrarText(QString name)
+{
+    return name.replace('\'', "''").replace('%', "%%");
+}
+
+const char* CFxConverterIWAPICPPCOM::refusal(const QString& fileName) const
+{
+    return isFound(fileName) ? nullptr : kUnfound.reason();
 }
 
 static QString withoutBraces(const QString& uuid)
@@ -77,27 +99,36 @@ std::int32_t CFxConverterIWAPICPPCOM::EmitProjectFiles(const QString& path)
     const QString projectId = QUuid::createUuid().toString();
     const QString addins = installedPath("APISDK\\tlb\\iwAddin.tlb");
     const QString application = installedPath("bin\\iwAutomation.dll");
-    const auto named = [&](const char* words) { return withIdentifier(words, "%1", name); };
+    const auto named = [&](const char* words, std::initializer_list<Statement> values,
+                           std::optional<Target> language = {}) {
+        return faultyIdentifier(words, name, fillProject(withIdentifier(words, "%1", name), values, language));
+    };
+    // A script in UTF-8 without a byte order mark says so itself.
+    const QByteArray script = withIdentifier(project_rc, "%5", name).replace("{codePage}", mended("1252", "65001"));
+    const Statement project = fillProject(projectWords(encoding(), mended("%1.cpp", "%4")),
+                                          {xmlText(name), LineEnd, projectId, xmlText(QFileInfo(path).fileName())});
     return WriteProject(
-        path,
-        {
-            {"IwAddinConnection.h", fillProject(named(IwAddinConnection_h), {name, LineEnd}, Target::CppCom), true},
-            {"IwAddinConnection.cpp", fillProject(IwAddinConnection_cpp, {name, LineEnd}, Target::CppCom), true},
-            {name + ".h", QString(project_h), true},
-            {"resource.h", fillProject(named(resource_h), {name, LineEnd}), false},
-            // %1 is the line end, %2 and %3 are the type libraries.
-            {"stdafx.h", fillProject(stdafx_h, {LineEnd, addins, application}), true},
-            {"stdafx.cpp", fillProject(stdafx_cpp, {LineEnd}), true},
-            {"smartvars.h", QString(smartvars_h), true},
-            {name + ".def", fillProject(project_def, {name, LineEnd}), false},
-            {name + "ps.def", fillProject(projectps_def, {name, LineEnd}), false},
-            {name + ".idl", fillProject(named(project_idl), {name, LineEnd, interfaceId, libraryId, classId}), false},
-            {"IwAddinConnection.rgs",
-             fillProject(IwAddinConnection_rgs, {name, LineEnd, ConnectionClassUuid, TypeLibraryUuid}), false},
-            {name + ".rgs", fillProject(project_rgs, {name, LineEnd}), false},
-            // %1 is the line end, %2 to %4 are the numbers of the included texts, %5 is the project.
-            {name + ".rc", fillProject(withIdentifier(project_rc, "%5", name), {LineEnd, "1", "2", "3", name}), false},
-            {name + ".vcproj", fillProject(projectWords(encoding()), {xmlText(name), LineEnd, projectId}), false},
-            {"typeconverter.h", QString(typeconverter_h), true},
-        });
+        path, {
+                  {"IwAddinConnection.h", named(IwAddinConnection_h, {name, LineEnd}, Target::CppCom), true},
+                  {"IwAddinConnection.cpp", fillProject(IwAddinConnection_cpp, {name, LineEnd}, Target::CppCom), true},
+                  {name + ".h", QString(project_h), true},
+                  {"resource.h", named(resource_h, {name, LineEnd}), false},
+                  // %1 is the line end, %2 and %3 are the type libraries.
+                  {"stdafx.h", fillProject(stdafx_h, {LineEnd, addins, application}), true},
+                  {"stdafx.cpp", fillProject(stdafx_cpp, {LineEnd}), true},
+                  {"smartvars.h", QString(smartvars_h), true},
+                  {name + ".def", fillProject(project_def, {name, LineEnd}), false},
+                  {name + "ps.def", fillProject(projectps_def, {name, LineEnd}), false},
+                  {name + ".idl", named(project_idl, {name, LineEnd, interfaceId, libraryId, classId}), false},
+                  {"IwAddinConnection.rgs",
+                   named(IwAddinConnection_rgs, {name, LineEnd, ConnectionClassUuid, TypeLibraryUuid}), false},
+                  {name + ".rgs", fillProject(project_rgs, {mended(name, registrarText(name)), LineEnd}), false},
+                  // %1 is the line end, %2 to %4 are the numbers of the included texts, %5 is the project.
+                  {name + ".rc",
+                   faultyIdentifier(project_rc, name,
+                                    fillProject(script, {LineEnd, QString("1"), QString("2"), QString("3"), name})),
+                   false},
+                  {name + ".vcproj", faultyEntry(kListed, path, kMisread, project), false},
+                  {"typeconverter.h", QString(typeconverter_h), true},
+              });
 }

@@ -19,6 +19,7 @@ public:
     };
 
     std::int32_t EmitProjectFiles(const QString& path) final;
+    const char* refusal(const QString& fileName) const final;
 
 protected:
     /// The project must outlive the frame.
