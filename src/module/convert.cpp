@@ -20,11 +20,6 @@
 
 namespace {
 
-const inkmacro::Fault kNoSketchManager{"EmitFileHeader",
-                                       {inkmacro::Target::Cpp, inkmacro::Target::CppCom, inkmacro::Target::CSharp,
-                                        inkmacro::Target::VbNet, inkmacro::Target::Vba},
-                                       "a recording that began on a sheet without a name has no sketch manager"};
-
 /// The byte order mark follows the host's setting and not the target: the codes of the two C++ targets, 0 and 4, ask
 /// for it. A repaired macro has one wherever it is not told otherwise how to read it: a page says so itself, and VBA
 /// takes it for text.
@@ -77,8 +72,6 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     writer.IndentLevel = 0;
     const bool hasSysVar = std::any_of(actions.begin(), actions.end(), isSysVar);
     Statement header = frame->EmitFileHeader(inkmacro::projectName(path), hasSysVar);
-    if (!RecordingInModel && RecordingSheetName.isEmpty() && writer.target != inkmacro::Target::JavaScript)
-        header = writer.faulty(header, kNoSketchManager);
     if (writer.target == inkmacro::Target::Vba && stream.generateByteOrderMark())
         header = writer.faulty(header, otherLanguage);
     macro.writeFrame(header);

@@ -7,11 +7,13 @@ namespace inkmacro {
 QByteArray FileHead::words() const
 {
     QByteArray joined(opening);
-    if (RecordingInModel || (RepairsMacros() && RecordingSheetName.isEmpty()))
+    const bool isNamed = !RecordingSheetName.isEmpty();
+    const bool ofModel = RecordingInModel || (RepairsMacros() && !isNamed);
+    if (ofModel)
         joined += modelSketchManager;
     joined += firstSheet;
-    if (!RecordingSheetName.isEmpty() && !RecordingInModel)
-        joined += recordedSheet;
+    if (!RecordingInModel)
+        joined += isNamed ? recordedSheet : ofModel ? "" : "%9";
     return joined += viewManager;
 }
 

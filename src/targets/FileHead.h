@@ -16,7 +16,8 @@ struct FileHead
     const char* viewManager;
 
     /// The pieces that suit the recording, joined. One that began on a sheet without a name gets neither of the two
-    /// sketch managers, but in a repaired macro that of the model.
+    /// sketch managers, but in a repaired macro that of the model. The last marker is for the sheet's name, or for what
+    /// is known of the place of the one that is missing.
     QByteArray words() const;
 };
 

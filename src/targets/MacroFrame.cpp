@@ -3,6 +3,7 @@
 #include "targets/MacroFrame.h"
 
 #include "host/kernel/CFxStatus.h"
+#include "statements/RecordingState.h"
 #include "statements/TargetTable.h"
 #include "statements/quoting.h"
 #include "statements/wording.h"
@@ -30,6 +31,10 @@ static const Fault kOtherFile{"EmitProjectText",
                               {Target::CSharp, Target::VbNet, Target::Cpp, Target::CppCom},
                               "where the project lists the macro, it names another file"};
 
+static const Fault kNoSketchManager{"EmitFileHeader",
+                                    {Target::Cpp, Target::CppCom, Target::CSharp, Target::VbNet, Target::Vba},
+                                    "a recording that began on a sheet without a name has no sketch manager"};
+
 std::int32_t MacroFrame::EmitProjectFiles(const QString&)
 {
     return kFxSuccess;
@@ -45,15 +50,22 @@ Statement MacroFrame::faultyName(const QString& name, const Statement& text) con
     return isLegalName(name, writer.target) ? text : writer.faulty(text, kIllegalName);
 }
 
+Statement MacroFrame::sheetName() const
+{
+    if (RecordingInModel || !RecordingSheetName.isEmpty() || !writer.notesFaults)
+        return RecordingSheetName.toQString();
+    Statement missing;
+    missing.addFault(kNoSketchManager);
+    return missing;
+}
+
 Statement MacroFrame::faultyAt(const QString& words, const Statement& text, const Fault& fault) const
 {
     if (!writer.notesFaults)
         return text;
-    Statement::Notes notes = text.notes();
-    notes.push_back({std::max(text.text().indexOf(words), 0), &fault});
-    std::stable_sort(notes.begin(), notes.end(),
-                     [](const StatementNote& one, const StatementNote& other) { return one.offset < other.offset; });
-    return {text.text(), std::move(notes)};
+    Statement noted = text;
+    noted.addFault(fault, std::max(text.text().indexOf(words), 0));
+    return noted;
 }
 
 Statement MacroFrame::faultyEntry(const QString& entry, const QString& macroPath, const char* misread,

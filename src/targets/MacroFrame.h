@@ -39,6 +39,9 @@ protected:
     QString identifier(const QString& name) const;
     /// The text with a note when the name in it is no identifier.
     Statement faultyName(const QString& name, const Statement& text) const;
+    /// The name of the sheet on which the recording began, for the head. Where the head has no use for one because it
+    /// has no sketch manager, nothing, with a note of that.
+    Statement sheetName() const;
     /// The text with a note of the fault where the words stand first.
     Statement faultyAt(const QString& words, const Statement& text, const inkmacro::Fault& fault) const;
     /// The project with a note when the macro's file is not found by its entry, which begins so. In a faithful project

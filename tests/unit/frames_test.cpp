@@ -364,24 +364,52 @@ TEST_F(Frames, TellWhereABadNameStandsInTheProject)
     {
         std::uint32_t language;
         QString macro;
+        QString head; ///< what stands before the name in the macro
         QString file;
         QString words;
     };
     const Place places[] = {
-        {1, "a b.cs", "Program.cs", "a b"},
-        {3, "a b.vb", "Module1.vb", "a b"},
-        {4, "a b.cpp", "IwAddinConnection.h", "&LIBID_a bLib"},
-        {4, "a b.cpp", "resource.h", "IDR_a b"},
-        {4, "a b.cpp", "a b.idl", "library a bLib"},
-        {4, "a b.cpp", "a b.rc", "IDR_a b"},
+        {1, "a b.cs", "class ", "Program.cs", "a b"},
+        {3, "a b.vb", "Class ", "Module1.vb", "a b"},
+        {4, "a b.cpp", "class C", "IwAddinConnection.h", "&LIBID_a bLib"},
+        {4, "a b.cpp", "class C", "resource.h", "IDR_a b"},
+        {4, "a b.cpp", "class C", "a b.idl", "library a bLib"},
+        {4, "a b.cpp", "class C", "a b.rc", "IDR_a b"},
     };
     static constexpr char reason[] = "the file's name stands in code, where it is no identifier";
-    for (const auto& [language, macro, file, words] : places) {
+    for (const auto& [language, macro, head, file, words] : places) {
         ASSERT_EQ(CreateConverter(language, 0, 0)->Convert(path(macro), {}), kFxSuccess);
         const std::vector<std::uint32_t> lines = linesWith(path(file), words);
         EXPECT_FALSE(lines.empty()) << qPrintable(file);
         EXPECT_EQ(notedLines(file, reason), lines) << qPrintable(file);
-        EXPECT_EQ(notedLines(macro, reason).size(), 1U) << qPrintable(macro);
+        EXPECT_EQ(notedLines(macro, reason), linesWith(path(macro), head + "a b")) << qPrintable(macro);
+    }
+}
+
+TEST_F(Frames, TellWhereTheirHeadsSuitNoSheet)
+{
+    static constexpr char breaksQuotes[] =
+        "a text closes the literal that it stands in, or is read as another text there";
+    static constexpr char noManager[] = "a recording that began on a sheet without a name has no sketch manager";
+    for (const TargetRow& row : targetTable) {
+        const QString macro = QString("plate.") + QString::fromStdString(std::string(row.extension));
+        const auto convert = [&](const char* sheet) {
+            begin(false, sheet);
+            return CreateConverter(static_cast<std::uint32_t>(row.target), 0, 0)->Convert(path(macro), {});
+        };
+        ASSERT_EQ(convert("A\"3"), kFxSuccess);
+        EXPECT_EQ(notedLines(macro, breaksQuotes), linesWith(path(macro), "\"A\"3\"")) << row.name;
+        ASSERT_EQ(convert(""), kFxSuccess);
+        const std::vector<std::uint32_t> lines = notedLines(macro, noManager);
+        // It would stand in front of the next manager.
+        const char* const next = row.target == Target::CppCom ? "ISelectionManagerPtr"
+                                 : row.target == Target::Vba  ? "'Get View Manager"
+                                                              : "ViewManager";
+        const std::vector<std::uint32_t> behind = linesWith(path(macro), next);
+        if (row.target == Target::JavaScript)
+            EXPECT_TRUE(lines.empty());
+        else
+            EXPECT_EQ(lines, std::vector<std::uint32_t>{behind.front()}) << row.name;
     }
 }
 

@@ -41,7 +41,7 @@ Statement CFxConverterIWAPICPP::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 1;
     const Template words(head.words().constData(), writer.target);
-    const Statement text = writer.fill(words).text(LineEnd).text(className).text(RecordingSheetName);
+    const Statement text = writer.fill(words).text(LineEnd).text(className).text(sheetName());
     return isFound(className) ? text : writer.faulty(text, kUnfound);
 }
 

@@ -108,7 +108,8 @@ Statement CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool
     const Template words((server + head.words()).constData(), writer.target);
     const QString serverId = QUuid::createUuid().toString();
     const Statement text =
-        faultyName(className, writer.fill(words).text(LineEnd).text(className).text(serverId).text(RecordingSheetName));
+        faultyIdentifier(texts::cppcom::server_cpp, className,
+                         writer.fill(words).text(LineEnd).text(className).text(serverId).text(sheetName()));
     return isFound(className) ? text : faultyAt("#include \"" + className, text, kUnfound);
 }
 

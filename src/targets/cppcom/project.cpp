@@ -12,6 +12,8 @@
 #include <QFileInfo>
 #include <QUuid>
 
+#include <algorithm>
+
 using namespace inkmacro;
 
 // In the texts %1 is the project and %2 the line end, unless something else is said; ids follow. One marker for the
@@ -60,10 +62,9 @@ QByteArray CFxConverterIWAPICPPCOM::withIdentifier(QByteArray words, const char*
 Statement CFxConverterIWAPICPPCOM::faultyIdentifier(const QByteArray& words, const QString& name,
                                                     const Statement& text) const
 {
-    const QByteArray front = words.left(words.indexOf("{identifier}"));
-    return isLegalName(name, writer.target)
-               ? text
-               : faultyAt(front.mid(front.lastIndexOf('\n') + 1) + name, text, kIllegalName);
+    QByteArray front = words.left(words.indexOf("{identifier}"));
+    front.remove(0, std::max(front.lastIndexOf('\n') + 1, front.lastIndexOf("%1") + 2));
+    return isLegalName(name, writer.target) ? text : faultyAt(front + name, text, kIllegalName);
 }
 
 CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(Writer& writer)

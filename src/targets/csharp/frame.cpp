@@ -51,7 +51,7 @@ Statement CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool
 
     writer.IndentLevel += 3;
     const Template words(frame.constData(), writer.target);
-    return faultyName(className, writer.fill(words).text(LineEnd).text(identifier(className)).text(RecordingSheetName));
+    return writer.fill(words).text(LineEnd).text(faultyName(className, identifier(className))).text(sheetName());
 }
 
 Statement CFxConverterIWAPICSharp::EmitFileFooter()

@@ -68,7 +68,7 @@ Statement CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
 Statement CFxConverterIWAPIVba::filled(const QByteArray& words) const
 {
     const Template part(words.constData(), writer.target);
-    return writer.fill(part).text(LineEnd).text(RecordingSheetName);
+    return writer.fill(part).text(LineEnd).text(sheetName());
 }
 
 /// Leaves the level.

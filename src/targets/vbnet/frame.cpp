@@ -42,7 +42,7 @@ Statement CFxConverterIWAPIVbNet::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 2;
     const Template words(head.words().constData(), writer.target);
-    return faultyName(className, writer.fill(words).text(identifier(className)).text(LineEnd).text(RecordingSheetName));
+    return writer.fill(words).text(faultyName(className, identifier(className))).text(LineEnd).text(sheetName());
 }
 
 /// Leaves the level, and the last line without an end.
