@@ -186,18 +186,16 @@ static std::int32_t ConvertFileLocation(Conversion& conversion, const FileObject
     CFxString variable;
     text += files.emitObject(conversion.writer, variable);
     bool isSet = true;
+    Statement setting;
     if (value.GetType() == CFxCustomActionData::kString)
-        text += EmitSetProperty(conversion.writer, variable, property, quotable(value.GetString()), true);
+        setting = EmitSetProperty(conversion.writer, variable, property, quotable(value.GetString()), true);
     else if (value.GetType() == CFxCustomActionData::kStringArray)
-        text += EmitFileLocationArray(conversion.writer, variable, property, value.GetStringArray());
+        setting = EmitFileLocationArray(conversion.writer, variable, property, value.GetStringArray());
     else
         isSet = false;
+    text += property.isEmpty() ? conversion.writer.faulty(std::move(setting), kUnknownLocation) : std::move(setting);
     text += group.close() + LineEnd;
-    if (!isSet)
-        return PassOver(action, "its value is neither a text nor a list of texts");
-    if (property.isEmpty())
-        text = conversion.writer.faulty(text, kUnknownLocation);
-    return kFxSuccess;
+    return isSet ? kFxSuccess : PassOver(action, "its value is neither a text nor a list of texts");
 }
 
 std::int32_t ConvertActionInterfaceFile(Conversion& conversion, const CFxCustomAction& action, Statement& text)
