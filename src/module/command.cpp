@@ -2,6 +2,7 @@
 
 #include "host/db/OdDbClasses.h"
 #include "module/MacroFile.h"
+#include "module/codeNames.h"
 #include "module/walk.h"
 #include "objects/classTable.h"
 #include "objects/entries.h"
@@ -12,6 +13,7 @@
 #include "targets/variables.h"
 
 #include <QScopedValueRollback>
+#include <QSet>
 
 #include <algorithm>
 #include <deque>
@@ -145,6 +147,26 @@ static Statement Declarations(Conversion& conversion, const CommandState& state)
     return text;
 }
 
+/// Whether some statement names a variable of the command which none of them declares itself, as that of a viewport
+/// does.
+static bool LacksDeclarations(const CommandState& state, Target target)
+{
+    QString text;
+    for (const HeldStatement& held : state.statements)
+        text += held.statement().text();
+    QSet<QString> used;
+    for (const QString& line : text.split('\n'))
+        inkmacro::forNames(line, target, [&](QStringView name, qsizetype) { used.insert(name.toString()); });
+    for (std::size_t i = 0; i < state.added.size(); ++i) {
+        QString declaration = state.declarations[i].text().trimmed();
+        if (declaration.endsWith(';'))
+            declaration.chop(1);
+        if (used.contains(Names::DeclaredName(state.added[i])) && !text.contains(declaration))
+            return true;
+    }
+    return false;
+}
+
 /// The variable that a custom action of a command is handed: the last one, whatever it is; in a repaired macro an
 /// action that makes an entity gets that one, or none.
 static QString HandOver(Conversion& conversion, std::int32_t kind, unsigned number, const CommandState& state)
@@ -256,7 +278,7 @@ std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxS
     const Statement declarations = Declarations(conversion, state);
     if (declares)
         macro.writeDeclarations(declarations);
-    else if (!declarations.isEmpty() && !state.statements.empty())
+    else if (!declarations.isEmpty() && writer.notesFaults && LacksDeclarations(state, writer.target))
         state.statements.front() = HeldStatement(writer.faulty(state.statements.front().statement(), kUndeclared));
     if (written)
         macro.write(group.begin());

@@ -30,7 +30,7 @@ std::int32_t ConvertObjectAdded(Conversion& conversion, const CFxObjectAdded& ac
     const OdRxClass* const cls = action.GetObjectClass();
     if (!cls)
         return kFxFailure;
-    if (!hasStatements(action))
+    if (conversion.writtenAttributes.contains(action.GetHandle()) || !hasStatements(action))
         return kFxSuccess;
     PropertyList read = action.GetProperties();
     PropertyList rest = action.GetExtraProperties();

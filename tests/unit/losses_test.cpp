@@ -69,6 +69,12 @@ TEST(Losses, AreNoneOfWhatIsPassedOverByRule)
         command(R"({"interaction":{"kind":"angle","prompt":"A:","result":{"type":5004,"double":0.5}}},)"
                 R"({"selection":{"objects":[]}},{"sysvar":{"name":"NOSUCH","value":{"int16":1}}})"),
         replay + command(R"({"interaction":{"kind":"angle","prompt":"A:","result":null}})"),
+        // A block brings the values of its attributes.
+        R"({"object":{"class":"AcDbBlockTableRecord","handle":"60","name":"Stamp"}}
+{"object":{"class":"AcDbAttribute","handle":"62","tag":"DATE","textString":"today"}}
+{"object":{"class":"AcDbBlockReference","handle":"61","blockTableRecord":"60","attributes":["62"]}}
+)" + command(R"({"added":{"class":"AcDbBlockReference","handle":"61","properties":[{"tag":"Name","value":"Stamp"}]}},)"
+             R"({"added":{"class":"AcDbAttribute","handle":"62","properties":[{"tag":"Value","value":"today"}]}})"),
         // A leader brings its note.
         R"({"object":{"class":"AcDbMText","handle":"31","reactors":["32"]}}
 {"object":{"class":"AcDbLeader","handle":"32","annotationObjectId":"31"}}
@@ -236,6 +242,22 @@ TEST(Losses, OfAReplayAreValuesOfAnotherForm)
     EXPECT_EQ(ofAnswer("point", R"({"point2d":[1,2]})"), answer);
     EXPECT_EQ(ofAnswer("string", R"({"double":2})"), answer);
     EXPECT_EQ(ofAnswer("integer", R"({"int16":2})"), Lines());
+}
+
+/// The statement that inserts a viewport declares its variable; the command around it has no declarations.
+TEST(Faults, AreNoneOfDeclarationsThatAStatementMakes)
+{
+    const auto lacksDeclarations = [](const QByteArray& lines) {
+        lossesOf(lines, Target::CSharp);
+        const auto& faults = GetFxSystemServices()->Notes().GetFaults();
+        return std::ranges::any_of(
+            faults, [](const CFxFaultNote& fault) { return fault.reason.toQString().endsWith("has no declarations"); });
+    };
+    const QByteArray viewport = R"({"custom":{"kind":46,"data":[{"points":[[0,0,0],[1,1,0]]},{"points":[]},)"
+                                R"({"bool":false},{"handle":"31"},{"class":"AcDbViewport"},{"string":"A3"}]}})";
+    EXPECT_FALSE(
+        lacksDeclarations(command(R"({"added":{"class":"AcDbViewport","handle":"31","properties":[]}},)" + viewport)));
+    EXPECT_TRUE(lacksDeclarations(command(line + "," + viewport)));
 }
 
 TEST(Losses, OfWhatIsNoChoiceAreToldWithTheDefault)

@@ -48,9 +48,10 @@ Statement setAttributes(const AddedObject& added, const OdDbBlockReference& refe
     Statement text;
     for (const OdDbObjectIteratorPtr at = reference.attributeIterator(); !at->done(); at->step()) {
         const auto attribute = odrxCast<OdDbAttribute>(at->objectId().openObject().get());
-        if (attribute && !attribute->tag().isEmpty())
-            text +=
-                EmitBlockAttributeValue(added.writer, added.name, "Value", attribute->tag(), attribute->textString());
+        if (!attribute || attribute->tag().isEmpty())
+            continue;
+        text += EmitBlockAttributeValue(added.writer, added.name, "Value", attribute->tag(), attribute->textString());
+        added.conversion.writtenAttributes.insert(at->objectId().getHandle());
     }
     return text;
 }
