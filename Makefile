@@ -9,11 +9,12 @@ SECONDS := 60
 SOURCES = $(shell find src tests bench fuzz -path tests/scenarios -prune -o \( -name '*.h' -o -name '*.cpp' \) -print)
 
 .DEFAULT_GOAL := help
-.PHONY: help setup build demo test bench fuzz format format-check tidy clean
+.PHONY: help setup build demo test package bench fuzz format format-check tidy clean
 
 help:
 	@echo "make demo          convert every recording in examples/ to all targets and say where the macros are"
 	@echo "make test          build and run every test"
+	@echo "make package       make Debian packages in $(BUILD)/packages"
 	@echo "make bench         build and run the benchmarks"
 	@echo "make fuzz          build the fuzzers and run them for SECONDS=$(SECONDS)"
 	@echo "make format        format all C++ sources"
@@ -39,6 +40,14 @@ demo: build
 
 test: build
 	ctest --preset $(PRESET)
+
+package:
+	@scripts/setup package
+	cmake --preset program
+	cmake --build --preset program $(if $(JOBS),--parallel $(JOBS))
+	rm -rf $(BUILD)/packages
+	cpack --config $(BUILD)/CPackConfig.cmake
+	lintian --allow-root --fail-on error $(BUILD)/packages/*.deb
 
 bench: build
 	scripts/bench

@@ -14,7 +14,8 @@ namespace inkmacro {
 
 namespace {
 
-const char* const libraryName = "libinkmacro.so";
+/// With its version: the file without it is there only where hosts are developed.
+const char* const libraryName = INKMACRO_MODULE;
 
 [[noreturn]] void fail(const QString& message)
 {
