@@ -19,10 +19,11 @@ function(inkmacro_install_compressed component source folder name)
     install(FILES ${compressed} DESTINATION ${folder} COMPONENT ${component})
 endfunction()
 
-foreach(target inkhost inkmacro)
+foreach(target inkhost inkmacro inkrecordfile)
     if(TARGET ${target})
         install(TARGETS ${target} EXPORT InkmacroTargets
-            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development)
+            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development
+            ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
     endif()
 endforeach()
 if(TARGET inkmacro-cli)
@@ -37,11 +38,20 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${CMAKE_INSTALL_DOCDIR}
     FILES_MATCHING PATTERN "*.md")
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT program)
 
-# The folders below src/ stay, because the headers include one another by those paths.
+# The headers stand in their folders below one of their own, and include one another from there: a host may have folders
+# of the same names.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/host DESTINATION ${headers} COMPONENT development
     FILES_MATCHING PATTERN "*.h")
-install(FILES ${PROJECT_SOURCE_DIR}/src/module/CFxConverterIWAPIModule.h DESTINATION ${headers}/module
-    COMPONENT development)
+set(interface
+    module/CFxConverterIWAPIModule.h module/Exports.h statements/hostSettings.h
+    recordfile/OpenDrawing.h recordfile/Recording.h recordfile/RecordingReader.h recordfile/RecordingSchema.h
+    recordfile/RecordingWriter.h)
+foreach(header IN LISTS interface)
+    cmake_path(GET header PARENT_PATH folder)
+    install(FILES ${PROJECT_SOURCE_DIR}/src/${header} DESTINATION ${headers}/${folder} COMPONENT development)
+endforeach()
+install(CODE "set(headers \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${headers}\")" COMPONENT development)
+install(SCRIPT ${PROJECT_SOURCE_DIR}/cmake/InstalledIncludes.cmake COMPONENT development)
 
 if(TARGET inkmacro)
     install(EXPORT InkmacroTargets NAMESPACE Inkmacro:: DESTINATION ${packages} COMPONENT development)

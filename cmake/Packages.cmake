@@ -46,9 +46,9 @@ set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/cmake/trigg
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "macro writer of the CAD application Inkwright, libraries
 The module that makes macros of recordings, and the library of its host.")
 
-inkmacro_package(development libinkmacro-dev libdevel "${same_libraries}, qtbase5-dev")
+inkmacro_package(development libinkmacro-dev libdevel "${same_libraries}, qtbase5-dev, libsimdjson-dev")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "macro writer of the CAD application Inkwright, development files
-Headers, a CMake package and a file for pkg-config, for programs that make
-macros of recordings themselves.")
+Headers, the reader of recording files, a CMake package and a file for
+pkg-config, for programs that make macros of recordings themselves.")
 
 include(CPack)

@@ -1,4 +1,4 @@
-# Tries what has been installed below a prefix: runs the program, and builds and runs a program of another project, which
+# Tries what has been installed below a prefix: runs the program, and builds and runs the host of docs/embedding.md, which
 # finds the libraries by their CMake package and by pkg-config.
 
 function(run)
@@ -13,13 +13,19 @@ function(ask_pkg_config variable)
     set(${variable} ${words} PARENT_SCOPE)
 endfunction()
 
-# Runs the consumer, which has to leave a macro.
-function(run_consumer program)
-    file(REMOVE ${WORK_DIR}/consumer.cs)
-    run(${program} ${WORK_DIR}/consumer.cs)
-    if(NOT EXISTS ${WORK_DIR}/consumer.cs)
-        message(FATAL_ERROR "the consumer wrote no macro file")
-    endif()
+# Writes what stands in docs/embedding.md as text of that language.
+function(take_from_page language file)
+    execute_process(COMMAND awk -v "fence=```" -v "language=${language}"
+        [[$0 == fence { on = 0 } on; $0 == fence language { on = 1 }]] ${SOURCE_DIR}/docs/embedding.md
+        OUTPUT_FILE ${file} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+# Runs the host, which has to give the macro that the program gives.
+function(run_host host)
+    file(REMOVE_RECURSE ${WORK_DIR}/made)
+    file(MAKE_DIRECTORY ${WORK_DIR}/made)
+    run(${host} ${examples}/site_survey.jsonl ${WORK_DIR}/made/site_survey.cs)
+    run(${CMAKE_COMMAND} -E compare_files ${WORK_DIR}/made/site_survey.cs ${WORK_DIR}/macros/csharp/site_survey.cs)
 endfunction()
 
 # Below ${prefix}, which needs not to be where it was installed first.
@@ -43,18 +49,30 @@ function(try_installation prefix)
         message(FATAL_ERROR "${module} exports other symbols than its two entry points: ${lines}")
     endif()
 
-    run(${prefix}/${BINDIR}/inkmacro convert ${prefix}/share/doc/inkmacro/examples/gasket.jsonl --target all --quiet
+    set(examples ${prefix}/share/doc/inkmacro/examples)
+    run(${prefix}/${BINDIR}/inkmacro convert ${examples}/site_survey.jsonl --target all --repair --quiet
         --output ${WORK_DIR}/macros/)
 
-    run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/tests/install -B ${WORK_DIR}/build -G ${GENERATOR}
+    set(host ${WORK_DIR}/host)
+    file(MAKE_DIRECTORY ${host})
+    take_from_page(cpp ${host}/host.cpp)
+    take_from_page(cmake ${host}/CMakeLists.txt)
+    run(${CMAKE_COMMAND} -S ${host} -B ${host}/build -G ${GENERATOR}
         -D CMAKE_PREFIX_PATH=${prefix} -D CMAKE_CXX_COMPILER=${CXX_COMPILER}
         -D CMAKE_CXX_FLAGS=${CXX_FLAGS} -D CMAKE_BUILD_TYPE=${BUILD_TYPE})
-    run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
-    run_consumer(${WORK_DIR}/build/consumer)
+    run(${CMAKE_COMMAND} --build ${host}/build)
+    run_host(${host}/build/host)
 
     ask_pkg_config(flags --cflags --libs)
     separate_arguments(more UNIX_COMMAND "${CXX_FLAGS}")
-    run(${CXX_COMPILER} -std=c++20 -fPIC ${more} ${SOURCE_DIR}/tests/install/main.cpp -o ${WORK_DIR}/packaged_consumer ${flags}
+    run(${CXX_COMPILER} -std=c++20 -fPIC -Wall -Wextra -Werror ${more} ${host}/host.cpp -o ${host}/host ${flags}
         -Wl,-rpath,${prefix}/${LIBDIR})
-    run_consumer(${WORK_DIR}/packaged_consumer)
+    run_host(${host}/host)
+
+    # Each header finds those that it includes.
+    file(GLOB_RECURSE headers RELATIVE ${prefix}/include ${prefix}/include/inkmacro/*.h)
+    list(TRANSFORM headers REPLACE "(.+)" "#include <\\1>\n")
+    string(CONCAT text ${headers})
+    file(WRITE ${host}/headers.cpp "${text}")
+    run(${CXX_COMPILER} -std=c++20 -fPIC ${more} -fsyntax-only ${host}/headers.cpp ${flags})
 endfunction()
