@@ -24,8 +24,8 @@ endfunction()
 function(run_host host)
     file(REMOVE_RECURSE ${WORK_DIR}/made)
     file(MAKE_DIRECTORY ${WORK_DIR}/made)
-    run(${host} ${examples}/site_survey.jsonl ${WORK_DIR}/made/site_survey.cs)
-    run(${CMAKE_COMMAND} -E compare_files ${WORK_DIR}/made/site_survey.cs ${WORK_DIR}/macros/csharp/site_survey.cs)
+    run(${host} ${examples}/plate_dimensioned.jsonl ${WORK_DIR}/made/plate_dimensioned.cs)
+    run(${CMAKE_COMMAND} -E compare_files ${WORK_DIR}/made/plate_dimensioned.cs ${WORK_DIR}/macros/csharp/plate_dimensioned.cs)
 endfunction()
 
 # Below ${prefix}, which needs not to be where it was installed first.
@@ -50,7 +50,7 @@ function(try_installation prefix)
     endif()
 
     set(examples ${prefix}/share/doc/inkmacro/examples)
-    run(${prefix}/${BINDIR}/inkmacro convert ${examples}/site_survey.jsonl --target all --repair --quiet
+    run(${prefix}/${BINDIR}/inkmacro convert ${examples}/plate_dimensioned.jsonl --target all --repair --quiet
         --output ${WORK_DIR}/macros/)
 
     set(host ${WORK_DIR}/host)
