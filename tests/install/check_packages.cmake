@@ -55,7 +55,7 @@ if(NOT result EQUAL 0)
 endif()
 
 # What no component claims is in no package.
-run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/whole/usr)
+run(${CMAKE_COMMAND} -E env DESTDIR=${WORK_DIR}/whole ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix /usr)
 list_files(whole ${WORK_DIR}/whole)
 list_files(packaged ${root})
 if(NOT whole STREQUAL packaged)
