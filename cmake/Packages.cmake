@@ -17,8 +17,8 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 
-# inkmacro_package(<component> <name> <section> <dependencies>). CPACK_COMPONENT_<COMPONENT>_DESCRIPTION holds a line, and
-# what stands below it in a list of packages. Dependencies on libraries are found besides.
+# inkmacro_package(<component> <name> <section> <dependencies>). CPACK_COMPONENT_<COMPONENT>_DESCRIPTION holds a line,
+# and what stands below it in a list of packages. Dependencies on libraries are found besides.
 macro(inkmacro_package component name section dependencies)
     string(TOUPPER ${component} upper)
     set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${name})

@@ -28,7 +28,8 @@ function(list_files variable folder)
     set(${variable} ${files} PARENT_SCOPE)
 endfunction()
 
-# The scripts of packages run outside of the root, which has no shell, and may not reach this machine's cache of libraries.
+# The scripts of packages run outside of the root, which has no shell, and may not reach this machine's cache of
+# libraries.
 file(WRITE ${WORK_DIR}/bin/ldconfig "#!/bin/sh\n")
 file(CHMOD ${WORK_DIR}/bin/ldconfig PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 

@@ -1,5 +1,5 @@
-# Tries what has been installed below a prefix: runs the program, and builds and runs the host of docs/embedding.md, which
-# finds the libraries by their CMake package and by pkg-config.
+# Tries what has been installed below a prefix: runs the program, and builds and runs the host of docs/embedding.md,
+# which finds the libraries by their CMake package and by pkg-config.
 
 function(run)
     execute_process(COMMAND ${ARGN} COMMAND_ECHO STDOUT COMMAND_ERROR_IS_FATAL ANY)
