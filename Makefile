@@ -9,11 +9,12 @@ SECONDS := 60
 SOURCES = $(shell find src tests bench fuzz -path tests/scenarios -prune -o \( -name '*.h' -o -name '*.cpp' \) -print)
 
 .DEFAULT_GOAL := help
-.PHONY: help setup build demo test bench fuzz format format-check tidy clean
+.PHONY: help setup build program demo test package bench fuzz format format-check tidy clean
 
 help:
-	@echo "make demo          convert every recording in examples/ to all targets and say where the macros are"
+	@echo "make demo          build the program, convert every recording in examples/ and show where the macros are"
 	@echo "make test          build and run every test"
+	@echo "make package       make Debian packages in $(BUILD)/packages"
 	@echo "make bench         build and run the benchmarks"
 	@echo "make fuzz          build the fuzzers and run them for SECONDS=$(SECONDS)"
 	@echo "make format        format all C++ sources"
@@ -22,23 +23,30 @@ help:
 	@echo "make clean         remove everything that was built"
 
 setup:
-	@scripts/setup
+	@scripts/setup test
 
 build: setup
 	cmake --preset $(PRESET)
 	cmake --build --preset $(PRESET) $(if $(JOBS),--parallel $(JOBS))
 
-demo: build
-	@rm -rf $(DEMO)
-	@mkdir -p $(DEMO)
-	$(BUILD)/bin/inkmacro convert examples/*.jsonl --target all --output $(DEMO)/ > $(DEMO)/written.txt
-	@echo
-	@echo "The macros and projects made from examples/*.jsonl are in $(CURDIR)/$(DEMO):"
-	@echo
-	@awk -F/ -f scripts/demo-table.awk $(DEMO)/written.txt
+# The program alone, with no more than it needs.
+program:
+	@scripts/setup build
+	cmake --preset program
+	cmake --build --preset program $(if $(JOBS),--parallel $(JOBS))
+
+demo: program
+	@scripts/demo $(BUILD)/bin/inkmacro $(DEMO)
 
 test: build
 	ctest --preset $(PRESET)
+
+package:
+	@scripts/setup package
+	@$(MAKE) program
+	rm -rf $(BUILD)/packages
+	cpack --config $(BUILD)/CPackConfig.cmake
+	lintian --allow-root --fail-on error $(BUILD)/packages/*.deb
 
 bench: build
 	scripts/bench

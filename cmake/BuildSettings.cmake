@@ -12,6 +12,9 @@ if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
 endif()
 
+# Before 1.0 each minor version may change the interface of the libraries.
+set(INKMACRO_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+
 # The program looks for the module in ../lib, seen from its own folder, so the build tree has the
 # shape of an installation.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
@@ -22,7 +25,10 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 file(RELATIVE_PATH INKMACRO_BIN_TO_LIB ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
 set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/${INKMACRO_BIN_TO_LIB}")
 
-find_program(INKMACRO_CCACHE ccache)
+# A folder goes on as it began: with other commands all that it holds would be compiled again.
+if(NOT DEFINED INKMACRO_CCACHE)
+    find_program(INKMACRO_CCACHE ccache)
+endif()
 mark_as_advanced(INKMACRO_CCACHE)
 if(INKMACRO_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     # Without these words it keeps nothing that is compiled with a precompiled header.

@@ -1,8 +1,8 @@
-// Whole recordings, each converted for each target and compared byte for byte with what is expected. All of them have
-// the base name "recording" and so give the same files around their statements: those of tests/scenarios/project, and a
-// macro whose head and foot are those of tests/scenarios/frames, by the place where the recording began. There
-// <statements> stands for the scenario's own file and <sheet> for the sheet that its recording names. Apart from these
-// only the ids of a COM project differ, which are numbered here.
+// Whole recordings, each converted for each target and compared byte for byte with what is expected. All of their
+// macros have the base name "recording" and so the same files around their statements: those of
+// tests/scenarios/project, and a macro whose head and foot are those of tests/scenarios/frames, by the place where the
+// recording began. There <statements> stands for the scenario's own file and <sheet> for the sheet that its recording
+// names. Apart from these only the ids of a COM project differ, which are numbered here.
 
 #include "module/CFxConverterIWAPI.h"
 #include "recordfile/OpenDrawing.h"
@@ -41,7 +41,12 @@ struct Scenario
     {
         return base + '.' + QString::fromLatin1(row->extension.data(), static_cast<int>(row->extension.size()));
     }
-    QString recording() const { return root + name + "/recording.jsonl"; }
+    /// Its own, or an example.
+    QString recording() const
+    {
+        const QString own = root + name + "/recording.jsonl";
+        return QFile::exists(own) ? own : INKMACRO_SOURCE_DIR "/examples/" + name + ".jsonl";
+    }
     /// These two are relative to the root.
     QString statements() const { return name + "/expected/" + macroOf(target()); }
     QString frame(bool inModel) const
@@ -183,8 +188,8 @@ TEST_P(Scenarios, GiveTheExpectedFiles)
     const QString target = GetParam().target();
     const QTemporaryDir folder;
     QProcess program;
-    program.start(INKMACRO_PROGRAM,
-                  {"convert", GetParam().recording(), "--target", target, "--output", folder.path() + '/'});
+    program.start(INKMACRO_PROGRAM, {"convert", GetParam().recording(), "--target", target, "--output",
+                                     folder.filePath(target + '/' + GetParam().macroOf("recording"))});
     ASSERT_TRUE(program.waitForFinished(60'000));
     ASSERT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
 
@@ -204,7 +209,7 @@ TEST(ScenarioFiles, HoldNothingElse)
 {
     std::set<QString> read;
     for (const Scenario& scenario : scenarios()) {
-        read.insert(scenario.name + "/recording.jsonl");
+        read.insert(QDir(root).relativeFilePath(scenario.recording()));
         for (const Pieces& pieces : expectedFiles(scenario))
             for (const Piece& piece : pieces)
                 read.insert(piece.file);

@@ -14,7 +14,8 @@ namespace inkmacro {
 
 namespace {
 
-const char* const libraryName = "libinkmacro.so";
+/// With its version: the file without it is there only where hosts are developed.
+const char* const libraryName = INKMACRO_MODULE;
 
 [[noreturn]] void fail(const QString& message)
 {
@@ -63,12 +64,12 @@ void loadModuleAhead()
 LoadedModule::LoadedModule()
 {
     QLibrary library(findLibrary());
-    const unsigned version = resolve<unsigned (*)()>(library, "odrxGetAPIVersion")();
+    const unsigned version = resolve<decltype(&odrxGetAPIVersion)>(library, "odrxGetAPIVersion")();
     if (version != odrxApiVersion)
         fail(QString("the module %1 has interface version %2, wanted is %3")
                  .arg(library.fileName(), QString::number(version), QString::number(odrxApiVersion)));
 
-    const auto create = resolve<OdRxModule* (*)(const char*)>(library, "odrxCreateModuleObject");
+    const auto create = resolve<decltype(&odrxCreateModuleObject)>(library, "odrxCreateModuleObject");
     const OdSmartPtr<OdRxModule> module(create("inkmacro"), kOdRxObjAttach);
     if (!module || module->isA()->name() != "CFxConverterIWAPIModule")
         fail(QString("the module %1 is no macro writer").arg(library.fileName()));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/CFxConverterIWAPIModule.h"
+#include "module/Exports.h"
 
 #include <stdexcept>
 

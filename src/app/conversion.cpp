@@ -10,7 +10,6 @@
 #include "app/earlyEnd.h"
 #include "app/reading.h"
 #include "app/report.h"
-#include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxRegistry.h"
 #include "host/kernel/CFxServices.h"
 #include "recordfile/OpenDrawing.h"
@@ -26,30 +25,20 @@ namespace {
 /// The ConversionMode in which prompts are shown again.
 constexpr int kReplay = 1;
 
-/// The recorder takes its first snapshot when recording begins, and the module notes the layout of that moment. Here
-/// the moment is past, and the layout may have another name now, so a drawing is made up that shows it.
-void repeatFirstSnapshot(LoadedModule& module, const Recording::Sheet& sheet)
-{
-    OdDbDatabase database;
-    const auto layout = odrxNew<OdDbLayout>(sheet.name, sheet.model);
-    database.setCurrentLayoutId(database.addObject(OdDbHandle(1), layout));
-    const OpenDrawing drawing(database);
-    std::vector<CFxSnapshotRecord> records;
-    module->TakeSnapshot(layout.get(), records);
-}
-
 std::int32_t runModule(const Job& job, const QString& macro, const Recording& recording, const HostSettings& host)
 {
     LoadedModule module;
     const auto code = static_cast<std::uint32_t>(job.target->target);
     const int language = host.recordingLanguage.value_or(recording.header.language.value_or(static_cast<int>(code)));
-    GetFxSystemServices()->SetInt16("RecordingLanguage", static_cast<std::int16_t>(language));
-    GetFxSystemServices()->SetInt16("RepairMacros", host.repair ? 1 : 0);
+    GetFxSystemServices()->SetInt16(kRecordingLanguage, static_cast<std::int16_t>(language));
+    GetFxSystemServices()->SetInt16(kRepairMacros, host.repair ? 1 : 0);
     if (host.installDir)
-        GetFxRegistry()->SetText("SOFTWARE\\Velmorand\\Inkwright", "InstallDir", *host.installDir);
-    if (recording.header.sheet)
-        repeatFirstSnapshot(module, *recording.header.sheet);
-
+        GetFxRegistry()->SetText(kInstallationKey, kInstallDir, *host.installDir);
+    if (recording.header.sheet) {
+        const OpenSheet sheet(*recording.header.sheet);
+        std::vector<CFxSnapshotRecord> records;
+        module->TakeSnapshot(sheet.layout(), records);
+    }
     const OpenDrawing drawing(recording);
     if (host.lineStyles) {
         std::vector<OdString> folders = recording.database->lineStyleFolders();
@@ -134,7 +123,7 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling)
     static Recording& recording = *new Recording;
     const bool asked = telling.report != ReportForm::None;
     const bool tellsNothing = telling.quiet && !asked;
-    GetFxSystemServices()->SetInt16("IgnoreFaults", tellsNothing ? 1 : 0);
+    GetFxSystemServices()->SetInt16(kIgnoreFaults, tellsNothing ? 1 : 0);
     CFxConversionNotes& notes = GetFxSystemServices()->Notes();
     notes.KeepAll(asked);
     QStringList placed;

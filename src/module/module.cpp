@@ -4,6 +4,7 @@
 #include "commands/CFxCommandHyperlink.h"
 #include "commands/CFxCommandLinetype.h"
 #include "module/CFxConverterIWAPI.h"
+#include "module/Exports.h"
 #include "objects/snapshot.h"
 #include "statements/Fault.h"
 #include "statements/actionKinds.h"
@@ -95,7 +96,6 @@ private:
 
 extern "C" {
 
-/// A new module object; the caller owns its one reference.
 Q_DECL_EXPORT OdRxModule* odrxCreateModuleObject(const char*)
 {
     return new MacroWriterModule;

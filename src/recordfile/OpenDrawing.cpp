@@ -1,5 +1,7 @@
 #include "recordfile/OpenDrawing.h"
 
+#include "host/db/OdDbRecords.h"
+
 #include <QDir>
 
 namespace inkmacro {
@@ -41,6 +43,11 @@ OpenDrawing::OpenDrawing(const Recording& recording) : OpenDrawing(*recording.da
     database.setCurrentLineStyleId(database.getOdDbObjectId(drawing.lineStyle));
     database.setLineStyleFolders(absoluteFolders(recording));
     setVariables(database, drawing);
+}
+
+OpenSheet::OpenSheet(const Recording::Sheet& sheet) : layout_(odrxNew<OdDbLayout>(sheet.name, sheet.model))
+{
+    database_.setCurrentLayoutId(database_.addObject(OdDbHandle(1), layout_));
 }
 
 } // namespace inkmacro

@@ -1,6 +1,7 @@
 #include "statements/RecordingState.h"
 
 #include "host/kernel/CFxServices.h"
+#include "statements/hostSettings.h"
 
 #include <optional>
 
@@ -33,7 +34,7 @@ std::int16_t RecordingLanguage()
     if (own)
         return static_cast<std::int16_t>(*own);
     // Read several times for each object.
-    static const std::int16_t& setting = GetFxSystemServices()->GetInt16("RecordingLanguage");
+    static const std::int16_t& setting = GetFxSystemServices()->GetInt16(inkmacro::kRecordingLanguage);
     return setting;
 }
 
@@ -54,11 +55,11 @@ bool RecordsOtherTypes(inkmacro::Target target)
 
 bool RepairsMacros()
 {
-    static const std::int16_t& setting = GetFxSystemServices()->GetInt16("RepairMacros");
+    static const std::int16_t& setting = GetFxSystemServices()->GetInt16(inkmacro::kRepairMacros);
     return setting != 0;
 }
 
 bool NotesFaults()
 {
-    return GetFxSystemServices()->GetInt16("IgnoreFaults") == 0;
+    return GetFxSystemServices()->GetInt16(inkmacro::kIgnoreFaults) == 0;
 }

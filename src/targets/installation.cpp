@@ -1,12 +1,13 @@
 #include "targets/installation.h"
 
 #include "host/kernel/CFxRegistry.h"
+#include "statements/hostSettings.h"
 
 namespace inkmacro {
 
 QString installedPath(const char* tail)
 {
-    QString directory = GetFxRegistry()->GetText("SOFTWARE\\Velmorand\\Inkwright", "InstallDir");
+    QString directory = GetFxRegistry()->GetText(kInstallationKey, kInstallDir);
     if (directory.isEmpty())
         directory = QStringLiteral("C:\\Program Files\\Velmorand\\Inkwright\\");
     else

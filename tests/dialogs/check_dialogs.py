@@ -1,10 +1,11 @@
 #!/usr/bin/python3
-"""Holds whole conversations with the interactive commands against what a person would see of them at a terminal.
+"""Holds whole conversations with the program against what a person would see of them at a terminal.
 
-    check_dialogs.py PROGRAM SOURCE_DIR dialogs|terminal
+    check_dialogs.py PROGRAM SOURCE_DIR dialogs|terminal|readme
 
-A conversation, in which FOLDER is where it takes place, is a text of shell commands behind "$ " and what they print. Where the program asks, the line holds the
-prompt and, behind it, the answer that it is given; "<Esc>" is a cancel. "[1]" is the status of a command that failed.
+A conversation, in which FOLDER is where it takes place, is a text of shell commands behind "$ " and what they print.
+Where the program asks, the line holds the prompt and, behind it, the answer that it is given; "<Esc>" is a cancel.
+"[1]" is the status of a command that failed.
 """
 
 import difflib
@@ -57,8 +58,12 @@ def converse(command, lines, folder, environment):
     return came
 
 
+def surroundings(program):
+    return {**os.environ, "PATH": f"{program.parent}:{os.environ['PATH']}", "LC_ALL": "C.UTF-8"}
+
+
 def check_conversation(name, text, program, source):
-    environment = {**os.environ, "PATH": f"{program.parent}:{os.environ['PATH']}", "LC_ALL": "C.UTF-8"}
+    environment = surroundings(program)
     with tempfile.TemporaryDirectory(prefix="inkmacro-dialogs-") as folder:
         shutil.copytree(source / "examples", pathlib.Path(folder, "examples"))
         for command, lines in commands(text):
@@ -71,18 +76,35 @@ def check_conversation(name, text, program, source):
     return True
 
 
-def readme_conversations(source):
-    readme = source.joinpath("README.md").read_text(encoding="utf-8")
-    found = re.findall(r"^```\n(\$ inkmacro run .*?)^```$", readme, flags=re.MULTILINE | re.DOTALL)
-    assert found, "README.md has no conversation"
-    return found
-
-
 def check_dialogs(program, source):
-    conversations = [("README.md", text) for text in readme_conversations(source)]
-    conversations += [(file.name, file.read_text(encoding="utf-8"))
-                      for file in sorted(source.glob("tests/dialogs/*.txt"))]
-    return all([check_conversation(name, text, program, source) for name, text in conversations])
+    return all([check_conversation(file.name, file.read_text(encoding="utf-8"), program, source)
+                for file in sorted(source.glob("tests/dialogs/*.txt"))])
+
+
+def check_first_example(readme, program, source):
+    """The recording at the top of the page is the example that its text names, and gives the statements below it."""
+    recording, statements = (re.search(rf"^```{language}\n(.*?)^```$", readme, flags=re.MULTILINE | re.DOTALL)[1]
+                             for language in ("json", "csharp"))
+    command, example = re.search(r"^`(inkmacro convert (\S+) .*?)`", readme, flags=re.MULTILINE).groups()
+    assert recording == source.joinpath(example).read_text(encoding="utf-8"), f"README.md shows another {example}"
+    with tempfile.TemporaryDirectory(prefix="inkmacro-dialogs-") as folder:
+        shutil.copytree(source / "examples", pathlib.Path(folder, "examples"))
+        made = subprocess.run(command, shell=True, cwd=folder, env=surroundings(program), check=True,
+                              stdout=subprocess.PIPE, encoding="utf-8").stdout
+        macro = pathlib.Path(folder, made.split("\n")[0]).read_text(encoding="utf-8-sig")
+    assert statements in macro, f"README.md shows what is not in {macro}"
+
+
+def check_readme(program, source):
+    """Each transcript of the page can be repeated where the examples are, and the examples' own page has them all."""
+    readme = source.joinpath("README.md").read_text(encoding="utf-8")
+    check_first_example(readme, program, source)
+    listed = re.findall(r"^\| ([a-z_]+) \|", source.joinpath("examples/README.md").read_text(encoding="utf-8"),
+                        flags=re.MULTILINE)
+    assert listed == sorted(file.stem for file in source.glob("examples/*.jsonl")), f"examples/README.md lists {listed}"
+    transcripts = re.findall(r"^```\n(\$ .*?)^```$", readme, flags=re.MULTILINE | re.DOTALL)
+    assert len(transcripts) > 4, transcripts
+    return all([check_conversation("README.md", text, program, source) for text in transcripts])
 
 
 class Terminal:
@@ -222,7 +244,7 @@ def check_terminal(program, source):
 
 def main():
     program, source = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2])
-    check = {"dialogs": check_dialogs, "terminal": check_terminal}[sys.argv[3]]
+    check = {"dialogs": check_dialogs, "terminal": check_terminal, "readme": check_readme}[sys.argv[3]]
     return 0 if check(program, source) else 1
 
 

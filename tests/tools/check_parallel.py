@@ -22,7 +22,7 @@ def main():
     recordings = folder / "recordings"
     recordings.mkdir()
     for number in range(GOOD):
-        shutil.copy(checked.source / "examples/gasket.jsonl", recordings / f"part {number}.jsonl")
+        shutil.copy(checked.source / "tests/tools/recordings/gasket.jsonl", recordings / f"part {number}.jsonl")
     recordings.joinpath("broken.jsonl").write_text('{"sysvar":{}}\n', encoding="utf-8")
 
     path = f"{checked.program.resolve().parent}:{os.environ['PATH']}"
