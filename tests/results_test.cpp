@@ -355,7 +355,7 @@ TEST_F(Results, OfACommandAreRefusedBeforeItAsks)
         int status;
         const char* message;
     } cases[] = {
-        {"out/", 2, "inkmacro: --output: \"out/\" is a directory, and run writes a file\nTry 'inkmacro --help'.\n"},
+        {"out/", 2, "inkmacro: --output: \"out/\" is a directory, and run writes a file\nTry 'inkmacro run --help'.\n"},
         {".", 1, "inkmacro: . exists and is not a regular file\n"},
         {"file/b.jsonl", 1, "inkmacro: file/b.jsonl: Not a directory\n"},
         {"file/deeper/b.jsonl", 1, "inkmacro: file/deeper/b.jsonl: Not a directory\n"},

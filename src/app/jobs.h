@@ -9,13 +9,16 @@ struct Job
 {
     QString input; ///< "-" is standard input
     const TargetRow* target;
-    QString macro;
+    QString macro;                   ///< on its way to standard output it has a name too, which is never written to
+    bool toStandardOutput = false;   ///< the macro alone
     std::vector<std::size_t> behind; ///< numbers of earlier jobs that write one of the same files
 
     /// The files of the project around the macro. The module names them after the macro and puts them beside it.
     QStringList projectFiles() const;
     /// Those behind the macro.
     QStringList files() const { return QStringList(macro) + projectFiles(); }
+    /// What messages call the macro.
+    QString shownMacro() const { return toStandardOutput ? QStringLiteral("standard output") : macro; }
 };
 
 /// What a `convert` asks for: file by file, and within a file target by target. Of several recordings each has a folder
