@@ -60,6 +60,7 @@ struct CommandLine
         ReportSchema,
         SystemVariables,
         Faults,
+        Completion,
         Version,
         Help
     };
@@ -74,6 +75,7 @@ struct CommandLine
     OdDbHandle handle;   ///< of the object whose snapshot is shown
     QString hostCommand; ///< the name of the command that is run
 
+    QString shell; ///< whose completion is printed
     bool json = false;
 };
 

@@ -1,5 +1,6 @@
 #include "app/commandTable.h"
 
+#include "app/completion.h"
 #include "app/optionValues.h"
 
 #include <algorithm>
@@ -288,6 +289,20 @@ or of the report of convert.)",
             .meaning = "list the known faults of macros",
             .text = R"(Prints, as a page in Markdown, the known faults of macros that are not
 repaired.)",
+        },
+        {
+            .command = Command::Completion,
+            .name = "completion",
+            .meaning = "print what a shell needs to complete command lines",
+            .operands = Operands::Word,
+            .form = "bash|zsh|fish",
+            .words = completedShells,
+            .takeWord = [](CommandLine& line, const QString& word) { line.shell = word; },
+            .text = R"(Prints what a shell needs to complete command lines of inkmacro. An installed
+inkmacro has put it where shells look for it. Otherwise bash and zsh take it by
+  source <(inkmacro completion bash)
+and fish by
+  inkmacro completion fish | source)",
         },
     };
     return rows;

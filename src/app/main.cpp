@@ -3,6 +3,7 @@
 #include "app/CommandLine.h"
 #include "app/ExitStatus.h"
 #include "app/commandTable.h"
+#include "app/completion.h"
 #include "app/console.h"
 #include "app/conversion.h"
 #include "app/earlyEnd.h"
@@ -72,6 +73,9 @@ int run(const CommandLine& line)
         break;
     case CommandLine::Command::Faults:
         printOut(knownFaultsPage());
+        break;
+    case CommandLine::Command::Completion:
+        printOut(completionFor(line.shell));
         break;
     case CommandLine::Command::Version:
         printOut(QByteArray("inkmacro " INKMACRO_VERSION "\n"));
