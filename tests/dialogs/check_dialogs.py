@@ -185,6 +185,32 @@ def check_letters(program, folder):
             assert found == left, (locale, keys, found)
 
 
+def check_names(program, source, folder):
+    """Names of line styles and of files are completed."""
+    styles = pathlib.Path(folder, "styles of lines")
+    styles.mkdir()
+    shutil.copy(source / "examples/line_styles/iso.lin", styles / "iso.lin")
+    (styles / "isometric.txt").touch()
+    (styles / ".hidden.lin").touch()
+    recording = pathlib.Path(folder, "c.jsonl")
+    recording.write_text('{"drawing":{"lineStyleFolders":["styles of lines"]}}\n', encoding="utf-8")
+    terminal = Terminal([str(program), "run", str(recording), "--command", "-LINESTYLE"], folder)
+
+    def answer(prompt, keys):
+        terminal.until(prompt)
+        terminal.enter(keys)
+
+    answer("Create/Load/Set]: ", "L\t\r")
+    answer("Specify LineStyle: ", "iso_dashed_\t\r")
+    answer("for none]: ", "sty\t\t\r")
+    answer("Create/Load/Set]: ", "S\r")
+    answer("Specify LineStyle: ", "iso\t\r")
+    terminal.until("Active LineStyle: ISO_DASHED_SPACED")
+    answer("Create/Load/Set]: ", "\r")
+    assert terminal.status() == 0, terminal.all
+    assert '"name":"ISO_DASHED_SPACED"' in recording.read_text(encoding="utf-8")
+
+
 def check_terminal(program, source):
     with tempfile.TemporaryDirectory(prefix="inkmacro-dialogs-") as folder:
         recording = pathlib.Path(folder, "a.jsonl")
@@ -228,6 +254,7 @@ def check_terminal(program, source):
         assert '"string":"plan.dwg!"' in after and '"string":"é"' in after, after
         check_signals(start)
         check_letters(program, folder)
+        check_names(program, source, folder)
     return True
 
 
