@@ -152,6 +152,52 @@ TEST_F(Program, WritesAMacroToStandardOutput)
     EXPECT_EQ(full.err, "inkmacro: standard output: No space left on device\n");
 }
 
+TEST_F(Program, BreaksNoProjectOfAnotherRecording)
+{
+    write("walls.jsonl", line);
+    write("doors.jsonl", line);
+    const auto convert = [this](const QString& recording, const char* targets, const QStringList& more = {}) {
+        return run(QStringList{"convert", recording, "-q", "-t", targets} + more);
+    };
+    const auto refusal = [](const char* places) {
+        return QString("inkmacro: the project of another recording is in %1; give another --output, or --force to "
+                       "replace the files that both have\nTry 'inkmacro convert --help'.\n")
+            .arg(places)
+            .toStdString();
+    };
+    ASSERT_EQ(convert("walls.jsonl", "all").status, 0);
+    EXPECT_EQ(convert("walls.jsonl", "all").status, 0) << "the same again";
+    EXPECT_EQ(convert("doors.jsonl", "vba,javascript").status, 0) << "without projects";
+    for (const auto& [target, place] :
+         {std::pair("csharp", "csharp/ (walls.csproj)"), std::pair("vbnet", "vbnet/ (walls.vbproj)"),
+          std::pair("cpp", "cpp/ (walls.vcproj)"), std::pair("cppcom", "cppcom/ (walls.h)")}) {
+        const QByteArray shared = contents("csharp/Program.cs");
+        const Outcome outcome = convert("doors.jsonl", target);
+        EXPECT_EQ(outcome.status, 2) << target;
+        EXPECT_EQ(outcome.err.toStdString(), refusal(place));
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_EQ(contents("csharp/Program.cs"), shared);
+    }
+    EXPECT_EQ(convert("doors.jsonl", "all").err.toStdString(),
+              refusal("cpp/ (walls.vcproj), csharp/ (walls.csproj), vbnet/ (walls.vbproj) and 1 more folder"));
+    EXPECT_FALSE(exists("csharp/doors.cs") || exists("cpp/doors.cpp"));
+    EXPECT_EQ(convert("doors.jsonl", "csharp", {"-o", "csharp/d.cs"}).status, 2) << "named by its path";
+    EXPECT_EQ(convert("doors.jsonl", "csharp", {"-o", "other/"}).status, 0);
+    EXPECT_EQ(convert("doors.jsonl", "csharp", {"-o", "-"}).status, 0);
+
+    EXPECT_EQ(convert("doors.jsonl", "csharp", {"--force"}).status, 0);
+    EXPECT_TRUE(contents("csharp/Program.cs").contains("namespace doors\n"));
+    EXPECT_TRUE(exists("csharp/walls.cs") && exists("csharp/doors.cs"));
+    EXPECT_EQ(convert("walls.jsonl", "csharp").status, 2) << "both are there";
+
+    write("mine/Program.cs", "by hand");
+    EXPECT_EQ(convert("walls.jsonl", "csharp", {"-o", "mine/walls.cs"}).err.toStdString(),
+              refusal("mine/ (Program.cs)"));
+    EXPECT_EQ(contents("mine/Program.cs"), "by hand");
+    EXPECT_EQ(convert("walls.jsonl", "csharp", {"-fo", "mine/walls.cs"}).status, 0);
+    EXPECT_EQ(convert("walls.jsonl", "csharp", {"-o", "mine/walls.cs"}).status, 0) << "its own now";
+}
+
 TEST_F(Program, SaysThatNoTargetUsesTheFolderOfTheApplication)
 {
     write("a.jsonl", line);

@@ -175,7 +175,7 @@ private:
     /// What stands behind an option that wants a value.
     QString nextValue(const OptionRow& row)
     {
-        const QString next = arguments_.value(at_);
+        QString next = arguments_.value(at_);
         const bool isOption = next == "--" || (next.startsWith("--") && findOptionRow(options(), next));
         if (at_ == arguments_.size() || isOption)
             throw WrongUse(QString("a value is missing behind %1: it is %1 %2").arg(row.name, row.form));

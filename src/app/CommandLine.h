@@ -70,6 +70,7 @@ struct CommandLine
     QStringList files;                     ///< "-" is standard input, at most once
     std::vector<const TargetRow*> targets; ///< each once, in the order asked for
     std::optional<QString> output;
+    bool force = false; ///< projects of other recordings are replaced
     HostSettings host;
     Telling telling;
     OdDbHandle handle;   ///< of the object whose snapshot is shown

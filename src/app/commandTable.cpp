@@ -67,6 +67,15 @@ target, without its project, goes to standard output in place of the
 paths.)",
     },
     {
+        .name = "--force",
+        .letter = 'f',
+        .take = [](CommandLine& line, const QString&) { line.force = true; },
+        .meaning = "replace files of another recording's project",
+        .text = R"(Projects share names of files, as Program.cs, so the project of another
+recording in the same folder would no longer work; nothing is written then
+without this option.)",
+    },
+    {
         .name = "--replay",
         .take = [](CommandLine& line, const QString&) { line.host.replay = true; },
         .meaning = "macros that ask again what the recorded commands asked",
@@ -205,108 +214,109 @@ names of files and line styles too. An option is entered by its capital
 letters, by its beginning or whole, an empty line takes the one in <>. A point
 is x,y or x,y,z; entities are handles with blanks between them, or all: those
 of the drawing and those that the recording adds. Ctrl+C, Esc with Enter and
-the end of input cancel the command. When it has ended well the recording with the changed
-drawing replaces FILE, or is written to the file of --output; else nothing is
-written. When somebody else has changed FILE meanwhile it stays as it is, and
-the new recording goes to FILE.new, or FILE.new2 and so on, which is never
-replaced.)";
+the end of input cancel the command. When it has ended well the recording with
+the changed drawing replaces FILE, or is written to the file of --output; else
+nothing is written. When somebody else has changed FILE meanwhile it stays as
+it is, and the new recording goes to FILE.new, or FILE.new2 and so on, which
+is never replaced.)";
+
+const std::vector<CommandRow> commandRows = {
+    {
+        .command = Command::Convert,
+        .name = "convert",
+        .meaning = "write recordings as macros",
+        .operands = Operands::Files,
+        .form = "FILE...",
+        .text = convertText,
+        .options = convertOptions,
+    },
+    {
+        .command = Command::Inspect,
+        .name = "inspect",
+        .meaning = "show the actions of a recording",
+        .operands = Operands::File,
+        .form = "FILE",
+        .text = "Shows the actions of a recording as a tree, with counts.",
+        .options = {jsonOption},
+    },
+    {
+        .command = Command::Check,
+        .name = "check",
+        .meaning = "read recordings and say what is wrong with them",
+        .operands = Operands::Files,
+        .form = "FILE...",
+        .text = "Reads recordings and says what is wrong with them; writes nothing.",
+    },
+    {
+        .command = Command::Snapshot,
+        .name = "snapshot",
+        .meaning = "show what the recorder's snapshot adds for an object",
+        .operands = Operands::File,
+        .form = "FILE",
+        .text = R"(Shows what the recorder's snapshot adds for one object of the drawing, beside
+what the host's property sheet shows.)",
+        .options = snapshotOptions,
+    },
+    {
+        .command = Command::Run,
+        .name = "run",
+        .meaning = "run an interactive command on the drawing of a recording",
+        .operands = Operands::File,
+        .form = "FILE",
+        .text = runText,
+        .options = runOptions,
+    },
+    {
+        .command = Command::RecordingSchema,
+        .name = "schema",
+        .meaning = "print the JSON Schema of recordings or reports",
+        .operands = Operands::MaybeWord,
+        .form = "recording|report",
+        .words =
+            [] {
+                return QStringList{"recording", "report"};
+            },
+        .takeWord =
+            [](CommandLine& line, const QString& word) {
+                line.command = word == "report" ? Command::ReportSchema : Command::RecordingSchema;
+            },
+        .text = R"(Prints the JSON Schema of one line of a recording, without an argument too,
+or of the report of convert.)",
+    },
+    {
+        .command = Command::SystemVariables,
+        .name = "system-variables",
+        .meaning = "list the system variables that convert",
+        .text = "Prints, as a page in Markdown, the system variables that convert.",
+    },
+    {
+        .command = Command::Faults,
+        .name = "faults",
+        .meaning = "list the known faults of macros",
+        .text = R"(Prints, as a page in Markdown, the known faults of macros that are not
+repaired.)",
+    },
+    {
+        .command = Command::Completion,
+        .name = "completion",
+        .meaning = "print what a shell needs to complete command lines",
+        .operands = Operands::Word,
+        .form = "bash|zsh|fish",
+        .words = completedShells,
+        .takeWord = [](CommandLine& line, const QString& word) { line.shell = word; },
+        .text = R"(Prints what a shell needs to complete command lines of inkmacro. An installed
+inkmacro has put it where shells look for it. Otherwise bash and zsh take it by
+  source <(inkmacro completion bash)
+and fish by
+  inkmacro completion fish | source)",
+    },
+};
 
 } // namespace
 
 const std::vector<CommandRow>& commandTable()
 {
-    static const std::vector<CommandRow> rows = {
-        {
-            .command = Command::Convert,
-            .name = "convert",
-            .meaning = "write recordings as macros",
-            .operands = Operands::Files,
-            .form = "FILE...",
-            .text = convertText,
-            .options = convertOptions,
-        },
-        {
-            .command = Command::Inspect,
-            .name = "inspect",
-            .meaning = "show the actions of a recording",
-            .operands = Operands::File,
-            .form = "FILE",
-            .text = "Shows the actions of a recording as a tree, with counts.",
-            .options = {jsonOption},
-        },
-        {
-            .command = Command::Check,
-            .name = "check",
-            .meaning = "read recordings and say what is wrong with them",
-            .operands = Operands::Files,
-            .form = "FILE...",
-            .text = "Reads recordings and says what is wrong with them; writes nothing.",
-        },
-        {
-            .command = Command::Snapshot,
-            .name = "snapshot",
-            .meaning = "show what the recorder's snapshot adds for an object",
-            .operands = Operands::File,
-            .form = "FILE",
-            .text = R"(Shows what the recorder's snapshot adds for one object of the drawing, beside
-what the host's property sheet shows.)",
-            .options = snapshotOptions,
-        },
-        {
-            .command = Command::Run,
-            .name = "run",
-            .meaning = "run an interactive command on the drawing of a recording",
-            .operands = Operands::File,
-            .form = "FILE",
-            .text = runText,
-            .options = runOptions,
-        },
-        {
-            .command = Command::RecordingSchema,
-            .name = "schema",
-            .meaning = "print the JSON Schema of recordings or reports",
-            .operands = Operands::MaybeWord,
-            .form = "recording|report",
-            .words =
-                [] {
-                    return QStringList{"recording", "report"};
-                },
-            .takeWord =
-                [](CommandLine& line, const QString& word) {
-                    line.command = word == "report" ? Command::ReportSchema : Command::RecordingSchema;
-                },
-            .text = R"(Prints the JSON Schema of one line of a recording, without an argument too,
-or of the report of convert.)",
-        },
-        {
-            .command = Command::SystemVariables,
-            .name = "system-variables",
-            .meaning = "list the system variables that convert",
-            .text = "Prints, as a page in Markdown, the system variables that convert.",
-        },
-        {
-            .command = Command::Faults,
-            .name = "faults",
-            .meaning = "list the known faults of macros",
-            .text = R"(Prints, as a page in Markdown, the known faults of macros that are not
-repaired.)",
-        },
-        {
-            .command = Command::Completion,
-            .name = "completion",
-            .meaning = "print what a shell needs to complete command lines",
-            .operands = Operands::Word,
-            .form = "bash|zsh|fish",
-            .words = completedShells,
-            .takeWord = [](CommandLine& line, const QString& word) { line.shell = word; },
-            .text = R"(Prints what a shell needs to complete command lines of inkmacro. An installed
-inkmacro has put it where shells look for it. Otherwise bash and zsh take it by
-  source <(inkmacro completion bash)
-and fish by
-  inkmacro completion fish | source)",
-        },
-    };
-    return rows;
+    return commandRows;
 }
 
 QStringList commandNames()

@@ -8,6 +8,7 @@
 #include "app/StagedResult.h"
 #include "app/console.h"
 #include "app/earlyEnd.h"
+#include "app/otherProjects.h"
 #include "app/reading.h"
 #include "app/report.h"
 #include "host/db/OdDbClasses.h"
@@ -119,8 +120,12 @@ int convertRead(const Job& job, const Recording& recording, const HostSettings& 
         return printMacro(result.firstFile());
     if (complainOfIncompleteFiles(job))
         return kFailed;
-    placed = result.place();
-    return kDone;
+    // Somebody else may have put a project there meanwhile.
+    QString others;
+    placed = result.place([&] { return (others = otherProjectsIn({job})).isEmpty(); });
+    if (!others.isEmpty())
+        complain(others);
+    return others.isEmpty() ? kDone : kFailed;
 }
 
 /// Gives an exit status.

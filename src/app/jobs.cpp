@@ -2,6 +2,8 @@
 
 #include "app/jobs.h"
 
+#include "app/otherProjects.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -79,7 +81,10 @@ Job jobForStandardOutput(const CommandLine& line)
         throw WrongUse(QString("standard output takes the macro of one recording in one target, not %1")
                            .arg(line.files.size() * line.targets.size()));
     const TargetRow& row = *line.targets.front();
-    return {line.files.front(), &row, QDir::tempPath() + '/' + macroName(line.files.front(), row), true, {}};
+    return {.input = line.files.front(),
+            .target = &row,
+            .macro = QDir::tempPath() + '/' + macroName(line.files.front(), row),
+            .toStandardOutput = true};
 }
 
 std::vector<Job> listJobs(const CommandLine& line)
@@ -94,7 +99,10 @@ std::vector<Job> listJobs(const CommandLine& line)
     for (const QString& input : line.files) {
         const QString own = line.files.size() > 1 ? directory + baseNameOf(input) + '/' : directory;
         for (const TargetRow* row : line.targets)
-            jobs.push_back({input, row, intoDirectory ? macroPath(own, input, *row) : output, false, {}});
+            jobs.push_back({.input = input,
+                            .target = row,
+                            .macro = intoDirectory ? macroPath(own, input, *row) : output,
+                            .replacesOthers = line.force});
     }
     return jobs;
 }
@@ -146,12 +154,17 @@ void orderJobs(std::vector<Job>& jobs)
 
 } // namespace
 
+QStringList Job::projectNames() const
+{
+    return latin(target->projectFiles).split(' ', Qt::SkipEmptyParts);
+}
+
 QStringList Job::projectFiles() const
 {
     const QString directory = macro.left(macro.lastIndexOf('/') + 1);
     const QString project = QFileInfo(macro).baseName();
     QStringList files;
-    for (QString name : latin(target->projectFiles).split(' ', Qt::SkipEmptyParts))
+    for (QString name : projectNames())
         files.append(directory + name.replace("%1", project));
     return files;
 }
@@ -163,6 +176,8 @@ std::vector<Job> planJobs(const CommandLine& line)
     std::vector<Job> jobs = listJobs(line);
     checkInputs(jobs, line);
     checkMacros(jobs);
+    if (const QString others = otherProjectsIn(jobs); !others.isEmpty())
+        throw WrongUse(others);
     orderJobs(jobs);
     return jobs;
 }
