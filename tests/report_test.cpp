@@ -37,7 +37,7 @@ TEST_F(Program, CountsLossesAndFaults)
     write("one.jsonl", R"({"added":{"class":"HostWeldSymbol","handle":"3C","properties":[]}})");
     write("faulty.jsonl", faulty);
     const auto counts = [this](const QStringList& arguments) {
-        const Outcome outcome = run(QStringList{"convert", "--output", "out/"} + arguments);
+        const Outcome outcome = run(QStringList{"convert", "--force", "--output", "out/"} + arguments);
         EXPECT_EQ(outcome.status, 0);
         EXPECT_TRUE(outcome.out.startsWith("out/"));
         return outcome.err;

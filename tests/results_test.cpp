@@ -180,13 +180,34 @@ TEST_F(Results, OfOneFolderComeOneBehindTheOther)
     QProcess process;
     {
         const Hold hold(path("out/walls/csharp"));
-        start(process, QStringList(wallsToCSharp) << "doors.jsonl");
+        start(process, QStringList(wallsToCSharp) << "doors.jsonl"
+                                                  << "--force");
         awaitStaged("walls.csproj");
         EXPECT_EQ(staged("doors.cs"), QStringList());
     }
     EXPECT_EQ(finish(process).status, 0);
     EXPECT_TRUE(exists("out/walls/csharp/walls.cs") && exists("out/walls/csharp/doors.cs"));
     EXPECT_TRUE(contents("out/walls/csharp/Program.cs").contains("doors")) << "the last one's";
+}
+
+TEST_F(Results, BreakNoProjectThatCameMeanwhile)
+{
+    write("walls.jsonl", line);
+    QProcess process;
+    {
+        const Hold hold(path("out/csharp"));
+        start(process, wallsToCSharp);
+        awaitStaged("walls.csproj");
+        for (const char* const name : {"doors.cs", "doors.csproj", "Program.cs"})
+            write(QString("out/csharp/") + name, "others'");
+    }
+    const Outcome outcome = finish(process);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.err.toStdString(),
+              "inkmacro: the project of another recording is in out/csharp/ (doors.csproj); give another --output, or "
+              "--force to replace the files that both have\n");
+    EXPECT_EQ(contents("out/csharp/Program.cs"), "others'");
+    EXPECT_FALSE(exists("out/csharp/walls.cs") || exists("out/csharp/walls.csproj"));
 }
 
 TEST_F(Results, AreMissedWhenTheirFolderVanishes)
@@ -355,7 +376,7 @@ TEST_F(Results, OfACommandAreRefusedBeforeItAsks)
         int status;
         const char* message;
     } cases[] = {
-        {"out/", 2, "inkmacro: --output: \"out/\" is a directory, and run writes a file\nTry 'inkmacro --help'.\n"},
+        {"out/", 2, "inkmacro: --output: \"out/\" is a directory, and run writes a file\nTry 'inkmacro run --help'.\n"},
         {".", 1, "inkmacro: . exists and is not a regular file\n"},
         {"file/b.jsonl", 1, "inkmacro: file/b.jsonl: Not a directory\n"},
         {"file/deeper/b.jsonl", 1, "inkmacro: file/deeper/b.jsonl: Not a directory\n"},

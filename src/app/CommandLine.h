@@ -11,6 +11,8 @@
 
 namespace inkmacro {
 
+struct CommandRow;
+
 /// The caller asked for something that cannot be begun. Nothing has been written when this is thrown.
 class WrongUse : public std::runtime_error
 {
@@ -58,26 +60,30 @@ struct CommandLine
         ReportSchema,
         SystemVariables,
         Faults,
+        Completion,
         Version,
         Help
     };
 
     Command command = Command::Help;
+    const CommandRow* row = nullptr;       ///< of the command; of help, the one that it is about
     QStringList files;                     ///< "-" is standard input, at most once
     std::vector<const TargetRow*> targets; ///< each once, in the order asked for
     std::optional<QString> output;
+    bool force = false; ///< projects of other recordings are replaced
     HostSettings host;
     Telling telling;
     OdDbHandle handle;   ///< of the object whose snapshot is shown
     QString hostCommand; ///< the name of the command that is run
+
+    QString shell; ///< whose completion is printed
     bool json = false;
 };
 
-/// Raises WrongUse.
-CommandLine parseCommandLine(int argc, const char* const* argv);
+/// Raises WrongUse; `row` is the command's then already, when it has been understood.
+void parseCommandLine(int argc, const char* const* argv, CommandLine& line);
 
 QString targetName(const TargetRow& row);
-
-QString helpText();
+QStringList targetNames();
 
 } // namespace inkmacro

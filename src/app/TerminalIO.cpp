@@ -4,6 +4,9 @@
 #include "app/earlyEnd.h"
 #include "app/valueText.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -31,7 +34,7 @@ public:
 
     /// Shows the prompt and takes one line, without its end. `expected` are answers that can be completed. False at the
     /// end of input and when SIGINT came.
-    virtual bool read(const QString& prompt, const std::vector<CFxString>& expected, QByteArray& line) = 0;
+    virtual bool read(const QString& prompt, const CFxExpectedAnswers& expected, QByteArray& line) = 0;
 };
 
 namespace {
@@ -69,7 +72,7 @@ void showAtOnce(const QString& text)
 class PlainReader final : public AnswerReader
 {
 public:
-    bool read(const QString& prompt, const std::vector<CFxString>&, QByteArray& line) override
+    bool read(const QString& prompt, const CFxExpectedAnswers&, QByteArray& line) override
     {
         showAtOnce(prompt + '\n');
         const InterruptBreaks breaks;
@@ -115,16 +118,41 @@ private:
     QByteArray bytes_; ///< read already, and of a later line
 };
 
-/// What both texts begin with, whatever the case.
-QString commonBeginning(const QString& left, const QString& right)
+/// What both texts begin with.
+QString commonBeginning(const QString& left, const QString& right, Qt::CaseSensitivity letters)
 {
     int length = 0;
-    while (length < left.length() && length < right.length() && left[length].toLower() == right[length].toLower())
+    while (length < left.length() && length < right.length() &&
+           left.midRef(length, 1).compare(right.midRef(length, 1), letters) == 0)
         ++length;
     // Half of a letter is none.
     if (length > 0 && left[length - 1].isHighSurrogate())
         --length;
     return left.left(length);
+}
+
+/// Those names of files and folders that the text may be the beginning of, with all that stands in front of them.
+QStringList namesOfFiles(const QString& begun, const QString& pattern)
+{
+    const QString folder = begun.left(begun.lastIndexOf('/') + 1);
+    const bool hidden = begun.startsWith(folder + '.');
+    QStringList names;
+    const auto filters = QDir::Files | QDir::AllDirs | QDir::NoDotAndDotDot;
+    for (const QFileInfo& found : QDir(folder.isEmpty() ? QStringLiteral(".") : folder)
+                                      .entryInfoList({pattern}, hidden ? filters | QDir::Hidden : filters))
+        names.append(folder + found.fileName() + (found.isDir() ? "/" : ""));
+    return names;
+}
+
+/// All of them as far as they are the same, of those that the text is the beginning of.
+QString completed(const QString& begun, const QStringList& answers, Qt::CaseSensitivity letters)
+{
+    QString common;
+    for (const QString& answer : answers)
+        // The editor would show what is in it.
+        if (answer.startsWith(begun, letters) && printable(answer) == answer)
+            common = common.isEmpty() ? answer : commonBeginning(common, answer, letters);
+    return common;
 }
 
 /// Where the environment names no encoding letters are UTF-8, as everywhere in this program; the editor would drop
@@ -199,7 +227,7 @@ public:
         el_end(editor_);
     }
 
-    bool read(const QString& prompt, const std::vector<CFxString>& expected, QByteArray& line) override
+    bool read(const QString& prompt, const CFxExpectedAnswers& expected, QByteArray& line) override
     {
         showAtOnce({});
         const InterruptBreaks breaks;
@@ -237,11 +265,13 @@ private:
         const LineInfoW* const info = el_wline(editor_);
         const auto letters = static_cast<int>(info->cursor - info->buffer);
         const QString begun = QString::fromWCharArray(info->buffer, letters);
-        QString common;
-        for (const QString& answer : *expected_)
-            // The editor would show what is in it.
-            if (answer.startsWith(begun, Qt::CaseInsensitive) && printable(answer) == answer)
-                common = common.isEmpty() ? answer : commonBeginning(common, answer);
+        QStringList answers;
+        for (const CFxString& word : expected_->words)
+            answers.append(word);
+        const bool files = !expected_->files.isEmpty();
+        if (files)
+            answers += namesOfFiles(begun, expected_->files);
+        const QString common = completed(begun, answers, files ? Qt::CaseSensitive : Qt::CaseInsensitive);
         if (common.length() <= begun.length())
             return CC_REFRESH_BEEP;
         el_wdeletestr(editor_, letters);
@@ -253,7 +283,7 @@ private:
     EditLine* editor_;
     History* history_;
     QByteArray prompt_;
-    const std::vector<CFxString>* expected_ = nullptr;
+    const CFxExpectedAnswers* expected_ = nullptr;
 };
 
 /// Of the terminal, when both standard input and standard output are one; else of standard input as it comes.
@@ -277,7 +307,7 @@ void TerminalIO::ShowMessage(const CFxString& message)
     printOut(printable(message) + '\n');
 }
 
-bool TerminalIO::ReadAnswer(const CFxString& prompt, const std::vector<CFxString>& expected, CFxString& answer)
+bool TerminalIO::ReadAnswer(const CFxString& prompt, const CFxExpectedAnswers& expected, CFxString& answer)
 {
     constexpr char escape = 0x1B;
     QByteArray line;

@@ -20,7 +20,7 @@ public:
     void ShowMessage(const CFxString& message) override;
 
 protected:
-    bool ReadAnswer(const CFxString& prompt, const std::vector<CFxString>& expected, CFxString& answer) override;
+    bool ReadAnswer(const CFxString& prompt, const CFxExpectedAnswers& expected, CFxString& answer) override;
 
 private:
     std::unique_ptr<AnswerReader> reader_;

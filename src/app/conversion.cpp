@@ -8,6 +8,7 @@
 #include "app/StagedResult.h"
 #include "app/console.h"
 #include "app/earlyEnd.h"
+#include "app/otherProjects.h"
 #include "app/reading.h"
 #include "app/report.h"
 #include "host/kernel/CFxRegistry.h"
@@ -15,6 +16,7 @@
 #include "recordfile/OpenDrawing.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
 
@@ -58,6 +60,8 @@ std::int32_t runModule(const Job& job, const QString& macro, const Recording& re
 /// not.
 QString failedFile(const Job& job, const StagedResult& result)
 {
+    if (job.toStandardOutput)
+        return job.shownMacro();
     for (const QString& file : job.files())
         if (!result.has(file))
             return file;
@@ -74,8 +78,21 @@ bool complainOfIncompleteFiles(const Job& job)
     return !incomplete.empty();
 }
 
-/// Places the files and gives their paths, or complains and gives none.
-QStringList convertRead(const Job& job, const Recording& recording, const HostSettings& host)
+/// Line by line, so that none is cut where a terminal shows it. Gives an exit status.
+int printMacro(const QString& path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly))
+        while (!file.atEnd() && file.error() == QFileDevice::NoError)
+            printOut(file.readLine());
+    if (file.error() == QFileDevice::NoError)
+        return kDone;
+    complain("the macro cannot be read again: " + file.errorString());
+    return kFailed;
+}
+
+/// Places the files, whose paths it adds, or prints the macro. Gives an exit status, and has complained of a failure.
+int convertRead(const Job& job, const Recording& recording, const HostSettings& host, QStringList& placed)
 {
     StagedResult result(job.files());
     const std::int32_t status = runModule(job, result.firstFile(), recording, host);
@@ -86,9 +103,18 @@ QStringList convertRead(const Job& job, const Recording& recording, const HostSe
         complain(QString("conversion to %1 failed with status %2: %3%4")
                      .arg(targetName(*job.target), QString::number(status), failedFile(job, result),
                           failed.empty() ? QString() : ": " + failed.back().reason));
-        return {};
+        return kFailed;
     }
-    return complainOfIncompleteFiles(job) ? QStringList() : result.place();
+    if (job.toStandardOutput)
+        return printMacro(result.firstFile());
+    if (complainOfIncompleteFiles(job))
+        return kFailed;
+    // Somebody else may have put a project there meanwhile.
+    QString others;
+    placed = result.place([&] { return (others = otherProjectsIn({job})).isEmpty(); });
+    if (!others.isEmpty())
+        complain(others);
+    return others.isEmpty() ? kDone : kFailed;
 }
 
 /// Gives an exit status.
@@ -96,20 +122,20 @@ int convertOrComplain(const Job& job, const HostSettings& host, Recording& recor
 {
     if (!readOrComplain(job.input, recording))
         return kUnreadable;
-    if (const QString refusal = refusalOf(job.files()); !refusal.isEmpty()) {
+    const QString refusal = job.toStandardOutput ? QString() : refusalOf(job.files());
+    if (!refusal.isEmpty()) {
         complain(refusal);
         return kFailed;
     }
     try {
-        placed = convertRead(job, recording, host);
-        return placed.isEmpty() ? kFailed : kDone;
+        return convertRead(job, recording, host, placed);
     } catch (const PlacingError& error) {
         complain(error.message());
     } catch (const std::bad_alloc&) {
         endWithoutMemory();
     } catch (const std::exception& error) {
         complain(QString("conversion to %1 failed: %2: %3")
-                     .arg(targetName(*job.target), QString::fromUtf8(error.what()), job.macro));
+                     .arg(targetName(*job.target), QString::fromUtf8(error.what()), job.shownMacro()));
     }
     return kFailed;
 }
@@ -130,7 +156,7 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling)
     const int status = convertOrComplain(job, host, recording, placed);
     const QString counts = countText(notes.GetLossCount(), notes.GetFaultCount());
     if (status == kDone && !telling.quiet && !counts.isEmpty())
-        printLine(job.macro + ": " + counts + (asked ? "" : "; see --report"));
+        printLine(job.shownMacro() + ": " + counts + (asked ? "" : "; see --report"));
     if (asked) {
         nameWork(QString("reporting on %1 to %2%3")
                      .arg(job.input, targetName(*job.target), status == kDone ? ", whose files are written" : ""));

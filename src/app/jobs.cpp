@@ -2,6 +2,8 @@
 
 #include "app/jobs.h"
 
+#include "app/otherProjects.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -37,9 +39,14 @@ bool isDirectory(const QString& path)
     return path.endsWith('/') || QFileInfo(path).isDir();
 }
 
+QString macroName(const QString& input, const TargetRow& row)
+{
+    return baseNameOf(input) + '.' + latin(row.extension);
+}
+
 QString macroPath(const QString& directory, const QString& input, const TargetRow& row)
 {
-    return directory + targetName(row) + '/' + baseNameOf(input) + '.' + latin(row.extension);
+    return directory + targetName(row) + '/' + macroName(input, row);
 }
 
 QString identity(const struct stat& found)
@@ -67,21 +74,36 @@ QString placeOfInput(const QString& input)
     return fstat(STDIN_FILENO, &found) == 0 && S_ISREG(found.st_mode) ? identity(found) : QString();
 }
 
+/// The macro's name, which stands in its text, is the one that it would have in a folder.
+Job jobForStandardOutput(const CommandLine& line)
+{
+    if (line.files.size() * line.targets.size() != 1)
+        throw WrongUse(QString("standard output takes the macro of one recording in one target, not %1")
+                           .arg(line.files.size() * line.targets.size()));
+    const TargetRow& row = *line.targets.front();
+    return {.input = line.files.front(),
+            .target = &row,
+            .macro = QDir::tempPath() + '/' + macroName(line.files.front(), row),
+            .toStandardOutput = true};
+}
+
 std::vector<Job> listJobs(const CommandLine& line)
 {
     std::vector<Job> jobs;
     const QString output = line.output.value_or(QString());
-    const bool intoDirectory = output.isEmpty() || isDirectory(output);
+    const bool several = line.files.size() * line.targets.size() > 1;
+    if (several && QFileInfo(output).isFile())
+        throw WrongUse(QString("the results cannot all be %1, which is a file; a directory is needed").arg(output));
+    const bool intoDirectory = several || output.isEmpty() || isDirectory(output);
     const QString directory = output.isEmpty() || output.endsWith('/') ? output : output + '/';
     for (const QString& input : line.files) {
         const QString own = line.files.size() > 1 ? directory + baseNameOf(input) + '/' : directory;
         for (const TargetRow* row : line.targets)
-            jobs.push_back({input, row, intoDirectory ? macroPath(own, input, *row) : output, {}});
+            jobs.push_back({.input = input,
+                            .target = row,
+                            .macro = intoDirectory ? macroPath(own, input, *row) : output,
+                            .replacesOthers = line.force});
     }
-    if (!intoDirectory && jobs.size() > 1)
-        throw WrongUse(QString("%1 results cannot all be %2; a directory is needed, with / at its end")
-                           .arg(jobs.size())
-                           .arg(output));
     return jobs;
 }
 
@@ -132,21 +154,30 @@ void orderJobs(std::vector<Job>& jobs)
 
 } // namespace
 
+QStringList Job::projectNames() const
+{
+    return latin(target->projectFiles).split(' ', Qt::SkipEmptyParts);
+}
+
 QStringList Job::projectFiles() const
 {
     const QString directory = macro.left(macro.lastIndexOf('/') + 1);
     const QString project = QFileInfo(macro).baseName();
     QStringList files;
-    for (QString name : latin(target->projectFiles).split(' ', Qt::SkipEmptyParts))
+    for (QString name : projectNames())
         files.append(directory + name.replace("%1", project));
     return files;
 }
 
 std::vector<Job> planJobs(const CommandLine& line)
 {
+    if (line.output == "-")
+        return {jobForStandardOutput(line)};
     std::vector<Job> jobs = listJobs(line);
     checkInputs(jobs, line);
     checkMacros(jobs);
+    if (const QString others = otherProjectsIn(jobs); !others.isEmpty())
+        throw WrongUse(others);
     orderJobs(jobs);
     return jobs;
 }

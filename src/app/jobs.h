@@ -9,13 +9,19 @@ struct Job
 {
     QString input; ///< "-" is standard input
     const TargetRow* target;
-    QString macro;
-    std::vector<std::size_t> behind; ///< numbers of earlier jobs that write one of the same files
+    QString macro;                 ///< on its way to standard output it has a name too, which is never written to
+    bool toStandardOutput = false; ///< the macro alone
+    bool replacesOthers = false;   ///< files of another recording's project too
+    std::vector<std::size_t> behind = {}; ///< numbers of earlier jobs that write one of the same files
 
+    /// The names of the files in projects of the target; `%1` stands for that of the macro.
+    QStringList projectNames() const;
     /// The files of the project around the macro. The module names them after the macro and puts them beside it.
     QStringList projectFiles() const;
     /// Those behind the macro.
     QStringList files() const { return QStringList(macro) + projectFiles(); }
+    /// What messages call the macro.
+    QString shownMacro() const { return toStandardOutput ? QStringLiteral("standard output") : macro; }
 };
 
 /// What a `convert` asks for: file by file, and within a file target by target. Of several recordings each has a folder

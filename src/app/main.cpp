@@ -2,10 +2,13 @@
 
 #include "app/CommandLine.h"
 #include "app/ExitStatus.h"
+#include "app/commandTable.h"
+#include "app/completion.h"
 #include "app/console.h"
 #include "app/conversion.h"
 #include "app/earlyEnd.h"
 #include "app/fileNames.h"
+#include "app/helpPages.h"
 #include "app/inspection.h"
 #include "app/optionNames.h"
 #include "app/pages.h"
@@ -18,15 +21,24 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <optional>
 
 using namespace inkmacro;
 
 namespace {
 
+/// The projects of the other targets do not look for the application's libraries.
+bool usesInstallDir(const TargetRow* row)
+{
+    return row->target == Target::Cpp || row->target == Target::CppCom;
+}
+
 int convert(const CommandLine& line)
 {
     const std::vector<Job> jobs = planJobs(line);
+    if (line.host.installDir && std::none_of(line.targets.begin(), line.targets.end(), usesInstallDir))
+        complain("--install-dir has no effect here: only the targets cpp and cppcom use it");
     if (line.host.optionNames && !readOptionNamesOrComplain(*line.host.optionNames))
         return kUnreadable;
     if (jobs.size() != 1)
@@ -62,11 +74,14 @@ int run(const CommandLine& line)
     case CommandLine::Command::Faults:
         printOut(knownFaultsPage());
         break;
+    case CommandLine::Command::Completion:
+        printOut(completionFor(line.shell));
+        break;
     case CommandLine::Command::Version:
         printOut(QByteArray("inkmacro " INKMACRO_VERSION "\n"));
         break;
     case CommandLine::Command::Help:
-        printOut(helpText());
+        printOut(helpPage(line.row));
         break;
     }
     return kDone;
@@ -74,11 +89,13 @@ int run(const CommandLine& line)
 
 int parseAndRun(int argc, const char* const* argv)
 {
+    CommandLine line;
     try {
-        return run(parseCommandLine(argc, argv));
+        parseCommandLine(argc, argv, line);
+        return run(line);
     } catch (const WrongUse& wrong) {
         complain(wrong.message());
-        printLine("Try 'inkmacro --help'.");
+        printLine(QString("Try 'inkmacro %1--help'.").arg(line.row ? QString(line.row->name) + ' ' : QString()));
         return kWrongUse;
     }
 }

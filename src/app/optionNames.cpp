@@ -4,6 +4,7 @@
 #include "app/console.h"
 #include "host/kernel/CFxServices.h"
 #include "recordfile/Recording.h"
+#include "recordfile/foreignForm.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -84,6 +85,11 @@ bool readOptionNames(const QString& path, RecordingError& error)
     const std::optional<QByteArray> text = readAll(path, error);
     if (!text)
         return false;
+    if (const QString foreign = foreignForm({text->constData(), static_cast<std::size_t>(text->size())});
+        !foreign.isEmpty()) {
+        error.message = "cannot be read: " + foreign;
+        return false;
+    }
     QJsonParseError fault;
     const QJsonDocument document = QJsonDocument::fromJson(*text, &fault);
     if (fault.error != QJsonParseError::NoError) {
@@ -110,7 +116,7 @@ bool readOptionNamesOrComplain(const QString& path)
     RecordingError error{path, 0, {}, {}};
     if (readOptionNames(path, error))
         return true;
-    printError((error.text() + '\n').toLocal8Bit());
+    printLine(error.text());
     return false;
 }
 

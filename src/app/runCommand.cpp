@@ -10,6 +10,7 @@
 #include "app/earlyEnd.h"
 #include "app/reading.h"
 #include "host/kernel/CFxCommand.h"
+#include "recordfile/AddedEntities.h"
 #include "recordfile/OpenDrawing.h"
 #include "recordfile/RecordingWriter.h"
 
@@ -59,14 +60,22 @@ void updateDrawing(Recording& recording, const QString& output)
             folder = to.relativeFilePath(from.absoluteFilePath(folder));
 }
 
+/// A recording that a command has changed.
+struct Changed
+{
+    const Recording& recording;
+    const AddedEntities& added;
+};
+
 /// False when `mayReplace` forbids it. Raises PlacingError.
-bool write(const Recording& recording, const QString& output, const std::function<bool()>& mayReplace = {})
+bool write(const Changed& changed, const QString& output, const std::function<bool()>& mayReplace = {})
 {
     StagedResult result({output});
     QFile file(result.firstFile());
     if (!file.open(QIODevice::WriteOnly))
         throw PlacingError(output, file.errorString());
-    if (!WriteRecording(recording, file) || !file.flush())
+    const auto leavesOut = [&](const OdDbObject& object) { return changed.added.isUntouched(object); };
+    if (!WriteRecording(changed.recording, file, leavesOut) || !file.flush())
         throw PlacingError(output, file.error() == QFileDevice::NoError
                                        ? "the drawing has data that no recording can hold"
                                        : file.errorString());
@@ -75,23 +84,23 @@ bool write(const Recording& recording, const QString& output, const std::functio
 }
 
 /// To a file that nothing stands at, beside the one that others have changed; gives its name. Raises PlacingError.
-QString writeBeside(const Recording& recording, const QString& output)
+QString writeBeside(const Changed& changed, const QString& output)
 {
     const auto isFree = [](const QString& name) { return !QFileInfo::exists(name) && !QFileInfo(name).isSymLink(); };
     QString name = output + ".new";
-    for (int number = 2; !isFree(name) || !write(recording, name, [&] { return isFree(name); }); ++number)
+    for (int number = 2; !isFree(name) || !write(changed, name, [&] { return isFree(name); }); ++number)
         name = output + ".new" + QString::number(number);
     return name;
 }
 
 /// In the place of the recording as it was read; else beside it, with a message and false. Raises PlacingError.
-bool writeBack(const Recording& recording, const QString& path, const FilePrint& asRead)
+bool writeBack(const Changed& changed, const QString& path, const FilePrint& asRead)
 {
     // The lock is that of the folder where the file is, whatever links lead there.
     const QString file = QFileInfo(path).isSymLink() ? QFileInfo(path).canonicalFilePath() : path;
-    if (!file.isEmpty() && write(recording, file, [&] { return asRead.stillHolds(); }))
+    if (!file.isEmpty() && write(changed, file, [&] { return asRead.stillHolds(); }))
         return true;
-    const QString beside = writeBeside(recording, path);
+    const QString beside = writeBeside(changed, path);
     complain(QString("%1 was changed by somebody else meanwhile and stays as it is; the new drawing is in %2")
                  .arg(path, beside));
     return false;
@@ -115,19 +124,21 @@ int runCommand(const QString& path, const QString& name, const QString& output)
         complain(refusal);
         return kFailed;
     }
+    const AddedEntities added(recording);
     const OpenDrawing drawing(recording);
     const std::int32_t status = execute(*command, *recording.database);
     for (const CFxString& problem : GetFxSystemServices()->GetProblems())
         complain(problem);
     if (status != kFxSuccess) {
-        complain(QString("%1 ended with status %2").arg(command->localName()).arg(status));
+        const QString how = status == kFxCancelled ? "was cancelled" : QString("ended with status %1").arg(status);
+        complain(QString("%1 %2; nothing is written").arg(command->localName(), how));
         return kFailed;
     }
     updateDrawing(recording, output);
     try {
         if (asRead)
-            return writeBack(recording, output, *asRead) ? kDone : kFailed;
-        write(recording, output);
+            return writeBack({recording, added}, output, *asRead) ? kDone : kFailed;
+        write({recording, added}, output);
     } catch (const PlacingError& error) {
         complain(error.message());
         return kFailed;

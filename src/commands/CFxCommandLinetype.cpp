@@ -5,6 +5,7 @@
 #include "host/db/LineStyleFile.h"
 #include "host/db/odutWcMatch.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
@@ -48,10 +49,28 @@ CFxStatus askForFile(CFxUserIO& io, FileUse use, CFxString& path)
                       path);
 }
 
-/// A name and the file that it may be in; kFxNothing when the user leaves one of them out.
-CFxStatus askForStyles(CFxUserIO& io, CFxString& name, CFxString& path)
+/// The star for all, and the names in the files of the drawing's folders and of the current one.
+std::vector<CFxString> namesInFiles(const OdDbDatabase& database)
 {
-    if (const CFxStatus status = io.GetString(texts("Specify LineStyle"), name, {"*"}); status != kFxSuccess)
+    std::vector<OdString> folders = database.lineStyleFolders();
+    folders.emplace_back(QDir::currentPath());
+    std::vector<CFxString> names{"*"};
+    for (const OdString& folder : folders) {
+        const QDir directory(folder);
+        for (const QString& name : directory.entryList({"*.lin"}, QDir::Files)) {
+            LineStyleFile file(directory.filePath(name));
+            for (LineStyleFile::Style style; file.next(style);)
+                names.emplace_back(style.name);
+        }
+    }
+    return names;
+}
+
+/// A name and the file that it may be in; kFxNothing when the user leaves one of them out.
+CFxStatus askForStyles(CFxUserIO& io, const OdDbDatabase& database, CFxString& name, CFxString& path)
+{
+    const CFxStatus status = io.GetString(texts("Specify LineStyle"), name, namesInFiles(database));
+    if (status != kFxSuccess)
         return status;
     return name.isEmpty() ? kFxNothing : askForFile(io, FileUse::Read, path);
 }
@@ -66,11 +85,11 @@ std::vector<LineStyleFile::Style> stylesIn(const QString& path, const QString& f
     return styles;
 }
 
-CFxStatus list(CFxUserIO& io)
+CFxStatus list(CFxUserIO& io, const OdDbDatabase& database)
 {
     CFxString filter;
     CFxString path;
-    if (const CFxStatus status = askForStyles(io, filter, path); status != kFxSuccess)
+    if (const CFxStatus status = askForStyles(io, database, filter, path); status != kFxSuccess)
         return status;
     io.ShowMessage(texts("LineStyles defined in file %1").toQString().arg(path.toQString()));
     io.ShowMessage(QString(" %1 %2 ").arg(texts("Name").toQString(), texts("Description")));
@@ -202,7 +221,7 @@ CFxStatus load(CFxUserIO& io, OdDbDatabase& database)
 {
     CFxString wanted;
     CFxString path;
-    if (const CFxStatus status = askForStyles(io, wanted, path); status != kFxSuccess)
+    if (const CFxStatus status = askForStyles(io, database, wanted, path); status != kFxSuccess)
         return status;
     const bool all = wanted.toQString() == "*";
     std::vector<LineStyleFile::Style> styles = loadableStylesIn(path, wanted);
@@ -281,7 +300,7 @@ std::int32_t CFxCommandLinetype::Execute(CFxCommandContext* context)
         if (status != kFxSuccess)
             return status;
         if (option.equalNoCase("_?"))
-            status = list(*io);
+            status = list(*io, database);
         else if (option.equalNoCase("_CREATE"))
             status = create(*io);
         else if (option.equalNoCase("_LOAD"))

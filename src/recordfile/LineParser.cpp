@@ -1,5 +1,6 @@
 #include "recordfile/LineParser.h"
 
+#include "recordfile/foreignForm.h"
 #include "recordfile/jsonFaults.h"
 
 #include <QIODevice>
@@ -44,6 +45,11 @@ void LineParser::fill(LineBatch& batch)
         if (outcome != LineReader::Outcome::Line) {
             const bool failed = outcome == LineReader::Outcome::Failed;
             batch.ending = {outcome, number_, failed ? device_.errorString() : QString()};
+            break;
+        }
+        const QString foreign = number_ == 1 ? foreignForm(line) : QString();
+        if (!foreign.isEmpty()) {
+            batch.ending = {LineReader::Outcome::Failed, number_, foreign};
             break;
         }
         bytes += line.size();

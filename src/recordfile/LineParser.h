@@ -26,8 +26,8 @@ struct LineBatch
     struct Ending
     {
         LineReader::Outcome outcome;
-        qint64 number;       ///< of the line that is not there
-        QString deviceError; ///< when it could not be read
+        qint64 number;  ///< of the line that is not there
+        QString reason; ///< why it could not be read, when that is so
     };
 
     std::vector<ParsedLine> lines; ///< the first `count` of them

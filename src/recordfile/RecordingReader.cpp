@@ -78,7 +78,7 @@ std::optional<RecordingError> errorOf(const LineBatch::Ending& ending, const QSt
 {
     switch (ending.outcome) {
     case LineReader::Outcome::Failed:
-        return RecordingError{name, 0, {}, "cannot be read: " + ending.deviceError};
+        return RecordingError{name, 0, {}, "cannot be read: " + ending.reason};
     case LineReader::Outcome::TooLong:
         return RecordingError{name, ending.number, {}, QString("the line is longer than %1 bytes").arg(longestLine)};
     default:

@@ -47,14 +47,18 @@ private:
 
 } // namespace
 
-bool WriteRecording(const Recording& recording, QIODevice& device)
+bool WriteRecording(const Recording& recording, QIODevice& device,
+                    const std::function<bool(const OdDbObject&)>& leavesOut)
 {
     Lines lines(device, static_cast<CFxValueContext>(recording.header.context));
     lines.write(kHeaderLine, [&](JsonOut& out) { Form<Recording::Header>::write(out, recording.header); });
     if (recording.drawing != Recording::Drawing())
         lines.write(kDrawingLine, [&](JsonOut& out) { Form<Recording::Drawing>::write(out, recording.drawing); });
-    for (const OdDbObjectId& id : recording.database->objectIds())
-        lines.write(kObjectLine, [&](JsonOut& out) { DrawingObjectForm::write(out, *id.openObject(true)); });
+    for (const OdDbObjectId& id : recording.database->objectIds()) {
+        const OdDbObjectPtr object = id.openObject(true);
+        if (!leavesOut || !leavesOut(*object))
+            lines.write(kObjectLine, [&](JsonOut& out) { DrawingObjectForm::write(out, *object); });
+    }
     for (const OdRxObjectPtr& action : recording.actions)
         lines.write(action);
     return lines.good();

@@ -66,8 +66,9 @@ def check_reports(program, files):
     faults = []
     found = {"losses": 0, "faults": 0}
     with tempfile.TemporaryDirectory() as folder:
-        for file in files:
-            report = output(program, "convert", file, "--target", "all", "--output", folder, "--report", "--quiet")
+        for number, file in enumerate(files):
+            report = output(program, "convert", file, "--target", "all", "--output", f"{folder}/{number}/", "--report",
+                            "--quiet")
             error = jsonschema.exceptions.best_match(validator.iter_errors(report))
             if error:
                 faults.append(f"the report of {file}: {error.json_path}: {error.message}")

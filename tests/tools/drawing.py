@@ -528,7 +528,7 @@ class Comparison(expected.Comparison):
         """What the program reports as lost: of added objects the handles, each with the tag of a property or with none,
         of changes the tags, and whole custom actions."""
         report = harness.run(self._program, "convert", macro.recording, "--target", self._target, "--repair",
-                             "--report", "--output", macro.folder / "reported" / macro.file.name)
+                             "--report", "--force", "--output", macro.folder / "reported" / macro.file.name)
         lines = macro.recording.read_text(encoding="utf-8-sig").split("\n")
         lost = set()
         for loss in json.loads(report.stdout)["conversions"][0]["losses"]:

@@ -130,8 +130,9 @@ class Checked:
             skip(f"the program has no target {target}")
         if not recordings:
             return []
-        result = run(self.program, "convert", *recordings, "--target", target, "--output", f"{folder}/", "--report",
-                     "--quiet", *options)
+        # Several calls may share the folder: it is the macros that count.
+        result = run(self.program, "convert", *recordings, "--target", target, "--output", f"{folder}/", "--force",
+                     "--report", "--quiet", *options)
         if result.returncode != 0:
             sys.exit(f"the recordings do not convert to {target}: {result.stderr}")
         macros = []

@@ -24,7 +24,7 @@ public:
     QStringList shown;
 
 protected:
-    bool ReadAnswer(const CFxString& prompt, const std::vector<CFxString>&, CFxString& answer) override
+    bool ReadAnswer(const CFxString& prompt, const CFxExpectedAnswers&, CFxString& answer) override
     {
         const QString next = answers_.isEmpty() ? QString(kCancel) : answers_.takeFirst();
         shown.append(prompt.toQString() + (next == kCancel ? QString() : next));

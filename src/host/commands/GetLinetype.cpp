@@ -18,6 +18,17 @@ OdDbLinetypeTableRecordPtr findLineStyle(OdDbDatabase& database, const QString& 
     return record;
 }
 
+std::vector<CFxString> lineStyleNames(OdDbDatabase& database, bool layerAndBlock)
+{
+    std::vector<CFxString> names{"Continuous"};
+    if (layerAndBlock)
+        names.insert(names.end(), {"ByLayer", "ByBlock"});
+    for (const OdDbObjectId& id : database.objectIds())
+        if (const auto record = odrxQuery<OdDbLinetypeTableRecord>(id.openObject().get()))
+            names.emplace_back(record->getName());
+    return names;
+}
+
 } // namespace
 
 // NOLINTBEGIN(performance-unnecessary-value-param): the host declares it so.
@@ -30,7 +41,9 @@ std::int32_t GetLinetype(CFxCommandContext* context, OdDbLinetypeTableRecordPtr&
     if (!io)
         return kFxFailure;
     CFxString name;
-    if (const CFxStatus status = io->GetString(several ? promptForSeveral : prompt, name); status != kFxSuccess)
+    const CFxStatus status =
+        io->GetString(several ? promptForSeveral : prompt, name, lineStyleNames(context->GetDatabase(), layerAndBlock));
+    if (status != kFxSuccess)
         return status;
     if (name.isEmpty())
         return kFxNothing;

@@ -54,7 +54,7 @@ CFxStatus CFxUserIO::GetKeyword(const CFxString& prompt, const CFxKeywordArray& 
     const QString shown = keywords.GetShown(global);
     const CFxString asked = question(shown.isEmpty() ? prompt : CFxString(prompt.toQString() + " <" + shown + '>'));
     CFxString answer;
-    while (ReadAnswer(asked, keywords.GetAnswers(), answer)) {
+    while (ReadAnswer(asked, {keywords.GetAnswers(), {}}, answer)) {
         const QString word = answer.toQString().trimmed();
         if (word.isEmpty())
             return shown.isEmpty() ? kFxNothing : kFxSuccess;
@@ -71,7 +71,7 @@ CFxStatus CFxUserIO::GetKeyword(const CFxString& prompt, const CFxKeywordArray& 
 
 CFxStatus CFxUserIO::GetString(const CFxString& prompt, CFxString& text, const std::vector<CFxString>& expected)
 {
-    while (ReadAnswer(question(prompt), expected, text)) {
+    while (ReadAnswer(question(prompt), {expected, {}}, text)) {
         if (text.toQString().isValidUtf16())
             return kFxSuccess;
         ShowMessage("The text has bytes that are no characters.");
@@ -133,7 +133,7 @@ bool CFxUserIO::FindEntities(const CFxString& answer, std::vector<OdDbObjectId>&
 CFxStatus CFxUserIO::GetSelection(CFxSelectionSet& set, std::uint32_t, std::int32_t)
 {
     CFxString answer;
-    while (ReadAnswer(question("Specify entities"), {"all"}, answer)) {
+    while (ReadAnswer(question("Specify entities"), {{"all"}, {}}, answer)) {
         std::vector<OdDbObjectId> ids;
         if (!FindEntities(answer, ids))
             continue;
@@ -150,8 +150,9 @@ CFxStatus CFxUserIO::GetFile(const CFxFileQuestion& wanted, CFxString& path)
     CFxKeywordArray none;
     none.Add(wanted.noneLocal, wanted.noneGlobal);
     const CFxString asked = question(none.BuildPrompt("Specify " + wanted.word.toQString()));
+    const CFxExpectedAnswers expected{none.GetAnswers(), wanted.filter.toQString().section('&', 1, 1)};
     CFxString answer;
-    while (ReadAnswer(asked, {}, answer)) {
+    while (ReadAnswer(asked, expected, answer)) {
         if (answer.isEmpty() || !none.Find(answer).empty())
             return kFxNothing;
         const QFileInfo file(QDir().absoluteFilePath(answer));

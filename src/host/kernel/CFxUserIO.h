@@ -18,6 +18,13 @@ struct CFxFileQuestion
     bool existing; ///< the file must be there already
 };
 
+/// Answers that a user may want help to enter.
+struct CFxExpectedAnswers
+{
+    std::vector<CFxString> words;
+    CFxString files; ///< names of files of that pattern, as in "*.lin"; none when it is empty
+};
+
 /// The host's input object: what a command asks its user. An answer that cannot be is told and asked for again. All
 /// prompts give kFxSuccess, kFxNothing for an empty answer where one may be, or kFxCancelled; what they fill in counts
 /// after kFxSuccess alone. Where the questions go to and the answers come from is up to who derives from it.
@@ -47,7 +54,7 @@ public:
 
 protected:
     /// One answer, without the end of its line; false for a cancel.
-    virtual bool ReadAnswer(const CFxString& prompt, const std::vector<CFxString>& expected, CFxString& answer) = 0;
+    virtual bool ReadAnswer(const CFxString& prompt, const CFxExpectedAnswers& expected, CFxString& answer) = 0;
 
 private:
     std::vector<OdDbObjectId> AllEntities() const;

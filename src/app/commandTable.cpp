@@ -1,0 +1,353 @@
+#include "app/commandTable.h"
+
+#include "app/completion.h"
+#include "app/optionValues.h"
+
+#include <algorithm>
+
+namespace inkmacro {
+
+namespace {
+
+using Command = CommandLine::Command;
+
+const OptionRow helpOption = {
+    .name = "--help",
+    .letter = 'h',
+    .take = [](CommandLine& line, const QString&) { line.command = Command::Help; },
+    .meaning = "tell how it is used",
+    .text = "Show this text.",
+};
+
+const OptionRow versionOption = {
+    .name = "--version",
+    .take = [](CommandLine& line, const QString&) { line.command = Command::Version; },
+    .meaning = "tell the version of the program",
+    .text = "Show the version of the program.",
+};
+
+const OptionRow jsonOption = {
+    .name = "--json",
+    .take = [](CommandLine& line, const QString&) { line.json = true; },
+    .meaning = "print JSON",
+    .text = "Print one JSON document, for programs.",
+};
+
+const std::vector<OptionRow> convertOptions = {
+    {
+        .name = "--target",
+        .letter = 't',
+        .form = "TARGET[,TARGET...]|all",
+        .offer = Offer::Lists,
+        .words = [] { return targetNames() + QStringList("all"); },
+        .take = takeTargets,
+        .meaning = "the languages to write",
+        .text = R"(The languages to write, by names or codes in any case, or all of them.
+Blanks may stand behind the commas, and the option may be given again.)",
+        .required = true,
+        .repeats = true,
+    },
+    {
+        .name = "--output",
+        .letter = 'o',
+        .form = "PATH",
+        .offer = Offer::Files,
+        .take = takeOutput,
+        .meaning = "where to write",
+        .text = R"(The macro file, or a directory: when it ends in / or is one, and when
+there are several results. Then a folder with the name of the target is
+made in it for each target, and the macro is named after the recording:
+walls.jsonl becomes PATH/csharp/walls.cs, standard input
+PATH/csharp/recording.cs. Of several recordings each has a folder of its
+own in front: PATH/walls/csharp/walls.cs. Without this option the current
+directory is taken. Existing files are replaced when the new ones are
+whole, and stay when a conversion fails or is broken off; a recording that
+is being read is never replaced. With - the macro of one recording in one
+target, without its project, goes to standard output in place of the
+paths.)",
+    },
+    {
+        .name = "--force",
+        .letter = 'f',
+        .take = [](CommandLine& line, const QString&) { line.force = true; },
+        .meaning = "replace files of another recording's project",
+        .text = R"(Projects share names of files, as Program.cs, so the project of another
+recording in the same folder would no longer work; nothing is written then
+without this option.)",
+    },
+    {
+        .name = "--replay",
+        .take = [](CommandLine& line, const QString&) { line.host.replay = true; },
+        .meaning = "macros that ask again what the recorded commands asked",
+        .text = R"(The macro stops where the recorded command asked its user something,
+offers the recorded answer, and sets the system variables that changed.
+Without it the recording's header says.)",
+    },
+    {
+        .name = "--repair",
+        .take = [](CommandLine& line, const QString&) { line.host.repair = true; },
+        .meaning = "macros without the known faults",
+        .text = R"(Without it a macro is as the application's own recorder writes it, with
+faults by which its language or its host rejects it; and a recorded text
+with a quotation mark in it can become code. With it they are mended: all
+that the user entered stays text.)",
+    },
+    {
+        .name = "--recording-language",
+        .form = "N",
+        .offer = Offer::Words,
+        .words = recordingLanguages,
+        .take = takeRecordingLanguage,
+        .meaning = "the language that the host records in",
+        .text = R"(The host setting that decides on the byte order mark and on the form of
+type names, 0 to 5. Without it the recording's header says, or else the
+code of the target is taken.)",
+    },
+    {
+        .name = "--install-dir",
+        .form = "DIR",
+        .take = [](CommandLine& line, const QString& value) { line.host.installDir = value; },
+        .meaning = "where the application is installed",
+        .text = R"(Where the application is installed, as C:\Inkwright\ with a backslash at
+its end: the C++ projects look for its libraries below it. No other target
+uses it, which is said when none of these is asked for.)",
+    },
+    {
+        .name = "--option-names",
+        .form = "FILE",
+        .offer = Offer::Files,
+        .take = [](CommandLine& line, const QString& value) { line.host.optionNames = value; },
+        .meaning = "names of the options of system variables",
+        .text = R"(The names by which the interface knows the options of system variables: a
+JSON object of variables and enumerators, like
+{"LTSCALE": "iwCommandOptionDouble_SetLTSCALE"}. They replace those that
+system-variables shows. Nothing is converted when the file is faulty.)",
+    },
+    {
+        .name = "--line-styles",
+        .form = "DIR",
+        .offer = Offer::Folders,
+        .take = takeLineStyles,
+        .meaning = "where files of line styles are",
+        .text = R"(Where files of line styles (*.lin) are: a macro loads a recorded line
+style from the first of them that holds it, those of the folders that
+the recording names coming behind. A style without a file is loaded
+under an empty file name, which is reported.)",
+    },
+    {
+        .name = "--report",
+        .form = "text",
+        .offer = Offer::Words,
+        .words =
+            [] {
+                return QStringList{"json", "text"};
+            },
+        .take = takeReport,
+        .meaning = "tell what is lost and what is faulty",
+        .text = R"(Print in place of the paths, as one JSON document, what each macro lacks
+of what the user did, with its place in the recording, and where macro and
+project are rejected or misread by their own language or host, with the
+line and whether --repair mends it. With =text as tables for a person.)",
+        .mayLack = true,
+    },
+    {
+        .name = "--quiet",
+        .letter = 'q',
+        .take = [](CommandLine& line, const QString&) { line.telling.quiet = true; },
+        .meaning = "no counts of what is lost and faulty",
+        .text = "Do not count on standard error what a macro lacks and its faults.",
+    },
+};
+
+const std::vector<OptionRow> snapshotOptions = {
+    {
+        .name = "--handle",
+        .form = "H",
+        .take = takeHandle,
+        .meaning = "the object of the drawing",
+        .text = "The object's handle, a hexadecimal number.",
+        .required = true,
+    },
+    jsonOption,
+};
+
+const std::vector<OptionRow> runOptions = {
+    {
+        .name = "--command",
+        .form = "NAME",
+        .offer = Offer::Names,
+        .words =
+            [] {
+                return QStringList{"-HYPERLINK", "-LINESTYLE"};
+            },
+        .take = [](CommandLine& line, const QString& value) { line.hostCommand = value; },
+        .meaning = "the command that is run",
+        .text = R"(-HYPERLINK or -LINESTYLE, with or without a leading underscore, in any
+case.)",
+        .required = true,
+    },
+    {
+        .name = "--output",
+        .letter = 'o',
+        .form = "FILE",
+        .offer = Offer::Files,
+        .take = takeOutput,
+        .meaning = "where the changed recording goes to",
+        .text = "The file that the changed recording goes to, in place of FILE itself.",
+    },
+};
+
+const char* const convertText = R"(Writes each recording as a macro, and the project around it, in each of the
+targets.
+
+Several files or targets are converted side by side; one that fails does not
+stop the others. Standard output holds the paths written, one a line, the
+macro before its project; messages go to standard error, and so does a line
+like "walls.cs: 3 steps lost, 2 faults; see --report" for each macro that has
+any.)";
+
+const char* const runText = R"(Runs a command of the macro writer on the drawing of a recording.
+
+It asks on standard output, a line a prompt, and takes a line of standard
+input as the answer; at a terminal it can be edited, and Tab completes it,
+names of files and line styles too. An option is entered by its capital
+letters, by its beginning or whole, an empty line takes the one in <>. A point
+is x,y or x,y,z; entities are handles with blanks between them, or all: those
+of the drawing and those that the recording adds. Ctrl+C, Esc with Enter and
+the end of input cancel the command. When it has ended well the recording with
+the changed drawing replaces FILE, or is written to the file of --output; else
+nothing is written. When somebody else has changed FILE meanwhile it stays as
+it is, and the new recording goes to FILE.new, or FILE.new2 and so on, which
+is never replaced.)";
+
+const std::vector<CommandRow> commandRows = {
+    {
+        .command = Command::Convert,
+        .name = "convert",
+        .meaning = "write recordings as macros",
+        .operands = Operands::Files,
+        .form = "FILE...",
+        .text = convertText,
+        .options = convertOptions,
+    },
+    {
+        .command = Command::Inspect,
+        .name = "inspect",
+        .meaning = "show the actions of a recording",
+        .operands = Operands::File,
+        .form = "FILE",
+        .text = "Shows the actions of a recording as a tree, with counts.",
+        .options = {jsonOption},
+    },
+    {
+        .command = Command::Check,
+        .name = "check",
+        .meaning = "read recordings and say what is wrong with them",
+        .operands = Operands::Files,
+        .form = "FILE...",
+        .text = "Reads recordings and says what is wrong with them; writes nothing.",
+    },
+    {
+        .command = Command::Snapshot,
+        .name = "snapshot",
+        .meaning = "show what the recorder's snapshot adds for an object",
+        .operands = Operands::File,
+        .form = "FILE",
+        .text = R"(Shows what the recorder's snapshot adds for one object of the drawing, beside
+what the host's property sheet shows.)",
+        .options = snapshotOptions,
+    },
+    {
+        .command = Command::Run,
+        .name = "run",
+        .meaning = "run an interactive command on the drawing of a recording",
+        .operands = Operands::File,
+        .form = "FILE",
+        .text = runText,
+        .options = runOptions,
+    },
+    {
+        .command = Command::RecordingSchema,
+        .name = "schema",
+        .meaning = "print the JSON Schema of recordings or reports",
+        .operands = Operands::MaybeWord,
+        .form = "recording|report",
+        .words =
+            [] {
+                return QStringList{"recording", "report"};
+            },
+        .takeWord =
+            [](CommandLine& line, const QString& word) {
+                line.command = word == "report" ? Command::ReportSchema : Command::RecordingSchema;
+            },
+        .text = R"(Prints the JSON Schema of one line of a recording, without an argument too,
+or of the report of convert.)",
+    },
+    {
+        .command = Command::SystemVariables,
+        .name = "system-variables",
+        .meaning = "list the system variables that convert",
+        .text = "Prints, as a page in Markdown, the system variables that convert.",
+    },
+    {
+        .command = Command::Faults,
+        .name = "faults",
+        .meaning = "list the known faults of macros",
+        .text = R"(Prints, as a page in Markdown, the known faults of macros that are not
+repaired.)",
+    },
+    {
+        .command = Command::Completion,
+        .name = "completion",
+        .meaning = "print what a shell needs to complete command lines",
+        .operands = Operands::Word,
+        .form = "bash|zsh|fish",
+        .words = completedShells,
+        .takeWord = [](CommandLine& line, const QString& word) { line.shell = word; },
+        .text = R"(Prints what a shell needs to complete command lines of inkmacro. An installed
+inkmacro has put it where shells look for it. Otherwise bash and zsh take it by
+  source <(inkmacro completion bash)
+and fish by
+  inkmacro completion fish | source)",
+    },
+};
+
+} // namespace
+
+const std::vector<CommandRow>& commandTable()
+{
+    return commandRows;
+}
+
+QStringList commandNames()
+{
+    QStringList names;
+    for (const CommandRow& row : commandTable())
+        names.append(row.name);
+    return names;
+}
+
+const CommandRow* findCommandRow(const QString& name)
+{
+    for (const CommandRow& row : commandTable())
+        if (name == row.name)
+            return &row;
+    return nullptr;
+}
+
+const std::vector<OptionRow>& generalOptions()
+{
+    static const std::vector<OptionRow> rows = {helpOption, versionOption};
+    return rows;
+}
+
+const OptionRow* findOptionRow(const std::vector<OptionRow>& rows, const QString& name)
+{
+    const auto isIt = [&](const OptionRow& row) {
+        return name == row.name || (row.letter != 0 && name == QString("-%1").arg(QChar(row.letter)));
+    };
+    const auto found = std::find_if(rows.begin(), rows.end(), isIt);
+    return found == rows.end() ? nullptr : &*found;
+}
+
+} // namespace inkmacro

@@ -1,0 +1,111 @@
+#include "app/optionValues.h"
+
+#include "recordfile/nearestName.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace inkmacro {
+
+namespace {
+
+QString codeOf(const TargetRow& row)
+{
+    return QString::number(static_cast<int>(row.target));
+}
+
+/// A text of each target.
+QStringList ofTargets(QString (*text)(const TargetRow&))
+{
+    QStringList texts;
+    for (const TargetRow& row : targetTable)
+        texts.append(text(row));
+    return texts;
+}
+
+QString knownTargets()
+{
+    const auto nameAndCode = [](const TargetRow& row) { return QString("%1 (%2)").arg(targetName(row), codeOf(row)); };
+    return ofTargets(nameAndCode).join(", ") + ", all";
+}
+
+std::vector<const TargetRow*> rowsOf(const QString& word)
+{
+    const QString name = word.toLower();
+    std::vector<const TargetRow*> rows;
+    for (const TargetRow& row : targetTable)
+        if (name == "all" || name == targetName(row) || name == codeOf(row))
+            rows.push_back(&row);
+    if (!rows.empty())
+        return rows;
+    const QString meant = didYouMean(word, targetNames() + QStringList("all"));
+    throw WrongUse(
+        QString("\"%1\" is no target%2").arg(word, meant.isEmpty() ? "; known are " + knownTargets() : meant));
+}
+
+} // namespace
+
+QString targetName(const TargetRow& row)
+{
+    return QString::fromLatin1(row.name.data(), static_cast<int>(row.name.size()));
+}
+
+QStringList targetNames()
+{
+    return ofTargets(targetName);
+}
+
+void takeTargets(CommandLine& line, const QString& list)
+{
+    for (const QString& word : list.split(','))
+        for (const TargetRow* row : rowsOf(word.trimmed()))
+            if (std::find(line.targets.begin(), line.targets.end(), row) == line.targets.end())
+                line.targets.push_back(row);
+}
+
+void takeOutput(CommandLine& line, const QString& path)
+{
+    if (path.isEmpty())
+        throw WrongUse("a path is expected, and it is empty");
+    line.output = path;
+}
+
+QStringList recordingLanguages()
+{
+    return ofTargets(codeOf);
+}
+
+void takeRecordingLanguage(CommandLine& line, const QString& number)
+{
+    line.host.recordingLanguage = number.toInt();
+}
+
+void takeLineStyles(CommandLine& line, const QString& path)
+{
+    if (!QFileInfo(path).isDir())
+        throw WrongUse(QString("\"%1\" is not a directory").arg(path));
+    line.host.lineStyles = path;
+}
+
+void takeReport(CommandLine& line, const QString& form)
+{
+    line.telling.report = form == "text" ? ReportForm::Text : ReportForm::Json;
+}
+
+void takeHandle(CommandLine& line, const QString& text)
+{
+    static const QRegularExpression digits("\\A[0-9A-Fa-f]{1,16}\\z");
+    line.handle = OdDbHandle(text.toULongLong(nullptr, 16));
+    if (!digits.match(text).hasMatch() || line.handle.isNull())
+        throw WrongUse(QString("\"%1\" is not a handle, which is a hexadecimal number").arg(text));
+}
+
+void checkWord(const QString& text, const QStringList& words)
+{
+    if (!words.contains(text))
+        throw WrongUse(QString("\"%1\" is none of %2%3").arg(text, words.join(", "), didYouMean(text, words)));
+}
+
+} // namespace inkmacro
