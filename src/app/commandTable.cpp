@@ -305,7 +305,8 @@ repaired.)",
         .words = completedShells,
         .takeWord = [](CommandLine& line, const QString& word) { line.shell = word; },
         .text = R"(Prints what a shell needs to complete command lines of inkmacro. An installed
-inkmacro has put it where shells look for it. Otherwise bash and zsh take it by
+inkmacro has put it where shells look for it, bash by its package
+bash-completion. Otherwise bash and zsh take it by
   source <(inkmacro completion bash)
 and fish by
   inkmacro completion fish | source)",
