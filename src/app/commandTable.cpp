@@ -213,7 +213,8 @@ input as the answer; at a terminal it can be edited, and Tab completes it,
 names of files and line styles too. An option is entered by its capital
 letters, by its beginning or whole, an empty line takes the one in <>. A point
 is x,y or x,y,z; entities are handles with blanks between them, or all: those
-of the drawing and those that the recording adds. Ctrl+C, Esc with Enter and
+of the drawing and those that the recording adds, but no dimensions, curved
+texts and traces of which the drawing knows nothing. Ctrl+C, Esc with Enter and
 the end of input cancel the command. When it has ended well the recording with
 the changed drawing replaces FILE, or is written to the file of --output; else
 nothing is written. When somebody else has changed FILE meanwhile it stays as
@@ -305,7 +306,8 @@ repaired.)",
         .words = completedShells,
         .takeWord = [](CommandLine& line, const QString& word) { line.shell = word; },
         .text = R"(Prints what a shell needs to complete command lines of inkmacro. An installed
-inkmacro has put it where shells look for it. Otherwise bash and zsh take it by
+inkmacro has put it where shells look for it, bash by its package
+bash-completion. Otherwise bash and zsh take it by
   source <(inkmacro completion bash)
 and fish by
   inkmacro completion fish | source)",
