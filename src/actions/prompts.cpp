@@ -89,7 +89,7 @@ struct Replay
     {
         const bool accepted = kind.accepts(result.restype());
         if (!accepted || !inkmacro::HoldsForm<T>(result))
-            NoteLoss(ActionTitle(&interaction), "its answer is of another form than the prompt's");
+            NoteAssumption(ActionTitle(&interaction), "its answer is of another form than the prompt's");
         return accepted;
     }
 

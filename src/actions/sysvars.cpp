@@ -135,6 +135,7 @@ std::int32_t ConvertSysVar(Conversion& conversion, const CFxSysVarChanged& varia
     if (!known)
         NoteLoss(ActionTitle(&variable), "the interface has no option for it");
     else if (!holdsKind(variable.GetName(), static_cast<OptionKind>(kind), *value))
-        NoteLoss(ActionTitle(&variable), "its value is of another form than the option, which is set to another one");
+        NoteAssumption(ActionTitle(&variable),
+                       "its value is of another form than the option, which is set to another one");
     return kFxSuccess;
 }

@@ -36,22 +36,32 @@ public:
     CFxVariant take(const PropertyTag& tag) { return FindProperty(conversion, tag, list_, consumed_); }
     OdGePoint3d takePoint(const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag)
     {
-        return FindPoint(conversion, xTag, yTag, zTag, list_, consumed_);
+        // Their order counts.
+        const double x = takeReal(xTag, 0.0);
+        const double y = takeReal(yTag, 0.0);
+        const double z = takeReal(zTag, 0.0);
+        return {x, y, z};
     }
-    OdGePoint3d takePoint(const PropertyTag& tag) { return take(tag).GetPoint3d(); }
-    CFxString takeText(const PropertyTag& tag) { return take(tag).GetString(); }
+    OdGePoint3d takePoint(const PropertyTag& tag) { return takeForm(tag, CFxVariant::kPoint3d).GetPoint3d(); }
+    CFxString takeText(const PropertyTag& tag) { return takeForm(tag, CFxVariant::kString).GetString(); }
+    /// One that new objects need not have.
+    CFxString takeOptionalText(const PropertyTag& tag)
+    {
+        const CFxVariant value = take(tag);
+        return value.IsNull() ? CFxString() : formed(tag, value, CFxVariant::kString).GetString();
+    }
     /// The points of a collection; none of a value that is no collection.
     OdArray<OdGePoint3d> takePoints(const PropertyTag& tag)
     {
         OdArray<OdGePoint3d> points;
-        const CFxVariant value = take(tag);
+        const CFxVariant value = takeForm(tag, CFxVariant::kCollection);
         for (const CFxVariantCollectionElement& element : value.GetCollection().GetCollectionDataForRead())
             points.append(element.GetValue()->GetPoint3d());
         return points;
     }
     double takeReal(const PropertyTag& tag, double whenMissing)
     {
-        const CFxVariant value = take(tag);
+        const CFxVariant value = takeForm(tag, CFxVariant::kDouble);
         return value.IsNull() ? whenMissing : value.GetDouble();
     }
 
@@ -67,6 +77,17 @@ public:
     }
 
 private:
+    /// Notes a value of another form, of which getters give a neutral one.
+    const CFxVariant& formed(const PropertyTag& tag, const CFxVariant& value, CFxVariant::Type form) const
+    {
+        const bool isNumber = form == CFxVariant::kDouble && value.GetType() == CFxVariant::kInt32;
+        if (value.GetType() != form && !isNumber)
+            AssumeProperty(object, tag.text(),
+                           value.IsNull() ? "it is not recorded" : "it is recorded in another form");
+        return value;
+    }
+    CFxVariant takeForm(const PropertyTag& tag, CFxVariant::Type form) { return formed(tag, take(tag), form); }
+
     const OdDbObjectId id_;
     PropertyList& list_;
     PropertyList* consumed_;

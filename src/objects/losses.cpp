@@ -212,11 +212,20 @@ void LoseObject(const RecordedObject& object, const char* reason)
     NoteLoss(ObjectTitle(object.cls, object.handle), reason);
 }
 
+static CFxString propertyTitle(const RecordedObject& object, const QString& tag)
+{
+    return "property \"" + tag + "\" of " + ObjectTitle(object.cls, object.handle).toQString();
+}
+
 void LoseProperty(const RecordedObject& object, const QString& tag, const QString& reason)
 {
-    GetFxSystemServices()->Notes().NoteLoss(object.handle, tag, reason, [&] {
-        return CFxString("property \"" + tag + "\" of " + ObjectTitle(object.cls, object.handle).toQString());
-    });
+    GetFxSystemServices()->Notes().NoteLoss(object.handle, tag, reason, [&] { return propertyTitle(object, tag); });
+}
+
+void AssumeProperty(const RecordedObject& object, const QString& tag, const QString& reason)
+{
+    GetFxSystemServices()->Notes().NoteAssumption(object.handle, tag, reason,
+                                                  [&] { return propertyTitle(object, tag); });
 }
 
 void LoseArcs(const Conversion& conversion, const RecordedObject& object, const OdDbPolyline& polyline)

@@ -11,6 +11,8 @@ class OdDbPolyline;
 void LoseObject(const RecordedObject& object, const char* reason);
 /// One of its properties.
 void LoseProperty(const RecordedObject& object, const QString& tag, const QString& reason);
+/// A property that the macro states otherwise than it is recorded.
+void AssumeProperty(const RecordedObject& object, const QString& tag, const QString& reason);
 /// The arcs of an added polyline, which none but a custom action tells.
 void LoseArcs(const Conversion& conversion, const RecordedObject& object, const OdDbPolyline& polyline);
 /// An added note that its leader should bring, when the macro does not have the leader.

@@ -57,13 +57,3 @@ CFxVariant FindProperty(Conversion& conversion, const PropertyTag& tag, Property
         *index = byGroup(*record) ? CFxVariant(record->GetName()) : record->GetIndex(conversion.context);
     return record->GetValue(conversion.context);
 }
-
-OdGePoint3d FindPoint(Conversion& conversion, const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag,
-                      PropertyList& list, PropertyList* consumed)
-{
-    // A null variant's double is 0.0. The reads are statements of their own because their order counts.
-    const double x = FindProperty(conversion, xTag, list, consumed).GetDouble();
-    const double y = FindProperty(conversion, yTag, list, consumed).GetDouble();
-    const double z = FindProperty(conversion, zTag, list, consumed).GetDouble();
-    return {x, y, z};
-}

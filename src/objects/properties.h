@@ -10,9 +10,6 @@
 /// attribute's own tag.
 CFxVariant FindProperty(Conversion& conversion, const PropertyTag& tag, PropertyList& list,
                         PropertyList* consumed = nullptr, CFxVariant* index = nullptr);
-/// Three reads in the order X, Y, Z; a coordinate that was not recorded is 0.0.
-OdGePoint3d FindPoint(Conversion& conversion, const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag,
-                      PropertyList& list, PropertyList* consumed = nullptr);
 
 /// Whether a value of choice type shows the word "Yes" or "On" in the host's display language.
 bool IsYes(const CFxVariant& value);

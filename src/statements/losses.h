@@ -15,7 +15,13 @@ inline void NoteLoss(const CFxString& what, const CFxString& reason)
     GetFxSystemServices()->Notes().NoteLoss(what, reason);
 }
 
-/// The same of a custom action for which nothing is written; gives the status of its handler.
+/// Notes a value that the macro states for the action otherwise than it is recorded.
+inline void NoteAssumption(const CFxString& what, const CFxString& reason)
+{
+    GetFxSystemServices()->Notes().NoteAssumption(what, reason);
+}
+
+/// The same as a loss of a custom action for which nothing is written; gives the status of its handler.
 inline std::int32_t PassOver(const CFxCustomAction& action, const CFxString& reason)
 {
     NoteLoss(ActionTitle(&action), reason);

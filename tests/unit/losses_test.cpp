@@ -17,8 +17,7 @@ using namespace inkmacro;
 
 namespace {
 
-/// "0.2 what: reason", the numbers being the place.
-std::vector<std::string> lossesOf(const QByteArray& lines, Target target = Target::CSharp)
+const CFxConversionNotes& notesOf(const QByteArray& lines, Target target)
 {
     QByteArray bytes = lines;
     QBuffer buffer(&bytes);
@@ -35,15 +34,30 @@ std::vector<std::string> lossesOf(const QByteArray& lines, Target target = Targe
         ->Convert(folder.filePath("macro"), recording.actions);
     GetFxSystemServices()->SetInt16("RecordingLanguage", 0);
 
-    std::vector<std::string> losses;
-    for (const CFxLoss& loss : GetFxSystemServices()->Notes().GetLosses()) {
+    return GetFxSystemServices()->Notes();
+}
+
+/// "0.2 what: reason", the numbers being the place.
+std::vector<std::string> textsOf(const std::vector<CFxActionNote>& notes)
+{
+    std::vector<std::string> texts;
+    for (const CFxActionNote& note : notes) {
         QStringList place;
-        for (const std::uint32_t number : loss.where)
+        for (const std::uint32_t number : note.where)
             place.append(QString::number(number));
-        losses.push_back(
-            (place.join('.') + ' ' + loss.what.toQString() + ": " + loss.reason.toQString()).toStdString());
+        texts.push_back((place.join('.') + ' ' + note.what.toQString() + ": " + note.reason.toQString()).toStdString());
     }
-    return losses;
+    return texts;
+}
+
+std::vector<std::string> lossesOf(const QByteArray& lines, Target target = Target::CSharp)
+{
+    return textsOf(notesOf(lines, target).GetLosses());
+}
+
+std::vector<std::string> assumptionsOf(const QByteArray& lines)
+{
+    return textsOf(notesOf(lines, Target::CSharp).GetAssumptions());
 }
 
 QByteArray command(const QByteArray& children)
@@ -220,14 +234,15 @@ TEST(Losses, OfTwoListsThatDifferAreWhatOnlyOneOfThemHas)
         Lines());
 }
 
-TEST(Losses, OfAReplayAreValuesOfAnotherForm)
+TEST(Assumptions, OfAReplayAreValuesOfAnotherForm)
 {
     const auto ofSysvar = [](const char* name, const char* value) {
-        return lossesOf(replay + command(QByteArray(R"({"sysvar":{"name":")") + name + R"(","value":)" + value + "}}"));
+        return assumptionsOf(replay +
+                             command(QByteArray(R"({"sysvar":{"name":")") + name + R"(","value":)" + value + "}}"));
     };
     const auto ofAnswer = [](const char* kind, const char* result) {
-        return lossesOf(replay + command(QByteArray(R"({"interaction":{"kind":")") + kind +
-                                         R"(","prompt":"A:","result":)" + result + "}}"));
+        return assumptionsOf(replay + command(QByteArray(R"({"interaction":{"kind":")") + kind +
+                                              R"(","prompt":"A:","result":)" + result + "}}"));
     };
     const auto sysvar = [](const std::string& name) {
         return Lines{"0.0 sysvar " + name +
@@ -260,6 +275,26 @@ TEST(Faults, AreNoneOfDeclarationsThatAStatementMakes)
     EXPECT_TRUE(lacksDeclarations(command(line + "," + viewport)));
 }
 
+TEST(Assumptions, AreMadeOfWhatIsMissingOrOfAnotherForm)
+{
+    const auto ofAdded = [](const char* cls, const char* properties) {
+        return assumptionsOf(command(QByteArray(R"({"added":{"class":")") + cls + R"(","handle":"31","properties":[)" +
+                                     properties + "]}}"));
+    };
+    const auto property = [](const std::string& tag, const std::string& cls, const std::string& reason) {
+        return "0.0 property \"" + tag + "\" of " + cls + " 31: " + reason;
+    };
+    EXPECT_EQ(ofAdded("AcDbCircle", R"({"tag":"Center X","value":1.0},{"tag":"Center Y","value":{"int":2}},)"
+                                    R"({"tag":"Center Z","value":0.0},{"tag":"Radius","value":"5"})"),
+              Lines{property("Radius", "AcDbCircle", "it is recorded in another form")});
+    EXPECT_EQ(ofAdded("AcDbAlignedDimension", R"({"tag":"xLine1Point","value":{"point":[0,0,0]}},)"
+                                              R"({"tag":"xLine2Point","value":{"point":[4,0,0]}})"),
+              Lines{property("dimLinePoint", "AcDbAlignedDimension", "it is not recorded")});
+    EXPECT_EQ(ofAdded("AcDbSolid", ""), Lines{property("Vertex", "AcDbSolid", "it is not recorded")});
+    EXPECT_EQ(ofAdded("AcDbGroup", R"({"tag":"Description","value":3.0},{"tag":"Name","value":"G"})"),
+              Lines{property("Description", "AcDbGroup", "it is recorded in another form")});
+}
+
 TEST(Losses, OfWhatIsNoChoiceAreToldWithTheDefault)
 {
     const auto ofChange = [](const char* property) {
@@ -269,9 +304,10 @@ TEST(Losses, OfWhatIsNoChoiceAreToldWithTheDefault)
               Lines{"1 \"7\" of iwLineWeight: there is no such choice, so the default stands"});
     EXPECT_EQ(ofChange(R"({"tag":"LineWeight","value":{"int":-3}})"), Lines());
     const auto ofText = [](const char* justification) {
-        return lossesOf(command(QByteArray(R"({"added":{"class":"AcDbAttributeDefinition","handle":"31","properties":[)"
-                                           R"({"tag":"Justify","value":")") +
-                                justification + R"("}]}})"));
+        return lossesOf(
+            command(QByteArray(R"({"added":{"class":"AcDbAttributeDefinition","handle":"31","properties":[)"
+                               R"({"tag":"Justify","value":")") +
+                    justification + R"("}]}})"));
     };
     EXPECT_EQ(ofText("Slanted"),
               Lines{"0.0 \"Slanted\" of iwTextJustification: there is no such choice, so the default stands"});

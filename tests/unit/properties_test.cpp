@@ -100,13 +100,6 @@ TEST_F(Properties, AreFoundByTheGroupOfBlockAttributes)
     EXPECT_TRUE(find("Blockattribute").IsNull());
 }
 
-TEST_F(Properties, MakePointsOfWhatWasRecorded)
-{
-    list = {record("Center Z", 3.0), record("Center X", 1.0), record("Radius", 9.0)};
-    EXPECT_EQ(FindPoint(csharp.conversion, "Center X", "Center Y", "Center Z", list), (OdGePoint3d{1.0, 0.0, 3.0}));
-    EXPECT_EQ(tagsLeft(), std::vector<QString>{"Radius"});
-}
-
 TEST_F(Properties, ShowYesInTheHostsLanguage)
 {
     const auto shown = [](const char* word) { return CFxVariant(CFxVariantCollectionElement({}, CFxString(word))); };

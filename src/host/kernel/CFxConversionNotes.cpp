@@ -7,27 +7,32 @@ void CFxConversionNotes::NoteLoss(const CFxString& what, const CFxString& reason
     NoteLoss({}, what, reason, [&] { return what; });
 }
 
-bool CFxConversionNotes::IsFirst(Lost lost)
+void CFxConversionNotes::NoteAssumption(const CFxString& what, const CFxString& reason)
+{
+    NoteAssumption({}, what, reason, [&] { return what; });
+}
+
+bool CFxConversionNotes::IsFirst(Known known)
 {
     constexpr std::size_t few = 16;
     if (known_.size() < few) {
-        if (std::find(known_.begin(), known_.end(), lost) != known_.end())
+        if (std::find(known_.begin(), known_.end(), known) != known_.end())
             return false;
-        known_.push_back(std::move(lost));
+        known_.push_back(std::move(known));
         return true;
     }
     if (manyKnown_.isEmpty())
-        manyKnown_ = QSet<Lost>(known_.begin(), known_.end());
+        manyKnown_ = QSet<Known>(known_.begin(), known_.end());
     const int before = manyKnown_.size();
-    manyKnown_.insert(lost);
+    manyKnown_.insert(known);
     return manyKnown_.size() > before;
 }
 
 void CFxConversionNotes::Forget()
 {
     ForgetKnown();
-    lossCount_ = 0;
+    losses_ = {};
+    assumptions_ = {};
     faultCount_ = 0;
-    losses_.clear();
     faults_.clear();
 }

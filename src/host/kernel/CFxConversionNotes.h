@@ -16,14 +16,18 @@
 /// command around it. All count from 0.
 using CFxActionPlace = std::vector<std::uint32_t>;
 
-/// Something that the user did and that the macro does not do.
-struct CFxLoss
+/// What is known of an action, or of a part of one, besides its statements.
+struct CFxActionNote
 {
     CFxActionPlace where;
     CFxString what;   ///< such as `property "Material" of AcDbLine 2F`
     CFxString reason; ///< a clause without a full stop
-    bool operator==(const CFxLoss&) const = default;
+    bool operator==(const CFxActionNote&) const = default;
 };
+/// Something that the user did and that the macro does not do.
+using CFxLoss = CFxActionNote;
+/// A value that the macro states and that the recording does not hold, or holds in another form.
+using CFxAssumption = CFxActionNote;
 
 /// A place of the macro or its project that its own language or host rejects or misreads.
 struct CFxFaultNote
@@ -41,7 +45,7 @@ struct CFxFaultNote
 class INKHOST_EXPORT CFxConversionNotes
 {
 public:
-    /// While one of these lives, what is lost is of the action with that number.
+    /// While one of these lives, what is lost or assumed is of the action with that number.
     class Action
     {
     public:
@@ -68,7 +72,7 @@ public:
     /// goes on; nothing when it is empty.
     void OnAction(std::function<void()> call) { onAction_ = std::move(call); }
 
-    /// A host that is about to ask for no more than the numbers of losses and faults spares what tells of them.
+    /// A host that is about to ask for no more than the numbers of notes spares what tells of them.
     void KeepAll(bool keeps) { keepsAll_ = keeps; }
 
     /// What is lost of one action in the same way several times counts once.
@@ -77,15 +81,21 @@ public:
     template<class Title>
     void NoteLoss(const OdDbHandle& object, const QString& part, const QString& reason, Title title)
     {
-        if (!IsFirst({object, part, reason}))
-            return;
-        ++lossCount_;
-        if (keepsAll_)
-            losses_.push_back({place_, title(), CFxString(reason)});
+        Note(losses_, object, part, reason, title);
     }
-    std::size_t GetLossCount() const { return lossCount_; }
+    std::size_t GetLossCount() const { return losses_.count; }
     /// Empty when they are not kept.
-    const std::vector<CFxLoss>& GetLosses() const { return losses_; }
+    const std::vector<CFxLoss>& GetLosses() const { return losses_.kept; }
+
+    /// As losses are noted.
+    void NoteAssumption(const CFxString& what, const CFxString& reason);
+    template<class Title>
+    void NoteAssumption(const OdDbHandle& object, const QString& part, const QString& reason, Title title)
+    {
+        Note(assumptions_, object, part, reason, title);
+    }
+    std::size_t GetAssumptionCount() const { return assumptions_.count; }
+    const std::vector<CFxAssumption>& GetAssumptions() const { return assumptions_.kept; }
 
     /// `note` makes the fault's note, when they are kept.
     template<class Note>
@@ -102,18 +112,32 @@ public:
     void Forget();
 
 private:
-    struct Lost
+    struct Known
     {
         OdDbHandle object; ///< null when the part says it all
         QString part;
         QString reason;
-        bool operator==(const Lost&) const = default;
-        friend uint qHash(const Lost& lost, uint seed) noexcept
+        bool operator==(const Known&) const = default;
+        friend uint qHash(const Known& known, uint seed) noexcept
         {
-            return ::qHash(lost.object.value(), seed) ^ ::qHash(lost.part, seed);
+            return ::qHash(known.object.value(), seed) ^ ::qHash(known.part, seed);
         }
     };
-    bool IsFirst(Lost lost);
+    struct ActionNotes
+    {
+        std::size_t count = 0;
+        std::vector<CFxActionNote> kept;
+    };
+    template<class Title>
+    void Note(ActionNotes& notes, const OdDbHandle& object, const QString& part, const QString& reason, Title title)
+    {
+        if (!IsFirst({object, part, reason}))
+            return;
+        ++notes.count;
+        if (keepsAll_)
+            notes.kept.push_back({place_, title(), CFxString(reason)});
+    }
+    bool IsFirst(Known known);
     void ForgetKnown()
     {
         known_.clear();
@@ -122,11 +146,11 @@ private:
 
     std::function<void()> onAction_;
     CFxActionPlace place_;
-    std::vector<Lost> known_; ///< of the action, as long as they are few: most actions lose little
-    QSet<Lost> manyKnown_;    ///< else all of them
+    std::vector<Known> known_; ///< of the action, as long as they are few: most actions lose little
+    QSet<Known> manyKnown_;    ///< else all of them
     bool keepsAll_ = true;
-    std::size_t lossCount_ = 0;
     std::size_t faultCount_ = 0;
-    std::vector<CFxLoss> losses_;
+    ActionNotes losses_;
+    ActionNotes assumptions_;
     std::vector<CFxFaultNote> faults_;
 };

@@ -21,7 +21,7 @@ constexpr double kPointTolerance = 1e-10;
 
 inkmacro::EscapedText takeTextOverride(AddedObject& added)
 {
-    return inkmacro::doubleBackslashes(added.takeText("Text override"));
+    return inkmacro::doubleBackslashes(added.takeOptionalText("Text override"));
 }
 
 /// A point of the drawing's plane, recorded as two numbers.

@@ -81,7 +81,7 @@ Statement ReadTolerance(AddedObject& added)
 Statement ReadLeader(AddedObject& added)
 {
     const OdArray<OdGePoint3d> vertices = added.takePoints("Vertex");
-    const inkmacro::EscapedText content = escapeWithBackslashes(added.takeText("content"));
+    const inkmacro::EscapedText content = escapeWithBackslashes(added.takeOptionalText("content"));
     const double width = added.takeReal("width", 0.0);
     const Statement insertion = EmitInsertLeader(added.writer, vertices, width, content, added.name);
     return insertion + annotate(added);

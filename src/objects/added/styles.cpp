@@ -120,7 +120,7 @@ Statement ReadLayer(AddedObject& added)
         if (const auto record = added.open<OdDbLayerTableRecord>())
             layer = record->getName();
     Statement text = EmitCreateLayer(added.writer, layer, added.name);
-    if (added.takeText("ActivateLayer") == ShownWord("Yes")) {
+    if (added.takeOptionalText("ActivateLayer") == ShownWord("Yes")) {
         if (RecordsOtherwise(inkmacro::Target::JavaScript, added.writer.target))
             added.conversion.faults.note(otherLanguage);
         text += EmitActivateLayer(added.writer, LayerOf(added.name));
@@ -132,9 +132,9 @@ Statement ReadGroup(AddedObject& added)
 {
     NewGroup group;
     group.name = added.takeText("Name");
-    group.description = added.takeText("Description");
+    group.description = added.takeOptionalText("Description");
     const CFxVariant entities = added.take("AllEntities");
-    group.selectable = added.takeText("SelectableEntities").equalNoCase(ShownWord("YES"));
+    group.selectable = added.takeOptionalText("SelectableEntities").equalNoCase(ShownWord("YES"));
     for (const OdDbObjectId& id : ObjectsOf(entities, HandlesIn::Tags))
         if (const QString variable = added.conversion.names().KnownVariable(id.getHandle()); !variable.isEmpty())
             group.entities.push_back(variable);

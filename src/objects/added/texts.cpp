@@ -95,7 +95,7 @@ Statement ReadAttributeDefinition(AddedObject& added)
     AttributeDefinition definition;
     definition.value = added.takeText("Value");
     definition.tag = added.takeText("Tag");
-    definition.prompt = added.takeText("Prompt");
+    definition.prompt = added.takeOptionalText("Prompt");
     definition.styleName = nameOfTextStyle(added.take("TextStyle").GetId());
     definition.justification = wordOf(added.take("Justify"));
     definition.position = definition.justification.equalNoCase(ShownWord("Left"))
