@@ -66,5 +66,7 @@ private:
 };
 
 inline const QByteArray line =
-    R"({"command":{"name":"LINE","actions":[{"added":{"class":"AcDbLine","handle":"2F","properties":[{"tag":"End X","value":4.5}]}}]}})"
+    R"({"command":{"name":"LINE","actions":[{"added":{"class":"AcDbLine","handle":"2F","properties":[{"tag":"End X","value":4.5},)"
+    R"({"tag":"End Y","value":0},{"tag":"End Z","value":0},{"tag":"Start X","value":0},{"tag":"Start Y","value":0},)"
+    R"({"tag":"Start Z","value":0}]}}]}})"
     "\n";

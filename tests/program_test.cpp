@@ -322,7 +322,7 @@ TEST_F(Program, ShowsRecordingsAndItself)
                              "\n{\"sysvar\":{\"name\":\"LTSCALE\",\"value\":{\"double\":0.5}}}\n");
     EXPECT_EQ(run({"inspect", "walls.jsonl"}).out, "walls.jsonl: 4 actions\n"
                                                    "command LINE (1 action)\n"
-                                                   "  added AcDbLine 2F (1 property)\n"
+                                                   "  added AcDbLine 2F (6 properties)\n"
                                                    "custom 56 (no data)\n"
                                                    "custom move (handles, classes, vector)\n"
                                                    "sysvar LTSCALE = 0.5\n"

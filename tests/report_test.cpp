@@ -20,7 +20,15 @@ const QByteArray lossy =
     "\n";
 /// A text that closes its literal.
 const QByteArray faulty =
-    R"({"added":{"class":"AcDbText","handle":"30","properties":[{"tag":"Contents","value":"6\" wide"}]}})"
+    R"({"added":{"class":"AcDbText","handle":"30","properties":[{"tag":"Contents","value":"6\" wide"},)"
+    R"({"tag":"Position X","value":1},{"tag":"Position Y","value":1},{"tag":"Position Z","value":0},)"
+    R"({"tag":"Text alignment X","value":1},{"tag":"Text alignment Y","value":1},{"tag":"Text alignment Z","value":0},)"
+    R"({"tag":"Height","value":2.5},{"tag":"Rotation","value":0}]}})"
+    "\n";
+/// A radius that is no number.
+const QByteArray assumed =
+    R"({"added":{"class":"AcDbCircle","handle":"30","properties":[{"tag":"Center X","value":1},)"
+    R"({"tag":"Center Y","value":1},{"tag":"Center Z","value":0},{"tag":"Radius","value":"5"}]}})"
     "\n";
 
 QJsonArray conversions(const Outcome& outcome)
@@ -47,6 +55,9 @@ TEST_F(Program, CountsLossesAndFaults)
               "out/csharp/lossy.cs: 2 steps lost; see --report\n"
               "out/vba/lossy.bas: 2 steps lost, 1 fault; see --report\n");
     EXPECT_EQ(counts({"one.jsonl", "--target", "vba"}), "out/vba/one.bas: 1 step lost, 1 fault; see --report\n");
+    write("assumed.jsonl", assumed);
+    EXPECT_EQ(counts({"assumed.jsonl", "--target", "csharp"}),
+              "out/csharp/assumed.cs: 1 value assumed; see --report\n");
     EXPECT_EQ(counts({"faulty.jsonl", "--target", "vba"}), "out/vba/faulty.bas: 2 faults; see --report\n");
     EXPECT_EQ(counts({"faulty.jsonl", "--target", "vba", "--repair"}), "");
     EXPECT_EQ(counts({"lossy.jsonl", "--target", "csharp", "--quiet"}), "");
@@ -102,6 +113,20 @@ TEST_F(Program, ReportsOfAllJobsInOneDocument)
     EXPECT_TRUE(fault["mended"].toBool());
     const QList<QByteArray> lines = contents("out/faulty/vba/faulty.bas").split('\n');
     EXPECT_TRUE(lines.value(fault["line"].toInt() - 1).contains("6\" wide")) << fault["line"].toInt();
+}
+
+TEST_F(Program, ReportsWhatIsAssumed)
+{
+    write("assumed.jsonl", assumed);
+    const auto report = [this](const char* form) {
+        return run({"convert", "assumed.jsonl", "--target", "csharp", "--output", "out/", "--quiet", form});
+    };
+    EXPECT_EQ(conversions(report("--report")).first().toObject()["assumed"],
+              (QJsonArray{QJsonObject{{"line", 1},
+                                      {"path", ""},
+                                      {"what", "property \"Radius\" of AcDbCircle 30"},
+                                      {"reason", "it is recorded in another form"}}}));
+    EXPECT_TRUE(report("--report=text").out.contains("  assumed\n    line 1    property \"Radius\""));
 }
 
 /// An insertion draws the arcs of a polyline as lines, an action as arcs.

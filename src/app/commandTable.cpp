@@ -203,8 +203,8 @@ targets.
 Several files or targets are converted side by side; one that fails does not
 stop the others. Standard output holds the paths written, one a line, the
 macro before its project; messages go to standard error, and so does a line
-like "walls.cs: 3 steps lost, 2 faults; see --report" for each macro that has
-any.)";
+like "walls.cs: 3 steps lost, 1 value assumed, 2 faults; see --report" for each
+macro that has any.)";
 
 const char* const runText = R"(Runs a command of the macro writer on the drawing of a recording.
 

@@ -154,7 +154,7 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling)
     notes.KeepAll(asked);
     QStringList placed;
     const int status = convertOrComplain(job, host, recording, placed);
-    const QString counts = countText(notes.GetLossCount(), notes.GetFaultCount());
+    const QString counts = countText(notes);
     if (status == kDone && !telling.quiet && !counts.isEmpty())
         printLine(job.shownMacro() + ": " + counts + (asked ? "" : "; see --report"));
     if (asked) {

@@ -81,7 +81,7 @@ QStringList faultRow(const CFxFaultNote& fault)
 
 void printText(const Job& job, int status, const std::optional<Noted>& noted)
 {
-    QString result = noted ? countText(noted->notes->GetLosses().size(), noted->notes->GetFaults().size()) : QString();
+    QString result = noted ? countText(*noted->notes) : QString();
     if (status != kDone)
         result = result.isEmpty() ? statusWord(status) : statusWord(status) + ", " + result;
     else if (result.isEmpty())
@@ -90,10 +90,12 @@ void printText(const Job& job, int status, const std::optional<Noted>& noted)
         QString("%1 to %2: %3: %4\n").arg(printable(job.input), targetName(*job.target), printable(job.macro), result));
     if (!noted)
         return;
-    printList("lost", noted->notes->GetLosses(), [&](const CFxLoss& loss) {
-        return QStringList{"line " + QString::number(lineOf(loss.where, *noted->recording)), pathOf(loss.where),
-                           printable(loss.what.toQString()), printable(loss.reason.toQString())};
-    });
+    const auto row = [&](const CFxActionNote& note) {
+        return QStringList{"line " + QString::number(lineOf(note.where, *noted->recording)), pathOf(note.where),
+                           printable(note.what.toQString()), printable(note.reason.toQString())};
+    };
+    printList("lost", noted->notes->GetLosses(), row);
+    printList("assumed", noted->notes->GetAssumptions(), row);
     printList("faults", noted->notes->GetFaults(), faultRow);
 }
 
@@ -136,14 +138,17 @@ void printJson(const Job& job, int status, const std::optional<Noted>& noted)
         out.text(file);
     out.endArray();
     add(out, "status", statusWord(status));
-    const auto losses = noted ? std::span(noted->notes->GetLosses()) : std::span<const CFxLoss>();
-    addList(out, "losses", losses, [&](const CFxLoss& loss) {
-        out.key("line"sv);
-        out.integer(lineOf(loss.where, *noted->recording));
-        add(out, "path", pathOf(loss.where));
-        add(out, "what", loss.what.toQString());
-        add(out, "reason", loss.reason.toQString());
-    });
+    const auto addActionNotes = [&](std::string_view key, std::span<const CFxActionNote> notes) {
+        addList(out, key, notes, [&](const CFxActionNote& note) {
+            out.key("line"sv);
+            out.integer(lineOf(note.where, *noted->recording));
+            add(out, "path", pathOf(note.where));
+            add(out, "what", note.what.toQString());
+            add(out, "reason", note.reason.toQString());
+        });
+    };
+    addActionNotes("losses", noted ? std::span(noted->notes->GetLosses()) : std::span<const CFxActionNote>());
+    addActionNotes("assumed", noted ? std::span(noted->notes->GetAssumptions()) : std::span<const CFxActionNote>());
     const auto faults = noted ? std::span(noted->notes->GetFaults()) : std::span<const CFxFaultNote>();
     addList(out, "faults", faults, [&](const CFxFaultNote& fault) {
         add(out, "file", fault.file.toQString());
@@ -158,15 +163,15 @@ void printJson(const Job& job, int status, const std::optional<Noted>& noted)
     printOut(out.bytes());
 }
 
-QJsonObject lossSchema()
+QJsonObject actionNoteSchema(const char* what)
 {
-    ObjectSchema loss;
-    loss.add("line", "the line of the recording, from 1", typeSchema("integer"), true);
-    loss.add("path", "the place of the action within the line, such as command.actions[2]; empty for the whole line",
+    ObjectSchema note;
+    note.add("line", "the line of the recording, from 1", typeSchema("integer"), true);
+    note.add("path", "the place of the action within the line, such as command.actions[2]; empty for the whole line",
              typeSchema("string"), true);
-    loss.add("what", "what is lost: an action, an object or a property of one", typeSchema("string"), true);
-    loss.add("reason", "why", typeSchema("string"), true);
-    return loss.json();
+    note.add("what", what, typeSchema("string"), true);
+    note.add("reason", "why", typeSchema("string"), true);
+    return note.json();
 }
 
 QJsonObject faultSchema()
@@ -208,13 +213,15 @@ void printPart(const Job& job, int status, ReportForm form, const std::optional<
         printText(job, status, noted);
 }
 
-QString countText(std::size_t losses, std::size_t faults)
+QString countText(const CFxConversionNotes& notes)
 {
     QStringList counts;
-    if (losses > 0)
-        counts.append(counted(static_cast<int>(losses), "step", "steps") + " lost");
-    if (faults > 0)
-        counts.append(counted(static_cast<int>(faults), "fault", "faults"));
+    if (const auto losses = static_cast<int>(notes.GetLossCount()); losses > 0)
+        counts.append(counted(losses, "step", "steps") + " lost");
+    if (const auto assumptions = static_cast<int>(notes.GetAssumptionCount()); assumptions > 0)
+        counts.append(counted(assumptions, "value", "values") + " assumed");
+    if (const auto faults = static_cast<int>(notes.GetFaultCount()); faults > 0)
+        counts.append(counted(faults, "fault", "faults"));
     return counts.join(", ");
 }
 
@@ -227,7 +234,10 @@ QByteArray reportSchema()
     conversion.add("project", "the files of the project around it", listSchema(typeSchema("string")), true);
     conversion.add("status", "the files are there only when it is converted",
                    enumSchema({statusWord(kDone), statusWord(kFailed), statusWord(kUnreadable)}), true);
-    conversion.add("losses", "what the user did and the macro does not", listSchema(lossSchema()), true);
+    conversion.add("losses", "what the user did and the macro does not",
+                   listSchema(actionNoteSchema("what is lost: an action, an object or a property of one")), true);
+    conversion.add("assumed", "values that the macro states and the recording does not hold, or holds in another form",
+                   listSchema(actionNoteSchema("what has the value: an action or a property of an object")), true);
     conversion.add("faults", "where the macro or its project is rejected or misread by its own language or host",
                    listSchema(faultSchema()), true);
     ObjectSchema document;

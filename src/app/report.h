@@ -37,8 +37,8 @@ private:
 /// Prints the part of one job: without `noted` nothing is lost and there are no faults. `status` is an ExitStatus.
 void printPart(const Job& job, int status, ReportForm form, const std::optional<Noted>& noted = {});
 
-/// "3 steps lost, 2 faults", without what there is none of; empty when there is neither.
-QString countText(std::size_t losses, std::size_t faults);
+/// "3 steps lost, 1 value assumed, 2 faults", without what there is none of; empty when there is nothing.
+QString countText(const CFxConversionNotes& notes);
 
 /// The JSON Schema of a report in the form Json.
 QByteArray reportSchema();

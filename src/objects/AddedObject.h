@@ -77,11 +77,12 @@ public:
     }
 
 private:
-    /// Notes a value of another form, of which getters give a neutral one.
+    /// Notes a value of another form, of which getters give a neutral one. Of an object that an action makes the action
+    /// has the values.
     const CFxVariant& formed(const PropertyTag& tag, const CFxVariant& value, CFxVariant::Type form) const
     {
         const bool isNumber = form == CFxVariant::kDouble && value.GetType() == CFxVariant::kInt32;
-        if (value.GetType() != form && !isNumber)
+        if (value.GetType() != form && !isNumber && !(value.IsNull() && IsMadeByAction(conversion, object)))
             AssumeProperty(object, tag.text(),
                            value.IsNull() ? "it is not recorded" : "it is recorded in another form");
         return value;

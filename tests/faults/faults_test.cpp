@@ -33,7 +33,10 @@ QByteArray recordingOfLine(const char* end)
 {
     return QByteArray(R"({"command":{"name":"LINE","actions":[{"added":{"class":"AcDbLine","handle":"2F","properties":)"
                       R"([{"tag":"End X","value":)") +
-           end + "}]}}]}}\n";
+           end +
+           R"(},{"tag":"End Y","value":0},{"tag":"End Z","value":0},{"tag":"Start X","value":0},)"
+           R"({"tag":"Start Y","value":0},{"tag":"Start Z","value":0}]}}]}})"
+           "\n";
 }
 
 class Faults : public testing::TestWithParam<TargetRow>
