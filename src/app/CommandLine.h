@@ -55,6 +55,7 @@ struct CommandLine
         Inspect,
         Run,
         Check,
+        Format,
         Snapshot,
         RecordingSchema,
         ReportSchema,
@@ -78,6 +79,7 @@ struct CommandLine
 
     QString shell; ///< whose completion is printed
     bool json = false;
+    bool strict = false; ///< warnings are failures
 };
 
 /// Raises WrongUse; `row` is the command's then already, when it has been understood.

@@ -159,6 +159,28 @@ line and whether --repair mends it. With =text as tables for a person.)",
     },
 };
 
+const std::vector<OptionRow> checkOptions = {
+    {
+        .name = "--strict",
+        .take = [](CommandLine& line, const QString&) { line.strict = true; },
+        .meaning = "status 1 when there are warnings",
+        .text = "Warnings make the exit status 1.",
+    },
+    jsonOption,
+};
+
+const std::vector<OptionRow> formatOptions = {
+    {
+        .name = "--output",
+        .letter = 'o',
+        .form = "FILE",
+        .offer = Offer::Files,
+        .take = takeOutput,
+        .meaning = "where the lines go to",
+        .text = "The file that the lines go to; it may be FILE itself.",
+    },
+};
+
 const std::vector<OptionRow> snapshotOptions = {
     {
         .name = "--handle",
@@ -246,7 +268,22 @@ const std::vector<CommandRow> commandRows = {
         .meaning = "read recordings and say what is wrong with them",
         .operands = Operands::Files,
         .form = "FILE...",
-        .text = "Reads recordings and says what is wrong with them; writes nothing.",
+        .text = R"(Reads recordings and says what is wrong with up to 20 lines of each; writes
+nothing. Of a recording that can be read it warns of what is probably not what
+was meant: what a conversion to VBA loses or assumes, and handles that are
+added twice.)",
+        .options = checkOptions,
+    },
+    {
+        .command = Command::Format,
+        .name = "format",
+        .meaning = "write the values of a recording on a line each",
+        .operands = Operands::File,
+        .form = "FILE",
+        .text = R"(Writes a recording whose objects stand on several lines each, or in one list,
+as recordings are: an object a line. Nothing but the blanks between its parts
+changes. Without --output it goes to standard output.)",
+        .options = formatOptions,
     },
     {
         .command = Command::Snapshot,

@@ -27,10 +27,13 @@ namespace {
 /// The ConversionMode in which prompts are shown again.
 constexpr int kReplay = 1;
 
-std::int32_t runModule(const Job& job, const QString& macro, const Recording& recording, const HostSettings& host)
+} // namespace
+
+std::int32_t runModule(const TargetRow& target, const QString& macro, const Recording& recording,
+                       const HostSettings& host)
 {
     LoadedModule module;
-    const auto code = static_cast<std::uint32_t>(job.target->target);
+    const auto code = static_cast<std::uint32_t>(target.target);
     const int language = host.recordingLanguage.value_or(recording.header.language.value_or(static_cast<int>(code)));
     GetFxSystemServices()->SetInt16(kRecordingLanguage, static_cast<std::int16_t>(language));
     GetFxSystemServices()->SetInt16(kRepairMacros, host.repair ? 1 : 0);
@@ -55,6 +58,8 @@ std::int32_t runModule(const Job& job, const QString& macro, const Recording& re
     return module->ConvertRecording(macro, code, static_cast<std::uint32_t>(mode),
                                     static_cast<CFxValueContext>(recording.header.context), recording.actions);
 }
+
+namespace {
 
 /// The file that a failure is about: the macro, or when that has been written, the first one of the project that has
 /// not.
@@ -95,7 +100,7 @@ int printMacro(const QString& path)
 int convertRead(const Job& job, const Recording& recording, const HostSettings& host, QStringList& placed)
 {
     StagedResult result(job.files());
-    const std::int32_t status = runModule(job, result.firstFile(), recording, host);
+    const std::int32_t status = runModule(*job.target, result.firstFile(), recording, host);
     for (const CFxString& problem : GetFxSystemServices()->GetProblems())
         complain(QString("%1 to %2: %3").arg(job.input, targetName(*job.target), problem));
     if (status != kFxSuccess) {

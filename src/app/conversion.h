@@ -4,6 +4,13 @@
 
 namespace inkmacro {
 
+struct Recording;
+
+/// Has the module write a macro of the recording, as the host would, and what is noted of it. Gives a status of the
+/// module.
+std::int32_t runModule(const TargetRow& target, const QString& macro, const Recording& recording,
+                       const HostSettings& host);
+
 /// Does one job in this process, which can do no more than one: the module keeps state for the whole process. Of a
 /// report it prints the part of the job. Gives an exit status.
 int convertOne(const Job& job, const HostSettings& host, const Telling& telling);

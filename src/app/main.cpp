@@ -2,18 +2,19 @@
 
 #include "app/CommandLine.h"
 #include "app/ExitStatus.h"
+#include "app/checking.h"
 #include "app/commandTable.h"
 #include "app/completion.h"
 #include "app/console.h"
 #include "app/conversion.h"
 #include "app/earlyEnd.h"
 #include "app/fileNames.h"
+#include "app/formatting.h"
 #include "app/helpPages.h"
 #include "app/inspection.h"
 #include "app/optionNames.h"
 #include "app/pages.h"
 #include "app/processes.h"
-#include "app/reading.h"
 #include "app/report.h"
 #include "app/runCommand.h"
 #include "app/snapshot.h"
@@ -59,7 +60,9 @@ int run(const CommandLine& line)
     case CommandLine::Command::Run:
         return runCommand(line.files.front(), line.hostCommand, line.output.value_or(line.files.front()));
     case CommandLine::Command::Check:
-        return checkRecordings(line.files);
+        return checkRecordings(line.files, {line.strict, line.json});
+    case CommandLine::Command::Format:
+        return formatRecording(line.files.front(), line.output.value_or(QString()));
     case CommandLine::Command::Snapshot:
         return showSnapshot(line.files.front(), line.handle, line.json);
     case CommandLine::Command::RecordingSchema:

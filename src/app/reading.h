@@ -2,14 +2,15 @@
 
 #include "recordfile/Recording.h"
 
-#include <QStringList>
+#include <vector>
 
 namespace inkmacro {
 
 /// Reads the recording, or prints what is wrong with it and gives false.
 bool readOrComplain(const QString& path, Recording& recording);
 
-/// The command `check`.
-int checkRecordings(const QStringList& files);
+/// Reads on behind lines that are wrong, which the recording lacks then, and gives what is wrong with up to `most` of
+/// them.
+std::vector<RecordingError> readWithErrors(const QString& path, Recording& recording, std::size_t most);
 
 } // namespace inkmacro

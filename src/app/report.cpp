@@ -32,7 +32,8 @@ QString statusWord(int status)
     return status == kDone ? "converted" : status == kUnreadable ? "unreadable" : "failed";
 }
 
-/// As the recording file's errors name places.
+} // namespace
+
 QString pathOf(const CFxActionPlace& place)
 {
     QStringList steps;
@@ -45,6 +46,8 @@ qint64 lineOf(const CFxActionPlace& place, const Recording& recording)
 {
     return place.empty() ? 0 : recording.actionLines.at(place.front());
 }
+
+namespace {
 
 /// A list of the report under its heading, in columns, the last one as wide as it is. Each row is made twice, so that
 /// none is kept.

@@ -17,6 +17,11 @@ struct Noted
     const Recording* recording;
 };
 
+/// The place of an action within its line, as the recording file's errors name it; empty for the whole line.
+QString pathOf(const std::vector<std::uint32_t>& place);
+/// From 1; 0 for no place.
+qint64 lineOf(const std::vector<std::uint32_t>& place, const Recording& recording);
+
 /// The report of a call while it is printed: one part a job, in the order of the jobs, and all of them one document.
 class ReportDocument
 {

@@ -19,6 +19,13 @@ bool isBlank(std::string_view line)
     return line.find_first_not_of(" \t\r") == std::string_view::npos;
 }
 
+/// For a file whose objects stand on several lines each.
+QString formatHint(std::string_view line)
+{
+    const bool opens = line.find_first_not_of("{[ \t\r") == std::string_view::npos;
+    return opens ? "; a recording has an object a line, and inkmacro format writes it so" : QString();
+}
+
 } // namespace
 
 void LineBatch::dropLongLines()
@@ -67,7 +74,7 @@ void LineParser::parse(std::string_view text, LineBatch& batch)
     line.number = number_;
     line.fault = QString();
     if (const auto code = parser_.parse_into_document(line.document, text.data(), text.size(), false).error())
-        line.fault = explainFault(code, text);
+        line.fault = explainFault(code, text) + (number_ == 1 ? formatHint(text) : QString());
     if (text.size() <= kLongLine)
         return;
     batch.isLarge = true;

@@ -86,9 +86,11 @@ std::optional<RecordingError> errorOf(const LineBatch::Ending& ending, const QSt
     }
 }
 
-std::optional<RecordingError> readLines(QIODevice& device, const QString& name, Recording& recording,
-                                        const ReadingProgress& progress, qint64 longestLine)
+/// Up to `most`, each of another line.
+std::vector<RecordingError> readLines(QIODevice& device, const QString& name, Recording& recording,
+                                      const ReadingProgress& progress, qint64 longestLine, std::size_t most)
 {
+    std::vector<RecordingError> errors;
     const bool comesLineByLine = device.isSequential();
     const qint64 total = comesLineByLine ? -1 : device.size();
     LineParser parser(device, longestLine, comesLineByLine ? 1 : kBatchBytes);
@@ -102,11 +104,16 @@ std::optional<RecordingError> readLines(QIODevice& device, const QString& name, 
             try {
                 maker.take(batch.lines[i]);
             } catch (const FormError& error) {
-                return RecordingError{name, batch.lines[i].number, error.path, error.message};
+                errors.push_back({name, batch.lines[i].number, error.path, error.message});
+                if (errors.size() == most)
+                    return errors;
             }
         }
-        if (batch.ending)
-            return errorOf(*batch.ending, name, longestLine);
+        if (!batch.ending)
+            continue;
+        if (const auto error = errorOf(*batch.ending, name, longestLine))
+            errors.push_back(*error);
+        return errors;
     }
 }
 
@@ -116,13 +123,15 @@ std::optional<RecordingError> ReadRecording(QIODevice& device, const QString& na
                                             const ReadingProgress& progress, qint64 longestLine)
 {
     recording = Recording();
-    auto error = readLines(device, name, recording, progress, longestLine);
-    if (error)
-        recording = Recording();
-    return error;
+    const std::vector<RecordingError> errors = readLines(device, name, recording, progress, longestLine, 1);
+    if (errors.empty())
+        return {};
+    recording = Recording();
+    return errors.front();
 }
 
-std::optional<RecordingError> ReadRecording(const QString& path, Recording& recording, const ReadingProgress& progress)
+std::vector<RecordingError> ReadWithErrors(const QString& path, Recording& recording, std::size_t most,
+                                           const ReadingProgress& progress)
 {
     recording = Recording();
     const bool standardInput = path == "-";
@@ -133,11 +142,20 @@ std::optional<RecordingError> ReadRecording(const QString& path, Recording& reco
     // Unbuffered: the lines have a buffer of their own.
     constexpr auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     if (!(standardInput ? file.open(stdin, mode) : file.open(mode)))
-        return RecordingError{name, 0, {}, "cannot be opened: " + file.errorString()};
-    auto error = ReadRecording(file, name, recording, progress);
+        return {{name, 0, {}, "cannot be opened: " + file.errorString()}};
+    std::vector<RecordingError> errors = readLines(file, name, recording, progress, kLongestLine, most);
     if (!standardInput)
         recording.folder = QFileInfo(path).path();
-    return error;
+    return errors;
+}
+
+std::optional<RecordingError> ReadRecording(const QString& path, Recording& recording, const ReadingProgress& progress)
+{
+    const std::vector<RecordingError> errors = ReadWithErrors(path, recording, 1, progress);
+    if (errors.empty())
+        return {};
+    recording = Recording();
+    return errors.front();
 }
 
 } // namespace inkmacro

@@ -3,6 +3,7 @@
 #include "recordfile/Recording.h"
 
 #include <functional>
+#include <vector>
 
 class QIODevice;
 
@@ -21,5 +22,10 @@ std::optional<RecordingError> ReadRecording(const QString& path, Recording& reco
 /// The same from an open device; `name` stands for the file in errors.
 std::optional<RecordingError> ReadRecording(QIODevice& device, const QString& name, Recording& recording,
                                             const ReadingProgress& progress = {}, qint64 longestLine = kLongestLine);
+
+/// Reads on behind lines that are wrong, which the recording lacks then. Gives the first error of each of up to `most`
+/// lines; with so many the rest of the file is not read.
+std::vector<RecordingError> ReadWithErrors(const QString& path, Recording& recording, std::size_t most,
+                                           const ReadingProgress& progress = {});
 
 } // namespace inkmacro
