@@ -60,13 +60,13 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
         {{"cnovert"}, "unknown command \"cnovert\"; did you mean convert?"},
         {{"Check"}, "unknown command \"Check\"; did you mean check?"},
         {{"transmogrify"},
-         "unknown command \"transmogrify\"; known are convert, inspect, check, snapshot, run, schema, "
-         "system-variables, faults, completion"},
+         "unknown command \"transmogrify\"; known are convert, inspect, check, format, snapshot, run, "
+         "schema, system-variables, faults, completion"},
         {{"convert", "--outptu"}, "unknown option \"--outptu\"; did you mean --output?"},
         {{"convert", "--Report=text"}, "unknown option \"--Report\"; did you mean --report?"},
         {{"convert", "-output", "x"}, "unknown option \"-output\"; did you mean --output?"},
         {{"convert", "-qz"}, "unknown option \"-z\""},
-        {{"convert", "--json"}, "--json is no option of convert, but of inspect and snapshot"},
+        {{"convert", "--json"}, "--json is no option of convert, but of inspect, check and snapshot"},
         {{"convert", "--version"}, "--version stands without a command"},
         {{"--target", "csharp"}, "--target stands before the command; it belongs behind convert"},
         {{"convert", "a", "-t", "cshrap"}, "-t: \"cshrap\" is no target; did you mean csharp?"},

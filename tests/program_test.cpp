@@ -329,9 +329,6 @@ TEST_F(Program, ShowsRecordingsAndItself)
                                                    "counts: 1 added, 1 command, 2 custom, 1 sysvar\n");
     const QString json = run({"inspect", "walls.jsonl", "--json"}).out;
     EXPECT_TRUE(json.contains("\"LTSCALE\"") && json.contains("\"counts\""));
-    EXPECT_EQ(run({"check", "walls.jsonl", "walls.jsonl"}).out, "walls.jsonl: ok, 4 actions\n"
-                                                                "walls.jsonl: ok, 4 actions\n");
-    EXPECT_EQ(run({"check", "walls.jsonl", "nowhere.jsonl"}).status, 3);
     EXPECT_TRUE(run({"--version"}).out.startsWith("inkmacro "));
     EXPECT_TRUE(run({"--help"}).out.contains("Exit status:"));
     EXPECT_TRUE(run({"schema"}).out.contains("\"$defs\""));
@@ -449,7 +446,7 @@ TEST_F(Program, ShowsAtATerminalHowFarItHasRead)
         process.write(line);
         process.waitForBytesWritten();
         std::this_thread::sleep_for(quietTime);
-        process.write(line);
+        process.write(QByteArray(line).replace("2F", "30"));
         return finish(process);
     };
     EXPECT_EQ(readSlowly({}).err, "") << "no terminal";

@@ -16,19 +16,34 @@ static EntityList EntitiesOf(Conversion& conversion, const CFxCustomAction& acti
     return conversion.names().ResolveNames(action.GetData(0), action.GetData(1));
 }
 
+/// In a repaired macro a call for none of its objects is left out.
+static bool isForNone(const Conversion& conversion, const CFxCustomAction& action, const EntityList& entities)
+{
+    if (!entities.empty() || !conversion.writer.repairs)
+        return false;
+    NoteLoss(ActionTitle(&action), "the macro has none of its objects");
+    return true;
+}
+
 std::int32_t ConvertActionMirror(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    text = EmitMirrorEntities(conversion.writer, EntitiesOf(conversion, action), action.GetData(2).GetPoint(),
-                              action.GetData(3).GetPoint(), action.GetData(4).GetBool());
+    const EntityList entities = EntitiesOf(conversion, action);
+    if (isForNone(conversion, action, entities))
+        return kFxSuccess;
+    text = EmitMirrorEntities(conversion.writer, entities, action.GetData(2).GetPoint(), action.GetData(3).GetPoint(),
+                              action.GetData(4).GetBool());
     return kFxSuccess;
 }
 
 std::int32_t ConvertActionStretch(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    text = EmitStretchEntities(conversion.writer, EntitiesOf(conversion, action), action.GetData(2).GetPoint(),
-                               action.GetData(3).GetPoint(), action.GetData(4).GetVector());
+    const EntityList entities = EntitiesOf(conversion, action);
+    if (isForNone(conversion, action, entities))
+        return kFxSuccess;
+    text = EmitStretchEntities(conversion.writer, entities, action.GetData(2).GetPoint(), action.GetData(3).GetPoint(),
+                               action.GetData(4).GetVector());
     return kFxSuccess;
 }
 
@@ -36,6 +51,8 @@ std::int32_t ConvertActionCopy(Conversion& conversion, const CFxCustomAction& ac
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
     const EntityList entities = EntitiesOf(conversion, action);
+    if (isForNone(conversion, action, entities))
+        return kFxSuccess;
     for (std::int32_t i = 2; i < action.GetDataCount(); ++i)
         text += EmitCopyEntities(conversion.writer, entities, action.GetData(i).GetVector(), i == 2);
     return kFxSuccess;
@@ -44,23 +61,30 @@ std::int32_t ConvertActionCopy(Conversion& conversion, const CFxCustomAction& ac
 std::int32_t ConvertActionMove(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    text = EmitMoveEntities(conversion.writer, EntitiesOf(conversion, action), action.GetData(2).GetVector(), true);
+    const EntityList entities = EntitiesOf(conversion, action);
+    if (isForNone(conversion, action, entities))
+        return kFxSuccess;
+    text = EmitMoveEntities(conversion.writer, entities, action.GetData(2).GetVector(), true);
     return kFxSuccess;
 }
 
 std::int32_t ConvertActionRotate(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    text = EmitRotateEntities(conversion.writer, EntitiesOf(conversion, action), action.GetData(2).GetPoint(),
-                              action.GetData(3).GetDouble());
+    const EntityList entities = EntitiesOf(conversion, action);
+    if (isForNone(conversion, action, entities))
+        return kFxSuccess;
+    text = EmitRotateEntities(conversion.writer, entities, action.GetData(2).GetPoint(), action.GetData(3).GetDouble());
     return kFxSuccess;
 }
 
 std::int32_t ConvertActionScale(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    text = EmitScaleEntities(conversion.writer, EntitiesOf(conversion, action), action.GetData(2).GetPoint(),
-                             action.GetData(3).GetDouble());
+    const EntityList entities = EntitiesOf(conversion, action);
+    if (isForNone(conversion, action, entities))
+        return kFxSuccess;
+    text = EmitScaleEntities(conversion.writer, entities, action.GetData(2).GetPoint(), action.GetData(3).GetDouble());
     return kFxSuccess;
 }
 

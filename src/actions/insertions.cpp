@@ -37,6 +37,10 @@ std::int32_t ConvertActionRegion(Conversion& conversion, const CFxCustomAction& 
         conversion.VariableOfMade(takeVariable(conversion.writer, text, HandedVariable::Replaced), "AcDbRegion");
     std::vector<CFxString> curves = conversion.names().ResolveVariables(action.GetData(0), action.GetData(1));
     conversion.names().DropUnnamed(curves);
+    if (curves.empty() && !action.GetData(0).GetHandleArray().empty() && conversion.writer.repairs) {
+        conversion.names().SetUnmade(conversion.lastFinished);
+        return PassOver(action, "the macro has none of its curves");
+    }
     text = EmitInsertRegion(conversion.writer, name, {curves.begin(), curves.end()}, ++processCounters.regions);
     return kFxSuccess;
 }

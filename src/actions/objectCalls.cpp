@@ -24,14 +24,12 @@ static void loseObject(const OdRxClass* cls, const OdDbHandle& handle)
 static Statement NoteOfLeader(Conversion& conversion, const OdDbHandle& note, const OdRxClass* noteClass,
                               const OdDbObjectId& leader, CFxString& name)
 {
+    if (conversion.writer.repairs)
+        return conversion.names().EmitNoteOfLeader(note, leader.getHandle(), name);
     const OdDbObjectPtr object = leader.openObject();
     CFxString leaderName;
     conversion.names().EmitObjectVariable(note, noteClass, name);
     Statement text = conversion.names().EmitObjectVariable(leader.getHandle(), object->isA(), leaderName);
-    if (conversion.writer.repairs && (name.isEmpty() || leaderName.isEmpty())) {
-        name = CFxString();
-        return {};
-    }
     return text += EmitGetNoteAnnotation(conversion.writer, name, leaderName);
 }
 
@@ -43,8 +41,9 @@ std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& a
     std::vector<CFxString> names(objects.size());
     for (std::size_t i = 0; i < objects.size(); ++i) {
         const OdRxClass* const cls = ClassAt(classes, i);
+        CFxString type;
         CFxString second;
-        if (GetApiTypeName(cls, names[i], second) != kFxSuccess) {
+        if (GetApiTypeName(cls, type, second) != kFxSuccess) {
             loseObject(cls, objects[i]);
             continue;
         }
@@ -52,8 +51,8 @@ std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& a
         CFxString name;
         text += leader.isNull() ? conversion.names().EmitObjectVariable(objects[i], cls, name)
                                 : NoteOfLeader(conversion, objects[i], cls, leader, name);
-        if (!name.isEmpty() || conversion.writer.repairs)
-            names[i] = name;
+        // Without a variable the type is erased; it has to stay so.
+        names[i] = name.isEmpty() && !conversion.writer.repairs ? type : name;
     }
     text += EmitEraseEntities(conversion.writer, names);
     return kFxSuccess;
@@ -83,7 +82,7 @@ std::int32_t ConvertActionActivate(Conversion& conversion, const CFxCustomAction
     CFxString name;
     text += conversion.names().EmitObjectVariable(objects.front(), cls, name);
     if (name.isEmpty() && conversion.Drops(inkmacro::emptyPlace))
-        return PassOver(action, "objects of that class have no statements");
+        return PassOver(action, "the macro has no variable for its object");
     text += EmitActivate(conversion.writer, name);
     return kFxSuccess;
 }
@@ -101,7 +100,7 @@ std::int32_t ConvertActionJoin(Conversion& conversion, const CFxCustomAction& ac
     text += variable(2, other);
     if ((name.isEmpty() || other.isEmpty()) && conversion.Drops(inkmacro::emptyPlace)) {
         text.clear();
-        return PassOver(action, "objects of that class have no statements");
+        return PassOver(action, "the macro has no variable for one of its objects");
     }
     text += EmitJoin(conversion.writer, name, other);
     return kFxSuccess;
@@ -136,7 +135,7 @@ std::int32_t ConvertActionClipBoundary(Conversion& conversion, const CFxCustomAc
     if (image.isEmpty())
         image = conversion.names().VariableWithoutFetch(action.GetData(0).GetHandle(), action.GetData(1).GetClass());
     if (image.isEmpty())
-        return PassOver(action, "objects of that class have no statements");
+        return PassOver(action, "the macro has no variable for its image");
     const CFxCustomActionData& boundary = action.GetData(2);
     // A truth value removes the boundary, whichever it is.
     text = boundary.GetType() == CFxCustomActionData::kBool

@@ -84,6 +84,8 @@ std::int32_t ConvertActionPolylineJoin(Conversion& conversion, const CFxCustomAc
         }
         CFxString other;
         text += conversion.names().EmitObjectVariable(objects[i], cls, other);
+        if (other.isEmpty() && conversion.writer.repairs)
+            continue;
         text += joint->statement(conversion.writer, polyline, other);
     }
     return kFxSuccess;

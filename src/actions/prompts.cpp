@@ -117,6 +117,10 @@ struct Replay
         interaction.GetKeywords(local, global);
         if (global.size() < local.size())
             throw OdError_InvalidIndex();
+        const CFxString answer = result.getString();
+        if (!local.empty() && !answer.equalNoCase(local.front()) && !answer.equalNoCase(global.front()))
+            NoteAssumption(ActionTitle(&interaction),
+                           "the prompt offers its first keyword, not the one that was taken");
         return ask(writer, prompt, local, global);
     }
 };

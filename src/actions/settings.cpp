@@ -88,6 +88,8 @@ std::int32_t ConvertActionOptionValue(Conversion& conversion, const CFxCustomAct
 std::int32_t ConvertActionPrintStyle(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
+    if (conversion.writer.repairs && !action.GetData(1).GetBool() && action.GetData(2).GetString().isEmpty())
+        return PassOver(action, "its sheet has no name");
     text = EmitSetModelProperty(conversion.writer, "PrintStyle", action.GetData(0).GetString(),
                                 action.GetData(1).GetBool(), action.GetData(2).GetString());
     return kFxSuccess;

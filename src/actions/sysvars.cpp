@@ -43,6 +43,13 @@ std::int32_t int16Value(const CFxString& variable, const OdResBuf& value)
     return isColor(variable) ? value.getString().toInt() : value.getInt16();
 }
 
+bool isInt16(const QString& text)
+{
+    bool isNumber = false;
+    text.toShort(&isNumber);
+    return isNumber;
+}
+
 bool holdsKind(const CFxString& variable, OptionKind kind, const OdResBuf& value)
 {
     switch (kind) {
@@ -53,7 +60,7 @@ bool holdsKind(const CFxString& variable, OptionKind kind, const OdResBuf& value
     case OptionKind::Int8:
         return HoldsForm<std::int8_t>(value);
     case OptionKind::Int16:
-        return isColor(variable) ? isNumber(value.getString()) : HoldsForm<std::int16_t>(value);
+        return isColor(variable) ? isInt16(value.getString()) : HoldsForm<std::int16_t>(value);
     case OptionKind::Int32:
         return HoldsForm<std::int32_t>(value);
     case OptionKind::Point2d:
@@ -61,7 +68,8 @@ bool holdsKind(const CFxString& variable, OptionKind kind, const OdResBuf& value
     case OptionKind::Point3d:
         return HoldsForm<OdGePoint3d>(value);
     case OptionKind::String:
-        return HoldsForm<OdString>(value);
+        // Of a text markup goes, and all lines but the last.
+        return HoldsForm<OdString>(value) && CleanPromptText(value.getString()) == value.getString();
     }
     return false;
 }
@@ -136,6 +144,6 @@ std::int32_t ConvertSysVar(Conversion& conversion, const CFxSysVarChanged& varia
         NoteLoss(ActionTitle(&variable), "the interface has no option for it");
     else if (!holdsKind(variable.GetName(), static_cast<OptionKind>(kind), *value))
         NoteAssumption(ActionTitle(&variable),
-                       "its value is of another form than the option, which is set to another one");
+                       "the option does not take its value as it is, and is set to another one");
     return kFxSuccess;
 }

@@ -29,14 +29,15 @@ QStringList namesOf(const std::vector<OptionRow>& rows)
     return names;
 }
 
-/// "inspect and snapshot", those that have an option of that name.
+/// "inspect, check and snapshot", those that have an option of that name.
 QString commandsWith(const QString& option)
 {
     QStringList names;
     for (const CommandRow& row : commandTable())
         if (findOptionRow(row.options, option))
             names.append(row.name);
-    return names.join(" and ");
+    const QString last = names.isEmpty() ? QString() : names.takeLast();
+    return names.isEmpty() ? last : names.join(", ") + " and " + last;
 }
 
 class Parser

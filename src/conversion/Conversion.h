@@ -56,8 +56,8 @@ public:
     const Siblings* siblings = nullptr;               ///< of the action that is being converted
     /// Variables of the hatches that custom actions have inserted.
     std::set<QString> insertedHatches;
-    /// Attributes of blocks, whose values came with the insertion of their block.
-    std::set<OdDbHandle> writtenAttributes;
+    /// The values of attributes that came with the insertion of their block.
+    std::map<OdDbHandle, QString> writtenAttributes;
     /// In a repaired macro settings of hatches that were recorded ahead of the insertion, by their variables.
     std::map<QString, Statement> waitingSettings;
     /// Those of the hatch, which is inserted now.

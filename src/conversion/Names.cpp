@@ -162,7 +162,7 @@ CFxString Names::Fetched(const OdDbHandle& handle, const OdRxClass* cls)
 
 CFxString Names::FetchedUnknown(const OdDbHandle& handle, const OdRxClass* cls)
 {
-    return FetchesUnknown() && !IsUnmade(handle) && HasInterface(cls) ? Fetched(handle, cls) : CFxString();
+    return FetchesUnknown() && HasInterface(cls) ? Fetched(handle, cls) : CFxString();
 }
 
 CFxString Names::VariableOfMade(const CFxString& handedOver, const char* className)
@@ -216,6 +216,9 @@ CFxString Names::NameObject(const OdDbHandle& handle, const OdRxClass* cls)
 
 Statement Names::EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name)
 {
+    if (!NamesUnmade() && cls == OdDbMText::desc() && odrxQuery<OdDbMText>(IdOf(handle).openObject().get()))
+        if (const OdDbObjectId leader = GetNoteLeader(handle); !leader.isNull())
+            return EmitNoteOfLeader(handle, leader.getHandle(), name);
     if (!NamesUnmade() && IsUnmade(handle)) {
         // By its handle another object would come, if any.
         NoteLoss(ObjectTitle(cls, handle), "no statement inserts the object, so the macro has no variable for it");
@@ -227,6 +230,14 @@ Statement Names::EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* c
     if (RecordsOtherTypes(writer_.target))
         faults_.note(otherLanguage);
     return EmitGetObjectByHandle(writer_, FindTypeNames(cls)->type, name, handle);
+}
+
+Statement Names::EmitNoteOfLeader(const OdDbHandle& note, const OdDbHandle& leader, CFxString& name)
+{
+    CFxString leaderName;
+    const Statement fetch = EmitObjectVariable(leader, OdDbLeader::desc(), leaderName);
+    name = leaderName.isEmpty() ? CFxString() : NameObject(note, OdDbMText::desc());
+    return leaderName.isEmpty() ? Statement() : fetch + EmitGetNoteAnnotation(writer_, name, leaderName);
 }
 
 CFxString Names::NameAdded(const ActionEntry& entry, const OdRxClass* cls, const OdDbObjectId& id)

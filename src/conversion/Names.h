@@ -87,6 +87,9 @@ public:
     /// class without an interface leaves the name as it was. In a repaired macro there is neither name nor statement
     /// for an object that the recording made and the macro has not; that is noted as lost.
     Statement EmitObjectVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
+    /// The same of a note that a leader owns, which is reached through the leader; that declares the note's variable
+    /// too.
+    Statement EmitNoteOfLeader(const OdDbHandle& note, const OdDbHandle& leader, CFxString& name);
     /// Of an object that statements may be written for without its fetch: as recorded its bare name, in a repaired
     /// macro with the statement.
     virtual Statement EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) = 0;

@@ -12,8 +12,8 @@
 #include "statements/losses.h"
 #include "targets/variables.h"
 
+#include <QHash>
 #include <QScopedValueRollback>
-#include <QSet>
 
 #include <algorithm>
 #include <deque>
@@ -147,24 +147,32 @@ static Statement Declarations(Conversion& conversion, const CommandState& state)
     return text;
 }
 
-/// Whether some statement names a variable of the command which none of them declares itself, as that of a viewport
-/// does.
+/// Whether some statement names a variable of the command ahead of a line that declares it, as the insertion of a
+/// viewport does.
 static bool LacksDeclarations(const CommandState& state, Target target)
 {
-    QString text;
-    for (const HeldStatement& held : state.statements)
-        text += held.statement().text();
-    QSet<QString> used;
-    for (const QString& line : text.split('\n'))
-        inkmacro::forNames(line, target, [&](QStringView name, qsizetype) { used.insert(name.toString()); });
+    QHash<QString, QString> declarations;
     for (std::size_t i = 0; i < state.added.size(); ++i) {
         QString declaration = state.declarations[i].text().trimmed();
         if (declaration.endsWith(';'))
             declaration.chop(1);
-        if (used.contains(Names::DeclaredName(state.added[i])) && !text.contains(declaration))
-            return true;
+        declarations.insert(Names::DeclaredName(state.added[i]), declaration);
     }
-    return false;
+    const auto declares = [](QStringView line, const QString& declaration) {
+        const bool begins = line.startsWith(declaration);
+        return begins && (line.size() == declaration.size() || !inkmacro::isNamePart(line[declaration.size()]));
+    };
+    bool lacks = false;
+    for (const HeldStatement& held : state.statements)
+        for (const QString& line : held.statement().text().split('\n'))
+            inkmacro::forNames(line, target, [&](QStringView name, qsizetype) {
+                const auto declared = declarations.find(name.toString());
+                if (declared == declarations.end())
+                    return;
+                lacks = lacks || !declares(inkmacro::trimmed(line), declared.value());
+                declarations.erase(declared);
+            });
+    return lacks;
 }
 
 /// The variable that a custom action of a command is handed: the last one, whatever it is; in a repaired macro an

@@ -81,10 +81,8 @@ private:
     /// has the values.
     const CFxVariant& formed(const PropertyTag& tag, const CFxVariant& value, CFxVariant::Type form) const
     {
-        const bool isNumber = form == CFxVariant::kDouble && value.GetType() == CFxVariant::kInt32;
-        if (value.GetType() != form && !isNumber && !(value.IsNull() && IsMadeByAction(conversion, object)))
-            AssumeProperty(object, tag.text(),
-                           value.IsNull() ? "it is not recorded" : "it is recorded in another form");
+        if (!(value.IsNull() && IsMadeByAction(conversion, object)))
+            AssumeUnlessFormed(object, tag.text(), value, form);
         return value;
     }
     CFxVariant takeForm(const PropertyTag& tag, CFxVariant::Type form) { return formed(tag, take(tag), form); }

@@ -169,6 +169,7 @@ struct GeneralProperty
 {
     PropertyTag tag;
     CFxString name;
+    CFxVariant::Type form;
 };
 
 void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& object, PropertyList& list, bool fromAdded,
@@ -177,18 +178,22 @@ void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& obje
     Writer& writer = conversion.writer;
     const bool isCurvedText = object.cls == OdDbArcAlignedText::desc();
     // Made once: they are asked for with every entity.
-    static const GeneralProperty color{"LineColor", "Color"};
-    static const GeneralProperty layer{"Layer", "Layer"};
-    static const GeneralProperty lineStyle{"LineStyle", "LineStyle"};
-    static const GeneralProperty lineScale{"LineScale", "LineScale"};
-    static const GeneralProperty lineWeight{"LineWeight", "LineWeight"};
-    static const GeneralProperty thickness{"Thickness", "Thickness"};
-    static const GeneralProperty printStyle{"PrintStyle", "PrintStyle"};
-    static const GeneralProperty transparency{"Transparency", {}};
+    static const GeneralProperty color{"LineColor", "Color", CFxVariant::kColor};
+    static const GeneralProperty layer{"Layer", "Layer", CFxVariant::kId};
+    static const GeneralProperty lineStyle{"LineStyle", "LineStyle", CFxVariant::kId};
+    static const GeneralProperty lineScale{"LineScale", "LineScale", CFxVariant::kDouble};
+    static const GeneralProperty lineWeight{"LineWeight", "LineWeight", CFxVariant::kInt32};
+    static const GeneralProperty thickness{"Thickness", "Thickness", CFxVariant::kDouble};
+    static const GeneralProperty printStyle{"PrintStyle", "PrintStyle", CFxVariant::kString};
+    static const GeneralProperty transparency{"Transparency", {}, CFxVariant::kTransparency};
 
     CFxVariant value;
     const auto take = [&](const GeneralProperty& property) {
         value = FindProperty(conversion, property.tag, list);
+        // Ids and transparencies of another form are lost.
+        const bool hasNeutral = property.form != CFxVariant::kId && property.form != CFxVariant::kTransparency;
+        if (!value.IsNull() && hasNeutral)
+            AssumeUnlessFormed(object, property.tag.text(), value, property.form);
         return !value.IsNull();
     };
     const auto leaveGroup = [&] {

@@ -30,10 +30,19 @@ std::int32_t ConvertObjectAdded(Conversion& conversion, const CFxObjectAdded& ac
     const OdRxClass* const cls = action.GetObjectClass();
     if (!cls)
         return kFxFailure;
-    if (conversion.writtenAttributes.contains(action.GetHandle()) || !hasStatements(action))
-        return kFxSuccess;
     PropertyList read = action.GetProperties();
     PropertyList rest = action.GetExtraProperties();
+    if (const auto written = conversion.writtenAttributes.find(action.GetHandle());
+        written != conversion.writtenAttributes.end()) {
+        std::erase_if(rest, [&](const CFxPropertyChangedPtr& record) {
+            return record->GetName() == CFxString("Value") &&
+                   record->GetValue(conversion.context).GetString().toQString() == written->second;
+        });
+        LoseRest(conversion, {cls, action.GetHandle(), {}}, rest, true);
+        return kFxSuccess;
+    }
+    if (!hasStatements(action))
+        return kFxSuccess;
     Statement statements;
     ConvertAddedObject(conversion, cls, action.GetHandle(), read, rest, statements);
     text += std::move(statements);
@@ -84,6 +93,12 @@ PropertyList onlyIn(const PropertyList& list, const PropertyList& other)
     return found;
 }
 
+PropertyList joined(PropertyList list, const PropertyList& more)
+{
+    list.insert(list.end(), more.begin(), more.end());
+    return list;
+}
+
 /// Removes of each record its first twin in the list. A record without a twin is passed over.
 void strike(const PropertyList& consumed, PropertyList& list)
 {
@@ -126,9 +141,12 @@ void ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDb
     const OdDbObjectId id = IdOf(handle);
     object.name = conversion.names().NameAdded(*entry, cls, id);
 
-    LoseLoneTags(conversion, object, rest, true);
     // Of two lists with the same records the same ones stay.
     const bool same = read == rest;
+    if (same)
+        LoseLoneTags(conversion, object, rest, true);
+    else
+        LoseLoneTags(conversion, object, joined(rest, onlyIn(read, rest)), true);
     PropertyList consumed;
     AddedObject added(conversion, object, id, read, same ? nullptr : &consumed);
     if (const ClassRow* const row = FindClass(cls); row && row->reader)
@@ -148,12 +166,13 @@ void ConvertAddedObject(Conversion& conversion, const OdRxClass* cls, const OdDb
         conversion.names().SetUnmade(handle);
     // Of a hatch that is inserted general properties are written in any case.
     const bool isInserted = isHatch && isMade && conversion.writer.repairs;
+    if (isMade || !text.isEmpty())
+        LoseRest(conversion, object, unheard, true);
     if ((text.isEmpty() || isHatch) && !isInserted)
         LoseUnmade(conversion, object, rest, !text.isEmpty());
     if (text.isEmpty() && !isInserted)
         return;
 
-    LoseRest(conversion, object, unheard, true);
     Statement general;
     ConvertObjectChanges(conversion, cls, handle, rest, true, general);
     // Made at its full length: one that grows is allocated and copied once more.

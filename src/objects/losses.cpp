@@ -70,7 +70,7 @@ constexpr DerivedTag actionTags[] = {
     {"Color *", "AcDbHatch"},
     {"Centered", "AcDbHatch"},
     {"Gradient Angle", "AcDbHatch"},
-    {"*", "AcDbViewTableRecord"},
+    {"Name", "AcDbViewTableRecord"},
 };
 
 /// A derived value tells something of its own when nothing that it follows from is recorded.
@@ -228,6 +228,17 @@ void AssumeProperty(const RecordedObject& object, const QString& tag, const QStr
                                                   [&] { return propertyTitle(object, tag); });
 }
 
+void AssumeUnlessFormed(const RecordedObject& object, const QString& tag, const CFxVariant& value,
+                        CFxVariant::Type form)
+{
+    const auto isNumber = [](CFxVariant::Type type) {
+        return type == CFxVariant::kDouble || type == CFxVariant::kInt32;
+    };
+    const CFxVariant::Type type = value.GetType();
+    if (type != form && !(isNumber(type) && isNumber(form)))
+        AssumeProperty(object, tag, value.IsNull() ? "it is not recorded" : "it is recorded in another form");
+}
+
 void LoseArcs(const Conversion& conversion, const RecordedObject& object, const OdDbPolyline& polyline)
 {
     for (unsigned i = 0; i < polyline.numVerts(); ++i)
@@ -243,19 +254,21 @@ void LoseNoteWithoutLeader(const Conversion& conversion, const RecordedObject& o
 
 void LoseRest(const Conversion& conversion, const RecordedObject& object, const PropertyList& list, bool fromAdded)
 {
-    if (list.empty() || (fromAdded && isInBlock(object.cls, conversion)))
+    if (list.empty())
         return;
     const bool isMade = fromAdded && IsMadeByAction(conversion, object);
     if (fromAdded && object.cls == OdDbHatch::desc() && !isMade)
         return;
+    const char* const reason = !isMade                             ? "no statement sets it"
+                               : isInBlock(object.cls, conversion) ? "the block that holds the object does not set it"
+                                                                   : "the action that makes the object does not set it";
     for (const CFxPropertyChangedPtr& record : list) {
         const QString& tag = record->GetName();
         const bool isThere =
             fromAdded && (holds(insertedTags, object.cls, tag) || isUsual(tag, record->GetValue(conversion.context)) ||
                           (isMade && holds(actionTags, object.cls, tag)));
         if (!isThere && !holds(derivedTags, object.cls, tag))
-            LoseProperty(object, tag,
-                         isMade ? "the action that makes the object does not set it" : "no statement sets it");
+            LoseProperty(object, tag, reason);
     }
 }
 
@@ -309,6 +322,6 @@ void LoseUnmade(const Conversion& conversion, const RecordedObject& object, cons
         LoseObject(object, "no action of its command makes it");
         return;
     }
-    if (!written && object.cls->isDerivedFrom(OdDbEntity::desc()))
+    if (!written && (object.cls->isDerivedFrom(OdDbEntity::desc()) || object.cls == OdDbViewTableRecord::desc()))
         LoseRest(conversion, object, rest, true);
 }

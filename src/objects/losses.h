@@ -13,6 +13,9 @@ void LoseObject(const RecordedObject& object, const char* reason);
 void LoseProperty(const RecordedObject& object, const QString& tag, const QString& reason);
 /// A property that the macro states otherwise than it is recorded.
 void AssumeProperty(const RecordedObject& object, const QString& tag, const QString& reason);
+/// A value that is missing or of another form, of which getters give a neutral one; numbers have one form.
+void AssumeUnlessFormed(const RecordedObject& object, const QString& tag, const CFxVariant& value,
+                        CFxVariant::Type form);
 /// The arcs of an added polyline, which none but a custom action tells.
 void LoseArcs(const Conversion& conversion, const RecordedObject& object, const OdDbPolyline& polyline);
 /// An added note that its leader should bring, when the macro does not have the leader.

@@ -8,7 +8,6 @@
 #include "statements/writtenValues.h"
 
 #include <algorithm>
-#include <numeric>
 #include <type_traits>
 
 namespace inkmacro {
@@ -299,30 +298,29 @@ bool Fill::breaksItsQuotes(const Template::Piece& piece, int used) const
     return breaksQuotes(*text, escaped == meant_.end() ? *text : QStringView(escaped->text), *mode_.target);
 }
 
-/// A statement may have many lines, and the head of a macro has: the fault is of the one where the text stands. Where
-/// values hold markers places are not known.
+/// A statement may have many lines, and the head of a macro has: the fault is of each line where such a text stands.
+/// Where values hold markers places are not known.
 void Fill::noteBrokenQuotes(Statement& outcome, int used) const
 {
-    const std::vector<Template::Piece>& pieces = template_->pieces_;
-    const auto broken = std::find_if(pieces.begin(), pieces.end(),
-                                     [&](const Template::Piece& piece) { return breaksItsQuotes(piece, used); });
-    if (broken == pieces.end()) {
-        return;
-    }
-    if (!fitsOnePass()) {
-        outcome.addFault(brokenQuotes);
-        return;
-    }
-    const auto length = [&](const Template::Piece& piece) {
-        const auto writtenLength = [](const auto& value) {
-            return written(room(value), [&](QChar* out) { return write(out, value); }).size();
-        };
-        const bool isFilled = piece.rank != Template::noMarker && piece.rank < used;
-        return isFilled ? std::visit(writtenLength, values_[piece.rank]) : piece.length;
+    const auto writtenLength = [](const auto& value) {
+        return written(room(value), [&](QChar* out) { return write(out, value); }).size();
     };
-    outcome.addFault(brokenQuotes,
-                     std::accumulate(pieces.begin(), broken, 0,
-                                     [&](int sum, const Template::Piece& piece) { return sum + length(piece); }));
+    int at = 0;
+    int last = -1; // place of the fault that was noted last
+    for (const Template::Piece& piece : template_->pieces_) {
+        const bool isFilled = piece.rank != Template::noMarker && piece.rank < used;
+        if (breaksItsQuotes(piece, used)) {
+            if (!fitsOnePass()) {
+                outcome.addFault(brokenQuotes);
+                return;
+            }
+            if (last < 0 || QStringView(outcome.text()).mid(last, at - last).contains(u'\n')) {
+                outcome.addFault(brokenQuotes, at);
+                last = at;
+            }
+        }
+        at += isFilled ? std::visit(writtenLength, values_[piece.rank]) : piece.length;
+    }
 }
 
 /// Whether each text that comes to stand between quotes is plain.

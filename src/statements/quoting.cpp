@@ -155,7 +155,7 @@ std::optional<QString> readInBasic(QStringView written, Target target)
     read.replace(basicLineFeed, QLatin1String("\n"));
     const bool ends = std::any_of(read.begin(), read.end(), [target](QChar character) {
         const ushort code = character.unicode();
-        return character == u'"' || (isControl(code) && character != u'\n') || endsLine(code) ||
+        return character == u'"' || (isControl(code) && character != u'\n' && character != u'\t') || endsLine(code) ||
                (target == Target::VbNet && isTypographicQuote(code));
     });
     return ends || written.contains(u'\n') ? std::nullopt : std::optional(read);
@@ -168,8 +168,9 @@ std::optional<QString> readInCurly(QStringView written, Target target)
     for (qsizetype at = 0; at < written.size(); ++at) {
         const QChar character = written[at];
         const QChar next = at + 1 < written.size() ? written[at + 1] : QChar();
-        // In a page a script ends only where `</script` or a comment begins.
-        const bool harmless = character == u'\'' || (character == u'<' && !opensTag(written, at, target));
+        // In a page a script ends only where `</script` or a comment begins. Tabs are escaped to be seen.
+        const bool harmless =
+            character == u'\'' || character == u'\t' || (character == u'<' && !opensTag(written, at, target));
         if (character == u'\\' && (next == u'\\' || next == u'n')) {
             read += next == u'n' ? QChar(u'\n') : next;
             ++at;

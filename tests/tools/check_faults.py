@@ -64,6 +64,8 @@ BESIDE = {
     "the page has no iwDoc, its document is mDoc": (r"\biwDoc\b", "mDoc"),
     # The recorded points lie in the plane.
     "y is written twice and z never": (r"\.add\([^()]*\);$", ".add(0);"),
+    "a literal is given where a BSTR belongs, which has its length in front":
+        (r'(put_\w*)\( (L"[^"]*") \)', r"\1( _bstr_t(\2) )"),
     "a property of a sheet is given a narrow text": (r'(put_\w+)\( "', r'\1( L"'),
     "a sheet is activated to be given a print style, so that what follows is drawn on it":
         (r"iwSheet->Activate\(\);", ""),

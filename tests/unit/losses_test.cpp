@@ -245,8 +245,7 @@ TEST(Assumptions, OfAReplayAreValuesOfAnotherForm)
                                               R"(","prompt":"A:","result":)" + result + "}}"));
     };
     const auto sysvar = [](const std::string& name) {
-        return Lines{"0.0 sysvar " + name +
-                     ": its value is of another form than the option, which is set to another one"};
+        return Lines{"0.0 sysvar " + name + ": the option does not take its value as it is, and is set to another one"};
     };
     EXPECT_EQ(ofSysvar("CECOLOR", R"({"string":"red"})"), sysvar("CECOLOR"));
     EXPECT_EQ(ofSysvar("CECOLOR", R"({"string":"3"})"), Lines());
@@ -304,10 +303,9 @@ TEST(Losses, OfWhatIsNoChoiceAreToldWithTheDefault)
               Lines{"1 \"7\" of iwLineWeight: there is no such choice, so the default stands"});
     EXPECT_EQ(ofChange(R"({"tag":"LineWeight","value":{"int":-3}})"), Lines());
     const auto ofText = [](const char* justification) {
-        return lossesOf(
-            command(QByteArray(R"({"added":{"class":"AcDbAttributeDefinition","handle":"31","properties":[)"
-                               R"({"tag":"Justify","value":")") +
-                    justification + R"("}]}})"));
+        return lossesOf(command(QByteArray(R"({"added":{"class":"AcDbAttributeDefinition","handle":"31","properties":[)"
+                                           R"({"tag":"Justify","value":")") +
+                                justification + R"("}]}})"));
     };
     EXPECT_EQ(ofText("Slanted"),
               Lines{"0.0 \"Slanted\" of iwTextJustification: there is no such choice, so the default stands"});
@@ -451,8 +449,10 @@ TEST(Losses, OfARepairedMacroAreUsesOfWhatItDoesNotMake)
     const TestRepair repair;
     const std::string lost = "AcDbRegion 31: no statement inserts the object, so the macro has no variable for it";
     const QByteArray region = command(R"({"added":{"class":"AcDbRegion","handle":"31","properties":[]}})");
-    for (const char* use : {R"({"custom":{"kind":17,"data":[{"handles":["31"]},{"classes":["AcDbRegion"]}]}})",
-                            R"({"custom":{"kind":55,"data":[{"handles":["31"]},{"classes":["AcDbRegion"]}]}})"})
+    for (const char* use :
+         {R"({"custom":{"kind":17,"data":[{"handles":["31"]},{"classes":["AcDbRegion"]}]}})",
+          R"({"custom":{"kind":55,"data":[{"handles":["31"]},{"classes":["AcDbRegion"]}]}})",
+          R"({"custom":{"kind":3,"data":[{"handles":["31"]},{"classes":["AcDbRegion"]},{"vector":[1,0,0]}]}})"})
         EXPECT_EQ(lossesOf(region + command(use)).at(1), "1.0 " + lost) << use;
 }
 

@@ -451,8 +451,8 @@ TEST(RepairedMacro, HasNoPlaceWithoutItsObject)
         const QString repaired = conversion.body();
         EXPECT_FALSE(repaired.contains(hole.faithful)) << hole.faithful << " in\n" << repaired.toStdString();
         EXPECT_TRUE(repaired.contains(hole.repaired)) << hole.repaired << " in\n" << repaired.toStdString();
-        const bool leftOut = QString(hole.repaired).isEmpty();
-        EXPECT_EQ(GetFxSystemServices()->Notes().GetLosses().size() > 1, leftOut) << hole.faithful;
+        const std::size_t least = QString(hole.repaired).isEmpty() ? 2 : 0;
+        EXPECT_GE(GetFxSystemServices()->Notes().GetLosses().size(), least) << hole.faithful;
     }
 }
 

@@ -51,7 +51,7 @@ Statement setAttributes(const AddedObject& added, const OdDbBlockReference& refe
         if (!attribute || attribute->tag().isEmpty())
             continue;
         text += EmitBlockAttributeValue(added.writer, added.name, "Value", attribute->tag(), attribute->textString());
-        added.conversion.writtenAttributes.insert(at->objectId().getHandle());
+        added.conversion.writtenAttributes.insert_or_assign(at->objectId().getHandle(), attribute->textString());
     }
     return text;
 }

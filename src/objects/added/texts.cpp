@@ -58,6 +58,8 @@ Box boxOfNote(int attachment, const OdGePoint3d& position, double width, double 
             {moved(position.x, shares.secondX, width), moved(position.y, shares.secondY, height), position.z}};
 }
 
+constexpr char kNoChoice[] = "it is recorded in another form than as a choice";
+
 /// A command that loads shapes is written without its block, so the statement stands one level further out.
 Statement loadShapes(Writer& writer, const CFxString& fileName)
 {
@@ -118,7 +120,10 @@ Statement ReadSimpleNote(AddedObject& added)
     const double height = added.takeReal("Height", 2.5);
     const double rotation = added.takeReal("Rotation", 0.0);
     const CFxString contents = added.takeText("Contents");
-    const std::optional<CFxString> justification = ChosenText(added.take("Justify"));
+    const CFxVariant justify = added.take("Justify");
+    const std::optional<CFxString> justification = ChosenText(justify);
+    if (!justify.IsNull() && !justification)
+        LoseProperty(added.object, "Justify", kNoChoice);
 
     Statement text = EmitInsertSimpleNote(added.writer, position, height, rotation, contents, added.name);
     if (justification)
@@ -160,6 +165,8 @@ Statement ReadNote(AddedObject& added)
     }
     if (const std::optional<CFxString> justification = ChosenText(justify))
         text += EmitSetNoteJustify(added.writer, added.name, "Justify", *justification);
+    else if (!justify.IsNull())
+        LoseProperty(added.object, "Justify", kNoChoice);
     if (!direction.IsNull())
         text += EmitSetNoteDirection(added.writer, added.name, "Direction", direction.GetCollection().GetChosen());
     return text;

@@ -25,6 +25,10 @@ void ConvertModifiedSheet(Conversion& conversion, const RecordedObject& object, 
             LoseProperty(object, "PrintStyleTable", "its sheet is not recorded");
         return;
     }
-    text += EmitSetModelProperty(conversion.writer, "PrintStyleTable", table.GetString(),
-                                 model.GetString() == ShownWord("Yes"), sheet.GetString());
+    const bool ofModel = model.GetString() == ShownWord("Yes");
+    if (conversion.writer.repairs && !ofModel && sheet.GetString().isEmpty())
+        LoseProperty(object, "PrintStyleTable", "its sheet has no name");
+    else
+        text +=
+            EmitSetModelProperty(conversion.writer, "PrintStyleTable", table.GetString(), ofModel, sheet.GetString());
 }
