@@ -33,26 +33,43 @@ public:
         return odrxCast<T>(id_.openObject().get());
     }
 
-    CFxVariant take(const PropertyTag& tag) { return FindProperty(conversion, tag, list_, consumed_); }
+    // What is taken when the tag is missing stands behind it; a value that is asked for by its form is null then, and
+    // nothing is done.
+    CFxVariant take(const PropertyTag& tag, const ValueForm& form) { return take(tag, form, {}); }
     OdGePoint3d takePoint(const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag)
     {
+        for (const PropertyTag& tag : {xTag, yTag, zTag})
+            noteAsked(tag, forms::number, "0");
         return FindPoint(conversion, xTag, yTag, zTag, list_, consumed_);
     }
-    OdGePoint3d takePoint(const PropertyTag& tag) { return take(tag).GetPoint3d(); }
-    CFxString takeText(const PropertyTag& tag) { return take(tag).GetString(); }
+    OdGePoint3d takePoint(const PropertyTag& tag) { return take(tag, forms::point, "the origin").GetPoint3d(); }
+    CFxString takeText(const PropertyTag& tag) { return take(tag, forms::text, "empty text").GetString(); }
+    /// Of a plain text or the chosen one of several items.
+    CFxString takeWord(const PropertyTag& tag) { return wordOf(take(tag, forms::word, "empty text")); }
+    std::int32_t takeInteger(const PropertyTag& tag) { return take(tag, forms::whole, "0").GetInt32(); }
+    /// A number that is not 0.
+    bool takeFlag(const PropertyTag& tag) { return takeInteger(tag) != 0; }
     /// The points of a collection; none of a value that is no collection.
     OdArray<OdGePoint3d> takePoints(const PropertyTag& tag)
     {
         OdArray<OdGePoint3d> points;
-        const CFxVariant value = take(tag);
+        const CFxVariant value = take(tag, forms::points, "no points");
         for (const CFxVariantCollectionElement& element : value.GetCollection().GetCollectionDataForRead())
             points.append(element.GetValue()->GetPoint3d());
         return points;
     }
     double takeReal(const PropertyTag& tag, double whenMissing)
     {
-        const CFxVariant value = take(tag);
+        if (conversion.asked)
+            noteAsked(tag, forms::number, QString::number(whenMissing));
+        const CFxVariant value = FindProperty(conversion, tag, list_, consumed_);
         return value.IsNull() ? whenMissing : value.GetDouble();
+    }
+    /// `whenMissing` is for people.
+    CFxVariant take(const PropertyTag& tag, const ValueForm& form, const char* whenMissing)
+    {
+        noteAsked(tag, form, whenMissing);
+        return FindProperty(conversion, tag, list_, consumed_);
     }
 
     /// What no reader has taken yet.
@@ -67,6 +84,13 @@ public:
     }
 
 private:
+    template<class Text>
+    void noteAsked(const PropertyTag& tag, const ValueForm& form, const Text& whenMissing)
+    {
+        if (conversion.asked)
+            conversion.asked->push_back({tag.text(), form, whenMissing});
+    }
+
     const OdDbObjectId id_;
     PropertyList& list_;
     PropertyList* consumed_;

@@ -104,7 +104,9 @@ static Statement convertClassChanges(Conversion& conversion, const RecordedObjec
         else if (row->changes.handler)
             row->changes.handler(conversion, object, list, text);
     }
-    if (const CFxVariant erased = fromAdded ? CFxVariant() : FindProperty(conversion, "Erased", list); !erased.IsNull())
+    if (const CFxVariant erased =
+            fromAdded ? CFxVariant() : TakeProperty(conversion, "Erased", forms::text.with(forms::yesNo), list);
+        !erased.IsNull())
         text += convertErased(conversion, object, erased);
     return text;
 }
@@ -168,6 +170,7 @@ void ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const Od
 struct GeneralProperty
 {
     PropertyTag tag;
+    ValueForm form;
     CFxString name;
 };
 
@@ -177,17 +180,19 @@ void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& obje
     Writer& writer = conversion.writer;
     const bool isCurvedText = object.cls == OdDbArcAlignedText::desc();
     // Made once: they are asked for with every entity.
-    static const GeneralProperty color{"LineColor", "Color"};
-    static const GeneralProperty layer{"Layer", "Layer"};
-    static const GeneralProperty lineStyle{"LineStyle", "LineStyle"};
-    static const GeneralProperty lineScale{"LineScale", "LineScale"};
-    static const GeneralProperty lineWeight{"LineWeight", "LineWeight"};
-    static const GeneralProperty thickness{"Thickness", "Thickness"};
-    static const GeneralProperty printStyle{"PrintStyle", "PrintStyle"};
-    static const GeneralProperty transparency{"Transparency", {}};
+    static const GeneralProperty color{"LineColor", forms::color, "Color"};
+    static const GeneralProperty layer{"Layer", forms::object, "Layer"};
+    static const GeneralProperty lineStyle{"LineStyle", forms::object, "LineStyle"};
+    static const GeneralProperty lineScale{"LineScale", forms::number, "LineScale"};
+    static const GeneralProperty lineWeight{"LineWeight", forms::whole, "LineWeight"};
+    static const GeneralProperty thickness{"Thickness", forms::number, "Thickness"};
+    static const GeneralProperty printStyle{"PrintStyle", forms::text, "PrintStyle"};
+    static const GeneralProperty transparency{"Transparency", forms::transparency, {}};
 
     CFxVariant value;
     const auto take = [&](const GeneralProperty& property) {
+        if (conversion.asked)
+            conversion.asked->push_back({property.tag.text(), property.form, {}, false, true});
         value = FindProperty(conversion, property.tag, list);
         return !value.IsNull();
     };

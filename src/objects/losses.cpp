@@ -269,6 +269,33 @@ void LoseLoneTags(const Conversion& conversion, const RecordedObject& object, co
     }
 }
 
+std::vector<QString> RepeatedTags(const OdRxClass* cls, bool fromAdded)
+{
+    std::vector<QString> tags;
+    const auto append = [&](std::span<const DerivedTag> rows) {
+        for (const DerivedTag& row : rows)
+            if (!row.cls || cls->name() == QLatin1String(row.cls))
+                tags.push_back(row.tag);
+    };
+    append(derivedTags);
+    if (fromAdded) {
+        append(insertedTags);
+        append(actionTags);
+    }
+    return tags;
+}
+
+std::int32_t KindThatMakes(const OdRxClass* cls)
+{
+    const MadeByAction* const row = madeByAction(cls);
+    return row ? row->kind : -1;
+}
+
+std::int32_t KindThatCompletes(const OdRxClass* cls)
+{
+    return cls == OdDbPolyline::desc() ? inkmacro::kPolyline : -1;
+}
+
 bool IsEntityOfAction(const OdRxClass* cls, std::int32_t kind)
 {
     return std::ranges::any_of(madeByActions, [&](const MadeByAction& made) {

@@ -58,6 +58,14 @@ CFxVariant FindProperty(Conversion& conversion, const PropertyTag& tag, Property
     return record->GetValue(conversion.context);
 }
 
+CFxVariant TakeProperty(Conversion& conversion, const PropertyTag& tag, const ValueForm& form, PropertyList& list,
+                        PropertyList* consumed)
+{
+    if (conversion.asked)
+        conversion.asked->push_back({tag.text(), form});
+    return FindProperty(conversion, tag, list, consumed);
+}
+
 OdGePoint3d FindPoint(Conversion& conversion, const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag,
                       PropertyList& list, PropertyList* consumed)
 {

@@ -10,6 +10,9 @@
 /// attribute's own tag.
 CFxVariant FindProperty(Conversion& conversion, const PropertyTag& tag, PropertyList& list,
                         PropertyList* consumed = nullptr, CFxVariant* index = nullptr);
+/// The same of a value of that form, for whoever lists the tags.
+CFxVariant TakeProperty(Conversion& conversion, const PropertyTag& tag, const ValueForm& form, PropertyList& list,
+                        PropertyList* consumed = nullptr);
 /// Three reads in the order X, Y, Z; a coordinate that was not recorded is 0.0.
 OdGePoint3d FindPoint(Conversion& conversion, const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag,
                       PropertyList& list, PropertyList* consumed = nullptr);
