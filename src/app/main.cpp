@@ -2,6 +2,7 @@
 
 #include "app/CommandLine.h"
 #include "app/ExitStatus.h"
+#include "app/classesPage.h"
 #include "app/commandTable.h"
 #include "app/completion.h"
 #include "app/console.h"
@@ -17,7 +18,6 @@
 #include "app/report.h"
 #include "app/runCommand.h"
 #include "app/snapshot.h"
-#include "recordfile/RecordingSchema.h"
 
 #include <QCoreApplication>
 
@@ -63,10 +63,13 @@ int run(const CommandLine& line)
     case CommandLine::Command::Snapshot:
         return showSnapshot(line.files.front(), line.handle, line.json);
     case CommandLine::Command::RecordingSchema:
-        printOut(RecordingSchema());
+        printOut(RecordingSchema(schemaNames()));
         break;
     case CommandLine::Command::ReportSchema:
         printOut(reportSchema());
+        break;
+    case CommandLine::Command::Classes:
+        printOut(classesPage(line.className));
         break;
     case CommandLine::Command::SystemVariables:
         printOut(systemVariablesPage());

@@ -90,15 +90,9 @@ CFxKnownTag knownTag(const AskedTag& asked)
         tag.firstWord = form.byValue->firstValue;
         tag.bits = form.byValue->bits;
         tag.words.assign(form.byValue->suffixes.begin(), form.byValue->suffixes.end());
-    } else if (form.byText) {
+    } else if (std::vector<QString> words = WordsOf(form); !words.empty()) {
         tag.content = CFxKnownTag::kWord;
-        tag.words.emplace_back(form.byText->defaultText);
-        for (const inkmacro::TextEnumeration::Row& row : form.byText->rows)
-            if (tag.words.front().toQString() != QLatin1String(row.text))
-                tag.words.emplace_back(row.text);
-    } else if (!form.words.empty()) {
-        tag.content = CFxKnownTag::kWord;
-        tag.words.assign(form.words.begin(), form.words.end());
+        tag.words = toList(words);
     } else if (tag.takes(CFxVariant::kPoint3d) || form.content == ValueForm::kPoints) {
         tag.unit = "drawing units";
     } else if (tag.takes(CFxVariant::kDouble) && form.content == ValueForm::kAnything) {

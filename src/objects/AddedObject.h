@@ -48,7 +48,11 @@ public:
     CFxString takeWord(const PropertyTag& tag) { return wordOf(take(tag, forms::word, "empty text")); }
     std::int32_t takeInteger(const PropertyTag& tag) { return take(tag, forms::whole, "0").GetInt32(); }
     /// A number that is not 0.
-    bool takeFlag(const PropertyTag& tag) { return takeInteger(tag) != 0; }
+    bool takeFlag(const PropertyTag& tag)
+    {
+        static const inkmacro::ValueEnumeration answers{"", 0, {"No", "Yes"}};
+        return take(tag, forms::number.with(answers), "0").GetInt32() != 0;
+    }
     /// The points of a collection; none of a value that is no collection.
     OdArray<OdGePoint3d> takePoints(const PropertyTag& tag)
     {

@@ -326,6 +326,7 @@ constexpr const char* visibility[] = {"Visible", "Hidden"};
 constexpr const char* enabledOrNot[] = {"Enabled", "Disabled"};
 constexpr const char* separators[] = {",", " ", "."};
 constexpr const char* orientations[] = {"Down", "Up"};
+constexpr inkmacro::ValueEnumeration lineSpacings{"iwNoteLineSpacingStyle", 0, {"AtLeast", "Exactly"}};
 constexpr ValueForm wholeChoice{forms::choice.types, ValueForm::kWholeNumber};
 constexpr ValueForm arrowForm = forms::element.with(inkmacro::enums::dimensionArrowType);
 constexpr ValueForm anyArrowForm = forms::choice.with(inkmacro::enums::dimensionArrowType);
@@ -549,7 +550,7 @@ constinit const ChangeKind textInside{
 };
 
 constinit const ChangeKind noteDirection{setChosen<setNoteDirection, anyText>, forms::word.with(directions)};
-constinit const ChangeKind noteLineSpacing{setNoteLineSpacing, wholeChoice};
+constinit const ChangeKind noteLineSpacing{setNoteLineSpacing, forms::choice.with(lineSpacings)};
 constinit const ChangeKind fontParameter{[](const Change& change) {
                                              return EmitSetFontParameter(change.writer, change.target,
                                                                          change.row.property, isAnyYes(change.value));

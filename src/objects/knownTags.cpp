@@ -28,6 +28,9 @@ std::vector<AskedTag> onceEach(const std::vector<AskedTag>& asked)
 
 std::vector<AskedTag> askedTags(const ClassRow& row, bool fromAdded)
 {
+    // What an action makes without a reader gets nothing of its records.
+    if (fromAdded && !row.reader)
+        return {};
     std::vector<AskedTag> asked;
     Conversion conversion(inkmacro::Target::CSharp, 0);
     conversion.asked = &asked;
@@ -35,7 +38,7 @@ std::vector<AskedTag> askedTags(const ClassRow& row, bool fromAdded)
     const OdDbHandle handle(1);
     conversion.names().RegisterObject(handle, cls);
     PropertyList none;
-    if (fromAdded && row.reader) {
+    if (fromAdded) {
         const RecordedObject object{cls, handle, "object"};
         AddedObject added(conversion, object, OdDbObjectId(), none, nullptr);
         row.reader(added);
@@ -50,8 +53,26 @@ std::vector<AskedTag> askedTags(const ClassRow& row, bool fromAdded)
 KnownTags TagsOf(const ClassRow& row)
 {
     const QScopedValueRollback<ProcessCounters> numbers(processCounters);
-    const QScopedValueRollback<CFxConversionNotes> notes(GetFxSystemServices()->Notes());
-    return {askedTags(row, true), askedTags(row, false)};
+    CFxSystemServices& services = *GetFxSystemServices();
+    const QScopedValueRollback<CFxConversionNotes> notes(services.Notes());
+    // No drawing has the object.
+    CFxDocument* const document = services.GetActiveDocument();
+    services.SetActiveDocument(nullptr);
+    KnownTags tags{askedTags(row, true), askedTags(row, false)};
+    services.SetActiveDocument(document);
+    return tags;
+}
+
+std::vector<QString> WordsOf(const ValueForm& form)
+{
+    if (!form.byText)
+        return {form.words.begin(), form.words.end()};
+    // Some enumerations tell their default among the others too.
+    std::vector<QString> words{form.byText->defaultText};
+    for (const inkmacro::TextEnumeration::Row& row : form.byText->rows)
+        if (words.front() != QLatin1String(row.text))
+            words.push_back(row.text);
+    return words;
 }
 
 const char* UnitOf(const QString& tag)

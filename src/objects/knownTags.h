@@ -15,5 +15,8 @@ struct KnownTags
 /// of the conversion before, and the numbers of names, as they are.
 KnownTags TagsOf(const ClassRow& row);
 
+/// The words that a value of the form may be, in the order of their places; none of a free text.
+std::vector<QString> WordsOf(const ValueForm& form);
+
 /// What a number of that tag is measured in; empty for one without a unit.
 const char* UnitOf(const QString& tag);

@@ -101,9 +101,12 @@ Statement ReadAttributeDefinition(AddedObject& added)
     definition.styleName = nameOfTextStyle(added.take("TextStyle", forms::object, "no name").GetId());
     definition.justification =
         wordOf(added.take("Justify", forms::word.with(inkmacro::enums::textJustification), "empty text"));
-    const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
-    const OdGePoint3d alignment = added.takePoint("Text alignment X", "Text alignment Y", "Text alignment Z");
-    definition.position = definition.justification.equalNoCase(ShownWord("Left")) ? position : alignment;
+    // Only one of the points is taken; who lists the tags hears of both.
+    const bool isLeft = definition.justification.equalNoCase(ShownWord("Left"));
+    if (isLeft || added.conversion.asked)
+        definition.position = added.takePoint("Position X", "Position Y", "Position Z");
+    if (!isLeft)
+        definition.position = added.takePoint("Text alignment X", "Text alignment Y", "Text alignment Z");
     definition.height = added.takeReal("Height", 0.2);
     definition.rotation = added.takeReal("Rotation", 0.0);
     definition.constant = takeYes("Constant");
@@ -136,7 +139,7 @@ Statement ReadSimpleNote(AddedObject& added)
 
 Statement ReadNote(AddedObject& added)
 {
-    const CFxVariant width = added.take("Width", forms::number, "0");
+    const CFxVariant width = added.take("Width", forms::number, "a box without width");
     const CFxVariant textHeight = added.take("Text Height", forms::number);
     const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
     const CFxVariant justify = added.take("Justify", forms::chosen.with(inkmacro::enums::noteJustification));
