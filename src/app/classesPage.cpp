@@ -234,17 +234,21 @@ QString sentencesOf(const CFxKnownClass& cls, const std::vector<CFxString>& comm
     return text + repeatedOf(repeated);
 }
 
-/// The drawing's data that the class has beyond those of all objects.
+/// The drawing's data that the class has beyond those of all entities.
 QString drawingDataOf(const CFxString& cls)
 {
     const OdDbClassRow* const row = oddbFindClassRow(cls);
     if (!row)
         return {};
+    const std::vector<const OdDbField*> common = oddbAllFields(*oddbFindClassRow(OdString("AcDbEntity")));
     QString text;
-    for (const OdDbField& field : row->fields())
-        text += QString("| `%1` | %2 |\n").arg(field.key, field.meaning);
-    return text.isEmpty() ? text
-                          : "\nData of the drawing that a conversion reads:\n\n| Key | Meaning |\n|---|---|\n" + text;
+    for (const OdDbField* const field : oddbAllFields(*row))
+        if (std::ranges::find(common, field) == common.end())
+            text += QString("| `%1` | %2 |\n").arg(field->key, field->meaning);
+    return text.isEmpty()
+               ? text
+               : "\nData of the drawing that a conversion or a snapshot reads:\n\n| Key | Meaning |\n|---|---|\n" +
+                     text;
 }
 
 QString formOf(const CFxActionForm& form)
@@ -294,6 +298,58 @@ QString actionsPart(const std::vector<CFxActionKindName>& kinds)
     return text;
 }
 
+/// The page and its parts.
+class Parts
+{
+public:
+    Parts(std::vector<CFxKnownClass> classes, std::vector<CFxActionKindName> kinds)
+        : classes_(std::move(classes)), kinds_(std::move(kinds)), common_(commonRepeated(classes_))
+    {
+    }
+
+    QString all() const
+    {
+        const auto line = std::ranges::find(classes_, CFxString("AcDbLine"), &CFxKnownClass::name);
+        QString page = QString(introduction) + "\n## All entities\n" + repeatedOf(common_) + "\nAn added object:\n\n" +
+                       tableOf(generalTags(line->added), true) + "\nA changed object:\n\n" +
+                       tableOf(generalTags(line->changed), false);
+        Tables added(&CFxKnownClass::added, true);
+        Tables changed(&CFxKnownClass::changed, false);
+        for (const CFxKnownClass& cls : classes_)
+            page += '\n' + partOf(cls, added, changed);
+        return page + actionsPart(kinds_);
+    }
+
+    /// Of one class, with the data of the custom action that goes with it.
+    QString of(const QString& name) const
+    {
+        const CFxKnownClass& cls = *std::ranges::find(classes_, CFxString(name), &CFxKnownClass::name);
+        Tables added(&CFxKnownClass::added, true);
+        Tables changed(&CFxKnownClass::changed, false);
+        QString part = partOf(cls, added, changed);
+        QStringList general;
+        for (const CFxKnownTag& tag : generalTags(cls.changed))
+            general.append(QString("`%1`").arg(tag.tag));
+        if (!general.isEmpty())
+            part += QString("\nThe tags of all entities stand on the whole page: %1.\n").arg(general.join(", "));
+        for (const CFxActionKindName& kind : kinds_)
+            if (kind.number == cls.madeBy || kind.number == cls.completedBy)
+                part += sectionOf(kind);
+        return part;
+    }
+
+private:
+    QString partOf(const CFxKnownClass& cls, Tables& added, Tables& changed) const
+    {
+        return QString("## %1\n").arg(cls.name) + sentencesOf(cls, common_, kinds_) + added.of(cls, "An added object") +
+               changed.of(cls, "A changed object") + drawingDataOf(cls.name);
+    }
+
+    const std::vector<CFxKnownClass> classes_;
+    const std::vector<CFxActionKindName> kinds_;
+    const std::vector<CFxString> common_;
+};
+
 } // namespace
 
 QStringList classNames()
@@ -329,24 +385,9 @@ QString classesPage(const QString& only)
 {
     const LoadedModule module;
     std::vector<CFxKnownClass> classes = module->ListClasses();
-    const std::vector<CFxActionKindName> kinds = module->ListActionKinds();
     std::ranges::sort(classes, {}, [](const CFxKnownClass& cls) { return cls.name.toQString(); });
-    const bool all = only.isEmpty();
-    const std::vector<CFxString> common = commonRepeated(classes);
-    QString page;
-    Tables added(&CFxKnownClass::added, true);
-    Tables changed(&CFxKnownClass::changed, false);
-    for (const CFxKnownClass& cls : classes) {
-        if (!all && cls.name.toQString() != only)
-            continue;
-        page += QString("\n## %1\n").arg(cls.name) + sentencesOf(cls, common, kinds) +
-                added.of(cls, "An added object") + changed.of(cls, "A changed object") + drawingDataOf(cls.name);
-    }
-    const auto entity = std::ranges::find(classes, CFxString("AcDbLine"), &CFxKnownClass::name);
-    const QString general = "\n## All entities\n" + repeatedOf(common) + "\nAn added object:\n\n" +
-                            tableOf(generalTags(entity->added), true) + "\nA changed object:\n\n" +
-                            tableOf(generalTags(entity->changed), false);
-    return all ? introduction + general + page + actionsPart(kinds) : page.mid(1);
+    const Parts parts(std::move(classes), module->ListActionKinds());
+    return only.isEmpty() ? parts.all() : parts.of(only);
 }
 
 } // namespace inkmacro

@@ -69,7 +69,8 @@ Statement ReadTable(AddedObject& added)
 
     const char* const headTags[] = {"RowHeight_0", "RowHeight_1"};
     for (int row = 0; row < 2; ++row) {
-        const double height = added.takeReal(headTags[row], dataHeight);
+        const CFxVariant recorded = added.take(headTags[row], forms::number, "as RowHeight_2");
+        const double height = recorded.IsNull() ? dataHeight : recorded.GetDouble();
         if (height != dataHeight)
             text += EmitSetRowHeightAt(added.writer, added.name, row, height);
     }
