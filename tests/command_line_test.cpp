@@ -61,7 +61,7 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
         {{"Check"}, "unknown command \"Check\"; did you mean check?"},
         {{"transmogrify"},
          "unknown command \"transmogrify\"; known are convert, inspect, check, format, snapshot, run, "
-         "schema, system-variables, faults, completion"},
+         "schema, classes, system-variables, faults, completion"},
         {{"convert", "--outptu"}, "unknown option \"--outptu\"; did you mean --output?"},
         {{"convert", "--Report=text"}, "unknown option \"--Report\"; did you mean --report?"},
         {{"convert", "-output", "x"}, "unknown option \"-output\"; did you mean --output?"},
@@ -87,6 +87,7 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
         {{"inspect", "a", "b"}, "inspect takes one argument, but \"a\" and \"b\" are given"},
         {{"inspect", "--json"}, "inspect needs FILE"},
         {{"schema", "reprot"}, "\"reprot\" is none of recording, report; did you mean report?"},
+        {{"classes", "AcDbLien"}, "\"AcDbLien\" is none of the 52 known names; did you mean AcDbLine?"},
         {{"completion"}, "completion needs bash|zsh|fish"},
         {{"completion", "tcsh"}, "\"tcsh\" is none of bash, zsh, fish"},
         {{"faults", "a"}, "faults takes no argument, but \"a\" is given"},

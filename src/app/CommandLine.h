@@ -59,6 +59,7 @@ struct CommandLine
         Snapshot,
         RecordingSchema,
         ReportSchema,
+        Classes,
         SystemVariables,
         Faults,
         Completion,
@@ -77,7 +78,8 @@ struct CommandLine
     OdDbHandle handle;   ///< of the object whose snapshot is shown
     QString hostCommand; ///< the name of the command that is run
 
-    QString shell; ///< whose completion is printed
+    QString className; ///< of the class that is told; empty for all
+    QString shell;     ///< whose completion is printed
     bool json = false;
     bool strict = false; ///< warnings are failures
 };

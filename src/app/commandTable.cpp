@@ -1,5 +1,6 @@
 #include "app/commandTable.h"
 
+#include "app/classesPage.h"
 #include "app/completion.h"
 #include "app/optionValues.h"
 
@@ -320,6 +321,18 @@ what the host's property sheet shows.)",
             },
         .text = R"(Prints the JSON Schema of one line of a recording, without an argument too,
 or of the report of convert.)",
+    },
+    {
+        .command = Command::Classes,
+        .name = "classes",
+        .meaning = "tell what objects and custom actions may hold",
+        .operands = Operands::MaybeWord,
+        .form = "CLASS",
+        .words = classNames,
+        .takeWord = [](CommandLine& line, const QString& word) { line.className = word; },
+        .text = R"(Prints, as a page in Markdown, which properties of added and of changed
+objects convert, class by class, with the form of their values, and what the
+data of custom actions mean; of one class the part that is about it.)",
     },
     {
         .command = Command::SystemVariables,

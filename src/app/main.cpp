@@ -3,6 +3,7 @@
 #include "app/CommandLine.h"
 #include "app/ExitStatus.h"
 #include "app/checking.h"
+#include "app/classesPage.h"
 #include "app/commandTable.h"
 #include "app/completion.h"
 #include "app/console.h"
@@ -18,7 +19,6 @@
 #include "app/report.h"
 #include "app/runCommand.h"
 #include "app/snapshot.h"
-#include "recordfile/RecordingSchema.h"
 
 #include <QCoreApplication>
 
@@ -66,10 +66,13 @@ int run(const CommandLine& line)
     case CommandLine::Command::Snapshot:
         return showSnapshot(line.files.front(), line.handle, line.json);
     case CommandLine::Command::RecordingSchema:
-        printOut(RecordingSchema());
+        printOut(RecordingSchema(schemaNames()));
         break;
     case CommandLine::Command::ReportSchema:
         printOut(reportSchema());
+        break;
+    case CommandLine::Command::Classes:
+        printOut(classesPage(line.className));
         break;
     case CommandLine::Command::SystemVariables:
         printOut(systemVariablesPage());

@@ -104,6 +104,10 @@ void takeHandle(CommandLine& line, const QString& text)
 
 void checkWord(const QString& text, const QStringList& words)
 {
+    constexpr int few = 12;
+    if (!words.contains(text) && words.size() > few)
+        throw WrongUse(
+            QString("\"%1\" is none of the %2 known names%3").arg(text).arg(words.size()).arg(didYouMean(text, words)));
     if (!words.contains(text))
         throw WrongUse(QString("\"%1\" is none of %2%3").arg(text, words.join(", "), didYouMean(text, words)));
 }

@@ -4,6 +4,7 @@
 #include "conversion/Names.h"
 #include "conversion/Siblings.h"
 #include "conversion/TagWords.h"
+#include "conversion/ValueForm.h"
 
 /// The sizes that tables were made with and changed to so far, by their variables. Lengths are drawing units.
 struct TableSizes
@@ -48,6 +49,8 @@ public:
     CFxValueContext context = 0;
     ActionFaults faults;
     TagWords tags;
+    /// Receives all tags that records are asked for, found or not; null: nobody wants to know.
+    std::vector<AskedTag>* asked = nullptr;
     TableSizes tables;
 
     std::uint32_t command = 0; ///< number of the command whose block the statements stand in, from 1; 0 at top level

@@ -15,11 +15,27 @@ struct CFxKnownFault
     bool mended = false;                  ///< whether a repaired macro is without it
 };
 
+/// One datum of a custom action.
+struct CFxActionDatum
+{
+    CFxCustomActionData::_Type type = CFxCustomActionData::kInt16;
+    CFxString meaning; ///< a phrase
+    CFxString value;   ///< what it has to be, where the form is told by it; else empty
+};
+
+/// One way in which a kind of custom action says what was done.
+struct CFxActionForm
+{
+    std::vector<CFxActionDatum> data; ///< in their order
+    std::int32_t repeated = 0;        ///< so many of the last data may come again and again
+};
+
 /// What a custom action describes, by the number that the host gives it.
 struct CFxActionKindName
 {
     std::int32_t number = 0;
     CFxString name; ///< for people
+    std::vector<CFxActionForm> forms = {};
 };
 
 /// A system variable that the host's automation interface has an option for.
@@ -31,6 +47,50 @@ struct CFxKnownOption
     CFxString enumerator;    ///< what the option is called as long as the host knows no other name
     bool made = false;       ///< whether the enumerator is made of a verb and the variable's name
     bool readOnly = false;   ///< whether the host alone changes the variable
+};
+
+/// A tag of the records of a class's objects that a conversion asks for.
+struct CFxKnownTag
+{
+    /// What the value holds.
+    enum Content
+    {
+        kValue = 0,           ///< whatever its type says
+        kWholeNumber = 1,     ///< a number without a fraction
+        kPoints = 2,          ///< points as the values of a collection's elements
+        kHandlesInValues = 3, ///< handles as the texts of a collection's elements
+        kHandlesInTags = 4,   ///< the same as the elements' tags
+        kWord = 5,            ///< one of the words: a text, or that of an item
+        kNumberOfWord = 6,    ///< the number of one of the words: a number, that of an item
+    };
+
+    CFxString tag;           ///< in English; `*` at its end stands for whatever follows
+    CFxString group;         ///< not empty when it is the records' group that tells them, whatever their tags
+    std::uint32_t types = 0; ///< those of CFxVariant that the value may have, 1 << type each; any other counts as none
+    Content content = kValue;
+    std::vector<CFxString> words = {}; ///< in English; none of a free value
+    std::int32_t firstWord = 0;        ///< the number of the first word
+    bool bits = false;                 ///< the words are numbered by bits: 1, 2, 4 and so on
+    CFxString unit = {};               ///< of a number; empty when there is none
+    CFxString whenMissing;             ///< what is taken then; empty when nothing is set
+    bool numbered = false;             ///< whether a record without its number (`index`) is lost
+    bool ofAllEntities = false;
+
+    bool takes(CFxVariant::Type type) const { return (types & 1U << type) != 0; }
+};
+
+/// What is known of one class of drawing objects.
+struct CFxKnownClass
+{
+    CFxString name;
+    bool isMade = false; ///< whether records of an added object alone make a statement that makes it
+    std::vector<CFxKnownTag> added;
+    std::vector<CFxKnownTag> changed;
+    // Tags that say in another form what others say, so that it is no loss when nothing takes them.
+    std::vector<CFxString> repeatedInAdded;
+    std::vector<CFxString> repeatedInChanged;
+    std::int32_t madeBy = -1;      ///< the kind of the custom action without which an added object is lost; -1 for none
+    std::int32_t completedBy = -1; ///< the kind of the custom action that says more of an added object
 };
 
 /// One pair of tag and value that a snapshot adds.
@@ -58,6 +118,9 @@ public:
 
     /// By their numbers; kinds that are alike have the same name.
     virtual std::vector<CFxActionKindName> ListActionKinds() const = 0;
+
+    /// In no order. Objects of other classes are lost.
+    virtual std::vector<CFxKnownClass> ListClasses() const = 0;
 
     /// Those of the document first. A variable may have an option of each.
     virtual std::vector<CFxKnownOption> ListOptions() const = 0;

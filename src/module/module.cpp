@@ -1,10 +1,15 @@
 // The module object and the library's exports.
 
+#include "actions/dataWords.h"
 #include "actions/optionTable.h"
 #include "commands/CFxCommandHyperlink.h"
 #include "commands/CFxCommandLinetype.h"
+#include "host/db/OdDbClassMap.h"
 #include "module/CFxConverterIWAPI.h"
 #include "module/Exports.h"
+#include "objects/classTable.h"
+#include "objects/knownTags.h"
+#include "objects/losses.h"
 #include "objects/snapshot.h"
 #include "statements/Fault.h"
 #include "statements/actionKinds.h"
@@ -31,12 +36,26 @@ std::vector<CFxKnownFault> knownFaults()
     return known;
 }
 
+std::vector<CFxActionForm> formsOf(std::int32_t kind)
+{
+    std::vector<CFxActionForm> forms;
+    for (const inkmacro::DataWords& words : inkmacro::AllDataWords()) {
+        if (words.kind != kind)
+            continue;
+        CFxActionForm& form = forms.emplace_back();
+        form.repeated = words.repeated;
+        for (const inkmacro::DatumWords& datum : words.data)
+            form.data.push_back({datum.type, datum.meaning, QString(datum.value)});
+    }
+    return forms;
+}
+
 std::vector<CFxActionKindName> actionKindList()
 {
     std::vector<CFxActionKindName> list;
     for (const inkmacro::KindName& kind : inkmacro::actionKinds)
         for (std::int32_t number = kind.numbers.first; number <= kind.numbers.last; ++number)
-            list.push_back({number, kind.name});
+            list.push_back({number, kind.name, formsOf(kind.numbers.first)});
     return list;
 }
 
@@ -49,6 +68,65 @@ std::vector<CFxKnownOption> optionList()
             list.push_back({row.variable, owner == OptionOwner::Document, inkmacro::OptionTypeName(row.kind),
                             inkmacro::OptionEnumerator(owner, row), row.name == nullptr, row.readOnly});
     return list;
+}
+
+std::vector<CFxString> toList(const std::vector<QString>& texts)
+{
+    return {texts.begin(), texts.end()};
+}
+
+CFxKnownTag knownTag(const AskedTag& asked)
+{
+    const ValueForm& form = asked.form;
+    CFxKnownTag tag{.tag = asked.tag,
+                    .group = asked.group,
+                    .types = form.types,
+                    .content = static_cast<CFxKnownTag::Content>(form.content),
+                    .whenMissing = asked.whenMissing,
+                    .numbered = asked.numbered,
+                    .ofAllEntities = asked.general};
+    if (form.byValue) {
+        tag.content = CFxKnownTag::kNumberOfWord;
+        tag.firstWord = form.byValue->firstValue;
+        tag.bits = form.byValue->bits;
+        tag.words.assign(form.byValue->suffixes.begin(), form.byValue->suffixes.end());
+    } else if (std::vector<QString> words = WordsOf(form); !words.empty()) {
+        tag.content = CFxKnownTag::kWord;
+        tag.words = toList(words);
+    } else if (tag.takes(CFxVariant::kPoint3d) || form.content == ValueForm::kPoints) {
+        tag.unit = "drawing units";
+    } else if (tag.takes(CFxVariant::kDouble) && form.content == ValueForm::kAnything) {
+        tag.unit = UnitOf(asked.tag);
+    }
+    return tag;
+}
+
+std::vector<CFxKnownTag> knownTags(const std::vector<AskedTag>& asked)
+{
+    std::vector<CFxKnownTag> tags;
+    std::ranges::transform(asked, std::back_inserter(tags), knownTag);
+    return tags;
+}
+
+std::vector<CFxKnownClass> knownClasses()
+{
+    std::vector<CFxKnownClass> classes;
+    for (const ClassRow& row : ClassTable()) {
+        const OdRxClass* const cls = oddbClassByName(row.name);
+        if (!IsSupportedClass(cls))
+            continue;
+        const KnownTags tags = TagsOf(row);
+        const std::int32_t madeBy = KindThatMakes(cls);
+        classes.push_back({.name = row.name,
+                           .isMade = row.reader && madeBy < 0,
+                           .added = knownTags(tags.added),
+                           .changed = knownTags(tags.changed),
+                           .repeatedInAdded = toList(RepeatedTags(cls, true)),
+                           .repeatedInChanged = toList(RepeatedTags(cls, false)),
+                           .madeBy = madeBy,
+                           .completedBy = KindThatCompletes(cls)});
+    }
+    return classes;
 }
 
 class MacroWriterModule final : public CFxConverterIWAPIModule
@@ -86,6 +164,7 @@ public:
 
     std::vector<CFxKnownFault> ListFaults() const override { return knownFaults(); }
     std::vector<CFxActionKindName> ListActionKinds() const override { return actionKindList(); }
+    std::vector<CFxKnownClass> ListClasses() const override { return knownClasses(); }
     std::vector<CFxKnownOption> ListOptions() const override { return optionList(); }
 
 private:

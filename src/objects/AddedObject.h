@@ -33,7 +33,9 @@ public:
         return odrxCast<T>(id_.openObject().get());
     }
 
-    CFxVariant take(const PropertyTag& tag) { return FindProperty(conversion, tag, list_, consumed_); }
+    // What is taken when the tag is missing stands behind it; a value that is asked for by its form is null then, and
+    // nothing is done.
+    CFxVariant take(const PropertyTag& tag, const ValueForm& form) { return take(tag, form, ""); }
     OdGePoint3d takePoint(const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag)
     {
         // Their order counts.
@@ -42,27 +44,42 @@ public:
         const double z = takeReal(zTag, 0.0);
         return {x, y, z};
     }
-    OdGePoint3d takePoint(const PropertyTag& tag) { return takeForm(tag, CFxVariant::kPoint3d).GetPoint3d(); }
-    CFxString takeText(const PropertyTag& tag) { return takeForm(tag, CFxVariant::kString).GetString(); }
+    OdGePoint3d takePoint(const PropertyTag& tag) { return need(tag, forms::point, "the origin").GetPoint3d(); }
+    CFxString takeText(const PropertyTag& tag) { return need(tag, forms::text, "empty text").GetString(); }
     /// One that new objects need not have.
-    CFxString takeOptionalText(const PropertyTag& tag)
+    CFxString takeOptionalText(const PropertyTag& tag) { return take(tag, forms::text, "empty text").GetString(); }
+    /// Of a plain text or the chosen one of several items.
+    CFxString takeWord(const PropertyTag& tag) { return wordOf(take(tag, forms::word, "empty text")); }
+    std::int32_t takeInteger(const PropertyTag& tag) { return take(tag, forms::whole, "0").GetInt32(); }
+    /// A number that is not 0.
+    bool takeFlag(const PropertyTag& tag)
     {
-        const CFxVariant value = take(tag);
-        return value.IsNull() ? CFxString() : formed(tag, value, CFxVariant::kString).GetString();
+        static const inkmacro::ValueEnumeration answers{"", 0, {"No", "Yes"}};
+        return take(tag, forms::number.with(answers), "0").GetInt32() != 0;
     }
     /// The points of a collection; none of a value that is no collection.
     OdArray<OdGePoint3d> takePoints(const PropertyTag& tag)
     {
         OdArray<OdGePoint3d> points;
-        const CFxVariant value = takeForm(tag, CFxVariant::kCollection);
+        const CFxVariant value = need(tag, forms::points, "no points");
         for (const CFxVariantCollectionElement& element : value.GetCollection().GetCollectionDataForRead())
             points.append(element.GetValue()->GetPoint3d());
         return points;
     }
     double takeReal(const PropertyTag& tag, double whenMissing)
     {
-        const CFxVariant value = takeForm(tag, CFxVariant::kDouble);
+        const QString shown = conversion.asked ? QString::number(whenMissing) : QString();
+        const CFxVariant value = need(tag, forms::number, shown);
         return value.IsNull() ? whenMissing : value.GetDouble();
+    }
+    /// `whenMissing` is for people. A value of another form is taken for a neutral one, which is noted.
+    template<class Text>
+    CFxVariant take(const PropertyTag& tag, const ValueForm& form, const Text& whenMissing)
+    {
+        noteAsked(tag, form, whenMissing);
+        CFxVariant value = FindProperty(conversion, tag, list_, consumed_);
+        AssumeUnlessFormed(object, tag.text(), value, form);
+        return value;
     }
 
     /// What no reader has taken yet.
@@ -77,15 +94,21 @@ public:
     }
 
 private:
-    /// Notes a value of another form, of which getters give a neutral one. Of an object that an action makes the action
-    /// has the values.
-    const CFxVariant& formed(const PropertyTag& tag, const CFxVariant& value, CFxVariant::Type form) const
+    template<class Text>
+    void noteAsked(const PropertyTag& tag, const ValueForm& form, const Text& whenMissing)
     {
-        if (!(value.IsNull() && IsMadeByAction(conversion, object)))
-            AssumeUnlessFormed(object, tag.text(), value, form);
+        if (conversion.asked)
+            conversion.asked->push_back({tag.text(), form, whenMissing});
+    }
+    /// Of an object that an action makes the action has what is missing.
+    template<class Text>
+    CFxVariant need(const PropertyTag& tag, const ValueForm& form, const Text& whenMissing)
+    {
+        CFxVariant value = take(tag, form, whenMissing);
+        if (value.IsNull() && !IsMadeByAction(conversion, object))
+            AssumeProperty(object, tag.text(), "it is not recorded");
         return value;
     }
-    CFxVariant takeForm(const PropertyTag& tag, CFxVariant::Type form) { return formed(tag, take(tag), form); }
 
     const OdDbObjectId id_;
     PropertyList& list_;

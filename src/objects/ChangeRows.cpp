@@ -54,6 +54,15 @@ private:
     std::vector<std::pair<const OptionObject*, CFxString>> variables_;
 };
 
+void noteAsked(const Conversion& conversion, const ChangeRow& row)
+{
+    if (!conversion.asked)
+        return;
+    conversion.asked->push_back({row.tag.text(), row.kind.form, {}, row.kind.indexed});
+    if (row.kind.secondTag)
+        conversion.asked->push_back({row.kind.secondTag, forms::number});
+}
+
 } // namespace
 
 void ConvertRows(Conversion& conversion, const ChangeGroups& groups, const RecordedObject& object, PropertyList& list,
@@ -64,6 +73,7 @@ void ConvertRows(Conversion& conversion, const ChangeGroups& groups, const Recor
         FetchedObjects objects(writer, object.name);
         for (const ChangeRows& part : group)
             for (const ChangeRow& row : part.rows) {
+                noteAsked(conversion, row);
                 CFxVariant number;
                 const CFxVariant value = FindProperty(conversion, row.tag, list, nullptr, &number);
                 const char* const secondTag = row.kind.secondTag;
@@ -80,6 +90,8 @@ void ConvertRows(Conversion& conversion, const ChangeGroups& groups, const Recor
                     row.kind.statement({writer, row, target, value, second, index, number, IdOf(object.handle)});
                 if (statement.isEmpty() && !row.kind.maySayNothing)
                     LoseProperty(object, row.tag.text(), "the target has no statement that sets it so");
+                else if (!statement.isEmpty())
+                    AssumeUnlessFormed(object, row.tag.text(), value, row.kind.form);
                 text += statement;
                 if (part.on && part.on->writtenBack)
                     text += EmitSetOptions(writer, *part.on, objects.variable(part.on->owner, text), target);

@@ -29,6 +29,7 @@ struct Change
 struct ChangeKind
 {
     Statement (*statement)(const Change& change);
+    ValueForm form; ///< of the values that call for a statement
     const char* axes = nullptr;
     /// Of a repeated property: a record without a number, or with the number -1, writes nothing.
     bool indexed = false;

@@ -6,14 +6,12 @@
 #include "host/kernel/CFxServices.h"
 #include "objects/properties.h"
 #include "objects/targets/dimensionOptions.h"
-#include "objects/targets/points.h"
 #include "objects/targets/setters.h"
 #include "objects/targets/styles.h"
 #include "objects/targets/tableStyles.h"
 #include "objects/targets/tables.h"
 #include "objects/targets/texts.h"
 #include "objects/targets/viewportOverrides.h"
-#include "statements/RecordingState.h"
 #include "statements/wording.h"
 
 #include <algorithm>
@@ -244,16 +242,17 @@ Statement setDoubled(const Change& change, const CFxString& text)
     return setText(change, inkmacro::doubleBackslashes(text), true);
 }
 
+/// In the order of the drawing's numbers.
+constexpr const char* directions[] = {"ByStyle", "Vertical", "Horizontal"};
+
 Statement setNoteDirection(const Change& change, const CFxString& word)
 {
-    // In the order of the drawing's numbers.
-    static constexpr const char* words[] = {"ByStyle", "Vertical", "Horizontal"};
-    const auto found = std::find_if(std::begin(words), std::end(words),
+    const auto found = std::find_if(std::begin(directions), std::end(directions),
                                     [&](const char* shown) { return word.equalNoCase(ShownWord(shown)); });
-    if (found == std::end(words))
+    if (found == std::end(directions))
         return {};
     return EmitSetNoteDirection(change.writer, change.target, change.row.property,
-                                static_cast<int>(found - std::begin(words)));
+                                static_cast<int>(found - std::begin(directions)));
 }
 
 Statement setNoteLineSpacing(const Change& change)
@@ -317,198 +316,194 @@ Statement setCellTextStyle(const Change& change, const CFxString& name)
     return EmitSetTableStyleTextStyle(change.writer, change.target, cellType(change), name);
 }
 
-Statement changePoint(const Change& change)
-{
-    const QString& pair = change.row.property;
-    return EmitChangePoint(change.writer, change.target, change.row.axis, "Get" + pair, "Set" + pair,
-                           change.value.GetDouble(), change.index);
-}
-
-Statement changeScale(const Change& change)
-{
-    if (!RecordsIn(inkmacro::Target::JavaScript)) {
-        Statement text = changePoint(change);
-        return change.writer.target == inkmacro::Target::JavaScript
-                   ? change.writer.faulty(std::move(text), otherLanguage)
-                   : text;
-    }
-    const QString& pair = change.row.property;
-    return EmitChangeScale(change.writer, change.target, change.row.axis, "Get" + pair, "Set" + pair,
-                           change.value.GetDouble());
-}
-
-using PairChange = Statement (*)(Writer& writer, const CFxString& target, const CFxString& local, double value);
-
-template<PairChange emit>
-Statement changePair(const Change& change)
-{
-    return emit(change.writer, change.target, "get" + change.row.axis.toQString(), change.value.GetDouble());
-}
-
-using VertexChange = Statement (*)(Writer& writer, const CFxString& target, std::int32_t index, const CFxString& axis,
-                                   double value);
-
-template<VertexChange emit>
-Statement changeVertex(const Change& change)
-{
-    return emit(change.writer, change.target, change.index, change.row.axis, change.value.GetDouble());
-}
-
-using CoordinateChange = Statement (*)(Writer& writer, const CFxString& target, const CFxString& stem, double value);
-
-template<CoordinateChange x, CoordinateChange y>
-Statement changeCoordinate(const Change& change)
-{
-    const CoordinateChange emit = change.row.axis == CFxString("X") ? x : y;
-    return emit(change.writer, change.target, change.row.property, change.value.GetDouble());
-}
-
-Statement changeNumberedVertex(const Change& change)
-{
-    const qint64 number = qint64{change.index} + 1;
-    return EmitChangePoint(change.writer, change.target, change.row.axis,
-                           QStringLiteral("GetVertex%1Coordinate").arg(number),
-                           QStringLiteral("SetVertex%1Coordinate").arg(number), change.value.GetDouble(), -1);
-}
-
-Statement changeFaceVertex(const Change& change)
-{
-    const bool exists = change.index >= 0 && change.index <= 3;
-    return exists ? changeNumberedVertex(change) : QString();
-}
-
 } // namespace
 
 namespace kinds {
 
 // They are ready before the rows of other files, which copy them.
 
-constinit const ChangeKind real{[](const Change& change) { return setReal(change, change.value.GetDouble()); }};
-constinit const ChangeKind integer{[](const Change& change) { return setReal(change, change.value.GetInt32()); }};
+constexpr const char* visibility[] = {"Visible", "Hidden"};
+constexpr const char* enabledOrNot[] = {"Enabled", "Disabled"};
+constexpr const char* separators[] = {",", " ", "."};
+constexpr const char* orientations[] = {"Down", "Up"};
+constexpr inkmacro::ValueEnumeration lineSpacings{"iwNoteLineSpacingStyle", 0, {"AtLeast", "Exactly"}};
+constexpr ValueForm wholeChoice{forms::choice.types, ValueForm::kWholeNumber};
+constexpr ValueForm arrowForm = forms::element.with(inkmacro::enums::dimensionArrowType);
+constexpr ValueForm anyArrowForm = forms::choice.with(inkmacro::enums::dimensionArrowType);
+constexpr ValueForm markForm = forms::choice.with(inkmacro::enums::dimensionCenterMarkDisplay);
+
+constinit const ChangeKind real{[](const Change& change) { return setReal(change, change.value.GetDouble()); },
+                                forms::number};
+constinit const ChangeKind integer{[](const Change& change) { return setReal(change, change.value.GetInt32()); },
+                                   forms::whole};
 constinit const ChangeKind indexedReal{[](const Change& change) {
                                            return EmitSetIndexedDouble(change.writer, change.target,
                                                                        change.row.property, change.index,
                                                                        change.value.GetDouble());
                                        },
-                                       nullptr, true};
-constinit const ChangeKind radiusFromArea{setRadius<fromArea>};
-constinit const ChangeKind radiusFromCircumference{setRadius<fromCircumference>};
-constinit const ChangeKind radiusFromDiameter{setRadius<fromDiameter>};
+                                       forms::number, nullptr, true};
+constinit const ChangeKind radiusFromArea{setRadius<fromArea>, forms::number};
+constinit const ChangeKind radiusFromCircumference{setRadius<fromCircumference>, forms::number};
+constinit const ChangeKind radiusFromDiameter{setRadius<fromDiameter>, forms::number};
 
-constinit const ChangeKind yes{[](const Change& change) { return setBool(change, shows(change.value, "Yes")); }};
-constinit const ChangeKind exactYes{[](const Change& change) { return setBool(change, IsYes(change.value)); }};
-constinit const ChangeKind visible{
-    [](const Change& change) { return setBool(change, shows(change.value, "Visible")); }};
+constinit const ChangeKind yes{[](const Change& change) { return setBool(change, shows(change.value, "Yes")); },
+                               forms::element.with(forms::yesNo)};
+constinit const ChangeKind exactYes{[](const Change& change) { return setBool(change, IsYes(change.value)); },
+                                    forms::element.with(forms::yesNo)};
+constinit const ChangeKind visible{[](const Change& change) { return setBool(change, shows(change.value, "Visible")); },
+                                   forms::element.with(visibility)};
 constinit const ChangeKind exactEnabled{
-    [](const Change& change) { return setBool(change, ElementText(change.value) == ShownWord("Enabled")); }};
-constinit const ChangeKind plainYes{[](const Change& change) { return setBool(change, isPlainYes(change.value)); }};
+    [](const Change& change) { return setBool(change, ElementText(change.value) == ShownWord("Enabled")); },
+    forms::element.with(enabledOrNot)};
+constinit const ChangeKind plainYes{[](const Change& change) { return setBool(change, isPlainYes(change.value)); },
+                                    forms::text.with(forms::yesNo)};
 constinit const ChangeKind plainNo{[](const Change& change) {
-    return change.writer.mended(setBool(change, change.value.GetString() == ShownWord("No")), kTurnedRound,
-                                setBool(change, isPlainYes(change.value)));
-}};
-constinit const ChangeKind yesOrFirst{setYesOrFirst};
-constinit const ChangeKind anyYes{[](const Change& change) { return setBool(change, isAnyYes(change.value)); }};
-constinit const ChangeKind chosenYes{setChosen<setYes>};
+                                       return change.writer.mended(
+                                           setBool(change, change.value.GetString() == ShownWord("No")), kTurnedRound,
+                                           setBool(change, isPlainYes(change.value)));
+                                   },
+                                   forms::text.with(forms::yesNo)};
+constinit const ChangeKind yesOrFirst{setYesOrFirst, forms::chosen.with(forms::yesNo)};
+constinit const ChangeKind anyYes{[](const Change& change) { return setBool(change, isAnyYes(change.value)); },
+                                  forms::word.with(forms::yesNo)};
+constinit const ChangeKind chosenYes{setChosen<setYes>, forms::chosen.with(forms::yesNo)};
 
 ChangeKind enumText(const inkmacro::TextEnumeration& enumeration)
 {
     return {.statement = [](const Change& change) { return setEnum(change, ElementText(change.value)); },
+            .form = forms::element.with(enumeration),
             .byText = &enumeration};
 }
 
 ChangeKind enumValue(const inkmacro::ValueEnumeration& enumeration)
 {
-    return {.statement = setEnumValue<elementNumber>, .byValue = &enumeration};
+    return {
+        .statement = setEnumValue<elementNumber>, .form = forms::element.with(enumeration), .byValue = &enumeration};
 }
 
 ChangeKind chosenEnumText(const inkmacro::TextEnumeration& enumeration)
 {
-    return {.statement = setChosen<setEnum>, .byText = &enumeration};
+    return {.statement = setChosen<setEnum>, .form = forms::chosen.with(enumeration), .byText = &enumeration};
 }
 
 ChangeKind anyEnumText(const inkmacro::TextEnumeration& enumeration)
 {
-    return {.statement = setChosen<setEnum, anyText>, .byText = &enumeration};
+    return {.statement = setChosen<setEnum, anyText>, .form = forms::word.with(enumeration), .byText = &enumeration};
 }
 
 ChangeKind anyEnumValue(const inkmacro::ValueEnumeration& enumeration)
 {
-    return {.statement = setEnumValue<anyNumber>, .byValue = &enumeration};
+    return {.statement = setEnumValue<anyNumber>, .form = forms::choice.with(enumeration), .byValue = &enumeration};
 }
 
 ChangeKind exactYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix)
 {
-    return {.statement = setEnumIfYes<IsYes>, .byValue = &enumeration, .suffix = suffix, .maySayNothing = true};
+    return {.statement = setEnumIfYes<IsYes>,
+            .form = forms::element.with(forms::yesNo),
+            .byValue = &enumeration,
+            .suffix = suffix,
+            .maySayNothing = true};
 }
 
 ChangeKind plainYesEnum(const inkmacro::ValueEnumeration& enumeration, const char* suffix)
 {
-    return {.statement = setEnumIfYes<isPlainYes>, .byValue = &enumeration, .suffix = suffix, .maySayNothing = true};
+    return {.statement = setEnumIfYes<isPlainYes>,
+            .form = forms::text.with(forms::yesNo),
+            .byValue = &enumeration,
+            .suffix = suffix,
+            .maySayNothing = true};
 }
 
-constinit const ChangeKind decimalSeparator{setChosen<setDecimalSeparator, anyText>};
+constinit const ChangeKind decimalSeparator{setChosen<setDecimalSeparator, anyText>, forms::word.with(separators)};
 
-constinit const ChangeKind quoted{[](const Change& change) { return setQuoted(change, ElementText(change.value)); }};
-constinit const ChangeKind chosenQuoted{setChosen<setQuoted>};
-constinit const ChangeKind anyQuoted{setChosen<setQuoted, anyText>};
-constinit const ChangeKind doubledBackslashes{setChosen<setDoubled, anyText>};
-constinit const ChangeKind affix{.statement = setChosen<setAffix, anyText>, .maySayNothing = true};
-constinit const ChangeKind prefixAndSuffix{.statement = setChosen<setPrefixAndSuffix, anyText>, .maySayNothing = true};
-constinit const ChangeKind escaped{[](const Change& change) {
-    return setText(change, inkmacro::escapeText(change.writer.target, change.value.GetString()), true);
-}};
+constinit const ChangeKind quoted{[](const Change& change) { return setQuoted(change, ElementText(change.value)); },
+                                  forms::element};
+constinit const ChangeKind chosenQuoted{setChosen<setQuoted>, forms::chosen};
+constinit const ChangeKind anyQuoted{setChosen<setQuoted, anyText>, forms::word};
+constinit const ChangeKind doubledBackslashes{setChosen<setDoubled, anyText>, forms::word};
+constinit const ChangeKind affix{.statement = setChosen<setAffix, anyText>, .form = forms::word, .maySayNothing = true};
+constinit const ChangeKind prefixAndSuffix{
+    .statement = setChosen<setPrefixAndSuffix, anyText>, .form = forms::word, .maySayNothing = true};
+constinit const ChangeKind escaped{
+    [](const Change& change) {
+        return setText(change, inkmacro::escapeText(change.writer.target, change.value.GetString()), true);
+    },
+    forms::text};
 constinit const ChangeKind unquoted{[](const Change& change) {
-    const CFxString& text = change.value.GetString();
-    const Statement statement = setText(change, text, false);
-    return inkmacro::isNumber(text) ? statement : change.writer.mended(statement, inkmacro::textAsCode);
-}};
-constinit const ChangeKind integerText{
-    [](const Change& change) { return setText(change, integerWord(change), false); }};
+                                        const CFxString& text = change.value.GetString();
+                                        const Statement statement = setText(change, text, false);
+                                        return inkmacro::isNumber(text)
+                                                   ? statement
+                                                   : change.writer.mended(statement, inkmacro::textAsCode);
+                                    },
+                                    forms::text};
+constinit const ChangeKind integerText{[](const Change& change) { return setText(change, integerWord(change), false); },
+                                       forms::whole};
 
 constinit const ChangeKind color{[](const Change& change) {
-    return EmitSetColor(change.writer, change.target, change.row.property, change.value.GetColor());
-}};
+                                     return EmitSetColor(change.writer, change.target, change.row.property,
+                                                         change.value.GetColor());
+                                 },
+                                 forms::color};
 constinit const ChangeKind lineWeight{[](const Change& change) {
-    return EmitSetLineWeight(change.writer, change.target, change.row.property, anyNumber(change.value));
-}};
-constinit const ChangeKind lineStyle{setLineStyle};
+                                          return EmitSetLineWeight(change.writer, change.target, change.row.property,
+                                                                   anyNumber(change.value));
+                                      },
+                                      wholeChoice};
+constinit const ChangeKind lineStyle{setLineStyle, forms::style};
 /// A leader's record does not tell the block of an arrow of one's own.
 constinit const ChangeKind arrow{[](const Change& change) {
-    return EmitSetArrow(change.writer, change.target, change.row.property, elementNumber(change.value), {});
-}};
+                                     return EmitSetArrow(change.writer, change.target, change.row.property,
+                                                         elementNumber(change.value), {});
+                                 },
+                                 arrowForm};
 
 constinit const ChangeKind activation{
     .statement =
         [](const Change& change) {
             return isPlainYes(change.value) ? EmitActivateLayer(change.writer, change.target) : QString();
         },
+    .form = forms::text.with(forms::yesNo),
     .maySayNothing = true,
 };
-constinit const ChangeKind overrideYes{[](const Change& change) {
-    return EmitViewportOverrideBool(change.writer, change.target, change.row.property, isPlainYes(change.value));
-}};
-constinit const ChangeKind overrideColor{[](const Change& change) {
-    return EmitViewportOverrideColor(change.writer, change.target, change.row.property, change.value.GetColor());
-}};
-constinit const ChangeKind overrideLineStyle{[](const Change& change) {
-    if (change.value.GetType() != CFxVariant::kId)
-        return setChosen<setOverrideText, anyText>(change);
-    return EmitViewportOverrideLineStyle(change.writer, change.target, change.row.property, change.value.GetId());
-}};
+constinit const ChangeKind overrideYes{
+    [](const Change& change) {
+        return EmitViewportOverrideBool(change.writer, change.target, change.row.property, isPlainYes(change.value));
+    },
+    forms::text.with(forms::yesNo)};
+constinit const ChangeKind overrideColor{
+    [](const Change& change) {
+        return EmitViewportOverrideColor(change.writer, change.target, change.row.property, change.value.GetColor());
+    },
+    forms::color};
+constinit const ChangeKind overrideLineStyle{
+    [](const Change& change) {
+        if (change.value.GetType() != CFxVariant::kId)
+            return setChosen<setOverrideText, anyText>(change);
+        return EmitViewportOverrideLineStyle(change.writer, change.target, change.row.property, change.value.GetId());
+    },
+    forms::style};
 constinit const ChangeKind overrideLineWeight{[](const Change& change) {
-    return EmitViewportOverrideLineWeight(change.writer, change.target, change.row.property, anyNumber(change.value));
-}};
-constinit const ChangeKind overrideText{setChosen<setOverrideText, anyText>};
-constinit const ChangeKind overrideInteger{[](const Change& change) {
-    return EmitViewportOverrideText(change.writer, change.target, change.row.property, integerWord(change), false);
-}};
+                                                  return EmitViewportOverrideLineWeight(change.writer, change.target,
+                                                                                        change.row.property,
+                                                                                        anyNumber(change.value));
+                                              },
+                                              wholeChoice};
+constinit const ChangeKind overrideText{setChosen<setOverrideText, anyText>, forms::word};
+constinit const ChangeKind overrideInteger{
+    [](const Change& change) {
+        return EmitViewportOverrideText(change.writer, change.target, change.row.property, integerWord(change), false);
+    },
+    forms::whole};
 
-constinit const ChangeKind dimensionArrow{setArrow<&EmitSetArrow>};
-constinit const ChangeKind styleArrow{setArrow<&EmitSetStyleArrow>};
+constinit const ChangeKind dimensionArrow{setArrow<&EmitSetArrow>, anyArrowForm};
+constinit const ChangeKind styleArrow{setArrow<&EmitSetStyleArrow>, anyArrowForm};
 constinit const ChangeKind scaleFactor{[](const Change& change) {
-    return EmitSetDimensionScale(change.writer, change.target, change.row.property, kUseScaleFactor,
-                                 change.value.GetDouble());
-}};
+                                           return EmitSetDimensionScale(change.writer, change.target,
+                                                                        change.row.property, kUseScaleFactor,
+                                                                        change.value.GetDouble());
+                                       },
+                                       forms::number};
 constinit const ChangeKind sheetScale{
     .statement =
         [](const Change& change) {
@@ -516,15 +511,20 @@ constinit const ChangeKind sheetScale{
                        ? EmitSetDimensionScale(change.writer, change.target, change.row.property, kScaleOfSheet, 1.0)
                        : QString();
         },
+    .form = forms::element.with(forms::yesNo),
     .maySayNothing = true,
 };
 constinit const ChangeKind centerMark{[](const Change& change) {
-    return EmitSetCenterMarkKind(change.writer, change.target, change.row.property, anyNumber(change.value));
-}};
-constinit const ChangeKind centerMarkSize{[](const Change& change) {
-    return EmitSetCenterMarkSize(change.writer, change.target, change.row.property, change.value.GetDouble());
-}};
-constinit const ChangeKind styleCenterMark{setStyleCenterMark};
+                                          return EmitSetCenterMarkKind(change.writer, change.target,
+                                                                       change.row.property, anyNumber(change.value));
+                                      },
+                                      markForm};
+constinit const ChangeKind centerMarkSize{
+    [](const Change& change) {
+        return EmitSetCenterMarkSize(change.writer, change.target, change.row.property, change.value.GetDouble());
+    },
+    forms::number};
+constinit const ChangeKind styleCenterMark{setStyleCenterMark, markForm};
 
 ChangeKind fixedLength(const char* lengthTag)
 {
@@ -533,6 +533,7 @@ ChangeKind fixedLength(const char* lengthTag)
                     return EmitSetExtensionLineFixedLength(change.writer, change.target, IsYes(change.value),
                                                            change.second.GetDouble());
                 },
+            .form = forms::element.with(forms::yesNo),
             .secondTag = lengthTag};
 }
 
@@ -542,54 +543,52 @@ constinit const ChangeKind textInside{
             const bool isThere = !odrxQuery<OdDbDimension>(change.object.openObject().get()).isNull();
             return isThere ? setEnumIfYes<IsYes>(change) : QString();
         },
+    .form = forms::element.with(forms::yesNo),
     .byValue = &inkmacro::enums::dimensionFitGeometry,
     .suffix = "KeepTextBetweenExtensionLines",
     .maySayNothing = true,
 };
 
-constinit const ChangeKind noteDirection{setChosen<setNoteDirection, anyText>};
-constinit const ChangeKind noteLineSpacing{setNoteLineSpacing};
+constinit const ChangeKind noteDirection{setChosen<setNoteDirection, anyText>, forms::word.with(directions)};
+constinit const ChangeKind noteLineSpacing{setNoteLineSpacing, forms::choice.with(lineSpacings)};
 constinit const ChangeKind fontParameter{[](const Change& change) {
-    return EmitSetFontParameter(change.writer, change.target, change.row.property, isAnyYes(change.value));
-}};
+                                             return EmitSetFontParameter(change.writer, change.target,
+                                                                         change.row.property, isAnyYes(change.value));
+                                         },
+                                         forms::word.with(forms::yesNo)};
 
-constinit const ChangeKind tableStyle{setChosen<setTableStyle, anyText>};
-constinit const ChangeKind orientation{setChosen<setOrientation, anyText>};
-constinit const ChangeKind cellAlignment{setChosen<setCellAlignment, anyText>};
-constinit const ChangeKind cellTextStyle{setChosen<setCellTextStyle, anyText>};
+constinit const ChangeKind tableStyle{setChosen<setTableStyle, anyText>, forms::word};
+constinit const ChangeKind orientation{setChosen<setOrientation, anyText>, forms::word.with(orientations)};
+constinit const ChangeKind cellAlignment{setChosen<setCellAlignment, anyText>,
+                                         forms::word.with(inkmacro::enums::tableCellAlignment)};
+constinit const ChangeKind cellTextStyle{setChosen<setCellTextStyle, anyText>, forms::word};
 constinit const ChangeKind cellColor{[](const Change& change) {
-    return EmitSetTableStyleColor(change.writer, change.target, change.row.property, cellType(change),
-                                  change.value.GetColor());
-}};
+                                         return EmitSetTableStyleColor(change.writer, change.target,
+                                                                       change.row.property, cellType(change),
+                                                                       change.value.GetColor());
+                                     },
+                                     forms::color};
 constinit const ChangeKind cellLength{[](const Change& change) {
-    return EmitSetTableStyleLength(change.writer, change.target, change.row.property, cellType(change),
-                                   change.value.GetDouble());
-}};
+                                          return EmitSetTableStyleLength(change.writer, change.target,
+                                                                         change.row.property, cellType(change),
+                                                                         change.value.GetDouble());
+                                      },
+                                      forms::number};
 constinit const ChangeKind gridColor{[](const Change& change) {
-    return EmitTableBordersColor(change.writer, change.target, cellType(change), borderLine(change),
-                                 change.value.GetColor());
-}};
+                                         return EmitTableBordersColor(change.writer, change.target, cellType(change),
+                                                                      borderLine(change), change.value.GetColor());
+                                     },
+                                     forms::color};
 constinit const ChangeKind gridLineWeight{[](const Change& change) {
-    return EmitTableBordersLineWeight(change.writer, change.target, cellType(change), borderLine(change),
-                                      anyNumber(change.value));
-}};
+                                              return EmitTableBordersLineWeight(change.writer, change.target,
+                                                                                cellType(change), borderLine(change),
+                                                                                anyNumber(change.value));
+                                          },
+                                          wholeChoice};
 
-constinit const ChangeKind point{changePoint, "XYZ"};
-constinit const ChangeKind indexedPoint{changePoint, "XYZ", true};
-constinit const ChangeKind scale{changeScale, "XYZ"};
-constinit const ChangeKind position{changePair<&EmitChangePosition>, "XYZ"};
-constinit const ChangeKind firstPoint{changePair<&EmitChangeFirstPoint>, "XYZ"};
-constinit const ChangeKind secondPoint{changePair<&EmitChangeSecondPoint>, "XYZ"};
-constinit const ChangeKind vertex{changeVertex<&EmitChangeVertex>, "xyz", true};
-constinit const ChangeKind vertex2D{changeVertex<&EmitChangeVertex2D>, "XY", true};
-constinit const ChangeKind coordinate{changeCoordinate<&EmitChangeCoordinateX, &EmitChangeCoordinateY>, "XY"};
-constinit const ChangeKind planeCoordinate{changeCoordinate<&EmitChangeCoordinate2DX, &EmitChangeCoordinate2DY>, "xy"};
-constinit const ChangeKind numberedVertex{changeNumberedVertex, "XYZ", true};
-constinit const ChangeKind faceVertex{changeFaceVertex, "XYZ", true};
-
-constinit const ChangeKind textStyleName{setChosen<renameTextStyle, anyText>};
-constinit const ChangeKind styleName{setChosen<renameStyle, anyText>};
-constinit const ChangeKind dimensionStyleName{setChosen<renameDimensionStyle, anyText>};
-constinit const ChangeKind richLineStyleName{setChosen<renameRichLineStyle, anyText>};
+constinit const ChangeKind textStyleName{setChosen<renameTextStyle, anyText>, forms::word};
+constinit const ChangeKind styleName{setChosen<renameStyle, anyText>, forms::word};
+constinit const ChangeKind dimensionStyleName{setChosen<renameDimensionStyle, anyText>, forms::word};
+constinit const ChangeKind richLineStyleName{setChosen<renameRichLineStyle, anyText>, forms::word};
 
 } // namespace kinds

@@ -104,7 +104,9 @@ static Statement convertClassChanges(Conversion& conversion, const RecordedObjec
         else if (row->changes.handler)
             row->changes.handler(conversion, object, list, text);
     }
-    if (const CFxVariant erased = fromAdded ? CFxVariant() : FindProperty(conversion, "Erased", list); !erased.IsNull())
+    if (const CFxVariant erased =
+            fromAdded ? CFxVariant() : TakeProperty(conversion, "Erased", forms::text.with(forms::yesNo), list);
+        !erased.IsNull())
         text += convertErased(conversion, object, erased);
     return text;
 }
@@ -168,8 +170,8 @@ void ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const Od
 struct GeneralProperty
 {
     PropertyTag tag;
+    ValueForm form;
     CFxString name;
-    CFxVariant::Type form;
 };
 
 void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& object, PropertyList& list, bool fromAdded,
@@ -178,21 +180,24 @@ void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& obje
     Writer& writer = conversion.writer;
     const bool isCurvedText = object.cls == OdDbArcAlignedText::desc();
     // Made once: they are asked for with every entity.
-    static const GeneralProperty color{"LineColor", "Color", CFxVariant::kColor};
-    static const GeneralProperty layer{"Layer", "Layer", CFxVariant::kId};
-    static const GeneralProperty lineStyle{"LineStyle", "LineStyle", CFxVariant::kId};
-    static const GeneralProperty lineScale{"LineScale", "LineScale", CFxVariant::kDouble};
-    static const GeneralProperty lineWeight{"LineWeight", "LineWeight", CFxVariant::kInt32};
-    static const GeneralProperty thickness{"Thickness", "Thickness", CFxVariant::kDouble};
-    static const GeneralProperty printStyle{"PrintStyle", "PrintStyle", CFxVariant::kString};
-    static const GeneralProperty transparency{"Transparency", {}, CFxVariant::kTransparency};
+    static const GeneralProperty color{"LineColor", forms::color, "Color"};
+    static const GeneralProperty layer{"Layer", forms::object, "Layer"};
+    static const GeneralProperty lineStyle{"LineStyle", forms::object, "LineStyle"};
+    static const GeneralProperty lineScale{"LineScale", forms::number, "LineScale"};
+    static const GeneralProperty lineWeight{"LineWeight", forms::whole, "LineWeight"};
+    static const GeneralProperty thickness{"Thickness", forms::number, "Thickness"};
+    static const GeneralProperty printStyle{"PrintStyle", forms::text, "PrintStyle"};
+    static const GeneralProperty transparency{"Transparency", forms::transparency, {}};
 
     CFxVariant value;
     const auto take = [&](const GeneralProperty& property) {
+        if (conversion.asked)
+            conversion.asked->push_back({property.tag.text(), property.form, {}, false, true});
         value = FindProperty(conversion, property.tag, list);
         // Ids and transparencies of another form are lost.
-        const bool hasNeutral = property.form != CFxVariant::kId && property.form != CFxVariant::kTransparency;
-        if (!value.IsNull() && hasNeutral)
+        const bool hasNeutral =
+            !property.form.accepts(CFxVariant::kId) && !property.form.accepts(CFxVariant::kTransparency);
+        if (hasNeutral)
             AssumeUnlessFormed(object, property.tag.text(), value, property.form);
         return !value.IsNull();
     };

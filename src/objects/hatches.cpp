@@ -13,6 +13,9 @@
 
 namespace {
 
+constexpr const char* detections[] = {"Normal", "Outer", "Ignore"};
+constexpr const char* patternTypes[] = {"User defined", "Custom", "Predefined"};
+
 /// The way of detecting inner regions, from 1 up. Among all items it is the place of the chosen one that counts, and
 /// else the word, as the property sheet shows it.
 std::int32_t regionDetection(const CFxVariant& value)
@@ -32,11 +35,12 @@ std::int32_t regionDetection(const CFxVariant& value)
 Statement ConvertHatchCommonProperties(Writer& writer, const CFxString& pattern, const TakeTag& take)
 {
     Statement text;
-    if (const CFxVariant detection = take("Internal region detection"); !detection.IsNull())
+    if (const CFxVariant detection = take("Internal region detection", forms::word.with(detections));
+        !detection.IsNull())
         text = EmitHatchRegionDetection(writer, pattern, regionDetection(detection));
-    if (const CFxVariant x = take("Origin X"); !x.IsNull())
+    if (const CFxVariant x = take("Origin X", forms::number); !x.IsNull())
         text += EmitChangeCoordinate2DX(writer, pattern, "Origin", x.GetDouble());
-    if (const CFxVariant y = take("Origin Y"); !y.IsNull())
+    if (const CFxVariant y = take("Origin Y", forms::number); !y.IsNull())
         text += EmitChangeCoordinate2DY(writer, pattern, "Origin", y.GetDouble());
     return text;
 }
@@ -57,8 +61,8 @@ Statement ReadHatch(AddedObject& added)
 {
     CFxString pattern;
     const Statement fetch = EmitGetHatchPattern(added.writer, added.name, pattern);
-    const Statement settings =
-        ConvertHatchCommonProperties(added.writer, pattern, [&](const char* tag) { return added.take(tag); });
+    const Statement settings = ConvertHatchCommonProperties(
+        added.writer, pattern, [&](const char* tag, const ValueForm& form) { return added.take(tag, form); });
     return settings.isEmpty() ? Statement() : fetch + settings;
 }
 
@@ -88,17 +92,19 @@ std::optional<bool> yesOf(const CFxVariant& value)
 
 void ConvertModifiedHatch(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
 {
-    const TakeTag take = [&](const char* tag) { return FindProperty(conversion, tag, list); };
+    const TakeTag take = [&](const char* tag, const ValueForm& form) {
+        return TakeProperty(conversion, tag, form, list);
+    };
     // The tags are read in this order.
-    const HatchPatternChange data{.name = textOf(take("Pattern name")),
-                                  .angle = realOf(take("Angle")),
-                                  .scale = realOf(take("Scale")),
-                                  .spacing = realOf(take("Spacing")),
-                                  .type = textOf(take("Type"))};
-    const HatchGradientChange gradient{.first = colorOf(take("Color 1")),
-                                       .second = colorOf(take("Color 2")),
-                                       .centered = yesOf(take("Centered")),
-                                       .angle = realOf(take("Gradient Angle"))};
+    const HatchPatternChange data{.name = textOf(take("Pattern name", forms::word)),
+                                  .angle = realOf(take("Angle", forms::number)),
+                                  .scale = realOf(take("Scale", forms::number)),
+                                  .spacing = realOf(take("Spacing", forms::number)),
+                                  .type = textOf(take("Type", forms::word.with(patternTypes)))};
+    const HatchGradientChange gradient{.first = colorOf(take("Color 1", forms::color)),
+                                       .second = colorOf(take("Color 2", forms::color)),
+                                       .centered = yesOf(take("Centered", forms::word.with(forms::yesNo))),
+                                       .angle = realOf(take("Gradient Angle", forms::number))};
     CFxString pattern;
     const Statement fetch = EmitGetHatchPattern(conversion.writer, object.name, pattern);
     const Statement common = ConvertHatchCommonProperties(conversion.writer, pattern, take);

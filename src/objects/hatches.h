@@ -1,12 +1,13 @@
 #pragma once
 
 #include "conversion/Names.h"
+#include "conversion/ValueForm.h"
 #include "objects/targets/boundaryEntities.h"
 
 #include <functional>
 
 /// Takes the value of a tag out of the records of an object; null for a tag that is not there.
-using TakeTag = std::function<CFxVariant(const char* tag)>;
+using TakeTag = std::function<CFxVariant(const char* tag, const ValueForm& form)>;
 
 /// What no insertion call has an argument for: inner regions and the pattern's origin. Empty when the records have none
 /// of it. `pattern` is the variable of the hatch's pattern object.

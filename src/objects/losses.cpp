@@ -229,14 +229,10 @@ void AssumeProperty(const RecordedObject& object, const QString& tag, const QStr
 }
 
 void AssumeUnlessFormed(const RecordedObject& object, const QString& tag, const CFxVariant& value,
-                        CFxVariant::Type form)
+                        const ValueForm& form)
 {
-    const auto isNumber = [](CFxVariant::Type type) {
-        return type == CFxVariant::kDouble || type == CFxVariant::kInt32;
-    };
-    const CFxVariant::Type type = value.GetType();
-    if (type != form && !(isNumber(type) && isNumber(form)))
-        AssumeProperty(object, tag, value.IsNull() ? "it is not recorded" : "it is recorded in another form");
+    if (!value.IsNull() && !form.fits(value))
+        AssumeProperty(object, tag, "it is recorded in another form");
 }
 
 void LoseArcs(const Conversion& conversion, const RecordedObject& object, const OdDbPolyline& polyline)
@@ -289,6 +285,33 @@ void LoseLoneTags(const Conversion& conversion, const RecordedObject& object, co
             !(fromAdded && row->made != 0 && record->GetValue(conversion.context).GetDouble() == row->made))
             LoseProperty(object, row->tag, "what it follows from is not recorded");
     }
+}
+
+std::vector<QString> RepeatedTags(const OdRxClass* cls, bool fromAdded)
+{
+    std::vector<QString> tags;
+    const auto append = [&](std::span<const DerivedTag> rows) {
+        for (const DerivedTag& row : rows)
+            if (!row.cls || cls->name() == QLatin1String(row.cls))
+                tags.push_back(row.tag);
+    };
+    append(derivedTags);
+    if (fromAdded) {
+        append(insertedTags);
+        append(actionTags);
+    }
+    return tags;
+}
+
+std::int32_t KindThatMakes(const OdRxClass* cls)
+{
+    const MadeByAction* const row = madeByAction(cls);
+    return row ? row->kind : -1;
+}
+
+std::int32_t KindThatCompletes(const OdRxClass* cls)
+{
+    return cls == OdDbPolyline::desc() ? inkmacro::kPolyline : -1;
 }
 
 bool IsEntityOfAction(const OdRxClass* cls, std::int32_t kind)

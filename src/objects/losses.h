@@ -13,9 +13,9 @@ void LoseObject(const RecordedObject& object, const char* reason);
 void LoseProperty(const RecordedObject& object, const QString& tag, const QString& reason);
 /// A property that the macro states otherwise than it is recorded.
 void AssumeProperty(const RecordedObject& object, const QString& tag, const QString& reason);
-/// A value that is missing or of another form, of which getters give a neutral one; numbers have one form.
+/// A value of another form, of which getters give a neutral one.
 void AssumeUnlessFormed(const RecordedObject& object, const QString& tag, const CFxVariant& value,
-                        CFxVariant::Type form);
+                        const ValueForm& form);
 /// The arcs of an added polyline, which none but a custom action tells.
 void LoseArcs(const Conversion& conversion, const RecordedObject& object, const OdDbPolyline& polyline);
 /// An added note that its leader should bring, when the macro does not have the leader.
@@ -32,5 +32,12 @@ void LoseLoneTags(const Conversion& conversion, const RecordedObject& object, co
 
 /// Whether custom actions, or the block of its command, make the object.
 bool IsMadeByAction(const Conversion& conversion, const RecordedObject& object);
+/// The tags of added or changed objects of the class that only say in another form what others say; `*` at the end of
+/// one stands for whatever follows.
+std::vector<QString> RepeatedTags(const OdRxClass* cls, bool fromAdded);
+/// The kind of the custom actions that make objects of the class, or -1.
+std::int32_t KindThatMakes(const OdRxClass* cls);
+/// The same of those that say more of an object which is made without them too.
+std::int32_t KindThatCompletes(const OdRxClass* cls);
 /// Whether custom actions of that kind make entities of the class; null: of any.
 bool IsEntityOfAction(const OdRxClass* cls, std::int32_t kind);

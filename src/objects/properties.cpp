@@ -57,3 +57,11 @@ CFxVariant FindProperty(Conversion& conversion, const PropertyTag& tag, Property
         *index = byGroup(*record) ? CFxVariant(record->GetName()) : record->GetIndex(conversion.context);
     return record->GetValue(conversion.context);
 }
+
+CFxVariant TakeProperty(Conversion& conversion, const PropertyTag& tag, const ValueForm& form, PropertyList& list,
+                        PropertyList* consumed)
+{
+    if (conversion.asked)
+        conversion.asked->push_back({tag.text(), form});
+    return FindProperty(conversion, tag, list, consumed);
+}

@@ -10,6 +10,9 @@
 /// attribute's own tag.
 CFxVariant FindProperty(Conversion& conversion, const PropertyTag& tag, PropertyList& list,
                         PropertyList* consumed = nullptr, CFxVariant* index = nullptr);
+/// The same of a value of that form, for whoever lists the tags.
+CFxVariant TakeProperty(Conversion& conversion, const PropertyTag& tag, const ValueForm& form, PropertyList& list,
+                        PropertyList* consumed = nullptr);
 
 /// Whether a value of choice type shows the word "Yes" or "On" in the host's display language.
 bool IsYes(const CFxVariant& value);

@@ -208,6 +208,19 @@ std::string_view dataType(const CFxCustomActionData& data)
     return {};
 }
 
+/// One neutral value a type.
+template<std::size_t... index>
+static std::vector<Data> neutralData(std::index_sequence<index...>)
+{
+    return {Data(Data::Value(std::in_place_index<index>))...};
+}
+
+std::string_view dataType(CFxCustomActionData::_Type type)
+{
+    static const std::vector<Data> samples = neutralData(std::make_index_sequence<std::variant_size_v<Data::Value>>());
+    return dataType(samples[static_cast<std::size_t>(type)]);
+}
+
 CFxCustomActionData Form<CFxCustomActionData>::read(const Json& json)
 {
     static const auto keys = keysOf(std::span<const Choice<Data>>(dataChoices));

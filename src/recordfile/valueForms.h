@@ -43,6 +43,7 @@ struct Form<CFxCustomActionData>
 
 /// The key that stands for the type.
 std::string_view dataType(const CFxCustomActionData& data);
+std::string_view dataType(CFxCustomActionData::_Type type);
 
 /// A chain of one or more elements.
 template<>

@@ -85,6 +85,30 @@ def check_reports(program, files):
     return faults
 
 
+# What is no name that the schema tells is valid all the same.
+FOREIGN = [
+    '{"added":{"class":"HostWeldSymbol","handle":"1","properties":[{"tag":"Weld length","value":2}]}}',
+    '{"property":{"class":"HostWeldSymbol","handle":"1","tag":"Weld length","value":2}}',
+    '{"custom":{"kind":99,"data":[]}}',
+]
+
+
+def check_names(schema, validator):
+    """The faults of the names that an editor completes."""
+    def told(part, key):
+        return schema["$defs"][part]["properties"][key]["anyOf"]
+
+    faults = [f"the schema refuses {line}" for line in FOREIGN if not validator.is_valid(json.loads(line))]
+    for part, key, name in (("added", "class", "AcDbLine"), ("modified", "class", "AcDbTable"),
+                            ("picked", "class", "AcDbCircle"), ("property", "tag", "Start X"),
+                            ("propertyAction", "tag", "Internal region detection")):
+        if name not in told(part, key)[0]["enum"]:
+            faults.append(f"the schema does not tell {name} as {key} of {part}")
+    if {"const": 18, "title": "insert hatch"} not in told("custom", "kind"):
+        faults.append("the schema does not tell the kind that inserts a hatch")
+    return faults
+
+
 def main():
     program, source = sys.argv[1], pathlib.Path(sys.argv[2])
     validator = validator_of(program, "recording")
@@ -101,6 +125,7 @@ def main():
             if error:
                 faults.append(f"{file}:{number}: {error.json_path}: {error.message}")
     faults += [f"the schema takes {line}" for line in DAMAGED if validator.is_valid(json.loads(line))]
+    faults += check_names(validator.schema, validator)
     faults += check_reports(program, files)
     if not files or checked < 100:
         faults.append(f"only {checked} lines were found to check")

@@ -93,9 +93,9 @@ Statement ReadBlockReference(AddedObject& added)
 /// by their entities.
 Statement ReadBlockDefinition(AddedObject& added)
 {
-    const CFxVariant name = added.take("Name");
-    const CFxVariant objects = added.take("Objects");
-    const CFxVariant description = added.take("Description");
+    const CFxVariant name = added.take("Name", forms::text, "the drawing's");
+    const CFxVariant objects = added.take("Objects", forms::handlesInValues, "the drawing's");
+    const CFxVariant description = added.take("Description", forms::text, "the drawing's");
     const auto record = added.open<OdDbBlockTableRecord>();
 
     BlockContents contents;

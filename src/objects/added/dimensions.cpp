@@ -46,6 +46,7 @@ std::optional<MeasuredCurve> curveOf(const AddedObject& added)
 /// The rotation belongs to the part of a dimension that all kinds have, so a statement fetches that first.
 Statement withTextRotation(Statement insertion, AddedObject& added)
 {
+    const CFxVariant rotation = added.take("Rotation", forms::number);
     if (insertion.isEmpty()) {
         added.lost("the drawing does not have a circle or an arc that it measures");
         added.conversion.names().SetUnmade(added.object.handle);
@@ -53,7 +54,6 @@ Statement withTextRotation(Statement insertion, AddedObject& added)
             return insertion;
         added.conversion.faults.noteUnmade();
     }
-    const CFxVariant rotation = added.take("Rotation");
     if (rotation.IsNull())
         return insertion;
     CFxString general;
@@ -120,7 +120,7 @@ Statement ReadArcLengthDimension(AddedObject& added)
 {
     const OdGePoint3d first = added.takePoint("xLine1Point");
     const OdGePoint3d second = added.takePoint("xLine2Point");
-    const bool partial = added.take("isPartial").GetInt32() != 0;
+    const bool partial = added.takeFlag("isPartial");
     const OdGePoint3d arcPoint = added.takePoint("arcPoint");
     const inkmacro::EscapedText text = takeTextOverride(added);
     Statement insertion;
@@ -134,11 +134,11 @@ Statement ReadOrdinateDimension(AddedObject& added)
 {
     const OdGePoint3d point = added.takePoint("definingPoint");
     const OdGePoint3d leaderEnd = added.takePoint("leaderEndPoint");
-    const bool usesXAxis = added.take("isUsingXAxis").GetInt32() != 0;
+    const bool usesXAxis = added.takeFlag("isUsingXAxis");
     const inkmacro::EscapedText text = takeTextOverride(added);
     Statement statements = withTextRotation(
         EmitInsertOrdinateDimension(added.writer, point, leaderEnd, usesXAxis, text, added.name), added);
-    const CFxVariant zero = added.take("setZero");
+    const CFxVariant zero = added.take("setZero", forms::point);
     if (!zero.IsNull() && zero.GetPoint3d().distanceTo({}) > kPointTolerance)
         statements += EmitCallWithPoint(added.writer, added.name, "SetOriginPoint", zero.GetPoint3d());
     return statements;

@@ -6,13 +6,23 @@
 #include "objects/added/readers.h"
 #include "objects/targets/setters.h"
 
+namespace {
+
+bool takeVisible(AddedObject& added, const char* tag)
+{
+    static constexpr const char* words[] = {"Visible", "Hidden"};
+    return wordOf(added.take(tag, forms::word.with(words), "not visible")) == ShownWord("Visible");
+}
+
+} // namespace
+
 Statement ReadFace(AddedObject& added)
 {
     const OdArray<OdGePoint3d> corners = added.takePoints("Vertex");
     std::array<bool, 4> edgesVisible{};
     const char* const tags[] = {"Edge 1", "Edge 2", "Edge 3", "Edge 4"};
     for (std::size_t i = 0; i < edgesVisible.size(); ++i)
-        edgesVisible[i] = wordOf(added.take(tags[i])) == ShownWord("Visible");
+        edgesVisible[i] = takeVisible(added, tags[i]);
     return EmitInsertFace(added.writer, corners, edgesVisible, added.name);
 }
 
@@ -33,8 +43,8 @@ Statement ReadTrace(AddedObject& added)
 Statement ReadPolygonMesh(AddedObject& added)
 {
     const OdArray<OdGePoint3d> vertices = added.takePoints("Vertex");
-    const int rows = added.take("M vertex count").GetInt32();
-    const int columns = added.take("N vertex count").GetInt32();
+    const int rows = added.takeInteger("M vertex count");
+    const int columns = added.takeInteger("N vertex count");
 
     Statement text = EmitInsertPolygonMesh(added.writer, rows, columns, vertices, added.name);
     const auto mesh = added.open<OdDbPolygonMesh>();

@@ -14,7 +14,7 @@ namespace {
 /// Of the choice between yes and no the first item is yes.
 bool takeClosed(AddedObject& added)
 {
-    const CFxVariant closed = added.take("Closed");
+    const CFxVariant closed = added.take("Closed", forms::word.with(forms::yesNo), "No");
     if (closed.GetType() == CFxVariant::kCollection)
         return closed.GetCollection().GetChosen() == 0;
     return wordOf(closed).equalNoCase(ShownWord("Yes"));
@@ -23,7 +23,8 @@ bool takeClosed(AddedObject& added)
 /// The drawing's number, 0 for a word that the property sheet does not show.
 int takeJustification(AddedObject& added)
 {
-    const CFxVariant justification = added.take("RLine justification");
+    const CFxVariant justification =
+        added.take("RLine justification", forms::word.with(inkmacro::enums::richLineJustification), "0");
     if (justification.GetType() == CFxVariant::kCollection)
         return justification.GetCollection().GetChosen();
     const CFxString word = wordOf(justification);
@@ -40,8 +41,8 @@ Statement ReadRichLine(AddedObject& added)
     const OdArray<OdGePoint3d> vertices = added.takePoints("vertices");
     const int justification = takeJustification(added);
     const double scale = added.takeReal("RLine scale", 0.0);
-    const CFxString style = wordOf(added.take("RLineStyle"));
-    const bool closed = added.take("closedMline").GetInt32() != 0;
+    const CFxString style = added.takeWord("RLineStyle");
+    const bool closed = added.takeFlag("closedMline");
     return EmitInsertRichLine(added.writer, vertices, justification, scale, style, closed, added.name);
 }
 
@@ -71,7 +72,7 @@ Statement ReadSpline(AddedObject& added)
     const OdGePoint3d start =
         added.takePoint("Start tangent vector X", "Start tangent vector Y", "Start tangent vector Z");
     const OdGePoint3d end = added.takePoint("End tangent vector X", "End tangent vector Y", "End tangent vector Z");
-    const CFxVariant tolerance = added.take("Fit tolerance");
+    const CFxVariant tolerance = added.take("Fit tolerance", forms::number);
 
     Statement text = EmitInsertSpline(added.writer, fitPoints, closed, start, end, added.name);
     if (tolerance.IsNull())

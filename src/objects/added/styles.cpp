@@ -17,6 +17,8 @@
 
 namespace {
 
+constexpr ValueForm plainYes = forms::text.with(forms::yesNo);
+
 bool holds(const QString& path, const CFxString& styleName)
 {
     LineStyleFile file(path);
@@ -101,7 +103,7 @@ Statement ReadRichLineStyle(AddedObject& added)
 /// A style that no file holds is loaded all the same: the macro's user can fill in the file.
 Statement ReadLineStyle(AddedObject& added)
 {
-    const CFxVariant value = added.take("Name");
+    const CFxVariant value = added.take("Name", forms::text, "nothing is written");
     if (value.IsNull())
         return added.lost("its name is not recorded");
     const CFxString styleName = value.GetString();
@@ -114,13 +116,13 @@ Statement ReadLineStyle(AddedObject& added)
 
 Statement ReadLayer(AddedObject& added)
 {
-    const CFxVariant name = added.take("Name");
+    const CFxVariant name = added.take("Name", forms::text, "the drawing's");
     CFxString layer = name.GetString();
     if (name.IsNull())
         if (const auto record = added.open<OdDbLayerTableRecord>())
             layer = record->getName();
     Statement text = EmitCreateLayer(added.writer, layer, added.name);
-    if (added.takeOptionalText("ActivateLayer") == ShownWord("Yes")) {
+    if (added.take("ActivateLayer", plainYes, "No").GetString() == ShownWord("Yes")) {
         if (RecordsOtherwise(inkmacro::Target::JavaScript, added.writer.target))
             added.conversion.faults.note(otherLanguage);
         text += EmitActivateLayer(added.writer, LayerOf(added.name));
@@ -133,8 +135,8 @@ Statement ReadGroup(AddedObject& added)
     NewGroup group;
     group.name = added.takeText("Name");
     group.description = added.takeOptionalText("Description");
-    const CFxVariant entities = added.take("AllEntities");
-    group.selectable = added.takeOptionalText("SelectableEntities").equalNoCase(ShownWord("YES"));
+    const CFxVariant entities = added.take("AllEntities", forms::handlesInTags, "no entities");
+    group.selectable = added.take("SelectableEntities", plainYes, "No").GetString().equalNoCase(ShownWord("YES"));
     for (const OdDbObjectId& id : ObjectsOf(entities, HandlesIn::Tags))
         if (const QString variable = added.conversion.names().KnownVariable(id.getHandle()); !variable.isEmpty())
             group.entities.push_back(variable);

@@ -53,8 +53,8 @@ Statement ReadTable(AddedObject& added)
     const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
     if (position.z != 0)
         LoseProperty(added.object, "Position Z", "the insertion takes its position in the plane");
-    const std::int32_t rows = added.take("Rows").GetInt32();
-    const std::int32_t columns = added.take("Columns").GetInt32();
+    const std::int32_t rows = added.takeInteger("Rows");
+    const std::int32_t columns = added.takeInteger("Columns");
     const auto table = added.open<OdDbTable>();
     const double dataHeight = added.takeReal("RowHeight_2", 0.0);
     const double width = added.takeReal("ColumnWidth_0", 0.0);
@@ -63,13 +63,14 @@ Statement ReadTable(AddedObject& added)
         loseOwnStyles(added, *table, cellTypes);
     Statement text = EmitInsertTable(added.writer, position, rows, columns, dataHeight, width, cellTypes, added.name);
 
-    const CFxVariant tableHeight = added.take("Table height");
-    const CFxVariant tableWidth = added.take("Table width");
+    const CFxVariant tableHeight = added.take("Table height", forms::number);
+    const CFxVariant tableWidth = added.take("Table width", forms::number);
     rememberTable(added.conversion.tables, added.name, rows, columns, tableHeight, tableWidth);
 
     const char* const headTags[] = {"RowHeight_0", "RowHeight_1"};
     for (int row = 0; row < 2; ++row) {
-        const double height = added.takeReal(headTags[row], dataHeight);
+        const CFxVariant recorded = added.take(headTags[row], forms::number, "as RowHeight_2");
+        const double height = recorded.IsNull() ? dataHeight : recorded.GetDouble();
         if (height != dataHeight)
             text += EmitSetRowHeightAt(added.writer, added.name, row, height);
     }

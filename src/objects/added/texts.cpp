@@ -58,8 +58,6 @@ Box boxOfNote(int attachment, const OdGePoint3d& position, double width, double 
             {moved(position.x, shares.secondX, width), moved(position.y, shares.secondY, height), position.z}};
 }
 
-constexpr char kNoChoice[] = "it is recorded in another form than as a choice";
-
 /// A command that loads shapes is written without its block, so the statement stands one level further out.
 Statement loadShapes(Writer& writer, const CFxString& fileName)
 {
@@ -80,7 +78,7 @@ Statement ReadTextStyle(AddedObject& added)
 {
     const auto style = added.open<OdDbTextStyleTableRecord>();
     const CFxString name = added.takeText("Name");
-    const CFxVariant font = added.take("Font");
+    const CFxVariant font = added.take("Font", forms::text);
     if (style && style->isShapeFile())
         return loadShapes(added.writer, style->fileName());
 
@@ -92,17 +90,23 @@ Statement ReadTextStyle(AddedObject& added)
 
 Statement ReadAttributeDefinition(AddedObject& added)
 {
-    const auto takeYes = [&](const char* tag) { return wordOf(added.take(tag)).equalNoCase(ShownWord("Yes")); };
+    const auto takeYes = [&](const char* tag) {
+        return wordOf(added.take(tag, forms::word.with(forms::yesNo), "No")).equalNoCase(ShownWord("Yes"));
+    };
 
     AttributeDefinition definition;
     definition.value = added.takeText("Value");
     definition.tag = added.takeText("Tag");
     definition.prompt = added.takeOptionalText("Prompt");
-    definition.styleName = nameOfTextStyle(added.take("TextStyle").GetId());
-    definition.justification = wordOf(added.take("Justify"));
-    definition.position = definition.justification.equalNoCase(ShownWord("Left"))
-                              ? added.takePoint("Position X", "Position Y", "Position Z")
-                              : added.takePoint("Text alignment X", "Text alignment Y", "Text alignment Z");
+    definition.styleName = nameOfTextStyle(added.take("TextStyle", forms::object, "no name").GetId());
+    definition.justification =
+        wordOf(added.take("Justify", forms::word.with(inkmacro::enums::textJustification), "empty text"));
+    // Only one of the points is taken; who lists the tags hears of both.
+    const bool isLeft = definition.justification.equalNoCase(ShownWord("Left"));
+    if (isLeft || added.conversion.asked)
+        definition.position = added.takePoint("Position X", "Position Y", "Position Z");
+    if (!isLeft)
+        definition.position = added.takePoint("Text alignment X", "Text alignment Y", "Text alignment Z");
     definition.height = added.takeReal("Height", 0.2);
     definition.rotation = added.takeReal("Rotation", 0.0);
     definition.constant = takeYes("Constant");
@@ -120,10 +124,8 @@ Statement ReadSimpleNote(AddedObject& added)
     const double height = added.takeReal("Height", 2.5);
     const double rotation = added.takeReal("Rotation", 0.0);
     const CFxString contents = added.takeText("Contents");
-    const CFxVariant justify = added.take("Justify");
-    const std::optional<CFxString> justification = ChosenText(justify);
-    if (!justify.IsNull() && !justification)
-        LoseProperty(added.object, "Justify", kNoChoice);
+    const std::optional<CFxString> justification =
+        ChosenText(added.take("Justify", forms::chosen.with(inkmacro::enums::textJustification)));
 
     Statement text = EmitInsertSimpleNote(added.writer, position, height, rotation, contents, added.name);
     if (justification)
@@ -137,16 +139,16 @@ Statement ReadSimpleNote(AddedObject& added)
 
 Statement ReadNote(AddedObject& added)
 {
-    const CFxVariant width = added.take("Width");
-    const CFxVariant textHeight = added.take("Text Height");
+    const CFxVariant width = added.take("Width", forms::number, "a box without width");
+    const CFxVariant textHeight = added.take("Text Height", forms::number);
     const OdGePoint3d position = added.takePoint("Position X", "Position Y", "Position Z");
-    const CFxVariant justify = added.take("Justify");
+    const CFxVariant justify = added.take("Justify", forms::chosen.with(inkmacro::enums::noteJustification));
     const CFxString contents = added.takeText("Contents");
-    const CFxVariant direction = added.take("Direction");
-    const CFxVariant style = added.take("Style");
-    const CFxVariant rotation = added.take("Rotation");
-    added.take("Rotation"); // recorded twice; the first one counts
-    const CFxVariant lineSpaceDistance = added.take("Line space distance");
+    const CFxVariant direction = added.take("Direction", forms::collection.with(inkmacro::enums::noteDirection));
+    const CFxVariant style = added.take("Style", forms::style);
+    const CFxVariant rotation = added.take("Rotation", forms::number);
+    added.take("Rotation", forms::number); // recorded twice; the first one counts
+    const CFxVariant lineSpaceDistance = added.take("Line space distance", forms::number);
     const double boxHeight = added.takeReal("TextBoxHeight", 0.0);
 
     const Box box = boxOfNote(justify.GetCollection().GetChosen(), position, width.GetDouble(), boxHeight);
@@ -165,8 +167,6 @@ Statement ReadNote(AddedObject& added)
     }
     if (const std::optional<CFxString> justification = ChosenText(justify))
         text += EmitSetNoteJustify(added.writer, added.name, "Justify", *justification);
-    else if (!justify.IsNull())
-        LoseProperty(added.object, "Justify", kNoChoice);
     if (!direction.IsNull())
         text += EmitSetNoteDirection(added.writer, added.name, "Direction", direction.GetCollection().GetChosen());
     return text;

@@ -35,6 +35,8 @@ void ConvertModifiedBlockInstance(Conversion& conversion, const RecordedObject& 
                                   Statement& text)
 {
     ConvertRows(conversion, modifiedBlockInstance, object, list, text);
+    if (conversion.asked)
+        conversion.asked->push_back({"*", forms::text, {}, false, false, "BlockAttributes"});
     PropertyList rest;
     for (CFxPropertyChangedPtr& record : list) {
         // Each record on its own: attributes may be many, and what is taken out of a list moves all that stand behind.
@@ -57,8 +59,8 @@ void ConvertModifiedBlockInstance(Conversion& conversion, const RecordedObject& 
 void ConvertModifiedBlockDefinition(Conversion& conversion, const RecordedObject& object, PropertyList& list,
                                     Statement& text)
 {
-    const CFxVariant objects = FindProperty(conversion, "Objects", list);
-    const CFxVariant description = FindProperty(conversion, "Description", list);
+    const CFxVariant objects = TakeProperty(conversion, "Objects", forms::handlesInValues, list);
+    const CFxVariant description = TakeProperty(conversion, "Description", forms::text, list);
     if (objects.GetType() != CFxVariant::kCollection) {
         if (!description.IsNull())
             LoseProperty(object, "Description", "a block is made anew only when its objects are recorded");

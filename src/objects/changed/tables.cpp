@@ -76,8 +76,10 @@ const Fault kSingleRemoval{
     "of several rows or columns that went only the last is removed"};
 
 /// Takes all records out of the list whose tags begin so.
-PropertyList takeAll(const char* tag, PropertyList& list)
+PropertyList takeAll(Conversion& conversion, const char* tag, const ValueForm& form, PropertyList& list)
 {
+    if (conversion.asked)
+        conversion.asked->push_back({tag + QLatin1String("_*"), form});
     const auto taken = std::stable_partition(list.begin(), list.end(),
                                              [&](const CFxPropertyChangedPtr& record) { return !isOf(record, tag); });
     PropertyList records(std::make_move_iterator(taken), std::make_move_iterator(list.end()));
@@ -140,7 +142,7 @@ Statement removeLines(Writer& writer, const TableLines& lines, const CFxString& 
 static bool ConvertTableCount(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
                               PropertyList& list, Statement& text)
 {
-    const CFxVariant value = FindProperty(conversion, lines.countTag, list);
+    const CFxVariant value = TakeProperty(conversion, lines.countTag, forms::whole, list);
     if (value.IsNull())
         return false;
     const bool isNumber = value.GetType() == CFxVariant::kInt32 || value.GetType() == CFxVariant::kDouble;
@@ -171,7 +173,7 @@ static bool ConvertTableCount(Conversion& conversion, const TableLines& lines, c
 /// Takes the records of cells. True if there were any.
 static bool ConvertCellTexts(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
 {
-    const PropertyList cells = takeAll(cellTag, list);
+    const PropertyList cells = takeAll(conversion, cellTag, forms::word, list);
     for (const CFxPropertyChangedPtr& record : cells) {
         const CFxVariant value = record->GetValue(conversion.context);
         if (!value.IsNull())
@@ -184,7 +186,7 @@ static bool ConvertCellTexts(Conversion& conversion, const RecordedObject& objec
 static bool ConvertTableSizes(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
                               PropertyList& list, Statement& text)
 {
-    const PropertyList sizes = takeAll(lines.sizeTag, list);
+    const PropertyList sizes = takeAll(conversion, lines.sizeTag, forms::number, list);
     for (const CFxPropertyChangedPtr& record : sizes) {
         const CFxVariant value = record->GetValue(conversion.context);
         if (!value.IsNull())
@@ -197,7 +199,7 @@ static bool ConvertTableSizes(Conversion& conversion, const TableLines& lines, c
 static void ConvertTableSize(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
                              PropertyList& list, bool told, Statement& text)
 {
-    const CFxVariant value = FindProperty(conversion, lines.wholeTag, list);
+    const CFxVariant value = TakeProperty(conversion, lines.wholeTag, forms::number, list);
     if (value.IsNull())
         return;
     double& whole = (conversion.tables.*lines.wholes)[object.name];
