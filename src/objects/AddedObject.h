@@ -38,8 +38,9 @@ public:
     CFxVariant take(const PropertyTag& tag, const ValueForm& form) { return take(tag, form, {}); }
     OdGePoint3d takePoint(const PropertyTag& xTag, const PropertyTag& yTag, const PropertyTag& zTag)
     {
-        for (const PropertyTag& tag : {xTag, yTag, zTag})
-            noteAsked(tag, forms::number, "0");
+        noteAsked(xTag, forms::number, "0");
+        noteAsked(yTag, forms::number, "0");
+        noteAsked(zTag, forms::number, "0");
         return FindPoint(conversion, xTag, yTag, zTag, list_, consumed_);
     }
     OdGePoint3d takePoint(const PropertyTag& tag) { return take(tag, forms::point, "the origin").GetPoint3d(); }
