@@ -47,8 +47,8 @@ constexpr DataWords allWords[] = {
       {kClassArray, "their classes"},
       {kPointArray, "a point on each of these"},
       {kDoubleArray,
-       "six numbers for each of these by which it is told: of a line its start and end, of an arc its center and "
-       "radius, and so on"}}},
+       "six numbers for each of these: two points of a line or ray, the first two of a polyline or spline, center, "
+       "radius, start and end angle of an arc, center, major and minor radius of an ellipse"}}},
     {7,
      {{kHandleArray, "the boundary edges"},
       {kClassArray, "their classes"},

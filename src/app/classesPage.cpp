@@ -229,6 +229,9 @@ QString sentencesOf(const CFxKnownClass& cls, const std::vector<CFxString>& comm
             QString("\nA custom action of kind %1 in the same command draws it with all that it has; without one it "
                     "has its vertices alone, joined by lines.\n")
                 .arg(nameOf(kinds, cls.completedBy));
+    if (!cls.emptyLoss.isEmpty())
+        text += QString("\nAn added object of which neither records nor the drawing tell enough is lost: %1.\n")
+                    .arg(cls.emptyLoss);
     std::vector<CFxString> repeated = cls.repeatedInAdded;
     std::erase_if(repeated, [&](const CFxString& tag) { return std::ranges::find(common, tag) != common.end(); });
     return text + repeatedOf(repeated);

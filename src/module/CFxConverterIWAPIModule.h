@@ -84,6 +84,8 @@ struct CFxKnownClass
 {
     CFxString name;
     bool isMade = false; ///< whether records of an added object alone make a statement that makes it
+    CFxString emptyLoss =
+        {}; ///< why an added object without records is lost, of which the drawing knows nothing either
     std::vector<CFxKnownTag> added;
     std::vector<CFxKnownTag> changed;
     // Tags that say in another form what others say, so that it is no loss when nothing takes them.

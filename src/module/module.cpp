@@ -119,6 +119,7 @@ std::vector<CFxKnownClass> knownClasses()
         const std::int32_t madeBy = KindThatMakes(cls);
         classes.push_back({.name = row.name,
                            .isMade = row.reader && madeBy < 0,
+                           .emptyLoss = tags.emptyLoss,
                            .added = knownTags(tags.added),
                            .changed = knownTags(tags.changed),
                            .repeatedInAdded = toList(RepeatedTags(cls, true)),

@@ -26,39 +26,50 @@ std::vector<AskedTag> onceEach(const std::vector<AskedTag>& asked)
     return tags;
 }
 
-std::vector<AskedTag> askedTags(const ClassRow& row, bool fromAdded)
+/// An object that no drawing has, of which nothing is recorded.
+struct EmptyObject
 {
-    // What an action makes without a reader gets nothing of its records.
-    if (fromAdded && !row.reader)
-        return {};
-    std::vector<AskedTag> asked;
-    Conversion conversion(inkmacro::Target::CSharp, 0);
-    conversion.asked = &asked;
-    const OdRxClass* const cls = oddbClassByName(row.name);
-    const OdDbHandle handle(1);
-    conversion.names().RegisterObject(handle, cls);
-    PropertyList none;
-    if (fromAdded) {
-        const RecordedObject object{cls, handle, "object"};
-        AddedObject added(conversion, object, OdDbObjectId(), none, nullptr);
-        row.reader(added);
+    explicit EmptyObject(const ClassRow& row) : object{oddbClassByName(row.name), OdDbHandle(1), "object"}
+    {
+        conversion.asked = &asked;
+        conversion.names().RegisterObject(object.handle, object.cls);
     }
-    Statement text;
-    ConvertObjectChanges(conversion, cls, handle, none, fromAdded, text);
-    return onceEach(asked);
-}
+    void change(bool fromAdded)
+    {
+        Statement text;
+        ConvertObjectChanges(conversion, object.cls, object.handle, none, fromAdded, text);
+    }
+
+    std::vector<AskedTag> asked;
+    Conversion conversion{inkmacro::Target::CSharp, 0};
+    const RecordedObject object;
+    PropertyList none;
+};
 
 } // namespace
 
 KnownTags TagsOf(const ClassRow& row)
 {
-    const QScopedValueRollback<ProcessCounters> numbers(processCounters);
     CFxSystemServices& services = *GetFxSystemServices();
-    const QScopedValueRollback<CFxConversionNotes> notes(services.Notes());
-    // No drawing has the object.
+    const QScopedValueRollback<ProcessCounters> numbers(processCounters);
+    const QScopedValueRollback<CFxConversionNotes> notes(services.Notes(), CFxConversionNotes());
     CFxDocument* const document = services.GetActiveDocument();
     services.SetActiveDocument(nullptr);
-    KnownTags tags{askedTags(row, true), askedTags(row, false)};
+
+    KnownTags tags;
+    // What an action makes without a reader gets nothing of its records.
+    if (row.reader) {
+        EmptyObject empty(row);
+        AddedObject added(empty.conversion, empty.object, OdDbObjectId(), empty.none, nullptr);
+        row.reader(added);
+        if (!services.Notes().GetLosses().empty())
+            tags.emptyLoss = services.Notes().GetLosses().front().reason;
+        empty.change(true);
+        tags.added = onceEach(empty.asked);
+    }
+    EmptyObject empty(row);
+    empty.change(false);
+    tags.changed = onceEach(empty.asked);
     services.SetActiveDocument(document);
     return tags;
 }

@@ -9,6 +9,9 @@ struct KnownTags
 {
     std::vector<AskedTag> added;
     std::vector<AskedTag> changed;
+    /// Why an added object is lost of which nothing is recorded and the drawing knows nothing; null for one that is
+    /// not.
+    CFxString emptyLoss;
 };
 
 /// Nothing is written down a second time: reader and changes of the class are run over empty lists. Leaves the notes

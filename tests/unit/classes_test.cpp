@@ -441,3 +441,12 @@ TEST(Classes, TheDataOfEachFormOfCustomActionsAreTold)
         for (const inkmacro::ActionForm& form : kind.forms())
             EXPECT_TRUE(told.contains(&form)) << kind.numbers.first << " form " << &form - kind.forms().data();
 }
+
+TEST(Classes, TellWhatIsLostWhenNothingIsKnownOfAnObject)
+{
+    const auto lossOf = [](const char* cls) { return TagsOf(*FindClass(QString(cls))).emptyLoss.toQString(); };
+    EXPECT_EQ(lossOf("AcDbRadialDimension"), "the drawing does not have a circle or an arc that it measures");
+    EXPECT_EQ(lossOf("AcDbLinetypeTableRecord"), "its name is not recorded");
+    EXPECT_EQ(lossOf("AcDbAlignedDimension"), "");
+    EXPECT_EQ(lossOf("AcDbRegion"), "");
+}
