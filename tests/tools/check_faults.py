@@ -148,7 +148,10 @@ def isolated(row, faithful, repaired, folder):
         cuts = list(range(a, b + 1)) if b - a == d - c else cuts if len(cuts) - 1 == d - c else [a, b]
         ends = range(c, d + 1) if len(cuts) - 1 == d - c else [c, d]
         for a, b, c, d in zip(cuts, cuts[1:], ends, ends[1:]):
+            # What is left out whole may have its fault further down.
             begun = max((line for line in begins if line <= a + 1), default=0)
+            if c == d and begun <= a:
+                begun = min((line for line in begins if a < line <= b), default=begun)
             fault, others = apart(row, [fault for fault in faithful.faults if fault.line == begun])
             if kind != "equal" and fault and others <= BESIDE.keys():
                 faults.append(dataclasses.replace(fault, line=max(len(lines) + begun - a, 1)))
