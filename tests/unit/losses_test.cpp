@@ -290,6 +290,14 @@ TEST(Assumptions, AreMadeOfWhatIsMissingOrOfAnotherForm)
                                               R"({"tag":"xLine2Point","value":{"point":[4,0,0]}})"),
               Lines{property("dimLinePoint", "AcDbAlignedDimension", "it is not recorded")});
     EXPECT_EQ(ofAdded("AcDbSolid", ""), Lines{property("Vertex", "AcDbSolid", "it is not recorded")});
+    const auto ofChange = [](const char* properties) {
+        const Lines all = assumptionsOf(command(line) + changed("AcDbLine", "30", properties));
+        return all.empty() ? std::string() : all.back();
+    };
+    EXPECT_EQ(ofChange(R"({"tag":"LineScale","value":"two"})"),
+              "1 property \"LineScale\" of AcDbLine 30: it is recorded in another form");
+    EXPECT_EQ(ofChange(R"({"tag":"End X","value":"7"})"),
+              "1 property \"End X\" of AcDbLine 30: it is recorded in another form");
     EXPECT_EQ(ofAdded("AcDbGroup", R"({"tag":"Description","value":3.0},{"tag":"Name","value":"G"})"),
               Lines{property("Description", "AcDbGroup", "it is recorded in another form")});
 }
