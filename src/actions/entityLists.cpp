@@ -11,81 +11,65 @@
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;
 
-static EntityList EntitiesOf(Conversion& conversion, const CFxCustomAction& action)
+/// A call for the objects of the first two data. In a repaired macro one for none of them is left out.
+template<class Emit>
+static std::int32_t ConvertEntityCall(Conversion& conversion, const CFxCustomAction& action, Statement& text, Emit emit)
 {
-    return conversion.names().ResolveNames(action.GetData(0), action.GetData(1));
-}
-
-/// In a repaired macro a call for none of its objects is left out.
-static bool isForNone(const Conversion& conversion, const CFxCustomAction& action, const EntityList& entities)
-{
-    if (!entities.empty() || !conversion.writer.repairs)
-        return false;
-    NoteLoss(ActionTitle(&action), "the macro has none of its objects");
-    return true;
+    takeVariable(conversion.writer, text, HandedVariable::Replaced);
+    const EntityList entities = conversion.names().ResolveNames(action.GetData(0), action.GetData(1));
+    if (entities.empty() && conversion.writer.repairs)
+        return PassOver(action, "the macro has none of its objects");
+    text = emit(entities);
+    return kFxSuccess;
 }
 
 std::int32_t ConvertActionMirror(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
-    takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    const EntityList entities = EntitiesOf(conversion, action);
-    if (isForNone(conversion, action, entities))
-        return kFxSuccess;
-    text = EmitMirrorEntities(conversion.writer, entities, action.GetData(2).GetPoint(), action.GetData(3).GetPoint(),
-                              action.GetData(4).GetBool());
-    return kFxSuccess;
+    return ConvertEntityCall(conversion, action, text, [&](const EntityList& entities) {
+        return EmitMirrorEntities(conversion.writer, entities, action.GetData(2).GetPoint(),
+                                  action.GetData(3).GetPoint(), action.GetData(4).GetBool());
+    });
 }
 
 std::int32_t ConvertActionStretch(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
-    takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    const EntityList entities = EntitiesOf(conversion, action);
-    if (isForNone(conversion, action, entities))
-        return kFxSuccess;
-    text = EmitStretchEntities(conversion.writer, entities, action.GetData(2).GetPoint(), action.GetData(3).GetPoint(),
-                               action.GetData(4).GetVector());
-    return kFxSuccess;
+    return ConvertEntityCall(conversion, action, text, [&](const EntityList& entities) {
+        return EmitStretchEntities(conversion.writer, entities, action.GetData(2).GetPoint(),
+                                   action.GetData(3).GetPoint(), action.GetData(4).GetVector());
+    });
 }
 
 std::int32_t ConvertActionCopy(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
-    takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    const EntityList entities = EntitiesOf(conversion, action);
-    if (isForNone(conversion, action, entities))
-        return kFxSuccess;
-    for (std::int32_t i = 2; i < action.GetDataCount(); ++i)
-        text += EmitCopyEntities(conversion.writer, entities, action.GetData(i).GetVector(), i == 2);
-    return kFxSuccess;
+    return ConvertEntityCall(conversion, action, text, [&](const EntityList& entities) {
+        Statement copies;
+        for (std::int32_t i = 2; i < action.GetDataCount(); ++i)
+            copies += EmitCopyEntities(conversion.writer, entities, action.GetData(i).GetVector(), i == 2);
+        return copies;
+    });
 }
 
 std::int32_t ConvertActionMove(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
-    takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    const EntityList entities = EntitiesOf(conversion, action);
-    if (isForNone(conversion, action, entities))
-        return kFxSuccess;
-    text = EmitMoveEntities(conversion.writer, entities, action.GetData(2).GetVector(), true);
-    return kFxSuccess;
+    return ConvertEntityCall(conversion, action, text, [&](const EntityList& entities) {
+        return EmitMoveEntities(conversion.writer, entities, action.GetData(2).GetVector(), true);
+    });
 }
 
 std::int32_t ConvertActionRotate(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
-    takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    const EntityList entities = EntitiesOf(conversion, action);
-    if (isForNone(conversion, action, entities))
-        return kFxSuccess;
-    text = EmitRotateEntities(conversion.writer, entities, action.GetData(2).GetPoint(), action.GetData(3).GetDouble());
-    return kFxSuccess;
+    return ConvertEntityCall(conversion, action, text, [&](const EntityList& entities) {
+        return EmitRotateEntities(conversion.writer, entities, action.GetData(2).GetPoint(),
+                                  action.GetData(3).GetDouble());
+    });
 }
 
 std::int32_t ConvertActionScale(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
-    takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    const EntityList entities = EntitiesOf(conversion, action);
-    if (isForNone(conversion, action, entities))
-        return kFxSuccess;
-    text = EmitScaleEntities(conversion.writer, entities, action.GetData(2).GetPoint(), action.GetData(3).GetDouble());
-    return kFxSuccess;
+    return ConvertEntityCall(conversion, action, text, [&](const EntityList& entities) {
+        return EmitScaleEntities(conversion.writer, entities, action.GetData(2).GetPoint(),
+                                 action.GetData(3).GetDouble());
+    });
 }
 
 static const ActionEntry* FindGroup(Conversion& conversion, const CFxString& groupName, OdDbHandle& handle)

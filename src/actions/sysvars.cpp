@@ -133,14 +133,11 @@ std::int32_t ConvertSysVar(Conversion& conversion, const CFxSysVarChanged& varia
         return kFxSuccess;
     CFxString option;
     std::int32_t kind = -1;
-    bool known = true;
     if (FindCommandOption(variable.GetName(), option, kind) == kFxSuccess)
         text = commandOption(conversion.writer, variable, option, static_cast<OptionKind>(kind), *value);
     else if (FindApplicationOption(variable.GetName(), option, kind) == kFxSuccess)
         text += applicationOption(conversion.writer, option, static_cast<OptionKind>(kind), *value);
-    else
-        known = false;
-    if (!known)
+    if (kind < 0)
         NoteLoss(ActionTitle(&variable), "the interface has no option for it");
     else if (!holdsKind(variable.GetName(), static_cast<OptionKind>(kind), *value))
         NoteAssumption(ActionTitle(&variable),

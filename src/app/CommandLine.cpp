@@ -2,6 +2,7 @@
 
 #include "app/commandTable.h"
 #include "app/optionValues.h"
+#include "app/valueText.h"
 #include "recordfile/nearestName.h"
 
 #include <QFile>
@@ -36,8 +37,7 @@ QString commandsWith(const QString& option)
     for (const CommandRow& row : commandTable())
         if (findOptionRow(row.options, option))
             names.append(row.name);
-    const QString last = names.isEmpty() ? QString() : names.takeLast();
-    return names.isEmpty() ? last : names.join(", ") + " and " + last;
+    return joined(names, "and");
 }
 
 class Parser

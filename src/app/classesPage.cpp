@@ -3,6 +3,7 @@
 #include "app/classesPage.h"
 
 #include "app/LoadedModule.h"
+#include "app/valueText.h"
 #include "host/db/OdDbClassMap.h"
 #include "recordfile/valueForms.h"
 
@@ -35,18 +36,10 @@ coordinates and lengths are drawing units, angles radians. A value is one of
 | list of handles as tags | `{"collection":{"elements":[{"tag":"2F","value":0}]}}` |
 
 Where words stand the value is one of them, where they have numbers the value is the number. A value in another form
-counts as 0, empty text or no choice. A tag that ends in `*` stands for all that begin so; *with index* is one whose
-record needs its number within a repeated property, as `"index":0`. What changed is set, and what is missing among
-changes stays as it is. What a class lacks here is reported as lost.
+counts as 0, empty text or no choice, and is reported as assumed. A tag that ends in `*` stands for all that begin so;
+*with index* is one whose record needs its number within a repeated property, as `"index":0`. What changed is set, and
+what is missing among changes stays as it is. What a class lacks here is reported as lost.
 )";
-
-QString joined(QStringList parts, const char* last)
-{
-    if (parts.size() < 2)
-        return parts.join(QString());
-    const QString end = parts.takeLast();
-    return parts.join(", ") + ' ' + last + ' ' + end;
-}
 
 /// "text, item or list"
 QString typesOf(const CFxKnownTag& tag)

@@ -13,6 +13,14 @@ QString counted(qint64 count, const char* one, const char* many)
     return QString::number(count) + ' ' + (count == 1 ? one : many);
 }
 
+QString joined(QStringList parts, const char* last)
+{
+    if (parts.size() < 2)
+        return parts.join(QString());
+    const QString end = parts.takeLast();
+    return parts.join(", ") + ' ' + last + ' ' + end;
+}
+
 namespace {
 
 /// Line and paragraph separators, and the marks, embeddings, overrides and isolates that turn the direction of writing.

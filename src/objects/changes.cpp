@@ -105,7 +105,7 @@ static Statement convertClassChanges(Conversion& conversion, const RecordedObjec
             row->changes.handler(conversion, object, list, text);
     }
     if (const CFxVariant erased =
-            fromAdded ? CFxVariant() : TakeProperty(conversion, "Erased", forms::text.with(forms::yesNo), list);
+            fromAdded ? CFxVariant() : TakeProperty(conversion, object, "Erased", forms::text.with(forms::yesNo), list);
         !erased.IsNull())
         text += convertErased(conversion, object, erased);
     return text;

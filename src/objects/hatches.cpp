@@ -93,7 +93,7 @@ std::optional<bool> yesOf(const CFxVariant& value)
 void ConvertModifiedHatch(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
 {
     const TakeTag take = [&](const char* tag, const ValueForm& form) {
-        return TakeProperty(conversion, tag, form, list);
+        return TakeProperty(conversion, object, tag, form, list);
     };
     // The tags are read in this order.
     const HatchPatternChange data{.name = textOf(take("Pattern name", forms::word)),

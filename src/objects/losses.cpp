@@ -165,7 +165,7 @@ CFxString nameOfLineStyle(const OdDbObjectId& id)
 }
 
 template<bool yes>
-bool isWord(const CFxVariant& value)
+bool shows(const CFxVariant& value)
 {
     return wordOf(value).equalNoCase(ShownWord(yes ? "Yes" : "No"));
 }
@@ -194,9 +194,8 @@ constexpr UsualValue usualValues[] = {
      }},
     {"Erased", [](const CFxVariant& value) { return !value.GetString().equalNoCase(ShownWord("YES")); }},
     {"Elevation", [](const CFxVariant& value) { return value.GetDouble() == 0; }},
-    {"CCS per viewport", isWord<true>},
-    {"Display locked", isWord<false>},
-    {"On", isWord<true>},
+    {"Display locked", shows<false>},
+    {"On", shows<true>},
 };
 
 bool isUsual(const QString& tag, const CFxVariant& value)

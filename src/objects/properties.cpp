@@ -2,6 +2,8 @@
 
 #include "objects/properties.h"
 
+#include "objects/losses.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -58,10 +60,12 @@ CFxVariant FindProperty(Conversion& conversion, const PropertyTag& tag, Property
     return record->GetValue(conversion.context);
 }
 
-CFxVariant TakeProperty(Conversion& conversion, const PropertyTag& tag, const ValueForm& form, PropertyList& list,
-                        PropertyList* consumed)
+CFxVariant TakeProperty(Conversion& conversion, const RecordedObject& object, const PropertyTag& tag,
+                        const ValueForm& form, PropertyList& list)
 {
     if (conversion.asked)
         conversion.asked->push_back({tag.text(), form});
-    return FindProperty(conversion, tag, list, consumed);
+    CFxVariant value = FindProperty(conversion, tag, list);
+    AssumeUnlessFormed(object, tag.text(), value, form);
+    return value;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "conversion/Conversion.h"
+#include "objects/RecordedObject.h"
 
 #include <optional>
 
@@ -10,9 +11,9 @@
 /// attribute's own tag.
 CFxVariant FindProperty(Conversion& conversion, const PropertyTag& tag, PropertyList& list,
                         PropertyList* consumed = nullptr, CFxVariant* index = nullptr);
-/// The same of a value of that form, for whoever lists the tags.
-CFxVariant TakeProperty(Conversion& conversion, const PropertyTag& tag, const ValueForm& form, PropertyList& list,
-                        PropertyList* consumed = nullptr);
+/// The same of a changed object's value of that form: whoever lists the tags hears of it, and another form is noted.
+CFxVariant TakeProperty(Conversion& conversion, const RecordedObject& object, const PropertyTag& tag,
+                        const ValueForm& form, PropertyList& list);
 
 /// Whether a value of choice type shows the word "Yes" or "On" in the host's display language.
 bool IsYes(const CFxVariant& value);

@@ -59,8 +59,8 @@ void ConvertModifiedBlockInstance(Conversion& conversion, const RecordedObject& 
 void ConvertModifiedBlockDefinition(Conversion& conversion, const RecordedObject& object, PropertyList& list,
                                     Statement& text)
 {
-    const CFxVariant objects = TakeProperty(conversion, "Objects", forms::handlesInValues, list);
-    const CFxVariant description = TakeProperty(conversion, "Description", forms::text, list);
+    const CFxVariant objects = TakeProperty(conversion, object, "Objects", forms::handlesInValues, list);
+    const CFxVariant description = TakeProperty(conversion, object, "Description", forms::text, list);
     if (objects.GetType() != CFxVariant::kCollection) {
         if (!description.IsNull())
             LoseProperty(object, "Description", "a block is made anew only when its objects are recorded");

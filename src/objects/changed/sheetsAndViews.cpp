@@ -17,9 +17,10 @@ const ChangeGroups modifiedViewTile{
 /// The three records come together; the sheet is found by its name and needs no variable.
 void ConvertModifiedSheet(Conversion& conversion, const RecordedObject& object, PropertyList& list, Statement& text)
 {
-    const CFxVariant table = TakeProperty(conversion, "PrintStyleTable", forms::text, list);
-    const CFxVariant model = TakeProperty(conversion, "Model_PrintStyleTable", forms::text.with(forms::yesNo), list);
-    const CFxVariant sheet = TakeProperty(conversion, "SheetName_PrintStyleTable", forms::text, list);
+    const CFxVariant table = TakeProperty(conversion, object, "PrintStyleTable", forms::text, list);
+    const CFxVariant model =
+        TakeProperty(conversion, object, "Model_PrintStyleTable", forms::text.with(forms::yesNo), list);
+    const CFxVariant sheet = TakeProperty(conversion, object, "SheetName_PrintStyleTable", forms::text, list);
     if (table.IsNull() || model.IsNull() || sheet.IsNull()) {
         if (!table.IsNull())
             LoseProperty(object, "PrintStyleTable", "its sheet is not recorded");

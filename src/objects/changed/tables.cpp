@@ -142,7 +142,7 @@ Statement removeLines(Writer& writer, const TableLines& lines, const CFxString& 
 static bool ConvertTableCount(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
                               PropertyList& list, Statement& text)
 {
-    const CFxVariant value = TakeProperty(conversion, lines.countTag, forms::whole, list);
+    const CFxVariant value = TakeProperty(conversion, object, lines.countTag, forms::whole, list);
     if (value.IsNull())
         return false;
     const bool isNumber = value.GetType() == CFxVariant::kInt32 || value.GetType() == CFxVariant::kDouble;
@@ -199,7 +199,7 @@ static bool ConvertTableSizes(Conversion& conversion, const TableLines& lines, c
 static void ConvertTableSize(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
                              PropertyList& list, bool told, Statement& text)
 {
-    const CFxVariant value = TakeProperty(conversion, lines.wholeTag, forms::number, list);
+    const CFxVariant value = TakeProperty(conversion, object, lines.wholeTag, forms::number, list);
     if (value.IsNull())
         return;
     double& whole = (conversion.tables.*lines.wholes)[object.name];
