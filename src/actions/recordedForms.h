@@ -12,15 +12,18 @@ namespace inkmacro {
 template<class T>
 bool HoldsForm(const OdResBuf& value)
 {
-    return std::visit(
-        [](const auto& held) {
-            using Held = std::decay_t<decltype(held)>;
-            if constexpr (std::is_integral_v<T> && std::is_integral_v<Held>)
-                return std::is_same_v<T, bool> || static_cast<std::int64_t>(static_cast<T>(held)) == held;
-            else
-                return std::is_same_v<T, Held>;
-        },
-        value.value());
+    if constexpr (std::is_integral_v<T>) {
+        return std::visit(
+            [](const auto& held) {
+                if constexpr (!std::is_integral_v<std::decay_t<decltype(held)>>)
+                    return false;
+                else
+                    return std::is_same_v<T, bool> || static_cast<std::int64_t>(static_cast<T>(held)) == held;
+            },
+            value.value());
+    } else {
+        return std::holds_alternative<T>(value.value());
+    }
 }
 
 } // namespace inkmacro

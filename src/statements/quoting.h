@@ -18,7 +18,7 @@ void appendQuoted(QString& out, QStringView text, Target target);
 bool isPlain(QStringView text);
 
 /// What stands between the quotes of a Basic text for a line feed: the quotes are closed and opened again.
-inline constexpr QLatin1String basicLineFeed("\" & vbLf & \"");
+inline constexpr QLatin1String basicLineFeed("\" & vbLf & \"", 12);
 
 /// Whether what is written between quotes ends them, or is read as another text than the one that is meant.
 bool breaksQuotes(QStringView written, QStringView meant, Target target);
