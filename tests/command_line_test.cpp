@@ -146,7 +146,7 @@ TEST_F(Program, WritesAMacroToStandardOutput)
     EXPECT_EQ(run({"convert", "a.jsonl", "-t", "vba,csharp", "-o-"}).err.section('\n', 0, 0),
               "inkmacro: standard output takes the macro of one recording in one target, not 2");
     EXPECT_EQ(run({"convert", "a.jsonl", "-t", "vba", "-o-", "--report"}).err.section('\n', 0, 0),
-              "inkmacro: --report and --output - would both write to standard output");
+              "inkmacro: --report and --output - would both write to standard output; --report-file FILE does not");
     EXPECT_FALSE(exists("-") || exists("vba"));
     const Outcome full = run({"convert", "a.jsonl", "-t", "vba", "-o-", "-q"}, {}, "exec >/dev/full; ");
     EXPECT_EQ(full.status, 1);

@@ -32,7 +32,7 @@ struct HostSettings
     bool repair = false;                  ///< macros without their known faults
 };
 
-/// In which form `convert` prints what its macros lack and where they are faulty, in place of the list of files.
+/// In which form `convert` tells what its macros lack and where they are faulty.
 enum class ReportForm
 {
     None,
@@ -44,7 +44,16 @@ enum class ReportForm
 struct Telling
 {
     ReportForm report = ReportForm::None;
-    bool quiet = false; ///< no counts on standard error
+    std::optional<QString> reportFile; ///< else it is printed in place of the list of files
+    bool quiet = false;                ///< no counts on standard error
+    /// What makes the exit status kFailed when there is any of it.
+    bool failsOnLoss = false;
+    bool failsOnAssumption = false;
+    bool failsOnFault = false;
+
+    bool reportsToOutput() const { return report != ReportForm::None && !reportFile; }
+    /// Whether somebody wants to know of faults.
+    bool looksAtFaults() const { return !quiet || report != ReportForm::None || failsOnFault; }
 };
 
 struct CommandLine

@@ -137,26 +137,46 @@ under an empty file name, which is reported.)",
     },
     {
         .name = "--report",
-        .form = "text",
+        .form = "json|text",
         .offer = Offer::Words,
-        .words =
-            [] {
-                return QStringList{"json", "text"};
-            },
+        .words = reportForms,
         .take = takeReport,
         .meaning = "tell what is lost and what is faulty",
         .text = R"(Print in place of the paths, as one JSON document, what each macro lacks
-of what the user did, with its place in the recording, and where macro and
-project are rejected or misread by their own language or host, with the
-line and whether --repair mends it. With =text as tables for a person.)",
+of what the user did and which values it assumes, with the place in the
+recording, and where macro and project are rejected or misread by their
+own language or host, with the lines and whether --repair mends it. With
+text as tables for a person: what all macros of a recording lack stands
+once, ahead of them.)",
         .mayLack = true,
+    },
+    {
+        .name = "--report-file",
+        .form = "FILE",
+        .offer = Offer::Files,
+        .take = takeReportFile,
+        .meaning = "where the report goes to",
+        .text = R"(Write the report to that file, as JSON or in the form of --report, and the
+paths to standard output. A file that stands there is replaced when the
+report is whole.)",
+    },
+    {
+        .name = "--fail-on",
+        .form = "KIND[,KIND...]",
+        .offer = Offer::Lists,
+        .words = noteKinds,
+        .take = takeFailOn,
+        .meaning = "status 1 for what is lost, assumed or faulty",
+        .text = R"(Make the exit status 1 when a macro has any of that: loss, assumed or
+fault, one or more of them. The macros are written all the same.)",
+        .repeats = true,
     },
     {
         .name = "--quiet",
         .letter = 'q',
         .take = [](CommandLine& line, const QString&) { line.telling.quiet = true; },
-        .meaning = "no counts of what is lost and faulty",
-        .text = "Do not count on standard error what a macro lacks and its faults.",
+        .meaning = "no word of what is lost and faulty",
+        .text = "Do not tell on standard error what a macro lacks and its faults.",
     },
 };
 
@@ -226,8 +246,8 @@ targets.
 Several files or targets are converted side by side; one that fails does not
 stop the others. Standard output holds the paths written, one a line, the
 macro before its project; messages go to standard error, and so does a line
-like "walls.cs: 3 steps lost, 1 value assumed, 2 faults; see --report" for each
-macro that has any.)";
+for each macro that lacks something or is faulty, with the way out, like
+"walls.cpp: 1 kind of fault in 14 places (REASON); --repair mends it".)";
 
 const char* const runText = R"(Runs a command of the macro writer on the drawing of a recording.
 

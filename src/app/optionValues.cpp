@@ -89,9 +89,41 @@ void takeLineStyles(CommandLine& line, const QString& path)
     line.host.lineStyles = path;
 }
 
+QStringList reportForms()
+{
+    return {"json", "text"};
+}
+
 void takeReport(CommandLine& line, const QString& form)
 {
     line.telling.report = form == "text" ? ReportForm::Text : ReportForm::Json;
+}
+
+void takeReportFile(CommandLine& line, const QString& path)
+{
+    if (path.isEmpty() || path.endsWith('/'))
+        throw WrongUse(QString("a file is expected, and \"%1\" is none").arg(path));
+    if (path == "-")
+        throw WrongUse("the report goes to standard output by --report alone");
+    line.telling.reportFile = path;
+    if (line.telling.report == ReportForm::None)
+        line.telling.report = ReportForm::Json;
+}
+
+QStringList noteKinds()
+{
+    return {"loss", "assumed", "fault"};
+}
+
+void takeFailOn(CommandLine& line, const QString& list)
+{
+    for (const QString& word : list.split(',')) {
+        const QString kind = word.trimmed();
+        checkWord(kind, noteKinds());
+        line.telling.failsOnLoss |= kind == "loss";
+        line.telling.failsOnAssumption |= kind == "assumed";
+        line.telling.failsOnFault |= kind == "fault";
+    }
 }
 
 void takeHandle(CommandLine& line, const QString& text)

@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace inkmacro {
 
 QString counted(qint64 count, const char* one, const char* many)
@@ -57,6 +59,9 @@ QString shownLetter(const QString& text, int at)
 
 QString shownText(const QString& text, const QString& kept)
 {
+    const auto standsForItself = [](QChar letter) { return letter.unicode() >= ' ' && letter.unicode() < 0x7F; };
+    if (std::all_of(text.begin(), text.end(), standsForItself))
+        return text;
     QString shown;
     for (int i = 0; i < text.length(); ++i)
         shown += kept.contains(text[i]) ? QString(text[i]) : shownLetter(text, i);
