@@ -11,6 +11,8 @@ void takeRecordingLanguage(CommandLine& line, const QString& number);
 void takeLineStyles(CommandLine& line, const QString& path);
 void takeReport(CommandLine& line, const QString& form);
 void takeHandle(CommandLine& line, const QString& text);
+void takeDepth(CommandLine& line, const QString& text);
+void takeHostCommand(CommandLine& line, const QString& name);
 
 QStringList recordingLanguages();
 
