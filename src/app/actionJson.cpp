@@ -82,7 +82,7 @@ QJsonValue ActionJson::bodyOf(const OdRxObjectPtr& action, int depth) const
 {
     if (depth < 0)
         return {}; // nobody sees it
-    const QJsonValue whole = ActionToJson(action, context_);
+    QJsonValue whole = ActionToJson(action, context_);
     if (!whole.isObject())
         return whole;
     QJsonObject body = whole.toObject();

@@ -15,16 +15,17 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
-#include <QSet>
 #include <QStringList>
 
 #include <algorithm>
+#include <set>
 
 namespace inkmacro {
 
 namespace {
 
 constexpr int kMostLetters = 100;
+constexpr int kLettersOfMore = 80; ///< of a text that has more than those
 constexpr int kMostAlike = 20;
 constexpr int kLineWidth = 100;
 
@@ -33,8 +34,8 @@ QString shortened(const QString& text)
 {
     if (text.length() <= kMostLetters)
         return text;
-    const int end = text[kMostLetters - 1].isHighSurrogate() ? kMostLetters - 1 : kMostLetters;
-    return QString("%1... (%2 letters)").arg(text.left(end)).arg(text.length());
+    const int end = text[kLettersOfMore - 1].isHighSurrogate() ? kLettersOfMore - 1 : kLettersOfMore;
+    return text.left(end) + QString("... (%1 letters)").arg(text.length());
 }
 
 QString shortText(const QJsonValue& value)
@@ -101,7 +102,8 @@ QString selectionText(const QJsonObject& body)
     QStringList objects;
     for (const QJsonValue& object : picked)
         objects.append(objectName(object.toObject()));
-    return QString("of %1: %2").arg(counted(objects.size(), "object", "objects"), shortened(objects.join(", ")));
+    const QString count = "of " + counted(objects.size(), "object", "objects");
+    return objects.isEmpty() ? count : count + ": " + shortened(objects.join(", "));
 }
 
 QString customText(const QJsonObject& body)
@@ -224,6 +226,13 @@ QStringList classTexts(const ClassCounts& counts)
     return texts;
 }
 
+/// As it may stand in a document.
+QByteArray jsonText(const QJsonValue& value)
+{
+    const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return list.mid(1, list.length() - 2);
+}
+
 /// Lines for a person.
 class TextPage
 {
@@ -245,7 +254,7 @@ public:
         printOut("object " + objectName(*object) + '\n');
         for (auto entry = object->begin(); entry != object->end(); ++entry)
             if (entry.key() != "class" && entry.key() != "handle")
-                printOut(QString("  %1 = %2\n").arg(entry.key(), shortText(entry.value())));
+                printOut(QString("  %1 = %2\n").arg(entry.key(), shortened(printable(jsonText(entry.value())))));
     }
     void action(const QJsonObject& action)
     {
@@ -268,11 +277,6 @@ private:
     QString margin_; ///< as wide as the numbers of lines and what stands behind them
 };
 
-QByteArray compact(const QJsonObject& object)
-{
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
-}
-
 /// A document with an action a line.
 class JsonPage
 {
@@ -283,25 +287,20 @@ public:
 
     void begin(const std::optional<QJsonObject>& object) const
     {
-        printOut("{" + entry("file", path_) + ",\n" + entry("drawing", numbers(classCounts(*recording_.database))) +
-                 ",\n");
+        printOut("{\"file\":" + jsonText(path_) +
+                 ",\n\"drawing\":" + jsonText(numbers(classCounts(*recording_.database))) + ",\n");
         if (object)
-            printOut(entry("object", *object) + ",\n");
+            printOut("\"object\":" + jsonText(*object) + ",\n");
         printOut(QByteArray("\"actions\":["));
     }
     void action(const QJsonObject& action)
     {
-        printOut((first_ ? "\n" : ",\n") + compact(action));
+        printOut((first_ ? "\n" : ",\n") + jsonText(action));
         first_ = false;
     }
-    void end(const ActionCounts& counts) const { printOut("],\n" + entry("counts", numbers(counts)) + "}\n"); }
+    void end(const ActionCounts& counts) const { printOut("],\n\"counts\":" + jsonText(numbers(counts)) + "}\n"); }
 
 private:
-    static QByteArray entry(const QString& key, const QJsonValue& value)
-    {
-        const QByteArray object = compact({{key, value}});
-        return object.mid(1, object.length() - 2);
-    }
     static QJsonObject numbers(const std::map<QString, int>& counts)
     {
         QJsonObject object;
@@ -349,7 +348,7 @@ bool print(const QString& path, const Recording& recording, const ActionView& vi
     return begun;
 }
 
-void addCommandNames(const CFxActionArray& actions, QSet<QString>& names)
+void addCommandNames(const CFxActionArray& actions, std::set<QString>& names)
 {
     for (const OdRxObjectPtr& action : actions)
         if (const auto command = odrxQuery<CFxUserCommand>(action.get())) {
@@ -364,12 +363,13 @@ QString missingText(const Recording& recording, const ActionFilter& filter)
     const QString object = "about an object with the handle " + filter.handle().ascii();
     if (!filter.command())
         return "there is nothing " + object;
-    QSet<QString> names;
+    std::set<QString> names;
     addCommandNames(recording.actions, names);
     if (std::ranges::any_of(names, [&](const QString& name) { return filter.names(name); }))
         return QString("no command %1 is %2").arg(*filter.command(), object);
     const QString name = ActionFilter::plainName(*filter.command());
-    return QString("there is no command %1%2").arg(*filter.command(), didYouMean(name, names.values()));
+    return QString("there is no command %1%2")
+        .arg(*filter.command(), didYouMean(name, QStringList(names.begin(), names.end())));
 }
 
 } // namespace
