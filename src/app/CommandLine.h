@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include <limits>
 #include <optional>
 #include <stdexcept>
 #include <vector>
@@ -84,8 +85,9 @@ struct CommandLine
     bool force = false; ///< projects of other recordings are replaced
     HostSettings host;
     Telling telling;
-    OdDbHandle handle;   ///< of the object whose snapshot is shown
-    QString hostCommand; ///< the name of the command that is run
+    OdDbHandle handle;                           ///< of the object that is shown; null for all
+    std::optional<QString> hostCommand;          ///< the name of the command that is run, or of those that are shown
+    int depth = std::numeric_limits<int>::max(); ///< levels that are shown below the top-level actions
 
     QString className; ///< of the class that is told; empty for all
     QString shell;     ///< whose completion is printed

@@ -72,9 +72,9 @@ int run(const CommandLine& line)
     case CommandLine::Command::Convert:
         return convert(line);
     case CommandLine::Command::Inspect:
-        return inspectRecording(line.files.front(), line.json);
+        return inspectRecording(line.files.front(), {{line.hostCommand, line.handle}, line.depth}, line.json);
     case CommandLine::Command::Run:
-        return runCommand(line.files.front(), line.hostCommand, line.output.value_or(line.files.front()));
+        return runCommand(line.files.front(), *line.hostCommand, line.output.value_or(line.files.front()));
     case CommandLine::Command::Check:
         return checkRecordings(line.files, {line.strict, line.json});
     case CommandLine::Command::Format:

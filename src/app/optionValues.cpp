@@ -134,6 +134,22 @@ void takeHandle(CommandLine& line, const QString& text)
         throw WrongUse(QString("\"%1\" is not a handle, which is a hexadecimal number").arg(text));
 }
 
+void takeDepth(CommandLine& line, const QString& text)
+{
+    static const QRegularExpression digits("\\A[0-9]+\\z");
+    if (!digits.match(text).hasMatch())
+        throw WrongUse(QString("\"%1\" is not a number of levels, 0 or more").arg(text));
+    bool fits = false;
+    line.depth = text.toInt(&fits);
+    if (!fits)
+        line.depth = std::numeric_limits<int>::max();
+}
+
+void takeHostCommand(CommandLine& line, const QString& name)
+{
+    line.hostCommand = name;
+}
+
 void checkWord(const QString& text, const QStringList& words)
 {
     constexpr int few = 12;

@@ -13,6 +13,8 @@ void takeReport(CommandLine& line, const QString& form);
 void takeReportFile(CommandLine& line, const QString& path);
 void takeFailOn(CommandLine& line, const QString& list);
 void takeHandle(CommandLine& line, const QString& text);
+void takeDepth(CommandLine& line, const QString& text);
+void takeHostCommand(CommandLine& line, const QString& name);
 
 QStringList recordingLanguages();
 QStringList reportForms();

@@ -99,9 +99,11 @@ QString listText(const QJsonArray& array)
 /// The keys that only name the type of a value that shows its type by itself are left out.
 QString objectText(const QJsonObject& object)
 {
-    static const QSet<QString> plain{"int",  "int8",  "int16",   "int32",   "double",
-                                     "bool", "point", "point2d", "point3d", "string"};
+    static const QSet<QString> plain{"int",     "int8",    "int16",  "int32",      "double",  "bool",    "point",
+                                     "point2d", "point3d", "string", "collection", "element", "elements"};
     static const QSet<QString> words{"id", "color"};
+    if (object.contains("tag") && object.contains("value"))
+        return valueText(object["tag"]) + ": " + valueText(object["value"]);
     QStringList items;
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
         const QJsonValue value = entry.value();
@@ -109,7 +111,7 @@ QString objectText(const QJsonObject& object)
             items.append(valueText(value));
         else if (words.contains(entry.key()) && value.isString())
             items.append(entry.key() + ' ' + printable(value.toString()));
-        else if (entry.key() != "type")
+        else if (entry.key() != "type" && (entry.key() != "chosen" || value != 0))
             items.append(entry.key() + ' ' + valueText(value));
     }
     return items.isEmpty() ? QStringLiteral("no value") : items.join(", ");
