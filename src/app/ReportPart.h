@@ -41,9 +41,9 @@ public:
 
     /// Makes the file; false with errno when that fails.
     bool create() { return file_.open(); }
-    QString errorString() const { return file_.errorString(); }
 
-    /// Once. False when the file cannot hold it, which the reader takes for a conversion that came to no end.
+    /// Once. False with errno when the file cannot hold it, which the reader takes for a conversion that came to no
+    /// end.
     bool write(const Outcome& outcome, const CFxConversionNotes& notes, const Recording& recording);
 
     /// Ahead of all that reads. False when nothing whole was written; then all below is empty.

@@ -20,6 +20,9 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 
+#include <algorithm>
+#include <cerrno>
+
 namespace inkmacro {
 
 namespace {
@@ -174,10 +177,10 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling,
     if (part) {
         nameWork(QString("reporting on %1 to %2%3")
                      .arg(job.input, targetName(*job.target), status == kDone ? ", whose files are written" : ""));
-        if (!part->write(outcome, notes, recording))
-            status = std::max<int>(
-                status,
-                failure("the report on " + job.shownMacro() + " cannot be kept: " + part->errorString()).status);
+        if (!part->write(outcome, notes, recording)) {
+            complain("the report on " + job.shownMacro() + " cannot be kept: " + qt_error_string(errno));
+            status = std::max<int>(status, kFailed);
+        }
     }
     return status == kDone && failsOn(notes, telling) ? kFailed : status;
 }

@@ -24,6 +24,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cerrno>
 #include <memory>
 
 using namespace inkmacro;
@@ -40,7 +41,7 @@ int convertAlone(const Job& job, const CommandLine& line, ReportDocument& report
 {
     auto part = line.telling.report == ReportForm::None ? nullptr : std::make_unique<ReportPart>();
     if (part && !part->create()) {
-        complain("the report cannot be kept: " + part->errorString());
+        complain("the report cannot be kept: " + qt_error_string(errno));
         return kFailed;
     }
     const int status = convertOne(job, line.host, line.telling, part.get());
