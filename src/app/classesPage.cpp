@@ -38,7 +38,12 @@ coordinates and lengths are drawing units, angles radians. A value is one of
 Where words stand the value is one of them, where they have numbers the value is the number. A value in another form
 counts as 0, empty text or no choice, and is reported as assumed. A tag that ends in `*` stands for all that begin so;
 *with index* is one whose record needs its number within a repeated property, as `"index":0`. What changed is set, and
-what is missing among changes stays as it is. What a class lacks here is reported as lost.
+what is missing among changes stays as it is. What a class lacks here is reported as lost. What an added object does not
+take, as the texts of a table's cells, may be among what a change takes: a `modified` line behind it sets that.
+
+The drawing is what the `object` lines hold, and nothing else: what the recording itself adds is in it when such a line
+says it too. What is named by its handle, as a layer, a style or the boundary of a hatch, is looked up there, and so is
+what stands below as data of the drawing, as the point by which a block is inserted.
 )";
 
 /// "text, item or list"

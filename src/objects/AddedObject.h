@@ -45,6 +45,14 @@ public:
         return {x, y, z};
     }
     OdGePoint3d takePoint(const PropertyTag& tag) { return need(tag, forms::point, "the origin").GetPoint3d(); }
+    /// Where the drawing has nothing of that id the name is empty, which is noted.
+    CFxString nameOf(const PropertyTag& tag, const OdDbObjectId& id, CFxString (*nameIn)(const OdDbObjectId&)) const
+    {
+        CFxString found = nameIn(id);
+        if (found.isEmpty() && !id.isNull())
+            AssumeProperty(object, tag.text(), "the drawing does not have what it names");
+        return found;
+    }
     CFxString takeText(const PropertyTag& tag) { return need(tag, forms::text, "empty text").GetString(); }
     /// One that new objects need not have.
     CFxString takeOptionalText(const PropertyTag& tag) { return take(tag, forms::text, "empty text").GetString(); }
@@ -68,13 +76,12 @@ public:
     }
     double takeReal(const PropertyTag& tag, double whenMissing)
     {
-        const QString shown = conversion.asked ? QString::number(whenMissing) : QString();
-        const CFxVariant value = need(tag, forms::number, shown);
+        const CFxVariant value = need(tag, forms::number, whenMissing);
         return value.IsNull() ? whenMissing : value.GetDouble();
     }
     /// `whenMissing` is for people. A value of another form is taken for a neutral one, which is noted.
-    template<class Text>
-    CFxVariant take(const PropertyTag& tag, const ValueForm& form, const Text& whenMissing)
+    template<class Value>
+    CFxVariant take(const PropertyTag& tag, const ValueForm& form, const Value& whenMissing)
     {
         noteAsked(tag, form, whenMissing);
         CFxVariant value = FindProperty(conversion, tag, list_, consumed_);
@@ -94,19 +101,21 @@ public:
     }
 
 private:
-    template<class Text>
-    void noteAsked(const PropertyTag& tag, const ValueForm& form, const Text& whenMissing)
+    static QString shown(const char* whenMissing) { return whenMissing; }
+    static QString shown(double whenMissing) { return QString::number(whenMissing); }
+    template<class Value>
+    void noteAsked(const PropertyTag& tag, const ValueForm& form, const Value& whenMissing)
     {
         if (conversion.asked)
-            conversion.asked->push_back({tag.text(), form, whenMissing});
+            conversion.asked->push_back({tag.text(), form, shown(whenMissing)});
     }
     /// Of an object that an action makes the action has what is missing.
-    template<class Text>
-    CFxVariant need(const PropertyTag& tag, const ValueForm& form, const Text& whenMissing)
+    template<class Value>
+    CFxVariant need(const PropertyTag& tag, const ValueForm& form, const Value& whenMissing)
     {
         CFxVariant value = take(tag, form, whenMissing);
         if (value.IsNull() && !IsMadeByAction(conversion, object))
-            AssumeProperty(object, tag.text(), "it is not recorded");
+            AssumeProperty(object, tag.text(), "it is not recorded, which gives " + shown(whenMissing));
         return value;
     }
 

@@ -217,7 +217,9 @@ void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& obje
     }
     const auto addNamed = [&](const GeneralProperty& property, const Statement& statement) {
         if (statement.isEmpty())
-            LoseProperty(object, property.tag.text(), QStringLiteral("the drawing does not have what it names"));
+            LoseProperty(object, property.tag.text(),
+                         property.form.fits(value) ? QStringLiteral("the drawing does not have what it names")
+                                                   : QStringLiteral("it is recorded in another form"));
         text += statement;
     };
 

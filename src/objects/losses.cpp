@@ -17,6 +17,7 @@ struct DerivedTag
 {
     const char* tag;           ///< `*` at its end stands for whatever follows
     const char* cls = nullptr; ///< null for any
+    bool isRead = false;       ///< the reader looks at it and tells what of it is lost
 };
 /// Shown values that the host computes of others: a change of them comes with a change of those.
 constexpr DerivedTag derivedTags[] = {
@@ -48,10 +49,9 @@ constexpr DerivedTag insertedTags[] = {
     {"Center *", "AcDbViewport"},
     {"Height", "AcDbViewport"},
     {"Width", "AcDbViewport"},
-    // The reader tells which of them are lost.
-    {"Contents_*", "AcDbTable"},
-    {"RowHeight_*", "AcDbTable"},
-    {"ColumnWidth_*", "AcDbTable"},
+    {"Contents_*", "AcDbTable", true},
+    {"RowHeight_*", "AcDbTable", true},
+    {"ColumnWidth_*", "AcDbTable", true},
 };
 
 /// What the action that makes an object says in its own data.
@@ -204,6 +204,19 @@ bool isUsual(const QString& tag, const CFxVariant& value)
         usualValues, [&](const UsualValue& row) { return tag == QLatin1String(row.tag) && row.isUsual(value); });
 }
 
+bool isOneOf(std::span<const char* const> words, const CFxString& text)
+{
+    return std::ranges::any_of(words, [&](const char* word) { return text.equalNoCase(ShownWord(word)); });
+}
+
+QString listOf(std::span<const char* const> words)
+{
+    QStringList shown;
+    for (const char* const word : words)
+        shown.append('"' + ShownWord(word).toQString() + '"');
+    return shown.join(", ");
+}
+
 } // namespace
 
 void LoseObject(const RecordedObject& object, const char* reason)
@@ -230,8 +243,12 @@ void AssumeProperty(const RecordedObject& object, const QString& tag, const QStr
 void AssumeUnlessFormed(const RecordedObject& object, const QString& tag, const CFxVariant& value,
                         const ValueForm& form)
 {
-    if (!value.IsNull() && !form.fits(value))
+    if (value.IsNull())
+        return;
+    if (!form.fits(value))
         AssumeProperty(object, tag, "it is recorded in another form");
+    else if (value.GetType() == CFxVariant::kString && !form.words.empty() && !isOneOf(form.words, value.GetString()))
+        AssumeProperty(object, tag, "its word is none of " + listOf(form.words));
 }
 
 void LoseArcs(const Conversion& conversion, const RecordedObject& object, const OdDbPolyline& polyline)
@@ -291,7 +308,7 @@ std::vector<QString> RepeatedTags(const OdRxClass* cls, bool fromAdded)
     std::vector<QString> tags;
     const auto append = [&](std::span<const DerivedTag> rows) {
         for (const DerivedTag& row : rows)
-            if (!row.cls || cls->name() == QLatin1String(row.cls))
+            if (!row.isRead && (!row.cls || cls->name() == QLatin1String(row.cls)))
                 tags.push_back(row.tag);
     };
     append(derivedTags);

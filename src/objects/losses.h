@@ -13,7 +13,7 @@ void LoseObject(const RecordedObject& object, const char* reason);
 void LoseProperty(const RecordedObject& object, const QString& tag, const QString& reason);
 /// A property that the macro states otherwise than it is recorded.
 void AssumeProperty(const RecordedObject& object, const QString& tag, const QString& reason);
-/// A value of another form, of which getters give a neutral one.
+/// A value of another form, of which getters give a neutral one, or a text that is none of the form's words.
 void AssumeUnlessFormed(const RecordedObject& object, const QString& tag, const CFxVariant& value,
                         const ValueForm& form);
 /// The arcs of an added polyline, which none but a custom action tells.

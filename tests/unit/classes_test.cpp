@@ -445,7 +445,7 @@ TEST(Classes, TheDataOfEachFormOfCustomActionsAreTold)
 TEST(Classes, TellWhatIsLostWhenNothingIsKnownOfAnObject)
 {
     const auto lossOf = [](const char* cls) { return TagsOf(*FindClass(QString(cls))).emptyLoss.toQString(); };
-    EXPECT_EQ(lossOf("AcDbRadialDimension"), "the drawing does not have a circle or an arc that it measures");
+    EXPECT_EQ(lossOf("AcDbRadialDimension"), "neither records nor the drawing tell what it measures");
     EXPECT_EQ(lossOf("AcDbLinetypeTableRecord"), "its name is not recorded");
     EXPECT_EQ(lossOf("AcDbAlignedDimension"), "");
     EXPECT_EQ(lossOf("AcDbRegion"), "");

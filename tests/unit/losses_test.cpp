@@ -150,7 +150,7 @@ TEST(Losses, OfObjectsTellTheirReason)
         {changed("AcDbLine", "A0", R"({"tag":"End X","value":1},{"tag":"End Y","value":1})"),
          "0 changes of AcDbLine A0: the recording did not add the object, so the macro has no variable for it"},
         {command(R"({"added":{"class":"AcDbRadialDimension","handle":"31","properties":[]}})"),
-         "0.0 AcDbRadialDimension 31: the drawing does not have a circle or an arc that it measures"},
+         "0.0 AcDbRadialDimension 31: neither records nor the drawing tell what it measures"},
         {command(R"({"added":{"class":"AcDbRegion","handle":"31","properties":[]}})"),
          "0.0 AcDbRegion 31: no action of its command makes it"},
         {command(R"({"added":{"class":"AcDbRegion","handle":"31","properties":[{"tag":"Thickness","value":2}]}},)"
@@ -288,8 +288,32 @@ TEST(Assumptions, AreMadeOfWhatIsMissingOrOfAnotherForm)
               Lines{property("Radius", "AcDbCircle", "it is recorded in another form")});
     EXPECT_EQ(ofAdded("AcDbAlignedDimension", R"({"tag":"xLine1Point","value":{"point":[0,0,0]}},)"
                                               R"({"tag":"xLine2Point","value":{"point":[4,0,0]}})"),
-              Lines{property("dimLinePoint", "AcDbAlignedDimension", "it is not recorded")});
-    EXPECT_EQ(ofAdded("AcDbSolid", ""), Lines{property("Vertex", "AcDbSolid", "it is not recorded")});
+              Lines{property("dimLinePoint", "AcDbAlignedDimension", "it is not recorded, which gives the origin")});
+    EXPECT_EQ(ofAdded("AcDbSolid", ""),
+              Lines{property("Vertex", "AcDbSolid", "it is not recorded, which gives no points")});
+    EXPECT_EQ(ofAdded("AcDbLayerTableRecord", R"({"tag":"ActivateLayer","value":"Ja"})"),
+              (Lines{property("Name", "AcDbLayerTableRecord",
+                              "neither a record nor the drawing tells it, which gives empty text"),
+                     property("ActivateLayer", "AcDbLayerTableRecord", "its word is none of \"Yes\", \"No\"")}));
+    EXPECT_EQ(ofAdded("AcDbPolyline", R"({"tag":"Vertex","value":{"collection":{"elements":[]}}},)"
+                                      R"({"tag":"Closed","value":"yes"})"),
+              Lines());
+    EXPECT_EQ(
+        ofAdded("AcDbBlockTableRecord", R"({"tag":"Objects","value":{"collection":{"elements":[]}}})"),
+        Lines{property("origin", "AcDbBlockTableRecord", "the drawing does not have the block, which gives 0,0,0")});
+    // Of a style by its record there is the name only in the drawing.
+    const Lines styled = ofAdded("AcDbMText", R"({"tag":"Style","value":{"id":"99"}})");
+    EXPECT_EQ(styled.back(), property("Style", "AcDbMText", "the drawing does not have what it names"));
+    const Lines table =
+        assumptionsOf(command(R"({"added":{"class":"AcDbTable","handle":"31","properties":[]}})") +
+                      changed("AcDbTable", "31",
+                              R"({"tag":"Contents_1","value":"a"},{"tag":"Contents_0_1","value":5.0},)"
+                              R"({"tag":"Contents_0_2","value":"b"},{"tag":"RowHeight_1","value":"7"})"));
+    const std::string cell = "1 property \"Contents_1\" of AcDbTable 31: its tag does not number a line or cell, which "
+                             "gives the first one";
+    EXPECT_EQ(Lines(std::find(table.begin(), table.end(), cell), table.end()),
+              (Lines{cell, "1 property \"Contents_0_1\" of AcDbTable 31: it is recorded in another form",
+                     "1 property \"RowHeight_1\" of AcDbTable 31: it is recorded in another form"}));
     const auto ofChange = [](const char* properties) {
         const Lines all = assumptionsOf(command(line) + changed("AcDbLine", "30", properties));
         return all.empty() ? std::string() : all.back();

@@ -108,6 +108,8 @@ Statement ReadBlockDefinition(AddedObject& added)
             contents.name = record->getName();
         if (description.IsNull())
             contents.description = descriptionOf(*record);
+    } else if (!objects.IsNull()) {
+        AssumeProperty(added.object, "origin", "the drawing does not have the block, which gives 0,0,0");
     }
     if (objects.GetType() == CFxVariant::kCollection)
         contents.ids = ObjectsOf(objects, HandlesIn::Values);

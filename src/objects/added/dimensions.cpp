@@ -48,7 +48,7 @@ Statement withTextRotation(Statement insertion, AddedObject& added)
 {
     const CFxVariant rotation = added.take("Rotation", forms::number);
     if (insertion.isEmpty()) {
-        added.lost("the drawing does not have a circle or an arc that it measures");
+        added.lost("neither records nor the drawing tell what it measures");
         added.conversion.names().SetUnmade(added.object.handle);
         if (added.writer.repairs)
             return insertion;

@@ -118,9 +118,12 @@ Statement ReadLayer(AddedObject& added)
 {
     const CFxVariant name = added.take("Name", forms::text, "the drawing's");
     CFxString layer = name.GetString();
-    if (name.IsNull())
+    if (name.IsNull()) {
         if (const auto record = added.open<OdDbLayerTableRecord>())
             layer = record->getName();
+        else
+            AssumeProperty(added.object, "Name", "neither a record nor the drawing tells it, which gives empty text");
+    }
     Statement text = EmitCreateLayer(added.writer, layer, added.name);
     if (added.take("ActivateLayer", plainYes, "No").GetString() == ShownWord("Yes")) {
         if (RecordsOtherwise(inkmacro::Target::JavaScript, added.writer.target))

@@ -98,7 +98,8 @@ Statement ReadAttributeDefinition(AddedObject& added)
     definition.value = added.takeText("Value");
     definition.tag = added.takeText("Tag");
     definition.prompt = added.takeOptionalText("Prompt");
-    definition.styleName = nameOfTextStyle(added.take("TextStyle", forms::object, "no name").GetId());
+    definition.styleName =
+        added.nameOf("TextStyle", added.take("TextStyle", forms::object, "no name").GetId(), nameOfTextStyle);
     definition.justification =
         wordOf(added.take("Justify", forms::word.with(inkmacro::enums::textJustification), "empty text"));
     // Only one of the points is taken; who lists the tags hears of both.
@@ -162,7 +163,8 @@ Statement ReadNote(AddedObject& added)
     setReal("Width", width);
     setReal("LineSpaceDistance", lineSpaceDistance);
     if (!style.IsNull()) {
-        const CFxString styleName = style.GetType() == CFxVariant::kId ? nameOfTextStyle(style.GetId()) : wordOf(style);
+        const CFxString styleName =
+            style.GetType() == CFxVariant::kId ? added.nameOf("Style", style.GetId(), nameOfTextStyle) : wordOf(style);
         text += EmitSetProperty(added.writer, added.name, "TextStyle", styleName, true);
     }
     if (const std::optional<CFxString> justification = ChosenText(justify))

@@ -87,6 +87,20 @@ PropertyList takeAll(Conversion& conversion, const char* tag, const ValueForm& f
     return records;
 }
 
+/// Of a record whose tag or value does not tell what its statement says.
+void assumeWhatLacks(const RecordedObject& object, const CFxPropertyChangedPtr& record, const CFxVariant& value,
+                     const ValueForm& form, int numbers)
+{
+    const QString& tag = record->GetName();
+    for (int which = 1; which <= numbers; ++which) {
+        bool isNumber = false;
+        tag.section('_', which, which).toInt(&isNumber);
+        if (!isNumber)
+            return AssumeProperty(object, tag, "its tag does not number a line or cell, which gives the first one");
+    }
+    AssumeUnlessFormed(object, tag, value, form);
+}
+
 Statement cellStatement(Writer& writer, const CFxString& table, const CFxPropertyChangedPtr& record,
                         const CFxString& text)
 {
@@ -176,8 +190,10 @@ static bool ConvertCellTexts(Conversion& conversion, const RecordedObject& objec
     const PropertyList cells = takeAll(conversion, cellTag, forms::word, list);
     for (const CFxPropertyChangedPtr& record : cells) {
         const CFxVariant value = record->GetValue(conversion.context);
-        if (!value.IsNull())
-            text += cellStatement(conversion.writer, object.name, record, wordOf(value));
+        if (value.IsNull())
+            continue;
+        assumeWhatLacks(object, record, value, forms::word, 2);
+        text += cellStatement(conversion.writer, object.name, record, wordOf(value));
     }
     return !cells.empty();
 }
@@ -189,8 +205,10 @@ static bool ConvertTableSizes(Conversion& conversion, const TableLines& lines, c
     const PropertyList sizes = takeAll(conversion, lines.sizeTag, forms::number, list);
     for (const CFxPropertyChangedPtr& record : sizes) {
         const CFxVariant value = record->GetValue(conversion.context);
-        if (!value.IsNull())
-            text += lines.setSize(conversion.writer, object.name, numberIn(record, 1), value.GetDouble());
+        if (value.IsNull())
+            continue;
+        assumeWhatLacks(object, record, value, forms::number, 1);
+        text += lines.setSize(conversion.writer, object.name, numberIn(record, 1), value.GetDouble());
     }
     return !sizes.empty();
 }
