@@ -1,0 +1,340 @@
+// What reads well in a recording and is probably not what was meant.
+
+#include "app/warnings.h"
+
+#include "app/LoadedModule.h"
+#include "app/StagingFolder.h"
+#include "app/conversion.h"
+#include "app/report.h"
+#include "host/db/OdDbClassMap.h"
+#include "host/kernel/CFxServices.h"
+#include "recordfile/nearestName.h"
+#include "statements/hostSettings.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace inkmacro {
+
+namespace {
+
+using Warnings = std::vector<Warning>;
+using Notes = std::vector<CFxActionNote>;
+
+/// What a conversion notes says most of it: VBA has the most statements, and a macro of it is a single file.
+Notes notesOfConversion(const Recording& recording)
+{
+    const TargetRow& target = *std::ranges::find(targetTable, Target::Vba, &TargetRow::target);
+    const std::string name = "check.bas";
+    const StagingFolder folder(std::filesystem::temp_directory_path(), {name});
+    CFxConversionNotes& notes = GetFxSystemServices()->Notes();
+    notes.KeepAll(true);
+    GetFxSystemServices()->SetInt16(kIgnoreFaults, 1);
+    runModule(target, QString::fromStdString(folder.file(name).string()), recording, {});
+    Notes all = notes.GetLosses();
+    all.insert(all.end(), notes.GetAssumptions().begin(), notes.GetAssumptions().end());
+    return all;
+}
+
+/// Calls `visit` with each action and its place, those within commands too.
+template<class Visit>
+void forActions(const CFxActionArray& actions, const CFxActionPlace& around, Visit visit)
+{
+    for (unsigned i = 0; i < actions.length(); ++i) {
+        CFxActionPlace place = around;
+        place.push_back(i);
+        visit(actions[i].get(), place);
+        if (const auto command = odrxQuery<CFxUserCommand>(actions[i].get()))
+            forActions(command->GetActions(), place, visit);
+    }
+}
+
+const OdRxObject* actionAt(const Recording& recording, const CFxActionPlace& place)
+{
+    const CFxActionArray* actions = &recording.actions;
+    const OdRxObject* found = nullptr;
+    for (const std::uint32_t number : place) {
+        found = (*actions)[number].get();
+        if (const auto command = odrxQuery<CFxUserCommand>(found))
+            actions = &command->GetActions();
+    }
+    return found;
+}
+
+/// The object that an action is of, and what it says of it.
+struct ObjectAction
+{
+    bool isAdded = false;
+    const OdRxClass* cls = nullptr; ///< null when the action is of none
+    OdDbHandle handle;
+    PropertyList records; ///< of an added object those of both lists
+
+    explicit ObjectAction(const OdRxObject* action)
+    {
+        if (const auto added = odrxQuery<CFxObjectAdded>(action)) {
+            isAdded = true;
+            cls = added->GetObjectClass();
+            handle = added->GetHandle();
+            records = added->GetProperties();
+            const PropertyList extra = added->GetExtraProperties();
+            records.insert(records.end(), extra.begin(), extra.end());
+        } else if (const auto modified = odrxQuery<CFxObjectModified>(action)) {
+            cls = modified->GetObjectClass();
+            handle = modified->GetHandle();
+            records = modified->GetProperties();
+        } else if (auto property = odrxQuery<CFxPropertyChanged>(action)) {
+            cls = property->GetObjectClass();
+            handle = property->GetHandle();
+            records.push_back(std::move(property));
+        }
+    }
+};
+
+/// What was meant by names of classes and tags that no statement is known for.
+class MeantNames
+{
+public:
+    /// By a note of that action; empty when there is no such name.
+    QString meant(const CFxActionNote& note, const OdRxObject* action)
+    {
+        const ObjectAction object(action);
+        if (!object.cls)
+            return {};
+        if (classes_.empty())
+            classes_ = LoadedModule()->ListClasses();
+        const auto known = std::ranges::find(classes_, CFxString(object.cls->name()), &CFxKnownClass::name);
+        if (known == classes_.end())
+            return meantClass(object.cls->name());
+        return note.property.isEmpty() ? QString() : meantTag(note.property, object, *known);
+    }
+
+private:
+    /// That the drawing's classes begin alike is no likeness.
+    QString meantClass(const QString& written) const
+    {
+        const QLatin1String prefix("AcDb");
+        if (oddbFindClassRow(OdString(written)))
+            return {};
+        QStringList names;
+        QStringList ends;
+        for (const CFxKnownClass& cls : classes_) {
+            names.append(cls.name);
+            ends.append(cls.name.toQString().mid(prefix.size()));
+        }
+        const bool begins = written.startsWith(prefix, Qt::CaseInsensitive);
+        const QString end = begins ? written.mid(prefix.size()) : written;
+        if (!begins && !ends.contains(end, Qt::CaseInsensitive))
+            return nearestName(written, names);
+        const QString nearest = nearestName(end, ends);
+        return nearest.isEmpty() ? nearest : prefix + nearest;
+    }
+
+    static QStringList tagsOf(const std::vector<CFxKnownTag>& rows)
+    {
+        QStringList tags;
+        for (const CFxKnownTag& row : rows)
+            if (row.group.isEmpty())
+                tags.append(row.tag);
+        return tags;
+    }
+
+    static bool isOneOf(const QString& tag, const QStringList& known)
+    {
+        return std::ranges::any_of(known, [&](const QString& name) {
+            return name.endsWith('*') ? tag.startsWith(name.left(name.size() - 1)) : tag == name;
+        });
+    }
+
+    /// What the object has under its own tag is not what was meant by another one.
+    static QString meantTag(const QString& written, const ObjectAction& object, const CFxKnownClass& cls)
+    {
+        const QStringList taken = tagsOf(object.isAdded ? cls.added : cls.changed);
+        QStringList recorded;
+        for (const CFxPropertyChangedPtr& record : object.records)
+            recorded.append(record->GetName());
+        QStringList names;
+        for (QString tag : taken) {
+            if (const int number = written.indexOf(QRegularExpression("[0-9]")); tag.endsWith('*') && number >= 0)
+                tag = tag.left(tag.size() - 1) + written.mid(number);
+            if (!recorded.contains(tag))
+                names.append(tag);
+        }
+        const QString nearest = nearestName(written, names);
+        const std::vector<CFxString>& repeated = object.isAdded ? cls.repeatedInAdded : cls.repeatedInChanged;
+        const bool isKnown = isOneOf(written, taken) || isOneOf(written, {repeated.begin(), repeated.end()});
+        const bool isOfOthers = isOneOf(written, tagsOf(object.isAdded ? cls.changed : cls.added)) &&
+                                nearest.compare(written, Qt::CaseInsensitive) != 0;
+        return isKnown || isOfOthers ? QString() : nearest;
+    }
+
+    std::vector<CFxKnownClass> classes_;
+};
+
+/// What becomes of the handles of a recording: it may add one twice, or speak of one that nothing has.
+class Handles
+{
+public:
+    Handles(const Recording& recording, const Notes& notes, Warnings& warnings)
+        : recording_(recording), warnings_(warnings)
+    {
+        for (const CFxActionNote& note : notes)
+            notes_[note.where].push_back(&note);
+        for (const CFxActionKindName& kind : LoadedModule()->ListActionKinds())
+            for (const CFxActionForm& form : kind.forms)
+                for (std::size_t i = 0; i < form.data.size(); ++i)
+                    if (form.data[i].makes)
+                        making_.insert({kind.number, static_cast<std::int32_t>(i), form.data[i].type});
+    }
+
+    void addDoubled()
+    {
+        std::map<OdDbHandle, qint64> lines;
+        forActions(recording_.actions, {}, [&](const OdRxObject* action, const CFxActionPlace& place) {
+            const auto added = odrxQuery<CFxObjectAdded>(action);
+            if (!added)
+                return;
+            const qint64 line = lineOf(place, recording_);
+            const auto [first, isNew] = lines.try_emplace(added->GetHandle(), line);
+            if (!isNew)
+                add(place, QString("handle %1 has been added in line %2 already")
+                               .arg(added->GetHandle().ascii())
+                               .arg(first->second));
+        });
+    }
+
+    void addLoose()
+    {
+        forActions(recording_.actions, {}, [&](const OdRxObject* action, const CFxActionPlace& place) {
+            if (const auto added = odrxQuery<CFxObjectAdded>(action))
+                beginnings_.try_emplace(added->GetHandle(), place.front());
+            else if (const auto custom = odrxQuery<CFxCustomAction>(action))
+                forHandles(*custom, [&](const OdDbHandle& handle, bool isMade) {
+                    if (isMade)
+                        beginnings_.try_emplace(handle, place.front());
+                });
+        });
+        forActions(recording_.actions, {},
+                   [&](const OdRxObject* action, const CFxActionPlace& place) { look(action, place); });
+    }
+
+private:
+    struct Datum
+    {
+        std::int32_t kind;
+        std::int32_t index;
+        CFxCustomActionData::_Type type;
+        auto operator<=>(const Datum&) const = default;
+    };
+
+    /// Calls `visit` with each handle in the data, and whether it is that of what the action makes.
+    template<class Visit>
+    void forHandles(const CFxCustomAction& action, Visit visit) const
+    {
+        for (std::int32_t i = 0; i < action.GetDataCount(); ++i) {
+            const CFxCustomActionData& datum = action.GetData(i);
+            const bool isMade = making_.contains({action.GetKind(), i, datum.GetType()});
+            visit(datum.GetHandle(), isMade);
+            for (const OdDbHandle& handle : datum.GetHandleArray())
+                visit(handle, isMade);
+            for (const OdDbObjectId& id : datum.GetObjectIdArray())
+                visit(id.getHandle(), isMade);
+        }
+    }
+
+    void look(const OdRxObject* action, const CFxActionPlace& place)
+    {
+        if (const auto custom = odrxQuery<CFxCustomAction>(action))
+            return forHandles(*custom, [&](const OdDbHandle& handle, bool) { lookFor(handle, place); });
+        if (const auto selection = odrxQuery<CFxUserSelection>(action)) {
+            for (const OdDbHandle& handle : selection->GetHandles())
+                lookFor(handle, place);
+            return;
+        }
+        const ObjectAction object(action);
+        // A macro finds a sheet by the name in its records.
+        if (object.cls && !object.isAdded && object.cls != OdDbLayout::desc())
+            lookFor(object.handle, place);
+        for (const CFxPropertyChangedPtr& record : object.records) {
+            const OdDbHandle handle =
+                record->GetValue(static_cast<CFxValueContext>(recording_.header.context)).GetId().getHandle();
+            if (isNoted(place, [&](const CFxActionNote& note) { return note.property == record->GetName(); }))
+                told_.insert(handle);
+            else
+                lookFor(handle, place);
+        }
+    }
+
+    /// Tells of a handle once, where it is spoken of first, unless the conversion has told of it there.
+    void lookFor(const OdDbHandle& handle, const CFxActionPlace& place)
+    {
+        if (handle.isNull() || told_.contains(handle) || recording_.database->findOdDbObjectId(handle).openObject(true))
+            return;
+        const auto beginning = beginnings_.find(handle);
+        const bool isThere = beginning != beginnings_.end();
+        // The children of a command may refer to later ones.
+        if (isThere && beginning->second <= place.front())
+            return;
+        const QString text = handle.ascii();
+        if (isNoted(place, [&](const CFxActionNote& note) {
+                return note.what.toQString().split(' ').contains(text) ||
+                       note.reason.toQString().split(' ').contains(text);
+            }))
+            return;
+        told_.insert(handle);
+        add(place,
+            isThere
+                ? QString("handle %1 is added in line %2 only").arg(text).arg(lineOf({beginning->second}, recording_))
+                : QString("handle %1 is that of nothing: neither the drawing nor the recording has it").arg(text));
+    }
+
+    template<class Predicate>
+    bool isNoted(const CFxActionPlace& place, Predicate predicate) const
+    {
+        const auto notes = notes_.find(place);
+        return notes != notes_.end() &&
+               std::ranges::any_of(notes->second, [&](const CFxActionNote* note) { return predicate(*note); });
+    }
+
+    void add(const CFxActionPlace& place, const QString& message)
+    {
+        warnings_.push_back({lineOf(place, recording_), pathOf(place), message});
+    }
+
+    const Recording& recording_;
+    Warnings& warnings_;
+    std::map<CFxActionPlace, std::vector<const CFxActionNote*>> notes_;
+    std::set<Datum> making_;
+    /// The top-level action from which on there is an object of that handle.
+    std::map<OdDbHandle, std::uint32_t> beginnings_;
+    std::set<OdDbHandle> told_;
+};
+
+} // namespace
+
+std::vector<Warning> warningsOf(const Recording& recording)
+{
+    const Notes notes = notesOfConversion(recording);
+    Warnings warnings;
+    Handles handles(recording, notes, warnings);
+    handles.addDoubled();
+    handles.addLoose();
+    MeantNames names;
+    // What is missing under these tags has been told with the ones that are wrong: losses come first.
+    std::set<std::pair<CFxActionPlace, CFxString>> meantTags;
+    for (const CFxActionNote& note : notes) {
+        if (meantTags.contains({note.where, note.property}))
+            continue;
+        const QString meant = names.meant(note, actionAt(recording, note.where));
+        if (!meant.isEmpty())
+            meantTags.emplace(note.where, meant);
+        warnings.push_back({lineOf(note.where, recording), pathOf(note.where),
+                            note.what.toQString() + ": " + note.reason.toQString() + didYouMean(meant, {meant})});
+    }
+    std::ranges::stable_sort(warnings, {}, &Warning::line);
+    return warnings;
+}
+
+} // namespace inkmacro
