@@ -121,7 +121,7 @@ QString bashOffer(Offer offer, QStringList (*list)())
     return "_inkmacro_words ''; ";
 }
 
-/// Of a case that the words fit which the shell sees in front of the value.
+/// Of a case for a command with one of these words, which the shell sees in front of the value.
 QString bashPatterns(const CommandRow& row, const QStringList& names)
 {
     QStringList patterns;

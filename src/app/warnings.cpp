@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <tuple>
+#include <utility>
 
 namespace inkmacro {
 
@@ -64,54 +66,79 @@ const OdRxObject* actionAt(const Recording& recording, const CFxActionPlace& pla
     return found;
 }
 
-/// The object that an action is of, and what it says of it.
+/// The object that an action is of.
 struct ObjectAction
 {
     bool isAdded = false;
     const OdRxClass* cls = nullptr; ///< null when the action is of none
     OdDbHandle handle;
-    PropertyList records; ///< of an added object those of both lists
 
     explicit ObjectAction(const OdRxObject* action)
     {
+        const auto take = [this](const auto& of) {
+            cls = of->GetObjectClass();
+            handle = of->GetHandle();
+        };
         if (const auto added = odrxQuery<CFxObjectAdded>(action)) {
             isAdded = true;
-            cls = added->GetObjectClass();
-            handle = added->GetHandle();
-            records = added->GetProperties();
-            const PropertyList extra = added->GetExtraProperties();
-            records.insert(records.end(), extra.begin(), extra.end());
+            take(added);
         } else if (const auto modified = odrxQuery<CFxObjectModified>(action)) {
-            cls = modified->GetObjectClass();
-            handle = modified->GetHandle();
-            records = modified->GetProperties();
-        } else if (auto property = odrxQuery<CFxPropertyChanged>(action)) {
-            cls = property->GetObjectClass();
-            handle = property->GetHandle();
-            records.push_back(std::move(property));
+            take(modified);
+        } else if (const auto property = odrxQuery<CFxPropertyChanged>(action)) {
+            take(property);
         }
     }
 };
+
+/// What an action says of its object, of an added one in both lists.
+std::vector<PropertyList> recordsOf(const OdRxObject* action)
+{
+    if (const auto added = odrxQuery<CFxObjectAdded>(action))
+        return {added->GetProperties(), added->GetExtraProperties()};
+    if (const auto modified = odrxQuery<CFxObjectModified>(action))
+        return {modified->GetProperties()};
+    if (auto property = odrxQuery<CFxPropertyChanged>(action))
+        return {PropertyList{std::move(property)}};
+    return {};
+}
 
 /// What was meant by names of classes and tags that no statement is known for.
 class MeantNames
 {
 public:
-    /// By a note of that action; empty when there is no such name.
+    /// By a note of that action; empty when there is no such name. What the object has under its own tag is not what
+    /// was meant by another one.
     QString meant(const CFxActionNote& note, const OdRxObject* action)
     {
         const ObjectAction object(action);
         if (!object.cls)
             return {};
-        if (classes_.empty())
-            classes_ = LoadedModule()->ListClasses();
-        const auto known = std::ranges::find(classes_, CFxString(object.cls->name()), &CFxKnownClass::name);
-        if (known == classes_.end())
-            return meantClass(object.cls->name());
-        return note.property.isEmpty() ? QString() : meantTag(note.property, object, *known);
+        const auto [known, isNew] = known_.try_emplace({object.cls, object.isAdded, note.property});
+        QString& name = known->second;
+        if (isNew)
+            name = find(note.property, object);
+        return name.isEmpty() || isRecorded(name, action) ? QString() : name;
     }
 
 private:
+    static bool isRecorded(const QString& tag, const OdRxObject* action)
+    {
+        return std::ranges::any_of(recordsOf(action), [&](const PropertyList& list) {
+            return std::ranges::any_of(
+                list, [&](const CFxPropertyChangedPtr& record) { return record->GetName().toQString() == tag; });
+        });
+    }
+
+    QString find(const QString& tag, const ObjectAction& object)
+    {
+        if (classes_.empty())
+            classes_ = LoadedModule()->ListClasses();
+        const auto cls = std::ranges::find(classes_, CFxString(object.cls->name()), &CFxKnownClass::name);
+        if (cls == classes_.end())
+            return meantClass(object.cls->name());
+        return tag.isEmpty() ? tag : meantTag(tag, *cls, object.isAdded);
+    }
+
     /// That the drawing's classes begin alike is no likeness.
     QString meantClass(const QString& written) const
     {
@@ -148,28 +175,24 @@ private:
         });
     }
 
-    /// What the object has under its own tag is not what was meant by another one.
-    static QString meantTag(const QString& written, const ObjectAction& object, const CFxKnownClass& cls)
+    static QString meantTag(const QString& written, const CFxKnownClass& cls, bool isAdded)
     {
-        const QStringList taken = tagsOf(object.isAdded ? cls.added : cls.changed);
-        QStringList recorded;
-        for (const CFxPropertyChangedPtr& record : object.records)
-            recorded.append(record->GetName());
+        const QStringList taken = tagsOf(isAdded ? cls.added : cls.changed);
         QStringList names;
         for (QString tag : taken) {
             if (const int number = written.indexOf(QRegularExpression("[0-9]")); tag.endsWith('*') && number >= 0)
                 tag = tag.left(tag.size() - 1) + written.mid(number);
-            if (!recorded.contains(tag))
-                names.append(tag);
+            names.append(tag);
         }
         const QString nearest = nearestName(written, names);
-        const std::vector<CFxString>& repeated = object.isAdded ? cls.repeatedInAdded : cls.repeatedInChanged;
+        const std::vector<CFxString>& repeated = isAdded ? cls.repeatedInAdded : cls.repeatedInChanged;
         const bool isKnown = isOneOf(written, taken) || isOneOf(written, {repeated.begin(), repeated.end()});
-        const bool isOfOthers = isOneOf(written, tagsOf(object.isAdded ? cls.changed : cls.added)) &&
+        const bool isOfOthers = isOneOf(written, tagsOf(isAdded ? cls.changed : cls.added)) &&
                                 nearest.compare(written, Qt::CaseInsensitive) != 0;
         return isKnown || isOfOthers ? QString() : nearest;
     }
 
+    std::map<std::tuple<const OdRxClass*, bool, CFxString>, QString> known_;
     std::vector<CFxKnownClass> classes_;
 };
 
@@ -257,14 +280,22 @@ private:
         // A macro finds a sheet by the name in its records.
         if (object.cls && !object.isAdded && object.cls != OdDbLayout::desc())
             lookFor(object.handle, place);
-        for (const CFxPropertyChangedPtr& record : object.records) {
-            const OdDbHandle handle =
-                record->GetValue(static_cast<CFxValueContext>(recording_.header.context)).GetId().getHandle();
-            if (isNoted(place, [&](const CFxActionNote& note) { return note.property == record->GetName(); }))
-                told_.insert(handle);
-            else
-                lookFor(handle, place);
-        }
+        for (const PropertyList& list : recordsOf(action))
+            for (const CFxPropertyChangedPtr& record : list)
+                lookAt(*record, place);
+    }
+
+    /// A conversion tells of a property itself.
+    void lookAt(const CFxPropertyChanged& record, const CFxActionPlace& place)
+    {
+        const CFxVariant value = record.GetValue(static_cast<CFxValueContext>(recording_.header.context));
+        if (value.GetType() != CFxVariant::kId)
+            return;
+        const OdDbHandle handle = value.GetId().getHandle();
+        if (isNoted(place, [&](const CFxActionNote& note) { return note.property == record.GetName(); }))
+            told_.insert(handle);
+        else
+            lookFor(handle, place);
     }
 
     /// Tells of a handle once, where it is spoken of first, unless the conversion has told of it there.
