@@ -129,7 +129,7 @@ TEST_F(Warnings, TellOfHandlesThatReferToNothing)
 {"custom":{"kind":17,"data":[{"handles":["A0","50"]},{"classes":["AcDbLine","AcDbLine"]}]}}
 )";
     const auto nothing = [](const std::string& line, const std::string& handle) {
-        return line + ": handle " + handle + " is that of nothing: neither the drawing nor the recording has it";
+        return line + ": handle " + handle + " refers to nothing: neither the drawing nor the recording has it";
     };
     EXPECT_EQ(of(lines), (Lines{nothing("2", "50"), "2: handle 60 is added in line 4 only",
                                 "3: property \"Layer\" of AcDbLine 61: the drawing does not have what it names",

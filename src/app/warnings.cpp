@@ -318,7 +318,7 @@ private:
         add(place,
             isThere
                 ? QString("handle %1 is added in line %2 only").arg(text).arg(lineOf({beginning->second}, recording_))
-                : QString("handle %1 is that of nothing: neither the drawing nor the recording has it").arg(text));
+                : QString("handle %1 refers to nothing: neither the drawing nor the recording has it").arg(text));
     }
 
     template<class Predicate>
