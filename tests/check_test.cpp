@@ -32,7 +32,7 @@ TEST_F(Program, WarnsOfWhatIsProbablyNotMeant)
     write("circle.jsonl", line + circle + circle + R"({"added":{"class":"AcDbCirle","handle":"31","properties":[]}})");
     const Outcome outcome = run({"check", "circle.jsonl"});
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.out, "circle.jsonl: ok, 4 actions, 4 warnings\n");
+    EXPECT_EQ(outcome.out, "circle.jsonl: ok, 4 actions (5 with those in commands), 4 warnings\n");
     EXPECT_EQ(outcome.err,
               "circle.jsonl:2: warning: property \"Radius\" of AcDbCircle 30: it is recorded in another form\n"
               "circle.jsonl:3: warning: handle 30 has been added in line 2 already\n"
@@ -41,8 +41,9 @@ TEST_F(Program, WarnsOfWhatIsProbablyNotMeant)
               "AcDbCircle?\n");
     EXPECT_EQ(run({"check", "circle.jsonl", "--strict"}).status, 1);
     write("walls.jsonl", line);
-    EXPECT_EQ(run({"check", "walls.jsonl", "walls.jsonl", "--strict"}).out, "walls.jsonl: ok, 1 action\n"
-                                                                            "walls.jsonl: ok, 1 action\n");
+    EXPECT_EQ(run({"check", "walls.jsonl", "walls.jsonl", "--strict"}).out,
+              "walls.jsonl: ok, 1 action (2 with those in commands)\n"
+              "walls.jsonl: ok, 1 action (2 with those in commands)\n");
     EXPECT_EQ(run({"check", "walls.jsonl", "nowhere.jsonl", "--strict"}).status, 3);
 
     const QJsonObject json =

@@ -86,6 +86,10 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
          "the results cannot all be one.jsonl, which is a file; a directory is needed"},
         {{"inspect", "a", "b"}, "inspect takes one argument, but \"a\" and \"b\" are given"},
         {{"inspect", "--json"}, "inspect needs FILE"},
+        {{"inspect", "a", "--tree", "-1"}, "--tree: \"-1\" is not a number of levels, 0 or more"},
+        {{"inspect", "a", "--command", "--json"}, "a value is missing behind --command: it is --command NAME"},
+        {{"inspect", "a", "--handle=A", "--handle=A"}, "--handle is given more than once"},
+        {{"check", "a", "--handle=A"}, "--handle is no option of check, but of inspect and snapshot"},
         {{"schema", "reprot"}, "\"reprot\" is none of recording, report; did you mean report?"},
         {{"classes", "AcDbLien"}, "\"AcDbLien\" is none of the 52 known names; did you mean AcDbLine?"},
         {{"completion"}, "completion needs bash|zsh|fish"},
@@ -146,7 +150,7 @@ TEST_F(Program, WritesAMacroToStandardOutput)
     EXPECT_EQ(run({"convert", "a.jsonl", "-t", "vba,csharp", "-o-"}).err.section('\n', 0, 0),
               "inkmacro: standard output takes the macro of one recording in one target, not 2");
     EXPECT_EQ(run({"convert", "a.jsonl", "-t", "vba", "-o-", "--report"}).err.section('\n', 0, 0),
-              "inkmacro: --report and --output - would both write to standard output");
+              "inkmacro: --report and --output - would both write to standard output; --report-file FILE does not");
     EXPECT_FALSE(exists("-") || exists("vba"));
     const Outcome full = run({"convert", "a.jsonl", "-t", "vba", "-o-", "-q"}, {}, "exec >/dev/full; ");
     EXPECT_EQ(full.status, 1);

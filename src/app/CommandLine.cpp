@@ -160,7 +160,7 @@ private:
             throw WrongUse(QString("%1 is given more than once").arg(row.name));
         given_.insert(row.name);
         asked_ = asked_ || findOptionRow(generalOptions(), row.name);
-        if (row.form && !row.mayLack && given.value.isNull())
+        if (row.form && given.value.isNull() && (!row.mayLack || row.words().contains(arguments_.value(at_))))
             given.value = nextValue(row);
         while (row.offer == Offer::Lists && given.value.trimmed().endsWith(',') && at_ < arguments_.size())
             given.value += arguments_[at_++];
@@ -199,8 +199,8 @@ private:
             takeFiles();
         if (line_.command == Command::Run)
             checkRun();
-        if (line_.command == Command::Convert && line_.output == "-" && line_.telling.report != ReportForm::None)
-            throw WrongUse("--report and --output - would both write to standard output");
+        if (line_.command == Command::Convert && line_.output == "-" && line_.telling.reportsToOutput())
+            throw WrongUse("--report and --output - would both write to standard output; --report-file FILE does not");
     }
 
     void takeWord(const CommandRow& row)

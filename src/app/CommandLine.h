@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include <limits>
 #include <optional>
 #include <stdexcept>
 #include <vector>
@@ -32,7 +33,7 @@ struct HostSettings
     bool repair = false;                  ///< macros without their known faults
 };
 
-/// In which form `convert` prints what its macros lack and where they are faulty, in place of the list of files.
+/// In which form `convert` tells what its macros lack and where they are faulty.
 enum class ReportForm
 {
     None,
@@ -44,7 +45,16 @@ enum class ReportForm
 struct Telling
 {
     ReportForm report = ReportForm::None;
-    bool quiet = false; ///< no counts on standard error
+    std::optional<QString> reportFile; ///< else it is printed in place of the list of files
+    bool quiet = false;                ///< no counts on standard error
+    /// What makes the exit status kFailed when there is any of it.
+    bool failsOnLoss = false;
+    bool failsOnAssumption = false;
+    bool failsOnFault = false;
+
+    bool reportsToOutput() const { return report != ReportForm::None && !reportFile; }
+    /// Whether somebody wants to know of faults.
+    bool looksAtFaults() const { return !quiet || report != ReportForm::None || failsOnFault; }
 };
 
 struct CommandLine
@@ -75,8 +85,9 @@ struct CommandLine
     bool force = false; ///< projects of other recordings are replaced
     HostSettings host;
     Telling telling;
-    OdDbHandle handle;   ///< of the object whose snapshot is shown
-    QString hostCommand; ///< the name of the command that is run
+    OdDbHandle handle;                           ///< of the object that is shown; null for all
+    std::optional<QString> hostCommand;          ///< the name of the command that is run, or of those that are shown
+    int depth = std::numeric_limits<int>::max(); ///< levels that are shown below the top-level actions
 
     QString className; ///< of the class that is told; empty for all
     QString shell;     ///< whose completion is printed

@@ -6,73 +6,93 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
+
 namespace inkmacro {
 
 namespace {
 
-template<class Object>
-QJsonObject objectBody(const Object& object)
-{
-    const OdRxClass* const cls = object.GetObjectClass();
-    return {{"class", cls ? cls->name() : QString()},
-            {"handle", object.GetHandle().ascii()},
-            {"properties", static_cast<int>(object.GetProperties().size())}};
-}
-
-QJsonObject addedBody(const CFxObjectAdded& added)
-{
-    QJsonObject body = objectBody(added);
-    body["extra"] = static_cast<int>(added.GetExtraProperties().size());
-    return body;
-}
+constexpr QLatin1String lineKey("line", 4);
+constexpr QLatin1String indexKey("index", 5);
 
 } // namespace
 
-ActionJson::ActionJson(CFxValueContext context, const std::vector<CFxActionKindName>& names) : context_(context)
+QString kindOf(const QJsonObject& action)
+{
+    const QStringList keys = action.keys();
+    return *std::ranges::find_if(keys, [](const QString& key) { return key != lineKey && key != indexKey; });
+}
+
+ActionJson::ActionJson(ActionView view, CFxValueContext context, const std::vector<CFxActionKindName>& names)
+    : view_(std::move(view)), context_(context)
 {
     for (const CFxActionKindName& kind : names)
         names_.emplace(kind.number, kind.name);
 }
 
-QJsonObject ActionJson::of(const OdRxObjectPtr& action)
+std::optional<QJsonObject> ActionJson::of(const OdRxObjectPtr& action, qint64 line)
 {
+    std::optional<QJsonObject> made = of(action, {view_.depth, !view_.filter.command()});
+    if (made)
+        (*made)[lineKey] = line;
+    return made;
+}
+
+std::optional<QJsonObject> ActionJson::of(const OdRxObjectPtr& action, Place place)
+{
+    std::optional<QJsonValue> body;
+    if (const auto command = odrxQuery<CFxUserCommand>(action.get())) {
+        place.named = place.named || view_.filter.names(commandName(*command));
+        body = commandBody(*command, place);
+    } else if (place.named && view_.filter.isAbout(action)) {
+        body = bodyOf(action, place.depth);
+    }
+    if (!body)
+        return std::nullopt;
     const QString kind = ActionKind(action);
-    const QJsonValue body = bodyOf(action);
     ++counts_[kind];
-    return {{kind, body}};
+    return QJsonObject{{kind, *body}};
 }
 
-QJsonValue ActionJson::bodyOf(const OdRxObjectPtr& action)
+std::optional<QJsonValue> ActionJson::commandBody(const CFxUserCommand& command, const Place& place)
 {
-    // What would fill the screen is told in numbers and types.
-    if (const auto command = odrxQuery<CFxUserCommand>(action.get()))
-        return commandBody(*command);
-    if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
-        return addedBody(*added);
-    if (const auto modified = odrxQuery<CFxObjectModified>(action.get()))
-        return objectBody(*modified);
-    if (const auto custom = odrxQuery<CFxCustomAction>(action.get()))
-        return customBody(*custom);
-    return ActionToJson(action, context_);
-}
-
-QJsonObject ActionJson::commandBody(const CFxUserCommand& command)
-{
+    const CFxActionArray& children = command.GetActions();
     QJsonArray actions;
-    for (const OdRxObjectPtr& child : command.GetActions())
-        actions.append(of(child));
-    const OdResBufPtr line = command.GetCommand();
-    return {{"name", line ? line->getString() : QString()}, {"actions", actions}};
+    int made = 0;
+    for (unsigned i = 0; i < children.length(); ++i) {
+        std::optional<QJsonObject> child = of(children[i], {place.depth - 1, place.named});
+        if (!child)
+            continue;
+        ++made;
+        if (place.depth <= 0)
+            continue;
+        (*child)[indexKey] = static_cast<int>(i);
+        actions.append(*child);
+    }
+    if (made == 0 && (!place.named || !view_.filter.handle().isNull()))
+        return std::nullopt;
+    QJsonObject body{{"name", commandName(command)}};
+    body["actions"] = place.depth > 0 ? QJsonValue(actions) : QJsonValue(made);
+    if (const int leftOut = static_cast<int>(children.length()) - made; leftOut > 0)
+        body["leftOut"] = leftOut;
+    return body;
 }
 
-QJsonObject ActionJson::customBody(const CFxCustomAction& custom) const
+QJsonValue ActionJson::bodyOf(const OdRxObjectPtr& action, int depth) const
 {
-    QJsonArray types;
-    for (std::int32_t i = 0; i < custom.GetDataCount(); ++i)
-        types.append(DataType(custom.GetData(i)));
-    QJsonObject body{{"kind", custom.GetKind()}, {"data", types}};
-    if (const auto name = names_.find(custom.GetKind()); name != names_.end())
-        body["name"] = name->second;
+    if (depth < 0)
+        return {}; // nobody sees it
+    QJsonValue whole = ActionToJson(action, context_);
+    if (!whole.isObject())
+        return whole;
+    QJsonObject body = whole.toObject();
+    if (const auto custom = odrxQuery<CFxCustomAction>(action.get()))
+        if (const auto name = names_.find(custom->GetKind()); name != names_.end())
+            body["name"] = name->second;
+    if (depth == 0)
+        for (const char* const list : {"properties", "extra", "data"})
+            if (const QJsonValue items = body.value(QLatin1String(list)); items.isArray())
+                body[list] = items.toArray().size();
     return body;
 }
 

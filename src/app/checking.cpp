@@ -3,6 +3,7 @@
 #include "app/checking.h"
 
 #include "app/ExitStatus.h"
+#include "app/actionCount.h"
 #include "app/console.h"
 #include "app/reading.h"
 #include "app/valueText.h"
@@ -24,6 +25,7 @@ struct Checked
 {
     QString file;
     int actions = 0;
+    QString actionText;
     std::vector<RecordingError> errors;
     std::vector<Warning> warnings;
 };
@@ -31,8 +33,9 @@ struct Checked
 Checked check(const QString& file)
 {
     Recording recording;
-    Checked checked{file, 0, readWithErrors(file, recording, kMostErrors), {}};
+    Checked checked{file, 0, {}, readWithErrors(file, recording, kMostErrors), {}};
     checked.actions = static_cast<int>(recording.actions.length());
+    checked.actionText = actionCountText(recording.actions);
     if (checked.errors.empty())
         checked.warnings = warningsOf(recording);
     return checked;
@@ -50,7 +53,7 @@ void printText(const Checked& checked)
         printLine(QString("%1: and %2 more; --json has them all").arg(name, counted(more, "warning", "warnings")));
     if (!checked.errors.empty())
         return;
-    QString result = "ok, " + counted(checked.actions, "action", "actions");
+    QString result = "ok, " + checked.actionText;
     if (!checked.warnings.empty())
         result += ", " + counted(static_cast<int>(checked.warnings.size()), "warning", "warnings");
     printOut(QString("%1: %2\n").arg(printable(checked.file), result));

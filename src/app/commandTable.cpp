@@ -137,26 +137,46 @@ under an empty file name, which is reported.)",
     },
     {
         .name = "--report",
-        .form = "text",
+        .form = "json|text",
         .offer = Offer::Words,
-        .words =
-            [] {
-                return QStringList{"json", "text"};
-            },
+        .words = reportForms,
         .take = takeReport,
         .meaning = "tell what is lost and what is faulty",
         .text = R"(Print in place of the paths, as one JSON document, what each macro lacks
-of what the user did, with its place in the recording, and where macro and
-project are rejected or misread by their own language or host, with the
-line and whether --repair mends it. With =text as tables for a person.)",
+of what the user did and which values it assumes, with the place in the
+recording, and where macro and project are rejected or misread by their
+own language or host, with the lines and whether --repair mends it. With
+text as tables for a person: what all macros of a recording lack stands
+once, ahead of them.)",
         .mayLack = true,
+    },
+    {
+        .name = "--report-file",
+        .form = "FILE",
+        .offer = Offer::Files,
+        .take = takeReportFile,
+        .meaning = "where the report goes to",
+        .text = R"(Write the report to that file, as JSON or in the form of --report, and the
+paths to standard output. A file that stands there is replaced when the
+report is whole.)",
+    },
+    {
+        .name = "--fail-on",
+        .form = "KIND[,KIND...]",
+        .offer = Offer::Lists,
+        .words = noteKinds,
+        .take = takeFailOn,
+        .meaning = "status 1 for what is lost, assumed or faulty",
+        .text = R"(Make the exit status 1 when a macro has any of that: loss, assumed or
+fault, one or more of them. The macros are written all the same.)",
+        .repeats = true,
     },
     {
         .name = "--quiet",
         .letter = 'q',
         .take = [](CommandLine& line, const QString&) { line.telling.quiet = true; },
-        .meaning = "no counts of what is lost and faulty",
-        .text = "Do not count on standard error what a macro lacks and its faults.",
+        .meaning = "no word of what is lost and faulty",
+        .text = "Do not tell on standard error what a macro lacks and its faults.",
     },
 };
 
@@ -182,6 +202,38 @@ const std::vector<OptionRow> formatOptions = {
     },
 };
 
+const std::vector<OptionRow> inspectOptions = {
+    {
+        .name = "--tree",
+        .form = "N",
+        .take = takeDepth,
+        .meaning = "how many levels are shown",
+        .text = R"(How many levels below the top-level actions are shown: 0 for none, 1 for
+what is in their commands, 2 for the properties of objects there, too.
+Properties stand a level below their object, and so do the values of a
+custom action. What is not shown is counted all the same.)",
+    },
+    {
+        .name = "--command",
+        .form = "NAME",
+        .take = takeHostCommand,
+        .meaning = "only commands of that name",
+        .text = R"(Only commands of that name, in any case and whether or not there is a _, .
+or ' in front; a - in front belongs to the name.)",
+    },
+    {
+        .name = "--handle",
+        .form = "H",
+        .take = takeHandle,
+        .meaning = "only what is about that object",
+        .text = R"(Only what is about the object with that handle, a hexadecimal number:
+where it is added, changed, picked in a selection, or named by a value of
+a custom action. Without --command the object itself is shown too when it
+is in the drawing.)",
+    },
+    jsonOption,
+};
+
 const std::vector<OptionRow> snapshotOptions = {
     {
         .name = "--handle",
@@ -203,7 +255,7 @@ const std::vector<OptionRow> runOptions = {
             [] {
                 return QStringList{"-HYPERLINK", "-LINESTYLE"};
             },
-        .take = [](CommandLine& line, const QString& value) { line.hostCommand = value; },
+        .take = takeHostCommand,
         .meaning = "the command that is run",
         .text = R"(-HYPERLINK or -LINESTYLE, with or without a leading underscore, in any
 case.)",
@@ -226,8 +278,19 @@ targets.
 Several files or targets are converted side by side; one that fails does not
 stop the others. Standard output holds the paths written, one a line, the
 macro before its project; messages go to standard error, and so does a line
-like "walls.cs: 3 steps lost, 1 value assumed, 2 faults; see --report" for each
-macro that has any.)";
+for each macro that lacks something or is faulty, with the way out, like
+"walls.cpp: 1 kind of fault in 14 places (REASON); --repair mends it".)";
+
+const char* const inspectText = R"(Shows the actions of a recording as a tree. In front of a top-level action
+stands its line in FILE, in front of one in a command its number there, from 0,
+as in the path that a message tells. Below an object stand its properties;
+those of the second list of an added one bear "extra:". The last line counts the
+actions of all levels by their kinds.
+
+Long texts and lists are cut, and of properties whose tags differ in numbers
+alone, as those of the vertices of a polyline, the first 20 are shown; --json
+has all of them. The exit status is 1 when nothing of the recording is what
+--command and --handle ask for.)";
 
 const char* const runText = R"(Runs a command of the macro writer on the drawing of a recording.
 
@@ -260,8 +323,8 @@ const std::vector<CommandRow> commandRows = {
         .meaning = "show the actions of a recording",
         .operands = Operands::File,
         .form = "FILE",
-        .text = "Shows the actions of a recording as a tree, with counts.",
-        .options = {jsonOption},
+        .text = inspectText,
+        .options = inspectOptions,
     },
     {
         .command = Command::Check,

@@ -29,7 +29,7 @@ struct OptionRow
     const char* meaning; ///< a line
     const char* text;    ///< of the help, in lines of at most 74 letters
     bool required = false;
-    bool mayLack = false; ///< the value, which stands behind "=" alone
+    bool mayLack = false; ///< the value, which behind a blank is taken for one only when it is one of the words
     bool repeats = false;
 };
 

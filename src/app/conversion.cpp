@@ -5,12 +5,12 @@
 #include "app/ExitStatus.h"
 #include "app/LoadedModule.h"
 #include "app/ProgressLine.h"
+#include "app/ReportPart.h"
 #include "app/StagedResult.h"
 #include "app/console.h"
 #include "app/earlyEnd.h"
 #include "app/otherProjects.h"
 #include "app/reading.h"
-#include "app/report.h"
 #include "host/kernel/CFxRegistry.h"
 #include "host/kernel/CFxServices.h"
 #include "recordfile/OpenDrawing.h"
@@ -19,6 +19,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
+
+#include <algorithm>
+#include <cerrno>
 
 namespace inkmacro {
 
@@ -73,31 +76,38 @@ QString failedFile(const Job& job, const StagedResult& result)
     return job.macro;
 }
 
-/// Whether the module had files which could be opened but not filled; they are named.
-bool complainOfIncompleteFiles(const Job& job)
+/// Tells its user, and gives what came of the conversion.
+Outcome failure(const QString& message)
 {
-    const std::vector<CFxFailedFile>& incomplete = GetFxSystemServices()->GetFailedFiles();
-    const QString directory = job.macro.left(job.macro.lastIndexOf('/') + 1);
-    for (const auto& [path, reason] : incomplete)
-        complain(QString("%1%2 could not be written whole: %3").arg(directory, QFileInfo(path).fileName(), reason));
-    return !incomplete.empty();
+    complain(message);
+    return {kFailed, message};
 }
 
-/// Line by line, so that none is cut where a terminal shows it. Gives an exit status.
-int printMacro(const QString& path)
+/// The module had files which could be opened but not filled.
+QString incompleteFiles(const Job& job)
+{
+    QStringList messages;
+    const QString directory = job.macro.left(job.macro.lastIndexOf('/') + 1);
+    for (const auto& [path, reason] : GetFxSystemServices()->GetFailedFiles())
+        messages.append(QString("%1%2 could not be written whole: %3")
+                            .arg(directory, QFileInfo(path).fileName(), reason.toQString()));
+    return messages.join("; ");
+}
+
+/// Line by line, so that none is cut where a terminal shows it.
+Outcome printMacro(const QString& path)
 {
     QFile file(path);
     if (file.open(QIODevice::ReadOnly))
         while (!file.atEnd() && file.error() == QFileDevice::NoError)
             printOut(file.readLine());
     if (file.error() == QFileDevice::NoError)
-        return kDone;
-    complain("the macro cannot be read again: " + file.errorString());
-    return kFailed;
+        return {kDone, {}, {"-"}};
+    return failure("the macro cannot be read again: " + file.errorString());
 }
 
-/// Places the files, whose paths it adds, or prints the macro. Gives an exit status, and has complained of a failure.
-int convertRead(const Job& job, const Recording& recording, const HostSettings& host, QStringList& placed)
+/// Places the files, or prints the macro.
+Outcome convertRead(const Job& job, const Recording& recording, const HostSettings& host)
 {
     StagedResult result(job.files());
     const std::int32_t status = runModule(*job.target, result.firstFile(), recording, host);
@@ -105,72 +115,74 @@ int convertRead(const Job& job, const Recording& recording, const HostSettings& 
         complain(QString("%1 to %2: %3").arg(job.input, targetName(*job.target), problem));
     if (status != kFxSuccess) {
         const std::vector<CFxFailedFile>& failed = GetFxSystemServices()->GetFailedFiles();
-        complain(QString("conversion to %1 failed with status %2: %3%4")
-                     .arg(targetName(*job.target), QString::number(status), failedFile(job, result),
-                          failed.empty() ? QString() : ": " + failed.back().reason));
-        return kFailed;
+        return failure(QString("conversion to %1 failed with status %2: %3%4")
+                           .arg(targetName(*job.target), QString::number(status), failedFile(job, result),
+                                failed.empty() ? QString() : ": " + failed.back().reason));
     }
     if (job.toStandardOutput)
         return printMacro(result.firstFile());
-    if (complainOfIncompleteFiles(job))
-        return kFailed;
+    if (const QString incomplete = incompleteFiles(job); !incomplete.isEmpty())
+        return failure(incomplete);
     // Somebody else may have put a project there meanwhile.
     QString others;
-    placed = result.place([&] { return (others = otherProjectsIn({job})).isEmpty(); });
-    if (!others.isEmpty())
-        complain(others);
-    return others.isEmpty() ? kDone : kFailed;
+    const QStringList placed = result.place([&] { return (others = otherProjectsIn({job})).isEmpty(); });
+    return others.isEmpty() ? Outcome{kDone, {}, placed} : failure(others);
 }
 
-/// Gives an exit status.
-int convertOrComplain(const Job& job, const HostSettings& host, Recording& recording, QStringList& placed)
+Outcome convertRecording(const Job& job, const HostSettings& host, Recording& recording)
 {
-    if (!readOrComplain(job.input, recording))
-        return kUnreadable;
-    const QString refusal = job.toStandardOutput ? QString() : refusalOf(job.files());
-    if (!refusal.isEmpty()) {
-        complain(refusal);
-        return kFailed;
+    if (const QString error = readRecording(job.input, recording); !error.isEmpty()) {
+        printLine(error);
+        return {kUnreadable, error};
     }
+    if (const QString refusal = job.toStandardOutput ? QString() : refusalOf(job.files()); !refusal.isEmpty())
+        return failure(refusal);
     try {
-        return convertRead(job, recording, host, placed);
+        return convertRead(job, recording, host);
     } catch (const PlacingError& error) {
-        complain(error.message());
+        return failure(error.message());
     } catch (const std::bad_alloc&) {
         endWithoutMemory();
     } catch (const std::exception& error) {
-        complain(QString("conversion to %1 failed: %2: %3")
-                     .arg(targetName(*job.target), QString::fromUtf8(error.what()), job.shownMacro()));
+        return failure(QString("conversion to %1 failed: %2: %3")
+                           .arg(targetName(*job.target), QString::fromUtf8(error.what()), job.shownMacro()));
     }
-    return kFailed;
+}
+
+bool failsOn(const CFxConversionNotes& notes, const Telling& telling)
+{
+    const NoteCounts counts = countsOf(notes);
+    return (telling.failsOnLoss && counts.losses > 0) || (telling.failsOnAssumption && counts.assumptions > 0) ||
+           (telling.failsOnFault && counts.faults > 0);
 }
 
 } // namespace
 
-int convertOne(const Job& job, const HostSettings& host, const Telling& telling)
+int convertOne(const Job& job, const HostSettings& host, const Telling& telling, ReportPart* part)
 {
     nameWork(QString("converting %1 to %2").arg(job.input, targetName(*job.target)));
     // Never destroyed: the end of the process gives the memory back at once, record by record it takes a while.
     static Recording& recording = *new Recording;
-    const bool asked = telling.report != ReportForm::None;
-    const bool tellsNothing = telling.quiet && !asked;
-    GetFxSystemServices()->SetInt16(kIgnoreFaults, tellsNothing ? 1 : 0);
+    GetFxSystemServices()->SetInt16(kIgnoreFaults, telling.looksAtFaults() ? 0 : 1);
     CFxConversionNotes& notes = GetFxSystemServices()->Notes();
-    notes.KeepAll(asked);
-    QStringList placed;
-    const int status = convertOrComplain(job, host, recording, placed);
-    const QString counts = countText(notes);
-    if (status == kDone && !telling.quiet && !counts.isEmpty())
-        printLine(job.shownMacro() + ": " + counts + (asked ? "" : "; see --report"));
-    if (asked) {
+    notes.KeepAll(part);
+    const Outcome outcome = convertRecording(job, host, recording);
+    const QString talk = telling.quiet || outcome.status != kDone ? QString() : talkText(notes, !part);
+    if (!talk.isEmpty())
+        printLine(job.shownMacro() + ": " + talk);
+    if (!job.toStandardOutput && !telling.reportsToOutput())
+        for (const QString& file : outcome.files)
+            printOut(file + '\n');
+    int status = outcome.status;
+    if (part) {
         nameWork(QString("reporting on %1 to %2%3")
                      .arg(job.input, targetName(*job.target), status == kDone ? ", whose files are written" : ""));
-        printPart(job, status, telling.report, Noted{&notes, &recording});
-    } else {
-        for (const QString& file : placed)
-            printOut(file + '\n');
+        if (!part->write(outcome, notes, recording)) {
+            complain("the report on " + job.shownMacro() + " cannot be kept: " + qt_error_string(errno));
+            status = std::max<int>(status, kFailed);
+        }
     }
-    return status;
+    return status == kDone && failsOn(notes, telling) ? kFailed : status;
 }
 
 } // namespace inkmacro

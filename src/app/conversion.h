@@ -4,6 +4,7 @@
 
 namespace inkmacro {
 
+class ReportPart;
 struct Recording;
 
 /// Has the module write a macro of the recording, as the host would, and what is noted of it. Gives a status of the
@@ -11,8 +12,8 @@ struct Recording;
 std::int32_t runModule(const TargetRow& target, const QString& macro, const Recording& recording,
                        const HostSettings& host);
 
-/// Does one job in this process, which can do no more than one: the module keeps state for the whole process. Of a
-/// report it prints the part of the job. Gives an exit status.
-int convertOne(const Job& job, const HostSettings& host, const Telling& telling);
+/// Does one job in this process, which can do no more than one: the module keeps state for the whole process. Gives an
+/// exit status, and to the part, when a report is asked for, what the report tells of the job.
+int convertOne(const Job& job, const HostSettings& host, const Telling& telling, ReportPart* part);
 
 } // namespace inkmacro

@@ -20,7 +20,7 @@ QString longForm(const OptionRow& option)
 {
     if (!option.form)
         return option.name;
-    return QString(option.mayLack ? "%1[=%2]" : "%1 %2").arg(option.name, option.form);
+    return QString(option.mayLack ? "%1 [%2]" : "%1 %2").arg(option.name, option.form);
 }
 
 QString usageOf(const CommandRow& row)

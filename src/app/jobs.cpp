@@ -2,6 +2,7 @@
 
 #include "app/jobs.h"
 
+#include "app/StagedResult.h"
 #include "app/otherProjects.h"
 
 #include <QDir>
@@ -134,10 +135,20 @@ void checkInputs(const std::vector<Job>& jobs, const CommandLine& line)
             places.emplace(place, "the recording " + input);
     if (line.host.optionNames)
         places.emplace(placeOf(*line.host.optionNames), "the names of options in " + *line.host.optionNames);
+    const auto refuse = [&places](const QString& output) {
+        if (const auto input = places.find(placeOf(output)); input != places.end())
+            throw WrongUse(QString("%1 would overwrite %2").arg(output, input->second));
+    };
+    if (line.telling.reportFile) {
+        refuse(*line.telling.reportFile);
+        if (const QString refusal = refusalOf({*line.telling.reportFile}); !refusal.isEmpty())
+            throw WrongUse("--report-file: " + refusal);
+        places.emplace(placeOf(*line.telling.reportFile), "the report in " + *line.telling.reportFile);
+    }
     for (const Job& job : jobs)
-        for (const QString& output : job.files())
-            if (const auto input = places.find(placeOf(output)); input != places.end())
-                throw WrongUse(QString("%1 would overwrite %2").arg(output, input->second));
+        if (!job.toStandardOutput)
+            for (const QString& output : job.files())
+                refuse(output);
 }
 
 /// Two jobs meet in a file only when the user made one folder of theirs a link to another.
@@ -171,10 +182,10 @@ QStringList Job::projectFiles() const
 
 std::vector<Job> planJobs(const CommandLine& line)
 {
-    if (line.output == "-")
-        return {jobForStandardOutput(line)};
-    std::vector<Job> jobs = listJobs(line);
+    std::vector<Job> jobs = line.output == "-" ? std::vector{jobForStandardOutput(line)} : listJobs(line);
     checkInputs(jobs, line);
+    if (line.output == "-")
+        return jobs;
     checkMacros(jobs);
     if (const QString others = otherProjectsIn(jobs); !others.isEmpty())
         throw WrongUse(others);

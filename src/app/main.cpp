@@ -17,13 +17,15 @@
 #include "app/pages.h"
 #include "app/processes.h"
 #include "app/report.h"
+#include "app/reportSchema.h"
 #include "app/runCommand.h"
 #include "app/snapshot.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <optional>
+#include <cerrno>
+#include <memory>
 
 using namespace inkmacro;
 
@@ -35,6 +37,18 @@ bool usesInstallDir(const TargetRow* row)
     return row->target == Target::Cpp || row->target == Target::CppCom;
 }
 
+int convertAlone(const Job& job, const CommandLine& line, ReportDocument& report)
+{
+    auto part = line.telling.report == ReportForm::None ? nullptr : std::make_unique<ReportPart>();
+    if (part && !part->create()) {
+        complain("the report cannot be kept: " + qt_error_string(errno));
+        return kFailed;
+    }
+    const int status = convertOne(job, line.host, line.telling, part.get());
+    report.add(job, std::move(part), {status});
+    return status;
+}
+
 int convert(const CommandLine& line)
 {
     const std::vector<Job> jobs = planJobs(line);
@@ -42,12 +56,15 @@ int convert(const CommandLine& line)
         complain("--install-dir has no effect here: only the targets cpp and cppcom use it");
     if (line.host.optionNames && !readOptionNamesOrComplain(*line.host.optionNames))
         return kUnreadable;
-    if (jobs.size() != 1)
-        return convertInProcesses(jobs, line.host, line.telling);
-    std::optional<ReportDocument> report;
-    if (line.telling.report != ReportForm::None)
-        report.emplace(line.telling.report).beginPart();
-    return convertOne(jobs.front(), line.host, line.telling);
+    try {
+        ReportDocument report(line.telling);
+        const int status = jobs.size() == 1 ? convertAlone(jobs.front(), line, report)
+                                            : convertInProcesses(jobs, line.host, line.telling, report);
+        return report.finish(status);
+    } catch (const PlacingError& error) {
+        complain("the report: " + error.message());
+        return kFailed;
+    }
 }
 
 int run(const CommandLine& line)
@@ -56,9 +73,9 @@ int run(const CommandLine& line)
     case CommandLine::Command::Convert:
         return convert(line);
     case CommandLine::Command::Inspect:
-        return inspectRecording(line.files.front(), line.json);
+        return inspectRecording(line.files.front(), {{line.hostCommand, line.handle}, line.depth}, line.json);
     case CommandLine::Command::Run:
-        return runCommand(line.files.front(), line.hostCommand, line.output.value_or(line.files.front()));
+        return runCommand(line.files.front(), *line.hostCommand, line.output.value_or(line.files.front()));
     case CommandLine::Command::Check:
         return checkRecordings(line.files, {line.strict, line.json});
     case CommandLine::Command::Format:

@@ -89,9 +89,41 @@ void takeLineStyles(CommandLine& line, const QString& path)
     line.host.lineStyles = path;
 }
 
+QStringList reportForms()
+{
+    return {"json", "text"};
+}
+
 void takeReport(CommandLine& line, const QString& form)
 {
     line.telling.report = form == "text" ? ReportForm::Text : ReportForm::Json;
+}
+
+void takeReportFile(CommandLine& line, const QString& path)
+{
+    if (path.isEmpty() || path.endsWith('/'))
+        throw WrongUse(QString("a file is expected, and \"%1\" is none").arg(path));
+    if (path == "-")
+        throw WrongUse("the report goes to standard output by --report alone");
+    line.telling.reportFile = path;
+    if (line.telling.report == ReportForm::None)
+        line.telling.report = ReportForm::Json;
+}
+
+QStringList noteKinds()
+{
+    return {"loss", "assumed", "fault"};
+}
+
+void takeFailOn(CommandLine& line, const QString& list)
+{
+    for (const QString& word : list.split(',')) {
+        const QString kind = word.trimmed();
+        checkWord(kind, noteKinds());
+        line.telling.failsOnLoss |= kind == "loss";
+        line.telling.failsOnAssumption |= kind == "assumed";
+        line.telling.failsOnFault |= kind == "fault";
+    }
 }
 
 void takeHandle(CommandLine& line, const QString& text)
@@ -100,6 +132,22 @@ void takeHandle(CommandLine& line, const QString& text)
     line.handle = OdDbHandle(text.toULongLong(nullptr, 16));
     if (!digits.match(text).hasMatch() || line.handle.isNull())
         throw WrongUse(QString("\"%1\" is not a handle, which is a hexadecimal number").arg(text));
+}
+
+void takeDepth(CommandLine& line, const QString& text)
+{
+    static const QRegularExpression digits("\\A[0-9]+\\z");
+    if (!digits.match(text).hasMatch())
+        throw WrongUse(QString("\"%1\" is not a number of levels, 0 or more").arg(text));
+    bool fits = false;
+    line.depth = text.toInt(&fits);
+    if (!fits)
+        line.depth = std::numeric_limits<int>::max();
+}
+
+void takeHostCommand(CommandLine& line, const QString& name)
+{
+    line.hostCommand = name;
 }
 
 void checkWord(const QString& text, const QStringList& words)

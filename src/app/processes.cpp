@@ -9,7 +9,6 @@
 #include "app/console.h"
 #include "app/conversion.h"
 #include "app/earlyEnd.h"
-#include "app/report.h"
 #include "app/valueText.h"
 #include "recordfile/RecordingReader.h"
 
@@ -78,9 +77,6 @@ int makePipe(Pipe& pipe)
     return 0;
 }
 
-/// Behind the part of a report whose process came to an end with it. JSON has no such character.
-constexpr char kPartEnd = '\0';
-
 /// A file without a name, as long as nobody asks for one.
 QString pathOf(const QTemporaryFile& file)
 {
@@ -109,7 +105,7 @@ struct Printed
 class JobRunner final : private EarlyEnd
 {
 public:
-    JobRunner(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling);
+    JobRunner(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling, ReportDocument& report);
     ~JobRunner() { endWatch(); }
 
     int run();
@@ -120,36 +116,34 @@ private:
         std::atomic<pid_t> processId = 0; ///< while the process runs
         Printed output;
         Printed messages;
-        /// The job's part of the report, which may be too long to be kept in memory until its turn comes.
-        std::unique_ptr<QTemporaryFile> report;
+        std::unique_ptr<ReportPart> part; ///< null when no report is asked for
         bool begun = false;
         bool done = false;
-        int status = kDone;
+        Outcome outcome{kDone};
     };
 
     /// Standard input can be read once, so it is kept for all who want it.
     bool keepStandardInput();
-    void refuse(std::size_t number, const QString& message, int status);
+    void refuse(std::size_t number, const Outcome& outcome);
     void startSome();
     bool mayStart(std::size_t number) const;
     bool start(std::size_t number);
     /// Gives an errno.
     int fork(State& state, const Job& job);
-    [[noreturn]] void work(const Job& job, int output, int messages);
+    [[noreturn]] void work(const Job& job, ReportPart* part, int output, int messages);
     void couldNotStart(std::size_t number, const QString& reason);
     void waitForSome();
     void ended(std::size_t number);
-    void finish(std::size_t number, int status);
+    void finish(std::size_t number, const Outcome& outcome);
     void passOn();
     void passOn(std::size_t number);
-    static bool passOnReport(QTemporaryFile& report);
     void endEarly(int signal) noexcept override;
 
     const std::vector<Job>& jobs_;
     const HostSettings& host_;
     const Telling& telling_;
+    ReportDocument& report_;
     std::vector<State> states_;
-    std::optional<ReportDocument> report_;
     QTemporaryFile standardInput_;
     const pid_t self_ = getpid();
     std::size_t next_ = 0; ///< all jobs in front of it have begun
@@ -161,14 +155,13 @@ private:
     ProgressLine progress_;
 };
 
-JobRunner::JobRunner(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling)
-    : jobs_(jobs), host_(host), telling_(telling), states_(jobs.size()), progress_([this] {
+JobRunner::JobRunner(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling,
+                     ReportDocument& report)
+    : jobs_(jobs), host_(host), telling_(telling), report_(report), states_(jobs.size()), progress_([this] {
           const auto total = static_cast<int>(jobs_.size());
           return progressBar(doneCount_, total) + QString("  %1 of %2 done").arg(doneCount_).arg(total);
       })
 {
-    if (telling.report != ReportForm::None)
-        report_.emplace(telling.report);
     beginWatch();
 }
 
@@ -179,7 +172,7 @@ int JobRunner::run()
         const RecordingError error{"-", 0, {}, "cannot be kept for several results: " + qt_error_string(errno)};
         for (std::size_t i = 0; i < jobs_.size(); ++i)
             if (wantsInput(jobs_[i]))
-                refuse(i, error.text(), kUnreadable);
+                refuse(i, {kUnreadable, error.text()});
     }
     loadModuleAhead();
     startSome();
@@ -204,11 +197,13 @@ bool JobRunner::keepStandardInput()
     }
 }
 
-void JobRunner::refuse(std::size_t number, const QString& message, int status)
+/// Its error is told unless it is empty; that of this program's own begins with its name.
+void JobRunner::refuse(std::size_t number, const Outcome& outcome)
 {
-    if (!message.isEmpty())
-        states_[number].messages.bytes = (printable(message) + '\n').toLocal8Bit();
-    finish(number, status);
+    const QString name = outcome.status == kUnreadable ? QString() : QStringLiteral("inkmacro: ");
+    if (!outcome.error.isEmpty())
+        states_[number].messages.bytes += (printable(name + outcome.error) + '\n').toLocal8Bit();
+    finish(number, outcome);
 }
 
 void JobRunner::startSome()
@@ -234,7 +229,7 @@ bool JobRunner::start(std::size_t number)
     const Job& job = jobs_[number];
     // The process would take a directory at that path for a place to put results in.
     if (const QString refusal = refusalOf(job.files()); !refusal.isEmpty()) {
-        refuse(number, "inkmacro: " + refusal, kFailed);
+        refuse(number, {kFailed, refusal});
         return true;
     }
 
@@ -257,15 +252,15 @@ int JobRunner::fork(State& state, const Job& job)
         return error;
     if (const int error = makePipe(messages))
         return error;
-    if (report_) {
-        state.report = std::make_unique<QTemporaryFile>();
-        if (!state.report->open())
+    if (telling_.report != ReportForm::None) {
+        state.part = std::make_unique<ReportPart>();
+        if (!state.part->create())
             return errno;
     }
     const SignalPause pause;
     const pid_t process = ::fork();
     if (process == 0)
-        work(job, state.report ? state.report->handle() : output.in.descriptor(), messages.in.descriptor());
+        work(job, state.part.get(), output.in.descriptor(), messages.in.descriptor());
     if (process == -1)
         return errno;
     state.processId = process;
@@ -275,7 +270,7 @@ int JobRunner::fork(State& state, const Job& job)
 }
 
 /// In the new process, which ends when the one that has started it does, however it does.
-void JobRunner::work(const Job& job, int output, int messages)
+void JobRunner::work(const Job& job, ReportPart* part, int output, int messages)
 {
     prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (getppid() != self_)
@@ -292,25 +287,20 @@ void JobRunner::work(const Job& job, int output, int messages)
     }
     forgetOutput();
     forgetEarlyEnds();
-    _exit(finishOutput(orComplain([&] {
-        const int status = convertOne(job, host_, telling_);
-        if (report_)
-            printOut(QByteArray(&kPartEnd, 1));
-        return status;
-    })));
+    _exit(finishOutput(orComplain([&] { return convertOne(job, host_, telling_, part); })));
 }
 
 /// When none runs: the next one could not be started either, so this is the end for all that wait.
 void JobRunner::couldNotStart(std::size_t number, const QString& reason)
 {
     const auto waiting = std::count_if(states_.begin(), states_.end(), [](const State& s) { return !s.begun; });
-    QString message = QString("inkmacro: no process can be started for %1: %2").arg(jobs_[number].macro, reason);
+    QString message = QString("no process can be started for %1: %2").arg(jobs_[number].macro, reason);
     if (waiting > 0)
         message += QString(", nor for the %1 behind it").arg(waiting);
-    refuse(number, message, kFailed);
+    refuse(number, {kFailed, message});
     for (std::size_t i = 0; i < states_.size(); ++i)
         if (!states_[i].begun)
-            refuse(i, {}, kFailed);
+            refuse(i, {kFailed});
 }
 
 void JobRunner::waitForSome()
@@ -351,26 +341,27 @@ void JobRunner::ended(std::size_t number)
     std::erase(running_, number);
 
     const bool crashed = !WIFEXITED(result);
-    int status = WEXITSTATUS(result);
+    const int status = WEXITSTATUS(result);
     if (crashed || status > kUnreadable) {
         const QString reason = crashed ? QString("killed by signal %1").arg(WTERMSIG(result))
                                        : QString("ended with status %1").arg(status);
-        const QString message = QString("inkmacro: conversion to %1 came to no end: %2: %3")
-                                    .arg(targetName(*jobs_[number].target), reason, jobs_[number].macro);
-        state.messages.bytes += (printable(message) + '\n').toLocal8Bit();
-        status = kFailed;
         removeDeadStaging(QFile::encodeName(QFileInfo(jobs_[number].macro).path()).toStdString());
+        refuse(number, {kFailed, QString("conversion to %1 came to no end: %2: %3")
+                                     .arg(targetName(*jobs_[number].target), reason, jobs_[number].macro)});
+    } else {
+        // Its part tells more, when it came to write one.
+        finish(number, {status == kDone || status == kUnreadable ? status : kFailed,
+                        QString::fromLocal8Bit(state.messages.bytes).trimmed()});
     }
-    finish(number, status == kDone || status == kUnreadable ? status : kFailed);
     startSome();
 }
 
-void JobRunner::finish(std::size_t number, int status)
+void JobRunner::finish(std::size_t number, const Outcome& outcome)
 {
     states_[number].begun = true;
     states_[number].done = true;
-    states_[number].status = status;
-    status_ = std::max(status_, status);
+    states_[number].outcome = outcome;
+    status_ = std::max(status_, outcome.status);
     ++doneCount_;
     passOn();
 }
@@ -387,7 +378,7 @@ void JobRunner::passOn(std::size_t number)
 {
     State& state = states_[number];
     QByteArray messages = std::exchange(state.messages.bytes, {});
-    if (state.status == kUnreadable) {
+    if (state.outcome.status == kUnreadable) {
         // What is wrong with a recording is said once, not once for each target.
         const std::pair complaint(jobs_[number].input, messages);
         if (complaint == lastComplaint_)
@@ -397,25 +388,7 @@ void JobRunner::passOn(std::size_t number)
     }
     printError(messages);
     printOut(std::exchange(state.output.bytes, {}));
-    if (!report_)
-        return;
-    report_->beginPart();
-    if (!state.report || !passOnReport(*state.report))
-        printPart(jobs_[number], state.status, telling_.report);
-    state.report.reset();
-}
-
-/// False when the process came to no end with it, and nothing is printed.
-bool JobRunner::passOnReport(QTemporaryFile& report)
-{
-    qint64 left = report.size() - 1;
-    char last = 0;
-    if (left < 0 || !report.seek(left) || !report.getChar(&last) || last != kPartEnd || !report.seek(0))
-        return false;
-    constexpr qint64 piece = 1 << 20;
-    for (QByteArray bytes; left > 0 && !(bytes = report.read(std::min(piece, left))).isEmpty(); left -= bytes.size())
-        printOut(bytes);
-    return true;
+    report_.add(jobs_[number], std::move(state.part), state.outcome);
 }
 
 void JobRunner::endEarly(int signal) noexcept
@@ -430,9 +403,10 @@ void JobRunner::endEarly(int signal) noexcept
 
 } // namespace
 
-int convertInProcesses(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling)
+int convertInProcesses(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling,
+                       ReportDocument& report)
 {
-    return JobRunner(jobs, host, telling).run();
+    return JobRunner(jobs, host, telling, report).run();
 }
 
 } // namespace inkmacro

@@ -8,15 +8,22 @@
 
 namespace inkmacro {
 
-bool readOrComplain(const QString& path, Recording& recording)
+QString readRecording(const QString& path, Recording& recording)
 {
     const std::vector<RecordingError> errors = readWithErrors(path, recording, 1);
     if (errors.empty())
-        return true;
-    printLine(errors.front().text());
+        return {};
     // What it holds of the other lines is no recording.
     recording = Recording();
-    return false;
+    return errors.front().text();
+}
+
+bool readOrComplain(const QString& path, Recording& recording)
+{
+    const QString error = readRecording(path, recording);
+    if (!error.isEmpty())
+        printLine(error);
+    return error.isEmpty();
 }
 
 std::vector<RecordingError> readWithErrors(const QString& path, Recording& recording, std::size_t most)

@@ -6,6 +6,8 @@
 
 namespace inkmacro {
 
+/// Empty when the recording is read, else what is wrong with it.
+QString readRecording(const QString& path, Recording& recording);
 /// Reads the recording, or prints what is wrong with it and gives false.
 bool readOrComplain(const QString& path, Recording& recording);
 

@@ -4,17 +4,16 @@
 
 #include "app/ExitStatus.h"
 #include "app/console.h"
+#include "app/reportSchema.h"
 #include "app/valueText.h"
-#include "host/kernel/CFxConversionNotes.h"
 #include "recordfile/JsonOut.h"
-#include "recordfile/SchemaDefinitions.h"
 
-#include <QJsonDocument>
+#include <QCryptographicHash>
+#include <QHash>
 #include <QStringList>
 
 #include <algorithm>
 #include <array>
-#include <span>
 #include <string_view>
 #include <utility>
 
@@ -23,83 +22,95 @@ namespace inkmacro {
 using namespace recordfile;
 using namespace std::string_view_literals;
 
+using List = ReportPart::List;
+
 namespace {
 
-const char* const kDocumentKey = "conversions";
-
-QString statusWord(int status)
+const char* titleOf(List list)
 {
-    return status == kDone ? "converted" : status == kUnreadable ? "unreadable" : "failed";
+    return list == List::Losses ? "lost" : "assumed";
+}
+
+/// Of fixed length, however long the note is: there may be as many as a recording has actions.
+QByteArray keyOf(const PlacedNote& note)
+{
+    QCryptographicHash hash(QCryptographicHash::Md5);
+    hash.addData(QStringList{QString::number(note.line), note.path, note.what, note.reason}.join(QChar(0)).toUtf8());
+    return hash.result();
 }
 
 } // namespace
 
-QString pathOf(const CFxActionPlace& place)
+/// The losses and assumptions that all of several macros have.
+class CommonNotes
 {
-    QStringList steps;
-    for (std::size_t i = 1; i < place.size(); ++i)
-        steps.append(QString("command.actions[%1]").arg(place[i]));
-    return steps.join('.');
-}
+public:
+    /// Of parts in no particular number; of fewer than two nothing is common.
+    explicit CommonNotes(const std::vector<ReportPart*>& parts)
+    {
+        if (parts.size() < 2)
+            return;
+        for (const List list : {List::Losses, List::Assumptions}) {
+            QHash<QByteArray, std::size_t> holders;
+            for (std::size_t i = 0; i < parts.size(); ++i)
+                parts[i]->forEach(list, [&](const PlacedNote& note) {
+                    std::size_t& held = holders[keyOf(note)];
+                    // Only who has been in all parts so far can be in all.
+                    if (held == i)
+                        ++held;
+                });
+            for (auto holder = holders.begin(); holder != holders.end();)
+                holder = holder.value() == parts.size() ? std::next(holder) : holders.erase(holder);
+            keys(list) = std::move(holders);
+        }
+    }
 
-qint64 lineOf(const CFxActionPlace& place, const Recording& recording)
-{
-    return place.empty() ? 0 : recording.actionLines.at(place.front());
-}
+    bool has(List list) const { return !of(list).isEmpty(); }
+    bool has(List list, const PlacedNote& note) const { return has(list) && of(list).contains(keyOf(note)); }
+
+private:
+    QHash<QByteArray, std::size_t>& keys(List list) { return list == List::Losses ? losses_ : assumptions_; }
+    const QHash<QByteArray, std::size_t>& of(List list) const { return list == List::Losses ? losses_ : assumptions_; }
+
+    QHash<QByteArray, std::size_t> losses_;
+    QHash<QByteArray, std::size_t> assumptions_;
+};
 
 namespace {
 
-/// A list of the report under its heading, in columns, the last one as wide as it is. Each row is made twice, so that
-/// none is kept.
-template<class Note, class Row>
-void printList(const char* heading, const std::vector<Note>& list, Row row)
+/// A list under its heading, in columns, the last one as wide as it is. `rows` gives each row to what it is called with
+/// and is called twice, so that none is kept.
+template<class Rows, class Print>
+void printList(const QString& heading, Rows rows, Print print)
 {
-    if (list.empty())
-        return;
-    printOut(QString("  %1\n").arg(heading));
-    std::array<int, 4> widths = {};
-    for (const Note& note : list) {
-        const QStringList cells = row(note);
+    std::array<int, 5> widths = {};
+    rows([&](const QStringList& cells) {
         for (int i = 0; i < cells.size(); ++i)
             widths[static_cast<std::size_t>(i)] = std::max(widths[static_cast<std::size_t>(i)], cells[i].size());
-    }
-    for (const Note& note : list) {
-        const QStringList cells = row(note);
-        QString text = "   ";
+    });
+    bool first = true;
+    rows([&](const QStringList& cells) {
+        QString text = std::exchange(first, false) ? QString("  %1\n   ").arg(heading) : "   ";
         for (int i = 0; i < cells.size(); ++i)
             text += ' ' +
                     (i + 1 < cells.size() ? cells[i].leftJustified(widths[static_cast<std::size_t>(i)] + 1) : cells[i]);
-        printOut(text + '\n');
-    }
+        print(text + '\n');
+    });
+}
+
+QStringList noteRow(const PlacedNote& note)
+{
+    return {"line " + QString::number(note.line), note.path, printable(note.what), printable(note.reason)};
 }
 
 QStringList faultRow(const CFxFaultNote& fault)
 {
     QString place = printable(fault.file.toQString());
-    if (fault.line > 0)
-        place += ':' + QString::number(fault.line);
-    return {place, fault.mended ? "mended by --repair" : "not mended", printable(fault.operation.toQString()),
+    if (fault.lines.front() > 0)
+        place += ':' + QString::number(fault.lines.front());
+    return {place, counted(static_cast<qint64>(fault.lines.size()), "place", "places"),
+            fault.mended ? "mended by --repair" : "not mended", printable(fault.operation.toQString()),
             printable(fault.reason.toQString())};
-}
-
-void printText(const Job& job, int status, const std::optional<Noted>& noted)
-{
-    QString result = noted ? countText(*noted->notes) : QString();
-    if (status != kDone)
-        result = result.isEmpty() ? statusWord(status) : statusWord(status) + ", " + result;
-    else if (result.isEmpty())
-        result = "nothing lost, no faults";
-    printOut(
-        QString("%1 to %2: %3: %4\n").arg(printable(job.input), targetName(*job.target), printable(job.macro), result));
-    if (!noted)
-        return;
-    const auto row = [&](const CFxActionNote& note) {
-        return QStringList{"line " + QString::number(lineOf(note.where, *noted->recording)), pathOf(note.where),
-                           printable(note.what.toQString()), printable(note.reason.toQString())};
-    };
-    printList("lost", noted->notes->GetLosses(), row);
-    printList("assumed", noted->notes->GetAssumptions(), row);
-    printList("faults", noted->notes->GetFaults(), faultRow);
 }
 
 void add(JsonOut& out, std::string_view key, const QString& text)
@@ -108,148 +119,200 @@ void add(JsonOut& out, std::string_view key, const QString& text)
     out.text(text);
 }
 
-/// One note a line; they are printed as they come, since a report may be longer than all that is in memory.
-template<class Note, class Write>
-void addList(JsonOut& out, std::string_view key, std::span<const Note> list, Write write)
+void addFault(JsonOut& out, const CFxFaultNote& fault)
 {
-    out.key(key);
-    out.beginArray();
-    constexpr int piece = 64 * 1024;
-    for (const Note& note : list) {
-        out.onNewLine();
-        out.beginObject();
-        write(note);
-        out.endObject();
-        if (out.bytes().size() < piece)
-            continue;
-        printOut(out.bytes());
-        out.clear();
-    }
-    out.endArray();
-}
-
-void printJson(const Job& job, int status, const std::optional<Noted>& noted)
-{
-    JsonOut out(0);
+    out.onNewLine();
     out.beginObject();
-    add(out, "input", job.input);
-    add(out, "target", targetName(*job.target));
-    add(out, "macro", job.macro);
-    out.key("project"sv);
+    add(out, "file", fault.file.toQString());
+    out.key("line"sv);
+    out.integer(fault.lines.front());
+    out.key("count"sv);
+    out.integer(static_cast<qint64>(fault.lines.size()));
+    out.key("lines"sv);
     out.beginArray();
-    for (const QString& file : job.projectFiles())
-        out.text(file);
+    for (const std::uint32_t line : fault.lines)
+        out.integer(line);
     out.endArray();
-    add(out, "status", statusWord(status));
-    const auto addActionNotes = [&](std::string_view key, std::span<const CFxActionNote> notes) {
-        addList(out, key, notes, [&](const CFxActionNote& note) {
-            out.key("line"sv);
-            out.integer(lineOf(note.where, *noted->recording));
-            add(out, "path", pathOf(note.where));
-            add(out, "what", note.what.toQString());
-            add(out, "reason", note.reason.toQString());
-        });
-    };
-    addActionNotes("losses", noted ? std::span(noted->notes->GetLosses()) : std::span<const CFxActionNote>());
-    addActionNotes("assumed", noted ? std::span(noted->notes->GetAssumptions()) : std::span<const CFxActionNote>());
-    const auto faults = noted ? std::span(noted->notes->GetFaults()) : std::span<const CFxFaultNote>();
-    addList(out, "faults", faults, [&](const CFxFaultNote& fault) {
-        add(out, "file", fault.file.toQString());
-        out.key("line"sv);
-        out.integer(fault.line);
-        add(out, "operation", fault.operation.toQString());
-        add(out, "reason", fault.reason.toQString());
-        out.key("mended"sv);
-        out.boolean(fault.mended);
-    });
+    add(out, "operation", fault.operation.toQString());
+    add(out, "reason", fault.reason.toQString());
+    out.key("mended"sv);
+    out.boolean(fault.mended);
     out.endObject();
-    printOut(out.bytes());
-}
-
-QJsonObject actionNoteSchema(const char* what)
-{
-    ObjectSchema note;
-    note.add("line", "the line of the recording, from 1", typeSchema("integer"), true);
-    note.add("path", "the place of the action within the line, such as command.actions[2]; empty for the whole line",
-             typeSchema("string"), true);
-    note.add("what", what, typeSchema("string"), true);
-    note.add("reason", "why", typeSchema("string"), true);
-    return note.json();
-}
-
-QJsonObject faultSchema()
-{
-    ObjectSchema fault;
-    fault.add("file", "the file's name, without folders", typeSchema("string"), true);
-    fault.add("line", "the line of the file, from 1; 0 when it is not known", typeSchema("integer"), true);
-    fault.add("operation", "what writes the place", typeSchema("string"), true);
-    fault.add("reason", "why its own language or host rejects or misreads it", typeSchema("string"), true);
-    fault.add("mended", "whether --repair writes the macro without it", typeSchema("boolean"), true);
-    return fault.json();
 }
 
 } // namespace
 
-ReportDocument::ReportDocument(ReportForm form) : form_(form)
+ReportDocument::ReportDocument(const Telling& telling)
+    : form_(telling.report), path_(telling.reportFile.value_or(QString()))
 {
+    if (telling.reportFile) {
+        result_.emplace(QStringList(path_));
+        file_.setFileName(result_->firstFile());
+        if (!file_.open(QIODevice::WriteOnly))
+            throw PlacingError(path_, file_.errorString());
+    }
     if (form_ == ReportForm::Json)
-        printOut(QString("{\"%1\":[").arg(kDocumentKey));
+        print(QString("{\"%1\":%2,\"%3\":\"%4\",\"%5\":[")
+                  .arg(kReportVersionKey, QString::number(kReportVersion), kProgramVersionKey, INKMACRO_VERSION,
+                       kConversionsKey));
 }
 
-ReportDocument::~ReportDocument()
+void ReportDocument::print(const QByteArray& bytes)
 {
-    if (form_ == ReportForm::Json)
-        printOut(QByteArray("\n]}\n"));
-}
-
-void ReportDocument::beginPart()
-{
-    if (form_ == ReportForm::Json)
-        printOut(QByteArray(std::exchange(first_, false) ? "\n" : ",\n"));
-}
-
-void printPart(const Job& job, int status, ReportForm form, const std::optional<Noted>& noted)
-{
-    if (form == ReportForm::Json)
-        printJson(job, status, noted);
+    if (result_)
+        file_.write(bytes);
     else
-        printText(job, status, noted);
+        printOut(bytes);
 }
 
-QString countText(const CFxConversionNotes& notes)
+void ReportDocument::add(const Job& job, std::unique_ptr<ReportPart> part, const Outcome& otherwise)
 {
-    QStringList counts;
-    if (const auto losses = static_cast<int>(notes.GetLossCount()); losses > 0)
-        counts.append(counted(losses, "step", "steps") + " lost");
-    if (const auto assumptions = static_cast<int>(notes.GetAssumptionCount()); assumptions > 0)
-        counts.append(counted(assumptions, "value", "values") + " assumed");
-    if (const auto faults = static_cast<int>(notes.GetFaultCount()); faults > 0)
-        counts.append(counted(faults, "fault", "faults"));
-    return counts.join(", ");
+    if (form_ == ReportForm::None)
+        return;
+    if (part && !part->beginReading())
+        part.reset();
+    const bool whole = part != nullptr;
+    Conversion conversion{&job, std::move(part), otherwise};
+    if (whole)
+        conversion.outcome = conversion.part->outcome();
+    if (form_ == ReportForm::Json)
+        return printJson(conversion);
+    if (!waiting_.empty() && waiting_.front().job->input != job.input)
+        printRecording();
+    waiting_.push_back(std::move(conversion));
 }
 
-QByteArray reportSchema()
+int ReportDocument::finish(int status)
 {
-    ObjectSchema conversion;
-    conversion.add("input", "the recording; - is standard input", typeSchema("string"), true);
-    conversion.add("target", "the language of the macro", typeSchema("string"), true);
-    conversion.add("macro", "the macro file", typeSchema("string"), true);
-    conversion.add("project", "the files of the project around it", listSchema(typeSchema("string")), true);
-    conversion.add("status", "the files are there only when it is converted",
-                   enumSchema({statusWord(kDone), statusWord(kFailed), statusWord(kUnreadable)}), true);
-    conversion.add("losses", "what the user did and the macro does not",
-                   listSchema(actionNoteSchema("what is lost: an action, an object or a property of one")), true);
-    conversion.add("assumed", "values that the macro states and the recording does not hold, or holds in another form",
-                   listSchema(actionNoteSchema("what has the value: an action or a property of an object")), true);
-    conversion.add("faults", "where the macro or its project is rejected or misread by its own language or host",
-                   listSchema(faultSchema()), true);
-    ObjectSchema document;
-    document.add(kDocumentKey, "recording by recording, and within one target by target", listSchema(conversion.json()),
-                 true);
-    QJsonObject schema = document.json();
-    schema.insert("$schema", "https://json-schema.org/draft/2020-12/schema");
-    schema.insert("title", "What macros lack and where they are faulty");
-    return QJsonDocument(schema).toJson();
+    printRecording();
+    if (form_ == ReportForm::Json)
+        print(QByteArray("\n]}\n"));
+    if (!result_)
+        return status;
+    try {
+        if (!file_.flush() || file_.error() != QFileDevice::NoError)
+            throw PlacingError(path_, file_.errorString());
+        file_.close();
+        result_->place();
+        return status;
+    } catch (const PlacingError& error) {
+        complain("the report: " + error.message());
+        return std::max<int>(status, kFailed);
+    }
+}
+
+/// One note a line; they are printed as they come.
+void ReportDocument::printJson(const Conversion& conversion)
+{
+    constexpr int piece = 64 * 1024;
+    const auto& [job, part, outcome] = conversion;
+    JsonOut out(0);
+    const auto addNotes = [&, &part = part](std::string_view key, List list) {
+        out.key(key);
+        out.beginArray();
+        if (part)
+            part->forEach(list, [&](const PlacedNote& note) {
+                out.onNewLine();
+                out.beginObject();
+                out.key("line"sv);
+                out.integer(note.line);
+                inkmacro::add(out, "path", note.path);
+                inkmacro::add(out, "what", note.what);
+                inkmacro::add(out, "reason", note.reason);
+                out.endObject();
+                if (out.bytes().size() < piece)
+                    return;
+                print(out.bytes());
+                out.clear();
+            });
+        out.endArray();
+    };
+    print(QByteArray(std::exchange(first_, false) ? "\n" : ",\n"));
+    out.beginObject();
+    inkmacro::add(out, "input", job->input);
+    inkmacro::add(out, "target", targetName(*job->target));
+    inkmacro::add(out, "status", statusWord(outcome.status));
+    if (!outcome.error.isEmpty())
+        inkmacro::add(out, "error", outcome.error);
+    if (!outcome.files.isEmpty())
+        inkmacro::add(out, "macro", outcome.files.front());
+    out.key("project"sv);
+    out.beginArray();
+    for (const QString& file : outcome.files.mid(1))
+        out.text(file);
+    out.endArray();
+    addNotes("losses", List::Losses);
+    addNotes("assumed", List::Assumptions);
+    out.key("faults"sv);
+    out.beginArray();
+    if (part)
+        for (const CFxFaultNote& fault : part->faults())
+            addFault(out, fault);
+    out.endArray();
+    out.endObject();
+    print(out.bytes());
+}
+
+/// What all macros lack stands ahead of them.
+void ReportDocument::printRecording()
+{
+    std::vector<ReportPart*> parts;
+    for (const Conversion& conversion : waiting_)
+        if (conversion.part && conversion.outcome.status == kDone)
+            parts.push_back(conversion.part.get());
+    const CommonNotes common(parts);
+    if (common.has(List::Losses) || common.has(List::Assumptions))
+        print(printable(waiting_.front().job->input) + '\n');
+    for (const List list : {List::Losses, List::Assumptions})
+        if (common.has(list))
+            printList(
+                QString("%1 in each macro").arg(titleOf(list)),
+                [&](const auto& use) {
+                    parts.front()->forEach(list, [&](const PlacedNote& note) {
+                        if (common.has(list, note))
+                            use(noteRow(note));
+                    });
+                },
+                [this](const QString& line) { print(line); });
+    for (const Conversion& conversion : waiting_)
+        printText(conversion, common);
+    waiting_.clear();
+}
+
+void ReportDocument::printText(const Conversion& conversion, const CommonNotes& common)
+{
+    const auto& [job, part, outcome] = conversion;
+    QStringList parts{printable(job->input) + " to " + targetName(*job->target)};
+    if (!outcome.files.isEmpty())
+        parts.append(printable(outcome.files.front()));
+    QString result = part ? countText(part->counts()) : QString();
+    if (outcome.status != kDone)
+        result = statusWord(outcome.status) + (result.isEmpty() ? result : ", " + result);
+    parts.append(result.isEmpty() ? "nothing lost, no faults" : result);
+    if (!outcome.error.isEmpty())
+        parts.append(printable(outcome.error));
+    print(parts.join(": ") + '\n');
+    if (!part)
+        return;
+    const auto printLine = [this](const QString& line) { print(line); };
+    const bool sharesNotes = outcome.status == kDone;
+    for (const List list : {List::Losses, List::Assumptions})
+        printList(
+            titleOf(list) + QString(sharesNotes && common.has(list) ? " besides" : ""),
+            [&, &part = part](const auto& use) {
+                part->forEach(list, [&](const PlacedNote& note) {
+                    if (!sharesNotes || !common.has(list, note))
+                        use(noteRow(note));
+                });
+            },
+            printLine);
+    printList(
+        "faults",
+        [&part = part](const auto& use) {
+            for (const CFxFaultNote& fault : part->faults())
+                use(faultRow(fault));
+        },
+        printLine);
 }
 
 } // namespace inkmacro

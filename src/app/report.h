@@ -1,51 +1,54 @@
 #pragma once
 
 #include "app/CommandLine.h"
+#include "app/ReportPart.h"
+#include "app/StagedResult.h"
 #include "app/jobs.h"
-#include "recordfile/Recording.h"
 
+#include <QFile>
+
+#include <memory>
 #include <optional>
-
-class CFxConversionNotes;
+#include <vector>
 
 namespace inkmacro {
 
-/// What the module has noted of a conversion, and the recording that it is about.
-struct Noted
-{
-    const CFxConversionNotes* notes;
-    const Recording* recording;
-};
+class CommonNotes;
 
-/// The place of an action within its line, as the recording file's errors name it; empty for the whole line.
-QString pathOf(const std::vector<std::uint32_t>& place);
-/// From 1; 0 for no place.
-qint64 lineOf(const std::vector<std::uint32_t>& place, const Recording& recording);
-
-/// The report of a call while it is printed: one part a job, in the order of the jobs, and all of them one document.
+/// The report of a call, to which the parts of its jobs are added in their order. It goes to standard output, or to a
+/// file that is there when it is whole.
 class ReportDocument
 {
 public:
-    explicit ReportDocument(ReportForm form);
-    ~ReportDocument();
-    ReportDocument(const ReportDocument&) = delete;
-    ReportDocument& operator=(const ReportDocument&) = delete;
+    /// Raises PlacingError when the file cannot be made.
+    explicit ReportDocument(const Telling& telling);
 
-    /// Comes before each part.
-    void beginPart();
+    /// `otherwise` holds for a part that is missing or not whole.
+    void add(const Job& job, std::unique_ptr<ReportPart> part, const Outcome& otherwise);
+
+    /// Behind the last part. Gives the exit status, raised to kFailed with a message when the file cannot be written.
+    int finish(int status);
 
 private:
+    struct Conversion
+    {
+        const Job* job;
+        std::unique_ptr<ReportPart> part; ///< null when there is none, or it is not whole
+        Outcome outcome;
+    };
+
+    void print(const QByteArray& bytes);
+    void print(const QString& text) { print(text.toLocal8Bit()); }
+    void printJson(const Conversion& conversion);
+    void printRecording();
+    void printText(const Conversion& conversion, const CommonNotes& common);
+
     const ReportForm form_;
+    const QString path_; ///< empty for standard output
+    std::optional<StagedResult> result_;
+    QFile file_;
     bool first_ = true;
+    std::vector<Conversion> waiting_; ///< of one recording: what they have in common is told once
 };
-
-/// Prints the part of one job: without `noted` nothing is lost and there are no faults. `status` is an ExitStatus.
-void printPart(const Job& job, int status, ReportForm form, const std::optional<Noted>& noted = {});
-
-/// "3 steps lost, 1 value assumed, 2 faults", without what there is none of; empty when there is nothing.
-QString countText(const CFxConversionNotes& notes);
-
-/// The JSON Schema of a report in the form Json.
-QByteArray reportSchema();
 
 } // namespace inkmacro

@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace inkmacro {
 
 QString counted(qint64 count, const char* one, const char* many)
@@ -57,6 +59,9 @@ QString shownLetter(const QString& text, int at)
 
 QString shownText(const QString& text, const QString& kept)
 {
+    const auto standsForItself = [](QChar letter) { return letter.unicode() >= ' ' && letter.unicode() < 0x7F; };
+    if (std::all_of(text.begin(), text.end(), standsForItself))
+        return text;
     QString shown;
     for (int i = 0; i < text.length(); ++i)
         shown += kept.contains(text[i]) ? QString(text[i]) : shownLetter(text, i);
@@ -94,9 +99,11 @@ QString listText(const QJsonArray& array)
 /// The keys that only name the type of a value that shows its type by itself are left out.
 QString objectText(const QJsonObject& object)
 {
-    static const QSet<QString> plain{"int",  "int8",  "int16",   "int32",   "double",
-                                     "bool", "point", "point2d", "point3d", "string"};
+    static const QSet<QString> plain{"int",     "int8",    "int16",  "int32",      "double",  "bool",    "point",
+                                     "point2d", "point3d", "string", "collection", "element", "elements"};
     static const QSet<QString> words{"id", "color"};
+    if (object.contains("tag") && object.contains("value"))
+        return valueText(object["tag"]) + ": " + valueText(object["value"]);
     QStringList items;
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
         const QJsonValue value = entry.value();
@@ -104,7 +111,7 @@ QString objectText(const QJsonObject& object)
             items.append(valueText(value));
         else if (words.contains(entry.key()) && value.isString())
             items.append(entry.key() + ' ' + printable(value.toString()));
-        else if (entry.key() != "type")
+        else if (entry.key() != "type" && (entry.key() != "chosen" || value != 0))
             items.append(entry.key() + ' ' + valueText(value));
     }
     return items.isEmpty() ? QStringLiteral("no value") : items.join(", ");

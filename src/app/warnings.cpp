@@ -5,7 +5,7 @@
 #include "app/LoadedModule.h"
 #include "app/StagingFolder.h"
 #include "app/conversion.h"
-#include "app/report.h"
+#include "app/notePlaces.h"
 #include "host/db/OdDbClassMap.h"
 #include "host/kernel/CFxServices.h"
 #include "recordfile/nearestName.h"

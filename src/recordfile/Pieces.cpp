@@ -1,6 +1,7 @@
 #include "recordfile/Pieces.h"
 
 #include "recordfile/actionForms.h"
+#include "recordfile/drawingForms.h"
 
 #include <QJsonDocument>
 
@@ -10,16 +11,21 @@ using namespace recordfile;
 
 namespace {
 
-/// What the form writes, which is read again: no form makes anything but text.
+/// What `write` writes, which is read again: no form makes anything but text.
+template<class Write>
+QJsonValue written(JsonOut out, Write write)
+{
+    // Qt reads documents, and a document is no bare value.
+    out.beginArray();
+    write(out);
+    out.endArray();
+    return QJsonDocument::fromJson(out.bytes()).array().first();
+}
+
 template<class T>
 QJsonValue formJson(const T& value, CFxValueContext context = 0)
 {
-    // Qt reads documents, and a document is no bare value.
-    JsonOut out(context, NeutralKeys::Write);
-    out.beginArray();
-    Form<T>::write(out, value);
-    out.endArray();
-    return QJsonDocument::fromJson(out.bytes()).array().first();
+    return written(JsonOut(context, NeutralKeys::Write), [&](JsonOut& out) { Form<T>::write(out, value); });
 }
 
 } // namespace
@@ -34,17 +40,17 @@ QJsonValue ActionToJson(const OdRxObjectPtr& action, CFxValueContext context)
     return formJson(action, context)[ActionKind(action)];
 }
 
+QJsonObject ObjectToJson(const OdDbObject& object)
+{
+    return written(JsonOut(0), [&](JsonOut& out) { DrawingObjectForm::write(out, object); }).toObject();
+}
+
 QString ActionKind(const OdRxObjectPtr& action)
 {
     for (const Choice<OdRxObjectPtr>& choice : actionChoices())
         if (choice.holds(action))
             return toText(choice.key);
     return {};
-}
-
-QString DataType(const CFxCustomActionData& data)
-{
-    return toText(dataType(data));
 }
 
 } // namespace inkmacro

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "host/db/OdDbObject.h"
 #include "host/kernel/CFxActions.h"
-#include "host/kernel/CFxCustomActionData.h"
 
 #include <QJsonObject>
 
@@ -15,10 +15,10 @@ QJsonValue ValueToJson(const CFxVariant& value);
 /// The value that stands behind the action's kind.
 QJsonValue ActionToJson(const OdRxObjectPtr& action, CFxValueContext context);
 
+/// An object of the drawing, without the keys whose value is that of a new object.
+QJsonObject ObjectToJson(const OdDbObject& object);
+
 /// The key of the action's kind, "null" for a null pointer; empty when a file has no such kind.
 QString ActionKind(const OdRxObjectPtr& action);
-
-/// The key that stands for the type of a custom action's item.
-QString DataType(const CFxCustomActionData& data);
 
 } // namespace inkmacro

@@ -51,8 +51,8 @@ void noteFaults(const ProjectFile& file)
 
 void noteFault(const Fault& fault, const QString& file, std::size_t line)
 {
-    GetFxSystemServices()->Notes().NoteFault([&] {
-        return CFxFaultNote{fault.operation(), fault.reason(), file, static_cast<std::uint32_t>(line), fault.mended()};
+    GetFxSystemServices()->Notes().NoteFault(&fault, file, static_cast<std::uint32_t>(line), [&] {
+        return CFxFaultNote{fault.operation(), fault.reason(), file, fault.mended(), {}};
     });
 }
 

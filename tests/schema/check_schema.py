@@ -42,11 +42,12 @@ DAMAGED = [
 
 # Each gives a report that the schema refuses.
 DAMAGES = [
-    lambda report: report.update(version=1),
+    lambda report: report.update(reportVersion=1),
+    lambda report: report.pop("programVersion"),
     lambda report: report["conversions"][0].update(status="done"),
-    lambda report: report["conversions"][0].pop("macro"),
+    lambda report: report["conversions"][0].pop("target"),
     lambda report: report["conversions"][0]["losses"].append({"line": 3, "what": "a", "reason": "b"}),
-    lambda report: report["conversions"][0]["faults"].append({"file": "a.cs", "line": 3, "reason": "b"}),
+    lambda report: report["conversions"][0]["faults"].append({"file": "a.cs", "line": 3, "lines": [3], "count": 1, "reason": "b", "mended": True}),
 ]
 
 

@@ -68,8 +68,8 @@ class Macro:
 def macro_of(recording, conversion):
     """What the report tells of one conversion."""
     file = pathlib.Path(conversion["macro"])
-    faults = [Fault(*(fault[key] for key in ("file", "line", "operation", "reason", "mended")))
-              for fault in conversion["faults"]]
+    faults = [Fault(fault["file"], line, *(fault[key] for key in ("operation", "reason", "mended")))
+              for fault in conversion["faults"] for line in fault["lines"]]
     return Macro(file.name.partition(".")[0], recording, file.parent, file,
                  tuple(fault for fault in faults if fault.file == file.name),
                  tuple(fault for fault in faults if fault.file != file.name))

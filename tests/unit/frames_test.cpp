@@ -100,7 +100,7 @@ std::vector<std::uint32_t> notedLines(const QString& file, const char* reason)
     std::vector<std::uint32_t> lines;
     for (const CFxFaultNote& note : GetFxSystemServices()->Notes().GetFaults())
         if (note.file.toQString() == file && note.reason.toQString() == reason)
-            lines.push_back(note.line);
+            lines.insert(lines.end(), note.lines.begin(), note.lines.end());
     return lines;
 }
 

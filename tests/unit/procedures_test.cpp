@@ -208,7 +208,7 @@ TEST(Procedures, AreToldToBeTooLongInFaithfulMacros)
         std::vector<std::uint32_t> found;
         for (const CFxFaultNote& fault : write({repeated("        x.Run 1\n", lines)}, false, "test.bas").faults)
             if (fault.reason == CFxString("the procedure is longer than VBA compiles"))
-                found.push_back(fault.line);
+                found = fault.lines;
         return found;
     };
     // Lines of 16 letters.

@@ -24,11 +24,13 @@ std::string shownTarget(Target target)
 }
 
 /// Of the last conversion.
-std::ptrdiff_t timesNoted(const char* reason)
+int timesNoted(const char* reason)
 {
-    return std::ranges::count_if(GetFxSystemServices()->Notes().GetFaults(), [&](const CFxFaultNote& note) {
-        return note.reason.toQString() == QLatin1String(reason);
-    });
+    std::size_t times = 0;
+    for (const CFxFaultNote& note : GetFxSystemServices()->Notes().GetFaults())
+        if (note.reason.toQString() == QLatin1String(reason))
+            times += note.lines.size();
+    return static_cast<int>(times);
 }
 
 TEST(Quoting, EscapesAsTheLanguageDoes)

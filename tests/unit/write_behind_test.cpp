@@ -77,14 +77,15 @@ private:
 TEST(MacroFile, WritesAndNotesInTheOrderOfTheMacro)
 {
     const Written written = write();
-    ASSERT_EQ(written.faults.size(), 40 + 39);
-    EXPECT_EQ(written.faults[0].line, 2 * 8 + 1);
-    EXPECT_EQ(written.faults[1].line, 2 * 1008 + 1 + 1 + 4 + 1);
     const QList<QByteArray> lines = written.text.split('\n');
-    for (const CFxFaultNote& note : written.faults)
-        EXPECT_TRUE(lines[static_cast<int>(note.line) - 1] == "g();" ||
-                    lines[static_cast<int>(note.line) - 1] == "int twice;")
-            << note.line;
+    ASSERT_EQ(written.faults.size(), 2);
+    EXPECT_EQ(written.faults[0].lines.size(), 40);
+    EXPECT_EQ(written.faults[0].lines[0], 2 * 8 + 1);
+    EXPECT_EQ(written.faults[0].lines[1], 2 * 1008 + 1 + 1 + 4 + 1);
+    EXPECT_EQ(written.faults[1].lines.size(), 39);
+    for (const auto& [note, words] : {std::pair(written.faults[0], "g();"), {written.faults[1], "int twice;"}})
+        for (const std::uint32_t line : note.lines)
+            EXPECT_EQ(lines[static_cast<int>(line) - 1], words) << line;
     EXPECT_EQ(lines.size(), 2 * kStatements + 40 + 40 + 40 * 4 + 1);
     EXPECT_TRUE(written.text.endsWith("Line line39999;\nline39999 = f( \xC3\xA4 );\n"));
 }

@@ -33,6 +33,6 @@ void CFxConversionNotes::Forget()
     ForgetKnown();
     losses_ = {};
     assumptions_ = {};
-    faultCount_ = 0;
     faults_.clear();
+    faultKinds_.clear();
 }

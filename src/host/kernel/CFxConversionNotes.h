@@ -30,14 +30,14 @@ using CFxLoss = CFxActionNote;
 /// A value that the macro states and that the recording does not hold, or holds in another form.
 using CFxAssumption = CFxActionNote;
 
-/// A place of the macro or its project that its own language or host rejects or misreads.
+/// What its own language or host rejects or misreads of one file of the macro or its project, wherever it stands there.
 struct CFxFaultNote
 {
-    CFxString operation;    ///< what writes the place, such as "EmitSetColor"
-    CFxString reason;       ///< a clause without a full stop
-    CFxString file;         ///< without folders
-    std::uint32_t line = 0; ///< from 1; 0 when it is not known
-    bool mended = false;    ///< whether a repaired macro is without it
+    CFxString operation;              ///< what writes the place, such as "EmitSetColor"
+    CFxString reason;                 ///< a clause without a full stop
+    CFxString file;                   ///< without folders
+    bool mended = false;              ///< whether a repaired macro is without it
+    std::vector<std::uint32_t> lines; ///< of each place, as they were noted, from 1; 0 where it is not known
     bool operator==(const CFxFaultNote&) const = default;
 };
 
@@ -73,7 +73,7 @@ public:
     /// goes on; nothing when it is empty.
     void OnAction(std::function<void()> call) { onAction_ = std::move(call); }
 
-    /// A host that is about to ask for no more than the numbers of notes spares what tells of them.
+    /// A host that is about to ask for no more than the numbers of losses and assumptions spares what tells of them.
     void KeepAll(bool keeps) { keepsAll_ = keeps; }
 
     /// What is lost of one action in the same way several times counts once.
@@ -98,16 +98,20 @@ public:
     std::size_t GetAssumptionCount() const { return assumptions_.count; }
     const std::vector<CFxAssumption>& GetAssumptions() const { return assumptions_.kept; }
 
-    /// `note` makes the fault's note, when they are kept.
+    /// Kept whether all is or not, since they are few: places of the same `kind`, which is the address of what the
+    /// module knows of the fault, in the same file are one. `note` makes it, without lines.
     template<class Note>
-    void NoteFault(Note note)
+    void NoteFault(const void* kind, const QString& file, std::uint32_t line, Note note)
     {
-        ++faultCount_;
-        if (keepsAll_)
+        std::size_t i = 0;
+        while (i < faults_.size() && (faultKinds_[i] != kind || faults_[i].file.toQString() != file))
+            ++i;
+        if (i == faults_.size()) {
+            faultKinds_.push_back(kind);
             faults_.push_back(note());
+        }
+        faults_[i].lines.push_back(line);
     }
-    std::size_t GetFaultCount() const { return faultCount_; }
-    /// Empty when they are not kept.
     const std::vector<CFxFaultNote>& GetFaults() const { return faults_; }
 
     void Forget();
@@ -150,8 +154,8 @@ private:
     std::vector<Known> known_; ///< of the action, as long as they are few: most actions lose little
     QSet<Known> manyKnown_;    ///< else all of them
     bool keepsAll_ = true;
-    std::size_t faultCount_ = 0;
     ActionNotes losses_;
     ActionNotes assumptions_;
     std::vector<CFxFaultNote> faults_;
+    std::vector<const void*> faultKinds_; ///< of each of the faults
 };

@@ -1,0 +1,83 @@
+// The form of reports for programs.
+
+#include "app/reportSchema.h"
+
+#include "app/ExitStatus.h"
+#include "recordfile/SchemaDefinitions.h"
+
+#include <QJsonDocument>
+
+namespace inkmacro {
+
+using namespace recordfile;
+
+namespace {
+
+QJsonObject noteSchema(const char* what)
+{
+    ObjectSchema note;
+    note.add("line", "the line of the recording, from 1", typeSchema("integer"), true);
+    note.add("path", "the place of the action within the line, such as command.actions[2]; empty for the whole line",
+             typeSchema("string"), true);
+    note.add("what", what, typeSchema("string"), true);
+    note.add("reason", "why", typeSchema("string"), true);
+    return note.json();
+}
+
+QJsonObject faultSchema()
+{
+    ObjectSchema fault;
+    fault.add("file", "the file's name, without folders", typeSchema("string"), true);
+    fault.add("line", "the first of the lines", typeSchema("integer"), true);
+    fault.add("count", "how many places have it", typeSchema("integer"), true);
+    fault.add("lines", "the line of each place, from 1; 0 when it is not known", listSchema(typeSchema("integer")),
+              true);
+    fault.add("operation", "what writes the places", typeSchema("string"), true);
+    fault.add("reason", "why their own language or host rejects or misreads them", typeSchema("string"), true);
+    fault.add("mended", "whether --repair writes the macro without it", typeSchema("boolean"), true);
+    return fault.json();
+}
+
+QJsonObject conversionSchema()
+{
+    ObjectSchema conversion;
+    conversion.add("input", "the recording; - is standard input", typeSchema("string"), true);
+    conversion.add("target", "the language of the macro", typeSchema("string"), true);
+    conversion.add("status", "how it ended",
+                   enumSchema({statusWord(kDone), statusWord(kFailed), statusWord(kUnreadable)}), true);
+    conversion.add("error", "why it did not end well", typeSchema("string"), false);
+    conversion.add("macro", "the macro file, when it was written; - is standard output", typeSchema("string"), false);
+    conversion.add("project", "the files of the project around it that were written", listSchema(typeSchema("string")),
+                   true);
+    conversion.add("losses", "what the user did and the macro does not",
+                   listSchema(noteSchema("what is lost: an action, an object or a property of one")), true);
+    conversion.add("assumed", "values that the macro states and the recording does not hold, or holds in another form",
+                   listSchema(noteSchema("what has the value: an action or a property of an object")), true);
+    conversion.add("faults", "what the macro's or its project's own language or host rejects or misreads",
+                   listSchema(faultSchema()), true);
+    return conversion.json();
+}
+
+} // namespace
+
+QString statusWord(int status)
+{
+    return status == kDone ? "converted" : status == kUnreadable ? "unreadable" : "failed";
+}
+
+QByteArray reportSchema()
+{
+    ObjectSchema document;
+    QJsonObject version = typeSchema("integer");
+    version.insert("const", kReportVersion);
+    document.add(kReportVersionKey, "of the form of this report", version, true);
+    document.add(kProgramVersionKey, "of the program that wrote it", typeSchema("string"), true);
+    document.add(kConversionsKey, "recording by recording, and within one target by target",
+                 listSchema(conversionSchema()), true);
+    QJsonObject schema = document.json();
+    schema.insert("$schema", "https://json-schema.org/draft/2020-12/schema");
+    schema.insert("title", "What macros lack and where they are faulty");
+    return QJsonDocument(schema).toJson();
+}
+
+} // namespace inkmacro
