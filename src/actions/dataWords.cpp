@@ -30,6 +30,7 @@ constexpr DatumWords isOfSheet{kBool, "it is one of a sheet"};
 constexpr DatumWords viewSheet{
     kString, "the sheet: its own, or the one that is active again behind it; empty or Model for none"};
 constexpr DatumWords theView{kHandle, "the view"};
+constexpr DatumWords viewOfBackground{.type = kHandle, .meaning = "the view", .makes = true};
 constexpr DatumWords itsName{kString, "its name"};
 constexpr DatumWords unused{kBool, "not used"};
 constexpr DatumWords elementNumber{kInt, "the number of the element"};
@@ -58,7 +59,7 @@ constexpr DataWords allWords[] = {
       {kHandleArray, "the objects that are cut"},
       theirClasses,
       {kPointArray, "where each was picked"},
-      {kHandleArray, "what stands when it is done"},
+      {.type = kHandleArray, .meaning = "what stands when it is done", .makes = true},
       theirClasses,
       {kPointArray, "a point on each of these"},
       {kDoubleArray,
@@ -150,7 +151,7 @@ constexpr DataWords allWords[] = {
       {kPointArray,
        "one a vertex, its x the bulge of the segment that begins there: the tangent of a quarter of the arc's angle"},
       {kBool, "it is closed"},
-      thePolyline,
+      {.type = kHandle, .meaning = "the polyline", .makes = true},
       itsClass,
       {kDoubleArray, "widths at the start of the segments"},
       {kDoubleArray, "widths at their end"},
@@ -247,7 +248,7 @@ constexpr DataWords allWords[] = {
       {kDouble, "its width at the start"},
       {kDouble, "at the end"}}},
     {kViewBackground,
-     {theView,
+     {viewOfBackground,
       itsClass,
       isMadeHere,
       isOfSheet,
@@ -256,7 +257,7 @@ constexpr DataWords allWords[] = {
       {kString, "a solid background", "Solid..."},
       {kColor, "its color"}}},
     {kViewBackground,
-     {theView,
+     {viewOfBackground,
       itsClass,
       isMadeHere,
       isOfSheet,
@@ -269,7 +270,7 @@ constexpr DataWords allWords[] = {
       {kColor, "at the bottom"},
       patternAngle}},
     {kViewBackground,
-     {theView,
+     {viewOfBackground,
       itsClass,
       isMadeHere,
       isOfSheet,
@@ -286,7 +287,13 @@ constexpr DataWords allWords[] = {
       {kDouble, "the same"},
       {kDouble, "the same"}}},
     {kViewBackground,
-     {theView, itsClass, isMadeHere, isOfSheet, viewSheet, itsName, {kString, "anything else: no background"}}},
+     {viewOfBackground,
+      itsClass,
+      isMadeHere,
+      isOfSheet,
+      viewSheet,
+      itsName,
+      {kString, "anything else: no background"}}},
     {42, {thePolyline, itsClass, {kInt, "a vertex, from 0: the new one stands behind it"}, {kPoint, "the new vertex"}}},
     {42, {thePolyline, itsClass, {kInt, "the vertex that goes"}}},
     {43, {{kString, "an enumerator such as iwZoomRange_Fit"}}},
@@ -298,7 +305,7 @@ constexpr DataWords allWords[] = {
      {{kPointArray, "the corners"},
       {kPointArray, "not used"},
       unused,
-      {kHandle, "the viewport"},
+      {.type = kHandle, .meaning = "the viewport", .makes = true},
       itsClass,
       {kString, "the sheet"}}},
     {47, {{kString, "the print style"}, {kBool, "of the model"}, {kString, "else the sheet"}}},
@@ -308,7 +315,7 @@ constexpr DataWords allWords[] = {
      {{kBool, "the whole display is divided, else the active tile"},
       {kInt, "how, from 0: 1, 2 vertical, 2 horizontal, 3 right, 3 left, 3 above, 3 below, 3 vertical, 3 horizontal, "
              "4 equal, 4 right, 4 left"},
-      {kHandleArray, "the new tiles"},
+      {.type = kHandleArray, .meaning = "the new tiles", .makes = true},
       theirClasses}},
     {50, {{kHandle, "an object"}, itsClass, {kHandle, "what is joined with it"}, itsClass}},
     {55, {{kHandleArray, "the objects"}, theirClasses}},

@@ -14,6 +14,7 @@ struct DatumWords
     CFxCustomActionData::_Type type;
     const char* meaning;         ///< a phrase
     const char* value = nullptr; ///< that it must have in this form
+    bool makes = false;          ///< it names what the action makes
 };
 
 /// One way in which the data of a kind come.

@@ -130,9 +130,11 @@ struct Replay
 std::int32_t ConvertInteraction(Conversion& conversion, const CFxUserInteraction& interaction, Statement& text)
 {
     const OdResBufPtr result = interaction.GetResult();
-    // A prompt that was cancelled leaves no trace.
-    if (!result)
+    // A prompt that was cancelled leaves no trace in the macro.
+    if (!result) {
+        NoteLoss(ActionTitle(&interaction), "it has no answer, so the macro does not ask");
         return kFxSuccess;
+    }
     const std::int32_t number = interaction.GetInteractionKind();
     if (number < 0 || static_cast<std::size_t>(number) >= promptKinds.size())
         return kFxFailure;

@@ -3,19 +3,14 @@
 #include "app/checking.h"
 
 #include "app/ExitStatus.h"
-#include "app/StagingFolder.h"
 #include "app/actionCount.h"
 #include "app/console.h"
-#include "app/conversion.h"
-#include "app/notePlaces.h"
 #include "app/reading.h"
 #include "app/valueText.h"
-#include "host/kernel/CFxServices.h"
+#include "app/warnings.h"
 #include "recordfile/JsonOut.h"
-#include "statements/hostSettings.h"
 
 #include <algorithm>
-#include <map>
 
 namespace inkmacro {
 
@@ -26,91 +21,13 @@ namespace {
 constexpr std::size_t kMostErrors = 20;
 constexpr std::size_t kMostWarnings = 20;
 
-/// Of a place in a recording; with the file's name it reads as an error does.
-struct Warning
-{
-    qint64 line;
-    QString path; ///< empty for the whole line
-    QString message;
-
-    QString text(const QString& file) const
-    {
-        return QString("%1:%2: %3warning: %4").arg(file).arg(line).arg(path.isEmpty() ? path : path + ": ", message);
-    }
-};
-
-using Warnings = std::vector<Warning>;
-
-/// What a conversion notes says most of it: VBA has the most statements, and a macro of it is a single file.
-void addConversionNotes(const Recording& recording, Warnings& warnings)
-{
-    const TargetRow& target = *std::ranges::find(targetTable, Target::Vba, &TargetRow::target);
-    const std::string name = "check.bas";
-    const StagingFolder folder(std::filesystem::temp_directory_path(), {name});
-    CFxConversionNotes& notes = GetFxSystemServices()->Notes();
-    notes.KeepAll(true);
-    GetFxSystemServices()->SetInt16(kIgnoreFaults, 1);
-    runModule(target, QString::fromStdString(folder.file(name).string()), recording, {});
-    for (const auto* const list : {&notes.GetLosses(), &notes.GetAssumptions()})
-        for (const CFxActionNote& note : *list)
-            warnings.push_back({lineOf(note.where, recording), pathOf(note.where),
-                                note.what.toQString() + ": " + note.reason.toQString()});
-}
-
-/// Goes through the actions, those within commands too.
-class Handles
-{
-public:
-    Handles(const Recording& recording, Warnings& warnings) : recording_(recording), warnings_(warnings) {}
-
-    void addDoubled()
-    {
-        for (unsigned i = 0; i < recording_.actions.length(); ++i)
-            look(recording_.actions[i], {i});
-    }
-
-private:
-    void look(const OdRxObjectPtr& action, const CFxActionPlace& place)
-    {
-        if (const auto command = odrxQuery<CFxUserCommand>(action.get())) {
-            const CFxActionArray& children = command->GetActions();
-            for (unsigned i = 0; i < children.length(); ++i) {
-                CFxActionPlace within = place;
-                within.push_back(i);
-                look(children[i], within);
-            }
-        } else if (const auto added = odrxQuery<CFxObjectAdded>(action.get())) {
-            const qint64 line = lineOf(place, recording_);
-            const auto [first, isNew] = lines_.try_emplace(added->GetHandle(), line);
-            if (!isNew)
-                warnings_.push_back({line, pathOf(place),
-                                     QString("handle %1 has been added in line %2 already")
-                                         .arg(added->GetHandle().ascii())
-                                         .arg(first->second)});
-        }
-    }
-
-    const Recording& recording_;
-    Warnings& warnings_;
-    std::map<OdDbHandle, qint64> lines_;
-};
-
-Warnings warningsOf(const Recording& recording)
-{
-    Warnings warnings;
-    Handles(recording, warnings).addDoubled();
-    addConversionNotes(recording, warnings);
-    std::ranges::stable_sort(warnings, {}, &Warning::line);
-    return warnings;
-}
-
 struct Checked
 {
     QString file;
     int actions = 0;
     QString actionText;
     std::vector<RecordingError> errors;
-    Warnings warnings;
+    std::vector<Warning> warnings;
 };
 
 Checked check(const QString& file)

@@ -334,8 +334,9 @@ const std::vector<CommandRow> commandRows = {
         .form = "FILE...",
         .text = R"(Reads recordings and says what is wrong with up to 20 lines of each; writes
 nothing. Of a recording that can be read it warns of what is probably not what
-was meant: what a conversion to VBA loses or assumes, and handles that are
-added twice.)",
+was meant: what a conversion to VBA loses or assumes, with the class or tag
+that a misspelled one may stand for, handles that are added twice, and handles
+that neither the drawing nor the recording up to there has.)",
         .options = checkOptions,
     },
     {

@@ -4,6 +4,7 @@
 
 #include "app/commandTable.h"
 
+#include <algorithm>
 #include <array>
 
 namespace inkmacro {
@@ -55,6 +56,16 @@ const char* const bashFrame = R"(# Completes inkmacro in bash; made by `inkmacro
 _inkmacro_words() {
     compopt +o default +o bashdefault
     COMPREPLY=($(compgen -W "$1" -- "$word"))
+}
+
+_inkmacro_words_or_files() {
+    local file
+    COMPREPLY=($(compgen -W "$1" -- "$word"))
+    [[ $COMPREPLY ]] || return
+    compopt -o filenames
+    while IFS= read -r file; do
+        COMPREPLY+=("$file")
+    done < <(compgen -f -- "$word")
 }
 
 _inkmacro_list() {
@@ -110,18 +121,29 @@ QString bashOffer(Offer offer, QStringList (*list)())
     return "_inkmacro_words ''; ";
 }
 
-/// The forms of an option that a value stands behind, each as the shell sees it in front of the value.
-QString bashPatterns(const CommandRow& row, const OptionRow& option)
+/// Of a case for a command with one of these words, which the shell sees in front of the value.
+QString bashPatterns(const CommandRow& row, const QStringList& names)
 {
-    QStringList names{QString("%1=").arg(option.name)};
-    if (!option.mayLack)
-        names.prepend(option.name);
-    if (option.letter != 0)
-        names.append(letterOf(option));
     QStringList patterns;
     for (const QString& name : names)
         patterns.append(quoted(QString("%1 %2").arg(row.name, name)));
     return patterns.join(" | ");
+}
+
+QString bashCases(const CommandRow& row, const OptionRow& option)
+{
+    QStringList apart{option.name};
+    if (option.letter != 0)
+        apart.append(letterOf(option));
+    const QStringList joined{QString("%1=").arg(option.name)};
+    const QString offer = bashOffer(option.offer, option.words);
+    const QString line("        %1) %2return ;;\n");
+    if (!option.mayLack)
+        return line.arg(bashPatterns(row, apart + joined), offer);
+    const QString orNone = QString("%1 %2; ").arg(takesFiles(row) ? "_inkmacro_words_or_files" : "_inkmacro_words",
+                                                  quoted(words(option.words)));
+    return line.arg(bashPatterns(row, joined), offer) +
+           QString("        %1) if [[ $word != -* ]]; then %2return; fi ;;\n").arg(bashPatterns(row, apart), orNone);
 }
 
 QString bashCompletion()
@@ -132,8 +154,7 @@ QString bashCompletion()
     for (const CommandRow& row : commandTable()) {
         for (const OptionRow& option : row.options)
             if (option.form)
-                values += QString("        %1) %2return ;;\n")
-                              .arg(bashPatterns(row, option), bashOffer(option.offer, option.words));
+                values += bashCases(row, option);
         const QString names = quoted(optionNames(optionsOf(row)));
         const QString operands =
             takesFiles(row) ? QString(":") : "_inkmacro_words " + quoted(row.words ? words(row.words) : QString());
@@ -209,7 +230,7 @@ QString zshSpec(const OptionRow& option)
         value = QString("%1%2:%3").arg(option.mayLack ? "::" : ":", zshEscaped(option.form),
                                        zshOffer(option.offer, option.words));
     const QString rest = quoted('[' + zshEscaped(option.meaning) + ']' + value);
-    const QString longName = option.form ? name + (option.mayLack ? "=-" : "=") : name;
+    const QString longName = option.form ? name + '=' : name;
     const QString without = option.repeats       ? QString("\\*")
                             : option.letter != 0 ? QString("'(%1 %2)'").arg(letterOf(option), name)
                                                  : QString();
@@ -286,6 +307,20 @@ QString fishLine(const QString& condition, const OptionRow& option)
     return rule + " -d " + quoted(option.meaning) + '\n';
 }
 
+/// Words behind an option that fish takes for no value of it: where one may lack, and where they begin as options do.
+QString fishWordsBehind(const QString& condition, const OptionRow& option)
+{
+    if (!option.words)
+        return {};
+    const QStringList offered = option.words();
+    const bool likeOptions = std::ranges::any_of(offered, [](const QString& word) { return word.startsWith('-'); });
+    if (!option.mayLack && !likeOptions)
+        return {};
+    const QString names = option.letter != 0 ? letterOf(option) + ' ' + option.name : QString(option.name);
+    return "complete -c inkmacro -n " + quoted(condition + "; and __fish_prev_arg_in " + names) + " -a " +
+           quoted(offered.join(' ')) + '\n';
+}
+
 QString fishCompletion()
 {
     const QString alone = "__fish_use_subcommand";
@@ -300,7 +335,7 @@ QString fishCompletion()
         if (row.words)
             rules += "complete -c inkmacro -n " + quoted(behind) + " -a " + quoted(words(row.words)) + '\n';
         for (const OptionRow& option : optionsOf(row))
-            rules += fishLine(behind, option);
+            rules += fishLine(behind, option) + fishWordsBehind(behind, option);
     }
     return QString(fishFrame).arg(rules);
 }

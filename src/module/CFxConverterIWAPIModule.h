@@ -19,8 +19,9 @@ struct CFxKnownFault
 struct CFxActionDatum
 {
     CFxCustomActionData::_Type type = CFxCustomActionData::kInt16;
-    CFxString meaning; ///< a phrase
-    CFxString value;   ///< what it has to be, where the form is told by it; else empty
+    CFxString meaning;  ///< a phrase
+    CFxString value;    ///< what it has to be, where the form is told by it; else empty
+    bool makes = false; ///< whether it names what the action makes, which need not have been there before
 };
 
 /// One way in which a kind of custom action says what was done.

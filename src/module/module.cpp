@@ -45,7 +45,7 @@ std::vector<CFxActionForm> formsOf(std::int32_t kind)
         CFxActionForm& form = forms.emplace_back();
         form.repeated = words.repeated;
         for (const inkmacro::DatumWords& datum : words.data)
-            form.data.push_back({datum.type, datum.meaning, QString(datum.value)});
+            form.data.push_back({datum.type, datum.meaning, QString(datum.value), datum.makes});
     }
     return forms;
 }

@@ -214,22 +214,29 @@ const QSet<QString>& takenWords()
     return words;
 }
 
-/// Of the language, and types and operations that a macro names as they are.
-const QSet<QString>& csharpWords()
+/// They are small.
+const QSet<QString>& csharpKeywords()
 {
     static const QSet<QString> words = wordsOf(
         "abstract as base bool break byte case catch char checked class const continue decimal default delegate do "
         "double else enum event explicit extern false finally fixed float for foreach goto if implicit in int "
         "interface internal is lock long namespace new null object operator out override params private protected "
         "public readonly ref return sbyte sealed short sizeof stackalloc static string struct switch this throw true "
-        "try typeof uint ulong unchecked unsafe ushort using virtual void volatile while "
-        "Application Color CommandMessage Console DispatchWrapper Document Environment Exception IWAPIMacros Inkwright "
-        "LayerManager Marshal Math MathPoint MathUtility Model Object Program Run SelectionManager Sheet SketchManager "
-        "String System Type ViewManager");
+        "try typeof uint ulong unchecked unsafe ushort using virtual void volatile while");
     return words;
 }
 
-const QSet<QString>& basicWords()
+/// Types and namespaces that a macro names as they are, beside those of drawing objects.
+const QSet<QString>& csharpTypes()
+{
+    static const QSet<QString> words = wordsOf(
+        "Application Color CommandMessage Console DispatchWrapper Document Environment Exception IWAPIMacros Inkwright "
+        "LayerManager Marshal Math MathPoint MathUtility Model Object SelectionManager Sheet SketchManager String "
+        "System Type ViewManager");
+    return words;
+}
+
+const QSet<QString>& basicKeywords()
 {
     static const QSet<QString> words = wordsOf(
         "addhandler addressof alias and andalso as boolean byref byte byval call case catch cbool cbyte cchar cdate "
@@ -241,14 +248,28 @@ const QSet<QString>& basicWords()
         "option optional or orelse overloads overridable overrides paramarray partial private property protected "
         "public raiseevent readonly redim rem removehandler resume return sbyte select set shadows shared short single "
         "static step stop string structure sub synclock then throw to true try trycast typeof uinteger ulong ushort "
-        "using variant wend when while widening with withevents writeonly xor "
-        "_ console dispatchwrapper environment exception inkwright main marshal math microsoft module1 system");
+        "using variant wend when while widening with withevents writeonly xor");
     return words;
+}
+
+/// A macro names types of the interface with their namespace.
+const QSet<QString>& basicTypes()
+{
+    static const QSet<QString> words =
+        wordsOf("console dispatchwrapper environment exception inkwright marshal math microsoft system");
+    return words;
+}
+
+/// Types are found as they are written, where a word of another case is another one.
+bool isCSharpType(const QString& name)
+{
+    const InterfaceType* const type = FindInterface(name);
+    return csharpTypes().contains(name) || (type && name == QLatin1String(type->name));
 }
 
 bool isTaken(const QString& name)
 {
-    return takenWords().contains(name.toLower()) || FindInterface(name);
+    return takenWords().contains(name.toLower()) || FindInterface(name) || csharpTypes().contains(name);
 }
 
 } // namespace
@@ -276,21 +297,26 @@ bool breaksQuotes(QStringView written, QStringView meant, Target target)
     return !read || QStringView(*read) != meant;
 }
 
-bool isLegalName(const QString& name, Target target)
+NameFlaw flawOf(const QString& name, Target target)
 {
     const bool ascii = target == Target::CppCom;
     const auto belongs = [ascii](QChar character) {
         return (character.isLetterOrNumber() && (!ascii || character.unicode() < 0x80)) || character == '_';
     };
-    if (name.isEmpty() || name.front().isDigit() || !std::all_of(name.begin(), name.end(), belongs))
-        return false;
+    const bool isLone = target == Target::VbNet && name == QLatin1String("_");
+    if (name.isEmpty() || isLone || name.front().isDigit() || !std::all_of(name.begin(), name.end(), belongs))
+        return NameFlaw::NoIdentifier;
     const QString lower = name.toLower();
-    if (target == Target::CSharp) {
-        // Words of the language are small, types begin with a capital.
-        const InterfaceType* const type = FindInterface(name);
-        return !csharpWords().contains(name) && !(type && name == QLatin1String(type->name));
-    }
-    return target == Target::VbNet ? !basicWords().contains(lower) : !isTaken(name);
+    if (target == Target::CSharp && csharpKeywords().contains(name))
+        return NameFlaw::Keyword;
+    if (target == Target::VbNet && basicKeywords().contains(lower))
+        return NameFlaw::Keyword;
+    if (target == Target::CSharp ? isCSharpType(name) : target == Target::VbNet && basicTypes().contains(lower))
+        return NameFlaw::HidesType;
+    const bool namesOther = (target == Target::CSharp && name == QLatin1String("Run")) ||
+                            (target == Target::VbNet && lower == QLatin1String("module1"));
+    // What C++ COM makes of a name is neither a keyword nor another name.
+    return namesOther ? NameFlaw::NamesOther : NameFlaw::None;
 }
 
 QString legalName(const QString& name)

@@ -23,9 +23,17 @@ inline constexpr QLatin1String basicLineFeed("\" & vbLf & \"", 12);
 /// Whether what is written between quotes ends them, or is read as another text than the one that is meant.
 bool breaksQuotes(QStringView written, QStringView meant, Target target);
 
-/// Whether the target takes the name for one of its own making: that of a class in .NET's languages, what the names of
-/// a project and its files are made of in C++ COM.
-bool isLegalName(const QString& name, Target target);
+/// What a name lacks to be one of the target's own making: that of a class in .NET's languages, what names in a project
+/// are made of in C++ COM.
+enum class NameFlaw
+{
+    None,
+    NoIdentifier,
+    Keyword,
+    HidesType,  ///< or a namespace
+    NamesOther, ///< a method of the class, or a module beside it
+};
+NameFlaw flawOf(const QString& name, Target target);
 
 /// A name of letters, digits and underscores that no target takes for a keyword, a type or a file of its own.
 QString legalName(const QString& name);

@@ -23,9 +23,25 @@
 
 using namespace inkmacro;
 
-const Fault MacroFrame::kIllegalName{"EmitFileHeader",
-                                     {Target::CSharp, Target::VbNet, Target::CppCom},
-                                     "the file's name stands in code, where it is no identifier"};
+static const Fault kIllegalName{"EmitFileHeader",
+                                {Target::CSharp, Target::VbNet, Target::CppCom},
+                                "the file's name stands in code, where it is no identifier"};
+
+static const Fault kKeyword{
+    "EmitFileHeader", {Target::CSharp, Target::VbNet}, "the file's name stands in code, where it is a keyword"};
+
+static const Fault kHidesType{"EmitFileHeader",
+                              {Target::CSharp, Target::VbNet},
+                              "the file's name stands in code, where a type or a namespace has it already"};
+
+static const Fault kNamesOther{
+    "EmitFileHeader",
+    {Target::CSharp, Target::VbNet},
+    "the file's name stands in code, where a method or a module of the macro has it already"};
+
+static const Fault kOtherHeader{"EmitFileHeader",
+                                {Target::Cpp, Target::CppCom},
+                                "an #include that is meant for a library finds the header named after the file"};
 
 static const Fault kOtherFile{"EmitProjectText",
                               {Target::CSharp, Target::VbNet, Target::Cpp, Target::CppCom},
@@ -45,9 +61,44 @@ QString MacroFrame::identifier(const QString& name) const
     return mended(name, legalName(name));
 }
 
+const Fault* MacroFrame::faultOfName(const QString& name) const
+{
+    switch (flawOf(name, writer.target)) {
+    case NameFlaw::None:
+        break;
+    case NameFlaw::NoIdentifier:
+        return &kIllegalName;
+    case NameFlaw::Keyword:
+        return &kKeyword;
+    case NameFlaw::HidesType:
+        return &kHidesType;
+    case NameFlaw::NamesOther:
+        return &kNamesOther;
+    }
+    return nullptr;
+}
+
 Statement MacroFrame::faultyName(const QString& name, const Statement& text) const
 {
-    return isLegalName(name, writer.target) ? text : writer.faulty(text, kIllegalName);
+    const Fault* const fault = faultOfName(name);
+    return fault ? writer.faulty(text, *fault) : text;
+}
+
+Statement MacroFrame::withHeaders(Statement head, const QString& name, std::initializer_list<const char*> headers) const
+{
+    // Where such macros are built, names of files do not differ in case.
+    const auto* const header = std::find_if(headers.begin(), headers.end(), [&](const char* known) {
+        return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
+    });
+    if (header == headers.end())
+        return head;
+    const QString words = QString("#include \"%1.h\"").arg(*header);
+    const int place = head.text().lastIndexOf(words);
+    if (writer.repairs)
+        return QString(head.text()).replace(place, words.size(), QString("#include <%1.h>").arg(*header));
+    if (writer.notesFaults)
+        head.addFault(kOtherHeader, place);
+    return head;
 }
 
 Statement MacroFrame::sheetName() const

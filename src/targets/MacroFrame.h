@@ -2,6 +2,7 @@
 
 #include "statements/Writer.h"
 
+#include <initializer_list>
 #include <memory>
 
 /// What varies by language in more than words: the head and the foot of the macro file, and the project around it. One
@@ -25,8 +26,6 @@ public:
     virtual const char* refusal(const QString&) const { return nullptr; }
 
 protected:
-    static const inkmacro::Fault kIllegalName;
-
     /// Of two forms the one that suits the macro: when it is repaired the second.
     template<class Form>
     Form mended(Form faithful, Form repaired) const
@@ -37,8 +36,13 @@ protected:
     const char* encoding() const { return mended("windows-1252", "utf-8"); }
     /// The name that stands in code for that of the macro's file: itself, in a repaired macro one that is legal.
     QString identifier(const QString& name) const;
-    /// The text with a note when the name in it is no identifier.
+    /// What is wrong with the name of the macro's file where it stands in code; null when nothing is.
+    const inkmacro::Fault* faultOfName(const QString& name) const;
+    /// The text with a note of that.
     Statement faultyName(const QString& name, const Statement& text) const;
+    /// The head of a macro, which includes those headers of libraries too: without their ".h". One that has the name of
+    /// the macro's file, and so of a header beside it, is found in a repaired macro only.
+    Statement withHeaders(Statement head, const QString& name, std::initializer_list<const char*> headers) const;
     /// The name of the sheet on which the recording began, for the head. Where the head has no use for one because it
     /// has no sketch manager, nothing, with a note of that.
     Statement sheetName() const;

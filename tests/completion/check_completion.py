@@ -22,10 +22,12 @@ CASES = (("conv", "convert"), ("check wal", "walls.jsonl"), ("inspect --js", "--
          ("convert walls.jsonl --outp", "--output"), ("convert --target java", "javascript"),
          ("convert --target=java", "--target=javascript"), ("convert -t java", "javascript"),
          ("convert -t vba,cpp,javas", "vba,cpp,javascript"), ("convert -t vba -o wal", "walls.jsonl"),
-         ("convert --report=te", "--report=text"), ("convert --report wal", "walls.jsonl"),
+         ("convert --report=te", "--report=text"), ("convert --report te", "text"),
+         ("convert --report wal", "walls.jsonl"), ("convert --report --outp", "--output"),
          ("convert --line-styles st", "styles"), ("convert --option-names=wal", "--option-names=walls.jsonl"),
          ("convert walls.jsonl -t vba --rec", "--recording-language"), ("convert --install-dir wal", "wal"),
-         ("run walls.jsonl --command=-HY", "--command=-HYPERLINK"), ("run walls.jsonl --comm", "--command"),
+         ("run walls.jsonl --command=-HY", "--command=-HYPERLINK"), ("run walls.jsonl --command -HY", "-HYPERLINK"),
+         ("run walls.jsonl --comm", "--command"),
          ("snapshot --handle wal", "wal"), ("schema rep", "report"), ("schema wal", "wal"), ("faults wal", "wal"),
          ("completion fi", "fish"), ("convert -- --outp", "--outp"))
 
@@ -138,8 +140,11 @@ def check_whole(name, shell, program):
     commands = re.findall(r"^  inkmacro ([a-z][a-z-]*)", output(program, "--help"), re.MULTILINE)
     options = {command: re.findall(r"^  (?:-., )?(--[a-z-]+)", output(program, command, "--help"), re.MULTILINE)
                for command in commands}
+    wanted_behind = {"": commands, **{f"{command} --": names for command, names in options.items()},
+                     "convert --report ": ["json", "text", "walls.jsonl"],
+                     "run walls.jsonl --command ": ["-HYPERLINK", "-LINESTYLE"]}
     good = True
-    for line, wanted in [("", commands)] + [(f"{command} --", names) for command, names in options.items()]:
+    for line, wanted in wanted_behind.items():
         offered = {word.rstrip("=") for word in shell.all(line)}
         if not set(wanted) <= offered:
             print(f"{name}: behind {line!r} come {sorted(offered)}, but not all of {wanted}")

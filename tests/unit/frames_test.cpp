@@ -386,6 +386,25 @@ TEST_F(Frames, TellWhereABadNameStandsInTheProject)
     }
 }
 
+TEST_F(Frames, TellWhereALibraryIsHiddenByTheNameOfAMacro)
+{
+    static constexpr char reason[] = "an #include that is meant for a library finds the header named after the file";
+    const std::tuple<std::uint32_t, QString, QString> places[] = {
+        {0, "math", "math"}, {0, "iwsheet_c", "iwSheet_c"}, {4, "Math", "math"}};
+    for (const auto& [language, name, header] : places) {
+        const QString macro = name + ".cpp";
+        ASSERT_EQ(CreateConverter(language, 0, 0)->Convert(path(macro), {}), kFxSuccess);
+        const std::uint32_t last = linesWith(path(macro), "#include \"" + header + ".h\"").back();
+        EXPECT_EQ(notedLines(macro, reason), std::vector{last}) << qPrintable(name);
+        const TestRepair repair;
+        ASSERT_EQ(CreateConverter(language, 0, 0)->Convert(path(macro), {}), kFxSuccess);
+        EXPECT_EQ(linesWith(path(macro), "#include <" + header + ".h>"), std::vector{last}) << qPrintable(name);
+        EXPECT_EQ(linesWith(path(macro), "#include \"" + name + ".h\"").size(), 1U) << qPrintable(name);
+    }
+    ASSERT_EQ(CreateConverter(4, 0, 0)->Convert(path("iwSheet_c.cpp"), {}), kFxSuccess);
+    EXPECT_TRUE(notedLines("iwSheet_c.cpp", reason).empty());
+}
+
 TEST_F(Frames, TellWhereTheirHeadsSuitNoSheet)
 {
     static constexpr char breaksQuotes[] =

@@ -81,8 +81,8 @@ TEST(Losses, AreNoneOfWhatIsPassedOverByRule)
     const QByteArray cases[] = {
         // Asked again only in a replay.
         command(R"({"interaction":{"kind":"angle","prompt":"A:","result":{"type":5004,"double":0.5}}},)"
+                R"({"interaction":{"kind":"angle","prompt":"A:","result":null}},)"
                 R"({"selection":{"objects":[]}},{"sysvar":{"name":"NOSUCH","value":{"int16":1}}})"),
-        replay + command(R"({"interaction":{"kind":"angle","prompt":"A:","result":null}})"),
         // A block brings the values of its attributes.
         R"({"object":{"class":"AcDbBlockTableRecord","handle":"60","name":"Stamp"}}
 {"object":{"class":"AcDbAttribute","handle":"62","tag":"DATE","textString":"today"}}
@@ -178,6 +178,8 @@ TEST(Losses, OfObjectsTellTheirReason)
          "0.0 custom fillet: the interface has no operation for all corners of a polyline"},
         {replay + command(R"({"sysvar":{"name":"NOSUCH","value":{"int16":1}}})"),
          "0.0 sysvar NOSUCH: the interface has no option for it"},
+        {replay + command(R"({"interaction":{"kind":"angle","prompt":"A:","result":null}})"),
+         "0.0 interaction: it has no answer, so the macro does not ask"},
     };
     for (const auto& [lines, loss] : cases)
         EXPECT_EQ(lossesOf(lines), Lines{loss});

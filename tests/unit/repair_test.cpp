@@ -111,21 +111,33 @@ TEST(Quoting, TellsTextsThatBreakTheirQuotes)
 
 TEST(Quoting, KnowsTheNamesOfEachTarget)
 {
+    using enum NameFlaw;
     struct Case
     {
         const char* name;
-        bool csharp, vbNet, cppCom;
+        NameFlaw csharp, vbNet, cppCom;
     };
     const Case cases[] = {
-        {"plate_2", true, true, true},    {"line", true, true, false},   {"Line", false, true, false},
-        {"class", false, false, false},   {"Class", true, false, false}, {"gr\u00F6\u00DFe", true, true, false},
-        {"dim", true, false, false},      {"1st", false, false, false},  {"a b", false, false, false},
-        {"Console", false, false, false}, {"stdafx", true, true, false}, {"", false, false, false},
+        {"plate_2", None, None, None},
+        {"line", None, None, None},
+        {"Line", HidesType, None, None},
+        {"class", Keyword, Keyword, None},
+        {"Class", None, Keyword, None},
+        {"gr\u00F6\u00DFe", None, None, NoIdentifier},
+        {"dim", None, Keyword, None},
+        {"1st", NoIdentifier, NoIdentifier, NoIdentifier},
+        {"a b", NoIdentifier, NoIdentifier, NoIdentifier},
+        {"_", None, NoIdentifier, None},
+        {"Console", HidesType, HidesType, None},
+        {"console", None, HidesType, None},
+        {"Run", NamesOther, None, None},
+        {"module1", None, NamesOther, None},
+        {"", NoIdentifier, NoIdentifier, NoIdentifier},
     };
     for (const Case& one : cases) {
-        EXPECT_EQ(isLegalName(one.name, Target::CSharp), one.csharp) << one.name;
-        EXPECT_EQ(isLegalName(one.name, Target::VbNet), one.vbNet) << one.name;
-        EXPECT_EQ(isLegalName(one.name, Target::CppCom), one.cppCom) << one.name;
+        EXPECT_EQ(flawOf(one.name, Target::CSharp), one.csharp) << one.name;
+        EXPECT_EQ(flawOf(one.name, Target::VbNet), one.vbNet) << one.name;
+        EXPECT_EQ(flawOf(one.name, Target::CppCom), one.cppCom) << one.name;
     }
 }
 
@@ -143,6 +155,7 @@ TEST(Quoting, MakesLegalNames)
         {"StdAfx", "StdAfx_macro"},
         {"class1", "class1"},
         {"DispatchWrapper", "DispatchWrapper_macro"},
+        {"Model", "Model_macro"},
     };
     for (const auto& [name, expected] : cases)
         EXPECT_EQ(legalName(name), expected) << name;

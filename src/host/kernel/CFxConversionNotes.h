@@ -20,8 +20,9 @@ using CFxActionPlace = std::vector<std::uint32_t>;
 struct CFxActionNote
 {
     CFxActionPlace where;
-    CFxString what;   ///< such as `property "Material" of AcDbLine 2F`
-    CFxString reason; ///< a clause without a full stop
+    CFxString what;          ///< such as `property "Material" of AcDbLine 2F`
+    CFxString reason;        ///< a clause without a full stop
+    CFxString property = {}; ///< the tag, where it is of an object's property; else empty
     bool operator==(const CFxActionNote&) const = default;
 };
 /// Something that the user did and that the macro does not do.
@@ -139,7 +140,7 @@ private:
             return;
         ++notes.count;
         if (keepsAll_)
-            notes.kept.push_back({place_, title(), CFxString(reason)});
+            notes.kept.push_back({place_, title(), CFxString(reason), object.isNull() ? CFxString() : CFxString(part)});
     }
     bool IsFirst(Known known);
     void ForgetKnown()

@@ -41,7 +41,8 @@ Statement CFxConverterIWAPICPP::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 1;
     const Template words(head.words().constData(), writer.target);
-    const Statement text = writer.fill(words).text(LineEnd).text(className).text(sheetName());
+    const Statement text = withHeaders(writer.fill(words).text(LineEnd).text(className).text(sheetName()), className,
+                                       {"iwCommandMessage_c", "iwApplicationOptions_c", "iwSheet_c", "math"});
     return isFound(className) ? text : writer.faulty(text, kUnfound);
 }
 

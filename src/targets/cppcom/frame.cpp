@@ -107,9 +107,9 @@ Statement CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool
     const QByteArray server = withIdentifier(texts::cppcom::server_cpp, "%2", className);
     const Template words((server + head.words()).constData(), writer.target);
     const QString serverId = QUuid::createUuid().toString();
+    const Statement filled = writer.fill(words).text(LineEnd).text(className).text(serverId).text(sheetName());
     const Statement text =
-        faultyIdentifier(texts::cppcom::server_cpp, className,
-                         writer.fill(words).text(LineEnd).text(className).text(serverId).text(sheetName()));
+        withHeaders(faultyIdentifier(texts::cppcom::server_cpp, className, filled), className, {"math"});
     return isFound(className) ? text : faultyAt("#include \"" + className, text, kUnfound);
 }
 

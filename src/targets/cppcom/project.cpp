@@ -64,7 +64,8 @@ Statement CFxConverterIWAPICPPCOM::faultyIdentifier(const QByteArray& words, con
 {
     QByteArray front = words.left(words.indexOf("{identifier}"));
     front.remove(0, std::max(front.lastIndexOf('\n') + 1, front.lastIndexOf("%1") + 2));
-    return isLegalName(name, writer.target) ? text : faultyAt(front + name, text, kIllegalName);
+    const Fault* const fault = faultOfName(name);
+    return fault ? faultyAt(front + name, text, *fault) : text;
 }
 
 CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(Writer& writer)
