@@ -33,12 +33,13 @@ TEST_F(Program, WarnsOfWhatIsProbablyNotMeant)
     const Outcome outcome = run({"check", "circle.jsonl"});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.out, "circle.jsonl: ok, 4 actions (5 with those in commands), 4 warnings\n");
-    EXPECT_EQ(outcome.err,
-              "circle.jsonl:2: warning: property \"Radius\" of AcDbCircle 30: it is recorded in another form\n"
-              "circle.jsonl:3: warning: handle 30 has been added in line 2 already\n"
-              "circle.jsonl:3: warning: property \"Radius\" of AcDbCircle 30: it is recorded in another form\n"
-              "circle.jsonl:4: warning: added AcDbCirle 31: objects of its class have no statements; did you mean "
-              "AcDbCircle?\n");
+    EXPECT_EQ(
+        outcome.err,
+        "circle.jsonl:2: warning: assumed: property \"Radius\" of AcDbCircle 30: it is recorded in another form\n"
+        "circle.jsonl:3: warning: handle 30 has been added in line 2 already\n"
+        "circle.jsonl:3: warning: assumed: property \"Radius\" of AcDbCircle 30: it is recorded in another form\n"
+        "circle.jsonl:4: warning: lost: added AcDbCirle 31: objects of its class have no statements; did you mean "
+        "AcDbCircle?\n");
     EXPECT_EQ(run({"check", "circle.jsonl", "--strict"}).status, 1);
     write("walls.jsonl", line);
     EXPECT_EQ(run({"check", "walls.jsonl", "walls.jsonl", "--strict"}).out,
@@ -50,8 +51,10 @@ TEST_F(Program, WarnsOfWhatIsProbablyNotMeant)
         QJsonDocument::fromJson(run({"check", "circle.jsonl", "--json"}).out.toUtf8())["recordings"][0].toObject();
     EXPECT_EQ(json["actions"], 4);
     EXPECT_EQ(json["errors"], QJsonArray());
-    EXPECT_EQ(json["warnings"][1],
-              (QJsonObject{{"line", 3}, {"path", ""}, {"message", "handle 30 has been added in line 2 already"}}));
+    EXPECT_EQ(
+        json["warnings"][1],
+        (QJsonObject{
+            {"line", 3}, {"path", ""}, {"kind", "handle"}, {"message", "handle 30 has been added in line 2 already"}}));
     write("many.jsonl", line + circle.repeated(15));
     EXPECT_TRUE(run({"check", "many.jsonl"}).err.endsWith("many.jsonl: and 9 warnings more; --json has them all\n"));
 }

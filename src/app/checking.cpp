@@ -59,7 +59,9 @@ void printText(const Checked& checked)
     printOut(QString("%1: %2\n").arg(printable(checked.file), result));
 }
 
-void addPlace(recordfile::JsonOut& out, qint64 line, const QString& path, const QString& message)
+/// Only warnings are of a kind.
+void addPlace(recordfile::JsonOut& out, qint64 line, const QString& path, const QString& message,
+              const QString& kind = {})
 {
     out.onNewLine();
     out.beginObject();
@@ -67,6 +69,10 @@ void addPlace(recordfile::JsonOut& out, qint64 line, const QString& path, const 
     out.integer(line);
     out.key("path"sv);
     out.text(path);
+    if (!kind.isEmpty()) {
+        out.key("kind"sv);
+        out.text(kind);
+    }
     out.key("message"sv);
     out.text(message);
     out.endObject();
@@ -93,7 +99,7 @@ void printJson(const std::vector<Checked>& all)
         out.key("warnings"sv);
         out.beginArray();
         for (const Warning& warning : checked.warnings)
-            addPlace(out, warning.line, warning.path, warning.message);
+            addPlace(out, warning.line, warning.path, warning.message, warning.kind);
         out.endArray();
         out.endObject();
     }

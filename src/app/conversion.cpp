@@ -76,6 +76,17 @@ QString failedFile(const Job& job, const StagedResult& result)
     return job.macro;
 }
 
+/// What was noted last is of the action by which the conversion failed.
+QString failureReason(const Job& job)
+{
+    if (const std::vector<CFxFailedFile>& failed = GetFxSystemServices()->GetFailedFiles(); !failed.empty())
+        return ": " + failed.back().reason;
+    const CFxConversionNotes& notes = GetFxSystemServices()->Notes();
+    if (!notes.GetLosses().empty())
+        return QString(": %1: %2").arg(notes.GetLosses().back().what, notes.GetLosses().back().reason);
+    return notes.GetLossCount() > 0 ? QString("; inkmacro check %1 tells why").arg(job.input) : QString();
+}
+
 /// Tells its user, and gives what came of the conversion.
 Outcome failure(const QString& message)
 {
@@ -114,10 +125,9 @@ Outcome convertRead(const Job& job, const Recording& recording, const HostSettin
     for (const CFxString& problem : GetFxSystemServices()->GetProblems())
         complain(QString("%1 to %2: %3").arg(job.input, targetName(*job.target), problem));
     if (status != kFxSuccess) {
-        const std::vector<CFxFailedFile>& failed = GetFxSystemServices()->GetFailedFiles();
-        return failure(QString("conversion to %1 failed with status %2: %3%4")
-                           .arg(targetName(*job.target), QString::number(status), failedFile(job, result),
-                                failed.empty() ? QString() : ": " + failed.back().reason));
+        return failure(
+            QString("conversion to %1 failed with status %2: %3%4")
+                .arg(targetName(*job.target), QString::number(status), failedFile(job, result), failureReason(job)));
     }
     if (job.toStandardOutput)
         return printMacro(result.firstFile());

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <set>
 #include <tuple>
 #include <utility>
@@ -26,19 +27,44 @@ namespace {
 using Warnings = std::vector<Warning>;
 using Notes = std::vector<CFxActionNote>;
 
-/// What a conversion notes says most of it: VBA has the most statements, and a macro of it is a single file.
-Notes notesOfConversion(const Recording& recording)
+/// What conversions note of the recording.
+struct Told
 {
+    Notes losses;
+    Notes assumptions;
+    std::optional<CFxActionPlace> failure; ///< the action by which one came to no macro
+};
+
+void addNew(Notes& to, const Notes& notes)
+{
+    using Key = std::tuple<CFxActionPlace, CFxString, CFxString>;
+    std::set<Key> known;
+    for (const CFxActionNote& note : to)
+        known.emplace(note.where, note.what, note.reason);
+    for (const CFxActionNote& note : notes)
+        if (known.emplace(note.where, note.what, note.reason).second)
+            to.push_back(note);
+}
+
+/// VBA has the most statements, and a macro of it is a single file. A repaired macro leaves more out.
+Told toldByConversions(const Recording& recording)
+{
+    Told told;
     const TargetRow& target = *std::ranges::find(targetTable, Target::Vba, &TargetRow::target);
     const std::string name = "check.bas";
     const StagingFolder folder(std::filesystem::temp_directory_path(), {name});
     CFxConversionNotes& notes = GetFxSystemServices()->Notes();
     notes.KeepAll(true);
     GetFxSystemServices()->SetInt16(kIgnoreFaults, 1);
-    runModule(target, QString::fromStdString(folder.file(name).string()), recording, {});
-    Notes all = notes.GetLosses();
-    all.insert(all.end(), notes.GetAssumptions().begin(), notes.GetAssumptions().end());
-    return all;
+    for (const bool repair : {false, true}) {
+        const std::int32_t status =
+            runModule(target, QString::fromStdString(folder.file(name).string()), recording, {.repair = repair});
+        if (status != kFxSuccess && !notes.GetLosses().empty())
+            told.failure = notes.GetLosses().back().where;
+        addNew(told.losses, notes.GetLosses());
+        addNew(told.assumptions, notes.GetAssumptions());
+    }
+    return told;
 }
 
 /// Calls `visit` with each action and its place, those within commands too.
@@ -200,11 +226,12 @@ private:
 class Handles
 {
 public:
-    Handles(const Recording& recording, const Notes& notes, Warnings& warnings)
+    Handles(const Recording& recording, const Told& told, Warnings& warnings)
         : recording_(recording), warnings_(warnings)
     {
-        for (const CFxActionNote& note : notes)
-            notes_[note.where].push_back(&note);
+        for (const Notes* const notes : {&told.losses, &told.assumptions})
+            for (const CFxActionNote& note : *notes)
+                notes_[note.where].push_back(&note);
         for (const CFxActionKindName& kind : LoadedModule()->ListActionKinds())
             for (const CFxActionForm& form : kind.forms)
                 for (std::size_t i = 0; i < form.data.size(); ++i)
@@ -331,7 +358,7 @@ private:
 
     void add(const CFxActionPlace& place, const QString& message)
     {
-        warnings_.push_back({lineOf(place, recording_), pathOf(place), message});
+        warnings_.push_back({lineOf(place, recording_), pathOf(place), "handle", message});
     }
 
     const Recording& recording_;
@@ -347,23 +374,32 @@ private:
 
 std::vector<Warning> warningsOf(const Recording& recording)
 {
-    const Notes notes = notesOfConversion(recording);
+    const Told told = toldByConversions(recording);
     Warnings warnings;
-    Handles handles(recording, notes, warnings);
+    if (told.failure)
+        warnings.push_back({lineOf(*told.failure, recording), pathOf(*told.failure), "failed",
+                            "a conversion ends here without a macro, because of what is lost"});
+    Handles handles(recording, told, warnings);
     handles.addDoubled();
     handles.addLoose();
     MeantNames names;
     // What is missing under these tags has been told with the ones that are wrong: losses come first.
     std::set<std::pair<CFxActionPlace, CFxString>> meantTags;
-    for (const CFxActionNote& note : notes) {
-        if (meantTags.contains({note.where, note.property}))
-            continue;
-        const QString meant = names.meant(note, actionAt(recording, note.where));
-        if (!meant.isEmpty())
-            meantTags.emplace(note.where, meant);
-        warnings.push_back({lineOf(note.where, recording), pathOf(note.where),
-                            note.what.toQString() + ": " + note.reason.toQString() + didYouMean(meant, {meant})});
-    }
+    const auto add = [&](const Notes& notes, const QString& kind) {
+        for (const CFxActionNote& note : notes) {
+            if (meantTags.contains({note.where, note.property}))
+                continue;
+            const QString meant = names.meant(note, actionAt(recording, note.where));
+            if (!meant.isEmpty())
+                meantTags.emplace(note.where, meant);
+            warnings.push_back(
+                {lineOf(note.where, recording), pathOf(note.where), kind,
+                 QString("%1: %2: %3%4")
+                     .arg(kind, note.what.toQString(), note.reason.toQString(), didYouMean(meant, {meant}))});
+        }
+    };
+    add(told.losses, "lost");
+    add(told.assumptions, "assumed");
     std::ranges::stable_sort(warnings, {}, &Warning::line);
     return warnings;
 }

@@ -11,6 +11,7 @@ struct Warning
 {
     qint64 line;
     QString path; ///< empty for the whole line
+    QString kind; ///< "failed", "lost", "assumed" or "handle"
     QString message;
 
     QString text(const QString& file) const
