@@ -1,5 +1,7 @@
 #include "module/MacroText.h"
 
+#include "module/codeNames.h"
+
 #include <QTextStream>
 
 #include <algorithm>
@@ -47,13 +49,24 @@ const Fault kEmptyArray{"ConvertCommand", {Target::Vba}, "an array without eleme
 
 const Fault kTooLong{"ConvertRecording", {Target::Vba}, "the procedure is longer than VBA compiles"};
 
+const Fault kTooManyVariables{
+    "ConvertRecording", {Target::JavaScript}, "the function has more variables than browsers have room for"};
+
+/// Letters that a procedure of VBA may have for certain: it takes 64 KB of compiled code, and that of a line is hardly
+/// longer than the line.
+constexpr qsizetype kMostLetters = 64 * 1024;
+
+/// Each takes 8 bytes of the 984 KB that browsers and node have for calls: they refuse 120,000. What is left is for the
+/// library that the page calls.
+constexpr int kMostVariables = 100'000;
+
 } // namespace
 
 MacroText::MacroText(Target target, bool repairs, bool notesFaults, const QString& folder)
     : target_(target), repairs_(repairs), notesFaults_(notesFaults), locals_(target)
 {
     if (divides(target, repairs))
-        procedures_.emplace(folder);
+        procedures_.emplace(target, folder);
 }
 
 void MacroText::write(QTextStream& stream, Kind kind, QStringView text)
@@ -63,20 +76,22 @@ void MacroText::write(QTextStream& stream, Kind kind, QStringView text)
     if (kind == Kind::Declarations)
         line_ += static_cast<std::size_t>(std::count(text.begin(), text.end(), QChar('\n')));
     else if (notesFaults_)
-        followLines(text);
+        followLines(kind, text);
     noteLength(text.size());
     writeSliced(stream, text);
 }
 
-void MacroText::followLines(QStringView text)
+void MacroText::followLines(Kind kind, QStringView text)
 {
-    forLines(begun_, text, [this](QStringView line) {
+    forLines(begun_, text, [this, kind](QStringView line) {
         if (const std::size_t number = locals_.declaresTwice(line, line_))
             faults_.push_back({&kDeclaredTwice, number});
         if (sizesNothing(line, target_))
             noteFault(kEmptyArray);
-        if (target_ == Target::Vba && letters_ == 0 && line == Procedures::kMain)
+        if (kind == Kind::Frame && !line.isEmpty() && line == mainLine(target_))
             mainLine_ = line_;
+        if (target_ == Target::JavaScript && mainLine_ > 0)
+            noteVariables(line);
         ++line_;
     });
     // A declaration stands at the beginning of its line, which may be long in all.
@@ -86,8 +101,17 @@ void MacroText::followLines(QStringView text)
 void MacroText::noteLength(qsizetype letters)
 {
     letters_ += letters;
-    if (mainLine_ > 0 && letters_ > Procedures::kMostLetters)
+    if (target_ == Target::Vba && mainLine_ > 0 && letters_ > kMostLetters)
         faults_.push_back({&kTooLong, std::exchange(mainLine_, 0)});
+}
+
+void MacroText::noteVariables(QStringView line)
+{
+    forScriptVariables(line, [this](QStringView name) { variables_.insert(name.toString()); });
+    if (variables_.size() <= kMostVariables)
+        return;
+    faults_.push_back({&kTooManyVariables, std::exchange(mainLine_, 0)});
+    variables_ = {};
 }
 
 void MacroText::writeLines(QTextStream& stream, Kind kind, QStringView text)

@@ -4,6 +4,7 @@
 #include "module/Procedures.h"
 #include "statements/Fault.h"
 
+#include <QSet>
 #include <QString>
 #include <QStringView>
 
@@ -51,7 +52,7 @@ public:
     /// `notesFaults`: whether lines are looked at for faults. `folder`: where a file may be that lasts until the macro
     /// is written.
     MacroText(Target target, bool repairs, bool notesFaults, const QString& folder);
-    static bool divides(Target target, bool repairs) { return repairs && target == Target::Vba; }
+    static bool divides(Target target, bool repairs) { return repairs && !mainLine(target).isEmpty(); }
 
     void write(QTextStream& stream, Kind kind, QStringView text);
     /// The line that is written next has it.
@@ -64,9 +65,10 @@ public:
     std::vector<FoundFault> takeFaults();
 
 private:
-    void followLines(QStringView text);
+    void followLines(Kind kind, QStringView text);
     void writeLines(QTextStream& stream, Kind kind, QStringView text);
     void noteLength(qsizetype letters);
+    void noteVariables(QStringView line);
 
     const Target target_;
     const bool repairs_;
@@ -75,7 +77,8 @@ private:
     QString begun_;        ///< what is there of that line
     Locals locals_;
     qsizetype letters_ = 0;
-    std::size_t mainLine_ = 0; ///< of VBA's procedure; 0: not there yet, or told that it is too long
+    QSet<QString> variables_;  ///< of a page
+    std::size_t mainLine_ = 0; ///< that begins the procedure; 0: not there yet, or told that it is too long
     std::optional<Procedures> procedures_;
     std::vector<FoundFault> faults_;
 };

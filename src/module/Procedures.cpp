@@ -3,7 +3,6 @@
 #include "module/codeNames.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -12,100 +11,17 @@ namespace inkmacro {
 
 namespace {
 
-/// So many that a procedure stays far below the 64 KB of compiled code that VBA takes. One may have some lines more
-/// when it consists of one block.
-constexpr int kMostLines = 250;
-
 constexpr int kBlock = 64 * 1024;
 
-constexpr int kNobody = -1;
-constexpr int kSeveral = -2;
+using Place = ProcedureLanguage::Place;
+
 constexpr int kMainNumber = 0;
-
-constexpr QStringView kDim = u"Dim ";
-
-enum class Place
-{
-    Within,
-    Opens,
-    OpensLoop,
-    Divides,
-    Closes
-};
-
-/// Knows the blocks that statements are written with.
-Place placeOf(QStringView code)
-{
-    if (code.startsWith(u"If ") && code.endsWith(u" Then"))
-        return Place::Opens;
-    if (code.startsWith(u"For "))
-        return Place::OpensLoop;
-    if (code.startsWith(u"Else"))
-        return Place::Divides;
-    if (code == u"End If" || code == u"Next")
-        return Place::Closes;
-    return Place::Within;
-}
-
-QString nameOf(int procedure)
-{
-    return QString("RecordedActions%1").arg(procedure);
-}
-
-qsizetype indentationOf(QStringView line)
-{
-    return std::find_if(line.begin(), line.end(), [](QChar one) { return one != ' '; }) - line.begin();
-}
-
-/// As the language compares names.
-void setKey(QString& key, QStringView name)
-{
-    key.resize(static_cast<int>(name.size()));
-    std::transform(name.begin(), name.end(), key.begin(), [](QChar one) { return one.toLower(); });
-}
-
-QString keyOf(QStringView name)
-{
-    QString key;
-    setKey(key, name);
-    return key;
-}
-
-/// The line, without its end, when it declares a variable.
-QString declarationIn(std::string_view line)
-{
-    const auto code = std::find_if(line.begin(), line.end(), [](char one) { return one != ' '; });
-    const bool declares = line.end() - code > kDim.size() && std::equal(kDim.begin(), kDim.end(), code);
-    return declares ? QString::fromUtf8(line.data(), static_cast<int>(line.size()) - 1) : QString();
-}
+constexpr int kSeveral = -1;
+constexpr int kDeclared = -2; ///< several, and declared for them
 
 bool isBlank(QStringView line)
 {
     return indentationOf(line) == line.size();
-}
-
-/// Whether a variable holds what is no object: its type is one of VBA's own or an enumeration.
-bool holdsValue(QStringView type)
-{
-    const QStringView name = type.mid(type.lastIndexOf(u'.') + 1);
-    static constexpr std::array<QStringView, 5> values{u"Double", u"Long", u"Integer", u"Boolean", u"Single"};
-    return name.endsWith(u"_e") || std::find(values.begin(), values.end(), name) != values.end();
-}
-
-/// What a variable of `declaration`, which stands behind the `Dim`, holds where it is declared. One of a module keeps
-/// the value from the run before.
-QString asNew(QStringView declaration)
-{
-    const QStringView name = nameAt(declaration, 0);
-    const QStringView behind = trimmed(declaration.mid(name.size()));
-    if (behind.startsWith(u'('))
-        return "Erase " + name.toString();
-    const QString type = behind.startsWith(u"As ") ? behind.mid(3).toString().section(' ', 0, 0) : QString();
-    if (type == "String")
-        return name.toString() + " = \"\"";
-    if (type == "Variant" || type.isEmpty())
-        return name.toString() + " = Empty";
-    return holdsValue(type) ? name.toString() + " = 0" : "Set " + name.toString() + " = Nothing";
 }
 
 } // namespace
@@ -118,7 +34,12 @@ void Procedures::Run::add(const Run& other)
     leavesMain |= other.leavesMain;
 }
 
-Procedures::Procedures(const QString& folder) : blocks_(1), waiting_(folder + "/XXXXXX")
+Procedures::Procedures(Target target, const QString& folder)
+    : target_(target),
+      language_(ProcedureLanguage::of(target)),
+      limits_(language_->limits()),
+      blocks_(1),
+      waiting_(folder + "/XXXXXX")
 {
 }
 
@@ -126,36 +47,25 @@ void Procedures::frameLine(const QString& line)
 {
     const bool isHead = blocks_.front().part.lines.isEmpty();
     (isHead ? head_ : foot_) += line;
-    if (isHead)
-        noteDeclaration(line);
 }
 
 void Procedures::line(const QString& line)
 {
-    noteDeclaration(line);
     continued_ += line;
-    if (continued_.endsWith(" _"))
+    if (language_->goesOn(line))
         continued_ += '\n';
     else
         addWhole(std::exchange(continued_, QString()));
 }
 
-void Procedures::noteDeclaration(QStringView line)
-{
-    const QStringView code = trimmed(line);
-    if (code.startsWith(kDim))
-        users_.insert(keyOf(nameAt(code, kDim.size())), kNobody);
-}
-
 void Procedures::addWhole(const QString& line)
 {
-    const QStringView code = trimmed(line);
+    const auto [place, leavesLoop, leavesMain] = language_->shapeOf(trimmed(line));
     Run unit;
     unit.lines = line.contains('\n') ? line.split('\n') : QStringList(line);
     unit.letters = line.size();
-    unit.leavesLoop = code.endsWith(u"Exit For");
-    unit.leavesMain = code.endsWith(u"Exit Sub");
-    const Place place = placeOf(code);
+    unit.leavesLoop = leavesLoop;
+    unit.leavesMain = leavesMain;
     if (place == Place::Opens || place == Place::OpensLoop) {
         blocks_.emplace_back();
         blocks_.back().closed = std::move(unit);
@@ -203,10 +113,10 @@ void Procedures::endAction()
         blocks_.front().actionEnd = blocks_.front().part.lines.size();
 }
 
-bool Procedures::isLong(const Run& run, const Run& more)
+bool Procedures::isLong(const Run& run, const Run& more) const
 {
-    return run.calls > kMostLines || run.lines.size() - run.calls + more.lines.size() > kMostLines ||
-           run.letters + more.letters > kMostLetters / 2;
+    return run.calls > limits_.lines || run.lines.size() - run.calls + more.lines.size() > limits_.lines ||
+           run.letters + more.letters > limits_.letters;
 }
 
 bool Procedures::divide(Block& block)
@@ -215,7 +125,7 @@ bool Procedures::divide(Block& block)
     const int actionEnd = std::exchange(block.actionEnd, 0);
     int from = run.calls;
     int to = actionEnd > from ? actionEnd : run.lines.size();
-    if (run.calls > kMostLines) {
+    if (run.calls > limits_.lines) {
         from = 0;
         to = run.calls;
     }
@@ -231,7 +141,7 @@ void Procedures::extract(Run& run, int from, int to)
     writeProcedure(taken);
     noteNames(taken, count_);
     const auto first = std::find_if_not(taken.begin(), taken.end(), isBlank);
-    const QString call = first->left(static_cast<int>(indentationOf(*first))) + nameOf(count_);
+    const QString call = first->left(static_cast<int>(indentationOf(*first))) + language_->call(count_);
     run.lines = run.lines.mid(0, from) + QStringList(call) + run.lines.mid(to);
     run.calls = from + 1;
     run.letters = 0;
@@ -248,7 +158,8 @@ void Procedures::writeProcedure(const QStringList& lines)
     }
     if (failed_)
         return;
-    toWaiting_ << "\nPrivate Sub " << nameOf(count_) << "()\n";
+    toWaiting_ << '\n' << language_->opening(count_) << '\n';
+    const QString indentation = language_->indentation();
     const auto begin = std::find_if_not(lines.begin(), lines.end(), isBlank);
     const auto end = std::find_if_not(lines.rbegin(), lines.rend(), isBlank).base();
     qsizetype least = indentationOf(*begin);
@@ -258,32 +169,72 @@ void Procedures::writeProcedure(const QStringList& lines)
     });
     std::for_each(begin, end, [&](const QString& line) {
         if (!isBlank(line))
-            toWaiting_ << "    " << QStringView(line).mid(least);
+            toWaiting_ << indentation << QStringView(line).mid(least);
         toWaiting_ << '\n';
     });
-    toWaiting_ << "End Sub\n";
+    toWaiting_ << language_->closing() << '\n';
 }
 
 void Procedures::noteNames(const QStringList& lines, int procedure)
 {
     QString key; // its memory serves all names
     for (const QString& line : lines)
-        forNames(line, Target::Vba, [&](QStringView name, qsizetype) {
+        forNames(line, target_, [&](QStringView name, qsizetype) {
             if (name.front().isDigit())
                 return;
             setKey(key, name);
-            if (const auto user = users_.find(key); user != users_.end())
-                *user = *user == kNobody || *user == procedure ? procedure : kSeveral;
+            if (const auto user = users_.find(key); user == users_.end())
+                users_.insert(key, procedure);
+            else if (*user != procedure)
+                *user = kSeveral;
         });
 }
 
-QStringView Procedures::sharedIn(QStringView line) const
+/// As the language compares names.
+void Procedures::setKey(QString& key, QStringView name) const
 {
-    const QStringView code = trimmed(line);
-    if (!code.startsWith(kDim))
-        return {};
-    const QStringView declaration = code.mid(kDim.size());
-    return users_.value(keyOf(nameAt(declaration, 0))) == kSeveral ? declaration : QStringView();
+    key.resize(static_cast<int>(name.size()));
+    const bool folds = isBasic(target_);
+    std::transform(name.begin(), name.end(), key.begin(), [folds](QChar one) { return folds ? one.toLower() : one; });
+}
+
+bool Procedures::declaresShared(QStringView line) const
+{
+    const ProcedureLanguage::Names names = language_->declaredIn(line);
+    QString key;
+    return std::any_of(names.begin(), names.end(), [&](QStringView name) {
+        setKey(key, name);
+        return users_.value(key) < kMainNumber;
+    });
+}
+
+bool Procedures::declare(QTextStream& stream, QStringView line)
+{
+    if (!declaresShared(line))
+        return false;
+    bool isNew = false;
+    QString key;
+    for (const QStringView name : language_->declaredIn(line)) {
+        setKey(key, name);
+        isNew |= std::exchange(users_[key], kDeclared) != kDeclared;
+    }
+    if (isNew)
+        stream << language_->shared(line) << '\n';
+    return isNew;
+}
+
+void Procedures::writeUnshared(QTextStream& stream, const QString& line) const
+{
+    const bool isShared = declaresShared(line);
+    const QString text = isShared ? language_->withoutDeclaration(line) : line;
+    if (!isShared || !text.isEmpty())
+        stream << text << '\n';
+}
+
+QString Procedures::declarationIn(std::string_view line) const
+{
+    const bool declares = line.find(language_->keyword()) != std::string_view::npos;
+    return declares ? QString::fromUtf8(line.data(), static_cast<int>(line.size()) - 1) : QString();
 }
 
 template<class Use>
@@ -308,6 +259,8 @@ void Procedures::forWaiting(const Use& use)
 void Procedures::finish(QTextStream& stream)
 {
     // Only of a macro that is given up.
+    if (!continued_.isEmpty())
+        addWhole(continued_.chopped(1));
     while (blocks_.size() > 1)
         closeBlock({});
     Run& main = blocks_.front().part;
@@ -326,44 +279,39 @@ void Procedures::finish(QTextStream& stream)
 
 void Procedures::writeDivided(QTextStream& stream)
 {
-    const QStringList body = blocks_.front().part.lines + foot_;
+    const QStringList body = language_->isNested() ? blocks_.front().part.lines : blocks_.front().part.lines + foot_;
     noteNames(head_ + body, kMainNumber);
-    const auto begin = std::find(head_.begin(), head_.end(), kMain.toString());
-    for (auto line = head_.begin(); line != begin; ++line)
-        stream << *line << '\n';
+    const auto write = [&stream](const QString& line) { stream << line << '\n'; };
+    const auto begin = language_->isNested() ? head_.end() : std::find(head_.begin(), head_.end(), mainLine(target_));
+    std::for_each(head_.begin(), begin, write);
 
-    const auto declare = [&](const QString& line) {
-        if (const QStringView declaration = sharedIn(line); !declaration.isEmpty())
-            stream << "Private " << declaration << '\n';
-    };
-    std::for_each(begin, head_.end(), declare);
-    std::for_each(body.begin(), body.end(), declare);
-    forWaiting([&](std::string_view line) { declare(declarationIn(line)); });
-    stream << '\n';
+    // In front of a procedure of its own a blank line stands in any case.
+    bool isApart = !language_->isNested();
+    const auto declareIn = [&](const QString& line) { isApart |= declare(stream, line); };
+    std::for_each(begin, head_.end(), declareIn);
+    std::for_each(body.begin(), body.end(), declareIn);
+    forWaiting([&](std::string_view line) { declareIn(declarationIn(line)); });
+    if (isApart)
+        stream << '\n';
 
     // The head gives each of its variables a value.
     std::for_each(begin, head_.end(), [&](const QString& line) {
-        if (sharedIn(line).isEmpty())
-            stream << line << '\n';
+        if (!declaresShared(line))
+            write(line);
     });
-    const auto write = [&](const QString& line) {
-        const QStringView declaration = sharedIn(line);
-        if (declaration.isEmpty())
-            stream << line << '\n';
-        else
-            stream << line.left(static_cast<int>(indentationOf(line))) << asNew(declaration) << '\n';
-    };
-    std::for_each(body.begin(), body.end(), write);
+    std::for_each(body.begin(), body.end(), [&](const QString& line) { writeUnshared(stream, line); });
     stream.flush();
     forWaiting([&](std::string_view line) {
         const QString declaration = declarationIn(line);
-        if (sharedIn(declaration).isEmpty()) {
-            stream.device()->write(line.data(), static_cast<qint64>(line.size()));
-        } else {
-            write(declaration);
+        if (declaresShared(declaration)) {
+            writeUnshared(stream, declaration);
             stream.flush();
+        } else {
+            stream.device()->write(line.data(), static_cast<qint64>(line.size()));
         }
     });
+    if (language_->isNested())
+        std::for_each(foot_.begin(), foot_.end(), write);
 }
 
 } // namespace inkmacro

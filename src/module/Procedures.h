@@ -1,5 +1,8 @@
 #pragma once
 
+#include "module/ProcedureLanguage.h"
+#include "statements/Target.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -7,31 +10,28 @@
 #include <QTemporaryFile>
 #include <QTextStream>
 
+#include <memory>
+#include <string_view>
 #include <vector>
 
 namespace inkmacro {
 
-/// Divides the one procedure of a long VBA macro into several, which it calls in turn. A run of lines that closes every
-/// block that it opens becomes a procedure of its own, wherever it stands; a call takes its place. That keeps the order
-/// of all statements, and as many lines in memory as a few procedures have: finished ones wait in a file.
+/// Divides the one procedure of a long macro into several, which it calls in turn: in VBA procedures, in JavaScript
+/// functions. A run of lines that closes every block that it opens becomes a procedure of its own, wherever it stands;
+/// a call takes its place. That keeps the order of all statements, and as many lines in memory as a few procedures
+/// have: finished ones wait in a file.
 ///
 /// Declarations stand ahead of the first procedure, so those of variables that several procedures use are written when
 /// all procedures are known.
 class Procedures
 {
 public:
-    /// Letters that a procedure may have for certain: VBA takes 64 KB of compiled code, and that of a line is hardly
-    /// longer than the line.
-    static constexpr qsizetype kMostLetters = 64 * 1024;
-    /// The line that begins the procedure.
-    static constexpr QStringView kMain = u"Sub main()";
-
     /// The file is made in that folder, and is gone when this is.
-    explicit Procedures(const QString& folder);
+    Procedures(Target target, const QString& folder);
 
     /// A line of the head or, behind statements, of the foot: those stay where they are.
     void frameLine(const QString& line);
-    /// A line of statements, in which no variable has the name of another.
+    /// A line of statements. In VBA no variable may have the name of another.
     void line(const QString& line);
     /// What has been written makes sense by itself: best divided here.
     void endAction();
@@ -57,32 +57,40 @@ private:
         bool isLoop = false;
     };
 
-    void noteDeclaration(QStringView line);
     void addWhole(const QString& line);
     void closePart(Block& block);
     void closeBlock(const Run& end);
     void add(const Run& unit);
     /// Whether they are too long for one procedure. Calls need none of their own until there are many.
-    static bool isLong(const Run& run, const Run& more);
+    bool isLong(const Run& run, const Run& more) const;
     /// False when there is nothing that can be taken out of the block.
     bool divide(Block& block);
     /// Makes a procedure of those lines of the run.
     void extract(Run& run, int from, int to);
     void writeProcedure(const QStringList& lines);
     void noteNames(const QStringList& lines, int procedure);
-    /// What stands behind the `Dim` when the line declares a variable that several procedures use, else nothing.
-    QStringView sharedIn(QStringView line) const;
+    void setKey(QString& key, QStringView name) const;
+    /// Whether the line declares a variable that several procedures use.
+    bool declaresShared(QStringView line) const;
+    /// Writes the declaration of what the line shares; false when there is none, or none that is not written yet.
+    bool declare(QTextStream& stream, QStringView line);
+    void writeUnshared(QTextStream& stream, const QString& line) const;
+    /// The line, without its end, when it may declare a variable.
+    QString declarationIn(std::string_view line) const;
     /// Calls for each line of the finished procedures.
     template<class Use>
     void forWaiting(const Use& use);
     void writeDivided(QTextStream& stream);
 
+    const Target target_;
+    const std::unique_ptr<ProcedureLanguage> language_;
+    const ProcedureLanguage::Limits limits_;
     QStringList head_;
     QStringList foot_;
     QString continued_; ///< the lines that the next one belongs to
     std::vector<Block> blocks_;
     int count_ = 0;
-    QHash<QString, int> users_; ///< of each variable: the procedure that names it, by its number
+    QHash<QString, int> users_; ///< of each name: the procedure that has it, by its number
     QTemporaryFile waiting_;
     QTextStream toWaiting_;
     bool failed_ = false;

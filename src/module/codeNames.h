@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 
 // Names in a line of a macro, of whatever language.
 
@@ -66,6 +67,16 @@ inline qsizetype behindText(QStringView line, qsizetype at, Target target)
     return std::min(at + 1, line.size());
 }
 
+inline bool startsComment(QStringView line, qsizetype at, Target target)
+{
+    return isBasic(target) ? line[at] == '\'' : line[at] == '/' && at + 1 < line.size() && line[at + 1] == '/';
+}
+
+inline qsizetype indentationOf(QStringView line)
+{
+    return std::find_if(line.begin(), line.end(), [](QChar one) { return one != ' '; }) - line.begin();
+}
+
 /// Calls for each name with its place. What stands in texts and comments is none, and neither are members, which stand
 /// behind a dot or an arrow.
 template<class Use>
@@ -75,7 +86,7 @@ void forNames(QStringView line, Target target, const Use& use)
         const qsizetype from = at;
         if (line[at] == '"') {
             at = behindText(line, at, target);
-        } else if (isBasic(target) ? line[at] == '\'' : line.mid(at).startsWith(u"//")) {
+        } else if (startsComment(line, at, target)) {
             return;
         } else if (isNamePart(line[at])) {
             const QStringView name = nameAt(line, at);
@@ -83,6 +94,72 @@ void forNames(QStringView line, Target target, const Use& use)
             if (from == 0 || (line[from - 1] != '.' && line[from - 1] != '>'))
                 use(name, from);
         } else {
+            ++at;
+        }
+    }
+}
+
+/// Calls for each character that is neither in a text nor in a comment.
+template<class Use>
+void forCode(QStringView line, Target target, const Use& use)
+{
+    for (qsizetype at = 0; at < line.size();) {
+        if (line[at] == '"') {
+            at = behindText(line, at, target);
+        } else if (startsComment(line, at, target)) {
+            return;
+        } else {
+            use(line[at]);
+            ++at;
+        }
+    }
+}
+
+/// By how much the depth in brackets changes.
+inline int bracketStep(QChar character)
+{
+    switch (character.unicode()) {
+    case '(':
+    case '[':
+    case '{':
+        return 1;
+    case ')':
+    case ']':
+    case '}':
+        return -1;
+    default:
+        return 0;
+    }
+}
+
+/// Calls for each variable that the line of a page declares. A list of them ends with the line.
+template<class Use>
+void forScriptVariables(QStringView line, const Use& use)
+{
+    constexpr int kNone = -1;
+    int depth = 0;
+    int list = kNone; // the depth at which commas stand between variables
+    bool expects = false;
+    for (qsizetype at = 0; at < line.size();) {
+        if (line[at] == '"') {
+            at = behindText(line, at, Target::JavaScript);
+        } else if (startsComment(line, at, Target::JavaScript)) {
+            return;
+        } else if (isNamePart(line[at])) {
+            const QStringView name = nameAt(line, at);
+            at += name.size();
+            if (std::exchange(expects, false))
+                use(name);
+            else if (name == u"var" && list == kNone) {
+                list = depth;
+                expects = true;
+            }
+        } else {
+            depth += bracketStep(line[at]);
+            if (line[at] == ';')
+                list = kNone;
+            else if (line[at] == ',' && depth == list)
+                expects = true;
             ++at;
         }
     }

@@ -382,11 +382,22 @@ Fill& ArrayArgument::close(Fill& call) const
     return target == Target::CppCom ? call.number(count) : call;
 }
 
+static const Fault kTooManyValues{
+    "array in front of a call", {Target::JavaScript}, "an array is made of more values than browsers pass to a call"};
+
+/// Each takes 24 of the 984 KB that browsers and node have for calls: node refuses 41,900, and more than 65,535 no
+/// browser of its engine takes.
+static constexpr int kMostValues = 30'000;
+
 /// A script's own array in front of the call.
-static Statement scriptArray(Writer& writer, const QString& name, const Statement& list, Brackets brackets)
+static Statement scriptArray(Writer& writer, const QString& name, const Statement& list, int count, Brackets brackets)
 {
     const QString blank = brackets == Brackets::Spaced ? QStringLiteral(" ") : QString();
-    return writer.indentation() + "var " + name + " = new Array(" + blank + list + blank + ");" + LineEnd;
+    const bool isLong = count > kMostValues;
+    const bool isLiteral = isLong && writer.repairs;
+    const Statement text = writer.indentation() + "var " + name + (isLiteral ? " = [" : " = new Array(") + blank +
+                           list + blank + (isLiteral ? "];" : ");") + LineEnd;
+    return isLong ? writer.faulty(text, kTooManyValues) : text;
 }
 
 ArrayArgument coordinateArray(Writer& writer, Coordinates coordinates, const char* script, NumberForm numbers,
@@ -403,7 +414,7 @@ ArrayArgument coordinateArray(Writer& writer, Coordinates coordinates, const cha
     if (target == Target::JavaScript) {
         array.words = script + QString::number(array.number);
         array.before = scriptArray(writer, array.words.text(), coordinateList(writer, std::move(coordinates), numbers),
-                                   scriptBrackets);
+                                   array.count, scriptBrackets);
         return array;
     }
     const QString name = (target == Target::CppCom ? "variant" : "Coordinates") + QString::number(array.number);
@@ -427,7 +438,7 @@ ArrayArgument integerArray(Writer& writer, const std::vector<int>& values, std::
     array.words = list.join(',');
     if (target == Target::JavaScript) {
         const QString variable = script + QString::number(number);
-        array.before = scriptArray(writer, variable, array.words, scriptBrackets);
+        array.before = scriptArray(writer, variable, array.words, array.count, scriptBrackets);
         array.words = variable;
     }
     return array;

@@ -9,6 +9,7 @@ import collections
 import dataclasses
 import difflib
 import importlib
+import json
 import re
 import shutil
 import sys
@@ -27,6 +28,9 @@ CUT = 4
 TRIED = 2
 
 RUN = ("csharp", "javascript")
+# A browser has no room for the variables of so many lines, and passes no call the coordinates of so many vertices.
+LINES = 125_000
+VERTICES = 40_000
 # Faults by their reason that compilers take, for targets whose macros do not run here: what only the repaired statement
 # says of the recording.
 SAID = {
@@ -96,6 +100,24 @@ def without_return(macro):
     return dataclasses.replace(macro, faults=others)
 
 
+def long_recordings(folder):
+    """Those that are too long to be kept, and to be cut into pieces."""
+    tags = [f"{end} {axis}" for end in ("Start", "End") for axis in "XYZ"]
+    lines = [("AcDbLine", [{"tag": tag, "value": number % 100 + axis} for axis, tag in enumerate(tags)])
+             for number in range(LINES)]
+    vertices = [{"tag": {"int": number}, "value": {"point": [number % 100, number // 100, 0]}}
+                for number in range(VERTICES)]
+    polyline = [("AcDbPolyline", [{"tag": "Vertex", "value": {"collection": {"elements": vertices}}}])]
+    folder.mkdir()
+    for name, objects in ("many_lines", lines), ("many_vertices", polyline):
+        file = folder / f"{name}.jsonl"
+        with file.open("w", encoding="utf-8") as to:
+            for number, (cls, properties) in enumerate(objects, 0x100):
+                added = {"class": cls, "handle": f"{number:X}", "properties": properties}
+                to.write(json.dumps({"added": added}) + "\n")
+        yield file
+
+
 def candidates(checked, target):
     """For each fault macros that have it, those with the fewest others first."""
     def convert(recordings, folder):
@@ -112,6 +134,8 @@ def candidates(checked, target):
         if any(cut[row] <= CUT for row in rows_of(macro.faults)):
             parts = list(pieces.of(macro.recording, folder))
             found += [(macro, one) for one in [macro, *convert(parts, "faithful")]]
+    if target == "javascript":
+        found += [(macro, macro) for macro in convert(list(long_recordings(checked.folder / "long")), "whole")]
     found.sort(key=lambda pair: (len(rows_of(pair[1].faults)), pair[1].file.stat().st_size))
     cases, tried = collections.defaultdict(list), collections.Counter()
     for source, macro in found:

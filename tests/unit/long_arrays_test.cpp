@@ -1,7 +1,9 @@
 // Arrays that are too long for a statement to hold: their texts are made while the macro is written.
 
 #include "TestRecords.h"
+#include "TestRepair.h"
 #include "TestTarget.h"
+#include "statements/arrays.h"
 
 #include <QRegularExpression>
 
@@ -79,6 +81,19 @@ TEST(LongArrays, AreWrittenWholeAndInTheirPlaces)
     EXPECT_EQ(found(com, R"(\b[xyz]_\d=([^;]+);)"), first + second);
     EXPECT_EQ(found(com, R"(rgIndices\d=(\d+);)"), indices() + indices());
     EXPECT_EQ(com.count("rgIndices1 = -1;"), 1);
+}
+
+/// A call takes no more. The values themselves are made late.
+TEST(LongArrays, AreLiteralsInRepairedPages)
+{
+    const auto declaration = [](std::size_t count) {
+        const TestTarget at(Target::JavaScript);
+        return textOf(coordinateArray(at.writer, {2, std::vector<double>(count)}, "points").before);
+    };
+    EXPECT_EQ(declaration(30'002), " var points1 = new Array();\n");
+    const TestRepair repair;
+    EXPECT_EQ(declaration(30'000), " var points1 = new Array();\n");
+    EXPECT_EQ(declaration(30'002), " var points1 = [];\n");
 }
 
 TEST(LongArrays, StandBetweenTheirOwnWords)

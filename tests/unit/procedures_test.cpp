@@ -1,4 +1,4 @@
-// VBA macros that are divided into procedures.
+// Macros that are divided: in VBA into procedures, in JavaScript into functions.
 
 #include "TestStream.h"
 #include "module/MacroFile.h"
@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <map>
 
@@ -18,6 +19,10 @@ const QString head = "'A macro\nOption Explicit\nSub main()\n\tDim iwApp As Inkw
                      "\tSet iwApp = GetObject(, \"Inkwright.Application\")\n\tIf Not iwApp Is Nothing Then\n";
 const QString foot = "\tElse\n\t\tMsgBox \"none\"\n\tEnd If\nEnd Sub\n";
 
+const QString pageHead = "<html>\n       function runMacro() {\n            var mApp = getApplication(),\n"
+                         "               mDoc = mApp.GetActiveDocument();\n\n";
+const QString pageFoot = "       }\n   </script>\n</html>\n";
+
 struct Written
 {
     QStringList lines;
@@ -26,16 +31,16 @@ struct Written
 };
 
 /// A macro of those statements, each an action.
-Written write(const QStringList& actions, bool repairs, const QString& path)
+Written write(const QStringList& actions, bool repairs, const QString& path, Target target = Target::Vba)
 {
     TestStream to;
-    MacroFile macro(to.stream, path, Target::Vba, repairs, !repairs);
-    macro.writeFrame(head);
+    MacroFile macro(to.stream, path, target, repairs, !repairs);
+    macro.writeFrame(target == Target::Vba ? head : pageHead);
     for (const QString& action : actions) {
         macro.write(action);
         macro.endAction();
     }
-    macro.writeFrame(foot);
+    macro.writeFrame(target == Target::Vba ? foot : pageFoot);
     macro.finish();
     to.stream.flush();
     Written written{QString::fromUtf8(to.buffer.data()).split('\n'), to.stream.status() == QTextStream::Ok,
@@ -50,18 +55,29 @@ Written repaired(const QStringList& actions)
     return write(actions, true, folder.filePath("test.bas"));
 }
 
-/// The lines of each procedure without its first and its last one, by its name; under no name what stands outside.
+QStringList repairedPage(const QStringList& actions)
+{
+    const QTemporaryDir folder;
+    return write(actions, true, folder.filePath("test.html"), Target::JavaScript).lines;
+}
+
+/// The lines of each procedure without its first and its last one, by its name; under no name what stands outside. A
+/// page's functions stand in its main one.
 std::map<QString, QStringList> proceduresOf(const QStringList& lines)
 {
+    const std::array<QString, 2> functionEnds{"       }", "            }"};
     std::map<QString, QStringList> procedures;
-    QString name;
+    QStringList open{QString()};
     for (const QString& line : lines) {
+        const auto depth = static_cast<std::size_t>(open.size() - 1);
         if (line.startsWith("Sub ") || line.startsWith("Private Sub "))
-            name = line.section("Sub ", 1).section('(', 0, 0);
-        else if (line == "End Sub")
-            name.clear();
+            open += line.section("Sub ", 1).section('(', 0, 0);
+        else if (line.trimmed().startsWith("function "))
+            open += line.section("function ", 1).section('(', 0, 0);
+        else if (line == "End Sub" || (depth > 0 && line == functionEnds.at(depth - 1)))
+            open.removeLast();
         else
-            procedures[name] += line;
+            procedures[open.last()] += line;
     }
     return procedures;
 }
@@ -83,10 +99,12 @@ QStringList run(const QStringList& lines)
         for (const QString& line : procedures.at(name))
             if (const QString code = line.trimmed(); procedures.contains(code) && !code.isEmpty())
                 call(code);
+            else if (code.endsWith("();") && procedures.contains(code.chopped(3)))
+                call(code.chopped(3));
             else if (!code.isEmpty() && !code.startsWith("Dim "))
                 statements += code;
     };
-    call("main");
+    call(procedures.contains("main") ? "main" : "runMacro");
     return statements;
 }
 
@@ -193,6 +211,96 @@ TEST(Procedures, HaveNoMoreTextThanCompiles)
     for (const auto& [name, body] : proceduresOf(macro.lines))
         EXPECT_LT(body.join('\n').size(), 64 * 1024) << name.toStdString();
     EXPECT_EQ(run(macro.lines), runAsRecorded(actions));
+}
+
+TEST(Functions, AreOneInAShortPage)
+{
+    const QStringList actions{"            var line1 = f();\n", repeated("            line1.put_X(#);\n", 2999)};
+    EXPECT_EQ(repairedPage(actions).join('\n'), pageHead + actions.join("") + pageFoot);
+}
+
+TEST(Functions, StandInTheMainOneAndHaveWholeActions)
+{
+    QStringList actions;
+    for (int i = 0; i < 100; ++i)
+        actions += "            var line" + QString::number(i) + " = mSkMgr.InsertLine(1);\n" +
+                   repeated("            line" + QString::number(i) + ".put_X(#);\n", 38) + "\n";
+    const QStringList page = repairedPage(actions);
+    EXPECT_EQ(run(page), run((pageHead + actions.join("") + pageFoot).split('\n')));
+    EXPECT_EQ(page.first(), "<html>");
+    EXPECT_EQ(page.mid(page.size() - 4).join('\n'), pageFoot);
+    const std::map<QString, QStringList> functions = proceduresOf(page);
+    ASSERT_EQ(functions.size(), 4U);
+    // 75 actions of 40 lines.
+    EXPECT_EQ(functions.at("recordedActions1").first(), "                var line0 = mSkMgr.InsertLine(1);");
+    EXPECT_EQ(functions.at("recordedActions1").last(), "                line74.put_X(37);");
+    EXPECT_EQ(functions.at("runMacro").join('\n'), "            var mApp = getApplication(),\n"
+                                                   "               mDoc = mApp.GetActiveDocument();\n\n"
+                                                   "            recordedActions1();\n"
+                                                   "            recordedActions2();\n\n");
+}
+
+/// A variable that is declared in one place is the same in all of a function.
+TEST(Functions, ShareVariablesOfTheMainOne)
+{
+    const QString filling = repeated("            mApp.Run(#);\n", 2990);
+    const QStringList actions{
+        "            var line1 = f(\"var text = 1\"), mine = g(1, other), list =\n            [];\n"
+        "            var points;\n            var own = 1;\n"
+        "            for (var i = 0; i < 2; ++i)\n                line1.put_X(i);\n",
+        filling,
+        "            var points;\n            points = line1.GetPoint();\n            var own2;\n"
+        "            for (var i = 0; i < 2; ++i)\n                x.put_X(own2.own, list, Line1);\n",
+        filling,
+        "            late = 1;\n",
+        filling,
+        "            var late = late + 1;\n"};
+    const QString text = repairedPage(actions).join('\n');
+    EXPECT_TRUE(text.contains("mDoc = mApp.GetActiveDocument();\n\n            var line1, mine, list;\n"
+                              "            var points;\n            var i;\n            var late;\n\n"
+                              "            recordedActions1();\n"))
+        << text.left(400).toStdString();
+    EXPECT_TRUE(text.contains("recordedActions1() {\n"
+                              "                line1 = f(\"var text = 1\"), mine = g(1, other), list =\n"
+                              "                [];\n                var own = 1;\n"
+                              "                for (i = 0; i < 2; ++i)\n                    line1.put_X(i);\n"));
+    EXPECT_TRUE(text.contains("recordedActions2() {\n                points = line1.GetPoint();\n"
+                              "                var own2;\n                for (i = 0;"));
+    EXPECT_TRUE(text.contains("                late = late + 1;\n"));
+}
+
+TEST(Functions, HaveWholeStatements)
+{
+    const QString block = "            if (x &&\n                y)\n            {\n" +
+                          repeated("                f(\"}\", #);\n", 700) + "            }\n";
+    const QStringList actions{block + block, block,
+                              block + "            var list =\n            [\n" + repeated("             #,\n", 7000) +
+                                  "            ];\n",
+                              block, repeated("            for (i = 0; i < 2; ++i)\n                g(#);\n", 9000)};
+    const QStringList page = repairedPage(actions);
+    EXPECT_EQ(run(page), run((pageHead + actions.join("") + pageFoot).split('\n')));
+    for (const auto& [name, lines] : proceduresOf(page)) {
+        const QString text = lines.join('\n');
+        EXPECT_EQ(text.count("{\n"), text.count("}\n") + (text.endsWith('}') ? 1 : 0)) << name.toStdString();
+        EXPECT_EQ(text.count("for ("), text.count("g(")) << name.toStdString();
+        EXPECT_LE(lines.size(), 7003) << name.toStdString();
+    }
+}
+
+TEST(Functions, AreToldToHaveTooManyVariablesInFaithfulPages)
+{
+    const auto faults = [](const QString& action) {
+        std::vector<std::uint32_t> found;
+        for (const CFxFaultNote& fault : write({action}, false, "test.html", Target::JavaScript).faults)
+            if (fault.reason == CFxString("the function has more variables than browsers have room for"))
+                found = fault.lines;
+        return found;
+    };
+    // One is the head's.
+    EXPECT_EQ(faults(repeated("            var a#, b# = f(\"var x#\");\n", 50'000 - 1) + "            var last;\n"),
+              std::vector<std::uint32_t>{});
+    EXPECT_EQ(faults(repeated("            var a#, b#;\n", 50'000)), std::vector<std::uint32_t>{2});
+    EXPECT_EQ(faults(repeated("            var a = f(#);\n", 200'000)), std::vector<std::uint32_t>{});
 }
 
 TEST(Procedures, FailTheMacroWhenTheyCannotWait)
