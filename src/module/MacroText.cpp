@@ -1,5 +1,7 @@
 #include "module/MacroText.h"
 
+#include "module/codeNames.h"
+
 #include <QTextStream>
 
 #include <algorithm>
@@ -49,8 +51,15 @@ const Fault kTooLong{"ConvertRecording", {Target::Vba}, "the procedure is longer
 
 } // namespace
 
-MacroText::MacroText(Target target, bool repairs, bool notesFaults, const QString& folder)
-    : target_(target), repairs_(repairs), notesFaults_(notesFaults), locals_(target)
+void MacroText::Found::add(const Found& other)
+{
+    faults.insert(faults.end(), other.faults.begin(), other.faults.end());
+    for (const auto& [origin, count] : other.lines)
+        addLines(lines, origin, count);
+}
+
+MacroText::MacroText(Target target, bool repairs, bool notesFaults, bool notesLines, const QString& folder)
+    : target_(target), repairs_(repairs), notesFaults_(notesFaults), notesLines_(notesLines), locals_(target)
 {
     if (divides(target, repairs))
         procedures_.emplace(folder);
@@ -60,34 +69,59 @@ void MacroText::write(QTextStream& stream, Kind kind, QStringView text)
 {
     if (repairs_)
         return writeLines(stream, kind, text);
-    if (kind == Kind::Declarations)
+    if (notesLines_ || (notesFaults_ && kind != Kind::Declarations))
+        followLines(kind, text);
+    else if (kind == Kind::Declarations)
         line_ += static_cast<std::size_t>(std::count(text.begin(), text.end(), QChar('\n')));
-    else if (notesFaults_)
-        followLines(text);
     noteLength(text.size());
     writeSliced(stream, text);
 }
 
-void MacroText::followLines(QStringView text)
+void MacroText::begin(const Origin& origin)
 {
-    forLines(begun_, text, [this](QStringView line) {
-        if (const std::size_t number = locals_.declaresTwice(line, line_))
-            faults_.push_back({&kDeclaredTwice, number});
-        if (sizesNothing(line, target_))
-            noteFault(kEmptyArray);
-        if (target_ == Target::Vba && letters_ == 0 && line == Procedures::kMain)
-            mainLine_ = line_;
-        ++line_;
+    if (!begunOrigin_ && !trimmed(begun_).isEmpty())
+        begunOrigin_ = origin_;
+    origin_ = origin;
+}
+
+Origin MacroText::takeOrigin()
+{
+    return std::exchange(begunOrigin_, std::nullopt).value_or(origin_);
+}
+
+void MacroText::endLine()
+{
+    ++line_;
+    if (notesLines_ && !procedures_)
+        addLines(found_.lines, takeOrigin());
+}
+
+void MacroText::followLines(Kind kind, QStringView text)
+{
+    forLines(begun_, text, [this, kind](QStringView line) {
+        if (notesFaults_ && kind != Kind::Declarations)
+            findFaults(line);
+        endLine();
     });
     // A declaration stands at the beginning of its line, which may be long in all.
     begun_.truncate(kLineHead);
+}
+
+void MacroText::findFaults(QStringView line)
+{
+    if (const std::size_t number = locals_.declaresTwice(line, line_))
+        found_.faults.push_back({&kDeclaredTwice, number});
+    if (sizesNothing(line, target_))
+        noteFault(kEmptyArray);
+    if (target_ == Target::Vba && letters_ == 0 && line == Procedures::kMain)
+        mainLine_ = line_;
 }
 
 void MacroText::noteLength(qsizetype letters)
 {
     letters_ += letters;
     if (mainLine_ > 0 && letters_ > Procedures::kMostLetters)
-        faults_.push_back({&kTooLong, std::exchange(mainLine_, 0)});
+        found_.faults.push_back({&kTooLong, std::exchange(mainLine_, 0)});
 }
 
 void MacroText::writeLines(QTextStream& stream, Kind kind, QStringView text)
@@ -102,23 +136,25 @@ void MacroText::writeLines(QTextStream& stream, Kind kind, QStringView text)
         } else if (kind == Kind::Frame) {
             procedures_->frameLine(text);
         } else {
-            procedures_->line(text);
+            procedures_->line(text, takeOrigin());
         }
-        ++line_;
+        endLine();
     });
 }
 
-void MacroText::finish(QTextStream& stream)
+void MacroText::finish(QTextStream& stream, const OriginSink& lines)
 {
     if (procedures_)
-        procedures_->finish(stream);
+        procedures_->finish(stream, lines);
+    else if (notesLines_ && !begun_.isEmpty())
+        addLines(found_.lines, takeOrigin());
     if (repairs_)
         writeSliced(stream, std::exchange(begun_, QString()));
 }
 
-std::vector<MacroText::FoundFault> MacroText::takeFaults()
+MacroText::Found MacroText::take()
 {
-    return std::exchange(faults_, {});
+    return std::exchange(found_, {});
 }
 
 } // namespace inkmacro

@@ -110,6 +110,11 @@ QString asNew(QStringView declaration)
 
 } // namespace
 
+bool Procedures::isBlankLine(const Line& line)
+{
+    return isBlank(line.text);
+}
+
 void Procedures::Run::add(const Run& other)
 {
     lines += other.lines;
@@ -125,19 +130,21 @@ Procedures::Procedures(const QString& folder) : blocks_(1), waiting_(folder + "/
 void Procedures::frameLine(const QString& line)
 {
     const bool isHead = blocks_.front().part.lines.isEmpty();
-    (isHead ? head_ : foot_) += line;
+    (isHead ? head_ : foot_).append({line, {}});
     if (isHead)
         noteDeclaration(line);
 }
 
-void Procedures::line(const QString& line)
+void Procedures::line(const QString& line, const Origin& origin)
 {
     noteDeclaration(line);
+    if (continued_.isEmpty())
+        continuedOrigin_ = origin;
     continued_ += line;
     if (continued_.endsWith(" _"))
         continued_ += '\n';
     else
-        addWhole(std::exchange(continued_, QString()));
+        addWhole(std::exchange(continued_, QString()), continuedOrigin_);
 }
 
 void Procedures::noteDeclaration(QStringView line)
@@ -147,11 +154,15 @@ void Procedures::noteDeclaration(QStringView line)
         users_.insert(keyOf(nameAt(code, kDim.size())), kNobody);
 }
 
-void Procedures::addWhole(const QString& line)
+void Procedures::addWhole(const QString& line, const Origin& origin)
 {
     const QStringView code = trimmed(line);
     Run unit;
-    unit.lines = line.contains('\n') ? line.split('\n') : QStringList(line);
+    if (line.contains('\n'))
+        for (const QString& part : line.split('\n'))
+            unit.lines.append({part, origin});
+    else
+        unit.lines.append({line, origin});
     unit.letters = line.size();
     unit.leavesLoop = code.endsWith(u"Exit For");
     unit.leavesMain = code.endsWith(u"Exit Sub");
@@ -219,7 +230,7 @@ bool Procedures::divide(Block& block)
         from = 0;
         to = run.calls;
     }
-    if (run.leavesLoop || run.leavesMain || std::all_of(run.lines.begin() + from, run.lines.begin() + to, isBlank))
+    if (run.leavesLoop || run.leavesMain || std::all_of(run.lines.begin() + from, run.lines.begin() + to, isBlankLine))
         return false;
     extract(run, from, to);
     return true;
@@ -227,19 +238,19 @@ bool Procedures::divide(Block& block)
 
 void Procedures::extract(Run& run, int from, int to)
 {
-    const QStringList taken = run.lines.mid(from, to - from);
+    const Lines taken = run.lines.mid(from, to - from);
     writeProcedure(taken);
     noteNames(taken, count_);
-    const auto first = std::find_if_not(taken.begin(), taken.end(), isBlank);
-    const QString call = first->left(static_cast<int>(indentationOf(*first))) + nameOf(count_);
-    run.lines = run.lines.mid(0, from) + QStringList(call) + run.lines.mid(to);
+    const auto first = std::find_if_not(taken.begin(), taken.end(), isBlankLine);
+    const QString call = first->text.left(static_cast<int>(indentationOf(first->text))) + nameOf(count_);
+    run.lines = run.lines.mid(0, from) + Lines{{call, {}}} + run.lines.mid(to);
     run.calls = from + 1;
     run.letters = 0;
-    for (const QString& line : std::as_const(run.lines))
-        run.letters += line.size();
+    for (const Line& line : std::as_const(run.lines))
+        run.letters += line.text.size();
 }
 
-void Procedures::writeProcedure(const QStringList& lines)
+void Procedures::writeProcedure(const Lines& lines)
 {
     if (++count_ == 1) {
         failed_ = !waiting_.open();
@@ -249,26 +260,29 @@ void Procedures::writeProcedure(const QStringList& lines)
     if (failed_)
         return;
     toWaiting_ << "\nPrivate Sub " << nameOf(count_) << "()\n";
-    const auto begin = std::find_if_not(lines.begin(), lines.end(), isBlank);
-    const auto end = std::find_if_not(lines.rbegin(), lines.rend(), isBlank).base();
-    qsizetype least = indentationOf(*begin);
-    std::for_each(begin, end, [&](const QString& line) {
-        if (!isBlank(line))
-            least = std::min(least, indentationOf(line));
+    addLines(waitingOrigins_, {}, 2);
+    const auto begin = std::find_if_not(lines.begin(), lines.end(), isBlankLine);
+    const auto end = std::find_if_not(lines.rbegin(), lines.rend(), isBlankLine).base();
+    qsizetype least = indentationOf(begin->text);
+    std::for_each(begin, end, [&](const Line& line) {
+        if (!isBlankLine(line))
+            least = std::min(least, indentationOf(line.text));
     });
-    std::for_each(begin, end, [&](const QString& line) {
-        if (!isBlank(line))
-            toWaiting_ << "    " << QStringView(line).mid(least);
+    std::for_each(begin, end, [&](const Line& line) {
+        if (!isBlankLine(line))
+            toWaiting_ << "    " << QStringView(line.text).mid(least);
         toWaiting_ << '\n';
+        addLines(waitingOrigins_, line.origin);
     });
     toWaiting_ << "End Sub\n";
+    addLines(waitingOrigins_, {});
 }
 
-void Procedures::noteNames(const QStringList& lines, int procedure)
+void Procedures::noteNames(const Lines& lines, int procedure)
 {
     QString key; // its memory serves all names
-    for (const QString& line : lines)
-        forNames(line, Target::Vba, [&](QStringView name, qsizetype) {
+    for (const Line& line : lines)
+        forNames(line.text, Target::Vba, [&](QStringView name, qsizetype) {
             if (name.front().isDigit())
                 return;
             setKey(key, name);
@@ -293,19 +307,25 @@ void Procedures::forWaiting(const Use& use)
         return;
     toWaiting_.flush();
     waiting_.seek(0);
+    auto run = waitingOrigins_.cbegin();
+    std::uint32_t used = 0; // lines of that run
     std::string text;
     for (QByteArray block = waiting_.read(kBlock); !block.isEmpty(); block = waiting_.read(kBlock)) {
         text.append(block.constData(), static_cast<std::size_t>(block.size()));
         std::size_t from = 0;
         for (auto end = text.find('\n'); end != std::string::npos; end = text.find('\n', from)) {
-            use(std::string_view(text).substr(from, end + 1 - from));
+            use(std::string_view(text).substr(from, end + 1 - from), run->origin);
             from = end + 1;
+            if (++used == run->count) {
+                ++run;
+                used = 0;
+            }
         }
         text.erase(0, from);
     }
 }
 
-void Procedures::finish(QTextStream& stream)
+void Procedures::finish(QTextStream& stream, const OriginSink& told)
 {
     // Only of a macro that is given up.
     while (blocks_.size() > 1)
@@ -313,54 +333,67 @@ void Procedures::finish(QTextStream& stream)
     Run& main = blocks_.front().part;
     if (count_ > 0 && !main.leavesMain && main.lines.size() > main.calls)
         extract(main, main.calls, main.lines.size());
-    const auto write = [&stream](const QString& line) { stream << line << '\n'; };
     if (count_ == 0) {
-        for (const QStringList* const lines : {&head_, &main.lines, &foot_})
-            std::for_each(lines->begin(), lines->end(), write);
+        for (const Lines* const lines : {&head_, &main.lines, &foot_})
+            for (const auto& [text, origin] : *lines) {
+                stream << text << '\n';
+                if (told)
+                    told({origin, 1});
+            }
     } else {
-        writeDivided(stream);
+        writeDivided(stream, told);
     }
     if (failed_ || (count_ > 0 && (toWaiting_.status() != QTextStream::Ok || waiting_.error() != QFile::NoError)))
         stream.setStatus(QTextStream::WriteFailed);
 }
 
-void Procedures::writeDivided(QTextStream& stream)
+void Procedures::writeDivided(QTextStream& stream, const OriginSink& told)
 {
-    const QStringList body = blocks_.front().part.lines + foot_;
+    const auto tell = [&told](const Origin& origin) {
+        if (told)
+            told({origin, 1});
+    };
+    const auto put = [&](const Line& line) {
+        stream << line.text << '\n';
+        tell(line.origin);
+    };
+    const Lines body = blocks_.front().part.lines + foot_;
     noteNames(head_ + body, kMainNumber);
-    const auto begin = std::find(head_.begin(), head_.end(), kMain.toString());
-    for (auto line = head_.begin(); line != begin; ++line)
-        stream << *line << '\n';
+    const auto begin = std::find_if(head_.begin(), head_.end(), [](const Line& line) { return line.text == kMain; });
+    std::for_each(head_.begin(), begin, put);
 
-    const auto declare = [&](const QString& line) {
-        if (const QStringView declaration = sharedIn(line); !declaration.isEmpty())
+    const auto declare = [&](const Line& line) {
+        if (const QStringView declaration = sharedIn(line.text); !declaration.isEmpty()) {
             stream << "Private " << declaration << '\n';
+            tell(line.origin);
+        }
     };
     std::for_each(begin, head_.end(), declare);
     std::for_each(body.begin(), body.end(), declare);
-    forWaiting([&](std::string_view line) { declare(declarationIn(line)); });
-    stream << '\n';
+    forWaiting([&](std::string_view line, const Origin& origin) { declare({declarationIn(line), origin}); });
+    put({});
 
     // The head gives each of its variables a value.
-    std::for_each(begin, head_.end(), [&](const QString& line) {
-        if (sharedIn(line).isEmpty())
-            stream << line << '\n';
+    std::for_each(begin, head_.end(), [&](const Line& line) {
+        if (sharedIn(line.text).isEmpty())
+            put(line);
     });
-    const auto write = [&](const QString& line) {
-        const QStringView declaration = sharedIn(line);
+    const auto write = [&](const Line& line) {
+        const QStringView declaration = sharedIn(line.text);
         if (declaration.isEmpty())
-            stream << line << '\n';
+            put(line);
         else
-            stream << line.left(static_cast<int>(indentationOf(line))) << asNew(declaration) << '\n';
+            put({line.text.left(static_cast<int>(indentationOf(line.text))) + asNew(declaration), line.origin});
     };
     std::for_each(body.begin(), body.end(), write);
     stream.flush();
-    forWaiting([&](std::string_view line) {
+    forWaiting([&](std::string_view line, const Origin& origin) {
         const QString declaration = declarationIn(line);
         if (sharedIn(declaration).isEmpty()) {
             stream.device()->write(line.data(), static_cast<qint64>(line.size()));
+            tell(origin);
         } else {
-            write(declaration);
+            write({declaration, origin});
             stream.flush();
         }
     });
