@@ -141,7 +141,7 @@ void MacroMap::addAction(const CFxMacroLines& lines, const OdRxObjectPtr& action
     if (!lines.made.isNull())
         handles.push_back(lines.made);
     std::ranges::sort(handles);
-    handles.erase(std::ranges::unique(handles).begin(), handles.end());
+    handles.erase(std::unique(handles.begin(), handles.end()), handles.end());
     for (std::size_t i = 0; i < handles.size(); ++i) {
         append(bytes_, i == 0 ? "\""sv : ",\""sv);
         append(bytes_, handles[i].value(), 16);
@@ -161,10 +161,10 @@ QString MacroMap::finish()
 {
     append(bytes_, "\n]}\n"sv);
     write();
-    const bool written = file_.isOpen() && file_.flush() && file_.error() == QFileDevice::NoError;
-    const QString reason = file_.errorString();
+    if (!file_.isOpen() || !file_.flush() || file_.error() != QFileDevice::NoError)
+        return file_.errorString();
     file_.close();
-    return written && file_.error() == QFileDevice::NoError ? QString() : reason;
+    return file_.error() == QFileDevice::NoError ? QString() : file_.errorString();
 }
 
 namespace {
