@@ -59,6 +59,25 @@ TEST_F(Program, WarnsOfWhatIsProbablyNotMeant)
     EXPECT_TRUE(run({"check", "many.jsonl"}).err.endsWith("many.jsonl: and 9 warnings more; --json has them all\n"));
 }
 
+/// What a faithful macro writes in spite of all a repaired one loses, and by a top-level action that fails there is no
+/// macro at all.
+TEST_F(Program, WarnsOfWhatRepairedMacrosLoseAndOfWhatFails)
+{
+    write("layer.jsonl", R"({"modified":{"class":"AcDbLayerTableRecord","handle":"77","properties":[)"
+                         R"({"tag":"Color","value":{"color":{"index":1}}}]}})");
+    EXPECT_EQ(run({"check", "layer.jsonl"}).err,
+              "layer.jsonl:1: warning: lost: changes of AcDbLayerTableRecord 77: the "
+              "drawing does not have the layer\n");
+    write("fails.jsonl", line + R"({"custom":{"kind":17,"data":[{"handle":"2F"}]}})");
+    EXPECT_EQ(run({"check", "fails.jsonl"}).err,
+              "fails.jsonl:2: warning: a conversion ends here without a macro, because of what is lost\n"
+              "fails.jsonl:2: warning: lost: custom erase: invalid index\n");
+    EXPECT_TRUE(run({"convert", "fails.jsonl", "-t", "vba", "-o", "out/"})
+                    .err.endsWith("out/vba/fails.bas; inkmacro check fails.jsonl tells why\n"));
+    EXPECT_TRUE(run({"convert", "fails.jsonl", "-t", "vba", "-o", "out/", "--report"})
+                    .err.endsWith("out/vba/fails.bas: custom erase: invalid index\n"));
+}
+
 using Lines = std::vector<std::string>;
 
 class Warnings : public Program
@@ -108,14 +127,15 @@ TEST_F(Warnings, TellWhichNamesWereMeant)
     const std::string unknown = ": objects of its class have no statements";
     EXPECT_EQ(
         of(lines),
-        (Lines{"1: property \"radius\" of AcDbCircle 30" + unset + "; did you mean Radius?",
-               "2: property \"Start W\" of AcDbLine 31" + unset, "2: property \"Hyperlink\" of AcDbLine 31" + unset,
-               "3: property \"Thicknes\" of AcDbCircle 30" + unset + "; did you mean Thickness?",
-               "3: property \"Material\" of AcDbCircle 30" + unset,
-               "4: property \"Radius\" of AcDbCirle 30" + unset + "; did you mean AcDbCircle?",
-               "6: property \"Content_0_1\" of AcDbTable 40" + unset + "; did you mean Contents_0_1?",
-               "7: added Line 32" + unknown + "; did you mean AcDbLine?", "8: added AcDbBody 33" + unknown,
-               "9: added AcDbDictionary 34" + unknown, "10: added HostWeldSymbol 35" + unknown}));
+        (Lines{"1: lost: property \"radius\" of AcDbCircle 30" + unset + "; did you mean Radius?",
+               "2: lost: property \"Start W\" of AcDbLine 31" + unset,
+               "2: lost: property \"Hyperlink\" of AcDbLine 31" + unset,
+               "3: lost: property \"Thicknes\" of AcDbCircle 30" + unset + "; did you mean Thickness?",
+               "3: lost: property \"Material\" of AcDbCircle 30" + unset,
+               "4: lost: property \"Radius\" of AcDbCirle 30" + unset + "; did you mean AcDbCircle?",
+               "6: lost: property \"Content_0_1\" of AcDbTable 40" + unset + "; did you mean Contents_0_1?",
+               "7: lost: added Line 32" + unknown + "; did you mean AcDbLine?", "8: lost: added AcDbBody 33" + unknown,
+               "9: lost: added AcDbDictionary 34" + unknown, "10: lost: added HostWeldSymbol 35" + unknown}));
 }
 
 TEST_F(Warnings, TellOfHandlesThatReferToNothing)
@@ -135,13 +155,15 @@ TEST_F(Warnings, TellOfHandlesThatReferToNothing)
     const auto nothing = [](const std::string& line, const std::string& handle) {
         return line + ": handle " + handle + " refers to nothing: neither the drawing nor the recording has it";
     };
-    EXPECT_EQ(of(lines), (Lines{nothing("2", "50"), "2: handle 60 is added in line 4 only",
-                                "3: property \"Layer\" of AcDbLine 61: the drawing does not have what it names",
-                                "4: property \"AllEntities\" of AcDbGroup 60: the macro does not have the object 97",
-                                nothing("7", "98"),
-                                "9: changes of AcDbLine A0: the recording did not add the object, so the macro has no "
-                                "variable for it",
-                                nothing("10", "A0")}));
+    EXPECT_EQ(of(lines),
+              (Lines{nothing("2", "50"), "2: handle 60 is added in line 4 only",
+                     "3: lost: property \"Layer\" of AcDbLine 61: the drawing does not have what it names",
+                     "4: lost: property \"AllEntities\" of AcDbGroup 60: the macro does not have the object 97",
+                     "6: lost: changes of AcDbLayerTableRecord 99: the drawing does not have the layer",
+                     "7: lost: changes of AcDbLayerTableRecord 98: the drawing does not have the layer",
+                     "9: lost: changes of AcDbLine A0: the recording did not add the object, so the macro has no "
+                     "variable for it",
+                     nothing("10", "A0")}));
 }
 
 TEST_F(Program, FormatsRecordingsAnObjectALine)

@@ -90,7 +90,7 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
         {{"inspect", "a", "--command", "--json"}, "a value is missing behind --command: it is --command NAME"},
         {{"inspect", "a", "--handle=A", "--handle=A"}, "--handle is given more than once"},
         {{"check", "a", "--handle=A"}, "--handle is no option of check, but of inspect and snapshot"},
-        {{"schema", "reprot"}, "\"reprot\" is none of recording, report; did you mean report?"},
+        {{"schema", "reprot"}, "\"reprot\" is none of recording, report, map; did you mean report?"},
         {{"classes", "AcDbLien"}, "\"AcDbLien\" is none of the 52 known names; did you mean AcDbLine?"},
         {{"completion"}, "completion needs bash|zsh|fish"},
         {{"completion", "tcsh"}, "\"tcsh\" is none of bash, zsh, fish"},

@@ -8,17 +8,18 @@ namespace inkmacro {
 
 namespace {
 
-bool holds(const CFxCustomAction& custom, const OdDbHandle& handle)
+std::vector<OdDbHandle> handlesIn(const CFxCustomAction& custom)
 {
+    std::vector<OdDbHandle> handles;
     for (std::int32_t i = 0; i < custom.GetDataCount(); ++i) {
         const CFxCustomActionData& data = custom.GetData(i);
-        if (data.GetHandle() == handle || std::ranges::count(data.GetHandleArray(), handle) > 0)
-            return true;
+        handles.push_back(data.GetHandle());
+        handles.insert(handles.end(), data.GetHandleArray().begin(), data.GetHandleArray().end());
         for (const OdDbObjectId& id : data.GetObjectIdArray())
-            if (id.getHandle() == handle)
-                return true;
+            handles.push_back(id.getHandle());
     }
-    return false;
+    std::erase(handles, OdDbHandle());
+    return handles;
 }
 
 } // namespace
@@ -37,18 +38,21 @@ bool ActionFilter::names(const QString& command) const
 
 bool ActionFilter::isAbout(const OdRxObjectPtr& action) const
 {
-    if (handle_.isNull())
-        return true;
+    return handle_.isNull() || std::ranges::count(handlesOf(action), handle_) > 0;
+}
+
+std::vector<OdDbHandle> handlesOf(const OdRxObjectPtr& action)
+{
     if (const auto added = odrxQuery<CFxObjectAdded>(action.get()))
-        return added->GetHandle() == handle_;
+        return {added->GetHandle()};
     if (const auto modified = odrxQuery<CFxObjectModified>(action.get()))
-        return modified->GetHandle() == handle_;
+        return {modified->GetHandle()};
     if (const auto property = odrxQuery<CFxPropertyChanged>(action.get()))
-        return property->GetHandle() == handle_;
+        return {property->GetHandle()};
     if (const auto selection = odrxQuery<CFxUserSelection>(action.get()))
-        return std::ranges::count(selection->GetHandles(), handle_) > 0;
+        return selection->GetHandles();
     const auto custom = odrxQuery<CFxCustomAction>(action.get());
-    return custom && holds(*custom, handle_);
+    return custom ? handlesIn(*custom) : std::vector<OdDbHandle>();
 }
 
 QString commandName(const CFxUserCommand& command)

@@ -3,6 +3,7 @@
 #include "host/kernel/CFxActions.h"
 
 #include <optional>
+#include <vector>
 
 namespace inkmacro {
 
@@ -32,6 +33,9 @@ private:
     std::optional<QString> command_;
     OdDbHandle handle_;
 };
+
+/// The objects that an action, which is no command, is about: as the recording names them, and maybe several times.
+std::vector<OdDbHandle> handlesOf(const OdRxObjectPtr& action);
 
 /// As the recording has it.
 QString commandName(const CFxUserCommand& command);

@@ -69,6 +69,7 @@ struct CommandLine
         Snapshot,
         RecordingSchema,
         ReportSchema,
+        MapSchema,
         Classes,
         SystemVariables,
         Faults,
@@ -82,6 +83,7 @@ struct CommandLine
     QStringList files;                     ///< "-" is standard input, at most once
     std::vector<const TargetRow*> targets; ///< each once, in the order asked for
     std::optional<QString> output;
+    bool map = false;   ///< a map beside each macro
     bool force = false; ///< projects of other recordings are replaced
     HostSettings host;
     Telling telling;

@@ -178,6 +178,15 @@ fault, one or more of them. The macros are written all the same.)",
         .meaning = "no word of what is lost and faulty",
         .text = "Do not tell on standard error what a macro lacks and its faults.",
     },
+    {
+        .name = "--map",
+        .take = [](CommandLine& line, const QString&) { line.map = true; },
+        .meaning = "a map from each line of a macro to its action",
+        .text = R"(Write a map beside each macro, under its name with .map.json behind: which
+action of the recording each of its lines comes from, as JSON (schema map
+prints its schema). It is listed behind the project. A map is of the macro
+that it was written with: a later call without this option leaves it.)",
+    },
 };
 
 const std::vector<OptionRow> checkOptions = {
@@ -334,9 +343,10 @@ const std::vector<CommandRow> commandRows = {
         .form = "FILE...",
         .text = R"(Reads recordings and says what is wrong with up to 20 lines of each; writes
 nothing. Of a recording that can be read it warns of what is probably not what
-was meant: what a conversion to VBA loses or assumes, with the class or tag
-that a misspelled one may stand for, handles that are added twice, and handles
-that neither the drawing nor the recording up to there has.)",
+was meant: what a conversion to VBA loses or assumes, with --repair or without,
+and where it comes to no macro; the class or tag that a misspelled one may
+stand for; handles that are added twice, and handles that neither the drawing
+nor the recording up to there has.)",
         .options = checkOptions,
     },
     {
@@ -372,19 +382,21 @@ what the host's property sheet shows.)",
     {
         .command = Command::RecordingSchema,
         .name = "schema",
-        .meaning = "print the JSON Schema of recordings or reports",
+        .meaning = "print the JSON Schema of recordings, reports or maps",
         .operands = Operands::MaybeWord,
-        .form = "recording|report",
+        .form = "recording|report|map",
         .words =
             [] {
-                return QStringList{"recording", "report"};
+                return QStringList{"recording", "report", "map"};
             },
         .takeWord =
             [](CommandLine& line, const QString& word) {
-                line.command = word == "report" ? Command::ReportSchema : Command::RecordingSchema;
+                line.command = word == "report" ? Command::ReportSchema
+                               : word == "map"  ? Command::MapSchema
+                                                : Command::RecordingSchema;
             },
         .text = R"(Prints the JSON Schema of one line of a recording, without an argument too,
-or of the report of convert.)",
+or of the report or a map of convert.)",
     },
     {
         .command = Command::Classes,

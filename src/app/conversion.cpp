@@ -4,6 +4,7 @@
 
 #include "app/ExitStatus.h"
 #include "app/LoadedModule.h"
+#include "app/MacroMap.h"
 #include "app/ProgressLine.h"
 #include "app/ReportPart.h"
 #include "app/StagedResult.h"
@@ -121,6 +122,13 @@ Outcome printMacro(const QString& path)
 Outcome convertRead(const Job& job, const Recording& recording, const HostSettings& host)
 {
     StagedResult result(job.files());
+    CFxConversionNotes& notes = GetFxSystemServices()->Notes();
+    std::optional<MacroMap> map;
+    if (job.hasMap) {
+        map.emplace(Job::mapOf(result.firstFile()), job, recording);
+        notes.OnLines([&map](const CFxMacroLines& lines) { map->add(lines); });
+    }
+    const auto silence = qScopeGuard([&notes] { notes.OnLines({}); });
     const std::int32_t status = runModule(*job.target, result.firstFile(), recording, host);
     for (const CFxString& problem : GetFxSystemServices()->GetProblems())
         complain(QString("%1 to %2: %3").arg(job.input, targetName(*job.target), problem));
@@ -133,6 +141,8 @@ Outcome convertRead(const Job& job, const Recording& recording, const HostSettin
         return printMacro(result.firstFile());
     if (const QString incomplete = incompleteFiles(job); !incomplete.isEmpty())
         return failure(incomplete);
+    if (const QString reason = map ? map->finish() : QString(); !reason.isEmpty())
+        return failure(QString("%1 could not be written whole: %2").arg(Job::mapOf(job.macro), reason));
     // Somebody else may have put a project there meanwhile.
     QString others;
     const QStringList placed = result.place([&] { return (others = otherProjectsIn({job})).isEmpty(); });

@@ -103,6 +103,7 @@ std::vector<Job> listJobs(const CommandLine& line)
             jobs.push_back({.input = input,
                             .target = row,
                             .macro = intoDirectory ? macroPath(own, input, *row) : output,
+                            .hasMap = line.map,
                             .replacesOthers = line.force});
     }
     return jobs;
@@ -177,6 +178,14 @@ QStringList Job::projectFiles() const
     QStringList files;
     for (QString name : projectNames())
         files.append(directory + name.replace("%1", project));
+    return files;
+}
+
+QStringList Job::files() const
+{
+    QStringList files = QStringList(macro) + projectFiles();
+    if (hasMap)
+        files.append(mapOf(macro));
     return files;
 }
 

@@ -11,6 +11,7 @@ struct Job
     const TargetRow* target;
     QString macro;                 ///< on its way to standard output it has a name too, which is never written to
     bool toStandardOutput = false; ///< the macro alone
+    bool hasMap = false;           ///< a map of the macro stands beside it
     bool replacesOthers = false;   ///< files of another recording's project too
     std::vector<std::size_t> behind = {}; ///< numbers of earlier jobs that write one of the same files
 
@@ -18,8 +19,10 @@ struct Job
     QStringList projectNames() const;
     /// The files of the project around the macro. The module names them after the macro and puts them beside it.
     QStringList projectFiles() const;
-    /// Those behind the macro.
-    QStringList files() const { return QStringList(macro) + projectFiles(); }
+    /// Leads the lines of the macro at that path back to the recording.
+    static QString mapOf(const QString& macro) { return macro + ".map.json"; }
+    /// The macro in front, and its map, when it has one, behind the project.
+    QStringList files() const;
     /// What messages call the macro.
     QString shownMacro() const { return toStandardOutput ? QStringLiteral("standard output") : macro; }
 };

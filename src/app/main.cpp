@@ -2,6 +2,7 @@
 
 #include "app/CommandLine.h"
 #include "app/ExitStatus.h"
+#include "app/MacroMap.h"
 #include "app/checking.h"
 #include "app/classesPage.h"
 #include "app/commandTable.h"
@@ -87,6 +88,9 @@ int run(const CommandLine& line)
         break;
     case CommandLine::Command::ReportSchema:
         printOut(reportSchema());
+        break;
+    case CommandLine::Command::MapSchema:
+        printOut(mapSchema());
         break;
     case CommandLine::Command::Classes:
         printOut(classesPage(line.className));

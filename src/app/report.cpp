@@ -236,9 +236,12 @@ void ReportDocument::printJson(const Conversion& conversion)
         inkmacro::add(out, "error", outcome.error);
     if (!outcome.files.isEmpty())
         inkmacro::add(out, "macro", outcome.files.front());
+    QStringList project = outcome.files.mid(1);
+    if (const QString map = Job::mapOf(job->macro); project.removeOne(map))
+        inkmacro::add(out, "map", map);
     out.key("project"sv);
     out.beginArray();
-    for (const QString& file : outcome.files.mid(1))
+    for (const QString& file : project)
         out.text(file);
     out.endArray();
     addNotes("losses", List::Losses);

@@ -47,6 +47,7 @@ QJsonObject conversionSchema()
                    enumSchema({statusWord(kDone), statusWord(kFailed), statusWord(kUnreadable)}), true);
     conversion.add("error", "why it did not end well", typeSchema("string"), false);
     conversion.add("macro", "the macro file, when it was written; - is standard output", typeSchema("string"), false);
+    conversion.add("map", "the map of the macro's lines, when it was asked for", typeSchema("string"), false);
     conversion.add("project", "the files of the project around it that were written", listSchema(typeSchema("string")),
                    true);
     conversion.add("losses", "what the user did and the macro does not",

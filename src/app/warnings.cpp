@@ -57,8 +57,10 @@ Told toldByConversions(const Recording& recording)
     notes.KeepAll(true);
     GetFxSystemServices()->SetInt16(kIgnoreFaults, 1);
     for (const bool repair : {false, true}) {
+        HostSettings host;
+        host.repair = repair;
         const std::int32_t status =
-            runModule(target, QString::fromStdString(folder.file(name).string()), recording, {.repair = repair});
+            runModule(target, QString::fromStdString(folder.file(name).string()), recording, host);
         if (status != kFxSuccess && !notes.GetLosses().empty())
             told.failure = notes.GetLosses().back().where;
         addNew(told.losses, notes.GetLosses());

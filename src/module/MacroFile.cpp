@@ -1,5 +1,6 @@
 #include "module/MacroFile.h"
 
+#include "host/kernel/CFxServices.h"
 #include "statements/Fault.h"
 #include "targets/projectFiles.h"
 
@@ -11,9 +12,10 @@ using namespace inkmacro;
 
 MacroFile::MacroFile(QTextStream& stream, const QString& path, Target target, bool repairs, bool notesFaults)
     : name_(QFileInfo(path).fileName()),
+      notesLines_(GetFxSystemServices()->Notes().WantsLines()),
       stream_(stream),
       divides_(MacroText::divides(target, repairs)),
-      text_(target, repairs, notesFaults, QFileInfo(path).path()),
+      text_(target, repairs, notesFaults, notesLines_, QFileInfo(path).path()),
       behind_(text_, stream)
 {
 }
@@ -21,6 +23,12 @@ MacroFile::MacroFile(QTextStream& stream, const QString& path, Target target, bo
 void MacroFile::write(const Statement& statements)
 {
     write(statements, Kind::Statements);
+}
+
+void MacroFile::writeFrame(const Statement& frame)
+{
+    next_ = {};
+    write(frame, Kind::Frame);
 }
 
 void MacroFile::writeDeclarations(const Statement& declarations)
@@ -45,8 +53,11 @@ void MacroFile::write(const Statement& statements, Kind kind)
 
 void MacroFile::put(Kind kind, QStringView text)
 {
-    if (!text.isEmpty())
-        note(behind_.write(kind, text));
+    if (text.isEmpty())
+        return;
+    if (!(next_ == written_))
+        behind_.begin(written_ = next_);
+    note(behind_.write(kind, text));
 }
 
 void MacroFile::put(const LateText& text)
@@ -67,11 +78,38 @@ void MacroFile::endAction()
 void MacroFile::finish()
 {
     note(behind_.finish());
-    text_.finish(stream_);
+    text_.finish(stream_, notesLines_ ? [this](const OriginRun& run) { noteLines(run); } : OriginSink());
+    note(text_.take());
+    endLines();
 }
 
-void MacroFile::note(const std::vector<MacroText::FoundFault>& faults) const
+void MacroFile::note(const MacroText::Found& found)
 {
-    for (const auto& [fault, line] : faults)
+    for (const auto& [fault, line] : found.faults)
         noteFault(*fault, name_, line);
+    for (const OriginRun& run : found.lines)
+        noteLines(run);
+}
+
+void MacroFile::noteLines(const OriginRun& run)
+{
+    const auto& [origin, count] = run;
+    if (!(origin == linesOrigin_)) {
+        endLines();
+        linesOrigin_ = origin;
+        lines_.part = origin.part;
+        lines_.first = lines_.last + 1;
+        lines_.made = origin.made;
+        lines_.where.clear();
+        for (const std::uint32_t number : {origin.action, origin.child})
+            if (number != Origin::kNone)
+                lines_.where.push_back(number);
+    }
+    lines_.last += count;
+}
+
+void MacroFile::endLines()
+{
+    if (lines_.last >= lines_.first)
+        GetFxSystemServices()->Notes().NoteLines(lines_);
 }

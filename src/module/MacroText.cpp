@@ -62,8 +62,15 @@ constexpr int kMostVariables = 100'000;
 
 } // namespace
 
-MacroText::MacroText(Target target, bool repairs, bool notesFaults, const QString& folder)
-    : target_(target), repairs_(repairs), notesFaults_(notesFaults), locals_(target)
+void MacroText::Found::add(const Found& other)
+{
+    faults.insert(faults.end(), other.faults.begin(), other.faults.end());
+    for (const auto& [origin, count] : other.lines)
+        addLines(lines, origin, count);
+}
+
+MacroText::MacroText(Target target, bool repairs, bool notesFaults, bool notesLines, const QString& folder)
+    : target_(target), repairs_(repairs), notesFaults_(notesFaults), notesLines_(notesLines), locals_(target)
 {
     if (divides(target, repairs))
         procedures_.emplace(target, folder);
@@ -73,36 +80,61 @@ void MacroText::write(QTextStream& stream, Kind kind, QStringView text)
 {
     if (repairs_)
         return writeLines(stream, kind, text);
-    if (kind == Kind::Declarations)
-        line_ += static_cast<std::size_t>(std::count(text.begin(), text.end(), QChar('\n')));
-    else if (notesFaults_)
+    if (notesLines_ || (notesFaults_ && kind != Kind::Declarations))
         followLines(kind, text);
+    else if (kind == Kind::Declarations)
+        line_ += static_cast<std::size_t>(std::count(text.begin(), text.end(), QChar('\n')));
     noteLength(text.size());
     writeSliced(stream, text);
+}
+
+void MacroText::begin(const Origin& origin)
+{
+    if (!begunOrigin_ && !trimmed(begun_).isEmpty())
+        begunOrigin_ = origin_;
+    origin_ = origin;
+}
+
+Origin MacroText::takeOrigin()
+{
+    return std::exchange(begunOrigin_, std::nullopt).value_or(origin_);
+}
+
+void MacroText::endLine()
+{
+    ++line_;
+    if (notesLines_ && !procedures_)
+        addLines(found_.lines, takeOrigin());
 }
 
 void MacroText::followLines(Kind kind, QStringView text)
 {
     forLines(begun_, text, [this, kind](QStringView line) {
-        if (const std::size_t number = locals_.declaresTwice(line, line_))
-            faults_.push_back({&kDeclaredTwice, number});
-        if (sizesNothing(line, target_))
-            noteFault(kEmptyArray);
-        if (kind == Kind::Frame && !line.isEmpty() && line == mainLine(target_))
-            mainLine_ = line_;
-        if (target_ == Target::JavaScript && mainLine_ > 0)
-            noteVariables(line);
-        ++line_;
+        if (notesFaults_ && kind != Kind::Declarations)
+            findFaults(kind, line);
+        endLine();
     });
     // A declaration stands at the beginning of its line, which may be long in all.
     begun_.truncate(kLineHead);
+}
+
+void MacroText::findFaults(Kind kind, QStringView line)
+{
+    if (const std::size_t number = locals_.declaresTwice(line, line_))
+        found_.faults.push_back({&kDeclaredTwice, number});
+    if (sizesNothing(line, target_))
+        noteFault(kEmptyArray);
+    if (kind == Kind::Frame && !line.isEmpty() && line == mainLine(target_))
+        mainLine_ = line_;
+    if (target_ == Target::JavaScript && mainLine_ > 0)
+        noteVariables(line);
 }
 
 void MacroText::noteLength(qsizetype letters)
 {
     letters_ += letters;
     if (target_ == Target::Vba && mainLine_ > 0 && letters_ > kMostLetters)
-        faults_.push_back({&kTooLong, std::exchange(mainLine_, 0)});
+        found_.faults.push_back({&kTooLong, std::exchange(mainLine_, 0)});
 }
 
 void MacroText::noteVariables(QStringView line)
@@ -110,7 +142,7 @@ void MacroText::noteVariables(QStringView line)
     forScriptVariables(line, [this](QStringView name) { variables_.insert(name.toString()); });
     if (variables_.size() <= kMostVariables)
         return;
-    faults_.push_back({&kTooManyVariables, std::exchange(mainLine_, 0)});
+    found_.faults.push_back({&kTooManyVariables, std::exchange(mainLine_, 0)});
     variables_ = {};
 }
 
@@ -126,23 +158,25 @@ void MacroText::writeLines(QTextStream& stream, Kind kind, QStringView text)
         } else if (kind == Kind::Frame) {
             procedures_->frameLine(text);
         } else {
-            procedures_->line(text);
+            procedures_->line(text, takeOrigin());
         }
-        ++line_;
+        endLine();
     });
 }
 
-void MacroText::finish(QTextStream& stream)
+void MacroText::finish(QTextStream& stream, const OriginSink& lines)
 {
     if (procedures_)
-        procedures_->finish(stream);
+        procedures_->finish(stream, lines);
+    else if (notesLines_ && !begun_.isEmpty())
+        addLines(found_.lines, takeOrigin());
     if (repairs_)
         writeSliced(stream, std::exchange(begun_, QString()));
 }
 
-std::vector<MacroText::FoundFault> MacroText::takeFaults()
+MacroText::Found MacroText::take()
 {
-    return std::exchange(faults_, {});
+    return std::exchange(found_, {});
 }
 
 } // namespace inkmacro

@@ -26,6 +26,11 @@ bool isBlank(QStringView line)
 
 } // namespace
 
+bool Procedures::isBlankLine(const Line& line)
+{
+    return isBlank(line.text);
+}
+
 void Procedures::Run::add(const Run& other)
 {
     lines += other.lines;
@@ -46,23 +51,29 @@ Procedures::Procedures(Target target, const QString& folder)
 void Procedures::frameLine(const QString& line)
 {
     const bool isHead = blocks_.front().part.lines.isEmpty();
-    (isHead ? head_ : foot_) += line;
+    (isHead ? head_ : foot_).append({line, {}});
 }
 
-void Procedures::line(const QString& line)
+void Procedures::line(const QString& line, const Origin& origin)
 {
+    if (continued_.isEmpty())
+        continuedOrigin_ = origin;
     continued_ += line;
     if (language_->goesOn(line))
         continued_ += '\n';
     else
-        addWhole(std::exchange(continued_, QString()));
+        addWhole(std::exchange(continued_, QString()), continuedOrigin_);
 }
 
-void Procedures::addWhole(const QString& line)
+void Procedures::addWhole(const QString& line, const Origin& origin)
 {
     const auto [place, leavesLoop, leavesMain] = language_->shapeOf(trimmed(line));
     Run unit;
-    unit.lines = line.contains('\n') ? line.split('\n') : QStringList(line);
+    if (line.contains('\n'))
+        for (const QString& part : line.split('\n'))
+            unit.lines.append({part, origin});
+    else
+        unit.lines.append({line, origin});
     unit.letters = line.size();
     unit.leavesLoop = leavesLoop;
     unit.leavesMain = leavesMain;
@@ -129,7 +140,7 @@ bool Procedures::divide(Block& block)
         from = 0;
         to = run.calls;
     }
-    if (run.leavesLoop || run.leavesMain || std::all_of(run.lines.begin() + from, run.lines.begin() + to, isBlank))
+    if (run.leavesLoop || run.leavesMain || std::all_of(run.lines.begin() + from, run.lines.begin() + to, isBlankLine))
         return false;
     extract(run, from, to);
     return true;
@@ -137,19 +148,19 @@ bool Procedures::divide(Block& block)
 
 void Procedures::extract(Run& run, int from, int to)
 {
-    const QStringList taken = run.lines.mid(from, to - from);
+    const Lines taken = run.lines.mid(from, to - from);
     writeProcedure(taken);
     noteNames(taken, count_);
-    const auto first = std::find_if_not(taken.begin(), taken.end(), isBlank);
-    const QString call = first->left(static_cast<int>(indentationOf(*first))) + language_->call(count_);
-    run.lines = run.lines.mid(0, from) + QStringList(call) + run.lines.mid(to);
+    const auto first = std::find_if_not(taken.begin(), taken.end(), isBlankLine);
+    const QString call = first->text.left(static_cast<int>(indentationOf(first->text))) + language_->call(count_);
+    run.lines = run.lines.mid(0, from) + Lines{{call, {}}} + run.lines.mid(to);
     run.calls = from + 1;
     run.letters = 0;
-    for (const QString& line : std::as_const(run.lines))
-        run.letters += line.size();
+    for (const Line& line : std::as_const(run.lines))
+        run.letters += line.text.size();
 }
 
-void Procedures::writeProcedure(const QStringList& lines)
+void Procedures::writeProcedure(const Lines& lines)
 {
     if (++count_ == 1) {
         failed_ = !waiting_.open();
@@ -159,27 +170,30 @@ void Procedures::writeProcedure(const QStringList& lines)
     if (failed_)
         return;
     toWaiting_ << '\n' << language_->opening(count_) << '\n';
+    addLines(waitingOrigins_, {}, 2);
     const QString indentation = language_->indentation();
-    const auto begin = std::find_if_not(lines.begin(), lines.end(), isBlank);
-    const auto end = std::find_if_not(lines.rbegin(), lines.rend(), isBlank).base();
-    qsizetype least = indentationOf(*begin);
-    std::for_each(begin, end, [&](const QString& line) {
-        if (!isBlank(line))
-            least = std::min(least, indentationOf(line));
+    const auto begin = std::find_if_not(lines.begin(), lines.end(), isBlankLine);
+    const auto end = std::find_if_not(lines.rbegin(), lines.rend(), isBlankLine).base();
+    qsizetype least = indentationOf(begin->text);
+    std::for_each(begin, end, [&](const Line& line) {
+        if (!isBlankLine(line))
+            least = std::min(least, indentationOf(line.text));
     });
-    std::for_each(begin, end, [&](const QString& line) {
-        if (!isBlank(line))
-            toWaiting_ << indentation << QStringView(line).mid(least);
+    std::for_each(begin, end, [&](const Line& line) {
+        if (!isBlankLine(line))
+            toWaiting_ << indentation << QStringView(line.text).mid(least);
         toWaiting_ << '\n';
+        addLines(waitingOrigins_, line.origin);
     });
     toWaiting_ << language_->closing() << '\n';
+    addLines(waitingOrigins_, {});
 }
 
-void Procedures::noteNames(const QStringList& lines, int procedure)
+void Procedures::noteNames(const Lines& lines, int procedure)
 {
     QString key; // its memory serves all names
-    for (const QString& line : lines)
-        forNames(line, target_, [&](QStringView name, qsizetype) {
+    for (const Line& line : lines)
+        forNames(line.text, target_, [&](QStringView name, qsizetype) {
             if (name.front().isDigit())
                 return;
             setKey(key, name);
@@ -223,12 +237,12 @@ bool Procedures::declare(QTextStream& stream, QStringView line)
     return isNew;
 }
 
-void Procedures::writeUnshared(QTextStream& stream, const QString& line) const
+std::optional<QString> Procedures::unshared(const QString& line) const
 {
-    const bool isShared = declaresShared(line);
-    const QString text = isShared ? language_->withoutDeclaration(line) : line;
-    if (!isShared || !text.isEmpty())
-        stream << text << '\n';
+    if (!declaresShared(line))
+        return line;
+    const QString text = language_->withoutDeclaration(line);
+    return text.isEmpty() ? std::nullopt : std::optional(text);
 }
 
 QString Procedures::declarationIn(std::string_view line) const
@@ -244,74 +258,101 @@ void Procedures::forWaiting(const Use& use)
         return;
     toWaiting_.flush();
     waiting_.seek(0);
+    auto run = waitingOrigins_.cbegin();
+    std::uint32_t used = 0; // lines of that run
     std::string text;
     for (QByteArray block = waiting_.read(kBlock); !block.isEmpty(); block = waiting_.read(kBlock)) {
         text.append(block.constData(), static_cast<std::size_t>(block.size()));
         std::size_t from = 0;
         for (auto end = text.find('\n'); end != std::string::npos; end = text.find('\n', from)) {
-            use(std::string_view(text).substr(from, end + 1 - from));
+            use(std::string_view(text).substr(from, end + 1 - from), run->origin);
             from = end + 1;
+            if (++used == run->count) {
+                ++run;
+                used = 0;
+            }
         }
         text.erase(0, from);
     }
 }
 
-void Procedures::finish(QTextStream& stream)
+void Procedures::finish(QTextStream& stream, const OriginSink& told)
 {
     // Only of a macro that is given up.
     if (!continued_.isEmpty())
-        addWhole(continued_.chopped(1));
+        addWhole(continued_.chopped(1), continuedOrigin_);
     while (blocks_.size() > 1)
         closeBlock({});
     Run& main = blocks_.front().part;
     if (count_ > 0 && !main.leavesMain && main.lines.size() > main.calls)
         extract(main, main.calls, main.lines.size());
-    const auto write = [&stream](const QString& line) { stream << line << '\n'; };
     if (count_ == 0) {
-        for (const QStringList* const lines : {&head_, &main.lines, &foot_})
-            std::for_each(lines->begin(), lines->end(), write);
+        for (const Lines* const lines : {&head_, &main.lines, &foot_})
+            for (const auto& [text, origin] : *lines) {
+                stream << text << '\n';
+                if (told)
+                    told({origin, 1});
+            }
     } else {
-        writeDivided(stream);
+        writeDivided(stream, told);
     }
     if (failed_ || (count_ > 0 && (toWaiting_.status() != QTextStream::Ok || waiting_.error() != QFile::NoError)))
         stream.setStatus(QTextStream::WriteFailed);
 }
 
-void Procedures::writeDivided(QTextStream& stream)
+void Procedures::writeDivided(QTextStream& stream, const OriginSink& told)
 {
-    const QStringList body = language_->isNested() ? blocks_.front().part.lines : blocks_.front().part.lines + foot_;
+    const auto tell = [&told](const Origin& origin) {
+        if (told)
+            told({origin, 1});
+    };
+    const auto put = [&](const Line& line) {
+        stream << line.text << '\n';
+        tell(line.origin);
+    };
+    const Lines body = language_->isNested() ? blocks_.front().part.lines : blocks_.front().part.lines + foot_;
     noteNames(head_ + body, kMainNumber);
-    const auto write = [&stream](const QString& line) { stream << line << '\n'; };
-    const auto begin = language_->isNested() ? head_.end() : std::find(head_.begin(), head_.end(), mainLine(target_));
-    std::for_each(head_.begin(), begin, write);
+    const auto isMain = [this](const Line& line) { return line.text == mainLine(target_); };
+    const auto begin = language_->isNested() ? head_.end() : std::find_if(head_.begin(), head_.end(), isMain);
+    std::for_each(head_.begin(), begin, put);
 
     // In front of a procedure of its own a blank line stands in any case.
     bool isApart = !language_->isNested();
-    const auto declareIn = [&](const QString& line) { isApart |= declare(stream, line); };
+    const auto declareIn = [&](const Line& line) {
+        if (!declare(stream, line.text))
+            return;
+        isApart = true;
+        tell(line.origin);
+    };
     std::for_each(begin, head_.end(), declareIn);
     std::for_each(body.begin(), body.end(), declareIn);
-    forWaiting([&](std::string_view line) { declareIn(declarationIn(line)); });
+    forWaiting([&](std::string_view line, const Origin& origin) { declareIn({declarationIn(line), origin}); });
     if (isApart)
-        stream << '\n';
+        put({});
 
     // The head gives each of its variables a value.
-    std::for_each(begin, head_.end(), [&](const QString& line) {
-        if (!declaresShared(line))
-            write(line);
+    std::for_each(begin, head_.end(), [&](const Line& line) {
+        if (!declaresShared(line.text))
+            put(line);
     });
-    std::for_each(body.begin(), body.end(), [&](const QString& line) { writeUnshared(stream, line); });
+    const auto putUnshared = [&](const Line& line) {
+        if (const std::optional<QString> text = unshared(line.text))
+            put({*text, line.origin});
+    };
+    std::for_each(body.begin(), body.end(), putUnshared);
     stream.flush();
-    forWaiting([&](std::string_view line) {
+    forWaiting([&](std::string_view line, const Origin& origin) {
         const QString declaration = declarationIn(line);
         if (declaresShared(declaration)) {
-            writeUnshared(stream, declaration);
+            putUnshared({declaration, origin});
             stream.flush();
         } else {
             stream.device()->write(line.data(), static_cast<qint64>(line.size()));
+            tell(origin);
         }
     });
     if (language_->isNested())
-        std::for_each(foot_.begin(), foot_.end(), write);
+        std::for_each(foot_.begin(), foot_.end(), put);
 }
 
 } // namespace inkmacro

@@ -20,36 +20,35 @@ WriteBehind::~WriteBehind()
     end();
 }
 
-std::vector<MacroText::FoundFault> WriteBehind::write(MacroText::Kind kind, QStringView text)
+MacroText::Found WriteBehind::write(MacroText::Kind kind, QStringView text)
 {
-    std::vector<MacroText::FoundFault> found;
+    MacroText::Found found;
     forSlices(text, kFullBatch, [&](QStringView slice) {
         filling_.text += slice;
         const auto length = static_cast<int>(slice.size());
         std::vector<Part>& parts = filling_.parts;
-        if (!parts.empty() && !parts.back().fault && !parts.back().endsAction && parts.back().kind == kind)
+        if (!parts.empty() && parts.back().isText() && parts.back().kind == kind)
             parts.back().length += length;
         else
             parts.push_back({kind, length});
         if (filling_.text.size() < kFullBatch)
             return;
-        const auto faults = handOver();
-        found.insert(found.end(), faults.begin(), faults.end());
+        found.add(handOver());
     });
     return found;
 }
 
-std::vector<MacroText::FoundFault> WriteBehind::finish()
+MacroText::Found WriteBehind::finish()
 {
     if (!thread_.joinable()) {
         writeAll(filling_);
-        return text_.takeFaults();
+        return text_.take();
     }
-    std::vector<MacroText::FoundFault> found = handOver();
+    MacroText::Found found = handOver();
     end();
     if (failure_)
         std::rethrow_exception(failure_);
-    found.insert(found.end(), found_.begin(), found_.end());
+    found.add(found_);
     return found;
 }
 
@@ -65,11 +64,11 @@ bool WriteBehind::start()
     }
 }
 
-std::vector<MacroText::FoundFault> WriteBehind::handOver()
+MacroText::Found WriteBehind::handOver()
 {
     if (!start()) {
         writeAll(filling_);
-        return text_.takeFaults();
+        return text_.take();
     }
     std::unique_lock lock(mutex_);
     changed_.wait(lock, [this] { return waiting_.isEmpty(); });
@@ -93,9 +92,9 @@ void WriteBehind::run()
         lock.unlock();
         try {
             writeAll(writing);
-            const auto faults = text_.takeFaults();
+            const MacroText::Found found = text_.take();
             lock.lock();
-            found_.insert(found_.end(), faults.begin(), faults.end());
+            found_.add(found);
         } catch (...) {
             if (!lock.owns_lock())
                 lock.lock();
@@ -115,6 +114,8 @@ void WriteBehind::writeAll(Batch& batch)
             text_.noteFault(*part.fault);
         else if (part.endsAction)
             text_.endAction();
+        else if (part.origin)
+            text_.begin(*part.origin);
         else
             text_.write(stream_, part.kind, text.mid(from, part.length));
         from += part.length;

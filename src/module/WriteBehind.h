@@ -5,6 +5,7 @@
 #include <condition_variable>
 #include <exception>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -22,22 +23,25 @@ public:
     WriteBehind(const WriteBehind&) = delete;
     WriteBehind& operator=(const WriteBehind&) = delete;
 
-    // Each gives the faults of what has been written since the last call, in the macro's order, and throws what was
+    // Each gives what was found in what has been written since the last call, in the macro's order, and throws what was
     // thrown while it was written.
 
-    std::vector<MacroText::FoundFault> write(MacroText::Kind kind, QStringView text);
+    MacroText::Found write(MacroText::Kind kind, QStringView text);
     void noteFault(const Fault& fault) { filling_.parts.push_back({.fault = &fault}); }
+    void begin(const Origin& origin) { filling_.parts.push_back({.origin = origin}); }
     void endAction() { filling_.parts.push_back({.endsAction = true}); }
     /// Writes all that is left.
-    std::vector<MacroText::FoundFault> finish();
+    MacroText::Found finish();
 
 private:
     struct Part
     {
         MacroText::Kind kind{};
-        int length = 0;               ///< of its text
-        const Fault* fault = nullptr; ///< null for a text
-        bool endsAction = false;      ///< is no text either
+        int length = 0;                    ///< of its text
+        const Fault* fault = nullptr;      ///< null for a text
+        bool endsAction = false;           ///< is no text either
+        std::optional<Origin> origin = {}; ///< nor is it when it has one
+        bool isText() const { return !fault && !endsAction && !origin; }
     };
     struct Batch
     {
@@ -49,7 +53,7 @@ private:
     bool start();
     void run();
     void writeAll(Batch& batch);
-    std::vector<MacroText::FoundFault> handOver();
+    MacroText::Found handOver();
     void end();
 
     MacroText& text_;
@@ -60,7 +64,7 @@ private:
     std::mutex mutex_; ///< guards what follows
     std::condition_variable changed_;
     Batch waiting_; ///< empty: its memory is to be used again
-    std::vector<MacroText::FoundFault> found_;
+    MacroText::Found found_;
     std::exception_ptr failure_;
     bool ended_ = false;
 };

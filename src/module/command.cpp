@@ -69,17 +69,26 @@ private:
     Statement rest_;    ///< what it does not hold
 };
 
+/// Whose statement it is.
+struct Sayer
+{
+    std::uint32_t child;
+    OdDbHandle made; ///< as CFxMacroLines has it
+};
+
 /// What is known of a command while its children are converted.
 struct CommandState
 {
     std::vector<ActionEntry> added;
-    std::vector<OdDbHandle> handles; ///< one an added object
+    std::vector<OdDbHandle> handles;    ///< one an added object
+    std::vector<std::uint32_t> addedAt; ///< the same: the child that adds it
     std::vector<Statement> declarations;
     /// Variables of the objects that a custom action of this command finishes.
     std::vector<QString> names;
     std::map<unsigned, std::size_t> made; ///< in a repaired macro, by child: which added object the action makes
     std::size_t nextName = 0;
     std::deque<HeldStatement> statements;
+    std::deque<Sayer> sayers; ///< one a statement, when somebody wants to know
     bool unnamedTarget = false;
     bool shapeStyle = false;
     bool allEmpty = true;
@@ -90,8 +99,8 @@ struct CommandState
 /// All added children are registered before the first statement is made, so a child may refer to a later one.
 static void RegisterChildren(Conversion& conversion, const CFxActionArray& children, CommandState& state)
 {
-    for (const OdRxObjectPtr& child : children) {
-        const auto added = odrxQuery<CFxObjectAdded>(child.get());
+    for (unsigned i = 0; i < children.length(); ++i) {
+        const auto added = odrxQuery<CFxObjectAdded>(children[i].get());
         if (!added)
             continue;
         OdRxClass* const cls = added->GetObjectClass();
@@ -101,6 +110,7 @@ static void RegisterChildren(Conversion& conversion, const CFxActionArray& child
             continue;
         state.added.push_back(conversion.names().RegisterObject(added->GetHandle(), cls));
         state.handles.push_back(added->GetHandle());
+        state.addedAt.push_back(i);
         if (isFinishedByCustomAction(cls))
             conversion.lastFinished = added->GetHandle();
     }
@@ -138,13 +148,13 @@ static void PairWithActions(Conversion& conversion, const CFxActionArray& childr
 }
 
 /// In a repaired macro without those of objects that turned out to have no statement that inserts them.
-static Statement Declarations(Conversion& conversion, const CommandState& state)
+static void WriteDeclarations(Conversion& conversion, MacroFile& macro, const CommandState& state)
 {
-    Statement text;
     for (std::size_t i = 0; i < state.declarations.size(); ++i)
-        if (conversion.names().IsDeclared(state.handles[i]))
-            text += state.declarations[i];
-    return text;
+        if (conversion.names().IsDeclared(state.handles[i])) {
+            macro.begin(CFxMacroPart::kDeclaration, state.addedAt[i]);
+            macro.writeDeclarations(state.declarations[i]);
+        }
 }
 
 /// Whether some statement names a variable of the command ahead of a line that declares it, as the insertion of a
@@ -188,13 +198,14 @@ static QString HandOver(Conversion& conversion, std::int32_t kind, unsigned numb
     return state.names.back();
 }
 
-/// What a custom action that failed was to make has a variable without a value.
-static void LoseMade(Conversion& conversion, const OdRxObjectPtr& failed, unsigned number, const CommandState& state)
+/// Whether the child is a custom action that makes an object for a variable of the command, which is the last finished
+/// one.
+static bool MakesHanded(const Conversion& conversion, const OdRxObjectPtr& child, unsigned number,
+                        const CommandState& state)
 {
-    const auto custom = odrxQuery<CFxCustomAction>(failed.get());
+    const auto custom = odrxQuery<CFxCustomAction>(child.get());
     const bool isHanded = conversion.writer.repairs ? state.made.contains(number) : !state.names.empty();
-    if (custom && isHanded && IsEntityOfAction(nullptr, custom->GetKind()))
-        conversion.names().SetUnmade(conversion.lastFinished);
+    return custom && isHanded && IsEntityOfAction(nullptr, custom->GetKind());
 }
 
 /// Hatches that the command did not insert after all.
@@ -226,7 +237,9 @@ static bool ConvertChild(Conversion& conversion, const OdRxObjectPtr& child, uns
             group.abandon();
     }
     if (ConvertOrLose(conversion, child, current) != kFxSuccess) {
-        LoseMade(conversion, child, number, state);
+        // What it was to make has a variable without a value.
+        if (MakesHanded(conversion, child, number, state))
+            conversion.names().SetUnmade(conversion.lastFinished);
         return false;
     }
     if (const auto added = odrxQuery<CFxObjectAdded>(child.get()); added && isShapeFileStyle(*added))
@@ -234,6 +247,9 @@ static bool ConvertChild(Conversion& conversion, const OdRxObjectPtr& child, uns
     if (!current.isEmpty()) {
         state.allEmpty = false;
         state.statements.emplace_back(std::move(current));
+        if (GetFxSystemServices()->Notes().WantsLines())
+            state.sayers.push_back(
+                {number, MakesHanded(conversion, child, number, state) ? conversion.lastFinished : OdDbHandle()});
     }
     return true;
 }
@@ -283,15 +299,22 @@ std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxS
     const bool grouped = !group.abandoned() && !state.unnamedTarget;
     const bool declares = !state.allEmpty && (writer.repairs || (grouped && !state.shapeStyle));
     const bool written = grouped && declares;
-    const Statement declarations = Declarations(conversion, state);
     if (declares)
-        macro.writeDeclarations(declarations);
-    else if (!declarations.isEmpty() && writer.notesFaults && LacksDeclarations(state, writer.target))
+        WriteDeclarations(conversion, macro, state);
+    else if (!state.declarations.empty() && writer.notesFaults && LacksDeclarations(state, writer.target))
         state.statements.front() = HeldStatement(writer.faulty(state.statements.front().statement(), kUndeclared));
+    macro.begin(CFxMacroPart::kBlock);
     if (written)
         macro.write(group.begin());
-    for (; !state.statements.empty(); state.statements.pop_front())
+    for (; !state.statements.empty(); state.statements.pop_front()) {
+        if (!state.sayers.empty()) {
+            const auto& [child, made] = state.sayers.front();
+            macro.begin(CFxMacroPart::kStatements, child, made);
+            state.sayers.pop_front();
+        }
         macro.write(state.statements.front().statement());
+    }
+    macro.begin(CFxMacroPart::kBlock);
     // An unnamed target leaves the level where the group's begin put it: what follows stands one level deeper.
     const Statement end = grouped ? group.close() : Statement();
     if (written)

@@ -83,6 +83,7 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     const QScopedValueRollback<const Siblings*> beside(conversion.siblings, &siblings);
     for (unsigned i = 0; i < actions.length() && status == kFxSuccess; ++i) {
         const CFxConversionNotes::Action place(GetFxSystemServices()->Notes(), i);
+        macro.beginAction(i);
         if (actions[i])
             status = ConvertTopLevel(macro, actions[i]);
         macro.endAction();
@@ -125,6 +126,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(MacroFile& macro, const OdRx
     if (const auto added = odrxQuery<CFxObjectAdded>(action.get())) {
         const Statement declaration = EmitVariableDeclaration(
             conversion.writer, conversion.names().RegisterObject(added->GetHandle(), added->GetObjectClass()));
+        macro.begin(CFxMacroPart::kDeclaration);
         // Who changes the note of a leader declares its variable once more.
         if (added->GetObjectClass() == OdDbMText::desc() && !GetNoteLeader(added->GetHandle()).isNull())
             macro.write(declaration);
@@ -134,6 +136,7 @@ std::int32_t CFxConverterIWAPIImpl::ConvertTopLevel(MacroFile& macro, const OdRx
 
     Statement text;
     const std::int32_t status = ConvertOrLose(conversion, action, text);
+    macro.begin(CFxMacroPart::kStatements);
     if (status == kFxSuccess)
         macro.write(text);
     return status;

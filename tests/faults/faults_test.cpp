@@ -104,7 +104,7 @@ private:
         QProcess process;
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder_.filePath("made"));
-        process.start(INKMACRO_PROGRAM, {"convert", folder_.filePath(recording + "/walls.jsonl"), "--target",
+        process.start(INKMACRO_PROGRAM, {"convert", folder_.filePath(recording + "/walls.jsonl"), "--map", "--target",
                                          toQString(GetParam().name), "--output", folder_.filePath("made/" + macro())});
         EXPECT_TRUE(process.waitForFinished(120'000));
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);

@@ -62,7 +62,7 @@ TEST_F(Threads, AreNotNeeded)
         bool wantsThreads;
     } cases[] = {
         {{"convert", many, "--target", "csharp", "--output", "out/"}, {}, true},
-        {{"convert", many, "--target", "vba", "--output", "out/", "--repair", "--report"}, {}, true},
+        {{"convert", many, "--target", "vba", "--output", "out/", "--repair", "--report", "--map"}, {}, true},
         {{"convert", many, drawing, "--target", "all", "--output", "out/", "--report"}, {}, true},
         {{"convert", "-", "--target", "csharp,vba", "--output", "out/"}, contents("many.jsonl"), true},
         {{"check", many}, {}, true},

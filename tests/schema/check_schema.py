@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Holds recordings and reports against the JSON Schemas that the program prints, and these against damaged ones.
+"""Holds recordings, reports and maps against the JSON Schemas that the program prints, and these against damaged ones.
 
     check_schema.py PROGRAM SOURCE_DIR
 """
@@ -51,6 +51,25 @@ DAMAGES = [
 ]
 
 
+# Each gives a map that the schema refuses.
+MAP_DAMAGES = [
+    lambda found: found.update(mapVersion=2),
+    lambda found: found.pop("programVersion"),
+    lambda found: found.pop("ranges"),
+    lambda found: found.update(faults=[]),
+    lambda found: found["ranges"][0].update(line=1),
+    lambda found: found["ranges"][0].update(lines=[0, 3]),
+    lambda found: found["ranges"][0].update(lines=[3]),
+    lambda found: found["ranges"][1].pop("line"),
+    lambda found: found["ranges"][1].pop("path"),
+    lambda found: found["ranges"][1].update(path="command[1]"),
+    lambda found: found["ranges"][1].update(handles=["0"]),
+    lambda found: found["ranges"][1].update(handles="2F"),
+    lambda found: found["ranges"][1].update(kind="erasure"),
+    lambda found: found["ranges"][1].update(kind="frame"),
+]
+
+
 def output(*command):
     return json.loads(subprocess.run(command, stdout=subprocess.PIPE, check=True).stdout)
 
@@ -62,27 +81,34 @@ def validator_of(program, what):
 
 
 def check_reports(program, files):
-    """The faults of a report of all recordings, a name a folder, in all targets."""
+    """The faults of the report and the maps of each recording in all targets."""
     validator = validator_of(program, "report")
+    map_validator = validator_of(program, "map")
     faults = []
     found = {"losses": 0, "faults": 0}
     with tempfile.TemporaryDirectory() as folder:
         for number, file in enumerate(files):
             report = output(program, "convert", file, "--target", "all", "--output", f"{folder}/{number}/", "--report",
-                            "--quiet")
+                            "--quiet", "--map")
             error = jsonschema.exceptions.best_match(validator.iter_errors(report))
             if error:
                 faults.append(f"the report of {file}: {error.json_path}: {error.message}")
             for conversion in report["conversions"]:
+                macro_map = json.loads(pathlib.Path(conversion["map"]).read_bytes())
+                error = jsonschema.exceptions.best_match(map_validator.iter_errors(macro_map))
+                if error:
+                    faults.append(f"{conversion['map']}: {error.json_path}: {error.message}")
                 for kind in found:
                     found[kind] += len(conversion[kind])
     if not all(found.values()):
         faults.append(f"the reports hold only {found}")
-    for number, damage in enumerate(DAMAGES):
-        damaged = json.loads(json.dumps(report))
-        damage(damaged)
-        if validator.is_valid(damaged):
-            faults.append(f"the schema takes the damaged report {number}")
+    for what, whole, checks, damages in (("report", report, validator, DAMAGES),
+                                         ("map", macro_map, map_validator, MAP_DAMAGES)):
+        for number, damage in enumerate(damages):
+            damaged = json.loads(json.dumps(whole))
+            damage(damaged)
+            if checks.is_valid(damaged):
+                faults.append(f"the schema takes the damaged {what} {number}")
     return faults
 
 

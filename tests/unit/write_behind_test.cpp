@@ -93,7 +93,7 @@ TEST(MacroFile, WritesAndNotesInTheOrderOfTheMacro)
 TEST(WriteBehind, TellsOfWhatIsThrownAndEndsWithoutBeingFinished)
 {
     for (const bool finishes : {true, false}) {
-        MacroText text(Target::CSharp, false, false, {});
+        MacroText text(Target::CSharp, false, false, false, {});
         SmallDevice device;
         QTextStream stream(&device);
         const QString line = QString(99, 'x') + '\n';
@@ -106,4 +106,43 @@ TEST(WriteBehind, TellsOfWhatIsThrownAndEndsWithoutBeingFinished)
         };
         EXPECT_THROW(writeAll(), std::runtime_error);
     }
+}
+
+TEST(MacroFile, TellsOfWhichActionLinesAre)
+{
+    CFxConversionNotes& notes = GetFxSystemServices()->Notes();
+    QStringList told;
+    notes.OnLines([&told](const CFxMacroLines& lines) {
+        QStringList words{QString::number(static_cast<int>(lines.part)),
+                          QString("%1-%2").arg(lines.first).arg(lines.last)};
+        for (const std::uint32_t number : lines.where)
+            words.append(QString::number(number));
+        told.append(words.join(' '));
+    });
+    for (const bool repairs : {false, true}) {
+        told.clear();
+        TestStream to;
+        MacroFile macro(to.stream, "test.cs", Target::CSharp, repairs, false);
+        macro.writeFrame(QString("head\n"));
+        macro.beginAction(4);
+        macro.begin(CFxMacroPart::kStatements, 0);
+        macro.write(QString("a();\nb("));
+        // Two that have no more than a part of a line.
+        macro.begin(CFxMacroPart::kStatements, 1);
+        macro.write(QString(" c"));
+        macro.begin(CFxMacroPart::kStatements, 2);
+        macro.write(QString(" );\n"));
+        // Blanks alone do not make the next line one's own.
+        macro.begin(CFxMacroPart::kStatements, 3);
+        macro.write(QString("d();\n    "));
+        macro.begin(CFxMacroPart::kDeclaration, 5);
+        macro.writeDeclarations(QString("Line e;\n"));
+        macro.begin(CFxMacroPart::kBlock);
+        macro.write(QString());
+        macro.writeFrame(QString("foot"));
+        macro.finish();
+        const QStringList expected{"0 1-1", "3 2-3 4 0", "3 4-4 4 3", "2 5-5 4 5", "0 6-6"};
+        EXPECT_EQ(told.join('\n').toStdString(), expected.join('\n').toStdString()) << repairs;
+    }
+    notes.OnLines({});
 }

@@ -41,6 +41,25 @@ struct CFxFaultNote
     bool operator==(const CFxFaultNote&) const = default;
 };
 
+/// What a run of lines does in its macro.
+enum class CFxMacroPart : std::uint8_t
+{
+    kFrame, ///< holds the macro together: its head and foot, the first and last lines of procedures, calls of them
+    kBlock, ///< begins or ends the group that the statements of a command stand in
+    kDeclaration, ///< declares the variables of an added object
+    kStatements   ///< does what the action did
+};
+
+/// Neighbouring lines of a macro that come of one action.
+struct CFxMacroLines
+{
+    CFxMacroPart part;
+    std::uint32_t first; ///< from 1
+    std::uint32_t last;
+    CFxActionPlace where; ///< empty of a frame
+    OdDbHandle made;      ///< the object that a custom action makes and another action adds; else null
+};
+
 /// What one conversion tells of its result beside the files. The module notes, its host reads; the next conversion
 /// begins by forgetting all.
 class INKHOST_EXPORT CFxConversionNotes
@@ -72,6 +91,13 @@ public:
     /// What the host does before each action, those within commands included, to show its user that a long conversion
     /// goes on; nothing when it is empty.
     void OnAction(std::function<void()> call) { onAction_ = std::move(call); }
+
+    /// What the host does with each run of lines of the macro, from which action they come, as soon as they are
+    /// written. The runs come in the macro's order and leave none of its lines out; a line that several actions share
+    /// is of the first one. Nothing of it is noted when it is empty.
+    void OnLines(std::function<void(const CFxMacroLines&)> call) { onLines_ = std::move(call); }
+    bool WantsLines() const { return static_cast<bool>(onLines_); }
+    void NoteLines(const CFxMacroLines& lines) const { onLines_(lines); }
 
     /// A host that is about to ask for no more than the numbers of losses and assumptions spares what tells of them.
     void KeepAll(bool keeps) { keepsAll_ = keeps; }
@@ -150,6 +176,7 @@ private:
     }
 
     std::function<void()> onAction_;
+    std::function<void(const CFxMacroLines&)> onLines_;
     CFxActionPlace place_;
     std::vector<Known> known_; ///< of the action, as long as they are few: most actions lose little
     QSet<Known> manyKnown_;    ///< else all of them
