@@ -174,6 +174,8 @@ TEST_F(Program, FormatsRecordingsAnObjectALine)
                               "  \"data\": [ \"a } \\\" b\",\n1.50e3 ] } }";
     write("pretty.jsonl", pretty);
     EXPECT_TRUE(run({"check", "pretty.jsonl"}).err.contains("inkmacro format writes it so\n"));
+    write("partly.jsonl", line + "{\"sysvar\": {\"name\": \"A\",\n\"value\": {\"int16\": 1}\n}}\n");
+    EXPECT_EQ(run({"check", "partly.jsonl"}).err.count("inkmacro format writes it so\n"), 1);
     EXPECT_EQ(run({"format", "pretty.jsonl"}).out.toUtf8(), lines);
     EXPECT_EQ(run({"format", "-"}, "[" + QByteArray(pretty).replace("}\n{", "},\n{") + "]").out.toUtf8(), lines);
     EXPECT_EQ(run({"format", "pretty.jsonl", "-o", "pretty.jsonl"}).status, 0);

@@ -60,14 +60,6 @@ const Kind& kindOf(CFxMacroPart part, const OdRxObject* action)
     return *std::ranges::find_if(kinds, [action](const Kind& kind) { return kind.has(action); });
 }
 
-const OdRxObjectPtr& actionAt(const CFxActionPlace& place, const CFxActionArray& topLevel)
-{
-    const OdRxObjectPtr* action = &topLevel[place.front()];
-    for (std::size_t i = 1; i < place.size(); ++i)
-        action = &odrxQuery<CFxUserCommand>(action->get())->GetActions()[place[i]];
-    return *action;
-}
-
 // A long macro has millions of ranges, so what they hold is put together here: nothing in it needs an escape.
 
 void append(QByteArray& bytes, std::string_view text)
@@ -116,7 +108,7 @@ void MacroMap::add(const CFxMacroLines& lines)
     append(bytes_, lines.last);
     const Kind* kind = &frame;
     if (lines.part != CFxMacroPart::kFrame) {
-        const OdRxObjectPtr& action = actionAt(lines.where, recording_.actions);
+        const OdRxObjectPtr action = actionAt(lines.where, recording_);
         kind = &kindOf(lines.part, action.get());
         addAction(lines, action);
     } else {

@@ -82,18 +82,6 @@ void forActions(const CFxActionArray& actions, const CFxActionPlace& around, Vis
     }
 }
 
-const OdRxObject* actionAt(const Recording& recording, const CFxActionPlace& place)
-{
-    const CFxActionArray* actions = &recording.actions;
-    const OdRxObject* found = nullptr;
-    for (const std::uint32_t number : place) {
-        found = (*actions)[number].get();
-        if (const auto command = odrxQuery<CFxUserCommand>(found))
-            actions = &command->GetActions();
-    }
-    return found;
-}
-
 /// The object that an action is of.
 struct ObjectAction
 {
@@ -391,7 +379,7 @@ std::vector<Warning> warningsOf(const Recording& recording)
         for (const CFxActionNote& note : notes) {
             if (meantTags.contains({note.where, note.property}))
                 continue;
-            const QString meant = names.meant(note, actionAt(recording, note.where));
+            const QString meant = names.meant(note, actionAt(note.where, recording).get());
             if (!meant.isEmpty())
                 meantTags.emplace(note.where, meant);
             warnings.push_back(

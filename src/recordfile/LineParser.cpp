@@ -19,11 +19,16 @@ bool isBlank(std::string_view line)
     return line.find_first_not_of(" \t\r") == std::string_view::npos;
 }
 
-/// For a file whose objects stand on several lines each.
+/// Of a line that begins an object and goes on in the next one.
 QString formatHint(std::string_view line)
 {
-    const bool opens = line.find_first_not_of("{[ \t\r") == std::string_view::npos;
-    return opens ? "; a recording has an object a line, and inkmacro format writes it so" : QString();
+    const std::size_t first = line.find_first_not_of(" \t\r");
+    const std::size_t last = line.find_last_not_of(" \t\r");
+    const auto isOneOf = [&](std::size_t at, std::string_view letters) {
+        return at != std::string_view::npos && letters.find(line[at]) != std::string_view::npos;
+    };
+    const bool goesOn = isOneOf(first, "{[") && isOneOf(last, "{[,:");
+    return goesOn ? "; a recording has an object a line, and inkmacro format writes it so" : QString();
 }
 
 } // namespace
@@ -74,7 +79,7 @@ void LineParser::parse(std::string_view text, LineBatch& batch)
     line.number = number_;
     line.fault = QString();
     if (const auto code = parser_.parse_into_document(line.document, text.data(), text.size(), false).error())
-        line.fault = explainFault(code, text) + (number_ == 1 ? formatHint(text) : QString());
+        line.fault = explainFault(code, text) + formatHint(text);
     if (text.size() <= kLongLine)
         return;
     batch.isLarge = true;

@@ -170,6 +170,10 @@ TEST(Losses, OfObjectsTellTheirReason)
 )" + command(R"({"custom":{"kind":18,"data":[{"string":"ANSI31"},{"double":1},{"double":0},{"bool":false},{"bool":true},)"
              R"({"bool":false},{"bool":false},{"ids":["31"]},{"bool":false}]}})"),
          "0.0 AcDbSpline 31: a boundary has no objects of its class"},
+        {command(
+             R"({"custom":{"kind":18,"data":[{"string":"ANSI31"},{"double":1},{"double":0},{"bool":false},{"bool":true},)"
+             R"({"bool":false},{"bool":false},{"ids":["31"]},{"bool":false}]}})"),
+         "0.0 custom insert hatch: the drawing does not have 31, which bounds it"},
         {command(R"({"custom":{"kind":17,"data":[{"handles":["31"]},{"classes":["HostWeldSymbol"]}]}})"),
          "0.0 HostWeldSymbol 31: objects of its class have no statements"},
         {command(R"({"custom":{"kind":37,"data":[{"handles":[]},{"classes":[]},{"string":"G"}]}})"),

@@ -311,7 +311,8 @@ BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<Boundary
     for (const BoundaryObject& entity : boundary) {
         const OdDbObjectPtr object = entity.id.openObject(true);
         if (!object)
-            throw OdError(eNullObjectPointer);
+            throw OdError(eNullObjectPointer,
+                          "the drawing does not have " + entity.id.getHandle().ascii() + ", which bounds it");
         const TemporaryKind* const kind = kindOf(*object, boundaryKinds);
         if (!kind) {
             loseBoundary(*object);
