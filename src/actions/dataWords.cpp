@@ -30,7 +30,7 @@ constexpr DatumWords isOfSheet{kBool, "it is one of a sheet"};
 constexpr DatumWords viewSheet{
     kString, "the sheet: its own, or the one that is active again behind it; empty or Model for none"};
 constexpr DatumWords theView{kHandle, "the view"};
-constexpr DatumWords viewOfBackground{.type = kHandle, .meaning = "the view", .makes = true};
+constexpr DatumWords newView{.type = kHandle, .meaning = "the view", .makes = true};
 constexpr DatumWords itsName{kString, "its name"};
 constexpr DatumWords unused{kBool, "not used"};
 constexpr DatumWords elementNumber{kInt, "the number of the element"};
@@ -248,7 +248,7 @@ constexpr DataWords allWords[] = {
       {kDouble, "its width at the start"},
       {kDouble, "at the end"}}},
     {kViewBackground,
-     {viewOfBackground,
+     {newView,
       itsClass,
       isMadeHere,
       isOfSheet,
@@ -257,7 +257,7 @@ constexpr DataWords allWords[] = {
       {kString, "a solid background", "Solid..."},
       {kColor, "its color"}}},
     {kViewBackground,
-     {viewOfBackground,
+     {newView,
       itsClass,
       isMadeHere,
       isOfSheet,
@@ -270,7 +270,7 @@ constexpr DataWords allWords[] = {
       {kColor, "at the bottom"},
       patternAngle}},
     {kViewBackground,
-     {viewOfBackground,
+     {newView,
       itsClass,
       isMadeHere,
       isOfSheet,
@@ -287,13 +287,7 @@ constexpr DataWords allWords[] = {
       {kDouble, "the same"},
       {kDouble, "the same"}}},
     {kViewBackground,
-     {viewOfBackground,
-      itsClass,
-      isMadeHere,
-      isOfSheet,
-      viewSheet,
-      itsName,
-      {kString, "anything else: no background"}}},
+     {newView, itsClass, isMadeHere, isOfSheet, viewSheet, itsName, {kString, "anything else: no background"}}},
     {42, {thePolyline, itsClass, {kInt, "a vertex, from 0: the new one stands behind it"}, {kPoint, "the new vertex"}}},
     {42, {thePolyline, itsClass, {kInt, "the vertex that goes"}}},
     {43, {{kString, "an enumerator such as iwZoomRange_Fit"}}},

@@ -385,8 +385,8 @@ Fill& ArrayArgument::close(Fill& call) const
 static const Fault kTooManyValues{
     "array in front of a call", {Target::JavaScript}, "an array is made of more values than browsers pass to a call"};
 
-/// Each takes 24 of the 984 KB that browsers and node have for calls: node refuses 41,900, and more than 65,535 no
-/// browser of its engine takes.
+/// Each takes 24 bytes of the 984 KB that browsers and node have for calls: node refuses 41,900, and more than 65,535
+/// no browser of its engine takes.
 static constexpr int kMostValues = 30'000;
 
 /// A script's own array in front of the call.
