@@ -2,6 +2,6 @@
 
 'use strict';
 
-const {readInterface, texts} = require('./web');
+const {readInterface, texts} = require('../web/web');
 
 process.stdout.write(JSON.stringify(readInterface(texts['interface.txt'], process.argv[2])));

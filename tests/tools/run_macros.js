@@ -9,7 +9,7 @@
 
 const fs = require('fs');
 const {spawn} = require('child_process');
-const web = require('./web');
+const web = require('../web/web');
 const {runPage} = require('../../src/view/node/page');
 
 const job = JSON.parse(fs.readFileSync(process.argv[2], 'utf8'));
