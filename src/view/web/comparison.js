@@ -356,6 +356,9 @@ class Comparison {
             const given = (wanted.owner ? [seen.on.whole] : []).concat(flatten(seen.given));
             const isSame = wanted.name === seen.name && given.length === handed.length
                 && given.every((one, i) => this.isHanded(one, handed[i]));
+            if (isSame && wanted.isWhole) {
+                return;
+            }
             this.find(isSame ? 'notChecked' : 'different', null, action, seen.name,
                 handed.map(one => one && one.handle || one), given.map(shownValue),
                 isSame ? 'the application makes it of what it is handed, which is as recorded'
@@ -371,7 +374,7 @@ class Comparison {
                 && ([wanted.handle, leader].includes(value.handle)
                     || !value.handle && value.cls === this.recorded.madeOf(wanted.handle));
         }
-        return wanted === null || (typeof value === 'number' ? isClose(value, wanted, false) : value === wanted);
+        return wanted === null || fits('', value, wanted, false);
     }
 
     tellStrange() {

@@ -16,6 +16,7 @@ class Places {
         this.rows = new Map(); // by class and tag
         this.optional = new Set(); // class and question of what some insertions lack
         this.turns = new Set(['PatternAngle()0', 'NoteAnnotation.Rotation()0']); // questions with their index
+        this.found = new Map(); // rows by class and tag, as they were asked for
         let cls = '';
         for (const line of linesOf(text)) {
             if (!line.startsWith(' ')) {
@@ -59,6 +60,14 @@ class Places {
 
     // Null where there is none; its name is "-" where no macro carries the property.
     row(cls, tag) {
+        const key = cls + ' ' + tag;
+        if (!this.found.has(key)) {
+            this.found.set(key, this.findRow(cls, tag));
+        }
+        return this.found.get(key);
+    }
+
+    findRow(cls, tag) {
         const numbers = tag.match(/(?<=_)\d+/g) || [];
         const common = cls.includes('Dimension') ? ['dimension', 'every'] : ['every'];
         const keys = [cls + ' ' + tag.replace(/(?<=_)\d+/g, '#'), ...common.map(one => one + ' ' + tag)];
@@ -101,13 +110,14 @@ class Calls {
         this.rows = linesOf(text).map(line => {
             const [head, handed] = line.split(' =');
             const words = head.split(' ');
-            return {kind: Number(words[0]), conditions: words.slice(1, -1), name: words[words.length - 1],
-                fields: handed.split(' ').filter(one => one)};
+            const name = words[words.length - 1];
+            return {kind: Number(words[0]), conditions: words.slice(1, -1), name: name.replace('!', ''),
+                isWhole: name.endsWith('!'), fields: handed.split(' ').filter(one => one)};
         });
-        this.names = new Set(this.rows.map(row => row.name).concat(['JoinLine', 'JoinCircleArc', 'JoinPolyLine']));
+        this.names = new Set(this.rows.map(row => row.name).concat(Object.values(joins), ['DeleteLine', 'AddLine']));
     }
 
-    // Those that an action makes: {name, owner, handed}. What it hands over is of objects, which may be lost.
+    // Those that an action makes: {name, isWhole, owner, handed}. What it hands over is of objects, which may be lost.
     of(action) {
         const found = [];
         for (const row of this.rows.filter(one => one.kind === action.kind && isMet(one.conditions, action.data))) {
@@ -117,12 +127,24 @@ class Calls {
                 const handed = [].concat(...fields.map(field => handedBy(field.replace('each', ''), action.data, several)));
                 const each = fields.includes('each0') ? handed.map(one => [one]) : [handed];
                 for (const owner of ownersOf(owners, action.data)) {
-                    found.push(...each.map(one => ({name: row.name, owner: owner, handed: one})));
+                    found.push(...each.map(one => ({name: row.name, isWhole: row.isWhole, owner: owner,
+                        handed: one})));
                 }
             }
         }
         return found.concat(joinsOf(action));
     }
+}
+
+// The lines of a rich line style as the drawing has them: each takes the place of one of a new style, from the outermost
+// on. Of two in one place the later one counts.
+function linesOfStyle(handle, elements, nameOf) {
+    const byOffset = new Map(elements.map(one => [one.offset || 0, one]));
+    const sorted = [...byOffset.values()].sort((a, b) => (b.offset || 0) - (a.offset || 0));
+    const call = (name, ...handed) => ({name: name, isWhole: true, owner: handle,
+        handed: handed.map(value => ({of: null, value: value}))});
+    return [].concat(...sorted.map((one, i) => [call('DeleteLine', i), call('AddLine', one.offset || 0,
+        one.color && one.color.rgb ? null : {color: one.color || 'bylayer'}, nameOf(one.lineStyle))]));
 }
 
 function isMet(conditions, data) {
@@ -138,14 +160,15 @@ function ownersOf(field, data) {
     return field.startsWith('first') ? owners.slice(0, 1) : owners;
 }
 
+const joins = {AcDbLine: 'JoinLine', AcDbArc: 'JoinCircleArc', AcDbPolyline: 'JoinPolyLine'};
+
 // The first polyline is joined with each of the others that can be, by an operation for its class.
 function joinsOf(action) {
-    const joins = {AcDbLine: 'JoinLine', AcDbArc: 'JoinCircleArc', AcDbPolyline: 'JoinPolyLine'};
     if (action.kind !== 40 || datumOf(action.data, 0) !== '_JOIN') {
         return [];
     }
     const [first, ...others] = datumOf(action.data, 1);
     const classes = datumOf(action.data, 2);
-    return others.map((handle, i) => ({name: joins[classes[i + 1]], owner: first,
+    return others.map((handle, i) => ({name: joins[classes[i + 1]], isWhole: false, owner: first,
         handed: [{of: handle, value: {handle: handle}}]})).filter(one => one.name);
 }

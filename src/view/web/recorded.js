@@ -238,6 +238,10 @@ class Recorded {
         if (one.cls === 'AcDbBlockTableRecord') {
             (drawn.origin || [0, 0, 0]).forEach((value, axis) => one.hold('Position()', axis, value, 'origin', action));
         }
+        if (one.cls === 'AcDbMlineStyle' && drawn.elements && !this.told.of(action.key).properties.has('elements')) {
+            linesOfStyle(handle, drawn.elements, style => this.nameOf(style)).forEach(call =>
+                this.operations.push(Object.assign({action: action}, call)));
+        }
         if (drawn.thickness !== undefined) {
             one.hold('Thickness()', 0, drawn.thickness, 'Thickness', action);
         }

@@ -43,7 +43,8 @@ function compareRun(tables, model, given) {
         tables.places);
     const told = given.losses.map(loss => ({kind: 'missingAsTold', class: '', handle: '', line: loss.line,
         path: loss.path || '', macroLines: null, what: loss.what, recorded: null, drawn: null, reason: loss.reason}));
-    const findings = told.concat(compared.findings);
+    const place = one => one.line || Infinity;
+    const findings = told.concat(compared.findings).sort((a, b) => place(a) < place(b) ? -1 : Number(place(a) > place(b)));
     const counts = {equal: compared.equal, different: 0, missingAsTold: 0, missing: 0, surplus: 0, notChecked: 0};
     findings.forEach(one => { counts[one.kind] += 1; });
     const isEqual = counts.different + counts.missing + counts.surplus === 0;
