@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Holds tests/stubs/interface.txt against what macros may ask for, whether a recording of these checks makes one ask or
+"""Holds src/view/web/interface.txt against what macros may ask for, whether a recording of these checks makes one ask or
 not: compiles and runs the C# macros of recordings with all that the program's pages of classes and of system variables
 name, each choice of each property.
 
