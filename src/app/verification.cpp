@@ -13,7 +13,6 @@
 #include "app/valueText.h"
 #include "view/scripts.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -22,6 +21,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
 #include <system_error>
 
 #include <fcntl.h>
@@ -30,6 +30,8 @@
 #include <unistd.h>
 
 namespace inkmacro {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -135,7 +137,7 @@ public:
         : input_(input),
           edited_(edited),
           json_(json),
-          folder_(QFile::encodeName(QDir(QDir::tempPath()).absolutePath()).toStdString(), namesOf(input)),
+          folder_(fs::absolute(fs::temp_directory_path()), namesOf(input)),
           job_{.input = input,
                .target = &javaScript(),
                .macro = path(nameOfMacro(input)),
@@ -268,7 +270,7 @@ int verifyRecording(const QString& input, const std::optional<QString>& edited, 
     } catch (const PlacingError& error) {
         complain(error.message());
     } catch (const std::system_error& error) {
-        complain(QDir::tempPath() + ": " + qt_error_string(error.code().value()));
+        complain("no temporary folder can be made: " + qt_error_string(error.code().value()));
     }
     return kFailed;
 }
