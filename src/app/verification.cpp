@@ -103,11 +103,14 @@ private:
         return kFailed;
     }
 
-    /// Whole lines, so that no letter is cut where a terminal shows it, and what is behind the last one at the end.
+    /// Whole lines, so that no letter is cut where a terminal shows it, unless one is very long, and what is behind the
+    /// last one at the end.
     template<class Print>
     static void passOn(Printed& printed, Print print)
     {
-        const int length = printed.pipe.isOpen() ? printed.bytes.lastIndexOf('\n') + 1 : printed.bytes.size();
+        constexpr int longest = 1 << 20;
+        const bool all = !printed.pipe.isOpen() || printed.bytes.size() > longest;
+        const int length = all ? printed.bytes.size() : printed.bytes.lastIndexOf('\n') + 1;
         if (length > 0)
             print(printed.bytes.left(length));
         printed.bytes.remove(0, length);
@@ -204,12 +207,15 @@ private:
         QFile file(path(name));
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
             throw PlacingError(file.fileName(), file.errorString());
+        file.close();
+        if (file.error() != QFileDevice::NoError)
+            throw PlacingError(file.fileName(), file.errorString());
     }
 
     /// A path for a text of JSON: when the file's own cannot stand there, that of a link.
     QString pathForNode(const QString& file, const char* link) const
     {
-        const QString absolute = QFileInfo(file).absoluteFilePath();
+        QString absolute = QFileInfo(file).absoluteFilePath();
         if (absolute.isValidUtf16())
             return absolute;
         if (symlink(QFile::encodeName(absolute).constData(), QFile::encodeName(path(link)).constData()) != 0)
