@@ -70,6 +70,7 @@ TEST_F(Verify, GivesNodeTheRepairedMacroAndWhatIsToldOfIt)
     const QJsonObject expected{{"input", "walls.jsonl"},
                                {"recording", path("walls.jsonl")},
                                {"macro", folder + "/walls.html"},
+                               {"macroName", "walls.html"},
                                {"map", folder + "/walls.html.map.json"},
                                {"report", folder + "/report.json"},
                                {"edited", QJsonValue::Null},
@@ -79,6 +80,7 @@ TEST_F(Verify, GivesNodeTheRepairedMacroAndWhatIsToldOfIt)
     QDir(path("seen")).removeRecursively();
     EXPECT_EQ(verify({"walls.jsonl", "--json", "--macro", "changed.html"}).status, 0);
     EXPECT_EQ(seen("job.json")["edited"], path("changed.html"));
+    EXPECT_EQ(seen("job.json")["macroName"], "changed.html");
     EXPECT_EQ(seen("job.json")["json"], true);
 }
 

@@ -230,6 +230,7 @@ private:
             {"input", printable(input_)},
             {"recording", job_.kept.isEmpty() ? pathForNode(input_, kRecording) : job_.kept},
             {"macro", job_.macro},
+            {"macroName", printable(QFileInfo(edited_.value_or(job_.macro)).fileName())},
             {"map", Job::mapOf(job_.macro)},
             {"report", path(kReport)},
             {"edited", edited_ ? QJsonValue(pathForNode(*edited_, kEdited)) : QJsonValue()},

@@ -12,7 +12,6 @@ import threading
 import time
 
 import harness
-import interface
 
 PORT = 7776
 START = 60  # seconds
@@ -20,18 +19,13 @@ LIBRARY = re.compile(r"/APISDK/ijLibrary/(\w+)\.js$")
 
 
 def library():
-    """The stub library's source, behind the interface that it makes classes of."""
-    known = interface.read(harness.STUBS / "interface.txt", "javascript")
-    classes = {}
-    for cls in known.classes.values():
-        operations = [[o.name, [p.type for p in o.parameters if not p.out],
-                       [[p.type, p.name] for p in o.parameters if p.out], o.result] for o in cls.operations]
-        classes[cls.name] = {"base": cls.base, "operations": operations,
-                             "properties": [[p.name, p.type] for p in cls.properties]}
-    described = json.dumps({"classes": classes, "enumerations": known.enumerations})
-    scripts = [(harness.STUBS / f"javascript/{name}.js").read_text(encoding="utf-8") for name in ("model", "interface")]
-    rows = json.dumps([row.split() for row in interface.state_rows()])
-    return "\n".join([f"var INTERFACE = {described};", f"var STATE = {rows};", *scripts])
+    """The library's source: classes of the program's own model, which has the drawing of RECORDING."""
+    web = harness.SOURCE / "src/view/web"
+    texts = {file.name: file.read_text(encoding="utf-8") for file in web.glob("*.txt")}
+    names = (web / "scripts.list").read_text(encoding="utf-8").split()
+    scripts = [(web / name).read_text(encoding="utf-8") for name in names]
+    last = (harness.STUBS / "javascript/library.js").read_text(encoding="utf-8")
+    return "\n".join([f"const TEXTS = {json.dumps(texts)};", *scripts, last])
 
 
 class _Handler(http.server.BaseHTTPRequestHandler):
@@ -84,7 +78,7 @@ def _serve():
 
 
 class Browser:
-    """Use as a context: `run` loads a page, presses its button and gives what it did."""
+    """Use as a context: `run` loads a page and presses its button."""
 
     def __init__(self, executable, folder):
         self._executable, self._folder = executable, folder
@@ -108,18 +102,18 @@ class Browser:
             stdin=subprocess.DEVNULL, stdout=self._messages, stderr=subprocess.STDOUT)
         return self
 
-    def run(self, page, model):
-        """The calls and the first error of a page, which finds the objects of the model."""
+    def run(self, page, recording):
+        """The first error of a page, which finds the drawing of that recording."""
         # In the page's first line, so that the numbers of the lines stay.
         first, rest = page.split("\n", 1)
-        offered = json.dumps([{**vars(one), "way": one.way} for one in model]).replace("<", "\\u003c")
-        self.pages.put(f'{first}<script>var MODEL = {offered};</script><script src="/press.js"></script>\n{rest}')
+        text = json.dumps(recording.read_text(encoding="utf-8-sig")).replace("<", "\\u003c")
+        self.pages.put(f'{first}<script>var RECORDING = {text};</script><script src="/press.js"></script>\n{rest}')
         try:
             return self.results.get(timeout=START if self._answers else 0.1)
         except queue.Empty:
             self._answers = False
             self._messages.seek(0)
-            return {"calls": [], "error": {"message": f"no answer\n{self._messages.read()[-2000:]}", "line": 0}}
+            return {"message": f"no answer\n{self._messages.read()[-2000:]}", "line": 0}
 
     def __exit__(self, *_):
         self.pages.put("")

@@ -20,7 +20,7 @@ class Judge(gxx.Judge):
         super().__init__(macros)
         headers = checked.folder / "headers"
         headers.mkdir(exist_ok=True)
-        stubs_cpp.write(harness.STUBS / "interface.txt", headers)
+        stubs_cpp.write(headers)
         self.includes = ["-I", headers, "-I", harness.STUBS / "cpp"]
 
     def rejections_of(self, macro):

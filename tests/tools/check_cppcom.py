@@ -23,7 +23,7 @@ class Judge(gxx.Judge):
         headers = checked.folder / "headers"
         headers.mkdir(exist_ok=True)
         precompiled = (macros[0].folder / "stdafx.h").read_text(encoding="utf-8-sig")
-        stubs_cppcom.write(harness.STUBS / "interface.txt", precompiled, headers)
+        stubs_cppcom.write(precompiled, headers)
         self.options = [*DEFINITIONS, "-I", headers, "-I", harness.STUBS / "cppcom"]
         for macro in macros:
             definition = macro.project(".idl").read_text(encoding="utf-8-sig")

@@ -162,7 +162,7 @@ def isolated(row, faithful, repaired, folder):
     """The macro with one fault alone: the repaired one, in which the lines of the fault are as they are without
     --repair. None when they do not stand apart."""
     if rows_of(faithful.faults) == {row}:
-        return faithful
+        return dataclasses.replace(faithful, losses=repaired.losses)
     left, right = (macro.file.read_text(encoding="utf-8").split("\n") for macro in (faithful, repaired))
     begins = sorted({fault.line for fault in faithful.faults})
     lines, faults = [], []
@@ -187,7 +187,7 @@ def isolated(row, faithful, repaired, folder):
     shutil.copytree(repaired.folder, folder)
     file = folder / repaired.file.name
     file.write_text("\n".join(lines), encoding="utf-8")
-    return dataclasses.replace(faithful, folder=folder, file=file, faults=tuple(faults))
+    return dataclasses.replace(repaired, folder=folder, file=file, written=repaired.file, faults=tuple(faults))
 
 
 class Proof:
@@ -236,18 +236,14 @@ class Proof:
         verdict, kept = harness.Verdict(), list(macros)
         if self._target == "vbnet":
             verdict.settle(kept, lambda: [one for macro in kept for one in check_basic.judge(macro, "vbnet")])
-        calls = {}
+        results = {}
         if kept and self._has_compiler:
             judge = importlib.import_module(f"check_{self._target}").Judge(self._checked, kept)
             verdict.settle(kept, judge)
-            calls = getattr(judge, "calls", calls)
+            results = getattr(judge, "results", results)
         elsewhere = {one.file.parent for one in verdict.unexplained}
         names = {macro.name for macro in verdict.rejected if not macro.faults or macro.folder not in elsewhere}
-        for macro in kept if calls else ():
-            comparison = drawing.Comparison(self._target, self._checked.program)
-            comparison.add(macro, calls[macro])
-            names |= {macro.name for _ in comparison.complaints}
-        return names
+        return names | {macro.name for macro, result in results.items() if drawing.differences(result)}
 
     def _is_wrong(self, row, macro, repaired, refused):
         """What a compiler takes is refused only where the statements of two macros do not fit together."""

@@ -55,7 +55,7 @@ class Judge:
         self.checked, self.macros = checked, macros
         self.program = build(checked)
         see_faults(checked, self.program)
-        self.known = interface.read(harness.STUBS / "interface.txt", "csharp")
+        self.known = interface.read("csharp")
 
     def __call__(self):
         rejections = compile_all(self.checked, self.program, [macro.file for macro in self.macros])

@@ -76,7 +76,7 @@ class Judge:
     def __init__(self, checked, macros):
         self.macros, self.compiler = macros, Compiler()
         stubs = checked.folder / "stubs.vb"
-        stubs.write_text(stubs_vbnet.source(harness.STUBS / "interface.txt"), encoding="utf-8")
+        stubs.write_text(stubs_vbnet.source(), encoding="utf-8")
         self.library = checked.folder / "Inkwright.dll"
         rejections = self.compiler(self.library, "/target:library", stubs)
         if rejections or not self.library.exists():

@@ -14,6 +14,7 @@ import hostile
 
 SKIPPED = 77
 HERE = pathlib.Path(__file__).resolve().parent
+SOURCE = HERE.parent.parent
 STUBS = HERE.parent / "stubs"
 EXTENSIONS = {"cpp": "cpp", "cppcom": "cpp", "csharp": "cs", "javascript": "html", "vbnet": "vb", "vba": "bas"}
 
@@ -55,6 +56,9 @@ class Macro:
     file: pathlib.Path
     faults: tuple = ()
     project_faults: tuple = ()  # those in other files than the macro
+    map: pathlib.Path = None
+    losses: list = dataclasses.field(default=None, compare=False)
+    written: pathlib.Path = None  # the macro that the map is of, when it is another
 
     def lines(self):
         """What its recording holds, line by line."""
@@ -72,7 +76,8 @@ def macro_of(recording, conversion):
               for fault in conversion["faults"] for line in fault["lines"]]
     return Macro(file.name.partition(".")[0], recording, file.parent, file,
                  tuple(fault for fault in faults if fault.file == file.name),
-                 tuple(fault for fault in faults if fault.file != file.name))
+                 tuple(fault for fault in faults if fault.file != file.name), pathlib.Path(conversion["map"]),
+                 conversion["losses"])
 
 
 class Checked:
@@ -132,7 +137,7 @@ class Checked:
             return []
         # Several calls may share the folder: it is the macros that count.
         result = run(self.program, "convert", *recordings, "--target", target, "--output", f"{folder}/", "--force",
-                     "--report", "--quiet", *options)
+                     "--report", "--quiet", "--map", *options)
         if result.returncode != 0:
             sys.exit(f"the recordings do not convert to {target}: {result.stderr}")
         macros = []

@@ -38,9 +38,9 @@ class _Header:
             yield f"    virtual void get_{prop.name}( {self.type(prop.type, True)} ) = 0;"
 
 
-def write(path, folder):
+def write(folder):
     """Writes a header for each class; all bring the whole interface, since macros include a few of them only."""
-    known = interface.read(path, "cpp")
+    known = interface.read("cpp")
     header = _Header(known)
     lines = [GUARD + '#include "iwInterfacePtr.h"\n']
     for name, enumerators in known.enumerations.items():

@@ -73,9 +73,9 @@ class _Library:
             yield "};"
 
 
-def write(path, precompiled, folder):
+def write(precompiled, folder):
     """Writes what the imports of a project's precompiled header name, each under the name it is imported by."""
-    library = "\n".join(_Library(interface.read(path, "cppcom")).lines()) + "\n"
+    library = "\n".join(_Library(interface.read("cppcom")).lines()) + "\n"
     for imported in re.findall(r'^#import "([^"]+)"', precompiled, re.MULTILINE):
         text = library if imported.endswith(APPLICATION_LIBRARY) else '#pragma once\n#include "addinLibrary.h"\n'
         (folder / imported).write_text(text, encoding="utf-8")

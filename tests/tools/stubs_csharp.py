@@ -1,5 +1,6 @@
-"""The automation interface as C# source: an interface a class, and an object behind it that notes every call."""
+"""The automation interface as C# source: an interface a class, and an object behind it that tells what it is asked."""
 
+import json
 import re
 
 import interface
@@ -13,30 +14,26 @@ class _Source:
         """Arrays come as what a type library gives: an object."""
         return "object" if name.endswith("[]") else name
 
-    def value(self, type_, call):
-        """An answer of that type; `call` is the note that is taken, and yields the way to the answer."""
+    def value(self, type_, told="Next()"):
         if type_.endswith("[]"):
-            element = type_[:-2]
-            if element in self._known.classes:
-                return f'Arrays.Of({call}, element => new {element}Object(element))'
-            return f"Arrays.Of({call}, element => default({element}))"
+            return f"List({told}, element => {self.value(type_[:-2], 'element')})"
         if type_ in self._known.classes:
-            return f"new {type_}Object({call})"
-        if type_ == "object":
-            return f"OfferedModel.Found({call})"
-        return f'Values.Of<{self.type(type_)}>({call})'
+            return f"new {type_}Object({told})"
+        return f"Found({told})" if type_ == "object" else f"Value<{type_}>({told})"
+
+    def ask(self, call, types, given):
+        shown = ",".join(json.dumps(type_) for type_ in types).replace('"', '\\"')
+        return f'Ask("{call}", "{shown}"{"".join(", " + name for name in given)});'
 
     def operation(self, operation):
         """Its signature and its body."""
-        names = [f"a{number}" for number in range(len(operation.parameters))]
-        signature = ", ".join(f"{'out ' if p.out else ''}{self.type(p.type)} {name}"
-                              for p, name in zip(operation.parameters, names))
-        given = [name for p, name in zip(operation.parameters, names) if not p.out]
-        note = f'Note("{operation.name}", "{operation.result}"{"".join(", " + name for name in given)})'
-        body = [f"string way = {note};"]
-        to = "Way" if operation.result else "way"
-        body += [f"{name} = {self.value(p.type, to)};" for p, name in zip(operation.parameters, names) if p.out]
-        body += [f"return {self.value(operation.result, 'way')};"] if operation.result else []
+        named = [(p, f"a{number}") for number, p in enumerate(operation.parameters)]
+        signature = ", ".join(f"{'out ' if p.out else ''}{self.type(p.type)} {name}" for p, name in named)
+        outs = [(p.type, name) for p, name in named if p.out]
+        results = ([(operation.result, f"{self.type(operation.result)} result")] if operation.result else []) + outs
+        body = [self.ask(operation.name, [type_ for type_, _ in results], [name for p, name in named if not p.out])]
+        body += [f"{name} = {self.value(type_)};" for type_, name in results]
+        body += ["return result;"] if operation.result else []
         return f"{self.type(operation.result) or 'void'} {operation.name}({signature})", " ".join(body)
 
     def members(self, cls):
@@ -46,15 +43,16 @@ class _Source:
             yield f"{signature};", f"public {signature} {{ {body} }}"
         for prop in cls.properties:
             type_ = self.type(prop.type)
-            getter = f'return {self.value(prop.type, f"""Note("get_{prop.name}", "{prop.type}")""")};'
+            getter = f'{self.ask(f"get_{prop.name}", [prop.type], [])} return {self.value(prop.type)};'
+            setter = self.ask(f"put_{prop.name}", [], ["value"])
             yield (f"{type_} {prop.name} {{ get; set; }}",
-                   f'public {type_} {prop.name} {{ get {{ {getter} }} set {{ Note("put_{prop.name}", "", value); }} }}')
+                   f"public {type_} {prop.name} {{ get {{ {getter} }} set {{ {setter} }} }}")
 
 
 def found(known, writer):
     """An object that is found by its handle, and is of whatever class a macro takes it for."""
     yield f"internal class FoundObject : Noting, {', '.join(known.classes)} {{"
-    yield "    public FoundObject(string way) : base(way) { }"
+    yield "    public FoundObject(string id) : base(id) { }"
     for cls in known.classes.values():
         for declaration, definition in writer.members(cls):
             kind, name = re.match(r"(\w+) (.*)", declaration).groups()
@@ -63,8 +61,8 @@ def found(known, writer):
     yield "}"
 
 
-def source(path):
-    known = interface.read(path, "csharp")
+def source():
+    known = interface.read("csharp")
     writer = _Source(known)
     lines = ["namespace Inkwright {"]
     for name, enumerators in known.enumerations.items():
@@ -75,9 +73,7 @@ def source(path):
         lines.append(f"public interface {cls.name}{' : ' + cls.base if cls.base else ''} {{")
         lines += [f"    {declaration}" for declaration, _ in own]
         lines.append(f"}}\ninternal class {cls.name}Object : Noting, {cls.name} {{")
-        lines.append(f"    public {cls.name}Object(string way) : base(way) {{ }}")
+        lines.append(f"    public {cls.name}Object(string id) : base(id) {{ }}")
         lines += [f"    {definition}" for _, definition in own + inherited]
         lines.append("}")
-    rows = ", ".join(f'"{row}"' for row in interface.state_rows())
-    lines.append(f"internal static partial class State {{ private static readonly string[] Rows = {{ {rows} }}; }}")
     return "\n".join([*lines, *found(known, writer), "}"])

@@ -20,8 +20,8 @@ def _operation(operation):
     return f"Sub [{operation.name}]({parameters})"
 
 
-def source(path):
-    known = interface.read(path, "csharp")
+def source():
+    known = interface.read("csharp")
     lines = ["Namespace Inkwright"]
     for name, enumerators in known.enumerations.items():
         lines += [f"Public Enum {name}", *(f"    [{enumerator}]" for enumerator in enumerators), "End Enum"]

@@ -7,7 +7,7 @@ import harness
 import interface
 import vba_types
 
-KNOWN = interface.read(harness.STUBS / "interface.txt", "csharp")
+KNOWN = interface.read("csharp")
 DECLARED = ["Dim d As Double, line1 As Inkwright.Line", "Dim v As Variant, kind As iwObjectType_e",
             "Dim a(2) As Double", "Dim o( 0 To 1 ) As Object", "Dim r() As String"]
 

@@ -1,9 +1,10 @@
-// What the objects of the automation interface have in common here: each knows the way that led to it, and notes what
-// it is asked for.
+// What the objects of the automation interface have in common here: each tells standard output what it is asked for, and
+// reads from standard input what it answers. Who stands at the other end has the drawing.
 
 using System;
 using System.Collections.Generic;
 using System.Globalization;
+using System.IO;
 using System.Text;
 
 namespace IWAPIMacros
@@ -24,74 +25,57 @@ namespace Inkwright
 {
     internal class Noting
     {
-        public static readonly StringBuilder Log = new StringBuilder();
-        private static readonly Dictionary<string, int> counts = new Dictionary<string, int>();
+        public static readonly TextWriter Output =
+            new StreamWriter(Console.OpenStandardOutput(), new UTF8Encoding(false), 1 << 16);
+        private static readonly TextReader input = new StreamReader(Console.OpenStandardInput(), new UTF8Encoding(false));
+        private static readonly Queue<string> answers = new Queue<string>();
 
-        public readonly string Way;
+        public readonly string Id;
 
-        public static void Begin()
+        protected Noting(string id)
         {
-            Log.Clear();
-            counts.Clear();
+            Id = id;
         }
 
-        protected Noting(string way)
-        {
-            Way = way;
-        }
-
-        /// Objects that take several values to get, and inserted ones, are named by a number, so that their way stays
-        /// short.
-        protected string Note(string call, string result, params object[] arguments)
+        /// `types` are those of its results, the result in front of the out parameters; each of them is then the next
+        /// answer.
+        protected void Ask(string call, string types, params object[] arguments)
         {
             string[] shown = Array.ConvertAll(arguments, Json.Of);
-            Log.Append("{\"on\":" + Json.Of(Way) + ",\"call\":\"" + call + "\",\"args\":[" + string.Join(",", shown)
-                       + "]}\n");
-            string way = WayTo(call, result, shown);
-            OfferedModel.Tell(Way, call, arguments, shown, way);
-            return way;
+            Output.Write("{\"on\":" + Id + ",\"call\":\"" + call + "\",\"types\":[" + types + "],\"args\":["
+                         + string.Join(",", shown) + "]}\n");
+            if (types != "")
+                foreach (string answer in Reply().Split('\t'))
+                    answers.Enqueue(Uri.UnescapeDataString(answer));
         }
 
-        private string WayTo(string call, string result, string[] shown)
+        public static string Reply()
         {
-            if (shown.Length < 2 && !call.StartsWith("Insert", StringComparison.Ordinal))
-                return Way + "." + call + "(" + string.Join("", shown) + ")";
-            int count;
-            counts.TryGetValue(result, out count);
-            counts[result] = ++count;
-            return result + "#" + count;
+            Output.Flush();
+            return input.ReadLine();
         }
-    }
 
-    internal static class Values
-    {
-        public static T Of<T>(string way)
+        public static string Next()
         {
-            if (OfferedModel.Answers.Count > 0) {
-                object known = OfferedModel.Answers.Dequeue();
-                return (T)(typeof(T).IsEnum ? Enum.Parse(typeof(T), known.ToString())
-                                            : Convert.ChangeType(known, typeof(T), CultureInfo.InvariantCulture));
-            }
-            return typeof(T) == typeof(string) ? (T)(object)"" : default(T);
+            return answers.Dequeue();
         }
-    }
 
-    /// For an object that a macro asks although nothing gave it.
-    public static class Given
-    {
-        public static void Object<T>(out T value)
+        /// An object that is found: of its own class when the drawing has it, else of whatever it is taken for.
+        public static object Found(string told)
         {
-            string name = typeof(T).Name;
-            value = (T)Activator.CreateInstance(Type.GetType("Inkwright." + name + "Object"), "given " + name);
+            string[] parts = told.Split(' ');
+            return Activator.CreateInstance(Type.GetType("Inkwright." + parts[1] + "Object"), parts[0]);
         }
-    }
 
-    internal static class Arrays
-    {
-        /// Two elements: a macro takes the second of a document's sheets.
-        public static object Of<T>(string way, Func<string, T> element)
+        public static T Value<T>(string told)
         {
-            return new[] { element(way + "[0]"), element(way + "[1]") };
+            return (T)(typeof(T).IsEnum ? Enum.Parse(typeof(T), told)
+                                        : Convert.ChangeType(told, typeof(T), CultureInfo.InvariantCulture));
+        }
+
+        public static object List<T>(string told, Func<string, T> element)
+        {
+            return Array.ConvertAll(told.Split(new[] { ',' }, StringSplitOptions.RemoveEmptyEntries), one => element(one));
         }
     }
 
@@ -102,7 +86,7 @@ namespace Inkwright
             if (value == null)
                 return "null";
             if (value is Noting)
-                return Of("@" + ((Noting)value).Way);
+                return "{\"thing\":" + ((Noting)value).Id + "}";
             if (value is IWAPIMacros.DispatchWrapper)
                 return Of(((IWAPIMacros.DispatchWrapper)value).Wrapped);
             if (value is double)

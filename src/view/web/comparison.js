@@ -1,0 +1,383 @@
+// Holds the drawing that a macro made against what was recorded.
+
+'use strict';
+
+// Enumerators that do not repeat the shown text, or of which only the number is recorded.
+const enumerators = {
+    LineWeight: {[-1]: 'ByLayer', [-2]: 'ByBlock', [-3]: 'Default'},
+    FitSmooth: {Quadratic: 'Qudratic'},
+    Direction: {Up: 'BottomToTop'},
+    Alignment: {4: 'Center'},
+    TextSide: {1: 'OnConvexSide'},
+    TextDirection: {2: 'InwardToTheCenter'},
+    StartArrow: {20: 'Custom'},
+    EndArrow: {20: 'Custom'},
+    LeaderArrow: {11: 'DotSmall'},
+    'AngularDimensionOptions.Format': {1: 'Deg_Min_Sec'},
+    'AngularDimensionOptions.Precision': {3: '3'},
+    ArcLengthSymbols: {2: 'None'},
+    'DualDimensionOptions.Format': {3: 'Engineering'},
+    'LinearDimensionOptions.Format': {2: 'Decimal'},
+    'LinearDimensionOptions.Precision': {9: '0'},
+    VerticalPosition: {1: 'Above'},
+    VerticalTextJustification: {1: 'Middle'},
+    FitGeometry: {Yes: 'KeepTextBetweenExtensionLines'},
+    'TextOptions.Alignment': {1: 'AlignHorizontally', 2: 'AlignWithDimensionLines'},
+    Calculation: {2: 'Deviation', 4: 'Basic'},
+    DecimalSeparator: {' ': 'Space', ',': 'Comma', '.': 'Period'},
+    CenterMarkDisplay: {Mark: 'AsMark'},
+    ArcSymbolType: {2: 'None'}
+};
+// The numbers by which a table style's cells and lines are recorded.
+const cellNumbers = {iwTableCellType_Title: '1', iwTableCellType_Header: '2', iwTableCellType_Data: '3',
+    iwTableBordersLineType_HorizontalBottom: '4', iwTableBordersLineType_VerticalInside: '16'};
+// What an object has of which nothing is recorded, besides zeros and empty texts: the host's own values.
+const defaults = [['Circle', 'Radius()', 1], ['BlockInstance', 'Scales()', 1], ['SimpleNote', 'Height()', 2.5],
+    ['AttributeDefinition', 'Height()', 0.2], ['EllipseArc', 'OtherRadius()', 1],
+    ['Hatch', 'HatchPattern.HatchOrSolidData()', 'iwHatchPatternType_UserDefined'],
+    ['EllipseArc', 'EndAngle()', 2 * Math.PI]];
+// What the records of an object do not tell: the drawing's data and custom actions do.
+const toldElsewhere = new RegExp('^(?:NoteAnnotation|ToleranceAnnotation|BlockAnnotation|ClipBoundary|TableStyle'
+    + '|Active|.*InViewport|RadialDiameterDimensionOptions.CenterMarkDisplay|FitOptions.DimensionS'
+    + '|CurvedSettings.FontParameters|[MN]Closed|Count\\(|FaceCount|Face\\(|Path|Contents'
+    + '|RowHeightAt|ColumnWidthAt|Pattern|ArrowsOptions.\\w+Arrow|Measure|ExtensionLineFixedLength|Attribute .*Name)');
+// Of a block that another drawing holds.
+const referenced = ['Name()', 'Rotation()'];
+const tolerance = 1e-9; // of numbers of the size of coordinates; of larger ones relative
+
+function heldOf(thing, question, index) {
+    const values = thing.held.get(question);
+    return values && values[index];
+}
+
+// Center and long axis from both ends of the axis, in the plane.
+function deriveEllipse(held) {
+    const [start, end] = [held.get('AxisStart()'), held.get('AxisEnd()')];
+    if (start && end) {
+        held.delete('AxisStart()');
+        held.delete('AxisEnd()');
+        held.set('Center()', start.map((value, axis) => (value + end[axis]) / 2));
+        held.set('MajorAxis()', start.map((value, axis) => (value - end[axis]) / 2));
+    }
+}
+
+// Position and width from the corners of its box.
+function deriveNote(held) {
+    const [first, second] = [held.get('FirstCorner()'), held.get('SecondCorner()')];
+    if (!first || !second) {
+        return;
+    }
+    held.delete('FirstCorner()');
+    held.delete('SecondCorner()');
+    const justified = String((held.get('Justify()') || [''])[0]);
+    const shares = [justified.includes('Center') * 0.5 + justified.includes('Right'),
+        justified.includes('Middle') * 0.5 + justified.includes('Bottom'), 0];
+    if (!held.has('Position()')) {
+        held.set('Position()', first.map((value, axis) => value + shares[axis] * (second[axis] - value)));
+    }
+    if (!held.has('Width()')) {
+        held.set('Width()', [second[0] - first[0]]);
+    }
+}
+
+// Sizes of the rows and columns that were not set one by one.
+function deriveTable(held) {
+    for (const [count, size, one] of [['Rows()', 'RowHeight()', 'RowHeightAt'], ['Columns()', 'ColumnWidth()', 'ColumnWidthAt']]) {
+        const length = held.get(size);
+        held.delete(size);
+        for (let number = 0; length && number < held.get(count)[0]; ++number) {
+            const question = one + '(' + number + ')';
+            held.set(question, held.get(question) || length);
+        }
+    }
+}
+
+// Cells and lines by the numbers that they are recorded with.
+function deriveTableStyle(held) {
+    for (const [question, values] of [...held]) {
+        held.delete(question);
+        held.set(question.replace(/"(iwTable\w+)"/g, (_, name) => cellNumbers[name] || name), values);
+    }
+}
+
+const derivations = {EllipseArc: deriveEllipse, Note: deriveNote, Table: deriveTable, TableStyle: deriveTableStyle};
+
+function plain(text) {
+    return String(text).replace(/\W|_/g, '').toLowerCase();
+}
+
+// Of angles full turns do not count.
+function isClose(one, other, isTurn) {
+    const turn = 2 * Math.PI;
+    const difference = isTurn ? (one - other) - Math.round((one - other) / turn) * turn : one - other;
+    return Math.abs(difference) <= tolerance * Math.max(1, Math.abs(one), Math.abs(other));
+}
+
+// What an object has of which nothing was said.
+function isNothing(value) {
+    return value === 0 || value === '' || value === false || isColor(value) && value.color === null;
+}
+
+// Whether what an object holds is what the record says.
+function fits(question, seen, wanted, isTurn) {
+    if (isColor(wanted) || isColor(seen)) {
+        return isColor(wanted) && isColor(seen) && JSON.stringify(seen.color) === JSON.stringify(wanted.color);
+    }
+    if (seen === wanted) {
+        return true;
+    }
+    const [number, text] = wanted instanceof Choice ? [wanted.number, wanted.text] : [undefined, wanted];
+    if (typeof seen === 'boolean') {
+        const closed = question === 'Closed()' && String(text).toLowerCase() === 'yes'; // read in any case
+        return seen === (closed || text === true || number === 1 && !text || yesWords.includes(text));
+    }
+    if (typeof seen === 'number') {
+        const value = text === '' || text === undefined ? number : text;
+        return value !== null && String(value).trim() !== '' && isClose(seen, Number(value), isTurn);
+    }
+    if (typeof seen === 'string' && /^iw\w+_/.test(seen)) {
+        // The longest name that fits.
+        const end = Object.keys(enumerators).filter(one => question.replace(/\(\)$/, '').endsWith(one))
+            .sort((a, b) => b.length - a.length)[0];
+        const names = enumerators[end] || {};
+        const name = names[text] || names[number] || text || String(number);
+        const enumerator = plain(seen.slice(seen.indexOf('_') + 1));
+        return enumerator === plain(name) || enumerator === name.padStart(3, '0');
+    }
+    return seen === text;
+}
+
+// A value as people and JSON have it.
+function shownValue(value) {
+    if (value instanceof Choice) {
+        return value.shown();
+    }
+    if (value instanceof Thing) {
+        return value.handle || value.name || value.cls;
+    }
+    return value === undefined ? null : isColor(value) ? value.color : value;
+}
+
+// `run` is {model, calls with their lines}, `origins` lead the lines of the written macro to actions, and `line` those of
+// the macro that ran to those.
+class Comparison {
+    constructor(recorded, model, origins, writtenLine, places) {
+        this.recorded = recorded;
+        this.model = model;
+        this.origins = origins;
+        this.writtenLine = writtenLine;
+        this.places = places;
+        this.findings = [];
+        this.equal = 0;
+        this.matched = new Map(); // expected objects by their things
+        this.things = new Map(); // and things by the expected
+        for (const call of model.calls) {
+            call.action = call.line ? origins.actionAt(writtenLine(call.line)) : '';
+        }
+        this.matchInserted();
+        this.matchNamed();
+        for (const thing of [...model.made, ...model.named]) {
+            (derivations[thing.cls] || (() => null))(thing.held);
+        }
+        this.compareObjects();
+        this.compareCalls();
+        this.tellStrange();
+    }
+
+    match(expected, thing) {
+        this.matched.set(thing, expected);
+        this.things.set(expected, thing);
+    }
+
+    // By the handles of the lines that make them. What is added to be part of a block is drawn where the block is, in the
+    // same command.
+    matchInserted() {
+        const range = thing => thing.call.line && this.origins.rangeAt(this.writtenLine(thing.call.line)) || {};
+        this.matchBy(expected => [expected.handle], thing => range(thing).handles || []);
+        this.matchBy(expected => [expected.action.line], thing => [range(thing).line]);
+    }
+
+    // What has a key in common, and is of the same class, in its order.
+    matchBy(keysOfExpected, keysOfThing) {
+        const waiting = new Map();
+        for (const expected of this.recorded.objects.filter(one => !this.things.has(one))) {
+            for (const key of keysOfExpected(expected)) {
+                const name = key + ' ' + expected.made;
+                waiting.set(name, waiting.get(name) || []);
+                waiting.get(name).push(expected);
+            }
+        }
+        for (const thing of this.model.made.filter(one => !this.matched.has(one))) {
+            const lists = keysOfThing(thing).map(key => waiting.get(key + ' ' + thing.cls) || []);
+            const list = lists.find(one => one.length);
+            if (list) {
+                this.match(list.shift(), thing);
+            }
+        }
+    }
+
+    // By what makes them, or by their first names.
+    matchNamed() {
+        const byName = new Map();
+        for (const thing of this.model.named) {
+            const key = thing.cls + ' ' + (thing.name && thing.name !== '*U' ? thing.name
+                : thing.call ? thing.call.action : '');
+            byName.set(key, (byName.get(key) || []).concat([thing]));
+        }
+        for (const expected of this.recorded.records) {
+            const key = expected.made + ' ' + (expected.name && expected.name !== '*U' ? expected.name
+                : expected.action.key);
+            const things = byName.get(key) || [];
+            if (things.length) {
+                this.match(expected, things.length > 1 ? things.shift() : things[0]);
+            }
+        }
+    }
+
+    find(kind, expected, action, what, recorded, drawn, reason) {
+        const line = action ? action.line : null;
+        this.findings.push({kind: kind, class: expected ? expected.cls || expected.made : '',
+            handle: expected ? expected.handle : '', line: line, path: action ? action.path : '',
+            macroLines: action ? this.origins.linesOf(action.key) : null, what: what,
+            recorded: shownValue(recorded), drawn: shownValue(drawn), reason: reason});
+    }
+
+    compareObjects() {
+        for (const expected of [...this.recorded.objects, ...this.recorded.records]) {
+            const thing = this.things.get(expected);
+            if (thing) {
+                this.equal += this.compareObject(expected, thing);
+            } else if (expected.name !== '' && !(expected.isFound && expected.held.size === 1)) {
+                this.find('missing', expected, expected.action, '', null, null, 'the macro does not make it');
+            }
+        }
+        for (const thing of this.model.made) {
+            if (!this.matched.has(thing) && !this.isHelper(thing)) {
+                this.findSurplus(thing, 'nothing like it is recorded there');
+            }
+        }
+        for (const thing of this.model.named) {
+            // A block without a name is of the insertion that it is drawn for.
+            if (!this.matched.has(thing) && !thing.name.startsWith('*')) {
+                const looked = new Expected('', thing.cls, thing.cls, {key: ''});
+                looked.hold('Name()', 0, thing.name, 'Name', null);
+                this.compareHeld(looked, thing);
+            }
+        }
+    }
+
+    // Drawn for another object, or for the time being.
+    isHelper(thing) {
+        return thing.handedTo !== '' || heldOf(thing, 'Erased()', 0) === true || !this.madeClasses.has(thing.cls);
+    }
+
+    get madeClasses() {
+        return this.madeClassesCache || (this.madeClassesCache = new Set(this.places.interfaces.values()));
+    }
+
+    findSurplus(thing, reason) {
+        const {line} = thing.call;
+        this.findings.push({kind: 'surplus', class: thing.cls, handle: '', line: null, path: '',
+            macroLines: line ? [line, line] : null, what: '', recorded: null, drawn: null, reason: reason});
+    }
+
+    compareObject(expected, thing) {
+        const before = this.findings.length;
+        if (expected.space !== null && expected.space !== thing.space) {
+            this.find('different', expected, expected.action, 'space', expected.space, thing.space,
+                'it is drawn in another space');
+        }
+        this.compareHeld(expected, thing);
+        return this.findings.length === before ? 1 : 0;
+    }
+
+    compareHeld(expected, thing) {
+        const {cls} = thing;
+        const isReferenced = thing.held.has('Path()');
+        for (const {question, index, value, tag, action} of expected.held.values()) {
+            if (isReferenced && referenced.includes(question)) {
+                continue;
+            }
+            const seen = heldOf(thing, question, index);
+            const isRight = seen === undefined
+                ? isNothing(value) || this.isDefault(cls, question, value) || this.places.optional.has(cls + ' ' + question)
+                : value !== null && value.handle ? this.isHanded(seen, value)
+                    : fits(question, seen, value, this.places.turns.has(question + index));
+            if (!isRight) {
+                this.find('different', expected, action, tag, value, seen, 'it is drawn with another value');
+            }
+        }
+        for (const [question, values] of thing.held) {
+            values.forEach((value, index) => {
+                if (!expected.holds(question, index) && !isNothing(value)
+                    && (question === 'Objects()' || !(value instanceof Thing))
+                    && !this.isDefault(cls, question, value) && !toldElsewhere.test(question)) {
+                    this.find('different', expected, expected.action.key ? expected.action : null,
+                        question.replace(/\(\)$/, ''), null, value, 'nothing is recorded of it');
+                }
+            });
+        }
+    }
+
+    isDefault(cls, question, value) {
+        return defaults.some(one => one[0] === cls && one[1] === question && one[2] === value);
+    }
+
+    // The calls of each action, one after the other.
+    compareCalls() {
+        const wanted = new Map();
+        for (const one of this.recorded.operations) {
+            wanted.set(one.action.key, (wanted.get(one.action.key) || []).concat([one]));
+        }
+        const seen = new Map();
+        for (const call of this.model.calls) {
+            if (this.recorded.calls.names.has(call.name) && (wanted.has(call.action) || !call.name.startsWith('Set'))) {
+                seen.set(call.action, (seen.get(call.action) || []).concat([call]));
+            }
+        }
+        for (const key of new Set([...wanted.keys(), ...seen.keys()])) {
+            const [ours, theirs] = [wanted.get(key) || [], seen.get(key) || []];
+            for (let i = 0; i < Math.max(ours.length, theirs.length); ++i) {
+                this.compareCall(ours[i], theirs[i]);
+            }
+        }
+    }
+
+    compareCall(wanted, seen) {
+        const action = wanted ? wanted.action : null;
+        const handed = wanted ? [].concat(wanted.owner ? [{handle: wanted.owner}] : [],
+            wanted.handed.map(one => one.value)) : [];
+        if (!seen) {
+            this.find('missing', null, action, wanted.name, handed.map(one => one && one.handle || one), null,
+                'the macro does not call it');
+        } else if (!wanted) {
+            this.findSurplus({cls: seen.name, call: seen}, 'no such call is recorded there');
+        } else {
+            const given = (wanted.owner ? [seen.on.whole] : []).concat(flatten(seen.given));
+            const isSame = wanted.name === seen.name && given.length === handed.length
+                && given.every((one, i) => this.isHanded(one, handed[i]));
+            this.find(isSame ? 'notChecked' : 'different', null, action, seen.name,
+                handed.map(one => one && one.handle || one), given.map(shownValue),
+                isSame ? 'the application makes it of what it is handed, which is as recorded'
+                    : 'it is handed something else');
+        }
+    }
+
+    isHanded(value, wanted) {
+        if (wanted !== null && typeof wanted === 'object' && wanted.handle) {
+            const expected = value instanceof Thing ? this.matched.get(value) : null;
+            const leader = this.recorded.leaders.get(wanted.handle);
+            return expected ? [wanted.handle, leader].includes(expected.handle) : value instanceof Thing
+                && ([wanted.handle, leader].includes(value.handle)
+                    || !value.handle && value.cls === this.recorded.madeOf(wanted.handle));
+        }
+        return wanted === null || (typeof value === 'number' ? isClose(value, wanted, false) : value === wanted);
+    }
+
+    tellStrange() {
+        for (const {cls, tag, action} of this.recorded.strange) {
+            this.findings.push({kind: 'notChecked', class: cls, handle: '', line: action.line, path: action.path,
+                macroLines: null, what: tag, recorded: null, drawn: null, reason: 'it is not known where it stands'});
+        }
+    }
+}
