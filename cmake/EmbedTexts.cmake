@@ -21,3 +21,35 @@ function(inkmacro_embed_texts target folder)
     file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/texts/${folder}/texts.h CONTENT "@literals@" @ONLY)
     target_include_directories(${target} PRIVATE ${PROJECT_BINARY_DIR}/texts)
 endfunction()
+
+# Makes literals of what node runs: the tables <folder>/web/*.txt, the scripts in <folder>/web/ in the order of the lines
+# of scripts.list there, and the driver <folder>/node/verify.js behind them. The target includes them as
+# "<folder>/scriptTexts.h", as the lists inkmacro::texts::tables and inkmacro::texts::scripts.
+function(inkmacro_embed_scripts target folder)
+    cmake_path(ABSOLUTE_PATH folder OUTPUT_VARIABLE source)
+    file(GLOB tables CONFIGURE_DEPENDS ${source}/web/*.txt)
+    file(STRINGS ${source}/web/scripts.list scripts)
+    list(TRANSFORM scripts PREPEND ${source}/web/)
+    list(APPEND scripts ${source}/node/verify.js)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source}/web/scripts.list ${tables} ${scripts})
+    # Clang warns of literals above 64 KB, which not every compiler takes.
+    string(CONCAT literals "#pragma once\n\n#include <initializer_list>\n"
+        "\n#pragma GCC diagnostic ignored \"-Woverlength-strings\"\n"
+        "\nnamespace inkmacro::texts {\nstruct Named\n{\n    const char* name;\n    const char* text;\n};\n")
+    foreach(list tables scripts)
+        string(APPEND literals "inline constexpr std::initializer_list<Named> ${list} = {")
+        foreach(file IN LISTS ${list})
+            cmake_path(GET file FILENAME name)
+            file(READ ${file} text)
+            string(FIND "${text}" ")script\"" at)
+            if(NOT at EQUAL -1)
+                message(FATAL_ERROR "${file} holds )script\", which ends the literal that is made of it")
+            endif()
+            string(APPEND literals "\n{\"${name}\", R\"script(${text})script\"},")
+        endforeach()
+        string(APPEND literals "\n};\n")
+    endforeach()
+    string(APPEND literals "}\n")
+    file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/texts/${folder}/scriptTexts.h CONTENT "@literals@" @ONLY)
+    target_include_directories(${target} PRIVATE ${PROJECT_BINARY_DIR}/texts)
+endfunction()

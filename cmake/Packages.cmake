@@ -36,6 +36,8 @@ execute_process(COMMAND awk -v package=${PROJECT_NAME} -v maintainer=${CPACK_PAC
 set(libraries libinkmacro${INKMACRO_SOVERSION})
 set(same_libraries "${libraries} (= ${PROJECT_VERSION})")
 
+# verify runs macros in it.
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS nodejs)
 inkmacro_package(program inkmacro utils "${same_libraries}")
 set(CPACK_COMPONENT_PROGRAM_DESCRIPTION "macro writer of the CAD application Inkwright
 A recording of what a user did becomes a macro that does it again, in C++,

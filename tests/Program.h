@@ -8,6 +8,11 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <chrono>
+#include <csignal>
+#include <functional>
+#include <thread>
+
 #include <unistd.h>
 
 /// How the program ended and what it printed.
@@ -60,6 +65,15 @@ protected:
         process.write(input);
         return finish(process);
     }
+
+    static void await(const std::function<bool()>& holds)
+    {
+        for (int i = 0; i < 6000; ++i, std::this_thread::sleep_for(std::chrono::milliseconds(10)))
+            if (holds())
+                return;
+        FAIL() << "it never came";
+    }
+    static void send(const QProcess& process, int signal) { kill(static_cast<pid_t>(process.processId()), signal); }
 
 private:
     QTemporaryDir folder_;

@@ -15,8 +15,6 @@
 
 namespace {
 
-using namespace std::chrono_literals;
-
 /// Results are put into a folder under its lock. Whoever holds it keeps the program at the point where all is written
 /// and nothing is in its place.
 class Hold
@@ -66,14 +64,6 @@ protected:
                    count;
         });
     }
-    static void await(const std::function<bool()>& holds)
-    {
-        for (int i = 0; i < 6000; ++i, std::this_thread::sleep_for(10ms))
-            if (holds())
-                return;
-        FAIL() << "it never came";
-    }
-    static void send(const QProcess& process, int signal) { kill(static_cast<pid_t>(process.processId()), signal); }
 };
 
 const QStringList wallsToCSharp{"convert", "walls.jsonl", "--target", "csharp", "--output", "out/"};
@@ -142,6 +132,16 @@ TEST_F(Results, StayAsTheyWereWhenTheProgramIsKilled)
     parent.kill();
     parent.waitForFinished();
     await([this] { return temporaryFolders().isEmpty(); });
+}
+
+TEST_F(Results, DoNotCleanUpBehindOtherUsers)
+{
+    write("walls.jsonl", line);
+    write("out/csharp/.inkmacro-part-abcdef/walls.cs", "theirs");
+    if (chown(qPrintable(path("out/csharp/.inkmacro-part-abcdef")), 65534, 65534) != 0)
+        GTEST_SKIP() << "only root can give a folder away";
+    EXPECT_EQ(run(wallsToCSharp).status, 0);
+    EXPECT_EQ(contents("out/csharp/.inkmacro-part-abcdef/walls.cs"), "theirs");
 }
 
 TEST_F(Results, OfTwoProcessesAreNeverMixed)

@@ -66,10 +66,12 @@ struct CommandLine
         Run,
         Check,
         Format,
+        Verify,
         Snapshot,
         RecordingSchema,
         ReportSchema,
         MapSchema,
+        VerificationSchema,
         Classes,
         SystemVariables,
         Faults,
@@ -83,8 +85,9 @@ struct CommandLine
     QStringList files;                     ///< "-" is standard input, at most once
     std::vector<const TargetRow*> targets; ///< each once, in the order asked for
     std::optional<QString> output;
-    bool map = false;   ///< a map beside each macro
-    bool force = false; ///< projects of other recordings are replaced
+    std::optional<QString> macro; ///< that is verified in place of the recording's
+    bool map = false;             ///< a map beside each macro
+    bool force = false;           ///< projects of other recordings are replaced
     HostSettings host;
     Telling telling;
     OdDbHandle handle;                           ///< of the object that is shown; null for all

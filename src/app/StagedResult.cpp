@@ -124,8 +124,11 @@ QString PlacingError::message() const
     return QString::fromLocal8Bit(what());
 }
 
-StagedResult::StagedResult(const QStringList& files) : files_(files), directory_(directoryOf(toPath(files.front())))
+StagedResult::StagedResult(const QStringList& files, const StagingFolder* home)
+    : files_(files), home_(home), directory_(directoryOf(toPath(files.front())))
 {
+    if (home_)
+        return;
     std::vector<std::string> names;
     for (const QString& file : files_)
         names.push_back(toPath(file).filename());
@@ -139,7 +142,7 @@ StagedResult::StagedResult(const QStringList& files) : files_(files), directory_
 
 std::string StagedResult::staged(const QString& file) const
 {
-    return staging_->file(toPath(file).filename());
+    return (home_ ? *home_ : *staging_).file(toPath(file).filename());
 }
 
 QString StagedResult::firstFile() const
@@ -176,12 +179,14 @@ StagedResult::Move StagedResult::prepare(const QString& file)
 QStringList StagedResult::place(const std::function<bool()>& mayReplace)
 {
     QStringList written;
-    std::vector<Move> moves;
     for (const QString& file : files_)
-        if (has(file)) {
-            moves.push_back(prepare(file));
+        if (has(file))
             written.append(file);
-        }
+    if (home_)
+        return written;
+    std::vector<Move> moves;
+    for (const QString& file : written)
+        moves.push_back(prepare(file));
 
     // Of two processes that put files here at once, one has to wait, so that all files are of the same one.
     const Descriptor directory(directory_, O_RDONLY | O_DIRECTORY);

@@ -24,8 +24,9 @@ public:
 class StagedResult
 {
 public:
-    /// All in one folder, which is made when it is missing. Raises PlacingError.
-    explicit StagedResult(const QStringList& files);
+    /// All in one folder, which is made when it is missing. Files of a staging folder stay where they are written: it
+    /// has a lock of its own, and nothing older stands there. Raises PlacingError.
+    explicit StagedResult(const QStringList& files, const StagingFolder* home = nullptr);
 
     /// Where the first of the files, and the others beside it, shall be written. Its name is that of the place.
     QString firstFile() const;
@@ -50,6 +51,7 @@ private:
     Move prepare(const QString& file);
 
     QStringList files_;
+    const StagingFolder* home_; ///< in place of a folder of this result's own
     std::filesystem::path directory_;
     std::optional<StagingFolder> staging_;
     std::list<StagingFolder> elsewhere_; ///< beside the targets of links

@@ -40,12 +40,19 @@ void removeFlatFolder(const fs::path& path)
     rmdir(path.c_str());
 }
 
+/// Where everybody may make folders, somebody else's could become a link to anywhere while it is emptied.
+bool isOwn(int descriptor)
+{
+    struct stat opened = {};
+    return fstat(descriptor, &opened) == 0 && opened.st_uid == geteuid();
+}
+
 void removeIfDead(const std::string& path)
 {
     const int descriptor = openFolder(path);
     if (descriptor < 0)
         return;
-    if (flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+    if (isOwn(descriptor) && flock(descriptor, LOCK_EX | LOCK_NB) == 0)
         removeFlatFolder(path);
     close(descriptor);
 }

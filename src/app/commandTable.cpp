@@ -211,6 +211,21 @@ const std::vector<OptionRow> formatOptions = {
     },
 };
 
+const std::vector<OptionRow> verifyOptions = {
+    {
+        .name = "--macro",
+        .form = "FILE",
+        .offer = Offer::Files,
+        .take = takeMacro,
+        .meaning = "a changed macro to run in place of its own",
+        .text = R"(Run that JavaScript macro in place of the one that is written of the
+recording, and compare with the recording what it draws: a macro that
+convert wrote and somebody has changed. It runs as it is, so recorded
+texts in one that was written without --repair may run as code.)",
+    },
+    jsonOption,
+};
+
 const std::vector<OptionRow> inspectOptions = {
     {
         .name = "--tree",
@@ -301,6 +316,15 @@ alone, as those of the vertices of a polyline, the first 20 are shown; --json
 has all of them. The exit status is 1 when nothing of the recording is what
 --command and --handle ask for.)";
 
+const char* const verifyText = R"(Runs the macro of a recording and tells whether it draws what was recorded.
+
+The macro is the repaired one in JavaScript. It runs in node, against a model of
+the application, and is written to a temporary folder that goes with it. What it
+has drawn then is compared with the objects of the recording, property by
+property; what differs is told with the lines of recording and macro. That the
+macro lacks what convert reports as lost is told, too, but is no difference. The
+exit status is 1 when something differs, or when the macro stops with an error.)";
+
 const char* const runText = R"(Runs a command of the macro writer on the drawing of a recording.
 
 It asks on standard output, a line a prompt, and takes a line of standard
@@ -350,6 +374,15 @@ nor the recording up to there has.)",
         .options = checkOptions,
     },
     {
+        .command = Command::Verify,
+        .name = "verify",
+        .meaning = "run the macro of a recording and compare what it draws",
+        .operands = Operands::File,
+        .form = "FILE",
+        .text = verifyText,
+        .options = verifyOptions,
+    },
+    {
         .command = Command::Format,
         .name = "format",
         .meaning = "write the values of a recording on a line each",
@@ -382,21 +415,22 @@ what the host's property sheet shows.)",
     {
         .command = Command::RecordingSchema,
         .name = "schema",
-        .meaning = "print the JSON Schema of recordings, reports or maps",
+        .meaning = "print the JSON Schema of recordings or of what is told of them",
         .operands = Operands::MaybeWord,
-        .form = "recording|report|map",
+        .form = "recording|report|map|verification",
         .words =
             [] {
-                return QStringList{"recording", "report", "map"};
+                return QStringList{"recording", "report", "map", "verification"};
             },
         .takeWord =
             [](CommandLine& line, const QString& word) {
-                line.command = word == "report" ? Command::ReportSchema
-                               : word == "map"  ? Command::MapSchema
-                                                : Command::RecordingSchema;
+                line.command = word == "report"         ? Command::ReportSchema
+                               : word == "map"          ? Command::MapSchema
+                               : word == "verification" ? Command::VerificationSchema
+                                                        : Command::RecordingSchema;
             },
         .text = R"(Prints the JSON Schema of one line of a recording, without an argument too,
-or of the report or a map of convert.)",
+of the report or a map of convert, or of what verify prints with --json.)",
     },
     {
         .command = Command::Classes,

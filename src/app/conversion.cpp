@@ -12,6 +12,7 @@
 #include "app/earlyEnd.h"
 #include "app/otherProjects.h"
 #include "app/reading.h"
+#include "app/report.h"
 #include "host/kernel/CFxRegistry.h"
 #include "host/kernel/CFxServices.h"
 #include "recordfile/OpenDrawing.h"
@@ -23,6 +24,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <memory>
+#include <utility>
 
 namespace inkmacro {
 
@@ -69,7 +72,7 @@ namespace {
 /// not.
 QString failedFile(const Job& job, const StagedResult& result)
 {
-    if (job.toStandardOutput)
+    if (job.toStandardOutput || job.home)
         return job.shownMacro();
     for (const QString& file : job.files())
         if (!result.has(file))
@@ -121,7 +124,7 @@ Outcome printMacro(const QString& path)
 /// Places the files, or prints the macro.
 Outcome convertRead(const Job& job, const Recording& recording, const HostSettings& host)
 {
-    StagedResult result(job.files());
+    StagedResult result(job.files(), job.home);
     CFxConversionNotes& notes = GetFxSystemServices()->Notes();
     std::optional<MacroMap> map;
     if (job.hasMap) {
@@ -151,7 +154,7 @@ Outcome convertRead(const Job& job, const Recording& recording, const HostSettin
 
 Outcome convertRecording(const Job& job, const HostSettings& host, Recording& recording)
 {
-    if (const QString error = readRecording(job.input, recording); !error.isEmpty()) {
+    if (const QString error = readRecording(job.input, recording, job.kept); !error.isEmpty()) {
         printLine(error);
         return {kUnreadable, error};
     }
@@ -190,7 +193,7 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling,
     const QString talk = telling.quiet || outcome.status != kDone ? QString() : talkText(notes, !part);
     if (!talk.isEmpty())
         printLine(job.shownMacro() + ": " + talk);
-    if (!job.toStandardOutput && !telling.reportsToOutput())
+    if (!job.toStandardOutput && !job.home && !telling.reportsToOutput())
         for (const QString& file : outcome.files)
             printOut(file + '\n');
     int status = outcome.status;
@@ -203,6 +206,18 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling,
         }
     }
     return status == kDone && failsOn(notes, telling) ? kFailed : status;
+}
+
+int convertAlone(const Job& job, const HostSettings& host, const Telling& telling, ReportDocument& report)
+{
+    auto part = telling.report == ReportForm::None ? nullptr : std::make_unique<ReportPart>();
+    if (part && !part->create()) {
+        complain("the report cannot be kept: " + qt_error_string(errno));
+        return kFailed;
+    }
+    const int status = convertOne(job, host, telling, part.get());
+    report.add(job, std::move(part), {status});
+    return status;
 }
 
 } // namespace inkmacro

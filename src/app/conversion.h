@@ -4,6 +4,7 @@
 
 namespace inkmacro {
 
+class ReportDocument;
 class ReportPart;
 struct Recording;
 
@@ -15,5 +16,8 @@ std::int32_t runModule(const TargetRow& target, const QString& macro, const Reco
 /// Does one job in this process, which can do no more than one: the module keeps state for the whole process. Gives an
 /// exit status, and to the part, when a report is asked for, what the report tells of the job.
 int convertOne(const Job& job, const HostSettings& host, const Telling& telling, ReportPart* part);
+
+/// The same with a job that is the only one of a report.
+int convertAlone(const Job& job, const HostSettings& host, const Telling& telling, ReportDocument& report);
 
 } // namespace inkmacro

@@ -84,10 +84,11 @@ it is a terminal.
 
 Exit status:
   0  all was done
-  1  a conversion failed, or a command ended in another way than well
-  2  wrong use: nothing was read or written
+  1  a conversion failed, a macro draws something else than was recorded, or a
+     command ended in another way than well
+  2  wrong use, or node is missing for verify: nothing was read or written
   3  a recording could not be read: nothing was written for it; or the file of
-     --option-names could not: nothing was written at all
+     --option-names or --macro could not: nothing was written at all
   128 and its number when SIGINT, SIGTERM or SIGHUP ended the program
 )";
 

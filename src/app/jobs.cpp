@@ -40,11 +40,6 @@ bool isDirectory(const QString& path)
     return path.endsWith('/') || QFileInfo(path).isDir();
 }
 
-QString macroName(const QString& input, const TargetRow& row)
-{
-    return baseNameOf(input) + '.' + latin(row.extension);
-}
-
 QString macroPath(const QString& directory, const QString& input, const TargetRow& row)
 {
     return directory + targetName(row) + '/' + macroName(input, row);
@@ -187,6 +182,18 @@ QStringList Job::files() const
     if (hasMap)
         files.append(mapOf(macro));
     return files;
+}
+
+QString Job::shownMacro() const
+{
+    if (toStandardOutput)
+        return QStringLiteral("standard output");
+    return home ? QFileInfo(macro).fileName() : macro;
+}
+
+QString macroName(const QString& input, const TargetRow& row)
+{
+    return baseNameOf(input) + '.' + latin(row.extension);
 }
 
 std::vector<Job> planJobs(const CommandLine& line)

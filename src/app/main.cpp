@@ -21,12 +21,12 @@
 #include "app/reportSchema.h"
 #include "app/runCommand.h"
 #include "app/snapshot.h"
+#include "app/verification.h"
+#include "app/verificationSchema.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cerrno>
-#include <memory>
 
 using namespace inkmacro;
 
@@ -38,18 +38,6 @@ bool usesInstallDir(const TargetRow* row)
     return row->target == Target::Cpp || row->target == Target::CppCom;
 }
 
-int convertAlone(const Job& job, const CommandLine& line, ReportDocument& report)
-{
-    auto part = line.telling.report == ReportForm::None ? nullptr : std::make_unique<ReportPart>();
-    if (part && !part->create()) {
-        complain("the report cannot be kept: " + qt_error_string(errno));
-        return kFailed;
-    }
-    const int status = convertOne(job, line.host, line.telling, part.get());
-    report.add(job, std::move(part), {status});
-    return status;
-}
-
 int convert(const CommandLine& line)
 {
     const std::vector<Job> jobs = planJobs(line);
@@ -59,7 +47,7 @@ int convert(const CommandLine& line)
         return kUnreadable;
     try {
         ReportDocument report(line.telling);
-        const int status = jobs.size() == 1 ? convertAlone(jobs.front(), line, report)
+        const int status = jobs.size() == 1 ? convertAlone(jobs.front(), line.host, line.telling, report)
                                             : convertInProcesses(jobs, line.host, line.telling, report);
         return report.finish(status);
     } catch (const PlacingError& error) {
@@ -81,6 +69,8 @@ int run(const CommandLine& line)
         return checkRecordings(line.files, {line.strict, line.json});
     case CommandLine::Command::Format:
         return formatRecording(line.files.front(), line.output.value_or(QString()));
+    case CommandLine::Command::Verify:
+        return verifyRecording(line.files.front(), line.macro, line.json);
     case CommandLine::Command::Snapshot:
         return showSnapshot(line.files.front(), line.handle, line.json);
     case CommandLine::Command::RecordingSchema:
@@ -91,6 +81,9 @@ int run(const CommandLine& line)
         break;
     case CommandLine::Command::MapSchema:
         printOut(mapSchema());
+        break;
+    case CommandLine::Command::VerificationSchema:
+        printOut(verificationSchema());
         break;
     case CommandLine::Command::Classes:
         printOut(classesPage(line.className));

@@ -65,11 +65,28 @@ void takeTargets(CommandLine& line, const QString& list)
                 line.targets.push_back(row);
 }
 
-void takeOutput(CommandLine& line, const QString& path)
+namespace {
+
+void refuseEmptyPath(const QString& path)
 {
     if (path.isEmpty())
         throw WrongUse("a path is expected, and it is empty");
+}
+
+} // namespace
+
+void takeOutput(CommandLine& line, const QString& path)
+{
+    refuseEmptyPath(path);
     line.output = path;
+}
+
+void takeMacro(CommandLine& line, const QString& path)
+{
+    refuseEmptyPath(path);
+    if (path == "-")
+        throw WrongUse("the macro must be a file, not standard input");
+    line.macro = path;
 }
 
 QStringList recordingLanguages()

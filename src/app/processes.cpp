@@ -6,9 +6,11 @@
 #include "app/LoadedModule.h"
 #include "app/ProgressLine.h"
 #include "app/StagedResult.h"
+#include "app/childProcess.h"
 #include "app/console.h"
 #include "app/conversion.h"
 #include "app/earlyEnd.h"
+#include "app/reading.h"
 #include "app/valueText.h"
 #include "recordfile/RecordingReader.h"
 
@@ -16,18 +18,12 @@
 #include <QTemporaryFile>
 
 #include <algorithm>
-#include <array>
-#include <atomic>
 #include <cerrno>
-#include <csignal>
 #include <memory>
 #include <optional>
 #include <thread>
 #include <utility>
 
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -35,72 +31,12 @@ namespace inkmacro {
 
 namespace {
 
-/// One end of a pipe, closed when this goes.
-class PipeEnd
-{
-public:
-    PipeEnd() = default;
-    explicit PipeEnd(int descriptor) : descriptor_(descriptor) {}
-    PipeEnd(PipeEnd&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
-    PipeEnd& operator=(PipeEnd&& other) noexcept
-    {
-        std::swap(descriptor_, other.descriptor_);
-        return *this;
-    }
-    ~PipeEnd() { shut(); }
-
-    void shut()
-    {
-        if (const int descriptor = std::exchange(descriptor_, -1); descriptor != -1)
-            close(descriptor);
-    }
-    bool isOpen() const { return descriptor_ != -1; }
-    int descriptor() const { return descriptor_; }
-
-private:
-    int descriptor_ = -1;
-};
-
-struct Pipe
-{
-    PipeEnd in; ///< to write to
-    PipeEnd out;
-};
-
-/// 0, or the errno.
-int makePipe(Pipe& pipe)
-{
-    std::array<int, 2> ends = {};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0)
-        return errno;
-    pipe = {PipeEnd(ends[1]), PipeEnd(ends[0])};
-    return 0;
-}
-
 /// A file without a name, as long as nobody asks for one.
 QString pathOf(const QTemporaryFile& file)
 {
     const QString descriptor = QString("/proc/self/fd/%1").arg(file.handle());
     return QFile::exists(descriptor) ? descriptor : file.fileName();
 }
-
-/// What a process prints on one of its streams.
-struct Printed
-{
-    PipeEnd pipe;
-    QByteArray bytes;
-
-    /// Takes what is there, and closes the pipe behind the last of it.
-    void take()
-    {
-        std::array<char, 64 * 1024> piece;
-        const ssize_t got = read(pipe.descriptor(), piece.data(), piece.size());
-        if (got > 0)
-            bytes.append(piece.data(), static_cast<int>(got));
-        else if (got == 0 || errno != EINTR)
-            pipe.shut();
-    }
-};
 
 class JobRunner final : private EarlyEnd
 {
@@ -113,9 +49,7 @@ public:
 private:
     struct State
     {
-        std::atomic<pid_t> processId = 0; ///< while the process runs
-        Printed output;
-        Printed messages;
+        ChildProcess process;
         std::unique_ptr<ReportPart> part; ///< null when no report is asked for
         bool begun = false;
         bool done = false;
@@ -130,7 +64,7 @@ private:
     bool start(std::size_t number);
     /// Gives an errno.
     int fork(State& state, const Job& job);
-    [[noreturn]] void work(const Job& job, ReportPart* part, int output, int messages);
+    int work(const Job& job, ReportPart* part);
     void couldNotStart(std::size_t number, const QString& reason);
     void waitForSome();
     void ended(std::size_t number);
@@ -145,7 +79,6 @@ private:
     ReportDocument& report_;
     std::vector<State> states_;
     QTemporaryFile standardInput_;
-    const pid_t self_ = getpid();
     std::size_t next_ = 0; ///< all jobs in front of it have begun
     std::size_t passedOn_ = 0;
     std::pair<QString, QByteArray> lastComplaint_; ///< the recording that could not be read, and why
@@ -183,18 +116,7 @@ int JobRunner::run()
 
 bool JobRunner::keepStandardInput()
 {
-    if (!standardInput_.open())
-        return false;
-    std::vector<char> piece(1 << 20);
-    for (;; progress_.update()) {
-        const ssize_t got = read(STDIN_FILENO, piece.data(), piece.size());
-        if (got == 0)
-            return standardInput_.flush();
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0 || standardInput_.write(piece.data(), got) != got)
-            return false;
-    }
+    return standardInput_.open() && keepInput(STDIN_FILENO, standardInput_, [this] { progress_.update(); });
 }
 
 /// Its error is told unless it is empty; that of this program's own begins with its name.
@@ -202,7 +124,7 @@ void JobRunner::refuse(std::size_t number, const Outcome& outcome)
 {
     const QString name = outcome.status == kUnreadable ? QString() : QStringLiteral("inkmacro: ");
     if (!outcome.error.isEmpty())
-        states_[number].messages.bytes += (printable(name + outcome.error) + '\n').toLocal8Bit();
+        states_[number].process.messages.bytes += (printable(name + outcome.error) + '\n').toLocal8Bit();
     finish(number, outcome);
 }
 
@@ -246,48 +168,24 @@ bool JobRunner::start(std::size_t number)
 
 int JobRunner::fork(State& state, const Job& job)
 {
-    Pipe output;
-    Pipe messages;
-    if (const int error = makePipe(output))
-        return error;
-    if (const int error = makePipe(messages))
-        return error;
     if (telling_.report != ReportForm::None) {
         state.part = std::make_unique<ReportPart>();
         if (!state.part->create())
             return errno;
     }
-    const SignalPause pause;
-    const pid_t process = ::fork();
-    if (process == 0)
-        work(job, state.part.get(), output.in.descriptor(), messages.in.descriptor());
-    if (process == -1)
-        return errno;
-    state.processId = process;
-    state.output.pipe = std::move(output.out);
-    state.messages.pipe = std::move(messages.out);
-    return 0;
+    const QByteArray input = job.input == "-" ? QFile::encodeName(pathOf(standardInput_)) : QByteArray("/dev/null");
+    return state.process.start(input, [&] { return work(job, state.part.get()); });
 }
 
-/// In the new process, which ends when the one that has started it does, however it does.
-void JobRunner::work(const Job& job, ReportPart* part, int output, int messages)
+/// In the new process.
+int JobRunner::work(const Job& job, ReportPart* part)
 {
-    prctl(PR_SET_PDEATHSIG, SIGTERM);
-    if (getppid() != self_)
-        _exit(kFailed);
-    const QByteArray input = job.input == "-" ? QFile::encodeName(pathOf(standardInput_)) : QByteArray("/dev/null");
-    const PipeEnd opened(open(input.constData(), O_RDONLY | O_CLOEXEC));
-    dup2(opened.descriptor(), STDIN_FILENO);
-    dup2(output, STDOUT_FILENO);
-    dup2(messages, STDERR_FILENO);
     // Of the others nothing is needed here.
     for (const std::size_t number : running_) {
-        states_[number].output.pipe.shut();
-        states_[number].messages.pipe.shut();
+        states_[number].process.output.pipe.shut();
+        states_[number].process.messages.pipe.shut();
     }
-    forgetOutput();
-    forgetEarlyEnds();
-    _exit(finishOutput(orComplain([&] { return convertOne(job, host_, telling_, part); })));
+    return convertOne(job, host_, telling_, part);
 }
 
 /// When none runs: the next one could not be started either, so this is the end for all that wait.
@@ -306,52 +204,30 @@ void JobRunner::couldNotStart(std::size_t number, const QString& reason)
 void JobRunner::waitForSome()
 {
     std::vector<Printed*> streams;
-    std::vector<pollfd> polled;
     for (const std::size_t number : running_)
-        for (Printed* const stream : {&states_[number].output, &states_[number].messages})
-            if (stream->pipe.isOpen()) {
-                streams.push_back(stream);
-                polled.push_back({stream->pipe.descriptor(), POLLIN, 0});
-            }
-    const int changed = poll(polled.data(), polled.size(), progress_.pollTimeout());
+        streams.insert(streams.end(), {&states_[number].process.output, &states_[number].process.messages});
+    takeSome(streams, progress_.pollTimeout());
     progress_.update();
-    if (changed > 0)
-        for (std::size_t i = 0; i < polled.size(); ++i)
-            if (polled[i].revents != 0)
-                streams[i]->take();
-
-    const auto hasEnded = [this](std::size_t number) {
-        return !states_[number].output.pipe.isOpen() && !states_[number].messages.pipe.isOpen();
-    };
     for (const std::size_t number : std::vector(running_))
-        if (hasEnded(number))
+        if (!states_[number].process.prints())
             ended(number);
 }
 
 void JobRunner::ended(std::size_t number)
 {
     State& state = states_[number];
-    int result = 0;
-    {
-        const SignalPause pause;
-        while (waitpid(state.processId, &result, 0) == -1 && errno == EINTR) {
-        }
-        state.processId = 0;
-    }
+    const int result = state.process.await();
     std::erase(running_, number);
 
-    const bool crashed = !WIFEXITED(result);
     const int status = WEXITSTATUS(result);
-    if (crashed || status > kUnreadable) {
-        const QString reason = crashed ? QString("killed by signal %1").arg(WTERMSIG(result))
-                                       : QString("ended with status %1").arg(status);
+    if (!WIFEXITED(result) || status > kUnreadable) {
         removeDeadStaging(QFile::encodeName(QFileInfo(jobs_[number].macro).path()).toStdString());
         refuse(number, {kFailed, QString("conversion to %1 came to no end: %2: %3")
-                                     .arg(targetName(*jobs_[number].target), reason, jobs_[number].macro)});
+                                     .arg(targetName(*jobs_[number].target), endWord(result), jobs_[number].macro)});
     } else {
         // Its part tells more, when it came to write one.
         finish(number, {status == kDone || status == kUnreadable ? status : kFailed,
-                        QString::fromLocal8Bit(state.messages.bytes).trimmed()});
+                        QString::fromLocal8Bit(state.process.messages.bytes).trimmed()});
     }
     startSome();
 }
@@ -377,7 +253,7 @@ void JobRunner::passOn()
 void JobRunner::passOn(std::size_t number)
 {
     State& state = states_[number];
-    QByteArray messages = std::exchange(state.messages.bytes, {});
+    QByteArray messages = std::exchange(state.process.messages.bytes, {});
     if (state.outcome.status == kUnreadable) {
         // What is wrong with a recording is said once, not once for each target.
         const std::pair complaint(jobs_[number].input, messages);
@@ -387,18 +263,16 @@ void JobRunner::passOn(std::size_t number)
             lastComplaint_ = complaint;
     }
     printError(messages);
-    printOut(std::exchange(state.output.bytes, {}));
+    printOut(std::exchange(state.process.output.bytes, {}));
     report_.add(jobs_[number], std::move(state.part), state.outcome);
 }
 
 void JobRunner::endEarly(int signal) noexcept
 {
-    for (State& state : states_)
-        if (state.processId > 0)
-            kill(state.processId, signal);
-    for (State& state : states_)
-        while (state.processId > 0 && waitpid(state.processId, nullptr, 0) == -1 && errno == EINTR) {
-        }
+    for (const State& state : states_)
+        state.process.send(signal);
+    for (const State& state : states_)
+        state.process.awaitBySignal();
 }
 
 } // namespace

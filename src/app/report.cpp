@@ -142,11 +142,11 @@ void addFault(JsonOut& out, const CFxFaultNote& fault)
 
 } // namespace
 
-ReportDocument::ReportDocument(const Telling& telling)
+ReportDocument::ReportDocument(const Telling& telling, const StagingFolder* home)
     : form_(telling.report), path_(telling.reportFile.value_or(QString()))
 {
     if (telling.reportFile) {
-        result_.emplace(QStringList(path_));
+        result_.emplace(QStringList(path_), home);
         file_.setFileName(result_->firstFile());
         if (!file_.open(QIODevice::WriteOnly))
             throw PlacingError(path_, file_.errorString());

@@ -20,8 +20,8 @@ class CommonNotes;
 class ReportDocument
 {
 public:
-    /// Raises PlacingError when the file cannot be made.
-    explicit ReportDocument(const Telling& telling);
+    /// The file stays in `home`, when there is one. Raises PlacingError when it cannot be made.
+    explicit ReportDocument(const Telling& telling, const StagingFolder* home = nullptr);
 
     /// `otherwise` holds for a part that is missing or not whole.
     void add(const Job& job, std::unique_ptr<ReportPart> part, const Outcome& otherwise);

@@ -28,7 +28,8 @@ CASES = (("conv", "convert"), ("check wal", "walls.jsonl"), ("inspect --js", "--
          ("convert walls.jsonl -t vba --rec", "--recording-language"), ("convert --install-dir wal", "wal"),
          ("run walls.jsonl --command=-HY", "--command=-HYPERLINK"), ("run walls.jsonl --command -HY", "-HYPERLINK"),
          ("run walls.jsonl --comm", "--command"),
-         ("snapshot --handle wal", "wal"), ("schema rep", "report"), ("schema wal", "wal"), ("faults wal", "wal"),
+         ("snapshot --handle wal", "wal"), ("schema rep", "report"), ("verify --mac", "--macro"),
+         ("verify --macro wal", "walls.jsonl"), ("schema wal", "wal"), ("faults wal", "wal"),
          ("completion fi", "fish"), ("convert -- --outp", "--outp"))
 
 

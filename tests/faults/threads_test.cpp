@@ -116,6 +116,10 @@ TEST_F(Threads, OfWhichOneIsMissingLeaveTheWorkToTheOthers)
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.err, "inkmacro: no process can be started for out/a/csharp/a.cs: Resource temporarily "
                            "unavailable, nor for the 3 behind it\n");
+
+    outcome = run({"verify", "a.jsonl"}, {}, failingFork + "1; ");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.err, "inkmacro: no process can be started for node: Resource temporarily unavailable\n");
 }
 
 } // namespace

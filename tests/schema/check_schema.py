@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Holds recordings, reports and maps against the JSON Schemas that the program prints, and these against damaged ones.
+"""Holds recordings, reports, maps and verifications against the JSON Schemas that the program prints, and these against damaged ones.
 
     check_schema.py PROGRAM SOURCE_DIR
 """
@@ -70,6 +70,30 @@ MAP_DAMAGES = [
 ]
 
 
+FINDING = {"kind": "different", "class": "AcDbLine", "handle": "2F", "line": 2, "path": "command.actions[0]",
+           "macroLines": [44, 46], "what": "End X", "recorded": 4.5, "drawn": [4.5, None], "reason": "another number"}
+VERIFICATION = {
+    "verificationVersion": 1, "programVersion": "0.1.0", "input": "line.jsonl", "macro": "line.html",
+    "verdict": "stopped", "stopped": {"macroLine": None, "message": "ReferenceError: line1 is not defined"},
+    "counts": {"equal": 3, "different": 1, "missingAsTold": 0, "missing": 0, "surplus": 1, "notChecked": 0},
+    "findings": [FINDING, FINDING | {"kind": "surplus", "handle": "", "line": None, "path": "", "macroLines": None}],
+}
+# Each gives a verification that the schema refuses.
+VERIFICATION_DAMAGES = [
+    lambda found: found.update(verificationVersion=2),
+    lambda found: found.pop("input"),
+    lambda found: found.update(verdict="same"),
+    lambda found: found.update(stopped=False),
+    lambda found: found["stopped"].update(macroLine=0),
+    lambda found: found["counts"].pop("notChecked"),
+    lambda found: found["counts"].update(equal=-1),
+    lambda found: found["findings"][0].update(kind="equal"),
+    lambda found: found["findings"][0].pop("drawn"),
+    lambda found: found["findings"][0].update(macroLines=[44]),
+    lambda found: found["findings"][0].update(line="2"),
+]
+
+
 def output(*command):
     return json.loads(subprocess.run(command, stdout=subprocess.PIPE, check=True).stdout)
 
@@ -81,10 +105,11 @@ def validator_of(program, what):
 
 
 def check_reports(program, files):
-    """The faults of the report and the maps of each recording in all targets."""
+    """The faults of the report and the maps of each recording in all targets, and of the schemas."""
     validator = validator_of(program, "report")
     map_validator = validator_of(program, "map")
-    faults = []
+    verification_validator = validator_of(program, "verification")
+    faults = [f"a verification: {error.message}" for error in verification_validator.iter_errors(VERIFICATION)]
     found = {"losses": 0, "faults": 0}
     with tempfile.TemporaryDirectory() as folder:
         for number, file in enumerate(files):
@@ -103,7 +128,8 @@ def check_reports(program, files):
     if not all(found.values()):
         faults.append(f"the reports hold only {found}")
     for what, whole, checks, damages in (("report", report, validator, DAMAGES),
-                                         ("map", macro_map, map_validator, MAP_DAMAGES)):
+                                         ("map", macro_map, map_validator, MAP_DAMAGES),
+                                         ("verification", VERIFICATION, verification_validator, VERIFICATION_DAMAGES)):
         for number, damage in enumerate(damages):
             damaged = json.loads(json.dumps(whole))
             damage(damaged)
