@@ -23,14 +23,14 @@ function(inkmacro_embed_texts target folder)
 endfunction()
 
 # Makes literals of what node runs: the tables <folder>/web/*.txt, the scripts in <folder>/web/ in the order of the lines
-# of scripts.list there, and the driver <folder>/node/verify.js behind them. The target includes them as
+# of scripts.list there, and the drivers <folder>/node/page.js and verify.js behind them. The target includes them as
 # "<folder>/scriptTexts.h", as the lists inkmacro::texts::tables and inkmacro::texts::scripts.
 function(inkmacro_embed_scripts target folder)
     cmake_path(ABSOLUTE_PATH folder OUTPUT_VARIABLE source)
     file(GLOB tables CONFIGURE_DEPENDS ${source}/web/*.txt)
     file(STRINGS ${source}/web/scripts.list scripts)
     list(TRANSFORM scripts PREPEND ${source}/web/)
-    list(APPEND scripts ${source}/node/verify.js)
+    list(APPEND scripts ${source}/node/page.js ${source}/node/verify.js)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source}/web/scripts.list ${tables} ${scripts})
     # Clang warns of literals above 64 KB, which not every compiler takes.
     string(CONCAT literals "#pragma once\n\n#include <initializer_list>\n"
