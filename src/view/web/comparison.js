@@ -293,7 +293,7 @@ class Comparison {
 
     compareHeld(expected, thing) {
         const {cls} = thing;
-        const isReferenced = thing.held.has('Path()');
+        const isReferenced = cls === 'BlockInstance' && thing.held.has('Path()');
         for (const {question, index, value, tag, action} of expected.held.values()) {
             if (isReferenced && referenced.includes(question)) {
                 continue;
@@ -371,10 +371,21 @@ class Comparison {
             const expected = value instanceof Thing ? this.matched.get(value) : null;
             const leader = this.recorded.leaders.get(wanted.handle);
             return expected ? [wanted.handle, leader].includes(expected.handle) : value instanceof Thing
-                && ([wanted.handle, leader].includes(value.handle)
-                    || !value.handle && value.cls === this.recorded.madeOf(wanted.handle));
+                && ([wanted.handle, leader].includes(value.handle) || !value.handle && this.isDrawnOf(value, wanted.handle));
         }
         return wanted === null || fits('', value, wanted, false);
+    }
+
+    // Whether something that is drawn for a block is what the drawing has under the handle, as far as it can be asked.
+    isDrawnOf(thing, handle) {
+        const record = this.recorded.drawing.get(handle);
+        if (!record || thing.cls !== this.places.interfaces.get(record.class)) {
+            return false;
+        }
+        return Object.entries(answersOf(record)).every(([question, values]) => values.every((value, index) => {
+            const seen = heldOf(thing, question, index);
+            return seen === undefined || isClose(seen, value, /Angle/.test(question));
+        }));
     }
 
     tellStrange() {

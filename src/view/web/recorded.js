@@ -156,12 +156,6 @@ class Recorded {
         return record && (record.name || record.layoutName) || '';
     }
 
-    // The interface's class of an object of the drawing, which a macro draws anew where it needs it.
-    madeOf(handle) {
-        const record = this.drawing.get(handle);
-        return record ? this.places.interfaces.get(record.class) : undefined;
-    }
-
     // A record that is named: made by the action, or found.
     named(made, name, handle, cls, action) {
         const one = new Expected(handle, cls, made, action);
