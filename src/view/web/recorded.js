@@ -4,39 +4,21 @@
 'use strict';
 
 // Custom actions by their numbers. One that is refused ends its command.
-const kinds = {trim: 6, sheet: 13, namedView: 14, pen: 16, erase: 17, hatch: 18, attribute: 39, viewBackground: 41,
-    printStyle: 47};
+const kinds = {trim: 6, sheet: 13, namedView: 14, embed: 15, pen: 16, erase: 17, hatch: 18, attribute: 39, edit: 40,
+    viewBackground: 41, vertex: 42, activate: 45, viewport: 46, printStyle: 47};
 const refusedKinds = [24, 25, 51, 52, 53, 54];
 const lastKind = 55;
-const yesWords = ['Yes', 'YES', 'Visible', 'Enabled'];
-// What a leader's note is told comes from the drawing.
-const annotationFields = {textHeight: 'TextHeight', width: 'Width', rotation: 'Rotation', lineSpacingFactor:
-    'LineSpaceFactor', backgroundFillOn: 'BackgroundMask', backgroundScaleFactor: 'BackgroundBorderOffsetFactor'};
+// Of a note the drawing has the number, from 1.
+const attachments = [].concat(...['Top', 'Middle', 'Bottom'].map(row => ['Left', 'Center', 'Right'].map(
+    column => row + ' ' + column)));
 // How a number of the record becomes the one that the object holds.
 const measures = {half: value => value / 2, round: value => value / (2 * Math.PI),
-    area: value => Math.sqrt(value / Math.PI), abs: Math.abs};
-const vertexStates = 1e-10; // a smaller bulge is straight
+    area: value => Math.sqrt(Math.max(value, 0) / Math.PI)};
+const nearZero = 1e-10; // a smaller bulge is straight
 
 // Recorded of a block without a name: the host numbers it when it is made.
 function withoutNumber(name) {
     return name.replace(/^\*U\d+$/, '*U');
-}
-
-// One of several values: its number and how it was shown, of which one may be missing.
-class Choice {
-    constructor(number, text) {
-        this.number = number;
-        this.text = text;
-    }
-
-    shown() {
-        return this.text === '' || this.text === null || this.text === undefined ? this.number : this.text;
-    }
-}
-
-// Whether the word of a record says yes.
-function isYes(value) {
-    return yesWords.includes(value instanceof Choice ? value.shown() : value);
 }
 
 // The actions of a recording in their order, each with its line (from 1) and its path, as reports name them; `key` is
@@ -61,31 +43,35 @@ function actionsOf(lines) {
 }
 
 function noneTold() {
-    return {whole: false, objects: new Set(), inBlock: new Set(), properties: new Set()};
+    return {whole: false, objects: new Set(), inBlock: new Set(), properties: new Map()};
 }
 
-// What the report tells that a macro does not do, by the actions: all of one, objects, objects that a block lacks, and
-// properties by their tags.
+// What the report tells of the actions, as lost or as assumed: all of one, objects, objects that a block lacks, and
+// properties by their tags, with the value that the macro has in place of one that is assumed.
 class Told {
-    constructor(losses) {
+    constructor(notes) {
         this.byAction = new Map();
-        for (const loss of losses) {
-            const key = actionKey(loss.line, loss.path);
+        for (const note of notes) {
+            const key = actionKey(note.line, note.path);
             if (!this.byAction.has(key)) {
                 this.byAction.set(key, noneTold());
             }
-            const told = this.byAction.get(key);
-            const [, tag, handle, block] = /^(?:property "(.*)" of )?(?:AcDb\w+|object) ([0-9A-F]+)( in block .*)?$/
-                .exec(loss.what) || [];
-            if (block !== undefined) {
-                told.inBlock.add(handle);
-            } else if (tag !== undefined) {
-                told.properties.add(tag);
-            } else if (handle !== undefined) {
-                told.objects.add(handle);
-            } else if (loss.what.startsWith('custom ') || loss.what.startsWith('changes of ')) {
-                told.whole = true;
-            }
+            this.add(this.byAction.get(key), note.what, note.reason);
+        }
+    }
+
+    add(told, what, reason) {
+        const [, tag, handle, block] = /^(?:property "(.*)" of |added |changes of )?(?:AcDb\w+|object) ([0-9A-F]+)( in block .*)?$/
+            .exec(what) || [];
+        if (block !== undefined) {
+            told.inBlock.add(handle);
+        } else if (tag !== undefined) {
+            const [, number] = / gives (-?\d+(?:\.\d+)?)$/.exec(reason) || [];
+            told.properties.set(tag, number === undefined ? anything : Number(number));
+        } else if (handle !== undefined) {
+            told.objects.add(handle);
+        } else if (what.startsWith('custom ')) {
+            told.whole = true;
         }
     }
 
@@ -126,10 +112,11 @@ class Expected {
 }
 
 class Recorded {
-    constructor(lines, places, calls, told) {
+    constructor(lines, places, calls, told, assumed) {
         this.places = places;
         this.calls = calls;
         this.told = told;
+        this.assumed = assumed;
         const records = lines.filter(line => line && line.object).map(line => line.object);
         this.drawing = new Map(records.map(one => [one.handle, one]));
         // A leader brings its note with it.
@@ -138,7 +125,10 @@ class Recorded {
         const header = lines.find(line => line && line.recording);
         const sheet = header && header.recording.sheet || {name: '', model: true};
         this.space = sheet.model === false ? sheet.name || '' : '';
-        this.pattern = null; // of the next hatch; empty when that is not inserted
+        // What an action told of the next object of a class, nothing of a hatch that is not inserted; and the objects of
+        // which one has told.
+        this.toldBefore = new Map();
+        this.informed = new Set();
         this.objects = []; // Expected, inserted ones in their order
         this.records = []; // Expected that are found by their names
         this.byHandle = new Map();
@@ -185,59 +175,102 @@ class Recorded {
     added(record, action) {
         const {handle} = record;
         const told = this.told.of(action.key);
+        const row = this.places.records.get(record.class);
+        const made = this.places.interfaces.get(record.class);
         if (this.leaders.has(handle) || told.objects.has(handle)) {
             return;
         }
-        const kept = Object.assign({}, record, {properties: record.properties.filter(one =>
-            !told.properties.has(one.tag))});
-        const row = this.places.records.get(record.class);
-        const made = this.places.interfaces.get(record.class);
         if (row) {
             const named = record.properties.find(one => one.tag === row.tag);
-            this.named(row.made, this.value(named ? named.value : this.nameOf(handle)), handle, record.class, action);
-            this.addDrawn(record, action);
-            this.modified(kept, action);
-        } else if (record.class === 'AcDbHatch' && this.pattern && !this.pattern.length) {
-            this.pattern = null;
-        } else if (made) {
-            this.inserted(new Expected(handle, record.class, made, action));
-            this.addDrawn(record, action);
-            this.modified(kept, action);
-            this.align(this.byHandle.get(handle));
+            const one = this.named(row.made, this.value(named ? named.value : this.nameOf(handle)), handle, record.class,
+                action);
+            this.holdDrawn(one, this.drawing.get(handle) || {});
+            this.setAll(record, action, true);
+            return;
         }
-    }
-
-    inserted(one) {
-        one.space = this.space;
-        this.objects.push(one);
-        this.byHandle.set(one.handle, one);
+        const before = this.toldBefore.get(record.class);
+        this.toldBefore.delete(record.class);
+        if (made && !(before && !before.length)) {
+            const one = new Expected(handle, record.class, made, action);
+            one.space = made === 'Viewport' ? null : this.space; // that is told with its corners
+            this.objects.push(one);
+            this.byHandle.set(handle, one);
+            this.holdDrawn(one, this.drawing.get(handle) || {});
+            if (before) {
+                before.forEach(part => one.hold(...part));
+                this.informed.add(one);
+            }
+            this.setAll(record, action, true);
+            this.holdAssumed(one, record);
+            this.align(one);
+        }
     }
 
     // What the drawing tells of an added object beside its record.
-    addDrawn({handle}, action) {
-        const one = this.byHandle.get(handle);
-        const drawn = this.drawing.get(handle) || {};
-        for (const [note, leader] of this.leaders) {
-            for (const [field, place] of leader === handle ? Object.entries(annotationFields) : []) {
-                const value = this.drawing.get(note)[field];
-                if (value !== undefined) {
-                    one.hold('NoteAnnotation.' + place + '()', 0, value, 'note', action);
-                }
+    holdDrawn(one, drawn) {
+        const {action, handle} = one;
+        const hold = (question, index, value, tag) => one.hold(question, index, value, tag, action);
+        for (const [key, value] of Object.entries(drawn)) {
+            const row = this.places.row(one.cls, '.' + key, true);
+            if (row) {
+                hold(row.name + '()', 0, value, key);
             }
         }
-        if (one.cls === 'AcDbHatch') {
-            (this.pattern || []).forEach(part => one.hold(...part));
-            this.pattern = null;
+        const block = this.drawing.get(drawn.blockTableRecord) || {};
+        if (block.isFromExternalReference) {
+            hold('Path()', 0, block.pathName || '', 'pathName');
         }
+        if (this.drawing.has(drawn.annotationObjectId)) {
+            this.annotate(this.drawing.get(drawn.annotationObjectId), (name, value, tag) => hold(name + '()', 0, value, tag));
+        }
+        let corner = 0;
+        (drawn.faces || []).forEach((face, number) => {
+            const corners = face.filter(vertex => vertex);
+            hold('FaceCount(' + number + ')', 0, corners.length, 'faces');
+            corners.forEach(vertex => hold('Face(' + corner++ + ')', 0, vertex, 'faces'));
+            hold('Count()', 0, (drawn.vertices || []).length, 'vertices');
+        });
         if (one.cls === 'AcDbBlockTableRecord') {
-            (drawn.origin || [0, 0, 0]).forEach((value, axis) => one.hold('Position()', axis, value, 'origin', action));
+            (drawn.origin || [0, 0, 0]).forEach((value, axis) => hold('Position()', axis, value, 'origin'));
         }
         if (one.cls === 'AcDbMlineStyle' && drawn.elements && !this.told.of(action.key).properties.has('elements')) {
             linesOfStyle(handle, drawn.elements, style => this.nameOf(style)).forEach(call =>
                 this.operations.push(Object.assign({action: action}, call)));
         }
-        if (drawn.thickness !== undefined) {
-            one.hold('Thickness()', 0, drawn.thickness, 'Thickness', action);
+    }
+
+    // What stands at the end of a leader.
+    annotate(annotation, hold) {
+        if (annotation.class === 'AcDbFcf') {
+            hold('ToleranceAnnotation', annotation.text || '', 'text');
+        } else if (annotation.class === 'AcDbBlockReference') {
+            hold('BlockAnnotation', this.nameOf(annotation.blockTableRecord), 'blockTableRecord');
+        } else if (annotation.class === 'AcDbMText') {
+            const {textHeight = 0, lineSpacingFactor = 1, attachment = 1, backgroundScaleFactor = anything} = annotation;
+            const note = {TextHeight: textHeight, LineSpaceFactor: lineSpacingFactor,
+                LineSpaceDistance: textHeight * lineSpacingFactor * 5 / 3, Justify: attachments[attachment - 1],
+                Width: annotation.width || 0, Rotation: annotation.rotation || 0,
+                BackgroundMask: annotation.backgroundFillOn || false,
+                UseDrawingBackgroundColor: annotation.useBackgroundColorOn || false,
+                BackgroundBorderOffsetFactor: backgroundScaleFactor};
+            if ('backgroundFillColor' in annotation) {
+                note.BackgroundFillColor = {color: annotation.backgroundFillColor};
+            }
+            if ('textStyle' in annotation) {
+                note.TextStyle = this.nameOf(annotation.textStyle);
+            }
+            Object.entries(note).forEach(([name, value]) => hold('NoteAnnotation.' + name, value, name));
+        }
+    }
+
+    // Values in place of those that are not recorded.
+    holdAssumed(one, record) {
+        const recorded = new Set(record.properties.map(property => property.tag));
+        for (const [tag, value] of this.assumed.of(one.action.key).properties) {
+            const row = recorded.has(tag) || value === 0 ? null : this.places.row(one.cls, tag, true);
+            if (row && row.name !== '-' && !row.points && !one.holds(questionOf(row.name, ''), row.index)) {
+                one.hold(questionOf(row.name, ''), row.index, value, tag, one.action);
+            }
         }
     }
 
@@ -260,80 +293,121 @@ class Recorded {
     }
 
     modified(record, action) {
-        const told = this.told.of(action.key);
-        if (told.whole) {
-            return;
-        }
         const row = this.places.records.get(record.class);
         const sheet = record.properties.find(one => one.tag === 'SheetName_PrintStyleTable');
         const name = sheet ? sheet.value : this.nameOf(record.handle);
         if (row && !this.byHandle.has(record.handle) && name) {
             this.found(row.made, name, record.handle, record.class, action);
         }
-        // Of two records of one property the first counts.
-        const seen = new Set();
-        for (const one of record.properties) {
-            if (!seen.has(one.tag) && !told.properties.has(one.tag)) {
-                this.set(record.handle, one, action);
-            }
-            seen.add(one.tag);
-        }
+        this.setAll(record, action, false);
     }
 
     property(record, action) {
+        this.setAll({class: record.class, handle: record.handle, properties: [record]}, action, false);
+    }
+
+    // Of two records of one property the first counts.
+    setAll(record, action, isAdded) {
         const told = this.told.of(action.key);
-        if (!told.whole && !told.properties.has(record.tag)) {
-            this.set(record.handle, record, action);
+        const assumed = this.assumed.of(action.key);
+        if (told.whole || told.objects.has(record.handle)) {
+            return;
+        }
+        const firsts = new Map();
+        record.properties.forEach(one => {
+            if (!firsts.has(one.tag)) {
+                firsts.set(one.tag, one);
+            }
+        });
+        const rank = one => this.places.rank(record.class, one.tag);
+        for (const one of [...firsts.values()].sort((a, b) => rank(a) - rank(b))) {
+            if (!told.properties.has(one.tag)) {
+                this.set(record.handle, one, action, isAdded, assumed.properties.get(one.tag));
+            }
         }
     }
 
-    set(handle, record, action) {
-        const {tag, index} = record;
-        const leader = tag === 'Layer' ? this.leaders.get(handle) : undefined;
+    set(handle, record, action, isAdded, assumed) {
+        const {tag} = record;
+        const leader = this.leaders.get(handle);
         const one = this.byHandle.get(leader || handle);
-        if (!one) {
+        if (!one || String(record.group || '').toLowerCase() === 'blockattributes') {
             return;
         }
-        const row = this.places.row(one.cls, leader ? 'NoteLayer' : tag);
+        const cls = leader ? 'AcDbMText' : one.cls;
+        const row = this.places.row(cls, tag, isAdded);
+        if (cls === 'AcDbMText' && tag === 'Justify' && !isAdded) {
+            // Its point goes elsewhere.
+            [0, 1, 2].forEach(axis => one.hold('Position()', axis, anything, tag, action));
+        }
         if (!row) {
-            this.strange.push({cls: one.cls, tag: tag, action: action});
+            this.strange.push({cls: cls, tag: tag, action: action});
         } else if (row.name === 'Objects') {
             this.setObjects(one, record.value, action);
         } else if (row.points) {
             this.setPoints(one, row, record.value, tag, action);
-        } else if (row.name !== '-' && (tag !== 'Erased' && tag !== 'ActivateLayer' || isYes(record.value))) {
-            this.setValue(one, row, record.value, index, tag, action);
+        } else if (row.name !== '-' && (tag !== 'Erased' && tag !== 'ActivateLayer'
+            || String(record.value).toLowerCase() === 'yes')) {
+            const prefix = leader ? 'NoteAnnotation.' : '';
+            this.setValue(one, Object.assign({}, row, {name: prefix + row.name}), record, action, assumed);
         }
     }
 
-    setValue(one, row, recorded, index, tag, action) {
+    // `assumed` is what the macro has in place of the value, undefined where it has the value.
+    setValue(one, row, record, action, assumed) {
         let {name} = row;
+        const {tag, value: recorded} = record;
+        const index = typeof record.index === 'number' ? {int: Math.trunc(record.index)} : record.index || null;
+        const hold = (question, at, value) => one.hold(question, at, value, tag, action);
         let value = this.value(recorded);
-        const word = row.words.indexOf('is');
-        if (word >= 0) {
-            value = isYes(value) ? row.words[word + 1] : null;
+        if (row.is) {
+            value = isYes(value) ? row.is : null;
         }
-        if (row.words.includes('affixes') && typeof value === 'string' && value.includes('<>')) {
-            const [before, ...behind] = value.split('<>');
-            one.hold(name.replace('Prefix', 'Suffix') + '()', 0, behind.join('<>'), tag, action);
-            value = before;
+        if (row.other !== null && value !== null && value !== undefined) {
+            hold(name + '()', row.index === 1 ? 0 : 1, /^\d+$/.test(row.other) ? Number(row.other) : row.other);
         }
-        const number = index && typeof index === 'object' ? index.int : undefined;
-        const isBeyond = number !== undefined && !(number >= 0 && number < (name.includes('#') ? 4 : Infinity));
-        if (value === null || value === undefined || isBeyond || row.words.includes('affix') && value === '<>') {
+        if (row.words.includes('mark') && typeof value === 'number') {
+            // A number tells the kind of a center mark by its sign and its size besides.
+            hold(name + '()', 1, Math.abs(value));
+            value = new Choice(value > 0 ? 2 : value < 0 ? 1 : 0, '');
+        }
+        if (row.words.includes('affix') || row.words.includes('affixes')) {
+            value = this.affix(value, row.words.includes('affixes'), behind =>
+                hold(name.replace('Prefix', 'Suffix') + '()', 0, behind));
+        }
+        const number = index ? index.int : undefined;
+        if (value === null || value === undefined
+            || number !== undefined && !(number >= 0 && number < (name.includes('#') ? 4 : Infinity))) {
             return;
         }
-        for (const measure of row.words.filter(one => one in measures)) {
-            value = measures[measure](value);
+        for (const measure of row.words.filter(word => word in measures)) {
+            value = measures[measure](numberOf(value));
         }
         if (name === 'Transparency' && recorded !== null && typeof recorded === 'object' && recorded.transparency) {
             name += ['.ByLayer', '.ByBlock', '.ByAlpha'][recorded.transparency.method];
         }
         let which = number === undefined ? '' : String(number);
-        if (index && typeof index === 'object' && index.element) {
-            which = index.element.tag.int + ',' + index.element.value.int;
+        if (row.words.includes('cell') || row.words.includes('line')) {
+            which = cellOf(index || {}, row.words.includes('line'));
         }
-        one.hold(questionOf(name, which), row.index, value, tag, action);
+        if (name.endsWith('Arrow') && value instanceof Choice && value.number === customArrow && one.cls !== 'AcDbLeader') {
+            hold(name + '()', 1, value.text);
+        }
+        hold(questionOf(name, which), row.index, assumed === undefined ? value : assumed);
+    }
+
+    // A text in front of the measure, and where the property has `both` what is behind it. No other value is one.
+    affix(value, both, holdBehind) {
+        const text = value instanceof Choice ? value.text : value;
+        if (typeof text !== 'string' || text === '' || text === '<>') {
+            return null;
+        }
+        const at = both ? text.indexOf('<>') : -1;
+        if (at < 0) {
+            return text;
+        }
+        holdBehind(text.slice(at + 2));
+        return text.slice(0, at);
     }
 
     setObjects(one, recorded, action) {
@@ -353,8 +427,10 @@ class Recorded {
         if (recorded.point) {
             holdPoint(row.name + '()', recorded.point);
         }
-        (recorded.collection ? recorded.collection.elements : []).forEach((element, number) =>
-            holdPoint(questionOf(row.name, String(number)), element.value && element.value.point || []));
+        (recorded.collection ? recorded.collection.elements : []).forEach((element, number) => {
+            const {point = []} = element.value !== null && typeof element.value === 'object' ? element.value : {};
+            holdPoint(questionOf(row.name, String(number)), point);
+        });
     }
 
     value(recorded) {
@@ -365,14 +441,14 @@ class Recorded {
         switch (form) {
         case 'id': return this.nameOf(held) || undefined;
         case 'int': return new Choice(held, '');
-        case 'transparency': return [true, true, Math.round((255 - held.alpha) / 2.55)][held.method];
+        case 'transparency': return [true, true, (255 - held.alpha) / 2.55][held.method];
         case 'element': {
             const number = held.tag !== null && typeof held.tag === 'object' ? held.tag.int : undefined;
             return new Choice(number, this.value(held.value));
         }
         case 'collection': {
             const chosen = held.elements[held.chosen || 0];
-            return chosen ? this.value({element: chosen}) : undefined;
+            return chosen ? this.value({element: chosen}) : new Choice(held.chosen || 0, '');
         }
         case 'color': return {color: held};
         }
@@ -383,7 +459,9 @@ class Recorded {
         const {kind, data} = record;
         const told = this.told.of(action.key);
         if (told.whole) {
-            this.pattern = kind === kinds.hatch ? [] : this.pattern;
+            if (kind === kinds.hatch) {
+                this.tell('AcDbHatch', []);
+            }
             return;
         }
         for (const call of this.calls.of(record)) {
@@ -398,14 +476,21 @@ class Recorded {
         case kinds.pen: this.draw(values, action); break;
         case kinds.hatch: this.hatch(values, action); break;
         case kinds.erase: this.erase(values[0], action); break;
+        case kinds.embed: this.tell('AcDbOle2Frame', [['Path()', 0, values[1], 'file', action],
+            ['Flags()', 0, (values[0] & 1) !== 0, 'flags', action], ['Flags()', 1, (values[0] & 2) !== 0, 'flags', action]]);
+            break;
+        case kinds.viewport: this.tell('AcDbViewport', [].concat(...values[0].map((corner, number) => corner.map(
+            (value, axis) => ['VertexCoordinate(' + number + ')', axis, value, 'corner', action]))).concat(
+                [['Sheet()', 0, values[5], 'sheet', action]])); break;
+        case kinds.activate: this.hold(values[0][0], 'Active()', true, 'Active', action); break;
         case kinds.trim: this.trim(values[5], values[6]); break;
         case kinds.sheet: this.sheet(values, action); break;
         case kinds.viewBackground: this.viewBackground(values, action); break;
         case kinds.namedView: this.namedView(values, action); break;
         case kinds.attribute: this.hold(values[0], 'Attribute ' + values[2] + '.Value()', values[3], values[2], action); break;
         case kinds.printStyle: this.printStyle(values, action); break;
-        case 40: this.reshape(values[1] instanceof Array ? values[1][0] : values[1], values, action); break;
-        case 42: this.reshape(values[0], values, action); break;
+        case kinds.edit: this.reshape(values[1] instanceof Array ? values[1][0] : values[1], values, action); break;
+        case kinds.vertex: this.reshape(values[0], values, action); break;
         }
     }
 
@@ -426,7 +511,7 @@ class Recorded {
         }
         one.hold('Closed()', 0, closed, 'closed', action);
         bulges.forEach(([bulge], i) => {
-            if (Math.abs(bulge) > vertexStates) {
+            if (Math.abs(bulge) > nearZero) {
                 one.hold('SegmentAngle(' + i + ')', 0, 4 * Math.atan(bulge), 'bulge', action);
             }
         });
@@ -437,7 +522,6 @@ class Recorded {
         }
     }
 
-    // Stands in front of its hatch, or behind it.
     hatch([name, scale, angle, byPoints, byEntities, byBulges, hasGradient, ...rest], action) {
         const pattern = [['PatternName()', 0, name, 'pattern', action], ['PatternScale()', 0, scale, 'scale', action],
             ['PatternAngle()', 0, angle, 'angle', action]];
@@ -445,12 +529,17 @@ class Recorded {
             rest.slice(-4).forEach((one, index) => pattern.push(['HatchPattern.GradientData()', index,
                 index < 2 ? {color: one} : one, 'gradient', action]));
         }
-        const hasBoundary = byPoints || byEntities || byBulges || rest[0] && rest[0].length;
-        this.pattern = hasBoundary ? pattern : [];
+        this.tell('AcDbHatch', byPoints || byEntities || byBulges || rest[0] && rest[0].length ? pattern : []);
+    }
+
+    // What an action tells of the object in front of it or behind it.
+    tell(cls, parts) {
         const last = this.objects[this.objects.length - 1];
-        if (last && last.cls === 'AcDbHatch' && !last.holds('PatternName()', 0)) {
-            this.pattern.forEach(part => last.hold(...part));
-            this.pattern = null;
+        if (last && last.cls === cls && !this.informed.has(last)) {
+            parts.forEach(part => last.hold(...part));
+            this.informed.add(last);
+        } else {
+            this.toldBefore.set(cls, parts);
         }
     }
 
@@ -521,7 +610,7 @@ class Recorded {
         if (name.toLowerCase() !== 'current') {
             view.hold('Class()', 0, cls, 'category', action);
         }
-        if ([...first, ...opposite].some(value => Math.abs(value) > vertexStates)) {
+        if ([...first, ...opposite].some(value => Math.abs(value) > nearZero)) {
             [...first, ...opposite].forEach((value, index) => view.hold('Window()', index, value, 'window', action));
         }
     }
@@ -549,6 +638,14 @@ class Recorded {
             one.isReshaped = true;
         }
     }
+}
+
+// The cells that a table style's property is of, by their number, with that of their border. Without numbers these are
+// the title and the border above.
+function cellOf(index, withLine) {
+    const {tag, value} = index.element || {tag: index, value: {}};
+    const numbers = [tag, value].map(part => part && part.int !== undefined ? part.int : 1);
+    return numbers.slice(0, withLine ? 2 : 1).join(',');
 }
 
 // What is asked of an object for the value, `which` telling which of several.
