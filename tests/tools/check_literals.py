@@ -13,18 +13,25 @@ import drawing
 import harness
 
 NUMBER = re.compile(r"(?<=[ (])-?\d+\.\d{14}(?=[,)])")
+# Not of texts, which are put to their places once more.
+INSERTION = re.compile(r"\.Insert(?!SimpleNote|\w+Data)")
 MOST = 12  # of one page
 
 
 def changed(macro, folder):
-    """Pages with another number in one of the lines that insert objects, each with the handles of that line."""
+    """Pages with another number in a line that inserts an object, each with the handles of that line. What is drawn for
+    the object stands in front of it; objects that are changed later may get the number then."""
     lines = macro.file.read_text(encoding="utf-8").split("\n")
-    ranges = [one for one in json.loads(macro.map.read_text(encoding="utf-8"))["ranges"] if one["kind"] == "insertion"]
-    places = [(number, one["handles"]) for one in ranges for number in range(one["lines"][0] - 1, one["lines"][1])
-              if ".Insert" in lines[number] and NUMBER.search(lines[number])]
+    ranges = json.loads(macro.map.read_text(encoding="utf-8"))["ranges"]
+    later = {handle for one in ranges if one["kind"] != "insertion" for handle in one.get("handles", [])}
+    places = []
+    for one in ranges:
+        inserting = [number for number in range(one["lines"][0] - 1, one["lines"][1]) if INSERTION.search(lines[number])]
+        if one["kind"] == "insertion" and inserting and not later & set(one["handles"]):
+            places += [(inserting[-1], one["handles"])] * bool(NUMBER.search(lines[inserting[-1]]))
     for number, handles in places[::len(places) // MOST + 1]:
-        *_, last = NUMBER.finditer(lines[number])
-        line = f"{lines[number][:last.start()]}{float(last[0]) + 1.5:.14f}{lines[number][last.end():]}"
+        first = NUMBER.search(lines[number])
+        line = f"{lines[number][:first.start()]}{float(first[0]) + 1.5:.14f}{lines[number][first.end():]}"
         file = folder / f"{macro.name}_{number + 1}.html"
         file.write_text("\n".join([*lines[:number], line, *lines[number + 1:]]), encoding="utf-8")
         yield dataclasses.replace(macro, name=file.stem, file=file, written=macro.file), handles

@@ -225,7 +225,13 @@ class Comparison {
             if (isReferenced && referenced.includes(question)) {
                 continue;
             }
-            const seen = heldOf(thing, question, index);
+            const [, part, of] = /^(Line[12]|Curve)\.(.*)/.exec(question) || [];
+            const measured = part ? heldOf(thing, part + '()', 0) : null;
+            // What a dimension measures may be there already.
+            if (measured && (this.matched.has(measured) || measured.handle)) {
+                continue;
+            }
+            const seen = measured ? heldOf(measured, of, index) : heldOf(thing, question, index);
             const isRight = seen === undefined
                 ? isNothing(value) || value === anything || this.isDefault(cls, question, value) || this.places.optional.has(cls + ' ' + question)
                 : value !== null && value !== undefined && value.handle ? this.isHanded(seen, value)

@@ -230,6 +230,12 @@ class Recorded {
             corners.forEach(vertex => hold('Face(' + corner++ + ')', 0, vertex, 'faces'));
             hold('Count()', 0, (drawn.vertices || []).length, 'vertices');
         });
+        if (/Diametric|Radial/.test(one.cls) && drawn.chordPoint) {
+            const {chordPoint, farChordPoint} = drawn;
+            const center = farChordPoint ? chordPoint.map((value, axis) => (value + farChordPoint[axis]) / 2) : drawn.center;
+            (center || []).forEach((value, axis) => hold('Curve.Center()', axis, value, 'center'));
+            hold('Curve.Radius()', 0, Math.hypot(...chordPoint.map((value, axis) => value - center[axis])), 'radius');
+        }
         if (one.cls === 'AcDbBlockTableRecord') {
             (drawn.origin || [0, 0, 0]).forEach((value, axis) => hold('Position()', axis, value, 'origin'));
         }
