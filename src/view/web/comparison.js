@@ -118,9 +118,14 @@ class Comparison {
     // By the handles of the lines that make them. What is added to be part of a block is drawn where the block is, in the
     // same command.
     matchInserted() {
-        const range = thing => thing.call.line && this.origins.rangeAt(this.writtenLine(thing.call.line)) || {};
-        this.matchBy(expected => [expected.handle], thing => range(thing).handles || []);
-        this.matchBy(expected => [expected.action.line], thing => [range(thing).line]);
+        this.matchBy(expected => [expected.handle], thing => this.rangeOf(thing).handles);
+        this.matchBy(expected => [expected.action.line], thing => [this.rangeOf(thing).line]);
+    }
+
+    // The lines of the written macro that make a thing.
+    rangeOf(thing) {
+        const {line} = thing.call;
+        return Object.assign({handles: []}, line ? this.origins.rangeAt(this.writtenLine(line)) : null);
     }
 
     // What has a key in common, and is of the same class, in its order.
@@ -305,6 +310,9 @@ class Comparison {
         if (wanted !== null && typeof wanted === 'object' && wanted.handle) {
             const expected = value instanceof Thing ? this.matched.get(value) : null;
             const leader = this.recorded.leaders.get(wanted.handle);
+            if (value instanceof Thing && value.call && !this.madeClasses.has(value.cls)) {
+                return this.rangeOf(value).handles.includes(wanted.handle);
+            }
             return expected ? [wanted.handle, leader].includes(expected.handle) : value instanceof Thing
                 && ([wanted.handle, leader].includes(value.handle) || !value.handle && this.isDrawnOf(value, wanted.handle));
         }

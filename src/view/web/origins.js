@@ -114,12 +114,6 @@ class Origins {
         return range ? actionKey(range.line, range.path) : '';
     }
 
-    // The handles that the action of a line has.
-    handlesAt(line) {
-        const range = this.rangeAt(line);
-        return range && range.handles || [];
-    }
-
     // The first and last line that do an action, or null. An insertion counts ahead of its declaration.
     linesOf(key) {
         const ranges = this.byAction.get(key) || [];

@@ -180,7 +180,7 @@ class Recorded {
         if (this.leaders.has(handle) || told.objects.has(handle)) {
             return;
         }
-        if (row) {
+        if (row && row.tag !== '-') {
             const named = record.properties.find(one => one.tag === row.tag);
             const one = this.named(row.made, this.value(named ? named.value : this.nameOf(handle)), handle, record.class,
                 action);
@@ -300,12 +300,27 @@ class Recorded {
 
     modified(record, action) {
         const row = this.places.records.get(record.class);
-        const sheet = record.properties.find(one => one.tag === 'SheetName_PrintStyleTable');
-        const name = sheet ? sheet.value : this.nameOf(record.handle);
+        const name = this.nameOf(record.handle);
+        if (record.class === 'AcDbLayout') {
+            this.layout(record, action);
+            return;
+        }
         if (row && !this.byHandle.has(record.handle) && name) {
             this.found(row.made, name, record.handle, record.class, action);
         }
         this.setAll(record, action, false);
+    }
+
+    // Of a layout the recording tells the name of its sheet. What is told of the model is of no object.
+    layout(record, action) {
+        const valueOf = tag => (record.properties.find(one => one.tag === tag) || {value: ''}).value;
+        const name = valueOf('SheetName_PrintStyleTable') || this.nameOf(record.handle);
+        if (name && String(valueOf('Model_PrintStyleTable')).toLowerCase() !== 'yes') {
+            const sheet = this.recordOf('Sheet', name, action);
+            sheet.cls = record.class;
+            this.byHandle.set(record.handle, sheet);
+            this.setAll(record, action, false);
+        }
     }
 
     property(record, action) {
@@ -605,12 +620,12 @@ class Recorded {
 
     // A list of the dialog may hand over one of its choices where a view's name is meant.
     namedView([handle, , mayRename, onSheet, old, name, cls, first, opposite], action) {
-        const view = onSheet ? this.records.find(one => one.made === 'SheetNamedView'
-            && [old, name].includes(one.value('Name()', 0))) : this.byHandle.get(handle);
+        const renames = mayRename && !['', '<None>', 'Solid...', 'Gradient...', 'Image...'].includes(old);
+        const view = onSheet ? this.recordOf('SheetNamedView', renames ? old : name, action) : this.byHandle.get(handle);
         if (!view) {
             return;
         }
-        if (mayRename && !['', '<None>', 'Solid...', 'Gradient...', 'Image...'].includes(old)) {
+        if (renames) {
             view.hold('Name()', 0, name, 'Name', action);
         }
         if (name.toLowerCase() !== 'current') {
