@@ -22,7 +22,7 @@ const toldElsewhere = new RegExp('^(?:ClipBoundary|Active|RadialDiameterDimensio
 // Of a block that another drawing holds.
 const referenced = ['Name()', 'Rotation()'];
 // An action makes them, also without a record.
-const unrecordedClasses = ['Viewport', 'EmbeddedObject'];
+const unrecordedClasses = ['Viewport', 'EmbeddedObject', 'Hatch'];
 
 // Center and long axis from both ends of the axis, in the plane.
 function deriveEllipse(held) {

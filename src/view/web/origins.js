@@ -114,6 +114,11 @@ class Origins {
         return range ? actionKey(range.line, range.path) : '';
     }
 
+    // The handles that the lines of an action have.
+    handlesOf(key) {
+        return [].concat(...(this.byAction.get(key) || []).map(range => range.handles || []));
+    }
+
     // The first and last line that do an action, or null. An insertion counts ahead of its declaration.
     linesOf(key) {
         const ranges = this.byAction.get(key) || [];

@@ -18,7 +18,7 @@ const nearZero = 1e-10; // a smaller bulge is straight
 
 // Recorded of a block without a name: the host numbers it when it is made.
 function withoutNumber(name) {
-    return name.replace(/^\*U\d+$/, '*U');
+    return typeof name === 'string' ? name.replace(/^\*U\d+$/, '*U') : '';
 }
 
 // The actions of a recording in their order, each with its line (from 1) and its path, as reports name them; `key` is
@@ -51,16 +51,17 @@ function noneTold() {
 class Told {
     constructor(notes) {
         this.byAction = new Map();
+        this.lostOnLine = new Set(); // the line and the handle of each object
         for (const note of notes) {
             const key = actionKey(note.line, note.path);
             if (!this.byAction.has(key)) {
                 this.byAction.set(key, noneTold());
             }
-            this.add(this.byAction.get(key), note.what, note.reason);
+            this.add(this.byAction.get(key), note);
         }
     }
 
-    add(told, what, reason) {
+    add(told, {line, what, reason}) {
         const [, tag, handle, block] = /^(?:property "(.*)" of |added |changes of )?(?:AcDb\w+|object) ([0-9A-F]+)( in block .*)?$/
             .exec(what) || [];
         if (block !== undefined) {
@@ -70,6 +71,7 @@ class Told {
             told.properties.set(tag, number === undefined ? anything : Number(number));
         } else if (handle !== undefined) {
             told.objects.add(handle);
+            this.lostOnLine.add(line + ' ' + handle);
         } else if (what.startsWith('custom ')) {
             told.whole = true;
         }
@@ -112,7 +114,8 @@ class Expected {
 }
 
 class Recorded {
-    constructor(lines, places, calls, told, assumed) {
+    constructor(lines, places, calls, told, assumed, origins) {
+        this.origins = origins;
         this.places = places;
         this.calls = calls;
         this.told = told;
@@ -125,10 +128,9 @@ class Recorded {
         const header = lines.find(line => line && line.recording);
         const sheet = header && header.recording.sheet || {name: '', model: true};
         this.space = sheet.model === false ? sheet.name || '' : '';
-        // What an action told of the next object of a class, nothing of a hatch that is not inserted; and the objects of
-        // which one has told.
-        this.toldBefore = new Map();
-        this.informed = new Set();
+        // What an action tells of the object that it makes, which another one adds: by class and handle.
+        this.makers = new Map();
+        this.hatchless = new Set(); // lines whose action makes no hatch
         this.objects = []; // Expected, inserted ones in their order
         this.records = []; // Expected that are found by their names
         this.byHandle = new Map();
@@ -150,7 +152,7 @@ class Recorded {
     named(made, name, handle, cls, action) {
         const one = new Expected(handle, cls, made, action);
         one.name = withoutNumber(name);
-        if (name) {
+        if (one.name) {
             one.hold('Name()', 0, one.name, 'Name', action);
         }
         this.records.push(one);
@@ -174,10 +176,9 @@ class Recorded {
 
     added(record, action) {
         const {handle} = record;
-        const told = this.told.of(action.key);
         const row = this.places.records.get(record.class);
         const made = this.places.interfaces.get(record.class);
-        if (this.leaders.has(handle) || told.objects.has(handle)) {
+        if (this.leaders.has(handle) || this.told.lostOnLine.has(action.line + ' ' + handle)) {
             return;
         }
         if (row && row.tag !== '-') {
@@ -188,18 +189,13 @@ class Recorded {
             this.setAll(record, action, true);
             return;
         }
-        const before = this.toldBefore.get(record.class);
-        this.toldBefore.delete(record.class);
-        if (made && !(before && !before.length)) {
+        if (made && !(record.class === 'AcDbHatch' && this.hatchless.has(action.line))) {
             const one = new Expected(handle, record.class, made, action);
             one.space = made === 'Viewport' ? null : this.space; // that is told with its corners
             this.objects.push(one);
             this.byHandle.set(handle, one);
             this.holdDrawn(one, this.drawing.get(handle) || {});
-            if (before) {
-                before.forEach(part => one.hold(...part));
-                this.informed.add(one);
-            }
+            (this.makers.get(record.class + ' ' + handle) || []).forEach(part => one.hold(...part));
             this.setAll(record, action, true);
             this.holdAssumed(one, record);
             this.align(one);
@@ -342,10 +338,16 @@ class Recorded {
         });
         const rank = one => this.places.rank(record.class, one.tag);
         for (const one of [...firsts.values()].sort((a, b) => rank(a) - rank(b))) {
-            if (!told.properties.has(one.tag)) {
+            if (!told.properties.has(one.tag) && this.isOf(record)) {
                 this.set(record.handle, one, action, isAdded, assumed.properties.get(one.tag));
             }
         }
+    }
+
+    // Behind a trim a handle may be of an object of another class.
+    isOf({handle, class: cls}) {
+        const one = this.byHandle.get(handle);
+        return this.leaders.has(handle) || !one || one.cls === cls;
     }
 
     set(handle, record, action, isAdded, assumed) {
@@ -481,7 +483,7 @@ class Recorded {
         const told = this.told.of(action.key);
         if (told.whole) {
             if (kind === kinds.hatch) {
-                this.tell('AcDbHatch', []);
+                this.hatchless.add(action.line);
             }
             return;
         }
@@ -497,10 +499,10 @@ class Recorded {
         case kinds.pen: this.draw(values, action); break;
         case kinds.hatch: this.hatch(values, action); break;
         case kinds.erase: this.erase(values[0], action); break;
-        case kinds.embed: this.tell('AcDbOle2Frame', [['Path()', 0, values[1], 'file', action],
+        case kinds.embed: this.tell('AcDbOle2Frame', action, [['Path()', 0, values[1], 'file', action],
             ['Flags()', 0, (values[0] & 1) !== 0, 'flags', action], ['Flags()', 1, (values[0] & 2) !== 0, 'flags', action]]);
             break;
-        case kinds.viewport: this.tell('AcDbViewport', [].concat(...values[0].map((corner, number) => corner.map(
+        case kinds.viewport: this.tell('AcDbViewport', action, [].concat(...values[0].map((corner, number) => corner.map(
             (value, axis) => ['VertexCoordinate(' + number + ')', axis, value, 'corner', action]))).concat(
                 [['Sheet()', 0, values[5], 'sheet', action]])); break;
         case kinds.activate: this.hold(values[0][0], 'Active()', true, 'Active', action); break;
@@ -543,24 +545,24 @@ class Recorded {
         }
     }
 
-    hatch([name, scale, angle, byPoints, byEntities, byBulges, hasGradient, ...rest], action) {
+    hatch([name, scale, angle, , , , hasGradient, ...rest], action) {
         const pattern = [['PatternName()', 0, name, 'pattern', action], ['PatternScale()', 0, scale, 'scale', action],
             ['PatternAngle()', 0, angle, 'angle', action]];
         if (hasGradient) {
             rest.slice(-4).forEach((one, index) => pattern.push(['HatchPattern.GradientData()', index,
                 index < 2 ? {color: one} : one, 'gradient', action]));
         }
-        this.tell('AcDbHatch', byPoints || byEntities || byBulges || rest[0] && rest[0].length ? pattern : []);
+        this.tell('AcDbHatch', action, pattern);
     }
 
-    // What an action tells of the object in front of it or behind it.
-    tell(cls, parts) {
-        const last = this.objects[this.objects.length - 1];
-        if (last && last.cls === cls && !this.informed.has(last)) {
-            parts.forEach(part => last.hold(...part));
-            this.informed.add(last);
-        } else {
-            this.toldBefore.set(cls, parts);
+    // Of the object that an action makes, which is added in front of it or behind it.
+    tell(cls, action, parts) {
+        for (const handle of this.origins.handlesOf(action.key)) {
+            const one = this.byHandle.get(handle);
+            this.makers.set(cls + ' ' + handle, parts);
+            if (one && one.cls === cls) {
+                parts.filter(([question, index]) => !one.holds(question, index)).forEach(part => one.hold(...part));
+            }
         }
     }
 
