@@ -79,11 +79,6 @@ function alignLines(written, edited) {
     return found;
 }
 
-// What reports and maps have in common of an action: its line, and its place within the command there.
-function actionKey(line, path) {
-    return line + ' ' + (/^command\.actions\[\d+\]/.exec(path || '') || [''])[0];
-}
-
 // The range of a map that each of its lines is in.
 class Origins {
     constructor(map) {
