@@ -4,42 +4,42 @@
 
 const nearZero = 1e-10; // a smaller bulge is straight
 
-function drawPolyline(recorded, [points, bulges, closed, handle, cls, starts, ends, hasOneWidth, width], action) {
-    const vertices = points.map(point => ({value: {point: point}}));
-    recorded.added({class: cls, handle: handle, properties: [{tag: 'Vertex', value: {collection: {elements: vertices}}}]},
+// A datum of another form counts as the neutral value of the form that is asked for, as it does to the application.
+function neutralOf(form) {
+    const neutral = {string: '', handle: '', class: '', bool: false, int: 0, double: 0, color: null, point: [0, 0, 0]};
+    return form in neutral ? neutral[form] : [];
+}
+
+function drawPolyline(recorded, at, action) {
+    const handle = at(3, 'handle');
+    const vertices = at(0, 'points').map(point => ({value: {point: point}}));
+    recorded.added({class: at(4, 'class'), handle: handle, properties: [{tag: 'Vertex', value: {collection: {elements: vertices}}}]},
         action);
     const one = recorded.byHandle.get(handle);
     if (!one || one.action !== action) {
         return;
     }
-    one.hold('Closed()', 0, closed, 'closed', action);
-    bulges.forEach(([bulge], i) => {
+    one.hold('Closed()', 0, at(2, 'bool'), 'closed', action);
+    at(1, 'points').forEach(([bulge], i) => {
         if (Math.abs(bulge) > nearZero) {
             one.hold('SegmentAngle(' + i + ')', 0, 4 * Math.atan(bulge), 'bulge', action);
         }
     });
-    starts.forEach((value, i) => one.hold('SegmentStartWidth(' + i + ')', 0, value, 'start width', action));
-    ends.forEach((value, i) => one.hold('SegmentEndWidth(' + i + ')', 0, value, 'end width', action));
-    if (hasOneWidth) {
-        one.hold('GlobalWidth()', 0, width, 'width', action);
+    at(5, 'doubles').forEach((value, i) => one.hold('SegmentStartWidth(' + i + ')', 0, value, 'start width', action));
+    at(6, 'doubles').forEach((value, i) => one.hold('SegmentEndWidth(' + i + ')', 0, value, 'end width', action));
+    if (at(7, 'bool')) {
+        one.hold('GlobalWidth()', 0, at(8, 'double'), 'width', action);
     }
 }
 
-// The datum where it has the form, else what the application takes in its place.
-function formed(data, number, form, neutral) {
-    return data[number] !== undefined && form in data[number] ? data[number][form] : neutral;
-}
-
-function fillHatch(recorded, values, action) {
-    const {data} = action.action.custom;
-    const pattern = [['PatternName()', 0, formed(data, 0, 'string', ''), 'pattern', action],
-        ['PatternScale()', 0, formed(data, 1, 'double', 0), 'scale', action],
-        ['PatternAngle()', 0, formed(data, 2, 'double', 0), 'angle', action]];
-    const [byPoints, byEntities, byBulges, hasGradient] = [3, 4, 5, 6].map(number => formed(data, number, 'bool', false));
+function fillHatch(recorded, at, action) {
+    const pattern = [['PatternName()', 0, at(0, 'string'), 'pattern', action],
+        ['PatternScale()', 0, at(1, 'double'), 'scale', action], ['PatternAngle()', 0, at(2, 'double'), 'angle', action]];
+    const [byPoints, byEntities, byBulges, hasGradient] = [3, 4, 5, 6].map(number => at(number, 'bool'));
     const first = byPoints ? 8 : byBulges && !byEntities ? 10 : 9;
     if (hasGradient) {
-        const gradient = [{color: formed(data, first, 'color', null)}, {color: formed(data, first + 1, 'color', null)},
-            formed(data, first + 2, 'bool', false), formed(data, first + 3, 'double', 0)];
+        const gradient = [{color: at(first, 'color')}, {color: at(first + 1, 'color')}, at(first + 2, 'bool'),
+            at(first + 3, 'double')];
         gradient.forEach((one, index) => pattern.push(['HatchPattern.GradientData()', index, one, 'gradient', action]));
     }
     tellMaker(recorded, 'AcDbHatch', action, pattern);
@@ -56,30 +56,31 @@ function tellMaker(recorded, cls, action, parts) {
     }
 }
 
-function embedObject(recorded, [flags, file], action) {
-    tellMaker(recorded, 'AcDbOle2Frame', action, [['Path()', 0, file, 'file', action],
+function embedObject(recorded, at, action) {
+    const flags = at(0, 'int');
+    tellMaker(recorded, 'AcDbOle2Frame', action, [['Path()', 0, at(1, 'string'), 'file', action],
         ['Flags()', 0, (flags & 1) !== 0, 'flags', action], ['Flags()', 1, (flags & 2) !== 0, 'flags', action]]);
 }
 
-function makeViewport(recorded, [corners, , , , , sheet], action) {
-    const parts = [['Sheet()', 0, sheet, 'sheet', action]];
-    corners.forEach((corner, number) => corner.forEach((value, axis) =>
+function makeViewport(recorded, at, action) {
+    const parts = [['Sheet()', 0, at(5, 'string'), 'sheet', action]];
+    at(0, 'points').forEach((corner, number) => corner.forEach((value, axis) =>
         parts.push(['VertexCoordinate(' + number + ')', axis, value, 'corner', action])));
     tellMaker(recorded, 'AcDbViewport', action, parts);
 }
 
-function eraseObjects(recorded, [handles], action) {
+function eraseObjects(recorded, at, action) {
     const told = recorded.told.of(action.key);
-    for (const handle of handles.filter(one => !told.objects.has(one))) {
+    for (const handle of at(0, 'handles').filter(one => !told.objects.has(one))) {
         const leader = recorded.leaders.get(handle);
         recorded.hold(leader || handle, leader ? 'NoteAnnotation.Erased()' : 'Erased()', true, 'Erased', action);
     }
 }
 
 // What a trim makes another class is another object from here on.
-function trimObjects(recorded, values) {
-    const [, , , , , handles, classes] = values;
-    (handles || []).forEach((handle, i) => {
+function trimObjects(recorded, at) {
+    const classes = at(6, 'classes');
+    at(5, 'handles').forEach((handle, i) => {
         const one = recorded.byHandle.get(handle);
         if (one && one.cls !== classes[i]) {
             recorded.byHandle.delete(handle);
@@ -87,10 +88,11 @@ function trimObjects(recorded, values) {
     });
 }
 
-function changeSheets(recorded, values, action) {
-    const [word, name, copy, third] = values;
-    const made = values.length === 4 ? third : word === 'New' ? name : word === 'Copy' ? copy || name : null;
-    if (values.length === 1) {
+function changeSheets(recorded, at, action) {
+    const [word, name, copy, third] = [0, 1, 2, 3].map(number => at(number, 'string'));
+    const count = action.action.custom.data.length;
+    const made = count === 4 ? third : word === 'New' ? name : word === 'Copy' ? copy || name : null;
+    if (count === 1) {
         recorded.space = word === 'Model' ? '' : word;
     } else if (made !== null) {
         recorded.recordOf('Sheet', made, action).isFound = false;
@@ -101,27 +103,39 @@ function changeSheets(recorded, values, action) {
     }
 }
 
-function makeView(recorded, [handle, cls, isNew, onSheet, sheet, name, kind, ...rest], action) {
-    const made = onSheet ? 'SheetNamedView' : 'ModelNamedView';
-    const view = isNew ? recorded.named(made, name, handle, cls, action) : recorded.byHandle.get(handle);
-    const colors = rest.filter(one => typeof one === 'object' || one === 'bylayer' || one === 'byblock')
-        .map(one => ({color: one}));
-    const backgrounds = {'Solid...': ['SolidBackground', ...colors.slice(0, 1)],
-        'Gradient...': ['GradientBackground', ...colors, 0, rest[4]], 'Image...': ['ImageBackground', ...rest.slice(3)]};
-    if (view && !onSheet) {
-        (backgrounds[kind] || []).forEach((value, index) => view.hold('Background()', index, value, 'background', action));
+// As the dialog shows the kinds of backgrounds; what else it hands over is its own.
+function backgroundOf(at) {
+    const color = number => ({color: at(number, 'color')});
+    const numbers = first => [0, 1, 2, 3].map(i => at(first + i, 'double'));
+    switch (at(6, 'string')) {
+    case 'Solid...': return ['SolidBackground', color(7)];
+    case 'Gradient...': return ['GradientBackground', color(8), color(9), color(10), 0, at(11, 'double')];
+    case 'Image...': return ['ImageBackground', at(10, 'string'), at(11, 'string'), ...numbers(12)];
     }
-    if (isNew && !onSheet && sheet !== '' && sheet !== 'Model') {
-        recorded.space = sheet;
-    } else if (isNew) {
-        recorded.space = '';
+    return [];
+}
+
+// Only views of the model have a background. The sheet that was active is active again behind a view of the model.
+function makeView(recorded, at, action) {
+    const [handle, name, sheet] = [at(0, 'handle'), at(5, 'string'), at(4, 'string')];
+    const [isNew, onSheet] = [at(2, 'bool'), at(3, 'bool')];
+    const view = isNew ? recorded.named(onSheet ? 'SheetNamedView' : 'ModelNamedView', name, handle, at(1, 'class'), action)
+        : recorded.byHandle.get(handle);
+    if (view && !onSheet) {
+        backgroundOf(at).forEach((value, index) => view.hold('Background()', index, value, 'background', action));
+    }
+    if (isNew) {
+        recorded.space = onSheet || sheet === 'Model' ? '' : sheet;
     }
 }
 
 // A list of the dialog may hand over one of its choices where a view's name is meant.
-function changeView(recorded, [handle, , mayRename, onSheet, old, name, cls, first, opposite], action) {
-    const renames = mayRename && !['', '<None>', 'Solid...', 'Gradient...', 'Image...'].includes(old);
-    const view = onSheet ? recorded.recordOf('SheetNamedView', renames ? old : name, action) : recorded.byHandle.get(handle);
+function changeView(recorded, at, action) {
+    const [old, name] = [at(4, 'string'), at(5, 'string')];
+    const window = [...at(7, 'point'), ...at(8, 'point')];
+    const renames = at(2, 'bool') && !['', '<None>', 'Solid...', 'Gradient...', 'Image...'].includes(old);
+    const view = at(3, 'bool') ? recorded.recordOf('SheetNamedView', renames ? old : name, action)
+        : recorded.byHandle.get(at(0, 'handle'));
     if (!view) {
         return;
     }
@@ -129,47 +143,51 @@ function changeView(recorded, [handle, , mayRename, onSheet, old, name, cls, fir
         view.hold('Name()', 0, name, 'Name', action);
     }
     if (name.toLowerCase() !== 'current') {
-        view.hold('Class()', 0, cls, 'category', action);
+        view.hold('Class()', 0, at(6, 'string'), 'category', action);
     }
-    if ([...first, ...opposite].some(value => Math.abs(value) > nearZero)) {
-        [...first, ...opposite].forEach((value, index) => view.hold('Window()', index, value, 'window', action));
+    if (window.some(value => Math.abs(value) > nearZero)) {
+        window.forEach((value, index) => view.hold('Window()', index, value, 'window', action));
     }
 }
 
-function setPrintStyle(recorded, [name, , sheet], action) {
+function setPrintStyle(recorded, at, action) {
+    const sheet = at(2, 'string');
     if (sheet !== 'Model' && sheet !== '') {
-        recorded.recordOf('Sheet', sheet, action).hold('PrintStyle()', 0, name, 'print style', action);
+        recorded.recordOf('Sheet', sheet, action).hold('PrintStyle()', 0, at(0, 'string'), 'print style', action);
     }
 }
 
 // Edits of a polyline: where its vertices are is known until it is reshaped.
-function editPolyline(recorded, values, action) {
-    const handle = typeof values[0] === 'string' && values[0].startsWith('_') ? listOf(values[1])[0] : values[0];
+function editPolyline(recorded, at, action) {
+    const {kind, data} = action.action.custom;
+    const word = kind === kinds.edit ? at(0, 'string') : '';
+    const [handle] = listOf(datumOf(data, kind === kinds.edit ? 1 : 0));
     const one = recorded.byHandle.get(handle);
-    const [word, , , number, place, end] = values;
-    if (!one) {
+    const number = at(3, 'int');
+    if (!one || word === '_JOIN') {
         return;
     }
     if (word === '_MOVE' || word === '_MOVE3D') {
-        place.slice(0, word === '_MOVE' ? 2 : 3).forEach((value, axis) =>
+        at(4, 'point').slice(0, word === '_MOVE' ? 2 : 3).forEach((value, axis) =>
             one.hold('VertexCoordinate(' + number + ')', axis, value, 'vertex', action));
     } else if (word === '_WIDTH') {
-        one.hold('SegmentStartWidth(' + number + ')', 0, place, 'start width', action);
-        one.hold('SegmentEndWidth(' + number + ')', 0, end, 'end width', action);
-    } else if (word !== '_JOIN') {
+        one.hold('SegmentStartWidth(' + number + ')', 0, at(4, 'double'), 'start width', action);
+        one.hold('SegmentEndWidth(' + number + ')', 0, at(5, 'double'), 'end width', action);
+    } else {
         one.isReshaped = true;
     }
 }
 
-function setAttribute(recorded, [handle, , tag, value], action) {
-    recorded.hold(handle, 'Attribute ' + tag + '.Value()', value, tag, action);
+function setAttribute(recorded, at, action) {
+    const tag = at(2, 'string');
+    recorded.hold(at(0, 'handle'), 'Attribute ' + tag + '.Value()', at(3, 'string'), tag, action);
 }
 
-function activate(recorded, [handles], action) {
-    recorded.hold(handles[0], 'Active()', true, 'Active', action);
+function activate(recorded, at, action) {
+    recorded.hold(at(0, 'handles')[0], 'Active()', true, 'Active', action);
 }
 
-// By their kinds; each is given the plain values of its action's data.
+// By their kinds. Each asks for the data of its action by number and form.
 const customActions = {[kinds.trim]: trimObjects, [kinds.sheet]: changeSheets, [kinds.namedView]: changeView,
     [kinds.embed]: embedObject, [kinds.pen]: drawPolyline, [kinds.erase]: eraseObjects, [kinds.hatch]: fillHatch,
     [kinds.attribute]: setAttribute, [kinds.edit]: editPolyline, [kinds.viewBackground]: makeView,

@@ -266,7 +266,8 @@ class Recorded {
             this.operations.push(Object.assign({action: action}, call, {handed: call.handed.filter(isKept)}));
         }
         if (kind in customActions) {
-            customActions[kind](this, data.map((_, number) => datumOf(data, number)), action);
+            const at = (number, form) => data[number] && form in data[number] ? data[number][form] : neutralOf(form);
+            customActions[kind](this, at, action);
         }
     }
 }
