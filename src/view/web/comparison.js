@@ -165,12 +165,18 @@ class Comparison {
         }
     }
 
+    // What is drawn, objects by the handles that they have in the recording.
+    shown(value) {
+        const expected = value instanceof Thing ? this.matched.get(value) : null;
+        return expected && expected.handle || shownValue(value);
+    }
+
     find(kind, expected, action, what, recorded, drawn, reason) {
         const line = action ? action.line : null;
         this.findings.push({kind: kind, class: expected ? expected.cls || expected.made : '',
             handle: expected ? expected.handle : '', line: line, path: action ? action.path : '',
             macroLines: action ? this.origins.linesOf(action.key) : null, what: what,
-            recorded: shownValue(recorded), drawn: shownValue(drawn), reason: reason});
+            recorded: shownValue(recorded), drawn: this.shown(drawn), reason: reason});
     }
 
     compareObjects() {
@@ -300,7 +306,7 @@ class Comparison {
                 return;
             }
             this.find(isSame ? 'notChecked' : 'different', null, action, seen.name,
-                handed.map(one => one && one.handle || one), given.map(shownValue),
+                handed.map(one => one && one.handle || one), given.map(one => this.shown(one)),
                 isSame ? 'the application makes it of what it is handed, which is as recorded'
                     : 'it is handed something else');
         }
