@@ -6,6 +6,8 @@
 // Custom actions by their numbers. One that is refused ends its command.
 const kinds = {trim: 6, sheet: 13, namedView: 14, pen: 16, erase: 17, hatch: 18, attribute: 39, viewBackground: 41,
     printStyle: 47};
+// Taken away by their names, where others are erased by their handles.
+const removedClasses = ['AcDbLayerTableRecord', 'AcDbViewTableRecord'];
 const refusedKinds = [24, 25, 51, 52, 53, 54];
 const lastKind = 55;
 const yesWords = ['Yes', 'YES', 'Visible', 'Enabled'];
@@ -61,11 +63,11 @@ function actionsOf(lines) {
 }
 
 function noneTold() {
-    return {whole: false, objects: new Set(), inBlock: new Set(), properties: new Set()};
+    return {whole: false, objects: new Set(), inBlock: new Set(), properties: new Map()};
 }
 
 // What the report tells that a macro does not do, by the actions: all of one, objects, objects that a block lacks, and
-// properties by their tags.
+// properties by their tags, each with the handles of the objects.
 class Told {
     constructor(losses) {
         this.byAction = new Map();
@@ -80,7 +82,7 @@ class Told {
             if (block !== undefined) {
                 told.inBlock.add(handle);
             } else if (tag !== undefined) {
-                told.properties.add(tag);
+                told.properties.set(tag, [...told.properties.get(tag) || [], handle]);
             } else if (handle !== undefined) {
                 told.objects.add(handle);
             } else if (loss.what.startsWith('custom ') || loss.what.startsWith('changes of ')) {
@@ -182,6 +184,16 @@ class Recorded {
         return one;
     }
 
+    // What the macro changes without having made it, by its name.
+    find(handle, cls, name, action) {
+        const row = this.places.records.get(cls) || {};
+        const made = cls !== 'AcDbViewTableRecord' ? row.made
+            : (this.drawing.get(handle) || {}).isPaperspaceView ? 'SheetNamedView' : 'ModelNamedView';
+        if (made && name && !this.byHandle.has(handle)) {
+            this.found(made, name, handle, cls, action);
+        }
+    }
+
     // The one that has the name now.
     recordOf(made, name, action) {
         const found = this.records.filter(one => one.made === made && one.value('Name()', 0) === name).pop();
@@ -270,12 +282,8 @@ class Recorded {
         if (told.whole) {
             return;
         }
-        const row = this.places.records.get(record.class);
         const sheet = record.properties.find(one => one.tag === 'SheetName_PrintStyleTable');
-        const name = sheet ? sheet.value : this.nameOf(record.handle);
-        if (row && !this.byHandle.has(record.handle) && name) {
-            this.found(row.made, name, record.handle, record.class, action);
-        }
+        this.find(record.handle, record.class, sheet ? sheet.value : this.nameOf(record.handle), action);
         // Of two records of one property the first counts.
         const seen = new Set();
         for (const one of record.properties) {
@@ -403,7 +411,7 @@ class Recorded {
         switch (kind) {
         case kinds.pen: this.draw(values, action); break;
         case kinds.hatch: this.hatch(values, action); break;
-        case kinds.erase: this.erase(values[0], action); break;
+        case kinds.erase: this.erase(values[0], values[1], action); break;
         case kinds.trim: this.trim(values[5], values[6]); break;
         case kinds.sheet: this.sheet(values, action); break;
         case kinds.viewBackground: this.viewBackground(values, action); break;
@@ -460,11 +468,15 @@ class Recorded {
         }
     }
 
-    erase(handles, action) {
+    erase(handles, classes, action) {
         const told = this.told.of(action.key);
-        for (const handle of handles) {
+        const kept = told.properties.get('Erased') || [];
+        for (const [i, handle] of handles.entries()) {
             const leader = this.leaders.get(handle);
-            if (!told.objects.has(handle)) {
+            if (!told.objects.has(handle) && !kept.includes(handle)) {
+                if (removedClasses.includes(classes[i])) {
+                    this.find(handle, classes[i], this.nameOf(handle), action);
+                }
                 this.hold(leader || handle, leader ? 'NoteAnnotation.Erased()' : 'Erased()', true, 'Erased', action);
             }
         }
