@@ -42,6 +42,8 @@ SAID = {
     "a color by layer or by block counts as black in a gradient": r"GetColorByIndex ?\( ?256\b",
     # The second of two calls, or a loop, from behind.
     "of several rows or columns that went only the last is removed": r"DeleteRow ?\(? ?(?:3|i\d*)\b",
+    # The same behind a view.
+    "a color by index, by layer or by block counts as black behind a view": r"GetColorByIndex ?\( ?(?:5|9|256)\b",
     # A list may come as anything, and go to anything.
     "a location that takes a list of paths is given one text": r"FontsPaths(?: = |\( )sArray",
     "a location that takes one path is given a list": r"TempPath(?: = |\( )(?!sArray)",
