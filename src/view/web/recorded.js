@@ -284,10 +284,13 @@ class Recorded {
         }
         const sheet = record.properties.find(one => one.tag === 'SheetName_PrintStyleTable');
         this.find(record.handle, record.class, sheet ? sheet.value : this.nameOf(record.handle), action);
+        // A picture has a yes or no of its own under the name of the transparency, and that alone may be told.
+        const isTold = ({tag, value}) => told.properties.has(tag) && !(record.class === 'AcDbRasterImage'
+            && value !== null && typeof value === 'object' && value.transparency);
         // Of two records of one property the first counts.
         const seen = new Set();
         for (const one of record.properties) {
-            if (!seen.has(one.tag) && !told.properties.has(one.tag)) {
+            if (!seen.has(one.tag) && !isTold(one)) {
                 this.set(record.handle, one, action);
             }
             seen.add(one.tag);
