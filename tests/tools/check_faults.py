@@ -169,7 +169,7 @@ def isolated(row, faithful, repaired, folder):
     """The macro with one fault alone: the repaired one, in which the lines of the fault are as they are without
     --repair. None when they do not stand apart."""
     if rows_of(faithful.faults) == {row}:
-        return dataclasses.replace(faithful, losses=repaired.losses)
+        return dataclasses.replace(faithful, losses=repaired.losses, assumed=repaired.assumed)
     left, right = (macro.file.read_text(encoding="utf-8").split("\n") for macro in (faithful, repaired))
     begins = sorted({fault.line for fault in faithful.faults})
     lines, faults = [], []

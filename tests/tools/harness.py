@@ -58,6 +58,7 @@ class Macro:
     project_faults: tuple = ()  # those in other files than the macro
     map: pathlib.Path = None
     losses: list = dataclasses.field(default=None, compare=False)
+    assumed: list = dataclasses.field(default=None, compare=False)
     written: pathlib.Path = None  # the macro that the map is of, when it is another
 
     def lines(self):
@@ -77,7 +78,7 @@ def macro_of(recording, conversion):
     return Macro(file.name.partition(".")[0], recording, file.parent, file,
                  tuple(fault for fault in faults if fault.file == file.name),
                  tuple(fault for fault in faults if fault.file != file.name), pathlib.Path(conversion["map"]),
-                 conversion["losses"])
+                 conversion["losses"], conversion["assumed"])
 
 
 class Checked:

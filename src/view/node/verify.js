@@ -14,7 +14,8 @@ function verify(job) {
     const model = startModel(tables, lines);
     const stopped = runPage(macro, new Library(tables.known, model).globals);
     const report = JSON.parse(read(job.report));
-    return compareRun(tables, model, {lines: lines, losses: report.conversions[0].losses, map: JSON.parse(read(job.map)),
+    return compareRun(tables, model, {lines: lines, losses: report.conversions[0].losses,
+        assumed: report.conversions[0].assumed, map: JSON.parse(read(job.map)),
         macro: macro, written: written, stopped: stopped});
 }
 
@@ -27,4 +28,10 @@ function main(path) {
     process.exitCode = result.verdict === 'equal' ? 0 : 1;
 }
 
-main(process.argv[2]);
+try {
+    main(process.argv[2]);
+} catch (error) {
+    // Another status than those of a comparison.
+    process.stderr.write(error.message + '\n');
+    process.exitCode = 70;
+}

@@ -2,53 +2,27 @@
 
 'use strict';
 
-// Enumerators that do not repeat the shown text, or of which only the number is recorded.
-const enumerators = {
-    LineWeight: {[-1]: 'ByLayer', [-2]: 'ByBlock', [-3]: 'Default'},
-    FitSmooth: {Quadratic: 'Qudratic'},
-    Direction: {Up: 'BottomToTop'},
-    Alignment: {4: 'Center'},
-    TextSide: {1: 'OnConvexSide'},
-    TextDirection: {2: 'InwardToTheCenter'},
-    StartArrow: {20: 'Custom'},
-    EndArrow: {20: 'Custom'},
-    LeaderArrow: {11: 'DotSmall'},
-    'AngularDimensionOptions.Format': {1: 'Deg_Min_Sec'},
-    'AngularDimensionOptions.Precision': {3: '3'},
-    ArcLengthSymbols: {2: 'None'},
-    'DualDimensionOptions.Format': {3: 'Engineering'},
-    'LinearDimensionOptions.Format': {2: 'Decimal'},
-    'LinearDimensionOptions.Precision': {9: '0'},
-    VerticalPosition: {1: 'Above'},
-    VerticalTextJustification: {1: 'Middle'},
-    FitGeometry: {Yes: 'KeepTextBetweenExtensionLines'},
-    'TextOptions.Alignment': {1: 'AlignHorizontally', 2: 'AlignWithDimensionLines'},
-    Calculation: {2: 'Deviation', 4: 'Basic'},
-    DecimalSeparator: {' ': 'Space', ',': 'Comma', '.': 'Period'},
-    CenterMarkDisplay: {Mark: 'AsMark'},
-    ArcSymbolType: {2: 'None'}
-};
 // The numbers by which a table style's cells and lines are recorded.
-const cellNumbers = {iwTableCellType_Title: '1', iwTableCellType_Header: '2', iwTableCellType_Data: '3',
-    iwTableBordersLineType_HorizontalBottom: '4', iwTableBordersLineType_VerticalInside: '16'};
+const cellNumbers = Object.assign({iwTableCellType_Title: '1', iwTableCellType_Header: '2', iwTableCellType_Data: '3'},
+    ...['HorizontalTop', 'HorizontalInside', 'HorizontalBottom', 'VerticalLeft', 'VerticalInside', 'VerticalRight'].map(
+        (name, i) => ({['iwTableBordersLineType_' + name]: String(1 << i)})));
 // What an object has of which nothing is recorded, besides zeros and empty texts: the host's own values.
-const defaults = [['Circle', 'Radius()', 1], ['BlockInstance', 'Scales()', 1], ['SimpleNote', 'Height()', 2.5],
-    ['AttributeDefinition', 'Height()', 0.2], ['EllipseArc', 'OtherRadius()', 1],
+const defaults = [['Circle', 'Radius()', 1], ['CircleArc', 'Radius()', 1], ['ReferenceImage', 'Scale()', 1],
+    ['BlockInstance', 'Scales()', 1], ['SimpleNote', 'Height()', 2.5], ['AttributeDefinition', 'Height()', 0.2],
+    ['EllipseArc', 'MinorRadius()', 1], ['AttributeDefinition', 'Justification()', 'iwTextJustification_Left'],
+    ['RichLine', 'Justification()', 'iwRichLineJustification_Top'],
     ['Hatch', 'HatchPattern.HatchOrSolidData()', 'iwHatchPatternType_UserDefined'],
-    ['EllipseArc', 'EndAngle()', 2 * Math.PI]];
-// What the records of an object do not tell: the drawing's data and custom actions do.
-const toldElsewhere = new RegExp('^(?:NoteAnnotation|ToleranceAnnotation|BlockAnnotation|ClipBoundary|TableStyle'
-    + '|Active|.*InViewport|RadialDiameterDimensionOptions.CenterMarkDisplay|FitOptions.DimensionS'
-    + '|CurvedSettings.FontParameters|[MN]Closed|Count\\(|FaceCount|Face\\(|Path|Contents'
-    + '|RowHeightAt|ColumnWidthAt|Pattern|ArrowsOptions.\\w+Arrow|Measure|ExtensionLineFixedLength|Attribute .*Name)');
+    ['EllipseArc', 'EndAngle()', 2 * Math.PI],
+    ['OrdinateDimension', 'Measure()', 'iwOrdinateDimensionMeasure_UseYAxis']].concat(
+        ...['Viewport', 'EmbeddedObject'].map(cls => [[cls, 'Color()', 'bylayer'], [cls, 'LineScale()', 1],
+            [cls, 'LineWeight()', -1]]));
+// What neither the records of an object tell nor the drawing's data: custom actions do, or another property.
+const toldElsewhere = new RegExp('^(?:ClipBoundary|Active|RadialDiameterDimensionOptions.CenterMarkDisplay|RowHeightAt'
+    + '|ColumnWidthAt|Sheet|Path\\(\\)$|Attribute .*Name)');
 // Of a block that another drawing holds.
 const referenced = ['Name()', 'Rotation()'];
-const tolerance = 1e-9; // of numbers of the size of coordinates; of larger ones relative
-
-function heldOf(thing, question, index) {
-    const values = thing.held.get(question);
-    return values && values[index];
-}
+// An action makes them, also without a record.
+const unrecordedClasses = ['Viewport', 'EmbeddedObject', 'Hatch'];
 
 // Center and long axis from both ends of the axis, in the plane.
 function deriveEllipse(held) {
@@ -56,7 +30,9 @@ function deriveEllipse(held) {
     if (start && end) {
         held.delete('AxisStart()');
         held.delete('AxisEnd()');
-        held.set('Center()', start.map((value, axis) => (value + end[axis]) / 2));
+        if (!held.has('Center()')) {
+            held.set('Center()', start.map((value, axis) => (value + end[axis]) / 2));
+        }
         held.set('MajorAxis()', start.map((value, axis) => (value - end[axis]) / 2));
     }
 }
@@ -78,6 +54,7 @@ function deriveNote(held) {
     if (!held.has('Width()')) {
         held.set('Width()', [second[0] - first[0]]);
     }
+    held.set('BoxHeight()', [first[1] - second[1]]);
 }
 
 // Sizes of the rows and columns that were not set one by one.
@@ -102,60 +79,9 @@ function deriveTableStyle(held) {
 
 const derivations = {EllipseArc: deriveEllipse, Note: deriveNote, Table: deriveTable, TableStyle: deriveTableStyle};
 
-function plain(text) {
-    return String(text).replace(/\W|_/g, '').toLowerCase();
-}
-
-// Of angles full turns do not count.
-function isClose(one, other, isTurn) {
-    const turn = 2 * Math.PI;
-    const difference = isTurn ? (one - other) - Math.round((one - other) / turn) * turn : one - other;
-    return Math.abs(difference) <= tolerance * Math.max(1, Math.abs(one), Math.abs(other));
-}
-
 // What an object has of which nothing was said.
 function isNothing(value) {
     return value === 0 || value === '' || value === false || isColor(value) && value.color === null;
-}
-
-// Whether what an object holds is what the record says.
-function fits(question, seen, wanted, isTurn) {
-    if (isColor(wanted) || isColor(seen)) {
-        return isColor(wanted) && isColor(seen) && JSON.stringify(seen.color) === JSON.stringify(wanted.color);
-    }
-    if (seen === wanted) {
-        return true;
-    }
-    const [number, text] = wanted instanceof Choice ? [wanted.number, wanted.text] : [undefined, wanted];
-    if (typeof seen === 'boolean') {
-        const closed = question === 'Closed()' && String(text).toLowerCase() === 'yes'; // read in any case
-        return seen === (closed || text === true || number === 1 && !text || yesWords.includes(text));
-    }
-    if (typeof seen === 'number') {
-        const value = text === '' || text === undefined ? number : text;
-        return value !== null && String(value).trim() !== '' && isClose(seen, Number(value), isTurn);
-    }
-    if (typeof seen === 'string' && /^iw\w+_/.test(seen)) {
-        // The longest name that fits.
-        const end = Object.keys(enumerators).filter(one => question.replace(/\(\)$/, '').endsWith(one))
-            .sort((a, b) => b.length - a.length)[0];
-        const names = enumerators[end] || {};
-        const name = names[text] || names[number] || text || String(number);
-        const enumerator = plain(seen.slice(seen.indexOf('_') + 1));
-        return enumerator === plain(name) || enumerator === name.padStart(3, '0');
-    }
-    return seen === text;
-}
-
-// A value as people and JSON have it.
-function shownValue(value) {
-    if (value instanceof Choice) {
-        return value.shown();
-    }
-    if (value instanceof Thing) {
-        return value.handle || value.name || value.cls;
-    }
-    return value === undefined ? null : isColor(value) ? value.color : value;
 }
 
 // `run` is {model, calls with their lines}, `origins` lead the lines of the written macro to actions, and `line` those of
@@ -192,9 +118,14 @@ class Comparison {
     // By the handles of the lines that make them. What is added to be part of a block is drawn where the block is, in the
     // same command.
     matchInserted() {
-        const range = thing => thing.call.line && this.origins.rangeAt(this.writtenLine(thing.call.line)) || {};
-        this.matchBy(expected => [expected.handle], thing => range(thing).handles || []);
-        this.matchBy(expected => [expected.action.line], thing => [range(thing).line]);
+        this.matchBy(expected => [expected.handle], thing => this.rangeOf(thing).handles);
+        this.matchBy(expected => [expected.action.line], thing => [this.rangeOf(thing).line]);
+    }
+
+    // The lines of the written macro that make a thing.
+    rangeOf(thing) {
+        const {line} = thing.call;
+        return Object.assign({handles: []}, line ? this.origins.rangeAt(this.writtenLine(line)) : null);
     }
 
     // What has a key in common, and is of the same class, in its order.
@@ -268,7 +199,8 @@ class Comparison {
 
     // Drawn for another object, or for the time being.
     isHelper(thing) {
-        return thing.handedTo !== '' || heldOf(thing, 'Erased()', 0) === true || !this.madeClasses.has(thing.cls);
+        return thing.handedTo !== '' || heldOf(thing, 'Erased()', 0) === true || !this.madeClasses.has(thing.cls)
+            || unrecordedClasses.includes(thing.cls);
     }
 
     get madeClasses() {
@@ -293,15 +225,21 @@ class Comparison {
 
     compareHeld(expected, thing) {
         const {cls} = thing;
-        const isReferenced = thing.held.has('Path()');
+        const isReferenced = cls === 'BlockInstance' && thing.held.has('Path()');
         for (const {question, index, value, tag, action} of expected.held.values()) {
             if (isReferenced && referenced.includes(question)) {
                 continue;
             }
-            const seen = heldOf(thing, question, index);
+            const [, part, of] = /^(Line[12]|Curve)\.(.*)/.exec(question) || [];
+            const measured = part ? heldOf(thing, part + '()', 0) : null;
+            // What a dimension measures may be there already.
+            if (measured && (this.matched.has(measured) || measured.handle)) {
+                continue;
+            }
+            const seen = measured ? heldOf(measured, of, index) : heldOf(thing, question, index);
             const isRight = seen === undefined
-                ? isNothing(value) || this.isDefault(cls, question, value) || this.places.optional.has(cls + ' ' + question)
-                : value !== null && value.handle ? this.isHanded(seen, value)
+                ? isNothing(value) || value === anything || this.isDefault(cls, question, value) || this.places.optional.has(cls + ' ' + question)
+                : value !== null && value !== undefined && value.handle ? this.isHanded(seen, value)
                     : fits(question, seen, value, this.places.turns.has(question + index));
             if (!isRight) {
                 this.find('different', expected, action, tag, value, seen, 'it is drawn with another value');
@@ -311,7 +249,8 @@ class Comparison {
             values.forEach((value, index) => {
                 if (!expected.holds(question, index) && !isNothing(value)
                     && (question === 'Objects()' || !(value instanceof Thing))
-                    && !this.isDefault(cls, question, value) && !toldElsewhere.test(question)) {
+                    && !this.isDefault(cls, question, value) && !toldElsewhere.test(question)
+                    && !(index === 1 && question.endsWith('InViewport()'))) {
                     this.find('different', expected, expected.action.key ? expected.action : null,
                         question.replace(/\(\)$/, ''), null, value, 'nothing is recorded of it');
                 }
@@ -320,7 +259,8 @@ class Comparison {
     }
 
     isDefault(cls, question, value) {
-        return defaults.some(one => one[0] === cls && one[1] === question && one[2] === value);
+        const plainValue = value instanceof Choice ? value.number : isColor(value) ? value.color : value;
+        return defaults.some(one => one[0] === cls && one[1] === question && one[2] === plainValue);
     }
 
     // The calls of each action, one after the other.
@@ -370,11 +310,25 @@ class Comparison {
         if (wanted !== null && typeof wanted === 'object' && wanted.handle) {
             const expected = value instanceof Thing ? this.matched.get(value) : null;
             const leader = this.recorded.leaders.get(wanted.handle);
+            if (value instanceof Thing && value.call && !this.madeClasses.has(value.cls)) {
+                return this.rangeOf(value).handles.includes(wanted.handle);
+            }
             return expected ? [wanted.handle, leader].includes(expected.handle) : value instanceof Thing
-                && ([wanted.handle, leader].includes(value.handle)
-                    || !value.handle && value.cls === this.recorded.madeOf(wanted.handle));
+                && ([wanted.handle, leader].includes(value.handle) || !value.handle && this.isDrawnOf(value, wanted.handle));
         }
         return wanted === null || fits('', value, wanted, false);
+    }
+
+    // Whether something that is drawn for a block is what the drawing has under the handle, as far as it can be asked.
+    isDrawnOf(thing, handle) {
+        const record = this.recorded.drawing.get(handle);
+        if (!record || thing.cls !== this.places.interfaces.get(record.class)) {
+            return false;
+        }
+        return Object.entries(answersOf(record)).every(([question, values]) => values.every((value, index) => {
+            const seen = heldOf(thing, question, index);
+            return seen === undefined || isClose(seen, value, /Angle/.test(question));
+        }));
     }
 
     tellStrange() {

@@ -7,7 +7,7 @@ const namedClasses = ['Layer', 'TextStyle', 'TableStyle', 'DimensionStyle', 'Ric
     'BlockDefinition', 'ModelNamedView', 'SheetNamedView', 'Sheet'];
 // What only hands on what it is of: it is no part of its own.
 const transparentClasses = new Set([...namedClasses, 'LayerManager', 'GeneralDimension', 'DimensionStyleUserData',
-    'NamedView', 'FoundObject']);
+    'NamedView']);
 // Behind these a polyline has other vertices than those that it was given.
 const reshapingCalls = ['AddVertexAfter', 'DeleteVertex', 'Straighten', 'Split', 'Fit', 'Decurve', 'Spline'];
 const reshapedPlaces = /^(Vertex|FitPoint|ControlPoint|Segment)/;
@@ -17,10 +17,6 @@ const countingCalls = {InsertRow: ['Rows()', 1], DeleteRow: ['Rows()', -1], Inse
 // A color as recordings have it.
 function colorOfIndex(index) {
     return index === 256 ? 'bylayer' : index === 0 ? 'byblock' : {index: index};
-}
-
-function isColor(value) {
-    return value !== null && typeof value === 'object' && 'color' in value;
 }
 
 // What a macro can ask. What belongs to an object, such as its settings, holds nothing itself: its `whole` does, under
@@ -35,6 +31,7 @@ class Thing {
         this.handle = ''; // of an object that was in the drawing already
         if (this.whole === this) {
             this.held = new Map(); // lists of values by the question that they answer
+            this.known = new Map(); // the same of what was not given to it
             this.name = ''; // the first one
             this.space = ''; // the sheet's first name where it was made, empty in the model
             this.call = null; // that made it
@@ -59,8 +56,8 @@ function readState(text) {
     for (const line of text.split('\n').filter(one => one.trim() && !one.startsWith('#'))) {
         const [call, ...fields] = line.trim().split(/\s+/);
         rows.set(call, /^\d+$/.test(fields[0]) ? Number(fields[0]) : fields.map(field => {
-            const [, name, sign, digits] = /^([\w#-]+?)(?:([:*])(\d))?$/.exec(field);
-            return {name: name, isList: sign === '*', size: Number(digits || 1)};
+            const [, name, sign, digits, ends] = /^([\w#-]+?)(?:([:*])(\d)|=([\w,]+))?$/.exec(field);
+            return {name: name, isList: sign === '*', size: Number(digits || 1), ends: ends ? ends.split(',') : null};
         }));
     }
     return rows;
@@ -167,7 +164,13 @@ class Model {
 
     tellInsertion(thing, fields, given) {
         const rest = given.slice();
-        for (const {name, isList, size} of fields) {
+        for (const {name, ends} of fields.filter(field => field.ends)) {
+            thing.known.set(name + '()', () => {
+                const points = ends.map(one => thing.held.get(one + '()'));
+                return [0, 1, 2].map(axis => points.reduce((sum, point) => sum + (point[axis] || 0), 0) / points.length);
+            });
+        }
+        for (const {name, isList, size} of fields.filter(field => !field.ends)) {
             const values = Array.isArray(rest[0]) || rest[0] === null ? rest.shift() || [] : rest.splice(0, size);
             for (let at = 0; isList && at < values.length; at += size) {
                 const question = name.includes('#') ? name.replace('#', at / size + 1) + '()'
@@ -228,7 +231,7 @@ class Model {
             this.record(removed, given[0], false).held.set('Erased()', [true]);
         } else if (name === 'Rename') {
             this.rename(on.whole, given[0]);
-        } else if (name === 'Activate' && namedClasses.includes(on.whole.cls)) {
+        } else if (name === 'Activate' && [...namedClasses, 'Viewport'].includes(on.whole.cls)) {
             on.whole.held.set('Active()', [true]);
         } else if (name === 'CopySheet') {
             this.record('Sheet', given[1], true);
@@ -255,7 +258,8 @@ class Model {
         case 'get_DispObj': return [on];
         case 'GetAttributeInstances': return [this.attributes(on)];
         }
-        const known = on.whole.held.get(on.place + question) || [];
+        const middle = on.whole.known.get(on.place + question);
+        const known = on.whole.held.get(on.place + question) || middle && middle() || [];
         return known.map(one => isColor(one) ? this.color(one.color) : one);
     }
 
@@ -340,6 +344,9 @@ class Model {
         if (/^Insert/.test(name)) {
             const owner = on.cls === 'SketchManager' ? on.of : on;
             thing.space = owner.whole.cls === 'Sheet' ? owner.whole.name : '';
+            if (thing.cls === 'Viewport') {
+                this.hold(thing, 'Sheet()', [thing.space]);
+            }
             this.made.push(thing);
         }
     }

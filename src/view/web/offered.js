@@ -38,6 +38,8 @@ function closed(points, isClosed) {
 const offeredClasses = {
     AcDbLine: {cls: 'Line', type: 'iwLineType', number: 21, describe: ({startPoint, endPoint}) => ({
         answers: {'FirstPoint()': startPoint, 'SecondPoint()': endPoint}, curves: chain([startPoint, endPoint])})},
+    AcDbCircle: {cls: 'Circle', type: 'iwCircleType', number: 22, describe: ({center, radius}) => ({
+        answers: {'Center()': center, 'Radius()': [radius]}, curves: [circularArc(center, radius, 0, 0)]})},
     AcDbArc: {cls: 'CircleArc', type: 'iwCircleArcType', number: 23, describe: ({center, radius, startAngle, endAngle}) => ({
         answers: {'Center()': center, 'Radius()': [radius], 'StartAngle()': [startAngle], 'EndAngle()': [endAngle]},
         curves: [circularArc(center, radius, startAngle, endAngle)]})},
@@ -55,12 +57,20 @@ const offeredClasses = {
 const noData = {startPoint: [0, 0, 0], endPoint: [0, 0, 0], center: [0, 0, 0], radius: 0, startAngle: 0, endAngle: 0,
     majorAxis: [0, 0, 0], minorAxis: [0, 0, 0], points: [], bulges: [], vertices: [], isClosed: false};
 
+function described(record) {
+    return offeredClasses[record.class].describe(Object.assign({}, noData, record));
+}
+
+// What an object of the drawing answers, as far as it is known.
+function answersOf(record) {
+    return record.class in offeredClasses ? described(record).answers : {};
+}
+
 // `lines` are those of the recording, parsed. Objects without data are not offered.
 function offeredObjects(lines) {
     const records = lines.filter(line => line && line.object).map(line => line.object);
     return records.filter(one => one.class in offeredClasses && Object.keys(one).length > 2).map(one => {
-        const {cls, type, number, describe} = offeredClasses[one.class];
-        return Object.assign({handle: one.handle, cls: cls, type: type, number: number},
-            describe(Object.assign({}, noData, one)));
+        const {cls, type, number} = offeredClasses[one.class];
+        return Object.assign({handle: one.handle, cls: cls, type: type, number: number}, described(one));
     });
 }

@@ -79,11 +79,6 @@ function alignLines(written, edited) {
     return found;
 }
 
-// What reports and maps have in common of an action: its line, and its place within the command there.
-function actionKey(line, path) {
-    return line + ' ' + (/^command\.actions\[\d+\]/.exec(path || '') || [''])[0];
-}
-
 // The range of a map that each of its lines is in.
 class Origins {
     constructor(map) {
@@ -114,10 +109,9 @@ class Origins {
         return range ? actionKey(range.line, range.path) : '';
     }
 
-    // The handles that the action of a line has.
-    handlesAt(line) {
-        const range = this.rangeAt(line);
-        return range && range.handles || [];
+    // The handles that the lines of an action have.
+    handlesOf(key) {
+        return [].concat(...(this.byAction.get(key) || []).map(range => range.handles || []));
     }
 
     // The first and last line that do an action, or null. An insertion counts ahead of its declaration.

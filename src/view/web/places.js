@@ -34,50 +34,65 @@ class Places {
         }
     }
 
+    // `|` stands between the rows of an added and of a changed object.
     addRow(cls, tag, text) {
-        const isOptional = text.endsWith('?');
+        const [added, changed] = text.split(' | ').map(one => this.parsePlace(cls, one));
+        const both = {rank: this.rows.size, added: added, changed: changed || added};
+        if (!tag.includes('*')) {
+            this.rows.set(cls + ' ' + tag, both);
+            return;
+        }
+        [...'XYZ'].forEach((letter, axis) => {
+            const of = row => Object.assign({}, row, {index: axis});
+            for (const one of [letter, letter.toLowerCase()]) {
+                this.rows.set(cls + ' ' + tag.replace('*', one),
+                    {rank: both.rank, added: of(both.added), changed: of(both.changed)});
+            }
+        });
+    }
+
+    parsePlace(cls, text) {
         const [name, ...words] = text.replace(/\?$/, '').split(' ');
         const [, question, points] = /^(.*?)(?:\[(\d)\])?$/.exec(name);
-        const number = words.find(word => /^\d+$/.test(word));
-        if (isOptional) {
+        const number = words.find((word, i) => /^\d+$/.test(word) && words[i - 1] !== 'with');
+        const behind = word => words.includes(word) ? words[words.indexOf(word) + 1] : null;
+        if (text.endsWith('?')) {
             this.optional.add(this.interfaces.get(cls) + ' ' + question + '()');
         }
         if (words.includes('turn')) {
             this.turns.add(question + '()' + Number(number || 0));
         }
-        const row = {name: question, points: Number(points || 0), index: Number(number || 0),
-            words: words.filter(word => word !== number)};
-        if (!tag.includes('*')) {
-            this.rows.set(cls + ' ' + tag, row);
-            return;
-        }
-        [...'XYZ'].forEach((letter, axis) => {
-            for (const one of [letter, letter.toLowerCase()]) {
-                this.rows.set(cls + ' ' + tag.replace('*', one), Object.assign({}, row, {index: axis}));
-            }
-        });
+        return {name: question, points: Number(points || 0), index: Number(number || 0), words: words, is: behind('is'),
+            other: behind('with')};
     }
 
     // Null where there is none; its name is "-" where no macro carries the property.
-    row(cls, tag) {
+    row(cls, tag, isAdded) {
+        const both = this.both(cls, tag);
+        return both && (isAdded ? both.added : both.changed);
+    }
+
+    // Of several properties in one place that of the last row counts.
+    rank(cls, tag) {
+        const both = this.both(cls, tag);
+        return both ? both.rank : 0;
+    }
+
+    both(cls, tag) {
         const key = cls + ' ' + tag;
         if (!this.found.has(key)) {
-            this.found.set(key, this.findRow(cls, tag));
+            this.found.set(key, this.find(cls, tag));
         }
         return this.found.get(key);
     }
 
-    findRow(cls, tag) {
+    find(cls, tag) {
         const numbers = tag.match(/(?<=_)\d+/g) || [];
         const common = cls.includes('Dimension') ? ['dimension', 'every'] : ['every'];
         const keys = [cls + ' ' + tag.replace(/(?<=_)\d+/g, '#'), ...common.map(one => one + ' ' + tag)];
-        const key = keys.find(one => this.rows.has(one));
-        if (key === undefined) {
-            return null;
-        }
-        const row = this.rows.get(key);
-        const name = numbers.reduce((text, number) => text.replace('#', number), row.name);
-        return numbers.length ? Object.assign({}, row, {name: name}) : row;
+        const both = this.rows.get(keys.find(one => this.rows.has(one))) || null;
+        const of = row => Object.assign({}, row, {name: numbers.reduce((text, one) => text.replace('#', one), row.name)});
+        return both && numbers.length ? {rank: both.rank, added: of(both.added), changed: of(both.changed)} : both;
     }
 }
 

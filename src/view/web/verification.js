@@ -32,14 +32,16 @@ function startModel(tables, lines) {
     return new Model(tables.known, tables.state, tables.keyed, offeredObjects(lines), [...tags]);
 }
 
-// `given` has the recording's `lines`, the `losses` of its report, the `map` of the written macro, the text `macro` that
+// `given` has the recording's `lines`, the `losses` and what is `assumed` of its report, the `map` of the written macro, the text `macro` that
 // ran and the one that was `written`; `stopped` is the error that ended the run, {line, message}, or null.
 function compareRun(tables, model, given) {
-    const recorded = new Recorded(given.lines, tables.places, tables.calls, new Told(given.losses));
+    const origins = new Origins(given.map);
+    const recorded = new Recorded(given.lines, tables.places, tables.calls, new Told(given.losses),
+        new Told(given.assumed), origins);
     giveLines(model.calls, callPlaces(given.macro, tables.keyed));
     const aligned = given.macro === given.written ? null
         : alignLines(given.written.split('\n'), given.macro.split('\n'));
-    const compared = new Comparison(recorded, model, new Origins(given.map), line => aligned ? aligned[line] : line,
+    const compared = new Comparison(recorded, model, origins, line => aligned ? aligned[line] : line,
         tables.places);
     const told = given.losses.map(loss => ({kind: 'missingAsTold', class: '', handle: '', line: loss.line,
         path: loss.path || '', macroLines: null, what: loss.what, recorded: null, drawn: null, reason: loss.reason}));

@@ -91,8 +91,8 @@ namespace Inkwright
                 return Of(((IWAPIMacros.DispatchWrapper)value).Wrapped);
             if (value is double)
                 return ((double)value).ToString("R", CultureInfo.InvariantCulture);
-            if (value is int)
-                return ((int)value).ToString(CultureInfo.InvariantCulture);
+            if (value is int || value is long)
+                return Convert.ToString(value, CultureInfo.InvariantCulture);
             if (value is bool)
                 return (bool)value ? "true" : "false";
             if (value is Enum)
