@@ -249,6 +249,7 @@ struct Unreachable
 using enum Target;
 const std::set<Target> everyTarget{Cpp, CSharp, JavaScript, VbNet, CppCom, Vba};
 const Unreachable unreachable[]{
+    {"background: color by index", {Cpp, CppCom}, "only repaired macros keep the index of a color behind a view"},
     {"EmitCommandOptionInt32", everyTarget, "no option of a document is of that type"},
     {"EmitDeleteRows", everyTarget, "only repaired macros remove many lines at once"},
     {"EmitSetModelProperty: other sheet", everyTarget, "only repaired macros leave a sheet as it is"},

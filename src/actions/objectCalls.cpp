@@ -4,6 +4,7 @@
 #include "actions/handedVariable.h"
 #include "actions/handlers.h"
 #include "host/db/OdDbClasses.h"
+#include "objects/entries.h"
 #include "objects/targets/blocks.h"
 #include "objects/targets/references.h"
 #include "statements/arrays.h"
@@ -33,18 +34,48 @@ static Statement NoteOfLeader(Conversion& conversion, const OdDbHandle& note, co
     return text += EmitGetNoteAnnotation(conversion.writer, name, leaderName);
 }
 
+static const inkmacro::Fault kNotErasable{"EmitEraseEntities",
+                                          {inkmacro::Target::Cpp, inkmacro::Target::CSharp,
+                                           inkmacro::Target::JavaScript, inkmacro::Target::VbNet,
+                                           inkmacro::Target::CppCom, inkmacro::Target::Vba},
+                                          "a layer, a named view or a sheet has no property that erases it"};
+
+/// A layer alone is taken away by its variable; one that the macro does not have yet is fetched by its name.
+static Statement takeAway(Conversion& conversion, RecordedObject object)
+{
+    Names& names = conversion.names();
+    if (names.IsUnmade(object.handle))
+        return names.EmitObjectVariable(object.handle, object.cls, object.name);
+    if (object.cls != OdDbLayerTableRecord::desc())
+        return TakeAway(conversion.writer, object);
+    const CFxString layer = LayerName(conversion, object.handle);
+    const bool isKnown = names.FindEntry(object.handle);
+    if (!isKnown && layer.isEmpty()) {
+        NoteLoss(ObjectTitle(object.cls, object.handle), "the drawing does not have the layer");
+        return {};
+    }
+    object.name = names.NameObject(object.handle, object.cls);
+    const Statement fetch = isKnown ? Statement() : EmitGetLayer(conversion.writer, object.name, layer);
+    return fetch + TakeAway(conversion.writer, object);
+}
+
 std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::AppendedTo);
     const std::vector<OdDbHandle>& objects = action.GetData(0).GetHandleArray();
     const std::vector<const OdRxClass*>& classes = action.GetData(1).GetClassArray();
     std::vector<CFxString> names(objects.size());
+    Statement takenAway;
     for (std::size_t i = 0; i < objects.size(); ++i) {
         const OdRxClass* const cls = ClassAt(classes, i);
         CFxString type;
         CFxString second;
         if (GetApiTypeName(cls, type, second) != kFxSuccess) {
             loseObject(cls, objects[i]);
+            continue;
+        }
+        if (LacksErasure(cls) && conversion.Drops(kNotErasable)) {
+            takenAway += takeAway(conversion, {cls, objects[i], {}});
             continue;
         }
         const OdDbObjectId leader = cls == OdDbMText::desc() ? GetNoteLeader(objects[i]) : OdDbObjectId();
@@ -55,6 +86,7 @@ std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& a
         names[i] = name.isEmpty() && !conversion.writer.repairs ? type : name;
     }
     text += EmitEraseEntities(conversion.writer, names);
+    text += takenAway;
     return kFxSuccess;
 }
 

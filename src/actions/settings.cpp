@@ -101,6 +101,7 @@ struct Location
 {
     const char* key;
     const char* property;
+    bool takesList = false;
 };
 
 } // namespace
@@ -127,10 +128,10 @@ constexpr Location systemLocations[]{
     {"eFileLocSystemHelpFileValue", "HelpFile"},
     {"eFileLocSystemLogFileLoc", "LogFilePath"},
     {"eFileLocSystemTemporaryFileLoc", "TempPath"},
-    {"eFileLocSystemFontFileSearchPath", "FontsPaths"},
-    {"eFileLocSystemSupportFilesPath", "SupportPaths"},
-    {"eFileLocSystemDrawingBorderFilesPath", "DrawingBorderPaths"},
-    {"eFileLocSystemTitleBlockFilesPath", "TitleBlockPaths"},
+    {"eFileLocSystemFontFileSearchPath", "FontsPaths", true},
+    {"eFileLocSystemSupportFilesPath", "SupportPaths", true},
+    {"eFileLocSystemDrawingBorderFilesPath", "DrawingBorderPaths", true},
+    {"eFileLocSystemTitleBlockFilesPath", "TitleBlockPaths", true},
 };
 
 /// "Supprt" is the host's spelling.
@@ -152,18 +153,26 @@ constexpr FileObject interfaceFiles{&EmitInterfaceFilesObject, interfaceLocation
 constexpr FileObject systemFiles{&EmitSystemFilesObject, systemLocations};
 constexpr FileObject drawingSupportFiles{&EmitDrawingSupportFilesObject, drawingSupportLocations};
 
-/// Empty for a location that the object does not have; its statement is written all the same.
-CFxString propertyOf(const FileObject& files, const CFxString& key)
+/// Without a property for a location that the object does not have; its statement is written all the same.
+Location locationOf(const FileObject& files, const CFxString& key)
 {
     const auto found = std::find_if(files.locations.begin(), files.locations.end(),
                                     [&](const Location& location) { return key.equalNoCase(location.key); });
-    return found == files.locations.end() ? CFxString() : CFxString(found->property);
+    return found == files.locations.end() ? Location{} : *found;
 }
 
 const Fault kUnknownLocation{
     "EmitSetProperty",
     {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
     "the property of a location that the host does not have lacks its name"};
+
+const Fault kTextForList{"EmitFileLocationArray",
+                         {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                         "a location that takes a list of paths is given one text"};
+
+const Fault kListForText{"EmitFileLocationArray",
+                         {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                         "a location that takes one path is given a list"};
 
 /// In strings of the curly languages a backslash escapes. The host's setting decides, not the target.
 EscapedText quotable(const CFxString& path)
@@ -174,30 +183,46 @@ EscapedText quotable(const CFxString& path)
 
 } // namespace
 
+/// In a repaired macro a location is given what it takes, one path or a list. Empty for a value that is neither.
+static Statement setLocation(Writer& writer, const CFxString& variable, const Location& location,
+                             const CFxCustomActionData& value)
+{
+    const bool isText = value.GetType() == CFxCustomActionData::kString;
+    if (!isText && value.GetType() != CFxCustomActionData::kStringArray)
+        return {};
+    const std::vector<CFxString> paths = isText ? std::vector{value.GetString()} : value.GetStringArray();
+    const CFxString property(location.property);
+    const bool fits = !location.property || isText != location.takesList;
+    const bool asText = fits || !writer.repairs ? isText : !isText;
+    Statement setting = asText ? EmitSetProperty(writer, variable, property, quotable(paths.front()), true)
+                               : EmitFileLocationArray(writer, variable, property, paths);
+    if (!location.property)
+        return writer.faulty(std::move(setting), kUnknownLocation);
+    return fits ? setting : writer.faulty(std::move(setting), isText ? kTextForList : kListForText);
+}
+
 static std::int32_t ConvertFileLocation(Conversion& conversion, const FileObject& files, const CFxCustomAction& action,
                                         Statement& text)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    const CFxString property = propertyOf(files, action.GetData(0).GetString());
+    const Location location = locationOf(files, action.GetData(0).GetString());
     const CFxCustomActionData& value = action.GetData(1);
-
-    if (property.isEmpty() && conversion.writer.repairs)
-        return PassOver(action, "the host has no such location");
+    const bool isList = value.GetType() == CFxCustomActionData::kStringArray;
+    if (conversion.writer.repairs) {
+        if (!location.property)
+            return PassOver(action, "the host has no such location");
+        if (isList && !location.takesList && value.GetStringArray().size() != 1)
+            return PassOver(action, "its location takes one path and no list");
+    }
     StatementGroup group(conversion.writer);
     text = group.begin();
     CFxString variable;
     text += files.emitObject(conversion.writer, variable);
-    bool isSet = true;
-    Statement setting;
-    if (value.GetType() == CFxCustomActionData::kString)
-        setting = EmitSetProperty(conversion.writer, variable, property, quotable(value.GetString()), true);
-    else if (value.GetType() == CFxCustomActionData::kStringArray)
-        setting = EmitFileLocationArray(conversion.writer, variable, property, value.GetStringArray());
-    else
-        isSet = false;
-    text += property.isEmpty() ? conversion.writer.faulty(std::move(setting), kUnknownLocation) : std::move(setting);
+    text += setLocation(conversion.writer, variable, location, value);
     text += group.close() + LineEnd;
-    return isSet ? kFxSuccess : PassOver(action, "its value is neither a text nor a list of texts");
+    return isList || value.GetType() == CFxCustomActionData::kString
+               ? kFxSuccess
+               : PassOver(action, "its value is neither a text nor a list of texts");
 }
 
 std::int32_t ConvertActionInterfaceFile(Conversion& conversion, const CFxCustomAction& action, Statement& text)

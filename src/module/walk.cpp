@@ -50,14 +50,10 @@ std::int32_t ConvertOrLose(Conversion& conversion, const OdRxObjectPtr& action, 
 /// In front of the changes, which may rename it.
 static CFxString layerName(Conversion& conversion, const CFxObjectModified& changes)
 {
-    const OdDbHandle handle = changes.GetHandle();
-    const auto record = odrxQuery<OdDbLayerTableRecord>(IdOf(handle).openObject(true).get());
-    const auto [known, isNew] =
-        conversion.renamedLayers.try_emplace(handle, record ? CFxString(record->getName()) : CFxString());
-    CFxString before = known->second;
+    CFxString before = LayerName(conversion, changes.GetHandle());
     PropertyList list = changes.GetProperties();
     if (const CFxVariant renamed = FindProperty(conversion, "Name", list); !renamed.IsNull())
-        known->second = renamed.GetString();
+        conversion.renamedLayers[changes.GetHandle()] = renamed.GetString();
     return before;
 }
 

@@ -149,7 +149,13 @@ struct EntityKind
     const char* type; ///< of iwObjectType_e
     /// Gives what the entity needs besides, and may find it a variable.
     Statement (*prepare)(BlockEntity& entity) = nullptr;
+    const char* known = nullptr; ///< the type that iwObjectType_e has in place of one that it lacks
 };
+
+const inkmacro::Fault kUnknownType{"EmitCreateBlockDefinition",
+                                   {inkmacro::Target::Cpp, inkmacro::Target::CSharp, inkmacro::Target::JavaScript,
+                                    inkmacro::Target::VbNet, inkmacro::Target::CppCom, inkmacro::Target::Vba},
+                                   "a three-point dimension has a type that the interface lacks"};
 
 /// In the order in which they are looked for: an attribute definition is found as a text, which it derives from. The
 /// types are not those of the table of classes throughout. It has to stay so.
@@ -180,7 +186,7 @@ constexpr EntityKind kKinds[] = {
     {"AcDbAttributeDefinition", "iwAttributeDefinitionType"},
     {"AcDbAlignedDimension", "iwAlignedDimensionType"},
     {"AcDb2LineAngularDimension", "iwAngularDimensionType"},
-    {"AcDb3PointAngularDimension", "iwAngularDimensionType_3Point"},
+    {"AcDb3PointAngularDimension", "iwAngularDimensionType_3Point", nullptr, "iwAngularDimensionType"},
     {"AcDbArcDimension", "iwArcLengthDimensionType", &dimensionArc},
     {"AcDbOrdinateDimension", "iwOrdinateDimensionType"},
     {"AcDbDiametricDimension", "iwDiameterDimensionType"},
@@ -260,7 +266,8 @@ Statement CreateBlockDefinition(Conversion& conversion, const BlockContents& con
             continue;
         }
         definition.entities.push_back(entity.name);
-        definition.types.emplace_back(QLatin1String(kind->type));
+        const bool hasKnown = kind->known && conversion.Drops(kUnknownType);
+        definition.types.emplace_back(QLatin1String(hasKnown ? kind->known : kind->type));
     }
     return text + EmitCreateBlockDefinition(writer, definition);
 }

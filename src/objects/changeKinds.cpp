@@ -103,6 +103,9 @@ using enum inkmacro::Target;
 const inkmacro::Fault kTurnedRound{"EmitSetBoolProperty",
                                    {Cpp, CSharp, JavaScript, VbNet, CppCom, Vba},
                                    "a layer that is shown is hidden, and the other way round"};
+const inkmacro::Fault kTwoTransparencies{"EmitSetBoolProperty",
+                                         {Cpp, CSharp, JavaScript, VbNet, CppCom, Vba},
+                                         "a yes or no is given to the transparency of an entity"};
 
 Statement setEnum(const Change& change, const CFxString& word)
 {
@@ -366,6 +369,11 @@ constinit const ChangeKind plainNo{[](const Change& change) {
 constinit const ChangeKind yesOrFirst{setYesOrFirst, forms::chosen.with(forms::yesNo)};
 constinit const ChangeKind anyYes{[](const Change& change) { return setBool(change, isAnyYes(change.value)); },
                                   forms::word.with(forms::yesNo)};
+constinit const ChangeKind otherTransparency{[](const Change& change) {
+                                                 return change.writer.mended(setBool(change, isAnyYes(change.value)),
+                                                                             kTwoTransparencies);
+                                             },
+                                             forms::word.with(forms::yesNo)};
 constinit const ChangeKind chosenYes{setChosen<setYes>, forms::chosen.with(forms::yesNo)};
 
 ChangeKind enumText(const inkmacro::TextEnumeration& enumeration)

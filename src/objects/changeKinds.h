@@ -29,6 +29,7 @@ extern const ChangeKind plainNo;  ///< a plain text, and "No" is true
 extern const ChangeKind yesOrFirst;
 extern const ChangeKind anyYes; ///< without regard to case; whatever is no "Yes" is false
 extern const ChangeKind chosenYes;
+extern const ChangeKind otherTransparency; ///< a picture's own, by the name of the one that all entities have
 
 // Members of an enumeration.
 ChangeKind enumText(const inkmacro::TextEnumeration& enumeration);   ///< by the element's word

@@ -66,6 +66,34 @@ static const Fault kErasedSheet{
     {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
     "a sheet has no property that erases it"};
 
+CFxString LayerName(const Conversion& conversion, const OdDbHandle& handle)
+{
+    if (const auto renamed = conversion.renamedLayers.find(handle); renamed != conversion.renamedLayers.end())
+        return renamed->second;
+    const auto record = odrxQuery<OdDbLayerTableRecord>(IdOf(handle).openObject(true).get());
+    return record ? CFxString(record->getName()) : CFxString();
+}
+
+bool LacksErasure(const OdRxClass* cls)
+{
+    return cls == OdDbViewTableRecord::desc() || cls == OdDbLayerTableRecord::desc() || cls == OdDbLayout::desc();
+}
+
+Statement TakeAway(Writer& writer, const RecordedObject& object)
+{
+    if (object.cls == OdDbLayerTableRecord::desc())
+        return EmitRemoveLayer(writer, object.name);
+    if (object.cls == OdDbLayout::desc()) {
+        LoseProperty(object, "Erased", "the interface cannot erase a sheet");
+        return {};
+    }
+    const OdDbObjectPtr opened = IdOf(object.handle).openObject(true);
+    if (const auto view = odrxCast<OdDbViewTableRecord>(opened.get()))
+        return EmitRemoveNamedView(writer, object.name, view->getName(), view->isPaperspaceView());
+    LoseProperty(object, "Erased", "the drawing does not have the view");
+    return {};
+}
+
 static Statement convertErased(Conversion& conversion, const RecordedObject& object, const CFxVariant& erased)
 {
     Writer& writer = conversion.writer;
@@ -73,23 +101,12 @@ static Statement convertErased(Conversion& conversion, const RecordedObject& obj
     CFxString target = object.name;
     if (IsDimensionClass(object.cls))
         text = EmitGetOptions(writer, generalDimension, object.name, target);
-    if (!erased.GetString().equalNoCase(ShownWord("YES"))) {
+    if (!erased.GetString().equalNoCase(ShownWord("YES")))
         LoseProperty(object, "Erased", "what comes back has no statement");
-        return text;
-    }
-    if (object.cls == OdDbViewTableRecord::desc()) {
-        const OdDbObjectPtr opened = IdOf(object.handle).openObject(true);
-        if (const auto view = odrxCast<OdDbViewTableRecord>(opened.get()))
-            text += EmitRemoveNamedView(writer, object.name, view->getName(), view->isPaperspaceView());
-        else
-            LoseProperty(object, "Erased", "the drawing does not have the view");
-    } else if (object.cls == OdDbLayerTableRecord::desc()) {
-        text += EmitRemoveLayer(writer, object.name);
-    } else if (object.cls == OdDbLayout::desc() && conversion.Drops(kErasedSheet)) {
-        LoseProperty(object, "Erased", "the interface cannot erase a sheet");
-    } else {
+    else if (LacksErasure(object.cls) && (object.cls != OdDbLayout::desc() || conversion.Drops(kErasedSheet)))
+        text += TakeAway(writer, object);
+    else
         text += EmitSetBoolProperty(writer, target, "Erased", true);
-    }
     return text;
 }
 

@@ -25,5 +25,12 @@ void ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const Od
 void ConvertGeneralProperties(Conversion& conversion, const RecordedObject& object, PropertyList& list, bool fromAdded,
                               const CFxString& target, StatementGroup& group, Statement& text);
 
+/// What a layer of the drawing is called by now; empty when the drawing does not have it.
+CFxString LayerName(const Conversion& conversion, const OdDbHandle& handle);
+/// Whether objects of the class have no property that erases them.
+bool LacksErasure(const OdRxClass* cls);
+/// What takes such an object away. Where nothing does, that is noted as lost.
+Statement TakeAway(Writer& writer, const RecordedObject& object);
+
 /// Whether that file of line type shapes comes with the host, which then needs no statement to load it.
 bool IsHostShapeFile(const CFxString& fileName);

@@ -42,6 +42,13 @@ SAID = {
     "a color by layer or by block counts as black in a gradient": r"GetColorByIndex ?\( ?256\b",
     # The second of two calls, or a loop, from behind.
     "of several rows or columns that went only the last is removed": r"DeleteRow ?\(? ?(?:3|i\d*)\b",
+    # The same behind a view.
+    "a color by index, by layer or by block counts as black behind a view": r"GetColorByIndex ?\( ?(?:5|9|256)\b",
+    # And for the lines of a style.
+    "a line of a rich line style loses a color of red, green and blue": r"AddLine.*GetRGBColor",
+    # A list may come as anything, and go to anything.
+    "a location that takes a list of paths is given one text": r"FontsPaths(?: = |\( )sArray",
+    "a location that takes one path is given a list": r"TempPath(?: = |\( )(?!sArray)",
     # Who takes the result.
     "the group's variable is not assigned": r"\w+ = iwDoc->CreateGroup",
     # The index goes up behind both elements.

@@ -44,7 +44,8 @@ class _Source:
         for prop in cls.properties:
             type_ = self.type(prop.type)
             getter = f'{self.ask(f"get_{prop.name}", [prop.type], [])} return {self.value(prop.type)};'
-            setter = self.ask(f"put_{prop.name}", [], ["value"])
+            # What is no array is found out when the macro runs.
+            setter = self.ask(f"put_{prop.name}", [], ["(System.Array)value" if prop.type.endswith("[]") else "value"])
             yield (f"{type_} {prop.name} {{ get; set; }}",
                    f"public {type_} {prop.name} {{ get {{ {getter} }} set {{ {setter} }} }}")
 

@@ -213,6 +213,8 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitTrimEntities: property", {Cpp, CppCom}},
         // A color has a variable of its own in C++.
         {"color", {Cpp}, 2},
+        // The others declare it where they fetch it.
+        {"background: declaration of a color", {CSharp, JavaScript, VbNet}},
         // C++ cannot change these of a style, nor a style's name.
         {"EmitTableBordersColor", {Cpp}},
         {"EmitReplaceRichLineElement", {Cpp}},

@@ -62,9 +62,8 @@ Statement replaceElements(const AddedObject& added, const OdDbMlineStyle& style)
     int index = 0;
     for (const auto& [offset, element] : elements) {
         const auto lineStyle = odrxCast<OdDbLinetypeTableRecord>(element.linetypeId.openObject(true).get());
-        const Statement statement =
-            EmitReplaceRichLineElement(added.writer, added.name, index, offset, element.color.colorIndex(),
-                                       lineStyle ? lineStyle->getName() : OdString());
+        const Statement statement = EmitReplaceRichLineElement(added.writer, added.name, index, offset, element.color,
+                                                               lineStyle ? lineStyle->getName() : OdString());
         if (statement.isEmpty())
             LoseProperty(added.object, "elements", "the target has no statement for lines of such a style");
         text += statement;

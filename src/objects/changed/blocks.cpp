@@ -20,7 +20,7 @@ const ChangeGroups modifiedPicture{
     {real, "Width", "Width"},
     {anyYes, "Show clipped", "ShowClipped"},
     {anyYes, "Show image", "ShowImage"},
-    {anyYes, "Transparency", "Transparency"},
+    {otherTransparency, "Transparency", "Transparency"},
     {point, "Position", "Position"},
 };
 

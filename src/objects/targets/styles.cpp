@@ -4,6 +4,7 @@
 
 #include "statements/RecordingState.h"
 #include "statements/quoting.h"
+#include "targets/colors.h"
 #include "targets/customActions.h"
 
 using namespace inkmacro;
@@ -141,21 +142,31 @@ Statement EmitActivateLayer(Writer& writer, const CFxString& variable)
     return writer.fill(activateLayer).text(variable).number(++writer.UniqueCounter);
 }
 
-static const Phrase replaceElement{
-    "EmitReplaceRichLineElement",
-    {
-        .cppCom = "%1%3->DeleteLine(%4);%2"
-                  "%1%3->AddLine(%5, pConnection->m_IwApp->GetColorByIndex( %6 ), L\"%7\");%2",
-        .csharp = "%1%3.DeleteLine(%4);%2%1%3.AddLine(%5, iwApp.GetColorByIndex( %6 ), \"%7\");%2",
-        .javascript = "%1%3.DeleteLine(%4);%2%1%3.AddLine(%5, mApp.GetColorByIndex(%6), \"%7\");%2",
-        .vbNet = "%1%3.DeleteLine(%4)%2%1%3.AddLine(%5, iwApp.GetColorByIndex( %6 ), \"%7\")%2",
-        .vba = "%1%3.DeleteLine %4%2%1%3.AddLine %5, iwApp.GetColorByIndex( %6 ), \"%7\"%2",
-    }};
+static const Phrase replaceElement{"EmitReplaceRichLineElement",
+                                   {
+                                       .cppCom = "%1%3->DeleteLine(%4);%2%1%3->AddLine(%5, %6, L\"%7\");%2",
+                                       .csharp = "%1%3.DeleteLine(%4);%2%1%3.AddLine(%5, %6, \"%7\");%2",
+                                       .javascript = "%1%3.DeleteLine(%4);%2%1%3.AddLine(%5, %6, \"%7\");%2",
+                                       .vbNet = "%1%3.DeleteLine(%4)%2%1%3.AddLine(%5, %6, \"%7\")%2",
+                                       .vba = "%1%3.DeleteLine %4%2%1%3.AddLine %5, %6, \"%7\"%2",
+                                   }};
 
-Statement EmitReplaceRichLineElement(Writer& writer, const CFxString& style, int index, double offset, int color,
-                                     const CFxString& lineStyle)
+static const Fault kLineByBlock{"EmitReplaceRichLineElement",
+                                {Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+                                "a line of a rich line style loses a color of red, green and blue"};
+
+Statement EmitReplaceRichLineElement(Writer& writer, const CFxString& style, int index, double offset,
+                                     const OdCmColor& color, const CFxString& lineStyle)
 {
-    return writer.fill(replaceElement).text(style).number(index).real(offset).number(color).text(lineStyle);
+    const bool isRgb = !color.isByLayer() && !color.isByBlock() && !color.isByACI();
+    const OdCmColor written = isRgb && !writer.repairs ? OdCmColor::byIndex(color.colorIndex()) : color;
+    const Statement text = writer.fill(replaceElement)
+                               .text(style)
+                               .number(index)
+                               .real(offset)
+                               .text(colorExpression(writer.target, written))
+                               .text(lineStyle);
+    return isRgb ? writer.faulty(text, kLineByBlock) : text;
 }
 
 /// A page gets a result that has the layer.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/db/OdCmColor.h"
 #include "statements/Writer.h"
 
 Statement EmitCreateTableStyle(Writer& writer, const CFxString& styleName, const CFxString& name);
@@ -14,9 +15,10 @@ Statement EmitRenameStyle(Writer& writer, const CFxString& style, const CFxStrin
 Statement EmitRenameRichLineStyle(Writer& writer, const CFxString& style, const CFxString& newName);
 /// Makes a style or a layer the current one.
 Statement EmitActivateLayer(Writer& writer, const CFxString& variable);
-/// Puts another line in the place of one of a rich line style. `color` is an index.
-Statement EmitReplaceRichLineElement(Writer& writer, const CFxString& style, int index, double offset, int color,
-                                     const CFxString& lineStyle);
+/// Puts another line in the place of one of a rich line style. A color of red, green and blue counts as by block there,
+/// but not in a repaired macro.
+Statement EmitReplaceRichLineElement(Writer& writer, const CFxString& style, int index, double offset,
+                                     const OdCmColor& color, const CFxString& lineStyle);
 
 Statement EmitCreateLayer(Writer& writer, const CFxString& layer, const CFxString& name);
 /// What the statements of a layer work on: a page's variable of a new layer is a result that has the layer.

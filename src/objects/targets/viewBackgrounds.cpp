@@ -5,6 +5,9 @@
 #include "statements/counters.h"
 #include "statements/wording.h"
 
+#include <algorithm>
+#include <vector>
+
 using namespace inkmacro;
 
 static const Phrase imageBackground{
@@ -41,115 +44,146 @@ Statement EmitImageBackground(Writer& writer, const CFxString& path, const CFxSt
     return statement.text(view);
 }
 
-/// The colors are made from any color and then set, where no call makes one from red, green and blue.
+/// A page and the .NET targets declare a color where it is fetched. `%2` is its variable.
+static const Phrase declareColor{"background: declaration of a color",
+                                 {
+                                     .cpp = "%1iwColor_ptr %2;\n",
+                                     .cppCom = "%1IColorPtr %2;\n",
+                                     .vba = "%1Dim %2 As Inkwright.Color\n",
+                                 }};
+
+static const Phrase indexedColor{"background: color by index",
+                                 {
+                                     .cpp = "%1m_pIwApp->GetColorByIndex( %3, &%2 );\n",
+                                     .cppCom = "%1%2 = pConnection->m_IwApp->GetColorByIndex( %3 );\n",
+                                     .csharp = "%1Color %2 = iwApp.GetColorByIndex( %3 );\n",
+                                     .javascript = "%1var %2 = mApp.GetColorByIndex( %3 );\n",
+                                     .vbNet = "%1Dim %2 As Inkwright.Color = iwApp.GetColorByIndex( %3 )\n",
+                                     .vba = "%1Set %2 = iwApp.GetColorByIndex( %3 )\n",
+                                 }};
+
+/// Where no call makes a color of red, green and blue, they are set on any color.
+static const Phrase rgbColor{"background: RGB color",
+                             {
+                                 .cpp = "%1m_pIwApp->GetRGBColor( %3, %4, %5, &%2 );\n",
+                                 .cppCom = "%1%2 = pConnection->m_IwApp->GetRGBColor( %3, %4, %5 );\n",
+                                 .csharp = "%1%2.SetRGBColor( %3, %4, %5 );\n",
+                                 .javascript = "%1%2.SetRGBColor( %3, %4, %5 );\n",
+                                 .vbNet = "%1%2.SetRGBColor( %3, %4, %5 )\n",
+                                 .vba = "%1%2.SetRGBColor %3, %4, %5\n",
+                             }};
+
+static const Fault kBlackBackground{
+    "EmitSolidBackground",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "a color by index, by layer or by block counts as black behind a view"};
+
+namespace {
+
+/// One color of a background.
+struct BackgroundColor
+{
+    QString variable; ///< as C++ spells it; the other targets begin it with a small letter
+    OdCmColor color;
+    std::uint16_t any; ///< index of the color that red, green and blue are set on
+};
+
+bool isIndexed(const OdCmColor& color)
+{
+    return color.isByLayer() || color.isByBlock() || color.isByACI();
+}
+
+} // namespace
+
+static Statement makeColors(Writer& writer, std::vector<BackgroundColor> colors)
+{
+    const bool isCpp = writer.target == Target::Cpp || writer.target == Target::CppCom;
+    const auto keepsIndex = [&](const OdCmColor& color) { return isIndexed(color) && writer.repairs; };
+    Statement text;
+    for (BackgroundColor& one : colors) {
+        if (!isCpp)
+            one.variable[0] = one.variable[0].toLower();
+        if (declareColor.has(writer.target))
+            text += writer.fillIndented(declareColor).text(one.variable);
+    }
+    for (const auto& [variable, color, any] : colors)
+        if (keepsIndex(color) || !isCpp)
+            text += writer.fillIndented(indexedColor)
+                        .text(variable)
+                        .number(unsigned{keepsIndex(color) ? color.colorIndex() : any});
+    for (const auto& [variable, color, any] : colors)
+        if (!keepsIndex(color))
+            text += writer.fillIndented(rgbColor)
+                        .text(variable)
+                        .number(color.red())
+                        .number(color.green())
+                        .number(color.blue());
+    const bool isBlack = std::ranges::any_of(colors, isIndexed, &BackgroundColor::color);
+    return isBlack ? writer.faulty(std::move(text), kBlackBackground) : text;
+}
+
 static const Phrase gradientBackground{
     "EmitGradientBackground",
     {
-        .cpp = "%1iwColor_ptr TopColor%2;\n%1iwColor_ptr MiddleColor%2;\n%1iwColor_ptr BottomColor%2;\n"
-               "%1m_pIwApp->GetRGBColor( %3, %4, %5, &TopColor%2 );\n"
-               "%1m_pIwApp->GetRGBColor( %6, %7, %8, &MiddleColor%2 );\n"
-               "%1m_pIwApp->GetRGBColor( %9, %10, %11, &BottomColor%2 );\n"
-               "%1iwGradientBackground_ptr iwGradientBackground%2;\n"
-               "%1iwViewManager->CreateGradientBackground( TopColor%2, MiddleColor%2, BottomColor%2, %13, %12, "
+        .cpp = "%1iwGradientBackground_ptr iwGradientBackground%2;\n"
+               "%1iwViewManager->CreateGradientBackground( TopColor%2, MiddleColor%2, BottomColor%2, %4, %3, "
                "&iwGradientBackground%2 );\n"
-               "%1%14->SetGradientBackground( iwGradientBackground%2 );\n\n",
-        .cppCom = "%1IColorPtr TopColor%2;\n%1IColorPtr MiddleColor%2;\n%1IColorPtr BottomColor%2;\n"
-                  "%1TopColor%2 = pConnection->m_IwApp->GetRGBColor( %3, %4, %5 );\n"
-                  "%1MiddleColor%2 = pConnection->m_IwApp->GetRGBColor( %6, %7, %8 );\n"
-                  "%1BottomColor%2 = pConnection->m_IwApp->GetRGBColor( %9, %10, %11 );\n"
-                  "%1IGradientBackgroundPtr iwGradientBackground%2;\n"
+               "%1%5->SetGradientBackground( iwGradientBackground%2 );\n\n",
+        .cppCom = "%1IGradientBackgroundPtr iwGradientBackground%2;\n"
                   "%1iwGradientBackground%2 = iwViewManager->CreateGradientBackground( TopColor%2, MiddleColor%2, "
-                  "BottomColor%2, %13, %12 );\n"
-                  "%1%14->SetGradientBackground( iwGradientBackground%2 );\n\n",
-        .csharp = "%1Color topColor%2 = iwApp.GetColorByIndex( 1 );\n"
-                  "%1Color middleColor%2 = iwApp.GetColorByIndex( 2 );\n"
-                  "%1Color bottomColor%2 = iwApp.GetColorByIndex( 3 );\n"
-                  "%1topColor%2.SetRGBColor( %3, %4, %5 );\n"
-                  "%1middleColor%2.SetRGBColor( %6, %7, %8 );\n"
-                  "%1bottomColor%2.SetRGBColor( %9, %10, %11 );\n"
-                  "%1GradientBackground iwGradientBackground%2 = iwViewManager.CreateGradientBackground( topColor%2, "
-                  "middleColor%2, bottomColor%2, %13, %12 );\n"
-                  "%1%14.SetGradientBackground( iwGradientBackground%2 );\n\n",
-        .javascript = "%1var topColor%2 = mApp.GetColorByIndex( 1 );\n"
-                      "%1var middleColor%2 = mApp.GetColorByIndex( 2 );\n"
-                      "%1var bottomColor%2 = mApp.GetColorByIndex( 3 );\n"
-                      "%1topColor%2.SetRGBColor( %3, %4, %5 );\n"
-                      "%1middleColor%2.SetRGBColor( %6, %7, %8 );\n"
-                      "%1bottomColor%2.SetRGBColor( %9, %10, %11 );\n"
-                      "%1var iwGradientBackground%2 = mViewManager.CreateGradientBackground( topColor%2, "
-                      "middleColor%2, bottomColor%2, %13, %12 );\n"
-                      "%1%14.SetGradientBackground( iwGradientBackground%2 );\n\n",
-        .vbNet = "%1Dim topColor%2 As Inkwright.Color = iwApp.GetColorByIndex( 1 )\n"
-                 "%1Dim middleColor%2 As Inkwright.Color = iwApp.GetColorByIndex( 2 )\n"
-                 "%1Dim bottomColor%2 As Inkwright.Color = iwApp.GetColorByIndex( 3 )\n"
-                 "%1topColor%2.SetRGBColor( %3, %4, %5 )\n"
-                 "%1middleColor%2.SetRGBColor( %6, %7, %8 )\n"
-                 "%1bottomColor%2.SetRGBColor( %9, %10, %11 )\n"
-                 "%1Dim iwGradientBackground%2 As Inkwright.GradientBackground = "
-                 "iwViewManager.CreateGradientBackground( topColor%2, middleColor%2, bottomColor%2, %13, %12 )\n"
-                 "%1%14.SetGradientBackground( iwGradientBackground%2 )\n\n",
-        .vba = "%1Dim topColor%2 As Inkwright.Color\n%1Dim middleColor%2 As Inkwright.Color\n"
-               "%1Dim bottomColor%2 As Inkwright.Color\n%1Set topColor%2 = iwApp.GetColorByIndex( 1 )\n"
-               "%1Set middleColor%2 = iwApp.GetColorByIndex( 2 )\n%1Set bottomColor%2 = iwApp.GetColorByIndex( 3 )\n"
-               "%1topColor%2.SetRGBColor %3, %4, %5\n%1middleColor%2.SetRGBColor %6, %7, %8\n"
-               "%1bottomColor%2.SetRGBColor %9, %10, %11\n"
-               "%1Dim iwGradientBackground%2 As Inkwright.GradientBackground\n"
+                  "BottomColor%2, %4, %3 );\n"
+                  "%1%5->SetGradientBackground( iwGradientBackground%2 );\n\n",
+        .csharp = "%1GradientBackground iwGradientBackground%2 = iwViewManager.CreateGradientBackground( topColor%2, "
+                  "middleColor%2, bottomColor%2, %4, %3 );\n"
+                  "%1%5.SetGradientBackground( iwGradientBackground%2 );\n\n",
+        .javascript = "%1var iwGradientBackground%2 = mViewManager.CreateGradientBackground( topColor%2, "
+                      "middleColor%2, bottomColor%2, %4, %3 );\n"
+                      "%1%5.SetGradientBackground( iwGradientBackground%2 );\n\n",
+        .vbNet = "%1Dim iwGradientBackground%2 As Inkwright.GradientBackground = "
+                 "iwViewManager.CreateGradientBackground( topColor%2, middleColor%2, bottomColor%2, %4, %3 )\n"
+                 "%1%5.SetGradientBackground( iwGradientBackground%2 )\n\n",
+        .vba = "%1Dim iwGradientBackground%2 As Inkwright.GradientBackground\n"
                "%1Set iwGradientBackground%2 = iwViewManager.CreateGradientBackground( topColor%2, middleColor%2, "
-               "bottomColor%2, %13, %12 )\n"
-               "%1%14.SetGradientBackground iwGradientBackground%2\n\n",
+               "bottomColor%2, %4, %3 )\n"
+               "%1%5.SetGradientBackground iwGradientBackground%2\n\n",
     }};
-
-/// The three parts in the order of the host's call.
-static Fill& putColor(Fill& statement, const OdCmColor& color)
-{
-    return statement.number(color.red()).number(color.green()).number(color.blue());
-}
 
 Statement EmitGradientBackground(Writer& writer, const OdCmColor& top, const OdCmColor& middle, const OdCmColor& bottom,
                                  double rotation, double height, const CFxString& view)
 {
-    Fill statement = writer.fillIndented(gradientBackground);
-    statement.number(processCounters.of(writer.target).gradientBackgrounds++);
-    for (const OdCmColor& color : {top, middle, bottom})
-        putColor(statement, color);
-    return statement.real(rotation).real(height).text(view);
+    const std::uint32_t number = processCounters.of(writer.target).gradientBackgrounds++;
+    const QString digits = QString::number(number);
+    Statement colors = makeColors(
+        writer,
+        {{"TopColor" + digits, top, 1}, {"MiddleColor" + digits, middle, 2}, {"BottomColor" + digits, bottom, 3}});
+    return std::move(colors) +
+           writer.fillIndented(gradientBackground).number(number).real(rotation).real(height).text(view).str();
 }
 
 static const Phrase solidBackground{
     "EmitSolidBackground",
     {
-        .cpp = "%1iwColor_ptr SolidColor%2;\n%1m_pIwApp->GetRGBColor( %3, %4, %5, &SolidColor%2 );\n"
-               "%1iwSolidBackground_ptr iwSolidBackground%2;\n"
+        .cpp = "%1iwSolidBackground_ptr iwSolidBackground%2;\n"
                "%1iwViewManager->CreateSolidBackground( SolidColor%2, &iwSolidBackground%2 );\n"
-               "%1%6->SetSolidBackground( iwSolidBackground%2 );\n\n",
-        .cppCom = "%1IColorPtr SolidColor%2;\n"
-                  "%1SolidColor%2 = pConnection->m_IwApp->GetRGBColor( %3, %4, %5 );\n"
-                  "%1ISolidBackgroundPtr iwSolidBackground%2;\n"
+               "%1%3->SetSolidBackground( iwSolidBackground%2 );\n\n",
+        .cppCom = "%1ISolidBackgroundPtr iwSolidBackground%2;\n"
                   "%1iwSolidBackground%2 = iwViewManager->CreateSolidBackground( SolidColor%2 );\n"
-                  "%1%6->SetSolidBackground( iwSolidBackground%2 );\n\n",
-        .csharp = "%1Color solidColor%2 = iwApp.GetColorByIndex( 3 );\n"
-                  "%1solidColor%2.SetRGBColor( %3, %4, %5 );\n"
-                  "%1SolidBackground iwSolidBackground%2 = iwViewManager.CreateSolidBackground( solidColor%2 );\n"
-                  "%1%6.SetSolidBackground( iwSolidBackground%2 );\n\n",
-        .javascript = "%1var solidColor%2 = mApp.GetColorByIndex( 3 );\n"
-                      "%1solidColor%2.SetRGBColor( %3, %4, %5 );\n"
-                      "%1var iwSolidBackground%2 = mViewManager.CreateSolidBackground( solidColor%2 );\n"
-                      "%1%6.SetSolidBackground( iwSolidBackground%2 );\n\n",
-        .vbNet = "%1Dim solidColor%2 As Inkwright.Color = iwApp.GetColorByIndex( 3 )\n"
-                 "%1solidColor%2.SetRGBColor( %3, %4, %5 )\n"
-                 "%1Dim iwSolidBackground%2 As Inkwright.SolidBackground = "
+                  "%1%3->SetSolidBackground( iwSolidBackground%2 );\n\n",
+        .csharp = "%1SolidBackground iwSolidBackground%2 = iwViewManager.CreateSolidBackground( solidColor%2 );\n"
+                  "%1%3.SetSolidBackground( iwSolidBackground%2 );\n\n",
+        .javascript = "%1var iwSolidBackground%2 = mViewManager.CreateSolidBackground( solidColor%2 );\n"
+                      "%1%3.SetSolidBackground( iwSolidBackground%2 );\n\n",
+        .vbNet = "%1Dim iwSolidBackground%2 As Inkwright.SolidBackground = "
                  "iwViewManager.CreateSolidBackground( solidColor%2 )\n"
-                 "%1%6.SetSolidBackground( iwSolidBackground%2 )\n\n",
-        .vba = "%1Dim solidColor%2 As Inkwright.Color\n%1Set solidColor%2 = iwApp.GetColorByIndex( 3 )\n"
-               "%1solidColor%2.SetRGBColor %3, %4, %5\n"
-               "%1Dim iwSolidBackground%2 As Inkwright.SolidBackground\n"
+                 "%1%3.SetSolidBackground( iwSolidBackground%2 )\n\n",
+        .vba = "%1Dim iwSolidBackground%2 As Inkwright.SolidBackground\n"
                "%1Set iwSolidBackground%2 = iwViewManager.CreateSolidBackground( solidColor%2 )\n"
-               "%1%6.SetSolidBackground iwSolidBackground%2\n\n",
+               "%1%3.SetSolidBackground iwSolidBackground%2\n\n",
     }};
 
 Statement EmitSolidBackground(Writer& writer, const OdCmColor& color, const CFxString& view)
 {
-    Fill statement = writer.fillIndented(solidBackground);
-    statement.number(processCounters.of(writer.target).solidBackgrounds++);
-    return putColor(statement, color).text(view);
+    const std::uint32_t number = processCounters.of(writer.target).solidBackgrounds++;
+    return makeColors(writer, {{"SolidColor" + QString::number(number), color, 3}}) +
+           writer.fillIndented(solidBackground).number(number).text(view).str();
 }

@@ -3,6 +3,8 @@
 'use strict';
 
 const nearZero = 1e-10; // a smaller bulge is straight
+// Taken away by their names, where others are erased by their handles.
+const removedClasses = ['AcDbLayerTableRecord', 'AcDbViewTableRecord'];
 
 // A datum of another form counts as the neutral value of the form that is asked for, as it does to the application.
 function neutralOf(form) {
@@ -69,9 +71,17 @@ function makeViewport(recorded, at, action) {
     tellMaker(recorded, 'AcDbViewport', action, parts);
 }
 
+// No macro erases a sheet.
 function eraseObjects(recorded, at, action) {
     const told = recorded.told.of(action.key);
-    for (const handle of at(0, 'handles').filter(one => !told.objects.has(one))) {
+    const classes = at(1, 'classes');
+    for (const [i, handle] of at(0, 'handles').entries()) {
+        if (told.objects.has(handle) || classes[i] === 'AcDbLayout') {
+            continue;
+        }
+        if (removedClasses.includes(classes[i])) {
+            recorded.find(handle, classes[i], action);
+        }
         const leader = recorded.leaders.get(handle);
         recorded.hold(leader || handle, leader ? 'NoteAnnotation.Erased()' : 'Erased()', true, 'Erased', action);
     }

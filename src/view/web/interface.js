@@ -2,7 +2,7 @@
 
 'use strict';
 
-const basicTypes = ['double', 'int', 'long', 'bool', 'string', 'object'];
+const basicTypes = ['double', 'int', 'long', 'bool', 'string', 'object', 'typeNumber'];
 
 function parametersOf(text) {
     const parameters = [];

@@ -62,6 +62,8 @@ class Library {
         case 'double': return typeof value === 'number' && isFinite(value);
         case 'int':
         case 'long': return Number.isInteger(value);
+        // Of iwObjectType_e; no object has the first one.
+        case 'typeNumber': return Number.isInteger(value) && value > 0;
         case 'bool': return typeof value === 'boolean';
         case 'string': return typeof value === 'string';
         case 'object': return true;

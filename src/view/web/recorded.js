@@ -89,6 +89,17 @@ class Recorded {
         return one;
     }
 
+    // What the macro finds in the drawing by its name.
+    find(handle, cls, action) {
+        const row = this.places.records.get(cls) || {};
+        const made = cls !== 'AcDbViewTableRecord' ? row.made
+            : (this.drawing.get(handle) || {}).isPaperspaceView ? 'SheetNamedView' : 'ModelNamedView';
+        const name = this.nameOf(handle);
+        if (made && name && !this.byHandle.has(handle)) {
+            this.found(made, name, handle, cls, action);
+        }
+    }
+
     // The one that has the name now.
     recordOf(made, name, action) {
         const found = this.records.filter(one => one.made === made && one.value('Name()', 0) === name).pop();
@@ -153,15 +164,11 @@ class Recorded {
     }
 
     modified(record, action) {
-        const row = this.places.records.get(record.class);
-        const name = this.nameOf(record.handle);
         if (record.class === 'AcDbLayout') {
             this.layout(record, action);
             return;
         }
-        if (row && !this.byHandle.has(record.handle) && name) {
-            this.found(row.made, name, record.handle, record.class, action);
-        }
+        this.find(record.handle, record.class, action);
         this.setAll(record, action, false);
     }
 
@@ -181,7 +188,8 @@ class Recorded {
         this.setAll({class: record.class, handle: record.handle, properties: [record]}, action, false);
     }
 
-    // Of two records of one property the first counts.
+    // Of two records of one property the first counts. A picture has a yes or no of its own under the name of the
+    // transparency, and that alone may be told.
     setAll(record, action, isAdded) {
         const told = this.told.of(action.key);
         const assumed = this.assumed.of(action.key);
@@ -196,7 +204,9 @@ class Recorded {
         });
         const rank = one => this.places.rank(record.class, one.tag);
         for (const one of [...firsts.values()].sort((a, b) => rank(a) - rank(b))) {
-            if (!told.properties.has(one.tag) && this.isOf(record)) {
+            const isTransparency = record.class === 'AcDbRasterImage' && one.tag === 'Transparency'
+                && Object(one.value).transparency;
+            if ((isTransparency || !told.properties.has(one.tag)) && this.isOf(record)) {
                 this.set(record.handle, one, action, isAdded, assumed.properties.get(one.tag));
             }
         }
