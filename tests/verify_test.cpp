@@ -101,7 +101,7 @@ TEST_F(Verify, MakesOneScriptOfAllThatNodeRuns)
     const QByteArray head = "'use strict';\nconst TEXTS = ";
     ASSERT_TRUE(script.startsWith(head));
     const QByteArray rest = script.mid(script.indexOf('\n', head.size()) + 1);
-    EXPECT_EQ(rest, scripts + read("../node/verify.js"));
+    EXPECT_EQ(rest, scripts + read("../node/page.js") + read("../node/verify.js"));
     const QByteArray texts = script.mid(head.size(), script.size() - rest.size() - head.size() - 2);
     const QJsonObject tables = QJsonDocument::fromJson(texts).object();
     EXPECT_EQ(tables.keys(), web.entryList({"*.txt"}, QDir::Files, QDir::Name));
