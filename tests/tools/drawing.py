@@ -11,7 +11,8 @@ def run(checked, target, macros, names, *command):
     names."""
     node, = harness.need("node")
     jobs = [{"name": name, "recording": str(macro.recording), "macro": str(macro.file), "map": str(macro.map),
-             "written": str(macro.written or macro.file), "losses": macro.losses, "assumed": macro.assumed} for name, macro in zip(names, macros)]
+             "written": str(macro.written or macro.file), "losses": macro.losses, "assumed": macro.assumed}
+            for name, macro in zip(names, macros)]
     file = checked.folder / "macros.json"
     file.write_text(json.dumps({"target": target, "command": list(map(str, command)), "macros": jobs}),
                     encoding="utf-8")

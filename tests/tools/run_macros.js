@@ -1,9 +1,9 @@
 // Runs macros and holds the drawings that they make against their recordings. Called with the path of a file that tells
 // of the macros; prints what came of each, as JSON.
 //
-// {target, command, macros: [{name, recording, macro, written, map, losses, assumed}]}: for pages a macro is its page; for others
-// `command` starts a program that runs the macros and asks for each what stubs/csharp/Noting.cs asks. `written` is the
-// macro that the map is of.
+// {target, command, macros: [{name, recording, macro, written, map, losses, assumed}]}: for pages a macro is its page;
+// for others `command` starts a program that runs the macros and asks for each what stubs/csharp/Noting.cs asks.
+// `written` is the macro that the map is of.
 
 'use strict';
 
@@ -22,8 +22,8 @@ function begin(macro) {
 }
 
 function end({macro, lines, model}, stopped) {
-    return {name: macro.name, result: web.compareRun(tables, model, {lines: lines, losses: macro.losses, assumed: macro.assumed,
-        map: JSON.parse(read(macro.map)), macro: read(macro.macro), written: read(macro.written), stopped: stopped})};
+    return {name: macro.name, result: web.compareRun(tables, model, {lines: lines, losses: macro.losses,
+        assumed: macro.assumed, map: JSON.parse(read(macro.map)), macro: read(macro.macro), written: read(macro.written), stopped: stopped})};
 }
 
 function runPages() {

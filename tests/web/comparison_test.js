@@ -50,8 +50,8 @@ function verify(steps, {edit = text => text, losses = [], assumed = [], forget =
         model.call = (on, name, given, types) => call(on, forget(name) ? 'Activate' : name, given, types);
     }
     const stopped = runPage(macro, new web.Library(tables.known, model).globals);
-    return web.compareRun(tables, model, {lines: lines, losses: losses, assumed: assumed, map: map, macro: macro, written: written,
-        stopped: stopped});
+    return web.compareRun(tables, model, {lines: lines, losses: losses, assumed: assumed, map: map, macro: macro,
+        written: written, stopped: stopped});
 }
 
 function shown(result) {
@@ -88,7 +88,8 @@ differs(replaced(drawsArc[0], 'sketch.InsertPoint(1, 1, 0).put_Erased(true);\n' 
 differs(replaced('InsertArc(1000000, 2, 0, 5, 1, 2)', 'InsertCircle(1000000, 2, 0, 5)'), ['missing 31', 'surplus']);
 // In a loop all are of the same line, of which the first counts, and those behind it stay what they are.
 differs(replaced(drawsLine[0], 'var line1;\nfor (var i = 0; i < 3; ++i)\n' + drawsLine[0].replace('var ', '')
-    .replace('(0,', '(i,')), ['different 30 LineColor', 'different 30 Layer', 'different 30 LineWeight', 'surplus', 'surplus']);
+    .replace('(0,', '(i,')),
+    ['different 30 LineColor', 'different 30 Layer', 'different 30 LineWeight', 'surplus', 'surplus']);
 
 // What stops a run is told with its line, and what comes behind it is missing.
 {
@@ -136,23 +137,27 @@ differs(replaced(drawsLine[0], 'var line1;\nfor (var i = 0; i < 3; ++i)\n' + dra
 
 // What the application makes is not compared, but what it is handed is.
 {
-    const move = {custom: {kind: 3, data: [{handles: ['30', 'A0']}, {classes: ['AcDbLine', 'AcDbLine']}, {vector: [1, 2, 0]}]}};
-    const steps = [[theLine, drawsLine], [move, ['sketch.MoveEntities(1, 2, 0, [line1, doc.GetObjectByHandle("A0").DispObj]);'],
-        ['30', 'A0']]];
+    const move = {custom: {kind: 3, data: [{handles: ['30', 'A0']}, {classes: ['AcDbLine', 'AcDbLine']},
+        {vector: [1, 2, 0]}]}};
+    const steps = [[theLine, drawsLine],
+        [move, ['sketch.MoveEntities(1, 2, 0, [line1, doc.GetObjectByHandle("A0").DispObj]);'], ['30', 'A0']]];
     const of = edit => shown(verify(steps, {edit: edit}));
     assert.deepStrictEqual(of(text => text), ['notChecked  MoveEntities']);
     for (const [from, to] of [['(1, 2, 0,', '(1, 2.00001, 0,'], ['"A0"', '"A1"'], ['[line1, ', '[']]) {
         assert.deepStrictEqual(of(replaced(from, to)), ['different  MoveEntities']);
     }
     assert.deepStrictEqual(of(replaced(steps[1][1][0], '')), ['missing  MoveEntities']);
-    assert.deepStrictEqual(of(replaced(drawsLine[3], drawsLine[3] + '\nline1.Explode();')), ['notChecked  MoveEntities', 'surplus']);
+    assert.deepStrictEqual(of(replaced(drawsLine[3], drawsLine[3] + '\nline1.Explode();')),
+        ['notChecked  MoveEntities', 'surplus']);
 }
 
 // Polylines are compared until an edit reshapes them, and behind it by what the edits are handed.
 {
     const vertices = {collection: {elements: [[0, 0, 0], [4, 0, 0]].map(point => ({value: {point: point}}))}};
-    const edit = (word, ...data) => ({custom: {kind: 40, data: [{string: word}, {handle: '40'}, {class: 'AcDbPolyline'}, ...data]}});
-    const steps = [[added('AcDbPolyline', '40', {Vertex: vertices}), ['var p = sketch.InsertPolyline2D([0, 0, 4, 0], false);']],
+    const edit = (word, ...data) => ({custom: {kind: 40,
+        data: [{string: word}, {handle: '40'}, {class: 'AcDbPolyline'}, ...data]}});
+    const steps = [
+        [added('AcDbPolyline', '40', {Vertex: vertices}), ['var p = sketch.InsertPolyline2D([0, 0, 4, 0], false);']],
         [edit('_MOVE', {int: 1}, {point: [5, 1, 9]}), ['p.SetVertexCoordinate(1, 5, 1);'], ['40']],
         [edit('_INSERT', {int: 0}, {point: [2, 2, 9]}), ['p.AddVertexAfter(0, 2, 2);'], ['40']],
         [edit('_MOVE', {int: 2}, {point: [6, 1, 9]}), ['p.SetVertexCoordinate(2, 6, 1);'], ['40']]];

@@ -17,7 +17,8 @@ const line = curvesOf('AcDbLine', {startPoint: [0, 0, 0], endPoint: [10, 5, 0]})
 const rising = curvesOf('AcDbLine', {startPoint: [0, 0, 0], endPoint: [10, 0, 10]});
 const arc = curvesOf('AcDbArc', {center: [0, 0, 0], radius: 10, startAngle: 6, endAngle: 1});
 const huge = curvesOf('AcDbArc', {center: [1e12, 0, 0], radius: 1e12, startAngle: 3, endAngle: 3.3});
-const ellipse = curvesOf('AcDbEllipse', {center: [0, 0, 0], majorAxis: [8, 0, 0], minorAxis: [0, 2, 0], endAngle: 2 * Math.PI});
+const ellipse = curvesOf('AcDbEllipse', {center: [0, 0, 0], majorAxis: [8, 0, 0], minorAxis: [0, 2, 0],
+    endAngle: 2 * Math.PI});
 const half = curvesOf('AcDbPolyline', {points: [[0, 0], [4, 0]], bulges: [1]});
 const square = curvesOf('AcDbPolyline', {points: [[0, 0], [4, 0], [4, 4], [0, 4]], isClosed: true});
 const path = curvesOf('AcDb3dPolyline', {vertices: [[0, 0, 0], [4, 0, 2], [4, 4, 0]]});

@@ -24,7 +24,8 @@ function main(path) {
     const result = verify(job);
     const head = {verificationVersion: verificationVersion, programVersion: job.programVersion, input: job.input,
         macro: job.macroName};
-    process.stdout.write(job.json ? JSON.stringify(Object.assign(head, result)) + '\n' : verificationText(job.input, result));
+    process.stdout.write(job.json ? JSON.stringify(Object.assign(head, result)) + '\n'
+        : verificationText(job.input, result));
     process.exitCode = result.verdict === 'equal' ? 0 : 1;
 }
 

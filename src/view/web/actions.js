@@ -23,7 +23,8 @@ function actionsOf(lines) {
                 continue;
             }
             const kind = action.custom ? action.custom.kind : 0;
-            if ('command' in action || isCommand && 'null' in action || refusedKinds.includes(kind) || kind > lastKind) {
+            const isRefused = refusedKinds.includes(kind) || kind > lastKind;
+            if ('command' in action || isCommand && 'null' in action || isRefused) {
                 break;
             }
             const path = isCommand ? 'command.actions[' + i + ']' : '';
@@ -36,6 +37,8 @@ function actionsOf(lines) {
 function noneTold() {
     return {whole: false, objects: new Set(), inBlock: new Set(), properties: new Map()};
 }
+
+const lossTitle = /^(?:property "(.*)" of |added |changes of )?(?:AcDb\w+|object) ([0-9A-F]+)( in block .*)?$/;
 
 // What the report tells of the actions, as lost or as assumed: all of one, objects, objects that a block lacks, and
 // properties by their tags, with the value that the macro has in place of one that is assumed.
@@ -53,8 +56,7 @@ class Told {
     }
 
     add(told, {line, what, reason}) {
-        const [, tag, handle, block] = /^(?:property "(.*)" of |added |changes of )?(?:AcDb\w+|object) ([0-9A-F]+)( in block .*)?$/
-            .exec(what) || [];
+        const [, tag, handle, block] = lossTitle.exec(what) || [];
         if (block !== undefined) {
             told.inBlock.add(handle);
         } else if (tag !== undefined) {

@@ -59,7 +59,8 @@ function deriveNote(held) {
 
 // Sizes of the rows and columns that were not set one by one.
 function deriveTable(held) {
-    for (const [count, size, one] of [['Rows()', 'RowHeight()', 'RowHeightAt'], ['Columns()', 'ColumnWidth()', 'ColumnWidthAt']]) {
+    for (const [count, size, one] of [['Rows()', 'RowHeight()', 'RowHeightAt'],
+        ['Columns()', 'ColumnWidth()', 'ColumnWidthAt']]) {
         const length = held.get(size);
         held.delete(size);
         for (let number = 0; length && number < held.get(count)[0]; ++number) {
@@ -244,7 +245,8 @@ class Comparison {
             }
             const seen = measured ? heldOf(measured, of, index) : heldOf(thing, question, index);
             const isRight = seen === undefined
-                ? isNothing(value) || value === anything || this.isDefault(cls, question, value) || this.places.optional.has(cls + ' ' + question)
+                ? isNothing(value) || value === anything || this.isDefault(cls, question, value)
+                    || this.places.optional.has(cls + ' ' + question)
                 : value !== null && value !== undefined && value.handle ? this.isHanded(seen, value)
                     : fits(question, seen, value, this.places.turns.has(question + index));
             if (!isRight) {
@@ -320,7 +322,8 @@ class Comparison {
                 return this.rangeOf(value).handles.includes(wanted.handle);
             }
             return expected ? [wanted.handle, leader].includes(expected.handle) : value instanceof Thing
-                && ([wanted.handle, leader].includes(value.handle) || !value.handle && this.isDrawnOf(value, wanted.handle));
+                && ([wanted.handle, leader].includes(value.handle)
+                    || !value.handle && this.isDrawnOf(value, wanted.handle));
         }
         return wanted === null || fits('', value, wanted, false);
     }

@@ -15,8 +15,8 @@ function neutralOf(form) {
 function drawPolyline(recorded, at, action) {
     const handle = at(3, 'handle');
     const vertices = at(0, 'points').map(point => ({value: {point: point}}));
-    recorded.added({class: at(4, 'class'), handle: handle, properties: [{tag: 'Vertex', value: {collection: {elements: vertices}}}]},
-        action);
+    recorded.added({class: at(4, 'class'), handle: handle,
+        properties: [{tag: 'Vertex', value: {collection: {elements: vertices}}}]}, action);
     const one = recorded.byHandle.get(handle);
     if (!one || one.action !== action) {
         return;
@@ -36,7 +36,8 @@ function drawPolyline(recorded, at, action) {
 
 function fillHatch(recorded, at, action) {
     const pattern = [['PatternName()', 0, at(0, 'string'), 'pattern', action],
-        ['PatternScale()', 0, at(1, 'double'), 'scale', action], ['PatternAngle()', 0, at(2, 'double'), 'angle', action]];
+        ['PatternScale()', 0, at(1, 'double'), 'scale', action],
+        ['PatternAngle()', 0, at(2, 'double'), 'angle', action]];
     const [byPoints, byEntities, byBulges, hasGradient] = [3, 4, 5, 6].map(number => at(number, 'bool'));
     const first = byPoints ? 8 : byBulges && !byEntities ? 10 : 9;
     if (hasGradient) {
@@ -129,7 +130,8 @@ function backgroundOf(at) {
 function makeView(recorded, at, action) {
     const [handle, name, sheet] = [at(0, 'handle'), at(5, 'string'), at(4, 'string')];
     const [isNew, onSheet] = [at(2, 'bool'), at(3, 'bool')];
-    const view = isNew ? recorded.named(onSheet ? 'SheetNamedView' : 'ModelNamedView', name, handle, at(1, 'class'), action)
+    const made = onSheet ? 'SheetNamedView' : 'ModelNamedView';
+    const view = isNew ? recorded.named(made, name, handle, at(1, 'class'), action)
         : recorded.byHandle.get(handle);
     if (view && !onSheet) {
         backgroundOf(at).forEach((value, index) => view.hold('Background()', index, value, 'background', action));

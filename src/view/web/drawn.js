@@ -21,7 +21,8 @@ function holdDrawn(recorded, one) {
         hold('Path()', 0, block.pathName || '', 'pathName');
     }
     if (recorded.drawing.has(drawn.annotationObjectId)) {
-        annotate(recorded, recorded.drawing.get(drawn.annotationObjectId), (name, value, tag) => hold(name + '()', 0, value, tag));
+        annotate(recorded, recorded.drawing.get(drawn.annotationObjectId),
+            (name, value, tag) => hold(name + '()', 0, value, tag));
     }
     let corner = 0;
     (drawn.faces || []).forEach((face, number) => {
@@ -32,7 +33,8 @@ function holdDrawn(recorded, one) {
     });
     if (/Diametric|Radial/.test(one.cls) && drawn.chordPoint) {
         const {chordPoint, farChordPoint} = drawn;
-        const center = farChordPoint ? chordPoint.map((value, axis) => (value + farChordPoint[axis]) / 2) : drawn.center;
+        const center = farChordPoint ? chordPoint.map((value, axis) => (value + farChordPoint[axis]) / 2)
+            : drawn.center;
         (center || []).forEach((value, axis) => hold('Curve.Center()', axis, value, 'center'));
         hold('Curve.Radius()', 0, Math.hypot(...chordPoint.map((value, axis) => value - center[axis])), 'radius');
     }

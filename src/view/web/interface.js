@@ -45,8 +45,7 @@ function checkTypes(known) {
     }
 }
 
-// As one target sees it. A base is the name of a class, or empty; `drawn` is the drawing's class whose added objects are
-// inserted as the class, or empty.
+// As one target sees it. A base is the name of a class, or empty.
 function readInterface(text, target) {
     const known = {classes: {}, enumerations: {}};
     let add = null;
@@ -58,7 +57,7 @@ function readInterface(text, target) {
         }
         line = only ? rest : line;
         const [, enumeration] = /^enum (\w+)$/.exec(line) || [];
-        const [, name, base, drawn] = /^(\w+)(?: : (\w+))?(?: = (\w+))?$/.exec(line) || [];
+        const [, name, base] = /^(\w+)(?: : (\w+))?$/.exec(line) || [];
         try {
             if (line.startsWith(' ')) {
                 add(line.trim());
@@ -69,8 +68,8 @@ function readInterface(text, target) {
                 if (base && !known.classes[base]) {
                     throw new Error('the base ' + base + ' has to stand in front of ' + name);
                 }
-                const cls = known.classes[name] = known.classes[name] || {
-                    name: name, base: base || '', drawn: drawn || '', operations: [], properties: []};
+                const cls = known.classes[name] = known.classes[name] || {name: name, base: base || '', operations: [],
+                    properties: []};
                 add = one => addMember(cls, one);
             } else if (line) {
                 throw new Error(JSON.stringify(line) + ' begins neither a class nor an enumeration');

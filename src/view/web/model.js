@@ -201,7 +201,8 @@ class Model {
         }
         const question = makes ? '' : name.replace(/^(Get|get_)/, '') + '(' + shownIndexes(given) + ')';
         const known = makes ? [] : this.knownAnswers(on, name, question, given, types);
-        const results = types.map((type, i) => i < known.length ? known[i] : this.answer(on, name, type, given, question));
+        const results = types.map((type, i) => i < known.length ? known[i]
+            : this.answer(on, name, type, given, question));
         if (makes) {
             this.tellMade(results.find(one => one instanceof Thing), on, name, given, noted);
         }
@@ -253,7 +254,8 @@ class Model {
         const selected = name === 'GetSelectedObject' ? this.selected[given[1]] : null;
         switch (name) {
         case 'GetSelectedObjectCount': return [this.selected.length];
-        case 'GetSelectedObject': return selected ? [selected.thing, types[1] === 'int' ? selected.number : selected.type] : [];
+        case 'GetSelectedObject':
+            return selected ? [selected.thing, types[1] === 'int' ? selected.number : selected.type] : [];
         case 'GetObjectByHandle': return [this.foundObject(given[0], 'FoundObject')];
         case 'get_DispObj': return [on];
         case 'GetAttributeInstances': return [this.attributes(on)];
@@ -289,7 +291,8 @@ class Model {
             return this.known.enumerations[type][0];
         }
         if (type === 'Color') {
-            return this.color(name === 'GetRGBColor' ? {rgb: given.slice()} : given.length ? colorOfIndex(given[0]) : null);
+            return this.color(name === 'GetRGBColor' ? {rgb: given.slice()}
+                : given.length ? colorOfIndex(given[0]) : null);
         }
         const cls = type === 'object' ? 'FoundObject' : this.handedOn(type);
         if (!(cls in this.known.classes) && cls !== 'FoundObject') {

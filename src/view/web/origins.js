@@ -12,7 +12,8 @@ function callPlaces(text, names) {
     const places = [];
     text.split('\n').forEach((line, index) => {
         if (line.includes('.')) {
-            for (const [, name] of codeOf(line).matchAll(/\.(\w+)\s*\(/g)) {
+            for (const called of codeOf(line).match(/\.\w+\s*\(/g) || []) {
+                const name = /\w+/.exec(called)[0];
                 if (names.has(name)) {
                     places.push({name: name, line: index + 1});
                 }

@@ -91,7 +91,8 @@ class Places {
         const common = cls.includes('Dimension') ? ['dimension', 'every'] : ['every'];
         const keys = [cls + ' ' + tag.replace(/(?<=_)\d+/g, '#'), ...common.map(one => one + ' ' + tag)];
         const both = this.rows.get(keys.find(one => this.rows.has(one))) || null;
-        const of = row => Object.assign({}, row, {name: numbers.reduce((text, one) => text.replace('#', one), row.name)});
+        const of = row => Object.assign({}, row,
+            {name: numbers.reduce((text, one) => text.replace('#', one), row.name)});
         return both && numbers.length ? {rank: both.rank, added: of(both.added), changed: of(both.changed)} : both;
     }
 }
@@ -139,7 +140,8 @@ class Calls {
             const severals = row.fields.includes('*') ? action.data.map((_, i) => i).slice(2) : [0];
             const [owners, ...fields] = /^(on|first)/.test(row.fields[0] || '') ? row.fields : ['', ...row.fields];
             for (const several of severals) {
-                const handed = [].concat(...fields.map(field => handedBy(field.replace('each', ''), action.data, several)));
+                const handed = [].concat(...fields.map(field =>
+                    handedBy(field.replace('each', ''), action.data, several)));
                 const each = fields.includes('each0') ? handed.map(one => [one]) : [handed];
                 for (const owner of ownersOf(owners, action.data)) {
                     found.push(...each.map(one => ({name: row.name, isWhole: row.isWhole, owner: owner,

@@ -115,8 +115,8 @@ class Recorded {
         }
         if (row && row.tag !== '-') {
             const named = record.properties.find(one => one.tag === row.tag);
-            const one = this.named(row.made, valueOf(named ? named.value : this.nameOf(handle), other => this.nameOf(other)), handle, record.class,
-                action);
+            const name = named ? valueOf(named.value, other => this.nameOf(other)) : this.nameOf(handle);
+            const one = this.named(row.made, name, handle, record.class, action);
             holdDrawn(this, one);
             this.setAll(record, action, true);
             return;

@@ -32,8 +32,9 @@ function startModel(tables, lines) {
     return new Model(tables.known, tables.state, tables.keyed, offeredObjects(lines), [...tags]);
 }
 
-// `given` has the recording's `lines`, the `losses` and what is `assumed` of its report, the `map` of the written macro, the text `macro` that
-// ran and the one that was `written`; `stopped` is the error that ended the run, {line, message}, or null.
+// `given` has the recording's `lines`, the `losses` and what is `assumed` of its report, the `map` of the written macro,
+// the text `macro` that ran and the one that was `written`; `stopped` is the error that ended the run, {line, message}, or
+// null.
 function compareRun(tables, model, given) {
     const origins = new Origins(given.map);
     const recorded = new Recorded(given.lines, tables.places, tables.calls, new Told(given.losses),
@@ -46,7 +47,8 @@ function compareRun(tables, model, given) {
     const told = given.losses.map(loss => ({kind: 'missingAsTold', class: '', handle: '', line: loss.line,
         path: loss.path || '', macroLines: null, what: loss.what, recorded: null, drawn: null, reason: loss.reason}));
     const place = one => one.line || Infinity;
-    const findings = told.concat(compared.findings).sort((a, b) => place(a) < place(b) ? -1 : Number(place(a) > place(b)));
+    const findings = told.concat(compared.findings).sort((a, b) =>
+        place(a) < place(b) ? -1 : Number(place(a) > place(b)));
     const counts = {equal: compared.equal, different: 0, missingAsTold: 0, missing: 0, surplus: 0, notChecked: 0};
     findings.forEach(one => { counts[one.kind] += 1; });
     const isEqual = counts.different + counts.missing + counts.surplus === 0;
@@ -61,14 +63,15 @@ function countText(count, one, several) {
 
 function valueText(value) {
     return value === null ? 'nothing' : Array.isArray(value) ? '(' + value.map(valueText).join(', ') + ')'
-        : typeof value === 'string' ? JSON.stringify(value) : JSON.stringify(value);
+        : JSON.stringify(value);
 }
 
 // One finding in a line.
 function findingText(one) {
     const place = one.line === null ? '' : 'line ' + one.line + (one.path ? ' ' + one.path : '');
     const [first, last] = one.macroLines || [];
-    const lines = one.macroLines === null ? '' : first === last ? 'macro line ' + first : 'macro lines ' + first + '-' + last;
+    const lines = one.macroLines === null ? ''
+        : first === last ? 'macro line ' + first : 'macro lines ' + first + '-' + last;
     const places = [place, lines].filter(text => text).join(', ');
     const object = [one.class, one.handle].filter(text => text).join(' ');
     const what = [object, one.what].filter(text => text).join(': ');
