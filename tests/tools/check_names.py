@@ -84,7 +84,7 @@ class Names:
         folder = self.checked.folder / f"made{len(list(self.checked.folder.iterdir()))}"
         file = folder / f"{title}.{harness.EXTENSIONS[self.target]}"
         result = harness.run(self.checked.program, "convert", recording, "--target", self.target, "--output", file,
-                             "--report", "--quiet", *options)
+                             "--report", "--quiet", "--map", *options)
         if result.returncode != 0:
             left = list(folder.iterdir()) if folder.exists() else []
             if left or result.stderr.count("\n") != 1:
@@ -92,7 +92,8 @@ class Names:
             return result.returncode, None
         macro = harness.macro_of(recording, json.loads(result.stdout)["conversions"][0])
         # The report shows no bytes.
-        return 0, dataclasses.replace(macro, name=title.partition(".")[0], folder=folder, file=file)
+        return 0, dataclasses.replace(macro, name=title.partition(".")[0], folder=folder, file=file,
+                                      map=folder / f"{file.name}.map.json")
 
     def verdict(self, macro):
         """What a compiler finds wrong with the macro; None where there is none."""

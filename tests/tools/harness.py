@@ -56,7 +56,7 @@ class Macro:
     file: pathlib.Path
     faults: tuple = ()
     project_faults: tuple = ()  # those in other files than the macro
-    map: pathlib.Path = None  # where the conversion wrote one
+    map: pathlib.Path = None
     losses: list = dataclasses.field(default=None, compare=False)
     assumed: list = dataclasses.field(default=None, compare=False)
     written: pathlib.Path = None  # the macro that the map is of, when it is another
@@ -77,7 +77,7 @@ def macro_of(recording, conversion):
               for fault in conversion["faults"] for line in fault["lines"]]
     return Macro(file.name.partition(".")[0], recording, file.parent, file,
                  tuple(fault for fault in faults if fault.file == file.name),
-                 tuple(fault for fault in faults if fault.file != file.name), pathlib.Path(conversion.get("map", "")),
+                 tuple(fault for fault in faults if fault.file != file.name), pathlib.Path(conversion["map"]),
                  conversion["losses"], conversion["assumed"])
 
 
