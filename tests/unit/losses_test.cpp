@@ -428,6 +428,9 @@ TEST(Losses, OfValuesThatNothingElseSaysAreThoseValues)
             EXPECT_TRUE(losses[i].starts_with("0.0 property \"" + lost[i] + "\" of " + cls)) << losses[i];
     }
 
+        {"AcDbEllipse",
+         R"({"tag":"Major axis vector X","value":1.0},{"tag":"Major axis vector Z","value":2.0})",
+         {"Major axis vector Z"}},
     const auto ofLine = [](const QByteArray& properties) {
         return lossesOf(command(line) + changed("AcDbLine", "30", properties)).size();
     };
