@@ -58,7 +58,7 @@ void ConvertModifiedBlockInstance(Conversion& conversion, const RecordedObject& 
 }
 
 static const inkmacro::Fault kForgotten{
-    "EmitOpenBlockDefinition",
+    "EmitCreateBlockDefinition",
     {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
     "a block that is made anew loses its description"};
 
