@@ -69,6 +69,8 @@ public:
     OdDbHandle lastFinished;
     /// In a repaired macro also those that have an action each.
     std::set<OdDbHandle> finished;
+    /// The descriptions of blocks that were recorded last.
+    std::map<OdDbHandle, CFxString> blockDescriptions;
     /// What changed layers are called by now, where that is not their name in the drawing.
     std::map<OdDbHandle, CFxString> renamedLayers;
 

@@ -63,6 +63,26 @@ void noteAsked(const Conversion& conversion, const ChangeRow& row)
         conversion.asked->push_back({row.kind.secondTag, forms::number});
 }
 
+using inkmacro::Target;
+const inkmacro::Fault kPlaceForNumber{
+    "ConvertRows",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "the place of the chosen item of a list is taken for the item's number"};
+
+/// The chosen item of a list from which its number is wanted, where that is not its place; else null.
+CFxVariant numberedItem(const CFxVariant& value, const ValueForm& form)
+{
+    if (value.GetType() != CFxVariant::kCollection || !form.accepts(CFxVariant::kInt32))
+        return {};
+    const std::int32_t place = value.GetCollection().GetChosen();
+    const auto& items = value.GetCollection().GetCollectionDataForRead();
+    if (place < 0 || static_cast<std::size_t>(place) >= items.size())
+        return {};
+    const CFxVariantCollectionElement& item = items[static_cast<std::size_t>(place)];
+    const bool isOther = forms::number.fits(*item.GetTag()) && item.GetTag()->GetInt32() != place;
+    return isOther ? CFxVariant(item) : CFxVariant();
+}
+
 } // namespace
 
 void ConvertRows(Conversion& conversion, const ChangeGroups& groups, const RecordedObject& object, PropertyList& list,
@@ -75,7 +95,7 @@ void ConvertRows(Conversion& conversion, const ChangeGroups& groups, const Recor
             for (const ChangeRow& row : part.rows) {
                 noteAsked(conversion, row);
                 CFxVariant number;
-                const CFxVariant value = FindProperty(conversion, row.tag, list, nullptr, &number);
+                CFxVariant value = FindProperty(conversion, row.tag, list, nullptr, &number);
                 const char* const secondTag = row.kind.secondTag;
                 const CFxVariant second = secondTag ? FindProperty(conversion, secondTag, list) : CFxVariant();
                 if (value.IsNull() && second.IsNull())
@@ -85,13 +105,19 @@ void ConvertRows(Conversion& conversion, const ChangeGroups& groups, const Recor
                     LoseProperty(object, row.tag.text(), "its number is not recorded");
                     continue;
                 }
+                const CFxVariant item = numberedItem(value, row.kind.form);
+                if (writer.repairs && !item.IsNull())
+                    value = item;
                 const CFxString target = objects.variable(part.on, text);
-                const Statement statement =
-                    row.kind.statement({writer, row, target, value, second, index, number, IdOf(object.handle)});
-                if (statement.isEmpty() && !row.kind.maySayNothing)
-                    LoseProperty(object, row.tag.text(), "the target has no statement that sets it so");
-                else if (!statement.isEmpty())
+                Statement statement = row.kind.statement({writer, row, target, value, second, index, number, object});
+                if (!item.IsNull())
+                    statement = writer.faulty(std::move(statement), kPlaceForNumber);
+                if (!statement.isEmpty())
                     AssumeUnlessFormed(object, row.tag.text(), value, row.kind.form);
+                else if (row.kind.maySayNothing)
+                    LoseUnlessFormed(object, row.tag.text(), value, row.kind.form);
+                else
+                    LoseProperty(object, row.tag.text(), "the target has no statement that sets it so");
                 text += statement;
                 if (part.on && part.on->writtenBack)
                     text += EmitSetOptions(writer, *part.on, objects.variable(part.on->owner, text), target);

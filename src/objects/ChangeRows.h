@@ -22,7 +22,7 @@ struct Change
     const CFxVariant& second; ///< of the kind's second tag; one of the two may be null
     std::int32_t index;       ///< within a repeated property, else -1
     const CFxVariant& number; ///< the record's number in whatever form it has
-    OdDbObjectId object;      ///< the changed object in the drawing, which may lack it
+    const RecordedObject& object;
 };
 
 /// What a change becomes. A kind with axes stands for one tag an axis: its row holds what stands before the letter.

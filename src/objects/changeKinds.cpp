@@ -4,6 +4,7 @@
 
 #include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
+#include "objects/losses.h"
 #include "objects/properties.h"
 #include "objects/targets/dimensionOptions.h"
 #include "objects/targets/setters.h"
@@ -28,15 +29,25 @@ constexpr std::int32_t kNoCenterMark = 0;
 constexpr std::int32_t kCenterLines = 1;
 constexpr std::int32_t kCenterMark = 2;
 
+using enum inkmacro::Target;
+const inkmacro::Fault kTurnedRound{"EmitSetBoolProperty",
+                                   {Cpp, CSharp, JavaScript, VbNet, CppCom, Vba},
+                                   "a layer that is shown is hidden, and the other way round"};
+const inkmacro::Fault kNoRadius{"EmitSetDoubleProperty",
+                                {Cpp, CSharp, JavaScript, VbNet, CppCom, Vba},
+                                "an area below zero gives a radius that is no number"};
+
 Statement setReal(const Change& change, double value)
 {
     return EmitSetDoubleProperty(change.writer, change.target, change.row.property, value);
 }
 
-template<double (*radius)(double)>
+template<double (*radiusOf)(double)>
 Statement setRadius(const Change& change)
 {
-    return EmitSetDoubleProperty(change.writer, change.target, "Radius", radius(change.value.GetDouble()));
+    const double radius = radiusOf(change.value.GetDouble());
+    Statement statement = EmitSetDoubleProperty(change.writer, change.target, "Radius", radius);
+    return std::isfinite(radius) ? statement : change.writer.mended(std::move(statement), kNoRadius);
 }
 
 double fromArea(double area)
@@ -99,10 +110,6 @@ bool isPlainYes(const CFxVariant& value)
     return value.GetString() == ShownWord("Yes");
 }
 
-using enum inkmacro::Target;
-const inkmacro::Fault kTurnedRound{"EmitSetBoolProperty",
-                                   {Cpp, CSharp, JavaScript, VbNet, CppCom, Vba},
-                                   "a layer that is shown is hidden, and the other way round"};
 const inkmacro::Fault kTwoTransparencies{"EmitSetBoolProperty",
                                          {Cpp, CSharp, JavaScript, VbNet, CppCom, Vba},
                                          "a yes or no is given to the transparency of an entity"};
@@ -220,7 +227,7 @@ Statement setStyleCenterMark(const Change& change)
 /// The current style has to be made current again under its new name.
 Statement renameDimensionStyle(const Change& change, const CFxString& name)
 {
-    const OdDbObjectId& style = change.object;
+    const OdDbObjectId style = IdOf(change.object.handle);
     const bool isCurrent = !style.isNull() && style == ACTIVE_DOCUMENT->GetDatabase()->currentDimensionStyleId();
     return EmitRenameStyle(change.writer, change.target, name, isCurrent);
 }
@@ -548,8 +555,11 @@ ChangeKind fixedLength(const char* lengthTag)
 constinit const ChangeKind textInside{
     .statement =
         [](const Change& change) {
-            const bool isThere = !odrxQuery<OdDbDimension>(change.object.openObject().get()).isNull();
-            return isThere ? setEnumIfYes<IsYes>(change) : QString();
+            if (!odrxQuery<OdDbDimension>(IdOf(change.object.handle).openObject().get()).isNull())
+                return setEnumIfYes<IsYes>(change);
+            if (IsYes(change.value))
+                LoseProperty(change.object, change.row.tag.text(), "the drawing does not have the dimension");
+            return Statement();
         },
     .form = forms::element.with(forms::yesNo),
     .byValue = &inkmacro::enums::dimensionFitGeometry,

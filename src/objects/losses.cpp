@@ -240,13 +240,21 @@ void AssumeProperty(const RecordedObject& object, const QString& tag, const QStr
                                                   [&] { return propertyTitle(object, tag); });
 }
 
+static const char otherForm[] = "it is recorded in another form";
+
+void LoseUnlessFormed(const RecordedObject& object, const QString& tag, const CFxVariant& value, const ValueForm& form)
+{
+    if (!value.IsNull() && !form.fits(value))
+        LoseProperty(object, tag, otherForm);
+}
+
 void AssumeUnlessFormed(const RecordedObject& object, const QString& tag, const CFxVariant& value,
                         const ValueForm& form)
 {
     if (value.IsNull())
         return;
     if (!form.fits(value))
-        AssumeProperty(object, tag, "it is recorded in another form");
+        AssumeProperty(object, tag, otherForm);
     else if (value.GetType() == CFxVariant::kString && !form.words.empty() && !isOneOf(form.words, value.GetString()))
         AssumeProperty(object, tag, "its word is none of " + listOf(form.words));
 }

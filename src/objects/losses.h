@@ -16,6 +16,8 @@ void AssumeProperty(const RecordedObject& object, const QString& tag, const QStr
 /// A value of another form, of which getters give a neutral one, or a text that is none of the form's words.
 void AssumeUnlessFormed(const RecordedObject& object, const QString& tag, const CFxVariant& value,
                         const ValueForm& form);
+/// A value of another form, where nothing is written for that one.
+void LoseUnlessFormed(const RecordedObject& object, const QString& tag, const CFxVariant& value, const ValueForm& form);
 /// The arcs of an added polyline, which none but a custom action tells.
 void LoseArcs(const Conversion& conversion, const RecordedObject& object, const OdDbPolyline& polyline);
 /// An added note that its leader should bring, when the macro does not have the leader.

@@ -13,6 +13,14 @@ CFxString ShownWord(const char* word)
     return QCoreApplication::translate("property_values", word, nullptr, -1);
 }
 
+std::optional<int> PlaceOf(const inkmacro::TextEnumeration& enumeration, const CFxString& word)
+{
+    const auto& rows = enumeration.rows;
+    const auto* const row =
+        std::ranges::find_if(rows, [&](const auto& candidate) { return word.equalNoCase(ShownWord(candidate.text)); });
+    return row == rows.end() ? std::nullopt : std::optional(static_cast<int>(row - rows.begin()));
+}
+
 CFxString ElementText(const CFxVariant& value)
 {
     return value.GetCollectionElement().GetValue()->GetString();

@@ -20,6 +20,8 @@ bool IsYes(const CFxVariant& value);
 bool IsOn(const CFxVariant& value);
 /// A word as the host's property sheet shows it.
 CFxString ShownWord(const char* word);
+/// The place of the word among the enumeration's rows; nothing for one that none of them shows.
+std::optional<int> PlaceOf(const inkmacro::TextEnumeration& enumeration, const CFxString& word);
 /// The text of a value of choice type that came as the chosen item alone; empty for any other value.
 CFxString ElementText(const CFxVariant& value);
 /// The text of the chosen item, whether it came alone or among all items; nothing for any other value.

@@ -67,6 +67,10 @@ SAID = {
     "a tile gets a second variable, and the one that is declared for it stays empty": r"^ *(iw)?viewtile2 = ",
     # A sheet is as good as another.
     "a sheet is activated to be given a print style, so that what follows is drawn on it": r"styledSheet\d",
+    # An enumerator, a corner and a text are as good as others.
+    "the place of the chosen item of a list is taken for the item's number": r"DualDimensionFormat_Decimal",
+    "the box of a note is that of another justification than it gets, which moves it": r"InsertNote ?\( ?20\b",
+    "a block that is made anew loses its description": r'"Of three parts"(?:.|\n)*"Of three parts"',
     # A number is as good as another.
     "a number that has more than six digits is rounded to them": r"\d\.\d{6}\d*[1-9]",
 }

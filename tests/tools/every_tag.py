@@ -19,7 +19,7 @@ DRAWN = [{"class": "AcDbLayerTableRecord", "handle": "10", "name": "Walls"},
          {"class": "AcDbTextStyleTableRecord", "handle": "11", "name": "Notes"},
          {"class": "AcDbLinetypeTableRecord", "handle": "14", "name": "DASHED"},
          {"class": "AcDbArc", "handle": "15", "center": [30, 30, 0], "radius": 12.5, "startAngle": 0.5, "endAngle": 2}]
-# What the drawing tells of an added object; of dimensions at least that they are there.
+# What the drawing tells of an added object; of dimensions at least that they are there, of every second one.
 CURVE = {"center": [30, 30, 0], "chordPoint": [42.5, 30, 0], "farChordPoint": [17.5, 30, 0], "centerPoint": [90, 30, 0],
          "arcPoint": [110, 55, 0], "arcStartParam": 0.25, "arcEndParam": 1.25}
 MEASURED = {"Radial": ("center", "chordPoint"), "RadialDimensionLarge": ("center", "chordPoint"),
@@ -50,7 +50,7 @@ def _points(shift):
 
 
 WEIGHTS = [{"int": weight} for weight in (35, -1, -2, -3, 0, 211)]
-TAGGED = {"LineStyle": [{"id": "14"}], "Erased": ["YES"], "Area": [7.25], "Major axis vector Z": [0],
+TAGGED = {"LineStyle": [{"id": "14"}], "Erased": ["YES"], "Area": [7.25, -2], "Major axis vector Z": [0, 4],
           **{tag: [{"int": 3 if tag == "Rows" else 2}, {"int": 4}] for tag in COUNTS}}
 FORMED = {"number": [1.5, 0, -2, 123456.789, {"int": 3}], "text": ["Ab c", "", 'x "y" <> ä'], "object": [{"id": "10"}],
           "color": [{"color": one} for one in ({"index": 3}, "bylayer", "byblock", {"rgb": [10, 200, 30]})],
@@ -62,16 +62,16 @@ FORMED = {"number": [1.5, 0, -2, 123456.789, {"int": 3}], "text": ["Ab c", "", '
 
 
 def _choices(words, forms):
-    """Pairs of number and word, in those forms. In a list the first one has the number 0."""
+    """Pairs of number and word, in those forms."""
     yield from ({"int": number} for number, _ in words if "number" in forms)
     yield from (word for _, word in words if "text" in forms)
     elements = [{"tag": {"int": number}, "value": word} for number, word in words]
     yield from ({"element": element} for element in elements if "item" in forms)
-    if "list" in forms and words[0][0] == 0:
+    if "list" in forms:
         yield from ({"collection": {"chosen": at, "elements": elements}} for at in range(len(words)))
 
 
-def _values(tag, form, added):
+def _values(tag, form):
     if "eight" in tag and form.startswith("whole number, item") or tag == "LineWeight" or tag.endswith("LWeight"):
         return WEIGHTS
     if (tag, form) in (("TextStyle", "object"), ("Style", "text, object, item or list")):
@@ -80,8 +80,6 @@ def _values(tag, form, added):
     if known:
         return known
     what, _, forms = form.rpartition(", as ")
-    if added and tag == "Justify":
-        forms = forms.replace("item", "list")
     if numbered := re.findall(r"(\d+) \w+", what):  # any word does beside a number
         words = [(int(number), f"shown {number}") for number in numbered]
         return list(_choices(words, forms))
@@ -109,7 +107,7 @@ def _tags(page):
 class Recording:
     def __init__(self, cls, added, every):
         self._cls, self._added, self.lines = cls, added, []
-        self._typical = {tag: _values(tag, form, True)[0] for tag, (_, form) in added.items()
+        self._typical = {tag: _values(tag, form)[0] for tag, (_, form) in added.items()
                          if tag not in every and (cls != "AcDbDimStyleTableRecord")}
         self._objects, self._data = list(DRAWN), DATA.get(cls, {} if "Dimension" in cls else None)
         for part, keys in MEASURED.items():
@@ -119,7 +117,7 @@ class Recording:
     def add(self, own, change=None, index=None):
         """An object with properties of its own, None for one that is missing, and a change of it."""
         handle = f"{0x100 + len(self.lines):X}"
-        if self._data is not None:
+        if self._data or self._data is not None and len(self.lines) % 2:
             self._objects.append({"class": self._cls, "handle": handle, **self._data})
         name = {NAMES[self._cls]: f"Made {handle}"} if self._cls in NAMES else {}
         properties = {tag: value for tag, value in (self._typical | own | name).items() if value is not None}
@@ -148,14 +146,14 @@ def recordings(page):
     for cls, (added, changed) in known.items():
         recording = Recording(cls, added, every)
         for tag, (_, form) in added.items():
-            for value in _values(tag, form, True) + [None] * (tag not in COUNTS):
+            for value in _values(tag, form) + [None] * (tag not in COUNTS):
                 recording.add({tag: value})
         for tag, (beside, form) in changed.items():
             indexes = [0, 2, {"int": 3}] if "with index" in beside else [None]
             if cls == "AcDbTableStyle" and tag not in ("TableStyleName", "Direction", "Erased"):
                 indexes += [{"element": {"tag": {"int": 3}, "value": {"int": 32}}}, {"int": 2}]
             numbers = ["0_0", "2_1"] if tag == "Contents_*" else ["0", "1"] if tag.endswith("*") else [""]
-            for value in [] if "group" in beside else _values(tag, form, False):
+            for value in [] if "group" in beside else _values(tag, form):
                 for index in indexes:
                     for number in numbers:
                         recording.add({}, {tag.replace("*", number): value}, index)

@@ -371,6 +371,26 @@ TEST(Losses, OfPropertiesAreThoseThatNoStatementSets)
     EXPECT_EQ(lossesOf(polyline + changed("AcDbPolyline", "31", R"({"tag":"Vertex X","value":1})")),
               (Lines{"1 property \"Vertex X\" of AcDbPolyline 31: its number is not recorded"}));
 
+    const auto ofDimension = [](const char* cls, const QByteArray& properties) {
+        return lossesOf(command(QByteArray(R"({"added":{"class":")") + cls + R"(","handle":"31","properties":[]}})") +
+                        changed(cls, "31", properties));
+    };
+    EXPECT_EQ(
+        ofDimension("AcDbAlignedDimension",
+                    R"({"tag":"Text inside","value":{"element":{"tag":{"int":0},"value":"Yes"}}})"),
+        (Lines{"1 property \"Text inside\" of AcDbAlignedDimension 31: the drawing does not have the dimension"}));
+    EXPECT_EQ(ofDimension("AcDbAlignedDimension",
+                          R"({"tag":"Text inside","value":{"element":{"tag":{"int":1},"value":"No"}}})"),
+              Lines());
+    // One that may say nothing, in a form that says nothing.
+    EXPECT_EQ(
+        ofDimension("AcDbDimStyleTableRecord",
+                    R"({"tag":"FitDimensionsGeometryText","value":1},{"tag":"Linear Dimensions Prefix","value":2})"),
+        (Lines{"1 property \"FitDimensionsGeometryText\" of AcDbDimStyleTableRecord 31: it is recorded in another "
+               "form",
+               "1 property \"Linear Dimensions Prefix\" of AcDbDimStyleTableRecord 31: it is recorded in another "
+               "form"}));
+
     const QByteArray table = command(
         R"({"added":{"class":"AcDbTable","handle":"31","properties":[{"tag":"Rows","value":5},{"tag":"Columns","value":2},)"
         R"({"tag":"ColumnWidth_0","value":9},{"tag":"ColumnWidth_1","value":9},{"tag":"Contents_1_1","value":"a"}]}})");
@@ -408,6 +428,9 @@ TEST(Losses, OfValuesThatNothingElseSaysAreThoseValues)
          R"({"tag":"Major radius","value":7.0},{"tag":"Radius ratio","value":0.5})",
          {}},
         {"AcDbEllipse", R"({"tag":"Center X","value":1.0},{"tag":"Center Z","value":2.0})", {"Center Z"}},
+        {"AcDbEllipse",
+         R"({"tag":"Major axis vector X","value":1.0},{"tag":"Major axis vector Z","value":2.0})",
+         {"Major axis vector Z"}},
         {"AcDbTable", R"({"tag":"Position X","value":1.0},{"tag":"Position Z","value":2.0})", {"Position Z"}},
         {"AcDbPolyline",
          R"({"tag":"Vertex","value":{"collection":{"elements":[{"tag":{"int":0},"value":{"point":[1,0,4]}}]}}})",

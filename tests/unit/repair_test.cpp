@@ -364,7 +364,7 @@ TEST(RepairedCommand, HasItsDeclarationsWithoutABlockToo)
     }
 }
 
-/// A way in which objects get lost on their way into a statement of a C# macro.
+/// A way in which objects or values get lost on their way into a statement of a C# macro.
 struct Hole
 {
     const char* fault; ///< what is said of the faithful macro
@@ -450,24 +450,105 @@ std::vector<Hole> holes()
     };
 }
 
-TEST(RepairedMacro, HasNoPlaceWithoutItsObject)
+/// Of the repaired macro, whose losses are left in the notes.
+void expectMended(const Hole& hole)
 {
     const TestTarget host(Target::CSharp);
-    for (const Hole& hole : holes()) {
-        TestConversion conversion;
-        ASSERT_EQ(conversion.run(hole.actions), kFxSuccess);
-        const QString faithful = conversion.body();
-        EXPECT_TRUE(faithful.contains(hole.faithful)) << hole.faithful << " in\n" << faithful.toStdString();
-        EXPECT_EQ(faithful.contains(hole.repaired), QString(hole.repaired).isEmpty()) << hole.repaired;
-        EXPECT_EQ(timesNoted(hole.fault), 1) << hole.fault;
+    TestConversion conversion;
+    ASSERT_EQ(conversion.run(hole.actions), kFxSuccess);
+    const QString faithful = conversion.body();
+    EXPECT_TRUE(faithful.contains(hole.faithful)) << hole.faithful << " in\n" << faithful.toStdString();
+    EXPECT_EQ(faithful.contains(hole.repaired), QString(hole.repaired).isEmpty()) << hole.repaired;
+    EXPECT_EQ(timesNoted(hole.fault), 1) << hole.fault;
 
-        const TestRepair repair;
-        ASSERT_EQ(conversion.run(hole.actions), kFxSuccess);
-        const QString repaired = conversion.body();
-        EXPECT_FALSE(repaired.contains(hole.faithful)) << hole.faithful << " in\n" << repaired.toStdString();
-        EXPECT_TRUE(repaired.contains(hole.repaired)) << hole.repaired << " in\n" << repaired.toStdString();
+    const TestRepair repair;
+    ASSERT_EQ(conversion.run(hole.actions), kFxSuccess);
+    const QString repaired = conversion.body();
+    EXPECT_FALSE(repaired.contains(hole.faithful)) << hole.faithful << " in\n" << repaired.toStdString();
+    EXPECT_TRUE(repaired.contains(hole.repaired)) << hole.repaired << " in\n" << repaired.toStdString();
+}
+
+TEST(RepairedMacro, HasNoPlaceWithoutItsObject)
+{
+    for (const Hole& hole : holes()) {
+        expectMended(hole);
         const std::size_t least = QString(hole.repaired).isEmpty() ? 2 : 0;
         EXPECT_GE(GetFxSystemServices()->Notes().GetLosses().size(), least) << hole.faithful;
+    }
+}
+
+TEST(RepairedMacro, SaysTheValuesThatWereRecorded)
+{
+    const auto record = [](const char* tag, const CFxVariant& value) { return odrxNew<TestProperty>(tag, value); };
+    const auto item = [](const CFxVariant& number, const char* word) {
+        return CFxVariantCollectionElement(number, CFxString(word));
+    };
+    const auto add = [](const char* cls, const PropertyList& list) {
+        return command({odrxNew<TestAdded>(cls, 0x50, list, list)});
+    };
+    const auto change = [](const char* cls, const PropertyList& list) {
+        return command({odrxNew<TestModified>(cls, 0x50, list)});
+    };
+    const auto format = [&](std::vector<CFxVariantCollectionElement> items, std::int32_t chosen) {
+        return change("AcDbAlignedDimension", {record("Alt format", CFxVariantCollection(std::move(items), chosen))});
+    };
+    const auto note = [&](const CFxVariant& justification) {
+        return add("AcDbMText", {record("Width", 10.0), record("Position X", 25.0), record("Justify", justification)});
+    };
+    const OdRxObjectPtr circle = add("AcDbCircle", {});
+    const OdRxObjectPtr dimension = add("AcDbAlignedDimension", {});
+    const CFxVariantCollection nothing{std::vector<CFxVariantCollectionElement>()};
+    const auto define = [&](const char* description) {
+        return PropertyList{record("Name", CFxString("B")), record("Objects", nothing),
+                            record("Description", CFxString(description))};
+    };
+    const OdRxObjectPtr block = add("AcDbBlockTableRecord", define("old"));
+    const OdRxObjectPtr renewed = change("AcDbBlockTableRecord", {record("Objects", nothing)});
+    static constexpr char place[] = "the place of the chosen item of a list is taken for the item's number";
+    static constexpr char box[] = "the box of a note is that of another justification than it gets, which moves it";
+    static constexpr char forgotten[] = "a block that is made anew loses its description";
+
+    const Hole values[] = {
+        {"an area below zero gives a radius that is no number",
+         {circle, change("AcDbCircle", {record("Area", -2.0)})},
+         "Radius = ",
+         ""},
+        {place, {dimension, format({item(1, "Scientific"), item(2, "Decimal")}, 1)}, "_Scientific;", "_Decimal;"},
+        {box, {note(item(1, "top center"))}, "InsertNote( 25.", "InsertNote( 20."},
+        {box,
+         {note(CFxVariantCollection({item(0, "Top Left"), item(1, "Middle Right")}, 1))},
+         "InsertNote( 20.",
+         "InsertNote( 15."},
+        {forgotten, {block, renewed}, "\"\"", ""},
+        {forgotten,
+         {command({odrxNew<TestModified>("AcDbBlockTableRecord", 0x60, PropertyList{record("Objects", nothing)})})},
+         "\"\"",
+         "\"drawn\""},
+    };
+    TestDrawing drawing;
+    drawing.add(0x60, "AcDbBlockTableRecord", {{"name", OdString("B")}, {"comments", OdString("drawn")}});
+    for (const Hole& value : values) {
+        expectMended(value);
+        const std::size_t lost = value.actions[0] == circle ? 1 : 0;
+        EXPECT_EQ(GetFxSystemServices()->Notes().GetLosses().size(), lost) << value.fault;
+    }
+
+    // Those that agree have no fault.
+    const CFxActionArray sound[] = {
+        {dimension, format({item(0, "Decimal"), item(1, "Scientific")}, 1)},
+        {dimension, format({item(1, "Decimal")}, 1)},
+        {dimension, format({item(CFxString("1"), "Decimal")}, 0)},
+        {note(CFxVariantCollection({item(0, "Top Left"), item(1, "Top Center")}, 1))},
+        {note(item(0, "Top Left"))},
+        {block, change("AcDbBlockTableRecord", define("new"))},
+        {add("AcDbBlockTableRecord", define("")), renewed},
+    };
+    const TestTarget host(Target::CSharp);
+    for (const CFxActionArray& actions : sound) {
+        TestConversion conversion;
+        ASSERT_EQ(conversion.run(actions), kFxSuccess);
+        for (const char* fault : {place, box, forgotten})
+            EXPECT_EQ(timesNoted(fault), 0) << fault << " in\n" << conversion.body().toStdString();
     }
 }
 

@@ -97,6 +97,8 @@ Statement ReadBlockDefinition(AddedObject& added)
     const CFxVariant objects = added.take("Objects", forms::handlesInValues, "the drawing's");
     const CFxVariant description = added.take("Description", forms::text, "the drawing's");
     const auto record = added.open<OdDbBlockTableRecord>();
+    if (!description.IsNull())
+        added.conversion.blockDescriptions.insert_or_assign(added.object.handle, description.GetString());
 
     BlockContents contents;
     contents.variable = added.name;

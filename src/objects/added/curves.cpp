@@ -55,6 +55,8 @@ Statement ReadEllipse(AddedObject& added)
     const OdGePoint3d major = added.takePoint("Major axis vector X", "Major axis vector Y", "Major axis vector Z");
     if (center.z != 0)
         LoseProperty(added.object, "Center Z", "the insertion takes its axis in the plane");
+    if (major.z != 0)
+        LoseProperty(added.object, "Major axis vector Z", "the insertion takes its axis in the plane");
     const OdGeVector3d half{major.x, major.y, major.z};
     const double minorRadius = added.takeReal("Minor radius", 1.0);
     // The tags are in another case than those of an arc.

@@ -7,8 +7,6 @@
 #include "objects/targets/setters.h"
 #include "statements/actionKinds.h"
 
-#include <algorithm>
-
 namespace {
 
 /// Of the choice between yes and no the first item is yes.
@@ -27,11 +25,7 @@ int takeJustification(AddedObject& added)
         added.take("RLine justification", forms::word.with(inkmacro::enums::richLineJustification), "0");
     if (justification.GetType() == CFxVariant::kCollection)
         return justification.GetCollection().GetChosen();
-    const CFxString word = wordOf(justification);
-    const auto& rows = inkmacro::enums::richLineJustification.rows;
-    const auto row = std::find_if(rows.begin(), rows.end(),
-                                  [&](const auto& candidate) { return word.equalNoCase(ShownWord(candidate.text)); });
-    return row == rows.end() ? 0 : static_cast<int>(row - rows.begin()) + 1;
+    return PlaceOf(inkmacro::enums::richLineJustification, wordOf(justification)).value_or(-1) + 1;
 }
 
 } // namespace

@@ -27,6 +27,8 @@ struct Box
 {
     OdGePoint3d first;
     OdGePoint3d second;
+
+    bool operator==(const Box&) const = default;
 };
 
 /// The box of a note, whose recorded position is the point that it is attached by. `attachment` counts the nine by
@@ -57,6 +59,12 @@ Box boxOfNote(int attachment, const OdGePoint3d& position, double width, double 
     return {{moved(position.x, shares.firstX, width), moved(position.y, shares.firstY, height), position.z},
             {moved(position.x, shares.secondX, width), moved(position.y, shares.secondY, height), position.z}};
 }
+
+using inkmacro::Target;
+const inkmacro::Fault kOtherBox{
+    "EmitInsertNote",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "the box of a note is that of another justification than it gets, which moves it"};
 
 /// A command that loads shapes is written without its block, so the statement stands one level further out.
 Statement loadShapes(Writer& writer, const CFxString& fileName)
@@ -152,8 +160,15 @@ Statement ReadNote(AddedObject& added)
     const CFxVariant lineSpaceDistance = added.take("Line space distance", forms::number);
     const double boxHeight = added.takeReal("TextBoxHeight", 0.0);
 
-    const Box box = boxOfNote(justify.GetCollection().GetChosen(), position, width.GetDouble(), boxHeight);
+    const auto boxOf = [&](int attachment) { return boxOfNote(attachment, position, width.GetDouble(), boxHeight); };
+    const std::optional<CFxString> justification = ChosenText(justify);
+    const Box begun = boxOf(justify.GetCollection().GetChosen());
+    const Box shown =
+        boxOf(justification ? PlaceOf(inkmacro::enums::noteJustification, *justification).value_or(0) : 0);
+    const Box& box = added.writer.repairs ? shown : begun;
     Statement text = EmitInsertNote(added.writer, box.first, box.second, contents, added.name);
+    if (begun != shown)
+        text = added.writer.faulty(std::move(text), kOtherBox);
     const auto setReal = [&](const char* property, const CFxVariant& value) {
         if (!value.IsNull())
             text += EmitSetDoubleProperty(added.writer, added.name, property, value.GetDouble());
@@ -167,7 +182,7 @@ Statement ReadNote(AddedObject& added)
             style.GetType() == CFxVariant::kId ? added.nameOf("Style", style.GetId(), nameOfTextStyle) : wordOf(style);
         text += EmitSetProperty(added.writer, added.name, "TextStyle", styleName, true);
     }
-    if (const std::optional<CFxString> justification = ChosenText(justify))
+    if (justification)
         text += EmitSetNoteJustify(added.writer, added.name, "Justify", *justification);
     if (!direction.IsNull())
         text += EmitSetNoteDirection(added.writer, added.name, "Direction", direction.GetCollection().GetChosen());

@@ -9,6 +9,7 @@
 #include "objects/properties.h"
 
 using namespace kinds;
+using inkmacro::Target;
 
 const ChangeGroups modifiedPicture{
     {integer, "Brightness", "Brightness"},
@@ -56,16 +57,26 @@ void ConvertModifiedBlockInstance(Conversion& conversion, const RecordedObject& 
     list = std::move(rest);
 }
 
+static const inkmacro::Fault kForgotten{
+    "EmitCreateBlockDefinition",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "a block that is made anew loses its description"};
+
 void ConvertModifiedBlockDefinition(Conversion& conversion, const RecordedObject& object, PropertyList& list,
                                     Statement& text)
 {
     const CFxVariant objects = TakeProperty(conversion, object, "Objects", forms::handlesInValues, list);
     const CFxVariant description = TakeProperty(conversion, object, "Description", forms::text, list);
+    if (!description.IsNull())
+        conversion.blockDescriptions.insert_or_assign(object.handle, description.GetString());
     if (objects.GetType() != CFxVariant::kCollection) {
         if (!description.IsNull())
             LoseProperty(object, "Description", "a block is made anew only when its objects are recorded");
         return;
     }
+    const auto recorded = conversion.blockDescriptions.find(object.handle);
+    const bool isRecorded = recorded != conversion.blockDescriptions.end();
+    CFxString known = isRecorded ? recorded->second : CFxString();
     BlockContents contents;
     contents.variable = object.name;
     contents.renewed = conversion.names().FindEntry(object.handle) != nullptr;
@@ -73,7 +84,13 @@ void ConvertModifiedBlockDefinition(Conversion& conversion, const RecordedObject
     if (const auto record = odrxCast<OdDbBlockTableRecord>(IdOf(object.handle).openObject().get())) {
         contents.name = record->getName();
         contents.origin = record->origin();
+        if (!isRecorded)
+            known = record->comments();
     }
+    const bool isForgotten = known != contents.description;
+    if (conversion.writer.repairs)
+        contents.description = known;
     contents.ids = ObjectsOf(objects, HandlesIn::Values);
-    text += CreateBlockDefinition(conversion, contents);
+    Statement definition = CreateBlockDefinition(conversion, contents);
+    text += isForgotten ? conversion.writer.faulty(std::move(definition), kForgotten) : definition;
 }

@@ -57,6 +57,7 @@ class Recorded {
         this.byHandle = new Map();
         this.operations = []; // {name, owner, handed, action}
         this.strange = []; // tags without a row
+        this.descriptions = new Map(); // of blocks, also those that are lost until the block is made anew
         for (const one of actionsOf(lines)) {
             for (const kind of ['added', 'modified', 'property', 'custom'].filter(name => name in one.action)) {
                 this[kind](one.action[kind], one);
@@ -202,6 +203,10 @@ class Recorded {
                 firsts.set(one.tag, one);
             }
         });
+        const block = record.class === 'AcDbBlockTableRecord' ? this.byHandle.get(record.handle) : null;
+        if (block && firsts.has('Description')) {
+            this.descriptions.set(block, firsts.get('Description').value);
+        }
         const rank = one => this.places.rank(record.class, one.tag);
         for (const one of [...firsts.values()].sort((a, b) => rank(a) - rank(b))) {
             const isTransparency = record.class === 'AcDbRasterImage' && one.tag === 'Transparency'
@@ -245,11 +250,14 @@ class Recorded {
         }
     }
 
-    // What a block is made of, as handles.
+    // What a block is made of, as handles. It is made anew then, with its last description.
     setObjects(one, recorded, action) {
         const {inBlock} = this.told.of(action.key);
         const elements = recorded && recorded.collection ? recorded.collection.elements : [];
         const handles = elements.map(element => element.value).filter(handle => !inBlock.has(handle));
+        const {comments = ''} = this.drawing.get(one.handle) || {};
+        const description = this.descriptions.has(one) ? this.descriptions.get(one) : comments;
+        one.hold('Description()', 0, description, 'Description', action);
         [...one.held.keys()].filter(key => key.startsWith('Objects()')).forEach(key => one.held.delete(key));
         handles.forEach((handle, index) => one.hold('Objects()', index, {handle: handle}, 'Objects', action));
     }
