@@ -10,7 +10,7 @@
 const fs = require('fs');
 const {spawn} = require('child_process');
 const web = require('../web/web');
-const {runPage} = require('../../src/view/node/page');
+const {runPage, runningLine} = require('../../src/view/node/page');
 
 const job = JSON.parse(fs.readFileSync(process.argv[2], 'utf8'));
 const tables = new web.Tables(web.texts, job.target);
@@ -29,6 +29,7 @@ function end({macro, lines, model}, stopped) {
 function runPages() {
     return job.macros.map(macro => {
         const run = begin(macro);
+        run.model.lineOf = runningLine;
         return end(run, runPage(read(macro.macro), new web.Library(tables.known, run.model).globals));
     });
 }

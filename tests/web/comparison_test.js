@@ -4,7 +4,7 @@
 
 const assert = require('assert');
 const web = require('./web');
-const {runPage} = require('../../src/view/node/page');
+const {runPage, runningLine} = require('../../src/view/node/page');
 
 const tables = new web.Tables(web.texts, 'javascript');
 const layer = {object: {class: 'AcDbLayerTableRecord', handle: '10', name: 'Walls'}};
@@ -45,6 +45,7 @@ function verify(steps, {edit = text => text, losses = [], assumed = [], forget =
     const written = text.concat(['}', '</script>']).join('\n');
     const macro = edit(written);
     const model = web.startModel(tables, lines);
+    model.lineOf = runningLine;
     if (forget) {
         const call = model.call.bind(model);
         model.call = (on, name, given, types) => call(on, forget(name) ? 'Activate' : name, given, types);

@@ -19,17 +19,29 @@ function lineOf(error, name) {
     return at || null;
 }
 
+const pageName = 'macro.html';
+
+// The line of the macro that is running, or null.
+function runningLine() {
+    const error = {};
+    const {stackTraceLimit} = Error;
+    Error.stackTraceLimit = 12; // what the library calls stands in front
+    Error.captureStackTrace(error, runningLine);
+    Error.stackTraceLimit = stackTraceLimit;
+    return lineOf(error, pageName);
+}
+
 // The error that stops it, or null. A macro that ends at once draws nothing, which is no error.
 function runPage(page, globals) {
-    const name = 'macro.html';
+    const name = pageName;
     const context = vm.createContext(Object.assign({}, globals));
     try {
         vm.runInContext(scriptOf(page), context, {filename: name});
         vm.runInContext('runMacro()', context, {filename: 'call'});
         return null;
     } catch (error) {
-        return {line: lineOf(error, name), message: error && error.message ? error.message : String(error)};
+        return {line: lineOf(error, name), message: error && error.message || 'it throws ' + String(error)};
     }
 }
 
-module.exports = {runPage: runPage};
+module.exports = {runPage: runPage, runningLine: runningLine};

@@ -12,6 +12,7 @@ function verify(job) {
     const written = read(job.macro);
     const macro = job.edited === null ? written : read(job.edited);
     const model = startModel(tables, lines);
+    model.lineOf = runningLine;
     const stopped = runPage(macro, new Library(tables.known, model).globals);
     const report = JSON.parse(read(job.report));
     return compareRun(tables, model, {lines: lines, losses: report.conversions[0].losses,

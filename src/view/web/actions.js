@@ -38,7 +38,7 @@ function noneTold() {
     return {whole: false, objects: new Set(), inBlock: new Set(), properties: new Map()};
 }
 
-const lossTitle = /^(?:property "(.*)" of |added |changes of )?(?:AcDb\w+|object) ([0-9A-F]+)( in block .*)?$/;
+const lossTitle = /^(?:property "(.*)" of |added |modified |changes of )?(?:\w+|object) ([0-9A-F]+)(?:( in block .*)|: .*)?$/;
 
 // What the report tells of the actions, as lost or as assumed: all of one, objects, objects that a block lacks, and
 // properties by their tags, with the value that the macro has in place of one that is assumed.
@@ -57,7 +57,9 @@ class Told {
 
     add(told, {line, what, reason}) {
         const [, tag, handle, block] = lossTitle.exec(what) || [];
-        if (block !== undefined) {
+        if (what.startsWith('custom ')) {
+            told.whole = true;
+        } else if (block !== undefined) {
             told.inBlock.add(handle);
         } else if (tag !== undefined) {
             const [, number] = / gives (-?\d+(?:\.\d+)?)$/.exec(reason) || [];
@@ -65,8 +67,6 @@ class Told {
         } else if (handle !== undefined) {
             told.objects.add(handle);
             this.lostOnLine.add(line + ' ' + handle);
-        } else if (what.startsWith('custom ')) {
-            told.whole = true;
         }
     }
 

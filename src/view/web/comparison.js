@@ -18,7 +18,7 @@ const defaults = [['Circle', 'Radius()', 1], ['CircleArc', 'Radius()', 1], ['Ref
             [cls, 'LineWeight()', -1]]));
 // What neither the records of an object tell nor the drawing's data: custom actions do, or another property.
 const toldElsewhere = new RegExp('^(?:ClipBoundary|Active|RadialDiameterDimensionOptions.CenterMarkDisplay|RowHeightAt'
-    + '|ColumnWidthAt|Sheet|Path\\(\\)$|Attribute .*Name)');
+    + '|ColumnWidthAt|Sheet|InternalPoints|LoopCounts|BoundaryPoints|Path\\(\\)$|Attribute .*Name)');
 // Of a block that another drawing holds.
 const referenced = ['Name()', 'Rotation()'];
 // An action makes them, also without a record.
@@ -85,8 +85,7 @@ function isNothing(value) {
     return value === 0 || value === '' || value === false || isColor(value) && value.color === null;
 }
 
-// `run` is {model, calls with their lines}, `origins` lead the lines of the written macro to actions, and `line` those of
-// the macro that ran to those.
+// `origins` lead the lines of the written macro to actions, and `writtenLine` those of the macro that ran to these.
 class Comparison {
     constructor(recorded, model, origins, writtenLine, places) {
         this.recorded = recorded;
@@ -125,7 +124,7 @@ class Comparison {
 
     // The lines of the written macro that make a thing.
     rangeOf(thing) {
-        const {line} = thing.call;
+        const {line} = thing.call || {};
         return Object.assign({handles: []}, line ? this.origins.rangeAt(this.writtenLine(line)) : null);
     }
 
@@ -183,9 +182,12 @@ class Comparison {
     compareObjects() {
         for (const expected of [...this.recorded.objects, ...this.recorded.records]) {
             const thing = this.things.get(expected);
-            if (thing) {
+            // A macro makes a text style only when there is none.
+            const isMade = thing && (expected.name === null || expected.isFound || thing.call
+                || expected.made === 'TextStyle');
+            if (isMade) {
                 this.equal += this.compareObject(expected, thing);
-            } else if (expected.name !== '' && !(expected.isFound && expected.held.size === 1)) {
+            } else if (expected.name !== '' && !(expected.isFound && expected.held.size <= 1)) {
                 this.find('missing', expected, expected.action, '', null, null, 'the macro does not make it');
             }
         }
@@ -196,7 +198,9 @@ class Comparison {
         }
         for (const thing of this.model.named) {
             // A block without a name is of the insertion that it is drawn for.
-            if (!this.matched.has(thing) && !thing.name.startsWith('*')) {
+            if (!this.matched.has(thing) && thing.call && !this.rangeOf(thing).line) {
+                this.findSurplus(thing, 'nothing like it is recorded');
+            } else if (!this.matched.has(thing) && !thing.name.startsWith('*')) {
                 const looked = new Expected('', thing.cls, thing.cls, {key: ''});
                 looked.hold('Name()', 0, thing.name, 'Name', null);
                 this.compareHeld(looked, thing);
@@ -206,8 +210,10 @@ class Comparison {
 
     // Drawn for another object, or for the time being.
     isHelper(thing) {
-        return thing.handedTo !== '' || heldOf(thing, 'Erased()', 0) === true || !this.madeClasses.has(thing.cls)
-            || unrecordedClasses.includes(thing.cls);
+        const isKept = /Dimension/.test(thing.handedTo); // what it measures is there for the time being alone
+        return thing.handedTo !== '' && !isKept || heldOf(thing, 'Erased()', 0) === true
+            || !this.madeClasses.has(thing.cls)
+            || unrecordedClasses.includes(thing.cls) && this.rangeOf(thing).line !== undefined;
     }
 
     get madeClasses() {
@@ -222,9 +228,10 @@ class Comparison {
 
     compareObject(expected, thing) {
         const before = this.findings.length;
-        if (expected.space !== null && expected.space !== thing.space) {
-            this.find('different', expected, expected.action, 'space', expected.space, thing.space,
-                'it is drawn in another space');
+        const space = expected.space ? this.things.get(expected.space) || null : expected.space;
+        if (space !== undefined && space !== thing.space) {
+            this.find('different', expected, expected.action, 'space', expected.space ? expected.space.name : 'Model',
+                thing.space ? thing.space.name : 'Model', 'it is drawn in another space');
         }
         this.compareHeld(expected, thing);
         return this.findings.length === before ? 1 : 0;
@@ -255,7 +262,7 @@ class Comparison {
         }
         for (const [question, values] of thing.held) {
             values.forEach((value, index) => {
-                if (!expected.holds(question, index) && !isNothing(value)
+                if (!expected.holds(question, index) && !expected.excused.has(question.split('(')[0]) && !isNothing(value)
                     && (question === 'Objects()' || !(value instanceof Thing))
                     && !this.isDefault(cls, question, value) && !toldElsewhere.test(question)
                     && !(index === 1 && question.endsWith('InViewport()'))) {

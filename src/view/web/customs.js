@@ -39,6 +39,15 @@ function fillHatch(recorded, at, action) {
         ['PatternScale()', 0, at(1, 'double'), 'scale', action],
         ['PatternAngle()', 0, at(2, 'double'), 'angle', action]];
     const [byPoints, byEntities, byBulges, hasGradient] = [3, 4, 5, 6].map(number => at(number, 'bool'));
+    if (byPoints) {
+        flatten(at(7, 'points2d')).forEach((value, index) => pattern.push(['InternalPoints()', index, value, 'points', action]));
+    } else if (!byEntities && !byBulges) {
+        // The first point stands at the end once more.
+        const points = at(8, 'points2d');
+        at(7, 'ints').forEach((value, index) => pattern.push(['LoopCounts()', index, value, 'loops', action]));
+        flatten(points.concat(points.slice(0, 1))).forEach((value, index) =>
+            pattern.push(['BoundaryPoints()', index, value, 'boundary', action]));
+    }
     const first = byPoints ? 8 : byBulges && !byEntities ? 10 : 9;
     if (hasGradient) {
         const gradient = [{color: at(first, 'color')}, {color: at(first + 1, 'color')}, at(first + 2, 'bool'),
@@ -104,7 +113,7 @@ function changeSheets(recorded, at, action) {
     const count = action.action.custom.data.length;
     const made = count === 4 ? third : word === 'New' ? name : word === 'Copy' ? copy || name : null;
     if (count === 1) {
-        recorded.space = word === 'Model' ? '' : word;
+        recorded.activate(word, action);
     } else if (made !== null) {
         recorded.recordOf('Sheet', made, action).isFound = false;
     } else if (word === 'Delete') {
@@ -137,7 +146,7 @@ function makeView(recorded, at, action) {
         backgroundOf(at).forEach((value, index) => view.hold('Background()', index, value, 'background', action));
     }
     if (isNew) {
-        recorded.space = onSheet || sheet === 'Model' ? '' : sheet;
+        recorded.activate(onSheet ? 'Model' : sheet, action);
     }
 }
 

@@ -81,12 +81,3 @@ function readInterface(text, target) {
     checkTypes(known);
     return known;
 }
-
-// The class and those that it inherits from, itself first.
-function chainOf(known, name) {
-    const chain = [];
-    for (let cls = known.classes[name]; cls; cls = known.classes[cls.base]) {
-        chain.push(cls);
-    }
-    return chain;
-}

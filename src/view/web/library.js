@@ -10,7 +10,6 @@ class Library {
         this.known = known;
         this.model = model;
         this.things = new WeakMap();
-        this.objects = new Map(); // by thing and class: what is asked for twice is the same
         this.classes = {};
         const library = this;
         for (const name of [...Object.keys(known.classes), 'Found']) {
@@ -56,7 +55,8 @@ class Library {
     isOf(type, value) {
         if (type.endsWith('[]')) {
             // A call that can do without an array is given none.
-            return value === null || Array.isArray(value) && value.every(one => this.isOf(type.slice(0, -2), one));
+            return value === null || Array.isArray(value)
+                && Array.from(value).every(one => this.isOf(type.slice(0, -2), one)); // without holes
         }
         switch (type) {
         case 'double': return typeof value === 'number' && isFinite(value);

@@ -33,7 +33,7 @@ class Thing {
             this.held = new Map(); // lists of values by the question that they answer
             this.known = new Map(); // the same of what was not given to it
             this.name = ''; // the first one
-            this.space = ''; // the sheet's first name where it was made, empty in the model
+            this.space = null; // the sheet where it was made, null in the model
             this.call = null; // that made it
             this.handedTo = ''; // the last operation that took it as what its result is made of
             this.isReshaped = false;
@@ -41,8 +41,10 @@ class Thing {
     }
 }
 
-function flatten(values) {
-    return values.reduce((flat, value) => flat.concat(Array.isArray(value) ? flatten(value) : [value]), []);
+function flatten(values, into) {
+    const flat = into || [];
+    values.forEach(value => Array.isArray(value) ? flatten(value, flat) : flat.push(value));
+    return flat;
 }
 
 // What stands in the parentheses of a question.
@@ -53,8 +55,8 @@ function shownIndexes(values) {
 // state.txt: what the arguments of a call say of its result, and of setters how many tell which value is meant.
 function readState(text) {
     const rows = new Map();
-    for (const line of text.split('\n').filter(one => one.trim() && !one.startsWith('#'))) {
-        const [call, ...fields] = line.trim().split(/\s+/);
+    for (const line of linesOf(text)) {
+        const [call, ...fields] = line.split(/\s+/);
         rows.set(call, /^\d+$/.test(fields[0]) ? Number(fields[0]) : fields.map(field => {
             const [, name, sign, digits, ends] = /^([\w#-]+?)(?:([:*])(\d)|=([\w,]+))?$/.exec(field);
             return {name: name, isList: sign === '*', size: Number(digits || 1), ends: ends ? ends.split(',') : null};
@@ -71,9 +73,9 @@ class Model {
         this.state = state;
         this.keyed = keyed;
         this.attributeTags = attributeTags;
-        this.calls = []; // {name, on, given, result}, in their order
+        this.lineOf = null; // tells the line of the macro that calls, where whoever runs it knows that
+        this.calls = []; // {name, on, given}, in their order, with their line where `lineOf` tells it
         this.made = []; // things, as they were inserted
-        this.count = 0; // of all calls
         this.named = []; // things that are found by their names, in the order of these
         this.records = new Map(); // the same by class and name
         this.found = new Map();
@@ -115,11 +117,17 @@ class Model {
         return this.records.get(key);
     }
 
-    rename(thing, name) {
-        const old = thing.held.get('Name()');
-        if (old && this.records.get(thing.cls + ' ' + old[0]) === thing) {
-            this.records.delete(thing.cls + ' ' + old[0]);
+    // Another one may have its name from here on.
+    forget(thing) {
+        const name = heldOf(thing, 'Name()', 0);
+        if (this.records.get(thing.cls + ' ' + name) === thing) {
+            this.records.delete(thing.cls + ' ' + name);
         }
+        return thing;
+    }
+
+    rename(thing, name) {
+        this.forget(thing);
         this.records.set(thing.cls + ' ' + name, thing);
         thing.held.set('Name()', [name]);
     }
@@ -155,6 +163,8 @@ class Model {
         const which = this.state.get(call) || 0;
         if (name === 'Name' && namedClasses.includes(thing.whole.cls)) {
             this.rename(thing.whole, given[0]);
+        } else if (name === 'Erased' && namedClasses.includes(thing.whole.cls)) {
+            this.forget(thing.whole).held.set('Erased()', [given[0]]);
         } else {
             // A viewport tells where a layer's setting counts, and is no value.
             const values = given.slice(which).filter(one => !(one instanceof Thing && one.cls === 'Viewport'));
@@ -186,15 +196,15 @@ class Model {
     // What an operation gives: its result and out parameters, as values and things. `types` are those of interface.txt.
     call(on, name, given, types) {
         const makes = /^(Insert|Create|Load)/.test(name);
-        const noted = this.keyed.has(name) ? {name: name, on: on, given: this.argument(given), result: null} : null;
-        this.count += 1;
+        const noted = this.keyed.has(name) ? {name: name, on: on, given: this.argument(given)} : null;
         if (noted) {
+            noted.line = this.lineOf ? this.lineOf() : null;
             this.calls.push(noted);
         }
         if (/^(Set|put_)/.test(name)) {
             this.change(on, name, given);
         } else {
-            this.act(on, name, given);
+            this.act(on, name, given, noted);
         }
         if (!types.length) {
             return [];
@@ -226,16 +236,16 @@ class Model {
         }
     }
 
-    act(on, name, given) {
+    act(on, name, given, noted) {
         const [, removed] = /^Remove(Layer|Sheet|ModelNamedView|SheetNamedView)$/.exec(name) || [];
         if (removed) {
-            this.record(removed, given[0], false).held.set('Erased()', [true]);
+            this.forget(this.record(removed, given[0], false)).held.set('Erased()', [true]);
         } else if (name === 'Rename') {
             this.rename(on.whole, given[0]);
         } else if (name === 'Activate' && [...namedClasses, 'Viewport'].includes(on.whole.cls)) {
             on.whole.held.set('Active()', [true]);
         } else if (name === 'CopySheet') {
-            this.record('Sheet', given[1], true);
+            this.record('Sheet', given[1], true).call = noted || {name: name, on: on, given: given};
         } else if (reshapingCalls.includes(name)) {
             on.whole.isReshaped = true;
         } else if (name in countingCalls) {
@@ -333,10 +343,7 @@ class Model {
             return;
         }
         const row = this.state.get(name);
-        thing.call = thing.call || noted || {name: name, on: on, given: given, result: thing};
-        if (noted) {
-            noted.result = thing;
-        }
+        thing.call = thing.call || noted || {name: name, on: on, given: given};
         if (thing.cls === 'MathPoint') {
             thing.held.set('Point', given.slice());
         } else if (/Background$/.test(thing.cls)) {
@@ -346,9 +353,10 @@ class Model {
         }
         if (/^Insert/.test(name)) {
             const owner = on.cls === 'SketchManager' ? on.of : on;
-            thing.space = owner.whole.cls === 'Sheet' ? owner.whole.name : '';
+            // A sheet without a name is the model.
+            thing.space = owner.whole.cls === 'Sheet' && owner.whole.name ? owner.whole : null;
             if (thing.cls === 'Viewport') {
-                this.hold(thing, 'Sheet()', [thing.space]);
+                this.hold(thing, 'Sheet()', [thing.space ? heldOf(thing.space, 'Name()', 0) : '']);
             }
             this.made.push(thing);
         }

@@ -117,7 +117,8 @@ function handedBy(field, data, several) {
         return values.map((_, i) => ({of: ends[i] || null, value: null}));
     }
     values = values.map(one => isHandle ? {handle: one} : one);
-    const parts = [].concat(...values.map((one, i) => listOf(one).map(value => ({of: ends[i] || null, value: value}))));
+    const parts = [];
+    values.forEach((one, i) => listOf(one).forEach(value => parts.push({of: ends[i] || null, value: value})));
     return span ? parts.slice(...span.split('-').map(Number)) : parts;
 }
 
@@ -140,12 +141,10 @@ class Calls {
             const severals = row.fields.includes('*') ? action.data.map((_, i) => i).slice(2) : [0];
             const [owners, ...fields] = /^(on|first)/.test(row.fields[0] || '') ? row.fields : ['', ...row.fields];
             for (const several of severals) {
-                const handed = [].concat(...fields.map(field =>
-                    handedBy(field.replace('each', ''), action.data, several)));
+                const handed = flatten(fields.map(field => handedBy(field.replace('each', ''), action.data, several)));
                 const each = fields.includes('each0') ? handed.map(one => [one]) : [handed];
                 for (const owner of ownersOf(owners, action.data)) {
-                    found.push(...each.map(one => ({name: row.name, isWhole: row.isWhole, owner: owner,
-                        handed: one})));
+                    each.forEach(one => found.push({name: row.name, isWhole: row.isWhole, owner: owner, handed: one}));
                 }
             }
         }
@@ -160,7 +159,7 @@ function linesOfStyle(handle, elements, nameOf) {
     const sorted = [...byOffset.values()].sort((a, b) => (b.offset || 0) - (a.offset || 0));
     const call = (name, ...handed) => ({name: name, isWhole: true, owner: handle,
         handed: handed.map(value => ({of: null, value: value}))});
-    return [].concat(...sorted.map((one, i) => [call('DeleteLine', i), call('AddLine', one.offset || 0,
+    return flatten(sorted.map((one, i) => [call('DeleteLine', i), call('AddLine', one.offset || 0,
         one.color && one.color.rgb ? null : {color: one.color || 'bylayer'}, nameOf(one.lineStyle))]));
 }
 

@@ -12,7 +12,8 @@ class Expected {
         this.action = action; // that adds it, or names it first
         this.held = new Map();
         this.name = null; // the first one of what is found by its name
-        this.space = null; // the sheet's name, empty in the model
+        this.space = undefined; // the sheet as it should be, null in the model, undefined where it is not compared
+        this.excused = new Set(); // places whose values the report tells as lost
         this.isFound = false; // in the drawing, and not made by the macro
         this.isReshaped = false;
     }
@@ -48,7 +49,6 @@ class Recorded {
             .map(one => [one.handle, one.reactors[0]]));
         const header = lines.find(line => line && line.recording);
         const sheet = header && header.recording.sheet || {name: '', model: true};
-        this.space = sheet.model === false ? sheet.name || '' : '';
         // What an action tells of the object that it makes, which another one adds: by class and handle.
         this.makers = new Map();
         this.hatchless = new Set(); // lines whose action makes no hatch
@@ -58,6 +58,8 @@ class Recorded {
         this.operations = []; // {name, owner, handed, action}
         this.strange = []; // tags without a row
         this.descriptions = new Map(); // of blocks, also those that are lost until the block is made anew
+        this.space = null; // where objects are added, as theirs
+        this.activate(sheet.model === false && sheet.name ? sheet.name : 'Model', {key: ''});
         for (const one of actionsOf(lines)) {
             for (const kind of ['added', 'modified', 'property', 'custom'].filter(name => name in one.action)) {
                 this[kind](one.action[kind], one);
@@ -70,10 +72,15 @@ class Recorded {
         return record && (record.name || record.layoutName) || '';
     }
 
+    // What is drawn from here on is on that sheet, or in the model.
+    activate(sheet, action) {
+        this.space = sheet === '' || sheet === 'Model' ? null : this.recordOf('Sheet', sheet, action);
+    }
+
     // A record that is named: made by the action, or found.
     named(made, name, handle, cls, action) {
         const one = new Expected(handle, cls, made, action);
-        one.name = withoutNumber(name);
+        one.name = made === 'BlockDefinition' ? withoutNumber(name) : typeof name === 'string' ? name : '';
         if (one.name) {
             one.hold('Name()', 0, one.name, 'Name', action);
         }
@@ -116,7 +123,8 @@ class Recorded {
         }
         if (row && row.tag !== '-') {
             const named = record.properties.find(one => one.tag === row.tag);
-            const name = named ? valueOf(named.value, other => this.nameOf(other)) : this.nameOf(handle);
+            const isNameless = !named && this.assumed.of(action.key).properties.has(row.tag);
+            const name = named ? valueOf(named.value, other => this.nameOf(other)) : isNameless ? '' : this.nameOf(handle);
             const one = this.named(row.made, name, handle, record.class, action);
             holdDrawn(this, one);
             this.setAll(record, action, true);
@@ -124,7 +132,7 @@ class Recorded {
         }
         if (made && !(record.class === 'AcDbHatch' && this.hatchless.has(action.line))) {
             const one = new Expected(handle, record.class, made, action);
-            one.space = made === 'Viewport' ? null : this.space; // that is told with its corners
+            one.space = made === 'Viewport' ? undefined : this.space; // that is told with its corners
             this.objects.push(one);
             this.byHandle.set(handle, one);
             holdDrawn(this, one);
@@ -211,9 +219,20 @@ class Recorded {
         for (const one of [...firsts.values()].sort((a, b) => rank(a) - rank(b))) {
             const isTransparency = record.class === 'AcDbRasterImage' && one.tag === 'Transparency'
                 && Object(one.value).transparency;
-            if ((isTransparency || !told.properties.has(one.tag)) && this.isOf(record)) {
+            if (told.properties.has(one.tag) && !isTransparency) {
+                this.excuse(record, one.tag, isAdded);
+            } else if (this.isOf(record)) {
                 this.set(record.handle, one, action, isAdded, assumed.properties.get(one.tag));
             }
+        }
+    }
+
+    // The macro may hold something else where a property is lost.
+    excuse(record, tag, isAdded) {
+        const one = this.byHandle.get(record.handle);
+        const row = one ? this.places.row(one.cls, tag, isAdded) : null;
+        if (row) {
+            one.excused.add(row.name);
         }
     }
 

@@ -4,9 +4,18 @@
 
 const verificationVersion = 1;
 
+// Handles are written in capitals and without zeros in front, unless somebody has written them by hand.
+const oddHandle = /"(?:handles?|id)":\s*\[?\s*"(?:0|[0-9A-F]*[a-f])/;
+
+function usualHandle(key, value) {
+    const usual = one => typeof one === 'string' && /^[0-9A-Fa-f]+$/.test(one) ? one.toUpperCase().replace(/^0+(?=.)/, '') : one;
+    return key === 'handle' || key === 'id' ? usual(value) : key === 'handles' ? value.map(usual) : value;
+}
+
 // The lines of a recording, parsed; null where one is empty.
 function parseLines(text) {
-    return text.replace(/^\uFEFF/, '').split('\n').map(line => line.trim() ? JSON.parse(line) : null);
+    return text.replace(/^\uFEFF/, '').split('\n').map(line => !line.trim() ? null
+        : oddHandle.test(line) ? JSON.parse(line, usualHandle) : JSON.parse(line));
 }
 
 // What all verifications of one target share. `texts` has the tables by their names.
@@ -39,7 +48,9 @@ function compareRun(tables, model, given) {
     const origins = new Origins(given.map);
     const recorded = new Recorded(given.lines, tables.places, tables.calls, new Told(given.losses),
         new Told(given.assumed), origins);
-    giveLines(model.calls, callPlaces(given.macro, tables.keyed));
+    if (!model.lineOf) {
+        giveLines(model.calls, callPlaces(given.macro, tables.keyed));
+    }
     const aligned = given.macro === given.written ? null
         : alignLines(given.written.split('\n'), given.macro.split('\n'));
     const compared = new Comparison(recorded, model, origins, line => aligned ? aligned[line] : line,
