@@ -66,7 +66,9 @@ class Told {
             told.properties.set(tag, number === undefined ? anything : Number(number));
         } else if (handle !== undefined) {
             told.objects.add(handle);
-            this.lostOnLine.add(line + ' ' + handle);
+            if (!/^(?:modified|changes of) /.test(what)) {
+                this.lostOnLine.add(line + ' ' + handle);
+            }
         }
     }
 

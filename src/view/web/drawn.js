@@ -40,6 +40,7 @@ function holdDrawn(recorded, one) {
     }
     if (one.cls === 'AcDbBlockTableRecord') {
         (drawn.origin || [0, 0, 0]).forEach((value, axis) => hold('Position()', axis, value, 'origin'));
+        hold('Description()', 0, drawn.comments || '', 'comments');
     }
     if (one.cls === 'AcDbMlineStyle' && drawn.elements && !recorded.told.of(action.key).properties.has('elements')) {
         linesOfStyle(handle, drawn.elements, style => recorded.nameOf(style)).forEach(call =>

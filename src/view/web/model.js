@@ -106,7 +106,7 @@ class Model {
 
     record(cls, name, creates) {
         const key = cls + ' ' + name;
-        const isNameless = !name || name.startsWith('*');
+        const isNameless = !name || name.startsWith('*') && /^(Group|BlockDefinition)$/.test(cls);
         if (!this.records.has(key) || isNameless && creates) {
             const thing = new Thing(cls, null, null);
             thing.name = name;

@@ -14,7 +14,7 @@ function withoutNumber(name) {
 // A value of the record in plain form; `nameOf` gives the name of an object by its handle.
 function valueOf(recorded, nameOf) {
     if (recorded === null || typeof recorded !== 'object') {
-        return typeof recorded === 'string' ? withoutNumber(recorded) : recorded;
+        return recorded;
     }
     const [form, held] = Object.entries(recorded)[0];
     switch (form) {

@@ -110,7 +110,8 @@ class Recorded {
 
     // The one that has the name now.
     recordOf(made, name, action) {
-        const found = this.records.filter(one => one.made === made && one.value('Name()', 0) === name).pop();
+        const found = this.records.filter(one => one.made === made && one.value('Name()', 0) === name
+            && !one.holds('Erased()', 0)).pop();
         return found || this.found(made, name, '', '', action);
     }
 

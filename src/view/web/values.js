@@ -148,7 +148,7 @@ function fits(question, seen, wanted, isTurn) {
     if (typeof seen === 'string' && /^iw\w+_/.test(seen)) {
         return fitsEnumerator(question, seen, number, text);
     }
-    return typeof seen === 'string' && withoutNumber(seen) === text
+    return typeof seen === 'string' && withoutNumber(seen) === withoutNumber(text)
         || seen instanceof Thing && (seen.name === text || heldOf(seen, 'Name()', 0) === text);
 }
 
