@@ -29,7 +29,7 @@ function end({macro, lines, model}, stopped) {
 function runPages() {
     return job.macros.map(macro => {
         const run = begin(macro);
-        run.model.lineOf = runningLine;
+        run.model.lineOf = macro.macro === macro.written ? null : runningLine;
         return end(run, runPage(read(macro.macro), new web.Library(tables.known, run.model).globals));
     });
 }

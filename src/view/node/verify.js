@@ -12,7 +12,8 @@ function verify(job) {
     const written = read(job.macro);
     const macro = job.edited === null ? written : read(job.edited);
     const model = startModel(tables, lines);
-    model.lineOf = runningLine;
+    // A macro that is as it was written goes straight on; another one may have loops.
+    model.lineOf = job.edited === null ? null : runningLine;
     const stopped = runPage(macro, new Library(tables.known, model).globals);
     const report = JSON.parse(read(job.report));
     return compareRun(tables, model, {lines: lines, losses: report.conversions[0].losses,
