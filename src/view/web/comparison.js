@@ -191,6 +191,10 @@ class Comparison {
                 this.find('missing', expected, expected.action, '', null, null, 'the macro does not make it');
             }
         }
+        for (const expected of this.recorded.found) {
+            const thing = this.model.found.get(expected.handle) || this.model.foundObject(expected.handle, expected.made);
+            this.compareHeld(expected, thing);
+        }
         for (const thing of this.model.made) {
             if (!this.matched.has(thing) && !this.isHelper(thing)) {
                 this.findSurplus(thing, 'nothing like it is recorded there');
@@ -260,7 +264,8 @@ class Comparison {
                 this.find('different', expected, action, tag, value, seen, 'it is drawn with another value');
             }
         }
-        for (const [question, values] of thing.held) {
+        // What the drawing has of an object is not recorded.
+        for (const [question, values] of thing.handle ? [] : thing.held) {
             values.forEach((value, index) => {
                 if (!expected.holds(question, index) && !expected.excused.has(question.split('(')[0]) && !isNothing(value)
                     && (question === 'Objects()' || !(value instanceof Thing))

@@ -78,6 +78,7 @@ class Model {
         this.made = []; // things, as they were inserted
         this.named = []; // things that are found by their names, in the order of these
         this.records = new Map(); // the same by class and name
+        this.forgotten = new Map(); // the last ones that had the name before
         this.found = new Map();
         this.selected = [];
         this.offered = offered.map(one => {
@@ -122,6 +123,7 @@ class Model {
         const name = heldOf(thing, 'Name()', 0);
         if (this.records.get(thing.cls + ' ' + name) === thing) {
             this.records.delete(thing.cls + ' ' + name);
+            this.forgotten.set(thing.cls + ' ' + name, thing);
         }
         return thing;
     }
@@ -239,7 +241,9 @@ class Model {
     act(on, name, given, noted) {
         const [, removed] = /^Remove(Layer|Sheet|ModelNamedView|SheetNamedView)$/.exec(name) || [];
         if (removed) {
-            this.forget(this.record(removed, given[0], false)).held.set('Erased()', [true]);
+            const key = removed + ' ' + given[0];
+            const thing = !this.records.has(key) && this.forgotten.get(key) || this.record(removed, given[0], false);
+            this.forget(thing).held.set('Erased()', [true]);
         } else if (name === 'Rename') {
             this.rename(on.whole, given[0]);
         } else if (name === 'Activate' && [...namedClasses, 'Viewport'].includes(on.whole.cls)) {

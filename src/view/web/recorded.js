@@ -53,6 +53,7 @@ class Recorded {
         this.makers = new Map();
         this.hatchless = new Set(); // lines whose action makes no hatch
         this.objects = []; // Expected, inserted ones in their order
+        this.found = []; // those that were in the drawing already
         this.records = []; // Expected that are found by their names
         this.byHandle = new Map();
         this.operations = []; // {name, owner, handed, action}
@@ -91,7 +92,7 @@ class Recorded {
         return one;
     }
 
-    found(made, name, handle, cls, action) {
+    findNamed(made, name, handle, cls, action) {
         const one = this.named(made, name, handle, cls, action);
         one.isFound = true;
         return one;
@@ -104,7 +105,7 @@ class Recorded {
             : (this.drawing.get(handle) || {}).isPaperspaceView ? 'SheetNamedView' : 'ModelNamedView';
         const name = this.nameOf(handle);
         if (made && name && !this.byHandle.has(handle)) {
-            this.found(made, name, handle, cls, action);
+            this.findNamed(made, name, handle, cls, action);
         }
     }
 
@@ -112,7 +113,7 @@ class Recorded {
     recordOf(made, name, action) {
         const found = this.records.filter(one => one.made === made && one.value('Name()', 0) === name
             && !one.holds('Erased()', 0)).pop();
-        return found || this.found(made, name, '', '', action);
+        return found || this.findNamed(made, name, '', '', action);
     }
 
     added(record, action) {
@@ -184,9 +185,9 @@ class Recorded {
 
     // Of a layout the recording tells the name of its sheet. What is told of the model is of no object.
     layout(record, action) {
-        const valueOf = tag => (record.properties.find(one => one.tag === tag) || {value: ''}).value;
-        const name = valueOf('SheetName_PrintStyleTable') || this.nameOf(record.handle);
-        if (name && String(valueOf('Model_PrintStyleTable')).toLowerCase() !== 'yes') {
+        const told = tag => (record.properties.find(one => one.tag === tag) || {value: ''}).value;
+        const name = told('SheetName_PrintStyleTable') || this.nameOf(record.handle);
+        if (name && String(told('Model_PrintStyleTable')).toLowerCase() !== 'yes') {
             const sheet = this.recordOf('Sheet', name, action);
             sheet.cls = record.class;
             this.byHandle.set(record.handle, sheet);
@@ -282,11 +283,16 @@ class Recorded {
         handles.forEach((handle, index) => one.hold('Objects()', index, {handle: handle}, 'Objects', action));
     }
 
-    // Of an object that has been added.
+    // Of an object that has been added, or that was in the drawing already.
     hold(handle, question, value, tag, action) {
-        const one = this.byHandle.get(handle);
-        if (one) {
-            one.hold(question, 0, value, tag, action);
+        const {class: cls} = this.drawing.get(handle) || {};
+        if (!this.byHandle.has(handle) && this.places.interfaces.has(cls)) {
+            const one = new Expected(handle, cls, this.places.interfaces.get(cls), action);
+            this.found.push(one);
+            this.byHandle.set(handle, one);
+        }
+        if (this.byHandle.has(handle)) {
+            this.byHandle.get(handle).hold(question, 0, value, tag, action);
         }
     }
 
