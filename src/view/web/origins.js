@@ -23,60 +23,90 @@ function callPlaces(text, names) {
     return places;
 }
 
-// Gives each call of a run the line that it comes of. Macros go straight on: the n-th call is the n-th place, and where a
-// condition passes some over, or a loop comes back, the next or the last one of its name.
+// Gives each call of a run the line that it comes of. Macros go straight on: the n-th call is the n-th place, and where
+// a condition passes some over, or a loop comes back, the next or the last one of its name.
 function giveLines(calls, places) {
+    const byName = new Map(places.map(place => [place.name, []]));
+    for (let at = places.length - 1; at >= 0; --at) {
+        byName.get(places[at].name).push(at); // the next one is at the end
+    }
     let next = 0;
     for (const call of calls) {
-        let at = next;
-        while (at < places.length && places[at].name !== call.name) {
-            ++at;
+        const ahead = byName.get(call.name) || [];
+        while (ahead.length > 1 && ahead[ahead.length - 1] < next) {
+            ahead.pop();
         }
-        if (at === places.length) {
-            at = next - 1;
-            while (at >= 0 && places[at].name !== call.name) {
-                --at;
-            }
-        }
+        const at = ahead.length ? ahead[ahead.length - 1] : -1;
         call.line = at >= 0 ? places[at].line : null;
-        next = at >= next ? at + 1 : next;
+        next = Math.max(next, at + 1);
     }
 }
 
-// For each line of an edited macro the line of the written one that it is or stands in place of, or 0. Lines from 1; the
-// first entry is none.
+// What tells lines from others, the surest first, and how often it may occur: of calls that differ in nothing else only
+// the order is left. Texts twice, since what occurs more often may still occur once between two others.
+const beginningOf = line => line.split('(', 1)[0].trim().replace(/^(?:var|let|const)\s+/, '');
+const calledOf = line => line.includes('(') ? /\w*$/.exec(beginningOf(line))[0] : line;
+const likenesses = [[line => line, 1], [line => line, 1], [beginningOf, Infinity], [calledOf, Infinity]];
+
+// The n-th with the n-th of the keys that both sides have as often, in the order of the second side.
+function pairEqual(ours, theirs, most) {
+    const byKey = new Map(ours.map(key => [key, [[], []]]));
+    [ours, theirs].forEach((side, which) => side.forEach((key, at) => (byKey.get(key) || [[], []])[which].push(at)));
+    return [...byKey.values()].filter(([a, b]) => a.length === b.length && a.length <= most)
+        .flatMap(([a, b]) => a.map((at, n) => [at, b[n]])).sort((one, other) => one[1] - other[1]);
+}
+
+// The most of the pairs that rise on both sides, the last one first.
+function longestRising(pairs) {
+    const ends = []; // of the runs of each length the one that ends lowest
+    for (const pair of pairs) {
+        let [low, high] = [0, ends.length];
+        while (low < high) {
+            const middle = Math.floor((low + high) / 2);
+            [low, high] = ends[middle].pair[0] < pair[0] ? [middle + 1, high] : [low, middle];
+        }
+        ends[low] = {pair: pair, before: ends[low - 1]};
+    }
+    const run = [];
+    for (let end = ends[ends.length - 1]; end; end = end.before) {
+        run.push(end.pair);
+    }
+    return run;
+}
+
+// For each line of an edited macro the line of the written one that it is or stands in place of, or 0. Lines from 1;
+// the first entry is none.
 function alignLines(written, edited) {
     const found = new Array(edited.length + 1).fill(0);
-    const places = lines => {
-        const map = new Map();
-        lines.forEach((line, i) => map.set(line, map.has(line) ? -1 : i));
-        return map;
+    const taken = new Set();
+    const pair = (i, j) => {
+        found[j + 1] = i + 1;
+        taken.add(i);
     };
-    // From `a` on in the one and `b` in the other, ahead of the ends.
-    function align(a, aEnd, b, bEnd) {
-        while (a < aEnd && b < bEnd && written[a] === edited[b]) {
-            found[++b] = ++a;
-        }
-        while (a < aEnd && b < bEnd && written[aEnd - 1] === edited[bEnd - 1]) {
-            found[bEnd--] = aEnd--;
-        }
-        if (a === aEnd || b === bEnd) {
-            return;
-        }
-        const [ours, theirs] = [places(written.slice(a, aEnd)), places(edited.slice(b, bEnd))];
-        for (const [line, at] of ours) {
-            const other = theirs.get(line);
-            if (at >= 0 && other >= 0 && line.trim() !== '') {
-                align(a, a + at, b, b + other);
-                align(a + at, aEnd, b + other, bEnd);
-                return;
+    const open = ([a, b]) => [a.filter(i => !taken.has(i)), b.filter(j => !found[j + 1])];
+    let gaps = [[[...written.keys()], [...edited.keys()]]]; // what is between the lines that were found
+    for (const [keyOf, most] of likenesses) {
+        const [ours, theirs] = [written.map(keyOf), edited.map(keyOf)];
+        const cut = [];
+        for (const gap of gaps) {
+            const least = Math.min(gap[0].length, gap[1].length);
+            for (let n = 0; n < least && ours[gap[0][n]] === theirs[gap[1][n]]; ++n) {
+                pair(gap[0][n], gap[1][n]);
             }
+            const [a, b] = open(gap);
+            while (a.length && b.length && ours[a[a.length - 1]] === theirs[b[b.length - 1]]) {
+                pair(a.pop(), b.pop());
+            }
+            const pairs = pairEqual(a.map(i => ours[i]), b.map(j => theirs[j]), most);
+            const run = longestRising(pairs);
+            // Others that are the same were moved.
+            pairs.filter(([n, m]) => written[a[n]] === edited[b[m]]).concat(run).forEach(([n, m]) => pair(a[n], b[m]));
+            run.forEach(([n, m]) => cut.push([a.splice(n), b.splice(m)]));
+            cut.push([a, b]);
         }
-        for (let i = 0; b + i < bEnd; ++i) {
-            found[b + i + 1] = Math.min(a + i, aEnd - 1) + 1;
-        }
+        gaps = cut.map(open).filter(([a, b]) => a.length && b.length);
     }
-    align(0, written.length, 0, edited.length);
+    gaps.filter(([a, b]) => a.length === b.length).forEach(([a, b]) => a.forEach((i, n) => pair(i, b[n])));
     return found;
 }
 
