@@ -38,7 +38,8 @@ function noneTold() {
     return {whole: false, objects: new Set(), inBlock: new Set(), properties: new Map()};
 }
 
-const lossTitle = /^(?:property "(.*)" of |added |modified |changes of )?(?:\w+|object) ([0-9A-F]+)(?:( in block .*)|: .*)?$/;
+// Its groups are the tag of a property, the handle, and the block that lacks the object.
+const lossTitle = /^(?:property "(.*)" of |added |modified |changes of )?\w+ ([0-9A-F]+)(?:( in block .*)|: .*)?$/;
 
 // What the report tells of the actions, as lost or as assumed: all of one, objects, objects that a block lacks, and
 // properties by their tags, with the value that the macro has in place of one that is assumed.

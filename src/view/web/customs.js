@@ -40,7 +40,8 @@ function fillHatch(recorded, at, action) {
         ['PatternAngle()', 0, at(2, 'double'), 'angle', action]];
     const [byPoints, byEntities, byBulges, hasGradient] = [3, 4, 5, 6].map(number => at(number, 'bool'));
     if (byPoints) {
-        flatten(at(7, 'points2d')).forEach((value, index) => pattern.push(['InternalPoints()', index, value, 'points', action]));
+        flatten(at(7, 'points2d')).forEach((value, index) =>
+            pattern.push(['InternalPoints()', index, value, 'points', action]));
     } else if (!byEntities && !byBulges) {
         // The first point stands at the end once more.
         const points = at(8, 'points2d');

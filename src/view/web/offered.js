@@ -40,9 +40,10 @@ const offeredClasses = {
         answers: {'FirstPoint()': startPoint, 'SecondPoint()': endPoint}, curves: chain([startPoint, endPoint])})},
     AcDbCircle: {cls: 'Circle', type: 'iwCircleType', number: 22, describe: ({center, radius}) => ({
         answers: {'Center()': center, 'Radius()': [radius]}, curves: [circularArc(center, radius, 0, 0)]})},
-    AcDbArc: {cls: 'CircleArc', type: 'iwCircleArcType', number: 23, describe: ({center, radius, startAngle, endAngle}) => ({
-        answers: {'Center()': center, 'Radius()': [radius], 'StartAngle()': [startAngle], 'EndAngle()': [endAngle]},
-        curves: [circularArc(center, radius, startAngle, endAngle)]})},
+    AcDbArc: {cls: 'CircleArc', type: 'iwCircleArcType', number: 23, describe: data => ({
+        answers: {'Center()': data.center, 'Radius()': [data.radius], 'StartAngle()': [data.startAngle],
+            'EndAngle()': [data.endAngle]},
+        curves: [circularArc(data.center, data.radius, data.startAngle, data.endAngle)]})},
     AcDbEllipse: {cls: 'EllipseArc', type: 'iwEllipseArcType', number: 26, describe: data => ({
         answers: {'Center()': data.center, 'MajorRadius()': [Math.hypot(...data.majorAxis)],
             'MinorRadius()': [Math.hypot(...data.minorAxis)]},

@@ -126,7 +126,8 @@ class Recorded {
         if (row && row.tag !== '-') {
             const named = record.properties.find(one => one.tag === row.tag);
             const isNameless = !named && this.assumed.of(action.key).properties.has(row.tag);
-            const name = named ? valueOf(named.value, other => this.nameOf(other)) : isNameless ? '' : this.nameOf(handle);
+            const name = named ? valueOf(named.value, other => this.nameOf(other))
+                : isNameless ? '' : this.nameOf(handle);
             const one = this.named(row.made, name, handle, record.class, action);
             holdDrawn(this, one);
             this.setAll(record, action, true);

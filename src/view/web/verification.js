@@ -8,7 +8,8 @@ const verificationVersion = 1;
 const oddHandle = /"(?:handles?|id)":\s*\[?\s*"(?:0|[0-9A-F]*[a-f])/;
 
 function usualHandle(key, value) {
-    const usual = one => typeof one === 'string' && /^[0-9A-Fa-f]+$/.test(one) ? one.toUpperCase().replace(/^0+(?=.)/, '') : one;
+    const usual = one => typeof one === 'string' && /^[0-9A-Fa-f]+$/.test(one)
+        ? one.toUpperCase().replace(/^0+(?=.)/, '') : one;
     return key === 'handle' || key === 'id' ? usual(value) : key === 'handles' ? value.map(usual) : value;
 }
 
