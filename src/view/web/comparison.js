@@ -93,6 +93,7 @@ class Comparison {
         this.origins = origins;
         this.writtenLine = writtenLine;
         this.places = places;
+        this.madeClasses = new Set(places.interfaces.values());
         this.findings = [];
         this.equal = 0;
         this.matched = new Map(); // expected objects by their things
@@ -133,9 +134,7 @@ class Comparison {
         const waiting = new Map();
         for (const expected of this.recorded.objects.filter(one => !this.things.has(one))) {
             for (const key of keysOfExpected(expected)) {
-                const name = key + ' ' + expected.made;
-                waiting.set(name, waiting.get(name) || []);
-                waiting.get(name).push(expected);
+                addTo(waiting, key + ' ' + expected.made, expected);
             }
         }
         for (const thing of this.model.made.filter(one => !this.matched.has(one))) {
@@ -153,7 +152,7 @@ class Comparison {
         for (const thing of this.model.named) {
             const key = thing.cls + ' ' + (thing.name && thing.name !== '*U' ? thing.name
                 : thing.call ? thing.call.action : '');
-            byName.set(key, (byName.get(key) || []).concat([thing]));
+            addTo(byName, key, thing);
         }
         for (const expected of this.recorded.records) {
             const key = expected.made + ' ' + (expected.name && expected.name !== '*U' ? expected.name
@@ -220,10 +219,6 @@ class Comparison {
             || unrecordedClasses.includes(thing.cls) && this.rangeOf(thing).line !== undefined;
     }
 
-    get madeClasses() {
-        return this.madeClassesCache || (this.madeClassesCache = new Set(this.places.interfaces.values()));
-    }
-
     findSurplus(thing, reason) {
         const {line} = thing.call;
         this.findings.push({kind: 'surplus', class: thing.cls, handle: '', line: null, path: '',
@@ -250,16 +245,14 @@ class Comparison {
             }
             const [, part, of] = /^(Line[12]|Curve)\.(.*)/.exec(question) || [];
             const measured = part ? heldOf(thing, part + '()', 0) : null;
-            // What a dimension measures may be there already.
-            if (measured && (this.matched.has(measured) || measured.handle)) {
-                continue;
-            }
+            const isThere = measured && (this.matched.has(measured) || measured.handle);
             const seen = measured ? heldOf(measured, of, index) : heldOf(thing, question, index);
-            const isRight = seen === undefined
+            // What a dimension measures may be there already.
+            const isRight = isThere || (seen === undefined
                 ? isNothing(value) || value === anything || this.isDefault(cls, question, value)
                     || this.places.optional.has(cls + ' ' + question)
                 : value !== null && value !== undefined && value.handle ? this.isHanded(seen, value)
-                    : fits(question, seen, value, this.places.turns.has(question + index));
+                    : fits(question, seen, value, this.places.turns.has(question + index)));
             if (!isRight) {
                 this.find('different', expected, action, tag, value, seen, 'it is drawn with another value');
             }
@@ -287,12 +280,12 @@ class Comparison {
     compareCalls() {
         const wanted = new Map();
         for (const one of this.recorded.operations) {
-            wanted.set(one.action.key, (wanted.get(one.action.key) || []).concat([one]));
+            addTo(wanted, one.action.key, one);
         }
         const seen = new Map();
         for (const call of this.model.calls) {
             if (this.recorded.calls.names.has(call.name) && (wanted.has(call.action) || !call.name.startsWith('Set'))) {
-                seen.set(call.action, (seen.get(call.action) || []).concat([call]));
+                addTo(seen, call.action, call);
             }
         }
         for (const key of new Set([...wanted.keys(), ...seen.keys()])) {
@@ -327,17 +320,18 @@ class Comparison {
     }
 
     isHanded(value, wanted) {
-        if (wanted !== null && typeof wanted === 'object' && wanted.handle) {
-            const expected = value instanceof Thing ? this.matched.get(value) : null;
-            const leader = this.recorded.leaders.get(wanted.handle);
-            if (value instanceof Thing && value.call && !this.madeClasses.has(value.cls)) {
-                return this.rangeOf(value).handles.includes(wanted.handle);
-            }
-            return expected ? [wanted.handle, leader].includes(expected.handle) : value instanceof Thing
-                && ([wanted.handle, leader].includes(value.handle)
-                    || !value.handle && this.isDrawnOf(value, wanted.handle));
+        if (wanted === null || typeof wanted !== 'object' || !wanted.handle) {
+            return wanted === null || fits('', value, wanted, false);
         }
-        return wanted === null || fits('', value, wanted, false);
+        if (!(value instanceof Thing)) {
+            return false;
+        }
+        if (value.call && !this.madeClasses.has(value.cls)) {
+            return this.rangeOf(value).handles.includes(wanted.handle);
+        }
+        const {handle} = this.matched.get(value) || value;
+        return handle ? [wanted.handle, this.recorded.leaders.get(wanted.handle)].includes(handle)
+            : this.isDrawnOf(value, wanted.handle);
     }
 
     // Whether something that is drawn for a block is what the drawing has under the handle, as far as it can be asked.

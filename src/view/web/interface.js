@@ -2,6 +2,14 @@
 
 'use strict';
 
+// Puts a value behind those of a key.
+function addTo(map, key, value) {
+    if (!map.has(key)) {
+        map.set(key, []);
+    }
+    map.get(key).push(value);
+}
+
 const basicTypes = ['double', 'int', 'long', 'bool', 'string', 'object', 'typeNumber'];
 
 function parametersOf(text) {

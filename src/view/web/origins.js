@@ -118,7 +118,7 @@ class Origins {
         for (const range of map.ranges) {
             if (range.line !== undefined) {
                 const key = actionKey(range.line, range.path);
-                this.byAction.set(key, (this.byAction.get(key) || []).concat([range]));
+                addTo(this.byAction, key, range);
             }
         }
     }
