@@ -3,6 +3,7 @@
 #include "targets/polylineEdits.h"
 #include "actions/handedVariable.h"
 #include "actions/handlers.h"
+#include "host/db/OdDbCurves.h"
 #include "objects/targets/setters.h"
 #include "statements/losses.h"
 #include "targets/hatches.h"
@@ -17,23 +18,25 @@ using enum CFxCustomActionData::_Type;
 /// The statement for one edit of the polyline of that variable.
 using EmitPolylineEdit = Statement (*)(Writer& writer, const CFxString& polyline, const CFxCustomAction& action);
 
-/// The polyline is told by two data from `first` on, by a handle and a class or by arrays of which the first counts.
+/// A polyline is told by two data from `first` on, by a handle and a class or by arrays of which the first counts.
+static const OdRxClass* ClassOfPolyline(const CFxCustomAction& action, std::int32_t first)
+{
+    const CFxCustomActionData& cls = action.GetData(first + 1);
+    return action.GetData(first).GetType() == kHandleArray ? ClassAt(cls.GetClassArray(), 0) : cls.GetClass();
+}
+
 /// One without a variable gets no statement.
 static Statement EditOfPolyline(Conversion& conversion, const CFxCustomAction& action, std::int32_t first,
                                 EmitPolylineEdit edit)
 {
     const CFxCustomActionData& handle = action.GetData(first);
-    const CFxCustomActionData& cls = action.GetData(first + 1);
+    const OdRxClass* const cls = ClassOfPolyline(action, first);
+    const bool isList = handle.GetType() == kHandleArray;
+    if (isList && handle.GetHandleArray().empty())
+        throw OdError_InvalidIndex();
     CFxString polyline;
-    Statement text;
-    if (handle.GetType() == kHandleArray) {
-        const OdRxClass* const firstClass = ClassAt(cls.GetClassArray(), 0);
-        if (handle.GetHandleArray().empty())
-            throw OdError_InvalidIndex();
-        text = conversion.names().EmitObjectVariable(handle.GetHandleArray().front(), firstClass, polyline);
-    } else {
-        text = conversion.names().EmitObjectVariable(handle.GetHandle(), cls.GetClass(), polyline);
-    }
+    const Statement text = conversion.names().EmitObjectVariable(
+        isList ? handle.GetHandleArray().front() : handle.GetHandle(), cls, polyline);
     return polyline.isEmpty() ? QString() : text + edit(conversion.writer, polyline, action);
 }
 
@@ -188,9 +191,17 @@ Statement widened(Writer& writer, const CFxString& polyline, const CFxCustomActi
                              action.GetData(5).GetDouble());
 }
 
+const Fault kHeightOfPlane{
+    "EmitAddVertexAfter",
+    {Target::Cpp, Target::CSharp, Target::JavaScript, Target::VbNet, Target::CppCom, Target::Vba},
+    "a vertex that is added to a polyline of a plane is given three coordinates"};
+
 Statement vertexAdded(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)
 {
-    return EmitAddVertexAfter(writer, polyline, action.GetData(2).GetInt(), action.GetData(3).GetPoint(), true);
+    const bool isPlane = ClassOfPolyline(action, 0) == OdDbPolyline::desc();
+    const Statement text = EmitAddVertexAfter(writer, polyline, action.GetData(2).GetInt(),
+                                              action.GetData(3).GetPoint(), !isPlane || !writer.repairs);
+    return isPlane ? writer.faulty(text, kHeightOfPlane) : text;
 }
 
 Statement vertexDeleted(Writer& writer, const CFxString& polyline, const CFxCustomAction& action)

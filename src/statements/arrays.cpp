@@ -389,15 +389,18 @@ static const Fault kTooManyValues{
 /// no browser of its engine takes.
 static constexpr int kMostValues = 30'000;
 
+static const Fault kSingleNumber{
+    "array in front of a call", {Target::JavaScript}, "of a single number an array of that length is made, without it"};
+
 /// A script's own array in front of the call.
 static Statement scriptArray(Writer& writer, const QString& name, const Statement& list, int count, Brackets brackets)
 {
     const QString blank = brackets == Brackets::Spaced ? QStringLiteral(" ") : QString();
     const bool isLong = count > kMostValues;
-    const bool isLiteral = isLong && writer.repairs;
+    const bool isLiteral = (isLong || count == 1) && writer.repairs;
     const Statement text = writer.indentation() + "var " + name + (isLiteral ? " = [" : " = new Array(") + blank +
                            list + blank + (isLiteral ? "];" : ");") + LineEnd;
-    return isLong ? writer.faulty(text, kTooManyValues) : text;
+    return isLong ? writer.faulty(text, kTooManyValues) : count == 1 ? writer.faulty(text, kSingleNumber) : text;
 }
 
 ArrayArgument coordinateArray(Writer& writer, Coordinates coordinates, const char* script, NumberForm numbers,

@@ -71,6 +71,9 @@ SAID = {
     "the place of the chosen item of a list is taken for the item's number": r"DualDimensionFormat_Decimal",
     "the box of a note is that of another justification than it gets, which moves it": r"InsertNote ?\( ?20\b",
     "a block that is made anew loses its description": r'"Of three parts"(?:.|\n)*"Of three parts"',
+    # Basic is not asked how many arguments an operation takes.
+    "a vertex that is added to a polyline of a plane is given three coordinates":
+        r"AddVertexAfter\W+\d, \d, \d(?!, \d)",
     # A number is as good as another.
     "a number that has more than six digits is rounded to them": r"\d\.\d{6}\d*[1-9]",
 }

@@ -167,7 +167,7 @@ function isMet(conditions, data) {
     return conditions.every(one => {
         const [, number, sign, word] = /^(\d*)([#=:])(.*)$/.exec(one);
         return sign === '#' ? data.length === Number(word)
-            : sign === '=' ? datumOf(data, Number(number)) === word : word in (data[Number(number)] || {});
+            : sign === '=' ? listOf(datumOf(data, Number(number)))[0] === word : word in (data[Number(number)] || {});
     });
 }
 
