@@ -10,29 +10,37 @@ namespace inkmacro::dxf {
 
 namespace {
 
-/// Tells the lines of places in a text that come in ascending order, or nearly so.
+/// Tells the lines of places in a text, in whatever order they are asked for.
 class LineCounter
 {
 public:
-    explicit LineCounter(std::string_view text) : text_(text) {}
+    explicit LineCounter(std::string_view text) : text_(text)
+    {
+        qint64 line = 1;
+        for (std::size_t at = 0; at < text.size(); at += kPage) {
+            lines_.push_back(line);
+            line += ends(at, std::min(at + kPage, text.size()));
+        }
+    }
 
     /// Of what stands there, from 1.
-    qint64 lineOf(std::size_t offset)
+    qint64 lineOf(std::size_t offset) const
     {
-        if (offset < at_) {
-            at_ = 0;
-            line_ = 1;
-        }
-        const std::string_view passed = text_.substr(at_, offset - at_);
-        line_ += std::count(passed.begin(), passed.end(), '\n');
-        at_ = offset;
-        return line_;
+        const std::size_t page = offset / kPage;
+        return page < lines_.size() ? lines_[page] + ends(page * kPage, offset) : 1;
     }
 
 private:
+    static constexpr std::size_t kPage = 4096;
+
+    qint64 ends(std::size_t from, std::size_t to) const
+    {
+        return std::count(text_.begin() + static_cast<std::ptrdiff_t>(from),
+                          text_.begin() + static_cast<std::ptrdiff_t>(to), '\n');
+    }
+
     std::string_view text_;
-    std::size_t at_ = 0;
-    qint64 line_ = 1;
+    std::vector<qint64> lines_; ///< at the beginning of each page
 };
 
 } // namespace
