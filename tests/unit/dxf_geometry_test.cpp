@@ -1,5 +1,6 @@
-// Curves of drawings.
+// Curves and directions of drawings.
 
+#include "dxf/directions.h"
 #include "dxf/splines.h"
 #include "dxf/vectors.h"
 
@@ -9,6 +10,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <numbers>
 
 using namespace inkmacro::dxf;
 
@@ -226,20 +228,118 @@ TEST(DxfSplines, AreRefusedWhereTheyAreNoCurve)
 
 TEST(DxfSplines, TellHowFarTheyGotWithinTheirPoints)
 {
-    for (const size_t count : {4'000U, 30'000U}) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const auto& [count, tolerance] : {std::pair<size_t, double>{4'000, 0.0}, {30'000, nan}}) {
         Nurbs wave;
         for (size_t i = 0; i < count; ++i)
             wave.points.push_back({double(i), i % 2 ? 40.0 : 0.0, 0});
         for (size_t i = 0; i < count + 4; ++i)
             wave.knots.push_back(double(std::clamp<size_t>(i, 3, count)));
-        for (const double tolerance : {0.0, std::numeric_limits<double>::quiet_NaN()}) {
-            const auto fit = fitPoints(wave, tolerance);
-            ASSERT_TRUE(fit);
-            EXPECT_EQ(fit->points.size(), 10'000U);
-            EXPECT_GT(fit->deviation, 1e-9);
-            EXPECT_EQ(fit->points.back(), wave.points.back());
+        const auto fit = fitPoints(wave, tolerance);
+        ASSERT_TRUE(fit);
+        EXPECT_EQ(fit->points.size(), 10'000U);
+        EXPECT_GT(fit->deviation, 1e-9);
+        EXPECT_EQ(fit->points.back(), wave.points.back());
+    }
+}
+
+void expectPoint(const OdGePoint3d& point, double x, double y, double z)
+{
+    expectVector(point - OdGePoint3d{}, x, y, z);
+}
+
+constexpr double pi = std::numbers::pi;
+const Direction behind({0, 0, -1});
+
+TEST(DxfDirections, FollowTheNormal)
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const OdGePoint3d point{3, -4, 5};
+    for (const OdGeVector3d& normal : {OdGeVector3d{0, 0, 1},
+                                       {0, 0, 1e-320},
+                                       {1e290, 0, 1e300},
+                                       {0, 0, 0},
+                                       {1e-17, -1e-12, 1},
+                                       {nan, 0, -1},
+                                       {0, 0, -HUGE_VAL}}) {
+        const Direction up(normal);
+        EXPECT_FALSE(up.isDown() || up.isTilted());
+        EXPECT_EQ(up.toWorld(point), point);
+    }
+    for (const OdGeVector3d& normal : {OdGeVector3d{0, 0, -1}, {0, 0, -5e-324}, {1e-17, 1e-12, -1}, {0, 0, -1e308}}) {
+        const Direction down(normal);
+        EXPECT_TRUE(down.isDown() && !down.isTilted());
+        EXPECT_EQ(down.toWorld(point), (OdGePoint3d{-3, -4, -5}));
+    }
+    struct Case
+    {
+        OdGeVector3d normal;
+        OdGePoint3d world;
+    };
+    for (const auto& [normal, world] : {
+             Case{{1, 2, 3}, {0.08729896776364665, 6.882801868026663, 1.6184614100175785}},
+             Case{{1e-200, 2e-200, 3e-200}, {0.08729896776364665, 6.882801868026663, 1.6184614100175785}},
+             Case{{0.01, 0.01, 1}, {3.050244952008436, -3.949805034243876, 5.009495575824855}},
+             Case{{0.01, -0.01, -1}, {-2.950254950508686, -4.049795035743626, -4.989504574150151}},
+             // On both sides of where the rule changes.
+             Case{{1 / 64.0, 0, 1}, {3.0777493211067966, -4, 4.952520481171851}},
+             Case{{0, 1 / 63.0, 1}, {-3, 4.078851273068015, 4.9358861709111}},
+             Case{{1, 0, 0}, {5, 3, -4}},
+             Case{{0, -1e300, 0}, {3, -5, -4}},
+         }) {
+        const Direction tilted(normal);
+        EXPECT_TRUE(tilted.isTilted() && !tilted.isDown());
+        expectPoint(tilted.toWorld(point), world.x, world.y, world.z);
+    }
+}
+
+TEST(DxfDirections, KeepThePlacesOfWhatIsSeenFromBehind)
+{
+    // Arcs, at parts of their sweep; the world's runs the other way.
+    for (const Arc& arc : {Arc{0.3, 1.5}, {5.5, 7}, {5, 1}, {pi, 2 * pi}, {0, 2 * pi}, {-0.25, 2 * pi - 0.25}}) {
+        const Arc world = behind.arcToWorld(arc);
+        const auto sweep = [](const Arc& a) { return a.end > a.start ? a.end - a.start : a.end - a.start + 2 * pi; };
+        EXPECT_TRUE(world.start >= 0 && world.start < 2 * pi);
+        EXPECT_NEAR(sweep(world), sweep(arc), 1e-12);
+        for (const double part : {0.0, 0.2, 1.0}) {
+            const double angle = arc.start + part * sweep(arc);
+            const double other = world.start + (1 - part) * sweep(world);
+            const OdGePoint3d place = behind.toWorld({7 + 2 * std::cos(angle), 2 * std::sin(angle), 1});
+            expectPoint(place, -7 + 2 * std::cos(other), 2 * std::sin(other), -1);
         }
     }
+
+    // The top of a bulge between two corners lies to the right of the way.
+    const auto top = [](const OdGePoint3d& a, const OdGePoint3d& b, double bulge) {
+        const OdGeVector3d way = b - a;
+        return a + 0.5 * way + bulge / 2 * OdGeVector3d{way.y, -way.x, 0};
+    };
+    const OdGePoint3d from{1, 2, 0};
+    const OdGePoint3d to{4, -3, 0};
+    const OdGePoint3d place = behind.toWorld(top(from, to, 0.4));
+    const OdGePoint3d other = top(behind.toWorld(from), behind.toWorld(to), behind.bulgeToWorld(0.4));
+    expectPoint(place, other.x, other.y, other.z);
+
+    // A place of a block.
+    const auto placed = [](const OdGePoint3d& p, const Placement& placement) {
+        const double c = std::cos(placement.rotation);
+        const double s = std::sin(placement.rotation);
+        const OdGePoint3d scaled{p.x * placement.scale.sx, p.y * placement.scale.sy, p.z * placement.scale.sz};
+        return OdGePoint3d{scaled.x * c - scaled.y * s, scaled.x * s + scaled.y * c, scaled.z};
+    };
+    for (const double rotation : {0.0, 0.7, 3.0, 6.0, -1.0}) {
+        const Placement placement{rotation, {2, -3, 0.5}};
+        const OdGePoint3d inside{1.5, -0.25, 4};
+        const OdGePoint3d seen = placed(inside, behind.placementToWorld(placement));
+        expectPoint(behind.toWorld(placed(inside, placement)), seen.x, seen.y, seen.z);
+        EXPECT_TRUE(behind.placementToWorld(placement).rotation >= 0 &&
+                    behind.placementToWorld(placement).rotation < 2 * pi);
+    }
+
+    // Nothing is done to what is seen from the front.
+    EXPECT_EQ(Direction().arcToWorld(Arc{350, -1}).start, 350);
+    EXPECT_EQ(Direction().placementToWorld(Placement{-7, {1, 2, 3}}).scale, (OdGeScale3d{1, 2, 3}));
+    EXPECT_EQ(Direction().bulgeToWorld(0.5), 0.5);
 }
 
 } // namespace
