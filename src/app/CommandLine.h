@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dxf/ImportOptions.h"
 #include "host/db/OdDbHandle.h"
 #include "statements/TargetTable.h"
 
@@ -31,6 +32,7 @@ struct HostSettings
     std::optional<QString> lineStyles;    ///< directory of line style files, searched before those of the drawing
     bool replay = false;                  ///< whatever mode the recording says
     bool repair = false;                  ///< macros without their known faults
+    bool faithful = false;                ///< and with them, of drawings too
 };
 
 /// In which form `convert` tells what its macros lack and where they are faulty.
@@ -67,6 +69,7 @@ struct CommandLine
         Check,
         Format,
         Verify,
+        Import,
         Snapshot,
         RecordingSchema,
         ReportSchema,
@@ -89,6 +92,7 @@ struct CommandLine
     bool map = false;             ///< a map beside each macro
     bool force = false;           ///< projects of other recordings are replaced
     HostSettings host;
+    dxf::ImportOptions import;
     Telling telling;
     OdDbHandle handle;                           ///< of the object that is shown; null for all
     std::optional<QString> hostCommand;          ///< the name of the command that is run, or of those that are shown

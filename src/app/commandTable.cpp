@@ -91,7 +91,16 @@ Without it the recording's header says.)",
         .text = R"(Without it a macro is as the application's own recorder writes it, with
 faults by which its language or its host rejects it; and a recorded text
 with a quotation mark in it can become code. With it they are mended: all
-that the user entered stays text.)",
+that the user entered stays text. Macros of drawings are written so without
+it.)",
+    },
+    {
+        .name = "--faithful",
+        .take = [](CommandLine& line, const QString&) { line.host.faithful = true; },
+        .meaning = "macros of drawings with the known faults",
+        .text = R"(A drawing in a DXF file becomes a recording on the way to the macro, which
+is written as with --repair. With this option it is as the application's
+own recorder would have written it.)",
     },
     {
         .name = "--recording-language",
@@ -208,6 +217,55 @@ const std::vector<OptionRow> formatOptions = {
         .take = takeOutput,
         .meaning = "where the lines go to",
         .text = "The file that the lines go to; it may be FILE itself.",
+    },
+};
+
+const std::vector<OptionRow> importOptions = {
+    {
+        .name = "--output",
+        .letter = 'o',
+        .form = "FILE",
+        .offer = Offer::Files,
+        .take = takeOutput,
+        .meaning = "where the recording goes to",
+        .text = "The file that the recording goes to; - is standard output, as without it.",
+    },
+    {
+        .name = "--select",
+        .form = "LAYER[,LAYER...]",
+        .take = takeLayers,
+        .meaning = "only what lies on these layers",
+        .text = R"(Take only what lies on these layers, in whatever case. Blocks come whole.)",
+        .repeats = true,
+    },
+    {
+        .name = "--blocks",
+        .take = [](CommandLine& line, const QString&) { line.import.onlyBlocks = true; },
+        .meaning = "only the definitions of blocks",
+        .text = "Take only the styles and the definitions of blocks, as of a library.",
+    },
+    {
+        .name = "--tolerance",
+        .form = "PART",
+        .take = takeTolerance,
+        .meaning = "how far a curve may be from that of the drawing",
+        .text = R"(A curve that no recording can hold, such as a spline by control points,
+comes in as another one that is nowhere further from it than this part of
+its size: 1e-6 without this option. It counts as approximated.)",
+    },
+    {
+        .name = "--report",
+        .take = [](CommandLine& line, const QString&) { line.telling.report = ReportForm::Json; },
+        .meaning = "tell as JSON what came of the drawing",
+        .text = R"(Tell as one JSON document what came of the entities of each kind: on
+standard output, or on standard error when the recording goes there.)",
+    },
+    {
+        .name = "--quiet",
+        .letter = 'q',
+        .take = [](CommandLine& line, const QString&) { line.telling.quiet = true; },
+        .meaning = "do not tell what came of the drawing",
+        .text = "Do not tell on standard error what came of the drawing's entities.",
     },
 };
 
@@ -381,6 +439,18 @@ nor the recording up to there has.)",
         .form = "FILE",
         .text = verifyText,
         .options = verifyOptions,
+    },
+    {
+        .command = Command::Import,
+        .name = "import",
+        .meaning = "make a recording of a DXF drawing",
+        .operands = Operands::File,
+        .form = "FILE",
+        .text = R"(Makes a recording of a drawing in a DXF file, ASCII or binary, as if a user had
+drawn it: its layers and styles, its blocks, and its entities in their order.
+What became of each kind of entity, and what could not come in, is told at the
+end on standard error.)",
+        .options = importOptions,
     },
     {
         .command = Command::Format,
