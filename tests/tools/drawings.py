@@ -29,6 +29,7 @@ class Drawing:
     path: pathlib.Path
     twin: object = None  # a file, or a drawing of ezdxf
     rule: str = "whole"
+    least: int = 0  # so many objects are found
 
     @property
     def name(self):
@@ -491,7 +492,8 @@ def make(folder):
     for name, bytes_, start in (("text", content, content.index(b"ENTITIES")), ("binary", short, short.index(b"ENTITIES"))):
         step = (len(bytes_) - start) // 12
         for offset in range(start + 9, len(bytes_), step):
-            yield file(f"cut_{name}_{offset}.dxf", bytes_[:offset], whole.path, "cut")
+            begun = re.findall(rb"[\n\0](LINE|POLYLINE|INSERT|CIRCLE|TEXT)[\n\0]", bytes_[start:offset])
+            yield file(f"cut_{name}_{offset}.dxf", bytes_[:offset], whole.path, "cut", max(len(begun) - 1, 0))
         yield file(f"cut_{name}_early.dxf", bytes_[:len(bytes_) // 4], whole.path, "cut")
 
     for name, (count, topic) in LYING.items():
