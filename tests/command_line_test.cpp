@@ -60,8 +60,8 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
         {{"cnovert"}, "unknown command \"cnovert\"; did you mean convert?"},
         {{"Check"}, "unknown command \"Check\"; did you mean check?"},
         {{"transmogrify"},
-         "unknown command \"transmogrify\"; known are convert, inspect, check, verify, format, snapshot, run, "
-         "schema, classes, system-variables, faults, completion"},
+         "unknown command \"transmogrify\"; known are convert, inspect, check, verify, import, format, snapshot, "
+         "run, schema, classes, system-variables, faults, completion"},
         {{"convert", "--outptu"}, "unknown option \"--outptu\"; did you mean --output?"},
         {{"convert", "--Report=text"}, "unknown option \"--Report\"; did you mean --report?"},
         {{"convert", "-output", "x"}, "unknown option \"-output\"; did you mean --output?"},
@@ -91,6 +91,8 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
         {{"inspect", "a", "--handle=A", "--handle=A"}, "--handle is given more than once"},
         {{"check", "a", "--handle=A"}, "--handle is no option of check, but of inspect and snapshot"},
         {{"schema", "reprot"}, "\"reprot\" is none of recording, report, map, verification; did you mean report?"},
+        {{"import", "a", "--select", "Walls,,Doors"}, "--select: a name is empty in \"Walls,,Doors\""},
+        {{"import", "a", "--tolerance", "nan"}, "--tolerance: \"nan\" is no number above 0 and up to 1"},
         {{"verify", "a", "--macro", "-"}, "--macro: the macro must be a file, not standard input"},
         {{"classes", "AcDbLien"}, "\"AcDbLien\" is none of the 52 known names; did you mean AcDbLine?"},
         {{"completion"}, "completion needs bash|zsh|fish"},

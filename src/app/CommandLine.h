@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dxf/ImportOptions.h"
 #include "host/db/OdDbHandle.h"
 #include "statements/TargetTable.h"
 
@@ -67,6 +68,7 @@ struct CommandLine
         Check,
         Format,
         Verify,
+        Import,
         Snapshot,
         RecordingSchema,
         ReportSchema,
@@ -89,6 +91,7 @@ struct CommandLine
     bool map = false;             ///< a map beside each macro
     bool force = false;           ///< projects of other recordings are replaced
     HostSettings host;
+    dxf::ImportOptions import;
     Telling telling;
     OdDbHandle handle;                           ///< of the object that is shown; null for all
     std::optional<QString> hostCommand;          ///< the name of the command that is run, or of those that are shown

@@ -211,6 +211,55 @@ const std::vector<OptionRow> formatOptions = {
     },
 };
 
+const std::vector<OptionRow> importOptions = {
+    {
+        .name = "--output",
+        .letter = 'o',
+        .form = "FILE",
+        .offer = Offer::Files,
+        .take = takeOutput,
+        .meaning = "where the recording goes to",
+        .text = "The file that the recording goes to; - is standard output, as without it.",
+    },
+    {
+        .name = "--select",
+        .form = "LAYER[,LAYER...]",
+        .take = takeLayers,
+        .meaning = "only what lies on these layers",
+        .text = R"(Take only what lies on these layers, in whatever case. Blocks come whole.)",
+        .repeats = true,
+    },
+    {
+        .name = "--blocks",
+        .take = [](CommandLine& line, const QString&) { line.import.onlyBlocks = true; },
+        .meaning = "only the definitions of blocks",
+        .text = "Take only the styles and the definitions of blocks, as of a library.",
+    },
+    {
+        .name = "--tolerance",
+        .form = "PART",
+        .take = takeTolerance,
+        .meaning = "how far a curve may be from that of the drawing",
+        .text = R"(A curve that no recording can hold, such as a spline by control points,
+comes in as another one that is nowhere further from it than this part of
+its size: 1e-6 without this option. It counts as approximated.)",
+    },
+    {
+        .name = "--report",
+        .take = [](CommandLine& line, const QString&) { line.telling.report = ReportForm::Json; },
+        .meaning = "tell as JSON what came of the drawing",
+        .text = R"(Tell as one JSON document what came of the entities of each kind: on
+standard output, or on standard error when the recording goes there.)",
+    },
+    {
+        .name = "--quiet",
+        .letter = 'q',
+        .take = [](CommandLine& line, const QString&) { line.telling.quiet = true; },
+        .meaning = "do not tell what came of the drawing",
+        .text = "Do not tell on standard error what came of the drawing's entities.",
+    },
+};
+
 const std::vector<OptionRow> verifyOptions = {
     {
         .name = "--macro",
@@ -381,6 +430,18 @@ nor the recording up to there has.)",
         .form = "FILE",
         .text = verifyText,
         .options = verifyOptions,
+    },
+    {
+        .command = Command::Import,
+        .name = "import",
+        .meaning = "make a recording of a DXF drawing",
+        .operands = Operands::File,
+        .form = "FILE",
+        .text = R"(Makes a recording of a drawing in a DXF file, ASCII or binary, as if a user had
+drawn it: its layers and styles, its blocks, and its entities in their order.
+What became of each kind of entity, and what could not come in, is told at the
+end on standard error.)",
+        .options = importOptions,
     },
     {
         .command = Command::Format,

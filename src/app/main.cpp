@@ -13,6 +13,7 @@
 #include "app/fileNames.h"
 #include "app/formatting.h"
 #include "app/helpPages.h"
+#include "app/importing.h"
 #include "app/inspection.h"
 #include "app/optionNames.h"
 #include "app/pages.h"
@@ -71,6 +72,8 @@ int run(const CommandLine& line)
         return formatRecording(line.files.front(), line.output.value_or(QString()));
     case CommandLine::Command::Verify:
         return verifyRecording(line.files.front(), line.macro, line.json);
+    case CommandLine::Command::Import:
+        return importDrawing(line);
     case CommandLine::Command::Snapshot:
         return showSnapshot(line.files.front(), line.handle, line.json);
     case CommandLine::Command::RecordingSchema:

@@ -81,6 +81,23 @@ void takeOutput(CommandLine& line, const QString& path)
     line.output = path;
 }
 
+void takeLayers(CommandLine& line, const QString& list)
+{
+    for (const QString& layer : list.split(',')) {
+        if (layer.trimmed().isEmpty())
+            throw WrongUse(QString("a name is empty in \"%1\"").arg(list));
+        line.import.layers.append(layer.trimmed());
+    }
+}
+
+void takeTolerance(CommandLine& line, const QString& number)
+{
+    bool isNumber = false;
+    line.import.tolerance = number.toDouble(&isNumber);
+    if (!isNumber || !(line.import.tolerance > 0) || line.import.tolerance > 1)
+        throw WrongUse(QString("\"%1\" is no number above 0 and up to 1").arg(number));
+}
+
 void takeMacro(CommandLine& line, const QString& path)
 {
     refuseEmptyPath(path);

@@ -1,0 +1,97 @@
+// A drawing file becomes a recording.
+
+#include "app/importing.h"
+
+#include "app/ExitStatus.h"
+#include "app/ProgressLine.h"
+#include "app/StagedResult.h"
+#include "app/console.h"
+#include "app/importReport.h"
+#include "dxf/DrawingFile.h"
+#include "dxf/Import.h"
+#include "recordfile/JsonOut.h"
+#include "recordfile/actionForms.h"
+
+namespace inkmacro {
+
+namespace {
+
+/// So much is written at once.
+constexpr int kPiece = 1 << 16;
+
+/// Gives `write` the lines of the recording, piece by piece; it says whether they could be written.
+bool writeLines(dxf::Import& import, qint64 size, const std::function<bool(const QByteArray&)>& write)
+{
+    ProgressLine line([&] { return "reading " + progressBar(static_cast<qint64>(import.offset()), size); });
+    if (!write(import.head()))
+        return false;
+    recordfile::JsonOut out{CFxValueContext{}};
+    while (const OdRxObjectPtr action = import.next()) {
+        recordfile::Form<OdRxObjectPtr>::write(out, action);
+        out.endLine();
+        if (out.bytes().size() < kPiece)
+            continue;
+        line.update();
+        if (!write(out.bytes()))
+            return false;
+        out.clear();
+    }
+    return write(out.bytes());
+}
+
+/// Raises PlacingError.
+void writeFile(dxf::Import& import, qint64 size, const QString& output)
+{
+    StagedResult result({output});
+    QFile file(result.firstFile());
+    if (!file.open(QIODevice::WriteOnly) ||
+        !writeLines(import, size, [&](const QByteArray& lines) { return file.write(lines) == lines.size(); }) ||
+        !file.flush())
+        throw PlacingError(output, file.errorString());
+    file.close();
+    result.place();
+}
+
+} // namespace
+
+int importDrawing(const CommandLine& line)
+{
+    const QString path = line.files.front();
+    const QString name = path == "-" ? QStringLiteral("standard input") : path;
+    dxf::DrawingFile file;
+    if (!file.open(path)) {
+        printLine(name + ": cannot be read: " + file.error());
+        return kUnreadable;
+    }
+    dxf::Drawing drawing(file.bytes());
+    if (!drawing.isValid()) {
+        printLine(name + ": no section of a drawing is found in it");
+        return kUnreadable;
+    }
+    OdDbDatabase ids;
+    dxf::Import import(drawing, ids, line.import);
+    const auto size = static_cast<qint64>(file.bytes().size());
+    const bool toOutput = !line.output || line.output == "-";
+    try {
+        if (toOutput)
+            writeLines(import, size, [](const QByteArray& lines) {
+                printOut(lines);
+                return true;
+            });
+        else
+            writeFile(import, size, *line.output);
+    } catch (const PlacingError& error) {
+        complain(error.message());
+        return kFailed;
+    }
+    if (line.telling.report != ReportForm::None) {
+        const QByteArray report = importReport(import.accounts());
+        toOutput ? printError(report) : printOut(report);
+    } else if (!line.telling.quiet) {
+        for (const QString& told : importLines(import.accounts()))
+            printLine(name + ": " + told);
+    }
+    return kDone;
+}
+
+} // namespace inkmacro

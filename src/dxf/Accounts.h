@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace inkmacro::dxf {
+
+/// What became of the entities of a drawing file, by their kinds. Each of them is in one of the first three.
+struct Accounts
+{
+    struct Approximated
+    {
+        qint64 count = 0;
+        double deviation = 0; ///< the largest, in drawing units
+    };
+    using ByReason = std::map<std::pair<std::string, std::string>, qint64>; ///< kind, and why or what
+
+    std::map<std::string, qint64> imported;
+    std::map<std::string, Approximated> approximated;
+    ByReason lost;
+    ByReason untold; ///< what the file says of imported entities and the recording does not
+
+    void lose(std::string_view kind, const char* reason) { ++lost[{std::string(kind), reason}]; }
+    void leaveOut(std::string_view kind, const char* what) { ++untold[{std::string(kind), what}]; }
+};
+
+} // namespace inkmacro::dxf

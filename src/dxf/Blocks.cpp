@@ -1,0 +1,148 @@
+#include "dxf/Blocks.h"
+
+#include "dxf/EntityReader.h"
+
+namespace inkmacro::dxf {
+
+namespace {
+
+enum BlockFlag : qint64
+{
+    kExternalReference = 4,
+    kOverlay = 8,
+};
+
+bool isLayout(const QString& name)
+{
+    const auto begins = [&](const char* with) { return name.startsWith(QLatin1String(with), Qt::CaseInsensitive); };
+    // R12 writes them with a dollar.
+    return begins("*Model_Space") || begins("*Paper_Space") || begins("$Model_Space") || begins("$Paper_Space");
+}
+
+} // namespace
+
+Blocks::Blocks(Drawing& drawing) : drawing_(drawing)
+{
+    all_.reserve(drawing.blocks().size());
+    for (const Block& block : drawing.blocks()) {
+        if (block.name.isEmpty() || isLayout(block.name))
+            continue;
+        const QString key = block.name.toLower();
+        if (byName_.contains(key))
+            continue; // the first of two counts
+        byName_.emplace(key, &all_.emplace_back(Made{&block, {}, {}, {}, {}, false, false}));
+        if (!block.name.startsWith('*'))
+            names_.insert(key);
+    }
+    for (Made& made : all_) {
+        name(made);
+        describe(made);
+    }
+    for (const Entity& entity : drawing.entities())
+        if (Made* const inserted = insertedBy(entity))
+            inserted->isInserted = true;
+    sort();
+}
+
+void Blocks::name(Made& made)
+{
+    const QString& own = made.block->name;
+    if (!own.startsWith('*')) {
+        made.insertable.name = own;
+        return;
+    }
+    // A star stands for a name that the application makes up, and none is accepted with it.
+    const QString base = "Anonymous_" + own.mid(1);
+    QString candidate = base;
+    for (int number = 2; !names_.insert(candidate.toLower()).second; ++number)
+        candidate = base + '_' + QString::number(number);
+    made.insertable.name = candidate;
+}
+
+void Blocks::describe(Made& made)
+{
+    EntityReader head(drawing_);
+    head.read(made.block->head);
+    try {
+        made.base = head.point(10);
+    } catch (const Lost&) {
+        made.base = {};
+    }
+    made.description = head.text(4);
+    const Group* const flags = head.find(70);
+    if (flags && flags->integer().value_or(0) & (kExternalReference | kOverlay))
+        made.path = head.has(1) ? head.text(1) : QStringLiteral("");
+    for (const Entity& entity : drawing_.entities(*made.block)) {
+        if (entity.kind != "ATTDEF")
+            continue;
+        head.read(entity);
+        enum : qint64
+        {
+            kConstant = 2
+        };
+        const Group* const kind = head.find(70);
+        if (!(kind && kind->integer().value_or(0) & kConstant))
+            made.insertable.tags.insert(head.text(2).toLower());
+    }
+}
+
+const Insertable& Blocks::insertable(std::string_view name) const
+{
+    const auto found = byName_.find(drawing_.decoder().text(name).toLower());
+    if (found == byName_.end())
+        throw Lost{"there is no such block"};
+    if (!found->second->isMade)
+        throw Lost{"its block holds itself"};
+    return found->second->insertable;
+}
+
+Blocks::Made* Blocks::insertedBy(const Entity& entity)
+{
+    if (entity.kind != "INSERT")
+        return nullptr;
+    const auto found = byName_.find(drawing_.nameOf(entity).toLower());
+    return found == byName_.end() ? nullptr : found->second;
+}
+
+std::vector<Blocks::Made*> Blocks::insertedInto(const Made& made)
+{
+    std::vector<Made*> all;
+    for (const Entity& entity : drawing_.entities(*made.block)) {
+        if (Made* const inserted = insertedBy(entity)) {
+            inserted->isInserted = true;
+            all.push_back(inserted);
+        }
+    }
+    return all;
+}
+
+void Blocks::sort()
+{
+    // Blocks may be nested to any depth, so what waits is kept here and not on the stack.
+    struct Waiting
+    {
+        Made* made;
+        std::vector<Made*> inserted;
+        std::size_t next = 0;
+    };
+    std::unordered_set<const Made*> seen;
+    for (Made& first : all_) {
+        if (!seen.insert(&first).second)
+            continue;
+        std::vector<Waiting> waiting;
+        waiting.push_back({&first, insertedInto(first)});
+        while (!waiting.empty()) {
+            Waiting& top = waiting.back();
+            if (top.next == top.inserted.size()) {
+                sorted_.push_back(top.made);
+                waiting.pop_back();
+                continue;
+            }
+            Made* const inner = top.inserted[top.next++];
+            if (seen.insert(inner).second)
+                waiting.push_back({inner, insertedInto(*inner)});
+        }
+    }
+}
+
+} // namespace inkmacro::dxf

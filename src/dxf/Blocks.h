@@ -1,0 +1,48 @@
+#pragma once
+
+#include "dxf/kinds.h"
+
+namespace inkmacro::dxf {
+
+/// The blocks of a drawing: how the recording calls them, and in which order they can be made.
+class Blocks
+{
+public:
+    /// A block that the recording makes.
+    struct Made
+    {
+        const Block* block;
+        Insertable insertable;
+        OdGePoint3d base;
+        QString description;
+        QString path;            ///< of the drawing that it shows; null when it is none of another file
+        bool isInserted = false; ///< by some entity of the file
+        bool isMade = false;
+
+        /// One that dimensions, tables and the application itself have made: without an insertion of it, nobody misses
+        /// it.
+        bool isOfUse() const { return isInserted || !block->name.startsWith('*'); }
+    };
+
+    explicit Blocks(Drawing& drawing);
+
+    /// Each behind all those that are inserted into it, but for those that hold themselves.
+    const std::vector<Made*>& sorted() const { return sorted_; }
+    /// Throws Lost for one that the recording does not have by now.
+    const Insertable& insertable(std::string_view name) const;
+
+private:
+    void name(Made& made);
+    void describe(Made& made);
+    Made* insertedBy(const Entity& entity);
+    std::vector<Made*> insertedInto(const Made& made);
+    void sort();
+
+    Drawing& drawing_;
+    std::vector<Made> all_;
+    std::unordered_map<QString, Made*> byName_; ///< that the file has, in small letters
+    std::unordered_set<QString> names_;         ///< that are given, in small letters
+    std::vector<Made*> sorted_;
+};
+
+} // namespace inkmacro::dxf

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "recordfile/plainForms.h"
+
+namespace inkmacro::dxf {
+
+/// Puts the line of one object of the drawing behind the others.
+class DrawingLine
+{
+public:
+    DrawingLine(QByteArray& lines, const char* className, OdDbHandle handle) : lines_(lines)
+    {
+        out_.beginObject();
+        out_.key(std::string_view("object"));
+        out_.beginObject();
+        out_.key(std::string_view("class"));
+        out_.text(std::string_view(className));
+        with("handle", handle);
+    }
+    ~DrawingLine()
+    {
+        out_.endObject();
+        out_.endObject();
+        out_.endLine();
+        lines_ += out_.bytes();
+    }
+    DrawingLine(const DrawingLine&) = delete;
+    DrawingLine& operator=(const DrawingLine&) = delete;
+
+    template<class Value>
+    DrawingLine& with(std::string_view key, const Value& value)
+    {
+        out_.key(key);
+        recordfile::Form<Value>::write(out_, value);
+        return *this;
+    }
+
+private:
+    QByteArray& lines_;
+    recordfile::JsonOut out_{CFxValueContext{}};
+};
+
+} // namespace inkmacro::dxf

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "dxf/DrawnObject.h"
+#include "recordfile/TextPool.h"
+
+#include <deque>
+#include <unordered_map>
+
+namespace inkmacro::dxf {
+
+/// Makes the actions of a recording.
+class Recorder
+{
+public:
+    /// What makes the object, with all that is set behind it.
+    void draw(const DrawnObject& object);
+    /// The object has these values now. Nothing for none.
+    void change(OdRxClass* cls, OdDbHandle handle, const std::vector<Property>& properties);
+    void add(OdRxClass* cls, OdDbHandle handle, const std::vector<Property>& properties);
+    void act(std::int32_t kind, std::vector<CFxCustomActionData> data);
+
+    bool isEmpty() const { return ready_.empty(); }
+    OdRxObjectPtr take();
+
+private:
+    OdRxObjectPtr added(OdRxClass* cls, OdDbHandle handle, const std::vector<Property>& properties);
+    PropertyList listOf(const std::vector<Property>& properties);
+    const recordfile::PropertyLabel& labelOf(const Property& property);
+    const CFxString* pooled(const QString& text);
+
+    std::deque<OdRxObjectPtr> ready_;
+    recordfile::TextPool texts_;
+    std::unordered_map<const char*, const recordfile::PropertyLabel*> labels_; ///< of tags without a group
+};
+
+} // namespace inkmacro::dxf

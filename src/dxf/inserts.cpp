@@ -1,0 +1,86 @@
+// References of blocks, with their attributes.
+
+#include "dxf/readers.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace inkmacro::dxf {
+
+namespace {
+
+/// The places of a rectangular array are written out up to so many.
+constexpr qint64 kMostPlaces = 10'000;
+
+/// An attribute that is called so would be taken for the property of the reference.
+bool isPropertyName(const QString& tag)
+{
+    static constexpr const char* names[] = {
+        "Position X", "Position Y", "Position Z", "Scale X",   "Scale Y",    "Scale Z",   "Rotation",   "Erased",
+        "LineColor",  "Layer",      "LineStyle",  "LineScale", "LineWeight", "Thickness", "PrintStyle", "Transparency",
+    };
+    return std::any_of(std::begin(names), std::end(names),
+                       [&](const char* name) { return tag.compare(QLatin1String(name), Qt::CaseInsensitive) == 0; });
+}
+
+const char* takeAttribute(const EntityReader& attribute, const Insertable& block, DrawnObject& object)
+{
+    const QString tag = attribute.text(2);
+    if (!block.tags.contains(tag.toLower()))
+        return "the block defines no such attribute";
+    if (isPropertyName(tag))
+        return "it is called like a property of the reference";
+    object.changes.push_back({"", CFxString(attribute.text(1)), CFxVariant::kNull, "BlockAttributes", CFxString(tag)});
+    return nullptr;
+}
+
+void takeArray(const EntityReader& entity, const Direction& direction, double rotation, DrawnObject& object)
+{
+    const qint64 columns = std::max<qint64>(entity.integer(70, 1), 1);
+    const qint64 rows = std::max<qint64>(entity.integer(71, 1), 1);
+    if (columns > kMostPlaces || rows > kMostPlaces || columns * rows > kMostPlaces)
+        throw Lost{"its array has more than 10,000 places"};
+    const OdGePoint3d origin = entity.point(10);
+    const double across = entity.real(44);
+    const double up = entity.real(45);
+    for (qint64 place = 1; place < columns * rows; ++place) {
+        const double x = static_cast<double>(place % columns) * across;
+        const double y = static_cast<double>(place / columns) * up;
+        object.repeats.push_back(
+            direction.toWorld({origin.x + x * std::cos(rotation) - y * std::sin(rotation),
+                               origin.y + x * std::sin(rotation) + y * std::cos(rotation), origin.z}));
+    }
+}
+
+} // namespace
+
+void readInsert(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object)
+{
+    const Direction direction = entity.direction();
+    if (direction.isTilted())
+        throw Lost{kTilted};
+    const Group* const name = entity.find(2);
+    const Insertable& block = around.insertable(name ? name->bytes : std::string_view());
+    double rotation = entity.radians(50);
+    OdGeScale3d scale{entity.real(41, 1.0), entity.real(42, 1.0), entity.real(43, 1.0)};
+    takeArray(entity, direction, rotation, object);
+    if (direction.isDown()) {
+        rotation = std::numbers::pi - rotation;
+        scale = {scale.sx, -scale.sy, -scale.sz};
+    }
+    object.add("Name", CFxString(block.name));
+    object.add("Position X", "Position Y", "Position Z", direction.toWorld(entity.point(10)));
+    object.add("Scale X", scale.sx);
+    object.add("Scale Y", scale.sy);
+    object.add("Scale Z", scale.sz);
+    object.add("Rotation", rotation);
+    EntityReader attribute(around.drawing);
+    for (const Entity& part : parts) {
+        if (part.kind != "ATTRIB")
+            continue;
+        attribute.read(part);
+        object.parts.push_back({"ATTRIB", takeAttribute(attribute, block, object)});
+    }
+}
+
+} // namespace inkmacro::dxf

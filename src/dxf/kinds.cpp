@@ -1,0 +1,113 @@
+#include "dxf/kinds.h"
+
+#include "dxf/readers.h"
+#include "host/db/OdDbClassMap.h"
+
+#include <unordered_map>
+
+namespace inkmacro::dxf {
+
+namespace {
+
+constexpr KindRow kRows[] = {
+    {"LINE", "AcDbLine", &readLine},
+    {"3DLINE", "AcDbLine", &readLine},
+    {"POINT", "AcDbPoint", &readPoint},
+    {"CIRCLE", "AcDbCircle", &readCircle},
+    {"ARC", "AcDbArc", &readArc},
+    {"ELLIPSE", "AcDbEllipse", &readEllipse},
+    {"RAY", "AcDbRay", &readRay},
+    {"XLINE", "AcDbXline", &readRay},
+    {"LWPOLYLINE", "AcDbPolyline", &readLightPolyline},
+    {"POLYLINE", "AcDbPolyline", &readPolyline},
+    {"3DFACE", "AcDbFace", &readFace},
+    {"SOLID", "AcDbSolid", &readSolid},
+    {"TRACE", "AcDbTrace", &readSolid},
+    {"TEXT", "AcDbText", &readText},
+    {"MTEXT", "AcDbMText", &readParagraphs},
+    {"ATTDEF", "AcDbAttributeDefinition", &readAttributeDefinition},
+    {"INSERT", "AcDbBlockReference", &readInsert},
+};
+
+/// A color number, or the red, green and blue of a true color.
+std::optional<OdCmColor> colorOf(const EntityReader& entity)
+{
+    constexpr int byBlock = 0;
+    constexpr int byLayer = 256;
+    if (const Group* trueColor = entity.find(420)) {
+        const qint64 rgb = EntityReader::integerOf(*trueColor);
+        return OdCmColor::byRgb((rgb >> 16) & 0xff, (rgb >> 8) & 0xff, rgb & 0xff);
+    }
+    const qint64 number = entity.integer(62, byLayer);
+    if (number == byBlock)
+        return OdCmColor::byBlock();
+    if (number > 0 && number < byLayer)
+        return OdCmColor::byIndex(static_cast<std::uint16_t>(number));
+    return {};
+}
+
+/// By layer, by block, or as much as the last byte says.
+std::optional<OdCmTransparency> transparencyOf(const EntityReader& entity)
+{
+    const auto bits = static_cast<quint32>(entity.integer(440));
+    const auto method = static_cast<std::uint8_t>(bits >> 24);
+    if (method != OdCmTransparency::ByBlock && method != OdCmTransparency::ByAlpha)
+        return {};
+    OdCmTransparency transparency;
+    transparency.method = method;
+    transparency.alpha = method == OdCmTransparency::ByAlpha ? static_cast<std::uint8_t>(bits) : 0;
+    return transparency;
+}
+
+} // namespace
+
+const Kind* findKind(std::string_view kind)
+{
+    static const std::unordered_map<std::string_view, Kind> byName = [] {
+        std::unordered_map<std::string_view, Kind> kinds;
+        for (const KindRow& row : kRows)
+            kinds.emplace(row.kind, Kind{&row, oddbClassByName(row.className)});
+        return kinds;
+    }();
+    const auto found = byName.find(kind);
+    return found == byName.end() ? nullptr : &found->second;
+}
+
+void takeGeneral(const EntityReader& entity, Surroundings& around, DrawnObject& object)
+{
+    auto& properties = object.making == DrawnObject::Making::Added ? object.properties : object.changes;
+    const auto add = [&](const char* tag, CFxVariant value) { properties.push_back({tag, std::move(value)}); };
+    const Group* const layer = entity.find(8);
+    if (CFxVariant id = around.layers.id(layer ? layer->bytes : std::string_view("0")); !id.IsNull())
+        add("Layer", std::move(id));
+    if (const std::optional<OdCmColor> color = colorOf(entity))
+        add("LineColor", *color);
+    if (const Group* style = entity.find(6); style && !isByLayer(style->word())) {
+        if (CFxVariant id = around.lineStyles.id(style->bytes); !id.IsNull())
+            add("LineStyle", std::move(id));
+        else
+            object.untold.push_back("a line style that the drawing lacks");
+    }
+    if (const double scale = entity.real(48, 1.0); scale != 1.0)
+        add("LineScale", scale);
+    constexpr qint64 weightByLayer = -1;
+    if (const qint64 weight = entity.integer(370, weightByLayer); weight != weightByLayer)
+        add("LineWeight", static_cast<std::int32_t>(weight));
+    if (const double thickness = entity.real(39); thickness != 0.0)
+        add("Thickness", thickness);
+    if (const std::optional<OdCmTransparency> transparency = transparencyOf(entity))
+        object.change("Transparency", *transparency);
+    if (entity.integer(60) == 1)
+        object.untold.push_back("that it is invisible");
+    if (entity.hasExtendedData())
+        object.untold.push_back("data of other applications");
+}
+
+bool isByLayer(std::string_view name)
+{
+    constexpr std::string_view byLayer = "bylayer";
+    return name.empty() || std::equal(name.begin(), name.end(), byLayer.begin(), byLayer.end(),
+                                      [](char letter, char known) { return (letter | 0x20) == known; });
+}
+
+} // namespace inkmacro::dxf

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "dxf/DrawnObject.h"
+#include "dxf/EntityReader.h"
+#include "dxf/NamedObjects.h"
+
+#include <functional>
+#include <unordered_set>
+
+namespace inkmacro::dxf {
+
+/// A block, once it is in the recording.
+struct Insertable
+{
+    QString name;                     ///< that it has there
+    std::unordered_set<QString> tags; ///< of the attributes that its references have, in small letters
+};
+
+/// Handles of objects that the file does not have. A second pass over the same entities gets those of the first.
+class MadeHandles
+{
+public:
+    explicit MadeHandles(Drawing& drawing) : drawing_(drawing) {}
+    OdDbHandle next()
+    {
+        if (given_ == handles_.size())
+            handles_.push_back(drawing_.newHandle());
+        return OdDbHandle(handles_[given_++]);
+    }
+    void beginAgain() { given_ = 0; }
+
+private:
+    Drawing& drawing_;
+    std::vector<quint64> handles_;
+    std::size_t given_ = 0;
+};
+
+/// What the entities of a drawing are read with.
+struct Surroundings
+{
+    Surroundings(Drawing& drawing, OdDbDatabase& ids)
+        : drawing(drawing),
+          ids(ids),
+          layers(drawing, ids, "LAYER"),
+          lineStyles(drawing, ids, "LTYPE"),
+          textStyles(drawing, ids, "STYLE"),
+          dimensionStyles(drawing, ids, "DIMSTYLE"),
+          madeHandles(drawing)
+    {
+    }
+
+    Drawing& drawing;
+    OdDbDatabase& ids;
+    NamedObjects layers;
+    NamedObjects lineStyles;
+    NamedObjects textStyles;
+    NamedObjects dimensionStyles;
+    /// The block that can be inserted where the entity stands. Throws Lost.
+    std::function<const Insertable&(std::string_view name)> insertable;
+    /// For what an entity is made from: the same ones again when it is read again.
+    MadeHandles madeHandles;
+    double tolerance = 0; ///< that another curve may be away, as a part of the curve's size
+};
+
+/// Reads an entity with its parts, which follow it in `parts`.
+struct KindRow
+{
+    std::string_view kind;
+    const char* className;
+    void (*read)(EntityReader& entity, std::span<const Entity> parts, Surroundings& around, DrawnObject& object);
+    bool tellsDrawing = false; ///< lines of the drawing, so that it is read before all actions too
+};
+
+/// A row, and the class that it names.
+struct Kind
+{
+    const KindRow* row;
+    OdRxClass* cls;
+};
+
+/// The tables whose records come into a recording, in the order in which they do.
+std::span<const KindRow> tableKinds();
+
+/// Null for a kind that no recording has.
+const Kind* findKind(std::string_view kind);
+
+/// What all entities have: layer, color, line style and so on. Behind `read`, since it depends on how the object is
+/// made where that stands.
+void takeGeneral(const EntityReader& entity, Surroundings& around, DrawnObject& object);
+
+bool isByLayer(std::string_view name);
+
+} // namespace inkmacro::dxf

@@ -1,0 +1,130 @@
+// Records of tables: line styles, layers, text styles.
+
+#include "dxf/DrawingLine.h"
+#include "dxf/readers.h"
+
+#include <cmath>
+
+namespace inkmacro::dxf {
+
+namespace {
+
+/// Every drawing has it, so that none is made of that name.
+bool isThereAnyway(const QString& name)
+{
+    static const QString names[] = {QStringLiteral("0"), QStringLiteral("ByLayer"), QStringLiteral("ByBlock"),
+                                    QStringLiteral("Continuous")};
+    return std::any_of(std::begin(names), std::end(names),
+                       [&](const QString& known) { return known.compare(name, Qt::CaseInsensitive) == 0; });
+}
+
+void takeName(const QString& name, DrawnObject& object)
+{
+    if (!isThereAnyway(name))
+        object.add("Name", CFxString(name));
+}
+
+void readLayer(EntityReader& record, Parts, Surroundings& around, DrawnObject& object)
+{
+    enum LayerFlag : qint64
+    {
+        kFrozen = 1,
+        kFrozenInNewViewports = 2,
+        kLocked = 4,
+    };
+    const QString name = record.text(2);
+    DrawingLine(object.drawing, "AcDbLayerTableRecord", object.handle).with("name", name);
+    takeName(name, object);
+
+    constexpr qint64 white = 7;
+    const qint64 color = record.integer(62, white);
+    if (const Group* trueColor = record.find(420)) {
+        const qint64 rgb = EntityReader::integerOf(*trueColor);
+        object.change("Color", OdCmColor::byRgb((rgb >> 16) & 0xff, (rgb >> 8) & 0xff, rgb & 0xff));
+    } else if (std::abs(color) != white && std::abs(color) > 0 && std::abs(color) < 256) {
+        object.change("Color", OdCmColor::byIndex(static_cast<std::uint16_t>(std::abs(color))));
+    }
+    if (const Group* style = record.find(6);
+        style && around.drawing.text(*style).compare("Continuous", Qt::CaseInsensitive) != 0)
+        if (CFxVariant id = around.lineStyles.id(style->bytes); !id.IsNull())
+            object.change("LineStyle", std::move(id));
+    constexpr qint64 usualWeight = -3;
+    if (const qint64 weight = record.integer(370, usualWeight); weight != usualWeight)
+        object.change("LineWeight", static_cast<std::int32_t>(weight));
+    const qint64 flags = record.integer(70);
+    if (flags & kFrozen)
+        object.change("Frozen", yesOrNo(true));
+    if (flags & kFrozenInNewViewports)
+        object.change("FrozenInNewViewport", yesOrNo(true));
+    if (flags & kLocked)
+        object.change("Locked", yesOrNo(true));
+    if (record.integer(290, 1) == 0)
+        object.change("Printable", yesOrNo(false));
+    // One that is off has its color below zero.
+    if (color < 0)
+        object.change("Hidden", yesOrNo(true));
+}
+
+void readLineStyle(EntityReader& record, Parts, Surroundings&, DrawnObject& object)
+{
+    const QString name = record.text(2);
+    DrawingLine(object.drawing, "AcDbLinetypeTableRecord", object.handle)
+        .with("name", name)
+        .with("comments", record.text(3));
+    takeName(name, object);
+}
+
+void readTextStyle(EntityReader& record, Parts, Surroundings&, DrawnObject& object)
+{
+    enum StyleFlag : qint64
+    {
+        kShapeFile = 1,
+        kVertical = 4,
+    };
+    enum LetterFlag : qint64
+    {
+        kBackwards = 2,
+        kUpsideDown = 4,
+    };
+    const QString name = record.text(2);
+    const qint64 flags = record.integer(70);
+    DrawingLine(object.drawing, "AcDbTextStyleTableRecord", object.handle)
+        .with("name", name)
+        .with("isShapeFile", static_cast<bool>(flags & kShapeFile))
+        .with("fileName", record.text(3));
+    if (flags & kShapeFile)
+        return;
+    object.add("Name", CFxString(name));
+    if (const QString font = record.text(3); !font.isEmpty())
+        object.add("Font", CFxString(font));
+    if (const QString font = record.text(4); !font.isEmpty())
+        object.change("BigFont", CFxString(font));
+    if (const double height = record.real(40); height != 0)
+        object.change("Height", height);
+    if (const double factor = record.real(41, 1.0); factor != 1.0)
+        object.change("Spacing", factor);
+    if (const double oblique = record.radians(50); oblique != 0)
+        object.change("Angle", oblique);
+    const qint64 letters = record.integer(71);
+    if (letters & kBackwards)
+        object.change("Backwards", yesOrNo(true));
+    if (letters & kUpsideDown)
+        object.change("Upside down", yesOrNo(true));
+    if (flags & kVertical)
+        object.change("Vertical", yesOrNo(true));
+}
+
+constexpr KindRow kTables[] = {
+    {"LTYPE", "AcDbLinetypeTableRecord", &readLineStyle},
+    {"LAYER", "AcDbLayerTableRecord", &readLayer},
+    {"STYLE", "AcDbTextStyleTableRecord", &readTextStyle},
+};
+
+} // namespace
+
+std::span<const KindRow> tableKinds()
+{
+    return kTables;
+}
+
+} // namespace inkmacro::dxf
