@@ -38,6 +38,7 @@ class Comparison:
     def __init__(self, drawing, recording, report):
         self.drawing, self.complaints = drawing, []
         self.found, self.tables = recorded.Recording(recording).forms()
+        self.found.setdefault("", [])
         self.told = {form: collections.Counter() for form in ("imported", "approximated", "lost")}
         self.told["imported"] |= report["imported"]
         self.deviations = {}
@@ -56,7 +57,7 @@ class Comparison:
         for space, entities in spaces.items():
             if not space.startswith("block ") or ("AcDbBlockTableRecord", space[6:]) in self.tables:
                 self.space(space, entities)
-        for space in self.found.keys() - {name.lower() for name in spaces} - {""}:
+        for space in self.found.keys() - {name.lower() for name in spaces}:
             self.say(f"{space!r} is no space of the drawing")
         if self.drawing.rule == "whole":
             self.account()
@@ -69,25 +70,31 @@ class Comparison:
         for place, entity in enumerate(entities):
             kind = entity.dxftype()
             self.held[kind] += 1
-            self.held["ATTRIB"] += len(getattr(entity, "attribs", []))
-            wanted += [(place, kind, *one) for one in expected.forms(entity) or [(None, None)]]
+            if kind == "INSERT":
+                self.held["ATTRIB"] += len(entity.attribs)
+                self.skipped["ATTRIB"] += len(entity.attribs) - len(expected.attributes(entity))
+            wanted += [(place, entity, *one) for one in expected.forms(entity) or [(None, None)]]
         passed, at = set(), 0
-        for cls, handle, form in next((self.found[name] for name in self.found if name.lower() == space.lower()), []):
-            why = []
-            for ahead in range(at, len(wanted)):
-                place, kind, wanted_cls, wanted_form = wanted[ahead]
-                near = max(expected.NEAR, self.deviations.get(kind, 0))
-                off = wanted_cls is None or wanted_cls not in cls and "is another kind" or \
-                    expected.difference(wanted_form, form, near)
+        found = self.found.get(space.lower(), [])
+        for cls, handle, form in found:
+            own = [n for n in range(at, len(wanted)) if wanted[n][1].dxf.handle == handle and not self.drawing.twin]
+            why = ""
+            for ahead in own[:1] or range(at, len(wanted)):
+                _, entity, wanted_cls, wanted_form = wanted[ahead]
+                near = max(expected.NEAR, self.deviations.get(entity.dxftype(), 0))
+                off = "of another class"
+                if wanted_cls and wanted_cls in cls:
+                    off = expected.difference(wanted_form, form, near)
+                    if self.drawing.rule == "cut" and form is found[-1][2]:
+                        off = None  # The file has the beginning of it.
                 if not off:
                     passed |= {one[0] for one in wanted[at:ahead]}
                     at = ahead + 1
                     self.matched += 1
                     break
-                if wanted_cls and wanted_cls in cls:
-                    why.append(f"{kind} {place}: {off}")
+                why = why or f"{entity} {off}"
             else:
-                self.say(f"{space or 'model space'}: {cls} {handle} is not in the drawing there; {'; '.join(why[:1])}")
+                self.say(f"{space or 'model space'}: {cls} {handle} is not in the drawing there: {why}")
         passed |= {one[0] for one in wanted[at:]} if self.drawing.rule != "cut" else set()
         if passed and self.drawing.rule == "cut":
             self.say(f"{len(passed)} entities in front of others are missing")
@@ -96,11 +103,12 @@ class Comparison:
     def account(self):
         told = collections.Counter()
         for form in self.told.values():
+            form["LINE"] += form.pop("3DLINE", 0)
             told += form
         for kind in sorted(told.keys() | self.held.keys()):
             if told[kind] != self.held[kind]:
                 self.say(f"{kind}: {told[kind]} told of {self.held[kind]}: {[form[kind] for form in self.told.values()]}")
-            elif kind != "ATTRIB" and self.skipped[kind] != self.told["lost"][kind]:
+            elif self.skipped[kind] != self.told["lost"][kind]:
                 self.say(f"{kind}: {self.skipped[kind]} lost, {self.told['lost'][kind]} told")
 
     def layers(self, doc):

@@ -38,7 +38,7 @@ class Drawing:
 
 def turned(m, **normal):
     """What lies in a plane of its own, each in that plane."""
-    m.add_circle((5, 3, 2), 4, dxfattribs=normal)
+    m.add_circle((5, 3, 2), 4, dxfattribs={"thickness": 2, **normal})
     m.add_arc((5, 3, 2), 4, 30, 200, dxfattribs=normal)
     m.add_arc((5, 3, 2), 4, 300, 40, dxfattribs=normal)
     m.add_line((1, 2, 3), (4, 6, 9), dxfattribs={"thickness": 2, **normal})
@@ -298,7 +298,9 @@ TOPICS = (normals, looks, texts, polylines, curves, blocks, hatches, dimensions,
 
 def new(version, *topics):
     doc = ezdxf.new(version, setup=["dimstyles"] if dimensions in topics else False)
-    doc.blocks.new("PART", base_point=(1, 0, 0)).add_line((0, 0), (1, 1))
+    part = doc.blocks.new("PART", base_point=(1, 0, 0))
+    part.add_line((0, 0), (1, 1))
+    part.add_attdef("TAG", (0, 0), height=1)
     for topic in topics:
         topic(doc.modelspace())
     return doc
@@ -351,7 +353,7 @@ CODE_PAGES = {
 # What is written, and what it says.
 ESCAPES = {
     r"\U+00D8 \U+20AC": "Ø €", r"\u+00d8": "Ø", r"\U+D83D\U+DE00": "\U0001F600", r"\U+12": r"\U+12", r"\U+D83D x": "\ufffd x",
-    r"\M+18352\M+5B0A1": "ア啊", "tab^Ihere": "tab\there", "hat^ here": "hat^here",
+    r"\M+18341\M+5B0A1": "ア啊", "tab^Ihere": "tab\there", "hat^ here": "hat^here",
 }
 
 
@@ -412,7 +414,7 @@ HARMLESS = {
     "long_handles": lambda t: HANDLE.sub(lambda m: f"{m[1]}\n7FFFFFFFFFFF{m[2]:0>4}\n", t),
     "last_handle": lambda t: t.replace("  0\nCIRCLE\n  5\n", "  0\nCIRCLE\n  5\nFFFFFFFFFFFFFFFF\n999\n"),
     "no_seed": lambda t: re.sub(r"(\$HANDSEED\n  5\n).*", r"\g<1>1", t),
-    "blanks": lambda t: re.sub(r"(?m)^ *(\d+)$", r"   \1  ", t),
+    "blanks": lambda t: "".join(("", "   ")[place % 2 == 0] + line + "\n" for place, line in enumerate(t.splitlines())),
     "unknown_header": lambda t: re.sub(r"AC1009", "AC9999", t),
     "future": lambda t: t.replace("AC1009", "AC1099"),
 }

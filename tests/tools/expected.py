@@ -93,14 +93,21 @@ def spline(e, _):
     return "Spline", {"curve": e}
 
 
+def attributes(e):
+    """Those that its block defines; others have no statement."""
+    block = e.block()
+    tags = {one.dxf.tag.upper() for one in block.query("ATTDEF")} if block else ()
+    return {one.dxf.tag: one.dxf.text for one in e.attribs if one.dxf.tag.upper() in tags}
+
+
 def insert(e, _):
     forms = []
     for one in e.multi_insert() if e.mcount <= 10000 else [e]:
         ocs = plane(one)
         spread = [ocs.to_wcs(axis * one.dxf.get(f"{name}scale", 1)) for name, axis in zip("xyz", (
             Vec3.from_deg_angle(one.dxf.rotation), Vec3.from_deg_angle(one.dxf.rotation + 90), Vec3(0, 0, 1)))]
-        forms.append({"name": one.dxf.get("name", "").lower(), "position": ocs.to_wcs(one.dxf.insert), "axes": spread,
-                      "attributes": {one.dxf.tag: one.dxf.text for one in e.attribs}})
+        forms.append({"name": block_name(one.dxf.get("name", "")), "position": ocs.to_wcs(one.dxf.insert), "axes": spread,
+                      "attributes": attributes(e)})
     return "BlockReference", *forms
 
 
@@ -258,7 +265,12 @@ def difference(wanted, found, near, path=""):
         if len(wanted) != len(found):
             return f"{path}: {len(wanted)} are {len(found)}"
         return next(filter(None, (difference(*pair, near, f"{path}[{n}]") for n, pair in enumerate(zip(wanted, found)))), None)
-    return None if wanted == found else f"{path}: {wanted!r} is {found!r}"
+    return None if found is not None and wanted == found else f"{path}: {wanted!r} is {found!r}"
+
+
+def block_name(name):
+    """A block without a name of its own gets one."""
+    return name.lower().replace("*", "anonymous_")
 
 
 def spaces_of(doc):
@@ -267,4 +279,4 @@ def spaces_of(doc):
         yield "" if layout.is_modelspace else layout.name, list(layout)
     for block in doc.blocks:
         if not block.is_any_layout:
-            yield f"block {block.name.lower()}", list(block)
+            yield f"block {block_name(block.name)}", list(block)

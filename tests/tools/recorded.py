@@ -54,7 +54,9 @@ def value_of(value):
         return value_of(content["value"])
     if form == "id":
         return ("id", content)
-    return list(content) if isinstance(content, list) else content
+    if form == "color" and isinstance(content, dict):
+        return next(iter(content.values()))
+    return content
 
 
 class Recording:
@@ -147,7 +149,7 @@ class Recording:
             if one.cls.endswith("TableRecord"):
                 tables[one.cls, self.name(("id", handle), "")] = one
             else:
-                spaces[one.space].append((one.cls, handle, self._form(one)))
+                spaces[one.space.lower()].append((one.cls, handle, self._form(one)))
         return spaces, tables
 
     def _form(self, one):
