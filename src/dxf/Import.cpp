@@ -23,6 +23,7 @@ Import::Import(Drawing& drawing, OdDbDatabase& ids, ImportOptions options)
     if (!around_.layers.find(QStringLiteral("0")))
         around_.layers.addUnlisted("0");
     around_.insertable = [this](std::string_view name) -> const Insertable& { return blocks_.insertable(name); };
+    around_.tolerance = options_.tolerance;
     planRuns();
 }
 

@@ -3,6 +3,8 @@
 #include "dxf/Drawing.h"
 #include "host/db/OdDbDatabase.h"
 
+#include <QHash> // texts as keys of standard tables
+
 #include <unordered_map>
 
 namespace inkmacro::dxf {

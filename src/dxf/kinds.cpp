@@ -20,6 +20,7 @@ constexpr KindRow kRows[] = {
     {"XLINE", "AcDbXline", &readRay},
     {"LWPOLYLINE", "AcDbPolyline", &readLightPolyline},
     {"POLYLINE", "AcDbPolyline", &readPolyline},
+    {"SPLINE", "AcDbSpline", &readSpline},
     {"3DFACE", "AcDbFace", &readFace},
     {"SOLID", "AcDbSolid", &readSolid},
     {"TRACE", "AcDbTrace", &readSolid},
