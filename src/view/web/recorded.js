@@ -272,7 +272,13 @@ class Recorded {
         const {tag} = record;
         const leader = this.leaders.get(handle);
         const one = this.byHandle.get(leader || handle);
-        if (!one || String(record.group || '').toLowerCase() === 'blockattributes') {
+        if (one && isAttribute(record)) {
+            if (!isAdded) {
+                one.hold('Attribute ' + tag + '.Value()', 0, valueOf(record.value, () => ''), tag, action);
+            }
+            return;
+        }
+        if (!one) {
             return;
         }
         const cls = leader ? 'AcDbMText' : one.cls;
