@@ -296,7 +296,7 @@ class Recorded {
         } else if (row.name !== '-' && (tag !== 'Erased' && tag !== 'ActivateLayer'
             || String(record.value).toLowerCase() === 'yes')) {
             const prefix = leader ? 'NoteAnnotation.' : '';
-            if (row.name === 'Name' && one.name !== null) {
+            if (!isAdded && row.name === 'Name' && one.name !== null) {
                 this.newNames.set(handle, String(valueOf(record.value, () => '')));
             }
             holdValue(one, Object.assign({}, row, {name: prefix + row.name}), record, action, assumed,
