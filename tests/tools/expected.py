@@ -2,6 +2,7 @@
 
 import math
 
+from ezdxf.lldxf.encoding import decode_dxf_unicode as said
 from ezdxf.math import OCS, Vec3
 
 import recorded
@@ -97,7 +98,7 @@ def attributes(e):
     """Those that its block defines; others have no statement."""
     block = e.block()
     tags = {one.dxf.tag.upper() for one in block.query("ATTDEF")} if block else ()
-    return {one.dxf.tag: one.dxf.text for one in e.attribs if one.dxf.tag.upper() in tags}
+    return {one.dxf.tag: said(one.dxf.text) for one in e.attribs if one.dxf.tag.upper() in tags}
 
 
 def insert(e, _):
@@ -183,12 +184,12 @@ KINDS = {
     "SOLID": flat("Solid", vertices=corners, thickness=thickness), "TRACE": flat("Trace", vertices=corners, thickness=thickness),
     "3DFACE": lambda e, _: ("Face", {"vertices": corners(e, OCS()), "edges": [
         "Hidden" if e.dxf.invisible >> n & 1 else "Visible" for n in range(4)]}),
-    "TEXT": lambda e, ocs: ("Text", {"contents": e.dxf.text, **text(e, ocs), "turned": None if level(ocs) else "lost"}),
+    "TEXT": lambda e, ocs: ("Text", {"contents": said(e.dxf.text), **text(e, ocs), "turned": None if level(ocs) else "lost"}),
     "ATTDEF": lambda e, ocs: ("AttributeDefinition", {
-        "tag": e.dxf.tag, "value": e.dxf.text, "prompt": e.dxf.prompt, **text(e, ocs),
+        "tag": e.dxf.tag, "value": said(e.dxf.text), "prompt": e.dxf.prompt, **text(e, ocs),
         "flags": [e.is_invisible, e.is_const, e.is_verify, e.is_preset], "turned": None if level(ocs) else "lost"}),
     "MTEXT": lambda e, ocs: ("MText", {
-        "contents": e.text, "position": e.dxf.insert, "width": e.dxf.get("width", 0), "height": e.dxf.char_height,
+        "contents": said(e.text), "position": e.dxf.insert, "width": e.dxf.get("width", 0), "height": e.dxf.char_height,
         "justify": JUSTIFY[e.dxf.attachment_point - 1],
         "direction": e.dxf.text_direction.normalize() if e.dxf.hasattr("text_direction") else turned(ocs, e.dxf.rotation)}),
     "LEADER": lambda e, _: ("Leader", {"vertices": list(map(Vec3, e.vertices))}),
@@ -206,9 +207,10 @@ KINDS = {
 
 
 def color(e):
+    """Of an entity or a layer."""
     if e.dxf.hasattr("true_color"):
         return list(e.rgb)
-    return {0: "byblock", 256: "bylayer"}.get(e.dxf.color, e.dxf.color)
+    return {0: "byblock", 256: "bylayer"}.get(abs(e.dxf.color), abs(e.dxf.color))
 
 
 def common(e):
