@@ -1,13 +1,18 @@
 """What ezdxf reads in a DXF drawing, in the forms that recorded.py gives what a recording draws."""
 
 import math
+import re
 
-from ezdxf.lldxf.encoding import decode_dxf_unicode as said
 from ezdxf.math import OCS, Vec3
 
 import recorded
 
 NEAR = 1e-9
+
+
+def said(text):
+    """Letters may be written as numbers, in versions too where ezdxf leaves them so."""
+    return re.sub(r"\\U\+([0-9A-Fa-f]{4})", lambda found: chr(int(found[1], 16)), text)
 
 
 def plane(entity):
