@@ -109,7 +109,8 @@ class Comparison:
             told += form
         for kind in sorted(told.keys() | self.held.keys()):
             if told[kind] != self.held[kind]:
-                self.say(f"{kind}: {told[kind]} told of {self.held[kind]}: {[form[kind] for form in self.told.values()]}")
+                told_as = [form[kind] for form in self.told.values()]
+                self.say(f"{kind}: {told[kind]} told of {self.held[kind]}: {told_as}")
             elif self.skipped[kind] != self.told["lost"][kind]:
                 self.say(f"{kind}: {self.skipped[kind]} lost, {self.told['lost'][kind]} told")
 
