@@ -193,6 +193,7 @@ void Import::recordTables()
                 if (!object_.properties.empty())
                     recorder_.add(object_.cls, object_.handle, object_.properties);
                 recorder_.change(object_.cls, object_.handle, object_.changes);
+                leaveOut(record);
             } catch (const Lost& lost) {
                 accounts_.leaveOut(record.kind, lost.reason);
             }
@@ -256,6 +257,12 @@ void Import::importEntity(const Entity& entity, std::span<const Entity> parts)
     }
 }
 
+void Import::leaveOut(const Entity& entity)
+{
+    for (const char* const what : object_.untold)
+        accounts_.leaveOut(entity.kind, what);
+}
+
 void Import::record(const Entity& entity)
 {
     recorder_.draw(object_);
@@ -274,8 +281,7 @@ void Import::record(const Entity& entity)
         else
             ++accounts_.imported[part.kind];
     }
-    for (const char* const what : object_.untold)
-        accounts_.leaveOut(entity.kind, what);
+    leaveOut(entity);
     for (const OdGePoint3d& place : object_.repeats) {
         object_.handle = OdDbHandle(drawing_.newHandle());
         object_.moveTo(place);

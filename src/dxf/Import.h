@@ -48,6 +48,7 @@ private:
     /// Into `object_`; throws Lost.
     void read(const Kind& kind, const Entity& entity, std::span<const Entity> parts);
     void record(const Entity& entity);
+    void leaveOut(const Entity& entity);
     bool isOnChosenLayer(const Entity& entity);
 
     Drawing& drawing_;

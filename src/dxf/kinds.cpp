@@ -28,6 +28,11 @@ constexpr KindRow kRows[] = {
     {"MTEXT", "AcDbMText", &readParagraphs},
     {"ATTDEF", "AcDbAttributeDefinition", &readAttributeDefinition},
     {"INSERT", "AcDbBlockReference", &readInsert},
+    {"DIMENSION", "AcDbRotatedDimension", &readDimension, true},
+    {"ARC_DIMENSION", "AcDbArcDimension", &readArcDimension, true},
+    {"LARGE_RADIAL_DIMENSION", "AcDbRadialDimensionLarge", &readJoggedDimension, true},
+    {"LEADER", "AcDbLeader", &readLeader},
+    {"TOLERANCE", "AcDbFcf", &readTolerance},
 };
 
 /// A color number, or the red, green and blue of a true color.
