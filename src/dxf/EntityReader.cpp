@@ -99,13 +99,14 @@ QString EntityReader::text(int code) const
 
 OdGePoint3d EntityReader::point(int code) const
 {
-    return {real(code), real(code + 10), real(code + 20)};
+    // The oldest files have one elevation for all points of an entity.
+    constexpr int elevation = 38;
+    return {real(code), real(code + 10), has(code + 20) ? real(code + 20) : real(elevation)};
 }
 
 OdGeVector3d EntityReader::vector(int code) const
 {
-    const OdGePoint3d end = point(code);
-    return {end.x, end.y, end.z};
+    return {real(code), real(code + 10), real(code + 20)};
 }
 
 double EntityReader::radians(int code, double otherwise) const

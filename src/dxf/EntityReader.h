@@ -29,7 +29,7 @@ public:
     double real(int code, double otherwise = 0.0) const;
     qint64 integer(int code, qint64 otherwise = 0) const;
     QString text(int code) const;
-    /// Of the code and those 10 and 20 above it; what is missing is 0.
+    /// Of the code and those 10 and 20 above it; what is missing is 0, or the entity's elevation.
     OdGePoint3d point(int code) const;
     OdGeVector3d vector(int code) const;
     double radians(int code, double otherwise = 0.0) const; ///< of what the file has in degrees
