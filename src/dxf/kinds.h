@@ -57,6 +57,8 @@ struct Surroundings
     NamedObjects textStyles;
     NamedObjects dimensionStyles;
     NamedObjects blockRecords;
+    /// By the records of their styles, once they were asked for.
+    std::unordered_map<const Entity*, std::vector<Group>> dimensionVariables;
     /// The block that can be inserted where the entity stands. Throws Lost.
     std::function<const Insertable&(std::string_view name)> insertable;
     /// For what an entity is made from: the same ones again when it is read again.
