@@ -53,7 +53,7 @@ bench: build
 
 fuzz: setup
 	cmake --preset fuzz
-	cmake --build --preset fuzz $(if $(JOBS),--parallel $(JOBS)) --target recording_fuzz convert_fuzz
+	cmake --build --preset fuzz $(if $(JOBS),--parallel $(JOBS)) --target recording_fuzz convert_fuzz import_fuzz
 	scripts/fuzz $(SECONDS)
 
 format:

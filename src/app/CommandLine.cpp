@@ -201,6 +201,8 @@ private:
             checkRun();
         if (line_.command == Command::Convert && line_.output == "-" && line_.telling.reportsToOutput())
             throw WrongUse("--report and --output - would both write to standard output; --report-file FILE does not");
+        if (line_.host.repair && line_.host.faithful)
+            throw WrongUse("--repair and --faithful exclude each other");
         if (line_.map && line_.output == "-")
             throw WrongUse("--map writes a file beside the macro, and with --output - there is no such place");
     }

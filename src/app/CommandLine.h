@@ -32,6 +32,7 @@ struct HostSettings
     std::optional<QString> lineStyles;    ///< directory of line style files, searched before those of the drawing
     bool replay = false;                  ///< whatever mode the recording says
     bool repair = false;                  ///< macros without their known faults
+    bool faithful = false;                ///< and with them, of drawings too
 };
 
 /// In which form `convert` tells what its macros lack and where they are faulty.

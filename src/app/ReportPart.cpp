@@ -1,5 +1,6 @@
 #include "app/ReportPart.h"
 
+#include "app/importReport.h"
 #include "app/notePlaces.h"
 
 #include <QDataStream>
@@ -27,7 +28,8 @@ void writeNotes(QDataStream& out, const std::vector<CFxActionNote>& notes, const
 
 } // namespace
 
-bool ReportPart::write(const Outcome& outcome, const CFxConversionNotes& notes, const Recording& recording)
+bool ReportPart::write(const Outcome& outcome, const CFxConversionNotes& notes, const Recording& recording,
+                       const std::optional<dxf::Accounts>& drawing)
 {
     PartStream out(file_);
     const qint64 losses = file_.pos();
@@ -44,6 +46,7 @@ bool ReportPart::write(const Outcome& outcome, const CFxConversionNotes& notes, 
         for (const std::uint32_t line : fault.lines)
             out << quint32(line);
     }
+    out << (drawing ? importMembers(*drawing) : QByteArray()) << (drawing ? importLines(*drawing) : QStringList());
     out << losses << assumptions << head << kWhole;
     return out.status() == QDataStream::Ok && file_.flush();
 }
@@ -78,6 +81,7 @@ bool ReportPart::beginReading()
             in >> line;
         faults_.push_back(std::move(fault));
     }
+    in >> drawingMembers_ >> drawingLines_;
     return in.status() == QDataStream::Ok;
 }
 

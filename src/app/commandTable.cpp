@@ -91,7 +91,16 @@ Without it the recording's header says.)",
         .text = R"(Without it a macro is as the application's own recorder writes it, with
 faults by which its language or its host rejects it; and a recorded text
 with a quotation mark in it can become code. With it they are mended: all
-that the user entered stays text.)",
+that the user entered stays text. Macros of drawings are written so without
+it.)",
+    },
+    {
+        .name = "--faithful",
+        .take = [](CommandLine& line, const QString&) { line.host.faithful = true; },
+        .meaning = "macros of drawings with the known faults",
+        .text = R"(A drawing in a DXF file becomes a recording on the way to the macro, which
+is written as with --repair. With this option it is as the application's
+own recorder would have written it.)",
     },
     {
         .name = "--recording-language",

@@ -10,6 +10,7 @@
 #include "app/StagedResult.h"
 #include "app/console.h"
 #include "app/earlyEnd.h"
+#include "app/importReport.h"
 #include "app/otherProjects.h"
 #include "app/reading.h"
 #include "app/report.h"
@@ -121,6 +122,22 @@ Outcome printMacro(const QString& path)
     return failure("the macro cannot be read again: " + file.errorString());
 }
 
+/// A drawing may have dozens of line styles that no file holds.
+void tellProblems(const Job& job)
+{
+    constexpr std::size_t most = 3;
+    const auto& problems = GetFxSystemServices()->GetProblems();
+    const auto tell = [&](const QString& text) {
+        complain(QString("%1 to %2: %3").arg(job.input, targetName(*job.target), text));
+    };
+    // One more takes the place of telling that there is one more.
+    const std::size_t told = problems.size() > most + 1 ? most : problems.size();
+    for (std::size_t i = 0; i < told; ++i)
+        tell(problems[i]);
+    if (told < problems.size())
+        tell(QString("and %1 more such").arg(problems.size() - told));
+}
+
 /// Places the files, or prints the macro.
 Outcome convertRead(const Job& job, const Recording& recording, const HostSettings& host)
 {
@@ -133,8 +150,7 @@ Outcome convertRead(const Job& job, const Recording& recording, const HostSettin
     }
     const auto silence = qScopeGuard([&notes] { notes.OnLines({}); });
     const std::int32_t status = runModule(*job.target, result.firstFile(), recording, host);
-    for (const CFxString& problem : GetFxSystemServices()->GetProblems())
-        complain(QString("%1 to %2: %3").arg(job.input, targetName(*job.target), problem));
+    tellProblems(job);
     if (status != kFxSuccess) {
         return failure(
             QString("conversion to %1 failed with status %2: %3%4")
@@ -152,12 +168,14 @@ Outcome convertRead(const Job& job, const Recording& recording, const HostSettin
     return others.isEmpty() ? Outcome{kDone, {}, placed} : failure(others);
 }
 
-Outcome convertRecording(const Job& job, const HostSettings& host, Recording& recording)
+Outcome convertRecording(const Job& job, HostSettings host, Recording& recording, std::optional<dxf::Accounts>& drawing)
 {
-    if (const QString error = readRecording(job.input, recording, job.kept); !error.isEmpty()) {
+    if (const QString error = readRecording(job.input, recording, drawing, job.kept); !error.isEmpty()) {
         printLine(error);
         return {kUnreadable, error};
     }
+    // A drawing has no recorder whose faults a macro could be faithful to.
+    host.repair = host.repair || (drawing && !host.faithful);
     if (const QString refusal = job.toStandardOutput ? QString() : refusalOf(job.files()); !refusal.isEmpty())
         return failure(refusal);
     try {
@@ -189,10 +207,14 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling,
     GetFxSystemServices()->SetInt16(kIgnoreFaults, telling.looksAtFaults() ? 0 : 1);
     CFxConversionNotes& notes = GetFxSystemServices()->Notes();
     notes.KeepAll(part);
-    const Outcome outcome = convertRecording(job, host, recording);
-    const QString talk = telling.quiet || outcome.status != kDone ? QString() : talkText(notes, !part);
-    if (!talk.isEmpty())
-        printLine(job.shownMacro() + ": " + talk);
+    std::optional<dxf::Accounts> drawing;
+    const Outcome outcome = convertRecording(job, host, recording, drawing);
+    if (!telling.quiet && outcome.status == kDone) {
+        const QStringList talk{drawing ? importText(*drawing) : QString(), talkText(notes, !part)};
+        for (const QString& told : talk)
+            if (!told.isEmpty())
+                printLine(job.shownMacro() + ": " + told);
+    }
     if (!job.toStandardOutput && !job.home && !telling.reportsToOutput())
         for (const QString& file : outcome.files)
             printOut(file + '\n');
@@ -200,7 +222,7 @@ int convertOne(const Job& job, const HostSettings& host, const Telling& telling,
     if (part) {
         nameWork(QString("reporting on %1 to %2%3")
                      .arg(job.input, targetName(*job.target), status == kDone ? ", whose files are written" : ""));
-        if (!part->write(outcome, notes, recording)) {
+        if (!part->write(outcome, notes, recording, drawing)) {
             complain("the report on " + job.shownMacro() + " cannot be kept: " + qt_error_string(errno));
             status = std::max<int>(status, kFailed);
         }

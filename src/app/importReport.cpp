@@ -1,43 +1,86 @@
 #include "app/importReport.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include "app/valueText.h"
+#include "recordfile/JsonOut.h"
 
 namespace inkmacro {
+
+using recordfile::JsonOut;
 
 namespace {
 
 /// A kind stands in the file as somebody has written it.
 QString shown(const std::string& text)
 {
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+    return printable(QString::fromUtf8(text.data(), static_cast<int>(text.size())));
 }
 
-QJsonArray byReason(const dxf::Accounts::ByReason& entries, const char* key)
+void addList(JsonOut& out, std::string_view name, const dxf::Accounts::ByReason& entries, std::string_view key)
 {
-    QJsonArray list;
+    out.key(name);
+    out.beginArray();
+    for (const auto& [entry, count] : entries) {
+        out.beginObject();
+        out.key(std::string_view("kind"));
+        out.text(shown(entry.first));
+        out.key(std::string_view("count"));
+        out.integer(count);
+        out.key(key);
+        out.text(shown(entry.second));
+        out.endObject();
+    }
+    out.endArray();
+}
+
+qint64 total(const dxf::Accounts::ByReason& entries)
+{
+    qint64 all = 0;
     for (const auto& [entry, count] : entries)
-        list.append(QJsonObject{{"kind", shown(entry.first)}, {"count", count}, {key, shown(entry.second)}});
-    return list;
+        all += count;
+    return all;
 }
 
 } // namespace
 
-QByteArray importReport(const dxf::Accounts& accounts)
+QByteArray importMembers(const dxf::Accounts& accounts)
 {
-    QJsonObject imported;
-    for (const auto& [kind, count] : accounts.imported)
-        imported.insert(shown(kind), count);
-    QJsonArray approximated;
+    JsonOut out{CFxValueContext{}};
+    out.key(std::string_view("imported"));
+    out.beginObject();
+    for (const auto& [kind, count] : accounts.imported) {
+        out.key(shown(kind));
+        out.integer(count);
+    }
+    out.endObject();
+    out.key(std::string_view("approximated"));
+    out.beginArray();
+    for (const auto& [kind, curves] : accounts.approximated) {
+        out.beginObject();
+        out.key(std::string_view("kind"));
+        out.text(shown(kind));
+        out.key(std::string_view("count"));
+        out.integer(curves.count);
+        out.key(std::string_view("deviation"));
+        out.number(curves.deviation);
+        out.endObject();
+    }
+    out.endArray();
+    addList(out, "lost", accounts.lost, "reason");
+    addList(out, "untold", accounts.untold, "what");
+    return out.bytes();
+}
+
+QString importText(const dxf::Accounts& accounts)
+{
+    QStringList parts;
+    if (const qint64 lost = total(accounts.lost))
+        parts.append(counted(lost, "entity", "entities") + " of the drawing lost");
+    qint64 approximated = 0;
     for (const auto& [kind, curves] : accounts.approximated)
-        approximated.append(
-            QJsonObject{{"kind", shown(kind)}, {"count", curves.count}, {"deviation", curves.deviation}});
-    return QJsonDocument(QJsonObject{{"imported", imported},
-                                     {"approximated", approximated},
-                                     {"lost", byReason(accounts.lost, "reason")},
-                                     {"untold", byReason(accounts.untold, "what")}})
-        .toJson();
+        approximated += curves.count;
+    if (approximated)
+        parts.append(counted(approximated, "curve", "curves") + " approximated");
+    return parts.isEmpty() ? QString() : parts.join(", ") + "; --report text tells which";
 }
 
 QStringList importLines(const dxf::Accounts& accounts)

@@ -7,9 +7,11 @@
 
 namespace inkmacro {
 
-/// What became of the entities of a drawing file, as JSON.
-QByteArray importReport(const dxf::Accounts& accounts);
+/// What became of the entities of a drawing file, as the members of a JSON object.
+QByteArray importMembers(const dxf::Accounts& accounts);
 /// The same for a person, a kind or a loss a line.
 QStringList importLines(const dxf::Accounts& accounts);
+/// In one line, what did not come in as it is in the file; empty when all did.
+QString importText(const dxf::Accounts& accounts);
 
 } // namespace inkmacro

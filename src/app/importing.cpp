@@ -7,6 +7,7 @@
 #include "app/StagedResult.h"
 #include "app/console.h"
 #include "app/importReport.h"
+#include "app/reading.h"
 #include "dxf/DrawingFile.h"
 #include "dxf/Import.h"
 #include "recordfile/JsonOut.h"
@@ -65,7 +66,7 @@ int importDrawing(const CommandLine& line)
     }
     dxf::Drawing drawing(file.bytes());
     if (!drawing.isValid()) {
-        printLine(name + ": no section of a drawing is found in it");
+        printLine(name + ": " + kNoDrawing);
         return kUnreadable;
     }
     OdDbDatabase ids;
@@ -85,7 +86,7 @@ int importDrawing(const CommandLine& line)
         return kFailed;
     }
     if (line.telling.report != ReportForm::None) {
-        const QByteArray report = importReport(import.accounts());
+        const QByteArray report = '{' + importMembers(import.accounts()) + "}\n";
         toOutput ? printError(report) : printOut(report);
     } else if (!line.telling.quiet) {
         for (const QString& told : importLines(import.accounts()))

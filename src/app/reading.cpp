@@ -4,12 +4,14 @@
 
 #include "app/ProgressLine.h"
 #include "app/console.h"
-#include "recordfile/RecordingReader.h"
+#include "dxf/DrawingFile.h"
+#include "dxf/DrawingReader.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
+#include <cstdio>
 
 #include <unistd.h>
 
@@ -31,26 +33,61 @@ auto withProgress(Read read)
     });
 }
 
-QString readKept(const QString& path, Recording& recording, const QString& kept)
+/// So much tells a drawing from a recording.
+constexpr qint64 kSniffed = 4096;
+
+bool isDrawing(QFile& file, const QString& path)
 {
-    QFile file(kept);
+    if (path.endsWith(QLatin1String(".dxf"), Qt::CaseInsensitive))
+        return true;
+    const QByteArray begin = file.peek(kSniffed);
+    return dxf::looksLikeDrawing({begin.constData(), static_cast<std::size_t>(begin.size())});
+}
+
+std::vector<RecordingError> readDrawing(QFile& file, const QString& name, Recording& recording,
+                                        std::optional<dxf::Accounts>& accounts)
+{
+    dxf::DrawingFile bytes;
+    if (!bytes.read(file))
+        return {{name, 0, {}, "cannot be read: " + file.errorString()}};
+    dxf::Drawing drawing(bytes.bytes());
+    if (!drawing.isValid())
+        return {{name, 0, {}, kNoDrawing}};
+    withProgress([&](const ReadingProgress& progress) {
+        accounts = dxf::readDrawing(drawing, {}, recording, progress);
+        return 0;
+    });
+    return {};
+}
+
+/// From `place`, which errors call `path`.
+std::vector<RecordingError> readFrom(const QString& place, const QString& path, Recording& recording, std::size_t most,
+                                     std::optional<dxf::Accounts>& accounts)
+{
+    recording = Recording();
+    const bool standardInput = place == "-";
     const QString name = path == "-" ? QStringLiteral("standard input") : path;
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return RecordingError{name, 0, {}, "cannot be read again: " + file.errorString()}.text();
-    const auto error =
-        withProgress([&](const ReadingProgress& progress) { return ReadRecording(file, name, recording, progress); });
+    QFile file(place);
+    // Unbuffered: the lines have a buffer of their own.
+    constexpr auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
+    if (!(standardInput ? file.open(stdin, mode) : file.open(mode)))
+        return {{name, 0, {}, (place == path ? "cannot be opened: " : "cannot be read again: ") + file.errorString()}};
+    std::vector<RecordingError> errors = isDrawing(file, path)
+                                             ? readDrawing(file, name, recording, accounts)
+                                             : withProgress([&](const ReadingProgress& progress) {
+                                                   return ReadWithErrors(file, name, recording, most, progress);
+                                               });
     if (path != "-")
         recording.folder = QFileInfo(path).path();
-    return error ? error->text() : QString();
+    return errors;
 }
 
 } // namespace
 
-QString readRecording(const QString& path, Recording& recording, const QString& kept)
+QString readRecording(const QString& path, Recording& recording, std::optional<dxf::Accounts>& drawing,
+                      const QString& kept)
 {
-    if (!kept.isEmpty())
-        return readKept(path, recording, kept);
-    const std::vector<RecordingError> errors = readWithErrors(path, recording, 1);
+    const std::vector<RecordingError> errors = readFrom(kept.isEmpty() ? path : kept, path, recording, 1, drawing);
     if (errors.empty())
         return {};
     // What it holds of the other lines is no recording.
@@ -60,7 +97,8 @@ QString readRecording(const QString& path, Recording& recording, const QString& 
 
 bool readOrComplain(const QString& path, Recording& recording)
 {
-    const QString error = readRecording(path, recording);
+    std::optional<dxf::Accounts> drawing;
+    const QString error = readRecording(path, recording, drawing);
     if (!error.isEmpty())
         printLine(error);
     return error.isEmpty();
@@ -68,8 +106,8 @@ bool readOrComplain(const QString& path, Recording& recording)
 
 std::vector<RecordingError> readWithErrors(const QString& path, Recording& recording, std::size_t most)
 {
-    return withProgress(
-        [&](const ReadingProgress& progress) { return ReadWithErrors(path, recording, most, progress); });
+    std::optional<dxf::Accounts> drawing;
+    return readFrom(path, path, recording, most, drawing);
 }
 
 bool keepInput(int descriptor, QFileDevice& file, const std::function<void()>& progress)

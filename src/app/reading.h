@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dxf/Accounts.h"
 #include "recordfile/Recording.h"
 
 #include <functional>
@@ -9,9 +10,13 @@ class QFileDevice;
 
 namespace inkmacro {
 
+/// What is wrong with a file in which no drawing is found.
+inline constexpr const char* kNoDrawing = "no section of a drawing is found in it";
+
 /// Empty when the recording is read, else what is wrong with it. What has been kept of one is read in its place, when
-/// there is a path of that.
-QString readRecording(const QString& path, Recording& recording, const QString& kept = {});
+/// there is a path of that. A drawing file becomes a recording, and `drawing` tells what became of its entities.
+QString readRecording(const QString& path, Recording& recording, std::optional<dxf::Accounts>& drawing,
+                      const QString& kept = {});
 /// Reads the recording, or prints what is wrong with it and gives false.
 bool readOrComplain(const QString& path, Recording& recording);
 

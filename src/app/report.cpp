@@ -244,6 +244,10 @@ void ReportDocument::printJson(const Conversion& conversion)
     for (const QString& file : project)
         out.text(file);
     out.endArray();
+    if (part && !part->drawingMembers().isEmpty()) {
+        print(out.bytes() + ',' + part->drawingMembers());
+        out.clear();
+    }
     addNotes("losses", List::Losses);
     addNotes("assumed", List::Assumptions);
     out.key("faults"sv);
@@ -298,6 +302,8 @@ void ReportDocument::printText(const Conversion& conversion, const CommonNotes& 
     if (!part)
         return;
     const auto printLine = [this](const QString& line) { print(line); };
+    if (!part->drawingLines().isEmpty())
+        printLine("  the drawing\n    " + part->drawingLines().join("\n    ") + '\n');
     const bool sharesNotes = outcome.status == kDone;
     for (const List list : {List::Losses, List::Assumptions})
         printList(

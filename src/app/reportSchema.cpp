@@ -38,6 +38,31 @@ QJsonObject faultSchema()
     return fault.json();
 }
 
+QJsonObject kindSchema(const char* key, const char* meaning, const QJsonObject& value)
+{
+    ObjectSchema kind;
+    kind.add("kind", "what the drawing file calls the entities", typeSchema("string"), true);
+    kind.add("count", "how many there are", typeSchema("integer"), true);
+    kind.add(key, meaning, value, true);
+    return kind.json();
+}
+
+/// What became of the entities of a drawing file; absent for a recording.
+void addDrawing(ObjectSchema& conversion)
+{
+    QJsonObject counts = typeSchema("object");
+    counts.insert("additionalProperties", typeSchema("integer"));
+    conversion.add("imported", "of a drawing: how many entities of each kind came into the recording", counts, false);
+    conversion.add("approximated", "of a drawing: entities that came in as other curves",
+                   listSchema(kindSchema("deviation", "the largest distance between both, in drawing units",
+                                         typeSchema("number"))),
+                   false);
+    conversion.add("lost", "of a drawing: entities that did not come into the recording",
+                   listSchema(kindSchema("reason", "why", typeSchema("string"))), false);
+    conversion.add("untold", "of a drawing: what the file says of entities that came in, and no recording can",
+                   listSchema(kindSchema("what", "what that is", typeSchema("string"))), false);
+}
+
 QJsonObject conversionSchema()
 {
     ObjectSchema conversion;
@@ -50,6 +75,7 @@ QJsonObject conversionSchema()
     conversion.add("map", "the map of the macro's lines, when it was asked for", typeSchema("string"), false);
     conversion.add("project", "the files of the project around it that were written", listSchema(typeSchema("string")),
                    true);
+    addDrawing(conversion);
     conversion.add("losses", "what the user did and the macro does not",
                    listSchema(noteSchema("what is lost: an action, an object or a property of one")), true);
     conversion.add("assumed", "values that the macro states and the recording does not hold, or holds in another form",

@@ -6,7 +6,8 @@
 #include "conversion/TagWords.h"
 #include "conversion/ValueForm.h"
 
-/// The sizes that tables were made with and changed to so far, by their variables. Lengths are drawing units.
+/// The sizes that tables were made with and changed to so far, by their variables, of those of the drawing by their
+/// handles. Lengths are drawing units.
 struct TableSizes
 {
     std::map<CFxString, std::int32_t> rowCounts;
@@ -71,8 +72,6 @@ public:
     std::set<OdDbHandle> finished;
     /// The descriptions of blocks that were recorded last.
     std::map<OdDbHandle, CFxString> blockDescriptions;
-    /// What changed layers are called by now, where that is not their name in the drawing.
-    std::map<OdDbHandle, CFxString> renamedLayers;
 
 private:
     const std::unique_ptr<Names> names_;

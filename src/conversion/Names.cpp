@@ -285,8 +285,23 @@ const OdRxClass* Names::DeclaredClass(const OdDbHandle& handle) const
     return found == entries_.end() ? nullptr : found->second.cls;
 }
 
+CFxString Names::LendVariable(const OdDbHandle& handle, const OdRxClass* cls)
+{
+    lent_.insert(handle);
+    return variableOf(cls, IdOf(handle), RegisterObject(handle, cls).ordinal);
+}
+
+void Names::TakeBack(const OdDbHandle& handle)
+{
+    if (lent_.erase(handle) > 0)
+        entries_.erase(handle);
+}
+
 void Names::EndCommand(bool hides)
 {
+    for (const OdDbHandle& handle : lent_)
+        entries_.erase(handle);
+    lent_.clear();
     if (hides)
         outOfReach_.merge(fetchedLayers_);
     fetchedLayers_.clear();
@@ -309,7 +324,7 @@ public:
         name = NameObject(handle, cls);
         return {};
     }
-    void EndFetchedLayer(const OdDbHandle& handle) override { DeclareLayer(handle); }
+    bool FetchesChanged() const override { return false; }
 
 private:
     bool FetchesUnknown() const override { return false; }
@@ -355,8 +370,7 @@ public:
     {
         return EmitObjectVariable(handle, cls, name);
     }
-    /// The variable is gone behind its command.
-    void EndFetchedLayer(const OdDbHandle& handle) override { Forget(handle); }
+    bool FetchesChanged() const override { return true; }
 
 private:
     bool FetchesUnknown() const override { return true; }

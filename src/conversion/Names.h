@@ -93,6 +93,14 @@ public:
     /// Of an object that statements may be written for without its fetch: as recorded its bare name, in a repaired
     /// macro with the statement.
     virtual Statement EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) = 0;
+    /// Whether objects that the drawing has and the recording did not add are fetched to be changed.
+    virtual bool FetchesChanged() const = 0;
+    /// Registers such an object up to the end of the present command, whose block may hide the variable; at top level
+    /// until its statements are made. Gives the variable, which the caller fetches.
+    CFxString LendVariable(const OdDbHandle& handle, const OdRxClass* cls);
+    bool IsLent(const OdDbHandle& handle) const { return lent_.contains(handle); }
+    /// Nothing is fetched after all.
+    void TakeBack(const OdDbHandle& handle);
     /// An object is being added: its variable, which AddedVariable gives from here on.
     CFxString NameAdded(const ActionEntry& entry, const OdRxClass* cls, const OdDbObjectId& id);
     /// The variable of an object that was added before; empty for any other. Takes no number.
@@ -110,7 +118,7 @@ public:
     // Layers that were not recorded as added: a statement declares them within the present command.
 
     /// Behind the statements of such a layer.
-    virtual void EndFetchedLayer(const OdDbHandle& handle) = 0;
+    void EndFetchedLayer(const OdDbHandle& handle) { fetchedLayers_.insert(handle); }
     /// Behind a command; `hides`: its block hides what is declared in it.
     void EndCommand(bool hides);
 
@@ -130,8 +138,6 @@ protected:
     CFxString Fetched(const OdDbHandle& handle, const OdRxClass* cls);
     /// Whether the class that is told gives another variable than the one that is declared.
     bool IsOtherClass(const ActionEntry& entry, const OdRxClass* told) const;
-    void Forget(const OdDbHandle& handle) { entries_.erase(handle); }
-    void DeclareLayer(const OdDbHandle& handle) { fetchedLayers_.insert(handle); }
     ActionEntry NewEntry(const OdRxClass* cls) { return {cls, ++objectCounter_}; }
     void AddFetch(const Statement& statement) { fetches_ += statement; }
 
@@ -146,6 +152,7 @@ private:
     std::uint32_t objectCounter_ = 0; ///< ordinal of the last object that got a variable
     std::unordered_map<OdDbHandle, ActionEntry, OdDbHandleHash> added_;
     std::set<OdDbHandle> unmade_;
+    std::set<OdDbHandle> lent_; ///< objects of the drawing that the present command has fetched to change them
     /// Variables of objects that are fetched in front of the present custom action, and what fetches them.
     std::map<OdDbHandle, CFxString> fetched_;
     Statement fetches_;

@@ -14,6 +14,8 @@ public:
     bool open(const QString& path);
     /// Why it could not be.
     QString error() const { return file_.errorString(); }
+    /// Of a file that is open and has not been read yet; it has to stay open.
+    bool read(QFile& file);
     std::string_view bytes() const { return bytes_; }
 
 private:

@@ -9,7 +9,7 @@ namespace inkmacro::dxf {
 namespace {
 
 /// Behind a name of varying length.
-constexpr std::string_view kBinaryMark{" Binary DXF\r\n\x1a\0", 14};
+constexpr std::string_view kBinaryMark{" Binary DXF\r\n\x1a\0", 15};
 /// Within so many bytes.
 constexpr std::size_t kMarkRoom = 32;
 constexpr std::string_view kByteOrderMark{"\xef\xbb\xbf"};

@@ -7,16 +7,6 @@
 
 namespace inkmacro::dxf {
 
-namespace {
-
-double inTurn(double angle)
-{
-    constexpr double turn = 2 * std::numbers::pi;
-    return angle >= 0 && angle < turn ? angle : angle - turn * std::floor(angle / turn);
-}
-
-} // namespace
-
 void readLine(EntityReader& entity, Parts, Surroundings&, DrawnObject& object)
 {
     object.add("Start X", "Start Y", "Start Z", entity.point(10));
@@ -44,16 +34,9 @@ void readArc(EntityReader& entity, Parts, Surroundings&, DrawnObject& object)
         throw Lost{kTilted};
     object.add("Center X", "Center Y", "Center Z", direction.toWorld(entity.point(10)));
     object.add("Radius", entity.real(40));
-    double start = entity.radians(50);
-    double end = entity.radians(51);
-    if (direction.isDown()) {
-        // Seen from behind, it runs the other way and its zero lies opposite.
-        const double mirroredStart = inTurn(std::numbers::pi - end);
-        end = inTurn(std::numbers::pi - start);
-        start = mirroredStart;
-    }
-    object.add("Start Angle", start);
-    object.add("End Angle", end);
+    const Arc arc = direction.arcToWorld({entity.radians(50), entity.radians(51)});
+    object.add("Start Angle", arc.start);
+    object.add("End Angle", arc.end);
 }
 
 void readEllipse(EntityReader& entity, Parts, Surroundings&, DrawnObject& object)

@@ -1,48 +1,76 @@
 #include "dxf/directions.h"
 
+#include "dxf/vectors.h"
+
+#include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace inkmacro::dxf {
 
 namespace {
 
-/// Nearer than that to the Z axis, the X axis is found by the Y axis of the world.
-constexpr double kNear = 1.0 / 64;
+constexpr double pi = std::numbers::pi;
+/// A normal that leans less is upright: points move by as much of their coordinates at most.
+constexpr double upright = 1e-9;
 
-OdGeVector3d cross(const OdGeVector3d& left, const OdGeVector3d& right)
+/// An angle in [0, 2 pi).
+double inTurn(double angle)
 {
-    return {left.y * right.z - left.z * right.y, left.z * right.x - left.x * right.z,
-            left.x * right.y - left.y * right.x};
-}
-
-OdGeVector3d unit(const OdGeVector3d& vector)
-{
-    const double length = std::hypot(vector.x, vector.y, vector.z);
-    return {vector.x / length, vector.y / length, vector.z / length};
+    const double rest = std::fmod(angle, 2 * pi);
+    const double positive = rest < 0 ? rest + 2 * pi : rest;
+    return positive < 2 * pi ? positive : 0.0;
 }
 
 } // namespace
 
 Direction::Direction(const OdGeVector3d& normal)
 {
-    // What has no direction is seen from above.
-    if (normal == OdGeVector3d{} || (normal.x == 0 && normal.y == 0 && normal.z > 0))
+    const double length = std::max({std::abs(normal.x), std::abs(normal.y), std::abs(normal.z)});
+    if (!(length > 0) || !std::isfinite(normal.x) || !std::isfinite(normal.y) || !std::isfinite(normal.z))
         return;
-    zAxis_ = unit(normal);
-    isDown_ = zAxis_ == OdGeVector3d{0, 0, -1};
-    isTilted_ = !isDown_ && !(zAxis_ == OdGeVector3d{0, 0, 1});
-    const bool isNear = std::abs(zAxis_.x) < kNear && std::abs(zAxis_.y) < kNear;
-    xAxis_ = unit(cross(isNear ? OdGeVector3d{0, 1, 0} : OdGeVector3d{0, 0, 1}, zAxis_));
-    yAxis_ = cross(zAxis_, xAxis_);
+    // Divided twice, for squares of what is very long or short are no numbers.
+    const OdGeVector3d z = unit({normal.x / length, normal.y / length, normal.z / length});
+    if (std::abs(z.x) <= upright && std::abs(z.y) <= upright) {
+        if (z.z > 0)
+            return;
+        kind_ = Kind::Down;
+        x_ = {-1, 0, 0};
+        z_ = {0, 0, -1};
+        return;
+    }
+    // The rule of drawings: X is level, unless Z is nearly that of the world, where X stands at a right angle to Y.
+    constexpr double near = 1.0 / 64;
+    const bool isNear = std::abs(z.x) < near && std::abs(z.y) < near;
+    kind_ = Kind::Tilted;
+    z_ = z;
+    x_ = unit(cross(isNear ? OdGeVector3d{0, 1, 0} : OdGeVector3d{0, 0, 1}, z));
+    y_ = cross(z, x_);
 }
 
 OdGePoint3d Direction::toWorld(const OdGePoint3d& point) const
 {
-    if (!isTilted_)
-        return isDown_ ? OdGePoint3d{-point.x, point.y, -point.z} : point;
-    const auto along = [&](double x, double y, double z) { return x * point.x + y * point.y + z * point.z; };
-    return {along(xAxis_.x, yAxis_.x, zAxis_.x), along(xAxis_.y, yAxis_.y, zAxis_.y),
-            along(xAxis_.z, yAxis_.z, zAxis_.z)};
+    if (kind_ == Kind::Up)
+        return point;
+    return OdGePoint3d{} + (point.x * x_ + point.y * y_ + point.z * z_);
+}
+
+Arc Direction::arcToWorld(const Arc& arc) const
+{
+    if (!isDown())
+        return arc;
+    const double start = inTurn(pi - arc.end);
+    const bool isWhole = std::abs(arc.end - arc.start - 2 * pi) < 1e-12;
+    return {start, isWhole ? start + 2 * pi : inTurn(pi - arc.start)};
+}
+
+Placement Direction::placementToWorld(const Placement& placement) const
+{
+    if (!isDown())
+        return placement;
+    // A mirror image of the block in Y, turned against what would be a turn of it by the same angle.
+    const OdGeScale3d& scale = placement.scale;
+    return {inTurn(pi - placement.rotation), {scale.sx, -scale.sy, -scale.sz}};
 }
 
 } // namespace inkmacro::dxf

@@ -3,7 +3,6 @@
 #include "dxf/readers.h"
 
 #include <cmath>
-#include <numbers>
 
 namespace inkmacro::dxf {
 
@@ -64,13 +63,10 @@ void readInsert(EntityReader& entity, Parts parts, Surroundings& around, DrawnOb
         throw Lost{kTilted};
     const Group* const name = entity.find(2);
     const Insertable& block = around.insertable(name ? name->bytes : std::string_view());
-    double rotation = entity.radians(50);
-    OdGeScale3d scale{entity.real(41, 1.0), entity.real(42, 1.0), entity.real(43, 1.0)};
-    takeArray(entity, direction, rotation, object);
-    if (direction.isDown()) {
-        rotation = std::numbers::pi - rotation;
-        scale = {scale.sx, -scale.sy, -scale.sz};
-    }
+    const double inPlane = entity.radians(50);
+    takeArray(entity, direction, inPlane, object);
+    const auto [rotation, scale] =
+        direction.placementToWorld({inPlane, {entity.real(41, 1.0), entity.real(42, 1.0), entity.real(43, 1.0)}});
     object.add("Name", CFxString(block.name));
     object.add("Position X", "Position Y", "Position Z", direction.toWorld(entity.point(10)));
     object.add("Scale X", scale.sx);

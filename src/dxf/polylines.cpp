@@ -68,7 +68,7 @@ void draw(const PlanePolyline& polyline, const Direction& direction, DrawnObject
         for (std::size_t i = 0; i < points.size(); ++i) {
             const Vertex& vertex = polyline.vertices[i];
             vertices.append(points[i]);
-            bulges.append({direction.isDown() ? -vertex.bulge : vertex.bulge, 0, 0});
+            bulges.append({direction.bulgeToWorld(vertex.bulge), 0, 0});
             if (varies) {
                 startWidths.append(vertex.startWidth);
                 endWidths.append(vertex.endWidth);

@@ -6,7 +6,6 @@
 #include "host/db/OdDbClasses.h"
 #include "objects/classTable.h"
 #include "objects/entries.h"
-#include "objects/properties.h"
 #include "statements/losses.h"
 #include "targets/variables.h"
 
@@ -47,32 +46,18 @@ std::int32_t ConvertOrLose(Conversion& conversion, const OdRxObjectPtr& action, 
     return status;
 }
 
-/// In front of the changes, which may rename it.
-static CFxString layerName(Conversion& conversion, const CFxObjectModified& changes)
-{
-    CFxString before = LayerName(conversion, changes.GetHandle());
-    PropertyList list = changes.GetProperties();
-    if (const CFxVariant renamed = FindProperty(conversion, "Name", list); !renamed.IsNull())
-        conversion.renamedLayers[changes.GetHandle()] = renamed.GetString();
-    return before;
-}
-
-/// A layer that the recording did not make has no variable yet, although a statement is about to change it.
+/// As recorded: a layer that the recording did not make has no variable yet, although a statement is about to change
+/// it, and of all such objects it alone gets one.
 static std::int32_t convertModifiedLayer(Conversion& conversion, const CFxObjectModified& action, Statement& text)
 {
     OdRxClass* const cls = action.GetObjectClass();
     const OdDbHandle handle = action.GetHandle();
     Names& names = conversion.names();
-    const CFxString layer = layerName(conversion, action);
-    if (conversion.writer.repairs && layer.isEmpty()) {
-        NoteLoss("changes of " + ObjectTitle(cls, handle).toQString(), "the drawing does not have the layer");
-        return kFxSuccess;
-    }
     names.RegisterObject(handle, cls);
     CFxString name;
     names.ResolveVariable(handle, cls, name);
     if (!name.isEmpty())
-        text += EmitGetLayer(conversion.writer, name, layer);
+        text += EmitGetLayer(conversion.writer, name, LayerName(conversion, handle));
     const std::int32_t status = ConvertObjectModified(conversion, action, text);
     names.EndFetchedLayer(handle);
     return status;
@@ -82,7 +67,7 @@ static std::int32_t convertModified(Conversion& conversion, const CFxObjectModif
 {
     OdRxClass* const cls = action.GetObjectClass();
     const bool isLayer = cls && IsSupportedClass(cls) && CFxString(cls->name()).equalNoCase("AcDbLayerTableRecord");
-    return isLayer && !conversion.names().FindEntry(action.GetHandle())
+    return isLayer && !conversion.names().FetchesChanged() && !conversion.names().FindEntry(action.GetHandle())
                ? convertModifiedLayer(conversion, action, text)
                : ConvertObjectModified(conversion, action, text);
 }

@@ -46,9 +46,10 @@ public:
     }
     OdGePoint3d takePoint(const PropertyTag& tag) { return need(tag, forms::point, "the origin").GetPoint3d(); }
     /// Where the drawing has nothing of that id the name is empty, which is noted.
-    CFxString nameOf(const PropertyTag& tag, const OdDbObjectId& id, CFxString (*nameIn)(const OdDbObjectId&)) const
+    CFxString nameOf(const PropertyTag& tag, const OdDbObjectId& id,
+                     CFxString (*nameIn)(const Writer&, const OdDbObjectId&)) const
     {
-        CFxString found = nameIn(id);
+        CFxString found = nameIn(writer, id);
         if (found.isEmpty() && !id.isNull())
             AssumeProperty(object, tag.text(), "the drawing does not have what it names");
         return found;

@@ -224,12 +224,20 @@ Statement setStyleCenterMark(const Change& change)
     return set(size > 0 ? kCenterMark : size < 0 ? kCenterLines : kNoCenterMark, std::abs(size));
 }
 
+/// Statements that follow find it by that name.
+Statement renamed(const Change& change, const CFxString& name, Statement statement)
+{
+    if (change.writer.repairs)
+        change.writer.newNames.insert_or_assign(change.object.handle, name);
+    return statement;
+}
+
 /// The current style has to be made current again under its new name.
 Statement renameDimensionStyle(const Change& change, const CFxString& name)
 {
     const OdDbObjectId style = IdOf(change.object.handle);
     const bool isCurrent = !style.isNull() && style == ACTIVE_DOCUMENT->GetDatabase()->currentDimensionStyleId();
-    return EmitRenameStyle(change.writer, change.target, name, isCurrent);
+    return renamed(change, name, EmitRenameStyle(change.writer, change.target, name, isCurrent));
 }
 
 CFxString integerWord(const Change& change)
@@ -239,7 +247,7 @@ CFxString integerWord(const Change& change)
 
 Statement renameRichLineStyle(const Change& change, const CFxString& name)
 {
-    return EmitRenameRichLineStyle(change.writer, change.target, name);
+    return renamed(change, name, EmitRenameRichLineStyle(change.writer, change.target, name));
 }
 
 Statement setYes(const Change& change, const CFxString& word)
@@ -277,7 +285,7 @@ Statement setNoteLineSpacing(const Change& change)
 
 Statement renameStyle(const Change& change, const CFxString& name)
 {
-    return EmitRenameStyle(change.writer, change.target, name, false);
+    return renamed(change, name, EmitRenameStyle(change.writer, change.target, name, false));
 }
 
 /// A name that begins with the mark is none to be given; such a change is passed over.

@@ -12,6 +12,7 @@
 #include "statements/RecordingState.h"
 #include "statements/StatementGroup.h"
 #include "statements/losses.h"
+#include "targets/variables.h"
 
 #include <algorithm>
 
@@ -30,6 +31,34 @@ bool hasRecord(const PropertyList& list, const char* tag)
 
 } // namespace
 
+static Statement fetchLent(Conversion& conversion, RecordedObject& object)
+{
+    const auto& [cls, handle, name] = object;
+    object.name = conversion.names().LendVariable(handle, cls);
+    return cls == OdDbLayerTableRecord::desc()
+               ? EmitGetLayer(conversion.writer, name, LayerName(conversion, handle))
+               : EmitGetObjectByHandle(conversion.writer, FindTypeNames(cls)->type, name, handle);
+}
+
+/// Why the macro does not come by an object that the recording did not add; null where it does.
+static const char* whyOutOfReach(const Conversion& conversion, const OdRxClass* cls, const OdDbHandle& handle)
+{
+    if (conversion.names().IsUnmade(handle))
+        return "no statement inserts the object, so the macro has no variable for it";
+    if (!IsSupportedClass(cls) || !HasInterface(cls))
+        return "objects of its class have no statements";
+    if (cls == OdDbLayerTableRecord::desc() && LayerName(conversion, handle).isEmpty())
+        return "the drawing does not have the layer";
+    const OdDbObjectPtr object = IdOf(handle).openObject(true);
+    if (!object)
+        return "the recording did not add the object, so the macro has no variable for it";
+    if (object->isA() != cls)
+        return "the drawing has an object of another class under its handle";
+    return conversion.names().FetchesChanged() ? nullptr
+                                               : "the recording did not add the object, and only a repaired macro "
+                                                 "fetches it from the drawing";
+}
+
 /// Gives the variable of the object, and the statement that the changes need in front of them. False for an object
 /// that the macro does not know: its changes are dropped.
 static bool addressChangedObject(Conversion& conversion, RecordedObject& object, const OdDbObjectId& noteLeader,
@@ -37,8 +66,6 @@ static bool addressChangedObject(Conversion& conversion, RecordedObject& object,
 {
     const auto& [cls, handle, name] = object;
     Names& names = conversion.names();
-    if (!cls)
-        return false;
     if (!noteLeader.isNull()) {
         object.name = names.NameObject(handle, cls);
         CFxString leader;
@@ -58,7 +85,16 @@ static bool addressChangedObject(Conversion& conversion, RecordedObject& object,
         return true;
     }
     // A sheet is found by its name in the records, it needs no variable.
-    return cls == OdDbLayout::desc();
+    if (cls == OdDbLayout::desc())
+        return true;
+    if (const char* const reason = whyOutOfReach(conversion, cls, handle)) {
+        NoteLoss("changes of " + ObjectTitle(cls, handle).toQString(), reason);
+        return false;
+    }
+    // Nor does a named view, of which nothing but its removal is written.
+    if (cls != OdDbViewTableRecord::desc())
+        text += fetchLent(conversion, object);
+    return true;
 }
 
 static const Fault kErasedSheet{
@@ -68,10 +104,8 @@ static const Fault kErasedSheet{
 
 CFxString LayerName(const Conversion& conversion, const OdDbHandle& handle)
 {
-    if (const auto renamed = conversion.renamedLayers.find(handle); renamed != conversion.renamedLayers.end())
-        return renamed->second;
     const auto record = odrxQuery<OdDbLayerTableRecord>(IdOf(handle).openObject(true).get());
-    return record ? CFxString(record->getName()) : CFxString();
+    return record ? NameByNow(conversion.writer, *record) : CFxString();
 }
 
 bool LacksErasure(const OdRxClass* cls)
@@ -152,13 +186,9 @@ void ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const Od
     RecordedObject object{cls, handle, {}};
     const OdDbObjectId leader = cls == OdDbMText::desc() ? GetNoteLeader(handle) : OdDbObjectId();
     const OdDbObjectId noteLeader = fromAdded ? OdDbObjectId() : leader;
-    if (!addressChangedObject(conversion, object, noteLeader, list, text)) {
-        NoteLoss("changes of " + ObjectTitle(cls, handle).toQString(),
-                 conversion.names().IsUnmade(handle)
-                     ? "no statement inserts the object, so the macro has no variable for it"
-                     : "the recording did not add the object, so the macro has no variable for it");
+    if (!addressChangedObject(conversion, object, noteLeader, list, text))
         return;
-    }
+    const bool isFetched = conversion.names().IsLent(handle) && !text.isEmpty();
 
     if (!fromAdded)
         LoseLoneTags(conversion, object, list, false);
@@ -173,14 +203,18 @@ void ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const Od
         if (RecordingLanguage() != kJavaScript && !group.abandoned())
             group.abandon();
         // The fetch of a note stands there for what follows it.
-        if (!noteLeader.isNull())
+        if (!noteLeader.isNull() || isFetched)
             text.clear();
+        if (isFetched)
+            conversion.names().TakeBack(handle);
     } else if (group.abandoned()) {
         text += general;
         text += classText;
     } else {
         text += group.begin() + general + classText + group.close();
     }
+    if (conversion.command == 0)
+        conversion.names().TakeBack(handle);
 }
 
 /// A property that most entities have, by the tag of its records and the name in the interface.

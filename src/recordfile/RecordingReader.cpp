@@ -130,6 +130,19 @@ std::optional<RecordingError> ReadRecording(QIODevice& device, const QString& na
     return errors.front();
 }
 
+std::optional<RecordingError> ReadFurther(QIODevice& device, const QString& name, Recording& recording)
+{
+    const std::vector<RecordingError> errors = readLines(device, name, recording, {}, kLongestLine, 1);
+    return errors.empty() ? std::nullopt : std::optional(errors.front());
+}
+
+std::vector<RecordingError> ReadWithErrors(QIODevice& device, const QString& name, Recording& recording,
+                                           std::size_t most, const ReadingProgress& progress)
+{
+    recording = Recording();
+    return readLines(device, name, recording, progress, kLongestLine, most);
+}
+
 std::vector<RecordingError> ReadWithErrors(const QString& path, Recording& recording, std::size_t most,
                                            const ReadingProgress& progress)
 {
@@ -143,7 +156,7 @@ std::vector<RecordingError> ReadWithErrors(const QString& path, Recording& recor
     constexpr auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     if (!(standardInput ? file.open(stdin, mode) : file.open(mode)))
         return {{name, 0, {}, "cannot be opened: " + file.errorString()}};
-    std::vector<RecordingError> errors = readLines(file, name, recording, progress, kLongestLine, most);
+    std::vector<RecordingError> errors = ReadWithErrors(file, name, recording, most, progress);
     if (!standardInput)
         recording.folder = QFileInfo(path).path();
     return errors;

@@ -23,9 +23,14 @@ std::optional<RecordingError> ReadRecording(const QString& path, Recording& reco
 std::optional<RecordingError> ReadRecording(QIODevice& device, const QString& name, Recording& recording,
                                             const ReadingProgress& progress = {}, qint64 longestLine = kLongestLine);
 
+/// Reads lines behind those that the recording has already: before any of its actions, those of its drawing.
+std::optional<RecordingError> ReadFurther(QIODevice& device, const QString& name, Recording& recording);
+
 /// Reads on behind lines that are wrong, which the recording lacks then. Gives the first error of each of up to `most`
 /// lines; with so many the rest of the file is not read.
 std::vector<RecordingError> ReadWithErrors(const QString& path, Recording& recording, std::size_t most,
                                            const ReadingProgress& progress = {});
+std::vector<RecordingError> ReadWithErrors(QIODevice& device, const QString& name, Recording& recording,
+                                           std::size_t most, const ReadingProgress& progress = {});
 
 } // namespace inkmacro

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "host/db/OdDbHandle.h"
 #include "host/kernel/CFxString.h"
 #include "statements/Fault.h"
 #include "statements/Statement.h"
 
 #include <algorithm>
 #include <cstdint>
+#include <map>
 
 /// What a statement is filled with: the target, the depth that it stands at, and the number that keeps its local names
 /// apart. One for each conversion; every Emit operation takes it first.
@@ -46,6 +48,8 @@ public:
     void lowerLevel(std::uint32_t by = 1) { IndentLevel -= std::min(by, IndentLevel); }
     /// Suffix that keeps the local names of one statement apart: raised before use by each statement that has one.
     std::uint32_t UniqueCounter = 0;
+    /// What a repaired macro has renamed so far, which statements behind that have to find under its new name.
+    std::map<OdDbHandle, CFxString> newNames;
 
 private:
     inkmacro::FillMode mode() const { return {target, repairs, notesFaults}; }

@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """Holds repaired macros against recordings that say everything of each class: of each tag that `inkmacro classes` tells
-of an object with each of several values, as it is added and as a change of one that was added before.
+of an object with each of several values, as it is added, as a change of one that was added before, and as a change of
+one that the drawing has.
 
     every_tag.py PROGRAM SOURCE_DIR csharp|javascript
 """
@@ -37,6 +38,10 @@ MADE = {"AcDbHatch": '{"kind": 18, "data": [{"string": "ANSI31"}, {"double": 1.5
                         ' {"bool": true}, {"handle": "#"}, {"class": "AcDbViewport"}, {"string": "Layout1"}]}'}
 NAMES = {"AcDbLayerTableRecord": "Name", "AcDbTextStyleTableRecord": "Name", "AcDbTableStyle": "TableStyleName",
          "AcDbDimStyleTableRecord": "DimensionStyleName", "AcDbMlineStyle": "RichLineStyleName", "AcDbGroup": "Name"}
+# What tells of one that the drawing has how large or what it was.
+FOUND = {"AcDbTable": {"rowHeights": [2, 2, 2], "columnWidths": [5, 5, 5], "height": 6, "width": 15},
+         **{cls: {"name": "Found #"} for cls in ("AcDbLayerTableRecord", "AcDbTextStyleTableRecord",
+                                                 "AcDbDimStyleTableRecord", "AcDbMlineStyle")}}
 # Those that are made and compared in other ways, or not at all.
 OTHERS = {"AcDbLayerTable", "AcDbLayout", "AcDbBlockTableRecord", "AcDbLinetypeTableRecord", "AcDbViewTable",
           "AcDbViewTableRecord", "AcDbRegion", "AcDbViewportTableRecord"}
@@ -128,6 +133,18 @@ class Recording:
             actions.append({"modified": self._record(handle, change, index)})
         self.lines.append({"command": {"name": "EVERY", "actions": actions}})
 
+    def find(self, change, index):
+        """A change of an object that the drawing has, now within a command and now without one."""
+        handle = f"{0x100 + len(self.lines):X}"
+        self._objects.append({"class": self._cls, "handle": handle,
+                              **json.loads(json.dumps(FOUND.get(self._cls, {})).replace("#", handle))})
+        record = self._record(handle, change, index)
+        if len(self.lines) % 2:
+            self.lines.append({"command": {"name": "EVERY", "actions": [{"modified": record}]}})
+        else:
+            [told] = record.pop("properties")
+            self.lines.append({"property": record | told})
+
     def _record(self, handle, properties, index=None):
         return {"class": self._cls, "handle": handle, "properties": [
             {"tag": tag, "value": value, **({"index": index} if index is not None else {})}
@@ -144,7 +161,7 @@ def recordings(page):
     known = _tags(page)
     every = set(known["AcDbLine"][0]) & set(known["AcDbCircle"][0])
     for cls, (added, changed) in known.items():
-        recording = Recording(cls, added, every)
+        recording, found = Recording(cls, added, every), Recording(cls, {}, every)
         for tag, (_, form) in added.items():
             for value in _values(tag, form) + [None] * (tag not in COUNTS):
                 recording.add({tag: value})
@@ -157,14 +174,16 @@ def recordings(page):
                 for index in indexes:
                     for number in numbers:
                         recording.add({}, {tag.replace("*", number): value}, index)
+                        found.find({tag.replace("*", number): value}, index)
         yield cls, recording.text()
+        yield cls + "_found", found.text()
 
 
 def main():
     target = sys.argv.pop(3)
     checked, files = harness.Checked(), []
-    for cls, text in recordings(harness.run(checked.program, "classes").stdout):
-        files.append(checked.folder / f"{cls}.jsonl")
+    for name, text in recordings(harness.run(checked.program, "classes").stdout):
+        files.append(checked.folder / f"{name}.jsonl")
         files[-1].write_text(text, encoding="utf-8")
     macros = checked.convert(target, files, checked.folder / target, "--repair")
     judge = {"csharp": check_csharp, "javascript": check_javascript}[target].Judge(checked, macros)
@@ -172,7 +191,7 @@ def main():
     found = [f"{macro.file}: {json.dumps(one)}" for macro, result in judge.results.items()
              for one in drawing.differences(result)]
     objects = sum(result["counts"]["equal"] for result in judge.results.values())
-    harness.finish(complaints + found, f"{len(macros)} classes, {objects} objects compared")
+    harness.finish(complaints + found, f"{len(macros)} recordings, {objects} objects compared")
 
 
 if __name__ == "__main__":

@@ -44,7 +44,7 @@ Statement setNote(const AddedObject& leader, const OdDbMText& note)
     }
     const auto style = odrxCast<OdDbTextStyleTableRecord>(note.textStyle().openObject().get());
     if (style)
-        text += EmitSetProperty(writer, name, "TextStyle", style->getName(), true);
+        text += EmitSetProperty(writer, name, "TextStyle", NameByNow(writer, *style), true);
     return text;
 }
 

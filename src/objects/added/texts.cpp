@@ -6,6 +6,7 @@
 #include "objects/added/readers.h"
 #include "objects/entries.h"
 #include "objects/targets/points.h"
+#include "objects/targets/references.h"
 #include "objects/targets/setters.h"
 #include "statements/StatementGroup.h"
 #include "statements/arrays.h"
@@ -17,10 +18,10 @@ using inkmacro::doubleBackslashes;
 
 namespace {
 
-CFxString nameOfTextStyle(const OdDbObjectId& id)
+CFxString nameOfTextStyle(const Writer& writer, const OdDbObjectId& id)
 {
     const auto style = odrxCast<OdDbTextStyleTableRecord>(id.openObject().get());
-    return style ? CFxString(style->getName()) : CFxString();
+    return style ? NameByNow(writer, *style) : CFxString();
 }
 
 struct Box

@@ -1,6 +1,7 @@
 // Changed tables and table styles.
 
 #include "objects/targets/tables.h"
+#include "host/db/OdDbClasses.h"
 #include "objects/changeKinds.h"
 #include "objects/changed/changeLists.h"
 #include "objects/losses.h"
@@ -152,9 +153,37 @@ Statement removeLines(Writer& writer, const TableLines& lines, const CFxString& 
 
 } // namespace
 
+static double sumOf(const OdDbTable& table, double (OdDbTable::*size)(unsigned) const, unsigned count)
+{
+    double sum = 0;
+    for (unsigned line = 0; line < count; ++line)
+        sum += (table.*size)(line);
+    return sum;
+}
+
+/// What the sizes of the table are remembered under. One of the drawing has another variable in each command; before
+/// its first change it is as large as the drawing tells.
+static CFxString sizesKey(Conversion& conversion, const RecordedObject& object)
+{
+    if (!conversion.names().IsLent(object.handle))
+        return object.name;
+    const CFxString key(object.handle.ascii());
+    TableSizes& sizes = conversion.tables;
+    const auto table = odrxCast<OdDbTable>(IdOf(object.handle).openObject(true).get());
+    if (!table || sizes.rowCounts.contains(key))
+        return key;
+    sizes.rowCounts[key] = static_cast<std::int32_t>(table->numRows());
+    sizes.columnCounts[key] = static_cast<std::int32_t>(table->numColumns());
+    sizes.heights[key] =
+        table->height() != 0 ? table->height() : sumOf(*table, &OdDbTable::rowHeight, table->numRows());
+    sizes.widths[key] =
+        table->width() != 0 ? table->width() : sumOf(*table, &OdDbTable::columnWidth, table->numColumns());
+    return key;
+}
+
 /// Takes the count of the lines. True if it was there.
 static bool ConvertTableCount(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
-                              PropertyList& list, Statement& text)
+                              const CFxString& key, PropertyList& list, Statement& text)
 {
     const CFxVariant value = TakeProperty(conversion, object, lines.countTag, forms::whole, list);
     if (value.IsNull())
@@ -164,7 +193,7 @@ static bool ConvertTableCount(Conversion& conversion, const TableLines& lines, c
         LoseProperty(object, lines.countTag, "it is not recorded as a number");
         return true;
     }
-    std::int32_t& count = (conversion.tables.*lines.counts)[object.name];
+    std::int32_t& count = (conversion.tables.*lines.counts)[key];
     const std::int32_t before = count;
     count = value.GetInt32();
     if (count > before) {
@@ -215,12 +244,12 @@ static bool ConvertTableSizes(Conversion& conversion, const TableLines& lines, c
 
 /// Takes the size of the whole table. A table that became larger or smaller with nothing else to tell why was scaled.
 static void ConvertTableSize(Conversion& conversion, const TableLines& lines, const RecordedObject& object,
-                             PropertyList& list, bool told, Statement& text)
+                             const CFxString& key, PropertyList& list, bool told, Statement& text)
 {
     const CFxVariant value = TakeProperty(conversion, object, lines.wholeTag, forms::number, list);
     if (value.IsNull())
         return;
-    double& whole = (conversion.tables.*lines.wholes)[object.name];
+    double& whole = (conversion.tables.*lines.wholes)[key];
     const double coefficient = value.GetDouble() / whole;
     if (!told && !std::isfinite(coefficient) && conversion.Drops(kNoCoefficient))
         LoseProperty(object, lines.wholeTag, "the size that it had is not known");
@@ -255,12 +284,13 @@ void ConvertModifiedTable(Conversion& conversion, const RecordedObject& object, 
                                     &TableSizes::widths};
 
     ConvertRows(conversion, tablePosition, object, list, text);
-    const bool rowsTold = ConvertTableCount(conversion, rows, object, list, text);
-    const bool columnsTold = ConvertTableCount(conversion, columns, object, list, text);
+    const CFxString key = sizesKey(conversion, object);
+    const bool rowsTold = ConvertTableCount(conversion, rows, object, key, list, text);
+    const bool columnsTold = ConvertTableCount(conversion, columns, object, key, list, text);
     const bool cellsTold = ConvertCellTexts(conversion, object, list, text);
     const bool heightsTold = ConvertTableSizes(conversion, rows, object, list, text);
-    ConvertTableSize(conversion, rows, object, list, rowsTold || cellsTold || heightsTold, text);
+    ConvertTableSize(conversion, rows, object, key, list, rowsTold || cellsTold || heightsTold, text);
     const bool widthsTold = ConvertTableSizes(conversion, columns, object, list, text);
-    ConvertTableSize(conversion, columns, object, list, columnsTold || cellsTold || widthsTold, text);
+    ConvertTableSize(conversion, columns, object, key, list, columnsTold || cellsTold || widthsTold, text);
     ConvertRows(conversion, tableLooks, object, list, text);
 }

@@ -28,6 +28,12 @@ Statement EmitGetObjectByHandle(Writer& writer, const CFxString& type, const CFx
     return writer.fill(objectByHandle).text(type).text(name).text(digits).number(++writer.UniqueCounter);
 }
 
+CFxString NameByNow(const Writer& writer, const OdDbSymbolTableRecord& record)
+{
+    const auto found = writer.newNames.find(record.getDbHandle());
+    return found == writer.newNames.end() ? CFxString(record.getName()) : found->second;
+}
+
 static const Phrase getNoteAnnotation{"EmitGetNoteAnnotation",
                                       {
                                           .cpp = "%1iwNote_ptr %4;%2%1%3->GetNoteAnnotation( &%4 );%2",

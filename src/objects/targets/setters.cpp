@@ -3,6 +3,7 @@
 #include "objects/targets/setters.h"
 
 #include "host/db/OdDbClasses.h"
+#include "objects/targets/references.h"
 #include "statements/counters.h"
 #include "statements/enumerations.h"
 #include "statements/quoting.h"
@@ -158,7 +159,7 @@ static OdSmartPtr<Record> recordOf(const OdDbObjectId& id)
 Statement EmitSetLayer(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id)
 {
     const auto layer = recordOf<OdDbLayerTableRecord>(id);
-    return layer ? EmitSetProperty(writer, target, property, layer->getName(), true) : QString();
+    return layer ? EmitSetProperty(writer, target, property, NameByNow(writer, *layer), true) : QString();
 }
 
 Statement EmitSetLineStyle(Writer& writer, const CFxString& target, const CFxString& property, const OdDbObjectId& id)

@@ -103,8 +103,10 @@ class Comparison {
         }
         this.matchInserted();
         this.matchNamed();
-        for (const thing of [...model.made, ...model.named]) {
-            (derivations[thing.cls] || (() => null))(thing.held);
+        for (const thing of new Set([...model.made, ...model.named, ...model.found.values()])) {
+            const derive = derivations[thing.cls] || (() => null);
+            derive(thing.held);
+            derive(thing.before);
         }
         this.compareObjects();
         this.compareCalls();
@@ -191,8 +193,14 @@ class Comparison {
             }
         }
         for (const expected of this.recorded.found) {
-            const thing = this.model.found.get(expected.handle) || this.model.foundObject(expected.handle, expected.made);
-            this.compareHeld(expected, thing);
+            const isEqual = this.compareObject(expected, this.model.foundObject(expected.handle));
+            this.equal += expected.held.size ? isEqual : 0;
+        }
+        const changed = new Set(this.recorded.found.map(expected => expected.handle));
+        for (const [handle, thing] of this.model.found) {
+            if (!changed.has(handle) && thing.handle) {
+                this.compareHeld(new Expected(handle, thing.cls, thing.cls, {key: ''}), thing);
+            }
         }
         for (const thing of this.model.made) {
             if (!this.matched.has(thing) && !this.isHelper(thing)) {
@@ -249,7 +257,7 @@ class Comparison {
             const seen = measured ? heldOf(measured, of, index) : heldOf(thing, question, index);
             // What a dimension measures may be there already.
             const isRight = isThere || (seen === undefined
-                ? isNothing(value) || value === anything || this.isDefault(cls, question, value)
+                ? !thing.handle && isNothing(value) || value === anything || this.isDefault(cls, question, value)
                     || this.places.optional.has(cls + ' ' + question)
                 : value !== null && value !== undefined && value.handle ? this.isHanded(seen, value)
                     : fits(question, seen, value, this.places.turns.has(question + index)));
@@ -257,10 +265,11 @@ class Comparison {
                 this.find('different', expected, action, tag, value, seen, 'it is drawn with another value');
             }
         }
-        // What the drawing has of an object is not recorded.
-        for (const [question, values] of thing.handle ? [] : thing.held) {
+        for (const [question, values] of thing.held) {
+            // What the drawing has of an object is not recorded.
+            const before = thing.before.get(question) || [];
             values.forEach((value, index) => {
-                if (!expected.holds(question, index) && !expected.excused.has(question.split('(')[0]) && !isNothing(value)
+                if (value !== before[index] && !expected.holds(question, index) && !expected.excused.has(question.split('(')[0]) && !isNothing(value)
                     && (question === 'Objects()' || !(value instanceof Thing))
                     && !this.isDefault(cls, question, value) && !toldElsewhere.test(question)
                     && !(index === 1 && question.endsWith('InViewport()'))) {

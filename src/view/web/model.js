@@ -31,6 +31,7 @@ class Thing {
         this.handle = ''; // of an object that was in the drawing already
         if (this.whole === this) {
             this.held = new Map(); // lists of values by the question that they answer
+            this.before = new Map(); // of an object of the drawing what it held, or answered, in the beginning
             this.known = new Map(); // the same of what was not given to it
             this.name = ''; // the first one
             this.space = null; // the sheet where it was made, null in the model
@@ -66,9 +67,9 @@ function readState(text) {
 }
 
 class Model {
-    // `offered` are the objects that the drawing has already: {handle, cls, type, number, answers, curves}. `keyed` are
-    // the calls that are noted.
-    constructor(known, state, keyed, offered, attributeTags) {
+    // What the drawing has already: `listed` are its objects, {handle, cls, name, answers}, `offered` those that a window
+    // may meet, {handle, cls, type, number, curves}. `keyed` are the calls that are noted.
+    constructor(known, state, keyed, offered, listed, attributeTags) {
         this.known = known;
         this.state = state;
         this.keyed = keyed;
@@ -81,19 +82,27 @@ class Model {
         this.forgotten = new Map(); // the last ones that had the name before
         this.found = new Map();
         this.selected = [];
-        this.offered = offered.map(one => {
-            const thing = this.foundObject(one.handle, one.cls);
-            Object.entries(one.answers).forEach(([question, values]) => thing.held.set(question, values));
-            return Object.assign({thing: thing}, one);
-        });
+        this.listed = new Map(listed.map(one => [one.handle, one]));
+        this.handles = new Map(listed.filter(one => namedClasses.includes(one.cls) && one.name)
+            .map(one => [one.cls + ' ' + one.name, one.handle]));
+        this.offered = offered.map(one => Object.assign({thing: this.foundObject(one.handle)}, one));
         this.application = new Thing('Application', null, null);
     }
 
-    foundObject(handle, cls) {
+    // The drawing's object of that handle, of whatever class when nothing is known of it.
+    foundObject(handle) {
         if (!this.found.has(handle)) {
+            const {cls = 'FoundObject', name = '', answers = {}} = this.listed.get(handle) || {};
+            if (this.handles.get(cls + ' ' + name) === handle) {
+                return this.record(cls, name, false);
+            }
             const thing = new Thing(cls, null, null);
             thing.handle = handle;
             this.found.set(handle, thing);
+            for (const [question, values] of Object.entries(answers)) {
+                thing.held.set(question, values);
+                thing.before.set(question, values);
+            }
         }
         return this.found.get(handle);
     }
@@ -114,6 +123,9 @@ class Model {
             thing.held.set('Name()', [name]);
             this.records.set(key, thing);
             this.named.push(thing);
+            if (this.handles.has(key) && !this.found.has(this.handles.get(key))) {
+                this.found.set(this.handles.get(key), thing);
+            }
         }
         return this.records.get(key);
     }
@@ -215,6 +227,9 @@ class Model {
         const known = makes ? [] : this.knownAnswers(on, name, question, given, types);
         const results = types.map((type, i) => i < known.length ? known[i]
             : this.answer(on, name, type, given, question));
+        if (on.whole.handle && !on.whole.held.has(on.place + question)) {
+            on.whole.before.set(on.place + question, results);
+        }
         if (makes) {
             this.tellMade(results.find(one => one instanceof Thing), on, name, given, noted);
         }
@@ -270,7 +285,7 @@ class Model {
         case 'GetSelectedObjectCount': return [this.selected.length];
         case 'GetSelectedObject':
             return selected ? [selected.thing, types[1] === 'int' ? selected.number : selected.type] : [];
-        case 'GetObjectByHandle': return [this.foundObject(given[0], 'FoundObject')];
+        case 'GetObjectByHandle': return [this.foundObject(given[0])];
         case 'get_DispObj': return [on];
         case 'GetAttributeInstances': return [this.attributes(on)];
         }

@@ -67,10 +67,26 @@ function answersOf(record) {
     return record.class in offeredClasses ? described(record).answers : {};
 }
 
-// `lines` are those of the recording, parsed. Objects without data are not offered.
+// `lines` are those of the recording, parsed.
+function drawnRecords(lines) {
+    return lines.filter(line => line && line.object).map(line => line.object);
+}
+
+function hasData(record) {
+    return Object.keys(record).length > 2;
+}
+
+// All objects of the drawing for which the interface has a class.
+function listedObjects(lines, places) {
+    const known = record => record.class !== 'AcDbTable' ? hasData(record) ? answersOf(record) : {}
+        : {'Rows()': [(record.rowHeights || []).length], 'Columns()': [(record.columnWidths || []).length]};
+    return drawnRecords(lines).map(one => ({handle: one.handle, cls: places.interfaceOf(one), name: one.name || '',
+        answers: known(one)})).filter(one => one.cls);
+}
+
+// Those that a window may meet: objects without data are not offered.
 function offeredObjects(lines) {
-    const records = lines.filter(line => line && line.object).map(line => line.object);
-    return records.filter(one => one.class in offeredClasses && Object.keys(one).length > 2).map(one => {
+    return drawnRecords(lines).filter(one => one.class in offeredClasses && hasData(one)).map(one => {
         const {cls, type, number} = offeredClasses[one.class];
         return Object.assign({handle: one.handle, cls: cls, type: type, number: number}, described(one));
     });

@@ -66,6 +66,13 @@ class Places {
             other: behind('with')};
     }
 
+    // The interface's class of an object of the drawing, undefined where it has none.
+    interfaceOf(record) {
+        const {made} = this.records.get(record.class) || {made: this.interfaces.get(record.class)};
+        return record.class !== 'AcDbViewTableRecord' ? made
+            : record.isPaperspaceView ? 'SheetNamedView' : 'ModelNamedView';
+    }
+
     // Null where there is none; its name is "-" where no macro carries the property.
     row(cls, tag, isAdded) {
         const both = this.both(cls, tag);

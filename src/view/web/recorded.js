@@ -56,6 +56,7 @@ class Recorded {
         this.found = []; // those that were in the drawing already
         this.records = []; // Expected that are found by their names
         this.byHandle = new Map();
+        this.newNames = new Map(); // by handle
         this.operations = []; // {name, owner, handed, action}
         this.strange = []; // tags without a row
         this.descriptions = new Map(); // of blocks, also those that are lost until the block is made anew
@@ -68,9 +69,11 @@ class Recorded {
         }
     }
 
+    // By now: what it is called in the drawing, or what it has been renamed to.
     nameOf(handle) {
         const record = this.drawing.get(handle);
-        return record && (record.name || record.layoutName) || '';
+        const renamed = this.newNames.get(handle);
+        return renamed !== undefined ? renamed : record && (record.name || record.layoutName) || '';
     }
 
     // What is drawn from here on is on that sheet, or in the model.
@@ -100,13 +103,32 @@ class Recorded {
 
     // What the macro finds in the drawing by its name.
     find(handle, cls, action) {
-        const row = this.places.records.get(cls) || {};
-        const made = cls !== 'AcDbViewTableRecord' ? row.made
-            : (this.drawing.get(handle) || {}).isPaperspaceView ? 'SheetNamedView' : 'ModelNamedView';
-        const name = this.nameOf(handle);
-        if (made && name && !this.byHandle.has(handle)) {
-            this.findNamed(made, name, handle, cls, action);
+        const drawn = this.drawing.get(handle);
+        if (!drawn || drawn.class !== cls || this.byHandle.has(handle)) {
+            return;
         }
+        if (this.places.records.has(cls) && this.nameOf(handle)) {
+            this.findNamed(this.places.interfaceOf(drawn), this.nameOf(handle), handle, cls, action);
+        } else {
+            this.findObject(handle, action);
+        }
+    }
+
+    // What the drawing tells no name of.
+    findObject(handle, action) {
+        const drawn = this.drawing.get(handle);
+        if (drawn && !this.byHandle.has(handle)) {
+            const one = new Expected(handle, drawn.class, this.places.interfaceOf(drawn) || 'FoundObject', action);
+            one.isFound = true;
+            this.found.push(one);
+            this.byHandle.set(handle, one);
+        }
+    }
+
+    // What an action changes.
+    findChanged({handle, class: cls}, action) {
+        const leader = this.leaders.get(handle);
+        this.find(leader || handle, leader ? 'AcDbLeader' : cls, action);
     }
 
     // The one that has the name now.
@@ -180,7 +202,7 @@ class Recorded {
             this.layout(record, action);
             return;
         }
-        this.find(record.handle, record.class, action);
+        this.findChanged(record, action);
         this.setAll(record, action, false);
     }
 
@@ -197,6 +219,7 @@ class Recorded {
     }
 
     property(record, action) {
+        this.findChanged(record, action);
         this.setAll({class: record.class, handle: record.handle, properties: [record]}, action, false);
     }
 
@@ -267,6 +290,9 @@ class Recorded {
         } else if (row.name !== '-' && (tag !== 'Erased' && tag !== 'ActivateLayer'
             || String(record.value).toLowerCase() === 'yes')) {
             const prefix = leader ? 'NoteAnnotation.' : '';
+            if (row.name === 'Name' && one.name !== null) {
+                this.newNames.set(handle, String(valueOf(record.value, () => '')));
+            }
             holdValue(one, Object.assign({}, row, {name: prefix + row.name}), record, action, assumed,
                 other => this.nameOf(other));
         }
@@ -286,12 +312,7 @@ class Recorded {
 
     // Of an object that has been added, or that was in the drawing already.
     hold(handle, question, value, tag, action) {
-        const {class: cls} = this.drawing.get(handle) || {};
-        if (!this.byHandle.has(handle) && this.places.interfaces.has(cls)) {
-            const one = new Expected(handle, cls, this.places.interfaces.get(cls), action);
-            this.found.push(one);
-            this.byHandle.set(handle, one);
-        }
+        this.findObject(handle, action);
         if (this.byHandle.has(handle)) {
             this.byHandle.get(handle).hold(question, 0, value, tag, action);
         }

@@ -39,7 +39,8 @@ function startModel(tables, lines) {
             tags.add(datumOf(action.custom.data, 2));
         }
     }
-    return new Model(tables.known, tables.state, tables.keyed, offeredObjects(lines), [...tags]);
+    return new Model(tables.known, tables.state, tables.keyed, offeredObjects(lines), listedObjects(lines, tables.places),
+        [...tags]);
 }
 
 // `given` has the recording's `lines`, the `losses` and what is `assumed` of its report, the `map` of the written macro,

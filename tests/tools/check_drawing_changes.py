@@ -1,0 +1,205 @@
+#!/usr/bin/python3
+"""Edits drawings, and runs the recording of what changed on the old one: the new one has to come out.
+
+    check_drawing_changes.py PROGRAM SOURCE_DIR
+"""
+
+import collections
+import json
+import logging
+import sys
+
+import harness
+
+try:
+    import ezdxf
+    from ezdxf.math import Matrix44, Vec3
+except ImportError:
+    harness.skip("ezdxf is not installed")
+
+import drawings
+import expected
+import recorded
+
+
+def each(change):
+    """An edit of all entities of model space that take it."""
+    def edit(doc):
+        done = 0
+        for entity in list(doc.modelspace()):
+            try:
+                change(entity)
+                done += 1
+            except (ezdxf.DXFError, AttributeError, NotImplementedError, TypeError, ValueError, ZeroDivisionError):
+                pass  # Not what every entity has.
+        assert done, "nothing was edited"
+    return edit
+
+
+def setting(**attributes):
+    def change(entity):
+        for name, value in attributes.items():
+            if entity.dxf.is_supported(name):
+                old = entity.dxf.get_default(name)
+                entity.dxf.set(name, value(old) if callable(value) else value)
+    return each(change)
+
+
+def on_layer(change):
+    return lambda doc: [change(layer) for layer in doc.layers if layer.dxf.name != "0"]
+
+
+def erase(step):
+    def edit(doc):
+        m = doc.modelspace()
+        for entity in list(m)[::step]:
+            m.delete_entity(entity)
+    return edit
+
+
+def longer(entity):
+    entity.append((9, 9)) if entity.dxftype() == "LWPOLYLINE" else entity.append_vertex((9, 9))
+
+
+def edited_block(doc):
+    block = doc.blocks.get("Inner")
+    block.add_line((0, 0), (7, 7))
+    block.delete_entity(block[0])
+
+
+def rename_layer(doc):
+    doc.layers.get("Dashes").rename("Strokes")
+
+
+def reversed_order(doc):
+    doc.modelspace().entity_space.entities.reverse()
+
+
+def upper_names(doc):
+    for entity in doc.modelspace():
+        entity.dxf.layer = entity.dxf.layer.upper()
+        if entity.dxftype() == "INSERT":
+            entity.dxf.name = entity.dxf.name.upper()
+
+
+def seen_from_below(doc):
+    for circle in doc.modelspace().query("CIRCLE[layer=='0']"):
+        if not circle.dxf.hasattr("extrusion") and not circle.dxf.hasattr("thickness"):
+            x, y, z = circle.dxf.center
+            circle.dxf.center, circle.dxf.extrusion = (-x, y, -z), (0, 0, -1)
+
+
+def other_handles(doc):
+    """Groups that name an object, here with another handle."""
+    lines = drawings.text_of(doc).split("\n")
+    for place in range(0, len(lines) - 1, 2):
+        code = int(lines[place])
+        if code in (5, 105, 480, 481, 1005) or 320 <= code < 370 or 390 <= code < 400:
+            lines[place + 1] = f"{int(lines[place + 1], 16) + 0x10000:X}" if lines[place + 1] != "0" else "0"
+    return "\n".join(lines)
+
+
+def attribute_texts(doc):
+    for entity in doc.modelspace().query("INSERT"):
+        for attribute in entity.attribs:
+            attribute.dxf.text += " new"
+
+
+EDITS = {
+    "moved": each(lambda e: e.translate(1, 2, 3)), "turned": each(lambda e: e.rotate_z(0.3)),
+    "scaled": each(lambda e: e.scale(2, 2, 2)), "mirrored": each(lambda e: e.transform(Matrix44.scale(-1, 1, 1))),
+    "colored": setting(color=3), "colored truly": setting(true_color=0x112233), "layered": setting(layer="Locked"),
+    "on a new layer": setting(layer="New one"), "lined": setting(linetype="DASHES", ltscale=3.5), "weighed": setting(lineweight=30),
+    "thicker": setting(thickness=5), "closed": setting(flags=lambda flags: flags ^ 1), "named": setting(text=lambda t: t + " new"),
+    "tagged": setting(tag="OTHER", prompt="Which?"), "higher": setting(height=lambda h: h * 2, char_height=lambda h: h * 2),
+    "turned texts": setting(rotation=lambda r: (r or 0) + 15), "other block": setting(name="Empty"),
+    "wide": setting(const_width=0.75), "raised": setting(elevation=lambda old: Vec3(0, 0, 9) if isinstance(old, Vec3) else 9), "attached": setting(attachment_point=5),
+    "longer": each(longer), "dashed fill": setting(pattern_name="ANSI37", pattern_scale=3),
+    "radius": setting(radius=lambda r: r + 1), "short arcs": setting(start_angle=10, end_angle=100),
+    "edges": setting(invisible=5), "erased": erase(1), "half erased": erase(2), "drawn again": lambda doc: [
+        topic(doc.modelspace()) for topic in (drawings.normals, drawings.polylines, drawings.curves, drawings.hatches)],
+    "block": edited_block, "new block": lambda doc: doc.blocks.new("Later").add_line((0, 0), (1, 1)), "layer's name": rename_layer,
+    "layers' color": on_layer(lambda one: one.dxf.set("color", 5)), "layers off": on_layer(lambda one: one.off()),
+    "layers on": on_layer(lambda one: one.on()), "layers frozen": on_layer(lambda one: one.freeze()),
+    "layers locked": on_layer(lambda one: one.lock()), "layers unlocked": on_layer(lambda one: one.unlock()),
+    "new layer": lambda doc: doc.layers.add("Later", color=3), "attributes": attribute_texts,
+}
+# What draws the same, or has no statement.
+SAME = {
+    "untouched": lambda doc: None, "order": reversed_order, "names": upper_names, "below": seen_from_below,
+    "version": lambda doc: setattr(doc, "dxfversion", "R2018"), "handles": other_handles,
+    "hidden": setting(invisible=1), "data": each(lambda e: e.set_xdata("ACAD", [(1000, "new")])),
+}
+
+
+def imported(checked, file, *options):
+    done = harness.run(checked.program, "import", file, *options, timeout=120)
+    if done.returncode:
+        raise harness.subprocess.CalledProcessError(done.returncode, "import", done.stderr[-500:])
+    return done.stdout
+
+
+def apart(run, new):
+    """What stands when the changes have run on the old drawing, and in the new one, and is not the same."""
+    (spaces, tables), (new_spaces, new_tables) = run.forms(), new.forms()
+    for space in spaces.keys() | new_spaces.keys():
+        left = collections.defaultdict(list)
+        for cls, handle, form in spaces.get(space, []):
+            left[cls].append((handle, form))
+        for cls, handle, form in new_spaces.get(space, []):
+            off = [expected.difference(form, other, expected.NEAR) for _, other in left[cls]]
+            if None in off:
+                del left[cls][off.index(None)]
+            else:
+                own = [why for why, (other, _) in zip(off, left[cls]) if other == handle]
+                yield f"{space}: {cls} {handle} does not come out: {(own or off)[:1]}"
+        if space in new_spaces or not space.startswith("block "):
+            yield from (f"{space}: {cls} {handle} should be gone" for cls, rest in left.items() for handle, _ in rest[:3])
+    for (cls, name), one in new_tables.items():
+        other = tables.get((cls, name))
+        tags = set(one.properties) - {"Name", "Objects"} if cls == "AcDbLayerTableRecord" else ()
+        for tag in tags if other else ():
+            if other.get(tag, "No" if one.get(tag) == "No" else None) != one.get(tag):
+                yield f"{cls} {name}: {tag} is {other.get(tag)}, not {one.get(tag)}"
+        if not other:
+            yield f"{cls} {name} does not come out"
+    yield from (f"layer {name} should be gone" for cls, name in tables.keys() - new_tables.keys() if "Layer" in cls)
+
+
+def records(text):
+    """The properties that a recording changes."""
+    for line in text.splitlines():
+        (kind, content), = json.loads(line).items()
+        for action in content["actions"] if kind == "command" else [{kind: content}]:
+            yield from action.get("modified", {}).get("properties", [])
+
+
+def main():
+    logging.disable()
+    checked = harness.Checked()
+    complaints, changes = [], 0
+    old = checked.folder / "old.dxf"
+    old.write_text(drawings.text_of(drawings.new("R2010", *drawings.TOPICS)), encoding="utf-8")
+    before = imported(checked, old)
+    for name, edit in (EDITS | SAME).items():
+        doc = ezdxf.readfile(old)
+        text = edit(doc)
+        file = checked.folder / f"{name}.dxf"
+        file.write_text(text if isinstance(text, str) else drawings.text_of(doc), encoding="utf-8")
+        try:
+            change, after = imported(checked, file, "--since", old), imported(checked, file)
+        except harness.subprocess.CalledProcessError as failed:
+            complaints.append(f"{name}: {failed.output}")
+            continue
+        run = recorded.Recording(before, change)
+        changes += run.actions
+        if (run.actions > 0) == (name in SAME):
+            complaints.append(f"{name}: {run.actions} actions")
+        off = list(apart(run, recorded.Recording(after))) if name in EDITS else []
+        off += [f"{one['tag']} changes from {one['old']} to the same" if "old" in one else f"{one['tag']} has no old value"
+                for one in records(change) if one["tag"] != "Erased" and one.get("old") in (None, one["value"])]
+        complaints += [f"{name}: {one}" for one in off[:5]] + [f"{name}: and {len(off) - 5} more"] * (len(off) > 5)
+    harness.finish(complaints, f"{len(EDITS)} edits, {changes} actions")
+
+
+main()

@@ -1,0 +1,302 @@
+// Drawing files as they come, and the recordings that are made of them.
+
+#include "dxf/Import.h"
+#include "recordfile/JsonOut.h"
+#include "recordfile/actionForms.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+using namespace inkmacro;
+using namespace inkmacro::dxf;
+
+namespace {
+
+using Groups = std::vector<std::pair<int, std::string>>;
+
+Groups operator+(Groups left, const Groups& right)
+{
+    left.insert(left.end(), right.begin(), right.end());
+    return left;
+}
+
+std::string asText(const Groups& groups, const std::string& lineEnd = "\n")
+{
+    std::string text;
+    for (const auto& [code, value] : groups)
+        text += std::to_string(code) + lineEnd + value + lineEnd;
+    return text;
+}
+
+/// What a binary file has in place of the lines: numbers by codes, and texts up to a zero byte.
+std::string asBinary(const Groups& groups, bool shortCodes)
+{
+    const auto bytesOf = [](auto number) {
+        std::string bytes(sizeof number, '\0');
+        std::memcpy(bytes.data(), &number, sizeof number);
+        return bytes;
+    };
+    std::string file("A drawing as Binary DXF\r\n\x1a\0", 26);
+    for (const auto& [code, value] : groups) {
+        file += shortCodes ? std::string(1, static_cast<char>(code)) : bytesOf(static_cast<qint16>(code));
+        if (code >= 10 && code < 60)
+            file += bytesOf(std::stod(value));
+        else if (code >= 60 && code < 80)
+            file += bytesOf(static_cast<qint16>(std::stoi(value)));
+        else
+            file += value + '\0';
+    }
+    return file;
+}
+
+Groups section(const std::string& name, const Groups& groups)
+{
+    return Groups{{0, "SECTION"}, {2, name}} + groups + Groups{{0, "ENDSEC"}};
+}
+
+Groups line(const std::string& handle, const std::string& x)
+{
+    return {{0, "LINE"}, {5, handle}, {8, "0"}, {10, x}, {20, "1"}, {11, "2"}, {21, "3"}};
+}
+
+Groups insert(const std::string& block, const Groups& more = {})
+{
+    return Groups{{0, "INSERT"}, {8, "0"}, {2, block}, {10, "1"}, {20, "2"}} + more;
+}
+
+Groups block(const std::string& name, const Groups& entities)
+{
+    return Groups{{0, "BLOCK"}, {8, "0"}, {2, name}, {70, "0"}, {10, "0"}, {20, "0"}} + entities +
+           Groups{{0, "ENDBLK"}};
+}
+
+struct Imported
+{
+    std::vector<std::string> actions;
+    Accounts accounts;
+
+    bool has(const std::string& part) const
+    {
+        return std::any_of(actions.begin(), actions.end(),
+                           [&](const std::string& action) { return action.find(part) != std::string::npos; });
+    }
+    qint64 count(const std::string& part) const
+    {
+        return std::count_if(actions.begin(), actions.end(),
+                             [&](const std::string& action) { return action.find(part) != std::string::npos; });
+    }
+};
+
+Imported imported(const std::string& file, ImportOptions options = {})
+{
+    Drawing drawing(file);
+    OdDbDatabase ids;
+    Import import(drawing, ids, std::move(options));
+    import.head();
+    Imported result;
+    recordfile::JsonOut out{CFxValueContext{}};
+    while (const OdRxObjectPtr action = import.next()) {
+        recordfile::Form<OdRxObjectPtr>::write(out, action);
+        result.actions.push_back(out.bytes().toStdString());
+        out.clear();
+        out.endLine();
+        out.clear();
+    }
+    result.accounts = import.accounts();
+    return result;
+}
+
+Imported entities(const Groups& groups)
+{
+    return imported(asText(section("ENTITIES", groups)));
+}
+
+std::string tag(const std::string& name, const std::string& value)
+{
+    return R"({"tag":")" + name + R"(","value":)" + value + "}";
+}
+
+} // namespace
+
+TEST(DxfFiles, ReadTheSameHoweverTheyAreWritten)
+{
+    const Groups drawing = section("ENTITIES", line("2F", "0.5") + line("30", "-1e3")) + Groups{{0, "EOF"}};
+    const std::vector<std::string> expected = imported(asText(drawing)).actions;
+    ASSERT_EQ(expected.size(), 2U);
+    EXPECT_NE(expected[0].find(tag("Start X", "0.5")), std::string::npos);
+    EXPECT_NE(expected[1].find(tag("Start X", "-1000")), std::string::npos);
+
+    std::string mixed = asText(drawing);
+    mixed.replace(mixed.find('\n'), 1, "\r\n");
+    mixed.replace(mixed.find("LINE\n") + 4, 1, "\r");
+    const std::pair<const char*, std::string> files[] = {
+        {"CR LF", asText(drawing, "\r\n")},
+        {"CR", asText(drawing, "\r")},
+        {"CR CR LF", asText(drawing, "\r\r\n")},
+        {"mixed", mixed},
+        {"byte order mark", "\xef\xbb\xbf" + asText(drawing)},
+        {"comment", "999\nwritten by hand\n" + asText(drawing)},
+        {"blanks", asText(drawing, " \n  ")},
+        {"stray line", "what is that\n" + asText(drawing)},
+        {"trash behind the end", asText(drawing) + asText(line("31", "9")) + "\x01\x02"},
+        {"binary", asBinary(drawing, false)},
+        {"binary with short codes", asBinary(drawing, true)},
+    };
+    for (const auto& [how, file] : files)
+        EXPECT_EQ(imported(file).actions, expected) << how;
+}
+
+TEST(DxfFiles, GiveWhatTheyHaveWhereverTheyEnd)
+{
+    const std::string whole = asText(section("ENTITIES", line("2F", "0.5") + line("30", "7")) + Groups{{0, "EOF"}});
+    for (const std::string& file : {whole, asBinary(section("ENTITIES", line("2F", "0.5")), false)})
+        for (std::size_t length = 0; length < file.size(); ++length) {
+            const std::string cut = file.substr(0, length);
+            const Drawing drawing(cut);
+            EXPECT_EQ(drawing.isValid(), cut.find("SECTION") != std::string::npos &&
+                                             (file != whole || length >= std::strlen("0\nSECTION")))
+                << length;
+            if (drawing.isValid())
+                EXPECT_LE(imported(cut).actions.size(), 2U) << length;
+        }
+    EXPECT_EQ(imported(whole.substr(0, whole.find("\nENDSEC"))).actions.size(), 2U);
+}
+
+TEST(DxfHandles, AreUniqueInTheRecording)
+{
+    const Imported doubled = entities(line("2F", "1") + line("2F", "2") + line("", "3") + line("xyz", "4"));
+    ASSERT_EQ(doubled.actions.size(), 4U);
+    EXPECT_EQ(doubled.count(R"("handle":"2F")"), 1);
+    EXPECT_EQ(doubled.count(R"("handle":"30")") + doubled.count(R"("handle":"31")") + doubled.count(R"("handle":"32")"),
+              3);
+
+    const Imported high = entities(line("FFFFFFFFFFFFFFFF", "1") + line("", "2") + line("1", "3"));
+    EXPECT_EQ(high.count(R"("handle":"FFFFFFFFFFFFFFFF")"), 1);
+    EXPECT_EQ(high.count(R"("handle":"1")"), 1);
+    EXPECT_EQ(high.count(R"("handle":"2")"), 1);
+
+    const Imported seeded = imported(asText(section("HEADER", {{9, "$HANDSEED"}, {5, "A00"}}) +
+                                            section("ENTITIES", line("2F", "1") + line("", "2"))));
+    EXPECT_EQ(seeded.count(R"("handle":"A00")"), 1);
+}
+
+TEST(DxfEntities, AreLostForNumbersThatAreNone)
+{
+    for (const char* const number : {"nan", "1e400", "inf", "1,5", "abc", ""}) {
+        const Imported result = entities(line("2F", number) + line("30", "1"));
+        EXPECT_EQ(result.actions.size(), 1U) << number;
+        EXPECT_EQ(result.accounts.lost.size(), 1U) << number;
+        EXPECT_EQ(result.accounts.imported.at("LINE"), 1) << number;
+    }
+    EXPECT_EQ(entities(line("2F", "1e-400") + line("30", " +2 ")).actions.size(), 2U);
+}
+
+TEST(DxfEntities, SeenFromBelowStandWhereTheyStand)
+{
+    const Groups below{{210, "0"}, {220, "0"}, {230, "-2"}};
+    const Imported arc =
+        entities(Groups{{0, "ARC"}, {10, "3"}, {20, "4"}, {30, "5"}, {40, "1"}, {50, "0"}, {51, "90"}} + below);
+    for (const std::string& part : {tag("Center X", "-3"), tag("Center Y", "4"), tag("Center Z", "-5"),
+                                    tag("Start Angle", "1.5707963267948966"), tag("End Angle", "3.141592653589793")})
+        EXPECT_TRUE(arc.has(part)) << part;
+
+    const Imported bow = entities(Groups{{0, "LWPOLYLINE"}, {38, "7"}} + below +
+                                  Groups{{10, "1"}, {20, "0"}, {42, "0.5"}, {10, "2"}, {20, "0"}});
+    EXPECT_TRUE(bow.has(R"({"points":[[-1,0,-7],[-2,0,-7]]},{"points":[[-0.5,0,0],)"));
+    EXPECT_TRUE(bow.has(tag("Elevation", "-7")));
+
+    const Imported text = entities(Groups{{0, "TEXT"}, {1, "a"}, {10, "0"}, {20, "0"}, {40, "1"}} + below);
+    EXPECT_EQ(text.accounts.lost.count({"TEXT", "it is seen from behind"}), 1U);
+}
+
+TEST(DxfEntities, InATiltedPlaneComeInWhenSpaceHasTheirKind)
+{
+    const Groups sideways{{210, "1"}, {220, "0"}, {230, "0"}};
+    const Groups corners{{10, "1"}, {20, "2"}, {10, "3"}, {20, "4"}};
+    // The X axis of such a plane is the world's Y axis, and its Y axis is the world's Z axis.
+    const Imported straight = entities(Groups{{0, "LWPOLYLINE"}, {38, "5"}} + sideways + corners);
+    EXPECT_TRUE(straight.has("AcDb3dPolyline"));
+    EXPECT_TRUE(straight.has(R"({"point":[5,1,2]})"));
+    const Imported bent = entities(Groups{{0, "LWPOLYLINE"}} + sideways + corners + Groups{{42, "1"}});
+    EXPECT_EQ(bent.accounts.lost.size(), 1U);
+    EXPECT_EQ(entities(Groups{{0, "CIRCLE"}, {40, "1"}} + sideways).accounts.lost.size(), 1U);
+    const Groups nowhere{{210, "0"}, {220, "0"}, {230, "0"}};
+    EXPECT_EQ(entities(Groups{{0, "CIRCLE"}, {40, "1"}} + nowhere).accounts.imported.at("CIRCLE"), 1);
+}
+
+TEST(DxfBlocks, ComeBehindThoseThatTheyHold)
+{
+    const Imported result =
+        imported(asText(section("BLOCKS", block("Outer", insert("INNER")) + block("Inner", line("2F", "1"))) +
+                        section("ENTITIES", insert("outer"))));
+    ASSERT_EQ(result.actions.size(), 5U);
+    EXPECT_NE(result.actions[0].find("AcDbLine"), std::string::npos);
+    EXPECT_NE(result.actions[1].find(tag("Name", "\"Inner\"")), std::string::npos);
+    EXPECT_NE(result.actions[2].find(tag("Name", "\"Inner\"")), std::string::npos);
+    EXPECT_NE(result.actions[3].find(tag("Name", "\"Outer\"")), std::string::npos);
+    EXPECT_NE(result.actions[4].find("AcDbBlockReference"), std::string::npos);
+}
+
+TEST(DxfBlocks, ThatHoldThemselvesLoseOnlyThat)
+{
+    const Imported result = imported(asText(
+        section("BLOCKS", block("A", insert("B") + line("2F", "1")) + block("B", insert("A") + line("30", "2"))) +
+        section("ENTITIES", insert("A") + insert("Nowhere"))));
+    EXPECT_EQ(result.accounts.lost.at({"INSERT", "its block holds itself"}), 1);
+    EXPECT_EQ(result.accounts.lost.at({"INSERT", "there is no such block"}), 1);
+    EXPECT_EQ(result.accounts.imported.at("INSERT"), 2);
+    EXPECT_EQ(result.count("AcDbBlockTableRecord"), 2);
+}
+
+TEST(DxfBlocks, OfTheApplicationComeInWhenTheyAreInserted)
+{
+    const Imported result = imported(asText(
+        section("BLOCKS", block("*D1", line("2F", "1")) + block("*U1", line("30", "2")) + block("Anonymous_U1", {})) +
+        section("ENTITIES", insert("*U1"))));
+    EXPECT_EQ(result.accounts.imported.at("LINE"), 1);
+    EXPECT_TRUE(result.accounts.lost.empty());
+    EXPECT_EQ(result.count(tag("Name", "\"Anonymous_U1_2\"")), 2);
+}
+
+TEST(DxfBlocks, AsArraysAreWrittenOut)
+{
+    const auto array = [](const char* columns, const char* rows) {
+        return imported(
+            asText(section("BLOCKS", block("A", line("2F", "1"))) +
+                   section("ENTITIES", insert("A", {{50, "90"}, {70, columns}, {71, rows}, {44, "10"}, {45, "100"}}))));
+    };
+    const Imported six = array("3", "2");
+    EXPECT_EQ(six.count("AcDbBlockReference"), 6);
+    EXPECT_EQ(six.accounts.imported.at("INSERT"), 1);
+    // A quarter turn: columns go up, and rows to the left.
+    EXPECT_EQ(six.count(tag("Position X", "-99")) + six.count("\"Position X\",\"value\":-98.9999"), 3);
+    EXPECT_EQ(array("32767", "32767").accounts.lost.size(), 1U);
+    EXPECT_EQ(array("-5", "0").count("AcDbBlockReference"), 1);
+}
+
+TEST(DxfBlocks, HaveAttributesByTheirTags)
+{
+    const Groups definition{{0, "ATTDEF"}, {2, "Number"}, {10, "0"}, {20, "0"}, {40, "1"}, {70, "0"}};
+    const auto attribute = [](const char* name, const char* value) {
+        return Groups{{0, "ATTRIB"}, {8, "0"}, {2, name}, {1, value}};
+    };
+    // The end of the sequence is missing.
+    const Imported result = imported(asText(section("BLOCKS", block("A", definition)) +
+                                            section("ENTITIES", insert("A", {{66, "1"}}) + attribute("NUMBER", "7") +
+                                                                    attribute("Color", "red") + line("2F", "1"))));
+    EXPECT_TRUE(result.has(R"({"tag":"NUMBER","value":"7","group":"BlockAttributes"})"));
+    EXPECT_EQ(result.accounts.imported.at("ATTRIB"), 1);
+    EXPECT_EQ(result.accounts.lost.at({"ATTRIB", "the block defines no such attribute"}), 1);
+    EXPECT_EQ(result.accounts.imported.at("LINE"), 1);
+}
+
+TEST(DxfOptions, ChooseWhatComesIn)
+{
+    const std::string file = asText(section("BLOCKS", block("A", line("2F", "1"))) +
+                                    section("ENTITIES", line("30", "2") + Groups{{0, "POINT"}, {8, "Walls"}}));
+    EXPECT_TRUE(imported(file, {{"WALLS"}, false, 1e-6}).has("AcDbPoint"));
+    EXPECT_EQ(imported(file, {{"WALLS"}, false, 1e-6}).count("AcDbLine"), 1);
+    EXPECT_FALSE(imported(file, {{}, true, 1e-6}).has("AcDbPoint"));
+    EXPECT_TRUE(imported(file, {{}, true, 1e-6}).has("AcDbBlockTableRecord"));
+}
