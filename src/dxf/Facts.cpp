@@ -178,7 +178,7 @@ bool isPlainlySame(const DrawnObject& left, const DrawnObject& right)
 
 struct Key
 {
-    explicit Key(const Fact& fact) : tag(fact.tag), ownTag(fact.ownTag), index(fact.index) {}
+    explicit Key(const Fact& fact) : tag(fact.tag), ownTag(fact.ownTag.toQString().toLower()), index(fact.index) {}
     bool operator==(const Key&) const = default;
 
     std::string_view tag;
@@ -265,6 +265,12 @@ Comparison::Comparison(const ChangeForms& forms, Contents& before, Contents& aft
         add(answer, yesOrNo(false));
     add("Printable", yesOrNo(true));
     add("LineStyleGen", choice(1, "Disabled"));
+    add("Type", CFxString("Predefined"), "AcDbHatch");
+    for (const char* const origin : {"Origin X", "Origin Y"})
+        add(origin, 0.0);
+    add("On", choice(0, "Yes"));
+    add("Display locked", choice(1, "No"));
+    add("Shade print", choice(0, "As displayed"));
     add("TextStyle", standardName);
     if (standard)
         add("Style", around.textStyles.id("Standard"), "AcDbMText");
@@ -408,6 +414,26 @@ std::vector<CFxVariant> valuesOf(const CFxCustomActionData& datum, const OdDbHan
 
 } // namespace
 
+/// A window is given by its corners.
+void Comparison::takeViewport(const DrawnObject& object, FactList& facts)
+{
+    enum Corner
+    {
+        kFirst = 0,
+        kOpposite = 2,
+        kCorners = 4,
+    };
+    const OdArray<OdGePoint3d>& corners = object.custom.front().GetPointArray();
+    const bool isWindow = corners.length() == kCorners;
+    const OdGePoint3d first = isWindow ? corners[kFirst] : OdGePoint3d();
+    const OdGePoint3d opposite = isWindow ? corners[kOpposite] : OdGePoint3d();
+    facts.push_back({"Center X", (first.x + opposite.x) / 2});
+    facts.push_back({"Center Y", (first.y + opposite.y) / 2});
+    facts.push_back({"Center Z", (first.z + opposite.z) / 2});
+    facts.push_back({"Width", opposite.x - first.x});
+    facts.push_back({"Height", opposite.y - first.y});
+}
+
 void Comparison::takeCustom(const DrawnObject& object, FactList& facts)
 {
     for (std::size_t place = 0; place < object.custom.size(); ++place) {
@@ -525,6 +551,8 @@ void Comparison::take(const DrawnObject& object, Contents& contents, FactList& f
     if (object.making != DrawnObject::Making::Added) {
         if (object.customKind == kPolylineAction)
             takePolyline(object, facts);
+        else if (object.customKind == kViewportAction)
+            takeViewport(object, facts);
         else
             takeCustom(object, facts);
     }

@@ -64,6 +64,7 @@ private:
     void take(const DrawnObject& object, Contents& contents, FactList& facts);
     void take(const DrawnObject& object, const Property& property, FactList& facts);
     void takePolyline(const DrawnObject& object, FactList& facts);
+    void takeViewport(const DrawnObject& object, FactList& facts);
     void takeCustom(const DrawnObject& object, FactList& facts);
     void takeDrawing(const DrawnObject& object, Contents& contents, FactList& facts);
     void takeBlock(Contents& contents, FactList& facts);
