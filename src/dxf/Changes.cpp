@@ -251,8 +251,9 @@ void Changes::compareBlock(const Contents::Run& run)
         const Contents::Run runBefore{before_.drawing().entities(*before.block), found->second, {}};
         const Paired paired = pairing_->pair(itemsOf(before_, &runBefore), items);
         const bool isSameEntity = paired.gone.empty() && paired.come.empty() &&
-                                  std::all_of(paired.pairs.begin(), paired.pairs.end(),
-                                              [](const Pair& pair) { return pair.difference.isNone(); });
+                                  std::all_of(paired.pairs.begin(), paired.pairs.end(), [](const Pair& pair) {
+                                  return pair.difference.isNone() || pair.difference.lost;
+                              });
         if (isSameEntity && isSame(before.base, made.base) && before.description == made.description &&
             before.path == made.path) {
             for (const Pair& pair : paired.pairs)
@@ -268,7 +269,7 @@ void Changes::comparePlace(const Contents::Run* before, const Contents::Run* aft
 {
     const Paired paired = pairing_->pair(itemsOf(before_, before), itemsOf(after_, after));
     for (const Pair& pair : paired.pairs)
-        if (pair.difference.isNone())
+        if (pair.difference.isNone() || pair.difference.lost)
             noteSame(pair);
         else
             noteChanged(pair);
@@ -299,6 +300,8 @@ void Changes::draw(const Contents::Run& run, const std::vector<Item>& items, std
 
 void Changes::noteSame(const Pair& pair)
 {
+    if (pair.difference.lost)
+        return lose(*pair.after.entity, pair.after.parts, {pair.difference.lost});
     ++accounts_.since->unchanged[std::string(pair.after.entity->kind)];
     for (const Entity& part : pair.after.parts)
         if (part.kind == "ATTRIB")

@@ -42,8 +42,9 @@ struct Difference
     std::vector<Property> changes;   ///< that turn one into the other, with the values that there were
     std::vector<const char*> untold; ///< what no statement changes, and does not matter for the rest
     bool isOther = false;            ///< it takes another object; nothing is said of the changes then
+    const char* lost = nullptr;      ///< why no recording has either of them, when something differs
 
-    bool isNone() const { return !isOther && changes.empty(); }
+    bool isNone() const { return !isOther && changes.empty() && !lost; }
 };
 
 /// Compares objects of two drawings by their facts.

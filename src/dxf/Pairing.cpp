@@ -29,18 +29,19 @@ bool isSameValue(const Group& left, const Group& right)
 
 } // namespace
 
-void Pairing::read(Contents& contents, const Item& item, OdDbHandle handle, DrawnObject& object)
+const char* Pairing::read(Contents& contents, const Item& item, OdDbHandle handle, DrawnObject& object)
 {
     MadeHandles& made = contents.around().madeHandles;
     const std::size_t place = made.place();
     made.beginAgain();
+    const char* lost = nullptr;
     try {
         contents.readEntity(*item.entity, item.parts, handle, object);
-    } catch (const Lost&) {
-        made.goTo(place);
-        throw;
+    } catch (const Lost& why) {
+        lost = why.reason;
     }
     made.goTo(place);
+    return lost;
 }
 
 bool Pairing::isSameRaw(const Entity& before, const Entity& after)
@@ -77,22 +78,15 @@ bool Pairing::isSameRaw(const Item& before, const Item& after)
 Difference Pairing::difference(const Item& before, const Item& after)
 {
     const OdDbHandle handle(before.entity->handle);
-    bool isBeforeLost = false;
-    bool isAfterLost = false;
-    try {
-        read(before_, before, handle, was_);
-    } catch (const Lost&) {
-        isBeforeLost = true;
-    }
-    try {
-        read(after_, after, handle, is_);
-    } catch (const Lost&) {
-        isAfterLost = true;
-    }
-    if (!isBeforeLost && !isAfterLost)
+    const char* const lostBefore = read(before_, before, handle, was_);
+    const char* const lostAfter = read(after_, after, handle, is_);
+    if (!lostBefore && !lostAfter)
         return comparison_.difference(was_, is_);
     Difference difference;
-    difference.isOther = !isBeforeLost || !isAfterLost || !isSameRaw(before, after);
+    if (!lostBefore || !lostAfter)
+        difference.isOther = true;
+    else if (!isSameRaw(before, after))
+        difference.lost = lostAfter;
     return difference;
 }
 
@@ -109,12 +103,7 @@ std::uint64_t Pairing::rawHash(Contents& contents, const Item& item)
 
 std::uint64_t Pairing::hash(Contents& contents, const Item& item)
 {
-    try {
-        read(contents, item, {}, is_);
-        return comparison_.hash(is_, contents);
-    } catch (const Lost&) {
-        return rawHash(contents, item);
-    }
+    return read(contents, item, {}, is_) ? rawHash(contents, item) : comparison_.hash(is_, contents);
 }
 
 Pairing::Matches Pairing::match(Side& before, const Indexes& ofBefore, Side& after, const Indexes& ofAfter)

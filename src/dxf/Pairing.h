@@ -54,8 +54,8 @@ private:
         Indexes left;                      ///< the items that no other has the handle of
     };
 
-    /// Throws Lost, and leaves the numbers of made-up objects as they are.
-    void read(Contents& contents, const Item& item, OdDbHandle handle, DrawnObject& object);
+    /// Gives why it is lost, else null, and leaves the numbers of made-up objects as they are.
+    const char* read(Contents& contents, const Item& item, OdDbHandle handle, DrawnObject& object);
     std::uint64_t hash(Contents& contents, const Item& item);
     std::uint64_t rawHash(Contents& contents, const Item& item);
     bool isSameRaw(const Entity& before, const Entity& after);
