@@ -2,7 +2,8 @@
 // macros have the base name "recording" and so the same files around their statements: those of
 // tests/scenarios/project, and a macro whose head and foot are those of tests/scenarios/frames, by the place where the
 // recording began. There <statements> stands for the scenario's own file and <sheet> for the sheet that its recording
-// names. Apart from these only the ids of a COM project differ, which are numbered here.
+// names. Apart from these only the ids of a COM project differ, which are numbered here. A scenario with a folder
+// "repaired" is converted with --repair besides, for the statements alone.
 
 #include "module/CFxConverterIWAPI.h"
 #include "recordfile/OpenDrawing.h"
@@ -49,6 +50,7 @@ struct Scenario
     }
     /// These two are relative to the root.
     QString statements() const { return name + "/expected/" + macroOf(target()); }
+    QString repairedStatements() const { return name + "/repaired/" + macroOf(target()); }
     QString frame(bool inModel) const
     {
         return QString("frames/") + (inModel ? "model/" : "sheet/") + macroOf(target());
@@ -179,29 +181,61 @@ void numberIds(QMap<QString, QByteArray>& files)
     }
 }
 
+/// The files that the program writes for a recording.
+QMap<QString, QByteArray> converted(const Scenario& scenario, const QString& recording, const QStringList& options = {})
+{
+    const QString target = scenario.target();
+    const QTemporaryDir folder;
+    QProcess program;
+    program.start(INKMACRO_PROGRAM, QStringList{"convert", recording, "--target", target, "--output",
+                                                folder.filePath(target + '/' + scenario.macroOf("recording"))} +
+                                        options);
+    EXPECT_TRUE(program.waitForFinished(60'000));
+    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
+    auto written = filesBelow(folder.filePath(target));
+    if (target == "cppcom")
+        numberIds(written);
+    return written;
+}
+
 class Scenarios : public testing::TestWithParam<Scenario>
 {
 };
 
 TEST_P(Scenarios, GiveTheExpectedFiles)
 {
-    const QString target = GetParam().target();
-    const QTemporaryDir folder;
-    QProcess program;
-    program.start(INKMACRO_PROGRAM, {"convert", GetParam().recording(), "--target", target, "--output",
-                                     folder.filePath(target + '/' + GetParam().macroOf("recording"))});
-    ASSERT_TRUE(program.waitForFinished(60'000));
-    ASSERT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
-
     const auto expected = expectedFiles(GetParam());
-    auto written = filesBelow(folder.filePath(target));
-    if (target == "cppcom")
-        numberIds(written);
+    const auto written = converted(GetParam(), GetParam().recording());
     EXPECT_TRUE(expected.keys() == written.keys())
         << "written: " << QStringList(written.keys()).join(' ').toStdString();
     for (auto file = expected.begin(); file != expected.end(); ++file)
         EXPECT_TRUE(joined(file.value()) == written.value(file.key()))
             << file.key().toStdString() << ": " << difference(file.value(), written.value(file.key()));
+}
+
+class RepairedScenarios : public testing::TestWithParam<Scenario>
+{
+};
+
+/// Besides them a repaired macro is that of a recording of the same first line alone.
+TEST_P(RepairedScenarios, GiveTheExpectedStatements)
+{
+    const QString name = GetParam().repairedStatements();
+    QFile recording(GetParam().recording());
+    ASSERT_TRUE(recording.open(QIODevice::ReadOnly));
+    const QTemporaryDir folder;
+    QFile head(folder.filePath("recording.jsonl"));
+    ASSERT_TRUE(head.open(QIODevice::WriteOnly));
+    head.write(recording.readLine());
+    head.close();
+
+    const QString file = GetParam().macroOf("recording");
+    const QByteArray frame = converted(GetParam(), head.fileName(), {"--repair"})[file];
+    const QByteArray macro = converted(GetParam(), GetParam().recording(), {"--repair"})[file];
+    const QByteArray statements = contents(name);
+    const int at = macro.indexOf(statements);
+    EXPECT_TRUE(at >= 0 && macro.left(at) + macro.mid(at + statements.size()) == frame)
+        << difference({{name, 1, statements}}, macro.mid(macro.indexOf(statements.left(statements.indexOf('\n')))));
 }
 
 /// What is expected is read by somebody.
@@ -210,6 +244,7 @@ TEST(ScenarioFiles, HoldNothingElse)
     std::set<QString> read;
     for (const Scenario& scenario : scenarios()) {
         read.insert(QDir(root).relativeFilePath(scenario.recording()));
+        read.insert(scenario.repairedStatements());
         for (const Pieces& pieces : expectedFiles(scenario))
             for (const Piece& piece : pieces)
                 read.insert(piece.file);
@@ -218,8 +253,20 @@ TEST(ScenarioFiles, HoldNothingElse)
         EXPECT_TRUE(read.contains(name)) << name.toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Scenarios, testing::ValuesIn(scenarios()),
-                         [](const auto& info) { return (info.param.name + '_' + info.param.target()).toStdString(); });
+std::vector<Scenario> repairedScenarios()
+{
+    std::vector<Scenario> all = scenarios();
+    std::erase_if(all, [](const Scenario& scenario) { return !QDir(root + scenario.name + "/repaired").exists(); });
+    return all;
+}
+
+std::string nameOf(const testing::TestParamInfo<Scenario>& info)
+{
+    return (info.param.name + '_' + info.param.target()).toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Scenarios, testing::ValuesIn(scenarios()), nameOf);
+INSTANTIATE_TEST_SUITE_P(All, RepairedScenarios, testing::ValuesIn(repairedScenarios()), nameOf);
 
 /// Converts in this process, where the phrases tell which words were asked for, as if nothing had been converted in it.
 void convertHere(const Scenario& scenario)
@@ -252,6 +299,7 @@ const Unreachable unreachable[]{
     {"background: color by index", {Cpp, CppCom}, "only repaired macros keep the index of a color behind a view"},
     {"EmitCommandOptionInt32", everyTarget, "no option of a document is of that type"},
     {"EmitDeleteRows", everyTarget, "only repaired macros remove many lines at once"},
+    {"EmitRenameLayerOrGroup", {Cpp}, "only repaired macros rename a layer or a group in C++"},
     {"EmitSetModelProperty: other sheet", everyTarget, "only repaired macros leave a sheet as it is"},
     {"EmitSelectViewTile: declared tile", everyTarget, "only repaired macros give tiles to their variables"},
 };

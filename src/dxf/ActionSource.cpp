@@ -98,6 +98,7 @@ void ActionSource::importRecord(Contents& contents, const KindRow& table, const 
         if (!object_.properties.empty())
             recorder_.add(object_.cls, object_.handle, object_.properties);
         recorder_.change(object_.cls, object_.handle, object_.changes);
+        leaveOut(record);
     } catch (const Lost& lost) {
         accounts_.leaveOut(record.kind, lost.reason);
     }
@@ -123,6 +124,12 @@ void ActionSource::lose(const Entity& entity, std::span<const Entity> parts, con
             accounts_.lose(part.kind, "its reference is lost");
 }
 
+void ActionSource::leaveOut(const Entity& entity)
+{
+    for (const char* const what : object_.untold)
+        accounts_.leaveOut(entity.kind, what);
+}
+
 void ActionSource::draw(Drawing& drawing, const Entity& entity)
 {
     recorder_.draw(object_);
@@ -141,8 +148,7 @@ void ActionSource::draw(Drawing& drawing, const Entity& entity)
         else
             ++accounts_.imported[part.kind];
     }
-    for (const char* const what : object_.untold)
-        accounts_.leaveOut(entity.kind, what);
+    leaveOut(entity);
     for (const OdGePoint3d& place : object_.repeats) {
         object_.handle = OdDbHandle(drawing.newHandle());
         object_.moveTo(place);

@@ -48,6 +48,7 @@ protected:
 
 private:
     void draw(Drawing& drawing, const Entity& entity);
+    void leaveOut(const Entity& entity);
 
     std::vector<OdDbHandle> members_; ///< of the block that is being made
 };

@@ -12,6 +12,7 @@ Contents::Contents(Drawing& drawing, OdDbDatabase& ids, const ImportOptions& opt
     if (!around_.layers.find(QStringLiteral("0")))
         around_.layers.addUnlisted("0");
     around_.insertable = [this](std::string_view name) -> const Insertable& { return blocks_.insertable(name); };
+    around_.tolerance = options.tolerance;
     planRuns(options);
 }
 

@@ -35,6 +35,17 @@ public:
         return *this;
     }
 
+    /// An object of one key.
+    template<class Value>
+    DrawingLine& with(std::string_view key, std::string_view inner, const Value& value)
+    {
+        out_.key(key);
+        out_.beginObject();
+        with(inner, value);
+        out_.endObject();
+        return *this;
+    }
+
 private:
     QByteArray& lines_;
     recordfile::JsonOut out_{CFxValueContext{}};

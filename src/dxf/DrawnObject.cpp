@@ -41,9 +41,9 @@ CFxVariant handleList(const std::vector<OdDbHandle>& handles)
     return listOf(handles, [](const OdDbHandle& handle) { return CFxVariant(CFxString(handle.ascii())); });
 }
 
-CFxVariant choice(int number, const char* word)
+CFxVariant choice(int number, const CFxString& word)
 {
-    return CFxVariantCollectionElement(CFxVariant(number), CFxVariant(CFxString(word)));
+    return CFxVariantCollectionElement(CFxVariant(number), CFxVariant(word));
 }
 
 } // namespace inkmacro::dxf

@@ -106,6 +106,8 @@ struct Lost
 
 /// Of what can only stand upright or upside down.
 inline constexpr const char* kTilted = "its plane is tilted";
+/// Of texts.
+inline constexpr const char* kFromBehind = "it is seen from behind";
 
 // The forms of values that are more than one.
 
@@ -114,10 +116,15 @@ CFxVariant pointList(const std::vector<OdGePoint3d>& points);
 /// A list of handles, each with its number.
 CFxVariant handleList(const std::vector<OdDbHandle>& handles);
 /// What was chosen of several words.
-CFxVariant choice(int number, const char* word);
+CFxVariant choice(int number, const CFxString& word);
 inline CFxVariant yesOrNo(bool yes)
 {
     return CFxString(yes ? "Yes" : "No");
+}
+/// As an item, which a changed setting has.
+inline CFxVariant yesOrNoItem(bool yes)
+{
+    return yes ? choice(0, "Yes") : choice(1, "No");
 }
 
 } // namespace inkmacro::dxf

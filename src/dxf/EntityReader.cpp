@@ -9,6 +9,9 @@ namespace {
 
 constexpr int kEmbeddedObject = 101;
 constexpr int kFirstExtendedData = 1000;
+constexpr int kExtendedText = 1000;
+constexpr int kApplication = 1001;
+constexpr int kBrace = 1002;
 
 } // namespace
 
@@ -16,17 +19,38 @@ void EntityReader::read(const Entity& entity)
 {
     entity_ = &entity;
     groups_.clear();
-    hasExtendedData_ = false;
+    extendedData_.clear();
+    taken_ = 0;
     GroupReader groups = drawing_.groups(entity);
     Group group;
     while (groups.next(group)) {
         if (group.code == kEmbeddedObject)
             break;
         if (group.code >= kFirstExtendedData)
-            hasExtendedData_ = true;
+            extendedData_.push_back(group);
         else
             groups_.push_back(group);
     }
+}
+
+std::span<const Group> EntityReader::takeList(std::string_view application, std::string_view text)
+{
+    const std::span<const Group> data(extendedData_);
+    bool isOfIt = false;
+    for (std::size_t i = 0; i + 1 < data.size(); ++i) {
+        if (data[i].code == kApplication)
+            isOfIt = data[i].word() == application;
+        if (!isOfIt || !data[i].is(kExtendedText, text) || !data[i + 1].is(kBrace, "{"))
+            continue;
+        const std::size_t begin = i + 2;
+        std::size_t end = begin;
+        while (end < data.size() && !data[end].is(kBrace, "}"))
+            ++end;
+        const bool isFirst = data[i - 1].code == kApplication;
+        taken_ += std::min(end + 1, data.size()) - i + (isFirst ? 1 : 0);
+        return data.subspan(begin, end - begin);
+    }
+    return {};
 }
 
 const Group* EntityReader::find(int code) const
@@ -75,13 +99,14 @@ QString EntityReader::text(int code) const
 
 OdGePoint3d EntityReader::point(int code) const
 {
-    return {real(code), real(code + 10), real(code + 20)};
+    // The oldest files have one elevation for all points of an entity.
+    constexpr int elevation = 38;
+    return {real(code), real(code + 10), has(code + 20) ? real(code + 20) : real(elevation)};
 }
 
 OdGeVector3d EntityReader::vector(int code) const
 {
-    const OdGePoint3d end = point(code);
-    return {end.x, end.y, end.z};
+    return {real(code), real(code + 10), real(code + 20)};
 }
 
 double EntityReader::radians(int code, double otherwise) const

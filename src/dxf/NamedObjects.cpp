@@ -50,6 +50,14 @@ const NamedObjects::Named* NamedObjects::find(std::string_view bytes)
     return found ? &all_[found->index] : nullptr;
 }
 
+const NamedObjects::Named* NamedObjects::findHandle(quint64 handle)
+{
+    for (std::size_t i = byHandle_.size(); i < all_.size(); ++i)
+        byHandle_.emplace(all_[i].record ? all_[i].record->handle : all_[i].handle, i);
+    const auto found = byHandle_.find(handle);
+    return found == byHandle_.end() ? nullptr : &all_[found->second];
+}
+
 CFxVariant NamedObjects::id(std::string_view bytes)
 {
     const Found* const found = look(bytes);

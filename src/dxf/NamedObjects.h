@@ -3,6 +3,8 @@
 #include "dxf/Drawing.h"
 #include "host/db/OdDbDatabase.h"
 
+#include <QHash> // texts as keys of standard tables
+
 #include <unordered_map>
 
 namespace inkmacro::dxf {
@@ -26,6 +28,8 @@ public:
     /// Null for a name that there is not. The bytes are the file's.
     const Named* find(std::string_view bytes);
     const Named* find(const QString& name) const;
+    /// By a handle of the file; null for one that no record has.
+    const Named* findHandle(quint64 handle);
     /// The id of what the name stands for, as a value; null for none.
     CFxVariant id(std::string_view bytes);
     /// Takes one in that no table has, under a new handle.
@@ -49,7 +53,8 @@ private:
     Drawing& drawing_;
     OdDbDatabase& ids_;
     std::vector<Named> all_;
-    std::unordered_map<QString, std::size_t> byName_; ///< in small letters
+    std::unordered_map<QString, std::size_t> byName_;   ///< in small letters
+    std::unordered_map<quint64, std::size_t> byHandle_; ///< of those that have been looked through
     std::unordered_map<std::string_view, std::optional<Found>> byBytes_;
     std::pair<std::string_view, const Found*> last_{};
 };

@@ -43,7 +43,7 @@ void readEllipse(EntityReader& entity, Parts, Surroundings&, DrawnObject& object
 {
     // Center and axis are of the world, whatever the normal.
     const OdGeVector3d axis = entity.vector(11);
-    object.add("Center X", "Center Y", "Center Z", entity.point(10));
+    const OdGePoint3d center = entity.point(10);
     object.add("Major axis vector X", axis.x);
     object.add("Major axis vector Y", axis.y);
     object.add("Major axis vector Z", axis.z);
@@ -51,8 +51,12 @@ void readEllipse(EntityReader& entity, Parts, Surroundings&, DrawnObject& object
     if (!(major > 0))
         throw Lost{"its axis has no length"};
     const Direction direction = entity.direction();
-    if (direction.isTilted())
+    if (direction.isTilted() || axis.z != 0)
         throw Lost{kTilted};
+    // It is drawn in the plane of the world, and lifted then.
+    object.add("Center X", "Center Y", "Center Z", {center.x, center.y, 0});
+    if (center.z != 0)
+        object.change("Center Z", center.z);
     object.add("Minor radius", major * std::abs(entity.real(40, 1.0)));
     constexpr double turn = 2 * std::numbers::pi;
     double start = entity.real(41);

@@ -20,13 +20,19 @@ constexpr KindRow kRows[] = {
     {"XLINE", "AcDbXline", &readRay},
     {"LWPOLYLINE", "AcDbPolyline", &readLightPolyline},
     {"POLYLINE", "AcDbPolyline", &readPolyline},
+    {"SPLINE", "AcDbSpline", &readSpline},
     {"3DFACE", "AcDbFace", &readFace},
     {"SOLID", "AcDbSolid", &readSolid},
-    {"TRACE", "AcDbTrace", &readSolid},
+    {"TRACE", "AcDbSolid", &readSolid}, // no block takes a trace, and it draws the same,
     {"TEXT", "AcDbText", &readText},
     {"MTEXT", "AcDbMText", &readParagraphs},
     {"ATTDEF", "AcDbAttributeDefinition", &readAttributeDefinition},
     {"INSERT", "AcDbBlockReference", &readInsert},
+    {"DIMENSION", "AcDbRotatedDimension", &readDimension, true},
+    {"ARC_DIMENSION", "AcDbArcDimension", &readArcDimension, true},
+    {"LARGE_RADIAL_DIMENSION", "AcDbRadialDimensionLarge", &readJoggedDimension, true},
+    {"LEADER", "AcDbLeader", &readLeader},
+    {"TOLERANCE", "AcDbFcf", &readTolerance},
 };
 
 /// A color number, or the red, green and blue of a true color.
@@ -93,8 +99,13 @@ void takeGeneral(const EntityReader& entity, Surroundings& around, DrawnObject& 
     constexpr qint64 weightByLayer = -1;
     if (const qint64 weight = entity.integer(370, weightByLayer); weight != weightByLayer)
         add("LineWeight", static_cast<std::int32_t>(weight));
-    if (const double thickness = entity.real(39); thickness != 0.0)
-        add("Thickness", thickness);
+    if (const double thickness = entity.real(39); thickness != 0.0) {
+        const Direction direction = entity.direction();
+        if (direction.isTilted())
+            object.untold.push_back("a thickness that does not go up");
+        else
+            add("Thickness", direction.isDown() ? -thickness : thickness);
+    }
     if (const std::optional<OdCmTransparency> transparency = transparencyOf(entity))
         object.change("Transparency", *transparency);
     if (entity.integer(60) == 1)

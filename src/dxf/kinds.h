@@ -48,6 +48,7 @@ struct Surroundings
           lineStyles(drawing, ids, "LTYPE"),
           textStyles(drawing, ids, "STYLE"),
           dimensionStyles(drawing, ids, "DIMSTYLE"),
+          blockRecords(drawing, ids, "BLOCK_RECORD"),
           madeHandles(drawing)
     {
     }
@@ -61,6 +62,7 @@ struct Surroundings
     NamedObjects lineStyles;
     NamedObjects textStyles;
     NamedObjects dimensionStyles;
+    NamedObjects blockRecords;
     /// The block that can be inserted where the entity stands. Throws Lost.
     std::function<const Insertable&(std::string_view name)> insertable;
     /// For what an entity is made from: the same ones again when it is read again.

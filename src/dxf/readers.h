@@ -22,6 +22,15 @@ void readSolid(EntityReader& entity, Parts parts, Surroundings& around, DrawnObj
 void readText(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
 void readParagraphs(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
 void readAttributeDefinition(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+void readDimension(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+void readArcDimension(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+void readJoggedDimension(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+void readLeader(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+void readTolerance(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
 void readInsert(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+
+// Records of tables.
+
+void readDimensionStyle(EntityReader& record, Parts parts, Surroundings& around, DrawnObject& object);
 
 } // namespace inkmacro::dxf

@@ -118,6 +118,7 @@ constexpr KindRow kTables[] = {
     {"LTYPE", "AcDbLinetypeTableRecord", &readLineStyle},
     {"LAYER", "AcDbLayerTableRecord", &readLayer},
     {"STYLE", "AcDbTextStyleTableRecord", &readTextStyle},
+    {"DIMSTYLE", "AcDbDimStyleTableRecord", &readDimensionStyle},
 };
 
 } // namespace

@@ -34,8 +34,6 @@ CFxVariant offered(const char* word)
     return choice(number, word);
 }
 
-constexpr const char* kFromBehind = "it is seen from behind";
-
 enum TextFlag : qint64
 {
     kBackward = 2,

@@ -227,7 +227,7 @@ Statement setStyleCenterMark(const Change& change)
 /// Statements that follow find it by that name.
 Statement renamed(const Change& change, const CFxString& name, Statement statement)
 {
-    if (change.writer.repairs)
+    if (change.writer.repairs && !statement.isEmpty())
         change.writer.newNames.insert_or_assign(change.object.handle, name);
     return statement;
 }
@@ -247,7 +247,10 @@ CFxString integerWord(const Change& change)
 
 Statement renameRichLineStyle(const Change& change, const CFxString& name)
 {
-    return renamed(change, name, EmitRenameRichLineStyle(change.writer, change.target, name));
+    const bool isLayerOrGroup = change.object.cls != OdDbMlineStyle::desc();
+    return renamed(change, name,
+                   isLayerOrGroup ? EmitRenameLayerOrGroup(change.writer, change.target, name)
+                                  : EmitRenameRichLineStyle(change.writer, change.target, name));
 }
 
 Statement setYes(const Change& change, const CFxString& word)

@@ -22,6 +22,9 @@ import expected
 import recorded
 
 
+AGAIN = (drawings.normals, drawings.polylines, drawings.curves, drawings.hatches)
+
+
 def each(change):
     """An edit of all entities of model space that take it."""
     def edit(doc):
@@ -45,7 +48,7 @@ def setting(**attributes):
     return each(change)
 
 
-def on_layer(change):
+def on_layers(change):
     return lambda doc: [change(layer) for layer in doc.layers if layer.dxf.name != "0"]
 
 
@@ -65,10 +68,6 @@ def edited_block(doc):
     block = doc.blocks.get("Inner")
     block.add_line((0, 0), (7, 7))
     block.delete_entity(block[0])
-
-
-def rename_layer(doc):
-    doc.layers.get("Dashes").rename("Strokes")
 
 
 def reversed_order(doc):
@@ -109,20 +108,22 @@ EDITS = {
     "moved": each(lambda e: e.translate(1, 2, 3)), "turned": each(lambda e: e.rotate_z(0.3)),
     "scaled": each(lambda e: e.scale(2, 2, 2)), "mirrored": each(lambda e: e.transform(Matrix44.scale(-1, 1, 1))),
     "colored": setting(color=3), "colored truly": setting(true_color=0x112233), "layered": setting(layer="Locked"),
-    "on a new layer": setting(layer="New one"), "lined": setting(linetype="DASHES", ltscale=3.5), "weighed": setting(lineweight=30),
-    "thicker": setting(thickness=5), "closed": setting(flags=lambda flags: flags ^ 1), "named": setting(text=lambda t: t + " new"),
-    "tagged": setting(tag="OTHER", prompt="Which?"), "higher": setting(height=lambda h: h * 2, char_height=lambda h: h * 2),
-    "turned texts": setting(rotation=lambda r: (r or 0) + 15), "other block": setting(name="Empty"),
-    "wide": setting(const_width=0.75), "raised": setting(elevation=lambda old: Vec3(0, 0, 9) if isinstance(old, Vec3) else 9), "attached": setting(attachment_point=5),
-    "longer": each(longer), "dashed fill": setting(pattern_name="ANSI37", pattern_scale=3),
+    "on a new layer": setting(layer="New one"), "lined": setting(linetype="DASHES", ltscale=3.5),
+    "weighed": setting(lineweight=30), "thicker": setting(thickness=5), "closed": setting(flags=lambda old: old ^ 1),
+    "named": setting(text=lambda text: text + " new"), "tagged": setting(tag="OTHER", prompt="Which?"),
+    "higher": setting(height=lambda h: h * 2, char_height=lambda h: h * 2), "attached": setting(attachment_point=5),
+    "turned texts": setting(rotation=lambda degrees: (degrees or 0) + 15), "other block": setting(name="Empty"),
+    "raised": setting(elevation=lambda old: Vec3(0, 0, 9) if isinstance(old, Vec3) else 9), "longer": each(longer),
+    "wide": setting(const_width=0.75), "dashed fill": setting(pattern_name="ANSI37", pattern_scale=3),
     "radius": setting(radius=lambda r: r + 1), "short arcs": setting(start_angle=10, end_angle=100),
-    "edges": setting(invisible=5), "erased": erase(1), "half erased": erase(2), "drawn again": lambda doc: [
-        topic(doc.modelspace()) for topic in (drawings.normals, drawings.polylines, drawings.curves, drawings.hatches)],
-    "block": edited_block, "new block": lambda doc: doc.blocks.new("Later").add_line((0, 0), (1, 1)), "layer's name": rename_layer,
-    "layers' color": on_layer(lambda one: one.dxf.set("color", 5)), "layers off": on_layer(lambda one: one.off()),
-    "layers on": on_layer(lambda one: one.on()), "layers frozen": on_layer(lambda one: one.freeze()),
-    "layers locked": on_layer(lambda one: one.lock()), "layers unlocked": on_layer(lambda one: one.unlock()),
-    "new layer": lambda doc: doc.layers.add("Later", color=3), "attributes": attribute_texts,
+    "edges": setting(invisible=5), "attributes": attribute_texts, "erased": erase(1), "half erased": erase(2),
+    "drawn again": lambda doc: [topic(doc.modelspace()) for topic in drawings.TOPICS if topic in AGAIN],
+    "block": edited_block, "new block": lambda doc: doc.blocks.new("Later").add_line((0, 0), (1, 1)),
+    "new layer": lambda doc: doc.layers.add("Later", color=3),
+    "layer's name": lambda doc: doc.layers.get("Dashes").rename("Strokes"),
+    "layers' color": on_layers(lambda one: one.dxf.set("color", 5)), "layers off": on_layers(lambda one: one.off()),
+    "layers on": on_layers(lambda one: one.on()), "layers frozen": on_layers(lambda one: one.freeze()),
+    "layers locked": on_layers(lambda one: one.lock()), "layers unlocked": on_layers(lambda one: one.unlock()),
 }
 # What draws the same, or has no statement.
 SAME = {
@@ -153,8 +154,9 @@ def apart(run, new):
             else:
                 own = [why for why, (other, _) in zip(off, left[cls]) if other == handle]
                 yield f"{space}: {cls} {handle} does not come out: {(own or off)[:1]}"
+        gone = [(cls, handle) for cls, rest in left.items() for handle, _ in rest]
         if space in new_spaces or not space.startswith("block "):
-            yield from (f"{space}: {cls} {handle} should be gone" for cls, rest in left.items() for handle, _ in rest[:3])
+            yield from (f"{space}: {cls} {handle} should be gone" for cls, handle in gone)
     for (cls, name), one in new_tables.items():
         other = tables.get((cls, name))
         tags = set(one.properties) - {"Name", "Objects"} if cls == "AcDbLayerTableRecord" else ()
@@ -196,8 +198,8 @@ def main():
         if (run.actions > 0) == (name in SAME):
             complaints.append(f"{name}: {run.actions} actions")
         off = list(apart(run, recorded.Recording(after))) if name in EDITS else []
-        off += [f"{one['tag']} changes from {one['old']} to the same" if "old" in one else f"{one['tag']} has no old value"
-                for one in records(change) if one["tag"] != "Erased" and one.get("old") in (None, one["value"])]
+        off += [f"{one['tag']} goes from {one.get('old')} to {one['value']}" for one in records(change)
+                if one["tag"] != "Erased" and ("old" not in one or one["old"] == one["value"])]
         complaints += [f"{name}: {one}" for one in off[:5]] + [f"{name}: and {len(off) - 5} more"] * (len(off) > 5)
     harness.finish(complaints, f"{len(EDITS)} edits, {changes} actions")
 

@@ -9,7 +9,6 @@ import io
 import math
 import pathlib
 import re
-import struct
 import sys
 
 import ezdxf
@@ -25,7 +24,7 @@ ARCS = ((0, 0, 0.5), (4, 0, 0), (4, 3, -1.5), (0, 3, 1))
 @dataclasses.dataclass(frozen=True)
 class Drawing:
     """A file of the corpus. What ezdxf finds in `twin` (without one: in the file itself) is what is in it; of a `cut`
-    file the first entities are, and of a `torn` one some. `sections` is false where there is nothing to read."""
+    file the first entities are, of a `torn` one some; where there is `nothing`, it is no drawing."""
     path: pathlib.Path
     twin: object = None  # a file, or a drawing of ezdxf
     rule: str = "whole"
@@ -46,7 +45,8 @@ def turned(m, **normal):
     m.add_solid([(x, y, 2) for x, y in SQUARE], dxfattribs=normal)
     m.add_trace([(x, y, 2) for x, y in SQUARE[:3]], dxfattribs=normal)
     m.add_text("seen", height=2, rotation=30, dxfattribs={"insert": (5, 3, 2), **normal})
-    m.add_text("seen", height=2, rotation=30, dxfattribs=normal).set_placement((5, 3), align=TextEntityAlignment.TOP_RIGHT)
+    aligned = m.add_text("seen", height=2, rotation=30, dxfattribs=normal)
+    aligned.set_placement((5, 3), align=TextEntityAlignment.TOP_RIGHT)
     m.add_polyline2d(SQUARE, close=True, dxfattribs={"elevation": (0, 0, 2), **normal})
     m.add_polyline2d(ARCS, format="xyb", dxfattribs={"elevation": (0, 0, 2), **normal})
     m.add_blockref("PART", (5, 3, 2), dxfattribs={"xscale": 2, "yscale": 3, "zscale": 4, "rotation": 30, **normal})
@@ -57,9 +57,8 @@ def turned(m, **normal):
         m.add_lwpolyline(ARCS, format="xyb", close=True, dxfattribs={"elevation": 2, **normal})
         m.add_lwpolyline([(0, 0, 1, 2), (4, 0, 0, 1), (4, 3, 2, 2)], format="xyse", dxfattribs=normal)
         m.add_ellipse((5, 3, 2), perpendicular(normal), 0.5, 0.5, 4, dxfattribs=normal)
-        m.add_mtext("seen", dxfattribs={"insert": (5, 3, 2), "char_height": 2, "text_direction": (0.6, 0.8, 0), **normal})
-        hatch = m.add_hatch(dxfattribs={"elevation": (0, 0, 2), **normal})
-        hatch.paths.add_polyline_path(ARCS)
+        m.add_mtext("seen", dxfattribs={"insert": (5, 3, 2), "text_direction": (0.6, 0.8, 0), **normal})
+        m.add_hatch(dxfattribs={"elevation": (0, 0, 2), **normal}).paths.add_polyline_path(ARCS)
 
 
 def perpendicular(normal):
@@ -138,7 +137,7 @@ def polylines(m):
     if m.doc.dxfversion == "AC1009":
         return
     for flags, width in ((0, 0), (1, 0), (128, 2.5), (1, 2.5)):
-        m.add_lwpolyline(SQUARE, dxfattribs={"flags": flags, "elevation": 7, **({"const_width": width} if width else {})})
+        m.add_lwpolyline(SQUARE, dxfattribs={"flags": flags, "elevation": 7, "const_width": width})
         m.add_lwpolyline(ARCS, format="xyb", dxfattribs={"flags": flags, "thickness": 1})
         m.add_lwpolyline([(0, 0, 1, 2, 0), (4, 0, 2, 3, 0.5), (4, 3, 0, 0, 1)], dxfattribs={"flags": flags})
     m.add_lwpolyline([(1, 1)])
@@ -192,8 +191,7 @@ def blocks(m):
     doc.add_xref_def("site/plan of ground.dwg", "SITE")
     m.add_blockref("SITE", (7, 7))
     if doc.dxfversion > "AC1009":
-        hatch = inner.add_hatch(color=2)
-        hatch.paths.add_polyline_path(SQUARE)
+        inner.add_hatch(color=2).paths.add_polyline_path(SQUARE)
 
 
 def hatches(m):
@@ -282,14 +280,15 @@ def rare(m):
 
 # What no call of ezdxf draws.
 RARE_TEXT = """\
-0\nLARGE_RADIAL_DIMENSION\n5\nFA01\n100\nAcDbEntity\n8\n0\n100\nAcDbDimension\n10\n1.0\n20\n2.0\n30\n0.0\n11\n3.0\n21\n3.0
-31\n0.0\n70\n41\n3\nStandard\n100\nAcDbRadialDimensionLarge\n13\n6.0\n23\n1.0\n33\n0.0\n14\n5.0\n24\n2.0\n34\n0.0\n15\n8.0
-25\n9.0\n35\n0.0\n40\n0.7
-0\nACAD_PROXY_ENTITY\n5\nFA02\n100\nAcDbEntity\n8\n0\n100\nAcDbProxyEntity\n90\n498\n91\n500\n92\n16\n310\n0102030405060708
-0\nACAD_TABLE\n5\nFA03\n100\nAcDbEntity\n8\n0\n100\nAcDbBlockReference\n2\nPART\n10\n1.0\n20\n1.0\n30\n0.0\n100\nAcDbTable
-91\n1\n92\n1\n141\n2.0\n142\n9.0\n171\n1\n301\nCELL_VALUE\n93\n6\n90\n4\n1\ncell\n304\nACVALUE_END
-0\nOLE2FRAME\n5\nFA04\n100\nAcDbEntity\n8\n0\n100\nAcDbOle2Frame\n70\n2\n3\nPaint\n10\n1.0\n20\n5.0\n30\n0.0\n11\n4.0\n21\n1.0\n31\n0.0
-71\n2\n72\n0\n90\n4\n310\nCAFEBABE\n1\nOLE
+0\nLARGE_RADIAL_DIMENSION\n5\nFA01\n100\nAcDbEntity\n8\n0\n100\nAcDbDimension\n10\n1.0\n20\n2.0\n30\n0.0\n11\n3.0
+21\n3.0\n31\n0.0\n70\n41\n3\nStandard\n100\nAcDbRadialDimensionLarge\n13\n6.0\n23\n1.0\n33\n0.0\n14\n5.0\n24\n2.0
+34\n0.0\n15\n8.0\n25\n9.0\n35\n0.0\n40\n0.7
+0\nACAD_PROXY_ENTITY\n5\nFA02\n100\nAcDbEntity\n8\n0\n100\nAcDbProxyEntity\n90\n498
+91\n500\n92\n16\n310\n0102030405060708
+0\nACAD_TABLE\n5\nFA03\n100\nAcDbEntity\n8\n0\n100\nAcDbBlockReference\n2\nPART\n10\n1.0\n20\n1.0\n30\n0.0
+100\nAcDbTable\n91\n1\n92\n1\n141\n2.0\n142\n9.0\n171\n1\n301\nCELL_VALUE\n93\n6\n90\n4\n1\ncell\n304\nACVALUE_END
+0\nOLE2FRAME\n5\nFA04\n100\nAcDbEntity\n8\n0\n100\nAcDbOle2Frame\n70\n2\n3\nPaint\n10\n1.0\n20\n5.0\n30\n0.0
+11\n4.0\n21\n1.0\n31\n0.0\n71\n2\n72\n0\n90\n4\n310\nCAFEBABE\n1\nOLE
 0\nMADE_UP_KIND\n5\nFA05\n8\n0\n40\n1.0\n0\nMADE_UP_KIND\n5\nFA06
 """
 
@@ -346,14 +345,15 @@ def cyclic():
 
 # Of texts before the seventh version of 2000, by what the header calls their encoding: its name in Python, and letters.
 CODE_PAGES = {
-    "ANSI_1252": ("cp1252", "Größe – 5 €"), "ansi_1251": ("cp1251", "План этажа"), "dos932": ("cp932", "表示ソ能十 ﾊﾝｶｸ"),
-    "ANSI_936": ("gbk", "平面图"), "ANSI_949": ("cp949", "평면도"), "big5": ("big5", "功許蓋"), "DOS850": ("cp850", "Größe ½ ×"),
-    "MAC-ROMAN": ("mac_roman", "Größe – ∞"), "iso8859-2": ("iso8859_2", "Příčka"), "ASCII": ("cp1252", "é"), "": ("cp1252", "Größe €"),
+    "ANSI_1252": ("cp1252", "Größe – 5 €"), "ansi_1251": ("cp1251", "План этажа"), "ANSI_936": ("gbk", "平面图"),
+    "dos932": ("cp932", "表示ソ能十 ﾊﾝｶｸ"), "ANSI_949": ("cp949", "평면도"), "big5": ("big5", "功許蓋"),
+    "DOS850": ("cp850", "Größe ½ ×"), "MAC-ROMAN": ("mac_roman", "Größe – ∞"), "iso8859-2": ("iso8859_2", "Příčka"),
+    "ASCII": ("cp1252", "é"), "": ("cp1252", "Größe €"),
 }
 # What is written, and what it says.
 ESCAPES = {
-    r"\U+00D8 \U+20AC": "Ø €", r"\u+00d8": "Ø", r"\U+D83D\U+DE00": "\U0001F600", r"\U+12": r"\U+12", r"\U+D83D x": "\ufffd x",
-    r"\M+18341\M+5B0A1": "ア啊", "tab^Ihere": "tab\there", "hat^ here": "hat^here",
+    r"\U+00D8 \U+20AC": "Ø €", r"\u+00d8": "Ø", r"\U+D83D\U+DE00": "\U0001F600", r"\U+12": r"\U+12",
+    r"\U+D83D x": "\ufffd x", r"\M+18341\M+5B0A1": "ア啊", "tab^Ihere": "tab\there", "hat^ here": "hat^here",
 }
 
 
@@ -382,17 +382,6 @@ def encoded():
         yield f"escapes_{version}.dxf", text.encode(), with_texts(version, list(ESCAPES.values()))
     text = text_of(with_texts("R2010", ["plain", "no UTF-8: @"])).encode().replace(b"@", b"\xe9")
     yield "no_utf8.dxf", text, with_texts("R2010", ["plain", "no UTF-8: \ufffd"])
-
-
-def binary(groups):
-    """Binary DXF of R12 from its text, with two bytes for group codes as its successors have."""
-    lines = groups.splitlines()
-    out = [b"AutoCAD Binary DXF\r\n\x1a\0"]
-    for code, value in zip(map(int, lines[::2]), lines[1::2]):
-        form = "<d" if 10 <= code < 60 or 1010 <= code < 1060 else "<h" if 60 <= code < 80 or 1060 <= code < 1071 else None
-        number = float(value) if form == "<d" else int(value) if form else value
-        out.append(struct.pack("<H", code) + (struct.pack(form, number) if form else value.encode() + b"\0"))
-    return b"".join(out)
 
 
 HANDLE = re.compile(r"(?m)(?<!\$HANDSEED\n)^(  5|105)\n([0-9A-F]+)\n")
@@ -484,14 +473,14 @@ def make(folder):
     yield whole
     for name, change in HARMLESS.items():
         yield file(f"{name}.dxf", change(text), whole.path)
-    yield file("wide_codes_binary.dxf", binary(text), whole.path)
     for name, change in TORN.items():
         yield file(f"torn_{name}.dxf", change(text), whole.path, "torn")
     content = text.encode()
     ezdxf.readfile(whole.path).saveas(folder / "simple_binary.dxf", fmt="bin")
     short = folder.joinpath("simple_binary.dxf").read_bytes()
     yield Drawing(folder / "simple_binary.dxf")
-    for name, bytes_, start in (("text", content, content.index(b"ENTITIES")), ("binary", short, short.index(b"ENTITIES"))):
+    for name, bytes_ in (("text", content), ("binary", short)):
+        start = bytes_.index(b"ENTITIES")
         step = (len(bytes_) - start) // 12
         for offset in range(start + 9, len(bytes_), step):
             begun = re.findall(rb"[\n\0](LINE|POLYLINE|INSERT|CIRCLE|TEXT)[\n\0]", bytes_[start:offset])
@@ -499,11 +488,10 @@ def make(folder):
         yield file(f"cut_{name}_early.dxf", bytes_[:len(bytes_) // 4], whole.path, "cut")
 
     for name, (count, topic) in LYING.items():
-        text = text_of(new("R2010", topic))
-        true = file(f"true_{name}.dxf", text)
+        head, entities = text_of(new("R2010", topic)).split("  2\nENTITIES")
         for lie in (0, 2147483647, -1):
-            start = text.index("  2\nENTITIES")
-            yield file(f"lying_{name}_{lie}.dxf", text[:start] + re.sub(count, rf"\g<1>{lie}", text[start:]), true.path, "torn")
+            lying = head + "  2\nENTITIES" + re.sub(count, rf"\g<1>{lie}", entities)
+            yield file(f"lying_{name}_{lie}.dxf", lying, folder / f"{topic.__name__}.dxf", "torn")
     yield file("cycles.dxf", text_of(cyclic()))
     yield file("nested.dxf", text_of(nested(1800)))
     for version in ("", "AC1.2", "AC1.40", "AC2.10", "AC1002", "AC1004", "AC1006"):
@@ -511,8 +499,9 @@ def make(folder):
         yield file(f"old_{version or 'unnamed'}.dxf", header + OLD, old_twin())
     repeat = "0\nREPEAT\n8\n0\n10\n1.0\n20\n1.0\n70\n3\n71\n2\n0\nENDREP\n8\n0\n"
     yield file("old_repeat.dxf", OLD.replace("0\nENDSEC", repeat + "0\nENDSEC"), old_twin(), "torn")
-    for name, content in (("empty", b""), ("words", b"no drawing\n" * 9), ("zeros", bytes(4000)), ("eof", b"  0\nEOF\n"),
-                          ("mark", b"\xef\xbb\xbf"), ("sentinel", short[:22]), ("picture", b"\x89PNG\r\n\x1a\n" + bytes(99))):
+    for name, content in (("empty", b""), ("words", b"no drawing\n" * 9), ("zeros", bytes(4000)),
+                          ("end", b"  0\nEOF\n"), ("mark", b"\xef\xbb\xbf"), ("sentinel", short[:22]),
+                          ("picture", b"\x89PNG\r\n\x1a\n" + bytes(99))):
         yield file(f"nothing_{name}.dxf", content, None, "nothing")
 
 

@@ -1,12 +1,18 @@
 """What ezdxf reads in a DXF drawing, in the forms that recorded.py gives what a recording draws."""
 
 import math
+import re
 
 from ezdxf.math import OCS, Vec3
 
 import recorded
 
 NEAR = 1e-9
+
+
+def said(text):
+    """Letters may be written as numbers, in versions too where ezdxf leaves them so."""
+    return re.sub(r"\\U\+([0-9A-Fa-f]{4})", lambda found: chr(int(found[1], 16)), text)
 
 
 def plane(entity):
@@ -23,16 +29,13 @@ def turned(ocs, degrees):
     return ocs.to_wcs(Vec3.from_deg_angle(degrees))
 
 
-def thickness(entity, ocs):
-    return entity.dxf.get("thickness", 0) * level(ocs) if level(ocs) else None
-
-
 def text(entity, ocs):
     align, *points = entity.get_placement()
     justify = align.name.replace("_", " ").title()
     first, second = (point and ocs.to_wcs(point) for point in points)
     return {"position": first if second or justify == "Left" else None,
-            "aligned at": (second or first) if justify != "Left" else None, "height": entity.dxf.height, "justify": justify,
+            "aligned at": (second or first) if justify != "Left" else None,
+            "height": entity.dxf.height, "justify": justify,
             "direction": turned(ocs, entity.dxf.rotation) if justify not in ("Aligned", "Fit") else None}
 
 
@@ -40,17 +43,17 @@ def polyline(ocs, points, closed, elevation=0):
     """Of vertices with their widths and bulges."""
     return {"vertices": [ocs.to_wcs((x, y, elevation)) for x, y, *_ in points], "closed": closed,
             "bulges": [bulge * (level(ocs) or 1) for *_, bulge in points],
-            "widths": [[start for _, _, start, _, _ in points], [end for _, _, _, end, _ in points]] if level(ocs) else None}
+            "widths": [[one[2] for one in points], [one[3] for one in points]] if level(ocs) else None}
 
 
 def lwpolyline(e, ocs):
     width = e.dxf.get("const_width", 0)
-    return "Polyline", polyline(ocs, [(x, y, start or width, end or width, bulge) for x, y, start, end, bulge in e], e.closed,
-                                e.dxf.elevation)
+    points = [(x, y, start or width, end or width, bulge) for x, y, start, end, bulge in e]
+    return "Polyline", polyline(ocs, points, e.closed, e.dxf.elevation)
 
 
 def old_polyline(e, ocs):
-    drawn = [one for one in e.vertices if not one.dxf.flags & 16] if e.is_2d_polyline or e.is_3d_polyline else e.vertices
+    drawn = [one for one in e.vertices if not (e.is_2d_polyline or e.is_3d_polyline) or not one.dxf.flags & 16]
     places = [one.dxf.location for one in drawn]
     if e.is_2d_polyline:
         points = [(one.x, one.y, vertex.dxf.get("start_width", e.dxf.default_start_width),
@@ -73,7 +76,7 @@ def arc(e, ocs):
         start, end = 180 - end, 180 - start
     center = ocs.to_wcs(e.dxf.center)
     return "Arc", {"arc": recorded.arc(center, e.dxf.radius, math.radians(start), math.radians(end)),
-                   "turned": None if level(ocs) else "lost"}
+                   **tilted(ocs)}
 
 
 def ellipse(e, _):
@@ -82,8 +85,9 @@ def ellipse(e, _):
     if level(plane(e)) < 0:
         start, end = -end, -start
     whole = abs((end - start) % math.tau) < 1e-12
-    return "Ellipse", {"center": e.dxf.center, "major": e.dxf.major_axis, "minor": e.dxf.major_axis.magnitude * e.dxf.ratio,
-                       "whole": whole, "range": None if whole else [recorded.direction(one) for one in (start, end)],
+    return "Ellipse", {"center": e.dxf.center, "major": e.dxf.major_axis,
+                       "minor": e.dxf.major_axis.magnitude * e.dxf.ratio, "whole": whole,
+                       "range": None if whole else [recorded.direction(one) for one in (start, end)],
                        "turned": None if level(plane(e)) or axis.z > 0 else "lost"}
 
 
@@ -97,7 +101,7 @@ def attributes(e):
     """Those that its block defines; others have no statement."""
     block = e.block()
     tags = {one.dxf.tag.upper() for one in block.query("ATTDEF")} if block else ()
-    return {one.dxf.tag: one.dxf.text for one in e.attribs if one.dxf.tag.upper() in tags}
+    return {one.dxf.tag: said(one.dxf.text) for one in e.attribs if one.dxf.tag.upper() in tags}
 
 
 def insert(e, _):
@@ -106,8 +110,8 @@ def insert(e, _):
         ocs = plane(one)
         spread = [ocs.to_wcs(axis * one.dxf.get(f"{name}scale", 1)) for name, axis in zip("xyz", (
             Vec3.from_deg_angle(one.dxf.rotation), Vec3.from_deg_angle(one.dxf.rotation + 90), Vec3(0, 0, 1)))]
-        forms.append({"name": block_name(one.dxf.get("name", "")), "position": ocs.to_wcs(one.dxf.insert), "axes": spread,
-                      "attributes": attributes(e)})
+        forms.append({"name": block_name(one.dxf.get("name", "")), "position": ocs.to_wcs(one.dxf.insert),
+                      "axes": spread, "attributes": attributes(e)})
     return "BlockReference", *forms
 
 
@@ -121,8 +125,8 @@ def dimension(e, _):
                                               "xLine2End": point(0), "arcPoint": point(5)}),
         3: lambda: ("DiametricDimension", {"chordPoint": point(4), "farChordPoint": point(0)}),
         4: lambda: ("RadialDimension", {"center": point(0), "chordPoint": point(4)}),
-        5: lambda: ("3PointAngularDimension", {"centerPoint": point(4), "xLine1Point": point(2), "xLine2Point": point(3),
-                                               "arcPoint": point(0)}),
+        5: lambda: ("3PointAngularDimension", {"centerPoint": point(4), "xLine1Point": point(2),
+                                               "xLine2Point": point(3), "arcPoint": point(0)}),
         6: lambda: ("OrdinateDimension", {"definingPoint": point(2), "leaderEndPoint": point(3),
                                           "x": int(bool(e.dxf.dimtype & 64))}),
         8: lambda: ("ArcDimension", {"xLine1Point": point(2), "xLine2Point": point(3), "arcPoint": point(0)}),
@@ -136,15 +140,16 @@ def hatch(e, ocs):
     at = lambda point: ocs.to_wcs(Vec3(point).replace(z=height))  # noqa: E731
     for path in e.paths:
         if path.type.name == "POLYLINE":
-            parts += recorded.segments([at((x, y)) for x, y, _ in path.vertices], [bulge * level(ocs) for *_, bulge in path.vertices],
-                                       path.is_closed)
+            parts += recorded.segments([at((x, y)) for x, y, _ in path.vertices],
+                                       [bulge * level(ocs) for *_, bulge in path.vertices], path.is_closed)
             continue
         for edge in path.edges:
             kind = edge.type.name
             if kind == "LINE":
                 parts.append(recorded.segment(at(edge.start), at(edge.end)))
             elif kind == "ARC":
-                parts.append(recorded.arc(at(edge.center), edge.radius, math.radians(edge.start_angle), math.radians(edge.end_angle)))
+                angles = math.radians(edge.start_angle), math.radians(edge.end_angle)
+                parts.append(recorded.arc(at(edge.center), edge.radius, *angles))
             elif kind == "ELLIPSE":
                 major = ocs.to_wcs(edge.major_axis)
                 parts.append(recorded.ellipse(at(edge.center), major, ocs.uz.cross(major) * edge.ratio,
@@ -152,16 +157,22 @@ def hatch(e, ocs):
             else:
                 parts.append(("spline",))
     curved = any(part[0] == "spline" for part in parts)
+    lined = not e.dxf.solid_fill
     return "Hatch", {"pattern": None if e.gradient else e.dxf.pattern_name.upper(),
-                     "pattern scale": e.dxf.pattern_scale if not e.dxf.solid_fill else None,
-                     "pattern angle": recorded.angle(math.radians(e.dxf.pattern_angle)) if not e.dxf.solid_fill else None,
+                     "pattern scale": e.dxf.pattern_scale if lined else None,
+                     "pattern angle": recorded.angle(math.radians(e.dxf.pattern_angle)) if lined else None,
                      "boundary": None if curved else recorded.ordered(
                          [tuple(p.replace(z=0) if isinstance(p, Vec3) else p for p in part) for part in parts])}
 
 
+def tilted(ocs):
+    """No recording holds it."""
+    return {"turned": None if level(ocs) else "lost"}
+
+
 def flat(cls, **of):
     """Of a class whose points lie in a plane of their own: names in the form, and what makes them."""
-    return lambda e, ocs: (cls, {key: make(e, ocs) for key, make in of.items()} | {"turned": None if level(ocs) else "lost"})
+    return lambda e, ocs: (cls, {key: make(e, ocs) for key, make in of.items()} | tilted(ocs))
 
 
 def at(name):
@@ -172,25 +183,26 @@ def corners(e, ocs):
     return [ocs.to_wcs(e.dxf.get(f"vtx{n}", e.dxf.get("vtx2"))) for n in range(4)]
 
 
-JUSTIFY = "Top Left,Top Center,Top Right,Middle Left,Middle Center,Middle Right,Bottom Left,Bottom Center,Bottom Right".split(",")
+JUSTIFY = [f"{row} {column}" for row in ("Top", "Middle", "Bottom") for column in ("Left", "Center", "Right")]
 # What a recording holds of each kind of entity: the end of the class's name, and the form.
 KINDS = {
-    "LINE": lambda e, ocs: ("Line", {"start": e.dxf.start, "end": e.dxf.end, "thickness": thickness(e, ocs)}),
+    "LINE": lambda e, _: ("Line", {"start": e.dxf.start, "end": e.dxf.end}),
     "POINT": lambda e, _: ("Point", {"position": e.dxf.location}),
-    "CIRCLE": flat("Circle", center=at("center"), radius=lambda e, _: e.dxf.radius, thickness=thickness),
-    "ARC": arc, "ELLIPSE": ellipse, "SPLINE": spline, "LWPOLYLINE": lwpolyline, "POLYLINE": old_polyline, "INSERT": insert,
-    "DIMENSION": dimension, "ARC_DIMENSION": dimension, "HATCH": hatch,
-    "SOLID": flat("Solid", vertices=corners, thickness=thickness), "TRACE": flat("Trace", vertices=corners, thickness=thickness),
+    "CIRCLE": flat("Circle", center=at("center"), radius=lambda e, _: e.dxf.radius),
+    "ARC": arc, "ELLIPSE": ellipse, "SPLINE": spline, "LWPOLYLINE": lwpolyline, "POLYLINE": old_polyline,
+    "INSERT": insert, "DIMENSION": dimension, "ARC_DIMENSION": dimension, "HATCH": hatch,
+    "SOLID": flat("Solid", vertices=corners), "TRACE": flat("Trace", vertices=corners),
     "3DFACE": lambda e, _: ("Face", {"vertices": corners(e, OCS()), "edges": [
         "Hidden" if e.dxf.invisible >> n & 1 else "Visible" for n in range(4)]}),
-    "TEXT": lambda e, ocs: ("Text", {"contents": e.dxf.text, **text(e, ocs), "turned": None if level(ocs) else "lost"}),
+    "TEXT": lambda e, ocs: ("Text", {"contents": said(e.dxf.text), **text(e, ocs), **tilted(ocs)}),
     "ATTDEF": lambda e, ocs: ("AttributeDefinition", {
-        "tag": e.dxf.tag, "value": e.dxf.text, "prompt": e.dxf.prompt, **text(e, ocs),
-        "flags": [e.is_invisible, e.is_const, e.is_verify, e.is_preset], "turned": None if level(ocs) else "lost"}),
+        "tag": e.dxf.tag, "value": said(e.dxf.text), "prompt": e.dxf.prompt, **text(e, ocs),
+        "flags": [e.is_invisible, e.is_const, e.is_verify, e.is_preset], **tilted(ocs)}),
     "MTEXT": lambda e, ocs: ("MText", {
-        "contents": e.text, "position": e.dxf.insert, "width": e.dxf.get("width", 0), "height": e.dxf.char_height,
+        "contents": said(e.text), "position": e.dxf.insert, "width": e.dxf.get("width", 0), "height": e.dxf.char_height,
         "justify": JUSTIFY[e.dxf.attachment_point - 1],
-        "direction": e.dxf.text_direction.normalize() if e.dxf.hasattr("text_direction") else turned(ocs, e.dxf.rotation)}),
+        "direction": Vec3(e.dxf.text_direction).normalize() if e.dxf.hasattr("text_direction")
+        else turned(ocs, e.dxf.rotation)}),
     "LEADER": lambda e, _: ("Leader", {"vertices": list(map(Vec3, e.vertices))}),
     "MLINE": lambda e, _: ("Mline", {"vertices": [one.location for one in e.vertices], "scale": e.dxf.scale_factor,
                                      "closed": e.is_closed, "justify": ("Top", "Zero", "Bottom")[e.dxf.justification]}),
@@ -206,14 +218,17 @@ KINDS = {
 
 
 def color(e):
+    """Of an entity or a layer."""
     if e.dxf.hasattr("true_color"):
         return list(e.rgb)
-    return {0: "byblock", 256: "bylayer"}.get(e.dxf.color, e.dxf.color)
+    return {0: "byblock", 256: "bylayer"}.get(abs(e.dxf.color), abs(e.dxf.color))
 
 
 def common(e):
-    return {"layer": e.dxf.layer.lower(), "color": color(e), "line style": e.dxf.linetype.lower(), "line scale": e.dxf.ltscale,
-            "weight": e.dxf.get("lineweight", -1)}
+    thickness = e.dxf.thickness if e.dxf.is_supported("thickness") else 0
+    return {"layer": e.dxf.layer.lower(), "color": color(e), "line style": e.dxf.linetype.lower(),
+            "line scale": e.dxf.ltscale, "weight": e.dxf.get("lineweight", -1),
+            "thickness": thickness * level(plane(e)) if level(plane(e)) else None}
 
 
 def forms(entity):
@@ -256,15 +271,16 @@ def difference(wanted, found, near, path=""):
                 off = on_curve(points, curve) if curve.control_points else math.inf
                 if off > max(near, NEAR * max(abs(x) for point in points for x in point)):
                     return f"fit points off the curve by {off}"
-        parts = [difference(value, found.get(key), near, f"{path}.{key}") for key, value in wanted.items() if key != "curve"]
-        return next(filter(None, parts), None)
+        return next(filter(None, (difference(value, found.get(key), near, f"{path}.{key}")
+                                  for key, value in wanted.items() if key != "curve")), None)
     if isinstance(wanted, (float, int)) and isinstance(found, (float, int)):
         return None if abs(wanted - found) <= near * max(1, abs(wanted)) else f"{path}: {wanted} is {found}"
     if isinstance(wanted, (list, tuple, Vec3)) and isinstance(found, (list, tuple, Vec3)):
         wanted, found = list(wanted), list(found)
         if len(wanted) != len(found):
             return f"{path}: {len(wanted)} are {len(found)}"
-        return next(filter(None, (difference(*pair, near, f"{path}[{n}]") for n, pair in enumerate(zip(wanted, found)))), None)
+        return next(filter(None, (difference(*pair, near, f"{path}[{place}]")
+                                  for place, pair in enumerate(zip(wanted, found)))), None)
     return None if found is not None and wanted == found else f"{path}: {wanted!r} is {found!r}"
 
 

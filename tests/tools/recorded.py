@@ -94,7 +94,8 @@ class Recording:
         return self.drawn[handle]
 
     def _added(self, content):
-        one = self.drawn[content["handle"]] = Object(content["class"], self.sheet, {}, self.data.get(content["handle"], {}))
+        self.drawn.pop(content["handle"], None)
+        one = self._object(content["handle"], content["class"])
         if one.cls == "AcDbHatch":
             one.properties["hatch"] = self.hatch
         for record in content["properties"]:
@@ -122,7 +123,8 @@ class Recording:
             one.properties |= {"Vertex": data[0], "bulges": [x for x, *_ in data[1]], "Closed": data[2]}
             if len(data) > 7:
                 starts, ends = ([data[8]] * len(data[0]),) * 2 if data[7] else data[5:7]
-                one.properties |= {"Start segment width": dict(enumerate(starts)), "End segment width": dict(enumerate(ends))}
+                one.properties["Start segment width"] = dict(enumerate(starts))
+                one.properties["End segment width"] = dict(enumerate(ends))
         elif content["kind"] == 17:
             for handle in data[0]:
                 self.drawn.pop(handle, None)
@@ -159,7 +161,7 @@ class Recording:
         return form | {
             "layer": self.name(one.get("Layer"), "0"), "color": one.get("LineColor", "bylayer"),
             "line style": self.name(one.get("LineStyle"), "bylayer"), "line scale": one.get("LineScale", 1),
-            "weight": one.get("LineWeight", -1)}
+            "weight": one.get("LineWeight", -1), "thickness": one.get("Thickness", 0)}
 
     def _hatch(self, data):
         """What bounds it is given in one of four forms."""
@@ -266,9 +268,9 @@ def keyed(*keys, **others):
 
 
 FORMS = {
-    "AcDbLine": lambda o: {"start": o.point("Start"), "end": o.point("End"), "thickness": o.get("Thickness", 0)},
+    "AcDbLine": lambda o: {"start": o.point("Start"), "end": o.point("End")},
     "AcDbPoint": lambda o: {"position": o.point("Position")},
-    "AcDbCircle": lambda o: {"center": o.point("Center"), "radius": o.get("Radius"), "thickness": o.get("Thickness", 0)},
+    "AcDbCircle": lambda o: {"center": o.point("Center"), "radius": o.get("Radius")},
     "AcDbArc": lambda o: {"arc": arc(o.point("Center"), o.get("Radius"), o.get("Start Angle"), o.get("End Angle"))},
     "AcDbEllipse": lambda o: {
         "center": o.point("Center"), "major": o.point("Major axis vector"), "minor": o.get("Minor radius"),
@@ -279,8 +281,7 @@ FORMS = {
         "vertices": o.points(), "size": [o.get("M vertex count"), o.get("N vertex count")],
         "closed": [o.yes("M closed") or o.yes("isMClosed"), o.yes("N closed") or o.yes("isNClosed")]},
     "AcDbPolyFaceMesh": lambda o: {"vertices": o.points(), "faces": o.get("faces")},
-    "AcDbSolid": lambda o: {"vertices": o.points(), "thickness": o.get("Thickness", 0)},
-    "AcDbTrace": lambda o: {"vertices": o.points(), "thickness": o.get("Thickness", 0)},
+    "AcDbSolid": lambda o: {"vertices": o.points()}, "AcDbTrace": lambda o: {"vertices": o.points()},
     "AcDbFace": lambda o: {"vertices": o.points(), "edges": [o.get(f"Edge {n}", "Hidden") for n in (1, 2, 3, 4)]},
     "AcDbText": lambda o: {"contents": o.get("Contents"), **text(o)},
     "AcDbAttributeDefinition": lambda o: {
@@ -297,8 +298,8 @@ FORMS = {
         "attributes": o.get("attributes", {})},
     "AcDbSpline": lambda o: {"fit points": o.points("Fit point"), "closed": o.yes("Closed")},
     "AcDbLeader": lambda o: {"vertices": o.points()},
-    "AcDbMline": lambda o: {"vertices": o.points("vertices"), "scale": o.get("RLine scale"), "closed": o.yes("closedMline"),
-                            "justify": o.get("RLine justification")},
+    "AcDbMline": lambda o: {"vertices": o.points("vertices"), "scale": o.get("RLine scale"),
+                            "closed": o.yes("closedMline"), "justify": o.get("RLine justification")},
     "AcDbRay": lambda o: {"base": o.point("Base point"),
                           "direction": (o.point("Second point") - o.point("Base point")).normalize()},
     "AcDbXline": lambda o: FORMS["AcDbRay"](o),

@@ -504,6 +504,42 @@ TEST(Losses, OfARepairedMacroAreLayersWithoutAName)
     EXPECT_EQ(lossesOf(frozen), Lines{"0 changes of AcDbLayerTableRecord 99: the drawing does not have the layer"});
 }
 
+TEST(Losses, AreChangesOfWhatTheRecordingDidNotAdd)
+{
+    const QByteArray drawn = R"({"object":{"class":"AcDbLine","handle":"2F"}}
+{"object":{"class":"AcDb2dPolyline","handle":"31"}}
+{"object":{"class":"AcDbLayerTableRecord","handle":"10","name":"Walls"}}
+)";
+    struct Case
+    {
+        const char* cls;
+        const char* handle;
+        const char* reason;
+        bool isRepaired = false;
+    };
+    const Case cases[] = {
+        {"AcDbLine", "2F",
+         "the recording did not add the object, and only a repaired macro fetches it from the drawing", true},
+        {"AcDbLayerTableRecord", "10",
+         "the recording did not add the object, and only a repaired macro fetches it from the drawing", true},
+        {"AcDbCircle", "2F", "the drawing has an object of another class under its handle"},
+        {"AcDbLine", "A0", "the recording did not add the object, so the macro has no variable for it"},
+        {"AcDb2dPolyline", "31", "objects of its class have no statements"},
+        {"HostWeldSymbol", "2F", "objects of its class have no statements"},
+    };
+    for (const auto& [cls, handle, reason, isRepaired] : cases) {
+        const auto object = QByteArray(R"("class":")") + cls + R"(","handle":")" + handle + '"';
+        const bool isLayer = QLatin1String(cls) == QLatin1String("AcDbLayerTableRecord");
+        const QByteArray change =
+            drawn + R"({"property":{)" + object +
+            (isLayer ? R"(,"tag":"Locked","value":"Yes"}})" : R"(,"tag":"LineScale","value":2}})") + '\n';
+        const Lines lost{std::string("0 changes of ") + cls + ' ' + handle + ": " + reason};
+        EXPECT_EQ(lossesOf(change), lost);
+        const TestRepair repair;
+        EXPECT_EQ(lossesOf(change), isRepaired ? Lines() : lost);
+    }
+}
+
 /// By its handle another object of the drawing would be erased.
 TEST(Losses, OfARepairedMacroAreUsesOfWhatItDoesNotMake)
 {

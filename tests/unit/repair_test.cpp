@@ -669,6 +669,76 @@ TEST(RepairedMacro, HandsEachActionTheObjectThatItMakes)
     EXPECT_TRUE(GetFxSystemServices()->Notes().GetLosses().empty());
 }
 
+/// The block of the command hides the variable behind it; at top level there is none.
+TEST(RepairedMacro, FetchesAChangedObjectOfTheDrawingOnceACommand)
+{
+    const TestTarget host(Target::CSharp);
+    TestDrawing drawing;
+    drawing.add(0xA1, "AcDbLine");
+    const auto change = [](const char* tag) {
+        return odrxNew<TestModified>("AcDbLine", 0xA1, PropertyList{odrxNew<TestProperty>(tag, 2.0)});
+    };
+    const CFxActionArray actions{command({change("Nothing"), change("LineScale"), change("Thickness")}),
+                                 command({change("LineScale")}), change("LineScale"), change("Thickness")};
+    TestConversion conversion;
+    ASSERT_EQ(conversion.run(actions), kFxSuccess);
+    EXPECT_EQ(conversion.body(), "");
+    const TestRepair repair;
+    ASSERT_EQ(conversion.run(actions), kFxSuccess);
+    EXPECT_EQ(conversion.body().count("GetObjectByHandle(\"A1\""), 4) << conversion.body().toStdString();
+    ASSERT_EQ(conversion.run({command({change("Nothing")})}), kFxSuccess);
+    EXPECT_EQ(conversion.body(), "");
+}
+
+TEST(RepairedMacro, KnowsHowLargeATableOfTheDrawingIs)
+{
+    const TestTarget host(Target::CSharp);
+    const TestRepair repair;
+    TestDrawing drawing;
+    drawing.add(0xA1, "AcDbTable", {{"rowHeights", OdArray<double>{1, 2, 1}}});
+    const auto change = [](const char* tag, const CFxVariant& value) {
+        return command({odrxNew<TestModified>("AcDbTable", 0xA1, PropertyList{odrxNew<TestProperty>(tag, value)})});
+    };
+    TestConversion conversion;
+    ASSERT_EQ(conversion.run(
+                  {change("Rows", 2), change("Table height", 8.0), change("Rows", 1), change("Table height", 4.0)}),
+              kFxSuccess);
+    const QString body = conversion.body();
+    for (const char* const part :
+         {".DeleteRow( 2 )", ".DeleteRow( 1 )", " = 2.00000000000000;", " = 0.50000000000000;"})
+        EXPECT_EQ(body.count(part), 1) << part << " in\n" << body.toStdString();
+}
+
+TEST(RepairedMacro, CallsWhatItHasRenamedByTheNewName)
+{
+    const TestTarget host(Target::CSharp);
+    TestDrawing drawing;
+    drawing.add(0x10, "AcDbLayerTableRecord", {{"name", OdString("Walls")}});
+    drawing.add(0x11, "AcDbTextStyleTableRecord", {{"name", OdString("Notes")}});
+    const auto change = [](const char* cls, std::uint64_t handle, const char* tag, const CFxVariant& value) {
+        return odrxNew<TestModified>(cls, handle, PropertyList{odrxNew<TestProperty>(tag, value)});
+    };
+    const CFxActionArray actions{
+        addedLine(1),
+        change("AcDbLine", 1, "Layer", drawing.id(0x10)),
+        change("AcDbLayerTableRecord", 0x10, "Name", CFxString("Outer")),
+        change("AcDbTextStyleTableRecord", 0x11, "Name", CFxString("Titles")),
+        odrxNew<TestAdded>("AcDbMText", 2, PropertyList{odrxNew<TestProperty>("Style", drawing.id(0x11))}),
+        change("AcDbLine", 1, "Layer", drawing.id(0x10)),
+        change("AcDbLayerTableRecord", 0x10, "Name", CFxString("Inner")),
+    };
+    const auto timesOf = [&](const char* name) {
+        TestConversion conversion;
+        EXPECT_EQ(conversion.run(actions), kFxSuccess);
+        return conversion.body().count('"' + QString(name) + '"');
+    };
+    EXPECT_EQ(timesOf("Walls"), 2);
+    EXPECT_EQ(timesOf("Notes"), 1);
+    const TestRepair repair;
+    for (const auto& [name, times] : {std::pair("Walls", 2), {"Outer", 3}, {"Notes", 0}, {"Titles", 2}, {"Inner", 1}})
+        EXPECT_EQ(timesOf(name), times) << name;
+}
+
 // Behind the declaration of a trim's pieces another group begins.
 TEST(RepairedMacro, FetchesTrimmedObjectsInTheGroupOfTheTrim)
 {

@@ -219,6 +219,7 @@ TEST(Phrases, HaveNoHolesButTheIntendedOnes)
         {"EmitTableBordersColor", {Cpp}},
         {"EmitReplaceRichLineElement", {Cpp}},
         {"EmitRenameRichLineStyle", {Cpp}},
+        {"EmitRenameLayerOrGroup", allButCpp},
         // Only in C++ does the activation of a layer or a style differ from that of anything else.
         {"EmitActivateLayer", allButCpp},
         // The others look the style up where they set it.

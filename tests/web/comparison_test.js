@@ -29,8 +29,8 @@ const theArc = added('AcDbArc', '31', {'Center X': 1e6, 'Center Y': 2, Radius: 5
 const drawsArc = ['var arc1 = sketch.InsertArc(1000000, 2, 0, 5, 1, 2);'];
 
 // Each step is an action and the lines that do it, or [action, lines, handles of these] where they are others.
-function verify(steps, {edit = text => text, losses = [], assumed = [], forget = null} = {}) {
-    const lines = [layer, ...steps.map(([action]) => action)];
+function verify(steps, {edit = text => text, losses = [], assumed = [], forget = null, drawn = []} = {}) {
+    const lines = [layer, ...drawn.map(one => ({object: one})), ...steps.map(([action]) => action)];
     const head = ['<script type="text/javascript">', 'function runMacro() {',
         'var app = new ijScriptManager().getApplication(), doc = app.GetActiveDocument();',
         'var sketch = doc.GetModel().GetSketchManager(), layers = doc.GetLayerManager();'];
@@ -38,7 +38,7 @@ function verify(steps, {edit = text => text, losses = [], assumed = [], forget =
     const text = head.slice();
     steps.forEach(([action, statements, handles], i) => {
         const [record] = Object.values(action);
-        map.ranges.push({lines: [text.length + 1, text.length + statements.length], line: i + 2,
+        map.ranges.push({lines: [text.length + 1, text.length + statements.length], line: i + 2 + drawn.length,
             path: '', handles: handles || [record.handle], kind: 'insertion'});
         text.push(...statements);
     });
@@ -134,6 +134,33 @@ differs(replaced(drawsLine[0], 'var line1;\nfor (var i = 0; i < 3; ++i)\n' + dra
     assert.deepStrictEqual(of(replaced('\nl.Rename("Outer");', '')), ['different 10 Name', 'different 10 Frozen',
         'different  Frozen']);
     assert.deepStrictEqual(of(replaced('put_Frozen(true)', 'put_Frozen(false)')), ['different 10 Frozen']);
+}
+
+// What the drawing has is compared where it changes, to nothing too, and is to change nowhere else.
+{
+    const drawn = [{class: 'AcDbLine', handle: '40', startPoint: [1, 2, 0], endPoint: [5, 2, 0]},
+        {class: 'AcDbTextStyleTableRecord', handle: '41', name: 'Notes'}, {class: 'AcDbBlockReference', handle: '42'},
+        {class: 'AcDbText', handle: '43'}];
+    const find = (name, handle) => 'var ' + name + ' = doc.GetObjectByHandle("' + handle + '").DispObj;';
+    const number = {class: 'AcDbBlockReference', handle: '42', tag: 'NR', value: '7', group: 'BlockAttributes'};
+    const steps = [[modified('AcDbLine', '40', {'End Y': 0}), [find('line', '40'), 'var p = line.GetSecondPoint();',
+        'line.SetSecondPoint(p[0], 0, p[2]);']],
+    [modified('AcDbTextStyleTableRecord', '41', {Name: 'Titles', Height: 0}), [find('style', '41'),
+        'style.Rename("Titles");', 'style.put_Height(0);']],
+    [{property: number}, [find('block', '42'), 'block.GetAttributeInstances()[0].put_Value("7");']],
+    [modified('AcDbText', '43', {TextStyle: 'Titles', Layer: {id: '10'}}), [find('text', '43'),
+        'text.put_TextStyle("Titles");', 'text.put_Layer("Walls");']]];
+    const of = (...change) => shown(verify(steps, {drawn: drawn, edit: replaced(...change)}));
+    assert.deepStrictEqual(of('', ''), []);
+    assert.strictEqual(verify(steps, {drawn: drawn}).counts.equal, 4);
+    for (const [statement, wanted] of [['line.SetSecondPoint(p[0], 0, p[2]);', ['40 End Y']],
+        ['style.Rename("Titles");', ['41 Name']], ['style.put_Height(0);', ['41 Height']],
+        ['block.GetAttributeInstances()[0].put_Value("7");', ['42 NR']], ['text.put_Layer("Walls");', ['43 Layer']]]) {
+        assert.deepStrictEqual(of(statement, ''), wanted.map(one => 'different ' + one));
+    }
+    assert.deepStrictEqual(of('(p[0], 0,', '(p[0] + 1, 0,'), ['different 40 SecondPoint']);
+    assert.deepStrictEqual(of('"43"', '"44"'), ['different 43 Layer', 'different 43 TextStyle',
+        'different 44 TextStyle', 'different 44 Layer']);
 }
 
 // What the application makes is not compared, but what it is handed is.

@@ -129,6 +129,16 @@ Statement EmitRenameRichLineStyle(Writer& writer, const CFxString& style, const 
     return writer.fill(renameRichLineStyle).text(style).text(newName);
 }
 
+/// As recorded the rename of a layer or a group is lost in C++. A rich line style has no such operation there.
+static const Phrase renameLayerOrGroup{"EmitRenameLayerOrGroup", {.cpp = "%1%3->Rename( L\"%4\" );%2"}};
+
+Statement EmitRenameLayerOrGroup(Writer& writer, const CFxString& variable, const CFxString& newName)
+{
+    if (!writer.repairs || !renameLayerOrGroup.has(writer.target))
+        return EmitRenameRichLineStyle(writer, variable, newName);
+    return writer.fill(renameLayerOrGroup).text(variable).text(newName);
+}
+
 /// In C++ the call has an answer, other than that of a custom action.
 static const Phrase activateLayer{"EmitActivateLayer",
                                   {

@@ -11,8 +11,8 @@ Statement EmitLoadLineStyle(Writer& writer, const CFxString& styleName, const in
 
 /// `activate`: makes it the current one again under its new name.
 Statement EmitRenameStyle(Writer& writer, const CFxString& style, const CFxString& newName, bool activate);
-/// Of rich line styles, layers and groups.
 Statement EmitRenameRichLineStyle(Writer& writer, const CFxString& style, const CFxString& newName);
+Statement EmitRenameLayerOrGroup(Writer& writer, const CFxString& variable, const CFxString& newName);
 /// Makes a style or a layer the current one.
 Statement EmitActivateLayer(Writer& writer, const CFxString& variable);
 /// Puts another line in the place of one of a rich line style. A color of red, green and blue counts as by block there,

@@ -257,7 +257,7 @@ class Comparison {
             const seen = measured ? heldOf(measured, of, index) : heldOf(thing, question, index);
             // What a dimension measures may be there already.
             const isRight = isThere || (seen === undefined
-                ? !thing.handle && isNothing(value) || value === anything || this.isDefault(cls, question, value)
+                ? !expected.isFound && isNothing(value) || value === anything || this.isDefault(cls, question, value)
                     || this.places.optional.has(cls + ' ' + question)
                 : value !== null && value !== undefined && value.handle ? this.isHanded(seen, value)
                     : fits(question, seen, value, this.places.turns.has(question + index)));

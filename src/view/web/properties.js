@@ -6,6 +6,11 @@
 const measures = {half: value => value / 2, round: value => value / (2 * Math.PI),
     area: value => Math.sqrt(Math.max(value, 0) / Math.PI)};
 
+// The value of an attribute is a property of its block in a group of its own, under the attribute's tag.
+function isAttribute(record) {
+    return String(record.group || '').toLowerCase() === 'blockattributes';
+}
+
 // Recorded of a block without a name: the host numbers it when it is made.
 function withoutNumber(name) {
     return typeof name === 'string' ? name.replace(/^\*U\d+$/, '*U') : '';

@@ -272,7 +272,13 @@ class Recorded {
         const {tag} = record;
         const leader = this.leaders.get(handle);
         const one = this.byHandle.get(leader || handle);
-        if (!one || String(record.group || '').toLowerCase() === 'blockattributes') {
+        if (one && isAttribute(record)) {
+            if (!isAdded) {
+                one.hold('Attribute ' + tag + '.Value()', 0, valueOf(record.value, () => ''), tag, action);
+            }
+            return;
+        }
+        if (!one) {
             return;
         }
         const cls = leader ? 'AcDbMText' : one.cls;
@@ -290,7 +296,7 @@ class Recorded {
         } else if (row.name !== '-' && (tag !== 'Erased' && tag !== 'ActivateLayer'
             || String(record.value).toLowerCase() === 'yes')) {
             const prefix = leader ? 'NoteAnnotation.' : '';
-            if (row.name === 'Name' && one.name !== null) {
+            if (!isAdded && row.name === 'Name' && one.name !== null) {
                 this.newNames.set(handle, String(valueOf(record.value, () => '')));
             }
             holdValue(one, Object.assign({}, row, {name: prefix + row.name}), record, action, assumed,

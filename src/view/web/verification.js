@@ -38,6 +38,8 @@ function startModel(tables, lines) {
         if (action.custom && action.custom.kind === kinds.attribute) {
             tags.add(datumOf(action.custom.data, 2));
         }
+        const records = action.modified ? action.modified.properties : action.property ? [action.property] : [];
+        records.filter(isAttribute).forEach(({tag}) => tags.add(tag));
     }
     return new Model(tables.known, tables.state, tables.keyed, offeredObjects(lines), listedObjects(lines, tables.places),
         [...tags]);
