@@ -69,6 +69,8 @@ public:
     QString text(const Group& group) { return decoder_.text(group.bytes); }
     /// One that nothing in the drawing has.
     quint64 newHandle();
+    /// Whether the file has it, or it has been given away.
+    bool hasHandle(quint64 handle) const;
     /// The highest that the drawing has or has given away.
     quint64 highestHandle() const { return nextHandle_ - 1; }
     void keepAbove(quint64 handle) { nextHandle_ = std::max(nextHandle_, handle + 1); }
@@ -103,6 +105,7 @@ private:
     std::vector<Entity> objects_;
     std::unordered_set<std::string_view> layersInUse_;
     TextDecoder decoder_;
+    quint64 firstGiven_ = 1;
     quint64 nextHandle_ = 1;
     std::vector<quint64> taken_; ///< by the file, in their order
     qint64 strayLines_ = 0;
