@@ -140,7 +140,7 @@ private:
         for (Table& table : drawing_.tables_)
             if (table.name == kind)
                 return table.records;
-        return drawing_.tables_.emplace_back(Table{kind, {}}).records;
+        return drawing_.tables_.back().records;
     }
 
     void take(const Group& group)
@@ -262,6 +262,7 @@ void Drawing::settleHandles()
             doubled.insert(handles[i]);
     const quint64 seed = variable("$HANDSEED", 5).handle();
     nextHandle_ = std::max<quint64>(seed, handles.empty() ? 1 : handles.back() + 1);
+    firstGiven_ = nextHandle_;
     taken_ = std::move(handles);
 
     // The first of several keeps its handle.
@@ -272,6 +273,12 @@ void Drawing::settleHandles()
         entity->hadHandle = false;
         entity->handle = newHandle();
     }
+}
+
+bool Drawing::hasHandle(quint64 handle) const
+{
+    return (handle >= firstGiven_ && handle < nextHandle_) ||
+           std::binary_search(taken_.begin(), taken_.end(), handle);
 }
 
 quint64 Drawing::newHandle()

@@ -28,6 +28,9 @@ public:
         return OdDbHandle(handles_[given_++]);
     }
     void beginAgain() { given_ = 0; }
+    /// How many are given; to go back to that place.
+    std::size_t place() const { return given_; }
+    void goTo(std::size_t place) { given_ = place; }
 
 private:
     Drawing& drawing_;
@@ -49,6 +52,9 @@ struct Surroundings
           madeHandles(drawing)
     {
     }
+
+    /// What a table of that name holds; null for one that nothing refers to by name.
+    NamedObjects* table(std::string_view name);
 
     Drawing& drawing;
     OdDbDatabase& ids;
