@@ -277,8 +277,7 @@ void Drawing::settleHandles()
 
 bool Drawing::hasHandle(quint64 handle) const
 {
-    return (handle >= firstGiven_ && handle < nextHandle_) ||
-           std::binary_search(taken_.begin(), taken_.end(), handle);
+    return (handle >= firstGiven_ && handle < nextHandle_) || std::binary_search(taken_.begin(), taken_.end(), handle);
 }
 
 quint64 Drawing::newHandle()

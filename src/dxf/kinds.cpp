@@ -111,7 +111,7 @@ void takeGeneral(const EntityReader& entity, Surroundings& around, DrawnObject& 
     if (entity.integer(60) == 1)
         object.untold.push_back("that it is invisible");
     if (entity.hasExtendedData())
-        object.untold.push_back("data of other applications");
+        object.untold.push_back(kOtherData);
 }
 
 bool isByLayer(std::string_view name)
