@@ -140,7 +140,7 @@ private:
         for (Table& table : drawing_.tables_)
             if (table.name == kind)
                 return table.records;
-        return drawing_.tables_.emplace_back(Table{kind, {}}).records;
+        return drawing_.tables_.back().records;
     }
 
     void take(const Group& group)

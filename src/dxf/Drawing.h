@@ -4,6 +4,7 @@
 #include "dxf/TextDecoder.h"
 
 #include <algorithm>
+#include <array>
 #include <span>
 #include <string_view>
 #include <unordered_set>
@@ -49,7 +50,7 @@ public:
 
     /// The last one of that name and code; an empty line for none.
     Group variable(std::string_view name, int code) const;
-    /// Of the table of that name: LAYER, LTYPE, STYLE, DIMSTYLE, BLOCK_RECORD and so on.
+    /// Of the table of that name: LAYER, LTYPE, STYLE, DIMSTYLE or BLOCK_RECORD.
     std::span<const Entity> table(std::string_view name) const;
     const std::vector<Block>& blocks() const { return blocks_; }
     std::span<const Entity> entities(const Block& block) const
@@ -95,7 +96,9 @@ private:
     FileForm form_;
     bool isValid_ = false;
     std::vector<Variable> variables_;
-    std::vector<Table> tables_;
+    /// The last one is for the records of all others, of which only the handles count.
+    std::array<Table, 6> tables_{
+        {{"LAYER", {}}, {"LTYPE", {}}, {"STYLE", {}}, {"DIMSTYLE", {}}, {"BLOCK_RECORD", {}}, {}}};
     std::vector<Block> blocks_;
     std::vector<Entity> blockEntities_;
     std::vector<Entity> entities_;
