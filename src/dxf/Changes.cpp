@@ -324,7 +324,9 @@ void Changes::noteChanged(const Pair& pair)
             ++(attributes-- > 0 ? accounts_.since->changed : accounts_.since->unchanged)["ATTRIB"];
     for (const char* const what : pair.difference.untold)
         accounts_.leaveOut(pair.after.entity->kind, what);
-    before_.readEntity(*pair.before.entity, pair.before.parts, OdDbHandle(pair.before.entity->handle), object_);
+    const OdDbHandle handle(pair.before.entity->handle);
+    before_.readEntity(*pair.before.entity, pair.before.parts, handle, object_);
+    noteTouched(object_.cls, handle);
     changed_.push_back({pair.before, pair.after, object_.cls});
 }
 
@@ -343,13 +345,26 @@ void Changes::noteGone(const Item& item)
         if (!object_.isStandIn)
             cls = object_.cls;
     } catch (const Lost&) {
-        // It is there all the same.
+        object_.drawing.clear(); // it is there all the same
     }
+    noteTouched(cls, handle);
     removals_.push_back({cls, handle});
     ++accounts_.since->erased[std::string(item.entity->kind)];
     for (const Entity& part : item.parts)
         if (part.kind == "ATTRIB")
             ++accounts_.since->erased["ATTRIB"];
+}
+
+void Changes::noteTouched(OdRxClass* cls, OdDbHandle handle)
+{
+    QByteArray line;
+    DrawingLine(line, cls->name().toLatin1().constData(), handle);
+    // What its kind tells of it besides.
+    const QByteArray begin = line.left(line.indexOf('}'));
+    for (const QByteArray& told : object_.drawing.split('\n'))
+        if (told.startsWith(begin))
+            line = told + '\n';
+    drawing_ += line;
 }
 
 void Changes::noteLayersOf(std::span<const Entity> entities)
@@ -431,10 +446,6 @@ QByteArray Changes::head()
         if (run.block && namedBlocks_.contains(run.block->insertable.name.toLower()))
             tellBlock(*run.block, lines);
     lines += drawing_;
-    for (const ChangedEntity& entity : changed_)
-        DrawingLine(lines, entity.cls->name().toLatin1().constData(), OdDbHandle(entity.before.entity->handle));
-    for (const Removal& removal : removals_)
-        DrawingLine(lines, removal.cls->name().toLatin1().constData(), removal.handle);
     drawing_.clear();
     after_.around().madeHandles.beginAgain();
     return lines;

@@ -660,15 +660,22 @@ void tellEachWidth(std::vector<Fact>& facts, std::vector<Fact>& other)
 
 void Comparison::compareAll(const OdRxClass* cls, Difference& difference)
 {
-    std::unordered_map<Key, const Fact*, KeyHash> was;
-    for (const Fact& fact : was_)
-        was.emplace(fact, &fact);
+    // The last one counts: what is changed behind an added object.
+    using ByKey = std::unordered_map<Key, const Fact*, KeyHash>;
+    const auto byKey = [](const FactList& facts) {
+        ByKey all;
+        for (const Fact& fact : facts)
+            all.insert_or_assign(Key(fact), &fact);
+        return all;
+    };
+    const ByKey was = byKey(was_);
+    ByKey is = byKey(is_);
     const auto compareWithUsual = [&](const Fact& fact, bool isNew) {
         if (isAttribute(fact)) {
             difference.untold.push_back("an attribute that comes or goes");
             return;
         }
-        Fact missing{fact.tag, usual(cls, fact), fact.index, fact.group, fact.ownTag, fact.isFixed};
+        const Fact missing{fact.tag, usual(cls, fact), fact.index, fact.group, fact.ownTag, fact.isFixed};
         if (missing.value.IsNull())
             difference.isOther = true;
         else if (isNew)
@@ -676,20 +683,25 @@ void Comparison::compareAll(const OdRxClass* cls, Difference& difference)
         else
             compare(cls, fact, missing, difference);
     };
-    std::unordered_set<Key, KeyHash> told;
+    // In their order.
     for (const Fact& fact : is_) {
-        if (!told.insert(Key(fact)).second)
+        const Key key(fact);
+        const auto last = is.find(key);
+        if (!last->second)
             continue;
-        if (const auto found = was.find(Key(fact)); found != was.end())
-            compare(cls, *found->second, fact, difference);
+        if (const auto found = was.find(key); found != was.end())
+            compare(cls, *found->second, *last->second, difference);
         else
-            compareWithUsual(fact, true);
+            compareWithUsual(*last->second, true);
+        last->second = nullptr;
         if (difference.isOther)
             return;
     }
-    for (const Fact& fact : was_)
-        if (!difference.isOther && told.insert(Key(fact)).second)
-            compareWithUsual(fact, false);
+    for (const Fact& fact : was_) {
+        const Key key(fact);
+        if (!difference.isOther && is.emplace(key, nullptr).second)
+            compareWithUsual(*was.at(key), false);
+    }
 }
 
 Difference Comparison::difference(const DrawnObject& before, const DrawnObject& after)
