@@ -49,7 +49,8 @@ public:
 
     /// The last one of that name and code; an empty line for none.
     Group variable(std::string_view name, int code) const;
-    /// Of the table of that name: LAYER, LTYPE, STYLE, DIMSTYLE, BLOCK_RECORD and so on.
+    /// Of the table of that name: LAYER, LTYPE, STYLE, DIMSTYLE, BLOCK_RECORD and so on; MLINESTYLE too, whose records
+    /// stand among the objects.
     std::span<const Entity> table(std::string_view name) const;
     const std::vector<Block>& blocks() const { return blocks_; }
     std::span<const Entity> entities(const Block& block) const
@@ -87,6 +88,7 @@ private:
     };
 
     class Indexer;
+    std::vector<Entity>& tableOf(std::string_view kind);
     void settleHandles();
 
     std::string_view file_;

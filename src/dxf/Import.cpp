@@ -11,6 +11,12 @@ constexpr std::string_view kHeader = R"({"recording":{"version":1,"sheet":{"name
 
 const QString kModel = QStringLiteral("Model");
 
+/// A sheet that every new drawing has.
+bool isThereAnyway(const QString& sheet)
+{
+    return sheet == QLatin1String("Layout1") || sheet == QLatin1String("Layout2");
+}
+
 } // namespace
 
 Import::Import(Drawing& drawing, OdDbDatabase& ids, ImportOptions options)
@@ -107,6 +113,7 @@ void Import::each(const Run& run, std::size_t& index, Use use)
 
 QByteArray Import::head()
 {
+    around_.isForDrawing = true;
     QByteArray lines(kHeader.data(), kHeader.size());
     lines += '\n';
     for (const KindRow& table : tableKinds()) {
@@ -142,6 +149,7 @@ QByteArray Import::head()
         });
     }
     around_.madeHandles.beginAgain();
+    around_.isForDrawing = false;
     return lines;
 }
 
@@ -167,9 +175,7 @@ OdRxObjectPtr Import::next()
         const Run& run = runs_[run_];
         bool isAtEnd = true;
         each(run, entity_, [&](const Entity& entity, std::span<const Entity> parts) {
-            if (!std::exchange(hasBegun_, true))
-                beginRun(run);
-            importEntity(entity, parts);
+            importEntity(run, entity, parts);
             isAtEnd = false;
             return false;
         });
@@ -207,8 +213,12 @@ void Import::recordTables()
 
 void Import::beginRun(const Run& run)
 {
-    if (!run.sheet.isNull())
-        recorder_.act(kSheetAction, {{CFxString(run.sheet)}});
+    if (run.sheet.isNull())
+        return;
+    // Without the sheet its entities would be drawn in model space.
+    if (!isThereAnyway(run.sheet))
+        recorder_.act(kSheetAction, {{CFxString("New")}, {CFxString(run.sheet)}});
+    recorder_.act(kSheetAction, {{CFxString(run.sheet)}});
 }
 
 void Import::endRun(const Run& run)
@@ -239,8 +249,9 @@ void Import::read(const Kind& kind, const Entity& entity, std::span<const Entity
     kind.row->read(reader_, parts, around_, object_);
 }
 
-void Import::importEntity(const Entity& entity, std::span<const Entity> parts)
+void Import::importEntity(const Run& run, const Entity& entity, std::span<const Entity> parts)
 {
+    around_.sheet = run.sheet;
     offset_ = entity.begin;
     const Kind* const kind = findKind(entity.kind);
     try {
@@ -248,6 +259,8 @@ void Import::importEntity(const Entity& entity, std::span<const Entity> parts)
             throw Lost{"no recording has its kind"};
         read(*kind, entity, parts);
         takeGeneral(reader_, around_, object_);
+        if (!std::exchange(hasBegun_, true))
+            beginRun(run);
         record(entity);
     } catch (const Lost& lost) {
         accounts_.lose(entity.kind, lost.reason);

@@ -44,7 +44,7 @@ private:
     void recordTables();
     void beginRun(const Run& run);
     void endRun(const Run& run);
-    void importEntity(const Entity& entity, std::span<const Entity> parts);
+    void importEntity(const Run& run, const Entity& entity, std::span<const Entity> parts);
     /// Into `object_`; throws Lost.
     void read(const Kind& kind, const Entity& entity, std::span<const Entity> parts);
     void record(const Entity& entity);
