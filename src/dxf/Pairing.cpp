@@ -194,9 +194,10 @@ Paired Pairing::pair(std::vector<Item> before, std::vector<Item> after)
         std::vector<bool> isAfter(is.items.size());
         for (const auto& [one, other] : others)
             isBefore[one] = isAfter[other] = true;
-        const auto both = static_cast<std::size_t>(
-            std::count_if(differing.begin(), differing.end(),
-                          [&](const Differing& each) { return !isBefore[each.before] && !isAfter[each.after]; }));
+        const auto both =
+            static_cast<std::size_t>(std::count_if(differing.begin(), differing.end(), [&](const Differing& each) {
+                return !isBefore[each.before] && !isAfter[each.after];
+            }));
         const std::size_t byHandles = differing.size() + was.left.size() + is.left.size() - 2 * matches.size();
         const std::size_t byLooks = ofBefore.size() + ofAfter.size() - 2 * others.size() - both;
         // Handles of their own files, which only happen to be the same.

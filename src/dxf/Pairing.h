@@ -34,7 +34,10 @@ class Pairing
 public:
     /// All have to outlive this.
     Pairing(Comparison& comparison, Contents& before, Contents& after)
-        : comparison_(comparison), before_(before), after_(after), beforeGroups_(before.drawing()),
+        : comparison_(comparison),
+          before_(before),
+          after_(after),
+          beforeGroups_(before.drawing()),
           afterGroups_(after.drawing())
     {
     }
