@@ -88,6 +88,8 @@ struct Surroundings
     ObjectsByHandle objects;
     bool isForDrawing = false; ///< nothing but the lines of the drawing is asked for
     QString sheet;             ///< on which the entity lies; null for model space and blocks
+    /// By the records of their styles, once they were asked for.
+    std::unordered_map<const Entity*, std::vector<Group>> dimensionVariables;
     /// The block that can be inserted where the entity stands. Throws Lost.
     std::function<const Insertable&(std::string_view name)> insertable;
     /// For what an entity is made from: the same ones again when it is read again.
