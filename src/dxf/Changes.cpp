@@ -63,7 +63,8 @@ std::vector<std::vector<Property>> byNumber(std::vector<Property> changes)
 } // namespace
 
 Changes::Changes(Drawing& before, Drawing& after, OdDbDatabase& ids, const ImportOptions& options, ChangeForms forms)
-    : forms_(std::move(forms)), before_(before, ids, options),
+    : forms_(std::move(forms)),
+      before_(before, ids, options),
       after_((after.keepAbove(withUsualStyles(before_).highestHandle()), after), ids, options)
 {
     accounts_.since.emplace();
@@ -252,8 +253,8 @@ void Changes::compareBlock(const Contents::Run& run)
         const Paired paired = pairing_->pair(itemsOf(before_, &runBefore), items);
         const bool isSameEntity = paired.gone.empty() && paired.come.empty() &&
                                   std::all_of(paired.pairs.begin(), paired.pairs.end(), [](const Pair& pair) {
-                                  return pair.difference.isNone() || pair.difference.lost;
-                              });
+                                      return pair.difference.isNone() || pair.difference.lost;
+                                  });
         if (isSameEntity && isSame(before.base, made.base) && before.description == made.description &&
             before.path == made.path) {
             for (const Pair& pair : paired.pairs)
@@ -527,14 +528,13 @@ bool Changes::drawNext(const std::vector<Drawn>& places)
     if (place_ == places.size())
         return false;
     const Drawn& place = places[place_];
-    if (item_ == 0)
-        beginRun(*place.run);
     if (item_ < place.items.size()) {
         const NewItem& one = place.items[item_++];
-        importEntity(after_, *one.item.entity, one.item.parts, one.handle);
+        after_.around().sheet = place.run->sheet;
+        importEntity(after_, *place.run, *one.item.entity, one.item.parts, one.handle);
     }
     if (item_ == place.items.size()) {
-        endRun(*place.run, true);
+        endRun(*place.run);
         ++place_;
         item_ = 0;
     }

@@ -190,7 +190,8 @@ struct KeyHash
 {
     std::size_t operator()(const Key& key) const
     {
-        return mixed(std::hash<std::string_view>()(key.tag) + qHash(key.ownTag) + mixed(static_cast<quint32>(key.index)));
+        return mixed(std::hash<std::string_view>()(key.tag) + qHash(key.ownTag) +
+                     mixed(static_cast<quint32>(key.index)));
     }
 };
 
@@ -255,8 +256,8 @@ Comparison::Comparison(const ChangeForms& forms, Contents& before, Contents& aft
     add("Transparency", OdCmTransparency());
     for (const char* const number : {"LineScale", "Spacing", "Line space factor"})
         add(number, 1.0);
-    for (const char* const number : {"Thickness", "Elevation", "Angle", "Height", "Rotation", kGlobalWidth, kStartWidth,
-                                     kEndWidth, kBulge})
+    for (const char* const number :
+         {"Thickness", "Elevation", "Angle", "Height", "Rotation", kGlobalWidth, kStartWidth, kEndWidth, kBulge})
         add(number, 0.0);
     for (const char* const text : {"Font", "BigFont", "Text override", "Description"})
         add(text, CFxString());
@@ -301,9 +302,10 @@ void Comparison::take(const DrawnObject& object, const Property& property, FactL
     }
     // Of a list of points each number can change alone.
     const auto& elements = property.value.GetCollection().GetCollectionDataForRead();
-    const bool arePoints = std::all_of(elements.begin(), elements.end(), [](const CFxVariantCollectionElement& element) {
-        return element.GetValue()->GetType() == CFxVariant::kPoint3d;
-    });
+    const bool arePoints =
+        std::all_of(elements.begin(), elements.end(), [](const CFxVariantCollectionElement& element) {
+            return element.GetValue()->GetType() == CFxVariant::kPoint3d;
+        });
     const auto axis = [&](const char* letter) { return tag(std::string(name) + ' ' + letter); };
     const char* const axes[] = {axis("X"), axis("Y"), axis("Z")};
     const bool hasZ = !handlingOf(object.cls, axes[2]);
@@ -582,8 +584,8 @@ void Comparison::take(const DrawnObject& object, Contents& contents, FactList& f
         const OdGePoint3d first{position("Position X"), position("Position Y"), position("Position Z")};
         std::int32_t index = 0;
         for (const OdGePoint3d& place : object.repeats)
-            facts.push_back({"place", OdGePoint3d{place.x - first.x, place.y - first.y, place.z - first.z}, index++, "",
-                             {}, true});
+            facts.push_back(
+                {"place", OdGePoint3d{place.x - first.x, place.y - first.y, place.z - first.z}, index++, "", {}, true});
     }
 }
 
@@ -619,8 +621,7 @@ void Comparison::compare(const OdRxClass* cls, const Fact& was, const Fact& is, 
 {
     if (isSame(was.value, is.value) || (isDirection(is.tag) && isSameDirection(was.value, is.value)))
         return;
-    const ChangeForm* const form = was.isFixed || is.isFixed ? nullptr
-                                                             : forms_(cls, CFxString(is.tag), is.group);
+    const ChangeForm* const form = was.isFixed || is.isFixed ? nullptr : forms_(cls, CFxString(is.tag), is.group);
     if (!form || form->isNumbered != (is.index != Fact::kSingle)) {
         difference.isOther = true;
         return;
@@ -718,7 +719,8 @@ Difference Comparison::difference(const DrawnObject& before, const DrawnObject& 
     if (isOf(before.cls, "AcDbPolyline"))
         tellEachWidth(was_, is_);
     compareAll(before.cls, difference);
-    for (const auto& [one, other] : {std::pair(&before.untold, &after.untold), std::pair(&after.untold, &before.untold)})
+    for (const auto& [one, other] :
+         {std::pair(&before.untold, &after.untold), std::pair(&after.untold, &before.untold)})
         for (const char* const what : *one)
             if (std::none_of(other->begin(), other->end(), [&](const char* told) { return is(told, what); }))
                 difference.untold.push_back(what);
