@@ -112,8 +112,7 @@ TEST_F(DrawingChanges, AreNoneWhereTheSameIsDrawn)
 {
     const Groups corners{{90, "2"}, {10, "0"}, {20, "0"}, {10, "4"}, {20, "0"}};
     const Parts older{line("2F", "0") + circle("30", {{10, "3"}, {20, "1"}, {30, "5"}}) +
-                          entity("LWPOLYLINE", "31", Groups{{8, "Walls"}, {70, "1"}} + corners) +
-                          insert("32", "Chair"),
+                          entity("LWPOLYLINE", "31", Groups{{8, "Walls"}, {70, "1"}} + corners) + insert("32", "Chair"),
                       layer("10", "Walls", {{62, "3"}}), block("Chair", line("33", "1"))};
     EXPECT_EQ(changes(older, older), QStringList());
     EXPECT_EQ(counted("unchanged", "LINE"), 2);
@@ -121,8 +120,7 @@ TEST_F(DrawingChanges, AreNoneWhereTheSameIsDrawn)
     // Another order, handle and way to write it.
     const Parts newer{insert("C2", "CHAIR", {{41, "1"}, {50, "360"}}) +
                           entity("LWPOLYLINE", "2F", Groups{{8, "WALLS"}, {70, "1"}, {43, "0"}} + corners) +
-                          circle("C0", {{10, "-3"}, {20, "1.0000000001"}, {30, "-5"}, {230, "-1"}}) +
-                          line("30", "0.0") ,
+                          circle("C0", {{10, "-3"}, {20, "1.0000000001"}, {30, "-5"}, {230, "-1"}}) + line("30", "0.0"),
                       layer("A0", "walls", {{62, "3"}, {370, "-3"}}), block("chair", line("C3", "1"))};
     EXPECT_EQ(changes(older, newer), QStringList());
     EXPECT_EQ(objects_, QStringList());
@@ -136,23 +134,23 @@ TEST_F(DrawingChanges, AreOneRecordForEachValueWithTheOldOne)
     other[4].second = "5";
     other[7].second = "6";
     other.insert(other.begin() + 1, {70, "1"});
-    EXPECT_EQ(changes({line("2F", "0", "Walls") + entity("LWPOLYLINE", "30", polyline), layer("10", "Walls")},
-                      {entity("LWPOLYLINE", "30", other) + line("2F", "7", "Walls") +
-                           line("31", "1", "Doors"),
-                       layer("10", "Walls", {{62, "-3"}}) + layer("11", "Doors", {{62, "5"}})})
-                  .mid(0, 6),
-              QStringList({
-                  R"({"added":{"class":"AcDbLayerTableRecord","handle":"11","properties":[{"tag":"Name","value":"Doors"}]}})",
-                  modified("AcDbLayerTableRecord", "11", R"({"tag":"Color","value":{"color":{"index":5}}})"),
-                  modified("AcDbLayerTableRecord", "10",
-                           R"({"tag":"Color","value":{"color":{"index":3}},"old":{"color":{"index":7}}},)"
-                           R"({"tag":"Hidden","value":"Yes","old":"No"})"),
-                  modified("AcDbPolyline", "30",
-                           R"({"tag":"Closed","value":{"element":{"tag":{"int":0},"value":"Yes"}},)"
-                           R"("old":{"element":{"tag":{"int":1},"value":"No"}}})"),
-                  modified("AcDbPolyline", "30", R"({"tag":"Vertex X","value":5,"index":{"int":1},"old":4})"),
-                  modified("AcDbPolyline", "30", R"({"tag":"Vertex Y","value":6,"index":{"int":2},"old":3})"),
-              }));
+    EXPECT_EQ(
+        changes({line("2F", "0", "Walls") + entity("LWPOLYLINE", "30", polyline), layer("10", "Walls")},
+                {entity("LWPOLYLINE", "30", other) + line("2F", "7", "Walls") + line("31", "1", "Doors"),
+                 layer("10", "Walls", {{62, "-3"}}) + layer("11", "Doors", {{62, "5"}})})
+            .mid(0, 6),
+        QStringList({
+            R"({"added":{"class":"AcDbLayerTableRecord","handle":"11","properties":[{"tag":"Name","value":"Doors"}]}})",
+            modified("AcDbLayerTableRecord", "11", R"({"tag":"Color","value":{"color":{"index":5}}})"),
+            modified("AcDbLayerTableRecord", "10",
+                     R"({"tag":"Color","value":{"color":{"index":3}},"old":{"color":{"index":7}}},)"
+                     R"({"tag":"Hidden","value":"Yes","old":"No"})"),
+            modified("AcDbPolyline", "30",
+                     R"({"tag":"Closed","value":{"element":{"tag":{"int":0},"value":"Yes"}},)"
+                     R"("old":{"element":{"tag":{"int":1},"value":"No"}}})"),
+            modified("AcDbPolyline", "30", R"({"tag":"Vertex X","value":5,"index":{"int":1},"old":4})"),
+            modified("AcDbPolyline", "30", R"({"tag":"Vertex Y","value":6,"index":{"int":2},"old":3})"),
+        }));
     EXPECT_TRUE(objects_.contains("AcDbPolyline 30"));
     EXPECT_TRUE(objects_.contains("AcDbLayerTableRecord 10"));
     EXPECT_EQ(counted("changed", "LINE"), 1);
@@ -163,14 +161,15 @@ TEST_F(DrawingChanges, WithoutAStatementMakeTheEntityAnew)
 {
     const Groups corners{{10, "0"}, {20, "0"}, {10, "4"}, {20, "0"}};
     const Groups longer = corners + Groups{{10, "5"}, {20, "5"}};
-    const QStringList actions = changes(
-        {entity("LWPOLYLINE", "2F", Groups{{8, "0"}} + corners) + line("30", "1") +
-             entity("ELLIPSE", "31", {{8, "0"}, {11, "2"}, {21, "0"}, {40, "0.5"}})},
-        {entity("LWPOLYLINE", "2F", Groups{{8, "0"}} + longer) + entity("POINT", "30", {{8, "0"}, {10, "1"}}) +
-             entity("ELLIPSE", "31", {{8, "0"}, {11, "3"}, {21, "0"}, {40, "0.5"}})});
+    const QStringList actions =
+        changes({entity("LWPOLYLINE", "2F", Groups{{8, "0"}} + corners) + line("30", "1") +
+                 entity("ELLIPSE", "31", {{8, "0"}, {11, "2"}, {21, "0"}, {40, "0.5"}})},
+                {entity("LWPOLYLINE", "2F", Groups{{8, "0"}} + longer) + entity("POINT", "30", {{8, "0"}, {10, "1"}}) +
+                 entity("ELLIPSE", "31", {{8, "0"}, {11, "3"}, {21, "0"}, {40, "0.5"}})});
     ASSERT_EQ(actions.size(), 5);
-    EXPECT_EQ(actions[0], modified("AcDbEllipse", "31", R"({"tag":"Minor radius","value":1.5,"old":1},)"
-                                                        R"({"tag":"Major radius","value":3,"old":2})"));
+    EXPECT_EQ(actions[0], modified("AcDbEllipse", "31",
+                                   R"({"tag":"Minor radius","value":1.5,"old":1},)"
+                                   R"({"tag":"Major radius","value":3,"old":2})"));
     EXPECT_EQ(actions[1], erased("AcDbPolyline", "2F"));
     EXPECT_EQ(actions[2], erased("AcDbLine", "30"));
     // Their handles are used up.
@@ -185,12 +184,12 @@ TEST_F(DrawingChanges, OfLayersComeInTheOrderThatKeepsThemInUse)
     const QStringList actions =
         changes({line("2F", "1", "Walls") + line("30", "2", "Old"), layer("10", "Walls") + layer("11", "Old")},
                 {line("2F", "1", "Outer walls"), layer("10", "Outer walls")});
-    EXPECT_EQ(actions, QStringList({
-                           modified("AcDbLayerTableRecord", "10",
-                                    R"({"tag":"Name","value":"Outer walls","old":"Walls"})"),
-                           erased("AcDbLine", "30"),
-                           erased("AcDbLayerTableRecord", "11"),
-                       }));
+    EXPECT_EQ(actions,
+              QStringList({
+                  modified("AcDbLayerTableRecord", "10", R"({"tag":"Name","value":"Outer walls","old":"Walls"})"),
+                  erased("AcDbLine", "30"),
+                  erased("AcDbLayerTableRecord", "11"),
+              }));
 }
 
 TEST_F(DrawingChanges, OfABlockMakeItAnewAndLeaveItsReferences)
@@ -203,11 +202,12 @@ TEST_F(DrawingChanges, OfABlockMakeItAnewAndLeaveItsReferences)
     ASSERT_EQ(actions.size(), 3);
     EXPECT_TRUE(actions[0].contains(R"("handle":"B2")"));
     EXPECT_TRUE(actions[1].contains(R"("handle":"42")"));
-    EXPECT_EQ(actions[2],
-              modified("AcDbBlockTableRecord", "B0",
-                       R"({"tag":"Objects","value":{"collection":{"chosen":0,"elements":[{"tag":{"int":0},"value":"B2"},)"
-                       R"({"tag":{"int":1},"value":"42"}]}},"old":{"collection":{"chosen":0,"elements":[)"
-                       R"({"tag":{"int":0},"value":"40"}]}}})"));
+    EXPECT_EQ(
+        actions[2],
+        modified("AcDbBlockTableRecord", "B0",
+                 R"({"tag":"Objects","value":{"collection":{"chosen":0,"elements":[{"tag":{"int":0},"value":"B2"},)"
+                 R"({"tag":{"int":1},"value":"42"}]}},"old":{"collection":{"chosen":0,"elements":[)"
+                 R"({"tag":{"int":0},"value":"40"}]}}})"));
 }
 
 TEST_F(DrawingChanges, OfAttributesAreSetByTheirTags)
@@ -235,8 +235,8 @@ TEST_F(DrawingChanges, OfAttributesAreSetByTheirTags)
 
 TEST_F(DrawingChanges, OfADrawingWithoutHandlesAreToldWhereTheyCannotBeMade)
 {
-    const QStringList actions = changes({line("", "1") + line("", "2") + line("", "3")},
-                                        {line("", "3") + line("", "1") + line("", "4")});
+    const QStringList actions =
+        changes({line("", "1") + line("", "2") + line("", "3")}, {line("", "3") + line("", "1") + line("", "4")});
     ASSERT_EQ(actions.size(), 1);
     EXPECT_TRUE(actions[0].contains(R"({"tag":"Start X","value":4})"));
     EXPECT_EQ(counted("unchanged", "LINE"), 2);

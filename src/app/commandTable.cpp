@@ -236,9 +236,10 @@ const std::vector<OptionRow> importOptions = {
         .offer = Offer::Files,
         .take = takeSince,
         .meaning = "only what changed since that drawing",
-        .text = R"(Record what turns the older drawing in the file OLD into this one. Entities
-are known by their handles, and without by what they draw. A change is made
-of the older drawing's object, which a repaired macro fetches by its handle.)",
+        .text = R"(Record what turns the older drawing in the file OLD into this one.
+Entities are known by their handles, and without by what they draw. What
+changed is set for the older drawing's object, which a repaired macro
+fetches by its handle.)",
     },
     {
         .name = "--select",

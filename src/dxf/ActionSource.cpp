@@ -11,6 +11,12 @@ constexpr std::string_view kHeader = R"({"recording":{"version":1,"sheet":{"name
 
 const QString kModel = QStringLiteral("Model");
 
+/// A sheet that every new drawing has.
+bool isThereAnyway(const QString& sheet)
+{
+    return sheet == QLatin1String("Layout1") || sheet == QLatin1String("Layout2");
+}
+
 } // namespace
 
 QByteArray ActionSource::headerLine()
@@ -30,29 +36,30 @@ void ActionSource::tellBlock(const Blocks::Made& made, QByteArray& lines)
         line.with("isFromExternalReference", true).with("pathName", made.path);
 }
 
-void ActionSource::tellRecord(Contents& contents, const KindRow& table, const Entity& record, OdDbHandle handle,
-                              QByteArray& lines)
+void ActionSource::tell(Contents& contents, const Kind& kind, const Entity& entity, std::span<const Entity> parts,
+                        OdDbHandle handle, QByteArray& lines)
 {
+    contents.around().isForDrawing = true;
     try {
-        contents.read({&table, oddbClassByName(table.className)}, record, {}, handle, object_);
+        contents.read(kind, entity, parts, handle, object_);
         lines += object_.drawing;
     } catch (const Lost&) {
         // Told with the actions.
     }
+    contents.around().isForDrawing = false;
+}
+
+void ActionSource::tellRecord(Contents& contents, const KindRow& table, const Entity& record, OdDbHandle handle,
+                              QByteArray& lines)
+{
+    tell(contents, {&table, oddbClassByName(table.className)}, record, {}, handle, lines);
 }
 
 void ActionSource::tellEntity(Contents& contents, const Entity& entity, std::span<const Entity> parts,
                               OdDbHandle handle, QByteArray& lines)
 {
-    const Kind* const kind = findKind(entity.kind);
-    if (!kind || !kind->row->tellsDrawing)
-        return;
-    try {
-        contents.read(*kind, entity, parts, handle, object_);
-        lines += object_.drawing;
-    } catch (const Lost&) {
-        // Told with the actions.
-    }
+    if (const Kind* const kind = findKind(entity.kind); kind && kind->row->tellsDrawing)
+        tell(contents, *kind, entity, parts, handle, lines);
 }
 
 OdRxObjectPtr ActionSource::next()
@@ -65,13 +72,17 @@ OdRxObjectPtr ActionSource::next()
 
 void ActionSource::beginRun(const Contents::Run& run)
 {
-    if (!run.sheet.isNull())
-        recorder_.act(kSheetAction, {{CFxString(run.sheet)}});
+    if (run.sheet.isNull())
+        return;
+    // Without the sheet its entities would be drawn in model space.
+    if (!isThereAnyway(run.sheet))
+        recorder_.act(kSheetAction, {{CFxString("New")}, {CFxString(run.sheet)}});
+    recorder_.act(kSheetAction, {{CFxString(run.sheet)}});
 }
 
-void ActionSource::endRun(const Contents::Run& run, bool hasDrawn)
+void ActionSource::endRun(const Contents::Run& run)
 {
-    if (!run.sheet.isNull() && hasDrawn)
+    if (!run.sheet.isNull() && begun_ == &run)
         recorder_.act(kSheetAction, {{CFxString(kModel)}});
     if (run.block) {
         run.block->isMade = true;
@@ -104,12 +115,14 @@ void ActionSource::importRecord(Contents& contents, const KindRow& table, const 
     }
 }
 
-void ActionSource::importEntity(Contents& contents, const Entity& entity, std::span<const Entity> parts,
-                                OdDbHandle handle)
+void ActionSource::importEntity(Contents& contents, const Contents::Run& run, const Entity& entity,
+                                std::span<const Entity> parts, OdDbHandle handle)
 {
     offset_ = entity.begin;
     try {
         contents.readEntity(entity, parts, handle, object_);
+        if (std::exchange(begun_, &run) != &run)
+            beginRun(run);
         draw(contents.drawing(), entity);
     } catch (const Lost& lost) {
         lose(entity, parts, lost);

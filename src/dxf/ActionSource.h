@@ -32,11 +32,10 @@ protected:
 
     /// Records more; false when there is no more.
     virtual bool advance() = 0;
-    void beginRun(const Contents::Run& run);
-    /// `hasDrawn`: whether anything of it was.
-    void endRun(const Contents::Run& run, bool hasDrawn);
+    void endRun(const Contents::Run& run);
     void importRecord(Contents& contents, const KindRow& table, const Entity& record, OdDbHandle handle);
-    void importEntity(Contents& contents, const Entity& entity, std::span<const Entity> parts, OdDbHandle handle);
+    void importEntity(Contents& contents, const Contents::Run& run, const Entity& entity, std::span<const Entity> parts,
+                      OdDbHandle handle);
     void lose(const Entity& entity, std::span<const Entity> parts, const Lost& lost);
     /// What makes a block, of all that was drawn since the one before.
     virtual void recordBlock(const Blocks::Made& made, const std::vector<OdDbHandle>& members);
@@ -47,10 +46,14 @@ protected:
     std::size_t offset_ = 0;
 
 private:
+    void tell(Contents& contents, const Kind& kind, const Entity& entity, std::span<const Entity> parts,
+              OdDbHandle handle, QByteArray& lines);
+    void beginRun(const Contents::Run& run);
     void draw(Drawing& drawing, const Entity& entity);
     void leaveOut(const Entity& entity);
 
-    std::vector<OdDbHandle> members_; ///< of the block that is being made
+    const Contents::Run* begun_ = nullptr; ///< of which something has been drawn
+    std::vector<OdDbHandle> members_;      ///< of the block that is being made
 };
 
 } // namespace inkmacro::dxf

@@ -63,7 +63,8 @@ std::vector<std::vector<Property>> byNumber(std::vector<Property> changes)
 } // namespace
 
 Changes::Changes(Drawing& before, Drawing& after, OdDbDatabase& ids, const ImportOptions& options, ChangeForms forms)
-    : forms_(std::move(forms)), before_(before, ids, options),
+    : forms_(std::move(forms)),
+      before_(before, ids, options),
       after_((after.keepAbove(withUsualStyles(before_).highestHandle()), after), ids, options)
 {
     accounts_.since.emplace();
@@ -252,8 +253,8 @@ void Changes::compareBlock(const Contents::Run& run)
         const Paired paired = pairing_->pair(itemsOf(before_, &runBefore), items);
         const bool isSameEntity = paired.gone.empty() && paired.come.empty() &&
                                   std::all_of(paired.pairs.begin(), paired.pairs.end(), [](const Pair& pair) {
-                                  return pair.difference.isNone() || pair.difference.lost;
-                              });
+                                      return pair.difference.isNone() || pair.difference.lost;
+                                  });
         if (isSameEntity && isSame(before.base, made.base) && before.description == made.description &&
             before.path == made.path) {
             for (const Pair& pair : paired.pairs)
@@ -324,7 +325,9 @@ void Changes::noteChanged(const Pair& pair)
             ++(attributes-- > 0 ? accounts_.since->changed : accounts_.since->unchanged)["ATTRIB"];
     for (const char* const what : pair.difference.untold)
         accounts_.leaveOut(pair.after.entity->kind, what);
-    before_.readEntity(*pair.before.entity, pair.before.parts, OdDbHandle(pair.before.entity->handle), object_);
+    const OdDbHandle handle(pair.before.entity->handle);
+    before_.readEntity(*pair.before.entity, pair.before.parts, handle, object_);
+    noteTouched(object_.cls, handle);
     changed_.push_back({pair.before, pair.after, object_.cls});
 }
 
@@ -343,13 +346,26 @@ void Changes::noteGone(const Item& item)
         if (!object_.isStandIn)
             cls = object_.cls;
     } catch (const Lost&) {
-        // It is there all the same.
+        object_.drawing.clear(); // it is there all the same
     }
+    noteTouched(cls, handle);
     removals_.push_back({cls, handle});
     ++accounts_.since->erased[std::string(item.entity->kind)];
     for (const Entity& part : item.parts)
         if (part.kind == "ATTRIB")
             ++accounts_.since->erased["ATTRIB"];
+}
+
+void Changes::noteTouched(OdRxClass* cls, OdDbHandle handle)
+{
+    QByteArray line;
+    DrawingLine(line, cls->name().toLatin1().constData(), handle);
+    // What its kind tells of it besides.
+    const QByteArray begin = line.left(line.indexOf('}'));
+    for (const QByteArray& told : object_.drawing.split('\n'))
+        if (told.startsWith(begin))
+            line = told + '\n';
+    drawing_ += line;
 }
 
 void Changes::noteLayersOf(std::span<const Entity> entities)
@@ -431,10 +447,6 @@ QByteArray Changes::head()
         if (run.block && namedBlocks_.contains(run.block->insertable.name.toLower()))
             tellBlock(*run.block, lines);
     lines += drawing_;
-    for (const ChangedEntity& entity : changed_)
-        DrawingLine(lines, entity.cls->name().toLatin1().constData(), OdDbHandle(entity.before.entity->handle));
-    for (const Removal& removal : removals_)
-        DrawingLine(lines, removal.cls->name().toLatin1().constData(), removal.handle);
     drawing_.clear();
     after_.around().madeHandles.beginAgain();
     return lines;
@@ -516,14 +528,13 @@ bool Changes::drawNext(const std::vector<Drawn>& places)
     if (place_ == places.size())
         return false;
     const Drawn& place = places[place_];
-    if (item_ == 0)
-        beginRun(*place.run);
     if (item_ < place.items.size()) {
         const NewItem& one = place.items[item_++];
-        importEntity(after_, *one.item.entity, one.item.parts, one.handle);
+        after_.around().sheet = place.run->sheet;
+        importEntity(after_, *place.run, *one.item.entity, one.item.parts, one.handle);
     }
     if (item_ == place.items.size()) {
-        endRun(*place.run, true);
+        endRun(*place.run);
         ++place_;
         item_ = 0;
     }

@@ -81,6 +81,7 @@ private:
     void noteLayersOf(std::span<const Entity> entities);
     void noteSame(const Pair& pair);
     void noteChanged(const Pair& pair);
+    void noteTouched(OdRxClass* cls, OdDbHandle handle);
     void note(const DrawnObject& object);
     void note(const Property& property);
     void removeLayers();
@@ -110,7 +111,7 @@ private:
     std::vector<Drawn> newEntities_;
     std::vector<const NamedObjects::Named*> goneLayers_;
     std::vector<Removal> layerRemovals_;
-    QByteArray drawing_;                      ///< lines of what is drawn
+    QByteArray drawing_;                      ///< lines of what is drawn and touched
     std::unordered_set<quint64> named_;       ///< records that the recording speaks of
     std::unordered_set<QString> namedBlocks_; ///< in small letters
     std::unordered_set<QString> layersInUse_; ///< by what stays in the older drawing, in small letters

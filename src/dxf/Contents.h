@@ -74,6 +74,7 @@ void Contents::each(const Run& run, std::size_t& index, Use use)
         index = behind;
         if (!comesIn(run, entity) || (!run.block && !isOnChosenLayer(entity)))
             continue;
+        around_.sheet = run.sheet;
         if (!use(entity, parts))
             return;
     }

@@ -50,7 +50,8 @@ public:
 
     /// The last one of that name and code; an empty line for none.
     Group variable(std::string_view name, int code) const;
-    /// Of the table of that name: LAYER, LTYPE, STYLE, DIMSTYLE or BLOCK_RECORD.
+    /// Of the table of that name: LAYER, LTYPE, STYLE, DIMSTYLE or BLOCK_RECORD; and MLINESTYLE, whose records stand
+    /// among the objects.
     std::span<const Entity> table(std::string_view name) const;
     const std::vector<Block>& blocks() const { return blocks_; }
     std::span<const Entity> entities(const Block& block) const
@@ -90,6 +91,7 @@ private:
     };
 
     class Indexer;
+    std::vector<Entity>& tableOf(std::string_view kind);
     void settleHandles();
 
     std::string_view file_;
@@ -97,8 +99,8 @@ private:
     bool isValid_ = false;
     std::vector<Variable> variables_;
     /// The last one is for the records of all others, of which only the handles count.
-    std::array<Table, 6> tables_{
-        {{"LAYER", {}}, {"LTYPE", {}}, {"STYLE", {}}, {"DIMSTYLE", {}}, {"BLOCK_RECORD", {}}, {}}};
+    std::array<Table, 7> tables_{
+        {{"LAYER", {}}, {"LTYPE", {}}, {"STYLE", {}}, {"DIMSTYLE", {}}, {"BLOCK_RECORD", {}}, {"MLINESTYLE", {}}, {}}};
     std::vector<Block> blocks_;
     std::vector<Entity> blockEntities_;
     std::vector<Entity> entities_;

@@ -104,6 +104,8 @@ struct Lost
     const char* reason;
 };
 
+/// What no recording has of any entity.
+inline constexpr const char* kOtherData = "data of other applications";
 /// Of what can only stand upright or upside down.
 inline constexpr const char* kTilted = "its plane is tilted";
 /// Of texts.

@@ -190,7 +190,8 @@ struct KeyHash
 {
     std::size_t operator()(const Key& key) const
     {
-        return mixed(std::hash<std::string_view>()(key.tag) + qHash(key.ownTag) + mixed(static_cast<quint32>(key.index)));
+        return mixed(std::hash<std::string_view>()(key.tag) + qHash(key.ownTag) +
+                     mixed(static_cast<quint32>(key.index)));
     }
 };
 
@@ -255,8 +256,8 @@ Comparison::Comparison(const ChangeForms& forms, Contents& before, Contents& aft
     add("Transparency", OdCmTransparency());
     for (const char* const number : {"LineScale", "Spacing", "Line space factor"})
         add(number, 1.0);
-    for (const char* const number : {"Thickness", "Elevation", "Angle", "Height", "Rotation", kGlobalWidth, kStartWidth,
-                                     kEndWidth, kBulge})
+    for (const char* const number :
+         {"Thickness", "Elevation", "Angle", "Height", "Rotation", kGlobalWidth, kStartWidth, kEndWidth, kBulge})
         add(number, 0.0);
     for (const char* const text : {"Font", "BigFont", "Text override", "Description"})
         add(text, CFxString());
@@ -301,9 +302,10 @@ void Comparison::take(const DrawnObject& object, const Property& property, FactL
     }
     // Of a list of points each number can change alone.
     const auto& elements = property.value.GetCollection().GetCollectionDataForRead();
-    const bool arePoints = std::all_of(elements.begin(), elements.end(), [](const CFxVariantCollectionElement& element) {
-        return element.GetValue()->GetType() == CFxVariant::kPoint3d;
-    });
+    const bool arePoints =
+        std::all_of(elements.begin(), elements.end(), [](const CFxVariantCollectionElement& element) {
+            return element.GetValue()->GetType() == CFxVariant::kPoint3d;
+        });
     const auto axis = [&](const char* letter) { return tag(std::string(name) + ' ' + letter); };
     const char* const axes[] = {axis("X"), axis("Y"), axis("Z")};
     const bool hasZ = !handlingOf(object.cls, axes[2]);
@@ -592,8 +594,8 @@ void Comparison::take(const DrawnObject& object, Contents& contents, FactList& f
         const OdGePoint3d first{position("Position X"), position("Position Y"), position("Position Z")};
         std::int32_t index = 0;
         for (const OdGePoint3d& place : object.repeats)
-            facts.push_back({"place", OdGePoint3d{place.x - first.x, place.y - first.y, place.z - first.z}, index++, "",
-                             {}, true});
+            facts.push_back(
+                {"place", OdGePoint3d{place.x - first.x, place.y - first.y, place.z - first.z}, index++, "", {}, true});
     }
 }
 
@@ -629,8 +631,7 @@ void Comparison::compare(const OdRxClass* cls, const Fact& was, const Fact& is, 
 {
     if (isSame(was.value, is.value) || (isDirection(is.tag) && isSameDirection(was.value, is.value)))
         return;
-    const ChangeForm* const form = was.isFixed || is.isFixed ? nullptr
-                                                             : forms_(cls, CFxString(is.tag), is.group);
+    const ChangeForm* const form = was.isFixed || is.isFixed ? nullptr : forms_(cls, CFxString(is.tag), is.group);
     if (!form || form->isNumbered != (is.index != Fact::kSingle)) {
         difference.isOther = true;
         return;
@@ -670,15 +671,22 @@ void tellEachWidth(std::vector<Fact>& facts, std::vector<Fact>& other)
 
 void Comparison::compareAll(const OdRxClass* cls, Difference& difference)
 {
-    std::unordered_map<Key, const Fact*, KeyHash> was;
-    for (const Fact& fact : was_)
-        was.emplace(fact, &fact);
+    // The last one counts: what is changed behind an added object.
+    using ByKey = std::unordered_map<Key, const Fact*, KeyHash>;
+    const auto byKey = [](const FactList& facts) {
+        ByKey all;
+        for (const Fact& fact : facts)
+            all.insert_or_assign(Key(fact), &fact);
+        return all;
+    };
+    const ByKey was = byKey(was_);
+    ByKey is = byKey(is_);
     const auto compareWithUsual = [&](const Fact& fact, bool isNew) {
         if (isAttribute(fact)) {
             difference.untold.push_back("an attribute that comes or goes");
             return;
         }
-        Fact missing{fact.tag, usual(cls, fact), fact.index, fact.group, fact.ownTag, fact.isFixed};
+        const Fact missing{fact.tag, usual(cls, fact), fact.index, fact.group, fact.ownTag, fact.isFixed};
         if (missing.value.IsNull())
             difference.isOther = true;
         else if (isNew)
@@ -686,20 +694,25 @@ void Comparison::compareAll(const OdRxClass* cls, Difference& difference)
         else
             compare(cls, fact, missing, difference);
     };
-    std::unordered_set<Key, KeyHash> told;
+    // In their order.
     for (const Fact& fact : is_) {
-        if (!told.insert(Key(fact)).second)
+        const Key key(fact);
+        const auto last = is.find(key);
+        if (!last->second)
             continue;
-        if (const auto found = was.find(Key(fact)); found != was.end())
-            compare(cls, *found->second, fact, difference);
+        if (const auto found = was.find(key); found != was.end())
+            compare(cls, *found->second, *last->second, difference);
         else
-            compareWithUsual(fact, true);
+            compareWithUsual(*last->second, true);
+        last->second = nullptr;
         if (difference.isOther)
             return;
     }
-    for (const Fact& fact : was_)
-        if (!difference.isOther && told.insert(Key(fact)).second)
-            compareWithUsual(fact, false);
+    for (const Fact& fact : was_) {
+        const Key key(fact);
+        if (!difference.isOther && is.emplace(key, nullptr).second)
+            compareWithUsual(*was.at(key), false);
+    }
 }
 
 Difference Comparison::difference(const DrawnObject& before, const DrawnObject& after)
@@ -716,7 +729,8 @@ Difference Comparison::difference(const DrawnObject& before, const DrawnObject& 
     if (isOf(before.cls, "AcDbPolyline"))
         tellEachWidth(was_, is_);
     compareAll(before.cls, difference);
-    for (const auto& [one, other] : {std::pair(&before.untold, &after.untold), std::pair(&after.untold, &before.untold)})
+    for (const auto& [one, other] :
+         {std::pair(&before.untold, &after.untold), std::pair(&after.untold, &before.untold)})
         for (const char* const what : *one)
             if (std::none_of(other->begin(), other->end(), [&](const char* told) { return is(told, what); }))
                 difference.untold.push_back(what);

@@ -81,7 +81,8 @@ private:
     Contents& before_;
     Contents& after_;
     std::unordered_set<std::string> tags_; ///< that no source has as they stand
-    std::unordered_map<std::string_view, std::vector<std::pair<const char*, CFxVariant>>> usual_; ///< by tag, then class
+    std::unordered_map<std::string_view, std::vector<std::pair<const char*, CFxVariant>>>
+        usual_; ///< by tag, then class
     FactList was_;
     FactList is_;
 };

@@ -36,17 +36,14 @@ bool Import::advance()
     const Contents::Run& run = contents_.runs()[run_];
     bool isAtEnd = true;
     contents_.each(run, entity_, [&](const Entity& entity, std::span<const Entity> parts) {
-        if (!std::exchange(hasBegun_, true))
-            beginRun(run);
-        importEntity(contents_, entity, parts, OdDbHandle(entity.handle));
+        importEntity(contents_, run, entity, parts, OdDbHandle(entity.handle));
         isAtEnd = false;
         return false;
     });
     if (isAtEnd) {
-        endRun(run, hasBegun_);
+        endRun(run);
         ++run_;
         entity_ = 0;
-        hasBegun_ = false;
     }
     return true;
 }

@@ -23,7 +23,6 @@ private:
     Contents contents_;
     std::size_t run_ = 0;
     std::size_t entity_ = 0; ///< of the run; the one that comes next
-    bool hasBegun_ = false;  ///< the run
     bool hasTables_ = false;
 };
 

@@ -34,7 +34,8 @@ public:
     CFxVariant id(std::string_view bytes);
     /// Takes one in that no table has, under a new handle.
     void addUnlisted(std::string_view bytes);
-    /// What the recording calls the one that stands there among all, whatever the file says. Before its id is asked for.
+    /// What the recording calls the one that stands there among all, whatever the file says. Before its id is asked
+    /// for.
     void rename(std::size_t index, QString name, quint64 handle)
     {
         all_[index].name = std::move(name);

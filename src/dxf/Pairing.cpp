@@ -13,11 +13,12 @@ bool isOfFile(int code)
 {
     constexpr int handle = 5;
     constexpr int subclass = 100;
-    return code == handle || code == subclass || (code >= 320 && code < 370) || (code >= 390 && code < 400) ||
-           code == 480 || code == 481;
+    constexpr int brace = 102;
+    constexpr int handleInData = 1005;
+    return code == handle || code == subclass || code == brace || code == handleInData || (code >= 320 && code < 370) ||
+           (code >= 390 && code < 400) || code == 480 || code == 481;
 }
 
-/// Within entities that no recording has.
 bool isSameValue(const Group& left, const Group& right)
 {
     if (left.code != right.code)
@@ -25,6 +26,28 @@ bool isSameValue(const Group& left, const Group& right)
     const std::optional<double> one = left.real();
     const std::optional<double> other = right.real();
     return one && other ? isSame(*one, *other) : left.word() == right.word();
+}
+
+/// As the file has them, where no recording says what they mean.
+bool areSame(const std::vector<Group>& left, const std::vector<Group>& right)
+{
+    const auto skip = [](const std::vector<Group>& groups, std::size_t index) {
+        while (index < groups.size() && isOfFile(groups[index].code))
+            ++index;
+        return index;
+    };
+    std::size_t one = skip(left, 0);
+    std::size_t other = skip(right, 0);
+    while (one < left.size() && other < right.size() && isSameValue(left[one], right[other])) {
+        one = skip(left, one + 1);
+        other = skip(right, other + 1);
+    }
+    return one == left.size() && other == right.size();
+}
+
+bool hasOtherData(const DrawnObject& object)
+{
+    return std::find(object.untold.begin(), object.untold.end(), kOtherData) != object.untold.end();
 }
 
 } // namespace
@@ -50,22 +73,7 @@ bool Pairing::isSameRaw(const Entity& before, const Entity& after)
         return false;
     beforeGroups_.read(before);
     afterGroups_.read(after);
-    const auto skip = [](const std::vector<Group>& groups, std::size_t index) {
-        while (index < groups.size() && isOfFile(groups[index].code))
-            ++index;
-        return index;
-    };
-    const std::vector<Group>& one = beforeGroups_.groups();
-    const std::vector<Group>& other = afterGroups_.groups();
-    std::size_t left = skip(one, 0);
-    std::size_t right = skip(other, 0);
-    while (left < one.size() && right < other.size()) {
-        if (!isSameValue(one[left], other[right]))
-            return false;
-        left = skip(one, left + 1);
-        right = skip(other, right + 1);
-    }
-    return left == one.size() && right == other.size();
+    return areSame(beforeGroups_.groups(), afterGroups_.groups());
 }
 
 bool Pairing::isSameRaw(const Item& before, const Item& after)
@@ -80,14 +88,25 @@ Difference Pairing::difference(const Item& before, const Item& after)
     const OdDbHandle handle(before.entity->handle);
     const char* const lostBefore = read(before_, before, handle, was_);
     const char* const lostAfter = read(after_, after, handle, is_);
-    if (!lostBefore && !lostAfter)
-        return comparison_.difference(was_, is_);
     Difference difference;
+    if (!lostBefore && !lostAfter) {
+        difference = comparison_.difference(was_, is_);
+        if (hasOtherData(was_) && hasOtherData(is_) && !isSameData(*before.entity, *after.entity))
+            difference.untold.push_back(kOtherData);
+        return difference;
+    }
     if (!lostBefore || !lostAfter)
         difference.isOther = true;
     else if (!isSameRaw(before, after))
         difference.lost = lostAfter;
     return difference;
+}
+
+bool Pairing::isSameData(const Entity& before, const Entity& after)
+{
+    beforeGroups_.read(before);
+    afterGroups_.read(after);
+    return areSame(beforeGroups_.extendedData(), afterGroups_.extendedData());
 }
 
 std::uint64_t Pairing::rawHash(Contents& contents, const Item& item)
@@ -138,80 +157,73 @@ Pairing::Matches Pairing::match(Side& before, const Indexes& ofBefore, Side& aft
     return matches;
 }
 
-Paired Pairing::pair(std::vector<Item> before, std::vector<Item> after)
+std::vector<Pairing::Differing> Pairing::pairByHandle(Side& before, Side& after, std::vector<Pair>& pairs)
 {
-    Side was{std::move(before), {}, {}};
-    Side is{std::move(after), {}, {}};
-    was.hashes.resize(was.items.size());
-    is.hashes.resize(is.items.size());
-    Paired paired;
     std::unordered_map<quint64, std::uint32_t> byHandle;
-    byHandle.reserve(was.items.size());
-    for (std::uint32_t index = 0; index < was.items.size(); ++index)
-        if (was.items[index].entity->hadHandle)
-            byHandle.emplace(was.items[index].entity->handle, index);
-
-    struct Differing
-    {
-        std::uint32_t before;
-        std::uint32_t after;
-        Difference difference;
-    };
+    byHandle.reserve(before.items.size());
+    for (std::uint32_t index = 0; index < before.items.size(); ++index)
+        if (before.items[index].entity->hadHandle)
+            byHandle.emplace(before.items[index].entity->handle, index);
     std::vector<Differing> differing;
-    std::vector<bool> isPaired(was.items.size());
-    for (std::uint32_t index = 0; index < is.items.size(); ++index) {
-        const Entity& entity = *is.items[index].entity;
-        const auto found = entity.hadHandle ? byHandle.find(entity.handle) : byHandle.end();
+    std::vector<bool> isPaired(before.items.size());
+    for (std::uint32_t index = 0; index < after.items.size(); ++index) {
+        const Item& item = after.items[index];
+        const auto found = item.entity->hadHandle ? byHandle.find(item.entity->handle) : byHandle.end();
         if (found == byHandle.end()) {
-            is.left.push_back(index);
+            after.left.push_back(index);
             continue;
         }
         isPaired[found->second] = true;
-        Difference difference = this->difference(was.items[found->second], is.items[index]);
+        const Item& same = before.items[found->second];
+        Difference difference = this->difference(same, item);
         if (difference.isNone())
-            paired.pairs.push_back({was.items[found->second], is.items[index], std::move(difference)});
+            pairs.push_back({same, item, std::move(difference)});
         else
             differing.push_back({found->second, index, std::move(difference)});
     }
-    for (std::uint32_t index = 0; index < was.items.size(); ++index)
+    for (std::uint32_t index = 0; index < before.items.size(); ++index)
         if (!isPaired[index])
-            was.left.push_back(index);
+            before.left.push_back(index);
+    return differing;
+}
 
-    Matches matches = match(was, was.left, is, is.left);
-    std::vector<bool> isMatchedBefore(was.items.size());
-    std::vector<bool> isMatchedAfter(is.items.size());
-    if (!differing.empty()) {
-        Indexes ofBefore = was.left;
-        Indexes ofAfter = is.left;
-        for (const Differing& each : differing) {
-            ofBefore.push_back(each.before);
-            ofAfter.push_back(each.after);
-        }
-        std::sort(ofBefore.begin(), ofBefore.end());
-        std::sort(ofAfter.begin(), ofAfter.end());
-        Matches others = match(was, ofBefore, is, ofAfter);
-        std::vector<bool> isBefore(was.items.size());
-        std::vector<bool> isAfter(is.items.size());
-        for (const auto& [one, other] : others)
-            isBefore[one] = isAfter[other] = true;
-        const auto both = static_cast<std::size_t>(
-            std::count_if(differing.begin(), differing.end(),
-                          [&](const Differing& each) { return !isBefore[each.before] && !isAfter[each.after]; }));
-        const std::size_t byHandles = differing.size() + was.left.size() + is.left.size() - 2 * matches.size();
-        const std::size_t byLooks = ofBefore.size() + ofAfter.size() - 2 * others.size() - both;
-        // Handles of their own files, which only happen to be the same.
-        if (2 * byLooks < byHandles) {
-            matches = std::move(others);
-            isMatchedBefore = std::move(isBefore);
-            isMatchedAfter = std::move(isAfter);
-        }
+Pairing::Matches Pairing::matchRest(Side& before, Side& after, const std::vector<Differing>& differing)
+{
+    Matches matches = match(before, before.left, after, after.left);
+    if (differing.empty())
+        return matches;
+    Indexes ofBefore = before.left;
+    Indexes ofAfter = after.left;
+    for (const Differing& each : differing) {
+        ofBefore.push_back(each.before);
+        ofAfter.push_back(each.after);
     }
-    for (const auto& [one, other] : matches) {
-        isMatchedBefore[one] = isMatchedAfter[other] = true;
+    std::sort(ofBefore.begin(), ofBefore.end());
+    std::sort(ofAfter.begin(), ofAfter.end());
+    Matches byLooks = match(before, ofBefore, after, ofAfter);
+    const Matched matched(byLooks, before, after);
+    const auto stillPaired =
+        static_cast<std::size_t>(std::count_if(differing.begin(), differing.end(), [&](const Differing& each) {
+            return !matched.before[each.before] && !matched.after[each.after];
+        }));
+    const std::size_t changes = differing.size() + before.left.size() + after.left.size() - 2 * matches.size();
+    const std::size_t changesByLooks = ofBefore.size() + ofAfter.size() - 2 * byLooks.size() - stillPaired;
+    // With half the changes, handles of two files only happen to be the same.
+    return 2 * changesByLooks < changes ? byLooks : matches;
+}
+
+Paired Pairing::pair(std::vector<Item> before, std::vector<Item> after)
+{
+    Side was(std::move(before));
+    Side is(std::move(after));
+    Paired paired;
+    std::vector<Differing> differing = pairByHandle(was, is, paired.pairs);
+    const Matches matches = matchRest(was, is, differing);
+    const Matched matched(matches, was, is);
+    for (const auto& [one, other] : matches)
         paired.pairs.push_back({was.items[one], is.items[other], difference(was.items[one], is.items[other])});
-    }
     for (Differing& each : differing) {
-        if (isMatchedBefore[each.before] || isMatchedAfter[each.after] || each.difference.isOther) {
+        if (matched.before[each.before] || matched.after[each.after] || each.difference.isOther) {
             was.left.push_back(each.before);
             is.left.push_back(each.after);
         } else {
@@ -221,10 +233,10 @@ Paired Pairing::pair(std::vector<Item> before, std::vector<Item> after)
     std::sort(was.left.begin(), was.left.end());
     std::sort(is.left.begin(), is.left.end());
     for (const std::uint32_t index : was.left)
-        if (!isMatchedBefore[index])
+        if (!matched.before[index])
             paired.gone.push_back(was.items[index]);
     for (const std::uint32_t index : is.left)
-        if (!isMatchedAfter[index])
+        if (!matched.after[index])
             paired.come.push_back(is.items[index]);
     return paired;
 }

@@ -34,7 +34,10 @@ class Pairing
 public:
     /// All have to outlive this.
     Pairing(Comparison& comparison, Contents& before, Contents& after)
-        : comparison_(comparison), before_(before), after_(after), beforeGroups_(before.drawing()),
+        : comparison_(comparison),
+          before_(before),
+          after_(after),
+          beforeGroups_(before.drawing()),
           afterGroups_(after.drawing())
     {
     }
@@ -49,9 +52,30 @@ private:
 
     struct Side
     {
+        explicit Side(std::vector<Item> all) : items(std::move(all)), hashes(items.size()) {}
+
         std::vector<Item> items;
         std::vector<std::uint64_t> hashes; ///< of the items; 0 for one that is not known yet
-        Indexes left;                      ///< the items that no other has the handle of
+        Indexes left = {};                 ///< the items that no other has the handle of
+    };
+    /// With the same handle.
+    struct Differing
+    {
+        std::uint32_t before;
+        std::uint32_t after;
+        Difference difference;
+    };
+    struct Matched
+    {
+        Matched(const Matches& matches, const Side& all, const Side& allAfter)
+            : before(all.items.size()), after(allAfter.items.size())
+        {
+            for (const auto& [one, other] : matches)
+                before[one] = after[other] = true;
+        }
+
+        std::vector<bool> before;
+        std::vector<bool> after;
     };
 
     /// Gives why it is lost, else null, and leaves the numbers of made-up objects as they are.
@@ -60,6 +84,11 @@ private:
     std::uint64_t rawHash(Contents& contents, const Item& item);
     bool isSameRaw(const Entity& before, const Entity& after);
     bool isSameRaw(const Item& before, const Item& after);
+    bool isSameData(const Entity& before, const Entity& after);
+    /// Pairs those that are the same too, and gives the others.
+    std::vector<Differing> pairByHandle(Side& before, Side& after, std::vector<Pair>& pairs);
+    /// Of what is left, or of all that is not the same by now.
+    Matches matchRest(Side& before, Side& after, const std::vector<Differing>& differing);
     Matches match(Side& before, const Indexes& ofBefore, Side& after, const Indexes& ofAfter);
 
     Comparison& comparison_;

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "dxf/DrawnObject.h"
-#include "dxf/EntityReader.h"
+#include "dxf/GroupPieces.h"
 #include "dxf/NamedObjects.h"
 
 #include <functional>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace inkmacro::dxf {
@@ -38,6 +39,26 @@ private:
     std::size_t given_ = 0;
 };
 
+/// What entities refer to, among the objects that are drawn nowhere.
+class ObjectsByHandle
+{
+public:
+    explicit ObjectsByHandle(const Drawing& drawing) : drawing_(drawing) {}
+    /// Null for none of that kind.
+    const Entity* find(std::string_view kind, quint64 handle)
+    {
+        if (byHandle_.empty())
+            for (const Entity& object : drawing_.objects())
+                byHandle_.emplace(object.handle, &object);
+        const auto found = byHandle_.find(handle);
+        return found != byHandle_.end() && found->second->kind == kind ? found->second : nullptr;
+    }
+
+private:
+    const Drawing& drawing_;
+    std::unordered_map<quint64, const Entity*> byHandle_;
+};
+
 /// What the entities of a drawing are read with.
 struct Surroundings
 {
@@ -49,6 +70,7 @@ struct Surroundings
           textStyles(drawing, ids, "STYLE"),
           dimensionStyles(drawing, ids, "DIMSTYLE"),
           blockRecords(drawing, ids, "BLOCK_RECORD"),
+          objects(drawing),
           madeHandles(drawing)
     {
     }
@@ -63,6 +85,9 @@ struct Surroundings
     NamedObjects textStyles;
     NamedObjects dimensionStyles;
     NamedObjects blockRecords;
+    ObjectsByHandle objects;
+    bool isForDrawing = false; ///< nothing but the lines of the drawing is asked for
+    QString sheet;             ///< on which the entity lies; null for model space and blocks
     /// By the records of their styles, once they were asked for.
     std::unordered_map<const Entity*, std::vector<Group>> dimensionVariables;
     /// The block that can be inserted where the entity stands. Throws Lost.
@@ -93,6 +118,10 @@ std::span<const KindRow> tableKinds();
 
 /// Null for a kind that no recording has.
 const Kind* findKind(std::string_view kind);
+
+/// A color number, or the red, green and blue of a true color; nothing for the layer's color.
+std::optional<OdCmColor> colorOf(Piece piece);
+OdCmColor trueColorOf(const Group& group);
 
 /// What all entities have: layer, color, line style and so on. Behind `read`, since it depends on how the object is
 /// made where that stands.

@@ -88,8 +88,9 @@ TEST(DxfFiles, GiveWhatTheyHaveWhereverTheyEnd)
             EXPECT_EQ(drawing.isValid(), cut.find("SECTION") != std::string::npos &&
                                              (file != whole || length >= std::strlen("0\nSECTION")))
                 << length;
-            if (drawing.isValid())
+            if (drawing.isValid()) {
                 EXPECT_LE(imported(cut).actions.size(), 2U) << length;
+            }
         }
     EXPECT_EQ(imported(whole.substr(0, whole.find("\nENDSEC"))).actions.size(), 2U);
 }
