@@ -212,7 +212,7 @@ std::vector<Entity>& Drawing::tableOf(std::string_view kind)
     for (Table& table : tables_)
         if (table.name == kind)
             return table.records;
-    return tables_.emplace_back(Table{kind, {}}).records;
+    return tables_.back().records;
 }
 
 Group Drawing::variable(std::string_view name, int code) const
@@ -265,6 +265,7 @@ void Drawing::settleHandles()
             doubled.insert(handles[i]);
     const quint64 seed = variable("$HANDSEED", 5).handle();
     nextHandle_ = std::max<quint64>(seed, handles.empty() ? 1 : handles.back() + 1);
+    firstGiven_ = nextHandle_;
     taken_ = std::move(handles);
 
     // The first of several keeps its handle.
@@ -275,6 +276,11 @@ void Drawing::settleHandles()
         entity->hadHandle = false;
         entity->handle = newHandle();
     }
+}
+
+bool Drawing::hasHandle(quint64 handle) const
+{
+    return (handle >= firstGiven_ && handle < nextHandle_) || std::binary_search(taken_.begin(), taken_.end(), handle);
 }
 
 quint64 Drawing::newHandle()

@@ -29,6 +29,9 @@ public:
         return OdDbHandle(handles_[given_++]);
     }
     void beginAgain() { given_ = 0; }
+    /// How many are given; to go back to that place.
+    std::size_t place() const { return given_; }
+    void goTo(std::size_t place) { given_ = place; }
 
 private:
     Drawing& drawing_;
@@ -72,6 +75,9 @@ struct Surroundings
     {
     }
 
+    /// What a table of that name holds; null for one that nothing refers to by name.
+    NamedObjects* table(std::string_view name);
+
     Drawing& drawing;
     OdDbDatabase& ids;
     NamedObjects layers;
@@ -82,6 +88,8 @@ struct Surroundings
     ObjectsByHandle objects;
     bool isForDrawing = false; ///< nothing but the lines of the drawing is asked for
     QString sheet;             ///< on which the entity lies; null for model space and blocks
+    /// By the records of their styles, once they were asked for.
+    std::unordered_map<const Entity*, std::vector<Group>> dimensionVariables;
     /// The block that can be inserted where the entity stands. Throws Lost.
     std::function<const Insertable&(std::string_view name)> insertable;
     /// For what an entity is made from: the same ones again when it is read again.

@@ -46,6 +46,7 @@ void drawIn3d(const PlanePolyline& polyline, const Direction& direction, DrawnOb
     for (const Vertex& vertex : polyline.vertices)
         points.push_back(direction.toWorld({vertex.point.x, vertex.point.y, polyline.elevation}));
     object.cls = oddbClassByName("AcDb3dPolyline");
+    object.isStandIn = true;
     object.add("Vertex", pointList(points));
     object.add("Closed", yesOrNo(polyline.isClosed));
 }

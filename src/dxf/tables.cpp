@@ -125,4 +125,14 @@ std::span<const KindRow> tableKinds()
     return kTables;
 }
 
+NamedObjects* Surroundings::table(std::string_view name)
+{
+    const std::pair<std::string_view, NamedObjects*> tables[] = {
+        {"LAYER", &layers}, {"LTYPE", &lineStyles}, {"STYLE", &textStyles}, {"DIMSTYLE", &dimensionStyles}};
+    for (const auto& [known, objects] : tables)
+        if (known == name)
+            return objects;
+    return nullptr;
+}
+
 } // namespace inkmacro::dxf

@@ -84,7 +84,7 @@ class Comparison:
             for ahead in own[:1] or range(at, len(wanted)):
                 _, entity, wanted_cls, wanted_form = wanted[ahead]
                 near = max(expected.NEAR, self.deviations.get(entity.dxftype(), 0))
-                off = "of another class"
+                off = "of another class" if wanted_cls or not own else None  # There is no telling.
                 if wanted_cls and wanted_cls in cls:
                     off = expected.difference(wanted_form, form, near)
                     if self.drawing.rule == "cut" and form is found[-1][2]:

@@ -130,7 +130,7 @@ def dimension(e, _):
         6: lambda: ("OrdinateDimension", {"definingPoint": point(2), "leaderEndPoint": point(3),
                                           "x": int(bool(e.dxf.dimtype & 64))}),
         8: lambda: ("ArcDimension", {"xLine1Point": point(2), "xLine2Point": point(3), "arcPoint": point(0)}),
-    }[e.dxf.dimtype & 15]()
+    }[8 if e.dxftype() == "ARC_DIMENSION" else e.dxf.dimtype & 15]()
     return cls, form | {"text": e.dxf.text.replace("<>", "", e.dxf.text == "<>")}
 
 
@@ -191,7 +191,7 @@ KINDS = {
     "CIRCLE": flat("Circle", center=at("center"), radius=lambda e, _: e.dxf.radius),
     "ARC": arc, "ELLIPSE": ellipse, "SPLINE": spline, "LWPOLYLINE": lwpolyline, "POLYLINE": old_polyline,
     "INSERT": insert, "DIMENSION": dimension, "ARC_DIMENSION": dimension, "HATCH": hatch,
-    "SOLID": flat("Solid", vertices=corners), "TRACE": flat("Trace", vertices=corners),
+    "SOLID": flat("Solid", vertices=corners), "TRACE": flat("Solid", vertices=corners),
     "3DFACE": lambda e, _: ("Face", {"vertices": corners(e, OCS()), "edges": [
         "Hidden" if e.dxf.invisible >> n & 1 else "Visible" for n in range(4)]}),
     "TEXT": lambda e, ocs: ("Text", {"contents": said(e.dxf.text), **text(e, ocs), **tilted(ocs)}),
