@@ -92,6 +92,7 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
         {{"check", "a", "--handle=A"}, "--handle is no option of check, but of inspect and snapshot"},
         {{"schema", "reprot"}, "\"reprot\" is none of recording, report, map, verification; did you mean report?"},
         {{"import", "a", "--select", "Walls,,Doors"}, "--select: a name is empty in \"Walls,,Doors\""},
+        {{"import", "a", "--since", "-"}, "--since: the older drawing must be a file, not standard input"},
         {{"import", "a", "--tolerance", "nan"}, "--tolerance: \"nan\" is no number above 0 and up to 1"},
         {{"verify", "a", "--macro", "-"}, "--macro: the macro must be a file, not standard input"},
         {{"classes", "AcDbLien"}, "\"AcDbLien\" is none of the 52 known names; did you mean AcDbLine?"},

@@ -94,7 +94,11 @@ std::int32_t ConvertActionErase(Conversion& conversion, const CFxCustomAction& a
 std::int32_t ConvertActionAttributeValue(Conversion& conversion, const CFxCustomAction& action, Statement& text)
 {
     CFxString name;
-    conversion.names().ResolveVariable(action.GetData(0).GetHandle(), action.GetData(1).GetClass(), name);
+    const OdDbHandle block = action.GetData(0).GetHandle();
+    const OdRxClass* const cls = action.GetData(1).GetClass();
+    conversion.names().ResolveVariable(block, cls, name);
+    if (name.isEmpty())
+        name = conversion.names().FetchedUnknown(block, cls);
     takeVariable(conversion.writer, text, name.isEmpty() ? HandedVariable::Kept : HandedVariable::Replaced);
     if (name.isEmpty())
         return PassOver(action, "the macro does not have the block");

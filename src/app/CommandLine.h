@@ -93,6 +93,7 @@ struct CommandLine
     bool force = false;           ///< projects of other recordings are replaced
     HostSettings host;
     dxf::ImportOptions import;
+    std::optional<QString> since; ///< the older drawing, of which only what changed is imported
     Telling telling;
     OdDbHandle handle;                           ///< of the object that is shown; null for all
     std::optional<QString> hostCommand;          ///< the name of the command that is run, or of those that are shown

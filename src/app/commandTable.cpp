@@ -231,6 +231,17 @@ const std::vector<OptionRow> importOptions = {
         .text = "The file that the recording goes to; - is standard output, as without it.",
     },
     {
+        .name = "--since",
+        .form = "OLD",
+        .offer = Offer::Files,
+        .take = takeSince,
+        .meaning = "only what changed since that drawing",
+        .text = R"(Record what turns the older drawing in the file OLD into this one.
+Entities are known by their handles, and without by what they draw. What
+changed is set for the older drawing's object, which a repaired macro
+fetches by its handle.)",
+    },
+    {
         .name = "--select",
         .form = "LAYER[,LAYER...]",
         .take = takeLayers,

@@ -15,6 +15,17 @@ QString shown(const std::string& text)
     return printable(QString::fromUtf8(text.data(), static_cast<int>(text.size())));
 }
 
+void addCounts(JsonOut& out, std::string_view name, const dxf::Accounts::ByKind& counts)
+{
+    out.key(name);
+    out.beginObject();
+    for (const auto& [kind, count] : counts) {
+        out.key(shown(kind));
+        out.integer(count);
+    }
+    out.endObject();
+}
+
 void addList(JsonOut& out, std::string_view name, const dxf::Accounts::ByReason& entries, std::string_view key)
 {
     out.key(name);
@@ -45,13 +56,7 @@ qint64 total(const dxf::Accounts::ByReason& entries)
 QByteArray importMembers(const dxf::Accounts& accounts)
 {
     JsonOut out{CFxValueContext{}};
-    out.key(std::string_view("imported"));
-    out.beginObject();
-    for (const auto& [kind, count] : accounts.imported) {
-        out.key(shown(kind));
-        out.integer(count);
-    }
-    out.endObject();
+    addCounts(out, "imported", accounts.imported);
     out.key(std::string_view("approximated"));
     out.beginArray();
     for (const auto& [kind, curves] : accounts.approximated) {
@@ -67,6 +72,11 @@ QByteArray importMembers(const dxf::Accounts& accounts)
     out.endArray();
     addList(out, "lost", accounts.lost, "reason");
     addList(out, "untold", accounts.untold, "what");
+    if (accounts.since) {
+        addCounts(out, "changed", accounts.since->changed);
+        addCounts(out, "erased", accounts.since->erased);
+        addCounts(out, "unchanged", accounts.since->unchanged);
+    }
     return out.bytes();
 }
 
@@ -86,8 +96,16 @@ QString importText(const dxf::Accounts& accounts)
 QStringList importLines(const dxf::Accounts& accounts)
 {
     QStringList lines;
-    for (const auto& [kind, count] : accounts.imported)
-        lines.append(QString("%1 %2 imported").arg(count).arg(shown(kind)));
+    const auto add = [&](const dxf::Accounts::ByKind& counts, const char* what) {
+        for (const auto& [kind, count] : counts)
+            lines.append(QString("%1 %2 %3").arg(count).arg(shown(kind), what));
+    };
+    add(accounts.imported, "imported");
+    if (accounts.since) {
+        add(accounts.since->changed, "changed");
+        add(accounts.since->erased, "erased");
+        add(accounts.since->unchanged, "unchanged");
+    }
     for (const auto& [kind, curves] : accounts.approximated)
         lines.append(QString("%1 %2 approximated, by at most %3")
                          .arg(curves.count)

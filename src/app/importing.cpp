@@ -5,9 +5,11 @@
 #include "app/ExitStatus.h"
 #include "app/ProgressLine.h"
 #include "app/StagedResult.h"
+#include "app/changeForms.h"
 #include "app/console.h"
 #include "app/importReport.h"
 #include "app/reading.h"
+#include "dxf/Changes.h"
 #include "dxf/DrawingFile.h"
 #include "dxf/Import.h"
 #include "recordfile/JsonOut.h"
@@ -21,7 +23,7 @@ namespace {
 constexpr int kPiece = 1 << 16;
 
 /// Gives `write` the lines of the recording, piece by piece; it says whether they could be written.
-bool writeLines(dxf::Import& import, qint64 size, const std::function<bool(const QByteArray&)>& write)
+bool writeLines(dxf::ActionSource& import, qint64 size, const std::function<bool(const QByteArray&)>& write)
 {
     ProgressLine line([&] { return "reading " + progressBar(static_cast<qint64>(import.offset()), size); });
     if (!write(import.head()))
@@ -41,7 +43,7 @@ bool writeLines(dxf::Import& import, qint64 size, const std::function<bool(const
 }
 
 /// Raises PlacingError.
-void writeFile(dxf::Import& import, qint64 size, const QString& output)
+void writeFile(dxf::ActionSource& import, qint64 size, const QString& output)
 {
     StagedResult result({output});
     QFile file(result.firstFile());
@@ -53,43 +55,71 @@ void writeFile(dxf::Import& import, qint64 size, const QString& output)
     result.place();
 }
 
+QString shownName(const QString& path)
+{
+    return path == "-" ? QStringLiteral("standard input") : path;
+}
+
+/// A drawing and the file that it is in.
+struct OpenedDrawing
+{
+    dxf::DrawingFile file;
+    std::optional<dxf::Drawing> drawing;
+
+    /// Tells why when it cannot be read.
+    bool open(const QString& path)
+    {
+        const QString name = shownName(path);
+        if (!file.open(path)) {
+            printLine(name + ": cannot be read: " + file.error());
+            return false;
+        }
+        drawing.emplace(file.bytes());
+        if (!drawing->isValid())
+            printLine(name + ": " + kNoDrawing);
+        return drawing->isValid();
+    }
+};
+
+std::unique_ptr<dxf::ActionSource> sourceOf(OpenedDrawing& opened, std::optional<OpenedDrawing>& older,
+                                            OdDbDatabase& ids, const CommandLine& line)
+{
+    if (older)
+        return std::make_unique<dxf::Changes>(*older->drawing, *opened.drawing, ids, line.import, changeForms());
+    return std::make_unique<dxf::Import>(*opened.drawing, ids, line.import);
+}
+
 } // namespace
 
 int importDrawing(const CommandLine& line)
 {
     const QString path = line.files.front();
-    const QString name = path == "-" ? QStringLiteral("standard input") : path;
-    dxf::DrawingFile file;
-    if (!file.open(path)) {
-        printLine(name + ": cannot be read: " + file.error());
+    const QString name = shownName(path);
+    OpenedDrawing opened;
+    std::optional<OpenedDrawing> older;
+    if (!opened.open(path) || (line.since && !older.emplace().open(*line.since)))
         return kUnreadable;
-    }
-    dxf::Drawing drawing(file.bytes());
-    if (!drawing.isValid()) {
-        printLine(name + ": " + kNoDrawing);
-        return kUnreadable;
-    }
     OdDbDatabase ids;
-    dxf::Import import(drawing, ids, line.import);
-    const auto size = static_cast<qint64>(file.bytes().size());
+    const std::unique_ptr<dxf::ActionSource> import = sourceOf(opened, older, ids, line);
+    const auto size = static_cast<qint64>(opened.file.bytes().size());
     const bool toOutput = !line.output || line.output == "-";
     try {
         if (toOutput)
-            writeLines(import, size, [](const QByteArray& lines) {
+            writeLines(*import, size, [](const QByteArray& lines) {
                 printOut(lines);
                 return true;
             });
         else
-            writeFile(import, size, *line.output);
+            writeFile(*import, size, *line.output);
     } catch (const PlacingError& error) {
         complain(error.message());
         return kFailed;
     }
     if (line.telling.report != ReportForm::None) {
-        const QByteArray report = '{' + importMembers(import.accounts()) + "}\n";
+        const QByteArray report = '{' + importMembers(import->accounts()) + "}\n";
         toOutput ? printError(report) : printOut(report);
     } else if (!line.telling.quiet) {
-        for (const QString& told : importLines(import.accounts()))
+        for (const QString& told : importLines(import->accounts()))
             printLine(name + ": " + told);
     }
     return kDone;

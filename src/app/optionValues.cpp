@@ -81,6 +81,14 @@ void takeOutput(CommandLine& line, const QString& path)
     line.output = path;
 }
 
+void takeSince(CommandLine& line, const QString& path)
+{
+    refuseEmptyPath(path);
+    if (path == "-")
+        throw WrongUse("the older drawing must be a file, not standard input");
+    line.since = path;
+}
+
 void takeLayers(CommandLine& line, const QString& list)
 {
     for (const QString& layer : list.split(',')) {

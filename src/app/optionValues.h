@@ -7,6 +7,7 @@ namespace inkmacro {
 /// What the values of options come to in a command line. All of them raise WrongUse, without the option's name.
 void takeTargets(CommandLine& line, const QString& list);
 void takeOutput(CommandLine& line, const QString& path);
+void takeSince(CommandLine& line, const QString& path);
 void takeLayers(CommandLine& line, const QString& list);
 void takeTolerance(CommandLine& line, const QString& number);
 void takeMacro(CommandLine& line, const QString& path);

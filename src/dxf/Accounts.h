@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,10 +20,20 @@ struct Accounts
     };
     using ByReason = std::map<std::pair<std::string, std::string>, qint64>; ///< kind, and why or what
 
-    std::map<std::string, qint64> imported;
+    using ByKind = std::map<std::string, qint64>;
+    /// Of entities that another drawing has too, or had.
+    struct Since
+    {
+        ByKind changed;
+        ByKind erased;
+        ByKind unchanged;
+    };
+
+    ByKind imported;
     std::map<std::string, Approximated> approximated;
     ByReason lost;
     ByReason untold; ///< what the file says of imported entities and the recording does not
+    std::optional<Since> since;
 
     void lose(std::string_view kind, const char* reason) { ++lost[{std::string(kind), reason}]; }
     void leaveOut(std::string_view kind, const char* what) { ++untold[{std::string(kind), what}]; }

@@ -30,7 +30,7 @@ Blocks::Blocks(Drawing& drawing) : drawing_(drawing)
         const QString key = block.name.toLower();
         if (byName_.contains(key))
             continue; // the first of two counts
-        byName_.emplace(key, &all_.emplace_back(Made{&block, {}, {}, {}, {}, false, false}));
+        byName_.emplace(key, &all_.emplace_back(Made{&block, {}, block.record, {}, {}, {}, false, false}));
         if (!block.name.startsWith('*'))
             names_.insert(key);
     }
@@ -86,22 +86,25 @@ void Blocks::describe(Made& made)
     }
 }
 
+Blocks::Made* Blocks::find(const QString& name) const
+{
+    const auto found = byName_.find(name.toLower());
+    return found == byName_.end() ? nullptr : found->second;
+}
+
 const Insertable& Blocks::insertable(std::string_view name) const
 {
-    const auto found = byName_.find(drawing_.decoder().text(name).toLower());
-    if (found == byName_.end())
+    const Made* const made = find(drawing_.decoder().text(name));
+    if (!made)
         throw Lost{"there is no such block"};
-    if (!found->second->isMade)
+    if (!made->isMade)
         throw Lost{"its block holds itself"};
-    return found->second->insertable;
+    return made->insertable;
 }
 
 Blocks::Made* Blocks::insertedBy(const Entity& entity)
 {
-    if (entity.kind != "INSERT")
-        return nullptr;
-    const auto found = byName_.find(drawing_.nameOf(entity).toLower());
-    return found == byName_.end() ? nullptr : found->second;
+    return entity.kind == "INSERT" ? find(drawing_.nameOf(entity)) : nullptr;
 }
 
 std::vector<Blocks::Made*> Blocks::insertedInto(const Made& made)

@@ -13,6 +13,7 @@ public:
     {
         const Block* block;
         Insertable insertable;
+        quint64 handle; ///< of its record
         OdGePoint3d base;
         QString description;
         QString path;            ///< of the drawing that it shows; null when it is none of another file
@@ -28,6 +29,8 @@ public:
 
     /// Each behind all those that are inserted into it, but for those that hold themselves.
     const std::vector<Made*>& sorted() const { return sorted_; }
+    /// By a name of the file; null for none.
+    Made* find(const QString& name) const;
     /// Throws Lost for one that the recording does not have by now.
     const Insertable& insertable(std::string_view name) const;
 

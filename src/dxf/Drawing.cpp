@@ -76,7 +76,7 @@ private:
         switch (section_) {
         case Section::Tables:
             if (kind != "TABLE" && kind != "ENDTAB")
-                open(tableOf(kind), kind);
+                open(drawing_.tableOf(kind), kind);
             break;
         case Section::Blocks:
             beginInBlocks(kind);
@@ -133,14 +133,6 @@ private:
         Entity& entity = open(entities, kind);
         entity.isPart = isPart;
         hasLayer_ = false;
-    }
-
-    std::vector<Entity>& tableOf(std::string_view kind)
-    {
-        for (Table& table : drawing_.tables_)
-            if (table.name == kind)
-                return table.records;
-        return drawing_.tables_.emplace_back(Table{kind, {}}).records;
     }
 
     void take(const Group& group)
@@ -202,6 +194,9 @@ Drawing::Drawing(std::string_view file) : file_(file), form_(fileForm(file))
     Indexer(*this).run();
     decoder_ = decoderOf(variable("$ACADVER", 1).word(), variable("$DWGCODEPAGE", 3).word());
     settleHandles();
+    for (const Entity& object : objects_)
+        if (object.kind == "MLINESTYLE")
+            tableOf(object.kind).push_back(object);
     std::unordered_map<QString, quint64> records; // by their names in small letters
     for (const Entity& record : table("BLOCK_RECORD"))
         records.emplace(nameOf(record).toLower(), record.handle);
@@ -210,6 +205,14 @@ Drawing::Drawing(std::string_view file) : file_(file), form_(fileForm(file))
         const auto record = records.find(block.name.toLower());
         block.record = record != records.end() ? record->second : block.head.handle;
     }
+}
+
+std::vector<Entity>& Drawing::tableOf(std::string_view kind)
+{
+    for (Table& table : tables_)
+        if (table.name == kind)
+            return table.records;
+    return tables_.back().records;
 }
 
 Group Drawing::variable(std::string_view name, int code) const
@@ -262,6 +265,7 @@ void Drawing::settleHandles()
             doubled.insert(handles[i]);
     const quint64 seed = variable("$HANDSEED", 5).handle();
     nextHandle_ = std::max<quint64>(seed, handles.empty() ? 1 : handles.back() + 1);
+    firstGiven_ = nextHandle_;
     taken_ = std::move(handles);
 
     // The first of several keeps its handle.
@@ -272,6 +276,11 @@ void Drawing::settleHandles()
         entity->hadHandle = false;
         entity->handle = newHandle();
     }
+}
+
+bool Drawing::hasHandle(quint64 handle) const
+{
+    return (handle >= firstGiven_ && handle < nextHandle_) || std::binary_search(taken_.begin(), taken_.end(), handle);
 }
 
 quint64 Drawing::newHandle()

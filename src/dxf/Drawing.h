@@ -4,6 +4,7 @@
 #include "dxf/TextDecoder.h"
 
 #include <algorithm>
+#include <array>
 #include <span>
 #include <string_view>
 #include <unordered_set>
@@ -49,7 +50,8 @@ public:
 
     /// The last one of that name and code; an empty line for none.
     Group variable(std::string_view name, int code) const;
-    /// Of the table of that name: LAYER, LTYPE, STYLE, DIMSTYLE, BLOCK_RECORD and so on.
+    /// Of the table of that name: LAYER, LTYPE, STYLE, DIMSTYLE or BLOCK_RECORD; and MLINESTYLE, whose records stand
+    /// among the objects.
     std::span<const Entity> table(std::string_view name) const;
     const std::vector<Block>& blocks() const { return blocks_; }
     std::span<const Entity> entities(const Block& block) const
@@ -68,6 +70,8 @@ public:
     QString text(const Group& group) { return decoder_.text(group.bytes); }
     /// One that nothing in the drawing has.
     quint64 newHandle();
+    /// Whether the file has it, or it has been given away.
+    bool hasHandle(quint64 handle) const;
     /// The highest that the drawing has or has given away.
     quint64 highestHandle() const { return nextHandle_ - 1; }
     void keepAbove(quint64 handle) { nextHandle_ = std::max(nextHandle_, handle + 1); }
@@ -87,19 +91,23 @@ private:
     };
 
     class Indexer;
+    std::vector<Entity>& tableOf(std::string_view kind);
     void settleHandles();
 
     std::string_view file_;
     FileForm form_;
     bool isValid_ = false;
     std::vector<Variable> variables_;
-    std::vector<Table> tables_;
+    /// The last one is for the records of all others, of which only the handles count.
+    std::array<Table, 7> tables_{
+        {{"LAYER", {}}, {"LTYPE", {}}, {"STYLE", {}}, {"DIMSTYLE", {}}, {"BLOCK_RECORD", {}}, {"MLINESTYLE", {}}, {}}};
     std::vector<Block> blocks_;
     std::vector<Entity> blockEntities_;
     std::vector<Entity> entities_;
     std::vector<Entity> objects_;
     std::unordered_set<std::string_view> layersInUse_;
     TextDecoder decoder_;
+    quint64 firstGiven_ = 1;
     quint64 nextHandle_ = 1;
     std::vector<quint64> taken_; ///< by the file, in their order
     qint64 strayLines_ = 0;

@@ -64,6 +64,8 @@ struct DrawnObject
     std::optional<double>
         deviation; ///< largest distance from what the file says, in drawing units, when it is another curve
     std::vector<const char*> untold; ///< what the file says of it and no recording can
+    std::vector<Property> unsaid;    ///< what no recording can say of it, and another drawing may have otherwise
+    bool isStandIn = false;          ///< the file has it as another class, so that only its removal can be said of it
     /// It stands there as often again, as another object each time.
     std::vector<OdGePoint3d> repeats;
     /// Entities of the file that came in with it, or why they did not.
@@ -75,10 +77,12 @@ struct DrawnObject
         changes.clear();
         custom.clear();
         untold.clear();
+        unsaid.clear();
         repeats.clear();
         parts.clear();
         drawing.clear();
         deviation.reset();
+        isStandIn = false;
         making = Making::Added;
         command = "";
     }
@@ -100,6 +104,8 @@ struct Lost
     const char* reason;
 };
 
+/// What no recording has of any entity.
+inline constexpr const char* kOtherData = "data of other applications";
 /// Of what can only stand upright or upside down.
 inline constexpr const char* kTilted = "its plane is tilted";
 /// Of texts.

@@ -18,6 +18,7 @@ public:
     const Entity& entity() const { return *entity_; }
     /// Without the data of other applications.
     const std::vector<Group>& groups() const { return groups_; }
+    const std::vector<Group>& extendedData() const { return extendedData_; }
     /// Other than what was taken of it.
     bool hasExtendedData() const { return taken_ < extendedData_.size(); }
     /// Of the extended data of that application, what stands in braces behind that text. Valid until the next read.

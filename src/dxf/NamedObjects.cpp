@@ -53,7 +53,7 @@ const NamedObjects::Named* NamedObjects::find(std::string_view bytes)
 const NamedObjects::Named* NamedObjects::findHandle(quint64 handle)
 {
     for (std::size_t i = byHandle_.size(); i < all_.size(); ++i)
-        byHandle_.emplace(all_[i].handle, i);
+        byHandle_.emplace(all_[i].record ? all_[i].record->handle : all_[i].handle, i);
     const auto found = byHandle_.find(handle);
     return found == byHandle_.end() ? nullptr : &all_[found->second];
 }

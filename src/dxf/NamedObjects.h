@@ -28,12 +28,19 @@ public:
     /// Null for a name that there is not. The bytes are the file's.
     const Named* find(std::string_view bytes);
     const Named* find(const QString& name) const;
-    /// Null for a handle that no record has.
+    /// By a handle of the file; null for one that no record has.
     const Named* findHandle(quint64 handle);
     /// The id of what the name stands for, as a value; null for none.
     CFxVariant id(std::string_view bytes);
     /// Takes one in that no table has, under a new handle.
     void addUnlisted(std::string_view bytes);
+    /// What the recording calls the one that stands there among all, whatever the file says. Before its id is asked
+    /// for.
+    void rename(std::size_t index, QString name, quint64 handle)
+    {
+        all_[index].name = std::move(name);
+        all_[index].handle = handle;
+    }
 
 private:
     struct Found

@@ -73,7 +73,7 @@ PropertyList Recorder::listOf(const std::vector<Property>& properties)
 
 const PropertyLabel& Recorder::labelOf(const Property& property)
 {
-    if (*property.group)
+    if (*property.group || !property.ownTag.isEmpty())
         return texts_.label(pooled(property.name()), texts_.text(property.group));
     // Nearly all tags are literals: no text is made of them again.
     const PropertyLabel*& label = labels_[property.tag];

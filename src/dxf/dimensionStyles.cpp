@@ -11,6 +11,8 @@ namespace inkmacro::dxf {
 
 namespace {
 
+const QString kStandard = QStringLiteral("Standard"); // which every drawing has
+
 constexpr const char* kUnknownSetting = "a setting of dimensions that no recording has";
 
 // Codes of the variables that are more than a value.
@@ -113,10 +115,9 @@ constexpr int kTick = 5;
 /// Null for a number that has no word.
 CFxVariant chosenOf(const Words& words, qint64 number)
 {
-    const qint64 place = number - words.first;
-    if (place < 0 || place >= static_cast<qint64>(words.words.size()))
+    if (number < words.first || number >= words.first + static_cast<qint64>(words.words.size()))
         return CFxVariant::kNull;
-    return choice(static_cast<int>(number), words.words.begin()[place]);
+    return choice(static_cast<int>(number), words.words.begin()[number - words.first]);
 }
 
 enum class Form
@@ -453,7 +454,8 @@ private:
         // What goes outside and where a moved text goes was one variable once.
         constexpr qint64 automatic = 3;
         constexpr qint64 keepsInside = 4;
-        const qint64 old = variables_.integer(kOldFit, automatic);
+        constexpr qint64 last = 5;
+        const qint64 old = std::clamp<qint64>(variables_.integer(kOldFit, automatic), 0, last);
         if (variables_.hasOwn({kFit, kOldFit, kKeepsTextInside})) {
             const qint64 fit =
                 variables_.isOn(kKeepsTextInside) ? keepsInside : variables_.integer(kFit, std::min(old, automatic));
@@ -539,9 +541,29 @@ private:
     DrawnObject& object_;
 };
 
+/// Of the style that the entity has, the first group of each code; null for a style that the drawing lacks.
+const std::vector<Group>* variablesOfStyle(const EntityReader& entity, Surroundings& around)
+{
+    const Group* const name = entity.find(3);
+    const NamedObjects::Named* const style =
+        name ? around.dimensionStyles.find(name->bytes) : around.dimensionStyles.find(kStandard);
+    if (!style || !style->record)
+        return nullptr;
+    auto [entry, isNew] = around.dimensionVariables.try_emplace(style->record);
+    if (isNew) {
+        EntityReader record(around.drawing);
+        record.read(*style->record);
+        std::unordered_set<int> codes;
+        for (const Group& group : record.groups())
+            if (codes.insert(group.code).second)
+                entry->second.push_back(group);
+    }
+    return &entry->second;
+}
+
 } // namespace
 
-DimensionVariables::DimensionVariables(EntityReader& entity, const Entity* style)
+DimensionVariables::DimensionVariables(EntityReader& entity, const std::vector<Group>* style) : style_(style)
 {
     constexpr int variable = 1070;
     const std::span<const Group> list = entity.takeList("ACAD", "DSTYLE");
@@ -551,11 +573,6 @@ DimensionVariables::DimensionVariables(EntityReader& entity, const Entity* style
         Group& own = own_.emplace_back(list[i + 1]);
         own.code = static_cast<int>(EntityReader::integerOf(list[i]));
     }
-    if (own_.empty() || !style)
-        return;
-    EntityReader record(entity.drawing());
-    record.read(*style);
-    style_ = record.groups();
 }
 
 const Group* DimensionVariables::find(const std::vector<Group>& groups, int code)
@@ -568,7 +585,7 @@ const Group* DimensionVariables::find(const std::vector<Group>& groups, int code
 const Group* DimensionVariables::find(int code) const
 {
     const Group* const group = own(code);
-    return group ? group : find(style_, code);
+    return group || !style_ ? group : find(*style_, code);
 }
 
 double DimensionVariables::real(int code, double otherwise) const
@@ -615,31 +632,22 @@ double jogAngle(const Group& group)
 
 QString dimensionStyleName(const EntityReader& entity, Surroundings& around, DrawnObject& object)
 {
-    static const QString standard = QStringLiteral("Standard"); // which every drawing has
     const Group* const name = entity.find(3);
     if (!name)
-        return standard;
+        return kStandard;
     if (const NamedObjects::Named* const style = around.dimensionStyles.find(name->bytes))
         return style->name;
-    if (around.drawing.text(*name).compare(standard, Qt::CaseInsensitive) == 0)
-        return standard;
+    if (around.drawing.text(*name).compare(kStandard, Qt::CaseInsensitive) == 0)
+        return kStandard;
     object.untold.push_back("a style that the drawing lacks");
     return {};
-}
-
-const Entity* dimensionStyleRecord(const EntityReader& entity, Surroundings& around)
-{
-    const Group* const name = entity.find(3);
-    const NamedObjects::Named* const style =
-        name ? around.dimensionStyles.find(name->bytes) : around.dimensionStyles.find(QStringLiteral("Standard"));
-    return style ? style->record : nullptr;
 }
 
 void takeDimensionStyle(EntityReader& entity, Surroundings& around, DrawnObject& object)
 {
     if (const QString name = dimensionStyleName(entity, around, object); !name.isEmpty())
         object.change("Dim style", CFxString(name));
-    const DimensionVariables overrides(entity, dimensionStyleRecord(entity, around));
+    const DimensionVariables overrides(entity, variablesOfStyle(entity, around));
     if (!overrides.isEmpty())
         Settings(overrides, false, around, object).takeAll();
 }

@@ -12,8 +12,8 @@ class DimensionVariables
 public:
     /// Of a record of that table.
     explicit DimensionVariables(const EntityReader& style) : own_(style.groups()) {}
-    /// That the entity has in place of those of its style, whose record may be null.
-    DimensionVariables(EntityReader& entity, const Entity* style);
+    /// That the entity has in place of those of its style, which may be null and has to outlive this.
+    DimensionVariables(EntityReader& entity, const std::vector<Group>* style);
 
     bool isEmpty() const { return own_.empty(); }
     /// Of the style's too.
@@ -31,7 +31,7 @@ private:
     static const Group* find(const std::vector<Group>& groups, int code);
 
     std::vector<Group> own_;
-    std::vector<Group> style_;
+    const std::vector<Group>* style_ = nullptr;
 };
 
 /// A color number, of dimensions, as a value.
@@ -43,9 +43,6 @@ CFxVariant dimensionArrow(const Group& group, Surroundings& around);
 void takeDimensionStyle(EntityReader& entity, Surroundings& around, DrawnObject& object);
 /// The style's name that the entity has; null for one that the drawing lacks, which is told.
 QString dimensionStyleName(const EntityReader& entity, Surroundings& around, DrawnObject& object);
-/// Of the style that the entity has; null for none.
-const Entity* dimensionStyleRecord(const EntityReader& entity, Surroundings& around);
-
 /// The angle at which a jogged dimension bends, in radians.
 double jogAngle(const Group& group);
 

@@ -155,7 +155,7 @@ void takeText(EntityReader& entity, const Direction& direction, Surroundings& ar
         object.add("Text override", CFxString(text));
     if (const double rotation = entity.radians(53); rotation != 0)
         object.add("Rotation", direction.isDown() ? -rotation : rotation);
-    if (entity.integer(70) & kHasMovedText) {
+    if (entity.integer(70) & kHasMovedText && entity.has(11)) {
         const OdGePoint3d middle = direction.toWorld(entity.point(11));
         object.change("Position x", middle.x);
         object.change("Position y", middle.y);

@@ -14,14 +14,6 @@ constexpr double pi = std::numbers::pi;
 /// A normal that leans less is upright: points move by as much of their coordinates at most.
 constexpr double upright = 1e-9;
 
-/// An angle in [0, 2 pi).
-double inTurn(double angle)
-{
-    const double rest = std::fmod(angle, 2 * pi);
-    const double positive = rest < 0 ? rest + 2 * pi : rest;
-    return positive < 2 * pi ? positive : 0.0;
-}
-
 } // namespace
 
 Direction::Direction(const OdGeVector3d& normal)
@@ -71,6 +63,13 @@ Placement Direction::placementToWorld(const Placement& placement) const
     // A mirror image of the block in Y, turned against what would be a turn of it by the same angle.
     const OdGeScale3d& scale = placement.scale;
     return {inTurn(pi - placement.rotation), {scale.sx, -scale.sy, -scale.sz}};
+}
+
+double inTurn(double angle)
+{
+    const double rest = std::fmod(angle, 2 * pi);
+    const double positive = rest < 0 ? rest + 2 * pi : rest;
+    return positive < 2 * pi ? positive : 0.0;
 }
 
 } // namespace inkmacro::dxf

@@ -58,4 +58,7 @@ private:
     OdGeVector3d z_{0, 0, 1};
 };
 
+/// An angle in [0, 2 pi).
+double inTurn(double angle);
+
 } // namespace inkmacro::dxf

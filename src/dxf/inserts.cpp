@@ -27,9 +27,12 @@ const char* takeAttribute(const EntityReader& attribute, const Insertable& block
     const QString tag = attribute.text(2);
     if (!block.tags.contains(tag.toLower()))
         return "the block defines no such attribute";
-    if (isPropertyName(tag))
+    Property text{"", CFxString(attribute.text(1)), CFxVariant::kNull, "BlockAttributes", CFxString(tag)};
+    if (isPropertyName(tag)) {
+        object.unsaid.push_back(std::move(text));
         return "it is called like a property of the reference";
-    object.changes.push_back({"", CFxString(attribute.text(1)), CFxVariant::kNull, "BlockAttributes", CFxString(tag)});
+    }
+    object.changes.push_back(std::move(text));
     return nullptr;
 }
 

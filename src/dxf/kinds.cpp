@@ -19,7 +19,7 @@ constexpr KindRow kRows[] = {
     {"RAY", "AcDbRay", &readRay},
     {"XLINE", "AcDbXline", &readRay},
     {"LWPOLYLINE", "AcDbPolyline", &readLightPolyline},
-    {"POLYLINE", "AcDbPolyline", &readPolyline},
+    {"POLYLINE", "AcDbPolyline", &readPolyline, true},
     {"SPLINE", "AcDbSpline", &readSpline},
     {"3DFACE", "AcDbFace", &readFace},
     {"SOLID", "AcDbSolid", &readSolid},
@@ -28,29 +28,18 @@ constexpr KindRow kRows[] = {
     {"MTEXT", "AcDbMText", &readParagraphs},
     {"ATTDEF", "AcDbAttributeDefinition", &readAttributeDefinition},
     {"INSERT", "AcDbBlockReference", &readInsert},
+    {"HATCH", "AcDbHatch", &readHatch, true},
+    {"VIEWPORT", "AcDbViewport", &readViewport},
+    {"MESH", "AcDbPolyFaceMesh", &readSubdivision, true},
+    {"IMAGE", "AcDbRasterImage", &readImage},
+    {"MLINE", "AcDbMline", &readRichLine},
+    {"SHAPE", "AcDbShape", &readShape},
     {"DIMENSION", "AcDbRotatedDimension", &readDimension, true},
     {"ARC_DIMENSION", "AcDbArcDimension", &readArcDimension, true},
     {"LARGE_RADIAL_DIMENSION", "AcDbRadialDimensionLarge", &readJoggedDimension, true},
     {"LEADER", "AcDbLeader", &readLeader},
     {"TOLERANCE", "AcDbFcf", &readTolerance},
 };
-
-/// A color number, or the red, green and blue of a true color.
-std::optional<OdCmColor> colorOf(const EntityReader& entity)
-{
-    constexpr int byBlock = 0;
-    constexpr int byLayer = 256;
-    if (const Group* trueColor = entity.find(420)) {
-        const qint64 rgb = EntityReader::integerOf(*trueColor);
-        return OdCmColor::byRgb((rgb >> 16) & 0xff, (rgb >> 8) & 0xff, rgb & 0xff);
-    }
-    const qint64 number = entity.integer(62, byLayer);
-    if (number == byBlock)
-        return OdCmColor::byBlock();
-    if (number > 0 && number < byLayer)
-        return OdCmColor::byIndex(static_cast<std::uint16_t>(number));
-    return {};
-}
 
 /// By layer, by block, or as much as the last byte says.
 std::optional<OdCmTransparency> transparencyOf(const EntityReader& entity)
@@ -66,6 +55,26 @@ std::optional<OdCmTransparency> transparencyOf(const EntityReader& entity)
 }
 
 } // namespace
+
+std::optional<OdCmColor> colorOf(Piece piece)
+{
+    constexpr int byBlock = 0;
+    constexpr int byLayer = 256;
+    if (const Group* const trueColor = find(piece, 420))
+        return trueColorOf(*trueColor);
+    const qint64 number = integer(piece, 62, byLayer);
+    if (number == byBlock)
+        return OdCmColor::byBlock();
+    if (number > 0 && number < byLayer)
+        return OdCmColor::byIndex(static_cast<std::uint16_t>(number));
+    return {};
+}
+
+OdCmColor trueColorOf(const Group& group)
+{
+    const qint64 rgb = EntityReader::integerOf(group);
+    return OdCmColor::byRgb((rgb >> 16) & 0xff, (rgb >> 8) & 0xff, rgb & 0xff);
+}
 
 const Kind* findKind(std::string_view kind)
 {
@@ -86,7 +95,7 @@ void takeGeneral(const EntityReader& entity, Surroundings& around, DrawnObject& 
     const Group* const layer = entity.find(8);
     if (CFxVariant id = around.layers.id(layer ? layer->bytes : std::string_view("0")); !id.IsNull())
         add("Layer", std::move(id));
-    if (const std::optional<OdCmColor> color = colorOf(entity))
+    if (const std::optional<OdCmColor> color = colorOf(entity.groups()))
         add("LineColor", *color);
     if (const Group* style = entity.find(6); style && !isByLayer(style->word())) {
         if (CFxVariant id = around.lineStyles.id(style->bytes); !id.IsNull())
@@ -111,7 +120,7 @@ void takeGeneral(const EntityReader& entity, Surroundings& around, DrawnObject& 
     if (entity.integer(60) == 1)
         object.untold.push_back("that it is invisible");
     if (entity.hasExtendedData())
-        object.untold.push_back("data of other applications");
+        object.untold.push_back(kOtherData);
 }
 
 bool isByLayer(std::string_view name)

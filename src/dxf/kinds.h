@@ -1,10 +1,11 @@
 #pragma once
 
 #include "dxf/DrawnObject.h"
-#include "dxf/EntityReader.h"
+#include "dxf/GroupPieces.h"
 #include "dxf/NamedObjects.h"
 
 #include <functional>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace inkmacro::dxf {
@@ -28,11 +29,34 @@ public:
         return OdDbHandle(handles_[given_++]);
     }
     void beginAgain() { given_ = 0; }
+    /// How many are given; to go back to that place.
+    std::size_t place() const { return given_; }
+    void goTo(std::size_t place) { given_ = place; }
 
 private:
     Drawing& drawing_;
     std::vector<quint64> handles_;
     std::size_t given_ = 0;
+};
+
+/// What entities refer to, among the objects that are drawn nowhere.
+class ObjectsByHandle
+{
+public:
+    explicit ObjectsByHandle(const Drawing& drawing) : drawing_(drawing) {}
+    /// Null for none of that kind.
+    const Entity* find(std::string_view kind, quint64 handle)
+    {
+        if (byHandle_.empty())
+            for (const Entity& object : drawing_.objects())
+                byHandle_.emplace(object.handle, &object);
+        const auto found = byHandle_.find(handle);
+        return found != byHandle_.end() && found->second->kind == kind ? found->second : nullptr;
+    }
+
+private:
+    const Drawing& drawing_;
+    std::unordered_map<quint64, const Entity*> byHandle_;
 };
 
 /// What the entities of a drawing are read with.
@@ -46,9 +70,13 @@ struct Surroundings
           textStyles(drawing, ids, "STYLE"),
           dimensionStyles(drawing, ids, "DIMSTYLE"),
           blockRecords(drawing, ids, "BLOCK_RECORD"),
+          objects(drawing),
           madeHandles(drawing)
     {
     }
+
+    /// What a table of that name holds; null for one that nothing refers to by name.
+    NamedObjects* table(std::string_view name);
 
     Drawing& drawing;
     OdDbDatabase& ids;
@@ -57,6 +85,11 @@ struct Surroundings
     NamedObjects textStyles;
     NamedObjects dimensionStyles;
     NamedObjects blockRecords;
+    ObjectsByHandle objects;
+    bool isForDrawing = false; ///< nothing but the lines of the drawing is asked for
+    QString sheet;             ///< on which the entity lies; null for model space and blocks
+    /// By the records of their styles, once they were asked for.
+    std::unordered_map<const Entity*, std::vector<Group>> dimensionVariables;
     /// The block that can be inserted where the entity stands. Throws Lost.
     std::function<const Insertable&(std::string_view name)> insertable;
     /// For what an entity is made from: the same ones again when it is read again.
@@ -85,6 +118,10 @@ std::span<const KindRow> tableKinds();
 
 /// Null for a kind that no recording has.
 const Kind* findKind(std::string_view kind);
+
+/// A color number, or the red, green and blue of a true color; nothing for the layer's color.
+std::optional<OdCmColor> colorOf(Piece piece);
+OdCmColor trueColorOf(const Group& group);
 
 /// What all entities have: layer, color, line style and so on. Behind `read`, since it depends on how the object is
 /// made where that stands.

@@ -90,15 +90,7 @@ void takeStyle(EntityReader& entity, const char* tag, std::span<const Row> rows,
 
 void readLeader(EntityReader& entity, Parts, Surroundings& around, DrawnObject& object)
 {
-    std::vector<OdGePoint3d> vertices;
-    for (const Group& group : entity.groups()) {
-        if (group.code == 10)
-            vertices.push_back({EntityReader::realOf(group), 0, 0});
-        else if (group.code == 20 && !vertices.empty())
-            vertices.back().y = EntityReader::realOf(group);
-        else if (group.code == 30 && !vertices.empty())
-            vertices.back().z = EntityReader::realOf(group);
-    }
+    const std::vector<OdGePoint3d> vertices = points(entity.groups(), 10);
     if (vertices.size() < 2)
         throw Lost{"it has less than two vertices"};
     object.add("Vertex", pointList(vertices));

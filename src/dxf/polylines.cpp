@@ -1,5 +1,6 @@
 // Polylines in a plane and in space, faces and solids.
 
+#include "dxf/meshes.h"
 #include "dxf/readers.h"
 #include "host/db/OdDbClassMap.h"
 
@@ -45,6 +46,7 @@ void drawIn3d(const PlanePolyline& polyline, const Direction& direction, DrawnOb
     for (const Vertex& vertex : polyline.vertices)
         points.push_back(direction.toWorld({vertex.point.x, vertex.point.y, polyline.elevation}));
     object.cls = oddbClassByName("AcDb3dPolyline");
+    object.isStandIn = true;
     object.add("Vertex", pointList(points));
     object.add("Closed", yesOrNo(polyline.isClosed));
 }
@@ -143,7 +145,9 @@ void readPolyline(EntityReader& entity, Parts parts, Surroundings& around, Drawn
 {
     const qint64 flags = entity.integer(70);
     if (flags & (kIsMesh | kIsPolyFace))
-        throw Lost{"meshes"};
+        return readMesh(entity, parts, around, object);
+    if (around.isForDrawing)
+        return;
     PlanePolyline polyline;
     polyline.isClosed = flags & kClosed;
     polyline.isPatternContinuous = flags & kPatternContinuous;

@@ -28,6 +28,14 @@ void readJoggedDimension(EntityReader& entity, Parts parts, Surroundings& around
 void readLeader(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
 void readTolerance(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
 void readInsert(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+void readHatch(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+void readViewport(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+/// A mesh that can be smoothed.
+void readSubdivision(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+void readImage(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+void readRichLine(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
+void readRichLineStyle(EntityReader& record, Parts parts, Surroundings& around, DrawnObject& object);
+void readShape(EntityReader& entity, Parts parts, Surroundings& around, DrawnObject& object);
 
 // Records of tables.
 

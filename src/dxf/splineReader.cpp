@@ -97,6 +97,7 @@ void readSpline(EntityReader& entity, Parts, Surroundings& around, DrawnObject& 
     }
     if (isPolyline(spline.curve)) {
         object.cls = oddbClassByName("AcDb3dPolyline");
+        object.isStandIn = true;
         object.add("Vertex", pointList(spline.curve.points));
         object.add("Closed", yesOrNo(false));
         return;

@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <numbers>
 
 namespace inkmacro::dxf {
 
@@ -360,6 +361,40 @@ private:
     double deviation_ = 0.0;
 };
 
+/// A line or an arc of a polyline.
+struct Bend
+{
+    OdGePoint3d begin;
+    OdGePoint3d end;
+    double bulge = 0.0;
+
+    /// The arc that leads through a point between.
+    static Bend through(const OdGePoint3d& begin, const OdGePoint3d& between, const OdGePoint3d& end)
+    {
+        const OdGeVector3d back = begin - between;
+        const OdGeVector3d forth = end - between;
+        const double turning = back.x * forth.y - back.y * forth.x;
+        // What the point sees of both ends is less than half a turn by half of the arc's angle.
+        const double angle = std::numbers::pi - std::atan2(std::abs(turning), dot(back, forth));
+        return {begin, end, std::copysign(std::tan(angle / 2), -turning)};
+    }
+
+    double distanceTo(const OdGePoint3d& point) const
+    {
+        const OdGeVector3d chord = end - begin;
+        const OdGeVector3d away = point - begin;
+        const double length = std::sqrt(dot(chord, chord));
+        const double beside = (chord.x * away.y - chord.y * away.x) / length;
+        constexpr double straight = 1e-7;
+        if (std::abs(bulge) < straight)
+            return std::abs(beside);
+        // Along the chord, and from it to its left.
+        const double toCenter = length * (1 - bulge * bulge) / (4 * bulge);
+        const double radius = length * (1 + bulge * bulge) / (4 * std::abs(bulge));
+        return std::abs(std::hypot(dot(chord, away) / length - length / 2, beside - toCenter) - radius);
+    }
+};
+
 } // namespace
 
 bool isPolyline(const Nurbs& curve)
@@ -375,6 +410,51 @@ std::optional<FitPoints> fitPoints(const Nurbs& curve, double tolerance)
     if (hasGap(curve, grain))
         return std::nullopt;
     return Fitter(curve, grain, tolerance).fit();
+}
+
+std::optional<Bends> bends(const Nurbs& curve, double tolerance)
+{
+    if (!isCurve(curve))
+        return std::nullopt;
+    const double grain = Box(curve.points).grain();
+    if (hasGap(curve, grain))
+        return std::nullopt;
+    const Evaluator evaluator(curve);
+    const std::vector<double> parameters = joints(curve);
+    std::vector<std::pair<double, double>> waiting;
+    for (std::size_t i = parameters.size() - 1; i > 0; --i)
+        waiting.emplace_back(parameters[i - 1], parameters[i]);
+    OdGePoint3d begin = evaluator.at(parameters.front());
+    Bends result;
+    result.points.push_back({begin.x, begin.y});
+    while (!waiting.empty()) {
+        const auto [from, to] = waiting.back();
+        waiting.pop_back();
+        const double middle = from + (to - from) / 2;
+        const Bend bend = Bend::through(begin, evaluator.at(middle), evaluator.at(to));
+        const bool isPlace = begin.distanceTo(bend.end) <= grain;
+        double deviation = 0.0;
+        for (int i = 1; i <= Span::samples; ++i) {
+            const OdGePoint3d sample = evaluator.at(from + (to - from) * i / (Span::samples + 1));
+            deviation = std::max(deviation, isPlace ? begin.distanceTo(sample) : bend.distanceTo(sample));
+        }
+        const bool hasRoom = from < middle && middle < to && result.points.size() + waiting.size() < mostPoints;
+        if (hasRoom && (deviation > std::max(10 * grain, tolerance) || (!isPlace && std::abs(bend.bulge) > 1))) {
+            waiting.emplace_back(middle, to);
+            waiting.emplace_back(from, middle);
+            continue;
+        }
+        if (isPlace)
+            continue;
+        result.deviation = std::max(result.deviation, deviation);
+        result.points.push_back({bend.end.x, bend.end.y});
+        result.bulges.push_back(bend.bulge);
+        begin = bend.end;
+    }
+    if (result.bulges.empty())
+        return std::nullopt;
+    result.bulges.push_back(0.0);
+    return result;
 }
 
 } // namespace inkmacro::dxf

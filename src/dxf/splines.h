@@ -39,4 +39,16 @@ bool isPolyline(const Nurbs& curve);
 /// it is one place.
 std::optional<FitPoints> fitPoints(const Nurbs& curve, double tolerance);
 
+/// Vertices of a polyline in the XY plane, and one a vertex the bulge of the segment that begins there, 0 for the last.
+struct Bends
+{
+    std::vector<OdGePoint2d> points;
+    std::vector<double> bulges;
+    double deviation = 0.0; ///< drawing units, the largest that was seen
+};
+
+/// Lines and arcs along a curve of the XY plane, as few as halving makes of it until none deviates more than the
+/// tolerance. Nothing where there are no fit points either.
+std::optional<Bends> bends(const Nurbs& curve, double tolerance);
+
 } // namespace inkmacro::dxf

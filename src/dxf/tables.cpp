@@ -38,12 +38,10 @@ void readLayer(EntityReader& record, Parts, Surroundings& around, DrawnObject& o
 
     constexpr qint64 white = 7;
     const qint64 color = record.integer(62, white);
-    if (const Group* trueColor = record.find(420)) {
-        const qint64 rgb = EntityReader::integerOf(*trueColor);
-        object.change("Color", OdCmColor::byRgb((rgb >> 16) & 0xff, (rgb >> 8) & 0xff, rgb & 0xff));
-    } else if (std::abs(color) != white && std::abs(color) > 0 && std::abs(color) < 256) {
+    if (const Group* trueColor = record.find(420))
+        object.change("Color", trueColorOf(*trueColor));
+    else if (std::abs(color) != white && std::abs(color) > 0 && std::abs(color) < 256)
         object.change("Color", OdCmColor::byIndex(static_cast<std::uint16_t>(std::abs(color))));
-    }
     if (const Group* style = record.find(6);
         style && around.drawing.text(*style).compare("Continuous", Qt::CaseInsensitive) != 0)
         if (CFxVariant id = around.lineStyles.id(style->bytes); !id.IsNull())
@@ -92,9 +90,9 @@ void readTextStyle(EntityReader& record, Parts, Surroundings&, DrawnObject& obje
         .with("name", name)
         .with("isShapeFile", static_cast<bool>(flags & kShapeFile))
         .with("fileName", record.text(3));
+    object.add("Name", CFxString(name));
     if (flags & kShapeFile)
         return;
-    object.add("Name", CFxString(name));
     if (const QString font = record.text(3); !font.isEmpty())
         object.add("Font", CFxString(font));
     if (const QString font = record.text(4); !font.isEmpty())
@@ -115,9 +113,8 @@ void readTextStyle(EntityReader& record, Parts, Surroundings&, DrawnObject& obje
 }
 
 constexpr KindRow kTables[] = {
-    {"LTYPE", "AcDbLinetypeTableRecord", &readLineStyle},
-    {"LAYER", "AcDbLayerTableRecord", &readLayer},
-    {"STYLE", "AcDbTextStyleTableRecord", &readTextStyle},
+    {"LTYPE", "AcDbLinetypeTableRecord", &readLineStyle},         {"LAYER", "AcDbLayerTableRecord", &readLayer},
+    {"STYLE", "AcDbTextStyleTableRecord", &readTextStyle},        {"MLINESTYLE", "AcDbMlineStyle", &readRichLineStyle},
     {"DIMSTYLE", "AcDbDimStyleTableRecord", &readDimensionStyle},
 };
 
@@ -126,6 +123,16 @@ constexpr KindRow kTables[] = {
 std::span<const KindRow> tableKinds()
 {
     return kTables;
+}
+
+NamedObjects* Surroundings::table(std::string_view name)
+{
+    const std::pair<std::string_view, NamedObjects*> tables[] = {
+        {"LAYER", &layers}, {"LTYPE", &lineStyles}, {"STYLE", &textStyles}, {"DIMSTYLE", &dimensionStyles}};
+    for (const auto& [known, objects] : tables)
+        if (known == name)
+            return objects;
+    return nullptr;
 }
 
 } // namespace inkmacro::dxf

@@ -38,6 +38,12 @@ class Object:
             points[int(index)]["xyz".index(tag[-1].lower())] = value
         elif index is not None:
             self.properties.setdefault(tag, {})[int(index)] = value
+        elif tag == "Global width":
+            for end in ("Start", "End"):
+                self.properties[f"{end} segment width"] = dict.fromkeys(range(len(self.points())), value)
+        elif tag == "Major radius":
+            axis = self.point("Major axis vector").normalize(value)
+            self.properties |= {f"Major axis vector {name}": length for name, length in zip("XYZ", axis)}
         else:
             self.properties[tag] = value
 
@@ -100,14 +106,25 @@ class Recording:
             one.properties["hatch"] = self.hatch
         for record in content["properties"]:
             one.set(record)
-        for handle in one.get("Objects") or [] if one.cls == "AcDbBlockTableRecord" else []:
+        self._make_block(one)
+
+    def _make_block(self, one):
+        """Of its objects, and of no others."""
+        if one.cls != "AcDbBlockTableRecord":
+            return
+        space = f"block {one.get('Name', one.get('name'))}".lower()
+        members = one.get("Objects") or []
+        self.drawn = {handle: other for handle, other in self.drawn.items()
+                      if other.space != space or handle in members}
+        for handle in members:
             if handle in self.drawn:
-                self.drawn[handle].space = f"block {one.get('Name', one.get('name'))}"
+                self.drawn[handle].space = space
 
     def _modified(self, content):
         one = self._object(content["handle"], content["class"])
         for record in content["properties"]:
             one.set(record)
+        self._make_block(one)
         if one.get("Erased") == "Yes":
             del self.drawn[content["handle"]]
 

@@ -688,6 +688,9 @@ TEST(RepairedMacro, FetchesAChangedObjectOfTheDrawingOnceACommand)
     EXPECT_EQ(conversion.body().count("GetObjectByHandle(\"A1\""), 4) << conversion.body().toStdString();
     ASSERT_EQ(conversion.run({command({change("Nothing")})}), kFxSuccess);
     EXPECT_EQ(conversion.body(), "");
+    const TestData attribute{OdDbHandle(0xA2), oddbClassByName("AcDbBlockReference"), CFxString("NR"), CFxString("7")};
+    ASSERT_EQ(conversion.run({custom(39, attribute)}), kFxSuccess);
+    EXPECT_TRUE(conversion.body().contains("GetObjectByHandle(\"A2\"")) << conversion.body().toStdString();
 }
 
 TEST(RepairedMacro, KnowsHowLargeATableOfTheDrawingIs)

@@ -196,3 +196,20 @@ differs(replaced(drawsLine[0], 'var line1;\nfor (var i = 0; i < 3; ++i)\n' + dra
     assert.deepStrictEqual(of(replaced('(0, 2, 2)', '(0, 2, 3)')), ['different  AddVertexAfter']);
     assert.deepStrictEqual(of(replaced('(2, 6, 1)', '(2, 6, 2)')), ['different  SetVertexCoordinate']);
 }
+
+// A dimension has zeros of its angles and of its lengths under one name, in this order.
+{
+    const suppressed = word => ({tag: 'Suppress leading zeros', value: {element: {tag: {int: 0}, value: word}}});
+    const points = ['xLine1Point', 'xLine2Point', 'dimLinePoint'].map((tag, i) => [tag, {point: [i, 2 * i, 0]}]);
+    const steps = [
+        [added('AcDbAlignedDimension', '50', Object.fromEntries(points)),
+            ['var d = sketch.InsertAlignedDimension([0, 0, 0], [1, 2, 0], [2, 4, 0], "");',
+                'var user = d.GetGeneralDimension().GetDimensionStyleUserData();']],
+        [{modified: {class: 'AcDbAlignedDimension', handle: '50', properties: [suppressed('No'), suppressed('Yes')]}},
+            ['user.GetDimensionStyleAngularDimensionOptions().put_HideLeadingZeroes(false);',
+                'user.GetDimensionStyleLinearDimensionOptions().put_HideLeadingZeroes(true);']]];
+    const of = edit => shown(verify(steps, {edit: edit}));
+    assert.deepStrictEqual(of(text => text), []);
+    assert.deepStrictEqual(of(replaced('Zeroes(true)', 'Zeroes(false)')), ['different 50 Suppress leading zeros (2)']);
+    assert.deepStrictEqual(of(replaced('Zeroes(false)', 'Zeroes(true)')), ['different 50 Suppress leading zeros']);
+}

@@ -257,8 +257,8 @@ class Comparison {
             const seen = measured ? heldOf(measured, of, index) : heldOf(thing, question, index);
             // What a dimension measures may be there already.
             const isRight = isThere || (seen === undefined
-                ? !expected.isFound && isNothing(value) || value === anything || this.isDefault(cls, question, value)
-                    || this.places.optional.has(cls + ' ' + question)
+                ? value === anything || !expected.isFound && (isNothing(value)
+                    || this.isDefault(cls, question, value) || this.places.optional.has(cls + ' ' + question))
                 : value !== null && value !== undefined && value.handle ? this.isHanded(seen, value)
                     : fits(question, seen, value, this.places.turns.has(question + index)));
             if (!isRight) {
@@ -269,7 +269,8 @@ class Comparison {
             // What the drawing has of an object is not recorded.
             const before = thing.before.get(question) || [];
             values.forEach((value, index) => {
-                if (value !== before[index] && !expected.holds(question, index) && !expected.excused.has(question.split('(')[0]) && !isNothing(value)
+                if (value !== before[index] && !expected.holds(question, index)
+                    && !expected.excused.has(question.split('(')[0]) && !isNothing(value)
                     && (question === 'Objects()' || !(value instanceof Thing))
                     && !this.isDefault(cls, question, value) && !toldElsewhere.test(question)
                     && !(index === 1 && question.endsWith('InViewport()'))) {

@@ -223,7 +223,7 @@ class Recorded {
         this.setAll({class: record.class, handle: record.handle, properties: [record]}, action, false);
     }
 
-    // Of two records of one property the first counts. A picture has a yes or no of its own under the name of the
+    // Of two records of one property the first counts, where there is no row for the second. A picture has a yes or no of its own under the name of the
     // transparency, and that alone may be told.
     setAll(record, action, isAdded) {
         const told = this.told.of(action.key);
@@ -233,8 +233,11 @@ class Recorded {
         }
         const firsts = new Map();
         record.properties.forEach(one => {
+            const second = one.tag + ' (2)';
             if (!firsts.has(one.tag)) {
                 firsts.set(one.tag, one);
+            } else if (!firsts.has(second) && this.places.row(record.class, second, isAdded)) {
+                firsts.set(second, Object.assign({}, one, {tag: second}));
             }
         });
         const block = record.class === 'AcDbBlockTableRecord' ? this.byHandle.get(record.handle) : null;
