@@ -33,8 +33,8 @@ constexpr Handling kHandlings[] = {
 };
 
 /// Data of the recording's drawing that properties say again.
-constexpr const char* kRepeated[] = {"class",       "handle",       "layer",       "dimensionText",
-                                     "patternName", "patternScale", "patternAngle"};
+constexpr const char* kRepeated[] = {"class",       "handle",       "layer",        "dimensionText",
+                                     "patternName", "patternScale", "patternAngle", "vertices"};
 
 /// Of custom actions: what a change can set, by the place among the data.
 struct CustomTag
@@ -272,6 +272,16 @@ Comparison::Comparison(const ChangeForms& forms, Contents& before, Contents& aft
     add("On", choice(0, "Yes"));
     add("Display locked", choice(1, "No"));
     add("Shade print", choice(0, "As displayed"));
+    add("M closed", choice(1, "No"));
+    add("N closed", choice(1, "No"));
+    add("Fit/Smooth", choice(0, "None"));
+    add("Show image", yesOrNo(true));
+    constexpr double usualLight = 50;
+    add("Brightness", usualLight);
+    add("Contrast", usualLight);
+    add("Fade", 0.0);
+    add("Width factor", 1.0);
+    add("Obliquing", 0.0);
     add("TextStyle", standardName);
     if (standard)
         add("Style", around.textStyles.id("Standard"), "AcDbMText");

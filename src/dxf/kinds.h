@@ -69,6 +69,7 @@ struct Surroundings
           lineStyles(drawing, ids, "LTYPE"),
           textStyles(drawing, ids, "STYLE"),
           dimensionStyles(drawing, ids, "DIMSTYLE"),
+          richLineStyles(drawing, ids, "MLINESTYLE"),
           blockRecords(drawing, ids, "BLOCK_RECORD"),
           objects(drawing),
           madeHandles(drawing)
@@ -84,6 +85,7 @@ struct Surroundings
     NamedObjects lineStyles;
     NamedObjects textStyles;
     NamedObjects dimensionStyles;
+    NamedObjects richLineStyles;
     NamedObjects blockRecords;
     ObjectsByHandle objects;
     bool isForDrawing = false; ///< nothing but the lines of the drawing is asked for

@@ -127,8 +127,11 @@ std::span<const KindRow> tableKinds()
 
 NamedObjects* Surroundings::table(std::string_view name)
 {
-    const std::pair<std::string_view, NamedObjects*> tables[] = {
-        {"LAYER", &layers}, {"LTYPE", &lineStyles}, {"STYLE", &textStyles}, {"DIMSTYLE", &dimensionStyles}};
+    const std::pair<std::string_view, NamedObjects*> tables[] = {{"LAYER", &layers},
+                                                                 {"LTYPE", &lineStyles},
+                                                                 {"STYLE", &textStyles},
+                                                                 {"DIMSTYLE", &dimensionStyles},
+                                                                 {"MLINESTYLE", &richLineStyles}};
     for (const auto& [known, objects] : tables)
         if (known == name)
             return objects;
