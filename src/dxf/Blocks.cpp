@@ -94,7 +94,7 @@ Blocks::Made* Blocks::find(const QString& name) const
 
 const Insertable& Blocks::insertable(std::string_view name) const
 {
-    const Made* const made = find(drawing_.decoder().text(name));
+    const Made* const made = find(drawing_.decoder().text(name).trimmed());
     if (!made)
         throw Lost{"there is no such block"};
     if (!made->isMade)

@@ -67,7 +67,7 @@ bool Contents::isOnChosenLayer(const Entity& entity)
     Group group;
     while (groups.next(group))
         if (group.code == 8)
-            return layers_.contains(drawing_.text(group).toLower());
+            return layers_.contains(drawing_.text(group).trimmed().toLower());
     return layers_.contains("0");
 }
 

@@ -237,7 +237,7 @@ QString Drawing::nameOf(const Entity& record)
     Group group;
     while (groups.next(group))
         if (group.code == 2)
-            return text(group);
+            return text(group).trimmed();
     return {};
 }
 
