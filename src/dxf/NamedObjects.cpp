@@ -2,6 +2,11 @@
 
 namespace inkmacro::dxf {
 
+bool isOfOtherFile(const QString& name)
+{
+    return name.contains('|');
+}
+
 NamedObjects::NamedObjects(Drawing& drawing, OdDbDatabase& ids, std::string_view table) : drawing_(drawing), ids_(ids)
 {
     for (const Entity& record : drawing.table(table))
