@@ -85,6 +85,8 @@ void Contents::read(const Kind& kind, const Entity& entity, std::span<const Enti
     object.handle = handle;
     reader_.read(entity);
     kind.row->read(reader_, parts, around_, object);
+    if (!object.isFinite())
+        throw Lost{kNotFinite};
 }
 
 void Contents::readEntity(const Entity& entity, std::span<const Entity> parts, OdDbHandle handle, DrawnObject& object)

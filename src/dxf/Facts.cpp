@@ -572,8 +572,18 @@ void Comparison::take(const DrawnObject& object, Contents& contents, FactList& f
     if (object.making != DrawnObject::Making::Custom)
         for (const Property& property : object.properties)
             take(object, property, facts);
-    for (const Property& property : object.changes)
-        take(object, property, facts);
+    for (auto property = object.changes.begin(); property != object.changes.end(); ++property) {
+        const std::size_t first = facts.size();
+        take(object, *property, facts);
+        const bool isSecond =
+            !*property->group && std::any_of(object.changes.begin(), property,
+                                             [&](const Property& other) { return is(other.tag, property->tag); });
+        // Alone, it would be taken for the first one.
+        for (std::size_t i = first; isSecond && i < facts.size(); ++i) {
+            facts[i].index = Fact::kSecond;
+            facts[i].isFixed = true;
+        }
+    }
     for (const Property& property : object.unsaid)
         facts.push_back({property.tag, property.value, Fact::kSingle, property.group, property.ownTag, true});
     if (!object.drawing.isEmpty())

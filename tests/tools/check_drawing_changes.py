@@ -150,7 +150,7 @@ def apart(run, new):
         for cls, handle, form in spaces.get(space, []):
             left[cls].append((handle, form))
         for cls, handle, form in new_spaces.get(space, []):
-            off = [expected.difference(form, other, expected.NEAR) for _, other in left[cls]]
+            off = [expected.difference(form, other) for _, other in left[cls]]
             if None in off:
                 del left[cls][off.index(None)]
             else:

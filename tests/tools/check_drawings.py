@@ -43,11 +43,9 @@ class Comparison:
         self.found.setdefault("", [])
         self.told = {form: collections.Counter() for form in ("imported", "approximated", "lost")}
         self.told["imported"] |= report["imported"]
-        self.deviations = {}
         for form in ("approximated", "lost"):
             for one in report[form]:
                 self.told[form][one["kind"]] += one["count"]
-                self.deviations[one["kind"]] = max(one.get("deviation", 0), self.deviations.get(one["kind"], 0))
         self.held, self.skipped, self.matched = collections.Counter(), collections.Counter(), 0
 
     def say(self, text):
@@ -83,10 +81,9 @@ class Comparison:
             why = ""
             for ahead in own[:1] or range(at, len(wanted)):
                 _, entity, wanted_cls, wanted_form = wanted[ahead]
-                near = max(expected.NEAR, self.deviations.get(entity.dxftype(), 0))
                 off = "of another class" if wanted_cls or not own else None  # There is no telling.
                 if wanted_cls and wanted_cls in cls:
-                    off = expected.difference(wanted_form, form, near)
+                    off = expected.difference(wanted_form, form)
                     if self.drawing.rule == "cut" and form is found[-1][2]:
                         off = None  # The file has the beginning of it.
                 if not off:
@@ -122,7 +119,7 @@ class Comparison:
             if not found:
                 self.say(f"layer {layer.dxf.name} is missing")
                 continue
-            wanted = {"Color": expected.color(layer), "Frozen": layer.is_frozen(), "Locked": layer.is_locked(),
+            wanted = {"Color": expected.color(layer) if layer.dxf.color else 7, "Frozen": layer.is_frozen(), "Locked": layer.is_locked(),
                       "Hidden": layer.is_off()}
             for tag, value in wanted.items():
                 got = found.yes(tag) if isinstance(value, bool) else found.get(tag, found.get(tag.lower(), 7))

@@ -162,8 +162,8 @@ def curves(m):
     m.add_rational_spline([(1, 0), (1, 1), (0, 1), (-1, 1), (-1, 0)], [1, half, 1, half, 1], degree=2,
                           knots=[0, 0, 0, 1, 1, 2, 2, 2])
     m.add_spline().set_closed(bent)
-    m.add_open_spline([(x * 1e6, y * 1e6, z) for x, y, z in bent])
-    m.add_open_spline([(x * 1e-4, y * 1e-4, z) for x, y, z in bent])
+    for scale in (1e6, 1e-4):
+        m.add_open_spline([(x * scale, y * scale, z * scale) for x, y, z in bent])
     m.add_ray((1, 2, 3), (0.6, 0.8, 0))
     m.add_xline((1, 2, 3), (0, 0, 1))
 

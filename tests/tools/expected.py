@@ -3,11 +3,12 @@
 import math
 import re
 
-from ezdxf.math import OCS, Vec3
+from ezdxf.math import OCS, Vec3, fit_points_to_cad_cv
 
 import recorded
 
 NEAR = 1e-9
+TOLERANCE = 1e-6  # of approximated curves, as a part of their size
 
 
 def said(text):
@@ -239,47 +240,70 @@ def forms(entity):
     return [(cls, form | common(entity)) for form in found]
 
 
-def on_curve(points, curve):
-    """How far the points are from it at most, and its ends from theirs."""
+def off_curve(points, curve, enough):
+    """How far the points are from it at most, and its ends from theirs; what is near enough is not told exactly."""
     tool = curve.construction_tool()
+    first, last = (tool.knots()[place] for place in (tool.order - 1, tool.count))
     steps = 64 * tool.count
-    params = [tool.max_t * n / steps for n in range(steps + 1)]
+    params = [first + (last - first) * step / steps for step in range(steps + 1)]
     samples = list(tool.points(params))
-    worst = 0 if curve.closed else max(points[0].distance(samples[0]), points[-1].distance(samples[-1]))
+    worst = max(points[0].distance(samples[0]), points[-1].distance(samples[-1]))
     for point in points:
-        nearest = min(range(steps + 1), key=lambda n: point.distance(samples[n]))
-        low, high = params[max(nearest - 1, 0)], params[min(nearest + 1, steps)]
-        for _ in range(80):
-            left, right = low + (high - low) / 3, high - (high - low) / 3
-            if point.distance(tool.point(left)) < point.distance(tool.point(right)):
-                high = right
-            else:
-                low = left
-        worst = max(worst, point.distance(tool.point((low + high) / 2)))
+        lengths = [math.inf, *map(point.distance, samples), math.inf]
+        turns = [step for step in range(steps + 1) if lengths[step] >= lengths[step + 1] <= lengths[step + 2]]
+        least = math.inf
+        for step in sorted(turns, key=lambda step: lengths[step + 1])[:4]:
+            least = min(least, nearest(tool, point, params[max(step - 1, 0)], params[min(step + 1, steps)]))
+            if least < enough:
+                break
+        worst = max(worst, least)
     return worst
 
 
-def difference(wanted, found, near, path=""):
+def nearest(tool, point, low, high):
+    """How far a point is from a part of a curve that has one nearest place."""
+    for _ in range(60):
+        left, right = low + (high - low) / 3, high - (high - low) / 3
+        if point.distance(tool.point(left)) < point.distance(tool.point(right)):
+            high = right
+        else:
+            low = left
+    return point.distance(tool.point((low + high) / 2))
+
+
+def curve_difference(curve, found):
+    """Of a spline and one that is drawn through points."""
+    points, fits = found["fit points"], [Vec3(one) for one in curve.fit_points]
+    if fits and not difference(fits, points):
+        return None
+    if not curve.control_points or len(points) < 2:
+        return f"there are {len(points)} fit points"
+    size = max(max(values) - min(values) for values in zip(*points))
+    drawn = list(fit_points_to_cad_cv(points, found["tangents"]).approximate(97))
+    for part, far in ((points, NEAR), (drawn, 2 * TOLERANCE)):
+        off = off_curve(part, curve, far * size)
+        if off > far * size:
+            return f"it is off by {off / size} of its size"
+    return None
+
+
+def difference(wanted, found, path=""):
     """Where two values differ, or nothing. What is None counts as anything."""
     if wanted is None:
         return None
     if isinstance(wanted, dict):
-        if "curve" in wanted:
-            curve, points = wanted["curve"], found.get("fit points") or [Vec3()]
-            fits = [Vec3(one) for one in curve.fit_points]
-            if difference(fits or None, points, near) or not fits:
-                off = on_curve(points, curve) if curve.control_points else math.inf
-                if off > max(near, NEAR * max(abs(x) for point in points for x in point)):
-                    return f"fit points off the curve by {off}"
-        return next(filter(None, (difference(value, found.get(key), near, f"{path}.{key}")
+        off = curve_difference(wanted["curve"], found) if "curve" in wanted else None
+        if off:
+            return off
+        return next(filter(None, (difference(value, found.get(key), f"{path}.{key}")
                                   for key, value in wanted.items() if key != "curve")), None)
     if isinstance(wanted, (float, int)) and isinstance(found, (float, int)):
-        return None if abs(wanted - found) <= near * max(1, abs(wanted)) else f"{path}: {wanted} is {found}"
+        return None if abs(wanted - found) <= NEAR * max(1, abs(wanted)) else f"{path}: {wanted} is {found}"
     if isinstance(wanted, (list, tuple, Vec3)) and isinstance(found, (list, tuple, Vec3)):
         wanted, found = list(wanted), list(found)
         if len(wanted) != len(found):
             return f"{path}: {len(wanted)} are {len(found)}"
-        return next(filter(None, (difference(*pair, near, f"{path}[{place}]")
+        return next(filter(None, (difference(*pair, f"{path}[{place}]")
                                   for place, pair in enumerate(zip(wanted, found)))), None)
     return None if found is not None and wanted == found else f"{path}: {wanted!r} is {found!r}"
 

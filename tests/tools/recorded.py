@@ -315,7 +315,8 @@ FORMS = {
         "axes": [direction(o.get("Rotation", 0)) * o.get("Scale X", 1),
                  direction(o.get("Rotation", 0) + math.pi / 2) * o.get("Scale Y", 1), Vec3(0, 0, o.get("Scale Z", 1))],
         "attributes": o.get("attributes", {})},
-    "AcDbSpline": lambda o: {"fit points": o.points("Fit point"), "closed": o.yes("Closed")},
+    "AcDbSpline": lambda o: {"fit points": o.points("Fit point"), "closed": o.yes("Closed"), "tangents": [
+        o.point("Start tangent vector"), o.point("End tangent vector")]},
     "AcDbLeader": lambda o: {"vertices": o.points()},
     "AcDbMline": lambda o: {"vertices": o.points("vertices"), "scale": o.get("RLine scale"),
                             "closed": o.yes("closedMline"), "justify": o.get("RLine justification")},

@@ -85,9 +85,9 @@ TEST(DxfFiles, GiveWhatTheyHaveWhereverTheyEnd)
         for (std::size_t length = 0; length < file.size(); ++length) {
             const std::string cut = file.substr(0, length);
             const Drawing drawing(cut);
-            EXPECT_EQ(drawing.isValid(), cut.find("SECTION") != std::string::npos &&
-                                             (file != whole || length >= std::strlen("0\nSECTION")))
-                << length;
+            // In a binary file a text ends with a zero byte.
+            const std::string name = file == whole ? "SECTION" : std::string("SECTION\0", 8);
+            EXPECT_EQ(drawing.isValid(), cut.find(name) != std::string::npos) << length;
             if (drawing.isValid()) {
                 EXPECT_LE(imported(cut).actions.size(), 2U) << length;
             }
