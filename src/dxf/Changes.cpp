@@ -66,6 +66,7 @@ std::vector<std::vector<Property>> byNumber(std::vector<Property> changes)
 
 Changes::Changes(Drawing& before, Drawing& after, OdDbDatabase& ids, const ImportOptions& options, ChangeForms forms)
     : forms_(std::move(forms)),
+      isWhole_(options.layers.isEmpty() && !options.onlyBlocks),
       before_(before, ids, options),
       after_((after.keepAbove(withUsualStyles(before_).highestHandle()), after), ids, options)
 {
@@ -168,9 +169,9 @@ bool Changes::isMade(const KindRow& table, const NamedObjects::Named& named)
 
 void Changes::noteGoneRecord(const KindRow& table, const NamedObjects::Named& named)
 {
-    if (isOfLayers(table))
+    if (isOfLayers(table) && isWhole_)
         goneLayers_.push_back(&named);
-    else
+    else if (!isOfLayers(table))
         accounts_.lose(table.kind, kNoRemoval);
 }
 

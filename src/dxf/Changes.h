@@ -98,6 +98,7 @@ private:
     void recordChange();
 
     const ChangeForms forms_;
+    const bool isWhole_; ///< nothing of the drawings was left out
     Contents before_;
     Contents after_;
     std::optional<Comparison> comparison_; ///< once the tables are paired

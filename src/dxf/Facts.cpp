@@ -546,13 +546,14 @@ void tellAxis(std::vector<Fact>& facts)
                 axis[i] = &fact;
     if (!axis[0] || !axis[1] || !axis[2])
         return;
+    const bool isFixed = axis[0]->isFixed;
     const double length =
         std::hypot(axis[0]->value.GetDouble(), axis[1]->value.GetDouble(), axis[2]->value.GetDouble());
     for (Fact* const fact : axis) {
         fact->value = fact->value.GetDouble() / length;
         fact->isFixed = true;
     }
-    facts.push_back({"Major radius", length, Fact::kSingle, "", {}, axis[0]->isFixed && facts.front().isFixed});
+    facts.push_back({"Major radius", length, Fact::kSingle, "", {}, isFixed});
 }
 
 } // namespace
