@@ -27,11 +27,13 @@ const char* lossOf(const Block& block, bool isSecond)
 Blocks::Blocks(Drawing& drawing) : drawing_(drawing)
 {
     all_.reserve(drawing.blocks().size());
+    std::unordered_set<QString> seen;
     for (const Block& block : drawing.blocks()) {
-        if (isModelSpace(block.name) || isPaperSpace(block.name))
-            continue;
         const QString key = block.name.toLower();
-        if (const char* const reason = lossOf(block, byName_.contains(key))) {
+        const bool isSecond = !seen.insert(key).second;
+        if (isModelSpace(block.name) || (isPaperSpace(block.name) && !isSecond))
+            continue;
+        if (const char* const reason = lossOf(block, isSecond)) {
             left_.push_back({drawing.entities(block), reason});
             continue;
         }

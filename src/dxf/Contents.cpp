@@ -45,12 +45,16 @@ void Contents::planSheets()
             if (group.code == 330)
                 block = group.handle();
         }
-        sheets[block] = name;
+        name = name.trimmed();
+        if (!name.isEmpty() && name.compare(QLatin1String("Model"), Qt::CaseInsensitive) != 0)
+            sheets[block] = name;
     }
     const QString usual = QStringLiteral("Layout1");
     bool hasCurrent = false;
+    std::unordered_set<QString> seen;
     for (const Block& block : drawing_.blocks()) {
-        if (!isPaperSpace(block.name))
+        // Of a second one of the same name, Blocks tells.
+        if (!isPaperSpace(block.name) || !seen.insert(block.name.toLower()).second)
             continue;
         const auto found = sheets.find(block.record);
         // What is on the current sheet stands among the entities of model space.

@@ -62,7 +62,9 @@ void readEllipse(EntityReader& entity, Parts, Surroundings&, DrawnObject& object
     if (!(length > 0) || !(ratio > 0))
         throw Lost{"one of its axes has no length"};
     const Direction direction = entity.direction();
-    if (direction.isTilted() || axis.z != 0)
+    // Turning it may have left the axis a trace of height.
+    constexpr double close = 1e-9;
+    if (direction.isTilted() || std::abs(axis.z) > close * length)
         throw Lost{kTilted};
     constexpr double turn = 2 * std::numbers::pi;
     double start = entity.real(41);
@@ -83,7 +85,6 @@ void readEllipse(EntityReader& entity, Parts, Surroundings&, DrawnObject& object
         end += turn;
     }
     // An ellipse is whole at exactly 0 and a turn.
-    constexpr double close = 1e-9;
     if (std::abs(end - start - turn) < close || std::abs(end - start) < close) {
         start = 0;
         end = turn;
