@@ -51,7 +51,7 @@ void readImage(EntityReader& entity, Parts, Surroundings& around, DrawnObject& o
     const double height = length(up) * entity.real(23);
     if (!(width > 0) || !(height > 0))
         throw Lost{"it has no size"};
-    if (across.z != 0 || up.z != 0)
+    if (std::abs(across.z) > near * length(across) || std::abs(up.z) > near * length(up))
         throw Lost{kTilted};
     const double size = length(across) * length(up);
     if (std::abs(across.x * up.x + across.y * up.y) > near * size)

@@ -58,9 +58,11 @@ void draw(const PlanePolyline& polyline, const Direction& direction, DrawnObject
         throw Lost{"it has less than two vertices"};
     if (direction.isTilted())
         return drawIn3d(polyline, direction, object);
+    // It is drawn in the plane of the world, and lifted then.
     std::vector<OdGePoint3d> points;
     for (const Vertex& vertex : polyline.vertices)
-        points.push_back(direction.toWorld({vertex.point.x, vertex.point.y, polyline.elevation}));
+        points.push_back(direction.toWorld({vertex.point.x, vertex.point.y, 0}));
+    const double elevation = direction.toWorld({0, 0, polyline.elevation}).z;
     if (polyline.hasArcs() || polyline.hasWidths()) {
         OdArray<OdGePoint3d> vertices;
         OdArray<OdGePoint3d> bulges;
@@ -91,8 +93,8 @@ void draw(const PlanePolyline& polyline, const Direction& direction, DrawnObject
         object.add("Vertex", pointList(points));
         object.add("Closed", yesOrNo(polyline.isClosed));
     }
-    if (points.front().z != 0)
-        object.change("Elevation", points.front().z);
+    if (elevation != 0)
+        object.change("Elevation", elevation);
     if (polyline.isPatternContinuous)
         object.change("LineStyleGen", choice(0, "Enabled"));
 }

@@ -135,7 +135,7 @@ TEST(DxfEntities, SeenFromBelowStandWhereTheyStand)
 
     const Imported bow = entities(Groups{{0, "LWPOLYLINE"}, {38, "7"}} + below +
                                   Groups{{10, "1"}, {20, "0"}, {42, "0.5"}, {10, "2"}, {20, "0"}});
-    EXPECT_TRUE(bow.has(R"({"points":[[-1,0,-7],[-2,0,-7]]},{"points":[[-0.5,0,0],)"));
+    EXPECT_TRUE(bow.has(R"({"points":[[-1,0,0],[-2,0,0]]},{"points":[[-0.5,0,0],)"));
     EXPECT_TRUE(bow.has(tag("Elevation", "-7")));
 
     const Imported text = entities(Groups{{0, "TEXT"}, {1, "a"}, {10, "0"}, {20, "0"}, {40, "1"}} + below);
