@@ -22,7 +22,7 @@ public:
         out_.endObject();
         out_.endObject();
         out_.endLine();
-        // Numbers that sums have taken beyond all bounds have no form.
+        // A number that sums have taken beyond all bounds has no form; who made it lets the object go.
         if (!out_.refused())
             lines_ += out_.bytes();
     }

@@ -199,7 +199,9 @@ struct KeyHash
 
 bool isSame(double left, double right)
 {
-    return left == right || std::abs(left - right) <= kClose * std::max({1.0, std::abs(left), std::abs(right)});
+    // Far from the origin no writer has that many digits.
+    constexpr double digits = 1e-15;
+    return left == right || std::abs(left - right) <= kClose + digits * std::max(std::abs(left), std::abs(right));
 }
 
 bool isSame(const CFxVariant& left, const CFxVariant& right)
