@@ -187,6 +187,10 @@ void Changes::compareRecords(const KindRow& table, const NamedObjects::Named& be
         // Names are told already, and the rest of the drawing's data is but names.
         std::erase_if(object.properties, isName);
         object.drawing.clear();
+        // Nobody prints this layer, which the oldest drawings have no word for.
+        if (isOfLayers(table) && named.name.compare(QLatin1String("Defpoints"), Qt::CaseInsensitive) == 0)
+            std::erase_if(object.changes,
+                          [](const Property& change) { return std::string_view(change.tag) == "Printable"; });
     };
     try {
         read(before_, before, was);
