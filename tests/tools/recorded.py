@@ -79,9 +79,8 @@ class Recording:
     def _run(self, action):
         for kind, content in action.items():
             if kind == "object":
-                self.data[content["handle"]] = content
-                if content["handle"] in self.drawn:
-                    self.drawn[content["handle"]].data = content
+                known = self.data.setdefault(content["handle"], {})
+                known.update(content)
                 continue
             if kind == "recording":
                 self.sheet = "" if content.get("sheet", {}).get("model", True) else content["sheet"]["name"]
@@ -96,7 +95,7 @@ class Recording:
     def _object(self, handle, cls):
         """Changed objects may be those of the drawing."""
         if handle not in self.drawn:
-            self.drawn[handle] = Object(cls, self.sheet, {}, self.data.get(handle, {}))
+            self.drawn[handle] = Object(cls, self.sheet, {}, self.data.setdefault(handle, {}))
         return self.drawn[handle]
 
     def _added(self, content):
