@@ -277,6 +277,14 @@ def padded(values, count):
     return [*values, *[0.0] * (count - len(values))][:count]
 
 
+def viewport(one):
+    """Its corners are told, and what has changed since."""
+    low, _, high, _ = map(Vec3, one.get("corners"))
+    center, size = (low + high) / 2, high - low
+    return {"center": [one.get(f"Center {axis}", getattr(center, axis.lower())) for axis in "XYZ"],
+            "size": [one.get("Width", size.x), one.get("Height", size.y)]}
+
+
 def keyed(*keys, **others):
     """The data of a dimension, by their names."""
     return lambda one: {key: one.point(key) for key in keys} | {key: one.get(tag) for key, tag in others.items()} | {
@@ -325,7 +333,7 @@ FORMS = {
     "AcDbFcf": lambda o: {"position": o.point("Position"), "contents": o.get("Content")},
     "AcDbRasterImage": lambda o: {"path": o.get("Path"), "position": o.point("Position"),
                                   "direction": direction(o.get("Rotation", 0))},
-    "AcDbViewport": lambda o: {"center": o.point("Center"), "size": [o.get("Width"), o.get("Height")]},
+    "AcDbViewport": viewport,
     "AcDbRotatedDimension": keyed("xLine1Point", "xLine2Point", "dimLinePoint", rotation="rotation"),
     "AcDbAlignedDimension": keyed("xLine1Point", "xLine2Point", "dimLinePoint"),
     "AcDbRadialDimension": keyed("center", "chordPoint"),
