@@ -173,25 +173,26 @@ class Recording:
     def _form(self, one):
         form = FORMS.get(one.cls, lambda _: {})(one)
         if one.cls == "AcDbHatch":
-            form |= self._hatch(one.get("hatch"))
+            form |= self._hatch(one, one.get("hatch"))
         return form | {
             "layer": self.name(one.get("Layer"), "0"), "color": one.get("LineColor", "bylayer"),
             "line style": self.name(one.get("LineStyle"), "bylayer"), "line scale": one.get("LineScale", 1),
             "weight": one.get("LineWeight", -1), "thickness": one.get("Thickness", 0)}
 
-    def _hatch(self, data):
+    def _hatch(self, one, data):
         """What bounds it is given in one of four forms."""
         loops = []
         if data[4]:
             loops = [part for handle in data[7] for part in primitives(self.data.get(handle, {"class": "nothing"}))]
         elif data[5]:
-            loops = segments([Vec3(one) for one in data[8]], data[7], True)
+            loops = segments([Vec3(point) for point in data[8]], data[7], True)
         elif not data[3]:
             points = iter(data[8])
             for count in data[7]:
                 loops += segments([Vec3(next(points)) for _ in range(count)], [], True)
         gradient = data[-4:] if data[6] else None
-        return {"pattern": data[0].upper(), "pattern scale": data[1], "pattern angle": angle(data[2]),
+        return {"pattern": one.get("Pattern name", data[0]).upper(), "pattern scale": one.get("Scale", data[1]),
+                "pattern angle": angle(one.get("Angle", data[2])),
                 "gradient": gradient, "boundary": ordered(loops)}
 
 
