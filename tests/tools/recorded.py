@@ -154,11 +154,12 @@ class Recording:
             self.sheet = before
 
     def name(self, value, default):
-        """What a table calls the object of a property, in small letters."""
+        """What a table calls the object of a property, in small letters; other values as they are."""
         if isinstance(value, tuple):
             one = self.drawn.get(value[1], Object(""))
             value = one.get("Name") or self.data.get(value[1], {}).get("name", f"unnamed {value[1]}")
-        return (value or default).lower()
+        value = default if value is None else value
+        return value.lower() if isinstance(value, str) else value
 
     def forms(self):
         """By space, the form of each object in order; objects of tables by their names."""
