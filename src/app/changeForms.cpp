@@ -29,7 +29,8 @@ dxf::ChangeForms changeForms()
     for (const CFxKnownClass& cls : LoadedModule()->ListClasses()) {
         OfClass& forms = (*classes)[cls.name];
         for (const CFxKnownTag& tag : cls.changed)
-            tag.group.isEmpty() ? forms.byTag.emplace(tag.tag, formOf(tag)) : forms.byGroup.emplace(tag.group, formOf(tag));
+            tag.group.isEmpty() ? forms.byTag.emplace(tag.tag, formOf(tag))
+                                : forms.byGroup.emplace(tag.group, formOf(tag));
     }
     return [classes](const OdRxClass* cls, const QString& tag, const char* group) -> const dxf::ChangeForm* {
         const auto forms = classes->find(cls->name());

@@ -42,17 +42,14 @@ bool writeLines(dxf::ActionSource& import, qint64 size, const std::function<bool
     return write(out.bytes());
 }
 
-/// Raises PlacingError.
-void writeFile(dxf::ActionSource& import, qint64 size, const QString& output)
+/// `name` is what messages call the file. Raises PlacingError.
+void writeFile(dxf::ActionSource& import, qint64 size, const QString& place, const QString& name)
 {
-    StagedResult result({output});
-    QFile file(result.firstFile());
+    QFile file(place);
     if (!file.open(QIODevice::WriteOnly) ||
         !writeLines(import, size, [&](const QByteArray& lines) { return file.write(lines) == lines.size(); }) ||
         !file.flush())
-        throw PlacingError(output, file.errorString());
-    file.close();
-    result.place();
+        throw PlacingError(name, file.errorString());
 }
 
 QString shownName(const QString& path)
@@ -67,9 +64,9 @@ struct OpenedDrawing
     std::optional<dxf::Drawing> drawing;
 
     /// Tells why when it cannot be read.
-    bool open(const QString& path)
+    bool open(const QString& path) { return open(path, shownName(path)); }
+    bool open(const QString& path, const QString& name)
     {
-        const QString name = shownName(path);
         if (!file.open(path)) {
             printLine(name + ": cannot be read: " + file.error());
             return false;
@@ -104,13 +101,16 @@ int importDrawing(const CommandLine& line)
     const auto size = static_cast<qint64>(opened.file.bytes().size());
     const bool toOutput = !line.output || line.output == "-";
     try {
-        if (toOutput)
+        if (toOutput) {
             writeLines(*import, size, [](const QByteArray& lines) {
                 printOut(lines);
                 return true;
             });
-        else
-            writeFile(*import, size, *line.output);
+        } else {
+            StagedResult result({*line.output});
+            writeFile(*import, size, result.firstFile(), *line.output);
+            result.place();
+        }
     } catch (const PlacingError& error) {
         complain(error.message());
         return kFailed;
@@ -123,6 +123,17 @@ int importDrawing(const CommandLine& line)
             printLine(name + ": " + told);
     }
     return kDone;
+}
+
+bool writeRecordingOf(const QString& path, const QString& name, const QString& place)
+{
+    OpenedDrawing opened;
+    if (!opened.open(path, name))
+        return false;
+    OdDbDatabase ids;
+    dxf::Import import(*opened.drawing, ids, {});
+    writeFile(import, static_cast<qint64>(opened.file.bytes().size()), place, place);
+    return true;
 }
 
 } // namespace inkmacro

@@ -8,4 +8,8 @@ namespace inkmacro {
 /// none. Gives the exit status.
 int importDrawing(const CommandLine& line);
 
+/// Writes the recording of a drawing file to the file at `place`. False when the drawing cannot be read, of which
+/// messages speak under `name`. Raises PlacingError.
+bool writeRecordingOf(const QString& path, const QString& name, const QString& place);
+
 } // namespace inkmacro

@@ -84,6 +84,12 @@ std::vector<RecordingError> readFrom(const QString& place, const QString& path, 
 
 } // namespace
 
+bool isDrawingFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) && isDrawing(file, path);
+}
+
 QString readRecording(const QString& path, Recording& recording, std::optional<dxf::Accounts>& drawing,
                       const QString& kept)
 {

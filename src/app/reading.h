@@ -13,6 +13,9 @@ namespace inkmacro {
 /// What is wrong with a file in which no drawing is found.
 inline constexpr const char* kNoDrawing = "no section of a drawing is found in it";
 
+/// Whether the file, which is no pipe, is a drawing and no recording.
+bool isDrawingFile(const QString& path);
+
 /// Empty when the recording is read, else what is wrong with it. What has been kept of one is read in its place, when
 /// there is a path of that. A drawing file becomes a recording, and `drawing` tells what became of its entities.
 QString readRecording(const QString& path, Recording& recording, std::optional<dxf::Accounts>& drawing,

@@ -7,6 +7,7 @@
 #include "app/childProcess.h"
 #include "app/console.h"
 #include "app/conversion.h"
+#include "app/importing.h"
 #include "app/reading.h"
 #include "app/report.h"
 #include "app/reportSchema.h"
@@ -41,6 +42,7 @@ constexpr char kScript[] = "verify.cjs";
 constexpr char kJob[] = "job.json";
 constexpr char kReport[] = "report.json";
 constexpr char kRecording[] = "recording.jsonl";
+constexpr char kImported[] = "imported.jsonl";
 constexpr char kEdited[] = "edited";
 
 const TargetRow& javaScript()
@@ -157,6 +159,12 @@ public:
             printLine(RecordingError{name, 0, {}, reason}.text());
             return kUnreadable;
         }
+        if (const QString source = job_.kept.isEmpty() ? input_ : job_.kept; isDrawingFile(source)) {
+            // Node reads recordings alone.
+            if (!writeRecordingOf(source, input_ == "-" ? QStringLiteral("standard input") : input_, path(kImported)))
+                return kUnreadable;
+            job_.kept = path(kImported);
+        }
         HostSettings host;
         host.repair = true;
         Telling telling;
@@ -176,7 +184,7 @@ public:
 private:
     static std::vector<std::string> namesOf(const QString& input)
     {
-        std::vector<std::string> names{kScript, kJob, kReport, kRecording, kEdited};
+        std::vector<std::string> names{kScript, kJob, kReport, kRecording, kImported, kEdited};
         for (const QString& file : {nameOfMacro(input), Job::mapOf(nameOfMacro(input))})
             names.push_back(QFile::encodeName(file).toStdString());
         return names;

@@ -324,10 +324,9 @@ public:
         name = NameObject(handle, cls);
         return {};
     }
-    bool FetchesChanged() const override { return false; }
+    bool FetchesUnknown() const override { return false; }
 
 private:
-    bool FetchesUnknown() const override { return false; }
     const OdRxClass* SpelledClass(const ActionEntry&, const OdRxClass* told) const override { return told; }
     /// Takes the suffixes off after the number was put on, and only the one of smart pointers: in C++ a region or a
     /// view tile gets a name like "iwregion_c*3" here, which no compiler takes.
@@ -370,10 +369,9 @@ public:
     {
         return EmitObjectVariable(handle, cls, name);
     }
-    bool FetchesChanged() const override { return true; }
+    bool FetchesUnknown() const override { return true; }
 
 private:
-    bool FetchesUnknown() const override { return true; }
     const OdRxClass* SpelledClass(const ActionEntry& entry, const OdRxClass*) const override { return entry.cls; }
     CFxString SpelledName(const OdRxClass* told, std::uint32_t ordinal) const override
     {

@@ -93,10 +93,10 @@ public:
     /// Of an object that statements may be written for without its fetch: as recorded its bare name, in a repaired
     /// macro with the statement.
     virtual Statement EmitVariableOfChanged(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name) = 0;
-    /// Whether objects that the drawing has and the recording did not add are fetched to be changed.
-    virtual bool FetchesChanged() const = 0;
-    /// Registers such an object up to the end of the present command, whose block may hide the variable; at top level
-    /// until its statements are made. Gives the variable, which the caller fetches.
+    /// Whether an object that the generated code does not know is fetched where it is needed.
+    virtual bool FetchesUnknown() const = 0;
+    /// Registers such an object to be changed, up to the end of the present command, whose block may hide the variable;
+    /// at top level until its statements are made. Gives the variable, which the caller fetches.
     CFxString LendVariable(const OdDbHandle& handle, const OdRxClass* cls);
     bool IsLent(const OdDbHandle& handle) const { return lent_.contains(handle); }
     /// Nothing is fetched after all.
@@ -125,8 +125,6 @@ public:
 protected:
     // What else differs between the two kinds.
 
-    /// Whether an object that the generated code does not know is fetched where it is needed.
-    virtual bool FetchesUnknown() const = 0;
     /// The class that a name is spelled with, when another one is told than is declared.
     virtual const OdRxClass* SpelledClass(const ActionEntry& entry, const OdRxClass* told) const = 0;
     /// The name of an object whose class is told, as ResolveVariable spells it.

@@ -12,11 +12,14 @@ enum BlockFlag : qint64
     kOverlay = 8,
 };
 
-bool isLayout(const QString& name)
+/// Why a block is not made; null for one that is.
+const char* lossOf(const Block& block, bool isSecond)
 {
-    const auto begins = [&](const char* with) { return name.startsWith(QLatin1String(with), Qt::CaseInsensitive); };
-    // R12 writes them with a dollar.
-    return begins("*Model_Space") || begins("*Paper_Space") || begins("$Model_Space") || begins("$Paper_Space");
+    if (block.name.isEmpty())
+        return "its block has no name";
+    if (isOfOtherFile(block.name))
+        return kOfOtherFile;
+    return isSecond ? "its block is defined twice" : nullptr;
 }
 
 } // namespace
@@ -24,12 +27,16 @@ bool isLayout(const QString& name)
 Blocks::Blocks(Drawing& drawing) : drawing_(drawing)
 {
     all_.reserve(drawing.blocks().size());
+    std::unordered_set<QString> seen;
     for (const Block& block : drawing.blocks()) {
-        if (block.name.isEmpty() || isLayout(block.name))
-            continue;
         const QString key = block.name.toLower();
-        if (byName_.contains(key))
-            continue; // the first of two counts
+        const bool isSecond = !seen.insert(key).second;
+        if (isModelSpace(block.name) || (isPaperSpace(block.name) && !isSecond))
+            continue;
+        if (const char* const reason = lossOf(block, isSecond)) {
+            left_.push_back({drawing.entities(block), reason});
+            continue;
+        }
         byName_.emplace(key, &all_.emplace_back(Made{&block, {}, block.record, {}, {}, {}, false, false}));
         if (!block.name.startsWith('*'))
             names_.insert(key);
@@ -94,7 +101,7 @@ Blocks::Made* Blocks::find(const QString& name) const
 
 const Insertable& Blocks::insertable(std::string_view name) const
 {
-    const Made* const made = find(drawing_.decoder().text(name));
+    const Made* const made = find(drawing_.decoder().text(name).trimmed());
     if (!made)
         throw Lost{"there is no such block"};
     if (!made->isMade)

@@ -25,10 +25,18 @@ public:
         bool isOfUse() const { return isInserted || !block->name.startsWith('*'); }
     };
 
+    /// Entities of blocks that are not made.
+    struct Left
+    {
+        std::span<const Entity> entities;
+        const char* reason;
+    };
+
     explicit Blocks(Drawing& drawing);
 
     /// Each behind all those that are inserted into it, but for those that hold themselves.
     const std::vector<Made*>& sorted() const { return sorted_; }
+    const std::vector<Left>& left() const { return left_; }
     /// By a name of the file; null for none.
     Made* find(const QString& name) const;
     /// Throws Lost for one that the recording does not have by now.
@@ -46,6 +54,7 @@ private:
     std::unordered_map<QString, Made*> byName_; ///< that the file has, in small letters
     std::unordered_set<QString> names_;         ///< that are given, in small letters
     std::vector<Made*> sorted_;
+    std::vector<Left> left_;
 };
 
 } // namespace inkmacro::dxf

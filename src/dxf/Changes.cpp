@@ -28,10 +28,12 @@ Drawing& withUsualStyles(Contents& contents)
     return contents.drawing();
 }
 
+constexpr const char* kNameTags[] = {"Name", "DimensionStyleName", "RichLineStyleName"};
+
 /// By which a record is renamed; null where nothing renames it.
 const char* nameTag(const ChangeForms& forms, const OdRxClass* cls)
 {
-    for (const char* const tag : {"Name", "DimensionStyleName"})
+    for (const char* const tag : kNameTags)
         if (forms(cls, QLatin1String(tag), ""))
             return tag;
     return nullptr;
@@ -39,8 +41,8 @@ const char* nameTag(const ChangeForms& forms, const OdRxClass* cls)
 
 bool isName(const Property& property)
 {
-    const std::string_view tag = property.tag;
-    return tag == "Name" || tag == "DimensionStyleName";
+    return std::any_of(std::begin(kNameTags), std::end(kNameTags),
+                       [&](std::string_view tag) { return tag == property.tag; });
 }
 
 CFxVariant erased()
@@ -64,6 +66,7 @@ std::vector<std::vector<Property>> byNumber(std::vector<Property> changes)
 
 Changes::Changes(Drawing& before, Drawing& after, OdDbDatabase& ids, const ImportOptions& options, ChangeForms forms)
     : forms_(std::move(forms)),
+      isWhole_(options.layers.isEmpty() && !options.onlyBlocks),
       before_(before, ids, options),
       after_((after.keepAbove(withUsualStyles(before_).highestHandle()), after), ids, options)
 {
@@ -140,7 +143,7 @@ void Changes::compareTable(const KindRow& table)
         if (const auto same = left.find(named.handle); same != left.end()) {
             compareRecords(table, *same->second, named);
             left.erase(same);
-        } else if (named.record || isOfLayers(table)) {
+        } else if (isMade(table, named)) {
             newRecords_.push_back({&table, &named});
         }
     }
@@ -149,11 +152,26 @@ void Changes::compareTable(const KindRow& table)
             noteGoneRecord(table, named);
 }
 
+/// Not one that every drawing has.
+bool Changes::isMade(const KindRow& table, const NamedObjects::Named& named)
+{
+    if (!named.record)
+        return isOfLayers(table);
+    if (!isOfLayers(table) && named.name.compare(QLatin1String("Standard"), Qt::CaseInsensitive) == 0)
+        return false;
+    try {
+        after_.read({&table, oddbClassByName(table.className)}, *named.record, {}, OdDbHandle(named.handle), object_);
+    } catch (const Lost&) {
+        return true; // which is told then
+    }
+    return !object_.properties.empty() || !object_.changes.empty();
+}
+
 void Changes::noteGoneRecord(const KindRow& table, const NamedObjects::Named& named)
 {
-    if (isOfLayers(table))
+    if (isOfLayers(table) && isWhole_)
         goneLayers_.push_back(&named);
-    else
+    else if (!isOfLayers(table))
         accounts_.lose(table.kind, kNoRemoval);
 }
 
@@ -273,7 +291,7 @@ void Changes::comparePlace(const Contents::Run* before, const Contents::Run* aft
         if (pair.difference.isNone() || pair.difference.lost)
             noteSame(pair);
         else
-            noteChanged(pair);
+            noteChanged(pair, *after);
     for (const Item& item : paired.gone)
         noteGone(item);
     if (!paired.come.empty())
@@ -311,7 +329,7 @@ void Changes::noteSame(const Pair& pair)
         accounts_.leaveOut(pair.after.entity->kind, what);
 }
 
-void Changes::noteChanged(const Pair& pair)
+void Changes::noteChanged(const Pair& pair, const Contents::Run& run)
 {
     ++accounts_.since->changed[std::string(pair.after.entity->kind)];
     qint64 attributes = 0;
@@ -328,7 +346,7 @@ void Changes::noteChanged(const Pair& pair)
     const OdDbHandle handle(pair.before.entity->handle);
     before_.readEntity(*pair.before.entity, pair.before.parts, handle, object_);
     noteTouched(object_.cls, handle);
-    changed_.push_back({pair.before, pair.after, object_.cls});
+    changed_.push_back({pair.before, pair.after, object_.cls, &run});
 }
 
 void Changes::noteGone(const Item& item)
@@ -412,7 +430,8 @@ void Changes::note(const Property& property)
         // Styles are named by their names too.
         if (value->GetType() != CFxVariant::kString || !std::string_view(property.tag).ends_with("tyle"))
             continue;
-        for (const NamedObjects* const names : {&before_.around().textStyles, &before_.around().dimensionStyles})
+        for (const NamedObjects* const names :
+             {&before_.around().textStyles, &before_.around().dimensionStyles, &before_.around().richLineStyles})
             if (const NamedObjects::Named* const named = names->find(value->GetString().toQString()))
                 named_.insert(named->handle);
     }
@@ -545,6 +564,7 @@ void Changes::recordChange()
 {
     const ChangedEntity& entity = changed_[place_++];
     offset_ = entity.after.entity->begin;
+    before_.around().sheet = after_.around().sheet = entity.run->sheet;
     for (const std::vector<Property>& list : byNumber(pairing_->difference(entity.before, entity.after).changes))
         recorder_.change(entity.cls, OdDbHandle(entity.before.entity->handle), list);
 }

@@ -49,6 +49,7 @@ private:
         Item before;
         Item after;
         OdRxClass* cls;
+        const Contents::Run* run; ///< of the newer drawing, in which it lies
     };
     struct Removal
     {
@@ -70,6 +71,7 @@ private:
     void pairTable(const KindRow& table);
     void rename(const KindRow& table, const NamedObjects::Named& before, const NamedObjects::Named& after);
     void compareTable(const KindRow& table);
+    bool isMade(const KindRow& table, const NamedObjects::Named& named);
     void noteGoneRecord(const KindRow& table, const NamedObjects::Named& named);
     void compareRecords(const KindRow& table, const NamedObjects::Named& before, const NamedObjects::Named& after);
     void pairBlocks();
@@ -80,7 +82,7 @@ private:
     void noteGone(const Item& item);
     void noteLayersOf(std::span<const Entity> entities);
     void noteSame(const Pair& pair);
-    void noteChanged(const Pair& pair);
+    void noteChanged(const Pair& pair, const Contents::Run& run);
     void noteTouched(OdRxClass* cls, OdDbHandle handle);
     void note(const DrawnObject& object);
     void note(const Property& property);
@@ -96,6 +98,7 @@ private:
     void recordChange();
 
     const ChangeForms forms_;
+    const bool isWhole_; ///< nothing of the drawings was left out
     Contents before_;
     Contents after_;
     std::optional<Comparison> comparison_; ///< once the tables are paired

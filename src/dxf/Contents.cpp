@@ -45,18 +45,26 @@ void Contents::planSheets()
             if (group.code == 330)
                 block = group.handle();
         }
-        sheets[block] = name;
+        name = name.trimmed();
+        if (!name.isEmpty() && name.compare(QLatin1String("Model"), Qt::CaseInsensitive) != 0)
+            sheets[block] = name;
     }
+    const QString usual = QStringLiteral("Layout1");
+    bool hasCurrent = false;
+    std::unordered_set<QString> seen;
     for (const Block& block : drawing_.blocks()) {
-        if (!block.name.startsWith("*Paper_Space", Qt::CaseInsensitive))
+        // Of a second one of the same name, Blocks tells.
+        if (!isPaperSpace(block.name) || !seen.insert(block.name.toLower()).second)
             continue;
         const auto found = sheets.find(block.record);
-        const QString name = found == sheets.end() ? QStringLiteral("Layout1") : found->second;
         // What is on the current sheet stands among the entities of model space.
         const bool isCurrent = block.name.size() == QStringLiteral("*Paper_Space").size();
-        runs_.push_back(
-            {isCurrent ? std::span<const Entity>(drawing_.entities()) : drawing_.entities(block), nullptr, name});
+        hasCurrent = hasCurrent || isCurrent;
+        runs_.push_back({isCurrent ? std::span<const Entity>(drawing_.entities()) : drawing_.entities(block), nullptr,
+                         found == sheets.end() ? usual : found->second});
     }
+    if (!hasCurrent)
+        runs_.push_back({drawing_.entities(), nullptr, usual});
 }
 
 bool Contents::isOnChosenLayer(const Entity& entity)
@@ -67,7 +75,7 @@ bool Contents::isOnChosenLayer(const Entity& entity)
     Group group;
     while (groups.next(group))
         if (group.code == 8)
-            return layers_.contains(drawing_.text(group).toLower());
+            return layers_.contains(drawing_.text(group).trimmed().toLower());
     return layers_.contains("0");
 }
 
@@ -85,6 +93,8 @@ void Contents::read(const Kind& kind, const Entity& entity, std::span<const Enti
     object.handle = handle;
     reader_.read(entity);
     kind.row->read(reader_, parts, around_, object);
+    if (!object.isFinite())
+        throw Lost{kNotFinite};
 }
 
 void Contents::readEntity(const Entity& entity, std::span<const Entity> parts, OdDbHandle handle, DrawnObject& object)

@@ -15,7 +15,30 @@ TextDecoder decoderOf(std::string_view version, std::string_view codePage)
     return version.size() == kFirstOfUtf8.size() && version >= kFirstOfUtf8 ? TextDecoder() : TextDecoder(codePage);
 }
 
+/// Of the hundreds of variables of a header.
+bool isAskedFor(std::string_view variable)
+{
+    return variable == "$ACADVER" || variable == "$DWGCODEPAGE" || variable == "$HANDSEED";
+}
+
+bool isCalled(const QString& name, const char* known)
+{
+    // R12 writes a dollar.
+    return name.size() > 1 && (name[0] == '*' || name[0] == '$') &&
+           name.midRef(1).startsWith(QLatin1String(known), Qt::CaseInsensitive);
+}
+
 } // namespace
+
+bool isModelSpace(const QString& block)
+{
+    return isCalled(block, "Model_Space");
+}
+
+bool isPaperSpace(const QString& block)
+{
+    return isCalled(block, "Paper_Space");
+}
 
 /// Goes through the groups of a file once.
 class Drawing::Indexer
@@ -140,7 +163,7 @@ private:
         if (section_ == Section::Header) {
             if (group.code == 9)
                 variable_ = group.word();
-            else
+            else if (isAskedFor(variable_))
                 drawing_.variables_.push_back({variable_, group});
         } else if (section_ == Section::Unnamed) {
             if (group.code == 2)
@@ -204,6 +227,12 @@ Drawing::Drawing(std::string_view file) : file_(file), form_(fileForm(file))
         block.name = nameOf(block.head);
         const auto record = records.find(block.name.toLower());
         block.record = record != records.end() ? record->second : block.head.handle;
+        // Some write there what is drawn in model space.
+        if (isModelSpace(block.name)) {
+            const std::span<const Entity> drawn = entities(block);
+            entities_.insert(entities_.end(), drawn.begin(), drawn.end());
+            block.count = 0;
+        }
     }
 }
 
@@ -237,7 +266,7 @@ QString Drawing::nameOf(const Entity& record)
     Group group;
     while (groups.next(group))
         if (group.code == 2)
-            return text(group);
+            return text(group).trimmed();
     return {};
 }
 

@@ -33,6 +33,10 @@ struct Block
     std::size_t count = 0;
 };
 
+/// By the name of a block, whether it holds what is drawn in model space, or on a sheet.
+bool isModelSpace(const QString& block);
+bool isPaperSpace(const QString& block);
+
 /// A drawing file: its bytes, which have to outlive this, and where things are in them. One pass over the file makes
 /// it; entities are read when somebody asks for them.
 class Drawing
@@ -48,7 +52,7 @@ public:
     std::string_view bytes() const { return file_; }
     GroupReader groups(const Entity& entity) const { return {file_.substr(0, entity.end), form_, entity.begin}; }
 
-    /// The last one of that name and code; an empty line for none.
+    /// The last one of that name and code, of the few that anybody needs; an empty line for none.
     Group variable(std::string_view name, int code) const;
     /// Of the table of that name: LAYER, LTYPE, STYLE, DIMSTYLE or BLOCK_RECORD; and MLINESTYLE, whose records stand
     /// among the objects.

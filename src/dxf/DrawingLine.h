@@ -22,7 +22,9 @@ public:
         out_.endObject();
         out_.endObject();
         out_.endLine();
-        lines_ += out_.bytes();
+        // A number that sums have taken beyond all bounds has no form; who made it lets the object go.
+        if (!out_.refused())
+            lines_ += out_.bytes();
     }
     DrawingLine(const DrawingLine&) = delete;
     DrawingLine& operator=(const DrawingLine&) = delete;

@@ -1,5 +1,7 @@
 #include "dxf/DrawnObject.h"
 
+#include <algorithm>
+#include <cmath>
 #include <string_view>
 
 namespace inkmacro::dxf {
@@ -16,7 +18,61 @@ CFxVariant listOf(const std::vector<Item>& items, ValueOf valueOf)
     return CFxVariantCollection(std::move(elements));
 }
 
+bool isNumber(double number)
+{
+    return std::isfinite(number);
+}
+
+bool isNumber(const OdGePoint2d& point)
+{
+    return std::isfinite(point.x) && std::isfinite(point.y);
+}
+
+bool isNumber(const OdGePoint3d& point)
+{
+    return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z);
+}
+
+template<class Item>
+bool isNumber(const OdArray<Item>& items)
+{
+    return std::all_of(items.begin(), items.end(), [](const Item& item) { return isNumber(item); });
+}
+
+bool isFinite(const CFxVariant& value)
+{
+    switch (value.GetType()) {
+    case CFxVariant::kDouble:
+        return isNumber(value.GetDouble());
+    case CFxVariant::kPoint3d:
+        return isNumber(value.GetPoint3d());
+    case CFxVariant::kCollection: {
+        const auto& elements = value.GetCollection().GetCollectionDataForRead();
+        return std::all_of(elements.begin(), elements.end(),
+                           [](const CFxVariantCollectionElement& element) { return isFinite(*element.GetValue()); });
+    }
+    default:
+        return true;
+    }
+}
+
+bool areFinite(const std::vector<Property>& properties)
+{
+    return std::all_of(properties.begin(), properties.end(),
+                       [](const Property& property) { return isFinite(property.value); });
+}
+
 } // namespace
+
+bool DrawnObject::isFinite() const
+{
+    return areFinite(properties) && areFinite(changes) &&
+           std::all_of(repeats.begin(), repeats.end(), [](const OdGePoint3d& place) { return isNumber(place); }) &&
+           std::all_of(custom.begin(), custom.end(), [](const CFxCustomActionData& data) {
+               return isNumber(data.GetDouble()) && isNumber(data.GetPointArray()) && isNumber(data.GetDoubleArray()) &&
+                      isNumber(data.Get2dPointArray());
+           });
+}
 
 void DrawnObject::moveTo(const OdGePoint3d& position)
 {

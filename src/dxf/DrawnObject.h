@@ -93,6 +93,8 @@ struct DrawnObject
         add(y, point.y);
         add(z, point.z);
     }
+    /// Whether a recording can hold all of its numbers: sums of large ones may be none any more.
+    bool isFinite() const;
     /// Of what is added with a position.
     void moveTo(const OdGePoint3d& position);
     void change(const char* tag, CFxVariant value) { changes.push_back({tag, std::move(value)}); }
@@ -106,6 +108,8 @@ struct Lost
 
 /// What no recording has of any entity.
 inline constexpr const char* kOtherData = "data of other applications";
+inline constexpr const char* kNotFinite = "a number is not finite";
+
 /// Of what can only stand upright or upside down.
 inline constexpr const char* kTilted = "its plane is tilted";
 /// Of texts.

@@ -67,7 +67,7 @@ double EntityReader::realOf(const Group& group)
     if (!number)
         throw Lost{"a number cannot be read"};
     if (!std::isfinite(*number))
-        throw Lost{"a number is not finite"};
+        throw Lost{kNotFinite};
     return *number;
 }
 

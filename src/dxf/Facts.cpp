@@ -33,8 +33,8 @@ constexpr Handling kHandlings[] = {
 };
 
 /// Data of the recording's drawing that properties say again.
-constexpr const char* kRepeated[] = {"class",       "handle",       "layer",       "dimensionText",
-                                     "patternName", "patternScale", "patternAngle"};
+constexpr const char* kRepeated[] = {"class",       "handle",       "layer",        "dimensionText",
+                                     "patternName", "patternScale", "patternAngle", "vertices"};
 
 /// Of custom actions: what a change can set, by the place among the data.
 struct CustomTag
@@ -199,7 +199,9 @@ struct KeyHash
 
 bool isSame(double left, double right)
 {
-    return left == right || std::abs(left - right) <= kClose * std::max({1.0, std::abs(left), std::abs(right)});
+    // Far from the origin no writer has that many digits.
+    constexpr double digits = 1e-15;
+    return left == right || std::abs(left - right) <= kClose + digits * std::max(std::abs(left), std::abs(right));
 }
 
 bool isSame(const CFxVariant& left, const CFxVariant& right)
@@ -272,6 +274,16 @@ Comparison::Comparison(const ChangeForms& forms, Contents& before, Contents& aft
     add("On", choice(0, "Yes"));
     add("Display locked", choice(1, "No"));
     add("Shade print", choice(0, "As displayed"));
+    add("M closed", choice(1, "No"));
+    add("N closed", choice(1, "No"));
+    add("Fit/Smooth", choice(0, "None"));
+    add("Show image", yesOrNo(true));
+    constexpr double usualLight = 50;
+    add("Brightness", usualLight);
+    add("Contrast", usualLight);
+    add("Fade", 0.0);
+    add("Width factor", 1.0);
+    add("Obliquing", 0.0);
     add("TextStyle", standardName);
     if (standard)
         add("Style", around.textStyles.id("Standard"), "AcDbMText");
@@ -536,13 +548,14 @@ void tellAxis(std::vector<Fact>& facts)
                 axis[i] = &fact;
     if (!axis[0] || !axis[1] || !axis[2])
         return;
+    const bool isFixed = axis[0]->isFixed;
     const double length =
         std::hypot(axis[0]->value.GetDouble(), axis[1]->value.GetDouble(), axis[2]->value.GetDouble());
     for (Fact* const fact : axis) {
         fact->value = fact->value.GetDouble() / length;
         fact->isFixed = true;
     }
-    facts.push_back({"Major radius", length, Fact::kSingle, "", {}, axis[0]->isFixed && facts.front().isFixed});
+    facts.push_back({"Major radius", length, Fact::kSingle, "", {}, isFixed});
 }
 
 } // namespace
@@ -561,8 +574,18 @@ void Comparison::take(const DrawnObject& object, Contents& contents, FactList& f
     if (object.making != DrawnObject::Making::Custom)
         for (const Property& property : object.properties)
             take(object, property, facts);
-    for (const Property& property : object.changes)
-        take(object, property, facts);
+    for (auto property = object.changes.begin(); property != object.changes.end(); ++property) {
+        const std::size_t first = facts.size();
+        take(object, *property, facts);
+        const bool isSecond =
+            !*property->group && std::any_of(object.changes.begin(), property,
+                                             [&](const Property& other) { return is(other.tag, property->tag); });
+        // Alone, it would be taken for the first one.
+        for (std::size_t i = first; isSecond && i < facts.size(); ++i) {
+            facts[i].index = Fact::kSecond;
+            facts[i].isFixed = true;
+        }
+    }
     for (const Property& property : object.unsaid)
         facts.push_back({property.tag, property.value, Fact::kSingle, property.group, property.ownTag, true});
     if (!object.drawing.isEmpty())

@@ -27,6 +27,7 @@ using ChangeForms = std::function<const ChangeForm*(const OdRxClass* cls, const 
 struct Fact
 {
     static constexpr std::int32_t kSingle = -1;
+    static constexpr std::int32_t kSecond = -2; ///< of two values of one name
 
     const char* tag; ///< that a change has
     CFxVariant value;

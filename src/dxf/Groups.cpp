@@ -151,7 +151,6 @@ GroupReader::GroupReader(std::string_view file, FileForm form, std::size_t offse
     : file_(file), form_(form), offset_(offset)
 {
     if (form == FileForm::Ascii) {
-        endsWithCarriageReturns_ = file.find('\n') == std::string_view::npos;
         if (offset_ == 0 && file.starts_with(kByteOrderMark))
             offset_ = kByteOrderMark.size();
     } else if (offset_ == 0) {
@@ -169,21 +168,23 @@ bool GroupReader::nextLine(std::string_view& line)
     if (offset_ >= file_.size())
         return false;
     const char* const begin = file_.data() + offset_;
-    const std::size_t rest = file_.size() - offset_;
-    const auto* found = static_cast<const char*>(std::memchr(begin, endsWithCarriageReturns_ ? '\r' : '\n', rest));
-    std::size_t length = found ? static_cast<std::size_t>(found - begin) : rest;
-    offset_ += length + (found ? 1 : 0);
-    if (!endsWithCarriageReturns_) {
-        // One before the line feed belongs to it, and so does a second one that careless copying has put there.
-        while (length > 0 && begin[length - 1] == '\r')
-            --length;
-        // One alone ends a line too.
-        if (const auto* lone = static_cast<const char*>(std::memchr(begin, '\r', length))) {
-            length = static_cast<std::size_t>(lone - begin);
-            offset_ = static_cast<std::size_t>(lone - file_.data()) + 1;
-        }
+    // The next line feed may be far away, behind many lines that end otherwise.
+    if (lineFeed_ < offset_ || lineFeed_ == kUnknown)
+        lineFeed_ = std::min(file_.find('\n', offset_), file_.size());
+    std::size_t length = lineFeed_ - offset_;
+    std::size_t behind = lineFeed_ + 1;
+    if (const auto* const found = static_cast<const char*>(std::memchr(begin, '\r', length))) {
+        const auto at = static_cast<std::size_t>(found - begin);
+        // One before the line feed belongs to it, and so does a second one that careless copying has put there; one
+        // alone ends a line too.
+        const std::size_t rest = length - at;
+        const bool isBeforeLineFeed = behind <= file_.size() && (rest == 1 || (rest == 2 && found[1] == '\r'));
+        if (!isBeforeLineFeed)
+            behind = offset_ + at + 1;
+        length = at;
     }
     line = {begin, length};
+    offset_ = std::min(behind, file_.size());
     return true;
 }
 

@@ -69,7 +69,8 @@ private:
     FileForm form_;
     std::size_t offset_;
     qint64 strayLines_ = 0;
-    bool endsWithCarriageReturns_ = false; ///< the lines, each with one and no line feed
+    static constexpr std::size_t kUnknown = std::string_view::npos;
+    std::size_t lineFeed_ = kUnknown; ///< the next one, or the end of the file
 };
 
 } // namespace inkmacro::dxf

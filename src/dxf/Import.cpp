@@ -5,12 +5,30 @@
 
 namespace inkmacro::dxf {
 
+namespace {
+
+/// Calls `use` with the records of a table that have a name, and whether the record is one of the drawing's own: not
+/// the second one of its name, and not one of an external reference.
+template<class Use>
+void eachRecord(Drawing& drawing, const KindRow& table, Use use)
+{
+    std::unordered_set<QString> names;
+    for (const Entity& record : drawing.table(table.kind)) {
+        const QString name = drawing.nameOf(record);
+        if (!name.isEmpty() && names.insert(name.toLower()).second)
+            use(record, !isOfOtherFile(name));
+    }
+}
+
+} // namespace
+
 QByteArray Import::head()
 {
     QByteArray lines = headerLine();
     for (const KindRow& table : tableKinds())
-        for (const Entity& record : contents_.drawing().table(table.kind))
+        eachRecord(contents_.drawing(), table, [&](const Entity& record, bool) {
             tellRecord(contents_, table, record, OdDbHandle(record.handle), lines);
+        });
     for (const NamedObjects::Named& layer : contents_.around().layers.all())
         if (!layer.record)
             DrawingLine(lines, "AcDbLayerTableRecord", OdDbHandle(layer.handle)).with("name", layer.name);
@@ -51,8 +69,16 @@ bool Import::advance()
 void Import::recordTables()
 {
     for (const KindRow& table : tableKinds())
-        for (const Entity& record : contents_.drawing().table(table.kind))
-            importRecord(contents_, table, record, OdDbHandle(record.handle));
+        eachRecord(contents_.drawing(), table, [&](const Entity& record, bool isOwn) {
+            if (isOwn)
+                importRecord(contents_, table, record, OdDbHandle(record.handle));
+            else
+                accounts_.leaveOut(record.kind, kOfOtherFile);
+        });
+    for (const Blocks::Left& left : contents_.blocks().left())
+        for (const Entity& entity : left.entities)
+            if (entity.kind != "VERTEX" && entity.kind != "SEQEND")
+                accounts_.lose(entity.kind, left.reason);
     for (const NamedObjects::Named& layer : contents_.around().layers.all())
         if (!layer.record && layer.name != "0")
             recorder_.add(oddbClassByName("AcDbLayerTableRecord"), OdDbHandle(layer.handle),

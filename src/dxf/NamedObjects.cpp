@@ -2,6 +2,11 @@
 
 namespace inkmacro::dxf {
 
+bool isOfOtherFile(const QString& name)
+{
+    return name.contains('|');
+}
+
 NamedObjects::NamedObjects(Drawing& drawing, OdDbDatabase& ids, std::string_view table) : drawing_(drawing), ids_(ids)
 {
     for (const Entity& record : drawing.table(table))
@@ -17,7 +22,7 @@ void NamedObjects::add(QString name, quint64 handle, const Entity* record)
 
 void NamedObjects::addUnlisted(std::string_view bytes)
 {
-    const QString name = drawing_.decoder().text(bytes);
+    const QString name = drawing_.decoder().text(bytes).trimmed();
     if (!name.isEmpty() && !find(name))
         add(name, drawing_.newHandle(), nullptr);
 }
@@ -35,7 +40,7 @@ const NamedObjects::Found* NamedObjects::look(std::string_view bytes)
         return last_.second;
     auto [entry, isNew] = byBytes_.try_emplace(bytes);
     if (isNew)
-        if (const Named* named = find(drawing_.decoder().text(bytes)))
+        if (const Named* named = find(drawing_.decoder().text(bytes).trimmed()))
             entry->second = Found{static_cast<std::size_t>(named - all_.data()),
                                   CFxVariant(ids_.getOdDbObjectId(OdDbHandle(named->handle)))};
     if (!entry->second)

@@ -4,8 +4,21 @@
 
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace inkmacro::dxf {
+
+namespace {
+
+double radiusOf(const EntityReader& entity)
+{
+    const double radius = entity.real(40);
+    if (!(radius > 0))
+        throw Lost{"its radius is not above zero"};
+    return radius;
+}
+
+} // namespace
 
 void readLine(EntityReader& entity, Parts, Surroundings&, DrawnObject& object)
 {
@@ -24,7 +37,7 @@ void readCircle(EntityReader& entity, Parts, Surroundings&, DrawnObject& object)
     if (direction.isTilted())
         throw Lost{kTilted};
     object.add("Center X", "Center Y", "Center Z", direction.toWorld(entity.point(10)));
-    object.add("Radius", entity.real(40));
+    object.add("Radius", radiusOf(entity));
 }
 
 void readArc(EntityReader& entity, Parts, Surroundings&, DrawnObject& object)
@@ -33,7 +46,7 @@ void readArc(EntityReader& entity, Parts, Surroundings&, DrawnObject& object)
     if (direction.isTilted())
         throw Lost{kTilted};
     object.add("Center X", "Center Y", "Center Z", direction.toWorld(entity.point(10)));
-    object.add("Radius", entity.real(40));
+    object.add("Radius", radiusOf(entity));
     const Arc arc = direction.arcToWorld({entity.radians(50), entity.radians(51)});
     object.add("Start Angle", arc.start);
     object.add("End Angle", arc.end);
@@ -42,36 +55,48 @@ void readArc(EntityReader& entity, Parts, Surroundings&, DrawnObject& object)
 void readEllipse(EntityReader& entity, Parts, Surroundings&, DrawnObject& object)
 {
     // Center and axis are of the world, whatever the normal.
-    const OdGeVector3d axis = entity.vector(11);
+    OdGeVector3d axis = entity.vector(11);
     const OdGePoint3d center = entity.point(10);
-    object.add("Major axis vector X", axis.x);
-    object.add("Major axis vector Y", axis.y);
-    object.add("Major axis vector Z", axis.z);
-    const double major = std::sqrt(axis.x * axis.x + axis.y * axis.y + axis.z * axis.z);
-    if (!(major > 0))
-        throw Lost{"its axis has no length"};
+    const double length = std::hypot(axis.x, axis.y, axis.z);
+    const double ratio = std::abs(entity.real(40, 1.0));
+    if (!(length > 0) || !(ratio > 0))
+        throw Lost{"one of its axes has no length"};
     const Direction direction = entity.direction();
-    if (direction.isTilted() || axis.z != 0)
+    // Turning it may have left the axis a trace of height.
+    constexpr double close = 1e-9;
+    if (direction.isTilted() || std::abs(axis.z) > close * length)
         throw Lost{kTilted};
+    constexpr double turn = 2 * std::numbers::pi;
+    double start = entity.real(41);
+    double end = entity.real(42, turn);
+    double minor = length * ratio;
+    if (ratio > 1) {
+        // The second axis is the longer one: it comes first, a quarter of a turn on.
+        const double along = direction.isDown() ? -ratio : ratio;
+        axis = {-axis.y * along, axis.x * along, 0};
+        minor = length;
+        start -= turn / 4;
+        end -= turn / 4;
+    }
+    if (direction.isDown())
+        start = turn - std::exchange(end, turn - start);
+    if (start < 0) {
+        start += turn;
+        end += turn;
+    }
+    // An ellipse is whole at exactly 0 and a turn.
+    if (std::abs(end - start - turn) < close || std::abs(end - start) < close) {
+        start = 0;
+        end = turn;
+    }
     // It is drawn in the plane of the world, and lifted then.
     object.add("Center X", "Center Y", "Center Z", {center.x, center.y, 0});
     if (center.z != 0)
         object.change("Center Z", center.z);
-    object.add("Minor radius", major * std::abs(entity.real(40, 1.0)));
-    constexpr double turn = 2 * std::numbers::pi;
-    double start = entity.real(41);
-    double end = entity.real(42, turn);
-    if (direction.isDown()) {
-        const double mirrored = turn - end;
-        end = turn - start;
-        start = mirrored;
-    }
-    // An ellipse is whole at exactly 0 and a turn.
-    constexpr double close = 1e-9;
-    if (std::abs(end - start - turn) < close || (std::abs(start) < close && std::abs(end) < close)) {
-        start = 0;
-        end = turn;
-    }
+    object.add("Major axis vector X", axis.x);
+    object.add("Major axis vector Y", axis.y);
+    object.add("Major axis vector Z", 0.0);
+    object.add("Minor radius", minor);
     object.add("Start angle", start);
     object.add("End angle", end);
 }

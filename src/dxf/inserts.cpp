@@ -65,8 +65,13 @@ void readInsert(EntityReader& entity, Parts parts, Surroundings& around, DrawnOb
     const Insertable& block = around.insertable(name ? name->bytes : std::string_view());
     const double inPlane = entity.radians(50);
     takeArray(entity, direction, inPlane, object);
-    const auto [rotation, scale] =
-        direction.placementToWorld({inPlane, {entity.real(41, 1.0), entity.real(42, 1.0), entity.real(43, 1.0)}});
+    OdGeScale3d factors{entity.real(41, 1.0), entity.real(42, 1.0), entity.real(43, 1.0)};
+    if (factors.sx == 0 || factors.sy == 0)
+        throw Lost{"its scale is 0"};
+    // Some write none for what is plane.
+    if (factors.sz == 0)
+        factors.sz = 1;
+    const auto [rotation, scale] = direction.placementToWorld({inPlane, factors});
     object.add("Name", CFxString(block.name));
     object.add("Position X", "Position Y", "Position Z", direction.toWorld(entity.point(10)));
     object.add("Scale X", scale.sx);

@@ -3,6 +3,7 @@
 #include "dxf/readers.h"
 #include "host/db/OdDbClassMap.h"
 
+#include <algorithm>
 #include <unordered_map>
 
 namespace inkmacro::dxf {
@@ -97,6 +98,8 @@ void takeGeneral(const EntityReader& entity, Surroundings& around, DrawnObject& 
         add("Layer", std::move(id));
     if (const std::optional<OdCmColor> color = colorOf(entity.groups()))
         add("LineColor", *color);
+    else if (constexpr qint64 byLayer = 256; entity.integer(62, byLayer) != byLayer)
+        object.untold.push_back(kNoColor);
     if (const Group* style = entity.find(6); style && !isByLayer(style->word())) {
         if (CFxVariant id = around.lineStyles.id(style->bytes); !id.IsNull())
             add("LineStyle", std::move(id));
@@ -106,7 +109,9 @@ void takeGeneral(const EntityReader& entity, Surroundings& around, DrawnObject& 
     if (const double scale = entity.real(48, 1.0); scale != 1.0)
         add("LineScale", scale);
     constexpr qint64 weightByLayer = -1;
-    if (const qint64 weight = entity.integer(370, weightByLayer); weight != weightByLayer)
+    if (const qint64 weight = entity.integer(370, weightByLayer); !isLineWeight(weight))
+        object.untold.push_back(kNoLineWeight);
+    else if (weight != weightByLayer)
         add("LineWeight", static_cast<std::int32_t>(weight));
     if (const double thickness = entity.real(39); thickness != 0.0) {
         const Direction direction = entity.direction();
@@ -121,6 +126,13 @@ void takeGeneral(const EntityReader& entity, Surroundings& around, DrawnObject& 
         object.untold.push_back("that it is invisible");
     if (entity.hasExtendedData())
         object.untold.push_back(kOtherData);
+}
+
+bool isLineWeight(qint64 weight)
+{
+    static constexpr qint64 weights[] = {-3, -2, -1, 0,  5,  9,  13,  15,  18,  20,  25,  30,  35, 40,
+                                         50, 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
+    return std::binary_search(std::begin(weights), std::end(weights), weight);
 }
 
 bool isByLayer(std::string_view name)

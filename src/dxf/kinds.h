@@ -69,6 +69,7 @@ struct Surroundings
           lineStyles(drawing, ids, "LTYPE"),
           textStyles(drawing, ids, "STYLE"),
           dimensionStyles(drawing, ids, "DIMSTYLE"),
+          richLineStyles(drawing, ids, "MLINESTYLE"),
           blockRecords(drawing, ids, "BLOCK_RECORD"),
           objects(drawing),
           madeHandles(drawing)
@@ -84,6 +85,7 @@ struct Surroundings
     NamedObjects lineStyles;
     NamedObjects textStyles;
     NamedObjects dimensionStyles;
+    NamedObjects richLineStyles;
     NamedObjects blockRecords;
     ObjectsByHandle objects;
     bool isForDrawing = false; ///< nothing but the lines of the drawing is asked for
@@ -128,5 +130,10 @@ OdCmColor trueColorOf(const Group& group);
 void takeGeneral(const EntityReader& entity, Surroundings& around, DrawnObject& object);
 
 bool isByLayer(std::string_view name);
+
+/// In hundredths of a millimeter; below zero by layer, by block and the usual one.
+bool isLineWeight(qint64 weight);
+inline constexpr const char* kNoLineWeight = "a line weight that there is not";
+inline constexpr const char* kNoColor = "a color that there is not";
 
 } // namespace inkmacro::dxf

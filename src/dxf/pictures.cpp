@@ -64,6 +64,7 @@ void readImage(EntityReader& entity, Parts, Surroundings& around, DrawnObject& o
     object.add("Position X", "Position Y", "Position Z", entity.point(10));
     object.add("Scale", width);
     object.add("Rotation", std::atan2(across.y, across.x));
+    object.change("Width", width);
     const qint64 flags = entity.integer(70, kIsShown);
     if (!(flags & kIsShown))
         object.change("Show image", yesOrNo(false));

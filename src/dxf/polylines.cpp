@@ -22,18 +22,19 @@ struct PlanePolyline
     bool isClosed = false;
     bool isPatternContinuous = false; ///< the line style runs on across vertices
     double elevation = 0;
-    std::optional<double> width; ///< of all segments
+    double width = 0; ///< of all segments
 
     bool hasArcs() const
     {
         return std::any_of(vertices.begin(), vertices.end(), [](const Vertex& vertex) { return vertex.bulge != 0; });
     }
-    bool hasWidths() const
+    /// Go before that of all segments.
+    bool hasOwnWidths() const
     {
-        return (width && *width != 0) || std::any_of(vertices.begin(), vertices.end(), [](const Vertex& vertex) {
-                   return vertex.startWidth != 0 || vertex.endWidth != 0;
-               });
+        return std::any_of(vertices.begin(), vertices.end(),
+                           [](const Vertex& vertex) { return vertex.startWidth != 0 || vertex.endWidth != 0; });
     }
+    bool hasWidths() const { return width != 0 || hasOwnWidths(); }
 };
 
 void drawIn3d(const PlanePolyline& polyline, const Direction& direction, DrawnObject& object)
@@ -65,7 +66,7 @@ void draw(const PlanePolyline& polyline, const Direction& direction, DrawnObject
         OdArray<OdGePoint3d> bulges;
         OdArray<double> startWidths;
         OdArray<double> endWidths;
-        const bool varies = polyline.hasWidths() && !polyline.width;
+        const bool varies = polyline.hasOwnWidths();
         for (std::size_t i = 0; i < points.size(); ++i) {
             const Vertex& vertex = polyline.vertices[i];
             vertices.append(points[i]);
@@ -84,8 +85,8 @@ void draw(const PlanePolyline& polyline, const Direction& direction, DrawnObject
                          {static_cast<const OdRxClass*>(object.cls)},
                          {startWidths},
                          {endWidths},
-                         {polyline.width.has_value() && *polyline.width != 0},
-                         {polyline.width.value_or(0)}};
+                         {!varies && polyline.width != 0},
+                         {varies ? 0.0 : polyline.width}};
     } else {
         object.add("Vertex", pointList(points));
         object.add("Closed", yesOrNo(polyline.isClosed));
@@ -151,7 +152,7 @@ void readPolyline(EntityReader& entity, Parts parts, Surroundings& around, Drawn
     PlanePolyline polyline;
     polyline.isClosed = flags & kClosed;
     polyline.isPatternContinuous = flags & kPatternContinuous;
-    polyline.elevation = entity.real(30);
+    polyline.elevation = entity.point(10).z;
     const double startWidth = entity.real(40);
     const double endWidth = entity.real(41);
     EntityReader part(around.drawing);

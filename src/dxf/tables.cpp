@@ -37,17 +37,26 @@ void readLayer(EntityReader& record, Parts, Surroundings& around, DrawnObject& o
     takeName(name, object);
 
     constexpr qint64 white = 7;
-    const qint64 color = record.integer(62, white);
+    constexpr qint64 mostColors = 255;
+    qint64 color = record.integer(62, white);
+    if (color == 0 || color < -mostColors || color > mostColors) {
+        object.untold.push_back(kNoColor);
+        color = white;
+    }
+    // One that is off has its color below zero.
+    const bool isOff = color < 0;
     if (const Group* trueColor = record.find(420))
         object.change("Color", trueColorOf(*trueColor));
-    else if (std::abs(color) != white && std::abs(color) > 0 && std::abs(color) < 256)
-        object.change("Color", OdCmColor::byIndex(static_cast<std::uint16_t>(std::abs(color))));
+    else if (const qint64 index = isOff ? -color : color; index != white)
+        object.change("Color", OdCmColor::byIndex(static_cast<std::uint16_t>(index)));
     if (const Group* style = record.find(6);
         style && around.drawing.text(*style).compare("Continuous", Qt::CaseInsensitive) != 0)
         if (CFxVariant id = around.lineStyles.id(style->bytes); !id.IsNull())
             object.change("LineStyle", std::move(id));
     constexpr qint64 usualWeight = -3;
-    if (const qint64 weight = record.integer(370, usualWeight); weight != usualWeight)
+    if (const qint64 weight = record.integer(370, usualWeight); !isLineWeight(weight))
+        object.untold.push_back(kNoLineWeight);
+    else if (weight != usualWeight)
         object.change("LineWeight", static_cast<std::int32_t>(weight));
     const qint64 flags = record.integer(70);
     if (flags & kFrozen)
@@ -58,8 +67,7 @@ void readLayer(EntityReader& record, Parts, Surroundings& around, DrawnObject& o
         object.change("Locked", yesOrNo(true));
     if (record.integer(290, 1) == 0)
         object.change("Printable", yesOrNo(false));
-    // One that is off has its color below zero.
-    if (color < 0)
+    if (isOff)
         object.change("Hidden", yesOrNo(true));
 }
 
@@ -127,8 +135,11 @@ std::span<const KindRow> tableKinds()
 
 NamedObjects* Surroundings::table(std::string_view name)
 {
-    const std::pair<std::string_view, NamedObjects*> tables[] = {
-        {"LAYER", &layers}, {"LTYPE", &lineStyles}, {"STYLE", &textStyles}, {"DIMSTYLE", &dimensionStyles}};
+    const std::pair<std::string_view, NamedObjects*> tables[] = {{"LAYER", &layers},
+                                                                 {"LTYPE", &lineStyles},
+                                                                 {"STYLE", &textStyles},
+                                                                 {"DIMSTYLE", &dimensionStyles},
+                                                                 {"MLINESTYLE", &richLineStyles}};
     for (const auto& [known, objects] : tables)
         if (known == name)
             return objects;

@@ -75,6 +75,7 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     if (writer.target == inkmacro::Target::Vba && stream.generateByteOrderMark())
         header = writer.faulty(header, otherLanguage);
     macro.writeFrame(header);
+    writer.onSheet = !RecordingInModel;
     RecordingSheetName = CFxString();
     RecordingInModel = true;
 

@@ -67,7 +67,7 @@ static std::int32_t convertModified(Conversion& conversion, const CFxObjectModif
 {
     OdRxClass* const cls = action.GetObjectClass();
     const bool isLayer = cls && IsSupportedClass(cls) && CFxString(cls->name()).equalNoCase("AcDbLayerTableRecord");
-    return isLayer && !conversion.names().FetchesChanged() && !conversion.names().FindEntry(action.GetHandle())
+    return isLayer && !conversion.names().FetchesUnknown() && !conversion.names().FindEntry(action.GetHandle())
                ? convertModifiedLayer(conversion, action, text)
                : ConvertObjectModified(conversion, action, text);
 }

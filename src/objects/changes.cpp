@@ -54,7 +54,7 @@ static const char* whyOutOfReach(const Conversion& conversion, const OdRxClass* 
         return "the recording did not add the object, so the macro has no variable for it";
     if (object->isA() != cls)
         return "the drawing has an object of another class under its handle";
-    return conversion.names().FetchesChanged() ? nullptr
+    return conversion.names().FetchesUnknown() ? nullptr
                                                : "the recording did not add the object, and only a repaired macro "
                                                  "fetches it from the drawing";
 }
@@ -202,7 +202,7 @@ void ConvertObjectChanges(Conversion& conversion, const OdRxClass* cls, const Od
         // Who left the group has given its level back already.
         if (RecordingLanguage() != kJavaScript && !group.abandoned())
             group.abandon();
-        // The fetch of a note stands there for what follows it.
+        // A fetch stands there for what follows it.
         if (!noteLeader.isNull() || isFetched)
             text.clear();
         if (isFetched)

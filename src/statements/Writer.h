@@ -46,6 +46,8 @@ public:
     std::uint32_t IndentLevel = 0;
     /// Not below 0: statements may give back more levels than there are.
     void lowerLevel(std::uint32_t by = 1) { IndentLevel -= std::min(by, IndentLevel); }
+    /// Whether a sheet is active where the statement being written runs, and not the model.
+    bool onSheet = false;
     /// Suffix that keeps the local names of one statement apart: raised before use by each statement that has one.
     std::uint32_t UniqueCounter = 0;
     /// What a repaired macro has renamed so far, which statements behind that have to find under its new name.

@@ -21,6 +21,7 @@ static const Phrase activateModel{
 
 Statement EmitActivateModel(Writer& writer)
 {
+    writer.onSheet = false;
     return writer.fill(activateModel);
 }
 
@@ -44,6 +45,7 @@ static const Phrase activateSheet{
 Statement EmitActivateSheet(Writer& writer, const CFxString& sheetName, CFxString& sheetVariable)
 {
     sheetVariable = writer.target == Target::JavaScript ? "mSheet" : "iwSheet";
+    writer.onSheet = true;
     return writer.fill(activateSheet).text(sheetName);
 }
 

@@ -149,7 +149,7 @@ EDITS = {
     "layer's name": lambda doc: doc.layers.get("Dashes").rename("Strokes"),
     "layers' color": on_layers(lambda one: one.dxf.set("color", 5)), "layers off": on_layers(lambda one: one.off()),
     "layers on": on_layers(lambda one: one.on()), "layers frozen": on_layers(lambda one: one.freeze()),
-    "other kind": lambda doc: drawings.text_of(doc).replace("  0\nCIRCLE\n", "  0\nPOINT\n").replace("dbCircle", "dbPoint"),
+    "other kind": lambda doc: drawings.text_of(doc).replace("\nCIRCLE\n", "\nPOINT\n").replace("dbCircle", "dbPoint"),
     "other handles": lambda doc: (erase(50)(doc), each(lambda e: e.translate(1, 0, 0) if e.dxftype() == "ARC" else 0),
                                   doc.modelspace().add_line((9, 9), (8, 7)), other_handles(doc))[-1],
     "font": lambda doc: doc.styles.get("Roman").dxf.update({"font": "isocp.shx", "width": 0.5, "height": 1}),

@@ -174,14 +174,15 @@ class Recording:
     def _form(self, one):
         form = FORMS.get(one.cls, lambda _: {})(one)
         if one.cls == "AcDbHatch":
-            form |= self._hatch(one, one.get("hatch"))
+            form |= self._hatch(one)
         return form | {
             "layer": self.name(one.get("Layer"), "0"), "color": one.get("LineColor", "bylayer"),
             "line style": self.name(one.get("LineStyle"), "bylayer"), "line scale": one.get("LineScale", 1),
             "weight": one.get("LineWeight", -1), "thickness": one.get("Thickness", 0)}
 
-    def _hatch(self, one, data):
+    def _hatch(self, one):
         """What bounds it is given in one of four forms."""
+        data = one.get("hatch")
         loops = []
         if data[4]:
             loops = [part for handle in data[7] for part in primitives(self.data.get(handle, {"class": "nothing"}))]
@@ -192,8 +193,8 @@ class Recording:
             for count in data[7]:
                 loops += segments([Vec3(next(points)) for _ in range(count)], [], True)
         gradient = data[-4:] if data[6] else None
-        return {"pattern": one.get("Pattern name", data[0]).upper(), "pattern scale": one.get("Scale", data[1]),
-                "pattern angle": angle(one.get("Angle", data[2])),
+        name, scale, turn = (one.get(*of) for of in zip(("Pattern name", "Scale", "Angle"), data))
+        return {"pattern": name.upper(), "pattern scale": scale, "pattern angle": angle(turn),
                 "gradient": gradient, "boundary": ordered(loops)}
 
 

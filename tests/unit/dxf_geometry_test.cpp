@@ -226,6 +226,32 @@ TEST(DxfSplines, AreRefusedWhereTheyAreNoCurve)
     EXPECT_FALSE(isPolyline(circle()));
 }
 
+TEST(DxfSplines, AreFollowedByLinesAndArcs)
+{
+    const std::optional<Bends> round = bends(circle(), 1e-9);
+    ASSERT_TRUE(round);
+    EXPECT_LT(round->deviation, 1e-12);
+    EXPECT_LE(round->points.size(), 9U);
+    double turned = 0;
+    for (const double bulge : round->bulges)
+        turned += 4 * std::atan(bulge);
+    EXPECT_NEAR(turned, 2 * std::numbers::pi, 1e-12); // against the clock, all of them
+
+    // Arcs need far fewer points than lines, and end where the curve does.
+    const std::optional<Bends> wave = bends(bezier({{0, 0}, {4, 6}, {6, -6}, {10, 0}}), 1e-4);
+    ASSERT_TRUE(wave);
+    EXPECT_LE(wave->deviation, 1e-4);
+    EXPECT_LT(wave->points.size(), 50U);
+    EXPECT_LT(wave->bulges.front(), 0);
+    EXPECT_GT(wave->bulges[wave->bulges.size() - 2], 0);
+    EXPECT_DOUBLE_EQ(wave->points.back().x, 10);
+
+    const std::optional<Bends> lines = bends(corner(), 1e-9);
+    ASSERT_TRUE(lines);
+    EXPECT_EQ(lines->points, (std::vector<OdGePoint2d>{{0, 0}, {3, 0}, {3, 3}}));
+    EXPECT_FALSE(bends({3, {0, 1}, {{0, 0}}, {}}, 1e-9));
+}
+
 TEST(DxfSplines, TellHowFarTheyGotWithinTheirPoints)
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();

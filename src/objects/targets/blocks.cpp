@@ -8,6 +8,20 @@
 
 using namespace inkmacro;
 
+static const Fault kModelOnSheet{
+    "EmitInsertBlock", {Target::CSharp}, "what is inserted goes into the model, though a sheet is active"};
+
+/// C# has the model's sketch manager alone in these insertions.
+static Statement inActiveSpace(const Writer& writer, Statement insertion)
+{
+    if (writer.target != Target::CSharp || !writer.onSheet)
+        return insertion;
+    const Statement repaired = QString(insertion.text())
+                                   .replace(QLatin1String("iwApp.GetActiveDocument().GetModel().GetSketchManager()"),
+                                            QLatin1String("iwSketchManager"));
+    return writer.mended(std::move(insertion), kModelOnSheet, repaired);
+}
+
 static const Phrase insertBlock{
     "EmitInsertBlock",
     {
@@ -37,14 +51,14 @@ Statement EmitInsertBlock(Writer& writer, const CFxString& block, const Placemen
 {
     const bool anonymous = block.toQString() == anonymousBlockName;
     const CFxString word = anonymous ? CFxString(name.toQString() + "Name") : block;
-    return writer.fill(anonymous ? insertAnonymousBlock : insertBlock)
-        .text(word)
-        .point(placement.position)
-        .real(placement.scales.sx)
-        .real(placement.scales.sy)
-        .real(placement.scales.sz)
-        .real(placement.rotation)
-        .text(name);
+    return inActiveSpace(writer, writer.fill(anonymous ? insertAnonymousBlock : insertBlock)
+                                     .text(word)
+                                     .point(placement.position)
+                                     .real(placement.scales.sx)
+                                     .real(placement.scales.sy)
+                                     .real(placement.scales.sz)
+                                     .real(placement.rotation)
+                                     .text(name));
 }
 
 static const Phrase insertExternalReference{
@@ -81,7 +95,8 @@ Statement EmitInsertPicture(Writer& writer, const CFxString& path, const OdGePoi
                             double rotation, const CFxString& name)
 {
     const EscapedText word = writer.target == Target::CSharp ? doubleBackslashes(path) : EscapedText(path);
-    return writer.fill(insertPicture).text(word).point(position).real(scale).real(rotation).text(name);
+    return inActiveSpace(writer,
+                         writer.fill(insertPicture).text(word).point(position).real(scale).real(rotation).text(name));
 }
 
 static const Phrase insertShape{"EmitInsertShape",
