@@ -119,8 +119,8 @@ class Comparison:
             if not found:
                 self.say(f"layer {layer.dxf.name} is missing")
                 continue
-            wanted = {"Color": expected.color(layer) if layer.dxf.color else 7, "Frozen": layer.is_frozen(), "Locked": layer.is_locked(),
-                      "Hidden": layer.is_off()}
+            wanted = {"Color": expected.color(layer) if layer.dxf.color else 7, "Hidden": layer.is_off(),
+                      "Frozen": layer.is_frozen(), "Locked": layer.is_locked()}
             for tag, value in wanted.items():
                 got = found.yes(tag) if isinstance(value, bool) else found.get(tag, found.get(tag.lower(), 7))
                 if got != value:

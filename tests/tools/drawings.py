@@ -311,6 +311,11 @@ def text_of(doc):
     return stream.getvalue().replace(f"230\n{ZERO[2]}\n", "230\n0.0\n")
 
 
+def bytes_of(doc, text=None):
+    """Of its text, or another one that has been made of that."""
+    return (text or text_of(doc)).encode("utf-8" if doc.dxfversion >= "AC1021" else "cp1252", "dxfreplace")
+
+
 def in_entities(text, more):
     return text.replace("  2\nENTITIES\n", "  2\nENTITIES\n" + more, 1)
 
@@ -454,16 +459,14 @@ def make(folder):
         more = RARE_TEXT if topic is rare else ""
         yield file(f"{topic.__name__}.dxf", in_entities(text_of(new("R2010", topic)), more))
     for version in VERSIONS:
-        text = text_of(new(version, *TOPICS))
-        codec = "utf-8" if version >= "R2007" else "cp1252"
-        whole = file(f"all_{version}.dxf", text.encode(codec, "dxfreplace"))
+        whole = file(f"all_{version}.dxf", bytes_of(new(version, *TOPICS)))
         yield whole
         path = folder / f"all_{version}_binary.dxf"
         ezdxf.readfile(whole.path).saveas(path, fmt="bin")
         yield Drawing(path)
     for older, version in (("R13", "AC1012"), ("R14", "AC1014")):
-        text = text_of(new("R2000", *TOPICS)).replace("AC1015", version)
-        yield file(f"all_{older}.dxf", text.encode("cp1252", "dxfreplace"))
+        content = bytes_of(new("R2000", *TOPICS))
+        yield file(f"all_{older}.dxf", content.replace(b"AC1015", version.encode()))
 
     for name, content, twin in encoded():
         yield file(name, content, twin)

@@ -135,6 +135,10 @@ def dimension(e, _):
     return cls, form | {"text": e.dxf.text.replace("<>", "", e.dxf.text == "<>")}
 
 
+class Among(list):
+    """What is found may hold more."""
+
+
 def hatch(e, ocs):
     parts = []
     height = e.dxf.elevation.z
@@ -158,12 +162,13 @@ def hatch(e, ocs):
             else:
                 parts.append(("spline",))
     curved = any(part[0] == "spline" for part in parts)
+    parts = recorded.ordered([tuple(p.replace(z=0) if isinstance(p, Vec3) else p for p in part) for part in parts
+                              if part[0] != "spline"])
     lined = not e.dxf.solid_fill
     return "Hatch", {"pattern": None if e.gradient else e.dxf.pattern_name.upper(),
                      "pattern scale": e.dxf.pattern_scale if lined else None,
                      "pattern angle": recorded.angle(math.radians(e.dxf.pattern_angle)) if lined else None,
-                     "boundary": None if curved else recorded.ordered(
-                         [tuple(p.replace(z=0) if isinstance(p, Vec3) else p for p in part) for part in parts])}
+                     "boundary": Among(parts) if curved else parts}
 
 
 def tilted(ocs):
@@ -214,6 +219,8 @@ KINDS = {
     "TOLERANCE": lambda e, _: ("Fcf", {"position": e.dxf.insert, "contents": e.dxf.content}),
     "IMAGE": lambda e, _: ("RasterImage", {"path": e.image_def.dxf.filename, "position": e.dxf.insert,
                                            "direction": e.dxf.u_pixel.normalize()}),
+    "MESH": lambda e, _: ("PolyFaceMesh", {"vertices": [Vec3(one) for one in e.vertices],
+                                           "faces": [[n + 1 for n in face] for face in e.faces]}),
     "VIEWPORT": lambda e, _: ("Viewport", {"center": e.dxf.center, "size": [e.dxf.width, e.dxf.height]}),
 }
 
@@ -299,6 +306,8 @@ def difference(wanted, found, path=""):
                                   for key, value in wanted.items() if key != "curve")), None)
     if isinstance(wanted, (float, int)) and isinstance(found, (float, int)):
         return None if abs(wanted - found) <= NEAR * max(1, abs(wanted)) else f"{path}: {wanted} is {found}"
+    if isinstance(wanted, Among):
+        return next((f"{path}: no {one}" for one in wanted if all(difference(one, other) for other in found)), None)
     if isinstance(wanted, (list, tuple, Vec3)) and isinstance(found, (list, tuple, Vec3)):
         wanted, found = list(wanted), list(found)
         if len(wanted) != len(found):

@@ -79,9 +79,8 @@ class Recording:
     def _run(self, action):
         for kind, content in action.items():
             if kind == "object":
-                self.data[content["handle"]] = content
-                if content["handle"] in self.drawn:
-                    self.drawn[content["handle"]].data = content
+                known = self.data.setdefault(content["handle"], {})
+                known.update(content)
                 continue
             if kind == "recording":
                 self.sheet = "" if content.get("sheet", {}).get("model", True) else content["sheet"]["name"]
@@ -96,7 +95,7 @@ class Recording:
     def _object(self, handle, cls):
         """Changed objects may be those of the drawing."""
         if handle not in self.drawn:
-            self.drawn[handle] = Object(cls, self.sheet, {}, self.data.get(handle, {}))
+            self.drawn[handle] = Object(cls, self.sheet, {}, self.data.setdefault(handle, {}))
         return self.drawn[handle]
 
     def _added(self, content):
@@ -155,11 +154,12 @@ class Recording:
             self.sheet = before
 
     def name(self, value, default):
-        """What a table calls the object of a property, in small letters."""
+        """What a table calls the object of a property, in small letters; other values as they are."""
         if isinstance(value, tuple):
             one = self.drawn.get(value[1], Object(""))
             value = one.get("Name") or self.data.get(value[1], {}).get("name", f"unnamed {value[1]}")
-        return (value or default).lower()
+        value = default if value is None else value
+        return value.lower() if isinstance(value, str) else value
 
     def forms(self):
         """By space, the form of each object in order; objects of tables by their names."""
@@ -187,7 +187,7 @@ class Recording:
         if data[4]:
             loops = [part for handle in data[7] for part in primitives(self.data.get(handle, {"class": "nothing"}))]
         elif data[5]:
-            loops = segments([Vec3(one) for one in data[8]], data[7], True)
+            loops = segments([Vec3(point) for point in data[8]], data[7], True)
         elif not data[3]:
             points = iter(data[8])
             for count in data[7]:
@@ -280,6 +280,14 @@ def padded(values, count):
     return [*values, *[0.0] * (count - len(values))][:count]
 
 
+def viewport(one):
+    """Its corners are told, and what has changed since."""
+    low, _, high, _ = map(Vec3, one.get("corners"))
+    center, size = (low + high) / 2, high - low
+    return {"center": [one.get(f"Center {axis}", getattr(center, axis.lower())) for axis in "XYZ"],
+            "size": [one.get("Width", size.x), one.get("Height", size.y)]}
+
+
 def keyed(*keys, **others):
     """The data of a dimension, by their names."""
     return lambda one: {key: one.point(key) for key in keys} | {key: one.get(tag) for key, tag in others.items()} | {
@@ -328,7 +336,7 @@ FORMS = {
     "AcDbFcf": lambda o: {"position": o.point("Position"), "contents": o.get("Content")},
     "AcDbRasterImage": lambda o: {"path": o.get("Path"), "position": o.point("Position"),
                                   "direction": direction(o.get("Rotation", 0))},
-    "AcDbViewport": lambda o: {"center": o.point("Center"), "size": [o.get("Width"), o.get("Height")]},
+    "AcDbViewport": viewport,
     "AcDbRotatedDimension": keyed("xLine1Point", "xLine2Point", "dimLinePoint", rotation="rotation"),
     "AcDbAlignedDimension": keyed("xLine1Point", "xLine2Point", "dimLinePoint"),
     "AcDbRadialDimension": keyed("center", "chordPoint"),
