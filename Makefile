@@ -49,6 +49,7 @@ package:
 	lintian --allow-root --fail-on error $(BUILD)/packages/*.deb
 
 bench: build
+	@scripts/setup bench
 	scripts/bench
 
 fuzz: setup

@@ -3,6 +3,7 @@
 #include "app/ExitStatus.h"
 #include "app/StagedResult.h"
 #include "app/console.h"
+#include "dxf/DrawingReader.h"
 #include "recordfile/compactLines.h"
 #include "recordfile/foreignForm.h"
 
@@ -41,6 +42,10 @@ int formatRecording(const QString& path, const QString& output)
     if (const QString foreign = foreignForm({json.constData(), static_cast<std::size_t>(json.size())});
         !foreign.isEmpty()) {
         printLine(name + ": cannot be read: " + foreign);
+        return kUnreadable;
+    }
+    if (dxf::looksLikeDrawing({json.constData(), static_cast<std::size_t>(json.size())})) {
+        printLine(name + ": is a drawing, and inkmacro import makes a recording of it");
         return kUnreadable;
     }
     const CompactLines made = compactLines(json);

@@ -77,6 +77,11 @@ QByteArray importMembers(const dxf::Accounts& accounts)
         addCounts(out, "erased", accounts.since->erased);
         addCounts(out, "unchanged", accounts.since->unchanged);
     }
+    out.key(std::string_view("remarks"));
+    out.beginArray();
+    for (const std::string& remark : accounts.remarks)
+        out.text(shown(remark));
+    out.endArray();
     return out.bytes();
 }
 
@@ -115,6 +120,8 @@ QStringList importLines(const dxf::Accounts& accounts)
         lines.append(QString("%1 %2 lost: %3").arg(count).arg(shown(entry.first), shown(entry.second)));
     for (const auto& [entry, count] : accounts.untold)
         lines.append(QString("%1 %2 without %3").arg(count).arg(shown(entry.first), shown(entry.second)));
+    for (const std::string& remark : accounts.remarks)
+        lines.append(shown(remark));
     return lines;
 }
 

@@ -61,6 +61,8 @@ void addDrawing(ObjectSchema& conversion)
                    listSchema(kindSchema("reason", "why", typeSchema("string"))), false);
     conversion.add("untold", "of a drawing: what the file says of entities that came in, and no recording can",
                    listSchema(kindSchema("what", "what that is", typeSchema("string"))), false);
+    conversion.add("remarks", "of a drawing: what is odd about the file as a whole", listSchema(typeSchema("string")),
+                   false);
 }
 
 QJsonObject conversionSchema()

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace inkmacro::dxf {
 
@@ -34,6 +35,7 @@ struct Accounts
     ByReason lost;
     ByReason untold; ///< what the file says of imported entities and the recording does not
     std::optional<Since> since;
+    std::vector<std::string> remarks; ///< on the file as a whole
 
     void lose(std::string_view kind, const char* reason) { ++lost[{std::string(kind), reason}]; }
     void leaveOut(std::string_view kind, const char* what) { ++untold[{std::string(kind), what}]; }

@@ -70,6 +70,20 @@ OdRxObjectPtr ActionSource::next()
     return recorder_.take();
 }
 
+void ActionSource::remarkOn(Contents& contents)
+{
+    const auto remark = [this](const QString& text) { accounts_.remarks.push_back(text.toStdString()); };
+    const Drawing& drawing = contents.drawing();
+    if (!drawing.decoder().isKnown())
+        remark("nobody knows its code page, so that its texts are read as ANSI_1252");
+    if (const qint64 bytes = drawing.decoder().undecodable())
+        remark(QString("%1 of its bytes are no text in its code page").arg(bytes));
+    if (const qint64 lines = drawing.strayLines())
+        remark(QString("%1 of its lines belong to nothing").arg(lines));
+    for (const QString& layer : contents.absentLayers())
+        remark(QString("it has no layer %1").arg(layer));
+}
+
 void ActionSource::beginRun(const Contents::Run& run)
 {
     if (run.sheet.isNull())

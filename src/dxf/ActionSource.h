@@ -32,6 +32,8 @@ protected:
 
     /// Records more; false when there is no more.
     virtual bool advance() = 0;
+    /// What is odd about the file as a whole, once all of it has been read.
+    void remarkOn(Contents& contents);
     void endRun(const Contents::Run& run);
     void importRecord(Contents& contents, const KindRow& table, const Entity& record, OdDbHandle handle);
     void importEntity(Contents& contents, const Contents::Run& run, const Entity& entity, std::span<const Entity> parts,

@@ -127,6 +127,8 @@ void Changes::rename(const KindRow& table, const NamedObjects::Named& before, co
     Property name{nameTag(forms_, cls), CFxString(after.name)};
     name.old = CFxString(before.name);
     named_.insert(before.handle);
+    renamed_.insert(before.handle);
+    ++accounts_.since->changed[std::string(table.kind)];
     renames_.push_back({cls, OdDbHandle(before.handle), {std::move(name)}});
 }
 
@@ -195,7 +197,8 @@ void Changes::compareRecords(const KindRow& table, const NamedObjects::Named& be
     try {
         read(before_, before, was);
         read(after_, after, is);
-    } catch (const Lost&) {
+    } catch (const Lost& lost) {
+        accounts_.leaveOut(table.kind, lost.reason);
         return;
     }
     Difference difference = comparison_->difference(was, is);
@@ -209,6 +212,8 @@ void Changes::compareRecords(const KindRow& table, const NamedObjects::Named& be
         named_.insert(before.handle);
         for (const Property& change : difference.changes)
             note(change);
+        if (!renamed_.contains(before.handle))
+            ++accounts_.since->changed[std::string(table.kind)];
         changedRecords_.push_back({kind.cls, OdDbHandle(before.handle), std::move(difference.changes)});
     }
 }
@@ -526,6 +531,7 @@ bool Changes::advance()
     case Stage::LayerRemovals:
         for (const Removal& removal : layerRemovals_)
             recorder_.change(removal.cls, removal.handle, {{"Erased", erased()}});
+        remarkOn(after_);
         return enter(Stage::End);
     case Stage::End:
         break;
@@ -591,6 +597,7 @@ void Changes::recordBlock(const Blocks::Made& made, const std::vector<OdDbHandle
         description.old = CFxString(before.description);
         changes.push_back(std::move(description));
     }
+    ++accounts_.since->changed["BLOCK"];
     recorder_.change(oddbClassByName(kBlock), OdDbHandle(made.handle), changes);
 }
 

@@ -114,7 +114,8 @@ private:
     std::vector<Drawn> newEntities_;
     std::vector<const NamedObjects::Named*> goneLayers_;
     std::vector<Removal> layerRemovals_;
-    QByteArray drawing_;                      ///< lines of what is drawn and touched
+    QByteArray drawing_; ///< lines of what is drawn and touched
+    std::unordered_set<quint64> renamed_;
     std::unordered_set<quint64> named_;       ///< records that the recording speaks of
     std::unordered_set<QString> namedBlocks_; ///< in small letters
     std::unordered_set<QString> layersInUse_; ///< by what stays in the older drawing, in small letters

@@ -3,7 +3,7 @@
 namespace inkmacro::dxf {
 
 Contents::Contents(Drawing& drawing, OdDbDatabase& ids, const ImportOptions& options)
-    : drawing_(drawing), around_(drawing, ids), blocks_(drawing), reader_(drawing)
+    : drawing_(drawing), chosenLayers_(options.layers), around_(drawing, ids), blocks_(drawing), reader_(drawing)
 {
     for (const QString& layer : options.layers)
         layers_.insert(layer.toLower());
@@ -65,6 +65,15 @@ void Contents::planSheets()
     }
     if (!hasCurrent)
         runs_.push_back({drawing_.entities(), nullptr, usual});
+}
+
+QStringList Contents::absentLayers() const
+{
+    QStringList absent;
+    for (const QString& layer : chosenLayers_)
+        if (!around_.layers.find(layer))
+            absent.append(layer);
+    return absent;
 }
 
 bool Contents::isOnChosenLayer(const Entity& entity)

@@ -29,6 +29,9 @@ public:
     /// Blocks, each behind those that it needs, then model space, then the sheets.
     const std::vector<Run>& runs() const { return runs_; }
 
+    /// Of the layers that were chosen, those that there are not.
+    QStringList absentLayers() const;
+
     /// Calls `use` with each entity of the run that comes in, and its parts, from that one on until it says false.
     template<class Use>
     void each(const Run& run, std::size_t& index, Use use);
@@ -56,6 +59,7 @@ private:
 
     Drawing& drawing_;
     std::unordered_set<QString> layers_; ///< of the options, in small letters
+    QStringList chosenLayers_;           ///< as they were written
     Surroundings around_;
     Blocks blocks_;
     EntityReader reader_;

@@ -70,6 +70,7 @@ public:
 
     /// Of a record, or of what an entity refers to; empty for none.
     QString nameOf(const Entity& entity);
+    const TextDecoder& decoder() const { return decoder_; }
     TextDecoder& decoder() { return decoder_; }
     QString text(const Group& group) { return decoder_.text(group.bytes); }
     /// One that nothing in the drawing has.

@@ -49,8 +49,11 @@ bool Import::advance()
         recordTables();
         return true;
     }
-    if (run_ == contents_.runs().size())
+    if (run_ == contents_.runs().size()) {
+        if (!std::exchange(isAtEnd_, true))
+            remarkOn(contents_);
         return false;
+    }
     const Contents::Run& run = contents_.runs()[run_];
     bool isAtEnd = true;
     contents_.each(run, entity_, [&](const Entity& entity, std::span<const Entity> parts) {

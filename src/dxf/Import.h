@@ -24,6 +24,7 @@ private:
     std::size_t run_ = 0;
     std::size_t entity_ = 0; ///< of the run; the one that comes next
     bool hasTables_ = false;
+    bool isAtEnd_ = false;
 };
 
 } // namespace inkmacro::dxf
