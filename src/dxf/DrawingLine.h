@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dxf/DrawnObject.h"
 #include "recordfile/plainForms.h"
 
 namespace inkmacro::dxf {
@@ -22,18 +23,19 @@ public:
         out_.endObject();
         out_.endObject();
         out_.endLine();
-        // A number that sums have taken beyond all bounds has no form; who made it lets the object go.
-        if (!out_.refused())
-            lines_ += out_.bytes();
+        lines_ += out_.bytes();
     }
     DrawingLine(const DrawingLine&) = delete;
     DrawingLine& operator=(const DrawingLine&) = delete;
 
+    /// Throws Lost for a number that sums have taken beyond all bounds.
     template<class Value>
     DrawingLine& with(std::string_view key, const Value& value)
     {
         out_.key(key);
         recordfile::Form<Value>::write(out_, value);
+        if (out_.refused())
+            throw Lost{kNotFinite};
         return *this;
     }
 

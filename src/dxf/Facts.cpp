@@ -631,11 +631,10 @@ CFxVariant Comparison::formed(const CFxVariant& value, const ChangeForm& form) c
     }
     if (value.GetType() == CFxVariant::kId && !form.takesObject && form.takesText) {
         for (Contents* const contents : {&before_, &after_})
-            for (const NamedObjects* const names : {&contents->around().textStyles, &contents->around().lineStyles,
-                                                    &contents->around().dimensionStyles, &contents->around().layers})
-                for (const NamedObjects::Named& named : names->all())
-                    if (OdDbHandle(named.handle) == value.GetId().getHandle())
-                        return CFxString(named.name);
+            for (NamedObjects* const names : {&contents->around().textStyles, &contents->around().lineStyles,
+                                              &contents->around().dimensionStyles, &contents->around().layers})
+                if (const NamedObjects::Named* const named = names->findHandle(value.GetId().getHandle().value()))
+                    return CFxString(named->name);
     }
     return value;
 }

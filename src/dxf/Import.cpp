@@ -76,7 +76,7 @@ void Import::recordTables()
             if (isOwn)
                 importRecord(contents_, table, record, OdDbHandle(record.handle));
             else
-                accounts_.leaveOut(record.kind, kOfOtherFile);
+                accounts_.leaveOut(record.kind, "being of an external reference");
         });
     for (const Blocks::Left& left : contents_.blocks().left())
         for (const Entity& entity : left.entities)

@@ -11,7 +11,7 @@ namespace inkmacro::dxf {
 
 /// Whether what is called so stands in the drawing of an external reference: "plan|Walls".
 bool isOfOtherFile(const QString& name);
-inline constexpr const char* kOfOtherFile = "it belongs to an external reference";
+inline constexpr const char* kOfOtherFile = "its block belongs to an external reference";
 
 /// What the entities of a drawing refer to by name: a table's records, found whatever the case of their letters.
 class NamedObjects

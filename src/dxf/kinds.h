@@ -133,7 +133,7 @@ bool isByLayer(std::string_view name);
 
 /// In hundredths of a millimeter; below zero by layer, by block and the usual one.
 bool isLineWeight(qint64 weight);
-inline constexpr const char* kNoLineWeight = "a line weight that there is not";
-inline constexpr const char* kNoColor = "a color that there is not";
+inline constexpr const char* kNoLineWeight = "its line weight, which there is not";
+inline constexpr const char* kNoColor = "its color, which there is not";
 
 } // namespace inkmacro::dxf

@@ -31,6 +31,8 @@ enum VertexFlag : qint64
 using Face = std::vector<int>;
 
 constexpr std::size_t kMostCorners = 4;
+/// Beyond all meshes, so that any number of a file fits.
+constexpr qint64 kMostVertices = 1'000'000'000;
 
 struct Smoothing
 {
@@ -114,7 +116,8 @@ void readFaces(Parts parts, Surroundings& around, DrawnObject& object)
         }
         Face face;
         for (const int code : {71, 72, 73, 74})
-            if (const auto number = static_cast<int>(part.integer(code)); number != 0)
+            if (const auto number = static_cast<int>(std::clamp(part.integer(code), -kMostVertices, kMostVertices));
+                number != 0)
                 face.push_back(number);
         if (face.size() < 2)
             continue;
