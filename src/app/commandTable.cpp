@@ -91,8 +91,8 @@ Without it the recording's header says.)",
         .text = R"(Without it a macro is as the application's own recorder writes it, with
 faults by which its language or its host rejects it; and a recorded text
 with a quotation mark in it can become code. With it they are mended: all
-that the user entered stays text. Macros of drawings are written so without
-it.)",
+that the user entered stays text. Without it too, macros of drawings are
+written so.)",
     },
     {
         .name = "--faithful",
