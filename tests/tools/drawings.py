@@ -435,16 +435,6 @@ OLD = """\
 """
 
 
-def old_twin():
-    doc = ezdxf.new("R12")
-    m = doc.modelspace()
-    m.add_line((1, 2, 3), (4, 5, 6))
-    m.add_line((1, 2, 2.5), (4, 5, 2.5), dxfattribs={"layer": "OLD"})
-    m.add_circle((1, 1), 2)
-    m.add_point((1, 1))
-    return doc
-
-
 def make(folder):
     """The drawings, most of them of one topic each."""
     folder = pathlib.Path(folder)
@@ -497,11 +487,14 @@ def make(folder):
             yield file(f"lying_{name}_{lie}.dxf", lying, folder / f"{topic.__name__}.dxf", "torn")
     yield file("cycles.dxf", text_of(cyclic()))
     yield file("nested.dxf", text_of(nested(1800)))
+    flat = "11\n4.0\n21\n5.0\n"
+    later = OLD.replace("3DLINE", "LINE").replace(f"{flat}38\n2.5", f"30\n2.5\n{flat}31\n2.5")
+    later = file("later.dxf", later).path
     for version in ("", "AC1.2", "AC1.40", "AC2.10", "AC1002", "AC1004", "AC1006"):
         header = f"0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\n{version}\n0\nENDSEC\n" * bool(version)
-        yield file(f"old_{version or 'unnamed'}.dxf", header + OLD, old_twin())
+        yield file(f"old_{version or 'unnamed'}.dxf", header + OLD, later)
     repeat = "0\nREPEAT\n8\n0\n10\n1.0\n20\n1.0\n70\n3\n71\n2\n0\nENDREP\n8\n0\n"
-    yield file("old_repeat.dxf", OLD.replace("0\nENDSEC", repeat + "0\nENDSEC"), old_twin(), "torn")
+    yield file("old_repeat.dxf", OLD.replace("0\nENDSEC", repeat + "0\nENDSEC"), later, "torn")
     for name, content in (("empty", b""), ("words", b"no drawing\n" * 9), ("zeros", bytes(4000)),
                           ("end", b"  0\nEOF\n"), ("mark", b"\xef\xbb\xbf"), ("sentinel", short[:22]),
                           ("picture", b"\x89PNG\r\n\x1a\n" + bytes(99))):

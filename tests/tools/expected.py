@@ -109,8 +109,10 @@ def insert(e, _):
     forms = []
     for one in e.multi_insert() if e.mcount <= 10000 else [e]:
         ocs = plane(one)
-        spread = [ocs.to_wcs(axis * one.dxf.get(f"{name}scale", 1)) for name, axis in zip("xyz", (
-            Vec3.from_deg_angle(one.dxf.rotation), Vec3.from_deg_angle(one.dxf.rotation + 90), Vec3(0, 0, 1)))]
+        around = math.radians(one.dxf.rotation)
+        factors = one.dxf.get("xscale", 1), one.dxf.get("yscale", 1), one.dxf.get("zscale", 1) or 1  # 0 in what is plane
+        axes = recorded.direction(around), recorded.direction(around + math.pi / 2), Vec3(0, 0, 1)
+        spread = [ocs.to_wcs(axis * factor) for axis, factor in zip(axes, factors)]
         forms.append({"name": block_name(one.dxf.get("name", "")), "position": ocs.to_wcs(one.dxf.insert),
                       "axes": spread, "attributes": attributes(e)})
     return "BlockReference", *forms

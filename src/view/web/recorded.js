@@ -307,14 +307,15 @@ class Recorded {
         }
     }
 
-    // What a block is made of, as handles. It is made anew then, with its last description.
+    // What a block is made of, as handles. It is made anew then, where it was, with its last description.
     setObjects(one, recorded, action) {
         const {inBlock} = this.told.of(action.key);
         const elements = recorded && recorded.collection ? recorded.collection.elements : [];
         const handles = elements.map(element => element.value).filter(handle => !inBlock.has(handle));
-        const {comments = ''} = this.drawing.get(one.handle) || {};
+        const {comments = '', origin = [0, 0, 0]} = this.drawing.get(one.handle) || {};
         const description = this.descriptions.has(one) ? this.descriptions.get(one) : comments;
         one.hold('Description()', 0, description, 'Description', action);
+        origin.forEach((value, axis) => one.hold('Position()', axis, value, 'origin', action));
         [...one.held.keys()].filter(key => key.startsWith('Objects()')).forEach(key => one.held.delete(key));
         handles.forEach((handle, index) => one.hold('Objects()', index, {handle: handle}, 'Objects', action));
     }
