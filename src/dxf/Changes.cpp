@@ -1,6 +1,7 @@
 #include "dxf/Changes.h"
 
 #include "dxf/DrawingLine.h"
+#include "dxf/sameness.h"
 #include "host/db/OdDbClassMap.h"
 
 #include <map>

@@ -87,8 +87,4 @@ private:
     FactList is_;
 };
 
-/// Whether two values stand for the same: numbers are as good as equal within a billionth.
-bool isSame(const CFxVariant& left, const CFxVariant& right);
-bool isSame(double left, double right);
-
 } // namespace inkmacro::dxf

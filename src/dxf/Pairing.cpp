@@ -1,5 +1,7 @@
 #include "dxf/Pairing.h"
 
+#include "dxf/sameness.h"
+
 namespace inkmacro::dxf {
 
 namespace {
