@@ -118,6 +118,7 @@ void ActionSource::recordBlock(const Blocks::Made& made, const std::vector<OdDbH
 
 void ActionSource::importRecord(Contents& contents, const KindRow& table, const Entity& record, OdDbHandle handle)
 {
+    offset_ = record.begin;
     try {
         contents.read({&table, oddbClassByName(table.className)}, record, {}, handle, object_);
         if (!object_.properties.empty())

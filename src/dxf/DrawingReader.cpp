@@ -71,7 +71,9 @@ Accounts readDrawing(Drawing& drawing, const ImportOptions& options, Recording& 
     while (OdRxObjectPtr action = import.next()) {
         recording.actions.append(std::move(action));
         const std::size_t offset = import.offset();
-        recording.actionLines.push_back(drawing.form() == FileForm::Ascii ? counter.lineOf(offset) : 0);
+        // The word for its kind stands in the line before.
+        recording.actionLines.push_back(
+            drawing.form() == FileForm::Ascii ? std::max<qint64>(counter.lineOf(offset) - 1, 1) : 0);
         if (progress)
             progress(static_cast<qint64>(offset), size);
     }
