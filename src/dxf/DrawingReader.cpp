@@ -72,8 +72,8 @@ Accounts readDrawing(Drawing& drawing, const ImportOptions& options, Recording& 
         recording.actions.append(std::move(action));
         const std::size_t offset = import.offset();
         // The word for its kind stands in the line before.
-        recording.actionLines.push_back(
-            drawing.form() == FileForm::Ascii ? std::max<qint64>(counter.lineOf(offset) - 1, 1) : 0);
+        const qint64 line = drawing.form() == FileForm::Ascii ? counter.lineOf(offset) - 1 : recording.actions.length();
+        recording.actionLines.push_back(std::max<qint64>(line, 1));
         if (progress)
             progress(static_cast<qint64>(offset), size);
     }

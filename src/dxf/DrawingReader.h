@@ -11,7 +11,8 @@ namespace inkmacro::dxf {
 bool looksLikeDrawing(std::string_view begin);
 
 /// Makes the recording of a drawing without a file of it. The lines of its actions are those of the drawing's text
-/// file in which the kinds of the entities stand; of a binary one there are none, and they are 0.
+/// file in which the kinds of the entities stand; in place of those that a binary one does not
+/// have stand the numbers of the actions.
 Accounts readDrawing(Drawing& drawing, const ImportOptions& options, Recording& recording,
                      const ReadingProgress& progress = {});
 
