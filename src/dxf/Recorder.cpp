@@ -2,9 +2,35 @@
 
 #include "recordfile/recordedActions.h"
 
+#include <cmath>
+
 namespace inkmacro::dxf {
 
 using namespace recordfile;
+
+namespace {
+
+/// Of the plain values; others count as unequal.
+bool isEqual(const CFxVariant& left, const CFxVariant& right)
+{
+    if (left.GetType() != right.GetType())
+        return false;
+    switch (left.GetType()) {
+    case CFxVariant::kDouble:
+        return left.GetDouble() == right.GetDouble() &&
+               std::signbit(left.GetDouble()) == std::signbit(right.GetDouble());
+    case CFxVariant::kString:
+        return left.GetString() == right.GetString();
+    case CFxVariant::kColor:
+        return left.GetColor() == right.GetColor();
+    case CFxVariant::kId:
+        return left.GetId() == right.GetId();
+    default:
+        return false;
+    }
+}
+
+} // namespace
 
 void Recorder::draw(const DrawnObject& object)
 {
@@ -56,27 +82,39 @@ OdRxObjectPtr Recorder::added(OdRxClass* cls, OdDbHandle handle, const std::vect
 
 PropertyList Recorder::listOf(const std::vector<Property>& properties)
 {
+    ++lists_;
     PropertyList list;
     list.reserve(properties.size());
-    for (const Property& property : properties) {
-        const PropertyLabel& label = labelOf(property);
-        CFxVariant value = property.value;
-        if (property.index.IsNull() && property.old.IsNull()) {
-            list.push_back(odrxNew<RecordedProperty>(label, std::move(value)));
-        } else {
-            PropertyDetails details{property.index, property.old, nullptr, {}};
-            list.push_back(odrxNew<RecordedPropertyWithDetails>(label, std::move(value), std::move(details)));
-        }
-    }
+    for (const Property& property : properties)
+        list.push_back(recordOf(property));
     return list;
+}
+
+CFxPropertyChangedPtr Recorder::recordOf(const Property& property)
+{
+    CFxVariant value = property.value;
+    if (!property.index.IsNull() || !property.old.IsNull()) {
+        PropertyDetails details{property.index, property.old, nullptr, {}};
+        return odrxNew<RecordedPropertyWithDetails>(labelOf(property), std::move(value), std::move(details));
+    }
+    if (*property.group)
+        return odrxNew<RecordedProperty>(labelOf(property), std::move(value));
+    Recent& recent = recent_[property.tag];
+    if (recent.record && recent.list != lists_ && isEqual(recent.record->GetValue({}), value)) {
+        recent.list = lists_;
+        return recent.record;
+    }
+    recent.record = odrxNew<RecordedProperty>(labelOf(property), std::move(value));
+    recent.list = lists_;
+    return recent.record;
 }
 
 const PropertyLabel& Recorder::labelOf(const Property& property)
 {
-    if (*property.group || !property.ownTag.isEmpty())
+    if (*property.group)
         return texts_.label(pooled(property.name()), texts_.text(property.group));
     // Nearly all tags are literals: no text is made of them again.
-    const PropertyLabel*& label = labels_[property.tag];
+    const PropertyLabel*& label = recent_[property.tag].label;
     if (!label)
         label = &texts_.label(texts_.text(property.tag), texts_.text(""));
     return *label;

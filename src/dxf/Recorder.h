@@ -25,12 +25,22 @@ public:
 private:
     OdRxObjectPtr added(OdRxClass* cls, OdDbHandle handle, const std::vector<Property>& properties);
     PropertyList listOf(const std::vector<Property>& properties);
+    CFxPropertyChangedPtr recordOf(const Property& property);
     const recordfile::PropertyLabel& labelOf(const Property& property);
     const CFxString* pooled(const QString& text);
 
     std::deque<OdRxObjectPtr> ready_;
     recordfile::TextPool texts_;
-    std::unordered_map<const char*, const recordfile::PropertyLabel*> labels_; ///< of tags without a group
+    /// The last record of a tag, which is that of the next object too when it has the same value, as its layer often
+    /// is; but not twice in one list, of which readers strike records one by one.
+    struct Recent
+    {
+        const recordfile::PropertyLabel* label = nullptr;
+        CFxPropertyChangedPtr record;
+        std::uint64_t list = 0;
+    };
+    std::unordered_map<const char*, Recent> recent_; ///< of tags without a group
+    std::uint64_t lists_ = 0;
 };
 
 } // namespace inkmacro::dxf

@@ -108,6 +108,9 @@ void readSpline(EntityReader& entity, Parts, Surroundings& around, DrawnObject& 
     if (!fitted)
         throw Lost{"its knots, weights and points make no curve"};
     object.deviation = fitted->deviation;
+    // The application closes splines in another way than by their ends.
+    if (entity.integer(70) & kClosed)
+        object.untold.push_back("that it is closed");
     draw(fitted->points, false, fitted->startTangent, fitted->endTangent, object);
 }
 
