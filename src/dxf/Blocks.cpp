@@ -88,8 +88,10 @@ void Blocks::describe(Made& made)
             kConstant = 2
         };
         const Group* const kind = head.find(70);
-        if (!(kind && kind->integer().value_or(0) & kConstant))
-            made.insertable.tags.insert(head.text(2).toLower());
+        if (!(kind && kind->integer().value_or(0) & kConstant)) {
+            if (const QString tag = head.text(2).trimmed(); !tag.isEmpty())
+                made.insertable.tags.emplace(tag.toLower(), tag);
+        }
     }
 }
 

@@ -18,19 +18,22 @@ CFxVariant listOf(const std::vector<Item>& items, ValueOf valueOf)
     return CFxVariantCollection(std::move(elements));
 }
 
+/// Beyond, what macros reckon with it would be no number any more, and nothing is that large.
+constexpr double kMost = 1e100;
+
 bool isNumber(double number)
 {
-    return std::isfinite(number);
+    return std::abs(number) <= kMost;
 }
 
 bool isNumber(const OdGePoint2d& point)
 {
-    return std::isfinite(point.x) && std::isfinite(point.y);
+    return isNumber(point.x) && isNumber(point.y);
 }
 
 bool isNumber(const OdGePoint3d& point)
 {
-    return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z);
+    return isNumber(point.x) && isNumber(point.y) && isNumber(point.z);
 }
 
 template<class Item>

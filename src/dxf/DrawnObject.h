@@ -93,7 +93,7 @@ struct DrawnObject
         add(y, point.y);
         add(z, point.z);
     }
-    /// Whether a recording can hold all of its numbers: sums of large ones may be none any more.
+    /// Whether a macro can hold all of its numbers: sums of large ones may be none any more.
     bool isFinite() const;
     /// Of what is added with a position.
     void moveTo(const OdGePoint3d& position);
@@ -108,7 +108,7 @@ struct Lost
 
 /// What no recording has of any entity.
 inline constexpr const char* kOtherData = "data of other applications";
-inline constexpr const char* kNotFinite = "a number is not finite";
+inline constexpr const char* kNotFinite = "a number is not finite, or beyond all bounds";
 
 /// Of what can only stand upright or upside down.
 inline constexpr const char* kTilted = "its plane is tilted";

@@ -22,11 +22,16 @@ bool isPropertyName(const QString& tag)
                        [&](const char* name) { return tag.compare(QLatin1String(name), Qt::CaseInsensitive) == 0; });
 }
 
-const char* takeAttribute(const EntityReader& attribute, const Insertable& block, DrawnObject& object)
+/// `taken`: the tags of those before, as the block has them.
+const char* takeAttribute(const EntityReader& attribute, const Insertable& block, std::unordered_set<QString>& taken,
+                          DrawnObject& object)
 {
-    const QString tag = attribute.text(2);
-    if (!block.tags.contains(tag.toLower()))
+    const auto defined = block.tags.find(attribute.text(2).trimmed().toLower());
+    if (defined == block.tags.end())
         return "the block defines no such attribute";
+    const QString& tag = defined->second;
+    if (!taken.insert(tag).second)
+        return "there is another one of its tag";
     Property text{"", CFxString(attribute.text(1)), CFxVariant::kNull, "BlockAttributes", CFxString(tag)};
     if (isPropertyName(tag)) {
         object.unsaid.push_back(std::move(text));
@@ -79,11 +84,12 @@ void readInsert(EntityReader& entity, Parts parts, Surroundings& around, DrawnOb
     object.add("Scale Z", scale.sz);
     object.add("Rotation", rotation);
     EntityReader attribute(around.drawing);
+    std::unordered_set<QString> taken;
     for (const Entity& part : parts) {
         if (part.kind != "ATTRIB")
             continue;
         attribute.read(part);
-        object.parts.push_back({"ATTRIB", takeAttribute(attribute, block, object)});
+        object.parts.push_back({"ATTRIB", takeAttribute(attribute, block, taken, object)});
     }
 }
 

@@ -13,8 +13,9 @@ namespace inkmacro::dxf {
 /// A block, once it is in the recording.
 struct Insertable
 {
-    QString name;                     ///< that it has there
-    std::unordered_set<QString> tags; ///< of the attributes that its references have, in small letters
+    QString name; ///< that it has there
+    /// Of the attributes that its references have, by the same in small letters.
+    std::unordered_map<QString, QString> tags;
 };
 
 /// Handles of objects that the file does not have. A second pass over the same entities gets those of the first.

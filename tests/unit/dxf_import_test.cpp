@@ -265,7 +265,7 @@ TEST(DxfBlocks, HaveAttributesByTheirTags)
     const Imported result = imported(asText(section("BLOCKS", block("A", definition)) +
                                             section("ENTITIES", insert("A", {{66, "1"}}) + attribute("NUMBER", "7") +
                                                                     attribute("Color", "red") + line("2F", "1"))));
-    EXPECT_TRUE(result.has(R"({"tag":"NUMBER","value":"7","group":"BlockAttributes"})"));
+    EXPECT_TRUE(result.has(R"({"tag":"Number","value":"7","group":"BlockAttributes"})"));
     EXPECT_EQ(result.accounts.imported.at("ATTRIB"), 1);
     EXPECT_EQ(result.accounts.lost.at({"ATTRIB", "the block defines no such attribute"}), 1);
     EXPECT_EQ(result.accounts.imported.at("LINE"), 1);
