@@ -78,7 +78,7 @@ TEST_F(Program, SaysWhatIsNoDrawing)
     write("old.jsonl", "what was there");
     const Outcome refused = run({"import", "empty.dxf", "-o", "old.jsonl"});
     EXPECT_EQ(refused.status, 3);
-    EXPECT_EQ(refused.err, "empty.dxf: no section of a drawing is found in it\n");
+    EXPECT_EQ(refused.err, "empty.dxf:1: no section of a drawing is found from here on\n");
     EXPECT_EQ(contents("old.jsonl"), "what was there");
     EXPECT_EQ(run({"convert", "empty.dxf", "-t", "csharp"}).status, 3);
     EXPECT_EQ(run({"import", "nowhere.dxf"}).status, 3);

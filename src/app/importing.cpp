@@ -73,7 +73,7 @@ struct OpenedDrawing
         }
         drawing.emplace(file.bytes());
         if (!drawing->isValid())
-            printLine(name + ": " + kNoDrawing);
+            printLine(noDrawing(name, *drawing).text());
         return drawing->isValid();
     }
 };

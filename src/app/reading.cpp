@@ -52,7 +52,7 @@ std::vector<RecordingError> readDrawing(QFile& file, const QString& name, Record
         return {{name, 0, {}, "cannot be read: " + file.errorString()}};
     dxf::Drawing drawing(bytes.bytes());
     if (!drawing.isValid())
-        return {{name, 0, {}, kNoDrawing}};
+        return {noDrawing(name, drawing)};
     withProgress([&](const ReadingProgress& progress) {
         accounts = dxf::readDrawing(drawing, {}, recording, progress);
         return 0;
@@ -83,6 +83,17 @@ std::vector<RecordingError> readFrom(const QString& place, const QString& path, 
 }
 
 } // namespace
+
+RecordingError noDrawing(const QString& name, const dxf::Drawing& file)
+{
+    const bool isText = file.form() == dxf::FileForm::Ascii;
+    const auto begin = dxf::GroupReader(file.bytes(), file.form()).offset();
+    return {name,
+            isText ? 1 : 0,
+            {},
+            isText ? QStringLiteral("no section of a drawing is found from here on")
+                   : QString("no section of a drawing is found from byte %1 on").arg(begin)};
+}
 
 bool isDrawingFile(const QString& path)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dxf/Accounts.h"
+#include "dxf/Drawing.h"
 #include "recordfile/Recording.h"
 
 #include <functional>
@@ -10,8 +11,8 @@ class QFileDevice;
 
 namespace inkmacro {
 
-/// What is wrong with a file in which no drawing is found.
-inline constexpr const char* kNoDrawing = "no section of a drawing is found in it";
+/// What is wrong with a file of that name in which no drawing is found.
+RecordingError noDrawing(const QString& name, const dxf::Drawing& file);
 
 /// Whether the file, which is no pipe, is a drawing and no recording.
 bool isDrawingFile(const QString& path);
