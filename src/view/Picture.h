@@ -3,10 +3,13 @@
 #include "host/db/OdCmColor.h"
 #include "host/db/OdDbHandle.h"
 
+#include <QHash>
 #include <QString>
 
 #include <cstdint>
 #include <optional>
+#include <span>
+#include <unordered_map>
 #include <vector>
 
 namespace inkmacro::view {
@@ -15,15 +18,15 @@ namespace inkmacro::view {
 /// units, angles in radians against the clock. A path is a row of steps, each a PathStep and its numbers.
 enum class Shape : std::uint8_t
 {
-    Line,      ///< x0 y0 x1 y1
-    Arc,       ///< of a circle: center x y, radius, start, sweep; the sweep is negative with the clock, 2 pi for a circle
-    Path,      ///< the steps of an outline
-    Area,      ///< the steps of a boundary, whose inside is filled by the even-odd rule
-    Text,      ///< insertion x y, height of capitals, angle, width or 0, place (1 top left to 9 bottom right, 10 to 12
-               ///< left, center and right on the baseline), number of the text; of a line of letters
-    Point,     ///< x y
-    Ray,       ///< from x y, towards x y
-    XLine,     ///< through x y and x y, without ends
+    Line,  ///< x0 y0 x1 y1
+    Arc,   ///< of a circle: center x y, radius, start, sweep; the sweep is negative with the clock, 2 pi for a circle
+    Path,  ///< the steps of an outline
+    Area,  ///< the steps of a boundary, whose inside is filled by the even-odd rule
+    Text,  ///< insertion x y, height of capitals, angle, width or 0, place (1 top left to 9 bottom right, 10 to 12
+           ///< left, center and right on the baseline), number of the text; of a line of letters
+    Point, ///< x y
+    Ray,   ///< from x y, towards x y
+    XLine, ///< through x y and x y, without ends
     Reference, ///< a b c d e f, space: what the space holds, with x' = a x + c y + e, y' = b x + d y + f
     Pattern,   ///< number of families, each with angle, base x y, distance, number of dashes, dashes (negative ones are
                ///< gaps); then the steps of the boundary
@@ -54,6 +57,11 @@ struct Style
     std::uint16_t layer = 0; ///< number in Picture::layers
     OdCmColor color;
     bool operator==(const Style&) const = default;
+};
+
+struct StyleHash
+{
+    std::size_t operator()(const Style& style) const;
 };
 
 struct Space
@@ -89,9 +97,10 @@ struct PictureObject
     StepNumber erased = kNoStep; ///< kNoStep for one that stays
     std::uint16_t layer = 0;
     std::uint16_t space = 0;
-    bool isDrawn = false;      ///< by at least one primitive at any time
-    bool hasGeometry = true;   ///< a group, a layer and the like have none, and are not missed
-    std::uint16_t remark = 0;  ///< 0, or the number from 1 in Picture::remarks: why it is not drawn, or what of it is not
+    bool isDrawn = false;    ///< by at least one primitive at any time
+    bool hasGeometry = true; ///< a group, a layer and the like have none, and are not missed
+    std::uint16_t remark =
+        0; ///< 0, or the number from 1 in Picture::remarks: why it is not drawn, or what of it is not
 };
 
 /// Something drawn of one object, in the order in which things lie on one another.
@@ -131,7 +140,7 @@ struct Box
 /// What a recording shows, made once; the page and the file of SVG draw the same.
 struct Picture
 {
-    std::vector<Space> spaces; ///< model space, the sheets, the definitions of blocks
+    std::vector<Space> spaces;    ///< model space, the sheets, the definitions of blocks
     std::uint16_t firstSpace = 0; ///< that is shown when the recording begins
     std::vector<Layer> layers;
     std::vector<Style> styles;
@@ -142,6 +151,23 @@ struct Picture
     std::vector<QString> remarks;
     std::vector<LayerSwitch> layerSwitches;
     std::vector<SpaceSwitch> spaceSwitches;
+
+    std::span<const double> numbersOf(const Primitive& primitive) const
+    {
+        return {numbers.data() + primitive.first, primitive.count};
+    }
+
+    /// The number of a style or a text, which is added when it is new. Of more styles than numbers the last stands for
+    /// the others.
+    std::uint16_t styleNumber(const Style& style);
+    std::uint32_t textNumber(const QString& text);
+    /// Adds a clause to what is said of the object, once.
+    void addRemark(std::uint32_t object, const QString& text);
+
+private:
+    std::unordered_map<Style, std::uint16_t, StyleHash> styleNumbers_;
+    QHash<QString, std::uint32_t> textNumbers_;
+    QHash<QString, std::uint16_t> remarkNumbers_;
 };
 
 /// Around what a primitive draws; none for one without ends, and for a reference to nothing. Letters are estimated.
