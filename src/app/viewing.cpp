@@ -88,12 +88,11 @@ qint64 put(const QString& output, Write write)
 
 view::Picture pictureIn(const Recording& recording)
 {
+    const auto& sheet = recording.header.sheet;
     return view::pictureOf(*recording.database, recording.actions,
-                           {.activeBlock = recording.drawing.activeBlock,
-                            .currentLayout = recording.drawing.currentLayout,
-                            .layer = recording.drawing.layer,
-                            .sheet = recording.header.sheet ? recording.header.sheet->name : QString(),
-                            .inModel = !recording.header.sheet || recording.header.sheet->model});
+                           {.sheet = sheet && !sheet->model ? sheet->name : QString(),
+                            .context = static_cast<CFxValueContext>(recording.header.context)});
+});
 }
 
 fs::path temporaryFolder()

@@ -4,6 +4,7 @@
 
 #include "host/db/OdGe.h"
 
+#include <array>
 #include <initializer_list>
 #include <numbers>
 
@@ -94,6 +95,8 @@ public:
     void remark(const QString& text);
 
 private:
+    void add(Shape shape, std::span<const double> numbers);
+
     Picture& picture_;
     Now now_;
     Role role_ = Role::Object;

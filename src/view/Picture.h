@@ -3,10 +3,13 @@
 #include "host/db/OdCmColor.h"
 #include "host/db/OdDbHandle.h"
 
+#include <QHash>
 #include <QString>
 
 #include <cstdint>
 #include <optional>
+#include <span>
+#include <unordered_map>
 #include <vector>
 
 namespace inkmacro::view {
@@ -54,6 +57,11 @@ struct Style
     std::uint16_t layer = 0; ///< number in Picture::layers
     OdCmColor color;
     bool operator==(const Style&) const = default;
+};
+
+struct StyleHash
+{
+    std::size_t operator()(const Style& style) const;
 };
 
 struct Space
@@ -143,6 +151,23 @@ struct Picture
     std::vector<QString> remarks;
     std::vector<LayerSwitch> layerSwitches;
     std::vector<SpaceSwitch> spaceSwitches;
+
+    std::span<const double> numbersOf(const Primitive& primitive) const
+    {
+        return {numbers.data() + primitive.first, primitive.count};
+    }
+
+    /// The number of a style or a text, which is added when it is new. Of more styles than numbers the last stands for
+    /// the others.
+    std::uint16_t styleNumber(const Style& style);
+    std::uint32_t textNumber(const QString& text);
+    /// Adds a clause to what is said of the object, once.
+    void addRemark(std::uint32_t object, const QString& text);
+
+private:
+    std::unordered_map<Style, std::uint16_t, StyleHash> styleNumbers_;
+    QHash<QString, std::uint32_t> textNumbers_;
+    QHash<QString, std::uint16_t> remarkNumbers_;
 };
 
 /// Around what a primitive draws; none for one without ends, and for a reference to nothing. Letters are estimated.

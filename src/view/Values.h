@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -26,6 +27,9 @@ public:
     virtual const CFxVariant* find(const QString& tag, int index = -1) const = 0;
     /// How many values a repeated tag has.
     virtual int count(const QString& tag) const = 0;
+    /// Gives the values of a repeated tag with their indexes, in the order in which they were said.
+    using Visit = std::function<void(int index, const CFxVariant& value)>;
+    virtual void visit(const QString& tag, const Visit& visit) const = 0;
 
     /// What the object at that handle is behind the same step; null when nobody speaks of it.
     virtual const Values* other(const OdDbHandle& handle) const = 0;
@@ -42,8 +46,11 @@ public:
     std::optional<int> choice(const QString& tag) const;
     /// A point in one value, or of three tags that end in ` x`, ` y` and ` z`.
     std::optional<OdGePoint3d> point(const QString& tag, int index = -1) const;
+    /// Of a list, and those of a repeated tag that ends in ` x`, ` y` or ` z`, which win.
     std::vector<OdGePoint3d> points(const QString& tag) const;
     OdDbHandle handle(const QString& tag) const;
+    /// Of a word; false for none.
+    bool isYes(const QString& tag) const;
 
     /// The drawing's object, when it is of that class.
     template<class Class>

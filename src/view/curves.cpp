@@ -1,0 +1,129 @@
+#include "host/db/OdDbCurves.h"
+#include "view/arcs.h"
+#include "view/drawers.h"
+
+#include <cmath>
+
+namespace inkmacro::view {
+
+namespace {
+
+/// What the actions say, else what the drawing has.
+template<class Class, class Read>
+std::optional<Point> pointOr(const Values& values, const char* tag, Read read)
+{
+    if (const std::optional<OdGePoint3d> point = values.point(QLatin1String(tag)))
+        return fromAbove(*point);
+    if (const auto* const drawn = values.drawnAs<Class>())
+        return fromAbove(read(*drawn));
+    return std::nullopt;
+}
+
+template<class Class, class Read>
+std::optional<double> numberOr(const Values& values, const char* tag, Read read)
+{
+    if (const std::optional<double> number = values.number(QLatin1String(tag)))
+        return number;
+    if (const auto* const drawn = values.drawnAs<Class>())
+        return read(*drawn);
+    return std::nullopt;
+}
+
+} // namespace
+
+void drawLine(const Values& values, Pen& pen)
+{
+    const auto start = pointOr<OdDbLine>(values, "Start", [](const OdDbLine& line) { return line.startPoint(); });
+    const auto end = pointOr<OdDbLine>(values, "End", [](const OdDbLine& line) { return line.endPoint(); });
+    if (start && end)
+        pen.line(*start, *end);
+}
+
+void drawCircle(const Values& values, Pen& pen)
+{
+    const auto center = pointOr<OdDbCircle>(values, "Center", [](const OdDbCircle& circle) { return circle.center(); });
+    const auto radius =
+        numberOr<OdDbCircle>(values, "Radius", [](const OdDbCircle& circle) { return circle.radius(); });
+    if (center && radius)
+        pen.circle(*center, std::abs(*radius));
+}
+
+void drawArc(const Values& values, Pen& pen)
+{
+    const auto center = pointOr<OdDbArc>(values, "Center", [](const OdDbArc& arc) { return arc.center(); });
+    const auto radius = numberOr<OdDbArc>(values, "Radius", [](const OdDbArc& arc) { return arc.radius(); });
+    const auto start = numberOr<OdDbArc>(values, "Start Angle", [](const OdDbArc& arc) { return arc.startAngle(); });
+    const auto end = numberOr<OdDbArc>(values, "End Angle", [](const OdDbArc& arc) { return arc.endAngle(); });
+    if (center && radius && start && end)
+        pen.arc(*center, std::abs(*radius), *start, sweepBetween(*start, *end));
+}
+
+/// The axes of an ellipse, which may lie aslant in space: from the center, seen from above.
+static std::optional<std::pair<Point, Point>> axesOf(const Values& values)
+{
+    const std::optional<OdGePoint3d> major = values.point("Major axis vector");
+    const std::optional<double> minor = values.number("Minor radius");
+    const auto* const drawn = values.drawnAs<OdDbEllipse>();
+    if (major && minor) {
+        const double length = major->distanceTo({});
+        if (drawn && length > 0.0) {
+            // The record does not tell in which plane it lies; the drawing may.
+            const OdGeVector3d& axis = drawn->minorAxis();
+            const double drawnLength = std::hypot(axis.x, axis.y, axis.z);
+            if (drawnLength > 0.0 && major->z != 0.0)
+                return std::pair(fromAbove(*major),
+                                 Point{axis.x * *minor / drawnLength, axis.y * *minor / drawnLength});
+        }
+        const double flat = std::hypot(major->x, major->y);
+        const Point across = flat > 0.0 ? Point{-major->y / flat, major->x / flat} : Point{0.0, 1.0};
+        return std::pair(fromAbove(*major), Point{across.x * *minor, across.y * *minor});
+    }
+    if (!drawn)
+        return std::nullopt;
+    const OdGeVector3d& u = drawn->majorAxis();
+    const OdGeVector3d& v = drawn->minorAxis();
+    return std::pair(Point{u.x, u.y}, Point{v.x, v.y});
+}
+
+void drawEllipse(const Values& values, Pen& pen)
+{
+    const auto center = pointOr<OdDbEllipse>(values, "Center", [](const OdDbEllipse& one) { return one.center(); });
+    auto axes = axesOf(values);
+    if (!center || !axes)
+        return;
+    const auto start =
+        numberOr<OdDbEllipse>(values, "Start angle", [](const OdDbEllipse& one) { return one.startAngle(); });
+    const auto end = numberOr<OdDbEllipse>(values, "End angle", [](const OdDbEllipse& one) { return one.endAngle(); });
+    auto [u, v] = *axes;
+    // Later changes give the lengths alone.
+    if (const std::optional<double> major = values.number("Major radius"); major && std::hypot(u.x, u.y) > 0.0) {
+        const double factor = *major / std::hypot(u.x, u.y);
+        u = {u.x * factor, u.y * factor};
+    }
+    const double first = start.value_or(0.0);
+    pen.path(Outline().ellipse(*center, u, v, first, sweepBetween(first, end.value_or(0.0))));
+}
+
+void drawPoint(const Values& values, Pen& pen)
+{
+    if (const std::optional<OdGePoint3d> at = values.point("Position"))
+        pen.point(fromAbove(*at));
+}
+
+void drawRay(const Values& values, Pen& pen)
+{
+    const std::optional<OdGePoint3d> from = values.point("Base point");
+    const std::optional<OdGePoint3d> towards = values.point("Second point");
+    if (from && towards)
+        pen.ray(fromAbove(*from), fromAbove(*towards));
+}
+
+void drawXLine(const Values& values, Pen& pen)
+{
+    const std::optional<OdGePoint3d> through = values.point("Base point");
+    const std::optional<OdGePoint3d> towards = values.point("Second point");
+    if (through && towards)
+        pen.xline(fromAbove(*through), fromAbove(*towards));
+}
+
+} // namespace inkmacro::view
