@@ -92,7 +92,6 @@ view::Picture pictureIn(const Recording& recording)
     return view::pictureOf(*recording.database, recording.actions,
                            {.sheet = sheet && !sheet->model ? sheet->name : QString(),
                             .context = static_cast<CFxValueContext>(recording.header.context)});
-});
 }
 
 fs::path temporaryFolder()

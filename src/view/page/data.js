@@ -113,6 +113,11 @@ class Kept {
     }
 }
 
+// The tag of the property that a note is about, '' for one about something else.
+function propertyOf(what) {
+    return (/^property "([^]*)" of /.exec(what) || ['', ''])[1];
+}
+
 class Data {
     // `piecesOf` gives the base64 texts of an island, null for one that the page does not have.
     constructor(piecesOf) {
@@ -165,7 +170,7 @@ class Data {
         this.openSteps(steps, handles);
         this.openObjects(objects);
         this.openGeometry(geometry);
-        this.notes = this.index.notes;
+        this.notes = this.index.notes.map(note => Object.assign({property: propertyOf(note.what)}, note));
         return this;
     }
 
@@ -236,11 +241,35 @@ class Data {
         return this.objectAt(keyOfHandleText(text));
     }
 
-    // Of a step's handles, the number of the object with one of them.
-    objectOfStep(step, which = 0) {
-        const at = this.steps.handleFirst[step] + which;
-        return step < 0 || at >= this.steps.handleFirst[step + 1] ? -1
-            : this.objectAt(handleKey(this.stepHandles.high[at], this.stepHandles.low[at] >>> 0));
+    // The handle of what a step is about; '' where that is more than one thing or none.
+    handleText(step) {
+        const kind = this.kindOf(step);
+        const object = kind === 'selection' ? -1 : this.objectOfStep(step);
+        return object >= 0 ? this.objects.handle(object) : kind === 'added' || kind === 'modified' || kind === 'property'
+            ? this.handleOfStep(step) : '';
+    }
+
+    // The objects with a step's handles, as far as they are there.
+    objectsOfStep(step) {
+        const objects = [];
+        for (let at = this.steps.handleFirst[step]; at < this.steps.handleFirst[step + 1]; ++at) {
+            const object = this.objectAt(handleKey(this.stepHandles.high[at], this.stepHandles.low[at] >>> 0));
+            if (object >= 0) {
+                objects.push(object);
+            }
+        }
+        return objects;
+    }
+
+    // The number of the object that a step is about: the one that it adds, else the first of them; -1 for a command.
+    objectOfStep(step) {
+        if (step < 0 || this.kindOf(step) === 'command') {
+            return -1;
+        }
+        const objects = this.objectsOfStep(step);
+        const isAbout = object => this.objects.cls[object] === this.steps.cls[step];
+        const added = objects.filter(object => this.objects.added[object] === step);
+        return [added.find(isAbout), added[0], objects.find(isAbout), objects[0], -1].find(one => one !== undefined);
     }
 
     // The step that adds it, else the first that changes it, else -1.
@@ -251,11 +280,10 @@ class Data {
         if (!this.firstSteps) {
             this.firstSteps = this.objects.added.slice();
             for (let step = this.steps.count - 1; step >= 0; --step) {
-                const handles = this.steps.handleFirst[step + 1] - this.steps.handleFirst[step];
-                for (let which = 0; which < handles; ++which) {
-                    const changed = this.objectOfStep(step, which);
-                    if (changed >= 0 && this.objects.added[changed] < 0) {
-                        this.firstSteps[changed] = step;
+                const objects = this.kindOf(step) === 'command' ? [] : this.objectsOfStep(step);
+                for (const object of objects) {
+                    if (this.objects.added[object] < 0) {
+                        this.firstSteps[object] = step;
                     }
                 }
             }
@@ -339,7 +367,7 @@ class Data {
             return new Lines(new Uint8Array(0));
         }
         const recorded = this.formOf(target, 'recorded');
-        if (form === 'repaired' && recorded && recorded.text === one.text) {
+        if (form === 'repaired' && recorded && recorded.status === 0) {
             const hunks = await this.hunks(target);
             const lines = await this.macro(target, 'recorded');
             return hunks.length ? repairedLines(lines, hunks, await this.repairedText(target)) : lines;

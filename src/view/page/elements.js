@@ -115,3 +115,28 @@ function textElement(tag, attributes, text) {
 function countOf(count, one, many = one + 's') {
     return count.toLocaleString('en') + ' ' + (count === 1 ? one : many);
 }
+
+// Tabs of a row, between which arrows go; `tabs` are [{name, made}], and `choose(name)` is called.
+function bindTabs(list, tabs, choose) {
+    list.setAttribute('role', 'tablist');
+    tabs.forEach(({name, made}, i) => {
+        putAttributes(made, {role: 'tab', 'data-name': name});
+        made.addEventListener('click', () => choose(name));
+        made.addEventListener('keydown', event => {
+            const to = {ArrowLeft: i - 1, ArrowRight: i + 1, Home: 0, End: tabs.length - 1}[event.key];
+            if (to !== undefined && !event.ctrlKey && !event.altKey && !event.metaKey) {
+                const next = tabs[(to + tabs.length) % tabs.length];
+                next.made.focus();
+                choose(next.name);
+                event.preventDefault();
+            }
+        });
+    });
+}
+
+function selectTab(tabs, name) {
+    for (const tab of tabs) {
+        tab.made.setAttribute('aria-selected', String(tab.name === name));
+        tab.made.tabIndex = tab.name === name ? 0 : -1;
+    }
+}
