@@ -87,8 +87,7 @@ function showPage(data) {
         macro: {focus: () => macro.list.scroller.focus(), center: () => macro.center()}});
     openPicture(data);
     openRunner(data);
-    new Finder(data, macro);
-    new Keys(data, steps, macro);
+    new Keys(data, steps, macro, new Finder(data, macro));
     startHelp(data);
     startPrint(data, steps, macro);
     bindAddress(data);
