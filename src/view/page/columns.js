@@ -18,8 +18,11 @@ function bytesOfBase64(text) {
     return bytes;
 }
 
-// Of zlib's format, given in pieces.
+// Of zlib's format, given in pieces; nothing at all is the form of nothing.
 async function inflated(pieces) {
+    if (pieces.every(piece => piece.length === 0)) {
+        return new Uint8Array(0);
+    }
     const stream = new Blob(pieces).stream().pipeThrough(new DecompressionStream('deflate'));
     return new Uint8Array(await new Response(stream).arrayBuffer());
 }

@@ -346,6 +346,12 @@ class Data {
         return forms[form === 'differences' ? 'repaired' : form] || null;
     }
 
+    // The form in which what is wrong stands: as recorded, where there is one.
+    faultyForm(target, form) {
+        const recorded = this.formOf(target, 'recorded');
+        return form !== 'edited' && recorded && recorded.status === 0 ? 'recorded' : form;
+    }
+
     faults(target, form) {
         const one = this.formOf(target, form);
         return one && one.faults || [];
@@ -400,6 +406,11 @@ class Data {
                 repaired: [columns.repairedFirst[i], columns.repairedCount[i]], step: step}));
         });
     }
+}
+
+// Of a kind of fault each line that has it counts.
+function countFaults(faults) {
+    return faults.reduce((sum, fault) => sum + Math.max(1, fault.lines.length), 0);
 }
 
 // Reads the islands of a document: elements of the name, and of the name with .1, .2 and so on.

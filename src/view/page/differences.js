@@ -4,24 +4,72 @@
 
 const linesAround = 2; // equal ones that stay above and below of a hunk
 
-// What two lines have in common at both ends; pairs of surrogates stay together.
+const mostWords = 200; // of a line that are compared one by one
+
+// The parts of each of two lines that the other does not have, as ranges [from, to]: words that are not in the longest
+// row of words that both have, and the spaces between them.
+function changedParts(one, other) {
+    const words = [one, other].map(text => text.match(/[\w\u00aa-\uffff]+|\s+|[^]/gu) || []);
+    const ends = commonEnds(...words);
+    const middles = words.map(list => list.slice(ends.head, list.length - ends.tail));
+    const isLong = middles.some(list => list.length > mostWords);
+    const kept = isLong ? middles.map(list => new Uint8Array(list.length)) : commonWords(...middles);
+    return middles.map((list, side) =>
+        rangesOfWords(list, kept[side], words[side].slice(0, ends.head).join('').length));
+}
+
+function rangesOfWords(words, kept, start) {
+    const isChanged = i => !kept[i] || !words[i].trim() && kept[i - 1] === 0 && kept[i + 1] === 0;
+    const ranges = [];
+    let at = start;
+    words.forEach((word, i) => {
+        const last = ranges[ranges.length - 1];
+        if (isChanged(i) && last && last.end === at) {
+            Object.assign(last, {end: at + word.length, text: last.text + word});
+        } else if (isChanged(i)) {
+            ranges.push({from: at, end: at + word.length, text: word});
+        }
+        at += word.length;
+    });
+    return ranges.filter(({text}) => text.trim()).map(({from, end, text}) =>
+        [from + text.length - text.trimStart().length, end - text.length + text.trimEnd().length]);
+}
+
+// How much two rows have in common at both ends.
 function commonEnds(one, other) {
     const most = Math.min(one.length, other.length);
     let head = 0;
     while (head < most && one[head] === other[head]) {
         ++head;
     }
-    if (head > 0 && /[\ud800-\udbff]/.test(one[head - 1])) {
-        --head;
-    }
     let tail = 0;
     while (tail < most - head && one[one.length - 1 - tail] === other[other.length - 1 - tail]) {
         ++tail;
     }
-    if (tail > 0 && /[\udc00-\udfff]/.test(one[one.length - tail])) {
-        --tail;
-    }
     return {head: head, tail: tail};
+}
+
+// For each word of two rows 1 where it is in the longest common row.
+function commonWords(one, other) {
+    const width = other.length + 1;
+    const lengths = new Uint16Array((one.length + 1) * width);
+    for (let i = one.length - 1; i >= 0; --i) {
+        for (let j = other.length - 1; j >= 0; --j) {
+            lengths[i * width + j] = one[i] === other[j] ? lengths[(i + 1) * width + j + 1] + 1
+                : Math.max(lengths[(i + 1) * width + j], lengths[i * width + j + 1]);
+        }
+    }
+    const kept = [new Uint8Array(one.length), new Uint8Array(other.length)];
+    for (let i = 0, j = 0; i < one.length && j < other.length;) {
+        if (one[i] === other[j]) {
+            kept[0][i++] = kept[1][j++] = 1;
+        } else if (lengths[(i + 1) * width + j] >= lengths[i * width + j + 1]) {
+            ++i;
+        } else {
+            ++j;
+        }
+    }
+    return kept;
 }
 
 const differenceKinds = {equal: 0, removed: 1, added: 2, folded: 3};

@@ -15,11 +15,6 @@ function notesOfKind(data, target, form, kind) {
     return (one && one.notes || []).filter(number => data.notes[number].kind === kind);
 }
 
-// The form in which what is wrong stands: as recorded, where there is one.
-function faultyForm(data, target, form) {
-    return form === 'edited' || !data.formOf(target, 'recorded') ? form : 'recorded';
-}
-
 function lossBadge(data, target, form) {
     const here = notesOfKind(data, target, form, 'loss');
     const works = data.index.targets.filter(one => data.formOf(one.name, form) && data.formOf(one.name, form).status === 0);
@@ -37,16 +32,17 @@ function assumptionBadge(data, target, form) {
 }
 
 function faultBadge(data, target, form) {
-    const faults = data.faults(target, faultyForm(data, target, form));
+    const faults = data.faults(target, data.faultyForm(target, form));
     const isRepaired = Boolean(data.formOf(target, 'repaired'));
-    const mended = isRepaired ? faults.filter(fault => fault.mended).length : 0;
-    if (!faults.length) {
+    const count = countFaults(faults);
+    const mended = isRepaired ? countFaults(faults.filter(fault => fault.mended)) : 0;
+    if (!count) {
         return {kind: 'good', text: '✓ no faults here', chip: 'all'};
     }
-    const all = mended === faults.length;
-    const words = !isRepaired ? '' : all ? faults.length === 1 ? ', repaired' : ', all repaired'
+    const all = mended === count;
+    const words = !isRepaired ? '' : all ? count === 1 ? ', repaired' : ', all repaired'
         : mended ? ', ' + mended.toLocaleString('en') + ' repaired' : ', not repaired';
-    return {kind: 'fault', text: countOf(faults.length, 'fault') + ' here' + words, chip: 'faults'};
+    return {kind: 'fault', text: countOf(count, 'fault') + ' here' + words, chip: 'faults'};
 }
 
 function badgesOf(data, target, form) {

@@ -25,8 +25,8 @@ function goToFinding(data, steps, direction) {
 }
 
 class Keys {
-    constructor(data, steps, macro) {
-        Object.assign(this, {data: data, steps: steps, macro: macro, letterUntil: 0});
+    constructor(data, steps, macro, finder) {
+        Object.assign(this, {data: data, steps: steps, macro: macro, finder: finder, letterUntil: 0});
         document.addEventListener('keydown', event => this.key(event));
     }
 
@@ -55,17 +55,12 @@ class Keys {
         };
         return {
             1: () => focusPane('picture'), 2: () => focusPane('steps'), 3: () => focusPane('macro'),
-            '/': () => this.search(), n: next(1), p: next(-1), '?': showHelp,
+            '/': () => this.finder.focus(), n: next(1), p: next(-1), '?': showHelp,
             l: () => state.set({chip: state.get().chip === 'lost' ? 'all' : 'lost'}, 'keys'),
             d: () => this.showDifferences(),
             g: event => { this.letterUntil = event.timeStamp + letterPatience; },
             Escape: () => state.set({chosen: nothingChosen}, 'keys')
         };
-    }
-
-    search() {
-        byId('search').focus();
-        byId('search').select();
     }
 
     showDifferences() {

@@ -96,13 +96,12 @@ class WindowedList {
         this.setCount(0);
     }
 
-    // Starts anew; `heightOf` estimates the rows that are measured.
-    setCount(count, heightOf = null) {
+    // Starts anew; `heights` are [row, height] of those that are not as high as the others, which is an estimate where
+    // they are measured.
+    setCount(count, heights = []) {
         this.heights = new Heights(count, this.options.rowHeight());
-        if (heightOf) {
-            for (let row = 0; row < count; ++row) {
-                this.heights.set(row, heightOf(row));
-            }
+        for (const [row, height] of heights) {
+            this.heights.set(row, height);
         }
         this.count = count;
         this.active = -1;

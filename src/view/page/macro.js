@@ -71,7 +71,7 @@ async function openMacroView(data, target, form) {
         faults: new Map(), painter: new Painter(target), unfolded: new Set()};
     const faulty = isDifferent ? 'recorded' : form;
     for (const fault of data.faults(target, faulty)) {
-        for (const line of fault.lines || []) {
+        for (const line of fault.lines) {
             if (form !== 'repaired' || !fault.mended) {
                 view.faults.set(line, [...view.faults.get(line) || [], fault]);
             }
@@ -164,8 +164,8 @@ class MacroPane {
     }
 
     makeTab(target) {
-        const form = target.forms.recorded || target.forms.repaired || {status: 0};
-        const faults = (form.faults || []).length;
+        const form = target.forms.recorded || target.forms.repaired || {status: 0, faults: []};
+        const faults = countFaults(form.faults);
         const [kind, text, words] = form.status !== 0 ? ['fault', 'failed', 'conversion failed']
             : faults ? ['fault', String(faults), countOf(faults, 'fault')] : ['good', '✓', 'no faults'];
         return element('button', {type: 'button', class: 'tab', 'aria-controls': 'macroList'}, target.title + ' ',
@@ -206,11 +206,7 @@ class MacroPane {
             + countOf(view.lines.count, 'line'));
         this.list.scroller.classList.toggle('isDifferent', view.form === 'differences');
         this.readChoice(state.get().chosen);
-        this.list.setCount(view.rows ? view.rows.count : view.lines.count);
-        for (const row of this.rowsWithFaults()) {
-            this.list.heights.set(row, codeLineHeight * (1 + this.faultsAt(row).length));
-        }
-        this.list.draw();
+        this.countRows();
         this.showMarks();
         this.showFoot();
         const line = this.chosen.first;
@@ -218,8 +214,28 @@ class MacroPane {
             this.list.setActive(this.rowOfLine(line));
             this.list.show(this.rowOfLine(line), true);
         } else {
-            this.list.scrollTo(0);
+            this.list.scrollTo(this.list.heights.top(Math.max(0, this.firstRow() - linesAround)));
         }
+    }
+
+    countRows() {
+        const {rows, lines} = this.view;
+        this.list.setCount(rows ? rows.count : lines.count,
+            this.rowsWithFaults().map(row => [row, codeLineHeight * (1 + this.faultsAt(row).length)]));
+    }
+
+    // The first one that a step has to do with: much of a macro's head is the same in every macro.
+    firstRow() {
+        const {view} = this;
+        if (view.rows) {
+            return 0;
+        }
+        for (let i = 0; view.map && i < view.map.count; ++i) {
+            if (view.map.columns.step[i] >= 0) {
+                return view.map.firsts[i] - 1;
+            }
+        }
+        return 0;
     }
 
     showForms(target, form) {
@@ -273,7 +289,7 @@ class MacroPane {
     rowsWithFaults() {
         const {view} = this;
         if (!view.rows) {
-            return [...view.faults.keys()].map(line => line - 1).filter(row => row < this.list.count);
+            return [...view.faults.keys()].map(line => line - 1).filter(row => row < view.lines.count);
         }
         return Array.from({length: view.faults.size ? view.rows.count : 0}, (_, row) => row)
             .filter(row => this.faultsAt(row).length);
@@ -327,8 +343,7 @@ class MacroPane {
             return pieces;
         }
         const other = isRemoved ? view.lines.line(repaired - 1) : view.recorded.line(recorded - 1);
-        const {head, tail} = commonEnds(text, other);
-        return withMarks(pieces, head, text.length - tail);
+        return withMarks(pieces, changedParts(text, other)[0]);
     }
 
     stepOfRow(row) {
@@ -388,10 +403,7 @@ class MacroPane {
         const {offset} = list;
         view.unfolded.add(recorded);
         view.rows = new DifferenceRows(view.hunks, view.recorded.count, view.lines.count, view.unfolded);
-        list.setCount(view.rows.count);
-        for (const one of this.rowsWithFaults()) {
-            list.heights.set(one, codeLineHeight * (1 + this.faultsAt(one).length));
-        }
+        this.countRows();
         list.setActive(row);
         list.scrollTo(offset);
         this.showMarks();

@@ -83,19 +83,20 @@ class Painter {
     }
 }
 
-// The pieces with their parts within marked ranges [from, to] of the line apart, as `isMarked`.
-function withMarks(pieces, from, to) {
+// The pieces with what lies within ranges [from, to] of the line apart, as `isMarked`. The ranges are in order.
+function withMarks(pieces, ranges) {
     const marked = [];
+    const cuts = [].concat(...ranges);
     let at = 0;
     for (const piece of pieces) {
-        const cuts = [0, Math.max(0, Math.min(piece.text.length, from - at)),
-            Math.max(0, Math.min(piece.text.length, to - at)), piece.text.length];
-        for (let i = 0; i < 3; ++i) {
-            if (cuts[i + 1] > cuts[i]) {
-                marked.push({kind: piece.kind, text: piece.text.slice(cuts[i], cuts[i + 1]), isMarked: i === 1});
-            }
-        }
-        at += piece.text.length;
+        const end = at + piece.text.length;
+        const places = [at, ...cuts.filter(cut => cut > at && cut < end), end];
+        places.slice(1).forEach((place, i) => {
+            const from = places[i];
+            marked.push({kind: piece.kind, text: piece.text.slice(from - at, place - at),
+                isMarked: ranges.some(range => range[0] <= from && range[1] >= place)});
+        });
+        at = end;
     }
     return marked;
 }

@@ -16,8 +16,8 @@ function tableRow(cell, texts) {
 function printedReport(data, target, form) {
     const notes = data.notesOf(target, form).map(note => [note.kind === 'loss' ? 'lost' : 'assumed',
         'line ' + note.line, note.what, note.reason]);
-    const faults = data.faults(target, faultyForm(data, target, form)).map(fault => ['fault' + (fault.mended ? ', repaired'
-        : ''), (fault.lines || []).length ? 'macro ' + fault.lines.slice(0, 10).join(', ') : '', fault.operation,
+    const faults = data.faults(target, data.faultyForm(target, form)).map(fault => ['fault' + (fault.mended ? ', repaired'
+        : ''), fault.lines.length ? 'macro ' + fault.lines.slice(0, 10).join(', ') : '', fault.operation,
     fault.reason]);
     const rows = [...notes, ...faults];
     const head = [textElement('h1', {}, data.index.name), element('p', {}, countsInWords(data.index))];

@@ -180,6 +180,7 @@ class Finder {
         this.field = byId('search');
         this.found = byId('found');
         this.rows = [];
+        this.before = null;
         putAttributes(this.field, {role: 'combobox', 'aria-controls': 'foundList', 'aria-expanded': 'false',
             'aria-autocomplete': 'list'});
         this.summary = element('p', {class: 'foundSummary', role: 'status'});
@@ -254,7 +255,15 @@ class Finder {
         }
         if (isEnter) {
             this.close();
+            focusPane(line !== undefined ? 'macro' : 'steps');
         }
+    }
+
+    // Where the focus was before comes back with Escape.
+    focus() {
+        this.before = document.activeElement;
+        this.field.focus();
+        this.field.select();
     }
 
     key(event) {
@@ -262,6 +271,9 @@ class Finder {
             this.close();
             this.field.value = '';
             this.field.blur();
+            if (this.before) {
+                this.before.focus();
+            }
         } else if (event.key === 'Enter' && this.rows.length && !this.found.hidden) {
             this.go(Math.max(0, this.list.active), true);
         } else if ((event.key === 'ArrowDown' || event.key === 'ArrowUp') && this.rows.length && !this.found.hidden) {

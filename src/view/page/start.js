@@ -1,23 +1,6 @@
-// Opens the page's data and its panes, and tells what goes wrong.
+// Opens the page's data and its panes.
 
 'use strict';
-
-function tellTrouble(text) {
-    const trouble = byId('trouble');
-    trouble.hidden = false;
-    putText(empty(trouble), text);
-}
-
-function watchTrouble() {
-    window.addEventListener('error', event => {
-        // A list that is still being laid out tells that it goes on in the next frame; nothing is wrong with that.
-        if (!/^ResizeObserver loop/.test(event.message)) {
-            tellTrouble('Something is wrong in this page: ' + event.message);
-        }
-    });
-    window.addEventListener('unhandledrejection', event => tellTrouble('Something is wrong in this page: '
-        + (event.reason && event.reason.message || event.reason)));
-}
 
 function showOpening() {
     const opening = byId('opening');
@@ -87,8 +70,7 @@ function showPage(data) {
         macro: {focus: () => macro.list.scroller.focus(), center: () => macro.center()}});
     openPicture(data);
     openRunner(data);
-    new Finder(data, macro);
-    new Keys(data, steps, macro);
+    new Keys(data, steps, macro, new Finder(data, macro));
     startHelp(data);
     startPrint(data, steps, macro);
     bindAddress(data);
@@ -96,11 +78,6 @@ function showPage(data) {
 }
 
 async function startPage() {
-    watchTrouble();
-    if (typeof DecompressionStream !== 'function') {
-        tellTrouble('This browser is too old for the page: it needs Chromium 80, Firefox 113, Safari 16.4, or a later one.');
-        return;
-    }
     const opening = showOpening();
     try {
         showPage(await openData(document, opening.told));

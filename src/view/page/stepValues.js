@@ -125,7 +125,6 @@ function rowsOfInteraction(interaction, nameOf) {
 }
 
 const rowsOfKinds = {
-    command: command => [{name: 'holds', text: countOf(command.actions.length, 'action')}],
     added: rowsOfAdded,
     modified: (modified, nameOf) => propertyRows(modified.properties || [], true, nameOf),
     property: (property, nameOf) => propertyRows([property], true, nameOf),
@@ -148,7 +147,7 @@ function rowsOfAction(action, nameOf) {
 function drawnObject(data, handle) {
     const {recording, steps} = data;
     const end = recording.starts[steps.count ? steps.line[0] - 1 : recording.count];
-    const search = new ByteSearch('"' + handle + '"');
+    const search = new ByteSearch(handle + '"'); // zeros may stand in front
     for (let at = search.next(recording.bytes, 0); at >= 0 && at < end;) {
         const line = recording.lineAt(at);
         const text = recording.line(line);

@@ -24,10 +24,10 @@ function findingElement(finding) {
         element('b', {}, finding.word + ':'), ' '), finding.text);
 }
 
-// What the report says of each step, for one form of one target: rows of {kind, text}.
+// What the report says of each step, for one form of one target: rows of {kind, word, text}. `map` is that of the form
+// in which the faults stand.
 class Findings {
     constructor(data, target, form, map) {
-        this.data = data;
         this.byStep = new Map();
         for (const note of data.notesOf(target, form)) {
             const isLoss = note.kind === 'loss';
@@ -35,8 +35,8 @@ class Findings {
             this.add(note.step, {kind: isLoss ? 'lost' : 'assumed',
                 word: isLoss ? note.property ? 'partly lost' : 'lost' : 'assumed', text: what + note.reason});
         }
-        for (const fault of data.faults(target, form)) {
-            const steps = new Set((fault.lines || []).map(line => map && map.rangeAt(line))
+        for (const fault of data.faults(target, data.faultyForm(target, form))) {
+            const steps = new Set(fault.lines.map(line => map && map.rangeAt(line))
                 .filter(range => range && range.step >= 0).map(range => range.step));
             for (const step of steps) {
                 this.add(step, {kind: 'faults', word: fault.mended ? 'fault, repaired' : 'fault', text: fault.reason});
@@ -185,14 +185,18 @@ class StepsPane {
         return step === this.opened || this.findings.byStep.has(step);
     }
 
+    // Of the height of a row; a finding has two lines mostly.
+    estimate(step) {
+        return rowHeight() + this.findings.of(step).length * 41;
+    }
+
     async readFindings() {
         const {target, form} = state.get();
-        const asked = form === 'differences' ? 'recorded' : form;
-        const map = await this.data.map(target, asked);
+        const map = await this.data.map(target, this.data.faultyForm(target, form));
         if (target !== state.get().target || form !== state.get().form) {
             return;
         }
-        this.findings = new Findings(this.data, target, asked, map);
+        this.findings = new Findings(this.data, target, form, map);
         this.filter();
     }
 
@@ -224,8 +228,8 @@ class StepsPane {
         }
         this.shown = shownSteps(this.data, filter, chip, this.findings);
         this.showChips();
-        const row = rowHeight();
-        this.list.setCount(this.rowCount, one => row + this.findings.of(this.stepOf(one)).length * 40);
+        this.list.setCount(this.rowCount, [...this.findings.byStep.keys()].map(step => [this.rowOf(step), step])
+            .filter(([row]) => row >= 0).map(([row, step]) => [row, this.estimate(step)]));
         const isEmpty = this.rowCount === 0;
         this.nothing.hidden = !isEmpty;
         this.nothing.textContent = this.data.steps.count ? 'No step is like that.' : 'The recording has no steps.';
@@ -247,7 +251,7 @@ class StepsPane {
         for (const finding of this.findings.of(step)) {
             made.append(findingElement(finding));
         }
-        if (step === this.opened) {
+        if (step === this.opened && kind !== 'command') {
             made.append(this.values(step));
         }
         return made;
@@ -303,11 +307,10 @@ class StepsPane {
     choose(chosen, source) {
         const before = this.opened;
         this.opened = chosen.step;
-        const estimate = rowHeight();
         for (const step of [before, chosen.step]) {
             const row = step === undefined || step < 0 ? -1 : this.rowOf(step);
             if (row >= 0) {
-                this.list.heights.set(row, estimate + this.findings.of(step).length * 40);
+                this.list.heights.set(row, this.estimate(step));
                 this.list.refresh(row);
             }
         }
