@@ -6,6 +6,8 @@
 #include <QByteArrayList>
 #include <QCryptographicHash>
 #include <QIODevice>
+#include <QJsonArray>
+#include <QJsonDocument>
 
 #include <algorithm>
 
@@ -27,12 +29,40 @@ QByteArray sourceOf(const QByteArray& text)
     return "'sha256-" + QCryptographicHash::hash(text, QCryptographicHash::Sha256).toBase64() + '\'';
 }
 
+QByteArray scriptElement(const texts::Named& script)
+{
+    return QByteArray("<script>") + script.text + "</script>\n";
+}
+
 QByteArray scriptElements(const std::initializer_list<texts::Named>& scripts)
 {
     QByteArray elements;
     for (const texts::Named& script : scripts)
-        elements += QByteArray("<script>") + script.text + "</script>\n";
+        elements += scriptElement(script);
     return elements;
+}
+
+/// The first scripts of a page, up to this one, stand in it as they are and open the others.
+constexpr char kLoader[] = "loader.js";
+
+struct PageScripts
+{
+    QByteArray elements;
+    QJsonArray packed; ///< texts
+};
+
+PageScripts pageScripts()
+{
+    PageScripts scripts;
+    bool isLoaded = false;
+    for (const texts::Named& script : texts::pageScripts) {
+        if (isLoaded)
+            scripts.packed.append(QString::fromUtf8(script.text));
+        else
+            scripts.elements += scriptElement(script);
+        isLoaded = isLoaded || qstrcmp(script.name, kLoader) == 0;
+    }
+    return scripts;
 }
 
 /// The document in which macros run. It has no policy of its own: a document that is given as a text has that of the
@@ -55,7 +85,7 @@ QByteArray policy(const std::vector<QByteArray>& macroScripts)
             scripts.append(source);
     return "default-src 'none'; script-src " + scripts.join(' ') + "; style-src " + sourceOf(together(texts::styles)) +
            "; img-src data: blob:; frame-src 'none'; base-uri 'none'; form-action 'none'; "
-           "require-trusted-types-for 'script'; trusted-types frame macro";
+           "require-trusted-types-for 'script'; trusted-types page frame macro";
 }
 
 /// Whether a character is shown as its number: it obeys a terminal, turns the direction of writing or has no width.
@@ -135,7 +165,9 @@ void PageFile::finish()
 {
     addIsland("frame", frameDocument());
     addIsland("tables", tableTexts());
-    device_.write(scriptElements(texts::pageScripts) + "</body>\n</html>\n");
+    const PageScripts scripts = pageScripts();
+    addIsland("scripts", QJsonDocument(scripts.packed).toJson(QJsonDocument::Compact));
+    device_.write(scripts.elements + "</body>\n</html>\n");
 }
 
 } // namespace inkmacro::view
