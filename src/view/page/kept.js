@@ -1,5 +1,8 @@
 // A picture on a canvas that answers at once: a gesture moves a picture that is kept, larger than the view, and a new
 // one is drawn in slices when the gesture rests or leaves the kept one.
+//
+// A canvas puts off what it is told to draw until it is needed, and would then do all at once. Reading a pixel makes it
+// draw; so kept canvases are of the kind that is often read.
 
 'use strict';
 
@@ -25,6 +28,8 @@ class KeptPicture {
         this.restsAt = 0;
         this.took = 0; // milliseconds for the last whole picture
         this.isWaiting = false;
+        this.channel = new MessageChannel();
+        this.channel.port1.onmessage = () => this.goOn();
     }
 
     resize(width, height) {
@@ -80,25 +85,39 @@ class KeptPicture {
         const isLost = !this.kept || !this.covers(this.kept.view);
         if (this.isStale && !this.painting && (now >= this.restsAt || isLost)) {
             const {width, height} = this.size;
-            this.begin(this.spare || {canvas: this.newCanvas(), view: null}, -1);
+            this.begin(this.spare || this.newPicture(), -1);
             this.painting.picture.view = movedView(this.view, (width - this.canvas.width) / 2,
                 (height - this.canvas.height) / 2);
             this.isStale = false;
         }
         if (this.painting) {
-            this.slice(now);
+            this.slice();
         }
         this.compose();
-        if (this.painting || this.isStale) {
+        if (this.painting && !this.isStale) {
+            this.channel.port2.postMessage(null);
+        } else if (this.painting || this.isStale) {
             this.wake();
         }
     }
 
-    newCanvas() {
+    // While no gesture goes on, one slice follows the other, with room for what else happens.
+    goOn() {
+        if (this.painting && !this.isStale) {
+            this.slice();
+        }
+        if (this.painting && !this.isStale) {
+            this.channel.port2.postMessage(null);
+        } else {
+            this.wake();
+        }
+    }
+
+    newPicture() {
         const canvas = document.createElement('canvas');
         canvas.width = this.size.width;
         canvas.height = this.size.height;
-        return canvas;
+        return {canvas: canvas, context: canvas.getContext('2d', {alpha: false, willReadFrequently: true}), view: null};
     }
 
     covers(view) {
@@ -109,17 +128,19 @@ class KeptPicture {
         this.painting = {picture: picture, from: from, steps: null, took: 0};
     }
 
-    slice(now) {
+    slice() {
         const {painting} = this;
         const {picture} = painting;
-        painting.steps = painting.steps || this.paint(picture.canvas.getContext('2d', {alpha: false}), picture.view,
-            this.size.width, this.size.height, painting.from);
-        const until = now + (this.took <= 2 * sliceTime ? 2 * sliceTime : sliceTime);
+        const start = performance.now();
+        painting.steps = painting.steps || this.paint(picture.context, picture.view, this.size.width, this.size.height,
+            painting.from);
+        const until = start + (this.took <= 2 * sliceTime ? 2 * sliceTime : sliceTime);
         let isDone = false;
-        while (!isDone && performance.now() < until) {
+        do {
             isDone = painting.steps.next().done;
-        }
-        painting.took += performance.now() - now;
+            picture.context.getImageData(0, 0, 1, 1);
+        } while (!isDone && performance.now() < until);
+        painting.took += performance.now() - start;
         if (!isDone) {
             return;
         }

@@ -7,6 +7,7 @@ const leastBox = 0.7; // what is smaller is a dot
 const leastText = 3.5; // capitals that are lower are a bar
 const leastGap = 3; // between the lines of a pattern; closer ones are a tint
 const portion = 256; // things that are drawn without giving way
+const dense = 2500; // strokes from which on they are as thin as a canvas draws fast
 const lettersSize = 100; // of the one font, whose texts are scaled
 const inherited = -2; // a brush within a definition that is its reference's
 const definitionSize = 4096; // of a definition's path, in its own units
@@ -85,7 +86,7 @@ class ScenePainter {
         }
         const window = {left: -8, bottom: -8, right: look.width + 8, top: look.height + 8};
         context.lineJoin = 'round';
-        context.lineCap = 'round';
+        this.isDense = false;
         yield* this.space(context, look.space, Mapping.ofView(view), window, -1, 0);
         context.setTransform(1, 0, 0, 1, 0, 0);
     }
@@ -168,6 +169,7 @@ class ScenePainter {
             sorted[next[brushes[i]]++] = stroked[i];
         }
         parts.strokes = {items: sorted, first: counts};
+        this.isDense = this.isDense || count + parts.references.length > dense;
         parts.fills.sort((one, other) => this.scene.isOld(other) - this.scene.isOld(one) || one - other);
         return parts;
     }
@@ -177,8 +179,9 @@ class ScenePainter {
         const {density} = this.look;
         context.strokeStyle = color;
         context.fillStyle = color;
-        context.lineWidth = width * density;
-        context.setLineDash(dash.map(length => length * density));
+        context.lineWidth = this.isDense ? 1 : width * density;
+        context.lineCap = this.isDense ? 'butt' : 'round';
+        context.setLineDash(dash.map(length => Math.max(length * density, this.isDense ? 1 : 0)));
     }
 
     *strokes(context, {items, first}, mapping, window) {
@@ -512,34 +515,34 @@ class ScenePainter {
         context.strokeRect(around.left, around.bottom, around.right - around.left, around.top - around.bottom);
     }
 
-    // The curves of a primitive and of all that it refers to, for a halo.
-    trace(context, p, mapping, window, reach, depth = 0) {
+    // The curves of a primitive and of all that it refers to, for a halo, and the frames of its texts.
+    trace(curves, frames, p, mapping, window, reach, depth = 0) {
         const {geometry, boxes} = this.scene;
         const {numbers} = geometry;
         const first = geometry.first[p];
         const around = new Box();
         switch (geometry.shape[p]) {
         case Shapes.point:
-            tracePoint(context, mapping, numbers, first, reach);
+            tracePoint(curves, mapping, numbers, first, reach);
             break;
         case Shapes.ray:
         case Shapes.xline:
-            traceEndless(context, mapping, window, geometry, p);
+            traceEndless(curves, mapping, window, geometry, p);
             break;
         case Shapes.text:
-            traceText(context, mapping, numbers, first, this.scene.textOf(numbers[first + 6]));
+            traceText(frames, mapping, numbers, first, this.scene.textOf(numbers[first + 6]));
             break;
         case Shapes.window:
-            traceRectangle(context, mapping, boxes.subarray(4 * p, 4 * p + 4));
+            traceRectangle(curves, mapping, boxes.subarray(4 * p, 4 * p + 4));
             break;
         case Shapes.reference:
             for (const member of depth < deepestNesting ? this.scene.members.of(numbers[first + 6]) : []) {
-                this.trace(context, member, mapping.referred(numbers, first), window, reach, depth + 1);
+                this.trace(curves, frames, member, mapping.referred(numbers, first), window, reach, depth + 1);
             }
             break;
         default:
             mapping.addBox(around, ...boxes.subarray(4 * p, 4 * p + 4));
-            traceCurves(context, mapping, window, geometry, p, around);
+            traceCurves(curves, mapping, window, geometry, p, around);
         }
     }
 }

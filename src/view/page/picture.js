@@ -5,6 +5,8 @@
 const mostHaloed = 2000; // primitives
 const mostListed = 300; // objects that are not drawn
 const doubleClick = 350; // milliseconds
+const printedSize = [3272, 2244]; // of A4 landscape within margins of 10 mm, at 300 dots an inch
+const printedDensity = 300 / 96;
 const labelRoom = 14; // pixels between what is chosen and its name
 
 class Picture {
@@ -143,6 +145,8 @@ class Picture {
             matchMedia(query).addEventListener('change', () => this.readColors());
         }
         new ResizeObserver(() => this.resize()).observe(this.stage);
+        document.addEventListener('keydown', event => this.key(event));
+        paneActs.picture = {focus: () => this.stage.focus(), center: () => this.center()};
         document.addEventListener('click', event => {
             const box = this.pane.querySelector('.notDrawn');
             if (box.open && !box.contains(event.target)) {
@@ -328,6 +332,32 @@ class Picture {
         }
     }
 
+    center() {
+        const box = this.scene.boxOfObjects(this.objectsOf(state.get().chosen), this.space);
+        if (!box.isEmpty) {
+            const {scale} = this.view;
+            this.showView({x: (box.left + box.right) / 2 - this.width / 2 / scale,
+                y: (box.bottom + box.top) / 2 + this.height / 2 / scale, scale: scale});
+        }
+    }
+
+    // Wherever the focus is, but where the key means something else.
+    key(event) {
+        if (event.defaultPrevented || event.altKey || event.ctrlKey || event.metaKey || isField(event.target)
+            || byId('help').open) {
+            return;
+        }
+        const acts = {f: () => this.fitAll(), F: () => this.fitChosen(), '[': () => this.chooseNext(-1),
+            ']': () => this.chooseNext(1)};
+        const takesSpace = event.target.closest && event.target.closest(
+            'button, summary, input:not([type=range]), [role=tab], [role=separator]');
+        const act = event.key === ' ' && !takesSpace ? () => this.slider.toggle() : acts[event.key];
+        if (act) {
+            act();
+            event.preventDefault();
+        }
+    }
+
     // What the gestures tell, in pixels of the page.
     move(dx, dy) {
         this.showView(movedView(this.view, dx * this.density, dy * this.density));
@@ -455,12 +485,10 @@ class Picture {
         if (!this.width || box.isEmpty) {
             return;
         }
-        const mapping = Mapping.ofView(this.view);
         const seen = new Box();
-        mapping.addBox(seen, box.left, box.bottom, box.right, box.top);
+        Mapping.ofView(this.view).addBox(seen, box.left, box.bottom, box.right, box.top);
         if (seen.right < 0 || seen.left > this.width || seen.top < 0 || seen.bottom > this.height) {
-            this.showView(movedView(this.view, this.width / 2 - (seen.left + seen.right) / 2,
-                this.height / 2 - (seen.bottom + seen.top) / 2));
+            this.center();
         }
     }
 
@@ -470,8 +498,6 @@ class Picture {
         context.setTransform(1, 0, 0, 1, 0, 0);
         context.clearRect(0, 0, this.width, this.height);
         const {chosen, hover} = state.get();
-        const look = this.look(-1, this.width, this.height);
-        this.painter.look = look;
         const chosenObjects = this.objectsOf(chosen);
         const hovered = this.objectsOf(hover);
         if (hovered.length && !sameValue(hover, chosen)) {
@@ -492,21 +518,23 @@ class Picture {
         const box = new Box();
         const seen = new Box();
         const path = new Path2D();
+        const frames = new Path2D();
         let count = 0;
         const {step} = state.get();
         for (const object of objects) {
             for (const p of scene.primitivesOf(object)) {
                 if (scene.geometry.space[p] === this.space && scene.isThere(p, step) && count++ < mostHaloed) {
                     box.addStored(scene.boxes, p);
-                    this.painter.trace(path, p, mapping, window, 4 * density);
+                    this.painter.trace(path, frames, p, mapping, window, 4 * density);
                 }
             }
         }
         context.lineJoin = context.lineCap = 'round';
-        context.strokeStyle = palette.accent;
+        context.strokeStyle = context.fillStyle = palette.accent;
         context.globalAlpha = alpha;
         context.lineWidth = width * density;
         context.stroke(path);
+        context.fill(frames);
         context.globalAlpha = 1;
         if (isChosen) {
             context.lineWidth = 2 * density;
@@ -541,6 +569,29 @@ class Picture {
         context.fillText(shown, x + 7 * density, y + 15.5 * density);
     }
 
+    // All of the space that is shown, on paper. A canvas is printed as it is, while an image would have to be decoded
+    // first, for which printing does not wait.
+    print(into) {
+        const [width, height] = printedSize;
+        const box = this.scene.extentsOf(this.space);
+        if (box.isEmpty) {
+            return;
+        }
+        const canvas = element('canvas', {width: width, height: height});
+        const shown = {brushes: this.brushes, palette: this.palette, density: this.density};
+        Object.assign(this, {brushes: brushesOf(this.data.index, lightPalette), palette: lightPalette,
+            density: printedDensity});
+        this.version++;
+        const steps = this.painting(canvas.getContext('2d', {alpha: false}), fittingView(box, width, height), width, height,
+            -1);
+        while (!steps.next().done) {
+            // There is no time to give way.
+        }
+        Object.assign(this, shown);
+        this.version++;
+        empty(into).append(canvas);
+    }
+
     showBar(view) {
         const length = roundStep(32 * this.density / view.scale);
         this.barText.textContent = String(Number(length.toPrecision(1)));
@@ -562,5 +613,8 @@ function numbersOf(...values) {
 }
 
 function openPicture(data) {
-    return new Picture(data, byId('picture'));
+    const picture = new Picture(data, byId('picture'));
+    window.addEventListener('beforeprint', () => picture.print(byId('printedPicture')));
+    window.addEventListener('afterprint', () => empty(byId('printedPicture')));
+    return picture;
 }

@@ -74,12 +74,13 @@ class Slider {
 
     async readTicks() {
         const {target, form} = state.get();
-        const map = await this.data.map(target, form === 'differences' ? 'repaired' : form);
+        const faultyForm = this.data.faultyForm(target, form);
+        const map = await this.data.map(target, faultyForm);
         if (target !== state.get().target || form !== state.get().form) {
             return;
         }
         const faulty = [];
-        for (const fault of map ? this.data.faults(target, form) : []) {
+        for (const fault of map ? this.data.faults(target, faultyForm) : []) {
             for (const line of fault.lines) {
                 const range = map.rangeAt(line);
                 if (range) {
@@ -102,10 +103,11 @@ class Slider {
         const colors = [palette.line, style.getPropertyValue('--lost'), style.getPropertyValue('--fault'),
             style.getPropertyValue('--lost')];
         const every = ticks ? Math.ceil(ticks.length / drawnTicks) : 1;
+        const room = ticks ? canvas.width * every / ticks.length : 0;
         for (let i = 0; ticks && i < ticks.length; i += every) {
             const mark = Math.max(...ticks.slice(i, i + every).map(tick => tick.mark));
             const x = ticks[Math.min(i + every, ticks.length) - 1].end / data.steps.count * canvas.width;
-            const wide = (mark ? 5 : 3) * density;
+            const wide = mark ? 5 * density : Math.max(1, Math.min(3 * density, room * 0.6));
             const high = canvas.height * (mark > 1 ? 1 : mark ? 0.75 : 0.45);
             context.fillStyle = colors[mark];
             context.fillRect(Math.min(Math.max(0, x - wide / 2), canvas.width - wide), canvas.height - high, wide, high);
