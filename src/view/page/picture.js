@@ -154,7 +154,8 @@ class Picture {
             }
         });
         this.shownStep = state.get().step;
-        this.space = state.get().space;
+        this.space = this.firstSpace();
+        state.set({space: this.space}, 'picture');
         this.readColors();
         this.showMode();
         this.showSpace();
@@ -253,6 +254,7 @@ class Picture {
         if (this.isTimed) {
             this.version++;
         }
+        this.tellNothing();
         if (!this.isTimed && this.onlyAdds(before, step)) {
             this.keptPicture.extend(before);
         } else {
@@ -263,6 +265,7 @@ class Picture {
     restyle() {
         this.version++;
         this.showMode();
+        this.tellNothing();
         this.keptPicture.renew();
     }
 
@@ -273,17 +276,37 @@ class Picture {
     showSpace() {
         this.space = state.get().space;
         this.spaces.value = this.space;
-        const box = this.scene.extentsOf(this.space);
-        const {index} = this.data;
-        this.none.hidden = !box.isEmpty;
-        this.none.textContent = this.scene.geometry.count ? 'Nothing is drawn here.'
-            : index.counts.objects ? 'No object of the recording has geometry that can be drawn.'
-                : 'The recording adds no objects.';
-        this.canvas.setAttribute('aria-label', this.sentence(box));
+        this.canvas.setAttribute('aria-label', this.sentence(this.scene.extentsOf(this.space)));
+        this.tellNothing();
         if (this.width) {
             this.showView(this.views.get(this.space) || this.viewOfAll());
             this.keptPicture.renew();
         }
+    }
+
+    // Says why the picture is empty.
+    tellNothing() {
+        const {scene, data} = this;
+        const {step, hidden} = state.get();
+        const visibility = new Visibility(scene, data.index, step, hidden);
+        this.none.hidden = scene.members.of(this.space).some(p => visibility.shows(p));
+        if (!this.none.hidden) {
+            this.none.textContent = scene.members.of(this.space).length ? 'Nothing is shown here behind this step.'
+                : scene.geometry.count ? 'Nothing is drawn here.'
+                    : data.index.counts.objects ? 'No object of the recording has geometry that can be drawn.'
+                        : 'The recording adds no objects.';
+        }
+    }
+
+    // The space that the recording ends in, or where nothing is in that one the fullest that is no definition.
+    firstSpace() {
+        const {index} = this.data;
+        const isFull = space => !this.scene.extentsOf(space).isEmpty;
+        const end = spaceAt(index, state.get().step);
+        const others = [...index.spaces.keys()].filter(space => index.spaces[space].kind !== 'block' && isFull(space));
+        const countOfSpace = space => this.scene.members.of(space).length;
+        return isFull(end) || !others.length ? end
+            : others.reduce((best, space) => countOfSpace(space) > countOfSpace(best) ? space : best);
     }
 
     // What the picture shows, in words.
