@@ -16,9 +16,34 @@ struct Kind
 };
 
 constexpr Kind kinds[] = {
-    {"AcDbLine", drawLine},       {"AcDbCircle", drawCircle},     {"AcDbArc", drawArc},
-    {"AcDbEllipse", drawEllipse}, {"AcDbPoint", drawPoint},       {"AcDbRay", drawRay},
-    {"AcDbXline", drawXLine},     {"AcDbPolyline", drawPolyline}, {"AcDb3dPolyline", drawSpacePolyline},
+    {"AcDbLine", drawLine},
+    {"AcDbCircle", drawCircle},
+    {"AcDbArc", drawArc},
+    {"AcDbEllipse", drawEllipse},
+    {"AcDbPoint", drawPoint},
+    {"AcDbRay", drawRay},
+    {"AcDbXline", drawXLine},
+    {"AcDbPolyline", drawPolyline},
+    {"AcDb3dPolyline", drawSpacePolyline},
+
+    {"AcDbText", drawText},
+    {"AcDbMText", drawNote},
+    {"AcDbAttribute", drawAttribute},
+    {"AcDbAttributeDefinition", drawAttribute},
+    {"AcDbArcAlignedText", drawArcText},
+
+    {"AcDbAlignedDimension", drawAlignedDimension},
+    {"AcDbRotatedDimension", drawRotatedDimension},
+    {"AcDbOrdinateDimension", drawOrdinateDimension},
+    {"AcDb2LineAngularDimension", drawTwoLineAngle},
+    {"AcDb3PointAngularDimension", drawThreePointAngle},
+    {"AcDbArcDimension", drawArcLength},
+    {"AcDbDiametricDimension", drawDiameter},
+    {"AcDbRadialDimension", drawRadius},
+    {"AcDbRadialDimensionLarge", drawJogged},
+
+    {"AcDbLeader", drawLeader},
+    {"AcDbFcf", drawTolerance},
 };
 
 } // namespace
