@@ -1,6 +1,7 @@
 #include "view/customActions.h"
 
 #include "view/actionData.h"
+#include "view/hatchActions.h"
 
 #include <algorithm>
 
@@ -275,6 +276,8 @@ void tellMade(Fold& fold, ObjectState& made)
     const Siblings& siblings = fold.siblings();
     if (const auto drawn = siblings.polylines.find(made.handle()); drawn != siblings.polylines.end())
         sayPolyline(made, *drawn->second);
+    if (const auto hatched = siblings.hatches.find(made.handle()); hatched != siblings.hatches.end())
+        sayHatch(made, *hatched->second);
 }
 
 std::vector<OdDbHandle> madeBy(const CFxCustomAction& action)

@@ -44,6 +44,7 @@ constexpr Kind kinds[] = {
 
     {"AcDbLeader", drawLeader},
     {"AcDbFcf", drawTolerance},
+    {"AcDbHatch", drawHatch},
 };
 
 } // namespace
