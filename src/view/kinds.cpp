@@ -45,6 +45,7 @@ constexpr Kind kinds[] = {
     {"AcDbLeader", drawLeader},
     {"AcDbFcf", drawTolerance},
     {"AcDbHatch", drawHatch},
+    {"AcDbTable", drawTable},
 };
 
 } // namespace
