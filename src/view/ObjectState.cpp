@@ -8,10 +8,14 @@ namespace inkmacro::view {
 
 namespace {
 
+/// Capitals count, as in `rotation` and `Rotation`, but for the axis of a coordinate.
 bool isSame(const QString& one, const QString& other)
 {
-    return one.size() == other.size() &&
-           (one.constData() == other.constData() || one.compare(other, Qt::CaseInsensitive) == 0);
+    const int last = one.size() - 1;
+    if (last < 1 || one.size() != other.size())
+        return one == other;
+    return QStringView(one).left(last) == QStringView(other).left(last) &&
+           (one[last] == other[last] || (one[last - 1] == ' ' && one[last].toLower() == other[last].toLower()));
 }
 
 int indexOf(const CFxVariant& index)

@@ -26,13 +26,16 @@ struct Makers
 
 Siblings::Siblings(const CFxActionArray& actions)
 {
+    Makers hatchMakers;
     Makers embeddings;
     Makers regionMakers;
     for (const OdRxObjectPtr& action : actions) {
         if (const auto object = odrxQuery<CFxObjectAdded>(action.get())) {
             const OdRxClass* const cls = object->GetObjectClass();
             added.insert(cls);
-            if (cls->name() == "AcDbOle2Frame")
+            if (cls == OdDbHatch::desc())
+                hatchMakers.made.push_back(object->GetHandle());
+            else if (cls->name() == "AcDbOle2Frame")
                 embeddings.made.push_back(object->GetHandle());
             else if (cls == OdDbRegion::desc())
                 regionMakers.made.push_back(object->GetHandle());
@@ -42,7 +45,7 @@ Siblings::Siblings(const CFxActionArray& actions)
                 polylines.emplace(datum(*custom, 3).GetHandle(), custom.get());
                 break;
             case kHatch:
-                hatches.push_back(custom.get());
+                hatchMakers.actions.push_back(custom.get());
                 break;
             case kEmbed:
                 embeddings.actions.push_back(custom.get());
@@ -58,6 +61,7 @@ Siblings::Siblings(const CFxActionArray& actions)
             }
         }
     }
+    hatches = hatchMakers.pairs();
     embedded = embeddings.pairs();
     // One action may make several, and nobody tells which of what.
     if (regionMakers.made.size() == regionMakers.actions.size())

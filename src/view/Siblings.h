@@ -18,8 +18,7 @@ struct Siblings
     std::unordered_set<const OdRxClass*> added; ///< classes of what is added
     /// Custom actions that draw polylines, by the polyline.
     ByHandle polylines;
-    /// Those that make hatches, in their order.
-    std::vector<const CFxCustomAction*> hatches;
+    ByHandle hatches; ///< the first made by the first action
     ByHandle viewports;
     ByHandle embedded; ///< objects, the first one by the first action
     ByHandle regions;

@@ -1,6 +1,7 @@
 #include "view/customActions.h"
 
 #include "view/actionData.h"
+#include "view/hatchActions.h"
 #include "view/polylineEdits.h"
 
 #include <algorithm>
@@ -290,6 +291,8 @@ void tellMade(Fold& fold, ObjectState& made)
     }
     if (const auto region = siblings.regions.find(made.handle()); region != siblings.regions.end())
         sayRegion(made, *region->second);
+    if (const auto hatched = siblings.hatches.find(made.handle()); hatched != siblings.hatches.end())
+        sayHatch(made, *hatched->second);
 }
 
 std::vector<OdDbHandle> madeBy(const CFxCustomAction& action)

@@ -39,6 +39,27 @@ constexpr Kind kinds[] = {
     {"AcDbOle2Frame", drawEmbedded},
     {"AcDbViewport", drawViewport},
     {"AcDbShape", drawShape},
+
+    {"AcDbText", drawText},
+    {"AcDbMText", drawNote},
+    {"AcDbAttribute", drawAttribute},
+    {"AcDbAttributeDefinition", drawAttribute},
+    {"AcDbArcAlignedText", drawArcText},
+
+    {"AcDbAlignedDimension", drawAlignedDimension},
+    {"AcDbRotatedDimension", drawRotatedDimension},
+    {"AcDbOrdinateDimension", drawOrdinateDimension},
+    {"AcDb2LineAngularDimension", drawTwoLineAngle},
+    {"AcDb3PointAngularDimension", drawThreePointAngle},
+    {"AcDbArcDimension", drawArcLength},
+    {"AcDbDiametricDimension", drawDiameter},
+    {"AcDbRadialDimension", drawRadius},
+    {"AcDbRadialDimensionLarge", drawJogged},
+
+    {"AcDbLeader", drawLeader},
+    {"AcDbFcf", drawTolerance},
+    {"AcDbHatch", drawHatch},
+    {"AcDbTable", drawTable},
 };
 
 const Kind* kindOf(const OdRxClass& cls)
