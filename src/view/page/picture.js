@@ -16,6 +16,7 @@ class Picture {
         this.scene = Scene.ofData(data);
         this.painter = new ScenePainter(this.scene);
         this.views = new Map(); // by space, as they were left
+        this.fitted = new Set(); // spaces of which all is shown, in whatever size
         this.lastChoice = {time: 0, objects: [], at: 0};
         this.version = 0;
         this.density = window.devicePixelRatio || 1;
@@ -182,10 +183,10 @@ class Picture {
         this.marks.height = this.height = height;
         this.views.forEach((view, space) => this.views.set(space,
             resizedView(view, oldWidth, oldHeight, width, height, density / this.density)));
+        this.fitted.forEach(space => this.views.delete(space));
         this.density = density;
         this.keptPicture.resize(width, height);
-        this.showView(this.views.get(this.space) || this.viewOfAll());
-        this.keptPicture.renew();
+        this.showSpaceView();
     }
 
     // The state as a painter needs it.
@@ -279,9 +280,17 @@ class Picture {
         this.canvas.setAttribute('aria-label', this.sentence(this.scene.extentsOf(this.space)));
         this.tellNothing();
         if (this.width) {
-            this.showView(this.views.get(this.space) || this.viewOfAll());
-            this.keptPicture.renew();
+            this.showSpaceView();
         }
+    }
+
+    showSpaceView() {
+        if (this.views.has(this.space)) {
+            this.showView(this.view);
+        } else {
+            this.fitAll();
+        }
+        this.keptPicture.renew();
     }
 
     // Says why the picture is empty.
@@ -335,6 +344,7 @@ class Picture {
     }
 
     showView(view) {
+        this.fitted.delete(this.space);
         this.views.set(this.space, view);
         this.keptPicture.show(view);
     }
@@ -345,6 +355,7 @@ class Picture {
 
     fitAll() {
         this.showView(this.viewOfAll());
+        this.fitted.add(this.space);
     }
 
     fitChosen() {
@@ -448,7 +459,7 @@ class Picture {
     point(x, y) {
         const [worldX, worldY] = [this.view.x + x * this.density / this.view.scale,
             this.view.y - y * this.density / this.view.scale];
-        const digits = Math.max(0, Math.min(8, Math.ceil(Math.log10(this.view.scale))));
+        const digits = Math.max(0, Math.min(8, Math.ceil(Math.log10(this.view.scale / this.density)) + 1));
         this.place.textContent = 'x ' + worldX.toFixed(digits) + ' y ' + worldY.toFixed(digits);
         const [object] = this.objectsAt(x, y, mouseReach);
         this.canvas.style.cursor = object === undefined ? '' : 'pointer';
