@@ -8,10 +8,14 @@ namespace inkmacro::view {
 
 namespace {
 
+/// Capitals count, as in `rotation` and `Rotation`, but for the axis of a coordinate.
 bool isSame(const QString& one, const QString& other)
 {
-    return one.size() == other.size() &&
-           (one.constData() == other.constData() || one.compare(other, Qt::CaseInsensitive) == 0);
+    const int last = one.size() - 1;
+    if (last < 1 || one.size() != other.size())
+        return one == other;
+    return QStringView(one).left(last) == QStringView(other).left(last) &&
+           (one[last] == other[last] || (one[last - 1] == ' ' && one[last].toLower() == other[last].toLower()));
 }
 
 int indexOf(const CFxVariant& index)
@@ -231,6 +235,23 @@ void ObjectState::set(const QString& tag, int index, const CFxVariant& value)
         property->value = value;
     else
         properties_.push_back({tag, index, value});
+}
+
+void ObjectState::sayPoints(const QString& tag, const std::vector<OdGePoint3d>& points)
+{
+    for (const char* const axis : {" x", " y", " z"})
+        unsay(tag + axis);
+    std::vector<CFxVariantCollectionElement> elements;
+    for (const OdGePoint3d& point : points)
+        elements.emplace_back(CFxVariant(static_cast<std::int32_t>(elements.size())), CFxVariant(point));
+    say(tag, -1, CFxVariantCollection(std::move(elements)));
+}
+
+void ObjectState::sayNumbers(const QString& tag, const std::vector<double>& numbers)
+{
+    unsay(tag);
+    for (std::size_t i = 0; i < numbers.size(); ++i)
+        properties_.push_back({tag, static_cast<int>(i), CFxVariant(numbers[i])});
 }
 
 void ObjectState::unsay(const QString& tag)

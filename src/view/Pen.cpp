@@ -51,6 +51,12 @@ Outline& Outline::close()
     return *this;
 }
 
+Outline& Outline::add(const Outline& other)
+{
+    numbers_.insert(numbers_.end(), other.numbers_.begin(), other.numbers_.end());
+    return *this;
+}
+
 void Pen::add(Shape shape, std::span<const double> numbers)
 {
     if (!std::all_of(numbers.begin(), numbers.end(), [](double number) { return std::isfinite(number); })) {

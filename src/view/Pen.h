@@ -29,6 +29,8 @@ public:
     Outline& ellipse(Point center, Point u, Point v, double start, double sweep);
     Outline& bezier(Point first, Point second, Point to);
     Outline& close();
+    /// The other's steps behind these.
+    Outline& add(const Outline& other);
 
     const std::vector<double>& numbers() const { return numbers_; }
     bool isEmpty() const { return numbers_.empty(); }

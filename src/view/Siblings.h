@@ -11,15 +11,17 @@ namespace inkmacro::view {
 /// What the actions of one command say of one another.
 struct Siblings
 {
+    using ByHandle = std::unordered_map<OdDbHandle, const CFxCustomAction*, OdDbHandleHash>;
+
     explicit Siblings(const CFxActionArray& actions);
 
     std::unordered_set<const OdRxClass*> added; ///< classes of what is added
     /// Custom actions that draw polylines, by the polyline.
-    std::unordered_map<OdDbHandle, const CFxCustomAction*, OdDbHandleHash> polylines;
-    /// Those that make hatches, embedded objects and viewports, in their order.
-    std::vector<const CFxCustomAction*> hatches;
-    std::vector<const CFxCustomAction*> embeddings;
-    std::vector<const CFxCustomAction*> viewports;
+    ByHandle polylines;
+    ByHandle hatches; ///< the first made by the first action
+    ByHandle viewports;
+    ByHandle embedded; ///< objects, the first one by the first action
+    ByHandle regions;
 };
 
 } // namespace inkmacro::view
