@@ -219,25 +219,29 @@ class Picture {
         }
         const scene = this.drawnScene;
         const dotted = this.brushes[brushKinds.comparison + 4];
-        const brushes = this.brushes.slice();
+        const brushes = Object.assign(this.brushes.slice(), {ofStyles: this.brushes.ofStyles});
         brushes[brushKinds.comparison + 2] = dotted; // recorded otherwise, which its own stroke shows
         yield* new ScenePainter(scene).paint(context, view, Object.assign({}, look, {brushes: brushes,
             kinds: Uint8Array.from(run.drawn, one => one.kind), visibility: {shows: () => true}}));
     }
 
-    // Whether what comes between two steps only adds to the picture.
-    onlyAdds(before, after) {
-        const {from, until} = this.scene.geometry;
-        const {index} = this.data;
-        if (after < before || index.layerSwitches.some(({step}) => step >= before && step < after)) {
-            return false;
-        }
+    // What happens to the picture from one state of the slider to another: whether it only grows, and whether definitions
+    // of blocks change.
+    changeBetween(before, after) {
+        const {from, until, space} = this.scene.geometry;
+        const {spaces, layerSwitches} = this.data.index;
+        const [low, high] = [Math.min(before, after), Math.max(before, after)];
+        const isWithin = step => step >= low && step < high;
+        let grows = after > before && !layerSwitches.some(({step}) => isWithin(step));
+        let defines = false;
         for (let p = 0; p < from.length; p++) {
-            if (until[p] >= before && until[p] < after && from[p] < before) {
-                return false;
+            const goes = until[p] >= low && until[p] < high;
+            if (goes || from[p] >= low && from[p] < high) {
+                grows = grows && !(goes && from[p] < low);
+                defines = defines || spaces[space[p]].kind === 'block';
             }
         }
-        return true;
+        return {grows: grows, defines: defines};
     }
 
     stepped() {
@@ -248,15 +252,11 @@ class Picture {
         if (space !== spaceAt(this.data.index, before)) {
             state.set({space: space}, 'picture');
         }
-        if (this.isTimed === undefined) {
-            this.isTimed = this.data.index.spaces.some((one, number) => one.kind === 'block' &&
-                this.scene.isTimed(number));
-        }
-        if (this.isTimed) {
-            this.version++;
-        }
+        const {grows, defines} = this.changeBetween(before, step);
+        const isAlone = this.data.index.spaces[this.space].kind !== 'sheet'; // which may show model space
+        this.version += defines ? 1 : 0;
         this.tellNothing();
-        if (!this.isTimed && this.onlyAdds(before, step)) {
+        if (grows && isAlone && !defines) {
             this.keptPicture.extend(before);
         } else {
             this.keptPicture.renew();
