@@ -93,7 +93,7 @@ async function testFilter() {
     const findings = new Findings(one, 'cpp', 'repaired', map);
     assert.deepStrictEqual(findings.of(1), [{kind: 'faults', word: 'fault, repaired', text: 'f'}]);
     assert.deepStrictEqual(findings.of(2), [{kind: 'lost', word: 'partly lost', text: 'property “W”, no statement'}]);
-    assert.deepStrictEqual(findings.steps(), [1, 2, 5, 6]);
+    assert.deepStrictEqual([...findings.steps()], [1, 2, 5, 6]);
     const shown = (filter, chip) => Array.from(shownSteps(one, filter, chip, findings) || ['all']);
     assert.deepStrictEqual([shown('', 'all'), shown('', 'lost'), shown('', 'assumed'), shown('', 'faults'),
         shown('', 'changes'), shown('circle', 'faults'), shown('edit', 'lost')],

@@ -16,6 +16,7 @@ class Picture {
         this.scene = Scene.ofData(data);
         this.painter = new ScenePainter(this.scene);
         this.views = new Map(); // by space, as they were left
+        this.fitted = new Set(); // spaces of which all is shown, in whatever size
         this.lastChoice = {time: 0, objects: [], at: 0};
         this.version = 0;
         this.density = window.devicePixelRatio || 1;
@@ -182,10 +183,10 @@ class Picture {
         this.marks.height = this.height = height;
         this.views.forEach((view, space) => this.views.set(space,
             resizedView(view, oldWidth, oldHeight, width, height, density / this.density)));
+        this.fitted.forEach(space => this.views.delete(space));
         this.density = density;
         this.keptPicture.resize(width, height);
-        this.showView(this.views.get(this.space) || this.viewOfAll());
-        this.keptPicture.renew();
+        this.showSpaceView();
     }
 
     // The state as a painter needs it.
@@ -218,25 +219,29 @@ class Picture {
         }
         const scene = this.drawnScene;
         const dotted = this.brushes[brushKinds.comparison + 4];
-        const brushes = this.brushes.slice();
+        const brushes = Object.assign(this.brushes.slice(), {ofStyles: this.brushes.ofStyles});
         brushes[brushKinds.comparison + 2] = dotted; // recorded otherwise, which its own stroke shows
         yield* new ScenePainter(scene).paint(context, view, Object.assign({}, look, {brushes: brushes,
             kinds: Uint8Array.from(run.drawn, one => one.kind), visibility: {shows: () => true}}));
     }
 
-    // Whether what comes between two steps only adds to the picture.
-    onlyAdds(before, after) {
-        const {from, until} = this.scene.geometry;
-        const {index} = this.data;
-        if (after < before || index.layerSwitches.some(({step}) => step >= before && step < after)) {
-            return false;
-        }
+    // What happens to the picture from one state of the slider to another: whether it only grows, and whether definitions
+    // of blocks change.
+    changeBetween(before, after) {
+        const {from, until, space} = this.scene.geometry;
+        const {spaces, layerSwitches} = this.data.index;
+        const [low, high] = [Math.min(before, after), Math.max(before, after)];
+        const isWithin = step => step >= low && step < high;
+        let grows = after > before && !layerSwitches.some(({step}) => isWithin(step));
+        let defines = false;
         for (let p = 0; p < from.length; p++) {
-            if (until[p] >= before && until[p] < after && from[p] < before) {
-                return false;
+            const goes = until[p] >= low && until[p] < high;
+            if (goes || from[p] >= low && from[p] < high) {
+                grows = grows && !(goes && from[p] < low);
+                defines = defines || spaces[space[p]].kind === 'block';
             }
         }
-        return true;
+        return {grows: grows, defines: defines};
     }
 
     stepped() {
@@ -247,15 +252,11 @@ class Picture {
         if (space !== spaceAt(this.data.index, before)) {
             state.set({space: space}, 'picture');
         }
-        if (this.isTimed === undefined) {
-            this.isTimed = this.data.index.spaces.some((one, number) => one.kind === 'block' &&
-                this.scene.isTimed(number));
-        }
-        if (this.isTimed) {
-            this.version++;
-        }
+        const {grows, defines} = this.changeBetween(before, step);
+        const isAlone = this.data.index.spaces[this.space].kind !== 'sheet'; // which may show model space
+        this.version += defines ? 1 : 0;
         this.tellNothing();
-        if (!this.isTimed && this.onlyAdds(before, step)) {
+        if (grows && isAlone && !defines) {
             this.keptPicture.extend(before);
         } else {
             this.keptPicture.renew();
@@ -279,9 +280,17 @@ class Picture {
         this.canvas.setAttribute('aria-label', this.sentence(this.scene.extentsOf(this.space)));
         this.tellNothing();
         if (this.width) {
-            this.showView(this.views.get(this.space) || this.viewOfAll());
-            this.keptPicture.renew();
+            this.showSpaceView();
         }
+    }
+
+    showSpaceView() {
+        if (this.views.has(this.space)) {
+            this.showView(this.view);
+        } else {
+            this.fitAll();
+        }
+        this.keptPicture.renew();
     }
 
     // Says why the picture is empty.
@@ -335,6 +344,7 @@ class Picture {
     }
 
     showView(view) {
+        this.fitted.delete(this.space);
         this.views.set(this.space, view);
         this.keptPicture.show(view);
     }
@@ -345,6 +355,7 @@ class Picture {
 
     fitAll() {
         this.showView(this.viewOfAll());
+        this.fitted.add(this.space);
     }
 
     fitChosen() {
@@ -448,7 +459,7 @@ class Picture {
     point(x, y) {
         const [worldX, worldY] = [this.view.x + x * this.density / this.view.scale,
             this.view.y - y * this.density / this.view.scale];
-        const digits = Math.max(0, Math.min(8, Math.ceil(Math.log10(this.view.scale))));
+        const digits = Math.max(0, Math.min(8, Math.ceil(Math.log10(this.view.scale / this.density)) + 1));
         this.place.textContent = 'x ' + worldX.toFixed(digits) + ' y ' + worldY.toFixed(digits);
         const [object] = this.objectsAt(x, y, mouseReach);
         this.canvas.style.cursor = object === undefined ? '' : 'pointer';
