@@ -22,21 +22,30 @@ function(inkmacro_embed_texts target folder)
     target_include_directories(${target} PRIVATE ${PROJECT_BINARY_DIR}/texts)
 endfunction()
 
-# Makes literals of what node runs: the tables <folder>/web/*.txt, the scripts in <folder>/web/ in the order of the lines
-# of scripts.list there, and the drivers <folder>/node/page.js and verify.js behind them. The target includes them as
-# "<folder>/scriptTexts.h", as the lists inkmacro::texts::tables and inkmacro::texts::scripts.
+# Makes literals of what node and pages run: the tables <folder>/web/*.txt, and the scripts of the subfolders web, node,
+# frame and page, each in the order of the lines of its scripts.list; and of what stands in pages besides, page/page.html
+# and page/*.css. The target includes them as "<folder>/scriptTexts.h", as lists inkmacro::texts::<subfolder>Scripts,
+# tables, markup and styles.
 function(inkmacro_embed_scripts target folder)
     cmake_path(ABSOLUTE_PATH folder OUTPUT_VARIABLE source)
     file(GLOB tables CONFIGURE_DEPENDS ${source}/web/*.txt)
-    file(STRINGS ${source}/web/scripts.list scripts)
-    list(TRANSFORM scripts PREPEND ${source}/web/)
-    list(APPEND scripts ${source}/node/page.js ${source}/node/verify.js)
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source}/web/scripts.list ${tables} ${scripts})
+    file(GLOB styles CONFIGURE_DEPENDS ${source}/page/*.css)
+    set(markup ${source}/page/page.html)
+    set(lists tables styles markup)
+    set(orders "")
+    foreach(part web node frame page)
+        file(STRINGS ${source}/${part}/scripts.list ${part}Scripts)
+        list(TRANSFORM ${part}Scripts PREPEND ${source}/${part}/)
+        list(APPEND lists ${part}Scripts)
+        list(APPEND orders ${source}/${part}/scripts.list)
+    endforeach()
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${orders})
     # Clang warns of literals above 64 KB, which not every compiler takes.
     string(CONCAT literals "#pragma once\n\n#include <initializer_list>\n"
         "\n#pragma GCC diagnostic ignored \"-Woverlength-strings\"\n"
         "\nnamespace inkmacro::texts {\nstruct Named\n{\n    const char* name;\n    const char* text;\n};\n")
-    foreach(list tables scripts)
+    foreach(list IN LISTS lists)
+        set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${${list}})
         string(APPEND literals "inline constexpr std::initializer_list<Named> ${list} = {")
         foreach(file IN LISTS ${list})
             cmake_path(GET file FILENAME name)

@@ -60,7 +60,7 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
         {{"cnovert"}, "unknown command \"cnovert\"; did you mean convert?"},
         {{"Check"}, "unknown command \"Check\"; did you mean check?"},
         {{"transmogrify"},
-         "unknown command \"transmogrify\"; known are convert, inspect, check, verify, import, format, snapshot, "
+         "unknown command \"transmogrify\"; known are convert, inspect, check, verify, view, import, format, snapshot, "
          "run, schema, classes, system-variables, faults, completion"},
         {{"convert", "--outptu"}, "unknown option \"--outptu\"; did you mean --output?"},
         {{"convert", "--Report=text"}, "unknown option \"--Report\"; did you mean --report?"},
@@ -68,7 +68,7 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
         {{"convert", "-qz"}, "unknown option \"-z\""},
         {{"convert", "--json"}, "--json is no option of convert, but of inspect, check, verify and snapshot"},
         {{"convert", "--version"}, "--version stands without a command"},
-        {{"--target", "csharp"}, "--target stands before the command; it belongs behind convert"},
+        {{"--target", "csharp"}, "--target stands before the command; it belongs behind convert and view"},
         {{"convert", "a", "-t", "cshrap"}, "-t: \"cshrap\" is no target; did you mean csharp?"},
         {{"convert", "a", "--target=c\x01"},
          "--target: \"c\\x01\" is no target; known are cpp (0), csharp (1), javascript (2), vbnet (3), "
@@ -95,6 +95,10 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
         {{"import", "a", "--since", "-"}, "--since: the older drawing must be a file, not standard input"},
         {{"import", "a", "--tolerance", "nan"}, "--tolerance: \"nan\" is no number above 0 and up to 1"},
         {{"verify", "a", "--macro", "-"}, "--macro: the macro must be a file, not standard input"},
+        {{"view", "a", "--svg", "--target", "vba"}, "--svg writes a picture, which has no macros"},
+        {{"view", "a", "--space", "Model"}, "--space is of --svg: a page has all spaces"},
+        {{"view", "a", "--macro", "b", "--target", "vba"},
+         "--macro is a macro of the target javascript, which --target leaves out"},
         {{"classes", "AcDbLien"}, "\"AcDbLien\" is none of the 52 known names; did you mean AcDbLine?"},
         {{"completion"}, "completion needs bash|zsh|fish"},
         {{"completion", "tcsh"}, "\"tcsh\" is none of bash, zsh, fish"},

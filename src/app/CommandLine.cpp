@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QSet>
 
+#include <algorithm>
+
 namespace inkmacro {
 
 namespace {
@@ -199,6 +201,8 @@ private:
             takeFiles();
         if (line_.command == Command::Run)
             checkRun();
+        if (line_.command == Command::View)
+            checkView();
         if (line_.command == Command::Convert && line_.output == "-" && line_.telling.reportsToOutput())
             throw WrongUse("--report and --output - would both write to standard output; --report-file FILE does not");
         if (line_.host.repair && line_.host.faithful)
@@ -232,6 +236,18 @@ private:
             throw WrongUse("run asks on standard output, so the new recording must be a file");
         if (line_.output && line_.output->endsWith('/'))
             throw WrongUse(QString("--output: \"%1\" is a directory, and run writes a file").arg(*line_.output));
+    }
+
+    void checkView() const
+    {
+        const auto isJavaScript = [](const TargetRow* row) { return row->target == Target::JavaScript; };
+        if (line_.svg && (line_.macro || !line_.targets.empty()))
+            throw WrongUse("--svg writes a picture, which has no macros");
+        if (line_.space && !line_.svg)
+            throw WrongUse("--space is of --svg: a page has all spaces");
+        if (line_.macro && !line_.targets.empty() &&
+            std::none_of(line_.targets.begin(), line_.targets.end(), isJavaScript))
+            throw WrongUse("--macro is a macro of the target javascript, which --target leaves out");
     }
 
     CommandLine& line_;

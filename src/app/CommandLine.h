@@ -69,6 +69,7 @@ struct CommandLine
         Check,
         Format,
         Verify,
+        View,
         Import,
         Snapshot,
         RecordingSchema,
@@ -88,7 +89,9 @@ struct CommandLine
     QStringList files;                     ///< "-" is standard input, at most once
     std::vector<const TargetRow*> targets; ///< each once, in the order asked for
     std::optional<QString> output;
-    std::optional<QString> macro; ///< that is verified in place of the recording's
+    std::optional<QString> macro; ///< that is verified in place of the recording's, or shown beside it
+    bool svg = false;             ///< a picture in place of a page
+    std::optional<QString> space; ///< the name of the one that is drawn
     bool map = false;             ///< a map beside each macro
     bool force = false;           ///< projects of other recordings are replaced
     HostSettings host;

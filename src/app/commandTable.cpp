@@ -295,6 +295,57 @@ texts in one that was written without --repair may run as code.)",
     jsonOption,
 };
 
+const std::vector<OptionRow> viewOptions = {
+    {
+        .name = "--output",
+        .letter = 'o',
+        .form = "FILE",
+        .offer = Offer::Files,
+        .take = takeOutput,
+        .meaning = "where the page goes to",
+        .text = R"(The file that the page goes to, or a directory that it comes into; - is
+standard output. Without it, the page of walls.jsonl is walls.view.html in
+the current directory.)",
+    },
+    {
+        .name = "--target",
+        .letter = 't',
+        .form = "TARGET[,TARGET...]|all",
+        .offer = Offer::Lists,
+        .words = [] { return targetNames() + QStringList("all"); },
+        .take = takeTargets,
+        .meaning = "the languages that are shown",
+        .text = R"(The languages whose macros are in the page, as convert takes them; all of
+them without it. Fewer make a smaller page.)",
+        .repeats = true,
+    },
+    {
+        .name = "--macro",
+        .form = "FILE",
+        .offer = Offer::Files,
+        .take = takeMacro,
+        .meaning = "a changed macro to show and run besides",
+        .text = R"(Show that JavaScript macro beside those of the recording, and run it where
+the page is asked to: one that convert wrote and somebody has changed.
+Nothing runs in a page but what it was made with.)",
+    },
+    {
+        .name = "--svg",
+        .take = [](CommandLine& line, const QString&) { line.svg = true; },
+        .meaning = "a picture in place of the page",
+        .text = R"(Write an SVG file of what the recording and its drawing show in the end.
+Without --output it is called as the recording is.)",
+    },
+    {
+        .name = "--space",
+        .form = "NAME",
+        .take = [](CommandLine& line, const QString& value) { line.space = value; },
+        .meaning = "the sheet or block that --svg draws",
+        .text = R"(Draw that sheet, the definition of that block, or Model with --svg, in
+place of what the recording began in.)",
+    },
+};
+
 const std::vector<OptionRow> inspectOptions = {
     {
         .name = "--tree",
@@ -394,6 +445,14 @@ property; what differs is told with the lines of recording and macro. That the
 macro lacks what convert reports as lost is told, too, but is no difference. The
 exit status is 1 when something differs, or when the macro stops with an error.)";
 
+const char* const viewText = R"(Writes a page of HTML in which a recording is seen: what it drew, step by step,
+and the macros of all targets, repaired and as recorded, with what they lack.
+
+Steps, objects and lines of macros lead to one another. The page runs the
+JavaScript macro and lays what it draws over what was recorded. It is one file,
+which opens from a disk and fetches nothing. A recording whose conversion fails
+has a page too, which tells why; the exit status is 1 then.)";
+
 const char* const runText = R"(Runs a command of the macro writer on the drawing of a recording.
 
 It asks on standard output, a line a prompt, and takes a line of standard
@@ -450,6 +509,15 @@ nor the recording up to there has.)",
         .form = "FILE",
         .text = verifyText,
         .options = verifyOptions,
+    },
+    {
+        .command = Command::View,
+        .name = "view",
+        .meaning = "make a page that shows a recording and runs its macro",
+        .operands = Operands::File,
+        .form = "FILE",
+        .text = viewText,
+        .options = viewOptions,
     },
     {
         .command = Command::Import,

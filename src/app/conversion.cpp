@@ -8,6 +8,7 @@
 #include "app/ProgressLine.h"
 #include "app/ReportPart.h"
 #include "app/StagedResult.h"
+#include "app/StepMap.h"
 #include "app/console.h"
 #include "app/earlyEnd.h"
 #include "app/importReport.h"
@@ -144,13 +145,19 @@ Outcome convertRead(const Job& job, const Recording& recording, const HostSettin
     StagedResult result(job.files(), job.home);
     CFxConversionNotes& notes = GetFxSystemServices()->Notes();
     std::optional<MacroMap> map;
+    std::optional<StepMapWriter> steps;
     if (job.hasMap) {
         map.emplace(Job::mapOf(result.firstFile()), job, recording);
         notes.OnLines([&map](const CFxMacroLines& lines) { map->add(lines); });
+    } else if (job.hasSteps) {
+        steps.emplace(Job::stepsOf(result.firstFile()), recording.actions);
+        notes.OnLines([&steps](const CFxMacroLines& lines) { steps->add(lines); });
     }
     const auto silence = qScopeGuard([&notes] { notes.OnLines({}); });
     const std::int32_t status = runModule(*job.target, result.firstFile(), recording, host);
-    tellProblems(job);
+    // A page has two macros of a target.
+    if (!job.hasSteps || job.repaired)
+        tellProblems(job);
     if (status != kFxSuccess) {
         return failure(
             QString("conversion to %1 failed with status %2: %3%4")
@@ -162,6 +169,8 @@ Outcome convertRead(const Job& job, const Recording& recording, const HostSettin
         return failure(incomplete);
     if (const QString reason = map ? map->finish() : QString(); !reason.isEmpty())
         return failure(QString("%1 could not be written whole: %2").arg(Job::mapOf(job.macro), reason));
+    if (const QString reason = steps ? steps->finish() : QString(); !reason.isEmpty())
+        return failure(QString("%1 could not be written whole: %2").arg(Job::stepsOf(job.macro), reason));
     // Somebody else may have put a project there meanwhile.
     QString others;
     const QStringList placed = result.place([&] { return (others = otherProjectsIn({job})).isEmpty(); });
@@ -175,7 +184,7 @@ Outcome convertRecording(const Job& job, HostSettings host, Recording& recording
         return {kUnreadable, error};
     }
     // A drawing has no recorder whose faults a macro could be faithful to.
-    host.repair = host.repair || (drawing && !host.faithful);
+    host.repair = host.repair || job.repaired || (drawing && !host.faithful);
     if (const QString refusal = job.toStandardOutput ? QString() : refusalOf(job.files()); !refusal.isEmpty())
         return failure(refusal);
     try {

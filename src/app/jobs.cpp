@@ -19,17 +19,6 @@ namespace inkmacro {
 
 namespace {
 
-/// `walls` for any `walls.xyz.jsonl`: the project takes its name from the macro by the same rule, and the two have to
-/// agree.
-QString baseNameOf(const QString& input)
-{
-    QString name = input == "-" ? QString() : QFileInfo(input).fileName();
-    while (name.startsWith('.'))
-        name.remove(0, 1);
-    const QString base = QFileInfo(name).baseName();
-    return base.isEmpty() ? QStringLiteral("recording") : base;
-}
-
 QString latin(std::string_view text)
 {
     return QString::fromLatin1(text.data(), static_cast<int>(text.size()));
@@ -181,6 +170,8 @@ QStringList Job::files() const
     QStringList files = QStringList(macro) + projectFiles();
     if (hasMap)
         files.append(mapOf(macro));
+    if (hasSteps)
+        files.append(stepsOf(macro));
     return files;
 }
 
@@ -189,6 +180,16 @@ QString Job::shownMacro() const
     if (toStandardOutput)
         return QStringLiteral("standard output");
     return home ? QFileInfo(macro).fileName() : macro;
+}
+
+// The project takes its name from the macro by the same rule, and the two have to agree.
+QString baseNameOf(const QString& input)
+{
+    QString name = input == "-" ? QString() : QFileInfo(input).fileName();
+    while (name.startsWith('.'))
+        name.remove(0, 1);
+    const QString base = QFileInfo(name).baseName();
+    return base.isEmpty() ? QStringLiteral("recording") : base;
 }
 
 QString macroName(const QString& input, const TargetRow& row)

@@ -14,6 +14,8 @@ struct Job
     QString macro;                       ///< on its way to standard output it has a name too, which is never written to
     bool toStandardOutput = false;       ///< the macro alone
     bool hasMap = false;                 ///< a map of the macro stands beside it
+    bool hasSteps = false;               ///< the steps of its lines do, for a page
+    bool repaired = false;               ///< whatever the host's settings say
     bool replacesOthers = false;         ///< files of another recording's project too
     QString kept = {};                   ///< a copy that is read in place of an input which can be read only once
     const StagingFolder* home = nullptr; ///< that the files stay in; nobody is told of them then
@@ -25,12 +27,15 @@ struct Job
     QStringList projectFiles() const;
     /// Leads the lines of the macro at that path back to the recording.
     static QString mapOf(const QString& macro) { return macro + ".map.json"; }
-    /// The macro in front, and its map, when it has one, behind the project.
+    static QString stepsOf(const QString& macro) { return macro + ".steps"; }
+    /// The macro in front, and what leads its lines back, when it has that, behind the project.
     QStringList files() const;
     /// What messages call the macro.
     QString shownMacro() const;
 };
 
+/// What is made of a recording is called after it: `walls` for any `walls.xyz.jsonl`.
+QString baseNameOf(const QString& input);
 /// How the macro of a recording is called where nobody calls it otherwise.
 QString macroName(const QString& input, const TargetRow& row);
 

@@ -24,6 +24,7 @@
 #include "app/snapshot.h"
 #include "app/verification.h"
 #include "app/verificationSchema.h"
+#include "app/viewing.h"
 
 #include <QCoreApplication>
 
@@ -48,8 +49,11 @@ int convert(const CommandLine& line)
         return kUnreadable;
     try {
         ReportDocument report(line.telling);
+        const auto add = [&report](const Job& job, std::unique_ptr<ReportPart> part, const Outcome& outcome) {
+            report.add(job, std::move(part), outcome);
+        };
         const int status = jobs.size() == 1 ? convertAlone(jobs.front(), line.host, line.telling, report)
-                                            : convertInProcesses(jobs, line.host, line.telling, report);
+                                            : convertInProcesses(jobs, line.host, line.telling, add);
         return report.finish(status);
     } catch (const PlacingError& error) {
         complain("the report: " + error.message());
@@ -72,6 +76,8 @@ int run(const CommandLine& line)
         return formatRecording(line.files.front(), line.output.value_or(QString()));
     case CommandLine::Command::Verify:
         return verifyRecording(line.files.front(), line.macro, line.json);
+    case CommandLine::Command::View:
+        return viewRecording(line);
     case CommandLine::Command::Import:
         return importDrawing(line);
     case CommandLine::Command::Snapshot:

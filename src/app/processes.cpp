@@ -41,7 +41,7 @@ QString pathOf(const QTemporaryFile& file)
 class JobRunner final : private EarlyEnd
 {
 public:
-    JobRunner(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling, ReportDocument& report);
+    JobRunner(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling, const TakeResult& take);
     ~JobRunner() { endWatch(); }
 
     int run();
@@ -76,7 +76,7 @@ private:
     const std::vector<Job>& jobs_;
     const HostSettings& host_;
     const Telling& telling_;
-    ReportDocument& report_;
+    const TakeResult& take_;
     std::vector<State> states_;
     QTemporaryFile standardInput_;
     std::size_t next_ = 0; ///< all jobs in front of it have begun
@@ -89,8 +89,8 @@ private:
 };
 
 JobRunner::JobRunner(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling,
-                     ReportDocument& report)
-    : jobs_(jobs), host_(host), telling_(telling), report_(report), states_(jobs.size()), progress_([this] {
+                     const TakeResult& take)
+    : jobs_(jobs), host_(host), telling_(telling), take_(take), states_(jobs.size()), progress_([this] {
           const auto total = static_cast<int>(jobs_.size());
           return progressBar(doneCount_, total) + QString("  %1 of %2 done").arg(doneCount_).arg(total);
       })
@@ -100,7 +100,7 @@ JobRunner::JobRunner(const std::vector<Job>& jobs, const HostSettings& host, con
 
 int JobRunner::run()
 {
-    const auto wantsInput = [](const Job& job) { return job.input == "-"; };
+    const auto wantsInput = [](const Job& job) { return job.input == "-" && job.kept.isEmpty(); };
     if (std::any_of(jobs_.begin(), jobs_.end(), wantsInput) && !keepStandardInput()) {
         const RecordingError error{"-", 0, {}, "cannot be kept for several results: " + qt_error_string(errno)};
         for (std::size_t i = 0; i < jobs_.size(); ++i)
@@ -173,7 +173,8 @@ int JobRunner::fork(State& state, const Job& job)
         if (!state.part->create())
             return errno;
     }
-    const QByteArray input = job.input == "-" ? QFile::encodeName(pathOf(standardInput_)) : QByteArray("/dev/null");
+    const QByteArray input =
+        standardInput_.isOpen() ? QFile::encodeName(pathOf(standardInput_)) : QByteArray("/dev/null");
     return state.process.start(input, [&] { return work(job, state.part.get()); });
 }
 
@@ -264,7 +265,7 @@ void JobRunner::passOn(std::size_t number)
     }
     printError(messages);
     printOut(std::exchange(state.process.output.bytes, {}));
-    report_.add(jobs_[number], std::move(state.part), state.outcome);
+    take_(jobs_[number], std::move(state.part), state.outcome);
 }
 
 void JobRunner::endEarly(int signal) noexcept
@@ -278,9 +279,9 @@ void JobRunner::endEarly(int signal) noexcept
 } // namespace
 
 int convertInProcesses(const std::vector<Job>& jobs, const HostSettings& host, const Telling& telling,
-                       ReportDocument& report)
+                       const TakeResult& take)
 {
-    return JobRunner(jobs, host, telling, report).run();
+    return JobRunner(jobs, host, telling, take).run();
 }
 
 } // namespace inkmacro

@@ -72,7 +72,7 @@ std::vector<RecordingError> readFrom(const QString& place, const QString& path, 
     constexpr auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     if (!(standardInput ? file.open(stdin, mode) : file.open(mode)))
         return {{name, 0, {}, (place == path ? "cannot be opened: " : "cannot be read again: ") + file.errorString()}};
-    std::vector<RecordingError> errors = isDrawing(file, path)
+    std::vector<RecordingError> errors = isDrawing(file, place)
                                              ? readDrawing(file, name, recording, accounts)
                                              : withProgress([&](const ReadingProgress& progress) {
                                                    return ReadWithErrors(file, name, recording, most, progress);

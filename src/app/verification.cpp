@@ -3,12 +3,10 @@
 #include "app/verification.h"
 
 #include "app/ExitStatus.h"
-#include "app/ProgressLine.h"
 #include "app/childProcess.h"
 #include "app/console.h"
 #include "app/conversion.h"
-#include "app/importing.h"
-#include "app/reading.h"
+#include "app/heldRecording.h"
 #include "app/report.h"
 #include "app/reportSchema.h"
 #include "app/valueText.h"
@@ -26,7 +24,6 @@
 #include <system_error>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -41,8 +38,7 @@ namespace {
 constexpr char kScript[] = "verify.cjs";
 constexpr char kJob[] = "job.json";
 constexpr char kReport[] = "report.json";
-constexpr char kRecording[] = "recording.jsonl";
-constexpr char kImported[] = "imported.jsonl";
+constexpr char kLink[] = "recording";
 constexpr char kEdited[] = "edited";
 
 const TargetRow& javaScript()
@@ -55,14 +51,6 @@ const TargetRow& javaScript()
 QString nameOfMacro(const QString& input)
 {
     return macroName(input.isValidUtf16() ? input : QStringLiteral("-"), javaScript());
-}
-
-/// Files and pipes that this process has, and node not.
-bool comesOnce(const QString& input)
-{
-    struct stat found = {};
-    return input == "-" || (stat(QFile::encodeName(input).constData(), &found) == 0 &&
-                            (S_ISFIFO(found.st_mode) || S_ISSOCK(found.st_mode)));
 }
 
 /// Node, as long as it runs.
@@ -154,17 +142,10 @@ public:
     /// Raises PlacingError.
     int run(const QString& node)
     {
-        if (const QString reason = comesOnce(input_) ? keep() : QString(); !reason.isEmpty()) {
-            const QString name = input_ == "-" ? QStringLiteral("standard input") : input_;
-            printLine(RecordingError{name, 0, {}, reason}.text());
+        const std::optional<QString> held = holdRecording(input_, folder_);
+        if (!held)
             return kUnreadable;
-        }
-        if (const QString source = job_.kept.isEmpty() ? input_ : job_.kept; isDrawingFile(source)) {
-            // Node reads recordings alone.
-            if (!writeRecordingOf(source, input_ == "-" ? QStringLiteral("standard input") : input_, path(kImported)))
-                return kUnreadable;
-            job_.kept = path(kImported);
-        }
+        job_.kept = *held;
         HostSettings host;
         host.repair = true;
         Telling telling;
@@ -184,7 +165,9 @@ public:
 private:
     static std::vector<std::string> namesOf(const QString& input)
     {
-        std::vector<std::string> names{kScript, kJob, kReport, kRecording, kImported, kEdited};
+        std::vector<std::string> names{kScript, kJob, kReport, kLink, kEdited};
+        for (const char* name : kHeldNames)
+            names.emplace_back(name);
         for (const QString& file : {nameOfMacro(input), Job::mapOf(nameOfMacro(input))})
             names.push_back(QFile::encodeName(file).toStdString());
         return names;
@@ -193,21 +176,6 @@ private:
     QString path(const QString& name) const
     {
         return QFile::decodeName(folder_.file(QFile::encodeName(name).toStdString()).c_str());
-    }
-
-    /// Why a recording that can be read only once cannot be kept, or empty text.
-    QString keep()
-    {
-        QFile source(input_);
-        constexpr auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
-        if (!(input_ == "-" ? source.open(STDIN_FILENO, mode) : source.open(mode)))
-            return "cannot be opened: " + source.errorString();
-        QFile copy(path(kRecording));
-        ProgressLine line([&copy] { return "reading " + megabytes(copy.pos()); });
-        if (!copy.open(QIODevice::WriteOnly) || !keepInput(source.handle(), copy, [&line] { line.update(); }))
-            return "cannot be kept: " + qt_error_string(errno);
-        job_.kept = copy.fileName();
-        return {};
     }
 
     void write(const char* name, const QByteArray& bytes) const
@@ -236,7 +204,7 @@ private:
         const QJsonObject job{
             {kProgramVersionKey, INKMACRO_VERSION},
             {"input", printable(input_)},
-            {"recording", job_.kept.isEmpty() ? pathForNode(input_, kRecording) : job_.kept},
+            {"recording", pathForNode(job_.kept, kLink)},
             {"macro", job_.macro},
             {"macroName", printable(QFileInfo(edited_.value_or(job_.macro)).fileName())},
             {"map", Job::mapOf(job_.macro)},

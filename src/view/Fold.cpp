@@ -313,6 +313,12 @@ void Fold::vanish(ObjectState& state)
     redraw(state);
 }
 
+void Fold::useUp(ObjectState& state)
+{
+    if (!state.drawn() || state.drawn()->isErased())
+        vanish(state);
+}
+
 void Fold::move(ObjectState& state, const Affine& by)
 {
     // What the drawing tells of a place is that of the end.
@@ -407,6 +413,21 @@ bool Fold::isAsBefore(const ObjectState& state, std::size_t first) const
     return true;
 }
 
+/// Why nothing of an object is drawn, where nobody else has said it.
+void Fold::explainMissing()
+{
+    for (PictureObject& object : picture_.objects)
+        object.isDrawn = false;
+    for (const Primitive& primitive : picture_.primitives)
+        picture_.objects[primitive.object].isDrawn = true;
+    for (std::uint32_t i = 0; i < picture_.objects.size(); ++i) {
+        const PictureObject& object = picture_.objects[i];
+        if (object.hasGeometry && !object.isDrawn && object.remark == 0)
+            picture_.addRemark(i, drawerOf(objects_[i].cls()) ? "where it is is not recorded"
+                                                              : "nobody knows how objects of its class look");
+    }
+}
+
 /// Leaves what is seen at some time, object by object in the order in which they came.
 void Fold::finish()
 {
@@ -433,6 +454,7 @@ void Fold::finish()
         numbers.insert(numbers.end(), of.begin(), of.end());
     }
     picture_.numbers = std::move(numbers);
+    explainMissing();
 }
 
 } // namespace inkmacro::view

@@ -28,6 +28,8 @@ public:
     /// One that nobody names, which is as the other one but moved.
     void appearAs(const ObjectState& original, const Affine& by);
     void vanish(ObjectState& state);
+    /// It goes, unless the drawing has it in the end.
+    void useUp(ObjectState& state);
     /// It is to be drawn anew, and so is what has asked for it.
     void redraw(ObjectState& state);
     void move(ObjectState& state, const Affine& by);
@@ -56,6 +58,7 @@ private:
     void draw(ObjectState& state);
     bool isAsBefore(const ObjectState& state, std::size_t first) const;
     void finish();
+    void explainMissing();
 
     Picture& picture_;
     OdDbDatabase& database_;

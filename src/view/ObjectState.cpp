@@ -237,6 +237,23 @@ void ObjectState::set(const QString& tag, int index, const CFxVariant& value)
         properties_.push_back({tag, index, value});
 }
 
+void ObjectState::sayPoints(const QString& tag, const std::vector<OdGePoint3d>& points)
+{
+    for (const char* const axis : {" x", " y", " z"})
+        unsay(tag + axis);
+    std::vector<CFxVariantCollectionElement> elements;
+    for (const OdGePoint3d& point : points)
+        elements.emplace_back(CFxVariant(static_cast<std::int32_t>(elements.size())), CFxVariant(point));
+    say(tag, -1, CFxVariantCollection(std::move(elements)));
+}
+
+void ObjectState::sayNumbers(const QString& tag, const std::vector<double>& numbers)
+{
+    unsay(tag);
+    for (std::size_t i = 0; i < numbers.size(); ++i)
+        properties_.push_back({tag, static_cast<int>(i), CFxVariant(numbers[i])});
+}
+
 void ObjectState::unsay(const QString& tag)
 {
     load();

@@ -48,6 +48,10 @@ public:
     /// The first of several records of one property counts.
     void change(const PropertyList& properties);
     void say(const QString& tag, int index, const CFxVariant& value);
+    /// In the place of all points that the tag tells.
+    void sayPoints(const QString& tag, const std::vector<OdGePoint3d>& points);
+    /// As a repeated tag, in the place of all its values; other indexes have none.
+    void sayNumbers(const QString& tag, const std::vector<double>& numbers);
     /// All values of a tag, repeated ones too.
     void unsay(const QString& tag);
     /// Moves it by more than what its properties tell.

@@ -5,36 +5,67 @@
 
 namespace inkmacro::view {
 
+namespace {
+
+/// What is added, and what makes it, in one order.
+struct Makers
+{
+    std::vector<OdDbHandle> made;
+    std::vector<const CFxCustomAction*> actions;
+
+    Siblings::ByHandle pairs() const
+    {
+        Siblings::ByHandle pairs;
+        for (std::size_t i = 0; i < made.size() && i < actions.size(); ++i)
+            pairs.emplace(made[i], actions[i]);
+        return pairs;
+    }
+};
+
+} // namespace
+
 Siblings::Siblings(const CFxActionArray& actions)
 {
-    std::vector<const CFxCustomAction*> hatchings;
-    std::vector<OdDbHandle> hatched;
+    Makers hatchings;
+    Makers embeddings;
+    Makers regionMakers;
     for (const OdRxObjectPtr& action : actions) {
         if (const auto object = odrxQuery<CFxObjectAdded>(action.get())) {
-            added.insert(object->GetObjectClass());
-            if (object->GetObjectClass() == OdDbHatch::desc())
-                hatched.push_back(object->GetHandle());
+            const OdRxClass* const cls = object->GetObjectClass();
+            added.insert(cls);
+            if (cls->name() == "AcDbOle2Frame")
+                embeddings.made.push_back(object->GetHandle());
+            else if (cls == OdDbHatch::desc())
+                hatchings.made.push_back(object->GetHandle());
+            else if (cls == OdDbRegion::desc())
+                regionMakers.made.push_back(object->GetHandle());
         } else if (const auto custom = odrxQuery<CFxCustomAction>(action.get())) {
             switch (custom->GetKind()) {
             case kPolyline:
                 polylines.emplace(datum(*custom, 3).GetHandle(), custom.get());
                 break;
             case kHatch:
-                hatchings.push_back(custom.get());
+                hatchings.actions.push_back(custom.get());
                 break;
             case kEmbed:
-                embeddings.push_back(custom.get());
+                embeddings.actions.push_back(custom.get());
                 break;
             case kViewport:
-                viewports.push_back(custom.get());
+                viewports.emplace(datum(*custom, 3).GetHandle(), custom.get());
+                break;
+            case kRegion:
+                regionMakers.actions.push_back(custom.get());
                 break;
             default:
                 break;
             }
         }
     }
-    for (std::size_t i = 0; i < hatched.size() && i < hatchings.size(); ++i)
-        hatches.emplace(hatched[i], hatchings[i]);
+    hatches = hatchings.pairs();
+    embedded = embeddings.pairs();
+    // One action may make several, and nobody tells which of what.
+    if (regionMakers.made.size() == regionMakers.actions.size())
+        regions = regionMakers.pairs();
 }
 
 } // namespace inkmacro::view

@@ -2,6 +2,7 @@
 
 #include "view/actionData.h"
 #include "view/hatchActions.h"
+#include "view/polylineEdits.h"
 
 #include <algorithm>
 
@@ -130,24 +131,17 @@ void meet(Fold& fold, const CFxCustomAction& action)
     reshapeAll(fold, action, action.GetDataCount() == 3 ? 1 : 3);
 }
 
-/// It goes, unless the drawing has it in the end.
-void useUp(Fold& fold, ObjectState& state)
-{
-    if (!state.drawn() || state.drawn()->isErased())
-        fold.vanish(state);
-}
-
 void join(Fold& fold, const CFxCustomAction& action)
 {
     reshapeAll(fold, action, 0);
     for (ObjectState* const state : objectsOf(fold, action, 2))
-        useUp(fold, *state);
+        fold.useUp(*state);
 }
 
 void explode(Fold& fold, const CFxCustomAction& action)
 {
     for (ObjectState* const state : objectsOf(fold, action, 0))
-        useUp(fold, *state);
+        fold.useUp(*state);
 }
 
 void erase(Fold& fold, const CFxCustomAction& action)
@@ -182,33 +176,42 @@ void activate(Fold& fold, const CFxCustomAction& action)
     }
 }
 
-void sayList(ObjectState& state, const char* tag, const OdArray<double>& numbers)
+void sayNumbers(ObjectState& state, const char* tag, const OdArray<double>& numbers)
 {
-    for (std::size_t i = 0; i < numbers.length(); ++i)
-        state.say(tag, static_cast<int>(i), numbers[i]);
+    state.sayNumbers(tag, {numbers.begin(), numbers.end()});
 }
 
 void sayPoints(ObjectState& state, const char* tag, const OdArray<OdGePoint3d>& points)
 {
-    std::vector<CFxVariantCollectionElement> elements;
-    for (const OdGePoint3d& point : points)
-        elements.emplace_back(CFxVariant(static_cast<std::int32_t>(elements.size())), CFxVariant(point));
-    state.say(tag, -1, CFxVariantCollection(std::move(elements)));
+    state.sayPoints(tag, {points.begin(), points.end()});
 }
 
 void sayPolyline(ObjectState& state, const CFxCustomAction& action)
 {
     sayPoints(state, "Vertex", datum(action, 0).GetPointArray());
     const OdArray<OdGePoint3d>& bulges = datum(action, 1).GetPointArray();
-    state.say("Bulge", 0, 0.0);
-    for (std::size_t i = 0; i < bulges.length(); ++i)
-        if (bulges[i].x != 0.0)
-            state.say("Bulge", static_cast<int>(i), bulges[i].x);
+    std::vector<double> segments;
+    for (const OdGePoint3d& bulge : bulges)
+        segments.push_back(bulge.x);
+    state.sayNumbers("Bulge", segments);
     state.say("Closed", -1, CFxString(datum(action, 2).GetBool() ? "Yes" : "No"));
-    sayList(state, "Start segment width", datum(action, 5).GetDoubleArray());
-    sayList(state, "End segment width", datum(action, 6).GetDoubleArray());
+    sayNumbers(state, "Start segment width", datum(action, 5).GetDoubleArray());
+    sayNumbers(state, "End segment width", datum(action, 6).GetDoubleArray());
     if (datum(action, 7).GetBool())
         state.say("Global width", -1, datum(action, 8).GetDouble());
+}
+
+void sayViewport(ObjectState& state, const CFxCustomAction& action)
+{
+    sayPoints(state, "Corner", datum(action, 0).GetPointArray());
+}
+
+void sayRegion(ObjectState& state, const CFxCustomAction& action)
+{
+    std::vector<CFxVariantCollectionElement> elements;
+    for (const OdDbHandle& handle : handlesIn(action, 0))
+        elements.emplace_back(CFxVariant(), CFxVariant(CFxString(handle.ascii())));
+    state.say("Pieces", -1, CFxVariantCollection(std::move(elements)));
 }
 
 void polyline(Fold& fold, const CFxCustomAction& action)
@@ -250,6 +253,10 @@ Performer performerOf(std::int32_t kind)
         return changeSheets;
     case kPolyline:
         return polyline;
+    case kPolylineEdit:
+        return editPolyline;
+    case kVertex:
+        return editVertex;
     case kErase:
         return erase;
     case kActivate:
@@ -278,6 +285,14 @@ void tellMade(Fold& fold, ObjectState& made)
         sayPolyline(made, *drawn->second);
     if (const auto hatched = siblings.hatches.find(made.handle()); hatched != siblings.hatches.end())
         sayHatch(made, *hatched->second);
+    if (const auto embedding = siblings.embedded.find(made.handle()); embedding != siblings.embedded.end())
+        made.say("Path", -1, datum(*embedding->second, 1).GetString());
+    if (const auto window = siblings.viewports.find(made.handle()); window != siblings.viewports.end()) {
+        sayViewport(made, *window->second);
+        made.space = fold.spaces().sheet(datum(*window->second, 5).GetString());
+    }
+    if (const auto region = siblings.regions.find(made.handle()); region != siblings.regions.end())
+        sayRegion(made, *region->second);
 }
 
 std::vector<OdDbHandle> madeBy(const CFxCustomAction& action)

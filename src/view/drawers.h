@@ -14,7 +14,21 @@ void drawPoint(const Values& values, Pen& pen);
 void drawRay(const Values& values, Pen& pen);
 void drawXLine(const Values& values, Pen& pen);
 void drawPolyline(const Values& values, Pen& pen);
-void drawSpacePolyline(const Values& values, Pen& pen);
+
+void drawSpline(const Values& values, Pen& pen);
+void drawRichLine(const Values& values, Pen& pen);
+
+void drawSolid(const Values& values, Pen& pen);
+void drawFace(const Values& values, Pen& pen);
+void drawPolygonMesh(const Values& values, Pen& pen);
+void drawPolyFaceMesh(const Values& values, Pen& pen);
+void drawRegion(const Values& values, Pen& pen);
+
+void drawBlockReference(const Values& values, Pen& pen);
+void drawImage(const Values& values, Pen& pen);
+void drawEmbedded(const Values& values, Pen& pen);
+void drawViewport(const Values& values, Pen& pen);
+void drawShape(const Values& values, Pen& pen);
 
 void drawText(const Values& values, Pen& pen);
 void drawNote(const Values& values, Pen& pen);

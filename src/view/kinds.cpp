@@ -13,18 +13,32 @@ struct Kind
 {
     const char* className;
     Drawer drawer;
+    bool isCurve = false;
 };
 
 constexpr Kind kinds[] = {
-    {"AcDbLine", drawLine},
-    {"AcDbCircle", drawCircle},
-    {"AcDbArc", drawArc},
-    {"AcDbEllipse", drawEllipse},
+    {"AcDbLine", drawLine, true},
+    {"AcDbCircle", drawCircle, true},
+    {"AcDbArc", drawArc, true},
+    {"AcDbEllipse", drawEllipse, true},
     {"AcDbPoint", drawPoint},
     {"AcDbRay", drawRay},
     {"AcDbXline", drawXLine},
-    {"AcDbPolyline", drawPolyline},
-    {"AcDb3dPolyline", drawSpacePolyline},
+    {"AcDbPolyline", drawPolyline, true},
+    {"AcDb3dPolyline", drawPolyline, true},
+    {"AcDbSpline", drawSpline, true},
+    {"AcDbMline", drawRichLine},
+    {"AcDbSolid", drawSolid},
+    {"AcDbTrace", drawSolid},
+    {"AcDbFace", drawFace},
+    {"AcDbPolygonMesh", drawPolygonMesh},
+    {"AcDbPolyFaceMesh", drawPolyFaceMesh},
+    {"AcDbRegion", drawRegion},
+    {"AcDbBlockReference", drawBlockReference},
+    {"AcDbRasterImage", drawImage},
+    {"AcDbOle2Frame", drawEmbedded},
+    {"AcDbViewport", drawViewport},
+    {"AcDbShape", drawShape},
 
     {"AcDbText", drawText},
     {"AcDbMText", drawNote},
@@ -48,18 +62,30 @@ constexpr Kind kinds[] = {
     {"AcDbTable", drawTable},
 };
 
+const Kind* kindOf(const OdRxClass& cls)
+{
+    static const auto rows = [] {
+        std::unordered_map<const OdRxClass*, const Kind*> found;
+        for (const Kind& kind : kinds)
+            found.emplace(oddbClassByName(kind.className), &kind);
+        return found;
+    }();
+    const auto found = rows.find(&cls);
+    return found == rows.end() ? nullptr : found->second;
+}
+
 } // namespace
 
 Drawer drawerOf(const OdRxClass& cls)
 {
-    static const auto drawers = [] {
-        std::unordered_map<const OdRxClass*, Drawer> found;
-        for (const Kind& kind : kinds)
-            found.emplace(oddbClassByName(kind.className), kind.drawer);
-        return found;
-    }();
-    const auto found = drawers.find(&cls);
-    return found == drawers.end() ? nullptr : found->second;
+    const Kind* const kind = kindOf(cls);
+    return kind ? kind->drawer : nullptr;
+}
+
+Drawer curveDrawerOf(const OdRxClass& cls)
+{
+    const Kind* const kind = kindOf(cls);
+    return kind && kind->isCurve ? kind->drawer : nullptr;
 }
 
 } // namespace inkmacro::view

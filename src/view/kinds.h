@@ -7,4 +7,7 @@ namespace inkmacro::view {
 /// What draws the objects of that class; null for one that is not drawn.
 Drawer drawerOf(const OdRxClass& cls);
 
+/// The same of curves alone, which need no other object.
+Drawer curveDrawerOf(const OdRxClass& cls);
+
 } // namespace inkmacro::view

@@ -7,14 +7,20 @@
 
 namespace inkmacro {
 
-QByteArray verifyScript()
+QByteArray tableTexts()
 {
     QJsonObject tables;
     for (const texts::Named& table : texts::tables)
         tables.insert(table.name, QString::fromUtf8(table.text));
-    QByteArray script = "'use strict';\nconst TEXTS = " + QJsonDocument(tables).toJson(QJsonDocument::Compact) + ";\n";
-    for (const texts::Named& part : texts::scripts)
-        script += part.text;
+    return QJsonDocument(tables).toJson(QJsonDocument::Compact);
+}
+
+QByteArray verifyScript()
+{
+    QByteArray script = "'use strict';\nconst TEXTS = " + tableTexts() + ";\n";
+    for (const auto& part : {texts::webScripts, texts::nodeScripts})
+        for (const texts::Named& text : part)
+            script += text.text;
     return script;
 }
 

@@ -23,7 +23,8 @@ function begin(macro) {
 
 function end({macro, lines, model}, stopped) {
     return {name: macro.name, result: web.compareRun(tables, model, {lines: lines, losses: macro.losses,
-        assumed: macro.assumed, map: JSON.parse(read(macro.map)), macro: read(macro.macro), written: read(macro.written), stopped: stopped})};
+        assumed: macro.assumed, map: JSON.parse(read(macro.map)), macro: read(macro.macro), written: read(macro.written),
+        stopped: stopped})};
 }
 
 function runPages() {

@@ -1,16 +1,8 @@
-// Runs the script of a macro's page in node.
+// Runs the script of a macro's page in node, behind the scripts of ../web.
 
 'use strict';
 
 const vm = require('vm');
-
-// The text of the page's own script, in the lines where it stands.
-function scriptOf(page) {
-    const begin = page.lastIndexOf('<script type="text/javascript">');
-    const from = page.indexOf('>', begin) + 1;
-    const end = page.indexOf('</script>', from);
-    return '\n'.repeat(page.slice(0, from).split('\n').length - 1) + page.slice(from, end);
-}
 
 // The line of the macro that an error comes of, null when it is none of its own.
 function lineOf(error, name) {
@@ -36,7 +28,8 @@ function runPage(page, globals) {
     const name = pageName;
     const context = vm.createContext(Object.assign({}, globals));
     try {
-        vm.runInContext(scriptOf(page), context, {filename: name});
+        const {text, before} = scriptOf(page);
+        vm.runInContext(text, context, {filename: name, lineOffset: before});
         vm.runInContext('runMacro()', context, {filename: 'call'});
         return null;
     } catch (error) {

@@ -95,7 +95,8 @@ class Comparison {
         this.places = places;
         this.madeClasses = new Set(places.interfaces.values());
         this.findings = [];
-        this.equal = 0;
+        this.equal = []; // expected objects
+        this.unlike = new Map(); // the kind of what is found of things that are not as recorded
         this.matched = new Map(); // expected objects by their things
         this.things = new Map(); // and things by the expected
         for (const call of model.calls) {
@@ -180,6 +181,11 @@ class Comparison {
             recorded: shownValue(recorded), drawn: this.shown(drawn), reason: reason});
     }
 
+    differ(thing, ...found) {
+        this.find('different', ...found);
+        this.unlike.set(thing, 'different');
+    }
+
     compareObjects() {
         for (const expected of [...this.recorded.objects, ...this.recorded.records]) {
             const thing = this.things.get(expected);
@@ -187,14 +193,13 @@ class Comparison {
             const isMade = thing && (expected.name === null || expected.isFound || thing.call
                 || expected.made === 'TextStyle');
             if (isMade) {
-                this.equal += this.compareObject(expected, thing);
+                this.compareObject(expected, thing);
             } else if (expected.name !== '' && !(expected.isFound && expected.held.size <= 1)) {
                 this.find('missing', expected, expected.action, '', null, null, 'the macro does not make it');
             }
         }
         for (const expected of this.recorded.found) {
-            const isEqual = this.compareObject(expected, this.model.foundObject(expected.handle));
-            this.equal += expected.held.size ? isEqual : 0;
+            this.compareObject(expected, this.model.foundObject(expected.handle));
         }
         const changed = new Set(this.recorded.found.map(expected => expected.handle));
         for (const [handle, thing] of this.model.found) {
@@ -231,17 +236,20 @@ class Comparison {
         const {line} = thing.call;
         this.findings.push({kind: 'surplus', class: thing.cls, handle: '', line: null, path: '',
             macroLines: line ? [line, line] : null, what: '', recorded: null, drawn: null, reason: reason});
+        this.unlike.set(thing, 'surplus');
     }
 
     compareObject(expected, thing) {
         const before = this.findings.length;
         const space = expected.space ? this.things.get(expected.space) || null : expected.space;
         if (space !== undefined && space !== thing.space) {
-            this.find('different', expected, expected.action, 'space', expected.space ? expected.space.name : 'Model',
+            this.differ(thing, expected, expected.action, 'space', expected.space ? expected.space.name : 'Model',
                 thing.space ? thing.space.name : 'Model', 'it is drawn in another space');
         }
         this.compareHeld(expected, thing);
-        return this.findings.length === before ? 1 : 0;
+        if (this.findings.length === before && (!expected.isFound || expected.name !== null || expected.held.size)) {
+            this.equal.push(expected);
+        }
     }
 
     compareHeld(expected, thing) {
@@ -262,7 +270,7 @@ class Comparison {
                 : value !== null && value !== undefined && value.handle ? this.isHanded(seen, value)
                     : fits(question, seen, value, this.places.turns.has(question + index)));
             if (!isRight) {
-                this.find('different', expected, action, tag, value, seen, 'it is drawn with another value');
+                this.differ(thing, expected, action, tag, value, seen, 'it is drawn with another value');
             }
         }
         for (const [question, values] of thing.held) {
@@ -274,7 +282,7 @@ class Comparison {
                     && (question === 'Objects()' || !(value instanceof Thing))
                     && !this.isDefault(cls, question, value) && !toldElsewhere.test(question)
                     && !(index === 1 && question.endsWith('InViewport()'))) {
-                    this.find('different', expected, expected.action.key ? expected.action : null,
+                    this.differ(thing, expected, expected.action.key ? expected.action : null,
                         question.replace(/\(\)$/, ''), null, value, 'nothing is recorded of it');
                 }
             });

@@ -4,7 +4,7 @@
 'use strict';
 
 // The library of one model: `given` gives a thing as an object of a class, `globals` is what stands in a page's global
-// scope.
+// scope. In stacks of calls its operations are named libraryCall.
 class Library {
     constructor(known, model) {
         this.known = known;
@@ -90,7 +90,7 @@ class Library {
         const outs = parameters.filter(one => one.out);
         const types = (result ? [result] : []).concat(outs.map(one => one.type));
         const names = (result ? [''] : []).concat(outs.map(one => one.name));
-        Object.defineProperty(this.classes[cls].prototype, name, {configurable: true, value: function (...given) {
+        const call = function libraryCall(...given) {
             if (given.length !== taken.length || !taken.every((type, i) => library.isOf(type, given[i]))) {
                 throw new TypeError(name + '(' + given.map(String).join(', ') + ') does not take these arguments');
             }
@@ -106,7 +106,8 @@ class Library {
                 }
             });
             return answers;
-        }});
+        };
+        Object.defineProperty(this.classes[cls].prototype, name, {configurable: true, value: call});
     }
 
     addProperty(cls, {name, type}) {

@@ -74,6 +74,7 @@ class Model {
         this.state = state;
         this.keyed = keyed;
         this.attributeTags = attributeTags;
+        this.answers = []; // at the macro's prompts, as they were recorded
         this.lineOf = null; // tells the line of the macro that calls, where whoever runs it knows that
         this.calls = []; // {name, on, given}, in their order, with their line where `lineOf` tells it
         this.made = []; // things, as they were inserted
@@ -225,7 +226,7 @@ class Model {
         }
         const question = makes ? '' : name.replace(/^(Get|get_)/, '') + '(' + shownIndexes(given) + ')';
         const known = makes ? [] : this.knownAnswers(on, name, question, given, types);
-        const results = types.map((type, i) => i < known.length ? known[i]
+        const results = types.map((type, i) => i < known.length && known[i] !== undefined ? known[i]
             : this.answer(on, name, type, given, question));
         if (on.whole.handle && !on.whole.held.has(on.place + question)) {
             on.whole.before.set(on.place + question, results);
@@ -281,6 +282,9 @@ class Model {
     // The answers that are known, the result first.
     knownAnswers(on, name, question, given, types) {
         const selected = name === 'GetSelectedObject' ? this.selected[given[1]] : null;
+        if (name.startsWith('PromptFor')) {
+            return this.answerAt(name, types);
+        }
         switch (name) {
         case 'GetSelectedObjectCount': return [this.selected.length];
         case 'GetSelectedObject':
@@ -292,6 +296,13 @@ class Model {
         const middle = on.whole.known.get(on.place + question);
         const known = on.whole.held.get(on.place + question) || middle && middle() || [];
         return known.map(one => isColor(one) ? this.color(one.color) : one);
+    }
+
+    answerAt(prompt, types) {
+        if (!this.answers.length) {
+            throw new Error(prompt + ' asks more often than was answered when it was recorded');
+        }
+        return answerParts(this.answers.shift(), types);
     }
 
     attributes(block) {

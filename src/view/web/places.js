@@ -119,7 +119,7 @@ function handedBy(field, data, several) {
     const datum = data[number === '*' ? several : Number(number)] || {};
     const isHandle = 'handle' in datum || 'handles' in datum;
     let values = listOf(Object.values(datum)[0]);
-    let ends = isHandle ? values : owners ? datumOf(data, Number(owners)) : [];
+    const ends = isHandle ? values : owners ? datumOf(data, Number(owners)) : [];
     if (isLength) {
         return values.map((_, i) => ({of: ends[i] || null, value: null}));
     }

@@ -223,8 +223,8 @@ class Recorded {
         this.setAll({class: record.class, handle: record.handle, properties: [record]}, action, false);
     }
 
-    // Of two records of one property the first counts, where there is no row for the second. A picture has a yes or no of its own under the name of the
-    // transparency, and that alone may be told.
+    // Of two records of one property the first counts, where there is no row for the second. A picture has a yes or no of
+    // its own under the name of the transparency, and that alone may be told.
     setAll(record, action, isAdded) {
         const told = this.told.of(action.key);
         const assumed = this.assumed.of(action.key);

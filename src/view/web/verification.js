@@ -41,14 +41,17 @@ function startModel(tables, lines) {
         const records = action.modified ? action.modified.properties : action.property ? [action.property] : [];
         records.filter(isAttribute).forEach(({tag}) => tags.add(tag));
     }
-    return new Model(tables.known, tables.state, tables.keyed, offeredObjects(lines), listedObjects(lines, tables.places),
-        [...tags]);
+    const model = new Model(tables.known, tables.state, tables.keyed, offeredObjects(lines),
+        listedObjects(lines, tables.places), [...tags]);
+    model.answers = recordedAnswers(lines);
+    return model;
 }
 
-// `given` has the recording's `lines`, the `losses` and what is `assumed` of its report, the `map` of the written macro,
-// the text `macro` that ran and the one that was `written`; `stopped` is the error that ended the run, {line, message}, or
-// null.
-function compareRun(tables, model, given) {
+// Holds the drawing of a run against the recording: the `comparison`, and the `result` as people and programs are told
+// it. `given` has the recording's `lines`, the `losses` and what is `assumed` of its report, the `map` of the written
+// macro, the text `macro` that ran and the one that was `written`; `stopped` is the error that ended the run,
+// {line, message}, or null.
+function compareDrawings(tables, model, given) {
     const origins = new Origins(given.map);
     const recorded = new Recorded(given.lines, tables.places, tables.calls, new Told(given.losses),
         new Told(given.assumed), origins);
@@ -64,12 +67,18 @@ function compareRun(tables, model, given) {
     const place = one => one.line || Infinity;
     const findings = told.concat(compared.findings).sort((a, b) =>
         place(a) < place(b) ? -1 : Number(place(a) > place(b)));
-    const counts = {equal: compared.equal, different: 0, missingAsTold: 0, missing: 0, surplus: 0, notChecked: 0};
+    const counts = {equal: compared.equal.length, different: 0, missingAsTold: 0, missing: 0, surplus: 0,
+        notChecked: 0};
     findings.forEach(one => { counts[one.kind] += 1; });
     const isEqual = counts.different + counts.missing + counts.surplus === 0;
-    return {verdict: given.stopped ? 'stopped' : isEqual ? 'equal' : 'different', counts: counts,
+    const result = {verdict: given.stopped ? 'stopped' : isEqual ? 'equal' : 'different', counts: counts,
         stopped: given.stopped ? {macroLine: given.stopped.line, message: given.stopped.message} : null,
         findings: findings};
+    return {comparison: compared, result: result};
+}
+
+function compareRun(tables, model, given) {
+    return compareDrawings(tables, model, given).result;
 }
 
 function countText(count, one, several) {

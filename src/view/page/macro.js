@@ -1,0 +1,517 @@
+// The pane of the macros: a tab for each target, its text as repaired, as recorded, or both, linked with the steps.
+
+'use strict';
+
+const formNames = {repaired: 'Repaired', recorded: 'As recorded', differences: 'Differences', edited: 'Edited'};
+const codeLineHeight = 19; // pixels
+const widthOfGutters = 90;
+
+// Lines that are told apart by sorted ranges that do not overlap; lines from 1.
+class LineRanges {
+    constructor(ranges) {
+        const sorted = ranges.slice().sort((one, other) => one.first - other.first);
+        this.firsts = sorted.map(range => range.first);
+        this.lasts = sorted.map(range => range.last);
+    }
+
+    has(line) {
+        const at = lastNotAbove(this.firsts, line);
+        return at >= 0 && this.lasts[at] >= line;
+    }
+
+    get first() {
+        return this.firsts.length ? this.firsts[0] : 0;
+    }
+}
+
+// Of a step and of what it holds.
+function rangesOfStep(data, map, step) {
+    if (!map || step < 0) {
+        return [];
+    }
+    const ranges = map.rangesOf(step);
+    const {count, parent, line} = data.steps;
+    if (parent[step] < 0 || data.kindOf(step) === 'command') {
+        for (let held = step + 1; held < count && line[held] === line[step]; ++held) {
+            let above = parent[held];
+            while (above > step) {
+                above = parent[above];
+            }
+            if (above === step) {
+                ranges.push(...map.rangesOf(held));
+            }
+        }
+    }
+    return ranges;
+}
+
+function linesInWords(ranges) {
+    const joined = [];
+    for (const {first, last} of ranges.slice().sort((one, other) => one.first - other.first)) {
+        const before = joined[joined.length - 1];
+        if (before && before.last + 1 >= first) {
+            before.last = Math.max(before.last, last);
+        } else {
+            joined.push({first: first, last: last});
+        }
+    }
+    const words = joined.slice(0, 4).map(({first, last}) => first === last ? String(first)
+        : first + (last === first + 1 ? ', ' : ' to ') + last);
+    const isOne = joined.length === 1 && joined[0].first === joined[0].last;
+    return (isOne ? 'line ' : 'lines ') + words.join(', ') + (joined.length > 4 ? ' and more' : '');
+}
+
+// All that the pane shows of one form of one target.
+async function openMacroView(data, target, form) {
+    const isDifferent = form === 'differences';
+    const shown = isDifferent ? 'repaired' : form;
+    const [lines, map, hunks] = await Promise.all([data.macro(target, shown), data.map(target, shown),
+        form === 'recorded' ? [] : data.hunks(target)]);
+    const view = {target: target, form: form, lines: lines, map: map, hunks: form === 'edited' ? [] : hunks,
+        faults: new Map(), painter: new Painter(target), unfolded: new Set()};
+    const faulty = isDifferent ? 'recorded' : form;
+    for (const fault of data.faults(target, faulty)) {
+        for (const line of fault.lines) {
+            if (form !== 'repaired' || !fault.mended) {
+                view.faults.set(line, [...view.faults.get(line) || [], fault]);
+            }
+        }
+    }
+    view.changed = new LineRanges(view.hunks.filter(hunk => hunk.repaired[1]).map(hunk =>
+        ({first: hunk.repaired[0], last: hunk.repaired[0] + hunk.repaired[1] - 1})));
+    if (isDifferent) {
+        [view.recorded, view.recordedMap] = await Promise.all([data.macro(target, 'recorded'),
+            data.map(target, 'recorded')]);
+        view.rows = new DifferenceRows(hunks, view.recorded.count, lines.count);
+    }
+    return view;
+}
+
+function longestLine(lines) {
+    let longest = 0;
+    for (let line = 0; line < lines.count; ++line) {
+        longest = Math.max(longest, lines.starts[line + 1] - lines.starts[line]);
+    }
+    return longest;
+}
+
+async function copyText(text) {
+    try {
+        await navigator.clipboard.writeText(text);
+    } catch (error) {
+        // Some browsers have no clipboard for a page from the disk.
+        const field = element('textarea', {class: 'heard'});
+        field.value = text;
+        document.body.append(field);
+        field.select();
+        const isCopied = document.execCommand('copy');
+        field.remove();
+        if (!isCopied) {
+            throw error;
+        }
+    }
+}
+
+function saveBytes(bytes, name) {
+    const address = URL.createObjectURL(new Blob([bytes], {type: 'application/octet-stream'}));
+    const link = element('a', {href: address, download: name});
+    document.body.append(link);
+    link.click();
+    link.remove();
+    setTimeout(() => URL.revokeObjectURL(address), 10000);
+}
+
+class MacroPane {
+    constructor(data, pane) {
+        this.data = data;
+        this.view = null;
+        this.opening = 0;
+        this.chosen = new LineRanges([]);
+        this.chosenRecorded = new LineRanges([]);
+        this.build(pane);
+        state.on(['target', 'form'], () => this.open());
+        state.on(['chosen'], (values, source) => this.choose(values.chosen, source));
+        state.on(['hover'], values => this.hover(values.hover));
+    }
+
+    build(pane) {
+        const {data} = this;
+        this.tabRow = element('div', {class: 'targetTabs', 'aria-label': 'Targets'});
+        this.tabs = data.index.targets.map(target => ({name: target.name, made: this.makeTab(target)}));
+        this.tabRow.append(...this.tabs.map(tab => tab.made));
+        bindTabs(this.tabRow, this.tabs, name => state.set({target: name}, 'macro'));
+        this.forms = element('div', {class: 'segments', role: 'group', 'aria-label': 'Form'});
+        this.copyButton = button('Copy', {title: 'Copy the text of the macro'}, () => this.copy());
+        this.saveButton = button('Save', {title: 'Save the macro as a file'}, () => this.save());
+        this.failure = element('div', {class: 'failure', hidden: true});
+        this.foot = element('p', {class: 'macroFoot'});
+        const scroller = element('div', {id: 'macroList', class: 'code'});
+        this.overview = element('div', {class: 'overview', 'aria-hidden': 'true'});
+        pane.append(this.tabRow, element('div', {class: 'macroBar'}, this.forms, this.copyButton, this.saveButton),
+            this.failure, element('div', {class: 'codeBox'}, scroller, this.overview),
+            element('div', {class: 'macroEnd'}, this.foot, this.makeHints()));
+        this.list = new WindowedList(scroller, {label: 'Lines of the macro', rowHeight: () => codeLineHeight,
+            makeRow: row => this.makeRow(row), move: (row, isEnter) => this.move(row, isEnter)});
+        scroller.addEventListener('mousemove', event => this.point(event));
+        scroller.addEventListener('mouseleave', () => state.set({hover: nothingChosen}, 'macro'));
+        this.open();
+    }
+
+    makeHints() {
+        this.hints = element('p', {class: 'hints', 'aria-hidden': 'true'}, element('kbd', {}, 'n'), ' ',
+            element('kbd', {}, 'p'), ' ', element('span', {}), ' ', element('kbd', {}, '?'), ' keys');
+        return this.hints;
+    }
+
+    makeTab(target) {
+        const form = target.forms.recorded || target.forms.repaired || {status: 0, faults: []};
+        const faults = countFaults(form.faults);
+        const [kind, text, words] = form.status !== 0 ? ['fault', 'failed', 'conversion failed']
+            : faults ? ['fault', String(faults), countOf(faults, 'fault')] : ['good', '✓', 'no faults'];
+        return element('button', {type: 'button', class: 'tab', 'aria-controls': 'macroList'}, target.title + ' ',
+            element('span', {class: 'badge ' + kind, title: words, 'aria-label': words}, text));
+    }
+
+    // Makes the view that the state asks for; what was asked for before that and comes later is not shown.
+    async open() {
+        const {target, form} = state.get();
+        const opening = ++this.opening;
+        selectTab(this.tabs, target);
+        const made = this.tabs.find(tab => tab.name === target);
+        if (made) {
+            made.made.scrollIntoView({block: 'nearest', inline: 'nearest'});
+        }
+        this.showForms(target, form);
+        const one = this.data.formOf(target, form);
+        this.showFailure(one);
+        if (!one || one.status !== 0) {
+            this.view = null;
+            this.list.setCount(0);
+            this.list.space.style.minWidth = '';
+            this.showFoot();
+            return;
+        }
+        const view = await openMacroView(this.data, target, form);
+        if (opening !== this.opening) {
+            return;
+        }
+        this.show(view);
+    }
+
+    show(view) {
+        this.view = view;
+        const letters = Math.max(longestLine(view.lines), view.recorded ? longestLine(view.recorded) : 0);
+        this.list.space.style.minWidth = 'calc(' + Math.min(letters, 1000000) + 'ch + ' + widthOfGutters + 'px)';
+        this.list.scroller.setAttribute('aria-label', this.data.target(view.target).title + ', '
+            + countOf(view.lines.count, 'line'));
+        this.list.scroller.classList.toggle('isDifferent', view.form === 'differences');
+        this.readChoice(state.get().chosen);
+        this.countRows();
+        this.showMarks();
+        this.showFoot();
+        const line = this.chosen.first;
+        if (line) {
+            this.list.setActive(this.rowOfLine(line));
+            this.list.show(this.rowOfLine(line), true);
+        } else {
+            this.list.scrollTo(this.list.heights.top(Math.max(0, this.firstRow() - linesAround)));
+        }
+    }
+
+    countRows() {
+        const {rows, lines} = this.view;
+        this.list.setCount(rows ? rows.count : lines.count,
+            this.rowsWithFaults().map(row => [row, codeLineHeight * (1 + this.faultsAt(row).length)]));
+    }
+
+    // The first one that a step has to do with: much of a macro's head is the same in every macro.
+    firstRow() {
+        const {view} = this;
+        if (view.rows) {
+            return 0;
+        }
+        for (let i = 0; view.map && i < view.map.count; ++i) {
+            if (view.map.columns.step[i] >= 0) {
+                return view.map.firsts[i] - 1;
+            }
+        }
+        return 0;
+    }
+
+    showForms(target, form) {
+        const {forms} = this.data.target(target) || {forms: {}};
+        const hadFocus = this.forms.contains(document.activeElement);
+        empty(this.forms);
+        for (const name of Object.keys(formNames)) {
+            const isThere = name === 'differences' ? Boolean(forms.recorded && forms.repaired) : Boolean(forms[name]);
+            if (name === 'edited' && !isThere) {
+                continue;
+            }
+            const made = button(formNames[name], {'aria-pressed': String(name === form), disabled: !isThere},
+                () => state.set({form: name}, 'macro'));
+            this.forms.append(made);
+            if (hadFocus && name === form) {
+                made.focus();
+            }
+        }
+    }
+
+    showFailure(form) {
+        const isFailed = !form || form.status !== 0;
+        this.failure.hidden = !isFailed;
+        this.copyButton.disabled = this.saveButton.disabled = isFailed;
+        empty(this.failure);
+        if (isFailed) {
+            this.failure.append(element('p', {}, element('b', {}, form ? 'The conversion failed with status '
+                + form.status + '.' : 'The page does not have this form.')));
+            if (form) {
+                this.failure.append(textElement('p', {}, form.error || ''));
+            }
+        }
+    }
+
+    // Kind of a row, its lines, and the text that it shows.
+    rowAt(row) {
+        const {rows} = this.view;
+        return rows ? rows.row(row) : {kind: differenceKinds.equal, recorded: 0, repaired: row + 1, count: 1};
+    }
+
+    faultsAt(row) {
+        const {view} = this;
+        const {kind, recorded, repaired} = this.rowAt(row);
+        if (!view.rows) {
+            return view.faults.get(repaired) || [];
+        }
+        return kind === differenceKinds.removed || kind === differenceKinds.equal ? view.faults.get(recorded) || [] : [];
+    }
+
+    // Without a look at each of hundreds of thousands of rows.
+    rowsWithFaults() {
+        const {view} = this;
+        if (!view.rows) {
+            return [...view.faults.keys()].map(line => line - 1).filter(row => row < view.lines.count);
+        }
+        return Array.from({length: view.faults.size ? view.rows.count : 0}, (_, row) => row)
+            .filter(row => this.faultsAt(row).length);
+    }
+
+    rowOfLine(line) {
+        return this.view.rows ? this.view.rows.rowOfRepaired(line) : line - 1;
+    }
+
+    makeRow(row) {
+        const {view} = this;
+        const {kind, recorded, repaired, count} = this.rowAt(row);
+        if (kind === differenceKinds.folded) {
+            return element('div', {class: 'codeRow isFolded', title: 'Click to show them'},
+                '··· ' + countOf(count, 'equal line'));
+        }
+        const made = element('div', {class: 'codeRow'});
+        const line = element('div', {class: 'codeLine'});
+        const isRemoved = kind === differenceKinds.removed;
+        const isAdded = kind === differenceKinds.added;
+        if (view.rows) {
+            line.append(element('span', {class: 'number'}, isAdded ? '' : String(recorded)));
+        }
+        line.append(element('span', {class: 'number'}, isRemoved ? '' : String(repaired)));
+        line.append(this.makeSign(isRemoved, isAdded, repaired));
+        line.append(paintInto(element('code', {}), this.pieces(isRemoved, isAdded, recorded, repaired)));
+        made.append(line);
+        made.classList.toggle('isRemoved', isRemoved);
+        made.classList.toggle('isAdded', isAdded);
+        made.classList.toggle('isChosen', isRemoved ? this.chosenRecorded.has(recorded) : this.chosen.has(repaired));
+        for (const fault of this.faultsAt(row)) {
+            made.classList.add('isFaulty');
+            made.append(findingElement({kind: 'faults', word: 'fault', text: fault.reason}));
+        }
+        return made;
+    }
+
+    makeSign(isRemoved, isAdded, repaired) {
+        const isChanged = !this.view.rows && this.view.changed.has(repaired);
+        const [text, title] = isRemoved ? ['−', 'as recorded'] : isAdded ? ['+', 'repaired']
+            : isChanged ? ['●', 'changed by the repair'] : ['', null];
+        return element('span', {class: isChanged ? 'sign isDot' : 'sign', title: title}, text);
+    }
+
+    // Of a line and, where it is paired, what its partner does not have marked.
+    pieces(isRemoved, isAdded, recorded, repaired) {
+        const {view} = this;
+        const text = (isRemoved ? view.recorded.line(recorded - 1) : view.lines.line(repaired - 1));
+        const pieces = view.painter.pieces(text);
+        if (!(isRemoved || isAdded) || !recorded || !repaired) {
+            return pieces;
+        }
+        const other = isRemoved ? view.lines.line(repaired - 1) : view.recorded.line(recorded - 1);
+        return withMarks(pieces, changedParts(text, other)[0]);
+    }
+
+    stepOfRow(row) {
+        const {view} = this;
+        const {kind, recorded, repaired} = this.rowAt(row);
+        const range = kind === differenceKinds.removed ? view.recordedMap && view.recordedMap.rangeAt(recorded)
+            : view.map && view.map.rangeAt(repaired);
+        return range ? range.step : -1;
+    }
+
+    readChoice(chosen) {
+        const {view, data} = this;
+        this.ranges = view ? rangesOfStep(data, view.map, chosen.step) : [];
+        this.chosen = new LineRanges(this.ranges);
+        this.chosenRecorded = new LineRanges(view && view.recordedMap
+            ? rangesOfStep(data, view.recordedMap, chosen.step) : []);
+    }
+
+    choose(chosen, source) {
+        if (!this.view) {
+            return;
+        }
+        this.readChoice(chosen);
+        const {first} = this.chosen;
+        const row = first ? this.rowOfLine(first) : -1;
+        this.list.clear();
+        if (source !== 'macro') {
+            this.list.setActive(row);
+        }
+        if (row >= 0 && source !== 'macro') {
+            this.list.show(row);
+        } else {
+            this.list.draw();
+        }
+        this.showFoot();
+    }
+
+    move(row, isEnter) {
+        if (!this.view) {
+            return;
+        }
+        const {kind, recorded} = this.rowAt(row);
+        if (kind === differenceKinds.folded) {
+            this.unfold(row, recorded);
+            return;
+        }
+        this.list.setActive(row);
+        const step = this.stepOfRow(row);
+        if (isEnter) {
+            centerOthers('macro');
+        }
+        state.set({chosen: step < 0 ? nothingChosen : {step: step, object: this.data.objectOfStep(step)}}, 'macro');
+    }
+
+    unfold(row, recorded) {
+        const {view, list} = this;
+        const {offset} = list;
+        view.unfolded.add(recorded);
+        view.rows = new DifferenceRows(view.hunks, view.recorded.count, view.lines.count, view.unfolded);
+        this.countRows();
+        list.setActive(row);
+        list.scrollTo(offset);
+        this.showMarks();
+    }
+
+    goToLine(line) {
+        if (!this.view) {
+            return;
+        }
+        const row = this.rowOfLine(line);
+        this.move(row, false);
+        this.list.setActive(this.rowOfLine(line));
+        this.list.show(this.rowOfLine(line));
+    }
+
+    // Row of the next or previous place to look at: a hunk, a changed line or a fault.
+    places() {
+        const {view} = this;
+        if (!view) {
+            return [];
+        }
+        const rows = view.rows ? view.rows.hunkRows
+            : view.hunks.map(hunk => Math.min(hunk.repaired[0], view.lines.count) - 1);
+        return [...new Set([...rows, ...this.rowsWithFaults()])].sort((one, other) => one - other);
+    }
+
+    goToPlace(direction) {
+        const places = this.places();
+        if (!places.length) {
+            return false;
+        }
+        const from = this.list.active >= 0 ? this.list.active : this.list.heights.at(this.list.offset) - 1;
+        const next = direction > 0 ? places.find(row => row > from) : places.filter(row => row < from).pop();
+        const row = next === undefined ? places[direction > 0 ? 0 : places.length - 1] : next;
+        this.move(row, false);
+        this.list.show(row);
+        return true;
+    }
+
+    showMarks() {
+        empty(this.overview);
+        const total = this.list.heights.total;
+        const places = this.places();
+        const every = Math.ceil(places.length / 300);
+        places.filter((_, i) => i % every === 0).forEach(row => {
+            const mark = element('span', {class: this.faultsAt(row).length ? 'faults' : 'changed'});
+            mark.style.top = 100 * this.list.heights.top(row) / total + '%';
+            this.overview.append(mark);
+        });
+    }
+
+    showFoot() {
+        const {chosen, form} = state.get();
+        const {data} = this;
+        this.hints.querySelector('span').textContent = form === 'differences' ? 'next, previous difference'
+            : 'next, previous finding';
+        empty(this.foot);
+        if (!this.view) {
+            return;
+        }
+        if (chosen.step < 0) {
+            this.foot.append(countOf(this.view.lines.count, 'line'));
+            return;
+        }
+        const handle = data.handleText(chosen.step);
+        this.foot.append(textElement('b', {}, stepWords(data, chosen.step)), handle ? ' ' + handle : '',
+            this.ranges.length ? ' ← ' + linesInWords(this.ranges) : ' ← no line');
+    }
+
+    point(event) {
+        const made = event.target.closest('[data-row]');
+        const step = made && this.view ? this.stepOfRow(Number(made.dataset.row)) : -1;
+        state.set({hover: step < 0 ? nothingChosen : {step: step, object: this.data.objectOfStep(step)}}, 'macro');
+    }
+
+    hover(hover) {
+        if (!this.view) {
+            return;
+        }
+        const ranges = new LineRanges(rangesOfStep(this.data, this.view.map, hover.step));
+        for (const [row, made] of this.list.rows) {
+            const {kind, repaired} = this.rowAt(row);
+            made.classList.toggle('isHovered', kind < differenceKinds.folded && kind !== differenceKinds.removed
+                && ranges.has(repaired));
+        }
+    }
+
+    async copy() {
+        try {
+            await copyText(this.view.lines.text());
+            tell('The macro is copied.');
+            this.copyButton.textContent = 'Copied';
+        } catch (error) {
+            this.copyButton.textContent = 'Not copied';
+        }
+        setTimeout(() => {
+            this.copyButton.textContent = 'Copy';
+        }, 1500);
+    }
+
+    save() {
+        const {target, form, lines} = this.view;
+        saveBytes(lines.bytes, this.data.formOf(target, form).file || this.data.target(target).file);
+    }
+
+    center() {
+        if (this.view && this.chosen.first) {
+            this.list.show(this.rowOfLine(this.chosen.first), true);
+        }
+    }
+}
