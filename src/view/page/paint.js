@@ -86,6 +86,8 @@ class ScenePainter {
         }
         const window = {left: -8, bottom: -8, right: look.width + 8, top: look.height + 8};
         context.lineJoin = 'round';
+        context.font = lettersSize + 'px system-ui, sans-serif';
+        this.capitals = context.measureText('H').actualBoundingBoxAscent || lettersSize * 0.72;
         this.isDense = false;
         yield* this.space(context, look.space, Mapping.ofView(view), window, -1, 0);
         context.setTransform(1, 0, 0, 1, 0, 0);
@@ -293,7 +295,7 @@ class ScenePainter {
     family(context, family, region) {
         const {density} = this.look;
         if (!(family.gap >= leastGap * density)) {
-            context.globalAlpha = Math.min(0.5, Math.max(0.12, 0.5 * density / family.gap));
+            context.globalAlpha = Math.min(0.3, Math.max(0.12, 0.5 * density / family.gap));
             context.fillRect(region.left, region.bottom, region.right - region.left, region.top - region.bottom);
             context.globalAlpha = 1;
             return;
@@ -342,21 +344,11 @@ class ScenePainter {
             context.globalAlpha = 1;
             return;
         }
-        const unit = place.height / this.capitals(context);
+        const unit = place.height / this.capitals;
         const wide = numbers[at + 4] ? numbers[at + 4] / context.measureText(text).width : unit;
         context.setTransform(along[0] * wide, along[1] * wide, -up[0] * unit, -up[1] * unit, x, y);
         context.textAlign = ['left', 'center', 'right'][place.column];
         context.fillText(text, 0, -place.baseline / unit);
-    }
-
-    // Sets the font, and tells the height of its capitals.
-    capitals(context) {
-        if (context !== this.lettered) {
-            context.font = lettersSize + 'px system-ui, sans-serif';
-            this.lettered = context;
-            this.capitalHeight = context.measureText('H').actualBoundingBoxAscent || lettersSize * 0.72;
-        }
-        return this.capitalHeight;
     }
 
     *references(context, references, mapping, window, parent, depth) {

@@ -70,6 +70,10 @@ class Picture {
         this.modes = ['recorded', 'compared'].map(mode => button(mode === 'recorded' ? 'Recorded' : 'Compared',
             {'data-mode': mode}, () => state.set({mode: mode}, 'picture')));
         modes.append(...this.modes);
+        modes.hidden = !['recorded', 'repaired', 'edited'].some(form => {
+            const one = this.data.formOf('javascript', form);
+            return one && one.status === 0;
+        });
         return element('div', {class: 'paneHead'}, element('h2', {}, 'Drawing'), this.spaces, this.notDrawn(),
             element('span', {class: 'filler'}), modes);
     }
@@ -146,6 +150,7 @@ class Picture {
             matchMedia(query).addEventListener('change', () => this.readColors());
         }
         new ResizeObserver(() => this.resize()).observe(this.stage);
+        window.addEventListener('resize', () => this.resize());
         document.addEventListener('keydown', event => this.key(event));
         paneActs.picture = {focus: () => this.stage.focus(), center: () => this.center()};
         document.addEventListener('click', event => {
@@ -544,7 +549,23 @@ class Picture {
         this.showBar(view);
     }
 
-    // Returns the box of what it has drawn.
+    // Those of an object that are there now in the space that is shown, or where none is those that were last, or come
+    // first.
+    seenOf(object) {
+        const {geometry} = this.scene;
+        const {step} = state.get();
+        const all = this.scene.primitivesOf(object).filter(p => geometry.space[p] === this.space);
+        const there = all.filter(p => this.scene.isThere(p, step));
+        if (there.length || !all.length) {
+            return {primitives: there, isThere: true};
+        }
+        const before = all.filter(p => geometry.from[p] < step);
+        const froms = Array.from(before.length ? before : all, p => geometry.from[p]);
+        const from = before.length ? Math.max(...froms) : Math.min(...froms);
+        return {primitives: all.filter(p => geometry.from[p] === from), isThere: false};
+    }
+
+    // Returns the box of what it has drawn. What is not there now is dashed.
     halo(context, view, objects, width, alpha, isChosen) {
         const {density, palette, scene} = this;
         const mapping = Mapping.ofView(view);
@@ -554,10 +575,12 @@ class Picture {
         const path = new Path2D();
         const frames = new Path2D();
         let count = 0;
-        const {step} = state.get();
+        let isDashed = false;
         for (const object of objects) {
-            for (const p of scene.primitivesOf(object)) {
-                if (scene.geometry.space[p] === this.space && scene.isThere(p, step) && count++ < mostHaloed) {
+            const {primitives, isThere} = this.seenOf(object);
+            isDashed = isDashed || !isThere;
+            for (const p of primitives) {
+                if (count++ < mostHaloed) {
                     box.addStored(scene.boxes, p);
                     this.painter.trace(path, frames, p, mapping, window, 4 * density);
                 }
@@ -567,11 +590,15 @@ class Picture {
         context.strokeStyle = context.fillStyle = palette.accent;
         context.globalAlpha = alpha;
         context.lineWidth = width * density;
-        context.stroke(path);
+        context.setLineDash([]);
+        if (!isDashed) {
+            context.stroke(path);
+        }
         context.fill(frames);
         context.globalAlpha = 1;
-        if (isChosen) {
+        if (isChosen || isDashed) {
             context.lineWidth = 2 * density;
+            context.setLineDash(isDashed ? [5 * density, 5 * density] : []);
             context.stroke(path);
         }
         if (!box.isEmpty) {
