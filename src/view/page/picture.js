@@ -401,6 +401,7 @@ class Picture {
         }
         Object.assign(this, shown);
         this.version++;
+        this.keptPicture.restart();
         empty(into).append(canvas);
     }
 
