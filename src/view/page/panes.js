@@ -79,9 +79,8 @@ class Gap {
             panes.style.gridTemplateRows = 'minmax(120px, ' + (before + by) + 'fr) var(--gap) minmax(120px, '
                 + (after - by) + 'fr)';
         } else {
-            for (const [property, id] of [['--picture', 'picture'], ['--steps', 'stepsPane'], ['--macro', 'macroPane']]) {
-                panes.style.setProperty(property, byId(id).getBoundingClientRect().width + 'fr');
-            }
+            const widths = Object.values(paneIds).map(id => byId(id).getBoundingClientRect().width);
+            Object.keys(paneIds).forEach((name, i) => panes.style.setProperty('--' + name, widths[i] + 'fr'));
             panes.style.setProperty(this.properties[0], before + by + 'fr');
             panes.style.setProperty(this.properties[1], after - by + 'fr');
         }
