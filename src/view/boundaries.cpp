@@ -13,10 +13,16 @@
 namespace inkmacro::view {
 namespace {
 
-/// Whose outline can be a boundary.
-constexpr const char* kCurves[] = {"AcDbLine",     "AcDbCircle",     "AcDbArc",        "AcDbEllipse",
-                                   "AcDbPolyline", "AcDb2dPolyline", "AcDbSpline",     "AcDbRegion",
-                                   "AcDbSolid",    "AcDbTrace",      "AcDb3dPolyline", "AcDbFace"};
+/// Of what is no curve and has an outline all the same.
+constexpr const char* kOutlined[] = {"AcDbRegion", "AcDbSolid", "AcDbTrace", "AcDbFace"};
+
+Drawer outlineDrawerOf(const QString& className)
+{
+    const OdRxClass& cls = *oddbClassByName(className);
+    const auto isName = [&className](const char* one) { return className == QLatin1String(one); };
+    const bool isOutlined = std::any_of(std::begin(kOutlined), std::end(kOutlined), isName);
+    return isOutlined ? drawerOf(cls) : curveDrawerOf(cls);
+}
 
 struct Segment
 {
@@ -132,11 +138,8 @@ void takeSteps(std::span<const double> numbers, std::vector<Chain>& chains)
 /// What is drawn of an object, as chains.
 void takeObject(const Values& object, std::vector<Chain>& chains)
 {
-    const QString& name = object.className();
-    const OdRxClass* const cls = oddbClassByName(name);
-    const Drawer drawer = cls ? drawerOf(*cls) : nullptr;
-    const auto isName = [&name](const char* one) { return name == QLatin1String(one); };
-    if (!drawer || std::none_of(std::begin(kCurves), std::end(kCurves), isName))
+    const Drawer drawer = outlineDrawerOf(object.className());
+    if (!drawer)
         return;
     Picture drawing;
     drawing.objects.emplace_back();

@@ -7,7 +7,7 @@ namespace inkmacro::view {
 namespace {
 
 /// The data of a hatch, by their numbers.
-enum Datum
+enum HatchDatum
 {
     kPatternName,
     kPatternScale,

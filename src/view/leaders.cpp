@@ -185,7 +185,7 @@ const Values* leaderOf(const Values& annotation)
         return nullptr;
     for (const OdDbObjectId& reactor : drawn->getPersistentReactors()) {
         const Values* const other = reactor.isNull() ? nullptr : annotation.other(reactor.getHandle());
-        if (other && other->className() == "AcDbLeader" && endPlaceOf(*other))
+        if (other && other->className() == "AcDbLeader")
             return other;
     }
     return nullptr;

@@ -104,7 +104,7 @@ double sum(const std::vector<double>& sizes)
 bool hasTitle(const Values& values)
 {
     const auto* const drawn = values.drawnAs<OdDbTable>();
-    return drawn && drawn->numRows() + 0U > 0 && drawn->cellStyle(0, -1).contains("title", Qt::CaseInsensitive);
+    return drawn && drawn->cellStyle(0, -1).contains("title", Qt::CaseInsensitive);
 }
 
 void drawLines(Pen& pen, const Grid& grid, bool titled)
