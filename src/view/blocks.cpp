@@ -117,15 +117,14 @@ void drawImage(const Values& values, Pen& pen)
 void drawEmbedded(const Values& values, Pen& pen)
 {
     const std::optional<OdGePoint3d> at = values.point("Position");
+    if (!at)
+        return;
     const FrameSize size{values.number("Width").value_or(kUnknownSize.width),
                          values.number("Height").value_or(kUnknownSize.height)};
     pen.remark("the object is not loaded");
-    if (!at)
-        pen.remark("its place is not recorded");
     // Its position is the upper left corner.
-    const Point corner = fromAbove(at.value_or(OdGePoint3d()));
-    drawFrame(pen, Affine::moved(corner.x, corner.y - size.height), size,
-              fileNameOf(values.text("Path").value_or(QString())), true);
+    drawFrame(pen, Affine::moved(at->x, at->y - size.height), size, fileNameOf(values.text("Path").value_or(QString())),
+              true);
 }
 
 void drawViewport(const Values& values, Pen& pen)
