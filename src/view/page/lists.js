@@ -81,7 +81,7 @@ const rowsBeyond = 4; // made above and below of what is in sight
 
 // How a list is asked: `options` are rowHeight (of rows that do not say otherwise), makeRow(row) -> element,
 // isMeasured(row) (its height is what its element has), headOf(row) -> the row that stays at the top while it is in
-// sight, or -1, and move(row, isEnter), called when a key or a click goes to a row.
+// sight, or -1, and move(row, isEnter, isClick), called when a key or a click goes to a row.
 class WindowedList {
     constructor(scroller, options) {
         this.scroller = scroller;
@@ -289,10 +289,16 @@ class WindowedList {
         this.tellActive();
     }
 
+    // Of the row that stays above this one.
+    headHeight(row) {
+        const head = this.options.headOf ? this.options.headOf(row) : -1;
+        return head >= 0 && head !== row ? this.options.rowHeight() : 0;
+    }
+
     isInSight(row) {
         const top = this.heights.top(row);
         const {offset} = this;
-        const head = this.options.headOf && this.options.headOf(row) !== row ? this.options.rowHeight() : 0;
+        const head = this.headHeight(row);
         return top >= offset + head - 1
             && top + Math.min(this.heights.heights[row], this.view - head) <= offset + this.view + 1;
     }
@@ -309,8 +315,9 @@ class WindowedList {
             return;
         }
         if (isCentered || !this.isInSight(row)) {
-            const height = Math.min(this.heights.heights[row], this.view);
-            this.scrollTo(this.heights.top(row) - (this.view - height) / 2);
+            const head = this.headHeight(row);
+            const room = this.view - head - this.heights.heights[row];
+            this.scrollTo(this.heights.top(row) - head - Math.max(0, room / 2));
         } else {
             this.draw();
         }
@@ -318,7 +325,7 @@ class WindowedList {
 
     // The least that brings it into sight, for going from row to row.
     reveal(row) {
-        const head = this.options.headOf ? this.options.rowHeight() : 0;
+        const head = this.headHeight(row);
         const top = this.heights.top(row);
         const bottom = top + this.heights.heights[row];
         const {offset} = this;
@@ -335,7 +342,7 @@ class WindowedList {
         const made = event.target.closest('[data-row]');
         const picked = String(window.getSelection && window.getSelection());
         if (made && this.space.contains(made) && !event.target.closest('button, a, input') && !picked) {
-            this.options.move(Number(made.dataset.row), false);
+            this.options.move(Number(made.dataset.row), false, true);
         }
     }
 
