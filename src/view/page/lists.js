@@ -89,12 +89,18 @@ class WindowedList {
         this.rows = new Map();
         this.active = -1;
         this.isWaiting = false;
+        // What the scroller would tell, which makes it lay out the page each time that it is asked behind a change.
+        this.top = 0;
+        this.knownView = 0;
         this.space = element('div', {class: 'listSpace', role: 'presentation'});
         this.stuck = element('div', {class: 'listHead', role: 'presentation', 'aria-hidden': 'true'});
         putAttributes(scroller, {role: 'listbox', tabindex: 0, 'aria-label': options.label});
         scroller.classList.add('list');
         scroller.append(this.space);
-        scroller.addEventListener('scroll', () => this.drawSoon());
+        scroller.addEventListener('scroll', () => {
+            this.top = scroller.scrollTop;
+            this.drawSoon();
+        });
         scroller.addEventListener('keydown', event => this.key(event));
         this.space.addEventListener('click', event => this.click(event));
         new ResizeObserver(() => this.resized()).observe(scroller);
@@ -129,11 +135,16 @@ class WindowedList {
     }
 
     resized() {
+        const wasHidden = !this.knownView;
+        this.knownView = this.scroller.clientHeight;
         if (this.scroller.clientWidth !== this.width) {
             this.width = this.scroller.clientWidth;
             this.clear(); // texts are broken otherwise
         }
         this.draw();
+        if (wasHidden && this.active >= 0) {
+            this.show(this.active);
+        }
     }
 
     drawSoon() {
@@ -147,7 +158,8 @@ class WindowedList {
     }
 
     get view() {
-        return this.scroller.clientHeight;
+        this.knownView = this.knownView || this.scroller.clientHeight;
+        return this.knownView;
     }
 
     get scale() {
@@ -155,7 +167,21 @@ class WindowedList {
     }
 
     get offset() {
-        return this.scale.offset(this.scroller.scrollTop);
+        return this.scale.offset(this.top);
+    }
+
+    // The space has to be as high as the list before it is scrolled.
+    setTop(offset) {
+        this.setSpace();
+        this.top = this.scale.barTop(Math.max(0, Math.min(this.scale.reach, offset)));
+        this.scroller.scrollTop = this.top;
+    }
+
+    setSpace() {
+        const height = this.scale.height + 'px';
+        if (this.space.style.height !== height) {
+            this.space.style.height = height;
+        }
     }
 
     draw() {
@@ -163,7 +189,7 @@ class WindowedList {
         if (!view) {
             return;
         }
-        this.space.style.height = this.scale.height + 'px';
+        this.setSpace();
         let offset = this.offset;
         // What is measured may move what is below it: the row at the top stays.
         const first = this.heights.at(offset);
@@ -172,9 +198,9 @@ class WindowedList {
             isSettled = this.makeRows(offset, view);
             if (!isSettled) {
                 const wanted = this.heights.top(first) + within;
-                this.space.style.height = this.scale.height + 'px';
+                this.setSpace();
                 if (Math.abs(wanted - offset) >= 1) {
-                    this.scroller.scrollTop = this.scale.barTop(wanted);
+                    this.setTop(wanted);
                 }
                 offset = this.offset;
             }
@@ -235,9 +261,12 @@ class WindowedList {
 
     // Rows stand relative to the bar, which is elsewhere than the offset where the list is scaled.
     place(offset) {
-        const shift = this.scroller.scrollTop - offset;
+        const shift = this.top - offset;
         for (const [row, made] of this.rows) {
-            made.style.top = this.heights.top(row) + shift + 'px';
+            const top = this.heights.top(row) + shift + 'px';
+            if (made.style.top !== top) {
+                made.style.top = top;
+            }
         }
     }
 
@@ -265,7 +294,7 @@ class WindowedList {
             ++next;
         }
         const ends = next < this.count && this.options.headOf(next) !== head ? this.heights.top(next) : Infinity;
-        this.stuck.style.top = this.scroller.scrollTop + Math.min(0, ends - offset - height) + 'px';
+        this.stuck.style.top = this.top + Math.min(0, ends - offset - height) + 'px';
     }
 
     tellActive() {
@@ -304,8 +333,7 @@ class WindowedList {
     }
 
     scrollTo(offset) {
-        this.space.style.height = this.scale.height + 'px';
-        this.scroller.scrollTop = this.scale.barTop(Math.max(0, offset));
+        this.setTop(offset);
         this.draw();
     }
 
