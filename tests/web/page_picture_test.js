@@ -276,8 +276,8 @@ function painted(scene, view) {
     };
     const scene = sceneOf([['line', [0, 0, 2, 2], {space: 1}], ['ray', [1, 0, 2, 0], {space: 1}],
         ['text', [0, 0, 1, 0, 0, 10, 0], {space: 1}],
-        ['pattern', [1, 0, 0, 0, 0.1, 0, move, 0, 0, line, 2, 0, line, 2, 2, close], {space: 1}], ['reference', [1, 0, 0, 1, 1, 1, 1]], ['reference', [0.01, 0, 0, 0.01, 5, 5, 1]]],
-    {texts: ['text']});
+        ['pattern', [1, 0, 0, 0, 0.1, 0, move, 0, 0, line, 2, 0, line, 2, 2, close], {space: 1}],
+        ['reference', [1, 0, 0, 1, 1, 1, 1]], ['reference', [0.01, 0, 0, 0.01, 5, 5, 1]]], {texts: ['text']});
     const near = painted(scene, {x: 0, y: 10, scale: 10}).calls;
     const count = (calls, name) => calls.filter(call => call[0] === name).length;
     assert.strictEqual(added.length, 1, 'one of two is a dot');
