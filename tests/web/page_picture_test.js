@@ -15,11 +15,11 @@ for (const name of ['boxes', 'grid', 'color', 'trace', 'scene', 'spaces', 'views
 const {
     Box, Shapes, PathSteps, Grid, Scene, Visibility, Picker, Mapping, ScenePainter, brushKinds, traceCurves,
     visibleColor, contrastOf, spaceAt, ticksOf, wordsOfStep, fittingView, zoomedView, movedView, coversView,
-    dashesOf, familyOf, linesOfFamily, roundStep, sceneOfDrawn, changeBetween
+    dashesOf, familyOf, linesOfFamily, roundStep, sceneOfDrawn, changeBetween, gridLines
 } = vm.runInThisContext(`({
     Box, Shapes, PathSteps, Grid, Scene, Visibility, Picker, Mapping, ScenePainter, brushKinds, traceCurves,
     visibleColor, contrastOf, spaceAt, ticksOf, wordsOfStep, fittingView, zoomedView, movedView, coversView,
-    dashesOf, familyOf, linesOfFamily, roundStep, sceneOfDrawn, changeBetween
+    dashesOf, familyOf, linesOfFamily, roundStep, sceneOfDrawn, changeBetween, gridLines
 })`);
 
 const {move, line, arc, ellipse, bezier, close} = PathSteps;
@@ -296,6 +296,17 @@ function traced(primitive, view, window = {left: 0, bottom: 0, right: 800, top: 
     assert.strictEqual(coversView(kept, 600, 600, movedView(view, 99, -100), 400, 400), true);
     assert.strictEqual(coversView(kept, 600, 600, movedView(view, 0, -102), 400, 400), false);
     assert.strictEqual(coversView(kept, 600, 600, zoomedView(view, 0.5, 200, 200), 400, 400), false);
+    const wide = fittingView({left: -1e140, bottom: 1e140, right: 1e140, top: 1.5e140}, 400, 400);
+    assert.ok(Math.abs(2e140 * wide.scale - 352) < 1e-9, 'very large');
+    const lines = (start, scale) => {
+        const found = [];
+        gridLines(start, 20 / scale, scale, 100, at => found.push(at));
+        return found;
+    };
+    assert.deepStrictEqual(lines(-1, 5), [5.5, 25.5, 45.5, 65.5, 85.5]);
+    for (const start of [1e15, -1e100]) {
+        assert.strictEqual(lines(start, 1e12).length, 5, 'where doubles are coarse');
+    }
     assert.deepStrictEqual([0.003, 1, 1.1, 2.5, 70].map(roundStep), [0.005, 1, 2, 5, 100]);
 }
 

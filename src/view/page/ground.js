@@ -8,7 +8,16 @@ function roundStep(least) {
     return [1, 2, 5, 10].map(step => step * power).find(step => step >= least * (1 - 1e-12));
 }
 
-// The paper and its grid. Lines that would lie on the same doubles, as they do far from the origin, are left out.
+// Calls back with the pixels at which lines of a distance cross an axis that begins at a coordinate. Where doubles are
+// too coarse to tell where the first one is, it is somewhere in the first distance.
+function gridLines(start, step, scale, length, draw) {
+    const distance = step * scale;
+    const first = (Math.ceil(start / step) * step - start) * scale % distance;
+    for (let at = first < 0 ? first + distance : first; at < length; at += distance) {
+        draw(Math.round(at) + 0.5);
+    }
+}
+
 function paintGround(context, view, width, height, palette, density) {
     context.fillStyle = palette.pane;
     context.fillRect(0, 0, width, height);
@@ -18,17 +27,14 @@ function paintGround(context, view, width, height, palette, density) {
     for (const [every, color] of [[1, palette.grid], [5, palette.gridMain]]) {
         context.strokeStyle = color;
         context.beginPath();
-        const pixel = step * every * view.scale;
-        const firstColumn = Math.ceil(view.x / (step * every));
-        for (let n = 0, x; (x = (firstColumn * step * every - view.x) * view.scale + n * pixel) < width; n++) {
-            context.moveTo(Math.round(x) + 0.5, 0);
-            context.lineTo(Math.round(x) + 0.5, height);
-        }
-        const firstRow = Math.floor(view.y / (step * every));
-        for (let n = 0, y; (y = (view.y - firstRow * step * every) * view.scale + n * pixel) < height; n++) {
-            context.moveTo(0, Math.round(y) + 0.5);
-            context.lineTo(width, Math.round(y) + 0.5);
-        }
+        gridLines(view.x, every * step, view.scale, width, x => {
+            context.moveTo(x, 0);
+            context.lineTo(x, height);
+        });
+        gridLines(-view.y, every * step, view.scale, height, y => {
+            context.moveTo(0, y);
+            context.lineTo(width, y);
+        });
         context.stroke();
     }
 }

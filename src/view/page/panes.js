@@ -74,7 +74,8 @@ class Gap {
     move(change) {
         const panes = byId('panes');
         const [before, after] = this.sizes();
-        const by = Math.max(Math.min(narrowestPane, before) - before, Math.min(change, after - Math.min(narrowestPane, after)));
+        const by = Math.max(Math.min(narrowestPane, before) - before,
+            Math.min(change, after - Math.min(narrowestPane, after)));
         if (this.isRow) {
             panes.style.gridTemplateRows = 'minmax(120px, ' + (before + by) + 'fr) var(--gap) minmax(120px, '
                 + (after - by) + 'fr)';
