@@ -22,7 +22,6 @@ constexpr double kUsualSize = 2.5;
 constexpr double kUsualGap = 0.625;
 constexpr int kMiddleLeft = 4;
 constexpr int kMiddleRight = 6;
-constexpr auto kNoPlace = "neither the recording nor its drawing tell where it stands";
 
 std::vector<Point> verticesOf(const Values& leader)
 {
@@ -205,10 +204,8 @@ void drawAtEnd(const Values& leader, const Values& annotation, Pen& pen)
 void drawLeader(const Values& values, Pen& pen)
 {
     const std::vector<Point> vertices = verticesOf(values);
-    if (vertices.size() < 2) {
-        pen.remark(kNoPlace);
+    if (vertices.size() < 2)
         return;
-    }
     pen.setRole(Role::Dimension);
     Pen lines = pen;
     if (const std::optional<OdCmColor> color = colorIn(values, "DimLine LColor"); color && !color->isByBlock())
@@ -237,8 +234,6 @@ void drawTolerance(const Values& values, Pen& pen)
         drawToleranceAt(values, pen, {*position, kMiddleLeft});
     else if (const Values* const leader = leaderOf(values))
         drawAtEnd(*leader, values, pen);
-    else
-        pen.remark(kNoPlace);
 }
 
 } // namespace inkmacro::view

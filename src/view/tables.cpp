@@ -15,7 +15,7 @@ namespace inkmacro::view {
 namespace {
 
 constexpr double kUsualTextHeight = 2.5;
-constexpr int kMostLines = 100'000; ///< of rows or columns, whose number is recorded by itself
+constexpr int kMostCells = 10'000; ///< how many there are is recorded by itself
 
 struct Grid
 {
@@ -42,7 +42,7 @@ constexpr Sizes kColumns{"Columns", "ColumnWidth_%1", "Table width", 0};
 std::vector<double> sizesOf(const Values& values, const Sizes& tags, const std::vector<double>& drawn)
 {
     const auto drawnCount = static_cast<int>(drawn.size());
-    const int count = std::clamp(values.choice(tags.count).value_or(drawnCount), 0, kMostLines);
+    const int count = std::clamp(values.choice(tags.count).value_or(drawnCount), 0, kMostCells);
     const auto recorded = [&](int i) { return values.number(QString(tags.size).arg(i)); };
     std::vector<double> sizes;
     for (int i = 0; i < count; ++i) {
@@ -98,6 +98,16 @@ Point placed(const Grid& grid, double right, double down)
 double sum(const std::vector<double>& sizes)
 {
     return std::accumulate(sizes.begin(), sizes.end(), 0.0);
+}
+
+Outline outlineOf(const Grid& grid)
+{
+    const double width = sum(grid.columns);
+    const double height = sum(grid.rows);
+    Outline outline;
+    outline.move(placed(grid, 0.0, 0.0)).line(placed(grid, width, 0.0));
+    outline.line(placed(grid, width, height)).line(placed(grid, 0.0, height)).close();
+    return outline;
 }
 
 /// A title goes over all columns of the first row.
@@ -185,6 +195,11 @@ void drawTable(const Values& values, Pen& pen)
     const Grid grid = gridOf(values);
     if (grid.rows.empty() || grid.columns.empty()) {
         pen.remark("neither the recording nor its drawing tell its rows and columns");
+        return;
+    }
+    if (grid.rows.size() * grid.columns.size() > kMostCells) {
+        pen.path(outlineOf(grid));
+        pen.remark("its cells, which are too many");
         return;
     }
     const bool titled = hasTitle(values);

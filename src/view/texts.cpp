@@ -132,8 +132,6 @@ void drawNote(const Values& values, Pen& pen)
         drawNoteAt(values, pen, *position);
     else if (const Values* const leader = leaderOf(values))
         drawAtEnd(*leader, values, pen);
-    else
-        pen.remark("neither the recording nor its drawing tell where it stands");
 }
 
 /// A definition shows its name.
@@ -142,11 +140,8 @@ void drawAttribute(const Values& values, Pen& pen)
     const auto* const drawn = values.drawnAs<OdDbAttribute>();
     const QString named = values.className() == "AcDbAttribute" ? QStringLiteral("Value") : QStringLiteral("Tag");
     const QString text = values.text(named).value_or(drawn ? drawn->textString() : QString());
-    if (!placeOf(values, "Position") && !placeOf(values, "Text alignment")) {
-        pen.remark("neither the recording nor its drawing tell where it stands");
-        return;
-    }
-    drawLetters(values, pen, plainText(text), sizeOf({values.number("Height")}, kUsualHeightOfAttributes));
+    if (placeOf(values, "Position") || placeOf(values, "Text alignment"))
+        drawLetters(values, pen, plainText(text), sizeOf({values.number("Height")}, kUsualHeightOfAttributes));
 }
 
 } // namespace inkmacro::view
