@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 
+#include <algorithm>
 #include <utility>
 
 namespace inkmacro {
@@ -62,11 +63,14 @@ PageNotes::PageNotes(const std::vector<PageTarget>& targets, const StepPlaces& p
     if (notes_.isEmpty())
         return;
     table_ += "<table>\n<tr><th>Line</th><th>Place</th><th>Kind</th><th>What</th><th>Reason</th></tr>\n";
-    for (const QJsonValue& value : std::as_const(notes_)) {
-        const QJsonObject note = value.toObject();
+    constexpr int most = 1000;
+    for (int i = 0; i < std::min(most, notes_.size()); ++i) {
+        const QJsonObject note = notes_[i].toObject();
         table_ += row({QString::number(note["line"].toInt()), note["path"].toString(), note["kind"].toString(),
                        note["what"].toString(), note["reason"].toString()});
     }
+    if (notes_.size() > most)
+        table_ += row({{}, {}, {}, QString("and %1 more").arg(notes_.size() - most), {}});
     table_ += "</table>\n";
 }
 

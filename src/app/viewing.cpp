@@ -157,7 +157,8 @@ private:
             throw WrongUse(
                 QString("--space: there is no \"%1\" in the recording, but %2").arg(*line_.space, names.join(", ")));
         }
-        const QByteArray svg = view::svgOf(picture, static_cast<std::uint16_t>(space - picture.spaces.begin()));
+        const QByteArray svg =
+            view::svgOf(picture, static_cast<std::uint16_t>(space - picture.spaces.begin()), baseNameOf(input_));
         put(output_, [&svg](QIODevice& file) { file.write(svg); });
         return kDone;
     }

@@ -288,11 +288,12 @@ void Fold::define(ObjectState& block)
 
 void Fold::style(ObjectState& state)
 {
-    if (const std::optional<QString> name = state.text("Layer"))
+    if (const std::optional<QString> name = state.text(QStringLiteral("Layer")))
         state.layer = layers_.named(*name);
-    else if (const OdDbHandle layer = state.handle("Layer"); !layer.isNull())
+    else if (const OdDbHandle layer = state.handle(QStringLiteral("Layer")); !layer.isNull())
         state.layer = layers_.at(layer);
-    if (const CFxVariant* const color = state.find("LineColor"); color && color->GetType() == CFxVariant::kColor)
+    if (const CFxVariant* const color = state.find(QStringLiteral("LineColor"));
+        color && color->GetType() == CFxVariant::kColor)
         state.color = color->GetColor();
 }
 

@@ -9,13 +9,25 @@ namespace inkmacro::view {
 namespace {
 
 /// Capitals count, as in `rotation` and `Rotation`, but for the axis of a coordinate.
+/// Without regard to upper and lower case of Latin letters. Asked of each property that a tag passes: from the end,
+/// where the tags of coordinates differ.
 bool isSame(const QString& one, const QString& other)
 {
-    const int last = one.size() - 1;
-    if (last < 1 || one.size() != other.size())
-        return one == other;
-    return QStringView(one).left(last) == QStringView(other).left(last) &&
-           (one[last] == other[last] || (one[last - 1] == ' ' && one[last].toLower() == other[last].toLower()));
+    if (one.size() != other.size())
+        return false;
+    constexpr unsigned lower = 0x20;
+    const QChar* const left = one.constData();
+    const QChar* const right = other.constData();
+    if (left == right)
+        return true;
+    for (int i = one.size(); i-- > 0;) {
+        const unsigned a = left[i].unicode();
+        const unsigned b = right[i].unicode();
+        const bool isLetter = (a | lower) >= 'a' && (a | lower) <= 'z';
+        if (a != b && !(isLetter && (a ^ b) == lower))
+            return false;
+    }
+    return true;
 }
 
 int indexOf(const CFxVariant& index)
@@ -52,9 +64,9 @@ const char kAttributeGroup[] = "BlockAttributes";
 QString tagOf(const CFxPropertyChanged& property)
 {
     const QString& group = property.GetGroup();
-    return group.compare(QLatin1String(kAttributeGroup), Qt::CaseInsensitive) == 0
-               ? kAttributeGroup + ("." + property.GetName().toQString())
-               : property.GetName().toQString();
+    const bool isAttribute =
+        !group.isEmpty() && group.compare(QLatin1String(kAttributeGroup), Qt::CaseInsensitive) == 0;
+    return isAttribute ? kAttributeGroup + ("." + property.GetName().toQString()) : property.GetName().toQString();
 }
 
 } // namespace

@@ -10,9 +10,9 @@ namespace {
 
 /// What the actions say, else what the drawing has.
 template<class Class, class Read>
-std::optional<Point> pointOr(const Values& values, const char* tag, Read read)
+std::optional<Point> pointOr(const Values& values, const QString& tag, Read read)
 {
-    if (const std::optional<OdGePoint3d> point = values.point(QLatin1String(tag)))
+    if (const std::optional<OdGePoint3d> point = values.point(tag))
         return fromAbove(*point);
     if (const auto* const drawn = values.drawnAs<Class>())
         return fromAbove(read(*drawn));
@@ -20,9 +20,9 @@ std::optional<Point> pointOr(const Values& values, const char* tag, Read read)
 }
 
 template<class Class, class Read>
-std::optional<double> numberOr(const Values& values, const char* tag, Read read)
+std::optional<double> numberOr(const Values& values, const QString& tag, Read read)
 {
-    if (const std::optional<double> number = values.number(QLatin1String(tag)))
+    if (const std::optional<double> number = values.number(tag))
         return number;
     if (const auto* const drawn = values.drawnAs<Class>())
         return read(*drawn);
@@ -33,27 +33,34 @@ std::optional<double> numberOr(const Values& values, const char* tag, Read read)
 
 void drawLine(const Values& values, Pen& pen)
 {
-    const auto start = pointOr<OdDbLine>(values, "Start", [](const OdDbLine& line) { return line.startPoint(); });
-    const auto end = pointOr<OdDbLine>(values, "End", [](const OdDbLine& line) { return line.endPoint(); });
+    const auto start =
+        pointOr<OdDbLine>(values, QStringLiteral("Start"), [](const OdDbLine& line) { return line.startPoint(); });
+    const auto end =
+        pointOr<OdDbLine>(values, QStringLiteral("End"), [](const OdDbLine& line) { return line.endPoint(); });
     if (start && end)
         pen.line(*start, *end);
 }
 
 void drawCircle(const Values& values, Pen& pen)
 {
-    const auto center = pointOr<OdDbCircle>(values, "Center", [](const OdDbCircle& circle) { return circle.center(); });
-    const auto radius =
-        numberOr<OdDbCircle>(values, "Radius", [](const OdDbCircle& circle) { return circle.radius(); });
+    const auto center =
+        pointOr<OdDbCircle>(values, QStringLiteral("Center"), [](const OdDbCircle& circle) { return circle.center(); });
+    const auto radius = numberOr<OdDbCircle>(values, QStringLiteral("Radius"),
+                                             [](const OdDbCircle& circle) { return circle.radius(); });
     if (center && radius)
         pen.circle(*center, std::abs(*radius));
 }
 
 void drawArc(const Values& values, Pen& pen)
 {
-    const auto center = pointOr<OdDbArc>(values, "Center", [](const OdDbArc& arc) { return arc.center(); });
-    const auto radius = numberOr<OdDbArc>(values, "Radius", [](const OdDbArc& arc) { return arc.radius(); });
-    const auto start = numberOr<OdDbArc>(values, "Start Angle", [](const OdDbArc& arc) { return arc.startAngle(); });
-    const auto end = numberOr<OdDbArc>(values, "End Angle", [](const OdDbArc& arc) { return arc.endAngle(); });
+    const auto center =
+        pointOr<OdDbArc>(values, QStringLiteral("Center"), [](const OdDbArc& arc) { return arc.center(); });
+    const auto radius =
+        numberOr<OdDbArc>(values, QStringLiteral("Radius"), [](const OdDbArc& arc) { return arc.radius(); });
+    const auto start =
+        numberOr<OdDbArc>(values, QStringLiteral("Start Angle"), [](const OdDbArc& arc) { return arc.startAngle(); });
+    const auto end =
+        numberOr<OdDbArc>(values, QStringLiteral("End Angle"), [](const OdDbArc& arc) { return arc.endAngle(); });
     if (center && radius && start && end)
         pen.arc(*center, std::abs(*radius), *start, sweepBetween(*start, *end));
 }
@@ -87,13 +94,15 @@ static std::optional<std::pair<Point, Point>> axesOf(const Values& values)
 
 void drawEllipse(const Values& values, Pen& pen)
 {
-    const auto center = pointOr<OdDbEllipse>(values, "Center", [](const OdDbEllipse& one) { return one.center(); });
+    const auto center =
+        pointOr<OdDbEllipse>(values, QStringLiteral("Center"), [](const OdDbEllipse& one) { return one.center(); });
     auto axes = axesOf(values);
     if (!center || !axes)
         return;
-    const auto start =
-        numberOr<OdDbEllipse>(values, "Start angle", [](const OdDbEllipse& one) { return one.startAngle(); });
-    const auto end = numberOr<OdDbEllipse>(values, "End angle", [](const OdDbEllipse& one) { return one.endAngle(); });
+    const auto start = numberOr<OdDbEllipse>(values, QStringLiteral("Start angle"),
+                                             [](const OdDbEllipse& one) { return one.startAngle(); });
+    const auto end = numberOr<OdDbEllipse>(values, QStringLiteral("End angle"),
+                                           [](const OdDbEllipse& one) { return one.endAngle(); });
     auto [u, v] = *axes;
     // Later changes give the lengths alone.
     if (const std::optional<double> major = values.number("Major radius"); major && std::hypot(u.x, u.y) > 0.0) {

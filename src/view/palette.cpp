@@ -84,7 +84,7 @@ std::optional<Rgb> rgbOf(const OdCmColor& color)
 
 double contrastOf(Rgb one, Rgb other)
 {
-    const auto [dark, light] = std::minmax(luminanceOf(one), luminanceOf(other));
+    const auto [dark, light] = std::minmax({luminanceOf(one), luminanceOf(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 

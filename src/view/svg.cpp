@@ -34,7 +34,7 @@ std::optional<std::pair<Point, Point>> clipped(Point from, Point towards, bool i
     const auto cut = [&](double at, double step, double least, double most) {
         if (step == 0.0)
             return at >= least && at <= most;
-        const auto [first, last] = std::minmax((least - at) / step, (most - at) / step);
+        const auto [first, last] = std::minmax({(least - at) / step, (most - at) / step});
         low = std::max(low, first);
         high = std::min(high, last);
         return low < high;

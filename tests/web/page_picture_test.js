@@ -229,8 +229,8 @@ function traced(primitive, view, window = {left: 0, bottom: 0, right: 800, top: 
     const brush = {color: '#000000', width: 1, dash: []};
     const painter = new ScenePainter(scene);
     const look = {visibility: new Visibility(scene, {styles: [{layer: 0}], layers: [{}], layerSwitches: []}, 1, new Set()),
-        brushes: new Array(brushKinds.styles + 1).fill(brush), kinds: null, space: 0, density: 1, width: 100,
-        height: 100, from: -1, version: 0, modelSpace: 0};
+        brushes: Object.assign(new Array(brushKinds.styles + 1).fill(brush), {ofStyles: [brushKinds.styles]}),
+        kinds: null, space: 0, density: 1, width: 100, height: 100, from: -1, version: 0, modelSpace: 0};
     for (const portion of painter.paint(context, {x: 0, y: 5, scale: 10}, look)) {
         assert.strictEqual(portion, undefined);
     }

@@ -39,16 +39,22 @@ function comparisonStrokes(palette) {
         {color: palette.surplus, width: 1.8, dash: [0.1, 4]}, missing, {color: palette.muted, width: 1.2, dash: []}];
 }
 
-// The brushes of a painter: what was there, the kinds of a comparison, and a brush for each style.
+// The brushes of a painter: what was there, the kinds of a comparison, and those of the styles, each once.
 function brushesOf(index, palette) {
     const paper = partsOfColor(palette.pane);
-    const there = {color: palette.there, width: 1, dash: []};
-    const styles = index.styles.map(style => {
+    const brushes = [{color: palette.there, width: 1, dash: []}, ...comparisonStrokes(palette)];
+    const numbers = new Map();
+    brushes.ofStyles = index.styles.map(style => {
         const layer = index.layers[style.layer];
         const isObject = style.role === 'object';
         const roleColor = isObject ? palette.ink : style.role === 'dimension' ? palette.dimension : palette.muted;
-        return {color: recordedColor(style.color, layer.color, roleColor, paper), width: isObject ? 1.4 : 1, dash: [],
-            inherits: style.color === 'byblock' || style.color === 'bylayer' && layer.name === '0'};
+        const color = recordedColor(style.color, layer.color, roleColor, paper);
+        const inherits = style.color === 'byblock' || style.color === 'bylayer' && layer.name === '0';
+        const key = [color, isObject, inherits].join();
+        if (!numbers.has(key)) {
+            numbers.set(key, brushes.push({color: color, width: isObject ? 1.4 : 1, dash: [], inherits: inherits}) - 1);
+        }
+        return numbers.get(key);
     });
-    return [there, ...comparisonStrokes(palette), ...styles];
+    return brushes;
 }

@@ -15,10 +15,14 @@ function notesOfKind(data, target, form, kind) {
     return (one && one.notes || []).filter(number => data.notes[number].kind === kind);
 }
 
+function isSameList(one, other) {
+    return one.length === other.length && one.every((value, i) => value === other[i]);
+}
+
 function lossBadge(data, target, form) {
     const here = notesOfKind(data, target, form, 'loss');
     const works = data.index.targets.filter(one => data.formOf(one.name, form) && data.formOf(one.name, form).status === 0);
-    const isSame = works.every(one => String(notesOfKind(data, one.name, form, 'loss')) === String(here));
+    const isSame = works.every(one => isSameList(notesOfKind(data, one.name, form, 'loss'), here));
     if (!here.length) {
         return {kind: 'good', text: isSame || works.length < 2 ? '✓ no losses' : '✓ no losses here', chip: 'all'};
     }

@@ -33,7 +33,7 @@ function keyRow(data, [keys, words]) {
 function startHelp(data) {
     const help = byId('help');
     help.append(element('div', {class: 'helpHead'}, element('h2', {}, 'Keys'),
-        button('Close', {autofocus: true}, () => help.close())));
+        button('Close', {}, () => help.close())));
     for (const [title, rows] of keysInWords) {
         help.append(element('h3', {}, title), element('dl', {class: 'keys'},
             ...[].concat(...rows.map(row => keyRow(data, row)))));

@@ -18,9 +18,9 @@ function goToFinding(data, steps, direction) {
         return;
     }
     const {chosen} = state.get();
-    const next = direction > 0 ? found.find(step => step > chosen.step)
-        : found.filter(step => chosen.step < 0 || step < chosen.step).pop();
-    const step = next === undefined ? found[direction > 0 ? 0 : found.length - 1] : next;
+    const at = direction > 0 ? lastNotAbove(found, chosen.step) + 1
+        : chosen.step < 0 ? -1 : lastNotAbove(found, chosen.step - 1);
+    const step = found[(at + found.length) % found.length];
     state.set({chosen: {step: step, object: data.objectOfStep(step)}}, 'keys');
 }
 

@@ -6,18 +6,23 @@ const highestList = 10000000; // pixels; browsers do not make elements of any he
 
 // Heights of rows, with their sums (a Fenwick tree), so that one of 200,000 may change.
 class Heights {
-    constructor(count, height) {
+    // `others` are [row, height] of those that are not as high as the rest.
+    constructor(count, height, others = []) {
         this.count = count;
         this.heights = new Float64Array(count).fill(height);
+        for (const [row, other] of others) {
+            this.heights[row] = other;
+        }
         this.sums = new Float64Array(count + 1);
+        this.total = 0;
         for (let i = 1; i <= count; ++i) {
-            this.sums[i] += height;
+            this.total += this.heights[i - 1];
+            this.sums[i] += this.heights[i - 1];
             const above = i + (i & -i);
             if (above <= count) {
                 this.sums[above] += this.sums[i];
             }
         }
-        this.total = count * height;
     }
 
     set(row, height) {
@@ -99,10 +104,7 @@ class WindowedList {
     // Starts anew; `heights` are [row, height] of those that are not as high as the others, which is an estimate where
     // they are measured.
     setCount(count, heights = []) {
-        this.heights = new Heights(count, this.options.rowHeight());
-        for (const [row, height] of heights) {
-            this.heights.set(row, height);
-        }
+        this.heights = new Heights(count, this.options.rowHeight(), heights);
         this.count = count;
         this.active = -1;
         this.clear();

@@ -307,16 +307,16 @@ class MacroPane {
                 '··· ' + countOf(count, 'equal line'));
         }
         const made = element('div', {class: 'codeRow'});
-        const line = element('div', {class: 'codeLine'});
         const isRemoved = kind === differenceKinds.removed;
         const isAdded = kind === differenceKinds.added;
+        const gutter = element('span', {class: 'gutter'});
         if (view.rows) {
-            line.append(element('span', {class: 'number'}, isAdded ? '' : String(recorded)));
+            gutter.append(element('span', {class: 'number'}, isAdded ? '' : String(recorded)));
         }
-        line.append(element('span', {class: 'number'}, isRemoved ? '' : String(repaired)));
-        line.append(this.makeSign(isRemoved, isAdded, repaired));
-        line.append(paintInto(element('code', {}), this.pieces(isRemoved, isAdded, recorded, repaired)));
-        made.append(line);
+        gutter.append(element('span', {class: 'number'}, isRemoved ? '' : String(repaired)),
+            this.makeSign(isRemoved, isAdded, repaired));
+        made.append(element('div', {class: 'codeLine'}, gutter,
+            paintInto(element('code', {}), this.pieces(isRemoved, isAdded, recorded, repaired))));
         made.classList.toggle('isRemoved', isRemoved);
         made.classList.toggle('isAdded', isAdded);
         made.classList.toggle('isChosen', isRemoved ? this.chosenRecorded.has(recorded) : this.chosen.has(repaired));

@@ -3,8 +3,8 @@
 'use strict';
 
 const mostFindings = 200;
-const findingWords = {different: 'different', missing: 'missing', surplus: 'surplus', missingAsTold: 'missing, as told',
-    notChecked: 'not checked'};
+const longestValue = 60; // characters
+const findingOrder = ['different', 'missing', 'surplus', 'missingAsTold', 'notChecked'];
 
 // What the macro draws of its own, which no primitive of the recording shows.
 function sceneOfDrawn(drawn, spaceCount) {
@@ -87,7 +87,7 @@ class ComparisonPanel {
     legend(counts) {
         const shown = [['equal', 'equal'], ['different', 'different'], ['missing', 'missing'],
             ['missingAsTold', 'missing, as told'], ['surplus', 'surplus'], ['notChecked', 'made by the application']];
-        const always = ['equal', 'missing', 'surplus'];
+        const always = ['equal', counts.missingAsTold ? '' : 'missing', 'surplus'];
         return element('ul', {class: 'legend'}, ...shown.filter(([kind]) => counts[kind] || always.includes(kind)).map(
             ([kind, words]) => element('li', {}, legendStroke(kind),
                 (counts[kind] || 0).toLocaleString('en') + ' ' + words)));
@@ -95,7 +95,9 @@ class ComparisonPanel {
 
     findings(run) {
         const list = element('ul', {class: 'findings'});
-        run.findings.slice(0, mostFindings).forEach(finding => list.append(element('li', {}, this.finding(finding))));
+        const sorted = findingOrder.map(kind => run.findings.filter(finding => finding.kind === kind));
+        [].concat(...sorted).slice(0, mostFindings).forEach(
+            finding => list.append(element('li', {}, this.finding(finding))));
         if (run.findings.length > mostFindings) {
             list.append(element('li', {class: 'muted'},
                 'and ' + (run.findings.length - mostFindings).toLocaleString('en') + ' more'));
@@ -105,13 +107,10 @@ class ComparisonPanel {
 
     finding(finding) {
         const {data} = this;
-        const cls = finding.object >= 0 ? data.className(data.objects.cls[finding.object]) : finding.class;
-        const words = finding.object >= 0 ? data.classWords(data.objects.cls[finding.object])
-            : wordsOfClass(data, finding.class);
-        const handle = finding.object >= 0 ? data.objects.handle(finding.object) : finding.handle;
         const made = button('', {class: 'finding'}, () => this.choose(finding));
-        made.append(classIcon(cls), textElement('span', {class: 'findingName'}, words + (handle ? ' ' + handle : '')),
-            textElement('span', {class: 'findingReason'}, reasonOf(finding)));
+        const name = nameOfFinding(data, finding);
+        made.append(name.icon, textElement('span', {class: 'findingName'}, name.text),
+            textElement('span', {class: 'findingReason'}, reasonOf(finding, name.subject)));
         return made;
     }
 
@@ -123,18 +122,39 @@ class ComparisonPanel {
     }
 }
 
-function wordsOfClass(data, name) {
-    const known = data.index.classes.find(one => one.name === name);
-    return known ? known.words : name || 'Macro';
+// Whom a finding is about, and how the report calls it.
+function nameOfFinding(data, finding) {
+    const {object, step, handle} = finding;
+    if (object >= 0) {
+        const name = data.className(data.objects.cls[object]);
+        return {icon: classIcon(name), text: data.classWords(data.objects.cls[object]) + ' ' + data.objects.handle(object),
+            subject: name + ' ' + data.objects.handle(object)};
+    }
+    if (finding.class) {
+        const known = data.index.classes.find(one => one.name === finding.class);
+        return {icon: classIcon(finding.class), text: (known ? known.words : finding.class) + (handle ? ' ' + handle : ''),
+            subject: ''};
+    }
+    const command = data.commandOf(step);
+    return step >= 0 ? {icon: stepIcon(data, command), text: data.stepName(command) || 'Step', subject: ''}
+        : {icon: namedIcon('other'), text: 'Macro', subject: ''};
 }
 
-function reasonOf(finding) {
-    const kind = findingWords[finding.kind] || finding.kind;
-    if (finding.kind === 'missingAsTold') {
-        return 'missing, as the report says' + (finding.reason ? ': ' + finding.reason : '');
+function shortValue(text) {
+    return text === '' ? 'nothing' : text.length > longestValue ? text.slice(0, longestValue) + '\u2026' : text;
+}
+
+function reasonOf({kind, what, recorded, drawn, reason}, subject) {
+    const about = what === subject ? '' : what.replace(' of ' + subject, '');
+    switch (kind) {
+    case 'missingAsTold':
+        return (about ? about + ' is missing' : 'missing') + ', as the report says: ' + reason;
+    case 'notChecked':
+        return about + (about ? ': ' : '') + reason;
+    case 'different':
+        return recorded || drawn ? 'different ' + about + ': recorded ' + shortValue(recorded) + ', drawn ' +
+            shortValue(drawn) : 'different ' + about + ': ' + reason;
+    default:
+        return kind + (about ? ' ' + about : '') + (reason ? ': ' + reason : '');
     }
-    const values = finding.recorded || finding.drawn
-        ? ' recorded ' + (finding.recorded || 'nothing') + ', drawn ' + (finding.drawn || 'nothing') : '';
-    return kind + (finding.what ? ': ' + finding.what + (values && ',') : '') + values +
-        (finding.reason ? ' (' + finding.reason + ')' : '');
 }

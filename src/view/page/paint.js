@@ -66,9 +66,9 @@ function dashesOf(dashes, unit) {
     return lengths.length % 2 ? lengths.concat(0) : lengths;
 }
 
-// What a picture looks like: {visibility, brushes, kinds, space, density, width, height, from}. `kinds` are those of a
-// comparison for each object, or null; `from` is a step since which alone is drawn, or -1; `density` is the number of
-// pixels of the canvas in one of the page.
+// What a picture looks like: {visibility, brushes, kinds, space, density, width, height, from}. `brushes` has also a
+// list `ofStyles` of their numbers by styles; `kinds` are those of a comparison for each object, or null; `from` is a
+// step since which alone is drawn, or -1; `density` is the number of pixels of the canvas in one of the page.
 class ScenePainter {
     constructor(scene) {
         this.scene = scene;
@@ -86,6 +86,8 @@ class ScenePainter {
         }
         const window = {left: -8, bottom: -8, right: look.width + 8, top: look.height + 8};
         context.lineJoin = 'round';
+        context.font = lettersSize + 'px system-ui, sans-serif';
+        this.capitals = context.measureText('H').actualBoundingBoxAscent || lettersSize * 0.72;
         this.isDense = false;
         yield* this.space(context, look.space, Mapping.ofView(view), window, -1, 0);
         context.setTransform(1, 0, 0, 1, 0, 0);
@@ -93,7 +95,10 @@ class ScenePainter {
 
     // `parent` is the brush of the reference that shows the space, or -1.
     *space(context, space, mapping, window, parent, depth) {
-        const parts = this.partsOf(this.scene.within(space, this.boxBehind(mapping, window)), mapping, parent);
+        const {from, visibility} = this.look;
+        const items = from < 0 || depth ? this.scene.within(space, this.boxBehind(mapping, window))
+            : this.scene.comers(space, from, visibility.step);
+        const parts = this.partsOf(items, mapping, parent);
         yield;
         yield* this.fills(context, parts.fills, mapping, window, parent);
         yield* this.strokes(context, parts.strokes, mapping, window);
@@ -127,12 +132,8 @@ class ScenePainter {
         if (parent === -1 && this.scene.isOld(p)) {
             return brushKinds.there;
         }
-        const brush = brushKinds.styles + geometry.style[p];
+        const brush = this.look.brushes.ofStyles[geometry.style[p]];
         return parent !== -1 && this.look.brushes[brush].inherits ? parent : brush;
-    }
-
-    isShown(p) {
-        return this.look.visibility.shows(p) && this.scene.geometry.from[p] >= this.look.from;
     }
 
     // Those of the items that are shown, by how they are drawn. What was there before comes first.
@@ -149,7 +150,7 @@ class ScenePainter {
         for (let i = 0; i < items.length; i++) {
             const p = items[i];
             const shape = geometry.shape[p];
-            if (!this.isShown(p)) {
+            if (!this.look.visibility.shows(p)) {
                 continue;
             }
             if (lists[shape] && (shape === Shapes.window || !isDot(this.scene.boxes, p, scale))) {
@@ -189,13 +190,13 @@ class ScenePainter {
         const scale = mapping.scale;
         const around = new Box();
         const tracer = new Tracer(context, mapping, window, false);
+        let drawn = 0;
         for (let brush = 0; brush + 1 < first.length; brush++) {
             if (first[brush] === first[brush + 1]) {
                 continue;
             }
             this.useBrush(context, brush);
             context.beginPath();
-            let drawn = 0;
             for (let i = first[brush]; i < first[brush + 1]; i++) {
                 const p = items[i];
                 const shape = geometry.shape[p];
@@ -221,8 +222,8 @@ class ScenePainter {
                 }
             }
             context.stroke();
-            yield;
         }
+        yield;
     }
 
     // Whether a pixel has a dot from now on, and had none.
@@ -294,7 +295,7 @@ class ScenePainter {
     family(context, family, region) {
         const {density} = this.look;
         if (!(family.gap >= leastGap * density)) {
-            context.globalAlpha = Math.min(0.5, Math.max(0.12, 0.5 * density / family.gap));
+            context.globalAlpha = Math.min(0.3, Math.max(0.12, 0.5 * density / family.gap));
             context.fillRect(region.left, region.bottom, region.right - region.left, region.top - region.bottom);
             context.globalAlpha = 1;
             return;
@@ -343,21 +344,11 @@ class ScenePainter {
             context.globalAlpha = 1;
             return;
         }
-        const unit = place.height / this.capitals(context);
+        const unit = place.height / this.capitals;
         const wide = numbers[at + 4] ? numbers[at + 4] / context.measureText(text).width : unit;
         context.setTransform(along[0] * wide, along[1] * wide, -up[0] * unit, -up[1] * unit, x, y);
         context.textAlign = ['left', 'center', 'right'][place.column];
         context.fillText(text, 0, -place.baseline / unit);
-    }
-
-    // Sets the font, and tells the height of its capitals.
-    capitals(context) {
-        if (context !== this.lettered) {
-            context.font = lettersSize + 'px system-ui, sans-serif';
-            this.lettered = context;
-            this.capitalHeight = context.measureText('H').actualBoundingBoxAscent || lettersSize * 0.72;
-        }
-        return this.capitalHeight;
     }
 
     *references(context, references, mapping, window, parent, depth) {

@@ -77,9 +77,9 @@ class Painter {
         if (match[4][0] === '#' || this.keywords.has(this.ignoresCase ? match[4].toLowerCase() : match[4])) {
             return 'keyword';
         }
-        const before = match.index > 0 ? line[match.index - 1] : '';
-        return before === '.' && line[match.index - 2] !== undefined || before === '>' || /^\s*\(/.test(line.slice(end, end + 8))
-            ? 'call' : '';
+        // In Basic, elements of arrays look like calls.
+        const isCalled = !this.ignoresCase && /^\s*\(/.test(line.slice(end, end + 8));
+        return isCalled || /[.>]/.test(line.slice(0, match.index).slice(-1)) ? 'call' : '';
     }
 }
 

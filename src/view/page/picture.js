@@ -16,6 +16,7 @@ class Picture {
         this.scene = Scene.ofData(data);
         this.painter = new ScenePainter(this.scene);
         this.views = new Map(); // by space, as they were left
+        this.fitted = new Set(); // spaces of which all is shown, in whatever size
         this.lastChoice = {time: 0, objects: [], at: 0};
         this.version = 0;
         this.density = window.devicePixelRatio || 1;
@@ -69,6 +70,10 @@ class Picture {
         this.modes = ['recorded', 'compared'].map(mode => button(mode === 'recorded' ? 'Recorded' : 'Compared',
             {'data-mode': mode}, () => state.set({mode: mode}, 'picture')));
         modes.append(...this.modes);
+        modes.hidden = !['recorded', 'repaired', 'edited'].some(form => {
+            const one = this.data.formOf('javascript', form);
+            return one && one.status === 0;
+        });
         return element('div', {class: 'paneHead'}, element('h2', {}, 'Drawing'), this.spaces, this.notDrawn(),
             element('span', {class: 'filler'}), modes);
     }
@@ -145,6 +150,7 @@ class Picture {
             matchMedia(query).addEventListener('change', () => this.readColors());
         }
         new ResizeObserver(() => this.resize()).observe(this.stage);
+        window.addEventListener('resize', () => this.resize());
         document.addEventListener('keydown', event => this.key(event));
         paneActs.picture = {focus: () => this.stage.focus(), center: () => this.center()};
         document.addEventListener('click', event => {
@@ -182,10 +188,10 @@ class Picture {
         this.marks.height = this.height = height;
         this.views.forEach((view, space) => this.views.set(space,
             resizedView(view, oldWidth, oldHeight, width, height, density / this.density)));
+        this.fitted.forEach(space => this.views.delete(space));
         this.density = density;
         this.keptPicture.resize(width, height);
-        this.showView(this.views.get(this.space) || this.viewOfAll());
-        this.keptPicture.renew();
+        this.showSpaceView();
     }
 
     // The state as a painter needs it.
@@ -218,25 +224,29 @@ class Picture {
         }
         const scene = this.drawnScene;
         const dotted = this.brushes[brushKinds.comparison + 4];
-        const brushes = this.brushes.slice();
+        const brushes = Object.assign(this.brushes.slice(), {ofStyles: this.brushes.ofStyles});
         brushes[brushKinds.comparison + 2] = dotted; // recorded otherwise, which its own stroke shows
         yield* new ScenePainter(scene).paint(context, view, Object.assign({}, look, {brushes: brushes,
             kinds: Uint8Array.from(run.drawn, one => one.kind), visibility: {shows: () => true}}));
     }
 
-    // Whether what comes between two steps only adds to the picture.
-    onlyAdds(before, after) {
-        const {from, until} = this.scene.geometry;
-        const {index} = this.data;
-        if (after < before || index.layerSwitches.some(({step}) => step >= before && step < after)) {
-            return false;
-        }
+    // What happens to the picture from one state of the slider to another: whether it only grows, and whether definitions
+    // of blocks change.
+    changeBetween(before, after) {
+        const {from, until, space} = this.scene.geometry;
+        const {spaces, layerSwitches} = this.data.index;
+        const [low, high] = [Math.min(before, after), Math.max(before, after)];
+        const isWithin = step => step >= low && step < high;
+        let grows = after > before && !layerSwitches.some(({step}) => isWithin(step));
+        let defines = false;
         for (let p = 0; p < from.length; p++) {
-            if (until[p] >= before && until[p] < after && from[p] < before) {
-                return false;
+            const goes = until[p] >= low && until[p] < high;
+            if (goes || from[p] >= low && from[p] < high) {
+                grows = grows && !(goes && from[p] < low);
+                defines = defines || spaces[space[p]].kind === 'block';
             }
         }
-        return true;
+        return {grows: grows, defines: defines};
     }
 
     stepped() {
@@ -247,15 +257,11 @@ class Picture {
         if (space !== spaceAt(this.data.index, before)) {
             state.set({space: space}, 'picture');
         }
-        if (this.isTimed === undefined) {
-            this.isTimed = this.data.index.spaces.some((one, number) => one.kind === 'block' &&
-                this.scene.isTimed(number));
-        }
-        if (this.isTimed) {
-            this.version++;
-        }
+        const {grows, defines} = this.changeBetween(before, step);
+        const isAlone = this.data.index.spaces[this.space].kind !== 'sheet'; // which may show model space
+        this.version += defines ? 1 : 0;
         this.tellNothing();
-        if (!this.isTimed && this.onlyAdds(before, step)) {
+        if (grows && isAlone && !defines) {
             this.keptPicture.extend(before);
         } else {
             this.keptPicture.renew();
@@ -279,9 +285,17 @@ class Picture {
         this.canvas.setAttribute('aria-label', this.sentence(this.scene.extentsOf(this.space)));
         this.tellNothing();
         if (this.width) {
-            this.showView(this.views.get(this.space) || this.viewOfAll());
-            this.keptPicture.renew();
+            this.showSpaceView();
         }
+    }
+
+    showSpaceView() {
+        if (this.views.has(this.space)) {
+            this.showView(this.view);
+        } else {
+            this.fitAll();
+        }
+        this.keptPicture.renew();
     }
 
     // Says why the picture is empty.
@@ -335,6 +349,7 @@ class Picture {
     }
 
     showView(view) {
+        this.fitted.delete(this.space);
         this.views.set(this.space, view);
         this.keptPicture.show(view);
     }
@@ -345,6 +360,7 @@ class Picture {
 
     fitAll() {
         this.showView(this.viewOfAll());
+        this.fitted.add(this.space);
     }
 
     fitChosen() {
@@ -448,7 +464,7 @@ class Picture {
     point(x, y) {
         const [worldX, worldY] = [this.view.x + x * this.density / this.view.scale,
             this.view.y - y * this.density / this.view.scale];
-        const digits = Math.max(0, Math.min(8, Math.ceil(Math.log10(this.view.scale))));
+        const digits = Math.max(0, Math.min(8, Math.ceil(Math.log10(this.view.scale / this.density)) + 1));
         this.place.textContent = 'x ' + worldX.toFixed(digits) + ' y ' + worldY.toFixed(digits);
         const [object] = this.objectsAt(x, y, mouseReach);
         this.canvas.style.cursor = object === undefined ? '' : 'pointer';
@@ -533,7 +549,23 @@ class Picture {
         this.showBar(view);
     }
 
-    // Returns the box of what it has drawn.
+    // Those of an object that are there now in the space that is shown, or where none is those that were last, or come
+    // first.
+    seenOf(object) {
+        const {geometry} = this.scene;
+        const {step} = state.get();
+        const all = this.scene.primitivesOf(object).filter(p => geometry.space[p] === this.space);
+        const there = all.filter(p => this.scene.isThere(p, step));
+        if (there.length || !all.length) {
+            return {primitives: there, isThere: true};
+        }
+        const before = all.filter(p => geometry.from[p] < step);
+        const froms = Array.from(before.length ? before : all, p => geometry.from[p]);
+        const from = before.length ? Math.max(...froms) : Math.min(...froms);
+        return {primitives: all.filter(p => geometry.from[p] === from), isThere: false};
+    }
+
+    // Returns the box of what it has drawn. What is not there now is dashed.
     halo(context, view, objects, width, alpha, isChosen) {
         const {density, palette, scene} = this;
         const mapping = Mapping.ofView(view);
@@ -543,10 +575,12 @@ class Picture {
         const path = new Path2D();
         const frames = new Path2D();
         let count = 0;
-        const {step} = state.get();
+        let isDashed = false;
         for (const object of objects) {
-            for (const p of scene.primitivesOf(object)) {
-                if (scene.geometry.space[p] === this.space && scene.isThere(p, step) && count++ < mostHaloed) {
+            const {primitives, isThere} = this.seenOf(object);
+            isDashed = isDashed || !isThere;
+            for (const p of primitives) {
+                if (count++ < mostHaloed) {
                     box.addStored(scene.boxes, p);
                     this.painter.trace(path, frames, p, mapping, window, 4 * density);
                 }
@@ -556,11 +590,15 @@ class Picture {
         context.strokeStyle = context.fillStyle = palette.accent;
         context.globalAlpha = alpha;
         context.lineWidth = width * density;
-        context.stroke(path);
+        context.setLineDash([]);
+        if (!isDashed) {
+            context.stroke(path);
+        }
         context.fill(frames);
         context.globalAlpha = 1;
-        if (isChosen) {
+        if (isChosen || isDashed) {
             context.lineWidth = 2 * density;
+            context.setLineDash(isDashed ? [5 * density, 5 * density] : []);
             context.stroke(path);
         }
         if (!box.isEmpty) {

@@ -45,6 +45,12 @@ class Scene {
         return items.sort();
     }
 
+    // The primitives of a space that come between two steps.
+    comers(space, before, after) {
+        const {from} = this.geometry;
+        return this.members.of(space).filter(p => from[p] >= before && from[p] < after);
+    }
+
     // At a step of the slider, which is the number of steps that are done.
     isThere(p, step) {
         const {from, until} = this.geometry;
@@ -79,11 +85,6 @@ class Scene {
             }
         }
         return box;
-    }
-
-    // Whether what the space holds is not the same behind all steps.
-    isTimed(space) {
-        return this.members.of(space).some(p => this.geometry.from[p] !== -1 || this.geometry.until[p] !== -1);
     }
 }
 
@@ -125,12 +126,14 @@ class Visibility {
 
 // Takes lines and knows how near they come to a point, and whether the loops that they make hold it.
 class Measure {
-    constructor(x, y) {
+    // Begins anew, for a point.
+    of(x, y) {
         this.x = x;
         this.y = y;
         this.distance = Infinity;
         this.isInside = false;
         this.startX = this.startY = this.lastX = this.lastY = NaN;
+        return this;
     }
 
     moveTo(x, y) {
@@ -145,8 +148,9 @@ class Measure {
         const length = dx * dx + dy * dy;
         const along = length ? ((this.x - this.lastX) * dx + (this.y - this.lastY) * dy) / length : 0;
         const share = Math.min(1, Math.max(0, along));
-        this.distance = Math.min(this.distance,
-            Math.hypot(this.lastX + share * dx - this.x, this.lastY + share * dy - this.y));
+        const apartX = this.lastX + share * dx - this.x;
+        const apartY = this.lastY + share * dy - this.y;
+        this.distance = Math.min(this.distance, Math.sqrt(apartX * apartX + apartY * apartY));
         this.cross(x, y);
         this.lastX = x;
         this.lastY = y;
@@ -169,16 +173,19 @@ class Picker {
     constructor(scene, visibility) {
         this.scene = scene;
         this.visibility = visibility;
+        this.measure = new Measure();
+        this.near = {left: 0, bottom: 0, right: 0, top: 0};
     }
 
     // Objects within reach of a pixel, the nearest first.
     objectsAt(space, view, x, y, reach) {
         const mapping = Mapping.ofView(view);
-        const world = {x: view.x + x / view.scale, y: view.y - y / view.scale, reach: reach / view.scale};
+        const {found} = this.scene;
         const {grid, endless} = this.scene.gridOf(space);
-        const count = grid.queryPoint(world.x, world.y, world.reach, this.scene.found);
+        const count = grid.queryPoint(view.x + x / view.scale, view.y - y / view.scale, reach / view.scale, found);
         const nearest = new Map();
-        for (const p of [...this.scene.found.slice(0, count), ...endless]) {
+        for (let i = 0; i < count + endless.length; i++) {
+            const p = i < count ? found[i] : endless[i - count];
             const distance = this.distanceTo(p, mapping, x, y, reach);
             const object = this.scene.geometry.object[p];
             if (distance <= reach && !(nearest.get(object) <= distance)) {
@@ -196,15 +203,15 @@ class Picker {
         if (!this.visibility.shows(p)) {
             return Infinity;
         }
-        const near = {left: x - reach, bottom: y - reach, right: x + reach, top: y + reach};
-        const measure = new Measure(x, y);
+        const measure = this.measure.of(x, y);
+        Object.assign(this.near, {left: x - reach, bottom: y - reach, right: x + reach, top: y + reach});
         switch (geometry.shape[p]) {
         case Shapes.point:
             return Math.hypot(mapping.x(numbers[first], numbers[first + 1]) - x,
                 mapping.y(numbers[first], numbers[first + 1]) - y);
         case Shapes.ray:
         case Shapes.xline:
-            traceEndless(measure, mapping, near, geometry, p);
+            traceEndless(measure, mapping, this.near, geometry, p);
             return measure.distance;
         case Shapes.text:
             traceText(measure, mapping, numbers, first, this.scene.textOf(numbers[first + 6]));
@@ -215,7 +222,7 @@ class Picker {
         case Shapes.reference:
             return this.distanceToReferred(p, mapping, x, y, reach, depth);
         default:
-            new Tracer(measure, mapping, near, true).primitive(geometry, p);
+            new Tracer(measure, mapping, this.near, true).primitive(geometry, p);
             if (geometry.shape[p] !== Shapes.area && geometry.shape[p] !== Shapes.pattern) {
                 return measure.distance;
             }

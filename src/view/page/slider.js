@@ -100,7 +100,7 @@ class Slider {
         const context = canvas.getContext('2d');
         const palette = readPalette(canvas, context);
         const style = getComputedStyle(canvas);
-        const colors = [palette.line, style.getPropertyValue('--lost'), style.getPropertyValue('--fault'),
+        const colors = [palette.there, style.getPropertyValue('--lost'), style.getPropertyValue('--fault'),
             style.getPropertyValue('--lost')];
         const every = ticks ? Math.ceil(ticks.length / drawnTicks) : 1;
         const room = ticks ? canvas.width * every / ticks.length : 0;

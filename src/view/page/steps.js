@@ -29,6 +29,7 @@ function findingElement(finding) {
 class Findings {
     constructor(data, target, form, map) {
         this.byStep = new Map();
+        this.ofKinds = new Map();
         for (const note of data.notesOf(target, form)) {
             const isLoss = note.kind === 'loss';
             const what = note.property ? 'property “' + note.property + '”, ' : '';
@@ -59,9 +60,12 @@ class Findings {
     }
 
     // Steps with a finding of a kind, or with any, in order.
-    steps(kind = null) {
-        const steps = [...this.byStep.keys()].filter(step => !kind || this.of(step).some(one => one.kind === kind));
-        return steps.sort((one, other) => one - other);
+    steps(kind = '') {
+        if (!this.ofKinds.has(kind)) {
+            const steps = [...this.byStep.keys()].filter(step => !kind || this.of(step).some(one => one.kind === kind));
+            this.ofKinds.set(kind, Uint32Array.from(steps).sort());
+        }
+        return this.ofKinds.get(kind);
     }
 }
 
@@ -186,8 +190,20 @@ class StepsPane {
     }
 
     // Of the height of a row; a finding has two lines mostly.
-    estimate(step) {
-        return rowHeight() + this.findings.of(step).length * 41;
+    estimate(step, height = rowHeight()) {
+        return height + this.findings.of(step).length * 41;
+    }
+
+    estimates() {
+        const height = rowHeight();
+        const heights = [];
+        for (const step of this.findings.steps()) {
+            const row = this.rowOf(step);
+            if (row >= 0) {
+                heights.push([row, this.estimate(step, height)]);
+            }
+        }
+        return heights;
     }
 
     async readFindings() {
@@ -228,8 +244,7 @@ class StepsPane {
         }
         this.shown = shownSteps(this.data, filter, chip, this.findings);
         this.showChips();
-        this.list.setCount(this.rowCount, [...this.findings.byStep.keys()].map(step => [this.rowOf(step), step])
-            .filter(([row]) => row >= 0).map(([row, step]) => [row, this.estimate(step)]));
+        this.list.setCount(this.rowCount, this.estimates());
         const isEmpty = this.rowCount === 0;
         this.nothing.hidden = !isEmpty;
         this.nothing.textContent = this.data.steps.count ? 'No step is like that.' : 'The recording has no steps.';
