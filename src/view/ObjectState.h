@@ -59,8 +59,7 @@ public:
     void unsay(const QString& tag);
     /// Moves it by more than what its properties tell.
     void transform(const Affine& by) { moved_ = by * moved_; }
-    /// By how much its properties lag behind.
-    const Affine& moved() const { return moved_; }
+    const Affine& moved() const override { return moved_; }
     /// Of the values that the changes replace those that nobody has told yet. False when there are none.
     bool takeFormer(const PropertyList& changes);
     /// What tells where it is and how it looks.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "view/Pen.h"
+#include "view/Affine.h"
 
 #include "host/db/OdDbDatabase.h"
 #include "host/kernel/CFxVariant.h"
@@ -27,6 +27,8 @@ public:
     virtual const CFxVariant* find(const QString& tag, int index = -1) const = 0;
     /// How many values a repeated tag has.
     virtual int count(const QString& tag) const = 0;
+    /// By how much its properties lag behind; what is drawn of it is moved so.
+    virtual const Affine& moved() const = 0;
     /// Gives the values of a repeated tag with their indexes, in the order in which they were said.
     using Visit = std::function<void(int index, const CFxVariant& value)>;
     virtual void visit(const QString& tag, const Visit& visit) const = 0;

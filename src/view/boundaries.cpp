@@ -5,6 +5,7 @@
 #include "view/kinds.h"
 #include "view/pathSteps.h"
 #include "view/plane.h"
+#include "view/transform.h"
 
 #include <algorithm>
 #include <cmath>
@@ -136,7 +137,7 @@ void takeSteps(std::span<const double> numbers, std::vector<Chain>& chains)
 }
 
 /// What is drawn of an object, as chains.
-void takeObject(const Values& object, std::vector<Chain>& chains)
+void takeObject(const Values& object, const Affine& moved, std::vector<Chain>& chains)
 {
     const Drawer drawer = outlineDrawerOf(object.className());
     if (!drawer)
@@ -146,6 +147,8 @@ void takeObject(const Values& object, std::vector<Chain>& chains)
     Pen pen(drawing, {.object = 0, .layer = 0, .color = {}, .space = 0, .from = kNoStep, .until = kNoStep});
     drawer(object, pen);
     for (const Primitive& primitive : drawing.primitives) {
+        if (!moved.isIdentity())
+            transform(primitive, drawing, moved);
         const std::span<const double> n = drawing.numbersOf(primitive);
         if (primitive.shape == Shape::Line)
             chains.push_back({{PathStep::Line, {n[0], n[1]}, {n[2], n[3]}, {}}});
@@ -252,11 +255,11 @@ void chainUp(const std::vector<Chain>& chains, double tolerance, std::vector<Out
 
 } // namespace
 
-std::vector<Outline> loopsAlong(const std::vector<const Values*>& objects)
+std::vector<Outline> loopsAlong(const std::vector<const Values*>& objects, const Affine& moved)
 {
     std::vector<Chain> chains;
     for (const Values* const object : objects)
-        takeObject(*object, chains);
+        takeObject(*object, moved.inverse() * object->moved(), chains);
     const double tolerance = toleranceOf(chains);
     std::vector<Outline> loops;
     const auto isClosed = [&](const Chain& chain) {

@@ -36,6 +36,8 @@ DimensionPen::DimensionPen(const Values& dimension, Pen& pen)
     : dimension_(dimension), pen_(pen), settings_(dimension), arrowSize_(settings_.arrowSize())
 {
     pen_.setRole(Role::Dimension);
+    for (const QString& clause : settings_.omissions())
+        pen_.remark(clause);
 }
 
 void DimensionPen::extensionLine(int number, Point measured, Point foot)

@@ -121,6 +121,26 @@ std::vector<QString> DimensionSettings::lines(const QString& measured) const
     return linesOfNote(text);
 }
 
+QStringList DimensionSettings::omissions() const
+{
+    constexpr int kClosedFilled = 0;
+    constexpr int kDecimal = 2;
+    constexpr int kAsWindows = 6;
+    QStringList clauses;
+    const bool hasOtherArrow = choice("Arrow 1", "Start arrow").value_or(kClosedFilled) != kClosedFilled ||
+                               choice("Arrow 2", "End arrow").value_or(kClosedFilled) != kClosedFilled;
+    if (hasOtherArrow)
+        clauses.append("its arrows as closed and filled ones");
+    if (choice("Tolerance display", "ToleranceSettingsCalculation").value_or(0) != 0)
+        clauses.append("its tolerances are left out");
+    if (isYes("Alt enabled", "Show dual dimensions"))
+        clauses.append("its second unit is left out");
+    if (const int format = choice("Dim UnitSystem", "LinearDimensionsFormat").value_or(kDecimal);
+        format != kDecimal && format != kAsWindows)
+        clauses.append("its lengths as decimal numbers");
+    return clauses;
+}
+
 std::optional<double> DimensionSettings::number(const char* own, const char* ofStyle) const
 {
     const std::optional<double> told = dimension_.number(own);

@@ -2,6 +2,8 @@
 
 #include "view/Values.h"
 
+#include <QStringList>
+
 namespace inkmacro::view {
 
 /// How a dimension looks: as it says itself, else as its style does, else as is usual where sizes are millimeters.
@@ -30,6 +32,9 @@ public:
     /// What is measured, as it is written; the symbol stands in front of a length that has no prefix.
     QString length(double measured, const QString& symbol = QString()) const;
     QString angle(double measured) const;
+
+    /// What of it is not drawn, as clauses.
+    QStringList omissions() const;
 
     /// The text, in which what is measured may stand; no lines when there is none.
     std::vector<QString> lines(const QString& measured) const;

@@ -63,7 +63,7 @@ Loops loopsAlongHandles(const Values& values, const std::vector<OdDbHandle>& han
     for (const OdDbHandle& handle : seen)
         if (const Values* const object = handle.isNull() ? nullptr : values.other(handle))
             objects.push_back(object);
-    return loopsAlong(objects);
+    return loopsAlong(objects, values.moved());
 }
 
 Loops drawnLoops(const Values& values)

@@ -55,6 +55,13 @@ std::optional<Point> farChordPoint(const Values& values, Point chordPoint)
     return fromAbove(drawn->farChordPoint());
 }
 
+/// Of the curve that the drawing has, else as far as the points are apart.
+double radiusOf(const Values& values, double apart)
+{
+    const std::optional<MeasuredCurve> curve = measuredCurve(values, kCurve);
+    return curve && curve->radius > 0.0 ? curve->radius : apart;
+}
+
 /// The text stands over the line where it has room there, else behind its end.
 void drawMeasured(DimensionPen& parts, Point from, Point to, int arrows, const QString& text)
 {
@@ -114,7 +121,8 @@ void drawDiameter(const Values& values, Pen& pen)
     parts.plainLine(*far, chord);
     parts.arrow(chord, direction);
     parts.arrow(*far, direction * -1.0);
-    drawMeasured(parts, *far, chord, 2, parts.settings().length(distanceOf(*far, chord), diameterSign()));
+    drawMeasured(parts, *far, chord, 2,
+                 parts.settings().length(2.0 * radiusOf(values, distanceOf(*far, chord) / 2.0), diameterSign()));
 }
 
 void drawRadius(const Values& values, Pen& pen)
@@ -126,9 +134,10 @@ void drawRadius(const Values& values, Pen& pen)
         parts.remark(center ? "its points coincide" : kNoCurve);
         return;
     }
+    const double radius = radiusOf(values, distanceOf(*center, chord));
     parts.plainLine(*center, chord);
     parts.arrow(chord, unitOf(chord - *center));
-    drawMeasured(parts, *center, chord, 1, parts.settings().length(distanceOf(*center, chord), radiusSign()));
+    drawMeasured(parts, *center, chord, 1, parts.settings().length(radius, radiusSign()));
 }
 
 /// The record has the point on the curve where others have the place of their text.
@@ -146,7 +155,8 @@ void drawJogged(const Values& values, Pen& pen)
     const Point direction = unitOf(chord - *center);
     parts.plainPath(jogLine(jog, direction, values.number("Jog angle").value_or(kTurn / 8)));
     parts.arrow(chord, direction);
-    parts.textBehind(chord, direction, parts.settings().length(distanceOf(*center, chord), radiusSign()));
+    const double radius = radiusOf(values, distanceOf(*center, chord));
+    parts.textBehind(chord, direction, parts.settings().length(radius, radiusSign()));
 }
 
 } // namespace inkmacro::view

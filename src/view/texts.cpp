@@ -118,6 +118,8 @@ void drawNoteAt(const Values& note, Pen& pen, Point at, std::optional<int> attac
     block.attachment = attachment.value_or(block.attachment);
     drawBackground(note, pen, block);
     drawBlock(pen, block);
+    if (note.text("Direction").value_or(QString()).compare("Vertical", Qt::CaseInsensitive) == 0)
+        pen.remark("its letters side by side and not below one another");
 }
 
 void drawText(const Values& values, Pen& pen)

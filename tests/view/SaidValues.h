@@ -43,6 +43,9 @@ public:
         return *this;
     }
 
+    const OdDbObjectPtr& drawnObject() const { return drawn_; }
+
+    void move(const inkmacro::view::Affine& by) { moved_ = by; }
     void know(std::uint64_t handle, const Values& other) { others_[OdDbHandle(handle)] = &other; }
     void know(const QString& name, const Values& record) { records_[name] = &record; }
 
@@ -61,6 +64,7 @@ public:
         visit(tag, [&count](int, const CFxVariant&) { ++count; });
         return count;
     }
+    const inkmacro::view::Affine& moved() const override { return moved_; }
     void visit(const QString& tag, const Visit& visit) const override
     {
         for (const Said& one : said_)
@@ -97,6 +101,7 @@ private:
     QString className_;
     std::vector<Said> said_;
     OdDbObjectPtr drawn_;
+    inkmacro::view::Affine moved_;
     std::map<OdDbHandle, const Values*> others_;
     std::map<QString, const Values*> records_;
 };

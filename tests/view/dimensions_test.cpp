@@ -1,5 +1,6 @@
 #include "Drawn.h"
 
+#include "host/db/OdDbClasses.h"
 #include "view/drawers.h"
 
 #include <cmath>
@@ -180,6 +181,41 @@ TEST(Dimensions, RadiusIsThatOfTheCurveItHangsOn)
     EXPECT_EQ(drawn.corners(Shape::Area).size(), 1U);
     EXPECT_EQ(arrow(drawn, 0)[0], (Point{10, 42}));
     EXPECT_EQ(drawn.texts(), QStringList{"R32 typ."});
+}
+
+TEST(Dimensions, RadiusOfACurveOfTheDrawingIsItsOwn)
+{
+    OdDbDatabase database;
+    const OdDbObjectId circle = database.addObject(OdDbHandle(0x32), odrxNew<OdDbCircle>(OdGePoint3d{10, 10, 0}, 8.25));
+    SaidValues association("AcDbDimAssoc");
+    association.draw("pointRefs", OdDbFour<OdArray<OdDbObjectId>>{{{}, {circle}, {}, {}}});
+    const OdDbObjectId entry = database.addObject(OdDbHandle(0xA32), association.drawnObject());
+    SaidValues curve("AcDbCircle");
+    curve.say("Center X", 10.0).say("Center Y", 10.0).say("Radius", 8.25);
+
+    SaidValues radius("AcDbRadialDimension");
+    radius.draw("extensionDictionary", OdDbNamedIds{{"ACAD_DIMASSOC", entry}}).say("chordPoint", Point{10, 18.3});
+    radius.know(0x32, curve);
+    const Drawn drawn(drawRadius, radius);
+    expectNear(drawn.lines().at(0), {10, 10, 10, 18.3});
+    EXPECT_EQ(drawn.texts(), QStringList{"R8.25"});
+
+    SaidValues diameter("AcDbDiametricDimension");
+    diameter.draw("extensionDictionary", OdDbNamedIds{{"ACAD_DIMASSOC", entry}}).say("chordPoint", Point{10, 18.3});
+    diameter.know(0x32, curve);
+    const Drawn across(drawDiameter, diameter);
+    expectNear(across.lines().at(0), {10, 1.7, 10, 18.3});
+    EXPECT_EQ(across.texts(), QStringList{QString::fromUtf8("Ø16.5")});
+}
+
+TEST(Dimensions, SayWhatIsLeftOut)
+{
+    SaidValues dimension = aligned({0, 0}, {40, 0}, {0, 10});
+    EXPECT_TRUE(Drawn(drawAlignedDimension, dimension).remark().isEmpty());
+    dimension.say("Arrow 2", 6).say("Tolerance display", 1).say("Alt enabled", "Yes").say("Dim UnitSystem", 4);
+    EXPECT_EQ(Drawn(drawAlignedDimension, dimension).remark(),
+              "its arrows as closed and filled ones; its tolerances are left out; its second unit is left out; "
+              "its lengths as decimal numbers");
 }
 
 TEST(Dimensions, JoggedStepsAside)

@@ -148,6 +148,18 @@ TEST(Boundaries, ChainWhatMeets)
                 kind(PathStep::Line), 0, 10, kind(PathStep::Line), 0, 0, kind(PathStep::Close)});
 }
 
+TEST(Boundaries, FollowWhatIsMoved)
+{
+    SaidValues edge = line({0, 0}, {10, 0});
+    edge.move(Affine::moved(5, 7));
+    const auto kind = [](PathStep step) { return static_cast<double>(step); };
+    expectNear(steps(loopsAlong({&edge}).at(0)),
+               {kind(PathStep::Move), 5, 7, kind(PathStep::Line), 15, 7, kind(PathStep::Close)});
+    // A hatch that is moved with it is moved when it is drawn.
+    expectNear(steps(loopsAlong({&edge}, Affine::moved(5, 7)).at(0)),
+               {kind(PathStep::Move), 0, 0, kind(PathStep::Line), 10, 0, kind(PathStep::Close)});
+}
+
 TEST(Boundaries, CloseWhatStaysOpen)
 {
     const SaidValues first = line({0, 0}, {10, 0});
