@@ -1,5 +1,6 @@
 // Texts of one line, notes and texts along an arc.
 
+#include "view/attributes.h"
 #include "view/drawers.h"
 #include "view/leaders.h"
 #include "view/noteText.h"
@@ -122,6 +123,18 @@ void drawNoteAt(const Values& note, Pen& pen, Point at, std::optional<int> attac
         pen.remark("its letters side by side and not below one another");
 }
 
+void drawAttributeValue(const Values& definition, const QString& value, const Affine& place, Pen& pen)
+{
+    const double height = sizeOf({definition.number("Height")}, kUsualHeightOfAttributes);
+    Letters letters = placed(definition, {.text = plainText(value), .at = {}, .height = height});
+    letters.at = place * letters.at;
+    letters.angle += place.angle();
+    letters.height *= place.factor();
+    letters.width *= place.factor();
+    if (!letters.text.trimmed().isEmpty())
+        pen.text(letters);
+}
+
 void drawText(const Values& values, Pen& pen)
 {
     const double height = sizeOf({values.number("Height"), heightOfTextStyle(values, "TextStyle")}, kUsualHeight);
@@ -140,8 +153,10 @@ void drawNote(const Values& values, Pen& pen)
 void drawAttribute(const Values& values, Pen& pen)
 {
     const auto* const drawn = values.drawnAs<OdDbAttribute>();
-    const QString named = values.className() == "AcDbAttribute" ? QStringLiteral("Value") : QStringLiteral("Tag");
-    const QString text = values.text(named).value_or(drawn ? drawn->textString() : QString());
+    const bool isDefinition = values.className() != "AcDbAttribute";
+    const QString text = values.text(isDefinition ? "Tag" : "Value").value_or(drawn ? drawn->textString() : QString());
+    if (isDefinition)
+        pen.setRole(Role::Tag);
     if (placeOf(values, "Position") || placeOf(values, "Text alignment"))
         drawLetters(values, pen, plainText(text), sizeOf({values.number("Height")}, kUsualHeightOfAttributes));
 }

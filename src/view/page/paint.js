@@ -419,7 +419,8 @@ class ScenePainter {
         for (const p of depth < deepestNesting ? this.scene.members.of(space) : []) {
             const shape = geometry.shape[p];
             const number = this.brushOf(p, parent);
-            if (!this.look.visibility.shows(p) || shape === Shapes.window) {
+            const isTag = this.scene.data.index.styles[geometry.style[p]].role === 'tag';
+            if (isTag || !this.look.visibility.shows(p) || shape === Shapes.window) {
                 continue;
             }
             if (shape === Shapes.reference) {
