@@ -146,6 +146,24 @@ TEST(Drawers, EllipsesAndArcs)
     expectBox(extentsOf(0, seen.picture), {-1, -6, 3, 6});
 }
 
+TEST(Drawers, EllipsesAslant)
+{
+    const QString ellipse = added("AcDbEllipse", "30",
+                                  {{"Center X", "0"},
+                                   {"Major axis vector X", "4"},
+                                   {"Minor radius", "2"},
+                                   {"Start angle", "0"},
+                                   {"End angle", "0"}});
+    const auto tilted = [](const char* minor) {
+        return QString(R"({"object":{"class":"AcDbEllipse","handle":"30","majorAxis":[4,0,0],"minorAxis":[%1]}})")
+            .arg(minor);
+    };
+    expectNear(RecordedPicture({tilted("0,1.2,1.6"), ellipse}).behind(1), {{3, 0, 0, 4, 0, 0, 1.2, 0, 2 * kPi}});
+    // Not across the longer axis, so it has been turned since.
+    expectNear(RecordedPicture({tilted("1.6,1.2,0"), ellipse}).behind(1), {{3, 0, 0, 4, 0, 0, 2, 0, 2 * kPi}});
+    expectNear(RecordedPicture({tilted("0,0,2")}).behind(0), {{3, 0, 0, 4, 0, 0, 0, 0, 2 * kPi}});
+}
+
 TEST(Drawers, SplinesThroughTheirPoints)
 {
     const RecordedPicture natural(
@@ -298,4 +316,12 @@ TEST(Drawers, BlocksOfOtherDrawingsAndPictures)
     expectBox(extentsOf(seen.object(0x32).space, seen.picture), {0, 0, 4, 3});
     for (const Primitive& primitive : seen.picture.primitives)
         EXPECT_EQ(seen.picture.styles[primitive.style].role, Role::Frame);
+
+    const char* const clipped = R"({"handle":"32"},{"class":"AcDbViewport"},{"points2d":[[0,0],[9,0],[9,9]]})";
+    const RecordedPicture viewport(
+        {added("AcDbViewport", "32", {{"Center X", "5"}, {"Center Y", "5"}, {"Width", "4"}, {"Height", "2"}}),
+         custom(48, clipped)});
+    EXPECT_EQ(viewport.picture.primitives.size(), 2U);
+    expectBox(boxOf(viewport.picture.primitives[0], viewport.picture), {3, 4, 7, 6});
+    expectBox(boxOf(viewport.picture.primitives[1], viewport.picture), {0, 0, 9, 9});
 }
