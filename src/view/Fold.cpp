@@ -5,6 +5,7 @@
 #include "view/transform.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace inkmacro::view {
 
@@ -377,8 +378,7 @@ void Fold::draw(ObjectState& state)
             pen.remark("its data do not fit together");
         }
         if (!state.moved().isIdentity())
-            for (std::size_t i = first; i < picture_.primitives.size(); ++i)
-                transform(picture_.primitives[i], picture_, state.moved());
+            moveDrawn(state, first);
     }
     object.layer = state.layer;
     object.space = state.space;
@@ -395,6 +395,21 @@ void Fold::draw(ObjectState& state)
     }
     state.firstPrimitive = first;
     state.primitives = picture_.primitives.size() - first;
+}
+
+void Fold::moveDrawn(const ObjectState& state, std::size_t first)
+{
+    const auto isInfinite = [&](const Primitive& primitive) {
+        transform(primitive, picture_, state.moved());
+        const auto numbers = picture_.numbersOf(primitive);
+        return !std::all_of(numbers.begin(), numbers.end(), [](double number) { return std::isfinite(number); });
+    };
+    std::vector<Primitive>& primitives = picture_.primitives;
+    const auto last =
+        std::remove_if(primitives.begin() + static_cast<std::ptrdiff_t>(first), primitives.end(), isInfinite);
+    if (last != primitives.end())
+        remark(state, Pen::kNotFinite);
+    primitives.erase(last, primitives.end());
 }
 
 /// Whether the primitives from that one on are those that the object has already.

@@ -56,6 +56,8 @@ private:
     void style(ObjectState& state);
     PictureObject& objectOf(const ObjectState& state);
     void draw(ObjectState& state);
+    /// From that primitive on.
+    void moveDrawn(const ObjectState& state, std::size_t first);
     bool isAsBefore(const ObjectState& state, std::size_t first) const;
     void finish();
     void explainMissing();

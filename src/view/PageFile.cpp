@@ -124,8 +124,8 @@ QByteArray scriptOfMacro(const QByteArray& macro)
         return {};
     const int from = macro.indexOf('>', begin) + 1;
     const int end = macro.indexOf("</script>", from);
-    // As a browser reads it: bytes that are no text become the sign for that.
-    return QString::fromUtf8(macro.mid(from, end < 0 ? -1 : end - from)).toUtf8();
+    // As a browser reads it: bytes that are no text become the sign for that. A byte of zero ends no text.
+    return QString::fromUtf8(macro.constData() + from, (end < 0 ? macro.size() : end) - from).toUtf8();
 }
 
 PageFile::PageFile(QIODevice& device, const QString& title, const QString& plain,

@@ -60,7 +60,7 @@ Outline& Outline::add(const Outline& other)
 void Pen::add(Shape shape, std::span<const double> numbers)
 {
     if (!std::all_of(numbers.begin(), numbers.end(), [](double number) { return std::isfinite(number); })) {
-        remark("a number of it is not finite");
+        remark(kNotFinite);
         return;
     }
     Primitive primitive;

@@ -63,6 +63,8 @@ struct Letters
 class Pen
 {
 public:
+    static constexpr auto kNotFinite = "a number of it is not finite";
+
     /// How the object is shown at that state and for how long.
     struct Now
     {

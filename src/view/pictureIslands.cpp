@@ -1,5 +1,7 @@
 #include "view/pictureIslands.h"
 
+#include "view/palette.h"
+
 #include <QJsonDocument>
 
 #include <algorithm>
@@ -8,15 +10,19 @@ namespace inkmacro::view {
 
 namespace {
 
+/// By layer or by block; else what is recorded, and what it looks like unless that is the paper's to say.
 QJsonValue colorJson(const OdCmColor& color)
 {
     if (color.isByLayer())
         return "bylayer";
     if (color.isByBlock())
         return "byblock";
+    QJsonObject json;
     if (color.isByACI())
-        return QJsonObject{{"index", color.colorIndex()}};
-    return QJsonObject{{"rgb", QJsonArray{color.red(), color.green(), color.blue()}}};
+        json.insert("index", color.colorIndex());
+    if (const std::optional<Rgb> rgb = rgbOf(color))
+        json.insert("rgb", QJsonArray{rgb->red, rgb->green, rgb->blue});
+    return json;
 }
 
 QJsonArray spacesJson(const Picture& picture)

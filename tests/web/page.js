@@ -47,8 +47,8 @@ function islandOf(bytes, piece = 1 << 20) {
 
 const bytesOf = text => new Uint8Array(Buffer.from(text));
 
-// Data of a recording of steps {kind, line, parent, child, cls, name, layer, handles} and of objects {handle, cls, added,
-// layer}; `more` has islands by name, and members of the index.
+// Data of a recording of steps {kind, line, parent, child, cls, name, layer, handles}, of objects {handle, cls, added,
+// layer} and of primitives; islands are texts or columns by name, and `index` has members of that one.
 function dataOf({steps = [], objects = [], recording = '', index = {}, islands = {}, texts = [], geometry = []}) {
     const all = {};
     const layout = {};
@@ -65,12 +65,15 @@ function dataOf({steps = [], objects = [], recording = '', index = {}, islands =
     add('steps', {line: ['d32', column(steps, 'line', 1)], parent: ['d32', column(steps, 'parent', -1)],
         child: ['d32', column(steps, 'child', 0)], kind: ['u8', steps.map(step => kinds.indexOf(step.kind))],
         cls: ['u16', column(steps, 'cls', 65535)], name: ['u32', column(steps, 'name', 0)],
-        layer: ['u16', column(steps, 'layer', 65535)], handles: ['u32', steps.map(step => (step.handles || []).length)]});
+        layer: ['u16', column(steps, 'layer', 65535)],
+        handles: ['u32', steps.map(step => (step.handles || []).length)]});
     add('stepHandles', {low: ['d32', low(handles)], high: ['u32', high(handles)]});
     const ofObjects = objects.map(object => object.handle);
-    add('objects', {low: ['d32', low(ofObjects)], high: ['u32', high(ofObjects)], cls: ['u16', column(objects, 'cls', 0)],
-        added: ['d32', column(objects, 'added', -1)], erased: ['d32', column(objects, 'erased', -1)],
-        layer: ['u16', column(objects, 'layer', 0)], space: ['u16', column(objects, 'space', 0)],
+    add('objects', {low: ['d32', low(ofObjects)], high: ['u32', high(ofObjects)],
+        cls: ['u16', column(objects, 'cls', 0)], added: ['d32', column(objects, 'added', -1)],
+        erased: ['d32', column(objects, 'erased', -1)],
+        layer: ['u16', column(objects, 'layer', 0)],
+        space: ['u16', column(objects, 'space', 0)],
         isDrawn: ['u8', column(objects, 'isDrawn', 1)], hasGeometry: ['u8', column(objects, 'hasGeometry', 1)],
         remark: ['u16', column(objects, 'remark', 0)]});
     add('geometry', {shape: ['u8', column(geometry, 'shape', 0)], object: ['d32', column(geometry, 'object', 0)],
@@ -87,14 +90,15 @@ function dataOf({steps = [], objects = [], recording = '', index = {}, islands =
     }
     all.texts = islandOf(bytesOf(JSON.stringify(texts)));
     all.recording = islandOf(bytesOf(recording), 7);
-    all.index = islandOf(bytesOf(JSON.stringify(Object.assign({version: '1.0.0', name: 'one', input: 'one.jsonl', lines: 1,
-        counts: {}, spaces: [], firstSpace: 0, layers: [], styles: [], classes: [], names: [''], remarks: [],
+    all.index = islandOf(bytesOf(JSON.stringify(Object.assign({version: '1.0.0', name: 'one', input: 'one.jsonl',
+        lines: 1, counts: {}, spaces: [], firstSpace: 0, layers: [], styles: [], classes: [], names: [''], remarks: [],
         layerSwitches: [], spaceSwitches: [], notes: [], targets: [], layout: layout}, index))));
     return new page.Data(name => all[name] || null).open();
 }
 
 const page = vm.runInThisContext(`({Data, Lines, LineMap, State, Heights, Scale, Painter, DifferenceRows, ByteSearch,
-    columnsOf, inflated, bytesOfBase64, lastNotAbove, handleKey, handleText, keyOfHandleText, repairedLines, piecesOf,
+    columnsOf, inflated, bytesOfBase64, lastNotAbove, handleKey, handleText, keyOfHandleText, repairedLines,
+    editedHunks, editedMap, piecesOf,
     visibleText, fragmentOf, changesOfFragment, changedParts, withMarks, linesWith, stepsWith, searchAll, shownSteps,
     Findings, rowsOfAction, rowsOfDrawn, drawnObject, HandleNames, linesInWords, rangesOfStep, LineRanges, badgesOf,
     countsInWords, firstView, formThere, stepWords, nothingChosen, iconNameOf, iconPaths, differenceKinds})`);

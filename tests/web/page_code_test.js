@@ -25,7 +25,8 @@ function testPainter() {
         ['cpp', '#include "a//b.h"', ['keyword #include', 'string "a//b.h"']],
         ['cppcom', 'x = 0xFFu;', ['number 0xFFu']],
         ['csharp', 'string s = @"C:\\"; f(s);', ['keyword string', 'string @"C:\\"', 'call f']],
-        ['vba', 'Dim x As Double \' "no string"', ['keyword Dim', 'keyword As', 'keyword Double', 'comment \' "no string"']],
+        ['vba', 'Dim x As Double \' "no string"', ['keyword Dim', 'keyword As', 'keyword Double',
+            'comment \' "no string"']],
         ['vba', 'a.Text = "say ""hi"" \'x"', ['call Text', 'string "say ""hi"" \'x"']],
         ['vbnet', 'dim y = &HFF', ['keyword dim', 'number &HFF']],
         ['javascript', 'var é1 = mSkMgr.InsertLine(-0.5);', ['keyword var', 'call InsertLine', 'number 0.5']],
@@ -113,11 +114,12 @@ function testRows() {
 
 function testMarks() {
     for (const [given, wanted] of [['plain é 😀 日本', 'plain é 😀 日本'], ['a\u202eb', 'a‹RLO›b'], ['\u0000\u001b\n\t\u007f',
-        '␀␛␊␉␡'], ['\u200b\ufeff\u00ad', '‹ZWSP›‹BOM›‹SHY›'], ['\ud800x\udc00', '‹D800›x‹DC00›'],
+        '‹NUL›‹ESC›‹LF›‹TAB›‹DEL›'], ['\u200b\ufeff\u00ad', '‹ZWSP›‹BOM›‹SHY›'], ['\ud800x\udc00', '‹D800›x‹DC00›'],
     ['\u{e0041}\u2029', '‹E0041›‹PS›'], ['', '']]) {
         assert.strictEqual(visibleText(given), wanted);
     }
-    assert.deepStrictEqual(piecesOf('\tx\u0007', true), [{text: '\tx'}, {sign: '␇', title: 'control character U+0007'}]);
+    assert.deepStrictEqual(piecesOf('\tx\u0007', true),
+        [{text: '\tx'}, {sign: '‹BEL›', title: 'control character, U+0007'}]);
 }
 
 function testIcons() {

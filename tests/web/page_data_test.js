@@ -4,9 +4,9 @@
 
 const assert = require('assert');
 const zlib = require('zlib');
-const {packedColumns, islandOf, bytesOf, dataOf, columnsOf, inflated, bytesOfBase64, Lines, LineMap, repairedLines, State,
-    fragmentOf, changesOfFragment, handleText, keyOfHandleText, firstView, rowsOfAction, drawnObject, HandleNames,
-    rangesOfStep, linesInWords, nothingChosen} = require('./page');
+const {packedColumns, islandOf, bytesOf, dataOf, columnsOf, inflated, bytesOfBase64, Lines, LineMap, repairedLines,
+    editedHunks, editedMap, State, fragmentOf, changesOfFragment, handleText, keyOfHandleText, firstView, rowsOfAction,
+    drawnObject, HandleNames, rangesOfStep, linesInWords, nothingChosen} = require('./page');
 
 const plain = lines => Array.from({length: lines.count}, (_, i) => lines.line(i));
 
@@ -26,8 +26,8 @@ async function testColumns() {
 }
 
 function testLines() {
-    for (const [text, wanted] of [['', []], ['a', ['a']], ['a\n', ['a']], ['\n', ['']], ['a\r\n\r\nb\r', ['a', '', 'b']],
-        ['é😀\n\nx\n', ['é😀', '', 'x']], ['\ufeff<html>\nb', ['<html>', 'b']]]) {
+    for (const [text, wanted] of [['', []], ['a', ['a']], ['a\n', ['a']], ['\n', ['']],
+        ['a\r\n\r\nb\r', ['a', '', 'b']], ['é😀\n\nx\n', ['é😀', '', 'x']], ['\ufeff<html>\nb', ['<html>', 'b']]]) {
         const lines = new Lines(bytesOf(text));
         assert.deepStrictEqual(plain(lines), wanted, JSON.stringify(text));
         assert.strictEqual(lines.text().replace(/^\ufeff/, ''), text.replace(/^\ufeff/, ''));
@@ -42,8 +42,8 @@ function testRepair() {
         [[], '', 'a\nb\nc\nd'],
         [[{recorded: [1, 0], repaired: [1, 1]}], 'x\n', 'x\na\nb\nc\nd'],
         [[{recorded: [2, 2], repaired: [2, 0]}], '', 'a\nd'],
-        [[{recorded: [1, 1], repaired: [1, 2]}, {recorded: [3, 1], repaired: [4, 1]}, {recorded: [5, 0], repaired: [6, 1]}],
-            'A\nA2\nC\ne', 'A\nA2\nb\nC\nde']
+        [[{recorded: [1, 1], repaired: [1, 2]}, {recorded: [3, 1], repaired: [4, 1]},
+            {recorded: [5, 0], repaired: [6, 1]}], 'A\nA2\nC\ne', 'A\nA2\nb\nC\nde']
     ]) {
         assert.strictEqual(repairedLines(recorded, hunks, new Lines(bytesOf(added))).text(), wanted);
     }
@@ -62,14 +62,32 @@ function testMap() {
     assert.strictEqual(linesInWords([{first: 5, last: 5}]), 'line 5');
 }
 
+function testEdited() {
+    const written = new Lines(bytesOf('a\nb\nc\nd\n'));
+    const map = new LineMap({lines: [1, 2, 1], step: [-1, 4, 5], part: [0, 3, 3]});
+    for (const [text, hunks, steps] of [
+        ['a\nb\nc\nd\n', '', '-1 4 4 5'], ['a\nB\nc\nD\n', '2,1 2,1 4,1 4,1', '-1 4 4 5'],
+        ['a\nb\nx\ny\nc\nd\n', '3,0 3,2', '-1 4 -1 -1 4 5'], ['a\nd\n', '2,2 2,0', '-1 5'], ['', '1,4 1,0', ''],
+        ['a\nX\nd\n', '2,2 2,1', '-1 -1 5']
+    ]) {
+        const edited = new Lines(bytesOf(text));
+        const found = editedHunks(written, edited);
+        assert.strictEqual(found.map(hunk => hunk.recorded + ' ' + hunk.repaired).join(' '), hunks, text);
+        const moved = editedMap(map, found);
+        const stepsOfLines = Array.from({length: edited.count}, (_, i) => moved.rangeAt(i + 1).step);
+        assert.strictEqual(stepsOfLines.join(' '), steps, text);
+    }
+}
+
 const line = JSON.stringify({command: {name: 'OUTER', actions: [
     {added: {class: 'AcDbLine', handle: '2F', properties: [{tag: 'Start X', value: 0}, {tag: 'Start Y', value: -1.5},
         {tag: 'Layer', value: {id: '10'}}, {tag: 'Width', value: 4, index: {int: 2}}]}},
     {command: {name: 'INNER', actions: [{modified: {class: 'AcDbLine', handle: 'FFFFFFFFFFFFFFFE',
         properties: [{tag: 'End X', value: 2, old: 1}, {tag: 'Name', value: 'é'}]}}]}},
     {null: null}]}});
-const recording = ['{"recording":{"version":1}}', '{"object":{"class":"AcDbLayerTableRecord","handle":"010","name":"Walls"}}',
-    line, '{"erased":"30"}'].join('\n');
+const recording = ['{"recording":{"version":1}}',
+    '{"object":{"class":"AcDbLayerTableRecord","handle":"010","name":"Walls"}}', line,
+    '{"selection":{"objects":[]}}'].join('\n');
 
 const testData = () => dataOf({
     recording: recording,
@@ -87,7 +105,8 @@ const testData = () => dataOf({
         {name: 'AcDbLayerTableRecord', words: 'Layer'}],
     notes: [{kind: 'loss', step: 1, line: 3, path: '', what: 'property "A "b" c" of AcDbLine 2F', reason: 'r'}],
     targets: [{name: 'cpp', title: 'C++', file: 'a.cpp', forms: {
-        recorded: {status: 0, error: '', notes: [0], faults: [{lines: [1, 2], mended: true}], hasMap: true, text: 'macro.cpp'},
+        recorded: {status: 0, error: '', notes: [0], faults: [{lines: [1, 2], mended: true}], hasMap: true,
+            text: 'macro.cpp'},
         repaired: {status: 0, error: '', notes: [0], faults: [], hasMap: false, text: 'macro.cpp'}}},
     {name: 'vba', title: 'VBA', file: 'a.bas', forms: {recorded: {status: 3, error: 'why', notes: [], faults: []},
         repaired: {status: 0, error: '', notes: [], faults: [], hasMap: false, text: 'macro.vba'}}}]}
@@ -170,7 +189,8 @@ async function testAddress() {
         assert.strictEqual(fragmentOf(values(changes), data), wanted);
     }
     for (const [fragment, wanted] of [
-        ['#step=2&sel=2F&target=vba&form=diff', {step: 2, chosen: {step: 1, object: 1}, target: 'vba', form: 'differences'}],
+        ['#step=2&sel=2F&target=vba&form=diff',
+            {step: 2, chosen: {step: 1, object: 1}, target: 'vba', form: 'differences'}],
         ['#sel=s5', {chosen: {step: 5, object: 3}}], ['step=0', {step: 0}],
         ['#step=7&sel=s6&sel=FF&target=js&form=__proto__', {}], ['#step=-1&step=1e3&step=NaN&step=', {}],
         ['#%%%&=&&&sel&step=99999999999999999999', {}], ['#target=constructor&form=constructor&sel=constructor', {}],
@@ -210,6 +230,7 @@ function testState() {
     testLines();
     testRepair();
     testMap();
+    testEdited();
     await testSteps();
     await testMacros();
     await testValues();

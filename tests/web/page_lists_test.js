@@ -3,8 +3,8 @@
 'use strict';
 
 const assert = require('assert');
-const {Heights, Scale, ByteSearch, Lines, linesWith, stepsWith, searchAll, shownSteps, Findings, LineMap, badgesOf, dataOf,
-    bytesOf} = require('./page');
+const {Heights, Scale, ByteSearch, Lines, linesWith, stepsWith, searchAll, shownSteps, Findings, LineMap, badgesOf,
+    dataOf, bytesOf} = require('./page');
 
 function testHeights() {
     for (const count of [0, 1, 2, 3, 7, 8, 9, 1000]) {
@@ -76,8 +76,9 @@ const data = () => dataOf({
         notes: [{kind: 'loss', step: 2, what: 'property "W" of AcDbText A2', reason: 'no statement'},
             {kind: 'assumption', step: 6, what: 'x', reason: 'why'}, {kind: 'loss', step: -1, what: 'y', reason: 'z'}],
         targets: ['cpp', 'vba'].map((name, i) => ({name: name, title: name, file: name, forms: {
-            recorded: {status: 0, error: '', notes: [0, 1, 2].slice(i), faults: [{reason: 'f', mended: true, lines: [2, 3]},
-                {reason: 'g', mended: i === 0, lines: [9]}], text: 'm', hasMap: false},
+            recorded: {status: 0, error: '', notes: [0, 1, 2].slice(i),
+                faults: [{reason: 'f', mended: true, lines: [2, 3]},
+                    {reason: 'g', mended: i === 0, lines: [9]}], text: 'm', hasMap: false},
             repaired: {status: i * 3, error: 'e', notes: [0, 1, 2].slice(i), faults: [], text: 'm', hasMap: false}}}))}
 });
 

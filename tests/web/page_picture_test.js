@@ -8,15 +8,19 @@ const path = require('path');
 const vm = require('vm');
 
 const folder = path.join(__dirname, '../../src/view/page');
-for (const name of ['boxes', 'grid', 'color', 'trace', 'scene', 'views', 'paint', 'slider', 'overlay']) {
+for (const name of ['boxes', 'grid', 'color', 'trace', 'scene', 'spaces', 'views', 'patterns', 'ground', 'paint',
+    'slider', 'overlay']) {
     vm.runInThisContext(fs.readFileSync(path.join(folder, name + '.js'), 'utf8'), {filename: name + '.js'});
 }
-const {Box, Shapes, PathSteps, Grid, Scene, Visibility, Picker, Mapping, ScenePainter, brushKinds, traceCurves,
-    visibleColor, contrastOf, spaceAt, ticksOf, wordsOfStep, fittingView, zoomedView, movedView, coversView, dashesOf,
-    familyOf, linesOfFamily, roundStep, sceneOfDrawn} = vm.runInThisContext(`({Box, Shapes, PathSteps, Grid, Scene,
-    Visibility, Picker, Mapping, ScenePainter, brushKinds, traceCurves, visibleColor, contrastOf, spaceAt, ticksOf,
-    wordsOfStep, fittingView, zoomedView, movedView, coversView, dashesOf, familyOf, linesOfFamily, roundStep,
-    sceneOfDrawn})`);
+const {
+    Box, Shapes, PathSteps, Grid, Scene, Visibility, Picker, Mapping, ScenePainter, brushKinds, traceCurves,
+    visibleColor, contrastOf, spaceAt, ticksOf, wordsOfStep, fittingView, zoomedView, movedView, coversView,
+    dashesOf, familyOf, linesOfFamily, roundStep, sceneOfDrawn, changeBetween, gridLines
+} = vm.runInThisContext(`({
+    Box, Shapes, PathSteps, Grid, Scene, Visibility, Picker, Mapping, ScenePainter, brushKinds, traceCurves,
+    visibleColor, contrastOf, spaceAt, ticksOf, wordsOfStep, fittingView, zoomedView, movedView, coversView,
+    dashesOf, familyOf, linesOfFamily, roundStep, sceneOfDrawn, changeBetween, gridLines
+})`);
 
 const {move, line, arc, ellipse, bezier, close} = PathSteps;
 const turn = 2 * Math.PI;
@@ -228,7 +232,8 @@ function traced(primitive, view, window = {left: 0, bottom: 0, right: 800, top: 
         : (...values) => { calls.push([name, ...values]); return {width: 100, actualBoundingBoxAscent: 72}; }});
     const brush = {color: '#000000', width: 1, dash: []};
     const painter = new ScenePainter(scene);
-    const look = {visibility: new Visibility(scene, {styles: [{layer: 0}], layers: [{}], layerSwitches: []}, 1, new Set()),
+    const index = {styles: [{layer: 0}], layers: [{}], layerSwitches: []};
+    const look = {visibility: new Visibility(scene, index, 1, new Set()),
         brushes: Object.assign(new Array(brushKinds.styles + 1).fill(brush), {ofStyles: [brushKinds.styles]}),
         kinds: null, space: 0, density: 1, width: 100, height: 100, from: -1, version: 0, modelSpace: 0};
     for (const portion of painter.paint(context, {x: 0, y: 5, scale: 10}, look)) {
@@ -269,6 +274,10 @@ function traced(primitive, view, window = {left: 0, bottom: 0, right: 800, top: 
     assert.deepStrictEqual(shown(8, 1), [1]);
     assert.deepStrictEqual(shown(8, 'there'), [2]);
     assert.deepStrictEqual([0, 2, 3, 5, 6].map(step => spaceAt(index, step)), [0, 0, 2, 2, 0]);
+    const data = {index: Object.assign({spaces: [{kind: 'model'}]}, index)};
+    const change = (before, after) => changeBetween(data, scene, before, after);
+    assert.deepStrictEqual(change(3, 4), {grows: true, defines: false});
+    assert.deepStrictEqual([change(4, 3), change(7, 8), change(8, 9)].map(one => one.grows), [false, false, false]);
     const box = scene.extentsOf(0);
     assert.deepStrictEqual([box.left, box.top], [0, 20]);
     assert.strictEqual(scene.extentsOf(1).isEmpty, true);
@@ -287,6 +296,17 @@ function traced(primitive, view, window = {left: 0, bottom: 0, right: 800, top: 
     assert.strictEqual(coversView(kept, 600, 600, movedView(view, 99, -100), 400, 400), true);
     assert.strictEqual(coversView(kept, 600, 600, movedView(view, 0, -102), 400, 400), false);
     assert.strictEqual(coversView(kept, 600, 600, zoomedView(view, 0.5, 200, 200), 400, 400), false);
+    const wide = fittingView({left: -1e140, bottom: 1e140, right: 1e140, top: 1.5e140}, 400, 400);
+    assert.ok(Math.abs(2e140 * wide.scale - 352) < 1e-9, 'very large');
+    const lines = (start, scale) => {
+        const found = [];
+        gridLines(start, 20 / scale, scale, 100, at => found.push(at));
+        return found;
+    };
+    assert.deepStrictEqual(lines(-1, 5), [5.5, 25.5, 45.5, 65.5, 85.5]);
+    for (const start of [1e15, -1e100]) {
+        assert.strictEqual(lines(start, 1e12).length, 5, 'where doubles are coarse');
+    }
     assert.deepStrictEqual([0.003, 1, 1.1, 2.5, 70].map(roundStep), [0.005, 1, 2, 5, 100]);
 }
 

@@ -2,10 +2,10 @@
 
 'use strict';
 
-const paletteNames = ['pane', 'ink', 'muted', 'grid', 'line', 'accent', 'chosen', 'dimension', 'there', 'equal', 'missing',
+const paletteNames = ['pane', 'ink', 'muted', 'grid', 'line', 'accent', 'dimension', 'there', 'equal', 'missing',
     'surplus', 'different'];
 const lightPalette = {pane: '#ffffff', ink: '#17202b', muted: '#566171', grid: '#ffffff', gridMain: '#ffffff',
-    line: '#d3dae3', accent: '#0a5bc4', chosen: '#e4efff', dimension: '#39536f', there: '#838e9c', equal: '#0f766e',
+    line: '#d3dae3', accent: '#0a5bc4', dimension: '#39536f', there: '#838e9c', equal: '#0f766e',
     missing: '#c2410c', surplus: '#a21caf', different: '#ad1f2d'};
 
 // By name as the canvas writes them; system colors too, which are the palette where colors are forced.
@@ -13,7 +13,7 @@ function readPalette(element, context) {
     const style = getComputedStyle(element);
     const isForced = matchMedia('(forced-colors: active)').matches;
     const system = {pane: 'Canvas', ink: 'CanvasText', muted: 'CanvasText', grid: 'Canvas', line: 'GrayText',
-        accent: 'Highlight', chosen: 'Highlight', dimension: 'CanvasText', there: 'GrayText', equal: 'CanvasText',
+        accent: 'Highlight', dimension: 'CanvasText', there: 'GrayText', equal: 'CanvasText',
         missing: 'CanvasText', surplus: 'LinkText', different: 'Highlight'};
     const palette = {};
     for (const name of paletteNames) {

@@ -95,6 +95,59 @@ function repairedLines(recorded, hunks, added) {
     return new Lines(bytes);
 }
 
+function isSameLine(one, other, line, otherLine) {
+    const bytes = one.slice(line, line + 1);
+    const others = other.slice(otherLine, otherLine + 1);
+    return bytes.length === others.length && bytes.every((byte, i) => byte === others[i]);
+}
+
+// Where an edited text differs from the written one, as hunks: line by line when it has as many, else from the first
+// to the last line that differs.
+function editedHunks(written, edited) {
+    const most = Math.min(written.count, edited.count);
+    if (written.count === edited.count) {
+        return Array.from({length: most}, (_, line) => line).filter(line => !isSameLine(written, edited, line, line))
+            .map(line => ({recorded: [line + 1, 1], repaired: [line + 1, 1], step: -1}));
+    }
+    let head = 0;
+    while (head < most && isSameLine(written, edited, head, head)) {
+        ++head;
+    }
+    let tail = 0;
+    while (tail < most - head && isSameLine(written, edited, written.count - 1 - tail, edited.count - 1 - tail)) {
+        ++tail;
+    }
+    return [{recorded: [head + 1, written.count - head - tail], repaired: [head + 1, edited.count - head - tail],
+        step: -1}];
+}
+
+// The map of an edited text: what is not within the one hunk where the numbers of lines change is as it was.
+function editedMap(map, hunks) {
+    const hunk = hunks.find(one => one.recorded[1] !== one.repaired[1]);
+    if (!hunk) {
+        return map;
+    }
+    const columns = {lines: [], step: [], part: []};
+    const add = (count, step, part) => {
+        if (count > 0) {
+            columns.lines.push(count);
+            columns.step.push(step);
+            columns.part.push(part);
+        }
+    };
+    const [first, count] = hunk.recorded;
+    const addPart = (from, end) => {
+        for (let i = 0; i < map.count; ++i) {
+            add(Math.min(map.firsts[i + 1], end) - Math.max(map.firsts[i], from), map.columns.step[i],
+                map.columns.part[i]);
+        }
+    };
+    addPart(1, first);
+    add(hunk.repaired[1], -1, 0);
+    addPart(first + count, Infinity);
+    return new LineMap(columns);
+}
+
 // Promises by name, of which only those that were asked for last stay.
 class Kept {
     constructor(count) {
@@ -245,8 +298,10 @@ class Data {
     handleText(step) {
         const kind = this.kindOf(step);
         const object = kind === 'selection' ? -1 : this.objectOfStep(step);
-        return object >= 0 ? this.objects.handle(object) : kind === 'added' || kind === 'modified' || kind === 'property'
-            ? this.handleOfStep(step) : '';
+        if (object >= 0) {
+            return this.objects.handle(object);
+        }
+        return ['added', 'modified', 'property'].includes(kind) ? this.handleOfStep(step) : '';
     }
 
     // The objects with a step's handles, as far as they are there.
@@ -389,13 +444,27 @@ class Data {
     map(target, form) {
         return this.keptMaps.get('map ' + target + ' ' + form, async () => {
             const one = this.formOf(target, form);
+            if (form === 'edited' && one) {
+                const written = await this.map(target, this.writtenForm(target));
+                return written && editedMap(written, await this.hunks(target, form));
+            }
             return one && one.hasMap ? new LineMap(await this.columns('map.' + target + '.' + form)) : null;
         });
     }
 
-    // Where the repaired text differs from the recorded one; none where only one of them is there.
-    hunks(target) {
-        return this.keptMaps.get('hunks ' + target, async () => {
+    // Of which the edited one was made.
+    writtenForm(target) {
+        const repaired = this.formOf(target, 'repaired');
+        return repaired && repaired.status === 0 ? 'repaired' : 'recorded';
+    }
+
+    // Where the repaired text differs from the recorded one, none where only one of them is there; or the edited one
+    // from what was written.
+    hunks(target, form = 'repaired') {
+        return this.keptMaps.get('hunks ' + target + ' ' + form, async () => {
+            if (form === 'edited') {
+                return editedHunks(await this.macro(target, this.writtenForm(target)), await this.macro(target, form));
+            }
             const name = 'repair.' + target;
             if (!this.index.layout[name]) {
                 return [];

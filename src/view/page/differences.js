@@ -74,8 +74,8 @@ function commonWords(one, other) {
 
 const differenceKinds = {equal: 0, removed: 1, added: 2, folded: 3};
 
-// Rows of {kind, recorded, repaired}, numbers of lines from 1, 0 for none. In a folded one they begin what is folded, and
-// `count` tells how many. Paired lines of a hunk stand below one another, and each knows the other's number.
+// Rows of {kind, recorded, repaired}, numbers of lines from 1, 0 for none. In a folded one they begin what is folded,
+// and `count` tells how many. Paired lines of a hunk stand below one another, and each knows the other's number.
 class DifferenceRows {
     // Folds whose first line (of the recorded ones) is among `unfolded` are shown.
     constructor(hunks, recordedCount, repairedCount, unfolded = new Set()) {

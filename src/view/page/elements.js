@@ -48,11 +48,14 @@ function empty(element) {
 }
 
 // What has no look of its own, or changes that of its neighbours: control characters, directions, widths of nothing,
-// halves of pairs. A tab has a look in code alone.
+// halves of pairs. A tab has a look in code alone. Words mark them: few fonts have the signs for control characters.
 const unseen = new RegExp('[\\u0000-\\u001f\\u007f-\\u009f\\u00ad\\u061c\\u115f\\u1160\\u17b4\\u17b5\\u180b-\\u180f'
     + '\\u200b-\\u200f\\u2028-\\u202e\\u2060-\\u206f\\u3164\\ufe00-\\ufe0f\\ufeff\\uffa0\\ufff9-\\ufffb]'
     + '|\\udb40[\\udc00-\\udfff]|[\\ud800-\\udbff](?![\\udc00-\\udfff])|(?<![\\ud800-\\udbff])[\\udc00-\\udfff]', 'g');
-const namesOfUnseen = {0x85: ['NEL', 'next line'], 0xad: ['SHY', 'soft hyphen'], 0x61c: ['ALM', 'Arabic letter mark'],
+const controlNames = ('NUL SOH STX ETX EOT ENQ ACK BEL BS TAB LF VT FF CR SO SI DLE DC1 DC2 DC3 DC4 NAK SYN ETB CAN EM '
+    + 'SUB ESC FS GS RS US').split(' ');
+const namesOfUnseen = {0x7f: ['DEL', 'control character'], 0x85: ['NEL', 'next line'], 0xad: ['SHY', 'soft hyphen'],
+    0x61c: ['ALM', 'Arabic letter mark'],
     0x200b: ['ZWSP', 'zero-width space'], 0x200c: ['ZWNJ', 'zero-width non-joiner'],
     0x200d: ['ZWJ', 'zero-width joiner'], 0x200e: ['LRM', 'left-to-right mark'], 0x200f: ['RLM', 'right-to-left mark'],
     0x2028: ['LS', 'line separator'], 0x2029: ['PS', 'paragraph separator'],
@@ -65,11 +68,8 @@ const namesOfUnseen = {0x85: ['NEL', 'next line'], 0xad: ['SHY', 'soft hyphen'],
 function markOf(unseenText) {
     const code = unseenText.codePointAt(0);
     const number = code.toString(16).toUpperCase().padStart(4, '0');
-    if (code < 0x20 || code === 0x7f) {
-        return {sign: String.fromCharCode(code === 0x7f ? 0x2421 : 0x2400 + code),
-            title: 'control character U+' + number};
-    }
-    const [short, words] = namesOfUnseen[code] || [number, 'character without a look'];
+    const [short, words] = controlNames[code] ? [controlNames[code], 'control character']
+        : namesOfUnseen[code] || [number, 'character without a look'];
     return {sign: '\u2039' + short + '\u203a', title: words + ', U+' + number};
 }
 

@@ -17,8 +17,7 @@ class Grid {
         }
         this.left = around.left;
         this.bottom = around.bottom;
-        this.makeLevels(around.isEmpty ? 0 : around.right - around.left, around.isEmpty ? 0 : around.top - around.bottom,
-            items.length);
+        this.makeLevels(around, items.length);
         const cells = new Int32Array(items.length);
         this.first = new Int32Array(this.cellCount + 1);
         for (let i = 0; i < items.length; i++) {
@@ -39,7 +38,9 @@ class Grid {
         }
     }
 
-    makeLevels(width, height, count) {
+    makeLevels(around, count) {
+        const width = around.isEmpty ? 0 : around.right - around.left;
+        const height = around.isEmpty ? 0 : around.top - around.bottom;
         const longest = Math.max(width, height);
         const wanted = Math.sqrt(Math.max(width * height, longest * longest / 1e3) / Math.max(count, 1));
         let size = Math.max(wanted, longest / mostCells) || 1;

@@ -21,8 +21,11 @@ function isSameList(one, other) {
 
 function lossBadge(data, target, form) {
     const here = notesOfKind(data, target, form, 'loss');
-    const works = data.index.targets.filter(one => data.formOf(one.name, form) && data.formOf(one.name, form).status === 0);
-    const isSame = works.every(one => isSameList(notesOfKind(data, one.name, form, 'loss'), here));
+    const works = data.index.targets.map(one => one.name).filter(name => {
+        const one = data.formOf(name, form);
+        return one && one.status === 0;
+    });
+    const isSame = works.every(name => isSameList(notesOfKind(data, name, form, 'loss'), here));
     if (!here.length) {
         return {kind: 'good', text: isSame || works.length < 2 ? '✓ no losses' : '✓ no losses here', chip: 'all'};
     }

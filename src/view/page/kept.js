@@ -10,6 +10,7 @@ const keptShare = 1.5; // of the view, in each direction
 const mostPixels = 24e6; // of a kept picture; a larger one is as large as the view
 const restTime = 80; // milliseconds
 const sliceTime = 8;
+const firstTime = 120; // between two states of the first picture
 const quickTime = 7; // a picture that takes no longer is drawn anew at once
 
 class KeptPicture {
@@ -27,7 +28,9 @@ class KeptPicture {
         this.isStale = false;
         this.restsAt = 0;
         this.took = 0; // milliseconds for the last whole picture
-        this.isWaiting = false;
+        this.isWaiting = false; // for the next frame
+        this.goesOn = false; // between frames
+        this.composedAt = 0;
         this.channel = new MessageChannel();
         this.channel.port1.onmessage = () => this.goOn();
     }
@@ -48,12 +51,18 @@ class KeptPicture {
         this.wake();
     }
 
-    // Something else is to be seen.
+    // Something else is to be seen. A picture that is being drawn comes to its end, so that one is seen now and then
+    // while a slider moves.
     renew() {
         this.isStale = true;
-        this.painting = null;
         this.restsAt = 0;
         this.wake();
+    }
+
+    // What is being drawn is of no use.
+    restart() {
+        this.painting = null;
+        this.renew();
     }
 
     // The same with what has come since a step.
@@ -94,23 +103,30 @@ class KeptPicture {
             this.slice();
         }
         this.compose();
-        if (this.painting && !this.isStale) {
-            this.channel.port2.postMessage(null);
+        this.plan();
+    }
+
+    // While no gesture goes on, one slice follows the other, with room for what else happens.
+    plan() {
+        if (this.painting && performance.now() >= this.restsAt) {
+            if (!this.goesOn) {
+                this.goesOn = true;
+                this.channel.port2.postMessage(null);
+            }
         } else if (this.painting || this.isStale) {
             this.wake();
         }
     }
 
-    // While no gesture goes on, one slice follows the other, with room for what else happens.
     goOn() {
-        if (this.painting && !this.isStale) {
+        this.goesOn = false;
+        if (this.painting && performance.now() >= this.restsAt) {
             this.slice();
         }
-        if (this.painting && !this.isStale) {
-            this.channel.port2.postMessage(null);
-        } else {
+        if (!this.painting || !this.kept && performance.now() - this.composedAt > firstTime) {
             this.wake();
         }
+        this.plan();
     }
 
     newPicture() {
@@ -152,8 +168,11 @@ class KeptPicture {
         }
     }
 
+    // The first picture is seen while it grows.
     compose() {
-        const {context, view, kept} = this;
+        const {context, view} = this;
+        const kept = this.kept || this.painting && this.painting.picture;
+        this.composedAt = performance.now();
         if (kept) {
             const ratio = view.scale / kept.view.scale;
             const x = (kept.view.x - view.x) * view.scale;

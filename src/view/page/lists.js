@@ -358,3 +358,16 @@ class WindowedList {
         }
     }
 }
+
+const mostMarks = 300;
+
+// Marks beside a list's bar for rows, in order, that there is something to see at.
+function showMarks(overview, list, rows, kindOf) {
+    empty(overview);
+    const every = Math.ceil(rows.length / mostMarks);
+    for (let i = 0; i < rows.length; i += every) {
+        const mark = element('span', {class: kindOf(rows[i])});
+        mark.style.top = 100 * list.heights.top(rows[i]) / list.heights.total + '%';
+        overview.append(mark);
+    }
+}

@@ -66,8 +66,8 @@ async function openMacroView(data, target, form) {
     const isDifferent = form === 'differences';
     const shown = isDifferent ? 'repaired' : form;
     const [lines, map, hunks] = await Promise.all([data.macro(target, shown), data.map(target, shown),
-        form === 'recorded' ? [] : data.hunks(target)]);
-    const view = {target: target, form: form, lines: lines, map: map, hunks: form === 'edited' ? [] : hunks,
+        form === 'recorded' ? [] : data.hunks(target, shown)]);
+    const view = {target: target, form: form, lines: lines, map: map, hunks: hunks,
         faults: new Map(), painter: new Painter(target), unfolded: new Set()};
     const faulty = isDifferent ? 'recorded' : form;
     for (const fault of data.faults(target, faulty)) {
@@ -148,7 +148,7 @@ class MacroPane {
         const scroller = element('div', {id: 'macroList', class: 'code'});
         this.overview = element('div', {class: 'overview', 'aria-hidden': 'true'});
         pane.append(this.tabRow, element('div', {class: 'macroBar'}, this.forms, this.copyButton, this.saveButton),
-            this.failure, element('div', {class: 'codeBox'}, scroller, this.overview),
+            this.failure, element('div', {class: 'listBox'}, scroller, this.overview),
             element('div', {class: 'macroEnd'}, this.foot, this.makeHints()));
         this.list = new WindowedList(scroller, {label: 'Lines of the macro', rowHeight: () => codeLineHeight,
             makeRow: row => this.makeRow(row), move: (row, isEnter) => this.move(row, isEnter)});
@@ -183,23 +183,35 @@ class MacroPane {
         }
         this.showForms(target, form);
         const one = this.data.formOf(target, form);
-        this.showFailure(one);
         if (!one || one.status !== 0) {
-            this.view = null;
-            this.list.setCount(0);
-            this.list.space.style.minWidth = '';
-            this.showFoot();
+            this.showFailure(one ? 'The conversion failed with status ' + one.status + '.'
+                : 'The page does not have this form.', one ? one.error : '');
             return;
         }
-        const view = await openMacroView(this.data, target, form);
-        if (opening !== this.opening) {
-            return;
+        const view = await this.opened(opening, target, form);
+        if (view && opening === this.opening) {
+            this.show(view);
         }
-        this.show(view);
+    }
+
+    // null when it cannot be read, which is told. What was shown before goes when this takes a while.
+    async opened(opening, target, form) {
+        const tellHere = (title, text) => opening === this.opening && this.showFailure(title, text);
+        const timer = setTimeout(() => tellHere('', 'Opening…'), 200);
+        try {
+            return await openMacroView(this.data, target, form);
+        } catch (error) {
+            tellHere('The macro cannot be shown.', error.message);
+            return null;
+        } finally {
+            clearTimeout(timer);
+        }
     }
 
     show(view) {
         this.view = view;
+        this.failure.hidden = true;
+        this.copyButton.disabled = this.saveButton.disabled = false;
         const letters = Math.max(longestLine(view.lines), view.recorded ? longestLine(view.recorded) : 0);
         this.list.space.style.minWidth = 'calc(' + Math.min(letters, 1000000) + 'ch + ' + widthOfGutters + 'px)';
         this.list.scroller.setAttribute('aria-label', this.data.target(view.target).title + ', '
@@ -230,6 +242,9 @@ class MacroPane {
         if (view.rows) {
             return 0;
         }
+        if (view.form === 'edited' && view.hunks.length) {
+            return view.hunks[0].repaired[0] - 1;
+        }
         for (let i = 0; view.map && i < view.map.count; ++i) {
             if (view.map.columns.step[i] >= 0) {
                 return view.map.firsts[i] - 1;
@@ -256,18 +271,17 @@ class MacroPane {
         }
     }
 
-    showFailure(form) {
-        const isFailed = !form || form.status !== 0;
-        this.failure.hidden = !isFailed;
-        this.copyButton.disabled = this.saveButton.disabled = isFailed;
-        empty(this.failure);
-        if (isFailed) {
-            this.failure.append(element('p', {}, element('b', {}, form ? 'The conversion failed with status '
-                + form.status + '.' : 'The page does not have this form.')));
-            if (form) {
-                this.failure.append(textElement('p', {}, form.error || ''));
-            }
-        }
+    // In place of the lines.
+    showFailure(title, text) {
+        this.view = null;
+        this.failure.hidden = false;
+        this.failure.classList.toggle('isWaiting', !title);
+        empty(this.failure).append(element('p', {}, element('b', {}, title)), textElement('p', {}, text));
+        this.copyButton.disabled = this.saveButton.disabled = true;
+        empty(this.overview);
+        this.list.setCount(0);
+        this.list.space.style.minWidth = '';
+        this.showFoot();
     }
 
     // Kind of a row, its lines, and the text that it shows.
@@ -282,7 +296,8 @@ class MacroPane {
         if (!view.rows) {
             return view.faults.get(repaired) || [];
         }
-        return kind === differenceKinds.removed || kind === differenceKinds.equal ? view.faults.get(recorded) || [] : [];
+        const isRecorded = kind === differenceKinds.removed || kind === differenceKinds.equal;
+        return isRecorded && view.faults.get(recorded) || [];
     }
 
     // Without a look at each of hundreds of thousands of rows.
@@ -330,7 +345,7 @@ class MacroPane {
     makeSign(isRemoved, isAdded, repaired) {
         const isChanged = !this.view.rows && this.view.changed.has(repaired);
         const [text, title] = isRemoved ? ['−', 'as recorded'] : isAdded ? ['+', 'repaired']
-            : isChanged ? ['●', 'changed by the repair'] : ['', null];
+            : isChanged ? ['●', this.view.form === 'edited' ? 'edited' : 'changed by the repair'] : ['', null];
         return element('span', {class: isChanged ? 'sign isDot' : 'sign', title: title}, text);
     }
 
@@ -444,15 +459,7 @@ class MacroPane {
     }
 
     showMarks() {
-        empty(this.overview);
-        const total = this.list.heights.total;
-        const places = this.places();
-        const every = Math.ceil(places.length / 300);
-        places.filter((_, i) => i % every === 0).forEach(row => {
-            const mark = element('span', {class: this.faultsAt(row).length ? 'faults' : 'changed'});
-            mark.style.top = 100 * this.list.heights.top(row) / total + '%';
-            this.overview.append(mark);
-        });
+        showMarks(this.overview, this.list, this.places(), row => this.faultsAt(row).length ? 'faults' : 'changed');
     }
 
     showFoot() {

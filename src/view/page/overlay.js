@@ -127,13 +127,13 @@ function nameOfFinding(data, finding) {
     const {object, step, handle} = finding;
     if (object >= 0) {
         const name = data.className(data.objects.cls[object]);
-        return {icon: classIcon(name), text: data.classWords(data.objects.cls[object]) + ' ' + data.objects.handle(object),
+        return {icon: classIcon(name), text: objectTitle(data, object),
             subject: name + ' ' + data.objects.handle(object)};
     }
     if (finding.class) {
         const known = data.index.classes.find(one => one.name === finding.class);
-        return {icon: classIcon(finding.class), text: (known ? known.words : finding.class) + (handle ? ' ' + handle : ''),
-            subject: ''};
+        const words = known ? known.words : finding.class;
+        return {icon: classIcon(finding.class), text: words + (handle ? ' ' + handle : ''), subject: ''};
     }
     const command = data.commandOf(step);
     return step >= 0 ? {icon: stepIcon(data, command), text: data.stepName(command) || 'Step', subject: ''}

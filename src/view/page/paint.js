@@ -18,54 +18,6 @@ function isDot(boxes, p, scale) {
     return Math.max(boxes[4 * p + 2] - boxes[4 * p], boxes[4 * p + 3] - boxes[4 * p + 1]) * scale < leastBox;
 }
 
-// How the lines of a family lie: their direction for a drawing unit, and the step from one to the next.
-function familyOf(mapping, numbers, at) {
-    const [angle, x, y, distance, count] = numbers.subarray(at, at + 5);
-    const [cosine, sine] = [Math.cos(angle), Math.sin(angle)];
-    const family = {x: mapping.x(x, y), y: mapping.y(x, y),
-        dx: mapping.a * cosine + mapping.c * sine, dy: mapping.b * cosine + mapping.d * sine,
-        stepX: distance * (mapping.c * cosine - mapping.a * sine),
-        stepY: distance * (mapping.d * cosine - mapping.b * sine),
-        dashes: numbers.subarray(at + 5, at + 5 + count), end: at + 5 + count};
-    family.unit = Math.hypot(family.dx, family.dy);
-    family.gap = Math.abs(family.dx * family.stepY - family.dy * family.stepX) / family.unit;
-    return family;
-}
-
-// Calls back with both ends of each line of a family that meets a window. Dashes begin at a multiple of their period.
-function linesOfFamily(family, window, draw) {
-    const {x, y, dx, dy, stepX, stepY} = family;
-    const across = dx * stepY - dy * stepX;
-    const numbers = [[window.left, window.bottom], [window.right, window.bottom], [window.left, window.top],
-        [window.right, window.top]].map(corner => (dx * (corner[1] - y) - dy * (corner[0] - x)) / across);
-    const period = family.dashes.reduce((sum, dash) => sum + Math.abs(dash), 0);
-    const part = {low: 0, high: 0};
-    for (let n = Math.ceil(Math.min(...numbers)); n <= Math.max(...numbers); n++) {
-        const [fromX, fromY] = [x + n * stepX, y + n * stepY];
-        if (clipLine(window, fromX, fromY, dx, dy, -Infinity, Infinity, part)) {
-            const low = period ? Math.floor(part.low / period) * period : part.low;
-            draw(fromX + low * dx, fromY + low * dy, fromX + part.high * dx, fromY + part.high * dy);
-        }
-    }
-}
-
-// The dashes of a canvas, which are marks and gaps by turns; a point is as long as a pixel.
-function dashesOf(dashes, unit) {
-    const lengths = [];
-    dashes.forEach(dash => {
-        const isMark = dash >= 0;
-        const length = Math.max(Math.abs(dash) * unit, isMark ? 1 : 0);
-        if (isMark === (lengths.length % 2 === 0)) {
-            lengths.push(length);
-        } else if (lengths.length) {
-            lengths[lengths.length - 1] += length;
-        } else {
-            lengths.push(0, length);
-        }
-    });
-    return lengths.length % 2 ? lengths.concat(0) : lengths;
-}
-
 // What a picture looks like: {visibility, brushes, kinds, space, density, width, height, from}. `brushes` has also a
 // list `ofStyles` of their numbers by styles; `kinds` are those of a comparison for each object, or null; `from` is a
 // step since which alone is drawn, or -1; `density` is the number of pixels of the canvas in one of the page.
@@ -535,36 +487,5 @@ class ScenePainter {
             mapping.addBox(around, ...boxes.subarray(4 * p, 4 * p + 4));
             traceCurves(curves, mapping, window, geometry, p, around);
         }
-    }
-}
-
-// Steps of 1, 2 and 5 times a power of ten.
-function roundStep(least) {
-    const power = 10 ** Math.floor(Math.log10(least));
-    return [1, 2, 5, 10].map(step => step * power).find(step => step >= least * (1 - 1e-12));
-}
-
-// The paper and its grid. Lines that would lie on the same doubles, as they do far from the origin, are left out.
-function paintGround(context, view, width, height, palette, density) {
-    context.fillStyle = palette.pane;
-    context.fillRect(0, 0, width, height);
-    const step = roundStep(14 * density / view.scale);
-    context.lineWidth = Math.max(1, Math.floor(density));
-    context.setLineDash([]);
-    for (const [every, color] of [[1, palette.grid], [5, palette.gridMain]]) {
-        context.strokeStyle = color;
-        context.beginPath();
-        const pixel = step * every * view.scale;
-        const firstColumn = Math.ceil(view.x / (step * every));
-        for (let n = 0, x; (x = (firstColumn * step * every - view.x) * view.scale + n * pixel) < width; n++) {
-            context.moveTo(Math.round(x) + 0.5, 0);
-            context.lineTo(Math.round(x) + 0.5, height);
-        }
-        const firstRow = Math.floor(view.y / (step * every));
-        for (let n = 0, y; (y = (view.y - firstRow * step * every) * view.scale + n * pixel) < height; n++) {
-            context.moveTo(0, Math.round(y) + 0.5);
-            context.lineTo(width, Math.round(y) + 0.5);
-        }
-        context.stroke();
     }
 }

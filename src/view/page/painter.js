@@ -11,9 +11,9 @@ const keywordsOf = {
         + 'params private protected public readonly ref return sealed short static string struct switch this throw '
         + 'true try typeof uint using var virtual void while',
     basic: 'AddressOf And As Attribute Boolean ByRef ByVal Call Case Catch Class Const Dim Do Double Each Else ElseIf '
-        + 'End Exit Explicit False Finally For Friend Function Get GoTo If Imports In Inherits Integer Is Let Long Loop '
-        + 'Me Mod Module Namespace New Next Not Nothing Object Of On Option Or Private Property Public ReDim Resume '
-        + 'Return Select Set Shared Single Static String Sub Then To True Try Until Variant Wend While With',
+        + 'End Exit Explicit False Finally For Friend Function Get GoTo If Imports In Inherits Integer Is Let Long '
+        + 'Loop Me Mod Module Namespace New Next Not Nothing Object Of On Option Or Private Property Public ReDim '
+        + 'Resume Return Select Set Shared Single Static String Sub Then To True Try Until Variant Wend While With',
     script: 'break case catch const continue default delete do else false finally for function if in instanceof let '
         + 'new null return switch this throw true try typeof undefined var void while'
 };

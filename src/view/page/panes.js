@@ -74,14 +74,14 @@ class Gap {
     move(change) {
         const panes = byId('panes');
         const [before, after] = this.sizes();
-        const by = Math.max(Math.min(narrowestPane, before) - before, Math.min(change, after - Math.min(narrowestPane, after)));
+        const by = Math.max(Math.min(narrowestPane, before) - before,
+            Math.min(change, after - Math.min(narrowestPane, after)));
         if (this.isRow) {
             panes.style.gridTemplateRows = 'minmax(120px, ' + (before + by) + 'fr) var(--gap) minmax(120px, '
                 + (after - by) + 'fr)';
         } else {
-            for (const [property, id] of [['--picture', 'picture'], ['--steps', 'stepsPane'], ['--macro', 'macroPane']]) {
-                panes.style.setProperty(property, byId(id).getBoundingClientRect().width + 'fr');
-            }
+            const widths = Object.values(paneIds).map(id => byId(id).getBoundingClientRect().width);
+            Object.keys(paneIds).forEach((name, i) => panes.style.setProperty('--' + name, widths[i] + 'fr'));
             panes.style.setProperty(this.properties[0], before + by + 'fr');
             panes.style.setProperty(this.properties[1], after - by + 'fr');
         }

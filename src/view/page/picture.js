@@ -2,12 +2,9 @@
 
 'use strict';
 
-const mostHaloed = 2000; // primitives
-const mostListed = 300; // objects that are not drawn
 const doubleClick = 350; // milliseconds
 const printedSize = [3272, 2244]; // of A4 landscape within margins of 10 mm, at 300 dots an inch
 const printedDensity = 300 / 96;
-const labelRoom = 14; // pixels between what is chosen and its name
 
 class Picture {
     constructor(data, pane) {
@@ -24,6 +21,7 @@ class Picture {
         this.keptPicture = new KeptPicture(this.canvas,
             (context, view, width, height, from) => this.painting(context, view, width, height, from),
             view => this.composed(view));
+        this.overlay = new Marks(this.marks, data, this.scene, this.painter);
         this.gestures = new Gestures(this.stage, this.canvas, this);
         this.listen();
     }
@@ -52,19 +50,7 @@ class Picture {
     }
 
     head() {
-        const {spaces} = this.data.index;
-        this.spaces = element('select', {class: 'spaces', 'aria-label': 'Space'});
-        for (const [kind, title] of [['model', ''], ['sheet', 'Sheets'], ['block', 'Blocks']]) {
-            const options = [];
-            spaces.forEach((space, number) => {
-                if (space.kind === kind && (kind !== 'block' || this.scene.members.of(number).length)) {
-                    options.push(element('option', {value: number}, visibleText(space.name)));
-                }
-            });
-            if (options.length) {
-                this.spaces.append(...title ? [element('optgroup', {label: title}, ...options)] : options);
-            }
-        }
+        this.spaces = spaceChooser(this.data, this.scene);
         this.spaces.addEventListener('change', () => state.set({space: Number(this.spaces.value)}, 'picture'));
         const modes = element('div', {class: 'segments', role: 'group', 'aria-label': 'What is shown'});
         this.modes = ['recorded', 'compared'].map(mode => button(mode === 'recorded' ? 'Recorded' : 'Compared',
@@ -74,70 +60,8 @@ class Picture {
             const one = this.data.formOf('javascript', form);
             return one && one.status === 0;
         });
-        return element('div', {class: 'paneHead'}, element('h2', {}, 'Drawing'), this.spaces, this.notDrawn(),
-            element('span', {class: 'filler'}), modes);
-    }
-
-    // What the picture does not show, each with its reason.
-    notDrawn() {
-        const {data} = this;
-        const {objects} = data;
-        const missing = [];
-        const partly = [];
-        for (let i = 0; i < objects.count; i++) {
-            if (objects.hasGeometry[i] && !objects.isDrawn[i]) {
-                missing.push(i);
-            } else if (objects.remark[i]) {
-                partly.push(i);
-            }
-        }
-        const box = element('details', {class: 'notDrawn', hidden: !missing.length && !partly.length});
-        const title = missing.length ? missing.length.toLocaleString('en') + ' not drawn'
-            : partly.length.toLocaleString('en') + ' drawn in part';
-        box.append(element('summary', {class: missing.length ? 'badge lost' : 'badge plain'}, title));
-        box.addEventListener('toggle', () => {
-            if (box.open && box.children.length === 1) {
-                box.append(this.listOfNotDrawn(missing, partly));
-            }
-        });
-        box.addEventListener('keydown', event => {
-            if (event.key === 'Escape' && box.open) {
-                box.open = false;
-                box.firstChild.focus();
-                event.stopPropagation();
-            }
-        });
-        return box;
-    }
-
-    listOfNotDrawn(missing, partly) {
-        const list = element('div', {class: 'notDrawnList'});
-        for (const [title, objects] of [['Not drawn', missing], ['Drawn in part', partly]]) {
-            if (objects.length) {
-                const rows = objects.slice(0, mostListed).map(object => element('li', {}, this.remarkOf(object)));
-                if (objects.length > mostListed) {
-                    rows.push(element('li', {class: 'muted'},
-                        'and ' + (objects.length - mostListed).toLocaleString('en') + ' more'));
-                }
-                list.append(element('h3', {}, title), element('ul', {}, ...rows));
-            }
-        }
-        return list;
-    }
-
-    remarkOf(object) {
-        const {data} = this;
-        const remark = data.objects.remark[object];
-        const made = button('', {class: 'finding'},
-            () => state.set({chosen: {step: data.stepOfObject(object), object: object}}, 'picture'));
-        made.append(classIcon(data.className(data.objects.cls[object])),
-            textElement('span', {class: 'findingName'}, this.nameOf(object)), textElement('span',
-                {class: 'findingReason'}, remark ? data.index.remarks[remark - 1] : 'its geometry is not recorded'));
-        return made;
-    }
-
-    nameOf(object) {
-        return this.data.classWords(this.data.objects.cls[object]) + ' ' + this.data.objects.handle(object);
+        return element('div', {class: 'paneHead'}, element('h2', {}, 'Drawing'), this.spaces,
+            new NotDrawn(this.data).element, element('span', {class: 'filler'}), modes);
     }
 
     listen() {
@@ -153,14 +77,8 @@ class Picture {
         window.addEventListener('resize', () => this.resize());
         document.addEventListener('keydown', event => this.key(event));
         paneActs.picture = {focus: () => this.stage.focus(), center: () => this.center()};
-        document.addEventListener('click', event => {
-            const box = this.pane.querySelector('.notDrawn');
-            if (box.open && !box.contains(event.target)) {
-                box.open = false;
-            }
-        });
         this.shownStep = state.get().step;
-        this.space = this.firstSpace();
+        this.space = firstSpaceOf(this.data, this.scene, state.get().step);
         state.set({space: this.space}, 'picture');
         this.readColors();
         this.showMode();
@@ -199,8 +117,9 @@ class Picture {
         const {mode, run, step, hidden} = state.get();
         const kinds = mode === 'compared' ? comparedKinds(run) : null;
         const {spaces} = this.data.index;
-        return {visibility: new Visibility(this.scene, this.data.index, step, hidden), brushes: this.brushes, kinds: kinds,
-            space: this.space, density: this.density, width: width, height: height, from: from, version: this.version,
+        const visibility = new Visibility(this.scene, this.data.index, step, hidden);
+        return {visibility: visibility, brushes: this.brushes, kinds: kinds, space: this.space, density: this.density,
+            width: width, height: height, from: from, version: this.version,
             modelSpace: Math.max(0, spaces.findIndex(space => space.kind === 'model'))};
     }
 
@@ -230,25 +149,6 @@ class Picture {
             kinds: Uint8Array.from(run.drawn, one => one.kind), visibility: {shows: () => true}}));
     }
 
-    // What happens to the picture from one state of the slider to another: whether it only grows, and whether definitions
-    // of blocks change.
-    changeBetween(before, after) {
-        const {from, until, space} = this.scene.geometry;
-        const {spaces, layerSwitches} = this.data.index;
-        const [low, high] = [Math.min(before, after), Math.max(before, after)];
-        const isWithin = step => step >= low && step < high;
-        let grows = after > before && !layerSwitches.some(({step}) => isWithin(step));
-        let defines = false;
-        for (let p = 0; p < from.length; p++) {
-            const goes = until[p] >= low && until[p] < high;
-            if (goes || from[p] >= low && from[p] < high) {
-                grows = grows && !(goes && from[p] < low);
-                defines = defines || spaces[space[p]].kind === 'block';
-            }
-        }
-        return {grows: grows, defines: defines};
-    }
-
     stepped() {
         const {step} = state.get();
         const before = this.shownStep;
@@ -257,7 +157,7 @@ class Picture {
         if (space !== spaceAt(this.data.index, before)) {
             state.set({space: space}, 'picture');
         }
-        const {grows, defines} = this.changeBetween(before, step);
+        const {grows, defines} = changeBetween(this.data, this.scene, before, step);
         const isAlone = this.data.index.spaces[this.space].kind !== 'sheet'; // which may show model space
         this.version += defines ? 1 : 0;
         this.tellNothing();
@@ -282,7 +182,7 @@ class Picture {
     showSpace() {
         this.space = state.get().space;
         this.spaces.value = this.space;
-        this.canvas.setAttribute('aria-label', this.sentence(this.scene.extentsOf(this.space)));
+        this.canvas.setAttribute('aria-label', sentenceOfSpace(this.data, this.scene, this.space));
         this.tellNothing();
         if (this.width) {
             this.showSpaceView();
@@ -298,49 +198,11 @@ class Picture {
         this.keptPicture.renew();
     }
 
-    // Says why the picture is empty.
     tellNothing() {
-        const {scene, data} = this;
         const {step, hidden} = state.get();
-        const visibility = new Visibility(scene, data.index, step, hidden);
-        this.none.hidden = scene.members.of(this.space).some(p => visibility.shows(p));
-        if (!this.none.hidden) {
-            this.none.textContent = scene.members.of(this.space).length ? 'Nothing is shown here behind this step.'
-                : scene.geometry.count ? 'Nothing is drawn here.'
-                    : data.index.counts.objects ? 'No object of the recording has geometry that can be drawn.'
-                        : 'The recording adds no objects.';
-        }
-    }
-
-    // The space that the recording ends in, or where nothing is in that one the fullest that is no definition.
-    firstSpace() {
-        const {index} = this.data;
-        const isFull = space => !this.scene.extentsOf(space).isEmpty;
-        const end = spaceAt(index, state.get().step);
-        const others = [...index.spaces.keys()].filter(space => index.spaces[space].kind !== 'block' && isFull(space));
-        const countOfSpace = space => this.scene.members.of(space).length;
-        return isFull(end) || !others.length ? end
-            : others.reduce((best, space) => countOfSpace(space) > countOfSpace(best) ? space : best);
-    }
-
-    // What the picture shows, in words.
-    sentence(box) {
-        const {data, scene} = this;
-        const counts = new Map();
-        const seen = new Set();
-        for (const p of scene.members.of(this.space)) {
-            const object = scene.geometry.object[p];
-            if (scene.geometry.until[p] === -1 && !seen.has(object)) {
-                seen.add(object);
-                const words = data.classWords(data.objects.cls[object]);
-                counts.set(words, (counts.get(words) || 0) + 1);
-            }
-        }
-        const parts = [...counts].sort((one, other) => other[1] - one[1]).map(
-            ([words, count]) => count.toLocaleString('en') + ' ' + words);
-        const name = visibleText(data.index.spaces[this.space].name);
-        return name + ': ' + (parts.length ? parts.join(', ') + '; from ' + numbersOf(box.left, box.bottom) + ' to ' +
-            numbersOf(box.right, box.top) : 'nothing drawn');
+        const visibility = new Visibility(this.scene, this.data.index, step, hidden);
+        this.none.hidden = this.scene.members.of(this.space).some(p => visibility.shows(p));
+        this.none.textContent = this.none.hidden ? '' : whyEmpty(this.data, this.scene, this.space);
     }
 
     viewOfAll() {
@@ -364,7 +226,7 @@ class Picture {
     }
 
     fitChosen() {
-        const box = this.scene.boxOfObjects(this.objectsOf(state.get().chosen), this.space);
+        const box = this.scene.boxOfObjects(objectsOfChoice(this.data, state.get().chosen), this.space);
         if (!box.isEmpty) {
             const view = fittingView(box, this.width * 0.6, this.height * 0.6);
             this.showView(movedView(view, this.width * 0.2, this.height * 0.2));
@@ -372,7 +234,7 @@ class Picture {
     }
 
     center() {
-        const box = this.scene.boxOfObjects(this.objectsOf(state.get().chosen), this.space);
+        const box = this.scene.boxOfObjects(objectsOfChoice(this.data, state.get().chosen), this.space);
         if (!box.isEmpty) {
             const {scale} = this.view;
             this.showView({x: (box.left + box.right) / 2 - this.width / 2 / scale,
@@ -477,37 +339,17 @@ class Picture {
         state.set({hover: nothingChosen}, 'picture');
     }
 
-    // The objects that a choice means: those that a command adds when it is chosen itself.
-    objectsOf({step, object}) {
-        if (object >= 0) {
-            return [object];
-        }
-        const {data} = this;
-        const objects = [];
-        for (let one = step; step >= 0 && one < data.steps.count && objects.length < mostHaloed &&
-            (one === step || data.commandOf(one) === step); one++) {
-            if (data.objectOfStep(one) >= 0) {
-                objects.push(data.objectOfStep(one));
-            }
-        }
-        return objects;
-    }
-
     choiceChanged(chosen, source) {
-        const objects = this.objectsOf(chosen);
+        const objects = objectsOfChoice(this.data, chosen);
         this.chosenLine.hidden = !objects.length;
         if (objects.length) {
             const step = chosen.step >= 0 ? ', line ' + this.data.steps.line[chosen.step] : '';
-            putText(empty(this.chosenLine), this.titleOf(objects) + step);
+            putText(empty(this.chosenLine), titleOfObjects(this.data, objects) + step);
         }
         if (source !== 'picture' && objects.length) {
             this.bringIntoSight(objects);
         }
         this.keptPicture.touch();
-    }
-
-    titleOf(objects) {
-        return objects.length === 1 ? this.nameOf(objects[0]) : countOf(objects.length, 'object');
     }
 
     // Moves the picture only when nothing of what is chosen can be seen.
@@ -531,103 +373,12 @@ class Picture {
         }
     }
 
-    // Halos, the name of what is chosen, and the scale bar, over each picture.
+    // Over each picture that comes to the canvas.
     composed(view) {
-        const context = this.marks.getContext('2d');
-        context.setTransform(1, 0, 0, 1, 0, 0);
-        context.clearRect(0, 0, this.width, this.height);
-        const {chosen, hover} = state.get();
-        const chosenObjects = this.objectsOf(chosen);
-        const hovered = this.objectsOf(hover);
-        if (hovered.length && !sameValue(hover, chosen)) {
-            this.halo(context, view, hovered, 6, 0.28, false);
-        }
-        if (chosenObjects.length) {
-            const box = this.halo(context, view, chosenObjects, 9, 0.3, true);
-            this.label(context, box, this.titleOf(chosenObjects));
-        }
+        const {chosen, hover, step} = state.get();
+        this.overlay.show(chosen, hover, {view: view, space: this.space, step: step, density: this.density,
+            palette: this.palette});
         this.showBar(view);
-    }
-
-    // Those of an object that are there now in the space that is shown, or where none is those that were last, or come
-    // first.
-    seenOf(object) {
-        const {geometry} = this.scene;
-        const {step} = state.get();
-        const all = this.scene.primitivesOf(object).filter(p => geometry.space[p] === this.space);
-        const there = all.filter(p => this.scene.isThere(p, step));
-        if (there.length || !all.length) {
-            return {primitives: there, isThere: true};
-        }
-        const before = all.filter(p => geometry.from[p] < step);
-        const froms = Array.from(before.length ? before : all, p => geometry.from[p]);
-        const from = before.length ? Math.max(...froms) : Math.min(...froms);
-        return {primitives: all.filter(p => geometry.from[p] === from), isThere: false};
-    }
-
-    // Returns the box of what it has drawn. What is not there now is dashed.
-    halo(context, view, objects, width, alpha, isChosen) {
-        const {density, palette, scene} = this;
-        const mapping = Mapping.ofView(view);
-        const window = {left: -20, bottom: -20, right: this.width + 20, top: this.height + 20};
-        const box = new Box();
-        const seen = new Box();
-        const path = new Path2D();
-        const frames = new Path2D();
-        let count = 0;
-        let isDashed = false;
-        for (const object of objects) {
-            const {primitives, isThere} = this.seenOf(object);
-            isDashed = isDashed || !isThere;
-            for (const p of primitives) {
-                if (count++ < mostHaloed) {
-                    box.addStored(scene.boxes, p);
-                    this.painter.trace(path, frames, p, mapping, window, 4 * density);
-                }
-            }
-        }
-        context.lineJoin = context.lineCap = 'round';
-        context.strokeStyle = context.fillStyle = palette.accent;
-        context.globalAlpha = alpha;
-        context.lineWidth = width * density;
-        context.setLineDash([]);
-        if (!isDashed) {
-            context.stroke(path);
-        }
-        context.fill(frames);
-        context.globalAlpha = 1;
-        if (isChosen || isDashed) {
-            context.lineWidth = 2 * density;
-            context.setLineDash(isDashed ? [5 * density, 5 * density] : []);
-            context.stroke(path);
-        }
-        if (!box.isEmpty) {
-            mapping.addBox(seen, box.left, box.bottom, box.right, box.top);
-        }
-        return seen;
-    }
-
-    label(context, box, text) {
-        if (box.isEmpty || box.right < 0 || box.left > this.width || box.top < 0 || box.bottom > this.height) {
-            return;
-        }
-        const {density, palette} = this;
-        context.font = '600 ' + 12.5 * density + 'px system-ui, sans-serif';
-        context.textAlign = 'left';
-        const shown = visibleText(text);
-        const width = context.measureText(shown).width + 14 * density;
-        const height = 22 * density;
-        const room = labelRoom * density;
-        const limited = (value, most) => Math.max(4 * density, Math.min(value, most - 4 * density));
-        const x = limited(Math.min(box.right, this.width) - width / 2 + room, this.width - width);
-        const above = box.bottom - height - room;
-        const y = limited(above < 0 ? Math.min(box.top, this.height) + room : above, this.height - height);
-        context.fillStyle = palette.accent;
-        context.beginPath();
-        roundedRectangle(context, x, y, width, height, 4 * density);
-        context.fill();
-        context.fillStyle = palette.pane;
-        context.fillText(shown, x + 7 * density, y + 15.5 * density);
     }
 
     // All of the space that is shown, on paper. A canvas is printed as it is, while an image would have to be decoded
@@ -643,13 +394,14 @@ class Picture {
         Object.assign(this, {brushes: brushesOf(this.data.index, lightPalette), palette: lightPalette,
             density: printedDensity});
         this.version++;
-        const steps = this.painting(canvas.getContext('2d', {alpha: false}), fittingView(box, width, height), width, height,
-            -1);
+        const steps = this.painting(canvas.getContext('2d', {alpha: false}), fittingView(box, width, height), width,
+            height, -1);
         while (!steps.next().done) {
             // There is no time to give way.
         }
         Object.assign(this, shown);
         this.version++;
+        this.keptPicture.restart();
         empty(into).append(canvas);
     }
 
@@ -658,19 +410,6 @@ class Picture {
         this.barText.textContent = String(Number(length.toPrecision(1)));
         this.bar.style.width = (length * view.scale / this.density) + 'px';
     }
-}
-
-function roundedRectangle(path, x, y, width, height, radius) {
-    path.moveTo(x + radius, y);
-    path.arcTo(x + width, y, x + width, y + height, radius);
-    path.arcTo(x + width, y + height, x, y + height, radius);
-    path.arcTo(x, y + height, x, y, radius);
-    path.arcTo(x, y, x + width, y, radius);
-    path.closePath();
-}
-
-function numbersOf(...values) {
-    return values.map(value => String(Number(value.toPrecision(7)))).join(', ');
 }
 
 function openPicture(data) {

@@ -6,7 +6,8 @@ const mostPrintedSteps = 2000;
 const mostPrintedLines = 10000;
 
 function restOf(count, shown, what) {
-    return count > shown ? [element('p', {}, 'and ' + countOf(count - shown, 'more ' + what, 'more ' + what + 's'))] : [];
+    const rest = countOf(count - shown, 'more ' + what, 'more ' + what + 's');
+    return count > shown ? [element('p', {}, 'and ' + rest)] : [];
 }
 
 function tableRow(cell, texts) {
@@ -16,9 +17,9 @@ function tableRow(cell, texts) {
 function printedReport(data, target, form) {
     const notes = data.notesOf(target, form).map(note => [note.kind === 'loss' ? 'lost' : 'assumed',
         'line ' + note.line, note.what, note.reason]);
-    const faults = data.faults(target, data.faultyForm(target, form)).map(fault => ['fault' + (fault.mended ? ', repaired'
-        : ''), fault.lines.length ? 'macro ' + fault.lines.slice(0, 10).join(', ') : '', fault.operation,
-    fault.reason]);
+    const faults = data.faults(target, data.faultyForm(target, form)).map(fault => [
+        fault.mended ? 'fault, repaired' : 'fault',
+        fault.lines.length ? 'macro ' + fault.lines.slice(0, 10).join(', ') : '', fault.operation, fault.reason]);
     const rows = [...notes, ...faults];
     const head = [textElement('h1', {}, data.index.name), element('p', {}, countsInWords(data.index))];
     const title = element('h2', {}, 'Report for ' + data.target(target).title);
@@ -51,7 +52,8 @@ function printedMacro(data, view) {
         list.append(paintInto(element('li', {}), view.painter.pieces(lines.line(line))));
     }
     const {title, file} = data.target(view.target);
-    return [element('h2', {}, title + ', ' + formNames[view.form === 'differences' ? 'repaired' : view.form].toLowerCase()),
+    const form = formNames[view.form === 'differences' ? 'repaired' : view.form].toLowerCase();
+    return [element('h2', {}, title + ', ' + form),
         textElement('p', {}, file), list, ...restOf(lines.count, mostPrintedLines, 'line')];
 }
 

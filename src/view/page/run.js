@@ -175,7 +175,7 @@ class Runner {
     // That which is shown, else the one that is to work.
     formToRun() {
         const {target, form} = this.state.get();
-        const shown = target === 'javascript' ? {recorded: 'recorded', edited: 'edited'}[form] : undefined;
+        const shown = target !== 'javascript' ? null : form === 'differences' ? 'repaired' : form;
         return [shown, 'edited', 'repaired', 'recorded'].find(one => one && this.hasText(one)) || null;
     }
 

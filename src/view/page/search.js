@@ -79,7 +79,8 @@ function objectsWithText(data, word) {
     return objects;
 }
 
-// What a step is found by: its command's or variable's name, its class, layer, handle, kind and the texts of its object.
+// What a step is found by: its command's or variable's name, its class, layer, handle, kind, and the texts of its
+// object.
 class StepMatcher {
     constructor(data, word) {
         const {index} = data;

@@ -41,7 +41,8 @@ class Slider {
         this.data = data;
         this.timer = 0;
         const {count} = data.steps;
-        this.range = element('input', {type: 'range', min: 0, max: count, step: 1, 'aria-label': 'Steps that are done'});
+        this.range = element('input',
+            {type: 'range', min: 0, max: count, step: 1, 'aria-label': 'Steps that are done'});
         this.canvas = element('canvas', {class: 'ticks', 'aria-hidden': 'true'});
         this.play = button('', {class: 'play', 'aria-label': 'Play', title: 'Play ( Space )'}, () => this.toggle());
         this.words = element('span', {class: 'sliderWords'});
@@ -110,7 +111,8 @@ class Slider {
             const wide = mark ? 5 * density : Math.max(1, Math.min(3 * density, room * 0.6));
             const high = canvas.height * (mark > 1 ? 1 : mark ? 0.75 : 0.45);
             context.fillStyle = colors[mark];
-            context.fillRect(Math.min(Math.max(0, x - wide / 2), canvas.width - wide), canvas.height - high, wide, high);
+            const left = Math.min(Math.max(0, x - wide / 2), canvas.width - wide);
+            context.fillRect(left, canvas.height - high, wide, high);
         }
     }
 

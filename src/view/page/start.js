@@ -16,7 +16,8 @@ function showOpening() {
 // The target and form that are shown first: the edited macro where the page was made for it.
 function firstView(data) {
     const {targets} = data.index;
-    const target = targets.find(one => one.forms.edited) || targets.find(one => one.name === 'javascript') || targets[0];
+    const target = targets.find(one => one.forms.edited) || targets.find(one => one.name === 'javascript')
+        || targets[0];
     return target ? {target: target.name, form: formThere(target, target.forms.edited ? 'edited' : 'repaired')}
         : {target: '', form: 'repaired'};
 }

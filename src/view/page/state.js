@@ -1,4 +1,5 @@
-// What is chosen, shown and filtered: the one place that the panes hear of each other from, and its form in the address.
+// What is chosen, shown and filtered: the one place that the panes hear of each other from, and its form in the
+// address.
 
 'use strict';
 

@@ -112,8 +112,10 @@ function propertyRows(properties, isChange, nameOf) {
 
 function rowsOfAdded(added, nameOf) {
     const rows = propertyRows(added.properties || [], false, nameOf);
-    const isOther = added.extra && JSON.stringify(added.extra) !== JSON.stringify(added.properties);
-    return isOther ? [...rows, {heading: 'Second list of properties'}, ...propertyRows(added.extra, false, nameOf)] : rows;
+    if (!added.extra || JSON.stringify(added.extra) === JSON.stringify(added.properties)) {
+        return rows;
+    }
+    return [...rows, {heading: 'Second list of properties'}, ...propertyRows(added.extra, false, nameOf)];
 }
 
 function rowsOfInteraction(interaction, nameOf) {

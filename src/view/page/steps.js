@@ -131,8 +131,8 @@ class StepsPane {
 
     build(pane) {
         const {data} = this;
-        this.field = element('input', {type: 'search', id: 'filter', 'aria-label': 'Filter the steps', autocomplete: 'off',
-            spellcheck: 'false', placeholder: 'Filter: command, layer, class, text'});
+        this.field = element('input', {type: 'search', id: 'filter', 'aria-label': 'Filter the steps',
+            autocomplete: 'off', spellcheck: 'false', placeholder: 'Filter: command, layer, class, text'});
         this.field.addEventListener('input', () => {
             clearTimeout(this.timer);
             this.timer = setTimeout(() => state.set({filter: this.field.value}, 'steps'),
@@ -152,9 +152,11 @@ class StepsPane {
         this.there = element('div', {class: 'thereBox', hidden: true});
         this.nothing = element('p', {class: 'nothing', hidden: true});
         const scroller = element('div', {id: 'stepList'});
+        this.overview = element('div', {class: 'overview', 'aria-hidden': 'true'});
         pane.append(element('div', {class: 'paneHead'}, element('h2', {}, 'Steps'),
             element('span', {class: 'muted'}, countOf(data.index.counts.objects, 'object'))),
-        element('div', {class: 'filterBox'}, this.field, this.chips), this.there, this.nothing, scroller);
+        element('div', {class: 'filterBox'}, this.field, this.chips), this.there, this.nothing,
+        element('div', {class: 'listBox'}, scroller, this.overview));
         this.list = new WindowedList(scroller, {label: 'Steps', rowHeight: rowHeight, makeRow: row => this.makeRow(row),
             isMeasured: row => this.isTall(this.stepOf(row)), headOf: row => this.headOf(row),
             move: (row, isEnter) => this.move(row, isEnter)});
@@ -245,6 +247,8 @@ class StepsPane {
         this.shown = shownSteps(this.data, filter, chip, this.findings);
         this.showChips();
         this.list.setCount(this.rowCount, this.estimates());
+        const marked = [...this.findings.steps()].map(step => this.rowOf(step)).filter(row => row >= 0);
+        showMarks(this.overview, this.list, marked, row => this.findings.of(this.stepOf(row))[0].kind);
         const isEmpty = this.rowCount === 0;
         this.nothing.hidden = !isEmpty;
         this.nothing.textContent = this.data.steps.count ? 'No step is like that.' : 'The recording has no steps.';
@@ -354,8 +358,9 @@ class StepsPane {
         }
         const handle = data.objects.handle(chosen.object);
         const drawn = drawnObject(data, handle);
-        this.there.append(element('div', {class: 'stepLine'}, classIcon(data.className(data.objects.cls[chosen.object])),
-            textElement('span', {class: 'stepWords'}, data.classWords(data.objects.cls[chosen.object])),
+        const cls = data.objects.cls[chosen.object];
+        this.there.append(element('div', {class: 'stepLine'}, classIcon(data.className(cls)),
+            textElement('span', {class: 'stepWords'}, data.classWords(cls)),
             element('span', {class: 'muted'}, 'already there, no step changes it'),
             element('span', {class: 'stepPlace'}, handle)));
         if (drawn) {

@@ -2,7 +2,7 @@
 
 'use strict';
 
-const leastScale = 1e-12;
+const leastScale = 1e-150; // whose square is still a number
 const mostScale = 1e12;
 const fitMargin = 0.06; // of the canvas, at each side
 
@@ -13,7 +13,7 @@ function fittingView(box, width, height) {
     const wanted = Math.min(width * room / wide, height * room / high);
     // A single point is shown as if it were as large as a page of its coordinates' size.
     const scale = limitedScale(isFinite(wanted) ? wanted : Math.min(width, height) / 100);
-    return {x: (box.left + box.right) / 2 - width / 2 / scale, y: (box.bottom + box.top) / 2 + height / 2 / scale,
+    return {x: box.left / 2 + box.right / 2 - width / 2 / scale, y: box.bottom / 2 + box.top / 2 + height / 2 / scale,
         scale: scale};
 }
 

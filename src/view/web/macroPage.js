@@ -7,5 +7,5 @@ function scriptOf(page) {
     const begin = page.lastIndexOf('<script type="text/javascript">');
     const from = page.indexOf('>', begin) + 1;
     const end = page.indexOf('<\/script>', from);
-    return {text: page.slice(from, end), before: page.slice(0, from).split('\n').length - 1};
+    return {text: page.slice(from, end < 0 ? undefined : end), before: page.slice(0, from).split('\n').length - 1};
 }
