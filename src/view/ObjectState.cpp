@@ -3,6 +3,8 @@
 #include "view/Objects.h"
 
 #include <algorithm>
+#include <cmath>
+#include <numbers>
 
 namespace inkmacro::view {
 
@@ -280,8 +282,31 @@ void ObjectState::change(const PropertyList& properties)
 {
     const CFxValueContext context = objects_.context();
     // From the last on, so that the first of several counts.
-    for (auto at = properties.rbegin(); at != properties.rend(); ++at)
-        say(tagOf(**at), indexOf((*at)->GetIndex(context)), (*at)->GetValue(context));
+    for (auto at = properties.rbegin(); at != properties.rend(); ++at) {
+        const QString tag = tagOf(**at);
+        const CFxVariant value = (*at)->GetValue(context);
+        say(tag, indexOf((*at)->GetIndex(context)), value);
+        sayMeasured(tag, value.GetDouble());
+    }
+}
+
+/// Some properties repeat what others tell; when one is changed, so is what it is reckoned from.
+void ObjectState::sayMeasured(const QString& tag, double value)
+{
+    const QString& cls = className();
+    if (cls == "AcDbCircle") {
+        if (isSame(tag, QStringLiteral("Diameter")))
+            say("Radius", -1, value / 2.0);
+        else if (isSame(tag, QStringLiteral("Circumference")))
+            say("Radius", -1, value / kTurn);
+        else if (isSame(tag, QStringLiteral("Area")))
+            say("Radius", -1, std::sqrt(std::max(value, 0.0) / std::numbers::pi));
+    } else if (cls == "AcDbEllipse" && isSame(tag, QStringLiteral("Radius ratio"))) {
+        const double major =
+            number("Major radius")
+                .value_or(point("Major axis vector").value_or(OdGePoint3d()).distanceTo(OdGePoint3d()));
+        say("Minor radius", -1, value * major);
+    }
 }
 
 bool ObjectState::takeFormer(const PropertyList& changes)

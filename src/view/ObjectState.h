@@ -35,7 +35,10 @@ public:
     std::optional<std::uint16_t> spaceOf(const QString& block) const override;
     std::optional<std::uint16_t> spaceOf(const OdDbHandle& block) const override;
 
-    using Values::handle; // of a property
+    // Of properties.
+    using Values::handle;
+    using Values::number;
+
     std::uint32_t number() const { return number_; }
     const OdDbHandle& handle() const { return handle_; }
     const OdRxClass& cls() const { return *class_; }
@@ -86,6 +89,7 @@ private:
     void load() const;
     Property* findOwn(const QString& tag, int index);
     void set(const QString& tag, int index, const CFxVariant& value);
+    void sayMeasured(const QString& tag, double value);
     Point placeOf(const QString& tag, int index) const;
     CFxVariant beforeMove(const QString& tag, const CFxVariant& value) const;
 

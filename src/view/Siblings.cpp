@@ -26,17 +26,17 @@ struct Makers
 
 Siblings::Siblings(const CFxActionArray& actions)
 {
-    Makers hatchMakers;
+    Makers hatchings;
     Makers embeddings;
     Makers regionMakers;
     for (const OdRxObjectPtr& action : actions) {
         if (const auto object = odrxQuery<CFxObjectAdded>(action.get())) {
             const OdRxClass* const cls = object->GetObjectClass();
             added.insert(cls);
-            if (cls == OdDbHatch::desc())
-                hatchMakers.made.push_back(object->GetHandle());
-            else if (cls->name() == "AcDbOle2Frame")
+            if (cls->name() == "AcDbOle2Frame")
                 embeddings.made.push_back(object->GetHandle());
+            else if (cls == OdDbHatch::desc())
+                hatchings.made.push_back(object->GetHandle());
             else if (cls == OdDbRegion::desc())
                 regionMakers.made.push_back(object->GetHandle());
         } else if (const auto custom = odrxQuery<CFxCustomAction>(action.get())) {
@@ -45,7 +45,7 @@ Siblings::Siblings(const CFxActionArray& actions)
                 polylines.emplace(datum(*custom, 3).GetHandle(), custom.get());
                 break;
             case kHatch:
-                hatchMakers.actions.push_back(custom.get());
+                hatchings.actions.push_back(custom.get());
                 break;
             case kEmbed:
                 embeddings.actions.push_back(custom.get());
@@ -61,7 +61,7 @@ Siblings::Siblings(const CFxActionArray& actions)
             }
         }
     }
-    hatches = hatchMakers.pairs();
+    hatches = hatchings.pairs();
     embedded = embeddings.pairs();
     // One action may make several, and nobody tells which of what.
     if (regionMakers.made.size() == regionMakers.actions.size())

@@ -18,9 +18,9 @@ struct Siblings
     std::unordered_set<const OdRxClass*> added; ///< classes of what is added
     /// Custom actions that draw polylines, by the polyline.
     ByHandle polylines;
-    ByHandle hatches; ///< the first made by the first action
     ByHandle viewports;
-    ByHandle embedded; ///< objects, the first one by the first action
+    ByHandle hatches;  ///< the first one by the first action
+    ByHandle embedded; ///< objects, likewise
     ByHandle regions;
 };
 

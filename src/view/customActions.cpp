@@ -283,6 +283,8 @@ void tellMade(Fold& fold, ObjectState& made)
     const Siblings& siblings = fold.siblings();
     if (const auto drawn = siblings.polylines.find(made.handle()); drawn != siblings.polylines.end())
         sayPolyline(made, *drawn->second);
+    if (const auto hatched = siblings.hatches.find(made.handle()); hatched != siblings.hatches.end())
+        sayHatch(made, *hatched->second);
     if (const auto embedding = siblings.embedded.find(made.handle()); embedding != siblings.embedded.end())
         made.say("Path", -1, datum(*embedding->second, 1).GetString());
     if (const auto window = siblings.viewports.find(made.handle()); window != siblings.viewports.end()) {
@@ -291,8 +293,6 @@ void tellMade(Fold& fold, ObjectState& made)
     }
     if (const auto region = siblings.regions.find(made.handle()); region != siblings.regions.end())
         sayRegion(made, *region->second);
-    if (const auto hatched = siblings.hatches.find(made.handle()); hatched != siblings.hatches.end())
-        sayHatch(made, *hatched->second);
 }
 
 std::vector<OdDbHandle> madeBy(const CFxCustomAction& action)

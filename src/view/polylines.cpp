@@ -19,7 +19,8 @@ struct Segment
     double startWidth;
     double endWidth;
 
-    bool isArc() const { return bulge != 0.0; }
+    /// A smaller bulge is straight.
+    bool isArc() const { return std::abs(bulge) > 1e-10; }
     bool isWide() const { return startWidth > 0.0 || endWidth > 0.0; }
 };
 

@@ -155,7 +155,7 @@ class Page:
             self.complaints.append(details.get("exception", {}).get("description") or details["text"])
         elif event == "Runtime.consoleAPICalled" and told["type"] in ("error", "warning", "assert"):
             self.complaints.append(" ".join(str(one.get("value", one.get("description"))) for one in told["args"]))
-        elif event == "Audits.issueAdded":
+        elif event == "Audits.issueAdded" and told["issue"]["code"] == "ContentSecurityPolicyIssue":
             self.complaints.append(json.dumps(told["issue"]))
 
     def do(self, method, **parameters):

@@ -41,6 +41,19 @@ TEST(Fold, ShowsEachStateOnce)
     EXPECT_EQ(seen.picture.primitives.size(), 3U);
 }
 
+TEST(Fold, TakesChangesOfWhatIsMeasured)
+{
+    const RecordedPicture seen({addedCircle("30", 0, 0, 1), modified("AcDbCircle", "30", {{"Diameter", "6"}}),
+                                modified("AcDbCircle", "30", {{"Area", "12.566370614359172"}}),
+                                modified("AcDbCircle", "30", {{"Circumference", "31.41592653589793"}})});
+    for (const auto& [steps, radius] : {std::pair(1, 1), {2, 3}, {3, 2}, {4, 5}})
+        EXPECT_DOUBLE_EQ(seen.behind(steps).at(0).at(2), radius);
+    const RecordedPicture ellipse(
+        {added("AcDbEllipse", "30", {{"Center X", "0"}, {"Major axis vector X", "4"}, {"Minor radius", "1"}}),
+         modified("AcDbEllipse", "30", {{"Radius ratio", "0.5"}})});
+    EXPECT_DOUBLE_EQ(ellipse.behind(2).at(0).at(6), 2);
+}
+
 TEST(Fold, TakesTheEndFromTheDrawing)
 {
     const QString changes = R"({"modified":{"class":"AcDbLine","handle":"2F","properties":[)"

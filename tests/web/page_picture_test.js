@@ -8,18 +8,20 @@ const path = require('path');
 const vm = require('vm');
 
 const folder = path.join(__dirname, '../../src/view/page');
-for (const name of ['boxes', 'grid', 'color', 'trace', 'scene', 'spaces', 'views', 'patterns', 'ground', 'paint',
-    'slider', 'overlay']) {
+for (const name of ['elements', 'boxes', 'grid', 'color', 'brushes', 'trace', 'scene', 'spaces', 'views', 'patterns',
+    'ground', 'paint', 'slider', 'overlay']) {
     vm.runInThisContext(fs.readFileSync(path.join(folder, name + '.js'), 'utf8'), {filename: name + '.js'});
 }
 const {
     Box, Shapes, PathSteps, Grid, Scene, Visibility, Picker, Mapping, ScenePainter, brushKinds, traceCurves,
     visibleColor, contrastOf, spaceAt, ticksOf, wordsOfStep, fittingView, zoomedView, movedView, coversView,
-    dashesOf, familyOf, linesOfFamily, roundStep, sceneOfDrawn, changeBetween, gridLines
+    dashesOf, familyOf, linesOfFamily, roundStep, sceneOfDrawn, changeBetween, gridLines, brushesOf, lightPalette,
+    firstSpaceOf, sentenceOfSpace, reasonOf
 } = vm.runInThisContext(`({
     Box, Shapes, PathSteps, Grid, Scene, Visibility, Picker, Mapping, ScenePainter, brushKinds, traceCurves,
     visibleColor, contrastOf, spaceAt, ticksOf, wordsOfStep, fittingView, zoomedView, movedView, coversView,
-    dashesOf, familyOf, linesOfFamily, roundStep, sceneOfDrawn, changeBetween, gridLines
+    dashesOf, familyOf, linesOfFamily, roundStep, sceneOfDrawn, changeBetween, gridLines, brushesOf, lightPalette,
+    firstSpaceOf, sentenceOfSpace, reasonOf
 })`);
 
 const {move, line, arc, ellipse, bezier, close} = PathSteps;
@@ -319,6 +321,46 @@ for (const paper of [[255, 255, 255], [20, 27, 36]]) {
             shown.map(value => value >= Math.max(...shown)), rgb + ' as ' + shown);
     }
     assert.deepStrictEqual(visibleColor([200, 30, 60], paper), [200, 30, 60]);
+}
+
+// Colors of styles: by layer, of the role where nothing tells one, inherited in blocks; equal ones are one brush.
+{
+    const brushes = brushesOf({layers: [{name: '0', color: {index: 7}}, {name: 'Walls', color: {rgb: [200, 30, 60]}}],
+        styles: [{role: 'object', layer: 0, color: 'bylayer'}, {role: 'object', layer: 1, color: 'bylayer'},
+            {role: 'dimension', layer: 0, color: {index: 7}}, {role: 'object', layer: 0, color: 'byblock'},
+            {role: 'object', layer: 1, color: {rgb: [200, 30, 60]}}, {role: 'object', layer: 1, color: {index: 7}}]},
+    lightPalette);
+    const styles = brushes.ofStyles.map(number => brushes[number]);
+    assert.deepStrictEqual(styles.map(brush => brush.color), [lightPalette.ink, '#c81e3c', lightPalette.dimension,
+        lightPalette.ink, '#c81e3c', lightPalette.ink]);
+    assert.deepStrictEqual(styles.map(brush => brush.inherits), [true, false, false, true, false, false]);
+    assert.strictEqual(styles[1], styles[4]);
+}
+
+// The first picture is not an empty one where another is not; a picture is told in words.
+{
+    const scene = sceneOf([['line', [0, 0, 4, 2.5], {space: 1}], ['arc', [0, 0, 1, 0, turn], {space: 1}],
+        ['line', [1, 1, 3, 3], {space: 1}], ['line', [0, 0, 1, 1], {space: 2}]]);
+    const data = {index: {firstSpace: 0, spaceSwitches: [], spaces: [{kind: 'model', name: 'Model'},
+        {kind: 'sheet', name: 'Plan'}, {kind: 'block', name: 'Bolt'}]}, objects: {cls: [0, 1, 0, 0]},
+    classWords: cls => ['Line', 'Circle'][cls]};
+    assert.strictEqual(firstSpaceOf(data, scene, 0), 1);
+    assert.strictEqual(sentenceOfSpace(data, scene, 1), 'Plan: 2 Line, 1 Circle; from -1, -1 to 4, 3');
+    assert.strictEqual(sentenceOfSpace(data, scene, 0), 'Model: nothing drawn');
+}
+
+// What a comparison has found, in words that do not say twice whom it is about.
+{
+    const empty = {what: '', recorded: '', drawn: '', reason: ''};
+    const words = (finding, subject) => reasonOf(Object.assign({}, empty, finding), subject);
+    assert.strictEqual(words({kind: 'missingAsTold', what: 'AcDbLine 39', reason: 'why'}, 'AcDbLine 39'),
+        'missing, as the report says: why');
+    assert.strictEqual(words({kind: 'missingAsTold', what: 'property "Layer" of AcDbLine 39', reason: 'why'},
+        'AcDbLine 39'), 'property "Layer" is missing, as the report says: why');
+    assert.strictEqual(words({kind: 'different', what: 'Radius', recorded: '2', drawn: ''}, 'AcDbCircle 3'),
+        'different Radius: recorded 2, drawn nothing');
+    assert.strictEqual(words({kind: 'missing', reason: 'why'}, 'AcDbCircle 3'), 'missing: why');
+    assert.ok(words({kind: 'different', what: 'Text', recorded: 'a'.repeat(1000), drawn: 'b'}, '').length < 120);
 }
 
 // Ticks stand where their command ends, and tell the worst of it; a reader hears the command of the step before.

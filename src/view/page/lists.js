@@ -81,7 +81,7 @@ const rowsBeyond = 4; // made above and below of what is in sight
 
 // How a list is asked: `options` are rowHeight (of rows that do not say otherwise), makeRow(row) -> element,
 // isMeasured(row) (its height is what its element has), headOf(row) -> the row that stays at the top while it is in
-// sight, or -1, and move(row, isEnter), called when a key or a click goes to a row.
+// sight, or -1, and move(row, isEnter, isClick), called when a key or a click goes to a row.
 class WindowedList {
     constructor(scroller, options) {
         this.scroller = scroller;
@@ -89,12 +89,18 @@ class WindowedList {
         this.rows = new Map();
         this.active = -1;
         this.isWaiting = false;
+        // What the scroller would tell, which makes it lay out the page each time that it is asked behind a change.
+        this.top = 0;
+        this.knownView = 0;
         this.space = element('div', {class: 'listSpace', role: 'presentation'});
         this.stuck = element('div', {class: 'listHead', role: 'presentation', 'aria-hidden': 'true'});
         putAttributes(scroller, {role: 'listbox', tabindex: 0, 'aria-label': options.label});
         scroller.classList.add('list');
         scroller.append(this.space);
-        scroller.addEventListener('scroll', () => this.drawSoon());
+        scroller.addEventListener('scroll', () => {
+            this.top = scroller.scrollTop;
+            this.drawSoon();
+        });
         scroller.addEventListener('keydown', event => this.key(event));
         this.space.addEventListener('click', event => this.click(event));
         new ResizeObserver(() => this.resized()).observe(scroller);
@@ -129,11 +135,16 @@ class WindowedList {
     }
 
     resized() {
+        const wasHidden = !this.knownView;
+        this.knownView = this.scroller.clientHeight;
         if (this.scroller.clientWidth !== this.width) {
             this.width = this.scroller.clientWidth;
             this.clear(); // texts are broken otherwise
         }
         this.draw();
+        if (wasHidden && this.active >= 0) {
+            this.show(this.active);
+        }
     }
 
     drawSoon() {
@@ -147,7 +158,8 @@ class WindowedList {
     }
 
     get view() {
-        return this.scroller.clientHeight;
+        this.knownView = this.knownView || this.scroller.clientHeight;
+        return this.knownView;
     }
 
     get scale() {
@@ -155,7 +167,21 @@ class WindowedList {
     }
 
     get offset() {
-        return this.scale.offset(this.scroller.scrollTop);
+        return this.scale.offset(this.top);
+    }
+
+    // The space has to be as high as the list before it is scrolled.
+    setTop(offset) {
+        this.setSpace();
+        this.top = this.scale.barTop(Math.max(0, Math.min(this.scale.reach, offset)));
+        this.scroller.scrollTop = this.top;
+    }
+
+    setSpace() {
+        const height = this.scale.height + 'px';
+        if (this.space.style.height !== height) {
+            this.space.style.height = height;
+        }
     }
 
     draw() {
@@ -163,7 +189,7 @@ class WindowedList {
         if (!view) {
             return;
         }
-        this.space.style.height = this.scale.height + 'px';
+        this.setSpace();
         let offset = this.offset;
         // What is measured may move what is below it: the row at the top stays.
         const first = this.heights.at(offset);
@@ -172,9 +198,9 @@ class WindowedList {
             isSettled = this.makeRows(offset, view);
             if (!isSettled) {
                 const wanted = this.heights.top(first) + within;
-                this.space.style.height = this.scale.height + 'px';
+                this.setSpace();
                 if (Math.abs(wanted - offset) >= 1) {
-                    this.scroller.scrollTop = this.scale.barTop(wanted);
+                    this.setTop(wanted);
                 }
                 offset = this.offset;
             }
@@ -235,9 +261,12 @@ class WindowedList {
 
     // Rows stand relative to the bar, which is elsewhere than the offset where the list is scaled.
     place(offset) {
-        const shift = this.scroller.scrollTop - offset;
+        const shift = this.top - offset;
         for (const [row, made] of this.rows) {
-            made.style.top = this.heights.top(row) + shift + 'px';
+            const top = this.heights.top(row) + shift + 'px';
+            if (made.style.top !== top) {
+                made.style.top = top;
+            }
         }
     }
 
@@ -265,7 +294,7 @@ class WindowedList {
             ++next;
         }
         const ends = next < this.count && this.options.headOf(next) !== head ? this.heights.top(next) : Infinity;
-        this.stuck.style.top = this.scroller.scrollTop + Math.min(0, ends - offset - height) + 'px';
+        this.stuck.style.top = this.top + Math.min(0, ends - offset - height) + 'px';
     }
 
     tellActive() {
@@ -289,17 +318,22 @@ class WindowedList {
         this.tellActive();
     }
 
+    // Of the row that stays above this one.
+    headHeight(row) {
+        const head = this.options.headOf ? this.options.headOf(row) : -1;
+        return head >= 0 && head !== row ? this.options.rowHeight() : 0;
+    }
+
     isInSight(row) {
         const top = this.heights.top(row);
         const {offset} = this;
-        const head = this.options.headOf && this.options.headOf(row) !== row ? this.options.rowHeight() : 0;
+        const head = this.headHeight(row);
         return top >= offset + head - 1
             && top + Math.min(this.heights.heights[row], this.view - head) <= offset + this.view + 1;
     }
 
     scrollTo(offset) {
-        this.space.style.height = this.scale.height + 'px';
-        this.scroller.scrollTop = this.scale.barTop(Math.max(0, offset));
+        this.setTop(offset);
         this.draw();
     }
 
@@ -309,8 +343,9 @@ class WindowedList {
             return;
         }
         if (isCentered || !this.isInSight(row)) {
-            const height = Math.min(this.heights.heights[row], this.view);
-            this.scrollTo(this.heights.top(row) - (this.view - height) / 2);
+            const head = this.headHeight(row);
+            const room = this.view - head - this.heights.heights[row];
+            this.scrollTo(this.heights.top(row) - head - Math.max(0, room / 2));
         } else {
             this.draw();
         }
@@ -318,7 +353,7 @@ class WindowedList {
 
     // The least that brings it into sight, for going from row to row.
     reveal(row) {
-        const head = this.options.headOf ? this.options.rowHeight() : 0;
+        const head = this.headHeight(row);
         const top = this.heights.top(row);
         const bottom = top + this.heights.heights[row];
         const {offset} = this;
@@ -335,7 +370,7 @@ class WindowedList {
         const made = event.target.closest('[data-row]');
         const picked = String(window.getSelection && window.getSelection());
         if (made && this.space.contains(made) && !event.target.closest('button, a, input') && !picked) {
-            this.options.move(Number(made.dataset.row), false);
+            this.options.move(Number(made.dataset.row), false, true);
         }
     }
 

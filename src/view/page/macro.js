@@ -151,7 +151,7 @@ class MacroPane {
             this.failure, element('div', {class: 'listBox'}, scroller, this.overview),
             element('div', {class: 'macroEnd'}, this.foot, this.makeHints()));
         this.list = new WindowedList(scroller, {label: 'Lines of the macro', rowHeight: () => codeLineHeight,
-            makeRow: row => this.makeRow(row), move: (row, isEnter) => this.move(row, isEnter)});
+            makeRow: row => this.makeRow(row), move: (row, isEnter, isClick) => this.move(row, isEnter, isClick)});
         scroller.addEventListener('mousemove', event => this.point(event));
         scroller.addEventListener('mouseleave', () => state.set({hover: nothingChosen}, 'macro'));
         this.open();
@@ -318,7 +318,7 @@ class MacroPane {
         const {view} = this;
         const {kind, recorded, repaired, count} = this.rowAt(row);
         if (kind === differenceKinds.folded) {
-            return element('div', {class: 'codeRow isFolded', title: 'Click to show them'},
+            return element('div', {class: 'codeRow isFolded', title: 'Click or Enter shows them'},
                 '··· ' + countOf(count, 'equal line'));
         }
         const made = element('div', {class: 'codeRow'});
@@ -396,12 +396,12 @@ class MacroPane {
         this.showFoot();
     }
 
-    move(row, isEnter) {
+    move(row, isEnter, isClick = false) {
         if (!this.view) {
             return;
         }
         const {kind, recorded} = this.rowAt(row);
-        if (kind === differenceKinds.folded) {
+        if (kind === differenceKinds.folded && (isEnter || isClick)) {
             this.unfold(row, recorded);
             return;
         }

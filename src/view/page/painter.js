@@ -79,7 +79,7 @@ class Painter {
         }
         // In Basic, elements of arrays look like calls.
         const isCalled = !this.ignoresCase && /^\s*\(/.test(line.slice(end, end + 8));
-        return isCalled || /[.>]/.test(line.slice(0, match.index).slice(-1)) ? 'call' : '';
+        return isCalled || /(?:\.|->)$/.test(line.slice(0, match.index).slice(-2)) ? 'call' : '';
     }
 }
 

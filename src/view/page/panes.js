@@ -4,6 +4,7 @@
 
 const paneNames = {picture: 'Drawing', steps: 'Steps', macro: 'Macro'};
 const paneIds = {picture: 'picture', steps: 'stepsPane', macro: 'macroPane'};
+const phoneWidth = '(max-width: 760px)';
 const narrowestPane = 240; // pixels
 const gapKeyStep = 20;
 

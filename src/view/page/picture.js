@@ -14,7 +14,7 @@ class Picture {
         this.painter = new ScenePainter(this.scene);
         this.views = new Map(); // by space, as they were left
         this.fitted = new Set(); // spaces of which all is shown, in whatever size
-        this.lastChoice = {time: 0, objects: [], at: 0};
+        this.lastChoice = {time: -Infinity, x: 0, y: 0, objects: [], at: 0};
         this.version = 0;
         this.density = window.devicePixelRatio || 1;
         this.makeElements();
@@ -281,14 +281,15 @@ class Picture {
     choose(x, y, reach) {
         const now = performance.now();
         const last = this.lastChoice;
-        if (now - last.time < doubleClick) {
+        // The second half of a double click chooses nothing.
+        if (now - last.time < doubleClick && Math.hypot(x - last.x, y - last.y) <= reach) {
             return;
         }
         const objects = this.objectsAt(x, y, reach);
         const isAgain = last.objects.length > 1 && objects.length === last.objects.length &&
             objects.every((object, i) => object === last.objects[i]) && state.get().chosen.object === objects[last.at];
         const at = isAgain ? (last.at + 1) % objects.length : 0;
-        this.lastChoice = {time: now, objects: objects, at: at};
+        this.lastChoice = {time: now, x: x, y: y, objects: objects, at: at};
         this.chooseObject(objects.length ? objects[at] : -1);
     }
 

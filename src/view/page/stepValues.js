@@ -110,6 +110,16 @@ function propertyRows(properties, isChange, nameOf) {
     return rows;
 }
 
+// What was there before is told of each, or once of all that it is not.
+function rowsOfChanges(properties, nameOf) {
+    const rows = propertyRows(properties, true, nameOf);
+    if (!rows.length || rows.some(row => row.old !== null)) {
+        return rows;
+    }
+    rows.forEach(row => { row.isChange = false; });
+    return [...rows, {heading: rows.length > 1 ? 'values before: not recorded' : 'value before: not recorded'}];
+}
+
 function rowsOfAdded(added, nameOf) {
     const rows = propertyRows(added.properties || [], false, nameOf);
     if (!added.extra || JSON.stringify(added.extra) === JSON.stringify(added.properties)) {
@@ -128,8 +138,8 @@ function rowsOfInteraction(interaction, nameOf) {
 
 const rowsOfKinds = {
     added: rowsOfAdded,
-    modified: (modified, nameOf) => propertyRows(modified.properties || [], true, nameOf),
-    property: (property, nameOf) => propertyRows([property], true, nameOf),
+    modified: (modified, nameOf) => rowsOfChanges(modified.properties || [], nameOf),
+    property: (property, nameOf) => rowsOfChanges([property], nameOf),
     sysvar: (variable, nameOf) => [{name: variable.name, text: recordedText(variable.value, nameOf)}],
     interaction: rowsOfInteraction,
     selection: (selection, nameOf) => [{name: 'objects',
@@ -172,7 +182,8 @@ function rowsOfDrawn(object, nameOf) {
     });
 }
 
-// Words for handles: the recorded name of a layer or a style, else class and handle.
+// Words for handles: the recorded name of a layer, a style or the like, else class and handle. Only those are looked
+// for in the drawing, which takes a while.
 class HandleNames {
     constructor(data) {
         this.data = data;
@@ -190,7 +201,8 @@ class HandleNames {
     find(handle) {
         const {data} = this;
         const object = data.objectByHandle(handle);
-        const name = this.nameOf(object, handle);
+        const isNamed = object >= 0 && /TableRecord$|Layout$|Style$/.test(data.className(data.objects.cls[object]));
+        const name = isNamed ? this.nameOf(object, handle) : '';
         const words = object >= 0 ? data.classWords(data.objects.cls[object]) + ' ' : '';
         return name ? quoted(name) : words + handle;
     }

@@ -2,8 +2,12 @@
 
 'use strict';
 
+let knownRowHeight = 0; // asked of the style once, and when the page becomes that of a phone or no longer is
+
 function rowHeight() {
-    return parseFloat(getComputedStyle(document.documentElement).getPropertyValue('--row')) || 24;
+    knownRowHeight = knownRowHeight
+        || parseFloat(getComputedStyle(document.documentElement).getPropertyValue('--row')) || 24;
+    return knownRowHeight;
 }
 
 // What a step is, in words.
@@ -162,6 +166,10 @@ class StepsPane {
             move: (row, isEnter) => this.move(row, isEnter)});
         scroller.addEventListener('mousemove', event => this.point(event));
         scroller.addEventListener('mouseleave', () => state.set({hover: nothingChosen}, 'steps'));
+        matchMedia(phoneWidth).addEventListener('change', () => {
+            knownRowHeight = 0;
+            this.filter();
+        });
         this.readFindings();
     }
 
