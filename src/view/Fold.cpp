@@ -1,5 +1,6 @@
 #include "view/Fold.h"
 
+#include "view/attributes.h"
 #include "view/customActions.h"
 #include "view/kinds.h"
 #include "view/transform.h"
@@ -369,7 +370,11 @@ void Fold::draw(ObjectState& state)
     PictureObject& object = objectOf(state);
     const std::size_t first = picture_.primitives.size();
     const std::size_t numbers = picture_.numbers.size();
-    const Drawer drawer = state.isThere ? drawerOf(state.cls()) : nullptr;
+    const bool isInReferences =
+        picture_.spaces[state.space].kind == Space::Kind::Block && isAttributeOfReferences(state);
+    if (isInReferences)
+        picture_.addRemark(state.number(), "references to its block show their own values in its place");
+    const Drawer drawer = state.isThere && !isInReferences ? drawerOf(state.cls()) : nullptr;
     if (drawer) {
         Pen pen(picture_, {state.number(), state.layer, state.color, state.space, step_, kNoStep});
         try {
