@@ -176,12 +176,18 @@ void addTransformed(Bounds& bounds, std::span<const double> m, const Box& box)
 
 } // namespace
 
-Extents::Extents(const Picture& picture)
-    : picture_(picture), contents_(picture.spaces.size()), entries_(picture.spaces.size())
+Extents::Extents(const Picture& picture) : picture_(picture)
 {
-    for (std::size_t i = 0; i < picture.primitives.size(); ++i)
-        if (picture.primitives[i].until == kNoStep)
-            contents_[picture.primitives[i].space].push_back(static_cast<std::uint32_t>(i));
+}
+
+/// Which primitives each space holds; nobody who asks for the box of a line needs it.
+void Extents::sort()
+{
+    entries_.resize(picture_.spaces.size());
+    contents_.resize(picture_.spaces.size());
+    for (std::size_t i = 0; i < picture_.primitives.size(); ++i)
+        if (picture_.primitives[i].until == kNoStep)
+            contents_[picture_.primitives[i].space].push_back(static_cast<std::uint32_t>(i));
 }
 
 std::optional<Box> Extents::boxOf(const Primitive& primitive)
@@ -226,6 +232,8 @@ std::optional<Box> Extents::boxOf(const Primitive& primitive)
 
 const std::optional<Box>& Extents::of(std::uint16_t space)
 {
+    if (entries_.empty())
+        sort();
     Entry& entry = entries_[space];
     if (entry.state == State::Unknown) {
         entry.state = State::Begun; // a space within itself is left out

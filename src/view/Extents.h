@@ -29,6 +29,8 @@ private:
         std::optional<Box> box;
     };
 
+    void sort();
+
     const Picture& picture_;
     std::vector<std::vector<std::uint32_t>> contents_; ///< numbers of the primitives of each space
     std::vector<Entry> entries_;

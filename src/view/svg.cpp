@@ -19,7 +19,7 @@ constexpr double kCapitals = 0.72;
 
 constexpr char kRules[] = "path{fill:none;stroke:currentColor;stroke-width:1.25;stroke-linejoin:round;"
                           "stroke-linecap:round;vector-effect:non-scaling-stroke}"
-                          ".area{fill:currentColor;fill-rule:evenodd;stroke:none}"
+                          ".area{fill:currentColor;fill-rule:evenodd;stroke-width:.5}"
                           ".tint{fill:currentColor;fill-opacity:.15;fill-rule:evenodd;stroke-opacity:.5}"
                           ".frame{stroke-dasharray:4 3}"
                           ".dot{stroke-width:4}"

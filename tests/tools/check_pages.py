@@ -1,16 +1,21 @@
 #!/usr/bin/python3
 """Opens the pages of recordings in a browser.
 
-    check_pages.py PROGRAM SOURCE_DIR data
+    check_pages.py PROGRAM SOURCE_DIR data|edited|hostile|pixels|use
 """
 
 import importlib
 import sys
 
+import chromium
 import pages
 
 if __name__ == "__main__":
-    checked = pages.Pages()
+    subject = sys.argv.pop(3)
+    checked, summary = pages.Pages(), ""
     with checked.browser:
-        summary = importlib.import_module(f"page_{sys.argv.pop(3)}").check(checked)
+        try:
+            summary = importlib.import_module(f"page_{subject}").check(checked)
+        except chromium.BrowserError as error:
+            checked.complain(subject, error)
     checked.finish(summary)

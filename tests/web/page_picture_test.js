@@ -224,11 +224,8 @@ function traced(primitive, view, window = {left: 0, bottom: 0, right: 800, top: 
     assert.ok(rim.every(([, x, y]) => Math.abs(x - 300 - (y - 300) ** 2 / 2e8) < 0.3), 'the rim of a large circle');
 }
 
-// What is told apart by its size: dots, bars, tints.
-{
-    const scene = sceneOf([['line', [0, 0, 0.06, 0]], ['line', [0, 0, 0.08, 0]], ['point', [0.03, 0]],
-        ['line', [0.01, 0, 0.05, -0.01]], ['text', [0, 0, 0.3, 0, 0, 10, 0]], ['text', [1, 0, 0.4, 0, 0, 10, 0]],
-        ['line', [5, 5, 6, 6], {added: -1}], ['line', [5, 5, 6, 6], {until: 0}]], {texts: ['text']});
+// Paints a scene behind its first step in a square of 100 pixels, and gives what the canvas was told.
+function painted(scene, view) {
     const calls = [];
     const context = new Proxy({}, {get: (target, name) => name in target ? target[name]
         : (...values) => { calls.push([name, ...values]); return {width: 100, actualBoundingBoxAscent: 72}; }});
@@ -238,9 +235,18 @@ function traced(primitive, view, window = {left: 0, bottom: 0, right: 800, top: 
     const look = {visibility: new Visibility(scene, index, 1, new Set()),
         brushes: Object.assign(new Array(brushKinds.styles + 1).fill(brush), {ofStyles: [brushKinds.styles]}),
         kinds: null, space: 0, density: 1, width: 100, height: 100, from: -1, version: 0, modelSpace: 0};
-    for (const portion of painter.paint(context, {x: 0, y: 5, scale: 10}, look)) {
+    for (const portion of painter.paint(context, view, look)) {
         assert.strictEqual(portion, undefined);
     }
+    return {painter: painter, calls: calls};
+}
+
+// What is told apart by its size: dots, bars, tints.
+{
+    const scene = sceneOf([['line', [0, 0, 0.06, 0]], ['line', [0, 0, 0.08, 0]], ['point', [0.03, 0]],
+        ['line', [0.01, 0, 0.05, -0.01]], ['text', [0, 0, 0.3, 0, 0, 10, 0]], ['text', [1, 0, 0.4, 0, 0, 10, 0]],
+        ['line', [5, 5, 6, 6], {added: -1}], ['line', [5, 5, 6, 6], {until: 0}]], {texts: ['text']});
+    const {painter, calls} = painted(scene, {x: 0, y: 5, scale: 10});
     const count = name => calls.filter(call => call[0] === name).length;
     assert.strictEqual(count('fillText'), 1, 'one text is high enough');
     assert.strictEqual(count('fillRect'), 2, 'two lines in one pixel are a dot, one text is a bar');
@@ -257,6 +263,30 @@ function traced(primitive, view, window = {left: 0, bottom: 0, right: 800, top: 
         [80, 5, 200, 5]].sort());
     assert.deepStrictEqual(dashesOf([3, -1, 0, -1], 10), [30, 10, 1, 10]);
     assert.deepStrictEqual(dashesOf([-2, 1, 1], 10), [0, 20, 20, 0]);
+}
+
+// A definition is a path that is used again, but for what looks otherwise in each size; what is too large for a canvas
+// is drawn piece by piece, as much of it as is seen.
+{
+    const added = [];
+    global.Path2D = class extends Pen {
+        addPath(other, matrix) {
+            added.push([other.calls.length, matrix.a, matrix.e]);
+        }
+    };
+    const scene = sceneOf([['line', [0, 0, 2, 2], {space: 1}], ['ray', [1, 0, 2, 0], {space: 1}],
+        ['text', [0, 0, 1, 0, 0, 10, 0], {space: 1}],
+        ['pattern', [1, 0, 0, 0, 0.1, 0, move, 0, 0, line, 2, 0, line, 2, 2, close], {space: 1}],
+        ['reference', [1, 0, 0, 1, 1, 1, 1]], ['reference', [0.01, 0, 0, 0.01, 5, 5, 1]]], {texts: ['text']});
+    const near = painted(scene, {x: 0, y: 10, scale: 10}).calls;
+    const count = (calls, name) => calls.filter(call => call[0] === name).length;
+    assert.strictEqual(added.length, 1, 'one of two is a dot');
+    assert.deepStrictEqual([count(near, 'fillText'), count(near, 'fill'), count(near, 'fillRect')], [1, 1, 1]);
+    assert.strictEqual(near.filter(([name, x]) => name === 'lineTo' && x === 108).length, 1, 'the ray');
+    const far = painted(scene, {x: 1, y: 1 + 1e-4, scale: 1e6}).calls;
+    assert.strictEqual(added.length, 1, 'no path');
+    const numbers = [].concat(...far.filter(([name]) => /To$/.test(name)).map(([, ...values]) => values));
+    assert.ok(numbers.length >= 4 && numbers.every(value => value >= -9 && value <= 109), 'within the canvas');
 }
 
 // Behind a step: what comes, changes, goes; layers that are switched, hidden ones, what was there, and sheets.

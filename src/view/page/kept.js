@@ -10,6 +10,7 @@ const keptShare = 1.5; // of the view, in each direction
 const mostPixels = 24e6; // of a kept picture; a larger one is as large as the view
 const restTime = 80; // milliseconds
 const sliceTime = 8;
+const firstSlice = 40; // of the first picture, which nobody moves yet
 const firstTime = 120; // between two states of the first picture
 const quickTime = 7; // a picture that takes no longer is drawn anew at once
 
@@ -150,7 +151,8 @@ class KeptPicture {
         const start = performance.now();
         painting.steps = painting.steps || this.paint(picture.context, picture.view, this.size.width, this.size.height,
             painting.from);
-        const until = start + (this.took <= 2 * sliceTime ? 2 * sliceTime : sliceTime);
+        const isQuick = this.took <= 2 * sliceTime;
+        const until = start + (!this.kept ? firstSlice : isQuick ? 2 * sliceTime : sliceTime);
         let isDone = false;
         do {
             isDone = painting.steps.next().done;

@@ -92,6 +92,7 @@ class WindowedList {
         // What the scroller would tell, which makes it lay out the page each time that it is asked behind a change.
         this.top = 0;
         this.knownView = 0;
+        this.wanted = null; // offset that a hidden list was to be scrolled to
         this.space = element('div', {class: 'listSpace', role: 'presentation'});
         this.stuck = element('div', {class: 'listHead', role: 'presentation', 'aria-hidden': 'true'});
         putAttributes(scroller, {role: 'listbox', tabindex: 0, 'aria-label': options.label});
@@ -137,12 +138,18 @@ class WindowedList {
     resized() {
         const wasHidden = !this.knownView;
         this.knownView = this.scroller.clientHeight;
+        this.top = this.scroller.scrollTop;
         if (this.scroller.clientWidth !== this.width) {
             this.width = this.scroller.clientWidth;
             this.clear(); // texts are broken otherwise
         }
         this.draw();
-        if (wasHidden && this.active >= 0) {
+        if (wasHidden && this.view) {
+            const {wanted} = this;
+            this.wanted = null;
+            if (wanted !== null) {
+                this.scrollTo(wanted);
+            }
             this.show(this.active);
         }
     }
@@ -333,8 +340,12 @@ class WindowedList {
     }
 
     scrollTo(offset) {
-        this.setTop(offset);
-        this.draw();
+        if (this.view) {
+            this.setTop(offset);
+            this.draw();
+        } else {
+            this.wanted = offset;
+        }
     }
 
     // Into sight where it is not, to the middle when asked to.

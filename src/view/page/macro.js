@@ -61,21 +61,34 @@ function linesInWords(ranges) {
     return (isOne ? 'line ' : 'lines ') + words.join(', ') + (joined.length > 4 ? ' and more' : '');
 }
 
-// All that the pane shows of one form of one target.
-async function openMacroView(data, target, form) {
+function addFinding(view, line, finding) {
+    view.findings.set(line, [...view.findings.get(line) || [], finding]);
+}
+
+// Where the last run of what is shown came to a stop, or null.
+function stopOf(run, target, form) {
+    const isOfThis = run && run.stopped && run.stopped.line > 0 && run.target === target && run.form === form;
+    return isOfThis ? run.stopped : null;
+}
+
+// All that the pane shows of one form of one target. `stop` is {line, message} or null.
+async function openMacroView(data, target, form, stop) {
     const isDifferent = form === 'differences';
     const shown = isDifferent ? 'repaired' : form;
     const [lines, map, hunks] = await Promise.all([data.macro(target, shown), data.map(target, shown),
         form === 'recorded' ? [] : data.hunks(target, shown)]);
     const view = {target: target, form: form, lines: lines, map: map, hunks: hunks,
-        faults: new Map(), painter: new Painter(target), unfolded: new Set()};
+        findings: new Map(), stop: stop, painter: new Painter(target), unfolded: new Set()};
     const faulty = isDifferent ? 'recorded' : form;
     for (const fault of data.faults(target, faulty)) {
         for (const line of fault.lines) {
             if (form !== 'repaired' || !fault.mended) {
-                view.faults.set(line, [...view.faults.get(line) || [], fault]);
+                addFinding(view, line, {kind: 'faults', word: 'fault', text: fault.reason});
             }
         }
+    }
+    if (stop) {
+        addFinding(view, stop.line, {kind: 'faults', word: 'the run stops here', text: stop.message});
     }
     view.changed = new LineRanges(view.hunks.filter(hunk => hunk.repaired[1]).map(hunk =>
         ({first: hunk.repaired[0], last: hunk.repaired[0] + hunk.repaired[1] - 1})));
@@ -132,6 +145,15 @@ class MacroPane {
         state.on(['target', 'form'], () => this.open());
         state.on(['chosen'], (values, source) => this.choose(values.chosen, source));
         state.on(['hover'], values => this.hover(values.hover));
+        state.on(['run'], values => this.seeRun(values.run));
+    }
+
+    // Opens anew when a run has stopped elsewhere than the one before.
+    seeRun(run) {
+        if (this.view && run && run.state !== 'running'
+            && stopOf(run, this.view.target, this.view.form) !== this.view.stop) {
+            this.open();
+        }
     }
 
     build(pane) {
@@ -199,7 +221,7 @@ class MacroPane {
         const tellHere = (title, text) => opening === this.opening && this.showFailure(title, text);
         const timer = setTimeout(() => tellHere('', 'Opening…'), 200);
         try {
-            return await openMacroView(this.data, target, form);
+            return await openMacroView(this.data, target, form, stopOf(state.get().run, target, form));
         } catch (error) {
             tellHere('The macro cannot be shown.', error.message);
             return null;
@@ -221,7 +243,7 @@ class MacroPane {
         this.countRows();
         this.showMarks();
         this.showFoot();
-        const line = this.chosen.first;
+        const line = this.chosen.first || view.stop && view.stop.line;
         if (line) {
             this.list.setActive(this.rowOfLine(line));
             this.list.show(this.rowOfLine(line), true);
@@ -233,7 +255,7 @@ class MacroPane {
     countRows() {
         const {rows, lines} = this.view;
         this.list.setCount(rows ? rows.count : lines.count,
-            this.rowsWithFaults().map(row => [row, codeLineHeight * (1 + this.faultsAt(row).length)]));
+            this.rowsWithFindings().map(row => [row, codeLineHeight * (1 + this.findingsAt(row).length)]));
     }
 
     // The first one that a step has to do with: much of a macro's head is the same in every macro.
@@ -290,24 +312,24 @@ class MacroPane {
         return rows ? rows.row(row) : {kind: differenceKinds.equal, recorded: 0, repaired: row + 1, count: 1};
     }
 
-    faultsAt(row) {
+    findingsAt(row) {
         const {view} = this;
         const {kind, recorded, repaired} = this.rowAt(row);
         if (!view.rows) {
-            return view.faults.get(repaired) || [];
+            return view.findings.get(repaired) || [];
         }
         const isRecorded = kind === differenceKinds.removed || kind === differenceKinds.equal;
-        return isRecorded && view.faults.get(recorded) || [];
+        return isRecorded && view.findings.get(recorded) || [];
     }
 
     // Without a look at each of hundreds of thousands of rows.
-    rowsWithFaults() {
+    rowsWithFindings() {
         const {view} = this;
         if (!view.rows) {
-            return [...view.faults.keys()].map(line => line - 1).filter(row => row < view.lines.count);
+            return [...view.findings.keys()].map(line => line - 1).filter(row => row < view.lines.count);
         }
-        return Array.from({length: view.faults.size ? view.rows.count : 0}, (_, row) => row)
-            .filter(row => this.faultsAt(row).length);
+        return Array.from({length: view.findings.size ? view.rows.count : 0}, (_, row) => row)
+            .filter(row => this.findingsAt(row).length);
     }
 
     rowOfLine(line) {
@@ -335,9 +357,8 @@ class MacroPane {
         made.classList.toggle('isRemoved', isRemoved);
         made.classList.toggle('isAdded', isAdded);
         made.classList.toggle('isChosen', isRemoved ? this.chosenRecorded.has(recorded) : this.chosen.has(repaired));
-        for (const fault of this.faultsAt(row)) {
-            made.classList.add('isFaulty');
-            made.append(findingElement({kind: 'faults', word: 'fault', text: fault.reason}));
+        for (const finding of this.findingsAt(row)) {
+            made.append(findingElement(finding));
         }
         return made;
     }
@@ -442,7 +463,7 @@ class MacroPane {
         }
         const rows = view.rows ? view.rows.hunkRows
             : view.hunks.map(hunk => Math.min(hunk.repaired[0], view.lines.count) - 1);
-        return [...new Set([...rows, ...this.rowsWithFaults()])].sort((one, other) => one - other);
+        return [...new Set([...rows, ...this.rowsWithFindings()])].sort((one, other) => one - other);
     }
 
     goToPlace(direction) {
@@ -459,7 +480,7 @@ class MacroPane {
     }
 
     showMarks() {
-        showMarks(this.overview, this.list, this.places(), row => this.faultsAt(row).length ? 'faults' : 'changed');
+        showMarks(this.overview, this.list, this.places(), row => this.findingsAt(row).length ? 'faults' : 'changed');
     }
 
     showFoot() {
@@ -475,9 +496,8 @@ class MacroPane {
             this.foot.append(countOf(this.view.lines.count, 'line'));
             return;
         }
-        const handle = data.handleText(chosen.step);
-        this.foot.append(textElement('b', {}, stepWords(data, chosen.step)), handle ? ' ' + handle : '',
-            this.ranges.length ? ' ← ' + linesInWords(this.ranges) : ' ← no line');
+        this.foot.append(textElement('b', {}, stepWords(data, chosen.step)), element('span', {},
+            data.handleText(chosen.step) + (this.ranges.length ? ' ← ' + linesInWords(this.ranges) : ' ← no line')));
     }
 
     point(event) {

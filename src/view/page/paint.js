@@ -14,8 +14,10 @@ const definitionSize = 4096; // of a definition's path, in its own units
 
 const brushKinds = {there: 0, comparison: 1, styles: 8};
 
+// What has no box, such as a line without ends, is none.
 function isDot(boxes, p, scale) {
-    return Math.max(boxes[4 * p + 2] - boxes[4 * p], boxes[4 * p + 3] - boxes[4 * p + 1]) * scale < leastBox;
+    const size = Math.max(boxes[4 * p + 2] - boxes[4 * p], boxes[4 * p + 3] - boxes[4 * p + 1]);
+    return size >= 0 && size * scale < leastBox;
 }
 
 // What a picture looks like: {visibility, brushes, kinds, space, density, width, height, from}. `brushes` has also a
@@ -211,10 +213,16 @@ class ScenePainter {
 
     *fills(context, fills, mapping, window, parent) {
         let drawn = 0;
+        let used = -1;
         for (const p of fills) {
-            this.useBrush(context, this.brushOf(p, parent));
+            const brush = this.brushOf(p, parent);
+            const isPattern = this.scene.geometry.shape[p] === Shapes.pattern;
+            if (brush !== used) {
+                this.useBrush(context, brush);
+            }
             this.fill(context, p, mapping, window);
-            if (++drawn % portion === 0 || this.scene.geometry.shape[p] === Shapes.pattern) {
+            used = isPattern ? -1 : brush; // patterns change strokes
+            if (++drawn % portion === 0 || isPattern) {
                 yield;
             }
         }
@@ -231,27 +239,27 @@ class ScenePainter {
             context.fill('evenodd');
             return;
         }
-        const region = {left: Math.max(around.left, window.left), right: Math.min(around.right, window.right),
-            bottom: Math.max(around.bottom, window.bottom), top: Math.min(around.top, window.top)};
-        context.save();
-        context.clip('evenodd');
-        let at = geometry.first[p] + 1;
-        for (let n = geometry.numbers[at - 1]; n > 0; n--) {
-            const family = familyOf(mapping, geometry.numbers, at);
-            this.family(context, family, region);
-            at = family.end;
+        const {density} = this.look;
+        const families = familiesOf(mapping, geometry.numbers, geometry.first[p]);
+        const isTint = family => !(family.gap >= leastGap * density);
+        families.filter(isTint).forEach(({gap}) => {
+            context.globalAlpha = Math.min(0.3, Math.max(0.12, 0.5 * density / gap));
+            context.fill('evenodd');
+            context.globalAlpha = 1;
+        });
+        const lines = families.filter(family => !isTint(family));
+        if (lines.length) {
+            const region = {left: Math.max(around.left, window.left), right: Math.min(around.right, window.right),
+                bottom: Math.max(around.bottom, window.bottom), top: Math.min(around.top, window.top)};
+            context.save();
+            context.clip('evenodd');
+            lines.forEach(family => this.family(context, family, region));
+            context.restore();
         }
-        context.restore();
     }
 
     family(context, family, region) {
         const {density} = this.look;
-        if (!(family.gap >= leastGap * density)) {
-            context.globalAlpha = Math.min(0.3, Math.max(0.12, 0.5 * density / family.gap));
-            context.fillRect(region.left, region.bottom, region.right - region.left, region.top - region.bottom);
-            context.globalAlpha = 1;
-            return;
-        }
         const lengths = dashesOf(family.dashes, family.unit);
         const isDashed = lengths.reduce((sum, length) => sum + length, 0) >= leastGap * density;
         context.setLineDash(isDashed ? lengths : []);
@@ -263,7 +271,6 @@ class ScenePainter {
             context.lineTo(toX, toY);
         });
         context.stroke();
-        context.lineCap = 'round';
     }
 
     *texts(context, texts, mapping, parent) {
@@ -350,8 +357,11 @@ class ScenePainter {
             }
         }
         for (const {p, matrix: nested, number} of definition.others) {
-            this.useBrush(context, own(number));
-            this.other(context, p, mapping.referred(nested, 0), window);
+            const inner = mapping.referred(nested, 0);
+            if (!isDot(this.scene.boxes, p, inner.scale) || this.scene.geometry.shape[p] === Shapes.point) {
+                this.useBrush(context, own(number));
+                this.other(context, p, inner, window);
+            }
         }
         if (definition.others.length) {
             yield;

@@ -16,6 +16,16 @@ function familyOf(mapping, numbers, at) {
     return family;
 }
 
+function familiesOf(mapping, numbers, first) {
+    const families = [];
+    let at = first + 1;
+    for (let n = numbers[first]; n > 0; n--) {
+        families.push(familyOf(mapping, numbers, at));
+        at = families[families.length - 1].end;
+    }
+    return families;
+}
+
 // Calls back with both ends of each line of a family that meets a window. Dashes begin at a multiple of their period.
 function linesOfFamily(family, window, draw) {
     const {x, y, dx, dy, stepX, stepY} = family;

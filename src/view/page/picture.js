@@ -220,12 +220,18 @@ class Picture {
         return this.views.get(this.space);
     }
 
+    // A pane that has never been seen has no size yet.
     fitAll() {
-        this.showView(this.viewOfAll());
-        this.fitted.add(this.space);
+        if (this.width) {
+            this.showView(this.viewOfAll());
+            this.fitted.add(this.space);
+        }
     }
 
     fitChosen() {
+        if (!this.width) {
+            return;
+        }
         const box = this.scene.boxOfObjects(objectsOfChoice(this.data, state.get().chosen), this.space);
         if (!box.isEmpty) {
             const view = fittingView(box, this.width * 0.6, this.height * 0.6);
@@ -235,7 +241,7 @@ class Picture {
 
     center() {
         const box = this.scene.boxOfObjects(objectsOfChoice(this.data, state.get().chosen), this.space);
-        if (!box.isEmpty) {
+        if (this.width && !box.isEmpty) {
             const {scale} = this.view;
             this.showView({x: (box.left + box.right) / 2 - this.width / 2 / scale,
                 y: (box.bottom + box.top) / 2 + this.height / 2 / scale, scale: scale});

@@ -70,7 +70,6 @@ class Slider {
         this.words.textContent = step ? 'behind step ' + step.toLocaleString('en') + ' of ' +
             this.data.steps.count.toLocaleString('en') : words;
         this.words.title = words;
-        this.range.style.setProperty('--done', (100 * step / (this.data.steps.count || 1)) + '%');
     }
 
     async readTicks() {
