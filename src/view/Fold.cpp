@@ -140,7 +140,8 @@ PictureObject& Fold::objectOf(const ObjectState& state)
         PictureObject object;
         object.handle = next.handle();
         object.className = next.className();
-        object.hasGeometry = next.isEntity();
+        // An attribute is a part of the reference that shows it.
+        object.hasGeometry = next.isEntity() && next.className() != "AcDbAttribute";
         picture_.objects.push_back(object);
     }
     return picture_.objects[state.number()];
