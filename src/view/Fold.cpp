@@ -15,6 +15,10 @@ namespace {
 /// Of a primitive that is replaced at the step at which it was drawn.
 constexpr StepNumber kNever = -2;
 
+/// So many numbers of states that others have replaced are kept, 128 MB. Behind that, all further changes of an object
+/// are shown as one.
+constexpr std::size_t kMostFormer = 16'000'000;
+
 bool isYes(const QString& word)
 {
     return word.compare(QLatin1String("yes"), Qt::CaseInsensitive) == 0;
@@ -59,6 +63,7 @@ void Fold::run(const CFxActionArray& actions)
     const Siblings none({});
     siblings_ = &none;
     walk(actions);
+    drawPostponed();
     finish();
 }
 
@@ -368,6 +373,10 @@ void Fold::redraw(ObjectState& state)
 
 void Fold::draw(ObjectState& state)
 {
+    if (formerNumbers_ > kMostFormer && state.isThere && state.primitives > 0) {
+        postponed_.emplace(state.number(), step_);
+        return;
+    }
     PictureObject& object = objectOf(state);
     const std::size_t first = picture_.primitives.size();
     const std::size_t numbers = picture_.numbers.size();
@@ -398,6 +407,7 @@ void Fold::draw(ObjectState& state)
         if (former.from == step_)
             former.from = kNever;
         former.until = former.from == kNever ? kNever : step_;
+        formerNumbers_ += former.count;
     }
     state.firstPrimitive = first;
     state.primitives = picture_.primitives.size() - first;
@@ -433,6 +443,21 @@ bool Fold::isAsBefore(const ObjectState& state, std::size_t first) const
             return false;
     }
     return true;
+}
+
+/// What was changed too often, as it is in the end, from the first of the changes on that are not shown.
+void Fold::drawPostponed()
+{
+    formerNumbers_ = 0;
+    for (const auto& [number, step] : std::exchange(postponed_, {})) {
+        ObjectState& state = objects_[number];
+        if (!state.isThere)
+            continue;
+        remark(state, "its many changes are shown as one");
+        step_ = step;
+        draw(state);
+        objects_.release();
+    }
 }
 
 /// Why nothing of an object is drawn, where nobody else has said it.

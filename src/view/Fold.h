@@ -4,6 +4,8 @@
 #include "view/Siblings.h"
 #include "view/pictureOf.h"
 
+#include <map>
+
 namespace inkmacro::view {
 
 /// Goes through a recording step by step and draws each object anew when it has changed.
@@ -59,6 +61,7 @@ private:
     /// From that primitive on.
     void moveDrawn(const ObjectState& state, std::size_t first);
     bool isAsBefore(const ObjectState& state, std::size_t first) const;
+    void drawPostponed();
     void finish();
     void explainMissing();
 
@@ -69,6 +72,8 @@ private:
     Layers layers_;
     std::unordered_set<OdDbHandle, OdDbHandleHash> added_;        ///< by some action
     std::unordered_set<OdDbHandle, OdDbHandleHash> definedLater_; ///< blocks that some action adds
+    std::size_t formerNumbers_ = 0;                               ///< of primitives that others have replaced
+    std::map<std::uint32_t, StepNumber> postponed_;               ///< objects, and since when they are not drawn anew
     const Siblings* siblings_ = nullptr;
     StepNumber step_ = kNoStep;
     std::uint16_t space_ = Spaces::model; ///< that is drawn into

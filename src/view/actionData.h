@@ -28,6 +28,7 @@ enum CustomKind : std::int32_t
     kRegion = 44,
     kActivate = 45,
     kViewport = 46,
+    kClip = 48,
     kJoin = 50,
     kExplode = 55
 };

@@ -137,17 +137,17 @@ void drawViewport(const Values& values, Pen& pen)
     const std::optional<OdGePoint3d> center = values.point("Center");
     const std::optional<double> width = values.number("Width");
     const std::optional<double> height = values.number("Height");
+    // A boundary of its own wins over the rectangle around it.
     std::vector<Point> corners;
-    if (center && width && height) {
+    for (const OdGePoint3d& corner : values.points("Corner"))
+        corners.push_back(fromAbove(corner));
+    if (corners.empty() && center && width && height) {
         const double x = *width / 2.0;
         const double y = *height / 2.0;
         corners = {{center->x - x, center->y - y},
                    {center->x + x, center->y - y},
                    {center->x + x, center->y + y},
                    {center->x - x, center->y + y}};
-    } else {
-        for (const OdGePoint3d& corner : values.points("Corner"))
-            corners.push_back(fromAbove(corner));
     }
     if (corners.size() < 2)
         return;

@@ -233,6 +233,25 @@ void setAttribute(Fold& fold, const CFxCustomAction& action)
     }
 }
 
+/// A boundary is that of a viewport; pictures and blocks are drawn whole.
+void clip(Fold& fold, const CFxCustomAction& action)
+{
+    const OdArray<OdGePoint2d>& boundary = datum(action, 2).Get2dPointArray();
+    if (boundary.isEmpty())
+        return;
+    for (ObjectState* const state : objectsOf(fold, action, 0)) {
+        if (state->className() != "AcDbViewport") {
+            fold.remark(*state, "its clip boundary is not drawn");
+        } else {
+            std::vector<OdGePoint3d> corners;
+            for (const OdGePoint2d& corner : boundary)
+                corners.push_back({corner.x, corner.y, 0.0});
+            state->sayPoints("Corner", corners);
+            fold.redraw(*state);
+        }
+    }
+}
+
 using Performer = void (*)(Fold& fold, const CFxCustomAction& action);
 
 Performer performerOf(std::int32_t kind)
@@ -271,6 +290,8 @@ Performer performerOf(std::int32_t kind)
         return setAttribute;
     case kActivate:
         return activate;
+    case kClip:
+        return clip;
     case kJoin:
         return join;
     case kExplode:

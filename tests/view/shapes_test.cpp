@@ -298,4 +298,12 @@ TEST(Drawers, BlocksOfOtherDrawingsAndPictures)
     expectBox(extentsOf(seen.object(0x32).space, seen.picture), {0, 0, 4, 3});
     for (const Primitive& primitive : seen.picture.primitives)
         EXPECT_EQ(seen.picture.styles[primitive.style].role, Role::Frame);
+
+    const char* const clipped = R"({"handle":"32"},{"class":"AcDbViewport"},{"points2d":[[0,0],[9,0],[9,9]]})";
+    const RecordedPicture viewport(
+        {added("AcDbViewport", "32", {{"Center X", "5"}, {"Center Y", "5"}, {"Width", "4"}, {"Height", "2"}}),
+         custom(48, clipped)});
+    EXPECT_EQ(viewport.picture.primitives.size(), 2U);
+    expectBox(boxOf(viewport.picture.primitives[0], viewport.picture), {3, 4, 7, 6});
+    expectBox(boxOf(viewport.picture.primitives[1], viewport.picture), {0, 0, 9, 9});
 }
