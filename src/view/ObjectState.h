@@ -8,7 +8,7 @@ namespace inkmacro::view {
 
 class Objects;
 
-/// The parts of an object's record that stand for its properties while it is drawn or changed.
+/// What has been said of an object: a value of a tag, of a repeated one with an index from 0.
 struct Property
 {
     QString tag;

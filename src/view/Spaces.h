@@ -1,8 +1,7 @@
 #pragma once
 
-#include "view/Picture.h"
-
 #include "host/db/OdDbDatabase.h"
+#include "view/Picture.h"
 
 namespace inkmacro::view {
 

@@ -29,6 +29,39 @@ std::optional<double> numberOr(const Values& values, const QString& tag, Read re
     return std::nullopt;
 }
 
+using Axes = std::pair<Point, Point>;
+
+/// The shorter axis: across the longer one, in the drawing's plane where it tells one, since the record does not.
+Point minorAxis(const OdGePoint3d& major, double radius, const OdDbEllipse* drawn)
+{
+    if (drawn) {
+        const OdGeVector3d& axis = drawn->minorAxis();
+        const double length = std::hypot(axis.x, axis.y, axis.z);
+        const double along = axis.x * major.x + axis.y * major.y + axis.z * major.z;
+        // It is of another state where it does not stand across.
+        constexpr double across = 1e-9;
+        if (length > 0.0 && std::abs(along) <= across * length * major.distanceTo({}))
+            return {axis.x * radius / length, axis.y * radius / length};
+    }
+    const double flat = std::hypot(major.x, major.y);
+    return flat > 0.0 ? Point{-major.y * radius / flat, major.x * radius / flat} : Point{0.0, radius};
+}
+
+/// The axes of an ellipse, which may lie aslant in space: from the center, seen from above.
+std::optional<Axes> axesOf(const Values& values)
+{
+    const std::optional<OdGePoint3d> major = values.point("Major axis vector");
+    const std::optional<double> minor = values.number("Minor radius");
+    const auto* const drawn = values.drawnAs<OdDbEllipse>();
+    if (major && minor)
+        return Axes(fromAbove(*major), minorAxis(*major, *minor, drawn));
+    if (!drawn)
+        return std::nullopt;
+    const OdGeVector3d& u = drawn->majorAxis();
+    const OdGeVector3d& v = drawn->minorAxis();
+    return Axes({u.x, u.y}, {v.x, v.y});
+}
+
 } // namespace
 
 void drawLine(const Values& values, Pen& pen)
@@ -63,33 +96,6 @@ void drawArc(const Values& values, Pen& pen)
         numberOr<OdDbArc>(values, QStringLiteral("End Angle"), [](const OdDbArc& arc) { return arc.endAngle(); });
     if (center && radius && start && end)
         pen.arc(*center, std::abs(*radius), *start, sweepBetween(*start, *end));
-}
-
-/// The axes of an ellipse, which may lie aslant in space: from the center, seen from above.
-static std::optional<std::pair<Point, Point>> axesOf(const Values& values)
-{
-    const std::optional<OdGePoint3d> major = values.point("Major axis vector");
-    const std::optional<double> minor = values.number("Minor radius");
-    const auto* const drawn = values.drawnAs<OdDbEllipse>();
-    if (major && minor) {
-        const double length = major->distanceTo({});
-        if (drawn && length > 0.0) {
-            // The record does not tell in which plane it lies; the drawing may.
-            const OdGeVector3d& axis = drawn->minorAxis();
-            const double drawnLength = std::hypot(axis.x, axis.y, axis.z);
-            if (drawnLength > 0.0 && major->z != 0.0)
-                return std::pair(fromAbove(*major),
-                                 Point{axis.x * *minor / drawnLength, axis.y * *minor / drawnLength});
-        }
-        const double flat = std::hypot(major->x, major->y);
-        const Point across = flat > 0.0 ? Point{-major->y / flat, major->x / flat} : Point{0.0, 1.0};
-        return std::pair(fromAbove(*major), Point{across.x * *minor, across.y * *minor});
-    }
-    if (!drawn)
-        return std::nullopt;
-    const OdGeVector3d& u = drawn->majorAxis();
-    const OdGeVector3d& v = drawn->minorAxis();
-    return std::pair(Point{u.x, u.y}, Point{v.x, v.y});
 }
 
 void drawEllipse(const Values& values, Pen& pen)

@@ -1,8 +1,7 @@
+#include "host/db/OdDbClassMap.h"
 #include "host/db/OdDbSurfaces.h"
 #include "view/drawers.h"
 #include "view/kinds.h"
-
-#include "host/db/OdDbClassMap.h"
 
 #include <algorithm>
 

@@ -146,6 +146,24 @@ TEST(Drawers, EllipsesAndArcs)
     expectBox(extentsOf(0, seen.picture), {-1, -6, 3, 6});
 }
 
+TEST(Drawers, EllipsesAslant)
+{
+    const QString ellipse = added("AcDbEllipse", "30",
+                                  {{"Center X", "0"},
+                                   {"Major axis vector X", "4"},
+                                   {"Minor radius", "2"},
+                                   {"Start angle", "0"},
+                                   {"End angle", "0"}});
+    const auto tilted = [](const char* minor) {
+        return QString(R"({"object":{"class":"AcDbEllipse","handle":"30","majorAxis":[4,0,0],"minorAxis":[%1]}})")
+            .arg(minor);
+    };
+    expectNear(RecordedPicture({tilted("0,1.2,1.6"), ellipse}).behind(1), {{3, 0, 0, 4, 0, 0, 1.2, 0, 2 * kPi}});
+    // Not across the longer axis, so it has been turned since.
+    expectNear(RecordedPicture({tilted("1.6,1.2,0"), ellipse}).behind(1), {{3, 0, 0, 4, 0, 0, 2, 0, 2 * kPi}});
+    expectNear(RecordedPicture({tilted("0,0,2")}).behind(0), {{3, 0, 0, 4, 0, 0, 0, 0, 2 * kPi}});
+}
+
 TEST(Drawers, SplinesThroughTheirPoints)
 {
     const RecordedPicture natural(
