@@ -48,8 +48,7 @@ enum class Role : std::uint8_t
 {
     Object,
     Dimension, ///< of a dimension, a leader or a tolerance
-    Frame,     ///< stands for what is not drawn itself, such as an image
-    Tag        ///< the name of an attribute in a block's definition, in whose place references show its value
+    Frame      ///< stands for what is not drawn itself, such as an image
 };
 
 struct Style

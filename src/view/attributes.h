@@ -1,11 +1,14 @@
 #pragma once
 
-#include "view/Affine.h"
 #include "view/Values.h"
 
 namespace inkmacro::view {
 
-/// The value that stands in the place of an attribute's name where a reference puts its definition.
-void drawAttributeValue(const Values& definition, const QString& value, const Affine& place, Pen& pen);
+/// Whether references to a block show values of their own in the place of this part of it.
+bool isAttributeOfReferences(const Values& definition);
+
+/// The values that a reference to a block gives to its attributes, where the block's definitions stand. `place` leads
+/// from the block to where it lands.
+void drawAttributes(const Values& reference, const Values& block, const Affine& place, Pen& pen);
 
 } // namespace inkmacro::view

@@ -75,24 +75,6 @@ QString fileNameOf(const QString& path)
     return path.section('/', -1).section('\\', -1);
 }
 
-/// Where the block has the name of an attribute, its reference has a value of its own, or that of the definition. A
-/// drawing that has attributes as objects shows them as such.
-void drawAttributeValues(const Values& values, const Values* record, const Affine& place, Pen& pen)
-{
-    const auto* const drawn = values.drawnAs<OdDbBlockReference>();
-    const auto* const block = record ? record->drawnAs<OdDbBlockTableRecord>() : nullptr;
-    if (!block || (drawn && !drawn->attributeIterator()->done()))
-        return;
-    for (const OdDbObjectIteratorPtr at = block->newIterator(); !at->done(); at->step()) {
-        const Values* const definition = values.other(at->objectId().getHandle());
-        if (!definition || definition->className() != "AcDbAttributeDefinition")
-            continue;
-        const QString tag = definition->text("Tag").value_or(QString());
-        const std::optional<QString> own = values.text("BlockAttributes." + tag);
-        drawAttributeValue(*definition, own.value_or(definition->text("Value").value_or(QString())), place, pen);
-    }
-}
-
 /// A frame whose size is not known, and which has to be seen all the same.
 constexpr FrameSize kUnknownSize{60.0, 30.0};
 
@@ -115,7 +97,8 @@ void drawBlockReference(const Values& values, Pen& pen)
     const Point origin = drawn ? fromAbove(drawn->origin()) : Point();
     const Affine place = placeOf(values) * Affine::moved(-origin.x, -origin.y);
     pen.reference({place.a, place.b, place.c, place.d, place.e, place.f}, *space);
-    drawAttributeValues(values, record, place, pen);
+    if (record)
+        drawAttributes(values, *record, place, pen);
 }
 
 void drawImage(const Values& values, Pen& pen)

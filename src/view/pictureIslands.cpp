@@ -44,7 +44,7 @@ QJsonArray layersJson(const Picture& picture)
 
 QJsonArray stylesJson(const Picture& picture)
 {
-    static constexpr const char* roles[] = {"object", "dimension", "frame", "tag"};
+    static constexpr const char* roles[] = {"object", "dimension", "frame"};
     QJsonArray list;
     for (const Style& style : picture.styles)
         list.append(QJsonObject{

@@ -70,7 +70,7 @@ public:
         const Box view = viewOf(space);
         const Point origin = originOf(space);
         SvgText body;
-        draw(space, view, false, body);
+        draw(space, view, body);
         const SvgText definitions = define();
 
         SvgText svg;
@@ -134,13 +134,13 @@ private:
             const std::optional<Box> box = extents_.of(space);
             const Box view = box.value_or(Box{});
             // The view of a reference is not known here.
-            draw(space, grown(view, 2.0 * std::max(view.right - view.left, view.top - view.bottom) + 1.0), true, body);
+            draw(space, grown(view, 2.0 * std::max(view.right - view.left, view.top - view.bottom) + 1.0), body);
             definitions.raw("<g id=\"b").number(space).raw("\">\n").raw(body.bytes()).raw("</g>\n");
         }
         return definitions;
     }
 
-    void draw(std::uint16_t space, const Box& view, bool isReferred, SvgText& body)
+    void draw(std::uint16_t space, const Box& view, SvgText& body)
     {
         const Point origin = originOf(space);
         QByteArray current;
@@ -151,8 +151,6 @@ private:
             run = SvgPath(origin);
         };
         for (const Primitive* const primitive : contents_[space]) {
-            if (isReferred && picture_.styles[primitive->style].role == Role::Tag)
-                continue;
             QByteArray classes = colors_.classOf(*primitive);
             if (picture_.styles[primitive->style].role == Role::Frame)
                 classes += " frame";

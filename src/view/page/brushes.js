@@ -46,7 +46,7 @@ function brushesOf(index, palette) {
     const numbers = new Map();
     brushes.ofStyles = index.styles.map(style => {
         const layer = index.layers[style.layer];
-        const isObject = style.role === 'object' || style.role === 'tag';
+        const isObject = style.role === 'object';
         const roleColor = isObject ? palette.ink : style.role === 'dimension' ? palette.dimension : palette.muted;
         const color = recordedColor(style.color, layer.color, roleColor, paper);
         const inherits = style.color === 'byblock' || style.color === 'bylayer' && layer.name === '0';

@@ -419,8 +419,7 @@ class ScenePainter {
         for (const p of depth < deepestNesting ? this.scene.members.of(space) : []) {
             const shape = geometry.shape[p];
             const number = this.brushOf(p, parent);
-            const isTag = this.scene.data.index.styles[geometry.style[p]].role === 'tag';
-            if (isTag || !this.look.visibility.shows(p) || shape === Shapes.window) {
+            if (!this.look.visibility.shows(p) || shape === Shapes.window) {
                 continue;
             }
             if (shape === Shapes.reference) {
