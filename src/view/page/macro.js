@@ -475,7 +475,7 @@ class MacroPane {
         const next = direction > 0 ? places.find(row => row > from) : places.filter(row => row < from).pop();
         const row = next === undefined ? places[direction > 0 ? 0 : places.length - 1] : next;
         this.move(row, false);
-        this.list.show(row);
+        this.list.show(row, true);
         return true;
     }
 
