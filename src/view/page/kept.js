@@ -10,7 +10,7 @@ const keptShare = 1.5; // of the view, in each direction
 const mostPixels = 24e6; // of a kept picture; a larger one is as large as the view
 const restTime = 80; // milliseconds
 const sliceTime = 8;
-const firstSlice = 40; // of a picture that nothing is seen before
+const firstSlice = 150; // of a picture that nothing is seen before, while other panes open too
 const firstTime = 120; // between two states of that one
 const quickTime = 7; // a picture that takes no longer is drawn anew at once
 

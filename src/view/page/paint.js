@@ -348,7 +348,7 @@ class ScenePainter {
         const matrix = {a: mapping.a / unit, b: mapping.b / unit, c: mapping.c / unit, d: mapping.d / unit,
             e: mapping.x(x, y), f: mapping.y(x, y)};
         for (const {path, number} of definition.fills) {
-            this.useBrush(context, own(number));
+            context.fillStyle = this.look.brushes[own(number)].color;
             context.setTransform(matrix.a, matrix.b, matrix.c, matrix.d, matrix.e, matrix.f);
             context.fill(path, 'evenodd');
             context.setTransform(1, 0, 0, 1, 0, 0);
@@ -366,8 +366,7 @@ class ScenePainter {
         for (const {p, matrix: nested, number} of definition.others) {
             const inner = mapping.referred(nested, 0);
             if (!isDot(this.scene.boxes, p, inner.scale) || this.scene.geometry.shape[p] === Shapes.point) {
-                this.useBrush(context, own(number));
-                this.other(context, p, inner, window);
+                this.other(context, p, inner, window, own(number));
             }
         }
         if (definition.others.length) {
@@ -382,14 +381,18 @@ class ScenePainter {
     }
 
     // What of a definition does not go into a path: its look depends on the size at which it is seen.
-    other(context, p, mapping, window) {
+    other(context, p, mapping, window, brush) {
         const {geometry} = this.scene;
         const shape = geometry.shape[p];
-        if (shape === Shapes.pattern) {
-            this.fill(context, p, mapping, window);
-        } else if (shape === Shapes.text) {
+        if (shape === Shapes.text) {
+            context.fillStyle = this.look.brushes[brush].color;
             this.text(context, p, mapping);
             context.setTransform(1, 0, 0, 1, 0, 0);
+            return;
+        }
+        this.useBrush(context, brush);
+        if (shape === Shapes.pattern) {
+            this.fill(context, p, mapping, window);
         } else {
             context.beginPath();
             if (isEndless(shape)) {
