@@ -307,12 +307,12 @@ class Picture {
             objects.every((object, i) => object === last.objects[i]) && state.get().chosen.object === objects[last.at];
         const at = isAgain ? (last.at + 1) % objects.length : 0;
         this.lastChoice = {time: now, x: x, y: y, objects: objects, at: at};
-        this.chooseObject(objects.length ? objects[at] : -1);
+        this.chooseObject(objects.length ? objects[at] : -1, 'picture');
     }
 
-    chooseObject(object) {
+    chooseObject(object, source) {
         state.set({chosen: object < 0 ? nothingChosen : {step: this.data.stepOfObject(object), object: object}},
-            'picture');
+            source);
     }
 
     fit() {
@@ -337,7 +337,7 @@ class Picture {
         if (all.length) {
             const at = all.indexOf(state.get().chosen.object);
             const next = at < 0 ? (direction > 0 ? 0 : all.length - 1) : (at + direction + all.length) % all.length;
-            this.chooseObject(all[next]);
+            this.chooseObject(all[next], 'pictureKeys');
         }
     }
 
