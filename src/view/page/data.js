@@ -185,10 +185,6 @@ class Data {
         this.firstSteps = null;
     }
 
-    hasIsland(name) {
-        return this.piecesOf(name) !== null;
-    }
-
     async island(name, isOnce = false) {
         const pieces = this.piecesOf(name, isOnce);
         if (!pieces) {
@@ -345,9 +341,9 @@ class Data {
             this.firstSteps = this.objects.added.slice();
             for (let step = this.steps.count - 1; step >= 0; --step) {
                 const objects = this.kindOf(step) === 'command' ? [] : this.objectsOfStep(step);
-                for (const object of objects) {
-                    if (this.objects.added[object] < 0) {
-                        this.firstSteps[object] = step;
+                for (const changed of objects) {
+                    if (this.objects.added[changed] < 0) {
+                        this.firstSteps[changed] = step;
                     }
                 }
             }

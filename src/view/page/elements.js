@@ -4,10 +4,10 @@
 
 const drawingNames = 'http://www.w3.org/2000/svg';
 
-function putAttributes(element, attributes) {
+function putAttributes(into, attributes) {
     for (const [name, value] of Object.entries(attributes)) {
         if (value !== null && value !== undefined && value !== false) {
-            element.setAttribute(name, value === true ? '' : String(value));
+            into.setAttribute(name, value === true ? '' : String(value));
         }
     }
 }
@@ -42,9 +42,9 @@ function byId(id) {
     return document.getElementById(id);
 }
 
-function empty(element) {
-    element.textContent = '';
-    return element;
+function empty(one) {
+    one.textContent = '';
+    return one;
 }
 
 // What has no look of its own, or changes that of its neighbours: control characters, directions, widths of nothing,
