@@ -33,6 +33,7 @@ struct HostSettings
     bool replay = false;                  ///< whatever mode the recording says
     bool repair = false;                  ///< macros without their known faults
     bool faithful = false;                ///< and with them, of drawings too
+    bool sameIdentifiers = false;         ///< whenever a macro is written
 };
 
 /// In which form `convert` tells what its macros lack and where they are faulty.

@@ -46,6 +46,7 @@ std::int32_t runModule(const TargetRow& target, const QString& macro, const Reco
     const int language = host.recordingLanguage.value_or(recording.header.language.value_or(static_cast<int>(code)));
     GetFxSystemServices()->SetInt16(kRecordingLanguage, static_cast<std::int16_t>(language));
     GetFxSystemServices()->SetInt16(kRepairMacros, host.repair ? 1 : 0);
+    GetFxSystemServices()->SetInt16(kSameIdentifiers, host.sameIdentifiers ? 1 : 0);
     if (host.installDir)
         GetFxRegistry()->SetText(kInstallationKey, kInstallDir, *host.installDir);
     if (recording.header.sheet) {

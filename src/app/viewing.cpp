@@ -204,8 +204,10 @@ private:
         Telling telling;
         telling.report = ReportForm::Json;
         telling.quiet = true;
+        HostSettings host;
+        host.sameIdentifiers = true;
         const int status = convertInProcesses(
-            jobs_, {}, telling, [&macros](const Job& job, std::unique_ptr<ReportPart> part, const Outcome& outcome) {
+            jobs_, host, telling, [&macros](const Job& job, std::unique_ptr<ReportPart> part, const Outcome& outcome) {
                 if (part && !part->beginReading())
                     part.reset();
                 const Outcome known = part ? part->outcome() : outcome;

@@ -18,6 +18,10 @@ inline constexpr char kRepairMacros[] = "RepairMacros";
 /// takes a while to find. Losses are in it all the same.
 inline constexpr char kIgnoreFaults[] = "IgnoreFaults";
 
+/// When it is not 0, identifiers in macro and project are the same in each conversion, so that texts can be compared;
+/// else they are new ones, which no other project has.
+inline constexpr char kSameIdentifiers[] = "SameIdentifiers";
+
 /// Key and name of the text in the registry (CFxRegistry::SetText) that says where the application is installed, with a
 /// backslash at its end. The projects of both C++ languages look for its libraries below it.
 inline constexpr char kInstallationKey[] = "SOFTWARE\\Velmorand\\Inkwright";

@@ -1,5 +1,6 @@
 #include "view/Fold.h"
 
+#include "view/attributes.h"
 #include "view/customActions.h"
 #include "view/kinds.h"
 #include "view/transform.h"
@@ -144,7 +145,8 @@ PictureObject& Fold::objectOf(const ObjectState& state)
         PictureObject object;
         object.handle = next.handle();
         object.className = next.className();
-        object.hasGeometry = next.isEntity();
+        // An attribute is a part of the reference that shows it.
+        object.hasGeometry = next.isEntity() && next.className() != "AcDbAttribute";
         picture_.objects.push_back(object);
     }
     return picture_.objects[state.number()];
@@ -378,7 +380,11 @@ void Fold::draw(ObjectState& state)
     PictureObject& object = objectOf(state);
     const std::size_t first = picture_.primitives.size();
     const std::size_t numbers = picture_.numbers.size();
-    const Drawer drawer = state.isThere ? drawerOf(state.cls()) : nullptr;
+    const bool isInReferences =
+        picture_.spaces[state.space].kind == Space::Kind::Block && isAttributeOfReferences(state);
+    if (isInReferences)
+        picture_.addRemark(state.number(), "references to its block show their own values in its place");
+    const Drawer drawer = state.isThere && !isInReferences ? drawerOf(state.cls()) : nullptr;
     if (drawer) {
         Pen pen(picture_, {state.number(), state.layer, state.color, state.space, step_, kNoStep});
         try {

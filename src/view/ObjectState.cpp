@@ -10,23 +10,22 @@ namespace inkmacro::view {
 
 namespace {
 
-/// Capitals count, as in `rotation` and `Rotation`, but for the axis of a coordinate.
-/// Without regard to upper and lower case of Latin letters. Asked of each property that a tag passes: from the end,
-/// where the tags of coordinates differ.
+/// Capitals count, as in `rotation` and `Rotation`, but for the axis of a coordinate. Asked of each property that a tag
+/// passes: from the end, where the tags of coordinates differ.
 bool isSame(const QString& one, const QString& other)
 {
     if (one.size() != other.size())
         return false;
-    constexpr unsigned lower = 0x20;
     const QChar* const left = one.constData();
     const QChar* const right = other.constData();
     if (left == right)
         return true;
-    for (int i = one.size(); i-- > 0;) {
-        const unsigned a = left[i].unicode();
-        const unsigned b = right[i].unicode();
-        const bool isLetter = (a | lower) >= 'a' && (a | lower) <= 'z';
-        if (a != b && !(isLetter && (a ^ b) == lower))
+    constexpr unsigned kCase = 0x20;
+    const int last = one.size() - 1;
+    for (int i = last; i >= 0; --i) {
+        const unsigned difference = left[i].unicode() ^ right[i].unicode();
+        const bool isAxis = i == last && i > 0 && left[i - 1] == ' ';
+        if (difference != 0 && !(isAxis && difference == kCase))
             return false;
     }
     return true;

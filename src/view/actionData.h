@@ -22,6 +22,7 @@ enum CustomKind : std::int32_t
     kPolyline = 16,
     kErase = 17,
     kHatch = 18,
+    kAttribute = 39,
     kPolylineEdit = 40,
     kVertex = 42,
     kRegion = 44,

@@ -1,6 +1,7 @@
 #include "host/db/OdDbEntities.h"
 #include "host/db/OdDbRecords.h"
 #include "view/Affine.h"
+#include "view/attributes.h"
 #include "view/drawers.h"
 
 namespace inkmacro::view {
@@ -96,6 +97,8 @@ void drawBlockReference(const Values& values, Pen& pen)
     const Point origin = drawn ? fromAbove(drawn->origin()) : Point();
     const Affine place = placeOf(values) * Affine::moved(-origin.x, -origin.y);
     pen.reference({place.a, place.b, place.c, place.d, place.e, place.f}, *space);
+    if (record)
+        drawAttributes(values, *record, place, pen);
 }
 
 void drawImage(const Values& values, Pen& pen)

@@ -225,6 +225,14 @@ void polyline(Fold& fold, const CFxCustomAction& action)
     fold.redraw(state);
 }
 
+void setAttribute(Fold& fold, const CFxCustomAction& action)
+{
+    for (ObjectState* const reference : objectsOf(fold, action, 0)) {
+        reference->say("BlockAttributes." + datum(action, 2).GetString().toQString(), -1, datum(action, 3).GetString());
+        fold.redraw(*reference);
+    }
+}
+
 /// A boundary is that of a viewport; pictures and blocks are drawn whole.
 void clip(Fold& fold, const CFxCustomAction& action)
 {
@@ -278,6 +286,8 @@ Performer performerOf(std::int32_t kind)
         return editVertex;
     case kErase:
         return erase;
+    case kAttribute:
+        return setAttribute;
     case kActivate:
         return activate;
     case kClip:

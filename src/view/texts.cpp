@@ -1,5 +1,6 @@
 // Texts of one line, notes and texts along an arc.
 
+#include "view/attributes.h"
 #include "view/drawers.h"
 #include "view/leaders.h"
 #include "view/noteText.h"
@@ -56,6 +57,11 @@ Letters placed(const Values& values, Letters letters)
     return letters;
 }
 
+double heightOfAttribute(const Values& values)
+{
+    return sizeOf({values.number("Height")}, kUsualHeightOfAttributes);
+}
+
 void drawLetters(const Values& values, Pen& pen, const QString& text, double height)
 {
     if (text.trimmed().isEmpty())
@@ -63,6 +69,35 @@ void drawLetters(const Values& values, Pen& pen, const QString& text, double hei
     pen.text(placed(values, {.text = text, .at = {}, .height = height}));
     if (yesOrNo(values, "Backward").value_or(false) || yesOrNo(values, "UpsideDown").value_or(false))
         pen.remark("its letters are not mirrored");
+}
+
+/// The attribute of that tag, as the drawing tells of a reference.
+QString drawnAttribute(const Values& reference, const QString& tag, const QString& usual)
+{
+    const auto* const drawn = reference.drawnAs<OdDbBlockReference>();
+    if (!drawn)
+        return usual;
+    for (const OdDbObjectIteratorPtr all = drawn->attributeIterator(); !all->done(); all->step())
+        if (const auto attribute = odrxCast<OdDbAttribute>(all->objectId().openObject().get());
+            attribute && attribute->tag().compare(tag, Qt::CaseInsensitive) == 0)
+            return attribute->textString();
+    return usual;
+}
+
+void drawAttributeOf(const Values& reference, const Values& definition, const Affine& place, Pen& pen)
+{
+    const QString tag = definition.text("Tag").value_or(QString());
+    const QString usual = definition.text("Value").value_or(QString());
+    const QString text = reference.text("BlockAttributes." + tag).value_or(drawnAttribute(reference, tag, usual));
+    if (text.trimmed().isEmpty() || yesOrNo(definition, "Invisible").value_or(false))
+        return;
+    Letters letters = placed(definition, {.text = plainText(text), .at = {}, .height = heightOfAttribute(definition)});
+    const Point along = place.turn(directionOf(letters.angle));
+    letters.at = place * letters.at;
+    letters.width *= lengthOf(along);
+    letters.height *= lengthOf(place.turn(leftOf(directionOf(letters.angle))));
+    letters.angle = angleOf(along);
+    pen.text(letters);
 }
 
 /// What a note is, its place aside.
@@ -136,14 +171,31 @@ void drawNote(const Values& values, Pen& pen)
         drawAtEnd(*leader, values, pen);
 }
 
-/// A definition shows its name.
+bool isAttributeOfReferences(const Values& definition)
+{
+    return definition.className() == "AcDbAttributeDefinition" && !yesOrNo(definition, "Constant").value_or(false);
+}
+
+void drawAttributes(const Values& reference, const Values& block, const Affine& place, Pen& pen)
+{
+    const auto* const drawn = block.drawnAs<OdDbBlockTableRecord>();
+    if (!drawn)
+        return;
+    for (const OdDbObjectIteratorPtr all = drawn->newIterator(); !all->done(); all->step()) {
+        const Values* const part = reference.other(all->objectId().getHandle());
+        if (part && isAttributeOfReferences(*part))
+            drawAttributeOf(reference, *part, place, pen);
+    }
+}
+
+/// A definition shows its name, but for a constant one.
 void drawAttribute(const Values& values, Pen& pen)
 {
     const auto* const drawn = values.drawnAs<OdDbAttribute>();
-    const QString named = values.className() == "AcDbAttribute" ? QStringLiteral("Value") : QStringLiteral("Tag");
+    const QString named = isAttributeOfReferences(values) ? QStringLiteral("Tag") : QStringLiteral("Value");
     const QString text = values.text(named).value_or(drawn ? drawn->textString() : QString());
     if (placeOf(values, "Position") || placeOf(values, "Text alignment"))
-        drawLetters(values, pen, plainText(text), sizeOf({values.number("Height")}, kUsualHeightOfAttributes));
+        drawLetters(values, pen, plainText(text), heightOfAttribute(values));
 }
 
 } // namespace inkmacro::view

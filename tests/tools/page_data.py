@@ -161,7 +161,7 @@ def check(checked):
         check_policy(checked, name, contents, ran)
         check_size(checked, name, file, recording, shown)
         with checked.open(file) as page:
-            checked.read(page)
+            checked.read(page, file)
             check_counts(checked, name, page, recording)
             for (target, form), of_form in macros.items():
                 check_macro(checked, name, page, target, form, of_form[name])

@@ -123,7 +123,7 @@ def compare(checked, name, what, found, wanted):
 
 def look(checked, name, file, is_hostile):
     with checked.open(file) as page:
-        checked.read(page)
+        checked.read(page, file)
         page.evaluate(SHOW)
         found = page.evaluate(ELEMENTS)
         for link in page.evaluate(LINKS):

@@ -199,7 +199,7 @@ def check(checked):
     for scheme in ("light", "dark"):
         for file, checks in ((plain, [check_picture, check_choice]), (other, [check_comparison])):
             with checked.open(file, scheme=scheme) as page:
-                checked.read(page)
+                checked.read(page, file)
                 for one in checks:
                     one(checked, f"{file.stem} {scheme}", page)
                 checked.expect_peace(file.stem, page, file)

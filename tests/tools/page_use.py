@@ -287,7 +287,7 @@ def check(checked):
     for name in ("plate_dimensioned", "title_block_stamped"):
         file = checked.write(recordings[name], checked.folder / f"{name}.html")
         with checked.open(file) as page:
-            checked.read(page)
+            checked.read(page, file)
             check_stops(checked, name, page)
             check_keys(checked, name, page)
             check_looks(checked, name, page)
@@ -298,7 +298,7 @@ def check(checked):
     for name in ("nothing_done", "view_tile_changed", "floor_plan"):
         file = checked.write(recordings[name], checked.folder / f"{name}.html")
         with checked.open(file) as page:
-            checked.read(page)
+            checked.read(page, file)
             check_widths(checked, name, page)
             checked.expect_peace(name, page, file)
     check_damage(checked, file)

@@ -13,15 +13,15 @@ OPEN = "document.body.classList.contains('isOpen') || !document.getElementById('
 
 
 class Contents(html.parser.HTMLParser):
-    """What a page consists of: scripts and styles, islands by their names as bytes, its policy, and what is around
-    all of it."""
+    """What a page consists of: scripts and styles, islands by their names as bytes and as the texts of their pieces, its
+    policy, and what is around all of it."""
 
     def __init__(self, file):
         super().__init__(convert_charrefs=False)
         self.scripts, self.styles, self.policy, self.markup = [], [], "", ""
-        self._pieces, self._within = {}, None
+        self.pieces, self._within = {}, None
         self.feed(file.read_text(encoding="utf-8"))
-        packed = {name: b"".join(map(base64.b64decode, pieces)) for name, pieces in self._pieces.items()}
+        packed = {name: b"".join(map(base64.b64decode, pieces)) for name, pieces in self.pieces.items()}
         self.islands = {name: zlib.decompress(one) if one else b"" for name, one in packed.items()}
 
     def handle_starttag(self, tag, attributes):
@@ -33,7 +33,7 @@ class Contents(html.parser.HTMLParser):
             # Pieces of one island have numbers behind its name.
             name, _, number = told.get("id", "").rpartition(".")
             self._within = self.scripts if tag == "script" and "type" not in told else self.styles \
-                if tag == "style" else self._pieces.setdefault(name if number.isdigit() else told["id"], [])
+                if tag == "style" else self.pieces.setdefault(name if number.isdigit() else told["id"], [])
             self._within.append("")
 
     def handle_endtag(self, tag):
@@ -72,13 +72,15 @@ class Pages(harness.Checked):
         return file
 
     def open(self, file, fragment="", **view):
-        """A page whose panes are open, or that has told what keeps them closed; `pageData` is its data."""
+        """A page whose panes are open, or that has told what keeps them closed."""
         page = self.browser.open(file.as_uri() + fragment, **view)
         page.wait_for(OPEN)
         return page
 
-    def read(self, page):
-        page.evaluate("openData(document).then(opened => { window.pageData = opened; })")
+    def read(self, page, file):
+        """Gives scripts that are evaluated the page's data as `pageData`: the page itself does not keep what it has read."""
+        page.evaluate("(pieces => new Data(name => pieces[name] || null).open().then(data => { window.pageData = data; }))"
+                      f"({js(Contents(file).pieces)})")
 
     def expect_peace(self, name, page, file):
         """Nothing to complain of, no dialog, and no request but for the file itself."""

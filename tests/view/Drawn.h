@@ -24,7 +24,8 @@ public:
     using Point = inkmacro::view::Point;
     using Numbers = std::vector<double>;
 
-    Drawn(inkmacro::view::Drawer drawer, const inkmacro::view::Values& values)
+    template<class Draw>
+    Drawn(Draw drawer, const inkmacro::view::Values& values)
     {
         picture_.objects.emplace_back();
         inkmacro::view::Pen pen(picture_, {.object = 0,

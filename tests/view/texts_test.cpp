@@ -1,5 +1,6 @@
 #include "Drawn.h"
 
+#include "view/attributes.h"
 #include "view/drawers.h"
 
 #include <cmath>
@@ -63,6 +64,40 @@ TEST(Texts, OfDefinitionsAreTheirNames)
     attribute.draw("textString", OdString("M8"));
     EXPECT_TRUE(Drawn(drawAttribute, attribute).isEmpty());
     EXPECT_EQ(Drawn(drawAttribute, attribute.say("Position x", 1.0)).texts(), QStringList{"M8"});
+}
+
+TEST(Texts, OfAttributesStandInTheirReferences)
+{
+    OdDbDatabase database;
+    SaidValues definition("AcDbAttributeDefinition");
+    definition.say("Tag", "SIZE").say("Value", "M8").say("Position X", 3.0).say("Position Y", 1.0).say("Height", 2.0);
+    SaidValues hidden = definition;
+    hidden.say("Invisible", "Yes");
+    SaidValues constant = definition;
+    constant.say("Constant", "Yes");
+    SaidValues block("AcDbBlockTableRecord");
+    const auto id = [&database](std::uint64_t handle) { return database.getOdDbObjectId(OdDbHandle(handle)); };
+    block.draw("entities", OdArray<OdDbObjectId>{id(0x31), id(0x32), id(0x33)});
+    SaidValues reference("AcDbBlockReference");
+    reference.know(0x31, definition);
+    reference.know(0x32, hidden);
+    reference.know(0x33, constant);
+
+    const Affine place = Affine::moved(100, 10) * Affine::rotated(kPi / 2) * Affine::scaled(2, 3);
+    const auto drawn = [&] {
+        return Drawn([&](const Values& values, Pen& pen) { drawAttributes(values, block, place, pen); }, reference);
+    };
+    EXPECT_EQ(drawn().texts(), QStringList{"M8"});
+    expectNear(drawn().text(0), {97, 16, 6, kPi / 2, 0, 10});
+
+    SaidValues attribute("AcDbAttribute");
+    attribute.draw("tag", OdString("size")).draw("textString", OdString("M10"));
+    reference.draw("attributes", OdArray<OdDbObjectId>{database.addObject(OdDbHandle(0x41), attribute.drawnObject())});
+    EXPECT_EQ(drawn().texts(), QStringList{"M10"});
+    reference.say("BlockAttributes.SIZE", "M12");
+    EXPECT_EQ(drawn().texts(), QStringList{"M12"});
+
+    EXPECT_EQ(Drawn(drawAttribute, constant).texts(), QStringList{"M8"});
 }
 
 SaidValues note(int attachment)

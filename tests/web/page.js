@@ -49,7 +49,7 @@ const bytesOf = text => new Uint8Array(Buffer.from(text));
 
 // Data of a recording of steps {kind, line, parent, child, cls, name, layer, handles}, of objects {handle, cls, added,
 // layer} and of primitives; islands are texts or columns by name, and `index` has members of that one.
-function dataOf({steps = [], objects = [], recording = '', index = {}, islands = {}, texts = [], geometry = []}) {
+async function dataOf({steps = [], objects = [], recording = '', index = {}, islands = {}, texts = [], geometry = []}) {
     const all = {};
     const layout = {};
     const add = (name, columns) => {
@@ -93,7 +93,9 @@ function dataOf({steps = [], objects = [], recording = '', index = {}, islands =
     all.index = islandOf(bytesOf(JSON.stringify(Object.assign({version: '1.0.0', name: 'one', input: 'one.jsonl',
         lines: 1, counts: {}, spaces: [], firstSpace: 0, layers: [], styles: [], classes: [], names: [''], remarks: [],
         layerSwitches: [], spaceSwitches: [], notes: [], targets: [], layout: layout}, index))));
-    return new page.Data(name => all[name] || null).open();
+    const opened = await new page.Data(name => all[name] || null).open();
+    await opened.openRecording();
+    return opened;
 }
 
 const page = vm.runInThisContext(`({Data, Lines, LineMap, State, Heights, Scale, Painter, DifferenceRows, ByteSearch,

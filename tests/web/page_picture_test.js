@@ -137,6 +137,8 @@ for (const [what, shape, numbers, box] of [
         assert.strictEqual(one.queryPoint(2, 5, 3, found), few.length);
         assert.strictEqual(one.queryPoint(-50, 5, 3, found), 0);
     }
+    const one = new Grid(Float64Array.of(0, 0, 4, 10), [0]);
+    assert.strictEqual(one.shareOf({left: 1, bottom: 5, right: 9, top: 99}), 0.375);
     const many = 200000;
     const large = Float64Array.from({length: 4 * many}, (_, i) => (i >> 2) % (i % 2 ? 911 : 1013) + (i & 2));
     assert.strictEqual(new Grid(large, Int32Array.from({length: many}, (_, i) => i)).items.length, many);
@@ -252,7 +254,7 @@ function painted(scene, view) {
     assert.strictEqual(count('fillRect'), 2, 'two lines in one pixel are a dot, one text is a bar');
     assert.strictEqual(count('moveTo'), 2, 'a line and the old one; the point has its pixel taken');
 
-    const old = painter.partsOf(Int32Array.of(1, 6, 7), Mapping.ofView({x: 0, y: 9, scale: 10}), -1);
+    const old = painter.partsOf(Int32Array.of(1, 6, 7), Mapping.ofView({x: 0, y: 9, scale: 10}), -1).next().value;
     assert.deepStrictEqual(Array.from(old.strokes.items), [6, 1], 'what was there comes first');
 
     const family = familyOf(Mapping.ofView({x: 0, y: 10, scale: 10}), Float64Array.of(0, 0, 0, 0.5, 2, 3, -1), 0);

@@ -4,10 +4,9 @@
 #include "statements/RecordingState.h"
 #include "targets/FileHead.h"
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
+#include "targets/cppcom/uuids.h"
 #include "targets/texts.h"
 #include "targets/vcproj.h"
-
-#include <QUuid>
 
 using namespace inkmacro;
 
@@ -106,7 +105,7 @@ Statement CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool
     writer.IndentLevel += 1;
     const QByteArray server = withIdentifier(texts::cppcom::server_cpp, "%2", className);
     const Template words((server + head.words()).constData(), writer.target);
-    const QString serverId = QUuid::createUuid().toString();
+    const QString serverId = newUuid("server " + className);
     const Statement filled = writer.fill(words).text(LineEnd).text(className).text(serverId).text(sheetName());
     const Statement text =
         withHeaders(faultyIdentifier(texts::cppcom::server_cpp, className, filled), className, {"math"});

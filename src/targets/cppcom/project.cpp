@@ -4,13 +4,13 @@
 #include "statements/quoting.h"
 #include "statements/wording.h"
 #include "targets/cppcom/CFxConverterIWAPICPPCOM.h"
+#include "targets/cppcom/uuids.h"
 #include "targets/installation.h"
 #include "targets/projectFiles.h"
 #include "targets/texts.h"
 #include "targets/vcproj.h"
 
 #include <QFileInfo>
-#include <QUuid>
 
 #include <algorithm>
 
@@ -69,9 +69,7 @@ Statement CFxConverterIWAPICPPCOM::faultyIdentifier(const QByteArray& words, con
 }
 
 CFxConverterIWAPICPPCOM::CFxConverterIWAPICPPCOM(Writer& writer)
-    : MacroFrame(writer),
-      ConnectionClassUuid(QUuid::createUuid().toString()),
-      TypeLibraryUuid(QUuid::createUuid().toString())
+    : MacroFrame(writer), ConnectionClassUuid(newUuid("connection class")), TypeLibraryUuid(newUuid("type library"))
 {
 }
 
@@ -97,8 +95,8 @@ std::int32_t CFxConverterIWAPICPPCOM::EmitProjectFiles(const QString& path)
     const QString name = projectName(path);
     const QString classId = withoutBraces(ConnectionClassUuid);
     const QString libraryId = withoutBraces(TypeLibraryUuid);
-    const QString interfaceId = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    const QString projectId = QUuid::createUuid().toString();
+    const QString interfaceId = withoutBraces(newUuid("interface"));
+    const QString projectId = newUuid("project");
     const QString addins = installedPath("APISDK\\tlb\\iwAddin.tlb");
     const QString application = installedPath("bin\\iwAutomation.dll");
     const auto named = [&](const char* words, std::initializer_list<Statement> values,

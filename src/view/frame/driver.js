@@ -1,5 +1,7 @@
 // Runs one macro, holds what it draws against the recording, and tells the page. The page sends one message, a job:
-// {run, recording, macro, written, isEdited, losses, assumed, map, tables}. Each answer has the number of the run.
+// {run, recording, macro, written, isEdited, losses, assumed, map, tables}, and with it a port for the answers: what goes
+// through a port arrives while the macro runs, and messages from window to window only behind it. Each answer has the
+// number of the run.
 
 'use strict';
 
@@ -106,11 +108,11 @@ function runJob(job, run, tell) {
 
 function listen() {
     Error.stackTraceLimit = stackDepth;
-    window.addEventListener('message', ({source, data}) => {
+    window.addEventListener('message', ({source, data, ports}) => {
         if (source !== window.parent) {
             return;
         }
-        const tell = news => window.parent.postMessage(Object.assign({run: data.run}, news), '*');
+        const tell = news => ports[0].postMessage(Object.assign({run: data.run}, news));
         try {
             runJob(data, (script, globals) => {
                 Object.assign(window, globals);

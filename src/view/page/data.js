@@ -172,9 +172,12 @@ function propertyOf(what) {
 }
 
 class Data {
-    // `piecesOf` gives the base64 texts of an island, null for one that the page does not have.
+    // `piecesOf` gives the base64 texts of an island by its name, null for one that the page does not have; with `true`
+    // behind the name it may forget them.
     constructor(piecesOf) {
         this.piecesOf = piecesOf;
+        this.recording = null;
+        this.openingRecording = null;
         this.lastLine = {line: 0, json: null};
         this.kept = new Kept(keptMacros);
         this.keptMaps = new Kept(keptMacros * 2);
@@ -186,8 +189,8 @@ class Data {
         return this.piecesOf(name) !== null;
     }
 
-    async island(name) {
-        const pieces = this.piecesOf(name);
+    async island(name, isOnce = false) {
+        const pieces = this.piecesOf(name, isOnce);
         if (!pieces) {
             throw new Error('the page does not have the data "' + name + '"');
         }
@@ -198,33 +201,39 @@ class Data {
         }
     }
 
-    async json(name) {
-        return JSON.parse(new TextDecoder('utf-8').decode(await this.island(name)));
+    async json(name, isOnce = false) {
+        return JSON.parse(new TextDecoder('utf-8').decode(await this.island(name, isOnce)));
     }
 
-    async columns(name) {
-        return columnsOf(await this.island(name), this.index.layout[name]);
+    async columns(name, isOnce = false) {
+        return columnsOf(await this.island(name, isOnce), this.index.layout[name]);
     }
 
     // `told` is called with the share that is open.
     async open(told = () => {}) {
-        this.index = await this.json('index');
+        this.index = await this.json('index', true);
         const names = ['steps', 'stepHandles', 'objects', 'geometry'];
         let opened = 0;
         const tell = value => {
-            told(++opened / (names.length + 2));
+            told(++opened / (names.length + 1));
             return value;
         };
-        const [steps, handles, objects, geometry, texts, recording] = await Promise.all([
-            ...names.map(name => this.columns(name).then(tell)), this.json('texts').then(tell),
-            this.island('recording').then(tell)]);
+        const [steps, handles, objects, geometry, texts] = await Promise.all([
+            ...names.map(name => this.columns(name, true).then(tell)), this.json('texts', true).then(tell)]);
         this.texts = texts;
-        this.recording = new Lines(recording);
         this.openSteps(steps, handles);
         this.openObjects(objects);
         this.openGeometry(geometry);
         this.notes = this.index.notes.map(note => Object.assign({property: propertyOf(note.what)}, note));
         return this;
+    }
+
+    // The recording's own text, which nothing but the values of steps needs.
+    openRecording() {
+        this.openingRecording = this.openingRecording || this.island('recording').then(bytes => {
+            this.recording = new Lines(bytes);
+        });
+        return this.openingRecording;
     }
 
     openSteps(columns, handles) {
@@ -378,7 +387,7 @@ class Data {
         return found;
     }
 
-    // What the recording says of a step, as it stands there.
+    // What the recording says of a step, as it stands there, once that is open.
     action(step) {
         const line = this.steps.line[step];
         if (this.lastLine.line !== line) {
@@ -485,10 +494,13 @@ function countFaults(faults) {
 // Reads the islands of a document: elements of the name, and of the name with .1, .2 and so on.
 function islandsOf(document) {
     const elementOf = id => document.querySelector('script[id="' + id + '"]');
-    return name => {
+    return (name, isOnce = false) => {
         const pieces = [];
         for (let piece = elementOf(name); piece; piece = elementOf(name + '.' + pieces.length)) {
             pieces.push(piece.textContent);
+            if (isOnce) {
+                piece.remove(); // it takes as much memory as what was read from it
+            }
         }
         return pieces.length ? pieces : null;
     };

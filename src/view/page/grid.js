@@ -17,6 +17,8 @@ class Grid {
         }
         this.left = around.left;
         this.bottom = around.bottom;
+        this.right = around.right;
+        this.top = around.top;
         this.makeLevels(around, items.length);
         const cells = new Int32Array(items.length);
         this.first = new Int32Array(this.cellCount + 1);
@@ -75,6 +77,13 @@ class Grid {
         const column = Math.floor(((left + right) / 2 - this.left) / level.size);
         const row = Math.floor(((bottom + top) / 2 - this.bottom) / level.size);
         return level.start + Math.min(row, level.rows - 1) * level.columns + Math.min(column, level.columns - 1);
+    }
+
+    // How much of what the items lie in is within a box, by its area.
+    shareOf(box) {
+        const share = (low, high, from, to) => high > low ? Math.max(0, Math.min(high, to) - Math.max(low, from)) /
+            (high - low) : 1;
+        return share(this.left, this.right, box.left, box.right) * share(this.bottom, this.top, box.bottom, box.top);
     }
 
     // Puts those that meet the window into `found`, in no order, and returns how many they are.

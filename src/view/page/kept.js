@@ -10,8 +10,8 @@ const keptShare = 1.5; // of the view, in each direction
 const mostPixels = 24e6; // of a kept picture; a larger one is as large as the view
 const restTime = 80; // milliseconds
 const sliceTime = 8;
-const firstSlice = 40; // of the first picture, which nobody moves yet
-const firstTime = 120; // between two states of the first picture
+const firstSlice = 150; // of a picture that nothing is seen before, while other panes open too
+const firstTime = 120; // between two states of that one
 const quickTime = 7; // a picture that takes no longer is drawn anew at once
 
 class KeptPicture {
@@ -64,6 +64,13 @@ class KeptPicture {
     restart() {
         this.painting = null;
         this.renew();
+    }
+
+    // Nothing of what was drawn is to be seen again.
+    forget() {
+        this.spare = this.spare || this.kept;
+        this.kept = null;
+        this.restart();
     }
 
     // The same with what has come since a step.
@@ -170,7 +177,7 @@ class KeptPicture {
         }
     }
 
-    // The first picture is seen while it grows.
+    // The first picture of something is seen while it grows.
     compose() {
         const {context, view} = this;
         const kept = this.kept || this.painting && this.painting.picture;

@@ -141,6 +141,8 @@ class MacroPane {
         this.opening = 0;
         this.chosen = new LineRanges([]);
         this.chosenRecorded = new LineRanges([]);
+        this.ranges = [];
+        this.recordedRanges = [];
         this.build(pane);
         state.on(['target', 'form'], () => this.open());
         state.on(['chosen'], (values, source) => this.choose(values.chosen, source));
@@ -393,9 +395,9 @@ class MacroPane {
     readChoice(chosen) {
         const {view, data} = this;
         this.ranges = view ? rangesOfStep(data, view.map, chosen.step) : [];
+        this.recordedRanges = view && view.recordedMap ? rangesOfStep(data, view.recordedMap, chosen.step) : [];
         this.chosen = new LineRanges(this.ranges);
-        this.chosenRecorded = new LineRanges(view && view.recordedMap
-            ? rangesOfStep(data, view.recordedMap, chosen.step) : []);
+        this.chosenRecorded = new LineRanges(this.recordedRanges);
     }
 
     choose(chosen, source) {
@@ -475,7 +477,7 @@ class MacroPane {
         const next = direction > 0 ? places.find(row => row > from) : places.filter(row => row < from).pop();
         const row = next === undefined ? places[direction > 0 ? 0 : places.length - 1] : next;
         this.move(row, false);
-        this.list.show(row);
+        this.list.show(row, true);
         return true;
     }
 
@@ -496,8 +498,10 @@ class MacroPane {
             this.foot.append(countOf(this.view.lines.count, 'line'));
             return;
         }
-        this.foot.append(textElement('b', {}, stepWords(data, chosen.step)), element('span', {},
-            data.handleText(chosen.step) + (this.ranges.length ? ' ← ' + linesInWords(this.ranges) : ' ← no line')));
+        const lines = this.ranges.length ? linesInWords(this.ranges)
+            : this.recordedRanges.length ? 'recorded ' + linesInWords(this.recordedRanges) : 'no line';
+        this.foot.append(textElement('b', {}, stepWords(data, chosen.step)),
+            element('span', {}, data.handleText(chosen.step) + ' ← ' + lines));
     }
 
     point(event) {

@@ -7,6 +7,7 @@ const leastBox = 0.7; // what is smaller is a dot
 const leastText = 3.5; // capitals that are lower are a bar
 const leastGap = 3; // between the lines of a pattern; closer ones are a tint
 const portion = 256; // things that are drawn without giving way
+const sortedPortion = 20000; // things that are looked at without giving way
 const dense = 2500; // strokes from which on they are as thin as a canvas draws fast
 const lettersSize = 100; // of the one font, whose texts are scaled
 const inherited = -2; // a brush within a definition that is its reference's
@@ -52,7 +53,7 @@ class ScenePainter {
         const {from, visibility} = this.look;
         const items = from < 0 || depth ? this.scene.within(space, this.boxBehind(mapping, window))
             : this.scene.comers(space, from, visibility.step);
-        const parts = this.partsOf(items, mapping, parent);
+        const parts = yield* this.partsOf(items, mapping, parent);
         yield;
         yield* this.fills(context, parts.fills, mapping, window, parent);
         yield* this.strokes(context, parts.strokes, mapping, window);
@@ -91,17 +92,23 @@ class ScenePainter {
     }
 
     // Those of the items that are shown, by how they are drawn. What was there before comes first.
-    partsOf(items, mapping, parent) {
+    *partsOf(items, mapping, parent) {
         const {geometry} = this.scene;
         const parts = {fills: [], references: [], texts: [], windows: [], strokes: null};
-        const lists = {[Shapes.area]: parts.fills, [Shapes.pattern]: parts.fills, [Shapes.text]: parts.texts,
-            [Shapes.reference]: parts.references, [Shapes.window]: parts.windows};
+        const lists = new Array(Object.keys(Shapes).length).fill(null);
+        lists[Shapes.area] = lists[Shapes.pattern] = parts.fills;
+        lists[Shapes.text] = parts.texts;
+        lists[Shapes.reference] = parts.references;
+        lists[Shapes.window] = parts.windows;
         const brushes = new Uint16Array(items.length);
         const counts = new Int32Array(this.look.brushes.length + 1);
         const stroked = new Int32Array(items.length);
         const scale = mapping.scale;
         let count = 0;
         for (let i = 0; i < items.length; i++) {
+            if (i % sortedPortion === sortedPortion - 1) {
+                yield;
+            }
             const p = items[i];
             const shape = geometry.shape[p];
             if (!this.look.visibility.shows(p)) {
@@ -341,7 +348,7 @@ class ScenePainter {
         const matrix = {a: mapping.a / unit, b: mapping.b / unit, c: mapping.c / unit, d: mapping.d / unit,
             e: mapping.x(x, y), f: mapping.y(x, y)};
         for (const {path, number} of definition.fills) {
-            this.useBrush(context, own(number));
+            context.fillStyle = this.look.brushes[own(number)].color;
             context.setTransform(matrix.a, matrix.b, matrix.c, matrix.d, matrix.e, matrix.f);
             context.fill(path, 'evenodd');
             context.setTransform(1, 0, 0, 1, 0, 0);
@@ -359,8 +366,7 @@ class ScenePainter {
         for (const {p, matrix: nested, number} of definition.others) {
             const inner = mapping.referred(nested, 0);
             if (!isDot(this.scene.boxes, p, inner.scale) || this.scene.geometry.shape[p] === Shapes.point) {
-                this.useBrush(context, own(number));
-                this.other(context, p, inner, window);
+                this.other(context, p, inner, window, own(number));
             }
         }
         if (definition.others.length) {
@@ -375,14 +381,18 @@ class ScenePainter {
     }
 
     // What of a definition does not go into a path: its look depends on the size at which it is seen.
-    other(context, p, mapping, window) {
+    other(context, p, mapping, window, brush) {
         const {geometry} = this.scene;
         const shape = geometry.shape[p];
-        if (shape === Shapes.pattern) {
-            this.fill(context, p, mapping, window);
-        } else if (shape === Shapes.text) {
+        if (shape === Shapes.text) {
+            context.fillStyle = this.look.brushes[brush].color;
             this.text(context, p, mapping);
             context.setTransform(1, 0, 0, 1, 0, 0);
+            return;
+        }
+        this.useBrush(context, brush);
+        if (shape === Shapes.pattern) {
+            this.fill(context, p, mapping, window);
         } else {
             context.beginPath();
             if (isEndless(shape)) {

@@ -16,6 +16,7 @@ class Picture {
         this.fitted = new Set(); // spaces of which all is shown, in whatever size
         this.lastChoice = {time: -Infinity, x: 0, y: 0, objects: [], at: 0};
         this.version = 0;
+        this.kinds = null; // of a run
         this.density = window.devicePixelRatio || 1;
         this.makeElements();
         this.keptPicture = new KeptPicture(this.canvas,
@@ -67,7 +68,8 @@ class Picture {
     listen() {
         state.on(['step'], () => this.stepped());
         state.on(['space'], () => this.showSpace());
-        state.on(['hidden', 'mode', 'run'], () => this.restyle());
+        state.on(['hidden', 'mode'], () => this.restyle());
+        state.on(['run'], () => this.showRun());
         state.on(['chosen'], (values, source) => this.choiceChanged(values.chosen, source));
         state.on(['hover'], () => this.keptPicture.touch());
         for (const query of ['(prefers-color-scheme: dark)', '(forced-colors: active)']) {
@@ -114,8 +116,8 @@ class Picture {
 
     // The state as a painter needs it.
     look(from, width, height) {
-        const {mode, run, step, hidden} = state.get();
-        const kinds = mode === 'compared' ? comparedKinds(run) : null;
+        const {mode, step, hidden} = state.get();
+        const kinds = mode === 'compared' ? this.kinds : null;
         const {spaces} = this.data.index;
         const visibility = new Visibility(this.scene, this.data.index, step, hidden);
         return {visibility: visibility, brushes: this.brushes, kinds: kinds, space: this.space, density: this.density,
@@ -168,6 +170,15 @@ class Picture {
         }
     }
 
+    // Of the news of a run only its end changes the picture.
+    showRun() {
+        const kinds = comparedKinds(state.get().run);
+        if (kinds !== this.kinds) {
+            this.kinds = kinds;
+            this.restyle();
+        }
+    }
+
     restyle() {
         this.version++;
         this.showMode();
@@ -195,7 +206,7 @@ class Picture {
         } else {
             this.fitAll();
         }
-        this.keptPicture.renew();
+        this.keptPicture.forget();
     }
 
     tellNothing() {
@@ -296,12 +307,12 @@ class Picture {
             objects.every((object, i) => object === last.objects[i]) && state.get().chosen.object === objects[last.at];
         const at = isAgain ? (last.at + 1) % objects.length : 0;
         this.lastChoice = {time: now, x: x, y: y, objects: objects, at: at};
-        this.chooseObject(objects.length ? objects[at] : -1);
+        this.chooseObject(objects.length ? objects[at] : -1, 'picture');
     }
 
-    chooseObject(object) {
+    chooseObject(object, source) {
         state.set({chosen: object < 0 ? nothingChosen : {step: this.data.stepOfObject(object), object: object}},
-            'picture');
+            source);
     }
 
     fit() {
@@ -326,7 +337,7 @@ class Picture {
         if (all.length) {
             const at = all.indexOf(state.get().chosen.object);
             const next = at < 0 ? (direction > 0 ? 0 : all.length - 1) : (at + direction + all.length) % all.length;
-            this.chooseObject(all[next]);
+            this.chooseObject(all[next], 'pictureKeys');
         }
     }
 

@@ -161,7 +161,6 @@ class Runner {
         this.frame = null;
         this.policy = null;
         button.addEventListener('click', () => this.frame ? this.stop() : this.start(this.formToRun()));
-        window.addEventListener('message', event => this.hear(event));
         pageState.on(['form', 'target'], values => this.showKept(values));
         pageState.on(['run', 'form', 'target'], () => this.label());
         this.label();
@@ -231,13 +230,16 @@ class Runner {
         frame.setAttribute('sandbox', 'allow-scripts');
         frame.hidden = true;
         frame.title = 'Run of the macro';
-        frame.addEventListener('load', () => frame.contentWindow.postMessage(job, '*'), {once: true});
+        const {port1, port2} = new MessageChannel();
+        port1.onmessage = ({data}) => this.hear(data);
+        frame.addEventListener('load', () => frame.contentWindow.postMessage(job, '*', [port2]), {once: true});
         frame.srcdoc = this.policy ? this.policy.createHTML(text) : text;
         document.body.append(frame);
     }
 
-    hear({source, data}) {
-        if (!this.frame || source !== this.frame.contentWindow || Object(data).run !== this.number) {
+    // Of what the frame says; one that is gone may still be heard.
+    hear(data) {
+        if (!this.frame || Object(data).run !== this.number) {
             return;
         }
         const kind = asText(data.kind);

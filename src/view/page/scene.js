@@ -2,6 +2,8 @@
 
 'use strict';
 
+const muchOfSpace = 0.2; // of which on trying all is faster than sorting those that the grid finds
+
 class Scene {
     constructor(geometry, objects, spaceCount, textOf) {
         this.geometry = geometry;
@@ -38,11 +40,20 @@ class Scene {
     // The primitives of a space that may be seen in a box, in their order.
     within(space, box) {
         const {grid, endless} = this.gridOf(space);
+        if (grid.shareOf(box) > muchOfSpace) {
+            return this.members.of(space).filter(p => isEndless(this.geometry.shape[p]) || this.meets(p, box));
+        }
         const count = grid.query(box.left, box.bottom, box.right, box.top, this.found);
         const items = new Int32Array(count + endless.length);
         items.set(this.found.subarray(0, count));
         items.set(endless, count);
         return items.sort();
+    }
+
+    meets(p, box) {
+        const {boxes} = this;
+        return boxes[4 * p] <= box.right && boxes[4 * p + 2] >= box.left && boxes[4 * p + 1] <= box.top &&
+            boxes[4 * p + 3] >= box.bottom;
     }
 
     // The primitives of a space that come between two steps.

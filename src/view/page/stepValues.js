@@ -203,8 +203,8 @@ class HandleNames {
         const object = data.objectByHandle(handle);
         const isNamed = object >= 0 && /TableRecord$|Layout$|Style$/.test(data.className(data.objects.cls[object]));
         const name = isNamed ? this.nameOf(object, handle) : '';
-        const words = object >= 0 ? data.classWords(data.objects.cls[object]) + ' ' : '';
-        return name ? quoted(name) : words + handle;
+        const words = object >= 0 ? data.classWords(data.objects.cls[object]) : 'handle';
+        return name ? quoted(name) : words + ' ' + handle;
     }
 
     nameOf(object, handle) {

@@ -171,6 +171,8 @@ class StepsPane {
             this.filter();
         });
         this.readFindings();
+        // Not before the first picture.
+        setTimeout(() => data.openRecording().then(() => this.choose(state.get().chosen, 'recording')), 50);
     }
 
     get rowCount() {
@@ -327,7 +329,8 @@ class StepsPane {
         if (remark) {
             box.append(textElement('p', {class: 'remark'}, data.index.remarks[remark - 1]));
         }
-        box.append(valuesElement(rowsOfAction(data.action(step), handle => this.names.of(handle))));
+        box.append(data.recording ? valuesElement(rowsOfAction(data.action(step), handle => this.names.of(handle)))
+            : element('p', {class: 'muted'}, 'Opening…'));
         return box;
     }
 
@@ -365,12 +368,12 @@ class StepsPane {
             return;
         }
         const handle = data.objects.handle(chosen.object);
-        const drawn = drawnObject(data, handle);
+        const drawn = data.recording && drawnObject(data, handle);
         const cls = data.objects.cls[chosen.object];
         this.there.append(element('div', {class: 'stepLine'}, classIcon(data.className(cls)),
             textElement('span', {class: 'stepWords'}, data.classWords(cls)),
-            element('span', {class: 'muted'}, 'already there, no step changes it'),
-            element('span', {class: 'stepPlace'}, handle)));
+            element('span', {class: 'stepPlace'}, handle)),
+        element('p', {class: 'muted'}, 'already there, no step changes it'));
         if (drawn) {
             this.there.append(valuesElement(rowsOfDrawn(drawn, one => this.names.of(one))));
         }
