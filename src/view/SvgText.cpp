@@ -1,5 +1,7 @@
 #include "view/SvgText.h"
 
+#include <QVector>
+
 #include <array>
 #include <charconv>
 
