@@ -70,7 +70,7 @@ void BM_Convert(benchmark::State& state, Target target)
     GetFxSystemServices()->SetActiveDocument(nullptr);
 }
 
-#define BENCHMARK_TARGET(id, suffix, name, extension, projectFiles)                                                    \
+#define BENCHMARK_TARGET(id, suffix, name, title, extension, projectFiles)                                             \
     BENCHMARK_CAPTURE(BM_Convert, id, Target::id)                                                                      \
         ->UseRealTime()                                                                                                \
         ->Unit(benchmark::kMillisecond)                                                                                \
