@@ -38,7 +38,6 @@ namespace {
 constexpr char kScript[] = "verify.cjs";
 constexpr char kJob[] = "job.json";
 constexpr char kReport[] = "report.json";
-constexpr char kLink[] = "recording";
 constexpr char kEdited[] = "edited";
 
 const TargetRow& javaScript()
@@ -165,7 +164,7 @@ public:
 private:
     static std::vector<std::string> namesOf(const QString& input)
     {
-        std::vector<std::string> names{kScript, kJob, kReport, kLink, kEdited};
+        std::vector<std::string> names{kScript, kJob, kReport, kEdited};
         for (const char* name : kHeldNames)
             names.emplace_back(name);
         for (const QString& file : {nameOfMacro(input), Job::mapOf(nameOfMacro(input))})
@@ -204,7 +203,7 @@ private:
         const QJsonObject job{
             {kProgramVersionKey, INKMACRO_VERSION},
             {"input", printable(input_)},
-            {"recording", pathForNode(job_.kept, kLink)},
+            {"recording", pathForNode(job_.kept, kHeldNames.front())},
             {"macro", job_.macro},
             {"macroName", printable(QFileInfo(edited_.value_or(job_.macro)).fileName())},
             {"map", Job::mapOf(job_.macro)},
