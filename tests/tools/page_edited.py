@@ -1,6 +1,6 @@
-"""A page with a macro that somebody has changed runs that one, and finds exactly what is different, as verify does. What
-has no end can be stopped, what was changed in the page itself does not run, and a long run is asked for and tells how far
-it is."""
+"""A page with a macro that somebody has changed runs that one, and finds exactly what is different, as verify does.
+What has no end can be stopped, what was changed in the page itself does not run, and a long run is asked for and tells
+how far it is."""
 
 import base64
 import json
@@ -110,8 +110,8 @@ def check(checked):
         with checked.open(file) as page:
             checked.read(page, file)
             page_data.check_run(checked, title, page, "edited", expected)
-            handles = page.evaluate("Array.from(state.get().run.kinds).reduce((found, kind, i) => kind === 2 || kind === 3"
-                                    " ? found.concat(pageData.objects.handle(i)) : found, [])")
+            handles = page.evaluate("""Array.from(state.get().run.kinds).reduce((found, kind, i) =>
+                kind === 2 || kind === 3 ? found.concat(pageData.objects.handle(i)) : found, [])""")
             wanted = {one["handle"] for one in expected["findings"] if one["kind"] in ("different", "missing")} - {""}
             if set(handles) != wanted:
                 checked.complain(title, "marks", handles, "in place of", wanted)

@@ -16,7 +16,8 @@ ENDINGS = ["</script><img src=x onerror=alert(1)>", "<img src=http://localhost:1
 CHOSEN = ["title_block_stamped", "parts_list_edited", "notes_and_leaders", "site_plan_hatched", "replayed_session",
           "layers_and_blocks_changed", "editing_session", "sheets_and_views", "stairs_on_sheet", "parts_list_styled",
           "view_tile_changed", "dimensions_overridden"]
-NAMES = ["\"><img src=x onerror=alert(1)>", "<u>under", "a'b&amp;c", "javascript:alert(1)", "{{x}}", "#step=1&target=cs"]
+NAMES = ["\"><img src=x onerror=alert(1)>", "<u>under", "a'b&amp;c", "javascript:alert(1)", "{{x}}",
+         "#step=1&target=cs"]
 HARMLESS = str.maketrans("<>&", "()+")
 
 # What elements lead to, or would show or run.
@@ -26,8 +27,8 @@ LINKS = """[].concat(...Array.from(document.querySelectorAll('*'), one => ['href
 
 # How many of them there are depends on the width of letters, on where comments of a language end, on what is open by
 # then, and on a text that ends the script of a macro, which is a fault more in the report.
-ROWS = {"span", "div", "button", "svg", "path", "li", "p", "b", "table", "thead", "tbody", "tr", "th", "td", "code", "dl",
-        "dt", "dd"}
+ROWS = {"span", "div", "button", "svg", "path", "li", "p", "b", "table", "thead", "tbody", "tr", "th", "td", "code",
+        "dl", "dt", "dd"}
 
 HARMLESS_ATTRIBUTES = {"class", "disabled", "hidden", "title"}  # come and go with what is shown at the moment
 

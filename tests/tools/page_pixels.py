@@ -71,8 +71,8 @@ def distance(one, other):
 
 def rim(x, y, radius, count=12):
     """Places around a circle."""
-    return [(x + radius * math.cos(2 * math.pi * (i + 0.3) / count), y + radius * math.sin(2 * math.pi * (i + 0.3) / count))
-            for i in range(count)]
+    angles = [2 * math.pi * (i + 0.3) / count for i in range(count)]
+    return [(x + radius * math.cos(angle), y + radius * math.sin(angle)) for angle in angles]
 
 
 class Canvas:

@@ -113,8 +113,8 @@ def rest(page):
 
 
 # What is told where something is damaged: of all of the page, or of a macro or a run in its pane.
-TROUBLE = """Array.from(document.querySelectorAll('#trouble, #macroPane p, .comparison p')).filter(one => one.offsetHeight > 9)
-    .map(one => one.innerText).find(text => text.includes('damaged')) || ''"""
+TROUBLE = """Array.from(document.querySelectorAll('#trouble, #macroPane p, .comparison p'))
+    .filter(one => one.offsetHeight > 9).map(one => one.innerText).find(text => text.includes('damaged')) || ''"""
 
 
 def strips(page, found):

@@ -13,8 +13,8 @@ OPEN = "document.body.classList.contains('isOpen') || !document.getElementById('
 
 
 class Contents(html.parser.HTMLParser):
-    """What a page consists of: scripts and styles, islands by their names as bytes and as the texts of their pieces, its
-    policy, and what is around all of it."""
+    """What a page consists of: scripts and styles, islands by their names as bytes and as the texts of their pieces,
+    its policy, and what is around all of it."""
 
     def __init__(self, file):
         super().__init__(convert_charrefs=False)
@@ -78,8 +78,8 @@ class Pages(harness.Checked):
         return page
 
     def read(self, page, file):
-        """Gives scripts that are evaluated the page's data as `pageData`: the page itself does not keep what it has read."""
-        page.evaluate("(pieces => new Data(name => pieces[name] || null).open().then(data => { window.pageData = data; }))"
+        """Gives scripts that are evaluated the page's data as `pageData`: it does not keep what it has read."""
+        page.evaluate("(async pieces => { window.pageData = await new Data(name => pieces[name] || null).open(); })"
                       f"({js(Contents(file).pieces)})")
 
     def expect_peace(self, name, page, file):

@@ -2,9 +2,9 @@
 
 'use strict';
 
-// The answers of a recording in their order; a prompt that was cancelled is none. `lines` are the parsed lines.
-function recordedAnswers(lines) {
-    return actionsOf(lines).map(({action}) => action.interaction && action.interaction.result)
+// The answers among the actions of a recording, in their order; a prompt that was cancelled is none.
+function recordedAnswers(actions) {
+    return actions.map(({action}) => action.interaction && action.interaction.result)
         .filter(result => result).map(result => Array.isArray(result) ? result[0] : result);
 }
 

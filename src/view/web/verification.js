@@ -34,7 +34,8 @@ class Tables {
 // The drawing that a macro of this recording finds when it begins.
 function startModel(tables, lines) {
     const tags = new Set();
-    for (const {action} of actionsOf(lines)) {
+    const actions = actionsOf(lines);
+    for (const {action} of actions) {
         if (action.custom && action.custom.kind === kinds.attribute) {
             tags.add(datumOf(action.custom.data, 2));
         }
@@ -43,7 +44,7 @@ function startModel(tables, lines) {
     }
     const model = new Model(tables.known, tables.state, tables.keyed, offeredObjects(lines),
         listedObjects(lines, tables.places), [...tags]);
-    model.answers = recordedAnswers(lines);
+    model.answers = recordedAnswers(actions);
     return model;
 }
 
