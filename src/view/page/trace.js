@@ -277,8 +277,8 @@ class Tracer {
     }
 
     outline(numbers, first, end) {
+        let isFirst = true; // of a loop
         for (let i = first; i < end; i += stepLengths[numbers[i]]) {
-            const isFirst = i === first;
             switch (numbers[i]) {
             case PathSteps.move:
                 this.moveTo(numbers[i + 1], numbers[i + 2]);
@@ -305,6 +305,7 @@ class Tracer {
                 }
                 [this.x, this.y] = [this.startX, this.startY];
             }
+            isFirst = numbers[i] === PathSteps.close;
         }
     }
 
