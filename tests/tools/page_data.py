@@ -162,7 +162,7 @@ def check(checked):
         ran = [macros["javascript", form][name] for form in results]
         check_policy(checked, name, contents, ran)
         check_size(checked, name, file, recording, shown)
-        with checked.open(file) as page:
+        with checked.open(file, width=1000, height=500) as page:
             checked.read(page, file)
             check_counts(checked, name, page, recording)
             for (target, form), of_form in macros.items():
