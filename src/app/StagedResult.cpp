@@ -124,6 +124,17 @@ QString PlacingError::message() const
     return QString::fromLocal8Bit(what());
 }
 
+QByteArray readWhole(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw PlacingError(path, file.errorString());
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw PlacingError(path, file.errorString());
+    return bytes;
+}
+
 StagedResult::StagedResult(const QStringList& files, const StagingFolder* home)
     : files_(files), home_(home), directory_(directoryOf(toPath(files.front())))
 {

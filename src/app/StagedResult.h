@@ -19,6 +19,9 @@ public:
     QString message() const;
 };
 
+/// All of a file that has been written before, such as in a staging folder. Raises PlacingError.
+QByteArray readWhole(const QString& path);
+
 /// Files that belong together: they are written in a staging folder beside their place, and when all of them are whole
 /// they are put there by renaming. Until then, and for ever when that moment does not come, what stood there stays.
 class StagedResult

@@ -1,5 +1,7 @@
 #include "app/StepMap.h"
 
+#include "app/StagedResult.h"
+
 #include <cstring>
 
 namespace inkmacro {
@@ -53,10 +55,7 @@ QString StepMapWriter::finish()
 StepMap readStepMap(const QString& path)
 {
     StepMap map;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return map;
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = readWhole(path);
     const auto count = static_cast<std::size_t>(bytes.size()) / sizeof(Record);
     map.ranges.reserve(count);
     for (std::size_t i = 0; i < count; ++i) {

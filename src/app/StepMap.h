@@ -42,7 +42,7 @@ private:
     QByteArray bytes_; ///< that are not in the file yet
 };
 
-/// Of a file that a StepMapWriter has finished.
+/// Of a file that a StepMapWriter has finished. Raises PlacingError when it cannot be read.
 StepMap readStepMap(const QString& path);
 
 } // namespace inkmacro

@@ -1,11 +1,11 @@
 #include "app/pageMacros.h"
 
 #include "app/ExitStatus.h"
+#include "app/StagedResult.h"
 #include "app/valueText.h"
 #include "view/Columns.h"
 #include "view/differences.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 
@@ -173,10 +173,7 @@ view::MacroLines linesOf(const PageMacro& macro)
 {
     if (macro.outcome.status != kDone)
         return {};
-    QFile file(macro.job->macro);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return {file.readAll(), readStepMap(Job::stepsOf(macro.job->macro)).ranges};
+    return {readWhole(macro.job->macro), readStepMap(Job::stepsOf(macro.job->macro)).ranges};
 }
 
 } // namespace

@@ -255,8 +255,8 @@ void JobRunner::passOn(std::size_t number)
 {
     State& state = states_[number];
     QByteArray messages = std::exchange(state.process.messages.bytes, {});
-    if (state.outcome.status == kUnreadable) {
-        // What is wrong with a recording is said once, not once for each target.
+    if (!messages.isEmpty()) {
+        // What is wrong with a recording is said once, not once for each target, nor for each form of its macro.
         const std::pair complaint(jobs_[number].input, messages);
         if (complaint == lastComplaint_)
             messages.clear();

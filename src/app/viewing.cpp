@@ -22,6 +22,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <QRegularExpression>
 #include <QTemporaryFile>
 
 #include <algorithm>
@@ -116,6 +117,8 @@ public:
     {
         if (isSameFile(input_, output_))
             throw WrongUse(QString("%1 would overwrite the recording %2").arg(output_, input_));
+        if (line_.macro && isSameFile(*line_.macro, output_))
+            throw WrongUse(QString("%1 would overwrite the macro").arg(output_));
         if (const QString refusal = output_ == "-" ? QString() : refusalOf({output_}); !refusal.isEmpty())
             throw WrongUse("--output: " + refusal);
         const std::optional<QString> held = holdRecording(input_, folder_);
@@ -163,17 +166,29 @@ private:
         return kDone;
     }
 
+    /// False, with a message, when there is no macro in the file.
+    bool readEdited(QByteArray& macro) const
+    {
+        QFile file(*line_.macro);
+        if (!file.open(QIODevice::ReadOnly)) {
+            printLine(QString("%1: cannot be opened: %2").arg(*line_.macro, file.errorString()));
+            return false;
+        }
+        // Who reads what is no UTF-8 makes different texts of it, and a browser has to run the very one that it shows.
+        const QByteArray bytes = file.readAll();
+        macro = QString::fromUtf8(bytes.constData(), bytes.size()).toUtf8();
+        if (!view::scriptOfMacro(macro).isEmpty())
+            return true;
+        printLine(
+            QString("%1: no <script type=\"text/javascript\"> is found, in which a macro stands").arg(*line_.macro));
+        return false;
+    }
+
     int makePage()
     {
         QByteArray edited;
-        if (line_.macro) {
-            QFile file(*line_.macro);
-            if (!file.open(QIODevice::ReadOnly)) {
-                printLine(QString("%1: cannot be opened: %2").arg(*line_.macro, file.errorString()));
-                return kUnreadable;
-            }
-            edited = file.readAll();
-        }
+        if (line_.macro && !readEdited(edited))
+            return kUnreadable;
         nameWork("viewing " + input_);
         const int status = convert();
         if (status == kUnreadable)
@@ -218,9 +233,16 @@ private:
         return status;
     }
 
+    /// Macros of a page have no files, so a name that some project cannot hold is no reason to have none.
+    QString nameForMacros() const
+    {
+        static const QRegularExpression unfit(R"(["\\\x00-\x1F\x7F]|\?\?|\$\()");
+        return input_.isValidUtf16() ? QFileInfo(input_).fileName().replace(unfit, "_") : QStringLiteral("-");
+    }
+
     Job jobFor(const TargetRow& row, bool repaired)
     {
-        const QString name = macroName(input_.isValidUtf16() ? input_ : QStringLiteral("-"), row);
+        const QString name = macroName(nameForMacros(), row);
         Job job{.input = input_, .target = &row, .macro = name, .hasSteps = true, .repaired = repaired, .kept = held_};
         std::vector<std::string> names;
         for (const QString& file : job.files())
@@ -244,7 +266,7 @@ private:
         addPicture(picture, classes, page, index);
         addSteps(steps, places, madeObjects(), picture, classes, page, index);
         index.insert("classes", classes.list());
-        page.addIsland("recording", bytesOf(held_));
+        page.addIsland("recording", readWhole(held_));
         for (const PageTarget& target : targets_)
             addMacros(target, page, index);
         index.insert("notes", notes.notes());
@@ -283,15 +305,9 @@ private:
                                 counted(counts["objects"].toInt(), "object", "objects")};
         return "<h1>" + view::escapedForPage(head["name"].toString()) + "</h1>\n<p>" +
                view::escapedForPage(head["input"].toString() + ": " + parts.join(", ")) +
-               ". The page shows more in a browser that runs its scripts: Chrome or Edge from 80 on, Firefox from 113 "
+               ". The page shows more in a browser that runs its scripts: Chrome or Edge from 93 on, Firefox from 113 "
                "on, Safari from 16.4 on.</p>\n" +
                notes.table();
-    }
-
-    static QByteArray bytesOf(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     std::vector<QByteArray> macroScripts(const QByteArray& edited) const
@@ -304,7 +320,8 @@ private:
         for (const PageTarget& target : targets_)
             if (target.row->target == Target::JavaScript)
                 for (const PageMacro* macro : {&target.recorded, &target.repaired})
-                    add(bytesOf(macro->job->macro));
+                    if (macro->outcome.status == kDone)
+                        add(readWhole(macro->job->macro));
         add(edited);
         return scripts;
     }
@@ -317,11 +334,10 @@ private:
             if (target["name"] != "javascript")
                 continue;
             QJsonObject forms = target["forms"].toObject();
-            const QJsonObject repaired = forms["repaired"].toObject();
             forms.insert("edited", QJsonObject{{"status", kDone},
                                                {"error", ""},
-                                               {"notes", repaired["notes"]},
-                                               {"faults", QJsonArray()},
+                                               {"notes", QJsonValue()}, // nobody has looked for them
+                                               {"faults", QJsonValue()},
                                                {"hasMap", false},
                                                {"text", "macro.javascript.edited"},
                                                {"file", QFileInfo(*line_.macro).fileName()}});

@@ -418,7 +418,8 @@ void Fold::moveDrawn(const ObjectState& state, std::size_t first)
     const auto isInfinite = [&](const Primitive& primitive) {
         transform(primitive, picture_, state.moved());
         const auto numbers = picture_.numbersOf(primitive);
-        return !std::all_of(numbers.begin(), numbers.end(), [](double number) { return std::isfinite(number); });
+        return !std::all_of(numbers.begin(), numbers.end(),
+                            [](double number) { return std::abs(number) <= kLargestNumber; });
     };
     std::vector<Primitive>& primitives = picture_.primitives;
     const auto last =
@@ -470,7 +471,7 @@ void Fold::explainMissing()
     for (std::uint32_t i = 0; i < picture_.objects.size(); ++i) {
         const PictureObject& object = picture_.objects[i];
         if (object.hasGeometry && !object.isDrawn && object.remark == 0)
-            picture_.addRemark(i, drawerOf(objects_[i].cls()) ? "where it is is not recorded"
+            picture_.addRemark(i, drawerOf(objects_[i].cls()) ? "its place is not recorded"
                                                               : "nobody knows how objects of its class look");
     }
 }

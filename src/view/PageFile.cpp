@@ -88,14 +88,19 @@ QByteArray policy(const std::vector<QByteArray>& macroScripts)
            "require-trusted-types-for 'script'; trusted-types page frame macro";
 }
 
-/// Whether a character is shown as its number: it obeys a terminal, turns the direction of writing or has no width.
+/// Whether a character is shown as its number, since it has no look of its own or changes that of its neighbours.
 bool isUnseen(QChar letter)
 {
     const ushort code = letter.unicode();
-    const bool isControl = (code < 0x20 && code != '\n' && code != '\t') || (code >= 0x7F && code < 0xA0);
-    const bool isDirection = code == 0x61C || (code >= 0x200B && code <= 0x200F) ||
-                             (code >= 0x2028 && code <= 0x202E) || (code >= 0x2060 && code <= 0x206F) || code == 0xFEFF;
-    return isControl || isDirection;
+    if (code == '\n' || code == '\t')
+        return false;
+    static constexpr std::pair<ushort, ushort> ranges[] = {
+        {0x00, 0x1F},     {0x7F, 0x9F},     {0xAD, 0xAD},     {0x61C, 0x61C},   {0x115F, 0x1160}, {0x17B4, 0x17B5},
+        {0x180B, 0x180F}, {0x200B, 0x200F}, {0x2028, 0x202E}, {0x2060, 0x206F}, {0x3164, 0x3164}, {0xFE00, 0xFE0F},
+        {0xFEFF, 0xFEFF}, {0xFFA0, 0xFFA0}, {0xFFF9, 0xFFFB}, {0xDB40, 0xDB40}, // that of tags
+    };
+    return std::any_of(std::begin(ranges), std::end(ranges),
+                       [code](const auto& range) { return code >= range.first && code <= range.second; });
 }
 
 } // namespace
@@ -106,7 +111,8 @@ QString escapedForPage(const QString& text)
     shown.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
         const QChar letter = text[i];
-        const bool isPair = letter.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        const bool isPair =
+            !isUnseen(letter) && letter.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
         if (isPair)
             shown += text.midRef(i++, 2);
         else if (isUnseen(letter) || letter.isSurrogate())

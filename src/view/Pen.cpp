@@ -59,7 +59,8 @@ Outline& Outline::add(const Outline& other)
 
 void Pen::add(Shape shape, std::span<const double> numbers)
 {
-    if (!std::all_of(numbers.begin(), numbers.end(), [](double number) { return std::isfinite(number); })) {
+    if (!std::all_of(numbers.begin(), numbers.end(),
+                     [](double number) { return std::abs(number) <= kLargestNumber; })) {
         remark(kNotFinite);
         return;
     }

@@ -17,6 +17,9 @@ struct Point
     bool operator==(const Point&) const = default;
 };
 
+/// What is reckoned with a larger number may be none.
+inline constexpr double kLargestNumber = 1e100;
+
 inline constexpr double kTurn = 2.0 * std::numbers::pi;
 
 /// The steps of an outline or a boundary.
@@ -58,12 +61,12 @@ struct Letters
     int place = 10;     ///< see Shape::Text
 };
 
-/// Draws one object into a picture, at one state of it. Whatever has a number that is not finite is left out, which
-/// the object's remark tells.
+/// Draws one object into a picture, at one state of it. Whatever has a number that is not finite, or larger than
+/// kLargestNumber, is left out, which the object's remark tells.
 class Pen
 {
 public:
-    static constexpr auto kNotFinite = "a number of it is not finite";
+    static constexpr auto kNotFinite = "its numbers are too large";
 
     /// How the object is shown at that state and for how long.
     struct Now

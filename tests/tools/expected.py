@@ -81,6 +81,9 @@ def arc(e, ocs):
 
 
 def ellipse(e, _):
+    if e.dxf.ratio > 1:  # the longer axis comes first
+        e = e.copy()
+        e.swap_axis()
     start, end = e.dxf.start_param, e.dxf.end_param
     axis = plane(e).uz
     if level(plane(e)) < 0:

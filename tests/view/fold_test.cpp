@@ -241,7 +241,7 @@ TEST(Fold, SaysWhyNothingIsDrawn)
     const RecordedPicture seen({added("AcDbSpline", "30", {}), added("VendorPipe", "31", {}),
                                 added("AcDbGroup", "32", {{"Name", "\"G\""}}),
                                 added("AcDbBlockReference", "33", {{"Name", "\"None\""}, {"Position X", "1"}})});
-    EXPECT_EQ(seen.remark(0x30), "where it is is not recorded");
+    EXPECT_EQ(seen.remark(0x30), "its place is not recorded");
     EXPECT_EQ(seen.remark(0x31), "nobody knows how objects of its class look");
     EXPECT_TRUE(seen.object(0x31).hasGeometry);
     EXPECT_FALSE(seen.object(0x32).hasGeometry);
@@ -254,7 +254,7 @@ TEST(Fold, LeavesOutWhatIsNotFinite)
     const RecordedPicture seen({addedCircle("30", 1e308, 0, 1), addedLine("31", 0, 0, 1, 1),
                                 custom(3, R"({"handles":["30"]},{"classes":[]},{"vector":[1e308,0,0]})")});
     EXPECT_EQ(seen.behind(3).size(), 1U);
-    EXPECT_EQ(seen.remark(0x30), "a number of it is not finite");
+    EXPECT_EQ(seen.remark(0x30), "its numbers are too large");
 }
 
 TEST(Fold, CutsBlocksThatHoldThemselves)

@@ -63,7 +63,7 @@ TEST(Svg, IsWellFormedWhateverIsRecorded)
     const QString hostile = QString("]]></text></title><script>\"'&amp;&#0;\r\n\t") + QChar(0) + QChar(0x1B) +
                             QChar(0xFFFE) + QChar(0xD800) + "x" + QChar(0xDC00) + QChar(0x85);
     pen.text({.text = hostile, .at = {0, 0}});
-    pen.line({0, 0}, {1e-300, -1e300});
+    pen.line({0, 0}, {1e-300, -1e99});
     const QByteArray svg = inkmacro::view::svgOf(picture, 0, hostile);
     EXPECT_EQ(elementsOf(svg), (QStringList{"svg", "title", "style", "rect", "g", "text", "path"}));
     const QByteArray shown = "]]&gt;&lt;/text&gt;&lt;/title&gt;&lt;script&gt;&quot;'&amp;amp;&amp;#0;";
