@@ -53,7 +53,7 @@ def check_stop(checked, recording):
         if page.evaluate("document.getElementById('run').textContent") != "Stop":
             checked.complain("endless", "no button stops it")
         page.evaluate("(document.getElementById('run').click(), null)")
-        if page.evaluate("state.get().run.state") != "failed" or page.evaluate("document.querySelector('iframe')"):
+        if page.evaluate("state.get().run.state") != "ended" or page.evaluate("document.querySelector('iframe')"):
             checked.complain("endless", "it is not stopped:", page.evaluate("state.get().run.state"))
         page_data.run_form(page, "repaired")
         if page.evaluate("state.get().run.verdict") != "equal":

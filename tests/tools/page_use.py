@@ -8,7 +8,7 @@ import zlib
 import harness
 import pages
 
-WIDTHS = [(390, 844), (900, 800), (1440, 900)]  # pixels
+WIDTHS = [(360, 740), (390, 844), (900, 800), (1440, 900)]  # pixels
 LEAST_CONTRAST, LEAST_OF_LARGE = 4.5, 3
 OUTLINE = 2  # pixels
 MOST_STOPS = 200  # of the key that goes on to the next element

@@ -89,6 +89,10 @@ function runJob(job, run, tell) {
     const lines = parseLines(new TextDecoder('utf-8').decode(job.recording));
     const model = startModel(tables, lines);
     const script = scriptOf(job.macro);
+    if (!script) {
+        tell({kind: 'refused', message: 'there is no script in this macro'});
+        return;
+    }
     if (job.isEdited) {
         // One that is as it was written goes straight on; another one may have loops.
         model.lineOf = () => stopOf(new Error(), script.before).line;
@@ -112,7 +116,9 @@ function listen() {
         if (source !== window.parent) {
             return;
         }
-        const tell = news => ports[0].postMessage(Object.assign({run: data.run}, news));
+        // Taken before the macro runs, which may put something else in its place.
+        const post = MessagePort.prototype.postMessage.bind(ports[0]);
+        const tell = news => post(Object.assign({run: data.run}, news));
         try {
             runJob(data, (script, globals) => {
                 Object.assign(window, globals);

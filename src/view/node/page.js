@@ -28,7 +28,7 @@ function runPage(page, globals) {
     const name = pageName;
     const context = vm.createContext(Object.assign({}, globals));
     try {
-        const {text, before} = scriptOf(page);
+        const {text, before} = scriptOf(page) || {text: '', before: 0};
         vm.runInContext(text, context, {filename: name, lineOffset: before});
         vm.runInContext('runMacro()', context, {filename: 'call'});
         return null;

@@ -53,7 +53,7 @@ class Grid {
             const rows = Math.floor(height / size) + 1;
             this.levels.push({size: size, columns: columns, rows: rows, start: this.cellCount});
             this.cellCount += columns * rows;
-            if (size > longest) {
+            if (size > longest || !isFinite(longest)) {
                 return;
             }
             size *= widening;

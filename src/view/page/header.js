@@ -53,6 +53,9 @@ function faultBadge(data, target, form) {
 }
 
 function badgesOf(data, target, form) {
+    if (form === 'edited') {
+        return [{kind: 'plain', text: 'edited: not looked through', chip: 'all'}];
+    }
     const one = data.formOf(target, form);
     if (!one || one.status !== 0) {
         return [{kind: 'fault', text: 'conversion failed', chip: 'all'}];
@@ -66,8 +69,11 @@ function showBadges(data) {
     const badges = empty(byId('badges'));
     if (run) {
         const {text, tone} = runWords(run);
+        const isShown = run.target === target && run.form === (form === 'differences' ? 'repaired' : form);
+        const whose = isShown ? '' : 'JavaScript, ' + {repaired: 'repaired', recorded: 'as recorded',
+            edited: 'edited'}[run.form] + ': ';
         const kind = {good: 'good', fault: 'fault'}[tone] || 'plain';
-        badges.append(button((kind === 'good' ? '✓ ' : '') + text, {class: 'badge ' + kind},
+        badges.append(button((kind === 'good' ? '✓ ' : '') + whose + text, {class: 'badge ' + kind},
             () => state.set({mode: 'compared', pane: 'picture'}, 'header')));
     }
     for (const badge of badgesOf(data, target, form)) {

@@ -33,7 +33,7 @@ function runScripts(texts) {
 async function loadPage() {
     watchTrouble();
     if (typeof DecompressionStream !== 'function') {
-        tellTrouble('This browser is too old for the page: it needs Chromium 80, Firefox 113, Safari 16.4, or a later one.');
+        tellTrouble('This browser is too old for the page: it needs Chromium 93, Firefox 113, Safari 16.4, or a later one.');
         return;
     }
     try {

@@ -188,9 +188,10 @@ class MacroPane {
     }
 
     makeTab(target) {
-        const form = target.forms.recorded || target.forms.repaired || {status: 0, faults: []};
+        const {recorded, repaired} = target.forms;
+        const form = recorded || repaired || {status: 0, faults: []};
         const faults = countFaults(form.faults);
-        const [kind, text, words] = form.status !== 0 ? ['fault', 'failed', 'conversion failed']
+        const [kind, text, words] = form.status !== 0 || repaired && repaired.status !== 0 ? ['fault', 'failed', 'conversion failed']
             : faults ? ['fault', String(faults), countOf(faults, 'fault')] : ['good', '✓', 'no faults'];
         return element('button', {type: 'button', class: 'tab', 'aria-controls': 'macroList'}, target.title + ' ',
             element('span', {class: 'badge ' + kind, title: words, 'aria-label': words}, text));
@@ -208,8 +209,7 @@ class MacroPane {
         this.showForms(target, form);
         const one = this.data.formOf(target, form);
         if (!one || one.status !== 0) {
-            this.showFailure(one ? 'The conversion failed with status ' + one.status + '.'
-                : 'The page does not have this form.', one ? one.error : '');
+            this.showFailure(one ? 'The conversion failed.' : 'The page does not have this form.', one ? one.error : '');
             return;
         }
         const view = await this.opened(opening, target, form);
@@ -282,7 +282,8 @@ class MacroPane {
         const hadFocus = this.forms.contains(document.activeElement);
         empty(this.forms);
         for (const name of Object.keys(formNames)) {
-            const isThere = name === 'differences' ? Boolean(forms.recorded && forms.repaired) : Boolean(forms[name]);
+            const isThere = name === 'differences' ? Boolean(forms.recorded && forms.recorded.status === 0
+                && forms.repaired && forms.repaired.status === 0) : Boolean(forms[name]);
             if (name === 'edited' && !isThere) {
                 continue;
             }

@@ -86,7 +86,7 @@ class ComparisonPanel {
 
     legend(counts) {
         const shown = [['equal', 'equal'], ['different', 'different'], ['missing', 'missing'],
-            ['missingAsTold', 'missing, as told'], ['surplus', 'surplus'], ['notChecked', 'made by the application']];
+            ['missingAsTold', 'lost, as told'], ['surplus', 'surplus'], ['notChecked', 'made by the application']];
         const always = ['equal', counts.missingAsTold ? '' : 'missing', 'surplus'];
         return element('ul', {class: 'legend'}, ...shown.filter(([kind]) => counts[kind] || always.includes(kind)).map(
             ([kind, words]) => element('li', {}, legendStroke(kind),

@@ -25,7 +25,14 @@ function asLines(value) {
 
 // A value of a comparison as text; whatever a macro makes of it, it becomes nothing else.
 function asShown(value) {
-    return value === null || value === undefined ? '' : typeof value === 'string' ? value : JSON.stringify(value);
+    if (value === null || value === undefined) {
+        return '';
+    }
+    try {
+        return typeof value === 'string' ? value : String(JSON.stringify(value));
+    } catch (error) {
+        return 'a value that cannot be shown'; // one that holds itself, or a whole number of any length
+    }
 }
 
 // A map as convert writes it.
@@ -125,9 +132,11 @@ function runWords(run) {
         tone: 'busy'};
     case 'refused': return {text: 'macro was not run', tone: 'fault'};
     case 'failed': return {text: 'the run came to no end', tone: 'fault'};
+    case 'ended': return {text: 'macro was stopped here', tone: 'none'};
     case 'stopped': return {text: 'macro stops' + (run.stopped.line ? ' at line ' + run.stopped.line : '')
         + ', draws ' + numberText(run.objects.drawn) + ' of ' + numberText(run.objects.of), tone: 'fault'};
-    case 'done': return {text: 'macro draws ' + numberText(run.objects.drawn) + ' of ' + numberText(run.objects.of),
+    case 'done': return !run.objects.of && run.verdict === 'equal' ? {text: 'nothing to compare', tone: 'none'}
+        : {text: 'macro draws ' + numberText(run.objects.drawn) + ' of ' + numberText(run.objects.of),
         tone: run.verdict === 'equal' ? 'good' : 'fault'};
     }
     return {text: 'not run yet', tone: 'none'};
@@ -218,7 +227,9 @@ class Runner {
                 this.open(new TextDecoder('utf-8').decode(text), Object.assign(job, {run: number}));
             }
         } catch (error) {
-            this.end({state: 'failed', message: error.message});
+            if (number === this.number && this.frame) {
+                this.end({state: 'failed', message: error.message});
+            }
         }
     }
 
@@ -253,7 +264,8 @@ class Runner {
     }
 
     stop() {
-        this.end({state: 'failed', message: 'it was stopped here'});
+        ++this.number;
+        this.end({state: 'ended', message: ''});
     }
 
     end(result) {
