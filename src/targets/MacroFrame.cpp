@@ -132,7 +132,7 @@ Statement MacroFrame::faultyEntry(const QString& entry, const QString& macroPath
 std::unique_ptr<MacroFrame> CreateMacroFrame(Writer& writer)
 {
     switch (writer.target) {
-#define INKMACRO_CREATE(id, suffix, name, title, extension, projectFiles)                                                     \
+#define INKMACRO_CREATE(id, suffix, name, title, extension, projectFiles)                                              \
     case Target::id:                                                                                                   \
         return std::make_unique<CFxConverterIWAPI##suffix>(writer);
         INKMACRO_TARGETS(INKMACRO_CREATE)
