@@ -159,7 +159,7 @@ function placeOfText(numbers, first, text) {
     const column = place >= 10 ? place - 10 : (place - 1) % 3;
     const row = place >= 10 ? 3 : Math.floor((place - 1) / 3);
     return {left: -width * column / 2, width: width, height: height, column: column,
-        baseline: [-height, -height / 2, descentShare * height, 0][row]};
+        baseline: [-height, -height / 2, 0, 0][row]};
 }
 
 // The number at which the steps of a pattern's boundary begin, behind its families of lines.

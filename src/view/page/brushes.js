@@ -36,7 +36,8 @@ function comparisonStrokes(palette) {
     const missing = {color: palette.missing, width: 1.8, dash: [6, 5]};
     const aside = {color: palette.there, width: 1, dash: []};
     return [aside, plain, {color: palette.different, width: 1.8, dash: [10, 4, 2, 4]}, missing,
-        {color: palette.surplus, width: 1.8, dash: [0.1, 4]}, missing, {color: palette.muted, width: 1.2, dash: []}];
+        {color: palette.surplus, width: 1.8, dash: [0.1, 4]}, {color: palette.missing, width: 1.8, dash: [2, 5]},
+        {color: palette.muted, width: 1.2, dash: []}];
 }
 
 // The brushes of a painter: what was there, the kinds of a comparison, and those of the styles, each once.
