@@ -91,6 +91,7 @@ function startHeader(data) {
     putText(empty(byId('name')), data.index.name);
     byId('name').title = visibleText(data.index.input);
     byId('counts').textContent = countsInWords(data.index);
+    byId('counts').title = countsInWords(data.index); // there may be no room for all of it
     state.on(['target', 'form', 'run'], () => showBadges(data));
     state.on(['run'], ({run}) => {
         if (run && run.state !== 'running') {
