@@ -1,6 +1,7 @@
 #include "view/Fold.h"
 
 #include "view/attributes.h"
+#include "view/blockParts.h"
 #include "view/customActions.h"
 #include "view/kinds.h"
 #include "view/transform.h"
@@ -275,19 +276,7 @@ void Fold::define(ObjectState& block)
     const auto* const drawn = block.drawnAs<OdDbBlockTableRecord>();
     const std::uint16_t space =
         spaces_.addBlock(block.handle(), block.text("Name").value_or(drawn ? drawn->getName() : QString()));
-    std::vector<OdDbHandle> handles;
-    if (const CFxVariant* const list = block.find("Objects")) {
-        for (const CFxVariantCollectionElement& element : list->GetCollection().GetCollectionDataForRead()) {
-            const CFxVariant& value = *element.GetValue();
-            const OdDbObjectId id = value.GetId();
-            handles.push_back(id.isNull() ? OdDbHandle(value.GetString().toQString().toULongLong(nullptr, 16))
-                                          : id.getHandle());
-        }
-    } else if (drawn) {
-        for (const OdDbObjectIteratorPtr entity = drawn->newIterator(); !entity->done(); entity->step())
-            handles.push_back(entity->objectId().getHandle());
-    }
-    for (const OdDbHandle& handle : handles)
+    for (const OdDbHandle& handle : partsOf(block))
         if (ObjectState* const entity = objects_.find(handle); entity && entity->isThere && entity->space != space) {
             entity->space = space;
             redraw(*entity);

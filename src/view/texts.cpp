@@ -1,6 +1,7 @@
 // Texts of one line, notes and texts along an arc.
 
 #include "view/attributes.h"
+#include "view/blockParts.h"
 #include "view/drawers.h"
 #include "view/leaders.h"
 #include "view/noteText.h"
@@ -178,11 +179,8 @@ bool isAttributeOfReferences(const Values& definition)
 
 void drawAttributes(const Values& reference, const Values& block, const Affine& place, Pen& pen)
 {
-    const auto* const drawn = block.drawnAs<OdDbBlockTableRecord>();
-    if (!drawn)
-        return;
-    for (const OdDbObjectIteratorPtr all = drawn->newIterator(); !all->done(); all->step()) {
-        const Values* const part = reference.other(all->objectId().getHandle());
+    for (const OdDbHandle& handle : partsOf(block)) {
+        const Values* const part = reference.other(handle);
         if (part && isAttributeOfReferences(*part))
             drawAttributeOf(reference, *part, place, pen);
     }

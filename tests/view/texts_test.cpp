@@ -97,6 +97,12 @@ TEST(Texts, OfAttributesStandInTheirReferences)
     reference.say("BlockAttributes.SIZE", "M12");
     EXPECT_EQ(drawn().texts(), QStringList{"M12"});
 
+    // An action that makes the block tells its parts.
+    SaidValues made("AcDbBlockTableRecord");
+    made.say("Objects", CFxVariant(CFxVariantCollection({{CFxVariant(0), CFxVariant(CFxString("31"))}})));
+    const auto ofMade = [&](const Values& values, Pen& pen) { drawAttributes(values, made, place, pen); };
+    EXPECT_EQ(Drawn(ofMade, reference).texts(), QStringList{"M12"});
+
     EXPECT_EQ(Drawn(drawAttribute, constant).texts(), QStringList{"M8"});
 }
 
