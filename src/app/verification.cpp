@@ -9,6 +9,7 @@
 #include "app/heldRecording.h"
 #include "app/report.h"
 #include "app/reportSchema.h"
+#include "app/temporaryFolder.h"
 #include "app/valueText.h"
 #include "view/scripts.h"
 
@@ -20,16 +21,12 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
-#include <system_error>
 
 #include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace inkmacro {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -129,7 +126,7 @@ public:
         : input_(input),
           edited_(edited),
           json_(json),
-          folder_(fs::absolute(fs::temp_directory_path()), namesOf(input)),
+          folder_(temporaryFolder(), namesOf(input)),
           job_{.input = input,
                .target = &javaScript(),
                .macro = path(nameOfMacro(input)),
@@ -247,14 +244,7 @@ int verifyRecording(const QString& input, const std::optional<QString>& edited, 
         printLine(QString("%1: cannot be opened: %2").arg(*edited, file.errorString()));
         return kUnreadable;
     }
-    try {
-        return Verification(input, edited, json).run(node);
-    } catch (const PlacingError& error) {
-        complain(error.message());
-    } catch (const std::system_error& error) {
-        complain("no temporary folder can be made: " + qt_error_string(error.code().value()));
-    }
-    return kFailed;
+    return orComplainOfFiles([&] { return Verification(input, edited, json).run(node); });
 }
 
 } // namespace inkmacro

@@ -12,6 +12,7 @@
 #include "app/pageMacros.h"
 #include "app/processes.h"
 #include "app/reading.h"
+#include "app/temporaryFolder.h"
 #include "app/valueText.h"
 #include "view/PageFile.h"
 #include "view/pictureIslands.h"
@@ -26,13 +27,9 @@
 #include <QTemporaryFile>
 
 #include <algorithm>
-#include <filesystem>
 #include <list>
-#include <system_error>
 
 namespace inkmacro {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -93,11 +90,6 @@ view::Picture pictureIn(const Recording& recording)
     return view::pictureOf(*recording.database, recording.actions,
                            {.sheet = sheet && !sheet->model ? sheet->name : QString(),
                             .context = static_cast<CFxValueContext>(recording.header.context)});
-}
-
-fs::path temporaryFolder()
-{
-    return fs::absolute(fs::temp_directory_path());
 }
 
 class Viewing
@@ -370,14 +362,7 @@ private:
 
 int viewRecording(const CommandLine& line)
 {
-    try {
-        return Viewing(line).run();
-    } catch (const PlacingError& error) {
-        complain(error.message());
-    } catch (const std::system_error& error) {
-        complain("no temporary folder can be made: " + qt_error_string(error.code().value()));
-    }
-    return kFailed;
+    return orComplainOfFiles([&line] { return Viewing(line).run(); });
 }
 
 } // namespace inkmacro
