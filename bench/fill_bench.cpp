@@ -26,11 +26,11 @@ void BM_FillLine(benchmark::State& state)
     const Template words(line);
     for ([[maybe_unused]] auto _ : state) {
         Fill fill(&words);
-        fill.indent(2).text(lineEnd);
+        fill.indent(2).word(lineEnd);
         for (const double coordinate : coordinates) {
             fill.real(coordinate);
         }
-        fill.text(name);
+        fill.word(name);
         benchmark::DoNotOptimize(fill.str());
     }
 }
@@ -55,13 +55,13 @@ void BM_FillText(benchmark::State& state)
     for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(Fill(&words)
                                      .indent(2)
-                                     .text(lineEnd)
+                                     .word(lineEnd)
                                      .shortReal(2.5)
                                      .text(content)
                                      .number(3)
                                      .text(style)
                                      .text(layer)
-                                     .text(noteName)
+                                     .word(noteName)
                                      .str());
     }
 }

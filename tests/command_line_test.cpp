@@ -72,7 +72,7 @@ TEST_F(Program, TellsWhatWasProbablyMeant)
         {{"convert", "a", "-t", "cshrap"}, "-t: \"cshrap\" is no target; did you mean csharp?"},
         {{"convert", "a", "--target=c\x01"},
          "--target: \"c\\x01\" is no target; known are cpp (0), csharp (1), javascript (2), vbnet (3), "
-         "cppcom (4), vba (5), all"},
+         "cppcom (4), vba (5), python (6), all"},
         {{"convert", "a"}, "convert needs --target TARGET[,TARGET...]|all"},
         {{"convert", "-tvba"}, "convert needs FILE..."},
         {{"convert", "a", "-tvba", "-o"}, "a value is missing behind --output: it is --output PATH"},
@@ -183,7 +183,8 @@ TEST_F(Program, BreaksNoProjectOfAnotherRecording)
     EXPECT_EQ(convert("doors.jsonl", "vba,javascript").status, 0) << "without projects";
     for (const auto& [target, place] :
          {std::pair("csharp", "csharp/ (walls.csproj)"), std::pair("vbnet", "vbnet/ (walls.vbproj)"),
-          std::pair("cpp", "cpp/ (walls.vcproj)"), std::pair("cppcom", "cppcom/ (walls.h)")}) {
+          std::pair("cpp", "cpp/ (walls.vcproj)"), std::pair("cppcom", "cppcom/ (walls.h)"),
+          std::pair("python", "python/ (pyproject.toml)")}) {
         const QByteArray shared = contents("csharp/Program.cs");
         const Outcome outcome = convert("doors.jsonl", target);
         EXPECT_EQ(outcome.status, 2) << target;
@@ -192,7 +193,7 @@ TEST_F(Program, BreaksNoProjectOfAnotherRecording)
         EXPECT_EQ(contents("csharp/Program.cs"), shared);
     }
     EXPECT_EQ(convert("doors.jsonl", "all").err.toStdString(),
-              refusal("cpp/ (walls.vcproj), csharp/ (walls.csproj), vbnet/ (walls.vbproj) and 1 more folder"));
+              refusal("cpp/ (walls.vcproj), csharp/ (walls.csproj), vbnet/ (walls.vbproj) and 2 more folders"));
     EXPECT_FALSE(exists("csharp/doors.cs") || exists("cpp/doors.cpp"));
     EXPECT_EQ(convert("doors.jsonl", "csharp", {"-o", "csharp/d.cs"}).status, 2) << "named by its path";
     EXPECT_EQ(convert("doors.jsonl", "csharp", {"-o", "other/"}).status, 0);

@@ -176,8 +176,12 @@ TEST_F(Program, ReportsFaultsUpToTheEndOfALongMacro)
     write("long.jsonl", recording + QByteArray(faulty).replace("6\\\" wide", "7\\\" high"));
     const QJsonArray reports =
         conversions(run({"convert", "long.jsonl", "--target", "all", "--output", "out/", "--report"}));
-    EXPECT_EQ(reports.size(), 6);
+    EXPECT_EQ(reports.size(), 7);
     for (const QJsonValue& report : reports) {
+        if (report["target"] == "python") {
+            EXPECT_TRUE(report["faults"].toArray().isEmpty());
+            continue;
+        }
         const QString macro = report["macro"].toString();
         const QByteArray text = contents(macro);
         EXPECT_GT(text.size(), 2 * 64 * 1024) << macro.toStdString();
@@ -284,7 +288,7 @@ TEST_F(Program, ReportsWithLittleMoreMemoryThanItConvertsWith)
                      QByteArray::number(256 + i, 16).toUpper() + R"(","properties":[]}})" + '\n';
     write("strangers.jsonl", strangers);
     const QStringList call{"convert", "strangers.jsonl", "--output", "out/", "--quiet", "--target"};
-    for (const auto& [targets, count] : {std::pair{"csharp", 1}, {"all", 6}}) {
+    for (const auto& [targets, count] : {std::pair{"csharp", 1}, {"all", 7}}) {
         const Outcome json = run(call + QStringList{targets, "--report"}, {}, "ulimit -v 200000; ");
         EXPECT_EQ(json.status, 0) << json.err.toStdString();
         EXPECT_EQ(json.out.count("objects of its class have no statements"), 100'000 * count);

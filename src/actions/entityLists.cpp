@@ -7,16 +7,33 @@
 #include "host/db/OdDbClasses.h"
 #include "statements/losses.h"
 #include "targets/groups.h"
+#include "targets/selectionPrompts.h"
 
 using inkmacro::HandedVariable;
 using inkmacro::takeVariable;
+
+/// Whether the user was asked to select these objects in the same command.
+static bool AreAskedFor(const Conversion& conversion, const std::vector<OdDbHandle>& objects)
+{
+    const std::optional<AskedSelection>& asked = conversion.askedSelection;
+    return conversion.command != 0 && asked && asked->command == conversion.command &&
+           asked->objects == std::set<OdDbHandle>(objects.begin(), objects.end());
+}
+
+/// The objects of the first two data, or those that are selected when the macro asks.
+static EntityList EntitiesOf(Conversion& conversion, const CFxCustomAction& action)
+{
+    return TakesWhatIsSelected(conversion.writer) && AreAskedFor(conversion, action.GetData(0).GetHandleArray())
+               ? SelectedEntities()
+               : conversion.names().ResolveNames(action.GetData(0), action.GetData(1));
+}
 
 /// A call for the objects of the first two data. In a repaired macro one for none of them is left out.
 template<class Emit>
 static std::int32_t ConvertEntityCall(Conversion& conversion, const CFxCustomAction& action, Statement& text, Emit emit)
 {
     takeVariable(conversion.writer, text, HandedVariable::Replaced);
-    const EntityList entities = conversion.names().ResolveNames(action.GetData(0), action.GetData(1));
+    const EntityList entities = EntitiesOf(conversion, action);
     if (entities.empty() && conversion.writer.repairs)
         return PassOver(action, "the macro has none of its objects");
     text = emit(entities);

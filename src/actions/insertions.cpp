@@ -74,7 +74,7 @@ namespace {
 Statement hatchByBulges(Writer& writer, const CFxString& hatch, const HatchPattern& pattern,
                         const CFxCustomAction& action)
 {
-    const CFxString polyline = QStringLiteral("hatch_Polyline_%1").arg(processCounters.hatchPolylines);
+    const CFxString polyline = HatchPolylineName(writer, processCounters.hatchPolylines);
     Statement text = EmitHatchBoundaryPolyline(writer, polyline, action.GetData(8).Get2dPointArray(), true);
     text += EmitSetSegmentAngles(writer, polyline, action.GetData(7).GetDoubleArray());
     ++processCounters.hatchPolylines;

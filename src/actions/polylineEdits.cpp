@@ -109,7 +109,7 @@ Statement widthsOf(Writer& writer, const CFxString& polyline, const CFxCustomAct
         text += EmitSetIndexedDouble(writer, polyline, "SetSegmentEndWidth", index, ends[segment]);
     }
     if (action.GetData(7).GetBool())
-        text += EmitSetDoubleProperty(writer, polyline, "GlobalWidth", action.GetData(8).GetDouble());
+        text += EmitSetDoubleProperty(writer, polyline, "GlobalWidth", action.GetData(8).GetDouble(), Meaning::Length);
     return text;
 }
 

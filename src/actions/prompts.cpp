@@ -127,6 +127,59 @@ struct Replay
 
 } // namespace
 
+static const PromptKind* kindOf(const CFxUserInteraction& interaction)
+{
+    const std::int32_t number = interaction.GetInteractionKind();
+    const bool isKnown = number >= 0 && static_cast<std::size_t>(number) < promptKinds.size();
+    return isKnown ? &promptKinds[static_cast<std::size_t>(number)] : nullptr;
+}
+
+/// As a macro shows it again.
+static CFxString shownPrompt(const CFxUserInteraction& interaction, const PromptKind& kind)
+{
+    const CFxString prompt = inkmacro::CleanPromptText(interaction.GetPrompt());
+    return prompt.isEmpty() ? CFxString(kind.prompt) : prompt;
+}
+
+std::optional<inkmacro::Prompt> ReadPrompt(const CFxUserInteraction& interaction)
+{
+    const PromptKind* const kind = kindOf(interaction);
+    if (!kind)
+        return {};
+    inkmacro::Prompt prompt{.asked = static_cast<inkmacro::Asked>(kind - promptKinds.data()),
+                            .child = 0,
+                            .title = ActionTitle(&interaction),
+                            .text = interaction.GetPrompt(),
+                            .shown = shownPrompt(interaction, *kind)};
+    const OdResBufPtr result = interaction.GetResult();
+    if (!result || !kind->accepts(result->restype()))
+        return prompt;
+    using enum inkmacro::Asked;
+    switch (prompt.asked) {
+    case Point:
+    case Corner:
+        prompt.isAnswered = inkmacro::HoldsForm<OdGePoint3d>(*result);
+        prompt.numbers = {result->getPoint3d().x, result->getPoint3d().y, result->getPoint3d().z};
+        break;
+    case Text:
+        prompt.isAnswered = result->restype() == OdResBuf::kRtString;
+        prompt.answer = CFxString(result->getString());
+        break;
+    case Keyword:
+    case Color:
+        break;
+    case Integer:
+        prompt.isAnswered = inkmacro::HoldsForm<std::int32_t>(*result);
+        prompt.numbers[0] = result->getInt32();
+        break;
+    default:
+        prompt.isAnswered = inkmacro::HoldsForm<double>(*result);
+        prompt.numbers[0] = result->getDouble();
+        break;
+    }
+    return prompt;
+}
+
 std::int32_t ConvertInteraction(Conversion& conversion, const CFxUserInteraction& interaction, Statement& text)
 {
     const OdResBufPtr result = interaction.GetResult();
@@ -135,13 +188,15 @@ std::int32_t ConvertInteraction(Conversion& conversion, const CFxUserInteraction
         NoteLoss(ActionTitle(&interaction), "it has no answer, so the macro does not ask");
         return kFxSuccess;
     }
-    const std::int32_t number = interaction.GetInteractionKind();
-    if (number < 0 || static_cast<std::size_t>(number) >= promptKinds.size())
+    const PromptKind* const kind = kindOf(interaction);
+    if (!kind)
         return kFxFailure;
-    const PromptKind& kind = promptKinds[static_cast<std::size_t>(number)];
-    CFxString prompt = inkmacro::CleanPromptText(interaction.GetPrompt());
-    if (prompt.isEmpty())
-        prompt = kind.prompt;
-    text = std::visit(Replay{conversion.writer, interaction, *result, kind, prompt}, kind.ask);
+    if (!AsksWhereRecorded(conversion.writer)) {
+        if (conversion.command == 0)
+            NoteLoss(ActionTitle(&interaction), "it belongs to no command, so the macro does not ask");
+        return kFxSuccess;
+    }
+    text =
+        std::visit(Replay{conversion.writer, interaction, *result, *kind, shownPrompt(interaction, *kind)}, kind->ask);
     return kFxSuccess;
 }

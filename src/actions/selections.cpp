@@ -28,8 +28,10 @@ std::int32_t ConvertSelection(Conversion& conversion, const CFxUserSelection& se
         entity.handle = objects[i].ascii();
         entities.push_back(std::move(entity));
     }
-    if (!entities.empty())
-        text = EmitPromptSelection(conversion.writer, entities);
+    if (entities.empty())
+        return kFxSuccess;
+    text = EmitPromptSelection(conversion.writer, entities);
+    conversion.askedSelection = AskedSelection{conversion.command, {objects.begin(), objects.end()}};
     return kFxSuccess;
 }
 

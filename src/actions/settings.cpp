@@ -194,8 +194,9 @@ static Statement setLocation(Writer& writer, const CFxString& variable, const Lo
     const CFxString property(location.property);
     const bool fits = !location.property || isText != location.takesList;
     const bool asText = fits || !writer.repairs ? isText : !isText;
-    Statement setting = asText ? EmitSetProperty(writer, variable, property, quotable(paths.front()), true)
-                               : EmitFileLocationArray(writer, variable, property, paths);
+    Statement setting = asText
+                            ? EmitSetProperty(writer, variable, property, quotable(paths.front()), true, Meaning::Text)
+                            : EmitFileLocationArray(writer, variable, property, paths);
     if (!location.property)
         return writer.faulty(std::move(setting), kUnknownLocation);
     return fits ? setting : writer.faulty(std::move(setting), isText ? kTextForList : kListForText);

@@ -89,6 +89,10 @@ QJsonValue ActionJson::bodyOf(const OdRxObjectPtr& action, int depth) const
     if (const auto custom = odrxQuery<CFxCustomAction>(action.get()))
         if (const auto name = names_.find(custom->GetKind()); name != names_.end())
             body["name"] = name->second;
+    if (const auto found = parameters_ ? parameters_->find(action.get()) : PromptParameters::const_iterator();
+        parameters_ && found != parameters_->end())
+        body["parameter"] =
+            QJsonObject{{"function", found->second.function.toQString()}, {"name", found->second.name.toQString()}};
     if (depth == 0)
         for (const char* const list : {"properties", "extra", "data"})
             if (const QJsonValue items = body.value(QLatin1String(list)); items.isArray())

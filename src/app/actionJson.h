@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ActionFilter.h"
+#include "app/parameters.h"
 #include "module/CFxConverterIWAPIModule.h"
 
 #include <QJsonObject>
@@ -31,6 +32,10 @@ public:
     /// `names` are those of custom actions.
     ActionJson(ActionView view, CFxValueContext context, const std::vector<CFxActionKindName>& names);
 
+    /// An interaction whose answer is a parameter of its command's function in a Python macro has that "parameter"
+    /// besides. What is given must outlive this.
+    void tell(const PromptParameters& parameters) { parameters_ = &parameters; }
+
     /// A top-level action with all that is in it, in the form that recording files have, but for this: it has its
     /// "line" besides, in a command each action has its "index" and "leftOut" counts those that the filter leaves out,
     /// a custom action has the "name" of its kind, and of a list that is too deep there is the length alone. Without a
@@ -55,6 +60,7 @@ private:
     const ActionView view_;
     const CFxValueContext context_;
     std::map<std::int32_t, QString> names_;
+    const PromptParameters* parameters_ = nullptr;
     ActionCounts counts_;
 };
 

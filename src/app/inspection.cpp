@@ -7,7 +7,9 @@
 #include "app/actionCount.h"
 #include "app/actionJson.h"
 #include "app/console.h"
+#include "app/parameters.h"
 #include "app/reading.h"
+#include "app/temporaryFolder.h"
 #include "app/valueText.h"
 #include "recordfile/Pieces.h"
 #include "recordfile/nearestName.h"
@@ -93,6 +95,8 @@ QString interactionText(const QJsonObject& body)
     const QJsonObject keywords = body["keywords"].toObject();
     if (!keywords.isEmpty())
         text += QString(" (keywords %1, global %2)").arg(shortText(keywords["local"]), shortText(keywords["global"]));
+    if (const QJsonObject parameter = body["parameter"].toObject(); !parameter.isEmpty())
+        text += QString(" (parameter %1 of %2)").arg(textOf(parameter, "name"), textOf(parameter, "function"));
     return text;
 }
 
@@ -329,6 +333,8 @@ template<class Page>
 bool print(const QString& path, const Recording& recording, const ActionView& view)
 {
     ActionJson json(view, static_cast<CFxValueContext>(recording.header.context), LoadedModule()->ListActionKinds());
+    const PromptParameters parameters = parametersOf(recording);
+    json.tell(parameters);
     Page page(path, recording, view.filter);
     const std::optional<QJsonObject> object = wantedObject(recording, view);
     bool begun = object || view.filter.takesAll();
@@ -379,10 +385,12 @@ int inspectRecording(const QString& path, const ActionView& view, bool json)
     Recording recording;
     if (!readOrComplain(path, recording))
         return kUnreadable;
-    if (json ? print<JsonPage>(path, recording, view) : print<TextPage>(path, recording, view))
-        return kDone;
-    complain(QString("%1: %2").arg(path == "-" ? "standard input" : path, missingText(recording, view.filter)));
-    return kFailed;
+    return orComplainOfFiles([&] {
+        if (json ? print<JsonPage>(path, recording, view) : print<TextPage>(path, recording, view))
+            return kDone;
+        complain(QString("%1: %2").arg(path == "-" ? "standard input" : path, missingText(recording, view.filter)));
+        return kFailed;
+    });
 }
 
 } // namespace inkmacro

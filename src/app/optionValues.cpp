@@ -116,7 +116,11 @@ void takeMacro(CommandLine& line, const QString& path)
 
 QStringList recordingLanguages()
 {
-    return ofTargets(codeOf);
+    QStringList codes;
+    for (const TargetRow& row : targetTable)
+        if (isRecorders(row.target))
+            codes.append(codeOf(row));
+    return codes;
 }
 
 void takeRecordingLanguage(CommandLine& line, const QString& number)

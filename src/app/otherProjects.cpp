@@ -27,10 +27,12 @@ QString foreignFile(const Job& job)
     const QStringList names = job.projectNames();
     const QStringList own = names.filter(mark);
     const QDir folder = macro.dir();
-    if (own.isEmpty() || !folder.exists())
+    if (names.isEmpty() || !folder.exists())
         return {};
-    const QString ending = QString(own.front()).remove(mark);
-    for (const QString& name : folder.entryList({'*' + ending}, QDir::Files, QDir::Name)) {
+    const QString ending = QString(own.value(0)).remove(mark);
+    const QStringList likeOwn =
+        own.isEmpty() ? QStringList() : folder.entryList({'*' + ending}, QDir::Files, QDir::Name);
+    for (const QString& name : likeOwn) {
         Job other = job;
         other.macro = folder.filePath(name.chopped(ending.length()) + '.' + macro.suffix());
         if (name != QString(own.front()).replace(mark, macro.baseName()) && allExist(other.projectFiles()))

@@ -16,6 +16,13 @@ struct TableSizes
     std::map<CFxString, double> widths;
 };
 
+/// The objects that a prompt for a selection stood for.
+struct AskedSelection
+{
+    std::uint32_t command; ///< that the prompt belongs to
+    std::set<OdDbHandle> objects;
+};
+
 /// What one conversion knows. The walk owns it, and every function that converts something takes it first. There is no
 /// language in it.
 class Conversion
@@ -70,6 +77,8 @@ public:
     OdDbHandle lastFinished;
     /// In a repaired macro also those that have an action each.
     std::set<OdDbHandle> finished;
+    /// The last one.
+    std::optional<AskedSelection> askedSelection;
     /// The descriptions of blocks that were recorded last.
     std::map<OdDbHandle, CFxString> blockDescriptions;
 

@@ -32,14 +32,6 @@ const Fault kOutOfReach{"EmitGetLayer",
                         {Target::Cpp, Target::CSharp, Target::VbNet, Target::CppCom},
                         "a layer is declared in the block of a former command"};
 
-/// Spells a name from its parts; looks up no variable and takes no number.
-CFxString variableOf(const OdRxClass* cls, const OdDbObjectId& id, std::uint32_t ordinal)
-{
-    const auto view = odrxQuery<OdDbViewTableRecord>(id.openObject().get());
-    return view && view->isPaperspaceView() ? QStringLiteral("sheetnamedview") + QString::number(ordinal)
-                                            : NumberedVariable(cls, ordinal);
-}
-
 } // namespace
 
 OdDbObjectId IdOf(const OdDbHandle& handle)
@@ -105,9 +97,21 @@ const ActionEntry* Names::FindAs(const OdDbHandle& handle, const OdRxClass* cls)
     return entry && IsOtherClass(*entry, cls) && SpelledClass(*entry, cls) != cls ? nullptr : entry;
 }
 
-CFxString Names::DeclaredName(const ActionEntry& entry)
+CFxString Names::DeclaredName(const ActionEntry& entry) const
 {
-    return HasInterface(entry.cls) ? CFxString(NumberedVariable(entry.cls, entry.ordinal)) : CFxString();
+    return HasInterface(entry.cls) ? Owned(NumberedVariable(entry.cls, entry.ordinal)) : CFxString();
+}
+
+CFxString Names::Owned(const QString& variable) const
+{
+    return writer_.target == Target::Python ? "drawing." + variable : variable;
+}
+
+CFxString Names::VariableOf(const OdRxClass* cls, const OdDbObjectId& id, std::uint32_t ordinal) const
+{
+    const auto view = odrxQuery<OdDbViewTableRecord>(id.openObject().get());
+    return Owned(view && view->isPaperspaceView() ? QStringLiteral("sheetnamedview") + QString::number(ordinal)
+                                                  : NumberedVariable(cls, ordinal));
 }
 
 EntityList Names::ResolveNames(const CFxCustomActionData& handleArray, const CFxCustomActionData& classArray)
@@ -201,7 +205,7 @@ bool Names::NameVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxStri
     if (!HasInterface(cls))
         return false;
     const ActionEntry* const entry = FindAs(handle, cls);
-    name = variableOf(cls, IdOf(handle), entry ? entry->ordinal : ++objectCounter_);
+    name = VariableOf(cls, IdOf(handle), entry ? entry->ordinal : ++objectCounter_);
     return !entry;
 }
 
@@ -243,7 +247,7 @@ Statement Names::EmitNoteOfLeader(const OdDbHandle& note, const OdDbHandle& lead
 CFxString Names::NameAdded(const ActionEntry& entry, const OdRxClass* cls, const OdDbObjectId& id)
 {
     added_[id.getHandle()] = {cls, entry.ordinal};
-    return variableOf(cls, id, entry.ordinal);
+    return VariableOf(cls, id, entry.ordinal);
 }
 
 QString Names::AddedVariable(const OdDbObjectId& id) const
@@ -251,7 +255,7 @@ QString Names::AddedVariable(const OdDbObjectId& id) const
     const auto found = added_.find(id.getHandle());
     return id.isNull() || found == added_.end() || !FindEntry(id.getHandle())
                ? QString()
-               : variableOf(found->second.cls, id, found->second.ordinal).toQString();
+               : VariableOf(found->second.cls, id, found->second.ordinal).toQString();
 }
 
 QString Names::AddedOrFetched(const OdDbObjectId& id, Statement& fetch)
@@ -270,7 +274,7 @@ QString Names::AddedOrFetched(const OdDbObjectId& id, Statement& fetch)
 QString Names::KnownVariable(const OdDbHandle& handle) const
 {
     const ActionEntry* const entry = FindEntry(handle);
-    return entry ? variableOf(entry->cls, IdOf(handle), entry->ordinal).toQString() : QString();
+    return entry ? VariableOf(entry->cls, IdOf(handle), entry->ordinal).toQString() : QString();
 }
 
 const OdRxClass* Names::KnownClass(const OdDbHandle& handle) const
@@ -288,7 +292,7 @@ const OdRxClass* Names::DeclaredClass(const OdDbHandle& handle) const
 CFxString Names::LendVariable(const OdDbHandle& handle, const OdRxClass* cls)
 {
     lent_.insert(handle);
-    return variableOf(cls, IdOf(handle), RegisterObject(handle, cls).ordinal);
+    return VariableOf(cls, IdOf(handle), RegisterObject(handle, cls).ordinal);
 }
 
 void Names::TakeBack(const OdDbHandle& handle)

@@ -36,8 +36,9 @@ public:
     /// The same for a statement that only objects of that class have; null in a repaired macro for an object that is
     /// declared as another one.
     const ActionEntry* FindAs(const OdDbHandle& handle, const OdRxClass* cls) const;
-    /// The name that a declaration gives the entry; empty for a class without an interface. Looks nothing up.
-    static CFxString DeclaredName(const ActionEntry& entry);
+    /// The name of the variable that a declaration gives the entry; empty for a class without an interface. Looks
+    /// nothing up.
+    CFxString DeclaredName(const ActionEntry& entry) const;
     /// Notes that no statement inserts the object: its variable has no value.
     void SetUnmade(const OdDbHandle& handle) { unmade_.insert(handle); }
     bool IsUnmade(const OdDbHandle& handle) const { return unmade_.contains(handle); }
@@ -143,6 +144,10 @@ protected:
     ActionFaults& faults_;
 
 private:
+    /// In Python the variables are attributes of the drawing.
+    CFxString Owned(const QString& variable) const;
+    /// Spells a name from its parts; looks up no variable and takes no number.
+    CFxString VariableOf(const OdRxClass* cls, const OdDbObjectId& id, std::uint32_t ordinal) const;
     /// The name of the object's variable; whether it is a new one, which a statement has to fetch.
     bool NameVariable(const OdDbHandle& handle, const OdRxClass* cls, CFxString& name);
 

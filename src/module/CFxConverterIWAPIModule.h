@@ -105,9 +105,9 @@ class CFxConverterIWAPIModule : public OdRxModule
 {
 public:
     /// Writes the recording as a macro to `path` and the project around it beside that file.
-    /// `language`: 0 C++ add-in, 1 C#, 2 JavaScript page, 3 VB.NET, 4 C++ COM add-in, 5 VBA. `mode`: 1 replays prompts
-    /// and selections. `context` is handed to the getters of property records as it is.
-    /// Gives kFxSuccess or kFxFailure; after a failure in the recording no macro file is left.
+    /// `language`: 0 C++ add-in, 1 C#, 2 JavaScript page, 3 VB.NET, 4 C++ COM add-in, 5 VBA, 6 Python. `mode`: 1
+    /// replays prompts and selections. `context` is handed to the getters of property records as it is. Gives
+    /// kFxSuccess or kFxFailure; after a failure in the recording no macro file is left.
     virtual std::int32_t ConvertRecording(const CFxString& path, std::uint32_t language, std::uint32_t mode,
                                           CFxValueContext context, const CFxActionArray& actions) = 0;
 

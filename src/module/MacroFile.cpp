@@ -6,12 +6,15 @@
 
 #include <QFileInfo>
 
+#include <utility>
 #include <variant>
 
 using namespace inkmacro;
 
-MacroFile::MacroFile(QTextStream& stream, const QString& path, Target target, bool repairs, bool notesFaults)
+MacroFile::MacroFile(QTextStream& stream, const QString& path, Target target, bool repairs, bool notesFaults,
+                     CommandFunctions* functions)
     : name_(QFileInfo(path).fileName()),
+      functions_(functions),
       notesLines_(GetFxSystemServices()->Notes().WantsLines()),
       stream_(stream),
       divides_(MacroText::divides(target, repairs)),
@@ -20,9 +23,56 @@ MacroFile::MacroFile(QTextStream& stream, const QString& path, Target target, bo
 {
 }
 
+void MacroFile::beginCommand(RecordedCommand command)
+{
+    writeFunction();
+    held_ = std::move(command);
+}
+
+void MacroFile::endCommand()
+{
+    writeFunction();
+}
+
+void MacroFile::endActions()
+{
+    if (functions_)
+        writeFunction();
+}
+
+void MacroFile::hold(const Statement& statements)
+{
+    if (statements.isEmpty())
+        return;
+    // Outside of commands each action has a number of its own.
+    const std::uint32_t child = held_.isCommand ? next_.child : static_cast<std::uint32_t>(held_.actions.size());
+    held_.actions.push_back({child, statements});
+    heldOrigins_.push_back(next_);
+}
+
+void MacroFile::writeFunction()
+{
+    const RecordedCommand command = std::exchange(held_, {.name = {}, .isCommand = false});
+    const std::vector<Origin> origins = std::exchange(heldOrigins_, {});
+    if (command.actions.empty() && command.prompts.empty())
+        return;
+    const std::uint32_t action = origins.empty() ? action_ : origins.front().action;
+    for (const auto& [number, text] : functions_->function(command)) {
+        // What holds actions together that are in no command is none of theirs.
+        const bool isFrame = number == CommandFunctions::kBesideFunction || !command.isCommand;
+        next_ = number >= 0
+                    ? origins[static_cast<std::size_t>(number)]
+                    : Origin{isFrame ? CFxMacroPart::kFrame : CFxMacroPart::kBlock, isFrame ? Origin::kNone : action};
+        put(Kind::Statements, text);
+    }
+}
+
 void MacroFile::write(const Statement& statements)
 {
-    write(statements, Kind::Statements);
+    if (functions_)
+        hold(statements);
+    else
+        write(statements, Kind::Statements);
 }
 
 void MacroFile::writeFrame(const Statement& frame)
@@ -45,8 +95,8 @@ void MacroFile::write(const Statement& statements, Kind kind)
         from = note.offset;
         if (const auto* const fault = std::get_if<const Fault*>(&note.what))
             put(**fault);
-        else
-            put(std::get<LateText>(note.what));
+        else if (const auto* const late = std::get_if<LateText>(&note.what))
+            put(*late);
     }
     put(kind, text.mid(from));
 }

@@ -2,8 +2,11 @@
 
 #include "module/WriteBehind.h"
 #include "statements/Statement.h"
+#include "targets/CommandFunctions.h"
 
 #include <QString>
+
+#include <vector>
 
 class QTextStream;
 
@@ -13,8 +16,10 @@ class QTextStream;
 class MacroFile
 {
 public:
-    /// `path` is the file's. The notes of faults hold its name.
-    MacroFile(QTextStream& stream, const QString& path, inkmacro::Target target, bool repairs, bool notesFaults);
+    /// `path` is the file's. The notes of faults hold its name. With `functions` statements are held until their
+    /// command ends, outside of commands until the next one begins.
+    MacroFile(QTextStream& stream, const QString& path, inkmacro::Target target, bool repairs, bool notesFaults,
+              inkmacro::CommandFunctions* functions = nullptr);
     MacroFile(const MacroFile&) = delete;
     MacroFile& operator=(const MacroFile&) = delete;
 
@@ -23,9 +28,16 @@ public:
     /// What is written next is that part of the action, or of that child of the command that it is.
     void begin(CFxMacroPart part, std::uint32_t child = inkmacro::Origin::kNone, const OdDbHandle& made = {})
     {
-        if (notesLines_)
+        if (notesLines_ || functions_)
             next_ = {part, action_, child, made};
     }
+    /// Whether commands become functions.
+    bool makesFunctions() const { return functions_ != nullptr; }
+    /// What is written until endCommand() is the function of that command. Only where commands become functions.
+    void beginCommand(inkmacro::RecordedCommand command);
+    void endCommand();
+    /// No action comes any more, but the foot may.
+    void endActions();
     /// Writes statements with all that is made late.
     void write(const Statement& statements);
     /// Writes the declarations of objects, each on lines of its own. Their names are numbered through the macro, so
@@ -42,6 +54,8 @@ private:
     using Kind = inkmacro::MacroText::Kind;
 
     void write(const Statement& statements, Kind kind);
+    void hold(const Statement& statements);
+    void writeFunction();
     void put(Kind kind, QStringView text);
     void put(const inkmacro::Fault& fault) { behind_.noteFault(fault); }
     void put(const inkmacro::LateText& text);
@@ -50,6 +64,10 @@ private:
     void endLines();
 
     const QString name_;
+    inkmacro::CommandFunctions* const functions_;
+    /// The present command, or the actions since the last one.
+    inkmacro::RecordedCommand held_{.name = {}, .isCommand = false};
+    std::vector<inkmacro::Origin> heldOrigins_; ///< one an action
     const bool notesLines_;
     QTextStream& stream_;
     const bool divides_;

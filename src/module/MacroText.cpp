@@ -70,7 +70,12 @@ void MacroText::Found::add(const Found& other)
 }
 
 MacroText::MacroText(Target target, bool repairs, bool notesFaults, bool notesLines, const QString& folder)
-    : target_(target), repairs_(repairs), notesFaults_(notesFaults), notesLines_(notesLines), locals_(target)
+    // Python has no declarations, so nothing to tell apart.
+    : target_(target),
+      repairs_(repairs && target != Target::Python),
+      notesFaults_(notesFaults),
+      notesLines_(notesLines),
+      locals_(target)
 {
     if (divides(target, repairs))
         procedures_.emplace(target, folder);

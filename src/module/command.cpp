@@ -1,5 +1,6 @@
 // The children of a command as one block.
 
+#include "actions/entries.h"
 #include "host/db/OdDbClasses.h"
 #include "module/MacroFile.h"
 #include "module/codeNames.h"
@@ -88,7 +89,8 @@ struct CommandState
     std::map<unsigned, std::size_t> made; ///< in a repaired macro, by child: which added object the action makes
     std::size_t nextName = 0;
     std::deque<HeldStatement> statements;
-    std::deque<Sayer> sayers; ///< one a statement, when somebody wants to know
+    bool wantsSayers = false; ///< whether somebody wants to know
+    std::deque<Sayer> sayers; ///< then one a statement
     bool unnamedTarget = false;
     bool shapeStyle = false;
     bool allEmpty = true;
@@ -159,14 +161,14 @@ static void WriteDeclarations(Conversion& conversion, MacroFile& macro, const Co
 
 /// Whether some statement names a variable of the command ahead of a line that declares it, as the insertion of a
 /// viewport does.
-static bool LacksDeclarations(const CommandState& state, Target target)
+static bool LacksDeclarations(const Names& names, const CommandState& state, Target target)
 {
     QHash<QString, QString> declarations;
     for (std::size_t i = 0; i < state.added.size(); ++i) {
         QString declaration = state.declarations[i].text().trimmed();
         if (declaration.endsWith(';'))
             declaration.chop(1);
-        declarations.insert(Names::DeclaredName(state.added[i]), declaration);
+        declarations.insert(names.DeclaredName(state.added[i]), declaration);
     }
     const auto declares = [](QStringView line, const QString& declaration) {
         const bool begins = line.startsWith(declaration);
@@ -247,7 +249,7 @@ static bool ConvertChild(Conversion& conversion, const OdRxObjectPtr& child, uns
     if (!current.isEmpty()) {
         state.allEmpty = false;
         state.statements.emplace_back(std::move(current));
-        if (GetFxSystemServices()->Notes().WantsLines())
+        if (state.wantsSayers)
             state.sayers.push_back(
                 {number, MakesHanded(conversion, child, number, state) ? conversion.lastFinished : OdDbHandle()});
     }
@@ -276,10 +278,39 @@ static void ConvertChildren(Conversion& conversion, const CFxActionArray& childr
             return LoseBehind(conversion, children, i);
 }
 
-std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxString&, const CFxActionArray& children)
+static std::vector<inkmacro::Prompt> ReadPrompts(const CFxActionArray& children)
+{
+    std::vector<inkmacro::Prompt> prompts;
+    for (unsigned i = 0; i < children.length(); ++i) {
+        const auto interaction = odrxQuery<CFxUserInteraction>(children[i].get());
+        if (std::optional<inkmacro::Prompt> prompt = interaction ? ReadPrompt(*interaction) : std::nullopt) {
+            prompt->child = i;
+            prompts.push_back(*std::move(prompt));
+        }
+    }
+    return prompts;
+}
+
+/// The names of the objects that the command adds and that have a value.
+static QStringList MadeNames(const Conversion& conversion, const CommandState& state)
+{
+    QStringList names;
+    for (std::size_t i = 0; i < state.added.size(); ++i)
+        if (conversion.names().IsDeclared(state.handles[i]))
+            names.append(conversion.names().DeclaredName(state.added[i]));
+    return names;
+}
+
+std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxString& name,
+                            const CFxActionArray& children)
 {
     Writer& writer = conversion.writer;
     CommandState state;
+    state.wantsSayers = macro.makesFunctions() || GetFxSystemServices()->Notes().WantsLines();
+    inkmacro::RecordedCommand recorded{.name = name, .replays = conversion.replays};
+    if (macro.makesFunctions())
+        recorded.prompts = ReadPrompts(children);
+    const QScopedValueRollback<bool> answerable(writer.notesAnswerable, !recorded.prompts.empty());
     RegisterChildren(conversion, children, state);
     DeclareChildren(conversion, state);
     if (writer.repairs)
@@ -299,9 +330,14 @@ std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxS
     const bool grouped = !group.abandoned() && !state.unnamedTarget;
     const bool declares = !state.allEmpty && (writer.repairs || (grouped && !state.shapeStyle));
     const bool written = grouped && declares;
+    if (macro.makesFunctions()) {
+        recorded.made = MadeNames(conversion, state);
+        macro.beginCommand(std::move(recorded));
+    }
     if (declares)
         WriteDeclarations(conversion, macro, state);
-    else if (!state.declarations.empty() && writer.notesFaults && LacksDeclarations(state, writer.target))
+    else if (!state.declarations.empty() && writer.notesFaults &&
+             LacksDeclarations(conversion.names(), state, writer.target))
         state.statements.front() = HeldStatement(writer.faulty(state.statements.front().statement(), kUndeclared));
     macro.begin(CFxMacroPart::kBlock);
     if (written)
@@ -319,7 +355,9 @@ std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxS
     const Statement end = grouped ? group.close() : Statement();
     if (written)
         macro.write(end);
-    const bool hides = written && writer.target != Target::JavaScript && writer.target != Target::Vba;
+    const bool hides = written && inkmacro::hidesInBlocks(writer.target);
+    if (macro.makesFunctions())
+        macro.endCommand();
     conversion.names().EndCommand(hides);
     return kFxSuccess;
 }

@@ -21,13 +21,13 @@
 namespace {
 
 /// The byte order mark follows the host's setting and not the target: the codes of the two C++ targets, 0 and 4, ask
-/// for it. A repaired macro has one wherever it is not told otherwise how to read it: a page says so itself, and VBA
-/// takes it for text.
+/// for it. A repaired macro has one wherever it is not told otherwise how to read it: a page says so itself, VBA takes
+/// it for text, and Python reads UTF-8.
 bool wantsByteOrderMark(const Writer& writer)
 {
     using inkmacro::Target;
     if (writer.repairs)
-        return writer.target != Target::JavaScript && writer.target != Target::Vba;
+        return writer.target != Target::JavaScript && writer.target != Target::Vba && writer.target != Target::Python;
     return (RecordingLanguage() & ~4) == 0;
 }
 
@@ -68,9 +68,10 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
     }
 
     // Ends in front of the stream, whatever is thrown.
-    MacroFile macro(stream, path, writer.target, writer.repairs, writer.notesFaults);
+    MacroFile macro(stream, path, writer.target, writer.repairs, writer.notesFaults, frame->functions());
     writer.IndentLevel = 0;
     const bool hasSysVar = std::any_of(actions.begin(), actions.end(), isSysVar);
+    frame->setMacroPath(path);
     Statement header = frame->EmitFileHeader(inkmacro::projectName(path), hasSysVar);
     if (writer.target == inkmacro::Target::Vba && stream.generateByteOrderMark())
         header = writer.faulty(header, otherLanguage);
@@ -90,6 +91,7 @@ std::int32_t CFxConverterIWAPIImpl::Convert(const CFxString& path, const CFxActi
         macro.endAction();
     }
 
+    macro.endActions();
     // Written after a failure too, when the level may be out of balance: nobody reads that text.
     macro.writeFrame(frame->EmitFileFooter());
     macro.finish();

@@ -29,6 +29,7 @@ constexpr std::int32_t kNoCenterMark = 0;
 constexpr std::int32_t kCenterLines = 1;
 constexpr std::int32_t kCenterMark = 2;
 
+using inkmacro::Meaning;
 using enum inkmacro::Target;
 const inkmacro::Fault kTurnedRound{"EmitSetBoolProperty",
                                    {Cpp, CSharp, JavaScript, VbNet, CppCom, Vba},
@@ -37,9 +38,15 @@ const inkmacro::Fault kNoRadius{"EmitSetDoubleProperty",
                                 {Cpp, CSharp, JavaScript, VbNet, CppCom, Vba},
                                 "an area below zero gives a radius that is no number"};
 
-Statement setReal(const Change& change, double value)
+Statement setReal(const Change& change, double value, Meaning meaning = Meaning::None)
 {
-    return EmitSetDoubleProperty(change.writer, change.target, change.row.property, value);
+    return EmitSetDoubleProperty(change.writer, change.target, change.row.property, value, meaning);
+}
+
+template<Meaning meaning>
+Statement setAnyReal(const Change& change)
+{
+    return setReal(change, change.value.GetDouble(), meaning);
 }
 
 template<double (*radiusOf)(double)>
@@ -126,9 +133,10 @@ Statement setEnumValue(const Change& change)
                             numberOf(change.value));
 }
 
-Statement setText(const Change& change, const inkmacro::EscapedText& value, bool quoted)
+Statement setText(const Change& change, const inkmacro::EscapedText& value, bool quoted,
+                  Meaning meaning = Meaning::None)
 {
-    return EmitSetProperty(change.writer, change.target, change.row.property, value, quoted);
+    return EmitSetProperty(change.writer, change.target, change.row.property, value, quoted, meaning);
 }
 
 Statement setYesOrFirst(const Change& change)
@@ -165,6 +173,11 @@ Statement setEnumIfYes(const Change& change)
                                : QString();
 }
 
+Statement setContents(const Change& change, const CFxString& text)
+{
+    return setText(change, text, true, Meaning::Text);
+}
+
 Statement setDecimalSeparator(const Change& change, const CFxString& separator)
 {
     return EmitSetDecimalSeparator(change.writer, change.target, change.row.property, separator);
@@ -175,7 +188,7 @@ constexpr QLatin1String kMeasure("<>", 2);
 
 Statement setAffix(const Change& change, const CFxString& part)
 {
-    return part.toQString() == kMeasure ? QString() : setQuoted(change, part);
+    return part.toQString() == kMeasure ? QString() : setContents(change, part);
 }
 
 Statement setPrefixAndSuffix(const Change& change, const CFxString& parts)
@@ -183,7 +196,8 @@ Statement setPrefixAndSuffix(const Change& change, const CFxString& parts)
     const QString& whole = parts;
     const int measure = whole.indexOf(kMeasure);
     const auto set = [&](const char* property, const QString& part) {
-        return part.isEmpty() ? QString() : EmitSetProperty(change.writer, change.target, property, part, true);
+        return part.isEmpty() ? QString()
+                              : EmitSetProperty(change.writer, change.target, property, part, true, Meaning::Text);
     };
     if (measure < 0)
         return set("Prefix", whole);
@@ -260,7 +274,17 @@ Statement setYes(const Change& change, const CFxString& word)
 
 Statement setDoubled(const Change& change, const CFxString& text)
 {
-    return setText(change, inkmacro::doubleBackslashes(text), true);
+    return setText(change, inkmacro::doubleBackslashes(text), true, Meaning::Text);
+}
+
+Statement setUnquoted(const Change& change)
+{
+    const CFxString& text = change.value.GetString();
+    // Python does not take every number as it stands, "007" for one.
+    if (change.writer.target == Python && inkmacro::isNumber(text))
+        return setReal(change, text.toQString().toDouble(), Meaning::Length);
+    const Statement statement = setText(change, text, false);
+    return inkmacro::isNumber(text) ? statement : change.writer.mended(statement, inkmacro::textAsCode);
 }
 
 /// In the order of the drawing's numbers.
@@ -353,10 +377,11 @@ constexpr ValueForm arrowForm = forms::element.with(inkmacro::enums::dimensionAr
 constexpr ValueForm anyArrowForm = forms::choice.with(inkmacro::enums::dimensionArrowType);
 constexpr ValueForm markForm = forms::choice.with(inkmacro::enums::dimensionCenterMarkDisplay);
 
-constinit const ChangeKind real{[](const Change& change) { return setReal(change, change.value.GetDouble()); },
-                                forms::number};
-constinit const ChangeKind integer{[](const Change& change) { return setReal(change, change.value.GetInt32()); },
-                                   forms::whole};
+constinit const ChangeKind length{setAnyReal<Meaning::Length>, forms::number};
+constinit const ChangeKind angle{setAnyReal<Meaning::Angle>, forms::number};
+constinit const ChangeKind factor{setAnyReal<Meaning::Factor>, forms::number};
+constinit const ChangeKind integer{
+    [](const Change& change) { return setReal(change, change.value.GetInt32(), Meaning::Count); }, forms::whole};
 constinit const ChangeKind indexedReal{[](const Change& change) {
                                            return EmitSetIndexedDouble(change.writer, change.target,
                                                                        change.row.property, change.index,
@@ -446,23 +471,18 @@ constinit const ChangeKind quoted{[](const Change& change) { return setQuoted(ch
                                   forms::element};
 constinit const ChangeKind chosenQuoted{setChosen<setQuoted>, forms::chosen};
 constinit const ChangeKind anyQuoted{setChosen<setQuoted, anyText>, forms::word};
+constinit const ChangeKind contents{setChosen<setContents, anyText>, forms::word};
 constinit const ChangeKind doubledBackslashes{setChosen<setDoubled, anyText>, forms::word};
 constinit const ChangeKind affix{.statement = setChosen<setAffix, anyText>, .form = forms::word, .maySayNothing = true};
 constinit const ChangeKind prefixAndSuffix{
     .statement = setChosen<setPrefixAndSuffix, anyText>, .form = forms::word, .maySayNothing = true};
-constinit const ChangeKind escaped{
-    [](const Change& change) {
-        return setText(change, inkmacro::escapeText(change.writer.target, change.value.GetString()), true);
-    },
-    forms::text};
-constinit const ChangeKind unquoted{[](const Change& change) {
-                                        const CFxString& text = change.value.GetString();
-                                        const Statement statement = setText(change, text, false);
-                                        return inkmacro::isNumber(text)
-                                                   ? statement
-                                                   : change.writer.mended(statement, inkmacro::textAsCode);
-                                    },
-                                    forms::text};
+constinit const ChangeKind escaped{[](const Change& change) {
+                                       return setText(
+                                           change, inkmacro::escapeText(change.writer.target, change.value.GetString()),
+                                           true, Meaning::Text);
+                                   },
+                                   forms::text};
+constinit const ChangeKind unquoted{setUnquoted, forms::text};
 constinit const ChangeKind integerText{[](const Change& change) { return setText(change, integerWord(change), false); },
                                        forms::whole};
 

@@ -8,10 +8,12 @@
 // that begin with "any" take a plain value as well.
 namespace kinds {
 
-// Numbers.
-extern const ChangeKind real;
+// Numbers. What they are to the user tells which answers they may be.
+extern const ChangeKind length;
+extern const ChangeKind angle;
+extern const ChangeKind factor;
 extern const ChangeKind integer;
-/// With the row's operation, by number of a repeated property.
+/// A length, with the row's operation, by number of a repeated property.
 extern const ChangeKind indexedReal;
 /// `Radius` of a circle, which the host also records as what depends on it.
 extern const ChangeKind radiusFromArea;
@@ -46,6 +48,7 @@ extern const ChangeKind decimalSeparator; ///< by the separator itself
 extern const ChangeKind quoted; ///< the element's word
 extern const ChangeKind chosenQuoted;
 extern const ChangeKind anyQuoted;
+extern const ChangeKind contents;           ///< the same, of what the user writes
 extern const ChangeKind doubledBackslashes; ///< of any text, in all targets
 /// The part of a dimension's text that stands on one side of the measure; one that holds but the measure's sign is not
 /// written.
@@ -53,7 +56,7 @@ extern const ChangeKind affix;
 /// Both parts in one text, the measure's sign between them: sets `Prefix` and `Suffix`. Without the sign all is prefix.
 extern const ChangeKind prefixAndSuffix;
 extern const ChangeKind escaped;  ///< a plain text with what the target's quotes need
-extern const ChangeKind unquoted; ///< a plain text as it stands
+extern const ChangeKind unquoted; ///< a length that is recorded as a plain text, as it stands
 extern const ChangeKind integerText;
 
 // Looks. Numbers and names come in any form where nothing else is said.

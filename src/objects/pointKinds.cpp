@@ -7,17 +7,18 @@
 
 namespace {
 
+template<inkmacro::Meaning meaning>
 Statement changePoint(const Change& change)
 {
     const QString& pair = change.row.property;
     return EmitChangePoint(change.writer, change.target, change.row.axis, "Get" + pair, "Set" + pair,
-                           change.value.GetDouble(), change.index);
+                           change.value.GetDouble(), change.index, meaning);
 }
 
 Statement changeScale(const Change& change)
 {
     if (!RecordsIn(inkmacro::Target::JavaScript)) {
-        Statement text = changePoint(change);
+        Statement text = changePoint<inkmacro::Meaning::Factor>(change);
         return change.writer.target == inkmacro::Target::JavaScript
                    ? change.writer.faulty(std::move(text), otherLanguage)
                    : text;
@@ -73,8 +74,8 @@ namespace kinds {
 
 // They are ready before the rows of other files, which copy them.
 
-constinit const ChangeKind point{changePoint, forms::number, "XYZ"};
-constinit const ChangeKind indexedPoint{changePoint, forms::number, "XYZ", true};
+constinit const ChangeKind point{changePoint<inkmacro::Meaning::None>, forms::number, "XYZ"};
+constinit const ChangeKind indexedPoint{changePoint<inkmacro::Meaning::None>, forms::number, "XYZ", true};
 constinit const ChangeKind scale{changeScale, forms::number, "XYZ"};
 constinit const ChangeKind position{changePair<&EmitChangePosition>, forms::number, "XYZ"};
 constinit const ChangeKind firstPoint{changePair<&EmitChangeFirstPoint>, forms::number, "XYZ"};

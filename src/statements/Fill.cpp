@@ -3,11 +3,13 @@
 #include "host/rx/OdError.h"
 #include "statements/Fault.h"
 #include "statements/LineEnd.h"
+#include "statements/pythonLiterals.h"
 #include "statements/quoting.h"
 #include "statements/wording.h"
 #include "statements/writtenValues.h"
 
 #include <algorithm>
+#include <array>
 #include <type_traits>
 
 namespace inkmacro {
@@ -28,7 +30,7 @@ constexpr qsizetype longestGrowth = 16 * 1024 * 1024;
 template<class T>
 qsizetype lengthAt(const QString& marker, T value)
 {
-    if constexpr (std::is_same_v<T, QStringView> || std::is_same_v<T, QLatin1String>) {
+    if constexpr (std::is_same_v<T, QStringView> || std::is_same_v<T, QLatin1String> || std::is_same_v<T, Fill::Text>) {
         return room(value);
     }
     return filledByQt(marker, value).size();
@@ -96,6 +98,11 @@ bool isClosing(QStringView value)
     return !value.isEmpty() && value.front() != u'L' && value.front().digitValue() == -1;
 }
 
+bool isClosing(Fill::Text text)
+{
+    return isClosing(text.value);
+}
+
 bool isClosing(QLatin1String value)
 {
     return !value.isEmpty() && value.front() != u'L' && QChar(value.front()).digitValue() == -1;
@@ -136,32 +143,115 @@ template Fill& Fill::add(qlonglong);
 template Fill& Fill::add(qulonglong);
 template Fill& Fill::add(Long);
 template Fill& Fill::add(Short);
+template Fill& Fill::add(Text);
 
 Fill& Fill::lineEnd()
 {
     return add(QStringView(LineEnd));
 }
 
-Fill& Fill::text(QStringView value)
+Fill& Fill::word(QStringView value)
 {
     percent_ = percent_ || std::find(value.begin(), value.end(), u'%') != value.end();
     return add(value);
 }
 
-Fill& Fill::text(QString&& value)
+Fill& Fill::word(QString&& value)
 {
     kept_.push_back(std::move(value));
-    return text(QStringView(kept_.back()));
+    return word(QStringView(kept_.back()));
 }
 
-Fill& Fill::text(QLatin1String value)
+Fill& Fill::word(QLatin1String value)
 {
     percent_ = percent_ || value.contains(QLatin1Char('%'));
     return add(value);
 }
 
-Fill& Fill::shortReal(double value)
+Fill& Fill::word(const Statement& value)
 {
+    if (value.hasNotes()) {
+        noted_.push_back({values_.size(), value.notes()});
+    }
+    return word(value.text());
+}
+
+Fill& Fill::word(Statement&& value)
+{
+    if (value.hasNotes()) {
+        noted_.push_back({values_.size(), value.notes()});
+    }
+    return word(QString(value.text()));
+}
+
+Fill& Fill::addAnswerable(QString words, Answerable&& value)
+{
+    if (mode_.notesAnswerable && value.meaning != Meaning::None) {
+        value.length = static_cast<int>(words.size());
+        noted_.push_back({values_.size(), {StatementNote{0, std::move(value)}}});
+    }
+    return word(std::move(words));
+}
+
+Fill& Fill::text(QStringView value, Meaning meaning)
+{
+    if (!isPython()) {
+        percent_ = percent_ || std::find(value.begin(), value.end(), u'%') != value.end();
+        escapes_ = escapes_ || ((mode_.repairs || mode_.notesFaults) && !isPlain(value));
+        return add(Text{value});
+    }
+    return addAnswerable(pythonText(value), {.meaning = meaning, .length = 0, .text = value.toString()});
+}
+
+Fill& Fill::text(QString&& value, Meaning meaning)
+{
+    kept_.push_back(std::move(value));
+    return text(QStringView(kept_.back()), meaning);
+}
+
+Fill& Fill::text(QLatin1String value)
+{
+    return text(QString(value));
+}
+
+Fill& Fill::text(const EscapedText& value, Meaning meaning)
+{
+    if (isPython()) {
+        return text(QStringView(value.meant), meaning);
+    }
+    if (mode_.notesFaults && value.written != value.meant) {
+        meant_.push_back({values_.size(), value.meant});
+    }
+    return text(QStringView(value.written), meaning);
+}
+
+Fill& Fill::comment(const CFxString& name)
+{
+    return isPython() ? word(pythonComment(name)) : word(name);
+}
+
+Fill& Fill::number(qlonglong value, Meaning meaning)
+{
+    if (!isPython() || meaning == Meaning::None) {
+        return add(value);
+    }
+    return addAnswerable(QString::number(value),
+                         {.meaning = meaning, .length = 0, .numbers = {static_cast<double>(value)}});
+}
+
+Fill& Fill::real(double value, Meaning meaning)
+{
+    if (!isPython()) {
+        return add(Long{value});
+    }
+    return addAnswerable(pythonReal(value), {.meaning = meaning, .length = 0, .numbers = {value}});
+}
+
+Fill& Fill::shortReal(double value, Meaning meaning)
+{
+    if (isPython()) {
+        return real(value, meaning);
+    }
     if ((mode_.repairs || mode_.notesFaults) && losesDigits(value)) {
         if (mode_.repairs) {
             return real(value);
@@ -173,28 +263,39 @@ Fill& Fill::shortReal(double value)
     return add(Short{value});
 }
 
-Fill& Fill::text(const EscapedText& value)
+Fill& Fill::reals(std::initializer_list<double> values, Meaning meaning)
 {
-    if (mode_.notesFaults && value.written != value.meant) {
-        meant_.push_back({values_.size(), value.meant});
+    if (!isPython()) {
+        for (const double value : values) {
+            real(value);
+        }
+        return *this;
     }
-    return text(QStringView(value.written));
+    Answerable point{.meaning = meaning, .length = 0, .axes = static_cast<int>(values.size())};
+    std::copy(values.begin(), values.end(), point.numbers.begin());
+    return addAnswerable(pythonReals(values), std::move(point));
 }
 
-Fill& Fill::text(const Statement& value)
+Fill& Fill::shortReals(std::initializer_list<double> values, Meaning meaning)
 {
-    if (value.hasNotes()) {
-        noted_.push_back({values_.size(), value.notes()});
+    if (isPython()) {
+        return reals(values, meaning);
     }
-    return text(value.text());
+    for (const double value : values) {
+        shortReal(value);
+    }
+    return *this;
 }
 
-Fill& Fill::text(Statement&& value)
+Fill& Fill::shortCoordinate(const OdGePoint3d& value, int axis)
 {
-    if (value.hasNotes()) {
-        noted_.push_back({values_.size(), value.notes()});
+    const std::array coordinates{value.x, value.y, value.z};
+    const double coordinate = coordinates[static_cast<std::size_t>(axis)];
+    if (!isPython()) {
+        return shortReal(coordinate);
     }
-    return text(QString(value.text()));
+    return addAnswerable(pythonReal(coordinate),
+                         {.meaning = Meaning::Point, .length = 0, .numbers = coordinates, .axes = 3, .axis = axis});
 }
 
 Statement Fill::str() const
@@ -205,7 +306,7 @@ Statement Fill::str() const
     const int used = std::min(values_.size(), static_cast<int>(template_->ranks_.size()));
     if (mode_.repairs) {
         // Most statements: markers in values mean nothing here.
-        if (noted_.empty() && most_ <= longestText && needsNoEscapes(used))
+        if (noted_.empty() && most_ <= longestText && !escapes_)
             return inOnePass(used);
         Statement::Notes notes;
         QString outcome = escaped(used, noted_.empty() ? nullptr : &notes);
@@ -213,7 +314,7 @@ Statement Fill::str() const
     }
     QString text = filled(used);
     Statement outcome = noted_.empty() ? Statement(std::move(text)) : Statement(std::move(text), notesOf(used));
-    if (mode_.notesFaults && (fault_ || percent_ || rounded_ >= 0 || template_->quotes_)) {
+    if (mode_.notesFaults && (fault_ || percent_ || rounded_ >= 0 || escapes_)) {
         noteFaults(outcome, used);
     }
     return outcome;
@@ -227,7 +328,7 @@ QString Fill::filled(int used) const
     return fitsOnePass() ? inOnePass(used) : valueByValue();
 }
 
-/// With values in which no markers are read; only a repaired macro has those between quotes escaped.
+/// With values in which no markers are read; only a repaired macro has texts escaped.
 QString Fill::escaped(int used, Statement::Notes* notes) const
 {
     QString out;
@@ -242,7 +343,7 @@ QString Fill::escaped(int used, Statement::Notes* notes) const
         if (notes) {
             addNotes(*notes, piece.rank, out.size());
         }
-        if (mode_.repairs && piece.quoted) {
+        if (mode_.repairs && std::holds_alternative<Text>(values_[piece.rank])) {
             appendQuoted(out, value, *mode_.target);
         } else {
             out += value;
@@ -280,22 +381,21 @@ void Fill::noteFaults(Statement& outcome, int used) const
     if (percent_ && hasReadMarker(used)) {
         outcome.addFault(kReadMarker);
     }
-    if (template_->quotes_) {
+    if (escapes_) {
         noteBrokenQuotes(outcome, used);
     }
 }
 
-/// The line end that a literal's own fault puts between quotes is no text of the user's.
 bool Fill::breaksItsQuotes(const Template::Piece& piece, int used) const
 {
     const auto* const text =
-        piece.quoted && piece.rank < used ? std::get_if<QStringView>(&values_[piece.rank]) : nullptr;
-    if (!text || text->data() == LineEnd.constData() || isPlain(*text)) {
+        piece.rank != Template::noMarker && piece.rank < used ? std::get_if<Text>(&values_[piece.rank]) : nullptr;
+    if (!text || isPlain(text->value)) {
         return false;
     }
     const auto escaped =
         std::find_if(meant_.begin(), meant_.end(), [&](const Meant& meant) { return meant.rank == piece.rank; });
-    return breaksQuotes(*text, escaped == meant_.end() ? *text : QStringView(escaped->text), *mode_.target);
+    return breaksQuotes(text->value, escaped == meant_.end() ? text->value : QStringView(escaped->text), *mode_.target);
 }
 
 /// A statement may have many lines, and the head of a macro has: the fault is of each line where such a text stands.
@@ -321,21 +421,6 @@ void Fill::noteBrokenQuotes(Statement& outcome, int used) const
         }
         at += isFilled ? std::visit(writtenLength, values_[piece.rank]) : piece.length;
     }
-}
-
-/// Whether each text that comes to stand between quotes is plain.
-bool Fill::needsNoEscapes(int used) const
-{
-    const auto isPlainText = [](const auto& value) {
-        if constexpr (std::is_same_v<std::decay_t<decltype(value)>, QStringView>)
-            return isPlain(value);
-        else
-            return !std::is_same_v<std::decay_t<decltype(value)>, QLatin1String>;
-    };
-    return !template_->quotes_ ||
-           std::none_of(template_->pieces_.begin(), template_->pieces_.end(), [&](const Template::Piece& piece) {
-               return piece.quoted && piece.rank < used && !std::visit(isPlainText, values_[piece.rank]);
-           });
 }
 
 /// Whether a value stands in a marker that another one holds.

@@ -17,13 +17,15 @@ std::vector<const Phrase*>& registry()
 
 const char* Words::in(Target target) const
 {
-    return std::array{cpp, csharp, javascript, vbNet, cppCom, vba}[static_cast<std::size_t>(target)];
+    return std::array{cpp, csharp, javascript, vbNet, cppCom, vba, python}[static_cast<std::size_t>(target)];
 }
 
 const Template* LazyTemplate::cut() const
 {
     const QByteArray reworded = reword_ ? reword_(literal_) : QByteArray();
-    auto made = std::make_unique<const Template>(reword_ ? reworded.constData() : literal_, target_);
+    auto made = std::make_unique<const Template>(reword_ ? reworded.constData() : literal_,
+                                                 target_ == Target::Python ? Template::Markers::Counted
+                                                                           : Template::Markers::Ranked);
     const Template* kept = nullptr;
     if (kept_.compare_exchange_strong(kept, made.get(), std::memory_order_acq_rel, std::memory_order_acquire)) {
         kept = made.release();
@@ -40,6 +42,7 @@ Phrase::Phrase(const char* name, const Words& words)
           {words.vbNet, Target::VbNet},
           {words.cppCom, Target::CppCom},
           {words.vba, Target::Vba},
+          {words.python, Target::Python},
       }}
 {
     registry().push_back(this);

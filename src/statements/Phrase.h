@@ -12,7 +12,8 @@
 namespace inkmacro {
 
 /// The literals of one statement, Latin-1, one a target. A null literal is a hole: the target has no such statement,
-/// and filling it yields empty text.
+/// and filling it yields empty text. Of the values of an operation each goes to the next marker, whatever its number;
+/// in Python to that of its number, where those that other targets need have none.
 struct Words
 {
     const char* cpp = nullptr;
@@ -21,6 +22,7 @@ struct Words
     const char* javascript = nullptr;
     const char* vbNet = nullptr;
     const char* vba = nullptr;
+    const char* python = nullptr;
 
     const char* in(Target target) const;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "statements/Answerable.h"
+
 #include <QString>
 
 #include <functional>
@@ -19,8 +21,8 @@ using LateText = std::function<QString(std::size_t part)>;
 struct StatementNote
 {
     /// A fault is of the line that its place comes to stand on. A late text is made, and stands at its place, when the
-    /// statement is written.
-    using What = std::variant<const Fault*, LateText>;
+    /// statement is written. An answerable value begins there.
+    using What = std::variant<const Fault*, LateText, Answerable>;
 
     int offset; ///< in the text
     What what;

@@ -18,7 +18,8 @@
     ROW(CppCom, CPPCOM, "cppcom", "C++ COM", "cpp",                                                                    \
         "IwAddinConnection.h IwAddinConnection.cpp %1.h resource.h stdafx.h stdafx.cpp smartvars.h %1.def %1ps.def "   \
         "%1.idl IwAddinConnection.rgs %1.rgs %1.rc %1.vcproj typeconverter.h")                                         \
-    ROW(Vba, Vba, "vba", "VBA", "bas", "")
+    ROW(Vba, Vba, "vba", "VBA", "bas", "")                                                                             \
+    ROW(Python, Python, "python", "Python", "py", "pyproject.toml")
 
 namespace inkmacro {
 

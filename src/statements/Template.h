@@ -1,24 +1,24 @@
 #pragma once
 
-#include "statements/Target.h"
-
 #include <QString>
 #include <QStringView>
 
-#include <optional>
 #include <vector>
 
 namespace inkmacro {
 
 /// A Latin-1 literal, cut into plain text and markers. Markers are those of QString::arg: `%`, an optional `L` for the
-/// locale's form of a number, one or two digits.
+/// locale's form of a number, one or two digits. Counted markers leave values out where there is none of their number.
 class Template
 {
 public:
-    /// Of a language in which a statement stands; without one, no text is known to stand between quotes.
-    explicit Template(const char* latin1, std::optional<Target> language = {});
-
-    std::optional<Target> language() const { return language_; }
+    /// Which of the values that come goes to a marker.
+    enum class Markers
+    {
+        Ranked, ///< the next one to the lowest that is left
+        Counted ///< the one of that number
+    };
+    explicit Template(const char* latin1, Markers markers = Markers::Ranked);
 
 private:
     friend class Fill;
@@ -28,11 +28,11 @@ private:
     {
         int from;
         int length;
-        int rank;            ///< of the marker, noMarker for plain text
-        bool quoted = false; ///< a marker between quotes of the language
+        int rank; ///< of the marker, noMarker for plain text
     };
 
-    /// One marker number. The numbers are ranked upwards from 0; values go to the ranks in turn.
+    /// One marker number. The numbers are ranked upwards from 0, or one less when they are counted; values go to the
+    /// ranks in turn.
     struct Rank
     {
         int places = 0;
@@ -43,12 +43,10 @@ private:
 
     static constexpr int noMarker = -1;
 
-    std::optional<Target> language_;
     QString text_;
     std::vector<Piece> pieces_;
     std::vector<Rank> ranks_;
-    bool local_ = false;  ///< some marker has an L
-    bool quotes_ = false; ///< some marker stands between quotes
+    bool local_ = false; ///< some marker has an L
 };
 
 /// A marker in a text.

@@ -7,7 +7,8 @@
 
 using namespace inkmacro;
 
-Writer::Writer(Target target) : target(target), repairs(RepairsMacros()), notesFaults(!repairs && NotesFaults())
+Writer::Writer(Target target)
+    : target(target), repairs(!isRecorders(target) || RepairsMacros()), notesFaults(!repairs && NotesFaults())
 {
 }
 

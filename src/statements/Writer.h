@@ -52,7 +52,9 @@ public:
     std::uint32_t UniqueCounter = 0;
     /// What a repaired macro has renamed so far, which statements behind that have to find under its new name.
     std::map<OdDbHandle, CFxString> newNames;
+    /// Whether places are noted that the user's answers may stand at.
+    bool notesAnswerable = false;
 
 private:
-    inkmacro::FillMode mode() const { return {target, repairs, notesFaults}; }
+    inkmacro::FillMode mode() const { return {target, repairs, notesFaults, notesAnswerable}; }
 };

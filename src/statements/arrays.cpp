@@ -1,8 +1,9 @@
-// Arrays in the six targets.
+// Arrays in the targets.
 
 #include "statements/arrays.h"
 
 #include "statements/LineEnd.h"
+#include "statements/pythonLiterals.h"
 #include "statements/wording.h"
 
 #include <QStringList>
@@ -115,11 +116,11 @@ static const Phrase realElement{"array of numbers",
 /// The values of a place, and the index.
 static void putPlace(Fill& line, const ArrayPlace& place, const QString& index)
 {
-    line.text(place.indentation).text(place.lineEnd).text(place.name);
+    line.word(place.indentation).word(place.lineEnd).word(place.name);
     if (place.writer.target == Target::CppCom)
         line.number(place.number);
     else if (place.writer.target != Target::Cpp)
-        line.text(index);
+        line.word(index);
 }
 
 /// What stands within the brackets of Basic, with the blanks of the place.
@@ -133,17 +134,24 @@ static Statement elementLine(const Phrase& phrase, const ArrayPlace& place, std:
     const QString indexText = bracketed(place, QString::number(index));
     Fill line = place.writer.fillPlain(phrase);
     putPlace(line, place, indexText);
-    return line.text(word);
+    return line.word(word);
+}
+
+static QString commaList(const std::vector<QString>& words)
+{
+    return QStringList(words.begin(), words.end()).join(QLatin1String(", "));
 }
 
 static Statement elementLines(const Phrase& phrase, const char* comType, const ArrayPlace& place,
                               const std::vector<QString>& words)
 {
+    if (place.writer.target == Target::Python)
+        return commaList(words);
     Statement lines;
     if (place.writer.target == Target::CppCom) {
         static const Template head("%1long rgIndices%3;%2%1rgIndices%3 = 0;%2%1%4 val%3;%2");
         lines =
-            Fill(&head).text(place.indentation).text(place.lineEnd).number(place.number).text(QLatin1String(comType));
+            Fill(&head).word(place.indentation).word(place.lineEnd).number(place.number).word(QLatin1String(comType));
     }
     for (std::size_t i = 0; i < words.size(); ++i)
         lines += elementLine(phrase, place, i, words[i]);
@@ -286,8 +294,38 @@ static Statement inParts(Coordinates&& coordinates, const Text& text)
     });
 }
 
+/// More points stand one by one, so that a reader sees where each begins.
+static constexpr std::size_t kMostFlatPoints = 4;
+
+static Statement pythonPoints(const Writer& writer, const Coordinates& coordinates)
+{
+    const auto axes = static_cast<std::size_t>(coordinates.axes);
+    const bool starred = coordinates.values.size() > kMostFlatPoints * axes;
+    QString list;
+    Statement::Notes notes;
+    for (std::size_t first = 0; first + axes <= coordinates.values.size(); first += axes) {
+        if (first > 0)
+            list += QLatin1String(", ");
+        Answerable point{.meaning = Meaning::Point, .length = 0, .axes = coordinates.axes, .starred = starred};
+        const int place = list.size();
+        list += QLatin1String(starred ? "*(" : "");
+        for (std::size_t i = 0; i < axes; ++i) {
+            point.numbers[i] = coordinates.values[first + i];
+            list += QLatin1String(i > 0 ? ", " : "");
+            list += pythonReal(point.numbers[i]);
+        }
+        list += QLatin1String(starred ? ")" : "");
+        point.length = list.size() - place;
+        if (writer.notesAnswerable)
+            notes.push_back({place, std::move(point)});
+    }
+    return {std::move(list), std::move(notes)};
+}
+
 Statement coordinateList(Writer& writer, Coordinates coordinates, NumberForm numbers)
 {
+    if (writer.target == Target::Python)
+        return pythonPoints(writer, coordinates);
     const bool rounded = areRounded(coordinates.values, numbers);
     numbers = formIn(writer, numbers, rounded);
     const Statement text =
@@ -308,8 +346,8 @@ static Statement comPointsHead(const ArrayPlace& place, int axes)
     static const Template planarHead("%1long rgIndices%3;%2%1rgIndices%3 = -1;%2%1double x, y;%2");
     static const Template spatialHead("%1long rgIndices%3;%2%1rgIndices%3 = -1;%2%1double x_%3, y_%3, z_%3;%2");
     return Fill(axes == 2 ? &planarHead : &spatialHead)
-        .text(place.indentation)
-        .text(place.lineEnd)
+        .word(place.indentation)
+        .word(place.lineEnd)
         .number(place.number);
 }
 
@@ -322,7 +360,7 @@ static QString pointLinesOf(const ArrayPlace& place, const Coordinates& coordina
     const Template* const words = (axes == 2 ? point2d : point3d).in(target);
     for (std::size_t first = from; first + axes <= end; first += axes) {
         Fill line(words);
-        line.text(place.indentation).text(place.lineEnd).text(place.name);
+        line.word(place.indentation).word(place.lineEnd).word(place.name);
         for (std::size_t i = first; target != Target::Cpp && i < first + axes; ++i)
             line.number(qulonglong{i});
         for (std::size_t i = first; i < first + axes; ++i) {
@@ -356,11 +394,11 @@ Statement comPointLines(const ArrayPlace& place, const OdGePoint3d& point, Numbe
                                  "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (double*)&(x) );%2%1rgIndices%4=1;%2"
                                  "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (double*)&(y) );%2%1rgIndices%4=2;%2"
                                  "%1SafeArrayPutElement( %3.parray, &rgIndices%4, (double*)&(z) );%2");
-    Statement lines = Fill(&head).text(place.indentation).text(place.lineEnd).number(place.number);
+    Statement lines = Fill(&head).word(place.indentation).word(place.lineEnd).number(place.number);
     if (declareLocals)
-        lines += Fill(&locals).text(place.indentation).text(place.lineEnd).str();
+        lines += Fill(&locals).word(place.indentation).word(place.lineEnd).str();
     Fill put(&values);
-    put.text(place.indentation).text(place.lineEnd).text(place.name).number(place.number);
+    put.word(place.indentation).word(place.lineEnd).word(place.name).number(place.number);
     const bool rounded = areRounded({point.x, point.y, point.z}, numbers);
     const bool isLong = formIn(place.writer, numbers, rounded) == NumberForm::Long;
     lines += (isLong ? put.point(point) : put.shortPoint(point)).str();
@@ -369,12 +407,12 @@ Statement comPointLines(const ArrayPlace& place, const OdGePoint3d& point, Numbe
 
 Fill& ArrayArgument::open(Fill& call) const
 {
-    if (target == Target::CSharp || target == Target::JavaScript)
-        return call.text(words);
+    if (target == Target::CSharp || target == Target::JavaScript || target == Target::Python)
+        return call.word(words);
     call.number(number);
     if (isBasic(target))
         call.number(highestIndex());
-    return call.text(words);
+    return call.word(words);
 }
 
 Fill& ArrayArgument::close(Fill& call) const
@@ -409,7 +447,7 @@ ArrayArgument coordinateArray(Writer& writer, Coordinates coordinates, const cha
     const Target target = writer.target;
     ArrayArgument array{target};
     array.count = static_cast<int>(coordinates.values.size());
-    if (target == Target::CSharp) {
+    if (target == Target::CSharp || target == Target::Python) {
         array.words = coordinateList(writer, std::move(coordinates), numbers);
         return array;
     }
@@ -430,7 +468,7 @@ ArrayArgument integerArray(Writer& writer, const std::vector<int>& values, std::
 {
     const Target target = writer.target;
     ArrayArgument array{target, number, static_cast<int>(values.size())};
-    if (target != Target::CSharp && target != Target::JavaScript) {
+    if (target != Target::CSharp && target != Target::JavaScript && target != Target::Python) {
         const ArrayPlace place(writer, name + QString::number(number), number, Brackets::Tight);
         array.words = integerLines(place, values);
         return array;
@@ -438,7 +476,7 @@ ArrayArgument integerArray(Writer& writer, const std::vector<int>& values, std::
     QStringList list;
     for (const int value : values)
         list.append(QString::number(value));
-    array.words = list.join(',');
+    array.words = list.join(QLatin1String(target == Target::Python ? ", " : ","));
     if (target == Target::JavaScript) {
         const QString variable = script + QString::number(number);
         array.before = scriptArray(writer, variable, array.words, array.count, scriptBrackets);

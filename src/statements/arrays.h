@@ -6,7 +6,7 @@
 
 #include <vector>
 
-// Arrays in the six targets. A statement's literal declares its arrays itself, since no two declarations are alike;
+// Arrays in the targets. A statement's literal declares its arrays itself, since no two declarations are alike;
 // what fills them stands here. Lists for a call ("coordinateArray", "integerArray") know the target's form of one:
 // lines that fill an array, an array made in front of the call, or a list within it. The lines themselves ("...Lines")
 // are for literals that say more about their arrays.
@@ -57,21 +57,22 @@ namespace inkmacro {
 extern const Fault emptyPlace;
 } // namespace inkmacro
 
-// All elements of an array, in C++ COM with the locals that it takes to put them in.
+// All elements of an array, in C++ COM with the locals that it takes to put them in. In Python, where an array is an
+// expression, a list of them with commas between.
 
 /// `words` are variables or calls.
 Statement objectLines(const ArrayPlace& place, std::vector<QString> words);
 /// `words` as objectTypeWord makes them, or variables.
 Statement objectTypeLines(const ArrayPlace& place, const std::vector<QString>& words);
 Statement integerLines(const ArrayPlace& place, const std::vector<int>& values);
-/// All coordinates of a point are written together. Empty in C# and JavaScript, which take lists.
+/// All coordinates of a point are written together. Empty in C#, JavaScript and Python, which take lists.
 Statement pointLines(const ArrayPlace& place, Coordinates coordinates, NumberForm numbers);
 
-/// The coordinates with commas between them.
+/// The coordinates with commas between them; in Python more than a few points are told apart, as `*(1.0, 2.0)`.
 Statement coordinateList(Writer& writer, Coordinates coordinates, NumberForm numbers);
 
 // Single elements, for arrays that are filled between other lines. Empty in C++ COM, where locals come in front of them
-// all.
+// all, and in Python.
 
 Statement objectLine(const ArrayPlace& place, std::size_t index, const QString& word);
 /// Of an array of objects without wrappers, which is none of .NET's.
@@ -96,12 +97,12 @@ Statement inOwnGroup(ArrayPlace place, const Filling& filling)
     return group.begin() + lines + group.close();
 }
 
-/// A list as an argument of a call, in the form of the target: JavaScript has an array made in front of the call, C# a
-/// list within it, the others an array that lines at the head of the call's literal fill.
+/// A list as an argument of a call, in the form of the target: JavaScript has an array made in front of the call, C#
+/// and Python a list within it, the others an array that lines at the head of the call's literal fill.
 struct ArrayArgument
 {
     inkmacro::Target target;
-    std::uint32_t number = 0; ///< keeps the array apart from others; none in C#
+    std::uint32_t number = 0; ///< keeps the array apart from others; none in C# and Python
     int count = 0;            ///< of elements: a point has two or three
     Statement before{};       ///< statements in front of the call
     Statement words{};        ///< the list, the name of the array or the lines that fill it
@@ -130,7 +131,7 @@ Statement callWithArray(Writer& writer, const inkmacro::Phrase& phrase, const Ar
     inkmacro::Fill call = writer.fill(phrase);
     array.open(call);
     values(call);
-    return array.before + array.close(call).text(variable).str();
+    return array.before + array.close(call).word(variable).str();
 }
 
 /// Literals of entity lists end their lines themselves in C++, C# and JavaScript, not in the other targets.

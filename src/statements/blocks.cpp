@@ -59,9 +59,10 @@ static const Phrase objectModified{"EmitObjectModifiedComment",
                                        .csharp = "%1// %3 object modified%2",
                                        .vbNet = "%1' %3 object modified%2",
                                        .vba = "%1' %3 object modified%2",
+                                       .python = "%1# %3 object modified%2",
                                    }};
 
 Statement EmitObjectModifiedComment(Writer& writer, const CFxString& className)
 {
-    return writer.fill(objectModified).text(className);
+    return writer.fill(objectModified).comment(className);
 }

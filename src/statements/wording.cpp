@@ -66,7 +66,7 @@ EscapedText escapeText(Target target, const QString& text)
 
 QString truthWord(Target target, bool value)
 {
-    if (isBasic(target))
+    if (isBasic(target) || target == Target::Python)
         return value ? QStringLiteral("True") : QStringLiteral("False");
     return value ? QStringLiteral("true") : QStringLiteral("false");
 }
@@ -75,6 +75,8 @@ QString enumeratorText(Target target, const QString& type, const QString& enumer
 {
     if (isBasic(target))
         return "Inkwright." + type + '.' + enumerator;
+    if (target == Target::Python)
+        return "constants." + enumerator;
     return target == Target::CSharp ? type + '.' + enumerator : enumerator;
 }
 

@@ -25,6 +25,11 @@ inline QString filledByQt(const QString& text, Fill::Short value)
     return text.arg(value.value, 0, 'g', -1, QChar(u' '));
 }
 
+inline QString filledByQt(const QString& text, Fill::Text value)
+{
+    return text.arg(value.value);
+}
+
 template<class T>
 QString filledByQt(const QString& text, T value)
 {
@@ -41,6 +46,10 @@ QString madeByQt(T value)
 qsizetype room(Fill::Blanks value);
 qsizetype room(QStringView value);
 qsizetype room(QLatin1String value);
+inline qsizetype room(Fill::Text text)
+{
+    return room(text.value);
+}
 qsizetype room(qlonglong);
 qsizetype room(qulonglong);
 qsizetype room(Fill::Long value);
@@ -50,6 +59,10 @@ qsizetype room(Fill::Short);
 QChar* write(QChar* out, Fill::Blanks value);
 QChar* write(QChar* out, QStringView value);
 QChar* write(QChar* out, QLatin1String value);
+inline QChar* write(QChar* out, Fill::Text text)
+{
+    return write(out, text.value);
+}
 QChar* write(QChar* out, qulonglong value);
 QChar* write(QChar* out, qlonglong value);
 QChar* write(QChar* out, Fill::Long value);

@@ -3,6 +3,7 @@
 #include "targets/MacroFrame.h"
 
 #include "host/kernel/CFxStatus.h"
+#include "statements/LineEnd.h"
 #include "statements/RecordingState.h"
 #include "statements/TargetTable.h"
 #include "statements/quoting.h"
@@ -12,6 +13,7 @@
 #include "targets/csharp/CFxConverterIWAPICSharp.h"
 #include "targets/javascript/CFxConverterIWAPIJavaScript.h"
 #include "targets/projectFiles.h"
+#include "targets/python/CFxConverterIWAPIPython.h"
 #include "targets/vba/CFxConverterIWAPIVba.h"
 #include "targets/vbnet/CFxConverterIWAPIVbNet.h"
 
@@ -101,13 +103,22 @@ Statement MacroFrame::withHeaders(Statement head, const QString& name, std::init
     return head;
 }
 
-Statement MacroFrame::sheetName() const
+Statement MacroFrame::withSheetName(Fill& head) const
 {
     if (RecordingInModel || !RecordingSheetName.isEmpty() || !writer.notesFaults)
-        return RecordingSheetName.toQString();
+        return head.text(RecordingSheetName);
     Statement missing;
     missing.addFault(kNoSketchManager);
-    return missing;
+    return head.word(missing);
+}
+
+Statement MacroFrame::fillNamed(QByteArray words, const QString& name) const
+{
+    words.replace("{quotedName}", mended("%1", "%3"));
+    if (writer.repairs)
+        return fillProject(words, {name, LineEnd, writer.quoted(name)}, Template::Markers::Counted);
+    // A third value would stand in a marker that the name holds.
+    return fillProject(words, {name, LineEnd});
 }
 
 Statement MacroFrame::faultyAt(const QString& words, const Statement& text, const Fault& fault) const

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "statements/Writer.h"
+#include "targets/CommandFunctions.h"
+
+#include <QByteArray>
 
 #include <initializer_list>
 #include <memory>
@@ -15,12 +18,16 @@ public:
     MacroFrame(const MacroFrame&) = delete;
     MacroFrame& operator=(const MacroFrame&) = delete;
 
+    /// The macro file that is about to be written; said before everything else.
+    void setMacroPath(const QString& path) { macroPath_ = path; }
     /// `hasSysVar`: a system variable changed at the recording's top level.
     virtual Statement EmitFileHeader(const QString& className, bool hasSysVar) = 0;
     virtual Statement EmitFileFooter() = 0;
     /// Writes the project around the macro file of that path; gives kFxSuccess or kFxFailure. Unless the target says
     /// otherwise, the macro file is the whole result.
     virtual std::int32_t EmitProjectFiles(const QString& path);
+    /// What makes functions of commands; null in targets whose statements stand one after the other.
+    virtual inkmacro::CommandFunctions* functions() { return nullptr; }
     /// Why there is no repaired macro of that file name, a clause without a full stop: it cannot be written where the
     /// project needs it. Null when there is one.
     virtual const char* refusal(const QString&) const { return nullptr; }
@@ -43,9 +50,11 @@ protected:
     /// The head of a macro, which includes those headers of libraries too: without their ".h". One that has the name of
     /// the macro's file, and so of a header beside it, is found in a repaired macro only.
     Statement withHeaders(Statement head, const QString& name, std::initializer_list<const char*> headers) const;
-    /// The name of the sheet on which the recording began, for the head. Where the head has no use for one because it
-    /// has no sketch manager, nothing, with a note of that.
-    Statement sheetName() const;
+    /// The head with the name of the sheet on which the recording began, its last value. Where the head has no use for
+    /// one because it has no sketch manager, it has a note of that.
+    Statement withSheetName(inkmacro::Fill& head) const;
+    /// A file of a project in C++ with the project's name: %1 in its words, {quotedName} in a text. %2 is the line end.
+    Statement fillNamed(QByteArray words, const QString& name) const;
     /// The text with a note of the fault where the words stand first.
     Statement faultyAt(const QString& words, const Statement& text, const inkmacro::Fault& fault) const;
     /// The project with a note when the macro's file is not found by its entry, which begins so. In a faithful project
@@ -54,7 +63,12 @@ protected:
     Statement faultyEntry(const QString& entry, const QString& macroPath, const char* misread,
                           const Statement& project) const;
 
+    const QString& macroPath() const { return macroPath_; }
+
     Writer& writer;
+
+private:
+    QString macroPath_;
 };
 
 /// That of the writer's target, which must outlive it.

@@ -11,6 +11,7 @@ static const Phrase colorByIndex{"color",
                                      .javascript = "mApp.GetColorByIndex(%1)",
                                      .vbNet = "iwApp.GetColorByIndex( %1 )",
                                      .vba = "iwApp.GetColorByIndex( %1 )",
+                                     .python = "drawing.app.GetColorByIndex(%1)",
                                  }};
 
 static const Phrase colorByRgb{"color",
@@ -20,6 +21,7 @@ static const Phrase colorByRgb{"color",
                                    .javascript = "mApp.GetRGBColor(%1 ,%2 ,%3)",
                                    .vbNet = "iwApp.GetRGBColor( %1 ,%2 ,%3 )",
                                    .vba = "iwApp.GetRGBColor( %1 ,%2 ,%3 )",
+                                   .python = "drawing.app.GetRGBColor(%1, %2, %3)",
                                }};
 
 QString colorExpression(Target target, const OdCmColor& color)

@@ -29,6 +29,7 @@ constexpr Words fetchedManager{
              "%1iwCustomCoordinateSystemMgr# = iwDoc.GetCustomCoordinateSystemManager()%2",
     .vba = "%1Dim iwCustomCoordinateSystemMgr# As Inkwright.CustomCoordinateSystemManager%2"
            "%1Set iwCustomCoordinateSystemMgr# = iwDoc.GetCustomCoordinateSystemManager()%2",
+    .python = "%1systems = drawing.doc.GetCustomCoordinateSystemManager()%2",
 };
 
 /// The same in one statement, where the language has it. VBA cannot give a value in a declaration; that it is done here
@@ -43,9 +44,11 @@ constexpr Words declaredManager{
              "iwDoc.GetCustomCoordinateSystemManager()%2",
     .vba = "%1Dim iwCustomCoordinateSystemMgr# As Inkwright.CustomCoordinateSystemManager = Nothing%2"
            "%1Set iwCustomCoordinateSystemMgr# = iwDoc.GetCustomCoordinateSystemManager()%2",
+    .python = "%1systems = drawing.doc.GetCustomCoordinateSystemManager()%2",
 };
 
-/// Around what is done when there is a manager.
+/// Around what is done when there is a manager. Python does not ask: what is asked of none stops it anyway, and says
+/// where.
 constexpr Words testBegin{
     .cpp = "%1if ( NULL != iwCCSManager# )%2%1{%2",
     .cppCom = "%1if ( NULL != iwCCSManager# )%2%1{%2",
@@ -71,7 +74,7 @@ public:
     {
         for (std::size_t i = 0; i < targetCount; ++i) {
             for (const Words& part : parts)
-                texts_[i] += part.in(static_cast<Target>(i));
+                texts_[i] += QByteArray(part.in(static_cast<Target>(i))); // a hole adds nothing
             texts_[i].replace('#', number);
         }
     }
@@ -84,7 +87,8 @@ public:
                 .csharp = text(Target::CSharp),
                 .javascript = text(Target::JavaScript),
                 .vbNet = text(Target::VbNet),
-                .vba = text(Target::Vba)};
+                .vba = text(Target::Vba),
+                .python = text(Target::Python)};
     }
 
 private:
@@ -112,13 +116,14 @@ static const JoinedWords saveSystemWords(
          .javascript = "%1    iwCustomCoordinateSystem# = iwCustomCoordinateSystemMgr#.SaveActiveViewAs( \"%3\" );%2",
          .vbNet = "%1    iwCustomCoordinateSystemMgr#.SaveActiveViewAs( \"%3\", iwCustomCoordinateSystem# )%2",
          .vba = "%1    iwCustomCoordinateSystemMgr#.SaveActiveViewAs \"%3\", iwCustomCoordinateSystem#%2",
+         .python = "%1systems.SaveActiveViewAs(%3)%2",
      },
      testEnd});
 static const Phrase saveSystem{"EmitSaveCoordinateSystem", saveSystemWords};
 
 Statement EmitSaveCoordinateSystem(Writer& writer, const CFxString& name)
 {
-    return writer.fill(saveSystem).text(name).number(++writer.UniqueCounter);
+    return writer.fill(saveSystem).text(name, Meaning::Text).number(++writer.UniqueCounter);
 }
 
 /// The manager is not asked for here, and a name that it does not know stops the macro.
@@ -147,12 +152,13 @@ static const JoinedWords restoreSystemWords(
              "%1Dim iwCustomCoordinateSystem# As Inkwright.CustomCoordinateSystem%2"
              "%1Set iwCustomCoordinateSystem# = iwCustomCoordinateSystemMgr#.GetNamedCustomCoordinateSystem( \"%3\")%2"
              "%1iwCustomCoordinateSystem#.Activate%2",
+         .python = "%1system = systems.GetNamedCustomCoordinateSystem(%3)%2%1system.Activate()%2",
      }});
 static const Phrase restoreSystem{"EmitRestoreCoordinateSystem", restoreSystemWords};
 
 Statement EmitRestoreCoordinateSystem(Writer& writer, const CFxString& name)
 {
-    return writer.fill(restoreSystem).text(name).number(++writer.UniqueCounter);
+    return writer.fill(restoreSystem).text(name, Meaning::Text).number(++writer.UniqueCounter);
 }
 
 static const JoinedWords
@@ -166,13 +172,14 @@ static const JoinedWords
                            .javascript = "%1    iwCustomCoordinateSystemMgr#.RemoveCustomCoordinateSystem( \"%3\" );%2",
                            .vbNet = "%1    iwCustomCoordinateSystemMgr#.RemoveCustomCoordinateSystem( \"%3\" )%2",
                            .vba = "%1    iwCustomCoordinateSystemMgr#.RemoveCustomCoordinateSystem \"%3\"%2",
+                           .python = "%1systems.RemoveCustomCoordinateSystem(%3)%2",
                        },
                        testEnd});
 static const Phrase removeSystem{"EmitRemoveCoordinateSystem", removeSystemWords};
 
 Statement EmitRemoveCoordinateSystem(Writer& writer, const CFxString& name)
 {
-    return writer.fill(removeSystem).text(name).number(++writer.UniqueCounter);
+    return writer.fill(removeSystem).text(name, Meaning::Text).number(++writer.UniqueCounter);
 }
 
 static const JoinedWords previousSystemWords(
@@ -200,6 +207,7 @@ static const JoinedWords previousSystemWords(
                   "%1    iwPreviousCCS#.Activate()%2",
          .vba = "%1    Set iwPreviousCCS# = iwCustomCoordinateSystemMgr#.GetPreviousCustomCoordinateSystem()%2"
                 "%1    iwPreviousCCS#.Activate%2",
+         .python = "%1system = systems.GetPreviousCustomCoordinateSystem()%2%1system.Activate()%2",
      },
      testEnd});
 static const Phrase previousSystem{"EmitPreviousCoordinateSystem", previousSystemWords};
@@ -233,6 +241,7 @@ static const JoinedWords worldSystemWords(
                         "%1    iwWorldCCS#.Activate()%2",
                .vba = "%1    Set iwWorldCCS# = iwCustomCoordinateSystemMgr#.GetWorldCustomCoordinateSystem()%2"
                       "%1    iwWorldCCS#.Activate%2",
+               .python = "%1system = systems.GetWorldCustomCoordinateSystem()%2%1system.Activate()%2",
            },
            testEnd});
 static const Phrase worldSystem{"EmitWorldCoordinateSystem", worldSystemWords};
@@ -271,6 +280,7 @@ static const JoinedWords defaultSystemWords(
          .vba =
              "%1    Set iwCustomCoordinateSystem# = iwCustomCoordinateSystemMgr#.GetDefaultCustomCoordinateSystem( %3 )%2"
              "%1    iwCustomCoordinateSystem#.Activate%2",
+         .python = "%1system = systems.GetDefaultCustomCoordinateSystem(%3)%2%1system.Activate()%2",
      },
      testEnd});
 static const Phrase defaultSystem{"EmitDefaultCoordinateSystem", defaultSystemWords};
@@ -278,7 +288,7 @@ static const Phrase defaultSystem{"EmitDefaultCoordinateSystem", defaultSystemWo
 Statement EmitDefaultCoordinateSystem(Writer& writer, const CFxString& enumerator)
 {
     return writer.fill(defaultSystem)
-        .text(enumeratorText(writer.target, "iwDefaultCustomCoordinateSystem_e", enumerator))
+        .word(enumeratorText(writer.target, "iwDefaultCustomCoordinateSystem_e", enumerator))
         .number(++writer.UniqueCounter);
 }
 
@@ -292,6 +302,7 @@ static const JoinedWords alignToViewWords(
                .javascript = "%1    iwCustomCoordinateSystemMgr#.AlignActiveCustomCoordinateSystemByView();%2",
                .vbNet = "%1    iwCustomCoordinateSystemMgr#.AlignActiveCustomCoordinateSystemByView()%2",
                .vba = "%1    iwCustomCoordinateSystemMgr#.AlignActiveCustomCoordinateSystemByView%2",
+               .python = "%1systems.AlignActiveCustomCoordinateSystemByView()%2",
            },
            testEnd});
 static const Phrase alignToView{"EmitViewCoordinateSystem", alignToViewWords};
@@ -312,6 +323,7 @@ static const JoinedWords setOriginWords(
          .javascript = "%1    iwCustomCoordinateSystemMgr#.SetActiveCustomCoordinateSystemOrigin( %4, %5, %6  );%2",
          .vbNet = "%1    iwCustomCoordinateSystemMgr#.SetActiveCustomCoordinateSystemOrigin( %4, %5, %6  )%2",
          .vba = "%1    iwCustomCoordinateSystemMgr#.SetActiveCustomCoordinateSystemOrigin %4, %5, %6%2",
+         .python = "%1systems.SetActiveCustomCoordinateSystemOrigin(%4)%2",
      },
      testEnd});
 static const Phrase setOrigin{"EmitCoordinateSystemOrigin", setOriginWords};
@@ -343,6 +355,7 @@ static const JoinedWords alignToEntityWords(
                 "%1    pointOnEntity#(1) = %6%2%1    pointOnEntity#(2) = %7%2"
                 "%1    iwCustomCoordinateSystemMgr#.AlignActiveCustomCoordinateSystemByEntity %4, "
                 "pointOnEntity#%2",
+         .python = "%1systems.AlignActiveCustomCoordinateSystemByEntity(%4, reals(%5))%2",
      },
      testEnd});
 static const Phrase alignToEntity{"EmitAlignCoordinateSystemToEntity", alignToEntityWords};
@@ -357,12 +370,12 @@ Statement EmitAlignCoordinateSystemToEntity(Writer& writer, const CFxString& ent
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     Fill statement = writer.fill(alignToEntity);
-    statement.number(number).text(entity);
+    statement.number(number).word(entity);
     if (writer.target != Target::CppCom)
         return statement.shortPoint(point);
     ArrayPlace place(writer, "pointOnEntity" + QString::number(number), number);
     place.indentation += QLatin1String("    ");
-    return statement.text(comPointLines(place, point, NumberForm::Short, true));
+    return statement.word(comPointLines(place, point, NumberForm::Short, true));
 }
 
 static const JoinedWords alignZAxisWords(
@@ -379,6 +392,7 @@ static const JoinedWords alignZAxisWords(
          .vbNet =
              "%1    iwCustomCoordinateSystemMgr#.AlignActiveCustomCoordinateSystemZAxis( %4, %5, %6, %7, %8, %9 )%2",
          .vba = "%1    iwCustomCoordinateSystemMgr#.AlignActiveCustomCoordinateSystemZAxis %4, %5, %6, %7, %8, %9%2",
+         .python = "%1systems.AlignActiveCustomCoordinateSystemZAxis(%4, %5)%2",
      },
      testEnd});
 static const Phrase alignZAxis{"EmitAlignCoordinateSystemZAxis", alignZAxisWords};
@@ -440,6 +454,9 @@ static const JoinedWords alignPlaneWords(
              "%1    Set XYPlaneThroughPoint# = iwMathUtility#.CreatePoint( %10, %11, %12 )%2"
              "%1    iwCustomCoordinateSystemMgr#.AlignActiveCustomCoordinateSystemXYPlane Origin#, XAxisThroughPoint#, "
              "XYPlaneThroughPoint#%2",
+         .python = "%1utility = drawing.app.GetMathUtility()%2%1first = utility.CreatePoint(%4)%2"
+                   "%1second = utility.CreatePoint(%5)%2%1third = utility.CreatePoint(%6)%2"
+                   "%1systems.AlignActiveCustomCoordinateSystemXYPlane(first, second, third)%2",
      },
      testEnd});
 static const Phrase alignPlane{"EmitThreePointCoordinateSystem", alignPlaneWords};

@@ -17,17 +17,22 @@ static const Phrase insertEmbeddedObject{
         .javascript = "%1var %6 = mSkMgr.InsertEmbeddedObjectFromFile(%2%1 \"%3\", %2%1 %4, %2%1 %5);%2",
         .vbNet = "%1%6 = iwSketchManager.InsertEmbeddedObjectFromFile( \"%3\", %4, %5 )%2",
         .vba = "%1Set %6 = iwSketchManager.InsertEmbeddedObjectFromFile( \"%3\", %4, %5 )%2",
+        .python = "%1%6 = drawing.sketch.InsertEmbeddedObjectFromFile(%3, %4, %5)%2",
     }};
 
-/// VBA alone writes the truth values with a capital here.
+/// VBA and Python alone write the truth values with a capital here.
 Statement EmitInsertEmbeddedObject(Writer& writer, const CFxString& variable, const EscapedText& path, bool first,
                                    bool second)
 {
+    const bool hasCapital = writer.target == Target::Vba || writer.target == Target::Python;
     const auto word = [&](bool value) {
-        return writer.target == Target::Vba ? QLatin1String(value ? "True" : "False")
-                                            : QLatin1String(value ? "true" : "false");
+        return hasCapital ? QLatin1String(value ? "True" : "False") : QLatin1String(value ? "true" : "false");
     };
-    return writer.fill(insertEmbeddedObject).text(path).text(word(first)).text(word(second)).text(variable);
+    return writer.fill(insertEmbeddedObject)
+        .text(path, Meaning::Text)
+        .word(word(first))
+        .word(word(second))
+        .word(variable);
 }
 
 static const Phrase eraseEntity{"EmitEraseEntities",
@@ -38,6 +43,7 @@ static const Phrase eraseEntity{"EmitEraseEntities",
                                     .javascript = "%1%2.put_Erased(true);\n",
                                     .vbNet = "%1%2.Erased = True\n",
                                     .vba = "%1%2.Erased = True\n",
+                                    .python = "%1%2.Erased = True\n",
                                 }};
 
 Statement EmitEraseEntities(Writer& writer, const std::vector<CFxString>& names)
@@ -45,7 +51,7 @@ Statement EmitEraseEntities(Writer& writer, const std::vector<CFxString>& names)
     Statement text;
     for (const CFxString& name : names)
         if (!name.isEmpty())
-            text += writer.fillIndented(eraseEntity).text(name);
+            text += writer.fillIndented(eraseEntity).word(name);
     return text;
 }
 
@@ -65,6 +71,7 @@ static const Phrase declareElementColor{
                  "%1Dim iwColor1 As Inkwright.Color%2%1Dim ElementOption As Inkwright.iwElementColor_e%2%1%2",
         .vba = "%1Dim appOption As Inkwright.ApplicationOptions%2%1Set appOption = iwApp.GetApplicationOptions()%2"
                "%1Dim iwColor1 As Inkwright.Color%2%1Set ElementOption As Inkwright.iwElementColor_e%2%1%2",
+        .python = "%1options = drawing.app.GetApplicationOptions()%2",
     }};
 static const Mend basicColorLocals(
     declareElementColor, Target::Vba, "Set stands where Dim belongs",
@@ -93,6 +100,7 @@ static const Phrase colorByIndex{"EmitSetElementColor",
                                      .javascript = "%4iwColor1 = iwApp.GetColorByIndex( %6 );%5",
                                      .vbNet = "%4iwColor1 = iwApp.GetColorByIndex( %6 )%5",
                                      .vba = "%4Set iwColor1 = iwApp.GetColorByIndex( %6 )%5",
+                                     .python = "%1options.SetElementColor(%4, drawing.app.GetColorByIndex(%3))%2",
                                  }};
 static const Mend indexedColorInPage(colorByIndex, Target::JavaScript,
                                      "an indexed color is asked of iwApp, the page's application is mApp",
@@ -106,6 +114,7 @@ static const Phrase colorByRgb{"EmitSetElementColor",
                                    .javascript = "%4iwColor1 = iwApp.GetRGBColor( %6, %7, %8 );%5",
                                    .vbNet = "%4iwColor1 = iwApp.GetRGBColor( %6, %7, %8 )%5",
                                    .vba = "%4Set iwColor1 = iwApp.GetRGBColor( %6, %7, %8 )%5",
+                                   .python = "%1options.SetElementColor(%6, drawing.app.GetRGBColor(%3, %4, %5))%2",
                                }};
 static const Mend rgbColorInPage(colorByRgb, Target::JavaScript,
                                  "an RGB color is asked of iwApp, the page's application is mApp",
@@ -126,6 +135,7 @@ static const Mend elementColorByPointer(setElementColor, Target::CppCom,
                                         "a member is asked of the smart pointer instead of its object",
                                         "%9appOption->SetElementColor(ElementOption, iwColor1);%10");
 
+/// Python names the element in the call.
 Statement EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmColor& color)
 {
     // The count goes on, so a later conversion uses variables that its macro does not declare. It has to stay so.
@@ -134,12 +144,13 @@ Statement EmitSetElementColor(Writer& writer, std::int32_t element, const OdCmCo
         text += writer.fill(declareElementColor);
     text += writer.fill(chooseElement).number(element);
     if (color.isByACI())
-        text += writer.fill(colorByIndex).number(unsigned{color.colorIndex()});
+        text += writer.fill(colorByIndex).number(unsigned{color.colorIndex()}).number(element);
     else
         text += writer.fill(colorByRgb)
                     .number(unsigned{color.red()})
                     .number(unsigned{color.green()})
-                    .number(unsigned{color.blue()});
+                    .number(unsigned{color.blue()})
+                    .number(element);
     return text += writer.fill(setElementColor);
 }
 
@@ -151,11 +162,12 @@ static const Phrase activate{"EmitActivate",
                                  .javascript = "%1%3.Activate();%2",
                                  .vbNet = "%1%3.Activate()%2",
                                  .vba = "%1%3.Activate%2",
+                                 .python = "%1%3.Activate()%2",
                              }};
 
 Statement EmitActivate(Writer& writer, const CFxString& variable)
 {
-    return writer.fill(activate).text(variable);
+    return writer.fill(activate).word(variable);
 }
 
 static const Phrase join{"EmitJoin",
@@ -166,11 +178,12 @@ static const Phrase join{"EmitJoin",
                              .javascript = "%1%3.Join( %4 );%2",
                              .vbNet = "%1%3.Join( %4 )%2",
                              .vba = "%1%3.Join %4%2",
+                             .python = "%1%3.Join(%4)%2",
                          }};
 
 Statement EmitJoin(Writer& writer, const CFxString& variable, const CFxString& other)
 {
-    return writer.fill(join).text(variable).text(other);
+    return writer.fill(join).word(variable).word(other);
 }
 
 static const Phrase explode{"EmitExplode",
@@ -181,11 +194,12 @@ static const Phrase explode{"EmitExplode",
                                 .javascript = "%1%3.Explode();%2",
                                 .vbNet = "%1%3.Explode()%2",
                                 .vba = "%1%3.Explode%2",
+                                .python = "%1%3.Explode()%2",
                             }};
 
 Statement EmitExplode(Writer& writer, const CFxString& variable)
 {
-    return writer.fill(explode).text(variable);
+    return writer.fill(explode).word(variable);
 }
 
 /// Declares its variable itself: the command around it has no block and no declarations.
@@ -215,13 +229,16 @@ static const Phrase insertViewport{
                "%1Set sheetsArray%3 = iwDoc.GetSheet(\"%5\")%2%1If Not sheetsArray%3 Is Nothing Then%2"
                "%1    Dim Coordinates%3(%7) As Double%2%6"
                "%1    Set %4 = sheetsArray%3.InsertViewport( Coordinates%3 )%2%1End If%2",
+        .python = "%1%4 = None%2%1sheet = drawing.doc.GetSheet(%5)%2%1if sheet is not None:%2"
+                  "%1    %4 = sheet.InsertViewport(reals(%6))%2",
     }};
 
 Statement EmitInsertViewport(Writer& writer, const CFxString& variable, const CFxString& sheetName,
                              const OdArray<OdGePoint3d>& points)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
-    const bool listed = writer.target == Target::CSharp || writer.target == Target::JavaScript;
+    const bool listed =
+        writer.target == Target::CSharp || writer.target == Target::JavaScript || writer.target == Target::Python;
     const char* const name = writer.target == Target::CppCom ? "variant" : "Coordinates";
     ArrayPlace place(writer, name + QString::number(number), number);
     place.indentation += QLatin1String("    ");
@@ -229,9 +246,9 @@ Statement EmitInsertViewport(Writer& writer, const CFxString& variable, const CF
                                      : pointLines(place, spatial(points), NumberForm::Short);
     return writer.fill(insertViewport)
         .number(number)
-        .text(variable)
+        .word(variable)
         .text(sheetName)
-        .text(filling)
+        .word(filling)
         .number(arrayBound(writer, 3U * points.length()));
 }
 
@@ -250,6 +267,7 @@ static const Phrase setClipBoundary{
         .javascript = "%1%4.InsertPolyline2D(%3);%2",
         .vbNet = "%1Dim Coordinates%3(%4) As Double%2%5%2%1%6.SetClipBoundary( Coordinates%3 )%2%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2%1%6.SetClipBoundary( Coordinates%3 )%2%2",
+        .python = "%1%4.SetClipBoundary(reals(%3))%2",
     }};
 
 static const Mend callsOtherMethod{setClipBoundary, Target::JavaScript, "a picture has no InsertPolyline2D",
@@ -270,12 +288,13 @@ static const Phrase removeClipBoundary{"EmitRemoveClipBoundary",
                                            .javascript = "%1%3.RemoveClipBoundary();%2",
                                            .vbNet = "%1%3.RemoveClipBoundary()%2",
                                            .vba = "%1%3.RemoveClipBoundary%2",
+                                           .python = "%1%3.RemoveClipBoundary()%2",
                                        }};
 
 Statement EmitRemoveClipBoundary(Writer& writer, const CFxString& image)
 {
     Fill statement = writer.fill(removeClipBoundary);
-    statement.text(image);
+    statement.word(image);
     if (writer.target == Target::Cpp)
         statement.number(++writer.UniqueCounter);
     return statement;

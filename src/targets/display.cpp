@@ -18,6 +18,7 @@ static const Phrase zoomToRange{"EmitZoom",
                                     .javascript = "%1mApp.Zoom(\"%3\", null, null);%2",
                                     .vbNet = "%1iwApp.Zoom(%3, Nothing, Nothing)%2",
                                     .vba = "%1iwApp.Zoom %3, Nothing, Nothing%2",
+                                    .python = "%1drawing.app.Zoom(%3, pythoncom.Nothing, pythoncom.Nothing)%2",
                                 }};
 
 static Statement rangeWord(const Writer& writer, const CFxString& range)
@@ -29,7 +30,7 @@ Statement EmitZoom(Writer& writer, const CFxString& range)
 {
     const std::uint32_t number = writer.target == Target::Cpp ? ++writer.UniqueCounter : 0;
     return writer.fill(declareCorners).number(number).str() +
-           writer.fill(zoomToRange).text(rangeWord(writer, range)).number(number).str();
+           writer.fill(zoomToRange).word(rangeWord(writer, range)).number(number).str();
 }
 
 static const Phrase zoomToWindow{
@@ -56,6 +57,7 @@ static const Phrase zoomToWindow{
                "%1Dim upperRight_%10(2) As Double%2"
                "%1upperRight_%10(0) = %6%2%1upperRight_%10(1) = %7%2%1upperRight_%10(2) = %8%2"
                "%1iwApp.Zoom %9, lowerLeft_%10, upperRight_%10%2",
+        .python = "%1drawing.app.Zoom(%5, reals(%3), reals(%4))%2",
     }};
 
 Statement EmitZoom(Writer& writer, const CFxString& range, const OdGePoint3d& lowerLeft, const OdGePoint3d& upperRight)
@@ -68,11 +70,11 @@ Statement EmitZoom(Writer& writer, const CFxString& range, const OdGePoint3d& lo
                 return comPointLines(place, point, NumberForm::Short, true);
             });
         };
-        zoom.text(corner("lowerLeft_", lowerLeft)).text(corner("upperRight_", upperRight));
+        zoom.word(corner("lowerLeft_", lowerLeft)).word(corner("upperRight_", upperRight));
     } else {
         zoom.shortPoint(lowerLeft).shortPoint(upperRight);
     }
-    zoom.text(rangeWord(writer, range)).number(number);
+    zoom.word(rangeWord(writer, range)).number(number);
     return writer.fill(declareCorners).number(number).str() + zoom.str();
 }
 
@@ -89,14 +91,15 @@ static const Phrase insertViewTiles{
         .javascript = "%1var %5 = mModel.InsertViewTiles( \"%3\", \"%4\" );%2%1%5 = mModel.GetViewTiles();%2%2",
         .vbNet = "%1Dim %5 As Object() = iwModel.InsertViewTiles(%3, %4)%2%1%5 = iwModel.GetViewTiles()%2%2",
         .vba = "%1Dim %5 As Variant%2%1%5 = iwModel.InsertViewTiles(%3, %4)%2%1%5 = iwModel.GetViewTiles()%2%2",
+        .python = "%1drawing.model.InsertViewTiles(%3, %4)%2",
     }};
 
 Statement EmitInsertViewTiles(Writer& writer, const QString& tiles, const QString& mode, const QString& applyTo)
 {
     return writer.fill(insertViewTiles)
-        .text(enumeratorText(writer.target, "iwViewTilesMode_e", mode))
-        .text(enumeratorText(writer.target, "iwViewTilesApplyTo_e", applyTo))
-        .text(tiles);
+        .word(enumeratorText(writer.target, "iwViewTilesMode_e", mode))
+        .word(enumeratorText(writer.target, "iwViewTilesApplyTo_e", applyTo))
+        .word(tiles);
 }
 
 static const Fault kOtherTile{"EmitSelectViewTile",
@@ -125,13 +128,14 @@ static const Phrase assignViewTile{"EmitSelectViewTile: declared tile",
                                        .javascript = "%1var %5 = %3[%4];%2",
                                        .vbNet = "%1%5 = %3(%4)%2",
                                        .vba = "%1Set %5 = %3(%4)%2",
+                                       .python = "%1%5 = drawing.model.GetViewTiles()[%4]%2",
                                    }};
 
 Statement EmitSelectViewTile(Writer& writer, const QString& tiles, std::size_t index, const CFxString& variable,
                              bool isDeclared)
 {
     const auto filled = [&](const Phrase& words) {
-        return writer.fill(words).text(tiles).number(qulonglong{index}).text(variable).str();
+        return writer.fill(words).word(tiles).number(qulonglong{index}).word(variable).str();
     };
     if (writer.repairs)
         return isDeclared ? filled(assignViewTile) : Statement();

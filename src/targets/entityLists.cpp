@@ -7,6 +7,8 @@
 #include "statements/arrays.h"
 #include "targets/objectTypes.h"
 
+#include <array>
+
 using namespace inkmacro;
 
 static const Phrase objectsHead{
@@ -50,8 +52,16 @@ static Statement objectElements(Writer& writer, const EntityList& entities)
     return objectLines(objectsPlace(writer), names);
 }
 
+/// Where an array is an expression, it stands in the call.
+static const Phrase objectsInCall{"EmitMoveEntities: list",
+                                  {
+                                      .python = "objects(%1)",
+                                  }};
+
 static Statement objectArray(Writer& writer, const EntityList& entities)
 {
+    if (objectsInCall.has(writer.target))
+        return {};
     const std::size_t count = entities.size();
     return listHead(writer, objectsHead, count) + listHead(writer, objectsSize, count) +
            objectElements(writer, entities) + LineEnd;
@@ -131,8 +141,33 @@ static Statement typedElements(Writer& writer, const EntityList& entities, bool 
     return text;
 }
 
+static const Phrase listsInCall{"EmitMirrorEntities: lists",
+                                {
+                                    .python = "integers(%1), objects(%2)",
+                                }};
+
+/// Of several calls with the same objects.
+static const Phrase namedLists{"EmitCopyEntities: lists",
+                               {
+                                   .python = "%1types = integers(%3)%2%1entities = objects(%4)%2",
+                               }};
+
+/// The types of what is selected only then are no enumerators.
+static Statement listedTypes(Writer& writer, const EntityList& entities)
+{
+    std::vector<QString> words;
+    words.reserve(entities.size());
+    for (const ListedEntity& entity : entities) {
+        const QString& type = entity.type.toQString();
+        words.push_back(type.startsWith('*') ? type : objectTypeWord(writer.target, type));
+    }
+    return objectTypeLines({writer, "types", writer.UniqueCounter}, words);
+}
+
 static Statement typedArrays(Writer& writer, const EntityList& entities, bool lookUpUnknown)
 {
+    if (namedLists.has(writer.target))
+        return writer.fill(namedLists).word(listedTypes(writer, entities)).word(objectElements(writer, entities));
     const std::size_t count = entities.size();
     return listHead(writer, typedHead, count) + listHead(writer, objectsSize, count) +
            typedElements(writer, entities, lookUpUnknown) + LineEnd;
@@ -148,60 +183,91 @@ static const Phrase callWithArrays{
         .javascript = "%1mSkMgr.%2(%3, iwEntities%4);\n",
         .vbNet = "%1iwSketchManager.%3( %4, iwEntities%5 )%2",
         .vba = "%1iwSketchManager.%3 %4, iwEntities%5%2",
+        .python = "%1drawing.sketch.%2(%3, %5)\n",
     }};
 
-static Statement callOf(Writer& writer, const char* operation, const Statement& arguments)
+/// `lists` are the arrays as Python hands them over.
+static Statement callOf(Writer& writer, const char* operation, const Statement& arguments, const Statement& lists)
 {
-    return fillList(writer, callWithArrays).text(QLatin1String(operation)).text(arguments).number(writer.UniqueCounter);
+    return fillList(writer, callWithArrays)
+        .word(QLatin1String(operation))
+        .word(arguments)
+        .number(writer.UniqueCounter)
+        .word(lists);
 }
 
 /// The array of types is the last of the arguments.
 static Statement typedCallOf(Writer& writer, const char* operation, const Statement& arguments)
 {
-    return callOf(writer, operation, arguments + (", types" + QString::number(writer.UniqueCounter)));
+    const QString types = namedLists.has(writer.target) ? QString() : ", types" + QString::number(writer.UniqueCounter);
+    return callOf(writer, operation, arguments + types, QStringLiteral("types, entities"));
 }
 
-static const Template threeNumbers("%1, %2, %3");
-static const Template fourNumbers("%1, %2, %3, %4");
-static const Template twoPointsAndWord("%1, %2, %3, %4, %5, %6, %7");
+/// The only call with these objects.
+static Statement typedCall(Writer& writer, const EntityList& entities, const char* operation,
+                           const Statement& arguments)
+{
+    if (!listsInCall.has(writer.target))
+        return typedArrays(writer, entities, false) + typedCallOf(writer, operation, arguments);
+    const Statement lists =
+        writer.fillPlain(listsInCall).word(listedTypes(writer, entities)).word(objectElements(writer, entities));
+    return callOf(writer, operation, arguments, lists);
+}
 
-/// VBA alone writes the truth value with a capital here.
+/// The arguments of a call in front of its arrays: so many numbers and words, in Python fewer, where a point is one.
+static Fill fillArguments(Writer& writer, std::size_t count, std::size_t inPython)
+{
+    static const std::array<Template, 7> templates{
+        Template("%1"),
+        Template("%1, %2"),
+        Template("%1, %2, %3"),
+        Template("%1, %2, %3, %4"),
+        Template("%1, %2, %3, %4, %5"),
+        Template("%1, %2, %3, %4, %5, %6"),
+        Template("%1, %2, %3, %4, %5, %6, %7"),
+    };
+    return writer.fill(templates[(writer.target == Target::Python ? inPython : count) - 1]);
+}
+
+/// VBA and Python alone write the truth value with a capital here.
 Statement EmitMirrorEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& first,
                              const OdGePoint3d& second, bool erase)
 {
-    const QLatin1String erases = writer.target == Target::Vba ? QLatin1String(erase ? "True" : "False")
-                                                              : QLatin1String(erase ? "true" : "false");
-    return typedArrays(writer, entities, false) +
-           typedCallOf(writer, "MirrorEntities",
-                       writer.fill(twoPointsAndWord).shortPoint(first).shortPoint(second).text(erases));
+    const bool hasCapital = writer.target == Target::Vba || writer.target == Target::Python;
+    const QLatin1String erases =
+        hasCapital ? QLatin1String(erase ? "True" : "False") : QLatin1String(erase ? "true" : "false");
+    return typedCall(writer, entities, "MirrorEntities",
+                     fillArguments(writer, 7, 3).shortPoint(first).shortPoint(second).word(erases));
 }
 
 Statement EmitCopyEntities(Writer& writer, const EntityList& entities, const OdGeVector3d& offset, bool first)
 {
     const Statement arrays = first ? typedArrays(writer, entities, true) : Statement();
-    return arrays + typedCallOf(writer, "CopyEntities", writer.fill(threeNumbers).shortVector(offset));
+    return arrays + typedCallOf(writer, "CopyEntities", fillArguments(writer, 3, 1).shortVector(offset));
 }
 
 Statement EmitMoveEntities(Writer& writer, const EntityList& entities, const OdGeVector3d& offset, bool first)
 {
     const Statement array = first ? objectArray(writer, entities) : Statement();
-    return array + callOf(writer, "MoveEntities", writer.fill(threeNumbers).shortVector(offset));
+    const Statement objects = writer.fillPlain(objectsInCall).word(objectElements(writer, entities));
+    return array + callOf(writer, "MoveEntities", fillArguments(writer, 3, 1).shortVector(offset), objects);
 }
 
 Statement EmitRotateEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& center, double angle)
 {
-    return typedArrays(writer, entities, false) +
-           typedCallOf(writer, "RotateEntities",
-                       writer.fill(threeNumbers).shortReal(center.x).shortReal(center.y).shortReal(angle));
+    return typedCall(writer, entities, "RotateEntities",
+                     fillArguments(writer, 3, 2).shortPlanePoint(center).shortReal(angle, Meaning::Angle));
 }
 
 /// The factor stands ahead of the last coordinate: the host takes x, y, factor, z.
 Statement EmitScaleEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& center, double factor)
 {
-    return typedArrays(writer, entities, false) +
-           typedCallOf(
-               writer, "ScaleEntities",
-               writer.fill(fourNumbers).shortReal(center.x).shortReal(center.y).shortReal(factor).shortReal(center.z));
+    return typedCall(writer, entities, "ScaleEntities",
+                     fillArguments(writer, 4, 4)
+                         .shortCoordinate(center, 0)
+                         .shortCoordinate(center, 1)
+                         .shortReal(factor, Meaning::Factor)
+                         .shortCoordinate(center, 2));
 }
 
 static const Phrase stretchHead{
@@ -283,13 +349,23 @@ static const Phrase stretchEntities{
                  "crossingBoxEndCorner%6 )%2",
         .vba = "%1iwSketchManager.StretchEntities %3, %4, %5, iwEntities%6, crossingBoxStartCorner%6, "
                "crossingBoxEndCorner%6%2",
+        .python = "%1drawing.sketch.StretchEntities(%2, objects(%4), reals(%5), reals(%6))\n",
     }};
 
 Statement EmitStretchEntities(Writer& writer, const EntityList& entities, const OdGePoint3d& start,
                               const OdGePoint3d& end, const OdGeVector3d& offset)
 {
     const std::size_t count = entities.size();
-    const Statement arrays = listHead(writer, stretchHead, count) + listHead(writer, stretchSize, count) +
-                             objectElements(writer, entities) + LineEnd + crossingBox(writer, start, end);
-    return arrays + fillList(writer, stretchEntities).shortVector(offset).number(writer.UniqueCounter).str();
+    const Statement objects = objectElements(writer, entities);
+    const Statement arrays = objectsInCall.has(writer.target)
+                                 ? Statement()
+                                 : listHead(writer, stretchHead, count) + listHead(writer, stretchSize, count) +
+                                       objects + LineEnd + crossingBox(writer, start, end);
+    return arrays + fillList(writer, stretchEntities)
+                        .shortVector(offset)
+                        .number(writer.UniqueCounter)
+                        .word(objects)
+                        .shortPoint(start)
+                        .shortPoint(end)
+                        .str();
 }

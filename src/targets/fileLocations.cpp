@@ -17,17 +17,20 @@ static const Phrase filesObject{"EmitSystemFilesObject",
                                     .javascript = "%1var %3 = mApp.Get%4();%2",
                                     .vbNet = "%1Dim %3 As Inkwright.%4 = iwApp.Get%4()%2",
                                     .vba = "%1Dim %3 As Inkwright.%4%2%1Set %3 = iwApp.Get%4()%2",
+                                    .python = "%1%3 = drawing.app.Get%4()%2",
                                 }};
 
-static CFxString filesVariable(const char* type, std::uint32_t number)
+static CFxString filesVariable(const Writer& writer, const char* type, std::uint32_t number)
 {
+    if (writer.target == Target::Python)
+        return "files";
     return QStringLiteral("iw%1_%2").arg(type).arg(number);
 }
 
 static Statement fetchFiles(Writer& writer, const char* type, std::uint32_t number, CFxString& variable)
 {
-    variable = filesVariable(type, number);
-    return writer.fill(filesObject).text(variable).text(QLatin1String(type));
+    variable = filesVariable(writer, type, number);
+    return writer.fill(filesObject).word(variable).word(QLatin1String(type));
 }
 
 Statement EmitInterfaceFilesObject(Writer& writer, CFxString& variable)
@@ -50,6 +53,7 @@ static const Phrase drawingSupportFilesObject{
         .javascript = "%1var %3 = mApp.GetDrawingSupportFiles();%2",
         .vbNet = "%1Dim %3 As Inkwright.DrawingSupportFiles = iwApp.GetDrawingSupportFiles()%2",
         .vba = "%1Dim %3 As Inkwright.DrawingSupportFiles%2%11Set %3 = iwApp.GetDrawingSupportFiles()%2",
+        .python = "%1%3 = drawing.app.GetDrawingSupportFiles()%2",
     }};
 static const Mend
     basicDrawingSupportFiles(drawingSupportFilesObject, Target::Vba, "a placeholder of the statement is never filled",
@@ -57,11 +61,11 @@ static const Mend
 
 Statement EmitDrawingSupportFilesObject(Writer& writer, CFxString& variable)
 {
-    variable = filesVariable("DrawingSupportFiles", processCounters.of(writer.target).drawingSupportFiles++);
-    return writer.fill(drawingSupportFilesObject).text(variable);
+    variable = filesVariable(writer, "DrawingSupportFiles", processCounters.of(writer.target).drawingSupportFiles++);
+    return writer.fill(drawingSupportFilesObject).word(variable);
 }
 
-/// C# and VB.NET declare the array together with its elements.
+/// C# and VB.NET declare the array together with its elements; in Python it stands in the assignment.
 static const Phrase arrayDeclaration{"EmitFileLocationArray",
                                      {
                                          .cpp = "%1iwStringArray sArray%3_%4;%2",
@@ -84,6 +88,7 @@ static const Phrase arrayElement{"EmitFileLocationArray",
                                      .javascript = "%1var s%3_%4 = \"%5\";%2%1sArray%3_%4[%4] = s%3_%4;%2",
                                      .vbNet = "%1Dim s%3_%4 As String = \"%5\"%2",
                                      .vba = "%1sArray%3_%4(%5) = \"%6\"%2",
+                                     .python = "%5",
                                  }};
 static const Mend scriptArrayElement(arrayElement, Target::JavaScript,
                                      "each folder goes to an array of its own number, and only the first exists",
@@ -98,6 +103,7 @@ static const Phrase arrayAssignment{
         .javascript = "%5%1%6.put_%3( sArray%3_%4 );%2",
         .vbNet = "%6%1Dim sArray%3_%4 As String() = New String() { %5 }%2%1%7.%3 = sArray%3_%4%2",
         .vba = "%5%1%6.%3 = sArray%3_%4%2",
+        .python = "%1%6.%3 = texts(%5)%2",
     }};
 
 /// Where an element has one number only, that is its index; but C++ appends to the array and has no index.
@@ -105,12 +111,12 @@ static Statement fileLocationElement(Writer& writer, const CFxString& property, 
                                      const CFxString& value)
 {
     Fill element = writer.fill(arrayElement);
-    element.text(property);
+    element.word(property);
     if (writer.target == Target::Cpp || writer.target == Target::CppCom || writer.target == Target::Vba)
         element.number(array);
     if (writer.target != Target::Cpp)
         element.number(index);
-    return element.text(value).mendNumber(array);
+    return element.text(value, Meaning::Text).mendNumber(array);
 }
 
 Statement EmitFileLocationArray(Writer& writer, const CFxString& variable, const CFxString& property,
@@ -121,19 +127,21 @@ Statement EmitFileLocationArray(Writer& writer, const CFxString& variable, const
 
     // VBA declares the last index and not the size.
     Statement elements = writer.fill(arrayDeclaration)
-                             .text(property)
+                             .word(property)
                              .number(array)
                              .number(writer.target == Target::Vba ? size - 1 : size);
     QStringList names;
     for (int i = 0; i < size; ++i) {
+        if (i > 0 && writer.target == Target::Python)
+            elements += QStringLiteral(", ");
         elements += fileLocationElement(writer, property, array, i, values[static_cast<std::size_t>(i)]);
         names.append(QStringLiteral("s%1_%2").arg(property).arg(i));
     }
 
     const QString list = names.join(QLatin1String(", "));
     Fill assignment = writer.fill(arrayAssignment);
-    assignment.text(property).number(array);
+    assignment.word(property).number(array);
     if (writer.target == Target::CSharp || writer.target == Target::VbNet)
-        assignment.text(list);
-    return assignment.text(elements).text(variable);
+        assignment.word(list);
+    return assignment.word(elements).word(variable);
 }

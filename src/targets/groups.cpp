@@ -34,6 +34,7 @@ static const Phrase addEntity{
                  "%1    %3.AddEntities(entities%2)\n%1End If\n",
         .vba = "%1If Not %3.HasEntity(%4) Then\n%1    Set entities%2( 0 ) = %4\n%1    %3.AddEntities entities%2\n"
                "%1End If\n",
+        .python = "%1if not %3.HasEntity(%4):\n%1    %3.AddEntities(objects(%4))\n",
     }};
 
 static const Phrase addGathered{"EmitGroupAddEntities",
@@ -46,9 +47,9 @@ Statement EmitGroupAddEntities(Writer& writer, const std::vector<CFxString>& nam
     ++writer.UniqueCounter;
     Statement text = LineEnd + writer.fillIndented(addHead).number(writer.UniqueCounter).str();
     for (const CFxString& name : names)
-        text += writer.fillIndented(addEntity).number(writer.UniqueCounter).text(group).text(name);
+        text += writer.fillIndented(addEntity).number(writer.UniqueCounter).word(group).word(name);
     text += LineEnd;
-    return text += writer.fillIndented(addGathered).number(writer.UniqueCounter).text(group);
+    return text += writer.fillIndented(addGathered).number(writer.UniqueCounter).word(group);
 }
 
 static const Phrase removeHead{"EmitGroupRemoveEntities",
@@ -78,15 +79,18 @@ static const Phrase removeCall{"EmitGroupRemoveEntities",
                                    .javascript = "%1%3.RemoveEntities(removeObject%2);\n",
                                    .vbNet = "%1%3.RemoveEntities(removeObject%2)\n",
                                    .vba = "%1%3.RemoveEntities removeObject%2\n",
+                                   .python = "%1%3.RemoveEntities(objects(%4))\n",
                                }};
 
+/// Where nothing declares an array, the call has the objects itself.
 Statement EmitGroupRemoveEntities(Writer& writer, const std::vector<CFxString>& names, const CFxString& group)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     const ArrayPlace place(writer, "removeObject" + QString::number(number), number);
+    const Statement objects = objectLines(place, {names.begin(), names.end()});
     return LineEnd + listHead(writer, removeHead, names.size()) + listHead(writer, removeSize, names.size()) +
-           objectLines(place, {names.begin(), names.end()}) + LineEnd +
-           writer.fillIndented(removeCall).number(number).text(group).str();
+           (removeHead.has(writer.target) ? objects : Statement()) + LineEnd +
+           writer.fillIndented(removeCall).number(number).word(group).word(objects).str();
 }
 
 /// In COM the group's name is narrow, its variable is not assigned, and the first line of the array is indented twice;
@@ -104,6 +108,7 @@ static const Phrase createGroup{
         .vbNet = "%1Dim entities%9 As DispatchWrapper() = New DispatchWrapper(%3) {}%2%4"
                  "%1%8 = iwDoc.CreateGroup( \"%5\", %6, \"%7\", entities%9 )%2",
         .vba = "%1Dim entities(%3) As Object%2%4%1Set %8 = iwDoc.CreateGroup( \"%5\", %6, \"%7\", entities )%2",
+        .python = "%1%8 = drawing.doc.CreateGroup(%5, %6, %7, objects(%4))%2",
     }};
 static const Mend
     scriptGroup(createGroup, Target::JavaScript, "the group's variable is not declared",
@@ -126,15 +131,17 @@ Statement EmitCreateGroup(Writer& writer, const NewGroup& group, const CFxString
 
     Fill creation = writer.fill(createGroup);
     if (target == Target::CppCom)
-        creation.number(number).text(lines).number(bound);
+        creation.number(number).word(lines).number(bound);
     else if (target == Target::Cpp)
-        creation.text(lines);
+        creation.word(lines);
     else
-        creation.number(bound).text(lines);
-    creation.text(group.name).text(truthWord(target, group.selectable)).text(group.description);
+        creation.number(bound).word(lines);
+    creation.text(group.name, Meaning::Text)
+        .word(truthWord(target, group.selectable))
+        .text(group.description, Meaning::Text);
     if (target == Target::CppCom)
-        return creation.mendText(variable);
-    creation.text(variable);
+        return creation.mendWord(variable);
+    creation.word(variable);
     if (numbered)
         creation.number(number);
     return creation;

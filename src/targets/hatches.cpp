@@ -25,14 +25,20 @@ static const Phrase insertBoundaryPolyline{
                  "%1%7 = iwSketchManager.InsertPolyline2D( Coordinates%3, %6 )%2",
         .vba = "%1Dim %7 As Inkwright.PolyLine%2%1Dim Coordinates%3(%4) As Double%2%5%2"
                "%1Set %7 = iwSketchManager.InsertPolyline2D( Coordinates%3, %6 )%2",
+        .python = "%1%5 = drawing.sketch.InsertPolyline2D(reals(%3), %4)%2",
     }};
+
+CFxString HatchPolylineName(const Writer& writer, std::uint32_t number)
+{
+    return writer.target == Target::Python ? QStringLiteral("edge_1") : QStringLiteral("hatch_Polyline_%1").arg(number);
+}
 
 Statement EmitHatchBoundaryPolyline(Writer& writer, const CFxString& name, const OdArray<OdGePoint2d>& points,
                                     bool closed)
 {
     return callWithArray(
         writer, insertBoundaryPolyline, coordinateArray(writer, planar(points), "polyPoints", NumberForm::Short),
-        [&](Fill& call) { call.text(truthWord(writer.target, closed)); }, name);
+        [&](Fill& call) { call.word(truthWord(writer.target, closed)); }, name);
 }
 
 static const Phrase setSegmentAngle{"EmitSetSegmentAngle",
@@ -43,6 +49,7 @@ static const Phrase setSegmentAngle{"EmitSetSegmentAngle",
                                         .javascript = "%1%3.SetSegmentAngle(%4, %5);%2",
                                         .vbNet = "%1%3.SetSegmentAngle( %4, %5 )%2",
                                         .vba = "%1%3.SetSegmentAngle %4, %5%2",
+                                        .python = "%1%3.SetSegmentAngle(%4, %5)%2",
                                     }};
 
 Statement EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::int32_t index, double angle)
@@ -50,7 +57,7 @@ Statement EmitSetSegmentAngle(Writer& writer, const CFxString& polyline, std::in
     Fill statement = writer.fill(setSegmentAngle);
     if (writer.target == Target::Cpp)
         statement.number(++writer.UniqueCounter);
-    return statement.text(polyline).number(index).shortReal(angle);
+    return statement.word(polyline).number(index).shortReal(angle);
 }
 
 Statement EmitSetSegmentAngles(Writer& writer, const CFxString& polyline, const OdArray<double>& bulges)
@@ -91,11 +98,13 @@ static const Phrase hatchByPolyline{
                  "%1%7 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
         .vba = "%2%1Dim iwEntities(0) As Object%2%1Set iwEntities(0) = %6%2"
                "%1Set %7 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
+        .python = "%1%7 = drawing.sketch.InsertHatchByEntities(objects(%6), %3, %4, %5)%2",
     }};
 static const Mend hatchInPage(
     hatchByPolyline, Target::JavaScript,
     "the page has no iwSketchManager, its sketch manager is mSkMgr, and the hatch's variable is not declared",
-    "%2%1var iwEntities = new Array(1);%2%1iwEntities[0] = %6;%2%1var %7 = mSkMgr.InsertHatchByEntities(%2%1 iwEntities, %2%1 \"%3\", %2%1 %4, %2%1 %5 );%2");
+    "%2%1var iwEntities = new Array(1);%2%1iwEntities[0] = %6;%2"
+    "%1var %7 = mSkMgr.InsertHatchByEntities(%2%1 iwEntities, %2%1 \"%3\", %2%1 %4, %2%1 %5 );%2");
 
 static const Phrase eraseBoundaryPolyline{"EmitHatchByPolyline: erasure",
                                           {
@@ -105,6 +114,7 @@ static const Phrase eraseBoundaryPolyline{"EmitHatchByPolyline: erasure",
                                               .javascript = "%2%1%3.put_Erased( %4 );%2",
                                               .vbNet = "%2%1%3.Erased = %4%2",
                                               .vba = "%2%1%3.Erased = %4%2",
+                                              .python = "%1%3.Erased = %4%2",
                                           }};
 
 Statement EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxString& polyline,
@@ -113,18 +123,18 @@ Statement EmitHatchByPolyline(Writer& writer, const CFxString& hatch, const CFxS
     Fill insertion = writer.fill(hatchByPolyline);
     // COM fills its array before the call, the others name the polyline's place in it after the pattern.
     if (writer.target == Target::CppCom)
-        insertion.number(++writer.UniqueCounter).text(polyline);
-    insertion.text(pattern.name);
+        insertion.number(++writer.UniqueCounter).word(polyline);
+    insertion.text(pattern.name, Meaning::Text);
     if (writer.target == Target::Cpp)
         insertion.shortReal(pattern.first).shortReal(pattern.second);
     else
-        insertion.real(pattern.first).real(pattern.second);
+        insertion.real(pattern.first, Meaning::Factor).real(pattern.second, Meaning::Angle);
     if (writer.target != Target::CppCom)
-        insertion.text(polyline);
-    Statement statement = insertion.text(hatch);
+        insertion.word(polyline);
+    Statement statement = insertion.word(hatch);
     if (!erase)
         return statement;
-    return statement + writer.fill(eraseBoundaryPolyline).text(polyline).text(truthWord(writer.target, true)).str();
+    return statement + writer.fill(eraseBoundaryPolyline).word(polyline).word(truthWord(writer.target, true)).str();
 }
 
 // The C++ add-in takes each color into a variable of its own; the others have the color among the call's arguments.
@@ -167,6 +177,7 @@ static const Phrase setGradient{
                  "%1hatchPattern%3.SetGradientData( %4, %5, %6, %7)%2",
         .vba = "%2%1Dim hatchPattern%3 As Inkwright.HatchPattern%2%1hatchPattern%3 = %8.GetHatchPattern()%2"
                "%1hatchPattern%3.SetGradientData %4, %5, %6, %7%2",
+        .python = "%1pattern = %8.GetHatchPattern()%2%1pattern.SetGradientData(%4, %5, %6, %7)%2",
     }};
 static const Mend
     basicGradient(setGradient, Target::Vba, "an object is assigned without Set",
@@ -180,8 +191,8 @@ Statement EmitHatchGradient(Writer& writer, const CFxString& hatch, const HatchG
     Fill call = writer.fill(setGradient);
     call.number(++writer.UniqueCounter);
     if (writer.target != Target::Cpp)
-        call.text(colorExpression(writer.target, first)).text(colorExpression(writer.target, second));
-    call.text(truthWord(writer.target, gradient.centered)).real(gradient.angle).text(hatch);
+        call.word(colorExpression(writer.target, first)).word(colorExpression(writer.target, second));
+    call.word(truthWord(writer.target, gradient.centered)).real(gradient.angle, Meaning::Angle).word(hatch);
     const Statement text = takeColor(writer, firstIndexedColor, firstRgbColor, first) +
                            takeColor(writer, secondIndexedColor, secondRgbColor, second) + call.str();
     return notingBlack(writer, notingBlack(writer, text, gradient.first), gradient.second);

@@ -23,6 +23,8 @@ struct HatchGradient
 };
 
 /// Declares the variable of the polyline too.
+/// The variable of a polyline that bounds a hatch and goes again.
+CFxString HatchPolylineName(const Writer& writer, std::uint32_t number);
 Statement EmitHatchBoundaryPolyline(Writer& writer, const CFxString& name, const OdArray<OdGePoint2d>& points,
                                     bool closed);
 /// Bends the segment that begins at the vertex; `angle` is that of the arc, in radians.

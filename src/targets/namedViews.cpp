@@ -14,6 +14,7 @@ static const Phrase createModelView{"EmitCreateNamedView",
                                         .javascript = "%1var %4 = mViewManager.CreateModelNamedView( \"%3\" );%2",
                                         .vbNet = "%1%4 = iwViewManager.CreateModelNamedView( \"%3\" )%2",
                                         .vba = "%1Set %4 = iwViewManager.CreateModelNamedView( \"%3\" )%2",
+                                        .python = "%1%4 = drawing.views.CreateModelNamedView(%3)%2",
                                     }};
 
 static const Phrase createSheetView{
@@ -28,13 +29,20 @@ static const Phrase createSheetView{
                  "iwViewManager.CreateSheetNamedView( \"%3\" )%2",
         .vba = "%1Dim sheetNamedView_%4 As Inkwright.SheetNamedView%2"
                "%1Set sheetNamedView_%4 = iwViewManager.CreateSheetNamedView( \"%3\" )%2",
+        .python = "%1drawing.views.CreateSheetNamedView(%3)%2",
     }};
 
 Statement EmitCreateNamedView(Writer& writer, const CFxString& name, bool onSheet, const CFxString& variable)
 {
     if (onSheet)
-        return writer.fill(createSheetView).text(name).number(++writer.UniqueCounter);
-    return writer.fill(createModelView).text(name).text(variable);
+        return writer.fill(createSheetView).text(name, Meaning::Text).number(++writer.UniqueCounter);
+    return writer.fill(createModelView).text(name, Meaning::Text).word(variable);
+}
+
+/// A view of a sheet is told by a text.
+static Fill& putName(Fill& statement, const NamedViewReference& view)
+{
+    return view.onSheet ? statement.text(view.word) : statement.word(view.word);
 }
 
 /// The beginning of a statement of one view: its number, where it has locals, and what the view is found by.
@@ -42,7 +50,7 @@ static Fill& putView(Fill& statement, Writer& writer, const NamedViewReference& 
 {
     if (view.onSheet || writer.target == Target::Cpp)
         statement.number(++writer.UniqueCounter);
-    return statement.text(view.word);
+    return putName(statement, view);
 }
 
 /// VBA's brackets and the blank behind them have to stay.
@@ -56,6 +64,7 @@ static const Phrase renameModelView{
         .javascript = "%1%3.GetNamedView().Rename( \"%4\" );%2%2",
         .vbNet = "%1%3.GetNamedView().Rename( \"%4\" )%2%2",
         .vba = "%1%3.GetNamedView().Rename( \"%4\" ) %2%2",
+        .python = "%1view = %3.GetNamedView()%2%1view.Rename(%4)%2",
     }};
 
 static const Phrase renameSheetView{
@@ -78,12 +87,14 @@ static const Phrase renameSheetView{
         .vba = "%1Dim sheetNamedView_%3_rename As Inkwright.SheetNamedView%2"
                "%1Set sheetNamedView_%3_rename = iwViewManager.GetSheetNamedView( \"%4\" )%2"
                "%1sheetNamedView_%3_rename.GetNamedView().Rename \"%5\"%2%2",
+        .python = "%1view = drawing.views.GetSheetNamedView(%4)%2%1view = view.GetNamedView()%2"
+                  "%1view.Rename(%5)%2",
     }};
 
 Statement EmitRenameNamedView(Writer& writer, const NamedViewReference& view, const CFxString& newName)
 {
     Fill statement = writer.fill(view.onSheet ? renameSheetView : renameModelView);
-    return putView(statement, writer, view).text(newName);
+    return putView(statement, writer, view).text(newName, Meaning::Text);
 }
 
 static const Phrase setModelViewClass{
@@ -96,6 +107,7 @@ static const Phrase setModelViewClass{
         .javascript = "%1%3.GetNamedView().put_Class(\"%4\");%2%2",
         .vbNet = "%1%3.GetNamedView().Class = \"%4\"%2%2",
         .vba = "%1%3.GetNamedView().Class = \"%4\"%2%2",
+        .python = "%1view = %3.GetNamedView()%2%1view.Class = %4%2",
     }};
 static const Mend bstrModelViewClass(setModelViewClass, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
@@ -119,13 +131,15 @@ static const Phrase setSheetViewClass{
         .vba = "%1Dim sheetNamedView_%3_class As Inkwright.SheetNamedView%2"
                "%1Set sheetNamedView_%3_class = iwViewManager.GetSheetNamedView( \"%4\" )%2"
                "%1sheetNamedView_%3_class.GetNamedView().Class = \"%5\"%2%2",
+        .python = "%1view = drawing.views.GetSheetNamedView(%4)%2%1view = view.GetNamedView()%2"
+                  "%1view.Class = %5%2",
     }};
 static const Mend bstrSheetViewClass(setSheetViewClass, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 Statement EmitSetNamedViewClass(Writer& writer, const NamedViewReference& view, const CFxString& className)
 {
     Fill statement = writer.fill(view.onSheet ? setSheetViewClass : setModelViewClass);
-    return putView(statement, writer, view).text(className);
+    return putView(statement, writer, view).text(className, Meaning::Text);
 }
 
 static const Phrase windowCorners{
@@ -153,6 +167,8 @@ static const Phrase windowCorners{
                "%1Set FirstCorner_%3_1 = iwMathUtility%3.CreatePoint( %4, %5, %6 )%2"
                "%1Dim OppositeCorner_%3_1 As Inkwright.MathPoint%2"
                "%1Set OppositeCorner_%3_1 = iwMathUtility%3.CreatePoint( %7, %8, %9 )%2",
+        .python = "%1utility = drawing.app.GetMathUtility()%2%1first = utility.CreatePoint(%4)%2"
+                  "%1second = utility.CreatePoint(%5)%2",
     }};
 
 static const Phrase setModelViewWindow{
@@ -165,6 +181,7 @@ static const Phrase setModelViewWindow{
         .javascript = "%1%4.GetNamedView().SetWindow( FirstCorner_%3_1, OppositeCorner_%3_1 );%2%2",
         .vbNet = "%1%4.GetNamedView().SetWindow( FirstCorner_%3_1, OppositeCorner_%3_1 )%2%2",
         .vba = "%1%4.GetNamedView().SetWindow FirstCorner_%3_1, OppositeCorner_%3_1%2%2",
+        .python = "%1view = %4.GetNamedView()%2%1view.SetWindow(first, second)%2",
     }};
 
 static const Phrase setSheetViewWindow{
@@ -186,6 +203,8 @@ static const Phrase setSheetViewWindow{
         .vba = "%1Dim sheetNamedView_%3_Pt As Inkwright.SheetNamedView%2"
                "%1Set sheetNamedView_%3_Pt = iwViewManager.GetSheetNamedView( \"%4\" )%2"
                "%1sheetNamedView_%3_Pt.GetNamedView().SetWindow FirstCorner_%3_1, OppositeCorner_%3_1%2%2",
+        .python = "%1view = drawing.views.GetSheetNamedView(%4)%2%1view = view.GetNamedView()%2"
+                  "%1view.SetWindow(first, second)%2",
     }};
 
 Statement EmitSetViewWindow(Writer& writer, const NamedViewReference& view, const OdGePoint3d& first,
@@ -193,6 +212,7 @@ Statement EmitSetViewWindow(Writer& writer, const NamedViewReference& view, cons
 {
     const std::uint32_t number = ++writer.UniqueCounter;
     const Phrase& setWindow = view.onSheet ? setSheetViewWindow : setModelViewWindow;
+    Fill statement = writer.fill(setWindow);
     return writer.fill(windowCorners).number(number).shortPoint(first).shortPoint(opposite).str() +
-           writer.fill(setWindow).number(number).text(view.word).str();
+           putName(statement.number(number), view).str();
 }

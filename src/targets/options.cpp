@@ -56,13 +56,17 @@ private:
     Words wordsOf(const OptionModel& model, const OptionWords& words)
     {
         static constexpr std::array<Column, targetCount> columns{&Words::cpp,        &Words::cppCom, &Words::csharp,
-                                                                 &Words::javascript, &Words::vbNet,  &Words::vba};
+                                                                 &Words::javascript, &Words::vbNet,  &Words::vba,
+                                                                 &Words::python};
         Words made;
         for (std::size_t i = 0; i < targetCount; ++i) {
             const bool wide = columns[i] == &Words::cpp || columns[i] == &Words::cppCom;
             literals_[i] = model.words.*columns[i];
-            literals_[i].replace("%5", words.suffix);
-            literals_[i].replace("%4", wide ? words.wideValues : words.values);
+            // In Python each value is one, with its quotes.
+            if (columns[i] != &Words::python) {
+                literals_[i].replace("%5", words.suffix);
+                literals_[i].replace("%4", wide ? words.wideValues : words.values);
+            }
             literals_[i].replace(model.type + QByteArray("_e"), words.enumeration + QByteArray("_e"));
             literals_[i].replace(model.type, words.call);
             made.*columns[i] = literals_[i].constData();
@@ -91,6 +95,7 @@ static const OptionModel commandOption{
             "SetCommandOptionInt16(Inkwright.iwCommandOptionInt16_e.%3, %4,result%5)%2%1End If%2",
         .vba = "%1If 1 Then%2%1Dim resultInt16%5 As Inkwright.iwSetCommandOptionResult_e %2%1iwApp.GetActiveDocument()."
                "SetCommandOptionInt16 Inkwright.iwCommandOptionInt16_e.%3, %4, resultInt16%5%2%1End If%2",
+        .python = "%1drawing.doc.SetCommandOptionInt16(constants.%3, %4)%2",
     }};
 
 static const Phrase commandInt16{"EmitCommandOptionInt16", commandOption.words};
@@ -114,43 +119,42 @@ static Statement withResult(Writer& writer, Fill& statement)
 
 Statement EmitCommandOptionBool(Writer& writer, const CFxString& option, bool value)
 {
-    return withResult(writer, writer.fill(commandBool).text(option).text(truthWord(writer.target, value)));
+    return withResult(writer, writer.fill(commandBool).word(option).word(truthWord(writer.target, value)));
 }
 
-Statement EmitCommandOptionDouble(Writer& writer, const CFxString& option, double value)
+Statement EmitCommandOptionDouble(Writer& writer, const CFxString& option, double value, Meaning meaning)
 {
-    return withResult(writer, writer.fill(commandDouble).text(option).shortReal(value));
+    return withResult(writer, writer.fill(commandDouble).word(option).shortReal(value, meaning));
 }
 
 Statement EmitCommandOptionInt8(Writer& writer, const CFxString& option, std::int32_t value)
 {
-    return withResult(writer, writer.fill(commandInt8).text(option).number(value));
+    return withResult(writer, writer.fill(commandInt8).word(option).number(value));
 }
 
 Statement EmitCommandOptionInt16(Writer& writer, const CFxString& option, std::int32_t value)
 {
-    return withResult(writer, writer.fill(commandInt16).text(option).number(value));
+    return withResult(writer, writer.fill(commandInt16).word(option).number(value));
 }
 
 Statement EmitCommandOptionInt32(Writer& writer, const CFxString& option, std::int32_t value)
 {
-    return withResult(writer, writer.fill(commandInt32).text(option).number(value));
+    return withResult(writer, writer.fill(commandInt32).word(option).number(value));
 }
 
 Statement EmitCommandOptionPoint2D(Writer& writer, const CFxString& option, const OdGePoint2d& value)
 {
-    return withResult(writer, writer.fill(commandPoint2D).text(option).shortReal(value.x).shortReal(value.y));
+    return withResult(writer, writer.fill(commandPoint2D).word(option).shortPlanePoint({value.x, value.y, 0.0}));
 }
 
 Statement EmitCommandOptionPoint3D(Writer& writer, const CFxString& option, const OdGePoint3d& value)
 {
-    return withResult(
-        writer, writer.fill(commandPoint3D).text(option).shortReal(value.x).shortReal(value.y).shortReal(value.z));
+    return withResult(writer, writer.fill(commandPoint3D).word(option).shortPoint(value));
 }
 
 Statement EmitCommandOptionString(Writer& writer, const CFxString& option, const CFxString& value)
 {
-    return withResult(writer, writer.fill(commandString).text(option).text(value));
+    return withResult(writer, writer.fill(commandString).word(option).text(value));
 }
 
 static const OptionModel applicationOption{
@@ -165,6 +169,8 @@ static const OptionModel applicationOption{
                  "SetApplicationOptionBool(Inkwright.iwApplicationOptionBool_e.%3, %4)%2",
         .vba = "%2%1iwApp.GetApplicationOptions()."
                "SetApplicationOptionBool Inkwright.iwApplicationOptionBool_e.%3, %4%2",
+        .python = "%1options = drawing.app.GetApplicationOptions()%2"
+                  "%1options.SetApplicationOptionBool(constants.%3, %4)%2",
     }};
 
 static const Phrase applicationBool{"EmitApplicationOptionBool", applicationOption.words};
@@ -183,25 +189,25 @@ static Statement withOptions(Writer& writer, Fill& statement)
 
 Statement EmitApplicationOptionBool(Writer& writer, const CFxString& option, bool value)
 {
-    return withOptions(writer, writer.fill(applicationBool).text(option).text(truthWord(writer.target, value)));
+    return withOptions(writer, writer.fill(applicationBool).word(option).word(truthWord(writer.target, value)));
 }
 
 Statement EmitApplicationOptionInt16(Writer& writer, const CFxString& option, std::int32_t value)
 {
-    return withOptions(writer, writer.fill(applicationInt16).text(option).number(value));
+    return withOptions(writer, writer.fill(applicationInt16).word(option).number(value));
 }
 
 Statement EmitApplicationOptionInt32(Writer& writer, const CFxString& option, std::int32_t value)
 {
-    return withOptions(writer, writer.fill(applicationInt32).text(option).number(value));
+    return withOptions(writer, writer.fill(applicationInt32).word(option).number(value));
 }
 
 Statement EmitApplicationOptionDouble(Writer& writer, const CFxString& option, double value)
 {
-    return withOptions(writer, writer.fill(applicationDouble).text(option).shortReal(value));
+    return withOptions(writer, writer.fill(applicationDouble).word(option).shortReal(value));
 }
 
 Statement EmitApplicationOptionString(Writer& writer, const CFxString& option, const CFxString& value)
 {
-    return withOptions(writer, writer.fill(applicationString).text(option).text(value));
+    return withOptions(writer, writer.fill(applicationString).word(option).text(value));
 }

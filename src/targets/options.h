@@ -4,7 +4,8 @@
 #include "statements/Writer.h"
 
 Statement EmitCommandOptionBool(Writer& writer, const CFxString& option, bool value);
-Statement EmitCommandOptionDouble(Writer& writer, const CFxString& option, double value);
+Statement EmitCommandOptionDouble(Writer& writer, const CFxString& option, double value,
+                                  inkmacro::Meaning meaning = inkmacro::Meaning::None);
 Statement EmitCommandOptionInt8(Writer& writer, const CFxString& option, std::int32_t value);
 Statement EmitCommandOptionInt16(Writer& writer, const CFxString& option, std::int32_t value);
 Statement EmitCommandOptionInt32(Writer& writer, const CFxString& option, std::int32_t value);

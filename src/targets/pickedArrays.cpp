@@ -5,8 +5,6 @@
 #include "statements/LineEnd.h"
 #include "statements/arrays.h"
 
-#include <QStringList>
-
 using namespace inkmacro;
 
 static const Phrase declareObjects{"array of picked objects",
@@ -46,6 +44,18 @@ static const Phrase sizePoints{"size of picked points",
                                    .javascript = "%1%3 = new Array(%4);%2",
                                }};
 
+// Where an array is an expression, it stands in the call.
+
+static const Phrase objectsInCall{"picked objects in the call",
+                                  {
+                                      .python = "objects(%1)",
+                                  }};
+
+static const Phrase pointsInCall{"picked points in the call",
+                                 {
+                                     .python = "reals(%1)",
+                                 }};
+
 static bool holdsObjects(const PickedArray& array)
 {
     return array.elements.index() == 0;
@@ -64,6 +74,8 @@ static Statement elementsOf(const ArrayPlace& place, const PickedArray& array)
         return objectLines(place, std::vector<QString>(names->begin(), names->end()));
     const Coordinates coordinates = spatial(std::get<1>(array.elements));
     const Target target = place.writer.target;
+    if (pointsInCall.has(target))
+        return coordinateList(place.writer, coordinates, NumberForm::Short);
     if (target == Target::CppCom || target == Target::VbNet)
         return pointLines(place, coordinates, NumberForm::Short);
     Statement lines;
@@ -74,12 +86,14 @@ static Statement elementsOf(const ArrayPlace& place, const PickedArray& array)
 
 Statement pickedArrays(Writer& writer, std::uint32_t number, std::span<const PickedArray> arrays)
 {
+    if (objectsInCall.has(writer.target))
+        return {};
     const Target target = writer.target;
     Statement text;
     const auto head = [&](const Phrase& ofObjects, const Phrase& ofPoints) {
         for (const PickedArray& array : arrays)
             text += writer.fill(holdsObjects(array) ? ofObjects : ofPoints)
-                        .text(array.name + QString::number(number))
+                        .word(array.name + QString::number(number))
                         .number(arrayBound(writer, lengthOf(array)))
                         .str();
     };
@@ -109,13 +123,25 @@ static const Phrase call{"call with picked arrays",
                              .javascript = "%1mSkMgr.%3(%4);%2",
                              .vbNet = "%1iwSketchManager.%3( %4 )%2",
                              .vba = "%1iwSketchManager.%3 %4%2",
+                             .python = "%1drawing.sketch.%3(%4)%2",
                          }};
 
-Statement callWithPicked(Writer& writer, const char* operation, std::uint32_t number,
-                         std::span<const char* const> names)
+static Statement argumentOf(Writer& writer, const PickedArray& array, std::uint32_t number)
 {
-    QStringList arguments;
-    for (const char* const name : names)
-        arguments.append(name + QString::number(number));
-    return writer.fill(call).text(QLatin1String(operation)).text(arguments.join(QLatin1String(", ")));
+    const QString name = array.name + QString::number(number);
+    const Phrase& inCall = holdsObjects(array) ? objectsInCall : pointsInCall;
+    return inCall.has(writer.target) ? writer.fillPlain(inCall).word(elementsOf({writer, name, number}, array)).str()
+                                     : Statement(name);
+}
+
+Statement callWithPicked(Writer& writer, const char* operation, std::uint32_t number,
+                         std::initializer_list<const PickedArray*> arrays)
+{
+    Statement arguments;
+    for (const PickedArray* const array : arrays) {
+        if (!arguments.isEmpty())
+            arguments += QStringLiteral(", ");
+        arguments += argumentOf(writer, *array, number);
+    }
+    return writer.fill(call).word(QLatin1String(operation)).word(arguments);
 }

@@ -15,8 +15,9 @@ struct PickedArray
     std::variant<std::vector<CFxString>, OdArray<OdGePoint3d>> elements;
 };
 
-/// Declares the arrays and fills them in their order. All their names end in the number.
+/// Declares the arrays and fills them in their order. All their names end in the number. Nothing where they stand in
+/// the call.
 Statement pickedArrays(Writer& writer, std::uint32_t number, std::span<const PickedArray> arrays);
-/// The operation of the sketch manager, with the arrays of these names.
+/// The operation of the sketch manager, with these arrays in its order.
 Statement callWithPicked(Writer& writer, const char* operation, std::uint32_t number,
-                         std::span<const char* const> names);
+                         std::initializer_list<const PickedArray*> arrays);

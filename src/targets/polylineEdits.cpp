@@ -19,11 +19,12 @@ static const Phrase reshape{"EmitPolylineFit",
                                 .javascript = "%1%2.%3();\n",
                                 .vbNet = "%1%2.%3()\n",
                                 .vba = "%1%2.%3\n",
+                                .python = "%1%2.%3()\n",
                             }};
 
 static Statement reshapePolyline(Writer& writer, const CFxString& polyline, const char* operation)
 {
-    return withSuccess(writer, writer.fillIndented(reshape).text(polyline).text(QLatin1String(operation)));
+    return withSuccess(writer, writer.fillIndented(reshape).word(polyline).word(QLatin1String(operation)));
 }
 
 Statement EmitPolylineFit(Writer& writer, const CFxString& polyline)
@@ -50,13 +51,14 @@ static const Phrase joinCurve{"EmitJoinPolyline",
                                   .javascript = "%1%3.%4(%5);%2",
                                   .vbNet = "%1%3.%4(%5)%2",
                                   .vba = "%1%3.%4( %5 )%2",
+                                  .python = "%1%3.%4(%5)%2",
                               }};
 static const Mend basicJoin(joinCurve, Target::Vba, "an object in parentheses stands for its default property",
                             "%1%3.%4 %5%2");
 
 static Statement join(Writer& writer, const CFxString& polyline, const char* operation, const CFxString& other)
 {
-    return withSuccess(writer, writer.fill(joinCurve).text(polyline).text(QLatin1String(operation)).text(other));
+    return withSuccess(writer, writer.fill(joinCurve).word(polyline).word(QLatin1String(operation)).word(other));
 }
 
 Statement EmitJoinPolyline(Writer& writer, const CFxString& polyline, const CFxString& other)
@@ -74,6 +76,8 @@ Statement EmitJoinCircleArc(Writer& writer, const CFxString& polyline, const CFx
     return join(writer, polyline, "JoinCircleArc", arc);
 }
 
+// The piece is a local that nothing asks for, so Python has none.
+
 static const Phrase splitPolyline3D{
     "EmitPolylineSplit",
     {
@@ -84,6 +88,7 @@ static const Phrase splitPolyline3D{
         .javascript = "%1var splittedPolyline3D%4 = %2.Split( %3 );\n",
         .vbNet = "%1Dim splittedPolyline3D%4 As Inkwright.PolyLine3D\n%1%2.Split(%3, splittedPolyline3D%4)\n",
         .vba = "%1Dim splittedPolyline3D%4 As Inkwright.PolyLine3D\n%1%2.Split %3, splittedPolyline3D%4\n",
+        .python = "%1%2.Split(%3)\n",
     }};
 
 static const Phrase splitPolyline2D{
@@ -96,13 +101,14 @@ static const Phrase splitPolyline2D{
         .javascript = "%1var splittedPolyline%4 = %2.Split( %3 );\n",
         .vbNet = "%1Dim splittedPolyline%4 As Inkwright.PolyLine\n%1%2.Split(%3, splittedPolyline%4)\n",
         .vba = "%1Dim splittedPolyline%4 As Inkwright.PolyLine\n%1%2.Split %3, splittedPolyline%4\n",
+        .python = "%1%2.Split(%3)\n",
     }};
 
 Statement EmitPolylineSplit(Writer& writer, const CFxString& polyline, int vertex, bool spatial)
 {
     return writer.fillIndented(spatial ? splitPolyline3D : splitPolyline2D)
-        .text(polyline)
-        .number(vertex)
+        .word(polyline)
+        .number(vertex, Meaning::Count)
         .number(++writer.UniqueCounter);
 }
 
@@ -116,6 +122,7 @@ static const Phrase placeVertex3D{"EmitAddVertexAfter",
                                       .javascript = "%1%2.%3( %4, %5, %6, %7 );\n",
                                       .vbNet = "%1%2.%3(%4, %5, %6, %7)\n",
                                       .vba = "%1%2.%3 %4, %5, %6, %7 \n",
+                                      .python = "%1%2.%3(%4, %5)\n",
                                   }};
 
 static const Phrase placeVertex2D{"EmitAddVertexAfter",
@@ -126,16 +133,15 @@ static const Phrase placeVertex2D{"EmitAddVertexAfter",
                                       .javascript = "%1%2.%3( %4, %5, %6 );\n",
                                       .vbNet = "%1%2.%3(%4, %5, %6)\n",
                                       .vba = "%1%2.%3 %4, %5, %6 \n",
+                                      .python = "%1%2.%3(%4, %5)\n",
                                   }};
 
 static Statement placeVertex(Writer& writer, const CFxString& polyline, const char* operation, int vertex,
                              const OdGePoint3d& point, bool spatial)
 {
     Fill statement = writer.fillIndented(spatial ? placeVertex3D : placeVertex2D);
-    statement.text(polyline).text(QLatin1String(operation)).number(vertex).shortReal(point.x).shortReal(point.y);
-    if (spatial)
-        statement.shortReal(point.z);
-    return withSuccess(writer, statement);
+    statement.word(polyline).word(QLatin1String(operation)).number(vertex, Meaning::Count);
+    return withSuccess(writer, spatial ? statement.shortPoint(point) : statement.shortPlanePoint(point));
 }
 
 Statement EmitAddVertexAfter(Writer& writer, const CFxString& polyline, int vertex, const OdGePoint3d& point,
@@ -158,11 +164,14 @@ static const Phrase straighten{"EmitPolylineStraighten",
                                    .javascript = "%1%2.Straighten( %3, %4 );\n",
                                    .vbNet = "%1%2.Straighten(%3, %4)\n",
                                    .vba = "%1%2.Straighten %3, %4 \n",
+                                   .python = "%1%2.Straighten(%3, %4)\n",
                                }};
 
 Statement EmitPolylineStraighten(Writer& writer, const CFxString& polyline, int first, int last)
 {
-    return withSuccess(writer, writer.fillIndented(straighten).text(polyline).number(first).number(last));
+    return withSuccess(
+        writer,
+        writer.fillIndented(straighten).word(polyline).number(first, Meaning::Count).number(last, Meaning::Count));
 }
 
 /// C++ declares its local and does not use it. It has to stay so.
@@ -180,6 +189,8 @@ static const Phrase setWidths{"EmitPolylineWidth",
                                            "%1%2.SetSegmentEndWidth(%3, %5)\n",
                                   .vba = "%1%2.SetSegmentStartWidth %3, %4 \n"
                                          "%1%2.SetSegmentEndWidth %3, %5 \n",
+                                  .python = "%1%2.SetSegmentStartWidth(%3, %4)\n"
+                                            "%1%2.SetSegmentEndWidth(%3, %5)\n",
                               }};
 static const Mend widthsWithSuccess(setWidths, Target::Cpp,
                                     "the local that tells the success is declared and not handed over",
@@ -188,8 +199,11 @@ static const Mend widthsWithSuccess(setWidths, Target::Cpp,
 
 Statement EmitPolylineWidth(Writer& writer, const CFxString& polyline, int segment, double start, double end)
 {
-    return withSuccess(writer,
-                       writer.fillIndented(setWidths).text(polyline).number(segment).shortReal(start).shortReal(end));
+    return withSuccess(writer, writer.fillIndented(setWidths)
+                                   .word(polyline)
+                                   .number(segment, Meaning::Count)
+                                   .shortReal(start, Meaning::Length)
+                                   .shortReal(end, Meaning::Length));
 }
 
 /// VBA has brackets here. It has to stay so.
@@ -201,9 +215,10 @@ static const Phrase deleteVertex{"EmitDeleteVertex",
                                      .javascript = "%1%2.DeleteVertex( %3 );\n",
                                      .vbNet = "%1%2.DeleteVertex(%3)\n",
                                      .vba = "%1%2.DeleteVertex( %3 )\n",
+                                     .python = "%1%2.DeleteVertex(%3)\n",
                                  }};
 
 Statement EmitDeleteVertex(Writer& writer, const CFxString& polyline, int vertex)
 {
-    return withSuccess(writer, writer.fillIndented(deleteVertex).text(polyline).number(vertex));
+    return withSuccess(writer, writer.fillIndented(deleteVertex).word(polyline).number(vertex, Meaning::Count));
 }

@@ -90,12 +90,12 @@ bool isXmlName(const QString& fileName)
            !fileName.contains(QChar(0xFFFF));
 }
 
-Statement fillProject(const char* words, std::initializer_list<Statement> values, std::optional<Target> language)
+Statement fillProject(const char* words, std::initializer_list<Statement> values, Template::Markers markers)
 {
-    const Template text(words, language);
-    Fill fill(&text, {language, RepairsMacros()});
+    const Template text(words, markers);
+    Fill fill(&text, {.repairs = RepairsMacros()});
     for (const Statement& value : values)
-        fill.text(value);
+        fill.word(value);
     return fill;
 }
 

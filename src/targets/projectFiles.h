@@ -9,7 +9,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
-#include <optional>
 #include <vector>
 
 namespace inkmacro {
@@ -35,9 +34,10 @@ QString msbuildItem(const QString& fileName);
 /// Whether an XML file can hold the name: not one of bytes that are no UTF-8.
 bool isXmlName(const QString& fileName);
 
-/// The words of a project's file with the values for their markers in turn. In a repaired project, what stands between
-/// the quotes of the language is escaped.
-Statement fillProject(const char* words, std::initializer_list<Statement> values, std::optional<Target> language = {});
+/// The words of a project's file with the values for their markers in turn. In a repaired project values hold no
+/// markers.
+Statement fillProject(const char* words, std::initializer_list<Statement> values,
+                      Template::Markers markers = Template::Markers::Ranked);
 
 /// Why a file that a stream was to fill is not whole. One that cannot be kept: it takes a further write.
 QString writeFailure(QFileDevice& file);

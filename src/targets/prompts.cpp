@@ -330,3 +330,8 @@ Statement EmitPromptKeyword(Writer& writer, const CFxString& prompt, const std::
     text += QString('\n');
     return text + writer.fill(promptKeyword).number(++writer.UniqueCounter).text(prompt).number(lists).str();
 }
+
+bool AsksWhereRecorded(const Writer& writer)
+{
+    return promptPoint.has(writer.target);
+}

@@ -18,3 +18,7 @@ Statement EmitPromptString(Writer& writer, const CFxString& prompt, const CFxStr
 /// `global` has at least as many elements as `local`.
 Statement EmitPromptKeyword(Writer& writer, const CFxString& prompt, const std::vector<CFxString>& local,
                             const std::vector<CFxString>& global);
+
+/// Whether prompts stand where they were recorded. In Python the answers are parameters of the command's function,
+/// which asks for them at its head.
+bool AsksWhereRecorded(const Writer& writer);

@@ -112,6 +112,8 @@ static const Phrase promptSelection{
                "%1        Set entities%3( i%3 ) = iwApp.GetActiveDocument().GetSelectionManager()."
                "GetSelectedObject(Inkwright.iwSelectionSetType_e.iwSelectionSetType_Previous, i%3, types%3( i%3 ))%2"
                "%1    Next%2%1End If%2",
+        .python = "%1message = drawing.app.GetCommandMessage()%2"
+                  "%1message.PromptForSelection(False, %6, \"\")%2",
     }};
 static const Mend keptSelection(promptSelection, Target::CppCom,
                                 "a pointer is taken out of a temporary, which lets go of the object",
@@ -127,6 +129,17 @@ static const Mend
                     "%1        var selected%3 = selectionMgr%3.GetSelectedObject(\"iwSelectionSetType_Previous\", i);%2"
                     "%1        entities%3[i] = selected%3[0];%2%1        types%3[i] = selected%3[1];%2%1    }%2%1}%2");
 
+bool TakesWhatIsSelected(const Writer& writer)
+{
+    return writer.target == Target::Python;
+}
+
+EntityList SelectedEntities()
+{
+    return {{"*(entity for entity, _ in selected(drawing))", "*(kind for _, kind in selected(drawing))", {}}};
+}
+
+/// Python has no arrays of what was recorded: the call behind the prompt makes them of what is selected then.
 Statement EmitPromptSelection(Writer& writer, const EntityList& entities)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
@@ -147,9 +160,9 @@ Statement EmitPromptSelection(Writer& writer, const EntityList& entities)
         names.push_back(known ? name.toQString() : found(findObject, "object"));
         const Statement search = known ? Statement() : writer.fill(lookUp).text(handle).number(number).str();
         typeLines += search + bareObjectTypeLine(typePlace, i, types.back()) +
-                     writer.fill(listedElement).text(types.back()).str();
+                     writer.fill(listedElement).word(types.back()).str();
         nameLines +=
-            search + bareObjectLine(namePlace, i, names.back()) + writer.fill(listedElement).text(names.back()).str();
+            search + bareObjectLine(namePlace, i, names.back()) + writer.fill(listedElement).word(names.back()).str();
     }
     if (writer.target == Target::CppCom) {
         typeLines = inOwnGroup(typePlace, [&](const ArrayPlace& place) { return objectTypeLines(place, types); });
@@ -158,8 +171,8 @@ Statement EmitPromptSelection(Writer& writer, const EntityList& entities)
     // The prompt is always the same, whatever the recording said.
     return writer.fill(promptSelection)
         .number(number)
-        .text(typeLines)
-        .text(nameLines)
+        .word(typeLines)
+        .word(nameLines)
         .text(QLatin1String("Select Objects: "))
         .number(arrayBound(writer, entities.size()));
 }

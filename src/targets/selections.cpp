@@ -11,7 +11,8 @@
 
 using namespace inkmacro;
 
-/// The selection by points and the filter have no statements in C++ COM, JavaScript and VB.NET.
+/// The selection by points and the filter have no statements in C++ COM, JavaScript and VB.NET. Python
+/// fetches the utility only where it makes points.
 static const Phrase selectionManager{
     "EmitSelectEntities",
     {
@@ -19,6 +20,7 @@ static const Phrase selectionManager{
         .csharp = "%1SelectionManager iwSelectionMgr%2 = iwDoc.GetSelectionManager();\n",
         .vba = "%1Dim iwSelectionMgr%2 As Inkwright.SelectionManager\n"
                "%1Set iwSelectionMgr%2 = iwDoc.GetSelectionManager()\n",
+        .python = "%1selection = drawing.doc.GetSelectionManager()\n",
     }};
 
 static const Phrase selectionMath{
@@ -36,12 +38,14 @@ static const Phrase declareFirst{"EmitSelectEntities",
                                      .vba = "%1Dim Point_%2_1 As Inkwright.MathPoint\n",
                                  }};
 
-static const Phrase createFirst{"EmitSelectEntities",
-                                {
-                                    .cpp = "%1iwMathUtility%2->CreatePoint(%3, %4, %5, &Point_%2_1);\n",
-                                    .csharp = "%1Point_%2_1 = iwMathUtility%2.CreatePoint(%3, %4, %5);\n",
-                                    .vba = "%1Set Point_%2_1 = iwMathUtility%2.CreatePoint(%3, %4, %5)\n",
-                                }};
+static const Phrase createFirst{
+    "EmitSelectEntities",
+    {
+        .cpp = "%1iwMathUtility%2->CreatePoint(%3, %4, %5, &Point_%2_1);\n",
+        .csharp = "%1Point_%2_1 = iwMathUtility%2.CreatePoint(%3, %4, %5);\n",
+        .vba = "%1Set Point_%2_1 = iwMathUtility%2.CreatePoint(%3, %4, %5)\n",
+        .python = "%1utility = drawing.app.GetMathUtility()\n%1first = utility.CreatePoint(%3)\n",
+    }};
 
 static const Phrase declareSecond{"EmitSelectEntities",
                                   {
@@ -55,6 +59,7 @@ static const Phrase createSecond{"EmitSelectEntities",
                                      .cpp = "%1iwMathUtility%2->CreatePoint(%3, %4, %5, &Point_%2_2);\n",
                                      .csharp = "%1Point_%2_2 = iwMathUtility%2.CreatePoint(%3, %4, %5);\n",
                                      .vba = "%1Set Point_%2_2 = iwMathUtility%2.CreatePoint(%3, %4, %5)\n",
+                                     .python = "%1second = utility.CreatePoint(%3)\n",
                                  }};
 
 static const Phrase selectByPoint{"EmitSelectEntities",
@@ -62,6 +67,7 @@ static const Phrase selectByPoint{"EmitSelectEntities",
                                       .cpp = "%1iwSelectionMgr%2->SelectByPoint(Point_%2_1);\n",
                                       .csharp = "%1iwSelectionMgr%2.SelectByPoint(Point_%2_1);\n",
                                       .vba = "%1iwSelectionMgr%2.SelectByPoint Point_%2_1\n",
+                                      .python = "%1selection.SelectByPoint(first)\n",
                                   }};
 
 static const Phrase selectInWindow{"EmitSelectEntities",
@@ -69,6 +75,7 @@ static const Phrase selectInWindow{"EmitSelectEntities",
                                        .cpp = "%1iwSelectionMgr%2->SelectByWindow(Point_%2_1, Point_%2_2, false);\n",
                                        .csharp = "%1iwSelectionMgr%2.SelectByWindow(Point_%2_1, Point_%2_2, false);\n",
                                        .vba = "%1iwSelectionMgr%2.SelectByWindow Point_%2_1, Point_%2_2, False\n",
+                                       .python = "%1selection.SelectByWindow(first, second, False)\n",
                                    }};
 
 static const Phrase selectCrossingWindow{
@@ -77,6 +84,7 @@ static const Phrase selectCrossingWindow{
         .cpp = "%1iwSelectionMgr%2->SelectByWindow(Point_%2_1, Point_%2_2, true);\n",
         .csharp = "%1iwSelectionMgr%2.SelectByWindow(Point_%2_1, Point_%2_2, true);\n",
         .vba = "%1iwSelectionMgr%2.SelectByWindow Point_%2_1, Point_%2_2, True\n",
+        .python = "%1selection.SelectByWindow(first, second, True)\n",
     }};
 
 static const Phrase coordinatesHead{"EmitSelectEntities",
@@ -91,6 +99,7 @@ static const Phrase selectByCrossline{"EmitSelectEntities",
                                           .cpp = "%1iwSelectionMgr%2->SelectByCrossline(doubleArray%2);\n",
                                           .csharp = "%1iwSelectionMgr%2.SelectByCrossline(doubleArray%2);\n",
                                           .vba = "%1iwSelectionMgr%2.SelectByCrossline doubleArray%2\n",
+                                          .python = "%1selection.SelectByCrossline(reals(%3))\n",
                                       }};
 
 static const Phrase selectByPolygon{"EmitSelectEntities",
@@ -98,6 +107,7 @@ static const Phrase selectByPolygon{"EmitSelectEntities",
                                         .cpp = "%1iwSelectionMgr%2->SelectByPolygon(doubleArray%2, true);\n",
                                         .csharp = "%1iwSelectionMgr%2.SelectByPolygon(doubleArray%2, true);\n",
                                         .vba = "%1iwSelectionMgr%2.SelectByPolygon doubleArray%2, True\n",
+                                        .python = "%1selection.SelectByPolygon(reals(%3), True)\n",
                                     }};
 
 static const Phrase selectedCount{
@@ -128,16 +138,20 @@ static Statement selectionCorners(Writer& writer, const OdArray<OdGePoint3d>& po
            writer.fillIndented(createSecond).number(selections).shortPoint(high).str();
 }
 
-/// All points are written to the same three places.
-static Statement selectionCoordinates(Writer& writer, const OdArray<OdGePoint3d>& points)
+/// All points are written to the same three places, but where no array is declared: there the call has all of them.
+static Statement selectionByCoordinates(Writer& writer, const OdArray<OdGePoint3d>& points, const Phrase& select)
 {
+    Fill call = writer.fillIndented(select);
+    call.number(selections);
+    if (!coordinatesHead.has(writer.target))
+        return call.word(coordinateList(writer, spatial(points), NumberForm::Short));
     Statement text =
         writer.fillIndented(coordinatesHead).number(selections).number(arrayBound(writer, 3U * points.length()));
     const ArrayPlace place(writer, "doubleArray" + QString::number(selections), selections, Brackets::Tight);
     for (const OdGePoint3d& point : points)
         text += realLine(place, 0, point.x, NumberForm::Short) + realLine(place, 1, point.y, NumberForm::Short) +
                 realLine(place, 2, point.z, NumberForm::Short);
-    return text;
+    return text += call.str();
 }
 
 static Statement selectionOf(Writer& writer, std::int32_t mode, const OdArray<OdGePoint3d>& points)
@@ -162,9 +176,9 @@ static Statement selectionOf(Writer& writer, std::int32_t mode, const OdArray<Od
     case kPolygon:
         // The corners of a box and its first point once more make five points; fewer are two corners.
         return points.length() < 5 ? selectionCorners(writer, points) + call(selectCrossingWindow)
-                                   : selectionCoordinates(writer, points) + call(selectByPolygon);
+                                   : selectionByCoordinates(writer, points, selectByPolygon);
     case kCrossline:
-        return selectionCoordinates(writer, points) + call(selectByCrossline);
+        return selectionByCoordinates(writer, points, selectByCrossline);
     default:
         NoteLoss("selection", "the way of selecting is not known");
         return {};
@@ -184,7 +198,11 @@ Statement EmitSelectEntities(Writer& writer, std::int32_t mode, const OdArray<Od
     Statement text;
     if (!hasManager)
         text += writer.fillIndented(selectionManager).number(selections);
-    text += writer.fillIndented(selectionMath).number(selections).str() + selectionOf(writer, mode, points) +
+    const Statement selection = selectionOf(writer, mode, points);
+    // Python has no locals that nothing asks for.
+    if (selection.isEmpty() && !selectedCount.has(writer.target))
+        return {};
+    text += writer.fillIndented(selectionMath).number(selections).str() + selection +
             writer.fillIndented(selectedCount).number(selections).str();
     ++selections;
     return text;
@@ -198,6 +216,7 @@ static const Phrase getSelectionFilter{
         .csharp = "%1SelectionFilter selectionFilter%2 = iwSelectionMgr%2.GetSelectionFilter();\n",
         .vba = "%1Dim selectionFilter%2 As Inkwright.SelectionFilter\n"
                "%1Set selectionFilter%2 = iwSelectionMgr%2.GetSelectionFilter()\n",
+        .python = "%1selection_filter = selection.GetSelectionFilter()\n",
     }};
 
 static const Phrase clearFilter{"EmitSelectionFilter",
@@ -205,6 +224,7 @@ static const Phrase clearFilter{"EmitSelectionFilter",
                                     .cpp = "%1selectionFilter%2->Clear();\n",
                                     .csharp = "%1selectionFilter%2.Clear();\n",
                                     .vba = "%1selectionFilter%2.Clear\n",
+                                    .python = "%1selection_filter.Clear()\n",
                                 }};
 
 static const Phrase addEntityType{"EmitSelectionFilter",
@@ -212,6 +232,7 @@ static const Phrase addEntityType{"EmitSelectionFilter",
                                       .cpp = "%1selectionFilter%2->AddEntityType(%3);\n",
                                       .csharp = "%1selectionFilter%2.AddEntityType(iwObjectType_e.%3);\n",
                                       .vba = "%1selectionFilter%2.AddEntityType Inkwright.iwObjectType_e.%3\n",
+                                      .python = "%1selection_filter.AddEntityType(constants.%3)\n",
                                   }};
 
 static const Phrase activateFilter{"EmitSelectionFilter",
@@ -219,6 +240,7 @@ static const Phrase activateFilter{"EmitSelectionFilter",
                                        .cpp = "%1selectionFilter%2->put_Active( true );\n",
                                        .csharp = "%1selectionFilter%2.Active = true;\n",
                                        .vba = "%1selectionFilter%2.Active = True\n",
+                                       .python = "%1selection_filter.Active = True\n",
                                    }};
 
 static const Phrase deactivateFilter{"EmitSelectionFilter",
@@ -226,6 +248,7 @@ static const Phrase deactivateFilter{"EmitSelectionFilter",
                                          .cpp = "%1selectionFilter%2->put_Active( false );\n",
                                          .csharp = "%1selectionFilter%2.Active = false;\n",
                                          .vba = "%1selectionFilter%2.Active = False\n",
+                                         .python = "%1selection_filter.Active = False\n",
                                      }};
 
 /// The filter is on only around the one selection.
@@ -240,7 +263,7 @@ Statement EmitSelectionFilter(Writer& writer, const OdArray<OdGePoint3d>& points
                      writer.fillIndented(getSelectionFilter).number(number).str() +
                      writer.fillIndented(clearFilter).number(number).str();
     for (const CFxString& type : typeNames)
-        text += writer.fillIndented(addEntityType).number(number).text(type).str();
+        text += writer.fillIndented(addEntityType).number(number).word(type).str();
     text += LineEnd;
     text += writer.fillIndented(activateFilter).number(number);
     text += EmitSelectEntities(writer, mode, points, true);

@@ -17,6 +17,7 @@ static const Phrase activateModel{
         .javascript = "%1mModel.Activate();%2%1mSkMgr = mModel.GetSketchManager();%2",
         .vbNet = "%1iwModel.Activate()%2%1iwSketchManager = iwModel.GetSketchManager()%2",
         .vba = "%1iwModel.Activate%2%1Set iwSketchManager = iwModel.GetSketchManager()%2",
+        .python = "%1drawing.model.Activate()%2%1drawing.sketch = drawing.model.GetSketchManager()%2",
     }};
 
 Statement EmitActivateModel(Writer& writer)
@@ -40,13 +41,15 @@ static const Phrase activateSheet{
                  "%1     iwSketchManager = iwSheet.GetSketchManager()%2%1End If%2",
         .vba = "%1Set iwSheet = iwDoc.GetSheet(\"%3\")%2%1If Not iwSheet Is Nothing Then%2%1     iwSheet.Activate%2"
                "%1     Set iwSketchManager = iwSheet.GetSketchManager()%2%1End If%2",
+        .python = "%1drawing.sheet = drawing.doc.GetSheet(%3)%2%1if drawing.sheet is not None:%2"
+                  "%1    drawing.sheet.Activate()%2%1    drawing.sketch = drawing.sheet.GetSketchManager()%2",
     }};
 
 Statement EmitActivateSheet(Writer& writer, const CFxString& sheetName, CFxString& sheetVariable)
 {
     sheetVariable = writer.target == Target::JavaScript ? "mSheet" : "iwSheet";
     writer.onSheet = true;
-    return writer.fill(activateSheet).text(sheetName);
+    return writer.fill(activateSheet).text(sheetName, Meaning::Text);
 }
 
 static const Phrase createSheet{"EmitCreateSheet",
@@ -58,11 +61,12 @@ static const Phrase createSheet{"EmitCreateSheet",
                                     .vbNet = "%1Dim sheet%4 As Inkwright.Sheet = iwDoc.CreateSheet(\"%3\")%2",
                                     .vba = "%1Dim sheet%4 As Inkwright.Sheet%2"
                                            "%1Set sheet%4 = iwDoc.CreateSheet(\"%3\")%2",
+                                    .python = "%1drawing.doc.CreateSheet(%3)%2",
                                 }};
 
 Statement EmitCreateSheet(Writer& writer, const CFxString& name)
 {
-    return writer.fill(createSheet).text(name).number(++writer.UniqueCounter);
+    return writer.fill(createSheet).text(name, Meaning::Text).number(++writer.UniqueCounter);
 }
 
 static const Phrase createSheetFromTemplate{
@@ -77,12 +81,17 @@ static const Phrase createSheetFromTemplate{
                  "iwDoc.CreateSheetByTemplate( \"%3\", \"%4\", \"%5\" )%2",
         .vba = "%1Dim template_sheet%6 As Inkwright.Sheet%2"
                "%1Set template_sheet%6 = iwDoc.CreateSheetByTemplate( \"%3\", \"%4\", \"%5\" )%2",
+        .python = "%1drawing.doc.CreateSheetByTemplate(%3, %4, %5)%2",
     }};
 
 Statement EmitCreateSheetFromTemplate(Writer& writer, const CFxString& file, const CFxString& source,
                                       const CFxString& name)
 {
-    return writer.fill(createSheetFromTemplate).text(file).text(source).text(name).number(++writer.UniqueCounter);
+    return writer.fill(createSheetFromTemplate)
+        .text(file, Meaning::Text)
+        .text(source, Meaning::Text)
+        .text(name, Meaning::Text)
+        .number(++writer.UniqueCounter);
 }
 
 /// C++ COM alone asks the application. JavaScript and VBA have the prefix of C++ texts, and in VBA the line end has
@@ -97,6 +106,7 @@ static const Phrase copySheet{"EmitCopySheet",
                                   .javascript = "%1mDoc.CopySheet(L\"%3\" , L\"%4\" );%2",
                                   .vbNet = "%1iwDoc.CopySheet(\"%3\" , \"%4\" )%2",
                                   .vba = "%1iwDoc.CopySheet(L\"%3\" , L\"%4\" )2",
+                                  .python = "%1drawing.doc.CopySheet(%3, %4)%2",
                               }};
 static const Mend basicCopy(copySheet, Target::Vba,
                             "texts have the prefix of C++, and the sign of the line end's placeholder is missing",
@@ -108,7 +118,7 @@ static const Mend scriptCopy(copySheet, Target::JavaScript, "texts with the pref
 
 Statement EmitCopySheet(Writer& writer, const CFxString& source, const CFxString& copy)
 {
-    return writer.fill(copySheet).text(source).text(copy);
+    return writer.fill(copySheet).text(source, Meaning::Text).text(copy, Meaning::Text);
 }
 
 /// Pages name a variable that nothing declares. It has to stay so.
@@ -127,6 +137,7 @@ static const Phrase renameSheet{
                  "%1   PreSheet%4.Name = \"%5\"%2%1End If%2",
         .vba = "%1Dim PreSheet%4 As Inkwright.Sheet%2%1Set PreSheet%4 = iwDoc.GetSheet(\"%3\")%2"
                "%1If Not PreSheet%4 Is Nothing Then%2%1   PreSheet%4.Name = \"%5\"%2%1End If%2",
+        .python = "%1sheet = drawing.doc.GetSheet(%3)%2%1if sheet is not None:%2%1    sheet.Name = %5%2",
     }};
 static const Mend bstrSheetName(renameSheet, Target::CppCom, literalIsNoBstr, textsAsBstr);
 static const Mend scriptRename(
@@ -135,7 +146,10 @@ static const Mend scriptRename(
 
 Statement EmitRenameSheet(Writer& writer, const CFxString& oldName, const CFxString& newName)
 {
-    return writer.fill(renameSheet).text(oldName).number(++writer.UniqueCounter).text(newName);
+    return writer.fill(renameSheet)
+        .text(oldName, Meaning::Text)
+        .number(++writer.UniqueCounter)
+        .text(newName, Meaning::Text);
 }
 
 static const Phrase removeSheet{"EmitRemoveSheet",
@@ -146,11 +160,12 @@ static const Phrase removeSheet{"EmitRemoveSheet",
                                     .javascript = "%1var mV = mDoc.RemoveSheet(\"%3\");%2",
                                     .vbNet = "%1iwDoc.RemoveSheet(\"%3\")%2",
                                     .vba = "%1iwDoc.RemoveSheet(\"%3\")%2",
+                                    .python = "%1drawing.doc.RemoveSheet(%3)%2",
                                 }};
 
 Statement EmitRemoveSheet(Writer& writer, const CFxString& name)
 {
-    return writer.fill(removeSheet).text(name);
+    return writer.fill(removeSheet).text(name, Meaning::Text);
 }
 
 /// JavaScript lacks the first marker, so that the values move up by one and the last is lost. It has to stay so.
@@ -162,6 +177,7 @@ static const Phrase setModelProperty{"EmitSetModelProperty",
                                          .javascript = "%mModel.put_%3( \"%4\" );%2",
                                          .vbNet = "%1iwModel.%3 = \"%4\"%2",
                                          .vba = "%1iwModel.%3 = \"%4\"%2",
+                                         .python = "%1drawing.model.%3 = %4%2",
                                      }};
 static const Mend bstrModelProperty(setModelProperty, Target::CppCom, literalIsNoBstr, textsAsBstr);
 static const Mend modelPropertyOfPage(
@@ -177,6 +193,7 @@ static const Phrase setSheetProperty{"EmitSetModelProperty",
                                          .javascript = "%3%1%4.put_%5( \"%6\" );%2",
                                          .vbNet = "%3%1%4.%5 = \"%6\"%2",
                                          .vba = "%3%1%4.%5 = \"%6\"%2",
+                                         .python = "%3%1sheet.%5 = %6%2",
                                      }};
 static const Mend wideSheetProperty(setSheetProperty, Target::Cpp, "a property of a sheet is given a narrow text",
                                     "%3%1%4->put_%5( L\"%6\" );%2");
@@ -194,6 +211,7 @@ static const Phrase fetchSheet{
         .javascript = "%1var styledSheet%3 = mDoc.GetSheet(\"%4\");%2",
         .vbNet = "%1Dim styledSheet%3 As Inkwright.Sheet = iwDoc.GetSheet(\"%4\")%2",
         .vba = "%1Dim styledSheet%3 As Inkwright.Sheet%2%1Set styledSheet%3 = iwDoc.GetSheet(\"%4\")%2",
+        .python = "%1sheet = drawing.doc.GetSheet(%4)%2",
     }};
 static const Fault kActivatesSheet{
     "EmitSetModelProperty",
@@ -204,7 +222,7 @@ Statement EmitSetModelProperty(Writer& writer, const CFxString& property, const 
                                const CFxString& sheetName)
 {
     if (ofModel)
-        return writer.fill(setModelProperty).text(property).text(value);
+        return writer.fill(setModelProperty).word(property).text(value);
     CFxString sheet;
     Statement fetch;
     if (writer.repairs) {
@@ -214,6 +232,6 @@ Statement EmitSetModelProperty(Writer& writer, const CFxString& property, const 
     } else {
         fetch = EmitActivateSheet(writer, sheetName, sheet);
     }
-    return writer.faulty(writer.fill(setSheetProperty).text(fetch).text(sheet).text(property).text(value),
+    return writer.faulty(writer.fill(setSheetProperty).word(fetch).word(sheet).word(property).text(value),
                          kActivatesSheet);
 }

@@ -7,16 +7,17 @@
 #include "targets/options.h"
 #include "targets/pickedArrays.h"
 
+using inkmacro::Meaning;
+
 /// The option raises the number between arrays and call, so the arrays' own is kept. It is the present one: it is not
 /// raised for them.
 static Statement cutByEdges(Writer& writer, const char* operation, std::int32_t edgeFlag,
                             const std::array<PickedArray, 3>& arrays)
 {
     const std::uint32_t number = writer.UniqueCounter;
-    const std::array<const char*, 3> names{arrays[0].name, arrays[1].name, arrays[2].name};
     Statement text = pickedArrays(writer, number, arrays);
     text += EmitCommandOptionInt16(writer, "iwCommandOptionInt16_EnblEdgeExtd", edgeFlag);
-    return text += callWithPicked(writer, operation, number, names);
+    return text += callWithPicked(writer, operation, number, {&arrays[0], &arrays[1], &arrays[2]});
 }
 
 Statement EmitTrimEntities(Writer& writer, const std::vector<CFxString>& cutting, const std::vector<CFxString>& removed,
@@ -47,27 +48,34 @@ static Statement cutCorner(Writer& writer, const char* operation, std::uint32_t&
                                              {"secondEntityArray", second.names},
                                              {"firstPointOnEntityDblArray", first.points},
                                              {"secondPointOnEntityDblArray", second.points}}};
-    const std::array<const char*, 4> inCall{arrays[2].name, arrays[0].name, arrays[3].name, arrays[1].name};
-    return pickedArrays(writer, number, arrays) + settings + callWithPicked(writer, operation, number, inCall);
+    return pickedArrays(writer, number, arrays) + settings +
+           callWithPicked(writer, operation, number, {&arrays[2], &arrays[0], &arrays[3], &arrays[1]});
 }
 
 Statement EmitFilletEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
                              std::optional<double> radius)
 {
     const Statement settings =
-        radius ? EmitCommandOptionDouble(writer, "iwCommandOptionDouble_SetFltRad", *radius) : Statement();
+        radius ? EmitCommandOptionDouble(writer, "iwCommandOptionDouble_SetFltRad", *radius, Meaning::Length)
+               : Statement();
     return cutCorner(writer, "FilletEntities", processCounters.fillets, first, second, settings);
 }
 
 Statement EmitChamferEntities(Writer& writer, const CornerSide& first, const CornerSide& second,
                               const ChamferSettings& settings)
 {
-    static constexpr std::array<const char*, 4> sizeOptions{
-        "iwCommandOptionDouble_SetChmfDst1", "iwCommandOptionDouble_SetChmfDst2", "iwCommandOptionDouble_SetChmfLen",
-        "iwCommandOptionDouble_SetChmfAng"};
+    struct SizeOption
+    {
+        const char* name;
+        Meaning meaning;
+    };
+    static constexpr std::array<SizeOption, 4> sizeOptions{{{"iwCommandOptionDouble_SetChmfDst1", Meaning::Length},
+                                                            {"iwCommandOptionDouble_SetChmfDst2", Meaning::Length},
+                                                            {"iwCommandOptionDouble_SetChmfLen", Meaning::Length},
+                                                            {"iwCommandOptionDouble_SetChmfAng", Meaning::Angle}}};
     Statement options;
     for (std::size_t i = 0; settings.sizes && i < sizeOptions.size(); ++i)
-        options += EmitCommandOptionDouble(writer, sizeOptions[i], (*settings.sizes)[i]);
+        options += EmitCommandOptionDouble(writer, sizeOptions[i].name, (*settings.sizes)[i], sizeOptions[i].meaning);
     options += EmitCommandOptionInt16(writer, "iwCommandOptionInt16_EnblChmfAng", settings.byAngle);
     options += EmitCommandOptionInt16(writer, "iwCommandOptionInt16_EnblFltTrm", settings.trims);
     return cutCorner(writer, "ChamferEntities", processCounters.chamfers, first, second, options);

@@ -1,11 +1,12 @@
 // The search for the pieces of a trim, which the generated program makes when it runs. One frame a target, filled from
-// one table of classes.
+// one table of classes; in Python a function of the macro.
 
 #include "targets/trimSearch.h"
 
 #include "host/db/OdDbClassMap.h"
 #include "statements/LineEnd.h"
 #include "statements/arrays.h"
+#include "statements/pythonLiterals.h"
 #include "targets/objectTypes.h"
 
 #include <QStringList>
@@ -320,7 +321,7 @@ struct Questions
 static Statement compared(Writer& writer, const Statement& value, int number)
 {
     const QString offset = number == 0 ? QString() : " + " + QString::number(number);
-    return writer.fillPlain(comparison).text(value).text(offset);
+    return writer.fillPlain(comparison).word(value).word(offset);
 }
 
 /// How a call names the local that it gives an answer to.
@@ -353,23 +354,23 @@ static void askPoint(Writer& writer, const PiecesOfClass& of, const ComparedPoin
     if (target == Target::Cpp && of.searched.tellsSuccess)
         arguments.append("&bRetVal");
     questions.calls += writer.fill(askForPoint)
-                           .text(of.stem)
-                           .text(QLatin1String(point.operation))
-                           .text(arguments.join(QLatin1String(", ")))
-                           .text(QLatin1String(point.local))
+                           .word(of.stem)
+                           .word(QLatin1String(point.operation))
+                           .word(arguments.join(QLatin1String(", ")))
+                           .word(QLatin1String(point.local))
                            .str();
 }
 
 static void askProperty(Writer& writer, const PiecesOfClass& of, const char* name, int number, Questions& questions)
 {
     if (property.has(writer.target)) {
-        const Statement value = writer.fillPlain(property).text(of.stem).text(QLatin1String(name));
+        const Statement value = writer.fillPlain(property).word(of.stem).word(QLatin1String(name));
         questions.comparisons.push_back(compared(writer, value, number));
         return;
     }
     const QString local = QChar(name[0]).toLower() + QString(name + 1);
     questions.locals.append(local);
-    questions.calls += writer.fill(askForProperty).text(of.stem).text(QLatin1String(name)).text(local).str();
+    questions.calls += writer.fill(askForProperty).word(of.stem).word(QLatin1String(name)).word(local).str();
     questions.comparisons.push_back(compared(writer, local, number));
 }
 
@@ -388,12 +389,12 @@ static Questions questionsOf(Writer& writer, const PiecesOfClass& of)
 
 static std::vector<Statement> declarationsOf(Writer& writer, const PiecesOfClass& of, const QStringList& locals)
 {
-    std::vector<Statement> lines{writer.fill(declareObject).text(of.stem).text(QLatin1String(of.type.name)).str()};
+    std::vector<Statement> lines{writer.fill(declareObject).word(of.stem).word(QLatin1String(of.type.name)).str()};
     if (!isBasic(writer.target))
-        lines.push_back(writer.fill(declareNumbers).text(locals.join(QLatin1String(", "))));
+        lines.push_back(writer.fill(declareNumbers).word(locals.join(QLatin1String(", "))));
     else
         for (const QString& local : locals)
-            lines.push_back(writer.fill(declareNumbers).text(local));
+            lines.push_back(writer.fill(declareNumbers).word(local));
     if (of.searched.tellsSuccess)
         lines.push_back(writer.fill(declareSuccess));
     return lines;
@@ -416,9 +417,9 @@ static Statement sectionOf(Writer& writer, const PiecesOfClass& of, bool first, 
     for (const auto& [number, ordinal] : of.pieces)
         assignments += writer.fill(assignVariable)
                            .number(qulonglong{number})
-                           .text(of.declared)
+                           .word(of.declared)
                            .number(ordinal)
-                           .text(of.stem)
+                           .word(of.stem)
                            .str();
 
     const Questions questions = questionsOf(writer, of);
@@ -432,13 +433,13 @@ static Statement sectionOf(Writer& writer, const PiecesOfClass& of, bool first, 
     }
     const Statement lines = joined(declarations, {});
     return writer.fill(testOfClass)
-        .text(assignments)
-        .text(first ? Statement() : writer.fillIndented(otherClass).str())
-        .text(objectTypeWord(writer.target, of.type.enumerator))
-        .text(of.stem)
-        .text(vba ? questions.calls : lines + questions.calls)
-        .text(joined(questions.comparisons, writer.fill(nextComparison)))
-        .text(vba ? lines : Statement(QString(of.type.name)));
+        .word(assignments)
+        .word(first ? Statement() : writer.fillIndented(otherClass).str())
+        .word(objectTypeWord(writer.target, of.type.enumerator))
+        .word(of.stem)
+        .word(vba ? questions.calls : lines + questions.calls)
+        .word(joined(questions.comparisons, writer.fill(nextComparison)))
+        .word(vba ? lines : Statement(QString(of.type.name)));
 }
 
 /// The box around the piece's place is as wide as the comparison is exact.
@@ -528,19 +529,66 @@ static const Phrase searchLoop{
                "%1Next%2%2",
     }};
 
+/// A search that is a function of the macro: it is handed the function that tells the numbers of an object of the
+/// class.
+static const Phrase findPiece{"EmitTrimEntities: piece",
+                              {
+                                  .python = "%1drawing.%3 = find_piece(drawing, %4, (%5), %6_numbers, (%7))%2",
+                              }};
+
+/// The numbers that are held against those of an object of the class.
+static QString comparedNumbers(const SearchedClass& searched, const TrimPiece& piece)
+{
+    QStringList numbers;
+    std::size_t first = 0;
+    const auto add = [&](int count) {
+        for (int i = 0; i < count; ++i)
+            numbers.append(pythonReal(piece.numbers[first + static_cast<std::size_t>(i)]));
+    };
+    for (std::size_t i = 0; i < searched.points.size(); ++i, first += 3)
+        add(searched.axes);
+    add(static_cast<int>(searched.properties.size()));
+    return numbers.join(QLatin1String(", "));
+}
+
+/// A statement a piece.
+static Statement searchesFor(Writer& writer, const std::vector<TrimPiece>& pieces)
+{
+    Statement text;
+    for (const TrimPiece& piece : pieces) {
+        const auto searched = std::ranges::find_if(searchedClasses(), [&](const SearchedClass& candidate) {
+            return FindInterface(oddbClassByName(QString::fromLatin1(candidate.name.data()))) ==
+                   FindInterface(piece.entry.cls);
+        });
+        if (searched == searchedClasses().end())
+            continue;
+        const InterfaceType& type = *FindInterface(piece.entry.cls);
+        text += writer.fill(findPiece)
+                    .word(NumberedVariable(piece.entry.cls, piece.entry.ordinal))
+                    .word(objectTypeWord(writer.target, type.enumerator))
+                    .shortVector({piece.place.x, piece.place.y, piece.place.z})
+                    .word(QString(type.name).toLower())
+                    .word(comparedNumbers(*searched, piece))
+                    .str();
+    }
+    return text;
+}
+
 Statement trimSearch(Writer& writer, const std::vector<TrimPiece>& pieces)
 {
+    if (findPiece.has(writer.target))
+        return searchesFor(writer, pieces);
     const std::vector<PiecesOfClass> classes = byClass(writer.target, pieces);
     Statement resets;
     Statement sections;
     std::vector<Statement> declared;
     for (const PiecesOfClass& of : classes) {
         for (const NumberedPiece& piece : of.pieces)
-            resets += writer.fill(resetVariable).text(of.declared).number(piece.ordinal).str();
+            resets += writer.fill(resetVariable).word(of.declared).number(piece.ordinal).str();
         sections += sectionOf(writer, of, sections.isEmpty(), declared);
     }
     if (!sections.isEmpty())
         sections += writer.fill(endOfTests).str();
     return numbersOf(writer, pieces) + resets +
-           writer.fill(searchLoop).number(qulonglong{pieces.size()}).text(sections).str();
+           writer.fill(searchLoop).number(qulonglong{pieces.size()}).word(sections).str();
 }

@@ -9,7 +9,7 @@
 
 using namespace inkmacro;
 
-/// JavaScript declares with `var` where an object is first assigned.
+/// JavaScript declares with `var` where an object is first assigned, Python not at all.
 static const Phrase declareVariable{"EmitVariableDeclaration",
                                     {
                                         .cpp = "%1%3 %4%5;%2",
@@ -39,9 +39,9 @@ static Statement declaration(Writer& writer, const ActionEntry& entry)
     const CFxString& stem = writer.target == Target::Cpp ? names->stem : names->lower;
     // The curly targets but COM put the type in front of the name.
     if (writer.target == Target::Cpp || writer.target == Target::CSharp)
-        return writer.fill(declareVariable).text(type).text(stem).number(entry.ordinal);
+        return writer.fill(declareVariable).word(type).word(stem).number(entry.ordinal);
     return untyped(writer.target, type,
-                   writer.fill(declareVariable).text(stem).number(entry.ordinal).text(type).str().text());
+                   writer.fill(declareVariable).word(stem).number(entry.ordinal).word(type).str().text());
 }
 
 Statement EmitVariableDeclaration(Writer& writer, const ActionEntry& entry)
@@ -70,17 +70,18 @@ static const Phrase getLayer{
         .vba = "%1Dim iwLayerManager_%3 As Inkwright.LayerManager%2"
                "%1Set iwLayerManager_%3  = iwDoc.GetLayerManager()%2%1Dim %4 As Inkwright.Layer%2"
                "%1Set %4  = iwLayerManager_%3.GetLayer( \"0\" )%2",
+        .python = "%1layers = drawing.doc.GetLayerManager()%2%1%4 = layers.GetLayer(%5)%2",
     }};
 static const Mend layerInPage(
     getLayer, Target::JavaScript, "the page has no iwDoc, its document is mDoc",
     "%1var iwLayerManager_%3 = mDoc.GetLayerManager();%2%1var %4 = iwLayerManager_%3.LayerManager.GetLayer( \"0\" );%2");
 
-/// The layer's name is always "0": the default layer is fetched into the variable, and the statements that follow set
-/// the recorded properties on it.
+/// The layer's name is always "0", but in Python: the default layer is fetched into the variable, and the statements
+/// that follow set the recorded properties on it.
 Statement EmitGetLayer(Writer& writer, const CFxString& variable, const CFxString& layer)
 {
-    const Statement text = writer.fill(getLayer).number(++processCounters.layerManagers).text(variable);
-    if (layer.toQString() == "0")
+    const Statement text = writer.fill(getLayer).number(++processCounters.layerManagers).word(variable).text(layer);
+    if (layer.toQString() == "0" || writer.target == Target::Python)
         return text;
     return writer.mended(text, kLayerZero,
                          QString(text.text()).replace("\"0\"", '"' + writer.quoted(layer).text() + '"'));

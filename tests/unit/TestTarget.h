@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+/// Those that have faults, groups and numbered locals; Python's macros are run (tests/tools/check_python.py).
 inline constexpr inkmacro::Target allTargets[] = {
     inkmacro::Target::Cpp,        inkmacro::Target::CppCom, inkmacro::Target::CSharp,
     inkmacro::Target::JavaScript, inkmacro::Target::VbNet,  inkmacro::Target::Vba,
@@ -68,6 +69,8 @@ struct TestTexts
             return vbNet;
         case Target::Vba:
             return vba;
+        case Target::Python:
+            break;
         }
         return nullptr;
     }

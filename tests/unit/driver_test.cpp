@@ -77,7 +77,7 @@ QString lineStatement(int ordinal, int level)
 
 TEST_F(Driver, RefusesLanguagesThatNoTargetHas)
 {
-    EXPECT_EQ(CreateConverter(6, 0, 0), nullptr);
+    EXPECT_EQ(CreateConverter(7, 0, 0), nullptr);
     EXPECT_EQ(CreateConverter(0xffffffff, 0, 0), nullptr);
     const auto converter = CreateConverter(1, 0, 0x123456789abcdef0);
     ASSERT_NE(converter, nullptr);

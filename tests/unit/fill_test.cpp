@@ -94,7 +94,7 @@ QString byFill(const std::string& literal, const Values& values)
         std::visit(Overloaded{
                        [&](Indent indent) { fill.indent(indent.level); },
                        [&](const QString& string) { fill.text(string); },
-                       [&](QLatin1String string) { fill.text(string); },
+                       [&](QLatin1String string) { fill.word(string); },
                        [&](Long real) { fill.real(real.value); },
                        [&](Short real) { fill.shortReal(real.value); },
                        [&](auto integer) { fill.number(integer); },
@@ -534,8 +534,9 @@ TEST(Format, EqualsArgOnRandomNumbers)
 
 TEST(Phrase, HasTheLiteralsOfItsTargets)
 {
-    const Phrase phrase{"EmitTest",
-                        {.cpp = "0", .cppCom = "4", .csharp = "1", .javascript = "2", .vbNet = "3", .vba = "5"}};
+    const Phrase phrase{
+        "EmitTest",
+        {.cpp = "0", .cppCom = "4", .csharp = "1", .javascript = "2", .vbNet = "3", .vba = "5", .python = "6"}};
     EXPECT_STREQ(phrase.name(), "EmitTest");
     for (unsigned char code = 0; code < targetCount; ++code) {
         EXPECT_EQ(Fill(phrase.in(Target{code})).str(), QString::number(code));

@@ -411,6 +411,8 @@ TEST_F(Frames, TellWhereTheirHeadsSuitNoSheet)
         "a text closes the literal that it stands in, or is read as another text there";
     static constexpr char noManager[] = "a recording that began on a sheet without a name has no sketch manager";
     for (const TargetRow& row : targetTable) {
+        if (!isRecorders(row.target))
+            continue;
         const QString macro = QString("plate.") + QString::fromStdString(std::string(row.extension));
         const auto convert = [&](const char* sheet) {
             begin(false, sheet);

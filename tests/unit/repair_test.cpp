@@ -161,38 +161,56 @@ TEST(Quoting, MakesLegalNames)
         EXPECT_EQ(legalName(name), expected) << name;
 }
 
-Statement filled(const char* literal, const QStringList& values, const FillMode& mode)
+/// A value of a statement.
+struct Value
 {
-    const Template words(literal, mode.target);
+    QString words;
+    bool isText = false; ///< one of the user's, which stands between quotes
+};
+
+Value text(const char* words)
+{
+    return {words, true};
+}
+
+Value word(const char* words)
+{
+    return {words, false};
+}
+
+Statement filled(const char* literal, const std::vector<Value>& values, const FillMode& mode)
+{
+    const Template words(literal,
+                         mode.target == Target::Python ? Template::Markers::Counted : Template::Markers::Ranked);
     Fill fill = Fill(&words, mode);
-    for (const QString& value : values)
-        fill.text(value);
+    for (const Value& value : values)
+        value.isText ? fill.text(value.words) : fill.word(value.words);
     return fill;
 }
 
-TEST(RepairedFill, EscapesBetweenQuotesOnlyAndReadsNoMarkers)
+TEST(RepairedFill, EscapesTextsOnlyAndReadsNoMarkers)
 {
     struct Case
     {
         Target target;
         const char* literal;
-        QStringList values;
+        std::vector<Value> values;
         const char* expected;
     };
     const Case cases[] = {
-        {Target::CSharp, R"(%1f( "%3", %4 );%2)", {"", "\n", "%4\"", "b\"%9"}, "f( \"%4\\u0022\", b\"%9 );\n"},
-        {Target::CSharp, R"(f( "a\"%1" + %1 ))", {"\""}, R"(f( "a\"\u0022" + " ))"},
-        {Target::CSharp, R"(f( "\\", %1, '"', %2 ))", {"\"", "\\"}, R"(f( "\\", ", '"', \ ))"},
-        {Target::CSharp, R"(// isn't "it%1f( "%2" );)", {"\n", "\""}, "// isn't \"it\nf( \"\\u0022\" );"},
-        {Target::Cpp, R"(f( L"%2%1" ))", {"\\", "%1"}, R"(f( L"%1\134" ))"},
-        {Target::JavaScript, R"(f( '%1', %2 ))", {"it's", "'"}, R"(f( 'it\u0027s', ' ))"},
-        {Target::VbNet, R"(f( "a""%1", %2 ))", {"\"", "\""}, R"(f( "a""""", " ))"},
-        {Target::VbNet, R"(' isn't%1f( "%2" ))", {"\n", "\""}, "' isn't\nf( \"\"\"\" )"},
-        {Target::Vba, R"(f "it's", %1, "%2")", {"\"", "\""}, R"(f "it's", ", """")"},
-        {Target::Vba, R"(f "C:\" & "%1" & %2)", {"\\\"", "\""}, R"(f "C:\" & "\""" & ")"},
+        {Target::CSharp,
+         R"(%1f( "%3", %4 );%2)",
+         {word(""), word("\n"), text("%4\""), word("b\"%9")},
+         "f( \"%4\\u0022\", b\"%9 );\n"},
+        {Target::CSharp, R"(f( "a\"%1", "%1" ))", {text("\"")}, R"(f( "a\"\u0022", "\u0022" ))"},
+        {Target::Cpp, R"(f( L"%2%1" ))", {text("\\"), text("%1")}, R"(f( L"%1\134" ))"},
+        {Target::JavaScript, R"(f( '%1', %2 ))", {text("it's"), word("'")}, R"(f( 'it\u0027s', ' ))"},
+        {Target::VbNet, R"(f( "a""%1", %2 ))", {text("\""), word("\"")}, R"(f( "a""""", " ))"},
+        {Target::Vba, R"(f "C:\" & "%1" & %2)", {text("\\\""), word("\"")}, R"(f "C:\" & "\""" & ")"},
+        {Target::Python, R"(f(%1, %3))", {text("a\"b"), text("left out"), word("x")}, R"(f('a"b', x))"},
         // A value without a marker is dropped, a marker without a value stays.
-        {Target::Vba, R"(f "%1")", {"%2", "3"}, R"(f "%2")"},
-        {Target::Vba, R"(f "%1", %2)", {"%2"}, R"(f "%2", %2)"},
+        {Target::Vba, R"(f "%1")", {text("%2"), word("3")}, R"(f "%2")"},
+        {Target::Vba, R"(f "%1", %2)", {text("%2")}, R"(f "%2", %2)"},
     };
     for (const Case& one : cases)
         EXPECT_EQ(filled(one.literal, one.values, {one.target, true}), one.expected) << one.literal;
@@ -204,33 +222,35 @@ TEST(FaithfulFill, NotesTextsAtFaultAndChangesNothingElse)
     {
         Target target;
         const char* literal;
-        QStringList values;
+        std::vector<Value> values;
         bool noted;
     };
     const Case cases[] = {
-        {Target::CSharp, R"(f( "%1", %2 );)", {"a", "b"}, false},
-        {Target::CSharp, R"(f( "%1", %2 );)", {"a\"", "b"}, true},
-        {Target::CSharp, R"(f( "%1", %2 );)", {"a", "b\""}, false},
-        {Target::CSharp, R"(f( "%1", %2 );)", {"C:\\temp", "b"}, true},
-        {Target::Vba, R"(f "%1", %2)", {"C:\\temp", "b"}, false},
-        {Target::JavaScript, R"(f( "%1" );)", {"it's"}, false},
+        {Target::CSharp, R"(f( "%1", %2 );)", {text("a"), word("b")}, false},
+        {Target::CSharp, R"(f( "%1", %2 );)", {text("a\""), word("b")}, true},
+        {Target::CSharp, R"(f( "%1", %2 );)", {text("a"), word("b\"")}, false},
+        {Target::CSharp, R"(f( "%1", %2 );)", {text("C:\\temp"), word("b")}, true},
+        {Target::Vba, R"(f "%1", %2)", {text("C:\\temp"), word("b")}, false},
+        {Target::JavaScript, R"(f( "%1" );)", {text("it's")}, false},
         // A later value stands in the text's marker.
-        {Target::CSharp, R"(f( %1, %2 );)", {"50%2", "b"}, true},
-        {Target::CSharp, R"(f( %1, %2 );)", {"50%1", "b"}, true},
-        {Target::CSharp, R"(f( %1 );)", {"50%9", "b"}, true},
+        {Target::CSharp, R"(f( %1, %2 );)", {word("50%2"), word("b")}, true},
+        {Target::CSharp, R"(f( %1, %2 );)", {word("50%1"), word("b")}, true},
+        {Target::CSharp, R"(f( %1 );)", {word("50%9"), word("b")}, true},
         // No later value does: it takes the lower marker, or there is none.
-        {Target::CSharp, R"(f( %1, %2 );)", {"50%9", "b"}, false},
-        {Target::CSharp, R"(f( %1, %2 );)", {"a", "50%9"}, false},
-        {Target::CSharp, R"(f( %1, %2 );)", {"50%", "b"}, false},
-        {Target::CSharp, R"(f( %1 );)", {"50%1"}, false},
+        {Target::CSharp, R"(f( %1, %2 );)", {word("50%9"), word("b")}, false},
+        {Target::CSharp, R"(f( %1, %2 );)", {word("a"), word("50%9")}, false},
+        {Target::CSharp, R"(f( %1, %2 );)", {word("50%"), word("b")}, false},
+        {Target::CSharp, R"(f( %1 );)", {word("50%1")}, false},
     };
     for (const Case& one : cases) {
         const Statement outcome = filled(one.literal, one.values, {one.target, false, true});
         QString expected(one.literal);
-        for (const QString& value : one.values)
+        std::string shown = std::string(one.literal) + " with";
+        for (const Value& value : one.values) {
+            shown += " | " + value.words.toStdString();
             if (expected.contains('%'))
-                expected = expected.arg(value);
-        const std::string shown = std::string(one.literal) + " with " + one.values.join(" | ").toStdString();
+                expected = expected.arg(value.words);
+        }
         EXPECT_EQ(outcome, expected) << shown;
         EXPECT_EQ(outcome.hasNotes(), one.noted) << shown;
         EXPECT_EQ(filled(one.literal, one.values, {one.target}), expected) << shown;
@@ -254,7 +274,7 @@ TEST(ShortNumbers, KeepTheirDigitsInRepairedMacrosAndAreNotedInOthers)
         {1234567, "1.23457e+06", "1234567.00000000000000"},
         {-3.14159265358979, "-3.14159", "-3.14159265358979"},
     };
-    const Template words("f( %1 );", Target::CSharp);
+    const Template words("f( %1 );");
     for (const auto& [value, faithful, repaired] : cases) {
         const Statement outcome = Fill(&words, {Target::CSharp, false, true}).shortReal(value);
         EXPECT_EQ(outcome.hasNotes(), repaired != nullptr) << value;
@@ -280,10 +300,10 @@ TEST(StatementNotes, StayWithTheTextBehindThem)
             for (const QString& other : {QString("b"), QString("%3 7"), QString()})
                 for (const bool repairs : {false, true}) {
                     const QString shown = QString(text) + " in " + outer + " with " + other;
-                    const Template words(outer, Target::CSharp);
+                    const Template words(outer);
                     const Statement noted(text, {{QString(text).indexOf('#'), &fault}});
                     const Statement outcome =
-                        Fill(&words, {Target::CSharp, repairs}).text(noted).text(other).text(QString("c")).str();
+                        Fill(&words, {Target::CSharp, repairs}).word(noted).word(other).word(QString("c")).str();
                     QString plain(outer);
                     for (const QString& value : {QString(text), other, QString("c")})
                         if (plain.contains('%'))

@@ -413,7 +413,7 @@ const Row rows[] = {
 TEST(TextStatements, TakeTheFormOfTheirTarget)
 {
     for (const Row& row : rows)
-        for (std::size_t code = 0; code < targetCount; ++code) {
+        for (std::size_t code = 0; code < std::size(allTargets); ++code) {
             TestTarget made(static_cast<Target>(code));
             made.writer.UniqueCounter = 7;
             EXPECT_EQ(brief(textOf(row.write(made.writer))).toStdString(), row.expected[code])

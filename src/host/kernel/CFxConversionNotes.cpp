@@ -33,6 +33,7 @@ void CFxConversionNotes::Forget()
     ForgetKnown();
     losses_ = {};
     assumptions_ = {};
+    parameters_.clear();
     faults_.clear();
     faultKinds_.clear();
 }

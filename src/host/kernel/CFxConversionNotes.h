@@ -41,6 +41,15 @@ struct CFxFaultNote
     bool operator==(const CFxFaultNote&) const = default;
 };
 
+/// An answer at a prompt that is a parameter of its command's function, in macros that have functions.
+struct CFxParameterNote
+{
+    CFxActionPlace where; ///< of the prompt
+    CFxString function;
+    CFxString name; ///< with an index where it is one of several
+    bool operator==(const CFxParameterNote&) const = default;
+};
+
 /// What a run of lines does in its macro.
 enum class CFxMacroPart : std::uint8_t
 {
@@ -69,11 +78,12 @@ public:
     class Action
     {
     public:
-        Action(CFxConversionNotes& notes, std::uint32_t number) : notes_(notes)
+        /// `begins`: it is told to the host; false of an action that was converted before.
+        Action(CFxConversionNotes& notes, std::uint32_t number, bool begins = true) : notes_(notes)
         {
             notes_.ForgetKnown();
             notes_.place_.push_back(number);
-            if (notes_.onAction_)
+            if (begins && notes_.onAction_)
                 notes_.onAction_();
         }
         ~Action()
@@ -123,6 +133,14 @@ public:
     }
     std::size_t GetAssumptionCount() const { return assumptions_.count; }
     const std::vector<CFxAssumption>& GetAssumptions() const { return assumptions_.kept; }
+
+    void NoteParameter(const CFxString& function, const CFxString& name)
+    {
+        if (keepsAll_)
+            parameters_.push_back({place_, function, name});
+    }
+    /// Empty when they are not kept.
+    const std::vector<CFxParameterNote>& GetParameters() const { return parameters_; }
 
     /// Kept whether all is or not, since they are few: places of the same `kind`, which is the address of what the
     /// module knows of the fault, in the same file are one. `note` makes it, without lines.
@@ -183,6 +201,7 @@ private:
     bool keepsAll_ = true;
     ActionNotes losses_;
     ActionNotes assumptions_;
+    std::vector<CFxParameterNote> parameters_;
     std::vector<CFxFaultNote> faults_;
     std::vector<const void*> faultKinds_; ///< of each of the faults
 };

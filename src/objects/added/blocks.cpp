@@ -7,7 +7,6 @@
 #include "objects/added/readers.h"
 #include "objects/blockContents.h"
 #include "objects/targets/customData.h"
-#include "statements/RecordingState.h"
 
 namespace {
 
@@ -19,10 +18,10 @@ OdArray<OdDbObjectId> entitiesOf(const OdDbBlockTableRecord& record)
     return ids;
 }
 
-CFxString descriptionOf(const OdDbBlockTableRecord& record)
+CFxString descriptionOf(const Writer& writer, const OdDbBlockTableRecord& record)
 {
     CFxString description = record.comments();
-    if (!RepairsMacros())
+    if (!writer.repairs)
         description.replace("\n", "\\n");
     return description;
 }
@@ -30,8 +29,9 @@ CFxString descriptionOf(const OdDbBlockTableRecord& record)
 /// A revision cloud is a block without a name, which no drawing has before the macro runs.
 Statement defineCloud(const AddedObject& added, const OdDbBlockTableRecord& record)
 {
-    return CreateBlockDefinition(added.conversion, {added.name, CFxString(anonymousBlockName), false,
-                                                    descriptionOf(record), record.origin(), entitiesOf(record)});
+    return CreateBlockDefinition(added.conversion,
+                                 {added.name, CFxString(anonymousBlockName), false, descriptionOf(added.writer, record),
+                                  record.origin(), entitiesOf(record)});
 }
 
 /// An external reference is inserted with two factors, and never rotated.
@@ -109,7 +109,7 @@ Statement ReadBlockDefinition(AddedObject& added)
         if (name.IsNull())
             contents.name = record->getName();
         if (description.IsNull())
-            contents.description = descriptionOf(*record);
+            contents.description = descriptionOf(added.writer, *record);
     } else if (!objects.IsNull()) {
         AssumeProperty(added.object, "origin", "the drawing does not have the block, which gives 0,0,0");
     }

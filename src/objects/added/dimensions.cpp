@@ -58,7 +58,8 @@ Statement withTextRotation(Statement insertion, AddedObject& added)
         return insertion;
     CFxString general;
     insertion += EmitGetOptions(added.writer, generalDimension, added.name, general);
-    return insertion + EmitSetDoubleProperty(added.writer, general, "TextRotation", rotation.GetDouble());
+    return insertion +
+           EmitSetDoubleProperty(added.writer, general, "TextRotation", rotation.GetDouble(), inkmacro::Meaning::Angle);
 }
 
 /// A line without a variable is drawn anew.

@@ -11,6 +11,7 @@
 #include "statements/wording.h"
 
 using inkmacro::escapeWithBackslashes;
+using inkmacro::Meaning;
 
 namespace {
 
@@ -26,14 +27,15 @@ Statement setNote(const AddedObject& leader, const OdDbMText& note)
     text += EmitSetBoolProperty(writer, name, "UseDrawingBackgroundColor", note.useBackgroundColorOn());
     if (const std::optional<OdCmColor>& color = note.getBackgroundFillColor())
         text += EmitSetColor(writer, name, "BackgroundFillColor", *color);
-    text += EmitSetDoubleProperty(writer, name, "BackgroundBorderOffsetFactor", note.getBackgroundScaleFactor());
+    text += EmitSetDoubleProperty(writer, name, "BackgroundBorderOffsetFactor", note.getBackgroundScaleFactor(),
+                                  Meaning::Factor);
     // Lines at a factor of 1 are five thirds of the text height apart.
     const double lineDistance = note.textHeight() * note.lineSpacingFactor() * 1.6666666666666667;
-    text += EmitSetDoubleProperty(writer, name, "LineSpaceDistance", lineDistance);
-    text += EmitSetDoubleProperty(writer, name, "LineSpaceFactor", note.lineSpacingFactor());
-    text += EmitSetDoubleProperty(writer, name, "Rotation", note.rotation());
-    text += EmitSetDoubleProperty(writer, name, "TextHeight", note.textHeight());
-    text += EmitSetDoubleProperty(writer, name, "Width", note.width());
+    text += EmitSetDoubleProperty(writer, name, "LineSpaceDistance", lineDistance, Meaning::Length);
+    text += EmitSetDoubleProperty(writer, name, "LineSpaceFactor", note.lineSpacingFactor(), Meaning::Factor);
+    text += EmitSetDoubleProperty(writer, name, "Rotation", note.rotation(), Meaning::Angle);
+    text += EmitSetDoubleProperty(writer, name, "TextHeight", note.textHeight(), Meaning::Length);
+    text += EmitSetDoubleProperty(writer, name, "Width", note.width(), Meaning::Length);
 
     // Attachments are counted by rows from the top left; of the vertical modes the top one is the highest.
     if (note.attachment() >= 1 && note.attachment() <= 9) {

@@ -71,5 +71,6 @@ Statement ReadSpline(AddedObject& added)
     Statement text = EmitInsertSpline(added.writer, fitPoints, closed, start, end, added.name);
     if (tolerance.IsNull())
         return text;
-    return text + EmitSetDoubleProperty(added.writer, added.name, "FitTolerance", tolerance.GetDouble());
+    return text + EmitSetDoubleProperty(added.writer, added.name, "FitTolerance", tolerance.GetDouble(),
+                                        inkmacro::Meaning::Length);
 }

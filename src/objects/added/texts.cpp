@@ -93,7 +93,8 @@ Statement ReadTextStyle(AddedObject& added)
 
     Statement text = EmitCreateTextStyle(added.writer, added.name, name);
     if (!font.IsNull())
-        text += EmitSetProperty(added.writer, added.name, "Font", doubleBackslashes(font.GetString()), true);
+        text += EmitSetProperty(added.writer, added.name, "Font", doubleBackslashes(font.GetString()), true,
+                                inkmacro::Meaning::Text);
     return text;
 }
 
@@ -170,14 +171,14 @@ Statement ReadNote(AddedObject& added)
     Statement text = EmitInsertNote(added.writer, box.first, box.second, contents, added.name);
     if (begun != shown)
         text = added.writer.faulty(std::move(text), kOtherBox);
-    const auto setReal = [&](const char* property, const CFxVariant& value) {
+    const auto setReal = [&](const char* property, const CFxVariant& value, inkmacro::Meaning meaning) {
         if (!value.IsNull())
-            text += EmitSetDoubleProperty(added.writer, added.name, property, value.GetDouble());
+            text += EmitSetDoubleProperty(added.writer, added.name, property, value.GetDouble(), meaning);
     };
-    setReal("Rotation", rotation);
-    setReal("TextHeight", textHeight);
-    setReal("Width", width);
-    setReal("LineSpaceDistance", lineSpaceDistance);
+    setReal("Rotation", rotation, inkmacro::Meaning::Angle);
+    setReal("TextHeight", textHeight, inkmacro::Meaning::Length);
+    setReal("Width", width, inkmacro::Meaning::Length);
+    setReal("LineSpaceDistance", lineSpaceDistance, inkmacro::Meaning::Length);
     if (!style.IsNull()) {
         const CFxString styleName =
             style.GetType() == CFxVariant::kId ? added.nameOf("Style", style.GetId(), nameOfTextStyle) : wordOf(style);

@@ -15,10 +15,10 @@ const ChangeGroups modifiedPicture{
     {integer, "Brightness", "Brightness"},
     {integer, "Contrast", "Contrast"},
     {integer, "Fade", "Fade"},
-    {real, "Height", "Height"},
-    {real, "Rotation", "Rotation"},
-    {real, "Scale", "ScaleImage"},
-    {real, "Width", "Width"},
+    {length, "Height", "Height"},
+    {angle, "Rotation", "Rotation"},
+    {factor, "Scale", "ScaleImage"},
+    {length, "Width", "Width"},
     {anyYes, "Show clipped", "ShowClipped"},
     {anyYes, "Show image", "ShowImage"},
     {otherTransparency, "Transparency", "Transparency"},
@@ -28,7 +28,7 @@ const ChangeGroups modifiedPicture{
 static const ChangeGroups modifiedBlockInstance{
     {point, "Position", "Position"},
     {scale, "Scale", "Scales"},
-    {real, "Rotation", "Rotation"},
+    {angle, "Rotation", "Rotation"},
 };
 
 /// An attribute of the block is a record in a group of its own, with the attribute's tag.

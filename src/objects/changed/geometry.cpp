@@ -15,8 +15,8 @@ const ChangeGroups modifiedPolyline3D{
 };
 
 const ChangeGroups modifiedPolyline{
-    {real, "Elevation", "Elevation"},
-    {real, "Global width", "GlobalWidth"},
+    {length, "Elevation", "Elevation"},
+    {length, "Global width", "GlobalWidth"},
     {indexedReal, "Start segment width", "SetSegmentStartWidth"},
     {indexedReal, "End segment width", "SetSegmentEndWidth"},
     {vertex2D, "Vertex"},
@@ -27,7 +27,7 @@ const ChangeGroups modifiedPolyline{
 const ChangeGroups modifiedSpline{
     {indexedPoint, "Control point", "ControlPointCoordinate"},
     {indexedPoint, "Fit point", "FitPointCoordinate"},
-    {real, "Fit tolerance", "FitTolerance"},
+    {length, "Fit tolerance", "FitTolerance"},
 };
 
 const ChangeGroups modifiedPolygonMesh{
@@ -55,27 +55,27 @@ const ChangeGroups modifiedFace{
 
 const ChangeGroups modifiedRichLine{
     {enumText(inkmacro::enums::richLineJustification), "RLine justification", "Justification"},
-    {real, "RLine scale", "Scale"},
+    {factor, "RLine scale", "Scale"},
 };
 
 const ChangeGroups modifiedShape{
-    {point, "Position", "Position"}, {real, "Obliquing", "Obliquing"},      {real, "Rotation", "Rotation"},
-    {real, "Size", "Size"},          {real, "Width factor", "WidthFactor"},
+    {point, "Position", "Position"}, {angle, "Obliquing", "Obliquing"},       {angle, "Rotation", "Rotation"},
+    {length, "Size", "Size"},        {factor, "Width factor", "WidthFactor"},
 };
 
 const ChangeGroups modifiedEmbeddedObject{
-    {real, "Height", "Height"},
+    {length, "Height", "Height"},
     {point, "Position", "Position"},
-    {real, "Width", "Width"},
+    {length, "Width", "Width"},
     {enumText(inkmacro::enums::embeddedObjectPrintQuality), "Print quality", "PrintQuality"},
 };
 
 const ChangeGroups modifiedViewport{
     {point, "Center", "Center"},
-    {real, "Height", "Height"},
-    {real, "Width", "Width"},
+    {length, "Height", "Height"},
+    {length, "Width", "Width"},
     {exactYes, "CCS per viewport", "CCSPerViewport"},
-    {real, "Custom scale", "CustomScale"},
+    {factor, "Custom scale", "CustomScale"},
     {exactYes, "Display locked", "DisplayLocked"},
     {exactYes, "On", "IsOn"},
     {enumText(inkmacro::enums::viewportShadePrintStyle), "Shade print", "ShadePrintStyle"},
@@ -93,8 +93,8 @@ void ConvertModifiedLine(Conversion& conversion, const RecordedObject& object, P
 
 /// The host records a new radius with all that depends on it, so that one change sets the radius up to four times.
 const ChangeGroups modifiedCircle{
-    {radiusFromArea, "Area"},         {point, "Center", "Center"}, {radiusFromCircumference, "Circumference"},
-    {radiusFromDiameter, "Diameter"}, {real, "Radius", "Radius"},
+    {radiusFromArea, "Area"},         {point, "Center", "Center"},  {radiusFromCircumference, "Circumference"},
+    {radiusFromDiameter, "Diameter"}, {length, "Radius", "Radius"},
 };
 
 const ChangeGroups modifiedPoint{{position, "Position"}};
@@ -103,15 +103,19 @@ const ChangeGroups modifiedRay{{point, "Base point", "BasePoint"}, {point, "Seco
 
 const ChangeGroups modifiedArc{
     {point, "Center", "Center"},
-    {real, "End Angle", "EndAngle"},
-    {real, "Radius", "Radius"},
-    {real, "Start Angle", "StartAngle"},
+    {angle, "End Angle", "EndAngle"},
+    {length, "Radius", "Radius"},
+    {angle, "Start Angle", "StartAngle"},
 };
 
 const ChangeGroups modifiedInfiniteLine{{firstPoint, "Base point"}, {secondPoint, "Second point"}};
 
 /// The tags are in another case than those of an arc.
 const ChangeGroups modifiedEllipse{
-    {point, "Center", "Center"},           {real, "End angle", "EndAngle"},       {real, "Major radius", "MajorRadius"},
-    {real, "Minor radius", "MinorRadius"}, {real, "Radius ratio", "RadiusRatio"}, {real, "Start angle", "StartAngle"},
+    {point, "Center", "Center"},
+    {angle, "End angle", "EndAngle"},
+    {length, "Major radius", "MajorRadius"},
+    {length, "Minor radius", "MinorRadius"},
+    {factor, "Radius ratio", "RadiusRatio"},
+    {angle, "Start angle", "StartAngle"},
 };

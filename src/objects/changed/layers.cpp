@@ -11,7 +11,7 @@ using namespace kinds;
 
 /// The sense of "Show" is turned round, and two of the host's operations are misspelt: it all has to stay.
 static const ChangeGroups modifiedLayer{
-    {anyQuoted, "Description", "Description"},
+    {contents, "Description", "Description"},
     {color, "Color", "Color"},
     {lineStyle, "LineStyle", "LineStyle"},
     {lineWeight, "LineWeight", "LineWeight"},
@@ -35,7 +35,7 @@ static const ChangeGroups modifiedLayer{
 
 const ChangeGroups modifiedGroup{
     {richLineStyleName, "Name"},
-    {anyQuoted, "Description", "Description"},
+    {contents, "Description", "Description"},
     {plainYes, "SelectableEntities", "Selectable"},
 };
 

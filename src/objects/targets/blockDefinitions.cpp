@@ -20,6 +20,7 @@ static const Phrase entitiesHead{
         .javascript = "%2%1var objects_%3 = new Array(%4);%2",
         .vbNet = "%2%1Dim objects_%3 As DispatchWrapper()%2%1objects_%3 = New DispatchWrapper( %4 ) {}%2",
         .vba = "%2%1Dim objects_%3( %4 ) As Object%2",
+        .python = "%1entities = objects(%3)%2",
     }};
 
 static const Phrase typesHead{"EmitCreateBlockDefinition",
@@ -31,6 +32,7 @@ static const Phrase typesHead{"EmitCreateBlockDefinition",
                                   .javascript = "%2%1var objecttypes_%3 = new Array(%4);%2",
                                   .vbNet = "%2%1Dim objecttypes_%3 As Integer() = New Integer( %4 ) {}%2",
                                   .vba = "%2%1Dim objecttypes_%3( %4 ) As iwObjectType_e%2",
+                                  .python = "%1types = integers(%3)%2",
                               }};
 
 static Statement entityArrays(Writer& writer, const BlockDefinition& definition, std::uint32_t number)
@@ -43,6 +45,9 @@ static Statement entityArrays(Writer& writer, const BlockDefinition& definition,
     const int bound = arrayBound(writer, types.size());
     const ArrayPlace objects(writer, "objects_" + QString::number(number), number);
     const ArrayPlace objectTypes(writer, "objecttypes_" + QString::number(number), number);
+    if (writer.target == Target::Python)
+        return writer.fill(typesHead).word(objectTypeLines(objectTypes, types)).str() +
+               writer.fill(entitiesHead).word(objectLines(objects, definition.entities)).str();
     Statement text = writer.fill(entitiesHead).number(number).number(bound).str() +
                      objectLines(objects, definition.entities) +
                      writer.fill(typesHead).number(number).number(bound).str();
@@ -69,6 +74,8 @@ static const Phrase createDefinition{
                  "Inkwright.iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing )%2",
         .vba = "%1 Set %8 = iwDoc.CreateBlockDefinition( \"%3\", \"%4\", %5, %6, %7, objecttypes_%9, objects_%9, "
                "Inkwright.iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing )%2",
+        .python = "%1%6 = drawing.doc.CreateBlockDefinition(%3, %4, %5, types, entities, "
+                  "constants.iwBlockDefinitionEntities_RemoveFromDrawing)%2",
     }};
 
 static const Phrase renewDefinition{
@@ -92,6 +99,9 @@ static const Phrase renewDefinition{
         .vba = "%1Dim blkName_%9 As String%2%1blkName_%9 = %8.GetName()%2%2"
                "%1 Set %8 = iwDoc.CreateBlockDefinition( %3, \"%4\", %5, %6, %7, objecttypes_%9, objects_%9, "
                "Inkwright.iwBlockDefinitionEntities_e.iwBlockDefinitionEntities_RemoveFromDrawing )%2",
+        .python = "%1name = %6.GetName()%2"
+                  "%1%6 = drawing.doc.CreateBlockDefinition(name, %4, %5, types, entities, "
+                  "constants.iwBlockDefinitionEntities_RemoveFromDrawing)%2",
     }};
 static const Mend keptBlockName(
     renewDefinition, Target::CppCom, "the old name is taken out of a temporary, which frees it",
@@ -120,6 +130,7 @@ static const Phrase getBlockName{"EmitCreateBlockDefinition",
                                      .javascript = "%1 %4Name = %3.GetName();%2",
                                      .vbNet = "%1 %4Name = %3.GetName()%2",
                                      .vba = "%1 %4Name = %3.GetName()%2",
+                                     .python = "%1name = %3.GetName()%2",
                                  }};
 
 static bool isAnonymous(const BlockDefinition& definition)
@@ -127,30 +138,36 @@ static bool isAnonymous(const BlockDefinition& definition)
     return definition.name.toQString() == anonymousBlockName;
 }
 
-static QString definitionVariable(const BlockDefinition& definition)
+/// In Python an anonymous definition is a local of the function, which nothing but its name is asked of.
+static QString definitionVariable(const Writer& writer, const BlockDefinition& definition)
 {
-    return definition.variable.toQString() + (isAnonymous(definition) ? "Def" : "");
+    if (!isAnonymous(definition))
+        return definition.variable.toQString();
+    return writer.target == Target::Python ? QStringLiteral("definition") : definition.variable.toQString() + "Def";
 }
 
 Statement EmitOpenBlockDefinition(Writer& writer, const BlockDefinition& definition)
 {
-    return isAnonymous(definition) ? EmitDeclareObject(writer, "BlockDefinition", definitionVariable(definition))
-                                   : QString();
+    return isAnonymous(definition)
+               ? EmitDeclareObject(writer, "BlockDefinition", definitionVariable(writer, definition))
+               : QString();
 }
 
 Statement EmitCreateBlockDefinition(Writer& writer, const BlockDefinition& definition)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
-    const QString variable = definitionVariable(definition);
+    const QString variable = definitionVariable(writer, definition);
     Statement text = entityArrays(writer, definition, number);
-    text += writer.fill(definition.renewed ? renewDefinition : createDefinition)
-                .text(definition.renewed ? "blkName_" + QString::number(number) : definition.name.toQString())
-                .text(definition.description)
-                .point(definition.origin)
-                .text(variable)
-                .number(number);
-    if (isAnonymous(definition))
-        text += LineEnd + writer.fill(declareBlockName).text(definition.variable).str() + LineEnd +
-                writer.fill(getBlockName).text(variable).text(definition.variable).str();
-    return text;
+    Fill call = writer.fill(definition.renewed ? renewDefinition : createDefinition);
+    if (definition.renewed)
+        call.word("blkName_" + QString::number(number));
+    else
+        call.text(definition.name, Meaning::Text);
+    call.text(definition.description, Meaning::Text).point(definition.origin).word(variable).number(number);
+    text += call.str();
+    if (!isAnonymous(definition))
+        return text;
+    if (declareBlockName.has(writer.target))
+        text += LineEnd + writer.fill(declareBlockName).word(definition.variable).str() + LineEnd;
+    return text + writer.fill(getBlockName).word(variable).word(definition.variable).str();
 }

@@ -32,6 +32,7 @@ static const Phrase insertBlock{
         .javascript = "%1var %11 = mSkMgr.InsertBlock2(\"%3\", %4, %5, %6, %7, %8, %9, %10);%2",
         .vbNet = "%1%11 = iwSketchManager.InsertBlock2( \"%3\", %4, %5, %6, %7, %8, %9, %10 )%2",
         .vba = "%1Set %11 = iwSketchManager.InsertBlock2( \"%3\", %4, %5, %6, %7, %8, %9, %10 )%2",
+        .python = "%1%9 = drawing.sketch.InsertBlock2(%3, %4, %5, %6, %7, %8)%2",
     }};
 
 /// The block's name is only known when the macro runs.
@@ -45,20 +46,23 @@ static const Phrase insertAnonymousBlock{
         .javascript = "%1var %11 = mSkMgr.InsertBlock2(%3, %4, %5, %6, %7, %8, %9, %10);%2",
         .vbNet = "%1%11 = iwSketchManager.InsertBlock2( %3, %4, %5, %6, %7, %8, %9, %10 )%2",
         .vba = "%1Set %11 = iwSketchManager.InsertBlock2( %3, %4, %5, %6, %7, %8, %9, %10 )%2",
+        .python = "%1%9 = drawing.sketch.InsertBlock2(name, %4, %5, %6, %7, %8)%2",
     }};
 
 Statement EmitInsertBlock(Writer& writer, const CFxString& block, const Placement& placement, const CFxString& name)
 {
     const bool anonymous = block.toQString() == anonymousBlockName;
-    const CFxString word = anonymous ? CFxString(name.toQString() + "Name") : block;
-    return inActiveSpace(writer, writer.fill(anonymous ? insertAnonymousBlock : insertBlock)
-                                     .text(word)
-                                     .point(placement.position)
-                                     .real(placement.scales.sx)
-                                     .real(placement.scales.sy)
-                                     .real(placement.scales.sz)
-                                     .real(placement.rotation)
-                                     .text(name));
+    Fill insertion = writer.fill(anonymous ? insertAnonymousBlock : insertBlock);
+    if (anonymous)
+        insertion.word(name.toQString() + "Name");
+    else
+        insertion.text(block, Meaning::Text);
+    return inActiveSpace(writer, insertion.point(placement.position)
+                                     .real(placement.scales.sx, Meaning::Factor)
+                                     .real(placement.scales.sy, Meaning::Factor)
+                                     .real(placement.scales.sz, Meaning::Factor)
+                                     .real(placement.rotation, Meaning::Angle)
+                                     .word(name));
 }
 
 static const Phrase insertExternalReference{
@@ -70,12 +74,18 @@ static const Phrase insertExternalReference{
         .javascript = "%1var %9 = mSkMgr.InsertExternalReference(\"%3\", %4, %5, %6, %7, %8);%2",
         .vbNet = "%1%9 = iwSketchManager.InsertExternalReference(  \"%3\", %4, %5, %6, %7, %8)%2",
         .vba = "%1Set %9 = iwSketchManager.InsertExternalReference(  \"%3\", %4, %5, %6, %7, %8)%2",
+        .python = "%1%7 = drawing.sketch.InsertExternalReference(%3, %4, %5, %6)%2",
     }};
 
 Statement EmitInsertExternalReference(Writer& writer, const CFxString& path, const OdGePoint3d& position,
                                       const OdGeScale3d& scales, const CFxString& name)
 {
-    return writer.fill(insertExternalReference).text(path).point(position).real(scales.sx).real(scales.sy).text(name);
+    return writer.fill(insertExternalReference)
+        .text(path, Meaning::Text)
+        .point(position)
+        .real(scales.sx, Meaning::Factor)
+        .real(scales.sy, Meaning::Factor)
+        .word(name);
 }
 
 static const Phrase insertPicture{
@@ -88,6 +98,7 @@ static const Phrase insertPicture{
         .javascript = "%1var %9 = mSkMgr.InsertPicture(\"%3\", %4, %5, %6, %7, %8);%2",
         .vbNet = "%1%9 = iwSketchManager.InsertPicture(  \"%3\", %4, %5, %6, %7, %8 )%2",
         .vba = "%1Set %9 = iwSketchManager.InsertPicture(  \"%3\", %4, %5, %6, %7, %8 )%2",
+        .python = "%1%7 = drawing.sketch.InsertPicture(%3, %4, %5, %6)%2",
     }};
 
 /// C# alone has the backslashes of the path doubled. It has to stay so.
@@ -95,8 +106,12 @@ Statement EmitInsertPicture(Writer& writer, const CFxString& path, const OdGePoi
                             double rotation, const CFxString& name)
 {
     const EscapedText word = writer.target == Target::CSharp ? doubleBackslashes(path) : EscapedText(path);
-    return inActiveSpace(writer,
-                         writer.fill(insertPicture).text(word).point(position).real(scale).real(rotation).text(name));
+    return inActiveSpace(writer, writer.fill(insertPicture)
+                                     .text(word, Meaning::Text)
+                                     .point(position)
+                                     .real(scale, Meaning::Factor)
+                                     .real(rotation, Meaning::Angle)
+                                     .word(name));
 }
 
 static const Phrase insertShape{"EmitInsertShape",
@@ -107,12 +122,18 @@ static const Phrase insertShape{"EmitInsertShape",
                                     .javascript = "%1var %9 = mSkMgr.InsertShape(\"%3\", %4, %5, %6, %7, %8);%2",
                                     .vbNet = "%1%9 = iwSketchManager.InsertShape( \"%3\", %4, %5, %6, %7, %8 )%2",
                                     .vba = "%1Set %9 = iwSketchManager.InsertShape( \"%3\", %4, %5, %6, %7, %8 )%2",
+                                    .python = "%1%7 = drawing.sketch.InsertShape(%3, %4, %5, %6)%2",
                                 }};
 
 Statement EmitInsertShape(Writer& writer, const CFxString& shape, const OdGePoint3d& position, double size,
                           double rotation, const CFxString& name)
 {
-    return writer.fill(insertShape).text(shape).point(position).real(size).real(rotation).text(name);
+    return writer.fill(insertShape)
+        .text(shape, Meaning::Text)
+        .point(position)
+        .real(size, Meaning::Length)
+        .real(rotation, Meaning::Angle)
+        .word(name);
 }
 
 static const Phrase blockAttributeValue{
@@ -145,6 +166,8 @@ static const Phrase blockAttributeValue{
                "%1Dim iwAttribute%3 As Variant%2%1For Each iwAttribute%3 In iwAttributes%3%2"
                "%1    If iwAttribute%3.Name = \"%5\" Then%2%1        iwAttribute%3.%6 = \"%7\"%2%1    End If%2"
                "%1Next%2",
+        .python = "%1for attribute in %4.GetAttributeInstances():%2%1    if attribute.Name == %5:%2"
+                  "%1        attribute.%6 = %7%2",
     }};
 static const Mend bstrAttributeValue(blockAttributeValue, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
@@ -153,8 +176,8 @@ Statement EmitBlockAttributeValue(Writer& writer, const CFxString& variable, con
 {
     return writer.fill(blockAttributeValue)
         .number(++writer.UniqueCounter)
-        .text(variable)
+        .word(variable)
         .text(tag)
-        .text(property)
-        .text(value);
+        .word(property)
+        .text(value, Meaning::Text);
 }

@@ -32,7 +32,8 @@ static constexpr Words eraseWords{.cpp = "%1%3->put_Erased( true );%2",
                                   .csharp = "%1%3.Erased = true;%2",
                                   .javascript = "%1%3.put_Erased(true);%2",
                                   .vbNet = "%1%3.Erased = true%2",
-                                  .vba = "%1%3.Erased = True%2"};
+                                  .vba = "%1%3.Erased = True%2",
+                                  .python = "%1%3.Erased = True%2"};
 
 static constexpr Words withScript(Words words, const char* script)
 {
@@ -267,10 +268,16 @@ QString numbered(const TemporaryKind& kind, std::uint32_t number)
     return kind.stem + QString::number(number);
 }
 
+/// In Python all kinds have one row of numbers, since their variables are locals that no parameter may be named like.
+QString variableOf(Writer& writer, const TemporaryKind& kind, std::uint32_t number)
+{
+    return writer.target == Target::Python ? "edge_" + QString::number(++writer.UniqueCounter) : numbered(kind, number);
+}
+
 Statement insertTemporary(Writer& writer, const TemporaryKind& kind, const OdDbObject& object, const QString& name)
 {
     const QString declared = writer.target == Target::CSharp ? QLatin1String(kind.type) + (' ' + name) : name;
-    return writer.fill(kind.declare).text(name).text(QLatin1String(kind.type)).str() +
+    return writer.fill(kind.declare).word(name).word(QLatin1String(kind.type)).str() +
            kind.insert(writer, object, {name, declared});
 }
 
@@ -280,16 +287,16 @@ const Fault kForeignNumber{"EmitInsertHatchByEntities: erasure of a region",
 
 /// Regions are erased by the present number of tables where their own should stand, in C++, C# and JavaScript. It has
 /// to stay so.
-Statement eraseTemporary(Writer& writer, const TemporaryKind& kind, std::uint32_t number)
+Statement eraseTemporary(Writer& writer, const TemporaryKind& kind, const QString& name, std::uint32_t number)
 {
     const Target target = writer.target;
     if (&kind.erase != &eraseRegion)
-        return writer.fill(kind.erase).text(numbered(kind, number));
+        return writer.fill(kind.erase).word(name);
     const auto erase = [&](std::uint32_t named) {
         Fill statement = writer.fill(kind.erase);
         if (target == Target::Vba)
             statement.number(named);
-        return statement.text(numbered(kind, named)).str();
+        return statement.word(named == number ? name : numbered(kind, named)).str();
     };
     const std::uint32_t tables = processCounters.of(target).boundaryEntities[kTable];
     const bool misled =
@@ -307,6 +314,9 @@ void loseBoundary(const OdDbObject& object)
 BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<BoundaryObject>& boundary)
 {
     auto& counters = processCounters.of(writer.target).boundaryEntities;
+    // No other local of Python has a number, so each hatch begins anew.
+    if (writer.target == Target::Python)
+        writer.UniqueCounter = 0;
     BoundaryEntities entities;
     for (const BoundaryObject& entity : boundary) {
         const OdDbObjectPtr object = entity.id.openObject(true);
@@ -323,9 +333,9 @@ BoundaryEntities EmitBoundaryEntities(Writer& writer, const std::vector<Boundary
             continue;
         }
         std::uint32_t& counter = counters[static_cast<std::size_t>(kind - boundaryKinds)];
-        const QString name = numbered(*kind, counter);
+        const QString name = variableOf(writer, *kind, counter);
         entities.insertion += insertTemporary(writer, *kind, *object, name);
-        entities.erasure += eraseTemporary(writer, *kind, counter);
+        entities.erasure += eraseTemporary(writer, *kind, name, counter);
         entities.names.push_back(name);
         ++counter;
     }
@@ -343,7 +353,8 @@ Statement EmitRegionBoundaryCurves(Writer& writer, const CFxString& variable, co
             loseBoundary(*piece);
             continue;
         }
-        const QString name = numbered(*kind, counters.regionPieces[static_cast<std::size_t>(kind - pieceKinds)]++);
+        const QString name =
+            variableOf(writer, *kind, counters.regionPieces[static_cast<std::size_t>(kind - pieceKinds)]++);
         text += insertTemporary(writer, *kind, *piece, name);
         names.append(name);
     }

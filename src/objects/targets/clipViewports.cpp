@@ -33,6 +33,7 @@ static const Phrase clipPolyline2D{
                  "%5pLine_%3 = iwSketchManager.InsertPolyline2D( Coordinates%3, %2 )%4",
         .vba = "Dim pLine_%3 As Inkwright.PolyLine%4%5Dim Coordinates%3(%6) As Double%4%1%4"
                "%5Set pLine_%3 = iwSketchManager.InsertPolyline2D( Coordinates%3, %2 )%4",
+        .python = "clip = drawing.sketch.InsertPolyline2D(reals(%1), %2)",
     }};
 
 static const Phrase clipPolyline3D{
@@ -49,34 +50,41 @@ static const Phrase clipPolyline3D{
                  "%5pLine_%3 = iwSketchManager.InsertPolyline3D( Coordinates%3, %2 )%4",
         .vba = "Dim pLine_%3 As Inkwright.PolyLine3D%4%5Dim Coordinates%3(%6) As Double%4%1%4"
                "%5Set pLine_%3 = iwSketchManager.InsertPolyline3D( Coordinates%3, %2 )%4",
+        .python = "clip = drawing.sketch.InsertPolyline3D(reals(%1), %2)",
     }};
 
 namespace {
 
 /// The entity that bounds the viewport: a variable, and the statements that make what it stands for. These begin
-/// without indentation and may end without a line end, since the literal has both around them.
+/// without indentation and may end without a line end, since the literal has both around them, or what fills it.
 struct Clip
 {
     QString name;
     Statement creation;
 };
 
+/// Numbers keep the variables apart but in Python, where the next viewport assigns the local anew.
+QString clipVariable(const Writer& writer, const char* stem, std::uint32_t number)
+{
+    return writer.target == Target::Python ? QStringLiteral("clip") : stem + QString::number(number);
+}
+
 Clip clipByPolyline(Writer& writer, const Phrase& phrase, const Coordinates& coordinates, bool closed)
 {
     const Target target = writer.target;
     const std::uint32_t number = processCounters.clipPolylines++;
     const QString array = (target == Target::CppCom ? "variant" : "Coordinates") + QString::number(number);
-    const bool isList = target == Target::CSharp || target == Target::JavaScript;
+    const bool isList = target == Target::CSharp || target == Target::JavaScript || target == Target::Python;
     Fill creation = writer.fillPlain(phrase);
     creation
-        .text(isList ? coordinateList(writer, coordinates, NumberForm::Long)
+        .word(isList ? coordinateList(writer, coordinates, NumberForm::Long)
                      : pointLines({writer, array, number}, coordinates, NumberForm::Long))
-        .text(truthWord(target, closed))
+        .word(truthWord(target, closed))
         .number(number)
-        .text(LineEnd)
-        .text(writer.indentation())
+        .word(LineEnd)
+        .word(writer.indentation())
         .number(arrayBound(writer, coordinates.values.size()));
-    return {QStringLiteral("pLine_%1").arg(number), creation};
+    return {clipVariable(writer, "pLine_", number), creation};
 }
 
 /// C# declares the variable where it is first assigned, JavaScript too.
@@ -101,7 +109,7 @@ Clip clipByEllipse(Writer& writer, const OdDbEllipse& ellipse)
     const OdGeVector3d& minor = ellipse.minorAxis();
     const double distance = std::sqrt(minor.x * minor.x + minor.y * minor.y + minor.z * minor.z);
     const bool whole = ellipse.startAngle() == 0.0 && ellipse.endAngle() == 2 * std::numbers::pi;
-    const QString name = QStringLiteral("ellipse_%1").arg(processCounters.clipEllipses++);
+    const QString name = clipVariable(writer, "ellipse_", processCounters.clipEllipses++);
     return clipByCurve(writer, "EllipseArc", name, [&](const QString& variable) {
         return whole ? EmitInsertEllipse(writer, start, end, distance, variable)
                      : EmitInsertEllipseArc(writer, start, end, distance, ellipse.startAngle(), ellipse.endAngle(),
@@ -113,7 +121,7 @@ Clip clipByEllipse(Writer& writer, const OdDbEllipse& ellipse)
 Clip clipLike(Writer& writer, const OdDbObject* object)
 {
     if (const auto circle = odrxQuery<OdDbCircle>(object)) {
-        const QString name = QStringLiteral("circle_%1").arg(processCounters.clipCircles++);
+        const QString name = clipVariable(writer, "circle_", processCounters.clipCircles++);
         return clipByCurve(writer, "Circle", name, [&](const QString& variable) {
             return EmitInsertCircle(writer, circle->center(), circle->radius(), variable);
         });
@@ -158,17 +166,22 @@ static const Phrase insertViewport{
         .vba = "%1Set %4 = Nothing%2%1Dim sheetsArray%3 As Inkwright.Sheet%2"
                "%1Set sheetsArray%3 = iwDoc.GetSheet(\"%5\")%2%1If Not sheetsArray%3 Is Nothing Then%2%1     %6%2"
                "%1     Set %4 = sheetsArray%3.InsertViewportByEntity(%7)%2%1End If%2",
+        .python = "%1%4 = None%2%1sheet = drawing.doc.GetSheet(%5)%2%1if sheet is not None:%2%6"
+                  "%1    %4 = sheet.InsertViewportByEntity(%7)%2",
     }};
 
 Statement EmitInsertViewportByEntity(Writer& writer, const CFxString& sheet, const OdDbObjectPtr& clip,
                                      const QString& variable, const CFxString& name)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
-    const Clip entity = variable.isEmpty() ? clipLike(writer, clip.get()) : Clip{variable, {}};
+    Clip entity = variable.isEmpty() ? clipLike(writer, clip.get()) : Clip{variable, {}};
+    // An empty line would be left of a variable there.
+    if (writer.target == Target::Python && !entity.creation.isEmpty())
+        entity.creation = writer.indentation() + "    " + entity.creation + LineEnd;
     Fill insertion = writer.fill(insertViewport);
     if (writer.target == Target::Cpp || writer.target == Target::CppCom)
-        insertion.text(sheet).number(number).text(name);
+        insertion.text(sheet).number(number).word(name);
     else
-        insertion.number(number).text(name).text(sheet);
-    return insertion.text(entity.creation).text(entity.name);
+        insertion.number(number).word(name).text(sheet);
+    return insertion.word(entity.creation).word(entity.name);
 }

@@ -4,7 +4,7 @@
 
 using namespace inkmacro;
 
-/// By six numbers.
+/// By two points.
 static const Phrase insertCurve{"EmitInsertLine",
                                 {
                                     .cpp = "%1iwSketchManager->%3( %4, %5, %6, %7, %8, %9, &%10 );%2",
@@ -13,12 +13,13 @@ static const Phrase insertCurve{"EmitInsertLine",
                                     .javascript = "%1var %10 = mSkMgr.%3(%4, %5, %6, %7, %8, %9);%2",
                                     .vbNet = "%1%10 = iwSketchManager.%3( %4, %5, %6, %7, %8, %9 )%2",
                                     .vba = "%1Set %10 = iwSketchManager.%3( %4, %5, %6, %7, %8, %9 )%2",
+                                    .python = "%1%6 = drawing.sketch.%3(%4, %5)%2",
                                 }};
 
 static Statement insertByPoints(Writer& writer, const char* operation, const OdGePoint3d& first,
                                 const OdGePoint3d& second, const CFxString& name)
 {
-    return writer.fill(insertCurve).text(QLatin1String(operation)).point(first).point(second).text(name);
+    return writer.fill(insertCurve).word(QLatin1String(operation)).point(first).point(second).word(name);
 }
 
 Statement EmitInsertLine(Writer& writer, const OdGePoint3d& start, const OdGePoint3d& end, const CFxString& name)
@@ -34,11 +35,12 @@ static const Phrase insertCircle{"EmitInsertCircle",
                                      .javascript = "%1var %7 = mSkMgr.InsertCircle(%3, %4, %5, %6);%2",
                                      .vbNet = "%1%7 = iwSketchManager.InsertCircle( %3, %4, %5, %6 )%2",
                                      .vba = "%1Set %7 = iwSketchManager.InsertCircle( %3, %4, %5, %6 )%2",
+                                     .python = "%1%5 = drawing.sketch.InsertCircle(%3, %4)%2",
                                  }};
 
 Statement EmitInsertCircle(Writer& writer, const OdGePoint3d& center, double radius, const CFxString& name)
 {
-    return writer.fill(insertCircle).point(center).real(radius).text(name);
+    return writer.fill(insertCircle).point(center).real(radius, Meaning::Length).word(name);
 }
 
 static const Phrase insertPoint{"EmitInsertPoint",
@@ -49,11 +51,12 @@ static const Phrase insertPoint{"EmitInsertPoint",
                                     .javascript = "%1var %6 = mSkMgr.InsertPoint(%3, %4, %5);%2",
                                     .vbNet = "%1%6 = iwSketchManager.InsertPoint( %3, %4, %5 )%2",
                                     .vba = "%1Set %6 = iwSketchManager.InsertPoint( %3, %4, %5 )%2",
+                                    .python = "%1%4 = drawing.sketch.InsertPoint(%3)%2",
                                 }};
 
 Statement EmitInsertPoint(Writer& writer, const OdGePoint3d& position, const CFxString& name)
 {
-    return writer.fill(insertPoint).point(position).text(name);
+    return writer.fill(insertPoint).point(position).word(name);
 }
 
 Statement EmitInsertRay(Writer& writer, const OdGePoint3d& base, const OdGePoint3d& second, const CFxString& name)
@@ -61,16 +64,26 @@ Statement EmitInsertRay(Writer& writer, const OdGePoint3d& base, const OdGePoint
     return insertByPoints(writer, "InsertRay", base, second, name);
 }
 
+static const Phrase insertArc{"EmitInsertArc",
+                              {
+                                  .cpp = "%1iwSketchManager->InsertArc( %3, %4, %5, %6, %7, %8, &%9 );%2",
+                                  .cppCom = "%1%9 = iwSketchManager->InsertArc( %3, %4, %5, %6, %7, %8 );%2",
+                                  .csharp = "%1%9 = iwSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 );%2",
+                                  .javascript = "%1var %9 = mSkMgr.InsertArc(%3, %4, %5, %6, %7, %8);%2",
+                                  .vbNet = "%1%9 = iwSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 )%2",
+                                  .vba = "%1Set %9 = iwSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 )%2",
+                                  .python = "%1%7 = drawing.sketch.InsertArc(%3, %4, %5, %6)%2",
+                              }};
+
 Statement EmitInsertArc(Writer& writer, const OdGePoint3d& center, double radius, double startAngle, double endAngle,
                         const CFxString& name)
 {
-    return writer.fill(insertCurve)
-        .text(QLatin1String("InsertArc"))
+    return writer.fill(insertArc)
         .point(center)
-        .real(radius)
-        .real(startAngle)
-        .real(endAngle)
-        .text(name);
+        .real(radius, Meaning::Length)
+        .real(startAngle, Meaning::Angle)
+        .real(endAngle, Meaning::Angle)
+        .word(name);
 }
 
 Statement EmitInsertInfiniteLine(Writer& writer, const OdGePoint3d& base, const OdGePoint3d& second,
@@ -88,20 +101,19 @@ static const Phrase insertEllipseArc{
         .javascript = "%1var %10 = mSkMgr.InsertEllipseArcDistanceToOtherAxis(%3, %4, %5, %6, %7, %8, %9);%2",
         .vbNet = "%1%10 = iwSketchManager.InsertEllipseArcDistanceToOtherAxis( %3, %4, %5, %6, %7, %8, %9 )%2",
         .vba = "%1Set %10 = iwSketchManager.InsertEllipseArcDistanceToOtherAxis( %3, %4, %5, %6, %7, %8, %9 )%2",
+        .python = "%1%8 = drawing.sketch.InsertEllipseArcDistanceToOtherAxis(%3, %4, %5, %6, %7)%2",
     }};
 
 Statement EmitInsertEllipseArc(Writer& writer, const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
                                double otherAxisDistance, double startAngle, double endAngle, const CFxString& name)
 {
     return writer.fill(insertEllipseArc)
-        .real(axisStart.x)
-        .real(axisStart.y)
-        .real(axisEnd.x)
-        .real(axisEnd.y)
-        .real(otherAxisDistance)
-        .real(startAngle)
-        .real(endAngle)
-        .text(name);
+        .planePoint(axisStart)
+        .planePoint(axisEnd)
+        .real(otherAxisDistance, Meaning::Length)
+        .real(startAngle, Meaning::Angle)
+        .real(endAngle, Meaning::Angle)
+        .word(name);
 }
 
 static const Phrase insertEllipse{
@@ -113,16 +125,15 @@ static const Phrase insertEllipse{
         .javascript = "%1var %8 = mSkMgr.InsertEllipseDistanceToOtherAxis(%3, %4, %5, %6, %7);%2",
         .vbNet = "%1%8 = iwSketchManager.InsertEllipseDistanceToOtherAxis( %3, %4, %5, %6, %7 )%2",
         .vba = "%1Set %8 = iwSketchManager.InsertEllipseDistanceToOtherAxis( %3, %4, %5, %6, %7 )%2",
+        .python = "%1%6 = drawing.sketch.InsertEllipseDistanceToOtherAxis(%3, %4, %5)%2",
     }};
 
 Statement EmitInsertEllipse(Writer& writer, const OdGePoint3d& axisStart, const OdGePoint3d& axisEnd,
                             double otherAxisDistance, const CFxString& name)
 {
     return writer.fill(insertEllipse)
-        .real(axisStart.x)
-        .real(axisStart.y)
-        .real(axisEnd.x)
-        .real(axisEnd.y)
-        .real(otherAxisDistance)
-        .text(name);
+        .planePoint(axisStart)
+        .planePoint(axisEnd)
+        .real(otherAxisDistance, Meaning::Length)
+        .word(name);
 }

@@ -37,6 +37,7 @@ static const Phrase getData{"EmitCustomData",
                                 .javascript = "%1 %4 = %3.GetCustomData(\"%5\");%2",
                                 .vbNet = "%1 %4 = %3.GetCustomData(\"%5\")%2",
                                 .vba = "%1 Set %4 = %3.GetCustomData(\"%5\")%2",
+                                .python = "%1custom_data = %3.GetCustomData(%5)%2",
                             }};
 
 static const Phrase emptyData{"EmitCustomData",
@@ -47,6 +48,7 @@ static const Phrase emptyData{"EmitCustomData",
                                   .javascript = "%1 %3.Empty();%2",
                                   .vbNet = "%1 %3.Empty()%2",
                                   .vba = "%1 %3.Empty%2",
+                                  .python = "%1custom_data.Empty()%2",
                               }};
 
 static const Phrase declareCount{"EmitCustomData",
@@ -67,6 +69,7 @@ static const Phrase getCount{"EmitCustomData",
                                  .javascript = "%1 count = %3.GetDataCount();%2",
                                  .vbNet = "%1 count = %3.GetDataCount()%2",
                                  .vba = "%1 count = %3.GetDataCount()%2",
+                                 .python = "%1count = custom_data.GetDataCount()%2",
                              }};
 
 static const Phrase insertDistance{"EmitCustomData",
@@ -77,6 +80,7 @@ static const Phrase insertDistance{"EmitCustomData",
                                        .javascript = "%1 %3.InsertDoubleData(count, 1041, %4);%2",
                                        .vbNet = "%1 %3.InsertDoubleData(count, 1041, %4)%2",
                                        .vba = "%1 %3.InsertDoubleData count, 1041, %4%2",
+                                       .python = "%1custom_data.InsertDoubleData(count, 1041, %4)%2",
                                    }};
 
 /// The only one that names the variable itself.
@@ -88,6 +92,7 @@ static const Phrase insertPoint{"EmitCustomData",
                                     .javascript = "%1 iwCustomData.InsertPointData(count, 1011, %3, %4, %5);%2",
                                     .vbNet = "%1 iwCustomData.InsertPointData(count, 1011, %3, %4, %5)%2",
                                     .vba = "%1 iwCustomData.InsertPointData count, 1011, %3, %4, %5%2",
+                                    .python = "%1custom_data.InsertPointData(count, 1011, %3)%2",
                                 }};
 
 static const Phrase insertText{"EmitCustomData",
@@ -98,6 +103,7 @@ static const Phrase insertText{"EmitCustomData",
                                    .javascript = "%1 %3.InsertStringData(count, 1000, \"%4\");%2",
                                    .vbNet = "%1 %3.InsertStringData(count, 1000, \"%4\")%2",
                                    .vba = "%1 %3.InsertStringData count, 1000, \"%4\"%2",
+                                   .python = "%1custom_data.InsertStringData(count, 1000, %4)%2",
                                }};
 
 static const Phrase setData{"EmitCustomData",
@@ -108,17 +114,18 @@ static const Phrase setData{"EmitCustomData",
                                 .javascript = "%1 %3.SetCustomData(\"%4\", %5);%2",
                                 .vbNet = "%1 %3.SetCustomData(\"%4\", %5)%2",
                                 .vba = "%1 %3.SetCustomData \"%4\", %5%2",
+                                .python = "%1%3.SetCustomData(%4, custom_data)%2",
                             }};
 
 static Statement insertElement(Writer& writer, const OdResBuf& element)
 {
     switch (element.restype()) {
     case kDistance:
-        return writer.fill(insertDistance).text(customDataVariable).real(element.getDouble());
+        return writer.fill(insertDistance).word(customDataVariable).real(element.getDouble(), Meaning::Length);
     case kPoint:
         return writer.fill(insertPoint).point(element.getPoint3d());
     case kText:
-        return writer.fill(insertText).text(customDataVariable).text(element.getString());
+        return writer.fill(insertText).word(customDataVariable).text(element.getString());
     default:
         return {};
     }
@@ -127,12 +134,12 @@ static Statement insertElement(Writer& writer, const OdResBuf& element)
 Statement EmitCustomData(Writer& writer, const CFxString& variable, const OdResBufPtr& data)
 {
     const QLatin1String application(cloudApplication);
-    Statement text = writer.fill(declareData).text(customDataVariable).str() +
-                     writer.fill(getData).text(variable).text(customDataVariable).text(application).str() +
-                     writer.fill(emptyData).text(customDataVariable).str() + writer.fill(declareCount).str();
-    const Statement count = writer.fill(getCount).text(customDataVariable);
+    Statement text = writer.fill(declareData).word(customDataVariable).str() +
+                     writer.fill(getData).word(variable).word(customDataVariable).text(application).str() +
+                     writer.fill(emptyData).word(customDataVariable).str() + writer.fill(declareCount).str();
+    const Statement count = writer.fill(getCount).word(customDataVariable);
     for (OdResBufPtr element = data; element; element = element->next())
         if (const Statement insertion = insertElement(writer, *element); !insertion.isEmpty())
             text += count + insertion;
-    return text + writer.fill(setData).text(variable).text(application).text(customDataVariable).str();
+    return text + writer.fill(setData).word(variable).text(application).word(customDataVariable).str();
 }

@@ -16,13 +16,15 @@ static const Phrase getOptions{"EmitGetOptions",
                                    .javascript = "%1var %3 = %4.Get%5();%2",
                                    .vbNet = "%1Dim %3 As Inkwright.%5 = %4.Get%5()%2",
                                    .vba = "%1Dim %3 As Inkwright.%5%2%1Set %3 = %4.Get%5()%2",
+                                   .python = "%1%3 = %4.Get%5()%2",
                                }};
 
 Statement EmitGetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, CFxString& options)
 {
-    options = object.stem + QString::number(++writer.UniqueCounter);
+    options =
+        writer.target == Target::Python ? QString(object.local) : object.stem + QString::number(++writer.UniqueCounter);
     const QLatin1String library(object.qualified ? "Inkwright." : "");
-    return writer.fill(getOptions).text(options).text(owner).text(QLatin1String(object.hostWord)).text(library);
+    return writer.fill(getOptions).word(options).word(owner).word(QLatin1String(object.hostWord)).word(library);
 }
 
 static const Phrase setOptions{"EmitSetOptions",
@@ -33,11 +35,12 @@ static const Phrase setOptions{"EmitSetOptions",
                                    .javascript = "%1%3.Set%5( %4 );%2",
                                    .vbNet = "%1%3.Set%5( %4 )%2",
                                    .vba = "%1%3.Set%5 %4%2",
+                                   .python = "%1%3.Set%5(%4)%2",
                                }};
 
 Statement EmitSetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, const CFxString& options)
 {
-    return writer.fill(setOptions).text(owner).text(options).text(QLatin1String(object.hostWord));
+    return writer.fill(setOptions).word(owner).word(options).word(QLatin1String(object.hostWord));
 }
 
 /// The name of a block stands behind the kind of arrow.
@@ -49,6 +52,7 @@ static const Phrase setArrow{"EmitSetArrow",
                                  .javascript = "%1%3.%4( \"%5\", \"%6\" );%2",
                                  .vbNet = "%1%3.%4( %5, \"%6\" )%2",
                                  .vba = "%1%3.%4 %5, \"%6\"%2",
+                                 .python = "%1%3.%4(%5, %6)%2",
                              }};
 
 Statement EmitSetArrow(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t arrow,
@@ -56,12 +60,12 @@ Statement EmitSetArrow(Writer& writer, const CFxString& target, const CFxString&
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionArrowType, arrow);
     Fill statement = writer.fill(setArrow);
-    statement.text(target).text(operation).text(kind);
+    statement.word(target).word(operation).word(kind);
     if (writer.target != Target::CSharp)
         return statement.text(name);
     // C# takes its quotes as values too.
     const QLatin1String quote("\"");
-    return statement.text(quote).text(writer.quoted(name)).text(quote);
+    return statement.word(quote).word(writer.quoted(name)).word(quote);
 }
 
 static const Phrase setStyleArrow{
@@ -79,6 +83,7 @@ static const Phrase setStyleArrow{
                  "%1Dim arrowName%3 As String = \"%5\"%2%1%6.%7(arrowType%3, arrowName%3)%2",
         .vba = "%1Dim arrowType%3 As Inkwright.iwDimensionArrowType_e%2%1arrowType%3 = %4%2"
                "%1Dim arrowName%3 As String%2%1arrowName%3 = \"%5\"%2%1%6.%7 arrowType%3, arrowName%3%2",
+        .python = "%1%6.%7(%4, %5)%2",
     }};
 static const Mend bstrArrowName(setStyleArrow, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
@@ -86,7 +91,7 @@ Statement EmitSetStyleArrow(Writer& writer, const CFxString& target, const CFxSt
                             const CFxString& name)
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionArrowType, arrow);
-    return writer.fill(setStyleArrow).number(++writer.UniqueCounter).text(kind).text(name).text(target).text(operation);
+    return writer.fill(setStyleArrow).number(++writer.UniqueCounter).word(kind).text(name).word(target).word(operation);
 }
 
 static const Phrase setDimensionScale{"EmitSetDimensionScale",
@@ -97,13 +102,14 @@ static const Phrase setDimensionScale{"EmitSetDimensionScale",
                                           .javascript = "%1%3.%4( \"%5\", %6 );%2",
                                           .vbNet = "%1%3.%4( %5, %6 )%2",
                                           .vba = "%1%3.%4 %5, %6%2",
+                                          .python = "%1%3.%4(%5, %6)%2",
                                       }};
 
 Statement EmitSetDimensionScale(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t scale,
                                 double factor)
 {
     const QString kind = EnumeratorByValue(writer.target, enums::dimensionScale, scale);
-    return writer.fill(setDimensionScale).text(target).text(operation).text(kind).real(factor);
+    return writer.fill(setDimensionScale).word(target).word(operation).word(kind).real(factor, Meaning::Factor);
 }
 
 static const Phrase setFixedLength{"EmitSetExtensionLineFixedLength",
@@ -114,11 +120,12 @@ static const Phrase setFixedLength{"EmitSetExtensionLineFixedLength",
                                        .javascript = "%1%3.SetExtensionLineFixedLength(%4, %5);%2",
                                        .vbNet = "%1%3.SetExtensionLineFixedLength(%4, %5)%2",
                                        .vba = "%1%3.SetExtensionLineFixedLength %4, %5%2",
+                                       .python = "%1%3.SetExtensionLineFixedLength(%4, %5)%2",
                                    }};
 
 Statement EmitSetExtensionLineFixedLength(Writer& writer, const CFxString& target, bool fixed, double length)
 {
-    return writer.fill(setFixedLength).text(target).text(truthWord(writer.target, fixed)).real(length);
+    return writer.fill(setFixedLength).word(target).word(truthWord(writer.target, fixed)).real(length, Meaning::Length);
 }
 
 static const Phrase getCenterMark{
@@ -145,6 +152,7 @@ static const Phrase changeCenterMarkKind{"EmitSetCenterMark",
                                              .javascript = "%1results%3[0] = \"%4\";%2",
                                              .vbNet = "%1CenterMarkDisplay%3 = %4%2",
                                              .vba = "%1CenterMarkDisplay%3 = %4%2",
+                                             .python = "%1_, size = %5.GetCenterMarkDisplay()%2%1%5.%6(%4, size)%2",
                                          }};
 
 static const Phrase changeCenterMarkSize{"EmitSetCenterMark",
@@ -155,6 +163,7 @@ static const Phrase changeCenterMarkSize{"EmitSetCenterMark",
                                              .javascript = "%1results%3[1] = %4;%2",
                                              .vbNet = "%1markSize%3 = %4%2",
                                              .vba = "%1markSize%3 = %4%2",
+                                             .python = "%1kind, _ = %5.GetCenterMarkDisplay()%2%1%5.%6(kind, %4)%2",
                                          }};
 
 static const Phrase setCenterMark{"EmitSetCenterMark",
@@ -167,24 +176,30 @@ static const Phrase setCenterMark{"EmitSetCenterMark",
                                       .vba = "%1%3.%4 CenterMarkDisplay%5, markSize%5%2",
                                   }};
 
+/// `fillValue` puts the new value in.
+template<class FillValue>
 static Statement changeCenterMark(Writer& writer, const CFxString& target, const CFxString& operation,
-                                  const Phrase& change, const QString& value)
+                                  const Phrase& change, const FillValue& fillValue)
 {
     const std::uint32_t suffix = ++writer.UniqueCounter;
-    return writer.fill(getCenterMark).number(suffix).text(target).str() +
-           writer.fill(change).number(suffix).text(value).str() +
-           writer.fill(setCenterMark).text(target).text(operation).number(suffix).str();
+    Fill changed = writer.fill(change);
+    fillValue(changed.number(suffix));
+    // Python reads and writes in one statement, which knows what it does not need to read.
+    return writer.fill(getCenterMark).number(suffix).word(target).str() + changed.word(target).word(operation).str() +
+           writer.fill(setCenterMark).word(target).word(operation).number(suffix).str();
 }
 
 Statement EmitSetCenterMarkKind(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t kind)
 {
-    return changeCenterMark(writer, target, operation, changeCenterMarkKind,
-                            EnumeratorByValue(writer.target, enums::dimensionCenterMarkDisplay, kind));
+    return changeCenterMark(writer, target, operation, changeCenterMarkKind, [&](Fill& change) {
+        change.word(EnumeratorByValue(writer.target, enums::dimensionCenterMarkDisplay, kind));
+    });
 }
 
 Statement EmitSetCenterMarkSize(Writer& writer, const CFxString& target, const CFxString& operation, double size)
 {
-    return changeCenterMark(writer, target, operation, changeCenterMarkSize, FormatLong(size));
+    return changeCenterMark(writer, target, operation, changeCenterMarkSize,
+                            [&](Fill& change) { change.real(size, Meaning::Length); });
 }
 
 /// C++ calls the operation as if it were a property; this must stay so.
@@ -196,6 +211,7 @@ static const Phrase setStyleCenterMark{"EmitSetStyleEnumPair",
                                            .javascript = "%1%3.%4(\"%5\", %6);%2",
                                            .vbNet = "%1%3.%4(%5, %6)%2",
                                            .vba = "%1%3.%4 %5, %6%2",
+                                           .python = "%1%3.%4(%5, %6)%2",
                                        }};
 static const Mend centerMarkOperation(setStyleCenterMark, Target::Cpp,
                                       "an operation is called as if it were a property", "%1%3->%4(%5, %6);%2");
@@ -204,5 +220,5 @@ Statement EmitSetStyleCenterMark(Writer& writer, const CFxString& target, const 
                                  double size)
 {
     const QString word = EnumeratorByValue(writer.target, enums::dimensionCenterMarkDisplay, kind);
-    return writer.fill(setStyleCenterMark).text(target).text(operation).text(word).real(size);
+    return writer.fill(setStyleCenterMark).word(target).word(operation).word(word).real(size, Meaning::Length);
 }

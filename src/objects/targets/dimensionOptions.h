@@ -6,19 +6,22 @@
 /// fetches it from its owner into a variable of its own.
 struct OptionObject
 {
-    const OptionObject* owner; ///< null for one of the changed object itself
-    const char* hostWord;      ///< its type; the host gets it by "Get" in front of that
-    const char* stem;          ///< its variables' names without the number
-    bool qualified = false;    ///< C# writes the type with its library in front
-    bool writtenBack = false;  ///< the host gives a copy, which counts when it is handed back
+    const OptionObject* owner;     ///< null for one of the changed object itself
+    const char* hostWord;          ///< its type; the host gets it by "Get" in front of that
+    const char* stem;              ///< its variables' names without the number
+    bool qualified = false;        ///< C# writes the type with its library in front
+    bool writtenBack = false;      ///< the host gives a copy, which counts when it is handed back
+    const char* local = "options"; ///< its variable in Python, where one kind of objects takes that of another
 };
 
-inline constexpr OptionObject generalDimension{nullptr, "GeneralDimension", "generalDimension"};
+inline constexpr OptionObject generalDimension{nullptr, "GeneralDimension", "generalDimension", false,
+                                               false,   "general"};
 
 /// Of dimensions: what a dimension overrides of its style.
 namespace dimensionOptions {
 
-inline constexpr OptionObject userData{&generalDimension, "DimensionStyleUserData", "dimensionStyle", true};
+inline constexpr OptionObject userData{
+    &generalDimension, "DimensionStyleUserData", "dimensionStyle", true, false, "data"};
 inline constexpr OptionObject angular{&userData, "DimensionStyleAngularDimensionOptions", "angularDimensionOptions"};
 inline constexpr OptionObject arrows{&userData, "DimensionStyleArrowsOptions", "arrowsOptions"};
 inline constexpr OptionObject dual{&userData, "DimensionStyleDualDimensionOptions", "dualDimensionOptions"};
@@ -50,7 +53,7 @@ inline constexpr OptionObject tolerance{nullptr, "DimensionStyleToleranceOptions
 /// Of leaders and tolerances.
 namespace leaderOptions {
 
-inline constexpr OptionObject userData{nullptr, "DimensionStyleUserData", "dimensionStyle", true};
+inline constexpr OptionObject userData{nullptr, "DimensionStyleUserData", "dimensionStyle", true, false, "data"};
 inline constexpr OptionObject arrows{&userData, "DimensionStyleArrowsOptions", "arrowOptions"};
 inline constexpr OptionObject fit{&userData, "DimensionStyleFitOptions", "fitOptions"};
 inline constexpr OptionObject lines{&userData, "DimensionStyleLineOptions", "linesOptions"};
@@ -58,7 +61,7 @@ inline constexpr OptionObject text{&userData, "DimensionStyleTextOptions", "text
 
 } // namespace leaderOptions
 
-inline constexpr OptionObject curvedTextSettings{nullptr, "CurvedSettings", "curvedSettings", false, true};
+inline constexpr OptionObject curvedTextSettings{nullptr, "CurvedSettings", "curvedSettings", false, true, "settings"};
 
 /// Fetches the object from the variable `owner` and gives its variable.
 Statement EmitGetOptions(Writer& writer, const OptionObject& object, const CFxString& owner, CFxString& options);

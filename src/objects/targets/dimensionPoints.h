@@ -15,6 +15,6 @@ inline void fillDimensionPoints(Writer& writer, inkmacro::Fill& insertion, std::
         }
         const std::uint32_t number = ++writer.UniqueCounter;
         const ArrayPlace place(writer, "variant" + QString::number(number), number);
-        insertion.number(number).text(comPointLines(place, point, NumberForm::Long, false));
+        insertion.number(number).word(comPointLines(place, point, NumberForm::Long, false));
     }
 }

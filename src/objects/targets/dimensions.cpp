@@ -37,18 +37,18 @@ static Statement insertInPage(Writer& writer, const PointDimension& kind, const 
         Statement statements;
         for (std::size_t i = 0; i < points.size(); ++i)
             statements += Fill(&words)
-                              .text(QLatin1String(kind.scriptArrays[i]))
+                              .word(QLatin1String(kind.scriptArrays[i]))
                               .indent(writer.IndentLevel)
-                              .text(LineEnd)
+                              .word(LineEnd)
                               .number(number)
                               .point(points[i])
                               .str();
         return statements;
     };
     Fill call = writer.fill(kind.insertion);
-    call.text(name).text(text);
+    call.word(name).text(text, Meaning::Text);
     if (last)
-        call.text(*last);
+        call.word(*last);
     return writer.mended(arrays(assigned), kUndeclaredPoints, arrays(declared)) + call.number(number).str();
 }
 
@@ -66,12 +66,12 @@ static Statement insertOnPoints(Writer& writer, const PointDimension& kind, cons
         longPoints = longPoints.subspan(1);
     }
     fillDimensionPoints(writer, call, longPoints);
-    call.text(text);
+    call.text(text, Meaning::Text);
     if (last)
-        call.text(*last);
+        call.word(*last);
     if (writer.target == Target::Vba)
         call.number(++writer.UniqueCounter);
-    return call.text(name);
+    return call.word(name);
 }
 
 static const Phrase insertAlignedDimension{
@@ -104,6 +104,7 @@ static const Phrase insertAlignedDimension{
                "%1dimLinePoint%13(2) = %11%2"
                "%1Set %14 = iwSketchManager.InsertAlignedDimension( extLine1Point%13, extLine2Point%13, "
                "dimLinePoint%13, \"%12\" )%2",
+        .python = "%1%7 = drawing.sketch.InsertAlignedDimension(reals(%3), reals(%4), reals(%5), %6)%2",
     }};
 
 Statement EmitInsertAlignedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
@@ -149,6 +150,8 @@ static const Phrase insertAngularDimension3Point{
                "%1dimPositionPoint_3Point%16(1) = %13%2%1dimPositionPoint_3Point%16(2) = %14%2"
                "%1Set %17 = iwSketchManager.InsertAngularDimension3Point( centerPoint_3Point%16, "
                "extLine1Point_3Point%16, extLine2Point_3Point%16, dimPositionPoint_3Point%16, \"%15\" )%2",
+        .python = "%1%8 = drawing.sketch.InsertAngularDimension3Point(reals(%3), reals(%4), reals(%5), "
+                  "reals(%6), %7)%2",
     }};
 
 Statement EmitInsertAngularDimension3Point(Writer& writer, const OdGePoint3d& center, const OdGePoint3d& first,
@@ -183,6 +186,7 @@ static const Phrase insertOrdinateDimension{
                "%1extLine2Point_Ord%11(1) = %7%2%1extLine2Point_Ord%11(2) = %8%2"
                "%1Set %12 = iwSketchManager.InsertOrdinateDimension( extLine1Point_Ord%11, extLine2Point_Ord%11, "
                "\"%9\", %10 )%2",
+        .python = "%1%7 = drawing.sketch.InsertOrdinateDimension(reals(%3), reals(%4), %5, %6)%2",
     }};
 
 Statement EmitInsertOrdinateDimension(Writer& writer, const OdGePoint3d& point, const OdGePoint3d& leaderEnd,
@@ -225,6 +229,8 @@ static const Phrase insertRotatedDimension{
                "%1dimLinePoint_Rot%14(1) = %10%2%1dimLinePoint_Rot%14(2) = %11%2"
                "%1Set %15 = iwSketchManager.InsertRotatedDimension( extLine1Point_Rot%14, extLine2Point_Rot%14, "
                "dimLinePoint_Rot%14, \"%12\", %13 )%2",
+        .python = "%1%8 = drawing.sketch.InsertRotatedDimension(reals(%3), reals(%4), reals(%5), %6, "
+                  "%7)%2",
     }};
 
 Statement EmitInsertRotatedDimension(Writer& writer, const OdGePoint3d& first, const OdGePoint3d& second,
@@ -233,8 +239,8 @@ Statement EmitInsertRotatedDimension(Writer& writer, const OdGePoint3d& first, c
 {
     static const PointDimension kind{insertRotatedDimension, {"ExtLineOne", "ExtLineTwo", "DimLine"}};
     static const Template number("%1");
-    const Statement angle =
-        writer.target == Target::Cpp ? writer.fill(number).shortReal(rotation) : writer.fill(number).real(rotation);
+    const Statement angle = writer.target == Target::Cpp ? writer.fill(number).shortReal(rotation, Meaning::Angle)
+                                                         : writer.fill(number).real(rotation, Meaning::Angle);
     return insertOnPoints(writer, kind, {first, second, dimensionLine}, text, angle, name);
 }
 
@@ -247,6 +253,7 @@ static const Phrase insertTemporaryLine{
         .javascript = "%1var %3 = mSkMgr.InsertLine(%4, %5, %6, %7, %8, %9);%2",
         .vbNet = "%1Dim %3 As Inkwright.Line%2%1%3 = iwSketchManager.InsertLine( %4, %5, %6, %7, %8, %9 )%2",
         .vba = "%1Dim %3 As Inkwright.Line%2%1Set %3 = iwSketchManager.InsertLine( %4, %5, %6, %7, %8, %9 )%2",
+        .python = "%1%3 = drawing.sketch.InsertLine(%4, %5)%2",
     }};
 
 static const Phrase eraseTemporaryLine{"EmitInsertAngularDimension2Line: erasure of a line",
@@ -256,6 +263,7 @@ static const Phrase eraseTemporaryLine{"EmitInsertAngularDimension2Line: erasure
                                            .javascript = "%1%3.put_Erased(true);%2",
                                            .vbNet = "%1%3.Erased = true%2",
                                            .vba = "%1%3.Erased = True%2",
+                                           .python = "%1%3.Erased = True%2",
                                        }};
 
 static const Phrase insertAngularDimension2Line{
@@ -278,6 +286,7 @@ static const Phrase insertAngularDimension2Line{
                "%1dimPositionPoint_2Line%10(1) = %6%2%1dimPositionPoint_2Line%10(2) = %7%2"
                "%1Set %9 = iwSketchManager.InsertAngularDimension2Line( %3, %4, dimPositionPoint_2Line%10, "
                "\"%8\" )%2",
+        .python = "%1%7 = drawing.sketch.InsertAngularDimension2Line(%3, %4, reals(%5), %6)%2",
     }};
 static const Mend declaredAngularDimension2Line(
     insertAngularDimension2Line, Target::JavaScript, "the dimension's variable is not declared",
@@ -294,7 +303,12 @@ static Statement insertWithOwnLines(Writer& writer, const DimensionLine& first, 
 {
     Fill insertion = writer.fill(insertAngularDimension2Line);
     fillDimensionPoints(writer, insertion, {&arcPoint, 1});
-    return insertion.point(first.start).point(first.end).point(second.start).point(second.end).text(text).text(name);
+    return insertion.point(first.start)
+        .point(first.end)
+        .point(second.start)
+        .point(second.end)
+        .text(text, Meaning::Text)
+        .word(name);
 }
 
 Statement EmitInsertAngularDimension2Line(Writer& writer, const DimensionLine& first, const DimensionLine& second,
@@ -305,18 +319,19 @@ Statement EmitInsertAngularDimension2Line(Writer& writer, const DimensionLine& f
 
     Statement creation;
     Statement erasure;
-    const auto nameOf = [&](const DimensionLine& line, const char* suffix) {
+    const auto nameOf = [&](const DimensionLine& line, const char* suffix, const char* local) {
         if (!line.variable.isEmpty())
             return line.variable;
-        QString temporary = name.toQString() + suffix;
-        creation += writer.fill(insertTemporaryLine).text(temporary).point(line.start).point(line.end).str();
-        erasure += writer.fill(eraseTemporaryLine).text(temporary).str();
+        // What the macro draws for a moment only is nothing of the drawing that its functions share.
+        QString temporary = writer.target == Target::Python ? QString(local) : name.toQString() + suffix;
+        creation += writer.fill(insertTemporaryLine).word(temporary).point(line.start).point(line.end).str();
+        erasure += writer.fill(eraseTemporaryLine).word(temporary).str();
         return temporary;
     };
-    const QString firstName = nameOf(first, "_associated_line1");
-    const QString secondName = nameOf(second, "_associated_line2");
+    const QString firstName = nameOf(first, "_associated_line1", "first_line");
+    const QString secondName = nameOf(second, "_associated_line2", "second_line");
     Fill insertion = writer.fill(insertAngularDimension2Line);
-    insertion.text(firstName).text(secondName).point(arcPoint).text(text).text(name);
+    insertion.word(firstName).word(secondName).point(arcPoint).text(text, Meaning::Text).word(name);
     if (writer.target == Target::Vba)
         insertion.number(++writer.UniqueCounter);
     return creation + insertion.str() + erasure;

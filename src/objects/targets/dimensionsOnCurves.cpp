@@ -18,7 +18,8 @@ enum class Shape
     Arc
 };
 
-/// One insertion call. In its literals `%0` is the call, and a VBA array ends in a value of suffix and number.
+/// One insertion call. In its literals `%0` is the call, and a VBA array ends in a value of suffix and number. Python
+/// counts from 1: there the call is `%1`, the indentation `%2` and the line end `%3`.
 struct CurveDimension
 {
     const char* call;
@@ -27,7 +28,7 @@ struct CurveDimension
     const Phrase& onVariable;
     const Phrase& onTemporary;
     bool briefArc = false;  ///< C++ and Basic have the temporary arc in the short form
-    bool nameFirst = false; ///< the variable is a value ahead of the points, but not where C# uses a variable
+    bool nameFirst = false; ///< the variable is a value ahead of the points, but not where C# or Python uses a variable
 };
 
 void fillArc(Fill& insertion, const OdDbArc& arc, bool brief)
@@ -66,17 +67,17 @@ static Statement insertOnCurve(Writer& writer, const CurveDimension& kind, const
     const QString curveName = temporary ? temporaryName(kind, name) : curve.variable;
 
     Fill insertion = writer.fillPlain(temporary ? kind.onTemporary : kind.onVariable);
-    insertion.text(QLatin1String(kind.call)).indent(writer.IndentLevel).text(LineEnd).text(curveName);
+    insertion.word(QLatin1String(kind.call)).indent(writer.IndentLevel).word(LineEnd).word(curveName);
     if (temporary)
         fillShape(insertion, kind, target, *curve.object);
     if (nameFirst)
-        insertion.text(name);
+        insertion.word(name);
     fillDimensionPoints(writer, insertion, points);
-    insertion.text(text);
+    insertion.text(text, Meaning::Text);
     if (target == Target::Vba)
-        insertion.text(kind.basicSuffix + QString::number(++writer.UniqueCounter));
+        insertion.word(kind.basicSuffix + QString::number(++writer.UniqueCounter));
     if (!nameFirst)
-        insertion.text(name);
+        insertion.word(name);
     return insertion;
 }
 
@@ -108,6 +109,12 @@ static constexpr char vbaOnTemporaryArc[] =
     "%1dimPositionPoint%14(2) = %12%2%1Set %15 = iwSketchManager.%0( %3, dimPositionPoint%14, \"%13\" )%2"
     "%1%3.Erased = True%2";
 
+static constexpr char pythonOnCurve[] = "%2%7 = drawing.sketch.%1(%4, reals(%5), %6)%3";
+static constexpr char pythonByPoints[] = "%2%9 = drawing.sketch.%1(%4, reals(%5), reals(%6), reals(%7), %8)%3";
+static constexpr char pythonOnTemporaryArc[] = "%2measured_arc = drawing.sketch.InsertArc(%5, %6, %7, %8)%3"
+                                               "%2%11 = drawing.sketch.%1(measured_arc, reals(%9), %10)%3"
+                                               "%2measured_arc.Erased = True%3";
+
 static const Phrase angularOnArc{
     "EmitInsertAngularDimensionArc",
     {
@@ -119,6 +126,7 @@ static const Phrase angularOnArc{
         .javascript = scriptOnArc,
         .vbNet = vbNetOnArc,
         .vba = vbaOnArc,
+        .python = pythonOnCurve,
     }};
 
 /// In C++ the plain text `&14` has to stay, so that the dimension's variable is not assigned there.
@@ -135,6 +143,7 @@ static const Phrase angularOnTemporaryArc{
         .javascript = scriptOnTemporaryArc,
         .vbNet = vbNetOnTemporaryArc,
         .vba = vbaOnTemporaryArc,
+        .python = pythonOnTemporaryArc,
     }};
 static const Mend dimensionHandedOver(
     angularOnTemporaryArc, Target::Cpp,
@@ -163,6 +172,7 @@ static const Phrase lengthOfArc{
         .javascript = scriptOnArc,
         .vbNet = vbNetOnArc,
         .vba = vbaOnArc,
+        .python = pythonOnCurve,
     }};
 
 static const Phrase lengthOfTemporaryArc{
@@ -178,6 +188,7 @@ static const Phrase lengthOfTemporaryArc{
         .javascript = scriptOnTemporaryArc,
         .vbNet = vbNetOnTemporaryArc,
         .vba = vbaOnTemporaryArc,
+        .python = pythonOnTemporaryArc,
     }};
 
 static const Phrase partialLengthOfArc{
@@ -209,6 +220,7 @@ static const Phrase partialLengthOfArc{
                "%1dimPositionPoint%14(1) = %11%2%1dimPositionPoint%14(2) = %12%2"
                "%1Set %15 = iwSketchManager.%0( %3, extLine1Point%14, extLine2Point%14, dimPositionPoint%14, "
                "\"%13\" )%2",
+        .python = pythonByPoints,
     }};
 
 static const Phrase partialLengthOfTemporaryArc{
@@ -248,6 +260,9 @@ static const Phrase partialLengthOfTemporaryArc{
                "%1dimPositionPoint%20(1) = %17%2%1dimPositionPoint%20(2) = %18%2"
                "%1Set %21 = iwSketchManager.%0( %3, extLine1Point%20, extLine2Point%20, dimPositionPoint%20, "
                "\"%19\" )%2%1%3.Erased = True%2",
+        .python = "%2measured_arc = drawing.sketch.InsertArc(%5, %6, %7, %8)%3"
+                  "%2%13 = drawing.sketch.%1(measured_arc, reals(%9), reals(%10), reals(%11), %12)%3"
+                  "%2measured_arc.Erased = True%3",
     }};
 
 Statement EmitInsertArcLengthDimension(Writer& writer, const MeasuredCurve& arc, const OdGePoint3d& first,
@@ -262,13 +277,14 @@ Statement EmitInsertArcLengthDimension(Writer& writer, const MeasuredCurve& arc,
                    : insertOnCurve(writer, whole, arc, {arcPoint}, text, name);
 }
 
-/// Only C++ and C# use a variable of the macro; the others make a curve of their own each time.
+/// Only C++, C# and Python use a variable of the macro; the others make a curve of their own each time.
 static const Phrase radialOnCurve{"EmitInsertDiameterDimension: on a variable",
                                   {
                                       .cpp = "%1{%2%1    iwDoubleArray Coordinates1;%2%1    Coordinates1.clear();%2%2"
                                              "%1    Coordinates1.add(%5);Coordinates1.add(%6);Coordinates1.add(%7);%2"
                                              "%1    iwSketchManager->%0( %3, Coordinates1, L\"%8\", &%4 );%2%1}%2",
                                       .csharp = "%1%8 = iwSketchManager.%0( %3, new double[]{%4,%5,%6}, \"%7\" );%2",
+                                      .python = pythonOnCurve,
                                   }};
 
 static const Phrase radialOnTemporaryCircle{
@@ -294,6 +310,9 @@ static const Phrase radialOnTemporaryCircle{
                "%1Dim dimPositionPoint%13(2) As Double%2%1dimPositionPoint%13(0) = %9%2"
                "%1dimPositionPoint%13(1) = %10%2%1dimPositionPoint%13(2) = %11%2"
                "%1Set %8 = iwSketchManager.%0( %3, dimPositionPoint%13, \"%12\" )%2%1%3.Erased = True%2",
+        .python = "%2measured_circle = drawing.sketch.InsertCircle(%5, %6)%3"
+                  "%2%7 = drawing.sketch.%1(measured_circle, reals(%8), %9)%3"
+                  "%2measured_circle.Erased = True%3",
     }};
 
 static const Phrase radialOnTemporaryArc{
@@ -319,6 +338,9 @@ static const Phrase radialOnTemporaryArc{
                "%1Dim dimPositionPoint%15(2) As Double%2%1dimPositionPoint%15(0) = %11%2"
                "%1dimPositionPoint%15(1) = %12%2%1dimPositionPoint%15(2) = %13%2"
                "%1Set %10 = iwSketchManager.%0( %3, dimPositionPoint%15, \"%14\" )%2%1%3.Erased = True%2",
+        .python = "%2measured_arc = drawing.sketch.InsertArc(%5, %6, %7, %8)%3"
+                  "%2%9 = drawing.sketch.%1(measured_arc, reals(%10), %11)%3"
+                  "%2measured_arc.Erased = True%3",
     }};
 
 /// One of the two, after the class of the curve.
@@ -364,6 +386,7 @@ static const Phrase joggedOnCurve{
                "%1    iwSketchManager->%0( %3, Coordinates1, Coordinates2, Coordinates3, L\"%14\", &%4 );%2%1}%2",
         .csharp = "%1%14 = iwSketchManager.%0( %3, new double[]{%4,%5,%6}, new double[]{%7,%8,%9}, "
                   "new double[]{%10,%11,%12}, \"%13\" );%2",
+        .python = pythonByPoints,
     }};
 
 static const Phrase joggedOnTemporaryCircle{
@@ -404,6 +427,9 @@ static const Phrase joggedOnTemporaryCircle{
                "%1dimPositionPoint%19(1) = %16%2%1dimPositionPoint%19(2) = %17%2"
                "%1Set %8 = iwSketchManager.%0( %3, centerPoint%19, jogPoint%19, dimPositionPoint%19, \"%18\" )%2"
                "%1%3.Erased = True%2",
+        .python = "%2measured_circle = drawing.sketch.InsertCircle(%5, %6)%3"
+                  "%2%7 = drawing.sketch.%1(measured_circle, reals(%8), reals(%9), reals(%10), %11)%3"
+                  "%2measured_circle.Erased = True%3",
     }};
 
 static const Phrase joggedOnTemporaryArc{
@@ -444,6 +470,9 @@ static const Phrase joggedOnTemporaryArc{
                "%1dimPositionPoint%21(1) = %18%2%1dimPositionPoint%21(2) = %19%2"
                "%1Set %10 = iwSketchManager.%0( %3, centerPoint%21, jogPoint%21, dimPositionPoint%21, \"%20\" )%2"
                "%1%3.Erased = True%2",
+        .python = "%2measured_arc = drawing.sketch.InsertArc(%5, %6, %7, %8)%3"
+                  "%2%9 = drawing.sketch.%1(measured_arc, reals(%10), reals(%11), reals(%12), %13)%3"
+                  "%2measured_arc.Erased = True%3",
     }};
 
 Statement EmitInsertJoggedDimension(Writer& writer, const MeasuredCurve& curve, const OdGePoint3d& centerOverride,

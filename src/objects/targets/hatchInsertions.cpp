@@ -8,7 +8,7 @@
 using namespace inkmacro;
 
 /// The array has no number, so a second one in the same group of statements is declared again. It has to stay so. COM
-/// declares its array with the call.
+/// declares its array with the call, and in Python it is an expression there.
 static const Phrase entitiesHead{"EmitInsertHatchByEntities: array",
                                  {
                                      .cpp = "%1iwObjectPtrArray iwEntities;%2",
@@ -30,6 +30,7 @@ static const Phrase insertByEntities{
         .javascript = "%1%6 = mSkMgr.InsertHatchByEntities(iwEntities, \"%3\", %4, %5);%2",
         .vbNet = "%1%6 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
         .vba = "%1Set %6 = iwSketchManager.InsertHatchByEntities( iwEntities, \"%3\", %4, %5 )%2",
+        .python = "%1%6 = drawing.sketch.InsertHatchByEntities(objects(%7), %3, %4, %5)%2",
     }};
 static const Mend declaredHatch(insertByEntities, Target::JavaScript, "the hatch's variable is not declared",
                                 "%1var %6 = mSkMgr.InsertHatchByEntities(iwEntities, \"%3\", %4, %5);%2");
@@ -62,11 +63,11 @@ static Statement comInsertionByEntities(Writer& writer, const CFxString& hatch, 
     const Statement lines = objectLines({writer, "EntityArray" + QString::number(number), number}, names);
     return writer.fill(insertByEntities)
         .number(number)
-        .text(lines)
-        .text(pattern.name)
-        .real(pattern.first)
-        .real(pattern.second)
-        .text(hatch)
+        .word(lines)
+        .text(pattern.name, Meaning::Text)
+        .real(pattern.first, Meaning::Factor)
+        .real(pattern.second, Meaning::Angle)
+        .word(hatch)
         .number(qulonglong{names.size()});
 }
 
@@ -81,13 +82,16 @@ Statement EmitInsertHatchByEntities(Writer& writer, const CFxString& hatch, cons
         return entities.insertion + separator + comInsertionByEntities(writer, hatch, entities.names, pattern) + ending;
 
     Fill insertion = writer.fill(insertByEntities);
-    insertion.text(pattern.name);
+    insertion.text(pattern.name, Meaning::Text);
     if (writer.target == Target::Cpp)
         insertion.shortReal(pattern.first).shortReal(pattern.second);
     else
-        insertion.real(pattern.first).real(pattern.second);
-    insertion.text(hatch);
-    return entities.insertion + entityArray(writer, entities.names) + separator + insertion.str() + ending;
+        insertion.real(pattern.first, Meaning::Factor).real(pattern.second, Meaning::Angle);
+    insertion.word(hatch);
+    const Statement array = entityArray(writer, entities.names);
+    if (!entitiesHead.has(writer.target))
+        return entities.insertion + insertion.word(array).str() + (erased ? entities.erasure : Statement());
+    return entities.insertion + array + separator + insertion.str() + ending;
 }
 
 /// COM declares one array of the two by another's name. It has to stay so.
@@ -113,6 +117,7 @@ static const Phrase insertByBoundary{
         .vba = "%1Dim Coordinates%3(%4) As Double%2%1Dim BoundaryPointCountLongArray%3(%5) As Long%2%6%2%7%2"
                "%1Set %11 = iwSketchManager.InsertHatchByBoundary( BoundaryPointCountLongArray%3, Coordinates%3, "
                "\"%8\", %9, %10 )%2",
+        .python = "%1%8 = drawing.sketch.InsertHatchByBoundary(integers(%3), reals(%4), %5, %6, %7)%2",
     }};
 static const Mend
     countsByTheirName(insertByBoundary, Target::CppCom, "an array is declared by one name and made by another",
@@ -128,19 +133,20 @@ static void openLoops(Fill& call, const ArrayArgument& points, const ArrayArgume
 {
     switch (points.target) {
     case Target::Cpp:
-        call.number(points.number).text(points.words).text(counts.words);
+        call.number(points.number).word(points.words).word(counts.words);
         break;
     case Target::CppCom:
-        call.number(points.number).text(points.words).number(counts.number).text(counts.words);
+        call.number(points.number).word(points.words).number(counts.number).word(counts.words);
         break;
     case Target::CSharp:
     case Target::JavaScript:
-        call.text(counts.words).text(points.words);
+    case Target::Python:
+        call.word(counts.words).word(points.words);
         break;
     case Target::VbNet:
     case Target::Vba:
         call.number(points.number).number(points.highestIndex()).number(counts.highestIndex());
-        call.text(points.words).text(counts.words);
+        call.word(points.words).word(counts.words);
         break;
     }
 }
@@ -154,7 +160,10 @@ Statement EmitInsertHatchByBoundary(Writer& writer, const CFxString& hatch, cons
                                              "BoundaryPointCountLongArray", "boundaryPointsCount", Brackets::Spaced);
     Fill call = writer.fill(insertByBoundary);
     openLoops(call, coordinates, loops);
-    call.text(pattern.name).real(pattern.first).real(pattern.second).text(hatch);
+    call.text(pattern.name, Meaning::Text)
+        .real(pattern.first, Meaning::Factor)
+        .real(pattern.second, Meaning::Angle)
+        .word(hatch);
     return coordinates.before + loops.before + loops.close(coordinates.close(call)).str();
 }
 
@@ -173,6 +182,7 @@ static const Phrase insertByInternalPoints{
                  "%1%9 = iwSketchManager.InsertHatchByInternalPoints( Coordinates%3, \"%6\", %7, %8 )%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2"
                "%1Set %9 = iwSketchManager.InsertHatchByInternalPoints( Coordinates%3, \"%6\", %7, %8 )%2",
+        .python = "%1%7 = drawing.sketch.InsertHatchByInternalPoints(reals(%3), %4, %5, %6)%2",
     }};
 
 Statement EmitInsertHatchByInternalPoints(Writer& writer, const CFxString& hatch, const OdArray<OdGePoint2d>& points,
@@ -181,6 +191,10 @@ Statement EmitInsertHatchByInternalPoints(Writer& writer, const CFxString& hatch
     const ArrayArgument coordinates =
         coordinateArray(writer, planar(points), "hatchPointsInter", NumberForm::Long, Brackets::Spaced);
     Fill call = writer.fill(insertByInternalPoints);
-    coordinates.open(call).text(pattern.name).real(pattern.first).real(pattern.second).text(hatch);
+    coordinates.open(call)
+        .text(pattern.name, Meaning::Text)
+        .real(pattern.first, Meaning::Factor)
+        .real(pattern.second, Meaning::Angle)
+        .word(hatch);
     return coordinates.before + coordinates.close(call).str();
 }

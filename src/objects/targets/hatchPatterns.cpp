@@ -19,6 +19,7 @@ static const Phrase getHatchPattern{"EmitGetHatchPattern",
                                         .javascript = "%1var %3 = %4.GetHatchPattern();%2",
                                         .vbNet = "%1Dim %3 As Inkwright.HatchPattern%2%1%3 = %4.GetHatchPattern()%2",
                                         .vba = "%1Dim %3 As Inkwright.HatchPattern%2%1Set %3 = %4.GetHatchPattern()%2",
+                                        .python = "%1%3 = %4.GetHatchPattern()%2",
                                     }};
 
 Statement EmitGetHatchPattern(Writer& writer, const CFxString& hatch, CFxString& pattern)
@@ -37,8 +38,11 @@ Statement EmitGetHatchPattern(Writer& writer, const CFxString& hatch, CFxString&
         // A declaration holds for the whole page or procedure there: only a number keeps two apart.
         pattern = QStringLiteral("hatchPattern%1").arg(++writer.UniqueCounter);
         break;
+    case Target::Python:
+        pattern = "pattern";
+        break;
     }
-    return writer.fill(getHatchPattern).text(pattern).text(hatch);
+    return writer.fill(getHatchPattern).word(pattern).word(hatch);
 }
 
 static const Phrase setRegionDetection{"EmitHatchRegionDetection",
@@ -49,12 +53,13 @@ static const Phrase setRegionDetection{"EmitHatchRegionDetection",
                                            .javascript = "%2%1%3.put_InternalRegionDetection(\"%4\");%2",
                                            .vbNet = "%2%1%3.InternalRegionDetection = %4%2",
                                            .vba = "%2%1%3.InternalRegionDetection = %4%2",
+                                           .python = "%1%3.InternalRegionDetection = %4%2",
                                        }};
 
 Statement EmitHatchRegionDetection(Writer& writer, const CFxString& pattern, std::int32_t code)
 {
     const QString way = EnumeratorByValue(writer.target, enums::hatchPatternInternalRegionDetection, code);
-    return writer.fill(setRegionDetection).text(pattern).text(way);
+    return writer.fill(setRegionDetection).word(pattern).word(way);
 }
 
 // The pattern's data.
@@ -84,6 +89,7 @@ static const Phrase getHatchData{
         .javascript = "%1 var data_%4 = %3.GetHatchOrSolidData();%2",
         .vbNet = "%1%3.GetHatchOrSolidData( %4, %5, %6, %7, %8 )%2%2",
         .vba = "%1%3.GetHatchOrSolidData %4, %5, %6, %7, %8%2",
+        .python = "%1data = %3.GetHatchOrSolidData()%2%1%4, %5, %6, %7, %8 = data%2",
     }};
 
 static const Phrase putHatchData{"EmitSetHatchData: writing",
@@ -96,6 +102,7 @@ static const Phrase putHatchData{"EmitSetHatchData: writing",
                                          "data_%3.HatchPatternType, data_%3.Spacing);%2",
                                      .vbNet = "%1%3.SetHatchOrSolidData( %4, %5, %6, %7, %8 )%2%2",
                                      .vba = "%1%3.SetHatchOrSolidData %4, %5, %6, %7, %8%2%2",
+                                     .python = "%1%3.SetHatchOrSolidData(%4, %5, %6, %7, %8)%2",
                                  }};
 
 static constexpr char assignLocal[] = "%1%3 = %4;%2";
@@ -161,17 +168,17 @@ Statement callWithData(Writer& writer, const Phrase& phrase, const CFxString& pa
 {
     Fill call = writer.fill(phrase);
     if (writer.target != Target::CSharp)
-        call.text(pattern);
+        call.word(pattern);
     for (const QLatin1String local : dataLocals(writer.target))
-        call.text(local);
-    return call.text(pattern);
+        call.word(local);
+    return call.word(pattern);
 }
 
 Statement assignReal(Writer& writer, DataLocal local, const std::optional<double>& value, std::uint32_t number)
 {
     if (!value)
         return {};
-    return writer.fill(assignNumber).text(dataLocals(writer.target)[local]).real(*value).number(number);
+    return writer.fill(assignNumber).word(dataLocals(writer.target)[local]).real(*value).number(number);
 }
 
 /// JavaScript's words name the member themselves.
@@ -179,8 +186,12 @@ Statement assignText(Writer& writer, const Phrase& phrase, DataLocal local, cons
 {
     Fill assignment = writer.fill(phrase);
     if (writer.target != Target::JavaScript)
-        assignment.text(dataLocals(writer.target)[local]);
-    return assignment.text(text).number(number);
+        assignment.word(dataLocals(writer.target)[local]);
+    if (&phrase == &assignPatternName)
+        assignment.text(text);
+    else
+        assignment.word(text);
+    return assignment.number(number);
 }
 
 const Fault kPredefinedPattern{"EmitSetHatchData: type",
@@ -218,18 +229,50 @@ Statement assignData(Writer& writer, const HatchPatternChange& change, std::uint
     return text;
 }
 
+/// Python reads all and puts what changed in place of what it has read.
+Statement pythonHatchData(Writer& writer, const CFxString& pattern, const HatchPatternChange& change)
+{
+    const auto readInto = [](bool changes, const char* local) { return QLatin1String(changes ? "_" : local); };
+    Fill get = writer.fill(getHatchData);
+    get.word(pattern)
+        .word(readInto(change.name.has_value(), "pattern_name"))
+        .word(readInto(change.angle.has_value(), "pattern_angle"))
+        .word(readInto(change.scale.has_value(), "pattern_scale"))
+        .word(readInto(change.type.has_value(), "pattern_kind"))
+        .word(readInto(change.spacing.has_value(), "pattern_spacing"));
+    Fill put = writer.fill(putHatchData);
+    const auto real = [&put](const std::optional<double>& value, Meaning meaning, const char* local) {
+        if (value)
+            put.real(*value, meaning);
+        else
+            put.word(QLatin1String(local));
+    };
+    put.word(pattern);
+    if (change.name)
+        put.text(*change.name, Meaning::Text);
+    else
+        put.word(QLatin1String("pattern_name"));
+    real(change.angle, Meaning::Angle, "pattern_angle");
+    real(change.scale, Meaning::Factor, "pattern_scale");
+    put.word(change.type ? patternTypeWord(writer.target, *change.type, true) : QStringLiteral("pattern_kind"));
+    real(change.spacing, Meaning::Length, "pattern_spacing");
+    return get.str() + put.str();
+}
+
 } // namespace
 
 Statement EmitSetHatchData(Writer& writer, const CFxString& pattern, const HatchPatternChange& change)
 {
     if (writer.target == Target::JavaScript) {
         const std::uint32_t number = ++writer.UniqueCounter;
-        return writer.fill(getHatchData).text(pattern).number(number).str() + assignData(writer, change, number) +
-               writer.fill(putHatchData).number(number).text(pattern).str();
+        return writer.fill(getHatchData).word(pattern).number(number).str() + assignData(writer, change, number) +
+               writer.fill(putHatchData).number(number).word(pattern).str();
     }
+    if (writer.target == Target::Python)
+        return pythonHatchData(writer, pattern, change);
     Fill locals = writer.fill(declareHatchData);
     for (const QLatin1String local : dataLocals(writer.target))
-        locals.text(local);
+        locals.word(local);
     return locals.str() + callWithData(writer, getHatchData, pattern) + assignData(writer, change, 0) +
            callWithData(writer, putHatchData, pattern);
 }
@@ -252,6 +295,7 @@ static const Phrase getGradientData{
         .vba = "%2%1Dim color1 As Inkwright.Color%2%2%1Dim color2 As Inkwright.Color%2%1Dim bCentered As Boolean%2"
                "%1Dim gradientAngle As Double%2%2"
                "%1%3.GetGradientData color1, color2, bCentered, gradientAngle%2",
+        .python = "%1data = %3.GetGradientData()%2%1%4, %5, %6, %7 = data%2",
     }};
 
 /// Statements in C++, without a line end. In COM the semicolon ends the statement that the color comes to a second
@@ -323,6 +367,7 @@ static const Phrase putGradientData{
         .javascript = "%1%4.SetGradientData(data%3.Color1, data%3.Color2, data%3.IsCentered, data%3.GradientAngle);%2",
         .vbNet = "%1%3.SetGradientData(color1, color2, bCentered, gradientAngle)%2",
         .vba = "%1%3.SetGradientData color1, color2, bCentered, gradientAngle%2",
+        .python = "%1%3.SetGradientData(%4, %5, %6, %7)%2",
     }};
 
 /// `which` of the two is 1 or 2.
@@ -335,20 +380,45 @@ static Statement changeColor(Writer& writer, int which, const OdCmColor& color, 
     else
         call.number(plain.red()).number(plain.green()).number(plain.blue());
     const Statement change = writer.target == Target::Cpp
-                                 ? call.indent(writer.IndentLevel).text("color" + QString::number(which)).str()
-                                 : writer.fill(assignColor).number(which).text(call.str()).number(number).str();
+                                 ? call.indent(writer.IndentLevel).word("color" + QString::number(which)).str()
+                                 : writer.fill(assignColor).number(which).word(call.str()).number(number).str();
     return notingBlack(writer, change, color);
+}
+
+/// As pythonHatchData.
+static Statement pythonGradientData(Writer& writer, const CFxString& pattern, const HatchGradientChange& change)
+{
+    const auto readInto = [](bool changes, const char* local) { return QLatin1String(changes ? "_" : local); };
+    const auto color = [&writer](const std::optional<OdCmColor>& value, const char* local) {
+        return value ? colorExpression(writer.target, gradientColor(writer, *value)) : QString(QLatin1String(local));
+    };
+    Fill get = writer.fill(getGradientData);
+    get.word(pattern)
+        .word(readInto(change.first.has_value(), "first_color"))
+        .word(readInto(change.second.has_value(), "second_color"))
+        .word(readInto(change.centered.has_value(), "is_centered"))
+        .word(readInto(change.angle.has_value(), "gradient_angle"));
+    Fill put = writer.fill(putGradientData);
+    put.word(pattern).word(color(change.first, "first_color")).word(color(change.second, "second_color"));
+    put.word(change.centered ? truthWord(writer.target, *change.centered) : QStringLiteral("is_centered"));
+    if (change.angle)
+        put.real(*change.angle, Meaning::Angle);
+    else
+        put.word(QLatin1String("gradient_angle"));
+    return get.str() + put.str();
 }
 
 Statement EmitHatchGradientData(Writer& writer, const CFxString& pattern, const HatchGradientChange& change)
 {
+    if (writer.target == Target::Python)
+        return pythonGradientData(writer, pattern, change);
     const bool script = writer.target == Target::JavaScript;
     const std::uint32_t number = script ? ++writer.UniqueCounter : 0;
     const auto call = [&](const Phrase& phrase) {
         Fill statement = writer.fill(phrase);
         if (script)
             statement.number(number);
-        return statement.text(pattern).str();
+        return statement.word(pattern).str();
     };
     Statement text = call(getGradientData);
     if (change.first)
@@ -358,6 +428,6 @@ Statement EmitHatchGradientData(Writer& writer, const CFxString& pattern, const 
     if (change.angle)
         text += writer.fill(assignGradientAngle).real(*change.angle).number(number).str();
     if (change.centered)
-        text += writer.fill(assignCentered).text(truthWord(writer.target, *change.centered)).number(number).str();
+        text += writer.fill(assignCentered).word(truthWord(writer.target, *change.centered)).number(number).str();
     return text + call(putGradientData);
 }

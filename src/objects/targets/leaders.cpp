@@ -21,6 +21,7 @@ static const Phrase insertTolerance{
         .vbNet = "%1%7 = iwSketchManager.InsertTolerance( New Double(){%3,%4,%5}, \"%6\" )%2",
         .vba = "%1Dim Coordinates%7(2) As Double%2%1Coordinates%7(0) = %3%2%1Coordinates%7(1) = %4%2"
                "%1Coordinates%7(2) = %5%2%1Set %8 = iwSketchManager.InsertTolerance( Coordinates%7, \"%6\" )%2",
+        .python = "%1%5 = drawing.sketch.InsertTolerance(reals(%3), %4)%2",
     }};
 
 Statement EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const EscapedText& text,
@@ -30,18 +31,18 @@ Statement EmitInsertTolerance(Writer& writer, const OdGePoint3d& position, const
     if (writer.target == Target::Cpp)
         return callWithArray(
             writer, insertTolerance, coordinateArray(writer, spatial({position}), nullptr),
-            [&](Fill& call) { call.text(text); }, name);
+            [&](Fill& call) { call.text(text, Meaning::Text); }, name);
     if (writer.target == Target::CppCom) {
         ++counter;
         const Statement point =
             comPointLines({writer, "variant" + QString::number(counter), counter}, position, NumberForm::Long, false);
-        return writer.fill(insertTolerance).number(counter).text(point).text(text).text(name);
+        return writer.fill(insertTolerance).number(counter).word(point).text(text, Meaning::Text).word(name);
     }
     Fill statement = writer.fill(insertTolerance);
-    statement.point(position).text(text);
+    statement.point(position).text(text, Meaning::Text);
     if (writer.target == Target::Vba)
         statement.number(++counter);
-    return statement.text(name);
+    return statement.word(name);
 }
 
 static const Phrase insertLeader{
@@ -58,6 +59,7 @@ static const Phrase insertLeader{
                  "%1%8 = iwSketchManager.InsertLeader( Coordinates%3, %6, \"%7\" )%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2"
                "%1Set %8 = iwSketchManager.InsertLeader( Coordinates%3, %6, \"%7\" )%2",
+        .python = "%1%6 = drawing.sketch.InsertLeader(reals(%3), %4, %5)%2",
     }};
 
 Statement EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices, double width, const EscapedText& text,
@@ -65,7 +67,7 @@ Statement EmitInsertLeader(Writer& writer, const OdArray<OdGePoint3d>& vertices,
 {
     return callWithArray(
         writer, insertLeader, coordinateArray(writer, spatial(vertices), "leaderPoints"),
-        [&](Fill& call) { call.real(width).text(text); }, name);
+        [&](Fill& call) { call.real(width, Meaning::Length).text(text, Meaning::Text); }, name);
 }
 
 static const Phrase setToleranceAnnotation{"EmitSetAnnotation",
@@ -76,6 +78,7 @@ static const Phrase setToleranceAnnotation{"EmitSetAnnotation",
                                                .javascript = "%1%3.SetToleranceAnnotation(\"%4\");%2",
                                                .vbNet = "%1%3.SetToleranceAnnotation( \"%4\" )%2",
                                                .vba = "%1%3.SetToleranceAnnotation \"%4\"%2",
+                                               .python = "%1%3.SetToleranceAnnotation(%4)%2",
                                            }};
 
 static const Phrase setBlockAnnotation{"EmitSetAnnotation",
@@ -86,10 +89,11 @@ static const Phrase setBlockAnnotation{"EmitSetAnnotation",
                                            .javascript = "%1%3.SetBlockAnnotation(\"%4\");%2",
                                            .vbNet = "%1%3.SetBlockAnnotation( \"%4\" )%2",
                                            .vba = "%1%3.SetBlockAnnotation \"%4\"%2",
+                                           .python = "%1%3.SetBlockAnnotation(%4)%2",
                                        }};
 
 Statement EmitSetAnnotation(Writer& writer, const CFxString& leader, LeaderAnnotation kind, const EscapedText& text)
 {
     const Phrase& words = kind == LeaderAnnotation::Tolerance ? setToleranceAnnotation : setBlockAnnotation;
-    return writer.fill(words).text(leader).text(text);
+    return writer.fill(words).word(leader).text(text, Meaning::Text);
 }

@@ -22,6 +22,7 @@ static const Phrase insertFace{
                  "%1%10 = iwSketchManager.InsertFace( Coordinates%3, %6, %7, %8, %9 )%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2"
                "%1Set %10 = iwSketchManager.InsertFace( Coordinates%3, %6, %7, %8, %9 )%2",
+        .python = "%1%8 = drawing.sketch.InsertFace(reals(%3), %4, %5, %6, %7)%2",
     }};
 
 Statement EmitInsertFace(Writer& writer, const OdArray<OdGePoint3d>& corners, const std::array<bool, 4>& edgesVisible,
@@ -31,7 +32,7 @@ Statement EmitInsertFace(Writer& writer, const OdArray<OdGePoint3d>& corners, co
         writer, insertFace, coordinateArray(writer, spatial(corners), "facePoints"),
         [&](Fill& call) {
             for (const bool visible : edgesVisible)
-                call.text(truthWord(writer.target, visible));
+                call.word(truthWord(writer.target, visible));
         },
         name);
 }
@@ -48,6 +49,7 @@ static const Phrase insertSolid{
         .javascript = "%1var %4 = mSkMgr.InsertSolid(%3);%2",
         .vbNet = "%1Dim Coordinates%3(%4) As Double%2%5%2%1%6 = iwSketchManager.InsertSolid( Coordinates%3 )%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2%1Set %6 = iwSketchManager.InsertSolid( Coordinates%3 )%2",
+        .python = "%1%4 = drawing.sketch.InsertSolid(reals(%3))%2",
     }};
 
 /// In COM the first of the lines that fill the array is indented twice. It has to stay so.
@@ -63,6 +65,7 @@ static const Phrase insertTrace{
         .javascript = "%1var %4 = mSkMgr.InsertTrace(%3);%2",
         .vbNet = "%1Dim Coordinates%3(%4) As Double%2%5%2%1%6 = iwSketchManager.InsertTrace( Coordinates%3 )%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2%1Set %6 = iwSketchManager.InsertTrace( Coordinates%3 )%2",
+        .python = "%1%4 = drawing.sketch.InsertTrace(reals(%3))%2",
     }};
 
 Statement EmitInsertSolid(Writer& writer, const OdArray<OdGePoint3d>& corners, const CFxString& name)
@@ -92,6 +95,7 @@ static const Phrase insertPolygonMesh{
                  "%1%8 = iwSketchManager.InsertPolygonMesh( %6, %7, Coordinates%3 )%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2"
                "%1Set %8 = iwSketchManager.InsertPolygonMesh( %6, %7, Coordinates%3 )%2",
+        .python = "%1%6 = drawing.sketch.InsertPolygonMesh(%4, %5, reals(%3))%2",
     }};
 
 /// A list within the call stands behind the counts, what fills an array ahead of them.
@@ -106,9 +110,10 @@ Statement EmitInsertPolygonMesh(Writer& writer, int rows, int columns, const OdA
     const ArrayArgument array = coordinateArray(writer, spatial(vertices), "polMesh");
     if (!listsStandLast(writer.target))
         return callWithArray(
-            writer, insertPolygonMesh, array, [&](Fill& call) { call.number(rows).number(columns); }, name);
+            writer, insertPolygonMesh, array,
+            [&](Fill& call) { call.number(rows, Meaning::Count).number(columns, Meaning::Count); }, name);
     return array.before +
-           writer.fill(insertPolygonMesh).number(rows).number(columns).text(array.words).text(name).str();
+           writer.fill(insertPolygonMesh).number(rows).number(columns).word(array.words).word(name).str();
 }
 
 /// What stands ahead of the call are the declarations and the lines of the three arrays: the coordinates, how many
@@ -141,6 +146,8 @@ static const Phrase insertPolyFaceMesh{
                "%1Dim FaceVerticesLongArray%3(%6) As Integer%2%7%2%8%2%9%2"
                "%1Set %11 = iwSketchManager.InsertPolyFaceMesh( %10, Coordinates%3, FaceVerticesCountLongArray%3, "
                "FaceVerticesLongArray%3 )%2",
+        .python = "%1%8 = drawing.sketch.InsertPolyFaceMesh(%7, reals(%4), integers(%5), "
+                  "integers(%6))%2",
     }};
 
 Statement EmitInsertPolyFaceMesh(Writer& writer, int vertexCount, const OdArray<OdGePoint3d>& vertices,
@@ -177,8 +184,8 @@ Statement EmitInsertPolyFaceMesh(Writer& writer, int vertexCount, const OdArray<
             call.number(array->highestIndex());
     }
     for (const ArrayArgument* array : arrays)
-        call.text(array->words);
+        call.word(array->words);
     if (!listsStandLast(writer.target))
         call.number(vertexCount);
-    return coordinates.before + faceCounts.before + faceNumbers.before + call.text(name).str();
+    return coordinates.before + faceCounts.before + faceNumbers.before + call.word(name).str();
 }

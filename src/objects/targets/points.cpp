@@ -15,11 +15,58 @@ static const Phrase callWithPoint{"EmitCallWithPoint",
                                       .javascript = "%1%3.%4(%5, %6, %7);%2",
                                       .vbNet = "%1%3.%4( %5, %6, %7 )%2",
                                       .vba = "%1%3.%4 %5, %6, %7%2",
+                                      .python = "%1%3.%4(%5)%2",
                                   }};
 
 Statement EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxString& method, const OdGePoint3d& point)
 {
-    return writer.fill(callWithPoint).text(target).text(method).point(point);
+    return writer.fill(callWithPoint).word(target).word(method).point(point);
+}
+
+namespace {
+
+struct ChangedCoordinate
+{
+    QChar axis; ///< the last letter of its name
+    double value;
+    int axes = 3;            ///< of the point
+    std::int32_t index = -1; ///< of one of several points
+    bool hasResult = false;  ///< the operation that reads gives a result in front of the coordinates
+    Meaning meaning = Meaning::None;
+};
+
+} // namespace
+
+static const Phrase replaceCoordinate{"EmitChangePoint", {.python = "%1%3 = %4.%5(%6)%2%1%4.%7(%8%9)%2"}};
+
+/// Python reads a point in one statement, which keeps nothing of the coordinate that changes.
+static Statement changeInPython(Writer& writer, const CFxString& target, const CFxString& getter,
+                                const CFxString& setter, const ChangedCoordinate& changed)
+{
+    static const Template planar("%1, %2");
+    static const Template spatial("%1, %2, %3");
+    Fill coordinates = writer.fill(changed.axes == 2 ? planar : spatial);
+    QStringList locals;
+    if (changed.hasResult)
+        locals.append("*_");
+    for (int i = 0; i < changed.axes; ++i) {
+        const QString local(QChar('x' + i));
+        const bool kept = changed.axis.toLower() != local;
+        locals.append(kept ? local : "_");
+        if (kept)
+            coordinates.word(QString(local));
+        else
+            coordinates.real(changed.value, changed.meaning);
+    }
+    const QString index = changed.index == -1 ? QString() : QString::number(changed.index);
+    return writer.fill(replaceCoordinate)
+        .word(locals.join(", "))
+        .word(target)
+        .word(getter)
+        .word(index)
+        .word(setter)
+        .word(index.isEmpty() ? index : index + ", ")
+        .word(coordinates.str());
 }
 
 /// The four steps of a change, in their order.
@@ -33,16 +80,24 @@ struct PointWords
 
 /// Without an index (-1) the calls have one value less.
 static Statement changePoint(Writer& writer, const PointWords& words, const CFxString& target, const CFxString& getter,
-                             const CFxString& setter, std::int32_t index, const CFxString& coordinate, double value)
+                             const CFxString& setter, std::int32_t index, const CFxString& coordinate, double value,
+                             Meaning meaning = Meaning::None)
 {
+    if (writer.target == Target::Python)
+        return changeInPython(writer, target, getter, setter,
+                              {.axis = coordinate.toQString().back(),
+                               .value = value,
+                               .index = index,
+                               .hasResult = index != -1,
+                               .meaning = meaning});
     const std::uint32_t suffix = ++writer.UniqueCounter;
     const auto call = [&](const Phrase& phrase, const CFxString& operation) -> Statement {
         if (index == -1)
-            return writer.fillIndented(phrase).text(target).text(operation).text(LineEnd).number(suffix);
-        return writer.fillIndented(phrase).text(target).text(operation).number(index).text(LineEnd).number(suffix);
+            return writer.fillIndented(phrase).word(target).word(operation).word(LineEnd).number(suffix);
+        return writer.fillIndented(phrase).word(target).word(operation).number(index).word(LineEnd).number(suffix);
     };
     return writer.fill(words.declare).number(suffix).str() + call(words.get, getter) +
-           writer.fillIndented(words.change).text(coordinate).real(value).text(LineEnd).number(suffix).str() +
+           writer.fillIndented(words.change).word(coordinate).real(value).word(LineEnd).number(suffix).str() +
            call(words.set, setter);
 }
 
@@ -122,11 +177,11 @@ static const Phrase setIndexedPoint{"EmitChangePoint",
                                     }};
 
 Statement EmitChangePoint(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
-                          const CFxString& setter, double value, std::int32_t index)
+                          const CFxString& setter, double value, std::int32_t index, Meaning meaning)
 {
     static const PointWords plain{declarePoint, getPoint, changePointCoordinate, setPoint};
     static const PointWords indexed{declareIndexedPoint, getIndexedPoint, changePointCoordinate, setIndexedPoint};
-    return changePoint(writer, index == -1 ? plain : indexed, target, getter, setter, index, axis, value);
+    return changePoint(writer, index == -1 ? plain : indexed, target, getter, setter, index, axis, value, meaning);
 }
 
 static const Phrase changeScale{"EmitChangeScale",
@@ -138,7 +193,7 @@ static const Phrase changeScale{"EmitChangeScale",
 Statement EmitChangeScale(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
                           const CFxString& setter, double value)
 {
-    return writer.fill(changeScale).text(target).text(getter).text(setter).text(axis).real(value);
+    return writer.fill(changeScale).word(target).word(getter).word(setter).word(axis).real(value);
 }
 
 /// JavaScript gets its local from the call.
@@ -258,21 +313,24 @@ static const Phrase setVertex{"EmitChangeVertex",
 static const Mend scriptVertexWrite(setVertex, Target::JavaScript, "the locals of a typed language",
                                     "%1%2.SetVertexCoordinate(%3, points.X, points.Y, points.Z);%4");
 
-static Statement changeVertex(Writer& writer, const PointWords& words, const CFxString& target, std::int32_t index,
-                              const CFxString& axis, double value)
+static Statement changeVertex(Writer& writer, const PointWords& words, int axes, const CFxString& target,
+                              std::int32_t index, const CFxString& axis, double value)
 {
+    if (writer.target == Target::Python)
+        return changeInPython(writer, target, "GetVertexCoordinate", "SetVertexCoordinate",
+                              {.axis = axis.toQString().back(), .value = value, .axes = axes, .index = index});
     // Only here the C++ calls end with the usual second value, and only they do without the suffix.
     if (writer.target == Target::Cpp)
-        return writer.fill(words.declare).str() + writer.fill(words.get).text(target).number(index).str() +
-               writer.fill(words.change).text(axis).real(value).str() +
-               writer.fill(words.set).text(target).number(index).str();
+        return writer.fill(words.declare).str() + writer.fill(words.get).word(target).number(index).str() +
+               writer.fill(words.change).word(axis).real(value).str() +
+               writer.fill(words.set).word(target).number(index).str();
 
     const std::uint32_t suffix = writer.target == Target::JavaScript ? 0 : ++writer.UniqueCounter;
     const auto call = [&](const Phrase& phrase) {
-        return writer.fillIndented(phrase).text(target).number(index).text(LineEnd).number(suffix).str();
+        return writer.fillIndented(phrase).word(target).number(index).word(LineEnd).number(suffix).str();
     };
     return writer.fill(words.declare).number(suffix).str() + call(words.get) +
-           writer.fillIndented(words.change).text(axis).real(value).text(LineEnd).number(suffix).str() +
+           writer.fillIndented(words.change).word(axis).real(value).word(LineEnd).number(suffix).str() +
            call(words.set);
 }
 
@@ -280,7 +338,7 @@ Statement EmitChangeVertex(Writer& writer, const CFxString& target, std::int32_t
                            double value)
 {
     static const PointWords words{declareVertex, getVertex, changeVertexCoordinate, setVertex};
-    return changeVertex(writer, words, target, index, axis, value);
+    return changeVertex(writer, words, 3, target, index, axis, value);
 }
 
 static const Phrase declareVertex2D{"EmitChangeVertex2D",
@@ -323,7 +381,7 @@ Statement EmitChangeVertex2D(Writer& writer, const CFxString& target, std::int32
                              double value)
 {
     static const PointWords words{declareVertex2D, getVertex2D, changeVertexCoordinate, setVertex2D};
-    return changeVertex(writer, words, target, index, axis, value);
+    return changeVertex(writer, words, 2, target, index, axis, value);
 }
 
 // A coordinate of a point that is read and written as a whole. JavaScript reads it into one variable, which every such
@@ -358,18 +416,21 @@ static const Phrase changePlanar{
 static Statement changeCoordinate(Writer& writer, const Phrase& phrase, int axis, const CFxString& target,
                                   const CFxString& stem, double value)
 {
+    const int axes = &phrase == &changePlanar ? 2 : 3;
+    if (writer.target == Target::Python)
+        return changeInPython(writer, target, "Get" + stem.toQString(), "Set" + stem.toQString(),
+                              {.axis = QChar('x' + axis), .value = value, .axes = axes});
     const bool script = writer.target == Target::JavaScript;
     const QString number = script ? QString() : QString::number(++writer.UniqueCounter);
     Fill change = writer.fill(phrase);
-    change.text(target).text(stem);
-    const int axes = &phrase == &changePlanar ? 2 : 3;
+    change.word(target).word(stem);
     for (int i = 0; i < axes; ++i) {
         if (i == axis)
             change.real(value);
         else
-            change.text(script ? "points." + QString(QChar('X' + i)) : QChar('x' + i) + number);
+            change.word(script ? "points." + QString(QChar('X' + i)) : QChar('x' + i) + number);
     }
-    return change.text(number);
+    return change.word(number);
 }
 
 Statement EmitChangeCoordinateX(Writer& writer, const CFxString& target, const CFxString& stem, double value)

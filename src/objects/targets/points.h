@@ -7,7 +7,8 @@ Statement EmitCallWithPoint(Writer& writer, const CFxString& target, const CFxSt
 /// `getter` and `setter` are the host's operations. `axis` is "X", "Y" or "Z"; `index` is -1 for a property that
 /// is not repeated.
 Statement EmitChangePoint(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,
-                          const CFxString& setter, double value, std::int32_t index);
+                          const CFxString& setter, double value, std::int32_t index,
+                          inkmacro::Meaning meaning = inkmacro::Meaning::None);
 /// A scale factor of the axis. A page's points have members of their own for these; the other targets lack the
 /// statement.
 Statement EmitChangeScale(Writer& writer, const CFxString& target, const CFxString& axis, const CFxString& getter,

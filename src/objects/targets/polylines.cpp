@@ -23,6 +23,7 @@ static const Phrase insertRichLine{
                  "%1%10 = iwSketchManager.InsertRichLine( Coordinates%3, %6, %7, \"%8\", %9 )%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2"
                "%1Set %10 = iwSketchManager.InsertRichLine( Coordinates%3, %6, %7, \"%8\", %9 )%2",
+        .python = "%1%8 = drawing.sketch.InsertRichLine(reals(%3), %4, %5, %6, %7)%2",
     }};
 
 /// The rows of the texts behind the default stand in the order of the drawing's numbers, from 1.
@@ -41,7 +42,10 @@ Statement EmitInsertRichLine(Writer& writer, const OdArray<OdGePoint3d>& vertice
     const QString closedText = truthWord(writer.target, closed);
     return callWithArray(
         writer, insertRichLine, coordinateArray(writer, spatial(vertices), "points"),
-        [&](Fill& call) { call.text(justificationText).real(scale).text(style).text(closedText); }, name);
+        [&](Fill& call) {
+            call.word(justificationText).real(scale, Meaning::Factor).text(style, Meaning::Text).word(closedText);
+        },
+        name);
 }
 
 static const Phrase insertPolyline3D{
@@ -58,6 +62,7 @@ static const Phrase insertPolyline3D{
                  "%1%7 = iwSketchManager.InsertPolyline3D( Coordinates%3, %6 )%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2"
                "%1Set %7 = iwSketchManager.InsertPolyline3D( Coordinates%3, %6 )%2",
+        .python = "%1%5 = drawing.sketch.InsertPolyline3D(reals(%3), %4)%2",
     }};
 
 /// In COM the assignment stands without blanks, other than in space. It has to stay so.
@@ -75,6 +80,7 @@ static const Phrase insertPolyline2D{
                  "%1%7 = iwSketchManager.InsertPolyline2D( Coordinates%3, %6 )%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2"
                "%1Set %7 = iwSketchManager.InsertPolyline2D( Coordinates%3, %6 )%2",
+        .python = "%1%5 = drawing.sketch.InsertPolyline2D(reals(%3), %4)%2",
     }};
 
 static Statement insertPolyline(Writer& writer, const Phrase& phrase, const Coordinates& vertices, const char* script,
@@ -82,7 +88,7 @@ static Statement insertPolyline(Writer& writer, const Phrase& phrase, const Coor
 {
     const QString closedText = truthWord(writer.target, closed);
     return callWithArray(
-        writer, phrase, coordinateArray(writer, vertices, script), [&](Fill& call) { call.text(closedText); }, name);
+        writer, phrase, coordinateArray(writer, vertices, script), [&](Fill& call) { call.word(closedText); }, name);
 }
 
 Statement EmitInsertPolyline3D(Writer& writer, const OdArray<OdGePoint3d>& vertices, bool closed, const CFxString& name)
@@ -111,6 +117,7 @@ static const Phrase insertSpline{
                  "%1%13 = iwSketchManager.InsertSpline( Coordinates%3, %6, %7, %8 ,%9, %10, %11, %12 )%2",
         .vba = "%1Dim Coordinates%3(%4) As Double%2%5%2"
                "%1Set %13 = iwSketchManager.InsertSpline( Coordinates%3, %6, %7, %8 ,%9, %10, %11, %12 )%2",
+        .python = "%1%11 = drawing.sketch.InsertSpline(reals(%3), %4, %5, %6, %7, %8, %9, %10)%2",
     }};
 
 Statement EmitInsertSpline(Writer& writer, const OdArray<OdGePoint3d>& fitPoints, bool closed,
@@ -119,5 +126,11 @@ Statement EmitInsertSpline(Writer& writer, const OdArray<OdGePoint3d>& fitPoints
     const QString closedText = truthWord(writer.target, closed);
     return callWithArray(
         writer, insertSpline, coordinateArray(writer, spatial(fitPoints), "points"),
-        [&](Fill& call) { call.text(closedText).point(startTangent).point(endTangent); }, name);
+        [&](Fill& call) {
+            call.word(closedText);
+            // Directions, which no point that the user gives takes the place of.
+            for (const OdGePoint3d& tangent : {startTangent, endTangent})
+                call.real(tangent.x).real(tangent.y).real(tangent.z);
+        },
+        name);
 }

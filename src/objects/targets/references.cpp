@@ -17,6 +17,7 @@ static const Phrase objectByHandle{
                  "%1Dim %4 As Inkwright.%3 = iwApp.GetActiveDocument().GetObjectByHandle(\"%5\", type%6)%2",
         .vba = "%1Dim %4 As Inkwright.%3%2%1Dim type%6 As Inkwright.iwObjectType_e%2"
                "%1Set %4 = iwApp.GetActiveDocument().GetObjectByHandle (\"%5\", type%6 )%2",
+        .python = "%1%4, _ = drawing.doc.GetObjectByHandle(%5)%2",
     }};
 
 Statement EmitGetObjectByHandle(Writer& writer, const CFxString& type, const CFxString& name, const OdDbHandle& handle)
@@ -24,8 +25,8 @@ Statement EmitGetObjectByHandle(Writer& writer, const CFxString& type, const CFx
     const QString digits = handle.ascii();
     // A page needs neither the variable's type nor a place for the object's.
     if (writer.target == Target::JavaScript)
-        return writer.fill(objectByHandle).text(name).text(digits);
-    return writer.fill(objectByHandle).text(type).text(name).text(digits).number(++writer.UniqueCounter);
+        return writer.fill(objectByHandle).word(name).text(digits);
+    return writer.fill(objectByHandle).word(type).word(name).text(digits).number(++writer.UniqueCounter);
 }
 
 CFxString NameByNow(const Writer& writer, const OdDbSymbolTableRecord& record)
@@ -42,11 +43,12 @@ static const Phrase getNoteAnnotation{"EmitGetNoteAnnotation",
                                           .javascript = "%1var %4 = %3.GetNoteAnnotation();%2",
                                           .vbNet = "%1Dim %4 As Inkwright.Note = %3.GetNoteAnnotation()%2",
                                           .vba = "%1Dim %4 As Inkwright.Note%2%1Set %4 = %3.GetNoteAnnotation()%2",
+                                          .python = "%1%4 = %3.GetNoteAnnotation()%2",
                                       }};
 
 Statement EmitGetNoteAnnotation(Writer& writer, const CFxString& note, const CFxString& leader)
 {
-    return writer.fill(getNoteAnnotation).text(leader).text(note);
+    return writer.fill(getNoteAnnotation).word(leader).word(note);
 }
 
 static const Phrase declareObject{"EmitDeclareObject",
@@ -64,8 +66,8 @@ Statement EmitDeclareObject(Writer& writer, const char* interfaceName, const CFx
     Fill declaration = writer.fill(declareObject);
     // A page's variables have no types.
     if (writer.target != Target::JavaScript)
-        declaration.text(QLatin1String(interfaceName));
-    return declaration.text(name);
+        declaration.word(QLatin1String(interfaceName));
+    return declaration.word(name);
 }
 
 static const Phrase removeModelView{"EmitRemoveNamedView",
@@ -76,6 +78,7 @@ static const Phrase removeModelView{"EmitRemoveNamedView",
                                         .javascript = "%1mViewManager.RemoveModelNamedView( \"%3\" );%2",
                                         .vbNet = "%1iwViewManager.RemoveModelNamedView( \"%3\" )%2",
                                         .vba = "%1iwViewManager.RemoveModelNamedView \"%3\"%2",
+                                        .python = "%1drawing.views.RemoveModelNamedView(%3)%2",
                                     }};
 
 static const Phrase removeSheetView{"EmitRemoveNamedView",
@@ -86,12 +89,13 @@ static const Phrase removeSheetView{"EmitRemoveNamedView",
                                         .javascript = "%1mViewManager.RemoveSheetNamedView( \"%3\" );%2",
                                         .vbNet = "%1iwViewManager.RemoveSheetNamedView( \"%3\" )%2",
                                         .vba = "%1iwViewManager.RemoveSheetNamedView \"%3\"%2",
+                                        .python = "%1drawing.views.RemoveSheetNamedView(%3)%2",
                                     }};
 
 /// The manager removes a view by its name; the variable is of no use.
 Statement EmitRemoveNamedView(Writer& writer, const CFxString&, const CFxString& viewName, bool paperspace)
 {
-    return writer.fill(paperspace ? removeSheetView : removeModelView).text(viewName);
+    return writer.fill(paperspace ? removeSheetView : removeModelView).text(viewName, Meaning::Text);
 }
 
 static const Phrase removeLayer{
@@ -112,9 +116,10 @@ static const Phrase removeLayer{
         .vba = "%1Dim iwLayerManager%3 As Inkwright.LayerManager%2%1Set iwLayerManager%3 = iwDoc.GetLayerManager()%2"
                "%1Dim layerName%3 As String%2%1layerName%3 = %4.Name%2"
                "%1iwLayerManager%3.RemoveLayer layerName%3%2",
+        .python = "%1layers = drawing.doc.GetLayerManager()%2%1layers.RemoveLayer(%4.Name)%2",
     }};
 
 Statement EmitRemoveLayer(Writer& writer, const CFxString& name)
 {
-    return writer.fill(removeLayer).number(++writer.UniqueCounter).text(name);
+    return writer.fill(removeLayer).number(++writer.UniqueCounter).word(name);
 }

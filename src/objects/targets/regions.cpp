@@ -40,6 +40,7 @@ static const Phrase insertRegion{"EmitInsertRegion",
                                      .javascript = "%1var regionArray_%3 = mSkMgr.InsertRegion(iwEntities_%3);%2",
                                      .vbNet = "%1iwSketchManager.InsertRegion( iwEntities_%3, regionArray%3 )%2%2",
                                      .vba = "%1iwSketchManager.InsertRegion iwRegionEntities_%3, regionArray%3 %2",
+                                     .python = "%1regions = drawing.sketch.InsertRegion(objects(%5))%2",
                                  }};
 
 static const Phrase takeRegion{
@@ -54,6 +55,7 @@ static const Phrase takeRegion{
         .vbNet = "%1Dim iwRegionObjs As Object() = DirectCast(regionArray%3, Object())%2"
                  "%1%4 = TryCast(iwRegionObjs(0), Inkwright.Region)%2",
         .vba = "%1Set %4 = regionArray%3(0)%2%2",
+        .python = "%1%4 = regions[0]%2",
     }};
 
 static Statement regionEntities(Writer& writer, const QStringList& names, std::uint32_t number)
@@ -63,7 +65,8 @@ static Statement regionEntities(Writer& writer, const QStringList& names, std::u
                                       .csharp = "iwEntities_",
                                       .javascript = "iwEntities_",
                                       .vbNet = "iwEntities_",
-                                      .vba = "iwRegionEntities_"};
+                                      .vba = "iwRegionEntities_",
+                                      .python = "entities"};
     ArrayPlace place(writer, numberedName(arrayNames, writer.target, number), number, Brackets::Tight);
     const std::vector<QString> words(names.begin(), names.end());
     const int bound = arrayBound(writer, words.size());
@@ -79,8 +82,12 @@ static Statement regionEntities(Writer& writer, const QStringList& names, std::u
 
 Statement EmitInsertRegion(Writer& writer, const CFxString& variable, const QStringList& names, std::uint32_t number)
 {
-    // The number goes into two places of the same literal in C++.
-    return regionEntities(writer, names, number) + writer.fill(regionArray).number(number).str() +
-           writer.fill(insertRegion).number(number).number(number).str() +
-           writer.fill(takeRegion).number(number).text(variable).str();
+    const Statement entities = regionEntities(writer, names, number);
+    // The number goes into two places of the same literal in C++. In Python the entities are a list within the call.
+    Fill insertion = writer.fill(insertRegion);
+    insertion.number(number).number(number);
+    if (writer.target == Target::Python)
+        return insertion.word(entities).str() + writer.fill(takeRegion).number(number).word(variable).str();
+    return entities + writer.fill(regionArray).number(number).str() + insertion.str() +
+           writer.fill(takeRegion).number(number).word(variable).str();
 }

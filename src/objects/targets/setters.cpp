@@ -19,6 +19,7 @@ static const Phrase setText{"EmitSetProperty",
                                 .javascript = "%1%3.put_%4 (\"%5\");%2",
                                 .vbNet = "%1%3.%4 = \"%5\"%2",
                                 .vba = "%1%3.%4 = \"%5\"%2",
+                                .python = "%1%3.%4 = %5%2",
                             }};
 static const Mend bstrProperty(setText, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
@@ -30,22 +31,26 @@ static const Phrase setValue{"EmitSetProperty",
                                  .javascript = "%1%3.put_%4(%5);%2",
                                  .vbNet = "%1%3.%4 = %5%2",
                                  .vba = "%1%3.%4 = %5%2",
+                                 .python = "%1%3.%4 = %5%2",
                              }};
 
 Statement EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property, const EscapedText& value,
-                          bool quoted)
+                          bool quoted, Meaning meaning)
 {
-    return writer.fill(quoted ? setText : setValue).text(target).text(property).text(value);
+    if (quoted)
+        return writer.fill(setText).word(target).word(property).text(value, meaning);
+    return writer.fill(setValue).word(target).word(property).word(value.written);
 }
 
-Statement EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value)
+Statement EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value,
+                                Meaning meaning)
 {
-    return writer.fill(setValue).text(target).text(property).real(value);
+    return writer.fill(setValue).word(target).word(property).real(value, meaning);
 }
 
 Statement EmitSetBoolProperty(Writer& writer, const CFxString& target, const CFxString& property, bool value)
 {
-    return writer.fill(setValue).text(target).text(property).text(truthWord(writer.target, value));
+    return writer.fill(setValue).word(target).word(property).word(truthWord(writer.target, value));
 }
 
 static const Phrase setIndexedDouble{"EmitSetIndexedDouble",
@@ -56,6 +61,7 @@ static const Phrase setIndexedDouble{"EmitSetIndexedDouble",
                                          .javascript = "%1%3.%4( %5, %6 );%2",
                                          .vbNet = "%1%3.%4( %5, %6 )%2",
                                          .vba = "%1%3.%4 %5, %6%2",
+                                         .python = "%1%3.%4(%5, %6)%2",
                                      }};
 
 Statement EmitSetIndexedDouble(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t index,
@@ -63,7 +69,12 @@ Statement EmitSetIndexedDouble(Writer& writer, const CFxString& target, const CF
 {
     // Only C++ has a local, and only a local uses up a number.
     const std::uint32_t suffix = writer.target == Target::Cpp ? ++writer.UniqueCounter : 0;
-    return writer.fill(setIndexedDouble).text(target).text(operation).number(index).real(value).number(suffix);
+    return writer.fill(setIndexedDouble)
+        .word(target)
+        .word(operation)
+        .number(index)
+        .real(value, Meaning::Length)
+        .number(suffix);
 }
 
 /// Enumerators are texts to JavaScript.
@@ -75,12 +86,13 @@ static const Phrase setEnumeratorProperty{"EmitSetEnumProperty",
                                               .javascript = "%1%3.put_%4(\"%5\");%2",
                                               .vbNet = "%1%3.%4 = %5%2",
                                               .vba = "%1%3.%4 = %5%2",
+                                              .python = "%1%3.%4 = %5%2",
                                           }};
 
 static Statement setEnumerator(Writer& writer, const CFxString& target, const CFxString& property,
                                const QString& enumerator)
 {
-    return writer.fill(setEnumeratorProperty).text(target).text(property).text(enumerator);
+    return writer.fill(setEnumeratorProperty).word(target).word(property).word(enumerator);
 }
 
 Statement EmitSetEnumProperty(Writer& writer, const CFxString& target, const TextEnumeration& enumeration,
@@ -116,6 +128,7 @@ static const Phrase setIndexedColor{
         .javascript = "%1%3.put_%4( mApp.GetColorByIndex( %5 ) );%2",
         .vbNet = "%1%3.%4 = iwApp.GetColorByIndex( %5 )%2",
         .vba = "%1%3.%4 = iwApp.GetColorByIndex( %5 )%2",
+        .python = "%1%3.%4 = drawing.app.GetColorByIndex(%5)%2",
     }};
 
 static const Phrase setRgbColor{"EmitSetColor",
@@ -128,6 +141,7 @@ static const Phrase setRgbColor{"EmitSetColor",
                                     .javascript = "%1%3.put_%4( mApp.GetRGBColor( %5, %6, %7 ) );%2",
                                     .vbNet = "%1%3.%4 = iwApp.GetRGBColor( %5, %6, %7 )%2",
                                     .vba = "%1%3.%4 = iwApp.GetRGBColor( %5, %6, %7 )%2",
+                                    .python = "%1%3.%4 = drawing.app.GetRGBColor(%5, %6, %7)%2",
                                 }};
 
 /// The C++ add-in takes the color into a local variable before it comes to the property.
@@ -139,13 +153,13 @@ Statement EmitSetColor(Writer& writer, const CFxString& target, const CFxString&
     if (byLocal)
         statement.number(++writer.UniqueCounter);
     else
-        statement.text(target).text(property);
+        statement.word(target).word(property);
     if (indexed)
         statement.number(color.colorIndex());
     else
         statement.number(color.red()).number(color.green()).number(color.blue());
     if (byLocal)
-        statement.text(target).text(property);
+        statement.word(target).word(property);
     return statement;
 }
 
@@ -177,11 +191,12 @@ static const Phrase setLineWeight{"EmitSetLineWeight",
                                       .javascript = "%1%3.put_%4( \"%5\" );%2",
                                       .vbNet = "%1%3.%4 = %5%2",
                                       .vba = "%1%3.%4 = %5%2",
+                                      .python = "%1%3.%4 = %5%2",
                                   }};
 
 Statement EmitSetLineWeight(Writer& writer, const CFxString& target, const CFxString& property, int weight)
 {
-    return writer.fill(setLineWeight).text(target).text(property).text(LineWeightEnumerator(writer.target, weight));
+    return writer.fill(setLineWeight).word(target).word(property).word(LineWeightEnumerator(writer.target, weight));
 }
 
 static const Phrase setByLayer{"EmitSetTransparency",
@@ -192,6 +207,7 @@ static const Phrase setByLayer{"EmitSetTransparency",
                                    .javascript = "iwTransparency%1.SetByLayer();",
                                    .vbNet = "iwTransparency%1.SetByLayer()",
                                    .vba = "iwTransparency%1.SetByLayer",
+                                   .python = "%3transparency.SetByLayer()%4",
                                }};
 
 static const Phrase setByBlock{"EmitSetTransparency",
@@ -202,6 +218,7 @@ static const Phrase setByBlock{"EmitSetTransparency",
                                    .javascript = "iwTransparency%1.SetByBlock();",
                                    .vbNet = "iwTransparency%1.SetByBlock()",
                                    .vba = "iwTransparency%1.SetByBlock",
+                                   .python = "%3transparency.SetByBlock()%4",
                                }};
 
 static const Phrase setByAlpha{"EmitSetTransparency",
@@ -212,6 +229,7 @@ static const Phrase setByAlpha{"EmitSetTransparency",
                                    .javascript = "iwTransparency%1.SetByAlpha( %2 );",
                                    .vbNet = "iwTransparency%1.SetByAlpha( %2 )",
                                    .vba = "iwTransparency%1.SetByAlpha( %2 )",
+                                   .python = "%3transparency.SetByAlpha(%2)%4",
                                }};
 
 static const Phrase setTransparency{
@@ -228,9 +246,10 @@ static const Phrase setTransparency{
                  "%1%4.Transparency = iwTransparency%3%2",
         .vba = "%1Dim iwTransparency%3 As Inkwright.Transparency%2%1Set iwTransparency%3 = %4.Transparency%2%1%5%2"
                "%1%4.Transparency = iwTransparency%3%2",
+        .python = "%1transparency = %4.Transparency%2%5%1%4.Transparency = transparency%2",
     }};
 
-/// A method without a name leaves the middle line blank.
+/// A method without a name leaves the middle line blank, but in Python, where that line brings its own ends.
 Statement EmitSetTransparency(Writer& writer, const CFxString& target, const OdCmTransparency& transparency)
 {
     std::uint32_t& counter = processCounters.of(writer.target).transparencies;
@@ -240,8 +259,10 @@ Statement EmitSetTransparency(Writer& writer, const CFxString& target, const OdC
                                                                                     : nullptr;
     // The interface counts in percent from solid to clear.
     const int percent = static_cast<int>(100 - transparency.alpha / 255.0 * 100);
-    const Statement line = phrase ? writer.fillPlain(*phrase).number(counter).number(percent).str() : Statement();
-    const Statement statement = writer.fill(setTransparency).number(counter).text(target).text(line);
+    Statement line;
+    if (phrase)
+        line = writer.fillPlain(*phrase).number(counter).number(percent).indent(writer.IndentLevel).lineEnd().str();
+    const Statement statement = writer.fill(setTransparency).number(counter).word(target).word(line);
     ++counter;
     return statement;
 }

@@ -6,9 +6,12 @@
 #include "statements/enumerations.h"
 
 Statement EmitSetProperty(Writer& writer, const CFxString& target, const CFxString& property,
-                          const inkmacro::EscapedText& value, bool quoted);
-Statement EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value);
+                          const inkmacro::EscapedText& value, bool quoted,
+                          inkmacro::Meaning meaning = inkmacro::Meaning::None);
+Statement EmitSetDoubleProperty(Writer& writer, const CFxString& target, const CFxString& property, double value,
+                                inkmacro::Meaning meaning = inkmacro::Meaning::None);
 Statement EmitSetBoolProperty(Writer& writer, const CFxString& target, const CFxString& property, bool value);
+/// A length, by number of a repeated property.
 Statement EmitSetIndexedDouble(Writer& writer, const CFxString& target, const CFxString& operation, std::int32_t index,
                                double value);
 /// The enumerator is told by the text that the property sheet shows.

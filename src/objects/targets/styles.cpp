@@ -29,6 +29,7 @@ using namespace inkmacro;
         .vba = "%1Dim result%3 As Inkwright.iwCreateObjectResult_e%2%1Dim " LOCAL "%4 As String%2"                     \
                "%1" LOCAL "%4 = \"%5\"%2"                                                                              \
                "%1iwApp.GetActiveDocument().Get" KIND "Manager().Create" KIND " " LOCAL "%4, %6, result%3%2",          \
+        .python = "%1styles = drawing.doc.Get" KIND "Manager()%2%1%6, _ = styles.Create" KIND "(%5)%2",                \
     }
 
 static const Phrase createTableStyle{"EmitCreateTableStyle", INKMACRO_CREATE_STYLE("TableStyle", "tableStyleName", "")};
@@ -50,7 +51,7 @@ static Statement create(Writer& writer, const Phrase& phrase, const CFxString& s
     Fill statement = writer.fill(phrase);
     if (hasResult)
         statement.number(number);
-    return statement.number(number).text(styleName).text(name);
+    return statement.number(number).text(styleName, Meaning::Text).word(name);
 }
 
 Statement EmitCreateTableStyle(Writer& writer, const CFxString& styleName, const CFxString& name)
@@ -81,6 +82,8 @@ static const Phrase loadLineStyle{
         .javascript = "%1var %5 = mDoc.GetLineStyleManager().LoadLineStyle(\"%3\",\"%4\").LineStyle;%2",
         .vbNet = "%1iwApp.GetActiveDocument().GetLineStyleManager().LoadLineStyle( \"%3\",\"%4\", %5 )%2",
         .vba = "%1iwApp.GetActiveDocument().GetLineStyleManager().LoadLineStyle \"%3\",\"%4\", %5%2",
+        .python = "%1styles = drawing.doc.GetLineStyleManager()%2"
+                  "%1%5 = last(styles.LoadLineStyle(%3, %4))%2",
     }};
 
 Statement EmitLoadLineStyle(Writer& writer, const CFxString& styleName, const EscapedText& path, const CFxString& name)
@@ -88,7 +91,7 @@ Statement EmitLoadLineStyle(Writer& writer, const CFxString& styleName, const Es
     Fill statement = writer.fill(loadLineStyle);
     if (writer.target == Target::Cpp)
         statement.number(++writer.UniqueCounter);
-    return statement.text(styleName).text(path).text(name);
+    return statement.text(styleName, Meaning::Text).text(path, Meaning::Text).word(name);
 }
 
 static const Phrase renameStyle{
@@ -105,13 +108,15 @@ static const Phrase renameStyle{
                  "%1result%3 = %6.Rename( styleName%4 )%2",
         .vba = "%1Dim result%3 As Inkwright.iwCreateObjectResult_e%2%1Dim styleName%4 As String%2"
                "%1styleName%4 = \"%5\"%2%1result%3 = %6.Rename( styleName%4 )%2",
+        .python = "%1%6.Rename(%5)%2",
     }};
 static const Mend bstrStyleName(renameStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 Statement EmitRenameStyle(Writer& writer, const CFxString& style, const CFxString& newName, bool activate)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
-    const Statement rename = writer.fill(renameStyle).number(number).number(number).text(newName).text(style);
+    const Statement rename =
+        writer.fill(renameStyle).number(number).number(number).text(newName, Meaning::Text).word(style);
     return activate ? rename + EmitActivate(writer, style) : rename;
 }
 
@@ -122,11 +127,12 @@ static const Phrase renameRichLineStyle{"EmitRenameRichLineStyle",
                                             .javascript = "%1%3.Rename(\"%4\");%2",
                                             .vbNet = "%1%3.Rename(\"%4\")%2",
                                             .vba = "%1%3.Rename( \"%4\" ) %2",
+                                            .python = "%1%3.Rename(%4)%2",
                                         }};
 
 Statement EmitRenameRichLineStyle(Writer& writer, const CFxString& style, const CFxString& newName)
 {
-    return writer.fill(renameRichLineStyle).text(style).text(newName);
+    return writer.fill(renameRichLineStyle).word(style).text(newName, Meaning::Text);
 }
 
 /// As recorded the rename of a layer or a group is lost in C++. A rich line style has no such operation there.
@@ -136,7 +142,7 @@ Statement EmitRenameLayerOrGroup(Writer& writer, const CFxString& variable, cons
 {
     if (!writer.repairs || !renameLayerOrGroup.has(writer.target))
         return EmitRenameRichLineStyle(writer, variable, newName);
-    return writer.fill(renameLayerOrGroup).text(variable).text(newName);
+    return writer.fill(renameLayerOrGroup).word(variable).text(newName, Meaning::Text);
 }
 
 /// In C++ the call has an answer, other than that of a custom action.
@@ -149,7 +155,7 @@ Statement EmitActivateLayer(Writer& writer, const CFxString& variable)
 {
     if (!activateLayer.has(writer.target))
         return EmitActivate(writer, variable);
-    return writer.fill(activateLayer).text(variable).number(++writer.UniqueCounter);
+    return writer.fill(activateLayer).word(variable).number(++writer.UniqueCounter);
 }
 
 static const Phrase replaceElement{"EmitReplaceRichLineElement",
@@ -159,6 +165,7 @@ static const Phrase replaceElement{"EmitReplaceRichLineElement",
                                        .javascript = "%1%3.DeleteLine(%4);%2%1%3.AddLine(%5, %6, \"%7\");%2",
                                        .vbNet = "%1%3.DeleteLine(%4)%2%1%3.AddLine(%5, %6, \"%7\")%2",
                                        .vba = "%1%3.DeleteLine %4%2%1%3.AddLine %5, %6, \"%7\"%2",
+                                       .python = "%1%3.DeleteLine(%4)%2%1%3.AddLine(%5, %6, %7)%2",
                                    }};
 
 static const Fault kLineByBlock{"EmitReplaceRichLineElement",
@@ -171,10 +178,10 @@ Statement EmitReplaceRichLineElement(Writer& writer, const CFxString& style, int
     const bool isRgb = !color.isByLayer() && !color.isByBlock() && !color.isByACI();
     const OdCmColor written = isRgb && !writer.repairs ? OdCmColor::byIndex(color.colorIndex()) : color;
     const Statement text = writer.fill(replaceElement)
-                               .text(style)
+                               .word(style)
                                .number(index)
-                               .real(offset)
-                               .text(colorExpression(writer.target, written))
+                               .real(offset, Meaning::Length)
+                               .word(colorExpression(writer.target, written))
                                .text(lineStyle);
     return isRgb ? writer.faulty(text, kLineByBlock) : text;
 }
@@ -200,11 +207,12 @@ static const Phrase createLayer{
         .vba = "%1Dim iwLayerManager%5 As Inkwright.LayerManager%2%1Set iwLayerManager%5 = iwDoc.GetLayerManager()%2"
                "%1Dim iwCreateObjectResult%5 As Inkwright.iwCreateObjectResult_e%2"
                "%1iwLayerManager%5.CreateLayer \"%3\", %4, iwCreateObjectResult%5%2",
+        .python = "%1layers = drawing.doc.GetLayerManager()%2%1%4, _ = layers.CreateLayer(%3)%2",
     }};
 
 Statement EmitCreateLayer(Writer& writer, const CFxString& layer, const CFxString& name)
 {
-    return writer.fill(createLayer).text(layer).text(name).number(++writer.UniqueCounter);
+    return writer.fill(createLayer).text(layer, Meaning::Text).word(name).number(++writer.UniqueCounter);
 }
 
 CFxString LayerOf(const CFxString& variable)

@@ -12,12 +12,13 @@ static const Phrase setCellText{"EmitSetCellText",
                                     .javascript = "%1%6.SetText( %3, %4, \"%5\" );%2",
                                     .vbNet = "%1%6.SetText( %3, %4, \"%5\" )%2",
                                     .vba = "%1%6.SetText %3, %4, \"%5\"%2",
+                                    .python = "%1%6.SetText(%3, %4, %5)%2",
                                 }};
 
 Statement EmitSetCellText(Writer& writer, const CFxString& table, std::int32_t row, std::int32_t column,
                           const EscapedText& text)
 {
-    return writer.fill(setCellText).number(row).number(column).text(text).text(table);
+    return writer.fill(setCellText).number(row).number(column).text(text, Meaning::Text).word(table);
 }
 
 // Rows and columns: the calls end with one word or the other. The local of C++ has no number, so that two of these in
@@ -31,6 +32,7 @@ static const Phrase insertLine{"EmitInsertRow",
                                    .javascript = "%1%3.Insert%4( %5, %6 );%2",
                                    .vbNet = "%1%3.Insert%4( %5, %6 )%2",
                                    .vba = "%1%3.Insert%4 %5, %6%2",
+                                   .python = "%1%3.Insert%4(%5, %6)%2",
                                }};
 
 static const Phrase deleteLine{"EmitDeleteRow",
@@ -41,6 +43,7 @@ static const Phrase deleteLine{"EmitDeleteRow",
                                    .javascript = "%1%3.Delete%4( %5 );%2",
                                    .vbNet = "%1%3.Delete%4( %5 )%2",
                                    .vba = "%1%3.Delete%4 %5%2",
+                                   .python = "%1%3.Delete%4(%5)%2",
                                }};
 
 /// For repaired macros: several that went, from behind.
@@ -53,6 +56,7 @@ static const Phrase deleteLines{
         .javascript = "%1for (var i = %5; i >= %6; --i)%2%1{%2%1    %3.Delete%4( i );%2%1}%2",
         .vbNet = "%1For i As Integer = %5 To %6 Step -1%2%1    %3.Delete%4( i )%2%1Next%2",
         .vba = "%1Dim i%7 As Long%2%1For i%7 = %5 To %6 Step -1%2%1    %3.Delete%4 i%7%2%1Next%2",
+        .python = "%1for index in reversed(range(%6, %5 + 1)):%2%1    %3.Delete%4(index)%2",
     }};
 
 static const Phrase setLineSize{"EmitSetRowHeightAt",
@@ -63,18 +67,19 @@ static const Phrase setLineSize{"EmitSetRowHeightAt",
                                     .javascript = "%1%3.Set%4At( %5, %6 );%2",
                                     .vbNet = "%1%3.Set%4At( %5, %6 )%2",
                                     .vba = "%1%3.Set%4At %5, %6%2",
+                                    .python = "%1%3.Set%4At(%5, %6)%2",
                                 }};
 
 static Fill callOf(Writer& writer, const Phrase& phrase, const CFxString& table, const char* word, std::int32_t index)
 {
     Fill call = writer.fill(phrase);
-    call.text(table).text(QLatin1String(word)).number(index);
+    call.word(table).word(QLatin1String(word)).number(index);
     return call;
 }
 
 Statement EmitInsertRow(Writer& writer, const CFxString& table, std::int32_t row, double height)
 {
-    return callOf(writer, insertLine, table, "Row", row).real(height);
+    return callOf(writer, insertLine, table, "Row", row).real(height, Meaning::Length);
 }
 
 Statement EmitDeleteRow(Writer& writer, const CFxString& table, std::int32_t row)
@@ -99,12 +104,12 @@ Statement EmitDeleteRows(Writer& writer, const CFxString& table, std::int32_t la
 
 Statement EmitSetRowHeightAt(Writer& writer, const CFxString& table, std::int32_t row, double height)
 {
-    return callOf(writer, setLineSize, table, "RowHeight", row).real(height);
+    return callOf(writer, setLineSize, table, "RowHeight", row).real(height, Meaning::Length);
 }
 
 Statement EmitInsertColumn(Writer& writer, const CFxString& table, std::int32_t column, double width)
 {
-    return callOf(writer, insertLine, table, "Column", column).real(width);
+    return callOf(writer, insertLine, table, "Column", column).real(width, Meaning::Length);
 }
 
 Statement EmitDeleteColumn(Writer& writer, const CFxString& table, std::int32_t column)
@@ -119,5 +124,5 @@ Statement EmitDeleteColumns(Writer& writer, const CFxString& table, std::int32_t
 
 Statement EmitSetColumnWidthAt(Writer& writer, const CFxString& table, std::int32_t column, double width)
 {
-    return callOf(writer, setLineSize, table, "ColumnWidth", column).real(width);
+    return callOf(writer, setLineSize, table, "ColumnWidth", column).real(width, Meaning::Length);
 }

@@ -17,6 +17,7 @@ static const Phrase setOfCells{"call of a table style",
                                    .javascript = "%1 %2.%3(\"%4\",%5);%6",
                                    .vbNet = "%1 %2.%3(%4,%5)%6",
                                    .vba = "%1 %2.%3 %4,%5%6",
+                                   .python = "%1%2.%3(%4, %5)%6",
                                }};
 
 static Statement cellTypeEnumerator(const Writer& writer, std::int32_t cellType)
@@ -24,27 +25,24 @@ static Statement cellTypeEnumerator(const Writer& writer, std::int32_t cellType)
     return EnumeratorByValue(writer.target, enums::tableCellType, cellType);
 }
 
-static Statement setOfCellsTo(Writer& writer, const CFxString& style, const CFxString& operation, std::int32_t cellType,
-                              const QString& value)
+/// The call up to the value.
+static Fill setOfCellsTo(Writer& writer, const CFxString& style, const CFxString& operation, std::int32_t cellType)
 {
-    return writer.fillIndented(setOfCells)
-        .text(style)
-        .text(operation)
-        .text(cellTypeEnumerator(writer, cellType))
-        .text(value)
-        .text(LineEnd);
+    Fill call = writer.fillIndented(setOfCells);
+    call.word(style).word(operation).word(cellTypeEnumerator(writer, cellType));
+    return call;
 }
 
 Statement EmitSetTableStyleColor(Writer& writer, const CFxString& style, const CFxString& operation,
                                  std::int32_t cellType, const OdCmColor& color)
 {
-    return setOfCellsTo(writer, style, operation, cellType, colorExpression(writer.target, color));
+    return setOfCellsTo(writer, style, operation, cellType).word(colorExpression(writer.target, color)).word(LineEnd);
 }
 
 Statement EmitSetTableStyleLength(Writer& writer, const CFxString& style, const CFxString& operation,
                                   std::int32_t cellType, double length)
 {
-    return setOfCellsTo(writer, style, operation, cellType, FormatLong(length));
+    return setOfCellsTo(writer, style, operation, cellType).real(length, Meaning::Length).word(LineEnd);
 }
 
 static const Phrase setAlignment{"EmitSetTableStyleAlignment",
@@ -54,6 +52,7 @@ static const Phrase setAlignment{"EmitSetTableStyleAlignment",
                                      .javascript = "%1 %2.SetAlignment(\"%3\",\"%4\");%5",
                                      .vbNet = "%1 %2.SetAlignment(%3,%4)%5",
                                      .vba = "%1 %2.SetAlignment %3,%4%5",
+                                     .python = "%1%2.SetAlignment(%3, %4)%5",
                                  }};
 
 /// Where the host records in one of the C++ languages, the type in front of the alignment is taken off in any target.
@@ -65,10 +64,10 @@ Statement EmitSetTableStyleAlignment(Writer& writer, const CFxString& style, std
     if (RecordsIn(Target::Cpp) || RecordsIn(Target::CppCom))
         alignment.remove(QLatin1String("iwTableCellAlignment_e."));
     Statement text = writer.fillIndented(setAlignment)
-                         .text(style)
-                         .text(cellTypeEnumerator(writer, cellType))
-                         .text(alignment)
-                         .text(LineEnd);
+                         .word(style)
+                         .word(cellTypeEnumerator(writer, cellType))
+                         .word(alignment)
+                         .word(LineEnd);
     return alignment == own ? text : writer.faulty(std::move(text), otherLanguage);
 }
 
@@ -78,14 +77,15 @@ static const Phrase setTextStyle{"EmitSetTableStyleTextStyle",
                                      .csharp = "%1 %2.SetTextStyle(%3,\"%4\");%5",
                                      .vbNet = "%1 %2.SetTextStyle(%3,\"%4\")%5",
                                      .vba = "%1 %2.SetTextStyle %3,\"%4\"%5",
+                                     .python = "%1%2.SetTextStyle(%3, %4)%5",
                                  }};
 
 Statement EmitSetTableStyleTextStyle(Writer& writer, const CFxString& style, std::int32_t cellType,
                                      const CFxString& name)
 {
     return writer.fillIndented(setTextStyle)
-        .text(style)
-        .text(cellTypeEnumerator(writer, cellType))
+        .word(style)
+        .word(cellTypeEnumerator(writer, cellType))
         .text(name)
-        .text(LineEnd);
+        .word(LineEnd);
 }

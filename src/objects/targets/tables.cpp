@@ -38,6 +38,7 @@ static const Phrase insertTable{
                       "TableStyle_2_%10, TableStyle_3_%10);%2",
         .vbNet = "%1%12 = iwSketchManager.InsertTable( %3, %4, %5, %6, %7, %8, %9, %10, %11 )%2",
         .vba = "%1Set %12 = iwSketchManager.InsertTable( %3, %4, %5, %6, %7, %8, %9, %10, %11 )%2",
+        .python = "%1%11 = drawing.sketch.InsertTable(%3, %4, %5, %6, %7, %8, %9, %10)%2",
     }};
 
 /// A page tells cell types by their words, in variables ahead of the call.
@@ -48,7 +49,7 @@ static Statement cellTypeVariables(Writer& writer, const std::array<int, 3>& cel
     Fill variables(&words);
     variables.indent(writer.IndentLevel).number(writer.UniqueCounter);
     for (const int type : cellTypes)
-        variables.text(type == 0 ? QString() : EnumeratorByValue(writer.target, enums::tableCellType, type));
+        variables.word(type == 0 ? QString() : EnumeratorByValue(writer.target, enums::tableCellType, type));
     return variables;
 }
 
@@ -69,15 +70,16 @@ Statement EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows,
     const std::array<int, 3> known = withoutOwnTypes(recordedTypes);
     const std::array<int, 3>& cellTypes = writer.repairs ? known : recordedTypes;
     Fill call = writer.fill(insertTable);
-    call.real(position.x).real(position.y).number(rows).number(columns).real(rowHeight).real(columnWidth);
+    call.planePoint(position).number(rows, Meaning::Count).number(columns, Meaning::Count);
+    call.real(rowHeight, Meaning::Length).real(columnWidth, Meaning::Length);
     if (writer.target == Target::JavaScript) {
         call.number(++writer.UniqueCounter);
-        Statement text = cellTypeVariables(writer, cellTypes) + call.text(name).str();
+        Statement text = cellTypeVariables(writer, cellTypes) + call.word(name).str();
         return known == cellTypes ? text : writer.faulty(std::move(text), kNoCellType);
     }
     for (const int type : cellTypes)
         call.number(type);
-    return call.text(name);
+    return call.word(name);
 }
 
 // Of the pieces of a scaling the last values are "Row" or "Column", "Height" or "Width", "height" or "width", behind
@@ -135,35 +137,49 @@ static const Phrase setScaledSize{"EmitScaleTableRows: set",
                                       .vba = "%1%2.Set%6%7At i%5, %8%3%4Next%3",
                                   }};
 
+/// In one loop where an expression needs no locals.
+static const Phrase scaleLines{
+    "EmitScaleTableRows",
+    {
+        .python = "%1for %6 in range(%3.Total%4Count()):%2%1    %3.Set%4%5At(%6, %3.Get%4%5(%6) * %7)%2",
+    }};
+
 Statement EmitScaleTableRows(Writer& writer, const CFxString& table, const CFxString& operation, double coefficient)
 {
     const bool rows = operation == CFxString("SetRowHeight");
     const QLatin1String line(rows ? "Row" : "Column");
     const QLatin1String measure(rows ? "Height" : "Width");
+    if (scaleLines.has(writer.target))
+        return writer.fill(scaleLines)
+            .word(table)
+            .word(line)
+            .word(measure)
+            .word(QLatin1String(rows ? "row" : "column"))
+            .real(coefficient, Meaning::Factor);
     const std::uint32_t number = ++writer.UniqueCounter;
     QString local(rows ? "height" : "width");
     if (writer.target == Target::Vba)
         local += QString::number(number);
     const QString loopIndentation = writer.indentation();
 
-    Statement text = writer.fillIndented(scaleCoefficient).real(coefficient).text(LineEnd).number(number);
-    text += writer.fillIndented(countLines).text(table).text(LineEnd).number(number).text(line).str();
-    text += writer.fill(eachLine).number(number).text(line).str();
+    Statement text = writer.fillIndented(scaleCoefficient).real(coefficient).word(LineEnd).number(number);
+    text += writer.fillIndented(countLines).word(table).word(LineEnd).number(number).word(line).str();
+    text += writer.fill(eachLine).number(number).word(line).str();
     ++writer.IndentLevel;
     text += writer.fillIndented(scaledSize)
-                .text(table)
-                .text(LineEnd)
+                .word(table)
+                .word(LineEnd)
                 .number(number)
-                .text(line)
-                .text(measure)
-                .text(local)
+                .word(line)
+                .word(measure)
+                .word(local)
                 .str();
     Fill set = writer.fillIndented(setScaledSize);
     --writer.IndentLevel;
-    set.text(table).text(LineEnd).text(loopIndentation);
+    set.word(table).word(LineEnd).word(loopIndentation);
     if (writer.target == Target::Vba)
         set.number(number);
-    return text + set.text(line).text(measure).text(local).str();
+    return text + set.word(line).word(measure).word(local).str();
 }
 
 static const Phrase tableStyleManager{
@@ -178,6 +194,7 @@ static const Phrase tableStyleManager{
         .vbNet = "%1Dim tablestylemgr%3 As Inkwright.TableStyleManager = iwDoc.GetTableStyleManager()%2",
         .vba = "%1Dim tablestylemgr%3 As Inkwright.TableStyleManager%2"
                "%1Set tablestylemgr%3 = iwDoc.GetTableStyleManager()%2",
+        .python = "%1styles = drawing.doc.GetTableStyleManager()%2",
     }};
 
 /// The others look the style up where they set it.
@@ -198,6 +215,7 @@ static const Phrase setTableStyle{"EmitSetTableStyle: set",
                                       .javascript = "%1%5.put_TableStyle(tablestylemgr%4.GetTableStyle(\"%2\"));%3",
                                       .vbNet = "%1%5.TableStyle = tablestylemgr%4.GetTableStyle(\"%2\")%3",
                                       .vba = "%1%5.TableStyle = tablestylemgr%4.GetTableStyle(\"%2\")%3",
+                                      .python = "%1%5.TableStyle = styles.GetTableStyle(%2)%3",
                                   }};
 
 Statement EmitSetTableStyle(Writer& writer, const CFxString& table, const CFxString& styleName,
@@ -206,9 +224,9 @@ Statement EmitSetTableStyle(Writer& writer, const CFxString& table, const CFxStr
     const std::uint32_t number = ++writer.UniqueCounter;
     Statement text = writer.fill(tableStyleManager).number(number);
     if (!tableStyleVariable.has(writer.target))
-        return text + writer.fillIndented(setTableStyle).text(styleName).text(LineEnd).number(number).text(table).str();
+        return text + writer.fillIndented(setTableStyle).text(styleName).word(LineEnd).number(number).word(table).str();
     text += writer.fill(tableStyleVariable).text(styleName).number(number).str();
-    return text + writer.fill(setTableStyle).text(table).text(property).number(number).str();
+    return text + writer.fill(setTableStyle).word(table).word(property).number(number).str();
 }
 
 static const Phrase setHeaderOrientation{"EmitTableStyleOrientation",
@@ -219,6 +237,7 @@ static const Phrase setHeaderOrientation{"EmitTableStyleOrientation",
                                              .javascript = "%1 %2.put_HeaderOrientation(\"%3\");%4",
                                              .vbNet = "%1 %2.HeaderOrientation = %3%4",
                                              .vba = "%1 %2.HeaderOrientation = %3%4",
+                                             .python = "%1%2.HeaderOrientation = %3%4",
                                          }};
 
 static const Phrase setDirection{"EmitTableStyleOrientation",
@@ -229,6 +248,7 @@ static const Phrase setDirection{"EmitTableStyleOrientation",
                                      .javascript = "%1 %2.put_Direction(\"%3\");%4",
                                      .vbNet = "%1 %2.Direction= %3%4",
                                      .vba = "%1 %2.Direction= %3%4",
+                                     .python = "%1%2.Direction = %3%4",
                                  }};
 
 Statement EmitTableStyleOrientation(Writer& writer, const CFxString& target, const CFxString& object, bool down)
@@ -239,8 +259,8 @@ Statement EmitTableStyleOrientation(Writer& writer, const CFxString& target, con
     const char* const suffix = header ? (down ? "_Down" : "_Up") : (down ? "_TopToBottom" : "_BottomToTop");
     const QString enumerator = enumeratorText(writer.target, QString(type) + "_e", QString(type) + suffix);
     if (writer.target == Target::Cpp || writer.target == Target::CppCom)
-        return writer.fill(phrase).text(target).text(enumerator);
-    return writer.fillIndented(phrase).text(target).text(enumerator).text(LineEnd);
+        return writer.fill(phrase).word(target).word(enumerator);
+    return writer.fillIndented(phrase).word(target).word(enumerator).word(LineEnd);
 }
 
 static const Phrase setBordersLineWeight{"EmitTableBordersLineWeight",
@@ -251,6 +271,7 @@ static const Phrase setBordersLineWeight{"EmitTableBordersLineWeight",
                                              .javascript = "%1 %2.SetBordersLineWeight(  \"%3\",\"%4\",\"%5\");%6",
                                              .vbNet = "%1 %2.SetBordersLineWeight(  %3,%4,%5)%6",
                                              .vba = "%1 %2.SetBordersLineWeight %3,%4,%5%6",
+                                             .python = "%1%2.SetBordersLineWeight(%3, %4, %5)%6",
                                          }};
 
 static const Phrase setBordersColor{"EmitTableBordersColor",
@@ -260,17 +281,18 @@ static const Phrase setBordersColor{"EmitTableBordersColor",
                                         .javascript = "%1 %2.SetBordersColor(  \"%3\",\"%4\",%5);%6",
                                         .vbNet = "%1 %2.SetBordersColor(  %3,%4,%5)%6",
                                         .vba = "%1 %2.SetBordersColor %3,%4,%5%6",
+                                        .python = "%1%2.SetBordersColor(%3, %4, %5)%6",
                                     }};
 
 static Statement setBorders(Writer& writer, const Phrase& phrase, const CFxString& style, int cellType, int border,
                             const QString& value)
 {
     return writer.fillIndented(phrase)
-        .text(style)
-        .text(EnumeratorByValue(writer.target, enums::tableCellType, cellType))
-        .text(EnumeratorByValue(writer.target, enums::tableBordersLineType, border))
-        .text(value)
-        .text(LineEnd);
+        .word(style)
+        .word(EnumeratorByValue(writer.target, enums::tableCellType, cellType))
+        .word(EnumeratorByValue(writer.target, enums::tableBordersLineType, border))
+        .word(value)
+        .word(LineEnd);
 }
 
 Statement EmitTableBordersLineWeight(Writer& writer, const CFxString& style, int cellType, int border, int weight)

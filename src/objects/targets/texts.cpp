@@ -42,13 +42,15 @@ static const Phrase createTextStyle{
                "%1If %6 Is Nothing Then%2"
                "%1    iwApp.GetActiveDocument().GetTextStyleManager().CreateTextStyle textStyleName%4, %6, "
                "result%3%2%1End If%2",
+        .python = "%1styles = drawing.doc.GetTextStyleManager()%2%1%6 = styles.GetTextStyle(%5)%2"
+                  "%1if %6 is None:%2%1    %6, _ = styles.CreateTextStyle(%5)%2",
     }};
 static const Mend bstrTextStyleName(createTextStyle, Target::CppCom, literalIsNoBstr, textsAsBstr);
 
 Statement EmitCreateTextStyle(Writer& writer, const CFxString& name, const CFxString& styleName)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
-    return writer.fill(createTextStyle).number(number).number(number).text(styleName).text(name);
+    return writer.fill(createTextStyle).number(number).number(number).text(styleName, Meaning::Text).word(name);
 }
 
 /// The manager's variable has no number, so two of these in one scope declare it twice. It has to stay so.
@@ -65,11 +67,12 @@ static const Phrase loadShapeFile{
                  "%1iwShapeManager.Load( \"%3\" )%2",
         .vba = "%1Dim iwShapeManager As Inkwright.ShapeManager%2%1Set iwShapeManager = iwDoc.GetShapeManager()%2"
                "%1iwShapeManager.Load \"%3\"%2",
+        .python = "%1shapes = drawing.doc.GetShapeManager()%2%1shapes.Load(%3)%2",
     }};
 
 Statement EmitLoadShapeFile(Writer& writer, const EscapedText& path)
 {
-    return writer.fill(loadShapeFile).text(path);
+    return writer.fill(loadShapeFile).text(path, Meaning::Text);
 }
 
 static const Phrase insertAttributeDefinition{
@@ -88,6 +91,8 @@ static const Phrase insertAttributeDefinition{
                  "%10, %11, %12, %13, %14, %15, %16, %17, %18 )%2",
         .vba = "%1Set %19 = iwSketchManager.InsertAttributeDefinition(  \"%3\", \"%4\", \"%5\", %6, %7, %8, \"%9\", "
                "%10, %11, %12, %13, %14, %15, %16, %17, %18 )%2",
+        .python = "%1%17 = drawing.sketch.InsertAttributeDefinition(%3, %4, %5, %6, %7, %8, %9, %10, "
+                  "%11, %12, %13, %14, %15, %16)%2",
     }};
 
 Statement EmitInsertAttributeDefinition(Writer& writer, const AttributeDefinition& definition, const CFxString& name)
@@ -99,11 +104,13 @@ Statement EmitInsertAttributeDefinition(Writer& writer, const AttributeDefinitio
                              word(definition.verify),   word(definition.lockPosition), word(false)};
 
     Fill statement = writer.fill(insertAttributeDefinition);
-    statement.text(definition.value).text(definition.tag).text(definition.prompt).point(definition.position);
-    statement.text(definition.styleName).text(justification).real(definition.height).real(definition.rotation);
+    statement.text(definition.value, Meaning::Text).text(definition.tag, Meaning::Text);
+    statement.text(definition.prompt, Meaning::Text).point(definition.position);
+    statement.text(definition.styleName).word(justification);
+    statement.real(definition.height, Meaning::Length).real(definition.rotation, Meaning::Angle);
     for (const QString& flag : flags)
-        statement.text(flag);
-    return statement.text(name);
+        statement.word(flag);
+    return statement.word(name);
 }
 
 static const Phrase insertSimpleNote{
@@ -115,12 +122,18 @@ static const Phrase insertSimpleNote{
         .javascript = "%1var %9 = mSkMgr.InsertSimpleNote(%3, %4, %5, %6, %7, \"%8\");%2",
         .vbNet = "%1%9 = iwSketchManager.InsertSimpleNote( %3, %4, %5, %6, %7, \"%8\" )%2",
         .vba = "%1Set %9 = iwSketchManager.InsertSimpleNote( %3, %4, %5, %6, %7, \"%8\" )%2",
+        .python = "%1%7 = drawing.sketch.InsertSimpleNote(%3, %4, %5, %6)%2",
     }};
 
 Statement EmitInsertSimpleNote(Writer& writer, const OdGePoint3d& position, double height, double rotation,
                                const CFxString& text, const CFxString& name)
 {
-    return writer.fill(insertSimpleNote).point(position).real(height).real(rotation).text(text).text(name);
+    return writer.fill(insertSimpleNote)
+        .point(position)
+        .real(height, Meaning::Length)
+        .real(rotation, Meaning::Angle)
+        .text(text, Meaning::Text)
+        .word(name);
 }
 
 /// A note takes its text as an array of one string.
@@ -156,15 +169,20 @@ static const Phrase insertNote{
         .javascript = "%1var %10 = mSkMgr.InsertNote(%3, %4, %5, %6, %7, %8, strArray%9);%2",
         .vbNet = "%1%10 = iwSketchManager.InsertNote( %3, %4, %5, %6, %7, %8, strArray%9 )%2",
         .vba = "%1Set %10 = iwSketchManager.InsertNote( %3, %4, %5, %6, %7, %8, strArray%9 )%2",
+        .python = "%1%8 = drawing.sketch.InsertNote(%3, %4, %5, %6, texts(%7))%2",
     }};
 
 Statement EmitInsertNote(Writer& writer, const OdGePoint3d& firstCorner, const OdGePoint3d& secondCorner,
                          const CFxString& text, const CFxString& name)
 {
     const std::uint32_t number = ++writer.UniqueCounter;
+    Fill insertion = writer.fill(insertNote);
+    // The second corner is made of the first, so an answer that moved the first alone would change the width.
+    insertion.real(firstCorner.x).real(firstCorner.y).real(firstCorner.z).point(secondCorner);
+    if (!noteText.has(writer.target))
+        return insertion.text(text, Meaning::Text).word(name);
     return writer.fillIndented(noteTexts).number(number).str() +
-           writer.fillIndented(noteText).text(text).number(number).str() +
-           writer.fill(insertNote).point(firstCorner).point(secondCorner).number(number).text(name).str();
+           writer.fillIndented(noteText).text(text).number(number).str() + insertion.number(number).word(name).str();
 }
 
 Statement EmitSetNoteJustify(Writer& writer, const CFxString& target, const CFxString& property,
@@ -182,7 +200,8 @@ static const Fault kTypedEnumerator{"EmitSetNoteLineSpacing",
                                     {Target::JavaScript},
                                     "the type stands in front of the enumerator, as in a typed language"};
 
-/// The enumerator's form follows the language that the host records in, not the target; a page gets a typed name.
+/// The enumerator's form follows the language that the host records in, not the target; a page gets a typed name. No
+/// host records in Python.
 Statement EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const CFxString& property, std::int32_t style)
 {
     const auto enumeratorIn = [style](Target form) {
@@ -190,9 +209,10 @@ Statement EmitSetNoteLineSpacing(Writer& writer, const CFxString& target, const 
                               QLatin1String("iwNoteLineSpacingStyle_") +
                                   QLatin1String(style == 0 ? "AtLeast" : "Exactly"));
     };
-    const QString enumerator = enumeratorIn(RecordsIn(Target::Cpp) || RecordsIn(Target::CppCom)  ? Target::Cpp
-                                            : RecordsIn(Target::VbNet) || RecordsIn(Target::Vba) ? Target::VbNet
-                                                                                                 : Target::CSharp);
+    const QString enumerator = enumeratorIn(writer.target == Target::Python                       ? Target::Python
+                                            : RecordsIn(Target::Cpp) || RecordsIn(Target::CppCom) ? Target::Cpp
+                                            : RecordsIn(Target::VbNet) || RecordsIn(Target::Vba)  ? Target::VbNet
+                                                                                                  : Target::CSharp);
     if (writer.target != Target::JavaScript) {
         Statement text = EmitSetProperty(writer, target, property, enumerator, false);
         return enumerator == enumeratorIn(writer.target) ? text : writer.faulty(std::move(text), otherLanguage);
@@ -227,14 +247,30 @@ static const Phrase setFontParameter{
                "%1Italic = False%2%1Dim Charset As Integer%2%1Charset = 0%2%1Dim PitchAndFamily As Integer%2"
                "%1PitchAndFamily = 0%2%1%3.GetFontParameters Typeface, Bold, Italic, Charset, PitchAndFamily%2"
                "%1%4 = %5%2%1%3.SetFontParameters Typeface, Bold, Italic, Charset, PitchAndFamily%2",
+        .python = "%1typeface, %4, %5, charset, pitch = %3.GetFontParameters()%2"
+                  "%1%3.SetFontParameters(typeface, %6, %7, charset, pitch)%2",
     }};
 
 Statement EmitSetFontParameter(Writer& writer, const CFxString& settings, const CFxString& parameter, bool value)
 {
+    const QString word = truthWord(writer.target, value);
+    if (writer.target == Target::Python) {
+        // All are read, and what changes is put in place of what was read.
+        const bool isBold = parameter == CFxString("Bold");
+        const QString bold = QStringLiteral("bold");
+        const QString italic = QStringLiteral("italic");
+        const QString unused = QStringLiteral("_");
+        return writer.fill(setFontParameter)
+            .word(settings)
+            .word(isBold ? unused : bold)
+            .word(isBold ? italic : unused)
+            .word(isBold ? word : bold)
+            .word(isBold ? italic : word);
+    }
     CFxString local = parameter;
     if (writer.target == Target::JavaScript)
         local = parameter == CFxString("Bold") ? "results[1]" : "results[2]";
-    return writer.fill(setFontParameter).text(settings).text(local).text(truthWord(writer.target, value));
+    return writer.fill(setFontParameter).word(settings).word(local).word(word);
 }
 
 static const Phrase insertCurvedText{"EmitInsertCurvedText",
@@ -245,9 +281,10 @@ static const Phrase insertCurvedText{"EmitInsertCurvedText",
                                          .javascript = "%1var %5 = mSkMgr.InsertCurvedText(\"%3\", %4);%2",
                                          .vbNet = "%1%5 = iwSketchManager.InsertCurvedText( \"%3\", %4 )%2",
                                          .vba = "%1Set %5 = iwSketchManager.InsertCurvedText( \"%3\", %4 )%2",
+                                         .python = "%1%5 = drawing.sketch.InsertCurvedText(%3, %4)%2",
                                      }};
 
 Statement EmitInsertCurvedText(Writer& writer, const CFxString& text, const CFxString& arc, const CFxString& name)
 {
-    return writer.fill(insertCurvedText).text(text).text(arc).text(name);
+    return writer.fill(insertCurvedText).text(text, Meaning::Text).word(arc).word(name);
 }

@@ -4,6 +4,7 @@
 
 #include "statements/counters.h"
 #include "statements/wording.h"
+#include "targets/colors.h"
 
 #include <algorithm>
 #include <vector>
@@ -31,20 +32,23 @@ static const Phrase imageBackground{
         .vba = "%1Dim iwImageBackground%2 As Inkwright.ImageBackground\n"
                "%1Set iwImageBackground%2 = iwViewManager.CreateImageBackground( \"%3\", %4, %5, %6, %7, %8 )\n"
                "%1%9.SetImageBackground iwImageBackground%2\n\n",
+        .python = "%1background = drawing.views.CreateImageBackground(%3, %4, %5, %6, %7, %8)\n"
+                  "%1%9.SetImageBackground(background)\n",
     }};
 
 Statement EmitImageBackground(Writer& writer, const CFxString& path, const CFxString& position,
                               const std::array<double, 4>& numbers, const CFxString& view)
 {
     Fill statement = writer.fillIndented(imageBackground);
-    statement.number(processCounters.of(writer.target).imageBackgrounds++).text(path);
-    statement.text(enumeratorText(writer.target, "iwImageBackgroundPosition_e", position));
+    statement.number(processCounters.of(writer.target).imageBackgrounds++).text(path, Meaning::Text);
+    statement.word(enumeratorText(writer.target, "iwImageBackgroundPosition_e", position));
     for (const double number : numbers)
         statement.real(number);
-    return statement.text(view);
+    return statement.word(view);
 }
 
-/// A page and the .NET targets declare a color where it is fetched. `%2` is its variable.
+/// A page and the .NET targets declare a color where it is fetched. `%2` is its variable. In Python colors have none:
+/// they stand in the calls.
 static const Phrase declareColor{"background: declaration of a color",
                                  {
                                      .cpp = "%1iwColor_ptr %2;\n",
@@ -104,17 +108,17 @@ static Statement makeColors(Writer& writer, std::vector<BackgroundColor> colors)
         if (!isCpp)
             one.variable[0] = one.variable[0].toLower();
         if (declareColor.has(writer.target))
-            text += writer.fillIndented(declareColor).text(one.variable);
+            text += writer.fillIndented(declareColor).word(one.variable);
     }
     for (const auto& [variable, color, any] : colors)
         if (keepsIndex(color) || !isCpp)
             text += writer.fillIndented(indexedColor)
-                        .text(variable)
+                        .word(variable)
                         .number(unsigned{keepsIndex(color) ? color.colorIndex() : any});
     for (const auto& [variable, color, any] : colors)
         if (!keepsIndex(color))
             text += writer.fillIndented(rgbColor)
-                        .text(variable)
+                        .word(variable)
                         .number(color.red())
                         .number(color.green())
                         .number(color.blue());
@@ -146,6 +150,8 @@ static const Phrase gradientBackground{
                "%1Set iwGradientBackground%2 = iwViewManager.CreateGradientBackground( topColor%2, middleColor%2, "
                "bottomColor%2, %4, %3 )\n"
                "%1%5.SetGradientBackground iwGradientBackground%2\n\n",
+        .python = "%1background = drawing.views.CreateGradientBackground(%6, %7, %8, %4, %3)\n"
+                  "%1%5.SetGradientBackground(background)\n",
     }};
 
 Statement EmitGradientBackground(Writer& writer, const OdCmColor& top, const OdCmColor& middle, const OdCmColor& bottom,
@@ -156,8 +162,12 @@ Statement EmitGradientBackground(Writer& writer, const OdCmColor& top, const OdC
     Statement colors = makeColors(
         writer,
         {{"TopColor" + digits, top, 1}, {"MiddleColor" + digits, middle, 2}, {"BottomColor" + digits, bottom, 3}});
-    return std::move(colors) +
-           writer.fillIndented(gradientBackground).number(number).real(rotation).real(height).text(view).str();
+    Fill background = writer.fillIndented(gradientBackground);
+    background.number(number).real(rotation, Meaning::Angle).real(height).word(view);
+    if (!indexedColor.has(writer.target))
+        for (const OdCmColor& color : {top, middle, bottom})
+            background.word(colorExpression(writer.target, color));
+    return std::move(colors) + background.str();
 }
 
 static const Phrase solidBackground{
@@ -179,11 +189,16 @@ static const Phrase solidBackground{
         .vba = "%1Dim iwSolidBackground%2 As Inkwright.SolidBackground\n"
                "%1Set iwSolidBackground%2 = iwViewManager.CreateSolidBackground( solidColor%2 )\n"
                "%1%3.SetSolidBackground iwSolidBackground%2\n\n",
+        .python = "%1background = drawing.views.CreateSolidBackground(%4)\n"
+                  "%1%3.SetSolidBackground(background)\n",
     }};
 
 Statement EmitSolidBackground(Writer& writer, const OdCmColor& color, const CFxString& view)
 {
     const std::uint32_t number = processCounters.of(writer.target).solidBackgrounds++;
-    return makeColors(writer, {{"SolidColor" + QString::number(number), color, 3}}) +
-           writer.fillIndented(solidBackground).number(number).text(view).str();
+    Fill background = writer.fillIndented(solidBackground);
+    background.number(number).word(view);
+    if (!indexedColor.has(writer.target))
+        background.word(colorExpression(writer.target, color));
+    return makeColors(writer, {{"SolidColor" + QString::number(number), color, 3}}) + background.str();
 }

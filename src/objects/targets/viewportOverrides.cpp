@@ -19,6 +19,7 @@ static const Phrase overrideValue{
         .javascript = "%1%3.%4( %5, mSheet.GetActiveViewport() );%2",
         .vbNet = "%1%3.%4( %5, iwSheet.GetActiveViewport() )%2",
         .vba = "%1%3.%4 %5, iwSheet.GetActiveViewport()%2",
+        .python = "%1viewport = drawing.sheet.GetActiveViewport()%2%1%3.%4(%5, viewport)%2",
     }};
 
 static const Phrase overrideText{
@@ -31,6 +32,7 @@ static const Phrase overrideText{
         .javascript = "%1%3.%4( \"%5\", mSheet.GetActiveViewport() );%2",
         .vbNet = "%1%3.%4( \"%5\", iwSheet.GetActiveViewport() )%2",
         .vba = "%1%3.%4 \"%5\", iwSheet.GetActiveViewport()%2",
+        .python = "%1viewport = drawing.sheet.GetActiveViewport()%2%1%3.%4(%5, viewport)%2",
     }};
 
 /// A statement in C++, an argument in the others.
@@ -43,6 +45,7 @@ static const Phrase indexedColor{
         .javascript = "mApp.GetColorByIndex( %1 )",
         .vbNet = "iwApp.GetColorByIndex( %1 )",
         .vba = "iwApp.GetColorByIndex( %1 )",
+        .python = "drawing.app.GetColorByIndex(%1)",
     }};
 
 static const Phrase rgbColor{
@@ -54,6 +57,7 @@ static const Phrase rgbColor{
         .javascript = "mApp.GetRGBColor( %1, %2, %3 )",
         .vbNet = "iwApp.GetRGBColor( %1, %2, %3 )",
         .vba = "iwApp.GetRGBColor( %1, %2, %3 )",
+        .python = "drawing.app.GetRGBColor(%1, %2, %3)",
     }};
 
 /// `locals`: what the value needs in front of the call, in C++ alone.
@@ -61,9 +65,13 @@ static Statement setOverride(Writer& writer, const Phrase& phrase, const CFxStri
                              const Statement& value, const QString& suffix, const Statement& locals = {})
 {
     Fill call = writer.fill(phrase);
-    call.text(layer).text(operation).text(value);
+    call.word(layer).word(operation);
+    if (&phrase == &overrideText)
+        call.text(value.text());
+    else
+        call.word(value);
     if (writer.target == Target::Cpp)
-        call.text(suffix).text(locals);
+        call.word(suffix).word(locals);
     return call;
 }
 
@@ -87,7 +95,7 @@ Statement EmitViewportOverrideColor(Writer& writer, const CFxString& layer, cons
     Fill words =
         byLocal ? writer.fill(indexed ? indexedColor : rgbColor) : writer.fillPlain(indexed ? indexedColor : rgbColor);
     if (byLocal)
-        words.text(suffix);
+        words.word(suffix);
     if (indexed)
         words.number(color.colorIndex());
     else

@@ -40,8 +40,8 @@ static const FileHead head{
 Statement CFxConverterIWAPICPP::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 1;
-    const Template words(head.words().constData(), writer.target);
-    const Statement text = withHeaders(writer.fill(words).text(LineEnd).text(className).text(sheetName()), className,
+    const Template words(head.words().constData());
+    const Statement text = withHeaders(withSheetName(writer.fill(words).word(LineEnd).word(className)), className,
                                        {"iwCommandMessage_c", "iwApplicationOptions_c", "iwSheet_c", "math"});
     return isFound(className) ? text : writer.faulty(text, kUnfound);
 }
@@ -50,7 +50,6 @@ Statement CFxConverterIWAPICPP::EmitFileFooter()
 {
     writer.lowerLevel();
     static const Template words("    return true;%1}%1%1const iwString &CMacroCommand::GetName() const%1{%1"
-                                "    return m_name;%1}%1",
-                                writer.target);
-    return writer.fill(words).text(LineEnd);
+                                "    return m_name;%1}%1");
+    return writer.fill(words).word(LineEnd);
 }

@@ -26,7 +26,7 @@ static constexpr ConfigurationWord words[] = {
 
 Statement CFxConverterIWAPICPP::EmitProgramText(const QString& name) const
 {
-    return fillProject(texts::cpp::IwAddin_global_h, {name, LineEnd}, Target::Cpp);
+    return fillProject(texts::cpp::IwAddin_global_h, {name, LineEnd});
 }
 
 /// %3 is the library directory, %4 the include directory and, in a repaired project, %5 the macro's file. Nothing is
@@ -52,12 +52,11 @@ std::int32_t CFxConverterIWAPICPP::EmitProjectFiles(const QString& path)
 {
     const QString name = projectName(path);
     const QString exportHeaderFile = "IwAddin_global.h";
-    const auto named = [&name](const char* text) { return fillProject(text, {name, LineEnd}, Target::Cpp); };
     const Statement project = faultyEntry(kListed, path, kMisread, EmitProjectText(name, QFileInfo(path).fileName()));
     return WriteProject(path, {{exportHeaderFile, EmitProgramText(projectName(exportHeaderFile)), true},
                                {name + ".vcproj", project, false},
-                               {"iwAddinConnection.h", named(texts::cpp::iwAddinConnection_h), true},
-                               {"iwAddinConnection.cpp", named(texts::cpp::iwAddinConnection_cpp), true},
+                               {"iwAddinConnection.h", fillNamed(texts::cpp::iwAddinConnection_h, name), true},
+                               {"iwAddinConnection.cpp", fillNamed(texts::cpp::iwAddinConnection_cpp, name), true},
                                {name + ".h", QString(texts::cpp::project_h), true},
                                {name + ".def", fillProject(texts::cpp::project_def, {LineEnd, name}), false}});
 }

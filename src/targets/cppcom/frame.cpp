@@ -104,9 +104,9 @@ Statement CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool
 {
     writer.IndentLevel += 1;
     const QByteArray server = withIdentifier(texts::cppcom::server_cpp, "%2", className);
-    const Template words((server + head.words()).constData(), writer.target);
+    const Template words((server + head.words()).constData());
     const QString serverId = newUuid("server " + className);
-    const Statement filled = writer.fill(words).text(LineEnd).text(className).text(serverId).text(sheetName());
+    const Statement filled = withSheetName(writer.fill(words).word(LineEnd).word(className).word(serverId));
     const Statement text =
         withHeaders(faultyIdentifier(texts::cppcom::server_cpp, className, filled), className, {"math"});
     return isFound(className) ? text : faultyAt("#include \"" + className, text, kUnfound);
@@ -115,6 +115,6 @@ Statement CFxConverterIWAPICPPCOM::EmitFileHeader(const QString& className, bool
 Statement CFxConverterIWAPICPPCOM::EmitFileFooter()
 {
     writer.lowerLevel();
-    static const Template words("}%1%1", writer.target);
-    return writer.fill(words).text(LineEnd);
+    static const Template words("}%1%1");
+    return writer.fill(words).word(LineEnd);
 }

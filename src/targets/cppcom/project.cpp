@@ -99,18 +99,18 @@ std::int32_t CFxConverterIWAPICPPCOM::EmitProjectFiles(const QString& path)
     const QString projectId = newUuid("project");
     const QString addins = installedPath("APISDK\\tlb\\iwAddin.tlb");
     const QString application = installedPath("bin\\iwAutomation.dll");
-    const auto named = [&](const char* words, std::initializer_list<Statement> values,
-                           std::optional<Target> language = {}) {
-        return faultyIdentifier(words, name, fillProject(withIdentifier(words, "%1", name), values, language));
+    const auto named = [&](const char* words, std::initializer_list<Statement> values) {
+        return faultyIdentifier(words, name, fillProject(withIdentifier(words, "%1", name), values));
     };
+    const Statement connectionHeader = fillNamed(withIdentifier(IwAddinConnection_h, "%1", name), name);
     // A script in UTF-8 without a byte order mark says so itself.
     const QByteArray script = withIdentifier(project_rc, "%5", name).replace("{codePage}", mended("1252", "65001"));
     const Statement project = fillProject(projectWords(encoding(), mended("%1.cpp", "%4")),
                                           {xmlText(name), LineEnd, projectId, xmlText(QFileInfo(path).fileName())});
     return WriteProject(
         path, {
-                  {"IwAddinConnection.h", named(IwAddinConnection_h, {name, LineEnd}, Target::CppCom), true},
-                  {"IwAddinConnection.cpp", fillProject(IwAddinConnection_cpp, {name, LineEnd}, Target::CppCom), true},
+                  {"IwAddinConnection.h", faultyIdentifier(IwAddinConnection_h, name, connectionHeader), true},
+                  {"IwAddinConnection.cpp", fillProject(IwAddinConnection_cpp, {name, LineEnd}), true},
                   {name + ".h", QString(project_h), true},
                   {"resource.h", named(resource_h, {name, LineEnd}), false},
                   // %1 is the line end, %2 and %3 are the type libraries.

@@ -50,13 +50,13 @@ Statement CFxConverterIWAPICSharp::EmitFileHeader(const QString& className, bool
         frame.append(optionResult);
 
     writer.IndentLevel += 3;
-    const Template words(frame.constData(), writer.target);
-    return writer.fill(words).text(LineEnd).text(faultyName(className, identifier(className))).text(sheetName());
+    const Template words(frame.constData());
+    return withSheetName(writer.fill(words).word(LineEnd).word(faultyName(className, identifier(className))));
 }
 
 Statement CFxConverterIWAPICSharp::EmitFileFooter()
 {
     writer.lowerLevel(3);
-    static const Template words("        }%1    }%1}%1", writer.target);
-    return writer.fill(words).text(LineEnd);
+    static const Template words("        }%1    }%1}%1");
+    return writer.fill(words).word(LineEnd);
 }

@@ -152,8 +152,8 @@ Statement CFxConverterIWAPIJavaScript::EmitFileHeader(const QString&, bool)
         head.append(sheetActivation);
 
     writer.IndentLevel += 3;
-    const Template words(head.constData(), writer.target);
-    return writer.fill(words).text(LineEnd).text(RecordingSheetName);
+    const Template words(head.constData());
+    return writer.fill(words).word(LineEnd).text(RecordingSheetName);
 }
 
 Statement CFxConverterIWAPIJavaScript::EmitFileFooter()
@@ -162,7 +162,6 @@ Statement CFxConverterIWAPIJavaScript::EmitFileFooter()
     static const Template words(
         "       }%1   </script>%1   </head>%1   <body>%1   <h2>Recorded Macro</h2>%1   <form name=\"macroform\">%1"
         "       <button type=\"button\" onclick=\"runMacro()\">Run macro</button><br />%1   </form>%1   </body>%1"
-        "</html>%1",
-        writer.target);
-    return writer.fill(words).text(LineEnd);
+        "</html>%1");
+    return writer.fill(words).word(LineEnd);
 }

@@ -67,15 +67,14 @@ Statement CFxConverterIWAPIVba::EmitFileHeader(const QString&, bool)
 
 Statement CFxConverterIWAPIVba::filled(const QByteArray& words) const
 {
-    const Template part(words.constData(), writer.target);
-    return writer.fill(part).text(LineEnd).text(sheetName());
+    const Template part(words.constData());
+    return withSheetName(writer.fill(part).word(LineEnd));
 }
 
 /// Leaves the level.
 Statement CFxConverterIWAPIVba::EmitFileFooter()
 {
     static const Template words("\tElse%1%1\t\tMsgBox \"There are no open documents in Inkwright\"%1%1\tEnd If%1"
-                                "End Sub%1",
-                                writer.target);
-    return writer.fill(words).text(LineEnd);
+                                "End Sub%1");
+    return writer.fill(words).word(LineEnd);
 }

@@ -41,13 +41,13 @@ CFxConverterIWAPIVbNet::CFxConverterIWAPIVbNet(Writer& writer) : DotNetFrame(wri
 Statement CFxConverterIWAPIVbNet::EmitFileHeader(const QString& className, bool)
 {
     writer.IndentLevel += 2;
-    const Template words(head.words().constData(), writer.target);
-    return writer.fill(words).text(faultyName(className, identifier(className))).text(LineEnd).text(sheetName());
+    const Template words(head.words().constData());
+    return withSheetName(writer.fill(words).word(faultyName(className, identifier(className))).word(LineEnd));
 }
 
 /// Leaves the level, and the last line without an end.
 Statement CFxConverterIWAPIVbNet::EmitFileFooter()
 {
-    static const Template words("%2    End Sub%2%2End Class", writer.target);
-    return writer.fill(words).text(LineEnd);
+    static const Template words("%2    End Sub%2%2End Class");
+    return writer.fill(words).word(LineEnd);
 }

@@ -15,7 +15,9 @@ const keywordsOf = {
         + 'Loop Me Mod Module Namespace New Next Not Nothing Object Of On Option Or Private Property Public ReDim '
         + 'Resume Return Select Set Shared Single Static String Sub Then To True Try Until Variant Wend While With',
     script: 'break case catch const continue default delete do else false finally for function if in instanceof let '
-        + 'new null return switch this throw true try typeof undefined var void while'
+        + 'new null return switch this throw true try typeof undefined var void while',
+    python: 'False None True and as assert break class continue def del elif else except finally for from global if '
+        + 'import in is lambda not or pass raise return try while with yield'
 };
 
 // What a line is made of, in the order in which it is tried; everything else is plain.
@@ -25,9 +27,12 @@ const wordsOf = {
         string: '@"(?:""|[^"])*(?:"|$)|"(?:\\\\.|[^"\\\\])*(?:"|$)|\'(?:\\\\.|[^\'\\\\])*(?:\'|$)'},
     basic: {comment: '\'.*|\\bRem\\b.*', string: '"(?:""|[^"])*(?:"|$)'},
     script: {comment: '//.*|/\\*.*?(?:\\*/|$)|<!--.*?(?:-->|$)',
-        string: '"(?:\\\\.|[^"\\\\])*(?:"|$)|\'(?:\\\\.|[^\'\\\\])*(?:\'|$)'}
+        string: '"(?:\\\\.|[^"\\\\])*(?:"|$)|\'(?:\\\\.|[^\'\\\\])*(?:\'|$)'},
+    python: {comment: '#.*',
+        string: '""".*?(?:"""|$)|"(?:\\\\.|[^"\\\\])*(?:"|$)|\'(?:\\\\.|[^\'\\\\])*(?:\'|$)'}
 };
-const familyOfTarget = {cpp: 'c', cppcom: 'c', csharp: 'sharp', vbnet: 'basic', vba: 'basic', javascript: 'script'};
+const familyOfTarget = {cpp: 'c', cppcom: 'c', csharp: 'sharp', vbnet: 'basic', vba: 'basic', javascript: 'script',
+    python: 'python'};
 const longestPainted = 4000; // characters; behind them a line is plain
 
 class Painter {

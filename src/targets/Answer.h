@@ -1,0 +1,42 @@
+#pragma once
+
+#include "statements/Answerable.h"
+
+#include <QString>
+
+#include <array>
+#include <cstdint>
+
+namespace inkmacro {
+
+/// What a prompt asks for. It decides which values of statements may be its answer.
+enum class Asked : std::uint8_t
+{
+    Point,
+    Angle,
+    Distance,
+    Orientation,
+    Corner,
+    Scale,
+    Text,
+    Keyword,
+    Color,
+    Integer,
+    Number
+};
+
+/// A prompt of a command. The answer is the user's own: none when the prompt was cancelled, or answered by something of
+/// another type, in whose place a default stands.
+struct Prompt
+{
+    Asked asked;
+    std::uint32_t child; ///< which action of the command it is
+    QString title;       ///< what notes call the action
+    QString text;        ///< as the host showed it, markup included
+    QString shown;       ///< as a macro shows it again
+    bool isAnswered = false;
+    std::array<double, 3> numbers{}; ///< a point, else the first one is the answer
+    QString answer{};                ///< of a prompt for a text
+};
+
+} // namespace inkmacro

@@ -1,0 +1,6 @@
+def main():
+    try:
+        drawing = connect()
+    except RuntimeError as error:
+        return "recording: " + str(error)
+    drawing.app.AbortRunningCommand()
