@@ -53,8 +53,8 @@ bench: build
 	scripts/bench
 
 fuzz: setup
-	cmake --preset fuzz
-	cmake --build --preset fuzz $(if $(JOBS),--parallel $(JOBS)) --target recording_fuzz convert_fuzz import_fuzz
+	cmake --preset asan
+	cmake --build --preset asan $(if $(JOBS),--parallel $(JOBS)) --target recording_fuzz convert_fuzz import_fuzz
 	scripts/fuzz $(SECONDS)
 
 format:

@@ -150,7 +150,7 @@ std::optional<inkmacro::Prompt> ReadPrompt(const CFxUserInteraction& interaction
                             .child = 0,
                             .title = ActionTitle(&interaction),
                             .text = interaction.GetPrompt(),
-                            .shown = shownPrompt(interaction, *kind)};
+                            .otherwise = kind->prompt};
     const OdResBufPtr result = interaction.GetResult();
     if (!result || !kind->accepts(result->restype()))
         return prompt;

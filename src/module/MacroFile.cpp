@@ -42,11 +42,11 @@ void MacroFile::endActions()
 
 void MacroFile::hold(const Statement& statements)
 {
-    if (statements.isEmpty())
+    if (QStringView(statements.text()).trimmed().isEmpty())
         return;
     // Outside of commands each action has a number of its own.
     const std::uint32_t child = held_.isCommand ? next_.child : static_cast<std::uint32_t>(held_.actions.size());
-    held_.actions.push_back({child, statements});
+    held_.actions.push_back({child, HeldStatement(statements)});
     heldOrigins_.push_back(next_);
 }
 
@@ -57,14 +57,14 @@ void MacroFile::writeFunction()
     if (command.actions.empty() && command.prompts.empty())
         return;
     const std::uint32_t action = origins.empty() ? action_ : origins.front().action;
-    for (const auto& [number, text] : functions_->function(command)) {
+    functions_->write(command, [&](int number, const QString& lines) {
         // What holds actions together that are in no command is none of theirs.
         const bool isFrame = number == CommandFunctions::kBesideFunction || !command.isCommand;
         next_ = number >= 0
                     ? origins[static_cast<std::size_t>(number)]
                     : Origin{isFrame ? CFxMacroPart::kFrame : CFxMacroPart::kBlock, isFrame ? Origin::kNone : action};
-        put(Kind::Statements, text);
-    }
+        put(Kind::Statements, lines);
+    });
 }
 
 void MacroFile::write(const Statement& statements)

@@ -8,6 +8,7 @@
 #include "objects/classTable.h"
 #include "objects/entries.h"
 #include "objects/losses.h"
+#include "statements/HeldStatement.h"
 #include "statements/StatementGroup.h"
 #include "statements/actionKinds.h"
 #include "statements/losses.h"
@@ -47,29 +48,6 @@ bool isShapeFileStyle(const CFxObjectAdded& added)
     return style && style->isShapeFile() && !IsHostShapeFile(style->fileName());
 }
 
-/// A statement that waits for the end of its command. Nearly all are plain letters, and take half the room so that
-/// QString gives them: a command may have millions of statements.
-class HeldStatement
-{
-public:
-    explicit HeldStatement(Statement statement) : latin1_(statement.text().toLatin1()), rest_(std::move(statement))
-    {
-        if (rest_.text() == latin1())
-            rest_ = Statement(QString(), rest_.notes());
-        else
-            latin1_.clear();
-    }
-
-    Statement statement() const { return latin1_.isNull() ? rest_ : Statement(latin1(), rest_.notes()); }
-
-private:
-    /// Made of the array alone it would end in front of the first null character.
-    QLatin1String latin1() const { return QLatin1String(latin1_.constData(), latin1_.size()); }
-
-    QByteArray latin1_; ///< null for a text that has other letters
-    Statement rest_;    ///< what it does not hold
-};
-
 /// Whose statement it is.
 struct Sayer
 {
@@ -88,7 +66,7 @@ struct CommandState
     std::vector<QString> names;
     std::map<unsigned, std::size_t> made; ///< in a repaired macro, by child: which added object the action makes
     std::size_t nextName = 0;
-    std::deque<HeldStatement> statements;
+    std::deque<inkmacro::HeldStatement> statements;
     bool wantsSayers = false; ///< whether somebody wants to know
     std::deque<Sayer> sayers; ///< then one a statement
     bool unnamedTarget = false;
@@ -175,7 +153,7 @@ static bool LacksDeclarations(const Names& names, const CommandState& state, Tar
         return begins && (line.size() == declaration.size() || !inkmacro::isNamePart(line[declaration.size()]));
     };
     bool lacks = false;
-    for (const HeldStatement& held : state.statements)
+    for (const inkmacro::HeldStatement& held : state.statements)
         for (const QString& line : held.statement().text().split('\n'))
             inkmacro::forNames(line, target, [&](QStringView name, qsizetype) {
                 const auto declared = declarations.find(name.toString());
@@ -338,7 +316,8 @@ std::int32_t ConvertCommand(Conversion& conversion, MacroFile& macro, const CFxS
         WriteDeclarations(conversion, macro, state);
     else if (!state.declarations.empty() && writer.notesFaults &&
              LacksDeclarations(conversion.names(), state, writer.target))
-        state.statements.front() = HeldStatement(writer.faulty(state.statements.front().statement(), kUndeclared));
+        state.statements.front() =
+            inkmacro::HeldStatement(writer.faulty(state.statements.front().statement(), kUndeclared));
     macro.begin(CFxMacroPart::kBlock);
     if (written)
         macro.write(group.begin());

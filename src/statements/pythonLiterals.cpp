@@ -8,41 +8,10 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
-#include <string_view>
 
 namespace inkmacro {
 
 namespace {
-
-/// Of the exponents from -4 to 15 numbers are written without one.
-bool isPlainExponent(int exponent)
-{
-    return exponent >= -4 && exponent < 16;
-}
-
-/// "d.ddde+XX" as the shortest scientific form gives it, which Python writes with the same digits.
-QString fromScientific(std::string_view scientific)
-{
-    const auto mark = scientific.find('e');
-    const int exponent = std::atoi(scientific.substr(mark + 1).data());
-    if (!isPlainExponent(exponent))
-        return QString::fromLatin1(scientific.data(), static_cast<int>(scientific.size()));
-    const bool isNegative = scientific.front() == '-';
-    QString digits;
-    for (const char character : scientific.substr(0, mark))
-        if (character >= '0' && character <= '9')
-            digits += QChar(character);
-    int point = exponent + 1; // digits in front of it
-    if (point <= 0) {
-        digits.prepend(QString(1 - point, '0'));
-        point = 1;
-    }
-    if (digits.size() <= point)
-        digits += QString(point + 1 - digits.size(), '0');
-    digits.insert(point, '.');
-    return isNegative ? '-' + digits : digits;
-}
 
 /// What Python's `repr` escapes.
 bool isPrintable(uint code)
@@ -102,10 +71,18 @@ QString pythonReal(double value)
         return QStringLiteral("float(\"nan\")");
     if (std::isinf(value))
         return value < 0 ? QStringLiteral("float(\"-inf\")") : QStringLiteral("float(\"inf\")");
+    // Without an exponent between 0.0001 and 10 to the power of 16.
+    const double size = std::fabs(value);
+    const bool isPlain = size == 0 || (size >= 1e-4 && size < 1e16);
     std::array<char, 40> room;
-    const auto [end, error] = std::to_chars(room.begin(), room.end() - 1, value, std::chars_format::scientific);
-    *end = '\0';
-    return fromScientific({room.begin(), static_cast<std::size_t>(end - room.begin())});
+    char* end = std::to_chars(room.begin(), room.end() - 2, value,
+                              isPlain ? std::chars_format::fixed : std::chars_format::scientific)
+                    .ptr;
+    if (isPlain && std::find(room.begin(), end, '.') == end) {
+        *end++ = '.';
+        *end++ = '0';
+    }
+    return QString::fromLatin1(room.data(), static_cast<int>(end - room.begin()));
 }
 
 QString pythonReals(std::initializer_list<double> values)

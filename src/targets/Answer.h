@@ -30,10 +30,10 @@ enum class Asked : std::uint8_t
 struct Prompt
 {
     Asked asked;
-    std::uint32_t child; ///< which action of the command it is
-    QString title;       ///< what notes call the action
-    QString text;        ///< as the host showed it, markup included
-    QString shown;       ///< as a macro shows it again
+    std::uint32_t child;   ///< which action of the command it is
+    QString title;         ///< what notes call the action
+    QString text;          ///< as the host showed it, markup included
+    const char* otherwise; ///< what a macro shows when nothing is left of that
     bool isAnswered = false;
     std::array<double, 3> numbers{}; ///< a point, else the first one is the answer
     QString answer{};                ///< of a prompt for a text

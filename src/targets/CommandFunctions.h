@@ -1,21 +1,22 @@
 #pragma once
 
-#include "statements/Statement.h"
+#include "statements/HeldStatement.h"
 #include "targets/Answer.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace inkmacro {
 
-/// The statements of one action.
+/// The statements of one action, of which there are some.
 struct ActionStatements
 {
     std::uint32_t child; ///< of the command; the actions outside of commands are counted through each run of them
-    Statement statements;
+    HeldStatement statements;
 };
 
 /// A command whose statements have been made.
@@ -43,15 +44,12 @@ public:
     static constexpr int kOwn = -1;            ///< the function itself: its head and its end
     static constexpr int kBesideFunction = -2; ///< what the function needs in front of it
 
-    /// Whole lines.
-    struct Lines
-    {
-        int action; ///< that they are of, by its place in the list
-        QString text;
-    };
+    /// Takes whole lines, and of which action they are, by its place in the list.
+    using Sink = std::function<void(int action, const QString& lines)>;
 
-    /// Empty when nothing is left of the command. Notes what is lost of the actions of the command.
-    virtual std::vector<Lines> function(const RecordedCommand& command) = 0;
+    /// Gives the function line by line, or nothing when nothing is left of the command. Notes what is lost of the
+    /// actions of the command.
+    virtual void write(const RecordedCommand& command, const Sink& sink) = 0;
 };
 
 } // namespace inkmacro

@@ -21,7 +21,10 @@ TEXTS = {
     "vbnet": re.compile(r'["\u201c\u201d\u201e\uff02](?:[^"\u201c\u201d\u201e\uff02\n]|"")*'
                         r'["\u201c\u201d\u201e\uff02]|\'[^\n]*'),
     "vba": re.compile(r'"(?:[^"\n]|"")*"|\'[^\n]*'),
+    "python": re.compile(r'''"(?:[^"\\\n]|\\.)*"|'(?:[^'\\\n]|\\.)*'|#[^\n]*'''),
 }
+# Python reads its own files as UTF-8 wherever they are.
+KNOWN = {"python": ENCODINGS[:1]}
 
 
 def recording(file):
@@ -43,7 +46,7 @@ def main():
         content = macro.file.read_bytes().removeprefix(b"\xef\xbb\xbf")
         if content.decode("utf-8").count(CODE) < len(LETTERS) * len(ENDS):
             complaints.append(f"{target}: the texts are not there")
-        for encoding in ENCODINGS:
+        for encoding in KNOWN.get(target, ENCODINGS):
             rest = TEXTS.get(target, TEXTS["cpp"]).sub("", content.decode(encoding, "replace"))
             complaints += [f"{target} read as {encoding}: {line.strip()}" for line in rest.split("\n") if CODE in line][:3]
     harness.finish(complaints, f"{len(LETTERS) * len(ENDS)} texts read in {len(ENCODINGS)} encodings")

@@ -40,8 +40,10 @@ class Judge:
 
 
 def check_runs():
+    """Macros that ask get the recorded answers, so they draw what the others do."""
     checked = harness.Checked()
     macros = checked.macros("python", "--repair")
+    macros += checked.convert("python", checked.named_recordings(True), checked.folder / "asking", "--repair", "--replay")
     complaints, objects = [], 0
     for result_first in (True, False):
         judge = Judge(checked, macros, result_first)

@@ -3,7 +3,7 @@
 of an object with each of several values, as it is added, as a change of one that was added before, and as a change of
 one that the drawing has.
 
-    every_tag.py PROGRAM SOURCE_DIR csharp|javascript
+    every_tag.py PROGRAM SOURCE_DIR csharp|javascript|python
 """
 
 import json
@@ -12,6 +12,7 @@ import sys
 
 import check_csharp
 import check_javascript
+import check_python
 import drawing
 import harness
 
@@ -186,7 +187,7 @@ def main():
         files.append(checked.folder / f"{name}.jsonl")
         files[-1].write_text(text, encoding="utf-8")
     macros = checked.convert(target, files, checked.folder / target, "--repair")
-    judge = {"csharp": check_csharp, "javascript": check_javascript}[target].Judge(checked, macros)
+    judge = {"csharp": check_csharp, "javascript": check_javascript, "python": check_python}[target].Judge(checked, macros)
     complaints = harness.shown(judge())
     found = [f"{macro.file}: {json.dumps(one)}" for macro, result in judge.results.items()
              for one in drawing.differences(result)]

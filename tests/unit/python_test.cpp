@@ -134,8 +134,9 @@ TEST(PythonNames, AreNoneThatMeanSomethingElse)
     EXPECT_EQ(free.take("print_"), "print_2");
 
     const auto parameter = [](const char* prompt, Asked asked = Asked::Point, bool several = false) {
-        return parameterName({.asked = asked, .child = 0, .title = {}, .text = QString::fromUtf8(prompt), .shown = {}},
-                             several)
+        return parameterName(
+                   {.asked = asked, .child = 0, .title = {}, .text = QString::fromUtf8(prompt), .otherwise = ""},
+                   several)
             .toStdString();
     };
     EXPECT_EQ(parameter("Options: Segments, Enter to continue from last point or<br>Specify start point&raquo; "),
@@ -161,12 +162,12 @@ class Session
 public:
     Session& answer(Asked asked, std::array<double, 3> numbers, const char* prompt = "")
     {
-        command_.prompts.push_back({asked, child_++, {}, prompt, {}, true, numbers});
+        command_.prompts.push_back({asked, child_++, {}, prompt, "", true, numbers});
         return *this;
     }
     Session& answer(const char* text, const char* prompt = "")
     {
-        command_.prompts.push_back({Asked::Text, child_++, {}, prompt, {}, true, {}, text});
+        command_.prompts.push_back({Asked::Text, child_++, {}, prompt, "", true, {}, text});
         return *this;
     }
     /// The values become the words of one call, with blanks between them.
@@ -181,13 +182,14 @@ public:
             notes.push_back({text.size(), value});
             text += words;
         }
-        command_.actions.push_back({child_++, Statement(text, notes)});
+        command_.actions.push_back({child_++, HeldStatement(Statement(text, notes))});
         return *this;
     }
     /// The calls with the parameters in them, a line each.
     std::string written() const
     {
-        const Parameters parameters(command_);
+        PromptNames names;
+        const Parameters parameters(command_, names);
         QStringList calls;
         for (std::size_t i = 0; i < command_.actions.size(); ++i)
             calls.append(parameters.textOf(i));

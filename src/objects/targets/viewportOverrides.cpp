@@ -19,7 +19,7 @@ static const Phrase overrideValue{
         .javascript = "%1%3.%4( %5, mSheet.GetActiveViewport() );%2",
         .vbNet = "%1%3.%4( %5, iwSheet.GetActiveViewport() )%2",
         .vba = "%1%3.%4 %5, iwSheet.GetActiveViewport()%2",
-        .python = "%1viewport = drawing.sheet.GetActiveViewport()%2%1%3.%4(%5, viewport)%2",
+        .python = "%1viewport = %6.GetActiveViewport()%2%1%3.%4(%5, viewport)%2",
     }};
 
 static const Phrase overrideText{
@@ -32,7 +32,7 @@ static const Phrase overrideText{
         .javascript = "%1%3.%4( \"%5\", mSheet.GetActiveViewport() );%2",
         .vbNet = "%1%3.%4( \"%5\", iwSheet.GetActiveViewport() )%2",
         .vba = "%1%3.%4 \"%5\", iwSheet.GetActiveViewport()%2",
-        .python = "%1viewport = drawing.sheet.GetActiveViewport()%2%1%3.%4(%5, viewport)%2",
+        .python = "%1viewport = %6.GetActiveViewport()%2%1%3.%4(%5, viewport)%2",
     }};
 
 /// A statement in C++, an argument in the others.
@@ -72,6 +72,9 @@ static Statement setOverride(Writer& writer, const Phrase& phrase, const CFxStri
         call.word(value);
     if (writer.target == Target::Cpp)
         call.word(suffix).word(locals);
+    // The others have the first sheet in a variable.
+    if (writer.target == Target::Python)
+        call.word(QLatin1String(writer.onSheet ? "drawing.sheet" : "drawing.doc.GetSheets()[1]"));
     return call;
 }
 

@@ -4,11 +4,11 @@
 
 #include "statements/losses.h"
 #include "statements/pythonLiterals.h"
+#include "statements/wording.h"
 #include "targets/python/layout.h"
 #include "targets/texts.h"
 
 #include <QHash>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <utility>
@@ -20,16 +20,23 @@ namespace {
 constexpr int bodyIndentation = 4;
 
 /// The helpers' texts by their names.
-const QHash<QString, QString>& helperTexts()
+const QHash<QStringView, QString>& helperTexts()
 {
-    static const QHash<QString, QString> texts = [] {
-        QHash<QString, QString> byName;
-        const QString all = QString::fromUtf8(texts::python::helpers).trimmed();
-        for (const QString& function : all.split(QLatin1String("\n\n\n")))
-            byName.insert(function.section('(', 0, 0).section(' ', 1), function + "\n\n\n");
-        return byName;
+    static const QString all = QString::fromUtf8(texts::python::helpers).trimmed();
+    static const QHash<QStringView, QString> byName = [] {
+        QHash<QStringView, QString> made;
+        for (const QStringView function : QStringView(all).split(QStringLiteral("\n\n\n"))) {
+            const qsizetype begin = QStringView(u"def ").size();
+            made.insert(function.mid(begin, function.indexOf(u'(') - begin), function.toString() + "\n\n\n");
+        }
+        return made;
     }();
-    return texts;
+    return byName;
+}
+
+auto linesOf(QStringView text)
+{
+    return text.split(u'\n', Qt::SkipEmptyParts);
 }
 
 QString valueOf(const Prompt& prompt)
@@ -60,7 +67,8 @@ QString defaultOf(const Parameters::Parameter& parameter)
 /// What asks for the parameter, which is offered as the answer where the prompt can offer one.
 QString questionFor(const Prompt& prompt, const QString& value)
 {
-    const QString text = pythonText(prompt.shown);
+    const QString shown = CleanPromptText(prompt.text);
+    const QString text = pythonText(shown.isEmpty() ? QString(prompt.otherwise) : shown);
     const auto number = [&](const char* call) {
         return QString("answered(message.%1(%2, %3))").arg(call, text, value);
     };
@@ -112,48 +120,60 @@ void noteParameters(const RecordedCommand& command, const Parameters& parameters
     }
 }
 
-/// What is fetched into locals and stays the same: what each holds now.
-using Fetched = QHash<QString, QString>;
+/// What locals hold that is lasting.
+using Assigned = QHash<QString, QString>;
+
+/// Managers and the like, which are the same as long as the macro runs.
+bool isLasting(QStringView value)
+{
+    return value.endsWith(u"()") && (value.startsWith(u"drawing.app.Get") ||
+                                     (value.startsWith(u"drawing.doc.Get") && value.endsWith(u"Manager()")));
+}
 
 /// Whether the line fetches again what its local holds.
-bool isFetchedAgain(const QString& line, Fetched& fetched)
+bool isFetchedAgain(QStringView line, Assigned& assigned)
 {
-    static const QRegularExpression assignment("^    (\\w+) = (.*)$");
-    static const QRegularExpression lasting("^drawing\\.(?:app\\.Get\\w+|doc\\.Get\\w+Manager)\\(\\)$");
-    const QRegularExpressionMatch found = assignment.match(line);
-    if (!found.hasMatch())
+    const qsizetype equals = line.indexOf(u'=');
+    const QStringView name = line.left(equals).trimmed();
+    if (equals < 0 || line.startsWith(u"     ") || name.contains(u'.'))
         return false;
-    const QString value = found.captured(2);
-    QString& held = fetched[found.captured(1)];
-    const bool isHeld = held == value && lasting.match(value).hasMatch();
-    held = value;
+    const QStringView value = line.mid(equals + 1).trimmed();
+    if (!isLasting(value)) {
+        if (!assigned.isEmpty())
+            assigned.remove(name.toString());
+        return false;
+    }
+    QString& held = assigned[name.toString()];
+    const bool isHeld = held == value;
+    held = value.toString();
     return isHeld;
 }
 
 /// The statements' lines, each as many as it takes.
-QString laidOutLines(const QString& statements, Fetched& fetched)
+QString laidOutLines(const QString& statements, Assigned& assigned)
 {
     QString lines;
-    for (const QString& line : statements.split('\n', Qt::SkipEmptyParts)) {
-        if (isFetchedAgain(line, fetched))
+    lines.reserve(statements.size());
+    for (const QStringView line : linesOf(statements)) {
+        if (isFetchedAgain(line, assigned))
             continue;
         const auto* const begin =
             std::find_if(line.begin(), line.end(), [](QChar character) { return character != ' '; });
-        const auto indentation = static_cast<int>(begin - line.begin());
         if (begin != line.end())
-            lines += laidOut(QStringView(line).mid(indentation), indentation);
+            addLaidOut(lines, line.mid(begin - line.begin()), static_cast<int>(begin - line.begin()));
     }
     return lines;
 }
 
-/// Whether some line gives the object to its attribute.
-bool isAssigned(const std::vector<CommandFunctions::Lines>& lines, const QString& object)
+/// Whether some statement gives the object to its attribute.
+bool assigns(const RecordedCommand& command, const QString& object)
 {
     const QString begin = "    " + object;
-    return std::any_of(lines.begin(), lines.end(), [&](const CommandFunctions::Lines& one) {
-        for (int at = one.text.indexOf(begin); at >= 0; at = one.text.indexOf(begin, at + 1)) {
-            const QStringView behind = QStringView(one.text).mid(at + begin.size());
-            const bool isLine = at == 0 || one.text[at - 1] == '\n';
+    return std::any_of(command.actions.begin(), command.actions.end(), [&](const ActionStatements& one) {
+        const QString text = one.statements.text();
+        for (int at = text.indexOf(begin); at >= 0; at = text.indexOf(begin, at + 1)) {
+            const QStringView behind = QStringView(text).mid(at + begin.size());
+            const bool isLine = at == 0 || text[at - 1] == '\n';
             if (isLine && (behind.startsWith(u" = ") || behind.startsWith(u", _ = ")))
                 return true;
         }
@@ -189,56 +209,48 @@ QString questionsFor(const Parameters& parameters)
 
 } // namespace
 
-void Functions::addHelper(const QString& name, QString& text)
+void Functions::addHelper(QStringView name, QString& text)
 {
     const auto found = helperTexts().find(name);
-    if (found == helperTexts().end() || helpers_.contains(name))
+    if (found == helperTexts().end() || helpers_.contains(*found))
         return;
-    helpers_.insert(name);
+    helpers_.insert(*found);
     // What it calls itself stands in front of it.
-    QStringList called;
-    for (const QString& line : found->split('\n'))
-        forNames(line, [&](QStringView other, bool) { called.append(other.toString()); });
-    for (const QString& other : called)
-        addHelper(other, text);
+    forNames(*found, [&](QStringView other) { addHelper(other, text); });
     text += *found;
 }
 
-QString Functions::helpersFor(const std::vector<Lines>& lines)
+QString Functions::helpersFor(const QString& begin, const RecordedCommand& command)
 {
     QString text;
-    for (const Lines& one : lines)
-        for (const QString& line : one.text.split('\n'))
-            forNames(line, [&](QStringView name, bool) { addHelper(name.toString(), text); });
+    const auto add = [&](QStringView name) { addHelper(name, text); };
+    forNames(begin, add);
+    for (const ActionStatements& one : command.actions)
+        forNames(one.statements.text(), add);
     return text;
 }
 
-std::vector<CommandFunctions::Lines> Functions::function(const RecordedCommand& command)
+void Functions::write(const RecordedCommand& command, const Sink& sink)
 {
-    const Parameters parameters(command);
+    const Parameters parameters(command, promptNames_);
     if (command.replays)
         losePrompts(command, parameters);
-    std::vector<Lines> lines;
-    Fetched fetched;
-    for (std::size_t i = 0; i < command.actions.size(); ++i)
-        if (QString text = laidOutLines(parameters.textOf(i), fetched); !text.isEmpty())
-            lines.push_back({static_cast<int>(i), std::move(text)});
-    if (lines.empty())
-        return {};
+    if (command.actions.empty())
+        return;
     const QString name = names_.take(command.isCommand ? functionName(command.name) : QStringLiteral("step"));
     noteParameters(command, parameters, name);
     const bool asks = command.replays && !parameters.all().empty();
-    QString begin = headOf(command, name, parameters);
-    if (asks)
-        begin += questionsFor(parameters);
-    lines.insert(lines.begin(), {kOwn, begin});
-    if (command.made.size() == 1 && isAssigned(lines, command.made.front()))
-        lines.push_back({kOwn, "    return " + command.made.front() + '\n'});
-    lines.push_back({kOwn, "\n\n"});
-    if (const QString helpers = helpersFor(lines); !helpers.isEmpty())
-        lines.insert(lines.begin(), {kBesideFunction, helpers});
+    const QString begin = headOf(command, name, parameters) + (asks ? questionsFor(parameters) : QString());
+    if (const QString helpers = helpersFor(begin, command); !helpers.isEmpty())
+        sink(kBesideFunction, helpers);
+    sink(kOwn, begin);
+    Assigned assigned;
+    for (std::size_t i = 0; i < command.actions.size(); ++i)
+        sink(static_cast<int>(i), laidOutLines(parameters.textOf(i), assigned));
+    if (command.made.size() == 1 && assigns(command, command.made.front()))
+        sink(kOwn, "    return " + command.made.front() + '\n');
+    sink(kOwn, QStringLiteral("\n\n"));
     calls_ += "    " + name + (asks ? "(drawing, ask=True)\n" : "(drawing)\n");
-    return lines;
 }
 
 } // namespace inkmacro::python

@@ -13,18 +13,19 @@ namespace inkmacro::python {
 class Functions final : public CommandFunctions
 {
 public:
-    std::vector<Lines> function(const RecordedCommand& command) override;
+    void write(const RecordedCommand& command, const Sink& sink) override;
 
     /// The lines of main() that call the functions, in their order.
     QString calls() const { return calls_; }
 
 private:
     /// The helpers that the function is the first to use, in front of it.
-    QString helpersFor(const std::vector<Lines>& lines);
-    void addHelper(const QString& name, QString& text);
+    QString helpersFor(const QString& begin, const RecordedCommand& command);
+    void addHelper(QStringView name, QString& text);
 
     FreeNames names_;
-    QSet<QString> helpers_; ///< that stand in the macro
+    PromptNames promptNames_;
+    QSet<QString> helpers_; ///< texts of those that stand in the macro
     QString calls_;
 };
 

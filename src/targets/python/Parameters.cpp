@@ -2,8 +2,6 @@
 
 #include "targets/python/Parameters.h"
 
-#include "targets/python/names.h"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -84,14 +82,15 @@ QString wordsAt(const Answerable& value, const QString& name)
 
 } // namespace
 
-Parameters::Parameters(const RecordedCommand& command) : command_(command), used_(command.prompts.size())
+Parameters::Parameters(const RecordedCommand& command, PromptNames& promptNames)
+    : command_(command), used_(command.prompts.size())
 {
     collectAnswers();
     if (equals_.isEmpty())
         return;
     collectPlaces();
     decide();
-    name();
+    name(promptNames);
 }
 
 void Parameters::collectAnswers()
@@ -186,7 +185,7 @@ bool Parameters::standsOnce(std::size_t place, const Prompt& prompt) const
 }
 
 /// In the order of the prompts.
-void Parameters::name()
+void Parameters::name(PromptNames& promptNames)
 {
     std::map<std::pair<Asked, QString>, std::vector<std::size_t>> byPrompt;
     for (std::size_t i = 0; i < used_.size(); ++i)
@@ -201,7 +200,7 @@ void Parameters::name()
         const bool isTuple = same.size() > mostSingle;
         if (isTuple && same.front() != i)
             continue;
-        Parameter parameter{free.take(parameterName(prompt, isTuple)), {}, isTuple};
+        Parameter parameter{free.take(promptNames.of(prompt, isTuple)), {}, isTuple};
         if (!isTuple)
             names_[i] = parameter.name;
         for (std::size_t at = 0; isTuple && at < same.size(); ++at)
@@ -214,7 +213,7 @@ void Parameters::name()
 
 QString Parameters::textOf(std::size_t action) const
 {
-    const QString& text = command_.actions[action].statements.text();
+    const QString text = command_.actions[action].statements.text();
     QString with;
     int from = 0;
     const std::size_t end = firstPlace_.empty() ? 0 : firstPlace_[action + 1];
@@ -225,7 +224,7 @@ QString Parameters::textOf(std::size_t action) const
         with += text.mid(from, place.offset - from) + wordsAt(*place.value, nameOf(*chosen_[i]));
         from = place.offset + place.value->length;
     }
-    return with + text.mid(from);
+    return from == 0 ? text : with + text.mid(from);
 }
 
 } // namespace inkmacro::python

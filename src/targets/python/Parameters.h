@@ -2,6 +2,7 @@
 
 #include "statements/Answerable.h"
 #include "targets/CommandFunctions.h"
+#include "targets/python/names.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -31,7 +32,7 @@ class Parameters
 {
 public:
     /// The command must outlive it.
-    explicit Parameters(const RecordedCommand& command);
+    Parameters(const RecordedCommand& command, PromptNames& promptNames);
 
     /// By the order of the prompts; an answer that nothing uses is none.
     struct Parameter
@@ -65,7 +66,7 @@ private:
     /// False when a doubt arose.
     bool decideOnce();
     bool standsOnce(std::size_t place, const Prompt& prompt) const;
-    void name();
+    void name(PromptNames& promptNames);
 
     const RecordedCommand& command_;
     std::vector<Place> places_;

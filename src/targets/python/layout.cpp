@@ -22,12 +22,12 @@ int columnsOf(QStringView text)
 
 bool opens(QChar character)
 {
-    return QStringView(u"([{").contains(character);
+    return character == u'(' || character == u'[' || character == u'{';
 }
 
 bool closes(QChar character)
 {
-    return QStringView(u")]}").contains(character);
+    return character == u')' || character == u']' || character == u'}';
 }
 
 /// Calls with each character of the code outside of texts, its place and how many brackets are open around it; a
@@ -245,13 +245,25 @@ qsizetype behindText(QStringView line, qsizetype at)
     return std::min(at + 1, line.size());
 }
 
+void addLaidOut(QString& lines, QStringView line, int indentation)
+{
+    // Most lines: a letter is a column at most.
+    if (line.startsWith(u'#') || indentation + line.size() <= mostColumns) {
+        for (int i = 0; i < indentation; ++i)
+            lines += ' ';
+        (lines += line) += '\n';
+        return;
+    }
+    Layout layout;
+    layout.put(line.toString(), indentation, false);
+    lines += layout.take();
+}
+
 QString laidOut(QStringView line, int indentation)
 {
-    Layout layout;
-    if (line.startsWith(u'#'))
-        return QString(indentation, QChar(32)) + line.toString() + QChar(10);
-    layout.put(line.toString(), indentation, false);
-    return layout.take();
+    QString lines;
+    addLaidOut(lines, line, indentation);
+    return lines;
 }
 
 } // namespace inkmacro::python

@@ -12,31 +12,39 @@ constexpr int mostColumns = 88;
 /// A logical line without its indentation, as the lines that it takes, each with a line feed. It has no blanks inside
 /// its brackets and one behind each comma; texts in it are literals as pythonText gives them.
 QString laidOut(QStringView line, int indentation);
+/// The same behind other lines.
+void addLaidOut(QString& lines, QStringView line, int indentation);
 
-/// Calls with each name that stands in the code, but behind no dot, and whether a bracket opens behind it.
+/// Calls with each name that stands in the code, but behind no dot.
 /// What stands in texts and comments is none.
 template<class Use>
-void forNames(QStringView line, const Use& use);
+void forNames(QStringView code, const Use& use);
 
 /// Behind the text in quotes that begins there.
 qsizetype behindText(QStringView line, qsizetype at);
 
 template<class Use>
-void forNames(QStringView line, const Use& use)
+void forNames(QStringView code, const Use& use)
 {
-    const auto isNamePart = [](QChar character) { return character.isLetterOrNumber() || character == u'_'; };
-    for (qsizetype at = 0; at < line.size();) {
-        if (line[at] == u'"' || line[at] == u'\'') {
-            at = behindText(line, at);
-        } else if (line[at] == u'#') {
-            return;
-        } else if (isNamePart(line[at])) {
+    const auto isNamePart = [](QChar character) {
+        const ushort letter = character.unicode();
+        return (letter >= u'a' && letter <= u'z') || (letter >= u'A' && letter <= u'Z') ||
+               (letter >= u'0' && letter <= u'9') || letter == u'_';
+    };
+    for (qsizetype at = 0; at < code.size();) {
+        if (code[at] == u'"' || code[at] == u'\'') {
+            at = behindText(code, at);
+        } else if (code[at] == u'#') {
+            at = code.indexOf(u'\n', at);
+            if (at < 0)
+                return;
+        } else if (isNamePart(code[at])) {
             const qsizetype from = at;
-            while (at < line.size() && isNamePart(line[at]))
+            while (at < code.size() && isNamePart(code[at]))
                 ++at;
-            const bool isMember = from > 0 && line[from - 1] == u'.';
+            const bool isMember = from > 0 && code[from - 1] == u'.';
             if (!isMember)
-                use(line.mid(from, at - from), at < line.size() && line[at] == u'(');
+                use(code.mid(from, at - from));
         } else {
             ++at;
         }

@@ -165,6 +165,17 @@ QString parameterName(const Prompt& prompt, bool several)
     return isTaken(name) || isLocal(name) || name == QLatin1String("ask") ? name + '_' : name;
 }
 
+QString PromptNames::of(const Prompt& prompt, bool several)
+{
+    constexpr int most = 1000;
+    if (known_.size() >= most)
+        known_.clear();
+    QString& name = known_[{prompt.text, 2 * static_cast<int>(prompt.asked) + (several ? 1 : 0)}];
+    if (name.isEmpty())
+        name = parameterName(prompt, several);
+    return name;
+}
+
 QString distributionName(const QString& name)
 {
     const QString letters = identifierOf(name);

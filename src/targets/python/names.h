@@ -3,6 +3,7 @@
 #include "targets/Answer.h"
 
 #include <QHash>
+#include <QPair>
 #include <QSet>
 #include <QString>
 
@@ -26,6 +27,16 @@ QString functionName(const QString& command);
 
 /// Of what the prompt says. `several`: the answers of a prompt as one tuple.
 QString parameterName(const Prompt& prompt, bool several);
+
+/// Remembers these names, since a recording asks the same again and again.
+class PromptNames
+{
+public:
+    QString of(const Prompt& prompt, bool several);
+
+private:
+    QHash<QPair<QString, int>, QString> known_; ///< by the text and what else a name depends on
+};
 
 /// Of a name the one that a package may have.
 QString distributionName(const QString& name);

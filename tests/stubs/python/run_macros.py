@@ -19,15 +19,18 @@ def module_of(path):
     return module
 
 
-def kept(drawing):
+# What a drawing has before anything is made in it.
+FRAME = {"app": "application", "doc": "document", "views": "viewmanager", "sketch": "sketchmanager"}
+
+
+def kept(drawing, searches):
     """Objects of other classes than their names say: a result is taken for another one. What was found by a handle is
-    what the drawing has there."""
+    what the drawing has there, and a search may find nothing."""
     for name, value in vars(drawing).items():
-        stem = re.fullmatch(r"([a-z0-9]*[a-z])\d+", name)
-        if stem and value is not None and not (isinstance(value, client.Thing) and value._found):
-            cls = value._class.lower() if isinstance(value, client.Thing) else type(value).__name__
-            if cls not in ("", stem[1]):
-                yield f"drawing.{name} is a {cls}"
+        cls = value._class.lower() if isinstance(value, client.Thing) else type(value).__name__
+        isFound = value._found if isinstance(value, client.Thing) else value is None and searches
+        if not isFound and cls != FRAME.get(name, re.sub(r"\d+$", "", name)):
+            yield f"drawing.{name} is a {cls}"
 
 
 def is_point(value):
@@ -53,7 +56,7 @@ def run(path, application):
         connect = module.connect
         module.connect = lambda: drawings.append(connect()) or drawings[-1]
         status = module.main()
-        wrong = [status] if status else list(kept(drawings[0]))
+        wrong = [status] if status else list(kept(drawings[0], hasattr(module, "find_piece")))
         return {"message": "; ".join(wrong), "line": 0} if wrong else None
     except (Exception, SystemExit) as error:
         line = [frame.lineno for frame in traceback.extract_tb(error.__traceback__) if frame.filename == path]

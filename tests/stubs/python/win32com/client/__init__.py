@@ -13,6 +13,7 @@ import urllib.parse
 import interface
 import pythoncom
 
+known = functools.partial(interface.read, "python")
 VARIANT = collections.namedtuple("VARIANT", "varianttype value")
 ARRAYS = {"double": pythoncom.VT_R8, "int": pythoncom.VT_I4, "string": pythoncom.VT_BSTR,
           "object": pythoncom.VT_DISPATCH}
@@ -31,11 +32,6 @@ class Enumerator(int):
         made = super().__new__(cls, value)
         made.name, made.enumeration = name, enumeration
         return made
-
-
-@functools.lru_cache
-def known():
-    return interface.read("python")
 
 
 @functools.lru_cache
@@ -72,12 +68,14 @@ def _list(member, type_, value):
     wanted = ARRAYS.get(element, pythoncom.VT_I4 if element in known().enumerations else None)
     if not isinstance(value, VARIANT) or value.varianttype != pythoncom.VT_ARRAY | wanted:
         _refuse(member, type_, value)
-    return [_argument(member, element, one) for one in value.value]
+    # An array of integers holds enumerators, such as types of objects; nothing else that is an integer is one.
+    return [one.name if element == "int" and isinstance(one, Enumerator) else _argument(member, element, one)
+            for one in value.value]
 
 
 def _argument(member, type_, value):
     """As it is told; what COM would make of another type is refused."""
-    if value is pythoncom.Nothing:
+    if value is pythoncom.Nothing and (type_.endswith("[]") or type_ in known().classes or type_ == "object"):
         return None
     if type_.endswith("[]"):
         return _list(member, type_, value)
@@ -89,9 +87,6 @@ def _argument(member, type_, value):
             return known().enumerations[type_][value] if value < len(known().enumerations[type_]) else value
         fits = isinstance(value, Enumerator) and value.enumeration == type_
         return value.name if fits else _refuse(member, type_, value)
-    # An array of integers holds enumerators, such as types of objects; nothing else that is an integer is one.
-    if type_ == "int" and isinstance(value, Enumerator):
-        return value.name
     fits = {"double": float, "int": int, "long": int, "bool": bool, "string": str}.get(type_)
     return value if fits and type(value) is fits else _refuse(member, type_, value)
 
@@ -143,7 +138,7 @@ def _members(cls):
 def _hasDoubtfulResult(cls, name):
     """Only C++ shows one: the languages that get results by reference have none."""
     others = interface.read("csharp")
-    chain = list(others.chain(cls)) if cls else others.classes.values()
+    chain = others.chain(cls) if cls else others.classes.values()
     same = [one for each in chain for one in each.operations if one.name == name]
     return bool(same) and not same[0].result
 
@@ -157,8 +152,7 @@ class Thing:
     def __getattr__(self, name):
         operations, properties = _members(self._class)
         if name in properties:
-            value, = _ask(self, f"get_{name}", [properties[name]], [])
-            return value
+            return _ask(self, f"get_{name}", [properties[name]], [])[0]
         if name not in operations:
             raise AttributeError(f"{self._class or 'object'} has no {name}")
         return functools.partial(self._call, operations[name])
@@ -172,23 +166,22 @@ class Thing:
     def _call(self, operation, *arguments):
         if pythoncom.Missing in arguments:
             raise TypeError(f"{operation.name}: what stands behind Missing is not handed over")
-        given, parameters = arguments, list(operation.parameters)
+        parameters = list(operation.parameters)
         while parameters and parameters[-1].out:
             parameters.pop()
-        if len(given) != len(parameters):
-            raise TypeError(f"{operation.name} takes {len(parameters)} arguments and was given {len(given)}")
-        for parameter, value in zip(parameters, given):
-            if parameter.out and value is not None:
-                raise TypeError(f"{operation.name}: a value in the place of a result")
-        told = [_argument(operation.name, parameter.type, value) for parameter, value in zip(parameters, given)
-                if not parameter.out]
+        if len(arguments) != len(parameters):
+            raise TypeError(f"{operation.name} takes {len(parameters)} arguments and was given {len(arguments)}")
+        given = list(zip(parameters, arguments))
+        if any(value is not None for parameter, value in given if parameter.out):
+            raise TypeError(f"{operation.name}: a value in the place of a result")
+        told = [_argument(operation.name, parameter.type, value) for parameter, value in given if not parameter.out]
         isDoubtful = bool(operation.result) and _hasDoubtfulResult(self._class, operation.name)
         types = [operation.result] * bool(operation.result and not isDoubtful)
         types += [one.type for one in operation.parameters if one.out]
-        results = _answered(_ask(self, operation.name, types, told), operation, given)
+        results = _answered(_ask(self, operation.name, types, told), operation, arguments)
         _found(results)
         results = [True] * (isDoubtful and RESULT_FIRST) + list(results)
-        return None if not results else results[0] if len(results) == 1 else tuple(results)
+        return tuple(results) if len(results) > 1 else results[0] if results else None
 
 
 def GetActiveObject(name):
