@@ -9,7 +9,8 @@
 // The actions that are no objects. Each gives kFxSuccess or kFxFailure.
 
 std::int32_t ConvertInteraction(Conversion& conversion, const CFxUserInteraction& interaction, Statement& text);
-/// What was asked and answered; nothing when the prompt is of no known kind. The caller says which action it is.
+/// What was asked and answered; nothing of a prompt that was cancelled or is of no known kind. The caller says which
+/// action it is.
 std::optional<inkmacro::Prompt> ReadPrompt(const CFxUserInteraction& interaction);
 std::int32_t ConvertSysVar(Conversion& conversion, const CFxSysVarChanged& variable, Statement& text);
 std::int32_t ConvertSelection(Conversion& conversion, const CFxUserSelection& selection, Statement& text);

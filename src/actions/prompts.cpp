@@ -144,15 +144,15 @@ static CFxString shownPrompt(const CFxUserInteraction& interaction, const Prompt
 std::optional<inkmacro::Prompt> ReadPrompt(const CFxUserInteraction& interaction)
 {
     const PromptKind* const kind = kindOf(interaction);
-    if (!kind)
+    const OdResBufPtr result = interaction.GetResult();
+    if (!kind || !result)
         return {};
     inkmacro::Prompt prompt{.asked = static_cast<inkmacro::Asked>(kind - promptKinds.data()),
                             .child = 0,
                             .title = ActionTitle(&interaction),
                             .text = interaction.GetPrompt(),
                             .otherwise = kind->prompt};
-    const OdResBufPtr result = interaction.GetResult();
-    if (!result || !kind->accepts(result->restype()))
+    if (!kind->accepts(result->restype()))
         return prompt;
     using enum inkmacro::Asked;
     switch (prompt.asked) {

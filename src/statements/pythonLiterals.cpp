@@ -88,6 +88,7 @@ QString pythonReal(double value)
 QString pythonReals(std::initializer_list<double> values)
 {
     QString list;
+    list.reserve(static_cast<int>(values.size()) * 20);
     for (const double value : values) {
         if (!list.isEmpty())
             list += QLatin1String(", ");

@@ -25,8 +25,8 @@ enum class Asked : std::uint8_t
     Number
 };
 
-/// A prompt of a command. The answer is the user's own: none when the prompt was cancelled, or answered by something of
-/// another type, in whose place a default stands.
+/// A prompt of a command. The answer is the user's own: none when the prompt was answered by something of another type,
+/// in whose place a default stands.
 struct Prompt
 {
     Asked asked;

@@ -76,6 +76,13 @@ TEST(PythonLines, BreakWhereTheFormatterBreaksThem)
               "def text(\n"
               "    drawing, start_position=(5.0, -30.0, 0.0), height=2.5, angle=0.1, note=\"Plate\"\n"
               "):\n");
+    EXPECT_EQ(
+        lines("next_points = [answered(message.PromptForPoint(\"Specify the next point of the outline\"), 3) for _ in "
+              "next_points]"),
+        "    next_points = [\n"
+        "        answered(message.PromptForPoint(\"Specify the next point of the outline\"), 3)\n"
+        "        for _ in next_points\n"
+        "    ]\n");
     // A tuple is no call: once it is broken, its elements stand one by one.
     EXPECT_EQ(lines("def polyline(drawing, next_points=((0.0, 0.0, 0.0), (1000.0, 0.0, 0.0), (1000.0, 2000.0, 0.0), "
                     "(0.5, 2000.0, 0.0))):",

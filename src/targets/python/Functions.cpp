@@ -211,6 +211,9 @@ QString questionsFor(const Parameters& parameters)
 
 void Functions::addHelper(QStringView name, QString& text)
 {
+    // Nearly all names.
+    if (name == u"drawing" || name.front().isDigit())
+        return;
     const auto found = helperTexts().find(name);
     if (found == helperTexts().end() || helpers_.contains(*found))
         return;

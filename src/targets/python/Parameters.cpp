@@ -134,8 +134,10 @@ bool Parameters::decideOnce()
     bool isSettled = true;
     chosen_.assign(places_.size(), std::nullopt);
     used_.assign(used_.size(), false);
-    for (Equals& equals : equals_)
+    for (Equals& equals : equals_) {
         equals.told = 0;
+        equals.unused.clear();
+    }
     for (std::size_t i = 0; i < places_.size(); ++i) {
         const Answerable& value = *places_[i].value;
         const auto found = equals_.find(keyOf(value.meaning, value.numbers, value.text, value.axes));
@@ -144,19 +146,21 @@ bool Parameters::decideOnce()
         const auto isTold = [&](std::size_t prompt) {
             return command_.prompts[prompt].child < command_.actions[places_[i].action].child;
         };
-        while (found->told < found->prompts.size() && isTold(found->prompts[found->told]))
-            ++found->told;
-        const auto end = found->prompts.begin() + static_cast<std::ptrdiff_t>(found->told);
-        if (found->told == 0 || !standsOnce(i, command_.prompts[*std::prev(end)]))
+        for (; found->told < found->prompts.size() && isTold(found->prompts[found->told]); ++found->told)
+            found->unused.push_back(found->prompts[found->told]);
+        if (found->told == 0)
             continue;
-        const auto unused = std::count_if(found->prompts.begin(), end, [&](std::size_t one) { return !used_[one]; });
-        if (unused > 1) {
+        const std::size_t last = found->prompts[found->told - 1];
+        if (!standsOnce(i, command_.prompts[last]))
+            continue;
+        std::erase_if(found->unused, [&](std::size_t prompt) { return used_[prompt]; });
+        if (found->unused.size() > 1) {
             found->isDoubtful = true;
             isSettled = false;
             continue;
         }
-        chosen_[i] = *std::prev(end);
-        used_[*chosen_[i]] = true;
+        chosen_[i] = last;
+        used_[last] = true;
     }
     return isSettled;
 }

@@ -53,9 +53,10 @@ private:
     /// Answers that are one value to a kind of places.
     struct Equals
     {
-        std::vector<std::size_t> prompts; ///< in their order
-        bool isDoubtful = false;          ///< two of them were unused when a place asked
-        std::size_t told = 0;             ///< how many of them stand in front of the place
+        std::vector<std::size_t> prompts;  ///< in their order
+        bool isDoubtful = false;           ///< two of them were unused when a place asked
+        std::size_t told = 0;              ///< how many of them stand in front of the place
+        std::vector<std::size_t> unused{}; ///< of those, as far as is known
     };
     /// The kind and the value as bytes.
     using Key = QByteArray;

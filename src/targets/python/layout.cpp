@@ -164,7 +164,7 @@ public:
     {
         if (fits(line, indentation))
             return add(line, indentation);
-        if (inBrackets && (putElements(line, indentation) || putText(line, indentation)))
+        if (inBrackets && (putElements(line, indentation) || putLoop(line, indentation) || putText(line, indentation)))
             return;
         if (const Brackets brackets = lastBrackets(line); brackets.open >= 0 && !brackets.isEmpty())
             return putBroken(line, brackets, indentation);
@@ -193,6 +193,21 @@ private:
     {
         for (const QStringView element : elements)
             put(element.toString() + ',', indentation, true);
+    }
+
+    /// What is made in a loop within brackets, and the loop; false when the line has none.
+    bool putLoop(const QString& line, int indentation)
+    {
+        qsizetype loop = -1;
+        forCode(line, [&](QChar character, qsizetype at, int depth) {
+            if (character == u' ' && depth == 0 && loop < 0 && QStringView(line).mid(at).startsWith(u" for "))
+                loop = at;
+        });
+        if (loop < 0)
+            return false;
+        put(line.left(static_cast<int>(loop)), indentation, true);
+        put(line.mid(static_cast<int>(loop) + 1), indentation, true);
+        return true;
     }
 
     /// A text with the comma behind it, in pieces; false when the line is something else.

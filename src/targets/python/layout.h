@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringView>
 
+#include <array>
+
 /// How Python's lines are laid out: 88 columns, broken as black breaks them, so that a macro stays as it is under that
 /// formatter and no line is longer.
 namespace inkmacro::python {
@@ -15,38 +17,59 @@ QString laidOut(QStringView line, int indentation);
 /// The same behind other lines.
 void addLaidOut(QString& lines, QStringView line, int indentation);
 
-/// Calls with each name that stands in the code, but behind no dot.
-/// What stands in texts and comments is none.
+/// Calls with each name that stands in the code, but behind no dot. What stands in texts and comments is none.
 template<class Use>
 void forNames(QStringView code, const Use& use);
 
 /// Behind the text in quotes that begins there.
 qsizetype behindText(QStringView line, qsizetype at);
 
+namespace detail {
+
+/// Letters of names; in texts alone there are others.
+inline constexpr auto nameLetters = [] {
+    std::array<bool, 128> letters{};
+    for (unsigned char one = '0'; one <= '9'; ++one)
+        letters[one] = true;
+    for (unsigned char one = 'a'; one <= 'z'; ++one)
+        letters[one] = letters[one - 'a' + 'A'] = true;
+    letters['_'] = true;
+    return letters;
+}();
+
+inline qsizetype behindName(QStringView code, qsizetype at)
+{
+    while (at < code.size() && code[at].unicode() < nameLetters.size() && nameLetters[code[at].unicode()])
+        ++at;
+    return at;
+}
+
+} // namespace detail
+
 template<class Use>
 void forNames(QStringView code, const Use& use)
 {
-    const auto isNamePart = [](QChar character) {
-        const ushort letter = character.unicode();
-        return (letter >= u'a' && letter <= u'z') || (letter >= u'A' && letter <= u'Z') ||
-               (letter >= u'0' && letter <= u'9') || letter == u'_';
-    };
     for (qsizetype at = 0; at < code.size();) {
-        if (code[at] == u'"' || code[at] == u'\'') {
+        switch (code[at].unicode()) {
+        case u'"':
+        case u'\'':
             at = behindText(code, at);
-        } else if (code[at] == u'#') {
+            break;
+        case u'#':
             at = code.indexOf(u'\n', at);
             if (at < 0)
                 return;
-        } else if (isNamePart(code[at])) {
-            const qsizetype from = at;
-            while (at < code.size() && isNamePart(code[at]))
+            break;
+        case u'.':
+            at = detail::behindName(code, at + 1);
+            break;
+        default:
+            if (const qsizetype end = detail::behindName(code, at); end > at) {
+                use(code.mid(at, end - at));
+                at = end;
+            } else {
                 ++at;
-            const bool isMember = from > 0 && code[from - 1] == u'.';
-            if (!isMember)
-                use(code.mid(from, at - from));
-        } else {
-            ++at;
+            }
         }
     }
 }

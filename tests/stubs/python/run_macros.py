@@ -4,7 +4,6 @@ stopped, with where and why."""
 
 import importlib.util
 import inspect
-import pathlib
 import re
 import sys
 import traceback
