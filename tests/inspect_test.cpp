@@ -108,6 +108,21 @@ TEST_F(Program, ShowsActionsAsTheyStandInTheRecording)
     EXPECT_EQ(jsonOf(run({"inspect", "-", "--json"}, "")).value("actions"), QJsonArray());
 }
 
+TEST_F(Program, ShowsWhichAnswersArePythonsParameters)
+{
+    const QString plate = INKMACRO_SOURCE_DIR "/examples/base_plate.jsonl";
+    const QString shown = run({"inspect", plate, "--command", "line"}).out;
+    EXPECT_EQ(shown.count(" (parameter "), 5);
+    EXPECT_TRUE(shown.contains(" = (160, 0, 0) (parameter next_point of line)\n")) << shown.toStdString();
+    const QJsonArray line = jsonOf(run({"inspect", plate, "--command", "line", "--json"}))["actions"].toArray();
+    const QJsonValue asked = line[0]["command"]["actions"][3]["interaction"];
+    EXPECT_EQ(asked["parameter"], (QJsonObject{{"function", "line"}, {"name", "next_point_2"}}));
+    // A keyword chooses, and so is none.
+    const QString answered = INKMACRO_SOURCE_DIR "/tests/scenarios/answered_commands/recording.jsonl";
+    EXPECT_EQ(run({"inspect", answered, "--command", "layer"}).out.count(" (parameter "), 1);
+    EXPECT_FALSE(run({"inspect", answered, "--command", "print"}).out.contains("parameter"));
+}
+
 TEST_F(Program, ShowsAsManyLevelsAsAreAskedFor)
 {
     write("r.jsonl", recording());

@@ -82,7 +82,8 @@ without this option.)",
         .meaning = "macros that ask again what the recorded commands asked",
         .text = R"(The macro stops where the recorded command asked its user something,
 offers the recorded answer, and sets the system variables that changed.
-Without it the recording's header says.)",
+In Python a function asks for its parameters at its beginning, and uses
+what is answered. Without the option the recording's header says.)",
     },
     {
         .name = "--repair",
@@ -428,8 +429,9 @@ for each macro that lacks something or is faulty, with the way out, like
 const char* const inspectText = R"(Shows the actions of a recording as a tree. In front of a top-level action
 stands its line in FILE, in front of one in a command its number there, from 0,
 as in the path that a message tells. Below an object stand its properties;
-those of the second list of an added one bear "extra:". The last line counts the
-actions of all levels by their kinds.
+those of the second list of an added one bear "extra:". Behind an answer at a
+prompt stands which parameter of its function it is in a Python macro, if it is
+one. The last line counts the actions of all levels by their kinds.
 
 Long texts and lists are cut, and of properties whose tags differ in numbers
 alone, as those of the vertices of a polyline, the first 20 are shown; --json
