@@ -1,5 +1,6 @@
 // Python's literals, lines, names, and the answers that become parameters.
 
+#include "statements/Phrase.h"
 #include "statements/pythonLiterals.h"
 #include "targets/python/Parameters.h"
 #include "targets/python/layout.h"
@@ -7,7 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
+
 #include <limits>
+#include <set>
 
 using namespace inkmacro;
 using namespace inkmacro::python;
@@ -153,6 +157,7 @@ TEST(PythonNames, AreNoneThatMeanSomethingElse)
     EXPECT_EQ(parameter("<br>[Yes/No]:", Asked::Orientation), "angle");
     EXPECT_EQ(parameter("Specify name:", Asked::Text), "name_");
     EXPECT_EQ(parameter("Ask", Asked::Integer), "ask_");
+    EXPECT_EQ(parameter("Specify edge"), "point_edge"); // a second one would be called like a temporary
     EXPECT_EQ(parameter("first extension line position of a dimension here"), "first_extension_line_position");
     EXPECT_EQ(parameter("internationalization internationalization"), "internationalization");
 
@@ -161,6 +166,25 @@ TEST(PythonNames, AreNoneThatMeanSomethingElse)
     EXPECT_TRUE(isModuleName("plate_2"));
     for (const char* const name : {"2plates", "a-b", "class", "a.b", ""})
         EXPECT_FALSE(isModuleName(name)) << name;
+}
+
+/// The statements assign them, and may not assign a parameter.
+TEST(PythonNames, OfParametersAreNoLocalsOfStatements)
+{
+    static const QRegularExpression assignment("^ *([a-z_*][a-z_, *]*) = ");
+    std::set<QString> locals;
+    for (const Phrase* const phrase : Phrase::all()) {
+        const QString words = Fill(phrase->in(Target::Python)).str().text();
+        for (QString line : words.split(QRegularExpression("%2|\n")))
+            if (const auto found = assignment.match(line.remove("%1")); found.hasMatch())
+                for (const QString& name : found.captured(1).split(QRegularExpression("[, *]+"), Qt::SkipEmptyParts))
+                    locals.insert(name);
+    }
+    EXPECT_GT(locals.size(), 30U);
+    for (const QString& local : locals) {
+        const Prompt prompt{.asked = Asked::Point, .child = 0, .title = {}, .text = local, .otherwise = ""};
+        EXPECT_NE(parameterName(prompt, false), local);
+    }
 }
 
 /// A command, written down as its user and the host saw it: answers and statements in their order.

@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <iterator>
+#include <optional>
 #include <utility>
 #include <variant>
 
@@ -167,25 +168,39 @@ bool Parameters::decideOnce()
 
 /// A length, angle, factor or count that an action has twice may be the answer in one place and something else in the
 /// other. The factors of an action are one value: all of them are the answer, or none is.
-bool Parameters::standsOnce(std::size_t place, const Prompt& prompt) const
+bool Parameters::standsOnce(std::size_t place, const Prompt& prompt)
 {
-    const Meaning meaning = places_[place].value->meaning;
-    if (meaning == Meaning::Point || meaning == Meaning::Text)
+    const Answerable& value = *places_[place].value;
+    if (value.meaning == Meaning::Point || value.meaning == Meaning::Text)
         return true;
-    const std::vector<Meaning> meanings = meaningsOf(prompt.asked);
-    int others = 0;
-    const std::size_t action = places_[place].action;
+    const bool isFactor = value.meaning == Meaning::Factor;
+    count(places_[place].action);
+    if (isFactor && counts_.factorsDiffer)
+        return false;
+    int equal = 0;
+    for (const Meaning meaning : meaningsOf(prompt.asked))
+        if (!isFactor || meaning != Meaning::Factor)
+            equal += counts_.equal.value(keyOf(meaning, value.numbers, {}, 1));
+    return equal <= (isFactor ? 0 : 1);
+}
+
+/// An action may have many values, and is looked through once.
+void Parameters::count(std::size_t action)
+{
+    if (counts_.action == action)
+        return;
+    counts_ = {action};
+    std::optional<double> factor;
     for (std::size_t i = firstPlace_[action]; i < firstPlace_[action + 1]; ++i) {
-        const Answerable& other = *places_[i].value;
-        const bool isEqual = other.numbers[0] == prompt.numbers[0];
-        const bool areFactors = meaning == Meaning::Factor && other.meaning == Meaning::Factor;
-        if (areFactors && !isEqual)
-            return false;
-        const bool isAnother = i != place && !areFactors && isEqual &&
-                               std::find(meanings.begin(), meanings.end(), other.meaning) != meanings.end();
-        others += isAnother ? 1 : 0;
+        const Answerable& value = *places_[i].value;
+        if (value.meaning == Meaning::Point || value.meaning == Meaning::Text)
+            continue;
+        ++counts_.equal[keyOf(value.meaning, value.numbers, {}, 1)];
+        if (value.meaning != Meaning::Factor)
+            continue;
+        counts_.factorsDiffer = counts_.factorsDiffer || (factor && *factor != value.numbers[0]);
+        factor = value.numbers[0];
     }
-    return others == 0;
 }
 
 /// In the order of the prompts.

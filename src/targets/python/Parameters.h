@@ -66,13 +66,23 @@ private:
     void decide();
     /// False when a doubt arose.
     bool decideOnce();
-    bool standsOnce(std::size_t place, const Prompt& prompt) const;
+    bool standsOnce(std::size_t place, const Prompt& prompt);
+    void count(std::size_t action);
     void name(PromptNames& promptNames);
+
+    /// The lengths, angles, factors and counts of one action.
+    struct Counts
+    {
+        std::optional<std::size_t> action;
+        QHash<Key, int> equal{};
+        bool factorsDiffer = false;
+    };
 
     const RecordedCommand& command_;
     std::vector<Place> places_;
     std::vector<std::size_t> firstPlace_; ///< of each action, and the number of all places
     QHash<Key, Equals> equals_;
+    Counts counts_{};
     std::vector<std::optional<std::size_t>> chosen_; ///< of each place: the prompt
     std::vector<bool> used_;                         ///< of each prompt
     std::map<std::size_t, QString> names_;

@@ -56,8 +56,14 @@ bool isLocal(const QString& name)
                 "pattern_scale pattern_spacing pitch regions row second second_color second_line selection "
                 "selection_filter settings shapes sheet size styles system systems third tiles transparency typeface "
                 "types utility value view viewport x y z");
-    static const QRegularExpression temporary("^(edge|arc)_\\d+$");
-    return words.contains(name) || temporary.match(name).hasMatch();
+    return words.contains(name);
+}
+
+/// What temporaries are called, with numbers behind it.
+bool isStemOfLocals(const QString& name)
+{
+    static const QRegularExpression temporary("^(edge|arc)(_\\d+)?$");
+    return temporary.match(name).hasMatch();
 }
 
 /// Small letters and digits, all else as single underscores between them.
@@ -158,7 +164,7 @@ QString parameterName(const Prompt& prompt, bool several)
     QString name = wordsOfPrompt(prompt.text);
     if (name.isEmpty())
         name = wordOf(prompt.asked);
-    if (name.front().isDigit())
+    if (name.front().isDigit() || isStemOfLocals(name))
         name = QString(wordOf(prompt.asked)) + '_' + name;
     if (several && !name.endsWith('s'))
         name += 's';
