@@ -11,6 +11,7 @@ import ast
 import functools
 import inspect
 import os
+import re
 import shutil
 import sys
 
@@ -215,10 +216,25 @@ def wrong_changes(before, after, old, new):
     return followed, wrong
 
 
+def readme_draws(checked):
+    """What is amiss when the program that the README shows calls functions of the example's macro."""
+    shown = re.search(r"^```python\n(import base_plate\n.*?)^```$", (checked.source / "README.md").read_text("utf-8"),
+                      re.MULTILINE | re.DOTALL)[1]
+    macro, = checked.convert("python", [checked.source / "examples/base_plate.jsonl"], checked.folder / "readme")
+    notes = Notes()
+    client._ask = notes.ask
+    client.state["application"] = client.Thing(0, "Application")
+    sys.modules["base_plate"] = run_macros.module_of(str(macro.file))
+    exec(compile(shown, "README.md", "exec"), {})
+    drawn = [arguments for _, call, arguments in notes.calls if call == "InsertCircle"]
+    wanted = [[25.0 + 22.0 * number, 50.0, 0.0, 4.0] for number in range(6)]
+    return [] if drawn == wanted else [f"README.md draws {drawn}"]
+
+
 def check_parameters():
     """Each function with parameters is called with other values: what was the answer follows, and nothing else."""
     checked = harness.Checked()
-    complaints, count = [], 0
+    complaints, count = readme_draws(checked), 0
     for macro in checked.macros("python"):
         functions = [(name, inspect.signature(one).parameters) for name, one
                      in vars(run_macros.module_of(str(macro.file))).items() if inspect.isfunction(one)]
