@@ -1,5 +1,6 @@
 // One conversion, from the output path to the project files.
 
+#include "host/db/OdDbClasses.h"
 #include "host/kernel/CFxServices.h"
 #include "module/CFxConverterIWAPIImpl.h"
 #include "module/MacroFile.h"

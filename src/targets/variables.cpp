@@ -80,7 +80,7 @@ static const Mend layerInPage(
 /// that follow set the recorded properties on it.
 Statement EmitGetLayer(Writer& writer, const CFxString& variable, const CFxString& layer)
 {
-    const Statement text = writer.fill(getLayer).number(++processCounters.layerManagers).word(variable).text(layer);
+    Statement text = writer.fill(getLayer).number(++processCounters.layerManagers).word(variable).text(layer);
     if (layer.toQString() == "0" || writer.target == Target::Python)
         return text;
     return writer.mended(text, kLayerZero,

@@ -5,6 +5,8 @@
 
 #include "statements/LineEnd.h"
 
+#include <QStringList>
+
 using namespace inkmacro;
 
 static const Phrase callWithPoint{"EmitCallWithPoint",

@@ -262,7 +262,7 @@ Statement EmitSetTransparency(Writer& writer, const CFxString& target, const OdC
     Statement line;
     if (phrase)
         line = writer.fillPlain(*phrase).number(counter).number(percent).indent(writer.IndentLevel).lineEnd().str();
-    const Statement statement = writer.fill(setTransparency).number(counter).word(target).word(line);
+    Statement statement = writer.fill(setTransparency).number(counter).word(target).word(line);
     ++counter;
     return statement;
 }

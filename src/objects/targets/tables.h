@@ -11,9 +11,9 @@ class OdDbTable;
 /// Kinds of cells by the names of the cell styles of the first three rows: 1 title, 2 header, 3 data, 0 for any other.
 std::array<int, 3> tableCellTypes(const OdDbTable& table);
 
-/// `cellTypes` as tableCellTypes gives them.
+/// `recordedTypes` as tableCellTypes gives them.
 Statement EmitInsertTable(Writer& writer, const OdGePoint3d& position, int rows, int columns, double rowHeight,
-                          double columnWidth, const std::array<int, 3>& cellTypes, const CFxString& name);
+                          double columnWidth, const std::array<int, 3>& recordedTypes, const CFxString& name);
 
 /// Multiplies the size of each row or column of the table. `operation` is "SetRowHeight" or "SetColumnWidth".
 Statement EmitScaleTableRows(Writer& writer, const CFxString& table, const CFxString& operation, double coefficient);

@@ -29,7 +29,7 @@ static QString docstring(const QString& name)
 QString CFxConverterIWAPIPython::sketchManager() const
 {
     static const QString indentation(8, ' ');
-    const QString ofModel = indentation + "self.sketch = self.model.GetSketchManager()\n";
+    QString ofModel = indentation + "self.sketch = self.model.GetSketchManager()\n";
     if (RecordingInModel || RecordingSheetName.isEmpty())
         return ofModel;
     const QString sheet = pythonText(RecordingSheetName.toQString());

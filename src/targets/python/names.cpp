@@ -105,10 +105,13 @@ QString wordsOfPrompt(QString prompt)
     static const QRegularExpression entity("&[^;\\s]*;");
     prompt.replace(QLatin1String("<br>"), QLatin1String("\n"));
     prompt.remove(tag).remove(entity);
-    const QStringList lines = prompt.split('\n');
-    for (auto line = lines.rbegin(); line != lines.rend(); ++line)
-        if (const QString words = wordsOfLine(*line); !words.isEmpty())
+    QStringList lines = prompt.split('\n');
+    std::reverse(lines.begin(), lines.end());
+    for (const QString& line : lines) {
+        QString words = wordsOfLine(line);
+        if (!words.isEmpty())
             return words;
+    }
     return {};
 }
 
