@@ -82,6 +82,8 @@ QString pythonReal(double value)
         *end++ = '.';
         *end++ = '0';
     }
+    // The formatter takes the sign off.
+    end = std::remove(room.begin(), end, '+');
     return QString::fromLatin1(room.data(), static_cast<int>(end - room.begin()));
 }
 

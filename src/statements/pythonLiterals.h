@@ -7,7 +7,8 @@
 
 namespace inkmacro {
 
-// Values as Python itself writes them, in the form of its `repr`: what is read back is the same value.
+// Values as Python itself writes them, in the form of its `repr` but for the plus of an exponent: what is read back is
+// the same value.
 
 /// The shortest digits that are the number, always with a point or an exponent.
 QString pythonReal(double value);
